@@ -1,0 +1,66 @@
+// A colour that stays semantic until it is drawn: a name or fixed components, an opacity, and a
+// share of white mixed in.
+#pragma once
+
+#include <functional>
+
+#include "Orvane/ui/Appearance.hpp"
+
+namespace orvane::ui {
+
+// The names a platform must be able to resolve. `fixed` carries its own components.
+enum class SystemColor {
+  fixed,
+  accent,
+  primary,
+  secondary,
+  tertiary,
+  windowBackground,
+  red,
+  green,
+  orange,
+  blue,
+  gray
+};
+
+// Resolves a name for an appearance. It is asked anew at every drawing; `fixed` is never asked.
+using ColorResolver = std::function<Rgba(SystemColor, const Appearance&)>;
+
+class Color {
+ public:
+  static Color accent() { return Color(SystemColor::accent); }
+  // The label colours, from strongest to faintest.
+  static Color primary() { return Color(SystemColor::primary); }
+  static Color secondary() { return Color(SystemColor::secondary); }
+  static Color tertiary() { return Color(SystemColor::tertiary); }
+  static Color windowBackground() { return Color(SystemColor::windowBackground); }
+  static Color red() { return Color(SystemColor::red); }
+  static Color green() { return Color(SystemColor::green); }
+  static Color orange() { return Color(SystemColor::orange); }
+  static Color blue() { return Color(SystemColor::blue); }
+  static Color gray() { return Color(SystemColor::gray); }
+  static Color white() { return rgb(1, 1, 1); }
+  static Color black() { return rgb(0, 0, 0); }
+  static Color clear() { return rgb(0, 0, 0, 0); }
+  // Components from 0 to 1; values outside are clamped.
+  static Color rgb(double red, double green, double blue, double alpha = 1);
+
+  // The same colour with its opacity multiplied by a factor from 0 to 1 (clamped).
+  Color opacity(double factor) const;
+  // The same colour with white mixed in: 0 changes nothing, 1 is white.
+  Color lighter(double share) const;
+
+  Rgba resolve(const Appearance& appearance, const ColorResolver& resolver) const;
+
+  friend bool operator==(const Color&, const Color&) = default;
+
+ private:
+  explicit Color(SystemColor name) : name_(name) {}
+
+  SystemColor name_;
+  Rgba components_;
+  double opacity_ = 1;
+  double whiteShare_ = 0;
+};
+
+}  // namespace orvane::ui

@@ -1,0 +1,16 @@
+// A font for layout tests that can be computed in the head: every character is half as wide as the
+// font's size (Chinese characters as wide as it), a line is as high as the size, and the baseline
+// lies three quarters down.
+#pragma once
+
+#include "Orvane/ui/TextMeasurer.hpp"
+
+namespace orvane::ui {
+
+class SyntheticTextMeasurer : public TextMeasurer {
+ public:
+  TextLayout layout(const std::string& text, const Font& font, double maximumWidth,
+                    int lineLimit) override;
+};
+
+}  // namespace orvane::ui
