@@ -1,0 +1,17 @@
+// Text between the application's UTF-8 and Foundation's strings.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+#include <string>
+#include <string_view>
+
+namespace orvane::appkit {
+
+/// Nil when `text` is not valid UTF-8.
+[[nodiscard]] NSString* _Nullable foundationString(std::string_view text);
+
+/// Empty when `text` is nil or has no UTF-8 form.
+[[nodiscard]] std::string utf8String(NSString* _Nullable text);
+
+}  // namespace orvane::appkit

@@ -1,0 +1,48 @@
+// Repeating timers by NSTimer on the main run loop.
+#include "Orvane/platform/appkit/Timer.hpp"
+
+#import <Foundation/Foundation.h>
+
+#include <utility>
+
+namespace orvane::appkit {
+
+struct Timer::Implementation {
+  explicit Implementation(NSTimer* started) : timer(started) {}
+  Implementation(const Implementation&) = delete;
+  Implementation& operator=(const Implementation&) = delete;
+  // The run loop keeps the timer, and the timer its block, until it is invalidated.
+  ~Implementation() { [timer invalidate]; }
+
+  NSTimer* timer;
+};
+
+Timer Timer::repeating(double intervalSeconds, RunLoopMode mode, std::function<void()> tick) {
+  NSTimer* const timer = [NSTimer timerWithTimeInterval:intervalSeconds
+                                                repeats:YES
+                                                  block:^(NSTimer*) {
+                                                    // A tick may end its own timer.
+                                                    const std::function<void()> running = tick;
+                                                    running();
+                                                  }];
+  [NSRunLoop.mainRunLoop
+      addTimer:timer
+       forMode:mode == RunLoopMode::common ? NSRunLoopCommonModes : NSDefaultRunLoopMode];
+  return Timer(std::make_unique<Implementation>(timer));
+}
+
+Timer::Timer(std::unique_ptr<Implementation> implementation)
+    : implementation_(std::move(implementation)) {}
+Timer::Timer(Timer&&) noexcept = default;
+Timer& Timer::operator=(Timer&&) noexcept = default;
+Timer::~Timer() = default;
+
+void Timer::invalidate() {
+  [implementation_->timer invalidate];
+}
+
+bool Timer::isValid() const {
+  return implementation_ != nullptr && implementation_->timer.valid;
+}
+
+}  // namespace orvane::appkit
