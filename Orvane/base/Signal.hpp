@@ -1,0 +1,57 @@
+// Signal tells its observers, in the order they came, that something happened.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace orvane {
+
+/// A registration with a Signal; it ends when the Subscription is cancelled or destroyed. It may
+/// outlive the Signal.
+class Subscription {
+ public:
+  Subscription() = default;
+  explicit Subscription(std::shared_ptr<std::function<void()>> observer)
+      : observer_(std::move(observer)) {}
+
+  /// The observer is not called any more, even by a notification that is under way.
+  void cancel() { observer_.reset(); }
+  [[nodiscard]] bool isActive() const { return observer_ != nullptr; }
+
+ private:
+  std::shared_ptr<std::function<void()>> observer_;
+};
+
+/// Main thread only. Observers may subscribe, cancel and even destroy the Signal while they are
+/// being told; one that subscribes during a notification hears of the next.
+class Signal {
+ public:
+  Signal() : observers_(std::make_shared<Observers>()) {}
+  Signal(const Signal&) = delete;
+  Signal& operator=(const Signal&) = delete;
+
+  [[nodiscard]] Subscription observe(std::function<void()> observer) {
+    auto owned = std::make_shared<std::function<void()>>(std::move(observer));
+    std::erase_if(*observers_, [](const auto& weak) { return weak.expired(); });
+    observers_->push_back(owned);
+    return Subscription(std::move(owned));
+  }
+
+  void notify() const {
+    const Observers told = *observers_;
+    for (const auto& weak : told) {
+      if (const auto observer = weak.lock()) {
+        (*observer)();
+      }
+    }
+  }
+
+ private:
+  using Observers = std::vector<std::weak_ptr<std::function<void()>>>;
+  std::shared_ptr<Observers> observers_;
+};
+
+}  // namespace orvane

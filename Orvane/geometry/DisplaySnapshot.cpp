@@ -1,0 +1,41 @@
+// One attached display as the application lists it: who it is, where it is, what it is called.
+#include "Orvane/geometry/DisplaySnapshot.hpp"
+
+#include <optional>
+
+#include "Orvane/geometry/OrvaneDisplayNameLocalizer.hpp"
+#include "Orvane/geometry/OrvaneScreen.hpp"
+
+namespace orvane {
+
+DisplaySnapshot DisplaySnapshot::of(const appkit::Screen& screen) {
+  const std::optional<CGDirectDisplayID> displayID = OrvaneScreen::orvaneDisplayID(screen);
+  const bool isBuiltIn = displayID && CGDisplayIsBuiltin(*displayID) != 0;
+  return {
+      .id = OrvaneScreen::orvanePrimaryIdentifier(screen),
+      .matchingIdentifiers = OrvaneScreen::orvaneMatchingIdentifiers(screen),
+      .name = OrvaneDisplayNameLocalizer::localizedDisplayName(screen.localizedName(), displayID,
+                                                               isBuiltIn),
+      .frame = screen.frame(),
+      .cgFrame = OrvaneScreen::orvaneCGFrame(screen),
+      .isMain = displayID && CGDisplayIsMain(*displayID) != 0,
+      .isBuiltIn = isBuiltIn,
+  };
+}
+
+std::vector<DisplaySnapshot> DisplaySnapshot::ofAllScreens() {
+  std::vector<DisplaySnapshot> snapshots;
+  for (const appkit::Screen& screen : appkit::Screen::screens()) {
+    snapshots.push_back(of(screen));
+  }
+  return snapshots;
+}
+
+bool operator==(const DisplaySnapshot& first, const DisplaySnapshot& second) {
+  return first.id == second.id && first.matchingIdentifiers == second.matchingIdentifiers &&
+         first.name == second.name && CGRectEqualToRect(first.frame, second.frame) &&
+         CGRectEqualToRect(first.cgFrame, second.cgFrame) && first.isMain == second.isMain &&
+         first.isBuiltIn == second.isBuiltIn;
+}
+
+}  // namespace orvane

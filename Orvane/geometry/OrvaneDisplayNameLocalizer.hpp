@@ -1,0 +1,29 @@
+// The name under which a display is shown, in the language of the display names.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Display names know traditional Chinese besides the two languages of the rest of the interface.
+namespace orvane::OrvaneDisplayNameLocalizer {
+
+enum class DisplayNameLanguage { simplifiedChinese, traditionalChinese, english };
+
+/// A fixed name for a built-in display; otherwise `name` without the blanks around it, or the
+/// fallback name when nothing is left.
+[[nodiscard]] std::string localizedDisplayName(std::string_view name,
+                                               std::optional<std::uint32_t> displayID,
+                                               bool isBuiltIn);
+
+/// A name made from the display's number.
+[[nodiscard]] std::string fallbackDisplayName(std::optional<std::uint32_t> displayID);
+
+/// Which Chinese the current locale writes; simplified unless it says traditional.
+[[nodiscard]] DisplayNameLanguage currentChineseLanguage();
+
+/// What the user's preferred languages, then the current locale ask for; English when none decides.
+[[nodiscard]] DisplayNameLanguage currentChineseLanguageOrEnglish();
+
+}  // namespace orvane::OrvaneDisplayNameLocalizer

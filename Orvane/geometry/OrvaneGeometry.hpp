@@ -1,0 +1,42 @@
+// From display frames and the Dock's edge to the trigger zones: pure functions without state.
+#pragma once
+
+#include <cstddef>
+#include <set>
+#include <span>
+#include <vector>
+
+#include "Orvane/geometry/DockPosition.hpp"
+#include "Orvane/geometry/EdgeInterval.hpp"
+#include "Orvane/geometry/TriggerZone.hpp"
+#include "Orvane/platform/Quartz.hpp"
+
+/// All frames and results are in global display coordinates: points, origin at the top left of the
+/// first display, y downwards.
+namespace orvane::OrvaneGeometry {
+
+/// The depth of every zone and the length of every nudge, in points.
+inline constexpr double zoneThickness = 12.0;
+/// How far a neighbour's facing edge may be from a display's Dock edge and still touch it, in
+/// points.
+inline constexpr double neighbourTolerance = 2.0;
+
+/// The stretches of the display's Dock edge along which no other display lies, in ascending order.
+/// Frames equal to `frame` are passed over, so that a mirror is no neighbour. `top` and `unknown`
+/// are taken like `bottom`.
+[[nodiscard]] std::vector<EdgeInterval> exposedIntervals(CGRect frame, DockPosition dockPosition,
+                                                         std::span<const CGRect> allFrames);
+
+/// One zone for each exposed stretch of each blocked display, ordered by display, then along the
+/// edge. Indices without a frame are ignored; `top` and `unknown` give no zones.
+[[nodiscard]] std::vector<TriggerZone> calculateTriggerZones(
+    std::span<const CGRect> screenFrames, const std::set<std::size_t>& blockedScreenIndices,
+    DockPosition dockPosition);
+
+/// The zones of all displays but the locked one; none with fewer than two displays or without a
+/// display at the index.
+[[nodiscard]] std::vector<TriggerZone> calculateTriggerZones(std::span<const CGRect> screenFrames,
+                                                             std::size_t lockedScreenIndex,
+                                                             DockPosition dockPosition);
+
+}  // namespace orvane::OrvaneGeometry

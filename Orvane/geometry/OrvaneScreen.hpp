@@ -1,0 +1,38 @@
+// What the application asks of a screen beyond the window system's own answers: who it is and
+// where it is in global coordinates. Everything is computed afresh at each call.
+#pragma once
+
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "Orvane/platform/Quartz.hpp"
+#include "Orvane/platform/appkit/Screen.hpp"
+
+namespace orvane::OrvaneScreen {
+
+/// The display's number, the entry "NSScreenNumber" of its description; none when it is missing or
+/// not a number.
+[[nodiscard]] std::optional<CGDirectDisplayID> orvaneDisplayID(const appkit::Screen& screen);
+
+/// The frame in global display coordinates: points, origin at the top left of the first display,
+/// y downwards. Without any screen in the system's list it is the frame unchanged.
+[[nodiscard]] CGRect orvaneCGFrame(const appkit::Screen& screen);
+
+/// The display's UUID string where it has a number and the system a UUID for it, otherwise its
+/// legacy identifier.
+[[nodiscard]] std::string orvanePrimaryIdentifier(const appkit::Screen& screen);
+
+/// Number, size, depth and colour space as text. The form, "Optional(...)" and "nil" included, is
+/// fixed for good: choices were stored in it and are compared as plain strings.
+[[nodiscard]] std::string orvaneLegacyIdentifier(const appkit::Screen& screen);
+
+/// The primary and the legacy identifier, and the display's number in decimal when it has one.
+[[nodiscard]] std::set<std::string> orvaneMatchingIdentifiers(const appkit::Screen& screen);
+
+/// The first screen in the system's order that the identifier names, compared exactly; none when
+/// no screen does.
+[[nodiscard]] std::optional<appkit::Screen> orvaneFindScreen(const std::string& identifier);
+
+}  // namespace orvane::OrvaneScreen

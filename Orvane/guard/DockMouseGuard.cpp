@@ -1,0 +1,191 @@
+// The guard's life: starting, following the display arrangement, stopping, reporting. The filter
+// that runs for every event is in DockMouseGuardFilter.cpp.
+#include "Orvane/guard/DockMouseGuard.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <set>
+#include <utility>
+
+#include "Orvane/base/Require.hpp"
+#include "Orvane/geometry/DockUtils.hpp"
+#include "Orvane/geometry/OrvaneGeometry.hpp"
+#include "Orvane/geometry/OrvaneScreen.hpp"
+#include "Orvane/guard/DockMouseGuardMessages.hpp"
+#include "Orvane/platform/appkit/MainQueue.hpp"
+#include "Orvane/platform/appkit/Screen.hpp"
+#include "Orvane/platform/appkit/Workspace.hpp"
+
+namespace orvane {
+
+namespace {
+
+CGEventRef forwardToGuard(CGEventTapProxy /*proxy*/, CGEventType type, CGEventRef event,
+                          void* userInfo) {
+  return static_cast<DockMouseGuard*>(userInfo)->eventTapCallback(type, event);
+}
+
+}  // namespace
+
+DockMouseGuard::~DockMouseGuard() {
+  stop();
+}
+
+void DockMouseGuard::start(const std::string& targetDisplayID, OrvaneModifier modifier,
+                           bool blocksAllDisplays) {
+  if (!AXIsProcessTrusted()) {
+    emit(DockMouseGuardMessages::permissionMissing());
+    return;
+  }
+  lockedDisplayIdentifier_ = targetDisplayID;
+  overrideModifier_ = modifier;
+  blocksAllDisplays_ = blocksAllDisplays;
+  removeEventTap();
+  refreshTriggerZones();
+  if (cachedTriggerZones_.empty()) {
+    emit(DockMouseGuardMessages::noTriggerZones());
+  } else {
+    setupEventTap();
+  }
+  observeScreenChanges();
+}
+
+void DockMouseGuard::stop() {
+  removeEventTap();
+  stopObservingScreens();
+  cachedTriggerZones_.clear();
+  blocksAllDisplays_ = false;
+  forgetRecentBlocks();
+  setTemporarilyUnlocked(false);
+}
+
+void DockMouseGuard::refreshTriggerZones() {
+  cachedTriggerZones_ = currentTriggerZones();
+}
+
+std::vector<TriggerZone> DockMouseGuard::currentTriggerZones() const {
+  const std::vector<appkit::Screen> screens = appkit::Screen::screens();
+  std::vector<CGRect> frames;
+  std::ranges::transform(screens, std::back_inserter(frames), OrvaneScreen::orvaneCGFrame);
+  const DockPosition dockPosition = DockUtils::getDockPosition();
+
+  if (blocksAllDisplays_) {
+    std::set<std::size_t> everyIndex;
+    for (std::size_t index = 0; index < frames.size(); ++index) {
+      everyIndex.insert(index);
+    }
+    return OrvaneGeometry::calculateTriggerZones(frames, everyIndex, dockPosition);
+  }
+  if (lockedDisplayIdentifier_.empty()) {
+    return {};
+  }
+  const auto locked = std::ranges::find_if(screens, [this](const appkit::Screen& screen) {
+    return OrvaneScreen::orvaneMatchingIdentifiers(screen).contains(lockedDisplayIdentifier_);
+  });
+  if (locked == screens.end()) {
+    return {};
+  }
+  const auto lockedIndex = static_cast<std::size_t>(locked - screens.begin());
+  return OrvaneGeometry::calculateTriggerZones(frames, lockedIndex, dockPosition);
+}
+
+void DockMouseGuard::setupEventTap() {
+  require(!eventTap_, "a guard has one event tap at a time");
+  // Mouse-moved events only, on purpose: drags and clicks are not filtered.
+  constexpr CGEventMask mouseMoved = CGEventMask{1} << kCGEventMouseMoved;
+  auto port = CFRef<CFMachPortRef>::owning(
+      CGEventTapCreate(kCGSessionEventTap, kCGTailAppendEventTap, kCGEventTapOptionDefault,
+                       mouseMoved, forwardToGuard, this));
+  if (!port) {
+    emit(DockMouseGuardMessages::tapRefused());
+    return;
+  }
+  auto source = CFRef<CFRunLoopSourceRef>::owning(
+      CFMachPortCreateRunLoopSource(kCFAllocatorDefault, port.get(), 0));
+  if (!source) {
+    // A tap that nobody serves would hold up every event of the session.
+    CGEventTapEnable(port.get(), false);
+    CFMachPortInvalidate(port.get());
+    emit(DockMouseGuardMessages::tapRefused());
+    return;
+  }
+  eventTap_ = std::move(port);
+  runLoopSource_ = std::move(source);
+  CFRunLoopAddSource(CFRunLoopGetCurrent(), runLoopSource_.get(), kCFRunLoopCommonModes);
+  CGEventTapEnable(eventTap_.get(), true);
+  emit(DockMouseGuardMessages::started(cachedTriggerZones_.size()));
+}
+
+void DockMouseGuard::removeEventTap() {
+  if (eventTap_) {
+    CGEventTapEnable(eventTap_.get(), false);
+    if (runLoopSource_) {
+      CFRunLoopRemoveSource(CFRunLoopGetCurrent(), runLoopSource_.get(), kCFRunLoopCommonModes);
+    }
+    // A port that is not invalidated slows down the whole system.
+    CFMachPortInvalidate(eventTap_.get());
+  }
+  runLoopSource_.reset();
+  eventTap_.reset();
+}
+
+void DockMouseGuard::observeScreenChanges() {
+  stopObservingScreens();
+  screenObserver_ = appkit::NotificationCenter::addObserver(
+      appkit::NotificationName::applicationDidChangeScreenParameters,
+      lifetime_.whileAlive([this] { handleScreenConfigChanged(); }));
+}
+
+void DockMouseGuard::stopObservingScreens() {
+  if (screenObserver_) {
+    appkit::NotificationCenter::removeObserver(*screenObserver_);
+    screenObserver_.reset();
+  }
+}
+
+void DockMouseGuard::handleScreenConfigChanged() {
+  if (!blocksAllDisplays_ && !lockedDisplayIdentifier_.empty() &&
+      !OrvaneScreen::orvaneFindScreen(lockedDisplayIdentifier_)) {
+    cachedTriggerZones_.clear();
+    removeEventTap();
+    emit(DockMouseGuardMessages::targetUnavailable());
+    return;
+  }
+  refreshTriggerZones();
+  if (cachedTriggerZones_.empty()) {
+    removeEventTap();
+    return;
+  }
+  if (!eventTap_) {
+    setupEventTap();
+  }
+}
+
+void DockMouseGuard::forgetRecentBlocks() {
+  recentBlockTimestamps_.clear();
+  lastBlockedEventLogAt_ = 0;
+}
+
+void DockMouseGuard::emit(std::string message) {
+  appkit::MainQueue::async(lifetime_.whileAlive([this, message = std::move(message)] {
+    if (onEvent) {
+      onEvent(message);
+    }
+  }));
+}
+
+std::vector<DisplaySnapshot> DockMouseGuard::displays() {
+  return DisplaySnapshot::ofAllScreens();
+}
+
+void DockMouseGuard::openDesktopAndDockSettings() {
+  if (appkit::Workspace::openURL(
+          "x-apple.systempreferences:com.apple.Desktop-Settings.extension") ||
+      appkit::Workspace::openURL("x-apple.systempreferences:com.apple.preference.dock")) {
+    return;
+  }
+  appkit::Workspace::openFile("/System/Applications/System Settings.app");
+}
+
+}  // namespace orvane

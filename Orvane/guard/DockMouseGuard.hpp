@@ -1,0 +1,103 @@
+// DockMouseGuard keeps the pointer from pressing against the Dock edge of the displays on which
+// the Dock is not allowed: it watches mouse-moved events through an event tap and moves those that
+// land in a trigger zone back into the display.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Orvane/base/CFRef.hpp"
+#include "Orvane/base/Lifetime.hpp"
+#include "Orvane/geometry/DisplaySnapshot.hpp"
+#include "Orvane/geometry/TriggerZone.hpp"
+#include "Orvane/guard/OrvaneModifier.hpp"
+#include "Orvane/guard/RecentBlockTimestamps.hpp"
+#include "Orvane/platform/Quartz.hpp"
+#include "Orvane/platform/appkit/NotificationCenter.hpp"
+
+namespace orvane {
+
+/// Main thread only: the tap's source is on the main run loop, so the filter runs there too. The
+/// tap keeps a pointer to its guard, so a guard never moves and takes its tap down before it goes.
+class DockMouseGuard {
+ public:
+  DockMouseGuard() = default;
+  DockMouseGuard(const DockMouseGuard&) = delete;
+  DockMouseGuard& operator=(const DockMouseGuard&) = delete;
+  ~DockMouseGuard();
+
+  /// Starts, or restarts with new settings. Without the Accessibility permission nothing changes
+  /// but that the owner is told; without zones or without a tap the guard waits for the display
+  /// arrangement to change.
+  void start(const std::string& targetDisplayID, OrvaneModifier modifier, bool blocksAllDisplays);
+  void stop();
+
+  /// The filter: called for every event that the tap delivers; returns the same event, whose
+  /// location it has changed if it was in a zone. It runs for every pointer movement of the
+  /// session: no allocation, no lock, no input or output; all reporting is left to the main queue.
+  CGEventRef eventTapCallback(CGEventType type, CGEventRef event);
+
+  /// Both are called on the main queue, never from within the filter.
+  std::function<void(const std::string& message)> onEvent;
+  std::function<void(bool isTemporarilyUnlocked)> onTemporaryUnlockChanged;
+
+  /// The guard is running when it holds an event tap.
+  [[nodiscard]] bool isRunning() const { return static_cast<bool>(eventTap_); }
+  [[nodiscard]] CFMachPortRef eventTap() const { return eventTap_.get(); }
+  /// In global display coordinates, in the order in which they are tried.
+  [[nodiscard]] const std::vector<TriggerZone>& cachedTriggerZones() const {
+    return cachedTriggerZones_;
+  }
+  [[nodiscard]] bool isObservingScreens() const { return screenObserver_.has_value(); }
+  [[nodiscard]] const std::string& lockedDisplayIdentifier() const {
+    return lockedDisplayIdentifier_;
+  }
+  [[nodiscard]] OrvaneModifier overrideModifier() const { return overrideModifier_; }
+  [[nodiscard]] bool blocksAllDisplays() const { return blocksAllDisplays_; }
+  /// Events blocked during the guard's life.
+  [[nodiscard]] std::int64_t blockedCount() const { return blockedCount_; }
+  [[nodiscard]] bool isTemporarilyUnlocked() const { return isTemporarilyUnlocked_; }
+  [[nodiscard]] const RecentBlockTimestamps& recentBlockTimestamps() const {
+    return recentBlockTimestamps_;
+  }
+
+  /// The attached displays in the system's order.
+  [[nodiscard]] static std::vector<DisplaySnapshot> displays();
+  /// Opens the system's Desktop & Dock settings by the first link that the system accepts.
+  static void openDesktopAndDockSettings();
+
+ private:
+  void setTemporarilyUnlocked(bool value);
+  void recordBlockedEvent();
+  void disableEventTapForRapidBlocking();
+
+  void refreshTriggerZones();
+  [[nodiscard]] std::vector<TriggerZone> currentTriggerZones() const;
+  void setupEventTap();
+  void removeEventTap();
+  void observeScreenChanges();
+  void stopObservingScreens();
+  void handleScreenConfigChanged();
+  void forgetRecentBlocks();
+  void emit(std::string message);
+
+  CFRef<CFMachPortRef> eventTap_;
+  CFRef<CFRunLoopSourceRef> runLoopSource_;
+  std::vector<TriggerZone> cachedTriggerZones_;
+  std::optional<appkit::ObserverToken> screenObserver_;
+  std::string lockedDisplayIdentifier_;
+  OrvaneModifier overrideModifier_ = OrvaneModifier::option;
+  bool blocksAllDisplays_ = false;
+  std::int64_t blockedCount_ = 0;
+  bool isTemporarilyUnlocked_ = false;
+  RecentBlockTimestamps recentBlockTimestamps_;
+  /// Media-clock time in seconds.
+  double lastBlockedEventLogAt_ = 0;
+  Lifetime lifetime_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,84 @@
+// The guard's event path: what happens to each pointer movement of the session. Nothing here
+// allocates, locks, reads settings or reports, but that it leaves a task on the main queue when
+// there is something to tell, at most once a second.
+#include "Orvane/guard/DockMouseGuard.hpp"
+#include "Orvane/guard/DockMouseGuardMessages.hpp"
+#include "Orvane/platform/appkit/MainQueue.hpp"
+
+namespace orvane {
+
+namespace {
+
+/// Blocks are reported no more often than this, in seconds.
+constexpr double reportIntervalSeconds = 1.0;
+
+}  // namespace
+
+CGEventRef DockMouseGuard::eventTapCallback(CGEventType type, CGEventRef event) {
+  if (type == kCGEventTapDisabledByTimeout || type == kCGEventTapDisabledByUserInput) {
+    if (eventTap_) {
+      CGEventTapEnable(eventTap_.get(), true);
+    }
+    return event;
+  }
+  const bool isUnlocked = overrideModifier_.isHeld(CGEventGetFlags(event));
+  setTemporarilyUnlocked(isUnlocked);
+  if (isUnlocked) {
+    return event;
+  }
+  const CGPoint location = CGEventGetLocation(event);
+  for (const TriggerZone& zone : cachedTriggerZones_) {
+    if (CGRectContainsPoint(zone.rect, location)) {
+      CGEventSetLocation(
+          event, CGPointMake(location.x + zone.nudgeVector.dx, location.y + zone.nudgeVector.dy));
+      ++blockedCount_;
+      recordBlockedEvent();
+      break;
+    }
+  }
+  return event;
+}
+
+void DockMouseGuard::setTemporarilyUnlocked(bool value) {
+  if (isTemporarilyUnlocked_ == value) {
+    return;
+  }
+  isTemporarilyUnlocked_ = value;
+  appkit::MainQueue::async(lifetime_.whileAlive([this, value] {
+    if (onTemporaryUnlockChanged) {
+      onTemporaryUnlockChanged(value);
+    }
+  }));
+}
+
+void DockMouseGuard::recordBlockedEvent() {
+  const double now = CACurrentMediaTime();
+  recentBlockTimestamps_.record(now);
+  if (recentBlockTimestamps_.isRunaway()) {
+    disableEventTapForRapidBlocking();
+    return;
+  }
+  if (now - lastBlockedEventLogAt_ >= reportIntervalSeconds) {
+    lastBlockedEventLogAt_ = now;
+    // The text is made on the main queue, since choosing its language reads settings.
+    appkit::MainQueue::async(lifetime_.whileAlive([this, count = blockedCount_] {
+      if (onEvent) {
+        onEvent(DockMouseGuardMessages::blocked(count));
+      }
+    }));
+  }
+}
+
+void DockMouseGuard::disableEventTapForRapidBlocking() {
+  if (eventTap_) {
+    CGEventTapEnable(eventTap_.get(), false);
+  }
+  // Deliberately nothing brings the guard back but a change of the displays or the next start.
+  appkit::MainQueue::async(lifetime_.whileAlive([this] {
+    removeEventTap();
+    cachedTriggerZones_.clear();
+    forgetRecentBlocks();
+  }));
+}
+
+}  // namespace orvane

@@ -1,0 +1,53 @@
+// The key that unlocks the guard while it is held.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "Orvane/platform/Quartz.hpp"
+
+namespace orvane {
+
+class OrvaneModifier {
+ public:
+  enum Value { option, control, shift, command };
+
+  /// In the order in which they are offered.
+  static constexpr std::array<Value, 4> allCases = {option, control, shift, command};
+
+  constexpr OrvaneModifier(Value value) : value_(value) {}  // NOLINT(google-explicit-constructor)
+  constexpr operator Value() const { return value_; }       // NOLINT(google-explicit-constructor)
+
+  /// "option", "control", "shift" or "command".
+  [[nodiscard]] std::string_view rawValue() const;
+  /// Any other text gives `option`.
+  [[nodiscard]] static OrvaneModifier fromRawValue(std::string_view rawValue);
+
+  /// The key's symbol and English name, the same in every language of the interface.
+  [[nodiscard]] std::string_view shortcutText() const;
+
+  /// The bit that is set in an event's flags while the key is held.
+  [[nodiscard]] constexpr CGEventFlags flagMask() const {
+    switch (value_) {
+      case control:
+        return kCGEventFlagMaskControl;
+      case shift:
+        return kCGEventFlagMaskShift;
+      case command:
+        return kCGEventFlagMaskCommand;
+      case option:
+        break;
+    }
+    return kCGEventFlagMaskAlternate;
+  }
+
+  /// Whether the key is held according to an event's flags; other keys do not matter.
+  [[nodiscard]] constexpr bool isHeld(CGEventFlags flags) const {
+    return (flags & flagMask()) == flagMask();
+  }
+
+ private:
+  Value value_;
+};
+
+}  // namespace orvane

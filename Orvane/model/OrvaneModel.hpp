@@ -1,0 +1,146 @@
+// OrvaneModel is the one observable state object: the attached displays, the user's choices, the
+// permission, and the guard that it starts and stops. Every user action is a call on it.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Orvane/base/Lifetime.hpp"
+#include "Orvane/base/Published.hpp"
+#include "Orvane/base/Signal.hpp"
+#include "Orvane/geometry/DisplaySnapshot.hpp"
+#include "Orvane/guard/DockMouseGuard.hpp"
+#include "Orvane/guard/OrvaneModifier.hpp"
+#include "Orvane/model/OrvaneLanguage.hpp"
+#include "Orvane/model/OrvaneStatus.hpp"
+#include "Orvane/platform/Quartz.hpp"
+#include "Orvane/platform/appkit/NotificationCenter.hpp"
+
+namespace orvane {
+
+/// Main thread only. Whether the guard is running is never stored here: it is read from the guard.
+class OrvaneModel {
+ public:
+  /// Reads the settings and starts listening to the system; neither lists displays nor starts the
+  /// guard.
+  OrvaneModel();
+  OrvaneModel(const OrvaneModel&) = delete;
+  OrvaneModel& operator=(const OrvaneModel&) = delete;
+  ~OrvaneModel();
+
+  [[nodiscard]] const Published<std::vector<DisplaySnapshot>>& displays() const {
+    return displays_;
+  }
+  /// The target of pinning, compared with each display's matching identifiers.
+  [[nodiscard]] const Published<std::optional<std::string>>& selectedDisplayID() const {
+    return selectedDisplayID_;
+  }
+  [[nodiscard]] const Published<bool>& hasAccessibilityPermission() const {
+    return hasAccessibilityPermission_;
+  }
+  [[nodiscard]] const Published<bool>& isTemporarilyUnlocked() const {
+    return isTemporarilyUnlocked_;
+  }
+  /// Nothing assigns it: always none.
+  [[nodiscard]] const Published<std::optional<bool>>& lastRestoreSucceeded() const {
+    return lastRestoreSucceeded_;
+  }
+  /// When displays were refreshed, the guard was started or stopped, or it reported; seconds by the
+  /// calendar clock.
+  [[nodiscard]] const Published<CFAbsoluteTime>& lastCheckedAt() const { return lastCheckedAt_; }
+  [[nodiscard]] const Published<OrvaneLanguage>& appLanguage() const { return appLanguage_; }
+  [[nodiscard]] const Published<OrvaneModifier>& temporaryUnlockModifier() const {
+    return temporaryUnlockModifier_;
+  }
+  [[nodiscard]] const Published<bool>& hidesDockOnAllDisplays() const {
+    return hidesDockOnAllDisplays_;
+  }
+  [[nodiscard]] const Published<bool>& launchAtLoginEnabled() const {
+    return launchAtLoginEnabled_;
+  }
+  [[nodiscard]] const Published<bool>& launchAtLoginRequiresApproval() const {
+    return launchAtLoginRequiresApproval_;
+  }
+  /// The platform's text of the last failure, none after a success.
+  [[nodiscard]] const Published<std::optional<std::string>>& launchAtLoginErrorMessage() const {
+    return launchAtLoginErrorMessage_;
+  }
+
+  /// Notified after each change of any published property.
+  [[nodiscard]] const Signal& changes() const { return changes_; }
+
+  [[nodiscard]] const DockMouseGuard& guardService() const { return guardService_; }
+  [[nodiscard]] DockMouseGuard& guardService() { return guardService_; }
+  /// The guard is running when it holds an event tap.
+  [[nodiscard]] bool isGuardRunning() const { return guardService_.isRunning(); }
+  /// Computed at each call, the Dock's edge read afresh.
+  [[nodiscard]] OrvaneStatus status() const;
+  /// The attached display that `selectedDisplayID` names; none when it names none.
+  [[nodiscard]] std::optional<DisplaySnapshot> selectedDisplay() const;
+
+  /// Stored, restarts a running guard when the permission is there.
+  void setHidesDockOnAllDisplays(bool hides);
+  /// Stored, restarts a running guard.
+  void setTemporaryUnlockModifier(OrvaneModifier modifier);
+  /// Stored, re-reads the displays, whose names depend on it.
+  void setAppLanguage(OrvaneLanguage language);
+  /// What a view has just read from the system.
+  void setHasAccessibilityPermission(bool hasPermission);
+
+  void refreshDisplays();
+  void selectDisplay(const std::string& id);
+  void toggleLock();
+  /// The switch "Pin Dock to a Display".
+  void toggleSelectedDisplayLock();
+  /// The switch "Prevent Dock Pop-Up".
+  void toggleHideDockOnAllDisplays();
+  /// Once at launch: starts the guard again if it was on when the application quit and can start.
+  void restoreLockIfNeeded();
+
+  void refreshLaunchAtLoginStatus();
+  void setLaunchAtLoginEnabled(bool enabled);
+
+  void openAccessibilitySettings();
+  void openPrivacyPolicy();
+  void openSupportEmail();
+
+ private:
+  void installGuardCallbacks();
+  void observeScreenChanges();
+  void handleScreenChange();
+
+  [[nodiscard]] bool isPinning() const;
+  [[nodiscard]] bool isPreventing() const;
+  [[nodiscard]] bool isTargetAttached() const;
+  /// Prevent mode needs no target; pinning needs one, attached or not.
+  [[nodiscard]] bool hasWhatTheModeNeeds() const;
+
+  void startGuard();
+  void startGuardForTheUser();
+  void stopGuardForTheUser();
+  void stopActiveLockIfNeeded();
+  void restartGuardIfRunning();
+  void requestAccessibilityForAllDisplayGuard();
+  void setSelectedDisplayID(std::optional<std::string> id);
+  void noteChecked();
+
+  Signal changes_;
+  Published<std::vector<DisplaySnapshot>> displays_;
+  Published<std::optional<std::string>> selectedDisplayID_;
+  Published<bool> hasAccessibilityPermission_;
+  Published<bool> isTemporarilyUnlocked_;
+  Published<std::optional<bool>> lastRestoreSucceeded_;
+  Published<CFAbsoluteTime> lastCheckedAt_;
+  Published<OrvaneLanguage> appLanguage_;
+  Published<OrvaneModifier> temporaryUnlockModifier_;
+  Published<bool> hidesDockOnAllDisplays_;
+  Published<bool> launchAtLoginEnabled_;
+  Published<bool> launchAtLoginRequiresApproval_;
+  Published<std::optional<std::string>> launchAtLoginErrorMessage_;
+  DockMouseGuard guardService_;
+  std::optional<appkit::ObserverToken> screenObserver_;
+  Lifetime lifetime_;
+};
+
+}  // namespace orvane

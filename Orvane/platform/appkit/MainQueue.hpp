@@ -1,0 +1,19 @@
+// The serial queue of the main thread; the main dispatch queue on a Mac.
+#pragma once
+
+#include <functional>
+
+namespace orvane::appkit {
+
+/// Tasks run one after another in the order they came, never inside each other.
+class MainQueue {
+ public:
+  MainQueue() = delete;
+
+  /// Runs `task` soon, after the caller has returned.
+  static void async(std::function<void()> task);
+  /// Runs `task` when at least `seconds` have passed.
+  static void asyncAfter(double seconds, std::function<void()> task);
+};
+
+}  // namespace orvane::appkit

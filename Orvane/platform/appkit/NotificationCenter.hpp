@@ -1,0 +1,41 @@
+// The default notification center with blocks on the main operation queue; NSNotificationCenter on
+// a Mac.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace orvane::appkit {
+
+enum class NotificationName {
+  /// NSApplicationDidChangeScreenParametersNotification
+  applicationDidChangeScreenParameters,
+};
+
+/// A registration. It does not end by itself: give it to removeObserver.
+class ObserverToken {
+ public:
+  struct Implementation;
+  explicit ObserverToken(std::shared_ptr<Implementation> implementation)
+      : implementation_(std::move(implementation)) {}
+  [[nodiscard]] Implementation& implementation() const { return *implementation_; }
+
+ private:
+  std::shared_ptr<Implementation> implementation_;
+};
+
+/// Main thread only.
+class NotificationCenter {
+ public:
+  NotificationCenter() = delete;
+
+  /// Calls `block` on the main thread for each such notification of any sender, observers in the
+  /// order of their registration.
+  [[nodiscard]] static ObserverToken addObserver(NotificationName name,
+                                                 std::function<void()> block);
+  /// Removing twice does nothing.
+  static void removeObserver(const ObserverToken& token);
+};
+
+}  // namespace orvane::appkit

@@ -1,0 +1,27 @@
+# What a builder may choose: the product's own constants, the platform, and what is built beside it.
+
+set(ORVANE_BUNDLE_IDENTIFIER "app.orvane.Orvane" CACHE STRING "Bundle identifier of the application")
+set(ORVANE_SUPPORT_ADDRESS "support@orvane.example" CACHE STRING "E-mail address of the support")
+set(ORVANE_PRIVACY_POLICY_URL "https://orvane.example/privacy" CACHE STRING
+    "Web address of the privacy policy")
+
+set(ORVANE_MACOS_SDK "" CACHE PATH "A macOS SDK, to cross-build the real application on Linux")
+if(APPLE OR ORVANE_MACOS_SDK)
+  set(orvane_default_platform macos)
+else()
+  set(orvane_default_platform desk)
+endif()
+set(ORVANE_PLATFORM ${orvane_default_platform} CACHE STRING "macos: the real Mac; desk: the simulated one")
+set_property(CACHE ORVANE_PLATFORM PROPERTY STRINGS desk macos)
+
+option(ORVANE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+option(ORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(ORVANE_BUILD_TESTS "Build the tests" ON)
+option(ORVANE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(ORVANE_BUILD_FUZZERS "Build the libFuzzer targets (clang only)" OFF)
+
+# ccache, where there is one, makes the second build of a tree cheap.
+find_program(ORVANE_CCACHE ccache)
+if(ORVANE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${ORVANE_CCACHE}")
+endif()
