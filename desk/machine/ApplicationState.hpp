@@ -1,0 +1,12 @@
+// What the system remembers of the running application itself.
+#pragma once
+
+#include "Orvane/platform/appkit/Application.hpp"
+
+namespace orvane::desk {
+
+struct ApplicationState {
+  appkit::ActivationPolicy activationPolicy = appkit::ActivationPolicy::regular;
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,31 @@
+// Display is one attached display.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "Orvane/platform/Quartz.hpp"
+
+namespace orvane::desk {
+
+struct Display {
+  /// The CGDirectDisplayID. It may change while the display stays.
+  std::uint32_t number = 0;
+  /// The text of the display's UUID; none when the system knows none.
+  std::optional<std::string> uuid;
+  std::string name;
+  /// In window-system coordinates: points, origin at the lower left of the first display, y
+  /// upwards.
+  CGRect frame{};
+  int bitsPerSample = 8;
+  std::string colorSpace = "NSCalibratedRGBColorSpace";
+  bool isBuiltIn = false;
+  /// Whether "NSScreenNumber" is in the device description.
+  bool hasNumberInDescription = true;
+  /// Given by Displays when it is attached, never used again: the display itself, whatever its
+  /// number.
+  std::uint64_t identity = 0;
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,73 @@
+// The attached displays, in the system's order.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Orvane/platform/Quartz.hpp"
+#include "desk/machine/Display.hpp"
+
+namespace orvane::desk {
+
+/// Operations that can be refused return what is wrong with the request, or none when it was
+/// carried out; a refused request changes nothing. Every one that is carried out is one change.
+class Displays {
+ public:
+  using Complaint = std::optional<std::string>;
+
+  /// Attaches at the end of the list. The frame must be finite and not empty, the number new.
+  [[nodiscard]] Complaint attach(Display display, bool asMain = false);
+  [[nodiscard]] Complaint detach(std::uint32_t number);
+  [[nodiscard]] Complaint setFrame(std::uint32_t number, CGRect frame);
+  [[nodiscard]] Complaint renumber(std::uint32_t number, std::uint32_t newNumber);
+  [[nodiscard]] Complaint setMain(std::uint32_t number);
+
+  /// The changes between the two are announced as one; none when there were none.
+  [[nodiscard]] Complaint beginTogether();
+  [[nodiscard]] Complaint endTogether();
+  [[nodiscard]] bool isTogether() const { return together_; }
+
+  /// Called after each change, or once after the changes made together.
+  void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
+  [[nodiscard]] std::int64_t changeCount() const { return changeCount_; }
+
+  [[nodiscard]] const std::vector<Display>& all() const { return displays_; }
+  [[nodiscard]] bool isEmpty() const { return displays_.empty(); }
+  [[nodiscard]] std::size_t count() const { return displays_.size(); }
+  /// Null when there is none.
+  [[nodiscard]] const Display* find(std::uint32_t number) const;
+  [[nodiscard]] const Display* main() const;
+  [[nodiscard]] std::optional<std::size_t> indexOf(std::uint64_t identity) const;
+
+  /// Frames in global coordinates: points, origin at the top left of the first display, y
+  /// downwards; in the order of the list. The height of the first display turns one system into the
+  /// other.
+  [[nodiscard]] const std::vector<CGRect>& globalFrames() const { return globalFrames_; }
+  /// The first display that contains the point; `preferred` is asked first.
+  [[nodiscard]] std::optional<std::size_t> indexContaining(CGPoint globalPoint,
+                                                           std::size_t preferred = 0) const;
+  /// The rectangle in the other of the two coordinate systems, in either direction.
+  [[nodiscard]] CGRect flipped(CGRect rect) const;
+  [[nodiscard]] CGPoint flipped(CGPoint point) const;
+
+ private:
+  [[nodiscard]] Display* findMutable(std::uint32_t number);
+  void changed();
+  void refreshGlobalFrames();
+
+  std::vector<Display> displays_;
+  std::vector<CGRect> globalFrames_;
+  /// The display that was made the main one; the first one while it is not attached.
+  std::optional<std::uint64_t> mainIdentity_;
+  std::function<void()> changed_;
+  std::uint64_t nextIdentity_ = 1;
+  std::int64_t changeCount_ = 0;
+  bool together_ = false;
+  bool changedTogether_ = false;
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,12 @@
+// The simulated event behind CGEventRef: a small value on the stack of whoever delivers it.
+#pragma once
+
+#include "Orvane/platform/Quartz.hpp"
+
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the platform's own name for it.
+struct __CGEvent {
+  CGEventType type;
+  CGEventFlags flags;
+  /// In global coordinates.
+  CGPoint location;
+};

@@ -1,0 +1,25 @@
+// EventTap is one event tap of the session.
+#pragma once
+
+#include <cstdint>
+
+#include "Orvane/platform/Quartz.hpp"
+
+namespace orvane::desk {
+
+struct EventTap {
+  CGEventMask eventsOfInterest;
+  CGEventTapCallBack callback;
+  void* userInfo;
+  bool isListenOnly;
+  /// Never used again, so that a port can outlive its tap.
+  std::uint64_t identity;
+  /// The modes in which a source of the tap is in the run loop, as in RunLoop::ModeSet; empty while
+  /// none is, and then events pass by.
+  std::uint8_t sourceModes = 0;
+  bool isEnabled = true;
+  /// False once the permission was lost or the port was invalidated; it never comes back.
+  bool isAlive = true;
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,76 @@
+// The simulated Mac: its parts, put together. One machine is the current one, and the seam's
+// functions speak with it.
+#pragma once
+
+#include <cstdint>
+
+#include "desk/machine/Appearance.hpp"
+#include "desk/machine/ApplicationState.hpp"
+#include "desk/machine/Clock.hpp"
+#include "desk/machine/Counters.hpp"
+#include "desk/machine/Displays.hpp"
+#include "desk/machine/Dock.hpp"
+#include "desk/machine/EventTaps.hpp"
+#include "desk/machine/Faults.hpp"
+#include "desk/machine/Links.hpp"
+#include "desk/machine/LocaleSettings.hpp"
+#include "desk/machine/LoginItemState.hpp"
+#include "desk/machine/ModifierKeys.hpp"
+#include "desk/machine/Mouse.hpp"
+#include "desk/machine/ObjectRegistry.hpp"
+#include "desk/machine/Observers.hpp"
+#include "desk/machine/Permission.hpp"
+#include "desk/machine/Pointer.hpp"
+#include "desk/machine/Preferences.hpp"
+#include "desk/machine/Process.hpp"
+#include "desk/machine/RunLoop.hpp"
+#include "desk/machine/UserDefaultsStore.hpp"
+
+namespace orvane::desk {
+
+/// Made by a MachineScope. It starts with no display, no process, no permission, an empty disk, the
+/// Dock at the bottom and shown.
+class Machine {
+ public:
+  Machine();
+  Machine(const Machine&) = delete;
+  Machine& operator=(const Machine&) = delete;
+  ~Machine();
+
+  /// The machine that the seam speaks with. There must be one.
+  static Machine& current();
+  /// Null when there is none.
+  static Machine* currentOrNull();
+
+  /// Serves all that is due at the present instant.
+  void runDue() { runLoop.runDue(); }
+  /// Lets time pass.
+  void advance(double seconds) { runLoop.advance(Clock::fromSeconds(seconds)); }
+
+  Faults faults;
+  Clock clock;
+  Counters counters;
+  ObjectRegistry objects{faults};
+  RunLoop runLoop{clock, faults};
+  Observers observers;
+  Permission permission;
+  LoginItemState loginItem;
+  Links links;
+  Preferences preferences;
+  UserDefaultsStore userDefaults;
+  LocaleSettings locale;
+  Appearance appearance;
+  ApplicationState application;
+  ModifierKeys modifierKeys;
+  Displays displays;
+  Pointer pointer{displays};
+  EventTaps eventTaps{runLoop};
+  Dock dock{displays, clock};
+  Mouse mouse{displays, pointer, eventTaps, dock, modifierKeys, counters};
+  Process process{*this};
+
+ private:
+  void displaysChanged();
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,57 @@
+// The mouse: hardware movements on their way from the device to the pointer and the Dock.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "Orvane/platform/Quartz.hpp"
+#include "desk/machine/Counters.hpp"
+#include "desk/machine/Displays.hpp"
+#include "desk/machine/Dock.hpp"
+#include "desk/machine/EventTaps.hpp"
+#include "desk/machine/ModifierKeys.hpp"
+#include "desk/machine/Pointer.hpp"
+#include "desk/machine/PointerListener.hpp"
+
+namespace orvane::desk {
+
+/// Points are in global coordinates. A movement is complete when the call returns; what the
+/// application put on its main queue meanwhile is served when the run loop next runs.
+class Mouse {
+ public:
+  Mouse(const Displays& displays, Pointer& pointer, EventTaps& taps, Dock& dock,
+        const ModifierKeys& modifierKeys, Counters& counters)
+      : displays_(displays),
+        pointer_(pointer),
+        taps_(taps),
+        dock_(dock),
+        modifierKeys_(modifierKeys),
+        counters_(counters) {}
+
+  /// The hand moves the mouse by so many points. Without a display nothing happens, nor for a
+  /// movement that is not finite.
+  void moveBy(double dx, double dy) {
+    const CGPoint place = pointer_.place();
+    moveTo({place.x + dx, place.y + dy});
+  }
+  /// A movement that wants to end at `goal`.
+  void moveTo(CGPoint goal);
+
+  /// A mouse-moved event from elsewhere, straight into the taps; it moves no pointer. Returns where
+  /// it comes out, none when a tap swallowed it.
+  std::optional<CGPoint> post(CGPoint location, std::uint64_t flags);
+
+  /// Null for none. Not owned.
+  void setListener(PointerListener* listener) { listener_ = listener; }
+
+ private:
+  const Displays& displays_;
+  Pointer& pointer_;
+  EventTaps& taps_;
+  Dock& dock_;
+  const ModifierKeys& modifierKeys_;
+  Counters& counters_;
+  PointerListener* listener_ = nullptr;
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,44 @@
+// Object is the common part of every simulated Core Foundation object.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace orvane::desk {
+
+/// What an object is; the value is its CFTypeID. The Mac's own numbers differ and mean nothing.
+enum class ObjectKind : std::uint8_t {
+  string = 7,
+  number = 22,
+  boolean = 21,
+  uuid = 41,
+  machPort = 44,
+  runLoop = 46,
+  runLoopSource = 47,
+};
+
+/// The name of the kind's reference type without "Ref", such as "CFString".
+[[nodiscard]] const char* nameOf(ObjectKind kind);
+
+/// A Core Foundation reference points at an Object, which is the first and only base of every
+/// concrete one, so that the reference and the Object have one address.
+class Object {
+ public:
+  explicit Object(ObjectKind kind) : kind_(kind) {}
+  Object(const Object&) = delete;
+  Object& operator=(const Object&) = delete;
+  virtual ~Object() = default;
+
+  [[nodiscard]] ObjectKind kind() const { return kind_; }
+  /// A short text that helps to find the object in a report.
+  [[nodiscard]] virtual std::string description() const { return nameOf(kind_); }
+  /// Called when the last reference has gone: gives up what the object itself refers to.
+  virtual void lastReferenceGone() {}
+
+ private:
+  friend class ObjectRegistry;
+  ObjectKind kind_;
+  std::int64_t references_ = 1;
+};
+
+}  // namespace orvane::desk

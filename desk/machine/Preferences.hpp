@@ -1,0 +1,69 @@
+// The preferences of all programs, as Core Foundation stores them. The application sees a copy that
+// it read once, until it synchronises.
+#pragma once
+
+#include <compare>
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "desk/machine/PropertyValue.hpp"
+
+namespace orvane::desk {
+
+class Preferences {
+ public:
+  enum class User { current, any };
+  enum class Host { current, any };
+
+  /// One place where values are stored.
+  struct Domain {
+    std::string application;
+    User user = User::current;
+    Host host = Host::any;
+    auto operator<=>(const Domain&) const = default;
+  };
+
+  void set(const Domain& domain, const std::string& key, PropertyValue value);
+  void remove(const Domain& domain, const std::string& key);
+  /// What is stored; none when there is no value.
+  [[nodiscard]] std::optional<PropertyValue> stored(const Domain& domain,
+                                                    const std::string& key) const;
+  /// The stored value of the first domain of the application that has one, from the current user
+  /// and host to any user and host.
+  [[nodiscard]] std::optional<PropertyValue> stored(const std::string& application,
+                                                    const std::string& key) const;
+
+  /// As the application sees it: the first question about a program copies all that is stored for
+  /// it, and later ones are answered from the copy.
+  [[nodiscard]] std::optional<PropertyValue> seen(const Domain& domain, const std::string& key);
+  [[nodiscard]] std::optional<PropertyValue> seen(const std::string& application,
+                                                  const std::string& key);
+  /// The next question about this program reads afresh.
+  void synchronise(const std::string& application) { copies_.erase(application); }
+  /// The process has ended, and its copies with it.
+  void forgetCopies() { copies_.clear(); }
+
+  /// Called after each change of what is stored.
+  void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
+
+ private:
+  using Values = std::map<Domain, std::map<std::string, PropertyValue>>;
+
+  [[nodiscard]] static std::optional<PropertyValue> lookUp(const Values& values,
+                                                           const Domain& domain,
+                                                           const std::string& key);
+  [[nodiscard]] static std::optional<PropertyValue> search(const Values& values,
+                                                           const std::string& application,
+                                                           const std::string& key);
+  const Values& copyFor(const std::string& application);
+
+  Values values_;
+  std::map<std::string, Values> copies_;
+  std::function<void()> changed_;
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,33 @@
+// MachineFixture gives each test a machine of its own with a running process, and sees at the end
+// that no Core Foundation object is left and that none was misused.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "desk/machine/MachineScope.hpp"
+
+namespace orvane::desk {
+
+/// The end comes when the fixture is destroyed: after the locals of the test and the members of
+/// fixtures derived from this one, so that what they own is released by then.
+class MachineFixture : public testing::Test {
+ protected:
+  MachineFixture() { machine.process.start(); }
+  ~MachineFixture() override {
+    const MachineEnd end = scope_.end();
+    for (const std::string& object : end.leftObjects) {
+      ADD_FAILURE() << "not released: " << object;
+    }
+    for (const std::string& fault : end.faults) {
+      ADD_FAILURE() << "fault: " << fault;
+    }
+  }
+
+ private:
+  MachineScope scope_;
+
+ protected:
+  Machine& machine = scope_.machine();
+};
+
+}  // namespace orvane::desk
