@@ -1,0 +1,13 @@
+// Holds what exists once in the process: the model.
+#include "Orvane/app/OrvaneAppState.hpp"
+
+#include "Orvane/base/ProcessShared.hpp"
+
+namespace orvane {
+
+OrvaneModel& OrvaneAppState::model() {
+  static ProcessShared<OrvaneModel> shared;
+  return shared.get();
+}
+
+}  // namespace orvane

@@ -1,0 +1,44 @@
+// Starts and ends the application on the simulated Mac, and listens to what its guard reports.
+#include "desk/application/ApplicationHost.hpp"
+
+#include <utility>
+
+#include "Orvane/app/OrvaneAppState.hpp"
+#include "Orvane/base/Require.hpp"
+
+namespace orvane::desk {
+
+void ApplicationHost::launch() {
+  if (isRunning()) {
+    return;
+  }
+  messages_.clear();
+  launchedAt_ = machine_.clock.now();
+  machine_.process.start();
+  listenToGuard();
+  OrvaneAppState::model().restoreLockIfNeeded();
+  machine_.runDue();
+}
+
+void ApplicationHost::terminate() {
+  machine_.process.end();
+}
+
+void ApplicationHost::crash() {
+  machine_.process.end();
+}
+
+OrvaneModel& ApplicationHost::model() const {
+  require(isRunning(), "the application is not running");
+  return OrvaneAppState::model();
+}
+
+void ApplicationHost::listenToGuard() {
+  DockMouseGuard& guard = model().guardService();
+  guard.onEvent = [this, toOwner = std::move(guard.onEvent)](const std::string& message) {
+    messages_.push_back({machine_.clock.now(), message});
+    toOwner(message);
+  };
+}
+
+}  // namespace orvane::desk
