@@ -1,0 +1,337 @@
+// Shapes go to cairo as paths. Text, symbols and shadows are masks that are shared between
+// drawings. A layer is a surface of its own whose pixels line up with those of the target.
+#include "desk/canvas/CairoCanvas.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include "desk/canvas/Blur.hpp"
+#include "desk/canvas/ShadowMask.hpp"
+
+namespace orvane::desk {
+namespace {
+
+enum class MaskKind { text, symbol, shadow };
+
+/// Pixels from `left`, `top` up to but not including `right`, `bottom`.
+struct PixelBounds {
+  double left = 0;
+  double top = 0;
+  double right = 0;
+  double bottom = 0;
+
+  PixelBounds grownBy(double horizontal, double vertical) const {
+    return {left - horizontal, top - vertical, right + horizontal, bottom + vertical};
+  }
+  PixelBounds cutTo(const PixelBounds& other) const {
+    return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
+            std::min(bottom, other.bottom)};
+  }
+};
+
+cairo_matrix_t matrixOf(cairo_t* context) {
+  cairo_matrix_t matrix;
+  cairo_get_matrix(context, &matrix);
+  return matrix;
+}
+
+ui::Transform toPixels(cairo_t* context) {
+  const cairo_matrix_t matrix = matrixOf(context);
+  return {matrix.xx, matrix.yy, matrix.x0, matrix.y0};
+}
+
+PixelBounds clipBounds(cairo_t* context) {
+  PixelBounds bounds;
+  cairo_save(context);
+  cairo_identity_matrix(context);
+  cairo_clip_extents(context, &bounds.left, &bounds.top, &bounds.right, &bounds.bottom);
+  cairo_restore(context);
+  return bounds;
+}
+
+void setColor(cairo_t* context, const ui::Rgba& color) {
+  cairo_set_source_rgba(context, color.red, color.green, color.blue, color.alpha);
+}
+
+/// Splits a place in pixels into the pixel and the part of it, in steps of one `parts`-th.
+void split(double place, double parts, int& pixel, double& phase) {
+  const double steps = std::floor(place * parts + 0.5);
+  pixel = static_cast<int>(std::floor(steps / parts));
+  phase = steps / parts - pixel;
+}
+
+double sigmaInPixels(const ui::PaintShadow& shadow, const ui::Transform& pixels) {
+  return std::max(shadow.radius, 0.0) / 2.0 * std::sqrt(std::abs(pixels.scaleX * pixels.scaleY));
+}
+
+MaskKey keyOf(MaskKind kind, const std::string& content, const ui::Font& font,
+              const PixelPlacement& placement) {
+  return MaskKey()
+      .add(kind)
+      .add(content)
+      .add(font.size)
+      .add(font.weight)
+      .add(placement.scaleX)
+      .add(placement.scaleY)
+      .add(placement.phaseX)
+      .add(placement.phaseY);
+}
+
+}  // namespace
+
+CairoCanvas::CairoCanvas(cairo_surface_t* target, double scaleFactor, DrawingResources& resources)
+    : scaleFactor_(scaleFactor), resources_(resources) {
+  Layer base;
+  base.context.reset(cairo_create(target));
+  cairo_scale(base.context.get(), scaleFactor, scaleFactor);
+  layers_.push_back(std::move(base));
+}
+
+void CairoCanvas::save() {
+  cairo_save(context());
+}
+
+void CairoCanvas::restore() {
+  cairo_restore(context());
+}
+
+void CairoCanvas::transform(const ui::Transform& transform) {
+  const cairo_matrix_t matrix{transform.scaleX, 0, 0, transform.scaleY, transform.x, transform.y};
+  // A scale of zero would put the context into an error state for good; nothing could be seen
+  // through it, so the same is said with an empty clip.
+  if (!transform.isInvertible()) {
+    cairo_new_path(context());
+    cairo_clip(context());
+    return;
+  }
+  cairo_transform(context(), &matrix);
+}
+
+void CairoCanvas::clip(const ui::Shape& shape) {
+  cairo_new_path(context());
+  appendShape(context(), shape);
+  cairo_clip(context());
+}
+
+void CairoCanvas::setPaint(const ui::Paint& paint) {
+  if (paint.isSolid() || paint.start == paint.end) {
+    setColor(context(), paint.stops.back().color);
+    return;
+  }
+  const PatternPointer pattern(
+      cairo_pattern_create_linear(paint.start.x, paint.start.y, paint.end.x, paint.end.y));
+  for (const ui::PaintStop& stop : paint.stops) {
+    cairo_pattern_add_color_stop_rgba(pattern.get(), stop.location, stop.color.red,
+                                      stop.color.green, stop.color.blue, stop.color.alpha);
+  }
+  cairo_set_source(context(), pattern.get());
+}
+
+void CairoCanvas::fill(const ui::Shape& shape, const ui::Paint& paint) {
+  if (paint.stops.empty()) {
+    return;
+  }
+  setPaint(paint);
+  cairo_new_path(context());
+  appendShape(context(), shape);
+  cairo_fill(context());
+}
+
+void CairoCanvas::stroke(const ui::Shape& shape, const ui::Paint& paint, double lineWidth) {
+  if (paint.stops.empty() || !(lineWidth > 0)) {
+    return;
+  }
+  setPaint(paint);
+  cairo_new_path(context());
+  appendShape(context(), shape);
+  cairo_set_line_width(context(), lineWidth);
+  cairo_stroke(context());
+}
+
+void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) {
+  const ui::Transform pixels = toPixels(context());
+  if (shape.rect.isEmpty() || !(shadow.color.alpha > 0) || !pixels.isInvertible()) {
+    return;
+  }
+  const double sigma = sigmaInPixels(shadow, pixels);
+  // The mask is made near pixel zero and moved by whole pixels, so that equal shapes share it.
+  constexpr double placeSteps = 64;
+  int pixelX = 0;
+  int pixelY = 0;
+  ui::Shape cast = shape;
+  cast.rect = pixels.apply(shape.rect.movedBy(shadow.offset));
+  cast.cornerRadius *= std::min(std::abs(pixels.scaleX), std::abs(pixels.scaleY));
+  split(cast.rect.x, placeSteps, pixelX, cast.rect.x);
+  split(cast.rect.y, placeSteps, pixelY, cast.rect.y);
+  const MaskKey key = MaskKey()
+                          .add(MaskKind::shadow)
+                          .add(cast.kind)
+                          .add(cast.cornerStyle)
+                          .add(cast.cornerRadius)
+                          .add(cast.rect.x)
+                          .add(cast.rect.y)
+                          .add(cast.rect.width)
+                          .add(cast.rect.height)
+                          .add(sigma);
+  const Mask& mask = resources_.masks.get(key, [&] { return makeShadowMask(cast, sigma); });
+
+  cairo_t* target = context();
+  const PixelBounds visible = clipBounds(target).grownBy(1, 1);
+  cairo_save(target);
+  cairo_new_path(target);
+  appendShape(target, shape);
+  cairo_identity_matrix(target);
+  cairo_rectangle(target, visible.left, visible.top, visible.right - visible.left,
+                  visible.bottom - visible.top);
+  cairo_set_fill_rule(target, CAIRO_FILL_RULE_EVEN_ODD);
+  cairo_clip(target);
+  paintMask(mask, pixelX, pixelY, shadow.color);
+  cairo_restore(target);
+}
+
+void CairoCanvas::beginLayer(const ui::Rect& bounds, double opacity,
+                             const std::optional<ui::PaintShadow>& shadow) {
+  cairo_t* outer = context();
+  const ui::Transform pixels = toPixels(outer);
+  const ui::Rect painted = pixels.apply(bounds);
+  PixelBounds area{painted.x, painted.y, painted.right(), painted.bottom()};
+  PixelBounds visible = clipBounds(outer);
+  if (shadow) {
+    // What lies outside the clip may still cast its shadow into it.
+    const double reach = blurReach(sigmaInPixels(*shadow, pixels));
+    const double across = reach + std::abs(shadow->offset.x * pixels.scaleX);
+    const double down = reach + std::abs(shadow->offset.y * pixels.scaleY);
+    area = area.grownBy(across, down);
+    visible = visible.grownBy(across, down);
+  }
+  // One pixel more, for soft edges on bounds that are not on the pixel grid.
+  area = area.grownBy(1, 1).cutTo(visible);
+
+  Layer layer;
+  layer.opacity = std::clamp(opacity, 0.0, 1.0);
+  layer.shadow = shadow;
+  layer.x = static_cast<int>(std::floor(area.left));
+  layer.y = static_cast<int>(std::floor(area.top));
+  const int width = std::max(0, static_cast<int>(std::ceil(area.right)) - layer.x);
+  const int height = std::max(0, static_cast<int>(std::ceil(area.bottom)) - layer.y);
+  const SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  cairo_surface_set_device_offset(surface.get(), -layer.x, -layer.y);
+  layer.context.reset(cairo_create(surface.get()));
+  const cairo_matrix_t matrix = matrixOf(outer);
+  cairo_set_matrix(layer.context.get(), &matrix);
+  layers_.push_back(std::move(layer));
+}
+
+void CairoCanvas::endLayer() {
+  if (layers_.size() < 2) {
+    return;
+  }
+  const Layer layer = std::move(layers_.back());
+  layers_.pop_back();
+  if (layer.shadow) {
+    paintLayerShadow(layer, *layer.shadow);
+  }
+  cairo_t* target = context();
+  cairo_save(target);
+  cairo_identity_matrix(target);
+  cairo_set_source_surface(target, cairo_get_target(layer.context.get()), 0, 0);
+  cairo_paint_with_alpha(target, layer.opacity);
+  cairo_restore(target);
+}
+
+void CairoCanvas::paintLayerShadow(const Layer& layer, const ui::PaintShadow& shadow) {
+  cairo_surface_t* picture = cairo_get_target(layer.context.get());
+  const ui::Transform pixels = toPixels(context());
+  const SurfacePointer alpha(cairo_image_surface_create(CAIRO_FORMAT_A8,
+                                                        cairo_image_surface_get_width(picture),
+                                                        cairo_image_surface_get_height(picture)));
+  {
+    const ContextPointer copy(cairo_create(alpha.get()));
+    cairo_set_source_surface(copy.get(), picture, -layer.x, -layer.y);
+    cairo_paint(copy.get());
+  }
+  blurSurface(alpha.get(), sigmaInPixels(shadow, pixels), BlurEdge::transparent);
+  cairo_t* target = layer.context.get();
+  cairo_reset_clip(target);
+  cairo_identity_matrix(target);
+  cairo_set_operator(target, CAIRO_OPERATOR_DEST_OVER);
+  setColor(target, shadow.color);
+  cairo_mask_surface(target, alpha.get(), layer.x + shadow.offset.x * pixels.scaleX,
+                     layer.y + shadow.offset.y * pixels.scaleY);
+}
+
+bool CairoCanvas::isScaledByTransform() {
+  const cairo_matrix_t matrix = matrixOf(context());
+  constexpr double tolerance = 1.0e-9;
+  return std::abs(matrix.xx - scaleFactor_) > tolerance ||
+         std::abs(matrix.yy - scaleFactor_) > tolerance;
+}
+
+PixelPlacement CairoCanvas::placementOf(ui::Point anchor) {
+  const ui::Transform pixels = toPixels(context());
+  const ui::Point place = pixels.apply(anchor);
+  // Shared masks are made for quarters of a pixel; what is being scaled moves smoothly instead.
+  const double steps = isScaledByTransform() ? 1024 : 4;
+  PixelPlacement placement;
+  placement.scaleX = pixels.scaleX;
+  placement.scaleY = pixels.scaleY;
+  split(place.x, steps, placement.pixelX, placement.phaseX);
+  split(place.y, steps, placement.pixelY, placement.phaseY);
+  return placement;
+}
+
+void CairoCanvas::paintMask(const Mask& mask, int anchorX, int anchorY, const ui::Rgba& color) {
+  if (!mask.surface) {
+    return;
+  }
+  cairo_t* target = context();
+  cairo_save(target);
+  cairo_identity_matrix(target);
+  setColor(target, color);
+  cairo_mask_surface(target, mask.surface.get(), anchorX + mask.x, anchorY + mask.y);
+  cairo_restore(target);
+}
+
+void CairoCanvas::text(const std::string& line, const ui::Font& font, const ui::Rgba& color,
+                       ui::Point baseline) {
+  PixelPlacement placement = placementOf(baseline);
+  if (isScaledByTransform()) {
+    paintMask(resources_.shaper.makeMask(line, font, placement), placement.pixelX, placement.pixelY,
+              color);
+    return;
+  }
+  // A baseline on a whole pixel keeps the feet of the letters sharp.
+  placement.pixelY += placement.phaseY >= 0.5 ? 1 : 0;
+  placement.phaseY = 0;
+  const Mask& mask = resources_.masks.get(keyOf(MaskKind::text, line, font, placement), [&] {
+    return resources_.shaper.makeMask(line, font, placement);
+  });
+  paintMask(mask, placement.pixelX, placement.pixelY, color);
+}
+
+void CairoCanvas::image(const std::string& name, const ui::Rect& destination) {
+  if (!resources_.images.size(name)) {
+    resources_.missingNames.insert(name);
+    return;
+  }
+  resources_.images.paint(context(), name, destination.x, destination.y, destination.width,
+                          destination.height);
+}
+
+void CairoCanvas::symbol(const std::string& name, const ui::Font& font, const ui::Rgba& color,
+                         const ui::Rect& rect) {
+  if (!SymbolLibrary::contains(name)) {
+    resources_.missingNames.insert(name);
+    return;
+  }
+  const PixelPlacement placement = placementOf(rect.center());
+  const auto make = [&] { return resources_.symbols.makeMask(name, font, placement); };
+  if (isScaledByTransform()) {
+    paintMask(make(), placement.pixelX, placement.pixelY, color);
+    return;
+  }
+  const Mask& mask = resources_.masks.get(keyOf(MaskKind::symbol, name, font, placement), make);
+  paintMask(mask, placement.pixelX, placement.pixelY, color);
+}
+
+}  // namespace orvane::desk

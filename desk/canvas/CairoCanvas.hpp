@@ -1,0 +1,70 @@
+// The view kit's canvas on a cairo image surface.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <cairo.h>
+
+#include "Orvane/ui/Canvas.hpp"
+#include "desk/canvas/CairoPointers.hpp"
+#include "desk/canvas/DrawingResources.hpp"
+
+namespace orvane::desk {
+
+class CairoCanvas : public ui::Canvas {
+ public:
+  /// Draws on an ARGB32 image surface without a device scale of its own, `scaleFactor` pixels to
+  /// the point. The surface is referenced, the resources have to outlive the canvas.
+  CairoCanvas(cairo_surface_t* target, double scaleFactor, DrawingResources& resources);
+
+  double scaleFactor() const override { return scaleFactor_; }
+
+  void save() override;
+  void restore() override;
+  void transform(const ui::Transform& transform) override;
+  void clip(const ui::Shape& shape) override;
+
+  void fill(const ui::Shape& shape, const ui::Paint& paint) override;
+  void stroke(const ui::Shape& shape, const ui::Paint& paint, double lineWidth) override;
+  void shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) override;
+
+  void beginLayer(const ui::Rect& bounds, double opacity,
+                  const std::optional<ui::PaintShadow>& shadow) override;
+  void endLayer() override;
+
+  void text(const std::string& line, const ui::Font& font, const ui::Rgba& color,
+            ui::Point baseline) override;
+  void image(const std::string& name, const ui::Rect& destination) override;
+  void symbol(const std::string& name, const ui::Font& font, const ui::Rgba& color,
+              const ui::Rect& rect) override;
+
+  /// The context that is drawn on now, in points, for what the desk draws beside the view kit.
+  cairo_t* context() { return layers_.back().context.get(); }
+
+ private:
+  struct Layer {
+    ContextPointer context;
+    double opacity = 1;
+    std::optional<ui::PaintShadow> shadow;
+    // Top left of the layer's surface in pixels of the target.
+    int x = 0;
+    int y = 0;
+  };
+
+  void setPaint(const ui::Paint& paint);
+  /// Paints a mask in one colour; its anchor is a pixel of the target.
+  void paintMask(const Mask& mask, int anchorX, int anchorY, const ui::Rgba& color);
+  void paintLayerShadow(const Layer& layer, const ui::PaintShadow& shadow);
+  /// Where a point of the current coordinates falls. Unless something is being scaled, the phase
+  /// is taken in quarters of a pixel, so that masks can be shared.
+  PixelPlacement placementOf(ui::Point anchor);
+  bool isScaledByTransform();
+
+  double scaleFactor_;
+  DrawingResources& resources_;
+  std::vector<Layer> layers_;
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,12 @@
+// The sizes of pictures and symbols as the view kit asks for them.
+#include "desk/canvas/DrawingResources.hpp"
+
+namespace orvane::desk {
+
+ui::ImageSource DrawingResources::imageSource() {
+  return {
+      [this](const std::string& name) { return images.size(name); },
+      [this](const std::string& name, const ui::Font& font) { return symbols.size(name, font); }};
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,138 @@
+// Paragraph by paragraph: pango finds the breaks, each line is then measured alone, as it will be
+// drawn.
+#include "desk/canvas/PangoTextMeasurer.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace orvane::desk {
+namespace {
+
+constexpr const char* ellipsis = "…";
+// Wider than any text; pango counts widths in 1024ths of a point in an int.
+constexpr double widestLine = 1.0e6;
+constexpr std::size_t mostAnswers = 4096;
+
+std::string withoutTrailingBlanks(std::string line) {
+  while (!line.empty() && line.back() == ' ') {
+    line.pop_back();
+  }
+  return line;
+}
+
+/// The byte offsets at which a text may be cut without tearing a character apart, from 0 to its
+/// length.
+std::vector<std::size_t> characterOffsets(const TextShaper& shaper, const std::string& text,
+                                          const ui::Font& font) {
+  const ObjectPointer<PangoLayout> shaped = shaper.layout(text, font);
+  int count = 0;
+  const PangoLogAttr* attributes = pango_layout_get_log_attrs_readonly(shaped.get(), &count);
+  std::vector<std::size_t> offsets;
+  const char* place = text.c_str();
+  for (int index = 0; index < count; ++index) {
+    if (attributes[index].is_cursor_position != 0) {
+      offsets.push_back(static_cast<std::size_t>(place - text.c_str()));
+    }
+    if (index + 1 < count) {
+      place = g_utf8_next_char(place);
+    }
+  }
+  return offsets;
+}
+
+}  // namespace
+
+ui::TextLayout PangoTextMeasurer::layout(const std::string& text, const ui::Font& font,
+                                         double maximumWidth, int lineLimit) {
+  const double allowed = maximumWidth > 0 ? std::min(maximumWidth, widestLine) : 0.0;
+  const Question question(text, font.size, font.weight, allowed, std::max(lineLimit, 0));
+  const auto found = answers_.find(question);
+  if (found != answers_.end()) {
+    return found->second;
+  }
+  if (answers_.size() >= mostAnswers) {
+    answers_.clear();
+  }
+  return answers_.emplace(question, breakText(text, font, allowed, lineLimit)).first->second;
+}
+
+ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::Font& font,
+                                            double maximumWidth, int lineLimit) const {
+  // pango shows bytes that are no UTF-8 as a replacement, but its offsets need valid text.
+  gchar* valid = g_utf8_make_valid(text.data(), static_cast<gssize>(text.size()));
+  const std::string source(valid);
+  g_free(valid);
+
+  ui::TextLayout layout;
+  std::size_t from = 0;
+  while (true) {
+    const std::size_t feed = source.find('\n', from);
+    const bool isLastParagraph = feed == std::string::npos;
+    breakParagraph(source.substr(from, isLastParagraph ? feed : feed - from), font, maximumWidth,
+                   lineLimit, layout);
+    const bool isFull = lineLimit > 0 && static_cast<int>(layout.lines.size()) >= lineLimit;
+    if (isLastParagraph || isFull) {
+      if (!isLastParagraph && !layout.isTruncated) {
+        layout.lines.back() = cutLine(layout.lines.back().text, font, maximumWidth);
+        layout.isTruncated = true;
+      }
+      return layout;
+    }
+    from = feed + 1;
+  }
+}
+
+void PangoTextMeasurer::breakParagraph(const std::string& paragraph, const ui::Font& font,
+                                       double maximumWidth, int lineLimit,
+                                       ui::TextLayout& layout) const {
+  const ObjectPointer<PangoLayout> shaped = shaper_.layout(paragraph, font);
+  pango_layout_set_wrap(shaped.get(), PANGO_WRAP_WORD_CHAR);
+  pango_layout_set_width(shaped.get(), static_cast<int>(std::ceil(maximumWidth * PANGO_SCALE)));
+  const int count = pango_layout_get_line_count(shaped.get());
+  for (int index = 0; index < count; ++index) {
+    PangoLayoutLine* line = pango_layout_get_line_readonly(shaped.get(), index);
+    const auto start = static_cast<std::size_t>(pango_layout_line_get_start_index(line));
+    const bool isLast = lineLimit > 0 && static_cast<int>(layout.lines.size()) + 1 == lineLimit;
+    const std::string rest = paragraph.substr(start);
+    if (isLast && (index + 1 < count || shaper_.measure(rest, font).width > maximumWidth)) {
+      addLine(cutLine(rest, font, maximumWidth).text, font, layout);
+      layout.isTruncated = true;
+      return;
+    }
+    const auto length = static_cast<std::size_t>(pango_layout_line_get_length(line));
+    const std::string part = paragraph.substr(start, length);
+    addLine(index + 1 < count ? withoutTrailingBlanks(part) : part, font, layout);
+  }
+}
+
+ui::TextLine PangoTextMeasurer::cutLine(const std::string& rest, const ui::Font& font,
+                                        double maximumWidth) const {
+  const std::vector<std::size_t> offsets = characterOffsets(shaper_, rest, font);
+  const auto lineOf = [&](std::size_t count) {
+    return withoutTrailingBlanks(rest.substr(0, offsets[count])) + ellipsis;
+  };
+  // The longest part that fits with the ellipsis; none if the ellipsis alone is too wide.
+  std::size_t fitting = 0;
+  std::size_t tooMany = offsets.size();
+  while (tooMany - fitting > 1) {
+    const std::size_t middle = (fitting + tooMany) / 2;
+    (shaper_.measure(lineOf(middle), font).width <= maximumWidth ? fitting : tooMany) = middle;
+  }
+  const std::string line = lineOf(fitting);
+  return {line, shaper_.measure(line, font).width};
+}
+
+void PangoTextMeasurer::addLine(const std::string& line, const ui::Font& font,
+                                ui::TextLayout& layout) const {
+  const LineMetrics metrics = shaper_.measure(line, font);
+  layout.lines.push_back({line, metrics.width});
+  // All lines of a text share the metrics of the tallest, so that a line with Chinese characters
+  // does not stand closer to its neighbours than the others.
+  const double descent =
+      std::max(layout.lineHeight - layout.ascent, metrics.height - metrics.ascent);
+  layout.ascent = std::max(layout.ascent, metrics.ascent);
+  layout.lineHeight = layout.ascent + descent;
+}
+
+}  // namespace orvane::desk

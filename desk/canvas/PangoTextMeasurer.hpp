@@ -1,0 +1,33 @@
+// Measures and breaks text in the pinned fonts, with pango's rules for where a line may break.
+#pragma once
+
+#include <map>
+#include <string>
+#include <tuple>
+
+#include "Orvane/ui/TextMeasurer.hpp"
+#include "desk/canvas/TextShaper.hpp"
+
+namespace orvane::desk {
+
+class PangoTextMeasurer : public ui::TextMeasurer {
+ public:
+  // Layout asks for the same paragraph many times in one pass; the answers are kept.
+  ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
+                        int lineLimit) override;
+
+ private:
+  using Question = std::tuple<std::string, double, ui::Weight, double, int>;
+
+  ui::TextLayout breakText(const std::string& text, const ui::Font& font, double maximumWidth,
+                           int lineLimit) const;
+  void breakParagraph(const std::string& paragraph, const ui::Font& font, double maximumWidth,
+                      int lineLimit, ui::TextLayout& layout) const;
+  ui::TextLine cutLine(const std::string& rest, const ui::Font& font, double maximumWidth) const;
+  void addLine(const std::string& line, const ui::Font& font, ui::TextLayout& layout) const;
+
+  TextShaper shaper_;
+  std::map<Question, ui::TextLayout> answers_;
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,16 @@
+// The blurred coverage of a shape, which is what its shadow looks like before it has a colour.
+#pragma once
+
+#include "Orvane/ui/Shape.hpp"
+#include "desk/canvas/MaskCache.hpp"
+
+namespace orvane::desk {
+
+/// Adds the outline of a shape to the path of a context, in its current coordinates.
+void appendShape(cairo_t* context, const ui::Shape& shape);
+
+/// The shape, in pixels, blurred by a standard deviation in pixels. The mask is relative to pixel
+/// zero, zero. An empty shape gives a mask without a surface.
+Mask makeShadowMask(const ui::Shape& shape, double sigma);
+
+}  // namespace orvane::desk

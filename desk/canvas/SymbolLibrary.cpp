@@ -1,0 +1,131 @@
+// Reads the embedded drawings with librsvg, with one style sheet per weight.
+#include "desk/canvas/SymbolLibrary.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+#include "desk/canvas/SymbolArtwork.hpp"
+
+namespace orvane::desk {
+namespace {
+
+// The grid that desk/symbols/README.md describes.
+constexpr double unitsPerPointSize = 24.0;
+constexpr double regularStroke = 2.0;
+// Only the middle 28 of 32 units count for layout; the rest is room for heavy strokes.
+constexpr double layoutUnits = 28.0;
+
+/// The stroke of an outline, in units of the grid. The steps follow the stems of the text face
+/// at the same weights, so that a symbol beside a label is as dark as the label.
+double strokeOf(ui::Weight weight) {
+  switch (weight) {
+    case ui::Weight::ultraLight:
+      return 0.9;
+    case ui::Weight::thin:
+      return 1.2;
+    case ui::Weight::light:
+      return 1.6;
+    case ui::Weight::regular:
+      return regularStroke;
+    case ui::Weight::medium:
+      return 2.3;
+    case ui::Weight::semibold:
+      return 2.65;
+    case ui::Weight::bold:
+      return 3.0;
+    case ui::Weight::heavy:
+      return 3.4;
+    case ui::Weight::black:
+      return 3.8;
+  }
+  return regularStroke;
+}
+
+std::string styleSheetOf(ui::Weight weight) {
+  const double stroke = strokeOf(weight);
+  const double growth = stroke - regularStroke;
+  char sheet[256];
+  std::snprintf(sheet, sizeof sheet,
+                "svg{color:#000;stroke-width:%.3f}.detail{stroke-width:%.3f}"
+                ".fine{stroke-width:%.3f}.gap{stroke-width:%.3f}",
+                stroke, regularStroke + growth / 2.0, 1.7 + growth / 3.0, stroke + 3.0);
+  return sheet;
+}
+
+const SymbolArtwork* artworkOf(const std::string& name) {
+  const auto artworks = symbolArtworks();
+  const auto found = std::ranges::lower_bound(artworks, name, {}, &SymbolArtwork::name);
+  return found != artworks.end() && found->name == name ? &*found : nullptr;
+}
+
+const guint8* bytesOf(const char* text) {
+  return reinterpret_cast<const guint8*>(text);
+}
+
+}  // namespace
+
+bool SymbolLibrary::contains(const std::string& name) {
+  return artworkOf(name) != nullptr;
+}
+
+const SymbolLibrary::Drawing* SymbolLibrary::drawing(const std::string& name, ui::Weight weight) {
+  const auto found = drawings_.find({name, weight});
+  if (found != drawings_.end()) {
+    return &found->second;
+  }
+  const SymbolArtwork* artwork = artworkOf(name);
+  if (artwork == nullptr) {
+    return nullptr;
+  }
+  ObjectPointer<RsvgHandle> handle(
+      rsvg_handle_new_from_data(bytesOf(artwork->svg.data()), artwork->svg.size(), nullptr));
+  Drawing drawing;
+  if (!handle || rsvg_handle_get_intrinsic_size_in_pixels(handle.get(), &drawing.unitWidth,
+                                                          &drawing.unitHeight) == FALSE) {
+    return nullptr;
+  }
+  const std::string sheet = styleSheetOf(weight);
+  rsvg_handle_set_stylesheet(handle.get(), bytesOf(sheet.c_str()), sheet.size(), nullptr);
+  drawing.handle = std::move(handle);
+  return &drawings_.emplace(std::pair(name, weight), std::move(drawing)).first->second;
+}
+
+std::optional<ui::Size> SymbolLibrary::size(const std::string& name, const ui::Font& font) {
+  const Drawing* found = drawing(name, font.weight);
+  if (found == nullptr || !(font.size > 0)) {
+    return std::nullopt;
+  }
+  const double unit = font.size / unitsPerPointSize;
+  return ui::Size{found->unitWidth * unit, layoutUnits * unit};
+}
+
+Mask SymbolLibrary::makeMask(const std::string& name, const ui::Font& font,
+                             const PixelPlacement& placement) {
+  const Drawing* found = drawing(name, font.weight);
+  if (found == nullptr || !(font.size > 0)) {
+    return {};
+  }
+  const double width = found->unitWidth * font.size / unitsPerPointSize * placement.scaleX;
+  const double height = found->unitHeight * font.size / unitsPerPointSize * placement.scaleY;
+  const double left = placement.phaseX - width / 2.0;
+  const double top = placement.phaseY - height / 2.0;
+  Mask mask;
+  mask.x = static_cast<int>(std::floor(left));
+  mask.y = static_cast<int>(std::floor(top));
+  const int pixelWidth = static_cast<int>(std::ceil(left + width)) - mask.x;
+  const int pixelHeight = static_cast<int>(std::ceil(top + height)) - mask.y;
+  // The drawing cuts holes with masks, for which librsvg wants a surface with colours.
+  const SurfacePointer picture(
+      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixelWidth, pixelHeight));
+  const ContextPointer context(cairo_create(picture.get()));
+  const RsvgRectangle viewport{left - mask.x, top - mask.y, width, height};
+  rsvg_handle_render_document(found->handle.get(), context.get(), &viewport, nullptr);
+  mask.surface.reset(cairo_image_surface_create(CAIRO_FORMAT_A8, pixelWidth, pixelHeight));
+  const ContextPointer alpha(cairo_create(mask.surface.get()));
+  cairo_set_source_surface(alpha.get(), picture.get(), 0, 0);
+  cairo_paint(alpha.get());
+  return mask;
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,96 @@
+// Shaping with everything switched off that depends on a machine: hinting, hinted metrics, rounded
+// positions, subpixel colours, the language of the environment.
+#include "desk/canvas/TextShaper.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include <pango/pangocairo.h>
+
+#include "desk/canvas/PinnedFonts.hpp"
+
+namespace orvane::desk {
+namespace {
+
+double points(int pangoUnits) {
+  return static_cast<double>(pangoUnits) / PANGO_SCALE;
+}
+
+struct DescriptionRelease {
+  void operator()(PangoFontDescription* description) const {
+    pango_font_description_free(description);
+  }
+};
+
+}  // namespace
+
+TextShaper::TextShaper() : context_(pango_font_map_create_context(pinnedFontMap())) {
+  const FontOptionsPointer options(cairo_font_options_create());
+  cairo_font_options_set_antialias(options.get(), CAIRO_ANTIALIAS_GRAY);
+  cairo_font_options_set_hint_style(options.get(), CAIRO_HINT_STYLE_NONE);
+  cairo_font_options_set_hint_metrics(options.get(), CAIRO_HINT_METRICS_OFF);
+  cairo_font_options_set_subpixel_order(options.get(), CAIRO_SUBPIXEL_ORDER_DEFAULT);
+  pango_cairo_context_set_font_options(context_.get(), options.get());
+  pango_context_set_round_glyph_positions(context_.get(), FALSE);
+  pango_context_set_base_dir(context_.get(), PANGO_DIRECTION_LTR);
+  pango_context_set_language(context_.get(), pango_language_from_string("en"));
+}
+
+ObjectPointer<PangoLayout> TextShaper::layout(const std::string& text, const ui::Font& font) const {
+  static const std::string families = std::string(systemFontFamily) + "," + chineseFontFamily;
+  const std::unique_ptr<PangoFontDescription, DescriptionRelease> description(
+      pango_font_description_new());
+  pango_font_description_set_family_static(description.get(), families.c_str());
+  pango_font_description_set_absolute_size(description.get(),
+                                           std::max(font.size, 0.0) * PANGO_SCALE);
+  pango_font_description_set_weight(description.get(), static_cast<PangoWeight>(font.weight));
+  ObjectPointer<PangoLayout> layout(pango_layout_new(context_.get()));
+  pango_layout_set_font_description(layout.get(), description.get());
+  pango_layout_set_auto_dir(layout.get(), FALSE);
+  pango_layout_set_single_paragraph_mode(layout.get(), TRUE);
+  pango_layout_set_text(layout.get(), text.data(), static_cast<int>(text.size()));
+  return layout;
+}
+
+LineMetrics TextShaper::measure(const std::string& line, const ui::Font& font) const {
+  if (!(font.size > 0)) {
+    return {};
+  }
+  const ObjectPointer<PangoLayout> shaped = layout(line, font);
+  PangoRectangle logical;
+  pango_layout_line_get_extents(pango_layout_get_line_readonly(shaped.get(), 0), nullptr, &logical);
+  return {points(logical.width), points(-logical.y), points(logical.height)};
+}
+
+Mask TextShaper::makeMask(const std::string& line, const ui::Font& font,
+                          const PixelPlacement& placement) const {
+  if (!(font.size > 0)) {
+    return {};
+  }
+  const ObjectPointer<PangoLayout> shaped = layout(line, font);
+  PangoLayoutLine* shapedLine = pango_layout_get_line_readonly(shaped.get(), 0);
+  PangoRectangle ink;
+  pango_layout_line_get_extents(shapedLine, &ink, nullptr);
+  if (ink.width <= 0 || ink.height <= 0) {
+    return {};
+  }
+  // One pixel to each side, because the ink is measured without its soft edge.
+  Mask mask;
+  mask.x = static_cast<int>(std::floor(placement.phaseX + points(ink.x) * placement.scaleX)) - 1;
+  mask.y = static_cast<int>(std::floor(placement.phaseY + points(ink.y) * placement.scaleY)) - 1;
+  const double right = placement.phaseX + points(ink.x + ink.width) * placement.scaleX;
+  const double bottom = placement.phaseY + points(ink.y + ink.height) * placement.scaleY;
+  const int width = static_cast<int>(std::ceil(right)) + 1 - mask.x;
+  const int height = static_cast<int>(std::ceil(bottom)) + 1 - mask.y;
+  mask.surface.reset(cairo_image_surface_create(CAIRO_FORMAT_A8, width, height));
+  const ContextPointer context(cairo_create(mask.surface.get()));
+  cairo_translate(context.get(), placement.phaseX - mask.x, placement.phaseY - mask.y);
+  cairo_scale(context.get(), placement.scaleX, placement.scaleY);
+  // Outlines keep glyphs at fractions of a pixel; cairo's glyph pictures sit on whole pixels only.
+  cairo_set_antialias(context.get(), CAIRO_ANTIALIAS_BEST);
+  pango_cairo_layout_line_path(context.get(), shapedLine);
+  cairo_fill(context.get());
+  return mask;
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,43 @@
+// Turns one line of text into placed glyphs of the pinned fonts. Measuring and drawing both go
+// through here, so that what was measured is what is drawn.
+#pragma once
+
+#include <string>
+
+#include <pango/pango.h>
+
+#include "Orvane/ui/Font.hpp"
+#include "desk/canvas/CairoPointers.hpp"
+#include "desk/canvas/MaskCache.hpp"
+#include "desk/canvas/PixelPlacement.hpp"
+
+namespace orvane::desk {
+
+/// Sizes of a line in points.
+struct LineMetrics {
+  double width = 0;
+  double ascent = 0;
+  double height = 0;
+};
+
+class TextShaper {
+ public:
+  TextShaper();
+
+  /// A pango layout of UTF-8 text without a width; invalid bytes are shown as pango shows them.
+  ObjectPointer<PangoLayout> layout(const std::string& text, const ui::Font& font) const;
+
+  /// The advance width of a line without line breaks, and the height and ascent of the faces that
+  /// it uses. An empty line has the height of the system face.
+  LineMetrics measure(const std::string& line, const ui::Font& font) const;
+
+  /// The coverage of a line whose baseline starts on the placement's anchor; without a surface
+  /// when there is nothing to see.
+  Mask makeMask(const std::string& line, const ui::Font& font,
+                const PixelPlacement& placement) const;
+
+ private:
+  ObjectPointer<PangoContext> context_;
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,37 @@
+# The symbols that have a drawing here; NAME stands for NAME.svg.
+set(orvane_symbol_names
+    accessibility
+    arrow.down
+    battery.100
+    checkmark
+    checkmark.circle.fill
+    chevron.down
+    chevron.left
+    chevron.right
+    chevron.up.chevron.down
+    display
+    display.trianglebadge.exclamationmark
+    doc.text
+    dock.rectangle
+    envelope
+    exclamationmark.triangle.fill
+    eye
+    eye.slash
+    gearshape
+    gearshape.fill
+    globe
+    hand.raised
+    keyboard
+    lifepreserver
+    lock
+    lock.fill
+    lock.open
+    lock.shield
+    macwindow
+    magnifyingglass
+    minus
+    plus
+    power
+    wifi
+    xmark
+    xmark.circle.fill)
