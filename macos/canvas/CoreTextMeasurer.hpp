@@ -1,0 +1,23 @@
+// Measures and breaks text with Core Text.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+#include "Orvane/base/CFRef.hpp"
+#include "Orvane/platform/Quartz.hpp"
+#include "Orvane/ui/Appearance.hpp"
+#include "Orvane/ui/TextMeasurer.hpp"
+
+namespace orvane::appkit {
+
+/// One line as it is measured and drawn. The colour matters only for drawing.
+[[nodiscard]] CFRef<CTLineRef> textLine(NSString* _Nonnull text, const ui::Font& font,
+                                        const ui::Rgba& color = {});
+
+class CoreTextMeasurer : public ui::TextMeasurer {
+ public:
+  ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
+                        int lineLimit) override;
+};
+
+}  // namespace orvane::appkit

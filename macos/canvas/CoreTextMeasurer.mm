@@ -1,0 +1,113 @@
+// Measures and breaks text with Core Text.
+#include "macos/canvas/CoreTextMeasurer.hpp"
+
+#import <AppKit/AppKit.h>
+#import <CoreText/CoreText.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "macos/appkit/Strings.hpp"
+#include "macos/canvas/SystemFont.hpp"
+
+namespace orvane::appkit {
+namespace {
+
+NSAttributedString* attributed(NSString* text, const ui::Font& font, const ui::Rgba& color) {
+  const auto painted =
+      CFRef<CGColorRef>::owning(CGColorCreateSRGB(color.red, color.green, color.blue, color.alpha));
+  return [[NSAttributedString alloc]
+      initWithString:text
+          attributes:@{
+            (id)kCTFontAttributeName : systemFont(font),
+            (id)kCTForegroundColorAttributeName : (__bridge id)painted.get(),
+          }];
+}
+
+double lineWidth(NSString* text, const ui::Font& font) {
+  return CTLineGetTypographicBounds(textLine(text, font).get(), nullptr, nullptr, nullptr);
+}
+
+NSString* withoutTrailingBlanks(NSString* text) {
+  NSUInteger length = text.length;
+  while (length > 0 && [NSCharacterSet.whitespaceCharacterSet
+                           characterIsMember:[text characterAtIndex:length - 1]]) {
+    --length;
+  }
+  return [text substringToIndex:length];
+}
+
+/// The text with an ellipsis, cut to the greatest number of whole characters that fits.
+NSString* truncated(NSString* text, const ui::Font& font, double maximumWidth) {
+  NSUInteger length = text.length;
+  while (true) {
+    NSString* const candidate = [[text substringToIndex:length] stringByAppendingString:@"…"];
+    if (length == 0 || lineWidth(candidate, font) <= maximumWidth) {
+      return candidate;
+    }
+    length = [text rangeOfComposedCharacterSequenceAtIndex:length - 1].location;
+  }
+}
+
+struct BrokenLine {
+  NSString* text;
+  /// The paragraph from this line on.
+  NSString* rest;
+};
+
+void breakParagraph(NSString* paragraph, const ui::Font& font, double maximumWidth,
+                    std::vector<BrokenLine>& lines) {
+  NSString* rest = paragraph;
+  while (lineWidth(rest, font) > maximumWidth) {
+    const auto typesetter = CFRef<CTTypesetterRef>::owning(CTTypesetterCreateWithAttributedString(
+        (__bridge CFAttributedStringRef)attributed(rest, font, {})));
+    const CFIndex suggested = CTTypesetterSuggestLineBreak(typesetter.get(), 0, maximumWidth);
+    // However narrow, a line holds a character.
+    const NSUInteger least = NSMaxRange([rest rangeOfComposedCharacterSequenceAtIndex:0]);
+    const NSUInteger end =
+        std::clamp(static_cast<NSUInteger>(std::max<CFIndex>(0, suggested)), least, rest.length);
+    if (end == rest.length) {
+      break;
+    }
+    lines.push_back({withoutTrailingBlanks([rest substringToIndex:end]), rest});
+    rest = [rest substringFromIndex:end];
+  }
+  lines.push_back({rest, rest});
+}
+
+}  // namespace
+
+CFRef<CTLineRef> textLine(NSString* text, const ui::Font& font, const ui::Rgba& color) {
+  return CFRef<CTLineRef>::owning(CTLineCreateWithAttributedString(
+      (__bridge CFAttributedStringRef)attributed(text, font, color)));
+}
+
+ui::TextLayout CoreTextMeasurer::layout(const std::string& text, const ui::Font& font,
+                                        double maximumWidth, int lineLimit) {
+  const double allowed = maximumWidth > 0 ? maximumWidth : 0;
+  std::vector<BrokenLine> lines;
+  NSString* const whole = foundationString(text);
+  for (NSString* paragraph in [whole == nil ? @"" : whole componentsSeparatedByString:@"\n"]) {
+    breakParagraph(paragraph, font, allowed, lines);
+  }
+
+  ui::TextLayout layout;
+  const auto limit = static_cast<std::size_t>(std::max(0, lineLimit));
+  if (limit > 0 && lines.size() > limit) {
+    layout.isTruncated = true;
+    lines.resize(limit);
+    lines.back().text = truncated(lines.back().rest, font, allowed);
+  }
+  for (const BrokenLine& line : lines) {
+    layout.lines.push_back({utf8String(line.text), lineWidth(line.text, font)});
+  }
+  NSFont* const platformFont = systemFont(font);
+  layout.ascent = platformFont.ascender;
+  // Whole points from line to line, as the system's own labels have them.
+  layout.lineHeight =
+      std::ceil(platformFont.ascender - platformFont.descender + platformFont.leading);
+  return layout;
+}
+
+}  // namespace orvane::appkit

@@ -1,0 +1,22 @@
+// The system's symbols and the bundle's images, by name.
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include <string>
+
+#include "Orvane/ui/ImageSource.hpp"
+
+namespace orvane::appkit {
+
+/// A symbol of one colour in the font's size and weight, drawn in black; nil when the system knows
+/// no symbol of the name.
+[[nodiscard]] NSImage* _Nullable symbolImage(const std::string& name, const ui::Font& font);
+
+/// An image of the bundle's resources; nil when there is none of the name.
+[[nodiscard]] NSImage* _Nullable resourceImage(const std::string& name);
+
+/// The sizes of both for layout.
+[[nodiscard]] ui::ImageSource systemImageSource();
+
+}  // namespace orvane::appkit

@@ -1,0 +1,15 @@
+// The entry of the application on a Mac: it brings back the lock of the last run and hands over to
+// the run loop.
+#import <AppKit/AppKit.h>
+
+#include "Orvane/app/OrvaneAppState.hpp"
+#include "Orvane/platform/appkit/Application.hpp"
+
+int main() {
+  @autoreleasepool {
+    NSApplication* const application = NSApplication.sharedApplication;
+    orvane::appkit::Application::setActivationPolicy(orvane::appkit::ActivationPolicy::accessory);
+    orvane::OrvaneAppState::model().restoreLockIfNeeded();
+    [application run];
+  }
+}
