@@ -21,14 +21,25 @@ function(orvane_library name)
 endfunction()
 
 # orvane_test(NAME SOURCES file... [LIBRARIES library...] [LABELS label...]): a GoogleTest
-# executable; every test in it is one test of ctest.
+# executable; every test in it is one test of ctest. In the sanitizers' build its name says so.
 function(orvane_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;LABELS")
+  if(ORVANE_SPEED_TESTS_ONLY AND NOT "speed" IN_LIST arg_LABELS)
+    return()
+  endif()
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE orvane_flags ${arg_LIBRARIES} GTest::gtest_main)
+  set(prefix "")
+  if(ORVANE_SANITIZE)
+    set(prefix "asan.")
+  endif()
   set(properties TIMEOUT 300)
   if(arg_LABELS)
     list(APPEND properties LABELS "${arg_LABELS}")
   endif()
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES ${properties})
+  gtest_discover_tests(
+    ${name}
+    DISCOVERY_MODE PRE_TEST
+    TEST_PREFIX "${prefix}"
+    PROPERTIES ${properties})
 endfunction()
