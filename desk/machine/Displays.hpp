@@ -19,6 +19,9 @@ class Displays {
  public:
   using Complaint = std::optional<std::string>;
 
+  /// The height of the menu bar at the top of every display, in points.
+  static constexpr double menuBarHeight = 24;
+
   /// Attaches at the end of the list. The frame must be finite and not empty, the number new.
   [[nodiscard]] Complaint attach(Display display, bool asMain = false);
   [[nodiscard]] Complaint detach(std::uint32_t number);
@@ -49,12 +52,23 @@ class Displays {
   [[nodiscard]] const std::vector<CGRect>& globalFrames() const { return globalFrames_; }
   /// The first display that contains the point; `preferred` is asked first.
   [[nodiscard]] std::optional<std::size_t> indexContaining(CGPoint globalPoint,
-                                                           std::size_t preferred = 0) const;
+                                                           std::size_t preferred = 0) const {
+    if (preferred < globalFrames_.size() && contains(globalFrames_[preferred], globalPoint)) {
+      return preferred;
+    }
+    return search(globalPoint);
+  }
   /// The rectangle in the other of the two coordinate systems, in either direction.
   [[nodiscard]] CGRect flipped(CGRect rect) const;
   [[nodiscard]] CGPoint flipped(CGPoint point) const;
 
  private:
+  /// Like CGRectContainsPoint; a display's frame is never empty or negative.
+  [[nodiscard]] static bool contains(const CGRect& frame, CGPoint point) {
+    return point.x >= frame.origin.x && point.x < frame.origin.x + frame.size.width &&
+           point.y >= frame.origin.y && point.y < frame.origin.y + frame.size.height;
+  }
+  [[nodiscard]] std::optional<std::size_t> search(CGPoint globalPoint) const;
   [[nodiscard]] Display* findMutable(std::uint32_t number);
   void changed();
   void refreshGlobalFrames();

@@ -64,7 +64,8 @@ class Dock {
   [[nodiscard]] CGRect frame() const;
   /// 0 hidden to 1 shown, in between while it slides, at the present time.
   [[nodiscard]] double shownFraction() const;
-  /// When it last began to slide in or out, in nanoseconds of the machine's clock.
+  /// When it last began to slide in or out, in nanoseconds of the machine's clock; a slide takes
+  /// slideNanoseconds. Earlier than the turn itself when it turned round half way.
   [[nodiscard]] std::int64_t slideStartedAt() const { return slideStartedAt_; }
 
   /// How often it came up on each display, by the number the display had then. A Dock that lives
@@ -88,7 +89,6 @@ class Dock {
   [[nodiscard]] bool isBeyondEdge(CGPoint goal, const CGRect& frame) const;
   [[nodiscard]] bool hasNeighbourBehind(CGPoint place, std::size_t displayIndex) const;
   [[nodiscard]] bool isInArea(CGPoint place) const;
-  void moveTo(std::uint64_t identity);
   void countReveal();
   void setVisible(bool visible);
 
@@ -102,7 +102,7 @@ class Dock {
   /// 0 when there is no display.
   std::uint64_t displayIdentity_ = 0;
   std::uint64_t mainIdentity_ = 0;
-  std::int64_t slideStartedAt_ = 0;
+  std::int64_t slideStartedAt_ = -slideNanoseconds;
   std::map<std::uint32_t, std::int64_t> reveals_;
 };
 

@@ -28,9 +28,9 @@ class ObjectRegistry {
     return reference;
   }
 
-  /// An object that is never released and never counted, such as a constant string. It must outlive
-  /// the registry.
-  void addConstant(Object& object);
+  /// Declares an object that every machine knows, that is never released and never counted, such as
+  /// a constant string. It must live to the end of the program.
+  static void addConstant(Object& object);
 
   /// `operation` names the caller in the fault that is recorded when `reference` is null, was
   /// released or never was an object.
@@ -60,12 +60,12 @@ class ObjectRegistry {
     std::size_t order;
   };
 
+  [[nodiscard]] static std::map<const void*, Object*>& constants();
   void adopt(std::unique_ptr<Object> object);
   void recordMissing(const void* reference, const char* operation);
 
   Faults& faults_;
   std::map<const void*, Entry> live_;
-  std::map<const void*, Object*> constants_;
   std::deque<std::unique_ptr<Object>> quarantine_;
   std::size_t created_ = 0;
 };

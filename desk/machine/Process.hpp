@@ -2,12 +2,6 @@
 // belong to it and end with it; defaults, login item and permission stay.
 #pragma once
 
-#include <cstdint>
-#include <functional>
-#include <string>
-#include <utility>
-#include <vector>
-
 namespace orvane::desk {
 
 class Machine;
@@ -22,20 +16,16 @@ class Process {
   void start();
   /// Ends it, in order or by a crash: what is pending is destroyed without being run, then the
   /// shared objects of the process are destroyed, then the system takes back what was left. Nothing
-  /// that those destructors ask of the machine has an effect that outlives the process.
+  /// that those destructors ask of the machine has an effect that outlives the process. Core
+  /// Foundation objects that are left are told at the machine's end, not here.
   void end();
 
   [[nodiscard]] State state() const { return state_; }
   [[nodiscard]] bool isRunning() const { return state_ == State::running; }
 
-  /// The Core Foundation objects that the processes so far left behind, one line each.
-  [[nodiscard]] const std::vector<std::string>& leftObjects() const { return leftObjects_; }
-  std::vector<std::string> takeLeftObjects() { return std::exchange(leftObjects_, {}); }
-
  private:
   Machine& machine_;
   State state_ = State::notRunning;
-  std::vector<std::string> leftObjects_;
 };
 
 }  // namespace orvane::desk

@@ -96,7 +96,9 @@ class RunLoop {
   using Place = std::pair<std::int64_t, std::uint64_t>;
 
   [[nodiscard]] std::shared_ptr<RunLoopTimer> nextTimer() const;
+  /// False when nothing is due now.
   bool serveNext();
+  void serveInstant();
   void runTask();
   void fire(const std::shared_ptr<RunLoopTimer>& timer);
 
@@ -106,6 +108,7 @@ class RunLoop {
   std::map<Place, Task> tasks_;
   std::vector<std::shared_ptr<RunLoopTimer>> timers_;
   std::vector<std::pair<const void*, ModeSet>> sources_;
+  std::shared_ptr<RunLoopTimer> firing_;
   std::uint64_t nextSequence_ = 0;
   int mainQueueHolds_ = 0;
   bool acceptsTasks_ = true;

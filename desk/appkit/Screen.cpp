@@ -1,0 +1,96 @@
+// Screens on the desk: copies of the machine's displays as they are when the list is read.
+#include "Orvane/platform/appkit/Screen.hpp"
+
+#include <utility>
+
+#include "desk/machine/Machine.hpp"
+
+namespace orvane::appkit {
+
+struct Screen::Implementation {
+  desk::Display display;
+  CGRect visibleFrame;
+};
+
+namespace {
+
+/// The frame without the menu bar above and without the Dock, if the Dock is there to stay.
+CGRect visibleFrameOf(const desk::Machine& machine, const desk::Display& display) {
+  CGRect visible = display.frame;
+  visible.size.height -= desk::Displays::menuBarHeight;
+  const desk::Dock& dock = machine.dock;
+  if (dock.displayNumber() != display.number || dock.autoHides()) {
+    return visible;
+  }
+  switch (dock.edge()) {
+    case desk::DockEdge::bottom:
+      visible.origin.y += desk::Dock::depth;
+      visible.size.height -= desk::Dock::depth;
+      break;
+    case desk::DockEdge::left:
+      visible.origin.x += desk::Dock::depth;
+      visible.size.width -= desk::Dock::depth;
+      break;
+    case desk::DockEdge::right:
+      visible.size.width -= desk::Dock::depth;
+      break;
+  }
+  return visible;
+}
+
+Screen screenOf(const desk::Machine& machine, const desk::Display& display) {
+  return Screen(std::make_shared<const Screen::Implementation>(
+      Screen::Implementation{display, visibleFrameOf(machine, display)}));
+}
+
+}  // namespace
+
+Screen::Screen(std::shared_ptr<const Implementation> implementation)
+    : implementation_(std::move(implementation)) {}
+
+std::vector<Screen> Screen::screens() {
+  const desk::Machine& machine = desk::Machine::current();
+  std::vector<Screen> all;
+  for (const desk::Display& display : machine.displays.all()) {
+    all.push_back(screenOf(machine, display));
+  }
+  return all;
+}
+
+std::optional<Screen> Screen::mainScreen() {
+  const desk::Machine& machine = desk::Machine::current();
+  const desk::Display* const main = machine.displays.main();
+  return main == nullptr ? std::nullopt : std::optional(screenOf(machine, *main));
+}
+
+CGRect Screen::frame() const {
+  return implementation_->display.frame;
+}
+
+CGRect Screen::visibleFrame() const {
+  return implementation_->visibleFrame;
+}
+
+std::string Screen::localizedName() const {
+  return implementation_->display.name;
+}
+
+std::optional<std::int64_t> Screen::deviceNumber(std::string_view key) const {
+  const desk::Display& display = implementation_->display;
+  if (key == "NSScreenNumber" && display.hasNumberInDescription) {
+    return display.number;
+  }
+  if (key == "NSDeviceBitsPerSample") {
+    return display.bitsPerSample;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> Screen::deviceString(std::string_view key) const {
+  if (key == "NSDeviceColorSpaceName") {
+    return implementation_->display.colorSpace;
+  }
+  return std::nullopt;
+}
+
+}  // namespace orvane::appkit

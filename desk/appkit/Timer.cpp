@@ -1,0 +1,52 @@
+// Timers on the desk belong to the machine's run loop.
+#include "Orvane/platform/appkit/Timer.hpp"
+
+#include <utility>
+
+#include "desk/machine/Machine.hpp"
+
+namespace orvane::appkit {
+
+struct Timer::Implementation {
+  std::shared_ptr<desk::RunLoopTimer> timer;
+};
+
+Timer Timer::repeating(double intervalSeconds, RunLoopMode mode, std::function<void()> tick) {
+  const desk::RunLoop::ModeSet modes =
+      mode == RunLoopMode::common
+          ? desk::RunLoop::commonModes
+          : static_cast<desk::RunLoop::ModeSet>(desk::RunLoop::Mode::standard);
+  auto timer = desk::Machine::current().runLoop.addTimer(desk::Clock::fromSeconds(intervalSeconds),
+                                                         modes, std::move(tick));
+  return Timer(std::make_unique<Implementation>(Implementation{std::move(timer)}));
+}
+
+Timer::Timer(std::unique_ptr<Implementation> implementation)
+    : implementation_(std::move(implementation)) {}
+
+Timer::Timer(Timer&&) noexcept = default;
+
+Timer& Timer::operator=(Timer&& other) noexcept {
+  if (this != &other) {
+    invalidate();
+    implementation_ = std::move(other.implementation_);
+  }
+  return *this;
+}
+
+Timer::~Timer() {
+  invalidate();
+}
+
+void Timer::invalidate() {
+  if (isValid()) {
+    desk::Machine::current().runLoop.invalidateTimer(implementation_->timer);
+  }
+}
+
+bool Timer::isValid() const {
+  // A timer that was swept away with its process, and perhaps with its machine, is not valid.
+  return implementation_ != nullptr && implementation_->timer->isValid;
+}
+
+}  // namespace orvane::appkit

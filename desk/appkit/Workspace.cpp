@@ -1,0 +1,39 @@
+// Opening links on the desk: the machine notes what was asked for.
+#include "Orvane/platform/appkit/Workspace.hpp"
+
+#include "desk/machine/Machine.hpp"
+#include "desk/quartz/Utf8.hpp"
+
+namespace orvane::appkit {
+
+bool Workspace::openURL(std::string_view url) {
+  return desk::Machine::current().links.openURL(url);
+}
+
+bool Workspace::openFile(std::string_view path) {
+  return desk::Machine::current().links.openFile(path);
+}
+
+std::optional<std::string> Workspace::percentEncodedForQuery(std::string_view text) {
+  if (!desk::Utf8::isValid(text)) {
+    return std::nullopt;
+  }
+  // NSCharacterSet.URLQueryAllowedCharacterSet: the query of RFC 3986, section 3.4.
+  constexpr std::string_view allowed =
+      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789!$&'()*+,-./:;=?@_~";
+  constexpr std::string_view hexDigits = "0123456789ABCDEF";
+  std::string encoded;
+  for (const char character : text) {
+    if (allowed.find(character) != std::string_view::npos) {
+      encoded += character;
+    } else {
+      const auto byte = static_cast<unsigned char>(character);
+      encoded += '%';
+      encoded += hexDigits[byte >> 4U];
+      encoded += hexDigits[byte & 15U];
+    }
+  }
+  return encoded;
+}
+
+}  // namespace orvane::appkit

@@ -1,0 +1,193 @@
+// When the Dock moves, comes up and hides.
+#include "desk/machine/Dock.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+namespace orvane::desk {
+
+namespace {
+
+/// How much of the edge the drawn Dock takes.
+constexpr double drawnShareOfEdge = 0.6;
+
+bool isBetween(double value, double low, double high) {
+  return value >= low && value < high;
+}
+
+}  // namespace
+
+void Dock::readPreferences(const Preferences& preferences, CGPoint pointerPlace) {
+  edge_ = DockEdge::bottom;
+  if (const auto value = preferences.stored(preferencesDomain, orientationKey)) {
+    const auto* const text = std::get_if<std::string>(&*value);
+    if (text != nullptr && *text == "left") {
+      edge_ = DockEdge::left;
+    } else if (text != nullptr && *text == "right") {
+      edge_ = DockEdge::right;
+    }
+  }
+  const auto value = preferences.stored(preferencesDomain, autoHideKey);
+  autoHides_ = value == PropertyValue(true);
+  if (displayIdentity_ != 0) {
+    setVisible(!autoHides_ || (isVisible_ && isInArea(pointerPlace)));
+  }
+}
+
+void Dock::displaysChanged(CGPoint pointerPlace) {
+  const Display* const main = displays_.main();
+  const std::uint64_t newMain = main == nullptr ? 0 : main->identity;
+  const bool followsMain = displayIdentity_ == mainIdentity_ && newMain != mainIdentity_;
+  mainIdentity_ = newMain;
+  if (followsMain || !displays_.indexOf(displayIdentity_)) {
+    displayIdentity_ = newMain;
+    setVisible(newMain != 0 && !autoHides_);
+    // The system puts it there without sliding.
+    slideStartedAt_ = clock_.now() - slideNanoseconds;
+  } else if (hidesWhenLeft_ && !isInArea(pointerPlace)) {
+    setVisible(false);
+  }
+}
+
+void Dock::pressed(CGPoint goal, CGPoint place, std::size_t displayIndex) {
+  const auto& frames = displays_.globalFrames();
+  const CGRect& frame = frames[displayIndex];
+  const auto own = this->displayIndex();
+  // A mirror of its own display shows the same Dock.
+  if (own && CGRectEqualToRect(frames[*own], frame)) {
+    if (!isVisible_ && !hasNeighbourBehind(place, displayIndex)) {
+      setVisible(true);
+      countReveal();
+    }
+    return;
+  }
+  if (isBeyondEdge(goal, frame) && !hasNeighbourBehind(place, displayIndex)) {
+    displayIdentity_ = displays_.all()[displayIndex].identity;
+    isVisible_ = false;
+    slideStartedAt_ = clock_.now() - slideNanoseconds;
+    setVisible(true);
+    countReveal();
+  } else if (hidesWhenLeft_) {
+    setVisible(false);
+  }
+}
+
+bool Dock::isBeyondEdge(CGPoint goal, const CGRect& frame) const {
+  switch (edge_) {
+    case DockEdge::bottom:
+      return goal.y >= frame.origin.y + frame.size.height;
+    case DockEdge::left:
+      return goal.x < frame.origin.x;
+    case DockEdge::right:
+      return goal.x >= frame.origin.x + frame.size.width;
+  }
+  return false;
+}
+
+bool Dock::hasNeighbourBehind(CGPoint place, std::size_t displayIndex) const {
+  const auto& frames = displays_.globalFrames();
+  const CGRect& frame = frames[displayIndex];
+  return std::any_of(frames.begin(), frames.end(), [&](const CGRect& other) {
+    if (CGRectEqualToRect(other, frame)) {
+      return false;
+    }
+    const double right = other.origin.x + other.size.width;
+    const double bottom = other.origin.y + other.size.height;
+    switch (edge_) {
+      case DockEdge::bottom:
+        return isBetween(place.x, other.origin.x, right) &&
+               std::abs(other.origin.y - (frame.origin.y + frame.size.height)) <=
+                   neighbourTolerance;
+      case DockEdge::left:
+        return isBetween(place.y, other.origin.y, bottom) &&
+               std::abs(right - frame.origin.x) <= neighbourTolerance;
+      case DockEdge::right:
+        return isBetween(place.y, other.origin.y, bottom) &&
+               std::abs(other.origin.x - (frame.origin.x + frame.size.width)) <= neighbourTolerance;
+    }
+    return false;
+  });
+}
+
+bool Dock::isInArea(CGPoint place) const {
+  const auto index = displayIndex();
+  if (!index) {
+    return false;
+  }
+  const CGRect& frame = displays_.globalFrames()[*index];
+  const double right = frame.origin.x + frame.size.width;
+  const double bottom = frame.origin.y + frame.size.height;
+  if (!isBetween(place.x, frame.origin.x, right) || !isBetween(place.y, frame.origin.y, bottom)) {
+    return false;
+  }
+  switch (edge_) {
+    case DockEdge::bottom:
+      return place.y >= bottom - depth;
+    case DockEdge::left:
+      return place.x < frame.origin.x + depth;
+    case DockEdge::right:
+      return place.x >= right - depth;
+  }
+  return false;
+}
+
+void Dock::countReveal() {
+  if (const auto number = displayNumber()) {
+    ++reveals_[*number];
+  }
+}
+
+void Dock::setVisible(bool visible) {
+  if (visible != isVisible_) {
+    // It turns round where it is: what was shown then is what has been slid already.
+    const double alreadySlid = visible ? shownFraction() : 1 - shownFraction();
+    isVisible_ = visible;
+    slideStartedAt_ =
+        clock_.now() - static_cast<std::int64_t>(alreadySlid * double{slideNanoseconds});
+  }
+  hidesWhenLeft_ = autoHides_ && isVisible_;
+}
+
+std::optional<std::size_t> Dock::displayIndex() const {
+  return displays_.indexOf(displayIdentity_);
+}
+
+std::optional<std::uint32_t> Dock::displayNumber() const {
+  const auto index = displayIndex();
+  return index ? std::optional(displays_.all()[*index].number) : std::nullopt;
+}
+
+CGRect Dock::frame() const {
+  const auto index = displayIndex();
+  if (!index) {
+    return {};
+  }
+  const CGRect& frame = displays_.globalFrames()[*index];
+  const double width = frame.size.width * drawnShareOfEdge;
+  const double height = frame.size.height * drawnShareOfEdge;
+  const double x = frame.origin.x + (frame.size.width - width) / 2;
+  const double y = frame.origin.y + (frame.size.height - height) / 2;
+  switch (edge_) {
+    case DockEdge::bottom:
+      return CGRectMake(x, frame.origin.y + frame.size.height - depth, width, depth);
+    case DockEdge::left:
+      return CGRectMake(frame.origin.x, y, depth, height);
+    case DockEdge::right:
+      return CGRectMake(frame.origin.x + frame.size.width - depth, y, depth, height);
+  }
+  return {};
+}
+
+double Dock::shownFraction() const {
+  const auto elapsed = static_cast<double>(clock_.now() - slideStartedAt_);
+  const double slid = std::min(elapsed / static_cast<double>(slideNanoseconds), 1.0);
+  return isVisible_ ? slid : 1 - slid;
+}
+
+std::int64_t Dock::revealCount(std::uint32_t displayNumber) const {
+  const auto count = reveals_.find(displayNumber);
+  return count == reveals_.end() ? 0 : count->second;
+}
+
+}  // namespace orvane::desk

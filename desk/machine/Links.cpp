@@ -1,0 +1,102 @@
+// What forms a URL, and what becomes of a request to open one.
+#include "desk/machine/Links.hpp"
+
+#include <algorithm>
+
+namespace orvane::desk {
+
+namespace {
+
+bool isLetter(char character) {
+  return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
+}
+
+bool isDigit(char character) {
+  return character >= '0' && character <= '9';
+}
+
+bool isHexDigit(char character) {
+  return isDigit(character) || (character >= 'a' && character <= 'f') ||
+         (character >= 'A' && character <= 'F');
+}
+
+/// RFC 3986, section 2.3.
+bool isUnreserved(char character) {
+  return isLetter(character) || isDigit(character) ||
+         std::string_view("-._~").find(character) != std::string_view::npos;
+}
+
+/// RFC 3986, section 2.2, without the number sign, which may stand once only.
+bool isReserved(char character) {
+  return std::string_view(":/?[]@!$&'()*+,;=").find(character) != std::string_view::npos;
+}
+
+bool isScheme(std::string_view text) {
+  return !text.empty() && isLetter(text.front()) &&
+         std::all_of(text.begin(), text.end(), [](char character) {
+           return isLetter(character) || isDigit(character) || character == '+' ||
+                  character == '-' || character == '.';
+         });
+}
+
+}  // namespace
+
+bool Links::formsURL(std::string_view text) {
+  const std::size_t colon = text.find(':');
+  if (colon == std::string_view::npos || !isScheme(text.substr(0, colon))) {
+    return false;
+  }
+  const std::string_view rest = text.substr(colon + 1);
+  if (std::count(rest.begin(), rest.end(), '#') > 1) {
+    return false;
+  }
+  for (std::size_t index = 0; index < rest.size(); ++index) {
+    const char character = rest[index];
+    if (character == '%') {
+      if (index + 2 >= rest.size() || !isHexDigit(rest[index + 1]) ||
+          !isHexDigit(rest[index + 2])) {
+        return false;
+      }
+      index += 2;
+    } else if (!isUnreserved(character) && !isReserved(character) && character != '#') {
+      return false;
+    }
+  }
+  return true;
+}
+
+std::string Links::fileURL(std::string_view absolutePath) {
+  constexpr std::string_view hexDigits = "0123456789ABCDEF";
+  std::string url = "file://";
+  for (const char character : absolutePath) {
+    const auto byte = static_cast<unsigned char>(character);
+    // What a URL's path may hold as it is: RFC 3986, section 3.3.
+    if (isUnreserved(character) ||
+        std::string_view("/:@!$&'()*+,=").find(character) != std::string_view::npos) {
+      url += character;
+    } else {
+      url += '%';
+      url += hexDigits[byte >> 4U];
+      url += hexDigits[byte & 15U];
+    }
+  }
+  return url;
+}
+
+bool Links::openURL(std::string_view url) {
+  return formsURL(url) && note(std::string(url), url.starts_with("file:"));
+}
+
+bool Links::openFile(std::string_view path) {
+  return path.starts_with('/') && note(fileURL(path), true);
+}
+
+bool Links::note(std::string url, bool isFile) {
+  const bool isRefused = std::any_of(
+      refusedPrefixes_.begin(), refusedPrefixes_.end(),
+      [&url](const std::string& prefix) { return url.compare(0, prefix.size(), prefix) == 0; });
+  opened_.push_back({std::move(url), isFile, !isRefused});
+  return !isRefused;
+}
+
+}  // namespace orvane::desk

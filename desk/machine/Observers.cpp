@@ -1,0 +1,41 @@
+// Posting to observers that may come and go meanwhile.
+#include "desk/machine/Observers.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace orvane::desk {
+
+std::shared_ptr<Observers::Observer> Observers::add(appkit::NotificationName name,
+                                                    std::function<void()> block) {
+  auto observer = std::make_shared<Observer>(Observer{name, std::move(block)});
+  observers_.push_back(observer);
+  return observer;
+}
+
+void Observers::remove(const std::shared_ptr<Observer>& observer) {
+  observer->isRegistered = false;
+  const auto registered = std::find(observers_.begin(), observers_.end(), observer);
+  if (registered != observers_.end()) {
+    observers_.erase(registered);
+  }
+}
+
+void Observers::post(appkit::NotificationName name) {
+  const auto told = observers_;
+  for (const auto& observer : told) {
+    if (observer->isRegistered && observer->name == name && observer->block) {
+      observer->block();
+    }
+  }
+}
+
+void Observers::removeAll() {
+  // What the blocks hold may ask for the observers again while it is destroyed.
+  const auto removed = std::exchange(observers_, {});
+  for (const auto& observer : removed) {
+    observer->isRegistered = false;
+  }
+}
+
+}  // namespace orvane::desk

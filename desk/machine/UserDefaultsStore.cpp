@@ -1,0 +1,35 @@
+// The stored user defaults and how often each was written.
+#include "desk/machine/UserDefaultsStore.hpp"
+
+#include <utility>
+
+namespace orvane::desk {
+
+void UserDefaultsStore::set(std::string_view key, PropertyValue value) {
+  values_.insert_or_assign(std::string(key), std::move(value));
+  countWrite(key);
+}
+
+void UserDefaultsStore::remove(std::string_view key) {
+  if (const auto value = values_.find(key); value != values_.end()) {
+    values_.erase(value);
+  }
+  countWrite(key);
+}
+
+std::optional<PropertyValue> UserDefaultsStore::value(std::string_view key) const {
+  const auto value = values_.find(key);
+  return value == values_.end() ? std::nullopt : std::optional(value->second);
+}
+
+std::int64_t UserDefaultsStore::writeCount(std::string_view key) const {
+  const auto count = writeCounts_.find(key);
+  return count == writeCounts_.end() ? 0 : count->second;
+}
+
+void UserDefaultsStore::countWrite(std::string_view key) {
+  ++writeCount_;
+  ++writeCounts_[std::string(key)];
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,22 @@
+// What all Core Foundation objects have in common: counting references, and their kind.
+#include "Orvane/platform/Quartz.hpp"
+#include "desk/machine/Machine.hpp"
+
+using orvane::desk::Machine;
+
+CFTypeRef CFRetain(CFTypeRef object) {
+  Machine::current().objects.retain(object, "CFRetain");
+  return object;
+}
+
+void CFRelease(CFTypeRef object) {
+  // An object that outlives its machine was told as left when the machine ended.
+  if (Machine* const machine = Machine::currentOrNull()) {
+    machine->objects.release(object, "CFRelease");
+  }
+}
+
+CFTypeID CFGetTypeID(CFTypeRef object) {
+  const auto* const found = Machine::current().objects.find(object, "CFGetTypeID");
+  return found == nullptr ? 0 : static_cast<CFTypeID>(found->kind());
+}

@@ -1,0 +1,18 @@
+// The simulated CFUUID. It keeps the text that the display was attached with, whatever its form, so
+// that a script can use short ones.
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "Orvane/platform/Quartz.hpp"
+#include "desk/machine/Object.hpp"
+
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the platform's own name for it.
+struct __CFUUID final : orvane::desk::Object {
+  explicit __CFUUID(std::string content)
+      : Object(orvane::desk::ObjectKind::uuid), text(std::move(content)) {}
+  [[nodiscard]] std::string description() const override { return "CFUUID " + text; }
+
+  const std::string text;
+};

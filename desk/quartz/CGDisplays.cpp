@@ -1,0 +1,27 @@
+// What Core Graphics knows of a display by its number.
+#include <memory>
+
+#include "desk/machine/Machine.hpp"
+#include "desk/quartz/CFUUID.hpp"
+
+using orvane::desk::Display;
+using orvane::desk::Machine;
+
+CFUUIDRef CGDisplayCreateUUIDFromDisplayID(std::uint32_t displayID) {
+  Machine& machine = Machine::current();
+  const Display* const display = machine.displays.find(displayID);
+  if (display == nullptr || !display->uuid) {
+    return nullptr;
+  }
+  return machine.objects.add(std::make_unique<__CFUUID>(*display->uuid));
+}
+
+boolean_t CGDisplayIsMain(CGDirectDisplayID display) {
+  const Display* const main = Machine::current().displays.main();
+  return main != nullptr && main->number == display ? 1 : 0;
+}
+
+boolean_t CGDisplayIsBuiltin(CGDirectDisplayID display) {
+  const Display* const found = Machine::current().displays.find(display);
+  return found != nullptr && found->isBuiltIn ? 1 : 0;
+}

@@ -1,0 +1,81 @@
+// Rectangles as Core Graphics documents them: every function takes a rectangle with a negative size
+// as the standardised one, which has a positive size and another origin.
+#include <cmath>
+#include <limits>
+
+#include "Orvane/platform/Quartz.hpp"
+
+namespace {
+
+/// The null rectangle, which is no rectangle at all, has its origin at infinity.
+bool isNull(const CGRect& rect) {
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  return rect.origin.x == infinity || rect.origin.y == infinity;
+}
+
+CGRect standardised(CGRect rect) {
+  if (rect.size.width < 0) {
+    rect.origin.x += rect.size.width;
+    rect.size.width = -rect.size.width;
+  }
+  if (rect.size.height < 0) {
+    rect.origin.y += rect.size.height;
+    rect.size.height = -rect.size.height;
+  }
+  return rect;
+}
+
+}  // namespace
+
+CGFloat CGRectGetMinX(CGRect rect) {
+  return standardised(rect).origin.x;
+}
+
+CGFloat CGRectGetMidX(CGRect rect) {
+  const CGRect standard = standardised(rect);
+  return standard.origin.x + standard.size.width / 2;
+}
+
+CGFloat CGRectGetMaxX(CGRect rect) {
+  const CGRect standard = standardised(rect);
+  return standard.origin.x + standard.size.width;
+}
+
+CGFloat CGRectGetMinY(CGRect rect) {
+  return standardised(rect).origin.y;
+}
+
+CGFloat CGRectGetMidY(CGRect rect) {
+  const CGRect standard = standardised(rect);
+  return standard.origin.y + standard.size.height / 2;
+}
+
+CGFloat CGRectGetMaxY(CGRect rect) {
+  const CGRect standard = standardised(rect);
+  return standard.origin.y + standard.size.height;
+}
+
+CGFloat CGRectGetWidth(CGRect rect) {
+  return std::abs(rect.size.width);
+}
+
+CGFloat CGRectGetHeight(CGRect rect) {
+  return std::abs(rect.size.height);
+}
+
+bool CGRectContainsPoint(CGRect rect, CGPoint point) {
+  const CGRect standard = standardised(rect);
+  return !isNull(rect) && point.x >= standard.origin.x &&
+         point.x < standard.origin.x + standard.size.width && point.y >= standard.origin.y &&
+         point.y < standard.origin.y + standard.size.height;
+}
+
+bool CGRectEqualToRect(CGRect first, CGRect second) {
+  if (isNull(first) || isNull(second)) {
+    return isNull(first) && isNull(second);
+  }
+  const CGRect one = standardised(first);
+  const CGRect other = standardised(second);
+  return one.origin.x == other.origin.x && one.origin.y == other.origin.y &&
+         one.size.width == other.size.width && one.size.height == other.size.height;
+}
