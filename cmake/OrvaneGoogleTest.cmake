@@ -1,13 +1,14 @@
-# GoogleTest for the tests: the installed library; in a cross build, where the installed one is for
-# the wrong system, its sources as Debian's package googletest lays them out.
-if(NOT CMAKE_CROSSCOMPILING)
+# GoogleTest for the tests: the installed library, or its sources where one is needed that does not
+# come installed: in a cross build (Debian's package googletest lays them out), and wherever
+# ORVANE_GOOGLETEST_SOURCE names them, as for a Mac's universal build.
+if(NOT CMAKE_CROSSCOMPILING AND NOT ORVANE_GOOGLETEST_SOURCE)
   find_package(GTest REQUIRED)
   return()
 endif()
 
 find_path(ORVANE_GOOGLETEST_SOURCE googletest/src/gtest-all.cc
           PATHS /usr/src/googletest
-          DOC "The sources of GoogleTest, for a cross build" NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+          DOC "The sources of GoogleTest" NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 set(BUILD_GMOCK OFF CACHE BOOL "" FORCE)
 set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
 # An old release asks for an old CMake; that is its own affair.
