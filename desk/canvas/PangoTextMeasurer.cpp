@@ -59,11 +59,8 @@ ui::TextLayout PangoTextMeasurer::layout(const std::string& text, const ui::Font
 
 ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::Font& font,
                                             double maximumWidth, int lineLimit) const {
-  // pango shows bytes that are no UTF-8 as a replacement, but its offsets need valid text.
-  gchar* valid = g_utf8_make_valid(text.data(), static_cast<gssize>(text.size()));
-  const std::string source(valid);
-  g_free(valid);
-
+  // The offsets of the breaks are taken from the text, so it has to be what pango sees.
+  const std::string source = validText(text);
   ui::TextLayout layout;
   std::size_t from = 0;
   while (true) {

@@ -22,7 +22,22 @@ struct DescriptionRelease {
   }
 };
 
+struct AttributesRelease {
+  void operator()(PangoAttrList* attributes) const { pango_attr_list_unref(attributes); }
+};
+
 }  // namespace
+
+std::string validText(const std::string& text) {
+  const auto length = static_cast<gssize>(text.size());
+  if (g_utf8_validate(text.data(), length, nullptr) != FALSE) {
+    return text;
+  }
+  gchar* mended = g_utf8_make_valid(text.data(), length);
+  std::string result(mended);
+  g_free(mended);
+  return result;
+}
 
 TextShaper::TextShaper() : context_(pango_font_map_create_context(pinnedFontMap())) {
   const FontOptionsPointer options(cairo_font_options_create());
@@ -48,7 +63,12 @@ ObjectPointer<PangoLayout> TextShaper::layout(const std::string& text, const ui:
   pango_layout_set_font_description(layout.get(), description.get());
   pango_layout_set_auto_dir(layout.get(), FALSE);
   pango_layout_set_single_paragraph_mode(layout.get(), TRUE);
-  pango_layout_set_text(layout.get(), text.data(), static_cast<int>(text.size()));
+  // A word that is broken between characters gets no hyphen.
+  const std::unique_ptr<PangoAttrList, AttributesRelease> attributes(pango_attr_list_new());
+  pango_attr_list_insert(attributes.get(), pango_attr_insert_hyphens_new(FALSE));
+  pango_layout_set_attributes(layout.get(), attributes.get());
+  const std::string valid = validText(text);
+  pango_layout_set_text(layout.get(), valid.data(), static_cast<int>(valid.size()));
   return layout;
 }
 

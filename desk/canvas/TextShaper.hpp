@@ -20,11 +20,14 @@ struct LineMetrics {
   double height = 0;
 };
 
+/// The same text, with every byte that is no UTF-8 replaced by U+FFFD.
+std::string validText(const std::string& text);
+
 class TextShaper {
  public:
   TextShaper();
 
-  /// A pango layout of UTF-8 text without a width; invalid bytes are shown as pango shows them.
+  /// A pango layout of UTF-8 text without a width. A text that is not valid is mended first.
   ObjectPointer<PangoLayout> layout(const std::string& text, const ui::Font& font) const;
 
   /// The advance width of a line without line breaks, and the height and ascent of the faces that

@@ -1,0 +1,137 @@
+// The blur against the Gaussian it stands for, and its bounds.
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "desk/canvas/Blur.hpp"
+#include "desk/canvas/CairoPointers.hpp"
+#include "tests/canvas/PixelFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+SurfacePointer coverage(int width, int height) {
+  return SurfacePointer(cairo_image_surface_create(CAIRO_FORMAT_A8, width, height));
+}
+
+void fillCoverage(cairo_surface_t* surface, int left, int top, int right, int bottom, int value) {
+  unsigned char* data = cairo_image_surface_get_data(surface);
+  const int stride = cairo_image_surface_get_stride(surface);
+  for (int y = top; y < bottom; ++y) {
+    std::memset(data + y * stride + left, value, static_cast<std::size_t>(right - left));
+  }
+  cairo_surface_mark_dirty(surface);
+}
+
+double total(cairo_surface_t* surface) {
+  double sum = 0;
+  for (int y = 0; y < cairo_image_surface_get_height(surface); ++y) {
+    for (int x = 0; x < cairo_image_surface_get_width(surface); ++x) {
+      sum += coverageAt(surface, x, y);
+    }
+  }
+  return sum;
+}
+
+TEST(BlurTest, AnEdgeBecomesTheIntegralOfAGaussian) {
+  for (const double sigma : {1.5, 3.0, 4.3, 8.0}) {
+    const SurfacePointer surface = coverage(160, 3);
+    fillCoverage(surface.get(), 80, 0, 160, 3, 255);
+    blurSurface(surface.get(), sigma, BlurEdge::extended);
+    for (int x = 0; x < 160; ++x) {
+      const double distance = x + 0.5 - 80;
+      const double expected = 255 * 0.5 * (1 + std::erf(distance / sigma / std::sqrt(2.0)));
+      ASSERT_NEAR(coverageAt(surface.get(), x, 1), expected, 5) << x << " for " << sigma;
+    }
+  }
+}
+
+TEST(BlurTest, NothingIsTouchedBeyondTheReach) {
+  for (const double sigma : {0.4, 1.0, 2.5, 6.0}) {
+    const SurfacePointer surface = coverage(101, 101);
+    fillCoverage(surface.get(), 50, 50, 51, 51, 255);
+    blurSurface(surface.get(), sigma, BlurEdge::transparent);
+    const int reach = blurReach(sigma);
+    for (int x = 0; x < 101; ++x) {
+      if (std::abs(x - 50) > reach) {
+        ASSERT_EQ(coverageAt(surface.get(), x, 50), 0);
+      }
+    }
+  }
+}
+
+TEST(BlurTest, NoBlurLeavesThePictureAsItIs) {
+  const SurfacePointer surface = coverage(9, 9);
+  fillCoverage(surface.get(), 4, 4, 5, 5, 255);
+  for (const double sigma : {0.0, -3.0, std::nan("")}) {
+    blurSurface(surface.get(), sigma, BlurEdge::transparent);
+  }
+  EXPECT_EQ(total(surface.get()), 255);
+  EXPECT_EQ(coverageAt(surface.get(), 4, 4), 255);
+}
+
+TEST(BlurTest, AGrowingRadiusNeverMakesThePeakStep) {
+  int before = 255;
+  for (int step = 1; step <= 60; ++step) {
+    const SurfacePointer surface = coverage(81, 81);
+    fillCoverage(surface.get(), 30, 30, 51, 51, 255);
+    blurSurface(surface.get(), step * 0.1, BlurEdge::transparent);
+    const int peak = coverageAt(surface.get(), 29, 40);
+    EXPECT_LE(std::abs(peak - before), step == 1 ? 255 : 12) << step;
+    before = peak;
+  }
+}
+
+RC_GTEST_PROP(BlurProperty, TheAmountOfInkIsKeptAndSidesStayEqual, ()) {
+  const int width = *rc::gen::inRange(1, 20);
+  const int height = *rc::gen::inRange(1, 20);
+  const double sigma = *rc::gen::inRange(5, 60) / 10.0;
+  const int margin = blurReach(sigma);
+  const int fullWidth = width + 2 * margin;
+  const int fullHeight = height + 2 * margin;
+  const SurfacePointer surface = coverage(fullWidth, fullHeight);
+  fillCoverage(surface.get(), margin, margin, margin + width, margin + height, 255);
+  const double inkBefore = total(surface.get());
+  blurSurface(surface.get(), sigma, BlurEdge::transparent);
+  // Each of six passes rounds every pixel by at most a half.
+  const double rounding = 3.0 * fullWidth * fullHeight;
+  RC_ASSERT(std::abs(total(surface.get()) - inkBefore) <= rounding);
+  for (int y = 0; y < fullHeight; ++y) {
+    for (int x = 0; x < fullWidth; ++x) {
+      RC_ASSERT(coverageAt(surface.get(), x, y) == coverageAt(surface.get(), fullWidth - 1 - x, y));
+      RC_ASSERT(coverageAt(surface.get(), x, y) ==
+                coverageAt(surface.get(), x, fullHeight - 1 - y));
+    }
+  }
+}
+
+class BlurRegionTest : public PixelFixture {};
+
+TEST_F(BlurRegionTest, OnlyTheRegionChangesAndItSeesWhatLiesAround) {
+  begin(60, 60).fill(ui::Shape::rectangle({0, 0, 30, 60}), ui::Paint::solid(black));
+  canvas->fill(ui::Shape::rectangle({30, 0, 30, 60}), ui::Paint::solid(red));
+  blurRegion(surface.get(), {20, 20, 15, 20}, 4);
+  EXPECT_EQ(at(29, 19), fullBlack);
+  EXPECT_EQ(at(19, 30), fullBlack);
+  EXPECT_EQ(at(35, 30), fullRed);
+  EXPECT_EQ(at(30, 40), fullRed);
+  EXPECT_NEAR(at(29, 30).red + at(30, 30).red, 255, 3);
+  EXPECT_EQ(at(30, 30).alpha, 255);
+  // Next to the region's edge, five pixels from the boundary, a blur that saw only the region
+  // would not be symmetric about the boundary.
+  EXPECT_NEAR(at(34, 30).red, 255 - at(25, 30).red, 3);
+}
+
+TEST_F(BlurRegionTest, ARegionThatLeavesTheSurfaceIsCutToIt) {
+  begin(20, 20).fill(ui::Shape::rectangle({0, 0, 20, 20}), ui::Paint::solid(red));
+  blurRegion(surface.get(), {-10, -10, 60, 60}, 3);
+  blurRegion(surface.get(), {30, 30, 10, 10}, 3);
+  EXPECT_EQ(at(0, 0), fullRed);
+  EXPECT_EQ(at(19, 19), fullRed);
+}
+
+}  // namespace
+}  // namespace orvane::desk

@@ -1,0 +1,84 @@
+// A few pictures that are compared with their kept versions. To renew them after a wanted change,
+// run with ORVANE_RENEW_PICTURES=1 and look at what changed.
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "desk/canvas/PngFile.hpp"
+#include "desk/canvas/SymbolArtwork.hpp"
+#include "tests/canvas/PixelFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+using ui::Paint;
+using ui::Shape;
+
+class PictureTest : public PixelFixture {
+ protected:
+  void expectPicture(const std::string& name) {
+    const std::filesystem::path file =
+        std::filesystem::path(ORVANE_SOURCE_FOLDER) / "tests/canvas/pictures" / (name + ".png");
+    if (std::getenv("ORVANE_RENEW_PICTURES") != nullptr) {
+      ASSERT_TRUE(writePng(surface.get(), file));
+      return;
+    }
+    const SurfacePointer kept = readPng(file);
+    ASSERT_TRUE(kept) << file;
+    ASSERT_EQ(cairo_image_surface_get_width(kept.get()), width());
+    ASSERT_EQ(cairo_image_surface_get_height(kept.get()), height());
+    int worst = 0;
+    for (int y = 0; y < height(); ++y) {
+      for (int x = 0; x < width(); ++x) {
+        const Pixel a = at(x, y);
+        const Pixel b = pixelAt(kept.get(), x, y);
+        worst = std::max({worst, std::abs(a.red - b.red), std::abs(a.green - b.green),
+                          std::abs(a.blue - b.blue), std::abs(a.alpha - b.alpha)});
+      }
+    }
+    // The picture is written without premultiplication, which may cost a step on the way back.
+    constexpr int tolerance = 2;
+    EXPECT_LE(worst, tolerance) << name;
+    if (worst > tolerance) {
+      const auto shown = std::filesystem::path(testing::TempDir()) / (name + "-now.png");
+      writePng(surface.get(), shown);
+      std::cerr << "as drawn now: " << shown.string() << "\n";
+    }
+  }
+};
+
+TEST_F(PictureTest, ACardWithShadowGradientSymbolAndBothScripts) {
+  begin(240, 90, 2).fill(Shape::rectangle({0, 0, 240, 90}), Paint::solid({0.92, 0.92, 0.92, 1}));
+  const Shape card = Shape::roundedRectangle({20, 15, 200, 60}, 12);
+  canvas->shadow(card, {{0, 0, 0, 0.3}, 10, {0, 4}});
+  Paint veil;
+  veil.stops = {{{1, 1, 1, 0.9}, 0}, {{0.9, 0.95, 1, 0.8}, 1}};
+  veil.start = {0, 15};
+  veil.end = {0, 75};
+  canvas->fill(card, veil);
+  canvas->stroke(card.inset(0.4), Paint::solid({1, 1, 1, 0.7}), 0.8);
+  canvas->beginLayer({32, 27, 36, 36}, 0.9, ui::PaintShadow{{0, 0.4, 1, 0.4}, 6, {0, 2}});
+  canvas->fill(Shape::roundedRectangle({32, 27, 36, 36}, 9), Paint::solid({0, 0.48, 1, 1}));
+  canvas->symbol("lock", {18, ui::Weight::bold}, white, {32, 27, 36, 36});
+  canvas->endLayer();
+  canvas->text("Pin Dock", ui::Font::headline(), {0, 0, 0, 0.85}, {80, 42});
+  canvas->text("固定 Dock 到指定显示器", ui::Font::subheadline(), {0, 0, 0, 0.5}, {80, 59});
+  expectPicture("card");
+}
+
+TEST_F(PictureTest, AllSymbols) {
+  begin(320, 200, 2).fill(Shape::rectangle({0, 0, 320, 200}), Paint::solid({0.2, 0.2, 0.2, 1}));
+  int index = 0;
+  for (const SymbolArtwork& artwork : symbolArtworks()) {
+    canvas->symbol(std::string(artwork.name), {20, ui::Weight::medium}, white,
+                   {8.0 + 38 * (index % 8), 4.0 + 38 * (index / 8), 38, 38});
+    ++index;
+  }
+  expectPicture("symbols");
+}
+
+}  // namespace
+}  // namespace orvane::desk

@@ -1,0 +1,80 @@
+// Which face a text gets, and that no other one ever takes its place.
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <pango/pango.h>
+
+#include "desk/canvas/PinnedFonts.hpp"
+#include "desk/canvas/TextShaper.hpp"
+
+namespace orvane::desk {
+namespace {
+
+/// The faces that pango chose for a line, in the order of the text, as "family weight".
+std::vector<std::string> facesOf(const std::string& line, const ui::Font& font) {
+  const TextShaper shaper;
+  const ObjectPointer<PangoLayout> layout = shaper.layout(line, font);
+  std::vector<std::string> faces;
+  const PangoLayoutLine* shaped = pango_layout_get_line_readonly(layout.get(), 0);
+  for (const GSList* run = shaped->runs; run != nullptr; run = run->next) {
+    const auto* glyphs = static_cast<const PangoGlyphItem*>(run->data);
+    PangoFontDescription* face = pango_font_describe(glyphs->item->analysis.font);
+    const std::string name = std::string(pango_font_description_get_family(face)) + " " +
+                             std::to_string(pango_font_description_get_weight(face));
+    pango_font_description_free(face);
+    if (faces.empty() || faces.back() != name) {
+      faces.push_back(name);
+    }
+  }
+  return faces;
+}
+
+TEST(PinnedFontsTest, LatinTextIsInterInTheWeightAskedFor) {
+  EXPECT_EQ(facesOf("Pin Dock", ui::Font::system(13)), std::vector<std::string>{"Inter 400"});
+  EXPECT_EQ(facesOf("Pin Dock", ui::Font::system(13, ui::Weight::medium)),
+            std::vector<std::string>{"Inter 500"});
+  EXPECT_EQ(facesOf("Pin Dock", ui::Font::system(13, ui::Weight::semibold)),
+            std::vector<std::string>{"Inter 600"});
+  EXPECT_EQ(facesOf("Pin Dock", ui::Font::system(13, ui::Weight::black)),
+            std::vector<std::string>{"Inter 900"});
+}
+
+TEST(PinnedFontsTest, ChineseTextIsNotoSansInSimplifiedForms) {
+  EXPECT_EQ(facesOf("固定", ui::Font::system(13)),
+            std::vector<std::string>{"Noto Sans CJK SC 400"});
+  EXPECT_EQ(facesOf("固定 Dock", ui::Font::headline()),
+            (std::vector<std::string>{"Noto Sans CJK SC 700", "Inter 700"}));
+}
+
+TEST(PinnedFontsTest, TheKeysOfShortcutsAreInTheSystemFace) {
+  EXPECT_EQ(facesOf("⌥⌃⇧⌘", ui::Font::body()), std::vector<std::string>{"Inter 400"});
+}
+
+TEST(PinnedFontsTest, ACharacterOfNoPinnedFontIsNotTakenFromAnother) {
+  for (const std::string& face : facesOf("a😀b", ui::Font::body())) {
+    EXPECT_TRUE(face == "Inter 400" || face == "Noto Sans CJK SC 400") << face;
+  }
+}
+
+TEST(PinnedFontsTest, ThisMachineHasTheFonts) {
+  EXPECT_EQ(missingFontsMessage(), std::nullopt);
+}
+
+TEST(PinnedFontsDeathTest, AMachineWithoutTheFontsIsToldWhichPackagesToInstall) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto file = std::filesystem::path(testing::TempDir()) / "orvane-no-fonts.conf";
+  std::ofstream(file) << "<fontconfig></fontconfig>";
+  EXPECT_DEATH(
+      {
+        setenv("FONTCONFIG_FILE", file.c_str(), 1);
+        pinnedFontMap();
+      },
+      "Inter Regular.*Noto Sans CJK SC Bold.*fonts-inter and fonts-noto-cjk");
+}
+
+}  // namespace
+}  // namespace orvane::desk

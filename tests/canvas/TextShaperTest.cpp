@@ -1,0 +1,99 @@
+// Text on pixels: where it stands, how wide it is, what colour it has.
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "desk/canvas/TextShaper.hpp"
+#include "tests/canvas/PixelFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+class TextShaperTest : public PixelFixture {
+ protected:
+  /// The first and last column with more than half of the strongest ink.
+  std::pair<int, int> inkedColumns() {
+    std::pair<int, int> columns{-1, -1};
+    for (int x = 0; x < width(); ++x) {
+      for (int y = 0; y < height(); ++y) {
+        if (at(x, y).alpha > 127) {
+          columns = {columns.first < 0 ? x : columns.first, x};
+        }
+      }
+    }
+    return columns;
+  }
+};
+
+TEST_F(TextShaperTest, TheDrawnLineEndsWhereItsMeasureSays) {
+  for (const int scale : {1, 2, 4}) {
+    const ui::Font font = ui::Font::system(26);
+    begin(200, 40, scale).text("H", font, black, {10, 30});
+    const auto [left, letterEnd] = inkedColumns();
+    begin(200, 40, scale).text("HamburgH", font, black, {10, 30});
+    const auto [sameLeft, lineEnd] = inkedColumns();
+    EXPECT_EQ(left, sameLeft);
+    const double letter = resources.shaper.measure("H", font).width;
+    const double line = resources.shaper.measure("HamburgH", font).width;
+    EXPECT_NEAR(lineEnd - letterEnd, (line - letter) * scale, 1.01) << scale;
+  }
+}
+
+TEST_F(TextShaperTest, TheBaselineIsTheLowerEdgeOfAnH) {
+  begin(40, 40).text("H", ui::Font::system(20, ui::Weight::bold), black, {10, 30});
+  int lowest = 0;
+  for (int y = 0; y < 40; ++y) {
+    for (int x = 0; x < 40; ++x) {
+      lowest = at(x, y).alpha > 127 ? y : lowest;
+    }
+  }
+  EXPECT_EQ(lowest, 29);
+}
+
+TEST_F(TextShaperTest, TextIsGrayNeverColored) {
+  begin(80, 20).fill(ui::Shape::rectangle({0, 0, 80, 20}), ui::Paint::solid(white));
+  canvas->text("Hamburg", ui::Font::body(), black, {2.25, 15});
+  for (int y = 0; y < 20; ++y) {
+    for (int x = 0; x < 80; ++x) {
+      ASSERT_EQ(at(x, y).red, at(x, y).green);
+      ASSERT_EQ(at(x, y).red, at(x, y).blue);
+    }
+  }
+}
+
+TEST_F(TextShaperTest, TranslucentTextHasItsOwnAlpha) {
+  begin(40, 30).text("H", ui::Font::system(28, ui::Weight::black), {1, 0, 0, 0.5}, {5, 27});
+  int strongest = 0;
+  for (int y = 0; y < 30; ++y) {
+    for (int x = 0; x < 40; ++x) {
+      strongest = std::max(strongest, at(x, y).alpha);
+    }
+  }
+  EXPECT_NEAR(strongest, 128, 1);
+}
+
+TEST_F(TextShaperTest, ScaledTextIsDrawnAnewAtItsSize) {
+  const ui::Font font = ui::Font::system(20);
+  begin(200, 60).text("Ham", font, black, {0, 40});
+  const auto [left, right] = inkedColumns();
+  begin(200, 60).save();
+  canvas->transform(ui::Transform::scale(2, 2, {0, 40}));
+  canvas->text("Ham", font, black, {0, 40});
+  canvas->restore();
+  const auto [scaledLeft, scaledRight] = inkedColumns();
+  EXPECT_NEAR(scaledRight - scaledLeft, 2 * (right - left), 3);
+}
+
+TEST_F(TextShaperTest, AnEmptyLineAndBrokenBytesDoNoHarm) {
+  begin(40, 20).text("", ui::Font::body(), black, {0, 15});
+  canvas->text("   ", ui::Font::body(), black, {0, 15});
+  canvas->text("x", ui::Font::system(0), black, {0, 15});
+  EXPECT_EQ(ink(), 0);
+  canvas->text("a\xFF\xC3", ui::Font::body(), black, {0, 15});
+  EXPECT_GT(ink(), 0);
+}
+
+}  // namespace
+}  // namespace orvane::desk
