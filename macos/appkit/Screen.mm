@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include "macos/appkit/ScreenConversion.hpp"
 #include "macos/appkit/Strings.hpp"
 
 namespace orvane::appkit {
@@ -31,18 +32,22 @@ struct Screen::Implementation {
 Screen::Screen(std::shared_ptr<const Implementation> implementation)
     : implementation_(std::move(implementation)) {}
 
+std::optional<Screen> screenFrom(NSScreen* screen) {
+  return screen == nil
+             ? std::nullopt
+             : std::optional(Screen(std::make_shared<const Screen::Implementation>(screen)));
+}
+
 std::vector<Screen> Screen::screens() {
   std::vector<Screen> screens;
   for (NSScreen* screen in NSScreen.screens) {
-    screens.emplace_back(std::make_shared<const Implementation>(screen));
+    screens.push_back(*screenFrom(screen));
   }
   return screens;
 }
 
 std::optional<Screen> Screen::mainScreen() {
-  NSScreen* const screen = NSScreen.mainScreen;
-  return screen == nil ? std::nullopt
-                       : std::optional(Screen(std::make_shared<const Implementation>(screen)));
+  return screenFrom(NSScreen.mainScreen);
 }
 
 CGRect Screen::frame() const {

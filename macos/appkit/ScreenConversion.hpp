@@ -1,0 +1,15 @@
+// From the window system's screens to the seam's.
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include <optional>
+
+#include "Orvane/platform/appkit/Screen.hpp"
+
+namespace orvane::appkit {
+
+/// None for nil.
+[[nodiscard]] std::optional<Screen> screenFrom(NSScreen* _Nullable screen);
+
+}  // namespace orvane::appkit
