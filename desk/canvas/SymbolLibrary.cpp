@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 
 #include "desk/canvas/SymbolArtwork.hpp"
@@ -59,6 +60,38 @@ const SymbolArtwork* artworkOf(const std::string& name) {
   return found != artworks.end() && found->name == name ? &*found : nullptr;
 }
 
+// Fine pixels across and down in one pixel. Masks are shared between quarters of a pixel.
+constexpr int finePixels = 4;
+
+int floorDivided(int value, int divisor) {
+  return static_cast<int>(std::floor(static_cast<double>(value) / divisor));
+}
+
+/// The alpha of a picture, every pixel the mean of its fine pixels.
+SurfacePointer reducedAlpha(cairo_surface_t* picture, int width, int height) {
+  cairo_surface_flush(picture);
+  SurfacePointer result(cairo_image_surface_create(CAIRO_FORMAT_A8, width, height));
+  const unsigned char* fine = cairo_image_surface_get_data(picture);
+  const int fineStride = cairo_image_surface_get_stride(picture);
+  unsigned char* target = cairo_image_surface_get_data(result.get());
+  const int stride = cairo_image_surface_get_stride(result.get());
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      std::uint32_t sum = 0;
+      for (int row = y * finePixels; row < (y + 1) * finePixels; ++row) {
+        const auto* pixels = reinterpret_cast<const std::uint32_t*>(fine + row * fineStride);
+        for (int column = x * finePixels; column < (x + 1) * finePixels; ++column) {
+          sum += pixels[column] >> 24U;
+        }
+      }
+      constexpr std::uint32_t count = finePixels * finePixels;
+      target[y * stride + x] = static_cast<unsigned char>((sum + count / 2) / count);
+    }
+  }
+  cairo_surface_mark_dirty(result.get());
+  return result;
+}
+
 const guint8* bytesOf(const char* text) {
   return reinterpret_cast<const guint8*>(text);
 }
@@ -108,23 +141,24 @@ Mask SymbolLibrary::makeMask(const std::string& name, const ui::Font& font,
   }
   const double width = found->unitWidth * font.size / unitsPerPointSize * placement.scaleX;
   const double height = found->unitHeight * font.size / unitsPerPointSize * placement.scaleY;
-  const double left = placement.phaseX - width / 2.0;
-  const double top = placement.phaseY - height / 2.0;
+  // The drawing is made several times as large, on whole pixels of that size: librsvg would blur
+  // what it cuts holes into if it had to place it between pixels.
+  const int left = static_cast<int>(std::lround((placement.phaseX - width / 2.0) * finePixels));
+  const int top = static_cast<int>(std::lround((placement.phaseY - height / 2.0) * finePixels));
   Mask mask;
-  mask.x = static_cast<int>(std::floor(left));
-  mask.y = static_cast<int>(std::floor(top));
-  const int pixelWidth = static_cast<int>(std::ceil(left + width)) - mask.x;
-  const int pixelHeight = static_cast<int>(std::ceil(top + height)) - mask.y;
-  // The drawing cuts holes with masks, for which librsvg wants a surface with colours.
-  const SurfacePointer picture(
-      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixelWidth, pixelHeight));
+  mask.x = floorDivided(left, finePixels);
+  mask.y = floorDivided(top, finePixels);
+  const int pixelWidth = static_cast<int>(std::ceil(width)) + 1;
+  const int pixelHeight = static_cast<int>(std::ceil(height)) + 1;
+  // The holes need a surface with colours.
+  const SurfacePointer picture(cairo_image_surface_create(
+      CAIRO_FORMAT_ARGB32, pixelWidth * finePixels, pixelHeight * finePixels));
   const ContextPointer context(cairo_create(picture.get()));
-  const RsvgRectangle viewport{left - mask.x, top - mask.y, width, height};
+  const RsvgRectangle viewport{static_cast<double>(left - mask.x * finePixels),
+                               static_cast<double>(top - mask.y * finePixels), width * finePixels,
+                               height * finePixels};
   rsvg_handle_render_document(found->handle.get(), context.get(), &viewport, nullptr);
-  mask.surface.reset(cairo_image_surface_create(CAIRO_FORMAT_A8, pixelWidth, pixelHeight));
-  const ContextPointer alpha(cairo_create(mask.surface.get()));
-  cairo_set_source_surface(alpha.get(), picture.get(), 0, 0);
-  cairo_paint(alpha.get());
+  mask.surface = reducedAlpha(picture.get(), pixelWidth, pixelHeight);
   return mask;
 }
 

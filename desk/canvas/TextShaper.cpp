@@ -26,6 +26,26 @@ struct AttributesRelease {
   void operator()(PangoAttrList* attributes) const { pango_attr_list_unref(attributes); }
 };
 
+/// Says of every stretch of a text whether it is Chinese. pango would otherwise ask the
+/// environment, and a Japanese reader would be shown Japanese forms of the same characters.
+void addLanguages(PangoAttrList* attributes, const std::string& text) {
+  constexpr gunichar firstChinese = 0x2E80;
+  const char* place = text.c_str();
+  const char* end = place + text.size();
+  while (place < end) {
+    const char* start = place;
+    const bool isChinese = g_utf8_get_char(place) >= firstChinese;
+    while (place < end && (g_utf8_get_char(place) >= firstChinese) == isChinese) {
+      place = g_utf8_next_char(place);
+    }
+    PangoAttribute* language =
+        pango_attr_language_new(pango_language_from_string(isChinese ? "zh-cn" : "en"));
+    language->start_index = static_cast<guint>(start - text.c_str());
+    language->end_index = static_cast<guint>(place - text.c_str());
+    pango_attr_list_insert(attributes, language);
+  }
+}
+
 }  // namespace
 
 std::string validText(const std::string& text) {
@@ -66,8 +86,9 @@ ObjectPointer<PangoLayout> TextShaper::layout(const std::string& text, const ui:
   // A word that is broken between characters gets no hyphen.
   const std::unique_ptr<PangoAttrList, AttributesRelease> attributes(pango_attr_list_new());
   pango_attr_list_insert(attributes.get(), pango_attr_insert_hyphens_new(FALSE));
-  pango_layout_set_attributes(layout.get(), attributes.get());
   const std::string valid = validText(text);
+  addLanguages(attributes.get(), valid);
+  pango_layout_set_attributes(layout.get(), attributes.get());
   pango_layout_set_text(layout.get(), valid.data(), static_cast<int>(valid.size()));
   return layout;
 }

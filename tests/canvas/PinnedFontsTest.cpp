@@ -2,13 +2,17 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 #include <pango/pango.h>
 
+#include "desk/canvas/CairoCanvas.hpp"
+#include "desk/canvas/DrawingResources.hpp"
 #include "desk/canvas/PinnedFonts.hpp"
+#include "desk/canvas/PngFile.hpp"
 #include "desk/canvas/TextShaper.hpp"
 
 namespace orvane::desk {
@@ -74,6 +78,35 @@ TEST(PinnedFontsDeathTest, AMachineWithoutTheFontsIsToldWhichPackagesToInstall) 
         pinnedFontMap();
       },
       "Inter Regular.*Noto Sans CJK SC Bold.*fonts-inter and fonts-noto-cjk");
+}
+
+void drawChinese(const char* language, const std::filesystem::path& file) {
+  setenv("PANGO_LANGUAGE", language, 1);
+  setenv("LANG", language, 1);
+  DrawingResources resources;
+  const SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 200, 50));
+  CairoCanvas canvas(surface.get(), 1, resources);
+  canvas.text("直角骨设置", ui::Font::system(36), {0, 0, 0, 1}, {5, 40});
+  std::exit(writePng(surface.get(), file) ? 0 : 1);
+}
+
+std::string readFile(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+// pango reads the language of the environment once in a process, so each gets its own.
+TEST(PinnedFontsDeathTest, TheLanguageOfTheEnvironmentDoesNotChangeCharacters) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const std::filesystem::path folder = testing::TempDir();
+  const std::filesystem::path chinese = folder / "orvane-language-chinese.png";
+  const std::filesystem::path japanese = folder / "orvane-language-japanese.png";
+  EXPECT_EXIT(drawChinese("zh_CN", chinese), testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(drawChinese("ja", japanese), testing::ExitedWithCode(0), "");
+  EXPECT_GT(readFile(chinese).size(), 500U);
+  EXPECT_EQ(readFile(chinese), readFile(japanese));
+  std::filesystem::remove(chinese);
+  std::filesystem::remove(japanese);
 }
 
 }  // namespace
