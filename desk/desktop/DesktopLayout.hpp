@@ -1,0 +1,69 @@
+// Where each display of the desk falls in a picture. Every display keeps its own scale and place;
+// screens begin and end on whole pixels, so that nothing in them is blurred.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include <cairo.h>
+
+#include "Orvane/platform/Quartz.hpp"
+#include "Orvane/ui/Point.hpp"
+#include "Orvane/ui/Rect.hpp"
+#include "Orvane/ui/Size.hpp"
+
+namespace orvane::desk {
+
+/// `exact` shows just the screens, each at its place in global coordinates. `monitors` puts each
+/// screen into a monitor and moves the monitors apart, as they stand on a table.
+enum class DesktopStyle { exact, monitors };
+
+/// One screen in the picture.
+struct ScreenPlacement {
+  /// In global coordinates.
+  ui::Rect frame;
+  /// In pixels of the picture.
+  cairo_rectangle_int_t pixels{};
+};
+
+class DesktopLayout {
+ public:
+  /// The room around a screen in the `monitors` style, in points: the monitor's border, its lower
+  /// border, which carries the name, the gap between two monitors, the margin around all of them,
+  /// and the height of the feet below the lowest row.
+  static constexpr double border = 10;
+  static constexpr double lowerBorder = 26;
+  static constexpr double gap = 14;
+  static constexpr double margin = 40;
+  static constexpr double footHeight = 46;
+
+  /// Frames are in global coordinates, `scale` is in pixels per point, `origin` is the top left
+  /// pixel of the layout in the picture.
+  DesktopLayout(const std::vector<CGRect>& frames, DesktopStyle style, double scale,
+                cairo_rectangle_int_t origin = {});
+
+  /// What the layout needs in points; empty without displays.
+  [[nodiscard]] static ui::Size sizeInPoints(const std::vector<CGRect>& frames, DesktopStyle style);
+
+  [[nodiscard]] DesktopStyle style() const { return style_; }
+  [[nodiscard]] double scale() const { return scale_; }
+  /// The whole layout in pixels of the picture.
+  [[nodiscard]] const cairo_rectangle_int_t& pixels() const { return pixels_; }
+  /// In the order of the displays.
+  [[nodiscard]] const std::vector<ScreenPlacement>& screens() const { return screens_; }
+
+  /// The place of a pixel in global coordinates, by the screen that shows it; none between the
+  /// screens.
+  [[nodiscard]] std::optional<CGPoint> globalPoint(double pixelX, double pixelY) const;
+  /// The pixel that shows a point of a screen, in pixels of the picture.
+  [[nodiscard]] ui::Point pixel(std::size_t screenIndex, CGPoint globalPoint) const;
+
+ private:
+  DesktopStyle style_;
+  double scale_;
+  cairo_rectangle_int_t pixels_{};
+  std::vector<ScreenPlacement> screens_;
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,14 @@
+// Glass: a blurred and tinted view of what is already painted behind a shape.
+#pragma once
+
+#include "Orvane/ui/Appearance.hpp"
+#include "Orvane/ui/Shape.hpp"
+#include "desk/canvas/CairoCanvas.hpp"
+
+namespace orvane::desk {
+
+/// Blurs what the canvas holds inside the shape by a standard deviation in points, and lays the
+/// tint over it. Not to be used within a layer of the canvas.
+void paintGlass(CairoCanvas& canvas, const ui::Shape& shape, double sigma, const ui::Rgba& tint);
+
+}  // namespace orvane::desk

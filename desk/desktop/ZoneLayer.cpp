@@ -1,0 +1,99 @@
+// Zones are translucent, so that what they cover stays in sight.
+#include "desk/desktop/ZoneLayer.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace orvane::desk {
+
+namespace {
+
+constexpr ui::Rgba zoneRed{1, 0.23, 0.19, 1};
+
+void setRed(cairo_t* context, double alpha) {
+  cairo_set_source_rgba(context, zoneRed.red, zoneRed.green, zoneRed.blue, alpha);
+}
+
+ui::Rect toRect(const CGRect& rect) {
+  return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+/// An arrow from the middle of the zone, as long as the nudge, with its head beyond the zone.
+void addNudgeArrow(cairo_t* context, ui::Point from, const CGVector& nudge) {
+  const double length = std::hypot(nudge.dx, nudge.dy);
+  if (length <= 0) {
+    return;
+  }
+  const ui::Point along{nudge.dx / length, nudge.dy / length};
+  const ui::Point across{-along.y, along.x};
+  const ui::Point tip{from.x + nudge.dx * 1.5, from.y + nudge.dy * 1.5};
+  constexpr double head = 5;
+  cairo_move_to(context, from.x, from.y);
+  cairo_line_to(context, tip.x, tip.y);
+  for (const double side : {-1.0, 1.0}) {
+    cairo_move_to(context, tip.x, tip.y);
+    cairo_line_to(context, tip.x - (along.x - side * across.x) * head,
+                  tip.y - (along.y - side * across.y) * head);
+  }
+}
+
+void paintZone(cairo_t* context, const TriggerZone& zone) {
+  const ui::Rect rect = toRect(zone.rect);
+  setRed(context, 0.34);
+  cairo_rectangle(context, rect.x, rect.y, rect.width, rect.height);
+  cairo_fill(context);
+  setRed(context, 0.85);
+  cairo_set_line_width(context, 1);
+  cairo_rectangle(context, rect.x + 0.5, rect.y + 0.5, rect.width - 1, rect.height - 1);
+  cairo_stroke(context);
+
+  constexpr double arrowDistance = 110;
+  const bool isLevel = rect.width >= rect.height;
+  const double length = isLevel ? rect.width : rect.height;
+  const int arrows = std::max(1, static_cast<int>(length / arrowDistance));
+  cairo_set_line_width(context, 2);
+  cairo_set_line_cap(context, CAIRO_LINE_CAP_ROUND);
+  cairo_set_line_join(context, CAIRO_LINE_JOIN_ROUND);
+  for (int arrow = 0; arrow < arrows; ++arrow) {
+    const double place = length * (arrow + 0.5) / arrows;
+    const ui::Point from = isLevel ? ui::Point{rect.x + place, rect.center().y}
+                                   : ui::Point{rect.center().x, rect.y + place};
+    addNudgeArrow(context, from, zone.nudgeVector);
+  }
+  cairo_stroke(context);
+}
+
+void paintMovedBack(cairo_t* context, const MovedBack& movedBack) {
+  const double strength = std::clamp(movedBack.strength, 0.0, 1.0);
+  constexpr double smallRing = 9;
+  constexpr double ringGrowth = 16;
+  for (const double part : {1.0, 0.55}) {
+    setRed(context, 0.9 * strength * part);
+    cairo_set_line_width(context, 2.5 * part);
+    cairo_arc(context, movedBack.from.x, movedBack.from.y,
+              smallRing + (2 - strength - part) * ringGrowth, 0, 2 * std::numbers::pi);
+    cairo_stroke(context);
+  }
+  setRed(context, 0.9 * strength);
+  cairo_arc(context, movedBack.from.x, movedBack.from.y, 3, 0, 2 * std::numbers::pi);
+  cairo_fill(context);
+}
+
+}  // namespace
+
+void ZoneLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+  cairo_t* const context = display.canvas.context();
+  if (scene.showsZones) {
+    for (const TriggerZone& zone : scene.zones) {
+      if (toRect(zone.rect).intersects(display.frame)) {
+        paintZone(context, zone);
+      }
+    }
+  }
+  if (scene.movedBack && scene.movedBack->strength > 0) {
+    paintMovedBack(context, *scene.movedBack);
+  }
+}
+
+}  // namespace orvane::desk
