@@ -1,0 +1,64 @@
+// Building the semantics tree from the retained tree.
+#include "Orvane/ui/ControlSemantics.hpp"
+
+namespace orvane::ui {
+
+namespace {
+
+void appendLabels(const SemanticsNode& node, std::string& label) {
+  if (!node.label.empty()) {
+    label += (label.empty() ? "" : ", ") + node.label;
+  }
+  for (const SemanticsNode& child : node.children) {
+    appendLabels(child, label);
+  }
+}
+
+std::vector<SemanticsNode> collect(const Node& node, double now) {
+  if (node.element->effect(node, node.size, now).opacity <= 0) {
+    // What has faded out completely is not there for anyone.
+    return {};
+  }
+  std::vector<SemanticsNode> children;
+  for (const auto& child : node.children) {
+    for (SemanticsNode& described : collect(*child, now)) {
+      children.push_back(std::move(described));
+    }
+  }
+  return node.element->semantics(node, std::move(children));
+}
+
+void markFocus(SemanticsNode& node, std::uint64_t focusedId) {
+  node.isFocused = focusedId != 0 && node.id == focusedId;
+  for (SemanticsNode& child : node.children) {
+    markFocus(child, focusedId);
+  }
+}
+
+}  // namespace
+
+SemanticsNode controlSemantics(const Node& node, Role role, const Interaction& interaction,
+                               const std::vector<SemanticsNode>& contents) {
+  SemanticsNode result;
+  result.id = node.id;
+  result.role = role;
+  result.isEnabled = node.environment->isEnabled;
+  result.isFocusable = interaction.isFocusable;
+  result.frame = node.hostFrame();
+  result.actions = {SemanticsAction::press};
+  for (const SemanticsNode& content : contents) {
+    appendLabels(content, result.label);
+  }
+  return result;
+}
+
+SemanticsNode collectSemantics(const Node& root, double now, std::uint64_t focusedId) {
+  SemanticsNode result;
+  result.id = root.id;
+  result.frame = root.hostFrame();
+  result.children = collect(root, now);
+  markFocus(result, focusedId);
+  return result;
+}
+
+}  // namespace orvane::ui

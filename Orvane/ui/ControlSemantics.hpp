@@ -1,0 +1,19 @@
+// How controls describe themselves in the semantics tree.
+#pragma once
+
+#include <vector>
+
+#include "Orvane/ui/Node.hpp"
+
+namespace orvane::ui {
+
+// One element for the whole control. Its label is what its contents say, in their order, until a
+// modifier gives it another one; its contents are not elements of their own.
+SemanticsNode controlSemantics(const Node& node, Role role, const Interaction& interaction,
+                               const std::vector<SemanticsNode>& contents);
+
+// The tree of what is presented at the moment; the root is a group. `focusedId` is the node with
+// the keyboard focus, or 0.
+SemanticsNode collectSemantics(const Node& root, double now, std::uint64_t focusedId);
+
+}  // namespace orvane::ui

@@ -1,0 +1,30 @@
+// A group outside of a container.
+#include "Orvane/ui/Group.hpp"
+
+#include "Orvane/ui/Builder.hpp"
+#include "Orvane/ui/LayoutPass.hpp"
+
+namespace orvane::ui {
+
+GroupElement::GroupElement(const std::vector<View>& members) {
+  for (const View& member : members) {
+    const auto* inner = dynamic_cast<const GroupElement*>(member.element().get());
+    if (inner != nullptr && member.explicitId().empty()) {
+      members_.insert(members_.end(), inner->members().begin(), inner->members().end());
+    } else {
+      members_.push_back(member);
+    }
+  }
+}
+
+void GroupElement::build(Node& node, Builder& builder) const {
+  builder.children(node, members_, node.environment);
+}
+
+void GroupElement::place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const {
+  for (const auto& child : node.children) {
+    pass.placeAligned(*child, size, Alignment::center(), proposal);
+  }
+}
+
+}  // namespace orvane::ui

@@ -1,0 +1,28 @@
+// What views ask of the platform through their host.
+#include "Orvane/ui/HostLink.hpp"
+
+namespace orvane::ui {
+
+void HostLink::openMenu(MenuRequest request) const {
+  if (services != nullptr && services->openMenu) {
+    // The menu may run until something is chosen, and what is chosen may end the host.
+    const auto open = services->openMenu;
+    open(request);
+  }
+}
+
+void HostLink::dismiss() const {
+  if (services != nullptr && services->dismiss) {
+    const auto dismissHost = services->dismiss;
+    dismissHost();
+  }
+}
+
+void HostLink::announce(const std::string& text) const {
+  if (services != nullptr && services->announce) {
+    const auto speak = services->announce;
+    speak(text);
+  }
+}
+
+}  // namespace orvane::ui

@@ -1,0 +1,47 @@
+// Keys, and the shortcuts that activate a button.
+#pragma once
+
+#include <string>
+
+namespace orvane::ui {
+
+enum class Key { character, tab, enter, space, escape, left, right, up, down };
+
+struct KeyModifiers {
+  bool shift = false;
+  bool control = false;
+  bool option = false;
+  bool command = false;
+
+  friend bool operator==(const KeyModifiers&, const KeyModifiers&) = default;
+};
+
+struct KeyEvent {
+  Key key = Key::character;
+  KeyModifiers modifiers;
+  // For Key::character: what the key types without its modifiers, in UTF-8 and lower case.
+  std::string characters;
+};
+
+struct KeyboardShortcut {
+  Key key = Key::character;
+  KeyModifiers modifiers;
+  std::string characters;
+
+  // Return, which also makes a standard button prominent.
+  static KeyboardShortcut defaultAction() { return {Key::enter, {}, {}}; }
+  // Escape.
+  static KeyboardShortcut cancelAction() { return {Key::escape, {}, {}}; }
+  // Command and a character.
+  static KeyboardShortcut command(std::string characters) {
+    return {Key::character, {false, false, false, true}, std::move(characters)};
+  }
+
+  bool matches(const KeyEvent& event) const {
+    return key == event.key && modifiers == event.modifiers &&
+           (key != Key::character || characters == event.characters);
+  }
+  bool isDefault() const { return key == Key::enter && modifiers == KeyModifiers{}; }
+};
+
+}  // namespace orvane::ui

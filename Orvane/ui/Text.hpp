@@ -1,0 +1,16 @@
+// Text in the inherited font and colour. It wraps in the width it is offered, and is cut with an
+// ellipsis where it is offered too little height.
+#pragma once
+
+#include <string>
+
+#include "Orvane/ui/View.hpp"
+
+namespace orvane::ui {
+
+class Text : public View {
+ public:
+  explicit Text(std::string text);
+};
+
+}  // namespace orvane::ui
