@@ -1,0 +1,81 @@
+"""A file is named after what it holds."""
+
+import re
+
+# Headers that are not named after one type, and why.
+EXCEPTIONS = {
+    "Orvane/platform/Quartz.hpp": "the platform's own words, which are not ours to rename",
+    "desk/machine/Event.hpp": "declares the platform's __CGEvent",
+    "desk/canvas/CairoPointers.hpp": "owners of a library's objects, one name for each kind",
+}
+# Where a source file's header is, when it is not beside it.
+SEAM_HEADERS = {
+    "desk/appkit": "Orvane/platform/appkit",
+    "macos/appkit": "Orvane/platform/appkit",
+}
+# These folders implement functions that the platform or its compiler declares, a group per file.
+FOREIGN_FOLDERS = {"desk/quartz", "macos/quartz", "macos/cross"}
+ENTRY_POINTS = {"main", "Main"}
+
+_TYPE = re.compile(
+    r"^[ \t]*(?:template\s*<[^;{]*>\s*)?(?P<kind>class|struct|union|enum(?:\s+(?:class|struct))?)\s+"
+    r"(?:\[\[[^\]]*\]\]\s*)?(?P<name>\w+)\b(?!\s*;)|^using\s+(?P<alias>\w+)\s*=", re.MULTILINE)
+_NAMESPACE = re.compile(r"^\s*namespace\s+(?P<path>[\w:]+)\s*\{", re.MULTILINE)
+# A function outside of a type: it begins in the first column.
+_FUNCTION = re.compile(r"^(?!(?:class|struct|union|enum|using|namespace|typedef|template|extern)\b)"
+                       r"[\w\[][^;{}()=]*\b\w+\(", re.MULTILINE)
+_TEST = re.compile(r"^\s*(?:TYPED_)?TEST(?:_[FP])?\(|^\s*RC_GTEST_(?:FIXTURE_)?PROP\(", re.MULTILINE)
+
+
+def check(project):
+    """X.hpp declares X and is guarded; X.cpp belongs to a header; tests live in XTest.cpp."""
+    for file in project.cpp:
+        if str(file) in EXCEPTIONS:
+            continue
+        if file.path.suffix == ".hpp":
+            yield from _check_header(file)
+        elif file.top == "tests":
+            yield from _check_test(file)
+        elif file.top in ("Orvane", "desk", "macos"):
+            yield from _check_source(project, file)
+
+
+def _check_header(file):
+    if not re.search(r"^#pragma once$", file.text, re.MULTILINE):
+        yield file, 1, "no #pragma once"
+    code = file.code()
+    types = list(_TYPE.finditer(code))
+    declared = {match["name"] or match["alias"] for match in types}
+    names = declared | {match["path"].split("::")[-1] for match in _NAMESPACE.finditer(code)}
+    # A family goes by its common name: HStack and VStack in Stack.hpp.
+    stems = {file.path.stem, file.path.stem.removesuffix("s")}
+    if not declared or any(name.startswith(stem) or name.endswith(stem)
+                           for name in names for stem in stems):
+        return
+    # Functions, with the plain values that they take and return, are named after what they are
+    # about; a class never hides among them.
+    if _FUNCTION.search(code) and not any(match["kind"] == "class" for match in types):
+        return
+    yield file, 1, f"declares {', '.join(sorted(declared))} but no {file.path.stem}"
+
+
+def _check_test(file):
+    has_tests = bool(_TEST.search(file.code()))
+    if has_tests and not file.path.stem.endswith("Test"):
+        yield file, 1, f"holds tests, so its name is {file.path.stem}Test.cpp"
+    if file.path.stem.endswith("Test") and not has_tests:
+        yield file, 1, "is named a test and holds none"
+
+
+def _check_source(project, file):
+    folder = str(file.path.parent)
+    stem = file.path.stem
+    if stem in ENTRY_POINTS or folder in FOREIGN_FOLDERS:
+        return
+    if re.search(r"^int main\(", file.code(), re.MULTILINE):
+        return
+    folders = {folder, SEAM_HEADERS.get(folder, folder)}
+    owners = [other.path.stem for other in project.cpp
+              if other.path.suffix == ".hpp" and str(other.path.parent) in folders]
+    if not any(stem.startswith(owner) or stem.endswith(owner) for owner in owners):
+        yield file, 1, f"belongs to no header: no {stem}.hpp and no shorter name is beside it"
