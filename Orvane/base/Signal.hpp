@@ -33,7 +33,7 @@ class Signal {
   Signal(const Signal&) = delete;
   Signal& operator=(const Signal&) = delete;
 
-  [[nodiscard]] Subscription observe(std::function<void()> observer) {
+  [[nodiscard]] Subscription observe(std::function<void()> observer) const {
     auto owned = std::make_shared<std::function<void()>>(std::move(observer));
     std::erase_if(*observers_, [](const auto& weak) { return weak.expired(); });
     observers_->push_back(owned);

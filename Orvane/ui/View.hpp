@@ -37,12 +37,12 @@ concept CompositeView = requires(const T& component, const Environment& environm
 // within the bounds; with a maximum it grows to what is proposed, at most to the maximum (which may
 // be infinity).
 struct FrameBounds {
-  std::optional<double> width;
-  std::optional<double> height;
-  std::optional<double> minimumWidth;
-  std::optional<double> maximumWidth;
-  std::optional<double> minimumHeight;
-  std::optional<double> maximumHeight;
+  std::optional<double> width = std::nullopt;
+  std::optional<double> height = std::nullopt;
+  std::optional<double> minimumWidth = std::nullopt;
+  std::optional<double> maximumWidth = std::nullopt;
+  std::optional<double> minimumHeight = std::nullopt;
+  std::optional<double> maximumHeight = std::nullopt;
   Alignment alignment = Alignment::center();
 };
 

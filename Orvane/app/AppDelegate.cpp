@@ -1,0 +1,70 @@
+// The application's delegate: start-up and end, and the status item with its icon. The menu is in
+// AppDelegateMenu.cpp.
+#include "Orvane/app/AppDelegate.hpp"
+
+#include "Orvane/app/OrvaneAppState.hpp"
+#include "Orvane/platform/appkit/Application.hpp"
+#include "Orvane/windows/OrvaneWindowController.hpp"
+
+namespace orvane {
+
+void AppDelegate::applicationDidFinishLaunching() {
+  appkit::Application::setActivationPolicy(appkit::ActivationPolicy::accessory);
+  setupStatusItem();
+  OrvaneAppState::model().restoreLockIfNeeded();
+  updateStatusItemIcon();
+}
+
+void AppDelegate::setupStatusItem() {
+  constexpr double refreshSeconds = 1.0;
+  statusItem_.emplace();
+  statusItem_->setAutosaveName("Orvane");
+  statusItem_->setImagePosition(appkit::ImagePosition::imageOnly);
+  statusItem_->setImageScaling(appkit::ImageScaling::proportionallyDown);
+  statusItem_->setSquareLength();
+  statusMenu_.onWillOpen(lifetime_.whileAlive([this] { menuWillOpen(); }));
+  statusItem_->setMenu(statusMenu_);
+  observeModelChanges();
+  rebuildStatusMenu();
+  updateStatusItemIcon();
+  statusRefreshTimer_ =
+      appkit::Timer::repeating(refreshSeconds, appkit::RunLoopMode::standard,
+                               lifetime_.whileAlive([this] { refreshStatusItemTimerFired(); }));
+}
+
+void AppDelegate::observeModelChanges() {
+  modelCancellable_ = OrvaneAppState::model().appLanguage().observe(
+      lifetime_.whileAlive([this] { rebuildMenuAndIcon(); }));
+}
+
+void AppDelegate::refreshStatusItemTimerFired() {
+  updateStatusItemIcon();
+}
+
+void AppDelegate::updateStatusItemIcon() {
+  const bool isRunning = OrvaneAppState::model().isGuardRunning();
+  statusItem_->setImage(statusBarImage(isRunning ? "lock.fill" : "lock.open"));
+}
+
+std::optional<appkit::Image> AppDelegate::statusBarImage(std::string_view name) {
+  constexpr double pointSize = 16;
+  std::optional<appkit::Image> image =
+      appkit::Image::systemSymbol(name, "Orvane", pointSize, appkit::SymbolWeight::regular);
+  if (image) {
+    image->setTemplate(true);
+    image->setSize(statusBarIconSize);
+  }
+  return image;
+}
+
+bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/) {
+  OrvaneWindowController::shared().show(OrvaneAppState::model());
+  return true;
+}
+
+void AppDelegate::applicationWillTerminate() {
+  statusRefreshTimer_.reset();
+  modelCancellable_.cancel();
+}
+
+}  // namespace orvane

@@ -1,0 +1,65 @@
+// The application's delegate: start-up and end, the status item with its icon, and the menu under
+// it.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string_view>
+
+#include "Orvane/base/Lifetime.hpp"
+#include "Orvane/base/Signal.hpp"
+#include "Orvane/platform/Quartz.hpp"
+#include "Orvane/platform/appkit/Image.hpp"
+#include "Orvane/platform/appkit/Menu.hpp"
+#include "Orvane/platform/appkit/StatusItem.hpp"
+#include "Orvane/platform/appkit/Timer.hpp"
+
+namespace orvane {
+
+/// Lives for the whole process. Main thread only.
+class AppDelegate {
+ public:
+  /// In points.
+  static constexpr double statusMenuRowWidth = 208;
+  static constexpr double statusMenuSectionHeaderWidth = 208;
+  static constexpr CGSize statusBarIconSize{18, 18};
+
+  void applicationDidFinishLaunching();
+  /// The user has opened the running application again.
+  bool applicationShouldHandleReopen(bool hasVisibleWindows);
+  /// The guard is left alone: its tap ends with the process, and the stored wish brings it back at
+  /// the next launch.
+  void applicationWillTerminate();
+
+  void menuWillOpen();
+
+  void openMainWindowFromStatusItem();
+  void openSettingsFromStatusItem();
+  void toggleLockFromStatusMenu();
+  void toggleHideDockFromStatusMenu();
+  void toggleLaunchAtLoginFromStatusMenu();
+  void quitFromStatusMenu();
+
+ private:
+  void setupStatusItem();
+  void observeModelChanges();
+  void refreshStatusItemTimerFired();
+  void updateStatusItemIcon();
+  [[nodiscard]] static std::optional<appkit::Image> statusBarImage(std::string_view name);
+
+  void rebuildStatusMenu();
+  void addSwitches();
+  void addDisplayChooser();
+  void addActions();
+  void rebuildMenuAndIcon();
+  /// The same action, run after the menu has been closed.
+  [[nodiscard]] std::function<void()> closingTheMenu(std::function<void()> action);
+
+  std::optional<appkit::StatusItem> statusItem_;
+  appkit::Menu statusMenu_;
+  std::optional<appkit::Timer> statusRefreshTimer_;
+  Subscription modelCancellable_;
+  Lifetime lifetime_;
+};
+
+}  // namespace orvane

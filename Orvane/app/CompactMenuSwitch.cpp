@@ -1,0 +1,23 @@
+// A small switch that only shows a state; the row that it stands in does the switching.
+#include "Orvane/app/CompactMenuSwitch.hpp"
+
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+View CompactMenuSwitch::body(const Environment& /*environment*/) const {
+  const Color track = isOn ? Color::blue() : Color::tertiary().opacity(0.22);
+  const View knob = Circle()
+                        .fill(Color::white())
+                        .castShadow({.color = Color::black().opacity(0.14), .radius = 1, .y = 0.5})
+                        .frame(15, 15)
+                        .padding(1.5);
+  return ZStack(isOn ? Alignment::trailing() : Alignment::leading(), {Capsule().fill(track), knob})
+      .frame(34, 18)
+      .accessibilityHidden();
+}
+
+}  // namespace orvane

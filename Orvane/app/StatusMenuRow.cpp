@@ -1,0 +1,81 @@
+// One row of the status menu: an icon badge, a title, and a switch where the row has one.
+#include "Orvane/app/StatusMenuRow.hpp"
+
+#include "Orvane/app/CompactMenuSwitch.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+constexpr double disabledOpacity = 0.45;
+
+/// The row shows by itself whether it is enabled or hovered; pressing changes nothing.
+struct RowButtonStyle {
+  View body(const ButtonConfiguration& configuration, const Environment& /*environment*/) const {
+    return configuration.label;
+  }
+};
+
+}  // namespace
+
+View StatusMenuRow::iconBadge() const {
+  Color symbolColor = isSelected ? Color::white() : Color::secondary();
+  if (!isEnabled) {
+    symbolColor = Color::secondary().opacity(disabledOpacity);
+  }
+  return Symbol(systemImage)
+      .font(Font::system(13, Weight::medium))
+      .foreground(symbolColor)
+      .frame(18, 18)
+      .frame(24, 24)
+      .background(Circle().fill(isSelected ? Color::blue() : Color::tertiary().opacity(0.16)));
+}
+
+View StatusMenuRow::content(bool isHovered) const {
+  // Rows with a switch never show a highlight, on purpose.
+  const bool isHighlighted = isHovered && !isOn;
+  return HStack(8, {iconBadge(),
+                    Text(title)
+                        .font(Font::system(13, Weight::medium))
+                        .foreground(isEnabled ? Color::primary()
+                                              : Color::secondary().opacity(disabledOpacity))
+                        .lineLimit(1)
+                        .frame({.height = 26,
+                                .maximumWidth = infinity,
+                                .alignment = Alignment::leading()}),
+                    isOn ? View(CompactMenuSwitch{*isOn}) : View()})
+      .padding(Edges{.leading = 14, .trailing = 8})
+      .frame(rowWidth, rowHeight)
+      .background(RoundedRectangle(6)
+                      .fill(isHighlighted ? Color::primary().opacity(0.08) : Color::clear())
+                      .padding(Edges::horizontal(3).vertical(2)));
+}
+
+View StatusMenuRow::body(const Environment& environment) const {
+  const State<bool> isHovered = environment.state("isHovered", false);
+  const View row = Button(
+                       [action = action] {
+                         if (action) {
+                           action();
+                         }
+                       },
+                       content(isHovered.value()))
+                       .style(RowButtonStyle{})
+                       .focusRing(ShapeForm::rounded(6))
+                       .onHover([isHovered](bool isInside) { isHovered.set(isInside); })
+                       .disabled(!isEnabled)
+                       .accessibilityLabel(title);
+  if (isOn) {
+    return row.accessibilityRole(Role::toggle).accessibilityValue(*isOn ? "1" : "0");
+  }
+  return isSelected ? row.accessibilitySelected(true) : row;
+}
+
+}  // namespace orvane

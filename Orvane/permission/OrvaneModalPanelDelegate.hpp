@@ -1,0 +1,28 @@
+// Ends the modal session of the permission alert exactly once, whichever way of ending it comes
+// first: a button, or the panel's close control.
+#pragma once
+
+#include "Orvane/platform/appkit/Application.hpp"
+
+namespace orvane {
+
+class OrvaneModalPanelDelegate {
+ public:
+  /// Stops the session with `response` unless it has been stopped.
+  void stopModalOnce(int response) {
+    if (!didStopModal_) {
+      didStopModal_ = true;
+      appkit::Application::stopModal(response);
+    }
+  }
+
+  /// Closing the panel is declining.
+  void windowWillClose() { stopModalOnce(appkit::ModalResponse::alertSecondButton); }
+
+  [[nodiscard]] bool didStopModal() const { return didStopModal_; }
+
+ private:
+  bool didStopModal_ = false;
+};
+
+}  // namespace orvane

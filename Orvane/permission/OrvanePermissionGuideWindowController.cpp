@@ -1,0 +1,150 @@
+// The floating guide that tells what to switch on, and looks once a second whether it has been.
+#include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "Orvane/base/ProcessShared.hpp"
+#include "Orvane/permission/OrvanePermissionGuideView.hpp"
+#include "Orvane/platform/appkit/Application.hpp"
+#include "Orvane/platform/appkit/HostingView.hpp"
+#include "Orvane/platform/appkit/MainQueue.hpp"
+#include "Orvane/platform/appkit/Screen.hpp"
+
+namespace orvane {
+
+namespace {
+
+using appkit::Application;
+using appkit::Screen;
+
+constexpr double pollSeconds = 1.0;
+constexpr double timeoutSeconds = 10.0;
+/// For so long the success stays visible.
+constexpr double closeAfterSuccessSeconds = 1.5;
+/// How far right of the screen's middle the guide stands, and how near it comes to the edges of the
+/// screen, in points.
+constexpr double distanceFromMiddle = 320;
+constexpr double screenMargin = 20;
+
+ProcessShared<OrvanePermissionGuideWindowController>& sharedController() {
+  static ProcessShared<OrvanePermissionGuideWindowController> shared;
+  return shared;
+}
+
+appkit::Window makePanel() {
+  const CGSize size = OrvanePermissionGuideWindowController::contentSize;
+  appkit::Window panel(appkit::WindowKind::panel, CGRectMake(0, 0, size.width, size.height),
+                       appkit::StyleMask::nonactivatingPanel);
+  panel.setClassName("OrvaneGuidePanel");
+  panel.setMovableByWindowBackground(true);
+  panel.setLevel(appkit::WindowLevel::status);
+  panel.setFloatingPanel(true);
+  panel.setHidesOnDeactivate(false);
+  panel.setReleasedWhenClosed(false);
+  panel.setCollectionBehavior(
+      appkit::CollectionBehavior::moveToActiveSpace | appkit::CollectionBehavior::stationary |
+      appkit::CollectionBehavior::fullScreenAuxiliary | appkit::CollectionBehavior::auxiliary);
+  panel.setClearBackground();
+  panel.setOpaque(false);
+  panel.setHasShadow(true);
+  return panel;
+}
+
+/// The screen under the pointer, else that of the key window, else the main one.
+std::optional<Screen> screenForTheGuide() {
+  const CGPoint pointer = Application::mouseLocation();
+  const std::vector<Screen> screens = Screen::screens();
+  const auto underPointer = std::ranges::find_if(
+      screens, [&](const Screen& screen) { return CGRectContainsPoint(screen.frame(), pointer); });
+  if (underPointer != screens.end()) {
+    return *underPointer;
+  }
+  if (const auto keyWindow = Application::keyWindow()) {
+    if (auto screen = keyWindow->screen()) {
+      return screen;
+    }
+  }
+  return Screen::mainScreen();
+}
+
+}  // namespace
+
+OrvanePermissionGuideWindowController::OrvanePermissionGuideWindowController()
+    : panel_(makePanel()) {
+  appkit::HostingView view([this](const ui::Environment& /*environment*/) -> ui::View {
+    return OrvanePermissionGuideView{.state = viewModel_.state.value(),
+                                     .onClose = lifetime_.whileAlive([this] { close(); })};
+  });
+  panel_.setContentView(view);
+  stateChanges_ = viewModel_.state.observe([view]() mutable { view.setNeedsUpdate(); });
+  positionGuideWindow();
+}
+
+OrvanePermissionGuideWindowController& OrvanePermissionGuideWindowController::shared() {
+  return sharedController().get();
+}
+
+bool OrvanePermissionGuideWindowController::sharedExists() {
+  return sharedController().exists();
+}
+
+void OrvanePermissionGuideWindowController::show(std::function<void()> onGranted) {
+  onGranted_ = std::move(onGranted);
+  viewModel_.state.set(PermissionGuideState::checking);
+  positionGuideWindow();
+  panel_.orderFrontRegardless();
+  panel_.makeKeyWindow();
+  startChecking();
+}
+
+void OrvanePermissionGuideWindowController::positionGuideWindow() {
+  const std::optional<Screen> screen = screenForTheGuide();
+  if (!screen) {
+    panel_.center();
+    return;
+  }
+  const CGRect visible = screen->visibleFrame();
+  const CGSize size = panel_.frame().size;
+  // The upper clamp comes last: on a screen too small for the panel it wins.
+  const double x = std::min(
+      std::max(CGRectGetMidX(visible) + distanceFromMiddle, CGRectGetMinX(visible) + screenMargin),
+      CGRectGetMaxX(visible) - size.width - screenMargin);
+  const double y = std::min(
+      std::max(CGRectGetMidY(visible) - size.height * 0.5, CGRectGetMinY(visible) + screenMargin),
+      CGRectGetMaxY(visible) - size.height - screenMargin);
+  panel_.setFrameOrigin(CGPointMake(x, y));
+}
+
+void OrvanePermissionGuideWindowController::startChecking() {
+  startTime_ = CFAbsoluteTimeGetCurrent();
+  checkTimer_ = appkit::Timer::repeating(pollSeconds, appkit::RunLoopMode::standard,
+                                         lifetime_.whileAlive([this] { check(); }));
+}
+
+void OrvanePermissionGuideWindowController::check() {
+  if (AXIsProcessTrusted()) {
+    handleSuccess();
+  } else if (startTime_ && CFAbsoluteTimeGetCurrent() - *startTime_ > timeoutSeconds) {
+    viewModel_.state.set(PermissionGuideState::timeout);
+  }
+}
+
+void OrvanePermissionGuideWindowController::handleSuccess() {
+  checkTimer_.reset();
+  viewModel_.state.set(PermissionGuideState::success);
+  if (const auto granted = onGranted_) {
+    granted();
+  }
+  appkit::MainQueue::asyncAfter(closeAfterSuccessSeconds,
+                                lifetime_.whileAlive([this] { close(); }));
+}
+
+void OrvanePermissionGuideWindowController::close() {
+  panel_.close();
+  checkTimer_.reset();
+  onGranted_ = nullptr;
+}
+
+}  // namespace orvane

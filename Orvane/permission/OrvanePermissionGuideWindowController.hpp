@@ -1,0 +1,59 @@
+// The floating guide that tells what to switch on, and looks once a second whether it has been.
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "Orvane/base/Lifetime.hpp"
+#include "Orvane/base/Published.hpp"
+#include "Orvane/permission/PermissionGuideState.hpp"
+#include "Orvane/platform/Quartz.hpp"
+#include "Orvane/platform/appkit/Timer.hpp"
+#include "Orvane/platform/appkit/Window.hpp"
+
+namespace orvane {
+
+/// Main thread only.
+class OrvanePermissionGuideWindowController {
+ public:
+  /// What the guide's view shows.
+  struct ViewModel {
+    Published<PermissionGuideState> state{PermissionGuideState::checking};
+  };
+
+  /// In points.
+  static constexpr CGSize contentSize{360, 500};
+
+  OrvanePermissionGuideWindowController();
+
+  /// The one controller of the process, created with its panel when it is first asked for.
+  static OrvanePermissionGuideWindowController& shared();
+  /// Whether shared() has been asked for in this process.
+  static bool sharedExists();
+
+  /// Opens the guide, or opens it again, and starts looking for the permission. `onGranted` takes
+  /// the place of an earlier callback and is called when the permission is seen.
+  void show(std::function<void()> onGranted);
+  /// Closes the guide and stops looking; `onGranted` is dropped.
+  void close();
+
+  [[nodiscard]] const ViewModel& viewModel() const { return viewModel_; }
+  [[nodiscard]] bool isPolling() const { return checkTimer_.has_value(); }
+  [[nodiscard]] const appkit::Window& panel() const { return panel_; }
+
+ private:
+  void positionGuideWindow();
+  void startChecking();
+  void check();
+  void handleSuccess();
+
+  ViewModel viewModel_;
+  appkit::Window panel_;
+  std::optional<appkit::Timer> checkTimer_;
+  std::optional<CFAbsoluteTime> startTime_;
+  std::function<void()> onGranted_;
+  Subscription stateChanges_;
+  Lifetime lifetime_;
+};
+
+}  // namespace orvane

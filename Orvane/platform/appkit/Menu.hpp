@@ -1,0 +1,57 @@
+// Menus whose items may hold views; NSMenu and NSMenuItem on a Mac.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Orvane/platform/appkit/HostingView.hpp"
+
+namespace orvane::appkit {
+
+/// One entry of a menu, as it is to be made.
+struct MenuItem {
+  /// What VoiceOver reads and type selection finds; not drawn when there is a view.
+  std::string title;
+  bool isSeparator = false;
+  bool isEnabled = true;
+  /// Drawn instead of the title.
+  std::optional<HostingView> view;
+  /// Run when the item is chosen by the keyboard or by VoiceOver, and by a click where there is no
+  /// view.
+  std::function<void()> action;
+  /// Whether choosing the item leaves the menu open.
+  bool keepsMenuOpen = false;
+
+  [[nodiscard]] static MenuItem separator() {
+    MenuItem item;
+    item.isSeparator = true;
+    return item;
+  }
+};
+
+/// A handle; copies name the same menu. Main thread only. Items may be replaced while it is open.
+class Menu {
+ public:
+  Menu();
+
+  void removeAllItems();
+  void addItem(MenuItem item);
+
+  /// Called when the menu is about to be shown.
+  void onWillOpen(std::function<void()> willOpen);
+  /// Closes the menu if it is open, without choosing anything.
+  void cancelTracking();
+
+  struct Implementation;
+  [[nodiscard]] const std::shared_ptr<Implementation>& implementation() const {
+    return implementation_;
+  }
+
+ private:
+  std::shared_ptr<Implementation> implementation_;
+};
+
+}  // namespace orvane::appkit

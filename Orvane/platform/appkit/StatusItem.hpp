@@ -1,0 +1,43 @@
+// An item of the system's status bar; NSStatusItem on a Mac.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include "Orvane/platform/appkit/Image.hpp"
+#include "Orvane/platform/appkit/Menu.hpp"
+
+namespace orvane::appkit {
+
+/// The values of NSCellImagePosition and NSImageScaling that are used here.
+enum class ImagePosition { imageOnly = 1 };
+enum class ImageScaling { proportionallyDown = 0 };
+
+/// Owns its item: destroying it takes the item out of the menu bar. Main thread only.
+class StatusItem {
+ public:
+  /// A new item of variable length whose button has neither target nor action.
+  StatusItem();
+  StatusItem(StatusItem&&) noexcept;
+  StatusItem& operator=(StatusItem&&) noexcept;
+  ~StatusItem();
+
+  /// As long as the menu bar is high.
+  void setSquareLength();
+  void setImagePosition(ImagePosition position);
+  void setImageScaling(ImageScaling scaling);
+  /// None leaves the button without an image.
+  void setImage(const std::optional<Image>& image);
+  /// A click on the item opens the menu.
+  void setMenu(const Menu& menu);
+  /// Under this name the system remembers where the user put the item.
+  void setAutosaveName(std::string_view name);
+
+  struct Implementation;
+
+ private:
+  std::unique_ptr<Implementation> implementation_;
+};
+
+}  // namespace orvane::appkit

@@ -1,0 +1,63 @@
+// Shows the two panels, places them, keeps the settings attached to the main panel, and forgets
+// each one when it closes.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <utility>
+
+#include "Orvane/base/Lifetime.hpp"
+#include "Orvane/model/OrvaneModel.hpp"
+#include "Orvane/platform/appkit/HostingView.hpp"
+#include "Orvane/windows/OrvaneSettingsWindow.hpp"
+#include "Orvane/windows/OrvaneWindow.hpp"
+
+namespace orvane {
+
+/// Main thread only.
+class OrvaneWindowController {
+ public:
+  /// What the windows show, handed in by whoever knows the panels. Each function is called once
+  /// for each window that is made.
+  struct Contents {
+    std::function<appkit::HostingView::RootBuilder(OrvaneModel& model)> mainPanel;
+    std::function<appkit::HostingView::RootBuilder(OrvaneModel& model,
+                                                   std::function<void()> onClose)>
+        settingsPanel;
+  };
+
+  /// The one controller of the process, created when it is first asked for.
+  static OrvaneWindowController& shared();
+
+  /// Must be called before the first show.
+  void setContents(Contents contents) { contents_ = std::move(contents); }
+
+  /// Brings the main panel to the front; one that is not visible is centred on the main screen.
+  void show(OrvaneModel& model);
+  /// Brings the main panel and, centred on it, the settings panel to the front.
+  void showSettings(OrvaneModel& model);
+
+  void closeWindow();
+  void closeSettingsWindow();
+  void miniaturizeWindow();
+
+  /// The panels while they exist.
+  [[nodiscard]] const std::optional<OrvaneWindow>& window() const { return window_; }
+  [[nodiscard]] const std::optional<OrvaneSettingsWindow>& settingsWindow() const {
+    return settingsWindow_;
+  }
+
+ private:
+  void placeOnMainScreen();
+  void placeSettings();
+  void windowWillClose();
+  void settingsWindowWillClose();
+  void noteClosed();
+
+  Contents contents_;
+  std::optional<OrvaneWindow> window_;
+  std::optional<OrvaneSettingsWindow> settingsWindow_;
+  Lifetime lifetime_;
+};
+
+}  // namespace orvane

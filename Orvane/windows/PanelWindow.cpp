@@ -1,0 +1,37 @@
+// What the two panels of the application have in common: a frameless window of fixed size whose
+// whole chrome is drawn by its content.
+#include "Orvane/windows/PanelWindow.hpp"
+
+#include <utility>
+
+namespace orvane {
+
+PanelWindow::PanelWindow(const PanelWindowAttributes& attributes, const OrvaneModel& model,
+                         appkit::HostingView::RootBuilder content)
+    : appkit::Window(appkit::WindowKind::window,
+                     CGRectMake(0, 0, attributes.size.width, attributes.size.height),
+                     attributes.styleMask) {
+  setClassName(attributes.className);
+  // Without a title bar a window refuses both unless it is told otherwise.
+  setCanBecomeKeyWindow(true);
+  setCanBecomeMainWindow(true);
+  setTitle(attributes.title);
+  setMovableByWindowBackground(true);
+  setReleasedWhenClosed(false);
+  setOpaque(false);
+  setHasShadow(true);
+  setClearBackground();
+  setMinSize(attributes.size);
+  setMaxSize(attributes.size);
+  setCollectionBehavior(appkit::CollectionBehavior::moveToActiveSpace |
+                        appkit::CollectionBehavior::managed);
+
+  ZeroSafeAreaHostingView view(std::move(content));
+  view.setFrame(CGRectMake(0, 0, attributes.size.width, attributes.size.height));
+  view.setLayerCorners(attributes.cornerRadius, appkit::CornerCurve::continuous, true);
+  view.setBackdrop(appkit::Backdrop::behindWindow);
+  setContentView(view);
+  modelChanges_ = model.changes().observe([view]() mutable { view.setNeedsUpdate(); });
+}
+
+}  // namespace orvane

@@ -1,0 +1,35 @@
+// What the two panels of the application have in common: a frameless window of fixed size whose
+// whole chrome, rounded corners included, is drawn by its content.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "Orvane/base/Signal.hpp"
+#include "Orvane/model/OrvaneModel.hpp"
+#include "Orvane/platform/Quartz.hpp"
+#include "Orvane/platform/appkit/Window.hpp"
+#include "Orvane/windows/ZeroSafeAreaHostingView.hpp"
+
+namespace orvane {
+
+/// Sizes and radii in points.
+struct PanelWindowAttributes {
+  std::string_view className;
+  std::string_view title;
+  CGSize size{};
+  std::uint64_t styleMask = 0;
+  double cornerRadius = 0;
+};
+
+/// A handle to a window, and the subscription that redraws its content when the model changes.
+class PanelWindow : public appkit::Window {
+ protected:
+  PanelWindow(const PanelWindowAttributes& attributes, const OrvaneModel& model,
+              appkit::HostingView::RootBuilder content);
+
+ private:
+  Subscription modelChanges_;
+};
+
+}  // namespace orvane
