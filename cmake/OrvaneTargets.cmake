@@ -20,10 +20,12 @@ function(orvane_library name)
   target_link_libraries(${name} PUBLIC orvane_flags)
 endfunction()
 
-# orvane_test(NAME SOURCES file... [LIBRARIES library...] [LABELS label...]): a GoogleTest
-# executable; every test in it is one test of ctest. In the sanitizers' build its name says so.
+# orvane_test(NAME SOURCES file... [LIBRARIES library...] [LABELS label...] [PROPERTY_CASES count]):
+# a GoogleTest executable; every test in it is one test of ctest. In the sanitizers' build its name
+# says so. Under ctest RapidCheck's properties see the same cases in every run, PROPERTY_CASES of
+# them; the executable itself tries others each time.
 function(orvane_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;LABELS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "PROPERTY_CASES" "SOURCES;LIBRARIES;LABELS")
   if(ORVANE_SPEED_TESTS_ONLY AND NOT "speed" IN_LIST arg_LABELS)
     return()
   endif()
@@ -33,7 +35,11 @@ function(orvane_test name)
   if(ORVANE_SANITIZE)
     set(prefix "asan.")
   endif()
-  set(properties TIMEOUT 300)
+  if(NOT arg_PROPERTY_CASES)
+    set(arg_PROPERTY_CASES 100)
+  endif()
+  set(properties TIMEOUT 300
+                 ENVIRONMENT "RC_PARAMS=seed=20260101 max_success=${arg_PROPERTY_CASES}")
   if(arg_LABELS)
     list(APPEND properties LABELS "${arg_LABELS}")
   endif()

@@ -1,0 +1,64 @@
+// Callbacks into an object act while it lives and do nothing afterwards.
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/base/Lifetime.hpp"
+
+namespace orvane {
+namespace {
+
+TEST(LifetimeTest, ACallbackActsWhileItsOwnerLives) {
+  const Lifetime lifetime;
+  int count = 0;
+  const std::function<void()> callback = lifetime.whileAlive([&] { ++count; });
+  callback();
+  callback();
+  EXPECT_EQ(count, 2);
+}
+
+TEST(LifetimeTest, ACallbackDoesNothingOnceItsOwnerIsGone) {
+  auto lifetime = std::make_unique<Lifetime>();
+  int count = 0;
+  const std::function<void()> callback = lifetime->whileAlive([&] { ++count; });
+  const std::function<void()> copy = callback;
+  lifetime.reset();
+  callback();
+  copy();
+  EXPECT_EQ(count, 0);
+}
+
+TEST(LifetimeTest, ArgumentsArePassedOn) {
+  const Lifetime lifetime;
+  std::string seen;
+  const std::function<void(const std::string&, int)> callback = lifetime.whileAlive(
+      [&](const std::string& text, int number) { seen = text + std::to_string(number); });
+  callback("zone ", 4);
+  EXPECT_EQ(seen, "zone 4");
+}
+
+TEST(LifetimeTest, ACallbackMayEndItsOwner) {
+  auto lifetime = std::make_unique<Lifetime>();
+  int count = 0;
+  std::function<void()> callback = lifetime->whileAlive([&] {
+    ++count;
+    lifetime.reset();
+  });
+  callback();
+  callback();
+  EXPECT_EQ(count, 1);
+}
+
+TEST(LifetimeTest, ANewOwnerDoesNotWakeOldCallbacks) {
+  auto lifetime = std::make_unique<Lifetime>();
+  int count = 0;
+  const std::function<void()> callback = lifetime->whileAlive([&] { ++count; });
+  lifetime = std::make_unique<Lifetime>();
+  callback();
+  EXPECT_EQ(count, 0);
+}
+
+}  // namespace
+}  // namespace orvane

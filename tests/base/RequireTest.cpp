@@ -1,0 +1,20 @@
+// What cannot happen ends the process, also in release builds.
+#include <gtest/gtest.h>
+
+#include "Orvane/base/Require.hpp"
+
+namespace orvane {
+namespace {
+
+TEST(RequireDeathTest, AFalseConditionEndsTheProcessWithItsMessage) {
+  testing::GTEST_FLAG(death_test_style) = "threadsafe";
+  EXPECT_DEATH(require(false, "a guard has one event tap at a time"),
+               "Orvane: a guard has one event tap at a time");
+}
+
+TEST(RequireTest, ATrueConditionDoesNothing) {
+  require(true, "never said");
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,146 @@
+// What observers may do while they are being told, and how long a registration lasts.
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/base/Signal.hpp"
+
+namespace orvane {
+namespace {
+
+TEST(SignalTest, ObserversAreToldInTheOrderTheyCame) {
+  Signal signal;
+  std::string told;
+  const Subscription first = signal.observe([&] { told += "a"; });
+  const Subscription second = signal.observe([&] { told += "b"; });
+  const Subscription third = signal.observe([&] { told += "c"; });
+  signal.notify();
+  EXPECT_EQ(told, "abc");
+}
+
+TEST(SignalTest, ARegistrationEndsWithItsSubscription) {
+  Signal signal;
+  int count = 0;
+  {
+    const Subscription subscription = signal.observe([&] { ++count; });
+    signal.notify();
+  }
+  signal.notify();
+  EXPECT_EQ(count, 1);
+}
+
+TEST(SignalTest, ACancelledSubscriptionIsNotActiveAndHearsNothing) {
+  Signal signal;
+  int count = 0;
+  Subscription subscription = signal.observe([&] { ++count; });
+  EXPECT_TRUE(subscription.isActive());
+  subscription.cancel();
+  EXPECT_FALSE(subscription.isActive());
+  subscription.cancel();
+  signal.notify();
+  EXPECT_EQ(count, 0);
+}
+
+TEST(SignalTest, ADefaultSubscriptionIsOfNothing) {
+  EXPECT_FALSE(Subscription().isActive());
+}
+
+TEST(SignalTest, AMovedSubscriptionKeepsTheRegistration) {
+  Signal signal;
+  int count = 0;
+  Subscription kept;
+  {
+    Subscription made = signal.observe([&] { ++count; });
+    kept = std::move(made);
+  }
+  signal.notify();
+  EXPECT_EQ(count, 1);
+}
+
+TEST(SignalTest, AssigningAnotherSubscriptionEndsTheFirst) {
+  Signal signal;
+  std::string told;
+  Subscription subscription = signal.observe([&] { told += "a"; });
+  subscription = signal.observe([&] { told += "b"; });
+  signal.notify();
+  EXPECT_EQ(told, "b");
+}
+
+TEST(SignalTest, ASubscriptionMayOutliveTheSignal) {
+  std::optional<Signal> signal;
+  signal.emplace();
+  Subscription subscription = signal->observe([] {});
+  signal.reset();
+  EXPECT_TRUE(subscription.isActive());
+  subscription.cancel();
+}
+
+TEST(SignalTest, AnObserverCancelledDuringANotificationIsNotToldAnyMore) {
+  Signal signal;
+  int count = 0;
+  Subscription later;
+  const Subscription earlier = signal.observe([&] { later.cancel(); });
+  later = signal.observe([&] { ++count; });
+  signal.notify();
+  EXPECT_EQ(count, 0);
+}
+
+TEST(SignalTest, AnObserverThatComesDuringANotificationHearsOfTheNext) {
+  Signal signal;
+  int count = 0;
+  Subscription late;
+  const Subscription early = signal.observe([&] {
+    if (!late.isActive()) {
+      late = signal.observe([&] { ++count; });
+    }
+  });
+  signal.notify();
+  EXPECT_EQ(count, 0);
+  signal.notify();
+  EXPECT_EQ(count, 1);
+}
+
+TEST(SignalTest, AnObserverMayCancelItselfAndGoOn) {
+  Signal signal;
+  int count = 0;
+  Subscription own;
+  own = signal.observe([&own, &count, witness = std::make_shared<int>(7)] {
+    own.cancel();
+    // The observer itself must still be there.
+    count += *witness;
+  });
+  signal.notify();
+  signal.notify();
+  EXPECT_EQ(count, 7);
+}
+
+TEST(SignalTest, AnObserverMayDestroyTheSignal) {
+  auto signal = std::make_unique<Signal>();
+  int count = 0;
+  const Subscription first = signal->observe([&] { signal.reset(); });
+  const Subscription second = signal->observe([&] { ++count; });
+  signal->notify();
+  EXPECT_EQ(signal, nullptr);
+  EXPECT_EQ(count, 1);
+}
+
+TEST(SignalTest, ANotificationWithinANotificationReachesEveryone) {
+  Signal signal;
+  std::string told;
+  bool again = true;
+  const Subscription first = signal.observe([&] {
+    told += "a";
+    if (std::exchange(again, false)) {
+      signal.notify();
+    }
+  });
+  const Subscription second = signal.observe([&] { told += "b"; });
+  signal.notify();
+  EXPECT_EQ(told, "aabb");
+}
+
+}  // namespace
+}  // namespace orvane

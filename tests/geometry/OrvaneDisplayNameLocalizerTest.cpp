@@ -1,0 +1,178 @@
+// What displays are called in the three languages that their names know.
+#include <regex>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "Orvane/geometry/OrvaneDisplayNameLocalizer.hpp"
+#include "tests/support/IdentifierGenerator.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using namespace OrvaneDisplayNameLocalizer;
+
+class OrvaneDisplayNameLocalizerTest : public desk::MachineFixture {
+ protected:
+  void setLanguage(const char* language) { machine.userDefaults.set("appLanguage", language); }
+  void prefer(std::vector<std::string> languages, std::string locale) {
+    machine.locale.preferredLanguages = std::move(languages);
+    machine.locale.currentIdentifier = std::move(locale);
+  }
+  static std::string builtInName() { return localizedDisplayName("Color LCD", 1, true); }
+};
+
+TEST_F(OrvaneDisplayNameLocalizerTest, ABuiltInPanelHasAFixedNameInEachLanguage) {
+  setLanguage("english");
+  EXPECT_EQ(builtInName(), "Display");
+  setLanguage("chinese");
+  EXPECT_EQ(builtInName(), "内建显示器");
+  prefer({}, "zh_Hant_TW");
+  EXPECT_EQ(builtInName(), "內建顯示器");
+}
+
+TEST_F(OrvaneDisplayNameLocalizerTest, ABuiltInPanelNeedsNeitherNameNorNumber) {
+  EXPECT_EQ(localizedDisplayName("", std::nullopt, true), "Display");
+}
+
+TEST_F(OrvaneDisplayNameLocalizerTest, AnExternalDisplayKeepsItsOwnNameTrimmed) {
+  EXPECT_EQ(localizedDisplayName(" \tLG  UltraFine\r\n", 2, false), "LG  UltraFine");
+}
+
+TEST_F(OrvaneDisplayNameLocalizerTest, ANameOfBlanksFallsBackToTheNumber) {
+  EXPECT_EQ(localizedDisplayName("   ", 3, false), "Display 3");
+  EXPECT_EQ(localizedDisplayName("", 4294967295, false), "Display 4294967295");
+  EXPECT_EQ(localizedDisplayName("\n\xC2\xA0\xE3\x80\x80", 3, false), "Display 3");
+}
+
+TEST_F(OrvaneDisplayNameLocalizerTest, TheFallbackNamesAreKnownInEachLanguage) {
+  setLanguage("english");
+  EXPECT_EQ(fallbackDisplayName(3), "Display 3");
+  EXPECT_EQ(fallbackDisplayName(std::nullopt), "Unknown Display");
+  setLanguage("chinese");
+  EXPECT_EQ(fallbackDisplayName(3), "显示器 3");
+  EXPECT_EQ(fallbackDisplayName(std::nullopt), "未知显示器");
+  prefer({}, "zh_TW");
+  EXPECT_EQ(fallbackDisplayName(3), "顯示器 3");
+  EXPECT_EQ(fallbackDisplayName(std::nullopt), "未知顯示器");
+  EXPECT_EQ(localizedDisplayName(" ", std::nullopt, false), "未知顯示器");
+}
+
+TEST_F(OrvaneDisplayNameLocalizerTest, EnglishAsSettingOverrulesTheSystem) {
+  prefer({"zh-Hant-TW"}, "zh_TW");
+  setLanguage("english");
+  EXPECT_EQ(builtInName(), "Display");
+}
+
+TEST_F(OrvaneDisplayNameLocalizerTest, ChineseAsSettingAsksOnlyTheLocaleWhichChinese) {
+  setLanguage("chinese");
+  prefer({"zh-Hant-TW"}, "en_US");
+  EXPECT_EQ(builtInName(), "内建显示器");
+  for (const char* const traditional :
+       {"zh_Hant", "zh-hant", "ZH_HANT_HK", "zh_TW", "zh_tw", "zh_HK", "zh_MO", "zh_Hantastic"}) {
+    prefer({"en-US", "zh-Hans"}, traditional);
+    EXPECT_EQ(builtInName(), "內建顯示器") << traditional;
+  }
+  for (const char* const simplified :
+       {"zh_CN", "zh_Hans_TW", "zh-TW", "zh-HK", "zh-MO", " zh_TW", "fr_FR", ""}) {
+    prefer({"zh-Hant"}, simplified);
+    EXPECT_EQ(builtInName(), "内建显示器") << simplified;
+  }
+}
+
+TEST_F(OrvaneDisplayNameLocalizerTest, ForTheSystemTheFirstLanguageThatDecidesWins) {
+  prefer({"fr-FR", "zh-Hant-TW"}, "en_US");
+  EXPECT_EQ(builtInName(), "內建顯示器");
+  prefer({"fr-FR"}, "en_US");
+  EXPECT_EQ(builtInName(), "Display");
+  prefer({"fr-FR", "de-DE"}, "zh_HK");
+  EXPECT_EQ(builtInName(), "內建顯示器");
+  prefer({"en-GB", "zh-Hans"}, "zh_CN");
+  EXPECT_EQ(builtInName(), "Display");
+  prefer({"zh-Hans", "zh-Hant"}, "en_US");
+  EXPECT_EQ(builtInName(), "内建显示器");
+  prefer({"fr-FR"}, "fr_FR");
+  EXPECT_EQ(builtInName(), "Display");
+  prefer({}, "");
+  EXPECT_EQ(builtInName(), "Display");
+}
+
+TEST_F(OrvaneDisplayNameLocalizerTest, AMalformedSettingIsTheSystem) {
+  prefer({"zh-Hant"}, "en_US");
+  for (const char* const text : {"system", "Chinese", "klingon", ""}) {
+    setLanguage(text);
+    EXPECT_EQ(builtInName(), "內建顯示器") << text;
+  }
+  machine.userDefaults.set("appLanguage", true);
+  EXPECT_EQ(builtInName(), "內建顯示器");
+}
+
+TEST_F(OrvaneDisplayNameLocalizerTest, ForTheSystemIdentifiersAreTrimmedAndNormalized) {
+  for (const char* const traditional :
+       {"zh-Hant", " ZH_hant\n", "zh_TW", "zh-TWX", "zh-HK-x", "zh_mo"}) {
+    prefer({traditional}, "en_US");
+    EXPECT_EQ(currentChineseLanguageOrEnglish(), DisplayNameLanguage::traditionalChinese)
+        << traditional;
+  }
+  for (const char* const simplified : {"zh", "zh-", "ZH_cn", "zh-Hantx", "zh-Hans-TW"}) {
+    prefer({simplified}, "en_US");
+    EXPECT_EQ(currentChineseLanguageOrEnglish(), DisplayNameLanguage::simplifiedChinese)
+        << simplified;
+  }
+  for (const char* const skipped : {"zhx", "english", "", "e n", "zhtw"}) {
+    prefer({skipped}, "zh-Hant");
+    EXPECT_EQ(currentChineseLanguageOrEnglish(), DisplayNameLanguage::traditionalChinese)
+        << skipped;
+  }
+}
+
+// The same rules once more, as regular expressions.
+DisplayNameLanguage expectedForSystem(const std::vector<std::string>& identifiers) {
+  const auto flags = std::regex::ECMAScript | std::regex::icase;
+  static const std::regex traditional(
+      R"(\s*zh[-_](?:hant\s*|hant[-_][\s\S]*|tw[\s\S]*|hk[\s\S]*|mo[\s\S]*))", flags);
+  static const std::regex chinese(R"(\s*zh(?:\s*|[-_][\s\S]*))", flags);
+  static const std::regex english(R"(\s*en(?:\s*|[-_][\s\S]*))", flags);
+  for (const std::string& identifier : identifiers) {
+    if (std::regex_match(identifier, traditional)) {
+      return DisplayNameLanguage::traditionalChinese;
+    }
+    if (std::regex_match(identifier, chinese)) {
+      return DisplayNameLanguage::simplifiedChinese;
+    }
+    if (std::regex_match(identifier, english)) {
+      return DisplayNameLanguage::english;
+    }
+  }
+  return DisplayNameLanguage::english;
+}
+
+RC_GTEST_PROP(OrvaneDisplayNameLocalizerProperty, TheSystemsLanguageAgreesWithRegularExpressions,
+              ()) {
+  std::vector<std::string> identifiers = *genIdentifiers();
+  const std::string locale = *genIdentifier();
+  desk::MachineScope scope;
+  scope->locale.preferredLanguages = identifiers;
+  scope->locale.currentIdentifier = locale;
+  const DisplayNameLanguage language = currentChineseLanguageOrEnglish();
+  identifiers.push_back(locale);
+  RC_ASSERT(language == expectedForSystem(identifiers));
+}
+
+RC_GTEST_PROP(OrvaneDisplayNameLocalizerProperty, TheLocalesChineseAgreesWithARegularExpression,
+              ()) {
+  static const std::regex traditional(R"((?:zh[-_]hant|zh_tw|zh_hk|zh_mo)[\s\S]*)",
+                                      std::regex::ECMAScript | std::regex::icase);
+  const std::string locale = *genIdentifier();
+  desk::MachineScope scope;
+  scope->locale.currentIdentifier = locale;
+  RC_ASSERT(currentChineseLanguage() == (std::regex_match(locale, traditional)
+                                             ? DisplayNameLanguage::traditionalChinese
+                                             : DisplayNameLanguage::simplifiedChinese));
+}
+
+}  // namespace
+}  // namespace orvane

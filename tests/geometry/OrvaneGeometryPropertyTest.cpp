@@ -1,0 +1,160 @@
+// Exposed stretches and zones on random arrangements of displays, beside a slow and obvious answer
+// and under turns and reflections of the whole desk.
+#include <algorithm>
+#include <cstddef>
+#include <set>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "Orvane/geometry/OrvaneGeometry.hpp"
+#include "tests/support/ArrangementGenerator.hpp"
+#include "tests/support/EdgeOracle.hpp"
+#include "tests/support/GeometryPrinting.hpp"
+
+namespace orvane {
+namespace {
+
+using OrvaneGeometry::calculateTriggerZones;
+using OrvaneGeometry::exposedIntervals;
+using Indices = std::set<std::size_t>;
+
+Indices everyIndex(const Arrangement& arrangement) {
+  Indices indices;
+  for (std::size_t index = 0; index < arrangement.frames.size(); ++index) {
+    indices.insert(index);
+  }
+  return indices;
+}
+
+bool hasPoint(const CGRect& rect, CGPoint point) {
+  return point.x >= rect.origin.x && point.x < rect.origin.x + rect.size.width &&
+         point.y >= rect.origin.y && point.y < rect.origin.y + rect.size.height;
+}
+
+/// How deep in the display a point lies, from its Dock edge.
+double depthFrom(DockPosition edge, const CGRect& frame, CGPoint point) {
+  switch (edge) {
+    case DockPosition::left:
+      return point.x - frame.origin.x;
+    case DockPosition::right:
+      return frame.origin.x + frame.size.width - point.x;
+    default:
+      return frame.origin.y + frame.size.height - point.y;
+  }
+}
+
+/// Whether the point lies at most twelve points behind an exposed place of the display's Dock edge.
+bool isGuarded(CGPoint point, const CGRect& frame, DockPosition edge,
+               const std::vector<CGRect>& frames) {
+  const double depth = depthFrom(edge, frame, point);
+  const double along = edge == DockPosition::bottom ? point.x : point.y;
+  const std::vector<oracle::Stretch> stretches =
+      oracle::exposedStretches(frame, edge, frames, arrangementCell);
+  return depth > 0 && depth < 12 &&
+         std::ranges::any_of(stretches, [along](const oracle::Stretch& stretch) {
+           return along > stretch.start && along < stretch.end;
+         });
+}
+
+RC_GTEST_PROP(OrvaneGeometryProperty, ExposedStretchesAgreeWithLookingAtEveryCellOfTheEdge, ()) {
+  const Arrangement arrangement = *genArrangement();
+  const DockPosition edge = *genGuardedEdge();
+  for (const CGRect& frame : arrangement.frames) {
+    std::vector<EdgeInterval> expected;
+    for (const auto& [start, end] :
+         oracle::exposedStretches(frame, edge, arrangement.frames, arrangementCell)) {
+      expected.push_back({start, end});
+    }
+    RC_ASSERT(exposedIntervals(frame, edge, arrangement.frames) == expected);
+  }
+}
+
+RC_GTEST_PROP(OrvaneGeometryProperty, APointIsInAZoneExactlyWhenItIsBehindAnExposedPlace, ()) {
+  const Arrangement arrangement = *genArrangement();
+  const DockPosition edge = *genGuardedEdge();
+  const std::vector<CGRect>& frames = arrangement.frames;
+  Indices blocked = everyIndex(arrangement);
+  blocked.erase(*rc::gen::inRange<std::size_t>(0, 7));
+  const std::vector<TriggerZone> zones = calculateTriggerZones(frames, blocked, edge);
+  // Points in the middle of a cell, in and around one of the displays.
+  const CGRect& near = frames[*rc::gen::inRange<std::size_t>(0, frames.size())];
+  for (int count = 0; count < 20; ++count) {
+    const auto place = [](double from, double length) {
+      const int cells = static_cast<int>(length / arrangementCell);
+      return from + (*rc::gen::inRange(-32, cells + 32) + 0.5) * arrangementCell;
+    };
+    const CGPoint point{place(near.origin.x, near.size.width),
+                        place(near.origin.y, near.size.height)};
+    const bool isInZone = std::ranges::any_of(
+        zones, [&](const TriggerZone& zone) { return hasPoint(zone.rect, point); });
+    const bool expected = std::ranges::any_of(blocked, [&](std::size_t index) {
+      return index < frames.size() && isGuarded(point, frames[index], edge, frames);
+    });
+    RC_ASSERT(isInZone == expected);
+  }
+}
+
+RC_GTEST_PROP(OrvaneGeometryProperty, EveryZoneIsAsDeepAsItsNudgeIsLong, ()) {
+  const Arrangement arrangement = *genArrangement();
+  const DockPosition edge = *genGuardedEdge();
+  for (const TriggerZone& zone :
+       calculateTriggerZones(arrangement.frames, everyIndex(arrangement), edge)) {
+    const bool isBottom = edge == DockPosition::bottom;
+    RC_ASSERT((isBottom ? zone.rect.size.height : zone.rect.size.width) == 12);
+    RC_ASSERT((isBottom ? zone.rect.size.width : zone.rect.size.height) > 0.5);
+    const CGVector expected = isBottom                     ? CGVector{0, -12}
+                              : edge == DockPosition::left ? CGVector{12, 0}
+                                                           : CGVector{-12, 0};
+    RC_ASSERT(zone.nudgeVector.dx == expected.dx);
+    RC_ASSERT(zone.nudgeVector.dy == expected.dy);
+  }
+}
+
+RC_GTEST_PROP(OrvaneGeometryProperty, LockingOneDisplayBlocksAllTheOthers, ()) {
+  const Arrangement arrangement = *genArrangement();
+  const DockPosition edge = *genGuardedEdge();
+  const std::size_t locked = *rc::gen::inRange<std::size_t>(0, 8);
+  Indices others = everyIndex(arrangement);
+  const bool isLocking = others.size() >= 2 && others.erase(locked) == 1;
+  RC_ASSERT(calculateTriggerZones(arrangement.frames, locked, edge) ==
+            (isLocking ? calculateTriggerZones(arrangement.frames, others, edge)
+                       : std::vector<TriggerZone>{}));
+}
+
+RC_GTEST_PROP(OrvaneGeometryProperty, ADeskTurnedOverGivesTurnedZones, ()) {
+  const Arrangement arrangement = *genArrangement();
+  const std::vector<CGRect>& frames = arrangement.frames;
+  const auto swapped = [](const CGRect& rect) {
+    return CGRect{{rect.origin.y, rect.origin.x}, {rect.size.height, rect.size.width}};
+  };
+  std::vector<CGRect> swappedFrames;
+  std::ranges::transform(frames, std::back_inserter(swappedFrames), swapped);
+  std::vector<TriggerZone> expected =
+      calculateTriggerZones(frames, everyIndex(arrangement), DockPosition::bottom);
+  for (TriggerZone& zone : expected) {
+    zone = {swapped(zone.rect), {zone.nudgeVector.dy, zone.nudgeVector.dx}};
+  }
+  RC_ASSERT(calculateTriggerZones(swappedFrames, everyIndex(arrangement), DockPosition::right) ==
+            expected);
+}
+
+RC_GTEST_PROP(OrvaneGeometryProperty, ADeskInTheMirrorGivesMirroredZones, ()) {
+  const Arrangement arrangement = *genArrangement();
+  const auto reflected = [](const CGRect& rect) {
+    return CGRect{{-(rect.origin.x + rect.size.width), rect.origin.y}, rect.size};
+  };
+  std::vector<CGRect> reflectedFrames;
+  std::ranges::transform(arrangement.frames, std::back_inserter(reflectedFrames), reflected);
+  std::vector<TriggerZone> expected =
+      calculateTriggerZones(arrangement.frames, everyIndex(arrangement), DockPosition::left);
+  for (TriggerZone& zone : expected) {
+    zone = {reflected(zone.rect), {-zone.nudgeVector.dx, zone.nudgeVector.dy}};
+  }
+  RC_ASSERT(calculateTriggerZones(reflectedFrames, everyIndex(arrangement), DockPosition::right) ==
+            expected);
+}
+
+}  // namespace
+}  // namespace orvane

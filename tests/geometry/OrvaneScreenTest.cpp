@@ -1,0 +1,232 @@
+// Under which identifiers a display is known, and where it is in global coordinates.
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "Orvane/geometry/OrvaneScreen.hpp"
+#include "tests/support/MachineFixture.hpp"
+#include "tests/support/TestDisplays.hpp"
+
+namespace orvane {
+namespace {
+
+using namespace OrvaneScreen;
+using desk::attach;
+
+const char* const colorSpaceEnding = "Optional(8)-Optional(\"NSCalibratedRGBColorSpace\")";
+
+class OrvaneScreenTest : public desk::MachineFixture {
+ protected:
+  static appkit::Screen screen(std::size_t index = 0) {
+    return appkit::Screen::screens().at(index);
+  }
+};
+
+TEST_F(OrvaneScreenTest, TheDisplayIDIsTheScreenNumber) {
+  attach(machine, desk::laptop());
+  EXPECT_EQ(orvaneDisplayID(screen()), 1U);
+}
+
+TEST_F(OrvaneScreenTest, TheGreatestNumberIsKept) {
+  attach(machine, desk::displayOf(4294967295, "Far", {{0, 0}, {100, 100}}));
+  EXPECT_EQ(orvaneDisplayID(screen()), 4294967295U);
+  EXPECT_TRUE(orvaneMatchingIdentifiers(screen()).contains("4294967295"));
+}
+
+TEST_F(OrvaneScreenTest, AScreenWithoutANumberHasNoDisplayID) {
+  desk::Display display = desk::laptop();
+  display.hasNumberInDescription = false;
+  attach(machine, display);
+  EXPECT_EQ(orvaneDisplayID(screen()), std::nullopt);
+}
+
+TEST_F(OrvaneScreenTest, TheLegacyIdentifierKeepsItsFormExactly) {
+  attach(machine, desk::displayOf(1, "Any", {{0, 0}, {1512, 982}}));
+  EXPECT_EQ(orvaneLegacyIdentifier(screen()),
+            "Optional(1)-1512.0-982.0-Optional(8)-Optional(\"NSCalibratedRGBColorSpace\")");
+}
+
+TEST_F(OrvaneScreenTest, TheLegacyIdentifierShowsDepthAndColourSpace) {
+  desk::Display display = desk::displayOf(77, "Any", {{5, 7}, {2560.5, 1440.25}});
+  display.bitsPerSample = 10;
+  display.colorSpace = "NSDeviceRGBColorSpace";
+  attach(machine, display);
+  EXPECT_EQ(orvaneLegacyIdentifier(screen()),
+            "Optional(77)-2560.5-1440.25-Optional(10)-Optional(\"NSDeviceRGBColorSpace\")");
+}
+
+TEST_F(OrvaneScreenTest, WithoutANumberTheLegacyIdentifierBeginsWithNil) {
+  desk::Display display = desk::laptop();
+  display.hasNumberInDescription = false;
+  attach(machine, display);
+  EXPECT_EQ(orvaneLegacyIdentifier(screen()), std::string("nil-1920.0-1080.0-") + colorSpaceEnding);
+  EXPECT_EQ(orvanePrimaryIdentifier(screen()), orvaneLegacyIdentifier(screen()));
+  EXPECT_EQ(orvaneMatchingIdentifiers(screen()),
+            (std::set<std::string>{orvaneLegacyIdentifier(screen())}));
+}
+
+TEST_F(OrvaneScreenTest, SizesAreWrittenWithAsFewDecimalsAsReadBackExactly) {
+  attach(machine, desk::displayOf(1, "Any", {{0, 0}, {0.1, 1366.0625}}));
+  EXPECT_EQ(orvaneLegacyIdentifier(screen()),
+            std::string("Optional(1)-0.1-1366.0625-") + colorSpaceEnding);
+}
+
+TEST_F(OrvaneScreenTest, ThePrimaryIdentifierIsTheUUID) {
+  attach(machine, desk::laptop());
+  EXPECT_EQ(orvanePrimaryIdentifier(screen()), desk::uuidNamed('A'));
+}
+
+TEST_F(OrvaneScreenTest, WithoutAUUIDThePrimaryIdentifierIsTheLegacyOne) {
+  desk::Display display = desk::laptop();
+  display.uuid.reset();
+  attach(machine, display);
+  EXPECT_EQ(orvanePrimaryIdentifier(screen()), orvaneLegacyIdentifier(screen()));
+  EXPECT_EQ(orvaneMatchingIdentifiers(screen()),
+            (std::set<std::string>{orvaneLegacyIdentifier(screen()), "1"}));
+}
+
+TEST_F(OrvaneScreenTest, TheMatchingIdentifiersAreUUIDLegacyAndNumber) {
+  attach(machine, desk::laptop());
+  EXPECT_EQ(orvaneMatchingIdentifiers(screen()),
+            (std::set<std::string>{desk::uuidNamed('A'), orvaneLegacyIdentifier(screen()), "1"}));
+}
+
+TEST_F(OrvaneScreenTest, AStoredNumberFindsTheDisplayWithThatNumber) {
+  attach(machine, desk::laptop());
+  attach(machine, desk::monitorAtTheRight());
+  const auto found = orvaneFindScreen("2");
+  ASSERT_TRUE(found);
+  EXPECT_EQ(orvaneDisplayID(*found), 2U);
+}
+
+TEST_F(OrvaneScreenTest, AStoredUUIDFindsTheDisplayAfterItsNumberChanged) {
+  attach(machine, desk::laptop());
+  attach(machine, desk::monitorAtTheRight());
+  EXPECT_EQ(machine.displays.renumber(2, 9), std::nullopt);
+  const auto found = orvaneFindScreen(desk::uuidNamed('B'));
+  ASSERT_TRUE(found);
+  EXPECT_EQ(orvaneDisplayID(*found), 9U);
+  EXPECT_FALSE(orvaneFindScreen("2"));
+}
+
+TEST_F(OrvaneScreenTest, IdentifiersAreComparedExactly) {
+  desk::Display display = desk::laptop();
+  display.uuid = "ABCDEF00-0000-4000-8000-00000000000A";
+  attach(machine, display);
+  EXPECT_TRUE(orvaneFindScreen("ABCDEF00-0000-4000-8000-00000000000A"));
+  EXPECT_FALSE(orvaneFindScreen("abcdef00-0000-4000-8000-00000000000a"));
+  EXPECT_FALSE(orvaneFindScreen(" 1"));
+  EXPECT_FALSE(orvaneFindScreen("01"));
+  EXPECT_FALSE(orvaneFindScreen(""));
+}
+
+TEST_F(OrvaneScreenTest, WithoutScreensNothingIsFound) {
+  EXPECT_FALSE(orvaneFindScreen("1"));
+}
+
+TEST_F(OrvaneScreenTest, OfTwoIdenticalScreensTheFirstIsFound) {
+  // Without numbers in their descriptions the two share their legacy identifier.
+  desk::Display twin = desk::displayOf(5, "Left twin", {{0, 0}, {1920, 1080}});
+  twin.hasNumberInDescription = false;
+  attach(machine, twin);
+  twin.number = 6;
+  twin.name = "Right twin";
+  twin.frame.origin.x = 1920;
+  attach(machine, twin);
+  const std::string shared = orvaneLegacyIdentifier(screen(0));
+  EXPECT_EQ(shared, orvaneLegacyIdentifier(screen(1)));
+  const auto found = orvaneFindScreen(shared);
+  ASSERT_TRUE(found);
+  EXPECT_EQ(found->localizedName(), "Left twin");
+}
+
+TEST_F(OrvaneScreenTest, GlobalCoordinatesHangFromTheTopOfTheFirstScreen) {
+  attach(machine, desk::displayOf(1, "First", {{0, 0}, {1512, 982}}));
+  attach(machine, desk::displayOf(2, "Higher", {{1512, 200}, {1920, 1080}}));
+  attach(machine, desk::displayOf(3, "Below", {{-300, -1440}, {2560, 1440}}));
+  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(0)), {{0, 0}, {1512, 982}}));
+  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(1)), {{1512, -298}, {1920, 1080}}));
+  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(2)), {{-300, 982}, {2560, 1440}}));
+}
+
+TEST_F(OrvaneScreenTest, WithoutAnyScreenInTheListAFrameIsUnchanged) {
+  attach(machine, desk::displayOf(1, "Gone soon", {{3, 5}, {1512, 982}}));
+  const appkit::Screen kept = screen();
+  desk::detach(machine, 1);
+  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(kept), {{3, 5}, {1512, 982}}));
+}
+
+// Properties.
+
+struct Spec {
+  int number;
+  int uuid;
+  bool hasNumber;
+  int size;
+};
+
+std::ostream& operator<<(std::ostream& out, const Spec& spec) {
+  return out << "{number " << spec.number << " uuid " << spec.uuid << " hasNumber "
+             << spec.hasNumber << " size " << spec.size << "}";
+}
+
+desk::Display displayOf(const Spec& spec) {
+  desk::Display display = desk::displayOf(static_cast<std::uint32_t>(spec.number), "Any",
+                                          {{0, 0}, {100.0 + spec.size, 50}});
+  if (spec.uuid > 0) {
+    // Two displays may claim the same UUID.
+    display.uuid = desk::uuidNamed(static_cast<char>('0' + spec.uuid));
+  }
+  display.hasNumberInDescription = spec.hasNumber;
+  return display;
+}
+
+/// All names of the display, put together by hand.
+std::set<std::string> namesOf(const Spec& spec) {
+  const std::string number = std::to_string(spec.number);
+  std::string legacy = spec.hasNumber ? "Optional(" + number + ")" : "nil";
+  legacy += "-" + std::to_string(100 + spec.size) + ".0-50.0-" + colorSpaceEnding;
+  std::set<std::string> names{legacy};
+  if (spec.hasNumber) {
+    names.insert(number);
+    if (spec.uuid > 0) {
+      names.insert("00000000-0000-4000-8000-00000000000" + std::to_string(spec.uuid));
+    }
+  }
+  return names;
+}
+
+RC_GTEST_PROP(OrvaneScreenProperty, AnIdentifierFindsTheFirstDisplayThatItNames, ()) {
+  const auto genSpec = rc::gen::construct<Spec>(rc::gen::inRange(1, 8), rc::gen::inRange(0, 4),
+                                                rc::gen::arbitrary<bool>(), rc::gen::inRange(0, 3));
+  std::vector<Spec> specs = *rc::gen::container<std::vector<Spec>>(genSpec);
+  std::set<int> numbers;
+  std::erase_if(specs, [&](const Spec& spec) { return !numbers.insert(spec.number).second; });
+  desk::MachineScope scope;
+  scope->process.start();
+  std::set<std::string> asked{"", "0", "nil", "99"};
+  for (const Spec& spec : specs) {
+    attach(scope.machine(), displayOf(spec));
+    asked.merge(namesOf(spec));
+  }
+  for (const std::string& identifier : asked) {
+    const auto expected = std::ranges::find_if(
+        specs, [&](const Spec& spec) { return namesOf(spec).contains(identifier); });
+    const auto found = orvaneFindScreen(identifier);
+    RC_ASSERT(found.has_value() == (expected != specs.end()));
+    if (found) {
+      RC_ASSERT(orvaneMatchingIdentifiers(*found) == namesOf(*expected));
+      RC_ASSERT(found->frame().size.width == 100.0 + expected->size);
+    }
+  }
+  RC_ASSERT(scope.end().isClean());
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,50 @@
+// The obviously right, slow answer to where a display's Dock edge is exposed: it walks along the
+// edge cell by cell and looks at what lies behind the middle of each.
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "Orvane/geometry/DockPosition.hpp"
+#include "Orvane/platform/Quartz.hpp"
+
+namespace orvane::oracle {
+
+/// A stretch of a line, in points.
+struct Stretch {
+  double start;
+  double end;
+  bool operator==(const Stretch&) const = default;
+};
+
+/// The longest stretches of [from, to] in which `holds` is true for the middle of every cell.
+/// Everything that decides `holds` must lie on multiples of `cell`.
+template <typename Predicate>
+std::vector<Stretch> stretchesWhere(double from, double to, double cell, Predicate holds) {
+  std::vector<Stretch> found;
+  bool inside = false;
+  for (long index = 0; from + static_cast<double>(index) * cell < to; ++index) {
+    const double start = from + static_cast<double>(index) * cell;
+    if (!holds(start + cell / 2)) {
+      inside = false;
+      continue;
+    }
+    if (!inside) {
+      found.push_back({start, start});
+    }
+    inside = true;
+    found.back().end = start + cell;
+  }
+  return found;
+}
+
+/// Whether a display other than `frame` lies directly behind its Dock edge at `along`.
+[[nodiscard]] bool hasNeighbourBehind(const CGRect& frame, DockPosition edge, double along,
+                                      std::span<const CGRect> allFrames);
+
+/// The stretches of the Dock edge, longer than half a point, without a neighbour behind them. All
+/// frames must lie on multiples of `cell`, in global coordinates.
+[[nodiscard]] std::vector<Stretch> exposedStretches(const CGRect& frame, DockPosition edge,
+                                                    std::span<const CGRect> allFrames, double cell);
+
+}  // namespace orvane::oracle

@@ -1,0 +1,33 @@
+// Random language and locale identifiers, most of them nearly right.
+#pragma once
+
+#include <numeric>
+#include <string>
+#include <vector>
+
+#include <rapidcheck.h>
+
+namespace orvane {
+
+inline rc::Gen<std::string> genIdentifier() {
+  namespace gen = rc::gen;
+  const auto blank = gen::element<std::string>("", "", "", " ", "\n", "\t ", "\r\n");
+  const auto language = gen::element<std::string>("zh", "zh", "ZH", "zH", "en", "EN", "e", "z",
+                                                  "zhx", "english", "fr", "de", "");
+  const auto tail =
+      gen::scale(0.04, gen::container<std::vector<std::string>>(gen::element<std::string>(
+                           "-", "_", "-", "_", "Hant", "hant", "Hans", "TW", "tw", "HK", "mo", "CN",
+                           "x", " ", "中")));
+  return gen::apply(
+      [](const std::string& before, const std::string& name, const std::vector<std::string>& rest,
+         const std::string& after) {
+        return std::accumulate(rest.begin(), rest.end(), before + name) + after;
+      },
+      blank, language, tail, blank);
+}
+
+inline rc::Gen<std::vector<std::string>> genIdentifiers() {
+  return rc::gen::scale(0.05, rc::gen::container<std::vector<std::string>>(genIdentifier()));
+}
+
+}  // namespace orvane
