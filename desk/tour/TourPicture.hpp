@@ -1,0 +1,18 @@
+// A picture of the tour: the desk on its table, and the step's line below it.
+#pragma once
+
+#include <string>
+
+#include "desk/canvas/CairoPointers.hpp"
+#include "desk/canvas/DrawingResources.hpp"
+#include "desk/desktop/DesktopPainter.hpp"
+#include "desk/desktop/DesktopScene.hpp"
+
+namespace orvane::desk {
+
+/// All pictures have the same size, whatever stands on the desk.
+SurfacePointer renderTourPicture(DesktopPainter& painter, DrawingResources& resources,
+                                 const DesktopScene& scene, const std::string& number,
+                                 const std::string& line);
+
+}  // namespace orvane::desk

@@ -1,0 +1,258 @@
+// One chapter per function. Every number and name in a line is read from the machine, and what the
+// line claims is checked before it is told.
+#include "desk/tour/TourStory.hpp"
+
+#include <string>
+
+#include "desk/desktop/StandardDisplays.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+constexpr std::uint32_t builtIn = 1;
+constexpr std::uint32_t right = 2;
+constexpr std::uint32_t left = 3;
+
+std::string counted(std::int64_t count, const std::string& thing) {
+  return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
+}
+
+std::int64_t reveals(TourStage& stage) {
+  std::int64_t sum = 0;
+  for (const auto& [number, count] : stage.machine().dock.reveals()) {
+    sum += count;
+  }
+  return sum;
+}
+
+std::size_t zoneCount(TourStage& stage) {
+  return stage.model().guardService().cachedTriggerZones().size();
+}
+
+void setAutoHide(TourStage& stage, bool hides) {
+  stage.machine().preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
+}
+
+/// Seconds from the machine's start at midnight to this hour of the day.
+void waitUntil(TourStage& stage, int hour, int minute) {
+  constexpr int minutesPerHour = 60;
+  constexpr int secondsPerMinute = 60;
+  const double wanted = (hour * minutesPerHour + minute) * secondsPerMinute;
+  stage.machine().advance(wanted - static_cast<double>(stage.machine().clock.now()) /
+                                       static_cast<double>(Clock::nanosecondsPerSecond));
+}
+
+void tellOfTheUnguardedDock(TourStage& stage) {
+  Machine& machine = stage.machine();
+  attachNextStandardDisplay(machine);
+  attachNextStandardDisplay(machine);
+  waitUntil(stage, 10, 8);
+  stage.moveAway(right);
+  stage.check(machine.displays.count() == 2, "there are two displays");
+  stage.check(stage.isDockOn(builtIn) && machine.dock.isVisible(), "the Dock is on the first");
+  stage.tell("Two displays. The Dock lives on " + stage.dockPlace() + ".");
+
+  stage.pressLowerEdge(right, 3, 0.05);
+  machine.advance(0.4);
+  stage.check(stage.isDockOn(right) && reveals(stage) == 1, "the Dock followed the pointer");
+  stage.tell(
+      "The pointer presses against the lower edge of the other display, and the Dock "
+      "follows it to " +
+      stage.dockPlace() + ".");
+
+  stage.moveAway(builtIn);
+  stage.pressLowerEdge(builtIn, 3, 0.05);
+  machine.advance(0.4);
+  stage.check(stage.isDockOn(builtIn) && reveals(stage) == 2, "the Dock followed it back");
+  stage.tell("A touch of the edge of " + stage.dockPlace() + " takes it back there: " +
+             counted(reveals(stage), "jump") + " that nobody asked for.");
+}
+
+void tellOfPinning(TourStage& stage) {
+  Machine& machine = stage.machine();
+  stage.moveAway(builtIn);
+  machine.permission.setTrusted(true);
+  stage.application().launch();
+  stage.check(stage.application().isRunning() && !stage.model().isGuardRunning(),
+              "Orvane runs and guards nothing");
+  stage.tell("Orvane is running: an open lock in the menu bar, and nothing is guarded yet.");
+
+  stage.model().toggleSelectedDisplayLock();
+  machine.runDue();
+  stage.showZones();
+  const auto target = stage.model().selectedDisplay();
+  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 1 && target.has_value(),
+              "the guard runs with one zone");
+  stage.tell("Pin Dock: the lock closes, the Dock belongs to " + (target ? target->name : "") +
+             ", and " + counted(static_cast<std::int64_t>(zoneCount(stage)), "trigger zone") +
+             " guards the other display.");
+
+  const std::int64_t jumps = reveals(stage);
+  stage.pressLowerEdge(right, 60, 0.05);
+  const std::int64_t blocked = stage.model().guardService().blockedCount();
+  stage.check(blocked == 60, "all sixty touches were moved back");
+  stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the Dock stayed");
+  stage.tell("The same pressing again, 60 times: Orvane moves the pointer back " +
+             counted(blocked, "time") + ", and the Dock stays on " + stage.dockPlace() + ".");
+}
+
+void tellOfTheModifier(TourStage& stage) {
+  Machine& machine = stage.machine();
+  stage.moveAway(right);
+  machine.modifierKeys.hold(kCGEventFlagMaskAlternate);
+  stage.pressLowerEdge(right, 3, 0.05);
+  machine.advance(0.4);
+  stage.check(stage.model().isTemporarilyUnlocked().value() && stage.isDockOn(right),
+              "the held key lets the Dock come");
+  stage.tell("While " + std::string(shortcutText(stage.model().temporaryUnlockModifier().value())) +
+             " is held the pointer passes: the Dock may come to " + stage.dockPlace() + ".");
+
+  machine.modifierKeys.releaseAll();
+  stage.moveAway(builtIn);
+  stage.pressLowerEdge(builtIn, 3, 0.05);
+  machine.advance(0.4);
+  stage.moveAway(right);
+  const std::int64_t jumps = reveals(stage);
+  stage.pressLowerEdge(right, 20, 0.05);
+  stage.check(!stage.model().isTemporarilyUnlocked().value(), "the guard is locked again");
+  stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the Dock stays at home");
+  stage.tell("The key is released and the Dock taken home; from now on it stays on " +
+             stage.dockPlace() + " again.");
+}
+
+void tellOfPreventing(TourStage& stage) {
+  Machine& machine = stage.machine();
+  stage.model().toggleSelectedDisplayLock();
+  setAutoHide(stage, true);
+  stage.moveAway(builtIn);
+  stage.check(!machine.dock.isVisible(), "the Dock has hidden itself");
+  stage.pressLowerEdge(builtIn, 1, 0);
+  machine.advance(0.14);
+  const double shown = machine.dock.shownFraction();
+  stage.check(!stage.model().isGuardRunning() && shown > 0 && shown < 1, "the Dock slides in");
+  stage.tell("Unlocked again, and the Dock hides itself: one touch of the edge and it slides in.");
+
+  stage.moveAway(builtIn);
+  stage.model().toggleHideDockOnAllDisplays();
+  machine.runDue();
+  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 2, "two zones are guarded");
+  stage.check(!machine.dock.isVisible(), "the Dock is hidden");
+  stage.tell("Prevent Dock Pop-Up: now every display has its trigger zone, " +
+             counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") + " in all.");
+
+  const std::int64_t jumps = reveals(stage);
+  const std::int64_t blocked = stage.model().guardService().blockedCount();
+  stage.pressLowerEdge(builtIn, 40, 0.05);
+  stage.moveAway(builtIn);
+  stage.pressLowerEdge(right, 40, 0.05);
+  const std::int64_t touches = stage.model().guardService().blockedCount() - blocked;
+  stage.check(touches == 80, "all eighty touches were moved back");
+  stage.check(reveals(stage) == jumps && !machine.dock.isVisible(), "the Dock never came up");
+  stage.tell(counted(touches, "touch") + "es of both edges: the Dock comes up " +
+             counted(reveals(stage) - jumps, "time") + ".");
+}
+
+void tellOfTheShutOff(TourStage& stage) {
+  Machine& machine = stage.machine();
+  stage.moveAway(right);
+  machine.advance(3);
+  const std::int64_t blocked = stage.model().guardService().blockedCount();
+  stage.pressLowerEdge(right, 180, 0.01);
+  const std::int64_t touches = stage.model().guardService().blockedCount() - blocked;
+  stage.check(touches == 180 && !stage.model().isGuardRunning() && zoneCount(stage) == 0,
+              "the guard has switched itself off");
+  stage.tell("Something presses " + counted(touches, "time") +
+             " within two seconds: Orvane never fights for the mouse, it switches itself off.");
+}
+
+void tellOfPlugging(TourStage& stage) {
+  Machine& machine = stage.machine();
+  machine.appearance.isDark = true;
+  waitUntil(stage, 20, 30);
+  stage.moveAway(right);
+  attachNextStandardDisplay(machine);
+  machine.runDue();
+  stage.check(machine.displays.count() == 3, "there are three displays");
+  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 3, "three zones are guarded");
+  stage.tell("Evening. A third display is plugged in, and with it the guard is back: " +
+             counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") + ".");
+
+  setAutoHide(stage, false);
+  stage.model().refreshDisplays();
+  stage.model().selectDisplay(stage.model().displays().value().back().id);
+  stage.model().toggleSelectedDisplayLock();
+  machine.runDue();
+  stage.moveAway(left);
+  stage.pressLowerEdge(left, 3, 0.05);
+  machine.advance(0.4);
+  stage.check(stage.isDockOn(left) && zoneCount(stage) == 2, "the Dock is on the third display");
+  stage.tell("Pinned to " + stage.dockPlace() + ": a touch of its edge fetches the Dock, " +
+             counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") +
+             " guard the other displays.");
+
+  const std::int64_t jumps = reveals(stage);
+  stage.moveAway(builtIn);
+  stage.pressLowerEdge(builtIn, 40, 0.05);
+  stage.moveAway(right);
+  stage.pressLowerEdge(right, 40, 0.05);
+  stage.check(stage.isDockOn(left) && reveals(stage) == jumps, "the Dock stayed");
+  stage.tell("Touching the edges of " + stage.nameOf(builtIn) + " and " + stage.nameOf(right) +
+             " changes nothing: the Dock stays on " + stage.dockPlace() + ".");
+}
+
+void tellOfUnplugging(TourStage& stage) {
+  Machine& machine = stage.machine();
+  stage.moveAway(builtIn);
+  const std::string target = stage.nameOf(left);
+  const std::int64_t jumps = reveals(stage);
+  stage.check(!machine.displays.detach(left), "the display can be unplugged");
+  machine.advance(0.5);
+  stage.check(!stage.model().isGuardRunning() && zoneCount(stage) == 0, "the guard pauses");
+  stage.check(stage.model().status() == OrvaneStatus::targetMissing, "the target is missing");
+  stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the system moved the Dock");
+  stage.tell(target + " is unplugged. The system moves the Dock to " + stage.dockPlace() +
+             "; Orvane pauses and remembers.");
+
+  attachNextStandardDisplay(machine);
+  machine.advance(0.5);
+  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 2, "the guard is back");
+  stage.moveAway(left);
+  stage.pressLowerEdge(left, 3, 0.05);
+  machine.advance(0.4);
+  stage.moveAway(right);
+  const std::int64_t jumpsSince = reveals(stage);
+  stage.pressLowerEdge(right, 40, 0.05);
+  stage.check(stage.isDockOn(left) && reveals(stage) == jumpsSince, "the Dock is pinned again");
+  stage.tell(
+      "Plugged in again: the guard is back by itself, and the Dock, fetched with one touch, "
+      "stays on " +
+      stage.dockPlace() + ".");
+
+  stage.moveAway(right);
+  stage.application().terminate();
+  machine.advance(1);
+  stage.application().launch();
+  machine.advance(1);
+  stage.pressLowerEdge(right, 40, 0.05);
+  stage.check(stage.model().isGuardRunning(), "the lock is restored");
+  stage.check(stage.isDockOn(left) && reveals(stage) == jumpsSince, "the Dock stayed");
+  stage.tell(
+      "Orvane is quit and launched again: the lock is restored, and the Dock is where it "
+      "belongs, on " +
+      stage.dockPlace() + ".");
+}
+
+}  // namespace
+
+void tellTour(TourStage& stage) {
+  tellOfTheUnguardedDock(stage);
+  tellOfPinning(stage);
+  tellOfTheModifier(stage);
+  tellOfPreventing(stage);
+  tellOfTheShutOff(stage);
+  tellOfPlugging(stage);
+  tellOfUnplugging(stage);
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,94 @@
+// Notes what the pointer does on its way to the machine.
+#include "desk/window/DeskSession.hpp"
+
+#include <algorithm>
+
+#include "desk/desktop/MenuClock.hpp"
+#include "desk/desktop/StandardDisplays.hpp"
+
+namespace orvane::desk {
+
+DeskSession::DeskSession(std::size_t displayCount) : application_(scope_.machine()) {
+  const std::size_t wanted = std::clamp<std::size_t>(displayCount, 1, standardDisplayCount);
+  for (std::size_t position = 0; position < wanted; ++position) {
+    attachNextStandardDisplay(machine());
+  }
+  const CGRect first = machine().displays.globalFrames().front();
+  machine().mouse.moveTo({first.size.width / 2, first.size.height / 2});
+  machine().permission.setTrusted(true);
+  application_.launch();
+}
+
+void DeskSession::movePointerBy(double dx, double dy) {
+  Machine& desk = machine();
+  if (desk.displays.isEmpty()) {
+    return;
+  }
+  const CGPoint before = desk.pointer.place();
+  const CGPoint wanted = desk.pointer.reachable({before.x + dx, before.y + dy});
+  const std::int64_t relocatedBefore = desk.counters.relocatedEvents;
+  desk.mouse.moveBy(dx, dy);
+  desk.runDue();
+  rate_.note(desk.clock.now(), 1);
+  if (desk.counters.relocatedEvents != relocatedBefore) {
+    movedBack_ = MovedBack{wanted, desk.pointer.place(), 1};
+    movedBackAt_ = desk.clock.now();
+  }
+}
+
+void DeskSession::advance(std::int64_t nanoseconds) {
+  machine().runLoop.advance(nanoseconds);
+}
+
+std::optional<MovedBack> DeskSession::movedBack() const {
+  const std::int64_t age = machine().clock.now() - movedBackAt_;
+  if (!movedBack_ || age >= markNanoseconds) {
+    return std::nullopt;
+  }
+  MovedBack mark = *movedBack_;
+  mark.strength = 1 - static_cast<double>(age) / static_cast<double>(markNanoseconds);
+  return mark;
+}
+
+DesktopScene DeskSession::scene() const {
+  DesktopScene scene(machine(), application_);
+  scene.showsZones = showsZones_;
+  scene.movedBack = movedBack();
+  return scene;
+}
+
+std::int64_t DeskSession::eventsPerSecond() const {
+  return rate_.perSecond(machine().clock.now());
+}
+
+std::int64_t DeskSession::nanosecondsToNextChange() const {
+  const Machine& desk = machine();
+  const std::int64_t now = desk.clock.now();
+  const double shown = desk.dock.shownFraction();
+  const bool slides = shown > 0 && shown < 1;
+  const bool begins = desk.dock.displayNumber() && shown != (desk.dock.isVisible() ? 1.0 : 0.0);
+  if (slides || begins || movedBack()) {
+    return 0;
+  }
+  std::int64_t next = nanosecondsToNextMinute(desk.clock);
+  if (const auto due = desk.runLoop.nextDue()) {
+    next = std::min(next, std::max<std::int64_t>(*due - now, 0));
+  }
+  if (eventsPerSecond() > 0) {
+    next = std::min(next, std::max<std::int64_t>(rate_.nextChangeAt() - now, 0));
+  }
+  return next;
+}
+
+std::string DeskSession::dockDisplayName() const {
+  const auto number = machine().dock.displayNumber();
+  const Display* const display = number ? machine().displays.find(*number) : nullptr;
+  return display == nullptr ? "" : display->name;
+}
+
+std::uint32_t DeskSession::pointerDisplayNumber() const {
+  const auto index = machine().pointer.displayIndex();
+  return index ? machine().displays.all()[*index].number : 0;
+}
+
+}  // namespace orvane::desk

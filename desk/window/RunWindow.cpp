@@ -1,0 +1,79 @@
+// Waits for input, lets time pass, and draws when there is something new to see.
+#include "desk/window/RunWindow.hpp"
+
+#include <fstream>
+#include <iostream>
+#include <string>
+
+#include "desk/canvas/PinnedFonts.hpp"
+#include "desk/window/DeskSession.hpp"
+#include "desk/window/FramePump.hpp"
+#include "desk/window/SdlWindow.hpp"
+#include "desk/window/WindowDump.hpp"
+#include "desk/window/WindowInput.hpp"
+#include "desk/window/WindowLayout.hpp"
+#include "desk/window/WindowPicture.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+WindowLayout layoutOf(const SdlWindow& window) {
+  return {cairo_image_surface_get_width(window.surface()),
+          cairo_image_surface_get_height(window.surface()), window.pixelRatio()};
+}
+
+void run(DeskSession& session, SdlWindow& window, WindowPicture& picture) {
+  FramePump pump(window.framesPerSecond());
+  WindowInput input(session, window);
+  while (!input.wantsToQuit()) {
+    const bool isOutdated = picture.isOutdated(session, window.isMouseHeld());
+    if (isOutdated && pump.isTimeToDraw()) {
+      picture.draw(window.surface(), layoutOf(window), session, window.isMouseHeld());
+      window.present();
+      pump.noteDrawn();
+    }
+    SDL_Event event;
+    const bool stillOutdated = picture.isOutdated(session, window.isMouseHeld());
+    bool hasEvent =
+        SDL_WaitEventTimeout(&event, pump.millisecondsToWait(session, stillOutdated)) != 0;
+    pump.advance(session);
+    while (hasEvent) {
+      input.handle(event);
+      hasEvent = SDL_PollEvent(&event) != 0;
+    }
+    if (input.takeNeedsRedraw()) {
+      window.updateSize();
+      picture.forget();
+    }
+  }
+}
+
+}  // namespace
+
+int runWindow(const WindowOptions& options) {
+  if (const auto message = missingFontsMessage()) {
+    std::cerr << "orvane-desk: " << *message << '\n';
+    return 1;
+  }
+  std::string complaint;
+  const auto window = SdlWindow::open(options.width, options.height, complaint);
+  if (!window) {
+    std::cerr << "orvane-desk: no window can be opened here: " << complaint << '\n';
+    return 1;
+  }
+  DeskSession session(options.displayCount);
+  WindowPicture picture;
+  run(session, *window, picture);
+  if (options.dumpFile) {
+    std::ofstream file(*options.dumpFile);
+    file << windowDump(session, layoutOf(*window), picture.drawnCount());
+    if (!file.flush()) {
+      std::cerr << "orvane-desk: cannot write " << options.dumpFile->string() << '\n';
+      return 1;
+    }
+  }
+  return 0;
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,91 @@
+// Thin: what the window shows and does is decided elsewhere.
+#include "desk/window/SdlWindow.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+constexpr int smallestWidth = 960;
+constexpr int smallestHeight = 520;
+
+}  // namespace
+
+std::unique_ptr<SdlWindow> SdlWindow::open(int width, int height, std::string& complaint) {
+  SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
+  SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+  if (SDL_Init(SDL_INIT_VIDEO) != 0) {
+    complaint = SDL_GetError();
+    return nullptr;
+  }
+  // From here on the destructor ends SDL again.
+  std::unique_ptr<SdlWindow> result(new SdlWindow);
+  result->window_.reset(SDL_CreateWindow("Orvane desk", SDL_WINDOWPOS_CENTERED,
+                                         SDL_WINDOWPOS_CENTERED, width, height,
+                                         SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
+  if (!result->window_) {
+    complaint = SDL_GetError();
+    return nullptr;
+  }
+  SDL_SetWindowMinimumSize(result->window_.get(), smallestWidth, smallestHeight);
+  result->renderer_.reset(SDL_CreateRenderer(result->window_.get(), -1, 0));
+  if (!result->renderer_ || !result->updateSize()) {
+    complaint = SDL_GetError();
+    return nullptr;
+  }
+  return result;
+}
+
+SdlWindow::~SdlWindow() {
+  texture_.reset();
+  renderer_.reset();
+  window_.reset();
+  SDL_Quit();
+}
+
+bool SdlWindow::updateSize() {
+  int width = 0;
+  int height = 0;
+  int pointWidth = 0;
+  int pointHeight = 0;
+  SDL_GetRendererOutputSize(renderer_.get(), &width, &height);
+  SDL_GetWindowSize(window_.get(), &pointWidth, &pointHeight);
+  if (width <= 0 || height <= 0 || pointWidth <= 0) {
+    return false;
+  }
+  if (surface_ && cairo_image_surface_get_width(surface_.get()) == width &&
+      cairo_image_surface_get_height(surface_.get()) == height) {
+    return false;
+  }
+  pixelRatio_ = static_cast<double>(width) / pointWidth;
+  texture_.reset(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_ARGB8888,
+                                   SDL_TEXTUREACCESS_STREAMING, width, height));
+  surface_.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  return texture_ != nullptr && cairo_surface_status(surface_.get()) == CAIRO_STATUS_SUCCESS;
+}
+
+void SdlWindow::present() {
+  cairo_surface_flush(surface_.get());
+  // Both keep a pixel as one 32-bit number with alpha at the top; the picture has no transparency.
+  SDL_UpdateTexture(texture_.get(), nullptr, cairo_image_surface_get_data(surface_.get()),
+                    cairo_image_surface_get_stride(surface_.get()));
+  SDL_RenderCopy(renderer_.get(), texture_.get(), nullptr, nullptr);
+  SDL_RenderPresent(renderer_.get());
+}
+
+int SdlWindow::framesPerSecond() const {
+  constexpr int usual = 60;
+  SDL_DisplayMode mode;
+  const int display = SDL_GetWindowDisplayIndex(window_.get());
+  if (display < 0 || SDL_GetCurrentDisplayMode(display, &mode) != 0 || mode.refresh_rate <= 0) {
+    return usual;
+  }
+  return mode.refresh_rate;
+}
+
+void SdlWindow::holdMouse(bool hold) {
+  if (hold != isMouseHeld_ && SDL_SetRelativeMouseMode(hold ? SDL_TRUE : SDL_FALSE) == 0) {
+    isMouseHeld_ = hold;
+  }
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,25 @@
+// How the desk's window is divided: the desktop above, the strip below.
+#pragma once
+
+#include <vector>
+
+#include <cairo.h>
+
+#include "Orvane/platform/Quartz.hpp"
+#include "desk/desktop/DesktopLayout.hpp"
+
+namespace orvane::desk {
+
+/// All in pixels of the window's drawing area.
+struct WindowLayout {
+  cairo_rectangle_int_t desktop{};
+  cairo_rectangle_int_t strip{};
+  /// Pixels per point of the window itself: 2 on a high-density display.
+  double pixelRatio = 1;
+
+  WindowLayout(int width, int height, double windowPixelRatio);
+  /// The displays in the desktop's part.
+  [[nodiscard]] DesktopLayout desktopLayout(const std::vector<CGRect>& frames) const;
+};
+
+}  // namespace orvane::desk
