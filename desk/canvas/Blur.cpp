@@ -19,8 +19,8 @@ constexpr int weightBits = 24;
 /// One box: `reach` whole pixels to each side of the centre and one more of lesser weight.
 struct Box {
   int reach;
-  std::uint64_t fullWeight;
-  std::uint64_t endWeight;
+  std::uint32_t fullWeight;
+  std::uint32_t endWeight;
 };
 
 /// The box whose variance, taken `passCount` times, is sigma squared. With weight one for
@@ -35,14 +35,16 @@ Box makeBox(double sigma) {
   const double next = reach + 1.0;
   const double end = whole * (variance - reach * next / 3.0) / (2.0 * (next * next - variance));
   const double unit = std::ldexp(1.0, weightBits) / (whole + 2.0 * end);
-  return {reach, static_cast<std::uint64_t>(std::llround(unit)),
-          static_cast<std::uint64_t>(std::llround(unit * end))};
+  return {reach, static_cast<std::uint32_t>(std::floor(unit)),
+          static_cast<std::uint32_t>(std::floor(unit * end))};
 }
 
-std::uint8_t weigh(const Box& box, std::uint64_t inner, std::uint64_t ends) {
-  constexpr std::uint64_t half = std::uint64_t{1} << (weightBits - 1);
-  const std::uint64_t value = (inner * box.fullWeight + ends * box.endWeight + half) >> weightBits;
-  return static_cast<std::uint8_t>(std::min<std::uint64_t>(value, 255));
+/// The weights add up to at most one, so 255 times them and the half for rounding stay within 32
+/// bits.
+std::uint8_t weigh(const Box& box, std::uint32_t inner, std::uint32_t ends) {
+  constexpr std::uint32_t half = std::uint32_t{1} << (weightBits - 1);
+  return static_cast<std::uint8_t>((inner * box.fullWeight + ends * box.endWeight + half) >>
+                                   weightBits);
 }
 
 /// Blurs `lineCount` parallel lines of `length` samples at once: the samples of one position lie
@@ -53,6 +55,35 @@ struct Plane {
   int length;
   int lineCount;
 };
+
+/// The rows just before and just after the whole pixels of the box, and the first of those.
+struct Window {
+  const std::uint8_t* before;
+  const std::uint8_t* after;
+  const std::uint8_t* leaving;
+};
+
+void addRow(std::uint32_t* __restrict sums, const std::uint8_t* __restrict row, std::size_t count) {
+  for (std::size_t line = 0; line < count; ++line) {
+    sums[line] += row[line];
+  }
+}
+
+/// Writes one row of the result and moves the sums on to the next. That nothing overlaps is said
+/// to the compiler, which can then take many lines at once.
+void blurRow(const Box& box, const Window& window, std::uint32_t* __restrict sums,
+             std::uint8_t* __restrict target, std::size_t count) {
+  const std::uint8_t* __restrict before = window.before;
+  const std::uint8_t* __restrict after = window.after;
+  const std::uint8_t* __restrict leaving = window.leaving;
+  const Box weights = box;
+  for (std::size_t line = 0; line < count; ++line) {
+    const std::uint32_t sum = sums[line];
+    const std::uint32_t entering = after[line];
+    target[line] = weigh(weights, sum, before[line] + entering);
+    sums[line] = sum + entering - leaving[line];
+  }
+}
 
 void blurPlane(const Plane& plane, const Box& box, BlurEdge edge) {
   const auto lines = static_cast<std::size_t>(plane.lineCount);
@@ -70,22 +101,11 @@ void blurPlane(const Plane& plane, const Box& box, BlurEdge edge) {
   }
   std::vector<std::uint32_t> sums(lines, 0);
   for (int position = -box.reach; position <= box.reach; ++position) {
-    const std::uint8_t* row = rowOf(position);
-    for (std::size_t line = 0; line < lines; ++line) {
-      sums[line] += row[line];
-    }
+    addRow(sums.data(), rowOf(position), lines);
   }
   for (int position = 0; position < plane.length; ++position) {
-    std::uint8_t* target = plane.data + position * plane.step;
-    const std::uint8_t* before = rowOf(position - pad);
-    const std::uint8_t* after = rowOf(position + pad);
-    const std::uint8_t* leaving = rowOf(position - box.reach);
-    for (std::size_t line = 0; line < lines; ++line) {
-      const std::uint32_t ends = std::uint32_t{before[line]} + after[line];
-      target[line] = weigh(box, sums[line], ends);
-      sums[line] += after[line];
-      sums[line] -= leaving[line];
-    }
+    const Window window{rowOf(position - pad), rowOf(position + pad), rowOf(position - box.reach)};
+    blurRow(box, window, sums.data(), plane.data + position * plane.step, lines);
   }
 }
 
@@ -106,8 +126,18 @@ std::vector<std::uint8_t> transposed(const std::uint8_t* data, std::ptrdiff_t st
   return result;
 }
 
-void blurPixels(std::uint8_t* data, std::ptrdiff_t stride, int width, int height, int pixelBytes,
-                const Box& box, BlurEdge edge) {
+/// Pixels in memory, `pixelBytes` bytes each.
+struct Pixels {
+  std::uint8_t* data;
+  std::ptrdiff_t stride;
+  int width;
+  int height;
+  int pixelBytes;
+};
+
+void blurExactly(const Pixels& pixels, double sigma, BlurEdge edge) {
+  const auto [data, stride, width, height, pixelBytes] = pixels;
+  const Box box = makeBox(sigma);
   for (int pass = 0; pass < passCount; ++pass) {
     blurPlane({data, stride, height, width * pixelBytes}, box, edge);
   }
@@ -123,6 +153,105 @@ void blurPixels(std::uint8_t* data, std::ptrdiff_t stride, int width, int height
     std::copy_n(result.data() + static_cast<std::size_t>(y) * rowBytes, rowBytes,
                 data + y * stride);
   }
+}
+
+/// The picture at a `factor`-th of its size with a border of one small pixel, every small pixel the
+/// mean of what it stands for.
+std::vector<std::uint8_t> reduced(const Pixels& pixels, int factor, int smallWidth, int smallHeight,
+                                  BlurEdge edge) {
+  const auto [data, stride, width, height, pixelBytes] = pixels;
+  std::vector<std::uint8_t> small(static_cast<std::size_t>(smallWidth) *
+                                  static_cast<std::size_t>(smallHeight) *
+                                  static_cast<std::size_t>(pixelBytes));
+  std::vector<std::uint32_t> sums(static_cast<std::size_t>(smallWidth * pixelBytes));
+  const std::uint32_t count = static_cast<std::uint32_t>(factor * factor);
+  for (int smallY = 0; smallY < smallHeight; ++smallY) {
+    std::ranges::fill(sums, 0U);
+    for (int y = (smallY - 1) * factor; y < smallY * factor; ++y) {
+      const bool rowIsInside = y >= 0 && y < height;
+      if (!rowIsInside && edge == BlurEdge::transparent) {
+        continue;
+      }
+      const std::uint8_t* row = data + std::clamp(y, 0, height - 1) * stride;
+      for (int x = -factor; x < (smallWidth - 1) * factor; ++x) {
+        const bool isInside = x >= 0 && x < width;
+        if (!isInside && edge == BlurEdge::transparent) {
+          continue;
+        }
+        const std::uint8_t* pixel = row + std::clamp(x, 0, width - 1) * pixelBytes;
+        std::uint32_t* sum = sums.data() + (x + factor) / factor * pixelBytes;
+        for (int byte = 0; byte < pixelBytes; ++byte) {
+          sum[byte] += pixel[byte];
+        }
+      }
+    }
+    std::uint8_t* target =
+        small.data() + static_cast<std::ptrdiff_t>(smallY) * smallWidth * pixelBytes;
+    for (std::size_t index = 0; index < sums.size(); ++index) {
+      target[index] = static_cast<std::uint8_t>((sums[index] + count / 2) / count);
+    }
+  }
+  return small;
+}
+
+/// Fills the pixels from the small picture, linearly between the middles of its pixels.
+void enlarge(const std::vector<std::uint8_t>& small, int factor, int smallWidth,
+             const Pixels& pixels) {
+  const auto [data, stride, width, height, pixelBytes] = pixels;
+  // Distances are counted in half pixels, so that the middles of all pixels are whole numbers.
+  const int span = 2 * factor;
+  const std::ptrdiff_t smallStride = static_cast<std::ptrdiff_t>(smallWidth) * pixelBytes;
+  for (int y = 0; y < height; ++y) {
+    const int downPlace = 2 * y + 1 + factor;
+    const auto down = static_cast<std::uint32_t>(downPlace % span);
+    const std::uint8_t* upper = small.data() + downPlace / span * smallStride;
+    const std::uint8_t* lower = upper + smallStride;
+    std::uint8_t* row = data + y * stride;
+    for (int x = 0; x < width; ++x) {
+      const int acrossPlace = 2 * x + 1 + factor;
+      const auto across = static_cast<std::uint32_t>(acrossPlace % span);
+      const auto whole = static_cast<std::uint32_t>(span);
+      const int offset = acrossPlace / span * pixelBytes;
+      for (int byte = offset; byte < offset + pixelBytes; ++byte) {
+        const std::uint32_t above =
+            upper[byte] * (whole - across) + upper[byte + pixelBytes] * across;
+        const std::uint32_t below =
+            lower[byte] * (whole - across) + lower[byte + pixelBytes] * across;
+        const std::uint32_t sum = above * (whole - down) + below * down;
+        row[x * pixelBytes + byte - offset] =
+            static_cast<std::uint8_t>((sum + whole * whole / 2) / (whole * whole));
+      }
+    }
+  }
+}
+
+/// How many times smaller the picture is on which a blur is made. A wide blur leaves no detail;
+/// the smaller picture is still blurred by at least four of its pixels, which hides that it is
+/// small.
+int factorOf(double sigma) {
+  constexpr double leastSmallSigma = 4.0;
+  int factor = 1;
+  while (sigma / (2.0 * factor) >= leastSmallSigma) {
+    factor *= 2;
+  }
+  return factor;
+}
+
+void blurPixels(const Pixels& pixels, double sigma, BlurEdge edge) {
+  const int factor = factorOf(sigma);
+  if (factor == 1) {
+    blurExactly(pixels, sigma, edge);
+    return;
+  }
+  const int smallWidth = (pixels.width + factor - 1) / factor + 2;
+  const int smallHeight = (pixels.height + factor - 1) / factor + 2;
+  std::vector<std::uint8_t> small = reduced(pixels, factor, smallWidth, smallHeight, edge);
+  // The ways there and back blur a little too (by a quarter of the factor's square, of at least
+  // sixteen); that makes up for the tails that are lost to rounding.
+  blurExactly({small.data(), static_cast<std::ptrdiff_t>(smallWidth) * pixels.pixelBytes,
+               smallWidth, smallHeight, pixels.pixelBytes},
+              sigma / factor, edge);
+  enlarge(small, factor, smallWidth, pixels);
 }
 
 /// Bytes of a pixel of a format that can be blurred, zero for any other.
@@ -144,8 +273,14 @@ int pixelBytesOf(cairo_surface_t* surface) {
 }  // namespace
 
 int blurReach(double sigma) {
-  // The reach of one box is less than sigma (see makeBox), plus the weighted pixel at its end.
-  return sigma > 0 ? passCount * (static_cast<int>(std::ceil(sigma)) + 1) : 0;
+  if (!(sigma > 0)) {
+    return 0;
+  }
+  // The reach of one box is less than sigma (see makeBox), plus the weighted pixel at its end. On
+  // a smaller picture all this is as many times as large, and so are the ways there and back.
+  const int factor = factorOf(sigma);
+  const int boxes = passCount * (static_cast<int>(std::ceil(sigma / factor)) + 1);
+  return factor * (boxes + (factor > 1 ? 2 : 0));
 }
 
 void blurSurface(cairo_surface_t* surface, double sigma, BlurEdge edge) {
@@ -157,8 +292,8 @@ void blurSurface(cairo_surface_t* surface, double sigma, BlurEdge edge) {
   }
   const int width = cairo_image_surface_get_width(surface);
   const int height = cairo_image_surface_get_height(surface);
-  blurPixels(data, cairo_image_surface_get_stride(surface), width, height, pixelBytes,
-             makeBox(sigma), edge);
+  blurPixels({data, cairo_image_surface_get_stride(surface), width, height, pixelBytes}, sigma,
+             edge);
   cairo_surface_mark_dirty(surface);
 }
 
@@ -192,7 +327,7 @@ void blurRegion(cairo_surface_t* surface, const cairo_rectangle_int_t& region, d
     std::copy_n(data + (copyTop + y) * stride + copyLeft * pixelBytes, copyStride,
                 copy.data() + y * copyStride);
   }
-  blurPixels(copy.data(), copyStride, copyWidth, copyHeight, pixelBytes, makeBox(sigma),
+  blurPixels({copy.data(), copyStride, copyWidth, copyHeight, pixelBytes}, sigma,
              BlurEdge::extended);
   for (int y = top; y < bottom; ++y) {
     std::copy_n(copy.data() + (y - copyTop) * copyStride + (left - copyLeft) * pixelBytes,

@@ -128,7 +128,7 @@ Mask TextShaper::makeMask(const std::string& line, const ui::Font& font,
   cairo_translate(context.get(), placement.phaseX - mask.x, placement.phaseY - mask.y);
   cairo_scale(context.get(), placement.scaleX, placement.scaleY);
   // Outlines keep glyphs at fractions of a pixel; cairo's glyph pictures sit on whole pixels only.
-  cairo_set_antialias(context.get(), CAIRO_ANTIALIAS_BEST);
+  cairo_set_antialias(context.get(), CAIRO_ANTIALIAS_GOOD);
   pango_cairo_layout_line_path(context.get(), shapedLine);
   cairo_fill(context.get());
   return mask;

@@ -37,20 +37,46 @@ double total(cairo_surface_t* surface) {
 }
 
 TEST(BlurTest, AnEdgeBecomesTheIntegralOfAGaussian) {
-  for (const double sigma : {1.5, 3.0, 4.3, 8.0}) {
-    const SurfacePointer surface = coverage(160, 3);
-    fillCoverage(surface.get(), 80, 0, 160, 3, 255);
-    blurSurface(surface.get(), sigma, BlurEdge::extended);
-    for (int x = 0; x < 160; ++x) {
-      const double distance = x + 0.5 - 80;
+  for (const double sigma : {1.5, 3.0, 4.3, 7.9, 8.1, 15.0, 20.0}) {
+    const SurfacePointer across = coverage(160, 3);
+    const SurfacePointer down = coverage(3, 160);
+    fillCoverage(across.get(), 80, 0, 160, 3, 255);
+    fillCoverage(down.get(), 0, 80, 3, 160, 255);
+    blurSurface(across.get(), sigma, BlurEdge::extended);
+    blurSurface(down.get(), sigma, BlurEdge::extended);
+    for (int place = 0; place < 160; ++place) {
+      const double distance = place + 0.5 - 80;
       const double expected = 255 * 0.5 * (1 + std::erf(distance / sigma / std::sqrt(2.0)));
-      ASSERT_NEAR(coverageAt(surface.get(), x, 1), expected, 5) << x << " for " << sigma;
+      ASSERT_NEAR(coverageAt(across.get(), place, 1), expected, 4) << place << " for " << sigma;
+      ASSERT_NEAR(coverageAt(down.get(), 1, place), expected, 4) << place << " for " << sigma;
     }
+    EXPECT_NEAR(coverageAt(down.get(), 1, 79) + coverageAt(down.get(), 1, 80), 255, 1) << sigma;
+    EXPECT_NEAR(coverageAt(across.get(), 79, 1) + coverageAt(across.get(), 80, 1), 255, 1) << sigma;
+  }
+}
+
+TEST(BlurTest, TheSpreadIsTheOneAskedFor) {
+  for (const double sigma : {3.0, 7.5, 9.0, 13.0}) {
+    constexpr int barWidth = 40;
+    constexpr int width = 200;
+    const SurfacePointer surface = coverage(width, 1);
+    fillCoverage(surface.get(), (width - barWidth) / 2, 0, (width + barWidth) / 2, 1, 255);
+    blurSurface(surface.get(), sigma, BlurEdge::extended);
+    double ink = 0;
+    double moment = 0;
+    for (int x = 0; x < width; ++x) {
+      const double distance = x + 0.5 - width / 2.0;
+      ink += coverageAt(surface.get(), x, 0);
+      moment += coverageAt(surface.get(), x, 0) * distance * distance;
+    }
+    // Variances add up: that of a bar of so many pixels and that of the blur.
+    const double spread = moment / ink - (barWidth * barWidth - 1) / 12.0;
+    EXPECT_NEAR(spread, sigma * sigma, 0.008 * sigma * sigma) << sigma;
   }
 }
 
 TEST(BlurTest, NothingIsTouchedBeyondTheReach) {
-  for (const double sigma : {0.4, 1.0, 2.5, 6.0}) {
+  for (const double sigma : {0.4, 1.0, 2.5, 6.0, 9.0, 12.0}) {
     const SurfacePointer surface = coverage(101, 101);
     fillCoverage(surface.get(), 50, 50, 51, 51, 255);
     blurSurface(surface.get(), sigma, BlurEdge::transparent);

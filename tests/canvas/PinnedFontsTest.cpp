@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -62,6 +63,22 @@ TEST(PinnedFontsTest, ACharacterOfNoPinnedFontIsNotTakenFromAnother) {
   for (const std::string& face : facesOf("a😀b", ui::Font::body())) {
     EXPECT_TRUE(face == "Inter 400" || face == "Noto Sans CJK SC 400") << face;
   }
+}
+
+TEST(PinnedFontsTest, TheFontMapKnowsNoOtherFamily) {
+  PangoFontFamily** families = nullptr;
+  int count = 0;
+  pango_font_map_list_families(pinnedFontMap(), &families, &count);
+  std::set<std::string> names;
+  for (int index = 0; index < count; ++index) {
+    names.insert(pango_font_family_get_name(families[index]));
+  }
+  g_free(families);
+  // pango always adds three generic names, which stand for the families that are there.
+  for (const char* generic : {"Sans", "Serif", "Monospace", "System-ui"}) {
+    names.erase(generic);
+  }
+  EXPECT_EQ(names, (std::set<std::string>{systemFontFamily, chineseFontFamily}));
 }
 
 TEST(PinnedFontsTest, ThisMachineHasTheFonts) {

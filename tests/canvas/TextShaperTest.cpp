@@ -2,9 +2,11 @@
 #include <algorithm>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
+#include "desk/canvas/PngFile.hpp"
 #include "desk/canvas/TextShaper.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 
@@ -50,6 +52,17 @@ TEST_F(TextShaperTest, TheBaselineIsTheLowerEdgeOfAnH) {
     }
   }
   EXPECT_EQ(lowest, 29);
+}
+
+TEST_F(TextShaperTest, ABaselineBetweenPixelsIsDrawnOnTheNearest) {
+  begin(60, 40).text("HE", ui::Font::system(20), black, {10, 30});
+  const std::vector<std::uint8_t> onPixel = encodePng(surface.get());
+  for (const double baseline : {29.6, 30.3}) {
+    begin(60, 40).text("HE", ui::Font::system(20), black, {10, baseline});
+    EXPECT_EQ(encodePng(surface.get()), onPixel) << baseline;
+  }
+  begin(60, 40).text("HE", ui::Font::system(20), black, {10, 30.7});
+  EXPECT_NE(encodePng(surface.get()), onPixel);
 }
 
 TEST_F(TextShaperTest, TextIsGrayNeverColored) {
