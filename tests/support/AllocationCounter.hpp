@@ -1,16 +1,22 @@
-// AllocationCounter counts every allocation of a test program that is linked with its source.
+// AllocationCounter counts what is taken from the heap. A test executable that contains
+// AllocationCounter.cpp has every operator new replaced.
 #pragma once
 
 #include <cstddef>
 
 namespace orvane {
 
+/// Counts from its construction on.
 class AllocationCounter {
  public:
-  AllocationCounter() = delete;
+  AllocationCounter() : atStart_(total()) {}
+  [[nodiscard]] std::size_t count() const { return total() - atStart_; }
 
-  /// How often memory was allocated with new since the program began.
-  [[nodiscard]] static std::size_t count();
+ private:
+  /// Of the whole process.
+  [[nodiscard]] static std::size_t total();
+
+  std::size_t atStart_;
 };
 
 }  // namespace orvane

@@ -1,0 +1,357 @@
+// What becomes of each pointer event: moved out of a zone, let through, counted, reported, and the
+// shut-off when blocking runs away.
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "desk/machine/Event.hpp"
+#include "tests/support/GuardFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using Messages = std::vector<std::string>;
+using Unlocks = std::vector<bool>;
+
+constexpr std::uint64_t shiftKey = 0x20000;
+constexpr std::uint64_t controlKey = 0x40000;
+constexpr std::uint64_t optionKey = 0x80000;
+constexpr std::uint64_t commandKey = 0x100000;
+
+class DockMouseGuardFilterTest : public GuardFixture {
+ protected:
+  /// Blocks until the guard is one block short of running away.
+  void blockUpToTheLimit() { block(179); }
+};
+
+TEST_F(DockMouseGuardFilterTest, AMoveIntoAZoneIsMovedTwelvePointsBack) {
+  guard->start("2", OrvaneModifier::option, false);
+  EXPECT_EQ(guard->cachedTriggerZones(),
+            (std::vector<TriggerZone>{{{{0, 1068}, {1920, 12}}, {0, -12}}}));
+  EXPECT_EQ(outcomeOf({500, 1075}), (CGPoint{500, 1063}));
+}
+
+TEST_F(DockMouseGuardFilterTest, WithTheDockAtASideTheMoveIsSideways) {
+  desk::setDockOrientation(machine, "right");
+  startPinned();
+  EXPECT_EQ(outcomeOf({3835.5, 500}), (CGPoint{3823.5, 500}));
+  desk::setDockOrientation(machine, "left");
+  guard->start("2", OrvaneModifier::option, false);
+  EXPECT_EQ(outcomeOf({3, 500}), (CGPoint{15, 500}));
+}
+
+TEST_F(DockMouseGuardFilterTest, AMoveOutsideEveryZonePassesUnchanged) {
+  startPinned();
+  // On the display to which the Dock is pinned, and high up on the guarded one.
+  for (const CGPoint point : {CGPoint{500, 1075}, outsideEveryZone, CGPoint{1919.75, 1079}}) {
+    EXPECT_EQ(outcomeOf(point), point);
+  }
+  machine.runDue();
+  EXPECT_EQ(guard->blockedCount(), 0);
+  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty());
+  EXPECT_EQ(messages, Messages{});
+}
+
+TEST_F(DockMouseGuardFilterTest, TheNearEdgesOfAZoneAreInsideTheFarOnesAreNot) {
+  startPinned();
+  EXPECT_EQ(outcomeOf({1920, 1068}), (CGPoint{1920, 1056}));
+  EXPECT_EQ(outcomeOf({3839.75, 1079.75}), (CGPoint{3839.75, 1067.75}));
+  for (const CGPoint point :
+       {CGPoint{2500, 1067.75}, CGPoint{2500, 1080}, CGPoint{3840, 1075}, CGPoint{1919.75, 1075}}) {
+    EXPECT_EQ(outcomeOf(point), point);
+  }
+}
+
+TEST_F(DockMouseGuardFilterTest, OfTwoOverlappingZonesOnlyTheFirstMoves) {
+  // The third display overlaps the monitor and ends ten points higher.
+  desk::attach(machine, desk::displayOf(3, "Over", {{2000, 10}, {800, 600}}));
+  startPinned();
+  ASSERT_EQ(guard->cachedTriggerZones().size(), 2U);
+  EXPECT_EQ(guard->cachedTriggerZones()[1].rect.origin.y, 1058);
+  // In both zones.
+  EXPECT_EQ(outcomeOf({2500, 1069}), (CGPoint{2500, 1057}));
+  // From the first into the second.
+  EXPECT_EQ(outcomeOf({2500, 1079}), (CGPoint{2500, 1067}));
+  EXPECT_EQ(guard->blockedCount(), 2);
+}
+
+TEST_F(DockMouseGuardFilterTest, MirroredDisplaysMoveTheEventOnce) {
+  ASSERT_EQ(machine.displays.setFrame(2, {{0, 0}, {1920, 1080}}), std::nullopt);
+  startPreventing();
+  ASSERT_EQ(guard->cachedTriggerZones().size(), 2U);
+  EXPECT_EQ(outcomeOf({500, 1075}), (CGPoint{500, 1063}));
+  EXPECT_EQ(guard->blockedCount(), 1);
+}
+
+TEST_F(DockMouseGuardFilterTest, TheSameEventIsPassedOn) {
+  startPinned();
+  for (const CGPoint place : {inTheZone, outsideEveryZone}) {
+    for (const std::uint64_t flags : {std::uint64_t{0}, optionKey}) {
+      __CGEvent event{kCGEventMouseMoved, static_cast<CGEventFlags>(flags), place};
+      EXPECT_EQ(guard->eventTapCallback(event.type, &event), &event);
+      EXPECT_EQ(event.flags, flags);
+    }
+  }
+}
+
+TEST_F(DockMouseGuardFilterTest, WhileTheModifierIsHeldAMovePassesAndIsReportedOnce) {
+  startPinned();
+  EXPECT_EQ(outcomeOf(inTheZone, optionKey), inTheZone);
+  EXPECT_TRUE(guard->isTemporarilyUnlocked());
+  EXPECT_EQ(unlocks, Unlocks{}) << "told only after the event has been passed on";
+  machine.runDue();
+  EXPECT_EQ(unlocks, Unlocks{true});
+  outcomeOf(inTheZone, optionKey);
+  outcomeOf(outsideEveryZone, optionKey);
+  machine.runDue();
+  EXPECT_EQ(unlocks, Unlocks{true});
+  EXPECT_EQ(guard->blockedCount(), 0);
+
+  EXPECT_EQ(outcomeOf(inTheZone), (CGPoint{2500, 1063}));
+  machine.runDue();
+  EXPECT_EQ(unlocks, (Unlocks{true, false}));
+  outcomeOf(inTheZone);
+  outcomeOf(outsideEveryZone);
+  machine.runDue();
+  EXPECT_EQ(unlocks, (Unlocks{true, false}));
+}
+
+TEST_F(DockMouseGuardFilterTest, AQuickPressAndReleaseIsReportedInOrder) {
+  startPinned();
+  outcomeOf(outsideEveryZone, optionKey);
+  outcomeOf(outsideEveryZone);
+  outcomeOf(outsideEveryZone, optionKey);
+  machine.runDue();
+  EXPECT_EQ(unlocks, (Unlocks{true, false, true}));
+}
+
+TEST_F(DockMouseGuardFilterTest, OtherKeysHeldAtTheSameTimeDoNotMatter) {
+  startPinned(OrvaneModifier::shift);
+  EXPECT_EQ(outcomeOf(inTheZone, shiftKey | commandKey), inTheZone);
+  EXPECT_EQ(outcomeOf(inTheZone, shiftKey | commandKey | optionKey | controlKey), inTheZone);
+}
+
+TEST_F(DockMouseGuardFilterTest, OtherKeysAloneUnlockNothing) {
+  for (const OrvaneModifier modifier : OrvaneModifier::allCases) {
+    startPinned(modifier);
+    const std::uint64_t others = (shiftKey | controlKey | optionKey | commandKey | 0x10000) &
+                                 ~std::uint64_t{modifier.flagMask()};
+    EXPECT_EQ(outcomeOf(inTheZone, others), (CGPoint{2500, 1063})) << modifier.rawValue();
+    EXPECT_EQ(outcomeOf(inTheZone, modifier.flagMask()), inTheZone) << modifier.rawValue();
+  }
+}
+
+TEST_F(DockMouseGuardFilterTest, WithoutOwnersCallbacksNothingIsCalled) {
+  guard->onEvent = nullptr;
+  guard->onTemporaryUnlockChanged = nullptr;
+  startPinned();
+  outcomeOf(inTheZone, optionKey);
+  outcomeOf(inTheZone);
+  machine.runDue();
+  EXPECT_EQ(guard->blockedCount(), 1);
+}
+
+TEST_F(DockMouseGuardFilterTest, TenBlocksInHalfASecondAreReportedOnceAtTheFirst) {
+  startPinned();
+  for (int count = 0; count < 10; ++count) {
+    block();
+    machine.advance(0.05);
+  }
+  EXPECT_EQ(messages, Messages{"Blocked Dock trigger 1 times"});
+  EXPECT_EQ(guard->blockedCount(), 10);
+}
+
+TEST_F(DockMouseGuardFilterTest, TheNextReportComesAfterAFullSecondWithTheRunningTotal) {
+  startPinned();
+  block(10);
+  machine.advance(0.999);
+  block();
+  machine.runDue();
+  EXPECT_EQ(messages, Messages{"Blocked Dock trigger 1 times"});
+  machine.advance(0.001);
+  block();
+  machine.runDue();
+  EXPECT_EQ(messages, (Messages{"Blocked Dock trigger 1 times", "Blocked Dock trigger 12 times"}));
+  // A second counts from the last report, not from the last block.
+  machine.advance(0.5);
+  block();
+  machine.advance(0.5);
+  block();
+  machine.runDue();
+  EXPECT_EQ(messages.back(), "Blocked Dock trigger 14 times");
+}
+
+TEST_F(DockMouseGuardFilterTest, AReportComesOnlyAfterTheEventHasBeenPassedOn) {
+  startPinned();
+  block();
+  EXPECT_EQ(messages, Messages{});
+  machine.runDue();
+  EXPECT_EQ(messages.size(), 1U);
+}
+
+TEST_F(DockMouseGuardFilterTest, ReportsAreChineseWhenTheSettingIs) {
+  startPinned();
+  machine.userDefaults.set("appLanguage", "chinese");
+  block();
+  machine.runDue();
+  EXPECT_EQ(messages, Messages{"已阻止第 1 次 Dock 触发"});
+}
+
+TEST_F(DockMouseGuardFilterTest, The180thBlockWithinTwoSecondsShutsTheTapOffWithoutAMessage) {
+  startPinned();
+  blockUpToTheLimit();
+  machine.runDue();
+  EXPECT_TRUE(guard->isRunning());
+  EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
+  EXPECT_EQ(messages, Messages{"Blocked Dock trigger 1 times"});
+  machine.advance(1.5);
+
+  EXPECT_EQ(outcomeOf(inTheZone), (CGPoint{2500, 1063})) << "the last event is moved all the same";
+  EXPECT_FALSE(machine.eventTaps.isAnyEnabled()) << "at once, in the callback";
+  EXPECT_TRUE(guard->isRunning()) << "the rest is left to the main queue";
+  EXPECT_EQ(outcomeOf(inTheZone), inTheZone);
+  machine.runDue();
+  EXPECT_FALSE(guard->isRunning());
+  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
+  EXPECT_TRUE(guard->cachedTriggerZones().empty());
+  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty());
+  EXPECT_EQ(guard->blockedCount(), 180);
+  EXPECT_EQ(messages, Messages{"Blocked Dock trigger 1 times"});
+  EXPECT_TRUE(guard->isObservingScreens());
+}
+
+TEST_F(DockMouseGuardFilterTest, BlocksOfExactlyTwoSecondsAgoStillCount) {
+  startPinned();
+  block();
+  machine.advance(2.0);
+  block(178);
+  EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
+  block();
+  EXPECT_FALSE(machine.eventTaps.isAnyEnabled());
+}
+
+TEST_F(DockMouseGuardFilterTest, OlderBlocksAreForgotten) {
+  startPinned();
+  block();
+  machine.advance(2.001);
+  blockUpToTheLimit();
+  EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
+  EXPECT_EQ(guard->recentBlockTimestamps().size(), 179U);
+}
+
+TEST_F(DockMouseGuardFilterTest, SteadyBlockingBelowTheLimitGoesOnForever) {
+  startPinned();
+  // 175 in two seconds.
+  for (int count = 0; count < 2000; ++count) {
+    block();
+    machine.advance(2.0 / 175);
+  }
+  EXPECT_TRUE(guard->isRunning());
+  EXPECT_EQ(guard->blockedCount(), 2000);
+  EXPECT_EQ(messages.size(), 23U) << "once in each begun second of the 22.8";
+}
+
+TEST_F(DockMouseGuardFilterTest, AfterAShutOffTheGuardStaysOff) {
+  startPinned();
+  block(180);
+  machine.runDue();
+  messages.clear();
+  machine.advance(3600);
+  EXPECT_EQ(outcomeOf(inTheZone), inTheZone);
+  EXPECT_FALSE(guard->isRunning());
+  EXPECT_EQ(messages, Messages{});
+}
+
+TEST_F(DockMouseGuardFilterTest, AfterAShutOffADisplayChangeBringsTheGuardBack) {
+  startPinned();
+  block(180);
+  machine.runDue();
+  messages.clear();
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_TRUE(guard->isRunning());
+  block();
+  machine.runDue();
+  EXPECT_EQ(messages,
+            (Messages{"Mouse guard started. Trigger zones: 1", "Blocked Dock trigger 181 times"}))
+      << "the time of the last report is forgotten, the total is not";
+}
+
+TEST_F(DockMouseGuardFilterTest, AfterAShutOffAStartBringsTheGuardBack) {
+  startPinned();
+  block(180);
+  machine.runDue();
+  startPinned();
+  EXPECT_TRUE(guard->isRunning());
+  blockUpToTheLimit();
+  EXPECT_TRUE(machine.eventTaps.isAnyEnabled()) << "blocks from before do not count";
+}
+
+TEST_F(DockMouseGuardFilterTest, AShutOffThatIsPendingDoesNothingOnceTheGuardIsGone) {
+  startPinned();
+  block(180);
+  guard.reset();
+  machine.runDue();
+  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
+}
+
+TEST_F(DockMouseGuardFilterTest, ReportsThatArePendingAreNotDeliveredOnceTheGuardIsGone) {
+  startPinned();
+  block();
+  outcomeOf(inTheZone, optionKey);
+  guard.reset();
+  machine.runDue();
+  EXPECT_EQ(messages, Messages{});
+  EXPECT_EQ(unlocks, Unlocks{});
+}
+
+TEST_F(DockMouseGuardFilterTest, ATapThatTheSystemDisabledIsEnabledAgainAtOnce) {
+  startPinned();
+  for (const CGEventType reason : {kCGEventTapDisabledByTimeout, kCGEventTapDisabledByUserInput}) {
+    machine.eventTaps.disableAll(reason, inTheZone);
+    EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
+    EXPECT_EQ(outcomeOf(inTheZone), (CGPoint{2500, 1063}));
+  }
+}
+
+TEST_F(DockMouseGuardFilterTest, NothingElseHappensForATapThatTheSystemDisabled) {
+  startPinned();
+  for (const CGEventType reason : {kCGEventTapDisabledByTimeout, kCGEventTapDisabledByUserInput}) {
+    __CGEvent event{reason, kCGEventFlagMaskAlternate, inTheZone};
+    EXPECT_EQ(guard->eventTapCallback(reason, &event), &event);
+    EXPECT_EQ(event.location, inTheZone);
+    __CGEvent nothing{reason, CGEventFlags{}, inTheZone};
+    guard->eventTapCallback(reason, &nothing);
+    EXPECT_EQ(nothing.location, inTheZone);
+  }
+  machine.runDue();
+  EXPECT_EQ(unlocks, Unlocks{});
+  EXPECT_EQ(messages, Messages{});
+  EXPECT_EQ(guard->blockedCount(), 0);
+}
+
+TEST_F(DockMouseGuardFilterTest, WithoutATapThereIsNothingToEnableAgain) {
+  __CGEvent event{kCGEventTapDisabledByTimeout, CGEventFlags{}, inTheZone};
+  EXPECT_EQ(guard->eventTapCallback(event.type, &event), &event);
+  EXPECT_FALSE(guard->isRunning());
+}
+
+TEST_F(DockMouseGuardFilterTest, ClicksAndDragsAreNotFiltered) {
+  startPinned();
+  EXPECT_EQ(machine.eventTaps.find(1)->eventsOfInterest, 0x20U);
+}
+
+TEST_F(DockMouseGuardFilterTest, ARealPointerNeverReachesTheGuardedEdge) {
+  startPinned();
+  machine.mouse.moveTo({2500, 500});
+  for (int count = 0; count < 100; ++count) {
+    machine.mouse.moveBy(0, 40);
+    machine.advance(0.1);
+    EXPECT_LT(machine.pointer.place().y, 1068);
+  }
+  EXPECT_EQ(machine.dock.revealCount(2), 0);
+  EXPECT_EQ(machine.dock.displayNumber(), 1U);
+}
+
+}  // namespace
+}  // namespace orvane

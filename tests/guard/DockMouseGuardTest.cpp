@@ -1,0 +1,477 @@
+// The guard's life: starting, following the displays, stopping, and what it tells its owner.
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/guard/DockMouseGuard.hpp"
+#include "desk/machine/RunLoop.hpp"
+#include "tests/support/GuardFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using Messages = std::vector<std::string>;
+using Unlocks = std::vector<bool>;
+using Zones = std::vector<TriggerZone>;
+
+const char* const startedWithOneZone = "Mouse guard started. Trigger zones: 1";
+const char* const noZones =
+    "No available trigger zones. Check the target display, Dock position, and display "
+    "arrangement.";
+const char* const notTrusted =
+    "Accessibility permission is not enabled. Dock locking was not started.";
+const char* const tapRefused =
+    "Could not create the CGEventTap. Make sure Accessibility permission is enabled.";
+const char* const targetGone = "The target display is unavailable. Mouse guard paused.";
+
+const TriggerZone zoneOfTheLaptop{{{0, 1068}, {1920, 12}}, {0, -12}};
+const TriggerZone zoneOfTheMonitor{{{1920, 1068}, {1920, 12}}, {0, -12}};
+
+class DockMouseGuardTest : public GuardFixture {
+ protected:
+  /// What the guard has told since the last call.
+  Messages told() {
+    machine.runDue();
+    return std::exchange(messages, {});
+  }
+  [[nodiscard]] std::size_t portCount() const {
+    return machine.objects.liveCount(desk::ObjectKind::machPort);
+  }
+  void expectGuarding() const {
+    EXPECT_TRUE(guard->isRunning());
+    EXPECT_TRUE(guard->isObservingScreens());
+    EXPECT_FALSE(guard->cachedTriggerZones().empty());
+    EXPECT_EQ(machine.eventTaps.aliveCount(), 1U);
+    EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
+    EXPECT_EQ(machine.runLoop.sources().size(), 1U);
+    EXPECT_EQ(machine.observers.count(), 1U);
+    EXPECT_EQ(portCount(), 1U);
+  }
+  void expectWithoutTap(bool isObserving) const {
+    EXPECT_FALSE(guard->isRunning());
+    EXPECT_EQ(guard->eventTap(), nullptr);
+    EXPECT_EQ(guard->isObservingScreens(), isObserving);
+    EXPECT_TRUE(guard->cachedTriggerZones().empty());
+    EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
+    EXPECT_EQ(machine.runLoop.sources().size(), 0U);
+    EXPECT_EQ(machine.observers.count(), isObserving ? 1U : 0U);
+    EXPECT_EQ(portCount(), 0U);
+  }
+  void expectWaiting() const { expectWithoutTap(true); }
+  void expectIdle() const { expectWithoutTap(false); }
+};
+
+TEST_F(DockMouseGuardTest, ANewGuardIsIdle) {
+  expectIdle();
+  EXPECT_EQ(guard->lockedDisplayIdentifier(), "");
+  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::option);
+  EXPECT_FALSE(guard->blocksAllDisplays());
+  EXPECT_EQ(guard->blockedCount(), 0);
+  EXPECT_FALSE(guard->isTemporarilyUnlocked());
+  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty());
+  EXPECT_FALSE(DockMouseGuard().onEvent);
+  EXPECT_FALSE(DockMouseGuard().onTemporaryUnlockChanged);
+}
+
+TEST_F(DockMouseGuardTest, StartingGuardsEveryDisplayButTheTarget) {
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::control, false);
+  expectGuarding();
+  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
+  EXPECT_EQ(guard->lockedDisplayIdentifier(), desk::uuidNamed('A'));
+  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::control);
+  EXPECT_FALSE(guard->blocksAllDisplays());
+  EXPECT_EQ(messages, Messages{}) << "told on the main queue only";
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardTest, BlockingAllDisplaysGuardsEachOfThem) {
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
+  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
+  EXPECT_EQ(told(), Messages{"Mouse guard started. Trigger zones: 2"});
+}
+
+TEST_F(DockMouseGuardTest, BlockingAllDisplaysGuardsASingleOneAndNeedsNoTarget) {
+  desk::detach(machine, 2);
+  guard->start("", OrvaneModifier::option, true);
+  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheLaptop});
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardTest, TheTargetIsFoundByAnyOfItsIdentifiers) {
+  for (const char* const identifier :
+       {"1", "00000000-0000-4000-8000-00000000000A",
+        "Optional(1)-1920.0-1080.0-Optional(8)-Optional(\"NSCalibratedRGBColorSpace\")"}) {
+    guard->start(identifier, OrvaneModifier::option, false);
+    EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor}) << identifier;
+  }
+}
+
+TEST_F(DockMouseGuardTest, TheTapIsAnActiveFilterOfMouseMovedEventsInTheCommonModes) {
+  startPinned();
+  const desk::EventTap* const tap = machine.eventTaps.find(1);
+  ASSERT_NE(tap, nullptr);
+  EXPECT_EQ(tap->eventsOfInterest, 0x20U);
+  EXPECT_FALSE(tap->isListenOnly);
+  EXPECT_TRUE(tap->isEnabled);
+  EXPECT_EQ(tap->userInfo, guard.get());
+  EXPECT_EQ(tap->sourceModes, desk::RunLoop::commonModes);
+  EXPECT_TRUE(CGEventTapIsEnabled(guard->eventTap()));
+}
+
+TEST_F(DockMouseGuardTest, TheTapIsAppendedBehindTheOthers) {
+  CGPoint seen{};
+  const auto port = CFRef<CFMachPortRef>::owning(CGEventTapCreate(
+      kCGSessionEventTap, kCGTailAppendEventTap, kCGEventTapOptionListenOnly, 0x20,
+      [](CGEventTapProxy, CGEventType, CGEventRef event, void* userInfo) {
+        *static_cast<CGPoint*>(userInfo) = CGEventGetLocation(event);
+        return event;
+      },
+      &seen));
+  const auto source = CFRef<CFRunLoopSourceRef>::owning(
+      CFMachPortCreateRunLoopSource(kCFAllocatorDefault, port.get(), 0));
+  CFRunLoopAddSource(CFRunLoopGetCurrent(), source.get(), kCFRunLoopCommonModes);
+  startPinned();
+  block();
+  EXPECT_EQ(seen, inTheZone) << "an earlier tap sees where the pointer was going";
+  CFRunLoopRemoveSource(CFRunLoopGetCurrent(), source.get(), kCFRunLoopCommonModes);
+  CFMachPortInvalidate(port.get());
+}
+
+TEST_F(DockMouseGuardTest, TheFilterWorksWhileAMenuIsOpenAndWhileAModalSessionRuns) {
+  startPinned();
+  for (const auto mode : {desk::RunLoop::Mode::eventTracking, desk::RunLoop::Mode::modalPanel}) {
+    machine.runLoop.enterMode(mode);
+    EXPECT_EQ(outcomeOf(inTheZone), (CGPoint{2500, 1063}));
+    machine.runLoop.leaveMode();
+  }
+}
+
+TEST_F(DockMouseGuardTest, WithoutTrustAStartChangesNothingAndOnlySaysSo) {
+  machine.permission.setTrusted(false);
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::command, true);
+  expectIdle();
+  EXPECT_EQ(guard->lockedDisplayIdentifier(), "");
+  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::option);
+  EXPECT_FALSE(guard->blocksAllDisplays());
+  EXPECT_EQ(told(), Messages{notTrusted});
+}
+
+TEST_F(DockMouseGuardTest, WithoutTrustARunningGuardKeepsItsEarlierSettings) {
+  startPinned(OrvaneModifier::control);
+  const CFMachPortRef tap = guard->eventTap();
+  machine.permission.setTrusted(false);
+  guard->start(desk::uuidNamed('B'), OrvaneModifier::shift, true);
+  EXPECT_EQ(guard->eventTap(), tap);
+  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
+  EXPECT_EQ(guard->lockedDisplayIdentifier(), desk::uuidNamed('A'));
+  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::control);
+  EXPECT_FALSE(guard->blocksAllDisplays());
+  EXPECT_EQ(told(), Messages{notTrusted});
+}
+
+TEST_F(DockMouseGuardTest, AfterTheTrustReturnsAStartReplacesTheDeadTap) {
+  startPinned();
+  machine.permission.setTrusted(false);
+  EXPECT_EQ(outcomeOf(inTheZone), inTheZone) << "the system took the tap's events away";
+  machine.permission.setTrusted(true);
+  startPinned();
+  expectGuarding();
+  EXPECT_EQ(outcomeOf(inTheZone), (CGPoint{2500, 1063}));
+}
+
+TEST_F(DockMouseGuardTest, WithoutZonesAStartSaysSoAndWaitsForTheDisplaysToChange) {
+  desk::detach(machine, 2);
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  EXPECT_EQ(told(), Messages{noZones});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAtTheRight());
+  expectGuarding();
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardTest, ADockAtNoEdgeGivesNoZones) {
+  for (const char* const edge : {"top", "middle"}) {
+    desk::setDockOrientation(machine, edge);
+    guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
+    EXPECT_EQ(told(), Messages{noZones}) << edge;
+    expectWaiting();
+  }
+}
+
+TEST_F(DockMouseGuardTest, PinningWithoutATargetGivesNoZones) {
+  guard->start("", OrvaneModifier::option, false);
+  EXPECT_EQ(told(), Messages{noZones});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(told(), Messages{}) << "there is no target that could be unavailable";
+  expectWaiting();
+}
+
+TEST_F(DockMouseGuardTest, AnAbsentTargetGivesNoZonesUntilItComes) {
+  guard->start(desk::uuidNamed('C'), OrvaneModifier::option, false);
+  EXPECT_EQ(told(), Messages{noZones});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
+  EXPECT_EQ(told(), Messages{"Mouse guard started. Trigger zones: 2"});
+}
+
+TEST_F(DockMouseGuardTest, ATapThatIsRefusedIsTriedAgainWhenTheDisplaysChange) {
+  machine.eventTaps.setRefusesCreation(true);
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  EXPECT_EQ(told(), Messages{tapRefused});
+  EXPECT_FALSE(guard->isRunning());
+  EXPECT_TRUE(guard->isObservingScreens());
+  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor}) << "nothing else changes";
+  EXPECT_EQ(machine.runLoop.sources().size(), 0U);
+
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(told(), Messages{tapRefused});
+  machine.eventTaps.setRefusesCreation(false);
+  desk::detach(machine, 3);
+  expectGuarding();
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardTest, TwoStartsInARowLeaveOneTapAndOneObserver) {
+  startPinned();
+  guard->start(desk::uuidNamed('B'), OrvaneModifier::shift, false);
+  expectGuarding();
+  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheLaptop});
+  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::shift);
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardTest, ARestartWithoutZonesTakesTheTapDown) {
+  startPinned();
+  guard->start("", OrvaneModifier::option, false);
+  EXPECT_EQ(told(), Messages{noZones});
+  expectWaiting();
+}
+
+TEST_F(DockMouseGuardTest, UnpluggingTheTargetPausesAndPluggingItInResumes) {
+  startPinned();
+  desk::detach(machine, 1);
+  expectWaiting();
+  EXPECT_EQ(told(), Messages{targetGone});
+  desk::attach(machine, desk::laptop());
+  expectGuarding();
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardTest, EachChangeWhileTheTargetIsGoneIsReported) {
+  startPinned();
+  desk::detach(machine, 1);
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(told(), (Messages{targetGone, targetGone}));
+}
+
+TEST_F(DockMouseGuardTest, AChangeIsHandledWithinTheNotification) {
+  startPinned();
+  desk::detach(machine, 1);
+  EXPECT_FALSE(guard->isRunning()) << "before anything on the main queue runs";
+}
+
+TEST_F(DockMouseGuardTest, ATargetWithANewNumberIsStillTheTarget) {
+  startPinned();
+  ASSERT_EQ(machine.displays.renumber(1, 44), std::nullopt);
+  expectGuarding();
+  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
+  EXPECT_EQ(told(), Messages{});
+}
+
+TEST_F(DockMouseGuardTest, ATargetStoredByNumberIsLostWithTheNumber) {
+  guard->start("1", OrvaneModifier::option, false);
+  told();
+  ASSERT_EQ(machine.displays.renumber(1, 44), std::nullopt);
+  EXPECT_EQ(told(), Messages{targetGone});
+  expectWaiting();
+}
+
+TEST_F(DockMouseGuardTest, AnInstalledTapIsKeptAndSeesTheNewZones) {
+  startPinned();
+  const CFMachPortRef tap = guard->eventTap();
+  ASSERT_EQ(machine.displays.setFrame(2, {{1920, 0}, {1000, 600}}), std::nullopt);
+  EXPECT_EQ(guard->eventTap(), tap);
+  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{{{{1920, 1068}, {1000, 12}}, {0, -12}}}));
+  EXPECT_EQ(outcomeOf({2500, 1075}), (CGPoint{2500, 1063}));
+  EXPECT_EQ(outcomeOf({3000, 1075}), (CGPoint{3000, 1075}));
+  machine.runDue();
+  EXPECT_EQ(messages, Messages{"Blocked Dock trigger 1 times"}) << "no second start is reported";
+}
+
+TEST_F(DockMouseGuardTest, AChangeOfTheDocksEdgeIsSeenAtTheNextChangeOfTheDisplays) {
+  startPinned();
+  desk::setDockOrientation(machine, "right");
+  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(guard->cachedTriggerZones(),
+            (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}, {{{1908, -1080}, {12, 1080}}, {-12, 0}}}));
+}
+
+TEST_F(DockMouseGuardTest, LosingAllZonesPausesInSilence) {
+  startPinned();
+  desk::detach(machine, 2);
+  EXPECT_EQ(told(), Messages{});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAtTheRight());
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  desk::setDockOrientation(machine, "top");
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(told(), Messages{});
+  expectWaiting();
+}
+
+TEST_F(DockMouseGuardTest, WhenAllDisplaysAreBlockedUnpluggingOneOnlyChangesTheZones) {
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
+  told();
+  desk::detach(machine, 1);
+  expectGuarding();
+  EXPECT_EQ(guard->cachedTriggerZones().size(), 1U);
+  EXPECT_EQ(told(), Messages{});
+  desk::detach(machine, 2);
+  EXPECT_EQ(told(), Messages{});
+  expectWaiting();
+  desk::attach(machine, desk::laptop());
+  expectGuarding();
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardTest, StoppingLeavesTheGuardIdle) {
+  startPreventing();
+  block();
+  guard->stop();
+  expectIdle();
+  EXPECT_FALSE(guard->blocksAllDisplays());
+  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty());
+  EXPECT_EQ(outcomeOf(inTheZone), inTheZone);
+}
+
+TEST_F(DockMouseGuardTest, StoppingKeepsTargetModifierAndTotal) {
+  startPinned(OrvaneModifier::command);
+  block(3);
+  guard->stop();
+  EXPECT_EQ(guard->lockedDisplayIdentifier(), desk::uuidNamed('A'));
+  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::command);
+  EXPECT_EQ(guard->blockedCount(), 3);
+  startPinned();
+  block();
+  EXPECT_EQ(told(), Messages{"Blocked Dock trigger 4 times"})
+      << "the time of the last report is forgotten";
+}
+
+TEST_F(DockMouseGuardTest, ARestartWithoutStoppingRemembersTheLastReport) {
+  startPinned();
+  block();
+  told();
+  startPinned();
+  block();
+  EXPECT_EQ(told(), Messages{});
+}
+
+TEST_F(DockMouseGuardTest, StoppingWhileUnlockedTellsOfTheEndOnce) {
+  startPinned();
+  outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
+  machine.runDue();
+  guard->stop();
+  EXPECT_FALSE(guard->isTemporarilyUnlocked());
+  guard->stop();
+  machine.runDue();
+  EXPECT_EQ(unlocks, (Unlocks{true, false}));
+}
+
+TEST_F(DockMouseGuardTest, StoppingAnIdleGuardTellsNothing) {
+  guard->stop();
+  machine.runDue();
+  EXPECT_EQ(unlocks, Unlocks{});
+  EXPECT_EQ(messages, Messages{});
+  expectIdle();
+}
+
+TEST_F(DockMouseGuardTest, AStoppedGuardHearsNothingOfTheDisplays) {
+  startPinned();
+  guard->stop();
+  desk::detach(machine, 1);
+  desk::attach(machine, desk::laptop());
+  EXPECT_EQ(told(), Messages{});
+  expectIdle();
+}
+
+TEST_F(DockMouseGuardTest, ARestartWhileUnlockedTellsNothing) {
+  startPinned();
+  outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
+  startPinned();
+  EXPECT_TRUE(guard->isTemporarilyUnlocked());
+  EXPECT_EQ(unlocks, Unlocks{true});
+}
+
+TEST_F(DockMouseGuardTest, DestroyingAGuardStopsItFirst) {
+  startPinned();
+  guard.reset();
+  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
+  EXPECT_EQ(machine.observers.count(), 0U);
+  EXPECT_EQ(machine.runLoop.sources().size(), 0U);
+  EXPECT_EQ(portCount(), 0U);
+  desk::detach(machine, 1);
+  machine.runDue();
+  EXPECT_EQ(messages, Messages{});
+}
+
+TEST_F(DockMouseGuardTest, MessagesThatArePendingAreNotDeliveredOnceTheGuardIsGone) {
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  guard.reset();
+  machine.runDue();
+  EXPECT_EQ(messages, Messages{});
+}
+
+TEST_F(DockMouseGuardTest, MessagesAreChineseWhenTheSettingIs) {
+  machine.userDefaults.set("appLanguage", "chinese");
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  desk::detach(machine, 1);
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  EXPECT_EQ(told(), (Messages{"鼠标守卫已启动，触发区数量：1", "目标显示器不存在，鼠标守卫已暂停",
+                              "没有可用触发区。请检查目标显示器、Dock 位置和显示器排列"}));
+}
+
+TEST_F(DockMouseGuardTest, TheDisplaysAreListedInTheSystemsOrder) {
+  const std::vector<DisplaySnapshot> displays = DockMouseGuard::displays();
+  ASSERT_EQ(displays.size(), 2U);
+  EXPECT_EQ(displays[0].id, desk::uuidNamed('A'));
+  EXPECT_EQ(displays[1].id, desk::uuidNamed('B'));
+  EXPECT_EQ(displays, DisplaySnapshot::ofAllScreens());
+}
+
+std::vector<std::string> openedLinks(const desk::Machine& machine) {
+  std::vector<std::string> urls;
+  for (const desk::Links::Opened& opened : machine.links.opened()) {
+    urls.push_back(opened.url + (opened.wasAccepted ? "" : " refused"));
+  }
+  return urls;
+}
+
+TEST_F(DockMouseGuardTest, TheDesktopAndDockSettingsOpenByTheNewLink) {
+  DockMouseGuard::openDesktopAndDockSettings();
+  EXPECT_EQ(openedLinks(machine),
+            Messages{"x-apple.systempreferences:com.apple.Desktop-Settings.extension"});
+}
+
+TEST_F(DockMouseGuardTest, ARefusedSettingsLinkGivesWayToTheNext) {
+  machine.links.refuse("x-apple.systempreferences:com.apple.Desktop");
+  DockMouseGuard::openDesktopAndDockSettings();
+  EXPECT_EQ(openedLinks(machine),
+            (Messages{"x-apple.systempreferences:com.apple.Desktop-Settings.extension refused",
+                      "x-apple.systempreferences:com.apple.preference.dock"}));
+}
+
+TEST_F(DockMouseGuardTest, WhenEveryLinkIsRefusedTheSettingsThemselvesAreOpened) {
+  machine.links.refuse("x-apple.systempreferences:");
+  DockMouseGuard::openDesktopAndDockSettings();
+  EXPECT_EQ(openedLinks(machine),
+            (Messages{"x-apple.systempreferences:com.apple.Desktop-Settings.extension refused",
+                      "x-apple.systempreferences:com.apple.preference.dock refused",
+                      "file:///System/Applications/System%20Settings.app"}));
+}
+
+}  // namespace
+}  // namespace orvane
