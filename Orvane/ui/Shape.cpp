@@ -40,7 +40,7 @@ void arc(Path& path, const Corner& corner, double radius, double from, double to
 void continuousCorner(Path& path, const Corner& corner, double radius, double smoothing) {
   const double angle = std::numbers::pi / 4 * smoothing;
   const double handle = radius * std::tan(angle / 2);
-  const double start = radius * (1 + smoothing);
+  const double start = radius * (1 + smoothing / 2);
   const double second = radius - handle;
   const double first = second + 1.5 * handle * handle / (radius * std::sin(angle));
   const double arcBack = radius - radius * std::sin(angle);
@@ -130,13 +130,13 @@ Path Shape::path() const {
     path.close();
     return path;
   }
-  // Six tenths of the radius is where a smooth corner is seen as one; near the middle of a short
-  // side there may be less room.
-  constexpr double fullSmoothing = 0.6;
-  const double room = std::min(rect.width, rect.height) / 2 / radius - 1;
+  // With eight tenths of its turn in the two cubics a corner is seen as smooth, and it is nowhere
+  // bent by a fifth more than its circle. Near the middle of a short side there may be less room.
+  constexpr double fullSmoothing = 0.8;
+  const double room = 2 * (std::min(rect.width, rect.height) / 2 / radius - 1);
   const bool smooth = kind == Kind::roundedRectangle && cornerStyle == CornerStyle::continuous;
   const double smoothing = smooth ? std::clamp(room, 0.0, fullSmoothing) : 0.0;
-  path.move({rect.x + radius * (1 + smoothing), rect.y});
+  path.move({rect.x + radius * (1 + smoothing / 2), rect.y});
   roundCorner(path, {{rect.right(), rect.y}, {-1, 0}, {0, 1}}, radius, smoothing);
   roundCorner(path, {{rect.right(), rect.bottom()}, {0, -1}, {-1, 0}}, radius, smoothing);
   roundCorner(path, {{rect.x, rect.bottom()}, {1, 0}, {0, -1}}, radius, smoothing);

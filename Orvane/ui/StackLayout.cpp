@@ -51,11 +51,17 @@ std::vector<StackShare> divideStack(
       ++end;
     }
     double reserved = 0;
-    for (std::size_t index = end; index < order.size(); ++index) {
+    for (std::size_t index = begin; index < order.size(); ++index) {
       reserved += items[order[index]].least;
     }
+    double lowerReserved = 0;
+    for (std::size_t index = end; index < order.size(); ++index) {
+      lowerReserved += items[order[index]].least;
+    }
     for (std::size_t index = begin; index < end; ++index) {
-      const double offer = std::max(0.0, (remaining - reserved) / static_cast<double>(end - index));
+      reserved -= items[order[index]].least;
+      const double share = (remaining - lowerReserved) / static_cast<double>(end - index);
+      const double offer = std::max(0.0, std::min(share, remaining - reserved));
       const double length = choose(order[index], offer);
       shares[order[index]] = {offer, length};
       remaining -= length;

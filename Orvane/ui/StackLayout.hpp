@@ -26,8 +26,9 @@ struct StackShare {
 
 // Offers the available length, less the spacing between neighbours, to the children: by falling
 // priority, within a priority the least flexible first (ties in their order), each an equal share
-// of what is left. `choose` returns the length the child takes for an offer. The result has the
-// order of the items. An unspecified or infinite length is offered to every child as it is.
+// of what is left for its priority, but never what others need for their least. `choose` returns
+// the length the child takes for an offer. The result has the order of the items. An unspecified or
+// infinite length is offered to every child as it is.
 std::vector<StackShare> divideStack(
     std::optional<double> available, double spacing, const std::vector<StackItem>& items,
     const std::function<double(std::size_t index, std::optional<double> offer)>& choose);

@@ -138,8 +138,8 @@ std::vector<std::function<void()>> ViewHost::rebuild() {
     addDirty(area);
   }
   LayoutPass pass(text_, images_, now_);
-  // The root fills the host, however large it would like to be.
-  pass.place(*root_, {0, 0}, Proposal::of(size_));
+  // A root that is smaller or larger than the host lies in its middle.
+  pass.placeAligned(*root_, size_, Alignment::center(), Proposal::of(size_));
   forgetDeadNodes();
   present();
   isUpdating_ = false;
@@ -215,7 +215,9 @@ Size ViewHost::sizeThatFits(const Proposal& proposal) {
 }
 
 SemanticsNode ViewHost::semantics() const {
-  return root_ ? collectSemantics(*root_, now_, focusedId_) : SemanticsNode{};
+  SemanticsNode tree = root_ ? collectSemantics(*root_, now_, focusedId_) : SemanticsNode{};
+  tree.frame = {0, 0, size_.width, size_.height};
+  return tree;
 }
 
 }  // namespace orvane::ui

@@ -1,0 +1,69 @@
+// Retargeting keeps what is on screen continuous.
+#include <cmath>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "Orvane/ui/AnimatedValue.hpp"
+
+namespace orvane::ui {
+namespace {
+
+Curve anyCurve() {
+  const double seconds = *rc::gen::inRange(5, 100) / 100.0;
+  switch (*rc::gen::inRange(0, 4)) {
+    case 0:
+      return Curve::easeInOut(seconds);
+    case 1:
+      return Curve::easeOut(seconds);
+    case 2:
+      return Curve::easeIn(seconds);
+    default:
+      return Curve::spring(seconds, *rc::gen::inRange(20, 200) / 100.0);
+  }
+}
+
+TEST(AnimatedValueTest, withoutACurveItJumps) {
+  AnimatedValue value(3);
+  value.set(8, std::nullopt, 1);
+  EXPECT_EQ(value.at(1), 8);
+  EXPECT_FALSE(value.isMoving(1));
+}
+
+TEST(AnimatedValueTest, travelsFromWhereItWasToItsTarget) {
+  AnimatedValue value(0);
+  value.set(10, Curve::linear(2), 5);
+  EXPECT_EQ(value.at(5), 0);
+  EXPECT_NEAR(value.at(6), 5, 1e-9);
+  EXPECT_TRUE(value.isMoving(6.99));
+  EXPECT_FALSE(value.isMoving(7));
+  EXPECT_EQ(value.at(7), 10);
+  EXPECT_EQ(value.at(100), 10);
+}
+
+TEST(AnimatedValueTest, theSameTargetLetsAMotionGoOn) {
+  AnimatedValue value(0);
+  value.set(10, Curve::linear(2), 0);
+  value.set(10, std::nullopt, 1);
+  EXPECT_NEAR(value.at(1), 5, 1e-9);
+}
+
+RC_GTEST_PROP(AnimatedValueTest, retargetingKeepsPositionAndVelocity, ()) {
+  AnimatedValue value(*rc::gen::inRange(-50, 50));
+  const double first = *rc::gen::inRange(-50, 50);
+  const double second = *rc::gen::inRange(-50, 50);
+  value.set(first, anyCurve(), 0);
+  const double moment = *rc::gen::inRange(1, 100) / 100.0;
+  RC_PRE(value.isMoving(moment) && second != first);
+
+  const double position = value.at(moment);
+  const double velocity = value.velocityAt(moment);
+  value.set(second, anyCurve(), moment);
+
+  RC_ASSERT(std::abs(value.at(moment) - position) < 1e-9);
+  RC_ASSERT(std::abs(value.velocityAt(moment) - velocity) < 1e-4 * (1 + std::abs(velocity)));
+  RC_ASSERT(value.at(moment + 1000) == second);
+}
+
+}  // namespace
+}  // namespace orvane::ui

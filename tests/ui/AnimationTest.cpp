@@ -1,0 +1,189 @@
+// Changes over time, as a host presents them.
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+#include "tests/ui/TestHost.hpp"
+
+namespace orvane::ui {
+namespace {
+
+class AnimationTest : public testing::Test {
+ protected:
+  double xOf(const std::string& label) { return test.element(label)->frame.x; }
+  void rebuild() {
+    test.host->invalidate();
+    test.host->layoutIfNeeded();
+  }
+
+  TestHost test{{100, 10}};
+  double position = 0;
+};
+
+TEST_F(AnimationTest, anIdleTreeAsksForNoFrame) {
+  test.show(Text("a").offset(position, 0).animation(Curve::linear(1), position));
+  test.at(1);
+  test.at(2);
+  rebuild();
+  EXPECT_FALSE(test.host->nextFrameWanted());
+  EXPECT_EQ(test.frameRequests, 0);
+}
+
+TEST_F(AnimationTest, aChangedValueAnimatesTheViewAndFramesEndWithIt) {
+  test.show([&](const Environment&) {
+    return Text("a").offset(position, 0).animation(Curve::linear(2), position);
+  });
+  test.at(10);
+  const double start = xOf("a");
+  position = 40;
+  rebuild();
+  EXPECT_EQ(xOf("a"), start);
+  EXPECT_TRUE(test.host->nextFrameWanted());
+  EXPECT_EQ(test.frameRequests, 1);
+  test.at(11);
+  EXPECT_NEAR(xOf("a"), start + 20, 1e-9);
+  test.at(12);
+  EXPECT_EQ(xOf("a"), start + 40);
+  EXPECT_FALSE(test.host->nextFrameWanted());
+  EXPECT_EQ(test.frameRequests, 1);
+}
+
+TEST_F(AnimationTest, aValueThatStaysTheSameAnimatesNothing) {
+  test.show([&](const Environment&) {
+    return Text("a").offset(position, 0).animation(Curve::linear(2), std::string("other"));
+  });
+  const double start = xOf("a");
+  position = 40;
+  rebuild();
+  EXPECT_EQ(xOf("a"), start + 40);
+  EXPECT_FALSE(test.host->nextFrameWanted());
+}
+
+TEST_F(AnimationTest, anExplicitAnimationAppliesToEverythingThatChanges) {
+  test.show([&](const Environment&) { return Text("a").offset(position, 0); });
+  const double start = xOf("a");
+  test.at(3);
+  test.host->animate(Curve::linear(1), [&] { position = 10; });
+  test.at(3);
+  test.at(3.5);
+  EXPECT_NEAR(xOf("a"), start + 5, 1e-9);
+  position = 100;
+  rebuild();
+  EXPECT_EQ(xOf("a"), start + 100) << "the next update is not animated any more";
+}
+
+TEST_F(AnimationTest, retargetingContinuesFromWhatIsOnScreen) {
+  test.show([&](const Environment&) {
+    return Text("a").offset(position, 0).animation(Curve::spring(0.5, 0.8), position);
+  });
+  position = 50;
+  rebuild();
+  constexpr double step = 1e-4;
+  test.at(0.1 - step);
+  const double before = xOf("a");
+  test.at(0.1);
+  const double there = xOf("a");
+  position = -50;
+  rebuild();
+  EXPECT_NEAR(xOf("a"), there, 1e-9);
+  test.at(0.1 + step);
+  const double velocityBefore = (there - before) / step;
+  const double velocityAfter = (xOf("a") - there) / step;
+  EXPECT_GT(velocityBefore, 10);
+  EXPECT_NEAR(velocityAfter, velocityBefore, 0.01 * velocityBefore + 3);
+}
+
+TEST_F(AnimationTest, placesInTheLayoutAnimateToo) {
+  bool isAtEnd = false;
+  test.show([&](const Environment&) -> View {
+    return HStack(0, {when(isAtEnd, Spacer()).id("before"), Text("a").font(Font::system(10)),
+                      when(!isAtEnd, Spacer()).id("after")})
+        .animation(Curve::linear(1), isAtEnd);
+  });
+  EXPECT_EQ(xOf("a"), 0);
+  isAtEnd = true;
+  rebuild();
+  EXPECT_EQ(xOf("a"), 0);
+  test.at(0.5);
+  EXPECT_NEAR(xOf("a"), 47.5, 1e-9);
+  test.at(1);
+  EXPECT_EQ(xOf("a"), 95);
+}
+
+TEST_F(AnimationTest, coloursTravelBetweenTheirResolvedValues) {
+  bool isRed = false;
+  test.show([&](const Environment&) {
+    return Rectangle()
+        .fill(isRed ? Color::rgb(1, 0, 0) : Color::rgb(0, 0, 1))
+        .animation(Curve::linear(1), isRed);
+  });
+  isRed = true;
+  rebuild();
+  test.at(0.25);
+  EXPECT_NE(test.drawing().find("rgba(0.25 0 0.75 1)"), std::string::npos) << test.drawing();
+}
+
+TEST_F(AnimationTest, reduceMotionJumpsToTheEnd) {
+  test.show([&](const Environment&) {
+    return Text("a").offset(position, 0).animation(Curve::linear(1), position);
+  });
+  const double start = xOf("a");
+  position = 40;
+  rebuild();
+  test.at(0.25);
+  EXPECT_NEAR(xOf("a"), start + 10, 1e-9);
+  Appearance appearance;
+  appearance.reduceMotion = true;
+  test.host->setAppearance(appearance);
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(xOf("a"), start + 40) << "a motion under way ends";
+  position = 0;
+  rebuild();
+  EXPECT_EQ(xOf("a"), start) << "and no new one begins";
+  test.host->animate(Curve::linear(1), [&] { position = 20; });
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(xOf("a"), start + 20);
+  EXPECT_FALSE(test.host->nextFrameWanted());
+}
+
+TEST_F(AnimationTest, anEntranceRunsOnceWhenTheViewAppears) {
+  struct Entrance {
+    View body(const Environment& environment) const {
+      const State<bool> hasAppeared = environment.state<bool>("hasAppeared", false);
+      return Text("a").offset(*hasAppeared ? 0 : 10, 0).onAppear([hasAppeared] {
+        hasAppeared.set(true, Curve::linear(0.5));
+      });
+    }
+  };
+  test.at(1);
+  test.show(Entrance{});
+  const double start = xOf("a");
+  EXPECT_TRUE(test.host->nextFrameWanted());
+  test.at(1.25);
+  EXPECT_NEAR(xOf("a"), start - 5, 1e-9);
+  test.at(1.5);
+  EXPECT_NEAR(xOf("a"), start - 10, 1e-9);
+  rebuild();
+  test.at(2);
+  EXPECT_FALSE(test.host->nextFrameWanted());
+}
+
+TEST_F(AnimationTest, timeNeverRunsBackwards) {
+  test.at(5);
+  test.at(3);
+  EXPECT_EQ(test.host->time(), 5);
+}
+
+TEST_F(AnimationTest, anAppearanceChangeRecoloursAllAtOnce) {
+  test.show(Text("a").animation(Curve::linear(1), 0));
+  Appearance dark;
+  dark.dark = true;
+  test.host->setAppearance(dark);
+  test.host->layoutIfNeeded();
+  EXPECT_NE(test.drawing().find("rgba(1 1 1 0.85)"), std::string::npos);
+  EXPECT_FALSE(test.host->nextFrameWanted());
+}
+
+}  // namespace
+}  // namespace orvane::ui

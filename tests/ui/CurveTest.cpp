@@ -1,0 +1,134 @@
+// Curves against their closed forms and against a step-by-step integration.
+#include <cmath>
+#include <numbers>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "Orvane/ui/Curve.hpp"
+
+namespace orvane::ui {
+namespace {
+
+// Integrates x'' = -w^2 x - 2 z w x' with small steps (velocity Verlet is not needed at this size;
+// a fourth-order Runge-Kutta is exact to far below the tolerance).
+double integrated(double response, double damping, double x, double v, double until) {
+  const double w = 2 * std::numbers::pi / response;
+  const auto acceleration = [&](double at, double speed) {
+    return -w * w * at - 2 * damping * w * speed;
+  };
+  constexpr int steps = 4000;
+  const double h = until / steps;
+  for (int step = 0; step < steps; ++step) {
+    const double v1 = v, a1 = acceleration(x, v);
+    const double v2 = v + a1 * h / 2, a2 = acceleration(x + v1 * h / 2, v2);
+    const double v3 = v + a2 * h / 2, a3 = acceleration(x + v2 * h / 2, v3);
+    const double v4 = v + a3 * h, a4 = acceleration(x + v3 * h, v4);
+    x += h / 6 * (v1 + 2 * v2 + 2 * v3 + v4);
+    v += h / 6 * (a1 + 2 * a2 + 2 * a3 + a4);
+  }
+  return x;
+}
+
+TEST(CurveTest, aSpringFollowsItsDifferentialEquationInAllThreeRegimes) {
+  for (const double damping : {0.3, 0.86, 1.0, 1.7}) {
+    const Curve spring = Curve::spring(0.5, damping);
+    for (const double time : {0.01, 0.05, 0.1, 0.2, 0.3}) {
+      EXPECT_NEAR(spring.remainder(100, 40.0, time).distance,
+                  integrated(0.5, damping, 100, 40, time), 1e-6)
+          << "damping " << damping << " time " << time;
+    }
+  }
+}
+
+TEST(CurveTest, theThreeRegimesMeetAtTheCriticalDamping) {
+  for (const double time : {0.02, 0.1, 0.25}) {
+    const double critical = Curve::spring(0.4, 1).remainder(1, 0.0, time).distance;
+    EXPECT_NEAR(Curve::spring(0.4, 0.9995).remainder(1, 0.0, time).distance, critical, 1e-3);
+    EXPECT_NEAR(Curve::spring(0.4, 1.0005).remainder(1, 0.0, time).distance, critical, 1e-3);
+  }
+}
+
+RC_GTEST_PROP(CurveTest, aCriticallyDampedSpringNeverOvershoots, ()) {
+  const double response = *rc::gen::inRange(1, 200) / 100.0;
+  const double distance = *rc::gen::inRange(-1000, 1000) / 10.0;
+  const Curve spring = Curve::spring(response, 1);
+  double previous = std::abs(distance);
+  for (int step = 1; step <= 200; ++step) {
+    const double left = spring.remainder(distance, std::nullopt, response * step / 50).distance;
+    RC_ASSERT(left * distance >= 0);
+    RC_ASSERT(std::abs(left) <= previous + 1e-12);
+    previous = std::abs(left);
+  }
+}
+
+TEST(CurveTest, anUnderdampedSpringOvershoots) {
+  // After half a swing, pi / (w sqrt(1 - z^2)), it is beyond the target by exp(-pi z / sqrt(1 -
+  // z^2)).
+  const double root = std::sqrt(1 - 0.25);
+  const double half = 0.5 / 2 / root;
+  EXPECT_NEAR(Curve::spring(0.5, 0.5).remainder(1, std::nullopt, half).distance,
+              -std::exp(-std::numbers::pi * 0.5 / root), 1e-9);
+}
+
+TEST(CurveTest, aSpringSettlesForGood) {
+  for (const double damping : {0.2, 0.82, 1.0, 2.0}) {
+    const Curve spring = Curve::spring(0.3, damping);
+    bool wasSettled = false;
+    for (int step = 0; step < 3000; ++step) {
+      const bool isSettled = spring.remainder(10, 0.0, step / 100.0).isSettled;
+      EXPECT_TRUE(isSettled || !wasSettled);
+      wasSettled = isSettled;
+    }
+    EXPECT_TRUE(wasSettled);
+    EXPECT_FALSE(spring.remainder(10, 0.0, 0.01).isSettled);
+  }
+}
+
+TEST(CurveTest, easeInOutIsSymmetricAndStartsAtRest) {
+  const Curve curve = Curve::easeInOut(2);
+  EXPECT_NEAR(curve.remainder(10, std::nullopt, 1).distance, 5, 1e-9);
+  EXPECT_NEAR(curve.remainder(10, std::nullopt, 0).velocity, 0, 1e-6);
+  for (const double time : {0.2, 0.5, 0.8}) {
+    const double early = curve.remainder(10, std::nullopt, time).distance;
+    const double late = curve.remainder(10, std::nullopt, 2 - time).distance;
+    EXPECT_NEAR(early + late, 10, 1e-9);
+  }
+}
+
+TEST(CurveTest, easeOutMatchesItsBezierAtAKnownParameter) {
+  // At the parameter 1/2: x = 3/8 * 0.58 + 1/8 = 0.3425, y = 3/8 + 1/8 + ... = 0.5.
+  EXPECT_NEAR(Curve::easeOut(1).remainder(1, std::nullopt, 0.3425).distance, 0.5, 1e-9);
+  // Mirrored, easeIn is at the parameter 1/2 when x = 3/8 * 0.42 + 3/8 + 1/8.
+  EXPECT_NEAR(Curve::easeIn(1).remainder(1, std::nullopt, 0.6575).distance, 0.5, 1e-9);
+}
+
+TEST(CurveTest, velocityIsTheSlopeOfTheDistance) {
+  constexpr double step = 1e-6;
+  for (const Curve& curve :
+       {Curve::linear(1), Curve::easeIn(1), Curve::easeOut(1), Curve::easeInOut(1),
+        Curve::spring(0.5, 0.6), Curve::spring(0.5, 1), Curve::spring(0.5, 1.5)}) {
+    for (const double time : {0.1, 0.33, 0.6}) {
+      for (const std::optional<double> velocity : {std::optional<double>(), std::optional(25.0)}) {
+        const double before = curve.remainder(10, velocity, time - step).distance;
+        const double after = curve.remainder(10, velocity, time + step).distance;
+        EXPECT_NEAR(curve.remainder(10, velocity, time).velocity, (after - before) / (2 * step),
+                    1e-3);
+      }
+    }
+  }
+}
+
+TEST(CurveTest, aBezierArrivesOnTimeWhateverItsVelocityWas) {
+  EXPECT_FALSE(Curve::easeOut(0.2).remainder(3, 500.0, 0.199).isSettled);
+  EXPECT_TRUE(Curve::easeOut(0.2).remainder(3, 500.0, 0.2).isSettled);
+  EXPECT_NEAR(Curve::easeOut(0.2).remainder(3, 500.0, 0.19999).distance, 0, 1e-3);
+}
+
+TEST(CurveTest, aCurveWithoutDurationArrivesAtOnce) {
+  EXPECT_TRUE(Curve::easeOut(0).remainder(5, std::nullopt, 0).isSettled);
+  EXPECT_TRUE(Curve::spring(-1, 1).remainder(5, std::nullopt, 0).isSettled);
+}
+
+}  // namespace
+}  // namespace orvane::ui

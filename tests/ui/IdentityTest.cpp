@@ -1,0 +1,148 @@
+// Retained nodes: matched by id, else by kind and place; state lives in them.
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Group.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+#include "tests/ui/TestHost.hpp"
+
+namespace orvane::ui {
+namespace {
+
+// Shows its name and how often it was clicked.
+struct Counter {
+  std::string name;
+
+  View body(const Environment& environment) const {
+    const State<int> count = environment.state<int>("count", 0);
+    return Text(name + std::to_string(*count)).font(Font::system(10)).onTap([count] {
+      count.set(*count + 1);
+    });
+  }
+};
+
+std::string labels(const TestHost& test) {
+  std::string result;
+  for (const SemanticsNode& node : test.host->semantics().children) {
+    result += node.label + " ";
+  }
+  return result;
+}
+
+TEST(IdentityTest, stateOutlivesARedraw) {
+  TestHost test({10, 10});
+  test.show(Counter{"a"});
+  test.click({5, 5});
+  EXPECT_EQ(labels(test), "a1 ");
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(labels(test), "a1 ");
+}
+
+TEST(IdentityTest, stateFollowsItsItemWhenItemsMove) {
+  std::vector<std::string> names{"a", "b", "c"};
+  TestHost test({30, 10});
+  test.show([&](const Environment&) -> View {
+    return HStack(0, {forEach(
+                         names, [](const std::string& name) { return name; },
+                         [](const std::string& name) { return Counter{name}; })});
+  });
+  test.click({15, 5});
+  EXPECT_EQ(labels(test), "a0 b1 c0 ");
+  names = {"b", "c", "a"};
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(labels(test), "b1 c0 a0 ");
+  names = {"c", "a"};
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  names = {"b", "c", "a"};
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(labels(test), "b0 c0 a0 ") << "what was gone begins anew";
+}
+
+TEST(IdentityTest, aConditionalSiblingDoesNotDisturbTheOthers) {
+  bool isShown = false;
+  TestHost test({30, 10});
+  test.show([&](const Environment&) -> View {
+    return HStack(0, {when(isShown, Text("x").font(Font::system(10))), Counter{"a"}});
+  });
+  test.click({15, 5});
+  EXPECT_EQ(labels(test), "a1 ");
+  isShown = true;
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(labels(test), "x a1 ");
+}
+
+TEST(IdentityTest, anotherIdOrKindIsAnotherNode) {
+  std::string id = "one";
+  TestHost test({10, 10});
+  test.show([&](const Environment&) { return View(Counter{"a"}).id(id); });
+  test.click({5, 5});
+  EXPECT_EQ(labels(test), "a1 ");
+  id = "two";
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(labels(test), "a0 ");
+}
+
+TEST(IdentityTest, appearingAndDisappearingAreToldOnce) {
+  bool isShown = true;
+  std::string log;
+  TestHost test;
+  test.show([&](const Environment&) -> View {
+    return VStack(
+        {when(isShown, Text("a").onAppear([&] { log += "+"; }).onDisappear([&] { log += "-"; }))});
+  });
+  EXPECT_EQ(log, "+");
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(log, "+");
+  isShown = false;
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(log, "+-");
+}
+
+TEST(IdentityTest, stateSetAfterItsViewIsGoneDoesNothing) {
+  TestHost test;
+  std::optional<State<int>> kept;
+  test.show([&](const Environment&) -> View {
+    struct Keeper {
+      std::optional<State<int>>* kept;
+      View body(const Environment& environment) const {
+        *kept = environment.state<int>("n", 0);
+        return Text("k");
+      }
+    };
+    return Keeper{&kept};
+  });
+  test.host.reset();
+  kept->set(5);
+  EXPECT_EQ(**kept, 5);
+}
+
+TEST(IdentityTest, anEqualValueAsksForNothing) {
+  TestHost test;
+  std::optional<State<int>> kept;
+  struct Keeper {
+    std::optional<State<int>>* kept;
+    View body(const Environment& environment) const {
+      *kept = environment.state<int>("n", 3);
+      return Text("k");
+    }
+  };
+  test.show(Keeper{&kept});
+  const int before = test.redrawRequests;
+  kept->set(3);
+  EXPECT_FALSE(test.host->needsUpdate());
+  kept->set(4);
+  EXPECT_TRUE(test.host->needsUpdate());
+  EXPECT_EQ(test.redrawRequests, before + 1);
+}
+
+}  // namespace
+}  // namespace orvane::ui

@@ -1,0 +1,159 @@
+// Focus, its ring, shortcuts and keyboard activation.
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/ScrollView.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+#include "tests/ui/TestHost.hpp"
+
+namespace orvane::ui {
+namespace {
+
+class KeyboardTest : public testing::Test {
+ protected:
+  View button(const std::string& title) {
+    return Button(title, [this, title] { log += title; });
+  }
+  std::string focused() {
+    for (const std::string label : {"a", "b", "c"}) {
+      const auto element = test.element(label);
+      if (element && element->isFocused) {
+        return label;
+      }
+    }
+    return "";
+  }
+
+  TestHost test{{300, 100}};
+  std::string log;
+};
+
+TEST_F(KeyboardTest, tabWalksInReadingOrderAndRoundAgain) {
+  test.show(VStack({HStack({button("a"), button("b")}), button("c")}));
+  EXPECT_EQ(focused(), "");
+  std::string walk;
+  for (int step = 0; step < 4; ++step) {
+    EXPECT_TRUE(test.press(Key::tab));
+    walk += focused();
+  }
+  EXPECT_EQ(walk, "abca");
+  test.press(Key::tab, true);
+  EXPECT_EQ(focused(), "c");
+}
+
+TEST_F(KeyboardTest, shiftTabBeginsAtTheEnd) {
+  test.show(HStack({button("a"), button("b")}));
+  test.press(Key::tab, true);
+  EXPECT_EQ(focused(), "b");
+}
+
+TEST_F(KeyboardTest, disabledAndInvisibleControlsAreSkipped) {
+  test.show(HStack({button("a").disabled(true), button("b").opacity(0), button("c")}));
+  test.press(Key::tab);
+  EXPECT_EQ(focused(), "c");
+}
+
+TEST_F(KeyboardTest, withoutControlsTabIsNotHandled) {
+  test.show(Text("a"));
+  EXPECT_FALSE(test.press(Key::tab));
+}
+
+TEST_F(KeyboardTest, spaceActivatesTheFocus) {
+  test.show(HStack({button("a"), button("b")}));
+  EXPECT_FALSE(test.press(Key::space));
+  test.press(Key::tab);
+  test.press(Key::tab);
+  EXPECT_TRUE(test.press(Key::space));
+  EXPECT_EQ(log, "b");
+}
+
+TEST_F(KeyboardTest, returnAndEscapeReachTheirButtonsWhateverHasTheFocus) {
+  test.show(HStack({button("a").keyboardShortcut(KeyboardShortcut::cancelAction()),
+                    button("b").keyboardShortcut(KeyboardShortcut::defaultAction()), button("c")}));
+  test.press(Key::tab);
+  EXPECT_TRUE(test.press(Key::enter));
+  EXPECT_EQ(log, "b");
+  EXPECT_TRUE(test.press(Key::escape));
+  EXPECT_EQ(log, "ba");
+}
+
+TEST_F(KeyboardTest, withoutADefaultButtonReturnActivatesTheFocus) {
+  test.show(HStack({button("a"), button("b")}));
+  EXPECT_FALSE(test.press(Key::enter));
+  test.press(Key::tab);
+  EXPECT_TRUE(test.press(Key::enter));
+  EXPECT_EQ(log, "a");
+  EXPECT_FALSE(test.press(Key::escape));
+}
+
+TEST_F(KeyboardTest, aDisabledDefaultButtonDoesNotAnswer) {
+  test.show(button("a").keyboardShortcut(KeyboardShortcut::defaultAction()).disabled(true));
+  EXPECT_FALSE(test.press(Key::enter));
+  EXPECT_EQ(log, "");
+}
+
+TEST_F(KeyboardTest, aShortcutNeedsItsCharacterAndItsModifiers) {
+  test.show(button("a").keyboardShortcut(KeyboardShortcut::command("w")));
+  EXPECT_FALSE(test.host->keyDown({Key::character, {}, "w"}));
+  EXPECT_FALSE(test.host->keyDown({Key::character, {false, false, false, true}, "q"}));
+  EXPECT_TRUE(test.host->keyDown({Key::character, {false, false, false, true}, "w"}));
+  EXPECT_EQ(log, "a");
+}
+
+TEST_F(KeyboardTest, theRingIsSeenOnlyWhenTheFocusCameByTheKeyboard) {
+  test.show(
+      Button([] {}, Rectangle().frame(40, 20)).style(PlainButtonStyle{}).accessibilityLabel("a"));
+  const std::string ring = "stroke rounded(128 38 44 24 r8 continuous)";
+  EXPECT_EQ(test.drawing().find(ring), std::string::npos);
+  EXPECT_TRUE(test.host->focus(test.element("a")->id));
+  EXPECT_EQ(test.drawing().find(ring), std::string::npos);
+  test.host->focus(0);
+  test.host->takeDirtyRects();
+  test.press(Key::tab);
+  EXPECT_NE(test.drawing().find(ring), std::string::npos) << test.drawing();
+  const std::vector<Rect> dirty = test.host->takeDirtyRects();
+  ASSERT_EQ(dirty.size(), 1U);
+  EXPECT_EQ(dirty[0], (Rect{124, 34, 52, 32}));
+}
+
+TEST_F(KeyboardTest, theFocusEndsWithItsNode) {
+  bool isShown = true;
+  test.show([&](const Environment&) -> View {
+    return HStack({when(isShown, button("a")), button("b")});
+  });
+  test.press(Key::tab);
+  EXPECT_NE(test.host->focusedId(), 0U);
+  isShown = false;
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(test.host->focusedId(), 0U);
+  EXPECT_FALSE(test.press(Key::space));
+  EXPECT_EQ(log, "");
+}
+
+TEST_F(KeyboardTest, theFocusScrollsItsControlIntoView) {
+  test.host->setSize({50, 40});
+  const auto card = [this](const std::string& title) {
+    return Button([this, title] { log += title; }, Text(title).frame(40, 20))
+        .style(PlainButtonStyle{});
+  };
+  test.show(ScrollView(HStack(0, {card("a"), card("b"), card("c")})));
+  test.press(Key::tab);
+  test.press(Key::tab);
+  EXPECT_EQ(test.element("b")->frame.right(), 50);
+  test.press(Key::tab, true);
+  EXPECT_EQ(test.element("a")->frame.x, 0);
+}
+
+TEST_F(KeyboardTest, aKeyMayDestroyTheHost) {
+  test.show(Button("a", [this] {
+              test.host.reset();
+            }).keyboardShortcut(KeyboardShortcut::cancelAction()));
+  EXPECT_TRUE(test.press(Key::escape));
+  EXPECT_FALSE(test.host);
+}
+
+}  // namespace
+}  // namespace orvane::ui

@@ -1,0 +1,161 @@
+// What holds for every tree of views: sizes are numbers, children lie within their parents,
+// spacings add up exactly, and the same input gives the same output.
+#include <cmath>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "Orvane/ui/Builder.hpp"
+#include "Orvane/ui/LayoutPass.hpp"
+#include "Orvane/ui/ScrollView.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/StandardColors.hpp"
+#include "Orvane/ui/SyntheticTextMeasurer.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane::ui {
+namespace {
+
+constexpr double spacing = 7;
+
+View anyView(int depth);
+
+std::vector<View> anyChildren(int depth) {
+  std::vector<View> children;
+  const int count = *rc::gen::inRange(0, 5);
+  for (int index = 0; index < count; ++index) {
+    children.push_back(anyView(depth - 1));
+  }
+  return children;
+}
+
+View anyLeaf() {
+  switch (*rc::gen::inRange(0, 4)) {
+    case 0:
+      return Text(*rc::gen::element<std::string>("a", "two words", "a longer text of words", ""));
+    case 1:
+      return Spacer(*rc::gen::inRange(0, 20));
+    case 2:
+      return Capsule();
+    default:
+      return Rectangle().frame(*rc::gen::inRange(0, 80), *rc::gen::inRange(0, 80));
+  }
+}
+
+// Views that hold their content: no frame smaller than it, no offset, no layer, no scrolling.
+View anyView(int depth) {
+  if (depth == 0) {
+    return anyLeaf();
+  }
+  switch (*rc::gen::inRange(0, 8)) {
+    case 0:
+      return HStack(spacing, anyChildren(depth));
+    case 1:
+      return VStack(spacing, HorizontalAlignment::trailing, anyChildren(depth));
+    case 2:
+      return ZStack(Alignment::topTrailing(), anyChildren(depth));
+    case 3:
+      return anyView(depth - 1).padding(*rc::gen::inRange(0, 20));
+    case 4:
+      return anyView(depth - 1).maximumWidth();
+    case 5:
+      return anyView(depth - 1).fixedSize(*rc::gen::arbitrary<bool>(), *rc::gen::arbitrary<bool>());
+    case 6:
+      return anyView(depth - 1).layoutPriority(*rc::gen::inRange(-1, 3));
+    default:
+      return anyLeaf();
+  }
+}
+
+std::optional<double> anyLength() {
+  return *rc::gen::element<std::optional<double>>(std::nullopt, 0.0, 3.0, 50.0, 333.0, 1e9,
+                                                  infinity, -5.0, std::nan(""));
+}
+
+// A tree laid out without a host.
+class LaidOut {
+ public:
+  LaidOut(const View& view, const Proposal& proposal) {
+    const auto environment = std::make_shared<Environment>();
+    const ColorResolver resolver = standardColor;
+    Builder builder({0, &resolver, &nodeCount_, std::nullopt});
+    builder.root(root, view, environment);
+    LayoutPass pass(text_, images_, 0);
+    size = pass.measure(*root, proposal);
+    pass.place(*root, {0, 0}, proposal);
+  }
+
+  std::vector<Rect> frames() const {
+    std::vector<Rect> result;
+    visitNodes(*root, [&](const Node& node) { result.push_back(node.target()); });
+    return result;
+  }
+
+  std::unique_ptr<Node> root;
+  Size size;
+
+ private:
+  SyntheticTextMeasurer text_;
+  ImageSource images_;
+  std::uint64_t nodeCount_ = 0;
+};
+
+RC_GTEST_PROP(LayoutPropertyTest, everySizeIsANumberAndEveryFrameIsFinite, ()) {
+  View view = anyView(4);
+  if (*rc::gen::arbitrary<bool>()) {
+    view = ScrollView(view).overlay(anyView(2)).offset(3, 4);
+  }
+  const LaidOut tree(view, {anyLength(), anyLength()});
+  RC_ASSERT(tree.size.width >= 0 && tree.size.height >= 0);
+  for (const Rect& frame : tree.frames()) {
+    RC_ASSERT(std::isfinite(frame.x) && std::isfinite(frame.y));
+    RC_ASSERT(std::isfinite(frame.width) && frame.width >= 0);
+    RC_ASSERT(std::isfinite(frame.height) && frame.height >= 0);
+  }
+}
+
+RC_GTEST_PROP(LayoutPropertyTest, childrenLieWithinTheirParent, ()) {
+  const LaidOut tree(anyView(4),
+                     {double(*rc::gen::inRange(0, 400)), double(*rc::gen::inRange(0, 400))});
+  constexpr double rounding = 1e-6;
+  visitNodes(*tree.root, [&](const Node& node) {
+    const Rect own = node.target();
+    for (const auto& child : node.children) {
+      const Rect frame = child->target();
+      RC_ASSERT(frame.x >= -rounding && frame.y >= -rounding);
+      RC_ASSERT(frame.right() <= own.width + rounding);
+      RC_ASSERT(frame.bottom() <= own.height + rounding);
+    }
+  });
+}
+
+RC_GTEST_PROP(LayoutPropertyTest, spacingsAddUpExactly, ()) {
+  const LaidOut tree(anyView(4),
+                     {double(*rc::gen::inRange(0, 400)), double(*rc::gen::inRange(0, 400))});
+  visitNodes(*tree.root, [&](const Node& node) {
+    const std::optional<Axis> axis = node.element->stackAxis();
+    if (!axis) {
+      return;
+    }
+    double end = -spacing;
+    for (const auto& child : node.children) {
+      const Rect frame = child->target();
+      const double start = *axis == Axis::horizontal ? frame.x : frame.y;
+      RC_ASSERT(std::abs(start - (end + spacing)) < 1e-9);
+      end = start + lengthAlong(*axis, frame.size());
+    }
+    if (!node.children.empty()) {
+      RC_ASSERT(std::abs(lengthAlong(*axis, node.target().size()) - end) < 1e-9);
+    }
+  });
+}
+
+RC_GTEST_PROP(LayoutPropertyTest, theSameInputGivesTheSameOutput, ()) {
+  const View view = anyView(4);
+  const Proposal proposal{anyLength(), anyLength()};
+  RC_ASSERT(LaidOut(view, proposal).frames() == LaidOut(view, proposal).frames());
+}
+
+}  // namespace
+}  // namespace orvane::ui

@@ -1,0 +1,168 @@
+// Layout with the synthetic font at size 10: a character is 5 wide and 10 high.
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/Group.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ScrollView.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+#include "tests/ui/TestHost.hpp"
+
+namespace orvane::ui {
+namespace {
+
+std::string framesIn(const View& view, double width, double height) {
+  TestHost test({width, height});
+  test.show(view.font(Font::system(10)));
+  return test.frames();
+}
+
+Size ideal(const View& view) {
+  TestHost test;
+  test.show(view.font(Font::system(10)));
+  return test.host->intrinsicSize();
+}
+
+TEST(LayoutTest, aRowPlacesItsChildrenSideBySideInTheMiddleOfTheHost) {
+  EXPECT_EQ(framesIn(HStack(8, {Text("a"), Text("bb")}), 100, 20),
+            "a(38.5 5 5 10) bb(51.5 5 10 10)");
+}
+
+TEST(LayoutTest, aColumnAlignsItsChildrenAcross) {
+  const std::vector<View> children{Text("a"), Text("bbb")};
+  EXPECT_EQ(framesIn(VStack(2, HorizontalAlignment::leading, children), 15, 22),
+            "a(0 0 5 10) bbb(0 12 15 10)");
+  EXPECT_EQ(framesIn(VStack(2, HorizontalAlignment::center, children), 15, 22),
+            "a(5 0 5 10) bbb(0 12 15 10)");
+  EXPECT_EQ(framesIn(VStack(2, HorizontalAlignment::trailing, children), 15, 22),
+            "a(10 0 5 10) bbb(0 12 15 10)");
+}
+
+TEST(LayoutTest, spacersPushTheirNeighboursApart) {
+  EXPECT_EQ(framesIn(HStack(0, {Text("a"), Spacer(), Text("b")}), 100, 10),
+            "a(0 0 5 10) b(95 0 5 10)");
+  EXPECT_EQ(framesIn(VStack(0, {Spacer(), Text("a"), Spacer()}), 5, 90), "a(0 40 5 10)");
+  EXPECT_EQ(framesIn(HStack(0, {Text("a"), Spacer(20), Text("b")}).fixedSize(), 30, 10),
+            "a(0 0 5 10) b(25 0 5 10)");
+}
+
+TEST(LayoutTest, aHeaderRowGivesWayWordByWord) {
+  // At every width: the rigid label keeps its room, then the text wraps, and at last both break.
+  const View header = HStack(8, VerticalAlignment::top, {Text("aaaa bbbb"), Spacer(), Text("ok")});
+  const std::vector<std::pair<double, std::string>> expected{
+      {100, "aaaa bbbb(0 0 45 10) ok(90 0 10 10)"}, {80, "aaaa bbbb(0 0 45 10) ok(70 0 10 10)"},
+      {71, "aaaa bbbb(0 0 45 10) ok(61 0 10 10)"},  {70, "aaaa bbbb(0 0 20 20) ok(60 0 10 10)"},
+      {60, "aaaa bbbb(0 0 20 20) ok(50 0 10 10)"},  {46, "aaaa bbbb(0 0 20 20) ok(36 0 10 10)"},
+      {45, "aaaa bbbb(0 0 15 40) ok(35 0 10 10)"}};
+  for (const auto& [width, frames] : expected) {
+    EXPECT_EQ(framesIn(header.maximumHeight(infinity, Alignment::top()), width, 100), frames)
+        << width;
+  }
+}
+
+TEST(LayoutTest, emptyViewsTakeNeitherRoomNorSpacing) {
+  const View row = HStack(8, {Text("a"), when(false, Text("gone")), Text("b"), View().padding()});
+  EXPECT_EQ(framesIn(row, 18, 10), "a(0 0 5 10) b(13 0 5 10)");
+}
+
+TEST(LayoutTest, aGroupTakesPartInItsStackMemberByMember) {
+  const std::vector<std::string> names{"x", "y"};
+  const View items = forEach(
+      names, [](const std::string& name) { return name; },
+      [](const std::string& name) { return Text(name); });
+  EXPECT_EQ(framesIn(HStack(5, {Text("a"), items, Text("b")}), 35, 10),
+            "a(0 0 5 10) x(10 0 5 10) y(20 0 5 10) b(30 0 5 10)");
+}
+
+TEST(LayoutTest, paddingSurroundsAndModifiersApplyInTheirOrder) {
+  EXPECT_EQ(ideal(Text("a").padding()), (Size{37, 42}));
+  EXPECT_EQ(ideal(Text("a").padding(Edges::horizontal(13).vertical(8))), (Size{31, 26}));
+  EXPECT_EQ(ideal(Text("a").padding(4).frame(50, 50)), (Size{50, 50}));
+  EXPECT_EQ(ideal(Text("a").frame(50, 50).padding(4)), (Size{58, 58}));
+  EXPECT_EQ(framesIn(Text("a").padding(Edge::top, 6), 5, 16), "a(0 6 5 10)");
+}
+
+TEST(LayoutTest, aFixedFrameAlignsItsContent) {
+  EXPECT_EQ(framesIn(Text("a").frame(25, 30, Alignment::topLeading()), 25, 30), "a(0 0 5 10)");
+  EXPECT_EQ(framesIn(Text("a").frame(25, 30, Alignment::bottomTrailing()), 25, 30),
+            "a(20 20 5 10)");
+  EXPECT_EQ(framesIn(Text("a").frame(25, 30), 25, 30), "a(10 10 5 10)");
+}
+
+TEST(LayoutTest, aFlexibleFrameGrowsToWhatItIsOfferedWithinItsBounds) {
+  FrameBounds bounds;
+  bounds.minimumWidth = 20;
+  bounds.maximumWidth = 60;
+  bounds.alignment = Alignment::leading();
+  const View view = HStack(0, {Text("a").frame(bounds), Text("b"), Spacer()});
+  EXPECT_EQ(framesIn(view, 100, 10), "a(0 0 5 10) b(60 0 5 10)");
+  EXPECT_EQ(framesIn(view, 50, 10), "a(0 0 5 10) b(45 0 5 10)");
+  EXPECT_EQ(framesIn(view, 25, 10), "a(0 0 5 10) b(20 0 5 10)");
+  EXPECT_EQ(ideal(Text("a").maximumWidth()), (Size{5, 10}));
+}
+
+TEST(LayoutTest, twoStretchedLabelsShareTheWidthEqually) {
+  const View row = HStack(10, {Text("a").maximumWidth(), Text("bbbbbb").maximumWidth()});
+  EXPECT_EQ(framesIn(row, 110, 10), "a(22.5 0 5 10) bbbbbb(70 0 30 10)");
+}
+
+TEST(LayoutTest, textIsCutWhereHeightIsShortUnlessItsHeightIsFixed) {
+  TestHost cut({20, 15});
+  cut.show(Text("aaaa bbbb cccc").font(Font::system(10)));
+  EXPECT_NE(cut.drawing().find("text \"aaa…\""), std::string::npos);
+  EXPECT_EQ(cut.frames(), "aaaa bbbb cccc(0 2.5 20 10)");
+  EXPECT_EQ(framesIn(Text("aaaa bbbb cccc").fixedSizeVertical(), 20, 15),
+            "aaaa bbbb cccc(0 -7.5 20 30)");
+}
+
+TEST(LayoutTest, aLineLimitIsInherited) {
+  EXPECT_EQ(framesIn(VStack(0, {Text("aaaa bbbb")}).lineLimit(1), 25, 40), "aaaa bbbb(0 15 25 10)");
+}
+
+TEST(LayoutTest, layersAreOfferedTheSizeOfTheirViewAndDoNotChangeIt) {
+  const View view = Text("content")
+                        .overlay(Text("o"), Alignment::topTrailing())
+                        .background(Text("b"), Alignment::bottomLeading());
+  EXPECT_EQ(framesIn(view, 35, 10), "b(0 0 5 10) content(0 0 35 10) o(30 0 5 10)");
+  EXPECT_EQ(ideal(view), (Size{35, 10}));
+}
+
+TEST(LayoutTest, depthStacksAreAsLargeAsTheirLargest) {
+  EXPECT_EQ(framesIn(ZStack(Alignment::bottomTrailing(), {Text("aaa"), Text("b\nb")}), 15, 20),
+            "aaa(0 10 15 10) b\nb(10 0 5 20)");
+}
+
+TEST(LayoutTest, aDividerRunsAcrossItsStack) {
+  const View column = VStack(4, {Text("a"), Divider(), Text("b")});
+  EXPECT_EQ(framesIn(column, 50, 29), "a(22.5 0 5 10) b(22.5 19 5 10)");
+  EXPECT_EQ(framesIn(HStack(4, {Text("a"), Divider(), Text("b")}), 19, 30),
+            "a(0 10 5 10) b(14 10 5 10)");
+}
+
+TEST(LayoutTest, aScrollViewTakesItsWidthAndTheHeightOfItsContent) {
+  const View row = ScrollView(HStack(5, {Text("aaaa"), Text("bbbb")}));
+  EXPECT_EQ(framesIn(VStack(0, {row, Text("c")}), 30, 20),
+            "aaaa(0 0 20 10) bbbb(25 0 20 10) c(12.5 10 5 10)");
+  EXPECT_EQ(ideal(row), (Size{45, 10}));
+}
+
+TEST(LayoutTest, imagesKeepTheirSizeUntilTheyAreMadeResizable) {
+  EXPECT_EQ(ideal(Image("photo")), (Size{40, 20}));
+  EXPECT_EQ(ideal(Image("unknown")), (Size{0, 0}));
+  TestHost test({30, 30});
+  test.show(Image("photo").resizable());
+  EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{30, 30}));
+  test.show(Image("photo").resizable(ContentMode::fit));
+  EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{30, 15}));
+  test.show(Image("photo").resizable(ContentMode::fill));
+  EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{60, 30}));
+}
+
+TEST(LayoutTest, prioritiesDecideWhoIsServedFirst) {
+  const View row = HStack(0, {Text("aa aa"), Text("bb bb").layoutPriority(1)});
+  EXPECT_EQ(framesIn(row, 35, 20), "aa aa(0 0 10 20) bb bb(10 5 25 10)");
+}
+
+}  // namespace
+}  // namespace orvane::ui

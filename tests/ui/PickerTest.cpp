@@ -1,0 +1,70 @@
+// The pop-up button and the platform's menu.
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/Picker.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "tests/ui/TestHost.hpp"
+
+namespace orvane::ui {
+namespace {
+
+class PickerTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    test.show([this](const Environment&) {
+      return View(Picker{"Language",
+                         {"System", "English"},
+                         selected,
+                         [this](int index) {
+                           selected = index;
+                           test.host->invalidate();
+                         }})
+          .width(160);
+    });
+  }
+
+  TestHost test{{200, 22}};
+  int selected = 0;
+};
+
+TEST_F(PickerTest, showsTheSelectedItem) {
+  EXPECT_NE(test.drawing().find("text \"System\""), std::string::npos);
+  EXPECT_EQ(test.drawing().find("English"), std::string::npos);
+}
+
+TEST_F(PickerTest, aClickOpensTheMenuAtTheControlAndAChoiceIsToldOnce) {
+  test.click({100, 11});
+  ASSERT_EQ(test.menus.size(), 1U);
+  EXPECT_EQ(test.menus[0].items, (std::vector<std::string>{"System", "English"}));
+  EXPECT_EQ(test.menus[0].selectedIndex, 0);
+  EXPECT_EQ(test.menus[0].anchor, (Rect{20, 0, 160, 22}));
+  test.menus[0].onChoose(1);
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(selected, 1);
+  EXPECT_NE(test.drawing().find("text \"English\""), std::string::npos);
+}
+
+TEST_F(PickerTest, theKeyboardAndAPressOpenItToo) {
+  test.press(Key::tab);
+  test.press(Key::space);
+  EXPECT_EQ(test.menus.size(), 1U);
+  test.host->perform(test.element("Language")->id, SemanticsAction::press);
+  EXPECT_EQ(test.menus.size(), 2U);
+}
+
+TEST_F(PickerTest, describesItselfWithLabelAndValue) {
+  const auto element = test.element("Language");
+  ASSERT_TRUE(element);
+  EXPECT_EQ(element->role, Role::popUpButton);
+  EXPECT_EQ(element->value, "System");
+}
+
+TEST_F(PickerTest, anIndexOutsideOfTheItemsShowsAnEmptyTitle) {
+  selected = 7;
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(test.element("Language")->value, "");
+}
+
+}  // namespace
+}  // namespace orvane::ui

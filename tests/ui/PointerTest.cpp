@@ -1,0 +1,293 @@
+// The pointer, driven through the host's events.
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Group.hpp"
+#include "Orvane/ui/ScrollView.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+#include "tests/ui/TestHost.hpp"
+
+namespace orvane::ui {
+namespace {
+
+// Shows its label with a mark while it is pressed; 40 by 20 points.
+struct MarkingStyle {
+  View body(const ButtonConfiguration& configuration, const Environment&) const {
+    return ZStack({configuration.label, when(configuration.isPressed, Text("!"))}).frame(40, 20);
+  }
+};
+
+class PointerTest : public testing::Test {
+ protected:
+  View button(const std::string& title) {
+    return Button(title, [this, title] { log += title; }).style(MarkingStyle{});
+  }
+  bool showsPress() { return test.drawing().find("\"!\"") != std::string::npos; }
+  void update() {
+    test.host->invalidate();
+    test.host->layoutIfNeeded();
+  }
+
+  TestHost test{{40, 20}};
+  std::string log;
+};
+
+TEST_F(PointerTest, aClickIsAPressAndAReleaseInside) {
+  test.show(button("a"));
+  EXPECT_TRUE(test.host->pointerDown({20, 10}));
+  test.host->layoutIfNeeded();
+  EXPECT_TRUE(showsPress());
+  EXPECT_EQ(log, "");
+  EXPECT_TRUE(test.host->pointerUp({21, 10}));
+  test.host->layoutIfNeeded();
+  EXPECT_FALSE(showsPress());
+  EXPECT_EQ(log, "a");
+}
+
+TEST_F(PointerTest, draggingOutCancelsAndDraggingBackArmsAgain) {
+  test.show(button("a"));
+  test.host->pointerDown({20, 10});
+  test.host->pointerDragged({60, 10});
+  test.host->layoutIfNeeded();
+  EXPECT_FALSE(showsPress());
+  test.host->pointerDragged({20, 10});
+  test.host->layoutIfNeeded();
+  EXPECT_TRUE(showsPress());
+  test.host->pointerDragged({60, 10});
+  EXPECT_TRUE(test.host->pointerUp({60, 10}));
+  EXPECT_EQ(log, "");
+}
+
+TEST_F(PointerTest, aCancelledPressDoesNothing) {
+  test.show(button("a"));
+  test.host->pointerDown({20, 10});
+  test.host->pointerCancelled();
+  EXPECT_FALSE(test.host->pointerUp({20, 10}));
+  EXPECT_EQ(log, "");
+}
+
+TEST_F(PointerTest, aPressEndsWithItsNode) {
+  std::string id = "one";
+  test.show([&](const Environment&) { return button("a").id(id); });
+  test.host->pointerDown({20, 10});
+  id = "two";
+  update();
+  EXPECT_FALSE(test.host->pointerUp({20, 10}));
+  EXPECT_EQ(log, "");
+  EXPECT_FALSE(showsPress());
+}
+
+TEST_F(PointerTest, aPressEndsWhenItsControlIsDisabled) {
+  bool isDisabled = false;
+  test.show([&](const Environment&) { return button("a").disabled(isDisabled); });
+  test.host->pointerDown({20, 10});
+  isDisabled = true;
+  update();
+  test.host->pointerUp({20, 10});
+  isDisabled = false;
+  update();
+  EXPECT_EQ(log, "");
+  EXPECT_FALSE(showsPress());
+}
+
+TEST_F(PointerTest, disabledSubtreesTakeThePressAndDoNothing) {
+  test.show(ZStack({button("below"), VStack({button("a")}).disabled(true)}));
+  EXPECT_TRUE(test.host->pointerDown({20, 10}));
+  test.host->pointerUp({20, 10});
+  EXPECT_EQ(log, "");
+}
+
+TEST_F(PointerTest, theTopmostControlIsHit) {
+  test.show(ZStack({button("a"), button("b")}));
+  test.click({20, 10});
+  EXPECT_EQ(log, "b");
+}
+
+TEST_F(PointerTest, whatCannotBeSeenOrHitLetsThePointerThrough) {
+  test.show(ZStack({button("a"), button("b").hitTesting(false), button("c").opacity(0)}));
+  test.click({20, 10});
+  EXPECT_EQ(log, "a");
+}
+
+TEST_F(PointerTest, hitsFollowOffsetsAndScalesAsPresented) {
+  test.host->setSize({200, 100});
+  test.show(button("a").scale(0.5).offset(50, 0));
+  // The button's 40 by 20 points in the middle, halved and moved: 140 to 160, 45 to 55.
+  test.click({100, 50});
+  test.click({138, 50});
+  test.click({150, 57});
+  EXPECT_EQ(log, "");
+  test.click({142, 46});
+  EXPECT_EQ(log, "a");
+}
+
+TEST_F(PointerTest, hitsFollowAMotionUnderWay) {
+  test.host->setSize({200, 20});
+  double x = -50;
+  test.show(
+      [&](const Environment&) { return button("a").offset(x, 0).animation(Curve::linear(1), x); });
+  x = 50;
+  update();
+  test.at(0.5);
+  test.click({100, 10});
+  EXPECT_EQ(log, "a");
+}
+
+TEST_F(PointerTest, hoverIsToldOnceEachWay) {
+  test.host->setSize({100, 20});
+  test.show(Rectangle().frame(40, 20).onHover([this](bool inside) { log += inside ? "+" : "-"; }));
+  test.host->pointerMoved({10, 10});
+  EXPECT_EQ(log, "");
+  test.host->pointerMoved({50, 10});
+  test.host->pointerMoved({51, 10});
+  EXPECT_EQ(log, "+");
+  test.host->pointerMoved({90, 10});
+  EXPECT_EQ(log, "+-");
+  test.host->pointerMoved({50, 10});
+  test.host->pointerExited();
+  EXPECT_EQ(log, "+-+-");
+}
+
+TEST_F(PointerTest, hoverIsFoundAnewAfterLayoutThoughThePointerIsStill) {
+  test.host->setSize({100, 20});
+  double x = 30;
+  test.show([&](const Environment&) {
+    return Rectangle()
+        .frame(40, 20)
+        .onHover([this](bool inside) { log += inside ? "+" : "-"; })
+        .offset(x, 0);
+  });
+  test.host->pointerMoved({30, 10});
+  EXPECT_EQ(log, "");
+  x = -20;
+  update();
+  EXPECT_EQ(log, "+");
+  x = 30;
+  update();
+  EXPECT_EQ(log, "+-");
+}
+
+TEST_F(PointerTest, aClusterAndTheControlInItHoverTogether) {
+  test.show(HStack(0, {button("a").onHover([this](bool in) { log += in ? "i" : "o"; })})
+                .onHover([this](bool in) { log += in ? "I" : "O"; }));
+  test.host->pointerMoved({20, 10});
+  EXPECT_EQ(log, "iI");
+}
+
+TEST_F(PointerTest, aHandlerMayRemoveItsView) {
+  bool isShown = true;
+  test.show([&](const Environment&) -> View {
+    return ZStack({when(isShown, Button("a", [&] {
+                                   isShown = false;
+                                   test.host->invalidate();
+                                   test.host->layoutIfNeeded();
+                                   log += "gone";
+                                 }).style(MarkingStyle{}))});
+  });
+  test.click({20, 10});
+  EXPECT_EQ(log, "gone");
+  EXPECT_EQ(test.frames(), "");
+}
+
+TEST_F(PointerTest, aHandlerMayDestroyItsHost) {
+  test.show(Button("a", [this] { test.host.reset(); }).style(MarkingStyle{}));
+  test.click({20, 10});
+  EXPECT_FALSE(test.host);
+}
+
+TEST_F(PointerTest, aHoverOrAppearanceHandlerMayDestroyItsHost) {
+  test.show(button("a").onHover([this](bool) { test.host.reset(); }));
+  test.host->pointerMoved({20, 10});
+  EXPECT_FALSE(test.host);
+
+  TestHost other;
+  other.host->setRoot(
+      [&](const Environment&) { return Text("a").onAppear([&] { other.host.reset(); }); });
+  other.host->layoutIfNeeded();
+  EXPECT_FALSE(other.host);
+}
+
+TEST_F(PointerTest, scrollingStopsAtBothEnds) {
+  test.host->setSize({30, 10});
+  test.show(ScrollView(HStack(0, {Text("aaaaaa").onTap([this] { log += "a"; }),
+                                  Text("bbbbbb").onTap([this] { log += "b"; })}))
+                .font(Font::system(10)));
+  EXPECT_EQ(test.element("aaaaaa")->frame.x, 0);
+  EXPECT_FALSE(test.host->scroll({5, 5}, -4, 0));
+  EXPECT_TRUE(test.host->scroll({5, 5}, 20, 0));
+  EXPECT_EQ(test.element("aaaaaa")->frame.x, -20);
+  test.click({15, 5});
+  EXPECT_EQ(log, "b") << "hits follow the offset";
+  EXPECT_TRUE(test.host->scroll({5, 5}, 0, 100)) << "a wheel that turns only one way";
+  EXPECT_EQ(test.element("aaaaaa")->frame.x, -30);
+  EXPECT_FALSE(test.host->scroll({5, 5}, 1, 0));
+  EXPECT_FALSE(test.host->scroll({5, 50}, -5, 0)) << "not over the view";
+}
+
+TEST_F(PointerTest, whatIsScrolledOutOfSightCannotBeHit) {
+  test.host->setSize({60, 10});
+  test.show(ScrollView(HStack(0, {Text("aaaaaa"), Text("bbbbbb").onTap([this] { log += "b"; })}))
+                .frame(30, 10, Alignment::leading())
+                .font(Font::system(10)));
+  // The scroll view covers 15 to 45; the second text begins there.
+  test.click({50, 5});
+  EXPECT_EQ(log, "");
+}
+
+TEST_F(PointerTest, theScrollOffsetOutlivesARedrawAndFollowsItsContent) {
+  std::string text = "aaaaaaaaaaaa";
+  test.host->setSize({30, 10});
+  test.show([&](const Environment&) { return ScrollView(Text(text)).font(Font::system(10)); });
+  test.host->scroll({5, 5}, 25, 0);
+  update();
+  EXPECT_EQ(test.element(text)->frame.x, -25);
+  text = "aaaaaaaa";
+  update();
+  EXPECT_EQ(test.element(text)->frame.x, -10);
+}
+
+TEST_F(PointerTest, aDragBeginsAfterAFewPointsAndClicksNothing) {
+  test.show(Rectangle().frame(40, 20).dragSource([] { return DragItem{"file:///app", "icon"}; }));
+  EXPECT_FALSE(test.host->movesWindowAt({20, 10}));
+  EXPECT_TRUE(test.host->pointerDown({20, 10}));
+  test.host->pointerDragged({22, 10});
+  EXPECT_TRUE(test.drags.empty());
+  test.host->pointerDragged({24, 10});
+  test.host->pointerDragged({30, 10});
+  ASSERT_EQ(test.drags.size(), 1U);
+  EXPECT_EQ(test.drags[0].fileUrl, "file:///app");
+  EXPECT_EQ(test.drags[0].imageName, "icon");
+  EXPECT_EQ(test.drags[0].frame, (Rect{0, 0, 40, 20}));
+}
+
+TEST_F(PointerTest, aDragSourceWithoutAnItemStartsNothing) {
+  test.show(Rectangle().dragSource([] { return std::nullopt; }));
+  test.host->pointerDown({20, 10});
+  test.host->pointerDragged({35, 10});
+  EXPECT_TRUE(test.drags.empty());
+  EXPECT_TRUE(test.host->pointerUp({35, 10}));
+}
+
+TEST_F(PointerTest, theWindowMovesWhereNoViewTakesThePress) {
+  test.host->setSize({100, 20});
+  test.show(HStack(0, {Text("title"), button("a")}));
+  EXPECT_TRUE(test.host->movesWindowAt({5, 10}));
+  EXPECT_FALSE(test.host->pointerDown({5, 10}));
+  const Rect frame = test.element("a")->frame;
+  EXPECT_FALSE(test.host->movesWindowAt(frame.center()));
+}
+
+TEST_F(PointerTest, tooltipsBelongToTheirView) {
+  test.host->setSize({100, 20});
+  test.show(Rectangle().frame(40, 20).tooltip("Settings"));
+  EXPECT_FALSE(test.host->tooltipAt({10, 10}));
+  const std::optional<Tooltip> tooltip = test.host->tooltipAt({50, 10});
+  ASSERT_TRUE(tooltip);
+  EXPECT_EQ(tooltip->text, "Settings");
+  EXPECT_EQ(tooltip->frame, (Rect{30, 0, 40, 20}));
+}
+
+}  // namespace
+}  // namespace orvane::ui

@@ -1,0 +1,95 @@
+// The semantics tree, and what can be done through it.
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ScrollView.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+#include "tests/ui/TestHost.hpp"
+
+namespace orvane::ui {
+namespace {
+
+std::string described(const View& view) {
+  TestHost test;
+  test.show(view);
+  return describeSemantics(test.host->semantics());
+}
+
+TEST(SemanticsTest, textsAndButtonsAreElementsAndDecorationIsNot) {
+  EXPECT_EQ(described(VStack({Text("Title"), Symbol("lock"), Image("photo"), Capsule(),
+                              Button([] {}, HStack({Symbol("lock"), Text("Pin"), Text("Dock")}))})),
+            "group\n"
+            "  text \"Title\"\n"
+            "  button \"Pin, Dock\"\n");
+}
+
+TEST(SemanticsTest, modifiersCompleteWhatAViewSays) {
+  EXPECT_EQ(
+      described(HStack({Button([] {}, Symbol("xmark")).accessibilityLabel("Close"),
+                        Button("Card", [] {}).accessibilitySelected(true),
+                        Symbol("lock").accessibilityLabel("Locked").accessibilityRole(Role::image),
+                        Text("secret").accessibilityHidden(),
+                        HStack({Text("a"), Text("b")}).accessibilityLabel("Both"),
+                        Button("Pin", [] {}).accessibilityValue("on").disabled(true)})),
+      "group\n"
+      "  button \"Close\"\n"
+      "  button \"Card\" selected\n"
+      "  image \"Locked\"\n"
+      "  group \"Both\"\n"
+      "    text \"a\"\n"
+      "    text \"b\"\n"
+      "  button \"Pin\" = \"on\" disabled\n");
+}
+
+TEST(SemanticsTest, aTapMakesAButton) {
+  EXPECT_EQ(described(HStack({Text("Row"), Text("on")}).onTap([] {})),
+            "group\n  button \"Row, on\"\n");
+}
+
+TEST(SemanticsTest, aScrollAreaHoldsItsContent) {
+  EXPECT_EQ(described(ScrollView(Text("a"))), "group\n  scroll area\n    text \"a\"\n");
+}
+
+TEST(SemanticsTest, whatHasFadedOutIsNotThere) {
+  EXPECT_EQ(described(VStack({Text("a").opacity(0), Text("b").opacity(0.1)})),
+            "group\n  text \"b\"\n");
+}
+
+TEST(SemanticsTest, aPressRunsTheSameActionAsAClick) {
+  TestHost test;
+  int presses = 0;
+  bool isDisabled = false;
+  test.show(
+      [&](const Environment&) { return Button("Pin", [&] { ++presses; }).disabled(isDisabled); });
+  const std::uint64_t id = test.element("Pin")->id;
+  EXPECT_TRUE(test.host->perform(id, SemanticsAction::press));
+  EXPECT_EQ(presses, 1);
+  isDisabled = true;
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(test.element("Pin")->id, id) << "the id stays while the view stays";
+  EXPECT_FALSE(test.host->perform(id, SemanticsAction::press));
+  EXPECT_EQ(presses, 1);
+  EXPECT_FALSE(test.host->perform(999, SemanticsAction::press));
+}
+
+TEST(SemanticsTest, framesAreThoseOnScreen) {
+  TestHost test({100, 40});
+  test.show(Rectangle().frame(40, 20).accessibilityLabel("box").scale(2).offset(5, 0));
+  EXPECT_EQ(test.element("box")->frame, (Rect{15, 0, 80, 40}));
+}
+
+TEST(SemanticsTest, aViewCanDismissItsHostAndSpeak) {
+  TestHost test;
+  test.show([](const Environment& environment) {
+    return Button("Close", [environment] { environment.dismiss(); });
+  });
+  test.host->perform(test.element("Close")->id, SemanticsAction::press);
+  EXPECT_EQ(test.dismissals, 1);
+}
+
+}  // namespace
+}  // namespace orvane::ui

@@ -1,0 +1,57 @@
+// The font that can be computed in the head.
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/SyntheticTextMeasurer.hpp"
+
+namespace orvane::ui {
+namespace {
+
+constexpr double unlimited = std::numeric_limits<double>::infinity();
+
+std::string broken(const std::string& text, double width, int limit = 0) {
+  SyntheticTextMeasurer measurer;
+  std::string result;
+  for (const TextLine& line : measurer.layout(text, Font::system(10), width, limit).lines) {
+    result += line.text + "|";
+  }
+  return result;
+}
+
+TEST(SyntheticTextMeasurerTest, aLineIsHalfItsSizePerCharacterWide) {
+  SyntheticTextMeasurer measurer;
+  const TextLayout layout = measurer.layout("hello", Font::system(10), unlimited, 0);
+  EXPECT_EQ(layout.size(), (Size{25, 10}));
+  EXPECT_EQ(layout.ascent, 7.5);
+  EXPECT_EQ(measurer.layout("固定", Font::system(10), unlimited, 0).size(), (Size{20, 10}));
+}
+
+TEST(SyntheticTextMeasurerTest, breaksBetweenWordsAtEveryWidth) {
+  const std::string text = "aa bbb c";
+  const std::vector<std::pair<double, std::string>> expected{
+      {45, "aa bbb c|"},  {40, "aa bbb c|"},  {39, "aa bbb|c|"},   {30, "aa bbb|c|"},
+      {29, "aa|bbb c|"},  {25, "aa|bbb c|"},  {24, "aa|bbb|c|"},   {15, "aa|bbb|c|"},
+      {14, "aa|bb|b|c|"}, {10, "aa|bb|b|c|"}, {5, "a|a|b|b|b|c|"}, {0, "a|a|b|b|b|c|"}};
+  for (const auto& [width, lines] : expected) {
+    EXPECT_EQ(broken(text, width), lines) << width;
+  }
+}
+
+TEST(SyntheticTextMeasurerTest, chineseBreaksBetweenCharacters) {
+  EXPECT_EQ(broken("固定显示器", 25), "固定|显示|器|");
+}
+
+TEST(SyntheticTextMeasurerTest, aLimitCutsWithAnEllipsis) {
+  EXPECT_EQ(broken("hello", 25, 1), "hello|");
+  EXPECT_EQ(broken("hello", 24, 1), "hel…|");
+  EXPECT_EQ(broken("aa bbb c", 15, 2), "aa|bb…|");
+}
+
+TEST(SyntheticTextMeasurerTest, lineFeedsBreakAndEmptyTextHasOneLine) {
+  EXPECT_EQ(broken("a\nb", unlimited), "a|b|");
+  EXPECT_EQ(broken("", unlimited), "|");
+}
+
+}  // namespace
+}  // namespace orvane::ui

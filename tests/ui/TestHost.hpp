@@ -1,0 +1,122 @@
+// A host with the synthetic font and a platform that only takes notes.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "Orvane/ui/RecordingCanvas.hpp"
+#include "Orvane/ui/SyntheticTextMeasurer.hpp"
+#include "Orvane/ui/ViewHost.hpp"
+
+namespace orvane::ui {
+
+class TestHost {
+ public:
+  // Symbols are squares of the font's size; there is one image, "photo", of 40 by 20 points.
+  explicit TestHost(Size size = {200, 100}) {
+    HostPlatform platform;
+    platform.text = &text_;
+    platform.images.imageSize = [](const std::string& name) {
+      return name == "photo" ? std::optional<Size>({40, 20}) : std::nullopt;
+    };
+    platform.images.symbolSize = [](const std::string&, const Font& font) {
+      return std::optional<Size>({font.size, font.size});
+    };
+    platform.services.requestRedraw = [this] { ++redrawRequests; };
+    platform.services.requestFrames = [this] { ++frameRequests; };
+    platform.services.openMenu = [this](const MenuRequest& request) { menus.push_back(request); };
+    platform.services.beginDrag = [this](const DragRequest& request) { drags.push_back(request); };
+    platform.services.dismiss = [this] { ++dismissals; };
+    host = std::make_unique<ViewHost>(std::move(platform));
+    host->setSize(size);
+  }
+
+  void show(const View& view) {
+    show([view](const Environment&) { return view; });
+  }
+  void show(ViewHost::RootBuilder builder) {
+    host->setRoot(std::move(builder));
+    host->layoutIfNeeded();
+  }
+
+  // Moves time to the moment, in seconds.
+  void at(double seconds) { host->tick(seconds); }
+
+  void click(Point point) {
+    host->pointerMoved(point);
+    host->pointerDown(point);
+    host->layoutIfNeeded();
+    host->pointerUp(point);
+    if (host) {
+      host->layoutIfNeeded();
+    }
+  }
+  bool press(Key key, bool shift = false) {
+    KeyEvent event;
+    event.key = key;
+    event.modifiers.shift = shift;
+    const bool isHandled = host->keyDown(event);
+    if (host) {
+      host->layoutIfNeeded();
+    }
+    return isHandled;
+  }
+
+  // Every text with its frame, in the order of the tree: "a(0 0 5 10) b(5 0 5 10)".
+  std::string frames() const {
+    std::string result;
+    appendFrames(host->semantics(), result);
+    return result;
+  }
+  std::string drawing() const {
+    RecordingCanvas canvas;
+    host->paint(canvas, {0, 0, host->size().width, host->size().height});
+    return canvas.text();
+  }
+  // The element with the label, searched in the order of the tree.
+  std::optional<SemanticsNode> element(const std::string& label) const {
+    return find(host->semantics(), label);
+  }
+
+  std::unique_ptr<ViewHost> host;
+  int redrawRequests = 0;
+  int frameRequests = 0;
+  int dismissals = 0;
+  std::vector<MenuRequest> menus;
+  std::vector<DragRequest> drags;
+
+ private:
+  static std::string number(double value) {
+    char buffer[32];
+    std::snprintf(buffer, sizeof buffer, "%g", value);
+    return buffer;
+  }
+
+  static void appendFrames(const SemanticsNode& node, std::string& result) {
+    if (node.role == Role::staticText) {
+      result += (result.empty() ? "" : " ") + node.label + "(" + number(node.frame.x) + " " +
+                number(node.frame.y) + " " + number(node.frame.width) + " " +
+                number(node.frame.height) + ")";
+    }
+    for (const SemanticsNode& child : node.children) {
+      appendFrames(child, result);
+    }
+  }
+
+  static std::optional<SemanticsNode> find(const SemanticsNode& node, const std::string& label) {
+    if (node.label == label) {
+      return node;
+    }
+    for (const SemanticsNode& child : node.children) {
+      if (auto found = find(child, label)) {
+        return found;
+      }
+    }
+    return std::nullopt;
+  }
+
+  SyntheticTextMeasurer text_;
+};
+
+}  // namespace orvane::ui

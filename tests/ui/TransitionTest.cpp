@@ -1,0 +1,129 @@
+// Views that come and go.
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+#include "tests/ui/TestHost.hpp"
+
+namespace orvane::ui {
+namespace {
+
+class TransitionTest : public testing::Test {
+ protected:
+  void showWith(const Transition& transition) {
+    test.show([this, transition](const Environment&) -> View {
+      return ZStack({when(isShown, Text("a").font(Font::system(10)).transition(transition))})
+          .animation(Curve::linear(1), isShown);
+    });
+  }
+  void setShown(bool shown) {
+    isShown = shown;
+    test.host->invalidate();
+    test.host->layoutIfNeeded();
+  }
+  bool draws(const std::string& text) { return test.drawing().find(text) != std::string::npos; }
+
+  TestHost test{{100, 50}};
+  bool isShown = true;
+};
+
+TEST_F(TransitionTest, theFirstPresentationComesWithoutOne) {
+  showWith(Transition::opacity());
+  EXPECT_FALSE(test.host->nextFrameWanted());
+  EXPECT_FALSE(draws("layer"));
+  EXPECT_TRUE(draws("text \"a\""));
+}
+
+TEST_F(TransitionTest, aViewFadesOutAndIsThenGone) {
+  showWith(Transition::opacity());
+  setShown(false);
+  test.at(0.25);
+  EXPECT_TRUE(draws("opacity 0.75"));
+  EXPECT_FALSE(test.element("a")) << "nobody can press what is leaving";
+  test.at(1);
+  EXPECT_FALSE(draws("text \"a\""));
+  EXPECT_FALSE(test.host->nextFrameWanted());
+}
+
+TEST_F(TransitionTest, aViewFadesIn) {
+  isShown = false;
+  showWith(Transition::opacity());
+  setShown(true);
+  EXPECT_FALSE(draws("text \"a\""));
+  test.at(0.25);
+  EXPECT_TRUE(draws("opacity 0.25"));
+  test.at(1);
+  EXPECT_FALSE(draws("layer"));
+}
+
+TEST_F(TransitionTest, aViewThatComesBackTurnsRoundWhereItIs) {
+  showWith(Transition::opacity());
+  setShown(false);
+  test.at(0.25);
+  setShown(true);
+  EXPECT_TRUE(draws("opacity 0.75"));
+  const std::string drawing = test.drawing();
+  EXPECT_EQ(drawing.find("text \"a\""), drawing.rfind("text \"a\"")) << "it is one view, not two";
+  test.at(2);
+  EXPECT_TRUE(draws("text \"a\""));
+  EXPECT_FALSE(draws("layer"));
+}
+
+TEST_F(TransitionTest, scaleAndMoveCombine) {
+  isShown = false;
+  showWith(Transition::move(Edge::trailing).combined(Transition::scale(0.5)));
+  setShown(true);
+  test.at(0.5);
+  // Half way: three quarters of the size, and half of its width of 5 to the right. The 5 by 10 text
+  // stands at 0, 0 in its own transition node; its middle at 2.5, 5 stays the middle of the scale.
+  EXPECT_EQ(test.element("a")->frame, (Rect{47.5 + 2.5 - 1.875 + 2.5, 20 + 5 - 3.75, 3.75, 7.5}));
+}
+
+TEST_F(TransitionTest, withoutAnAnimationAViewComesAndGoesAtOnce) {
+  test.show([&](const Environment&) -> View {
+    return ZStack({when(isShown, Text("a").transition(Transition::opacity()))});
+  });
+  setShown(false);
+  EXPECT_FALSE(draws("text \"a\""));
+  EXPECT_FALSE(test.host->nextFrameWanted());
+}
+
+TEST_F(TransitionTest, aTransitionMayBringItsOwnCurve) {
+  test.show([&](const Environment&) -> View {
+    return ZStack(
+        {when(isShown, Text("a").transition(Transition::opacity().animated(Curve::linear(2))))});
+  });
+  setShown(false);
+  test.at(1);
+  EXPECT_TRUE(draws("opacity 0.5"));
+}
+
+TEST_F(TransitionTest, aLeavingLayerStaysWhereItWas) {
+  test.show([&](const Environment&) -> View {
+    const View badge = Text("a").font(Font::system(10)).transition(Transition::opacity());
+    return Spacer()
+        .overlay(when(isShown, badge), Alignment::topTrailing())
+        .animation(Curve::linear(1), isShown);
+  });
+  setShown(false);
+  test.at(0.5);
+  EXPECT_TRUE(draws("at 95 7.5")) << test.drawing();
+}
+
+TEST_F(TransitionTest, aLeavingButtonTakesNoClick) {
+  int clicks = 0;
+  test.show([&](const Environment&) -> View {
+    return ZStack({when(isShown, Button("a", [&] { ++clicks; }).transition(Transition::opacity()))})
+        .animation(Curve::linear(1), isShown);
+  });
+  test.click({50, 25});
+  EXPECT_EQ(clicks, 1);
+  setShown(false);
+  test.at(0.5);
+  test.click({50, 25});
+  EXPECT_EQ(clicks, 1);
+}
+
+}  // namespace
+}  // namespace orvane::ui
