@@ -1,0 +1,20 @@
+// What the application relies on when it asks for the Accessibility permission.
+#include "tests/contract/Arrange.hpp"
+#include "tests/contract/ContractFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using AccessibilityTrustContract = ContractFixture;
+
+TEST_F(AccessibilityTrustContract, ThePermissionIsReadAfreshEachTime) {
+  ORVANE_ARRANGE(setTrusted(false));
+  EXPECT_FALSE(AXIsProcessTrusted());
+  ORVANE_ARRANGE(setTrusted(true));
+  EXPECT_TRUE(AXIsProcessTrusted());
+  ORVANE_ARRANGE(setTrusted(false));
+  EXPECT_FALSE(AXIsProcessTrusted());
+}
+
+}  // namespace
+}  // namespace orvane

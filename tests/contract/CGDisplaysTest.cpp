@@ -1,0 +1,32 @@
+// What the application relies on when it asks Core Graphics about displays.
+#include "Orvane/base/CFRef.hpp"
+#include "tests/contract/Arrange.hpp"
+#include "tests/contract/ContractFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using CGDisplaysContract = ContractFixture;
+
+TEST_F(CGDisplaysContract, TellsTheMainAndTheBuiltInDisplay) {
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  EXPECT_TRUE(CGDisplayIsMain(1));
+  EXPECT_FALSE(CGDisplayIsMain(2));
+  EXPECT_TRUE(CGDisplayIsBuiltin(1));
+  EXPECT_FALSE(CGDisplayIsBuiltin(2));
+}
+
+TEST_F(CGDisplaysContract, ADisplayWithoutAUUIDHasNone) {
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  EXPECT_FALSE(CFRef<CFUUIDRef>::owning(CGDisplayCreateUUIDFromDisplayID(2)));
+}
+
+TEST_F(CGDisplaysContract, ANumberThatIsNoDisplayIsNothingSpecial) {
+  constexpr CGDirectDisplayID noDisplay = 0x7FFF1234;
+  EXPECT_FALSE(CGDisplayIsMain(noDisplay));
+  EXPECT_FALSE(CGDisplayIsBuiltin(noDisplay));
+  EXPECT_FALSE(CFRef<CFUUIDRef>::owning(CGDisplayCreateUUIDFromDisplayID(noDisplay)));
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,150 @@
+// What the application relies on in event taps, their ports and their run-loop sources.
+#include <vector>
+
+#include "Orvane/base/CFRef.hpp"
+#include "tests/contract/Arrange.hpp"
+#include "tests/contract/ContractFixture.hpp"
+
+namespace orvane {
+namespace {
+
+struct Seen {
+  CGEventType type;
+  CGPoint location;
+  CGEventFlags flags;
+};
+
+class CGEventTapContract : public ContractFixture {
+ protected:
+  ~CGEventTapContract() override { endTap(); }
+
+  static CGEventRef callback(CGEventTapProxy, CGEventType type, CGEventRef event, void* userInfo) {
+    auto& self = *static_cast<CGEventTapContract*>(userInfo);
+    self.seen.push_back({type, CGEventGetLocation(event), CGEventGetFlags(event)});
+    if (type == kCGEventMouseMoved && self.dy != 0) {
+      CGPoint location = CGEventGetLocation(event);
+      location.y += self.dy;
+      CGEventSetLocation(event, location);
+    }
+    return event;
+  }
+  [[nodiscard]] CFRef<CFMachPortRef> makeTap() {
+    return CFRef<CFMachPortRef>::owning(
+        CGEventTapCreate(kCGSessionEventTap, kCGTailAppendEventTap, kCGEventTapOptionDefault,
+                         CGEventMask{1} << kCGEventMouseMoved, callback, this));
+  }
+  bool beginTap() {
+    port = makeTap();
+    if (!port) {
+      return false;
+    }
+    source = CFRef<CFRunLoopSourceRef>::owning(
+        CFMachPortCreateRunLoopSource(kCFAllocatorDefault, port.get(), 0));
+    CFRunLoopAddSource(CFRunLoopGetCurrent(), source.get(), kCFRunLoopCommonModes);
+    CGEventTapEnable(port.get(), true);
+    return true;
+  }
+  void endTap() {
+    if (port) {
+      CGEventTapEnable(port.get(), false);
+      CFRunLoopRemoveSource(CFRunLoopGetCurrent(), source.get(), kCFRunLoopCommonModes);
+      CFMachPortInvalidate(port.get());
+    }
+    source.reset();
+    port.reset();
+  }
+
+  CFRef<CFMachPortRef> port;
+  CFRef<CFRunLoopSourceRef> source;
+  std::vector<Seen> seen;
+  double dy = 0;
+};
+
+TEST_F(CGEventTapContract, WithoutThePermissionThereIsNone) {
+  ORVANE_ARRANGE(setTrusted(false));
+  EXPECT_FALSE(makeTap());
+}
+
+TEST_F(CGEventTapContract, ATapCanBeMadeEnabledAndTakenDownAgainAndAgain) {
+  ORVANE_ARRANGE(setTrusted(true));
+  for (int time = 0; time < 3; ++time) {
+    ASSERT_TRUE(beginTap());
+    EXPECT_TRUE(CGEventTapIsEnabled(port.get()));
+    CGEventTapEnable(port.get(), false);
+    EXPECT_FALSE(CGEventTapIsEnabled(port.get()));
+    endTap();
+  }
+}
+
+TEST_F(CGEventTapContract, AMovementIsAnEventWithItsPlaceAndTheHeldKeys) {
+  ORVANE_ARRANGE(setTrusted(true));
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  ASSERT_TRUE(beginTap());
+  ORVANE_ARRANGE(holdModifiers(kCGEventFlagMaskAlternate | kCGEventFlagMaskShift));
+  ORVANE_ARRANGE(movePointer(CGPointMake(300, 200)));
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_EQ(seen[0].type, kCGEventMouseMoved);
+  EXPECT_EQ(seen[0].location.x, 300);
+  EXPECT_EQ(seen[0].location.y, 200);
+  EXPECT_TRUE(seen[0].flags & kCGEventFlagMaskAlternate);
+  EXPECT_TRUE(seen[0].flags & kCGEventFlagMaskShift);
+  EXPECT_FALSE(seen[0].flags & kCGEventFlagMaskCommand);
+}
+
+TEST_F(CGEventTapContract, WhereTheCallbackPutsTheEventTheNextMovementBegins) {
+  ORVANE_ARRANGE(setTrusted(true));
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  ASSERT_TRUE(beginTap());
+  dy = -12;
+  ORVANE_ARRANGE(movePointer(CGPointMake(300, 799)));
+  dy = 0;
+  // From (300, 787) this goal can be reached; the pointer was not left at the edge.
+  ORVANE_ARRANGE(movePointer(CGPointMake(300, 790)));
+  ASSERT_EQ(seen.size(), 2U);
+  EXPECT_EQ(seen[0].location.y, 799);
+  EXPECT_EQ(seen[1].location.y, 790);
+}
+
+TEST_F(CGEventTapContract, ADisabledTapHearsNothing) {
+  ORVANE_ARRANGE(setTrusted(true));
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  ASSERT_TRUE(beginTap());
+  CGEventTapEnable(port.get(), false);
+  ORVANE_ARRANGE(movePointer(CGPointMake(300, 200)));
+  EXPECT_TRUE(seen.empty());
+  CGEventTapEnable(port.get(), true);
+  ORVANE_ARRANGE(movePointer(CGPointMake(310, 200)));
+  EXPECT_EQ(seen.size(), 1U);
+}
+
+TEST_F(CGEventTapContract, ARemovedSourceOrAnInvalidPortHearsNothing) {
+  ORVANE_ARRANGE(setTrusted(true));
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  ASSERT_TRUE(beginTap());
+  CFRunLoopRemoveSource(CFRunLoopGetCurrent(), source.get(), kCFRunLoopCommonModes);
+  ORVANE_ARRANGE(movePointer(CGPointMake(300, 200)));
+  EXPECT_TRUE(seen.empty());
+  CFMachPortInvalidate(port.get());
+  ORVANE_ARRANGE(movePointer(CGPointMake(310, 200)));
+  EXPECT_TRUE(seen.empty());
+}
+
+TEST_F(CGEventTapContract, ATapThatTheSystemDisablesIsToldAndCanBeEnabledAgain) {
+  ORVANE_ARRANGE(setTrusted(true));
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  for (const CGEventType reason : {kCGEventTapDisabledByTimeout, kCGEventTapDisabledByUserInput}) {
+    ASSERT_TRUE(beginTap());
+    seen.clear();
+    ORVANE_ARRANGE(disableTaps(reason));
+    ASSERT_EQ(seen.size(), 1U);
+    EXPECT_EQ(seen[0].type, reason);
+    EXPECT_FALSE(CGEventTapIsEnabled(port.get()));
+    CGEventTapEnable(port.get(), true);
+    ORVANE_ARRANGE(movePointer(CGPointMake(300, 200)));
+    EXPECT_EQ(seen.size(), 2U);
+    endTap();
+  }
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,70 @@
+// What the application relies on in the screen list.
+#include "Orvane/platform/appkit/Screen.hpp"
+#include "tests/contract/Arrange.hpp"
+#include "tests/contract/ContractFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using appkit::Screen;
+using ScreenContract = ContractFixture;
+
+TEST_F(ScreenContract, EveryScreenHasAFrameAndAVisiblePartOfIt) {
+  for (const Screen& screen : Screen::screens()) {
+    const CGRect frame = screen.frame();
+    const CGRect visible = screen.visibleFrame();
+    EXPECT_GT(CGRectGetWidth(frame), 0);
+    EXPECT_GT(CGRectGetHeight(frame), 0);
+    EXPECT_GE(CGRectGetMinX(visible), CGRectGetMinX(frame));
+    EXPECT_GE(CGRectGetMinY(visible), CGRectGetMinY(frame));
+    EXPECT_LE(CGRectGetMaxX(visible), CGRectGetMaxX(frame));
+    EXPECT_LE(CGRectGetMaxY(visible), CGRectGetMaxY(frame));
+  }
+}
+
+TEST_F(ScreenContract, TheFirstScreensLowerLeftCornerIsTheOrigin) {
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  const auto screens = Screen::screens();
+  ASSERT_EQ(screens.size(), 2U);
+  EXPECT_TRUE(CGRectEqualToRect(screens[0].frame(), CGRectMake(0, 0, 1000, 800)));
+  EXPECT_TRUE(CGRectEqualToRect(screens[1].frame(), CGRectMake(1000, 0, 1000, 800)));
+}
+
+TEST_F(ScreenContract, ScreensTellTheirNamesAndDeviceDescriptions) {
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  const auto screens = Screen::screens();
+  EXPECT_EQ(screens[0].localizedName(), "Left");
+  EXPECT_EQ(screens[1].localizedName(), "Right");
+  EXPECT_EQ(screens[0].deviceNumber("NSScreenNumber"), 1);
+  EXPECT_EQ(screens[1].deviceNumber("NSScreenNumber"), 2);
+  EXPECT_EQ(screens[0].deviceNumber("NSDeviceBitsPerSample"), 8);
+  EXPECT_EQ(screens[0].deviceString("NSDeviceColorSpaceName"), "NSCalibratedRGBColorSpace");
+}
+
+TEST_F(ScreenContract, AnEntryThatIsMissingOrOfAnotherTypeIsNone) {
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  const Screen screen = Screen::screens().front();
+  EXPECT_EQ(screen.deviceNumber("NoSuchEntry"), std::nullopt);
+  EXPECT_EQ(screen.deviceString("NoSuchEntry"), std::nullopt);
+  EXPECT_EQ(screen.deviceNumber("NSDeviceColorSpaceName"), std::nullopt);
+  EXPECT_EQ(screen.deviceString("NSScreenNumber"), std::nullopt);
+}
+
+TEST_F(ScreenContract, AScreenKeepsDescribingWhatItWas) {
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  const auto before = Screen::screens();
+  ORVANE_ARRANGE(changeDisplays());
+  EXPECT_EQ(Screen::screens().size(), 3U);
+  ASSERT_EQ(before.size(), 2U);
+  EXPECT_EQ(before[1].localizedName(), "Right");
+}
+
+TEST_F(ScreenContract, TheMainScreenIsOneOfTheList) {
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  const auto main = Screen::mainScreen();
+  ASSERT_TRUE(main);
+  EXPECT_EQ(main->deviceNumber("NSScreenNumber"), 1);
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,99 @@
+// What the application relies on in timers.
+#include <optional>
+#include <utility>
+
+#include "Orvane/platform/appkit/Timer.hpp"
+#include "tests/contract/Arrange.hpp"
+#include "tests/contract/ContractFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using appkit::RunLoopMode;
+using appkit::Timer;
+
+class TimerContract : public ContractFixture {
+ protected:
+  [[nodiscard]] Timer counting(double interval, RunLoopMode mode = RunLoopMode::standard) {
+    return Timer::repeating(interval, mode, [this] { ++ticks; });
+  }
+
+  int ticks = 0;
+};
+
+TEST_F(TimerContract, FiresFirstAfterOneIntervalAndThenAgainAndAgain) {
+  const Timer timer = counting(0.1);
+  EXPECT_TRUE(timer.isValid());
+  letTimePass(0.05);
+  EXPECT_EQ(ticks, 0);
+  letTimePass(0.1);
+  EXPECT_EQ(ticks, 1);
+  letTimePass(0.1);
+  EXPECT_EQ(ticks, 2);
+}
+
+TEST_F(TimerContract, AnInvalidatedTimerFiresNoMore) {
+  Timer timer = counting(0.05);
+  timer.invalidate();
+  timer.invalidate();
+  EXPECT_FALSE(timer.isValid());
+  letTimePass(0.2);
+  EXPECT_EQ(ticks, 0);
+}
+
+TEST_F(TimerContract, ADestroyedTimerFiresNoMore) {
+  { const Timer timer = counting(0.05); }
+  letTimePass(0.2);
+  EXPECT_EQ(ticks, 0);
+}
+
+TEST_F(TimerContract, AMovedTimerGoesOn) {
+  Timer timer = counting(0.05);
+  const Timer moved = std::move(timer);
+  letTimePass(0.08);
+  EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(TimerContract, AnAssignedTimerReplacesTheOldOne) {
+  int others = 0;
+  Timer timer = counting(0.05);
+  timer = Timer::repeating(0.05, RunLoopMode::standard, [&others] { ++others; });
+  letTimePass(0.08);
+  EXPECT_EQ(ticks, 0);
+  EXPECT_EQ(others, 1);
+}
+
+TEST_F(TimerContract, ATickMayEndItsOwnTimer) {
+  std::optional<Timer> timer;
+  timer = Timer::repeating(0.05, RunLoopMode::standard, [this, &timer] {
+    timer->invalidate();
+    ++ticks;
+  });
+  letTimePass(0.2);
+  EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(TimerContract, ATickMayDestroyItsOwnTimer) {
+  std::optional<Timer> timer;
+  timer = Timer::repeating(0.05, RunLoopMode::standard, [this, &timer] {
+    timer.reset();
+    ++ticks;
+  });
+  letTimePass(0.2);
+  EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(TimerContract, WhileAMenuIsOpenOnlyCommonTimersFire) {
+  int commonTicks = 0;
+  const Timer standard = counting(0.1);
+  const Timer common =
+      Timer::repeating(0.1, RunLoopMode::common, [&commonTicks] { ++commonTicks; });
+  ORVANE_ARRANGE(letTimePassWithMenuOpen(0.35));
+  EXPECT_EQ(commonTicks, 3);
+  EXPECT_EQ(ticks, 0);
+  letTimePass(0.01);
+  EXPECT_EQ(ticks, 1);
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,55 @@
+// What the application relies on in its user defaults.
+#include "Orvane/platform/appkit/UserDefaults.hpp"
+#include "tests/contract/Arrange.hpp"
+#include "tests/contract/ContractFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using appkit::UserDefaults;
+
+class UserDefaultsContract : public ContractFixture {
+ protected:
+  static constexpr const char* key = "contract.key";
+  UserDefaultsContract() { UserDefaults::remove(key); }
+  ~UserDefaultsContract() override { UserDefaults::remove(key); }
+};
+
+TEST_F(UserDefaultsContract, AnAbsentValueIsNone) {
+  EXPECT_EQ(UserDefaults::string(key), std::nullopt);
+  EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
+}
+
+TEST_F(UserDefaultsContract, AWrittenTextIsReadBackAtOnce) {
+  UserDefaults::setString(key, "\xE5\xB7\xA6 left");
+  EXPECT_EQ(UserDefaults::string(key), "\xE5\xB7\xA6 left");
+  UserDefaults::setString(key, "");
+  EXPECT_EQ(UserDefaults::string(key), "");
+}
+
+TEST_F(UserDefaultsContract, AWrittenTruthIsReadBackAtOnce) {
+  UserDefaults::setBoolean(key, true);
+  EXPECT_EQ(UserDefaults::boolean(key), true);
+  UserDefaults::setBoolean(key, false);
+  EXPECT_EQ(UserDefaults::boolean(key), false);
+}
+
+TEST_F(UserDefaultsContract, AValueOfAnotherTypeIsNone) {
+  UserDefaults::setString(key, "true");
+  EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
+  UserDefaults::setBoolean(key, true);
+  EXPECT_EQ(UserDefaults::string(key), std::nullopt);
+  ORVANE_ARRANGE(storeNumberInUserDefaults(key, 1));
+  EXPECT_EQ(UserDefaults::string(key), std::nullopt);
+  EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
+}
+
+TEST_F(UserDefaultsContract, ARemovedValueIsGone) {
+  UserDefaults::setString(key, "left");
+  UserDefaults::remove(key);
+  UserDefaults::remove(key);
+  EXPECT_EQ(UserDefaults::string(key), std::nullopt);
+}
+
+}  // namespace
+}  // namespace orvane

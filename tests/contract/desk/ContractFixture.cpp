@@ -1,0 +1,123 @@
+// The simulated Mac can be arranged in every way.
+#include "tests/contract/ContractFixture.hpp"
+
+#include "desk/machine/MachineScope.hpp"
+
+namespace orvane {
+
+struct ContractFixture::Platform {
+  desk::MachineScope scope;
+};
+
+ContractFixture::ContractFixture() : platform_(std::make_unique<Platform>()) {
+  platform_->scope->process.start();
+}
+
+ContractFixture::~ContractFixture() {
+  const desk::MachineEnd end = platform_->scope.end();
+  for (const std::string& object : end.leftObjects) {
+    ADD_FAILURE() << "not released: " << object;
+  }
+  for (const std::string& fault : end.faults) {
+    ADD_FAILURE() << "fault: " << fault;
+  }
+}
+
+void ContractFixture::letTimePass(double seconds) {
+  platform_->scope->advance(seconds);
+}
+
+bool ContractFixture::letTimePassWithMenuOpen(double seconds) {
+  desk::RunLoop& runLoop = platform_->scope->runLoop;
+  runLoop.enterMode(desk::RunLoop::Mode::eventTracking);
+  platform_->scope->advance(seconds);
+  runLoop.leaveMode();
+  return true;
+}
+
+bool ContractFixture::arrangeTwoDisplays() {
+  desk::Display left;
+  left.number = 1;
+  left.uuid = leftUUID;
+  left.name = "Left";
+  left.frame = CGRectMake(0, 0, 1000, 800);
+  left.isBuiltIn = true;
+  desk::Display right;
+  right.number = 2;
+  right.name = "Right";
+  right.frame = CGRectMake(1000, 0, 1000, 800);
+  desk::Displays& displays = platform_->scope->displays;
+  return !displays.attach(left, true) && !displays.attach(right);
+}
+
+bool ContractFixture::changeDisplays() {
+  desk::Display display;
+  display.number = 99;
+  display.frame = CGRectMake(-500, 0, 500, 500);
+  desk::Displays& displays = platform_->scope->displays;
+  return displays.find(99) == nullptr ? !displays.attach(display) : !displays.detach(99);
+}
+
+bool ContractFixture::setTrusted(bool isTrusted) {
+  platform_->scope->permission.setTrusted(isTrusted);
+  return true;
+}
+
+bool ContractFixture::movePointer(CGPoint goal) {
+  platform_->scope->mouse.moveTo(goal);
+  return true;
+}
+
+bool ContractFixture::holdModifiers(std::uint64_t flags) {
+  platform_->scope->modifierKeys.hold(flags);
+  return true;
+}
+
+bool ContractFixture::disableTaps(CGEventType reason) {
+  desk::Machine& machine = platform_->scope.machine();
+  machine.eventTaps.disableAll(reason, machine.pointer.place());
+  return true;
+}
+
+bool ContractFixture::storePreference(const std::string& application, const std::string& key,
+                                      const std::string& text) {
+  platform_->scope->preferences.set({application}, key, text);
+  return true;
+}
+
+bool ContractFixture::storePreference(const std::string& application, const std::string& key,
+                                      double number) {
+  platform_->scope->preferences.set({application}, key, number);
+  return true;
+}
+
+bool ContractFixture::setLocale(const std::vector<std::string>& preferred,
+                                const std::string& current) {
+  platform_->scope->locale = {preferred, current};
+  return true;
+}
+
+bool ContractFixture::failLoginItem(const std::string& text) {
+  platform_->scope->loginItem.error = text;
+  return true;
+}
+
+bool ContractFixture::canOpenLinks() const {
+  return true;
+}
+
+bool ContractFixture::refuseLinks(const std::string& prefix) {
+  platform_->scope->links.refuse(prefix);
+  return true;
+}
+
+bool ContractFixture::storeNumberInUserDefaults(const std::string& key, double number) {
+  platform_->scope->userDefaults.set(key, number);
+  return true;
+}
+
+bool ContractFixture::canRegisterLoginItem() const {
+  return true;
+}
+
+}  // namespace orvane

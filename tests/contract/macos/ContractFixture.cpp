@@ -1,0 +1,80 @@
+// A real Mac is taken as it is: time passes on its main run loop, and hardly anything else can be
+// arranged without disturbing its user.
+#include "tests/contract/ContractFixture.hpp"
+
+namespace orvane {
+
+struct ContractFixture::Platform {};
+
+ContractFixture::ContractFixture() = default;
+ContractFixture::~ContractFixture() = default;
+
+void ContractFixture::letTimePass(double seconds) {
+  const CFAbsoluteTime end = CFAbsoluteTimeGetCurrent() + seconds;
+  do {
+    // The call returns early when there is nothing to wait for.
+    CFRunLoopRunInMode(kCFRunLoopDefaultMode, 0.005, false);
+  } while (CFAbsoluteTimeGetCurrent() < end);
+}
+
+bool ContractFixture::letTimePassWithMenuOpen(double) {
+  return false;
+}
+
+bool ContractFixture::arrangeTwoDisplays() {
+  return false;
+}
+
+bool ContractFixture::changeDisplays() {
+  return false;
+}
+
+bool ContractFixture::setTrusted(bool isTrusted) {
+  return (AXIsProcessTrusted() != 0) == isTrusted;
+}
+
+bool ContractFixture::movePointer(CGPoint) {
+  return false;
+}
+
+bool ContractFixture::holdModifiers(std::uint64_t) {
+  return false;
+}
+
+bool ContractFixture::disableTaps(CGEventType) {
+  return false;
+}
+
+bool ContractFixture::storePreference(const std::string&, const std::string&, const std::string&) {
+  return false;
+}
+
+bool ContractFixture::storePreference(const std::string&, const std::string&, double) {
+  return false;
+}
+
+bool ContractFixture::setLocale(const std::vector<std::string>&, const std::string&) {
+  return false;
+}
+
+bool ContractFixture::failLoginItem(const std::string&) {
+  return false;
+}
+
+bool ContractFixture::canOpenLinks() const {
+  return false;
+}
+
+bool ContractFixture::refuseLinks(const std::string&) {
+  return false;
+}
+
+bool ContractFixture::storeNumberInUserDefaults(const std::string&, double) {
+  return false;
+}
+
+bool ContractFixture::canRegisterLoginItem() const {
+  return false;
+}
+
+}  // namespace orvane

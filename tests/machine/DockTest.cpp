@@ -1,0 +1,229 @@
+// The Dock follows the pointer, hides and comes up, and counts it.
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "desk/machine/Dock.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+class DockTest : public MachineFixture {
+ protected:
+  void attach(std::uint32_t number, CGRect frame, bool asMain = false) {
+    Display display;
+    display.number = number;
+    display.frame = frame;
+    ASSERT_FALSE(machine.displays.attach(display, asMain));
+  }
+  /// Two displays of 1000 by 800 side by side.
+  void attachPair() {
+    attach(1, {{0, 0}, {1000, 800}});
+    attach(2, {{1000, 0}, {1000, 800}});
+  }
+  void setEdge(PropertyValue value) {
+    machine.preferences.set({Dock::preferencesDomain}, Dock::orientationKey, std::move(value));
+  }
+  void setAutoHide(bool hides) {
+    machine.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
+  }
+  /// A movement from a place well inside the display.
+  void push(CGPoint from, double dx, double dy) {
+    machine.mouse.moveTo(from);
+    machine.mouse.moveBy(dx, dy);
+  }
+
+  Dock& dock = machine.dock;
+};
+
+TEST_F(DockTest, LivesNowhereWithoutADisplay) {
+  EXPECT_EQ(dock.displayNumber(), std::nullopt);
+  EXPECT_FALSE(dock.isVisible());
+  EXPECT_EQ(dock.frame().size.width, 0);
+}
+
+TEST_F(DockTest, LivesOnTheMainDisplayFromTheStartWithoutHavingComeUp) {
+  attachPair();
+  EXPECT_EQ(dock.displayNumber(), 1U);
+  EXPECT_TRUE(dock.isVisible());
+  EXPECT_EQ(dock.shownFraction(), 1);
+  EXPECT_TRUE(dock.reveals().empty());
+  EXPECT_TRUE(CGRectEqualToRect(dock.frame(), CGRectMake(200, 730, 600, 70)));
+}
+
+TEST_F(DockTest, FollowsThePointerThatPressesAgainstItsEdgeOfAnotherDisplay) {
+  attachPair();
+  push({1500, 780}, 0, 60);
+  EXPECT_EQ(dock.displayNumber(), 2U);
+  EXPECT_EQ(dock.revealCount(2), 1);
+  push({1500, 780}, 0, 60);
+  EXPECT_EQ(dock.revealCount(2), 1);
+  push({500, 780}, 0, 60);
+  EXPECT_EQ(dock.displayNumber(), 1U);
+  EXPECT_EQ(dock.revealCount(1), 1);
+}
+
+TEST_F(DockTest, TouchingTheEdgeOfAnotherDisplayWithoutPressingDoesNotSummonIt) {
+  attachPair();
+  machine.mouse.moveTo({1500, 799.5});
+  EXPECT_EQ(dock.displayNumber(), 1U);
+  machine.mouse.moveBy(0, 0.5);
+  EXPECT_EQ(dock.displayNumber(), 2U);
+}
+
+TEST_F(DockTest, LivesAtTheLeftAndAtTheRight) {
+  attach(1, {{0, 0}, {1000, 800}});
+  attach(2, {{0, 800}, {1000, 800}});
+  setEdge(std::string("left"));
+  EXPECT_EQ(dock.edge(), DockEdge::left);
+  push({500, -400}, -600, 0);
+  EXPECT_EQ(dock.displayNumber(), 2U);
+  EXPECT_TRUE(CGRectEqualToRect(dock.frame(), CGRectMake(0, -640, 70, 480)));
+  setEdge(std::string("right"));
+  push({500, 400}, 600, 0);
+  EXPECT_EQ(dock.displayNumber(), 1U);
+  EXPECT_TRUE(CGRectEqualToRect(dock.frame(), CGRectMake(930, 160, 70, 480)));
+}
+
+TEST_F(DockTest, WhateverElseIsStoredLeavesItAtTheBottom) {
+  for (const PropertyValue& value :
+       {PropertyValue(std::string("top")), PropertyValue(std::string("Left")), PropertyValue(7.0),
+        PropertyValue(true)}) {
+    setEdge(std::string("left"));
+    ASSERT_EQ(dock.edge(), DockEdge::left);
+    setEdge(value);
+    EXPECT_EQ(dock.edge(), DockEdge::bottom);
+  }
+  setEdge(std::string("left"));
+  machine.preferences.remove({Dock::preferencesDomain}, Dock::orientationKey);
+  EXPECT_EQ(dock.edge(), DockEdge::bottom);
+}
+
+TEST_F(DockTest, ANeighbourBehindTheEdgeKeepsItAway) {
+  // The second lies below the right half of the third, which is above both.
+  attach(1, {{0, 0}, {1000, 800}});
+  attach(3, {{500, 800}, {1000, 800}});
+  // At the left of x 1000 the first display lies behind; the pointer walks over to it.
+  push({700, -10}, 0, 5);
+  EXPECT_EQ(dock.displayNumber(), 1U);
+  machine.mouse.moveTo({1200, -10});
+  machine.mouse.moveBy(0, 60);
+  EXPECT_EQ(dock.displayNumber(), 3U);
+}
+
+TEST_F(DockTest, ANeighbourUpToTwoPointsAwayIsStillANeighbour) {
+  attach(1, {{0, 0}, {1000, 800}});
+  // Its lower edge is 1.5 points above the first display.
+  attach(2, {{0, 801.5}, {1000, 800}});
+  machine.mouse.moveTo({500, -400});
+  // The movement ends in the gap, so the pointer stays at the lower edge of the second.
+  machine.mouse.moveTo({500, -0.5});
+  EXPECT_EQ(machine.pointer.place().y, -2.5);
+  EXPECT_EQ(dock.displayNumber(), 1U);
+  ASSERT_FALSE(machine.displays.setFrame(2, {{0, 802.5}, {1000, 800}}));
+  machine.mouse.moveTo({500, -0.5});
+  EXPECT_EQ(dock.displayNumber(), 2U);
+}
+
+TEST_F(DockTest, AMirrorOfItsDisplayIsNotAnotherDisplay) {
+  attach(1, {{0, 0}, {1000, 800}});
+  attach(2, {{0, 0}, {1000, 800}});
+  push({500, 780}, 0, 60);
+  EXPECT_EQ(dock.displayNumber(), 1U);
+  EXPECT_TRUE(dock.reveals().empty());
+}
+
+TEST_F(DockTest, MovesToTheMainDisplayUncountedWhenItsOwnGoes) {
+  attachPair();
+  push({1500, 780}, 0, 60);
+  ASSERT_FALSE(machine.displays.detach(2));
+  EXPECT_EQ(dock.displayNumber(), 1U);
+  EXPECT_EQ(dock.revealCount(1), 0);
+  EXPECT_EQ(dock.revealCount(2), 1);
+  ASSERT_FALSE(machine.displays.detach(1));
+  EXPECT_EQ(dock.displayNumber(), std::nullopt);
+}
+
+TEST_F(DockTest, OnTheMainDisplayItFollowsThatRole) {
+  attachPair();
+  ASSERT_FALSE(machine.displays.setMain(2));
+  EXPECT_EQ(dock.displayNumber(), 2U);
+  push({500, 780}, 0, 60);
+  attach(3, {{2000, 0}, {1000, 800}}, true);
+  EXPECT_EQ(dock.displayNumber(), 1U);
+}
+
+TEST_F(DockTest, StaysOnADisplayWhoseNumberChanges) {
+  attachPair();
+  push({1500, 780}, 0, 60);
+  ASSERT_FALSE(machine.displays.renumber(2, 8));
+  EXPECT_EQ(dock.displayNumber(), 8U);
+  EXPECT_EQ(dock.revealCount(2), 1);
+}
+
+TEST_F(DockTest, HiddenItComesUpWhenItsEdgeIsTouchedAndHidesWhenItsAreaIsLeft) {
+  attachPair();
+  machine.mouse.moveTo({500, 400});
+  setAutoHide(true);
+  EXPECT_FALSE(dock.isVisible());
+  machine.mouse.moveTo({500, 798});
+  EXPECT_FALSE(dock.isVisible());
+  machine.mouse.moveTo({500, 799});
+  EXPECT_TRUE(dock.isVisible());
+  EXPECT_EQ(dock.revealCount(1), 1);
+  machine.mouse.moveTo({500, 731});
+  EXPECT_TRUE(dock.isVisible());
+  machine.mouse.moveTo({500, 729});
+  EXPECT_FALSE(dock.isVisible());
+  EXPECT_EQ(dock.revealCount(1), 1);
+}
+
+TEST_F(DockTest, HiddenItStaysHiddenAtAnEdgeWithANeighbourBehind) {
+  attach(1, {{0, 0}, {1000, 800}}, true);
+  attach(2, {{0, -800}, {1000, 800}});
+  setAutoHide(true);
+  machine.mouse.moveTo({500, 799});
+  EXPECT_FALSE(dock.isVisible());
+}
+
+TEST_F(DockTest, HiddenItComesUpOnAnotherDisplayThatIsPressed) {
+  attachPair();
+  machine.mouse.moveTo({500, 400});
+  setAutoHide(true);
+  push({1500, 780}, 0, 60);
+  EXPECT_EQ(dock.displayNumber(), 2U);
+  EXPECT_TRUE(dock.isVisible());
+  EXPECT_EQ(dock.revealCount(2), 1);
+  EXPECT_EQ(dock.revealCount(1), 0);
+}
+
+TEST_F(DockTest, ItsPreferencesAreNoReasonToCount) {
+  attachPair();
+  setAutoHide(true);
+  setAutoHide(false);
+  setEdge(std::string("left"));
+  EXPECT_TRUE(dock.isVisible());
+  EXPECT_TRUE(dock.reveals().empty());
+}
+
+TEST_F(DockTest, SlidesInAndTurnsRoundWhereItIs) {
+  attachPair();
+  machine.mouse.moveTo({500, 400});
+  setAutoHide(true);
+  machine.advance(1);
+  EXPECT_EQ(dock.shownFraction(), 0);
+  machine.mouse.moveTo({500, 799});
+  EXPECT_EQ(dock.shownFraction(), 0);
+  machine.advance(0.1);
+  EXPECT_DOUBLE_EQ(dock.shownFraction(), 0.4);
+  machine.mouse.moveTo({500, 400});
+  EXPECT_DOUBLE_EQ(dock.shownFraction(), 0.4);
+  machine.advance(0.05);
+  EXPECT_DOUBLE_EQ(dock.shownFraction(), 0.2);
+  machine.advance(1);
+  EXPECT_EQ(dock.shownFraction(), 0);
+}
+
+}  // namespace
+}  // namespace orvane::desk

@@ -1,0 +1,55 @@
+// The way of an event allocates nothing, whatever happens on it.
+#include <gtest/gtest.h>
+
+#include "desk/machine/MachineScope.hpp"
+#include "tests/support/AllocationCounter.hpp"
+
+namespace orvane::desk {
+namespace {
+
+CGEventRef pushUp(CGEventTapProxy, CGEventType, CGEventRef event, void*) {
+  CGPoint location = CGEventGetLocation(event);
+  if (location.y > 788 && (CGEventGetFlags(event) & kCGEventFlagMaskShift) == 0) {
+    location.y -= 12;
+    CGEventSetLocation(event, location);
+  }
+  return event;
+}
+
+TEST(EventPath, AllocatesNothing) {
+  MachineScope scope;
+  Machine& machine = scope.machine();
+  for (const std::uint32_t number : {1U, 2U, 3U}) {
+    Display display;
+    display.number = number;
+    display.frame = CGRectMake(1000 * (number - 1), 0, 1000, 800);
+    ASSERT_FALSE(machine.displays.attach(display));
+  }
+  const auto tap = machine.eventTaps.create(kCGTailAppendEventTap, kCGEventTapOptionDefault,
+                                            CGEventMask{1} << kCGEventMouseMoved, pushUp, nullptr);
+  machine.eventTaps.find(*tap)->sourceModes = RunLoop::commonModes;
+  machine.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, true);
+  // The first reveal of a display notes it in the counts; after that nothing is new.
+  machine.modifierKeys.hold(kCGEventFlagMaskShift);
+  for (const double x : {500.0, 1500.0, 2500.0}) {
+    machine.mouse.moveTo({x, 400});
+    machine.mouse.moveBy(0, 900);
+  }
+
+  const AllocationCounter counter;
+  for (int step = 0; step < 10'000; ++step) {
+    machine.modifierKeys.hold(step % 3 == 0 ? kCGEventFlagMaskShift : CGEventFlags{});
+    machine.mouse.moveBy((step * 37) % 301 - 150, step % 4 == 0 ? -500 : 300);
+    machine.mouse.post({500, 795}, 0);
+  }
+  EXPECT_EQ(counter.count(), 0U);
+  EXPECT_GT(machine.counters.relocatedEvents, 100);
+  std::int64_t reveals = 0;
+  for (const auto& [number, count] : machine.dock.reveals()) {
+    reveals += count;
+  }
+  EXPECT_GT(reveals, 100);
+}
+
+}  // namespace
+}  // namespace orvane::desk

@@ -1,0 +1,201 @@
+// Event taps: order, interest, sources, disabling, and their death.
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "desk/machine/EventTaps.hpp"
+
+namespace orvane::desk {
+namespace {
+
+/// What a callback of these tests does, as its user data.
+using Action = std::function<CGEventRef(CGEventType, CGEventRef)>;
+
+CGEventRef callAction(CGEventTapProxy, CGEventType type, CGEventRef event, void* userInfo) {
+  return (*static_cast<Action*>(userInfo))(type, event);
+}
+
+constexpr CGEventMask mouseMovedMask = CGEventMask{1} << kCGEventMouseMoved;
+
+class EventTapsTest : public testing::Test {
+ protected:
+  std::uint64_t make(Action& action, CGEventTapPlacement placement = kCGTailAppendEventTap,
+                     CGEventMask mask = mouseMovedMask,
+                     CGEventTapOptions options = kCGEventTapOptionDefault) {
+    const auto identity = taps.create(placement, options, mask, callAction, &action);
+    taps.find(*identity)->sourceModes = RunLoop::commonModes;
+    return *identity;
+  }
+  /// Notes its name and adds `dx` to the event's location.
+  Action shift(std::string name, double dx) {
+    return [this, name = std::move(name), dx](CGEventType, CGEventRef seen) {
+      log.push_back(name);
+      seen->location.x += dx;
+      return seen;
+    };
+  }
+
+  Clock clock;
+  Faults faults;
+  RunLoop runLoop{clock, faults};
+  EventTaps taps{runLoop};
+  __CGEvent event{kCGEventMouseMoved, CGEventFlags{}, {10, 20}};
+  std::vector<std::string> log;
+  using Log = std::vector<std::string>;
+};
+
+TEST_F(EventTapsTest, AnEventWithoutTapsComesOutAsItWentIn) {
+  EXPECT_TRUE(taps.deliver(event));
+  EXPECT_EQ(event.location.x, 10);
+}
+
+TEST_F(EventTapsTest, TapsAreAskedFromHeadToTail) {
+  Action first = shift("first", 1);
+  Action second = shift("second", 2);
+  Action head = shift("head", 4);
+  make(first);
+  make(second);
+  make(head, kCGHeadInsertEventTap);
+  EXPECT_TRUE(taps.deliver(event));
+  EXPECT_EQ(log, (Log{"head", "first", "second"}));
+  EXPECT_EQ(event.location.x, 17);
+  EXPECT_EQ(taps.deliveryCount(), 3);
+}
+
+TEST_F(EventTapsTest, ATapHearsOnlyWhatItAskedFor) {
+  Action action = shift("tap", 1);
+  make(action, kCGTailAppendEventTap, CGEventMask{1} << 1U);
+  EXPECT_TRUE(taps.deliver(event));
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(EventTapsTest, ATapWithoutASourceInTheModeLetsEventsPass) {
+  Action action = shift("tap", 1);
+  const auto identity = make(action);
+  taps.find(identity)->sourceModes = static_cast<RunLoop::ModeSet>(RunLoop::Mode::standard);
+  runLoop.enterMode(RunLoop::Mode::eventTracking);
+  taps.deliver(event);
+  EXPECT_TRUE(log.empty());
+  runLoop.leaveMode();
+  taps.deliver(event);
+  EXPECT_EQ(log.size(), 1U);
+  taps.find(identity)->sourceModes = 0;
+  taps.deliver(event);
+  EXPECT_EQ(log.size(), 1U);
+}
+
+TEST_F(EventTapsTest, AListeningTapCannotChangeTheEventNorSwallowIt) {
+  Action action = [this](CGEventType, CGEventRef seen) -> CGEventRef {
+    log.push_back("heard");
+    seen->location.x = 99;
+    return nullptr;
+  };
+  make(action, kCGTailAppendEventTap, mouseMovedMask, kCGEventTapOptionListenOnly);
+  EXPECT_TRUE(taps.deliver(event));
+  EXPECT_EQ(log.size(), 1U);
+  EXPECT_EQ(event.location.x, 10);
+}
+
+TEST_F(EventTapsTest, ATapThatReturnsNoEventSwallowsIt) {
+  Action swallow = [](CGEventType, CGEventRef) -> CGEventRef { return nullptr; };
+  Action after = shift("after", 1);
+  make(swallow);
+  make(after);
+  EXPECT_FALSE(taps.deliver(event));
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(EventTapsTest, ATapMayReturnAnotherEvent) {
+  __CGEvent other{kCGEventMouseMoved, CGEventFlags{}, {1, 2}};
+  Action replace = [&other](CGEventType, CGEventRef) { return &other; };
+  make(replace);
+  EXPECT_TRUE(taps.deliver(event));
+  EXPECT_EQ(event.location.x, 1);
+}
+
+TEST_F(EventTapsTest, RefusedCreationMakesNoTap) {
+  Action action = shift("tap", 1);
+  taps.setRefusesCreation(true);
+  EXPECT_EQ(taps.create(kCGTailAppendEventTap, kCGEventTapOptionDefault, mouseMovedMask, callAction,
+                        &action),
+            std::nullopt);
+  EXPECT_EQ(taps.aliveCount(), 0U);
+}
+
+TEST_F(EventTapsTest, TheSystemDisablesATapBeforeItTellsItSo) {
+  std::vector<bool> enabledWhenTold;
+  std::uint64_t identity = 0;
+  Action action = [&](CGEventType type, CGEventRef seen) {
+    EXPECT_EQ(type, kCGEventTapDisabledByTimeout);
+    enabledWhenTold.push_back(taps.find(identity)->isEnabled);
+    return seen;
+  };
+  identity = make(action);
+  EXPECT_EQ(taps.disableAll(kCGEventTapDisabledByTimeout, {0, 0}), 1);
+  EXPECT_EQ(enabledWhenTold, (std::vector<bool>{false}));
+  EXPECT_FALSE(taps.isAnyEnabled());
+  EXPECT_EQ(taps.aliveCount(), 1U);
+  EXPECT_EQ(taps.disableAll(kCGEventTapDisabledByTimeout, {0, 0}), 0);
+  taps.deliver(event);
+  EXPECT_EQ(enabledWhenTold.size(), 1U);
+}
+
+TEST_F(EventTapsTest, ADisabledTapMayEnableItselfAgain) {
+  std::uint64_t identity = 0;
+  Action action = [&](CGEventType, CGEventRef seen) {
+    taps.find(identity)->isEnabled = true;
+    return seen;
+  };
+  identity = make(action);
+  taps.disableAll(kCGEventTapDisabledByUserInput, {0, 0});
+  EXPECT_TRUE(taps.isAnyEnabled());
+}
+
+TEST_F(EventTapsTest, ADeadTapIsGoneForGood) {
+  Action action = shift("tap", 1);
+  const auto identity = make(action);
+  taps.killAll();
+  EXPECT_EQ(taps.find(identity), nullptr);
+  EXPECT_EQ(taps.aliveCount(), 0U);
+  taps.deliver(event);
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(EventTapsTest, ATapMayEndItselfInItsCallback) {
+  std::uint64_t identity = 0;
+  Action action = [&](CGEventType, CGEventRef seen) {
+    log.push_back("once");
+    taps.remove(identity);
+    return seen;
+  };
+  Action after = shift("after", 1);
+  identity = make(action);
+  make(after);
+  taps.deliver(event);
+  taps.deliver(event);
+  EXPECT_EQ(log, (Log{"once", "after", "after"}));
+}
+
+TEST_F(EventTapsTest, ATapMadeDuringADeliveryHearsOfTheNextEvent) {
+  Action late = shift("late", 1);
+  bool isMade = false;
+  Action action = [&](CGEventType, CGEventRef seen) {
+    log.push_back("maker");
+    if (!isMade) {
+      isMade = true;
+      make(late, kCGHeadInsertEventTap);
+      EXPECT_EQ(taps.aliveCount(), 2U);
+    }
+    return seen;
+  };
+  make(action);
+  taps.deliver(event);
+  EXPECT_EQ(log, (Log{"maker"}));
+  taps.deliver(event);
+  EXPECT_EQ(log, (Log{"maker", "late", "maker"}));
+}
+
+}  // namespace
+}  // namespace orvane::desk

@@ -1,0 +1,70 @@
+// Switching machines on and off, and what is told at the end.
+#include <gtest/gtest.h>
+
+#include "desk/machine/MachineScope.hpp"
+
+namespace orvane::desk {
+namespace {
+
+TEST(MachineScope, MakesItsMachineTheCurrentOne) {
+  EXPECT_EQ(Machine::currentOrNull(), nullptr);
+  {
+    const MachineScope scope;
+    EXPECT_EQ(&Machine::current(), &scope.machine());
+  }
+  EXPECT_EQ(Machine::currentOrNull(), nullptr);
+}
+
+TEST(MachineScope, EndsCleanWhenNothingWasLeft) {
+  MachineScope scope;
+  CFRelease(CFStringCreateWithCString(kCFAllocatorDefault, "text", kCFStringEncodingUTF8));
+  EXPECT_TRUE(scope.end().isClean());
+}
+
+TEST(MachineScope, TellsOfObjectsThatNobodyReleased) {
+  MachineScope scope;
+  const CFStringRef text =
+      CFStringCreateWithCString(kCFAllocatorDefault, "left behind", kCFStringEncodingUTF8);
+  CFRetain(text);
+  const MachineEnd end = scope.end();
+  EXPECT_FALSE(end.isClean());
+  ASSERT_EQ(end.leftObjects.size(), 1U);
+  EXPECT_EQ(end.leftObjects[0], "CFString \"left behind\", references: 2");
+  EXPECT_TRUE(end.faults.empty());
+}
+
+TEST(MachineScope, TellsOfFaults) {
+  MachineScope scope;
+  const CFStringRef text =
+      CFStringCreateWithCString(kCFAllocatorDefault, "twice", kCFStringEncodingUTF8);
+  CFRelease(text);
+  CFRelease(text);
+  const MachineEnd end = scope.end();
+  ASSERT_EQ(end.faults.size(), 1U);
+  EXPECT_EQ(end.faults[0], "CFRelease: CFString \"twice\" was already released");
+}
+
+TEST(MachineScope, ANewMachineKnowsNothingOfTheOldOne) {
+  {
+    MachineScope scope;
+    scope->userDefaults.set("key", true);
+    scope->permission.setTrusted(true);
+    scope->advance(5);
+  }
+  const MachineScope scope;
+  EXPECT_TRUE(scope->userDefaults.values().empty());
+  EXPECT_FALSE(scope->permission.isTrusted());
+  EXPECT_EQ(scope->clock.now(), 0);
+}
+
+TEST(MachineScopeDeathTest, ASecondMachineAtATimeIsRefused) {
+  const MachineScope scope;
+  EXPECT_DEATH(MachineScope(), "switched on already");
+}
+
+TEST(MachineScopeDeathTest, WithoutAMachineThereIsNoSeam) {
+  EXPECT_DEATH(Machine::current(), "no machine is switched on");
+}
+
+}  // namespace
+}  // namespace orvane::desk

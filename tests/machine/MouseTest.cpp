@@ -1,0 +1,136 @@
+// A movement on its way through taps, pointer and Dock.
+#include <cmath>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "desk/machine/Mouse.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+/// What the tap of these tests saw, and what it does to the event.
+struct TapScript {
+  std::vector<__CGEvent> seen;
+  double dy = 0;
+  bool swallows = false;
+};
+
+CGEventRef follow(CGEventTapProxy, CGEventType, CGEventRef event, void* userInfo) {
+  auto& script = *static_cast<TapScript*>(userInfo);
+  script.seen.push_back(*event);
+  event->location.y += script.dy;
+  return script.swallows ? nullptr : event;
+}
+
+class MouseTest : public MachineFixture, private PointerListener {
+ protected:
+  MouseTest() {
+    for (const std::uint32_t number : {1U, 2U}) {
+      Display display;
+      display.number = number;
+      display.frame = CGRectMake(1000 * (number - 1), 0, 1000, 800);
+      EXPECT_FALSE(machine.displays.attach(display));
+    }
+    const auto tap =
+        machine.eventTaps.create(kCGTailAppendEventTap, kCGEventTapOptionDefault,
+                                 CGEventMask{1} << kCGEventMouseMoved, follow, &script);
+    machine.eventTaps.find(*tap)->sourceModes = RunLoop::commonModes;
+    machine.mouse.setListener(this);
+  }
+  ~MouseTest() override { machine.mouse.setListener(nullptr); }
+
+  TapScript script;
+  std::vector<CGPoint> told;
+
+ private:
+  void pointerMovedTo(CGPoint place) override { told.push_back(place); }
+};
+
+TEST_F(MouseTest, AMovementBecomesAnEventAtTheClampedPlaceWithTheHeldKeys) {
+  machine.modifierKeys.hold(kCGEventFlagMaskShift | kCGEventFlagMaskCommand);
+  machine.mouse.moveTo({500, 400});
+  machine.mouse.moveBy(0, 900);
+  ASSERT_EQ(script.seen.size(), 2U);
+  EXPECT_EQ(script.seen[1].type, kCGEventMouseMoved);
+  EXPECT_EQ(script.seen[1].location.y, 799);
+  EXPECT_EQ(script.seen[1].flags, kCGEventFlagMaskShift | kCGEventFlagMaskCommand);
+  machine.modifierKeys.releaseAll();
+  machine.mouse.moveBy(0, -1);
+  EXPECT_EQ(script.seen[2].flags, 0U);
+}
+
+TEST_F(MouseTest, WhereTheLastTapLeavesTheEventIsWhereThePointerIs) {
+  script.dy = -12;
+  machine.mouse.moveTo({500, 400});
+  EXPECT_EQ(machine.pointer.place().y, 388);
+  EXPECT_EQ(machine.counters.relocatedEvents, 1);
+  ASSERT_EQ(told.size(), 1U);
+  EXPECT_EQ(told[0].y, 388);
+}
+
+TEST_F(MouseTest, APlaceOffAllDisplaysIsClampedAgain) {
+  script.dy = 5000;
+  machine.mouse.moveTo({500, 400});
+  EXPECT_EQ(machine.pointer.place().x, 500);
+  EXPECT_EQ(machine.pointer.place().y, 799);
+}
+
+TEST_F(MouseTest, APlaceThatIsNoPlaceLeavesThePointerWhereItWas) {
+  machine.mouse.moveTo({500, 400});
+  script.dy = std::nan("");
+  machine.mouse.moveTo({600, 500});
+  EXPECT_EQ(machine.pointer.place().x, 500);
+  EXPECT_EQ(machine.pointer.place().y, 400);
+}
+
+TEST_F(MouseTest, ASwallowedMovementMovesNothing) {
+  machine.mouse.moveTo({1500, 400});
+  script.swallows = true;
+  machine.mouse.moveBy(0, 900);
+  EXPECT_EQ(machine.pointer.place().y, 400);
+  EXPECT_EQ(machine.dock.displayNumber(), 1U);
+  EXPECT_EQ(machine.counters.droppedEvents, 1);
+  EXPECT_EQ(told.size(), 1U);
+}
+
+TEST_F(MouseTest, TheDockSeesThePlaceAfterTheTaps) {
+  machine.mouse.moveTo({1500, 400});
+  script.dy = -12;
+  machine.mouse.moveBy(0, 900);
+  EXPECT_EQ(machine.dock.displayNumber(), 1U);
+  script.dy = 0;
+  machine.mouse.moveBy(0, 900);
+  EXPECT_EQ(machine.dock.displayNumber(), 2U);
+}
+
+TEST_F(MouseTest, AMovementThatIsNotFiniteIsNone) {
+  machine.mouse.moveBy(std::nan(""), 0);
+  machine.mouse.moveBy(0, INFINITY);
+  EXPECT_TRUE(script.seen.empty());
+  EXPECT_EQ(machine.counters.hardwareMovements, 0);
+}
+
+TEST_F(MouseTest, WithoutADisplayThereAreNoPointerEvents) {
+  ASSERT_FALSE(machine.displays.detach(1));
+  ASSERT_FALSE(machine.displays.detach(2));
+  machine.mouse.moveBy(5, 5);
+  EXPECT_TRUE(script.seen.empty());
+}
+
+TEST_F(MouseTest, APostedEventRunsThroughTheTapsAndMovesNoPointer) {
+  script.dy = -12;
+  const auto out = machine.mouse.post({5000, 90}, kCGEventFlagMaskControl);
+  ASSERT_TRUE(out);
+  EXPECT_EQ(out->x, 5000);
+  EXPECT_EQ(out->y, 78);
+  EXPECT_EQ(script.seen[0].flags, kCGEventFlagMaskControl);
+  EXPECT_EQ(machine.pointer.place().y, 0);
+  EXPECT_TRUE(told.empty());
+  script.swallows = true;
+  EXPECT_EQ(machine.mouse.post({1, 1}, 0), std::nullopt);
+}
+
+}  // namespace
+}  // namespace orvane::desk

@@ -1,0 +1,74 @@
+// Notifications reach their observers in order, who may come and go meanwhile.
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "desk/machine/Observers.hpp"
+
+namespace orvane::desk {
+namespace {
+
+constexpr auto screenParameters = appkit::NotificationName::applicationDidChangeScreenParameters;
+
+class ObserversTest : public testing::Test {
+ protected:
+  std::shared_ptr<Observers::Observer> add(std::string name, std::function<void()> also = {}) {
+    return observers.add(screenParameters, [this, name = std::move(name), also = std::move(also)] {
+      log.push_back(name);
+      if (also) {
+        also();
+      }
+    });
+  }
+
+  Observers observers;
+  std::vector<std::string> log;
+  using Log = std::vector<std::string>;
+};
+
+TEST_F(ObserversTest, AreToldInTheOrderTheyRegistered) {
+  add("a");
+  const auto b = add("b");
+  add("c");
+  observers.post(screenParameters);
+  observers.remove(b);
+  observers.remove(b);
+  observers.post(screenParameters);
+  EXPECT_EQ(log, (Log{"a", "b", "c", "a", "c"}));
+  EXPECT_EQ(observers.count(), 2U);
+}
+
+TEST_F(ObserversTest, OneThatIsRemovedBeforeItsTurnIsNotTold) {
+  std::shared_ptr<Observers::Observer> second;
+  add("first", [&] { observers.remove(second); });
+  second = add("second");
+  add("third");
+  observers.post(screenParameters);
+  EXPECT_EQ(log, (Log{"first", "third"}));
+}
+
+TEST_F(ObserversTest, OneMayRemoveItselfAndComeBackForTheNext) {
+  std::shared_ptr<Observers::Observer> self;
+  self = add("self", [&] {
+    observers.remove(self);
+    self = add("again");
+  });
+  add("other");
+  observers.post(screenParameters);
+  EXPECT_EQ(log, (Log{"self", "other"}));
+  observers.post(screenParameters);
+  EXPECT_EQ(log, (Log{"self", "other", "other", "again"}));
+}
+
+TEST_F(ObserversTest, AllAreGoneWithTheProcess) {
+  add("a", [&] { observers.removeAll(); });
+  add("b");
+  observers.post(screenParameters);
+  observers.post(screenParameters);
+  EXPECT_EQ(log, (Log{"a"}));
+}
+
+}  // namespace
+}  // namespace orvane::desk

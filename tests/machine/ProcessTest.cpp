@@ -1,0 +1,154 @@
+// The beginning and the end of a process: what goes with it and what stays.
+#include <memory>
+#include <optional>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/base/ProcessShared.hpp"
+#include "Orvane/platform/appkit/Application.hpp"
+#include "Orvane/platform/appkit/MainQueue.hpp"
+#include "Orvane/platform/appkit/NotificationCenter.hpp"
+#include "Orvane/platform/appkit/Timer.hpp"
+#include "Orvane/platform/appkit/UserDefaults.hpp"
+#include "desk/machine/MachineScope.hpp"
+#include "desk/machine/Process.hpp"
+
+namespace orvane::desk {
+namespace {
+
+CGEventRef pass(CGEventTapProxy, CGEventType, CGEventRef event, void*) {
+  return event;
+}
+
+class ProcessTest : public testing::Test {
+ protected:
+  MachineScope scope;
+  Machine& machine = scope.machine();
+};
+
+TEST_F(ProcessTest, AMachineStartsWithoutOne) {
+  int runs = 0;
+  EXPECT_FALSE(machine.process.isRunning());
+  appkit::MainQueue::async([&runs] { ++runs; });
+  machine.runDue();
+  EXPECT_EQ(runs, 0);
+}
+
+TEST_F(ProcessTest, PendingTasksAndTimersEndWithItUnrun) {
+  machine.process.start();
+  const auto held = std::make_shared<int>(0);
+  appkit::MainQueue::async([held] { ++*held; });
+  appkit::MainQueue::asyncAfter(1, [held] { ++*held; });
+  const appkit::Timer timer =
+      appkit::Timer::repeating(1, appkit::RunLoopMode::common, [held] { ++*held; });
+  machine.process.end();
+  EXPECT_EQ(held.use_count(), 1);
+  EXPECT_FALSE(timer.isValid());
+  machine.process.start();
+  machine.advance(5);
+  EXPECT_EQ(*held, 0);
+}
+
+TEST_F(ProcessTest, ObserversEndWithItAndAProcessThatDoesNotRunHearsNothing) {
+  machine.process.start();
+  int heard = 0;
+  const auto token = appkit::NotificationCenter::addObserver(
+      appkit::NotificationName::applicationDidChangeScreenParameters, [&heard] { ++heard; });
+  Display display;
+  display.number = 1;
+  display.frame = CGRectMake(0, 0, 100, 100);
+  ASSERT_FALSE(machine.displays.attach(display));
+  EXPECT_EQ(heard, 1);
+  machine.process.end();
+  ASSERT_FALSE(machine.displays.detach(1));
+  machine.process.start();
+  ASSERT_FALSE(machine.displays.attach(display));
+  EXPECT_EQ(heard, 1);
+  appkit::NotificationCenter::removeObserver(token);
+}
+
+TEST_F(ProcessTest, TapsDieWithItAndTheRunLoopLetsGoOfTheirSources) {
+  machine.process.start();
+  machine.permission.setTrusted(true);
+  const CFMachPortRef port =
+      CGEventTapCreate(kCGSessionEventTap, kCGTailAppendEventTap, kCGEventTapOptionDefault,
+                       CGEventMask{1} << kCGEventMouseMoved, pass, nullptr);
+  const CFRunLoopSourceRef source = CFMachPortCreateRunLoopSource(kCFAllocatorDefault, port, 0);
+  CFRunLoopAddSource(CFRunLoopGetCurrent(), source, kCFRunLoopCommonModes);
+  CFRelease(source);
+  machine.process.end();
+  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
+  EXPECT_TRUE(machine.runLoop.sources().empty());
+  EXPECT_EQ(machine.objects.referenceCount(port), 1);
+  CFRelease(port);
+  EXPECT_TRUE(scope.end().isClean());
+}
+
+/// A shared object whose destructor asks the machine for things that must come to nothing.
+struct LastWords {
+  ~LastWords() {
+    appkit::UserDefaults::setBoolean("lastWords", true);
+    appkit::UserDefaults::remove("kept");
+    appkit::MainQueue::async([] { appkit::UserDefaults::setBoolean("later", true); });
+  }
+};
+
+ProcessShared<LastWords> lastWords;
+
+TEST_F(ProcessTest, ItsSharedObjectsEndWithItAndTheirLastWordsAreNotHeard) {
+  machine.process.start();
+  appkit::UserDefaults::setBoolean("kept", true);
+  lastWords.get();
+  machine.process.end();
+  EXPECT_FALSE(lastWords.exists());
+  machine.process.start();
+  machine.advance(1);
+  EXPECT_EQ(machine.userDefaults.values(),
+            (UserDefaultsStore::Values{{"kept", PropertyValue(true)}}));
+}
+
+TEST_F(ProcessTest, DefaultsPermissionAndLoginItemOutliveIt) {
+  machine.process.start();
+  machine.permission.setTrusted(true);
+  appkit::UserDefaults::setString("key", "value");
+  machine.loginItem.registerApplication();
+  machine.process.end();
+  machine.process.start();
+  EXPECT_EQ(appkit::UserDefaults::string("key"), "value");
+  EXPECT_TRUE(machine.permission.isTrusted());
+  EXPECT_EQ(machine.loginItem.status, appkit::LoginItem::Status::enabled);
+}
+
+TEST_F(ProcessTest, TheActivationPolicyIsANewProcessesOwn) {
+  machine.process.start();
+  appkit::Application::setActivationPolicy(appkit::ActivationPolicy::accessory);
+  EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::accessory);
+  machine.process.end();
+  machine.process.start();
+  EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::regular);
+}
+
+TEST_F(ProcessTest, StartingTwiceGoesOn) {
+  machine.process.start();
+  int runs = 0;
+  appkit::MainQueue::async([&runs] { ++runs; });
+  machine.process.start();
+  machine.runDue();
+  EXPECT_EQ(runs, 1);
+}
+
+TEST_F(ProcessTest, MayEndFromWithinATask) {
+  machine.process.start();
+  const auto held = std::make_shared<int>(0);
+  appkit::MainQueue::async([this, held] {
+    machine.process.end();
+    ++*held;
+  });
+  appkit::MainQueue::async([held] { *held += 100; });
+  machine.runDue();
+  EXPECT_EQ(*held, 1);
+  EXPECT_FALSE(machine.process.isRunning());
+}
+
+}  // namespace
+}  // namespace orvane::desk

@@ -1,0 +1,276 @@
+// The run loop: order, modes, the held main queue, late timers, and the end of a process.
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "desk/machine/RunLoop.hpp"
+
+namespace orvane::desk {
+namespace {
+
+constexpr std::int64_t millisecond = 1'000'000;
+constexpr std::int64_t second = 1000 * millisecond;
+constexpr auto standardMode = static_cast<RunLoop::ModeSet>(RunLoop::Mode::standard);
+
+class RunLoopTest : public testing::Test {
+ protected:
+  /// Notes `name` with the time in milliseconds.
+  RunLoop::Task note(std::string name) {
+    return [this, name = std::move(name)] {
+      log.push_back(name + "@" + std::to_string(clock.now() / millisecond));
+    };
+  }
+
+  Clock clock;
+  Faults faults;
+  RunLoop runLoop{clock, faults};
+  std::vector<std::string> log;
+  using Log = std::vector<std::string>;
+};
+
+TEST_F(RunLoopTest, RunsTasksInTheOrderTheyCame) {
+  runLoop.async(note("a"));
+  runLoop.async(note("b"));
+  EXPECT_TRUE(log.empty());
+  runLoop.runDue();
+  EXPECT_EQ(log, (Log{"a@0", "b@0"}));
+}
+
+TEST_F(RunLoopTest, ATaskThatComesWhileAnotherRunsWaitsForItsEnd) {
+  runLoop.async([this] {
+    runLoop.async(note("inner"));
+    runLoop.runDue();
+    runLoop.advance(second);
+    note("outer")();
+  });
+  runLoop.runDue();
+  EXPECT_EQ(log, (Log{"outer@0", "inner@0"}));
+  EXPECT_EQ(clock.now(), 0);
+}
+
+TEST_F(RunLoopTest, ServesDelayedTasksAtTheirDueTimes) {
+  runLoop.asyncAfter(2 * second, note("late"));
+  runLoop.asyncAfter(second, note("early"));
+  runLoop.advance(second - 1);
+  EXPECT_TRUE(log.empty());
+  runLoop.advance(1);
+  EXPECT_EQ(log, (Log{"early@1000"}));
+  runLoop.advance(5 * second);
+  EXPECT_EQ(log, (Log{"early@1000", "late@2000"}));
+  EXPECT_EQ(clock.now(), 6 * second);
+}
+
+TEST_F(RunLoopTest, ServesEqualDueTimesInTheOrderTheyWereAskedFor) {
+  const auto timer = runLoop.addTimer(second, RunLoop::commonModes, note("timer"));
+  runLoop.asyncAfter(second, note("task"));
+  const auto second_ = runLoop.addTimer(second, RunLoop::commonModes, note("second timer"));
+  runLoop.advance(2 * second);
+  EXPECT_EQ(log, (Log{"timer@1000", "task@1000", "second timer@1000", "timer@2000",
+                      "second timer@2000"}));
+}
+
+TEST_F(RunLoopTest, ADelayOfNothingOrLessIsServedAtOnce) {
+  runLoop.asyncAfter(-5, note("a"));
+  runLoop.asyncAfter(0, note("b"));
+  runLoop.runDue();
+  EXPECT_EQ(log, (Log{"a@0", "b@0"}));
+}
+
+TEST_F(RunLoopTest, ATaskThatIsNeverDueDoesNotMoveTime) {
+  runLoop.advance(second);
+  runLoop.asyncAfter(std::numeric_limits<std::int64_t>::max(), note("never"));
+  runLoop.advance(second);
+  EXPECT_TRUE(log.empty());
+  EXPECT_EQ(clock.now(), 2 * second);
+  EXPECT_EQ(runLoop.nextDue(), std::nullopt);
+}
+
+TEST_F(RunLoopTest, ATimerKeepsItsGrid) {
+  const auto timer = runLoop.addTimer(300 * millisecond, RunLoop::commonModes, note("tick"));
+  runLoop.advance(second);
+  EXPECT_EQ(log, (Log{"tick@300", "tick@600", "tick@900"}));
+}
+
+TEST_F(RunLoopTest, ATimerOfTheStandardModeWaitsWhileAMenuIsOpen) {
+  const auto timer = runLoop.addTimer(second, standardMode, note("standard"));
+  const auto common = runLoop.addTimer(second, RunLoop::commonModes, note("common"));
+  runLoop.enterMode(RunLoop::Mode::eventTracking);
+  runLoop.advance(2 * second);
+  EXPECT_EQ(log, (Log{"common@1000", "common@2000"}));
+}
+
+TEST_F(RunLoopTest, ALateTimerFiresOnceAndReturnsToItsGrid) {
+  const auto timer = runLoop.addTimer(second, standardMode, note("tick"));
+  runLoop.enterMode(RunLoop::Mode::modalPanel);
+  runLoop.advance(3500 * millisecond);
+  runLoop.leaveMode();
+  runLoop.runDue();
+  EXPECT_EQ(log, (Log{"tick@3500"}));
+  runLoop.advance(second);
+  EXPECT_EQ(log, (Log{"tick@3500", "tick@4000"}));
+}
+
+TEST_F(RunLoopTest, ATimerThatIsLateByWholeIntervalsFiresNextInTheFuture) {
+  const auto timer = runLoop.addTimer(second, standardMode, note("tick"));
+  runLoop.enterMode(RunLoop::Mode::eventTracking);
+  runLoop.advance(3 * second);
+  runLoop.leaveMode();
+  runLoop.advance(second);
+  EXPECT_EQ(log, (Log{"tick@3000", "tick@4000"}));
+}
+
+TEST_F(RunLoopTest, ModesNest) {
+  runLoop.enterMode(RunLoop::Mode::modalPanel);
+  runLoop.enterMode(RunLoop::Mode::eventTracking);
+  EXPECT_EQ(runLoop.mode(), RunLoop::Mode::eventTracking);
+  runLoop.leaveMode();
+  EXPECT_EQ(runLoop.mode(), RunLoop::Mode::modalPanel);
+  runLoop.leaveMode();
+  runLoop.leaveMode();
+  EXPECT_EQ(runLoop.mode(), RunLoop::Mode::standard);
+}
+
+TEST_F(RunLoopTest, TheMainQueueIsServedInEveryMode) {
+  runLoop.enterMode(RunLoop::Mode::eventTracking);
+  runLoop.async(note("task"));
+  runLoop.runDue();
+  EXPECT_EQ(log, (Log{"task@0"}));
+}
+
+TEST_F(RunLoopTest, AHeldMainQueueDeliversNothingWhileTimersGoOn) {
+  const auto timer = runLoop.addTimer(second, RunLoop::commonModes, note("timer"));
+  runLoop.async([this] {
+    note("opens the session")();
+    runLoop.holdMainQueue();
+  });
+  runLoop.async(note("waiting"));
+  runLoop.asyncAfter(500 * millisecond, note("delayed"));
+  runLoop.advance(second);
+  EXPECT_EQ(log, (Log{"opens the session@0", "timer@1000"}));
+  runLoop.releaseMainQueue();
+  runLoop.runDue();
+  EXPECT_EQ(log, (Log{"opens the session@0", "timer@1000", "waiting@1000", "delayed@1000"}));
+}
+
+TEST_F(RunLoopTest, HoldsNestAndOneReleaseTooManyDoesNothing) {
+  runLoop.releaseMainQueue();
+  runLoop.holdMainQueue();
+  runLoop.holdMainQueue();
+  runLoop.releaseMainQueue();
+  EXPECT_TRUE(runLoop.isMainQueueHeld());
+  runLoop.releaseMainQueue();
+  EXPECT_FALSE(runLoop.isMainQueueHeld());
+}
+
+TEST_F(RunLoopTest, KnowsWhetherATaskOfTheMainQueueRuns) {
+  std::vector<bool> serving;
+  const auto timer = runLoop.addTimer(second, RunLoop::commonModes,
+                                      [&] { serving.push_back(runLoop.isServingMainQueue()); });
+  runLoop.async([&] { serving.push_back(runLoop.isServingMainQueue()); });
+  runLoop.advance(second);
+  EXPECT_EQ(serving, (std::vector<bool>{true, false}));
+  EXPECT_FALSE(runLoop.isServingMainQueue());
+}
+
+TEST_F(RunLoopTest, AnInvalidatedTimerFiresNoMoreAndLetsGoOfItsTick) {
+  auto held = std::make_shared<int>(0);
+  const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [held] { ++*held; });
+  runLoop.advance(second);
+  runLoop.invalidateTimer(timer);
+  runLoop.invalidateTimer(timer);
+  runLoop.advance(5 * second);
+  EXPECT_EQ(*held, 1);
+  EXPECT_EQ(held.use_count(), 1);
+  EXPECT_EQ(runLoop.timerCount(), 0U);
+}
+
+TEST_F(RunLoopTest, ATimerMayInvalidateItselfInItsTick) {
+  std::shared_ptr<RunLoopTimer> timer;
+  const auto held = std::make_shared<int>(0);
+  timer = runLoop.addTimer(second, RunLoop::commonModes, [&, held] {
+    runLoop.invalidateTimer(timer);
+    // The tick is still running, so what it holds must still be there.
+    ++*held;
+  });
+  runLoop.advance(3 * second);
+  EXPECT_EQ(*held, 1);
+  EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(RunLoopTest, AnIntervalOfNothingIsATenthOfAMillisecond) {
+  int ticks = 0;
+  const auto timer = runLoop.addTimer(0, RunLoop::commonModes, [&] { ++ticks; });
+  runLoop.advance(millisecond);
+  EXPECT_EQ(ticks, 10);
+}
+
+TEST_F(RunLoopTest, CountsEveryWakeUp) {
+  const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [] {});
+  runLoop.async([] {});
+  runLoop.advance(3 * second);
+  EXPECT_EQ(runLoop.taskCount(), 1);
+  EXPECT_EQ(runLoop.timerFireCount(), 3);
+  EXPECT_EQ(runLoop.wakeUpCount(), 4);
+}
+
+TEST_F(RunLoopTest, SweepingDestroysWhatIsPendingWithoutRunningIt) {
+  const auto held = std::make_shared<int>(0);
+  const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [held] { ++*held; });
+  runLoop.asyncAfter(second, [held] { ++*held; });
+  runLoop.enterMode(RunLoop::Mode::modalPanel);
+  runLoop.holdMainQueue();
+  runLoop.sweep();
+  EXPECT_EQ(held.use_count(), 1);
+  EXPECT_FALSE(timer->isValid);
+  EXPECT_EQ(runLoop.mode(), RunLoop::Mode::standard);
+  EXPECT_FALSE(runLoop.isMainQueueHeld());
+  runLoop.advance(5 * second);
+  EXPECT_EQ(*held, 0);
+}
+
+TEST_F(RunLoopTest, SweepingFromWithinATickLeavesTheTickWhole) {
+  const auto held = std::make_shared<int>(0);
+  const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [this, held] {
+    runLoop.sweep();
+    ++*held;
+  });
+  runLoop.advance(5 * second);
+  EXPECT_EQ(*held, 1);
+  EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(RunLoopTest, ATaskThatIsNotAcceptedIsDestroyed) {
+  const auto held = std::make_shared<int>(0);
+  runLoop.setAcceptsTasks(false);
+  runLoop.async([held] { ++*held; });
+  const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [held] { ++*held; });
+  EXPECT_EQ(held.use_count(), 1);
+  EXPECT_FALSE(timer->isValid);
+  runLoop.advance(2 * second);
+  EXPECT_EQ(*held, 0);
+}
+
+TEST_F(RunLoopTest, AProcessThatNeverComesToRestIsAFaultAndNotAHang) {
+  std::function<void()> again = [&] { runLoop.async(again); };
+  runLoop.async(again);
+  runLoop.runDue();
+  EXPECT_EQ(faults.count(), 1U);
+  runLoop.sweep();
+}
+
+TEST_F(RunLoopTest, ASourceIsInTheModesItWasAddedToAndNotRemovedFrom) {
+  const int source = 0;
+  EXPECT_EQ(runLoop.modesOf(&source), 0);
+  EXPECT_TRUE(runLoop.addSource(&source, standardMode));
+  EXPECT_FALSE(runLoop.addSource(&source, RunLoop::commonModes));
+  EXPECT_EQ(runLoop.modesOf(&source), RunLoop::commonModes);
+  EXPECT_FALSE(runLoop.removeSource(&source, standardMode));
+  EXPECT_TRUE(runLoop.removeSource(&source, RunLoop::commonModes));
+  EXPECT_FALSE(runLoop.removeSource(&source, RunLoop::commonModes));
+  EXPECT_TRUE(runLoop.sources().empty());
+}
+
+}  // namespace
+}  // namespace orvane::desk

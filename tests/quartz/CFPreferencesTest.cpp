@@ -1,0 +1,58 @@
+// Stored preferences as Core Foundation objects.
+#include <gtest/gtest.h>
+
+#include "Orvane/base/CFRef.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+using Value = CFRef<CFPropertyListRef>;
+
+class CFPreferencesTest : public MachineFixture {
+ protected:
+  static Value copy(CFStringRef host = kCFPreferencesAnyHost) {
+    return Value::owning(
+        CFPreferencesCopyValue(CFSTR("key"), CFSTR("program"), kCFPreferencesCurrentUser, host));
+  }
+  void store(PropertyValue value, Preferences::Host host = Preferences::Host::any) {
+    machine.preferences.set({"program", Preferences::User::current, host}, "key", std::move(value));
+    CFPreferencesAppSynchronize(CFSTR("program"));
+  }
+  CFTypeID typeOfStored(PropertyValue value) {
+    store(std::move(value));
+    return CFGetTypeID(copy().get());
+  }
+};
+
+TEST_F(CFPreferencesTest, EachTypeOfValueHasItsOwnTypeID) {
+  EXPECT_EQ(typeOfStored(std::string("text")), CFStringGetTypeID());
+  const CFTypeID number = typeOfStored(1.0);
+  const CFTypeID boolean = typeOfStored(true);
+  EXPECT_NE(number, CFStringGetTypeID());
+  EXPECT_NE(boolean, CFStringGetTypeID());
+  EXPECT_NE(number, boolean);
+}
+
+TEST_F(CFPreferencesTest, ANewObjectIsCopiedForEachQuestion) {
+  store(std::string("text"));
+  const Value first = copy();
+  const Value second = copy();
+  EXPECT_NE(first.get(), second.get());
+  EXPECT_EQ(machine.objects.liveCount(), 2U);
+}
+
+TEST_F(CFPreferencesTest, HostsAreToldApart) {
+  store(std::string("text"), Preferences::Host::current);
+  EXPECT_FALSE(copy());
+  EXPECT_TRUE(copy(kCFPreferencesCurrentHost));
+  EXPECT_TRUE(Value::owning(CFPreferencesCopyAppValue(CFSTR("key"), CFSTR("program"))));
+}
+
+TEST_F(CFPreferencesTest, TextThatIsNotUtf8IsNoValue) {
+  store(std::string("\xFF"));
+  EXPECT_FALSE(copy());
+}
+
+}  // namespace
+}  // namespace orvane::desk

@@ -1,0 +1,31 @@
+// What is special about the desk's strings: constants and counting.
+#include <gtest/gtest.h>
+
+#include "desk/quartz/CFString.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+using CFStringTest = MachineFixture;
+
+TEST_F(CFStringTest, AConstantIsOneObjectWhateverTheMachineAndNeverCounted) {
+  const CFStringRef constant = CFSTR("orientation");
+  EXPECT_EQ(constant, deskConstantString("orientation"));
+  EXPECT_NE(constant, CFSTR("autohide"));
+  CFRelease(constant);
+  CFRelease(constant);
+  EXPECT_EQ(*textOf(constant, "test"), "orientation");
+  EXPECT_EQ(machine.objects.liveCount(), 0U);
+}
+
+TEST_F(CFStringTest, ACreatedStringIsCountedUntilItIsReleased) {
+  const CFStringRef string =
+      CFStringCreateWithCString(kCFAllocatorDefault, "text", kCFStringEncodingUTF8);
+  EXPECT_EQ(machine.objects.liveCount(ObjectKind::string), 1U);
+  CFRelease(string);
+  EXPECT_EQ(machine.objects.liveCount(), 0U);
+}
+
+}  // namespace
+}  // namespace orvane::desk
