@@ -323,6 +323,12 @@ class UnfinishedTest(RuleTest):
                 with self.subTest(mark=mark, path=path):
                     self.assert_caught({path: f"# One line.\n# {mark}\n"}, (path, 2))
 
+    def test_only_the_contract_may_skip_what_a_platform_cannot_arrange(self):
+        skip = "// Why.\nGTEST" + "_SKIP();\n"
+        self.assert_passed({"tests/contract/Arrange.hpp": skip})
+        self.assert_caught({"tests/contract/TimerTest.cpp": skip},
+                           ("tests/contract/TimerTest.cpp", 2))
+
     def test_ordinary_words(self):
         self.assert_passed({"desk/Dock.cpp": "// A todo list; a hacksaw; isDisabled_; XXXL\n"})
 

