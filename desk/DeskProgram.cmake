@@ -1,0 +1,7 @@
+# The program of the desk, at the top of the build folder. Included by this folder's CMakeLists.txt.
+find_package(CLI11 REQUIRED)
+
+add_executable(orvane-desk Main.cpp)
+target_link_libraries(orvane-desk PRIVATE orvane_desk_script orvane_desk_tour orvane_desk_window
+                                          CLI11::CLI11)
+set_target_properties(orvane-desk PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}")

@@ -1,0 +1,80 @@
+// The program of the desk: the simulated Mac in a window, under a script, or on a tour.
+#include <iostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "desk/desktop/DesktopPicture.hpp"
+#include "desk/script/ScriptProgram.hpp"
+#include "desk/tour/RunTour.hpp"
+#include "desk/window/RunWindow.hpp"
+
+namespace {
+
+namespace script = orvane::desk::script;
+
+/// The exit status when the command line makes no sense.
+constexpr int misusedStatus = 2;
+
+script::Complaint writePicture(const script::Session& session,
+                               const script::PictureRequest& request) {
+  if (request.surface) {
+    return "there is no surface \"" + *request.surface + "\"";
+  }
+  return orvane::desk::writeDesktopPicture(session.machine(), session.application(), request.file,
+                                           request.scale);
+}
+
+int runScripts(const std::vector<std::string>& files) {
+  script::ScriptProgram::Settings settings;
+  settings.pictureWriter = writePicture;
+  script::ScriptProgram program(std::move(settings), std::cin, std::cout, std::cerr);
+  return program.runFiles(files);
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+  CLI::App program(
+      "Orvane on a simulated Mac with several displays; without a command, in a window.",
+      "orvane-desk");
+  orvane::desk::WindowOptions window;
+  std::string dumpFile;
+  program.add_option("--displays", window.displayCount, "How many displays the window begins with")
+      ->check(CLI::Range(1, 4));
+  program.add_option("--width", window.width, "The window's width")->check(CLI::Range(320, 16384));
+  program.add_option("--height", window.height, "The window's height")
+      ->check(CLI::Range(240, 16384));
+  CLI::Option* const dump = program.add_option(
+      "--dump", dumpFile, "When the window is closed, write there what it came to, as JSON");
+
+  CLI::App* const scripts = program.add_subcommand("script", "Run scripts");
+  std::vector<std::string> files;
+  scripts
+      ->add_option("FILE", files,
+                   "A script, with a machine of its own; \"-\" is the standard input")
+      ->required();
+
+  CLI::App* const tour = program.add_subcommand("tour", "Tell the main job as a story in pictures");
+  std::string folder;
+  tour->add_option("DIR", folder, "Where the pictures go")->required();
+
+  program.require_subcommand(0, 1);
+  try {
+    program.parse(argumentCount, arguments);
+  } catch (const CLI::ParseError& error) {
+    return program.exit(error) == 0 ? 0 : misusedStatus;
+  }
+  if (scripts->parsed()) {
+    return runScripts(files);
+  }
+  if (tour->parsed()) {
+    return orvane::desk::runTour(folder);
+  }
+  if (dump->count() > 0) {
+    window.dumpFile = dumpFile;
+  }
+  return orvane::desk::runWindow(window);
+}

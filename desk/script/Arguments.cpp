@@ -1,0 +1,264 @@
+// Arguments reads the words after a command's name, each as the type that the command declares.
+#include "desk/script/Arguments.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <limits>
+#include <utility>
+
+#include "desk/script/Decimal.hpp"
+
+namespace orvane::desk::script {
+
+namespace {
+
+constexpr std::array<std::string_view, 2> offAndOn = {"off", "on"};
+
+/// A long text is shown by its beginning only.
+std::string quoted(std::string_view text) {
+  constexpr std::size_t shownBytes = 60;
+  std::string shown(text);
+  if (text.size() > shownBytes) {
+    // Cut before a character, not within one.
+    std::size_t end = shownBytes;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) {
+      --end;
+    }
+    shown = std::string(text.substr(0, end)) + "...";
+  }
+  return "\"" + shown + "\"";
+}
+
+std::string joined(std::span<const std::string_view> choices) {
+  std::string list;
+  for (const std::string_view choice : choices) {
+    list += list.empty() ? "" : ", ";
+    list += choice;
+  }
+  return list;
+}
+
+}  // namespace
+
+std::optional<std::size_t> Arguments::next() const {
+  const auto found = std::ranges::find(isRead_, false);
+  return found != isRead_.end()
+             ? std::optional(static_cast<std::size_t>(std::distance(isRead_.begin(), found)))
+             : std::nullopt;
+}
+
+const Word* Arguments::take(std::string_view what) {
+  const std::optional<std::size_t> place = next();
+  if (!place) {
+    complain(std::string(what) + " is missing");
+    return nullptr;
+  }
+  isRead_[*place] = true;
+  const Word& word = words_[*place];
+  if (word.complaint) {
+    complain(*word.complaint);
+    return nullptr;
+  }
+  return &word;
+}
+
+std::string Arguments::text(std::string_view what) {
+  const Word* const word = take(what);
+  return word != nullptr ? word->text : std::string();
+}
+
+double Arguments::number(std::string_view what) {
+  const Word* const word = take(what);
+  if (word == nullptr) {
+    return 0;
+  }
+  const std::optional<double> value = parseDecimal(word->text);
+  if (!value) {
+    complain(std::string(what) + " must be a decimal number, not " + quoted(word->text));
+  }
+  return value.value_or(0);
+}
+
+double Arguments::coordinate(std::string_view what) {
+  const Word* const word = take(what);
+  return word != nullptr ? checkedCoordinate(what, word->text) : 0;
+}
+
+double Arguments::checkedCoordinate(std::string_view what, std::string_view text) {
+  const std::optional<double> value = parseDecimal(text);
+  if (!value) {
+    complain(std::string(what) + " must be a decimal number, not " + quoted(text));
+  } else if (std::abs(*value) > coordinateLimit) {
+    complain(std::string(what) + " is too large: " + quoted(text));
+  }
+  return value.value_or(0);
+}
+
+std::uint32_t Arguments::displayNumber(std::string_view what) {
+  constexpr std::int64_t highest = std::numeric_limits<std::uint32_t>::max();
+  return static_cast<std::uint32_t>(integer(what, 0, highest));
+}
+
+std::int64_t Arguments::integer(std::string_view what, std::int64_t lowest, std::int64_t highest) {
+  const Word* const word = take(what);
+  if (word == nullptr) {
+    return lowest;
+  }
+  const std::optional<std::int64_t> value = parseInteger(word->text);
+  if (!value || *value < lowest || *value > highest) {
+    complain(std::string(what) + " must be a whole number from " + std::to_string(lowest) + " to " +
+             std::to_string(highest) + ", not " + quoted(word->text));
+    return lowest;
+  }
+  return *value;
+}
+
+std::int64_t Arguments::nanoseconds(std::string_view what, std::int64_t highest) {
+  const Word* const word = take(what);
+  if (word == nullptr) {
+    return 0;
+  }
+  if (!parseDecimal(word->text)) {
+    complain(std::string(what) + " must be a decimal number of seconds, not " + quoted(word->text));
+    return 0;
+  }
+  const std::optional<std::int64_t> value = parseNanoseconds(word->text);
+  if (!value || *value < 0 || *value > highest) {
+    complain(std::string(what) + " must be from 0 to " + secondsText(highest) + " seconds, not " +
+             quoted(word->text));
+    return 0;
+  }
+  return *value;
+}
+
+std::array<double, 4> Arguments::rectangle(std::string_view what) {
+  const Word* const word = take(what);
+  return word != nullptr ? parseRectangle(what, word->text) : std::array<double, 4>{};
+}
+
+std::array<double, 4> Arguments::parseRectangle(std::string_view what, std::string_view text) {
+  const std::vector<std::string> parts = splitAtCommas(text);
+  std::array<double, 4> numbers{};
+  if (parts.size() != numbers.size()) {
+    complain(std::string(what) + " must be X,Y,W,H, not " + quoted(text));
+    return numbers;
+  }
+  std::ranges::transform(parts, numbers.begin(),
+                         [&](const std::string& part) { return checkedCoordinate(what, part); });
+  return numbers;
+}
+
+bool Arguments::onOff(std::string_view what) {
+  return choice(what, offAndOn) == 1;
+}
+
+std::size_t Arguments::choice(std::string_view what, std::span<const std::string_view> choices) {
+  const Word* const word = take(what);
+  if (word == nullptr) {
+    return 0;
+  }
+  const auto found = std::ranges::find(choices, word->text);
+  if (found == choices.end()) {
+    complain(std::string(what) + " must be one of " + joined(choices) + ", not " +
+             quoted(word->text));
+    return 0;
+  }
+  return static_cast<std::size_t>(std::distance(choices.begin(), found));
+}
+
+std::optional<std::string> Arguments::option(std::string_view key) {
+  for (std::size_t index = 0; index < words_.size(); ++index) {
+    const Word& word = words_[index];
+    if (!isRead_[index] && word.text.size() > key.size() && word.text.starts_with(key) &&
+        word.text[key.size()] == '=') {
+      isRead_[index] = true;
+      if (word.complaint) {
+        complain(*word.complaint);
+      }
+      return word.text.substr(key.size() + 1);
+    }
+  }
+  return std::nullopt;
+}
+
+std::array<double, 4> Arguments::rectangleOption(std::string_view key) {
+  const std::optional<std::string> value = option(key);
+  if (!value) {
+    complain(std::string(key) + "=X,Y,W,H is missing");
+    return {};
+  }
+  return parseRectangle(key, *value);
+}
+
+bool Arguments::flag(std::string_view word) {
+  for (std::size_t index = 0; index < words_.size(); ++index) {
+    if (!isRead_[index] && words_[index].text == word) {
+      isRead_[index] = true;
+      return true;
+    }
+  }
+  return false;
+}
+
+bool Arguments::keyword(std::string_view word) {
+  const std::optional<std::size_t> place = next();
+  if (!place || words_[*place].text != word) {
+    return false;
+  }
+  isRead_[*place] = true;
+  return true;
+}
+
+std::string_view Arguments::restAsWritten(std::string_view what) {
+  const std::optional<std::size_t> place = next();
+  if (!place) {
+    complain(std::string(what) + " is missing");
+    return {};
+  }
+  std::fill(isRead_.begin(), isRead_.end(), true);
+  const std::size_t begin = words_[*place].begin;
+  return line_.substr(begin, words_.back().end - begin);
+}
+
+std::string Arguments::restAsText() {
+  std::string rest;
+  bool isFirst = true;
+  while (!isEmpty()) {
+    rest += isFirst ? "" : " ";
+    rest += text("the text");
+    isFirst = false;
+  }
+  return rest;
+}
+
+void Arguments::complain(std::string complaint) {
+  if (!complaint_) {
+    complaint_ = std::move(complaint);
+  }
+}
+
+Complaint Arguments::finish() {
+  if (const std::optional<std::size_t> place = next()) {
+    complain("unexpected " + quoted(words_[*place].text));
+  }
+  return complaint_;
+}
+
+std::vector<std::string> splitAtCommas(std::string_view text) {
+  std::vector<std::string> parts;
+  if (text.empty()) {
+    return parts;
+  }
+  std::size_t begin = 0;
+  while (true) {
+    const std::size_t comma = text.find(',', begin);
+    parts.emplace_back(text.substr(begin, comma - begin));
+    if (comma == std::string_view::npos) {
+      return parts;
+    }
+    begin = comma + 1;
+  }
+}
+
+}  // namespace orvane::desk::script

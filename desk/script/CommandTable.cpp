@@ -1,0 +1,60 @@
+// The commands of the script language, by their names. Whoever has commands to add adds them.
+#include "desk/script/CommandTable.hpp"
+
+#include "desk/script/ApplicationCommands.hpp"
+#include "desk/script/DisplayCommands.hpp"
+#include "desk/script/LookingCommands.hpp"
+#include "desk/script/MachineCommands.hpp"
+#include "desk/script/PointerCommands.hpp"
+#include "desk/script/SystemCommands.hpp"
+
+namespace orvane::desk::script {
+
+void CommandTable::add(Command command) {
+  std::string name = command.name;
+  commands_.insert_or_assign(std::move(name), std::move(command));
+}
+
+CommandTable::Found CommandTable::find(std::span<const Word> words) const {
+  const std::string& first = words.front().text;
+  if (words.size() > 1) {
+    const auto found = commands_.find(first + " " + words[1].text);
+    if (found != commands_.end()) {
+      return {&found->second, 2, std::nullopt};
+    }
+  }
+  const auto found = commands_.find(first);
+  if (found != commands_.end()) {
+    return {&found->second, 1, std::nullopt};
+  }
+  const std::string family = familyOf(first);
+  if (family.empty()) {
+    return {nullptr, 0, "unknown command \"" + first + "\""};
+  }
+  const std::string asked = words.size() > 1 ? " \"" + words[1].text + "\"" : " alone";
+  return {nullptr, 0, first + " knows no command" + asked + ", only " + family};
+}
+
+std::string CommandTable::familyOf(std::string_view word) const {
+  const std::string prefix = std::string(word) + " ";
+  std::string family;
+  for (auto entry = commands_.lower_bound(prefix);
+       entry != commands_.end() && entry->first.starts_with(prefix); ++entry) {
+    family += family.empty() ? "" : ", ";
+    family += entry->first.substr(prefix.size());
+  }
+  return family;
+}
+
+CommandTable standardCommands() {
+  CommandTable table;
+  addMachineCommands(table);
+  addDisplayCommands(table);
+  addSystemCommands(table);
+  addApplicationCommands(table);
+  addPointerCommands(table);
+  addLookingCommands(table);
+  return table;
+}
+
+}  // namespace orvane::desk::script

@@ -1,0 +1,114 @@
+// Expectation is what a script expects to hold: a value at a path in something that can be shown.
+#include "desk/script/Expectation.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "desk/script/Decimal.hpp"
+#include "desk/script/JsonText.hpp"
+
+namespace orvane::desk::script {
+
+namespace {
+
+constexpr std::size_t deepestNesting = 100;
+constexpr std::string_view lengthStep = "#";
+
+/// How many brackets and braces are open at once at most, outside of texts.
+std::size_t nestingDepth(std::string_view written) {
+  std::size_t depth = 0;
+  std::size_t deepest = 0;
+  bool isInText = false;
+  for (std::size_t index = 0; index < written.size(); ++index) {
+    const char character = written[index];
+    if (isInText) {
+      index += character == '\\' ? 1 : 0;
+      isInText = character != '"';
+    } else if (character == '"') {
+      isInText = true;
+    } else if (character == '[' || character == '{') {
+      deepest = std::max(deepest, ++depth);
+    } else if ((character == ']' || character == '}') && depth > 0) {
+      --depth;
+    }
+  }
+  return deepest;
+}
+
+/// Null when there is no such place.
+const Json* step(const Json& value, const std::string& part) {
+  if (value.is_object()) {
+    const auto found = value.find(part);
+    return found != value.end() ? &*found : nullptr;
+  }
+  const std::optional<std::int64_t> index = value.is_array() ? parseInteger(part) : std::nullopt;
+  if (index) {
+    const auto count = static_cast<std::int64_t>(value.size());
+    const std::int64_t place = *index < 0 ? count + *index : *index;
+    if (place >= 0 && place < count) {
+      return &value[static_cast<std::size_t>(place)];
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+std::optional<Json> parseJson(std::string_view written) {
+  if (nestingDepth(written) > deepestNesting) {
+    return std::nullopt;
+  }
+  Json value = Json::parse(written, nullptr, /*allow_exceptions=*/false);
+  return value.is_discarded() ? std::nullopt : std::optional(std::move(value));
+}
+
+std::optional<std::vector<std::string>> parsePath(std::string_view path) {
+  std::vector<std::string> parts;
+  while (true) {
+    const std::size_t dot = path.find('.');
+    parts.emplace_back(path.substr(0, dot));
+    if (parts.back().empty()) {
+      return std::nullopt;
+    }
+    if (dot == std::string_view::npos) {
+      return parts;
+    }
+    path.remove_prefix(dot + 1);
+  }
+}
+
+std::optional<Json> valueAt(const Json& root, const std::vector<std::string>& path) {
+  const Json* value = &root;
+  for (std::size_t index = 0; index < path.size(); ++index) {
+    const std::string& part = path[index];
+    if (part == lengthStep && index + 1 == path.size() && value->is_structured()) {
+      return Json(value->size());
+    }
+    value = step(*value, part);
+    if (value == nullptr) {
+      return std::nullopt;
+    }
+  }
+  return *value;
+}
+
+std::optional<Json> valueAt(const Thing& thing, const Json& shown,
+                            const std::vector<std::string>& path) {
+  std::optional<Json> value = valueAt(shown, path);
+  const bool isCount =
+      path.size() == 2 && !thing.countingMember.empty() && path.front() == thing.countingMember;
+  return !value && isCount ? std::optional(Json(0)) : value;
+}
+
+bool isSameJson(const Json& first, const Json& second) {
+  return nlohmann::json(first) == nlohmann::json(second);
+}
+
+std::string failureText(std::string_view path, const Json& expected,
+                        const std::optional<Json>& got) {
+  return "expected " + std::string(path) + " = " + jsonText(expected) + ", got " +
+         (got ? jsonText(*got) : "nothing");
+}
+
+}  // namespace orvane::desk::script

@@ -1,0 +1,19 @@
+// JSON as a script prints it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include <nlohmann/json_fwd.hpp>
+
+namespace orvane::desk::script {
+
+/// On one line, without blanks between its parts. A number is the shortest decimal that reads back
+/// as the same double, without an exponent and, when it is whole, without a fraction; one that is
+/// not finite is null. Malformed UTF-8 becomes the replacement character.
+[[nodiscard]] std::string jsonText(const nlohmann::ordered_json& value);
+
+/// Seconds as a number: the double nearest to the exact decimal.
+[[nodiscard]] double jsonSeconds(std::int64_t nanoseconds);
+
+}  // namespace orvane::desk::script

@@ -1,0 +1,133 @@
+// The lexer splits a line of a script into words.
+#include "desk/script/Lexer.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <utility>
+
+#include "desk/script/Utf8.hpp"
+
+namespace orvane::desk::script {
+
+namespace {
+
+bool isBlank(char character) {
+  return character == ' ' || character == '\t';
+}
+
+bool isControl(char character) {
+  const auto byte = static_cast<unsigned char>(character);
+  return (byte < 0x20 && character != '\t') || byte == 0x7F;
+}
+
+std::string atColumn(std::string_view line, std::size_t place) {
+  return " at column " + std::to_string(characterCount(line.substr(0, place)) + 1);
+}
+
+Complaint complaintAboutBytes(std::string_view line) {
+  if (const auto place = findMalformedUtf8(line)) {
+    return "malformed UTF-8" + atColumn(line, *place);
+  }
+  const auto control = std::ranges::find_if(line, isControl);
+  if (control != line.end()) {
+    return "a control character" + atColumn(line, static_cast<std::size_t>(control - line.begin()));
+  }
+  return std::nullopt;
+}
+
+/// Reads one word from its first character on.
+class WordReader {
+ public:
+  WordReader(std::string_view line, std::size_t begin) : line_(line), place_(begin) {
+    word_.begin = begin;
+  }
+
+  /// False when a quote is left open.
+  bool read() {
+    while (place_ < line_.size() && !isBlank(line_[place_])) {
+      if (line_[place_] != '"') {
+        word_.text += line_[place_++];
+      } else if (!readQuoted()) {
+        return false;
+      }
+    }
+    word_.end = place_;
+    return true;
+  }
+
+  [[nodiscard]] std::size_t place() const { return place_; }
+  Word take() { return std::move(word_); }
+
+ private:
+  bool readQuoted() {
+    const std::size_t quote = place_++;
+    while (place_ < line_.size()) {
+      const char character = line_[place_++];
+      if (character == '"') {
+        return true;
+      }
+      if (character != '\\') {
+        word_.text += character;
+      } else if (place_ < line_.size()) {
+        readEscape();
+      }
+    }
+    place_ = quote;
+    return false;
+  }
+
+  /// From the character after the backslash on.
+  void readEscape() {
+    const char character = line_[place_];
+    switch (character) {
+      case '"':
+      case '\\':
+        word_.text += character;
+        break;
+      case 'n':
+        word_.text += '\n';
+        break;
+      case 't':
+        word_.text += '\t';
+        break;
+      default:
+        if (!word_.complaint) {
+          word_.complaint = "an unknown escape" + atColumn(line_, place_ - 1);
+        }
+        return;
+    }
+    ++place_;
+  }
+
+  std::string_view line_;
+  std::size_t place_;
+  Word word_;
+};
+
+}  // namespace
+
+LexedLine lexLine(std::string_view line) {
+  LexedLine result;
+  if ((result.complaint = complaintAboutBytes(line))) {
+    return result;
+  }
+  std::size_t place = 0;
+  while (true) {
+    while (place < line.size() && isBlank(line[place])) {
+      ++place;
+    }
+    if (place == line.size() || line[place] == '#') {
+      return result;
+    }
+    WordReader reader(line, place);
+    if (!reader.read()) {
+      result.complaint = "a quote is opened" + atColumn(line, reader.place()) + " and not closed";
+      return result;
+    }
+    place = reader.place();
+    result.words.push_back(reader.take());
+  }
+}
+
+}  // namespace orvane::desk::script
