@@ -110,6 +110,22 @@ DesktopLayout::DesktopLayout(const std::vector<CGRect>& frames, DesktopStyle sty
   }
 }
 
+DesktopLayout DesktopLayout::fitted(const std::vector<CGRect>& frames, DesktopStyle style,
+                                    const cairo_rectangle_int_t& area, double maximumScale) {
+  const ui::Size size = sizeInPoints(frames, style);
+  double scale = maximumScale;
+  if (size.width > 0 && size.height > 0) {
+    scale = std::min({scale, area.width / size.width, area.height / size.height});
+  }
+  const int width = roundToPixel(size.width * scale);
+  const int height = roundToPixel(size.height * scale);
+  DesktopLayout layout(
+      frames, style, scale,
+      {area.x + (area.width - width) / 2, area.y + (area.height - height) / 2, width, height});
+  layout.pixels_ = area;
+  return layout;
+}
+
 ui::Size DesktopLayout::sizeInPoints(const std::vector<CGRect>& frames, DesktopStyle style) {
   return sizeOf(placesInPoints(frames, style), style);
 }

@@ -43,6 +43,11 @@ class DesktopLayout {
   DesktopLayout(const std::vector<CGRect>& frames, DesktopStyle style, double scale,
                 cairo_rectangle_int_t origin = {});
 
+  /// The layout in the middle of an area of the picture, as large as it fits but with no more than
+  /// `maximumScale` pixels per point. Its pixels are the whole area.
+  [[nodiscard]] static DesktopLayout fitted(const std::vector<CGRect>& frames, DesktopStyle style,
+                                            const cairo_rectangle_int_t& area, double maximumScale);
+
   /// What the layout needs in points; empty without displays.
   [[nodiscard]] static ui::Size sizeInPoints(const std::vector<CGRect>& frames, DesktopStyle style);
 

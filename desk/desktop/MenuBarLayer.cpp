@@ -17,7 +17,7 @@ constexpr double sideMargin = 14;
 constexpr double baseline = 16.5;
 constexpr double titleSpacing = 20;
 /// The room for the clock's longest text.
-constexpr double clockRoom = 122;
+constexpr double clockRoom = 112;
 constexpr double iconRoom = 32;
 constexpr ui::Font font = ui::Font::system(13, ui::Weight::medium);
 

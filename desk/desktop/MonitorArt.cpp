@@ -41,7 +41,7 @@ bool hasRoomBelow(const DesktopLayout& layout, std::size_t index) {
 }
 
 void paintLaptopBase(CairoCanvas& canvas, const ui::Rect& monitor, bool isDark) {
-  const ui::Rect base{monitor.x - 34, monitor.bottom() - 1, monitor.width + 68, 13};
+  const ui::Rect base{monitor.x - 12, monitor.bottom() - 1, monitor.width + 24, 13};
   const ui::Rgba top = isDark ? ui::Rgba{0.4, 0.41, 0.44, 1} : ui::Rgba{0.84, 0.85, 0.87, 1};
   const ui::Rgba bottom = isDark ? ui::Rgba{0.24, 0.25, 0.28, 1} : ui::Rgba{0.66, 0.67, 0.7, 1};
   const ui::Shape shape = ui::Shape::roundedRectangle(base, 5);

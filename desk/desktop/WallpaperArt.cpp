@@ -121,9 +121,13 @@ void paintStars(cairo_t* context) {
 void paintLight(cairo_t* context, const Palette& palette) {
   const PatternPointer glow(cairo_pattern_create_radial(
       palette.lightX, palette.lightY, 0, palette.lightX, palette.lightY, palette.glowRadius));
-  addStop(glow.get(), 0, palette.light, 0.62);
-  addStop(glow.get(), 0.25, palette.light, 0.26);
-  addStop(glow.get(), 0.6, palette.light, 0.07);
+  // The squares of what is left to the rim, so that the glow ends without one.
+  addStop(glow.get(), 0, palette.light, 0.5);
+  addStop(glow.get(), 0.15, palette.light, 0.36);
+  addStop(glow.get(), 0.3, palette.light, 0.245);
+  addStop(glow.get(), 0.5, palette.light, 0.125);
+  addStop(glow.get(), 0.7, palette.light, 0.045);
+  addStop(glow.get(), 0.85, palette.light, 0.011);
   addStop(glow.get(), 1, palette.light, 0);
   cairo_set_source(context, glow.get());
   cairo_paint(context);

@@ -40,7 +40,7 @@ void addNudgeArrow(cairo_t* context, ui::Point from, const CGVector& nudge) {
 
 void paintZone(cairo_t* context, const TriggerZone& zone) {
   const ui::Rect rect = toRect(zone.rect);
-  setRed(context, 0.34);
+  setRed(context, 0.44);
   cairo_rectangle(context, rect.x, rect.y, rect.width, rect.height);
   cairo_fill(context);
   setRed(context, 0.85);
@@ -64,19 +64,30 @@ void paintZone(cairo_t* context, const TriggerZone& zone) {
   cairo_stroke(context);
 }
 
+/// A ripple around the place that the movement wanted, and the way back.
 void paintMovedBack(cairo_t* context, const MovedBack& movedBack) {
   const double strength = std::clamp(movedBack.strength, 0.0, 1.0);
-  constexpr double smallRing = 9;
-  constexpr double ringGrowth = 16;
-  for (const double part : {1.0, 0.55}) {
-    setRed(context, 0.9 * strength * part);
-    cairo_set_line_width(context, 2.5 * part);
-    cairo_arc(context, movedBack.from.x, movedBack.from.y,
-              smallRing + (2 - strength - part) * ringGrowth, 0, 2 * std::numbers::pi);
-    cairo_stroke(context);
-  }
-  setRed(context, 0.9 * strength);
-  cairo_arc(context, movedBack.from.x, movedBack.from.y, 3, 0, 2 * std::numbers::pi);
+  constexpr double fullTurn = 2 * std::numbers::pi;
+  constexpr double radius = 20;
+  constexpr double growth = 22;
+  const double grown = radius + (1 - strength) * growth;
+  cairo_set_source_rgba(context, 1, 1, 1, 0.28 * strength);
+  cairo_arc(context, movedBack.from.x, movedBack.from.y, grown + 9, 0, fullTurn);
+  cairo_fill(context);
+  setRed(context, 0.95 * strength);
+  cairo_set_line_width(context, 3);
+  cairo_arc(context, movedBack.from.x, movedBack.from.y, grown, 0, fullTurn);
+  cairo_stroke(context);
+  setRed(context, 0.5 * strength);
+  cairo_set_line_width(context, 1.5);
+  cairo_arc(context, movedBack.from.x, movedBack.from.y, grown + 9, 0, fullTurn);
+  cairo_stroke(context);
+  setRed(context, 0.95 * strength);
+  cairo_set_line_width(context, 2);
+  cairo_move_to(context, movedBack.from.x, movedBack.from.y);
+  cairo_line_to(context, movedBack.to.x, movedBack.to.y);
+  cairo_stroke(context);
+  cairo_arc(context, movedBack.from.x, movedBack.from.y, 3, 0, fullTurn);
   cairo_fill(context);
 }
 

@@ -81,11 +81,13 @@ void tellOfPinning(TourStage& stage) {
   stage.model().toggleSelectedDisplayLock();
   machine.runDue();
   stage.showZones();
-  const auto target = stage.model().selectedDisplay();
-  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 1 && target.has_value(),
+  const Display* const target = stage.machine().displays.find(builtIn);
+  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 1,
               "the guard runs with one zone");
-  stage.tell("Pin Dock: the lock closes, the Dock belongs to " + (target ? target->name : "") +
-             ", and " + counted(static_cast<std::int64_t>(zoneCount(stage)), "trigger zone") +
+  stage.check(stage.model().selectedDisplayID().value() == target->uuid,
+              "the Dock's own display is the target");
+  stage.tell("Pin Dock: the lock closes, the Dock belongs to " + target->name + ", and " +
+             counted(static_cast<std::int64_t>(zoneCount(stage)), "trigger zone") +
              " guards the other display.");
 
   const std::int64_t jumps = reveals(stage);
@@ -105,7 +107,8 @@ void tellOfTheModifier(TourStage& stage) {
   machine.advance(0.4);
   stage.check(stage.model().isTemporarilyUnlocked().value() && stage.isDockOn(right),
               "the held key lets the Dock come");
-  stage.tell("While " + std::string(shortcutText(stage.model().temporaryUnlockModifier().value())) +
+  stage.tell("While " +
+             std::string(stage.model().temporaryUnlockModifier().value().shortcutText()) +
              " is held the pointer passes: the Dock may come to " + stage.dockPlace() + ".");
 
   machine.modifierKeys.releaseAll();
@@ -149,7 +152,7 @@ void tellOfPreventing(TourStage& stage) {
   const std::int64_t touches = stage.model().guardService().blockedCount() - blocked;
   stage.check(touches == 80, "all eighty touches were moved back");
   stage.check(reveals(stage) == jumps && !machine.dock.isVisible(), "the Dock never came up");
-  stage.tell(counted(touches, "touch") + "es of both edges: the Dock comes up " +
+  stage.tell(std::to_string(touches) + " touches of both edges: the Dock comes up " +
              counted(reveals(stage) - jumps, "time") + ".");
 }
 

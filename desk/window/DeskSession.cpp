@@ -8,6 +8,13 @@
 
 namespace orvane::desk {
 
+namespace {
+
+/// From midnight, when the machine is switched on, to 10:08.
+constexpr double secondsToMorning = (10 * 60 + 8) * 60;
+
+}  // namespace
+
 DeskSession::DeskSession(std::size_t displayCount) : application_(scope_.machine()) {
   const std::size_t wanted = std::clamp<std::size_t>(displayCount, 1, standardDisplayCount);
   for (std::size_t position = 0; position < wanted; ++position) {
@@ -15,6 +22,8 @@ DeskSession::DeskSession(std::size_t displayCount) : application_(scope_.machine
   }
   const CGRect first = machine().displays.globalFrames().front();
   machine().mouse.moveTo({first.size.width / 2, first.size.height / 2});
+  // The landscape is one by day, so the clock begins by day too.
+  machine().advance(secondsToMorning);
   machine().permission.setTrusted(true);
   application_.launch();
 }

@@ -82,6 +82,10 @@ int SdlWindow::framesPerSecond() const {
   return mode.refresh_rate;
 }
 
+void SdlWindow::showCursor(bool shows) {
+  SDL_ShowCursor(shows ? SDL_ENABLE : SDL_DISABLE);
+}
+
 void SdlWindow::holdMouse(bool hold) {
   if (hold != isMouseHeld_ && SDL_SetRelativeMouseMode(hold ? SDL_TRUE : SDL_FALSE) == 0) {
     isMouseHeld_ = hold;

@@ -33,6 +33,8 @@ class SdlWindow {
 
   /// While held, the mouse leaves the window no more and only its movements count.
   void holdMouse(bool hold);
+  /// Whether the computer's own cursor is seen over the window.
+  void showCursor(bool shows);
   [[nodiscard]] bool isMouseHeld() const { return isMouseHeld_; }
 
  private:

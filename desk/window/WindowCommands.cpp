@@ -28,8 +28,13 @@ std::string pinState(const DeskSession& session) {
   if (!isPinned(session)) {
     return session.machine().permission.isTrusted() ? "Off" : "Needs permission";
   }
-  const auto display = session.application().model().selectedDisplay();
-  return display ? display->name : "Not attached";
+  // By the desk's own name of the display, which is written on its monitor.
+  const auto target = session.application().model().selectedDisplay();
+  const auto& displays = session.machine().displays.all();
+  const auto display = std::find_if(displays.begin(), displays.end(), [&](const auto& other) {
+    return target && CGRectEqualToRect(other.frame, target->frame);
+  });
+  return display == displays.end() ? "Not attached" : display->name;
 }
 
 void pinHere(DeskSession& session) {

@@ -52,8 +52,12 @@ void WindowInput::mouseMoved(const SDL_MouseMotionEvent& event) {
   const WindowLayout layout = layoutOf(window_);
   const DesktopLayout desktop = layout.desktopLayout(session_.machine().displays.globalFrames());
   const double ratio = layout.pixelRatio;
+  const bool isOverDesktop = event.y * ratio < layout.desktop.height;
+  window_.showCursor(!isOverDesktop);
   if (!window_.isMouseHeld()) {
-    if (event.y * ratio >= layout.desktop.height) {
+    if (!isOverDesktop) {
+      // Where it comes back is where the pointer is to be.
+      hasEntered_ = true;
       return;
     }
     if (std::exchange(hasEntered_, false)) {
