@@ -5,11 +5,19 @@
 #include "Orvane/app/OrvaneAppState.hpp"
 #include "Orvane/platform/appkit/Application.hpp"
 
+using orvane::appkit::Application;
+
 int main() {
   @autoreleasepool {
-    NSApplication* const application = NSApplication.sharedApplication;
-    orvane::appkit::Application::setActivationPolicy(orvane::appkit::ActivationPolicy::accessory);
-    orvane::OrvaneAppState::model().restoreLockIfNeeded();
-    [application run];
+    Application::setDelegate({
+        .didFinishLaunching =
+            [] {
+              Application::setActivationPolicy(orvane::appkit::ActivationPolicy::accessory);
+              orvane::OrvaneAppState::model().restoreLockIfNeeded();
+            },
+        .shouldHandleReopen = {},
+        .willTerminate = {},
+    });
+    [NSApplication.sharedApplication run];
   }
 }

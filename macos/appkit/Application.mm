@@ -3,11 +3,99 @@
 
 #import <AppKit/AppKit.h>
 
+#include <utility>
+
+#include "macos/appkit/NativeWindow.hpp"
+
+@interface OrvaneApplicationDelegate : NSObject <NSApplicationDelegate> {
+ @public
+  orvane::appkit::ApplicationDelegate _delegate;
+}
+@end
+
+@implementation OrvaneApplicationDelegate
+
+- (void)applicationDidFinishLaunching:(NSNotification*)notification {
+  if (_delegate.didFinishLaunching) {
+    _delegate.didFinishLaunching();
+  }
+}
+
+- (BOOL)applicationShouldHandleReopen:(NSApplication*)application
+                    hasVisibleWindows:(BOOL)hasVisibleWindows {
+  return !_delegate.shouldHandleReopen || _delegate.shouldHandleReopen(hasVisibleWindows);
+}
+
+- (void)applicationWillTerminate:(NSNotification*)notification {
+  if (_delegate.willTerminate) {
+    _delegate.willTerminate();
+  }
+}
+
+// Nothing of a window is saved, and what is not saved cannot be tampered with.
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)application {
+  return YES;
+}
+
+@end
+
 namespace orvane::appkit {
+
+void Application::setDelegate(ApplicationDelegate delegate) {
+  // The application holds its delegate weakly.
+  static OrvaneApplicationDelegate* native = nil;
+  native = [[OrvaneApplicationDelegate alloc] init];
+  native->_delegate = std::move(delegate);
+  NSApplication.sharedApplication.delegate = native;
+}
 
 void Application::setActivationPolicy(ActivationPolicy policy) {
   [NSApplication.sharedApplication
       setActivationPolicy:static_cast<NSApplicationActivationPolicy>(policy)];
+}
+
+void Application::activateIgnoringOtherApps() {
+  [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
+}
+
+void Application::terminate() {
+  [NSApplication.sharedApplication terminate:nil];
+}
+
+std::optional<Window> Application::keyWindow() {
+  return windowFrom(NSApplication.sharedApplication.keyWindow);
+}
+
+CGPoint Application::mouseLocation() {
+  return NSEvent.mouseLocation;
+}
+
+void Application::runModal(const Window& window, std::function<void(int response)> ended) {
+  NSWindow* const native = window.implementation()->window;
+  keepWhileShown(native);
+  const NSModalResponse response = [NSApplication.sharedApplication runModalForWindow:native];
+  ended(static_cast<int>(response));
+}
+
+void Application::stopModal(int response) {
+  NSApplication* const application = NSApplication.sharedApplication;
+  if (application.modalWindow == nil) {
+    return;
+  }
+  [application stopModalWithCode:response];
+  // The session looks at this when it has had an event, which a timer or a task is not.
+  NSEvent* const nudge = [NSEvent otherEventWithType:NSEventTypeApplicationDefined
+                                            location:NSZeroPoint
+                                       modifierFlags:0
+                                           timestamp:0
+                                        windowNumber:0
+                                             context:nil
+                                             subtype:0
+                                               data1:0
+                                               data2:0];
+  if (nudge != nil) {
+    [application postEvent:nudge atStart:YES];
+  }
 }
 
 }  // namespace orvane::appkit

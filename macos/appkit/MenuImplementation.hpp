@@ -1,0 +1,25 @@
+// The NSMenu behind a Menu, for the controls that show it.
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include <functional>
+
+#include "Orvane/platform/appkit/Menu.hpp"
+
+/// Hears that the menu is about to be shown. A menu holds its delegate weakly, so the menu's
+/// implementation holds it.
+@interface OrvaneMenuDelegate : NSObject <NSMenuDelegate> {
+ @public
+  std::function<void()> _willOpen;
+}
+@end
+
+namespace orvane::appkit {
+
+struct Menu::Implementation {
+  NSMenu* _Nonnull menu;
+  OrvaneMenuDelegate* _Nonnull delegate;
+};
+
+}  // namespace orvane::appkit

@@ -1,0 +1,13 @@
+// The NSView behind a HostingView, for the windows and menus that show it.
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include "Orvane/platform/appkit/HostingView.hpp"
+
+namespace orvane::appkit {
+
+/// The view keeps alive all that it needs.
+[[nodiscard]] NSView* _Nonnull nativeView(const HostingView& view);
+
+}  // namespace orvane::appkit

@@ -1,0 +1,57 @@
+// Items of the status bar by NSStatusItem.
+#include "Orvane/platform/appkit/StatusItem.hpp"
+
+#import <AppKit/AppKit.h>
+
+#include "macos/appkit/ImageImplementation.hpp"
+#include "macos/appkit/MenuImplementation.hpp"
+#include "macos/appkit/Strings.hpp"
+
+namespace orvane::appkit {
+
+struct StatusItem::Implementation {
+  Implementation()
+      : item([NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength]) {
+    item.button.target = nil;
+    item.button.action = nil;
+  }
+  Implementation(const Implementation&) = delete;
+  Implementation& operator=(const Implementation&) = delete;
+  ~Implementation() { [NSStatusBar.systemStatusBar removeStatusItem:item]; }
+
+  NSStatusItem* item;
+  // The item holds the menu, but nobody else the menu's delegate.
+  std::shared_ptr<Menu::Implementation> menu;
+};
+
+StatusItem::StatusItem() : implementation_(std::make_unique<Implementation>()) {}
+StatusItem::StatusItem(StatusItem&&) noexcept = default;
+StatusItem& StatusItem::operator=(StatusItem&&) noexcept = default;
+StatusItem::~StatusItem() = default;
+
+void StatusItem::setSquareLength() {
+  implementation_->item.length = NSSquareStatusItemLength;
+}
+
+void StatusItem::setImagePosition(ImagePosition position) {
+  implementation_->item.button.imagePosition = static_cast<NSCellImagePosition>(position);
+}
+
+void StatusItem::setImageScaling(ImageScaling scaling) {
+  implementation_->item.button.imageScaling = static_cast<NSImageScaling>(scaling);
+}
+
+void StatusItem::setImage(const std::optional<Image>& image) {
+  implementation_->item.button.image = image ? image->implementation()->image : nil;
+}
+
+void StatusItem::setMenu(const Menu& menu) {
+  implementation_->menu = menu.implementation();
+  implementation_->item.menu = menu.implementation()->menu;
+}
+
+void StatusItem::setAutosaveName(std::string_view name) {
+  implementation_->item.autosaveName = foundationString(name);
+}
+
+}  // namespace orvane::appkit

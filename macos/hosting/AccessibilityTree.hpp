@@ -1,0 +1,52 @@
+// Serves the view kit's tree of meanings to VoiceOver and other assistive programs.
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include <cstdint>
+#include <functional>
+#include <map>
+
+#include "Orvane/ui/Semantics.hpp"
+
+/// One element of the tree. It stays the same object while its view keeps its place, which is how
+/// an assistive program keeps its cursor on it.
+@interface OrvaneAccessibilityElement : NSAccessibilityElement
+@end
+
+namespace orvane::appkit {
+
+/// Main thread only.
+class AccessibilityTree {
+ public:
+  using Press = std::function<void(std::uint64_t id)>;
+
+  /// `view` shows the tree and is held weakly; `press` runs the action of an element.
+  AccessibilityTree(NSView* _Nonnull view, Press press);
+
+  /// Takes over what has changed. The root itself is the view, so only its children have elements.
+  void update(const ui::SemanticsNode& root);
+
+  [[nodiscard]] NSArray* _Nonnull children() const { return children_; }
+  /// The element with the keyboard focus; nil when none has it.
+  [[nodiscard]] OrvaneAccessibilityElement* _Nullable focused() const { return focused_; }
+  /// The innermost element at a place on the screen; nil when there is none.
+  [[nodiscard]] id _Nullable elementAt(NSPoint screenPoint) const;
+
+ private:
+  using Elements = std::map<std::uint64_t, OrvaneAccessibilityElement*>;
+
+  NSArray* _Nonnull elementsFor(const std::vector<ui::SemanticsNode>& nodes, id _Nonnull parent,
+                                Elements& present);
+
+  __weak NSView* _Nullable view_;
+  Press press_;
+  Elements elements_;
+  NSArray* _Nonnull children_ = @[];
+  OrvaneAccessibilityElement* _Nullable focused_ = nil;
+};
+
+/// Has an assistive program speak the text, after what it is saying.
+void announce(const std::string& text);
+
+}  // namespace orvane::appkit

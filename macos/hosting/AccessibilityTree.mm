@@ -1,0 +1,161 @@
+// Serves the view kit's tree of meanings to VoiceOver and other assistive programs.
+#include "macos/hosting/AccessibilityTree.hpp"
+
+#include <utility>
+
+#include "macos/appkit/Strings.hpp"
+
+@implementation OrvaneAccessibilityElement {
+ @public
+  __weak NSView* _view;
+  NSRect _frameInView;
+  BOOL _canBePressed;
+  std::function<void()> _press;
+}
+
+// The place on the screen is worked out when it is asked for: the window may have moved.
+- (NSRect)accessibilityFrame {
+  NSView* const view = _view;
+  return view == nil ? NSZeroRect : NSAccessibilityFrameInView(view, _frameInView);
+}
+
+- (BOOL)accessibilityPerformPress {
+  // Pressing may take the element away.
+  const std::function<void()> press = _press;
+  if (_canBePressed && press) {
+    press();
+  }
+  return _canBePressed;
+}
+
+- (BOOL)isAccessibilitySelectorAllowed:(SEL)selector {
+  return selector == @selector(accessibilityPerformPress)
+             ? _canBePressed
+             : [super isAccessibilitySelectorAllowed:selector];
+}
+
+@end
+
+namespace orvane::appkit {
+namespace {
+
+NSAccessibilityRole roleFrom(ui::Role role) {
+  switch (role) {
+    case ui::Role::group:
+      return NSAccessibilityGroupRole;
+    case ui::Role::staticText:
+    case ui::Role::heading:
+      return NSAccessibilityStaticTextRole;
+    case ui::Role::image:
+      return NSAccessibilityImageRole;
+    case ui::Role::button:
+      return NSAccessibilityButtonRole;
+    case ui::Role::toggle:
+      return NSAccessibilityCheckBoxRole;
+    case ui::Role::radioButton:
+      return NSAccessibilityRadioButtonRole;
+    case ui::Role::popUpButton:
+      return NSAccessibilityPopUpButtonRole;
+    case ui::Role::link:
+      return NSAccessibilityLinkRole;
+    case ui::Role::scrollArea:
+      return NSAccessibilityScrollAreaRole;
+  }
+  return NSAccessibilityUnknownRole;
+}
+
+/// A switch and a radio button say by a number whether they are on; a text is its own value.
+id valueFrom(const ui::SemanticsNode& node) {
+  switch (node.role) {
+    case ui::Role::toggle:
+    case ui::Role::radioButton:
+      return @(node.isSelected);
+    case ui::Role::staticText:
+    case ui::Role::heading:
+      return foundationString(node.value.empty() ? node.label : node.value);
+    default:
+      return node.value.empty() ? nil : foundationString(node.value);
+  }
+}
+
+void describe(OrvaneAccessibilityElement* element, const ui::SemanticsNode& node) {
+  element.accessibilityRole = roleFrom(node.role);
+  element.accessibilitySubrole = node.role == ui::Role::toggle ? NSAccessibilitySwitchSubrole : nil;
+  element.accessibilityLabel = foundationString(node.label);
+  element.accessibilityValue = valueFrom(node);
+  element.accessibilityEnabled = node.isEnabled;
+  element.accessibilitySelected = node.isSelected;
+  element.accessibilityFocused = node.isFocused;
+  element->_frameInView =
+      NSMakeRect(node.frame.x, node.frame.y, node.frame.width, node.frame.height);
+  element->_canBePressed = node.isControl() && node.isEnabled;
+}
+
+}  // namespace
+
+AccessibilityTree::AccessibilityTree(NSView* view, Press press)
+    : view_(view), press_(std::move(press)) {}
+
+NSArray* AccessibilityTree::elementsFor(const std::vector<ui::SemanticsNode>& nodes, id parent,
+                                        Elements& present) {
+  NSMutableArray* const elements = [[NSMutableArray alloc] init];
+  for (const ui::SemanticsNode& node : nodes) {
+    const auto known = elements_.find(node.id);
+    OrvaneAccessibilityElement* const element =
+        known == elements_.end() ? [[OrvaneAccessibilityElement alloc] init] : known->second;
+    present.emplace(node.id, element);
+    element->_view = view_;
+    element->_press = [press = press_, id = node.id] { press(id); };
+    element.accessibilityParent = parent;
+    describe(element, node);
+    if (node.isFocused) {
+      focused_ = element;
+    }
+    element.accessibilityChildren = elementsFor(node.children, element, present);
+    [elements addObject:element];
+  }
+  return elements;
+}
+
+void AccessibilityTree::update(const ui::SemanticsNode& root) {
+  NSView* const view = view_;
+  if (view == nil) {
+    return;
+  }
+  Elements present;
+  focused_ = nil;
+  children_ = elementsFor(root.children, view, present);
+  elements_ = std::move(present);
+}
+
+id AccessibilityTree::elementAt(NSPoint screenPoint) const {
+  id found = nil;
+  NSArray* level = children_;
+  // What is drawn last lies on top; inside an element, its own children come before itself.
+  for (BOOL goesOn = YES; goesOn;) {
+    goesOn = NO;
+    for (OrvaneAccessibilityElement* element in level.reverseObjectEnumerator) {
+      if (NSPointInRect(screenPoint, element.accessibilityFrame)) {
+        found = element;
+        level = element.accessibilityChildren;
+        goesOn = YES;
+        break;
+      }
+    }
+  }
+  return found;
+}
+
+void announce(const std::string& text) {
+  NSString* const announcement = foundationString(text);
+  if (announcement == nil) {
+    return;
+  }
+  NSAccessibilityPostNotificationWithUserInfo(
+      NSApplication.sharedApplication, NSAccessibilityAnnouncementRequestedNotification, @{
+        NSAccessibilityAnnouncementKey : announcement,
+        NSAccessibilityPriorityKey : @(NSAccessibilityPriorityMedium),
+      });
+}
+
+}  // namespace orvane::appkit

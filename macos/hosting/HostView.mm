@@ -1,0 +1,365 @@
+// The view that shows a tree of the view kit: it draws what is dirty, passes on the pointer and the
+// keys, and serves the tree of meanings.
+#include "macos/hosting/HostView.hpp"
+
+#import <QuartzCore/QuartzCore.h>
+
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "macos/appkit/Strings.hpp"
+#include "macos/canvas/CoreTextMeasurer.hpp"
+#include "macos/canvas/QuartzCanvas.hpp"
+#include "macos/canvas/SystemColors.hpp"
+#include "macos/canvas/SystemImages.hpp"
+#include "macos/hosting/AccessibilityTree.hpp"
+#include "macos/hosting/FileDrag.hpp"
+#include "macos/hosting/FrameSource.hpp"
+#include "macos/hosting/KeyTranslation.hpp"
+#include "macos/hosting/PopUpMenu.hpp"
+
+namespace appkit = orvane::appkit;
+namespace ui = orvane::ui;
+
+namespace {
+
+ui::Rect rectFrom(NSRect rect) {
+  return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+NSRect rectFrom(const ui::Rect& rect) {
+  return NSMakeRect(rect.x, rect.y, rect.width, rect.height);
+}
+
+ui::TextMeasurer& textMeasurer() {
+  static appkit::CoreTextMeasurer measurer;
+  return measurer;
+}
+
+}  // namespace
+
+@implementation OrvaneHostView {
+  // The order matters at the end: the host goes first, and with it all that calls the others.
+  std::function<void()> _dismiss;
+  std::unique_ptr<appkit::FrameSource> _frames;
+  std::unique_ptr<appkit::AccessibilityTree> _accessibility;
+  BOOL _meaningsHaveChanged;
+  std::optional<ui::Tooltip> _tooltip;
+  std::unique_ptr<ui::ViewHost> _host;
+}
+
+- (instancetype)initWithRoot:(ui::ViewHost::RootBuilder)buildRoot {
+  self = [super initWithFrame:NSZeroRect];
+  if (self == nil) {
+    return nil;
+  }
+  __weak OrvaneHostView* const weakSelf = self;
+  _meaningsHaveChanged = YES;
+  _frames = std::make_unique<appkit::FrameSource>(self, [weakSelf] { [weakSelf frameComes]; });
+  _accessibility = std::make_unique<appkit::AccessibilityTree>(
+      self, [weakSelf](std::uint64_t identifier) { [weakSelf press:identifier]; });
+  ui::HostServices services;
+  services.requestRedraw = [weakSelf] { weakSelf.needsLayout = YES; };
+  services.requestFrames = [weakSelf] { [weakSelf startFrames]; };
+  services.openMenu = [weakSelf](const ui::MenuRequest& request) { [weakSelf openMenu:request]; };
+  services.beginDrag = [weakSelf](const ui::DragRequest& request) {
+    if (OrvaneHostView* const view = weakSelf; view != nil) {
+      appkit::beginFileDrag(request, view);
+    }
+  };
+  services.dismiss = [weakSelf] { [weakSelf dismiss]; };
+  services.announce = appkit::announce;
+  services.semanticsChanged = [weakSelf] { [weakSelf meaningsChange]; };
+  _host = std::make_unique<ui::ViewHost>(ui::HostPlatform{
+      &textMeasurer(), appkit::systemImageSource(), appkit::systemColor, std::move(services)});
+  _host->setRoot(std::move(buildRoot));
+  [self takeOverAppearance];
+  [NSWorkspace.sharedWorkspace.notificationCenter
+      addObserver:self
+         selector:@selector(displayOptionsDidChange:)
+             name:NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification
+           object:nil];
+  return self;
+}
+
+- (ui::ViewHost&)host {
+  return *_host;
+}
+
+- (void)setDismiss:(std::function<void()>)dismiss {
+  _dismiss = std::move(dismiss);
+}
+
+- (void)dismiss {
+  // It may end this view.
+  const std::function<void()> dismiss = _dismiss;
+  if (dismiss) {
+    dismiss();
+  }
+}
+
+#pragma mark Layout and drawing
+
+- (BOOL)isFlipped {
+  return YES;
+}
+
+- (void)setFrameSize:(NSSize)size {
+  [super setFrameSize:size];
+  // The first call comes from the initialiser of the superclass, before there is a host.
+  if (_host != nullptr) {
+    _host->setSize({size.width, size.height});
+  }
+}
+
+- (void)layout {
+  [super layout];
+  [self update];
+}
+
+- (void)update {
+  _host->tick(CACurrentMediaTime());
+  for (const ui::Rect& dirty : _host->takeDirtyRects()) {
+    [self setNeedsDisplayInRect:rectFrom(dirty)];
+  }
+}
+
+- (void)frameComes {
+  [self update];
+  if (!_host->nextFrameWanted()) {
+    _frames->stop();
+  }
+}
+
+- (void)startFrames {
+  if (self.window != nil) {
+    _frames->start();
+  }
+}
+
+- (void)drawRect:(NSRect)dirtyRect {
+  CGContextRef const context = NSGraphicsContext.currentContext.CGContext;
+  const CGFloat scale = self.window == nil ? 1 : self.window.backingScaleFactor;
+  appkit::QuartzCanvas canvas(context, scale);
+  const NSRect* areas = nullptr;
+  NSInteger count = 0;
+  [self getRectsBeingDrawn:&areas count:&count];
+  for (NSInteger index = 0; index < count; ++index) {
+    _host->paint(canvas, rectFrom(NSIntersectionRect(areas[index], self.bounds)));
+  }
+}
+
+#pragma mark Surroundings
+
+- (void)viewDidMoveToWindow {
+  [super viewDidMoveToWindow];
+  _frames->stop();
+  if (self.window == nil) {
+    _host->pointerExited();
+  } else {
+    [self takeOverAppearance];
+    self.needsLayout = YES;
+  }
+  if (_host->nextFrameWanted()) {
+    [self startFrames];
+  }
+}
+
+- (void)viewDidChangeBackingProperties {
+  [super viewDidChangeBackingProperties];
+  self.needsDisplay = YES;
+}
+
+- (void)viewDidChangeEffectiveAppearance {
+  [super viewDidChangeEffectiveAppearance];
+  [self takeOverAppearance];
+}
+
+- (void)displayOptionsDidChange:(NSNotification*)notification {
+  [self takeOverAppearance];
+}
+
+- (void)takeOverAppearance {
+  _host->setAppearance(appkit::appearanceFrom(self.effectiveAppearance));
+  // Another accent colour is another picture of an equal appearance.
+  self.needsDisplay = YES;
+}
+
+#pragma mark Pointer
+
+- (ui::Point)pointOf:(NSEvent*)event {
+  const NSPoint point = [self convertPoint:event.locationInWindow fromView:nil];
+  return {point.x, point.y};
+}
+
+- (void)updateTrackingAreas {
+  [super updateTrackingAreas];
+  for (NSTrackingArea* area in self.trackingAreas.copy) {
+    if (area.owner == self) {
+      [self removeTrackingArea:area];
+    }
+  }
+  // Always: a panel and a menu hear of the pointer while another application is active.
+  [self addTrackingArea:[[NSTrackingArea alloc]
+                            initWithRect:NSZeroRect
+                                 options:NSTrackingMouseEnteredAndExited | NSTrackingMouseMoved |
+                                         NSTrackingActiveAlways | NSTrackingInVisibleRect
+                                   owner:self
+                                userInfo:nil]];
+}
+
+- (BOOL)acceptsFirstMouse:(NSEvent*)event {
+  return YES;
+}
+
+// Whether a press moves the window depends on the place; mouseDown: decides.
+- (BOOL)mouseDownCanMoveWindow {
+  return NO;
+}
+
+- (void)mouseEntered:(NSEvent*)event {
+  [self mouseMoved:event];
+}
+
+- (void)mouseMoved:(NSEvent*)event {
+  const ui::Point point = [self pointOf:event];
+  [self update];
+  _host->pointerMoved(point);
+  [self showTooltip:_host->tooltipAt(point)];
+}
+
+- (void)mouseExited:(NSEvent*)event {
+  [self update];
+  _host->pointerExited();
+}
+
+- (void)mouseDown:(NSEvent*)event {
+  [self update];
+  if (!_host->pointerDown([self pointOf:event]) && self.window.movableByWindowBackground) {
+    [self.window performWindowDragWithEvent:event];
+  }
+}
+
+- (void)mouseDragged:(NSEvent*)event {
+  [self update];
+  _host->pointerDragged([self pointOf:event]);
+}
+
+- (void)mouseUp:(NSEvent*)event {
+  [self update];
+  _host->pointerUp([self pointOf:event]);
+}
+
+- (void)scrollWheel:(NSEvent*)event {
+  // A wheel counts in lines.
+  const CGFloat pointsPerUnit = event.hasPreciseScrollingDeltas ? 1 : 10;
+  [self update];
+  if (!_host->scroll([self pointOf:event], -event.scrollingDeltaX * pointsPerUnit,
+                     -event.scrollingDeltaY * pointsPerUnit)) {
+    [super scrollWheel:event];
+  }
+}
+
+- (void)showTooltip:(const std::optional<ui::Tooltip>&)tooltip {
+  const bool isSame =
+      tooltip.has_value() == _tooltip.has_value() &&
+      (!tooltip || (tooltip->text == _tooltip->text && tooltip->frame == _tooltip->frame));
+  if (isSame) {
+    return;
+  }
+  _tooltip = tooltip;
+  [self removeAllToolTips];
+  if (tooltip) {
+    [self addToolTipRect:rectFrom(tooltip->frame) owner:self userData:nullptr];
+  }
+}
+
+- (NSString*)view:(NSView*)view
+    stringForToolTip:(NSToolTipTag)tag
+               point:(NSPoint)point
+            userData:(void*)data {
+  NSString* const text = _tooltip ? appkit::foundationString(_tooltip->text) : nil;
+  return text == nil ? @"" : text;
+}
+
+#pragma mark Keyboard
+
+- (BOOL)acceptsFirstResponder {
+  return YES;
+}
+
+- (BOOL)handleKey:(NSEvent*)event {
+  const std::optional<ui::KeyEvent> key = appkit::keyEventFrom(event);
+  if (!key) {
+    return NO;
+  }
+  [self update];
+  return _host->keyDown(*key);
+}
+
+- (void)keyDown:(NSEvent*)event {
+  if (![self handleKey:event]) {
+    [super keyDown:event];
+  }
+}
+
+- (BOOL)performKeyEquivalent:(NSEvent*)event {
+  const bool hasCommand = (event.modifierFlags & NSEventModifierFlagCommand) != 0;
+  return (hasCommand && [self handleKey:event]) || [super performKeyEquivalent:event];
+}
+
+#pragma mark Services
+
+- (void)openMenu:(const ui::MenuRequest&)request {
+  // The menu runs a loop of its own: not from within the handler that asks for it, and not from a
+  // task of the main queue, which would stand still meanwhile.
+  __weak OrvaneHostView* const weakSelf = self;
+  [NSRunLoop.mainRunLoop performInModes:@[ NSRunLoopCommonModes ]
+                                  block:^{
+                                    if (OrvaneHostView* const view = weakSelf; view != nil) {
+                                      appkit::runPopUpMenu(request, view);
+                                    }
+                                  }];
+}
+
+#pragma mark Accessibility
+
+- (void)meaningsChange {
+  _meaningsHaveChanged = YES;
+  NSAccessibilityPostNotification(self, NSAccessibilityLayoutChangedNotification);
+}
+
+- (void)press:(std::uint64_t)identifier {
+  [self update];
+  _host->perform(identifier, ui::SemanticsAction::press);
+}
+
+- (appkit::AccessibilityTree&)accessibilityTree {
+  if (_meaningsHaveChanged || _host->needsUpdate()) {
+    [self update];
+    _meaningsHaveChanged = NO;
+    _accessibility->update(_host->semantics());
+  }
+  return *_accessibility;
+}
+
+- (BOOL)isAccessibilityElement {
+  return NO;
+}
+
+- (NSArray*)accessibilityChildren {
+  return self.accessibilityTree.children();
+}
+
+- (id)accessibilityFocusedUIElement {
+  OrvaneAccessibilityElement* const focused = self.accessibilityTree.focused();
+  return focused == nil ? [super accessibilityFocusedUIElement] : focused;
+}
+
+- (id)accessibilityHitTest:(NSPoint)point {
+  id const hit = self.accessibilityTree.elementAt(point);
+  return hit == nil ? [super accessibilityHitTest:point] : hit;
+}
+
+@end

@@ -1,0 +1,18 @@
+// What a HostingView is to the window system: the host view, with a backdrop behind it and corners
+// around both.
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include "macos/hosting/HostView.hpp"
+
+@interface OrvaneHostingContainer : NSView
+
+- (nonnull instancetype)initWithHostView:(OrvaneHostView* _Nonnull)hostView;
+
+@property(readonly, nonnull) OrvaneHostView* hostView;
+@property BOOL respectsSafeArea;
+/// Whether the blurred picture of what lies behind the window is behind the content.
+@property BOOL showsBackdrop;
+
+@end

@@ -1,0 +1,70 @@
+// Views of the window system that show a tree of the view kit.
+#include "Orvane/platform/appkit/HostingView.hpp"
+
+#import <QuartzCore/QuartzCore.h>
+
+#include <utility>
+
+#include "macos/appkit/NativeView.hpp"
+#include "macos/hosting/HostingContainer.hpp"
+
+namespace orvane::appkit {
+
+struct HostingView::Implementation {
+  explicit Implementation(RootBuilder buildRoot)
+      : container([[OrvaneHostingContainer alloc]
+            initWithHostView:[[OrvaneHostView alloc] initWithRoot:std::move(buildRoot)]]) {}
+
+  OrvaneHostingContainer* container;
+};
+
+NSView* nativeView(const HostingView& view) {
+  return view.implementation()->container;
+}
+
+HostingView::HostingView(RootBuilder buildRoot)
+    : implementation_(std::make_shared<Implementation>(std::move(buildRoot))) {}
+
+void HostingView::setNeedsUpdate() {
+  implementation_->container.hostView.host.invalidate();
+}
+
+void HostingView::setFrame(CGRect frame) {
+  implementation_->container.frame = frame;
+}
+
+CGRect HostingView::frame() const {
+  return implementation_->container.frame;
+}
+
+CGSize HostingView::fittingSize() const {
+  const ui::Size size = implementation_->container.hostView.host.intrinsicSize();
+  return CGSizeMake(size.width, size.height);
+}
+
+void HostingView::setRespectsSafeArea(bool respects) {
+  implementation_->container.respectsSafeArea = respects;
+}
+
+bool HostingView::respectsSafeArea() const {
+  return implementation_->container.respectsSafeArea;
+}
+
+void HostingView::setLayerCorners(double radius, CornerCurve curve, bool masksToBounds) {
+  OrvaneHostingContainer* const container = implementation_->container;
+  container.wantsLayer = YES;
+  container.layer.cornerRadius = radius;
+  container.layer.cornerCurve =
+      curve == CornerCurve::continuous ? kCACornerCurveContinuous : kCACornerCurveCircular;
+  container.layer.masksToBounds = masksToBounds;
+}
+
+void HostingView::setBackdrop(Backdrop backdrop) {
+  implementation_->container.showsBackdrop = backdrop == Backdrop::behindWindow;
+}
+
+void HostingView::onDismiss(std::function<void()> dismiss) {
+  [implementation_->container.hostView setDismiss:std::move(dismiss)];
+}
+
+}  // namespace orvane::appkit

@@ -1,0 +1,15 @@
+// From the window system's key events to the view kit's.
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include <optional>
+
+#include "Orvane/ui/KeyboardShortcut.hpp"
+
+namespace orvane::appkit {
+
+/// None for an event that types nothing, and for anything but a key that goes down.
+[[nodiscard]] std::optional<ui::KeyEvent> keyEventFrom(NSEvent* _Nonnull event);
+
+}  // namespace orvane::appkit

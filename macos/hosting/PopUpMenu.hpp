@@ -1,0 +1,14 @@
+// The native pop-up menu of a picker.
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include "Orvane/ui/HostServices.hpp"
+
+namespace orvane::appkit {
+
+/// Shows the menu over its anchor in `view`, whose coordinates are flipped, and returns when it has
+/// been closed; a choice has then been reported.
+void runPopUpMenu(const ui::MenuRequest& request, NSView* _Nonnull view);
+
+}  // namespace orvane::appkit
