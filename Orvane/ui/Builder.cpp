@@ -162,7 +162,7 @@ void Builder::enter(Node& node, bool isMade) {
 
 std::optional<Curve> Builder::transitionCurve(const Node& moved) const {
   const std::optional<Curve>& own = moved.element->transition()->curve;
-  return own && !moved.environment->appearance.reduceMotion ? own : curve_;
+  return own ? own : curve_;
 }
 
 void Builder::remove(Node& parent, std::unique_ptr<Node> node) {

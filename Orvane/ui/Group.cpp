@@ -1,6 +1,8 @@
 // A group outside of a container.
 #include "Orvane/ui/Group.hpp"
 
+#include <algorithm>
+
 #include "Orvane/ui/Builder.hpp"
 #include "Orvane/ui/LayoutPass.hpp"
 
@@ -19,6 +21,15 @@ GroupElement::GroupElement(const std::vector<View>& members) {
 
 void GroupElement::build(Node& node, Builder& builder) const {
   builder.children(node, members_, node.environment);
+}
+
+Size GroupElement::measure(Node& node, const Proposal& proposal, LayoutPass& pass) const {
+  Size result;
+  for (const auto& child : node.children) {
+    const Size size = pass.measure(*child, proposal);
+    result = {std::max(result.width, size.width), std::max(result.height, size.height)};
+  }
+  return result;
 }
 
 void GroupElement::place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const {

@@ -15,6 +15,7 @@ class GroupElement final : public Element {
 
   const std::vector<View>& members() const { return members_; }
   void build(Node& node, Builder& builder) const override;
+  Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override;
   void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override;
 
  private:

@@ -110,6 +110,7 @@ void Presenter::note(Node& node, const Inherited& inner) {
 bool Presenter::settle(Node& node) {
   bool moves = false;
   const auto check = [&](AnimatedValue& value) {
+    // Whatever started the motion, those who want none see its end.
     if (node.environment->appearance.reduceMotion) {
       value.jump(value.target());
     }

@@ -128,9 +128,7 @@ void ViewHost::layoutIfNeeded() {
 std::vector<std::function<void()>> ViewHost::rebuild() {
   isUpdating_ = true;
   needsUpdate_ = false;
-  const std::optional<Curve> curve =
-      appearance_.reduceMotion ? std::nullopt : std::exchange(pendingCurve_, std::nullopt);
-  pendingCurve_.reset();
+  const std::optional<Curve> curve = std::exchange(pendingCurve_, std::nullopt);
   const auto environment = rootEnvironment();
   Builder builder({now_, &colors_, &nodeCount_, curve});
   builder.root(root_, builder_ ? builder_(*environment) : View(), environment);

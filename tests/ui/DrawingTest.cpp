@@ -199,6 +199,36 @@ TEST_F(DirtyTest, shadowsReachBeyondTheirViewAndClipsCutThem) {
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{40, 0, 20, 20}}));
 }
 
+TEST_F(DirtyTest, clipsInsideOfOneAnotherCutTogether) {
+  Color color = Color::white();
+  test.show([&](const Environment&) {
+    return Rectangle()
+        .fill(color)
+        .frame(40, 20)
+        .offset(10, 0)
+        .clip(ShapeForm::rectangle())
+        .frame(20, 20)
+        .clip(ShapeForm::rectangle());
+  });
+  color = Color::red();
+  EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{40, 0, 20, 20}}));
+}
+
+TEST_F(DirtyTest, whatHasMovedAwayIsRepaintedWhenItIsGone) {
+  bool isShown = true;
+  test.show([&](const Environment&) -> View {
+    return ZStack({when(isShown, box(Color::white()).transition(Transition::scale(0.5)))})
+        .animation(Curve::linear(1), isShown);
+  });
+  isShown = false;
+  dirtyAfterUpdate();
+  test.at(0.999);
+  test.host->takeDirtyRects();
+  test.at(1);
+  EXPECT_FALSE(test.host->takeDirtyRects().empty());
+  EXPECT_EQ(test.drawing().find("fill"), std::string::npos);
+}
+
 TEST_F(DirtyTest, aLayersOpacityRepaintsEverythingInIt) {
   double opacity = 1;
   test.show([&](const Environment&) {

@@ -263,10 +263,15 @@ TEST_F(PointerTest, aDragBeginsAfterAFewPointsAndClicksNothing) {
 }
 
 TEST_F(PointerTest, aDragSourceWithoutAnItemStartsNothing) {
-  test.show(Rectangle().dragSource([] { return std::nullopt; }));
+  test.show(Rectangle().dragSource([this]() -> std::optional<DragItem> {
+    log += "?";
+    return std::nullopt;
+  }));
   test.host->pointerDown({20, 10});
   test.host->pointerDragged({35, 10});
+  test.host->pointerDragged({36, 10});
   EXPECT_TRUE(test.drags.empty());
+  EXPECT_EQ(log, "?") << "it is asked once";
   EXPECT_TRUE(test.host->pointerUp({35, 10}));
 }
 

@@ -99,6 +99,19 @@ TEST_F(TransitionTest, aTransitionMayBringItsOwnCurve) {
   EXPECT_TRUE(draws("opacity 0.5"));
 }
 
+TEST_F(TransitionTest, withReducedMotionAViewIsThereOrGoneAtOnce) {
+  Appearance appearance;
+  appearance.reduceMotion = true;
+  test.host->setAppearance(appearance);
+  showWith(Transition::opacity().animated(Curve::linear(2)));
+  setShown(false);
+  EXPECT_FALSE(draws("text \"a\""));
+  setShown(true);
+  EXPECT_TRUE(draws("text \"a\""));
+  EXPECT_FALSE(draws("layer"));
+  EXPECT_FALSE(test.host->nextFrameWanted());
+}
+
 TEST_F(TransitionTest, aLeavingLayerStaysWhereItWas) {
   test.show([&](const Environment&) -> View {
     const View badge = Text("a").font(Font::system(10)).transition(Transition::opacity());

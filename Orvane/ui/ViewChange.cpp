@@ -18,7 +18,7 @@ class AnimationElement final : public WrapperElement {
     const auto* previous = std::any_cast<EquatableValue>(&node.data);
     const bool hasChanged = previous != nullptr && !(*previous == value_);
     node.data = value_;
-    if (hasChanged && !node.environment->appearance.reduceMotion) {
+    if (hasChanged) {
       node.curve = curve_;
       const Builder::CurveScope scope(builder, curve_);
       WrapperElement::build(node, builder);
