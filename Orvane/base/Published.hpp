@@ -39,7 +39,7 @@ class Published {
 
  private:
   T value_;
-  mutable Signal changed_;
+  Signal changed_;
   Signal* anyChange_;
 };
 

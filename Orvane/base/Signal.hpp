@@ -1,7 +1,6 @@
 // Signal tells its observers, in the order they came, that something happened.
 #pragma once
 
-#include <cstddef>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -16,6 +15,11 @@ class Subscription {
   Subscription() = default;
   explicit Subscription(std::shared_ptr<std::function<void()>> observer)
       : observer_(std::move(observer)) {}
+  Subscription(const Subscription&) = delete;
+  Subscription& operator=(const Subscription&) = delete;
+  Subscription(Subscription&&) = default;
+  Subscription& operator=(Subscription&&) = default;
+  ~Subscription() = default;
 
   /// The observer is not called any more, even by a notification that is under way.
   void cancel() { observer_.reset(); }
@@ -29,19 +33,19 @@ class Subscription {
 /// being told; one that subscribes during a notification hears of the next.
 class Signal {
  public:
-  Signal() : observers_(std::make_shared<Observers>()) {}
+  Signal() = default;
   Signal(const Signal&) = delete;
   Signal& operator=(const Signal&) = delete;
 
   [[nodiscard]] Subscription observe(std::function<void()> observer) const {
     auto owned = std::make_shared<std::function<void()>>(std::move(observer));
-    std::erase_if(*observers_, [](const auto& weak) { return weak.expired(); });
-    observers_->push_back(owned);
+    std::erase_if(observers_, [](const auto& weak) { return weak.expired(); });
+    observers_.push_back(owned);
     return Subscription(std::move(owned));
   }
 
   void notify() const {
-    const Observers told = *observers_;
+    const Observers told = observers_;
     for (const auto& weak : told) {
       if (const auto observer = weak.lock()) {
         (*observer)();
@@ -51,7 +55,7 @@ class Signal {
 
  private:
   using Observers = std::vector<std::weak_ptr<std::function<void()>>>;
-  std::shared_ptr<Observers> observers_;
+  mutable Observers observers_;
 };
 
 }  // namespace orvane

@@ -2,6 +2,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -10,6 +11,10 @@
 
 namespace orvane {
 namespace {
+
+// A copy would go on hearing after the original was cancelled.
+static_assert(!std::is_copy_constructible_v<Subscription>);
+static_assert(std::is_nothrow_move_constructible_v<Subscription>);
 
 TEST(SignalTest, ObserversAreToldInTheOrderTheyCame) {
   Signal signal;
