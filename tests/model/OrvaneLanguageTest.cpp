@@ -1,0 +1,136 @@
+// Which of the two languages is spoken.
+#include <array>
+#include <regex>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "Orvane/model/OrvaneLanguage.hpp"
+#include "tests/support/IdentifierGenerator.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using Identifiers = std::vector<std::string>;
+
+OrvaneLanguage preferred(const Identifiers& identifiers, std::string_view fallback) {
+  return OrvaneLanguage::systemPreferred(identifiers, fallback);
+}
+
+TEST(OrvaneLanguageTest, TheCasesKeepTheirOrderAndRawTexts) {
+  EXPECT_EQ(OrvaneLanguage::allCases,
+            (std::array{OrvaneLanguage::system, OrvaneLanguage::english, OrvaneLanguage::chinese}));
+  EXPECT_EQ(OrvaneLanguage(OrvaneLanguage::system).rawValue(), "system");
+  EXPECT_EQ(OrvaneLanguage(OrvaneLanguage::english).rawValue(), "english");
+  EXPECT_EQ(OrvaneLanguage(OrvaneLanguage::chinese).rawValue(), "chinese");
+  EXPECT_EQ(OrvaneLanguage::defaultsKey, "appLanguage");
+}
+
+TEST(OrvaneLanguageTest, RawTextsReadBackAndAnyOtherTextIsTheSystem) {
+  for (const OrvaneLanguage language : OrvaneLanguage::allCases) {
+    EXPECT_EQ(OrvaneLanguage::fromRawValue(language.rawValue()), language);
+  }
+  for (const char* const text : {"", "English", "zh", "chinese ", "klingon"}) {
+    EXPECT_EQ(OrvaneLanguage::fromRawValue(text), OrvaneLanguage::system) << text;
+  }
+}
+
+TEST(OrvaneLanguageTest, FrenchThenChineseIsChinese) {
+  EXPECT_EQ(preferred({"fr-FR", "zh-Hans-CN"}, "fr_FR"), OrvaneLanguage::chinese);
+}
+
+TEST(OrvaneLanguageTest, FrenchThenGermanWithAnEnglishFallbackIsEnglish) {
+  EXPECT_EQ(preferred({"fr-FR", "de-DE"}, "en_US"), OrvaneLanguage::english);
+}
+
+TEST(OrvaneLanguageTest, FrenchAloneIsEnglish) {
+  EXPECT_EQ(preferred({"fr-FR"}, "fr_FR"), OrvaneLanguage::english);
+}
+
+TEST(OrvaneLanguageTest, CaseBlanksAndUnderscoresDoNotMatter) {
+  EXPECT_EQ(preferred({"  ZH_tw \n"}, "en_US"), OrvaneLanguage::chinese);
+  EXPECT_EQ(preferred({"\tEN_gb"}, "zh_CN"), OrvaneLanguage::english);
+}
+
+TEST(OrvaneLanguageTest, WhatOnlyBeginsWithTheLettersIsSkipped) {
+  EXPECT_EQ(preferred({"zhx"}, "en_US"), OrvaneLanguage::english);
+  EXPECT_EQ(preferred({"zhx"}, "zh_CN"), OrvaneLanguage::chinese);
+  EXPECT_EQ(preferred({"english"}, "zh_CN"), OrvaneLanguage::chinese);
+  EXPECT_EQ(preferred({"english"}, ""), OrvaneLanguage::english);
+}
+
+TEST(OrvaneLanguageTest, TheBareLanguageCounts) {
+  EXPECT_EQ(preferred({"zh"}, "en_US"), OrvaneLanguage::chinese);
+  EXPECT_EQ(preferred({"en"}, "zh_CN"), OrvaneLanguage::english);
+  EXPECT_EQ(preferred({"zh-"}, "en_US"), OrvaneLanguage::chinese);
+}
+
+TEST(OrvaneLanguageTest, WithoutPreferencesTheFallbackDecides) {
+  EXPECT_EQ(preferred({}, "zh_CN"), OrvaneLanguage::chinese);
+  EXPECT_EQ(preferred({}, "en_US"), OrvaneLanguage::english);
+  EXPECT_EQ(preferred({}, ""), OrvaneLanguage::english);
+}
+
+TEST(OrvaneLanguageTest, TheFirstThatNamesEitherLanguageWins) {
+  EXPECT_EQ(preferred({"en-US", "zh-Hans"}, "zh_CN"), OrvaneLanguage::english);
+  EXPECT_EQ(preferred({"zh-Hant-TW", "en-US"}, "en_US"), OrvaneLanguage::chinese);
+}
+
+class OrvaneLanguageOnAMachineTest : public desk::MachineFixture {};
+
+TEST_F(OrvaneLanguageOnAMachineTest, EachLanguageGivesItsOwnText) {
+  machine.locale.preferredLanguages = {"zh-Hans"};
+  EXPECT_EQ(OrvaneLanguage(OrvaneLanguage::english).localized("Quit", "退出"), "Quit");
+  machine.locale.preferredLanguages = {"en"};
+  EXPECT_EQ(OrvaneLanguage(OrvaneLanguage::chinese).localized("Quit", "退出"), "退出");
+}
+
+TEST_F(OrvaneLanguageOnAMachineTest, TheSystemIsAskedAtTheMomentOfEachCall) {
+  const OrvaneLanguage language = OrvaneLanguage::system;
+  machine.locale.preferredLanguages = {"fr-FR"};
+  machine.locale.currentIdentifier = "zh_CN";
+  EXPECT_EQ(language.localized("Quit", "退出"), "退出");
+  machine.locale.preferredLanguages = {"fr-FR", "en-GB"};
+  EXPECT_EQ(language.localized("Quit", "退出"), "Quit");
+  machine.locale.preferredLanguages = {"zh-Hant-HK", "en-GB"};
+  EXPECT_EQ(language.localized("Quit", "退出"), "退出");
+}
+
+TEST_F(OrvaneLanguageOnAMachineTest, TheStoredSettingIsReadAtTheMomentOfEachCall) {
+  EXPECT_EQ(OrvaneLanguage::stored(), OrvaneLanguage::system);
+  machine.userDefaults.set("appLanguage", "chinese");
+  EXPECT_EQ(OrvaneLanguage::stored(), OrvaneLanguage::chinese);
+  machine.userDefaults.set("appLanguage", "english");
+  EXPECT_EQ(OrvaneLanguage::stored(), OrvaneLanguage::english);
+  machine.userDefaults.set("appLanguage", "latin");
+  EXPECT_EQ(OrvaneLanguage::stored(), OrvaneLanguage::system);
+  machine.userDefaults.set("appLanguage", 1.0);
+  EXPECT_EQ(OrvaneLanguage::stored(), OrvaneLanguage::system);
+}
+
+RC_GTEST_PROP(OrvaneLanguageProperty, TheSystemsLanguageAgreesWithRegularExpressions, ()) {
+  const auto flags = std::regex::ECMAScript | std::regex::icase;
+  static const std::regex chinese(R"(\s*zh(?:\s*|[-_][\s\S]*))", flags);
+  static const std::regex english(R"(\s*en(?:\s*|[-_][\s\S]*))", flags);
+  const Identifiers identifiers = *genIdentifiers();
+  const std::string fallback = *genIdentifier();
+  OrvaneLanguage expected = OrvaneLanguage::english;
+  Identifiers candidates = identifiers;
+  candidates.push_back(fallback);
+  for (const std::string& candidate : candidates) {
+    if (std::regex_match(candidate, chinese)) {
+      expected = OrvaneLanguage::chinese;
+      break;
+    }
+    if (std::regex_match(candidate, english)) {
+      break;
+    }
+  }
+  RC_ASSERT(preferred(identifiers, fallback) == expected);
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,45 @@
+// Registering as a login item only when that changes something.
+#include <array>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/model/OrvaneLoginItem.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using Status = appkit::LoginItem::Status;
+
+class OrvaneLoginItemTest : public desk::MachineFixture {};
+
+TEST_F(OrvaneLoginItemTest, EnablingRegistersUnlessItIsEnabled) {
+  for (const Status status :
+       {Status::notRegistered, Status::requiresApproval, Status::notFound, Status::enabled}) {
+    machine.loginItem = {.status = status, .error = std::nullopt};
+    EXPECT_EQ(OrvaneLoginItem::setEnabled(true), std::nullopt);
+    EXPECT_EQ(machine.loginItem.registrationCount, status == Status::enabled ? 0 : 1);
+    EXPECT_EQ(machine.loginItem.unregistrationCount, 0);
+  }
+}
+
+TEST_F(OrvaneLoginItemTest, DisablingUnregistersUnlessItIsNotRegistered) {
+  for (const Status status :
+       {Status::notRegistered, Status::requiresApproval, Status::notFound, Status::enabled}) {
+    machine.loginItem = {.status = status, .error = std::nullopt};
+    EXPECT_EQ(OrvaneLoginItem::setEnabled(false), std::nullopt);
+    EXPECT_EQ(machine.loginItem.registrationCount, 0);
+    EXPECT_EQ(machine.loginItem.unregistrationCount, status == Status::notRegistered ? 0 : 1);
+  }
+}
+
+TEST_F(OrvaneLoginItemTest, ThePlatformsErrorIsPassedOutUnchanged) {
+  machine.loginItem.error = "Operation not permitted";
+  EXPECT_EQ(OrvaneLoginItem::setEnabled(true), "Operation not permitted");
+  machine.loginItem.status = Status::enabled;
+  EXPECT_EQ(OrvaneLoginItem::setEnabled(false), "Operation not permitted");
+  EXPECT_EQ(OrvaneLoginItem::setEnabled(true), std::nullopt) << "nothing was asked for";
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,390 @@
+// OrvaneModel's state: creation, displays and target, setters, links, launch at login, and its end.
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/model/OrvaneModel.hpp"
+#include "Orvane/model/OrvaneProduct.hpp"
+#include "tests/support/ModelFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using Status = appkit::LoginItem::Status;
+
+class OrvaneModelTest : public ModelFixture {
+ protected:
+  [[nodiscard]] double now() const { return machine.clock.calendarTime(); }
+  [[nodiscard]] const std::optional<std::string>& selected() const {
+    return model->selectedDisplayID().value();
+  }
+  [[nodiscard]] std::vector<std::string> openedLinks() const {
+    std::vector<std::string> urls;
+    for (const desk::Links::Opened& opened : machine.links.opened()) {
+      urls.push_back(opened.url);
+    }
+    return urls;
+  }
+  /// How often anything was announced during the action.
+  template <typename Action>
+  int announcementsOf(Action action) {
+    int count = 0;
+    const Subscription subscription = model->changes().observe([&] { ++count; });
+    action();
+    return count;
+  }
+};
+
+TEST_F(OrvaneModelTest, AtTheFirstLaunchNothingIsChosen) {
+  machine.permission.setTrusted(false);
+  EXPECT_EQ(writesOf([&] { launch(); }), Writes{}) << "creation writes nothing";
+  EXPECT_TRUE(model->displays().value().empty()) << "nor does it list displays";
+  EXPECT_EQ(selected(), std::nullopt);
+  EXPECT_FALSE(model->hasAccessibilityPermission().value());
+  EXPECT_FALSE(model->isTemporarilyUnlocked().value());
+  EXPECT_EQ(model->lastRestoreSucceeded().value(), std::nullopt);
+  EXPECT_EQ(model->lastCheckedAt().value(), now());
+  EXPECT_EQ(model->appLanguage().value(), OrvaneLanguage::system);
+  EXPECT_EQ(model->temporaryUnlockModifier().value(), OrvaneModifier::option);
+  EXPECT_FALSE(model->hidesDockOnAllDisplays().value());
+  EXPECT_FALSE(model->launchAtLoginEnabled().value());
+  EXPECT_FALSE(model->launchAtLoginRequiresApproval().value());
+  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt);
+  EXPECT_FALSE(model->isGuardRunning());
+  EXPECT_EQ(model->selectedDisplay(), std::nullopt);
+  EXPECT_EQ(machine.observers.count(), 1U) << "of the screens, by the model";
+}
+
+TEST_F(OrvaneModelTest, StoredChoicesAreReadAtCreation) {
+  store("selectedDisplayID", "an id");
+  store("hidesDockOnAllDisplays", true);
+  store("temporaryUnlockModifier", "shift");
+  store("appLanguage", "chinese");
+  machine.loginItem.status = Status::requiresApproval;
+  launch();
+  EXPECT_EQ(selected(), "an id");
+  EXPECT_TRUE(model->hasAccessibilityPermission().value());
+  EXPECT_TRUE(model->hidesDockOnAllDisplays().value());
+  EXPECT_EQ(model->temporaryUnlockModifier().value(), OrvaneModifier::shift);
+  EXPECT_EQ(model->appLanguage().value(), OrvaneLanguage::chinese);
+  EXPECT_FALSE(model->launchAtLoginEnabled().value());
+  EXPECT_TRUE(model->launchAtLoginRequiresApproval().value());
+}
+
+TEST_F(OrvaneModelTest, UnknownStoredTextsReadAsTheDefaults) {
+  store("temporaryUnlockModifier", "hyper");
+  store("appLanguage", "esperanto");
+  launch();
+  EXPECT_EQ(model->temporaryUnlockModifier().value(), OrvaneModifier::option);
+  EXPECT_EQ(model->appLanguage().value(), OrvaneLanguage::system);
+}
+
+TEST_F(OrvaneModelTest, TheFirstRefreshSelectsTheMainDisplayAndStoresIt) {
+  ASSERT_EQ(machine.displays.setMain(2), std::nullopt);
+  launch();
+  EXPECT_EQ(writesOf([&] { model->refreshDisplays(); }), (Writes{{"selectedDisplayID", 1}}));
+  EXPECT_EQ(model->displays().value(), DisplaySnapshot::ofAllScreens());
+  EXPECT_EQ(selected(), desk::uuidNamed('B'));
+  EXPECT_EQ(stored("selectedDisplayID"), Value(desk::uuidNamed('B')));
+  EXPECT_EQ(model->selectedDisplay(), model->displays().value()[1]);
+}
+
+TEST_F(OrvaneModelTest, WithoutAMainDisplayTheFirstIsSelected) {
+  desk::detach(machine, 1);
+  desk::detach(machine, 2);
+  desk::Display first = desk::monitorAbove();
+  first.hasNumberInDescription = false;
+  desk::attach(machine, first);
+  launch().refreshDisplays();
+  ASSERT_FALSE(model->displays().value().at(0).isMain);
+  EXPECT_EQ(selected(), model->displays().value().at(0).id);
+}
+
+TEST_F(OrvaneModelTest, WithoutDisplaysNothingIsSelectedAndTheKeyRemoved) {
+  desk::detach(machine, 1);
+  desk::detach(machine, 2);
+  launch();
+  EXPECT_EQ(writesOf([&] { model->refreshDisplays(); }), (Writes{{"selectedDisplayID", 1}}));
+  EXPECT_EQ(selected(), std::nullopt);
+  EXPECT_EQ(stored("selectedDisplayID"), std::nullopt);
+}
+
+TEST_F(OrvaneModelTest, AnAliasIsRewrittenToTheDisplaysID) {
+  for (const std::string& alias :
+       {std::string("2"),
+        std::string(
+            "Optional(2)-1920.0-1080.0-Optional(8)-Optional(\"NSCalibratedRGBColorSpace\")")}) {
+    store("selectedDisplayID", alias);
+    launch();
+    EXPECT_EQ(writesOf([&] { model->refreshDisplays(); }), (Writes{{"selectedDisplayID", 1}}));
+    EXPECT_EQ(selected(), desk::uuidNamed('B'));
+    EXPECT_EQ(stored("selectedDisplayID"), Value(desk::uuidNamed('B')));
+  }
+}
+
+TEST_F(OrvaneModelTest, ATargetThatIsNotAttachedIsKept) {
+  store("selectedDisplayID", "unplugged");
+  launch();
+  EXPECT_EQ(writesOf([&] { model->refreshDisplays(); }), Writes{});
+  EXPECT_EQ(selected(), "unplugged");
+  EXPECT_EQ(model->selectedDisplay(), std::nullopt);
+}
+
+TEST_F(OrvaneModelTest, ACanonicalTargetIsNotWrittenAgain) {
+  launch().refreshDisplays();
+  EXPECT_EQ(writesOf([&] { model->refreshDisplays(); }), Writes{});
+}
+
+TEST_F(OrvaneModelTest, ARefreshReadsPermissionAndTime) {
+  launch();
+  machine.permission.setTrusted(false);
+  machine.advance(5);
+  EXPECT_NE(model->lastCheckedAt().value(), now());
+  model->refreshDisplays();
+  EXPECT_FALSE(model->hasAccessibilityPermission().value());
+  EXPECT_EQ(model->lastCheckedAt().value(), now());
+}
+
+TEST_F(OrvaneModelTest, SelectingTheCurrentDisplayDoesNothing) {
+  launchPinned();
+  ASSERT_TRUE(hasTap(1));
+  machine.advance(5);
+  EXPECT_EQ(announcementsOf([&] {
+              EXPECT_EQ(writesOf([&] { model->selectDisplay(desk::uuidNamed('A')); }), Writes{});
+            }),
+            0);
+  EXPECT_TRUE(hasTap(1)) << "nothing restarts";
+}
+
+TEST_F(OrvaneModelTest, SelectingAnotherDisplayStoresItAndRestartsPinning) {
+  launchPinned();
+  EXPECT_EQ(writesOf([&] { model->selectDisplay(desk::uuidNamed('B')); }),
+            (Writes{{"selectedDisplayID", 1}}));
+  EXPECT_EQ(stored("selectedDisplayID"), Value(desk::uuidNamed('B')));
+  EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), desk::uuidNamed('B'));
+  EXPECT_TRUE(model->isGuardRunning());
+  EXPECT_FALSE(hasTap(1));
+}
+
+TEST_F(OrvaneModelTest, SelectingWhileTheGuardIsOffStartsNothing) {
+  launch().selectDisplay("2");
+  EXPECT_EQ(selected(), "2") << "an alias stays until the next refresh";
+  EXPECT_FALSE(model->isGuardRunning());
+}
+
+TEST_F(OrvaneModelTest, InPreventModeASelectionDoesNotTouchTheGuard) {
+  launchPreventing();
+  model->selectDisplay(desk::uuidNamed('B'));
+  EXPECT_TRUE(hasTap(1));
+  EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), desk::uuidNamed('A'));
+}
+
+TEST_F(OrvaneModelTest, SelectingWhatIsNotAttachedStopsPinningButKeepsTheWish) {
+  launchPinned();
+  moveHolding(kCGEventFlagMaskAlternate);
+  const double checked = model->lastCheckedAt().value();
+  machine.advance(5);
+  EXPECT_EQ(writesOf([&] { model->selectDisplay("unplugged"); }),
+            (Writes{{"selectedDisplayID", 1}}));
+  EXPECT_FALSE(model->isGuardRunning());
+  EXPECT_FALSE(model->guardService().isObservingScreens());
+  EXPECT_FALSE(model->isTemporarilyUnlocked().value());
+  EXPECT_EQ(model->lastCheckedAt().value(), checked);
+  EXPECT_EQ(stored("isOrvaneEnabled"), Value(true));
+}
+
+TEST_F(OrvaneModelTest, SettingTheModifierStoresItAndRestartsTheGuard) {
+  launchPinned();
+  machine.advance(5);
+  EXPECT_EQ(writesOf([&] { model->setTemporaryUnlockModifier(OrvaneModifier::shift); }),
+            (Writes{{"temporaryUnlockModifier", 1}}));
+  EXPECT_EQ(stored("temporaryUnlockModifier"), Value("shift"));
+  EXPECT_EQ(model->guardService().overrideModifier(), OrvaneModifier::shift);
+  EXPECT_FALSE(hasTap(1));
+  EXPECT_EQ(model->lastCheckedAt().value(), now());
+}
+
+TEST_F(OrvaneModelTest, EveryAssignmentOfASettingIsWritten) {
+  launch();
+  EXPECT_EQ(writesOf([&] {
+              model->setTemporaryUnlockModifier(OrvaneModifier::option);
+              model->setHidesDockOnAllDisplays(false);
+              model->setAppLanguage(OrvaneLanguage::system);
+            }),
+            (Writes{{"temporaryUnlockModifier", 1},
+                    {"hidesDockOnAllDisplays", 1},
+                    {"appLanguage", 1},
+                    {"selectedDisplayID", 1}}))
+      << "the language refreshes the displays, which selects one";
+}
+
+TEST_F(OrvaneModelTest, SettingPreventModeRestartsARunningGuardWhenThePermissionIsKnown) {
+  launchPinned();
+  model->setHidesDockOnAllDisplays(true);
+  EXPECT_TRUE(model->guardService().blocksAllDisplays());
+  EXPECT_EQ(stored("hidesDockOnAllDisplays"), Value(true));
+  model->setHasAccessibilityPermission(false);
+  model->setHidesDockOnAllDisplays(false);
+  EXPECT_TRUE(model->guardService().blocksAllDisplays()) << "not restarted without permission";
+  EXPECT_EQ(stored("hidesDockOnAllDisplays"), Value(false));
+}
+
+TEST_F(OrvaneModelTest, SettingTheLanguageStoresItAndReadsTheNamesAgain) {
+  launch().refreshDisplays();
+  machine.advance(5);
+  EXPECT_EQ(writesOf([&] { model->setAppLanguage(OrvaneLanguage::chinese); }),
+            (Writes{{"appLanguage", 1}}));
+  EXPECT_EQ(stored("appLanguage"), Value("chinese"));
+  EXPECT_EQ(model->displays().value().at(0).name, "内建显示器");
+  EXPECT_EQ(model->lastCheckedAt().value(), now());
+}
+
+TEST_F(OrvaneModelTest, WhoHearsOfTheLanguageFindsItStored) {
+  launch();
+  std::optional<Value> seen;
+  const Subscription subscription =
+      model->appLanguage().observe([&] { seen = stored("appLanguage"); });
+  model->setAppLanguage(OrvaneLanguage::english);
+  EXPECT_EQ(seen, Value("english"));
+}
+
+TEST_F(OrvaneModelTest, EachPublishedPropertyIsAnnounced) {
+  launch();
+  EXPECT_GE(announcementsOf([&] { model->refreshDisplays(); }), 2) << "displays and target";
+  EXPECT_EQ(announcementsOf([&] { model->setHasAccessibilityPermission(false); }), 1);
+  EXPECT_EQ(announcementsOf([&] { model->setHidesDockOnAllDisplays(true); }), 1);
+  EXPECT_EQ(announcementsOf([&] { model->setTemporaryUnlockModifier(OrvaneModifier::shift); }), 1);
+  machine.loginItem.status = Status::enabled;
+  EXPECT_EQ(announcementsOf([&] { model->refreshLaunchAtLoginStatus(); }), 1);
+}
+
+TEST_F(OrvaneModelTest, TheGuardsReportsAreNotedWithTheirTime) {
+  launchPinned();
+  machine.advance(5);
+  machine.mouse.post({2500, 1075}, 0);
+  EXPECT_NE(model->lastCheckedAt().value(), now());
+  machine.runDue();
+  EXPECT_EQ(model->lastCheckedAt().value(), now());
+}
+
+TEST_F(OrvaneModelTest, TheGuardsUnlocksAreShown) {
+  launchPinned();
+  moveHolding(kCGEventFlagMaskAlternate);
+  EXPECT_TRUE(model->isTemporarilyUnlocked().value());
+  moveHolding(0);
+  EXPECT_FALSE(model->isTemporarilyUnlocked().value());
+}
+
+TEST_F(OrvaneModelTest, LaunchAtLoginShowsTheRealState) {
+  launch();
+  machine.loginItem.status = Status::requiresApproval;
+  model->refreshLaunchAtLoginStatus();
+  EXPECT_FALSE(model->launchAtLoginEnabled().value());
+  EXPECT_TRUE(model->launchAtLoginRequiresApproval().value());
+  machine.loginItem.status = Status::enabled;
+  model->refreshLaunchAtLoginStatus();
+  EXPECT_TRUE(model->launchAtLoginEnabled().value());
+  EXPECT_FALSE(model->launchAtLoginRequiresApproval().value());
+}
+
+TEST_F(OrvaneModelTest, SwitchingLaunchAtLoginRegistersAndUnregisters) {
+  launch().setLaunchAtLoginEnabled(true);
+  EXPECT_TRUE(model->launchAtLoginEnabled().value());
+  EXPECT_EQ(machine.loginItem.registrationCount, 1);
+  model->setLaunchAtLoginEnabled(false);
+  EXPECT_FALSE(model->launchAtLoginEnabled().value());
+  EXPECT_EQ(machine.loginItem.unregistrationCount, 1);
+  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt);
+}
+
+TEST_F(OrvaneModelTest, AFailedRegistrationKeepsThePlatformsTextUntilASuccess) {
+  launch();
+  machine.loginItem.error = "Operation not permitted";
+  machine.loginItem.status = Status::requiresApproval;
+  model->setLaunchAtLoginEnabled(true);
+  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), "Operation not permitted");
+  EXPECT_FALSE(model->launchAtLoginEnabled().value());
+  EXPECT_TRUE(model->launchAtLoginRequiresApproval().value()) << "refreshed all the same";
+  machine.loginItem.error.reset();
+  model->setLaunchAtLoginEnabled(true);
+  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt);
+  EXPECT_TRUE(model->launchAtLoginEnabled().value());
+}
+
+TEST_F(OrvaneModelTest, OpeningTheAccessibilitySettingsLooksAgainAfterASecond) {
+  machine.permission.setTrusted(false);
+  launch().openAccessibilitySettings();
+  EXPECT_EQ(openedLinks(),
+            std::vector<std::string>{"x-apple.systempreferences:com.apple.settings.PrivacySecurity"
+                                     ".extension?Privacy_Accessibility"});
+  machine.permission.setTrusted(true);
+  machine.advance(0.999);
+  EXPECT_FALSE(model->hasAccessibilityPermission().value());
+  machine.advance(0.001);
+  EXPECT_TRUE(model->hasAccessibilityPermission().value());
+  machine.permission.setTrusted(false);
+  machine.advance(60);
+  EXPECT_TRUE(model->hasAccessibilityPermission().value()) << "once only";
+}
+
+TEST_F(OrvaneModelTest, OpeningTheAccessibilitySettingsLooksAtOnceToo) {
+  machine.permission.setTrusted(false);
+  launch();
+  machine.permission.setTrusted(true);
+  model->openAccessibilitySettings();
+  EXPECT_TRUE(model->hasAccessibilityPermission().value());
+}
+
+TEST_F(OrvaneModelTest, TheSupportMailHasItsSubject) {
+  launch().openSupportEmail();
+  EXPECT_EQ(openedLinks(),
+            std::vector<std::string>{"mailto:" + std::string(OrvaneProduct::supportAddress) +
+                                     "?subject=Orvane%20Support"});
+}
+
+TEST_F(OrvaneModelTest, ThePrivacyPolicyIsAWebPage) {
+  launch().openPrivacyPolicy();
+  EXPECT_EQ(openedLinks(), std::vector<std::string>{std::string(OrvaneProduct::privacyPolicyURL)});
+}
+
+TEST_F(OrvaneModelTest, AtItsEndTheModelStopsObservingAndGuarding) {
+  launchPinned();
+  EXPECT_EQ(machine.observers.count(), 2U);
+  EXPECT_EQ(writesOf([&] { model.reset(); }), Writes{});
+  EXPECT_EQ(machine.observers.count(), 0U);
+  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
+  EXPECT_EQ(machine.objects.liveCount(), 0U);
+}
+
+TEST_F(OrvaneModelTest, WhatIsPendingDoesNothingOnceTheModelIsGone) {
+  launchPinned();
+  // The screen task of the model, reports of the guard, and the delayed look at the permission.
+  model->openAccessibilitySettings();
+  desk::attach(machine, desk::monitorAbove());
+  machine.mouse.post({2500, 1075}, kCGEventFlagMaskAlternate);
+  machine.mouse.post({2500, 1075}, 0);
+  EXPECT_GE(machine.runLoop.pendingTaskCount(), 4U);
+  model.reset();
+  EXPECT_EQ(writesOf([&] { machine.advance(10); }), Writes{});
+}
+
+TEST_F(OrvaneModelTest, AGrantThatComesAfterTheModelsEndDoesNothing) {
+  machine.permission.setTrusted(false);
+  launch().toggleLock();
+  machine.advance(1);
+  model->toggleHideDockOnAllDisplays();
+  machine.runDue();
+  ASSERT_EQ(prompts.size(), 2U);
+  model.reset();
+  machine.permission.setTrusted(true);
+  EXPECT_EQ(writesOf([&] {
+              prompts[0]();
+              prompts[1]();
+            }),
+            Writes{});
+  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
+}
+
+}  // namespace
+}  // namespace orvane
