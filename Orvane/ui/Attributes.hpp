@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "Orvane/ui/Fill.hpp"
@@ -16,7 +17,8 @@ class AttributeWriter {
   AttributeWriter(const Appearance& appearance, const ColorResolver& resolver)
       : appearance_(appearance), resolver_(resolver) {}
 
-  void number(double value) { values_.push_back(value); }
+  // What is not finite counts as zero, so that nothing is ever drawn nowhere.
+  void number(double value) { values_.push_back(std::isfinite(value) ? value : 0); }
   void color(const Color& color) {
     const Rgba resolved = color.resolve(appearance_, resolver_);
     for (const double value : {resolved.red, resolved.green, resolved.blue, resolved.alpha}) {

@@ -1,4 +1,6 @@
 // What is drawn, as recorded; and how little is drawn again.
+#include <cmath>
+
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/Image.hpp"
@@ -123,6 +125,12 @@ TEST(DrawingTest, linesOfTextAreAlignedInTheirFrame) {
       drawn(Text("aaa b").font(Font::system(10)).textAlignment(TextAlignment::trailing), {15, 20}),
       "text \"aaa\" 10/400 rgba(0 0 0 0.85) at 0 8\n"
       "text \"b\" 10/400 rgba(0 0 0 0.85) at 10 18\n");
+}
+
+TEST(DrawingTest, numbersThatAreNoneCountAsZero) {
+  const View box = Rectangle().fill(Color::white()).frame(10, 10);
+  EXPECT_EQ(drawn(box.offset(std::nan(""), infinity), {10, 10}),
+            "fill rectangle(0 0 10 10) rgba(1 1 1 1)\n");
 }
 
 TEST(DrawingTest, symbolsAndImagesAreDrawnByName) {
