@@ -18,11 +18,14 @@ double flexibility(const StackItem& item) {
 std::vector<std::size_t> servingOrder(const std::vector<StackItem>& items) {
   std::vector<std::size_t> order(items.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
-  std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+  // Ties are broken by place, so that the order does not depend on the sorting.
+  std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
     if (items[a].priority != items[b].priority) {
       return items[a].priority > items[b].priority;
     }
-    return flexibility(items[a]) < flexibility(items[b]);
+    const double ofA = flexibility(items[a]);
+    const double ofB = flexibility(items[b]);
+    return ofA != ofB ? ofA < ofB : a < b;
   });
   return order;
 }
