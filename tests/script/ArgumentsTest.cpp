@@ -1,0 +1,139 @@
+// How a command's arguments are read and what is said about wrong ones.
+#include <array>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "desk/script/Arguments.hpp"
+#include "desk/script/Lexer.hpp"
+
+namespace orvane::desk::script {
+namespace {
+
+/// Keeps the words alive that the arguments look at.
+struct Line {
+  explicit Line(std::string text) : text_(std::move(text)), lexed_(lexLine(text_)) {}
+  Arguments arguments() const { return {lexed_.words, text_}; }
+
+  std::string text_;
+  LexedLine lexed_;
+};
+
+TEST(ArgumentsTest, ReadsPositionalWordsInOrder) {
+  const Line line("7 -2.5 \"a b\" on");
+  Arguments arguments = line.arguments();
+  EXPECT_EQ(arguments.displayNumber("N"), 7U);
+  EXPECT_EQ(arguments.coordinate("X"), -2.5);
+  EXPECT_EQ(arguments.text("TEXT"), "a b");
+  EXPECT_TRUE(arguments.onOff("on|off"));
+  EXPECT_TRUE(arguments.isEmpty());
+  EXPECT_FALSE(arguments.finish());
+}
+
+TEST(ArgumentsTest, ReadsOptionsAndFlagsWhereverTheyStand) {
+  const Line line("main name=\"a=b\" 3 frame=0,-1.5,1920,1080");
+  Arguments arguments = line.arguments();
+  EXPECT_EQ(arguments.option("name"), "a=b");
+  EXPECT_FALSE(arguments.option("nam"));
+  EXPECT_EQ(arguments.rectangleOption("frame"), (std::array<double, 4>{0, -1.5, 1920, 1080}));
+  EXPECT_TRUE(arguments.flag("main"));
+  EXPECT_FALSE(arguments.flag("main"));
+  EXPECT_EQ(arguments.integer("N", 0, 9), 3);
+  EXPECT_FALSE(arguments.finish());
+}
+
+TEST(ArgumentsTest, KeepsTheFirstMistake) {
+  const Line line("x y");
+  Arguments arguments = line.arguments();
+  EXPECT_EQ(arguments.number("X"), 0);
+  EXPECT_EQ(arguments.number("Y"), 0);
+  arguments.complain("something later");
+  EXPECT_TRUE(arguments.isWrong());
+  EXPECT_EQ(arguments.finish(), "X must be a decimal number, not \"x\"");
+}
+
+TEST(ArgumentsTest, ComplainsAboutWhatIsMissing) {
+  const Line line("");
+  Arguments arguments = line.arguments();
+  EXPECT_EQ(arguments.text("THING"), "");
+  EXPECT_EQ(arguments.finish(), "THING is missing");
+}
+
+TEST(ArgumentsTest, ComplainsAboutWhatNobodyRead) {
+  const Line line("1 color=blue");
+  Arguments arguments = line.arguments();
+  EXPECT_EQ(arguments.displayNumber("N"), 1U);
+  EXPECT_EQ(arguments.finish(), "unexpected \"color=blue\"");
+}
+
+TEST(ArgumentsTest, ComplainsAboutTheSecondOfTwoEqualOptions) {
+  const Line line("uuid=A uuid=B");
+  Arguments arguments = line.arguments();
+  EXPECT_EQ(arguments.option("uuid"), "A");
+  EXPECT_EQ(arguments.finish(), "unexpected \"uuid=B\"");
+}
+
+TEST(ArgumentsTest, ComplainsAboutNumbersOutOfRange) {
+  const auto complaint = [](const std::string& word, auto read) {
+    const Line line(word);
+    Arguments arguments = line.arguments();
+    read(arguments);
+    return arguments.finish().value_or("");
+  };
+  const auto integer = [](Arguments& arguments) { arguments.integer("N", 0, 9); };
+  EXPECT_EQ(complaint("10", integer), "N must be a whole number from 0 to 9, not \"10\"");
+  EXPECT_EQ(complaint("-1", integer), "N must be a whole number from 0 to 9, not \"-1\"");
+  EXPECT_EQ(complaint("99999999999999999999", integer),
+            "N must be a whole number from 0 to 9, not \"99999999999999999999\"");
+  const auto display = [](Arguments& arguments) { arguments.displayNumber("N"); };
+  EXPECT_EQ(complaint("4294967295", display), "");
+  EXPECT_NE(complaint("4294967296", display), "");
+  const auto coordinate = [](Arguments& arguments) { arguments.coordinate("X"); };
+  EXPECT_EQ(complaint("1000000000", coordinate), "");
+  EXPECT_EQ(complaint("1000000000.5", coordinate), "X is too large: \"1000000000.5\"");
+  const auto seconds = [](Arguments& arguments) { arguments.nanoseconds("S", 2'500'000'000); };
+  EXPECT_EQ(complaint("2.5", seconds), "");
+  EXPECT_EQ(complaint("2.500000001", seconds),
+            "S must be from 0 to 2.5 seconds, not \"2.500000001\"");
+  EXPECT_EQ(complaint("-0.1", seconds), "S must be from 0 to 2.5 seconds, not \"-0.1\"");
+  EXPECT_EQ(complaint("soon", seconds), "S must be a decimal number of seconds, not \"soon\"");
+}
+
+TEST(ArgumentsTest, ComplainsAboutRectanglesThatAreNone) {
+  const auto complaint = [](const std::string& word) {
+    const Line line(word);
+    Arguments arguments = line.arguments();
+    arguments.rectangleOption("frame");
+    return arguments.finish().value_or("");
+  };
+  EXPECT_EQ(complaint("frame=1,2,3"), "frame must be X,Y,W,H, not \"1,2,3\"");
+  EXPECT_EQ(complaint("frame="), "frame must be X,Y,W,H, not \"\"");
+  EXPECT_EQ(complaint("frame=1,2,3,x"), "frame must be a decimal number, not \"x\"");
+  EXPECT_EQ(complaint("frame=1,,3,4"), "frame must be a decimal number, not \"\"");
+  EXPECT_EQ(complaint("from=1,2,3,4"), "frame=X,Y,W,H is missing");
+}
+
+TEST(ArgumentsTest, ShowsOnlyTheBeginningOfALongWord) {
+  const Line line("a" + std::string(40, 'b') + "显示器显示器显示器显示器");
+  Arguments arguments = line.arguments();
+  EXPECT_EQ(arguments.number("X"), 0);
+  EXPECT_EQ(arguments.finish(),
+            "X must be a decimal number, not \"a" + std::string(40, 'b') + "显示器显示器...\"");
+}
+
+TEST(ArgumentsTest, HandsOutTheRestAsItIsWritten) {
+  const Line line("path {\"a\": [1, \"#\"]}   # why");
+  Arguments arguments = line.arguments();
+  EXPECT_EQ(arguments.text("PATH"), "path");
+  EXPECT_EQ(arguments.restAsWritten("VALUE"), "{\"a\": [1, \"#\"]}");
+  EXPECT_FALSE(arguments.finish());
+}
+
+TEST(ArgumentsTest, CutsAtEveryComma) {
+  EXPECT_EQ(splitAtCommas(""), std::vector<std::string>{});
+  EXPECT_EQ(splitAtCommas("a"), std::vector<std::string>{"a"});
+  EXPECT_EQ(splitAtCommas(",a,"), (std::vector<std::string>{"", "a", ""}));
+}
+
+}  // namespace
+}  // namespace orvane::desk::script

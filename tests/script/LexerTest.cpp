@@ -1,0 +1,96 @@
+// How a line becomes words.
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "desk/script/Lexer.hpp"
+
+namespace orvane::desk::script {
+namespace {
+
+std::vector<std::string> textsOf(std::string_view line) {
+  const LexedLine lexed = lexLine(line);
+  EXPECT_FALSE(lexed.complaint) << *lexed.complaint;
+  std::vector<std::string> texts;
+  for (const Word& word : lexed.words) {
+    EXPECT_FALSE(word.complaint) << *word.complaint;
+    texts.push_back(word.text);
+  }
+  return texts;
+}
+
+using Texts = std::vector<std::string>;
+
+TEST(LexerTest, SeparatesWordsByBlanksAndTabulators) {
+  EXPECT_EQ(textsOf("  move\t100   900 "), (Texts{"move", "100", "900"}));
+}
+
+TEST(LexerTest, FindsNoWordInEmptyLinesAndComments) {
+  EXPECT_EQ(textsOf(""), Texts{});
+  EXPECT_EQ(textsOf(" \t "), Texts{});
+  EXPECT_EQ(textsOf("# reset"), Texts{});
+  EXPECT_EQ(textsOf("   #reset"), Texts{});
+}
+
+TEST(LexerTest, BeginsACommentOnlyAtTheBeginningOfAWord) {
+  EXPECT_EQ(textsOf("expect guard.zones.# 1   # one zone"),
+            (Texts{"expect", "guard.zones.#", "1"}));
+  EXPECT_EQ(textsOf("echo \"# no comment\" a#b #c"), (Texts{"echo", "# no comment", "a#b"}));
+}
+
+TEST(LexerTest, KeepsBlanksInQuotes) {
+  EXPECT_EQ(textsOf("press \"Pin Dock\" in menu"), (Texts{"press", "Pin Dock", "in", "menu"}));
+  EXPECT_EQ(textsOf("name=\"Left one\" main"), (Texts{"name=Left one", "main"}));
+  EXPECT_EQ(textsOf("echo \"\""), (Texts{"echo", ""}));
+}
+
+TEST(LexerTest, ReplacesEscapesInQuotesOnly) {
+  EXPECT_EQ(textsOf(R"("a\"b" "c\\d" "e\nf" "g\th")"), (Texts{"a\"b", "c\\d", "e\nf", "g\th"}));
+  EXPECT_EQ(textsOf(R"(a\nb)"), (Texts{R"(a\nb)"}));
+}
+
+TEST(LexerTest, KeepsTheTextOfOtherScripts) {
+  EXPECT_EQ(textsOf("echo \"显示器 é 🖥\""), (Texts{"echo", "显示器 é 🖥"}));
+}
+
+TEST(LexerTest, SaysWhereEachWordStands) {
+  const LexedLine lexed = lexLine(" expect  \"a b\"c # d");
+  ASSERT_EQ(lexed.words.size(), 2U);
+  EXPECT_EQ(lexed.words[0].begin, 1U);
+  EXPECT_EQ(lexed.words[0].end, 7U);
+  EXPECT_EQ(lexed.words[1].begin, 9U);
+  EXPECT_EQ(lexed.words[1].end, 15U);
+}
+
+TEST(LexerTest, ComplainsAboutAnUnknownEscapeInItsWordOnly) {
+  const LexedLine lexed = lexLine(R"(expect "\u4e2d\q" "fine")");
+  ASSERT_FALSE(lexed.complaint);
+  ASSERT_EQ(lexed.words.size(), 3U);
+  EXPECT_EQ(lexed.words[1].complaint, "an unknown escape at column 9");
+  EXPECT_FALSE(lexed.words[2].complaint);
+}
+
+TEST(LexerTest, ComplainsAboutAQuoteLeftOpen) {
+  EXPECT_EQ(lexLine("é \"abc").complaint, "a quote is opened at column 3 and not closed");
+  EXPECT_EQ(lexLine(R"("abc\")").complaint, "a quote is opened at column 1 and not closed");
+  EXPECT_EQ(lexLine("\"abc\\").complaint, "a quote is opened at column 1 and not closed");
+}
+
+TEST(LexerTest, ComplainsAboutControlCharacters) {
+  EXPECT_EQ(lexLine(std::string("ab\0c", 4)).complaint, "a control character at column 3");
+  EXPECT_EQ(lexLine("a\x1B[0m").complaint, "a control character at column 2");
+  EXPECT_EQ(lexLine("a\x7F").complaint, "a control character at column 2");
+}
+
+TEST(LexerTest, ComplainsAboutMalformedUtf8) {
+  for (const char* const malformed :
+       {"\x80", "\xC3", "\xC0\xAF", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8",
+        "\xE4\xB8", "\xE4\xB8\x41", "\xFF"}) {
+    EXPECT_EQ(lexLine("é" + std::string(malformed)).complaint, "malformed UTF-8 at column 2");
+  }
+  EXPECT_FALSE(lexLine("\xED\x9F\xBF \xEE\x80\x80 \xF4\x8F\xBF\xBF \xE0\xA0\x80").complaint);
+}
+
+}  // namespace
+}  // namespace orvane::desk::script

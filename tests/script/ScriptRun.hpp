@@ -1,0 +1,48 @@
+// ScriptRun runs a script's text in the test's own process and keeps all that came of it.
+#pragma once
+
+#include <sstream>
+#include <string>
+#include <utility>
+
+#include "desk/script/ScriptProgram.hpp"
+
+namespace orvane::desk::script {
+
+struct ScriptRun {
+  int status = 0;
+  std::string output;
+  std::string errors;
+};
+
+/// The script is called "script.desk".
+inline ScriptRun runScript(const std::string& text, ScriptProgram::Settings settings = {}) {
+  std::istringstream nothing;
+  std::istringstream script(text);
+  std::ostringstream output;
+  std::ostringstream errors;
+  ScriptProgram program(std::move(settings), nothing, output, errors);
+  const int status = program.run(script, "script.desk");
+  return {status, output.str(), errors.str()};
+}
+
+/// What is wrong with the last line of a script, without its place; empty when nothing is.
+inline std::string complaintOf(const std::string& text, ScriptProgram::Settings settings = {}) {
+  const ScriptRun run = runScript(text, std::move(settings));
+  const std::size_t place = run.errors.find(": ");
+  if (run.status != ScriptProgram::broken || place == std::string::npos) {
+    return run.errors;
+  }
+  return run.errors.substr(place + 2, run.errors.size() - place - 3);
+}
+
+/// Two displays side by side, both of 1920 by 1080 points, the left one the main one.
+inline const std::string twoDisplays =
+    "display attach 1 frame=0,0,1920,1080 uuid=AAAA name=\"Left\" main\n"
+    "display attach 2 frame=1920,0,1920,1080 uuid=BBBB name=\"Right\"\n";
+
+/// The same, with the application running and the Dock pinned to the left one.
+inline const std::string pinned =
+    twoDisplays + "trust on\nlaunch\ndo refreshDisplays\ndo toggleSelectedDisplayLock\n";
+
+}  // namespace orvane::desk::script
