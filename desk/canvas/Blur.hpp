@@ -1,5 +1,5 @@
-// The soft blur behind shadows and glass: three box blurs, which together come within a few
-// per cent of a Gaussian and cost the same for every radius.
+// The soft blur behind shadows and glass: three box blurs, which together stay within four of 255
+// levels of a Gaussian and do not cost more when they reach further.
 #pragma once
 
 #include <cairo.h>

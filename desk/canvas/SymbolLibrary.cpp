@@ -17,8 +17,8 @@ constexpr double regularStroke = 2.0;
 // Only the middle 28 of 32 units count for layout; the rest is room for heavy strokes.
 constexpr double layoutUnits = 28.0;
 
-/// The stroke of an outline, in units of the grid. The steps follow the stems of the text face
-/// at the same weights, so that a symbol beside a label is as dark as the label.
+/// The stroke of an outline, in units of the grid. The steps were chosen by eye beside words of the
+/// system face in the same weight.
 double strokeOf(ui::Weight weight) {
   switch (weight) {
     case ui::Weight::ultraLight:
