@@ -1,0 +1,133 @@
+// The main window's content: the window's surface, its title bar and the entrance of the panels,
+// which are in ContentViewPanels.cpp.
+#include "Orvane/panels/main/ContentView.hpp"
+
+#include <memory>
+
+#include "Orvane/panels/main/OrvanePalette.hpp"
+#include "Orvane/panels/main/TitleBarIconButtonStyle.hpp"
+#include "Orvane/panels/main/TrafficLightButton.hpp"
+#include "Orvane/platform/Quartz.hpp"
+#include "Orvane/platform/appkit/Timer.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+constexpr double titleBarHeight = 66;
+constexpr double clusterWidth = 150;
+constexpr double clusterPadding = 28;
+constexpr double trafficLightSpacing = 9;
+constexpr double windowCornerRadius = 24;
+constexpr double topHighlightHeight = 150;
+constexpr double entranceOffset = 10;
+constexpr double entranceSeconds = 0.32;
+constexpr double permissionRefreshSeconds = 1.0;
+
+}  // namespace
+
+std::string ContentView::localized(std::string_view english, std::string_view chinese) const {
+  return model->appLanguage().value().localized(english, chinese);
+}
+
+bool ContentView::isPinned() const {
+  return model->isGuardRunning() && !model->hidesDockOnAllDisplays().value();
+}
+
+bool ContentView::isPreventing() const {
+  return model->isGuardRunning() && model->hidesDockOnAllDisplays().value();
+}
+
+View ContentView::windowBackground(bool isDark) const {
+  const View highlight = Rectangle()
+                             .fill(OrvanePalette::windowTopHighlight(isDark))
+                             .height(topHighlightHeight)
+                             .clip(ShapeForm::rectangle());
+  return RoundedRectangle(windowCornerRadius)
+      .fill(OrvanePalette::windowGradient(isDark))
+      .stroke(OrvanePalette::windowRim(isDark), 1)
+      .overlay(highlight, Alignment::top())
+      .clip(ShapeForm::rounded(windowCornerRadius));
+}
+
+View ContentView::trafficLights(const Environment& environment) const {
+  const State<bool> isHovered = environment.state("isTrafficLightsHovered", false);
+  return HStack(trafficLightSpacing,
+                {TrafficLightButton::close(isHovered.value(), localized("Close", "关闭"),
+                                           actions.close),
+                 TrafficLightButton::minimise(isHovered.value(), localized("Minimise", "最小化"),
+                                              actions.minimise)})
+      .onHover([isHovered](bool isInside) { isHovered.set(isInside); });
+}
+
+View ContentView::appIcon(const Environment& environment) const {
+  if (environment.hasImage("AppIcon")) {
+    return Image("AppIcon")
+        .resizable()
+        .frame(22, 22)
+        .clip(ShapeForm::rounded(5))
+        .shadow({.color = Color::accent().opacity(0.22), .radius = 4, .y = 1});
+  }
+  return Symbol("dock.rectangle")
+      .font(Font::system(16, Weight::semibold))
+      .foreground(Color::accent())
+      .frame(22, 22);
+}
+
+View ContentView::settingsButton() const {
+  const std::string title = localized("Settings", "设置");
+  return Button(actions.showSettings,
+                Symbol("gearshape").font(Font::system(18, Weight::semibold)).frame(34, 34))
+      .style(TitleBarIconButtonStyle{})
+      .focusRing(ShapeForm::rounded(10))
+      .tooltip(title)
+      .accessibilityLabel(title);
+}
+
+View ContentView::titleBar(const Environment& environment) const {
+  const View title = HStack(9, {appIcon(environment), Text("Orvane")
+                                                          .font(Font::system(18, Weight::semibold))
+                                                          .fixedSize()
+                                                          .accessibilityRole(Role::heading)});
+  return HStack(0, {trafficLights(environment)
+                        .padding(Edge::leading, clusterPadding)
+                        .frame({.width = clusterWidth, .alignment = Alignment::leading()}),
+                    Spacer(), title, Spacer(),
+                    settingsButton()
+                        .padding(Edge::trailing, clusterPadding)
+                        .frame({.width = clusterWidth, .alignment = Alignment::trailing()})})
+      .maximumWidth()
+      .height(titleBarHeight);
+}
+
+View ContentView::body(const Environment& environment) const {
+  const State<bool> hasAppeared = environment.state("hasAppeared", false);
+  const State<std::shared_ptr<appkit::Timer>> permissionTimer =
+      environment.state("permissionTimer", std::shared_ptr<appkit::Timer>());
+  const View content = panels()
+                           .opacity(hasAppeared.value() ? 1 : 0)
+                           .offset(0, hasAppeared.value() ? 0 : entranceOffset);
+  return VStack(0, {titleBar(environment), Spacer(), content})
+      .frame(width, height)
+      .background(windowBackground(environment.isDark()))
+      .animation(Curve::easeInOut(0.22), model->status())
+      .animation(Curve::spring(0.28, 0.86), model->selectedDisplayID().value())
+      .animation(Curve::spring(0.28, 0.86), model->hidesDockOnAllDisplays().value())
+      .onAppear([model = model, hasAppeared, permissionTimer] {
+        model->refreshDisplays();
+        hasAppeared.set(true, Curve::easeOut(entranceSeconds));
+        permissionTimer.set(std::make_shared<appkit::Timer>(appkit::Timer::repeating(
+            permissionRefreshSeconds, appkit::RunLoopMode::common,
+            [model] { model->setHasAccessibilityPermission(AXIsProcessTrusted() != 0); })));
+      })
+      .onDisappear([permissionTimer] { permissionTimer.set(nullptr); });
+}
+
+}  // namespace orvane

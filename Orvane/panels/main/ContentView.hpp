@@ -1,0 +1,54 @@
+// The whole content of the main window: its own title bar, the panel that pins the Dock to a
+// display, and the panel that prevents the Dock from popping up.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "Orvane/model/OrvaneModel.hpp"
+#include "Orvane/ui/View.hpp"
+
+namespace orvane {
+
+/// Reads the model whenever it is described and calls its operations; it holds no state but whether
+/// it has appeared and what the pointer is over.
+struct ContentView {
+  /// In points.
+  static constexpr double width = 700;
+  static constexpr double height = 516;
+
+  /// What the controls of the title bar do.
+  struct Actions {
+    std::function<void()> close;
+    std::function<void()> minimise;
+    std::function<void()> showSettings;
+  };
+
+  /// Must outlive the view.
+  OrvaneModel* model;
+  Actions actions;
+
+  ui::View body(const ui::Environment& environment) const;
+
+ private:
+  [[nodiscard]] std::string localized(std::string_view english, std::string_view chinese) const;
+  /// The guard is running and pins the Dock to one display.
+  [[nodiscard]] bool isPinned() const;
+  /// The guard is running and keeps the Dock from every display.
+  [[nodiscard]] bool isPreventing() const;
+
+  [[nodiscard]] ui::View windowBackground(bool isDark) const;
+  [[nodiscard]] ui::View titleBar(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View trafficLights(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View appIcon(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View settingsButton() const;
+  [[nodiscard]] ui::View panels() const;
+  [[nodiscard]] ui::View lockDockPanel() const;
+  [[nodiscard]] ui::View displayPicker() const;
+  [[nodiscard]] ui::View pinButton() const;
+  [[nodiscard]] ui::View hideDockPanel() const;
+  [[nodiscard]] ui::View popUpButtons() const;
+};
+
+}  // namespace orvane

@@ -1,0 +1,140 @@
+// The two panels of the main window: pinning the Dock to a display, and preventing it from popping
+// up anywhere.
+#include "Orvane/panels/main/ContentView.hpp"
+#include "Orvane/panels/main/DisplayCardTexts.hpp"
+#include "Orvane/panels/main/DisplayChoiceCard.hpp"
+#include "Orvane/panels/main/DockPanel.hpp"
+#include "Orvane/panels/main/PanelIcon.hpp"
+#include "Orvane/panels/main/PrimaryActionButtonStyle.hpp"
+#include "Orvane/panels/main/SecondaryActionButtonStyle.hpp"
+#include "Orvane/panels/main/StatusPill.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Group.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ScrollView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+constexpr double panelSpacing = 10;
+constexpr Edges panelsPadding{.top = 15, .leading = 25, .bottom = 25, .trailing = 25};
+constexpr double pinPanelHeight = 269;
+constexpr double popUpPanelHeight = 121;
+/// The rows of the pin panel fill it to a few points; the picker brings air of its own.
+constexpr double pinPanelRowSpacing = 4;
+constexpr double popUpPanelRowSpacing = 8;
+constexpr double pickerHeight = 154;
+constexpr double cardSpacing = 14;
+/// Room for what a raised card adds to its size, so that the scroll view does not cut it.
+constexpr double pickerSidePadding = 3;
+constexpr double headerSpacing = 14;
+constexpr double titleToDescription = 3;
+constexpr double buttonSpacing = 10;
+constexpr double dockSettingsWidth = 190;
+
+View labelled(const std::string& symbol, const std::string& text) {
+  return HStack(7, {Symbol(symbol), Text(text).lineLimit(1)});
+}
+
+struct HeaderTexts {
+  std::string title;
+  std::string description;
+};
+
+View header(const PanelIcon& icon, const HeaderTexts& texts, const StatusPill& pill) {
+  const View words = VStack(
+      titleToDescription, HorizontalAlignment::leading,
+      {Text(texts.title).font(Font::system(18, Weight::bold)).accessibilityRole(Role::heading),
+       Text(texts.description).font(Font::system(13)).foreground(Color::secondary())});
+  return HStack(headerSpacing, {icon, words.layoutPriority(1), Spacer(), pill});
+}
+
+/// Fills the height that the panel leaves it, its content in the middle of it.
+View panel(double height, const View& content) {
+  return DockPanel{content.height(height - 2 * DockPanel::padding)};
+}
+
+}  // namespace
+
+View ContentView::panels() const {
+  return VStack(panelSpacing, {lockDockPanel(), hideDockPanel()}).padding(panelsPadding);
+}
+
+View ContentView::lockDockPanel() const {
+  const View head = header(
+      {.systemImage = "lock", .tint = Color::accent()},
+      {.title = localized("Pin Dock to a Display", "固定 Dock 到指定显示器"),
+       .description = localized("Dock stays on the selected display", "Dock 固定在选中的显示器")},
+      {.text = isPinned() ? localized("Pinned", "已固定") : localized("Not Pinned", "未固定"),
+       .isActive = isPinned()});
+  return panel(pinPanelHeight, VStack(pinPanelRowSpacing, {head, displayPicker(), pinButton()}));
+}
+
+View ContentView::displayPicker() const {
+  const std::vector<DisplaySnapshot>& displays = model->displays().value();
+  const OrvaneLanguage language = model->appLanguage().value();
+  const auto card = [&](const DisplaySnapshot& display, std::size_t position) {
+    return DisplayChoiceCard{
+        .display = display,
+        .fallbackLabel = DisplayCardTexts::fallbackLabel(position, language),
+        .roleLabel = DisplayCardTexts::roleLabel(display, displays, language),
+        .isSelected = model->selectedDisplayID().value() == display.id,
+        .action = [model = model, id = display.id] { model->selectDisplay(id); },
+    };
+  };
+  const auto identify = [](const DisplaySnapshot& display) { return display.id; };
+  const View cards = HStack(cardSpacing, {forEach(displays, identify, card)});
+  return ScrollView(cards.padding(Edges::horizontal(pickerSidePadding)).height(pickerHeight))
+      .height(pickerHeight);
+}
+
+View ContentView::pinButton() const {
+  const View label = isPinned() ? labelled("lock.open", localized("Unpin Dock", "解除固定 Dock"))
+                                : labelled("lock", localized("Pin Dock", "固定 Dock"));
+  return Button([model = model] { model->toggleSelectedDisplayLock(); }, label)
+      .style(PrimaryActionButtonStyle{.tint = isPinned() ? Color::red() : Color::accent()})
+      .focusRing(ShapeForm::rounded(PrimaryActionButtonStyle::cornerRadius))
+      .disabled(!model->selectedDisplayID().value().has_value());
+}
+
+View ContentView::hideDockPanel() const {
+  const std::string description =
+      isPreventing()
+          ? localized(
+                "If the Dock is still visible, manually enable “Automatically hide and show "
+                "the Dock”",
+                "如果你还看得到 Dock 栏，需要手动开启“自动隐藏和显示程序坞”")
+          : localized("Prevents screen edges from bringing up the Dock",
+                      "阻止屏幕边缘触发 Dock 弹出");
+  const View head = header(
+      {.systemImage = "eye.slash", .tint = isPreventing() ? Color::accent() : Color::gray()},
+      {.title = localized("Prevent Dock Pop-Up", "防止 Dock 弹出"), .description = description},
+      {.text = isPreventing() ? localized("Enabled", "已启用") : localized("Off", "未启用"),
+       .isActive = isPreventing()});
+  return panel(popUpPanelHeight, VStack(popUpPanelRowSpacing, {head, popUpButtons()}));
+}
+
+View ContentView::popUpButtons() const {
+  const View toggleLabel =
+      isPreventing() ? labelled("eye", localized("Allow Dock Pop-Up", "允许 Dock 弹出"))
+                     : labelled("eye.slash", localized("Prevent Dock Pop-Up", "防止 Dock 弹出"));
+  const ShapeForm ring = ShapeForm::rounded(SecondaryActionButtonStyle::cornerRadius);
+  const View toggle = Button([model = model] { model->toggleHideDockOnAllDisplays(); }, toggleLabel)
+                          .style(SecondaryActionButtonStyle{})
+                          .focusRing(ring);
+  const View openSettings =
+      Button([] { DockMouseGuard::openDesktopAndDockSettings(); },
+             labelled("gearshape", localized("Open Dock Settings", "打开 Dock 设置")))
+          .style(SecondaryActionButtonStyle{})
+          .focusRing(ring)
+          .width(dockSettingsWidth)
+          .transition(Transition::move(Edge::trailing).combined(Transition::opacity()));
+  return HStack(buttonSpacing, {toggle, when(isPreventing(), openSettings)});
+}
+
+}  // namespace orvane

@@ -1,0 +1,95 @@
+// A card that shows one display and chooses it as the target.
+#include "Orvane/panels/main/DisplayChoiceCard.hpp"
+
+#include "Orvane/panels/main/OrvanePalette.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+constexpr double imageToTitle = 6;
+constexpr double titleToRole = 2;
+constexpr double sidePadding = 12;
+constexpr double imageShadowRadius = 5;
+constexpr double imageShadowDrop = 3;
+constexpr double hoverSeconds = 0.14;
+
+/// The card shows hovering and selection by itself; pressing changes nothing.
+struct CardButtonStyle {
+  View body(const ButtonConfiguration& configuration, const Environment& /*environment*/) const {
+    return configuration.label;
+  }
+};
+
+}  // namespace
+
+const std::string& DisplayChoiceCard::title() const {
+  return display.name.empty() ? fallbackLabel : display.name;
+}
+
+View DisplayChoiceCard::content() const {
+  const View image = Image(display.isBuiltIn ? "DisplayLaptop" : "DisplayMonitor")
+                         .resizable(ContentMode::fit)
+                         .frame(122, 70)
+                         .shadow({.color = Color::black().opacity(0.06),
+                                  .radius = imageShadowRadius,
+                                  .y = imageShadowDrop});
+  const View name = Text(title())
+                        .font(Font::system(13, isSelected ? Weight::bold : Weight::medium))
+                        .foreground(isSelected ? Color::accent() : Color::primary())
+                        .lineLimit(1);
+  const View role = Text(roleLabel)
+                        .font(Font::system(11, Weight::semibold))
+                        .foreground(isSelected ? Color::accent() : Color::secondary())
+                        .lineLimit(1);
+  return VStack(imageToTitle, {image, VStack(titleToRole, {name, role})})
+      .padding(Edges::horizontal(sidePadding))
+      .frame(width, height);
+}
+
+View DisplayChoiceCard::surface(bool isDark, bool isRaised) const {
+  const double raised = isDark ? 0.14 : 0.2;
+  const Color border = isSelected ? Color::accent() : OrvanePalette::controlRim(isDark);
+  return RoundedRectangle(cornerRadius)
+      .fill(Color::white().opacity(isRaised ? raised : 0.075))
+      .strokeBorder(border, isSelected ? 1.3 : 0.8);
+}
+
+View DisplayChoiceCard::checkBadge() const {
+  return Symbol("checkmark")
+      .font(Font::system(12, Weight::black))
+      .foreground(Color::white())
+      .frame(20, 20)
+      .background(Circle().fill(Color::accent()))
+      .padding(8)
+      .transition(Transition::scale(0.82).combined(Transition::opacity()));
+}
+
+View DisplayChoiceCard::body(const Environment& environment) const {
+  const State<bool> isHovered = environment.state("isHovered", false);
+  const bool isRaised = isSelected || isHovered.value();
+  const View card = content()
+                        .background(surface(environment.isDark(), isRaised))
+                        .overlay(when(isSelected, checkBadge()), Alignment::topTrailing());
+  return Button([environment,
+                 action = action] { environment.animate(Curve::spring(0.24, 0.82), action); },
+                card)
+      .style(CardButtonStyle{})
+      .focusRing(ShapeForm::rounded(cornerRadius))
+      .accessibilityRole(Role::radioButton)
+      .accessibilityLabel(title())
+      .accessibilityValue(roleLabel)
+      .accessibilitySelected(isSelected)
+      .scale(isRaised ? 1.012 : 1)
+      .animation(Curve::easeOut(hoverSeconds), isHovered.value())
+      .onHover([isHovered](bool isInside) { isHovered.set(isInside); });
+}
+
+}  // namespace orvane

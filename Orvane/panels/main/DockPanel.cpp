@@ -1,0 +1,30 @@
+// The surface of a panel within the main window.
+#include "Orvane/panels/main/DockPanel.hpp"
+
+#include "Orvane/panels/main/OrvanePalette.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+constexpr double shadowRadius = 10;
+constexpr double shadowDrop = 4;
+
+}  // namespace
+
+View DockPanel::body(const Environment& environment) const {
+  const bool isDark = environment.isDark();
+  return content.padding(padding).maximumWidth().background(
+      RoundedRectangle(cornerRadius)
+          .castShadow({.color = Color::black().opacity(isDark ? 0.396 : 0.18),
+                       .radius = shadowRadius,
+                       .y = shadowDrop})
+          .fill(Color::white().opacity(isDark ? 0.03 : 0.28))
+          .fill(OrvanePalette::panelOverlayGradient(isDark))
+          .stroke(OrvanePalette::panelRim(isDark), 0.8));
+}
+
+}  // namespace orvane

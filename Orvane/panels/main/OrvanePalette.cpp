@@ -1,0 +1,57 @@
+// The colours that give the main panel its look of glass.
+#include "Orvane/panels/main/OrvanePalette.hpp"
+
+namespace orvane::OrvanePalette {
+
+using ui::Color;
+using ui::Gradient;
+
+namespace {
+
+Color white(double opacity) {
+  return Color::white().opacity(opacity);
+}
+Color black(double opacity) {
+  return Color::black().opacity(opacity);
+}
+Color accent(double opacity) {
+  return Color::accent().opacity(opacity);
+}
+
+}  // namespace
+
+Gradient windowGradient(bool isDark) {
+  return isDark ? Gradient::linear({white(0.07), accent(0.05), black(0.16)})
+                : Gradient::linear({white(0.34), accent(0.055), white(0.12)});
+}
+
+Gradient windowTopHighlight(bool isDark) {
+  return isDark ? Gradient::linear({white(0.085), white(0.035), white(0)})
+                : Gradient::linear({white(0.28), white(0.12), white(0)});
+}
+
+Gradient panelOverlayGradient(bool isDark) {
+  return isDark ? Gradient::linear({white(0.1), accent(0.055), black(0.08)})
+                : Gradient::linear({white(0.3), white(0.1)});
+}
+
+Color secondaryButtonFill(bool isDark, bool isPressed) {
+  if (isDark) {
+    return white(isPressed ? 0.14 : 0.085);
+  }
+  return black(isPressed ? 0.08 : 0.05);
+}
+
+Color windowRim(bool isDark) {
+  return white(isDark ? 0.08 : 0.28);
+}
+
+Color panelRim(bool isDark) {
+  return white(isDark ? 0.22 : 0.5);
+}
+
+Color controlRim(bool isDark) {
+  return isDark ? white(0.18) : black(0.065);
+}
+
+}  // namespace orvane::OrvanePalette

@@ -1,0 +1,24 @@
+// The colours that give the main panel its look of glass: nearly all are system colours at a low
+// opacity, switched on the appearance.
+#pragma once
+
+#include "Orvane/ui/Color.hpp"
+#include "Orvane/ui/Environment.hpp"
+#include "Orvane/ui/Fill.hpp"
+
+namespace orvane::OrvanePalette {
+
+/// The window's own surface, from top to bottom.
+[[nodiscard]] ui::Gradient windowGradient(bool isDark);
+/// The light that falls on the top of the window.
+[[nodiscard]] ui::Gradient windowTopHighlight(bool isDark);
+/// Laid over the surface of a panel.
+[[nodiscard]] ui::Gradient panelOverlayGradient(bool isDark);
+[[nodiscard]] ui::Color secondaryButtonFill(bool isDark, bool isPressed);
+
+/// The line around the window, around panels and pills, and around small controls.
+[[nodiscard]] ui::Color windowRim(bool isDark);
+[[nodiscard]] ui::Color panelRim(bool isDark);
+[[nodiscard]] ui::Color controlRim(bool isDark);
+
+}  // namespace orvane::OrvanePalette

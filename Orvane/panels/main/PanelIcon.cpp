@@ -1,0 +1,32 @@
+// The tile with a symbol at the head of a panel.
+#include "Orvane/panels/main/PanelIcon.hpp"
+
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+constexpr double side = 48;
+/// A little under a quarter of the side, the proportion of the Mac's own icon tiles.
+constexpr double cornerRadius = 11;
+constexpr double shadowRadius = 7;
+constexpr double shadowDrop = 3;
+
+}  // namespace
+
+View PanelIcon::body(const Environment& /*environment*/) const {
+  return Symbol(systemImage)
+      .font(Font::system(24, Weight::bold))
+      .foreground(Color::white())
+      .frame(side, side)
+      .background(
+          RoundedRectangle(cornerRadius)
+              .castShadow({.color = tint.opacity(0.24), .radius = shadowRadius, .y = shadowDrop})
+              .fill(Gradient::linear({tint.opacity(0.98), tint.opacity(0.78)})));
+}
+
+}  // namespace orvane

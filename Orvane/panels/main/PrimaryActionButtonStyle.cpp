@@ -1,0 +1,29 @@
+// The look of a panel's one main button.
+#include "Orvane/panels/main/PrimaryActionButtonStyle.hpp"
+
+#include "Orvane/ui/ShapeView.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+constexpr double disabledOpacity = 0.5;
+
+}  // namespace
+
+View PrimaryActionButtonStyle::body(const ButtonConfiguration& configuration,
+                                    const Environment& /*environment*/) const {
+  const Fill fill = Gradient::system(tint);
+  return configuration.label.font(Font::system(15, Weight::semibold))
+      .foreground(Color::white())
+      .maximumWidth()
+      .height(height)
+      .background(
+          RoundedRectangle(cornerRadius).fill(configuration.isPressed ? fill.opacity(0.82) : fill))
+      .opacity(configuration.isEnabled ? 1 : disabledOpacity)
+      .scale(configuration.isPressed ? 0.995 : 1);
+}
+
+}  // namespace orvane

@@ -1,0 +1,19 @@
+// The look of a panel's one main button.
+#pragma once
+
+#include "Orvane/ui/ButtonStyle.hpp"
+
+namespace orvane {
+
+struct PrimaryActionButtonStyle {
+  /// In points.
+  static constexpr double height = 38;
+  static constexpr double cornerRadius = 8;
+
+  ui::Color tint;
+
+  ui::View body(const ui::ButtonConfiguration& configuration,
+                const ui::Environment& environment) const;
+};
+
+}  // namespace orvane

@@ -1,0 +1,24 @@
+// The look of the lesser buttons of a panel.
+#include "Orvane/panels/main/SecondaryActionButtonStyle.hpp"
+
+#include "Orvane/panels/main/OrvanePalette.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+View SecondaryActionButtonStyle::body(const ButtonConfiguration& configuration,
+                                      const Environment& environment) const {
+  const bool isDark = environment.isDark();
+  return configuration.label.font(Font::system(13, Weight::bold))
+      .foreground(Color::primary().opacity(0.82))
+      .maximumWidth()
+      .height(height)
+      .background(RoundedRectangle(cornerRadius)
+                      .fill(OrvanePalette::secondaryButtonFill(isDark, configuration.isPressed))
+                      .stroke(OrvanePalette::controlRim(isDark), 0.8))
+      .scale(configuration.isPressed ? 0.99 : 1);
+}
+
+}  // namespace orvane

@@ -1,0 +1,17 @@
+// The look of the lesser buttons of a panel.
+#pragma once
+
+#include "Orvane/ui/ButtonStyle.hpp"
+
+namespace orvane {
+
+struct SecondaryActionButtonStyle {
+  /// In points.
+  static constexpr double height = 34;
+  static constexpr double cornerRadius = 8;
+
+  ui::View body(const ui::ButtonConfiguration& configuration,
+                const ui::Environment& environment) const;
+};
+
+}  // namespace orvane

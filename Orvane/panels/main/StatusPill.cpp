@@ -1,0 +1,35 @@
+// A short word in a capsule that tells whether a mode is on.
+#include "Orvane/panels/main/StatusPill.hpp"
+
+#include "Orvane/panels/main/OrvanePalette.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+Color capsuleFill(bool isActive, bool isDark) {
+  if (isActive) {
+    return Color::accent().opacity(isDark ? 0.24 : 0.14);
+  }
+  return isDark ? Color::white().opacity(0.095) : Color::black().opacity(0.05);
+}
+
+}  // namespace
+
+View StatusPill::body(const Environment& environment) const {
+  const bool isDark = environment.isDark();
+  return Text(text)
+      .font(Font::system(13, Weight::bold))
+      .foreground(isActive ? Color::accent() : Color::secondary())
+      .fixedSize()
+      .padding(Edges::horizontal(13).vertical(8))
+      .background(Capsule()
+                      .fill(capsuleFill(isActive, isDark))
+                      .stroke(OrvanePalette::panelRim(isDark), 0.7));
+}
+
+}  // namespace orvane

@@ -1,0 +1,17 @@
+// A short word in a capsule that tells whether a mode is on.
+#pragma once
+
+#include <string>
+
+#include "Orvane/ui/View.hpp"
+
+namespace orvane {
+
+struct StatusPill {
+  std::string text;
+  bool isActive = false;
+
+  ui::View body(const ui::Environment& environment) const;
+};
+
+}  // namespace orvane

@@ -1,0 +1,41 @@
+// The look of the icon button in the window's own title bar.
+#include "Orvane/panels/main/TitleBarIconButtonStyle.hpp"
+
+#include "Orvane/panels/main/OrvanePalette.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+constexpr double cornerRadius = 10;
+constexpr double shadowRadius = 5;
+constexpr double shadowDrop = 2;
+
+double backgroundOpacity(bool isDark, bool isPressed) {
+  if (isDark) {
+    return isPressed ? 0.075 : 0.14;
+  }
+  return isPressed ? 0.12 : 0.32;
+}
+
+}  // namespace
+
+View TitleBarIconButtonStyle::body(const ButtonConfiguration& configuration,
+                                   const Environment& environment) const {
+  const bool isDark = environment.isDark();
+  return configuration.label
+      .foreground(isDark ? Color::primary().opacity(0.84) : Color::rgb(0.16, 0.22, 0.34))
+      .background(
+          RoundedRectangle(cornerRadius)
+              .castShadow({.color = Color::black().opacity(isDark ? 0.22 : 0.1),
+                           .radius = shadowRadius,
+                           .y = shadowDrop})
+              .fill(Color::white().opacity(backgroundOpacity(isDark, configuration.isPressed)))
+              .stroke(OrvanePalette::panelRim(isDark), 0.7))
+      .scale(configuration.isPressed ? 0.96 : 1);
+}
+
+}  // namespace orvane

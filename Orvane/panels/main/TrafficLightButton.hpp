@@ -1,0 +1,31 @@
+// One of the round buttons at the leading end of the window's own title bar.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "Orvane/ui/View.hpp"
+
+namespace orvane {
+
+struct TrafficLightButton {
+  ui::Color color;
+  ui::Color stroke;
+  ui::Color hoverIconColor;
+  /// The name of a system symbol.
+  std::string hoverSystemImage;
+  /// Both lights of a window show their symbols together.
+  bool showsHoverIcon = false;
+  /// What the button does, for screen readers.
+  std::string label;
+  std::function<void()> action;
+
+  [[nodiscard]] static TrafficLightButton close(bool showsHoverIcon, std::string label,
+                                                std::function<void()> action);
+  [[nodiscard]] static TrafficLightButton minimise(bool showsHoverIcon, std::string label,
+                                                   std::function<void()> action);
+
+  ui::View body(const ui::Environment& environment) const;
+};
+
+}  // namespace orvane

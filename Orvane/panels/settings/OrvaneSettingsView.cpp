@@ -1,0 +1,83 @@
+// The content of the settings window: its surface and header, and the entrance of the cards, which
+// are in OrvaneSettingsViewCards.cpp.
+#include "Orvane/panels/settings/OrvaneSettingsView.hpp"
+
+#include "Orvane/panels/settings/SettingsIconButtonStyle.hpp"
+#include "Orvane/panels/settings/SettingsPalette.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+constexpr double tileSide = 30;
+constexpr double tileCornerRadius = 8;
+constexpr Edges headerPadding{.top = 14, .leading = 20, .bottom = 10, .trailing = 18};
+constexpr double entranceOffset = 10;
+constexpr double entranceSeconds = 0.24;
+
+View headerTile() {
+  return Symbol("gearshape.fill")
+      .font(Font::system(18, Weight::semibold))
+      .foreground(Color::white())
+      .frame(tileSide, tileSide)
+      .background(
+          RoundedRectangle(tileCornerRadius)
+              .castShadow({.color = SettingsPalette::blue().opacity(0.25), .radius = 5, .y = 2})
+              .fill(Gradient::linear({SettingsPalette::blue(), SettingsPalette::indigo()},
+                                     UnitPoint::topLeading(), UnitPoint::bottomTrailing())));
+}
+
+}  // namespace
+
+std::string OrvaneSettingsView::localized(std::string_view english,
+                                          std::string_view chinese) const {
+  return model->appLanguage().value().localized(english, chinese);
+}
+
+View OrvaneSettingsView::header(const Environment& environment) const {
+  const std::string closeTitle = localized("Close", "关闭");
+  const View closeButton = Button(
+                               [onClose = onClose, environment] {
+                                 if (onClose) {
+                                   onClose();
+                                 } else {
+                                   environment.dismiss();
+                                 }
+                               },
+                               Symbol("xmark").font(Font::system(12, Weight::bold)).frame(28, 28))
+                               .style(SettingsIconButtonStyle{})
+                               .focusRing(ShapeForm::circle())
+                               .keyboardShortcut(KeyboardShortcut::cancelAction())
+                               .tooltip(closeTitle)
+                               .accessibilityLabel(closeTitle);
+  return HStack(10, {headerTile(),
+                     Text(localized("Settings", "设置"))
+                         .font(Font::system(17, Weight::bold))
+                         .accessibilityRole(Role::heading),
+                     Spacer(), closeButton})
+      .padding(headerPadding)
+      .maximumWidth()
+      .background(Rectangle().fill(SettingsPalette::headerGradient(environment.isDark())))
+      .overlay(Rectangle().fill(SettingsPalette::dividerGradient(environment.isDark())).height(1),
+               Alignment::bottom());
+}
+
+View OrvaneSettingsView::body(const Environment& environment) const {
+  const State<bool> hasAppeared = environment.state("hasAppeared", false);
+  const View sections = cards()
+                            .opacity(hasAppeared.value() ? 1 : 0)
+                            .offset(0, hasAppeared.value() ? 0 : entranceOffset);
+  return VStack(0, {header(environment), sections, Spacer()})
+      .frame(width, height)
+      .background(Rectangle().fill(SettingsPalette::windowGradient(environment.isDark())))
+      .onAppear([hasAppeared] { hasAppeared.set(true, Curve::easeOut(entranceSeconds)); });
+}
+
+}  // namespace orvane

@@ -1,0 +1,35 @@
+// The content of the settings window: language, unlock shortcut, privacy and support.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "Orvane/model/OrvaneModel.hpp"
+#include "Orvane/ui/View.hpp"
+
+namespace orvane {
+
+struct OrvaneSettingsView {
+  /// In points.
+  static constexpr double width = 420;
+  static constexpr double height = 476;
+
+  /// Must outlive the view.
+  OrvaneModel* model;
+  /// Unset: closing asks for the end of what the view is shown in.
+  std::function<void()> onClose;
+
+  ui::View body(const ui::Environment& environment) const;
+
+ private:
+  [[nodiscard]] std::string localized(std::string_view english, std::string_view chinese) const;
+  [[nodiscard]] ui::View header(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View cards() const;
+  [[nodiscard]] ui::View languageCard() const;
+  [[nodiscard]] ui::View shortcutCard() const;
+  [[nodiscard]] ui::View privacyCard() const;
+  [[nodiscard]] ui::View supportCard() const;
+};
+
+}  // namespace orvane

@@ -1,0 +1,129 @@
+// The four cards of the settings panel.
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "Orvane/panels/settings/OrvaneSettingsView.hpp"
+#include "Orvane/panels/settings/SettingsPalette.hpp"
+#include "Orvane/panels/settings/SettingsSecondaryButtonStyle.hpp"
+#include "Orvane/panels/settings/SettingsSection.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/Picker.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+constexpr double cardSpacing = 10;
+constexpr Edges cardsPadding{.top = 12, .leading = 18, .bottom = 14, .trailing = 18};
+constexpr double backgroundTintOpacity = 0.05;
+constexpr double textToButtons = 9;
+constexpr double buttonSpacing = 8;
+constexpr double languagePickerWidth = 160;
+constexpr double shortcutPickerWidth = 150;
+
+/// Where a case stands among all cases; every case does.
+template <typename Cases, typename Value>
+int indexIn(const Cases& allCases, Value value) {
+  return static_cast<int>(std::ranges::find(allCases, value) - allCases.begin());
+}
+
+View button(const std::string& symbol, const std::string& title, std::function<void()> action) {
+  return Button(std::move(action), HStack(6, {Symbol(symbol), Text(title).fixedSize()}))
+      .style(SettingsSecondaryButtonStyle{})
+      .focusRing(ShapeForm::rounded(SettingsSecondaryButtonStyle::cornerRadius));
+}
+
+View statement(const std::string& text) {
+  return Text(text).font(Font::callout()).foreground(Color::secondary()).fixedSizeVertical();
+}
+
+SettingsSection section(const std::string& symbol, const std::string& title, const Color& tint,
+                        const View& content) {
+  return {.systemImage = symbol,
+          .title = title,
+          .tint = tint,
+          .backgroundTint = tint.opacity(backgroundTintOpacity),
+          .content = content};
+}
+
+}  // namespace
+
+View OrvaneSettingsView::cards() const {
+  return VStack(cardSpacing, {languageCard(), shortcutCard(), privacyCard(), supportCard()})
+      .padding(cardsPadding);
+}
+
+View OrvaneSettingsView::languageCard() const {
+  const std::string title = localized("Language", "语言");
+  // In the order of the cases; the name of English is the same in both languages, on purpose.
+  const std::vector<std::string> names = {localized("Follow System", "跟随系统"), "English",
+                                          localized("Chinese", "中文")};
+  const Picker picker{
+      .label = title,
+      .items = names,
+      .selectedIndex =
+          indexIn(OrvaneLanguage::allCases, OrvaneLanguage::Value(model->appLanguage().value())),
+      .onChoose = [model = model](int index) {
+        model->setAppLanguage(OrvaneLanguage::allCases.at(static_cast<std::size_t>(index)));
+      }};
+  return section("globe", title, SettingsPalette::blue(),
+                 HStack({Text(localized("Use Orvane in", "Orvane 使用语言")), Spacer(),
+                         View(picker).width(languagePickerWidth)}));
+}
+
+View OrvaneSettingsView::shortcutCard() const {
+  const std::string title = localized("Temporary Unlock Shortcut", "临时解锁快捷键");
+  std::vector<std::string> names;
+  for (const OrvaneModifier modifier : OrvaneModifier::allCases) {
+    names.emplace_back(modifier.shortcutText());
+  }
+  const Picker picker{
+      .label = title,
+      .items = names,
+      .selectedIndex = indexIn(OrvaneModifier::allCases,
+                               OrvaneModifier::Value(model->temporaryUnlockModifier().value())),
+      .onChoose = [model = model](int index) {
+        model->setTemporaryUnlockModifier(
+            OrvaneModifier::allCases.at(static_cast<std::size_t>(index)));
+      }};
+  const View line = statement(
+      localized("Hold the shortcut to allow Dock temporarily", "按住快捷键时允许 Dock 临时弹出"));
+  return section("keyboard", title, SettingsPalette::indigo(),
+                 HStack({line, Spacer(), View(picker).width(shortcutPickerWidth)}));
+}
+
+View OrvaneSettingsView::privacyCard() const {
+  const View buttons = HStack(
+      buttonSpacing, {button("doc.text", localized("Privacy Policy", "隐私政策"),
+                             [model = model] { model->openPrivacyPolicy(); }),
+                      button("lock.shield", localized("Accessibility Settings", "辅助功能设置"),
+                             [model = model] { model->openAccessibilitySettings(); })});
+  const View text = statement(localized(
+      "Orvane only reads display layout and mouse position on this Mac to prevent non-target "
+      "displays from triggering Dock. It does not collect, upload, or share personal data",
+      "Orvane 只在本机读取显示器排列和鼠标位置，用于阻止非目标显示器触发 "
+      "Dock。不会收集、上传或共享个人数据"));
+  return section("hand.raised", localized("Privacy", "隐私"), SettingsPalette::mint(),
+                 VStack(textToButtons, HorizontalAlignment::leading, {text, buttons}));
+}
+
+View OrvaneSettingsView::supportCard() const {
+  const View text = statement(localized(
+      "Contact support by email if you run into display detection, permission, or locking issues",
+      "遇到显示器识别、权限或锁定问题时，可以通过邮件联系支持"));
+  return section("lifepreserver", localized("Support", "用户支持"), SettingsPalette::sky(),
+                 VStack(textToButtons, HorizontalAlignment::leading,
+                        {text, button("envelope", localized("Contact Support", "联系支持"),
+                                      [model = model] { model->openSupportEmail(); })}));
+}
+
+}  // namespace orvane

@@ -1,0 +1,13 @@
+// The look of the close button of the settings panel.
+#pragma once
+
+#include "Orvane/ui/ButtonStyle.hpp"
+
+namespace orvane {
+
+struct SettingsIconButtonStyle {
+  ui::View body(const ui::ButtonConfiguration& configuration,
+                const ui::Environment& environment) const;
+};
+
+}  // namespace orvane

@@ -1,0 +1,22 @@
+// The colours of the settings panel, cooler and more blue than those of the main panel.
+#pragma once
+
+#include "Orvane/ui/Color.hpp"
+#include "Orvane/ui/Fill.hpp"
+
+namespace orvane::SettingsPalette {
+
+[[nodiscard]] ui::Color blue();
+[[nodiscard]] ui::Color sky();
+[[nodiscard]] ui::Color indigo();
+[[nodiscard]] ui::Color mint();
+[[nodiscard]] ui::Color windowTop();
+[[nodiscard]] ui::Color windowMid();
+[[nodiscard]] ui::Color windowBottom();
+[[nodiscard]] ui::Color buttonFill();
+
+[[nodiscard]] ui::Gradient windowGradient(bool isDark);
+[[nodiscard]] ui::Gradient headerGradient(bool isDark);
+[[nodiscard]] ui::Gradient dividerGradient(bool isDark);
+
+}  // namespace orvane::SettingsPalette
