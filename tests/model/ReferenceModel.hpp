@@ -1,0 +1,76 @@
+// The state model as its behaviour is described, small and slow, to be compared with the real one
+// after every step.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Orvane/model/OrvaneStatus.hpp"
+#include "tests/model/ReferenceGuard.hpp"
+#include "tests/model/ReferenceWorld.hpp"
+
+namespace orvane::reference {
+
+/// One run of the application.
+class Model {
+ public:
+  enum class Request { lock, prevent };
+
+  explicit Model(World& world);
+
+  void refresh();
+  void select(const std::string& id);
+  void toggleLock();
+  void togglePin();
+  void togglePrevent();
+  void restore();
+  void setPrevents(bool prevents);
+  void setModifier(const std::string& modifier);
+  void setLanguage(const std::string& language);
+  void openAccessibilitySettings();
+
+  /// The user granted what the request asked for.
+  void granted(Request request);
+  void displaysChanged();
+  void move(CGPoint place, std::uint64_t flags, CGPoint& outcome);
+  /// What was left to the main queue.
+  void settle();
+  /// Time has passed: what was delayed and is due now happens.
+  void catchUp();
+
+  [[nodiscard]] OrvaneStatus status() const;
+  [[nodiscard]] bool isRunning() const { return guard.hasTap; }
+
+  Guard guard;
+  std::vector<std::string> displays;
+  std::optional<std::string> selected;
+  bool hasPermission;
+  bool isUnlocked = false;
+  double lastChecked;
+  std::string language;
+  std::string modifier;
+  bool prevents;
+  /// What the user was asked and has not yet answered.
+  std::vector<Request> requests;
+  bool isAsking = false;
+
+ private:
+  void setSelected(const std::optional<std::string>& id);
+  void ask(Request request);
+  void start();
+  void startForTheUser();
+  void stopIfRunning();
+  void restartIfRunning();
+  [[nodiscard]] bool isTargetListed() const;
+  [[nodiscard]] const Screen* listed(const std::string& identifier) const;
+
+  World& world_;
+  /// The screens as they were when they were last listed.
+  std::vector<Screen> listed_;
+  double askingEnds_ = 0;
+  std::vector<double> looks_;
+};
+
+}  // namespace orvane::reference
