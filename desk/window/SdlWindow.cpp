@@ -8,6 +8,14 @@ namespace {
 constexpr int smallestWidth = 960;
 constexpr int smallestHeight = 520;
 
+/// Without a display SDL falls back on drivers that draw where nobody sees it. Whoever asks for one
+/// of them by name has a reason and may have it.
+bool isInvisible(const char* driver) {
+  const std::string name = driver == nullptr ? "" : driver;
+  return SDL_getenv("SDL_VIDEODRIVER") == nullptr &&
+         (name == "offscreen" || name == "dummy" || name == "evdev");
+}
+
 }  // namespace
 
 std::unique_ptr<SdlWindow> SdlWindow::open(int width, int height, std::string& complaint) {
@@ -19,6 +27,10 @@ std::unique_ptr<SdlWindow> SdlWindow::open(int width, int height, std::string& c
   }
   // From here on the destructor ends SDL again.
   std::unique_ptr<SdlWindow> result(new SdlWindow);
+  if (isInvisible(SDL_GetCurrentVideoDriver())) {
+    complaint = "there is no display";
+    return nullptr;
+  }
   result->window_.reset(SDL_CreateWindow("Orvane desk", SDL_WINDOWPOS_CENTERED,
                                          SDL_WINDOWPOS_CENTERED, width, height,
                                          SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));

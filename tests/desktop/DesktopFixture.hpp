@@ -1,0 +1,82 @@
+// A machine with two small displays side by side, the application on it, and pictures of them: one
+// pixel per point, so that places in global coordinates are pixels.
+#pragma once
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/Rect.hpp"
+#include "desk/application/ApplicationHost.hpp"
+#include "desk/desktop/DesktopPicture.hpp"
+#include "tests/canvas/PixelFixture.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane::desk {
+
+class DesktopFixture : public MachineFixture {
+ protected:
+  static constexpr ui::Rect firstFrame{0, 0, 800, 500};
+  static constexpr ui::Rect secondFrame{800, 0, 800, 500};
+
+  DesktopFixture() {
+    attach(1, firstFrame);
+    attach(2, secondFrame);
+    machine.process.end();
+    machine.permission.setTrusted(true);
+    application.launch();
+    machine.mouse.moveTo({400, 250});
+    machine.advance(10);
+  }
+
+  void attach(std::uint32_t number, const ui::Rect& frame) {
+    Display display;
+    display.number = number;
+    display.uuid = "UUID-" + std::to_string(number);
+    display.name = "Display " + std::to_string(number);
+    // Both have the same height as the first, so the two coordinate systems differ by a sign only.
+    display.frame = CGRectMake(frame.x, -frame.y, frame.width, frame.height);
+    EXPECT_FALSE(machine.displays.attach(display));
+  }
+
+  void setEdge(const std::string& edge) {
+    machine.preferences.set({Dock::preferencesDomain}, Dock::orientationKey, edge);
+  }
+  void setAutoHide(bool hides) {
+    machine.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
+  }
+
+  SurfacePointer picture(const DesktopScene& scene) {
+    return renderDesktop(painter, scene, DesktopStyle::exact, 1);
+  }
+  SurfacePointer picture() { return picture(DesktopScene(machine, application)); }
+
+  /// How many pixels in the rectangle differ by more than a trace.
+  static int differences(const SurfacePointer& first, const SurfacePointer& second,
+                         const ui::Rect& rect) {
+    int count = 0;
+    for (int y = static_cast<int>(rect.y); y < static_cast<int>(rect.bottom()); ++y) {
+      for (int x = static_cast<int>(rect.x); x < static_cast<int>(rect.right()); ++x) {
+        const Pixel a = pixelAt(first.get(), x, y);
+        const Pixel b = pixelAt(second.get(), x, y);
+        const int difference = std::max(
+            {std::abs(a.red - b.red), std::abs(a.green - b.green), std::abs(a.blue - b.blue)});
+        count += difference > 2 ? 1 : 0;
+      }
+    }
+    return count;
+  }
+  static int differences(const SurfacePointer& first, const SurfacePointer& second) {
+    return differences(first, second,
+                       {0, 0, static_cast<double>(cairo_image_surface_get_width(first.get())),
+                        static_cast<double>(cairo_image_surface_get_height(first.get()))});
+  }
+
+  ApplicationHost application{machine};
+  DrawingResources resources;
+  DesktopPainter painter{resources};
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,227 @@
+// The picture of the desktop against the state of the machine, pixel by pixel where it matters.
+#include <cmath>
+
+#include "desk/desktop/DesktopPainter.hpp"
+#include "desk/desktop/DockShelf.hpp"
+#include "desk/desktop/DockTileArt.hpp"
+#include "desk/desktop/MenuBarLayer.hpp"
+#include "tests/desktop/DesktopFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+class DesktopPainterTest : public DesktopFixture {
+ protected:
+  ui::Rect dockFrame() const {
+    const CGRect frame = machine.dock.frame();
+    return {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height};
+  }
+  DockShelf shelf() const {
+    return DockShelf::make(dockFrame(), machine.dock.edge(), machine.dock.shownFraction(),
+                           dockTileCount());
+  }
+  /// The same desktop as if no Dock were there.
+  SurfacePointer pictureWithoutDock() {
+    setAutoHide(true);
+    machine.advance(1);
+    SurfacePointer result = picture();
+    setAutoHide(false);
+    machine.advance(1);
+    return result;
+  }
+};
+
+TEST_F(DesktopPainterTest, PaintsTheDockWhereTheMachineSaysItIsAndNowhereElse) {
+  for (const char* const edge : {"bottom", "left", "right"}) {
+    setEdge(edge);
+    machine.advance(1);
+    const SurfacePointer with = picture();
+    const SurfacePointer without = pictureWithoutDock();
+    const ui::Rect shelfRect = shelf().shelf;
+    const double area = shelfRect.width * shelfRect.height;
+    EXPECT_GT(differences(with, without, shelfRect), 0.9 * area) << edge;
+    // The shadow of the shelf reaches a little beyond it.
+    EXPECT_EQ(differences(with, without),
+              differences(with, without, shelfRect.inset(-30).intersection({0, 0, 1600, 500})))
+        << edge;
+    EXPECT_EQ(differences(with, without, secondFrame), 0) << edge;
+  }
+}
+
+TEST_F(DesktopPainterTest, PaintsTheDockOnTheDisplayItHasMovedTo) {
+  const SurfacePointer before = picture();
+  machine.mouse.moveTo({1200, 490});
+  machine.mouse.moveBy(0, 30);
+  machine.advance(1);
+  ASSERT_EQ(machine.dock.displayNumber(), 2U);
+  machine.mouse.moveTo({400, 250});
+  const SurfacePointer after = picture();
+  const ui::Rect now = shelf().shelf;
+  EXPECT_GT(now.x, 800);
+  EXPECT_GT(differences(before, after, now), 0.9 * now.width * now.height);
+  EXPECT_GT(differences(before, after, now.movedBy({-800, 0})), 0.9 * now.width * now.height);
+}
+
+TEST_F(DesktopPainterTest, PaintsTheDockHalfWayWhileItSlides) {
+  const SurfacePointer hidden = pictureWithoutDock();
+  setAutoHide(true);
+  machine.advance(1);
+  machine.mouse.moveTo({200, 499.5});
+  machine.advance(0.125);
+  ASSERT_DOUBLE_EQ(machine.dock.shownFraction(), 0.5);
+  const DockShelf half = shelf();
+  const SurfacePointer sliding = picture();
+  const ui::Rect seen = half.shelf.intersection(firstFrame);
+  EXPECT_GT(seen.height, 20);
+  EXPECT_LT(seen.height, half.shelf.height);
+  EXPECT_GT(differences(hidden, sliding, seen), 0.9 * seen.width * seen.height);
+  EXPECT_EQ(differences(hidden, sliding, {250, 400, 300, seen.y - 400 - 30}), 0);
+}
+
+TEST_F(DesktopPainterTest, ShowsTheLockOpenOrClosedInEveryMenuBarAndNoneWithoutTheApplication) {
+  const SurfacePointer open = picture();
+  application.model().toggleSelectedDisplayLock();
+  machine.runDue();
+  ASSERT_TRUE(application.model().isGuardRunning());
+  const SurfacePointer closed = picture();
+  application.terminate();
+  const SurfacePointer none = picture();
+  int inside = 0;
+  for (const ui::Rect& frame : {firstFrame, secondFrame}) {
+    const ui::Rect icon = MenuBarLayer::statusItemFrame(frame);
+    EXPECT_GT(differences(open, closed, icon), 10);
+    EXPECT_GT(differences(open, none, icon), 10);
+    EXPECT_GT(differences(closed, none, icon), 10);
+    inside += differences(open, closed, icon);
+  }
+  EXPECT_EQ(differences(open, closed), inside);
+}
+
+TEST_F(DesktopPainterTest, TheMenuClockShowsTheMachinesTime) {
+  const SurfacePointer before = picture();
+  machine.advance(30);
+  EXPECT_EQ(differences(before, picture()), 0);
+  machine.advance(30);
+  const SurfacePointer after = picture();
+  EXPECT_GT(differences(before, after, {660, 0, 140, 24}), 5);
+  EXPECT_EQ(differences(before, after, {0, 24, 1600, 476}), 0);
+}
+
+TEST_F(DesktopPainterTest, MarksTheZonesThatAreInForceWhenAsked) {
+  application.model().toggleSelectedDisplayLock();
+  machine.runDue();
+  DesktopScene scene(machine, application);
+  ASSERT_EQ(scene.zones.size(), 1U);
+  const SurfacePointer plain = picture(scene);
+  scene.showsZones = true;
+  const SurfacePointer marked = picture(scene);
+  const ui::Rect zone{800, 488, 800, 12};
+  EXPECT_EQ(differences(plain, marked, zone), 800 * 12);
+  // Only the arrows reach beyond the zone, by half a nudge, a line and its ends.
+  EXPECT_GT(differences(plain, marked, {800, 474, 800, 14}), 0);
+  EXPECT_EQ(differences(plain, marked), differences(plain, marked, {800, 474, 800, 26}));
+  for (const int x : {805, 1200, 1595}) {
+    const Pixel before = pixelAt(plain.get(), x, 494);
+    const Pixel after = pixelAt(marked.get(), x, 494);
+    EXPECT_GT(after.red - before.red, after.blue - before.blue + 40) << x;
+  }
+}
+
+TEST_F(DesktopPainterTest, MarksWhatWasMovedBackUntilItIsForgotten) {
+  DesktopScene scene(machine, application);
+  const SurfacePointer plain = picture(scene);
+  scene.movedBack = MovedBack{{1200, 300}, {1200, 288}, 1};
+  const SurfacePointer marked = picture(scene);
+  EXPECT_GT(differences(plain, marked, {1170, 270, 60, 60}), 100);
+  EXPECT_EQ(differences(plain, marked, firstFrame), 0);
+  scene.movedBack->strength = 0;
+  EXPECT_EQ(differences(plain, picture(scene)), 0);
+}
+
+TEST_F(DesktopPainterTest, PaintsThePointerWithItsTipAtItsPlace) {
+  const SurfacePointer before = picture();
+  machine.mouse.moveTo({1100, 200});
+  const SurfacePointer after = picture();
+  EXPECT_GT(differences(before, after, {1097, 197, 16, 24}), 100);
+  EXPECT_EQ(differences(before, after), differences(before, after, {1094, 194, 22, 30}) +
+                                            differences(before, after, {394, 244, 22, 30}));
+  // Inside the arrow, a little below the tip, it is dark.
+  EXPECT_LT(pixelAt(after.get(), 1102, 206).green, 60);
+  DesktopScene large(machine, application);
+  large.pointerMagnification = 2;
+  EXPECT_GT(differences(before, picture(large), {1097, 222, 40, 20}), 50);
+}
+
+TEST_F(DesktopPainterTest, ChangesTheWallpaperAndTheAppearanceWhenTheUserDoes) {
+  const SurfacePointer light = picture();
+  machine.appearance.isDark = true;
+  const SurfacePointer dark = picture();
+  EXPECT_GT(pixelAt(light.get(), 400, 4).green, 150);
+  EXPECT_LT(pixelAt(dark.get(), 400, 4).green, 60);
+  machine.appearance.wallpaper = Appearance::Wallpaper::white;
+  EXPECT_EQ(pixelAt(picture().get(), 100, 200), (Pixel{255, 255, 255, 255}));
+  machine.appearance.wallpaper = Appearance::Wallpaper::black;
+  EXPECT_EQ(pixelAt(picture().get(), 100, 200), (Pixel{0, 0, 0, 255}));
+}
+
+TEST_F(DesktopPainterTest, KeepsTheMenuBarLegibleOnEveryWallpaper) {
+  using Wallpaper = Appearance::Wallpaper;
+  for (const bool isDark : {false, true}) {
+    for (const Wallpaper wallpaper :
+         {Wallpaper::standard, Wallpaper::white, Wallpaper::black, Wallpaper::busy}) {
+      machine.appearance.isDark = isDark;
+      machine.appearance.wallpaper = wallpaper;
+      const SurfacePointer shown = picture();
+      const auto linear = [](int component) {
+        const double value = component / 255.0;
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+      };
+      // The contrast of WCAG 2.1 between the text's colour and the bar behind the status icons.
+      double worst = 21;
+      for (int x = 400; x < 560; ++x) {
+        const Pixel pixel = pixelAt(shown.get(), x, 12);
+        const double luminance =
+            0.2126 * linear(pixel.red) + 0.7152 * linear(pixel.green) + 0.0722 * linear(pixel.blue);
+        const double ink = isDark ? 0.83 : 0.02;
+        worst =
+            std::min(worst, (std::max(luminance, ink) + 0.05) / (std::min(luminance, ink) + 0.05));
+      }
+      EXPECT_GE(worst, 4.5) << isDark << " " << static_cast<int>(wallpaper);
+    }
+  }
+}
+
+/// Paints a plain square on every display that holds it.
+class SquareLayer : public DesktopLayer {
+ public:
+  explicit SquareLayer(const ui::Rect& square) : square_(square) {}
+  void paint(const DesktopScene&, const DisplayCanvas& display) override {
+    display.canvas.fill(ui::Shape::rectangle(square_), ui::Paint::solid({1, 0, 1, 1}));
+  }
+
+ private:
+  ui::Rect square_;
+};
+
+TEST_F(DesktopPainterTest, PutsWindowsBelowTheDockAndMenusAboveTheMenuBar) {
+  const ui::Rect dock = shelf().shelf;
+  painter.addAboveWallpaper(std::make_unique<SquareLayer>(
+      ui::Rect{dock.x - 40, dock.y - 40, dock.width + 80, dock.height + 40}));
+  painter.addAboveMenuBar(std::make_unique<SquareLayer>(ui::Rect{780, 10, 60, 60}));
+  const SurfacePointer shown = picture();
+  const Pixel magenta{255, 0, 255, 255};
+  EXPECT_EQ(pixelAt(shown.get(), static_cast<int>(dock.x) - 30, static_cast<int>(dock.y) - 35),
+            magenta);
+  const ui::Point tile = shelf().tiles[1].center();
+  EXPECT_NE(pixelAt(shown.get(), static_cast<int>(tile.x), static_cast<int>(tile.y)), magenta);
+  EXPECT_EQ(pixelAt(shown.get(), 785, 15), magenta);
+  EXPECT_EQ(pixelAt(shown.get(), 830, 15), magenta);
+}
+
+TEST_F(DesktopPainterTest, AsksForNoPictureOrSymbolThatIsNotThere) {
+  (void)picture();
+  EXPECT_TRUE(resources.missingNames.empty());
+}
+
+}  // namespace
+}  // namespace orvane::desk

@@ -1,0 +1,107 @@
+// Pictures of the desktop as files, and a few that are compared with their kept versions. To renew
+// those after a wanted change, run with ORVANE_RENEW_PICTURES=1 and look at what changed.
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <limits>
+
+#include "desk/canvas/PngFile.hpp"
+#include "desk/desktop/DesktopPicture.hpp"
+#include "desk/desktop/StandardDisplays.hpp"
+#include "tests/desktop/DesktopFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+class DesktopPictureTest : public DesktopFixture {
+ protected:
+  std::filesystem::path file =
+      std::filesystem::path(testing::TempDir()) /
+      (std::string("orvane-desktop-") +
+       testing::UnitTest::GetInstance()->current_test_info()->name() + ".png");
+
+  static std::string bytesOf(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+  }
+
+  void expectPicture(const SurfacePointer& shown, const std::string& name) {
+    const std::filesystem::path keptFile =
+        std::filesystem::path(ORVANE_SOURCE_FOLDER) / "tests/desktop/pictures" / (name + ".png");
+    if (std::getenv("ORVANE_RENEW_PICTURES") != nullptr) {
+      ASSERT_TRUE(writePng(shown.get(), keptFile));
+      return;
+    }
+    const SurfacePointer kept = readPng(keptFile);
+    ASSERT_TRUE(kept) << keptFile;
+    ASSERT_EQ(cairo_image_surface_get_width(kept.get()),
+              cairo_image_surface_get_width(shown.get()));
+    ASSERT_EQ(cairo_image_surface_get_height(kept.get()),
+              cairo_image_surface_get_height(shown.get()));
+    const int wrong = differences(kept, shown);
+    EXPECT_EQ(wrong, 0) << name;
+    if (wrong > 0) {
+      const auto now = std::filesystem::path(testing::TempDir()) / (name + "-now.png");
+      writePng(shown.get(), now);
+      std::cerr << "as drawn now: " << now.string() << "\n";
+    }
+  }
+};
+
+TEST_F(DesktopPictureTest, AreWrittenAtTheScaleThatIsAskedFor) {
+  ASSERT_EQ(writeDesktopPicture(machine, application, file, 0.5), std::nullopt);
+  const SurfacePointer read = readPng(file);
+  ASSERT_TRUE(read);
+  EXPECT_EQ(cairo_image_surface_get_width(read.get()), 800);
+  EXPECT_EQ(cairo_image_surface_get_height(read.get()), 250);
+}
+
+TEST_F(DesktopPictureTest, OfTheSameStateAreTheSameBytes) {
+  ASSERT_EQ(writeDesktopPicture(machine, application, file, 0.5), std::nullopt);
+  const std::string first = bytesOf(file);
+  ASSERT_EQ(writeDesktopPicture(machine, application, file, 0.5), std::nullopt);
+  EXPECT_EQ(first, bytesOf(file));
+  EXPECT_GT(first.size(), 1000U);
+}
+
+TEST_F(DesktopPictureTest, AreRefusedWithAReason) {
+  EXPECT_NE(writeDesktopPicture(machine, application, "/nowhere/at/all.png", 0.5), std::nullopt);
+  for (const double scale : {0.0, -1.0, 1e9, std::numeric_limits<double>::quiet_NaN()}) {
+    EXPECT_NE(writeDesktopPicture(machine, application, file, scale), std::nullopt) << scale;
+  }
+  ASSERT_FALSE(machine.displays.detach(1));
+  ASSERT_FALSE(machine.displays.detach(2));
+  EXPECT_EQ(writeDesktopPicture(machine, application, file, 1),
+            "there is no display to make a picture of");
+}
+
+TEST_F(DesktopPictureTest, ByDayWithALockedDisplay) {
+  application.model().toggleSelectedDisplayLock();
+  machine.runDue();
+  machine.mouse.moveTo({1200, 440});
+  DesktopScene scene(machine, application);
+  scene.showsZones = true;
+  scene.movedBack = MovedBack{{1200, 499}, {1200, 487}, 0.7};
+  expectPicture(renderDesktop(painter, scene, DesktopStyle::monitors, 0.6), "day");
+}
+
+TEST_F(DesktopPictureTest, ByNightWithTheDockAtTheLeft) {
+  machine.appearance.isDark = true;
+  setEdge("left");
+  machine.advance(1);
+  expectPicture(
+      renderDesktop(painter, DesktopScene(machine, application), DesktopStyle::exact, 0.6),
+      "night");
+}
+
+TEST_F(DesktopPictureTest, OnABusyWallpaper) {
+  machine.appearance.wallpaper = Appearance::Wallpaper::busy;
+  ASSERT_FALSE(machine.displays.detach(2));
+  expectPicture(renderDesktop(painter, DesktopScene(machine, application), DesktopStyle::exact, 1),
+                "busy");
+}
+
+}  // namespace
+}  // namespace orvane::desk

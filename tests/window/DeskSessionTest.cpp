@@ -1,0 +1,97 @@
+// The desk that someone plays with, without a window around it.
+#include "desk/desktop/StandardDisplays.hpp"
+#include "desk/window/DeskSession.hpp"
+#include "tests/window/SessionFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+class DeskSessionTest : public SessionFixture {
+ protected:
+  void pin() {
+    session.application().model().toggleSelectedDisplayLock();
+    session.machine().runDue();
+  }
+};
+
+TEST_F(DeskSessionTest, BeginsWithDisplaysPermissionAndTheApplicationUnlocked) {
+  EXPECT_EQ(session.machine().displays.count(), 2U);
+  EXPECT_TRUE(session.machine().permission.isTrusted());
+  ASSERT_TRUE(session.application().isRunning());
+  EXPECT_FALSE(session.application().model().isGuardRunning());
+  EXPECT_EQ(session.dockDisplayName(), "Built-in Display");
+  EXPECT_EQ(session.pointerDisplayNumber(), 1U);
+}
+
+TEST(DeskSessionSizeTest, HasAtLeastOneDisplayAndNoMoreThanThereAre) {
+  EXPECT_EQ(DeskSession(0).machine().displays.count(), 1U);
+  EXPECT_EQ(DeskSession(3).machine().displays.count(), 3U);
+  EXPECT_EQ(DeskSession(99).machine().displays.count(), standardDisplayCount);
+}
+
+TEST_F(DeskSessionTest, LetsTheDockFollowThePointerUntilItIsPinned) {
+  pressRightDisplay(3);
+  EXPECT_EQ(dockDisplay(), 2U);
+  moveTo(500, 600);
+  session.movePointerBy(0, 60);
+  session.movePointerBy(0, 60);
+  ASSERT_EQ(dockDisplay(), 1U);
+  pin();
+  pressRightDisplay(30);
+  EXPECT_EQ(dockDisplay(), 1U);
+  EXPECT_EQ(session.application().model().guardService().blockedCount(), 30);
+}
+
+TEST_F(DeskSessionTest, MarksAMovementThatWasMovedBackForAShortTime) {
+  pin();
+  moveTo(1500, 600);
+  EXPECT_FALSE(session.movedBack());
+  session.movePointerBy(3, 60);
+  ASSERT_TRUE(session.movedBack());
+  EXPECT_DOUBLE_EQ(session.movedBack()->from.x, 1503);
+  EXPECT_GE(session.movedBack()->from.y, 639);
+  EXPECT_DOUBLE_EQ(session.movedBack()->to.y, session.machine().pointer.place().y);
+  EXPECT_DOUBLE_EQ(session.movedBack()->strength, 1);
+  EXPECT_EQ(session.nanosecondsToNextChange(), 0);
+  session.advance(DeskSession::markNanoseconds / 2);
+  EXPECT_NEAR(session.movedBack()->strength, 0.5, 1e-9);
+  session.advance(DeskSession::markNanoseconds / 2);
+  EXPECT_FALSE(session.movedBack());
+}
+
+TEST_F(DeskSessionTest, CountsEventsPerSecond) {
+  for (int movement = 0; movement < 25; ++movement) {
+    session.movePointerBy(1, 0);
+  }
+  EXPECT_EQ(session.eventsPerSecond(), 25);
+  session.advance(second);
+  EXPECT_EQ(session.eventsPerSecond(), 0);
+}
+
+TEST_F(DeskSessionTest, ChangesByItselfOnlyWhileSomethingMovesOrTheMinuteEnds) {
+  session.advance(2 * second);
+  const std::int64_t untilMinute = session.nanosecondsToNextChange();
+  EXPECT_GT(untilMinute, 50 * second);
+  EXPECT_LE(untilMinute, 60 * second);
+  session.machine().preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, true);
+  EXPECT_EQ(session.nanosecondsToNextChange(), 0);
+  session.advance(Dock::slideNanoseconds / 2);
+  EXPECT_EQ(session.nanosecondsToNextChange(), 0);
+  session.advance(Dock::slideNanoseconds);
+  EXPECT_GT(session.nanosecondsToNextChange(), 40 * second);
+  session.movePointerBy(1, 0);
+  EXPECT_EQ(session.nanosecondsToNextChange(), second);
+}
+
+TEST_F(DeskSessionTest, SurvivesMovementsWithoutAnyDisplay) {
+  ASSERT_FALSE(session.machine().displays.detach(1));
+  ASSERT_FALSE(session.machine().displays.detach(2));
+  session.machine().runDue();
+  session.movePointerBy(10, 10);
+  EXPECT_EQ(session.dockDisplayName(), "");
+  EXPECT_EQ(session.pointerDisplayNumber(), 0U);
+  EXPECT_GT(session.nanosecondsToNextChange(), 0);
+}
+
+}  // namespace
+}  // namespace orvane::desk

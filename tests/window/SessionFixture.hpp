@@ -1,0 +1,35 @@
+// A session of two displays, and what is often done in it.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "desk/window/DeskSession.hpp"
+
+namespace orvane::desk {
+
+class SessionFixture : public testing::Test {
+ protected:
+  static constexpr std::int64_t second = Clock::nanosecondsPerSecond;
+
+  /// Brings the pointer there by one movement of the hand.
+  void moveTo(double x, double y) {
+    const CGPoint place = session.machine().pointer.place();
+    session.movePointerBy(x - place.x, y - place.y);
+  }
+  /// Presses so often against the lower edge of the display on the right.
+  void pressRightDisplay(int times) {
+    moveTo(1500, 600);
+    for (int time = 0; time < times; ++time) {
+      session.movePointerBy(0, 60);
+      session.advance(second / 20);
+    }
+  }
+
+  [[nodiscard]] std::uint32_t dockDisplay() const {
+    return session.machine().dock.displayNumber().value_or(0);
+  }
+
+  DeskSession session{2};
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,56 @@
+// The dump of a session, as a program would read it.
+#include <nlohmann/json.hpp>
+
+#include "desk/window/WindowCommands.hpp"
+#include "desk/window/WindowDump.hpp"
+#include "tests/window/SessionFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+class WindowDumpTest : public SessionFixture {
+ protected:
+  nlohmann::json dump() {
+    return nlohmann::json::parse(windowDump(session, WindowLayout(1480, 800, 1), 12));
+  }
+};
+
+TEST_F(WindowDumpTest, TellsWhereTheDockIsAndHowOftenItCameUp) {
+  EXPECT_EQ(dump()["dock"]["display"], 1);
+  EXPECT_EQ(dump()["dock"]["reveals"], nlohmann::json::object());
+  pressRightDisplay(2);
+  EXPECT_EQ(dump()["dock"]["display"], 2);
+  EXPECT_EQ(dump()["dock"]["reveals"]["2"], 1);
+  EXPECT_EQ(dump()["pointer"]["display"], 2);
+  EXPECT_EQ(dump()["drawnFrames"], 12);
+}
+
+TEST_F(WindowDumpTest, TellsWhatTheGuardDid) {
+  EXPECT_EQ(dump()["application"]["guardRunning"], false);
+  runWindowCommand(session, 'p');
+  pressRightDisplay(4);
+  const nlohmann::json application = dump()["application"];
+  EXPECT_EQ(application["guardRunning"], true);
+  EXPECT_EQ(application["zones"], 1);
+  EXPECT_EQ(application["blockedCount"], 4);
+}
+
+TEST_F(WindowDumpTest, TellsWhereTheScreensAreInTheWindow) {
+  const nlohmann::json screens = dump()["window"]["screens"];
+  ASSERT_EQ(screens.size(), 2U);
+  EXPECT_LT(screens[0]["pixels"][0].get<int>() + screens[0]["pixels"][2].get<int>(),
+            screens[1]["pixels"][0].get<int>());
+  EXPECT_LT(screens[1]["pixels"][0].get<int>() + screens[1]["pixels"][2].get<int>(), 1480);
+}
+
+TEST_F(WindowDumpTest, SaysSoWhenTheApplicationOrEveryDisplayIsGone) {
+  session.application().crash();
+  EXPECT_EQ(dump()["application"]["running"], false);
+  ASSERT_FALSE(session.machine().displays.detach(1));
+  ASSERT_FALSE(session.machine().displays.detach(2));
+  EXPECT_TRUE(dump()["dock"]["display"].is_null());
+  EXPECT_TRUE(dump()["window"]["screens"].empty());
+}
+
+}  // namespace
+}  // namespace orvane::desk
