@@ -1,0 +1,30 @@
+// The application's icon, to be dragged into the system's list of applications.
+#include "Orvane/permission/OrvaneDraggableAppIconView.hpp"
+
+#include <optional>
+#include <string>
+
+#include "Orvane/platform/appkit/Bundle.hpp"
+#include "Orvane/ui/Image.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+View OrvaneDraggableAppIconView::body(const Environment& environment) const {
+  // Without an image there is nothing to drag.
+  const bool hasImage = environment.hasImage("AppIcon");
+  return Image("AppIcon")
+      .resizable(ContentMode::fit)
+      .dragSource([hasImage]() -> std::optional<DragItem> {
+        const std::optional<std::string> bundle = appkit::Bundle::url();
+        if (!hasImage || !bundle) {
+          return std::nullopt;
+        }
+        return DragItem{.fileUrl = *bundle, .imageName = "AppIcon"};
+      })
+      .accessibilityLabel("Orvane")
+      .accessibilityRole(Role::image);
+}
+
+}  // namespace orvane

@@ -1,0 +1,123 @@
+// The floating card that tells what to switch on in the System Settings and whether it has been.
+#include "Orvane/permission/OrvanePermissionGuideView.hpp"
+
+#include <string>
+#include <string_view>
+
+#include "Orvane/model/OrvaneLanguage.hpp"
+#include "Orvane/permission/OrvaneDraggableAppIconView.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+std::string localized(std::string_view english, std::string_view chinese) {
+  return OrvaneLanguage::stored().localized(english, chinese);
+}
+
+/// The application's icon, and an arrow that points at it.
+View draggableIcon() {
+  const View arrow = Symbol("arrow.down")
+                         .font(Font::system(24, Weight::semibold))
+                         .foreground(Color::orange())
+                         .height(30)
+                         .padding(Edge::bottom, 14);
+  const View icon = View(OrvaneDraggableAppIconView{})
+                        .frame(82, 82)
+                        .shadow({.color = Color::black().opacity(0.33), .radius = 5});
+  return VStack(0, {arrow, icon});
+}
+
+View checkMark() {
+  return Symbol("checkmark.circle.fill")
+      .font(Font::system(60))
+      .foreground(Color::green())
+      .transition(Transition::scale().combined(Transition::opacity()));
+}
+
+}  // namespace
+
+View OrvanePermissionGuideView::closeControl() const {
+  const View cross =
+      Button(onClose,
+             Symbol("xmark.circle.fill").font(Font::title()).foreground(Color::secondary()))
+          .style(PlainButtonStyle{})
+          .focusRing(ShapeForm::circle())
+          .accessibilityLabel(localized("Close", "关闭"));
+  return HStack(0, {Spacer(), cross}).padding(Edges{.top = 16, .trailing = 16});
+}
+
+View OrvanePermissionGuideView::iconArea() const {
+  const bool isDone = state == PermissionGuideState::success;
+  return ZStack({when(!isDone, draggableIcon()), when(isDone, checkMark())})
+      .height(136)
+      .padding(Edges::vertical(10));
+}
+
+View OrvanePermissionGuideView::statusLine() const {
+  const auto line = [](const std::string& text, const Font& font, const Color& color) {
+    return Text(text)
+        .font(font)
+        .foreground(color)
+        .textAlignment(TextAlignment::center)
+        .height(34)
+        .padding(Edges::horizontal(22));
+  };
+  switch (state) {
+    case PermissionGuideState::checking:
+      return line(
+          localized("Waiting for permission in System Settings", "正在等待你在系统设置中完成授权"),
+          Font::caption(), Color::secondary());
+    case PermissionGuideState::timeout:
+      return line(
+          localized("Permission not detected yet. Make sure Orvane is enabled in Accessibility.",
+                    "暂未检测到权限，请确认 Orvane 已在“辅助功能”列表中开启"),
+          Font::caption(), Color::orange());
+    case PermissionGuideState::success:
+      break;
+  }
+  return line(localized("Permission Enabled", "权限已开启"), Font::headline(), Color::green());
+}
+
+View OrvanePermissionGuideView::doneButton() const {
+  const View label = Text(localized("Done", "完成"))
+                         .font(Font::headline())
+                         .maximumWidth()
+                         .padding(Edges::vertical(10));
+  return Button(onClose, label)
+      .style(BorderedButtonStyle{.isProminent = true})
+      .padding(Edges{.leading = 40, .bottom = 20, .trailing = 40});
+}
+
+View OrvanePermissionGuideView::body(const Environment& /*environment*/) const {
+  constexpr double cornerRadius = 12;
+  const View title = Text(localized("Next Step", "下一步"))
+                         .font(Font::title2().bold())
+                         .accessibilityRole(Role::heading);
+  const View instruction =
+      Text(localized("In Privacy & Security > Accessibility, turn on Orvane. If Orvane is not "
+                     "listed, click \"+\" to add it, or drag the icon below into the list.",
+                     "在“隐私与安全性”>“辅助功能”中，为 Orvane 打开开关。如果列表里没有 "
+                     "Orvane，可点“+”添加应用，或将下方图标拖入列表。"))
+          .font(Font::body())
+          .foreground(Color::secondary())
+          .textAlignment(TextAlignment::center)
+          .fixedSizeVertical()
+          .padding(Edges::horizontal(defaultPadding));
+  const View card =
+      VStack(22, {closeControl(), title, instruction, iconArea(), statusLine(), doneButton()});
+  return card.frame(width, height)
+      .background(RoundedRectangle(cornerRadius)
+                      .fill(Color::windowBackground())
+                      .strokeBorder(Color::secondary().opacity(0.2), 1))
+      .animation(Curve::spring(0.5, 1.0), state);
+}
+
+}  // namespace orvane

@@ -1,0 +1,28 @@
+// The floating card that tells what to switch on in the System Settings and whether it has been.
+#pragma once
+
+#include <functional>
+
+#include "Orvane/permission/PermissionGuideState.hpp"
+#include "Orvane/ui/View.hpp"
+
+namespace orvane {
+
+struct OrvanePermissionGuideView {
+  /// In points.
+  static constexpr double width = 360;
+  static constexpr double height = 500;
+
+  PermissionGuideState state = PermissionGuideState::checking;
+  std::function<void()> onClose;
+
+  ui::View body(const ui::Environment& environment) const;
+
+ private:
+  [[nodiscard]] ui::View closeControl() const;
+  [[nodiscard]] ui::View iconArea() const;
+  [[nodiscard]] ui::View statusLine() const;
+  [[nodiscard]] ui::View doneButton() const;
+};
+
+}  // namespace orvane
