@@ -1,0 +1,35 @@
+// What a change of the display arrangement costs: the zones of all displays but one.
+#include <cstddef>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "Orvane/geometry/OrvaneGeometry.hpp"
+
+namespace orvane::bench {
+namespace {
+
+/// Two rows, the lower one half a display to the right, so that edges are partly exposed.
+std::vector<CGRect> arrangement(std::size_t count) {
+  std::vector<CGRect> frames;
+  for (std::size_t index = 0; index < count; ++index) {
+    const double column = static_cast<double>(index / 2);
+    const bool isLower = index % 2 == 1;
+    frames.push_back(
+        CGRectMake(column * 1920 + (isLower ? 960 : 0), isLower ? 1080 : 0, 1920, 1080));
+  }
+  return frames;
+}
+
+void zoneComputation(benchmark::State& state) {
+  const std::vector<CGRect> frames = arrangement(static_cast<std::size_t>(state.range(0)));
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(
+        OrvaneGeometry::calculateTriggerZones(frames, std::size_t{0}, DockPosition::bottom));
+  }
+}
+
+BENCHMARK(zoneComputation)->Arg(2)->Arg(8)->Arg(32);
+
+}  // namespace
+}  // namespace orvane::bench

@@ -1,0 +1,27 @@
+// Whatever stands in a script, it is carried out or refused with a line that says where and why.
+#include <cstddef>
+#include <cstdint>
+#include <sstream>
+#include <string>
+#include <utility>
+
+#include "Orvane/base/Require.hpp"
+#include "desk/script/ScriptProgram.hpp"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+  using orvane::desk::script::ScriptProgram;
+  std::istringstream noInput;
+  std::ostringstream output;
+  std::ostringstream errors;
+  std::istringstream script(std::string(reinterpret_cast<const char*>(bytes), size));
+  ScriptProgram::Settings settings;
+  // One input must take no more than a moment, and must not write files.
+  settings.limits = {.repetitions = 500,
+                     .clockNanoseconds = 600 * orvane::desk::Clock::nanosecondsPerSecond,
+                     .allowsFiles = false};
+  ScriptProgram program(std::move(settings), noInput, output, errors);
+  const ScriptProgram::Status status = program.run(script, "script");
+  orvane::require((status == ScriptProgram::held) == errors.str().empty(),
+                  "the status and the report differ");
+  return 0;
+}

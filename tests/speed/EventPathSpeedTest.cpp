@@ -1,0 +1,90 @@
+// The event path's promises in figures: what a missed event may cost beside the bare loop, and how
+// many movements a second the simulated Mac must carry.
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "bench/BareFilter.hpp"
+#include "bench/GuardedDesk.hpp"
+#include "desk/machine/Event.hpp"
+
+namespace orvane::bench {
+namespace {
+
+constexpr int rounds = 40;
+constexpr int callsPerRound = 100'000;
+
+/// Nanoseconds per call in the quickest of the rounds: what else the machine does only adds.
+template <typename Call>
+double quickestNanoseconds(const Call& call) {
+  using Clock = std::chrono::steady_clock;
+  double quickest = std::numeric_limits<double>::infinity();
+  for (int round = 0; round < rounds; ++round) {
+    const Clock::time_point begin = Clock::now();
+    for (int index = 0; index < callsPerRound; ++index) {
+      call();
+    }
+    const std::chrono::duration<double, std::nano> elapsed = Clock::now() - begin;
+    quickest = std::min(quickest, elapsed.count() / callsPerRound);
+  }
+  return quickest;
+}
+
+/// The compiler must take it that everything in memory may have changed.
+void clobberMemory() {
+  asm volatile("" : : : "memory");
+}
+
+TEST(EventPathSpeed, AMissOverFourZonesCostsAtMostTwiceTheBareLoopAndUnder25Nanoseconds) {
+  GuardedDesk desk(4);
+  const CGPoint place = desk.placeOutsideZones();
+  __CGEvent event{kCGEventMouseMoved, CGEventFlags{}, place};
+  const double filter = quickestNanoseconds([&] {
+    desk.guard().eventTapCallback(kCGEventMouseMoved, &event);
+    clobberMemory();
+  });
+
+  std::vector<BareZone> zones;
+  for (const TriggerZone& zone : desk.guard().cachedTriggerZones()) {
+    zones.push_back({CGRectGetMinX(zone.rect), CGRectGetMinY(zone.rect), CGRectGetMaxX(zone.rect),
+                     CGRectGetMaxY(zone.rect), zone.nudgeVector.dx, zone.nudgeVector.dy});
+  }
+  BareEvent bareEvent{place.x, place.y, 0};
+  const double bare = quickestNanoseconds([&] {
+    bareFilter(zones, kCGEventFlagMaskAlternate, bareEvent);
+    clobberMemory();
+  });
+
+  RecordProperty("filterNanoseconds", std::to_string(filter));
+  RecordProperty("bareNanoseconds", std::to_string(bare));
+  EXPECT_LE(filter, 2 * bare) << "bare loop: " << bare << " ns";
+  EXPECT_LT(filter, 25);
+}
+
+TEST(EventPathSpeed, TheSimulatedMacCarriesAMillionMovementsASecondThroughAGuardedEdge) {
+  GuardedDesk desk(2);
+  desk.machine().mouse.moveTo(desk.placeOutsideZones());
+  double distance = 3;
+  const double inTheOpen = quickestNanoseconds([&] {
+    desk.machine().mouse.moveBy(distance, 0);
+    distance = -distance;
+  });
+  const double againstTheEdge = quickestNanoseconds([&] {
+    desk.machine().mouse.moveBy(0, 40);
+    desk.letTimePass();
+  });
+  RecordProperty("inTheOpenNanoseconds", std::to_string(inTheOpen));
+  RecordProperty("againstTheEdgeNanoseconds", std::to_string(againstTheEdge));
+  EXPECT_GT(desk.guard().blockedCount(), 1'000'000) << "the edge was guarded all along";
+  EXPECT_EQ(desk.machine().dock.revealCount(3), 0);
+  EXPECT_LT(inTheOpen, 1000);
+  EXPECT_LT(againstTheEdge, 1000);
+}
+
+}  // namespace
+}  // namespace orvane::bench
