@@ -99,7 +99,7 @@ class ArrowsTest(RuleTest):
         folders = ["Orvane", "desk", "macos", "tests", "bench", "fuzz"]
         self.assert_pairs(folders, "/ui", {(folder, folder) for folder in folders} | {
             ("desk", "Orvane"), ("macos", "Orvane"), ("tests", "Orvane"), ("tests", "desk"),
-            ("tests", "macos"), ("bench", "Orvane"), ("bench", "desk"), ("fuzz", "Orvane"),
+            ("tests", "macos"), ("tests", "bench"), ("bench", "Orvane"), ("bench", "desk"), ("fuzz", "Orvane"),
             ("fuzz", "desk")})
 
     def test_the_language_is_a_leaf_for_everyone(self):
@@ -264,6 +264,15 @@ class ListingTest(RuleTest):
         for text in ("orvane_test(ui OldLayoutTest.cpp)", "# LayoutTest.cpp", "LayoutTest.cpp.in"):
             self.assert_caught({source: TOP, "tests/ui/CMakeLists.txt": text}, (source, 1))
         self.assert_caught({source: TOP}, (source, 1))
+
+    def test_a_list_elsewhere_names_the_path(self):
+        source = "tests/support/Oracle.cpp"
+        for path in ("../support/Oracle.cpp", "${CMAKE_SOURCE_DIR}/tests/support/Oracle.cpp",
+                     "${CMAKE_CURRENT_SOURCE_DIR}/../support/Oracle.cpp"):
+            with self.subTest(path=path):
+                self.assert_passed({source: TOP, "tests/ui/CMakeLists.txt": f'test(a "{path}")'})
+        self.assert_caught({source: TOP, "tests/ui/CMakeLists.txt": "test(a support/Oracle.cpp)"},
+                           (source, 1))
 
     def test_a_list_in_the_folder_above_names_the_folder(self):
         source = "Orvane/guard/Guard.cpp"

@@ -24,7 +24,7 @@ TOPS = {
     "Orvane": set(),
     "desk": {"Orvane"},
     "macos": {"Orvane"},
-    "tests": {"Orvane", "desk", "macos"},
+    "tests": {"Orvane", "desk", "macos", "bench"},
     "bench": {"Orvane", "desk"},
     "fuzz": {"Orvane", "desk"},
 }

@@ -1,24 +1,23 @@
 """Every source is built: a test that nobody compiles cannot fail."""
 
+import posixpath
 import re
 
 FOLDERS = ("Orvane", "desk", "macos", "tests", "bench", "fuzz")
+_SOURCE = re.compile(r"[\w./${}-]+\.(?:cpp|mm)(?![\w.])")
 
 
 def check(project):
-    """Every .cpp and .mm is named in a CMake file of its folder or of one above it."""
-    lists = {}
+    """Every .cpp and .mm is named in a CMake file, by its path from there or from the root."""
+    listed = set()
     for file in project.files:
-        if file.path.name == "CMakeLists.txt" or file.path.suffix == ".cmake":
-            text = re.sub(r"#.*", "", file.text)
-            lists.setdefault(file.path.parent, []).append(text)
-    for file in project.below(*FOLDERS):
-        if file.path.suffix == ".hpp":
+        if file.path.name != "CMakeLists.txt" and file.path.suffix != ".cmake":
             continue
-        for folder in file.path.parents:
-            name = re.escape(file.path.relative_to(folder).as_posix())
-            pattern = re.compile(rf"(?<![\w./]){name}(?![\w.])")
-            if any(pattern.search(text) for text in lists.get(folder, [])):
-                break
-        else:
+        here = str(file.path.parent)
+        for match in _SOURCE.finditer(re.sub(r"#.*", "", file.text)):
+            path = match.group().replace("${CMAKE_CURRENT_SOURCE_DIR}", "/" + here)
+            path = path.replace("${CMAKE_SOURCE_DIR}", "/")
+            listed.add(posixpath.normpath(posixpath.join("/", here, path)).lstrip("/"))
+    for file in project.below(*FOLDERS):
+        if file.path.suffix != ".hpp" and str(file) not in listed:
             yield file, 1, "is in no CMakeLists.txt, so nobody builds it"
