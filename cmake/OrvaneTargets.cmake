@@ -31,6 +31,16 @@ function(orvane_test name)
   endif()
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE orvane_flags ${arg_LIBRARIES} GTest::gtest_main)
+  if(ORVANE_SANITIZE)
+    # The checks of the sanitizers in optimised GoogleTest code take most of the build's time; what
+    # is tested stays optimised.
+    target_compile_options(${name} PRIVATE -O0)
+  endif()
+  list(LENGTH arg_SOURCES source_count)
+  if(NOT ORVANE_CCACHE AND source_count GREATER 2)
+    # Without a cache of what was compiled before, this halves the time of a first build.
+    target_precompile_headers(${name} PRIVATE <gtest/gtest.h>)
+  endif()
   set(prefix "")
   if(ORVANE_SANITIZE)
     set(prefix "asan.")
