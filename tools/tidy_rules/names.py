@@ -8,18 +8,15 @@ EXCEPTIONS = {
     "desk/machine/Event.hpp": "declares the platform's __CGEvent",
     "desk/canvas/CairoPointers.hpp": "owners of a library's objects, one name for each kind",
 }
-# Where a source file's header is, when it is not beside it.
-SEAM_HEADERS = {
-    "desk/appkit": "Orvane/platform/appkit",
-    "macos/appkit": "Orvane/platform/appkit",
-}
+# Where the headers are that any folder of a platform may implement.
+SEAM_HEADERS = "Orvane/platform/appkit"
 # These folders implement functions that the platform or its compiler declares, a group per file.
 FOREIGN_FOLDERS = {"desk/quartz", "macos/quartz", "macos/cross"}
 ENTRY_POINTS = {"main", "Main"}
 
 _TYPE = re.compile(
     r"^[ \t]*(?:template\s*<[^;{]*>\s*)?(?P<kind>class|struct|union|enum(?:\s+(?:class|struct))?)\s+"
-    r"(?:\[\[[^\]]*\]\]\s*)?(?P<name>\w+)\b(?!\s*;)|^using\s+(?P<alias>\w+)\s*=", re.MULTILINE)
+    r"(?:\[\[[^\]]*\]\]\s*)?(?P<name>\w+(?:::\w+)*)\b(?!\s*;)|^using\s+(?P<alias>\w+)\s*=", re.MULTILINE)
 _NAMESPACE = re.compile(r"^\s*namespace\s+(?P<path>[\w:]+)\s*\{", re.MULTILINE)
 # A function outside of a type: it begins in the first column.
 _FUNCTION = re.compile(r"^(?!(?:class|struct|union|enum|using|namespace|typedef|template|extern)\b)"
@@ -45,8 +42,10 @@ def _check_header(file):
         yield file, 1, "no #pragma once"
     code = file.code()
     types = list(_TYPE.finditer(code))
-    declared = {match["name"] or match["alias"] for match in types}
-    names = declared | {match["path"].split("::")[-1] for match in _NAMESPACE.finditer(code)}
+    # Image::Implementation is ImageImplementation, and reference::Guard is ReferenceGuard.
+    declared = {(match["name"] or match["alias"]).replace("::", "") for match in types}
+    spaces = {match["path"].split("::")[-1] for match in _NAMESPACE.finditer(code)}
+    names = declared | spaces | {space.capitalize() + name for space in spaces for name in declared}
     # A family goes by its common name: HStack and VStack in Stack.hpp.
     stems = {file.path.stem, file.path.stem.removesuffix("s")}
     if not declared or any(name.startswith(stem) or name.endswith(stem)
@@ -74,7 +73,7 @@ def _check_source(project, file):
         return
     if re.search(r"^int main\(", file.code(), re.MULTILINE):
         return
-    folders = {folder, SEAM_HEADERS.get(folder, folder)}
+    folders = {folder} if file.top == "Orvane" else {folder, SEAM_HEADERS}
     owners = [other.path.stem for other in project.cpp
               if other.path.suffix == ".hpp" and str(other.path.parent) in folders]
     if not any(stem.startswith(owner) or stem.endswith(owner) for owner in owners):
