@@ -25,8 +25,9 @@ TEST(Clock, NeverGoesBack) {
 }
 
 TEST(Clock, MomentsWholeSecondsApartDifferExactlyInDoubles) {
-  for (const std::int64_t fraction : {1LL, 50'000'000LL, 333'333'333LL, 999'999'999LL}) {
-    for (const std::int64_t seconds : {1LL, 2LL, 10LL, 86'400LL, 3'000'000LL}) {
+  for (const std::int64_t fraction :
+       {1LL, 50'000'000LL, 100'000'000LL, 333'333'333LL, 700'000'000LL, 999'999'999LL}) {
+    for (const std::int64_t seconds : {1LL, 2LL, 25LL, 30LL, 2000LL, 86'400LL, 3'000'000LL}) {
       Clock clock;
       clock.moveTo(fraction);
       const double mediaBefore = clock.mediaTime();

@@ -134,6 +134,22 @@ TEST_F(DockTest, AMirrorOfItsDisplayIsNotAnotherDisplay) {
   EXPECT_TRUE(dock.reveals().empty());
 }
 
+TEST_F(DockTest, ADisplayIsNotItsOwnNeighbourHoweverFlatItIs) {
+  attach(1, {{0, 0}, {1000, 800}});
+  attach(2, {{1000, 0}, {1000, 2}});
+  push({1500, 798.5}, 0, 60);
+  EXPECT_EQ(dock.displayNumber(), 2U);
+}
+
+TEST_F(DockTest, SlidesInOnTheDisplayThatSummonsIt) {
+  attachPair();
+  machine.advance(1);
+  push({1500, 780}, 0, 60);
+  EXPECT_EQ(dock.shownFraction(), 0);
+  machine.advance(0.125);
+  EXPECT_DOUBLE_EQ(dock.shownFraction(), 0.5);
+}
+
 TEST_F(DockTest, MovesToTheMainDisplayUncountedWhenItsOwnGoes) {
   attachPair();
   push({1500, 780}, 0, 60);
