@@ -39,8 +39,9 @@ appkit::Window makePanel() {
                        appkit::StyleMask::nonactivatingPanel);
   panel.setClassName("OrvaneGuidePanel");
   panel.setMovableByWindowBackground(true);
-  panel.setLevel(appkit::WindowLevel::status);
+  // Becoming a floating panel changes the level too, so it comes first.
   panel.setFloatingPanel(true);
+  panel.setLevel(appkit::WindowLevel::status);
   panel.setHidesOnDeactivate(false);
   panel.setReleasedWhenClosed(false);
   panel.setCollectionBehavior(

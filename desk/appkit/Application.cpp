@@ -1,12 +1,47 @@
-// The application object on the desk: the machine remembers what it was told.
+// The application object on the desk: the window server knows it.
 #include "Orvane/platform/appkit/Application.hpp"
 
-#include "desk/machine/Machine.hpp"
+#include <utility>
+
+#include "desk/windows/Implementations.hpp"
+#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::appkit {
 
+using desk::WindowServer;
+
+void Application::setDelegate(ApplicationDelegate delegate) {
+  WindowServer::current().application.setDelegate(std::move(delegate));
+}
+
 void Application::setActivationPolicy(ActivationPolicy policy) {
   desk::Machine::current().application.activationPolicy = policy;
+}
+
+void Application::activateIgnoringOtherApps() {
+  WindowServer::current().focus.activate();
+}
+
+void Application::terminate() {
+  WindowServer::current().application.terminate();
+}
+
+std::optional<Window> Application::keyWindow() {
+  const auto key = WindowServer::current().focus.keyWindow();
+  return key == nullptr ? std::nullopt : std::optional(desk::handleOf(key));
+}
+
+CGPoint Application::mouseLocation() {
+  const desk::Machine& machine = desk::Machine::current();
+  return machine.displays.flipped(machine.pointer.place());
+}
+
+void Application::runModal(const Window& window, std::function<void(int response)> ended) {
+  WindowServer::current().modal.run(window.implementation(), std::move(ended));
+}
+
+void Application::stopModal(int response) {
+  WindowServer::current().modal.stop(response);
 }
 
 }  // namespace orvane::appkit

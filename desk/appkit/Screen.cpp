@@ -59,6 +59,11 @@ std::vector<Screen> Screen::screens() {
 
 std::optional<Screen> Screen::mainScreen() {
   const desk::Machine& machine = desk::Machine::current();
+  if (machine.companion != nullptr) {
+    if (const auto index = machine.companion->keyDisplayIndex()) {
+      return screenOf(machine, machine.displays.all()[*index]);
+    }
+  }
   const desk::Display* const main = machine.displays.main();
   return main == nullptr ? std::nullopt : std::optional(screenOf(machine, *main));
 }

@@ -27,6 +27,7 @@ Machine::Machine() {
 }
 
 Machine::~Machine() {
+  companion.reset();
   currentMachine = nullptr;
 }
 
@@ -45,6 +46,9 @@ Machine* Machine::currentOrNull() {
 void Machine::displaysChanged() {
   pointer.displaysChanged();
   dock.displaysChanged(pointer.place());
+  if (companion != nullptr) {
+    companion->displaysChanged();
+  }
   if (process.isRunning()) {
     observers.post(appkit::NotificationName::applicationDidChangeScreenParameters);
   }

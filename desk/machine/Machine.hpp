@@ -3,10 +3,12 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "desk/machine/Appearance.hpp"
 #include "desk/machine/ApplicationState.hpp"
 #include "desk/machine/Clock.hpp"
+#include "desk/machine/Companion.hpp"
 #include "desk/machine/Counters.hpp"
 #include "desk/machine/Displays.hpp"
 #include "desk/machine/Dock.hpp"
@@ -68,6 +70,8 @@ class Machine {
   Dock dock{displays, clock};
   Mouse mouse{displays, pointer, eventTaps, dock, modifierKeys, counters};
   Process process{*this};
+  /// Null until somebody needs windows. Last, because it uses all the others.
+  std::unique_ptr<Companion> companion;
 
  private:
   void displaysChanged();

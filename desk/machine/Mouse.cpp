@@ -5,13 +5,24 @@
 
 namespace orvane::desk {
 
+namespace {
+
+/// The other event types of Quartz Event Services; the application asks for none of them.
+constexpr auto leftMouseDown = static_cast<CGEventType>(1);
+constexpr auto leftMouseUp = static_cast<CGEventType>(2);
+constexpr auto leftMouseDragged = static_cast<CGEventType>(6);
+constexpr auto scrollWheel = static_cast<CGEventType>(22);
+
+}  // namespace
+
 void Mouse::moveTo(CGPoint goal) {
   if (displays_.isEmpty() || !std::isfinite(goal.x) || !std::isfinite(goal.y)) {
     return;
   }
   ++counters_.hardwareMovements;
   const CGPoint reached = pointer_.reachable(goal);
-  __CGEvent event{kCGEventMouseMoved, modifierKeys_.flags(), reached};
+  __CGEvent event{isButtonPressed_ ? leftMouseDragged : kCGEventMouseMoved, modifierKeys_.flags(),
+                  reached};
   if (!taps_.deliver(event)) {
     ++counters_.droppedEvents;
     return;
@@ -26,6 +37,40 @@ void Mouse::moveTo(CGPoint goal) {
   if (listener_ != nullptr) {
     listener_->pointerMovedTo(pointer_.place());
   }
+}
+
+void Mouse::pressButton() {
+  if (displays_.isEmpty() || isButtonPressed_) {
+    return;
+  }
+  isButtonPressed_ = true;
+  if (sendEvent(leftMouseDown) && listener_ != nullptr) {
+    listener_->buttonPressedAt(pointer_.place());
+  }
+}
+
+void Mouse::releaseButton() {
+  if (!isButtonPressed_) {
+    return;
+  }
+  isButtonPressed_ = false;
+  if (sendEvent(leftMouseUp) && listener_ != nullptr) {
+    listener_->buttonReleasedAt(pointer_.place());
+  }
+}
+
+void Mouse::turnWheel(double horizontal, double vertical) {
+  if (displays_.isEmpty() || !std::isfinite(horizontal) || !std::isfinite(vertical)) {
+    return;
+  }
+  if (sendEvent(scrollWheel) && listener_ != nullptr) {
+    listener_->wheelTurnedAt(pointer_.place(), horizontal, vertical);
+  }
+}
+
+bool Mouse::sendEvent(CGEventType type) {
+  __CGEvent event{type, modifierKeys_.flags(), pointer_.place()};
+  return taps_.deliver(event);
 }
 
 std::optional<CGPoint> Mouse::post(CGPoint location, std::uint64_t flags) {

@@ -37,6 +37,14 @@ class Mouse {
   /// A movement that wants to end at `goal`.
   void moveTo(CGPoint goal);
 
+  /// The button goes down, or up; what is not a change does nothing. While it is down, movements
+  /// are drags and no mouse-moved events, as on a Mac.
+  void pressButton();
+  void releaseButton();
+  [[nodiscard]] bool isButtonPressed() const { return isButtonPressed_; }
+  /// The wheel turns by these distances in points; positive ones go towards the end of the content.
+  void turnWheel(double horizontal, double vertical);
+
   /// A mouse-moved event from elsewhere, straight into the taps; it moves no pointer. Returns where
   /// it comes out, none when a tap swallowed it.
   std::optional<CGPoint> post(CGPoint location, std::uint64_t flags);
@@ -45,6 +53,9 @@ class Mouse {
   void setListener(PointerListener* listener) { listener_ = listener; }
 
  private:
+  /// An event of that type at the pointer's place; false when a tap swallowed it.
+  bool sendEvent(CGEventType type);
+
   const Displays& displays_;
   Pointer& pointer_;
   EventTaps& taps_;
@@ -52,6 +63,7 @@ class Mouse {
   const ModifierKeys& modifierKeys_;
   Counters& counters_;
   PointerListener* listener_ = nullptr;
+  bool isButtonPressed_ = false;
 };
 
 }  // namespace orvane::desk

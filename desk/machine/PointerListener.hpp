@@ -1,15 +1,19 @@
-// PointerListener hears where the pointer is after each of its movements.
+// PointerListener hears where the pointer is after each of its movements, and of button and wheel.
 #pragma once
 
 #include "Orvane/platform/Quartz.hpp"
 
 namespace orvane::desk {
 
+/// Places are in global coordinates.
 class PointerListener {
  public:
   virtual ~PointerListener() = default;
-  /// In global coordinates.
   virtual void pointerMovedTo(CGPoint place) = 0;
+  virtual void buttonPressedAt(CGPoint /*place*/) {}
+  virtual void buttonReleasedAt(CGPoint /*place*/) {}
+  /// Distances in points; positive ones go towards the end of the content.
+  virtual void wheelTurnedAt(CGPoint /*place*/, double /*horizontal*/, double /*vertical*/) {}
 };
 
 }  // namespace orvane::desk

@@ -23,6 +23,9 @@ void Process::end() {
   machine_.runLoop.setAcceptsTasks(false);
   machine_.runLoop.sweep();
   ProcessLifetime::end();
+  if (machine_.companion != nullptr) {
+    machine_.companion->processEnded();
+  }
   machine_.observers.removeAll();
   machine_.eventTaps.killAll();
   for (const void* const source : machine_.runLoop.sources()) {

@@ -40,6 +40,12 @@ void RunLoop::asyncAfter(std::int64_t delayNanoseconds, Task task) {
   }
 }
 
+void RunLoop::afterCurrent(Task task) {
+  if (task) {
+    followers_.push_back(std::move(task));
+  }
+}
+
 std::shared_ptr<RunLoopTimer> RunLoop::addTimer(std::int64_t intervalNanoseconds, ModeSet modes,
                                                 Task tick) {
   const std::int64_t interval = intervalNanoseconds > 0 ? intervalNanoseconds : shortestInterval;
@@ -128,6 +134,9 @@ std::shared_ptr<RunLoopTimer> RunLoop::nextTimer() const {
 }
 
 std::optional<std::int64_t> RunLoop::nextDue() const {
+  if (!followers_.empty()) {
+    return clock_.now();
+  }
   std::int64_t due = never;
   if (!tasks_.empty() && !isMainQueueHeld()) {
     due = tasks_.begin()->first.first;
@@ -139,6 +148,10 @@ std::optional<std::int64_t> RunLoop::nextDue() const {
 }
 
 bool RunLoop::serveNext() {
+  if (!followers_.empty()) {
+    runFollower();
+    return true;
+  }
   const bool hasTask = !tasks_.empty() && !isMainQueueHeld();
   const auto timer = nextTimer();
   const bool timerIsFirst =
@@ -156,6 +169,12 @@ bool RunLoop::serveNext() {
   }
   runTask();
   return true;
+}
+
+void RunLoop::runFollower() {
+  const Task follower = std::move(followers_.front());
+  followers_.pop_front();
+  follower();
 }
 
 void RunLoop::runTask() {
@@ -223,6 +242,7 @@ void RunLoop::sweep() {
   mainQueueHolds_ = 0;
   // What the tasks and ticks hold may ask for the run loop again while it is destroyed.
   const auto tasks = std::exchange(tasks_, {});
+  const auto followers = std::exchange(followers_, {});
   const auto timers = std::exchange(timers_, {});
   for (const auto& timer : timers) {
     timer->isValid = false;

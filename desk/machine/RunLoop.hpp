@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <map>
 #include <memory>
@@ -47,6 +48,11 @@ class RunLoop {
 
   void async(Task task) { asyncAfter(0, std::move(task)); }
   void asyncAfter(std::int64_t delayNanoseconds, Task task);
+
+  /// Runs `task` as soon as what runs now has returned, before all that is due, in every mode and
+  /// also while the main queue is held: what follows an inner loop that has ended, or the layout
+  /// that an event has made necessary. It wakes nobody and needs no process.
+  void afterCurrent(Task task);
 
   /// Between the two the main queue delivers nothing: a modal session runs and the task that
   /// started it has not returned. They nest.
@@ -99,6 +105,7 @@ class RunLoop {
   /// False when nothing is due now.
   bool serveNext();
   void serveInstant();
+  void runFollower();
   void runTask();
   void fire(const std::shared_ptr<RunLoopTimer>& timer);
 
@@ -106,6 +113,7 @@ class RunLoop {
   Faults& faults_;
   std::vector<Mode> modes_;
   std::map<Place, Task> tasks_;
+  std::deque<Task> followers_;
   std::vector<std::shared_ptr<RunLoopTimer>> timers_;
   std::vector<std::pair<const void*, ModeSet>> sources_;
   std::shared_ptr<RunLoopTimer> firing_;

@@ -1,0 +1,18 @@
+// DropTarget takes files that are dragged onto a window.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "Orvane/ui/Point.hpp"
+
+namespace orvane::desk {
+
+/// Points are from the top left of the window's content. Only copies are ever offered.
+struct DropTarget {
+  /// Whether a file may be dropped there.
+  std::function<bool(ui::Point place)> accepts;
+  std::function<void(ui::Point place, const std::string& fileUrl)> drop;
+};
+
+}  // namespace orvane::desk

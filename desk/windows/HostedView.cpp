@@ -1,0 +1,127 @@
+// The services of a view's host on the simulated window system, and its frames.
+#include "desk/windows/HostedView.hpp"
+
+#include <string>
+#include <utility>
+
+#include "desk/machine/Machine.hpp"
+#include "desk/windows/WindowServer.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+ui::Appearance appearanceOf(const Machine& machine) {
+  const Appearance& chosen = machine.appearance;
+  ui::Appearance appearance;
+  appearance.dark = chosen.isDark;
+  appearance.reduceMotion = chosen.reducesMotion;
+  if (chosen.accent != Appearance::Accent{}) {
+    appearance.accent = ui::Rgba{chosen.accent.red / 255.0, chosen.accent.green / 255.0,
+                                 chosen.accent.blue / 255.0, 1};
+  }
+  return appearance;
+}
+
+}  // namespace
+
+HostedView::HostedView(ui::ViewHost::RootBuilder buildRoot) : host_(platform()) {
+  host_.setAppearance(appearanceOf(Machine::current()));
+  host_.setRoot(std::move(buildRoot));
+}
+
+HostedView::~HostedView() {
+  stopFrames();
+}
+
+ui::HostPlatform HostedView::platform() {
+  WindowServer& server = WindowServer::current();
+  ui::HostServices services;
+  services.requestRedraw = [this] {
+    if (isOnScreen_ && !isUpdating_) {
+      WindowServer::current().updates.request(weak_from_this());
+    }
+  };
+  services.requestFrames = [this] {
+    if (isOnScreen_) {
+      startFrames();
+    }
+  };
+  services.openMenu = [this](const ui::MenuRequest& request) {
+    WindowServer::current().menus.openPopUp(request, weak_from_this());
+  };
+  services.beginDrag = [this](const ui::DragRequest& request) {
+    WindowServer::current().pointer.beginFileDrag(request, *this);
+  };
+  services.dismiss = [this] {
+    // It may end this view.
+    if (const std::function<void()> kept = dismiss) {
+      kept();
+    }
+  };
+  services.announce = [](const std::string& text) {
+    WindowServer::current().announcements.push_back(text);
+  };
+  return {&server.text(), server.resources().imageSource(), {}, std::move(services)};
+}
+
+void HostedView::update() {
+  const Machine* const machine = Machine::currentOrNull();
+  if (isUpdating_ || machine == nullptr) {
+    return;
+  }
+  isUpdating_ = true;
+  host_.setAppearance(appearanceOf(*machine));
+  host_.tick(machine->clock.mediaTime());
+  isUpdating_ = false;
+  // Views that never come to rest go on with the next frame.
+  if (isOnScreen_ && (host_.needsUpdate() || host_.nextFrameWanted())) {
+    startFrames();
+  }
+}
+
+void HostedView::setFrame(CGRect frame) {
+  frame_ = frame;
+  host_.setSize({frame.size.width, frame.size.height});
+}
+
+void HostedView::setOnScreen(bool isOnScreen) {
+  if (isOnScreen == isOnScreen_) {
+    return;
+  }
+  isOnScreen_ = isOnScreen;
+  if (isOnScreen) {
+    WindowServer::current().updates.request(weak_from_this());
+  } else {
+    stopFrames();
+    host_.pointerCancelled();
+    host_.pointerExited();
+  }
+}
+
+bool HostedView::hasFrames() const {
+  return frames_ != nullptr && frames_->isValid;
+}
+
+void HostedView::startFrames() {
+  if (hasFrames()) {
+    return;
+  }
+  frames_ = Machine::current().runLoop.addTimer(
+      Clock::nanosecondsPerSecond / frameRate, RunLoop::commonModes, [this] {
+        const std::shared_ptr<HostedView> kept = shared_from_this();
+        update();
+        if (!host_.nextFrameWanted() && !host_.needsUpdate()) {
+          stopFrames();
+        }
+      });
+}
+
+void HostedView::stopFrames() {
+  if (hasFrames() && Machine::currentOrNull() != nullptr) {
+    Machine::current().runLoop.invalidateTimer(frames_);
+  }
+  frames_.reset();
+}
+
+}  // namespace orvane::desk

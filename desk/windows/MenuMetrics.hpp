@@ -1,0 +1,36 @@
+// MenuMetrics are the measures of menus, in points: what is laid out by them is painted by them.
+#pragma once
+
+#include "Orvane/platform/appkit/Menu.hpp"
+#include "Orvane/ui/Font.hpp"
+#include "desk/windows/HostedView.hpp"
+
+namespace orvane::desk {
+
+namespace MenuMetrics {
+
+inline constexpr ui::Font font = ui::Font::system(13);
+inline constexpr double cornerRadius = 8;
+/// Above the first and below the last row.
+inline constexpr double padding = 5;
+inline constexpr double rowHeight = 22;
+inline constexpr double separatorHeight = 11;
+/// Where a title begins, right of the room for a check mark.
+inline constexpr double titleInset = 24;
+inline constexpr double trailingInset = 16;
+inline constexpr double baseline = 15.5;
+
+/// `view` is the item's view; null when it has none.
+inline double heightOf(const appkit::MenuItem& item, const HostedView* view) {
+  if (view != nullptr) {
+    return view->frame().size.height;
+  }
+  return item.isSeparator ? separatorHeight : rowHeight;
+}
+
+}  // namespace MenuMetrics
+
+/// The view behind a handle.
+[[nodiscard]] std::shared_ptr<HostedView> hostedView(const appkit::HostingView& view);
+
+}  // namespace orvane::desk

@@ -1,0 +1,20 @@
+// SymbolImage is a picture of a system symbol as the application has asked for it.
+#pragma once
+
+#include <string>
+
+#include "Orvane/platform/Quartz.hpp"
+
+namespace orvane::desk {
+
+struct SymbolImage {
+  std::string name;
+  std::string accessibilityDescription;
+  /// In points.
+  double pointSize = 0;
+  bool isTemplate = false;
+  /// In points.
+  CGSize size{};
+};
+
+}  // namespace orvane::desk
