@@ -1,4 +1,4 @@
-// The guard's life: starting, following the displays, stopping, and what it tells its owner.
+// The guard's life: starting, stopping, and what it tells its owner.
 #include <string>
 #include <vector>
 
@@ -6,61 +6,12 @@
 
 #include "Orvane/guard/DockMouseGuard.hpp"
 #include "desk/machine/RunLoop.hpp"
-#include "tests/support/GuardFixture.hpp"
+#include "tests/guard/GuardLifeFixture.hpp"
 
 namespace orvane {
 namespace {
 
-using Messages = std::vector<std::string>;
-using Unlocks = std::vector<bool>;
-using Zones = std::vector<TriggerZone>;
-
-const char* const startedWithOneZone = "Mouse guard started. Trigger zones: 1";
-const char* const noZones =
-    "No available trigger zones. Check the target display, Dock position, and display "
-    "arrangement.";
-const char* const notTrusted =
-    "Accessibility permission is not enabled. Dock locking was not started.";
-const char* const tapRefused =
-    "Could not create the CGEventTap. Make sure Accessibility permission is enabled.";
-const char* const targetGone = "The target display is unavailable. Mouse guard paused.";
-
-const TriggerZone zoneOfTheLaptop{{{0, 1068}, {1920, 12}}, {0, -12}};
-const TriggerZone zoneOfTheMonitor{{{1920, 1068}, {1920, 12}}, {0, -12}};
-
-class DockMouseGuardTest : public GuardFixture {
- protected:
-  /// What the guard has told since the last call.
-  Messages told() {
-    machine.runDue();
-    return std::exchange(messages, {});
-  }
-  [[nodiscard]] std::size_t portCount() const {
-    return machine.objects.liveCount(desk::ObjectKind::machPort);
-  }
-  void expectGuarding() const {
-    EXPECT_TRUE(guard->isRunning());
-    EXPECT_TRUE(guard->isObservingScreens());
-    EXPECT_FALSE(guard->cachedTriggerZones().empty());
-    EXPECT_EQ(machine.eventTaps.aliveCount(), 1U);
-    EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
-    EXPECT_EQ(machine.runLoop.sources().size(), 1U);
-    EXPECT_EQ(machine.observers.count(), 1U);
-    EXPECT_EQ(portCount(), 1U);
-  }
-  void expectWithoutTap(bool isObserving) const {
-    EXPECT_FALSE(guard->isRunning());
-    EXPECT_EQ(guard->eventTap(), nullptr);
-    EXPECT_EQ(guard->isObservingScreens(), isObserving);
-    EXPECT_TRUE(guard->cachedTriggerZones().empty());
-    EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
-    EXPECT_EQ(machine.runLoop.sources().size(), 0U);
-    EXPECT_EQ(machine.observers.count(), isObserving ? 1U : 0U);
-    EXPECT_EQ(portCount(), 0U);
-  }
-  void expectWaiting() const { expectWithoutTap(true); }
-  void expectIdle() const { expectWithoutTap(false); }
-};
+class DockMouseGuardTest : public GuardLifeFixture {};
 
 TEST_F(DockMouseGuardTest, ANewGuardIsIdle) {
   expectIdle();
@@ -180,16 +131,6 @@ TEST_F(DockMouseGuardTest, AfterTheTrustReturnsAStartReplacesTheDeadTap) {
   EXPECT_EQ(outcomeOf(inTheZone), (CGPoint{2500, 1063}));
 }
 
-TEST_F(DockMouseGuardTest, WithoutZonesAStartSaysSoAndWaitsForTheDisplaysToChange) {
-  desk::detach(machine, 2);
-  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  EXPECT_EQ(told(), Messages{noZones});
-  expectWaiting();
-  desk::attach(machine, desk::monitorAtTheRight());
-  expectGuarding();
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
-}
-
 TEST_F(DockMouseGuardTest, ADockAtNoEdgeGivesNoZones) {
   for (const char* const edge : {"top", "middle"}) {
     desk::setDockOrientation(machine, edge);
@@ -197,41 +138,6 @@ TEST_F(DockMouseGuardTest, ADockAtNoEdgeGivesNoZones) {
     EXPECT_EQ(told(), Messages{noZones}) << edge;
     expectWaiting();
   }
-}
-
-TEST_F(DockMouseGuardTest, PinningWithoutATargetGivesNoZones) {
-  guard->start("", OrvaneModifier::option, false);
-  EXPECT_EQ(told(), Messages{noZones});
-  expectWaiting();
-  desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(told(), Messages{}) << "there is no target that could be unavailable";
-  expectWaiting();
-}
-
-TEST_F(DockMouseGuardTest, AnAbsentTargetGivesNoZonesUntilItComes) {
-  guard->start(desk::uuidNamed('C'), OrvaneModifier::option, false);
-  EXPECT_EQ(told(), Messages{noZones});
-  expectWaiting();
-  desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
-  EXPECT_EQ(told(), Messages{"Mouse guard started. Trigger zones: 2"});
-}
-
-TEST_F(DockMouseGuardTest, ATapThatIsRefusedIsTriedAgainWhenTheDisplaysChange) {
-  machine.eventTaps.setRefusesCreation(true);
-  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  EXPECT_EQ(told(), Messages{tapRefused});
-  EXPECT_FALSE(guard->isRunning());
-  EXPECT_TRUE(guard->isObservingScreens());
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor}) << "nothing else changes";
-  EXPECT_EQ(machine.runLoop.sources().size(), 0U);
-
-  desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(told(), Messages{tapRefused});
-  machine.eventTaps.setRefusesCreation(false);
-  desk::detach(machine, 3);
-  expectGuarding();
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
 }
 
 TEST_F(DockMouseGuardTest, TwoStartsInARowLeaveOneTapAndOneObserver) {
@@ -250,94 +156,6 @@ TEST_F(DockMouseGuardTest, ARestartWithoutZonesTakesTheTapDown) {
   expectWaiting();
 }
 
-TEST_F(DockMouseGuardTest, UnpluggingTheTargetPausesAndPluggingItInResumes) {
-  startPinned();
-  desk::detach(machine, 1);
-  expectWaiting();
-  EXPECT_EQ(told(), Messages{targetGone});
-  desk::attach(machine, desk::laptop());
-  expectGuarding();
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
-}
-
-TEST_F(DockMouseGuardTest, EachChangeWhileTheTargetIsGoneIsReported) {
-  startPinned();
-  desk::detach(machine, 1);
-  desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(told(), (Messages{targetGone, targetGone}));
-}
-
-TEST_F(DockMouseGuardTest, AChangeIsHandledWithinTheNotification) {
-  startPinned();
-  desk::detach(machine, 1);
-  EXPECT_FALSE(guard->isRunning()) << "before anything on the main queue runs";
-}
-
-TEST_F(DockMouseGuardTest, ATargetWithANewNumberIsStillTheTarget) {
-  startPinned();
-  ASSERT_EQ(machine.displays.renumber(1, 44), std::nullopt);
-  expectGuarding();
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
-  EXPECT_EQ(told(), Messages{});
-}
-
-TEST_F(DockMouseGuardTest, ATargetStoredByNumberIsLostWithTheNumber) {
-  guard->start("1", OrvaneModifier::option, false);
-  told();
-  ASSERT_EQ(machine.displays.renumber(1, 44), std::nullopt);
-  EXPECT_EQ(told(), Messages{targetGone});
-  expectWaiting();
-}
-
-TEST_F(DockMouseGuardTest, AnInstalledTapIsKeptAndSeesTheNewZones) {
-  startPinned();
-  const CFMachPortRef tap = guard->eventTap();
-  ASSERT_EQ(machine.displays.setFrame(2, {{1920, 0}, {1000, 600}}), std::nullopt);
-  EXPECT_EQ(guard->eventTap(), tap);
-  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{{{{1920, 1068}, {1000, 12}}, {0, -12}}}));
-  EXPECT_EQ(outcomeOf({2500, 1075}), (CGPoint{2500, 1063}));
-  EXPECT_EQ(outcomeOf({3000, 1075}), (CGPoint{3000, 1075}));
-  machine.runDue();
-  EXPECT_EQ(messages, Messages{"Blocked Dock trigger 1 times"}) << "no second start is reported";
-}
-
-TEST_F(DockMouseGuardTest, AChangeOfTheDocksEdgeIsSeenAtTheNextChangeOfTheDisplays) {
-  startPinned();
-  desk::setDockOrientation(machine, "right");
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
-  desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(guard->cachedTriggerZones(),
-            (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}, {{{1908, -1080}, {12, 1080}}, {-12, 0}}}));
-}
-
-TEST_F(DockMouseGuardTest, LosingAllZonesPausesInSilence) {
-  startPinned();
-  desk::detach(machine, 2);
-  EXPECT_EQ(told(), Messages{});
-  expectWaiting();
-  desk::attach(machine, desk::monitorAtTheRight());
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
-  desk::setDockOrientation(machine, "top");
-  desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(told(), Messages{});
-  expectWaiting();
-}
-
-TEST_F(DockMouseGuardTest, WhenAllDisplaysAreBlockedUnpluggingOneOnlyChangesTheZones) {
-  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
-  told();
-  desk::detach(machine, 1);
-  expectGuarding();
-  EXPECT_EQ(guard->cachedTriggerZones().size(), 1U);
-  EXPECT_EQ(told(), Messages{});
-  desk::detach(machine, 2);
-  EXPECT_EQ(told(), Messages{});
-  expectWaiting();
-  desk::attach(machine, desk::laptop());
-  expectGuarding();
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
-}
-
 TEST_F(DockMouseGuardTest, StoppingLeavesTheGuardIdle) {
   startPreventing();
   block();
@@ -346,6 +164,13 @@ TEST_F(DockMouseGuardTest, StoppingLeavesTheGuardIdle) {
   EXPECT_FALSE(guard->blocksAllDisplays());
   EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty());
   EXPECT_EQ(outcomeOf(inTheZone), inTheZone);
+}
+
+TEST_F(DockMouseGuardTest, StoppingInvalidatesThePortWhoeverElseHoldsIt) {
+  startPinned();
+  const auto held = CFRef<CFMachPortRef>::retaining(guard->eventTap());
+  guard->stop();
+  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
 }
 
 TEST_F(DockMouseGuardTest, StoppingKeepsTargetModifierAndTotal) {
@@ -386,15 +211,6 @@ TEST_F(DockMouseGuardTest, StoppingAnIdleGuardTellsNothing) {
   machine.runDue();
   EXPECT_EQ(unlocks, Unlocks{});
   EXPECT_EQ(messages, Messages{});
-  expectIdle();
-}
-
-TEST_F(DockMouseGuardTest, AStoppedGuardHearsNothingOfTheDisplays) {
-  startPinned();
-  guard->stop();
-  desk::detach(machine, 1);
-  desk::attach(machine, desk::laptop());
-  EXPECT_EQ(told(), Messages{});
   expectIdle();
 }
 

@@ -4,7 +4,6 @@
 #include <array>
 #include <iomanip>
 #include <sstream>
-#include <tuple>
 
 #include "Orvane/base/ProcessShared.hpp"
 #include "Orvane/permission/OrvaneAccessibilityPermission.hpp"
@@ -111,6 +110,23 @@ void SequenceRunner::attach(std::size_t slot) {
   displaysChanged();
 }
 
+void SequenceRunner::detach(std::size_t index) {
+  if (index < world_.screens.size()) {
+    const auto gone = world_.screens.begin() + static_cast<std::ptrdiff_t>(index);
+    desk::detach(machine(), gone->number);
+    world_.screens.erase(gone);
+    displaysChanged();
+  }
+}
+
+void SequenceRunner::renumber(std::size_t index, std::uint32_t number) {
+  if (index < world_.screens.size() &&
+      machine().displays.renumber(world_.screens[index].number, number) == std::nullopt) {
+    world_.screens[index].number = number;
+    displaysChanged();
+  }
+}
+
 void SequenceRunner::moveScreen(std::size_t index, std::size_t variant) {
   if (index >= world_.screens.size()) {
     return;
@@ -200,23 +216,11 @@ void SequenceRunner::performOnTheWorld(const Action& action) {
     case Kind::attach:
       return attach(first % slots.size());
     case Kind::detach:
-      if (first < world_.screens.size()) {
-        desk::detach(machine(), world_.screens[first].number);
-        world_.screens.erase(world_.screens.begin() + static_cast<std::ptrdiff_t>(first));
-        displaysChanged();
-      }
-      return;
+      return detach(first);
     case Kind::moveScreen:
       return moveScreen(first, second);
-    case Kind::renumber: {
-      const auto number = static_cast<std::uint32_t>(20 + second);
-      if (first < world_.screens.size() &&
-          machine().displays.renumber(world_.screens[first].number, number) == std::nullopt) {
-        world_.screens[first].number = number;
-        displaysChanged();
-      }
-      return;
-    }
+    case Kind::renumber:
+      return renumber(first, static_cast<std::uint32_t>(20 + second));
     case Kind::setDockEdge:
       return setDockEdge(first);
     case Kind::setTrusted:
@@ -236,7 +240,7 @@ void SequenceRunner::performOnTheWorld(const Action& action) {
           first % 2 == 0 ? kCGEventTapDisabledByTimeout : kCGEventTapDisabledByUserInput, {});
       return;
     case Kind::passTime: {
-      const double seconds = static_cast<double>(first * first + 1) / 8;
+      const double seconds = std::array<double, 8>{0.125, 0.25, 0.5, 1, 1, 2, 2.125, 10}.at(first);
       machine().advance(seconds);
       world_.now += seconds;
       return reference_ ? reference_->catchUp() : void();

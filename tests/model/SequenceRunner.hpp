@@ -2,6 +2,7 @@
 // reference, and describes the two in the same words.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -44,6 +45,8 @@ class SequenceRunner {
   void endProcess();
   void corruptStorage(const Action& action);
   void attach(std::size_t slot);
+  void detach(std::size_t index);
+  void renumber(std::size_t index, std::uint32_t number);
   void moveScreen(std::size_t index, std::size_t variant);
   void displaysChanged();
   void setDockEdge(std::size_t choice);

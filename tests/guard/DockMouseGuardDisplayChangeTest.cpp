@@ -1,0 +1,154 @@
+// How the guard follows changes of the displays: it pauses, comes back and sees new zones.
+#include <gtest/gtest.h>
+
+#include "tests/guard/GuardLifeFixture.hpp"
+
+namespace orvane {
+namespace {
+
+class DockMouseGuardDisplayChangeTest : public GuardLifeFixture {};
+
+TEST_F(DockMouseGuardDisplayChangeTest, WithoutZonesAStartSaysSoAndWaitsForTheDisplaysToChange) {
+  desk::detach(machine, 2);
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  EXPECT_EQ(told(), Messages{noZones});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAtTheRight());
+  expectGuarding();
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, PinningWithoutATargetGivesNoZones) {
+  guard->start("", OrvaneModifier::option, false);
+  EXPECT_EQ(told(), Messages{noZones});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(told(), Messages{}) << "there is no target that could be unavailable";
+  expectWaiting();
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, AnAbsentTargetGivesNoZonesUntilItComes) {
+  guard->start(desk::uuidNamed('C'), OrvaneModifier::option, false);
+  EXPECT_EQ(told(), Messages{noZones});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
+  EXPECT_EQ(told(), Messages{"Mouse guard started. Trigger zones: 2"});
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, ATapThatIsRefusedIsTriedAgainWhenTheDisplaysChange) {
+  machine.eventTaps.setRefusesCreation(true);
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  EXPECT_EQ(told(), Messages{tapRefused});
+  EXPECT_FALSE(guard->isRunning());
+  EXPECT_TRUE(guard->isObservingScreens());
+  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor}) << "nothing else changes";
+  EXPECT_EQ(machine.runLoop.sources().size(), 0U);
+
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(told(), Messages{tapRefused});
+  machine.eventTaps.setRefusesCreation(false);
+  desk::detach(machine, 3);
+  expectGuarding();
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, UnpluggingTheTargetPausesAndPluggingItInResumes) {
+  startPinned();
+  desk::detach(machine, 1);
+  expectWaiting();
+  EXPECT_EQ(told(), Messages{targetGone});
+  desk::attach(machine, desk::laptop());
+  expectGuarding();
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, EachChangeWhileTheTargetIsGoneIsReported) {
+  startPinned();
+  desk::detach(machine, 1);
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(told(), (Messages{targetGone, targetGone}));
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, AChangeIsHandledWithinTheNotification) {
+  startPinned();
+  desk::detach(machine, 1);
+  EXPECT_FALSE(guard->isRunning()) << "before anything on the main queue runs";
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, ATargetWithANewNumberIsStillTheTarget) {
+  startPinned();
+  ASSERT_EQ(machine.displays.renumber(1, 44), std::nullopt);
+  expectGuarding();
+  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
+  EXPECT_EQ(told(), Messages{});
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, ATargetStoredByNumberIsLostWithTheNumber) {
+  guard->start("1", OrvaneModifier::option, false);
+  told();
+  ASSERT_EQ(machine.displays.renumber(1, 44), std::nullopt);
+  EXPECT_EQ(told(), Messages{targetGone});
+  expectWaiting();
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, AnInstalledTapIsKeptAndSeesTheNewZones) {
+  startPinned();
+  const CFMachPortRef tap = guard->eventTap();
+  ASSERT_EQ(machine.displays.setFrame(2, {{1920, 0}, {1000, 600}}), std::nullopt);
+  EXPECT_EQ(guard->eventTap(), tap);
+  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{{{{1920, 1068}, {1000, 12}}, {0, -12}}}));
+  EXPECT_EQ(outcomeOf({2500, 1075}), (CGPoint{2500, 1063}));
+  EXPECT_EQ(outcomeOf({3000, 1075}), (CGPoint{3000, 1075}));
+  machine.runDue();
+  EXPECT_EQ(messages, Messages{"Blocked Dock trigger 1 times"}) << "no second start is reported";
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, AChangeOfTheDocksEdgeIsSeenAtTheNextChangeOfTheDisplays) {
+  startPinned();
+  desk::setDockOrientation(machine, "right");
+  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(guard->cachedTriggerZones(),
+            (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}, {{{1908, -1080}, {12, 1080}}, {-12, 0}}}));
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, LosingAllZonesPausesInSilence) {
+  startPinned();
+  desk::detach(machine, 2);
+  EXPECT_EQ(told(), Messages{});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAtTheRight());
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  desk::setDockOrientation(machine, "top");
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(told(), Messages{});
+  expectWaiting();
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, WhenAllDisplaysAreBlockedUnpluggingOneOnlyChangesTheZones) {
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
+  told();
+  desk::detach(machine, 1);
+  expectGuarding();
+  EXPECT_EQ(guard->cachedTriggerZones().size(), 1U);
+  EXPECT_EQ(told(), Messages{});
+  desk::detach(machine, 2);
+  EXPECT_EQ(told(), Messages{});
+  expectWaiting();
+  desk::attach(machine, desk::laptop());
+  expectGuarding();
+  EXPECT_EQ(told(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, AStoppedGuardHearsNothingOfTheDisplays) {
+  startPinned();
+  guard->stop();
+  desk::detach(machine, 1);
+  desk::attach(machine, desk::laptop());
+  EXPECT_EQ(told(), Messages{});
+  expectIdle();
+}
+
+}  // namespace
+}  // namespace orvane
