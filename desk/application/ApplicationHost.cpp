@@ -3,8 +3,10 @@
 
 #include <utility>
 
+#include "Orvane/app/OrvaneApp.hpp"
 #include "Orvane/app/OrvaneAppState.hpp"
 #include "Orvane/base/Require.hpp"
+#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
 
@@ -15,13 +17,24 @@ void ApplicationHost::launch() {
   messages_.clear();
   launchedAt_ = machine_.clock.now();
   machine_.process.start();
+  OrvaneApp::install();
   listenToGuard();
-  OrvaneAppState::model().restoreLockIfNeeded();
+  WindowServer::current().application.finishLaunching();
   machine_.runDue();
 }
 
+void ApplicationHost::reopen() {
+  if (isRunning()) {
+    WindowServer::current().application.reopen();
+    machine_.runDue();
+  }
+}
+
 void ApplicationHost::terminate() {
-  machine_.process.end();
+  if (isRunning()) {
+    WindowServer::current().application.terminate();
+    machine_.runDue();
+  }
 }
 
 void ApplicationHost::crash() {

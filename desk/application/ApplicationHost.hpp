@@ -25,6 +25,8 @@ class ApplicationHost {
 
   /// Starts the application; nothing when it runs already.
   void launch();
+  /// The user opens it again while it runs; nothing when it does not.
+  void reopen();
   /// Quits it in order.
   void terminate();
   /// Ends it without a word.

@@ -141,8 +141,7 @@ void addApplicationCommands(CommandTable& table) {
   table.add(
       whileRunning("terminate", [](ApplicationHost& application) { application.terminate(); }));
   table.add(whileRunning("crash", [](ApplicationHost& application) { application.crash(); }));
-  // An application that runs and has no window to show stays as it is when it is opened again.
-  table.add(whileRunning("reopen", [](ApplicationHost&) {}));
+  table.add(whileRunning("reopen", [](ApplicationHost& application) { application.reopen(); }));
   table.add({"do", "OPERATION [ARGUMENT]", doOperation});
 }
 

@@ -3,10 +3,13 @@
 
 #include "desk/script/ApplicationCommands.hpp"
 #include "desk/script/DisplayCommands.hpp"
+#include "desk/script/InputCommands.hpp"
 #include "desk/script/LookingCommands.hpp"
 #include "desk/script/MachineCommands.hpp"
+#include "desk/script/MenuCommands.hpp"
 #include "desk/script/PointerCommands.hpp"
 #include "desk/script/SystemCommands.hpp"
+#include "desk/script/WindowCommands.hpp"
 
 namespace orvane::desk::script {
 
@@ -54,6 +57,9 @@ CommandTable standardCommands() {
   addApplicationCommands(table);
   addPointerCommands(table);
   addLookingCommands(table);
+  addWindowCommands(table);
+  addMenuCommands(table);
+  addInputCommands(table);
   return table;
 }
 

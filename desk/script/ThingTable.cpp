@@ -5,6 +5,7 @@
 
 #include "desk/script/ApplicationThings.hpp"
 #include "desk/script/MachineThings.hpp"
+#include "desk/script/WindowThings.hpp"
 
 namespace orvane::desk::script {
 
@@ -31,6 +32,7 @@ ThingTable standardThings() {
   ThingTable table;
   addMachineThings(table);
   addApplicationThings(table);
+  addWindowThings(table);
   return table;
 }
 

@@ -1,0 +1,23 @@
+// The modal alert that asks whether to open the system's settings for the Accessibility permission.
+#pragma once
+
+#include <functional>
+
+#include "Orvane/platform/Quartz.hpp"
+
+namespace orvane {
+
+/// Static members only. Main thread only.
+class OrvanePermissionAlert {
+ public:
+  /// In points.
+  static constexpr CGSize contentSize{480, 372};
+
+  OrvanePermissionAlert() = delete;
+
+  /// Shows the alert once the caller has returned. When the user agrees, the settings are opened
+  /// and, two seconds later, the guide, which calls `onGranted`; otherwise nothing follows.
+  static void show(std::function<void()> onGranted);
+};
+
+}  // namespace orvane

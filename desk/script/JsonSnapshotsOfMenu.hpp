@@ -1,0 +1,13 @@
+// The status item's menu as JSON.
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+
+#include "desk/windows/WindowServer.hpp"
+
+namespace orvane::desk::script {
+
+/// Whether it is open, and its rows as they are, open or not.
+[[nodiscard]] nlohmann::ordered_json statusMenuSnapshot(WindowServer& server);
+
+}  // namespace orvane::desk::script

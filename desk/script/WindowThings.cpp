@@ -1,0 +1,154 @@
+// What a script can look at of the window server.
+#include "desk/script/WindowThings.hpp"
+
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
+#include "desk/script/JsonSnapshots.hpp"
+#include "desk/script/JsonSnapshotsOfMenu.hpp"
+#include "desk/windows/Surfaces.hpp"
+#include "desk/windows/WindowServer.hpp"
+
+namespace orvane::desk::script {
+
+namespace {
+
+/// A width or height beyond this is none at all.
+constexpr double unlimited = 1e9;
+
+Json sizeOf(CGSize size) {
+  if (size.width > unlimited || size.height > unlimited) {
+    return nullptr;
+  }
+  return {size.width, size.height};
+}
+
+Json windowSnapshot(const WindowServer& server, const DeskWindow& window) {
+  const auto parent = window.parent.lock();
+  Json shown;
+  shown["surface"] = Surfaces::nameOf(window);
+  shown["class"] = window.className;
+  shown["title"] = window.title;
+  shown["frame"] = JsonSnapshots::rectangle(window.frame);
+  shown["styleMask"] = window.styleMask;
+  shown["level"] = window.level;
+  shown["collectionBehavior"] = window.collectionBehavior;
+  shown["visible"] = server.isVisible(window);
+  shown["key"] = server.focus.keyReceiver().get() == &window;
+  shown["miniaturised"] = window.isMiniaturized;
+  shown["parent"] = parent != nullptr ? Json(Surfaces::nameOf(*parent)) : Json(nullptr);
+  shown["opaque"] = window.isOpaque;
+  shown["hasShadow"] = window.hasShadow;
+  shown["movableByBackground"] = window.isMovableByBackground;
+  shown["minSize"] = sizeOf(window.minSize);
+  shown["maxSize"] = sizeOf(window.maxSize);
+  shown["cornerRadius"] = window.content != nullptr ? window.content->cornerRadius : 0;
+  shown["main"] = server.focus.mainWindow().get() == &window;
+  shown["modal"] = server.modal.isModal(window);
+  shown["panel"] = window.isPanel();
+  return shown;
+}
+
+Complaint lookAtWindows(ScriptContext&, const std::string&, Json& shown) {
+  shown = Json::array();
+  const WindowServer& server = WindowServer::current();
+  for (const auto& window : server.windows()) {
+    shown.push_back(windowSnapshot(server, *window));
+  }
+  return std::nullopt;
+}
+
+Json treeSnapshot(const ui::SemanticsNode& node) {
+  const ui::Rect& frame = node.frame;
+  Json shown;
+  shown["role"] = ui::roleName(node.role);
+  shown["label"] = node.label;
+  shown["value"] = node.value;
+  shown["enabled"] = node.isEnabled;
+  shown["selected"] = node.isSelected;
+  shown["frame"] = {frame.x, frame.y, frame.width, frame.height};
+  shown["focused"] = node.isFocused;
+  shown["children"] = Json::array();
+  for (const ui::SemanticsNode& child : node.children) {
+    shown["children"].push_back(treeSnapshot(child));
+  }
+  return shown;
+}
+
+Complaint lookAtTree(ScriptContext&, const std::string& surface, Json& shown) {
+  const auto tree = Surfaces(WindowServer::current()).tree(surface);
+  if (!tree) {
+    return "there is no surface \"" + surface + "\"";
+  }
+  shown = treeSnapshot(*tree);
+  return std::nullopt;
+}
+
+Complaint lookAtMenu(ScriptContext&, const std::string&, Json& shown) {
+  shown = statusMenuSnapshot(WindowServer::current());
+  return std::nullopt;
+}
+
+Complaint lookAtIcon(ScriptContext&, const std::string&, Json& shown) {
+  const StatusBarItem* const item = WindowServer::current().statusBar.item();
+  const SymbolImage* const image = item != nullptr ? item->image.get() : nullptr;
+  shown["symbol"] = nullptr;
+  shown["accessibilityDescription"] = nullptr;
+  shown["template"] = nullptr;
+  shown["size"] = nullptr;
+  shown["pointSize"] = nullptr;
+  if (image != nullptr) {
+    shown["symbol"] = image->name;
+    shown["accessibilityDescription"] = image->accessibilityDescription;
+    shown["template"] = image->isTemplate;
+    shown["size"] = {image->size.width, image->size.height};
+    shown["pointSize"] = image->pointSize;
+  }
+  return std::nullopt;
+}
+
+const char* nameOf(PermissionGuideState state) {
+  switch (state) {
+    case PermissionGuideState::checking:
+      return "checking";
+    case PermissionGuideState::success:
+      return "success";
+    case PermissionGuideState::timeout:
+      return "timeout";
+  }
+  return "";
+}
+
+Complaint lookAtGuide(ScriptContext&, const std::string&, Json& shown) {
+  shown["state"] = nameOf(PermissionGuideState::checking);
+  shown["visible"] = false;
+  shown["polling"] = false;
+  if (OrvanePermissionGuideWindowController::sharedExists()) {
+    const auto& guide = OrvanePermissionGuideWindowController::shared();
+    shown["state"] = nameOf(guide.viewModel().state.value());
+    shown["visible"] = guide.panel().isVisible();
+    shown["polling"] = guide.isPolling();
+  }
+  return std::nullopt;
+}
+
+Complaint lookAtTooltip(ScriptContext&, const std::string&, Json& shown) {
+  const auto& tooltip = WindowServer::current().tooltips.shown();
+  shown["text"] = tooltip ? Json(tooltip->text) : Json(nullptr);
+  return std::nullopt;
+}
+
+}  // namespace
+
+void addWindowThings(ThingTable& table) {
+  table.add({.name = "windows", .parameter = {}, .look = lookAtWindows, .countingMember = {}});
+  table.add({.name = "tree", .parameter = "SURFACE", .look = lookAtTree, .countingMember = {}});
+  table.add({.name = "menu", .parameter = {}, .look = lookAtMenu, .countingMember = {}});
+  table.add({.name = "icon", .parameter = {}, .look = lookAtIcon, .countingMember = {}});
+  table.add({.name = "guide", .parameter = {}, .look = lookAtGuide, .countingMember = {}});
+  table.add({.name = "tooltip", .parameter = {}, .look = lookAtTooltip, .countingMember = {}});
+}
+
+}  // namespace orvane::desk::script
