@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 
 #include "desk/desktop/DesktopPicture.hpp"
+#include "desk/desktop/SurfacePicture.hpp"
 #include "desk/script/ScriptProgram.hpp"
 #include "desk/tour/RunTour.hpp"
 #include "desk/window/RunWindow.hpp"
@@ -21,7 +22,8 @@ constexpr int misusedStatus = 2;
 script::Complaint writePicture(const script::Session& session,
                                const script::PictureRequest& request) {
   if (request.surface) {
-    return "there is no surface \"" + *request.surface + "\"";
+    return orvane::desk::writeSurfacePicture(session.machine(), session.application(),
+                                             *request.surface, request.file, request.scale);
   }
   return orvane::desk::writeDesktopPicture(session.machine(), session.application(), request.file,
                                            request.scale);

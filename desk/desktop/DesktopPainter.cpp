@@ -6,16 +6,21 @@
 #include "desk/desktop/DockLayer.hpp"
 #include "desk/desktop/MenuBarLayer.hpp"
 #include "desk/desktop/MonitorArt.hpp"
+#include "desk/desktop/OpenMenuLayer.hpp"
 #include "desk/desktop/PointerLayer.hpp"
 #include "desk/desktop/WallpaperLayer.hpp"
+#include "desk/desktop/WindowLayer.hpp"
 #include "desk/desktop/ZoneLayer.hpp"
 
 namespace orvane::desk {
 
 DesktopPainter::DesktopPainter(DrawingResources& resources) : resources_(resources) {
   backdrop_.push_back(std::make_unique<WallpaperLayer>());
+  windows_.push_back(std::make_unique<WindowLayer>(WindowLayer::Part::belowMenuBar));
   system_.push_back(std::make_unique<DockLayer>());
   system_.push_back(std::make_unique<MenuBarLayer>());
+  menus_.push_back(std::make_unique<WindowLayer>(WindowLayer::Part::aboveMenuBar));
+  menus_.push_back(std::make_unique<OpenMenuLayer>());
   marks_.push_back(std::make_unique<ZoneLayer>());
   marks_.push_back(std::make_unique<PointerLayer>());
 }

@@ -33,6 +33,8 @@ struct DesktopScene {
   std::vector<TriggerZone> zones;
   bool showsZones = false;
   std::optional<MovedBack> movedBack;
+  /// When set, of all windows and menus only this one is there, by its name.
+  std::optional<std::string> onlySurface;
   /// How much larger than on a Mac the pointer is drawn.
   double pointerMagnification = 1;
 };

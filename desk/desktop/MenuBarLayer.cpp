@@ -7,6 +7,7 @@
 
 #include "desk/desktop/Glass.hpp"
 #include "desk/desktop/MenuClock.hpp"
+#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
 
@@ -16,9 +17,6 @@ constexpr double glassSigma = 16;
 constexpr double sideMargin = 14;
 constexpr double baseline = 16.5;
 constexpr double titleSpacing = 20;
-/// The room for the clock's longest text.
-constexpr double clockRoom = 112;
-constexpr double iconRoom = 32;
 constexpr ui::Font font = ui::Font::system(13, ui::Weight::medium);
 
 constexpr std::array<const char*, 6> titles{"Desk", "File", "Edit", "View", "Window", "Help"};
@@ -30,18 +28,30 @@ void paintMark(CairoCanvas& canvas, ui::Point at, const ui::Rgba& ink) {
   canvas.fill(ui::Shape::roundedRectangle({at.x + 4, at.y - 3.75, 8, 2}, 1), ui::Paint::solid(ink));
 }
 
-/// The `position`-th icon from the right, beside the clock.
-ui::Rect iconFrame(const ui::Rect& displayFrame, int position) {
-  return {displayFrame.right() - sideMargin - clockRoom - iconRoom * (position + 1), displayFrame.y,
-          iconRoom, MenuBarLayer::height};
+CGRect rectOf(const ui::Rect& rect) {
+  return CGRectMake(rect.x, rect.y, rect.width, rect.height);
 }
 
-constexpr int statusPosition = 2;
+ui::Rect rectOf(const CGRect& rect) {
+  return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+/// The `position`-th icon from the right, beside the clock.
+ui::Rect iconFrame(const ui::Rect& displayFrame, int position) {
+  return rectOf(StatusBar::place(rectOf(displayFrame), position));
+}
+
+/// Whether the menu under the status icon is open on this display.
+bool isMenuOpen(const DesktopScene& scene, std::size_t displayIndex) {
+  const WindowServer* const server = WindowServer::of(scene.machine);
+  return server != nullptr && server->menus.isStatusMenuOpen() &&
+         server->menus.displayIndex() == displayIndex;
+}
 
 }  // namespace
 
 ui::Rect MenuBarLayer::statusItemFrame(const ui::Rect& displayFrame) {
-  return iconFrame(displayFrame, statusPosition);
+  return rectOf(StatusBar::itemFrame(rectOf(displayFrame)));
 }
 
 void MenuBarLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
@@ -68,6 +78,10 @@ void MenuBarLayer::paint(const DesktopScene& scene, const DisplayCanvas& display
   canvas.text(clock, font, ink, {frame.right() - sideMargin - clockWidth, frame.y + baseline});
   canvas.symbol("battery.100", ui::Font::system(13), ink, iconFrame(frame, 0));
   canvas.symbol("wifi", ui::Font::system(13, ui::Weight::medium), ink, iconFrame(frame, 1));
+  if (isMenuOpen(scene, display.displayIndex)) {
+    canvas.fill(ui::Shape::roundedRectangle(statusItemFrame(frame).inset(1), 5),
+                ui::Paint::solid(isDark ? ui::Rgba{1, 1, 1, 0.22} : ui::Rgba{0, 0, 0, 0.14}));
+  }
   if (scene.statusSymbol) {
     canvas.symbol(*scene.statusSymbol, ui::Font::system(14, ui::Weight::medium), ink,
                   statusItemFrame(frame));

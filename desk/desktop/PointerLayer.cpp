@@ -22,6 +22,9 @@ void addArrow(cairo_t* context) {
 }  // namespace
 
 void PointerLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+  if (scene.onlySurface) {
+    return;
+  }
   const CGPoint place = scene.machine.pointer.place();
   cairo_t* const context = display.canvas.context();
   cairo_translate(context, place.x, place.y);

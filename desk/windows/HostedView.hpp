@@ -9,6 +9,7 @@
 #include "Orvane/ui/Shape.hpp"
 #include "Orvane/ui/ViewHost.hpp"
 #include "desk/machine/RunLoopTimer.hpp"
+#include "desk/windows/ContentPicture.hpp"
 
 namespace orvane::desk {
 
@@ -48,6 +49,8 @@ class HostedView : public std::enable_shared_from_this<HostedView> {
   /// Whether the blurred picture of what is behind the window lies behind the views.
   bool hasBackdrop = false;
   std::function<void()> dismiss;
+  /// What it has drawn so far, for whoever shows it.
+  ContentPicture picture;
 
  private:
   [[nodiscard]] ui::HostPlatform platform();

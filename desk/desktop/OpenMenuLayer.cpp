@@ -1,0 +1,119 @@
+// The menu by the measures that it was laid out by.
+#include "desk/desktop/OpenMenuLayer.hpp"
+
+#include "Orvane/ui/StandardColors.hpp"
+#include "desk/desktop/Glass.hpp"
+#include "desk/desktop/WindowArt.hpp"
+#include "desk/windows/MenuMetrics.hpp"
+#include "desk/windows/Surfaces.hpp"
+#include "desk/windows/WindowServer.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+constexpr ui::PaintShadow menuShadow{{0, 0, 0, 0.28}, 20, {0, 6}};
+constexpr double sideInset = 5;
+
+ui::Rect rectOf(const CGRect& rect) {
+  return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+ui::Rgba ink(const Machine& machine, double opacity) {
+  return machine.appearance.isDark ? ui::Rgba{1, 1, 1, opacity} : ui::Rgba{0, 0, 0, opacity};
+}
+
+ui::Rgba accentColor(const Machine& machine) {
+  const Appearance::Accent& accent = machine.appearance.accent;
+  return {accent.red / 255.0, accent.green / 255.0, accent.blue / 255.0, 1};
+}
+
+void paintRow(CairoCanvas& canvas, WindowServer& server, const MenuRow& row) {
+  const appkit::MenuItem& item = server.menus.menu()->items[row.itemIndex];
+  const ui::Rect frame = rectOf(row.frame);
+  const bool isHighlighted = server.menus.highlighted() == row.itemIndex;
+  const ui::Shape highlight =
+      ui::Shape::roundedRectangle(frame.inset(ui::Edges::horizontal(sideInset)), 5);
+  if (row.view != nullptr) {
+    if (isHighlighted) {
+      canvas.fill(highlight, ui::Paint::solid(ink(server.machine(), 0.08)));
+    }
+    paintView(canvas, server, *row.view, frame.origin());
+    return;
+  }
+  if (item.isSeparator) {
+    canvas.fill(ui::Shape::rectangle({frame.x + 10, frame.center().y - 0.5, frame.width - 20, 1}),
+                ui::Paint::solid(ink(server.machine(), 0.14)));
+    return;
+  }
+  if (isHighlighted) {
+    canvas.fill(highlight, ui::Paint::solid(accentColor(server.machine())));
+  }
+  const ui::Rgba color =
+      isHighlighted ? ui::Rgba{1, 1, 1, 1} : ink(server.machine(), item.isEnabled ? 0.85 : 0.26);
+  if (server.menus.menu()->checkedIndex == static_cast<int>(row.itemIndex)) {
+    canvas.symbol("checkmark", ui::Font::system(11, ui::Weight::semibold), color,
+                  {frame.x + 8, frame.y + 4, 14, 14});
+  }
+  canvas.text(item.title, MenuMetrics::font, color,
+              {frame.x + MenuMetrics::titleInset, frame.y + MenuMetrics::baseline});
+}
+
+void paintMenu(CairoCanvas& canvas, WindowServer& server) {
+  server.menus.layOut();
+  const bool isDark = server.machine().appearance.isDark;
+  const ui::Shape shape =
+      ui::Shape::roundedRectangle(rectOf(server.menus.frame()), MenuMetrics::cornerRadius);
+  canvas.shadow(shape, menuShadow);
+  paintGlass(canvas, shape, glassSigma, glassTint(isDark));
+  for (const MenuRow& row : server.menus.rows()) {
+    paintRow(canvas, server, row);
+  }
+  canvas.stroke(shape.inset(-0.25), ui::Paint::solid({0, 0, 0, isDark ? 0.6 : 0.16}), 0.5);
+}
+
+void paintTooltip(CairoCanvas& canvas, WindowServer& server, const ui::Rect& screen) {
+  const Tooltips::Shown& shown = *server.tooltips.shown();
+  const ui::Font font = ui::Font::system(11);
+  const double width = server.resources().shaper.measure(shown.text, font).width + 12;
+  const double x = std::min(shown.place.x, screen.right() - width - 4);
+  const ui::Rect frame{x, shown.place.y + 22, width, 19};
+  const bool isDark = server.machine().appearance.isDark;
+  const ui::Shape shape = ui::Shape::roundedRectangle(frame, 4);
+  canvas.shadow(shape, {{0, 0, 0, 0.25}, 6, {0, 2}});
+  canvas.fill(shape, ui::Paint::solid(isDark ? ui::Rgba{0.2, 0.2, 0.21, 1}
+                                             : ui::Rgba{0.95, 0.95, 0.95, 1}));
+  canvas.text(shown.text, font, ink(server.machine(), 0.85), {frame.x + 6, frame.y + 13.5});
+}
+
+void paintDrag(CairoCanvas& canvas, WindowServer& server) {
+  const FileDrag& drag = *server.pointer.fileDrag();
+  const CGPoint place = server.machine().pointer.place();
+  const ui::Rect image = drag.image.movedBy({place.x, place.y});
+  canvas.beginLayer(image, 0.7, std::nullopt);
+  canvas.image(drag.imageName, image);
+  canvas.endLayer();
+}
+
+}  // namespace
+
+void OpenMenuLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+  WindowServer* const server = WindowServer::of(scene.machine);
+  if (server == nullptr) {
+    return;
+  }
+  const bool isWanted = !scene.onlySurface || *scene.onlySurface == Surfaces::menu;
+  if (server->menus.isOpen() && isWanted && server->menus.displayIndex() == display.displayIndex) {
+    paintMenu(display.canvas, *server);
+  }
+  const auto& tooltip = server->tooltips.shown();
+  if (tooltip && !scene.onlySurface &&
+      display.frame.contains({tooltip->place.x, tooltip->place.y})) {
+    paintTooltip(display.canvas, *server, display.frame);
+  }
+  if (server->pointer.fileDrag() && !scene.onlySurface) {
+    paintDrag(display.canvas, *server);
+  }
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,51 @@
+// Areas are widened to whole pixels, so that nothing of an older drawing is left at their edges.
+#include "desk/windows/ContentPicture.hpp"
+
+#include <cmath>
+
+#include "desk/canvas/CairoCanvas.hpp"
+
+namespace orvane::desk {
+
+cairo_surface_t* ContentPicture::of(ui::ViewHost& host, double scale, DrawingResources& resources) {
+  const ui::Size size = host.size();
+  const int width = static_cast<int>(std::ceil(size.width * scale));
+  const int height = static_cast<int>(std::ceil(size.height * scale));
+  if (width <= 0 || height <= 0) {
+    return nullptr;
+  }
+  const std::vector<ui::Rect> dirty = host.takeDirtyRects();
+  if (surface_ == nullptr || scale != scale_ || !(size == size_)) {
+    surface_.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+    size_ = size;
+    scale_ = scale;
+    draw(host, {0, 0, size.width, size.height}, resources);
+    return surface_.get();
+  }
+  const ui::Rect bounds{0, 0, size.width, size.height};
+  for (const ui::Rect& area : dirty) {
+    draw(host, area.intersection(bounds), resources);
+  }
+  return surface_.get();
+}
+
+void ContentPicture::draw(const ui::ViewHost& host, const ui::Rect& area,
+                          DrawingResources& resources) {
+  if (area.isEmpty()) {
+    return;
+  }
+  ++drawnAreas_;
+  const double left = std::floor(area.x * scale_);
+  const double top = std::floor(area.y * scale_);
+  const double right = std::ceil(area.right() * scale_);
+  const double bottom = std::ceil(area.bottom() * scale_);
+  const ContextPointer clearing(cairo_create(surface_.get()));
+  cairo_set_operator(clearing.get(), CAIRO_OPERATOR_CLEAR);
+  cairo_rectangle(clearing.get(), left, top, right - left, bottom - top);
+  cairo_fill(clearing.get());
+  CairoCanvas canvas(surface_.get(), scale_, resources);
+  host.paint(canvas,
+             ui::Rect::between(left / scale_, top / scale_, right / scale_, bottom / scale_));
+}
+
+}  // namespace orvane::desk
