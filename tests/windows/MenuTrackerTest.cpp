@@ -1,0 +1,216 @@
+// The menu under the status item and the pop-up menus of pickers.
+#include "Orvane/platform/appkit/StatusItem.hpp"
+#include "Orvane/platform/appkit/Timer.hpp"
+#include "Orvane/ui/Picker.hpp"
+#include "tests/windows/WindowFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+using appkit::Menu;
+using appkit::MenuItem;
+
+class MenuTrackerTest : public WindowFixture {
+ protected:
+  MenuTrackerTest() { item.setMenu(menu); }
+
+  static MenuItem plain(const std::string& title, std::function<void()> action) {
+    MenuItem made;
+    made.title = title;
+    made.action = std::move(action);
+    return made;
+  }
+  MenuItem row(const std::string& title, std::function<void()> action) {
+    MenuItem made = plain(title, action);
+    appkit::HostingView view = hosting(wideButton(title, action));
+    view.setFrame(CGRectMake(0, 0, 200, 30));
+    made.view = view;
+    return made;
+  }
+  /// A click on the status item of the first display.
+  void clickItem() { click({1000 - 14 - 112 - 32 * 3 + 16, 12}); }
+  [[nodiscard]] bool isOpen() { return server().menus.isOpen(); }
+  [[nodiscard]] CGPoint middleOfRow(std::size_t index) {
+    const CGRect& frame = server().menus.rows().at(index).frame;
+    return {CGRectGetMidX(frame), CGRectGetMidY(frame)};
+  }
+
+  Menu menu;
+  appkit::StatusItem item;
+};
+
+TEST_F(MenuTrackerTest, AClickOnTheItemOpensTheMenuUnderItAndAnotherClosesIt) {
+  menu.addItem(row("Row", [] {}));
+  clickItem();
+  ASSERT_TRUE(isOpen());
+  EXPECT_EQ(server().menus.frame().origin.y, 24);
+  EXPECT_EQ(machine.runLoop.mode(), RunLoop::Mode::eventTracking);
+  clickItem();
+  EXPECT_FALSE(isOpen());
+  EXPECT_EQ(machine.runLoop.mode(), RunLoop::Mode::standard);
+}
+
+TEST_F(MenuTrackerTest, ItOpensOnTheDisplayThatWasClicked) {
+  menu.addItem(row("Row", [] {}));
+  click({2000 - 14 - 112 - 32 * 3 + 16, 12});
+  ASSERT_TRUE(isOpen());
+  EXPECT_EQ(server().menus.displayIndex(), 1U);
+  EXPECT_GT(server().menus.frame().origin.x, 1000);
+  EXPECT_LE(CGRectGetMaxX(server().menus.frame()), 2000);
+}
+
+TEST_F(MenuTrackerTest, WhatIsToldThatItOpensMayFillIt) {
+  int told = 0;
+  menu.onWillOpen([&] {
+    ++told;
+    menu.removeAllItems();
+    menu.addItem(row("Fresh", [] {}));
+  });
+  clickItem();
+  EXPECT_EQ(told, 1);
+  ASSERT_EQ(server().menus.rows().size(), 1U);
+  EXPECT_EQ(Surfaces(server()).controls("menu").front().node.label, "Fresh");
+}
+
+TEST_F(MenuTrackerTest, WhileItIsOpenStandardTimersWait) {
+  menu.addItem(row("Row", [] {}));
+  int ticks = 0;
+  const auto timer = appkit::Timer::repeating(1, appkit::RunLoopMode::standard, [&] { ++ticks; });
+  clickItem();
+  machine.advance(2);
+  EXPECT_EQ(ticks, 0);
+  menu.cancelTracking();
+  machine.runDue();
+  EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(MenuTrackerTest, AClickInARowsViewRunsItAndLeavesTheMenuOpen) {
+  int runs = 0;
+  menu.addItem(row("Row", [&] { ++runs; }));
+  clickItem();
+  click(middleOfRow(0));
+  EXPECT_EQ(runs, 1);
+  EXPECT_TRUE(isOpen());
+}
+
+TEST_F(MenuTrackerTest, ItemsMayBeReplacedByTheActionOfOneOfThem) {
+  int runs = 0;
+  std::function<void()> action = [&] {
+    ++runs;
+    menu.removeAllItems();
+    menu.addItem(row("Second", action));
+    menu.addItem(row("Third", action));
+  };
+  menu.addItem(row("First", action));
+  clickItem();
+  click(middleOfRow(0));
+  EXPECT_EQ(server().menus.rows().size(), 2U);
+  click(middleOfRow(1));
+  EXPECT_EQ(runs, 2);
+  EXPECT_TRUE(isOpen());
+}
+
+TEST_F(MenuTrackerTest, AnActionMayCloseTheMenuFirst) {
+  bool wasOpen = true;
+  menu.addItem(row("Row", [&] {
+    menu.cancelTracking();
+    wasOpen = isOpen();
+  }));
+  clickItem();
+  click(middleOfRow(0));
+  EXPECT_FALSE(wasOpen);
+  EXPECT_FALSE(isOpen());
+}
+
+TEST_F(MenuTrackerTest, AClickOutsideClosesTheMenuAndReachesNobody) {
+  int clicks = 0;
+  appkit::Window window = makeWindow({0, 0});
+  window.setContentView(hosting(wideButton("Button", [&] { ++clicks; })));
+  window.orderFrontRegardless();
+  menu.addItem(row("Row", [] {}));
+  clickItem();
+  click({100, 750});
+  EXPECT_FALSE(isOpen());
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(MenuTrackerTest, TheKeyboardGoesOverEnabledItemsAndChooses) {
+  std::string chosen;
+  menu.addItem(plain("First", [&] { chosen += "first "; }));
+  menu.addItem(MenuItem::separator());
+  MenuItem disabled = plain("Off", [&] { chosen += "off "; });
+  disabled.isEnabled = false;
+  menu.addItem(disabled);
+  MenuItem keeps = plain("Keeps", [&] { chosen += "keeps "; });
+  keeps.keepsMenuOpen = true;
+  menu.addItem(keeps);
+  clickItem();
+  EXPECT_TRUE(key(ui::Key::enter));
+  EXPECT_EQ(chosen, "");
+  key(ui::Key::down);
+  key(ui::Key::down);
+  EXPECT_EQ(server().menus.highlighted(), 3U);
+  key(ui::Key::space);
+  EXPECT_EQ(chosen, "keeps ");
+  EXPECT_TRUE(isOpen());
+  key(ui::Key::up);
+  key(ui::Key::enter);
+  EXPECT_EQ(chosen, "keeps first ");
+  EXPECT_FALSE(isOpen());
+}
+
+TEST_F(MenuTrackerTest, EscapeClosesWithoutChoosing) {
+  int runs = 0;
+  menu.addItem(plain("Item", [&] { ++runs; }));
+  clickItem();
+  key(ui::Key::down);
+  key(ui::Key::escape);
+  EXPECT_FALSE(isOpen());
+  EXPECT_EQ(runs, 0);
+}
+
+TEST_F(MenuTrackerTest, AClickOnAPlainItemClosesAndThenRunsIt) {
+  bool wasOpen = true;
+  menu.addItem(plain("Item", [&] { wasOpen = isOpen(); }));
+  clickItem();
+  click(middleOfRow(0));
+  EXPECT_FALSE(wasOpen);
+}
+
+TEST_F(MenuTrackerTest, AModalSessionKeepsTheMenuBack) {
+  menu.addItem(row("Row", [] {}));
+  appkit::Window panel = makeWindow({0, 0});
+  appkit::Application::runModal(panel, [](int) {});
+  clickItem();
+  EXPECT_FALSE(isOpen());
+}
+
+TEST_F(MenuTrackerTest, APickerOpensItsMenuOverItselfAndReportsTheChoice) {
+  int chosen = -1;
+  appkit::Window window = makeWindow({300, 300});
+  window.setContentView(hosting(
+      ui::Picker{"Fruit", {"Apple", "Pear", "Plum"}, 1, [&](int index) { chosen = index; }}));
+  window.orderFrontRegardless();
+  click({400, 450});
+  ASSERT_TRUE(isOpen());
+  EXPECT_FALSE(server().menus.isStatusMenuOpen());
+  EXPECT_EQ(server().menus.menu()->checkedIndex, 1);
+  EXPECT_NEAR(middleOfRow(1).y, 450, 1);
+  click(middleOfRow(2));
+  EXPECT_EQ(chosen, 2);
+  EXPECT_FALSE(isOpen());
+}
+
+TEST_F(MenuTrackerTest, AnItemThatGoesTakesItsMenuAlong) {
+  {
+    appkit::StatusItem moved = std::move(item);
+    menu.addItem(row("Row", [] {}));
+    clickItem();
+    EXPECT_TRUE(isOpen());
+  }
+  EXPECT_FALSE(isOpen());
+  EXPECT_EQ(server().statusBar.item(), nullptr);
+}
+
+}  // namespace
+}  // namespace orvane::desk

@@ -1,0 +1,145 @@
+// Placing, moving, closing, and what the end of a process or a display leaves.
+#include "tests/windows/WindowFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+using appkit::Window;
+using appkit::WindowKind;
+
+using WindowServerTest = WindowFixture;
+
+TEST_F(WindowServerTest, ATitleBarIsAddedAboveTheContent) {
+  const Window window(WindowKind::window, CGRectMake(10, 20, 200, 100), appkit::StyleMask::titled);
+  EXPECT_EQ(window.frame().size.height, 128);
+  EXPECT_EQ(window.frame().origin.y, 20);
+}
+
+TEST_F(WindowServerTest, ChildrenFollowTheirParentAndTheirOwnChildrenFollowToo) {
+  Window parent = makeWindow({100, 100});
+  Window child = makeWindow({150, 120});
+  Window grandchild = makeWindow({160, 130});
+  parent.orderFrontRegardless();
+  parent.addChildWindowAbove(child);
+  child.addChildWindowAbove(grandchild);
+  parent.setFrameOrigin({110, 80});
+  EXPECT_EQ(child.frame().origin.x, 160);
+  EXPECT_EQ(child.frame().origin.y, 100);
+  EXPECT_EQ(grandchild.frame().origin.y, 110);
+  parent.removeChildWindow(child);
+  parent.setFrameOrigin({0, 0});
+  EXPECT_EQ(child.frame().origin.x, 160);
+  EXPECT_TRUE(parent.childWindows().empty());
+}
+
+TEST_F(WindowServerTest, AClosedChildIsNoChildAnyMore) {
+  Window parent = makeWindow({100, 100});
+  Window child = makeWindow({150, 120});
+  parent.orderFrontRegardless();
+  parent.addChildWindowAbove(child);
+  child.close();
+  EXPECT_TRUE(parent.childWindows().empty());
+  EXPECT_TRUE(parent.isVisible());
+}
+
+TEST_F(WindowServerTest, ClosingAParentTakesItsChildrenOffTheScreen) {
+  Window parent = makeWindow({100, 100});
+  Window child = makeWindow({150, 120});
+  parent.orderFrontRegardless();
+  parent.addChildWindowAbove(child);
+  parent.close();
+  EXPECT_FALSE(child.isVisible());
+}
+
+TEST_F(WindowServerTest, TheCallbackOfClosingComesOnceAndMayDropEveryHandle) {
+  auto window = std::make_unique<Window>(makeWindow({0, 0}));
+  const std::weak_ptr<Window::Implementation> alive = window->implementation();
+  int calls = 0;
+  bool wasVisible = false;
+  window->onWillClose([&] {
+    ++calls;
+    wasVisible = window->isVisible();
+    window.reset();
+  });
+  window->orderFrontRegardless();
+  window->close();
+  EXPECT_EQ(calls, 1);
+  EXPECT_TRUE(wasVisible);
+  EXPECT_TRUE(alive.expired());
+  EXPECT_TRUE(server().windows().empty());
+}
+
+TEST_F(WindowServerTest, ClosingAgainFromWithinTheCallbackDoesNotCallItAgain) {
+  Window window = makeWindow({0, 0});
+  int calls = 0;
+  window.onWillClose([&] {
+    ++calls;
+    window.close();
+  });
+  window.orderFrontRegardless();
+  window.close();
+  EXPECT_EQ(calls, 1);
+}
+
+TEST_F(WindowServerTest, AShownWindowLivesWithoutAHandle) {
+  {
+    Window window = makeWindow({0, 0}, "kept");
+    window.orderFrontRegardless();
+  }
+  EXPECT_EQ(order(), "kept");
+}
+
+TEST_F(WindowServerTest, TheScreenOfAWindowIsTheOneThatMostOfItIsOn) {
+  Window window = makeWindow({950, 100});
+  EXPECT_EQ(window.screen()->deviceNumber("NSScreenNumber"), 2);
+  window.setFrameOrigin({850, 100});
+  EXPECT_EQ(window.screen()->deviceNumber("NSScreenNumber"), 1);
+  window.setFrameOrigin({5000, 100});
+  EXPECT_FALSE(window.screen().has_value());
+}
+
+TEST_F(WindowServerTest, ACentredWindowIsInTheMiddleOfItsScreenAndALittleHigher) {
+  Window window = makeWindow({1100, 100});
+  window.center();
+  EXPECT_EQ(CGRectGetMidX(window.frame()), 1500);
+  const CGRect visible = window.screen()->visibleFrame();
+  const double below = window.frame().origin.y - visible.origin.y;
+  const double above = CGRectGetMaxY(visible) - CGRectGetMaxY(window.frame());
+  EXPECT_GT(below, above);
+  EXPECT_GT(above, 0);
+}
+
+TEST_F(WindowServerTest, AWindowWhoseDisplayGoesComesToAnother) {
+  Window window = makeWindow({1500, 100});
+  window.orderFrontRegardless();
+  EXPECT_FALSE(machine.displays.detach(2));
+  EXPECT_TRUE(window.screen().has_value());
+}
+
+TEST_F(WindowServerTest, TheEndOfTheProcessTakesItsWindowsWithoutAWordButLeavesTheSystems) {
+  int calls = 0;
+  Window window = makeWindow({0, 0}, "own");
+  window.onWillClose([&] { ++calls; });
+  window.orderFrontRegardless();
+  Window system = makeWindow({300, 0}, "system");
+  system.implementation()->owner = WindowOwner::system;
+  system.orderFrontRegardless();
+  machine.process.end();
+  EXPECT_EQ(calls, 0);
+  EXPECT_EQ(order(), "system");
+}
+
+TEST_F(WindowServerTest, TerminatingTellsTheDelegateOnceAndEndsTheProcessAfterwards) {
+  int told = 0;
+  appkit::Application::setDelegate(
+      {.didFinishLaunching = {}, .shouldHandleReopen = {}, .willTerminate = [&] { ++told; }});
+  appkit::Application::terminate();
+  appkit::Application::terminate();
+  EXPECT_TRUE(machine.process.isRunning());
+  machine.runDue();
+  EXPECT_EQ(told, 1);
+  EXPECT_FALSE(machine.process.isRunning());
+}
+
+}  // namespace
+}  // namespace orvane::desk
