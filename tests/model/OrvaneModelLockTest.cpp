@@ -179,6 +179,18 @@ TEST_F(OrvaneModelLockTest, TheGrantedPermissionCompletesTheStart) {
   EXPECT_EQ(model->lastCheckedAt().value(), now());
 }
 
+TEST_F(OrvaneModelLockTest, AGrantRefreshesTheDisplaysBeforeTheStart) {
+  machine.permission.setTrusted(false);
+  launch().toggleLock();
+  machine.runDue();
+  machine.permission.setTrusted(true);
+  model->selectDisplay("2");
+  EXPECT_EQ(writesOf([&] { prompts.at(0)(); }),
+            (Writes{{"selectedDisplayID", 1}, {"isOrvaneEnabled", 1}}));
+  EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), desk::uuidNamed('B'))
+      << "the alias was rewritten first";
+}
+
 TEST_F(OrvaneModelLockTest, AGrantWithoutAnyTargetStartsNothing) {
   desk::detach(machine, 1);
   desk::detach(machine, 2);
