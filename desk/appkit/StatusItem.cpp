@@ -1,10 +1,25 @@
 // Status items on the desk stand in the menu bar of every display.
 #include "Orvane/platform/appkit/StatusItem.hpp"
 
+#include <utility>
+
 #include "desk/windows/Implementations.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::appkit {
+
+namespace {
+
+bool looksTheSame(const desk::SymbolImage* first, const desk::SymbolImage* second) {
+  if (first == nullptr || second == nullptr) {
+    return first == second;
+  }
+  return first->name == second->name && first->pointSize == second->pointSize &&
+         first->isTemplate == second->isTemplate && first->size.width == second->size.width &&
+         first->size.height == second->size.height;
+}
+
+}  // namespace
 
 StatusItem::StatusItem() : implementation_(std::make_unique<Implementation>()) {}
 StatusItem::StatusItem(StatusItem&&) noexcept = default;
@@ -24,8 +39,12 @@ void StatusItem::setImageScaling(ImageScaling scaling) {
 }
 
 void StatusItem::setImage(const std::optional<Image>& image) {
-  implementation_->image = image ? image->implementation() : nullptr;
-  desk::WindowServer::current().updates.request();
+  const auto before =
+      std::exchange(implementation_->image, image ? image->implementation() : nullptr);
+  // The same picture again is no reason to draw.
+  if (!looksTheSame(before.get(), implementation_->image.get())) {
+    desk::WindowServer::current().updates.request();
+  }
 }
 
 void StatusItem::setMenu(const Menu& menu) {

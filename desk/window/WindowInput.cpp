@@ -30,6 +30,13 @@ void WindowInput::handle(const SDL_Event& event) {
     case SDL_MOUSEBUTTONDOWN:
       mousePressed(event.button);
       break;
+    case SDL_MOUSEBUTTONUP:
+      session_.machine().mouse.releaseButton();
+      session_.machine().runDue();
+      break;
+    case SDL_MOUSEWHEEL:
+      wheelTurned(event.wheel);
+      break;
     case SDL_KEYDOWN:
       keyPressed(event.key);
       break;
@@ -73,10 +80,23 @@ void WindowInput::mouseMoved(const SDL_MouseMotionEvent& event) {
 }
 
 void WindowInput::mousePressed(const SDL_MouseButtonEvent& event) {
+  if (window_.isMouseHeld()) {
+    session_.machine().mouse.pressButton();
+    session_.machine().runDue();
+    return;
+  }
+  // The first click only takes hold of the mouse.
   const WindowLayout layout = layoutOf(window_);
   if (event.y * layout.pixelRatio < layout.desktop.height) {
     window_.holdMouse(true);
   }
+}
+
+void WindowInput::wheelTurned(const SDL_MouseWheelEvent& event) {
+  // A wheel counts in lines.
+  constexpr double pointsPerLine = 10;
+  session_.machine().mouse.turnWheel(event.x * pointsPerLine, -event.y * pointsPerLine);
+  session_.machine().runDue();
 }
 
 void WindowInput::keyPressed(const SDL_KeyboardEvent& event) {

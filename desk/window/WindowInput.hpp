@@ -20,6 +20,7 @@ class WindowInput {
  private:
   void mouseMoved(const SDL_MouseMotionEvent& event);
   void mousePressed(const SDL_MouseButtonEvent& event);
+  void wheelTurned(const SDL_MouseWheelEvent& event);
   void keyPressed(const SDL_KeyboardEvent& event);
   void windowChanged(const SDL_WindowEvent& event);
   void readModifiers();

@@ -5,6 +5,7 @@
 
 #include "desk/desktop/MenuClock.hpp"
 #include "desk/window/StripPainter.hpp"
+#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
 
@@ -40,6 +41,9 @@ WindowPicture::Looks WindowPicture::looksOf(const DeskSession& session, bool isM
   looks.wallpaper = machine.appearance.wallpaper;
   looks.statusSymbol = scene.statusSymbol;
   looks.showsZones = scene.showsZones;
+  if (const WindowServer* const server = WindowServer::of(machine)) {
+    looks.windowChanges = server->updates.changeCount();
+  }
   return looks;
 }
 

@@ -38,6 +38,7 @@ class WindowPicture {
     std::int64_t displayChanges = 0;
     Appearance::Wallpaper wallpaper{};
     std::optional<std::string> statusSymbol;
+    long long windowChanges = 0;
     bool showsZones = false;
     bool operator==(const Looks&) const = default;
   };

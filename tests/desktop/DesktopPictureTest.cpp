@@ -79,7 +79,7 @@ TEST_F(DesktopPictureTest, AreRefusedWithAReason) {
 
 TEST_F(DesktopPictureTest, ByDayWithALockedDisplay) {
   application.model().toggleSelectedDisplayLock();
-  machine.runDue();
+  machine.advance(1);
   machine.mouse.moveTo({1200, 440});
   DesktopScene scene(machine, application);
   scene.showsZones = true;

@@ -68,8 +68,11 @@ TEST_F(DeskSessionTest, CountsEventsPerSecond) {
   EXPECT_EQ(session.eventsPerSecond(), 0);
 }
 
-TEST_F(DeskSessionTest, ChangesByItselfOnlyWhileSomethingMovesOrTheMinuteEnds) {
+TEST_F(DeskSessionTest, ChangesByItselfOnlyWhileSomethingMovesOrSomethingIsDue) {
   session.advance(2 * second);
+  // The application looks after its icon once a second.
+  EXPECT_EQ(session.nanosecondsToNextChange(), second);
+  session.application().terminate();
   const std::int64_t untilMinute = session.nanosecondsToNextChange();
   EXPECT_GT(untilMinute, 50 * second);
   EXPECT_LE(untilMinute, 60 * second);

@@ -33,6 +33,7 @@ TEST_F(FramePumpTest, DrawsTheFirstPictureAtOnceAndTheNextOneAFrameLater) {
 
 TEST_F(FramePumpTest, SleepsWhileNothingChanges) {
   session.advance(2 * second);
+  session.application().terminate();
   FramePump pump(60);
   pump.noteDrawn();
   EXPECT_GT(pump.millisecondsToWait(session, false), 10'000);

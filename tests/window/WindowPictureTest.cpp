@@ -48,7 +48,22 @@ TEST_F(WindowPictureTest, IsOutdatedByEveryKeyThatChangesSomething) {
 TEST_F(WindowPictureTest, IsOutdatedByTheMinuteAndByHoldingTheMouse) {
   draw();
   EXPECT_TRUE(picture.isOutdated(session, true));
+  session.application().terminate();
+  draw();
   session.advance(session.nanosecondsToNextChange());
+  EXPECT_TRUE(isOutdated());
+}
+
+TEST_F(WindowPictureTest, IsNotOutdatedByAnApplicationThatOnlyLooksAfterItself) {
+  session.advance(second);
+  draw();
+  session.advance(5 * second);
+  EXPECT_FALSE(isOutdated());
+}
+
+TEST_F(WindowPictureTest, IsOutdatedByAWindowThatOpens) {
+  draw();
+  session.application().reopen();
   EXPECT_TRUE(isOutdated());
 }
 
