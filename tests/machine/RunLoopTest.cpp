@@ -272,5 +272,24 @@ TEST_F(RunLoopTest, ASourceIsInTheModesItWasAddedToAndNotRemovedFrom) {
   EXPECT_TRUE(runLoop.sources().empty());
 }
 
+TEST_F(RunLoopTest, WhatFollowsComesBeforeAllThatIsDueInEveryModeAndWhileTheQueueIsHeld) {
+  std::string order;
+  runLoop.async([&] {
+    runLoop.async([&] { order += "task "; });
+    runLoop.enterMode(RunLoop::Mode::modalPanel);
+    runLoop.holdMainQueue();
+    runLoop.afterCurrent([&] {
+      order += "follower ";
+      runLoop.releaseMainQueue();
+      runLoop.leaveMode();
+    });
+    order += "first ";
+  });
+  const std::int64_t before = runLoop.wakeUpCount();
+  runLoop.runDue();
+  EXPECT_EQ(order, "first follower task ");
+  EXPECT_EQ(runLoop.wakeUpCount() - before, 2);
+}
+
 }  // namespace
 }  // namespace orvane::desk
