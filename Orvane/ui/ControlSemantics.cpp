@@ -14,14 +14,17 @@ void appendLabels(const SemanticsNode& node, std::string& label) {
   }
 }
 
-std::vector<SemanticsNode> collect(const Node& node, double now) {
-  if (node.element->effect(node, node.size, now).opacity <= 0) {
-    // What has faded out completely is not there for anyone.
+// By then everything that moves has arrived, in seconds.
+constexpr double longestMotion = 3600;
+
+std::vector<SemanticsNode> collect(const Node& node, double settled) {
+  if (node.element->effect(node, node.size, settled).opacity <= 0) {
+    // What is fading out is not there any more for anyone, and what is fading in is there already.
     return {};
   }
   std::vector<SemanticsNode> children;
   for (const auto& child : node.children) {
-    for (SemanticsNode& described : collect(*child, now)) {
+    for (SemanticsNode& described : collect(*child, settled)) {
       children.push_back(std::move(described));
     }
   }
@@ -56,7 +59,7 @@ SemanticsNode collectSemantics(const Node& root, double now, std::uint64_t focus
   SemanticsNode result;
   result.id = root.id;
   result.frame = root.hostFrame();
-  result.children = collect(root, now);
+  result.children = collect(root, now + longestMotion);
   markFocus(result, focusedId);
   return result;
 }

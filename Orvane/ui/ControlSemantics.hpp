@@ -12,8 +12,8 @@ namespace orvane::ui {
 SemanticsNode controlSemantics(const Node& node, Role role, const Interaction& interaction,
                                const std::vector<SemanticsNode>& contents);
 
-// The tree of what is presented at the moment; the root is a group. `focusedId` is the node with
-// the keyboard focus, or 0.
+// The tree of what is presented, as it will be when all that fades has arrived; the root is a
+// group. `focusedId` is the node with the keyboard focus, or 0.
 SemanticsNode collectSemantics(const Node& root, double now, std::uint64_t focusedId);
 
 }  // namespace orvane::ui

@@ -49,7 +49,8 @@ TEST(ScriptProgramTest, RunsOtherPeoplesCommands) {
                            return arguments.finish();
                          }});
   EXPECT_EQ(runScript("menu open\n", settings).output, "opened\n");
-  EXPECT_EQ(complaintOf("menu burn\n", settings), "menu knows no command \"burn\", only close, open");
+  EXPECT_EQ(complaintOf("menu burn\n", settings),
+            "menu knows no command \"burn\", only close, open");
 }
 
 TEST(ScriptProgramTest, TellsWhatWasLeftBehind) {
