@@ -65,9 +65,12 @@ DockShelf DockShelf::make(const ui::Rect& area, DockEdge edge, double shownFract
   double along = start + shelfPadding * factor;
   for (std::size_t index = 0; index < tileCount; ++index) {
     if (index + 1 == tileCount) {
+      // A full point, unless the tiles have come too near for that.
+      const double thickness = std::min(1.0, 4 * factor);
       const double middle = along + (separatorRoom - tileSpacing) / 2 * factor;
       result.separator =
-          turned({middle - 0.5, away + 11 * factor, 1, shelfDepth - 22 * factor}, area, edge);
+          turned({middle - thickness / 2, away + 11 * factor, thickness, shelfDepth - 22 * factor},
+                 area, edge);
       along += separatorRoom * factor;
     }
     result.tiles.push_back(turned(

@@ -52,6 +52,13 @@ TEST(DockShelfTest, HasNothingWhereThereIsNoRoom) {
   EXPECT_TRUE(DockShelf::make(wide, DockEdge::bottom, 1, 0).tiles.empty());
 }
 
+TEST(DockShelfTest, KeepsTheLineOffTheTilesOnAVeryShortEdge) {
+  const DockShelf dock = DockShelf::make({0, 0, 40, 70}, DockEdge::bottom, 1, 13);
+  for (const ui::Rect& tile : dock.tiles) {
+    EXPECT_FALSE(dock.separator.intersects(tile));
+  }
+}
+
 RC_GTEST_PROP(DockShelfTest, KeepsItsTilesApartAndOnTheShelfAtEveryEdge, ()) {
   const auto edge = *rc::gen::element(DockEdge::bottom, DockEdge::left, DockEdge::right);
   const double room = *rc::gen::inRange(40, 3000);
