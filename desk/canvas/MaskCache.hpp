@@ -4,9 +4,9 @@
 
 #include <cstddef>
 #include <cstring>
+#include <map>
 #include <string>
 #include <type_traits>
-#include <unordered_map>
 #include <utility>
 
 #include "desk/canvas/CairoPointers.hpp"
@@ -66,7 +66,7 @@ class MaskCache {
 
   std::size_t byteLimit_;
   std::size_t bytes_ = 0;
-  std::unordered_map<std::string, Mask> masks_;
+  std::map<std::string, Mask> masks_;
 };
 
 }  // namespace orvane::desk

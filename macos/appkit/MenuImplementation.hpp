@@ -1,9 +1,9 @@
 // The NSMenu behind a Menu, for the controls that show it.
 #pragma once
 
-#import <AppKit/AppKit.h>
-
 #include <functional>
+
+#import <AppKit/AppKit.h>
 
 #include "Orvane/platform/appkit/Menu.hpp"
 

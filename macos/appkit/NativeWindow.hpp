@@ -1,11 +1,11 @@
 // The NSWindow and the NSPanel behind a Window, and what the window system does not keep for them.
 #pragma once
 
-#import <AppKit/AppKit.h>
-
 #include <functional>
 #include <memory>
 #include <optional>
+
+#import <AppKit/AppKit.h>
 
 #include "Orvane/platform/appkit/HostingView.hpp"
 #include "Orvane/platform/appkit/Window.hpp"

@@ -1,9 +1,9 @@
 // From the window system's screens to the seam's.
 #pragma once
 
-#import <AppKit/AppKit.h>
-
 #include <optional>
+
+#import <AppKit/AppKit.h>
 
 #include "Orvane/platform/appkit/Screen.hpp"
 

@@ -1,10 +1,10 @@
 // Text between the application's UTF-8 and Foundation's strings.
 #pragma once
 
-#import <Foundation/Foundation.h>
-
 #include <string>
 #include <string_view>
+
+#import <Foundation/Foundation.h>
 
 namespace orvane::appkit {
 

@@ -1,9 +1,9 @@
 // The system's symbols and the bundle's images, by name.
 #pragma once
 
-#import <AppKit/AppKit.h>
-
 #include <string>
+
+#import <AppKit/AppKit.h>
 
 #include "Orvane/ui/ImageSource.hpp"
 

@@ -1,11 +1,11 @@
 // Serves the view kit's tree of meanings to VoiceOver and other assistive programs.
 #pragma once
 
-#import <AppKit/AppKit.h>
-
 #include <cstdint>
 #include <functional>
 #include <map>
+
+#import <AppKit/AppKit.h>
 
 #include "Orvane/ui/Semantics.hpp"
 

@@ -1,9 +1,9 @@
 // Calls once per frame of the display that a view is on, while something moves.
 #pragma once
 
-#import <AppKit/AppKit.h>
-
 #include <functional>
+
+#import <AppKit/AppKit.h>
 
 namespace orvane::appkit {
 

@@ -2,9 +2,9 @@
 // keys, and serves the tree of meanings.
 #pragma once
 
-#import <AppKit/AppKit.h>
-
 #include <functional>
+
+#import <AppKit/AppKit.h>
 
 #include "Orvane/ui/ViewHost.hpp"
 

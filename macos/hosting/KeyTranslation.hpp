@@ -1,9 +1,9 @@
 // From the window system's key events to the view kit's.
 #pragma once
 
-#import <AppKit/AppKit.h>
-
 #include <optional>
+
+#import <AppKit/AppKit.h>
 
 #include "Orvane/ui/KeyboardShortcut.hpp"
 

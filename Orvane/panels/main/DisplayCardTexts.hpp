@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/geometry/DisplaySnapshot.hpp"
 #include "Orvane/model/OrvaneLanguage.hpp"
+#include "Orvane/model/OrvaneModel.hpp"
 
 namespace orvane::DisplayCardTexts {
 

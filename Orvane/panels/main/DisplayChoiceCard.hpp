@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "Orvane/geometry/DisplaySnapshot.hpp"
+#include "Orvane/model/OrvaneModel.hpp"
 #include "Orvane/ui/View.hpp"
 
 namespace orvane {
