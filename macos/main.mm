@@ -1,23 +1,11 @@
-// The entry of the application on a Mac: it brings back the lock of the last run and hands over to
-// the run loop.
+// The entry of the application on a Mac: it installs the delegate and hands over to the run loop.
 #import <AppKit/AppKit.h>
 
-#include "Orvane/app/OrvaneAppState.hpp"
-#include "Orvane/platform/appkit/Application.hpp"
-
-using orvane::appkit::Application;
+#include "Orvane/app/OrvaneApp.hpp"
 
 int main() {
   @autoreleasepool {
-    Application::setDelegate({
-        .didFinishLaunching =
-            [] {
-              Application::setActivationPolicy(orvane::appkit::ActivationPolicy::accessory);
-              orvane::OrvaneAppState::model().restoreLockIfNeeded();
-            },
-        .shouldHandleReopen = {},
-        .willTerminate = {},
-    });
+    orvane::OrvaneApp::install();
     [NSApplication.sharedApplication run];
   }
 }

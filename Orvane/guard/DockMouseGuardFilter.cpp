@@ -14,7 +14,8 @@ constexpr double reportIntervalSeconds = 1.0;
 
 }  // namespace
 
-CGEventRef DockMouseGuard::eventTapCallback(CGEventType type, CGEventRef event) {
+// Flattened: what it calls for every event is compiled into it where the linker sees it.
+[[gnu::flatten]] CGEventRef DockMouseGuard::eventTapCallback(CGEventType type, CGEventRef event) {
   if (type == kCGEventTapDisabledByTimeout || type == kCGEventTapDisabledByUserInput) {
     if (eventTap_) {
       CGEventTapEnable(eventTap_.get(), true);

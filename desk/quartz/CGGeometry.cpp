@@ -64,10 +64,13 @@ CGFloat CGRectGetHeight(CGRect rect) {
 }
 
 bool CGRectContainsPoint(CGRect rect, CGPoint point) {
-  const CGRect standard = standardised(rect);
-  return !isNull(rect) && point.x >= standard.origin.x &&
-         point.x < standard.origin.x + standard.size.width && point.y >= standard.origin.y &&
-         point.y < standard.origin.y + standard.size.height;
+  // The event path asks this for every zone: only a negative size costs more than comparing. The
+  // null rectangle, whose origin is infinite, contains nothing by the comparisons alone.
+  if (rect.size.width < 0 || rect.size.height < 0) [[unlikely]] {
+    rect = standardised(rect);
+  }
+  return point.x >= rect.origin.x && point.x < rect.origin.x + rect.size.width &&
+         point.y >= rect.origin.y && point.y < rect.origin.y + rect.size.height;
 }
 
 bool CGRectEqualToRect(CGRect first, CGRect second) {
