@@ -53,6 +53,10 @@ function(orvane_test name)
   if(arg_LABELS)
     list(APPEND properties LABELS "${arg_LABELS}")
   endif()
+  if("speed" IN_LIST arg_LABELS)
+    # What is measured must have the machine for itself.
+    list(APPEND properties RUN_SERIAL TRUE)
+  endif()
   gtest_discover_tests(
     ${name}
     DISCOVERY_MODE PRE_TEST
