@@ -20,17 +20,18 @@ function(orvane_library name)
   target_link_libraries(${name} PUBLIC orvane_flags)
 endfunction()
 
-# orvane_test(NAME SOURCES file... [LIBRARIES library...] [LABELS label...] [PROPERTY_CASES count]):
-# a GoogleTest executable; every test in it is one test of ctest. In the sanitizers' build its name
-# says so. Under ctest RapidCheck's properties see the same cases in every run, PROPERTY_CASES of
-# them; the executable itself tries others each time.
+# orvane_test(NAME SOURCES file... [LIBRARIES library...] [DEFINITIONS name=value...]
+# [LABELS label...] [PROPERTY_CASES count]): a GoogleTest executable; every test in it is one test of
+# ctest. In the sanitizers' build its name says so. Under ctest RapidCheck's properties see the same
+# cases in every run, PROPERTY_CASES of them; the executable itself tries others each time.
 function(orvane_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "PROPERTY_CASES" "SOURCES;LIBRARIES;LABELS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "PROPERTY_CASES" "SOURCES;LIBRARIES;DEFINITIONS;LABELS")
   if(ORVANE_SPEED_TESTS_ONLY AND NOT "speed" IN_LIST arg_LABELS)
     return()
   endif()
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE orvane_flags ${arg_LIBRARIES} GTest::gtest_main)
+  target_compile_definitions(${name} PRIVATE ${arg_DEFINITIONS})
   if(ORVANE_SANITIZE)
     # The checks of the sanitizers in optimised GoogleTest code take most of the build's time; what
     # is tested stays optimised.
