@@ -4,6 +4,7 @@
 
 #include "Orvane/app/OrvaneAppState.hpp"
 #include "Orvane/platform/appkit/Application.hpp"
+#include "Orvane/platform/appkit/MainQueue.hpp"
 #include "Orvane/windows/OrvaneWindowController.hpp"
 
 namespace orvane {
@@ -33,8 +34,11 @@ void AppDelegate::setupStatusItem() {
 }
 
 void AppDelegate::observeModelChanges() {
+  // The change is announced before the displays have their names in the new language, so the menu
+  // is built once whoever makes the change has returned.
+  const std::function<void()> rebuild = lifetime_.whileAlive([this] { rebuildMenuAndIcon(); });
   modelCancellable_ = OrvaneAppState::model().appLanguage().observe(
-      lifetime_.whileAlive([this] { rebuildMenuAndIcon(); }));
+      [rebuild] { appkit::MainQueue::async(rebuild); });
 }
 
 void AppDelegate::refreshStatusItemTimerFired() {

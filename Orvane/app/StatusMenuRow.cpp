@@ -3,10 +3,10 @@
 
 #include "Orvane/app/CompactMenuSwitch.hpp"
 #include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/FittedText.hpp"
 #include "Orvane/ui/Image.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
 
 namespace orvane {
 
@@ -15,6 +15,10 @@ using namespace ui;
 namespace {
 
 constexpr double disabledOpacity = 0.45;
+/// How much smaller a long title may become before it is cut: in a wide face "Prevent Dock Pop-Up"
+/// does not fit beside the switch at its full size.
+constexpr double smallestTitleScale = 0.85;
+constexpr double switchSpacing = 3;
 
 /// The row shows by itself whether it is enabled or hovered; pressing changes nothing.
 struct RowButtonStyle {
@@ -41,16 +45,15 @@ View StatusMenuRow::iconBadge() const {
 View StatusMenuRow::content(bool isHovered) const {
   // Rows with a switch never show a highlight, on purpose.
   const bool isHighlighted = isHovered && !isOn;
-  return HStack(8, {iconBadge(),
-                    Text(title)
-                        .font(Font::system(13, Weight::medium))
-                        .foreground(isEnabled ? Color::primary()
-                                              : Color::secondary().opacity(disabledOpacity))
-                        .lineLimit(1)
-                        .frame({.height = 26,
-                                .maximumWidth = infinity,
-                                .alignment = Alignment::leading()}),
-                    isOn ? View(CompactMenuSwitch{*isOn}) : View()})
+  const View line =
+      FittedText(title, smallestTitleScale)
+          .font(Font::system(13, Weight::medium))
+          .foreground(isEnabled ? Color::primary() : Color::secondary().opacity(disabledOpacity))
+          .frame({.height = 26, .maximumWidth = infinity, .alignment = Alignment::leading()})
+          .padding(Edge::leading, 8);
+  return HStack(0, {iconBadge(), line,
+                    isOn ? View(CompactMenuSwitch{*isOn}).padding(Edge::leading, switchSpacing)
+                         : View()})
       .padding(Edges{.leading = 14, .trailing = 8})
       .frame(rowWidth, rowHeight)
       .background(RoundedRectangle(6)
