@@ -121,8 +121,16 @@ TextLayout SyntheticTextMeasurer::layout(const std::string& text, const Font& fo
     const std::size_t feed = rest.find('\n');
     breakParagraph(rest.substr(0, feed), font, allowed, lineLimit, layout);
     const bool isFull = lineLimit > 0 && static_cast<int>(layout.lines.size()) >= lineLimit;
-    if (feed == std::string_view::npos || isFull) {
-      layout.isTruncated = layout.isTruncated || feed != std::string_view::npos;
+    if (feed == std::string_view::npos) {
+      return layout;
+    }
+    if (isFull) {
+      if (!layout.isTruncated) {
+        TextLine& last = layout.lines.back();
+        const std::string kept = last.text;
+        last = truncated(characters(kept, font.size), 0, font.size, allowed);
+        layout.isTruncated = true;
+      }
       return layout;
     }
     rest.remove_prefix(feed + 1);

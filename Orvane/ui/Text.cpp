@@ -12,6 +12,10 @@ namespace orvane::ui {
 
 namespace {
 
+// In points. A stack of its own ideal width hands a text its ideal width back only up to rounding,
+// which must not cut the text.
+constexpr double slack = 1.0e-6;
+
 // What a text node keeps: the layouts made for its present text and font, and the one it has.
 struct TextData {
   struct Known {
@@ -110,7 +114,7 @@ class TextElement final : public Element {
     }
     data.known.reserve(most);
     data.known.push_back(
-        {width, lineLimit, pass.text().layout(text_, data.font, width, lineLimit)});
+        {width, lineLimit, pass.text().layout(text_, data.font, width + slack, lineLimit)});
     return data.known.back().layout;
   }
 

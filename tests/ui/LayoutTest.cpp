@@ -29,6 +29,21 @@ TEST(LayoutTest, aRowPlacesItsChildrenSideBySideInTheMiddleOfTheHost) {
             "a(38.5 5 5 10) bb(51.5 5 10 10)");
 }
 
+TEST(LayoutTest, aRowOfItsOwnIdealWidthCutsNoText) {
+  // Sizes and spacings whose sums are rounded.
+  for (int step = 0; step < 200; ++step) {
+    const double size = 9 + step * 0.07;
+    const View row = HStack(0.1 * step, {Text("ab"), Text("cdefg"), Text("h")})
+                         .font(Font::system(size))
+                         .lineLimit(1);
+    TestHost test;
+    test.show(row.padding(3.3));
+    test.host->setSize(test.host->intrinsicSize());
+    test.host->layoutIfNeeded();
+    EXPECT_EQ(test.drawing().find("…"), std::string::npos) << size;
+  }
+}
+
 TEST(LayoutTest, aColumnAlignsItsChildrenAcross) {
   const std::vector<View> children{Text("a"), Text("bbb")};
   EXPECT_EQ(framesIn(VStack(2, HorizontalAlignment::leading, children), 15, 22),

@@ -48,6 +48,15 @@ TEST(SyntheticTextMeasurerTest, aLimitCutsWithAnEllipsis) {
   EXPECT_EQ(broken("aa bbb c", 15, 2), "aa|bb…|");
 }
 
+TEST(SyntheticTextMeasurerTest, aLimitThatCutsBetweenParagraphsLeavesAnEllipsisToo) {
+  EXPECT_EQ(broken("hello\nyou", unlimited, 1), "hello…|");
+  EXPECT_EQ(broken("hello\nyou", 25, 1), "hell…|");
+  EXPECT_EQ(broken("a\nb\nc", unlimited, 2), "a|b…|");
+  EXPECT_EQ(broken("a\nb", unlimited, 2), "a|b|");
+  EXPECT_EQ(broken("aa bbb\nc", 15, 2), "aa|bb…|");
+  EXPECT_EQ(broken("\nb", unlimited, 1), "…|");
+}
+
 TEST(SyntheticTextMeasurerTest, lineFeedsBreakAndEmptyTextHasOneLine) {
   EXPECT_EQ(broken("a\nb", unlimited), "a|b|");
   EXPECT_EQ(broken("", unlimited), "|");
