@@ -16,9 +16,16 @@ namespace orvane::OrvanePalette {
 [[nodiscard]] ui::Gradient panelOverlayGradient(bool isDark);
 [[nodiscard]] ui::Color secondaryButtonFill(bool isDark, bool isPressed);
 
+/// Of text that is less important. The system's own secondary label is too faint to be read well
+/// on glass: black at 0.5 does not even reach a contrast of 4.5 to 1 on pure white.
+[[nodiscard]] ui::Color secondaryText(bool isDark);
+
 /// The line around the window, around panels and pills, and around small controls.
 [[nodiscard]] ui::Color windowRim(bool isDark);
 [[nodiscard]] ui::Color panelRim(bool isDark);
 [[nodiscard]] ui::Color controlRim(bool isDark);
+
+/// Of a control that cannot be used now.
+inline constexpr double disabledOpacity = 0.5;
 
 }  // namespace orvane::OrvanePalette

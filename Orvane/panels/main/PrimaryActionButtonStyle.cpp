@@ -1,17 +1,12 @@
 // The look of a panel's one main button.
 #include "Orvane/panels/main/PrimaryActionButtonStyle.hpp"
 
+#include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 
 namespace orvane {
 
 using namespace ui;
-
-namespace {
-
-constexpr double disabledOpacity = 0.5;
-
-}  // namespace
 
 View PrimaryActionButtonStyle::body(const ButtonConfiguration& configuration,
                                     const Environment& /*environment*/) const {
@@ -22,7 +17,7 @@ View PrimaryActionButtonStyle::body(const ButtonConfiguration& configuration,
       .height(height)
       .background(
           RoundedRectangle(cornerRadius).fill(configuration.isPressed ? fill.opacity(0.82) : fill))
-      .opacity(configuration.isEnabled ? 1 : disabledOpacity)
+      .opacity(configuration.isEnabled ? 1 : OrvanePalette::disabledOpacity)
       .scale(configuration.isPressed ? 0.995 : 1);
 }
 

@@ -18,6 +18,7 @@ View SecondaryActionButtonStyle::body(const ButtonConfiguration& configuration,
       .background(RoundedRectangle(cornerRadius)
                       .fill(OrvanePalette::secondaryButtonFill(isDark, configuration.isPressed))
                       .stroke(OrvanePalette::controlRim(isDark), 0.8))
+      .opacity(configuration.isEnabled ? 1 : OrvanePalette::disabledOpacity)
       .scale(configuration.isPressed ? 0.99 : 1);
 }
 

@@ -35,6 +35,7 @@ View TitleBarIconButtonStyle::body(const ButtonConfiguration& configuration,
                            .y = shadowDrop})
               .fill(Color::white().opacity(backgroundOpacity(isDark, configuration.isPressed)))
               .stroke(OrvanePalette::panelRim(isDark), 0.7))
+      .opacity(configuration.isEnabled ? 1 : OrvanePalette::disabledOpacity)
       .scale(configuration.isPressed ? 0.96 : 1);
 }
 
