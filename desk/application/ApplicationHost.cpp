@@ -18,8 +18,10 @@ void ApplicationHost::launch() {
   launchedAt_ = machine_.clock.now();
   machine_.process.start();
   OrvaneApp::install();
-  listenToGuard();
   WindowServer::current().application.finishLaunching();
+  // Not before, lest the model came into being earlier than on a Mac. The guard's first messages
+  // are still on their way.
+  listenToGuard();
   machine_.runDue();
 }
 

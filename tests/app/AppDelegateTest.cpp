@@ -1,0 +1,187 @@
+// The application from its launch to its end, by its icon, its windows and what it stores.
+#include <limits>
+
+#include "Orvane/app/OrvaneAppState.hpp"
+#include "tests/app/AppFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using AppDelegateTest = AppFixture;
+
+TEST_F(AppDelegateTest, AFirstLaunchShowsAnOpenLockAndStoresNothing) {
+  attachTwoDisplays();
+  application.launch();
+  EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::accessory);
+  EXPECT_EQ(icon(), "lock.open");
+  EXPECT_TRUE(server().windows().empty());
+  EXPECT_TRUE(machine.userDefaults.values().empty());
+  EXPECT_EQ(machine.runLoop.timerCount(), 1U);
+  EXPECT_FALSE(server().focus.isActive());
+}
+
+TEST_F(AppDelegateTest, TheStatusItemIsASquareWithAnImageOnlyThatMayShrink) {
+  begin();
+  const desk::StatusBarItem* const item = server().statusBar.item();
+  ASSERT_NE(item, nullptr);
+  EXPECT_TRUE(item->hasSquareLength);
+  EXPECT_EQ(item->imagePosition, appkit::ImagePosition::imageOnly);
+  EXPECT_EQ(item->imageScaling, appkit::ImageScaling::proportionallyDown);
+  EXPECT_EQ(item->autosaveName, "Orvane");
+  ASSERT_NE(item->menu, nullptr);
+  EXPECT_TRUE(item->menu->willOpen);
+}
+
+TEST_F(AppDelegateTest, TheIconIsATemplateOfEighteenPointsThatVoiceOverCallsOrvane) {
+  begin();
+  for (const char* const name : {"lock.open", "lock.fill"}) {
+    const desk::SymbolImage& image = *server().statusBar.item()->image;
+    EXPECT_EQ(image.name, name);
+    EXPECT_EQ(image.accessibilityDescription, "Orvane");
+    EXPECT_DOUBLE_EQ(image.pointSize, 16);
+    EXPECT_TRUE(image.isTemplate);
+    EXPECT_DOUBLE_EQ(image.size.width, 18);
+    EXPECT_DOUBLE_EQ(image.size.height, 18);
+    pressRow("Pin Dock");
+    model().refreshDisplays();
+    model().toggleSelectedDisplayLock();
+    machine.advance(1);
+  }
+}
+
+TEST_F(AppDelegateTest, AStoredLockIsRestoredAndItsIconClosedBeforeTheFirstTick) {
+  store("isOrvaneEnabled", true);
+  begin();
+  EXPECT_TRUE(model().isGuardRunning());
+  EXPECT_EQ(icon(), "lock.fill");
+  EXPECT_EQ(machine.runLoop.timerFireCount(), 0);
+  EXPECT_EQ(machine.userDefaults.writeCount("isOrvaneEnabled"), 1) << "the test's own write";
+}
+
+TEST_F(AppDelegateTest, WithoutPermissionALaunchAsksForNothingAndOpensNoWindow) {
+  store("isOrvaneEnabled", true);
+  attachTwoDisplays();
+  application.launch();
+  machine.advance(10);
+  EXPECT_EQ(icon(), "lock.open");
+  EXPECT_TRUE(server().windows().empty());
+  EXPECT_FALSE(server().modal.isRunning());
+  EXPECT_TRUE(machine.links.opened().empty());
+  EXPECT_TRUE(OrvaneSettings::isOrvaneEnabled()) << "the wish stays for the next launch";
+}
+
+TEST_F(AppDelegateTest, AStoredLockWaitsForItsDisplay) {
+  store("isOrvaneEnabled", true);
+  store("selectedDisplayID", std::string("somewhere else"));
+  begin();
+  EXPECT_FALSE(model().isGuardRunning());
+  EXPECT_EQ(icon(), "lock.open");
+}
+
+TEST_F(AppDelegateTest, TheIconFollowsTheGuardWithinASecond) {
+  begin();
+  model().refreshDisplays();
+  model().toggleSelectedDisplayLock();
+  machine.runDue();
+  EXPECT_EQ(icon(), "lock.open") << "nobody but the timer tells the icon";
+  machine.advance(1);
+  EXPECT_EQ(icon(), "lock.fill");
+  desk::detach(machine, 1);
+  machine.runDue();
+  EXPECT_EQ(icon(), "lock.fill");
+  machine.advance(1);
+  EXPECT_EQ(icon(), "lock.open");
+}
+
+TEST_F(AppDelegateTest, TheSameIconAgainChangesNothingOnTheScreen) {
+  begin();
+  machine.advance(3);
+  const long long before = server().updates.changeCount();
+  machine.advance(10);
+  EXPECT_EQ(server().updates.changeCount(), before);
+}
+
+TEST_F(AppDelegateTest, AnotherLanguageRebuildsTheMenuWithTheDisplaysNewNames) {
+  store("appLanguage", std::string("english"));
+  begin();
+  ASSERT_TRUE(openMenu());
+  EXPECT_EQ(row("Display (Main)"), "display | Display (Main) | selected");
+  model().setAppLanguage(OrvaneLanguage::chinese);
+  machine.runDue();
+  EXPECT_TRUE(server().menus.isStatusMenuOpen());
+  EXPECT_EQ(menuText(),
+            "power | 开机自动运行 | off\n-\neye.slash | 防止 Dock 弹出 | off\n"
+            "lock | 固定 Dock | off\n-\n# 选择显示器\n"
+            "display | 内建显示器 （主要） | selected\ndisplay | Studio\n-\n"
+            "macwindow | 打开窗口\ngearshape | 设置\npower | 退出\n");
+}
+
+TEST_F(AppDelegateTest, TheLanguageChosenInTheSettingsWindowRebuildsTheMenuAtOnce) {
+  store("appLanguage", std::string("english"));
+  begin();
+  ASSERT_TRUE(openMenu());
+  ASSERT_TRUE(press("Settings"));
+  ASSERT_TRUE(press("Language", "settings"));
+  ASSERT_TRUE(server().menus.isOpen());
+  ASSERT_TRUE(press("Chinese"));
+  EXPECT_EQ(row("固定 Dock"), "lock | 固定 Dock | off");
+  EXPECT_EQ(row("Pin Dock"), "no row Pin Dock");
+}
+
+TEST_F(AppDelegateTest, TheSameLanguageAgainRebuildsNothing) {
+  store("appLanguage", std::string("english"));
+  begin();
+  const auto menu = server().statusBar.item()->menu;
+  const auto before = menu->items.front().view->implementation();
+  model().setAppLanguage(OrvaneLanguage::english);
+  machine.advance(2);
+  EXPECT_EQ(menu->items.front().view->implementation(), before);
+  model().setAppLanguage(OrvaneLanguage::system);
+  machine.runDue();
+  EXPECT_NE(menu->items.front().view->implementation(), before);
+}
+
+TEST_F(AppDelegateTest, OpeningItAgainBringsTheMainWindowForward) {
+  begin();
+  application.reopen();
+  ASSERT_TRUE(desk::Surfaces(server()).isThere("main"));
+  const auto window = desk::Surfaces(server()).window("main");
+  EXPECT_EQ(server().focus.keyWindow(), window);
+  server().miniaturize(window);
+  application.reopen();
+  EXPECT_EQ(desk::Surfaces(server()).window("main"), window);
+}
+
+TEST_F(AppDelegateTest, TheOneModelIsSharedByEveryone) {
+  begin();
+  EXPECT_EQ(&OrvaneAppState::model(), &model());
+}
+
+TEST_F(AppDelegateTest, QuittingLeavesTheWishForTheNextLaunch) {
+  begin();
+  model().refreshDisplays();
+  model().toggleSelectedDisplayLock();
+  application.terminate();
+  EXPECT_FALSE(application.isRunning());
+  EXPECT_EQ(machine.runLoop.timerCount(), 0U);
+  EXPECT_EQ(server().statusBar.item(), nullptr);
+  EXPECT_EQ(machine.userDefaults.value("isOrvaneEnabled"), desk::PropertyValue(true));
+  application.launch();
+  EXPECT_TRUE(model().isGuardRunning());
+  EXPECT_EQ(icon(), "lock.fill");
+}
+
+TEST_F(AppDelegateTest, ACrashWhileLockedLeavesTheWishToo) {
+  begin();
+  model().refreshDisplays();
+  model().toggleHideDockOnAllDisplays();
+  application.crash();
+  machine.advance(5);
+  application.launch();
+  EXPECT_TRUE(model().isGuardRunning());
+  EXPECT_EQ(icon(), "lock.fill");
+  EXPECT_EQ(model().guardService().cachedTriggerZones().size(), 2U);
+}
+
+}  // namespace
+}  // namespace orvane
