@@ -96,6 +96,10 @@ bool Links::note(std::string url, bool isFile) {
       refusedPrefixes_.begin(), refusedPrefixes_.end(),
       [&url](const std::string& prefix) { return url.compare(0, prefix.size(), prefix) == 0; });
   opened_.push_back({std::move(url), isFile, !isRefused});
+  if (told_) {
+    const Opened link = opened_.back();
+    told_(link);
+  }
   return !isRefused;
 }
 

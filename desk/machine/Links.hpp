@@ -1,8 +1,10 @@
 // Links and files that the application asked to have opened.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orvane::desk {
@@ -29,6 +31,9 @@ class Links {
   /// Everything asked for since the machine was switched on, in order.
   [[nodiscard]] const std::vector<Opened>& opened() const { return opened_; }
 
+  /// Called after each of them, for the program that a link belongs to.
+  void onOpened(std::function<void(const Opened& link)> opened) { told_ = std::move(opened); }
+
   [[nodiscard]] static bool formsURL(std::string_view text);
   [[nodiscard]] static std::string fileURL(std::string_view absolutePath);
 
@@ -37,6 +42,7 @@ class Links {
 
   std::vector<std::string> refusedPrefixes_;
   std::vector<Opened> opened_;
+  std::function<void(const Opened&)> told_;
 };
 
 }  // namespace orvane::desk

@@ -9,13 +9,33 @@ namespace orvane::desk {
 class Permission {
  public:
   [[nodiscard]] bool isTrusted() const { return isTrusted_; }
+  /// Whether the system's list of applications shows the application, allowed or not.
+  [[nodiscard]] bool isListed() const { return isListed_; }
 
   void setTrusted(bool trusted) {
     const bool lost = isTrusted_ && !trusted;
     isTrusted_ = trusted;
+    if (trusted) {
+      isListed_ = true;
+      isKnown_ = true;
+    }
     if (lost && lost_) {
       lost_();
     }
+  }
+
+  /// The application has asked for the permission: the first time this brings it into the list. One
+  /// that its user has taken out of the list does not come back by asking.
+  void noteAsked() {
+    isListed_ = isListed_ || !isKnown_;
+    isKnown_ = true;
+  }
+
+  /// Takes the application out of the list, and the permission with it.
+  void unlist() {
+    isListed_ = false;
+    isKnown_ = true;
+    setTrusted(false);
   }
 
   /// Called when a permission that was there is taken away.
@@ -23,6 +43,8 @@ class Permission {
 
  private:
   bool isTrusted_ = false;
+  bool isListed_ = false;
+  bool isKnown_ = false;
   std::function<void()> lost_;
 };
 

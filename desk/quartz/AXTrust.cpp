@@ -3,5 +3,7 @@
 #include "desk/machine/Machine.hpp"
 
 Boolean AXIsProcessTrusted() {
-  return orvane::desk::Machine::current().permission.isTrusted() ? 1 : 0;
+  orvane::desk::Permission& permission = orvane::desk::Machine::current().permission;
+  permission.noteAsked();
+  return permission.isTrusted() ? 1 : 0;
 }

@@ -14,9 +14,14 @@ using appkit::StyleMask::titled;
 constexpr double titledCornerRadius = 10;
 constexpr double closeButtonSize = 12;
 constexpr double closeButtonMargin = 8;
+constexpr double tallCloseButtonMargin = 20;
+
+bool hasTitleBarOnTop(std::uint64_t styleMask) {
+  return (styleMask & titled) != 0 && (styleMask & DeskWindow::fullSizeContentView) == 0;
+}
 
 CGRect frameFor(CGRect contentRect, std::uint64_t styleMask) {
-  if ((styleMask & titled) != 0) {
+  if (hasTitleBarOnTop(styleMask)) {
     contentRect.size.height += DeskWindow::titleBarHeight;
   }
   return contentRect;
@@ -51,7 +56,7 @@ bool DeskWindow::canBecomeMain() const {
 
 CGRect DeskWindow::contentFrame() const {
   CGRect area = frame;
-  if (hasStyle(titled)) {
+  if (hasTitleBarOnTop(styleMask)) {
     area.size.height -= titleBarHeight;
   }
   return area;
@@ -82,12 +87,16 @@ bool DeskWindow::contains(CGPoint place) const {
 }
 
 bool DeskWindow::isInTitleBar(CGPoint place) const {
-  return hasStyle(titled) && contains(place) && contentPoint(place).y < 0;
+  const double reach = hasTitleBarOnTop(styleMask) ? 0 : tallTitleBarHeight;
+  return hasStyle(titled) && contains(place) && contentPoint(place).y < reach;
 }
 
 std::optional<ui::Rect> DeskWindow::closeButton() const {
   if (!hasStyle(titled) || !hasStyle(appkit::StyleMask::closable)) {
     return std::nullopt;
+  }
+  if (hasStyle(fullSizeContentView)) {
+    return ui::Rect{tallCloseButtonMargin, tallCloseButtonMargin, closeButtonSize, closeButtonSize};
   }
   return ui::Rect{closeButtonMargin, (titleBarHeight - closeButtonSize) / 2, closeButtonSize,
                   closeButtonSize};

@@ -24,6 +24,10 @@ enum class WindowOwner : std::uint8_t { application, system };
 struct DeskWindow {
   /// The height of a title bar, in points.
   static constexpr double titleBarHeight = 28;
+  /// The same above content that reaches to the top of the window, as tall as with a toolbar.
+  static constexpr double tallTitleBarHeight = 52;
+  /// The value of NSWindowStyleMaskFullSizeContentView.
+  static constexpr std::uint64_t fullSizeContentView = 1U << 15;
 
   DeskWindow(appkit::WindowKind kindOfWindow, CGRect contentRect, std::uint64_t mask);
   DeskWindow(const DeskWindow&) = delete;
@@ -40,7 +44,7 @@ struct DeskWindow {
   [[nodiscard]] bool canBecomeKey() const;
   [[nodiscard]] bool canBecomeMain() const;
 
-  /// The frame without the title bar.
+  /// The frame without the title bar; all of it where the content reaches to the top.
   [[nodiscard]] CGRect contentFrame() const;
   /// From the top left of the content, as the content counts.
   [[nodiscard]] ui::Point contentPoint(CGPoint place) const;
@@ -48,6 +52,7 @@ struct DeskWindow {
   [[nodiscard]] ui::Shape outline() const;
   /// Whether the window is there at this place; the corners that are cut away are not.
   [[nodiscard]] bool contains(CGPoint place) const;
+  /// Also where content lies below the title bar.
   [[nodiscard]] bool isInTitleBar(CGPoint place) const;
   /// The place of the close button from the frame's top left; none without one.
   [[nodiscard]] std::optional<ui::Rect> closeButton() const;

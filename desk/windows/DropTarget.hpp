@@ -13,6 +13,9 @@ struct DropTarget {
   /// Whether a file may be dropped there.
   std::function<bool(ui::Point place)> accepts;
   std::function<void(ui::Point place, const std::string& fileUrl)> drop;
+  /// Told when a dragged file comes to where it may be dropped (true), and when it leaves. May be
+  /// unset.
+  std::function<void(bool isOver)> hover = {};
 };
 
 }  // namespace orvane::desk

@@ -16,6 +16,8 @@ ui::Appearance appearanceOf(const Machine& machine) {
   ui::Appearance appearance;
   appearance.dark = chosen.isDark;
   appearance.reduceMotion = chosen.reducesMotion;
+  appearance.reduceTransparency = chosen.reducesTransparency;
+  appearance.increaseContrast = chosen.increasesContrast;
   if (chosen.accent != Appearance::Accent{}) {
     appearance.accent = ui::Rgba{chosen.accent.red / 255.0, chosen.accent.green / 255.0,
                                  chosen.accent.blue / 255.0, 1};
@@ -72,6 +74,9 @@ void HostedView::update() {
   }
   isUpdating_ = true;
   host_.setAppearance(appearanceOf(*machine));
+  if (willUpdate) {
+    willUpdate();
+  }
   host_.tick(machine->clock.mediaTime());
   isUpdating_ = false;
   // Views that never come to rest go on with the next frame.

@@ -49,6 +49,8 @@ class HostedView : public std::enable_shared_from_this<HostedView> {
   /// Whether the blurred picture of what is behind the window lies behind the views.
   bool hasBackdrop = false;
   std::function<void()> dismiss;
+  /// Called before each update, for content that follows what nobody announces; it may invalidate.
+  std::function<void()> willUpdate;
   /// What it has drawn so far, for whoever shows it.
   ContentPicture picture;
 

@@ -65,6 +65,7 @@ void PointerRouter::refresh() {
 
 void PointerRouter::pointerMovedTo(CGPoint place) {
   if (fileDrag_) {
+    showDropAt(dropWindowAt(place));
     server_.updates.request();
     return;
   }
@@ -128,14 +129,13 @@ void PointerRouter::pressInWindow(const std::shared_ptr<DeskWindow>& window, CGP
   const CGPoint windowPlace = server_.machine().displays.flipped(place);
   if (isOnCloseButton(server_, *window, place)) {
     pressedCloseButton_ = window;
-  } else if (window->isInTitleBar(windowPlace)) {
-    beginWindowDrag(window, place);
   } else if (const std::optional<Target> target = targetAt(place)) {
     press(*target);
-    if (pressed_.expired() && window->isMovableByBackground) {
+    const bool movesWindow = window->isMovableByBackground || window->isInTitleBar(windowPlace);
+    if (pressed_.expired() && movesWindow) {
       beginWindowDrag(window, place);
     }
-  } else if (window->isMovableByBackground) {
+  } else if (window->isMovableByBackground || window->isInTitleBar(windowPlace)) {
     beginWindowDrag(window, place);
   }
 }
@@ -185,6 +185,7 @@ void PointerRouter::wheelTurnedAt(CGPoint place, double horizontal, double verti
 }
 
 void PointerRouter::cancelPress() {
+  showDropAt(nullptr);
   windowDrag_.reset();
   fileDrag_.reset();
   pressedCloseButton_.reset();
@@ -230,6 +231,19 @@ std::shared_ptr<DeskWindow> PointerRouter::dropWindowAt(CGPoint place) const {
   return window->dropTarget->accepts(point) ? window : nullptr;
 }
 
+void PointerRouter::showDropAt(const std::shared_ptr<DeskWindow>& window) {
+  const auto before = dropShownIn_.lock();
+  if (before == window) {
+    return;
+  }
+  dropShownIn_ = window;
+  for (const auto& [changed, isOver] : {std::pair(before, false), std::pair(window, true)}) {
+    if (changed != nullptr && changed->dropTarget && changed->dropTarget->hover) {
+      changed->dropTarget->hover(isOver);
+    }
+  }
+}
+
 bool PointerRouter::canDropHere() const {
   return fileDrag_ && (fileDrag_->operations & FileDrag::copyOperation) != 0 &&
          dropWindowAt(server_.machine().pointer.place()) != nullptr;
@@ -238,6 +252,7 @@ bool PointerRouter::canDropHere() const {
 void PointerRouter::drop(CGPoint place) {
   const auto window = canDropHere() ? dropWindowAt(place) : nullptr;
   const FileDrag drag = *std::exchange(fileDrag_, std::nullopt);
+  showDropAt(nullptr);
   server_.updates.request();
   if (window != nullptr) {
     const ui::Point point = window->contentPoint(server_.machine().displays.flipped(place));

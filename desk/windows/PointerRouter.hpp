@@ -67,6 +67,9 @@ class PointerRouter : public PointerListener {
   void beginWindowDrag(const std::shared_ptr<DeskWindow>& window, CGPoint place);
   void dragWindow(CGPoint place);
   void drop(CGPoint place);
+  /// Tells the window that it would take the file, and the one before that it would not. Null for
+  /// none.
+  void showDropAt(const std::shared_ptr<DeskWindow>& window);
 
   WindowServer& server_;
   std::weak_ptr<HostedView> hovered_;
@@ -74,6 +77,7 @@ class PointerRouter : public PointerListener {
   std::optional<WindowDrag> windowDrag_;
   std::optional<FileDrag> fileDrag_;
   std::weak_ptr<DeskWindow> pressedCloseButton_;
+  std::weak_ptr<DeskWindow> dropShownIn_;
 };
 
 }  // namespace orvane::desk

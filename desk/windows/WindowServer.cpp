@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "Orvane/platform/appkit/Screen.hpp"
+#include "desk/canvas/ApplicationImages.hpp"
 
 namespace orvane::desk {
 
@@ -26,9 +27,20 @@ double overlapArea(const CGRect& first, const CGRect& second) {
 
 }  // namespace
 
-WindowServer::WindowServer(Machine& machine) : machine_(machine) {}
+WindowServer::WindowServer(Machine& machine) : machine_(machine) {
+  addApplicationImages(resources_.images);
+  machine.links.onOpened([this](const Links::Opened& link) { systemSettings.linkOpened(link); });
+}
 
-WindowServer::~WindowServer() = default;
+WindowServer::~WindowServer() {
+  machine_.links.onOpened(nullptr);
+  // Views that end later must not ask for a server that is no more.
+  for (const Window& window : windows()) {
+    if (window->content != nullptr) {
+      window->content->setOnScreen(false);
+    }
+  }
+}
 
 WindowServer& WindowServer::current() {
   Machine& machine = Machine::current();

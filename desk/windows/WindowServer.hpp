@@ -11,6 +11,7 @@
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/machine/Companion.hpp"
 #include "desk/machine/Machine.hpp"
+#include "desk/settings/SystemSettings.hpp"
 #include "desk/windows/DeskWindow.hpp"
 #include "desk/windows/MenuTracker.hpp"
 #include "desk/windows/ModalSessions.hpp"
@@ -101,6 +102,7 @@ class WindowServer : public Companion {
   MenuTracker menus{*this};
   Tooltips tooltips{*this};
   PointerRouter pointer{*this};
+  SystemSettings systemSettings{*this};
   /// What was spoken to users of a screen reader.
   std::vector<std::string> announcements;
 };

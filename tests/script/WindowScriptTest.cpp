@@ -66,9 +66,10 @@ TEST(WindowScriptTest, TheAlertLeadsToTheGuideAndTheGuideToTheLock) {
              "launch\ndo refreshDisplays\ndo toggleSelectedDisplayLock\n"
              "expect windows.0.surface \"alert\"\nexpect windows.0.modal true\n"
              "expect windows.0.level 8\nexpect windows.0.styleMask 3\n"
-             "key return\nexpect windows.# 0\nexpect opened.# 1\n"
-             "advance 2\nexpect windows.0.surface \"guide\"\nexpect windows.0.level 25\n"
-             "expect windows.0.collectionBehavior 131346\nexpect windows.0.key false\n"
+             "key return\nexpect windows.# 1\nexpect windows.0.surface \"system\"\n"
+             "expect opened.# 1\n"
+             "advance 2\nexpect windows.1.surface \"guide\"\nexpect windows.1.level 25\n"
+             "expect windows.1.collectionBehavior 131346\nexpect windows.1.key false\n"
              "trust on\nadvance 1\nexpect guide.state \"success\"\nexpect guide.visible true\n"
              "expect model.status \"locked\"\nadvance 1.5\nexpect guide.visible false\n");
 }

@@ -1,0 +1,90 @@
+// Orvane is read from the machine's permission every time, because scripts and the hardware panel
+// change it too.
+#include "desk/settings/AccessibilityList.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace orvane::desk {
+
+namespace {
+
+/// What is installed on this Mac and could want the permission.
+constexpr std::array<const char*, 4> installedApplications{
+    AccessibilityList::orvane, "Pointer Lens", "Remote Help", "Text Macros"};
+
+}  // namespace
+
+std::vector<AccessibilityList::Entry> AccessibilityList::entries() const {
+  std::vector<Entry> all;
+  for (const auto& [name, isAllowed] : others_) {
+    all.push_back({name, isAllowed});
+  }
+  if (permission_.isListed()) {
+    all.push_back({orvane, permission_.isTrusted()});
+  }
+  std::ranges::sort(all, {}, &Entry::name);
+  return all;
+}
+
+std::vector<std::string> AccessibilityList::applicationsNotListed() const {
+  const std::vector<Entry> listed = entries();
+  std::vector<std::string> missing;
+  for (const char* const name : installedApplications) {
+    if (std::ranges::find(listed, name, &Entry::name) == listed.end()) {
+      missing.emplace_back(name);
+    }
+  }
+  return missing;
+}
+
+void AccessibilityList::setAllowed(const std::string& name, bool isAllowed) {
+  if (name == orvane) {
+    if (permission_.isListed()) {
+      permission_.setTrusted(isAllowed);
+    }
+    return;
+  }
+  const auto other = others_.find(name);
+  if (other != others_.end()) {
+    other->second = isAllowed;
+  }
+}
+
+void AccessibilityList::add(const std::string& name) {
+  if (name == orvane) {
+    permission_.setTrusted(true);
+  } else {
+    others_[name] = true;
+  }
+}
+
+void AccessibilityList::remove(const std::string& name) {
+  if (name == orvane) {
+    permission_.unlist();
+  } else {
+    others_.erase(name);
+  }
+}
+
+std::string AccessibilityList::applicationOf(const std::string& fileUrl) {
+  constexpr std::string_view scheme = "file:";
+  constexpr std::string_view suffix = ".app";
+  std::string_view path = fileUrl;
+  if (!path.starts_with(scheme)) {
+    return {};
+  }
+  while (path.ends_with('/')) {
+    path.remove_suffix(1);
+  }
+  if (!path.ends_with(suffix)) {
+    return {};
+  }
+  path.remove_suffix(suffix.size());
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string_view::npos ? std::string() : std::string(path.substr(slash + 1));
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,93 @@
+// Each application has a row to select it by and a switch; below them the list has its two buttons.
+#include "desk/settings/AccessibilityPage.hpp"
+
+#include <string>
+#include <vector>
+
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+#include "desk/settings/ApplicationIcon.hpp"
+#include "desk/settings/SettingsButtonStyle.hpp"
+#include "desk/settings/SettingsGroup.hpp"
+#include "desk/settings/SettingsPages.hpp"
+#include "desk/settings/SettingsSwitch.hpp"
+#include "desk/settings/SystemSettings.hpp"
+#include "desk/settings/SystemSettingsView.hpp"
+
+namespace orvane::desk {
+
+using namespace ui;
+
+namespace {
+
+View smallButton(const std::string& symbol, const std::string& label,
+                 const std::function<void()>& action, bool isUseful) {
+  return Button(action, Symbol(symbol).font(Font::system(11, Weight::semibold)).frame(26, 24))
+      .style(SettingsButtonStyle{.fadesWhenDisabled = !isUseful})
+      .accessibilityLabel(label)
+      .disabled(!isUseful);
+}
+
+}  // namespace
+
+View AccessibilityPage::row(const AccessibilityList::Entry& entry) const {
+  constexpr double rowHeight = 40;
+  const bool isSelected = settings->state().selected == entry.name;
+  const View label =
+      HStack(8, {ApplicationIcon{entry.name, 28}, Text(entry.name).lineLimit(1), Spacer()})
+          .padding(Edges{.leading = 10})
+          .height(rowHeight);
+  const View selecting =
+      Button([settings = settings, name = entry.name] { settings->select(name); }, label)
+          .style(SettingsButtonStyle{})
+          .accessibilityRole(Role::radioButton)
+          .accessibilityLabel(settings->language().text("Select ", "选择 ") + entry.name)
+          .accessibilitySelected(isSelected);
+  const View allowing = View(SettingsSwitch{entry.name, entry.isAllowed,
+                                            [settings = settings, entry] {
+                                              settings->setAllowed(entry.name, !entry.isAllowed);
+                                            }})
+                            .padding(Edges::horizontal(10));
+  const View highlight =
+      Rectangle().fill(isSelected ? Color::primary().opacity(0.1) : Color::clear());
+  return HStack(0, {selecting, allowing}).background(highlight).id(entry.name);
+}
+
+View AccessibilityPage::buttons(const Environment& /*environment*/) const {
+  const SystemLanguage language = settings->language();
+  const bool hasSelection = !settings->state().selected.empty();
+  const View line = Rectangle().fill(Color::tertiary()).frame(1, 14).accessibilityHidden();
+  return HStack(0, {smallButton(
+                        "plus", language.text("Add", "添加"),
+                        [settings = settings] { settings->beginChoosing(); }, true),
+                    line,
+                    smallButton(
+                        "minus", language.text("Remove", "移除"),
+                        [settings = settings] { settings->removeSelected(); }, hasSelection),
+                    Spacer()})
+      .padding(Edges::horizontal(4))
+      .height(28);
+}
+
+View AccessibilityPage::body(const Environment& environment) const {
+  const SystemLanguage language = settings->language();
+  std::vector<View> rows;
+  for (const AccessibilityList::Entry& entry : settings->applications().entries()) {
+    rows.push_back(row(entry));
+  }
+  rows.push_back(buttons(environment));
+  const View explanation =
+      Text(language.text("Allow the applications below to control your computer.",
+                         "允许以下应用程序控制你的电脑。"))
+          .padding(Edges{.leading = 2, .bottom = 10});
+  const View list = View(SettingsGroup{rows, 46, settings->state().isDragOver})
+                        .accessibilityLabel(SystemSettingsView::listLabel(language));
+  return titledPageBelow(*settings, SettingsPage::privacy,
+                         language.text("Accessibility", "辅助功能"),
+                         VStack(0, HorizontalAlignment::leading, {explanation, list}));
+}
+
+}  // namespace orvane::desk

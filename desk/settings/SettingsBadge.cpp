@@ -1,0 +1,20 @@
+// The coloured plate with a white symbol before a row of the System Settings.
+#include "desk/settings/SettingsBadge.hpp"
+
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+
+namespace orvane::desk {
+
+using namespace ui;
+
+View SettingsBadge::body(const Environment& /*environment*/) const {
+  return Symbol(symbol)
+      .font(Font::system(side * 0.6, Weight::medium))
+      .foreground(Color::white())
+      .frame(side, side)
+      .background(RoundedRectangle(side * 0.25).fill(Gradient::system(color)))
+      .accessibilityHidden();
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,30 @@
+// The language of the system's own programs.
+#include <gtest/gtest.h>
+
+#include "desk/settings/SystemLanguage.hpp"
+
+namespace orvane::desk {
+namespace {
+
+bool isChinese(std::vector<std::string> preferred) {
+  return SystemLanguage::of({std::move(preferred), "en_US"}).isChinese();
+}
+
+TEST(SystemLanguageTest, TheFirstOfTheTwoLanguagesCounts) {
+  EXPECT_TRUE(isChinese({"zh-Hans-CN", "en-US"}));
+  EXPECT_FALSE(isChinese({"en-US", "zh-Hans-CN"}));
+  EXPECT_TRUE(isChinese({"fr-FR", "zh_TW"}));
+}
+
+TEST(SystemLanguageTest, WithoutEitherItIsEnglish) {
+  EXPECT_FALSE(isChinese({}));
+  EXPECT_FALSE(isChinese({"fr-FR", "zhx"}));
+}
+
+TEST(SystemLanguageTest, ATextIsChosenByIt) {
+  EXPECT_EQ(SystemLanguage::of({{"zh"}, ""}).text("Back", "返回"), "返回");
+  EXPECT_EQ(SystemLanguage::of({{"en"}, ""}).text("Back", "返回"), "Back");
+}
+
+}  // namespace
+}  // namespace orvane::desk
