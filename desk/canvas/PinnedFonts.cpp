@@ -131,7 +131,8 @@ std::optional<std::string> missingFontsMessage() {
   std::string missing;
   for (const Face& face : requiredFaces) {
     if (filesOf(face).empty()) {
-      missing += (missing.empty() ? "" : ", ") + std::string(face.family) + " " + face.description;
+      missing.append(missing.empty() ? "" : ", ");
+      missing.append(face.family).append(" ").append(face.description);
     }
   }
   if (missing.empty()) {
