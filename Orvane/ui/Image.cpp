@@ -12,6 +12,8 @@ namespace orvane::ui {
 
 namespace {
 
+constexpr const char* darkSuffix = "-dark";
+
 class ImageElement final : public Element {
  public:
   ImageElement(std::string name, std::optional<ContentMode> mode)
@@ -31,14 +33,19 @@ class ImageElement final : public Element {
     return scaled(*natural, proposal);
   }
 
-  void draw(const Node&, const DrawContext& context) const override {
+  void draw(const Node& node, const DrawContext& context) const override {
     const Rect rect = context.snapped(context.rect);
     if (!rect.isEmpty()) {
-      context.canvas.image(name_, rect);
+      context.canvas.image(shownName(*node.environment), rect);
     }
   }
 
  private:
+  std::string shownName(const Environment& environment) const {
+    const std::string dark = name_ + darkSuffix;
+    return environment.isDark() && environment.hasImage(dark) ? dark : name_;
+  }
+
   Size scaled(Size natural, const Proposal& proposal) const {
     // A side that is not limited does not limit the scale.
     const auto ratio = [](std::optional<double> offered, double own) -> std::optional<double> {

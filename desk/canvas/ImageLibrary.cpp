@@ -57,6 +57,14 @@ bool ImageLibrary::add(const std::string& name, std::span<const std::uint8_t> by
     }
   }
   picture.size = size.value_or(own);
+  return keep(name, std::move(picture));
+}
+
+bool ImageLibrary::addPixels(const std::string& name, SurfacePointer pixels, ui::Size size) {
+  return pixels != nullptr && keep(name, Picture{size, std::move(pixels), nullptr});
+}
+
+bool ImageLibrary::keep(const std::string& name, Picture picture) {
   if (!(picture.size.width > 0) || !(picture.size.height > 0)) {
     return false;
   }

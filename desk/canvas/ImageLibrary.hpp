@@ -24,6 +24,8 @@ class ImageLibrary {
   /// size. The size in points is what is given, else the picture's own in pixels.
   bool add(const std::string& name, std::span<const std::uint8_t> bytes,
            std::optional<ui::Size> size = std::nullopt);
+  /// The same with a decoded picture, which must not be changed any more, and its size in points.
+  bool addPixels(const std::string& name, SurfacePointer pixels, ui::Size size);
 
   /// Forgets a picture; an unknown name changes nothing.
   void remove(const std::string& name);
@@ -45,6 +47,7 @@ class ImageLibrary {
   };
   using PixelSize = std::pair<int, int>;
 
+  bool keep(const std::string& name, Picture picture);
   /// The picture at a size in pixels: a drawing is drawn for it and the result kept, pixels are
   /// halved as often as that leaves them no smaller, which keeps a strong reduction smooth.
   cairo_surface_t* pixelsFor(const std::string& name, Picture& picture, PixelSize wanted);

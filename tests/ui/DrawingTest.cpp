@@ -140,6 +140,19 @@ TEST(DrawingTest, symbolsAndImagesAreDrawnByName) {
   EXPECT_EQ(drawn(Image("photo").resizable(), {12, 12}), "image photo (0 0 12 12)\n");
 }
 
+TEST(DrawingTest, inTheDarkAnImageIsReplacedByItsDarkTwin) {
+  TestHost test({12, 12});
+  test.show(Image("photo").resizable());
+  Appearance dark;
+  dark.dark = true;
+  test.host->setAppearance(dark);
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(test.drawing(), "image photo-dark (0 0 12 12)\n");
+  EXPECT_FALSE(test.host->takeDirtyRects().empty());
+  test.show(Image("alone").resizable());
+  EXPECT_EQ(test.drawing(), "image alone (0 0 12 12)\n");
+}
+
 class DirtyTest : public testing::Test {
  protected:
   std::vector<Rect> dirtyAfterUpdate() {
