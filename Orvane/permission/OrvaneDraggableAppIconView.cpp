@@ -6,6 +6,8 @@
 
 #include "Orvane/platform/appkit/Bundle.hpp"
 #include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
 
 namespace orvane {
 
@@ -14,8 +16,9 @@ using namespace ui;
 View OrvaneDraggableAppIconView::body(const Environment& environment) const {
   // Without an image there is nothing to drag.
   const bool hasImage = environment.hasImage("AppIcon");
-  return Image("AppIcon")
-      .resizable(ContentMode::fit)
+  // All of the view takes the press, so that the window stays where it is, beside an image of other
+  // proportions and without one as well.
+  return ZStack({Rectangle().fill(Color::clear()), Image("AppIcon").resizable(ContentMode::fit)})
       .dragSource([hasImage]() -> std::optional<DragItem> {
         const std::optional<std::string> bundle = appkit::Bundle::url();
         if (!hasImage || !bundle) {

@@ -119,6 +119,7 @@ void OrvanePermissionGuideWindowController::positionGuideWindow() {
 }
 
 void OrvanePermissionGuideWindowController::startChecking() {
+  checkTimer_.reset();
   startTime_ = CFAbsoluteTimeGetCurrent();
   checkTimer_ = appkit::Timer::repeating(pollSeconds, appkit::RunLoopMode::standard,
                                          lifetime_.whileAlive([this] { check(); }));
