@@ -2,6 +2,6 @@
 find_package(CLI11 REQUIRED)
 
 add_executable(orvane-desk Main.cpp)
-target_link_libraries(orvane-desk PRIVATE orvane_desk_script orvane_desk_tour orvane_desk_window
-                                          CLI11::CLI11)
+target_link_libraries(orvane-desk PRIVATE orvane_desk_gallery orvane_desk_script orvane_desk_tour
+                                          orvane_desk_window CLI11::CLI11)
 set_target_properties(orvane-desk PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}")

@@ -1,4 +1,5 @@
-// The program of the desk: the simulated Mac in a window, under a script, or on a tour.
+// The program of the desk: the simulated Mac in a window, under a script, or on a tour; and the
+// gallery of the application's components.
 #include <iostream>
 #include <string>
 #include <utility>
@@ -8,6 +9,7 @@
 
 #include "desk/desktop/DesktopPicture.hpp"
 #include "desk/desktop/SurfacePicture.hpp"
+#include "desk/gallery/RunGallery.hpp"
 #include "desk/script/ScriptProgram.hpp"
 #include "desk/tour/RunTour.hpp"
 #include "desk/window/RunWindow.hpp"
@@ -63,6 +65,11 @@ int main(int argumentCount, char** arguments) {
   std::string folder;
   tour->add_option("DIR", folder, "Where the pictures go")->required();
 
+  CLI::App* const gallery =
+      program.add_subcommand("gallery", "Show every component in every state in pictures");
+  std::string galleryFolder;
+  gallery->add_option("DIR", galleryFolder, "Where the pictures go")->required();
+
   program.require_subcommand(0, 1);
   try {
     program.parse(argumentCount, arguments);
@@ -74,6 +81,9 @@ int main(int argumentCount, char** arguments) {
   }
   if (tour->parsed()) {
     return orvane::desk::runTour(folder);
+  }
+  if (gallery->parsed()) {
+    return orvane::desk::runGallery(galleryFolder);
   }
   if (dump->count() > 0) {
     window.dumpFile = dumpFile;

@@ -1,0 +1,36 @@
+// Specimen is one component of the gallery, alive in a view host of its own and brought into a
+// state by the same events that would bring it there in a window.
+#pragma once
+
+#include <memory>
+
+#include "Orvane/ui/ViewHost.hpp"
+#include "desk/canvas/CairoCanvas.hpp"
+#include "desk/gallery/GallerySheet.hpp"
+
+namespace orvane::desk {
+
+class Specimen {
+ public:
+  /// Around the component, for shadows and focus rings, in points.
+  static constexpr double margin = 14;
+
+  /// Measurer and resources have to outlive the specimen. Texts that follow the stored setting come
+  /// in the language that is stored on the current machine.
+  Specimen(const GalleryItem& item, OrvaneLanguage language, bool isDark, ui::TextMeasurer& text,
+           DrawingResources& resources);
+
+  /// In points, with the margin on all sides.
+  [[nodiscard]] ui::Size size() const { return host_->size(); }
+  [[nodiscard]] const ui::ViewHost& host() const { return *host_; }
+
+  /// Paints it with its top left there, in the canvas' coordinates.
+  void paint(CairoCanvas& canvas, ui::Point corner) const;
+
+ private:
+  void use(Hand hand);
+
+  std::unique_ptr<ui::ViewHost> host_;
+};
+
+}  // namespace orvane::desk

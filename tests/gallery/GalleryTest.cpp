@@ -1,0 +1,127 @@
+// The gallery shows what it says: every state is really reached, and both languages are there.
+#include <algorithm>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "desk/canvas/PangoTextMeasurer.hpp"
+#include "desk/canvas/PngFile.hpp"
+#include "desk/gallery/GallerySheet.hpp"
+#include "desk/gallery/SheetPainter.hpp"
+#include "desk/gallery/Specimen.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+class GalleryTest : public MachineFixture {
+ protected:
+  std::vector<std::uint8_t> pictureOf(const GalleryItem& item, OrvaneLanguage language,
+                                      bool isDark = false) {
+    machine.userDefaults.set(OrvaneLanguage::defaultsKey, std::string(language.rawValue()));
+    const Specimen specimen(item, language, isDark, text, resources);
+    const SurfacePointer surface(
+        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(specimen.size().width) + 1,
+                                   static_cast<int>(specimen.size().height) + 1));
+    CairoCanvas canvas(surface.get(), 1, resources);
+    specimen.paint(canvas, {0, 0});
+    return encodePng(surface.get());
+  }
+  std::vector<std::uint8_t> pictureOf(const GalleryItem& item) {
+    return pictureOf(item, OrvaneLanguage::english);
+  }
+
+  static const GalleryItem& item(const GallerySheet& sheet, const std::string& caption) {
+    return *std::ranges::find(sheet.items, caption, &GalleryItem::caption);
+  }
+
+  PangoTextMeasurer text;
+  DrawingResources resources;
+};
+
+TEST_F(GalleryTest, everySheetHasANameOfItsOwn) {
+  std::set<std::string> names;
+  for (const GallerySheet& sheet : gallerySheets()) {
+    EXPECT_TRUE(names.insert(sheet.name).second) << sheet.name;
+    EXPECT_FALSE(sheet.items.empty()) << sheet.name;
+  }
+}
+
+TEST_F(GalleryTest, aHandThatPressesOrTabsIsSeen) {
+  int seen = 0;
+  for (const GallerySheet& sheet : gallerySheets()) {
+    for (GalleryItem item : sheet.items) {
+      if (item.hand == Hand::pressing || item.hand == Hand::tabbing) {
+        const auto used = pictureOf(item);
+        item.hand = Hand::away;
+        EXPECT_NE(used, pictureOf(item)) << sheet.name << ": " << item.caption;
+        ++seen;
+      }
+    }
+  }
+  EXPECT_GE(seen, 20);
+}
+
+TEST_F(GalleryTest, aPointerOverACardALightOrARowIsSeenButNotOverARowWithASwitch) {
+  const GallerySheet cards = gallerySheetNamed("display-choice-card");
+  EXPECT_NE(pictureOf(item(cards, "hovered")), pictureOf(item(cards, "normal")));
+  const GallerySheet lights = gallerySheetNamed("traffic-light-button");
+  EXPECT_NE(pictureOf(item(lights, "close, hovered")),
+            pictureOf(item(lights, "close, cluster hovered")));
+  const GallerySheet rows = gallerySheetNamed("status-menu-row");
+  EXPECT_NE(pictureOf(item(rows, "hovered")), pictureOf(item(rows, "normal")));
+  EXPECT_EQ(pictureOf(item(rows, "switch, hovered")), pictureOf(item(rows, "switch, off")));
+}
+
+TEST_F(GalleryTest, aCardThatIsHoveredAndSelectedIsNoLargerThanOneThatIsSelected) {
+  const GallerySheet cards = gallerySheetNamed("display-choice-card");
+  EXPECT_EQ(pictureOf(item(cards, "selected, hovered")), pictureOf(item(cards, "selected")));
+}
+
+TEST_F(GalleryTest, whatIsDisabledLooksDisabled) {
+  for (const GallerySheet& sheet : buttonSheets()) {
+    if (!sheet.name.starts_with("settings-")) {
+      EXPECT_NE(pictureOf(item(sheet, "disabled")), pictureOf(item(sheet, "normal"))) << sheet.name;
+    }
+  }
+}
+
+TEST_F(GalleryTest, theLanguagesDifferWhereThereAreTextsAndOnlyThere) {
+  for (const GallerySheet& sheet : gallerySheets()) {
+    const GalleryItem& first = sheet.items.front();
+    EXPECT_EQ(sheet.hasTexts, pictureOf(first, OrvaneLanguage::english) !=
+                                  pictureOf(first, OrvaneLanguage::chinese))
+        << sheet.name;
+  }
+}
+
+TEST_F(GalleryTest, everythingIsRecolouredInTheDark) {
+  for (const GallerySheet& sheet : gallerySheets()) {
+    // The lights have colours of their own.
+    if (sheet.name != "traffic-light-button") {
+      EXPECT_NE(pictureOf(sheet.items.front(), OrvaneLanguage::english, false),
+                pictureOf(sheet.items.front(), OrvaneLanguage::english, true))
+          << sheet.name;
+    }
+  }
+}
+
+TEST_F(GalleryTest, aSheetIsTheSameEveryTimeAndMissesNothing) {
+  for (const GallerySheet& sheet : gallerySheets()) {
+    const SheetStyle style{.isDark = true, .scale = 0.25};
+    const auto first = encodePng(paintSheet(sheet, style, machine, resources).get());
+    DrawingResources fresh;
+    EXPECT_EQ(first, encodePng(paintSheet(sheet, style, machine, fresh).get())) << sheet.name;
+  }
+  std::erase_if(resources.missingNames, [](const std::string& name) {
+    // The pictures of the displays and the icon are brought along by the program.
+    return name == "AppIcon" || name.starts_with("Display");
+  });
+  EXPECT_EQ(resources.missingNames, std::set<std::string>());
+}
+
+}  // namespace
+}  // namespace orvane::desk

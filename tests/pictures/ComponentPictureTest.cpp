@@ -1,0 +1,59 @@
+// A few sheets of the gallery, small, against their kept versions. To renew those after a wanted
+// change, run with ORVANE_RENEW_PICTURES=1 and look at what changed.
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "desk/gallery/SheetPainter.hpp"
+#include "tests/support/KeptPicture.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+class ComponentPictureTest : public MachineFixture {
+ protected:
+  /// The items of a sheet with these captions, over one wallpaper, at one pixel to the point.
+  void expectSheet(const std::string& name, const std::vector<std::string>& captions, bool isDark,
+                   Appearance::Wallpaper wallpaper) {
+    GallerySheet sheet = gallerySheetNamed(name);
+    std::erase_if(sheet.items, [&](const GalleryItem& item) {
+      return std::ranges::find(captions, item.caption) == captions.end();
+    });
+    ASSERT_EQ(sheet.items.size(), captions.size()) << "a caption is not there any more";
+    sheet.columns = std::min<std::size_t>(sheet.items.size(), 4);
+    DrawingResources resources;
+    const SurfacePointer picture = paintSheet(
+        sheet, {.isDark = isDark, .scale = 1, .wallpapers = {wallpaper}}, machine, resources);
+    EXPECT_EQ(differenceFromKept(picture.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
+                                                    "tests/pictures" / (name + ".png")),
+              std::nullopt);
+  }
+};
+
+TEST_F(ComponentPictureTest, cards) {
+  expectSheet("display-choice-card", {"normal", "hovered", "selected", "focused"}, true,
+              Appearance::Wallpaper::busy);
+}
+
+TEST_F(ComponentPictureTest, theMainButton) {
+  expectSheet("primary-action-button", {"normal", "pressed", "disabled", "in red"}, false,
+              Appearance::Wallpaper::busy);
+}
+
+TEST_F(ComponentPictureTest, trafficLights) {
+  expectSheet("traffic-light-button",
+              {"close, normal", "close, hovered", "minimise, normal", "minimise, hovered"}, false,
+              Appearance::Wallpaper::white);
+}
+
+TEST_F(ComponentPictureTest, menuRows) {
+  expectSheet("status-menu-row", {"switch, off", "switch, on", "hovered", "display, selected"},
+              true, Appearance::Wallpaper::black);
+}
+
+}  // namespace
+}  // namespace orvane::desk

@@ -1,0 +1,88 @@
+// Windows as the window server paints them, against their kept versions: shadow, glass, corners,
+// title bar. To renew those after a wanted change, run with ORVANE_RENEW_PICTURES=1 and look at
+// what changed.
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/platform/appkit/HostingView.hpp"
+#include "Orvane/platform/appkit/Window.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+#include "desk/desktop/WallpaperArt.hpp"
+#include "desk/desktop/WindowArt.hpp"
+#include "desk/windows/WindowServer.hpp"
+#include "tests/support/KeptPicture.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+class WindowPictureTest : public MachineFixture {
+ protected:
+  static constexpr int width = 340;
+  static constexpr int height = 240;
+
+  WindowPictureTest() {
+    Display display;
+    display.number = 1;
+    display.frame = CGRectMake(0, 0, width, height);
+    EXPECT_FALSE(machine.displays.attach(display, true));
+  }
+
+  static appkit::HostingView content() {
+    return appkit::HostingView([](const ui::Environment&) {
+      return ui::View(ui::VStack(6, {ui::Symbol("lock").font(ui::Font::system(28)),
+                                     ui::Text("Pin Dock").font(ui::Font::headline()),
+                                     ui::Text("固定 Dock").foreground(ui::Color::secondary())}));
+    });
+  }
+
+  static appkit::Window window(std::uint64_t styleMask) {
+    appkit::Window made(appkit::WindowKind::window, CGRectMake(70, 60, 200, 120), styleMask);
+    made.setReleasedWhenClosed(false);
+    return made;
+  }
+
+  void expectWindows(const std::string& name, Appearance::Wallpaper wallpaper) {
+    const SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+    WindowServer& server = WindowServer::current();
+    CairoCanvas canvas(surface.get(), 1, server.resources());
+    paintWallpaper(canvas.context(), wallpaper, machine.appearance.isDark, width, height);
+    for (const auto& shown : server.windows()) {
+      paintWindow(canvas, server, *shown);
+    }
+    EXPECT_EQ(differenceFromKept(surface.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
+                                                    "tests/pictures" / (name + ".png")),
+              std::nullopt);
+  }
+};
+
+TEST_F(WindowPictureTest, aFramelessWindowOfGlass) {
+  appkit::HostingView view = content();
+  view.setLayerCorners(24, appkit::CornerCurve::continuous, true);
+  view.setBackdrop(appkit::Backdrop::behindWindow);
+  appkit::Window glass = window(0);
+  glass.setOpaque(false);
+  glass.setClearBackground();
+  glass.setContentView(view);
+  glass.orderFrontRegardless();
+  machine.runDue();
+  expectWindows("glass-window", Appearance::Wallpaper::busy);
+}
+
+TEST_F(WindowPictureTest, aWindowWithATitleInTheDark) {
+  machine.appearance.isDark = true;
+  appkit::Window titled = window(appkit::StyleMask::titled | appkit::StyleMask::closable);
+  titled.setTitle("Title");
+  titled.setContentView(content());
+  titled.makeKeyAndOrderFront();
+  machine.runDue();
+  expectWindows("titled-window", Appearance::Wallpaper::white);
+}
+
+}  // namespace
+}  // namespace orvane::desk

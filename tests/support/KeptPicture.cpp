@@ -1,0 +1,83 @@
+// Every component of every pixel is compared.
+#include "tests/support/KeptPicture.hpp"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+
+#include "desk/canvas/PngFile.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+constexpr int tolerance = 2;
+
+const std::uint32_t* rowOf(cairo_surface_t* surface, int y) {
+  return reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(surface) +
+                                                y * cairo_image_surface_get_stride(surface));
+}
+
+int worstComponent(std::uint32_t first, std::uint32_t second) {
+  int worst = 0;
+  for (const unsigned shift : {0U, 8U, 16U, 24U}) {
+    const int a = static_cast<int>(first >> shift & 0xFFU);
+    const int b = static_cast<int>(second >> shift & 0xFFU);
+    worst = std::max(worst, std::abs(a - b));
+  }
+  return worst;
+}
+
+std::string sizeOf(cairo_surface_t* surface) {
+  return std::to_string(cairo_image_surface_get_width(surface)) + " by " +
+         std::to_string(cairo_image_surface_get_height(surface));
+}
+
+}  // namespace
+
+std::optional<std::string> pictureDifference(cairo_surface_t* shown, cairo_surface_t* kept) {
+  if (sizeOf(shown) != sizeOf(kept)) {
+    return "it has " + sizeOf(shown) + " pixels instead of " + sizeOf(kept);
+  }
+  cairo_surface_flush(shown);
+  cairo_surface_flush(kept);
+  int different = 0;
+  int worst = 0;
+  std::string first;
+  for (int y = 0; y < cairo_image_surface_get_height(shown); ++y) {
+    for (int x = 0; x < cairo_image_surface_get_width(shown); ++x) {
+      const int distance = worstComponent(rowOf(shown, y)[x], rowOf(kept, y)[x]);
+      if (distance > tolerance) {
+        ++different;
+        first = first.empty() ? std::to_string(x) + ", " + std::to_string(y) : first;
+      }
+      worst = std::max(worst, distance);
+    }
+  }
+  if (different == 0) {
+    return std::nullopt;
+  }
+  return std::to_string(different) + " pixels differ, by up to " + std::to_string(worst) +
+         " of 255, the first one at " + first;
+}
+
+std::optional<std::string> differenceFromKept(cairo_surface_t* shown,
+                                              const std::filesystem::path& file) {
+  if (std::getenv("ORVANE_RENEW_PICTURES") != nullptr) {
+    return writePng(shown, file) ? std::nullopt : std::optional("cannot write " + file.string());
+  }
+  const SurfacePointer kept = readPng(file);
+  const std::optional<std::string> difference = kept != nullptr
+                                                    ? pictureDifference(shown, kept.get())
+                                                    : std::optional("there is no " + file.string());
+  if (!difference) {
+    return std::nullopt;
+  }
+  const auto now = std::filesystem::path(testing::TempDir()) / (file.stem().string() + "-now.png");
+  writePng(shown, now);
+  return *difference + "; as drawn now: " + now.string();
+}
+
+}  // namespace orvane::desk
