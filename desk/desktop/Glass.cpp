@@ -39,7 +39,7 @@ void paintGlass(CairoCanvas& canvas, const ui::Shape& shape, double sigma, const
   cairo_t* const context = canvas.context();
   const double sigmaInPixels = sigma * canvas.scaleFactor();
   const cairo_rectangle_int_t pixels = pixelsAround(context, shape.rect, blurReach(sigmaInPixels));
-  if (pixels.width > 0 && pixels.height > 0) {
+  if (tint.alpha < 1 && pixels.width > 0 && pixels.height > 0) {
     const SurfacePointer copy(
         cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels.width, pixels.height));
     const ContextPointer copying(cairo_create(copy.get()));
@@ -54,6 +54,13 @@ void paintGlass(CairoCanvas& canvas, const ui::Shape& shape, double sigma, const
     canvas.restore();
   }
   canvas.fill(shape, ui::Paint::solid(tint));
+}
+
+ui::Rgba tintFor(const Appearance& appearance, ui::Rgba tint) {
+  if (appearance.reducesTransparency) {
+    tint.alpha = 1;
+  }
+  return tint;
 }
 
 }  // namespace orvane::desk

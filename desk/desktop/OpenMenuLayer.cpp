@@ -65,7 +65,7 @@ void paintMenu(CairoCanvas& canvas, WindowServer& server) {
   const ui::Shape shape =
       ui::Shape::roundedRectangle(rectOf(server.menus.frame()), MenuMetrics::cornerRadius);
   canvas.shadow(shape, menuShadow);
-  paintGlass(canvas, shape, glassSigma, glassTint(isDark));
+  paintGlass(canvas, shape, glassSigma, tintFor(server.machine().appearance, glassTint(isDark)));
   for (const MenuRow& row : server.menus.rows()) {
     paintRow(canvas, server, row);
   }

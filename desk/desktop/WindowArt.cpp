@@ -117,7 +117,8 @@ void paintWindow(CairoCanvas& canvas, WindowServer& server, DeskWindow& window) 
     canvas.shadow(outline, windowShadow);
   }
   if (window.content != nullptr && window.content->hasBackdrop) {
-    paintGlass(canvas, outline, glassSigma, glassTint(isDark));
+    paintGlass(canvas, outline, glassSigma,
+               tintFor(server.machine().appearance, glassTint(isDark)));
   } else {
     canvas.fill(outline, ui::Paint::solid(backgroundColor(server)));
   }

@@ -19,6 +19,8 @@ struct Appearance {
   Accent accent;
   Wallpaper wallpaper = Wallpaper::standard;
   bool reducesMotion = false;
+  bool reducesTransparency = false;
+  bool increasesContrast = false;
 };
 
 }  // namespace orvane::desk

@@ -218,6 +218,26 @@ Complaint setMotion(ScriptContext& context, Arguments& arguments) {
   return std::nullopt;
 }
 
+Complaint setTransparency(ScriptContext& context, Arguments& arguments) {
+  constexpr std::array<std::string_view, 2> choices = {"full", "reduced"};
+  const bool isReduced = arguments.choice("reduced|full", choices) == 1;
+  if (Complaint complaint = arguments.finish()) {
+    return complaint;
+  }
+  context.machine().appearance.reducesTransparency = isReduced;
+  return std::nullopt;
+}
+
+Complaint setContrast(ScriptContext& context, Arguments& arguments) {
+  constexpr std::array<std::string_view, 2> choices = {"normal", "increased"};
+  const bool isIncreased = arguments.choice("increased|normal", choices) == 1;
+  if (Complaint complaint = arguments.finish()) {
+    return complaint;
+  }
+  context.machine().appearance.increasesContrast = isIncreased;
+  return std::nullopt;
+}
+
 }  // namespace
 
 void addSystemCommands(CommandTable& table) {
@@ -237,6 +257,8 @@ void addSystemCommands(CommandTable& table) {
   table.add({"accent", "R,G,B", setAccent});
   table.add({"wallpaper", "white|black|busy|default", setWallpaper});
   table.add({"motion", "reduced|full", setMotion});
+  table.add({"transparency", "reduced|full", setTransparency});
+  table.add({"contrast", "increased|normal", setContrast});
 }
 
 }  // namespace orvane::desk::script

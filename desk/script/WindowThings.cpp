@@ -140,6 +140,11 @@ Complaint lookAtTooltip(ScriptContext&, const std::string&, Json& shown) {
   return std::nullopt;
 }
 
+Complaint lookAtAnnouncements(ScriptContext&, const std::string&, Json& shown) {
+  shown = WindowServer::current().announcements;
+  return std::nullopt;
+}
+
 }  // namespace
 
 void addWindowThings(ThingTable& table) {
@@ -148,6 +153,10 @@ void addWindowThings(ThingTable& table) {
   table.add({.name = "menu", .parameter = {}, .look = lookAtMenu, .countingMember = {}});
   table.add({.name = "icon", .parameter = {}, .look = lookAtIcon, .countingMember = {}});
   table.add({.name = "guide", .parameter = {}, .look = lookAtGuide, .countingMember = {}});
+  table.add({.name = "announcements",
+             .parameter = {},
+             .look = lookAtAnnouncements,
+             .countingMember = {}});
   table.add({.name = "tooltip", .parameter = {}, .look = lookAtTooltip, .countingMember = {}});
 }
 

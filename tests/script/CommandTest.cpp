@@ -129,20 +129,25 @@ TEST(CommandTest, LooksAreRemembered) {
                         .expectationFailed = {}};
   Interpreter interpreter(commands, context);
   const Appearance& appearance = session.machine().appearance;
-  for (const char* const line :
-       {"appearance dark", "accent 1,20,255", "wallpaper busy", "motion reduced"}) {
+  for (const char* const line : {"appearance dark", "accent 1,20,255", "wallpaper busy",
+                                 "motion reduced", "transparency reduced", "contrast increased"}) {
     EXPECT_EQ(interpreter.run(line), std::nullopt);
   }
   EXPECT_TRUE(appearance.isDark);
   EXPECT_EQ(appearance.accent, (Appearance::Accent{1, 20, 255}));
   EXPECT_EQ(appearance.wallpaper, Appearance::Wallpaper::busy);
   EXPECT_TRUE(appearance.reducesMotion);
-  for (const char* const line : {"appearance light", "wallpaper default", "motion full"}) {
+  EXPECT_TRUE(appearance.reducesTransparency);
+  EXPECT_TRUE(appearance.increasesContrast);
+  for (const char* const line : {"appearance light", "wallpaper default", "motion full",
+                                 "transparency full", "contrast normal"}) {
     EXPECT_EQ(interpreter.run(line), std::nullopt);
   }
   EXPECT_FALSE(appearance.isDark);
   EXPECT_EQ(appearance.wallpaper, Appearance::Wallpaper::standard);
   EXPECT_FALSE(appearance.reducesMotion);
+  EXPECT_FALSE(appearance.reducesTransparency);
+  EXPECT_FALSE(appearance.increasesContrast);
 }
 
 TEST(CommandTest, TheApplicationStartsAndEnds) {

@@ -124,7 +124,9 @@ TEST(ComplaintTest, TellsWhatIsWrongWithSystem) {
                     {"accent 1,2,3,4", "accent: unexpected \"4\""},
                     {"accent 1,2,256", "accent: B must be a whole number from 0 to 255"},
                     {"wallpaper green", "wallpaper: the wallpaper must be one of"},
-                    {"motion none", "motion: reduced|full must be one of"}});
+                    {"motion none", "motion: reduced|full must be one of"},
+                    {"transparency none", "transparency: reduced|full must be one of"},
+                    {"contrast high", "contrast: increased|normal must be one of"}});
 }
 
 TEST(ComplaintTest, TellsWhatIsWrongWithApplication) {
@@ -144,23 +146,24 @@ TEST(ComplaintTest, TellsWhatIsWrongWithApplication) {
 }
 
 TEST(ComplaintTest, TellsWhatIsWrongWithLooking) {
-  expectComplaints({{"show", "show: THING is missing"},
-                    {"show weather", "show: there is no \"weather\" to look at, only clock, "},
-                    {"show dock edge", "show: unexpected \"edge\""},
-                    {"find", "find: \"IDENTIFIER\" is missing"},
-                    {"expect clock.now", "expect: VALUE is missing"},
-                    {"expect clock.now soon", "expect: VALUE is not JSON: soon"},
-                    {"expect clock..now 1", "expect: \"clock..now\" is not a path"},
-                    {"expect weather.now 1", "expect: there is no \"weather\" to look at"},
-                    {"hold", "hold: KEY is missing"},
-                    {"hold fn", "hold: KEY must be one of option, control, shift, command"},
-                    {"event 1 1 fn", "event: KEY must be one of"},
-                    {"picture", "picture: FILE is missing"},
-                    {"picture a scale", "picture: S is missing"},
-                    {"picture a scale 0", "picture: the scale must be greater than 0"},
-                    {"picture a scale 17", "picture: the scale must be greater than 0"},
-                    {"picture a main big", "picture: unexpected \"big\""},
-                    {"picture a", "picture: no pictures can be drawn here"}});
+  expectComplaints(
+      {{"show", "show: THING is missing"},
+       {"show weather", "show: there is no \"weather\" to look at, only announcements, clock, "},
+       {"show dock edge", "show: unexpected \"edge\""},
+       {"find", "find: \"IDENTIFIER\" is missing"},
+       {"expect clock.now", "expect: VALUE is missing"},
+       {"expect clock.now soon", "expect: VALUE is not JSON: soon"},
+       {"expect clock..now 1", "expect: \"clock..now\" is not a path"},
+       {"expect weather.now 1", "expect: there is no \"weather\" to look at"},
+       {"hold", "hold: KEY is missing"},
+       {"hold fn", "hold: KEY must be one of option, control, shift, command"},
+       {"event 1 1 fn", "event: KEY must be one of"},
+       {"picture", "picture: FILE is missing"},
+       {"picture a scale", "picture: S is missing"},
+       {"picture a scale 0", "picture: the scale must be greater than 0"},
+       {"picture a scale 17", "picture: the scale must be greater than 0"},
+       {"picture a main big", "picture: unexpected \"big\""},
+       {"picture a", "picture: no pictures can be drawn here"}});
 }
 
 TEST(ComplaintTest, ChangesNothingWhenTheArgumentsAreWrong) {

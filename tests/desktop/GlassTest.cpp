@@ -1,0 +1,68 @@
+// Glass lets the wallpaper through, but not when the user wants less transparency.
+#include <vector>
+
+#include "desk/desktop/Glass.hpp"
+#include "desk/desktop/MenuBarLayer.hpp"
+#include "desk/windows/WindowServer.hpp"
+#include "tests/desktop/DesktopFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+class GlassTest : public DesktopFixture {
+ protected:
+  /// Well inside of all that is made of glass: the menu bar, the Dock's shelf and the main panel.
+  std::vector<ui::Rect> glass() {
+    const CGRect dock = machine.dock.frame();
+    const auto window = WindowServer::current().windows().back();
+    const CGPoint corner = WindowServer::current().topLeftOf(*window);
+    return {{300, 4, 200, 12},
+            {dock.origin.x + 10, dock.origin.y + 10, dock.size.width - 20, 4},
+            ui::Rect{corner.x, corner.y, window->frame.size.width, window->frame.size.height}.inset(
+                40)};
+  }
+  SurfacePointer pictureOver(Appearance::Wallpaper wallpaper) {
+    machine.appearance.wallpaper = wallpaper;
+    return picture();
+  }
+};
+
+TEST_F(GlassTest, ShowsWhatIsBehindItUnlessTransparencyIsReduced) {
+  application.reopen();
+  machine.advance(2);
+  for (const bool isReduced : {false, true}) {
+    machine.appearance.reducesTransparency = isReduced;
+    const SurfacePointer overWhite = pictureOver(Appearance::Wallpaper::white);
+    const SurfacePointer overBlack = pictureOver(Appearance::Wallpaper::black);
+    for (const ui::Rect& part : glass()) {
+      if (isReduced) {
+        EXPECT_EQ(differences(overWhite, overBlack, part), 0) << part.x << ", " << part.y;
+      } else {
+        EXPECT_GT(differences(overWhite, overBlack, part), 100) << part.x << ", " << part.y;
+      }
+    }
+  }
+}
+
+TEST_F(GlassTest, WithIncreasedContrastTheLabelsAreStronger) {
+  application.reopen();
+  machine.advance(2);
+  const SurfacePointer normal = picture();
+  machine.appearance.increasesContrast = true;
+  const SurfacePointer increased = picture();
+  int stronger = 0;
+  int weaker = 0;
+  const ui::Rect panel = glass().back();
+  for (int y = static_cast<int>(panel.y); y < static_cast<int>(panel.bottom()); ++y) {
+    for (int x = static_cast<int>(panel.x); x < static_cast<int>(panel.right()); ++x) {
+      const int change = pixelAt(increased.get(), x, y).green - pixelAt(normal.get(), x, y).green;
+      stronger += change < -8 ? 1 : 0;
+      weaker += change > 8 ? 1 : 0;
+    }
+  }
+  EXPECT_GT(stronger, 200);
+  EXPECT_EQ(weaker, 0);
+}
+
+}  // namespace
+}  // namespace orvane::desk
