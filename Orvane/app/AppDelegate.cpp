@@ -48,6 +48,7 @@ void AppDelegate::refreshStatusItemTimerFired() {
 void AppDelegate::updateStatusItemIcon() {
   const bool isRunning = OrvaneAppState::model().isGuardRunning();
   statusItem_->setImage(statusBarImage(isRunning ? "lock.fill" : "lock.open"));
+  announcer_.update(OrvaneAppState::model());
 }
 
 std::optional<appkit::Image> AppDelegate::statusBarImage(std::string_view name) {

@@ -8,6 +8,7 @@
 
 #include "Orvane/base/Lifetime.hpp"
 #include "Orvane/base/Signal.hpp"
+#include "Orvane/model/GuardAnnouncer.hpp"
 #include "Orvane/platform/Quartz.hpp"
 #include "Orvane/platform/appkit/Image.hpp"
 #include "Orvane/platform/appkit/Menu.hpp"
@@ -59,6 +60,7 @@ class AppDelegate {
   appkit::Menu statusMenu_;
   std::optional<appkit::Timer> statusRefreshTimer_;
   Subscription modelCancellable_;
+  GuardAnnouncer announcer_;
   Lifetime lifetime_;
 };
 

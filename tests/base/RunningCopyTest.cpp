@@ -1,0 +1,54 @@
+// Which copy of a program stays: every copy decides for itself, so all must decide alike.
+#include <algorithm>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/base/RunningCopy.hpp"
+
+namespace orvane {
+namespace {
+
+constexpr RunningCopy early{900, 100.0};
+constexpr RunningCopy late{200, 101.5};
+constexpr RunningCopy unknown{100, std::nullopt};
+
+TEST(RunningCopyTest, WithoutCopiesNoneStays) {
+  EXPECT_EQ(copyThatStays({}), std::nullopt);
+}
+
+TEST(RunningCopyTest, ACopyThatIsAloneStays) {
+  EXPECT_EQ(copyThatStays(std::vector{unknown}), unknown);
+}
+
+TEST(RunningCopyTest, TheFirstToBeLaunchedStaysWhateverItsNumber) {
+  EXPECT_EQ(copyThatStays(std::vector{late, early}), early);
+}
+
+TEST(RunningCopyTest, ACopyWhoseLaunchNobodyNotedGivesWay) {
+  EXPECT_EQ(copyThatStays(std::vector{unknown, late}), late);
+}
+
+TEST(RunningCopyTest, OfEqualCopiesTheLeastNumberStays) {
+  EXPECT_EQ(copyThatStays(std::vector{RunningCopy{7, 100.0}, RunningCopy{5, 100.0}}),
+            (RunningCopy{5, 100.0}));
+  EXPECT_EQ(copyThatStays(std::vector{RunningCopy{7, std::nullopt}, RunningCopy{5, std::nullopt}}),
+            (RunningCopy{5, std::nullopt}));
+}
+
+TEST(RunningCopyTest, AllCopiesAgreeInWhateverOrderTheySeeEachOther) {
+  std::vector<RunningCopy> copies = {early, late, unknown, {50, std::nullopt}, {60, 100.0}};
+  const auto byNumber = [](const RunningCopy& first, const RunningCopy& second) {
+    return first.processID < second.processID;
+  };
+  std::ranges::sort(copies, byNumber);
+  int orders = 0;
+  do {
+    EXPECT_EQ(copyThatStays(copies), (RunningCopy{60, 100.0}));
+    ++orders;
+  } while (std::ranges::next_permutation(copies, byNumber).found);
+  EXPECT_EQ(orders, 120);
+}
+
+}  // namespace
+}  // namespace orvane

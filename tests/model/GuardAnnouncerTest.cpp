@@ -1,0 +1,108 @@
+// What users of a screen reader are told of the guard, and when.
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+#include "Orvane/model/GuardAnnouncer.hpp"
+#include "desk/windows/WindowServer.hpp"
+#include "tests/support/ModelFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class GuardAnnouncerTest : public ModelFixture {
+ protected:
+  GuardAnnouncerTest() { store("appLanguage", "english"); }
+
+  /// What is said at an update, as happens after each action and once a second.
+  std::vector<std::string> said() {
+    std::vector<std::string>& all = desk::WindowServer::current().announcements;
+    all.clear();
+    announcer.update(*model);
+    announcer.update(*model);
+    return all;
+  }
+
+  GuardAnnouncer announcer;
+};
+
+TEST_F(GuardAnnouncerTest, AnOrdinaryStartSaysNothing) {
+  launch();
+  EXPECT_THAT(said(), IsEmpty());
+}
+
+TEST_F(GuardAnnouncerTest, ALockThatIsRestoredIsTold) {
+  store("isOrvaneEnabled", true);
+  launch();
+  EXPECT_THAT(said(), ElementsAre("The Dock is pinned to " + model->selectedDisplay()->name));
+}
+
+TEST_F(GuardAnnouncerTest, StartingStoppingAndAChangeOfModeAreToldOnce) {
+  launchPinned();
+  EXPECT_THAT(said(), ElementsAre("The Dock is pinned to " + model->selectedDisplay()->name));
+  model->toggleHideDockOnAllDisplays();
+  EXPECT_THAT(said(), ElementsAre("The Dock is kept from popping up"));
+  model->toggleHideDockOnAllDisplays();
+  EXPECT_THAT(said(), ElementsAre("The Dock is no longer guarded"));
+}
+
+TEST_F(GuardAnnouncerTest, AnotherTargetIsToldByItsName) {
+  launchPinned();
+  said();
+  model->selectDisplay(model->displays().value().at(1).id);
+  EXPECT_THAT(said(), ElementsAre("The Dock is pinned to " + model->displays().value().at(1).name));
+}
+
+TEST_F(GuardAnnouncerTest, AMissingPermissionIsToldWhenTheGuardIsAskedFor) {
+  machine.permission.setTrusted(false);
+  launch();
+  EXPECT_THAT(said(), IsEmpty()) << "nobody has asked for anything";
+  model->toggleSelectedDisplayLock();
+  EXPECT_THAT(said(),
+              ElementsAre("The Accessibility permission is missing; the Dock is not guarded"));
+  // The request lapses; nothing has stopped.
+  machine.advance(2);
+  EXPECT_THAT(said(), IsEmpty());
+}
+
+TEST_F(GuardAnnouncerTest, AMissingPermissionIsToldWhenTheLockOfTheLastRunCannotComeBack) {
+  store("isOrvaneEnabled", true);
+  machine.permission.setTrusted(false);
+  launch();
+  EXPECT_THAT(said(),
+              ElementsAre("The Accessibility permission is missing; the Dock is not guarded"));
+}
+
+TEST_F(GuardAnnouncerTest, APermissionThatIsTakenAwayIsToldAndItsReturnToo) {
+  launchPinned();
+  said();
+  machine.permission.setTrusted(false);
+  model->setHasAccessibilityPermission(false);
+  EXPECT_THAT(said(),
+              ElementsAre("The Accessibility permission is missing; the Dock is not guarded"));
+  machine.permission.setTrusted(true);
+  model->setHasAccessibilityPermission(true);
+  EXPECT_THAT(said(), ElementsAre("The Dock is pinned to " + model->selectedDisplay()->name));
+}
+
+TEST_F(GuardAnnouncerTest, ItSpeaksTheLanguageOfTheInterface) {
+  store("appLanguage", "chinese");
+  launchPreventing();
+  EXPECT_THAT(said(), ElementsAre("已防止 Dock 弹出"));
+  model->toggleHideDockOnAllDisplays();
+  EXPECT_THAT(said(), ElementsAre("Dock 守卫已关闭"));
+}
+
+TEST_F(GuardAnnouncerTest, AChangeOfTheLanguageAloneIsNotToldAgain) {
+  launchPinned();
+  said();
+  model->setAppLanguage(OrvaneLanguage::chinese);
+  EXPECT_THAT(said(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace orvane
