@@ -1,11 +1,22 @@
-// The entry of the application on a Mac: it installs the delegate and hands over to the run loop.
+// The entry of the application on a Mac: unless a copy of it runs already, it installs the delegate
+// and the watch over the event tap, and hands over to the run loop.
 #import <AppKit/AppKit.h>
 
 #include "Orvane/app/OrvaneApp.hpp"
+#include "Orvane/app/OrvaneAppState.hpp"
+#include "Orvane/model/TapWatch.hpp"
+#include "macos/handover/Handover.hpp"
 
 int main() {
   @autoreleasepool {
+    NSApplication* const application = NSApplication.sharedApplication;
+    if (orvane::handOverToRunningCopy()) {
+      return 0;
+    }
+    orvane::answerLaterCopies();
     orvane::OrvaneApp::install();
-    [NSApplication.sharedApplication run];
+    const orvane::TapWatch tapWatch(orvane::OrvaneAppState::model);
+    // Ends with the process.
+    [application run];
   }
 }

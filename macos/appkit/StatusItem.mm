@@ -8,16 +8,42 @@
 #include "macos/appkit/Strings.hpp"
 
 namespace orvane::appkit {
+namespace {
+
+/// Whether the application is quitting. Taking an item out of the bar makes the system forget where
+/// its user had put it; at the end of the process it goes by itself, and its place is kept.
+bool& isQuitting() {
+  static bool quitting = false;
+  return quitting;
+}
+
+void noteQuitting() {
+  static const id<NSObject> observer =
+      [NSNotificationCenter.defaultCenter addObserverForName:NSApplicationWillTerminateNotification
+                                                      object:nil
+                                                       queue:nil
+                                                  usingBlock:^(NSNotification*) {
+                                                    isQuitting() = true;
+                                                  }];
+  (void)observer;
+}
+
+}  // namespace
 
 struct StatusItem::Implementation {
   Implementation()
       : item([NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength]) {
+    noteQuitting();
     item.button.target = nil;
     item.button.action = nil;
   }
   Implementation(const Implementation&) = delete;
   Implementation& operator=(const Implementation&) = delete;
-  ~Implementation() { [NSStatusBar.systemStatusBar removeStatusItem:item]; }
+  ~Implementation() {
+    if (!isQuitting()) {
+      [NSStatusBar.systemStatusBar removeStatusItem:item];
+    }
+  }
 
   NSStatusItem* item;
   // The item holds the menu, but nobody else the menu's delegate.

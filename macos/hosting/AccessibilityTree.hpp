@@ -46,7 +46,4 @@ class AccessibilityTree {
   OrvaneAccessibilityElement* _Nullable focused_ = nil;
 };
 
-/// Has an assistive program speak the text, after what it is saying.
-void announce(const std::string& text);
-
 }  // namespace orvane::appkit

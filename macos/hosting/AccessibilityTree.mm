@@ -146,16 +146,4 @@ id AccessibilityTree::elementAt(NSPoint screenPoint) const {
   return found;
 }
 
-void announce(const std::string& text) {
-  NSString* const announcement = foundationString(text);
-  if (announcement == nil) {
-    return;
-  }
-  NSAccessibilityPostNotificationWithUserInfo(
-      NSApplication.sharedApplication, NSAccessibilityAnnouncementRequestedNotification, @{
-        NSAccessibilityAnnouncementKey : announcement,
-        NSAccessibilityPriorityKey : @(NSAccessibilityPriorityMedium),
-      });
-}
-
 }  // namespace orvane::appkit

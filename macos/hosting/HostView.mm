@@ -8,6 +8,7 @@
 #include <optional>
 #include <utility>
 
+#include "Orvane/platform/appkit/Accessibility.hpp"
 #include "macos/appkit/Strings.hpp"
 #include "macos/canvas/CoreTextMeasurer.hpp"
 #include "macos/canvas/QuartzCanvas.hpp"
@@ -69,7 +70,7 @@ ui::TextMeasurer& textMeasurer() {
     }
   };
   services.dismiss = [weakSelf] { [weakSelf dismiss]; };
-  services.announce = appkit::announce;
+  services.announce = appkit::Accessibility::announce;
   services.semanticsChanged = [weakSelf] { [weakSelf meaningsChange]; };
   _host = std::make_unique<ui::ViewHost>(ui::HostPlatform{
       &textMeasurer(), appkit::systemImageSource(), appkit::systemColor, std::move(services)});

@@ -1,0 +1,80 @@
+// One copy of the application runs in a session; distributed notifications are between the copies.
+#include "macos/handover/Handover.hpp"
+
+#import <AppKit/AppKit.h>
+
+#include <vector>
+
+#include "Orvane/base/RunningCopy.hpp"
+
+/// Hears from later copies; lives as long as the process.
+@interface OrvaneHandoverObserver : NSObject
+- (void)laterCopyAsks:(nonnull NSNotification*)notification;
+@end
+
+@implementation OrvaneHandoverObserver
+
+- (void)laterCopyAsks:(NSNotification*)notification {
+  NSApplication* const application = NSApplication.sharedApplication;
+  id<NSApplicationDelegate> const delegate = application.delegate;
+  if ([delegate respondsToSelector:@selector(applicationShouldHandleReopen:hasVisibleWindows:)]) {
+    [delegate applicationShouldHandleReopen:application hasVisibleWindows:NO];
+  }
+}
+
+@end
+
+namespace orvane {
+namespace {
+
+/// Nil for an executable without a bundle, which has no copies.
+NSString* requestName() {
+  return [NSBundle.mainBundle.bundleIdentifier stringByAppendingString:@".show"];
+}
+
+RunningCopy copyFrom(NSRunningApplication* application) {
+  NSDate* const launched = application.launchDate;
+  return {application.processIdentifier,
+          launched == nil ? std::nullopt
+                          : std::optional<double>(launched.timeIntervalSinceReferenceDate)};
+}
+
+}  // namespace
+
+bool handOverToRunningCopy() {
+  NSString* const identifier = NSBundle.mainBundle.bundleIdentifier;
+  if (identifier == nil) {
+    return false;
+  }
+  NSRunningApplication* const current = NSRunningApplication.currentApplication;
+  std::vector<RunningCopy> copies{copyFrom(current)};
+  for (NSRunningApplication* other in
+       [NSRunningApplication runningApplicationsWithBundleIdentifier:identifier]) {
+    if (!other.terminated && ![other isEqual:current]) {
+      copies.push_back(copyFrom(other));
+    }
+  }
+  const auto stays = copyThatStays(copies);
+  if (!stays || *stays == copies.front()) {
+    return false;
+  }
+  [NSDistributedNotificationCenter.defaultCenter postNotificationName:requestName()
+                                                               object:nil
+                                                             userInfo:nil
+                                                   deliverImmediately:YES];
+  return true;
+}
+
+void answerLaterCopies() {
+  static OrvaneHandoverObserver* const observer = [[OrvaneHandoverObserver alloc] init];
+  if (requestName() != nil) {
+    [NSDistributedNotificationCenter.defaultCenter
+               addObserver:observer
+                  selector:@selector(laterCopyAsks:)
+                      name:requestName()
+                    object:nil
+        suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
+  }
+}
+
+}  // namespace orvane
