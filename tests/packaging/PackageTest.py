@@ -1,0 +1,193 @@
+"""tools/package-macos: the archive that Linux makes, and the order of what it does on a Mac, seen by
+programs that only write down how they are called."""
+
+import os
+import pathlib
+import plistlib
+import stat
+import subprocess
+import sys
+import tempfile
+import unittest
+import zipfile
+
+sys.dont_write_bytecode = True
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+TOOL = ROOT / "tools" / "package-macos"
+
+# Writes its call into a file; where it has to leave something behind, it does.
+_RECORDER = """#!/bin/sh
+name=${0##*/}
+echo "$name $*" >>"$CALLS"
+case $name in
+  uname) echo "$SYSTEM" ;;
+  plutil) echo 2.5.0 ;;
+  ditto) if [ "$1" = -c ]; then for last; do :; done; echo zip >"$last"; else cp -R "$1" "$2"; fi ;;
+  hdiutil) for last; do :; done; echo image >"$last"; ls -l "${last%/*}" >/dev/null
+    for word; do [ "$previous" = -srcfolder ] && ls -l "$word" >>"$CALLS"; previous=$word; done ;;
+esac
+[ "$name" != "$FAILING" ]
+"""
+
+
+class PackageFixture(unittest.TestCase):
+    """A bundle in the shape of the real one, and a folder for the packages."""
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+        self.bundle = self.folder / "Orvane.app"
+        self.output = self.folder / "out"
+        contents = self.bundle / "Contents"
+        (contents / "MacOS").mkdir(parents=True)
+        (contents / "Resources").mkdir()
+        (contents / "Info.plist").write_bytes(plistlib.dumps({"CFBundleShortVersionString": "2.5.0"}))
+        (contents / "MacOS" / "Orvane").write_bytes(b"program")
+        (contents / "MacOS" / "Orvane").chmod(0o700)
+        (contents / "Resources" / "Text.txt").write_text("text", encoding="utf-8")
+        (contents / "Resources" / "Text.txt").chmod(0o600)
+        (contents / "Resources" / "Link").symlink_to("Text.txt")
+
+    def run_tool(self, *options, path=None, **variables):
+        environment = {**os.environ, **variables}
+        if path is not None:
+            environment["PATH"] = f"{path}:{environment['PATH']}"
+        return subprocess.run([str(TOOL), "--bundle", str(self.bundle), "--output", str(self.output), *options],
+                              env=environment, capture_output=True, text=True, check=False)
+
+
+class OnLinux(PackageFixture):
+    """The zip of the cross build."""
+
+    def setUp(self):
+        super().setUp()
+        if os.uname().sysname == "Darwin":
+            self.skipTest("a Mac makes its own packages")
+
+    def test_the_archive_keeps_permissions_and_links(self):
+        self.assertEqual(self.run_tool().returncode, 0)
+        with zipfile.ZipFile(self.output / "Orvane-2.5.0-unsealed.zip") as archive:
+            self.assertIsNone(archive.testzip())
+            modes = {info.filename: info.external_attr >> 16 for info in archive.infolist()}
+            self.assertTrue(all(info.create_system == 3 for info in archive.infolist()))
+            self.assertEqual(archive.read("Orvane.app/Contents/Resources/Link"), b"Text.txt")
+            self.assertEqual(archive.read("Orvane.app/Contents/MacOS/Orvane"), b"program")
+        self.assertEqual(modes, {
+            "Orvane.app/": stat.S_IFDIR | 0o755,
+            "Orvane.app/Contents/": stat.S_IFDIR | 0o755,
+            "Orvane.app/Contents/Info.plist": stat.S_IFREG | 0o644,
+            "Orvane.app/Contents/MacOS/": stat.S_IFDIR | 0o755,
+            "Orvane.app/Contents/MacOS/Orvane": stat.S_IFREG | 0o755,
+            "Orvane.app/Contents/Resources/": stat.S_IFDIR | 0o755,
+            "Orvane.app/Contents/Resources/Link": stat.S_IFLNK | 0o755,
+            "Orvane.app/Contents/Resources/Text.txt": stat.S_IFREG | 0o644,
+        })
+
+    def test_the_same_bundle_gives_the_same_bytes(self):
+        self.run_tool()
+        archive = self.output / "Orvane-2.5.0-unsealed.zip"
+        first = archive.read_bytes()
+        os.utime(self.bundle / "Contents" / "MacOS" / "Orvane", (0, 0))
+        self.run_tool()
+        self.assertEqual(archive.read_bytes(), first)
+
+    def test_it_says_what_is_not_sealed(self):
+        said = self.run_tool().stdout
+        self.assertIn("no signature seals the bundle", said)
+        self.assertIn("codesign --force --sign -", said)
+
+    def test_what_needs_a_mac_is_refused(self):
+        self.assertNotEqual(self.run_tool("--identity", "Somebody").returncode, 0)
+        self.assertFalse(list(self.output.glob("*.zip")))
+
+    def test_a_bundle_without_its_program_is_refused(self):
+        (self.bundle / "Contents" / "MacOS" / "Orvane").unlink()
+        result = self.run_tool()
+        self.assertNotEqual(result.returncode, 0)
+        self.assertIn("There is no application", result.stderr)
+
+    def test_an_option_that_it_does_not_know_is_refused(self):
+        self.assertIn("does not know", self.run_tool("--sign", "x").stderr)
+        self.assertIn("wants a value", self.run_tool("--identity").stderr)
+
+
+class OnAMac(PackageFixture):
+    """What is called, in which order."""
+
+    def setUp(self):
+        super().setUp()
+        self.programs = self.folder / "programs"
+        self.programs.mkdir()
+        self.calls = self.folder / "calls"
+        for name in ("uname", "plutil", "ditto", "codesign", "xcrun", "hdiutil", "shasum"):
+            program = self.programs / name
+            program.write_text(_RECORDER, encoding="utf-8")
+            program.chmod(0o755)
+
+    def calls_of(self, *options, failing=""):
+        result = self.run_tool(*options, path=self.programs, CALLS=str(self.calls), SYSTEM="Darwin", FAILING=failing)
+        lines = self.calls.read_text(encoding="utf-8").splitlines()
+        return result, [line for line in lines if not line.startswith(("uname", "plutil", "shasum"))]
+
+    @staticmethod
+    def kinds(lines):
+        """The first words of each call that say what it does."""
+        kinds = []
+        for line in lines:
+            words = line.split()
+            if words[0] == "ditto":
+                kinds.append("zip" if words[1] == "-c" else "copy")
+            elif words[0] == "codesign":
+                kinds.append("verify" if "--verify" in words else "sign")
+            elif words[0] == "xcrun":
+                kinds.append(words[2])
+            elif words[0] == "hdiutil":
+                kinds.append("image")
+        return kinds
+
+    def test_without_an_identity_the_signature_is_ad_hoc(self):
+        result, lines = self.calls_of()
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(self.kinds(lines), ["copy", "sign", "verify", "zip", "copy", "image"])
+        signing = next(line for line in lines if line.startswith("codesign"))
+        self.assertIn("--sign - --timestamp=none --options runtime", signing)
+        self.assertNotIn("entitlements", signing)
+        self.assertIn("Signed ad hoc", result.stdout)
+
+    def test_with_an_identity_the_image_is_signed_too(self):
+        result, lines = self.calls_of("--identity", "Developer ID Application: Somebody (TEAM)")
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(self.kinds(lines), ["copy", "sign", "verify", "zip", "copy", "image", "sign"])
+        self.assertIn("--sign Developer ID Application: Somebody (TEAM) --timestamp --options runtime", lines[1])
+
+    def test_what_is_packed_is_notarised_and_stapled(self):
+        result, lines = self.calls_of("--identity", "Somebody", "--notary", "profile")
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(self.kinds(lines),
+                         ["copy", "sign", "verify", "zip", "submit", "staple", "zip", "copy", "image", "sign",
+                          "submit", "staple"])
+        self.assertIn("--keychain-profile profile --wait", "\n".join(lines))
+
+    def test_the_image_holds_the_application_and_the_way_to_install_it(self):
+        _, lines = self.calls_of()
+        listing = "\n".join(lines)
+        self.assertRegex(listing, r"Applications -> /Applications")
+        self.assertRegex(listing, r"(?m)^d.* Orvane\.app$")
+
+    def test_only_a_signed_application_can_be_notarised(self):
+        result, _ = self.calls_of("--notary", "profile")
+        self.assertNotEqual(result.returncode, 0)
+        self.assertIn("Only an application signed with an identity", result.stderr)
+
+    def test_nothing_is_packed_after_a_failure(self):
+        result, lines = self.calls_of("--identity", "Somebody", "--notary", "profile", failing="codesign")
+        self.assertNotEqual(result.returncode, 0)
+        self.assertNotIn("zip", self.kinds(lines))
+        result, lines = self.calls_of("--identity", "Somebody", "--notary", "profile", failing="xcrun")
+        self.assertNotEqual(result.returncode, 0)
+        self.assertNotIn("image", self.kinds(lines))
+
+
+if __name__ == "__main__":
+    unittest.main()
