@@ -90,8 +90,16 @@ class TheProgram(unittest.TestCase):
             self.assertEqual(import_findings(program), [])
 
     def test_the_processor_that_wants_a_signature_has_one(self):
-        signed = {program.cpu: program.has_signature for program in self.slices}
-        self.assertTrue(signed.get("arm64", True))
+        for program in self.slices:
+            self.assertTrue(program.has_signature or program.cpu != "arm64")
+            self.assertEqual(program.signature_holds, program.has_signature, program.cpu)
+
+    def test_a_signature_of_a_changed_program_does_not_hold(self):
+        program = next(program for program in self.slices if program.has_signature)
+        start = self.data.index(struct.pack("<II", 0xFEEDFACF, mach_o.CPU_NUMBERS[program.cpu]))
+        changed = bytearray(self.data[start:start + program.size])
+        changed[len(changed) // 3] ^= 1
+        self.assertFalse(mach_o.read(bytes(changed))[0].signature_holds)
 
     def test_it_stays_within_its_size(self):
         for program in self.slices:
@@ -142,7 +150,7 @@ class TheChecks(unittest.TestCase):
 
     def program(self, **changes):
         values = {"cpu": "arm64", "size": 1, "libraries": [], "imports": [], "selectors": [], "minimum_system": "13.0",
-                  "has_signature": True}
+                  "has_signature": True, "signature_holds": True}
         return mach_o.Slice(**{**values, **changes})
 
     def test_an_import_that_is_not_allowed_is_found(self):

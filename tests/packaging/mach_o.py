@@ -1,11 +1,13 @@
 """Reads of a Mach-O program what a check of it needs: processors, imports, libraries, selectors, signature."""
 
 import dataclasses
+import hashlib
 import struct
 
 _FAT_MAGIC = 0xCAFEBABE
 _MAGIC_64 = 0xFEEDFACF
-_CPU_NAMES = {0x01000007: "x86_64", 0x0100000C: "arm64"}
+CPU_NUMBERS = {"x86_64": 0x01000007, "arm64": 0x0100000C}
+_CPU_NAMES = {number: name for name, number in CPU_NUMBERS.items()}
 _SEGMENT_64, _SYMTAB, _CODE_SIGNATURE, _BUILD_VERSION = 0x19, 0x2, 0x1D, 0x32
 # Plain, weak, re-exported, lazy and upward: all of them are loaded.
 _LOAD_DYLIBS = {0xC, 0x80000018, 0x8000001F, 0x20, 0x80000023}
@@ -27,7 +29,9 @@ class Slice:
     imports: list
     selectors: list
     minimum_system: str
+    # Whether there is a signature, and whether what it says of every page of the program is so.
     has_signature: bool
+    signature_holds: bool
 
 
 def _string(data, offset):
@@ -65,11 +69,32 @@ def _section_strings(data, command, wanted):
     return []
 
 
+def _signature_holds(data, offset):
+    """Compares the hashes of the signature's code directory with the pages that they stand for."""
+    magic, _, count = struct.unpack_from(">III", data, offset)
+    if magic != 0xFADE0CC0:
+        raise MachOError("the signature cannot be read")
+    for index in range(count):
+        _, place = struct.unpack_from(">II", data, offset + 12 + 8 * index)
+        directory = offset + place
+        if struct.unpack_from(">I", data, directory)[0] != 0xFADE0C02:
+            continue
+        hashes, _, _, slots, limit, hash_size, kind, _, page = struct.unpack_from(">5I4B", data, directory + 16)
+        if kind != 2:
+            raise MachOError("the signature is not made of SHA-256 hashes")
+        page_size = 1 << page
+        return limit == offset and slots == -(-limit // page_size) and all(
+            hashlib.sha256(data[slot * page_size:min((slot + 1) * page_size, limit)]).digest()
+            == data[directory + hashes + slot * hash_size:directory + hashes + (slot + 1) * hash_size]
+            for slot in range(slots))
+    return False
+
+
 def _read_slice(data):
     magic, cpu, _, _, command_count, _, _, _ = struct.unpack_from("<8I", data)
     if magic != _MAGIC_64 or cpu not in _CPU_NAMES:
         raise MachOError("not a 64-bit program of a Mac's processor")
-    libraries, selectors, symtab, minimum, signed = [], [], None, "", False
+    libraries, selectors, symtab, minimum, signature = [], [], None, "", None
     position = 32
     for _ in range(command_count):
         kind, size = struct.unpack_from("<II", data, position)
@@ -81,11 +106,13 @@ def _read_slice(data):
             minimum = _version(struct.unpack_from("<I", data, position + 12)[0])
         elif kind == _SEGMENT_64:
             selectors += _section_strings(data, position, "__objc_methname")
-        signed = signed or kind == _CODE_SIGNATURE
+        elif kind == _CODE_SIGNATURE:
+            signature = struct.unpack_from("<I", data, position + 8)[0]
         position += size
     if symtab is None:
         raise MachOError("there is no table of symbols")
-    return Slice(_CPU_NAMES[cpu], len(data), libraries, _imports(data, symtab, libraries), selectors, minimum, signed)
+    return Slice(_CPU_NAMES[cpu], len(data), libraries, _imports(data, symtab, libraries), selectors, minimum,
+                 signature is not None, signature is not None and _signature_holds(data, signature))
 
 
 def read(data):
