@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "desk/canvas/Blur.hpp"
 #include "desk/canvas/ShadowMask.hpp"
@@ -11,7 +12,7 @@
 namespace orvane::desk {
 namespace {
 
-enum class MaskKind { text, symbol, shadow };
+enum class MaskKind { text, symbol, shadow, layerShadow };
 
 /// Pixels from `left`, `top` up to but not including `right`, `bottom`.
 struct PixelBounds {
@@ -75,6 +76,31 @@ MaskKey keyOf(MaskKind kind, const std::string& content, const ui::Font& font,
       .add(placement.scaleY)
       .add(placement.phaseX)
       .add(placement.phaseY);
+}
+
+/// What a layer's surface with its top left there covers.
+SurfacePointer alphaOf(cairo_surface_t* picture, int x, int y) {
+  SurfacePointer alpha(cairo_image_surface_create(CAIRO_FORMAT_A8,
+                                                  cairo_image_surface_get_width(picture),
+                                                  cairo_image_surface_get_height(picture)));
+  const ContextPointer copy(cairo_create(alpha.get()));
+  cairo_set_source_surface(copy.get(), picture, -x, -y);
+  cairo_paint(copy.get());
+  return alpha;
+}
+
+/// The size of an image surface and its rows, one after the other.
+std::string bytesOf(const SurfacePointer& surface) {
+  cairo_surface_flush(surface.get());
+  const int width = cairo_image_surface_get_width(surface.get());
+  const int height = cairo_image_surface_get_height(surface.get());
+  const int stride = cairo_image_surface_get_stride(surface.get());
+  const auto* data = reinterpret_cast<const char*>(cairo_image_surface_get_data(surface.get()));
+  std::string bytes = std::to_string(width) + " ";
+  if (data != nullptr) {
+    bytes.append(data, static_cast<std::size_t>(stride) * static_cast<std::size_t>(height));
+  }
+  return bytes;
 }
 
 }  // namespace
@@ -240,23 +266,20 @@ void CairoCanvas::endLayer() {
 }
 
 void CairoCanvas::paintLayerShadow(const Layer& layer, const ui::PaintShadow& shadow) {
-  cairo_surface_t* picture = cairo_get_target(layer.context.get());
   const ui::Transform pixels = toPixels(context());
-  const SurfacePointer alpha(cairo_image_surface_create(CAIRO_FORMAT_A8,
-                                                        cairo_image_surface_get_width(picture),
-                                                        cairo_image_surface_get_height(picture)));
-  {
-    const ContextPointer copy(cairo_create(alpha.get()));
-    cairo_set_source_surface(copy.get(), picture, -layer.x, -layer.y);
-    cairo_paint(copy.get());
-  }
-  blurSurface(alpha.get(), sigmaInPixels(shadow, pixels), BlurEdge::transparent);
+  Mask alpha{alphaOf(cairo_get_target(layer.context.get()), layer.x, layer.y)};
+  const double sigma = sigmaInPixels(shadow, pixels);
+  const MaskKey key = MaskKey().add(MaskKind::layerShadow).add(sigma).add(bytesOf(alpha.surface));
+  const Mask& mask = resources_.masks.get(key, [&] {
+    blurSurface(alpha.surface.get(), sigma, BlurEdge::transparent);
+    return std::move(alpha);
+  });
   cairo_t* target = layer.context.get();
   cairo_reset_clip(target);
   cairo_identity_matrix(target);
   cairo_set_operator(target, CAIRO_OPERATOR_DEST_OVER);
   setColor(target, shadow.color);
-  cairo_mask_surface(target, alpha.get(), layer.x + shadow.offset.x * pixels.scaleX,
+  cairo_mask_surface(target, mask.surface.get(), layer.x + shadow.offset.x * pixels.scaleX,
                      layer.y + shadow.offset.y * pixels.scaleY);
 }
 

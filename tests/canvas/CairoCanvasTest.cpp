@@ -212,6 +212,22 @@ TEST_F(CairoCanvasTest, TheShadowOfALayerIsCastByTheWholePictureWithinItsOpacity
   EXPECT_EQ(at(21, 11), nothing);
 }
 
+TEST_F(CairoCanvasTest, ALayersShadowIsBlurredOnceForEachPictureAndFollowsIt) {
+  const auto draw = [&](double width) {
+    begin(40, 30).beginLayer({10, 8, 20, 10}, 1, ui::PaintShadow{red, 6, {0, 4}});
+    canvas->fill(Shape::rectangle({10, 8, width, 10}), Paint::solid(white));
+    canvas->endLayer();
+    return encodePng(surface.get());
+  };
+  const auto first = draw(12);
+  const std::size_t masks = resources.masks.count();
+  EXPECT_EQ(draw(12), first);
+  EXPECT_EQ(resources.masks.count(), masks);
+  EXPECT_NE(draw(13), first);
+  EXPECT_EQ(resources.masks.count(), masks + 1);
+  EXPECT_EQ(draw(12), first);
+}
+
 TEST_F(CairoCanvasTest, AShadowFallsIntoTheClipFromALayerOutsideOfIt) {
   begin(30, 10).save();
   canvas->clip(Shape::rectangle({15, 0, 15, 10}));
