@@ -5,6 +5,7 @@
 #include <iostream>
 #include <system_error>
 
+#include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/PinnedFonts.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "desk/gallery/SheetPainter.hpp"
@@ -23,6 +24,7 @@ int runGallery(const std::string& directory) {
   const MachineScope scope;
   scope.machine().process.start();
   DrawingResources resources;
+  addApplicationImages(resources.images);
   for (const GallerySheet& sheet : gallerySheets()) {
     for (const bool isDark : {false, true}) {
       const std::string name = sheet.name + (isDark ? "-dark.png" : "-light.png");
