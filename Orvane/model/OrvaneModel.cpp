@@ -152,7 +152,13 @@ void OrvaneModel::setHasAccessibilityPermission(bool hasPermission) {
 }
 
 void OrvaneModel::noteChecked() {
-  lastCheckedAt_.set(CFAbsoluteTimeGetCurrent());
+  const CFAbsoluteTime now = CFAbsoluteTimeGetCurrent();
+  if (now == lastCheckedAt_.value()) {
+    // Within one instant the guard may still have started or stopped, which nothing else announces.
+    changes_.notify();
+  } else {
+    lastCheckedAt_.set(now);
+  }
 }
 
 void OrvaneModel::refreshLaunchAtLoginStatus() {

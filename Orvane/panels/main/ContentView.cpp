@@ -59,12 +59,17 @@ View ContentView::windowBackground(bool isDark) const {
 
 View ContentView::trafficLights(const Environment& environment) const {
   const State<bool> isHovered = environment.state("isTrafficLightsHovered", false);
-  return HStack(trafficLightSpacing,
-                {TrafficLightButton::close(isHovered.value(), localized("Close", "关闭"),
-                                           actions.close),
-                 TrafficLightButton::minimise(isHovered.value(), localized("Minimise", "最小化"),
-                                              actions.minimise)})
-      .onHover([isHovered](bool isInside) { isHovered.set(isInside); });
+  // A frameless window has no title bar that would know these keys.
+  const View close =
+      View(TrafficLightButton::close(isHovered.value(), localized("Close", "关闭"), actions.close))
+          .keyboardShortcut(KeyboardShortcut::command("w"));
+  const View minimise =
+      View(TrafficLightButton::minimise(isHovered.value(), localized("Minimise", "最小化"),
+                                        actions.minimise))
+          .keyboardShortcut(KeyboardShortcut::command("m"));
+  return HStack(trafficLightSpacing, {close, minimise}).onHover([isHovered](bool isInside) {
+    isHovered.set(isInside);
+  });
 }
 
 View ContentView::appIcon(const Environment& environment) const {

@@ -4,6 +4,7 @@
 #include "Orvane/panels/main/DisplayCardTexts.hpp"
 #include "Orvane/panels/main/DisplayChoiceCard.hpp"
 #include "Orvane/panels/main/DockPanel.hpp"
+#include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/main/PanelIcon.hpp"
 #include "Orvane/panels/main/PrimaryActionButtonStyle.hpp"
 #include "Orvane/panels/main/SecondaryActionButtonStyle.hpp"
@@ -25,15 +26,18 @@ constexpr double panelSpacing = 10;
 constexpr Edges panelsPadding{.top = 15, .leading = 25, .bottom = 25, .trailing = 25};
 constexpr double pinPanelHeight = 269;
 constexpr double popUpPanelHeight = 121;
-/// The rows of the pin panel fill it to a few points; the picker brings air of its own.
-constexpr double pinPanelRowSpacing = 4;
-constexpr double popUpPanelRowSpacing = 8;
+/// The picker brings air of its own.
+constexpr double pinPanelRowSpacing = 2;
+constexpr double popUpPanelRowSpacing = 6;
+/// Room for a description of two lines, so that nothing moves when the hint takes its place.
+constexpr double popUpPanelHeaderHeight = 56;
 constexpr double pickerHeight = 154;
 constexpr double cardSpacing = 14;
-/// Room for what a raised card adds to its size, so that the scroll view does not cut it.
-constexpr double pickerSidePadding = 3;
+/// How far the picker reaches beyond its panel's content on both sides: room for what a raised card
+/// adds to its size, which the scroll view would cut.
+constexpr double pickerReach = 3;
 constexpr double headerSpacing = 14;
-constexpr double titleToDescription = 3;
+constexpr double titleToDescription = 2;
 constexpr double buttonSpacing = 10;
 constexpr double dockSettingsWidth = 190;
 
@@ -46,17 +50,31 @@ struct HeaderTexts {
   std::string description;
 };
 
+struct Description {
+  std::string text;
+
+  View body(const Environment& environment) const {
+    return Text(text)
+        .font(Font::system(13))
+        .foreground(OrvanePalette::secondaryText(environment.isDark()))
+        .fixedSizeVertical();
+  }
+};
+
 View header(const PanelIcon& icon, const HeaderTexts& texts, const StatusPill& pill) {
-  const View words = VStack(
-      titleToDescription, HorizontalAlignment::leading,
-      {Text(texts.title).font(Font::system(18, Weight::bold)).accessibilityRole(Role::heading),
-       Text(texts.description).font(Font::system(13)).foreground(Color::secondary())});
-  return HStack(headerSpacing, {icon, words.layoutPriority(1), Spacer(), pill});
+  const View title =
+      Text(texts.title).font(Font::system(18, Weight::bold)).accessibilityRole(Role::heading);
+  const View words = VStack(titleToDescription, HorizontalAlignment::leading,
+                            {title, Description{texts.description}});
+  // Read aloud, the pill says which mode it speaks of.
+  const View status = View(pill).accessibilityLabel(texts.title).accessibilityValue(pill.text);
+  return HStack(headerSpacing, {icon, words.layoutPriority(1), Spacer(), status});
 }
 
-/// Fills the height that the panel leaves it, its content in the middle of it.
-View panel(double height, const View& content) {
-  return DockPanel{content.height(height - 2 * DockPanel::padding)};
+/// The rows are a little higher than what the padding leaves of the panel's height. They reach into
+/// the padding evenly above and below rather than lose some of their own height.
+View panel(double height, const View& rows) {
+  return DockPanel{rows.fixedSizeVertical().height(height - 2 * DockPanel::padding)};
 }
 
 }  // namespace
@@ -89,8 +107,9 @@ View ContentView::displayPicker() const {
   };
   const auto identify = [](const DisplaySnapshot& display) { return display.id; };
   const View cards = HStack(cardSpacing, {forEach(displays, identify, card)});
-  return ScrollView(cards.padding(Edges::horizontal(pickerSidePadding)).height(pickerHeight))
-      .height(pickerHeight);
+  return ScrollView(cards.padding(Edges::horizontal(pickerReach)).height(pickerHeight))
+      .height(pickerHeight)
+      .padding(Edges::horizontal(-pickerReach));
 }
 
 View ContentView::pinButton() const {
@@ -116,7 +135,8 @@ View ContentView::hideDockPanel() const {
       {.title = localized("Prevent Dock Pop-Up", "防止 Dock 弹出"), .description = description},
       {.text = isPreventing() ? localized("Enabled", "已启用") : localized("Off", "未启用"),
        .isActive = isPreventing()});
-  return panel(popUpPanelHeight, VStack(popUpPanelRowSpacing, {head, popUpButtons()}));
+  return panel(popUpPanelHeight,
+               VStack(popUpPanelRowSpacing, {head.height(popUpPanelHeaderHeight), popUpButtons()}));
 }
 
 View ContentView::popUpButtons() const {

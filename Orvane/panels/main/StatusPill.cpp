@@ -24,7 +24,8 @@ View StatusPill::body(const Environment& environment) const {
   const bool isDark = environment.isDark();
   return Text(text)
       .font(Font::system(13, Weight::bold))
-      .foreground(isActive ? Color::accent() : Color::secondary())
+      .foreground(isActive ? OrvanePalette::accentText(isDark)
+                           : OrvanePalette::secondaryText(isDark))
       .fixedSize()
       .padding(Edges::horizontal(13).vertical(8))
       .background(Capsule()

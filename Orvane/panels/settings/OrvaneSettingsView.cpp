@@ -18,7 +18,9 @@ namespace {
 
 constexpr double tileSide = 30;
 constexpr double tileCornerRadius = 8;
-constexpr Edges headerPadding{.top = 14, .leading = 20, .bottom = 10, .trailing = 18};
+constexpr Edges headerPadding{.top = 8, .leading = 20, .bottom = 8, .trailing = 18};
+/// At least so much above and below the cards.
+constexpr double leastMargin = 10;
 constexpr double entranceOffset = 10;
 constexpr double entranceSeconds = 0.24;
 
@@ -41,22 +43,34 @@ std::string OrvaneSettingsView::localized(std::string_view english,
   return model->appLanguage().value().localized(english, chinese);
 }
 
+std::function<void()> OrvaneSettingsView::closing(const Environment& environment) const {
+  return [onClose = onClose, environment] {
+    if (onClose) {
+      onClose();
+    } else {
+      environment.dismiss();
+    }
+  };
+}
+
+View OrvaneSettingsView::closingByCommand(const Environment& environment) const {
+  return Button(closing(environment), Rectangle().frame(0, 0))
+      .keyboardShortcut(KeyboardShortcut::command("w"))
+      .opacity(0)
+      .hitTesting(false)
+      .accessibilityHidden();
+}
+
 View OrvaneSettingsView::header(const Environment& environment) const {
   const std::string closeTitle = localized("Close", "关闭");
-  const View closeButton = Button(
-                               [onClose = onClose, environment] {
-                                 if (onClose) {
-                                   onClose();
-                                 } else {
-                                   environment.dismiss();
-                                 }
-                               },
-                               Symbol("xmark").font(Font::system(12, Weight::bold)).frame(28, 28))
-                               .style(SettingsIconButtonStyle{})
-                               .focusRing(ShapeForm::circle())
-                               .keyboardShortcut(KeyboardShortcut::cancelAction())
-                               .tooltip(closeTitle)
-                               .accessibilityLabel(closeTitle);
+  const View closeButton =
+      Button(closing(environment),
+             Symbol("xmark").font(Font::system(12, Weight::bold)).frame(28, 28))
+          .style(SettingsIconButtonStyle{})
+          .focusRing(ShapeForm::circle())
+          .keyboardShortcut(KeyboardShortcut::cancelAction())
+          .tooltip(closeTitle)
+          .accessibilityLabel(closeTitle);
   return HStack(10, {headerTile(),
                      Text(localized("Settings", "设置"))
                          .font(Font::system(17, Weight::bold))
@@ -74,8 +88,9 @@ View OrvaneSettingsView::body(const Environment& environment) const {
   const View sections = cards()
                             .opacity(hasAppeared.value() ? 1 : 0)
                             .offset(0, hasAppeared.value() ? 0 : entranceOffset);
-  return VStack(0, {header(environment), sections, Spacer()})
+  return VStack(0, {header(environment), Spacer(leastMargin), sections, Spacer(leastMargin)})
       .frame(width, height)
+      .background(closingByCommand(environment))
       .background(Rectangle().fill(SettingsPalette::windowGradient(environment.isDark())))
       .onAppear([hasAppeared] { hasAppeared.set(true, Curve::easeOut(entranceSeconds)); });
 }

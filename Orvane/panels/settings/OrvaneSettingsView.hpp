@@ -24,6 +24,10 @@ struct OrvaneSettingsView {
 
  private:
   [[nodiscard]] std::string localized(std::string_view english, std::string_view chinese) const;
+  /// What closes the panel.
+  [[nodiscard]] std::function<void()> closing(const ui::Environment& environment) const;
+  /// The close button has Escape; this is Command-W, for the keyboard alone.
+  [[nodiscard]] ui::View closingByCommand(const ui::Environment& environment) const;
   [[nodiscard]] ui::View header(const ui::Environment& environment) const;
   [[nodiscard]] ui::View cards() const;
   [[nodiscard]] ui::View languageCard() const;

@@ -23,7 +23,7 @@ using namespace ui;
 namespace {
 
 constexpr double cardSpacing = 10;
-constexpr Edges cardsPadding{.top = 12, .leading = 18, .bottom = 14, .trailing = 18};
+constexpr double sidePadding = 18;
 constexpr double backgroundTintOpacity = 0.05;
 constexpr double textToButtons = 9;
 constexpr double buttonSpacing = 8;
@@ -43,7 +43,10 @@ View button(const std::string& symbol, const std::string& title, std::function<v
 }
 
 View statement(const std::string& text) {
-  return Text(text).font(Font::callout()).foreground(Color::secondary()).fixedSizeVertical();
+  return Text(text)
+      .font(Font::callout())
+      .foreground(SettingsPalette::statementText())
+      .fixedSizeVertical();
 }
 
 SettingsSection section(const std::string& symbol, const std::string& title, const Color& tint,
@@ -59,7 +62,7 @@ SettingsSection section(const std::string& symbol, const std::string& title, con
 
 View OrvaneSettingsView::cards() const {
   return VStack(cardSpacing, {languageCard(), shortcutCard(), privacyCard(), supportCard()})
-      .padding(cardsPadding);
+      .padding(Edges::horizontal(sidePadding));
 }
 
 View OrvaneSettingsView::languageCard() const {

@@ -32,6 +32,10 @@ Color buttonFill() {
   return Color::rgb(0.85, 0.93, 1.0);
 }
 
+Color statementText() {
+  return Color::primary().opacity(0.72);
+}
+
 Gradient windowGradient(bool isDark) {
   return isDark ? Gradient::linear({Color::rgb(0.055, 0.075, 0.095).opacity(0.98),
                                     Color::rgb(0.03, 0.07, 0.1).opacity(0.94),
@@ -42,8 +46,7 @@ Gradient windowGradient(bool isDark) {
 
 Gradient headerGradient(bool isDark) {
   return Gradient::linear({Color::white().opacity(isDark ? 0.075 : 0.58),
-                           blue().opacity(isDark ? 0.12 : 0.1), mint().opacity(0.08)},
-                          UnitPoint::topLeading(), UnitPoint::bottomTrailing());
+                           blue().opacity(isDark ? 0.12 : 0.1), mint().opacity(0.08)});
 }
 
 Gradient dividerGradient(bool isDark) {

@@ -15,6 +15,9 @@ namespace orvane::SettingsPalette {
 [[nodiscard]] ui::Color windowBottom();
 [[nodiscard]] ui::Color buttonFill();
 
+/// Of the statements: fainter than the titles, and never below a contrast of 4.5 to 1.
+[[nodiscard]] ui::Color statementText();
+
 [[nodiscard]] ui::Gradient windowGradient(bool isDark);
 [[nodiscard]] ui::Gradient headerGradient(bool isDark);
 [[nodiscard]] ui::Gradient dividerGradient(bool isDark);

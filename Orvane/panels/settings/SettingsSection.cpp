@@ -15,7 +15,8 @@ namespace {
 constexpr double cornerRadius = 10;
 constexpr double rowSpacing = 12;
 constexpr double headerSpacing = 8;
-constexpr Edges cardPadding{.top = 10, .leading = 14, .bottom = 11, .trailing = 14};
+/// Four cards must fit into the panel, so there is little to give above and below.
+constexpr Edges cardPadding{.top = 8, .leading = 14, .bottom = 8, .trailing = 14};
 constexpr double hoverSeconds = 0.16;
 
 double borderOpacity(bool isDark, bool isHovered) {

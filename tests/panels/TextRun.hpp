@@ -1,0 +1,71 @@
+// TextRun is one line of text as a panel draws it, with its place on the panel.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Orvane/ui/Canvas.hpp"
+#include "desk/canvas/TextShaper.hpp"
+
+namespace orvane {
+
+struct TextRun {
+  std::string line;
+  ui::Font font;
+  ui::Rgba color;
+  /// In points from the panel's top left corner, from the top of its capitals to below its
+  /// baseline.
+  ui::Rect frame;
+  /// Less than 1 in a layer that is faded, as a disabled control is.
+  double opacity = 1;
+};
+
+/// A canvas that draws nothing and keeps the texts.
+class TextCollector : public ui::Canvas {
+ public:
+  explicit TextCollector(desk::TextShaper& shaper) : shaper_(shaper) {}
+
+  [[nodiscard]] const std::vector<TextRun>& runs() const { return runs_; }
+
+  double scaleFactor() const override { return 1; }
+  void save() override { states_.push_back(state_); }
+  void restore() override {
+    state_ = states_.back();
+    states_.pop_back();
+  }
+  void transform(const ui::Transform& transform) override {
+    state_.transform = state_.transform.after(transform);
+  }
+  void clip(const ui::Shape&) override {}
+  void fill(const ui::Shape&, const ui::Paint&) override {}
+  void stroke(const ui::Shape&, const ui::Paint&, double) override {}
+  void shadow(const ui::Shape&, const ui::PaintShadow&) override {}
+  void beginLayer(const ui::Rect&, double opacity, const std::optional<ui::PaintShadow>&) override {
+    save();
+    state_.opacity *= opacity;
+  }
+  void endLayer() override { restore(); }
+  void text(const std::string& line, const ui::Font& font, const ui::Rgba& color,
+            ui::Point baseline) override {
+    constexpr double capitals = 0.75;
+    constexpr double below = 0.2;
+    const ui::Rect local{baseline.x, baseline.y - capitals * font.size,
+                         shaper_.measure(line, font).width, (capitals + below) * font.size};
+    runs_.push_back({line, font, color, state_.transform.apply(local), state_.opacity});
+  }
+  void image(const std::string&, const ui::Rect&) override {}
+  void symbol(const std::string&, const ui::Font&, const ui::Rgba&, const ui::Rect&) override {}
+
+ private:
+  struct State {
+    ui::Transform transform;
+    double opacity = 1;
+  };
+
+  desk::TextShaper& shaper_;
+  State state_;
+  std::vector<State> states_;
+  std::vector<TextRun> runs_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,154 @@
+// The panels by keyboard alone, and as a screen reader finds them.
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/panels/PanelFixture.hpp"
+
+namespace orvane {
+namespace {
+
+class ContentViewKeyboardTest : public PanelFixture {
+ protected:
+  [[nodiscard]] std::string focused(const std::string& surface) {
+    for (const ui::SemanticsNode& node : elements(surface)) {
+      if (node.isFocused) {
+        return node.label;
+      }
+    }
+    return "nothing";
+  }
+  /// What Tab reaches, until it comes round.
+  [[nodiscard]] std::vector<std::string> tabOrder(const std::string& surface, bool backwards) {
+    std::vector<std::string> order;
+    constexpr std::size_t enough = 30;
+    while (order.size() < enough) {
+      key(ui::Key::tab, backwards);
+      const std::string reached = focused(surface);
+      if (!order.empty() && reached == order.front()) {
+        break;
+      }
+      order.push_back(reached);
+    }
+    return order;
+  }
+};
+
+TEST_F(ContentViewKeyboardTest, TabReachesEveryControlOfTheMainPanelInReadingOrder) {
+  openMain();
+  press("Prevent Dock Pop-Up");
+  machine.advance(1);
+  const std::vector<std::string> order{
+      "Close", "Minimise", "Settings",          "Display",           "DELL",
+      "LG",    "Pin Dock", "Allow Dock Pop-Up", "Open Dock Settings"};
+  EXPECT_EQ(tabOrder(mainPanel, false), order);
+  std::vector<std::string> controls;
+  for (const ui::SemanticsNode& node : elements(mainPanel)) {
+    if (node.isControl()) {
+      controls.push_back(node.label);
+    }
+  }
+  EXPECT_EQ(controls, order);
+}
+
+TEST_F(ContentViewKeyboardTest, ShiftTabGoesTheOtherWay) {
+  openMain();
+  const std::vector<std::string> order = tabOrder(mainPanel, true);
+  ASSERT_EQ(order.size(), 8U);
+  EXPECT_EQ(order.front(), "Prevent Dock Pop-Up");
+  EXPECT_EQ(order.back(), "Close");
+}
+
+TEST_F(ContentViewKeyboardTest, TabReachesEveryControlOfTheSettingsInReadingOrder) {
+  openSettings();
+  EXPECT_EQ(
+      tabOrder(settingsPanel, false),
+      (std::vector<std::string>{"Close", "Language", "Temporary Unlock Shortcut", "Privacy Policy",
+                                "Accessibility Settings", "Contact Support"}));
+}
+
+TEST_F(ContentViewKeyboardTest, SpaceOnACardChoosesItsDisplay) {
+  openMain();
+  for (int times = 0; times < 5; ++times) {
+    key(ui::Key::tab);
+  }
+  ASSERT_EQ(focused(mainPanel), "DELL");
+  key(ui::Key::space);
+  EXPECT_EQ(model().selectedDisplayID().value(), "DISPLAY-2");
+}
+
+TEST_F(ContentViewKeyboardTest, CardsAreRadioButtonsOfWhichOneIsSelected) {
+  openMain();
+  int selected = 0;
+  for (const ui::SemanticsNode& card : withRole(ui::Role::radioButton, mainPanel)) {
+    selected += card.isSelected ? 1 : 0;
+    EXPECT_TRUE(card.isFocusable);
+    EXPECT_FALSE(card.value.empty()) << card.label;
+  }
+  EXPECT_EQ(selected, 1);
+}
+
+TEST_F(ContentViewKeyboardTest, ThePillsAreTextsWithAValue) {
+  openMain();
+  for (const char* title : {"Pin Dock to a Display", "Prevent Dock Pop-Up"}) {
+    int pills = 0;
+    for (const ui::SemanticsNode& node : withRole(ui::Role::staticText, mainPanel)) {
+      if (node.label == title && !node.value.empty()) {
+        ++pills;
+        EXPECT_FALSE(node.isControl());
+      }
+    }
+    EXPECT_EQ(pills, 1) << title;
+  }
+}
+
+TEST_F(ContentViewKeyboardTest, PickersArePopUpButtonsWithTheirChoice) {
+  openSettings();
+  const auto pickers = withRole(ui::Role::popUpButton, settingsPanel);
+  ASSERT_EQ(pickers.size(), 2U);
+  EXPECT_EQ(pickers[0].label, "Language");
+  EXPECT_EQ(pickers[0].value, "Follow System");
+  EXPECT_EQ(pickers[1].label, "Temporary Unlock Shortcut");
+  EXPECT_EQ(pickers[1].value, "⌥ Option");
+}
+
+TEST_F(ContentViewKeyboardTest, EscapeClosesTheSettingsAndOnlyThem) {
+  openSettings();
+  key(ui::Key::escape);
+  EXPECT_FALSE(isOpen(settingsPanel));
+  EXPECT_TRUE(isOpen(mainPanel));
+  key(ui::Key::escape);
+  EXPECT_TRUE(isOpen(mainPanel));
+}
+
+TEST_F(ContentViewKeyboardTest, CommandWClosesTheFrontPanel) {
+  openSettings();
+  command("w");
+  EXPECT_FALSE(isOpen(settingsPanel));
+  ASSERT_TRUE(isOpen(mainPanel));
+  command("w");
+  EXPECT_FALSE(isOpen(mainPanel));
+  EXPECT_TRUE(application.isRunning());
+}
+
+TEST_F(ContentViewKeyboardTest, CommandMMinimisesTheMainPanel) {
+  openMain();
+  command("m");
+  EXPECT_FALSE(isOpen(mainPanel));
+  application.reopen();
+  EXPECT_TRUE(isOpen(mainPanel));
+}
+
+TEST_F(ContentViewKeyboardTest, WhatIsOnlyForTheKeyboardIsNeitherSeenNorReached) {
+  openSettings();
+  int closes = 0;
+  for (const ui::SemanticsNode& node : elements(settingsPanel)) {
+    closes += node.label == "Close" ? 1 : 0;
+    EXPECT_FALSE(node.isControl() && node.label.empty());
+  }
+  EXPECT_EQ(closes, 1);
+}
+
+}  // namespace
+}  // namespace orvane

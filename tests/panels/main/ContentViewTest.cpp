@@ -1,0 +1,269 @@
+// The main panel says what the model says, and its controls call the model.
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/panels/PanelFixture.hpp"
+
+namespace orvane {
+namespace {
+
+const std::string pinTitle = "Pin Dock to a Display";
+const std::string preventTitle = "Prevent Dock Pop-Up";
+const std::string hint =
+    "If the Dock is still visible, manually enable “Automatically hide and show the Dock”";
+
+class ContentViewTest : public PanelFixture {
+ protected:
+  /// The button of the pop-up panel, which has the same title as the panel.
+  [[nodiscard]] bool hasButton(const std::string& label) {
+    for (const ui::SemanticsNode& node : withRole(ui::Role::button, mainPanel)) {
+      if (node.label == label) {
+        return true;
+      }
+    }
+    return false;
+  }
+  [[nodiscard]] std::vector<std::string> cards() {
+    std::vector<std::string> found;
+    for (const ui::SemanticsNode& card : withRole(ui::Role::radioButton, mainPanel)) {
+      found.push_back(card.label + "/" + card.value + (card.isSelected ? "/selected" : ""));
+    }
+    return found;
+  }
+};
+
+TEST_F(ContentViewTest, AtRestNothingIsPinnedAndNothingPrevented) {
+  openMain();
+  EXPECT_EQ(pill(pinTitle), "Not Pinned");
+  EXPECT_EQ(pill(preventTitle), "Off");
+  EXPECT_TRUE(element("Dock stays on the selected display"));
+  EXPECT_TRUE(element("Prevents screen edges from bringing up the Dock"));
+  EXPECT_TRUE(hasButton("Pin Dock"));
+  EXPECT_TRUE(hasButton("Prevent Dock Pop-Up"));
+  EXPECT_FALSE(hasButton("Open Dock Settings"));
+  EXPECT_EQ(drawn("symbol lock "), 2) << "the panel's icon and the button's";
+  EXPECT_EQ(drawn("symbol eye.slash "), 2);
+  EXPECT_EQ(drawn("symbol gearshape "), 1);
+}
+
+TEST_F(ContentViewTest, ThePinButtonPinsAndUnpins) {
+  openMain();
+  ASSERT_TRUE(press("Pin Dock"));
+  machine.advance(1);
+  EXPECT_TRUE(model().isGuardRunning());
+  EXPECT_FALSE(model().hidesDockOnAllDisplays().value());
+  EXPECT_EQ(pill(pinTitle), "Pinned");
+  EXPECT_EQ(pill(preventTitle), "Off");
+  EXPECT_FALSE(hasButton("Pin Dock"));
+  EXPECT_EQ(drawn("symbol lock.open "), 1);
+  EXPECT_GT(drawn("rgba(1 0.231"), 0) << "the button is red";
+  ASSERT_TRUE(press("Unpin Dock"));
+  machine.advance(1);
+  EXPECT_FALSE(model().isGuardRunning());
+  EXPECT_EQ(pill(pinTitle), "Not Pinned");
+  EXPECT_EQ(drawn("rgba(1 0.231"), 0);
+}
+
+TEST_F(ContentViewTest, ThePreventButtonPreventsAndAllows) {
+  openMain();
+  ASSERT_TRUE(press("Prevent Dock Pop-Up"));
+  machine.advance(1);
+  EXPECT_TRUE(model().isGuardRunning());
+  EXPECT_TRUE(model().hidesDockOnAllDisplays().value());
+  EXPECT_EQ(pill(pinTitle), "Not Pinned");
+  EXPECT_EQ(pill(preventTitle), "Enabled");
+  EXPECT_TRUE(element(hint));
+  EXPECT_FALSE(element("Prevents screen edges from bringing up the Dock"));
+  EXPECT_EQ(drawn("symbol eye "), 1);
+  ASSERT_TRUE(press("Open Dock Settings"));
+  EXPECT_EQ(machine.links.opened().size(), 1U);
+  ASSERT_TRUE(press("Allow Dock Pop-Up"));
+  machine.advance(1);
+  EXPECT_FALSE(model().isGuardRunning());
+  EXPECT_EQ(pill(preventTitle), "Off");
+  EXPECT_FALSE(hasButton("Open Dock Settings"));
+}
+
+TEST_F(ContentViewTest, AStoredPreventModeShowsNothingWhileTheGuardDoesNotRun) {
+  model().setHidesDockOnAllDisplays(true);
+  ASSERT_FALSE(model().isGuardRunning());
+  openMain();
+  EXPECT_EQ(pill(preventTitle), "Off");
+  EXPECT_EQ(pill(pinTitle), "Not Pinned");
+  EXPECT_TRUE(element("Prevents screen edges from bringing up the Dock"));
+  EXPECT_FALSE(element(hint));
+  EXPECT_TRUE(hasButton("Prevent Dock Pop-Up"));
+  EXPECT_FALSE(hasButton("Open Dock Settings"));
+  // The system's gray, 142 142 147, in the icon's gradient.
+  EXPECT_GT(drawn("rgba(0.557 0.557 0.576"), 0);
+}
+
+TEST_F(ContentViewTest, WithoutDisplaysThePickerIsAnEmptyRow) {
+  detachAll();
+  openMain();
+  const std::vector<ui::SemanticsNode> areas = withRole(ui::Role::scrollArea, mainPanel);
+  EXPECT_TRUE(cards().empty());
+  for (const ui::SemanticsNode& area : areas) {
+    EXPECT_EQ(area.frame.height, 154);
+  }
+  ASSERT_TRUE(element("Pin Dock"));
+}
+
+TEST_F(ContentViewTest, ThePinButtonIsEnabledByAStoredTargetThatIsNotAttached) {
+  model().refreshDisplays();
+  ASSERT_TRUE(model().selectedDisplayID().value());
+  detachAll();
+  openMain();
+  EXPECT_TRUE(model().displays().value().empty());
+  EXPECT_TRUE(element("Pin Dock")->isEnabled);
+}
+
+TEST_F(ContentViewTest, ThePinButtonIsDisabledWithoutATarget) {
+  detachAll();
+  application.terminate();
+  machine.userDefaults.remove("selectedDisplayID");
+  application.launch();
+  openMain();
+  ASSERT_FALSE(model().selectedDisplayID().value());
+  EXPECT_FALSE(element("Pin Dock")->isEnabled);
+  EXPECT_FALSE(press("Pin Dock"));
+}
+
+TEST_F(ContentViewTest, ThereIsACardForEachDisplayInTheModelsOrder) {
+  openMain();
+  EXPECT_EQ(cards(), (std::vector<std::string>{"Display/Main Display/selected",
+                                               "DELL/Right Display", "LG/Upper Display"}));
+  EXPECT_EQ(drawn("image DisplayLaptop "), 1);
+  EXPECT_EQ(drawn("image DisplayMonitor "), 2);
+  EXPECT_EQ(drawn("symbol checkmark "), 1);
+  attach(4, {3360, 0, 1920, 1080}, "HP", false);
+  machine.advance(1);
+  EXPECT_EQ(cards().size(), 4U);
+}
+
+TEST_F(ContentViewTest, APressOnACardChoosesItsDisplay) {
+  openMain();
+  ASSERT_TRUE(press("LG"));
+  machine.advance(1);
+  EXPECT_EQ(model().selectedDisplayID().value(), "DISPLAY-3");
+  EXPECT_EQ(cards(), (std::vector<std::string>{"Display/Main Display", "DELL/Right Display",
+                                               "LG/Upper Display/selected"}));
+  EXPECT_EQ(drawn("symbol checkmark "), 1);
+}
+
+TEST_F(ContentViewTest, OpeningThePanelRefreshesTheDisplays) {
+  EXPECT_TRUE(model().displays().value().empty());
+  application.reopen();
+  EXPECT_EQ(model().displays().value().size(), 3U);
+}
+
+TEST_F(ContentViewTest, APermissionGrantedMeanwhileIsNoticedWithinASecond) {
+  machine.permission.setTrusted(false);
+  openMain();
+  ASSERT_FALSE(model().hasAccessibilityPermission().value());
+  machine.permission.setTrusted(true);
+  machine.advance(0.99);
+  machine.advance(0.02);
+  EXPECT_TRUE(model().hasAccessibilityPermission().value());
+  machine.permission.setTrusted(false);
+  machine.advance(1.01);
+  EXPECT_FALSE(model().hasAccessibilityPermission().value());
+}
+
+TEST_F(ContentViewTest, OnceThePanelIsClosedNobodyLooksForThePermission) {
+  openMain();
+  ASSERT_TRUE(press("Close"));
+  machine.permission.setTrusted(false);
+  machine.advance(5);
+  EXPECT_TRUE(model().hasAccessibilityPermission().value());
+}
+
+TEST_F(ContentViewTest, TheTitleBarClosesMinimisesAndOpensTheSettings) {
+  openMain();
+  ASSERT_TRUE(press("Settings"));
+  EXPECT_TRUE(isOpen(settingsPanel));
+  EXPECT_EQ(window(settingsPanel)->parent.lock(), window(mainPanel));
+  ASSERT_TRUE(press("Minimise"));
+  EXPECT_FALSE(isOpen(mainPanel));
+  application.reopen();
+  EXPECT_TRUE(isOpen(mainPanel));
+  ASSERT_TRUE(press("Close"));
+  EXPECT_FALSE(isOpen(mainPanel));
+  EXPECT_FALSE(isOpen(settingsPanel));
+  EXPECT_TRUE(application.isRunning());
+}
+
+TEST_F(ContentViewTest, BothTrafficLightsShowTheirSymbolsTogether) {
+  openMain();
+  EXPECT_EQ(drawn("symbol xmark ") + drawn("symbol minus "), 0);
+  hover("Minimise");
+  machine.advance(0.5);
+  EXPECT_EQ(drawn("symbol xmark "), 1);
+  EXPECT_EQ(drawn("symbol minus "), 1);
+  hover("Pin Dock");
+  machine.advance(0.5);
+  EXPECT_EQ(drawn("symbol xmark ") + drawn("symbol minus "), 0);
+}
+
+TEST_F(ContentViewTest, TheSettingsButtonHasATooltip) {
+  openMain();
+  hover("Settings");
+  machine.advance(1.5);
+  ASSERT_TRUE(server().tooltips.shown());
+  EXPECT_EQ(server().tooltips.shown()->text, "Settings");
+}
+
+TEST_F(ContentViewTest, ALanguageThatChangesRedrawsEveryTextAtOnce) {
+  openMain();
+  ASSERT_TRUE(press("Prevent Dock Pop-Up"));
+  machine.advance(1);
+  model().setAppLanguage(OrvaneLanguage::chinese);
+  EXPECT_EQ(pill("固定 Dock 到指定显示器"), "未固定");
+  EXPECT_EQ(pill("防止 Dock 弹出"), "已启用");
+  for (const char* text :
+       {"关闭", "最小化", "设置", "Dock 固定在选中的显示器",
+        "如果你还看得到 Dock 栏，需要手动开启“自动隐藏和显示程序坞”", "固定 Dock", "允许 Dock 弹出",
+        "打开 Dock 设置", "Orvane", "内建显示器"}) {
+    EXPECT_TRUE(element(text)) << text;
+  }
+  EXPECT_EQ(cards(), (std::vector<std::string>{"内建显示器/主显示器/selected", "DELL/右侧显示器",
+                                               "LG/上方显示器"}));
+  ASSERT_TRUE(press("允许 Dock 弹出"));
+  EXPECT_TRUE(element("阻止屏幕边缘触发 Dock 弹出"));
+  EXPECT_EQ(pill("防止 Dock 弹出"), "未启用");
+  ASSERT_TRUE(press("固定 Dock"));
+  EXPECT_EQ(pill("固定 Dock 到指定显示器"), "已固定");
+  EXPECT_TRUE(element("解除固定 Dock"));
+  model().setAppLanguage(OrvaneLanguage::english);
+  EXPECT_EQ(pill(pinTitle), "Pinned");
+  EXPECT_FALSE(element("解除固定 Dock"));
+}
+
+TEST_F(ContentViewTest, AnotherAppearanceRecoloursThePanelAndItsImages) {
+  openMain();
+  const auto day = drawing(mainPanel);
+  machine.appearance.isDark = true;
+  const auto night = drawing(mainPanel);
+  EXPECT_NE(day, night);
+  EXPECT_EQ(drawn("image DisplayLaptop-dark "), 1);
+  EXPECT_EQ(drawn("image DisplayMonitor-dark "), 2);
+  machine.appearance.isDark = false;
+  EXPECT_EQ(drawing(mainPanel), day);
+}
+
+TEST_F(ContentViewTest, TheIconOfTheApplicationStandsBesideItsName) {
+  openMain();
+  EXPECT_EQ(drawn("image AppIcon "), 1);
+  EXPECT_EQ(drawn("symbol dock.rectangle "), 0);
+}
+
+TEST_F(ContentViewTest, WithoutAnIconASymbolStandsInItsPlace) {
+  server().resources().images.remove("AppIcon");
+  openMain();
+  EXPECT_EQ(drawn("symbol dock.rectangle "), 1);
+}
+
+}  // namespace
+}  // namespace orvane

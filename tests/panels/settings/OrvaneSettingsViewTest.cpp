@@ -1,0 +1,230 @@
+// The settings panel: its four cards, its pickers bound both ways, its links, its end.
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/panels/settings/OrvaneSettingsView.hpp"
+#include "Orvane/panels/settings/SettingsPalette.hpp"
+#include "Orvane/platform/appkit/HostingView.hpp"
+#include "Orvane/ui/SyntheticTextMeasurer.hpp"
+#include "Orvane/ui/ViewHost.hpp"
+#include "tests/panels/PanelFixture.hpp"
+
+namespace orvane {
+namespace {
+
+class OrvaneSettingsViewTest : public PanelFixture {
+ protected:
+  [[nodiscard]] std::vector<std::string> headings() {
+    std::vector<std::string> found;
+    for (const ui::SemanticsNode& node : withRole(ui::Role::heading, settingsPanel)) {
+      found.push_back(node.label);
+    }
+    return found;
+  }
+  [[nodiscard]] std::string valueOf(const std::string& picker) {
+    for (const ui::SemanticsNode& node : withRole(ui::Role::popUpButton, settingsPanel)) {
+      if (node.label == picker) {
+        return node.value;
+      }
+    }
+    return "no picker";
+  }
+  /// The items of a picker's menu.
+  [[nodiscard]] std::vector<std::string> itemsOf(const std::string& picker) {
+    std::vector<std::string> titles;
+    EXPECT_TRUE(press(picker, settingsPanel));
+    if (server().menus.isOpen()) {
+      for (const auto& item : server().menus.menu()->items) {
+        titles.push_back(item.title);
+      }
+      server().menus.close();
+      machine.runDue();
+    }
+    return titles;
+  }
+};
+
+TEST_F(OrvaneSettingsViewTest, HasFourSectionsAndNoLaunchAtLogin) {
+  openSettings();
+  EXPECT_EQ(headings(),
+            (std::vector<std::string>{"Settings", "Language", "Temporary Unlock Shortcut",
+                                      "Privacy", "Support"}));
+  EXPECT_TRUE(withRole(ui::Role::toggle, settingsPanel).empty());
+  for (const ui::SemanticsNode& node : elements(settingsPanel)) {
+    EXPECT_EQ(node.label.find("Login"), std::string::npos);
+  }
+}
+
+TEST_F(OrvaneSettingsViewTest, SaysEverythingToTheLetter) {
+  openSettings();
+  for (const char* text :
+       {"Use Orvane in", "Hold the shortcut to allow Dock temporarily",
+        "Orvane only reads display layout and mouse position on this Mac to prevent non-target "
+        "displays from triggering Dock. It does not collect, upload, or share personal data",
+        "Privacy Policy", "Accessibility Settings",
+        "Contact support by email if you run into display detection, permission, or locking issues",
+        "Contact Support", "Close"}) {
+    EXPECT_TRUE(element(text, settingsPanel)) << text;
+  }
+  for (const char* symbol : {"gearshape.fill", "xmark", "globe", "keyboard", "hand.raised",
+                             "doc.text", "lock.shield", "lifepreserver", "envelope"}) {
+    EXPECT_EQ(drawn(std::string("symbol ") + symbol + " ", settingsPanel), 1) << symbol;
+  }
+}
+
+TEST_F(OrvaneSettingsViewTest, ChoosingChineseSwitchesEveryTextOfAllPanelsAtOnce) {
+  openSettings();
+  ASSERT_TRUE(pick("Language", "Chinese"));
+  EXPECT_EQ(model().appLanguage().value(), OrvaneLanguage::chinese);
+  EXPECT_EQ(headings(),
+            (std::vector<std::string>{"设置", "语言", "临时解锁快捷键", "隐私", "用户支持"}));
+  for (const char* text :
+       {"Orvane 使用语言", "按住快捷键时允许 Dock 临时弹出",
+        "Orvane 只在本机读取显示器排列和鼠标位置，用于阻止非目标显示器触发 "
+        "Dock。不会收集、上传或共享个人数据",
+        "隐私政策", "辅助功能设置", "遇到显示器识别、权限或锁定问题时，可以通过邮件联系支持",
+        "联系支持", "关闭"}) {
+    EXPECT_TRUE(element(text, settingsPanel)) << text;
+  }
+  EXPECT_EQ(valueOf("语言"), "中文");
+  EXPECT_EQ(itemsOf("语言"), (std::vector<std::string>{"跟随系统", "English", "中文"}));
+  EXPECT_TRUE(element("固定 Dock 到指定显示器", mainPanel));
+  EXPECT_FALSE(element("Pin Dock", mainPanel));
+}
+
+TEST_F(OrvaneSettingsViewTest, EnglishIsCalledEnglishInBothLanguages) {
+  openSettings();
+  EXPECT_EQ(itemsOf("Language"), (std::vector<std::string>{"Follow System", "English", "Chinese"}));
+  ASSERT_TRUE(pick("Language", "Chinese"));
+  ASSERT_TRUE(pick("语言", "English"));
+  EXPECT_EQ(model().appLanguage().value(), OrvaneLanguage::english);
+  EXPECT_EQ(valueOf("Language"), "English");
+}
+
+TEST_F(OrvaneSettingsViewTest, TheLanguagePickerIsBoundBothWays) {
+  openSettings();
+  EXPECT_EQ(valueOf("Language"), "Follow System");
+  model().setAppLanguage(OrvaneLanguage::english);
+  EXPECT_EQ(valueOf("Language"), "English");
+  ASSERT_TRUE(pick("Language", "Follow System"));
+  EXPECT_EQ(model().appLanguage().value(), OrvaneLanguage::system);
+}
+
+TEST_F(OrvaneSettingsViewTest, TheShortcutPickerIsBoundBothWays) {
+  openSettings();
+  const std::string label = "Temporary Unlock Shortcut";
+  std::vector<std::string> texts;
+  for (const OrvaneModifier modifier : OrvaneModifier::allCases) {
+    texts.emplace_back(modifier.shortcutText());
+  }
+  EXPECT_EQ(itemsOf(label), texts);
+  for (std::size_t index = 0; index < texts.size(); ++index) {
+    ASSERT_TRUE(pick(label, texts[index]));
+    EXPECT_EQ(model().temporaryUnlockModifier().value(), OrvaneModifier::allCases.at(index));
+    EXPECT_EQ(valueOf(label), texts[index]);
+  }
+  model().setTemporaryUnlockModifier(OrvaneModifier::control);
+  EXPECT_EQ(valueOf(label), OrvaneModifier(OrvaneModifier::control).shortcutText());
+}
+
+TEST_F(OrvaneSettingsViewTest, TheButtonsOpenTheirLinks) {
+  openSettings();
+  ASSERT_TRUE(press("Privacy Policy", settingsPanel));
+  ASSERT_TRUE(press("Contact Support", settingsPanel));
+  ASSERT_TRUE(press("Accessibility Settings", settingsPanel));
+  const auto& opened = machine.links.opened();
+  ASSERT_EQ(opened.size(), 3U);
+  EXPECT_EQ(opened[0].url.substr(0, 8), "https://");
+  EXPECT_EQ(opened[1].url.substr(0, 7), "mailto:");
+  EXPECT_NE(opened[1].url.find("subject=Orvane%20Support"), std::string::npos);
+  EXPECT_NE(opened[2].url.find("Privacy_Accessibility"), std::string::npos);
+}
+
+TEST_F(OrvaneSettingsViewTest, TheCloseButtonClosesTheSettingsAndLeavesTheMainPanel) {
+  openSettings();
+  ASSERT_TRUE(press("Close", settingsPanel));
+  EXPECT_FALSE(isOpen(settingsPanel));
+  EXPECT_TRUE(isOpen(mainPanel));
+}
+
+TEST_F(OrvaneSettingsViewTest, WithoutAnActionForItsEndItIsDismissedByItsSurroundings) {
+  ui::SyntheticTextMeasurer text;
+  int dismissals = 0;
+  ui::HostPlatform platform;
+  platform.text = &text;
+  platform.services.dismiss = [&dismissals] { ++dismissals; };
+  ui::ViewHost host(std::move(platform));
+  host.setSize({OrvaneSettingsView::width, OrvaneSettingsView::height});
+  host.setRoot([this](const ui::Environment&) {
+    return ui::View(OrvaneSettingsView{&model(), {}});
+  });
+  host.tick(0);
+  host.tick(1);
+  host.keyDown({ui::Key::escape, {}, {}});
+  EXPECT_EQ(dismissals, 1);
+  int closings = 0;
+  host.setRoot([this, &closings](const ui::Environment&) {
+    return ui::View(OrvaneSettingsView{&model(), [&closings] { ++closings; }});
+  });
+  host.tick(2);
+  host.keyDown({ui::Key::escape, {}, {}});
+  EXPECT_EQ(closings, 1);
+  EXPECT_EQ(dismissals, 1);
+}
+
+TEST_F(OrvaneSettingsViewTest, TheSectionsSlideUpWhileTheHeaderStaysWhereItIs) {
+  openMain();
+  press("Settings");
+  const ui::Rect header = frameOf("Settings", settingsPanel);
+  const double start = frameOf("Privacy", settingsPanel).y;
+  machine.advance(0.12);
+  const double middle = frameOf("Privacy", settingsPanel).y;
+  machine.advance(0.2);
+  const double end = frameOf("Privacy", settingsPanel).y;
+  EXPECT_NEAR(start - end, 10, 1.2);
+  EXPECT_LT(middle, start);
+  EXPECT_GT(middle, end);
+  EXPECT_EQ(frameOf("Settings", settingsPanel), header);
+}
+
+TEST_F(OrvaneSettingsViewTest, ACardUnderThePointerIsRaised) {
+  openSettings();
+  const double before = frameOf("Privacy Policy", settingsPanel).width;
+  hover("Privacy Policy", settingsPanel);
+  machine.advance(0.5);
+  EXPECT_NEAR(frameOf("Privacy Policy", settingsPanel).width, before * 1.006, 1e-6);
+  hover("Close", settingsPanel);
+  machine.advance(0.5);
+  EXPECT_NEAR(frameOf("Privacy Policy", settingsPanel).width, before, 1e-6);
+}
+
+TEST_F(OrvaneSettingsViewTest, ControlsHaveTheirSizes) {
+  openSettings();
+  EXPECT_EQ(tree(settingsPanel).frame, (ui::Rect{0, 0, 420, 476}));
+  const ui::Rect close = frameOf("Close", settingsPanel);
+  EXPECT_EQ(close.width, 28);
+  EXPECT_EQ(close.height, 28);
+  const auto pickers = withRole(ui::Role::popUpButton, settingsPanel);
+  EXPECT_EQ(pickers.at(0).frame.width, 160);
+  EXPECT_EQ(pickers.at(1).frame.width, 150);
+}
+
+TEST(SettingsPaletteTest, HoldsItsColours) {
+  const auto components = [](const ui::Color& color) {
+    return color.resolve(ui::Appearance{}, ui::ColorResolver{});
+  };
+  EXPECT_EQ(components(SettingsPalette::blue()), (ui::Rgba{0.03, 0.47, 0.98, 1}));
+  EXPECT_EQ(components(SettingsPalette::sky()), (ui::Rgba{0.12, 0.58, 0.92, 1}));
+  EXPECT_EQ(components(SettingsPalette::indigo()), (ui::Rgba{0.34, 0.39, 0.95, 1}));
+  EXPECT_EQ(components(SettingsPalette::mint()), (ui::Rgba{0.02, 0.62, 0.64, 1}));
+  EXPECT_EQ(components(SettingsPalette::windowTop()), (ui::Rgba{0.97, 0.99, 1.0, 1}));
+  EXPECT_EQ(components(SettingsPalette::windowMid()), (ui::Rgba{0.91, 0.97, 1.0, 1}));
+  EXPECT_EQ(components(SettingsPalette::windowBottom()), (ui::Rgba{0.96, 0.99, 0.98, 1}));
+  EXPECT_EQ(components(SettingsPalette::buttonFill()), (ui::Rgba{0.85, 0.93, 1.0, 1}));
+}
+
+}  // namespace
+}  // namespace orvane
