@@ -16,6 +16,7 @@
 #include "Orvane/ui/Text.hpp"
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/machine/MachineScope.hpp"
+#include "desk/settings/SystemSettings.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "tests/support/TestDisplays.hpp"
@@ -73,6 +74,18 @@ class SurfaceLabelsTest : public testing::TestWithParam<const char*> {
     ADD_FAILURE() << "no control " << *labels.begin() << " on " << surface;
   }
 
+  void lookAtSystemSettings() {
+    SystemSettings& settings = WindowServer::current().systemSettings;
+    for (const SettingsPage page :
+         {SettingsPage::general, SettingsPage::displays, SettingsPage::desktopAndDock,
+          SettingsPage::privacy, SettingsPage::accessibility}) {
+      settings.open(page);
+      look();
+    }
+    settings.beginChoosing();
+    look();
+  }
+
   void openMenu() {
     EXPECT_TRUE(WindowServer::current().menus.openStatusMenu(0));
     machine().runDue();
@@ -122,7 +135,9 @@ TEST_P(SurfaceLabelsTest, noControlOfTheProductIsWithoutALabel) {
   machine().advance(1.1);
   look();
 
-  for (const char* const name : {"menu", "main", "settings", "alert", "guide"}) {
+  lookAtSystemSettings();
+
+  for (const char* const name : {"menu", "main", "settings", "alert", "guide", "system"}) {
     EXPECT_TRUE(visited.contains(name)) << name << " was never seen";
   }
   EXPECT_GT(controls, 40U);
