@@ -64,6 +64,11 @@ void MenuTracker::openPopUp(const ui::MenuRequest& request, std::weak_ptr<Hosted
                         .displays.indexContaining({CGRectGetMidX(anchor_), CGRectGetMidY(anchor_)})
                         .value_or(0);
     open(menu);
+    // The keyboard goes on from what is chosen now.
+    if (request.selectedIndex >= 0 &&
+        request.selectedIndex < static_cast<int>(request.items.size())) {
+      highlight(static_cast<std::size_t>(request.selectedIndex));
+    }
   });
 }
 
