@@ -32,7 +32,7 @@ View draggableIcon() {
   const View icon = View(OrvaneDraggableAppIconView{})
                         .frame(82, 82)
                         .shadow({.color = Color::black().opacity(0.33), .radius = 5});
-  return VStack(0, {arrow, icon});
+  return VStack(0, {arrow, icon}).transition(Transition::opacity());
 }
 
 View checkMark() {

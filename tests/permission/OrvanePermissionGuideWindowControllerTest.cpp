@@ -1,0 +1,250 @@
+// The guide: its panel, where it stands, how it looks for the permission, and how it ends.
+#include <memory>
+
+#include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
+#include "tests/permission/PermissionFlow.hpp"
+
+namespace orvane {
+namespace {
+
+using State = PermissionGuideState;
+
+class OrvanePermissionGuideWindowControllerTest : public PermissionFlow {
+ protected:
+  void show(char name = 'a') {
+    guide().show([this, name] { granted += name; });
+    machine.runDue();
+  }
+  void expectOrigin(double x, double y) {
+    EXPECT_EQ(guide().panel().frame().origin.x, x);
+    EXPECT_EQ(guide().panel().frame().origin.y, y);
+  }
+  /// Only a display of that frame.
+  void haveDisplay(CGRect frame) {
+    desk::attach(machine, desk::displayOf(9, "Only", frame));
+    EXPECT_FALSE(machine.displays.setMain(9));
+    EXPECT_FALSE(machine.displays.detach(1));
+    EXPECT_FALSE(machine.displays.detach(2));
+  }
+  void grant() { machine.permission.setTrusted(true); }
+};
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, ThePanelFloatsAboveAllAndActivatesNobody) {
+  show();
+  const auto panel = window("guide");
+  ASSERT_NE(panel, nullptr);
+  EXPECT_TRUE(panel->isPanel());
+  EXPECT_EQ(panel->styleMask, 128U);
+  EXPECT_EQ(panel->level, 25);
+  EXPECT_TRUE(panel->isFloatingPanel);
+  EXPECT_FALSE(panel->hidesOnDeactivate);
+  EXPECT_EQ(panel->collectionBehavior, 0x20112U);
+  EXPECT_TRUE(panel->isMovableByBackground);
+  EXPECT_TRUE(panel->hasClearBackground);
+  EXPECT_FALSE(panel->isOpaque);
+  EXPECT_TRUE(panel->hasShadow);
+  EXPECT_EQ(panel->frame.size.width, 360);
+  EXPECT_EQ(panel->frame.size.height, 500);
+  EXPECT_FALSE(server().focus.isActive());
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsMadeOncePlacedAndNotShown) {
+  guide();
+  expectOrigin(1280, 313);
+  EXPECT_FALSE(isGuideVisible());
+  EXPECT_FALSE(guide().isPolling());
+  const appkit::Window panel = guide().panel();
+  show();
+  guide().close();
+  show();
+  EXPECT_TRUE(guide().panel() == panel);
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest,
+       ItStandsRightOfTheMiddleOfTheScreenWithThePointer) {
+  show();
+  expectOrigin(1280, 313);
+  moveTo({2500, 300});
+  show();
+  expectOrigin(3200, 278);
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, OnANarrowerScreenItKeepsItsDistanceFromTheEdge) {
+  haveDisplay(CGRectMake(0, 0, 1300, 900));
+  show();
+  EXPECT_EQ(guide().panel().frame().origin.x, 1300 - 360 - 20);
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, OnAScreenTooSmallForItTheUpperLimitWins) {
+  haveDisplay(CGRectMake(0, 0, 390, 520));
+  machine.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, true);
+  show();
+  expectOrigin(390 - 360 - 20, 520 - 24 - 500 - 20);
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, ThePlaceMayLieLeftOfAScreenThatIsNarrowerThanIt) {
+  haveDisplay(CGRectMake(100, 0, 300, 900));
+  show();
+  EXPECT_EQ(guide().panel().frame().origin.x, 100 + 300 - 360 - 20);
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAllTheSame) {
+  EXPECT_FALSE(machine.displays.detach(1));
+  EXPECT_FALSE(machine.displays.detach(2));
+  show();
+  EXPECT_TRUE(isGuideVisible());
+  EXPECT_TRUE(guide().isPolling());
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, ItLooksOnceASecondFromTheFirstSecondOn) {
+  show();
+  grant();
+  machine.advance(0.999);
+  EXPECT_EQ(state(), State::checking);
+  machine.advance(0.001);
+  EXPECT_EQ(state(), State::success);
+  EXPECT_EQ(granted, "a");
+  EXPECT_FALSE(guide().isPolling());
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, MoreThanTenSecondsAreATimeOutAndItGoesOnLooking) {
+  show();
+  machine.advance(10.999);
+  EXPECT_EQ(state(), State::checking) << "ten seconds are not more than ten";
+  machine.advance(0.001);
+  EXPECT_EQ(state(), State::timeout);
+  machine.advance(100);
+  EXPECT_EQ(state(), State::timeout);
+  EXPECT_TRUE(guide().isPolling());
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, AGrantAfterTheTimeOutIsASuccessAndCallsBackOnce) {
+  show();
+  machine.advance(30);
+  grant();
+  machine.advance(1);
+  EXPECT_EQ(state(), State::success);
+  machine.advance(30);
+  EXPECT_EQ(granted, "a");
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, TheSuccessStaysForASecondAndAHalf) {
+  show();
+  grant();
+  machine.advance(1);
+  machine.advance(1.499);
+  EXPECT_TRUE(isGuideVisible());
+  machine.advance(0.001);
+  EXPECT_FALSE(isGuideVisible());
+  EXPECT_EQ(state(), State::success) << "until it is shown again";
+  show();
+  EXPECT_EQ(state(), State::checking);
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsLookingAndForgetsTheCallback) {
+  show();
+  machine.advance(3);
+  const std::size_t timers = machine.runLoop.timerCount();
+  guide().close();
+  EXPECT_EQ(machine.runLoop.timerCount(), timers - 1);
+  EXPECT_FALSE(guide().isPolling());
+  EXPECT_FALSE(isGuideVisible());
+  grant();
+  machine.advance(30);
+  EXPECT_EQ(granted, "");
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingLetsGoOfWhatTheCallbackHolds) {
+  const auto held = std::make_shared<int>(0);
+  guide().show([held] { ++*held; });
+  EXPECT_EQ(held.use_count(), 2);
+  guide().close();
+  EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, ShownAgainItBeginsAFreshTenSeconds) {
+  show();
+  machine.advance(20);
+  EXPECT_EQ(state(), State::timeout);
+  guide().close();
+  machine.advance(5);
+  show('b');
+  EXPECT_EQ(state(), State::checking);
+  machine.advance(10);
+  EXPECT_EQ(state(), State::checking);
+  machine.advance(1);
+  EXPECT_EQ(state(), State::timeout);
+  grant();
+  machine.advance(1);
+  EXPECT_EQ(granted, "b");
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, ShownOverItselfItHasOneTimerAndTheLaterCallback) {
+  show();
+  machine.runDue();
+  const std::size_t timers = machine.runLoop.timerCount();
+  machine.advance(0.5);
+  show('b');
+  EXPECT_EQ(machine.runLoop.timerCount(), timers);
+  grant();
+  machine.advance(0.9);
+  EXPECT_EQ(granted, "") << "the earlier timer is gone";
+  machine.advance(0.1);
+  EXPECT_EQ(granted, "b");
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutACallbackItEndsAllTheSame) {
+  guide().show(nullptr);
+  grant();
+  machine.advance(2.5);
+  EXPECT_FALSE(isGuideVisible());
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, TheCallbackMayCloseTheGuide) {
+  guide().show([this] {
+    granted += 'a';
+    guide().close();
+  });
+  grant();
+  machine.advance(5);
+  EXPECT_EQ(granted, "a");
+  EXPECT_FALSE(isGuideVisible());
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, WhileAMenuIsOpenItDoesNotLook) {
+  show();
+  grant();
+  machine.runLoop.enterMode(desk::RunLoop::Mode::eventTracking);
+  machine.advance(5);
+  EXPECT_EQ(granted, "");
+  machine.runLoop.leaveMode();
+  machine.runDue();
+  EXPECT_EQ(granted, "a");
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, ItsBackgroundMovesItAndItsTwoButtonsCloseIt) {
+  for (const char* const button : {"Close", "Done"}) {
+    show();
+    const CGPoint corner = server().topLeftOf(*window("guide"));
+    pressAt({corner.x + 10, corner.y + 10});
+    moveTo({corner.x + 40, corner.y + 30});
+    release();
+    expectOrigin(1310, 293);
+    press(button, "guide");
+    EXPECT_FALSE(isGuideVisible());
+    EXPECT_FALSE(guide().isPolling());
+    moveTo({20, 200});
+  }
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, TheProcessTakesItsTimersWithIt) {
+  show();
+  machine.process.end();
+  EXPECT_EQ(machine.runLoop.timerCount(), 0U);
+  grant();
+  machine.advance(30);
+  EXPECT_EQ(granted, "");
+}
+
+}  // namespace
+}  // namespace orvane

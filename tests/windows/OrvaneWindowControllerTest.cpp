@@ -1,0 +1,260 @@
+// The two panels: their attributes, where they are placed, and how they come and go together.
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "Orvane/platform/appkit/Screen.hpp"
+#include "Orvane/windows/OrvaneWindowController.hpp"
+#include "tests/windows/WindowFixture.hpp"
+
+namespace orvane {
+namespace {
+
+class OrvaneWindowControllerTest : public desk::WindowFixture {
+ protected:
+  OrvaneWindowControllerTest() {
+    controller().setContents({
+        [this](OrvaneModel&) {
+          ++mainContents;
+          return content();
+        },
+        [this](OrvaneModel&, std::function<void()> onClose) {
+          closeSettings = std::move(onClose);
+          return content();
+        },
+    });
+  }
+
+  static OrvaneWindowController& controller() { return OrvaneWindowController::shared(); }
+  /// A strip at the very top.
+  static appkit::HostingView::RootBuilder content() {
+    return [](const ui::Environment&) -> ui::View {
+      return ui::VStack(0, {ui::Text("top").height(20).accessibilityLabel("Top"), ui::Spacer()});
+    };
+  }
+  void show() {
+    controller().show(model);
+    machine.runDue();
+  }
+  void showSettings() {
+    controller().showSettings(model);
+    machine.runDue();
+  }
+  std::shared_ptr<desk::DeskWindow> shown(const std::string& surface) {
+    return desk::Surfaces(server()).window(surface);
+  }
+  [[nodiscard]] static CGPoint originOf(const appkit::Window& window) {
+    return window.frame().origin;
+  }
+  void expectOrigin(const appkit::Window& window, double x, double y) {
+    EXPECT_EQ(originOf(window).x, x);
+    EXPECT_EQ(originOf(window).y, y);
+  }
+  void expectPanelAttributes(const desk::DeskWindow& window, double width, double height) {
+    EXPECT_FALSE(window.isPanel());
+    EXPECT_EQ(window.frame.size.width, width);
+    EXPECT_EQ(window.frame.size.height, height);
+    EXPECT_EQ(window.minSize.width, width);
+    EXPECT_EQ(window.minSize.height, height);
+    EXPECT_EQ(window.maxSize.width, width);
+    EXPECT_EQ(window.maxSize.height, height);
+    EXPECT_EQ(window.collectionBehavior, 6U);
+    EXPECT_EQ(window.level, 0);
+    EXPECT_TRUE(window.isMovableByBackground);
+    EXPECT_FALSE(window.isReleasedWhenClosed);
+    EXPECT_FALSE(window.isOpaque);
+    EXPECT_TRUE(window.hasShadow);
+    EXPECT_TRUE(window.hasClearBackground);
+    EXPECT_TRUE(window.canBecomeKey());
+    EXPECT_TRUE(window.canBecomeMain());
+    ASSERT_NE(window.content, nullptr);
+    EXPECT_EQ(window.content->frame().size.width, width);
+    EXPECT_EQ(window.content->frame().size.height, height);
+    EXPECT_EQ(window.content->cornerStyle, ui::CornerStyle::continuous);
+    EXPECT_TRUE(window.content->masksToBounds);
+    EXPECT_FALSE(window.content->respectsSafeArea);
+  }
+
+  OrvaneModel model;
+  int mainContents = 0;
+  std::function<void()> closeSettings;
+};
+
+TEST_F(OrvaneWindowControllerTest, TheMainPanelHasItsAttributes) {
+  show();
+  const auto window = shown("main");
+  ASSERT_NE(window, nullptr);
+  expectPanelAttributes(*window, 700, 516);
+  EXPECT_EQ(window->styleMask, 4U);
+  EXPECT_EQ(window->title, "Orvane");
+  EXPECT_EQ(window->content->cornerRadius, 24);
+  EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::accessory);
+}
+
+TEST_F(OrvaneWindowControllerTest, TheSettingsPanelHasItsAttributes) {
+  showSettings();
+  const auto window = shown("settings");
+  ASSERT_NE(window, nullptr);
+  expectPanelAttributes(*window, 420, 476);
+  EXPECT_EQ(window->styleMask, 0U);
+  EXPECT_EQ(window->title, "Orvane Settings");
+  EXPECT_EQ(window->content->cornerRadius, 28);
+}
+
+TEST_F(OrvaneWindowControllerTest, TheMainPanelIsCentredOnTheMainScreenKeyAndActive) {
+  show();
+  const CGRect area = appkit::Screen::mainScreen()->visibleFrame();
+  expectOrigin(*controller().window(), CGRectGetMidX(area) - 350, CGRectGetMidY(area) - 258);
+  EXPECT_TRUE(controller().window()->isKeyWindow());
+  EXPECT_TRUE(server().focus.isActive());
+}
+
+TEST_F(OrvaneWindowControllerTest, AVisibleMainPanelStaysWhereItWasPut) {
+  show();
+  appkit::Window(*controller().window()).setFrameOrigin({11, 12});
+  show();
+  expectOrigin(*controller().window(), 11, 12);
+  EXPECT_EQ(mainContents, 1);
+}
+
+TEST_F(OrvaneWindowControllerTest, AClosedMainPanelIsMadeAnewAndCentred) {
+  show();
+  const CGPoint centred = originOf(*controller().window());
+  const appkit::Window first = *controller().window();
+  appkit::Window(first).setFrameOrigin({11, 12});
+  controller().closeWindow();
+  EXPECT_FALSE(controller().window());
+  EXPECT_FALSE(first.isVisible());
+  show();
+  EXPECT_EQ(mainContents, 2);
+  EXPECT_FALSE(*controller().window() == first);
+  expectOrigin(*controller().window(), centred.x, centred.y);
+}
+
+TEST_F(OrvaneWindowControllerTest, ItIsBroughtToTheFrontAlsoOfAnInactiveApplication) {
+  show();
+  server().focus.deactivate();
+  appkit::Window other = makeWindow({0, 0}, "other");
+  other.orderFrontRegardless();
+  show();
+  EXPECT_EQ(order(), "other OrvaneWindow");
+  EXPECT_TRUE(server().focus.isActive());
+}
+
+TEST_F(OrvaneWindowControllerTest, TheSettingsAreAChildCentredOnTheMainPanel) {
+  showSettings();
+  const CGPoint main = originOf(*controller().window());
+  expectOrigin(*controller().settingsWindow(), main.x + 350 - 210, main.y + 258 - 238);
+  EXPECT_EQ(shown("settings")->parent.lock(), shown("main"));
+  EXPECT_TRUE(controller().settingsWindow()->isKeyWindow());
+  EXPECT_EQ(order(), "OrvaneWindow OrvaneSettingsWindow");
+}
+
+TEST_F(OrvaneWindowControllerTest, ShownTwiceTheSettingsAreOneChildAndCentredEachTime) {
+  showSettings();
+  appkit::Window(*controller().window()).setFrameOrigin({40, 50});
+  appkit::Window(*controller().settingsWindow()).setFrameOrigin({0, 0});
+  showSettings();
+  expectOrigin(*controller().settingsWindow(), 40 + 140, 50 + 20);
+  EXPECT_EQ(controller().window()->childWindows().size(), 1U);
+}
+
+TEST_F(OrvaneWindowControllerTest, TheSettingsMoveWithTheMainPanel) {
+  showSettings();
+  const CGPoint before = originOf(*controller().settingsWindow());
+  const CGPoint main = originOf(*controller().window());
+  appkit::Window(*controller().window()).setFrameOrigin({main.x + 7, main.y - 9});
+  expectOrigin(*controller().settingsWindow(), before.x + 7, before.y - 9);
+}
+
+TEST_F(OrvaneWindowControllerTest, ClosingTheMainPanelClosesBoth) {
+  showSettings();
+  controller().closeWindow();
+  EXPECT_FALSE(controller().window());
+  EXPECT_FALSE(controller().settingsWindow());
+  EXPECT_TRUE(server().windows().empty());
+  EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::accessory);
+}
+
+TEST_F(OrvaneWindowControllerTest, TheSettingsOwnCloseLeavesTheMainPanel) {
+  showSettings();
+  ASSERT_TRUE(closeSettings);
+  closeSettings();
+  EXPECT_FALSE(controller().settingsWindow());
+  ASSERT_TRUE(controller().window());
+  EXPECT_TRUE(controller().window()->isVisible());
+  EXPECT_TRUE(controller().window()->childWindows().empty());
+  closeSettings();
+  showSettings();
+  EXPECT_EQ(controller().window()->childWindows().size(), 1U);
+}
+
+TEST_F(OrvaneWindowControllerTest, AMinimisedMainPanelIsBroughtBack) {
+  for (const bool isForSettings : {false, true}) {
+    show();
+    controller().miniaturizeWindow();
+    EXPECT_TRUE(controller().window()->isMiniaturized());
+    EXPECT_FALSE(controller().window()->isVisible());
+    if (isForSettings) {
+      showSettings();
+      EXPECT_TRUE(controller().settingsWindow()->isVisible());
+    } else {
+      show();
+    }
+    EXPECT_FALSE(controller().window()->isMiniaturized());
+    EXPECT_TRUE(controller().window()->isVisible());
+  }
+}
+
+TEST_F(OrvaneWindowControllerTest, AMainPanelThatWasNotVisibleIsCentredAgain) {
+  show();
+  const CGPoint centred = originOf(*controller().window());
+  appkit::Window(*controller().window()).setFrameOrigin({11, 12});
+  controller().miniaturizeWindow();
+  show();
+  expectOrigin(*controller().window(), centred.x, centred.y);
+}
+
+TEST_F(OrvaneWindowControllerTest, ContentAtTheTopTouchesTheTopEdge) {
+  showSettings();
+  for (const char* const surface : {"main", "settings"}) {
+    const auto tree = desk::Surfaces(server()).tree(surface);
+    ASSERT_TRUE(tree);
+    ASSERT_FALSE(tree->children.empty());
+    // Twenty points high, and no inset above them.
+    EXPECT_LT(tree->children.front().frame.y, 20);
+    EXPECT_EQ(shown(surface)->contentFrame().size.height, shown(surface)->frame.size.height);
+  }
+}
+
+TEST_F(OrvaneWindowControllerTest, WithoutAScreenTheMainPanelKeepsItsOrigin) {
+  EXPECT_FALSE(machine.displays.detach(1));
+  EXPECT_FALSE(machine.displays.detach(2));
+  show();
+  ASSERT_TRUE(controller().window());
+  expectOrigin(*controller().window(), 0, 0);
+}
+
+TEST_F(OrvaneWindowControllerTest, AChangeOfTheModelRedrawsTheContent) {
+  int builds = 0;
+  controller().setContents({[&](OrvaneModel&) -> appkit::HostingView::RootBuilder {
+                              return [&](const ui::Environment&) -> ui::View {
+                                ++builds;
+                                return ui::Text("content");
+                              };
+                            },
+                            nullptr});
+  show();
+  const int before = builds;
+  model.refreshDisplays();
+  machine.runDue();
+  EXPECT_GT(builds, before);
+  controller().closeWindow();
+  const int closed = builds;
+  model.refreshDisplays();
+  machine.runDue();
+  EXPECT_EQ(builds, closed);
+}
+
+}  // namespace
+}  // namespace orvane
