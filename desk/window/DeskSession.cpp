@@ -5,6 +5,7 @@
 
 #include "desk/desktop/MenuClock.hpp"
 #include "desk/desktop/StandardDisplays.hpp"
+#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
 
@@ -15,7 +16,8 @@ constexpr double secondsToMorning = (10 * 60 + 8) * 60;
 
 }  // namespace
 
-DeskSession::DeskSession(std::size_t displayCount) : application_(scope_.machine()) {
+DeskSession::DeskSession(std::size_t displayCount)
+    : application_(scope_.machine()), hardware_(scope_.machine(), application_) {
   const std::size_t wanted = std::clamp<std::size_t>(displayCount, 1, standardDisplayCount);
   for (std::size_t position = 0; position < wanted; ++position) {
     attachNextStandardDisplay(machine());
@@ -45,6 +47,22 @@ void DeskSession::movePointerBy(double dx, double dy) {
   }
 }
 
+void DeskSession::pressButton() {
+  machine().mouse.pressButton();
+  machine().runDue();
+}
+
+void DeskSession::releaseButton() {
+  machine().mouse.releaseButton();
+  machine().runDue();
+}
+
+bool DeskSession::keyDown(const ui::KeyEvent& event) {
+  const bool isTaken = WindowServer::current().keyDown(event);
+  machine().runDue();
+  return isTaken;
+}
+
 void DeskSession::advance(std::int64_t nanoseconds) {
   machine().runLoop.advance(nanoseconds);
 }
@@ -61,7 +79,7 @@ std::optional<MovedBack> DeskSession::movedBack() const {
 
 DesktopScene DeskSession::scene() const {
   DesktopScene scene(machine(), application_);
-  scene.showsZones = showsZones_;
+  scene.showsZones = hardware_.showsZones();
   scene.movedBack = movedBack();
   return scene;
 }
@@ -89,10 +107,12 @@ std::int64_t DeskSession::nanosecondsToNextChange() const {
   return next;
 }
 
-std::string DeskSession::dockDisplayName() const {
-  const auto number = machine().dock.displayNumber();
-  const Display* const display = number ? machine().displays.find(*number) : nullptr;
-  return display == nullptr ? "" : display->name;
+HardwareContent DeskSession::hardwareContent(bool isMouseHeld) const {
+  HardwareContent content = HardwareContent::of(hardware_, eventsPerSecond());
+  content.hint =
+      isMouseHeld ? "The desk holds the mouse and has the keys. Escape gives it back."
+                  : "Click a screen, and the desk holds the mouse: edges can be pressed against.";
+  return content;
 }
 
 std::uint32_t DeskSession::pointerDisplayNumber() const {

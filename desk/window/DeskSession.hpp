@@ -5,10 +5,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string>
 
+#include "Orvane/ui/KeyboardShortcut.hpp"
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/desktop/DesktopScene.hpp"
+#include "desk/hardware/HardwareContent.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/window/EventRate.hpp"
 
@@ -30,11 +31,20 @@ class DeskSession {
 
   /// The hand moves the mouse by so many points.
   void movePointerBy(double dx, double dy);
+  /// The mouse button goes down or up where the pointer is.
+  void pressButton();
+  void releaseButton();
+  /// A key is pressed for whatever has the keyboard on the desk. Returns whether anybody did
+  /// anything with it.
+  bool keyDown(const ui::KeyEvent& event);
   /// Lets the machine's time pass.
   void advance(std::int64_t nanoseconds);
 
-  void setShowsZones(bool shows) { showsZones_ = shows; }
-  [[nodiscard]] bool showsZones() const { return showsZones_; }
+  [[nodiscard]] Hardware& hardware() { return hardware_; }
+  [[nodiscard]] const Hardware& hardware() const { return hardware_; }
+  /// What the hardware panel has to say. `isMouseHeld` says whether the window has captured the
+  /// mouse.
+  [[nodiscard]] HardwareContent hardwareContent(bool isMouseHeld) const;
 
   [[nodiscard]] DesktopScene scene() const;
   [[nodiscard]] std::int64_t eventsPerSecond() const;
@@ -42,18 +52,16 @@ class DeskSession {
   /// Nanoseconds until the picture changes if nobody touches anything; 0 while something moves.
   [[nodiscard]] std::int64_t nanosecondsToNextChange() const;
 
-  /// The name of the display that the Dock lives on; empty without a display.
-  [[nodiscard]] std::string dockDisplayName() const;
   /// The number of the display under the pointer; 0 without a display.
   [[nodiscard]] std::uint32_t pointerDisplayNumber() const;
 
  private:
   MachineScope scope_;
   ApplicationHost application_;
+  Hardware hardware_;
   EventRate rate_;
   std::optional<MovedBack> movedBack_;
   std::int64_t movedBackAt_ = 0;
-  bool showsZones_ = true;
 };
 
 }  // namespace orvane::desk

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "desk/canvas/PinnedFonts.hpp"
+#include "desk/hardware/HardwarePanelHost.hpp"
 #include "desk/window/DeskSession.hpp"
 #include "desk/window/FramePump.hpp"
 #include "desk/window/SdlWindow.hpp"
@@ -23,9 +24,10 @@ WindowLayout layoutOf(const SdlWindow& window) {
           cairo_image_surface_get_height(window.surface()), window.pixelRatio()};
 }
 
-void run(DeskSession& session, SdlWindow& window, WindowPicture& picture) {
+void run(DeskSession& session, SdlWindow& window, HardwarePanelHost& panel,
+         WindowPicture& picture) {
   FramePump pump(window.framesPerSecond());
-  WindowInput input(session, window);
+  WindowInput input(session, window, panel);
   while (!input.wantsToQuit()) {
     const bool isOutdated = picture.isOutdated(session, window.isMouseHeld());
     if (isOutdated && pump.isTimeToDraw()) {
@@ -63,8 +65,9 @@ int runWindow(const WindowOptions& options) {
     return 1;
   }
   DeskSession session(options.displayCount);
-  WindowPicture picture;
-  run(session, *window, picture);
+  HardwarePanelHost panel(session.hardware());
+  WindowPicture picture(panel);
+  run(session, *window, panel, picture);
   if (options.dumpFile) {
     std::ofstream file(*options.dumpFile);
     file << windowDump(session, layoutOf(*window), picture.drawnCount());

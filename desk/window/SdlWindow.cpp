@@ -6,7 +6,7 @@ namespace orvane::desk {
 namespace {
 
 constexpr int smallestWidth = 960;
-constexpr int smallestHeight = 520;
+constexpr int smallestHeight = 640;
 
 /// Without a display SDL falls back on drivers that draw where nobody sees it. Whoever asks for one
 /// of them by name has a reason and may have it.

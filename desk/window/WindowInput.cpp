@@ -1,23 +1,13 @@
-// The keys' meaning is WindowCommands' business, that of the modifiers the Mac's.
+// The keys' meaning is the application's business, that of the modifiers the Mac's.
 #include "desk/window/WindowInput.hpp"
 
 #include <utility>
 
 #include <cairo.h>
 
-#include "desk/window/WindowCommands.hpp"
-#include "desk/window/WindowLayout.hpp"
+#include "desk/window/KeyTranslation.hpp"
 
 namespace orvane::desk {
-
-namespace {
-
-WindowLayout layoutOf(const SdlWindow& window) {
-  return {cairo_image_surface_get_width(window.surface()),
-          cairo_image_surface_get_height(window.surface()), window.pixelRatio()};
-}
-
-}  // namespace
 
 void WindowInput::handle(const SDL_Event& event) {
   switch (event.type) {
@@ -31,8 +21,7 @@ void WindowInput::handle(const SDL_Event& event) {
       mousePressed(event.button);
       break;
     case SDL_MOUSEBUTTONUP:
-      session_.machine().mouse.releaseButton();
-      session_.machine().runDue();
+      mouseReleased(event.button);
       break;
     case SDL_MOUSEWHEEL:
       wheelTurned(event.wheel);
@@ -55,60 +44,92 @@ bool WindowInput::takeNeedsRedraw() {
   return std::exchange(needsRedraw_, false);
 }
 
+WindowLayout WindowInput::layout() const {
+  return {cairo_image_surface_get_width(window_.surface()),
+          cairo_image_surface_get_height(window_.surface()), window_.pixelRatio()};
+}
+
+ui::Point WindowInput::panelPoint(int x, int y) const {
+  const WindowLayout now = layout();
+  return {x - now.panel.x / now.pixelRatio, y - now.panel.y / now.pixelRatio};
+}
+
+bool WindowInput::isOverPanel(int x) const {
+  const WindowLayout now = layout();
+  return !window_.isMouseHeld() && x * now.pixelRatio >= now.panel.x;
+}
+
 void WindowInput::mouseMoved(const SDL_MouseMotionEvent& event) {
-  const WindowLayout layout = layoutOf(window_);
-  const DesktopLayout desktop = layout.desktopLayout(session_.machine().displays.globalFrames());
-  const double ratio = layout.pixelRatio;
-  const bool isOverDesktop = event.y * ratio < layout.desktop.height;
-  window_.showCursor(!isOverDesktop);
-  if (!window_.isMouseHeld()) {
-    if (!isOverDesktop) {
-      // Where it comes back is where the pointer is to be.
-      hasEntered_ = true;
-      return;
-    }
-    if (std::exchange(hasEntered_, false)) {
-      if (const auto place = desktop.globalPoint(event.x * ratio, event.y * ratio)) {
-        const CGPoint pointer = session_.machine().pointer.place();
-        session_.movePointerBy(place->x - pointer.x, place->y - pointer.y);
-      }
-      return;
-    }
+  isPointerOverPanel_ = isOverPanel(event.x) || isPanelPressed_;
+  window_.showCursor(isPointerOverPanel_);
+  if (isPointerOverPanel_) {
+    panel_.pointerMoved(panelPoint(event.x, event.y));
+    return;
   }
-  const double pointsPerUnit = ratio / desktop.scale();
+  panel_.pointerExited();
+  if (!window_.isMouseHeld() && followCursor(event)) {
+    return;
+  }
+  const WindowLayout now = layout();
+  const double pointsPerUnit =
+      now.pixelRatio / now.desktopLayout(session_.machine().displays.globalFrames()).scale();
   session_.movePointerBy(event.xrel * pointsPerUnit, event.yrel * pointsPerUnit);
 }
 
+bool WindowInput::followCursor(const SDL_MouseMotionEvent& event) {
+  const WindowLayout now = layout();
+  const DesktopLayout desktop = now.desktopLayout(session_.machine().displays.globalFrames());
+  const auto place = desktop.globalPoint(event.x * now.pixelRatio, event.y * now.pixelRatio);
+  if (!place) {
+    return false;
+  }
+  const CGPoint pointer = session_.machine().pointer.place();
+  session_.movePointerBy(place->x - pointer.x, place->y - pointer.y);
+  return true;
+}
+
 void WindowInput::mousePressed(const SDL_MouseButtonEvent& event) {
-  if (window_.isMouseHeld()) {
-    session_.machine().mouse.pressButton();
-    session_.machine().runDue();
+  panelHasKeys_ = isOverPanel(event.x);
+  if (panelHasKeys_) {
+    isPanelPressed_ = true;
+    panel_.pointerDown(panelPoint(event.x, event.y));
     return;
   }
-  // The first click only takes hold of the mouse.
-  const WindowLayout layout = layoutOf(window_);
-  if (event.y * layout.pixelRatio < layout.desktop.height) {
-    window_.holdMouse(true);
+  window_.holdMouse(true);
+  session_.pressButton();
+}
+
+void WindowInput::mouseReleased(const SDL_MouseButtonEvent& event) {
+  if (std::exchange(isPanelPressed_, false)) {
+    panel_.pointerUp(panelPoint(event.x, event.y));
+    return;
   }
+  session_.releaseButton();
 }
 
 void WindowInput::wheelTurned(const SDL_MouseWheelEvent& event) {
   // A wheel counts in lines.
   constexpr double pointsPerLine = 10;
+  if (isPointerOverPanel_) {
+    panel_.scrollBy(-event.y * pointsPerLine);
+    return;
+  }
   session_.machine().mouse.turnWheel(event.x * pointsPerLine, -event.y * pointsPerLine);
   session_.machine().runDue();
 }
 
 void WindowInput::keyPressed(const SDL_KeyboardEvent& event) {
   readModifiers();
-  if (event.repeat != 0) {
+  const auto key = keyEventOf(event.keysym);
+  if (!key) {
     return;
   }
-  const SDL_Keycode key = event.keysym.sym;
-  if (key == SDLK_ESCAPE) {
+  if (panelHasKeys_) {
+    panel_.keyDown(*key);
+    return;
+  }
+  if (!session_.keyDown(*key) && key->key == ui::Key::escape) {
     window_.holdMouse(false);
-  } else if (key >= SDLK_a && key <= SDLK_z) {
-    runWindowCommand(session_, static_cast<char>(key));
   }
 }
 
@@ -119,8 +140,8 @@ void WindowInput::windowChanged(const SDL_WindowEvent& event) {
     case SDL_WINDOWEVENT_DISPLAY_CHANGED:
       needsRedraw_ = true;
       break;
-    case SDL_WINDOWEVENT_ENTER:
-      hasEntered_ = true;
+    case SDL_WINDOWEVENT_LEAVE:
+      panel_.pointerExited();
       break;
     case SDL_WINDOWEVENT_FOCUS_LOST:
       // Keys that are let go elsewhere would seem held for ever.
@@ -133,13 +154,7 @@ void WindowInput::windowChanged(const SDL_WindowEvent& event) {
 }
 
 void WindowInput::readModifiers() {
-  const SDL_Keymod state = SDL_GetModState();
-  std::uint64_t flags = 0;
-  flags |= (state & KMOD_ALT) != 0 ? static_cast<std::uint64_t>(kCGEventFlagMaskAlternate) : 0;
-  flags |= (state & KMOD_CTRL) != 0 ? static_cast<std::uint64_t>(kCGEventFlagMaskControl) : 0;
-  flags |= (state & KMOD_SHIFT) != 0 ? static_cast<std::uint64_t>(kCGEventFlagMaskShift) : 0;
-  flags |= (state & KMOD_GUI) != 0 ? static_cast<std::uint64_t>(kCGEventFlagMaskCommand) : 0;
-  session_.machine().modifierKeys.hold(flags);
+  session_.machine().modifierKeys.hold(modifierFlagsOf(SDL_GetModState()));
 }
 
 }  // namespace orvane::desk

@@ -1,18 +1,19 @@
-// The strip keeps its height; the desktop takes what is left.
+// The panel keeps its width; the desktop takes what is left.
 #include "desk/window/WindowLayout.hpp"
 
 #include <algorithm>
 #include <cmath>
 
-#include "desk/window/StripPainter.hpp"
+#include "desk/hardware/HardwarePanel.hpp"
 
 namespace orvane::desk {
 
 WindowLayout::WindowLayout(int width, int height, double windowPixelRatio)
     : pixelRatio(windowPixelRatio) {
-  const int below = std::min(height, static_cast<int>(std::lround(stripHeight * pixelRatio)));
-  desktop = {0, 0, width, height - below};
-  strip = {0, height - below, width, below};
+  const int beside =
+      std::min(width, static_cast<int>(std::lround(HardwarePanel::width * pixelRatio)));
+  desktop = {0, 0, width - beside, height};
+  panel = {width - beside, 0, beside, height};
 }
 
 DesktopLayout WindowLayout::desktopLayout(const std::vector<CGRect>& frames) const {

@@ -1,4 +1,5 @@
-// How the desk's window is divided: the desktop above, the strip below.
+// How the desk's window is divided: the desktop at the left, the hardware panel at the
+// right.
 #pragma once
 
 #include <vector>
@@ -13,7 +14,7 @@ namespace orvane::desk {
 /// All in pixels of the window's drawing area.
 struct WindowLayout {
   cairo_rectangle_int_t desktop{};
-  cairo_rectangle_int_t strip{};
+  cairo_rectangle_int_t panel{};
   /// Pixels per point of the window itself: 2 on a high-density display.
   double pixelRatio = 1;
 

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "desk/desktop/MenuClock.hpp"
-#include "desk/window/StripPainter.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
@@ -18,11 +17,12 @@ double pointerMagnification(double pixelsPerPoint, double pixelRatio) {
 
 }  // namespace
 
-WindowPicture::Looks WindowPicture::looksOf(const DeskSession& session, bool isMouseHeld) {
+WindowPicture::Looks WindowPicture::looksOf(const DeskSession& session, bool isMouseHeld) const {
   const Machine& machine = session.machine();
   const DesktopScene scene = session.scene();
   Looks looks;
-  looks.strip = StripContent::of(session, isMouseHeld);
+  looks.panel = session.hardwareContent(isMouseHeld);
+  looks.panelChanges = panel_.changeCount();
   looks.clock = menuClockText(machine.clock);
   const CGRect dock = machine.dock.frame();
   looks.places = {machine.pointer.place().x,
@@ -40,7 +40,6 @@ WindowPicture::Looks WindowPicture::looksOf(const DeskSession& session, bool isM
   looks.displayChanges = machine.displays.changeCount();
   looks.wallpaper = machine.appearance.wallpaper;
   looks.statusSymbol = scene.statusSymbol;
-  looks.showsZones = scene.showsZones;
   if (const WindowServer* const server = WindowServer::of(machine)) {
     looks.windowChanges = server->updates.changeCount();
   }
@@ -48,24 +47,23 @@ WindowPicture::Looks WindowPicture::looksOf(const DeskSession& session, bool isM
 }
 
 bool WindowPicture::isOutdated(const DeskSession& session, bool isMouseHeld) const {
-  return !drawn_ || !(*drawn_ == looksOf(session, isMouseHeld));
+  return !drawn_ || panel_.host().nextFrameWanted() || !(*drawn_ == looksOf(session, isMouseHeld));
 }
 
 void WindowPicture::draw(cairo_surface_t* surface, const WindowLayout& layout,
                          const DeskSession& session, bool isMouseHeld) {
+  const double ratio = layout.pixelRatio;
+  panel_.setSize({layout.panel.width / ratio, layout.panel.height / ratio});
+  panel_.show(session.hardwareContent(isMouseHeld));
   drawn_ = looksOf(session, isMouseHeld);
   ++drawnCount_;
   const DesktopLayout desktop = layout.desktopLayout(session.machine().displays.globalFrames());
   DesktopScene scene = session.scene();
-  scene.pointerMagnification = pointerMagnification(desktop.scale(), layout.pixelRatio);
+  scene.pointerMagnification = pointerMagnification(desktop.scale(), ratio);
   painter_.paint(surface, desktop, scene);
 
-  CairoCanvas canvas(surface, layout.pixelRatio, resources_);
-  const double ratio = layout.pixelRatio;
-  paintStrip(canvas, resources_,
-             {layout.strip.x / ratio, layout.strip.y / ratio, layout.strip.width / ratio,
-              layout.strip.height / ratio},
-             drawn_->strip);
+  CairoCanvas canvas(surface, ratio, resources_);
+  panel_.paint(canvas, {layout.panel.x / ratio, layout.panel.y / ratio});
 }
 
 }  // namespace orvane::desk

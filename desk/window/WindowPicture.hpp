@@ -10,14 +10,17 @@
 
 #include "desk/canvas/DrawingResources.hpp"
 #include "desk/desktop/DesktopPainter.hpp"
+#include "desk/hardware/HardwarePanelHost.hpp"
 #include "desk/window/DeskSession.hpp"
-#include "desk/window/StripContent.hpp"
 #include "desk/window/WindowLayout.hpp"
 
 namespace orvane::desk {
 
 class WindowPicture {
  public:
+  /// The panel outlives the picture.
+  explicit WindowPicture(HardwarePanelHost& panel) : panel_(panel) {}
+
   /// Whether the session would look different from what was drawn last; true before the first
   /// drawing.
   [[nodiscard]] bool isOutdated(const DeskSession& session, bool isMouseHeld) const;
@@ -29,9 +32,10 @@ class WindowPicture {
   [[nodiscard]] std::int64_t drawnCount() const { return drawnCount_; }
 
  private:
-  /// Everything that the picture depends on, besides the strip.
+  /// Everything that the picture depends on.
   struct Looks {
-    StripContent strip;
+    HardwareContent panel;
+    std::int64_t panelChanges = 0;
     std::string clock;
     std::vector<double> places;
     std::vector<TriggerZone> zones;
@@ -39,11 +43,11 @@ class WindowPicture {
     Appearance::Wallpaper wallpaper{};
     std::optional<std::string> statusSymbol;
     long long windowChanges = 0;
-    bool showsZones = false;
     bool operator==(const Looks&) const = default;
   };
-  static Looks looksOf(const DeskSession& session, bool isMouseHeld);
+  [[nodiscard]] Looks looksOf(const DeskSession& session, bool isMouseHeld) const;
 
+  HardwarePanelHost& panel_;
   DrawingResources resources_;
   DesktopPainter painter_{resources_};
   std::optional<Looks> drawn_;

@@ -1,25 +1,19 @@
 // The desk that someone plays with, without a window around it.
 #include "desk/desktop/StandardDisplays.hpp"
 #include "desk/window/DeskSession.hpp"
+#include "desk/windows/WindowServer.hpp"
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::desk {
 namespace {
 
-class DeskSessionTest : public SessionFixture {
- protected:
-  void pin() {
-    session.application().model().toggleSelectedDisplayLock();
-    session.machine().runDue();
-  }
-};
+class DeskSessionTest : public SessionFixture {};
 
 TEST_F(DeskSessionTest, BeginsWithDisplaysPermissionAndTheApplicationUnlocked) {
   EXPECT_EQ(session.machine().displays.count(), 2U);
   EXPECT_TRUE(session.machine().permission.isTrusted());
   ASSERT_TRUE(session.application().isRunning());
   EXPECT_FALSE(session.application().model().isGuardRunning());
-  EXPECT_EQ(session.dockDisplayName(), "Built-in Display");
   EXPECT_EQ(session.pointerDisplayNumber(), 1U);
 }
 
@@ -36,14 +30,14 @@ TEST_F(DeskSessionTest, LetsTheDockFollowThePointerUntilItIsPinned) {
   session.movePointerBy(0, 60);
   session.movePointerBy(0, 60);
   ASSERT_EQ(dockDisplay(), 1U);
-  pin();
+  pinOrUnpin();
   pressRightDisplay(30);
   EXPECT_EQ(dockDisplay(), 1U);
   EXPECT_EQ(session.application().model().guardService().blockedCount(), 30);
 }
 
 TEST_F(DeskSessionTest, MarksAMovementThatWasMovedBackForAShortTime) {
-  pin();
+  pinOrUnpin();
   moveTo(1500, 600);
   EXPECT_FALSE(session.movedBack());
   session.movePointerBy(3, 60);
@@ -86,12 +80,41 @@ TEST_F(DeskSessionTest, ChangesByItselfOnlyWhileSomethingMovesOrSomethingIsDue) 
   EXPECT_EQ(session.nanosecondsToNextChange(), second);
 }
 
+TEST_F(DeskSessionTest, KeysGoToTheOpenMenuAndToTheKeyWindow) {
+  EXPECT_FALSE(session.keyDown({ui::Key::down, {}, {}})) << "nobody is there";
+  WindowServer& server = WindowServer::current();
+  ASSERT_TRUE(server.menus.openStatusMenu(0));
+  for (int time = 0; time < 3; ++time) {
+    EXPECT_TRUE(session.keyDown({ui::Key::down, {}, {}}));
+  }
+  EXPECT_TRUE(session.keyDown({ui::Key::space, {}, {}}));
+  EXPECT_TRUE(session.application().model().isGuardRunning());
+  EXPECT_TRUE(session.keyDown({ui::Key::escape, {}, {}}));
+  EXPECT_FALSE(server.menus.isOpen());
+  EXPECT_FALSE(session.keyDown({ui::Key::escape, {}, {}})) << "now it gives the mouse back";
+  session.application().reopen();
+  EXPECT_TRUE(session.keyDown({ui::Key::tab, {}, {}}));
+}
+
+TEST_F(DeskSessionTest, TheButtonOpensTheMenuUnderThePointer) {
+  const CGRect item = StatusBar::itemFrame(session.machine().displays.globalFrames()[1]);
+  moveTo(CGRectGetMidX(item), CGRectGetMidY(item));
+  session.pressButton();
+  session.releaseButton();
+  EXPECT_TRUE(WindowServer::current().menus.isStatusMenuOpen());
+  EXPECT_EQ(WindowServer::current().menus.displayIndex(), 1U);
+}
+
+TEST_F(DeskSessionTest, SaysHowToGetTheMouseBackWhileItIsHeld) {
+  EXPECT_NE(session.hardwareContent(true).hint.find("Escape"), std::string::npos);
+  EXPECT_EQ(session.hardwareContent(false).hint.find("Escape"), std::string::npos);
+}
+
 TEST_F(DeskSessionTest, SurvivesMovementsWithoutAnyDisplay) {
   ASSERT_FALSE(session.machine().displays.detach(1));
   ASSERT_FALSE(session.machine().displays.detach(2));
   session.machine().runDue();
   session.movePointerBy(10, 10);
-  EXPECT_EQ(session.dockDisplayName(), "");
   EXPECT_EQ(session.pointerDisplayNumber(), 0U);
   EXPECT_GT(session.nanosecondsToNextChange(), 0);
 }

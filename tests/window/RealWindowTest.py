@@ -19,6 +19,13 @@ WINDOW = (1480, 800)
 # Where the tiles are on the shelf: the first one's middle, in points from the Dock's middle and
 # from the display's lower edge.
 FIRST_TILE = (-239, 35)
+# The middle of the status item, in points from the display's upper right corner.
+STATUS_ITEM = (-206, 12)
+# Where the window stands on the screen.
+CORNER = tuple((SCREEN[index] - WINDOW[index]) // 2 for index in (0, 1))
+# Places of the hardware panel's controls in the window, with two displays.
+PANEL = {"attach": (1404, 127), "left": (1296, 188), "hide": (1439, 219), "dark": (1407, 309),
+         "black": (1384, 340), "zones": (1439, 463)}
 # The colour in the upper part of the first tile, a blue that nothing else on the desk has.
 TILE_BLUE = (100, 176, 246)
 
@@ -90,8 +97,8 @@ class RealWindow(unittest.TestCase):
             env=self.environment(self.screen.name))
         self.wait_for(lambda: self.do("search", "--onlyvisible", "--name", "Orvane desk"),
                       "the window")
-        # The strip's ground is the brightest thing at the window's lower edge.
-        self.wait_for(lambda: min(self.screen.pixels()(800, 840)) > 240, "the first picture")
+        # The panel's ground at the window's lower right corner.
+        self.wait_for(lambda: min(self.screen.pixels()(1530, 840)) > 230, "the first picture")
         time.sleep(0.2)
 
     def wait_for(self, holds, what):
@@ -118,17 +125,44 @@ class RealWindow(unittest.TestCase):
         self.assertEqual(self.desk.wait(30), 0)
         return json.loads((self.path / "dump.json").read_text())
 
-    def hold_mouse_on_right_display(self):
-        self.do("mousemove", 1200, 400)
+    def click(self, x, y):
+        self.do("mousemove", x, y)
         time.sleep(0.3)
         self.do("click", 1)
         time.sleep(0.3)
+
+    def hold_mouse_on_right_display(self):
+        self.click(1000, 400)
+
+    def click_panel(self, name):
+        self.click(CORNER[0] + PANEL[name][0], CORNER[1] + PANEL[name][1])
+
+    def measure(self):
+        """Where the screens are in the window, by a session in which nothing is done."""
+        self.start()
+        self.layout = self.end()["window"]
+        # A screen without a history: nobody else has had its keyboard.
+        self.screen.close()
+        self.screen = Screen(self.path)
+        self.addCleanup(self.screen.close)
+
+    def keys(self, *names):
+        for name in names:
+            self.do("key", name)
+            time.sleep(0.15)
+
+    def open_menu(self):
+        """Opens the menu of the status item on the first display. The mouse is held then."""
+        x, y, width, _ = self.layout["screens"][0]["pixels"]
+        scale = self.layout["scale"]
+        self.click(round(CORNER[0] + x + width + STATUS_ITEM[0] * scale),
+                   round(CORNER[1] + y + STATUS_ITEM[1] * scale))
 
     @staticmethod
     def shows_dock(at, dump, display):
         """Whether the first tile is to be seen where the Dock would be on that display."""
         window = dump["window"]
-        left, top = ((SCREEN[index] - WINDOW[index]) // 2 for index in (0, 1))
+        left, top = CORNER
         x, y, width, height = next(screen["pixels"] for screen in window["screens"]
                                    if screen["display"] == display)
         middle = left + x + width / 2 + FIRST_TILE[0] * window["scale"]
@@ -138,22 +172,24 @@ class RealWindow(unittest.TestCase):
         return all(abs(seen - wanted) < 24 for seen, wanted in zip(color, TILE_BLUE))
 
     def test_follows_then_stays(self):
+        self.measure()
         self.start()
         at_first = self.screen.pixels()
         self.hold_mouse_on_right_display()
         self.move(0, 40, 15)
         time.sleep(0.8)
         followed = self.screen.pixels()
-        # Back to the display on the left: the Dock stays behind, and is pinned to where it is not.
+        # Back to the display on the left, and the Dock with it.
         self.move(-60, -20, 8)
         self.move(-60, 0, 8)
         self.move(0, 40, 15)
         time.sleep(0.8)
         taken_back = self.screen.pixels()
-        self.do("key", "p")
-        time.sleep(0.3)
-        self.move(60, -20, 10)
-        self.move(60, 0, 6)
+        # It is pinned there from the menu, by the keyboard.
+        self.keys("Escape")
+        self.open_menu()
+        self.keys("Down", "Down", "Down", "space", "Escape")
+        self.move(60, 0, 10)
         self.move(0, 40, 40)
         time.sleep(0.8)
         stayed = self.screen.pixels()
@@ -169,10 +205,10 @@ class RealWindow(unittest.TestCase):
         self.assertEqual(dump["pointer"]["display"], 2)
 
     def test_modifier_unlocks(self):
+        self.measure()
         self.start()
-        self.do("mousemove", 400, 400)
-        time.sleep(0.3)
-        self.do("key", "p")
+        self.open_menu()
+        self.keys("Down", "Down", "Down", "space", "Escape", "Escape")
         self.hold_mouse_on_right_display()
         self.move(0, 40, 15)
         blocked_only = self.screen.pixels()
@@ -192,21 +228,20 @@ class RealWindow(unittest.TestCase):
         self.assertFalse(dump["application"]["isTemporarilyUnlocked"])
         self.assertEqual(dump["modifiers"], 0)
 
-    def test_keys_and_plugging(self):
+    def test_panel_and_plugging(self):
+        self.measure()
         self.start()
-        self.do("mousemove", 400, 400)
-        time.sleep(0.3)
-        self.do("key", "h")
-        time.sleep(0.2)
-        self.do("key", "a")
-        time.sleep(0.2)
-        for key in ("e", "u", "z", "l", "w"):
-            self.do("key", key)
-            time.sleep(0.1)
+        self.open_menu()
+        # Preventing; the first Escape closes the menu, the second gives the mouse back.
+        self.keys("Down", "Down", "Return", "Escape", "Escape")
+        for name in ("left", "hide", "zones", "dark", "black", "attach"):
+            self.click_panel(name)
         dump = self.end()
         self.assertEqual([screen["display"] for screen in dump["window"]["screens"]], [1, 2, 3])
         self.assertTrue(dump["application"]["hidesDockOnAllDisplays"])
-        self.assertEqual(dump["application"]["zones"], 3)
+        # At the left edge: the whole display on the left, and what of the right one is higher than
+        # the one in the middle.
+        self.assertEqual(dump["application"]["zones"], 2)
         self.assertEqual(dump["dock"]["edge"], "left")
         self.assertTrue(dump["dock"]["autohide"])
         self.assertFalse(dump["dock"]["visible"])

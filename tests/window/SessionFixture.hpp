@@ -25,6 +25,13 @@ class SessionFixture : public testing::Test {
     }
   }
 
+  /// Pins the Dock to the main display, or lets go of it, as the menu does.
+  void pinOrUnpin() {
+    session.application().model().refreshDisplays();
+    session.application().model().toggleSelectedDisplayLock();
+    session.machine().runDue();
+  }
+
   [[nodiscard]] std::uint32_t dockDisplay() const {
     return session.machine().dock.displayNumber().value_or(0);
   }

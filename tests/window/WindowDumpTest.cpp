@@ -1,7 +1,6 @@
 // The dump of a session, as a program would read it.
 #include <nlohmann/json.hpp>
 
-#include "desk/window/WindowCommands.hpp"
 #include "desk/window/WindowDump.hpp"
 #include "tests/window/SessionFixture.hpp"
 
@@ -27,7 +26,7 @@ TEST_F(WindowDumpTest, TellsWhereTheDockIsAndHowOftenItCameUp) {
 
 TEST_F(WindowDumpTest, TellsWhatTheGuardDid) {
   EXPECT_EQ(dump()["application"]["guardRunning"], false);
-  runWindowCommand(session, 'p');
+  pinOrUnpin();
   pressRightDisplay(4);
   const nlohmann::json application = dump()["application"];
   EXPECT_EQ(application["guardRunning"], true);

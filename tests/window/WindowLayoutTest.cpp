@@ -1,19 +1,20 @@
 // How the window is divided.
 #include <gtest/gtest.h>
 
-#include "desk/window/StripPainter.hpp"
+#include "desk/hardware/HardwarePanel.hpp"
 #include "desk/window/WindowLayout.hpp"
 
 namespace orvane::desk {
 namespace {
 
-TEST(WindowLayoutTest, GivesTheStripItsHeightAndTheDesktopTheRest) {
+TEST(WindowLayoutTest, GivesThePanelItsWidthAndTheDesktopTheRest) {
   for (const double ratio : {1.0, 1.5, 2.0}) {
     const WindowLayout layout(1400, 900, ratio);
-    EXPECT_EQ(layout.strip.height, static_cast<int>(stripHeight * ratio));
-    EXPECT_EQ(layout.desktop.height + layout.strip.height, 900);
-    EXPECT_EQ(layout.strip.y, layout.desktop.height);
-    EXPECT_EQ(layout.desktop.width, 1400);
+    EXPECT_EQ(layout.panel.width, static_cast<int>(HardwarePanel::width * ratio));
+    EXPECT_EQ(layout.desktop.width + layout.panel.width, 1400);
+    EXPECT_EQ(layout.panel.x, layout.desktop.width);
+    EXPECT_EQ(layout.desktop.height, 900);
+    EXPECT_EQ(layout.panel.height, 900);
   }
 }
 
@@ -24,10 +25,10 @@ TEST(WindowLayoutTest, ShowsDisplaysNoLargerThanTheyAre) {
   EXPECT_LT(WindowLayout(500, 500, 1).desktopLayout(frames).scale(), 1);
 }
 
-TEST(WindowLayoutTest, SurvivesAWindowThatIsTooLowForTheStrip) {
-  const WindowLayout layout(300, 50, 1);
-  EXPECT_EQ(layout.desktop.height, 0);
-  EXPECT_EQ(layout.strip.height, 50);
+TEST(WindowLayoutTest, SurvivesAWindowThatIsTooNarrowForThePanel) {
+  const WindowLayout layout(150, 500, 1);
+  EXPECT_EQ(layout.desktop.width, 0);
+  EXPECT_EQ(layout.panel.width, 150);
 }
 
 }  // namespace

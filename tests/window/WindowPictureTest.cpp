@@ -1,10 +1,24 @@
 // When the window is drawn anew, and when not.
-#include "desk/window/WindowCommands.hpp"
+#include <functional>
+
 #include "desk/window/WindowPicture.hpp"
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::desk {
 namespace {
+
+/// The middle of the control with that label.
+std::optional<ui::Point> placeOf(const ui::SemanticsNode& node, const std::string& label) {
+  if (node.label == label) {
+    return node.frame.center();
+  }
+  for (const ui::SemanticsNode& child : node.children) {
+    if (const auto place = placeOf(child, label)) {
+      return place;
+    }
+  }
+  return std::nullopt;
+}
 
 class WindowPictureTest : public SessionFixture {
  protected:
@@ -14,7 +28,8 @@ class WindowPictureTest : public SessionFixture {
 
   WindowLayout layout{1000, 560, 1};
   SurfacePointer surface{cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1000, 560)};
-  WindowPicture picture;
+  HardwarePanelHost panel{session.hardware()};
+  WindowPicture picture{panel};
 };
 
 TEST_F(WindowPictureTest, IsOutdatedBeforeTheFirstDrawingAndThenNot) {
@@ -35,14 +50,42 @@ TEST_F(WindowPictureTest, IsOutdatedByEveryMovement) {
   EXPECT_TRUE(isOutdated());
 }
 
-TEST_F(WindowPictureTest, IsOutdatedByEveryKeyThatChangesSomething) {
-  for (const WindowCommand& command : windowCommands()) {
+TEST_F(WindowPictureTest, IsOutdatedByEveryChangeOfTheHardware) {
+  Hardware& hardware = session.hardware();
+  const std::vector<std::function<void()>> changes{
+      [&] { hardware.attachDisplay(); },
+      [&] { hardware.makeMain(2); },
+      [&] { hardware.detachDisplay(1); },
+      [&] { hardware.setEdge(DockEdge::left); },
+      [&] { hardware.setAutoHides(true); },
+      [&] { hardware.setTrusted(false); },
+      [&] { hardware.setDark(true); },
+      [&] { hardware.setWallpaper(Appearance::Wallpaper::busy); },
+      [&] { hardware.setLanguageList(1); },
+      [&] { hardware.setShowsZones(false); },
+      [&] { hardware.reopen(); },
+      [&] { hardware.crash(); },
+      [&] { hardware.launch(); },
+  };
+  for (std::size_t index = 0; index < changes.size(); ++index) {
     draw();
-    ASSERT_FALSE(isOutdated()) << command.key;
-    runWindowCommand(session, command.key);
-    EXPECT_TRUE(isOutdated()) << command.key;
-    session.advance(second);
+    ASSERT_FALSE(isOutdated()) << index;
+    changes[index]();
+    EXPECT_TRUE(isOutdated()) << index;
+    session.advance(2 * second);
   }
+}
+
+TEST_F(WindowPictureTest, IsOutdatedByAPressOnAControlOfThePanel) {
+  draw();
+  const auto place = placeOf(panel.host().semantics(), "Show trigger zones");
+  ASSERT_TRUE(place);
+  panel.pointerMoved(*place);
+  draw();
+  panel.pointerDown(*place);
+  panel.pointerUp(*place);
+  EXPECT_TRUE(isOutdated());
+  EXPECT_FALSE(session.hardware().showsZones());
 }
 
 TEST_F(WindowPictureTest, IsOutdatedByTheMinuteAndByHoldingTheMouse) {
@@ -68,7 +111,7 @@ TEST_F(WindowPictureTest, IsOutdatedByAWindowThatOpens) {
 }
 
 TEST_F(WindowPictureTest, IsDrawnWheneverTheSessionSaysThatItChanges) {
-  runWindowCommand(session, 'u');
+  session.hardware().setAutoHides(true);
   draw();
   ASSERT_EQ(session.nanosecondsToNextChange(), 0);
   int pictures = 0;

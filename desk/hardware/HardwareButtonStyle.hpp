@@ -1,0 +1,19 @@
+// The small push button of the hardware panel.
+#pragma once
+
+#include "Orvane/ui/ButtonStyle.hpp"
+
+namespace orvane::desk {
+
+struct HardwareButtonStyle {
+  ui::View body(const ui::ButtonConfiguration& configuration,
+                const ui::Environment& environment) const;
+};
+
+/// No look of its own; for buttons whose label is everything.
+struct HardwarePlainStyle {
+  ui::View body(const ui::ButtonConfiguration& configuration,
+                const ui::Environment& environment) const;
+};
+
+}  // namespace orvane::desk

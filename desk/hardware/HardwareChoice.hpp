@@ -1,0 +1,26 @@
+// A row of the hardware panel with a few choices side by side, of which one holds.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Orvane/ui/View.hpp"
+
+namespace orvane::desk {
+
+struct HardwareChoice {
+  std::string title;
+  std::vector<std::string> items;
+  std::optional<std::size_t> selected;
+  std::function<void(std::size_t)> onChoose;
+
+  ui::View body(const ui::Environment& environment) const;
+
+ private:
+  [[nodiscard]] ui::View segment(std::size_t index, const ui::Environment& environment) const;
+};
+
+}  // namespace orvane::desk

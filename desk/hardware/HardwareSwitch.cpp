@@ -1,0 +1,25 @@
+// A row of the hardware panel that switches something on and off.
+#include "desk/hardware/HardwareSwitch.hpp"
+
+#include "Orvane/app/CompactMenuSwitch.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+#include "desk/hardware/HardwareButtonStyle.hpp"
+
+namespace orvane::desk {
+
+using namespace ui;
+
+View HardwareSwitch::body(const Environment& /*environment*/) const {
+  const View row =
+      HStack(8, {Text(title).lineLimit(1), Spacer(), CompactMenuSwitch{isOn}}).height(30);
+  return Button([change = onChange, isOn = isOn] { change(!isOn); }, row)
+      .style(HardwarePlainStyle{})
+      .focusRing(ShapeForm::rounded(6))
+      .accessibilityLabel(title)
+      .accessibilityRole(Role::toggle)
+      .accessibilityValue(isOn ? "1" : "0");
+}
+
+}  // namespace orvane::desk

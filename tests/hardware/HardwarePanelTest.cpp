@@ -1,0 +1,237 @@
+// The hardware panel, worked without a window.
+#include <set>
+
+#include "Orvane/ui/RecordingCanvas.hpp"
+#include "desk/hardware/HardwarePanelHost.hpp"
+#include "tests/canvas/PixelFixture.hpp"
+#include "tests/hardware/HardwareFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+void collectControls(const ui::SemanticsNode& node, std::vector<ui::SemanticsNode>& controls) {
+  if (node.isControl()) {
+    controls.push_back(node);
+  }
+  for (const ui::SemanticsNode& child : node.children) {
+    collectControls(child, controls);
+  }
+}
+
+class HardwarePanelTest : public HardwareFixture {
+ protected:
+  HardwarePanelTest() {
+    panel.setSize({HardwarePanel::width, 800});
+    show();
+  }
+
+  void show() { panel.show(content()); }
+  [[nodiscard]] std::vector<ui::SemanticsNode> controls() const {
+    std::vector<ui::SemanticsNode> all;
+    collectControls(panel.host().semantics(), all);
+    return all;
+  }
+  [[nodiscard]] std::optional<ui::SemanticsNode> control(const std::string& label) const {
+    for (const ui::SemanticsNode& candidate : controls()) {
+      if (candidate.label == label) {
+        return candidate;
+      }
+    }
+    return std::nullopt;
+  }
+  /// A click in the middle of the control.
+  void click(const std::string& label) {
+    const auto found = control(label);
+    ASSERT_TRUE(found) << label;
+    panel.pointerDown(found->frame.center());
+    panel.pointerUp(found->frame.center());
+    show();
+  }
+  [[nodiscard]] std::string drawing() const {
+    ui::RecordingCanvas canvas;
+    panel.host().paint(canvas, {0, 0, panel.host().size().width, panel.host().size().height});
+    return canvas.text();
+  }
+
+  HardwarePanelHost panel{hardware};
+};
+
+TEST_F(HardwarePanelTest, EveryControlHasALabelOfItsOwn) {
+  hardware.attachDisplay();
+  show();
+  std::set<std::string> labels;
+  for (const ui::SemanticsNode& found : controls()) {
+    EXPECT_FALSE(found.label.empty());
+    EXPECT_TRUE(labels.insert(found.label).second) << found.label;
+    EXPECT_FALSE(found.frame.isEmpty()) << found.label;
+  }
+  EXPECT_EQ(labels.size(), 25U);
+}
+
+TEST_F(HardwarePanelTest, DisplaysAreAttachedDetachedAndMadeMain) {
+  click("Attach a display");
+  EXPECT_EQ(machine.displays.count(), 3U);
+  click("Make Right Display main");
+  EXPECT_EQ(machine.displays.main()->number, 2U);
+  EXPECT_FALSE(control("Make Right Display main"));
+  click("Detach Built-in Display");
+  EXPECT_EQ(machine.displays.find(1), nullptr);
+  EXPECT_FALSE(control("Detach Built-in Display"));
+}
+
+TEST_F(HardwarePanelTest, NothingMoreCanBeAttachedWhenAllAreThere) {
+  click("Attach a display");
+  click("Attach a display");
+  EXPECT_FALSE(control("Attach a display")->isEnabled);
+}
+
+TEST_F(HardwarePanelTest, WithoutAnyDisplayOneCanBeAttachedAgain) {
+  click("Detach Built-in Display");
+  click("Detach Right Display");
+  EXPECT_TRUE(machine.displays.isEmpty());
+  EXPECT_NE(drawing().find("No display is attached"), std::string::npos);
+  click("Attach a display");
+  EXPECT_EQ(machine.displays.count(), 1U);
+}
+
+TEST_F(HardwarePanelTest, TheDockFollowsItsRows) {
+  click("Edge: Left");
+  EXPECT_EQ(machine.dock.edge(), DockEdge::left);
+  EXPECT_TRUE(control("Edge: Left")->isSelected);
+  EXPECT_FALSE(control("Edge: Bottom")->isSelected);
+  click("Edge: Right");
+  EXPECT_EQ(machine.dock.edge(), DockEdge::right);
+  click("Hide the Dock automatically");
+  EXPECT_TRUE(machine.dock.autoHides());
+  EXPECT_EQ(control("Hide the Dock automatically")->value, "1");
+}
+
+TEST_F(HardwarePanelTest, TheMacFollowsItsRows) {
+  EXPECT_EQ(control("Accessibility permission")->value, "1");
+  click("Accessibility permission");
+  EXPECT_FALSE(machine.permission.isTrusted());
+  click("Appearance: Dark");
+  EXPECT_TRUE(machine.appearance.isDark);
+  click("Wallpaper: Busy");
+  EXPECT_EQ(machine.appearance.wallpaper, Appearance::Wallpaper::busy);
+  click("Wallpaper: Black");
+  EXPECT_EQ(machine.appearance.wallpaper, Appearance::Wallpaper::black);
+  click("Language: 中文");
+  EXPECT_EQ(machine.locale.preferredLanguages, std::vector<std::string>{"zh-Hans-CN"});
+  EXPECT_TRUE(control("Language: 中文")->isSelected);
+}
+
+TEST_F(HardwarePanelTest, TheApplicationIsStartedAndEnded) {
+  click("Open Orvane again");
+  EXPECT_TRUE(hardware.isRunning());
+  click("Crash Orvane");
+  EXPECT_FALSE(hardware.isRunning());
+  EXPECT_FALSE(control("Quit Orvane"));
+  click("Launch Orvane");
+  EXPECT_TRUE(hardware.isRunning());
+  click("Quit Orvane");
+  EXPECT_FALSE(hardware.isRunning());
+}
+
+TEST_F(HardwarePanelTest, TheZonesAreShownOrNot) {
+  EXPECT_TRUE(session.scene().showsZones);
+  click("Show trigger zones");
+  EXPECT_FALSE(session.scene().showsZones);
+}
+
+TEST_F(HardwarePanelTest, IsWorkedByTheKeyboardAlone) {
+  for (int time = 0; time < 100 && panel.host().focusedId() != control("Edge: Left")->id; ++time) {
+    ASSERT_TRUE(panel.keyDown({ui::Key::tab, {}, {}}));
+  }
+  ASSERT_EQ(panel.host().focusedId(), control("Edge: Left")->id);
+  EXPECT_TRUE(panel.keyDown({ui::Key::space, {}, {}}));
+  EXPECT_EQ(machine.dock.edge(), DockEdge::left);
+}
+
+TEST_F(HardwarePanelTest, CutsNoTextInAnyState) {
+  hardware.attachDisplay();
+  hardware.attachDisplay();
+  for (std::size_t language = 0; language < Hardware::languageLists().size(); ++language) {
+    hardware.setLanguageList(language);
+    session.application().model().refreshDisplays();
+    session.application().model().toggleSelectedDisplayLock();
+    machine.runDue();
+    show();
+    EXPECT_EQ(drawing().find("\u2026"), std::string::npos) << drawing();
+  }
+}
+
+TEST_F(HardwarePanelTest, FitsIntoTheUsualWindowWithAllDisplays) {
+  hardware.attachDisplay();
+  hardware.attachDisplay();
+  session.application().model().refreshDisplays();
+  session.application().model().toggleSelectedDisplayLock();
+  machine.runDue();
+  show();
+  EXPECT_LE(panel.host().sizeThatFits({HardwarePanel::width, std::nullopt}).height, 800);
+}
+
+TEST_F(HardwarePanelTest, ScrollsWhereItsPlaceIsTooLow) {
+  panel.setSize({HardwarePanel::width, 400});
+  show();
+  panel.scrollBy(-50);
+  EXPECT_DOUBLE_EQ(panel.scrolled(), 0);
+  panel.scrollBy(150);
+  EXPECT_DOUBLE_EQ(panel.scrolled(), 150);
+  const ui::Point middle = control("Accessibility permission")->frame.center();
+  panel.pointerDown({middle.x, middle.y - 150});
+  panel.pointerUp({middle.x, middle.y - 150});
+  EXPECT_FALSE(machine.permission.isTrusted());
+  panel.scrollBy(10000);
+  EXPECT_DOUBLE_EQ(panel.scrolled(), panel.host().size().height - 400);
+  panel.setSize({HardwarePanel::width, 2000});
+  show();
+  EXPECT_DOUBLE_EQ(panel.scrolled(), 0);
+}
+
+TEST_F(HardwarePanelTest, TheKeyboardBringsWhatItReachesIntoSight) {
+  panel.setSize({HardwarePanel::width, 300});
+  show();
+  const std::size_t count = controls().size();
+  for (std::size_t time = 0; time < 2 * count; ++time) {
+    panel.keyDown({ui::Key::tab, {}, {}});
+    for (const ui::SemanticsNode& found : controls()) {
+      if (found.isFocused) {
+        EXPECT_GE(found.frame.y, panel.scrolled()) << found.label;
+        EXPECT_LE(found.frame.bottom(), panel.scrolled() + 300) << found.label;
+      }
+    }
+  }
+}
+
+TEST_F(HardwarePanelTest, AnEqualContentAsksForNoDrawing) {
+  const std::int64_t before = panel.changeCount();
+  show();
+  session.advance(Clock::nanosecondsPerSecond);
+  show();
+  EXPECT_EQ(panel.changeCount(), before);
+  EXPECT_FALSE(panel.host().nextFrameWanted());
+}
+
+class HardwarePanelPictureTest : public PixelFixture {};
+
+TEST_F(HardwarePanelPictureTest, FillsItsPlaceAndFollowsTheAppearance) {
+  DeskSession session{2};
+  HardwarePanelHost panel{session.hardware()};
+  panel.setSize({320, 800});
+  for (const bool isDark : {false, true}) {
+    session.hardware().setDark(isDark);
+    panel.show(session.hardwareContent(false));
+    begin(340, 800);
+    panel.paint(*canvas, {20, 0});
+    for (int y = 0; y < 800; y += 9) {
+      ASSERT_EQ(at(25, y).alpha, 255);
+      ASSERT_EQ(at(339, y).alpha, 255);
+      ASSERT_EQ(at(10, y).alpha, 0);
+    }
+    EXPECT_EQ(at(25, 790).red > 128, !isDark);
+  }
+}
+
+}  // namespace
+}  // namespace orvane::desk
