@@ -106,6 +106,26 @@ class FleetProfile(unittest.TestCase):
         self.assertEqual(rules[0]["TeamIdentifier"], "TEAM000000")
 
 
+class HomebrewCask(unittest.TestCase):
+    """What the cask says of the application is what the application says of itself."""
+
+    def setUp(self):
+        self.cask = (MACOS / "homebrew" / "orvane.rb").read_text(encoding="utf-8")
+
+    def test_it_agrees_with_the_application(self):
+        self.assertIn(f'  version "{VERSION}"\n', self.cask)
+        self.assertIn(f'quit:       "{IDENTIFIER}"', self.cask)
+        self.assertIn(f"/Library/Preferences/{IDENTIFIER}.plist", self.cask)
+        self.assertIn(f"tccutil reset Accessibility {IDENTIFIER}", self.cask)
+        self.assertIn('depends_on macos: ">= :ventura"', self.cask)
+        self.assertEqual(OLDEST, "13.0", "which is Ventura")
+
+    def test_its_placeholders_cannot_be_taken_for_a_release(self):
+        self.assertEqual(len(re.findall(r'sha256 "[0-9a-f]{64}"', self.cask)), 1)
+        self.assertTrue(re.search(r'sha256 "0{64}"', self.cask)
+                        or not re.search(r"https://[\w.]+\.example", self.cask))
+
+
 class TheReader(unittest.TestCase):
     """It refuses what it is there to refuse."""
 
