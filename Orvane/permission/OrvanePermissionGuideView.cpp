@@ -62,28 +62,30 @@ View OrvanePermissionGuideView::iconArea() const {
 }
 
 View OrvanePermissionGuideView::statusLine() const {
-  const auto line = [](const std::string& text, const Font& font, const Color& color) {
-    return Text(text)
-        .font(font)
-        .foreground(color)
-        .textAlignment(TextAlignment::center)
-        .height(34)
-        .padding(Edges::horizontal(22));
+  // Each state has a line of its own, so that one fades into the other; a line that only changed
+  // its text would be cut while it grows.
+  constexpr double lineHeight = 34;
+  const auto line = [this](PermissionGuideState shownIn, const std::string& text, const Font& font,
+                           const Color& color) {
+    return when(state == shownIn, Text(text)
+                                      .font(font)
+                                      .foreground(color)
+                                      .textAlignment(TextAlignment::center)
+                                      .frame({.height = lineHeight, .maximumWidth = infinity})
+                                      .transition(Transition::opacity()));
   };
-  switch (state) {
-    case PermissionGuideState::checking:
-      return line(
-          localized("Waiting for permission in System Settings", "正在等待你在系统设置中完成授权"),
-          Font::caption(), Color::secondary());
-    case PermissionGuideState::timeout:
-      return line(
-          localized("Permission not detected yet. Make sure Orvane is enabled in Accessibility.",
-                    "暂未检测到权限，请确认 Orvane 已在“辅助功能”列表中开启"),
-          Font::caption(), Color::orange());
-    case PermissionGuideState::success:
-      break;
-  }
-  return line(localized("Permission Enabled", "权限已开启"), Font::headline(), Color::green());
+  return ZStack({line(PermissionGuideState::checking,
+                      localized("Waiting for permission in System Settings",
+                                "正在等待你在系统设置中完成授权"),
+                      Font::caption(), Color::secondary()),
+                 line(PermissionGuideState::timeout,
+                      localized("Permission not detected yet. Make sure Orvane is enabled in "
+                                "Accessibility.",
+                                "暂未检测到权限，请确认 Orvane 已在“辅助功能”列表中开启"),
+                      Font::caption(), Color::orange()),
+                 line(PermissionGuideState::success, localized("Permission Enabled", "权限已开启"),
+                      Font::headline(), Color::green())})
+      .padding(Edges::horizontal(22));
 }
 
 View OrvanePermissionGuideView::doneButton() const {

@@ -16,6 +16,17 @@ class OrvanePermissionGuideViewTest : public PermissionFlow {
     ADD_FAILURE() << "there is no " << label;
     return {};
   }
+  /// Where the text that begins so is drawn.
+  double leftOf(const std::string& text) {
+    const std::string drawn = drawing("guide");
+    const std::size_t start = drawn.find("text \"" + text);
+    const std::size_t at = drawn.find(" at ", start);
+    if (start == std::string::npos || at == std::string::npos) {
+      ADD_FAILURE() << text << " is not drawn";
+      return 0;
+    }
+    return std::stod(drawn.substr(at + 4));
+  }
   /// What the guide says with this status, in English.
   static std::string saying(const std::string& icon, const std::string& status) {
     return "group\n"
@@ -69,6 +80,21 @@ TEST_F(OrvanePermissionGuideViewTest, TheTimeOutChangesTheStatusLineOnly) {
   EXPECT_TRUE(element("Done").frame == button);
   EXPECT_TRUE(element("Orvane").frame == image);
   EXPECT_NE(drawing("guide").find("arrow.down"), std::string::npos);
+}
+
+TEST_F(OrvanePermissionGuideViewTest, OneStatusFadesIntoTheOtherAndIsNeverCut) {
+  openGuide();
+  const double before = leftOf(waiting);
+  machine.advance(11);
+  // In the middle of the change the old line is drawn as it was and where it was, and so is the new
+  // one.
+  machine.advance(0.1);
+  const std::string drawn = drawing("guide");
+  EXPECT_NEAR(leftOf(waiting), before, 0.5) << drawn;
+  EXPECT_NE(drawn.find("Permission not detected yet."), std::string::npos) << drawn;
+  EXPECT_EQ(drawn.find("clip"), drawn.rfind("clip")) << "only the whole drawing is cut\n" << drawn;
+  machine.advance(2);
+  EXPECT_EQ(drawing("guide").find(waiting), std::string::npos);
 }
 
 TEST_F(OrvanePermissionGuideViewTest, SuccessPutsTheCheckMarkInThePlaceOfArrowAndIcon) {
