@@ -78,6 +78,45 @@ MaskKey keyOf(MaskKind kind, const std::string& content, const ui::Font& font,
       .add(placement.phaseY);
 }
 
+PatternPointer gradientOf(const ui::Paint& paint) {
+  PatternPointer pattern(
+      cairo_pattern_create_linear(paint.start.x, paint.start.y, paint.end.x, paint.end.y));
+  for (const ui::PaintStop& stop : paint.stops) {
+    cairo_pattern_add_color_stop_rgba(pattern.get(), stop.location, stop.color.red,
+                                      stop.color.green, stop.color.blue, stop.color.alpha);
+  }
+  return pattern;
+}
+
+bool runsDown(const ui::Paint& paint) {
+  return !paint.isSolid() && paint.start.x == paint.end.x && paint.start.y != paint.end.y;
+}
+
+/// Makes a gradient that runs down the source for what is painted within `area`. Each row of pixels
+/// has one colour, so a strip of one pixel's width holds all there is to compute, and cairo repeats
+/// it across.
+void setRows(cairo_t* context, const ui::Paint& paint, const ui::Rect& area) {
+  const ui::Rect painted = toPixels(context).apply(area);
+  const PixelBounds rows =
+      PixelBounds{painted.x, painted.y, painted.right(), painted.bottom()}.grownBy(1, 1).cutTo(
+          clipBounds(context));
+  const int top = static_cast<int>(std::floor(rows.top));
+  const int height = std::max(1, static_cast<int>(std::ceil(rows.bottom)) - top);
+  const SurfacePointer strip(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1, height));
+  const ContextPointer drawing(cairo_create(strip.get()));
+  cairo_matrix_t matrix = matrixOf(context);
+  cairo_translate(drawing.get(), 0, -top);
+  cairo_transform(drawing.get(), &matrix);
+  cairo_set_source(drawing.get(), gradientOf(paint).get());
+  cairo_paint(drawing.get());
+
+  cairo_identity_matrix(context);
+  cairo_set_source_surface(context, strip.get(), 0, top);
+  cairo_set_matrix(context, &matrix);
+  cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_REPEAT);
+  cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
+}
+
 /// What a layer's surface with its top left there covers.
 SurfacePointer alphaOf(cairo_surface_t* picture, int x, int y) {
   SurfacePointer alpha(cairo_image_surface_create(CAIRO_FORMAT_A8,
@@ -144,20 +183,18 @@ void CairoCanvas::setPaint(const ui::Paint& paint) {
     setColor(context(), paint.stops.back().color);
     return;
   }
-  const PatternPointer pattern(
-      cairo_pattern_create_linear(paint.start.x, paint.start.y, paint.end.x, paint.end.y));
-  for (const ui::PaintStop& stop : paint.stops) {
-    cairo_pattern_add_color_stop_rgba(pattern.get(), stop.location, stop.color.red,
-                                      stop.color.green, stop.color.blue, stop.color.alpha);
-  }
-  cairo_set_source(context(), pattern.get());
+  cairo_set_source(context(), gradientOf(paint).get());
 }
 
 void CairoCanvas::fill(const ui::Shape& shape, const ui::Paint& paint) {
   if (paint.stops.empty()) {
     return;
   }
-  setPaint(paint);
+  if (runsDown(paint)) {
+    setRows(context(), paint, shape.rect);
+  } else {
+    setPaint(paint);
+  }
   cairo_new_path(context());
   appendShape(context(), shape);
   cairo_fill(context());

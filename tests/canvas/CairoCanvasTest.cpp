@@ -55,6 +55,35 @@ TEST_F(CairoCanvasTest, AGradientRunsFromItsFirstStopToItsLast) {
   EXPECT_EQ(at(0, 35).blue, 0);
 }
 
+TEST_F(CairoCanvasTest, AGradientDownAScaledShapeIsTheSameInEveryColumnAndWithinAnyClip) {
+  Paint paint;
+  paint.stops = {{{1, 1, 1, 0.34}, 0}, {{0, 0.5, 1, 0.06}, 0.5}, {{1, 0, 0, 1}, 1}};
+  paint.start = {7, 2};
+  paint.end = {7, 19};
+  const Shape shape = Shape::rectangle({3, 2, 14, 17});
+  begin(20, 22, 2).transform(ui::Transform::scale(0.97, 0.97, {0, 0}));
+  canvas->fill(shape, paint);
+  // The same gradient a hair off the vertical takes the other way through cairo.
+  const SurfacePointer whole = std::move(surface);
+  paint.end.x += 1.0e-9;
+  begin(20, 22, 2).transform(ui::Transform::scale(0.97, 0.97, {0, 0}));
+  canvas->fill(shape, paint);
+  for (int y = 0; y < height(); ++y) {
+    for (int x = 0; x < width(); ++x) {
+      const Pixel one = pixelAt(whole.get(), x, y);
+      const Pixel other = at(x, y);
+      EXPECT_NEAR(one.red, other.red, 1) << x << ", " << y;
+      EXPECT_NEAR(one.alpha, other.alpha, 1) << x << ", " << y;
+    }
+  }
+  paint.end.x = 7;
+  begin(20, 22, 2).transform(ui::Transform::scale(0.97, 0.97, {0, 0}));
+  canvas->clip(Shape::rectangle({0, 9, 20, 5}));
+  canvas->fill(shape, paint);
+  EXPECT_EQ(at(20, 22), pixelAt(whole.get(), 20, 22));
+  EXPECT_EQ(at(20, 10), nothing);
+}
+
 TEST_F(CairoCanvasTest, AGradientWithoutLengthIsItsLastColor) {
   Paint paint;
   paint.stops = {{black, 0}, {red, 1}};
