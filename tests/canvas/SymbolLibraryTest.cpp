@@ -99,7 +99,11 @@ std::set<std::string> symbolNamesIn(const std::string& source) {
         break;
       }
       const std::string literal = line.substr(place + 1, end - place - 1);
-      const bool isIdentity = place >= 3 && line.compare(place - 3, 3, "id(") == 0;
+      // Identities of views and keys of shortcuts look like names, too.
+      const auto follows = [&](const std::string& call) {
+        return place >= call.size() && line.compare(place - call.size(), call.size(), call) == 0;
+      };
+      const bool isIdentity = follows("id(") || follows("command(");
       if (isSymbolName(literal) && !isIdentity) {
         names.insert(literal);
       }

@@ -15,6 +15,7 @@
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
 #include "desk/application/ApplicationHost.hpp"
+#include "desk/hardware/HardwarePanelHost.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/settings/SystemSettings.hpp"
 #include "desk/windows/Surfaces.hpp"
@@ -36,6 +37,14 @@ void collectUnlabelled(const ui::SemanticsNode& node, const std::string& surface
   for (const ui::SemanticsNode& child : node.children) {
     collectUnlabelled(child, surface, found);
   }
+}
+
+std::size_t countControls(const ui::SemanticsNode& node) {
+  std::size_t count = node.isControl() ? 1 : 0;
+  for (const ui::SemanticsNode& child : node.children) {
+    count += countControls(child);
+  }
+  return count;
 }
 
 class SurfaceLabelsTest : public testing::TestWithParam<const char*> {
@@ -141,6 +150,19 @@ TEST_P(SurfaceLabelsTest, noControlOfTheProductIsWithoutALabel) {
     EXPECT_TRUE(visited.contains(name)) << name << " was never seen";
   }
   EXPECT_GT(controls, 40U);
+  EXPECT_EQ(unlabelled, std::vector<std::string>());
+}
+
+TEST_P(SurfaceLabelsTest, noControlOfTheHardwarePanelIsWithoutALabel) {
+  machine().userDefaults.set("appLanguage", std::string(GetParam()));
+  application.launch();
+  Hardware hardware(machine(), application);
+  HardwarePanelHost panel(hardware);
+  panel.setSize({HardwarePanel::width, 900});
+  panel.show(HardwareContent::of(hardware, 0));
+  const ui::SemanticsNode tree = panel.host().semantics();
+  collectUnlabelled(tree, "hardware", unlabelled);
+  EXPECT_GT(countControls(tree), 15U);
   EXPECT_EQ(unlabelled, std::vector<std::string>());
 }
 
