@@ -1,0 +1,277 @@
+// What the view kit costs: describing, laying out and painting a panel, after a change and after a
+// pointer has come over a control; and what a view takes of memory.
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+
+#include "Orvane/model/OrvaneModel.hpp"
+#include "Orvane/panels/main/ContentView.hpp"
+#include "Orvane/ui/Builder.hpp"
+#include "Orvane/ui/LayoutPass.hpp"
+#include "Orvane/ui/Presenter.hpp"
+#include "Orvane/ui/StandardColors.hpp"
+#include "Orvane/ui/ViewHost.hpp"
+#include "bench/KitPanel.hpp"
+#include "desk/canvas/ApplicationImages.hpp"
+#include "desk/canvas/CairoCanvas.hpp"
+#include "desk/canvas/PangoTextMeasurer.hpp"
+#include "desk/desktop/StandardDisplays.hpp"
+#include "desk/machine/MachineScope.hpp"
+
+namespace orvane::bench {
+namespace {
+
+constexpr double scale = 2;
+
+/// A panel to be measured; it may be described any number of times.
+class Subject {
+ public:
+  Subject() = default;
+  Subject(const Subject&) = delete;
+  Subject& operator=(const Subject&) = delete;
+  virtual ~Subject() = default;
+  [[nodiscard]] virtual ui::Size size() const = 0;
+  [[nodiscard]] virtual ui::View view() = 0;
+  /// In the middle of a control that shows that the pointer is over it.
+  [[nodiscard]] virtual ui::Point hoverPlace() const = 0;
+};
+
+class MadeUpPanel : public Subject {
+ public:
+  [[nodiscard]] ui::Size size() const override { return {KitPanel::width, KitPanel::height}; }
+  [[nodiscard]] ui::View view() override { return KitPanel{++revision_ % 10}; }
+  [[nodiscard]] ui::Point hoverPlace() const override { return {100, 150}; }
+
+ private:
+  int revision_ = 0;
+};
+
+/// The application's own, with three displays.
+class MainPanel : public Subject {
+ public:
+  MainPanel() {
+    for (int display = 0; display < 3; ++display) {
+      desk::attachNextStandardDisplay(scope_.machine());
+    }
+    scope_.machine().process.start();
+    model_ = std::make_unique<OrvaneModel>();
+    model_->refreshDisplays();
+  }
+  ~MainPanel() override { model_.reset(); }
+  MainPanel(const MainPanel&) = delete;
+  MainPanel& operator=(const MainPanel&) = delete;
+
+  [[nodiscard]] ui::Size size() const override { return {ContentView::width, ContentView::height}; }
+  [[nodiscard]] ui::View view() override {
+    return ContentView{model_.get(), {[] {}, [] {}, [] {}}};
+  }
+  [[nodiscard]] ui::Point hoverPlace() const override { return {320, 230}; }
+
+ private:
+  desk::MachineScope scope_;
+  std::unique_ptr<OrvaneModel> model_;
+};
+
+/// A panel in a host, at rest, and a picture to paint it on.
+class Stage {
+ public:
+  explicit Stage(Subject& subject)
+      : host_(ui::HostPlatform{&text_, resources_.imageSource(), {}, {}}),
+        surface_(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
+                                            static_cast<int>(subject.size().width * scale),
+                                            static_cast<int>(subject.size().height * scale))) {
+    addApplicationImages(resources_.images);
+    host_.setSize(subject.size());
+    host_.setRoot([&subject](const ui::Environment&) { return subject.view(); });
+    rest();
+    host_.takeDirtyRects();
+  }
+
+  ui::ViewHost& host() { return host_; }
+  void rest() {
+    constexpr double longerThanAnyAnimation = 10;
+    for (int time = 0; time < 3; ++time) {
+      now_ += longerThanAnyAnimation;
+      host_.tick(now_);
+    }
+  }
+  void nextFrame() {
+    now_ += 1.0 / 60;
+    host_.tick(now_);
+  }
+  void paint(const ui::Rect& area) {
+    desk::CairoCanvas canvas(surface_.get(), scale, resources_);
+    host_.paint(canvas, area);
+  }
+  void paintAll() { paint({0, 0, host_.size().width, host_.size().height}); }
+
+ private:
+  desk::PangoTextMeasurer text_;
+  desk::DrawingResources resources_;
+  ui::ViewHost host_;
+  desk::SurfacePointer surface_;
+  double now_ = 0;
+};
+
+/// The retained tree without a host around it, so that each stage can be timed by itself.
+class BareTree {
+ public:
+  BareTree(ui::TextMeasurer& text, desk::DrawingResources& resources)
+      : text_(text),
+        images_(resources.imageSource()),
+        environment_(std::make_shared<ui::Environment>()) {}
+
+  void build(Subject& subject) {
+    ui::Builder builder({now_, &colors_, &madeNodes_, std::nullopt});
+    builder.root(root_, subject.view(), environment_);
+  }
+  void layOut(const ui::Size& size) {
+    ui::LayoutPass pass(text_, images_, now_);
+    pass.placeAligned(*root_, size, ui::Alignment::center(), ui::Proposal::of(size));
+  }
+  void present() { ui::Presenter(now_).present(*root_); }
+
+  [[nodiscard]] std::size_t nodes() {
+    std::size_t count = 0;
+    ui::visitNodes(*root_, [&](ui::Node&) { ++count; });
+    return count;
+  }
+
+ private:
+  ui::TextMeasurer& text_;
+  ui::ImageSource images_;
+  ui::ColorResolver colors_ = ui::standardColor;
+  std::shared_ptr<const ui::Environment> environment_;
+  std::uint64_t madeNodes_ = 0;
+  std::unique_ptr<ui::Node> root_;
+  double now_ = 0;
+};
+
+double microsecondsOf(const std::function<void()>& work) {
+  const auto began = std::chrono::steady_clock::now();
+  work();
+  const std::chrono::duration<double, std::micro> took = std::chrono::steady_clock::now() - began;
+  return took.count();
+}
+
+/// Rebuild and reconcile, lay out, present: everything that follows a change, without the painting.
+template <typename Panel>
+void kitUpdate(benchmark::State& state) {
+  Panel subject;
+  Stage stage(subject);
+  for (auto _ : state) {
+    stage.host().invalidate();
+    stage.host().layoutIfNeeded();
+  }
+}
+
+/// The same, stage by stage, in microseconds.
+template <typename Panel>
+void kitStages(benchmark::State& state) {
+  Panel subject;
+  desk::DrawingResources resources;
+  desk::PangoTextMeasurer text;
+  BareTree tree(text, resources);
+  double build = 0;
+  double layout = 0;
+  double present = 0;
+  tree.build(subject);
+  tree.layOut(subject.size());
+  for (auto _ : state) {
+    build += microsecondsOf([&] { tree.build(subject); });
+    layout += microsecondsOf([&] { tree.layOut(subject.size()); });
+    present += microsecondsOf([&] { tree.present(); });
+  }
+  const auto average = benchmark::Counter::kAvgIterations;
+  state.counters["nodes"] = static_cast<double>(tree.nodes());
+  state.counters["rebuild_us"] = benchmark::Counter(build, average);
+  state.counters["layout_us"] = benchmark::Counter(layout, average);
+  state.counters["present_us"] = benchmark::Counter(present, average);
+}
+
+/// All of it, at two pixels to the point.
+template <typename Panel>
+void kitPaint(benchmark::State& state) {
+  Panel subject;
+  Stage stage(subject);
+  stage.paintAll();
+  for (auto _ : state) {
+    stage.paintAll();
+  }
+}
+
+/// The pointer comes over a control, or leaves it: update and painting of one frame. The share is
+/// that of the panel's area.
+template <typename Panel>
+void kitHover(benchmark::State& state) {
+  Panel subject;
+  Stage stage(subject);
+  stage.paintAll();
+  bool isInside = false;
+  double area = 0;
+  double rects = 0;
+  for (auto _ : state) {
+    isInside = !isInside;
+    stage.host().pointerMoved(isInside ? subject.hoverPlace() : ui::Point{2, 2});
+    stage.nextFrame();
+    for (const ui::Rect& rect : stage.host().takeDirtyRects()) {
+      stage.paint(rect);
+      area += rect.width * rect.height;
+      ++rects;
+    }
+  }
+  const double whole = subject.size().width * subject.size().height;
+  state.counters["share_percent"] =
+      benchmark::Counter(100 * area / whole, benchmark::Counter::kAvgIterations);
+  state.counters["rects"] = benchmark::Counter(rects, benchmark::Counter::kAvgIterations);
+}
+
+/// What the heap holds for a laid out tree, by its nodes: nodes, descriptions, broken texts.
+template <typename Panel>
+void kitMemory(benchmark::State& state) {
+  constexpr std::size_t trees = 32;
+  Panel subject;
+  desk::DrawingResources resources;
+  desk::PangoTextMeasurer text;
+  double bytesPerNode = 0;
+  for (auto _ : state) {
+    std::vector<std::unique_ptr<BareTree>> all;
+    std::size_t nodes = 0;
+    // The first one fills the caches that all share.
+    for (std::size_t tree = 0; tree <= trees; ++tree) {
+      all.push_back(std::make_unique<BareTree>(text, resources));
+    }
+    const auto grow = [&](std::size_t index) {
+      all[index]->build(subject);
+      all[index]->layOut(subject.size());
+      all[index]->present();
+      return all[index]->nodes();
+    };
+    grow(0);
+    const std::size_t before = mallinfo2().uordblks;
+    for (std::size_t tree = 1; tree <= trees; ++tree) {
+      nodes += grow(tree);
+    }
+    bytesPerNode = static_cast<double>(mallinfo2().uordblks - before) / static_cast<double>(nodes);
+  }
+  state.counters["bytes_per_node"] = bytesPerNode;
+}
+
+BENCHMARK(kitUpdate<MadeUpPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitUpdate<MainPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitStages<MadeUpPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitStages<MainPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitPaint<MadeUpPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitPaint<MainPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitHover<MadeUpPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitHover<MainPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitMemory<MadeUpPanel>)->Iterations(1);
+BENCHMARK(kitMemory<MainPanel>)->Iterations(1);
+
+}  // namespace
+}  // namespace orvane::bench

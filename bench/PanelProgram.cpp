@@ -1,0 +1,68 @@
+// Shows the made-up panel once without a screen and prints how long that took since the process was
+// started, what repainting all of it costs, and the memory it stands on.
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <string>
+
+#include "Orvane/ui/ViewHost.hpp"
+#include "bench/KitPanel.hpp"
+#include "desk/canvas/CairoCanvas.hpp"
+#include "desk/canvas/PangoTextMeasurer.hpp"
+
+namespace {
+
+using namespace orvane;
+
+constexpr double scale = 2;
+constexpr int repaints = 50;
+
+double millisecondsNow() {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return std::chrono::duration<double, std::milli>(now).count();
+}
+
+/// In kilobytes.
+long residentMemory() {
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);) {
+    if (line.starts_with("VmRSS:")) {
+      return std::stol(line.substr(6));
+    }
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main() {
+  const char* const started = std::getenv("PANEL_STARTED_MS");
+  desk::PangoTextMeasurer text;
+  desk::DrawingResources resources;
+  ui::ViewHost host(ui::HostPlatform{&text, resources.imageSource(), {}, {}});
+  const desk::SurfacePointer surface(cairo_image_surface_create(
+      CAIRO_FORMAT_ARGB32, static_cast<int>(bench::KitPanel::width * scale),
+      static_cast<int>(bench::KitPanel::height * scale)));
+  host.setSize({bench::KitPanel::width, bench::KitPanel::height});
+  host.setRoot([](const ui::Environment&) { return ui::View(bench::KitPanel{1}); });
+  const auto paint = [&] {
+    desk::CairoCanvas canvas(surface.get(), scale, resources);
+    host.paint(canvas, {0, 0, host.size().width, host.size().height});
+  };
+  host.tick(0);
+  paint();
+  if (started != nullptr) {
+    std::cout << "first_frame_ms " << millisecondsNow() - std::stod(started) << '\n';
+  }
+  const double began = millisecondsNow();
+  for (int repaint = 0; repaint < repaints; ++repaint) {
+    paint();
+  }
+  std::cout << "repaint_ms " << (millisecondsNow() - began) / repaints << '\n'
+            << "resident_kb " << residentMemory() << '\n';
+  if (const char* const file = std::getenv("PANEL_PICTURE")) {
+    cairo_surface_write_to_png(surface.get(), file);
+  }
+  return 0;
+}
