@@ -64,7 +64,7 @@ View OrvanePermissionGuideView::iconArea() const {
 View OrvanePermissionGuideView::statusLine() const {
   // Each state has a line of its own, so that one fades into the other; a line that only changed
   // its text would be cut while it grows.
-  constexpr double lineHeight = 34;
+  static constexpr double lineHeight = 34;
   const auto line = [this](PermissionGuideState shownIn, const std::string& text, const Font& font,
                            const Color& color) {
     return when(state == shownIn, Text(text)

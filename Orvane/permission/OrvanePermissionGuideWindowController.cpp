@@ -79,7 +79,6 @@ OrvanePermissionGuideWindowController::OrvanePermissionGuideWindowController()
                                      .onClose = lifetime_.whileAlive([this] { close(); })};
   });
   panel_.setContentView(view);
-  stateChanges_ = viewModel_.state.observe([view]() mutable { view.setNeedsUpdate(); });
   positionGuideWindow();
 }
 
@@ -93,11 +92,19 @@ bool OrvanePermissionGuideWindowController::sharedExists() {
 
 void OrvanePermissionGuideWindowController::show(std::function<void()> onGranted) {
   onGranted_ = std::move(onGranted);
-  viewModel_.state.set(PermissionGuideState::checking);
+  setState(PermissionGuideState::checking);
   positionGuideWindow();
   panel_.orderFrontRegardless();
   panel_.makeKeyWindow();
   startChecking();
+}
+
+void OrvanePermissionGuideWindowController::setState(PermissionGuideState state) {
+  viewModel_.state.set(state);
+  // Also when it is the same: the texts follow a language that may be another by now.
+  if (auto view = panel_.contentView()) {
+    view->setNeedsUpdate();
+  }
 }
 
 void OrvanePermissionGuideWindowController::positionGuideWindow() {
@@ -129,13 +136,13 @@ void OrvanePermissionGuideWindowController::check() {
   if (AXIsProcessTrusted()) {
     handleSuccess();
   } else if (startTime_ && CFAbsoluteTimeGetCurrent() - *startTime_ > timeoutSeconds) {
-    viewModel_.state.set(PermissionGuideState::timeout);
+    setState(PermissionGuideState::timeout);
   }
 }
 
 void OrvanePermissionGuideWindowController::handleSuccess() {
   checkTimer_.reset();
-  viewModel_.state.set(PermissionGuideState::success);
+  setState(PermissionGuideState::success);
   if (const auto granted = onGranted_) {
     granted();
   }

@@ -42,6 +42,7 @@ class OrvanePermissionGuideWindowController {
   [[nodiscard]] const appkit::Window& panel() const { return panel_; }
 
  private:
+  void setState(PermissionGuideState state);
   void positionGuideWindow();
   void startChecking();
   void check();
@@ -52,7 +53,6 @@ class OrvanePermissionGuideWindowController {
   std::optional<appkit::Timer> checkTimer_;
   std::optional<CFAbsoluteTime> startTime_;
   std::function<void()> onGranted_;
-  Subscription stateChanges_;
   Lifetime lifetime_;
 };
 

@@ -53,7 +53,6 @@ TEST_F(OrvanePermissionGuideViewTest, ItSpeaksChinese) {
   machine.userDefaults.set("appLanguage", std::string("chinese"));
   guide().close();
   guide().show(nullptr);
-  window("guide")->content->host().invalidate();
   const auto saidWith = [](const std::string& shown, const std::string& status) {
     return "group\n"
            "  button \"关闭\"\n"
@@ -69,6 +68,16 @@ TEST_F(OrvanePermissionGuideViewTest, ItSpeaksChinese) {
   machine.permission.setTrusted(true);
   machine.advance(1.5);
   EXPECT_EQ(elements("guide"), saidWith("", "权限已开启"));
+}
+
+TEST_F(OrvanePermissionGuideViewTest, AnotherLanguageShowsWhenTheStateIsSetAgain) {
+  openGuide();
+  machine.advance(20);
+  EXPECT_NE(elements("guide").find("Done"), std::string::npos);
+  machine.userDefaults.set("appLanguage", std::string("chinese"));
+  machine.advance(1);
+  EXPECT_EQ(elements("guide").find("Done"), std::string::npos);
+  EXPECT_NE(elements("guide").find("完成"), std::string::npos);
 }
 
 TEST_F(OrvanePermissionGuideViewTest, TheTimeOutChangesTheStatusLineOnly) {
@@ -165,7 +174,6 @@ TEST_F(OrvanePermissionGuideViewTest, NoTextIsCut) {
   for (const char* const language : {"english", "chinese"}) {
     machine.userDefaults.set("appLanguage", std::string(language));
     guide().show(nullptr);
-    window("guide")->content->host().invalidate();
     EXPECT_EQ(drawing("guide").find("…"), std::string::npos);
     machine.advance(11);
     EXPECT_EQ(drawing("guide").find("…"), std::string::npos) << drawing("guide");
