@@ -21,7 +21,9 @@ extern "C" const char* __lsan_default_suppressions() {
 }
 // It says nothing of what it did not complain about.
 extern "C" const char* __lsan_default_options();
-extern "C" const char* __lsan_default_options() { return "print_suppressions=0"; }
+extern "C" const char* __lsan_default_options() {
+  return "print_suppressions=0";
+}
 
 namespace orvane::desk {
 namespace {
