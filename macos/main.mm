@@ -16,6 +16,12 @@ int main() {
     orvane::answerLaterCopies();
     orvane::OrvaneApp::install();
     const orvane::TapWatch tapWatch(orvane::OrvaneAppState::model);
+    // Every movement of the pointer waits for this process, which has no window most of the time.
+    // App Nap would slow it down.
+    const id<NSObject> activity = [NSProcessInfo.processInfo
+        beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
+                          reason:@"Moves the pointer away from the Dock's edge"];
+    (void)activity;
     // Ends with the process.
     [application run];
   }

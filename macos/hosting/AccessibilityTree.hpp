@@ -24,7 +24,8 @@ class AccessibilityTree {
   /// `view` shows the tree and is held weakly; `press` runs the action of an element.
   AccessibilityTree(NSView* _Nonnull view, Press press);
 
-  /// Takes over what has changed. The root itself is the view, so only its children have elements.
+  /// Takes over what has changed, and tells assistive programs of new values, of elements that have
+  /// gone and of another focus. The root itself is the view, so only its children have elements.
   void update(const ui::SemanticsNode& root);
 
   [[nodiscard]] NSArray* _Nonnull children() const { return children_; }

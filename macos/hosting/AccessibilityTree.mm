@@ -101,13 +101,19 @@ NSArray* AccessibilityTree::elementsFor(const std::vector<ui::SemanticsNode>& no
   NSMutableArray* const elements = [[NSMutableArray alloc] init];
   for (const ui::SemanticsNode& node : nodes) {
     const auto known = elements_.find(node.id);
+    const bool isNew = known == elements_.end();
     OrvaneAccessibilityElement* const element =
-        known == elements_.end() ? [[OrvaneAccessibilityElement alloc] init] : known->second;
+        isNew ? [[OrvaneAccessibilityElement alloc] init] : known->second;
+    const id valueBefore = isNew ? nil : element.accessibilityValue;
     present.emplace(node.id, element);
     element->_view = view_;
     element->_press = [press = press_, id = node.id] { press(id); };
     element.accessibilityParent = parent;
     describe(element, node);
+    const id value = element.accessibilityValue;
+    if (!isNew && value != valueBefore && ![value isEqual:valueBefore]) {
+      NSAccessibilityPostNotification(element, NSAccessibilityValueChangedNotification);
+    }
     if (node.isFocused) {
       focused_ = element;
     }
@@ -123,9 +129,18 @@ void AccessibilityTree::update(const ui::SemanticsNode& root) {
     return;
   }
   Elements present;
+  OrvaneAccessibilityElement* const focusedBefore = focused_;
   focused_ = nil;
   children_ = elementsFor(root.children, view, present);
-  elements_ = std::move(present);
+  const Elements before = std::exchange(elements_, std::move(present));
+  for (const auto& [id, element] : before) {
+    if (!elements_.contains(id)) {
+      NSAccessibilityPostNotification(element, NSAccessibilityUIElementDestroyedNotification);
+    }
+  }
+  if (focused_ != nil && focused_ != focusedBefore) {
+    NSAccessibilityPostNotification(focused_, NSAccessibilityFocusedUIElementChangedNotification);
+  }
 }
 
 id AccessibilityTree::elementAt(NSPoint screenPoint) const {

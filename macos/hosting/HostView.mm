@@ -327,8 +327,26 @@ ui::TextMeasurer& textMeasurer() {
 #pragma mark Accessibility
 
 - (void)meaningsChange {
+  if (_meaningsHaveChanged) {
+    return;
+  }
   _meaningsHaveChanged = YES;
   NSAccessibilityPostNotification(self, NSAccessibilityLayoutChangedNotification);
+  if (!NSWorkspace.sharedWorkspace.voiceOverEnabled) {
+    return;
+  }
+  // Somebody listens: what has changed is told soon, and not only when it is asked for.
+  __weak OrvaneHostView* const weakSelf = self;
+  [NSRunLoop.mainRunLoop performInModes:@[ NSRunLoopCommonModes ]
+                                  block:^{
+                                    [weakSelf bringMeaningsUpToDate];
+                                  }];
+}
+
+- (void)bringMeaningsUpToDate {
+  if (_meaningsHaveChanged) {
+    (void)self.accessibilityTree;
+  }
 }
 
 - (void)press:(std::uint64_t)identifier {
