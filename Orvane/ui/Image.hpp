@@ -18,7 +18,7 @@ enum class ContentMode {
 
 // Without `resizable` an image keeps its own size. An unknown one has none and shows nothing. It is
 // decoration, hidden from the semantics tree, until it is given an accessibility label. In the dark
-// appearance an image NAME-dark is drawn in the place of NAME, in the same size, where there is one.
+// appearance an image NAME-dark, where there is one, takes the place of NAME in the same size.
 class Image : public View {
  public:
   explicit Image(std::string name);

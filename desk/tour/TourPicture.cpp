@@ -2,6 +2,8 @@
 #include "desk/tour/TourPicture.hpp"
 
 #include <algorithm>
+#include <cmath>
+#include <vector>
 
 #include "desk/desktop/DesktopLayout.hpp"
 
@@ -51,6 +53,26 @@ SurfacePointer renderTourPicture(DesktopPainter& painter, DrawingResources& reso
   CairoCanvas canvas(surface.get(), 1, resources);
   paintCaption(canvas, resources, {0, desktopHeight, width, captionHeight}, number, line,
                scene.machine.appearance.isDark);
+  return surface;
+}
+
+SurfacePointer renderCloseUp(DesktopPainter& painter, const DesktopScene& scene,
+                             const CGRect& area) {
+  constexpr double scale = 2;
+  const auto pixels = [](double points) { return static_cast<int>(std::lround(points * scale)); };
+  SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels(area.size.width),
+                                                    pixels(area.size.height)));
+  const std::vector<CGRect>& frames = scene.machine.displays.globalFrames();
+  // The layout begins at the leftmost and topmost of the displays.
+  double left = 0;
+  double top = 0;
+  for (const CGRect& frame : frames) {
+    left = std::min(left, frame.origin.x);
+    top = std::min(top, frame.origin.y);
+  }
+  const DesktopLayout layout(frames, DesktopStyle::exact, scale,
+                             {pixels(left - area.origin.x), pixels(top - area.origin.y), 0, 0});
+  painter.paint(surface.get(), layout, scene);
   return surface;
 }
 

@@ -15,4 +15,9 @@ SurfacePointer renderTourPicture(DesktopPainter& painter, DrawingResources& reso
                                  const DesktopScene& scene, const std::string& number,
                                  const std::string& line);
 
+/// What a rectangle of the desktop shows, in global coordinates, at two pixels per point and
+/// without a line.
+SurfacePointer renderCloseUp(DesktopPainter& painter, const DesktopScene& scene,
+                             const CGRect& area);
+
 }  // namespace orvane::desk

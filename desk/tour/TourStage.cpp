@@ -1,11 +1,15 @@
 // Every movement is one that hardware could make.
 #include "desk/tour/TourStage.hpp"
 
+#include <algorithm>
 #include <ostream>
 #include <utility>
+#include <vector>
 
 #include "desk/canvas/PngFile.hpp"
 #include "desk/tour/TourPicture.hpp"
+#include "desk/windows/Surfaces.hpp"
+#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
 
@@ -69,6 +73,119 @@ void TourStage::pressLowerEdge(std::uint32_t displayNumber, int times, double ev
   }
 }
 
+CGRect TourStage::onItsScreen(const CGRect& area) {
+  const CGPoint middle{CGRectGetMidX(area), CGRectGetMidY(area)};
+  const auto index = machine().displays.indexContaining(middle);
+  if (!index) {
+    return area;
+  }
+  const CGRect screen = machine().displays.globalFrames()[*index];
+  const double left = std::max(area.origin.x, screen.origin.x);
+  const double top = std::max(area.origin.y, screen.origin.y);
+  return CGRectMake(left, top, std::min(CGRectGetMaxX(area), CGRectGetMaxX(screen)) - left,
+                    std::min(CGRectGetMaxY(area), CGRectGetMaxY(screen)) - top);
+}
+
+void TourStage::clickAt(CGPoint place) {
+  constexpr double shortly = 0.1;
+  walkTo(place);
+  machine().advance(shortly);
+  machine().mouse.pressButton();
+  machine().runDue();
+  machine().mouse.releaseButton();
+  machine().runDue();
+}
+
+void TourStage::click(const std::string& label, const std::string& surface) {
+  for (const SurfaceControl& control : Surfaces(WindowServer::current()).controls(surface)) {
+    if (control.node.label == label && control.node.isEnabled) {
+      clickAt({CGRectGetMidX(control.frame), CGRectGetMidY(control.frame)});
+      return;
+    }
+  }
+  check(false, "there is a control \"" + label + "\" in " + surface);
+}
+
+void TourStage::pick(const std::string& label, const std::string& item,
+                     const std::string& surface) {
+  click(label, surface);
+  MenuTracker& menus = WindowServer::current().menus;
+  menus.layOut();
+  for (const MenuRow& row : menus.rows()) {
+    if (menus.menu()->items[row.itemIndex].title == item) {
+      clickAt({CGRectGetMidX(row.frame), CGRectGetMidY(row.frame)});
+      return;
+    }
+  }
+  check(false, "there is an item \"" + item + "\" of " + label);
+}
+
+void TourStage::clickIcon(std::uint32_t displayNumber) {
+  const auto& displays = machine().displays.all();
+  for (std::size_t index = 0; index < displays.size(); ++index) {
+    if (displays[index].number == displayNumber) {
+      const CGRect icon = StatusBar::itemFrame(machine().displays.globalFrames()[index]);
+      clickAt({CGRectGetMidX(icon), CGRectGetMidY(icon)});
+    }
+  }
+}
+
+void TourStage::closeWindow(const std::string& surface) {
+  WindowServer& server = WindowServer::current();
+  if (const auto window = Surfaces(server).window(surface)) {
+    server.performClose(window);
+    machine().runDue();
+  }
+}
+
+void TourStage::pressEscape() {
+  WindowServer::current().keyDown({ui::Key::escape, {}, {}});
+  machine().runDue();
+}
+
+std::optional<CGPoint> TourStage::iconPlace() {
+  const Surfaces surfaces(WindowServer::current());
+  const auto guide = surfaces.window("guide");
+  if (guide == nullptr || guide->content == nullptr) {
+    return std::nullopt;
+  }
+  const std::vector<SurfaceControl> controls = surfaces.controls("guide");
+  const CGPoint corner = WindowServer::current().topLeftOf(*guide);
+  constexpr double step = 4;
+  // It stands in the middle of the width, and is the one thing there that neither moves the window
+  // nor is pressed.
+  for (ui::Point place{guide->frame.size.width / 2, step}; place.y < guide->frame.size.height;
+       place.y += step) {
+    const bool isControl = std::ranges::any_of(controls, [&](const SurfaceControl& control) {
+      return control.node.frame.contains(place);
+    });
+    if (!isControl && !guide->content->host().movesWindowAt(place)) {
+      return CGPoint{corner.x + place.x, corner.y + place.y + step};
+    }
+  }
+  return std::nullopt;
+}
+
+void TourStage::dropIcon() {
+  WindowServer& server = WindowServer::current();
+  const auto system = Surfaces(server).window("system");
+  const auto list = server.systemSettings.listFrame();
+  const std::optional<CGPoint> icon = iconPlace();
+  check(icon && list && system != nullptr, "guide and list are there");
+  if (isOver()) {
+    return;
+  }
+  // Near the leading edge, where the guide does not cover the list.
+  constexpr double intoTheList = 40;
+  const CGPoint corner = server.originOf(*system->content).value_or(CGPoint{});
+  walkTo(*icon);
+  machine().mouse.pressButton();
+  machine().runDue();
+  walkTo({corner.x + list->x + intoTheList, corner.y + list->y + list->height / 2});
+  machine().mouse.releaseButton();
+  machine().runDue();
+}
+
 void TourStage::moveAway(std::uint32_t displayNumber) {
   const auto& displays = machine().displays.all();
   for (std::size_t index = 0; index < displays.size(); ++index) {
@@ -100,13 +217,41 @@ void TourStage::tell(const std::string& line) {
   scene.showsZones = showsZones_;
   scene.movedBack = movedBack_;
   const SurfacePointer picture = renderTourPicture(painter_, resources_, scene, number, line);
-  const std::filesystem::path file = directory_ / (number + ".png");
-  if (!writePng(picture.get(), file)) {
-    failedToWrite_ = true;
-    complaints_ << "orvane-desk: cannot write " << file.string() << '\n';
+  write(picture.get(), number);
+  if (!failedToWrite_) {
+    story_ << number << "  " << line << std::endl;
+  }
+}
+
+void TourStage::keep(const std::string& name, const std::string& surface) {
+  if (isOver()) {
     return;
   }
-  story_ << number << "  " << line << std::endl;
+  constexpr double margin = 28;
+  WindowServer& server = WindowServer::current();
+  const auto window = Surfaces(server).window(surface);
+  CGRect frame = server.menus.frame();
+  if (surface != Surfaces::menu) {
+    frame = window != nullptr ? machine().displays.flipped(window->frame) : CGRect{};
+  }
+  check(frame.size.width > 0, "there is a surface \"" + surface + "\"");
+  if (isOver()) {
+    return;
+  }
+  ++keptCount_;
+  const CGRect area = CGRectMake(frame.origin.x - margin, frame.origin.y - margin,
+                                 frame.size.width + 2 * margin, frame.size.height + 2 * margin);
+  const SurfacePointer picture =
+      renderCloseUp(painter_, DesktopScene(machine(), application_), onItsScreen(area));
+  write(picture.get(), name);
+}
+
+void TourStage::write(cairo_surface_t* picture, const std::string& fileName) {
+  const std::filesystem::path file = directory_ / (fileName + ".png");
+  if (!writePng(picture, file)) {
+    failedToWrite_ = true;
+    complaints_ << "orvane-desk: cannot write " << file.string() << '\n';
+  }
 }
 
 std::string TourStage::nameOf(std::uint32_t displayNumber) {

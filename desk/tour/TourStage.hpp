@@ -30,6 +30,17 @@ class TourStage {
   /// The hand walks to the middle of the lower edge of a display and presses against it so often,
   /// `every` seconds apart.
   void pressLowerEdge(std::uint32_t displayNumber, int times, double every);
+  /// The hand walks to a control of a surface, by its label, and clicks it.
+  void click(const std::string& label, const std::string& surface);
+  /// The same with a picker and the item of its menu.
+  void pick(const std::string& label, const std::string& item, const std::string& surface);
+  /// The hand clicks the application's icon in the menu bar of a display.
+  void clickIcon(std::uint32_t displayNumber);
+  /// The hand closes a window by its own close button; nothing when there is no such window.
+  void closeWindow(const std::string& surface);
+  void pressEscape();
+  /// The hand drags the icon from the permission guide onto the list in the System Settings.
+  void dropIcon();
   /// The hand takes the pointer away from every edge.
   void moveAway(std::uint32_t displayNumber);
 
@@ -37,6 +48,8 @@ class TourStage {
   void check(bool holds, const std::string& claim);
   /// Writes the picture of the present state with the line below it, and prints the line.
   void tell(const std::string& line);
+  /// Writes a picture of one surface and a little of what is around it, under a name of its own.
+  void keep(const std::string& name, const std::string& surface);
   /// From now on the pictures show the trigger zones.
   void showZones() { showsZones_ = true; }
 
@@ -48,8 +61,15 @@ class TourStage {
   [[nodiscard]] bool isTrue() const { return isTrue_; }
   [[nodiscard]] bool failedToWrite() const { return failedToWrite_; }
   [[nodiscard]] int stepCount() const { return stepCount_; }
+  [[nodiscard]] int keptCount() const { return keptCount_; }
 
  private:
+  void clickAt(CGPoint place);
+  /// The part of an area that is on the screen in which its middle lies.
+  [[nodiscard]] CGRect onItsScreen(const CGRect& area);
+  /// Where the guide's icon can be taken, in global coordinates; none without a guide.
+  [[nodiscard]] std::optional<CGPoint> iconPlace();
+  void write(cairo_surface_t* picture, const std::string& fileName);
   void push(double dx, double dy);
   [[nodiscard]] bool isOver() const { return !isTrue_ || failedToWrite_; }
 
@@ -62,6 +82,7 @@ class TourStage {
   DesktopPainter painter_{resources_};
   std::optional<MovedBack> movedBack_;
   int stepCount_ = 0;
+  int keptCount_ = 0;
   bool showsZones_ = false;
   bool isTrue_ = true;
   bool failedToWrite_ = false;

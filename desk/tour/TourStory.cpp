@@ -5,6 +5,8 @@
 #include <string>
 
 #include "desk/desktop/StandardDisplays.hpp"
+#include "desk/windows/Surfaces.hpp"
+#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
 
@@ -69,34 +71,69 @@ void tellOfTheUnguardedDock(TourStage& stage) {
              counted(reveals(stage), "jump") + " that nobody asked for.");
 }
 
+void tellOfTheMenu(TourStage& stage) {
+  Machine& machine = stage.machine();
+  stage.moveAway(builtIn);
+  stage.application().launch();
+  machine.advance(1);
+  stage.check(stage.application().isRunning() && !stage.model().isGuardRunning(),
+              "Orvane runs and guards nothing");
+  stage.check(WindowServer::current().windows().empty(), "no window is open");
+  stage.tell(
+      "Orvane is running: an open lock in the menu bar, no window, and nothing guarded yet.");
+
+  stage.clickIcon(builtIn);
+  stage.check(WindowServer::current().menus.isStatusMenuOpen(), "the menu is open");
+  stage.keep("menu", Surfaces::menu);
+  stage.tell("A click on the lock opens the menu: two switches, the displays, and little else.");
+}
+
+void tellOfThePermission(TourStage& stage) {
+  Machine& machine = stage.machine();
+  stage.click("Pin Dock", Surfaces::menu);
+  machine.advance(0.5);
+  stage.check(Surfaces(WindowServer::current()).isThere("alert"), "the alert is open");
+  stage.check(!stage.model().isGuardRunning(), "nothing is guarded without the permission");
+  stage.tell("Pin Dock: watching the pointer needs a permission, and Orvane says so first.");
+
+  stage.click("Open Privacy Settings", "alert");
+  machine.advance(2.5);
+  stage.check(Surfaces(WindowServer::current()).isThere("system"), "the settings are open");
+  stage.check(Surfaces(WindowServer::current()).isThere("guide"), "the guide is there");
+  stage.tell("The System Settings open on the right page, and a small guide waits beside them.");
+
+  stage.dropIcon();
+  machine.advance(1.4);
+  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 1,
+              "the guard runs with one zone");
+  const Display* const target = machine.displays.find(builtIn);
+  stage.check(stage.model().selectedDisplayID().value() == target->uuid,
+              "the Dock's own display is the target");
+  stage.check(WindowServer::current().statusBar.item()->image->name == "lock.fill" &&
+                  Surfaces(WindowServer::current()).isThere("guide"),
+              "the lock is closed, and the guide says so");
+  stage.tell(
+      "Its icon dropped onto the list is all it takes: the lock closes, the Dock belongs to " +
+      target->name + ".");
+  machine.advance(2);
+  stage.closeWindow("system");
+  stage.check(WindowServer::current().windows().empty(), "guide and settings are gone");
+}
+
 void tellOfPinning(TourStage& stage) {
   Machine& machine = stage.machine();
   stage.moveAway(builtIn);
-  machine.permission.setTrusted(true);
-  stage.application().launch();
-  stage.check(stage.application().isRunning() && !stage.model().isGuardRunning(),
-              "Orvane runs and guards nothing");
-  stage.tell("Orvane is running: an open lock in the menu bar, and nothing is guarded yet.");
-
-  stage.model().toggleSelectedDisplayLock();
-  machine.runDue();
   stage.showZones();
-  const Display* const target = stage.machine().displays.find(builtIn);
-  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 1,
-              "the guard runs with one zone");
-  stage.check(stage.model().selectedDisplayID().value() == target->uuid,
-              "the Dock's own display is the target");
-  stage.tell("Pin Dock: the lock closes, the Dock belongs to " + target->name + ", and " +
-             counted(static_cast<std::int64_t>(zoneCount(stage)), "trigger zone") +
-             " guards the other display.");
-
   const std::int64_t jumps = reveals(stage);
   stage.pressLowerEdge(right, 60, 0.05);
   const std::int64_t blocked = stage.model().guardService().blockedCount();
   stage.check(blocked == 60, "all sixty touches were moved back");
   stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the Dock stayed");
-  stage.tell("The same pressing again, 60 times: Orvane moves the pointer back " +
-             counted(blocked, "time") + ", and the Dock stays on " + stage.dockPlace() + ".");
+  machine.advance(0.1);
+  stage.tell("The same pressing again, 60 times: " +
+             counted(static_cast<std::int64_t>(zoneCount(stage)), "trigger zone") +
+             " moves the pointer back " + counted(blocked, "time") + ", and the Dock stays on " +
+             stage.dockPlace() + ".");
 }
 
 void tellOfTheModifier(TourStage& stage) {
@@ -124,9 +161,35 @@ void tellOfTheModifier(TourStage& stage) {
              stage.dockPlace() + " again.");
 }
 
+void tellOfTheWindow(TourStage& stage) {
+  Machine& machine = stage.machine();
+  stage.clickIcon(builtIn);
+  stage.click("Open Window", Surfaces::menu);
+  machine.advance(1);
+  stage.check(Surfaces(WindowServer::current()).isThere("main"), "the window is open");
+  stage.keep("main-panel", "main");
+  stage.tell("The window shows the same with more room: a card for each display, and what is on.");
+
+  stage.click("Settings", "main");
+  machine.advance(1);
+  stage.moveAway(right);
+  stage.keep("settings-panel", "settings");
+  stage.pick("Language", "Chinese", "settings");
+  machine.advance(1);
+  stage.check(stage.model().appLanguage().value() == OrvaneLanguage::chinese,
+              "the language is Chinese");
+  stage.check(Surfaces(WindowServer::current()).isThere("settings"), "the settings are open");
+  stage.tell("In the settings: the language, here Chinese at once, and the key that unlocks.");
+
+  stage.pick("语言", "跟随系统", "settings");
+  stage.pressEscape();
+  stage.check(!Surfaces(WindowServer::current()).isThere("settings"), "the settings are closed");
+}
+
 void tellOfPreventing(TourStage& stage) {
   Machine& machine = stage.machine();
-  stage.model().toggleSelectedDisplayLock();
+  stage.click("Unpin Dock", "main");
+  stage.click("Close", "main");
   setAutoHide(stage, true);
   stage.moveAway(builtIn);
   stage.check(!machine.dock.isVisible(), "the Dock has hidden itself");
@@ -137,8 +200,10 @@ void tellOfPreventing(TourStage& stage) {
   stage.tell("Unlocked again, and the Dock hides itself: one touch of the edge and it slides in.");
 
   stage.moveAway(builtIn);
-  stage.model().toggleHideDockOnAllDisplays();
-  machine.runDue();
+  stage.clickIcon(builtIn);
+  stage.click("Prevent Dock Pop-Up", Surfaces::menu);
+  stage.pressEscape();
+  machine.advance(1);
   stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 2, "two zones are guarded");
   stage.check(!machine.dock.isVisible(), "the Dock is hidden");
   stage.tell("Prevent Dock Pop-Up: now every display has its trigger zone, " +
@@ -182,26 +247,29 @@ void tellOfPlugging(TourStage& stage) {
              counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") + ".");
 
   setAutoHide(stage, false);
-  stage.model().refreshDisplays();
-  stage.model().selectDisplay(stage.model().displays().value().back().id);
-  stage.model().toggleSelectedDisplayLock();
-  machine.runDue();
+  stage.clickIcon(builtIn);
+  stage.click("Open Window", Surfaces::menu);
+  machine.advance(1);
+  stage.click(stage.nameOf(left), "main");
+  stage.click("Pin Dock", "main");
+  machine.advance(1);
+  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 2, "the Dock is pinned");
+  stage.tell("A click on its card and one on Pin Dock: the Dock belongs to " + stage.nameOf(left) +
+             " now.");
+
+  stage.click("Close", "main");
   stage.moveAway(left);
   stage.pressLowerEdge(left, 3, 0.05);
   machine.advance(0.4);
   stage.check(stage.isDockOn(left) && zoneCount(stage) == 2, "the Dock is on the third display");
-  stage.tell("Pinned to " + stage.dockPlace() + ": a touch of its edge fetches the Dock, " +
-             counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") +
-             " guard the other displays.");
-
   const std::int64_t jumps = reveals(stage);
   stage.moveAway(builtIn);
   stage.pressLowerEdge(builtIn, 40, 0.05);
   stage.moveAway(right);
   stage.pressLowerEdge(right, 40, 0.05);
   stage.check(stage.isDockOn(left) && reveals(stage) == jumps, "the Dock stayed");
-  stage.tell("Touching the edges of " + stage.nameOf(builtIn) + " and " + stage.nameOf(right) +
-             " changes nothing: the Dock stays on " + stage.dockPlace() + ".");
+  stage.tell("One touch fetches it there; touching the edges of " + stage.nameOf(builtIn) +
+             " and " + stage.nameOf(right) + " changes nothing.");
 }
 
 void tellOfUnplugging(TourStage& stage) {
@@ -250,8 +318,11 @@ void tellOfUnplugging(TourStage& stage) {
 
 void tellTour(TourStage& stage) {
   tellOfTheUnguardedDock(stage);
+  tellOfTheMenu(stage);
+  tellOfThePermission(stage);
   tellOfPinning(stage);
   tellOfTheModifier(stage);
+  tellOfTheWindow(stage);
   tellOfPreventing(stage);
   tellOfTheShutOff(stage);
   tellOfPlugging(stage);

@@ -1,11 +1,15 @@
 // The stage of the tour: its hand, and its honesty.
+#include <algorithm>
 #include <filesystem>
 #include <sstream>
 
 #include <gtest/gtest.h>
 
+#include "desk/canvas/PngFile.hpp"
 #include "desk/desktop/StandardDisplays.hpp"
 #include "desk/tour/TourStage.hpp"
+#include "desk/windows/Surfaces.hpp"
+#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -73,6 +77,50 @@ TEST_F(TourStageTest, PressesAgainstTheEdgeSoThatTheDockFeelsIt) {
   stage.moveAway(1);
   EXPECT_TRUE(stage.isDockOn(2)) << "walking away fetches nothing";
   EXPECT_EQ(stage.machine().dock.revealCount(2), 1);
+}
+
+TEST_F(TourStageTest, TheHandClicksWhatItIsToldTo) {
+  stage.machine().permission.setTrusted(true);
+  stage.application().launch();
+  stage.clickIcon(1);
+  ASSERT_TRUE(WindowServer::current().menus.isStatusMenuOpen());
+  stage.click("Settings", Surfaces::menu);
+  stage.machine().advance(1);
+  stage.pick("Language", "Chinese", "settings");
+  EXPECT_EQ(stage.model().appLanguage().value(), OrvaneLanguage::chinese);
+  stage.pressEscape();
+  EXPECT_FALSE(Surfaces(WindowServer::current()).isThere("settings"));
+  stage.click("固定 Dock", "main");
+  EXPECT_TRUE(stage.model().isGuardRunning());
+  EXPECT_TRUE(stage.isTrue()) << complaints.str();
+}
+
+TEST_F(TourStageTest, AControlThatIsNotThereEndsTheStory) {
+  stage.application().launch();
+  stage.clickIcon(1);
+  stage.click("Fly", Surfaces::menu);
+  EXPECT_FALSE(stage.isTrue());
+  EXPECT_NE(complaints.str().find("\"Fly\" in menu"), std::string::npos);
+}
+
+TEST_F(TourStageTest, KeepsACloseUpOfASurfaceAtTwoPixelsPerPoint) {
+  stage.machine().permission.setTrusted(true);
+  stage.application().launch();
+  stage.application().reopen();
+  stage.machine().advance(1);
+  stage.keep("panel", "main");
+  EXPECT_EQ(stage.keptCount(), 1);
+  const SurfacePointer picture = readPng(folder / "panel.png");
+  ASSERT_TRUE(picture);
+  // The panel of 700 by 516 points, and 28 around it, but nothing beyond the screen of 640 points.
+  EXPECT_EQ(cairo_image_surface_get_width(picture.get()), 2 * (700 + 56));
+  const auto panel = Surfaces(WindowServer::current()).window("main");
+  const double top = std::max(0.0, 640 - CGRectGetMaxY(panel->frame) - 28);
+  const double bottom = std::min(640.0, 640 - panel->frame.origin.y + 28);
+  EXPECT_EQ(cairo_image_surface_get_height(picture.get()), 2 * static_cast<int>(bottom - top));
+  stage.keep("nothing", "settings");
+  EXPECT_FALSE(stage.isTrue());
+  EXPECT_FALSE(std::filesystem::exists(folder / "nothing.png"));
 }
 
 }  // namespace

@@ -13,13 +13,14 @@ namespace orvane::ui {
 
 class TestHost {
  public:
-  // Symbols are squares of the font's size; there is one image, "photo", of 40 by 20 points, with a
-  // twin for the dark.
+  // Symbols are squares of the font's size; there are the images "photo" and "icon" of 40 by 20
+  // points, the first one with a twin for the dark.
   explicit TestHost(Size size = {200, 100}) {
     HostPlatform platform;
     platform.text = &text_;
     platform.images.imageSize = [](const std::string& name) {
-      return name == "photo" || name == "photo-dark" ? std::optional<Size>({40, 20}) : std::nullopt;
+      const bool isThere = name == "photo" || name == "photo-dark" || name == "icon";
+      return isThere ? std::optional<Size>({40, 20}) : std::nullopt;
     };
     platform.images.symbolSize = [](const std::string&, const Font& font) {
       return std::optional<Size>({font.size, font.size});
