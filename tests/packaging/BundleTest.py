@@ -8,6 +8,7 @@ import re
 import stat
 import struct
 import sys
+import tempfile
 import unittest
 
 sys.dont_write_bytecode = True
@@ -66,6 +67,15 @@ def files_in(folder):
     """All files below a folder, by their path there."""
     return {path.relative_to(folder).as_posix(): path for path in sorted(folder.rglob("*"))
             if path.is_symlink() or not path.is_dir()}
+
+
+def why_there_is_nothing_to_check(program, sources):
+    """Empty for a program that was built after the last change of its sources."""
+    if not program.is_file():
+        return "no application for a Mac has been built"
+    if program.stat().st_mtime < max(file.absolute.stat().st_mtime for file in sources):
+        return "the application for a Mac is older than its sources"
+    return ""
 
 
 class TheProgram(unittest.TestCase):
@@ -153,6 +163,19 @@ class TheChecks(unittest.TestCase):
                   "has_signature": True, "signature_holds": True}
         return mach_o.Slice(**{**values, **changes})
 
+    def test_a_program_that_is_older_than_its_sources_is_not_checked(self):
+        with tempfile.TemporaryDirectory() as folder:
+            program = pathlib.Path(folder, "program")
+            source = source_rules.SourceFile(folder, "Source.cpp")
+            source.absolute.write_text("", encoding="utf-8")
+            self.assertIn("no application", why_there_is_nothing_to_check(program, [source]))
+            program.write_bytes(b"")
+            os.utime(source.absolute, (1000, 1000))
+            os.utime(program, (1001, 1001))
+            self.assertEqual(why_there_is_nothing_to_check(program, [source]), "")
+            os.utime(program, (999, 999))
+            self.assertIn("older", why_there_is_nothing_to_check(program, [source]))
+
     def test_an_import_that_is_not_allowed_is_found(self):
         for name in ("socket", "fopen", "connect", "OBJC_CLASS_$_NSURLSession", "OBJC_CLASS_$_NSFileManager",
                      "CGWindowListCreateImage", "CGEventTapCreateForPid", "IOHIDManagerCreate", "dlopen", "system",
@@ -197,8 +220,8 @@ class TheChecks(unittest.TestCase):
 if __name__ == "__main__":
     BUNDLE, INFO = pathlib.Path(sys.argv[1]), sys.argv[2]
     cases = sys.argv[3:] or ["TheProgram", "TheBundle"]
-    if cases != ["TheChecks"] and not (BUNDLE / "Contents" / "MacOS" / "Orvane").is_file():
-        print("Skipped: no application for a Mac has been built. ORVANE_MACOS_SDK=FOLDER ./test builds it with a macOS"
-              " SDK; on a Mac, ./test does.")
+    MISSING = why_there_is_nothing_to_check(BUNDLE / "Contents" / "MacOS" / "Orvane", source_rules.sources())
+    if cases != ["TheChecks"] and MISSING:
+        print(f"Skipped: {MISSING}. ORVANE_MACOS_SDK=FOLDER ./test builds it with a macOS SDK; on a Mac, ./test does.")
         sys.exit(SKIPPED)
     unittest.main(argv=[sys.argv[0], *cases])
