@@ -36,7 +36,9 @@ void paintRow(CairoCanvas& canvas, WindowServer& server, const MenuRow& row) {
       ui::Shape::roundedRectangle(frame.inset(ui::Edges::horizontal(sideInset)), 5);
   if (row.view != nullptr) {
     if (isHighlighted) {
-      canvas.fill(highlight, ui::Paint::solid(ink(server.machine(), 0.08)));
+      // As rows highlight themselves under the pointer.
+      canvas.fill(ui::Shape::roundedRectangle(frame.inset(ui::Edges::horizontal(3).vertical(2)), 6),
+                  ui::Paint::solid(ink(server.machine(), 0.08)));
     }
     paintView(canvas, server, *row.view, frame.origin());
     return;

@@ -15,6 +15,16 @@ bool canBeChosen(const appkit::MenuItem& item) {
   return !item.isSeparator && item.isEnabled;
 }
 
+/// Compared without regard to the case of ASCII letters.
+bool beginsWith(const std::string& title, const std::string& start) {
+  const auto lower = [](char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+  };
+  return start.size() <= title.size() &&
+         std::equal(start.begin(), start.end(), title.begin(),
+                    [&](char first, char second) { return lower(first) == lower(second); });
+}
+
 std::shared_ptr<HostedView> viewOf(const appkit::MenuItem& item) {
   return item.view ? hostedView(*item.view) : nullptr;
 }
@@ -76,6 +86,7 @@ void MenuTracker::open(Menu menu) {
   menu_ = std::move(menu);
   isStale_ = true;
   highlighted_.reset();
+  isLedByKeys_ = false;
   server_.tooltips.hide();
   server_.pointer.cancelPress();
   server_.machine().runLoop.enterMode(RunLoop::Mode::eventTracking);
@@ -214,16 +225,48 @@ bool MenuTracker::choose(std::size_t itemIndex) {
   return true;
 }
 
+std::optional<std::size_t> MenuTracker::reached() const {
+  if (highlighted_ || isLedByKeys_) {
+    return highlighted_;
+  }
+  const MenuRow* const row = rowAt(server_.machine().pointer.place());
+  return row != nullptr && canBeChosen(menu_->items[row->itemIndex]) ? std::optional(row->itemIndex)
+                                                                     : std::nullopt;
+}
+
+void MenuTracker::highlightByKey(std::size_t itemIndex) {
+  isLedByKeys_ = true;
+  highlight(itemIndex);
+  server_.updates.request();
+}
+
+void MenuTracker::pointerTakesOver() {
+  isLedByKeys_ = false;
+}
+
 void MenuTracker::moveHighlight(bool isDown) {
   const auto count = static_cast<std::ptrdiff_t>(menu_->items.size());
   const std::ptrdiff_t step = isDown ? 1 : -1;
   std::ptrdiff_t index = isDown ? -1 : count;
-  if (highlighted_) {
-    index = static_cast<std::ptrdiff_t>(*highlighted_);
+  if (const auto from = reached()) {
+    index = static_cast<std::ptrdiff_t>(*from);
   }
   for (index += step; index >= 0 && index < count; index += step) {
     if (canBeChosen(menu_->items[static_cast<std::size_t>(index)])) {
-      highlight(static_cast<std::size_t>(index));
+      highlightByKey(static_cast<std::size_t>(index));
+      return;
+    }
+  }
+}
+
+void MenuTracker::selectByTyping(const std::string& characters) {
+  const std::size_t count = menu_->items.size();
+  const auto from = reached();
+  for (std::size_t step = 0; step < count; ++step) {
+    const std::size_t index = ((from ? *from + 1 : 0) + step) % count;
+    const appkit::MenuItem& item = menu_->items[index];
+    if (canBeChosen(item) && beginsWith(item.title, characters)) {
+      highlightByKey(index);
       return;
     }
   }
@@ -244,8 +287,13 @@ void MenuTracker::keyDown(const ui::KeyEvent& event) {
       break;
     case ui::Key::enter:
     case ui::Key::space:
-      if (highlighted_) {
-        choose(*highlighted_);
+      if (const auto chosen = reached()) {
+        choose(*chosen);
+      }
+      break;
+    case ui::Key::character:
+      if (!event.characters.empty() && !event.modifiers.command && !event.modifiers.control) {
+        selectByTyping(event.characters);
       }
       break;
     default:

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "Orvane/platform/Quartz.hpp"
@@ -55,6 +56,12 @@ class MenuTracker {
   /// The item that the keyboard, or the pointer over an item without a view, has reached.
   [[nodiscard]] std::optional<std::size_t> highlighted() const { return highlighted_; }
 
+  /// True from a key that moved the highlight to the next movement of the pointer: meanwhile what
+  /// is under the pointer is not hovered over, so that no two rows look chosen.
+  [[nodiscard]] bool isLedByKeys() const { return isLedByKeys_; }
+  /// The pointer has moved or was pressed.
+  void pointerTakesOver();
+
   /// The items of a menu are others now.
   void itemsChanged(const DeskMenu& menu);
   /// Places the rows of the open menu if its items have changed.
@@ -73,6 +80,11 @@ class MenuTracker {
   void open(Menu menu);
   void show(const std::shared_ptr<HostedView>& view);
   void moveHighlight(bool isDown);
+  /// The next item, after the present one, whose title begins with these characters.
+  void selectByTyping(const std::string& characters);
+  void highlightByKey(std::size_t itemIndex);
+  /// What the keyboard would choose: the highlighted item, else the one under the pointer.
+  [[nodiscard]] std::optional<std::size_t> reached() const;
   [[nodiscard]] double widthOf(const appkit::MenuItem& item) const;
   [[nodiscard]] CGPoint origin(double width, double height) const;
 
@@ -86,6 +98,7 @@ class MenuTracker {
   CGRect frame_{};
   std::vector<MenuRow> rows_;
   std::optional<std::size_t> highlighted_;
+  bool isLedByKeys_ = false;
 };
 
 }  // namespace orvane::desk

@@ -29,7 +29,7 @@ PointerRouter::~PointerRouter() {
 std::optional<PointerRouter::Target> PointerRouter::targetAt(CGPoint place) const {
   if (server_.menus.isOpen()) {
     const MenuRow* const row = server_.menus.rowAt(place);
-    if (row == nullptr || row->view == nullptr) {
+    if (row == nullptr || row->view == nullptr || server_.menus.isLedByKeys()) {
       return std::nullopt;
     }
     return Target{row->view, {place.x - row->frame.origin.x, place.y - row->frame.origin.y}};
@@ -81,6 +81,7 @@ void PointerRouter::pointerMovedTo(CGPoint place) {
     return;
   }
   if (server_.menus.isOpen()) {
+    server_.menus.pointerTakesOver();
     server_.menus.layOut();
     const MenuRow* const row = server_.menus.rowAt(place);
     const bool isPlain = row != nullptr && row->view == nullptr;
@@ -109,6 +110,7 @@ void PointerRouter::buttonPressedAt(CGPoint place) {
 }
 
 void PointerRouter::pressInMenu(CGPoint place) {
+  server_.menus.pointerTakesOver();
   server_.menus.layOut();
   if (server_.menus.rowAt(place) == nullptr) {
     if (!CGRectContainsPoint(server_.menus.frame(), place)) {

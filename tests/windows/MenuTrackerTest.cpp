@@ -159,6 +159,71 @@ TEST_F(MenuTrackerTest, TheKeyboardGoesOverEnabledItemsAndChooses) {
   EXPECT_FALSE(isOpen());
 }
 
+TEST_F(MenuTrackerTest, TheKeyboardGoesOnFromWhereThePointerIs) {
+  for (const char* const title : {"First", "Second", "Third"}) {
+    menu.addItem(row(title, [] {}));
+  }
+  clickItem();
+  moveTo(middleOfRow(1));
+  key(ui::Key::down);
+  EXPECT_EQ(server().menus.highlighted(), 2U);
+  key(ui::Key::down);
+  EXPECT_EQ(server().menus.highlighted(), 2U) << "there is nothing below";
+}
+
+TEST_F(MenuTrackerTest, ReturnChoosesTheRowUnderThePointer) {
+  std::string chosen;
+  menu.addItem(row("First", [&] { chosen = "first"; }));
+  menu.addItem(row("Second", [&] { chosen = "second"; }));
+  clickItem();
+  moveTo(middleOfRow(1));
+  key(ui::Key::enter);
+  EXPECT_EQ(chosen, "second");
+}
+
+TEST_F(MenuTrackerTest, TheKeyboardTakesTheHoverAwayUntilThePointerMovesAgain) {
+  bool isHovered = false;
+  MenuItem hovering = row("First", [] {});
+  hovering.view =
+      hosting(wideButton("First", [] {}).onHover([&](bool isInside) { isHovered = isInside; }));
+  hovering.view->setFrame(CGRectMake(0, 0, 200, 30));
+  menu.addItem(hovering);
+  menu.addItem(row("Second", [] {}));
+  clickItem();
+  moveTo(middleOfRow(0));
+  EXPECT_TRUE(isHovered);
+  key(ui::Key::down);
+  EXPECT_FALSE(isHovered);
+  EXPECT_EQ(server().menus.highlighted(), 1U);
+  moveTo({middleOfRow(0).x + 5, middleOfRow(0).y});
+  EXPECT_TRUE(isHovered);
+  EXPECT_EQ(server().menus.highlighted(), std::nullopt);
+}
+
+TEST_F(MenuTrackerTest, TypingFindsTheNextItemThatBeginsSo) {
+  for (const char* const title : {"Pear", "Apple", "plum"}) {
+    menu.addItem(plain(title, [] {}));
+  }
+  MenuItem disabled = plain("Peach", [] {});
+  disabled.isEnabled = false;
+  menu.addItem(disabled);
+  clickItem();
+  const auto type = [&](const std::string& characters) {
+    server().keyDown({ui::Key::character, {}, characters});
+    machine.runDue();
+  };
+  type("p");
+  EXPECT_EQ(server().menus.highlighted(), 0U);
+  type("p");
+  EXPECT_EQ(server().menus.highlighted(), 2U);
+  type("p");
+  EXPECT_EQ(server().menus.highlighted(), 0U);
+  type("x");
+  EXPECT_EQ(server().menus.highlighted(), 0U);
+  command("a");
+  EXPECT_EQ(server().menus.highlighted(), 0U) << "a shortcut is no typing";
+}
+
 TEST_F(MenuTrackerTest, EscapeClosesWithoutChoosing) {
   int runs = 0;
   menu.addItem(plain("Item", [&] { ++runs; }));
