@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "desk/canvas/Blur.hpp"
+#include "desk/canvas/GradientRows.hpp"
 #include "desk/canvas/ShadowMask.hpp"
 
 namespace orvane::desk {
@@ -61,6 +62,20 @@ void split(double place, double parts, int& pixel, double& phase) {
   phase = steps / parts - pixel;
 }
 
+/// A place or distance in pixels, to one `parts`-th of a pixel.
+double rounded(double place, double parts) {
+  return std::floor(place * parts + 0.5) / parts;
+}
+
+/// Shadows are made for so many places within a pixel.
+constexpr double placeSteps = 64;
+
+ui::Shape inPixels(ui::Shape shape, const ui::Transform& pixels) {
+  shape.rect = pixels.apply(shape.rect);
+  shape.cornerRadius *= std::min(std::abs(pixels.scaleX), std::abs(pixels.scaleY));
+  return shape;
+}
+
 double sigmaInPixels(const ui::PaintShadow& shadow, const ui::Transform& pixels) {
   return std::max(shadow.radius, 0.0) / 2.0 * std::sqrt(std::abs(pixels.scaleX * pixels.scaleY));
 }
@@ -76,56 +91,6 @@ MaskKey keyOf(MaskKind kind, const std::string& content, const ui::Font& font,
       .add(placement.scaleY)
       .add(placement.phaseX)
       .add(placement.phaseY);
-}
-
-PatternPointer gradientOf(const ui::Paint& paint) {
-  PatternPointer pattern(
-      cairo_pattern_create_linear(paint.start.x, paint.start.y, paint.end.x, paint.end.y));
-  for (const ui::PaintStop& stop : paint.stops) {
-    cairo_pattern_add_color_stop_rgba(pattern.get(), stop.location, stop.color.red,
-                                      stop.color.green, stop.color.blue, stop.color.alpha);
-  }
-  return pattern;
-}
-
-bool runsDown(const ui::Paint& paint) {
-  return !paint.isSolid() && paint.start.x == paint.end.x && paint.start.y != paint.end.y;
-}
-
-/// Makes a gradient that runs down the source for what is painted within `area`. Each row of pixels
-/// has one colour, so a strip of one pixel's width holds all there is to compute, and cairo repeats
-/// it across.
-void setRows(cairo_t* context, const ui::Paint& paint, const ui::Rect& area) {
-  const ui::Rect painted = toPixels(context).apply(area);
-  const PixelBounds rows =
-      PixelBounds{painted.x, painted.y, painted.right(), painted.bottom()}.grownBy(1, 1).cutTo(
-          clipBounds(context));
-  const int top = static_cast<int>(std::floor(rows.top));
-  const int height = std::max(1, static_cast<int>(std::ceil(rows.bottom)) - top);
-  const SurfacePointer strip(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1, height));
-  const ContextPointer drawing(cairo_create(strip.get()));
-  cairo_matrix_t matrix = matrixOf(context);
-  cairo_translate(drawing.get(), 0, -top);
-  cairo_transform(drawing.get(), &matrix);
-  cairo_set_source(drawing.get(), gradientOf(paint).get());
-  cairo_paint(drawing.get());
-
-  cairo_identity_matrix(context);
-  cairo_set_source_surface(context, strip.get(), 0, top);
-  cairo_set_matrix(context, &matrix);
-  cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_REPEAT);
-  cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
-}
-
-/// What a layer's surface with its top left there covers.
-SurfacePointer alphaOf(cairo_surface_t* picture, int x, int y) {
-  SurfacePointer alpha(cairo_image_surface_create(CAIRO_FORMAT_A8,
-                                                  cairo_image_surface_get_width(picture),
-                                                  cairo_image_surface_get_height(picture)));
-  const ContextPointer copy(cairo_create(alpha.get()));
-  cairo_set_source_surface(copy.get(), picture, -x, -y);
-  cairo_paint(copy.get());
-  return alpha;
 }
 
 /// The size of an image surface and its rows, one after the other.
@@ -191,7 +156,7 @@ void CairoCanvas::fill(const ui::Shape& shape, const ui::Paint& paint) {
     return;
   }
   if (runsDown(paint)) {
-    setRows(context(), paint, shape.rect);
+    setGradientRows(context(), paint, toPixels(context()).apply(shape.rect));
   } else {
     setPaint(paint);
   }
@@ -218,38 +183,32 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
   }
   const double sigma = sigmaInPixels(shadow, pixels);
   // The mask is made near pixel zero and moved by whole pixels, so that equal shapes share it.
-  constexpr double placeSteps = 64;
   int pixelX = 0;
   int pixelY = 0;
-  ui::Shape cast = shape;
-  cast.rect = pixels.apply(shape.rect.movedBy(shadow.offset));
-  cast.cornerRadius *= std::min(std::abs(pixels.scaleX), std::abs(pixels.scaleY));
-  split(cast.rect.x, placeSteps, pixelX, cast.rect.x);
-  split(cast.rect.y, placeSteps, pixelY, cast.rect.y);
+  ui::Shape hole = inPixels(shape, pixels);
+  split(hole.rect.x, placeSteps, pixelX, hole.rect.x);
+  split(hole.rect.y, placeSteps, pixelY, hole.rect.y);
+  ui::Shape cast = hole;
+  cast.rect = cast.rect.movedBy({rounded(shadow.offset.x * pixels.scaleX, placeSteps),
+                                 rounded(shadow.offset.y * pixels.scaleY, placeSteps)});
   const MaskKey key = MaskKey()
                           .add(MaskKind::shadow)
-                          .add(cast.kind)
-                          .add(cast.cornerStyle)
-                          .add(cast.cornerRadius)
+                          .add(hole.kind)
+                          .add(hole.cornerStyle)
+                          .add(hole.cornerRadius)
+                          .add(hole.rect.x)
+                          .add(hole.rect.y)
+                          .add(hole.rect.width)
+                          .add(hole.rect.height)
                           .add(cast.rect.x)
                           .add(cast.rect.y)
-                          .add(cast.rect.width)
-                          .add(cast.rect.height)
                           .add(sigma);
-  const Mask& mask = resources_.masks.get(key, [&] { return makeShadowMask(cast, sigma); });
-
-  cairo_t* target = context();
-  const PixelBounds visible = clipBounds(target).grownBy(1, 1);
-  cairo_save(target);
-  cairo_new_path(target);
-  appendShape(target, shape);
-  cairo_identity_matrix(target);
-  cairo_rectangle(target, visible.left, visible.top, visible.right - visible.left,
-                  visible.bottom - visible.top);
-  cairo_set_fill_rule(target, CAIRO_FILL_RULE_EVEN_ODD);
-  cairo_clip(target);
+  const Mask& mask = resources_.masks.get(key, [&] {
+    Mask made = makeShadowMask(cast, sigma);
+    cutOut(made, hole);
+    return made;
+  });
   paintMask(mask, pixelX, pixelY, shadow.color);
-  cairo_restore(target);
 }
 
 void CairoCanvas::beginLayer(const ui::Rect& bounds, double opacity,
@@ -304,20 +263,26 @@ void CairoCanvas::endLayer() {
 
 void CairoCanvas::paintLayerShadow(const Layer& layer, const ui::PaintShadow& shadow) {
   const ui::Transform pixels = toPixels(context());
-  Mask alpha{alphaOf(cairo_get_target(layer.context.get()), layer.x, layer.y)};
+  Mask alpha{coverageOf(cairo_get_target(layer.context.get()), layer.x, layer.y)};
   const double sigma = sigmaInPixels(shadow, pixels);
   const MaskKey key = MaskKey().add(MaskKind::layerShadow).add(sigma).add(bytesOf(alpha.surface));
   const Mask& mask = resources_.masks.get(key, [&] {
     blurSurface(alpha.surface.get(), sigma, BlurEdge::transparent);
     return std::move(alpha);
   });
-  cairo_t* target = layer.context.get();
-  cairo_reset_clip(target);
+  // An opaque layer lies on its shadow; in a fainter one both are one picture that fades.
+  const bool isOpaque = layer.opacity >= 1;
+  cairo_t* const target = isOpaque ? context() : layer.context.get();
+  cairo_save(target);
+  if (!isOpaque) {
+    cairo_reset_clip(target);
+    cairo_set_operator(target, CAIRO_OPERATOR_DEST_OVER);
+  }
   cairo_identity_matrix(target);
-  cairo_set_operator(target, CAIRO_OPERATOR_DEST_OVER);
   setColor(target, shadow.color);
   cairo_mask_surface(target, mask.surface.get(), layer.x + shadow.offset.x * pixels.scaleX,
                      layer.y + shadow.offset.y * pixels.scaleY);
+  cairo_restore(target);
 }
 
 bool CairoCanvas::isScaledByTransform() {

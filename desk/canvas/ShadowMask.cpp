@@ -47,4 +47,25 @@ Mask makeShadowMask(const ui::Shape& shape, double sigma) {
   return mask;
 }
 
+void cutOut(Mask& mask, const ui::Shape& shape) {
+  if (!mask.surface) {
+    return;
+  }
+  const ContextPointer context(cairo_create(mask.surface.get()));
+  cairo_translate(context.get(), -mask.x, -mask.y);
+  cairo_set_operator(context.get(), CAIRO_OPERATOR_DEST_OUT);
+  appendShape(context.get(), shape);
+  cairo_fill(context.get());
+}
+
+SurfacePointer coverageOf(cairo_surface_t* picture, int x, int y) {
+  SurfacePointer alpha(cairo_image_surface_create(CAIRO_FORMAT_A8,
+                                                  cairo_image_surface_get_width(picture),
+                                                  cairo_image_surface_get_height(picture)));
+  const ContextPointer copy(cairo_create(alpha.get()));
+  cairo_set_source_surface(copy.get(), picture, -x, -y);
+  cairo_paint(copy.get());
+  return alpha;
+}
+
 }  // namespace orvane::desk

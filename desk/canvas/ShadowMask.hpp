@@ -13,4 +13,11 @@ void appendShape(cairo_t* context, const ui::Shape& shape);
 /// zero, zero. An empty shape gives a mask without a surface.
 Mask makeShadowMask(const ui::Shape& shape, double sigma);
 
+/// Takes a shape, in pixels, out of what a mask covers.
+void cutOut(Mask& mask, const ui::Shape& shape);
+
+/// What the picture on an ARGB32 image surface covers, as an A8 surface of the same size; `x` and
+/// `y` are the surface's own place of its top left pixel.
+SurfacePointer coverageOf(cairo_surface_t* picture, int x, int y);
+
 }  // namespace orvane::desk

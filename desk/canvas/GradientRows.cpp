@@ -1,0 +1,47 @@
+// The strip is drawn by cairo itself, so that its colours are those that cairo would have given.
+#include "desk/canvas/GradientRows.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::desk {
+
+PatternPointer gradientOf(const ui::Paint& paint) {
+  PatternPointer pattern(
+      cairo_pattern_create_linear(paint.start.x, paint.start.y, paint.end.x, paint.end.y));
+  for (const ui::PaintStop& stop : paint.stops) {
+    cairo_pattern_add_color_stop_rgba(pattern.get(), stop.location, stop.color.red,
+                                      stop.color.green, stop.color.blue, stop.color.alpha);
+  }
+  return pattern;
+}
+
+bool runsDown(const ui::Paint& paint) {
+  return !paint.isSolid() && paint.start.x == paint.end.x && paint.start.y != paint.end.y;
+}
+
+void setGradientRows(cairo_t* context, const ui::Paint& paint, const ui::Rect& area) {
+  cairo_matrix_t matrix;
+  cairo_get_matrix(context, &matrix);
+  cairo_identity_matrix(context);
+  double clipTop = 0;
+  double clipBottom = 0;
+  double across = 0;
+  cairo_clip_extents(context, &across, &clipTop, &across, &clipBottom);
+  const int top = static_cast<int>(std::floor(std::max(area.y - 1, clipTop)));
+  const int bottom = static_cast<int>(std::ceil(std::min(area.bottom() + 1, clipBottom)));
+  const int height = std::max(1, bottom - top);
+  const SurfacePointer strip(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1, height));
+  const ContextPointer drawing(cairo_create(strip.get()));
+  cairo_translate(drawing.get(), 0, -top);
+  cairo_transform(drawing.get(), &matrix);
+  cairo_set_source(drawing.get(), gradientOf(paint).get());
+  cairo_paint(drawing.get());
+
+  cairo_set_source_surface(context, strip.get(), 0, top);
+  cairo_set_matrix(context, &matrix);
+  cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_REPEAT);
+  cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,22 @@
+// Gradients as cairo's source; those that run straight down are computed once for all columns.
+#pragma once
+
+#include <cairo.h>
+
+#include "Orvane/ui/Paint.hpp"
+#include "Orvane/ui/Rect.hpp"
+#include "desk/canvas/CairoPointers.hpp"
+
+namespace orvane::desk {
+
+/// A gradient of at least two stops between two places of the user space.
+PatternPointer gradientOf(const ui::Paint& paint);
+
+[[nodiscard]] bool runsDown(const ui::Paint& paint);
+
+/// Makes a gradient that runs down the source for what is painted within `area`, in pixels of the
+/// context's device. Each row of pixels has one colour, so a strip of one pixel's width holds all
+/// there is to compute, and cairo repeats it across.
+void setGradientRows(cairo_t* context, const ui::Paint& paint, const ui::Rect& area);
+
+}  // namespace orvane::desk
