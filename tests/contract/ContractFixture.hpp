@@ -2,13 +2,16 @@
 // tests themselves use the seam only; each platform has its own implementation of this.
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "Orvane/platform/Quartz.hpp"
+#include "Orvane/platform/appkit/Window.hpp"
 
 namespace orvane {
 
@@ -56,6 +59,38 @@ class ContractFixture : public testing::Test {
   [[nodiscard]] bool storeNumberInUserDefaults(const std::string& key, double number);
   /// The login item may be registered and unregistered without consequence for anybody.
   [[nodiscard]] bool canRegisterLoginItem() const;
+
+  /// What the window system itself says of a window that can be told such things only.
+  struct WindowAttributes {
+    std::int64_t level = 0;
+    std::uint64_t collectionBehavior = 0;
+    bool isFloatingPanel = false;
+    bool hidesOnDeactivate = false;
+    bool becomesKeyOnlyIfNeeded = false;
+    bool canBecomeKey = false;
+    bool canBecomeMain = false;
+    bool isOpaque = false;
+    bool hasShadow = false;
+    bool isMovableByBackground = false;
+    bool hasTransparentTitlebar = false;
+    bool isTitleHidden = false;
+    CGSize minSize{};
+    CGSize maxSize{};
+    std::string title;
+  };
+  [[nodiscard]] static WindowAttributes attributesOf(const appkit::Window& window);
+
+  /// The button goes down at one place and the pointer is moved to another, in global coordinates;
+  /// the button stays down.
+  [[nodiscard]] bool dragPointer(CGPoint from, CGPoint to);
+  void releasePointer();
+  struct DraggedFile {
+    std::string url;
+    /// The values of NSDragOperation, or-ed together.
+    unsigned operations = 0;
+  };
+  /// The file that is on its way with the pointer; none when there is none.
+  [[nodiscard]] std::optional<DraggedFile> draggedFile() const;
 
  private:
   struct Platform;

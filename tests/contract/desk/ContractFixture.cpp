@@ -2,6 +2,8 @@
 #include "tests/contract/ContractFixture.hpp"
 
 #include "desk/machine/MachineScope.hpp"
+#include "desk/windows/Implementations.hpp"
+#include "desk/windows/WindowServer.hpp"
 
 namespace orvane {
 
@@ -118,6 +120,46 @@ bool ContractFixture::storeNumberInUserDefaults(const std::string& key, double n
 
 bool ContractFixture::canRegisterLoginItem() const {
   return true;
+}
+
+ContractFixture::WindowAttributes ContractFixture::attributesOf(const appkit::Window& window) {
+  const desk::DeskWindow& native = *window.implementation();
+  return {.level = native.level,
+          .collectionBehavior = native.collectionBehavior,
+          .isFloatingPanel = native.isFloatingPanel,
+          .hidesOnDeactivate = native.hidesOnDeactivate,
+          .becomesKeyOnlyIfNeeded = native.becomesKeyOnlyIfNeeded,
+          .canBecomeKey = native.canBecomeKey(),
+          .canBecomeMain = native.canBecomeMain(),
+          .isOpaque = native.isOpaque,
+          .hasShadow = native.hasShadow,
+          .isMovableByBackground = native.isMovableByBackground,
+          .hasTransparentTitlebar = native.hasTransparentTitlebar,
+          .isTitleHidden = native.isTitleHidden,
+          .minSize = native.minSize,
+          .maxSize = native.maxSize,
+          .title = native.title};
+}
+
+bool ContractFixture::dragPointer(CGPoint from, CGPoint to) {
+  desk::Machine& machine = platform_->scope.machine();
+  machine.mouse.moveTo(from);
+  machine.runDue();
+  machine.mouse.pressButton();
+  machine.runDue();
+  machine.mouse.moveTo(to);
+  machine.runDue();
+  return true;
+}
+
+void ContractFixture::releasePointer() {
+  platform_->scope->mouse.releaseButton();
+  platform_->scope->runDue();
+}
+
+std::optional<ContractFixture::DraggedFile> ContractFixture::draggedFile() const {
+  const auto& drag = desk::WindowServer::current().pointer.fileDrag();
+  return drag ? std::optional(DraggedFile{drag->fileUrl, drag->operations}) : std::nullopt;
 }
 
 }  // namespace orvane

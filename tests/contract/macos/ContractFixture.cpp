@@ -77,4 +77,14 @@ bool ContractFixture::canRegisterLoginItem() const {
   return false;
 }
 
+bool ContractFixture::dragPointer(CGPoint, CGPoint) {
+  return false;
+}
+
+void ContractFixture::releasePointer() {}
+
+std::optional<ContractFixture::DraggedFile> ContractFixture::draggedFile() const {
+  return std::nullopt;
+}
+
 }  // namespace orvane

@@ -1,0 +1,67 @@
+// What the application relies on in dragging sessions: a file leaves a view, and only a copy of it
+// is offered.
+#include <optional>
+
+#include "Orvane/platform/appkit/Bundle.hpp"
+#include "Orvane/platform/appkit/Window.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "tests/contract/Arrange.hpp"
+#include "tests/contract/ContractFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using appkit::Window;
+
+class FileDragContract : public ContractFixture {
+ protected:
+  /// A window that its background moves, its lower left corner at (100, 100), 200 by 100 points;
+  /// all of it is a source that gives `item`.
+  static Window showSource(std::optional<ui::DragItem> item) {
+    Window window(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
+                  appkit::StyleMask::nonactivatingPanel);
+    window.setMovableByWindowBackground(true);
+    window.setHidesOnDeactivate(false);
+    window.setContentView(appkit::HostingView([item](const ui::Environment&) -> ui::View {
+      return ui::Rectangle().dragSource([item] { return item; });
+    }));
+    window.orderFrontRegardless();
+    return window;
+  }
+};
+
+TEST_F(FileDragContract, TheApplicationHasABundleToBeDragged) {
+  const std::optional<std::string> bundle = appkit::Bundle::url();
+  ASSERT_TRUE(bundle);
+  EXPECT_TRUE(bundle->starts_with("file:///")) << *bundle;
+}
+
+TEST_F(FileDragContract, ADraggedSourceOffersItsFileToBeCopiedOnly) {
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  Window window = showSource(ui::DragItem{"file:///Applications/A.app/", "AppIcon"});
+  ORVANE_ARRANGE(dragPointer({150, 650}, {180, 650}));
+  const std::optional<DraggedFile> file = draggedFile();
+  ASSERT_TRUE(file);
+  EXPECT_EQ(file->url, "file:///Applications/A.app/");
+  EXPECT_EQ(file->operations, 1U);
+  releasePointer();
+  EXPECT_FALSE(draggedFile());
+  window.close();
+}
+
+TEST_F(FileDragContract, PressingASourceDoesNotMoveItsWindow) {
+  ORVANE_ARRANGE(arrangeTwoDisplays());
+  for (const bool hasItem : {true, false}) {
+    Window window =
+        showSource(hasItem ? std::optional(ui::DragItem{"file:///A.app/", ""}) : std::nullopt);
+    ORVANE_ARRANGE(dragPointer({150, 650}, {180, 600}));
+    EXPECT_EQ(draggedFile().has_value(), hasItem);
+    releasePointer();
+    EXPECT_EQ(window.frame().origin.x, 100);
+    EXPECT_EQ(window.frame().origin.y, 100);
+    window.close();
+  }
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,123 @@
+// What the application relies on in modal sessions.
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "Orvane/platform/appkit/Application.hpp"
+#include "Orvane/platform/appkit/MainQueue.hpp"
+#include "Orvane/platform/appkit/Timer.hpp"
+#include "tests/contract/ContractFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using appkit::Application;
+using appkit::MainQueue;
+using appkit::RunLoopMode;
+using appkit::Timer;
+using appkit::Window;
+namespace ModalResponse = appkit::ModalResponse;
+
+class ModalSessionContract : public ContractFixture {
+ protected:
+  static Window makePanel() {
+    return Window(appkit::WindowKind::panel, CGRectMake(0, 0, 100, 100),
+                  appkit::StyleMask::titled | appkit::StyleMask::closable);
+  }
+
+  /// Runs the session from a task of the main queue, and `within` once while it runs.
+  void run(const Window& panel, std::function<void()> within) {
+    bool isDone = false;
+    const Timer timer = Timer::repeating(0.05, RunLoopMode::common, [&] {
+      if (!isDone) {
+        isDone = true;
+        within();
+      }
+    });
+    MainQueue::async([this, panel] {
+      Application::runModal(panel, [this](int response) { responses.push_back(response); });
+    });
+    letTimePass(0.2);
+  }
+
+  std::vector<int> responses;
+};
+
+TEST_F(ModalSessionContract, TheResponsesAreThoseOfAnAlertsButtons) {
+  EXPECT_EQ(ModalResponse::alertFirstButton, 1000);
+  EXPECT_EQ(ModalResponse::alertSecondButton, 1001);
+}
+
+TEST_F(ModalSessionContract, TheWindowIsShownAndStaysUntilItIsClosed) {
+  Window panel = makePanel();
+  bool wasVisible = false;
+  run(panel, [&] {
+    wasVisible = panel.isVisible();
+    Application::stopModal(ModalResponse::alertFirstButton);
+  });
+  EXPECT_TRUE(wasVisible);
+  EXPECT_EQ(responses, std::vector<int>{1000});
+  EXPECT_TRUE(panel.isVisible()) << "stopping the session does not close it";
+  panel.close();
+  EXPECT_FALSE(panel.isVisible());
+}
+
+TEST_F(ModalSessionContract, ThePanelMayBeClosedRightAfterTheSessionWasStopped) {
+  Window panel = makePanel();
+  int closings = 0;
+  panel.onWillClose([&] { ++closings; });
+  run(panel, [&] {
+    Application::stopModal(ModalResponse::alertFirstButton);
+    panel.close();
+  });
+  EXPECT_EQ(closings, 1);
+  EXPECT_EQ(responses, std::vector<int>{1000});
+  EXPECT_FALSE(panel.isVisible());
+}
+
+TEST_F(ModalSessionContract, TheCallbackOfClosingMayStopTheSession) {
+  Window panel = makePanel();
+  panel.onWillClose([] { Application::stopModal(ModalResponse::alertSecondButton); });
+  run(panel, [&] { panel.close(); });
+  EXPECT_EQ(responses, std::vector<int>{1001});
+}
+
+TEST_F(ModalSessionContract, TimersOfTheStandardModeWaitForItsEnd) {
+  Window panel = makePanel();
+  int ticks = 0;
+  int ticksWithin = -1;
+  int commonTicks = 0;
+  const Timer standard = Timer::repeating(0.02, RunLoopMode::standard, [&] { ++ticks; });
+  MainQueue::async([this, panel] {
+    Application::runModal(panel, [this](int response) { responses.push_back(response); });
+  });
+  const Timer common = Timer::repeating(0.02, RunLoopMode::common, [&] {
+    if (++commonTicks == 5) {
+      ticksWithin = ticks;
+      Application::stopModal(ModalResponse::alertFirstButton);
+    }
+  });
+  letTimePass(0.3);
+  EXPECT_EQ(ticksWithin, 0);
+  EXPECT_GT(ticks, 0);
+  EXPECT_EQ(responses, std::vector<int>{1000});
+  panel.close();
+}
+
+TEST_F(ModalSessionContract, TheContentMayBeTakenOutWhenItHasEnded) {
+  Window panel = makePanel();
+  const auto held = std::make_shared<int>(0);
+  panel.setContentView(appkit::HostingView([held](const ui::Environment&) { return ui::View(); }));
+  run(panel, [&] {
+    Application::stopModal(ModalResponse::alertFirstButton);
+    panel.close();
+  });
+  panel.clearDelegate();
+  panel.clearContentView();
+  letTimePass(0.05);
+  EXPECT_FALSE(panel.contentView().has_value());
+  EXPECT_EQ(held.use_count(), 1) << "nothing keeps the content";
+}
+
+}  // namespace
+}  // namespace orvane
