@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "desk/canvas/ApplicationImages.hpp"
 #include "desk/gallery/SheetPainter.hpp"
 #include "tests/support/KeptPicture.hpp"
 #include "tests/support/MachineFixture.hpp"
@@ -26,6 +27,7 @@ class ComponentPictureTest : public MachineFixture {
     ASSERT_EQ(sheet.items.size(), captions.size()) << "a caption is not there any more";
     sheet.columns = std::min<std::size_t>(sheet.items.size(), 4);
     DrawingResources resources;
+    addApplicationImages(resources.images);
     const SurfacePointer picture = paintSheet(
         sheet, {.isDark = isDark, .scale = 1, .wallpapers = {wallpaper}}, machine, resources);
     EXPECT_EQ(differenceFromKept(picture.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
