@@ -108,6 +108,13 @@ void makeWindowBase(void* window, WindowKind kind, CGRect contentRect, std::uint
   makeWindow(window, kind, contentRect, styleMask);
 }
 
+void realTerminate() REAL("_ZN6orvane6appkit11Application9terminateEv");
+void terminate() WRAPPED("_ZN6orvane6appkit11Application9terminateEv");
+void terminate() {
+  note("Application.terminate");
+  realTerminate();
+}
+
 // StatusItem
 
 void realMakeStatusItem(StatusItem*) REAL("_ZN6orvane6appkit10StatusItemC1Ev");
@@ -205,6 +212,13 @@ void onWillOpen(Menu*, Task) WRAPPED("_ZN6orvane6appkit4Menu10onWillOpenESt8func
 void onWillOpen(Menu* menu, Task willOpen) {
   note("Menu.onWillOpen");
   realOnWillOpen(menu, std::move(willOpen));
+}
+
+void realCancelTracking(Menu*) REAL("_ZN6orvane6appkit4Menu14cancelTrackingEv");
+void cancelTracking(Menu*) WRAPPED("_ZN6orvane6appkit4Menu14cancelTrackingEv");
+void cancelTracking(Menu* menu) {
+  note("Menu.cancelTracking");
+  realCancelTracking(menu);
 }
 
 void realRemoveAllItems(Menu*) REAL("_ZN6orvane6appkit4Menu14removeAllItemsEv");

@@ -1,4 +1,5 @@
-// The order of the start-up, as the platform sees it: every call, and no other.
+// The order of the start-up, and of the menu's actions, as the platform sees it: every call, and no
+// other.
 #include "tests/app/AppFixture.hpp"
 #include "tests/app/SeamRecorder.hpp"
 
@@ -88,12 +89,49 @@ TEST_F(StartUpTest, AStoredLockWithoutPermissionLooksAndGivesUp) {
                                   theTimer + looking + theIcon("lock.open"));
 }
 
-TEST_F(StartUpTest, OpeningItAgainIsRecordedToo) {
-  application.launch();
-  const SeamRecorder recorder;
-  application.reopen();
-  EXPECT_NE(recorder.text().find("Window\n"), std::string::npos)
-      << "what would be recorded of a window at launch";
+class MenuActionCallsTest : public StartUpTest {
+ protected:
+  MenuActionCallsTest() {
+    machine.permission.setTrusted(true);
+    application.launch();
+    EXPECT_TRUE(openMenu());
+  }
+
+  std::string pressRecorded(const std::string& title) {
+    const SeamRecorder recorder;
+    EXPECT_TRUE(press(title));
+    return recorder.text();
+  }
+
+  const std::string closing = "Menu.cancelTracking\n";
+  const std::string activating = "Application.activateIgnoringOtherApps\n";
+};
+
+TEST_F(MenuActionCallsTest, OpenWindowActivatesOnceMoreAfterTheWindowAndThenLooksToTheIcon) {
+  const std::string calls = pressRecorded("Open Window");
+  EXPECT_TRUE(calls.starts_with(closing)) << calls;
+  EXPECT_NE(calls.find("Window\n" + activating + activating + theIcon("lock.open")),
+            std::string::npos)
+      << calls;
+}
+
+TEST_F(MenuActionCallsTest, SettingsLeavesActivatingToTheWindow) {
+  const std::string calls = pressRecorded("Settings");
+  EXPECT_TRUE(calls.starts_with(closing)) << calls;
+  EXPECT_NE(calls.find("Window\n" + activating + theIcon("lock.open")), std::string::npos) << calls;
+  EXPECT_EQ(calls.find(activating + activating), std::string::npos) << calls;
+}
+
+TEST_F(MenuActionCallsTest, QuitClosesTheMenuAndEnds) {
+  EXPECT_EQ(pressRecorded("Quit"), closing + "Application.terminate\n");
+}
+
+TEST_F(MenuActionCallsTest, ADisplayIsStoredAfterTheMenuHasClosedAndBeforeItIsBuiltAnew) {
+  const std::string calls = pressRecorded("Studio");
+  EXPECT_TRUE(calls.starts_with(closing + "UserDefaults.setString \"selectedDisplayID\" \"" +
+                                desk::uuidNamed('B') + "\"\nMenu.removeAllItems\n"))
+      << calls;
+  EXPECT_TRUE(calls.ends_with("Menu.addItem \"Quit\"\n" + theIcon("lock.open"))) << calls;
 }
 
 }  // namespace
