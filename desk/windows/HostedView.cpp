@@ -73,7 +73,11 @@ void HostedView::update() {
     return;
   }
   isUpdating_ = true;
-  host_.setAppearance(appearanceOf(*machine));
+  ui::Appearance appearance = appearanceOf(*machine);
+  // Frames come from the run loop of a process; a system's window that outlives it jumps to the
+  // end.
+  appearance.reduceMotion = appearance.reduceMotion || !machine->process.isRunning();
+  host_.setAppearance(appearance);
   if (willUpdate) {
     willUpdate();
   }

@@ -258,6 +258,7 @@ TEST_F(SystemSettingsTest, ItOutlivesTheApplication) {
   ASSERT_NE(window(), nullptr);
   clickOn("Orvane");
   EXPECT_TRUE(machine.permission.isTrusted());
+  EXPECT_FALSE(window()->content->host().nextFrameWanted()) << "nobody would bring the frames";
 }
 
 TEST_F(SystemSettingsTest, WithoutADisplayItOpensAllTheSame) {
