@@ -114,6 +114,7 @@ View ContentView::titleBar(const Environment& environment) const {
 
 View ContentView::body(const Environment& environment) const {
   const State<bool> hasAppeared = environment.state("hasAppeared", false);
+  // It ends with the view, whose state it is.
   const State<std::shared_ptr<appkit::Timer>> permissionTimer =
       environment.state("permissionTimer", std::shared_ptr<appkit::Timer>());
   const View content = panels()
@@ -131,8 +132,7 @@ View ContentView::body(const Environment& environment) const {
         permissionTimer.set(std::make_shared<appkit::Timer>(appkit::Timer::repeating(
             permissionRefreshSeconds, appkit::RunLoopMode::common,
             [model] { model->setHasAccessibilityPermission(AXIsProcessTrusted() != 0); })));
-      })
-      .onDisappear([permissionTimer] { permissionTimer.set(nullptr); });
+      });
 }
 
 }  // namespace orvane

@@ -33,9 +33,9 @@ constexpr double popUpPanelRowSpacing = 6;
 constexpr double popUpPanelHeaderHeight = 56;
 constexpr double pickerHeight = 154;
 constexpr double cardSpacing = 14;
-/// How far the picker reaches beyond its panel's content on both sides: room for what a raised card
-/// adds to its size, which the scroll view would cut.
-constexpr double pickerReach = 3;
+/// How far the picker reaches beyond its panel's content on both sides. Cards are cut where the
+/// panel ends, and a raised one at the side is not cut at all.
+constexpr double pickerReach = DockPanel::padding - 1;
 constexpr double headerSpacing = 14;
 constexpr double titleToDescription = 2;
 constexpr double buttonSpacing = 10;
@@ -67,7 +67,12 @@ View header(const PanelIcon& icon, const HeaderTexts& texts, const StatusPill& p
   const View words = VStack(titleToDescription, HorizontalAlignment::leading,
                             {title, Description{texts.description}});
   // Read aloud, the pill says which mode it speaks of.
-  const View status = View(pill).accessibilityLabel(texts.title).accessibilityValue(pill.text);
+  // Another word is another pill: one fades away as the other comes, each in its own width.
+  const View status = View(pill)
+                          .accessibilityLabel(texts.title)
+                          .accessibilityValue(pill.text)
+                          .transition(Transition::opacity())
+                          .id(pill.text);
   return HStack(headerSpacing, {icon, words.layoutPriority(1), Spacer(), status});
 }
 
@@ -154,7 +159,16 @@ View ContentView::popUpButtons() const {
           .focusRing(ring)
           .width(dockSettingsWidth)
           .transition(Transition::move(Edge::trailing).combined(Transition::opacity()));
-  return HStack(buttonSpacing, {toggle, when(isPreventing(), openSettings)});
+  // What slides in comes from behind the panel's edge; the line around a button needs some room.
+  constexpr double lineRoom = 1;
+  const Edges toTheEdge{
+      .top = lineRoom, .leading = lineRoom, .bottom = lineRoom, .trailing = DockPanel::padding};
+  const Edges back{
+      .top = -lineRoom, .leading = -lineRoom, .bottom = -lineRoom, .trailing = -DockPanel::padding};
+  return HStack(buttonSpacing, {toggle, when(isPreventing(), openSettings)})
+      .padding(toTheEdge)
+      .clip(ShapeForm::rectangle())
+      .padding(back);
 }
 
 }  // namespace orvane

@@ -65,6 +65,9 @@ TEST_F(ContentViewAnimationTest, TheDockSettingsButtonComesFromTheTrailingEdgeAn
   machine.advance(2 * frame);
   const ui::Rect early = frameOf("Open Dock Settings");
   EXPECT_GT(early.x, 465);
+  // It comes from behind the panel's edge: nothing is painted beyond 675 points.
+  EXPECT_GE(drawn("clip rectangle(44 "), 1);
+  EXPECT_GE(drawn(" 631 36)"), 1);
   machine.advance(0.1);
   const ui::Rect later = frameOf("Open Dock Settings");
   EXPECT_LT(later.x, early.x);

@@ -89,6 +89,9 @@ TEST_F(ContentViewLayoutTest, MoreCardsThanFitCanBeScrolledTo) {
   attach(4, {3360, 0, 1920, 1080}, "HP", false);
   openMain();
   const ui::Rect area = withRole(ui::Role::scrollArea, mainPanel).at(0).frame;
+  // Cards are cut just inside of the panel's own edges.
+  EXPECT_EQ(area.x, 26);
+  EXPECT_EQ(area.right(), 674);
   EXPECT_GT(frameOf("HP").right(), area.right());
   const CGPoint corner = server().topLeftOf(*window(mainPanel));
   machine.mouse.moveTo({corner.x + 300, corner.y + 240});
