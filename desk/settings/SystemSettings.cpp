@@ -1,6 +1,7 @@
 // The window is made when it is first opened, and kept from then on.
 #include "desk/settings/SystemSettings.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <string_view>
@@ -115,9 +116,11 @@ void SystemSettings::place() {
     return;
   }
   const CGRect area = displays.all()[index.value_or(0)].frame;
+  // Where the display is too small, the top with the close button stays in view.
+  const double x = std::max(area.origin.x, CGRectGetMidX(area) - width / 2 - distanceFromMiddle);
   const double free = area.size.height - Displays::menuBarHeight - height;
-  server_.setOrigin(*window_, {std::floor(CGRectGetMidX(area) - width / 2 - distanceFromMiddle),
-                               std::floor(area.origin.y + free / 2)});
+  const double y = area.origin.y + (free > 0 ? free / 2 : free);
+  server_.setOrigin(*window_, {std::floor(x), std::floor(y)});
 }
 
 const Machine& SystemSettings::machine() const {

@@ -121,6 +121,14 @@ TEST_F(SystemSettingsTest, ItOpensOnTheDisplayWithThePointerAndStaysWhereItIsPut
   EXPECT_EQ(window()->frame.origin.y, placed.origin.y - 20);
 }
 
+TEST_F(SystemSettingsTest, OnASmallDisplayItsTopLeftIsInView) {
+  EXPECT_FALSE(machine.displays.setFrame(2, CGRectMake(1000, 0, 720, 480)));
+  moveTo({1500, 500});
+  open();
+  EXPECT_EQ(window()->frame.origin.x, 1000);
+  EXPECT_EQ(CGRectGetMaxY(window()->frame), 480 - Displays::menuBarHeight);
+}
+
 TEST_F(SystemSettingsTest, ItsCloseButtonClosesIt) {
   open();
   const CGPoint corner = server().topLeftOf(*window());
