@@ -1,0 +1,58 @@
+// Glass is blurred once for what lies behind it.
+#include <gtest/gtest.h>
+
+#include "desk/canvas/Blur.hpp"
+#include "desk/canvas/PngFile.hpp"
+#include "desk/desktop/GlassCache.hpp"
+
+namespace orvane::desk {
+namespace {
+
+/// A light square at `x` on black.
+SurfacePointer picture(int x, int side = 20) {
+  SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, side, 20));
+  const ContextPointer context(cairo_create(surface.get()));
+  cairo_set_source_rgb(context.get(), 1, 0.5, 0.25);
+  cairo_rectangle(context.get(), x, 4, 6, 6);
+  cairo_fill(context.get());
+  return surface;
+}
+
+TEST(GlassCacheTest, isWhatABlurOfThePictureIs) {
+  GlassCache cache;
+  const SurfacePointer plain = picture(3);
+  blurSurface(plain.get(), 2, BlurEdge::extended);
+  const auto expected = encodePng(plain.get());
+  EXPECT_EQ(encodePng(cache.blurred(picture(3), 2)), expected);
+  EXPECT_EQ(encodePng(cache.blurred(picture(3), 2)), expected);
+  EXPECT_EQ(cache.blurCount(), 1);
+}
+
+TEST(GlassCacheTest, anotherPictureOrAnotherBlurIsAnother) {
+  GlassCache cache;
+  const auto first = encodePng(cache.blurred(picture(3), 2));
+  EXPECT_NE(encodePng(cache.blurred(picture(4), 2)), first);
+  EXPECT_NE(encodePng(cache.blurred(picture(3), 3)), first);
+  cache.blurred(picture(3, 21), 2);
+  EXPECT_EQ(cache.blurCount(), 4);
+  EXPECT_EQ(encodePng(cache.blurred(picture(3), 2)), first);
+  EXPECT_EQ(cache.blurCount(), 4);
+}
+
+TEST(GlassCacheTest, beyondTheLimitTheLongestUnusedGoes) {
+  // Room for two pictures of 20 by 20 and what was made of them.
+  GlassCache cache(std::size_t{4} * 20 * 20 * 4);
+  cache.blurred(picture(1), 2);
+  cache.blurred(picture(2), 2);
+  cache.blurred(picture(1), 2);
+  cache.blurred(picture(3), 2);
+  EXPECT_EQ(cache.count(), 2U);
+  EXPECT_EQ(cache.blurCount(), 3);
+  cache.blurred(picture(1), 2);
+  EXPECT_EQ(cache.blurCount(), 3);
+  cache.blurred(picture(2), 2);
+  EXPECT_EQ(cache.blurCount(), 4);
+}
+
+}  // namespace
+}  // namespace orvane::desk
