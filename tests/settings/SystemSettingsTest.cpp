@@ -1,7 +1,11 @@
 // The window of the System Settings: which link opens which page, and what the page does.
 #include <optional>
+#include <sstream>
+#include <string>
 
 #include "Orvane/platform/appkit/Workspace.hpp"
+#include "Orvane/ui/RecordingCanvas.hpp"
+#include "desk/canvas/SymbolLibrary.hpp"
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {
@@ -42,6 +46,21 @@ class SystemSettingsTest : public WindowFixture {
   std::string valueOf(const std::string& label) {
     const auto found = control(label);
     return found ? found->node.value : "not there";
+  }
+  /// No text is cut, and there is a drawing of each symbol.
+  void expectDrawnWhole() {
+    window()->content->update();
+    ui::RecordingCanvas canvas;
+    window()->content->host().paint(canvas, {0, 0, SystemSettings::width, SystemSettings::height});
+    for (const std::string& line : canvas.lines()) {
+      EXPECT_EQ(line.find("…"), std::string::npos) << line;
+      std::istringstream words(line);
+      std::string kind;
+      std::string name;
+      words >> kind >> name;
+      EXPECT_TRUE(kind != "symbol" || SymbolLibrary::contains(name)) << line;
+    }
+    EXPECT_GT(canvas.lines().size(), 20U);
   }
   /// A window of the application at the left, out of which a file can be dragged.
   appkit::Window makeDragSource(const std::string& fileUrl) {
@@ -256,6 +275,22 @@ TEST_F(SystemSettingsTest, TheSidebarAndTheBackButtonLeadThroughThePages) {
     clickOn(label);
     EXPECT_EQ(settings().state().page, page);
     EXPECT_TRUE(control(label)->node.isSelected);
+  }
+}
+
+TEST_F(SystemSettingsTest, EveryPageIsDrawnWholeInBothLanguages) {
+  machine.permission.setTrusted(true);
+  for (const char* const language : {"en", "zh"}) {
+    machine.locale.preferredLanguages = {language};
+    for (const SettingsPage page :
+         {SettingsPage::general, SettingsPage::displays, SettingsPage::desktopAndDock,
+          SettingsPage::privacy, SettingsPage::accessibility}) {
+      settings().open(page);
+      expectDrawnWhole();
+    }
+    settings().beginChoosing();
+    expectDrawnWhole();
+    settings().endChoosing(false);
   }
 }
 
