@@ -72,8 +72,8 @@ class ContrastTest : public PanelFixture {
   ContrastTest() {
     EXPECT_FALSE(machine.displays.detach(3));
     EXPECT_FALSE(machine.displays.detach(2));
-    EXPECT_FALSE(machine.displays.setFrame(1, {0, 0, 720, 620}));
-    attach(2, {720, 0, 80, 620}, "Side", false);
+    EXPECT_FALSE(machine.displays.setFrame(1, CGRectMake(0, 0, 720, 620)));
+    attach(2, CGRectMake(720, 0, 80, 620), "Side", false);
     machine.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, true);
     machine.advance(2);
   }

@@ -27,9 +27,9 @@ class PanelFixture : public testing::Test {
   static constexpr const char* settingsPanel = "settings";
 
   PanelFixture() {
-    attach(1, {0, 0, 1440, 900}, "Color LCD", true);
-    attach(2, {1440, 0, 1920, 1080}, "DELL", false);
-    attach(3, {0, 900, 1440, 900}, "LG", false);
+    attach(1, CGRectMake(0, 0, 1440, 900), "Color LCD", true);
+    attach(2, CGRectMake(1440, 0, 1920, 1080), "DELL", false);
+    attach(3, CGRectMake(0, 900, 1440, 900), "LG", false);
     machine.permission.setTrusted(true);
     application.launch();
   }

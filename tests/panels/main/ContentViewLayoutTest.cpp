@@ -86,7 +86,7 @@ TEST_F(ContentViewLayoutTest, NothingMovesWhenTheHintTakesTheDescriptionsPlace) 
 }
 
 TEST_F(ContentViewLayoutTest, MoreCardsThanFitCanBeScrolledTo) {
-  attach(4, {3360, 0, 1920, 1080}, "HP", false);
+  attach(4, CGRectMake(3360, 0, 1920, 1080), "HP", false);
   openMain();
   const ui::Rect area = withRole(ui::Role::scrollArea, mainPanel).at(0).frame;
   // Cards are cut just inside of the panel's own edges.

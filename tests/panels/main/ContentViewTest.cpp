@@ -138,7 +138,7 @@ TEST_F(ContentViewTest, ThereIsACardForEachDisplayInTheModelsOrder) {
   EXPECT_EQ(drawn("image DisplayLaptop "), 1);
   EXPECT_EQ(drawn("image DisplayMonitor "), 2);
   EXPECT_EQ(drawn("symbol checkmark "), 1);
-  attach(4, {3360, 0, 1920, 1080}, "HP", false);
+  attach(4, CGRectMake(3360, 0, 1920, 1080), "HP", false);
   machine.advance(1);
   EXPECT_EQ(cards().size(), 4U);
 }
