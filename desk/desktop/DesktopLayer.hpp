@@ -7,6 +7,7 @@
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 #include "desk/desktop/DesktopScene.hpp"
+#include "desk/desktop/GlassCache.hpp"
 
 namespace orvane::desk {
 
@@ -14,6 +15,7 @@ namespace orvane::desk {
 struct DisplayCanvas {
   CairoCanvas& canvas;
   DrawingResources& resources;
+  GlassCache& glass;
   /// The display's place in the machine's list, and its frame in global coordinates.
   std::size_t displayIndex;
   ui::Rect frame;

@@ -57,7 +57,7 @@ void DesktopPainter::paintScreen(cairo_surface_t* surface, const DesktopLayout& 
   cairo_clip(context);
   canvas.transform(ui::Transform::translation(
       {screen.pixels.x / scale - screen.frame.x, screen.pixels.y / scale - screen.frame.y}));
-  const DisplayCanvas display{canvas, resources_, index, screen.frame, screen.pixels};
+  const DisplayCanvas display{canvas, resources_, glass_, index, screen.frame, screen.pixels};
   for (const Layers* layers : {&backdrop_, &windows_, &system_, &menus_, &marks_}) {
     for (const auto& layer : *layers) {
       canvas.save();

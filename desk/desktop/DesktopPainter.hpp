@@ -36,6 +36,7 @@ class DesktopPainter {
                    std::size_t index);
 
   DrawingResources& resources_;
+  GlassCache glass_;
   Layers backdrop_;
   Layers windows_;
   Layers system_;

@@ -12,13 +12,15 @@ namespace {
 
 constexpr double glassSigma = 18;
 
-void paintShelf(CairoCanvas& canvas, const DockShelf& dock, const Appearance& appearance) {
+void paintShelf(CairoCanvas& canvas, const DockShelf& dock, const Appearance& appearance,
+                GlassCache& glass) {
   const bool isDark = appearance.isDark;
   const ui::Shape shape = ui::Shape::roundedRectangle(dock.shelf, dock.cornerRadius);
   canvas.shadow(shape, {{0, 0, 0, isDark ? 0.4 : 0.2}, 18, {0, 4}});
   paintGlass(canvas, shape, glassSigma,
              tintFor(appearance,
-                     isDark ? ui::Rgba{0.13, 0.13, 0.16, 0.46} : ui::Rgba{0.97, 0.97, 0.99, 0.42}));
+                     isDark ? ui::Rgba{0.13, 0.13, 0.16, 0.46} : ui::Rgba{0.97, 0.97, 0.99, 0.42}),
+             glass);
   canvas.stroke(shape.inset(-0.25), ui::Paint::solid({0, 0, 0, isDark ? 0.45 : 0.14}), 0.5);
   canvas.stroke(shape.inset(0.5), ui::Paint::solid({1, 1, 1, isDark ? 0.16 : 0.42}), 1);
 }
@@ -56,7 +58,7 @@ void DockLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
                       dock.edge(), shown, dockTileCount());
   const bool isDark = scene.machine.appearance.isDark;
   CairoCanvas& canvas = display.canvas;
-  paintShelf(canvas, shelf, scene.machine.appearance);
+  paintShelf(canvas, shelf, scene.machine.appearance, display.glass);
   const int day = menuClockDay(scene.machine.clock);
   const ui::Rgba ink = isDark ? ui::Rgba{1, 1, 1, 0.8} : ui::Rgba{0, 0, 0, 0.6};
   for (std::size_t index = 0; index < shelf.tiles.size(); ++index) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "desk/canvas/Blur.hpp"
 
@@ -35,21 +36,24 @@ cairo_rectangle_int_t pixelsAround(cairo_t* context, const ui::Rect& rect, int m
 
 }  // namespace
 
-void paintGlass(CairoCanvas& canvas, const ui::Shape& shape, double sigma, const ui::Rgba& tint) {
+void paintGlass(CairoCanvas& canvas, const ui::Shape& shape, double sigma, const ui::Rgba& tint,
+                GlassCache& cache) {
   cairo_t* const context = canvas.context();
   const double sigmaInPixels = sigma * canvas.scaleFactor();
   const cairo_rectangle_int_t pixels = pixelsAround(context, shape.rect, blurReach(sigmaInPixels));
   if (tint.alpha < 1 && pixels.width > 0 && pixels.height > 0) {
-    const SurfacePointer copy(
+    SurfacePointer copy(
         cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels.width, pixels.height));
-    const ContextPointer copying(cairo_create(copy.get()));
-    cairo_set_source_surface(copying.get(), cairo_get_target(context), -pixels.x, -pixels.y);
-    cairo_paint(copying.get());
-    blurSurface(copy.get(), sigmaInPixels, BlurEdge::extended);
+    {
+      const ContextPointer copying(cairo_create(copy.get()));
+      cairo_set_source_surface(copying.get(), cairo_get_target(context), -pixels.x, -pixels.y);
+      cairo_paint(copying.get());
+    }
+    cairo_surface_t* const blurred = cache.blurred(std::move(copy), sigmaInPixels);
     canvas.save();
     canvas.clip(shape);
     cairo_identity_matrix(context);
-    cairo_set_source_surface(context, copy.get(), pixels.x, pixels.y);
+    cairo_set_source_surface(context, blurred, pixels.x, pixels.y);
     cairo_paint(context);
     canvas.restore();
   }

@@ -61,7 +61,8 @@ void MenuBarLayer::paint(const DesktopScene& scene, const DisplayCanvas& display
   const ui::Rect bar{frame.x, frame.y, frame.width, height};
   paintGlass(canvas, ui::Shape::rectangle(bar), glassSigma,
              tintFor(scene.machine.appearance,
-                     isDark ? ui::Rgba{0.09, 0.09, 0.12, 0.7} : ui::Rgba{0.98, 0.98, 1, 0.66}));
+                     isDark ? ui::Rgba{0.09, 0.09, 0.12, 0.7} : ui::Rgba{0.98, 0.98, 1, 0.66}),
+             display.glass);
   canvas.fill(ui::Shape::rectangle({bar.x, bar.bottom() - 0.5, bar.width, 0.5}),
               ui::Paint::solid({0, 0, 0, isDark ? 0.5 : 0.12}));
 

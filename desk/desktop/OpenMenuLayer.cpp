@@ -61,13 +61,14 @@ void paintRow(CairoCanvas& canvas, WindowServer& server, const MenuRow& row) {
               {frame.x + MenuMetrics::titleInset, frame.y + MenuMetrics::baseline});
 }
 
-void paintMenu(CairoCanvas& canvas, WindowServer& server) {
+void paintMenu(CairoCanvas& canvas, WindowServer& server, GlassCache& glass) {
   server.menus.layOut();
   const bool isDark = server.machine().appearance.isDark;
   const ui::Shape shape =
       ui::Shape::roundedRectangle(rectOf(server.menus.frame()), MenuMetrics::cornerRadius);
   canvas.shadow(shape, menuShadow);
-  paintGlass(canvas, shape, glassSigma, tintFor(server.machine().appearance, glassTint(isDark)));
+  paintGlass(canvas, shape, glassSigma, tintFor(server.machine().appearance, glassTint(isDark)),
+             glass);
   for (const MenuRow& row : server.menus.rows()) {
     paintRow(canvas, server, row);
   }
@@ -106,7 +107,7 @@ void OpenMenuLayer::paint(const DesktopScene& scene, const DisplayCanvas& displa
   }
   const bool isWanted = !scene.onlySurface || *scene.onlySurface == Surfaces::menu;
   if (server->menus.isOpen() && isWanted && server->menus.displayIndex() == display.displayIndex) {
-    paintMenu(display.canvas, *server);
+    paintMenu(display.canvas, *server, display.glass);
   }
   const auto& tooltip = server->tooltips.shown();
   if (tooltip && !scene.onlySurface &&

@@ -102,7 +102,7 @@ void paintView(CairoCanvas& canvas, WindowServer& server, HostedView& view, ui::
   cairo_restore(context);
 }
 
-void paintWindow(CairoCanvas& canvas, WindowServer& server, DeskWindow& window) {
+void paintWindow(CairoCanvas& canvas, WindowServer& server, DeskWindow& window, GlassCache& glass) {
   const CGPoint topLeft = server.topLeftOf(window);
   const ui::Point corner{topLeft.x, topLeft.y};
   const ui::Shape outline = placed(window.outline(), corner);
@@ -118,8 +118,8 @@ void paintWindow(CairoCanvas& canvas, WindowServer& server, DeskWindow& window) 
     canvas.shadow(outline, windowShadow);
   }
   if (window.content != nullptr && window.content->hasBackdrop) {
-    paintGlass(canvas, outline, glassSigma,
-               tintFor(server.machine().appearance, glassTint(isDark)));
+    paintGlass(canvas, outline, glassSigma, tintFor(server.machine().appearance, glassTint(isDark)),
+               glass);
   } else {
     canvas.fill(outline, ui::Paint::solid(backgroundColor(server)));
   }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desk/canvas/CairoCanvas.hpp"
+#include "desk/desktop/GlassCache.hpp"
 #include "desk/windows/DeskWindow.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -12,7 +13,7 @@ inline constexpr double windowShadowReach = 60;
 
 /// Paints a visible window where it is; the canvas is in global coordinates and holds what lies
 /// behind it.
-void paintWindow(CairoCanvas& canvas, WindowServer& server, DeskWindow& window);
+void paintWindow(CairoCanvas& canvas, WindowServer& server, DeskWindow& window, GlassCache& glass);
 
 /// Paints an up-to-date view with its top left at a place in global coordinates, on whole pixels.
 void paintView(CairoCanvas& canvas, WindowServer& server, HostedView& view, ui::Point corner);

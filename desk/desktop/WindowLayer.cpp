@@ -22,7 +22,7 @@ void WindowLayer::paint(const DesktopScene& scene, const DisplayCanvas& display)
     const ui::Rect frame{corner.x, corner.y, window->frame.size.width, window->frame.size.height};
     if (frame.inset(-windowShadowReach).intersects(display.frame)) {
       display.canvas.save();
-      paintWindow(display.canvas, *server, *window);
+      paintWindow(display.canvas, *server, *window, display.glass);
       display.canvas.restore();
     }
   }

@@ -62,7 +62,8 @@ void paintGround(CairoCanvas& canvas, GallerySheet::Ground ground, const ui::Rec
                 ui::Paint::solid(ui::standardColor(ui::SystemColor::windowBackground, appearance)));
     return;
   }
-  paintGlass(canvas, shape, glassSigma, glassTint(isDark));
+  GlassCache glass;
+  paintGlass(canvas, shape, glassSigma, glassTint(isDark), glass);
   if (ground == GallerySheet::Ground::menu) {
     return;
   }

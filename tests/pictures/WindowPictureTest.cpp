@@ -50,10 +50,11 @@ class WindowPictureTest : public MachineFixture {
   void expectWindows(const std::string& name, Appearance::Wallpaper wallpaper) {
     const SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
     WindowServer& server = WindowServer::current();
+    GlassCache glass;
     CairoCanvas canvas(surface.get(), 1, server.resources());
     paintWallpaper(canvas.context(), wallpaper, machine.appearance.isDark, width, height);
     for (const auto& shown : server.windows()) {
-      paintWindow(canvas, server, *shown);
+      paintWindow(canvas, server, *shown, glass);
     }
     EXPECT_EQ(differenceFromKept(surface.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
                                                     "tests/pictures" / (name + ".png")),
