@@ -3,6 +3,7 @@
 
 #include "Orvane/app/CompactMenuSwitch.hpp"
 #include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
 #include "desk/hardware/HardwareButtonStyle.hpp"
@@ -12,8 +13,10 @@ namespace orvane::desk {
 using namespace ui;
 
 View HardwareSwitch::body(const Environment& /*environment*/) const {
-  const View row =
-      HStack(8, {Text(title).lineLimit(1), Spacer(), CompactMenuSwitch{isOn}}).height(30);
+  // On a plain plate the menu's track alone would hardly be seen while it is off.
+  const View knob = View(CompactMenuSwitch{isOn})
+                        .background(when(!isOn, Capsule().fill(Color::primary().opacity(0.16))));
+  const View row = HStack(8, {Text(title).lineLimit(1), Spacer(), knob}).height(30);
   return Button([change = onChange, isOn = isOn] { change(!isOn); }, row)
       .style(HardwarePlainStyle{})
       .focusRing(ShapeForm::rounded(6))
