@@ -111,7 +111,9 @@ GallerySheet settingsIconSheet() {
           .title = "SettingsIconButtonStyle",
           .ground = GallerySheet::Ground::window,
           .hasTexts = false,
-          .items = states(styled, [](OrvaneLanguage) { return View(ui::Symbol("xmark")); })};
+          .items = states(styled, [](OrvaneLanguage) {
+            return ui::Symbol("xmark").font(Font::system(12, Weight::bold)).frame(28, 28);
+          })};
 }
 
 }  // namespace
