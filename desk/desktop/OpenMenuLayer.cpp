@@ -2,6 +2,7 @@
 #include "desk/desktop/OpenMenuLayer.hpp"
 
 #include "Orvane/ui/StandardColors.hpp"
+#include "desk/desktop/FileDragArt.hpp"
 #include "desk/desktop/Glass.hpp"
 #include "desk/desktop/WindowArt.hpp"
 #include "desk/windows/MenuMetrics.hpp"
@@ -89,15 +90,6 @@ void paintTooltip(CairoCanvas& canvas, WindowServer& server, const ui::Rect& scr
   canvas.text(shown.text, font, ink(server.machine(), 0.85), {frame.x + 6, frame.y + 13.5});
 }
 
-void paintDrag(CairoCanvas& canvas, WindowServer& server) {
-  const FileDrag& drag = *server.pointer.fileDrag();
-  const CGPoint place = server.machine().pointer.place();
-  const ui::Rect image = drag.image.movedBy({place.x, place.y});
-  canvas.beginLayer(image, 0.7, std::nullopt);
-  canvas.image(drag.imageName, image);
-  canvas.endLayer();
-}
-
 }  // namespace
 
 void OpenMenuLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
@@ -115,7 +107,7 @@ void OpenMenuLayer::paint(const DesktopScene& scene, const DisplayCanvas& displa
     paintTooltip(display.canvas, *server, display.frame);
   }
   if (server->pointer.fileDrag() && !scene.onlySurface) {
-    paintDrag(display.canvas, *server);
+    paintFileDrag(display.canvas, *server);
   }
 }
 

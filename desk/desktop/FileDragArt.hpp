@@ -1,0 +1,13 @@
+// How a file on its way from one window to another looks.
+#pragma once
+
+#include "desk/canvas/CairoCanvas.hpp"
+#include "desk/windows/WindowServer.hpp"
+
+namespace orvane::desk {
+
+/// Paints the image at the pointer, and the green mark of a copy where the file would be taken.
+/// There must be a drag; the canvas is in global coordinates.
+void paintFileDrag(CairoCanvas& canvas, WindowServer& server);
+
+}  // namespace orvane::desk
