@@ -8,14 +8,18 @@ namespace orvane {
 
 using namespace ui;
 
-View CompactMenuSwitch::body(const Environment& /*environment*/) const {
+View CompactMenuSwitch::body(const Environment& environment) const {
   const Color track = isOn ? Color::blue() : Color::tertiary().opacity(0.22);
   const View knob = Circle()
                         .fill(Color::white())
                         .castShadow({.color = Color::black().opacity(0.14), .radius = 1, .y = 0.5})
                         .frame(15, 15)
                         .padding(1.5);
-  return ZStack(isOn ? Alignment::trailing() : Alignment::leading(), {Capsule().fill(track), knob})
+  // The faint track of a switch that is off gets an outline where the user asks for contrast.
+  const Color rim =
+      environment.appearance.increaseContrast ? Color::primary().opacity(0.6) : Color::clear();
+  return ZStack(isOn ? Alignment::trailing() : Alignment::leading(),
+                {Capsule().fill(track).strokeBorder(rim), knob})
       .frame(34, 18)
       .accessibilityHidden();
 }

@@ -104,6 +104,16 @@ TEST_F(StatusMenuRowTest, ASwitchIsACapsuleWithAKnobAtOneEnd) {
   EXPECT_TRUE(test.host->semantics().children.empty());
 }
 
+TEST_F(StatusMenuRowTest, ASwitchHasAnOutlineWhereContrastIsAskedFor) {
+  show(CompactMenuSwitch{false}, {34, 18});
+  EXPECT_FALSE(draws("rgba(0 0 0 0.6)")) << drawing();
+  ui::Appearance appearance;
+  appearance.increaseContrast = true;
+  test.host->setAppearance(appearance);
+  test.host->layoutIfNeeded();
+  EXPECT_TRUE(draws("rgba(0 0 0 0.6)")) << drawing();
+}
+
 TEST_F(StatusMenuRowTest, AHeaderIsASmallHeadingAtTheTopLeft) {
   show(StatusMenuSectionHeader{"Displays"}, {208, 26});
   EXPECT_TRUE(draws("text \"Displays\" 12/600 rgba(0 0 0 0.5) at 14 16\n")) << drawing();
