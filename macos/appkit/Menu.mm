@@ -6,6 +6,7 @@
 #include "macos/appkit/MenuImplementation.hpp"
 #include "macos/appkit/NativeView.hpp"
 #include "macos/appkit/Strings.hpp"
+#include "macos/hosting/HostingContainer.hpp"
 
 /// A menu item that runs a function when it is chosen.
 @interface OrvaneMenuItem : NSMenuItem {
@@ -27,12 +28,32 @@
 
 @end
 
+namespace {
+
+/// Under the pointer a row looks as it wants to.
+bool isUnderPointer(NSView* view) {
+  const NSRect frame = [view.window convertRectToScreen:[view convertRect:view.bounds toView:nil]];
+  return NSPointInRect(NSEvent.mouseLocation, frame);
+}
+
+}  // namespace
+
 @implementation OrvaneMenuDelegate
 
 // The items may be replaced here; when the menu is about to open, that would be too late.
 - (void)menuNeedsUpdate:(NSMenu*)menu {
   if (_willOpen) {
     _willOpen();
+  }
+}
+
+// A row with a view of its own shows nothing of what the keyboard has come to, unless it is told.
+- (void)menu:(NSMenu*)menu willHighlightItem:(NSMenuItem*)highlighted {
+  for (NSMenuItem* item in menu.itemArray) {
+    if ([item.view isKindOfClass:OrvaneHostingContainer.class]) {
+      static_cast<OrvaneHostingContainer*>(item.view).highlighted =
+          item == highlighted && !isUnderPointer(item.view);
+    }
   }
 }
 

@@ -6,6 +6,7 @@
   OrvaneHostView* _hostView;
   NSVisualEffectView* _backdrop;
   BOOL _respectsSafeArea;
+  BOOL _highlighted;
 }
 
 - (instancetype)initWithHostView:(OrvaneHostView*)hostView {
@@ -50,6 +51,25 @@
     // As clear in a panel that is not key.
     _backdrop.state = NSVisualEffectStateActive;
     [self addSubview:_backdrop positioned:NSWindowBelow relativeTo:_hostView];
+  }
+}
+
+- (BOOL)isHighlighted {
+  return _highlighted;
+}
+
+- (void)setHighlighted:(BOOL)highlighted {
+  if (highlighted != _highlighted) {
+    _highlighted = highlighted;
+    self.needsDisplay = YES;
+  }
+}
+
+- (void)drawRect:(NSRect)dirtyRect {
+  if (_highlighted) {
+    [[NSColor.labelColor colorWithAlphaComponent:0.08] setFill];
+    [[NSBezierPath bezierPathWithRoundedRect:NSInsetRect(self.bounds, 3, 2) xRadius:6
+                                     yRadius:6] fill];
   }
 }
 
