@@ -25,6 +25,9 @@ Timer Timer::repeating(double intervalSeconds, RunLoopMode mode, std::function<v
                                                     const std::function<void()> running = tick;
                                                     running();
                                                   }];
+  // What the header advises for repeating timers: the Mac may wake up for several at once. Later
+  // ticks keep to the original grid.
+  timer.tolerance = intervalSeconds * 0.1;
   [NSRunLoop.mainRunLoop
       addTimer:timer
        forMode:mode == RunLoopMode::common ? NSRunLoopCommonModes : NSDefaultRunLoopMode];
