@@ -1,15 +1,13 @@
 // A few pictures that are compared with their kept versions. To renew them after a wanted change,
 // run with ORVANE_RENEW_PICTURES=1 and look at what changed.
-#include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "desk/canvas/PngFile.hpp"
 #include "desk/canvas/SymbolArtwork.hpp"
 #include "tests/canvas/PixelFixture.hpp"
+#include "tests/support/KeptPicture.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -20,33 +18,9 @@ using ui::Shape;
 class PictureTest : public PixelFixture {
  protected:
   void expectPicture(const std::string& name) {
-    const std::filesystem::path file =
-        std::filesystem::path(ORVANE_SOURCE_FOLDER) / "tests/canvas/pictures" / (name + ".png");
-    if (std::getenv("ORVANE_RENEW_PICTURES") != nullptr) {
-      ASSERT_TRUE(writePng(surface.get(), file));
-      return;
-    }
-    const SurfacePointer kept = readPng(file);
-    ASSERT_TRUE(kept) << file;
-    ASSERT_EQ(cairo_image_surface_get_width(kept.get()), width());
-    ASSERT_EQ(cairo_image_surface_get_height(kept.get()), height());
-    int worst = 0;
-    for (int y = 0; y < height(); ++y) {
-      for (int x = 0; x < width(); ++x) {
-        const Pixel a = at(x, y);
-        const Pixel b = pixelAt(kept.get(), x, y);
-        worst = std::max({worst, std::abs(a.red - b.red), std::abs(a.green - b.green),
-                          std::abs(a.blue - b.blue), std::abs(a.alpha - b.alpha)});
-      }
-    }
-    // The picture is written without premultiplication, which may cost a step on the way back.
-    constexpr int tolerance = 2;
-    EXPECT_LE(worst, tolerance) << name;
-    if (worst > tolerance) {
-      const auto shown = std::filesystem::path(testing::TempDir()) / (name + "-now.png");
-      writePng(surface.get(), shown);
-      std::cerr << "as drawn now: " << shown.string() << "\n";
-    }
+    EXPECT_EQ(differenceFromKept(surface.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
+                                                    "tests/canvas/pictures" / (name + ".png")),
+              std::nullopt);
   }
 };
 

@@ -1,9 +1,7 @@
 // Pictures of the desktop as files, and a few that are compared with their kept versions. To renew
 // those after a wanted change, run with ORVANE_RENEW_PICTURES=1 and look at what changed.
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <iterator>
 #include <limits>
 
@@ -11,6 +9,7 @@
 #include "desk/desktop/DesktopPicture.hpp"
 #include "desk/desktop/StandardDisplays.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
+#include "tests/support/KeptPicture.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -27,26 +26,10 @@ class DesktopPictureTest : public DesktopFixture {
     return {std::istreambuf_iterator<char>(stream), {}};
   }
 
-  void expectPicture(const SurfacePointer& shown, const std::string& name) {
-    const std::filesystem::path keptFile =
-        std::filesystem::path(ORVANE_SOURCE_FOLDER) / "tests/desktop/pictures" / (name + ".png");
-    if (std::getenv("ORVANE_RENEW_PICTURES") != nullptr) {
-      ASSERT_TRUE(writePng(shown.get(), keptFile));
-      return;
-    }
-    const SurfacePointer kept = readPng(keptFile);
-    ASSERT_TRUE(kept) << keptFile;
-    ASSERT_EQ(cairo_image_surface_get_width(kept.get()),
-              cairo_image_surface_get_width(shown.get()));
-    ASSERT_EQ(cairo_image_surface_get_height(kept.get()),
-              cairo_image_surface_get_height(shown.get()));
-    const int wrong = differences(kept, shown);
-    EXPECT_EQ(wrong, 0) << name;
-    if (wrong > 0) {
-      const auto now = std::filesystem::path(testing::TempDir()) / (name + "-now.png");
-      writePng(shown.get(), now);
-      std::cerr << "as drawn now: " << now.string() << "\n";
-    }
+  static void expectPicture(const SurfacePointer& shown, const std::string& name) {
+    EXPECT_EQ(differenceFromKept(shown.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
+                                                  "tests/desktop/pictures" / (name + ".png")),
+              std::nullopt);
   }
 };
 
