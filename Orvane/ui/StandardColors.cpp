@@ -31,7 +31,9 @@ Rgba standardColor(SystemColor name, const Appearance& appearance) {
     case SystemColor::primary:
       return label(appearance, 0.85, 0.85, 1.0);
     case SystemColor::secondary:
-      return label(appearance, 0.5, 0.55, 0.72);
+      // AppKit's are 0.5 and 0.55, and vibrancy strengthens them over glass. Without vibrancy they
+      // would not reach a contrast of 4.5 to 1, even black on pure white.
+      return label(appearance, 0.6, 0.68, 0.8);
     case SystemColor::tertiary:
       return label(appearance, 0.26, 0.25, 0.45);
     case SystemColor::windowBackground:

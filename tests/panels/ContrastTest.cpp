@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Orvane/ui/StandardColors.hpp"
 #include "desk/desktop/DesktopPicture.hpp"
 #include "tests/panels/PanelFixture.hpp"
 #include "tests/panels/TextRun.hpp"
@@ -26,7 +27,7 @@ double contrast(double first, double second) {
 }
 
 /// Why a text may be fainter than 4.5 to 1, and what it must reach then. But for the first, the
-/// colours are the user's and the system's own, which the panel may not change.
+/// colours are the user's and the system's own.
 struct Exception {
   std::string reason;
   bool (*applies)(const TextRun& run);
@@ -36,9 +37,12 @@ struct Exception {
 bool isWhite(const ui::Rgba& color) {
   return color.red > 0.99 && color.green > 0.99 && color.blue > 0.99 && color.alpha > 0.99;
 }
-/// The system's blue by day, which is the accent colour unless the user has chosen another.
-bool isAccent(const ui::Rgba& color) {
-  return color.red < 0.1 && color.green > 0.4 && color.green < 0.6 && color.blue > 0.99;
+/// The system's blue, which is the accent colour unless the user has chosen another.
+bool isAccent(const ui::Rgba& color, bool isDark) {
+  ui::Appearance appearance;
+  appearance.dark = isDark;
+  const ui::Rgba accent = ui::standardColor(ui::SystemColor::blue, appearance);
+  return color.red == accent.red && color.green == accent.green && color.blue == accent.blue;
 }
 
 const std::vector<Exception>& exceptions() {
@@ -50,8 +54,10 @@ const std::vector<Exception>& exceptions() {
        3.0},
       {"the label of the main button is white on the accent colour or on red",
        [](const TextRun& run) { return isWhite(run.color) && run.font.size == 15; }, 3.1},
-      {"by day the chosen card and an active pill are written in the accent colour as it is",
-       [](const TextRun& run) { return isAccent(run.color); }, 2.8},
+      {"the chosen card and an active pill are written in the accent colour as it is, by day",
+       [](const TextRun& run) { return isAccent(run.color, false); }, 2.8},
+      {"and in the dark, on the lightest glass there is: over white, raised, with the top's light",
+       [](const TextRun& run) { return isAccent(run.color, true); }, 2.2},
   };
   return all;
 }

@@ -19,8 +19,8 @@ Rgba resolved(const Color& color, bool dark) {
 TEST(ColorTest, aSemanticColourFollowsTheAppearance) {
   EXPECT_EQ(resolved(Color::primary(), false), (Rgba{0, 0, 0, 0.85}));
   EXPECT_EQ(resolved(Color::primary(), true), (Rgba{1, 1, 1, 0.85}));
-  EXPECT_EQ(resolved(Color::secondary(), false).alpha, 0.5);
-  EXPECT_EQ(resolved(Color::secondary(), true).alpha, 0.55);
+  EXPECT_EQ(resolved(Color::secondary(), false).alpha, 0.6);
+  EXPECT_EQ(resolved(Color::secondary(), true).alpha, 0.68);
   EXPECT_EQ(resolved(Color::tertiary(), true).alpha, 0.25);
   EXPECT_EQ(resolved(Color::red(), true), (Rgba{1, 69 / 255.0, 58 / 255.0, 1}));
 }
@@ -33,7 +33,7 @@ TEST(ColorTest, theAccentIsTheUsersChoiceOrBlue) {
 }
 
 TEST(ColorTest, opacitiesMultiply) {
-  EXPECT_DOUBLE_EQ(resolved(Color::secondary().opacity(0.5).opacity(0.5), false).alpha, 0.125);
+  EXPECT_DOUBLE_EQ(resolved(Color::secondary().opacity(0.5).opacity(0.5), false).alpha, 0.15);
   EXPECT_EQ(resolved(Color::white().opacity(7), false).alpha, 1);
   EXPECT_EQ(resolved(Color::white().opacity(-1), false).alpha, 0);
   EXPECT_EQ(resolved(Color::white().opacity(std::numeric_limits<double>::quiet_NaN()), false).alpha,

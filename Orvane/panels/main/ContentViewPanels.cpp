@@ -50,22 +50,14 @@ struct HeaderTexts {
   std::string description;
 };
 
-struct Description {
-  std::string text;
-
-  View body(const Environment& environment) const {
-    return Text(text)
-        .font(Font::system(13))
-        .foreground(OrvanePalette::secondaryText(environment.isDark()))
-        .fixedSizeVertical();
-  }
-};
-
 View header(const PanelIcon& icon, const HeaderTexts& texts, const StatusPill& pill) {
   const View title =
       Text(texts.title).font(Font::system(18, Weight::bold)).accessibilityRole(Role::heading);
-  const View words = VStack(titleToDescription, HorizontalAlignment::leading,
-                            {title, Description{texts.description}});
+  const View description = Text(texts.description)
+                               .font(Font::system(13))
+                               .foreground(Color::secondary())
+                               .fixedSizeVertical();
+  const View words = VStack(titleToDescription, HorizontalAlignment::leading, {title, description});
   // Read aloud, the pill says which mode it speaks of.
   // Another word is another pill: one fades away as the other comes, each in its own width.
   const View status = View(pill)

@@ -34,22 +34,20 @@ const std::string& DisplayChoiceCard::title() const {
   return display.name.empty() ? fallbackLabel : display.name;
 }
 
-View DisplayChoiceCard::content(bool isDark) const {
+View DisplayChoiceCard::content() const {
   const View image = Image(display.isBuiltIn ? "DisplayLaptop" : "DisplayMonitor")
                          .resizable(ContentMode::fit)
                          .frame(122, 70)
                          .shadow({.color = Color::black().opacity(0.06),
                                   .radius = imageShadowRadius,
                                   .y = imageShadowDrop});
-  const View name =
-      Text(title())
-          .font(Font::system(13, isSelected ? Weight::bold : Weight::medium))
-          .foreground(isSelected ? OrvanePalette::accentText(isDark) : Color::primary())
-          .lineLimit(1);
+  const View name = Text(title())
+                        .font(Font::system(13, isSelected ? Weight::bold : Weight::medium))
+                        .foreground(isSelected ? Color::accent() : Color::primary())
+                        .lineLimit(1);
   const View role = Text(roleLabel)
                         .font(Font::system(11, Weight::semibold))
-                        .foreground(isSelected ? OrvanePalette::accentText(isDark)
-                                               : OrvanePalette::secondaryText(isDark))
+                        .foreground(isSelected ? Color::accent() : Color::secondary())
                         .lineLimit(1);
   return VStack(imageToTitle, {image, VStack(titleToRole, {name, role})})
       .padding(Edges::horizontal(sidePadding))
@@ -77,7 +75,7 @@ View DisplayChoiceCard::checkBadge() const {
 View DisplayChoiceCard::body(const Environment& environment) const {
   const State<bool> isHovered = environment.state("isHovered", false);
   const bool isRaised = isSelected || isHovered.value();
-  const View card = content(environment.isDark())
+  const View card = content()
                         .background(surface(environment.isDark(), isRaised))
                         .overlay(when(isSelected, checkBadge()), Alignment::topTrailing());
   return Button([environment,

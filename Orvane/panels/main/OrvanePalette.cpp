@@ -42,14 +42,6 @@ Color secondaryButtonFill(bool isDark, bool isPressed) {
   return black(isPressed ? 0.08 : 0.05);
 }
 
-Color secondaryText(bool isDark) {
-  return Color::primary().opacity(isDark ? 0.8 : 0.7);
-}
-
-Color accentText(bool isDark) {
-  return isDark ? Color::accent().lighter(0.55) : Color::accent();
-}
-
 Color windowRim(bool isDark) {
   return white(isDark ? 0.08 : 0.28);
 }

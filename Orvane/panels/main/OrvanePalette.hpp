@@ -16,13 +16,6 @@ namespace orvane::OrvanePalette {
 [[nodiscard]] ui::Gradient panelOverlayGradient(bool isDark);
 [[nodiscard]] ui::Color secondaryButtonFill(bool isDark, bool isPressed);
 
-/// Of text that is less important. The system's own secondary label is too faint to be read well
-/// on glass: black at 0.5 does not even reach a contrast of 4.5 to 1 on pure white.
-[[nodiscard]] ui::Color secondaryText(bool isDark);
-/// The user's accent colour for text. On dark glass, which is never quite dark, it is lightened, or
-/// it could not be read.
-[[nodiscard]] ui::Color accentText(bool isDark);
-
 /// The line around the window, around panels and pills, and around small controls.
 [[nodiscard]] ui::Color windowRim(bool isDark);
 [[nodiscard]] ui::Color panelRim(bool isDark);

@@ -24,8 +24,7 @@ View StatusPill::body(const Environment& environment) const {
   const bool isDark = environment.isDark();
   return Text(text)
       .font(Font::system(13, Weight::bold))
-      .foreground(isActive ? OrvanePalette::accentText(isDark)
-                           : OrvanePalette::secondaryText(isDark))
+      .foreground(isActive ? Color::accent() : Color::secondary())
       .fixedSize()
       .padding(Edges::horizontal(13).vertical(8))
       .background(Capsule()
