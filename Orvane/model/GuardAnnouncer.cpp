@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "Orvane/model/OrvaneSettings.hpp"
 #include "Orvane/permission/OrvaneAccessibilityPermission.hpp"
 #include "Orvane/platform/appkit/Accessibility.hpp"
 
@@ -22,9 +21,11 @@ void GuardAnnouncer::update(const OrvaneModel& model) {
   }
 }
 
-GuardAnnouncer::Told GuardAnnouncer::tell(const OrvaneModel& model) {
-  // Someone wants the guard: it runs, it is to come back, or the permission is being asked for.
-  const bool isWanted = model.isGuardRunning() || OrvaneSettings::isOrvaneEnabled() ||
+GuardAnnouncer::Told GuardAnnouncer::tell(const OrvaneModel& model) const {
+  // Someone wants the guard: it runs or did until now, it was to come back, or the permission is
+  // being asked for.
+  const bool hasRun = told_.state == State::pinning || told_.state == State::preventing;
+  const bool isWanted = model.isGuardRunning() || hasRun || model.isRestoreBlocked() ||
                         OrvaneAccessibilityPermission::isChecking();
   if (isWanted && !model.hasAccessibilityPermission().value()) {
     return {State::blocked, {}};

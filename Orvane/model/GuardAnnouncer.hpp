@@ -25,7 +25,7 @@ class GuardAnnouncer {
     friend bool operator==(const Told&, const Told&) = default;
   };
 
-  [[nodiscard]] static Told tell(const OrvaneModel& model);
+  [[nodiscard]] Told tell(const OrvaneModel& model) const;
   [[nodiscard]] static std::string text(State state, const OrvaneModel& model);
 
   Told told_;

@@ -97,6 +97,8 @@ class OrvaneModel {
   void toggleHideDockOnAllDisplays();
   /// Once at launch: starts the guard again if it was on when the application quit and can start.
   void restoreLockIfNeeded();
+  /// The guard was to be started again at launch and the permission was missing; until it starts.
+  [[nodiscard]] bool isRestoreBlocked() const { return isRestoreBlocked_; }
 
   void refreshLaunchAtLoginStatus();
   void setLaunchAtLoginEnabled(bool enabled);
@@ -132,6 +134,7 @@ class OrvaneModel {
   Published<bool> isTemporarilyUnlocked_;
   Published<std::optional<bool>> lastRestoreSucceeded_;
   Published<CFAbsoluteTime> lastCheckedAt_;
+  bool isRestoreBlocked_ = false;
   Published<OrvaneLanguage> appLanguage_;
   Published<OrvaneModifier> temporaryUnlockModifier_;
   Published<bool> hidesDockOnAllDisplays_;

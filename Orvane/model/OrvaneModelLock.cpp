@@ -23,6 +23,7 @@ bool OrvaneModel::hasWhatTheModeNeeds() const {
 }
 
 void OrvaneModel::startGuard() {
+  isRestoreBlocked_ = false;
   guardService_.start(selectedDisplayID_.value().value_or(""), temporaryUnlockModifier_.value(),
                       hidesDockOnAllDisplays_.value());
   noteChecked();
@@ -135,7 +136,8 @@ void OrvaneModel::restoreLockIfNeeded() {
   }
   refreshDisplays();
   // No prompt at launch: the status shows a missing permission.
-  if (!AXIsProcessTrusted() || !(hidesDockOnAllDisplays_.value() || isTargetAttached())) {
+  isRestoreBlocked_ = !AXIsProcessTrusted();
+  if (isRestoreBlocked_ || !(hidesDockOnAllDisplays_.value() || isTargetAttached())) {
     return;
   }
   startGuard();

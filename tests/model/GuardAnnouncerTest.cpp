@@ -89,6 +89,19 @@ TEST_F(GuardAnnouncerTest, APermissionThatIsTakenAwayIsToldAndItsReturnToo) {
   EXPECT_THAT(said(), ElementsAre("The Dock is pinned to " + model->selectedDisplay()->name));
 }
 
+TEST_F(GuardAnnouncerTest, AGuardThatGoesWithItsPermissionIsToldOnceAsBlocked) {
+  launchPinned();
+  said();
+  machine.permission.setTrusted(false);
+  model->guardService().stop();
+  model->setHasAccessibilityPermission(false);
+  EXPECT_THAT(said(),
+              ElementsAre("The Accessibility permission is missing; the Dock is not guarded"));
+  machine.permission.setTrusted(true);
+  model->setHasAccessibilityPermission(true);
+  EXPECT_THAT(said(), IsEmpty());
+}
+
 TEST_F(GuardAnnouncerTest, ItSpeaksTheLanguageOfTheInterface) {
   store("appLanguage", "chinese");
   launchPreventing();
