@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "Orvane/model/GuardAnnouncer.hpp"
 #include "desk/windows/WindowServer.hpp"
@@ -11,8 +11,7 @@
 namespace orvane {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+using Announcements = std::vector<std::string>;
 
 class GuardAnnouncerTest : public ModelFixture {
  protected:
@@ -32,49 +31,49 @@ class GuardAnnouncerTest : public ModelFixture {
 
 TEST_F(GuardAnnouncerTest, AnOrdinaryStartSaysNothing) {
   launch();
-  EXPECT_THAT(said(), IsEmpty());
+  EXPECT_EQ(said(), Announcements());
 }
 
 TEST_F(GuardAnnouncerTest, ALockThatIsRestoredIsTold) {
   store("isOrvaneEnabled", true);
   launch();
-  EXPECT_THAT(said(), ElementsAre("The Dock is pinned to " + model->selectedDisplay()->name));
+  EXPECT_EQ(said(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
 }
 
 TEST_F(GuardAnnouncerTest, StartingStoppingAndAChangeOfModeAreToldOnce) {
   launchPinned();
-  EXPECT_THAT(said(), ElementsAre("The Dock is pinned to " + model->selectedDisplay()->name));
+  EXPECT_EQ(said(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
   model->toggleHideDockOnAllDisplays();
-  EXPECT_THAT(said(), ElementsAre("The Dock is kept from popping up"));
+  EXPECT_EQ(said(), Announcements{"The Dock is kept from popping up"});
   model->toggleHideDockOnAllDisplays();
-  EXPECT_THAT(said(), ElementsAre("The Dock is no longer guarded"));
+  EXPECT_EQ(said(), Announcements{"The Dock is no longer guarded"});
 }
 
 TEST_F(GuardAnnouncerTest, AnotherTargetIsToldByItsName) {
   launchPinned();
   said();
   model->selectDisplay(model->displays().value().at(1).id);
-  EXPECT_THAT(said(), ElementsAre("The Dock is pinned to " + model->displays().value().at(1).name));
+  EXPECT_EQ(said(), Announcements{"The Dock is pinned to " + model->displays().value().at(1).name});
 }
 
 TEST_F(GuardAnnouncerTest, AMissingPermissionIsToldWhenTheGuardIsAskedFor) {
   machine.permission.setTrusted(false);
   launch();
-  EXPECT_THAT(said(), IsEmpty()) << "nobody has asked for anything";
+  EXPECT_EQ(said(), Announcements()) << "nobody has asked for anything";
   model->toggleSelectedDisplayLock();
-  EXPECT_THAT(said(),
-              ElementsAre("The Accessibility permission is missing; the Dock is not guarded"));
+  EXPECT_EQ(said(),
+            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
   // The request lapses; nothing has stopped.
   machine.advance(2);
-  EXPECT_THAT(said(), IsEmpty());
+  EXPECT_EQ(said(), Announcements());
 }
 
 TEST_F(GuardAnnouncerTest, AMissingPermissionIsToldWhenTheLockOfTheLastRunCannotComeBack) {
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(false);
   launch();
-  EXPECT_THAT(said(),
-              ElementsAre("The Accessibility permission is missing; the Dock is not guarded"));
+  EXPECT_EQ(said(),
+            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
 }
 
 TEST_F(GuardAnnouncerTest, APermissionThatIsTakenAwayIsToldAndItsReturnToo) {
@@ -82,11 +81,11 @@ TEST_F(GuardAnnouncerTest, APermissionThatIsTakenAwayIsToldAndItsReturnToo) {
   said();
   machine.permission.setTrusted(false);
   model->setHasAccessibilityPermission(false);
-  EXPECT_THAT(said(),
-              ElementsAre("The Accessibility permission is missing; the Dock is not guarded"));
+  EXPECT_EQ(said(),
+            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
   machine.permission.setTrusted(true);
   model->setHasAccessibilityPermission(true);
-  EXPECT_THAT(said(), ElementsAre("The Dock is pinned to " + model->selectedDisplay()->name));
+  EXPECT_EQ(said(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
 }
 
 TEST_F(GuardAnnouncerTest, AGuardThatGoesWithItsPermissionIsToldOnceAsBlocked) {
@@ -95,26 +94,26 @@ TEST_F(GuardAnnouncerTest, AGuardThatGoesWithItsPermissionIsToldOnceAsBlocked) {
   machine.permission.setTrusted(false);
   model->guardService().stop();
   model->setHasAccessibilityPermission(false);
-  EXPECT_THAT(said(),
-              ElementsAre("The Accessibility permission is missing; the Dock is not guarded"));
+  EXPECT_EQ(said(),
+            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
   machine.permission.setTrusted(true);
   model->setHasAccessibilityPermission(true);
-  EXPECT_THAT(said(), IsEmpty());
+  EXPECT_EQ(said(), Announcements());
 }
 
 TEST_F(GuardAnnouncerTest, ItSpeaksTheLanguageOfTheInterface) {
   store("appLanguage", "chinese");
   launchPreventing();
-  EXPECT_THAT(said(), ElementsAre("已防止 Dock 弹出"));
+  EXPECT_EQ(said(), Announcements{"已防止 Dock 弹出"});
   model->toggleHideDockOnAllDisplays();
-  EXPECT_THAT(said(), ElementsAre("Dock 守卫已关闭"));
+  EXPECT_EQ(said(), Announcements{"Dock 守卫已关闭"});
 }
 
 TEST_F(GuardAnnouncerTest, AChangeOfTheLanguageAloneIsNotToldAgain) {
   launchPinned();
   said();
   model->setAppLanguage(OrvaneLanguage::chinese);
-  EXPECT_THAT(said(), IsEmpty());
+  EXPECT_EQ(said(), Announcements());
 }
 
 }  // namespace
