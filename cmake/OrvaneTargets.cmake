@@ -14,10 +14,23 @@ if(ORVANE_SANITIZE)
   target_link_options(orvane_flags INTERFACE ${orvane_sanitizers})
 endif()
 
+# Without a cache of what was compiled before, headers that are read once for a whole target take a
+# third off the time of a first build. A build with the cache shows which includes are missing.
+function(orvane_precompile name)
+  get_target_property(sources ${name} SOURCES)
+  list(LENGTH sources source_count)
+  if(ORVANE_CCACHE OR source_count LESS 5 OR NOT ORVANE_PLATFORM STREQUAL "desk")
+    return()
+  endif()
+  target_precompile_headers(${name} PRIVATE ${ARGN} <algorithm> <array> <functional> <memory>
+                            <optional> <string> <string_view> <utility> <vector>)
+endfunction()
+
 # orvane_library(NAME SOURCES...): a static library of the project.
 function(orvane_library name)
   add_library(${name} STATIC ${ARGN})
   target_link_libraries(${name} PUBLIC orvane_flags)
+  orvane_precompile(${name})
 endfunction()
 
 # orvane_test(NAME SOURCES file... [LIBRARIES library...] [DEFINITIONS name=value...]
@@ -37,11 +50,7 @@ function(orvane_test name)
     # is tested stays optimised.
     target_compile_options(${name} PRIVATE -O0)
   endif()
-  list(LENGTH arg_SOURCES source_count)
-  if(NOT ORVANE_CCACHE AND source_count GREATER 2)
-    # Without a cache of what was compiled before, this halves the time of a first build.
-    target_precompile_headers(${name} PRIVATE <gtest/gtest.h>)
-  endif()
+  orvane_precompile(${name} <gtest/gtest.h>)
   set(prefix "")
   if(ORVANE_SANITIZE)
     set(prefix "asan.")
