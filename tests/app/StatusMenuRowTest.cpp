@@ -26,7 +26,7 @@ class StatusMenuRowTest : public testing::Test {
 TEST_F(StatusMenuRowTest, HasABadgeATitleAndASwitchAtTheTrailingEnd) {
   show(StatusMenuRow{.title = "Pin", .systemImage = "lock", .isOn = true});
   EXPECT_TRUE(draws("fill ellipse(14 3 24 24) rgba(0 0 0 0.042)\n")) << drawing();
-  EXPECT_TRUE(draws("symbol lock 13/500 rgba(0 0 0 0.5) (20 9 13 13)\n")) << drawing();
+  EXPECT_TRUE(draws("symbol lock 13/500 rgba(0 0 0 0.6) (20 9 13 13)\n")) << drawing();
   EXPECT_TRUE(draws("text \"Pin\" 13/500 rgba(0 0 0 0.85) at 46 18\n")) << drawing();
   EXPECT_TRUE(draws("fill capsule(166 6 34 18) rgba(0 0.478 1 1)\n")) << drawing();
   const auto row = test.element("Pin");
@@ -49,8 +49,8 @@ TEST_F(StatusMenuRowTest, IsDimmedWhileDisabledAndIgnoresClicks) {
   int runs = 0;
   show(StatusMenuRow{
       .title = "Pin", .systemImage = "lock", .isEnabled = false, .action = [&] { ++runs; }});
-  EXPECT_TRUE(draws("symbol lock 13/500 rgba(0 0 0 0.225)")) << drawing();
-  EXPECT_TRUE(draws("text \"Pin\" 13/500 rgba(0 0 0 0.225)")) << drawing();
+  EXPECT_TRUE(draws("symbol lock 13/500 rgba(0 0 0 0.27)")) << drawing();
+  EXPECT_TRUE(draws("text \"Pin\" 13/500 rgba(0 0 0 0.27)")) << drawing();
   test.click({100, 15});
   EXPECT_EQ(runs, 0);
   EXPECT_FALSE(test.element("Pin")->isEnabled);
@@ -116,7 +116,7 @@ TEST_F(StatusMenuRowTest, ASwitchHasAnOutlineWhereContrastIsAskedFor) {
 
 TEST_F(StatusMenuRowTest, AHeaderIsASmallHeadingAtTheTopLeft) {
   show(StatusMenuSectionHeader{"Displays"}, {208, 26});
-  EXPECT_TRUE(draws("text \"Displays\" 12/600 rgba(0 0 0 0.5) at 14 16\n")) << drawing();
+  EXPECT_TRUE(draws("text \"Displays\" 12/600 rgba(0 0 0 0.6) at 14 16\n")) << drawing();
   EXPECT_EQ(test.element("Displays")->role, ui::Role::heading);
 }
 
