@@ -1,6 +1,7 @@
 // A small switch that only shows a state; the row that it stands in does the switching.
 #include "Orvane/app/CompactMenuSwitch.hpp"
 
+#include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 
@@ -16,8 +17,7 @@ View CompactMenuSwitch::body(const Environment& environment) const {
                         .frame(15, 15)
                         .padding(1.5);
   // The faint track of a switch that is off gets an outline where the user asks for contrast.
-  const Color rim =
-      environment.appearance.increaseContrast ? Color::primary().opacity(0.6) : Color::clear();
+  const Color rim = OrvanePalette::outline(Color::clear(), environment);
   return ZStack(isOn ? Alignment::trailing() : Alignment::leading(),
                 {Capsule().fill(track).strokeBorder(rim), knob})
       .frame(34, 18)

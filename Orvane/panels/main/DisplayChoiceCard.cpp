@@ -54,9 +54,11 @@ View DisplayChoiceCard::content() const {
       .frame(width, height);
 }
 
-View DisplayChoiceCard::surface(bool isDark, bool isRaised) const {
+View DisplayChoiceCard::surface(const Environment& environment, bool isRaised) const {
+  const bool isDark = environment.isDark();
   const double raised = isDark ? 0.14 : 0.2;
-  const Color border = isSelected ? Color::accent() : OrvanePalette::controlRim(isDark);
+  const Color rim = OrvanePalette::outline(OrvanePalette::controlRim(isDark), environment);
+  const Color border = isSelected ? Color::accent() : rim;
   return RoundedRectangle(cornerRadius)
       .fill(Color::white().opacity(isRaised ? raised : 0.075))
       .strokeBorder(border, isSelected ? 1.3 : 0.8);
@@ -76,7 +78,7 @@ View DisplayChoiceCard::body(const Environment& environment) const {
   const State<bool> isHovered = environment.state("isHovered", false);
   const bool isRaised = isSelected || isHovered.value();
   const View card = content()
-                        .background(surface(environment.isDark(), isRaised))
+                        .background(surface(environment, isRaised))
                         .overlay(when(isSelected, checkBadge()), Alignment::topTrailing());
   return Button([environment,
                  action = action] { environment.animate(Curve::spring(0.24, 0.82), action); },

@@ -28,7 +28,7 @@ struct DisplayChoiceCard {
  private:
   [[nodiscard]] const std::string& title() const;
   [[nodiscard]] ui::View content() const;
-  [[nodiscard]] ui::View surface(bool isDark, bool isRaised) const;
+  [[nodiscard]] ui::View surface(const ui::Environment& environment, bool isRaised) const;
   [[nodiscard]] ui::View checkBadge() const;
 };
 

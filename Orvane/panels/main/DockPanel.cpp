@@ -24,7 +24,7 @@ View DockPanel::body(const Environment& environment) const {
                        .y = shadowDrop})
           .fill(Color::white().opacity(isDark ? 0.03 : 0.28))
           .fill(OrvanePalette::panelOverlayGradient(isDark))
-          .stroke(OrvanePalette::panelRim(isDark), 0.8));
+          .stroke(OrvanePalette::outline(OrvanePalette::panelRim(isDark), environment), 0.8));
 }
 
 }  // namespace orvane

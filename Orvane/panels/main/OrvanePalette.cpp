@@ -54,4 +54,8 @@ Color controlRim(bool isDark) {
   return isDark ? white(0.18) : black(0.065);
 }
 
+Color outline(const Color& rim, const ui::Environment& environment) {
+  return environment.appearance.increaseContrast ? Color::primary().opacity(0.6) : rim;
+}
+
 }  // namespace orvane::OrvanePalette

@@ -21,6 +21,9 @@ namespace orvane::OrvanePalette {
 [[nodiscard]] ui::Color panelRim(bool isDark);
 [[nodiscard]] ui::Color controlRim(bool isDark);
 
+/// The rim as it is, or a clear line in its place where the user asks for contrast.
+[[nodiscard]] ui::Color outline(const ui::Color& rim, const ui::Environment& environment);
+
 /// Of a control that cannot be used now.
 inline constexpr double disabledOpacity = 0.5;
 

@@ -15,9 +15,10 @@ View SecondaryActionButtonStyle::body(const ButtonConfiguration& configuration,
       .foreground(Color::primary().opacity(0.82))
       .maximumWidth()
       .height(height)
-      .background(RoundedRectangle(cornerRadius)
-                      .fill(OrvanePalette::secondaryButtonFill(isDark, configuration.isPressed))
-                      .stroke(OrvanePalette::controlRim(isDark), 0.8))
+      .background(
+          RoundedRectangle(cornerRadius)
+              .fill(OrvanePalette::secondaryButtonFill(isDark, configuration.isPressed))
+              .stroke(OrvanePalette::outline(OrvanePalette::controlRim(isDark), environment), 0.8))
       .opacity(configuration.isEnabled ? 1 : OrvanePalette::disabledOpacity)
       .scale(configuration.isPressed ? 0.99 : 1);
 }

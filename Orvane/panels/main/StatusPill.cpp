@@ -27,9 +27,10 @@ View StatusPill::body(const Environment& environment) const {
       .foreground(isActive ? Color::accent() : Color::secondary())
       .fixedSize()
       .padding(Edges::horizontal(13).vertical(8))
-      .background(Capsule()
-                      .fill(capsuleFill(isActive, isDark))
-                      .stroke(OrvanePalette::panelRim(isDark), 0.7));
+      .background(
+          Capsule()
+              .fill(capsuleFill(isActive, isDark))
+              .stroke(OrvanePalette::outline(OrvanePalette::panelRim(isDark), environment), 0.7));
 }
 
 }  // namespace orvane

@@ -34,7 +34,7 @@ View TitleBarIconButtonStyle::body(const ButtonConfiguration& configuration,
                            .radius = shadowRadius,
                            .y = shadowDrop})
               .fill(Color::white().opacity(backgroundOpacity(isDark, configuration.isPressed)))
-              .stroke(OrvanePalette::panelRim(isDark), 0.7))
+              .stroke(OrvanePalette::outline(OrvanePalette::panelRim(isDark), environment), 0.7))
       .opacity(configuration.isEnabled ? 1 : OrvanePalette::disabledOpacity)
       .scale(configuration.isPressed ? 0.96 : 1);
 }

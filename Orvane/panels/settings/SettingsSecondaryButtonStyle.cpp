@@ -1,6 +1,7 @@
 // The look of the buttons within the cards of the settings panel.
 #include "Orvane/panels/settings/SettingsSecondaryButtonStyle.hpp"
 
+#include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 
@@ -30,7 +31,7 @@ View SettingsSecondaryButtonStyle::body(const ButtonConfiguration& configuration
       .height(height)
       .background(RoundedRectangle(cornerRadius)
                       .fill(configuration.isPressed ? fill.opacity(pressedOpacity) : fill)
-                      .stroke(rim, 0.7));
+                      .stroke(OrvanePalette::outline(rim, environment), 0.7));
 }
 
 }  // namespace orvane

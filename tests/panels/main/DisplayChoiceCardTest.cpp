@@ -1,0 +1,96 @@
+// The card that shows one display.
+#include "Orvane/panels/main/DisplayChoiceCard.hpp"
+#include "tests/panels/main/ComponentFixture.hpp"
+
+namespace orvane {
+namespace {
+
+class DisplayChoiceCardTest : public ComponentFixture {
+ protected:
+  [[nodiscard]] DisplayChoiceCard card(bool isSelected) {
+    DisplayChoiceCard result;
+    result.display.name = "Studio";
+    result.fallbackLabel = "Fallback";
+    result.roleLabel = "Left Display";
+    result.isSelected = isSelected;
+    result.action = [this] { ++taps; };
+    return result;
+  }
+  void showCard(bool isSelected) { show(card(isSelected), {200, 160}); }
+
+  int taps = 0;
+};
+
+TEST_F(DisplayChoiceCardTest, IsQuietWhileNotSelected) {
+  showCard(false);
+  EXPECT_TRUE(draws("fill rounded(12 9 176 142 r12 continuous) rgba(1 1 1 0.075)")) << drawing();
+  EXPECT_TRUE(draws("rgba(0 0 0 0.065) width 0.8")) << drawing();
+  EXPECT_TRUE(draws("text \"Studio\" 13/500 rgba(0 0 0 0.85)")) << drawing();
+  EXPECT_TRUE(draws("text \"Left Display\" 11/600 rgba(0 0 0 0.6)")) << drawing();
+  EXPECT_FALSE(draws("checkmark")) << drawing();
+}
+
+TEST_F(DisplayChoiceCardTest, CarriesTheAccentColourAndABadgeWhenSelected) {
+  showCard(true);
+  rest();
+  EXPECT_TRUE(draws("rgba(1 1 1 0.2)")) << drawing();
+  EXPECT_TRUE(draws("rgba(0 0.478 1 1) width 1.3")) << drawing();
+  EXPECT_TRUE(draws("text \"Studio\" 13/700 rgba(0 0.478 1 1)")) << drawing();
+  EXPECT_TRUE(draws("text \"Left Display\" 11/600 rgba(0 0.478 1 1)")) << drawing();
+  EXPECT_TRUE(draws("symbol checkmark 12/900 rgba(1 1 1 1)")) << drawing();
+  EXPECT_TRUE(draws("fill ellipse(160 17 20 20) rgba(0 0.478 1 1)")) << drawing();
+}
+
+TEST_F(DisplayChoiceCardTest, IsRecolouredAtOnceInTheDark) {
+  showCard(false);
+  appear(true);
+  EXPECT_TRUE(draws("rgba(1 1 1 0.18) width 0.8")) << drawing();
+  EXPECT_TRUE(draws("text \"Studio\" 13/500 rgba(1 1 1 0.85)")) << drawing();
+  hover({100, 80});
+  EXPECT_TRUE(draws("rgba(1 1 1 0.14)")) << drawing();
+}
+
+TEST_F(DisplayChoiceCardTest, GrowsALittleWhileHoveredOrSelectedAndNoMoreForBoth) {
+  showCard(false);
+  EXPECT_FALSE(draws("1.012")) << drawing();
+  hover({100, 80});
+  EXPECT_TRUE(draws("1.012")) << drawing();
+  showCard(true);
+  rest();
+  const std::string both = drawing();
+  EXPECT_NE(both.find("1.012"), std::string::npos) << both;
+  test.host->pointerExited();
+  rest();
+  EXPECT_EQ(drawing(), both);
+}
+
+TEST_F(DisplayChoiceCardTest, RunsItsActionForATapAnywhereOnIt) {
+  showCard(false);
+  test.click({14, 80});
+  test.click({186, 148});
+  EXPECT_EQ(taps, 2);
+  test.click({5, 80});
+  EXPECT_EQ(taps, 2);
+}
+
+TEST_F(DisplayChoiceCardTest, FallsBackToItsLabelForADisplayWithoutAName) {
+  DisplayChoiceCard nameless = card(false);
+  nameless.display.name.clear();
+  show(nameless, {200, 160});
+  EXPECT_TRUE(draws("text \"Fallback\" 13/500")) << drawing();
+  const auto element = test.element("Fallback");
+  ASSERT_TRUE(element);
+  EXPECT_EQ(element->role, ui::Role::radioButton);
+  EXPECT_EQ(element->value, "Left Display");
+  EXPECT_FALSE(element->isSelected);
+}
+
+TEST_F(DisplayChoiceCardTest, HasAClearBorderWhereContrastIsAskedFor) {
+  showCard(false);
+  appear(false, true);
+  EXPECT_TRUE(draws("rgba(0 0 0 0.6) width 0.8")) << drawing();
+  EXPECT_FALSE(draws("rgba(0 0 0 0.065)")) << drawing();
+}
+
+}  // namespace
+}  // namespace orvane
