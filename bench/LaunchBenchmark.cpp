@@ -1,0 +1,65 @@
+// How long a user waits: from the launch on a Mac with three displays until the main window has been
+// opened and its first frame is painted at 2x. Fonts and symbols are read anew in every turn, but
+// the machine's own files stay in its caches.
+#include <memory>
+#include <optional>
+
+#include <benchmark/benchmark.h>
+
+#include "Orvane/panels/main/ContentView.hpp"
+#include "desk/application/ApplicationHost.hpp"
+#include "desk/canvas/CairoCanvas.hpp"
+#include "desk/desktop/StandardDisplays.hpp"
+#include "desk/machine/MachineScope.hpp"
+#include "desk/windows/Surfaces.hpp"
+#include "desk/windows/WindowServer.hpp"
+
+namespace orvane::bench {
+namespace {
+
+constexpr double scale = 2;
+
+bool paintMainWindow(cairo_surface_t* surface) {
+  desk::WindowServer& server = desk::WindowServer::current();
+  const auto window = desk::Surfaces(server).window("main");
+  if (window == nullptr) {
+    return false;
+  }
+  window->content->update();
+  desk::CairoCanvas canvas(surface, scale, server.resources());
+  window->content->host().paint(canvas, {0, 0, ContentView::width, ContentView::height});
+  return true;
+}
+
+void launchToFirstFrame(benchmark::State& state) {
+  const desk::SurfacePointer surface(cairo_image_surface_create(
+      CAIRO_FORMAT_ARGB32, static_cast<int>(ContentView::width * scale),
+      static_cast<int>(ContentView::height * scale)));
+  for (auto _ : state) {
+    state.PauseTiming();
+    std::optional<desk::MachineScope> scope(std::in_place);
+    for (int display = 0; display < 3; ++display) {
+      desk::attachNextStandardDisplay(scope->machine());
+    }
+    desk::ApplicationHost application(scope->machine());
+    state.ResumeTiming();
+    application.launch();
+    application.reopen();
+    scope->machine().runDue();
+    const bool isPainted = paintMainWindow(surface.get());
+    state.PauseTiming();
+    if (!isPainted) {
+      state.SkipWithError("there is no main window");
+    }
+    scope.reset();
+    state.ResumeTiming();
+    if (!isPainted) {
+      break;
+    }
+  }
+}
+
+BENCHMARK(launchToFirstFrame)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace orvane::bench
