@@ -20,13 +20,6 @@ constexpr double disabledOpacity = 0.45;
 constexpr double smallestTitleScale = 0.85;
 constexpr double switchSpacing = 3;
 
-/// The row shows by itself whether it is enabled or hovered; pressing changes nothing.
-struct RowButtonStyle {
-  View body(const ButtonConfiguration& configuration, const Environment& /*environment*/) const {
-    return configuration.label;
-  }
-};
-
 }  // namespace
 
 View StatusMenuRow::iconBadge() const {
@@ -70,7 +63,7 @@ View StatusMenuRow::body(const Environment& environment) const {
                          }
                        },
                        content(isHovered.value()))
-                       .style(RowButtonStyle{})
+                       .style(BareButtonStyle{})
                        .focusRing(ShapeForm::rounded(6))
                        .onHover([isHovered](bool isInside) { isHovered.set(isInside); })
                        .disabled(!isEnabled)

@@ -41,6 +41,13 @@ class ButtonStyle {
   std::function<View(const ButtonConfiguration&, const Environment&)> body_;
 };
 
+// Nothing but the label, for one that shows by itself whatever is to be seen.
+struct BareButtonStyle {
+  View body(const ButtonConfiguration& configuration, const Environment&) const {
+    return configuration.label;
+  }
+};
+
 // Only the label, a little fainter while pressed or disabled.
 struct PlainButtonStyle {
   View body(const ButtonConfiguration& configuration, const Environment& environment) const;

@@ -7,22 +7,6 @@
 
 namespace orvane::desk {
 
-namespace {
-
-const char* orientationOf(DockEdge edge) {
-  switch (edge) {
-    case DockEdge::bottom:
-      return "bottom";
-    case DockEdge::left:
-      return "left";
-    case DockEdge::right:
-      return "right";
-  }
-  return "bottom";
-}
-
-}  // namespace
-
 bool Hardware::canAttachDisplay() const {
   for (std::size_t position = 0; position < standardDisplayCount; ++position) {
     if (machine_.displays.find(standardDisplay(position).number) == nullptr) {
@@ -54,7 +38,7 @@ void Hardware::makeMain(std::uint32_t number) {
 
 void Hardware::setEdge(DockEdge edge) {
   machine_.preferences.set({Dock::preferencesDomain}, Dock::orientationKey,
-                           std::string(orientationOf(edge)));
+                           std::string(nameOf(edge)));
   machine_.runDue();
 }
 

@@ -19,9 +19,4 @@ View HardwareButtonStyle::body(const ButtonConfiguration& configuration,
       .opacity(configuration.isEnabled ? 1 : 0.4);
 }
 
-View HardwarePlainStyle::body(const ButtonConfiguration& configuration,
-                              const Environment& /*environment*/) const {
-  return configuration.label;
-}
-
 }  // namespace orvane::desk

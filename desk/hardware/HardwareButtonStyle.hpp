@@ -10,10 +10,4 @@ struct HardwareButtonStyle {
                 const ui::Environment& environment) const;
 };
 
-/// No look of its own; for buttons whose label is everything.
-struct HardwarePlainStyle {
-  ui::View body(const ui::ButtonConfiguration& configuration,
-                const ui::Environment& environment) const;
-};
-
 }  // namespace orvane::desk

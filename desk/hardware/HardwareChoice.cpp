@@ -32,7 +32,7 @@ View HardwareChoice::segment(std::size_t index, const Environment& environment) 
                                 {.color = Color::black().opacity(0.25), .radius = 1, .y = 0.5}))
                           : View());
   return Button([choose = onChoose, index] { choose(index); }, label)
-      .style(HardwarePlainStyle{})
+      .style(ui::BareButtonStyle{})
       .focusRing(ShapeForm::rounded(4))
       .accessibilityLabel(title + ": " + items[index])
       .accessibilityRole(Role::radioButton)

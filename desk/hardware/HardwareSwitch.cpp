@@ -18,7 +18,7 @@ View HardwareSwitch::body(const Environment& /*environment*/) const {
                         .background(when(!isOn, Capsule().fill(Color::primary().opacity(0.16))));
   const View row = HStack(8, {Text(title).lineLimit(1), Spacer(), knob}).height(30);
   return Button([change = onChange, isOn = isOn] { change(!isOn); }, row)
-      .style(HardwarePlainStyle{})
+      .style(ui::BareButtonStyle{})
       .focusRing(ShapeForm::rounded(6))
       .accessibilityLabel(title)
       .accessibilityRole(Role::toggle)

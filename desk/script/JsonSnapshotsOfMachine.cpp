@@ -10,18 +10,6 @@ namespace orvane::desk::script::JsonSnapshots {
 
 namespace {
 
-const char* nameOf(DockEdge edge) {
-  switch (edge) {
-    case DockEdge::left:
-      return "left";
-    case DockEdge::right:
-      return "right";
-    case DockEdge::bottom:
-      break;
-  }
-  return "bottom";
-}
-
 Json numberOrNull(const std::optional<std::uint32_t>& number) {
   return number ? Json(*number) : Json(nullptr);
 }

@@ -194,10 +194,8 @@ void SystemSettings::endChoosing(bool addsChosen) {
 }
 
 void SystemSettings::setDockEdge(DockEdge edge) {
-  const std::string value = edge == DockEdge::left    ? "left"
-                            : edge == DockEdge::right ? "right"
-                                                      : "bottom";
-  server_.machine().preferences.set({Dock::preferencesDomain}, Dock::orientationKey, value);
+  server_.machine().preferences.set({Dock::preferencesDomain}, Dock::orientationKey,
+                                    std::string(nameOf(edge)));
   changed();
 }
 

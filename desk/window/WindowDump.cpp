@@ -9,25 +9,13 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-const char* edgeName(DockEdge edge) {
-  switch (edge) {
-    case DockEdge::bottom:
-      return "bottom";
-    case DockEdge::left:
-      return "left";
-    case DockEdge::right:
-      return "right";
-  }
-  return "";
-}
-
 Json dockOf(const Machine& machine) {
   Json reveals = Json::object();
   for (const auto& [number, count] : machine.dock.reveals()) {
     reveals[std::to_string(number)] = count;
   }
   const auto number = machine.dock.displayNumber();
-  return {{"edge", edgeName(machine.dock.edge())},
+  return {{"edge", nameOf(machine.dock.edge())},
           {"autohide", machine.dock.autoHides()},
           {"display", number ? Json(*number) : Json(nullptr)},
           {"visible", machine.dock.isVisible()},

@@ -21,13 +21,6 @@ constexpr double imageShadowRadius = 5;
 constexpr double imageShadowDrop = 3;
 constexpr double hoverSeconds = 0.14;
 
-/// The card shows hovering and selection by itself; pressing changes nothing.
-struct CardButtonStyle {
-  View body(const ButtonConfiguration& configuration, const Environment& /*environment*/) const {
-    return configuration.label;
-  }
-};
-
 }  // namespace
 
 const std::string& DisplayChoiceCard::title() const {
@@ -83,7 +76,7 @@ View DisplayChoiceCard::body(const Environment& environment) const {
   return Button([environment,
                  action = action] { environment.animate(Curve::spring(0.24, 0.82), action); },
                 card)
-      .style(CardButtonStyle{})
+      .style(BareButtonStyle{})
       .focusRing(ShapeForm::rounded(cornerRadius))
       .accessibilityRole(Role::radioButton)
       .accessibilityLabel(title())

@@ -18,13 +18,6 @@ constexpr double shadowRadius = 4;
 constexpr double shadowDrop = 1;
 constexpr double hoverSeconds = 0.14;
 
-/// The light shows hovering by itself and does not fade while it is pressed.
-struct TrafficLightStyle {
-  View body(const ButtonConfiguration& configuration, const Environment& /*environment*/) const {
-    return configuration.label;
-  }
-};
-
 }  // namespace
 
 TrafficLightButton TrafficLightButton::close(bool showsHoverIcon, std::string label,
@@ -64,7 +57,7 @@ View TrafficLightButton::body(const Environment& environment) const {
                           .fill(color)
                           .stroke(stroke.opacity(0.55), 0.7));
   return Button(action, light)
-      .style(TrafficLightStyle{})
+      .style(BareButtonStyle{})
       .focusRing(ShapeForm::circle())
       .accessibilityLabel(label)
       .scale(isHovered.value() ? 1.1 : 1)
