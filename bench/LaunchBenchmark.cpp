@@ -1,6 +1,6 @@
-// How long a user waits: from the launch on a Mac with three displays until the main window has been
-// opened and its first frame is painted at 2x. Fonts and symbols are read anew in every turn, but
-// the machine's own files stay in its caches.
+// How long a user waits: from the launch on a Mac with three displays until the main window has
+// been opened and its first frame is painted at 2x. Fonts and symbols are read anew in every turn,
+// but the machine's own files stay in its caches.
 #include <memory>
 #include <optional>
 
@@ -32,9 +32,9 @@ bool paintMainWindow(cairo_surface_t* surface) {
 }
 
 void launchToFirstFrame(benchmark::State& state) {
-  const desk::SurfacePointer surface(cairo_image_surface_create(
-      CAIRO_FORMAT_ARGB32, static_cast<int>(ContentView::width * scale),
-      static_cast<int>(ContentView::height * scale)));
+  const desk::SurfacePointer surface(
+      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(ContentView::width * scale),
+                                 static_cast<int>(ContentView::height * scale)));
   for (auto _ : state) {
     state.PauseTiming();
     std::optional<desk::MachineScope> scope(std::in_place);
