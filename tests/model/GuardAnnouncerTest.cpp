@@ -101,6 +101,22 @@ TEST_F(GuardAnnouncerTest, AGuardThatGoesWithItsPermissionIsToldOnceAsBlocked) {
   EXPECT_EQ(said(), Announcements());
 }
 
+TEST_F(GuardAnnouncerTest, ALockThatHasStartedAfterAllIsNoLongerBlockedWhenThePermissionGoes) {
+  store("isOrvaneEnabled", true);
+  machine.permission.setTrusted(false);
+  launch();
+  said();
+  machine.permission.setTrusted(true);
+  model->setHasAccessibilityPermission(true);
+  model->toggleSelectedDisplayLock();
+  said();
+  model->toggleSelectedDisplayLock();
+  EXPECT_EQ(said(), Announcements{"The Dock is no longer guarded"});
+  machine.permission.setTrusted(false);
+  model->setHasAccessibilityPermission(false);
+  EXPECT_EQ(said(), Announcements());
+}
+
 TEST_F(GuardAnnouncerTest, ItSpeaksTheLanguageOfTheInterface) {
   store("appLanguage", "chinese");
   launchPreventing();
