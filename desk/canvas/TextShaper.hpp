@@ -31,7 +31,7 @@ class TextShaper {
   ObjectPointer<PangoLayout> layout(const std::string& text, const ui::Font& font) const;
 
   /// The advance width of a line without line breaks, and the height and ascent of the faces that
-  /// it uses. An empty line has the height of the system face.
+  /// it uses, those of the Mac's own for Chinese. An empty line has the height of the system face.
   LineMetrics measure(const std::string& line, const ui::Font& font) const;
 
   /// The coverage of a line whose baseline starts on the placement's anchor; without a surface

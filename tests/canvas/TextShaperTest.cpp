@@ -99,6 +99,38 @@ TEST_F(TextShaperTest, ScaledTextIsDrawnAnewAtItsSize) {
   EXPECT_NEAR(scaledRight - scaledLeft, 2 * (right - left), 3);
 }
 
+TEST_F(TextShaperTest, ChineseCharactersStandInTheMiddleOfTheirLine) {
+  const double size = 50;
+  const ui::Font font = ui::Font::system(size);
+  // A character with a frame all around.
+  const std::string character = "\u56fd";
+  const LineMetrics line = resources.shaper.measure(character, font);
+  begin(60, 80).text(character, font, black, {5, line.ascent});
+  int top = 80;
+  int bottom = 0;
+  for (int y = 0; y < 80; ++y) {
+    for (int x = 0; x < 60; ++x) {
+      if (at(x, y).alpha > 127) {
+        top = std::min(top, y);
+        bottom = std::max(bottom, y + 1);
+      }
+    }
+  }
+  EXPECT_NEAR((top + bottom) / 2.0, line.height / 2, 0.03 * size);
+}
+
+TEST_F(TextShaperTest, ALineOfBothFacesHasTheGreaterReachOfEach) {
+  const ui::Font font = ui::Font::system(20);
+  const LineMetrics latin = resources.shaper.measure("Dock", font);
+  const LineMetrics chinese = resources.shaper.measure("\u7a0b\u5e8f\u575e", font);
+  const LineMetrics mixed = resources.shaper.measure("Dock \u7a0b\u5e8f\u575e", font);
+  EXPECT_NEAR(chinese.height, 1.4 * 20, 0.01);
+  EXPECT_LT(latin.height, chinese.height);
+  EXPECT_DOUBLE_EQ(mixed.ascent, std::max(latin.ascent, chinese.ascent));
+  EXPECT_DOUBLE_EQ(mixed.height - mixed.ascent,
+                   std::max(latin.height - latin.ascent, chinese.height - chinese.ascent));
+}
+
 TEST_F(TextShaperTest, AnEmptyLineAndBrokenBytesDoNoHarm) {
   begin(40, 20).text("", ui::Font::body(), black, {0, 15});
   canvas->text("   ", ui::Font::body(), black, {0, 15});
