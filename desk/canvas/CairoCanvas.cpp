@@ -280,8 +280,10 @@ void CairoCanvas::paintLayerShadow(const Layer& layer, const ui::PaintShadow& sh
   }
   cairo_identity_matrix(target);
   setColor(target, shadow.color);
-  cairo_mask_surface(target, mask.surface.get(), layer.x + shadow.offset.x * pixels.scaleX,
-                     layer.y + shadow.offset.y * pixels.scaleY);
+  // On whole pixels, where nothing has to be resampled; what is blurred does not show it.
+  cairo_mask_surface(target, mask.surface.get(),
+                     layer.x + std::round(shadow.offset.x * pixels.scaleX),
+                     layer.y + std::round(shadow.offset.y * pixels.scaleY));
   cairo_restore(target);
 }
 
@@ -295,7 +297,7 @@ bool CairoCanvas::isScaledByTransform() {
 PixelPlacement CairoCanvas::placementOf(ui::Point anchor) {
   const ui::Transform pixels = toPixels(context());
   const ui::Point place = pixels.apply(anchor);
-  // Shared masks are made for quarters of a pixel; what is being scaled moves smoothly instead.
+  // Masks are made for quarters of a pixel; what is being scaled moves smoothly instead.
   const double steps = isScaledByTransform() ? 1024 : 4;
   PixelPlacement placement;
   placement.scaleX = pixels.scaleX;
@@ -320,14 +322,11 @@ void CairoCanvas::paintMask(const Mask& mask, int anchorX, int anchorY, const ui
 void CairoCanvas::text(const std::string& line, const ui::Font& font, const ui::Rgba& color,
                        ui::Point baseline) {
   PixelPlacement placement = placementOf(baseline);
-  if (isScaledByTransform()) {
-    paintMask(resources_.shaper.makeMask(line, font, placement), placement.pixelX, placement.pixelY,
-              color);
-    return;
+  if (!isScaledByTransform()) {
+    // A baseline on a whole pixel keeps the feet of the letters sharp.
+    placement.pixelY += placement.phaseY >= 0.5 ? 1 : 0;
+    placement.phaseY = 0;
   }
-  // A baseline on a whole pixel keeps the feet of the letters sharp.
-  placement.pixelY += placement.phaseY >= 0.5 ? 1 : 0;
-  placement.phaseY = 0;
   const Mask& mask = resources_.masks.get(keyOf(MaskKind::text, line, font, placement), [&] {
     return resources_.shaper.makeMask(line, font, placement);
   });
@@ -350,12 +349,9 @@ void CairoCanvas::symbol(const std::string& name, const ui::Font& font, const ui
     return;
   }
   const PixelPlacement placement = placementOf(rect.center());
-  const auto make = [&] { return resources_.symbols.makeMask(name, font, placement); };
-  if (isScaledByTransform()) {
-    paintMask(make(), placement.pixelX, placement.pixelY, color);
-    return;
-  }
-  const Mask& mask = resources_.masks.get(keyOf(MaskKind::symbol, name, font, placement), make);
+  const Mask& mask = resources_.masks.get(keyOf(MaskKind::symbol, name, font, placement), [&] {
+    return resources_.symbols.makeMask(name, font, placement);
+  });
   paintMask(mask, placement.pixelX, placement.pixelY, color);
 }
 
