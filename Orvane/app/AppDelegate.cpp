@@ -29,7 +29,7 @@ void AppDelegate::setupStatusItem() {
   rebuildStatusMenu();
   updateStatusItemIcon();
   statusRefreshTimer_ =
-      appkit::Timer::repeating(refreshSeconds, appkit::RunLoopMode::standard,
+      appkit::Timer::repeating(refreshSeconds, appkit::RunLoopMode::common,
                                lifetime_.whileAlive([this] { refreshStatusItemTimerFired(); }));
 }
 
@@ -42,12 +42,18 @@ void AppDelegate::observeModelChanges() {
 }
 
 void AppDelegate::refreshStatusItemTimerFired() {
-  updateStatusItemIcon();
+  OrvaneModel& model = OrvaneAppState::model();
+  model.noteGuard();
+  announcer_.update(model);
+  // Most of the time there is nothing to draw.
+  if (showsRunningGuard_ != model.isGuardRunning()) {
+    updateStatusItemIcon();
+  }
 }
 
 void AppDelegate::updateStatusItemIcon() {
-  const bool isRunning = OrvaneAppState::model().isGuardRunning();
-  statusItem_->setImage(statusBarImage(isRunning ? "lock.fill" : "lock.open"));
+  showsRunningGuard_ = OrvaneAppState::model().isGuardRunning();
+  statusItem_->setImage(statusBarImage(showsRunningGuard_ ? "lock.fill" : "lock.open"));
   announcer_.update(OrvaneAppState::model());
 }
 

@@ -58,6 +58,7 @@ class AppDelegate {
 
   std::optional<appkit::StatusItem> statusItem_;
   appkit::Menu statusMenu_;
+  bool showsRunningGuard_ = false;
   std::optional<appkit::Timer> statusRefreshTimer_;
   Subscription modelCancellable_;
   GuardAnnouncer announcer_;

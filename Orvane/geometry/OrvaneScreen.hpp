@@ -5,7 +5,6 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <string_view>
 
 #include "Orvane/platform/Quartz.hpp"
 #include "Orvane/platform/appkit/Screen.hpp"

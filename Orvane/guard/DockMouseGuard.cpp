@@ -148,18 +148,24 @@ void DockMouseGuard::handleScreenConfigChanged() {
   if (!blocksAllDisplays_ && !lockedDisplayIdentifier_.empty() &&
       !OrvaneScreen::orvaneFindScreen(lockedDisplayIdentifier_)) {
     cachedTriggerZones_.clear();
-    removeEventTap();
+    pause();
     emit(DockMouseGuardMessages::targetUnavailable());
     return;
   }
   refreshTriggerZones();
   if (cachedTriggerZones_.empty()) {
-    removeEventTap();
+    pause();
     return;
   }
   if (!eventTap_) {
     setupEventTap();
   }
+}
+
+void DockMouseGuard::pause() {
+  removeEventTap();
+  // Without a tap nothing would tell that the key has been let go.
+  setTemporarilyUnlocked(false);
 }
 
 void DockMouseGuard::forgetRecentBlocks() {

@@ -7,7 +7,6 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "Orvane/base/CFRef.hpp"
@@ -38,7 +37,8 @@ class DockMouseGuard {
 
   /// The filter: called for every event that the tap delivers; returns the same event, whose
   /// location it has changed if it was in a zone. It runs for every pointer movement of the
-  /// session: no allocation, no lock, no input or output; all reporting is left to the main queue.
+  /// session: no lock, no input or output, no allocation; reports are left to the main queue, and
+  /// only the task of one takes memory.
   CGEventRef eventTapCallback(CGEventType type, CGEventRef event);
 
   /// Both are called on the main queue, never from within the filter.
@@ -82,6 +82,8 @@ class DockMouseGuard {
   void observeScreenChanges();
   void stopObservingScreens();
   void handleScreenConfigChanged();
+  /// The tap goes, and the guard waits for the displays to change.
+  void pause();
   void forgetRecentBlocks();
   void emit(std::string message);
 

@@ -1,6 +1,6 @@
-// The guard's event path: what happens to each pointer movement of the session. Nothing here
-// allocates, locks, reads settings or reports, but that it leaves a task on the main queue when
-// there is something to tell, at most once a second.
+// The guard's event path: what happens to each pointer movement of the session. Nothing here locks,
+// reads settings or reports, and nothing allocates but what is left on the main queue: a task for
+// each change of the unlock key, for a report at most once a second, and for the shut-off.
 #include "Orvane/guard/DockMouseGuard.hpp"
 #include "Orvane/guard/DockMouseGuardMessages.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
@@ -76,9 +76,13 @@ void DockMouseGuard::disableEventTapForRapidBlocking() {
   }
   // Deliberately nothing brings the guard back but a change of the displays or the next start.
   appkit::MainQueue::async(lifetime_.whileAlive([this] {
+    forgetRecentBlocks();
+    // A start that came before this has made a tap of its own, which is not the one to clean up.
+    if (eventTap_ && CGEventTapIsEnabled(eventTap_.get())) {
+      return;
+    }
     removeEventTap();
     cachedTriggerZones_.clear();
-    forgetRecentBlocks();
   }));
 }
 

@@ -152,13 +152,12 @@ void OrvaneModel::setHasAccessibilityPermission(bool hasPermission) {
 }
 
 void OrvaneModel::noteChecked() {
-  const CFAbsoluteTime now = CFAbsoluteTimeGetCurrent();
-  if (now == lastCheckedAt_.value()) {
-    // Within one instant the guard may still have started or stopped, which nothing else announces.
-    changes_.notify();
-  } else {
-    lastCheckedAt_.set(now);
-  }
+  lastCheckedAt_.set(CFAbsoluteTimeGetCurrent());
+  noteGuard();
+}
+
+void OrvaneModel::noteGuard() {
+  isGuardAnnounced_.set(isGuardRunning());
 }
 
 void OrvaneModel::refreshLaunchAtLoginStatus() {

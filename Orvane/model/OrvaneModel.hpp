@@ -19,7 +19,8 @@
 
 namespace orvane {
 
-/// Main thread only. Whether the guard is running is never stored here: it is read from the guard.
+/// Main thread only. Whether the guard is running is read from the guard at each question; what is
+/// stored of it here only tells whether it has been announced.
 class OrvaneModel {
  public:
   /// Reads the settings and starts listening to the system; neither lists displays nor starts the
@@ -67,7 +68,8 @@ class OrvaneModel {
     return launchAtLoginErrorMessage_;
   }
 
-  /// Notified after each change of any published property.
+  /// Notified after each change of any published property, and when the guard has started or
+  /// stopped.
   [[nodiscard]] const Signal& changes() const { return changes_; }
 
   [[nodiscard]] const DockMouseGuard& guardService() const { return guardService_; }
@@ -97,6 +99,14 @@ class OrvaneModel {
   void toggleHideDockOnAllDisplays();
   /// Once at launch: starts the guard again if it was on when the application quit and can start.
   void restoreLockIfNeeded();
+  /// Announces that the guard has started or stopped by itself, if it has since the last
+  /// announcement. A guard tells nobody; whoever has a timer asks.
+  void noteGuard();
+  /// Stops the guard without touching the user's wish that it should run.
+  void suspendGuard();
+  /// Starts the guard again if the user's wish is that it runs and it doesn't. One whose target is
+  /// not attached waits for it.
+  void resumeGuard();
   /// The guard was to be started again at launch and the permission was missing; until it starts.
   [[nodiscard]] bool isRestoreBlocked() const { return isRestoreBlocked_; }
 
@@ -134,6 +144,7 @@ class OrvaneModel {
   Published<bool> isTemporarilyUnlocked_;
   Published<std::optional<bool>> lastRestoreSucceeded_;
   Published<CFAbsoluteTime> lastCheckedAt_;
+  Published<bool> isGuardAnnounced_{false, &changes_};
   bool isRestoreBlocked_ = false;
   Published<OrvaneLanguage> appLanguage_;
   Published<OrvaneModifier> temporaryUnlockModifier_;

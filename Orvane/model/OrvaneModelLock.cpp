@@ -126,8 +126,23 @@ void OrvaneModel::restartGuardIfRunning() {
   }
   // The user's wish stays stored, so that the lock comes back at the next launch if the display is
   // attached then.
+  suspendGuard();
+}
+
+void OrvaneModel::suspendGuard() {
   guardService_.stop();
   isTemporarilyUnlocked_.set(false);
+  noteGuard();
+}
+
+void OrvaneModel::resumeGuard() {
+  if (isGuardRunning() || !OrvaneSettings::isOrvaneEnabled()) {
+    return;
+  }
+  refreshDisplays();
+  if (hasWhatTheModeNeeds()) {
+    startGuard();
+  }
 }
 
 void OrvaneModel::restoreLockIfNeeded() {

@@ -25,7 +25,7 @@ void TapWatch::look() {
 void TapWatch::permissionIsMissing(OrvaneModel& model) {
   // At once, not by the main queue: that stands still in a modal session, and so would the pointer.
   if (model.isGuardRunning()) {
-    model.guardService().stop();
+    model.suspendGuard();
     hasStoppedGuard_ = true;
   }
   model.setHasAccessibilityPermission(false);
@@ -40,11 +40,7 @@ void TapWatch::permissionIsThere(OrvaneModel& model) {
     }
   } else if (std::exchange(hasStoppedGuard_, false)) {
     // The user's wish is still stored, unless it has been taken back meanwhile.
-    appkit::MainQueue::async(lifetime_.whileAlive([this] {
-      if (!model_().isGuardRunning()) {
-        model_().restoreLockIfNeeded();
-      }
-    }));
+    appkit::MainQueue::async(lifetime_.whileAlive([this] { model_().resumeGuard(); }));
   }
 }
 

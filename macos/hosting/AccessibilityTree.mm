@@ -68,6 +68,7 @@ NSAccessibilityRole roleFrom(ui::Role role) {
 id valueFrom(const ui::SemanticsNode& node) {
   switch (node.role) {
     case ui::Role::toggle:
+      return @(node.value == "1");
     case ui::Role::radioButton:
       return @(node.isSelected);
     case ui::Role::staticText:

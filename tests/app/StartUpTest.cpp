@@ -39,7 +39,7 @@ Menu.addItem "Settings"
 Menu.addItem "Quit"
 )";
 
-const std::string theTimer = "Timer.repeating 1 standard\n";
+const std::string theTimer = "Timer.repeating 1 common\n";
 
 std::string theIcon(const std::string& name) {
   return "Image.systemSymbol \"" + name +

@@ -103,11 +103,13 @@ Told Guard::displaysChanged(const World& world) {
   if (!blocksAll && !target.empty() && world.find(target) == nullptr) {
     zones.clear();
     takeTapDown();
+    isUnlocked = false;
     return {.anything = true};
   }
   refreshZones(world);
   if (zones.empty()) {
     takeTapDown();
+    isUnlocked = false;
     return {};
   }
   return hasTap ? Told{} : putTapUp(world);

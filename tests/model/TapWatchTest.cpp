@@ -73,6 +73,20 @@ TEST_F(TapWatchTest, TheGuardThatItStoppedComesBackWithThePermission) {
   EXPECT_TRUE(model->guardService().blocksAllDisplays());
 }
 
+TEST_F(TapWatchTest, ATargetThatWentMeanwhileIsWaitedFor) {
+  launchPinned();
+  watch();
+  machine.permission.setTrusted(false);
+  machine.advance(2);
+  desk::detach(machine, 1);
+  machine.permission.setTrusted(true);
+  machine.advance(2);
+  ASSERT_FALSE(model->isGuardRunning());
+  desk::attach(machine, desk::laptop());
+  machine.runDue();
+  EXPECT_TRUE(isTapEnabled());
+}
+
 TEST_F(TapWatchTest, AGuardThatNobodyWantedDoesNotComeBack) {
   launch();
   watch();
