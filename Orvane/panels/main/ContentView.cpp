@@ -117,15 +117,19 @@ View ContentView::body(const Environment& environment) const {
   // It ends with the view, whose state it is.
   const State<std::shared_ptr<appkit::Timer>> permissionTimer =
       environment.state("permissionTimer", std::shared_ptr<appkit::Timer>());
-  const View content = panels()
-                           .opacity(hasAppeared.value() ? 1 : 0)
-                           .offset(0, hasAppeared.value() ? 0 : entranceOffset);
+  // Where one change brings several of these about, the innermost animation is the one that runs:
+  // what changes together with the status travels along the curve of the status. The entrance lies
+  // outside of all three, so that what is refreshed as it begins leaves it its own curve.
+  const View content =
+      panels()
+          .animation(Curve::easeInOut(0.22), model->status())
+          .animation(Curve::spring(0.28, 0.86), model->selectedDisplayID().value())
+          .animation(Curve::spring(0.28, 0.86), model->hidesDockOnAllDisplays().value())
+          .opacity(hasAppeared.value() ? 1 : 0)
+          .offset(0, hasAppeared.value() ? 0 : entranceOffset);
   return VStack(0, {titleBar(environment), Spacer(), content})
       .frame(width, height)
       .background(windowBackground(environment.isDark()))
-      .animation(Curve::easeInOut(0.22), model->status())
-      .animation(Curve::spring(0.28, 0.86), model->selectedDisplayID().value())
-      .animation(Curve::spring(0.28, 0.86), model->hidesDockOnAllDisplays().value())
       .onAppear([model = model, hasAppeared, permissionTimer] {
         model->refreshDisplays();
         hasAppeared.set(true, Curve::easeOut(entranceSeconds));

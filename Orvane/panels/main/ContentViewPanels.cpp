@@ -104,7 +104,10 @@ View ContentView::displayPicker() const {
   };
   const auto identify = [](const DisplaySnapshot& display) { return display.id; };
   const View cards = HStack(cardSpacing, {forEach(displays, identify, card)});
-  return ScrollView(cards.padding(Edges::horizontal(pickerReach)).height(pickerHeight))
+  // The row begins at the same height with and without cards: the first ones come where they stay.
+  constexpr double aboveCards = (pickerHeight - DisplayChoiceCard::height) / 2;
+  return ScrollView(cards.padding(Edges::horizontal(pickerReach).vertical(aboveCards))
+                        .height(pickerHeight, Alignment::top()))
       .height(pickerHeight)
       .padding(Edges::horizontal(-pickerReach));
 }

@@ -25,6 +25,7 @@ Gradient windowGradient(bool isDark) {
                 : Gradient::linear({white(0.34), accent(0.055), white(0.12)});
 }
 
+// It ends in white that is clear. Color::clear() is black, and half of the way there would be grey.
 Gradient windowTopHighlight(bool isDark) {
   return isDark ? Gradient::linear({white(0.085), white(0.035), white(0)})
                 : Gradient::linear({white(0.28), white(0.12), white(0)});

@@ -5,7 +5,7 @@
 #include "Orvane/ui/Button.hpp"
 #include "Orvane/ui/Image.hpp"
 #include "Orvane/ui/Text.hpp"
-#include "tests/panels/main/ComponentFixture.hpp"
+#include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {
 namespace {

@@ -1,6 +1,6 @@
 // The card that shows one display.
 #include "Orvane/panels/main/DisplayChoiceCard.hpp"
-#include "tests/panels/main/ComponentFixture.hpp"
+#include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {
 namespace {

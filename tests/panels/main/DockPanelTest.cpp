@@ -1,7 +1,7 @@
 // The surface of a panel.
 #include "Orvane/panels/main/DockPanel.hpp"
 #include "Orvane/ui/Text.hpp"
-#include "tests/panels/main/ComponentFixture.hpp"
+#include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {
 namespace {

@@ -1,7 +1,7 @@
 // The colours of the main panel's glass.
 #include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/ui/ShapeView.hpp"
-#include "tests/panels/main/ComponentFixture.hpp"
+#include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {
 namespace {
@@ -31,11 +31,12 @@ TEST_F(OrvanePaletteTest, TheWindowsSurface) {
               {"rgba(1 1 1 0.34)", "rgba(0 0.478 1 0.055)", "rgba(1 1 1 0.12)"});
 }
 
+// It fades into clear white: towards clear black it would turn grey on its way.
 TEST_F(OrvanePaletteTest, TheLightOnTheTopOfTheWindow) {
   expectStops(filled(OrvanePalette::windowTopHighlight, true),
-              {"rgba(1 1 1 0.085)", "rgba(1 1 1 0.035)", " 0)"});
+              {"rgba(1 1 1 0.085)", "rgba(1 1 1 0.035)", "rgba(1 1 1 0)"});
   expectStops(filled(OrvanePalette::windowTopHighlight, false),
-              {"rgba(1 1 1 0.28)", "rgba(1 1 1 0.12)", " 0)"});
+              {"rgba(1 1 1 0.28)", "rgba(1 1 1 0.12)", "rgba(1 1 1 0)"});
 }
 
 TEST_F(OrvanePaletteTest, WhatLiesOverAPanel) {

@@ -1,6 +1,6 @@
 // The tile at the head of a panel.
 #include "Orvane/panels/main/PanelIcon.hpp"
-#include "tests/panels/main/ComponentFixture.hpp"
+#include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {
 namespace {

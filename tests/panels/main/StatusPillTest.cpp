@@ -1,6 +1,6 @@
 // The pill that tells whether a mode is on.
 #include "Orvane/panels/main/StatusPill.hpp"
-#include "tests/panels/main/ComponentFixture.hpp"
+#include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {
 namespace {

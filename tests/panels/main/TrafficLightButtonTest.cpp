@@ -1,6 +1,6 @@
 // The round buttons of the window's own title bar.
 #include "Orvane/panels/main/TrafficLightButton.hpp"
-#include "tests/panels/main/ComponentFixture.hpp"
+#include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {
 namespace {

@@ -39,6 +39,12 @@ class ComponentFixture : public testing::Test {
       test.at(now_);
     }
   }
+  /// Lays out what has changed, and goes on from there by so many seconds.
+  void advance(double seconds) {
+    test.host->layoutIfNeeded();
+    now_ += seconds;
+    test.at(now_);
+  }
   /// As the recording canvas writes it: "0 0 48 48".
   [[nodiscard]] static std::string numbers(const ui::Rect& rect) {
     char text[128];

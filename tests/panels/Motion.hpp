@@ -1,0 +1,40 @@
+// The motions of the panels in closed form, worked out apart from the code that runs them.
+#pragma once
+
+#include <cmath>
+#include <numbers>
+
+namespace orvane::motion {
+
+/// How much of the way is done when a share of the time has passed; both run from 0 to 1.
+struct Moment {
+  double share;
+  double progress;
+};
+
+/// The cubic Bezier with the inner control points (0, 0) and (0.58, 1), at a parameter from 0 to 1.
+inline Moment easeOut(double parameter) {
+  const double late = 3 * (1 - parameter) * parameter * parameter;
+  const double last = parameter * parameter * parameter;
+  return {0.58 * late + last, late + last};
+}
+
+/// The cubic Bezier with the inner control points (0.42, 0) and (0.58, 1), at a parameter from 0
+/// to 1.
+inline Moment easeInOut(double parameter) {
+  const double early = 3 * (1 - parameter) * (1 - parameter) * parameter;
+  const Moment end = easeOut(parameter);
+  return {0.42 * early + end.share, end.progress};
+}
+
+/// How much of its way a spring has done so many seconds after it began at rest. Its mass is 1, its
+/// stiffness (2 pi / response)^2, its damping 4 pi fraction / response; the fraction is below 1.
+inline double spring(double response, double fraction, double seconds) {
+  const double stiffness = std::pow(2 * std::numbers::pi / response, 2);
+  const double decay = 2 * std::numbers::pi * fraction / response;
+  const double swing = std::sqrt(stiffness - decay * decay);
+  return 1 - std::exp(-decay * seconds) *
+                 (std::cos(swing * seconds) + decay / swing * std::sin(swing * seconds));
+}
+
+}  // namespace orvane::motion
