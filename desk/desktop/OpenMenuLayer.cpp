@@ -25,8 +25,7 @@ ui::Rgba ink(const Machine& machine, double opacity) {
 }
 
 ui::Rgba accentColor(const Machine& machine) {
-  const Appearance::Accent& accent = machine.appearance.accent;
-  return {accent.red / 255.0, accent.green / 255.0, accent.blue / 255.0, 1};
+  return ui::standardColor(ui::SystemColor::accent, HostedView::appearanceOf(machine));
 }
 
 void paintRow(CairoCanvas& canvas, WindowServer& server, const MenuRow& row) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 namespace orvane::desk {
 
@@ -9,14 +10,14 @@ struct Appearance {
   enum class Wallpaper : std::uint8_t { standard, white, black, busy };
   struct Accent {
     std::uint8_t red = 0;
-    std::uint8_t green = 122;
-    std::uint8_t blue = 255;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
     bool operator==(const Accent&) const = default;
   };
 
   bool isDark = false;
-  /// None of the user's own until set: the system's blue.
-  Accent accent;
+  /// None until the user chooses one: the system's blue, which is not the same by day and by night.
+  std::optional<Accent> accent;
   Wallpaper wallpaper = Wallpaper::standard;
   bool reducesMotion = false;
   bool reducesTransparency = false;

@@ -191,7 +191,7 @@ Complaint setAccent(ScriptContext& context, Arguments& arguments) {
   if (Complaint complaint = arguments.finish()) {
     return complaint;
   }
-  context.machine().appearance.accent = {red, green, blue};
+  context.machine().appearance.accent = Appearance::Accent{red, green, blue};
   return std::nullopt;
 }
 

@@ -4,28 +4,25 @@
 #include <string>
 #include <utility>
 
+#include "Orvane/platform/appkit/Accessibility.hpp"
 #include "desk/machine/Machine.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
 
-namespace {
-
-ui::Appearance appearanceOf(const Machine& machine) {
+ui::Appearance HostedView::appearanceOf(const Machine& machine) {
   const Appearance& chosen = machine.appearance;
   ui::Appearance appearance;
   appearance.dark = chosen.isDark;
   appearance.reduceMotion = chosen.reducesMotion;
   appearance.reduceTransparency = chosen.reducesTransparency;
   appearance.increaseContrast = chosen.increasesContrast;
-  if (chosen.accent != Appearance::Accent{}) {
-    appearance.accent = ui::Rgba{chosen.accent.red / 255.0, chosen.accent.green / 255.0,
-                                 chosen.accent.blue / 255.0, 1};
+  if (chosen.accent) {
+    appearance.accent = ui::Rgba{chosen.accent->red / 255.0, chosen.accent->green / 255.0,
+                                 chosen.accent->blue / 255.0, 1};
   }
   return appearance;
 }
-
-}  // namespace
 
 HostedView::HostedView(ui::ViewHost::RootBuilder buildRoot) : host_(platform()) {
   host_.setAppearance(appearanceOf(Machine::current()));
@@ -61,9 +58,7 @@ ui::HostPlatform HostedView::platform() {
       kept();
     }
   };
-  services.announce = [](const std::string& text) {
-    WindowServer::current().announcements.push_back(text);
-  };
+  services.announce = appkit::Accessibility::announce;
   return {&server.text(), server.resources().imageSource(), {}, std::move(services)};
 }
 

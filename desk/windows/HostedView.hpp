@@ -6,12 +6,15 @@
 #include <memory>
 
 #include "Orvane/platform/Quartz.hpp"
+#include "Orvane/ui/Appearance.hpp"
 #include "Orvane/ui/Shape.hpp"
 #include "Orvane/ui/ViewHost.hpp"
 #include "desk/machine/RunLoopTimer.hpp"
 #include "desk/windows/ContentPicture.hpp"
 
 namespace orvane::desk {
+
+class Machine;
 
 /// Whoever calls a member that may run handlers of the views holds the view meanwhile. While it is
 /// on the screen it follows changes and asks for frames; otherwise it is brought up to date when
@@ -20,6 +23,9 @@ class HostedView : public std::enable_shared_from_this<HostedView> {
  public:
   /// In frames per second.
   static constexpr int frameRate = 60;
+
+  /// How the user of the machine likes views to look.
+  [[nodiscard]] static ui::Appearance appearanceOf(const Machine& machine);
 
   /// There must be a machine.
   explicit HostedView(ui::ViewHost::RootBuilder buildRoot);

@@ -1,10 +1,14 @@
 // The picture of the desktop against the state of the machine, pixel by pixel where it matters.
 #include <cmath>
 
+#include "Orvane/platform/appkit/HostingView.hpp"
+#include "Orvane/platform/appkit/Window.hpp"
+#include "Orvane/ui/ShapeView.hpp"
 #include "desk/desktop/DesktopPainter.hpp"
 #include "desk/desktop/DockShelf.hpp"
 #include "desk/desktop/DockTileArt.hpp"
 #include "desk/desktop/MenuBarLayer.hpp"
+#include "desk/windows/WindowServer.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
 namespace orvane::desk {
@@ -222,6 +226,61 @@ TEST_F(DesktopPainterTest, PutsWindowsBelowTheDockAndMenusAboveTheMenuBar) {
 TEST_F(DesktopPainterTest, AsksForNoPictureOrSymbolThatIsNotThere) {
   (void)picture();
   EXPECT_TRUE(resources.missingNames.empty());
+}
+
+/// A window that is filled with the accent colour, and a pop-up menu of one item, by night.
+class DesktopAccentTest : public DesktopFixture {
+ protected:
+  static constexpr Pixel blueByDay{0, 122, 255, 255};
+  static constexpr Pixel blueByNight{10, 132, 255, 255};
+
+  DesktopAccentTest() {
+    machine.appearance.isDark = true;
+    window.setContentView(appkit::HostingView(
+        [](const ui::Environment&) { return ui::Rectangle().fill(ui::Color::accent()); }));
+    window.orderFrontRegardless();
+    machine.runDue();
+  }
+
+  /// Blending rounds.
+  static bool isAbout(const Pixel& pixel, const Pixel& wanted) {
+    return std::abs(pixel.red - wanted.red) <= 1 && std::abs(pixel.green - wanted.green) <= 1 &&
+           std::abs(pixel.blue - wanted.blue) <= 1;
+  }
+  Pixel pixelOfWindow() { return pixelAt(picture().get(), 250, 250); }
+  /// Of the item that the pointer is over.
+  Pixel pixelOfItem() {
+    WindowServer& server = WindowServer::current();
+    ui::MenuRequest request;
+    request.items = {"One"};
+    request.anchor = {0, 0, 100, 20};
+    server.menus.openPopUp(request, server.windows().back()->content);
+    machine.runDue();
+    server.menus.layOut();
+    const CGRect frame = server.menus.rows().front().frame;
+    machine.mouse.moveTo({CGRectGetMaxX(frame) - 12, CGRectGetMidY(frame)});
+    machine.runDue();
+    const SurfacePointer shown = picture();
+    server.menus.close();
+    // Beside the pointer's arrow, which hangs to the right.
+    return pixelAt(shown.get(), static_cast<int>(CGRectGetMaxX(frame)) - 15,
+                   static_cast<int>(CGRectGetMidY(frame)));
+  }
+
+  appkit::Window window{appkit::WindowKind::window, CGRectMake(200, 200, 100, 100), 0};
+};
+
+TEST_F(DesktopAccentTest, TheBlueOfTheDayCanBeChosenForTheNight) {
+  machine.appearance.accent = Appearance::Accent{0, 122, 255};
+  EXPECT_PRED2(isAbout, pixelOfWindow(), blueByDay);
+  EXPECT_PRED2(isAbout, pixelOfItem(), blueByDay);
+}
+
+TEST_F(DesktopAccentTest, WithoutAChoiceItIsTheBlueOfTheNight) {
+  EXPECT_PRED2(isAbout, pixelOfWindow(), blueByNight);
+  EXPECT_PRED2(isAbout, pixelOfItem(), blueByNight);
+  machine.appearance.accent = Appearance::Accent{200, 20, 60};
+  EXPECT_PRED2(isAbout, pixelOfItem(), (Pixel{200, 20, 60, 255}));
 }
 
 }  // namespace

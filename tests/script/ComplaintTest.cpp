@@ -190,7 +190,7 @@ TEST(ComplaintTest, ChangesNothingWhenTheArgumentsAreWrong) {
   EXPECT_TRUE(machine.userDefaults.values().empty());
   EXPECT_EQ(machine.clock.now(), 0);
   EXPECT_FALSE(machine.process.isRunning());
-  EXPECT_EQ(machine.appearance.accent, Appearance::Accent{});
+  EXPECT_EQ(machine.appearance.accent, std::nullopt);
 }
 
 /// Lines made of the language's own words in any order, and of any bytes.
