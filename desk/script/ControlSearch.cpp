@@ -51,17 +51,27 @@ ControlSearch readControlSearch(ScriptContext& context, Arguments& arguments) {
   return search;
 }
 
-FoundControl findControl(const ControlSearch& search) {
+FoundWindow findWindow(const std::string& surface) {
   WindowServer& server = WindowServer::current();
-  const Surfaces surfaces(server);
+  std::shared_ptr<DeskWindow> window = Surfaces(server).window(surface);
+  if (window == nullptr) {
+    return {nullptr, "there is no surface \"" + surface + "\""};
+  }
+  if (server.modal.blocks(*window)) {
+    return {nullptr, "\"" + surface + "\" is kept back by a modal window"};
+  }
+  return {std::move(window), std::nullopt};
+}
+
+FoundControl findControl(const ControlSearch& search) {
+  const Surfaces surfaces(WindowServer::current());
   std::vector<std::string> places = surfaces.names();
   if (search.surface) {
-    if (!surfaces.isThere(*search.surface)) {
-      return {std::nullopt, "there is no surface \"" + *search.surface + "\""};
-    }
-    const auto window = surfaces.window(*search.surface);
-    if (window != nullptr && server.modal.blocks(*window)) {
-      return {std::nullopt, "\"" + *search.surface + "\" is kept back by a modal window"};
+    const bool isOpenMenu = *search.surface == Surfaces::menu && surfaces.isThere(*search.surface);
+    if (!isOpenMenu) {
+      if (FoundWindow found = findWindow(*search.surface); found.complaint) {
+        return {std::nullopt, std::move(found.complaint)};
+      }
     }
     places = {*search.surface};
   }

@@ -1,7 +1,8 @@
-// ControlSearch finds the control that a command names by its label.
+// ControlSearch finds the control that a command names by its label, and the window it names.
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -21,6 +22,13 @@ struct ControlSearch {
   std::optional<ui::Role> role;
 };
 
+/// The frontmost visible window of a name, or why it cannot be operated.
+struct FoundWindow {
+  /// Null when it cannot.
+  std::shared_ptr<DeskWindow> window;
+  Complaint complaint;
+};
+
 struct FoundControl {
   std::optional<SurfaceControl> control;
   /// Why there is none.
@@ -31,6 +39,8 @@ struct FoundControl {
 [[nodiscard]] ControlSearch readControlSearch(ScriptContext& context, Arguments& arguments);
 /// Reads `[in SURFACE]`.
 void readSurface(ScriptContext& context, Arguments& arguments, ControlSearch& search);
+/// Of a window that a modal session keeps back nothing is found.
+[[nodiscard]] FoundWindow findWindow(const std::string& surface);
 /// Only an enabled control is found.
 [[nodiscard]] FoundControl findControl(const ControlSearch& search);
 

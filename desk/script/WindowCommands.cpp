@@ -65,28 +65,25 @@ Complaint pick(ScriptContext& context, Arguments& arguments) {
 
 /// A command on the window that its next word names.
 std::function<Complaint(ScriptContext&, Arguments&)> onWindow(
-    void (*action)(WindowServer& server, const Window& window)) {
+    Complaint (*action)(const std::string& name, const Window& window)) {
   return [action](ScriptContext&, Arguments& arguments) -> Complaint {
     const std::string name = arguments.text("SURFACE");
     if (Complaint complaint = arguments.finish()) {
       return complaint;
     }
-    WindowServer& server = WindowServer::current();
-    const Window window = Surfaces(server).window(name);
-    if (window == nullptr) {
-      return "there is no surface \"" + name + "\"";
-    }
-    action(server, window);
-    return std::nullopt;
+    const FoundWindow found = findWindow(name);
+    return found.window != nullptr ? action(name, found.window) : found.complaint;
   };
 }
 
-void closeWindow(WindowServer& server, const Window& window) {
-  server.close(window);
+Complaint closeWindow(const std::string& /*name*/, const Window& window) {
+  WindowServer::current().close(window);
+  return std::nullopt;
 }
 
-void minimiseWindow(WindowServer& server, const Window& window) {
-  server.miniaturize(window);
+Complaint minimiseWindow(const std::string& name, const Window& window) {
+  WindowServer::current().miniaturize(window);
+  return window->isMiniaturized ? std::nullopt : Complaint("\"" + name + "\" cannot be minimised");
 }
 
 /// A place on the screen where a press moves the window, in global coordinates.
@@ -116,11 +113,12 @@ Complaint drag(ScriptContext& context, Arguments& arguments) {
   if (Complaint complaint = arguments.finish()) {
     return complaint;
   }
-  WindowServer& server = WindowServer::current();
-  const Window window = Surfaces(server).window(name);
-  if (window == nullptr) {
-    return "there is no surface \"" + name + "\"";
+  const FoundWindow found = findWindow(name);
+  if (found.window == nullptr) {
+    return found.complaint;
   }
+  WindowServer& server = WindowServer::current();
+  const Window& window = found.window;
   if (window->content != nullptr) {
     window->content->update();
   }
@@ -132,8 +130,13 @@ Complaint drag(ScriptContext& context, Arguments& arguments) {
   machine.mouse.moveTo(*place);
   machine.mouse.pressButton();
   machine.runDue();
+  const CGPoint before = window->frame.origin;
   machine.mouse.moveBy(dx, dy);
+  const CGPoint after = window->frame.origin;
   machine.mouse.releaseButton();
+  if ((dx != 0 || dy != 0) && before.x == after.x && before.y == after.y) {
+    return "\"" + name + "\" did not move";
+  }
   return std::nullopt;
 }
 
@@ -141,7 +144,7 @@ Complaint drag(ScriptContext& context, Arguments& arguments) {
 
 void addWindowCommands(CommandTable& table) {
   table.add({"press", "\"LABEL\" [in SURFACE] [nth N]", press});
-  table.add({"pick", "\"LABEL\" \"ITEM\" in SURFACE", pick});
+  table.add({"pick", R"("LABEL" "ITEM" in SURFACE)", pick});
   table.add({"close", "SURFACE", onWindow(closeWindow)});
   table.add({"minimise", "SURFACE", onWindow(minimiseWindow)});
   table.add({"drag", "SURFACE DX DY", drag});
