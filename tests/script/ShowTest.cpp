@@ -1,6 +1,13 @@
 // What each thing prints, byte for byte.
+#include <fstream>
+#include <set>
+#include <sstream>
+#include <string>
+
 #include <gtest/gtest.h>
 
+#include "Orvane/platform/appkit/Accessibility.hpp"
+#include "desk/script/Interpreter.hpp"
 #include "tests/script/ScriptRun.hpp"
 
 namespace orvane::desk::script {
@@ -125,6 +132,47 @@ TEST(ShowTest, FindsTheFirstOfTwoThatAnswer) {
                      "find \"nil-800.0-600.0-Optional(8)-"
                      "Optional(\\\"NSCalibratedRGBColorSpace\\\")\"\n"),
             "{\"index\":0}\n");
+}
+
+TEST(ShowTest, PrintsWhatWasAnnouncedAndNothingThatCannotBeSpoken) {
+  Session session;
+  session.application().launch();
+  appkit::Accessibility::announce("");
+  appkit::Accessibility::announce("first");
+  appkit::Accessibility::announce("not \xC3 UTF-8");
+  appkit::Accessibility::announce("\xED\xA0\x80");
+  appkit::Accessibility::announce("Bureau \xC3\xA9");
+  const ThingTable things = standardThings();
+  const CommandTable commands = standardCommands();
+  std::ostringstream output;
+  ScriptContext context{.session = session,
+                        .things = things,
+                        .output = output,
+                        .limits = {},
+                        .pictureWriter = {},
+                        .expectationFailed = {}};
+  Interpreter interpreter(commands, context);
+  EXPECT_EQ(interpreter.run("show announcements"), std::nullopt);
+  EXPECT_EQ(output.str(), "[\"first\",\"Bureau \xC3\xA9\"]\n");
+}
+
+TEST(ShowTest, TheScenarioOfEverythingShowsEachThing) {
+  std::ifstream file(std::string(ORVANE_SOURCE_FOLDER) + "/tests/scenarios/everything-shown.desk");
+  std::set<std::string> shown;
+  for (std::string line; std::getline(file, line);) {
+    std::istringstream words(line);
+    std::string command;
+    std::string thing;
+    words >> command >> thing;
+    if (command == "show") {
+      shown.insert(thing);
+    }
+  }
+  std::string list;
+  for (const std::string& thing : shown) {
+    list += (list.empty() ? "" : ", ") + thing;
+  }
+  EXPECT_EQ(list, standardThings().names());
 }
 
 TEST(ShowTest, EchoesItsWords) {
