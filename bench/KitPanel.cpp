@@ -84,11 +84,12 @@ View KitPanel::body(const Environment& /*environment*/) const {
     std::vector<View> cards;
     for (int column = 0; column < cardColumns; ++column) {
       const int number = row * cardColumns + column;
-      cards.push_back(Card{number, number == 1});
+      cards.emplace_back(Card{number, number == 1});
     }
     rows.push_back(HStack(12, cards));
   }
   std::vector<View> settings;
+  settings.reserve(settingRows);
   for (int number = 0; number < settingRows; ++number) {
     settings.push_back(settingRow(number));
   }

@@ -13,10 +13,10 @@ namespace {
 std::vector<CGRect> arrangement(std::size_t count) {
   std::vector<CGRect> frames;
   for (std::size_t index = 0; index < count; ++index) {
-    const double column = static_cast<double>(index / 2);
+    const std::size_t column = index / 2;
     const bool isLower = index % 2 == 1;
-    frames.push_back(
-        CGRectMake(column * 1920 + (isLower ? 960 : 0), isLower ? 1080 : 0, 1920, 1080));
+    const double x = static_cast<double>(column) * 1920 + (isLower ? 960 : 0);
+    frames.push_back(CGRectMake(x, isLower ? 1080 : 0, 1920, 1080));
   }
   return frames;
 }

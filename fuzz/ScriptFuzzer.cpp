@@ -8,6 +8,7 @@
 #include "Orvane/base/Require.hpp"
 #include "desk/script/ScriptProgram.hpp"
 
+// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's own name
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   using orvane::desk::script::ScriptProgram;
   std::istringstream noInput;

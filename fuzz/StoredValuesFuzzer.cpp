@@ -80,6 +80,7 @@ void useApplication(FuzzedDataProvider& data, Machine& machine, OrvaneModel& mod
 }  // namespace
 }  // namespace orvane::desk
 
+// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's own name
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   using namespace orvane::desk;
   FuzzedDataProvider data(bytes, size);
