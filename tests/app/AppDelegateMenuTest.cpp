@@ -63,8 +63,12 @@ TEST_F(AppDelegateMenuTest, HasRowsOf208By30PointsAndAHeaderOf208By26) {
     const appkit::MenuItem& item = server().menus.menu()->items[shown.itemIndex];
     if (shown.view != nullptr) {
       ++views;
+      const double height = item.title == "Choose Display" ? 26 : 30;
       EXPECT_DOUBLE_EQ(shown.frame.size.width, 208);
-      EXPECT_DOUBLE_EQ(shown.frame.size.height, item.title == "Choose Display" ? 26 : 30);
+      EXPECT_DOUBLE_EQ(shown.frame.size.height, height);
+      // The menu is as wide as its widest row: each one must have asked for that itself.
+      EXPECT_DOUBLE_EQ(shown.view->frame().size.width, 208) << item.title;
+      EXPECT_DOUBLE_EQ(shown.view->frame().size.height, height) << item.title;
       EXPECT_FALSE(item.title.empty());
     }
   }
@@ -93,6 +97,13 @@ TEST_F(AppDelegateMenuTest, WithoutDisplaysOneDisabledRowStandsForThem) {
             "macwindow | Open Window\ngearshape | Settings\npower | Quit\n");
 }
 
+TEST_F(AppDelegateMenuTest, TheRowWithoutDisplaysIsChineseToo) {
+  store("appLanguage", std::string("chinese"));
+  application.launch();
+  EXPECT_EQ(row("未检测到显示器"),
+            "display.trianglebadge.exclamationmark | 未检测到显示器 | disabled");
+}
+
 TEST_F(AppDelegateMenuTest, OpeningReadsDisplaysPermissionAndLoginItemAnew) {
   begin();
   desk::attach(machine, desk::monitorAbove());
@@ -112,6 +123,40 @@ TEST_F(AppDelegateMenuTest, OpeningMarksAStoredAliasByItsDisplay) {
   EXPECT_EQ(row("Display (Main)"), "display | Display (Main)");
 }
 
+TEST_F(AppDelegateMenuTest, AnAliasThatIsChosenWhileTheMenuIsOpenMarksNoRowUntilItOpensAgain) {
+  beginWithOpenMenu();
+  ASSERT_EQ(row("Display (Main)"), "display | Display (Main) | selected");
+  model().selectDisplay("2");
+  // A switch builds the menu anew and lists no displays.
+  ASSERT_TRUE(press("Open at Login"));
+  ASSERT_EQ(model().selectedDisplayID().value(), "2");
+  ASSERT_EQ(model().selectedDisplay()->name, "Studio");
+  EXPECT_EQ(row("Display (Main)"), "display | Display (Main)");
+  EXPECT_EQ(row("Studio"), "display | Studio");
+  ASSERT_TRUE(openMenu());
+  EXPECT_EQ(row("Studio"), "display | Studio | selected");
+}
+
+TEST_F(AppDelegateMenuTest, OpeningBringsTheIconUpToDate) {
+  begin();
+  model().refreshDisplays();
+  model().toggleSelectedDisplayLock();
+  ASSERT_EQ(icon(), "lock.open");
+  ASSERT_TRUE(openMenu());
+  EXPECT_EQ(icon(), "lock.fill");
+}
+
+TEST_F(AppDelegateMenuTest, TheIconFollowsTheGuardWithinASecondWhileTheMenuIsOpen) {
+  beginWithOpenMenu();
+  ASSERT_TRUE(press("Pin Dock"));
+  letBlockingRunAway();
+  ASSERT_FALSE(model().isGuardRunning());
+  EXPECT_EQ(icon(), "lock.fill") << "nobody but the timer tells the icon";
+  machine.advance(1);
+  EXPECT_TRUE(isOpen());
+  EXPECT_EQ(icon(), "lock.open");
+}
+
 TEST_F(AppDelegateMenuTest, SwitchesFlipInPlaceAndLeaveTheMenuOpen) {
   beginWithOpenMenu();
   ASSERT_TRUE(press("Pin Dock"));
@@ -124,6 +169,17 @@ TEST_F(AppDelegateMenuTest, SwitchesFlipInPlaceAndLeaveTheMenuOpen) {
   ASSERT_TRUE(press("Pin Dock"));
   EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | off");
   EXPECT_EQ(icon(), "lock.open");
+}
+
+TEST_F(AppDelegateMenuTest, OpenAtLoginIsSwitchedOffAgainFromTheMenu) {
+  machine.loginItem.status = appkit::LoginItem::Status::enabled;
+  beginWithOpenMenu();
+  ASSERT_EQ(row("Open at Login"), "power | Open at Login | on");
+  ASSERT_TRUE(press("Open at Login"));
+  EXPECT_EQ(machine.loginItem.status, appkit::LoginItem::Status::notRegistered);
+  EXPECT_EQ(row("Open at Login"), "power | Open at Login | off");
+  ASSERT_TRUE(press("Open at Login"));
+  EXPECT_EQ(machine.loginItem.status, appkit::LoginItem::Status::enabled);
 }
 
 TEST_F(AppDelegateMenuTest, PinningAndPreventingExcludeEachOther) {
@@ -182,6 +238,21 @@ TEST_F(AppDelegateMenuTest, OpenWindowClosesTheMenuShowsTheWindowAndActivates) {
   EXPECT_TRUE(server().focus.isActive());
 }
 
+TEST_F(AppDelegateMenuTest, WindowsComeInFrontOfThoseOfOtherApplications) {
+  begin();
+  server().systemSettings.open();
+  ASSERT_FALSE(server().focus.isActive());
+  ASSERT_TRUE(openMenu());
+  ASSERT_TRUE(press("Open Window"));
+  EXPECT_EQ(server().windows().back()->className, "OrvaneWindow");
+  server().systemSettings.open();
+  ASSERT_EQ(server().windows().back()->className, "SystemSettings");
+  ASSERT_TRUE(openMenu());
+  ASSERT_TRUE(press("Settings"));
+  EXPECT_EQ(server().windows().back()->className, "OrvaneSettingsWindow");
+  EXPECT_EQ(server().windows().front()->className, "SystemSettings");
+}
+
 TEST_F(AppDelegateMenuTest, SettingsClosesTheMenuAndShowsTheSettings) {
   beginWithOpenMenu();
   ASSERT_TRUE(press("Settings"));
@@ -194,7 +265,7 @@ TEST_F(AppDelegateMenuTest, ActionsBringTheIconUpToDate) {
     begin();
     ASSERT_TRUE(openMenu());
     ASSERT_TRUE(press("Pin Dock"));
-    // The system ends the tap while the menu keeps the timer from firing.
+    // Stopped by somebody else; no time passes in which the timer could tell the icon.
     model().toggleLock();
     EXPECT_EQ(icon(), "lock.fill");
     ASSERT_TRUE(press(title));

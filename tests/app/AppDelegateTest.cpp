@@ -2,6 +2,7 @@
 #include <limits>
 
 #include "Orvane/app/OrvaneAppState.hpp"
+#include "Orvane/permission/OrvanePermissionAlert.hpp"
 #include "tests/app/AppFixture.hpp"
 
 namespace orvane {
@@ -42,7 +43,6 @@ TEST_F(AppDelegateTest, TheIconIsATemplateOfEighteenPointsThatVoiceOverCallsOrva
     EXPECT_TRUE(image.isTemplate);
     EXPECT_DOUBLE_EQ(image.size.width, 18);
     EXPECT_DOUBLE_EQ(image.size.height, 18);
-    pressRow("Pin Dock");
     model().refreshDisplays();
     model().toggleSelectedDisplayLock();
     machine.advance(1);
@@ -93,6 +93,23 @@ TEST_F(AppDelegateTest, TheIconFollowsTheGuardWithinASecond) {
   EXPECT_EQ(icon(), "lock.open");
 }
 
+TEST_F(AppDelegateTest, TheIconFollowsTheGuardWithinASecondWhileAnAlertIsUp) {
+  begin();
+  model().refreshDisplays();
+  model().toggleSelectedDisplayLock();
+  machine.advance(1);
+  ASSERT_EQ(icon(), "lock.fill");
+  OrvanePermissionAlert::show(nullptr);
+  machine.runDue();
+  ASSERT_TRUE(server().modal.isRunning());
+  // The display to which the Dock is pinned.
+  desk::detach(machine, 1);
+  ASSERT_FALSE(model().isGuardRunning());
+  machine.advance(1);
+  EXPECT_TRUE(server().modal.isRunning());
+  EXPECT_EQ(icon(), "lock.open");
+}
+
 TEST_F(AppDelegateTest, TheSameIconAgainChangesNothingOnTheScreen) {
   begin();
   machine.advance(3);
@@ -114,6 +131,17 @@ TEST_F(AppDelegateTest, AnotherLanguageRebuildsTheMenuWithTheDisplaysNewNames) {
             "lock | 固定 Dock | off\n-\n# 选择显示器\n"
             "display | 内建显示器 （主要） | selected\ndisplay | Studio\n-\n"
             "macwindow | 打开窗口\ngearshape | 设置\npower | 退出\n");
+}
+
+TEST_F(AppDelegateTest, AnotherLanguageBringsTheIconUpToDate) {
+  store("appLanguage", std::string("english"));
+  begin();
+  model().refreshDisplays();
+  model().toggleSelectedDisplayLock();
+  model().setAppLanguage(OrvaneLanguage::chinese);
+  ASSERT_EQ(icon(), "lock.open");
+  machine.runDue();
+  EXPECT_EQ(icon(), "lock.fill");
 }
 
 TEST_F(AppDelegateTest, TheLanguageChosenInTheSettingsWindowRebuildsTheMenuAtOnce) {
@@ -169,6 +197,23 @@ TEST_F(AppDelegateTest, QuittingLeavesTheWishForTheNextLaunch) {
   application.launch();
   EXPECT_TRUE(model().isGuardRunning());
   EXPECT_EQ(icon(), "lock.fill");
+}
+
+TEST_F(AppDelegateTest, BetweenItsFarewellAndItsEndItNeitherTicksNorRebuilds) {
+  store("appLanguage", std::string("english"));
+  begin();
+  model().setAppLanguage(OrvaneLanguage::chinese);
+  ASSERT_EQ(machine.runLoop.pendingTaskCount(), 1U) << "the menu is to be rebuilt";
+  machine.runDue();
+  ASSERT_EQ(machine.runLoop.timerCount(), 1U);
+  // The process ends only when the run loop goes on.
+  server().application.terminate();
+  ASSERT_TRUE(application.isRunning());
+  EXPECT_EQ(machine.runLoop.timerCount(), 0U);
+  model().setAppLanguage(OrvaneLanguage::english);
+  EXPECT_EQ(machine.runLoop.pendingTaskCount(), 0U);
+  machine.runDue();
+  EXPECT_FALSE(application.isRunning());
 }
 
 TEST_F(AppDelegateTest, ACrashWhileLockedLeavesTheWishToo) {

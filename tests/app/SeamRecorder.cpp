@@ -11,7 +11,6 @@
 #include <utility>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/platform/appkit/Image.hpp"
 #include "Orvane/platform/appkit/LoginItem.hpp"
 #include "Orvane/platform/appkit/Menu.hpp"
@@ -19,6 +18,7 @@
 #include "Orvane/platform/appkit/StatusItem.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
 #include "Orvane/platform/appkit/UserDefaults.hpp"
+#include "desk/windows/Implementations.hpp"
 
 #define REAL(name) asm("__real_" name)
 #define WRAPPED(name) asm("__wrap_" name)
@@ -32,6 +32,18 @@ std::vector<std::string>* recorded = nullptr;
 void note(std::string call) {
   if (recorded != nullptr) {
     recorded->push_back(std::move(call));
+  }
+}
+
+appkit::ApplicationDelegate& givenDelegate() {
+  static appkit::ApplicationDelegate given;
+  return given;
+}
+
+/// For the calls on a window, which is called by its class.
+void note(const appkit::Window& window, const std::string& call) {
+  if (recorded != nullptr) {
+    note(window.implementation()->className + "." + call);
   }
 }
 
@@ -63,10 +75,24 @@ std::string SeamRecorder::text() const {
   return all;
 }
 
+const appkit::ApplicationDelegate& SeamRecorder::delegate() {
+  return givenDelegate();
+}
+
 using namespace appkit;
 using Task = std::function<void()>;
 
 // Application
+
+void realSetDelegate(ApplicationDelegate)
+    REAL("_ZN6orvane6appkit11Application11setDelegateENS0_19ApplicationDelegateE");
+void setDelegate(ApplicationDelegate)
+    WRAPPED("_ZN6orvane6appkit11Application11setDelegateENS0_19ApplicationDelegateE");
+void setDelegate(ApplicationDelegate delegate) {
+  note("Application.setDelegate");
+  givenDelegate() = delegate;
+  realSetDelegate(std::move(delegate));
+}
 
 void realSetActivationPolicy(ActivationPolicy)
     REAL("_ZN6orvane6appkit11Application19setActivationPolicyENS0_16ActivationPolicyE");
@@ -93,6 +119,15 @@ void runModal(const Window& window, std::function<void(int)> ended) {
   realRunModal(window, std::move(ended));
 }
 
+void realTerminate() REAL("_ZN6orvane6appkit11Application9terminateEv");
+void terminate() WRAPPED("_ZN6orvane6appkit11Application9terminateEv");
+void terminate() {
+  note("Application.terminate");
+  realTerminate();
+}
+
+// Window
+
 // A window of its own and the base of one of the application's classes.
 void realMakeWindow(void*, WindowKind, CGRect, std::uint64_t)
     REAL("_ZN6orvane6appkit6WindowC1ENS0_10WindowKindE6CGRectm");
@@ -108,11 +143,50 @@ void makeWindowBase(void* window, WindowKind kind, CGRect contentRect, std::uint
   makeWindow(window, kind, contentRect, styleMask);
 }
 
-void realTerminate() REAL("_ZN6orvane6appkit11Application9terminateEv");
-void terminate() WRAPPED("_ZN6orvane6appkit11Application9terminateEv");
-void terminate() {
-  note("Application.terminate");
-  realTerminate();
+void realDeminiaturize(Window*) REAL("_ZN6orvane6appkit6Window13deminiaturizeEv");
+void deminiaturize(Window*) WRAPPED("_ZN6orvane6appkit6Window13deminiaturizeEv");
+void deminiaturize(Window* window) {
+  note(*window, "deminiaturize");
+  realDeminiaturize(window);
+}
+
+void realMakeKeyAndOrderFront(Window*) REAL("_ZN6orvane6appkit6Window20makeKeyAndOrderFrontEv");
+void makeKeyAndOrderFront(Window*) WRAPPED("_ZN6orvane6appkit6Window20makeKeyAndOrderFrontEv");
+void makeKeyAndOrderFront(Window* window) {
+  note(*window, "makeKeyAndOrderFront");
+  realMakeKeyAndOrderFront(window);
+}
+
+void realOrderFrontRegardless(Window*) REAL("_ZN6orvane6appkit6Window20orderFrontRegardlessEv");
+void orderFrontRegardless(Window*) WRAPPED("_ZN6orvane6appkit6Window20orderFrontRegardlessEv");
+void orderFrontRegardless(Window* window) {
+  note(*window, "orderFrontRegardless");
+  realOrderFrontRegardless(window);
+}
+
+void realClose(Window*) REAL("_ZN6orvane6appkit6Window5closeEv");
+void close(Window*) WRAPPED("_ZN6orvane6appkit6Window5closeEv");
+void close(Window* window) {
+  note(*window, "close");
+  realClose(window);
+}
+
+void realAddChild(Window*, const Window&)
+    REAL("_ZN6orvane6appkit6Window19addChildWindowAboveERKS1_");
+void addChild(Window*, const Window&)
+    WRAPPED("_ZN6orvane6appkit6Window19addChildWindowAboveERKS1_");
+void addChild(Window* window, const Window& child) {
+  note(*window, "addChildWindowAbove " + child.implementation()->className);
+  realAddChild(window, child);
+}
+
+void realRemoveChild(Window*, const Window&)
+    REAL("_ZN6orvane6appkit6Window17removeChildWindowERKS1_");
+void removeChild(Window*, const Window&)
+    WRAPPED("_ZN6orvane6appkit6Window17removeChildWindowERKS1_");
+void removeChild(Window* window, const Window& child) {
+  note(*window, "removeChildWindow " + child.implementation()->className);
+  realRemoveChild(window, child);
 }
 
 // StatusItem

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "Orvane/platform/appkit/Application.hpp"
+
 namespace orvane {
 
 /// Notes the calls between its beginning and its end, but for those that only look something up;
@@ -19,6 +21,9 @@ class SeamRecorder {
 
   /// One call in each line: the name of the function and what matters of its arguments.
   [[nodiscard]] std::string text() const;
+
+  /// What the application has given the system to call, whether it was recorded or not.
+  [[nodiscard]] static const appkit::ApplicationDelegate& delegate();
 
  private:
   std::vector<std::string> calls_;

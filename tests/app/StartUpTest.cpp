@@ -1,5 +1,5 @@
-// The order of the start-up, and of the menu's actions, as the platform sees it: every call, and no
-// other.
+// The order of the start-up, of the menu and of its actions, as the platform sees it: every call,
+// and no other.
 #include "tests/app/AppFixture.hpp"
 #include "tests/app/SeamRecorder.hpp"
 
@@ -7,7 +7,8 @@ namespace orvane {
 namespace {
 
 /// Activation policy 1 is accessory; image position 1 is image-only, scaling 0 proportionally-down.
-const std::string untilTheModel = R"(Application.setActivationPolicy 1
+const std::string untilTheModel = R"(Application.setDelegate
+Application.setActivationPolicy 1
 StatusItem
 StatusItem.setAutosaveName "Orvane"
 StatusItem.setImagePosition 1
@@ -38,6 +39,21 @@ Menu.addItem "Open Window"
 Menu.addItem "Settings"
 Menu.addItem "Quit"
 )";
+
+const std::string theMenuOfTwoDisplays = R"calls(Menu.removeAllItems
+Menu.addItem "Open at Login"
+Menu.addItem -
+Menu.addItem "Prevent Dock Pop-Up"
+Menu.addItem "Pin Dock"
+Menu.addItem -
+Menu.addItem "Choose Display"
+Menu.addItem "Display (Main)"
+Menu.addItem "Studio"
+Menu.addItem -
+Menu.addItem "Open Window"
+Menu.addItem "Settings"
+Menu.addItem "Quit"
+)calls";
 
 const std::string theTimer = "Timer.repeating 1 common\n";
 
@@ -104,22 +120,29 @@ class MenuActionCallsTest : public StartUpTest {
   }
 
   const std::string closing = "Menu.cancelTracking\n";
+  const std::string showing = R"(Application.setActivationPolicy 1
+Window
+OrvaneWindow.makeKeyAndOrderFront
+OrvaneWindow.orderFrontRegardless
+)";
+  const std::string showingSettings = R"(Window
+OrvaneWindow.addChildWindowAbove OrvaneSettingsWindow
+OrvaneSettingsWindow.makeKeyAndOrderFront
+OrvaneSettingsWindow.orderFrontRegardless
+)";
+  /// The main panel's, once it is drawn.
+  const std::string appearing = "AXIsProcessTrusted\nTimer.repeating 1 common\n";
   const std::string activating = "Application.activateIgnoringOtherApps\n";
 };
 
 TEST_F(MenuActionCallsTest, OpenWindowActivatesOnceMoreAfterTheWindowAndThenLooksToTheIcon) {
-  const std::string calls = pressRecorded("Open Window");
-  EXPECT_TRUE(calls.starts_with(closing)) << calls;
-  EXPECT_NE(calls.find("Window\n" + activating + activating + theIcon("lock.open")),
-            std::string::npos)
-      << calls;
+  EXPECT_EQ(pressRecorded("Open Window"),
+            closing + showing + activating + activating + theIcon("lock.open") + appearing);
 }
 
 TEST_F(MenuActionCallsTest, SettingsLeavesActivatingToTheWindow) {
-  const std::string calls = pressRecorded("Settings");
-  EXPECT_TRUE(calls.starts_with(closing)) << calls;
-  EXPECT_NE(calls.find("Window\n" + activating + theIcon("lock.open")), std::string::npos) << calls;
-  EXPECT_EQ(calls.find(activating + activating), std::string::npos) << calls;
+  EXPECT_EQ(pressRecorded("Settings"), closing + showing + activating + showingSettings +
+                                           activating + theIcon("lock.open") + appearing);
 }
 
 TEST_F(MenuActionCallsTest, QuitClosesTheMenuAndEnds) {
@@ -132,6 +155,65 @@ TEST_F(MenuActionCallsTest, ADisplayIsStoredAfterTheMenuHasClosedAndBeforeItIsBu
                                 desk::uuidNamed('B') + "\"\nMenu.removeAllItems\n"))
       << calls;
   EXPECT_TRUE(calls.ends_with("Menu.addItem \"Quit\"\n" + theIcon("lock.open"))) << calls;
+}
+
+TEST_F(StartUpTest, OpeningTheMenuReadsDisplaysAndLoginItemThenBuildsItThenLooksToTheIcon) {
+  application.launch();
+  const SeamRecorder recorder;
+  ASSERT_TRUE(openMenu());
+  EXPECT_EQ(recorder.text(), "UserDefaults.setString \"selectedDisplayID\" \"" +
+                                 desk::uuidNamed('A') +
+                                 "\"\nAXIsProcessTrusted\nLoginItem.status\nLoginItem.status\n" +
+                                 theMenuOfTwoDisplays + theIcon("lock.open"));
+}
+
+TEST_F(StartUpTest, AnotherLanguageBuildsTheMenuOnceAndThenLooksToTheIcon) {
+  store("appLanguage", std::string("chinese"));
+  application.launch();
+  model().refreshDisplays();
+  const SeamRecorder recorder;
+  model().setAppLanguage(OrvaneLanguage::english);
+  machine.runDue();
+  EXPECT_EQ(recorder.text(),
+            "UserDefaults.setString \"appLanguage\" \"english\"\nAXIsProcessTrusted\n" +
+                theMenuOfTwoDisplays + theIcon("lock.open"));
+}
+
+TEST_F(StartUpTest, SecondsInWhichNothingChangesAskThePlatformForNothing) {
+  machine.permission.setTrusted(true);
+  application.launch();
+  model().refreshDisplays();
+  for (const bool isPinned : {false, true}) {
+    if (isPinned) {
+      model().toggleSelectedDisplayLock();
+      machine.advance(1);
+    }
+    const SeamRecorder recorder;
+    const std::int64_t ticks = machine.runLoop.timerFireCount();
+    machine.advance(300);
+    EXPECT_EQ(machine.runLoop.timerFireCount() - ticks, 300);
+    EXPECT_EQ(recorder.text(), "");
+  }
+}
+
+TEST_F(StartUpTest, TheFirstSecondAfterAChangeSetsTheIconOnce) {
+  machine.permission.setTrusted(true);
+  application.launch();
+  model().refreshDisplays();
+  model().toggleSelectedDisplayLock();
+  machine.runDue();
+  const SeamRecorder recorder;
+  machine.advance(60);
+  EXPECT_EQ(recorder.text(), theIcon("lock.fill"));
+}
+
+TEST_F(StartUpTest, OpenedAgainItAnswersThatTheSystemMayGoOn) {
+  application.launch();
+  const auto& reopened = SeamRecorder::delegate().shouldHandleReopen;
+  ASSERT_TRUE(reopened);
+  EXPECT_TRUE(reopened(false));
+  ASSERT_TRUE(desk::Surfaces(server()).isThere("main"));
+  EXPECT_TRUE(reopened(true));
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ class OrvaneWindowControllerTest : public desk::WindowFixture {
   /// A strip at the very top.
   static appkit::HostingView::RootBuilder content() {
     return [](const ui::Environment&) -> ui::View {
-      return ui::VStack(0, {ui::Text("top").height(20).accessibilityLabel("Top"), ui::Spacer()});
+      return ui::VStack(0, {ui::Rectangle().height(20).accessibilityLabel("Top"), ui::Spacer()});
     };
   }
   void show() {
@@ -73,6 +73,7 @@ class OrvaneWindowControllerTest : public desk::WindowFixture {
     EXPECT_EQ(window.content->cornerStyle, ui::CornerStyle::continuous);
     EXPECT_TRUE(window.content->masksToBounds);
     EXPECT_FALSE(window.content->respectsSafeArea);
+    EXPECT_TRUE(window.content->hasBackdrop);
   }
 
   OrvaneModel model;
@@ -133,11 +134,11 @@ TEST_F(OrvaneWindowControllerTest, AClosedMainPanelIsMadeAnewAndCentred) {
 
 TEST_F(OrvaneWindowControllerTest, ItIsBroughtToTheFrontAlsoOfAnInactiveApplication) {
   show();
-  server().focus.deactivate();
-  appkit::Window other = makeWindow({0, 0}, "other");
-  other.orderFrontRegardless();
+  server().systemSettings.open();
+  ASSERT_EQ(order(), "OrvaneWindow SystemSettings");
+  ASSERT_FALSE(server().focus.isActive());
   show();
-  EXPECT_EQ(order(), "other OrvaneWindow");
+  EXPECT_EQ(order(), "SystemSettings OrvaneWindow");
   EXPECT_TRUE(server().focus.isActive());
 }
 
@@ -174,6 +175,16 @@ TEST_F(OrvaneWindowControllerTest, ClosingTheMainPanelClosesBoth) {
   EXPECT_FALSE(controller().settingsWindow());
   EXPECT_TRUE(server().windows().empty());
   EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::accessory);
+}
+
+TEST_F(OrvaneWindowControllerTest, TheLastOneToCloseSetsTheActivationPolicyAgain) {
+  using appkit::ActivationPolicy;
+  showSettings();
+  machine.application.activationPolicy = ActivationPolicy::regular;
+  controller().closeSettingsWindow();
+  EXPECT_EQ(machine.application.activationPolicy, ActivationPolicy::regular);
+  controller().closeWindow();
+  EXPECT_EQ(machine.application.activationPolicy, ActivationPolicy::accessory);
 }
 
 TEST_F(OrvaneWindowControllerTest, TheSettingsOwnCloseLeavesTheMainPanel) {
@@ -221,8 +232,7 @@ TEST_F(OrvaneWindowControllerTest, ContentAtTheTopTouchesTheTopEdge) {
     const auto tree = desk::Surfaces(server()).tree(surface);
     ASSERT_TRUE(tree);
     ASSERT_FALSE(tree->children.empty());
-    // Twenty points high, and no inset above them.
-    EXPECT_LT(tree->children.front().frame.y, 20);
+    EXPECT_EQ(tree->children.front().frame.y, 0);
     EXPECT_EQ(shown(surface)->contentFrame().size.height, shown(surface)->frame.size.height);
   }
 }
