@@ -18,7 +18,7 @@ int main() {
     const orvane::TapWatch tapWatch(orvane::OrvaneAppState::model);
     // Every movement of the pointer waits for this process, which has no window most of the time.
     // App Nap would slow it down.
-    const id<NSObject> activity = [NSProcessInfo.processInfo
+    NS_VALID_UNTIL_END_OF_SCOPE const id<NSObject> activity = [NSProcessInfo.processInfo
         beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
                           reason:@"Moves the pointer away from the Dock's edge"];
     (void)activity;

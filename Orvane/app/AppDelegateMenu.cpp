@@ -32,6 +32,7 @@ appkit::MenuItem rowItem(const StatusMenuRow& row) {
   appkit::MenuItem item;
   item.title = row.title;
   item.isEnabled = row.isEnabled;
+  item.isOn = row.isOn.value_or(row.isSelected);
   item.keepsMenuOpen = row.isOn.has_value();
   item.action = row.action;
   item.view = hosted(row, CGSizeMake(row.rowWidth, StatusMenuRow::rowHeight));

@@ -23,7 +23,7 @@ enum class SystemColor {
   gray
 };
 
-// Resolves a name for an appearance. It is asked anew at every drawing; `fixed` is never asked.
+// Resolves a name for an appearance. It is asked whenever views are built; `fixed` is never asked.
 using ColorResolver = std::function<Rgba(SystemColor, const Appearance&)>;
 
 class Color {

@@ -97,7 +97,10 @@ void ViewHost::tick(double seconds) {
     layoutIfNeeded();
   } else if (isMoving_) {
     present();
-    updateHover();
+    if (updateHover() && !isMoving_) {
+      // Elements are where they are presented.
+      call(services_.semanticsChanged);
+    }
   }
 }
 

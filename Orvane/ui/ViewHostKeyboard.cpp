@@ -113,6 +113,7 @@ void ViewHost::setFocus(std::uint64_t id, bool isVisible) {
   }
   present();
   requestRedraw();
+  call(services_.semanticsChanged);
 }
 
 void ViewHost::scrollToVisible(Node& node) {

@@ -204,7 +204,9 @@ bool ViewHost::scroll(Point point, double horizontal, double vertical) {
       pointer_ = point;
       present();
       requestRedraw();
-      updateHover();
+      if (updateHover()) {
+        call(services_.semanticsChanged);
+      }
       return true;
     }
   }

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "Orvane/platform/appkit/MainQueue.hpp"
+#include "macos/appkit/MenuImplementation.hpp"
 #include "macos/appkit/NativeWindow.hpp"
 
 @interface OrvaneApplicationDelegate : NSObject <NSApplicationDelegate> {
@@ -70,11 +72,35 @@ CGPoint Application::mouseLocation() {
   return NSEvent.mouseLocation;
 }
 
-void Application::runModal(const Window& window, std::function<void(int response)> ended) {
-  NSWindow* const native = window.implementation()->window;
+namespace {
+
+void runModalNow(NSWindow* native, const std::function<void(int response)>& ended) {
   keepWhileShown(native);
+  // A panel would be hidden with the application's deactivation, and nobody could end the session.
+  native.hidesOnDeactivate = NO;
   const NSModalResponse response = [NSApplication.sharedApplication runModalForWindow:native];
   ended(static_cast<int>(response));
+}
+
+}  // namespace
+
+void Application::runModal(const Window& window, std::function<void(int response)> ended) {
+  NSWindow* const native = window.implementation()->window;
+  if (openMenu() == nil) {
+    runModalNow(native, ended);
+    return;
+  }
+  // A session inside the loop of an open menu would leave the menu standing, frozen, over it. The
+  // loop ends when this task has returned; then the session begins in a task of the main queue, as
+  // it would have here. The window's handle is kept until then.
+  [openMenu() cancelTrackingWithoutAnimation];
+  const std::function<void()> run = [window, ended = std::move(ended)] {
+    runModalNow(window.implementation()->window, ended);
+  };
+  [NSRunLoop.mainRunLoop performInModes:@[ NSDefaultRunLoopMode ]
+                                  block:^{
+                                    MainQueue::async(run);
+                                  }];
 }
 
 void Application::stopModal(int response) {

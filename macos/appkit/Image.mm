@@ -1,6 +1,7 @@
 // Pictures for the window system's own controls by NSImage.
 #include "Orvane/platform/appkit/Image.hpp"
 
+#include <algorithm>
 #include <utility>
 
 #include "macos/appkit/ImageImplementation.hpp"
@@ -43,7 +44,22 @@ void Image::setTemplate(bool isTemplate) {
 }
 
 void Image::setSize(CGSize size) {
-  implementation_->image.size = size;
+  // A symbol that is given a size is stretched to it, and few symbols are square.
+  NSImage* const symbol = implementation_->image;
+  const NSSize own = symbol.size;
+  const CGFloat scale = std::min({1.0, size.width / own.width, size.height / own.height});
+  NSImage* const sized = [NSImage
+       imageWithSize:size
+             flipped:NO
+      drawingHandler:^BOOL(NSRect rect) {
+        const NSSize drawn = NSMakeSize(own.width * scale, own.height * scale);
+        [symbol drawInRect:NSMakeRect(NSMidX(rect) - drawn.width / 2,
+                                      NSMidY(rect) - drawn.height / 2, drawn.width, drawn.height)];
+        return YES;
+      }];
+  [sized setTemplate:symbol.isTemplate];
+  sized.accessibilityDescription = symbol.accessibilityDescription;
+  implementation_->image = sized;
 }
 
 }  // namespace orvane::appkit

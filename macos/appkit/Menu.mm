@@ -30,6 +30,8 @@
 
 namespace {
 
+__weak NSMenu* trackedMenu = nil;
+
 /// Under the pointer a row looks as it wants to.
 bool isUnderPointer(NSView* view) {
   const NSRect frame = [view.window convertRectToScreen:[view convertRect:view.bounds toView:nil]];
@@ -47,6 +49,14 @@ bool isUnderPointer(NSView* view) {
   }
 }
 
+- (void)menuWillOpen:(NSMenu*)menu {
+  trackedMenu = menu;
+}
+
+- (void)menuDidClose:(NSMenu*)menu {
+  trackedMenu = nil;
+}
+
 // A row with a view of its own shows nothing of what the keyboard has come to, unless it is told.
 - (void)menu:(NSMenu*)menu willHighlightItem:(NSMenuItem*)highlighted {
   for (NSMenuItem* item in menu.itemArray) {
@@ -60,6 +70,10 @@ bool isUnderPointer(NSView* view) {
 @end
 
 namespace orvane::appkit {
+
+NSMenu* openMenu() {
+  return trackedMenu;
+}
 
 Menu::Menu()
     : implementation_(std::make_shared<Implementation>(
@@ -84,6 +98,7 @@ void Menu::addItem(MenuItem item) {
                                                          keyEquivalent:@""];
   native.target = native;
   native.enabled = item.isEnabled;
+  native.state = item.isOn ? NSControlStateValueOn : NSControlStateValueOff;
   native.view = item.view ? nativeView(*item.view) : nil;
   // An item chosen by the keyboard always closes the menu; a click in a view leaves it open, so
   // keepsMenuOpen asks for nothing more here.

@@ -7,8 +7,8 @@
 
 #include "Orvane/platform/appkit/Menu.hpp"
 
-/// Hears that the menu is about to be shown. A menu holds its delegate weakly, so the menu's
-/// implementation holds it.
+/// Hears that the menu is about to be shown, and notes that it is open. A menu holds its delegate
+/// weakly, so the menu's implementation holds it.
 @interface OrvaneMenuDelegate : NSObject <NSMenuDelegate> {
  @public
   std::function<void()> _willOpen;
@@ -21,5 +21,8 @@ struct Menu::Implementation {
   NSMenu* _Nonnull menu;
   OrvaneMenuDelegate* _Nonnull delegate;
 };
+
+/// The Menu that is being tracked now; nil when none is.
+[[nodiscard]] NSMenu* _Nullable openMenu();
 
 }  // namespace orvane::appkit

@@ -9,5 +9,7 @@ namespace orvane::appkit {
 
 /// The view keeps alive all that it needs.
 [[nodiscard]] NSView* _Nonnull nativeView(const HostingView& view);
+/// The view in it that takes keys.
+[[nodiscard]] NSView* _Nonnull keyView(const HostingView& view);
 
 }  // namespace orvane::appkit

@@ -129,7 +129,11 @@ void Window::setBecomesKeyOnlyIfNeeded(bool onlyIfNeeded) {
 
 void Window::setContentView(const HostingView& view) {
   stateOf(*this).content = view;
-  implementation_->window.contentView = nativeView(view);
+  NSWindow* const native = implementation_->window;
+  native.contentView = nativeView(view);
+  // Keys go to the content from the beginning.
+  native.initialFirstResponder = keyView(view);
+  [native makeFirstResponder:keyView(view)];
 }
 
 void Window::clearContentView() {

@@ -66,6 +66,10 @@ ui::Rgba systemColor(ui::SystemColor name, const ui::Appearance& appearance) {
   if (name == ui::SystemColor::accent && appearance.accent) {
     return *appearance.accent;
   }
+  // The system strengthens its own by vibrancy, which a drawn text does not have.
+  if (name == ui::SystemColor::secondary && !appearance.increaseContrast) {
+    return ui::standardColor(name, appearance);
+  }
   NSAppearance* drawing = NSAppearance.currentDrawingAppearance;
   if (isDark(drawing) != appearance.dark) {
     drawing = [NSAppearance

@@ -19,10 +19,11 @@ namespace orvane::appkit {
 /// Main thread only.
 class AccessibilityTree {
  public:
-  using Press = std::function<void(std::uint64_t id)>;
+  using Action = std::function<void(std::uint64_t id)>;
 
-  /// `view` shows the tree and is held weakly; `press` runs the action of an element.
-  AccessibilityTree(NSView* _Nonnull view, Press press);
+  /// `view` shows the tree and is held weakly; `press` runs the action of an element, `focus` gives
+  /// it the keyboard.
+  AccessibilityTree(NSView* _Nonnull view, Action press, Action focus);
 
   /// Takes over what has changed, and tells assistive programs of new values, of elements that have
   /// gone and of another focus. The root itself is the view, so only its children have elements.
@@ -41,7 +42,8 @@ class AccessibilityTree {
                                 Elements& present);
 
   __weak NSView* _Nullable view_;
-  Press press_;
+  Action press_;
+  Action focus_;
   Elements elements_;
   NSArray* _Nonnull children_ = @[];
   OrvaneAccessibilityElement* _Nullable focused_ = nil;

@@ -10,7 +10,10 @@
   __weak NSView* _view;
   NSRect _frameInView;
   BOOL _canBePressed;
+  BOOL _canBeFocused;
+  BOOL _isFocused;
   std::function<void()> _press;
+  std::function<void()> _focus;
 }
 
 // The place on the screen is worked out when it is asked for: the window may have moved.
@@ -28,9 +31,23 @@
   return _canBePressed;
 }
 
+- (BOOL)isAccessibilityFocused {
+  return _isFocused;
+}
+
+- (void)setAccessibilityFocused:(BOOL)focused {
+  const std::function<void()> focus = _focus;
+  if (focused && _canBeFocused && focus) {
+    focus();
+  }
+}
+
 - (BOOL)isAccessibilitySelectorAllowed:(SEL)selector {
-  return selector == @selector(accessibilityPerformPress)
-             ? _canBePressed
+  if (selector == @selector(accessibilityPerformPress)) {
+    return _canBePressed;
+  }
+  return selector == @selector(setAccessibilityFocused:)
+             ? _canBeFocused
              : [super isAccessibilitySelectorAllowed:selector];
 }
 
@@ -79,14 +96,21 @@ id valueFrom(const ui::SemanticsNode& node) {
   }
 }
 
+/// A radio button's value being a number, what else it has to say goes with its label.
+std::string labelFrom(const ui::SemanticsNode& node) {
+  const bool addsValue = node.role == ui::Role::radioButton && !node.value.empty();
+  return addsValue ? node.label + ", " + node.value : node.label;
+}
+
 void describe(OrvaneAccessibilityElement* element, const ui::SemanticsNode& node) {
   element.accessibilityRole = roleFrom(node.role);
   element.accessibilitySubrole = node.role == ui::Role::toggle ? NSAccessibilitySwitchSubrole : nil;
-  element.accessibilityLabel = foundationString(node.label);
+  element.accessibilityLabel = foundationString(labelFrom(node));
   element.accessibilityValue = valueFrom(node);
   element.accessibilityEnabled = node.isEnabled;
   element.accessibilitySelected = node.isSelected;
-  element.accessibilityFocused = node.isFocused;
+  element->_isFocused = node.isFocused;
+  element->_canBeFocused = node.isFocusable && node.isEnabled;
   element->_frameInView =
       NSMakeRect(node.frame.x, node.frame.y, node.frame.width, node.frame.height);
   element->_canBePressed = node.isControl() && node.isEnabled;
@@ -94,8 +118,8 @@ void describe(OrvaneAccessibilityElement* element, const ui::SemanticsNode& node
 
 }  // namespace
 
-AccessibilityTree::AccessibilityTree(NSView* view, Press press)
-    : view_(view), press_(std::move(press)) {}
+AccessibilityTree::AccessibilityTree(NSView* view, Action press, Action focus)
+    : view_(view), press_(std::move(press)), focus_(std::move(focus)) {}
 
 NSArray* AccessibilityTree::elementsFor(const std::vector<ui::SemanticsNode>& nodes, id parent,
                                         Elements& present) {
@@ -109,6 +133,7 @@ NSArray* AccessibilityTree::elementsFor(const std::vector<ui::SemanticsNode>& no
     present.emplace(node.id, element);
     element->_view = view_;
     element->_press = [press = press_, id = node.id] { press(id); };
+    element->_focus = [focus = focus_, id = node.id] { focus(id); };
     element.accessibilityParent = parent;
     describe(element, node);
     const id value = element.accessibilityValue;

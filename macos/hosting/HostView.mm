@@ -46,6 +46,8 @@ ui::TextMeasurer& textMeasurer() {
   std::unique_ptr<appkit::FrameSource> _frames;
   std::unique_ptr<appkit::AccessibilityTree> _accessibility;
   BOOL _meaningsHaveChanged;
+  BOOL _isPressed;
+  BOOL _hasDrawn;
   std::optional<ui::Tooltip> _tooltip;
   std::unique_ptr<ui::ViewHost> _host;
 }
@@ -59,7 +61,8 @@ ui::TextMeasurer& textMeasurer() {
   _meaningsHaveChanged = YES;
   _frames = std::make_unique<appkit::FrameSource>(self, [weakSelf] { [weakSelf frameComes]; });
   _accessibility = std::make_unique<appkit::AccessibilityTree>(
-      self, [weakSelf](std::uint64_t identifier) { [weakSelf press:identifier]; });
+      self, [weakSelf](std::uint64_t identifier) { [weakSelf press:identifier]; },
+      [weakSelf](std::uint64_t identifier) { [weakSelf focus:identifier]; });
   ui::HostServices services;
   services.requestRedraw = [weakSelf] { weakSelf.needsLayout = YES; };
   services.requestFrames = [weakSelf] { [weakSelf startFrames]; };
@@ -81,6 +84,10 @@ ui::TextMeasurer& textMeasurer() {
          selector:@selector(displayOptionsDidChange:)
              name:NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification
            object:nil];
+  [NSNotificationCenter.defaultCenter addObserver:self
+                                         selector:@selector(displayOptionsDidChange:)
+                                             name:NSSystemColorsDidChangeNotification
+                                           object:nil];
   return self;
 }
 
@@ -120,7 +127,10 @@ ui::TextMeasurer& textMeasurer() {
 }
 
 - (void)update {
-  _host->tick(CACurrentMediaTime());
+  // The system's colours are resolved while views are built, outside of any drawing, too.
+  [self.effectiveAppearance performAsCurrentDrawingAppearance:^{
+    self->_host->tick(CACurrentMediaTime());
+  }];
   for (const ui::Rect& dirty : _host->takeDirtyRects()) {
     [self setNeedsDisplayInRect:rectFrom(dirty)];
   }
@@ -149,6 +159,19 @@ ui::TextMeasurer& textMeasurer() {
   for (NSInteger index = 0; index < count; ++index) {
     _host->paint(canvas, rectFrom(NSIntersectionRect(areas[index], self.bounds)));
   }
+  if (!_hasDrawn) {
+    _hasDrawn = YES;
+    [self castShadowSoon];
+  }
+}
+
+// The shadow of a window without a background is that of its content, which is there only now.
+- (void)castShadowSoon {
+  __weak NSWindow* const window = self.window;
+  [NSRunLoop.mainRunLoop performInModes:@[ NSRunLoopCommonModes ]
+                                  block:^{
+                                    [window invalidateShadow];
+                                  }];
 }
 
 #pragma mark Surroundings
@@ -183,7 +206,9 @@ ui::TextMeasurer& textMeasurer() {
 
 - (void)takeOverAppearance {
   _host->setAppearance(appkit::appearanceFrom(self.effectiveAppearance));
-  // Another accent colour is another picture of an equal appearance.
+  // Another accent colour is another picture of an equal appearance, and what has been built keeps
+  // the colours that it was built with.
+  _host->invalidate();
   self.needsDisplay = YES;
 }
 
@@ -205,7 +230,8 @@ ui::TextMeasurer& textMeasurer() {
   [self addTrackingArea:[[NSTrackingArea alloc]
                             initWithRect:NSZeroRect
                                  options:NSTrackingMouseEnteredAndExited | NSTrackingMouseMoved |
-                                         NSTrackingActiveAlways | NSTrackingInVisibleRect
+                                         NSTrackingEnabledDuringMouseDrag | NSTrackingActiveAlways |
+                                         NSTrackingInVisibleRect
                                    owner:self
                                 userInfo:nil]];
 }
@@ -236,6 +262,7 @@ ui::TextMeasurer& textMeasurer() {
 }
 
 - (void)mouseDown:(NSEvent*)event {
+  _isPressed = YES;
   [self update];
   if (!_host->pointerDown([self pointOf:event]) && self.window.movableByWindowBackground) {
     [self.window performWindowDragWithEvent:event];
@@ -248,8 +275,15 @@ ui::TextMeasurer& textMeasurer() {
 }
 
 - (void)mouseUp:(NSEvent*)event {
+  const ui::Point point = [self pointOf:event];
+  const BOOL wasPressed = _isPressed;
+  _isPressed = NO;
   [self update];
-  _host->pointerUp([self pointOf:event]);
+  // In a menu the button may have gone down on the status item and come up over a row.
+  if (!wasPressed && self.enclosingMenuItem != nil) {
+    _host->pointerDown(point);
+  }
+  _host->pointerUp(point);
 }
 
 - (void)scrollWheel:(NSEvent*)event {
@@ -291,6 +325,10 @@ ui::TextMeasurer& textMeasurer() {
 }
 
 - (BOOL)handleKey:(NSEvent*)event {
+  // A switch that is held is not flipped again and again.
+  if (appkit::isRepeatedActivation(event)) {
+    return NO;
+  }
   const std::optional<ui::KeyEvent> key = appkit::keyEventFrom(event);
   if (!key) {
     return NO;
@@ -300,7 +338,7 @@ ui::TextMeasurer& textMeasurer() {
 }
 
 - (void)keyDown:(NSEvent*)event {
-  if (![self handleKey:event]) {
+  if (![self handleKey:event] && !appkit::isRepeatedActivation(event)) {
     [super keyDown:event];
   }
 }
@@ -316,10 +354,12 @@ ui::TextMeasurer& textMeasurer() {
   // The menu runs a loop of its own: not from within the handler that asks for it, and not from a
   // task of the main queue, which would stand still meanwhile.
   __weak OrvaneHostView* const weakSelf = self;
+  // A block would keep the reference, and what it refers to is gone by then.
+  const ui::MenuRequest kept = request;
   [NSRunLoop.mainRunLoop performInModes:@[ NSRunLoopCommonModes ]
                                   block:^{
                                     if (OrvaneHostView* const view = weakSelf; view != nil) {
-                                      appkit::runPopUpMenu(request, view);
+                                      appkit::runPopUpMenu(kept, view);
                                     }
                                   }];
 }
@@ -331,7 +371,6 @@ ui::TextMeasurer& textMeasurer() {
     return;
   }
   _meaningsHaveChanged = YES;
-  NSAccessibilityPostNotification(self, NSAccessibilityLayoutChangedNotification);
   if (!NSWorkspace.sharedWorkspace.voiceOverEnabled) {
     return;
   }
@@ -344,14 +383,27 @@ ui::TextMeasurer& textMeasurer() {
 }
 
 - (void)bringMeaningsUpToDate {
-  if (_meaningsHaveChanged) {
-    (void)self.accessibilityTree;
+  NSWindow* const window = self.window;
+  if (!_meaningsHaveChanged || window == nil) {
+    return;
   }
+  // The view is no element itself, so the window tells of what is in it.
+  NSDictionary* const changed = @{NSAccessibilityUIElementsKey : self.accessibilityTree.children()};
+  NSAccessibilityPostNotificationWithUserInfo(window, NSAccessibilityLayoutChangedNotification,
+                                              changed);
 }
 
 - (void)press:(std::uint64_t)identifier {
   [self update];
   _host->perform(identifier, ui::SemanticsAction::press);
+}
+
+// The keyboard follows the cursor of VoiceOver, where the user wants it to.
+- (void)focus:(std::uint64_t)identifier {
+  [self update];
+  if (_host->focus(identifier)) {
+    [self.window makeFirstResponder:self];
+  }
 }
 
 - (appkit::AccessibilityTree&)accessibilityTree {

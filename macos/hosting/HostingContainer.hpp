@@ -14,6 +14,8 @@
 @property BOOL respectsSafeArea;
 /// Whether the blurred picture of what lies behind the window is behind the content.
 @property BOOL showsBackdrop;
+/// How round the corners of that picture are, in points.
+@property CGFloat backdropRadius;
 /// Whether the view stands in the row of a menu that the keyboard has come to; drawn behind the
 /// content, as the rows of the status menu light up under the pointer.
 @property(getter=isHighlighted) BOOL highlighted;

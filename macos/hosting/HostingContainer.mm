@@ -2,9 +2,41 @@
 // around both.
 #include "macos/hosting/HostingContainer.hpp"
 
+#include <cmath>
+
+#include "macos/canvas/QuartzCanvas.hpp"
+
+namespace ui = orvane::ui;
+
+namespace {
+
+/// What the blurred picture is cut to; its middle is stretched. The corners of a layer cut what is
+/// drawn in the window, and not what the window server puts behind it.
+NSImage* backdropMask(CGFloat radius) {
+  // A continuous corner reaches further than its radius.
+  const CGFloat reach = std::ceil(1.6 * radius);
+  const CGFloat side = 2 * reach + 1;
+  NSImage* const mask = [NSImage
+       imageWithSize:NSMakeSize(side, side)
+             flipped:YES
+      drawingHandler:^BOOL(NSRect rect) {
+        CGContextRef const context = NSGraphicsContext.currentContext.CGContext;
+        const ui::Rect area{rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+        orvane::appkit::QuartzCanvas(context, 1)
+            .fill(ui::Shape::roundedRectangle(area, radius), ui::Paint::solid({0, 0, 0, 1}));
+        return YES;
+      }];
+  mask.capInsets = NSEdgeInsetsMake(reach, reach, reach, reach);
+  mask.resizingMode = NSImageResizingModeStretch;
+  return mask;
+}
+
+}  // namespace
+
 @implementation OrvaneHostingContainer {
   OrvaneHostView* _hostView;
   NSVisualEffectView* _backdrop;
+  CGFloat _backdropRadius;
   BOOL _respectsSafeArea;
   BOOL _highlighted;
 }
@@ -51,7 +83,21 @@
     // As clear in a panel that is not key.
     _backdrop.state = NSVisualEffectStateActive;
     [self addSubview:_backdrop positioned:NSWindowBelow relativeTo:_hostView];
+    [self roundBackdrop];
   }
+}
+
+- (CGFloat)backdropRadius {
+  return _backdropRadius;
+}
+
+- (void)setBackdropRadius:(CGFloat)radius {
+  _backdropRadius = radius;
+  [self roundBackdrop];
+}
+
+- (void)roundBackdrop {
+  _backdrop.maskImage = _backdropRadius > 0 ? backdropMask(_backdropRadius) : nil;
 }
 
 - (BOOL)isHighlighted {
@@ -81,10 +127,6 @@
 - (void)viewDidMoveToWindow {
   [super viewDidMoveToWindow];
   [self placeSubviews];
-  if (self.window.contentView == self) {
-    self.window.initialFirstResponder = _hostView;
-    [self.window makeFirstResponder:_hostView];
-  }
 }
 
 - (void)placeSubviews {

@@ -22,6 +22,10 @@ NSView* nativeView(const HostingView& view) {
   return view.implementation()->container;
 }
 
+NSView* keyView(const HostingView& view) {
+  return view.implementation()->container.hostView;
+}
+
 HostingView::HostingView(RootBuilder buildRoot)
     : implementation_(std::make_shared<Implementation>(std::move(buildRoot))) {}
 
@@ -38,7 +42,11 @@ CGRect HostingView::frame() const {
 }
 
 CGSize HostingView::fittingSize() const {
-  const ui::Size size = implementation_->container.hostView.host.intrinsicSize();
+  OrvaneHostView* const view = implementation_->container.hostView;
+  __block ui::Size size;
+  [view.effectiveAppearance performAsCurrentDrawingAppearance:^{
+    size = view.host.intrinsicSize();
+  }];
   return CGSizeMake(size.width, size.height);
 }
 
@@ -56,7 +64,9 @@ void HostingView::setLayerCorners(double radius, CornerCurve curve, bool masksTo
   container.layer.cornerRadius = radius;
   container.layer.cornerCurve =
       curve == CornerCurve::continuous ? kCACornerCurveContinuous : kCACornerCurveCircular;
+  container.clipsToBounds = masksToBounds;
   container.layer.masksToBounds = masksToBounds;
+  container.backdropRadius = radius;
 }
 
 void HostingView::setBackdrop(Backdrop backdrop) {

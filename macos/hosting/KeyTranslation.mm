@@ -50,4 +50,13 @@ std::optional<ui::KeyEvent> keyEventFrom(NSEvent* event) {
                       isCharacter ? utf8String(typed.lowercaseString) : std::string()};
 }
 
+bool isRepeatedActivation(NSEvent* event) {
+  if (event.type != NSEventTypeKeyDown || !event.ARepeat) {
+    return false;
+  }
+  const std::optional<ui::KeyEvent> key = keyEventFrom(event);
+  return !key || key->key == ui::Key::space || key->key == ui::Key::enter ||
+         key->key == ui::Key::escape || key->key == ui::Key::character;
+}
+
 }  // namespace orvane::appkit

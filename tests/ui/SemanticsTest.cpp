@@ -1,4 +1,6 @@
 // The semantics tree, and what can be done through it.
+#include <functional>
+
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/Button.hpp"
@@ -80,6 +82,31 @@ TEST(SemanticsTest, framesAreThoseOnScreen) {
   TestHost test({100, 40});
   test.show(Rectangle().frame(40, 20).accessibilityLabel("box").scale(2).offset(5, 0));
   EXPECT_EQ(test.element("box")->frame, (Rect{15, 0, 80, 40}));
+}
+
+TEST(SemanticsTest, aChangeIsToldAlsoWhenNothingIsRebuilt) {
+  TestHost test({30, 10});
+  const auto changesOf = [&](const std::function<void()>& change) {
+    const int before = test.semanticsChanges;
+    change();
+    return test.semanticsChanges - before;
+  };
+  double position = 0;
+  test.show([&](const Environment&) {
+    return ScrollView(HStack(0, {Button("aaaaaa", [] {}), Button("bbbbbb", [] {})}))
+        .font(Font::system(10))
+        .offset(0, position)
+        .animation(Curve::linear(1), position);
+  });
+  test.at(1);
+  EXPECT_EQ(changesOf([&] { test.host->scroll({5, 5}, 20, 0); }), 1);
+  EXPECT_EQ(changesOf([&] { test.press(Key::tab); }), 1) << "the focus";
+  position = 4;
+  test.host->invalidate();
+  test.at(2);
+  EXPECT_EQ(changesOf([&] { test.at(2.5); }), 0) << "on the way";
+  EXPECT_EQ(changesOf([&] { test.at(3); }), 1) << "come to rest";
+  EXPECT_EQ(changesOf([&] { test.at(4); }), 0);
 }
 
 TEST(SemanticsTest, aViewCanDismissItsHostAndSpeak) {

@@ -30,6 +30,7 @@ class TestHost {
     platform.services.openMenu = [this](const MenuRequest& request) { menus.push_back(request); };
     platform.services.beginDrag = [this](const DragRequest& request) { drags.push_back(request); };
     platform.services.dismiss = [this] { ++dismissals; };
+    platform.services.semanticsChanged = [this] { ++semanticsChanges; };
     host = std::make_unique<ViewHost>(std::move(platform));
     host->setSize(size);
   }
@@ -85,6 +86,7 @@ class TestHost {
   int redrawRequests = 0;
   int frameRequests = 0;
   int dismissals = 0;
+  int semanticsChanges = 0;
   std::vector<MenuRequest> menus;
   std::vector<DragRequest> drags;
 

@@ -17,6 +17,9 @@ struct MenuItem {
   std::string title;
   bool isSeparator = false;
   bool isEnabled = true;
+  /// A switch that is on, or the choice that is in force: told by VoiceOver, and marked where there
+  /// is no view.
+  bool isOn = false;
   /// Drawn instead of the title.
   std::optional<HostingView> view;
   /// Run when the item is chosen by the keyboard or by VoiceOver, and by a click where there is no
