@@ -81,18 +81,15 @@ class Afternoon {
     if (!hardware_.isRunning()) {
       return server.menus.isOpen() ? "a menu has outlived its application" : "";
     }
-    // A second of the default mode brings the icon up to date.
-    while (server.menus.isOpen()) {
-      server.menus.close();
-    }
-    if (server.modal.isRunning()) {
-      return "";
-    }
+    // A second brings the icon up to date, under an open menu and an alert too.
     machine().advance(1);
     const bool isLocked = application_.model().isGuardRunning();
     const std::string icon = server.statusBar.item()->image->name;
     if (icon != (isLocked ? "lock.fill" : "lock.open")) {
       return "the icon is " + icon;
+    }
+    while (server.menus.isOpen()) {
+      server.menus.close();
     }
     return server.menus.openStatusMenu(0) ? menuLie(server) : "";
   }
