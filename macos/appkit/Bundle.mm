@@ -15,9 +15,4 @@ std::optional<std::string> Bundle::url() {
              : std::optional(utf8String(bundle.bundleURL.absoluteString));
 }
 
-bool Bundle::hasImage(std::string_view name) {
-  NSString* const resource = foundationString(name);
-  return resource != nil && [NSBundle.mainBundle imageForResource:resource] != nil;
-}
-
 }  // namespace orvane::appkit

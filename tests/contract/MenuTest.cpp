@@ -1,5 +1,4 @@
-// What the application relies on in menus, status items, images and its bundle.
-#include "Orvane/platform/appkit/Bundle.hpp"
+// What the application relies on in menus, status items and images.
 #include "Orvane/platform/appkit/Image.hpp"
 #include "Orvane/platform/appkit/Menu.hpp"
 #include "Orvane/platform/appkit/StatusItem.hpp"
@@ -56,11 +55,10 @@ TEST_F(MenuContract, AStatusItemTakesAnImageAndAMenuAndCanLoseTheImage) {
   letTimePass(0);
 }
 
-TEST_F(MenuContract, ThereIsNoImageOfAnUnknownSymbolOrAnUnknownName) {
+TEST_F(MenuContract, ThereIsNoImageOfAnUnknownSymbol) {
   EXPECT_FALSE(
       appkit::Image::systemSymbol("no.such.symbol.at.all", "", 16, appkit::SymbolWeight::regular)
           .has_value());
-  EXPECT_FALSE(appkit::Bundle::hasImage("NoSuchImageAtAll"));
 }
 
 }  // namespace

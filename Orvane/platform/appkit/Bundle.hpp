@@ -3,7 +3,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace orvane::appkit {
 
@@ -13,8 +12,6 @@ class Bundle {
 
   /// The file URL of the application bundle; none when there is none.
   static std::optional<std::string> url();
-  /// Whether the bundle's resources hold an image of that name.
-  static bool hasImage(std::string_view name);
 };
 
 }  // namespace orvane::appkit
