@@ -12,8 +12,10 @@ class OrvaneAccessibilityPermission {
   OrvaneAccessibilityPermission() = delete;
 
   /// Calls `onGranted` at once when the permission is there. Otherwise asks the user, and
-  /// `onGranted` is called once when the permission has been granted; a request that comes within a
-  /// second of another one's asking is dropped together with its callback.
+  /// `onGranted` is called at most once: when the permission is seen while the guide stands open
+  /// for this request. It is dropped without a call when the user declines, when the guide is
+  /// closed before, when the guide is shown for a later request, and when this request comes
+  /// within a second of another one's asking. A null `onGranted` is allowed.
   static void check(std::function<void()> onGranted);
 
   /// Opens the Accessibility page of the privacy settings by the first link that the system

@@ -91,6 +91,7 @@ bool OrvanePermissionGuideWindowController::sharedExists() {
 }
 
 void OrvanePermissionGuideWindowController::show(std::function<void()> onGranted) {
+  ++showCount_;
   onGranted_ = std::move(onGranted);
   setState(PermissionGuideState::checking);
   positionGuideWindow();
@@ -143,11 +144,17 @@ void OrvanePermissionGuideWindowController::check() {
 void OrvanePermissionGuideWindowController::handleSuccess() {
   checkTimer_.reset();
   setState(PermissionGuideState::success);
+  // Of this showing only: shown again, by the callback or later, the guide looks anew, and for
+  // another request.
+  const auto closeThisShowing = [this, showing = showCount_] {
+    if (showing == showCount_) {
+      close();
+    }
+  };
   if (const auto granted = onGranted_) {
     granted();
   }
-  appkit::MainQueue::asyncAfter(closeAfterSuccessSeconds,
-                                lifetime_.whileAlive([this] { close(); }));
+  appkit::MainQueue::asyncAfter(closeAfterSuccessSeconds, lifetime_.whileAlive(closeThisShowing));
 }
 
 void OrvanePermissionGuideWindowController::close() {

@@ -1,6 +1,7 @@
 // The floating guide that tells what to switch on, and looks once a second whether it has been.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 
@@ -32,7 +33,8 @@ class OrvanePermissionGuideWindowController {
   static bool sharedExists();
 
   /// Opens the guide, or opens it again, and starts looking for the permission. `onGranted` takes
-  /// the place of an earlier callback and is called when the permission is seen.
+  /// the place of an earlier callback and is called once, when the permission is seen; the guide
+  /// closes itself a second and a half later, unless it has been shown again by then.
   void show(std::function<void()> onGranted);
   /// Closes the guide and stops looking; `onGranted` is dropped.
   void close();
@@ -52,6 +54,8 @@ class OrvanePermissionGuideWindowController {
   appkit::Window panel_;
   std::optional<appkit::Timer> checkTimer_;
   std::optional<CFAbsoluteTime> startTime_;
+  /// How often the guide has been shown; tells a success from the next showing.
+  std::uint64_t showCount_ = 0;
   std::function<void()> onGranted_;
   Lifetime lifetime_;
 };

@@ -141,6 +141,86 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, TheSuccessStaysForASecondAndAH
   EXPECT_EQ(state(), State::checking);
 }
 
+TEST_F(OrvanePermissionGuideWindowControllerTest, AnOldSuccessDoesNotCloseTheGuideShownAgain) {
+  show();
+  grant();
+  machine.advance(1);
+  ASSERT_EQ(state(), State::success);
+  machine.advance(1);
+  show('b');
+  machine.advance(0.5);
+  // A second and a half after the first success.
+  EXPECT_TRUE(isGuideVisible());
+  EXPECT_TRUE(guide().isPolling());
+  machine.advance(0.5);
+  EXPECT_EQ(granted, "ab") << "the second request is answered, too";
+  machine.advance(1.499);
+  EXPECT_TRUE(isGuideVisible());
+  machine.advance(0.001);
+  EXPECT_FALSE(isGuideVisible());
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, EachSuccessStaysForItsOwnSecondAndAHalf) {
+  show();
+  grant();
+  machine.advance(1);
+  machine.advance(0.25);
+  show('b');
+  machine.advance(1);
+  ASSERT_EQ(granted, "ab");
+  machine.advance(0.25);
+  EXPECT_TRUE(isGuideVisible()) << "this is when the first success ends";
+  machine.advance(1.249);
+  EXPECT_TRUE(isGuideVisible());
+  machine.advance(0.001);
+  EXPECT_FALSE(isGuideVisible());
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, AClosedSuccessDoesNotCloseTheNextShowing) {
+  show();
+  grant();
+  machine.advance(1);
+  press("Done", "guide");
+  machine.permission.setTrusted(false);
+  show('b');
+  machine.advance(5);
+  EXPECT_TRUE(isGuideVisible());
+  grant();
+  machine.advance(1);
+  EXPECT_EQ(granted, "ab");
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest,
+       WhenTheCallbackIsCalledTheSuccessIsThereAndLookingHasEnded) {
+  guide().show([this] {
+    granted += 'a';
+    EXPECT_EQ(state(), State::success);
+    EXPECT_FALSE(guide().isPolling());
+    EXPECT_TRUE(isGuideVisible());
+  });
+  grant();
+  machine.advance(1);
+  EXPECT_EQ(granted, "a");
+}
+
+TEST_F(OrvanePermissionGuideWindowControllerTest, ACallbackThatShowsTheGuideAgainIsNotOvertaken) {
+  guide().show([this] {
+    granted += 'a';
+    show('b');
+  });
+  grant();
+  machine.advance(1);
+  EXPECT_EQ(granted, "a");
+  EXPECT_EQ(state(), State::checking);
+  EXPECT_TRUE(guide().isPolling());
+  machine.permission.setTrusted(false);
+  machine.advance(1.5);
+  EXPECT_TRUE(isGuideVisible()) << "the first success does not close it";
+  grant();
+  machine.advance(1);
+  EXPECT_EQ(granted, "ab");
+}
+
 TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsLookingAndForgetsTheCallback) {
   show();
   machine.advance(3);
