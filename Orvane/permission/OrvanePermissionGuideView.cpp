@@ -32,14 +32,11 @@ View draggableIcon() {
   const View icon = View(OrvaneDraggableAppIconView{})
                         .frame(82, 82)
                         .shadow({.color = Color::black().opacity(0.33), .radius = 5});
-  return VStack(0, {arrow, icon}).transition(Transition::opacity());
+  return VStack(0, {arrow, icon});
 }
 
 View checkMark() {
-  return Symbol("checkmark.circle.fill")
-      .font(Font::system(60))
-      .foreground(Color::green())
-      .transition(Transition::scale().combined(Transition::opacity()));
+  return Symbol("checkmark.circle.fill").font(Font::system(60)).foreground(Color::green());
 }
 
 }  // namespace
@@ -55,9 +52,14 @@ View OrvanePermissionGuideView::closeControl() const {
 }
 
 View OrvanePermissionGuideView::iconArea() const {
+  // What comes and what goes fill the same area, so that neither moves while they change places.
+  const auto filling = [](const View& content, const Transition& transition) {
+    return content.frame({.height = 136, .maximumWidth = infinity}).transition(transition);
+  };
   const bool isDone = state == PermissionGuideState::success;
-  return ZStack({when(!isDone, draggableIcon()), when(isDone, checkMark())})
-      .height(136)
+  return ZStack({when(!isDone, filling(draggableIcon(), Transition::opacity())),
+                 when(isDone,
+                      filling(checkMark(), Transition::scale().combined(Transition::opacity())))})
       .padding(Edges::vertical(10));
 }
 

@@ -103,6 +103,28 @@ TEST_F(OrvanePermissionAlertTest, TheCloseButtonIsNotNow) {
   expectDeclined();
 }
 
+TEST_F(OrvanePermissionAlertTest, WhatItEndedWithTheAlertHasNeitherDelegateNorContent) {
+  for (const char* const button : {"Not Now", "Open Privacy Settings"}) {
+    check('a');
+    const auto panel = window("alert");
+    ASSERT_TRUE(panel->willClose);
+    ASSERT_NE(panel->content, nullptr);
+    press(button, "alert");
+    EXPECT_FALSE(panel->willClose) << button;
+    EXPECT_EQ(panel->content, nullptr) << button;
+    machine.advance(1);
+  }
+}
+
+TEST_F(OrvanePermissionAlertTest, ASessionThatSomebodyElseStopsLeavesNeitherDelegateNorContent) {
+  check('a');
+  const auto panel = window("alert");
+  appkit::Application::stopModal(1001);
+  machine.runDue();
+  EXPECT_FALSE(panel->willClose) << "closing the panel now would stop a session that is over";
+  EXPECT_EQ(panel->content, nullptr);
+}
+
 TEST_F(OrvanePermissionAlertTest, EscapeIsNotNow) {
   check('a');
   key(ui::Key::escape);

@@ -1,5 +1,14 @@
 // What the guide says in its three states, and what changes between them.
+#include <cmath>
+#include <cstdio>
+#include <numbers>
+#include <regex>
+#include <string>
+#include <utility>
+
 #include "Orvane/permission/OrvanePermissionGuideView.hpp"
+#include "Orvane/ui/TextMeasurer.hpp"
+#include "Orvane/ui/ViewHost.hpp"
 #include "tests/permission/PermissionFlow.hpp"
 
 namespace orvane {
@@ -27,6 +36,8 @@ class OrvanePermissionGuideViewTest : public PermissionFlow {
     }
     return std::stod(drawn.substr(at + 4));
   }
+  /// Downwards, in the card.
+  double iconAreasMiddle() { return children("guide")[2].frame.bottom() + 22 + 10 + 136.0 / 2; }
   /// What the guide says with this status, in English.
   static std::string saying(const std::string& icon, const std::string& status) {
     return "group\n"
@@ -68,6 +79,16 @@ TEST_F(OrvanePermissionGuideViewTest, ItSpeaksChinese) {
   machine.permission.setTrusted(true);
   machine.advance(1.5);
   EXPECT_EQ(elements("guide"), saidWith("", "权限已开启"));
+}
+
+TEST_F(OrvanePermissionGuideViewTest, AnUnknownStoredLanguageIsTheSystems) {
+  machine.userDefaults.set("appLanguage", std::string("klingon"));
+  machine.locale.preferredLanguages = {"zh-Hans-CN"};
+  guide().show(nullptr);
+  EXPECT_EQ(children("guide").at(1).label, "下一步");
+  machine.locale.preferredLanguages = {"en-GB"};
+  guide().show(nullptr);
+  EXPECT_EQ(elements("guide"), saying(icon, waiting));
 }
 
 TEST_F(OrvanePermissionGuideViewTest, AnotherLanguageShowsWhenTheStateIsSetAgain) {
@@ -135,6 +156,55 @@ TEST_F(OrvanePermissionGuideViewTest, TheCheckMarkComesBySizeAndOpacityAndFrames
   EXPECT_NE(early.find("arrow.down"), std::string::npos) << "the arrow is still fading";
 }
 
+TEST_F(OrvanePermissionGuideViewTest, TheCheckMarkGrowsInItsPlaceAsACriticallyDampedSpringDoes) {
+  openGuide();
+  machine.permission.setTrusted(true);
+  machine.advance(1);
+  const std::regex mark(
+      R"(opacity (\S+)\n\s+save\n\s+transform scale (\S+) (\S+) translate (\S+) (\S+)\n)"
+      R"(\s+symbol checkmark\.circle\.fill \S+ rgba\([^)]*\) \((\S+) (\S+) (\S+) (\S+)\)\n)");
+  double seconds = 0;
+  for (const double step : {0.0625, 0.125, 0.1875}) {
+    machine.advance(step);
+    seconds += step;
+    // A response of half a second is a natural frequency of 2 pi / 0.5; with a damping fraction of
+    // 1 the rest of the way is (1 + frequency * time) * exp(-frequency * time).
+    const double phase = 2 * std::numbers::pi / 0.5 * seconds;
+    const double share = 1 - (1 + phase) * std::exp(-phase);
+    const std::string drawn = drawing("guide");
+    std::smatch match;
+    ASSERT_TRUE(std::regex_search(drawn, match, mark)) << drawn;
+    const auto number = [&](std::size_t index) { return std::stod(match[index]); };
+    // A drawing is written with three decimals.
+    EXPECT_NEAR(number(1), share, 0.001) << "the opacity after " << seconds;
+    EXPECT_NEAR(number(2), share, 0.001) << "the scale after " << seconds;
+    EXPECT_EQ(number(3), number(2));
+    EXPECT_NEAR(number(2) * (number(6) + number(8) / 2) + number(4), 180, 0.2);
+    EXPECT_NEAR(number(3) * (number(7) + number(9) / 2) + number(5), iconAreasMiddle(), 0.2);
+  }
+}
+
+TEST_F(OrvanePermissionGuideViewTest, WhatTheCheckMarkReplacesFadesWhereItStands) {
+  openGuide();
+  const auto placeOfIcon = [this] {
+    const std::string drawn = drawing("guide");
+    const std::size_t start = drawn.find("image AppIcon (");
+    return drawn.substr(start, drawn.find(')', start) - start);
+  };
+  const std::string before = placeOfIcon();
+  machine.permission.setTrusted(true);
+  machine.advance(1.25);
+  double x = 0;
+  double y = 0;
+  double xBefore = 0;
+  double yBefore = 0;
+  ASSERT_EQ(std::sscanf(before.c_str(), "image AppIcon (%lf %lf", &xBefore, &yBefore), 2);
+  ASSERT_EQ(std::sscanf(placeOfIcon().c_str(), "image AppIcon (%lf %lf", &x, &y), 2);
+  // At rest it stands on whole pixels.
+  EXPECT_NEAR(x, xBefore, 0.5);
+  EXPECT_NEAR(y, yBefore, 0.5);
+}
+
 TEST_F(OrvanePermissionGuideViewTest, WithReducedMotionTheCheckMarkIsThereAtOnce) {
   machine.appearance.reducesMotion = true;
   openGuide();
@@ -168,6 +238,63 @@ TEST_F(OrvanePermissionGuideViewTest, ThePartsHaveTheirMeasures) {
   // The column is centred in the card: 16 points above the close control, 20 below the button.
   EXPECT_NEAR(close.y - 16, 500 - done.bottom() - 20, 1e-9);
   EXPECT_GE(close.y, 16);
+}
+
+/// A font in which one text is as wide as it is told, and every other one very narrow.
+class OneTextMeasurer : public ui::TextMeasurer {
+ public:
+  OneTextMeasurer(std::string text, double width) : text_(std::move(text)), width_(width) {}
+
+  ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
+                        int /*lineLimit*/) override {
+    const double width = text == text_ ? width_ : 10;
+    if (width <= maximumWidth) {
+      return {{{text, width}}, font.size, font.size, false};
+    }
+    const std::size_t half = text.size() / 2;
+    return {{{text.substr(0, half), width / 2}, {text.substr(half), width / 2}},
+            font.size,
+            font.size,
+            false};
+  }
+
+ private:
+  std::string text_;
+  double width_;
+};
+
+TEST_F(OrvanePermissionGuideViewTest, InstructionAndStatusKeepTheirDistancesFromTheEdges) {
+  const auto isOneLine = [](const std::string& text, double width, PermissionGuideState shownIn) {
+    OneTextMeasurer measurer(text, width);
+    ui::HostPlatform platform;
+    platform.text = &measurer;
+    ui::ViewHost host(std::move(platform));
+    host.setSize({OrvanePermissionGuideView::width, OrvanePermissionGuideView::height});
+    host.setRoot([shownIn](const ui::Environment& /*environment*/) -> ui::View {
+      return OrvanePermissionGuideView{shownIn, [] {}};
+    });
+    host.layoutIfNeeded();
+    ui::RecordingCanvas canvas;
+    host.paint(canvas, {0, 0, host.size().width, host.size().height});
+    return canvas.text().find("text \"" + text + "\"") != std::string::npos;
+  };
+  const std::string instruction =
+      "In Privacy & Security > Accessibility, turn on Orvane. If Orvane is not listed, click \"+\" "
+      "to add it, or drag the icon below into the list.";
+  struct Row {
+    std::string text;
+    PermissionGuideState shownIn;
+    double distance;
+  };
+  using State = PermissionGuideState;
+  // The kit's default padding, and the status line's own.
+  for (const Row& row :
+       {Row{instruction, State::checking, ui::defaultPadding}, Row{waiting, State::checking, 22},
+        Row{notDetected, State::timeout, 22}, Row{"Permission Enabled", State::success, 22}}) {
+    const double room = 360 - 2 * row.distance;
+    EXPECT_TRUE(isOneLine(row.text, room, row.shownIn)) << row.text;
+    EXPECT_FALSE(isOneLine(row.text, room + 0.25, row.shownIn)) << row.text;
+  }
 }
 
 TEST_F(OrvanePermissionGuideViewTest, NoTextIsCut) {
