@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -176,6 +177,28 @@ class PanelFixture : public testing::Test {
     const std::vector<std::string> lines = drawing(surface);
     return std::ranges::count_if(
         lines, [&](const std::string& line) { return line.find(part) != std::string::npos; });
+  }
+
+  /// How opaque the layers around it leave the first line of the drawing with the part in it; 0
+  /// when there is no such line.
+  [[nodiscard]] double opacityOf(const std::string& part, const std::string& surface = mainPanel) {
+    const std::string mark = " opacity ";
+    std::vector<std::pair<std::size_t, double>> layers;
+    for (const std::string& line : drawing(surface)) {
+      const std::size_t depth = line.find_first_not_of(' ');
+      while (!layers.empty() && layers.back().first >= depth) {
+        layers.pop_back();
+      }
+      const double outside = layers.empty() ? 1 : layers.back().second;
+      if (line.find(part) != std::string::npos) {
+        return outside;
+      }
+      if (line.compare(depth, 7, "layer (") == 0) {
+        const double opacity = std::stod(line.substr(line.find(mark) + mark.size()));
+        layers.emplace_back(depth, outside * opacity);
+      }
+    }
+    return 0;
   }
 
  private:

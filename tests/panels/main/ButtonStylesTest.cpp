@@ -32,7 +32,7 @@ TEST_F(ButtonStylesTest, ThePrimaryOneIsFilledWithItsTint) {
   EXPECT_TRUE(draws("rgba(1 0.231 0.188 1)")) << drawing();
   hold({100, 20});
   EXPECT_TRUE(draws("rgba(1 0.231 0.188 0.82)")) << drawing();
-  EXPECT_TRUE(draws("0.995")) << drawing();
+  EXPECT_TRUE(draws("scale 0.995 0.995")) << drawing();
 }
 
 TEST_F(ButtonStylesTest, TheSecondaryOneIsQuietAndRimmed) {
@@ -41,9 +41,13 @@ TEST_F(ButtonStylesTest, TheSecondaryOneIsQuietAndRimmed) {
   EXPECT_TRUE(draws("rgba(0 0 0 0.065) width 0.8")) << drawing();
   // The primary colour is black at 0.85, and of that 0.82.
   EXPECT_TRUE(draws("text \"Go\" 13/700 rgba(0 0 0 0.697)")) << drawing();
+  appear(true);
+  EXPECT_TRUE(draws("rgba(1 1 1 0.085)")) << drawing();
+  EXPECT_FALSE(draws("scale")) << drawing();
+  appear(false);
   hold({100, 20});
   EXPECT_TRUE(draws("rgba(0 0 0 0.08)")) << drawing();
-  EXPECT_TRUE(draws("0.99")) << drawing();
+  EXPECT_TRUE(draws("scale 0.99 0.99")) << drawing();
   appear(true);
   EXPECT_TRUE(draws("rgba(1 1 1 0.14)")) << drawing();
   EXPECT_TRUE(draws("rgba(1 1 1 0.18) width 0.8")) << drawing();
@@ -55,9 +59,13 @@ TEST_F(ButtonStylesTest, TheIconOfTheTitleBarStandsOnAPlate) {
   EXPECT_TRUE(draws("rgba(1 1 1 0.5) width 0.7")) << drawing();
   EXPECT_TRUE(draws("rgba(0 0 0 0.1)")) << drawing();
   EXPECT_TRUE(draws("rgba(0.16 0.22 0.34 1)")) << drawing();
+  appear(true);
+  EXPECT_TRUE(draws("rgba(1 1 1 0.14)")) << drawing();
+  EXPECT_FALSE(draws("scale")) << drawing();
+  appear(false);
   hold({17, 17});
   EXPECT_TRUE(draws("rgba(1 1 1 0.12)")) << drawing();
-  EXPECT_TRUE(draws("0.96")) << drawing();
+  EXPECT_TRUE(draws("scale 0.96 0.96")) << drawing();
   appear(true);
   EXPECT_TRUE(draws("rgba(1 1 1 0.075)")) << drawing();
   EXPECT_TRUE(draws("rgba(1 1 1 0.22) width 0.7")) << drawing();

@@ -1,6 +1,5 @@
 // How the panels of the main window slide up and fade in: once, along one curve, whatever the model
 // learns at that moment.
-#include <cmath>
 #include <string>
 #include <vector>
 
@@ -24,17 +23,6 @@ class ContentViewEntranceTest : public PanelFixture {
     double opacity = 0;
   };
 
-  /// Of the layer in which both panels are drawn.
-  [[nodiscard]] double panelsOpacity() {
-    for (const std::string& line : drawing(mainPanel)) {
-      const std::string opacity = " opacity ";
-      const std::size_t place = line.find(opacity);
-      if (line.starts_with("  layer (") && line.find(" shadow ") == std::string::npos) {
-        return std::stod(line.substr(place + opacity.size()));
-      }
-    }
-    return drawn("\"Pin Dock to a Display\"") > 0 ? 1 : 0;
-  }
   [[nodiscard]] double titleTop() {
     for (const ui::SemanticsNode& node : withRole(ui::Role::heading, mainPanel)) {
       if (node.label == "Prevent Dock Pop-Up") {
@@ -44,7 +32,8 @@ class ContentViewEntranceTest : public PanelFixture {
     return -1;
   }
   [[nodiscard]] Sight look() {
-    return {{frameOf("Pin Dock").y, frameOf("DELL").y, titleTop()}, panelsOpacity()};
+    return {{frameOf("Pin Dock").y, frameOf("DELL").y, titleTop()},
+            opacityOf("\"Pin Dock to a Display\"")};
   }
 
   /// Opens the main panel and holds what is seen of it against the curve.

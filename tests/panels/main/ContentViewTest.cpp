@@ -78,12 +78,63 @@ TEST_F(ContentViewTest, ThePreventButtonPreventsAndAllows) {
   EXPECT_FALSE(element("Prevents screen edges from bringing up the Dock"));
   EXPECT_EQ(drawn("symbol eye "), 1);
   ASSERT_TRUE(press("Open Dock Settings"));
-  EXPECT_EQ(machine.links.opened().size(), 1U);
+  ASSERT_EQ(machine.links.opened().size(), 1U);
+  EXPECT_EQ(machine.links.opened().front().url,
+            "x-apple.systempreferences:com.apple.Desktop-Settings.extension");
   ASSERT_TRUE(press("Allow Dock Pop-Up"));
   machine.advance(1);
   EXPECT_FALSE(model().isGuardRunning());
   EXPECT_EQ(pill(preventTitle), "Off");
   EXPECT_FALSE(hasButton("Open Dock Settings"));
+}
+
+TEST_F(ContentViewTest, APillIsWrittenInTheAccentColourExactlyWhileItsModeIsOn) {
+  const std::string accent = "13/700 rgba(0 0.478 1 1) ";
+  const std::string secondary = "13/700 rgba(0 0 0 0.6) ";
+  openMain();
+  EXPECT_EQ(drawn("text \"Not Pinned\" " + secondary), 1);
+  EXPECT_EQ(drawn("text \"Off\" " + secondary), 1);
+  ASSERT_TRUE(press("Pin Dock"));
+  machine.advance(1);
+  EXPECT_EQ(drawn("text \"Pinned\" " + accent), 1);
+  EXPECT_EQ(drawn("text \"Off\" " + secondary), 1);
+  ASSERT_TRUE(press("Prevent Dock Pop-Up"));
+  machine.advance(1);
+  EXPECT_EQ(drawn("text \"Not Pinned\" " + secondary), 1);
+  EXPECT_EQ(drawn("text \"Enabled\" " + accent), 1);
+}
+
+TEST_F(ContentViewTest, TheIconOfThePopUpPanelIsGrayUntilItPrevents) {
+  const std::string accentTile = "0 rgba(0 0.478 1 0.98), 1 rgba(0 0.478 1 0.78)";
+  const std::string grayTile = "0 rgba(0.557 0.557 0.576 0.98), 1 rgba(0.557 0.557 0.576 0.78)";
+  openMain();
+  EXPECT_EQ(drawn(accentTile), 1) << "the pin panel's icon";
+  EXPECT_EQ(drawn(grayTile), 1);
+  ASSERT_TRUE(press("Pin Dock"));
+  machine.advance(1);
+  EXPECT_EQ(drawn(grayTile), 1) << "pinning does not prevent";
+  ASSERT_TRUE(press("Prevent Dock Pop-Up"));
+  machine.advance(1);
+  EXPECT_EQ(drawn(accentTile), 2);
+  EXPECT_EQ(drawn(grayTile), 0);
+  EXPECT_EQ(drawn("symbol eye.slash 24/700 "), 1);
+}
+
+TEST_F(ContentViewTest, ThePinButtonHasTheAccentColourUntilItPinsAndIsRedThen) {
+  // The lower end of the gradient is the colour itself.
+  const std::string blue = ", 1 rgba(0 0.478 1 1))";
+  const std::string red = ", 1 rgba(1 0.231 0.188 1))";
+  openMain();
+  EXPECT_EQ(drawn(" 610 38 r8 continuous) gradient("), 1);
+  EXPECT_EQ(drawn(blue), 1);
+  ASSERT_TRUE(press("Pin Dock"));
+  machine.advance(1);
+  EXPECT_EQ(drawn(blue), 0);
+  EXPECT_EQ(drawn(red), 1);
+  ASSERT_TRUE(press("Prevent Dock Pop-Up"));
+  machine.advance(1);
+  EXPECT_EQ(drawn(blue), 1) << "the guard runs, and pins nothing";
+  EXPECT_EQ(drawn(red), 0);
 }
 
 TEST_F(ContentViewTest, AStoredPreventModeShowsNothingWhileTheGuardDoesNotRun) {
@@ -105,9 +156,8 @@ TEST_F(ContentViewTest, WithoutDisplaysThePickerIsAnEmptyRow) {
   openMain();
   const std::vector<ui::SemanticsNode> areas = withRole(ui::Role::scrollArea, mainPanel);
   EXPECT_TRUE(cards().empty());
-  for (const ui::SemanticsNode& area : areas) {
-    EXPECT_EQ(area.frame.height, 154);
-  }
+  ASSERT_EQ(areas.size(), 1U);
+  EXPECT_EQ(areas.front().frame.height, 154);
   ASSERT_TRUE(element("Pin Dock"));
 }
 

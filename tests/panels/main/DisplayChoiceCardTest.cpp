@@ -1,6 +1,7 @@
 // The card that shows one display.
 #include "Orvane/panels/main/DisplayChoiceCard.hpp"
 #include "tests/panels/ComponentFixture.hpp"
+#include "tests/panels/Motion.hpp"
 
 namespace orvane {
 namespace {
@@ -17,6 +18,12 @@ class DisplayChoiceCardTest : public ComponentFixture {
     return result;
   }
   void showCard(bool isSelected) { show(card(isSelected), {200, 160}); }
+
+  /// How far the card has grown, from 0 to 1.
+  [[nodiscard]] double growth() const {
+    const auto element = test.element("Studio");
+    return element ? (element->frame.width / 176 - 1) / 0.012 : -1;
+  }
 
   int taps = 0;
 };
@@ -62,6 +69,54 @@ TEST_F(DisplayChoiceCardTest, GrowsALittleWhileHoveredOrSelectedAndNoMoreForBoth
   test.host->pointerExited();
   rest();
   EXPECT_EQ(drawing(), both);
+}
+
+TEST_F(DisplayChoiceCardTest, FollowsThePointerWithinAMoment) {
+  showCard(false);
+  const motion::Moment moment = motion::easeOut(0.4);
+  test.host->pointerMoved({100, 80});
+  advance(0.14 * moment.share);
+  EXPECT_NEAR(growth(), moment.progress, 1e-6);
+  advance(0.14);
+  EXPECT_NEAR(growth(), 1, 1e-9);
+  test.host->pointerExited();
+  advance(0.14 * moment.share);
+  EXPECT_NEAR(growth(), 1 - moment.progress, 1e-6);
+}
+
+TEST_F(DisplayChoiceCardTest, LetsWhatATapChangesTravelAlongASpring) {
+  bool isSelected = false;
+  test.host->setSize({200, 160});
+  test.show([&](const ui::Environment&) {
+    DisplayChoiceCard result = card(isSelected);
+    result.action = [&isSelected] { isSelected = true; };
+    return ui::View(result);
+  });
+  // Pressed without a pointer that would raise the card by itself.
+  test.host->perform(test.element("Studio")->id, ui::SemanticsAction::press);
+  advance(0);
+  EXPECT_NEAR(growth(), 0, 1e-9);
+  constexpr double step = 0.06;
+  for (int moment = 1; moment <= 3; ++moment) {
+    advance(step);
+    EXPECT_NEAR(growth(), motion::spring(0.24, 0.82, moment * step), 1e-6);
+  }
+}
+
+TEST_F(DisplayChoiceCardTest, LetsItsBadgeGrowFromFourFifthsAndFadeIn) {
+  bool isSelected = false;
+  test.host->setSize({200, 160});
+  test.show([&](const ui::Environment&) {
+    DisplayChoiceCard result = card(isSelected);
+    result.action = [&isSelected] { isSelected = true; };
+    return ui::View(result);
+  });
+  test.host->perform(test.element("Studio")->id, ui::SemanticsAction::press);
+  advance(1e-9);
+  EXPECT_TRUE(draws("scale 0.82 0.82")) << drawing();
+  rest();
+  EXPECT_FALSE(draws("scale 0.82 0.82")) << drawing();
+  EXPECT_TRUE(draws("symbol checkmark")) << drawing();
 }
 
 TEST_F(DisplayChoiceCardTest, RunsItsActionForATapAnywhereOnIt) {

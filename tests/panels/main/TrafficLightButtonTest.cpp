@@ -1,6 +1,7 @@
 // The round buttons of the window's own title bar.
 #include "Orvane/panels/main/TrafficLightButton.hpp"
 #include "tests/panels/ComponentFixture.hpp"
+#include "tests/panels/Motion.hpp"
 
 namespace orvane {
 namespace {
@@ -33,6 +34,20 @@ TEST_F(TrafficLightButtonTest, GrowsAndCastsAShadowOfItsColourOnlyWhileItIsHover
   rest();
   EXPECT_FALSE(draws("rgba(1 0.3 0.29 0.26)")) << drawing();
   EXPECT_FALSE(draws("1.1")) << drawing();
+}
+
+TEST_F(TrafficLightButtonTest, FollowsThePointerWithinAMoment) {
+  show(TrafficLightButton::close(true, "Close", [] {}), {40, 40});
+  const auto growth = [this] { return (test.element("Close")->frame.width / 14 - 1) / 0.1; };
+  const motion::Moment moment = motion::easeOut(0.4);
+  test.host->pointerMoved({20, 20});
+  advance(0.14 * moment.share);
+  EXPECT_NEAR(growth(), moment.progress, 1e-6);
+  advance(0.14);
+  EXPECT_NEAR(growth(), 1, 1e-9);
+  test.host->pointerExited();
+  advance(0.14 * moment.share);
+  EXPECT_NEAR(growth(), 1 - moment.progress, 1e-6);
 }
 
 TEST_F(TrafficLightButtonTest, IsAButtonWithALabelThatRunsItsAction) {

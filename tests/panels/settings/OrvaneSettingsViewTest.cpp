@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/panels/settings/OrvaneSettingsView.hpp"
-#include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/platform/appkit/HostingView.hpp"
 #include "Orvane/ui/SyntheticTextMeasurer.hpp"
 #include "Orvane/ui/ViewHost.hpp"
@@ -175,21 +174,6 @@ TEST_F(OrvaneSettingsViewTest, WithoutAnActionForItsEndItIsDismissedByItsSurroun
   EXPECT_EQ(dismissals, 1);
 }
 
-TEST_F(OrvaneSettingsViewTest, TheSectionsSlideUpWhileTheHeaderStaysWhereItIs) {
-  openMain();
-  press("Settings");
-  const ui::Rect header = frameOf("Settings", settingsPanel);
-  const double start = frameOf("Privacy", settingsPanel).y;
-  machine.advance(0.12);
-  const double middle = frameOf("Privacy", settingsPanel).y;
-  machine.advance(0.2);
-  const double end = frameOf("Privacy", settingsPanel).y;
-  EXPECT_NEAR(start - end, 10, 1.2);
-  EXPECT_LT(middle, start);
-  EXPECT_GT(middle, end);
-  EXPECT_EQ(frameOf("Settings", settingsPanel), header);
-}
-
 TEST_F(OrvaneSettingsViewTest, ACardUnderThePointerIsRaised) {
   openSettings();
   const double before = frameOf("Privacy Policy", settingsPanel).width;
@@ -210,20 +194,6 @@ TEST_F(OrvaneSettingsViewTest, ControlsHaveTheirSizes) {
   const auto pickers = withRole(ui::Role::popUpButton, settingsPanel);
   EXPECT_EQ(pickers.at(0).frame.width, 160);
   EXPECT_EQ(pickers.at(1).frame.width, 150);
-}
-
-TEST(SettingsPaletteTest, HoldsItsColours) {
-  const auto components = [](const ui::Color& color) {
-    return color.resolve(ui::Appearance{}, ui::ColorResolver{});
-  };
-  EXPECT_EQ(components(SettingsPalette::blue()), (ui::Rgba{0.03, 0.47, 0.98, 1}));
-  EXPECT_EQ(components(SettingsPalette::sky()), (ui::Rgba{0.12, 0.58, 0.92, 1}));
-  EXPECT_EQ(components(SettingsPalette::indigo()), (ui::Rgba{0.34, 0.39, 0.95, 1}));
-  EXPECT_EQ(components(SettingsPalette::mint()), (ui::Rgba{0.02, 0.62, 0.64, 1}));
-  EXPECT_EQ(components(SettingsPalette::windowTop()), (ui::Rgba{0.97, 0.99, 1.0, 1}));
-  EXPECT_EQ(components(SettingsPalette::windowMid()), (ui::Rgba{0.91, 0.97, 1.0, 1}));
-  EXPECT_EQ(components(SettingsPalette::windowBottom()), (ui::Rgba{0.96, 0.99, 0.98, 1}));
-  EXPECT_EQ(components(SettingsPalette::buttonFill()), (ui::Rgba{0.85, 0.93, 1.0, 1}));
 }
 
 }  // namespace
