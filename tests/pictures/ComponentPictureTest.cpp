@@ -26,12 +26,27 @@ class ComponentPictureTest : public MachineFixture {
     });
     ASSERT_EQ(sheet.items.size(), captions.size()) << "a caption is not there any more";
     sheet.columns = std::min<std::size_t>(sheet.items.size(), 4);
+    expectPainted(sheet, {.isDark = isDark, .scale = 1, .wallpapers = {wallpaper}}, name);
+  }
+
+  /// The whole sheet in one language.
+  void expectDialogues(const std::string& name, bool isDark, OrvaneLanguage language) {
+    expectPainted(gallerySheetNamed(name),
+                  {.isDark = isDark,
+                   .scale = 1,
+                   .wallpapers = {Appearance::Wallpaper::white},
+                   .languages = {language}},
+                  name + (isDark ? "-dark" : "-light"));
+  }
+
+ private:
+  void expectPainted(const GallerySheet& sheet, const SheetStyle& style,
+                     const std::string& fileName) {
     DrawingResources resources;
     addApplicationImages(resources.images);
-    const SurfacePointer picture = paintSheet(
-        sheet, {.isDark = isDark, .scale = 1, .wallpapers = {wallpaper}}, machine, resources);
+    const SurfacePointer picture = paintSheet(sheet, style, machine, resources);
     EXPECT_EQ(differenceFromKept(picture.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
-                                                    "tests/pictures" / (name + ".png")),
+                                                    "tests/pictures" / (fileName + ".png")),
               std::nullopt);
   }
 };
@@ -55,6 +70,22 @@ TEST_F(ComponentPictureTest, trafficLights) {
 TEST_F(ComponentPictureTest, menuRows) {
   expectSheet("status-menu-row", {"switch, off", "switch, on", "hovered", "display, selected"},
               true, Appearance::Wallpaper::black);
+}
+
+TEST_F(ComponentPictureTest, theAlertByDay) {
+  expectDialogues("permission-alert", false, OrvaneLanguage::english);
+}
+
+TEST_F(ComponentPictureTest, theAlertByNight) {
+  expectDialogues("permission-alert", true, OrvaneLanguage::chinese);
+}
+
+TEST_F(ComponentPictureTest, theGuideByDay) {
+  expectDialogues("permission-guide", false, OrvaneLanguage::english);
+}
+
+TEST_F(ComponentPictureTest, theGuideByNight) {
+  expectDialogues("permission-guide", true, OrvaneLanguage::chinese);
 }
 
 }  // namespace
