@@ -18,8 +18,9 @@ struct Display {
   /// In window-system coordinates: points, origin at the lower left of the first display, y
   /// upwards.
   CGRect frame{};
-  int bitsPerSample = 8;
-  std::string colorSpace = "NSCalibratedRGBColorSpace";
+  /// None when the device description leaves it out.
+  std::optional<int> bitsPerSample = 8;
+  std::optional<std::string> colorSpace = "NSCalibratedRGBColorSpace";
   bool isBuiltIn = false;
   /// Whether "NSScreenNumber" is in the device description.
   bool hasNumberInDescription = true;

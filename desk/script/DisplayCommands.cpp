@@ -15,7 +15,7 @@ CGRect rectOf(const std::array<double, 4>& numbers) {
   return CGRectMake(numbers[0], numbers[1], numbers[2], numbers[3]);
 }
 
-std::int64_t bitsPerSample(Arguments& arguments, std::int64_t unless) {
+std::optional<int> bitsPerSample(Arguments& arguments, std::optional<int> unless) {
   const std::optional<std::string> value = arguments.option("bits");
   if (!value) {
     return unless;
@@ -26,7 +26,7 @@ std::int64_t bitsPerSample(Arguments& arguments, std::int64_t unless) {
   if (Complaint complaint = one.finish()) {
     arguments.complain(*complaint);
   }
-  return bits;
+  return static_cast<int>(bits);
 }
 
 Complaint attach(ScriptContext& context, Arguments& arguments) {
@@ -34,8 +34,10 @@ Complaint attach(ScriptContext& context, Arguments& arguments) {
   display.frame = rectOf(arguments.rectangleOption("frame"));
   display.uuid = arguments.option("uuid");
   display.name = arguments.option("name").value_or("");
-  display.bitsPerSample = static_cast<int>(bitsPerSample(arguments, display.bitsPerSample));
-  display.colorSpace = arguments.option("colorspace").value_or(display.colorSpace);
+  display.bitsPerSample = bitsPerSample(arguments, display.bitsPerSample);
+  if (std::optional<std::string> colorSpace = arguments.option("colorspace")) {
+    display.colorSpace = std::move(colorSpace);
+  }
   display.isBuiltIn = arguments.flag("builtin");
   display.hasNumberInDescription = !arguments.flag("nonumber");
   const bool asMain = arguments.flag("main");

@@ -61,6 +61,14 @@ TEST_F(OrvaneScreenTest, TheLegacyIdentifierShowsDepthAndColourSpace) {
             "Optional(77)-2560.5-1440.25-Optional(10)-Optional(\"NSDeviceRGBColorSpace\")");
 }
 
+TEST_F(OrvaneScreenTest, TheLegacyIdentifierSaysNilForADepthAndAColourSpaceThatAreLeftOut) {
+  desk::Display display = desk::laptop();
+  display.bitsPerSample = std::nullopt;
+  display.colorSpace = std::nullopt;
+  attach(machine, display);
+  EXPECT_EQ(orvaneLegacyIdentifier(screen()), "Optional(1)-1920.0-1080.0-nil-nil");
+}
+
 TEST_F(OrvaneScreenTest, WithoutANumberTheLegacyIdentifierBeginsWithNil) {
   desk::Display display = desk::laptop();
   display.hasNumberInDescription = false;

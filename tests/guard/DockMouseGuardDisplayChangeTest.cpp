@@ -63,6 +63,24 @@ TEST_F(DockMouseGuardDisplayChangeTest, UnpluggingTheTargetPausesAndPluggingItIn
   EXPECT_EQ(told(), Messages{startedWithOneZone});
 }
 
+TEST_F(DockMouseGuardDisplayChangeTest, APauseEndsATemporaryUnlock) {
+  for (const std::uint32_t unplugged : {1U, 2U}) {
+    startPinned();
+    unlocks.clear();
+    outcomeOf(outsideEveryZone, kCGEventFlagMaskAlternate);
+    desk::detach(machine, unplugged);
+    machine.runDue();
+    EXPECT_EQ(unlocks, (Unlocks{true, false})) << unplugged;
+    desk::attach(machine, unplugged == 1 ? desk::laptop() : desk::monitorAtTheRight(),
+                 unplugged == 1);
+    outcomeOf(outsideEveryZone, kCGEventFlagMaskAlternate);
+    machine.runDue();
+    EXPECT_EQ(unlocks, (Unlocks{true, false, true})) << "the key is held still";
+    guard->stop();
+    machine.runDue();
+  }
+}
+
 TEST_F(DockMouseGuardDisplayChangeTest, EachChangeWhileTheTargetIsGoneIsReported) {
   startPinned();
   desk::detach(machine, 1);

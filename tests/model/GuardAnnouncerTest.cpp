@@ -123,6 +123,11 @@ TEST_F(GuardAnnouncerTest, ItSpeaksTheLanguageOfTheInterface) {
   EXPECT_EQ(said(), Announcements{"已防止 Dock 弹出"});
   model->toggleHideDockOnAllDisplays();
   EXPECT_EQ(said(), Announcements{"Dock 守卫已关闭"});
+  model->toggleLock();
+  EXPECT_EQ(said(), Announcements{"Dock 已固定到" + model->selectedDisplay()->name});
+  machine.permission.setTrusted(false);
+  model->refreshDisplays();
+  EXPECT_EQ(said(), Announcements{"缺少辅助功能权限，Dock 未受守卫"});
 }
 
 TEST_F(GuardAnnouncerTest, AChangeOfTheLanguageAloneIsNotToldAgain) {

@@ -251,12 +251,61 @@ TEST_F(OrvaneModelTest, WhoHearsOfTheLanguageFindsItStored) {
 
 TEST_F(OrvaneModelTest, EachPublishedPropertyIsAnnounced) {
   launch();
-  EXPECT_GE(announcementsOf([&] { model->refreshDisplays(); }), 2) << "displays and target";
+  EXPECT_EQ(announcementsOf([&] { model->refreshDisplays(); }), 2) << "displays and target";
+  machine.advance(1);
+  EXPECT_EQ(announcementsOf([&] { model->refreshDisplays(); }), 1) << "the time alone";
+  EXPECT_EQ(announcementsOf([&] { model->selectDisplay(desk::uuidNamed('B')); }), 1);
   EXPECT_EQ(announcementsOf([&] { model->setHasAccessibilityPermission(false); }), 1);
   EXPECT_EQ(announcementsOf([&] { model->setHidesDockOnAllDisplays(true); }), 1);
   EXPECT_EQ(announcementsOf([&] { model->setTemporaryUnlockModifier(OrvaneModifier::shift); }), 1);
   machine.loginItem.status = Status::enabled;
   EXPECT_EQ(announcementsOf([&] { model->refreshLaunchAtLoginStatus(); }), 1);
+  machine.loginItem.status = Status::requiresApproval;
+  EXPECT_EQ(announcementsOf([&] { model->refreshLaunchAtLoginStatus(); }), 2) << "both of it";
+  machine.loginItem.error = "no";
+  EXPECT_EQ(announcementsOf([&] { model->setLaunchAtLoginEnabled(true); }), 1) << "its error";
+}
+
+TEST_F(OrvaneModelTest, ALanguageIsAnnouncedWithTheNamesOfTheDisplays) {
+  launch();
+  model->refreshDisplays();
+  EXPECT_EQ(announcementsOf([&] { model->setAppLanguage(OrvaneLanguage::chinese); }), 2);
+}
+
+TEST_F(OrvaneModelTest, AnUnlockIsAnnounced) {
+  launchPinned();
+  EXPECT_EQ(announcementsOf([&] { moveHolding(kCGEventFlagMaskAlternate); }), 1);
+  EXPECT_EQ(announcementsOf([&] { moveHolding(0); }), 1);
+}
+
+TEST_F(OrvaneModelTest, AGuardThatStoppedByItselfIsAnnouncedToWhoeverAsks) {
+  launchPinned();
+  for (int move = 0; move < 180; ++move) {
+    machine.mouse.post({2500, 1079}, 0);
+  }
+  machine.runDue();
+  ASSERT_FALSE(model->isGuardRunning());
+  EXPECT_EQ(announcementsOf([&] { model->noteGuard(); }), 1);
+  EXPECT_EQ(announcementsOf([&] { model->noteGuard(); }), 0);
+}
+
+TEST_F(OrvaneModelTest, AGuardThatPausesForItsTargetIsAnnouncedWithTheDisplays) {
+  launchPinned();
+  bool sawItPaused = false;
+  const Subscription subscription =
+      model->changes().observe([&] { sawItPaused = !model->isGuardRunning(); });
+  desk::detach(machine, 1);
+  machine.runDue();
+  EXPECT_TRUE(sawItPaused);
+}
+
+TEST_F(OrvaneModelTest, APausedGuardUnlocksNothing) {
+  launchPinned();
+  moveHolding(kCGEventFlagMaskAlternate);
+  desk::detach(machine, 2);
+  machine.runDue();
+  ASSERT_FALSE(model->isGuardRunning());
+  EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
 }
 
 TEST_F(OrvaneModelTest, TheGuardsReportsAreNotedWithTheirTime) {
