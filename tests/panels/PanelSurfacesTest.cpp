@@ -1,5 +1,7 @@
 // The surfaces of the assembled panels: the windows' own, the settings' header and its cards.
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -10,8 +12,13 @@ namespace {
 
 class PanelSurfacesTest : public PanelFixture {
  protected:
-  void expectDrawn(const std::string& surface, const std::string& line) {
-    EXPECT_EQ(drawn(line, surface), 1) << line;
+  /// Exactly one call ends like this.
+  void expectDrawn(const std::string& surface, const std::string& call) {
+    const std::vector<std::string> lines = drawing(surface);
+    EXPECT_EQ(
+        std::ranges::count_if(lines, [&](const std::string& line) { return line.ends_with(call); }),
+        1)
+        << call;
   }
 };
 
@@ -38,7 +45,7 @@ TEST_F(PanelSurfacesTest, TheMainWindowIsRoundAndRimmedAndLitFromAbove) {
 
 TEST_F(PanelSurfacesTest, TheIconOfTheApplicationCastsAShadowInTheAccentColour) {
   openMain();
-  expectDrawn(mainPanel, "shadow rgba(0 0.478 1 0.22) radius ");
+  expectDrawn(mainPanel, "shadow rgba(0 0.478 1 0.22) radius 4 offset 0 1");
   expectDrawn(mainPanel, " 22 22 22 r5 continuous)");
 }
 
@@ -71,7 +78,8 @@ TEST_F(PanelSurfacesTest, ADividerClosesTheHeaderOfTheSettings) {
 TEST_F(PanelSurfacesTest, TheTileInTheHeaderOfTheSettingsRunsFromBlueToIndigo) {
   openSettings();
   const std::string tile = "(20 8 30 30 r8 continuous) ";
-  expectDrawn(settingsPanel, "shadow rounded" + tile + "rgba(0.03 0.47 0.98 0.25) radius ");
+  expectDrawn(settingsPanel,
+              "shadow rounded" + tile + "rgba(0.03 0.47 0.98 0.25) radius 5 offset 0 2");
   expectDrawn(settingsPanel, "fill rounded" + tile +
                                  "gradient(20 8 to 50 38, 0 rgba(0.03 0.47 0.98 1), "
                                  "1 rgba(0.34 0.39 0.95 1))");

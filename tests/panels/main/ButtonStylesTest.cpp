@@ -38,7 +38,7 @@ TEST_F(ButtonStylesTest, ThePrimaryOneIsFilledWithItsTint) {
 TEST_F(ButtonStylesTest, TheSecondaryOneIsQuietAndRimmed) {
   showSecondary();
   EXPECT_TRUE(draws("fill rounded(0 0 200 34 r8 continuous) rgba(0 0 0 0.05)")) << drawing();
-  EXPECT_TRUE(draws("rgba(0 0 0 0.065) width 0.8")) << drawing();
+  EXPECT_TRUE(draws("rgba(0 0 0 0.065) width 0.8\n")) << drawing();
   // The primary colour is black at 0.85, and of that 0.82.
   EXPECT_TRUE(draws("text \"Go\" 13/700 rgba(0 0 0 0.697)")) << drawing();
   appear(true);
@@ -50,13 +50,13 @@ TEST_F(ButtonStylesTest, TheSecondaryOneIsQuietAndRimmed) {
   EXPECT_TRUE(draws("scale 0.99 0.99")) << drawing();
   appear(true);
   EXPECT_TRUE(draws("rgba(1 1 1 0.14)")) << drawing();
-  EXPECT_TRUE(draws("rgba(1 1 1 0.18) width 0.8")) << drawing();
+  EXPECT_TRUE(draws("rgba(1 1 1 0.18) width 0.8\n")) << drawing();
 }
 
 TEST_F(ButtonStylesTest, TheIconOfTheTitleBarStandsOnAPlate) {
   showIcon();
   EXPECT_TRUE(draws("rgba(1 1 1 0.32)")) << drawing();
-  EXPECT_TRUE(draws("rgba(1 1 1 0.5) width 0.7")) << drawing();
+  EXPECT_TRUE(draws("rgba(1 1 1 0.5) width 0.7\n")) << drawing();
   EXPECT_TRUE(draws("rgba(0 0 0 0.1)")) << drawing();
   EXPECT_TRUE(draws("rgba(0.16 0.22 0.34 1)")) << drawing();
   appear(true);
@@ -68,7 +68,7 @@ TEST_F(ButtonStylesTest, TheIconOfTheTitleBarStandsOnAPlate) {
   EXPECT_TRUE(draws("scale 0.96 0.96")) << drawing();
   appear(true);
   EXPECT_TRUE(draws("rgba(1 1 1 0.075)")) << drawing();
-  EXPECT_TRUE(draws("rgba(1 1 1 0.22) width 0.7")) << drawing();
+  EXPECT_TRUE(draws("rgba(1 1 1 0.22) width 0.7\n")) << drawing();
   EXPECT_TRUE(draws("rgba(0 0 0 0.22)")) << drawing();
   EXPECT_TRUE(draws("rgba(1 1 1 0.714)")) << drawing();
 }
@@ -76,10 +76,10 @@ TEST_F(ButtonStylesTest, TheIconOfTheTitleBarStandsOnAPlate) {
 TEST_F(ButtonStylesTest, EachHasAClearRimWhereContrastIsAskedFor) {
   showSecondary();
   appear(false, true);
-  EXPECT_TRUE(draws("rgba(0 0 0 0.6) width 0.8")) << drawing();
+  EXPECT_TRUE(draws("rgba(0 0 0 0.6) width 0.8\n")) << drawing();
   showIcon();
   appear(true, true);
-  EXPECT_TRUE(draws("rgba(1 1 1 0.6) width 0.7")) << drawing();
+  EXPECT_TRUE(draws("rgba(1 1 1 0.6) width 0.7\n")) << drawing();
 }
 
 }  // namespace

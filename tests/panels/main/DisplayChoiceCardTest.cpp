@@ -31,7 +31,7 @@ class DisplayChoiceCardTest : public ComponentFixture {
 TEST_F(DisplayChoiceCardTest, IsQuietWhileNotSelected) {
   showCard(false);
   EXPECT_TRUE(draws("fill rounded(12 9 176 142 r12 continuous) rgba(1 1 1 0.075)")) << drawing();
-  EXPECT_TRUE(draws("rgba(0 0 0 0.065) width 0.8")) << drawing();
+  EXPECT_TRUE(draws("rgba(0 0 0 0.065) width 0.8\n")) << drawing();
   EXPECT_TRUE(draws("text \"Studio\" 13/500 rgba(0 0 0 0.85)")) << drawing();
   EXPECT_TRUE(draws("text \"Left Display\" 11/600 rgba(0 0 0 0.6)")) << drawing();
   EXPECT_FALSE(draws("checkmark")) << drawing();
@@ -41,7 +41,7 @@ TEST_F(DisplayChoiceCardTest, CarriesTheAccentColourAndABadgeWhenSelected) {
   showCard(true);
   rest();
   EXPECT_TRUE(draws("rgba(1 1 1 0.2)")) << drawing();
-  EXPECT_TRUE(draws("rgba(0 0.478 1 1) width 1.3")) << drawing();
+  EXPECT_TRUE(draws("rgba(0 0.478 1 1) width 1.3\n")) << drawing();
   EXPECT_TRUE(draws("text \"Studio\" 13/700 rgba(0 0.478 1 1)")) << drawing();
   EXPECT_TRUE(draws("text \"Left Display\" 11/600 rgba(0 0.478 1 1)")) << drawing();
   EXPECT_TRUE(draws("symbol checkmark 12/900 rgba(1 1 1 1)")) << drawing();
@@ -51,7 +51,7 @@ TEST_F(DisplayChoiceCardTest, CarriesTheAccentColourAndABadgeWhenSelected) {
 TEST_F(DisplayChoiceCardTest, IsRecolouredAtOnceInTheDark) {
   showCard(false);
   appear(true);
-  EXPECT_TRUE(draws("rgba(1 1 1 0.18) width 0.8")) << drawing();
+  EXPECT_TRUE(draws("rgba(1 1 1 0.18) width 0.8\n")) << drawing();
   EXPECT_TRUE(draws("text \"Studio\" 13/500 rgba(1 1 1 0.85)")) << drawing();
   hover({100, 80});
   EXPECT_TRUE(draws("rgba(1 1 1 0.14)")) << drawing();
@@ -111,11 +111,23 @@ TEST_F(DisplayChoiceCardTest, LetsItsBadgeGrowFromFourFifthsAndFadeIn) {
     result.action = [&isSelected] { isSelected = true; };
     return ui::View(result);
   });
+  // The badge is drawn last.
+  const auto last = [this](const std::string& mark) {
+    const std::string text = drawing();
+    const std::size_t place = text.rfind(mark);
+    return place == std::string::npos ? -1 : std::stod(text.substr(place + mark.size()));
+  };
   test.host->perform(test.element("Studio")->id, ui::SemanticsAction::press);
-  advance(1e-9);
-  EXPECT_TRUE(draws("scale 0.82 0.82")) << drawing();
+  advance(0);
+  for (const double moment : {0.05, 0.1}) {
+    advance(0.05);
+    const double presence = motion::spring(0.24, 0.82, moment);
+    EXPECT_NEAR(last("transform scale "), 0.82 + 0.18 * presence, 0.001) << drawing();
+    EXPECT_NEAR(last(" opacity "), presence, 0.001) << drawing();
+  }
   rest();
-  EXPECT_FALSE(draws("scale 0.82 0.82")) << drawing();
+  EXPECT_EQ(last("transform scale "), 1.012) << "the card's own";
+  EXPECT_FALSE(draws(" opacity ")) << drawing();
   EXPECT_TRUE(draws("symbol checkmark")) << drawing();
 }
 
@@ -143,7 +155,7 @@ TEST_F(DisplayChoiceCardTest, FallsBackToItsLabelForADisplayWithoutAName) {
 TEST_F(DisplayChoiceCardTest, HasAClearBorderWhereContrastIsAskedFor) {
   showCard(false);
   appear(false, true);
-  EXPECT_TRUE(draws("rgba(0 0 0 0.6) width 0.8")) << drawing();
+  EXPECT_TRUE(draws("rgba(0 0 0 0.6) width 0.8\n")) << drawing();
   EXPECT_FALSE(draws("rgba(0 0 0 0.065)")) << drawing();
 }
 

@@ -20,11 +20,11 @@ TEST_F(DockPanelTest, PadsItsContentAndFillsTheWidth) {
 TEST_F(DockPanelTest, IsGlassWithARimAndAShadow) {
   show(DockPanel{ui::Text("a")}, {300, 100});
   EXPECT_TRUE(draws("rgba(1 1 1 0.28)")) << drawing();
-  EXPECT_TRUE(draws("rgba(1 1 1 0.5) width 0.8")) << drawing();
+  EXPECT_TRUE(draws("rgba(1 1 1 0.5) width 0.8\n")) << drawing();
   EXPECT_TRUE(draws("rgba(0 0 0 0.18)")) << drawing();
   appear(true);
   EXPECT_TRUE(draws("rgba(1 1 1 0.03)")) << drawing();
-  EXPECT_TRUE(draws("rgba(1 1 1 0.22) width 0.8")) << drawing();
+  EXPECT_TRUE(draws("rgba(1 1 1 0.22) width 0.8\n")) << drawing();
   EXPECT_TRUE(draws("rgba(0 0 0 0.396)")) << drawing();
 }
 

@@ -11,11 +11,11 @@ TEST_F(StatusPillTest, IsWrittenInTheAccentColourWhileActive) {
   show(StatusPill{"Pinned", true}, {200, 60});
   EXPECT_TRUE(draws("text \"Pinned\" 13/700 rgba(0 0.478 1 1)")) << drawing();
   EXPECT_TRUE(draws("rgba(0 0.478 1 0.14)")) << drawing();
-  EXPECT_TRUE(draws("rgba(1 1 1 0.5) width 0.7")) << drawing();
+  EXPECT_TRUE(draws("rgba(1 1 1 0.5) width 0.7\n")) << drawing();
   appear(true);
   EXPECT_TRUE(draws("text \"Pinned\" 13/700 rgba(0.039 0.518 1 1)")) << drawing();
   EXPECT_TRUE(draws("rgba(0.039 0.518 1 0.24)")) << drawing();
-  EXPECT_TRUE(draws("rgba(1 1 1 0.22) width 0.7")) << drawing();
+  EXPECT_TRUE(draws("rgba(1 1 1 0.22) width 0.7\n")) << drawing();
 }
 
 TEST_F(StatusPillTest, IsGreyWhileInactive) {

@@ -11,11 +11,11 @@ using TrafficLightButtonTest = ComponentFixture;
 TEST_F(TrafficLightButtonTest, ClosingIsRedAndMinimisingYellow) {
   show(TrafficLightButton::close(true, "Close", [] {}), {14, 14});
   EXPECT_TRUE(draws("fill ellipse(0 0 14 14) rgba(1 0.3 0.29 1)")) << drawing();
-  EXPECT_TRUE(draws("rgba(0.86 0.16 0.16 0.55) width 0.7")) << drawing();
+  EXPECT_TRUE(draws("rgba(0.86 0.16 0.16 0.55) width 0.7\n")) << drawing();
   EXPECT_TRUE(draws("symbol xmark 8.5/800 rgba(0.38 0.04 0.04 1)")) << drawing();
   show(TrafficLightButton::minimise(true, "Minimise", [] {}), {14, 14});
   EXPECT_TRUE(draws("fill ellipse(0 0 14 14) rgba(1 0.7 0.04 1)")) << drawing();
-  EXPECT_TRUE(draws("rgba(0.84 0.54 0.02 0.55) width 0.7")) << drawing();
+  EXPECT_TRUE(draws("rgba(0.84 0.54 0.02 0.55) width 0.7\n")) << drawing();
   EXPECT_TRUE(draws("symbol minus 8.5/800 rgba(0.56 0.34 0 1)")) << drawing();
 }
 

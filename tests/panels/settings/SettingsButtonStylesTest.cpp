@@ -136,9 +136,9 @@ TEST_F(SettingsButtonStylesTest, TheSecondaryOneLooksTheSameUnderThePointer) {
 TEST_F(SettingsButtonStylesTest, TheSecondaryOneHasAClearRimWhereContrastIsAskedFor) {
   showSecondary();
   appear(false, true);
-  EXPECT_TRUE(draws("rgba(0 0 0 0.6) width 0.7")) << drawing();
+  EXPECT_TRUE(draws("rgba(0 0 0 0.6) width 0.7\n")) << drawing();
   appear(true, true);
-  EXPECT_TRUE(draws("rgba(1 1 1 0.6) width 0.7")) << drawing();
+  EXPECT_TRUE(draws("rgba(1 1 1 0.6) width 0.7\n")) << drawing();
 }
 
 }  // namespace
