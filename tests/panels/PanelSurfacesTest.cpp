@@ -49,6 +49,12 @@ TEST_F(PanelSurfacesTest, TheIconOfTheApplicationCastsAShadowInTheAccentColour) 
   expectDrawn(mainPanel, " 22 22 22 r5 continuous)");
 }
 
+TEST_F(PanelSurfacesTest, TheImagesOfTheDisplaysAreOfOneSizeAndCastAFaintShadow) {
+  openMain();
+  EXPECT_EQ(drawn(" 122 70)"), 3);
+  EXPECT_EQ(drawn(" opacity 1 shadow rgba(0 0 0 0.06) radius "), 3);
+}
+
 TEST_F(PanelSurfacesTest, TheSettingsWindowAndItsHeaderHaveTheirGradients) {
   openSettings();
   expectDrawn(settingsPanel,

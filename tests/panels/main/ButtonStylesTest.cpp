@@ -30,6 +30,7 @@ TEST_F(ButtonStylesTest, ThePrimaryOneIsFilledWithItsTint) {
   EXPECT_TRUE(draws("rounded(0 0 200 38 r8")) << drawing();
   EXPECT_TRUE(draws("text \"Go\" 15/600 rgba(1 1 1 1)")) << drawing();
   EXPECT_TRUE(draws("rgba(1 0.231 0.188 1)")) << drawing();
+  EXPECT_FALSE(draws("scale")) << drawing();
   hold({100, 20});
   EXPECT_TRUE(draws("rgba(1 0.231 0.188 0.82)")) << drawing();
   EXPECT_TRUE(draws("scale 0.995 0.995")) << drawing();
