@@ -24,7 +24,7 @@ class Builder {
     std::optional<Curve> curve;
   };
 
-  explicit Builder(Settings settings) : settings_(std::move(settings)), curve_(settings_.curve) {}
+  explicit Builder(Settings settings) : settings_(settings), curve_(settings.curve) {}
 
   // Makes or updates the root of the tree.
   void root(std::unique_ptr<Node>& node, const View& view,

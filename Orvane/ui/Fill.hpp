@@ -41,7 +41,7 @@ class Fill {
   Fill(Gradient gradient) : gradient_(std::move(gradient)) {}  // NOLINT: meant to convert
 
   const Gradient& gradient() const { return gradient_; }
-  Fill opacity(double factor) const { return Fill(gradient_.opacity(factor)); }
+  Fill opacity(double factor) const { return {gradient_.opacity(factor)}; }
 
   // The paint for a rectangle; a fill without stops is clear, one with a single stop is solid.
   Paint resolve(const Rect& rect, const Appearance& appearance,

@@ -19,9 +19,11 @@ namespace orvane {
 /// platform cannot be asked for it; the test then skips. The desk can be asked for everything, a
 /// real Mac for hardly anything: what it is like is its user's business.
 class ContractFixture : public testing::Test {
+ public:
+  ~ContractFixture() override;
+
  protected:
   ContractFixture();
-  ~ContractFixture() override;
 
   /// The main run loop serves what is due, and goes on for so long.
   void letTimePass(double seconds);

@@ -15,7 +15,7 @@ namespace WindowLevel = appkit::WindowLevel;
 class PanelContract : public ContractFixture {
  protected:
   static Window make(WindowKind kind, std::uint64_t styleMask) {
-    return Window(kind, CGRectMake(0, 0, 200, 100), styleMask);
+    return {kind, CGRectMake(0, 0, 200, 100), styleMask};
   }
 };
 

@@ -11,8 +11,7 @@ namespace orvane::desk {
 /// The end comes when the fixture is destroyed: after the locals of the test and the members of
 /// fixtures derived from this one, so that what they own is released by then.
 class MachineFixture : public testing::Test {
- protected:
-  MachineFixture() { machine.process.start(); }
+ public:
   ~MachineFixture() override {
     const MachineEnd end = scope_.end();
     for (const std::string& object : end.leftObjects) {
@@ -27,6 +26,8 @@ class MachineFixture : public testing::Test {
   MachineScope scope_;
 
  protected:
+  MachineFixture() { machine.process.start(); }
+
   Machine& machine = scope_.machine();
 };
 
