@@ -1,5 +1,7 @@
 // The menu under the status item: its rows, what they do, and what of it stays open.
 #include <map>
+#include <string>
+#include <vector>
 
 #include "Orvane/ui/RecordingCanvas.hpp"
 #include "tests/app/AppFixture.hpp"
@@ -73,6 +75,22 @@ TEST_F(AppDelegateMenuTest, HasRowsOf208By30PointsAndAHeaderOf208By26) {
     }
   }
   EXPECT_EQ(views, 9);
+}
+
+TEST_F(AppDelegateMenuTest, ItsItemsSayWhatIsOnAndWhatIsChosen) {
+  const auto itemsThatAreOn = [this] {
+    std::vector<std::string> titles;
+    for (const appkit::MenuItem& item : server().menus.menu()->items) {
+      if (item.isOn) {
+        titles.push_back(item.title);
+      }
+    }
+    return titles;
+  };
+  beginWithOpenMenu();
+  EXPECT_EQ(itemsThatAreOn(), std::vector<std::string>{"Display (Main)"});
+  ASSERT_TRUE(pressRow("Pin Dock"));
+  EXPECT_EQ(itemsThatAreOn(), (std::vector<std::string>{"Pin Dock", "Display (Main)"}));
 }
 
 TEST_F(AppDelegateMenuTest, WithoutATargetPinningIsDisabledAndPreventingWorks) {
