@@ -2,6 +2,7 @@
 // whole chrome is drawn by its content.
 #include "Orvane/windows/PanelWindow.hpp"
 
+#include <memory>
 #include <utility>
 
 namespace orvane {
@@ -30,6 +31,12 @@ PanelWindow::PanelWindow(const PanelWindowAttributes& attributes, const OrvaneMo
   view.setFrame(CGRectMake(0, 0, attributes.size.width, attributes.size.height));
   view.setLayerCorners(attributes.cornerRadius, appkit::CornerCurve::continuous, true);
   view.setBackdrop(appkit::Backdrop::behindWindow);
+  // A content that is given no other way out dismisses what it is shown in.
+  view.onDismiss([weakWindow = std::weak_ptr(implementation())] {
+    if (auto window = weakWindow.lock()) {
+      appkit::Window(std::move(window)).close();
+    }
+  });
   setContentView(view);
   modelChanges_ = model.changes().observe([view]() mutable { view.setNeedsUpdate(); });
 }

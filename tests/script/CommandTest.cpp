@@ -1,7 +1,7 @@
 // What each command does to the machine, seen through a script.
 #include <gtest/gtest.h>
 
-#include "desk/script/Interpreter.hpp"
+#include "tests/script/ScriptBench.hpp"
 #include "tests/script/ScriptRun.hpp"
 
 namespace orvane::desk::script {
@@ -117,21 +117,11 @@ TEST(CommandTest, TheLoginItemTakesEveryStateAndFails) {
 }
 
 TEST(CommandTest, LooksAreRemembered) {
-  Session session;
-  const ThingTable things = standardThings();
-  const CommandTable commands = standardCommands();
-  std::ostringstream output;
-  ScriptContext context{.session = session,
-                        .things = things,
-                        .output = output,
-                        .limits = {},
-                        .pictureWriter = {},
-                        .expectationFailed = {}};
-  Interpreter interpreter(commands, context);
-  const Appearance& appearance = session.machine().appearance;
+  ScriptBench bench;
+  const Appearance& appearance = bench.session.machine().appearance;
   for (const char* const line : {"appearance dark", "accent 1,20,255", "wallpaper busy",
                                  "motion reduced", "transparency reduced", "contrast increased"}) {
-    EXPECT_EQ(interpreter.run(line), std::nullopt);
+    EXPECT_EQ(bench.interpreter.run(line), std::nullopt);
   }
   EXPECT_TRUE(appearance.isDark);
   EXPECT_EQ(appearance.accent, (Appearance::Accent{1, 20, 255}));
@@ -141,7 +131,7 @@ TEST(CommandTest, LooksAreRemembered) {
   EXPECT_TRUE(appearance.increasesContrast);
   for (const char* const line : {"appearance light", "wallpaper default", "motion full",
                                  "transparency full", "contrast normal"}) {
-    EXPECT_EQ(interpreter.run(line), std::nullopt);
+    EXPECT_EQ(bench.interpreter.run(line), std::nullopt);
   }
   EXPECT_FALSE(appearance.isDark);
   EXPECT_EQ(appearance.wallpaper, Appearance::Wallpaper::standard);

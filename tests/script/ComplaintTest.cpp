@@ -8,6 +8,7 @@
 
 #include "desk/script/Complaint.hpp"
 #include "desk/script/Interpreter.hpp"
+#include "tests/script/ScriptBench.hpp"
 #include "tests/script/ScriptRun.hpp"
 
 namespace orvane::desk::script {
@@ -167,23 +168,13 @@ TEST(ComplaintTest, TellsWhatIsWrongWithLooking) {
 }
 
 TEST(ComplaintTest, ChangesNothingWhenTheArgumentsAreWrong) {
-  Session session;
-  const ThingTable things = standardThings();
-  const CommandTable commands = standardCommands();
-  std::ostringstream output;
-  ScriptContext context{.session = session,
-                        .things = things,
-                        .output = output,
-                        .limits = {},
-                        .pictureWriter = {},
-                        .expectationFailed = {}};
-  Interpreter interpreter(commands, context);
+  ScriptBench bench;
   for (const char* const line :
        {"display attach 1 frame=0,0,9,9 color=red", "trust on please", "dock edge left now",
         "defaults set a string b c", "advance 1 2", "launch now", "accent 1,2,300"}) {
-    EXPECT_NE(interpreter.run(line), std::nullopt) << line;
+    EXPECT_NE(bench.interpreter.run(line), std::nullopt) << line;
   }
-  const Machine& machine = session.machine();
+  const Machine& machine = bench.session.machine();
   EXPECT_TRUE(machine.displays.isEmpty());
   EXPECT_FALSE(machine.permission.isTrusted());
   EXPECT_EQ(machine.dock.edge(), DockEdge::bottom);

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/platform/appkit/Accessibility.hpp"
-#include "desk/script/Interpreter.hpp"
+#include "tests/script/ScriptBench.hpp"
 #include "tests/script/ScriptRun.hpp"
 
 namespace orvane::desk::script {
@@ -135,29 +135,19 @@ TEST(ShowTest, FindsTheFirstOfTwoThatAnswer) {
 }
 
 TEST(ShowTest, PrintsWhatWasAnnouncedAndNothingThatCannotBeSpoken) {
-  Session session;
-  session.application().launch();
+  ScriptBench bench;
+  bench.session.application().launch();
   appkit::Accessibility::announce("");
   appkit::Accessibility::announce("first");
   appkit::Accessibility::announce("not \xC3 UTF-8");
   appkit::Accessibility::announce("\xED\xA0\x80");
   appkit::Accessibility::announce("Bureau \xC3\xA9");
-  const ThingTable things = standardThings();
-  const CommandTable commands = standardCommands();
-  std::ostringstream output;
-  ScriptContext context{.session = session,
-                        .things = things,
-                        .output = output,
-                        .limits = {},
-                        .pictureWriter = {},
-                        .expectationFailed = {}};
-  Interpreter interpreter(commands, context);
-  EXPECT_EQ(interpreter.run("show announcements"), std::nullopt);
-  EXPECT_EQ(output.str(), "[\"first\",\"Bureau \xC3\xA9\"]\n");
+  EXPECT_EQ(bench.interpreter.run("show announcements"), std::nullopt);
+  EXPECT_EQ(bench.output.str(), "[\"first\",\"Bureau \xC3\xA9\"]\n");
 }
 
 TEST(ShowTest, TheScenarioOfEverythingShowsEachThing) {
-  std::ifstream file(std::string(ORVANE_SOURCE_FOLDER) + "/tests/scenarios/everything-shown.desk");
+  std::ifstream file(ORVANE_SOURCE_FOLDER "/tests/scenarios/everything-shown.desk");
   std::set<std::string> shown;
   for (std::string line; std::getline(file, line);) {
     std::istringstream words(line);

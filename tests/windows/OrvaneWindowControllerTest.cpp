@@ -168,6 +168,25 @@ TEST_F(OrvaneWindowControllerTest, TheSettingsMoveWithTheMainPanel) {
   expectOrigin(*controller().settingsWindow(), before.x + 7, before.y - 9);
 }
 
+TEST_F(OrvaneWindowControllerTest, AContentThatDismissesWhatItIsShownInClosesIt) {
+  std::function<void()> dismiss;
+  controller().setContents({
+      [](OrvaneModel&) { return content(); },
+      [&dismiss](OrvaneModel&, const std::function<void()>& /*onClose*/) {
+        return [&dismiss](const ui::Environment& environment) -> ui::View {
+          dismiss = [environment] { environment.dismiss(); };
+          return ui::Rectangle();
+        };
+      },
+  });
+  showSettings();
+  ASSERT_TRUE(dismiss);
+  dismiss();
+  machine.runDue();
+  EXPECT_FALSE(controller().settingsWindow());
+  EXPECT_TRUE(controller().window());
+}
+
 TEST_F(OrvaneWindowControllerTest, ClosingTheMainPanelClosesBoth) {
   showSettings();
   controller().closeWindow();
