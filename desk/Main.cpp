@@ -40,7 +40,8 @@ int runScripts(const std::vector<std::string>& files) {
 
 }  // namespace
 
-int main(int argumentCount, char** arguments) {
+// Whatever is thrown ends the program with its message.
+int main(int argumentCount, char** arguments) {  // NOLINT(bugprone-exception-escape)
   CLI::App program(
       "Orvane on a simulated Mac with several displays; without a command, in a window.",
       "orvane-desk");

@@ -3,7 +3,8 @@
 
 namespace orvane::ui {
 
-void HostLink::openMenu(MenuRequest request) const {
+// By value: the menu may end the view that asked, and with it the request that it handed in.
+void HostLink::openMenu(MenuRequest request) const {  // NOLINT(performance-unnecessary-value-param)
   if (services != nullptr && services->openMenu) {
     // The menu may run until something is chosen, and what is chosen may end the host.
     const auto open = services->openMenu;

@@ -25,7 +25,7 @@ std::vector<Character> characters(std::string_view text, double size) {
     while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
       ++end;
     }
-    const unsigned char lead = static_cast<unsigned char>(text[start]);
+    const auto lead = static_cast<unsigned char>(text[start]);
     const bool isWide = lead >= 0xE3U;
     result.push_back({text.substr(start, end - start), isWide ? size : size / 2, isWide});
     start = end;

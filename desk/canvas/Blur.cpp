@@ -164,7 +164,7 @@ std::vector<std::uint8_t> reduced(const Pixels& pixels, int factor, int smallWid
                                   static_cast<std::size_t>(smallHeight) *
                                   static_cast<std::size_t>(pixelBytes));
   std::vector<std::uint32_t> sums(static_cast<std::size_t>(smallWidth * pixelBytes));
-  const std::uint32_t count = static_cast<std::uint32_t>(factor * factor);
+  const auto count = static_cast<std::uint32_t>(factor * factor);
   for (int smallY = 0; smallY < smallHeight; ++smallY) {
     std::ranges::fill(sums, 0U);
     for (int y = (smallY - 1) * factor; y < smallY * factor; ++y) {

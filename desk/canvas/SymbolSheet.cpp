@@ -74,9 +74,10 @@ bool drawSheet(const Sheet& sheet, const std::filesystem::path& folder) {
   canvas.fill(ui::Shape::rectangle({0, 0, width, height}), ui::Paint::solid({gray, gray, gray, 1}));
   int index = 0;
   for (const desk::SymbolArtwork& artwork : artworks) {
-    drawCell(canvas, resources, sheet, std::string(artwork.name),
-             10 + columnWidth * (index % columnCount),
-             10 + rowHeight * static_cast<double>(index / columnCount));
+    const int column = index % columnCount;
+    const int row = index / columnCount;
+    drawCell(canvas, resources, sheet, std::string(artwork.name), 10 + columnWidth * column,
+             10 + rowHeight * row);
     ++index;
   }
   return desk::writePng(surface.get(), folder / (std::string(sheet.name) + ".png"));

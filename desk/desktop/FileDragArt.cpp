@@ -22,7 +22,8 @@ void paintCopyMark(CairoCanvas& canvas, const CGPoint& place) {
   };
   canvas.shadow(ui::Shape::ellipse(disc), {{0, 0, 0, 0.3}, 3, {0, 1}});
   canvas.fill(ui::Shape::ellipse(disc), ui::Paint::solid(green));
-  paintArm(armLength, armWidth);
+  // A plus has an arm each way.
+  paintArm(armLength, armWidth);  // NOLINT(readability-suspicious-call-argument)
   paintArm(armWidth, armLength);
 }
 

@@ -60,12 +60,13 @@ class SystemSettings {
   [[nodiscard]] const AccessibilityList& applications() const { return applications_; }
 
   void goTo(SettingsPage page);
-  void select(const std::string& application);
-  void setAllowed(const std::string& application, bool isAllowed);
+  /// Applications are known by their names.
+  void select(const std::string& name);
+  void setAllowed(const std::string& name, bool isAllowed);
   void removeSelected();
   /// The sheet that adds an application.
   void beginChoosing();
-  void choose(const std::string& application);
+  void choose(const std::string& name);
   void endChoosing(bool addsChosen);
   void setDockEdge(DockEdge edge);
   void setDockAutoHides(bool hides);

@@ -86,6 +86,7 @@ View OrvaneSettingsView::languageCard() const {
 View OrvaneSettingsView::shortcutCard() const {
   const std::string title = localized("Temporary Unlock Shortcut", "临时解锁快捷键");
   std::vector<std::string> names;
+  names.reserve(OrvaneModifier::allCases.size());
   for (const OrvaneModifier modifier : OrvaneModifier::allCases) {
     names.emplace_back(modifier.shortcutText());
   }
