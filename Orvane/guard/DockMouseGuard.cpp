@@ -111,6 +111,7 @@ void DockMouseGuard::setupEventTap() {
     return;
   }
   eventTap_ = std::move(port);
+  ++tapCount_;
   runLoopSource_ = std::move(source);
   CFRunLoopAddSource(CFRunLoopGetCurrent(), runLoopSource_.get(), kCFRunLoopCommonModes);
   CGEventTapEnable(eventTap_.get(), true);

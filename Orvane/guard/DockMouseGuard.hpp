@@ -89,6 +89,8 @@ class DockMouseGuard {
 
   CFRef<CFMachPortRef> eventTap_;
   CFRef<CFRunLoopSourceRef> runLoopSource_;
+  /// How many taps there have been; tells one from the next.
+  std::uint64_t tapCount_ = 0;
   std::vector<TriggerZone> cachedTriggerZones_;
   std::optional<appkit::ObserverToken> screenObserver_;
   std::string lockedDisplayIdentifier_;

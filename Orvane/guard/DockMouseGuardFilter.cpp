@@ -75,10 +75,11 @@ void DockMouseGuard::disableEventTapForRapidBlocking() {
     CGEventTapEnable(eventTap_.get(), false);
   }
   // Deliberately nothing brings the guard back but a change of the displays or the next start.
-  appkit::MainQueue::async(lifetime_.whileAlive([this] {
+  appkit::MainQueue::async(lifetime_.whileAlive([this, tap = tapCount_] {
     forgetRecentBlocks();
     // A start that came before this has made a tap of its own, which is not the one to clean up.
-    if (eventTap_ && CGEventTapIsEnabled(eventTap_.get())) {
+    // This one goes even if the system's word that it was disabled has enabled it meanwhile.
+    if (tap != tapCount_) {
       return;
     }
     removeEventTap();

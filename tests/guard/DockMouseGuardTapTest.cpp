@@ -128,5 +128,16 @@ TEST_F(DockMouseGuardTapTest, AStartBeforeTheCleanUpOfAShutOffKeepsItsTap) {
   EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty()) << "the next block is the first again";
 }
 
+TEST_F(DockMouseGuardTapTest, ATapThatTheSystemsWordHasEnabledGoesInTheCleanUpOfAShutOff) {
+  startPreventing();
+  machine.runLoop.holdMainQueue();
+  block(180);
+  guard->eventTapCallback(kCGEventTapDisabledByUserInput, nullptr);
+  ASSERT_TRUE(CGEventTapIsEnabled(guard->eventTap()));
+  machine.runLoop.releaseMainQueue();
+  machine.runDue();
+  expectWaiting();
+}
+
 }  // namespace
 }  // namespace orvane
