@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "desk/machine/Machine.hpp"
+#include "desk/machine/VisibleFrame.hpp"
 
 namespace orvane::appkit {
 
@@ -14,33 +15,9 @@ struct Screen::Implementation {
 
 namespace {
 
-/// The frame without the menu bar above and without the Dock, if the Dock is there to stay.
-CGRect visibleFrameOf(const desk::Machine& machine, const desk::Display& display) {
-  CGRect visible = display.frame;
-  visible.size.height -= desk::Displays::menuBarHeight;
-  const desk::Dock& dock = machine.dock;
-  if (dock.displayNumber() != display.number || dock.autoHides()) {
-    return visible;
-  }
-  switch (dock.edge()) {
-    case desk::DockEdge::bottom:
-      visible.origin.y += desk::Dock::depth;
-      visible.size.height -= desk::Dock::depth;
-      break;
-    case desk::DockEdge::left:
-      visible.origin.x += desk::Dock::depth;
-      visible.size.width -= desk::Dock::depth;
-      break;
-    case desk::DockEdge::right:
-      visible.size.width -= desk::Dock::depth;
-      break;
-  }
-  return visible;
-}
-
 Screen screenOf(const desk::Machine& machine, const desk::Display& display) {
   return Screen(std::make_shared<const Screen::Implementation>(
-      Screen::Implementation{display, visibleFrameOf(machine, display)}));
+      Screen::Implementation{display, desk::visibleFrameOf(display, machine.dock)}));
 }
 
 }  // namespace

@@ -33,6 +33,9 @@ void Dock::readPreferences(const Preferences& preferences, CGPoint pointerPlace)
   if (displayIdentity_ != 0) {
     setVisible(!autoHides_ || (isVisible_ && isInArea(pointerPlace)));
   }
+  if (changed_) {
+    changed_();
+  }
 }
 
 void Dock::displaysChanged(CGPoint pointerPlace) {
@@ -139,7 +142,8 @@ void Dock::countReveal() {
 }
 
 void Dock::setVisible(bool visible) {
-  if (visible != isVisible_) {
+  const bool changes = visible != isVisible_;
+  if (changes) {
     // It turns round where it is: what was shown then is what has been slid already.
     const double alreadySlid = visible ? shownFraction() : 1 - shownFraction();
     isVisible_ = visible;
@@ -147,6 +151,9 @@ void Dock::setVisible(bool visible) {
         clock_.now() - static_cast<std::int64_t>(alreadySlid * double{slideNanoseconds});
   }
   hidesWhenLeft_ = autoHides_ && isVisible_;
+  if (changes && changed_) {
+    changed_();
+  }
 }
 
 std::optional<std::size_t> Dock::displayIndex() const {

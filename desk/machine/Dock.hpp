@@ -4,8 +4,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
+#include <utility>
 
 #include "Orvane/platform/Quartz.hpp"
 #include "desk/machine/Clock.hpp"
@@ -39,6 +41,9 @@ class Dock {
   void readPreferences(const Preferences& preferences, CGPoint pointerPlace);
   [[nodiscard]] DockEdge edge() const { return edge_; }
   [[nodiscard]] bool autoHides() const { return autoHides_; }
+
+  /// Called after it has come up, hidden, come to another display or read its preferences.
+  void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
   /// When its display has gone it moves to the main display; one on the main display follows when
   /// another becomes it. Neither counts as coming up.
@@ -104,6 +109,7 @@ class Dock {
   std::uint64_t mainIdentity_ = 0;
   std::int64_t slideStartedAt_ = -slideNanoseconds;
   std::map<std::uint32_t, std::int64_t> reveals_;
+  std::function<void()> changed_;
 };
 
 }  // namespace orvane::desk

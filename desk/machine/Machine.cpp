@@ -1,10 +1,12 @@
 // How the parts of the machine tell each other what changed.
 #include "desk/machine/Machine.hpp"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
 #include "desk/machine/MachineScope.hpp"
+#include "desk/machine/VisibleFrame.hpp"
 
 namespace orvane::desk {
 
@@ -23,6 +25,7 @@ Machine::Machine() {
   runLoop.setAcceptsTasks(false);
   permission.onLost([this] { eventTaps.killAll(); });
   displays.onChange([this] { displaysChanged(); });
+  dock.onChange([this] { dockChanged(); });
   preferences.onChange([this] { dock.readPreferences(preferences, pointer.place()); });
 }
 
@@ -49,8 +52,43 @@ void Machine::displaysChanged() {
   if (companion != nullptr) {
     companion->displaysChanged();
   }
+  postScreenParameters();
+}
+
+void Machine::dockChanged() {
   if (process.isRunning()) {
+    // Not here, in the middle of a movement: observers hear of it when the event has had its way,
+    // in every mode of the run loop, as they hear of the displays.
+    runLoop.afterCurrent([this] { announceVisibleFrames(); });
+  }
+}
+
+void Machine::announceVisibleFrames() {
+  if (displays.isTogether()) {
+    displays.joinTogether();
+  } else if (haveVisibleFramesChanged()) {
+    postScreenParameters();
+  }
+}
+
+void Machine::postScreenParameters() {
+  if (process.isRunning()) {
+    noteVisibleFrames();
     observers.post(appkit::NotificationName::applicationDidChangeScreenParameters);
+  }
+}
+
+bool Machine::haveVisibleFramesChanged() const {
+  return !std::ranges::equal(displays.all(), knownVisibleFrames_,
+                             [this](const Display& display, const CGRect& known) {
+                               return CGRectEqualToRect(visibleFrameOf(display, dock), known);
+                             });
+}
+
+void Machine::noteVisibleFrames() {
+  knownVisibleFrames_.clear();
+  for (const Display& display : displays.all()) {
+    knownVisibleFrames_.push_back(visibleFrameOf(display, dock));
   }
 }
 

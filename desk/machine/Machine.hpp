@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "desk/machine/Appearance.hpp"
 #include "desk/machine/ApplicationState.hpp"
@@ -44,6 +45,9 @@ class Machine {
   /// Null when there is none.
   static Machine* currentOrNull();
 
+  /// A process has started: it reads its screens itself, and they are no news to it.
+  void processStarted() { noteVisibleFrames(); }
+
   /// Serves all that is due at the present instant.
   void runDue() { runLoop.runDue(); }
   /// Lets time pass.
@@ -75,6 +79,14 @@ class Machine {
 
  private:
   void displaysChanged();
+  void dockChanged();
+  [[nodiscard]] bool haveVisibleFramesChanged() const;
+  void noteVisibleFrames();
+  void announceVisibleFrames();
+  void postScreenParameters();
+
+  /// Of every display in the order of the list, as the process last heard of them.
+  std::vector<CGRect> knownVisibleFrames_;
 };
 
 }  // namespace orvane::desk

@@ -13,6 +13,7 @@ void Process::start() {
   state_ = State::running;
   machine_.application = {};
   machine_.runLoop.setAcceptsTasks(true);
+  machine_.processStarted();
 }
 
 void Process::end() {

@@ -122,13 +122,37 @@ TEST_F(DockMouseGuardDisplayChangeTest, AnInstalledTapIsKeptAndSeesTheNewZones) 
   EXPECT_EQ(messages, Messages{"Blocked Dock trigger 1 times"}) << "no second start is reported";
 }
 
-TEST_F(DockMouseGuardDisplayChangeTest, AChangeOfTheDocksEdgeIsSeenAtTheNextChangeOfTheDisplays) {
+TEST_F(DockMouseGuardDisplayChangeTest, AChangeOfTheDocksEdgeIsSeenAtOnce) {
   startPinned();
   desk::setDockOrientation(machine, "right");
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
+  EXPECT_EQ(told(), Messages{}) << "the tap is kept";
+  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}}));
   desk::attach(machine, desk::monitorAbove());
   EXPECT_EQ(guard->cachedTriggerZones(),
             (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}, {{{1908, -1080}, {12, 1080}}, {-12, 0}}}));
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, AfterAShutOffTheGuardIsBackAsSoonAsTheDockMoves) {
+  startPinned();
+  for (const bool isByEdge : {true, false}) {
+    block(180);
+    machine.runDue();
+    messages.clear();
+    expectWaiting();
+    if (isByEdge) {
+      desk::setDockOrientation(machine, "right");
+      EXPECT_EQ(told(), Messages{startedWithOneZone});
+      desk::setDockOrientation(machine, "bottom");
+      EXPECT_EQ(told(), Messages{}) << "the tap is kept";
+    } else {
+      machine.mouse.moveTo({2500, 1050});
+      machine.mouse.moveBy(0, 60);
+      EXPECT_EQ(machine.dock.displayNumber(), 2U);
+      EXPECT_EQ(told(), Messages{startedWithOneZone});
+    }
+    expectGuarding();
+    EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
+  }
 }
 
 TEST_F(DockMouseGuardDisplayChangeTest, LosingAllZonesPausesInSilence) {

@@ -41,6 +41,11 @@ DockPosition World::dockPosition() const {
   return *text == "top" ? DockPosition::top : DockPosition::unknown;
 }
 
+DockPosition World::dockLiesAt() const {
+  const DockPosition named = dockPosition();
+  return named == DockPosition::left || named == DockPosition::right ? named : DockPosition::bottom;
+}
+
 const Screen* World::find(const std::string& identifier) const {
   const auto found = std::ranges::find_if(
       screens, [&](const Screen& screen) { return screen.isNamed(identifier); });

@@ -43,7 +43,10 @@ struct World {
   /// The screens came, went or moved: gives each its global frame.
   void arrange();
 
+  /// The edge that the stored orientation names.
   [[nodiscard]] DockPosition dockPosition() const;
+  /// The edge at which the Dock really lies.
+  [[nodiscard]] DockPosition dockLiesAt() const;
   [[nodiscard]] const Screen* find(const std::string& identifier) const;
   /// What the calendar shows.
   [[nodiscard]] double date() const { return 9131.0 * 86'400 + now; }

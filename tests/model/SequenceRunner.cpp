@@ -142,11 +142,16 @@ void SequenceRunner::moveScreen(std::size_t index, std::size_t variant) {
 void SequenceRunner::setDockEdge(std::size_t choice) {
   const std::array<std::optional<Value>, 8> choices = {std::nullopt, "bottom",   "left", "right",
                                                        "top",        "sideways", 3.0,    "bottom"};
+  const DockPosition before = world_.dockLiesAt();
   world_.orientation = choices.at(choice);
   if (world_.orientation) {
     desk::setDockOrientation(machine(), *world_.orientation);
   } else {
     machine().preferences.remove(desk::dockDomain(), desk::Dock::orientationKey);
+  }
+  // What the Dock leaves of its display has changed, which is a change of the screens.
+  if (world_.dockLiesAt() != before && !world_.screens.empty() && reference_) {
+    reference_->displaysChanged();
   }
 }
 

@@ -1,0 +1,232 @@
+// When the application is told that its screens have changed: after display changes, and when the
+// Dock takes or gives back a part of one.
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "Orvane/platform/appkit/NotificationCenter.hpp"
+#include "Orvane/platform/appkit/Screen.hpp"
+#include "tests/support/MachineFixture.hpp"
+#include "tests/support/TestDisplays.hpp"
+
+namespace orvane::desk {
+namespace {
+
+using appkit::NotificationName;
+
+void setAutoHide(Machine& machine, bool hides) {
+  machine.preferences.set(dockDomain(), Dock::autoHideKey, hides);
+}
+
+std::vector<CGRect> visibleFrames() {
+  std::vector<CGRect> frames;
+  for (const appkit::Screen& screen : appkit::Screen::screens()) {
+    frames.push_back(screen.visibleFrame());
+  }
+  return frames;
+}
+
+class ScreenParametersTest : public MachineFixture {
+ protected:
+  ScreenParametersTest() {
+    attach(machine, laptop());
+    attach(machine, monitorAtTheRight());
+    machine.mouse.moveTo(inTheOpen);
+    observe();
+  }
+
+  void observe() {
+    machine.observers.add(NotificationName::applicationDidChangeScreenParameters,
+                          [this] { ++heard_; });
+  }
+  /// How often the application heard of its screens since the last call, once all is at rest.
+  int heardAtRest() {
+    machine.runDue();
+    return std::exchange(heard_, 0);
+  }
+  [[nodiscard]] int heardSoFar() const { return heard_; }
+
+  static constexpr CGPoint inTheOpen{900, 500};
+  static constexpr CGPoint aboveTheDock{900, 1050};
+  static constexpr CGPoint aboveTheOtherEdge{2800, 1050};
+
+ private:
+  int heard_ = 0;
+};
+
+TEST_F(ScreenParametersTest, ADockAtAnotherEdgeIsNews) {
+  setDockOrientation(machine, "left");
+  EXPECT_EQ(heardAtRest(), 1);
+  setDockOrientation(machine, "right");
+  EXPECT_EQ(heardAtRest(), 1);
+  setDockOrientation(machine, "diagonal");
+  EXPECT_EQ(heardAtRest(), 1);
+}
+
+TEST_F(ScreenParametersTest, AnotherTextForTheSameEdgeIsNone) {
+  for (const PropertyValue& value : {PropertyValue(std::string("bottom")),
+                                     PropertyValue(std::string("top")), PropertyValue(1.0)}) {
+    setDockOrientation(machine, value);
+    EXPECT_EQ(heardAtRest(), 0);
+  }
+}
+
+TEST_F(ScreenParametersTest, SoIsItsHidingWhenTheDockHides) {
+  setAutoHide(machine, true);
+  EXPECT_EQ(heardAtRest(), 1);
+  setAutoHide(machine, true);
+  EXPECT_EQ(heardAtRest(), 0);
+  setAutoHide(machine, false);
+  EXPECT_EQ(heardAtRest(), 1);
+}
+
+TEST_F(ScreenParametersTest, ADockThatStaysUpUnderThePointerIsNoNewsYet) {
+  machine.mouse.moveTo(aboveTheDock);
+  setAutoHide(machine, true);
+  EXPECT_EQ(heardAtRest(), 0);
+  machine.mouse.moveTo(inTheOpen);
+  EXPECT_EQ(heardAtRest(), 1);
+}
+
+TEST_F(ScreenParametersTest, ADockThatComesToAnotherDisplayIsOne) {
+  machine.mouse.moveTo(aboveTheOtherEdge);
+  machine.mouse.moveBy(0, 60);
+  EXPECT_EQ(machine.dock.displayNumber(), 2U);
+  EXPECT_EQ(heardAtRest(), 1);
+  machine.mouse.moveBy(0, 60);
+  EXPECT_EQ(heardAtRest(), 0) << "it is there already";
+}
+
+TEST_F(ScreenParametersTest, ASlideIsOneWhenItBeginsAndNoneAfterwards) {
+  setAutoHide(machine, true);
+  heardAtRest();
+  machine.mouse.moveTo(aboveTheDock);
+  machine.mouse.moveBy(0, 60);
+  EXPECT_EQ(heardAtRest(), 1);
+  machine.advance(1);
+  EXPECT_EQ(heardAtRest(), 0);
+  machine.mouse.moveTo(inTheOpen);
+  EXPECT_EQ(heardAtRest(), 1);
+  machine.advance(1);
+  EXPECT_EQ(heardAtRest(), 0);
+}
+
+TEST_F(ScreenParametersTest, AHiddenDockChangesItsEdgeUnnoticed) {
+  setAutoHide(machine, true);
+  heardAtRest();
+  setDockOrientation(machine, "left");
+  EXPECT_EQ(heardAtRest(), 0);
+}
+
+TEST_F(ScreenParametersTest, NobodyHearsOfItInTheMiddleOfAMovement) {
+  machine.mouse.moveTo(aboveTheOtherEdge);
+  machine.mouse.moveBy(0, 60);
+  EXPECT_EQ(heardSoFar(), 0);
+  EXPECT_EQ(heardAtRest(), 1);
+}
+
+TEST_F(ScreenParametersTest, ModalSessionsAndMenusDoNotKeepItBack) {
+  for (const RunLoop::Mode mode : {RunLoop::Mode::modalPanel, RunLoop::Mode::eventTracking}) {
+    machine.runLoop.enterMode(mode);
+    machine.runLoop.holdMainQueue();
+    setDockOrientation(machine, mode == RunLoop::Mode::modalPanel ? "left" : "right");
+    EXPECT_EQ(heardAtRest(), 1);
+    machine.runLoop.releaseMainQueue();
+    machine.runLoop.leaveMode();
+  }
+}
+
+TEST_F(ScreenParametersTest, WhatIsUndoneAtOnceIsNoNews) {
+  setDockOrientation(machine, "left");
+  setDockOrientation(machine, "bottom");
+  EXPECT_EQ(heardAtRest(), 0);
+}
+
+TEST_F(ScreenParametersTest, ADisplayChangeIsOneWhateverItDoesToTheDock) {
+  ASSERT_EQ(machine.displays.renumber(2, 9), std::nullopt);
+  EXPECT_EQ(heardAtRest(), 1);
+  ASSERT_EQ(machine.displays.setMain(9), std::nullopt);
+  EXPECT_EQ(heardAtRest(), 1) << "the Dock goes along";
+  setDockOrientation(machine, "left");
+  detach(machine, 9);
+  EXPECT_EQ(heardAtRest(), 1) << "the one tells of the other, too";
+}
+
+TEST_F(ScreenParametersTest, ADockThatMovesWhileDisplaysChangeTogetherIsHeardOfAtTheEnd) {
+  ASSERT_EQ(machine.displays.beginTogether(), std::nullopt);
+  setDockOrientation(machine, "left");
+  EXPECT_EQ(heardAtRest(), 0);
+  ASSERT_EQ(machine.displays.endTogether(), std::nullopt);
+  EXPECT_EQ(heardAtRest(), 1);
+}
+
+TEST_F(ScreenParametersTest, WhatChangedBeforeALaunchIsNoNewsToIt) {
+  setDockOrientation(machine, "left");
+  machine.process.end();
+  setAutoHide(machine, true);
+  machine.process.start();
+  observe();
+  machine.mouse.moveTo(inTheOpen);
+  setAutoHide(machine, true);
+  EXPECT_EQ(heardAtRest(), 0);
+  setAutoHide(machine, false);
+  EXPECT_EQ(heardAtRest(), 1);
+}
+
+struct Step {
+  int kind;
+  int choice;
+  int x;
+  int y;
+};
+
+std::ostream& operator<<(std::ostream& out, const Step& step) {
+  return out << "{" << step.kind << " " << step.choice << " " << step.x << " " << step.y << "}";
+}
+
+void take(Machine& machine, const Step& step) {
+  const std::vector<PropertyValue> edges = {std::string("bottom"), std::string("left"),
+                                            std::string("right"), std::string("top"), 3.0};
+  switch (step.kind) {
+    case 0:
+      return setDockOrientation(machine, edges.at(static_cast<std::size_t>(step.choice)));
+    case 1:
+      return setAutoHide(machine, step.choice > 2);
+    default:
+      machine.mouse.moveTo({static_cast<double>(step.x), static_cast<double>(step.y)});
+  }
+}
+
+RC_GTEST_PROP(ScreenParametersProperty, AreHeardOfExactlyWhenAVisibleFrameHasChanged, ()) {
+  MachineScope scope;
+  Machine& machine = scope.machine();
+  machine.process.start();
+  attach(machine, displayOf(1, "", {{0, 0}, {200, 100}}));
+  attach(machine, displayOf(2, "", {{200, 30}, {100, 100}}));
+  attach(machine, displayOf(3, "", {{0, 100}, {100, 120}}));
+  int heard = 0;
+  machine.observers.add(NotificationName::applicationDidChangeScreenParameters,
+                        [&heard] { ++heard; });
+  const auto steps = *rc::gen::container<std::vector<Step>>(
+      rc::gen::construct<Step>(rc::gen::element(0, 1, 2, 2, 2, 2), rc::gen::inRange(0, 5),
+                               rc::gen::inRange(-100, 400), rc::gen::inRange(-200, 200)));
+  for (const Step& step : steps) {
+    const std::vector<CGRect> before = visibleFrames();
+    take(machine, step);
+    machine.runDue();
+    const std::vector<CGRect> after = visibleFrames();
+    bool isSame = true;
+    for (std::size_t index = 0; index < before.size(); ++index) {
+      isSame = isSame && CGRectEqualToRect(before[index], after[index]);
+    }
+    RC_ASSERT(std::exchange(heard, 0) == (isSame ? 0 : 1));
+  }
+}
+
+}  // namespace
+}  // namespace orvane::desk
