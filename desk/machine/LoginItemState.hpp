@@ -17,15 +17,16 @@ struct LoginItemState {
   std::int64_t registrationCount = 0;
   std::int64_t unregistrationCount = 0;
 
-  /// The error's text, or none on success: the status is then `enabled`.
+  /// The error's text, or none on success: the status is then `enabled`, also of a service that was
+  /// not found before. One that its user has to approve stays so.
   std::optional<std::string> registerApplication() {
     ++registrationCount;
-    if (!error) {
+    if (!error && status != appkit::LoginItem::Status::requiresApproval) {
       status = appkit::LoginItem::Status::enabled;
     }
     return error;
   }
-  /// The error's text, or none on success: the status is then `notRegistered`.
+  /// The error's text, or none on success: the status is then `notRegistered`, whatever it was.
   std::optional<std::string> unregisterApplication() {
     ++unregistrationCount;
     if (!error) {

@@ -17,6 +17,22 @@ TEST(LoginItemState, RegistersAndUnregisters) {
   EXPECT_EQ(item.status, Status::notRegistered);
 }
 
+TEST(LoginItemState, WhatItsUserHasToApproveIsNotEnabledByRegisteringItAgain) {
+  LoginItemState item;
+  item.status = Status::requiresApproval;
+  EXPECT_EQ(item.registerApplication(), std::nullopt);
+  EXPECT_EQ(item.status, Status::requiresApproval);
+  EXPECT_EQ(item.unregisterApplication(), std::nullopt);
+  EXPECT_EQ(item.status, Status::notRegistered);
+}
+
+TEST(LoginItemState, AServiceThatWasNotFoundCanBeRegistered) {
+  LoginItemState item;
+  item.status = Status::notFound;
+  EXPECT_EQ(item.registerApplication(), std::nullopt);
+  EXPECT_EQ(item.status, Status::enabled);
+}
+
 TEST(LoginItemState, AnErrorLeavesTheStatusAsItIs) {
   LoginItemState item;
   item.status = Status::requiresApproval;

@@ -358,7 +358,8 @@ TEST_F(OrvaneModelTest, AFailedRegistrationKeepsThePlatformsTextUntilASuccess) {
   machine.loginItem.error.reset();
   model->setLaunchAtLoginEnabled(true);
   EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt);
-  EXPECT_TRUE(model->launchAtLoginEnabled().value());
+  EXPECT_FALSE(model->launchAtLoginEnabled().value()) << "it is the user who approves";
+  EXPECT_TRUE(model->launchAtLoginRequiresApproval().value());
 }
 
 TEST_F(OrvaneModelTest, OpeningTheAccessibilitySettingsLooksAgainAfterASecond) {
