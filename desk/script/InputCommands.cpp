@@ -22,7 +22,10 @@ Complaint hover(ScriptContext& context, Arguments& arguments) {
   if (!found.control) {
     return found.complaint;
   }
-  const CGRect& frame = found.control->frame;
+  const CGRect& frame = found.control->frameInSight;
+  if (frame.size.width <= 0 || frame.size.height <= 0) {
+    return "\"" + search.label + "\" is scrolled out of sight";
+  }
   context.machine().mouse.moveTo({CGRectGetMidX(frame), CGRectGetMidY(frame)});
   return std::nullopt;
 }

@@ -24,20 +24,30 @@ ui::SemanticsNode currentTree(HostedView& view) {
   return view.host().semantics();
 }
 
+CGRect globalRect(const ui::Rect& rect, CGPoint origin) {
+  return CGRectMake(origin.x + rect.x, origin.y + rect.y, rect.width, rect.height);
+}
+
+/// `window` is what the scroll areas above the node let be seen.
 void collect(const ui::SemanticsNode& node, const std::shared_ptr<HostedView>& view, CGPoint origin,
-             std::vector<SurfaceControl>& controls) {
+             const ui::Rect& window, std::vector<SurfaceControl>& controls) {
   if (node.isControl()) {
-    const ui::Rect& frame = node.frame;
-    controls.push_back(
-        {node, CGRectMake(origin.x + frame.x, origin.y + frame.y, frame.width, frame.height),
-         [view, id = node.id] {
-           view->update();
-           return view->host().perform(id, ui::SemanticsAction::press);
-         }});
+    controls.push_back({node, globalRect(node.frame, origin),
+                        globalRect(node.frame.intersection(window), origin), [view, id = node.id] {
+                          view->update();
+                          return view->host().perform(id, ui::SemanticsAction::press);
+                        }});
   }
+  const bool scrolls = node.role == ui::Role::scrollArea;
   for (const ui::SemanticsNode& child : node.children) {
-    collect(child, view, origin, controls);
+    collect(child, view, origin, scrolls ? window.intersection(node.frame) : window, controls);
   }
+}
+
+void collectAll(const std::shared_ptr<HostedView>& view, CGPoint origin,
+                std::vector<SurfaceControl>& controls) {
+  const ui::SemanticsNode root = currentTree(*view);
+  collect(root, view, origin, root.frame, controls);
 }
 
 void move(ui::SemanticsNode& node, ui::Point distance) {
@@ -132,11 +142,11 @@ std::vector<SurfaceControl> Surfaces::menuControls() const {
   for (const MenuRow& row : server_.menus.rows()) {
     const appkit::MenuItem& item = server_.menus.menu()->items[row.itemIndex];
     if (row.view != nullptr) {
-      collect(currentTree(*row.view), row.view, row.frame.origin, all);
+      collectAll(row.view, row.frame.origin, all);
     } else if (!item.isSeparator) {
-      all.push_back({plainNode(row, item), row.frame, [&server = server_, index = row.itemIndex] {
-                       return server.menus.choose(index);
-                     }});
+      all.push_back(
+          {plainNode(row, item), row.frame, row.frame,
+           [&server = server_, index = row.itemIndex] { return server.menus.choose(index); }});
     }
   }
   return all;
@@ -151,7 +161,7 @@ std::vector<SurfaceControl> Surfaces::controls(const std::string& name) const {
   if (shown != nullptr && shown->content != nullptr) {
     const auto view = shown->content;
     const auto origin = server_.originOf(*view);
-    collect(currentTree(*view), view, origin.value_or(CGPoint{}), all);
+    collectAll(view, origin.value_or(CGPoint{}), all);
   }
   return all;
 }

@@ -21,6 +21,8 @@ struct SurfaceControl {
   ui::SemanticsNode node;
   /// In global coordinates.
   CGRect frame{};
+  /// The part of the frame that scrolling has left in sight, empty when there is none.
+  CGRect frameInSight{};
   /// The accessibility press; false when it did nothing.
   std::function<bool()> press;
 };

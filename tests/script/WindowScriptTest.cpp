@@ -128,6 +128,28 @@ TEST(WindowScriptTest, OfControlsLabelledAlikeTheOneOfThatNumberIsPressed) {
             "press: there is no control \"Twin\" in main");
 }
 
+TEST(WindowScriptTest, ThePointerHoversOverWhatIsInSightOfAControlAndNotOverWhatIsScrolledAway) {
+  std::string row;
+  for (const char* const number : {"1", "2", "3", "4", "5", "6"}) {
+    row += std::string("display attach ") + number + " frame=" + number +
+           "0000,0,1920,1080 uuid=U" + number + " name=\"Card " + number + "\"\n";
+  }
+  row += "trust on\nlaunch\nreopen\nadvance 1\n";
+  // The window of 700 points shows three cards and the beginning of the fourth.
+  expectHeld(row + "hover \"Card 4\" in main\nexpect pointer.x 11254.5\n");
+  const std::string away = "\"Card 6\" is scrolled out of sight";
+  EXPECT_EQ(complaintOf(row + "hover \"Card 6\" in main\n"), "hover: " + away);
+  const ScriptRun run = runScript(row + "hover \"Card 6\"\necho not reached\n");
+  EXPECT_EQ(run.status, ScriptProgram::broken);
+  EXPECT_EQ(run.errors, "script.desk:11: hover: " + away + "\n");
+  EXPECT_EQ(run.output, "");
+  expectHeld(row + "hover \"Card 1\" in main\nscroll 600 0\nhover \"Card 6\" in main\n");
+  EXPECT_EQ(complaintOf(row + "hover \"Card 1\" in main\nscroll 600 0\nhover \"Card 1\"\n"),
+            "hover: \"Card 1\" is scrolled out of sight");
+  // An accessibility press needs no sight.
+  expectHeld(row + "press \"Card 6\" in main\nexpect model.selectedDisplayID \"U6\"\n");
+}
+
 TEST(WindowScriptTest, WhatAModalWindowKeepsBackIsSaidAndLeftAsItIs) {
   const std::string asked = twoDisplays +
                             "launch\nreopen\nadvance 1\ndo toggleSelectedDisplayLock\n"
