@@ -15,19 +15,20 @@ constexpr auto scrollWheel = static_cast<CGEventType>(22);
 
 }  // namespace
 
-void Mouse::moveTo(CGPoint goal) {
+PointerMovement Mouse::moveTo(CGPoint goal) {
   if (displays_.isEmpty() || !std::isfinite(goal.x) || !std::isfinite(goal.y)) {
-    return;
+    return {PointerMovement::Outcome::none, pointer_.place(), pointer_.place()};
   }
   ++counters_.hardwareMovements;
-  const CGPoint reached = pointer_.reachable(goal);
+  const CGPoint wanted = pointer_.reachable(goal);
   __CGEvent event{isButtonPressed_ ? leftMouseDragged : kCGEventMouseMoved, modifierKeys_.flags(),
-                  reached};
+                  wanted};
   if (!taps_.deliver(event)) {
     ++counters_.droppedEvents;
-    return;
+    return {PointerMovement::Outcome::dropped, wanted, pointer_.place()};
   }
-  if (event.location.x != reached.x || event.location.y != reached.y) {
+  const bool isMovedBack = event.location.x != wanted.x || event.location.y != wanted.y;
+  if (isMovedBack) {
     ++counters_.relocatedEvents;
   }
   pointer_.settle(event.location);
@@ -37,6 +38,8 @@ void Mouse::moveTo(CGPoint goal) {
   if (listener_ != nullptr) {
     listener_->pointerMovedTo(pointer_.place());
   }
+  return {isMovedBack ? PointerMovement::Outcome::movedBack : PointerMovement::Outcome::passed,
+          wanted, pointer_.place()};
 }
 
 void Mouse::pressButton() {

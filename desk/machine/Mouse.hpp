@@ -12,6 +12,7 @@
 #include "desk/machine/ModifierKeys.hpp"
 #include "desk/machine/Pointer.hpp"
 #include "desk/machine/PointerListener.hpp"
+#include "desk/machine/PointerMovement.hpp"
 
 namespace orvane::desk {
 
@@ -30,12 +31,12 @@ class Mouse {
 
   /// The hand moves the mouse by so many points. Without a display nothing happens, nor for a
   /// movement that is not finite.
-  void moveBy(double dx, double dy) {
+  PointerMovement moveBy(double dx, double dy) {
     const CGPoint place = pointer_.place();
-    moveTo({place.x + dx, place.y + dy});
+    return moveTo({place.x + dx, place.y + dy});
   }
   /// A movement that wants to end at `goal`.
-  void moveTo(CGPoint goal);
+  PointerMovement moveTo(CGPoint goal);
 
   /// The button goes down, or up; what is not a change does nothing. While it is down, movements
   /// are drags and no mouse-moved events, as on a Mac.

@@ -28,14 +28,11 @@ TourStage::TourStage(std::filesystem::path directory, std::ostream& story, std::
 
 void TourStage::push(double dx, double dy) {
   Machine& desk = machine();
-  const CGPoint before = desk.pointer.place();
-  const CGPoint wanted = desk.pointer.reachable({before.x + dx, before.y + dy});
-  const std::int64_t relocatedBefore = desk.counters.relocatedEvents;
-  desk.mouse.moveBy(dx, dy);
+  const PointerMovement movement = desk.mouse.moveBy(dx, dy);
   desk.runDue();
   movedBack_.reset();
-  if (desk.counters.relocatedEvents != relocatedBefore) {
-    movedBack_ = MovedBack{wanted, desk.pointer.place(), 1};
+  if (movement.outcome == PointerMovement::Outcome::movedBack) {
+    movedBack_ = MovedBack{movement.wanted, movement.reached, 1};
   }
 }
 

@@ -32,17 +32,14 @@ DeskSession::DeskSession(std::size_t displayCount)
 
 void DeskSession::movePointerBy(double dx, double dy) {
   Machine& desk = machine();
-  if (desk.displays.isEmpty()) {
+  const PointerMovement movement = desk.mouse.moveBy(dx, dy);
+  if (movement.outcome == PointerMovement::Outcome::none) {
     return;
   }
-  const CGPoint before = desk.pointer.place();
-  const CGPoint wanted = desk.pointer.reachable({before.x + dx, before.y + dy});
-  const std::int64_t relocatedBefore = desk.counters.relocatedEvents;
-  desk.mouse.moveBy(dx, dy);
   desk.runDue();
   rate_.note(desk.clock.now(), 1);
-  if (desk.counters.relocatedEvents != relocatedBefore) {
-    movedBack_ = MovedBack{wanted, desk.pointer.place(), 1};
+  if (movement.outcome == PointerMovement::Outcome::movedBack) {
+    movedBack_ = MovedBack{movement.wanted, movement.reached, 1};
     movedBackAt_ = desk.clock.now();
   }
 }

@@ -63,11 +63,21 @@ TEST_F(MouseTest, AMovementBecomesAnEventAtTheClampedPlaceWithTheHeldKeys) {
 
 TEST_F(MouseTest, WhereTheLastTapLeavesTheEventIsWhereThePointerIs) {
   script.dy = -12;
-  machine.mouse.moveTo({500, 400});
-  EXPECT_EQ(machine.pointer.place().y, 388);
+  const PointerMovement movement = machine.mouse.moveTo({500, 900});
+  EXPECT_EQ(machine.pointer.place().y, 787);
+  EXPECT_EQ(movement.outcome, PointerMovement::Outcome::movedBack);
+  EXPECT_EQ(movement.wanted.y, 799);
+  EXPECT_EQ(movement.reached.y, 787);
   EXPECT_EQ(machine.counters.relocatedEvents, 1);
   ASSERT_EQ(told.size(), 1U);
-  EXPECT_EQ(told[0].y, 388);
+  EXPECT_EQ(told[0].y, 787);
+}
+
+TEST_F(MouseTest, AMovementThatNoTapChangesEndsWhereItWantedTo) {
+  const PointerMovement movement = machine.mouse.moveTo({500, 900});
+  EXPECT_EQ(movement.outcome, PointerMovement::Outcome::passed);
+  EXPECT_EQ(movement.wanted.y, 799);
+  EXPECT_EQ(movement.reached.y, 799);
 }
 
 TEST_F(MouseTest, APlaceOffAllDisplaysIsClampedAgain) {
@@ -88,7 +98,10 @@ TEST_F(MouseTest, APlaceThatIsNoPlaceLeavesThePointerWhereItWas) {
 TEST_F(MouseTest, ASwallowedMovementMovesNothing) {
   machine.mouse.moveTo({1500, 400});
   script.swallows = true;
-  machine.mouse.moveBy(0, 900);
+  const PointerMovement movement = machine.mouse.moveBy(0, 900);
+  EXPECT_EQ(movement.outcome, PointerMovement::Outcome::dropped);
+  EXPECT_EQ(movement.wanted.y, 799);
+  EXPECT_EQ(movement.reached.y, 400);
   EXPECT_EQ(machine.pointer.place().y, 400);
   EXPECT_EQ(machine.dock.displayNumber(), 1U);
   EXPECT_EQ(machine.counters.droppedEvents, 1);
@@ -106,8 +119,8 @@ TEST_F(MouseTest, TheDockSeesThePlaceAfterTheTaps) {
 }
 
 TEST_F(MouseTest, AMovementThatIsNotFiniteIsNone) {
-  machine.mouse.moveBy(std::nan(""), 0);
-  machine.mouse.moveBy(0, INFINITY);
+  EXPECT_EQ(machine.mouse.moveBy(std::nan(""), 0).outcome, PointerMovement::Outcome::none);
+  EXPECT_EQ(machine.mouse.moveBy(0, INFINITY).outcome, PointerMovement::Outcome::none);
   EXPECT_TRUE(script.seen.empty());
   EXPECT_EQ(machine.counters.hardwareMovements, 0);
 }
