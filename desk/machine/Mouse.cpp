@@ -21,25 +21,34 @@ PointerMovement Mouse::moveTo(CGPoint goal) {
   }
   ++counters_.hardwareMovements;
   const CGPoint wanted = pointer_.reachable(goal);
+  if (cursor_ == Cursor::held) {
+    return deliver(goal, wanted, pointer_);
+  }
+  Pointer followed = pointer_;
+  pointer_.settle(wanted);
+  return deliver(goal, wanted, followed);
+}
+
+PointerMovement Mouse::deliver(CGPoint goal, CGPoint wanted, Pointer& followed) {
   __CGEvent event{isButtonPressed_ ? leftMouseDragged : kCGEventMouseMoved, modifierKeys_.flags(),
                   wanted};
   if (!taps_.deliver(event)) {
     ++counters_.droppedEvents;
-    return {PointerMovement::Outcome::dropped, wanted, pointer_.place()};
+    return {PointerMovement::Outcome::dropped, wanted, followed.place()};
   }
   const bool isMovedBack = event.location.x != wanted.x || event.location.y != wanted.y;
   if (isMovedBack) {
     ++counters_.relocatedEvents;
   }
-  pointer_.settle(event.location);
-  if (const auto index = pointer_.displayIndex()) {
-    dock_.pointerMoved(goal, pointer_.place(), *index);
+  followed.settle(event.location);
+  if (const auto index = followed.displayIndex()) {
+    dock_.pointerMoved(goal, followed.place(), *index);
   }
   if (listener_ != nullptr) {
-    listener_->pointerMovedTo(pointer_.place());
+    listener_->pointerMovedTo(followed.place());
   }
   return {isMovedBack ? PointerMovement::Outcome::movedBack : PointerMovement::Outcome::passed,
-          wanted, pointer_.place()};
+          wanted, followed.place()};
 }
 
 void Mouse::pressButton() {

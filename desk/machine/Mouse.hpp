@@ -20,6 +20,13 @@ namespace orvane::desk {
 /// application put on its main queue meanwhile is served when the run loop next runs.
 class Mouse {
  public:
+  /// Whether the location that a tap puts into a movement also holds the cursor; otherwise the
+  /// cursor goes where the hand moves it, and only what follows the taps, the Dock and the windows,
+  /// goes by the changed event. No header of the Mac says which it is.
+  enum class Cursor : std::uint8_t { held, free };
+  void setCursor(Cursor cursor) { cursor_ = cursor; }
+  [[nodiscard]] Cursor cursor() const { return cursor_; }
+
   Mouse(const Displays& displays, Pointer& pointer, EventTaps& taps, Dock& dock,
         const ModifierKeys& modifierKeys, Counters& counters)
       : displays_(displays),
@@ -54,6 +61,8 @@ class Mouse {
   void setListener(PointerListener* listener) { listener_ = listener; }
 
  private:
+  /// Sends the movement through the taps; `followed` is the pointer as what follows them knows it.
+  PointerMovement deliver(CGPoint goal, CGPoint wanted, Pointer& followed);
   /// An event of that type at the pointer's place; false when a tap swallowed it.
   bool sendEvent(CGEventType type);
 
@@ -64,6 +73,7 @@ class Mouse {
   const ModifierKeys& modifierKeys_;
   Counters& counters_;
   PointerListener* listener_ = nullptr;
+  Cursor cursor_ = Cursor::held;
   bool isButtonPressed_ = false;
 };
 

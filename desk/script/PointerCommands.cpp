@@ -70,6 +70,16 @@ Complaint push(ScriptContext& context, Arguments& arguments) {
   return std::nullopt;
 }
 
+Complaint setCursor(ScriptContext& context, Arguments& arguments) {
+  constexpr std::array<std::string_view, 2> choices = {"held", "free"};
+  const bool isFree = arguments.choice("held|free", choices) == 1;
+  if (Complaint complaint = arguments.finish()) {
+    return complaint;
+  }
+  context.machine().mouse.setCursor(isFree ? Mouse::Cursor::free : Mouse::Cursor::held);
+  return std::nullopt;
+}
+
 Complaint hold(ScriptContext& context, Arguments& arguments) {
   if (arguments.isEmpty()) {
     arguments.complain("KEY is missing");
@@ -123,6 +133,7 @@ Complaint burst(ScriptContext& context, Arguments& arguments) {
 void addPointerCommands(CommandTable& table) {
   table.add({"move", "X Y", move});
   table.add({"push", "DX DY [times N] [every S]", push});
+  table.add({"cursor", "held|free", setCursor});
   table.add({"hold", "KEY...", hold});
   table.add({"release", "", releaseKeys});
   table.add({"event", "X Y [KEY...]", event});

@@ -341,13 +341,17 @@ TEST_F(DockMouseGuardFilterTest, ClicksAndDragsAreNotFiltered) {
   EXPECT_EQ(machine.eventTaps.find(1)->eventsOfInterest, 0x20U);
 }
 
-TEST_F(DockMouseGuardFilterTest, ARealPointerNeverReachesTheGuardedEdge) {
+TEST_F(DockMouseGuardFilterTest, NoRealMovementReachesTheGuardedEdgeHoweverTheCursorGoes) {
+  using Cursor = desk::Mouse::Cursor;
   startPinned();
-  machine.mouse.moveTo({2500, 500});
-  for (int count = 0; count < 100; ++count) {
-    machine.mouse.moveBy(0, 40);
-    machine.advance(0.1);
-    EXPECT_LT(machine.pointer.place().y, 1068);
+  for (const Cursor cursor : {Cursor::held, Cursor::free}) {
+    machine.mouse.setCursor(cursor);
+    machine.mouse.moveTo({2500, 500});
+    for (int count = 0; count < 100; ++count) {
+      EXPECT_LT(machine.mouse.moveBy(0, 40).reached.y, 1068);
+      machine.advance(0.1);
+    }
+    EXPECT_EQ(machine.pointer.place().y < 1068, cursor == Cursor::held);
   }
   EXPECT_EQ(machine.dock.revealCount(2), 0);
   EXPECT_EQ(machine.dock.displayNumber(), 1U);

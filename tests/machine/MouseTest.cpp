@@ -80,6 +80,33 @@ TEST_F(MouseTest, AMovementThatNoTapChangesEndsWhereItWantedTo) {
   EXPECT_EQ(movement.reached.y, 799);
 }
 
+TEST_F(MouseTest, AFreeCursorGoesWithTheHandAndOnlyWhatFollowsTheTapsSeesTheChangedEvent) {
+  machine.mouse.setCursor(Mouse::Cursor::free);
+  script.dy = -12;
+  machine.mouse.moveTo({1500, 400});
+  const PointerMovement movement = machine.mouse.moveBy(0, 900);
+  EXPECT_EQ(machine.pointer.place().y, 799);
+  EXPECT_EQ(movement.outcome, PointerMovement::Outcome::movedBack);
+  EXPECT_EQ(movement.wanted.y, 799);
+  EXPECT_EQ(movement.reached.y, 787);
+  ASSERT_EQ(told.size(), 2U);
+  EXPECT_EQ(told[1].y, 787);
+  EXPECT_EQ(machine.dock.displayNumber(), 1U);
+  // It is at the edge still: the hand moves on from there.
+  machine.mouse.moveBy(5, 0);
+  EXPECT_EQ(script.seen.back().location.y, 799);
+}
+
+TEST_F(MouseTest, AFreeCursorKnowsOfNoTapThatSwallowsItsMovements) {
+  machine.mouse.setCursor(Mouse::Cursor::free);
+  machine.mouse.moveTo({1500, 400});
+  script.swallows = true;
+  machine.mouse.moveBy(0, 900);
+  EXPECT_EQ(machine.pointer.place().y, 799);
+  EXPECT_EQ(machine.dock.displayNumber(), 1U);
+  EXPECT_EQ(told.size(), 1U);
+}
+
 TEST_F(MouseTest, APlaceOffAllDisplaysIsClampedAgain) {
   script.dy = 5000;
   machine.mouse.moveTo({500, 400});

@@ -116,6 +116,16 @@ TEST(CommandTest, TheLoginItemTakesEveryStateAndFails) {
       "");
 }
 
+TEST(CommandTest, TheCursorIsHeldUntilItIsFree) {
+  ScriptBench bench;
+  const Mouse& mouse = bench.session.machine().mouse;
+  EXPECT_EQ(mouse.cursor(), Mouse::Cursor::held);
+  EXPECT_EQ(bench.interpreter.run("cursor free"), std::nullopt);
+  EXPECT_EQ(mouse.cursor(), Mouse::Cursor::free);
+  EXPECT_EQ(bench.interpreter.run("cursor held"), std::nullopt);
+  EXPECT_EQ(mouse.cursor(), Mouse::Cursor::held);
+}
+
 TEST(CommandTest, LooksAreRemembered) {
   ScriptBench bench;
   const Appearance& appearance = bench.session.machine().appearance;

@@ -157,6 +157,8 @@ TEST(ComplaintTest, TellsWhatIsWrongWithLooking) {
        {"expect clock..now 1", "expect: \"clock..now\" is not a path"},
        {"expect weather.now 1", "expect: there is no \"weather\" to look at"},
        {"hold", "hold: KEY is missing"},
+       {"cursor", "cursor: held|free is missing"},
+       {"cursor loose", "cursor: held|free must be one of held, free"},
        {"hold fn", "hold: KEY must be one of option, control, shift, command"},
        {"event 1 1 fn", "event: KEY must be one of"},
        {"picture", "picture: FILE is missing"},
@@ -192,8 +194,8 @@ RC_GTEST_PROP(ComplaintTest, IsAllThatNonsenseGets, ()) {
           "launch", "crash", "do", "toggleLock", "toggleHideDockOnAllDisplays", "trust", "on",
           "off", "move", "push", "900", "-5.5", "times", "every", "0.1", "burst", "expect", "show",
           "guard", "guard.zones.#", "model", "dock", "edge", "left", "reset", "advance", "hold",
-          "option", "event", "renumber", "frame", "0,0,5,5", "tap", "disabled", "timeout", "[",
-          "{}", "\"", "#"),
+          "cursor", "free", "held", "option", "event", "renumber", "frame", "0,0,5,5", "tap",
+          "disabled", "timeout", "[", "{}", "\"", "#"),
       rc::gen::arbitrary<std::string>());
   const auto line = rc::gen::map(rc::gen::container<std::vector<std::string>>(word),
                                  [](const std::vector<std::string>& words) {

@@ -53,6 +53,16 @@ TEST_F(DeskSessionTest, MarksAMovementThatWasMovedBackForAShortTime) {
   EXPECT_FALSE(session.movedBack());
 }
 
+TEST_F(DeskSessionTest, MarksWhereTheMovementOfAFreeCursorWasMovedBackTo) {
+  session.machine().mouse.setCursor(Mouse::Cursor::free);
+  pinOrUnpin();
+  moveTo(1500, 600);
+  session.movePointerBy(0, 600);
+  ASSERT_TRUE(session.movedBack());
+  EXPECT_DOUBLE_EQ(session.movedBack()->from.y, session.machine().pointer.place().y);
+  EXPECT_DOUBLE_EQ(session.movedBack()->to.y, session.movedBack()->from.y - 12);
+}
+
 TEST_F(DeskSessionTest, CountsEventsPerSecond) {
   for (int movement = 0; movement < 25; ++movement) {
     session.movePointerBy(1, 0);

@@ -1,0 +1,131 @@
+// What the guard promises to a user, under random movements of a hand on random displays, whether
+// the cursor is held by what the tap does to an event or goes with the hand.
+#include <algorithm>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "Orvane/guard/DockMouseGuard.hpp"
+#include "desk/machine/MachineScope.hpp"
+#include "tests/support/TestDisplays.hpp"
+
+namespace orvane {
+namespace {
+
+using Cursor = desk::Mouse::Cursor;
+
+bool overlap(const CGRect& first, const CGRect& second) {
+  return CGRectGetMinX(first) < CGRectGetMaxX(second) &&
+         CGRectGetMinX(second) < CGRectGetMaxX(first) &&
+         CGRectGetMinY(first) < CGRectGetMaxY(second) &&
+         CGRectGetMinY(second) < CGRectGetMaxY(first);
+}
+
+/// One to four displays, each beside, above or below an earlier one, as users arrange them. Frames
+/// in window-system coordinates.
+std::vector<CGRect> drawDisplays() {
+  std::vector<CGRect> frames = {{{0, 0}, {400, 300}}};
+  const int wanted = *rc::gen::inRange(0, 4);
+  for (int count = 0; count < wanted; ++count) {
+    const CGRect& anchor = frames[*rc::gen::inRange<std::size_t>(0, frames.size())];
+    const CGSize size{static_cast<double>(*rc::gen::inRange(100, 500)),
+                      static_cast<double>(*rc::gen::inRange(100, 400))};
+    const double slide = *rc::gen::inRange(-90, 300);
+    CGRect frame{{anchor.origin.x + slide, anchor.origin.y + slide}, size};
+    switch (*rc::gen::inRange(0, 4)) {
+      case 0:
+        frame.origin.x = CGRectGetMaxX(anchor);
+        break;
+      case 1:
+        frame.origin.x = anchor.origin.x - size.width;
+        break;
+      case 2:
+        frame.origin.y = CGRectGetMaxY(anchor);
+        break;
+      default:
+        frame.origin.y = anchor.origin.y - size.height;
+    }
+    if (std::ranges::none_of(frames, [&](const CGRect& other) { return overlap(frame, other); })) {
+      frames.push_back(frame);
+    }
+  }
+  return frames;
+}
+
+/// Walks, and presses against an edge as long as the hand likes.
+void moveHand(desk::Machine& machine) {
+  const double dx = *rc::gen::element(0, 0, 3, -3, 40, -40, 300, -300);
+  const double dy = *rc::gen::element(0, 0, 3, -3, 40, -40, 300, -300);
+  const int times = *rc::gen::inRange(1, 12);
+  for (int count = 0; count < times; ++count) {
+    machine.mouse.moveBy(dx, dy);
+    // Less than 180 blocks in two seconds.
+    machine.advance(0.02);
+  }
+}
+
+void setUp(desk::Machine& machine, Cursor cursor) {
+  machine.process.start();
+  std::uint32_t number = 1;
+  for (const CGRect& frame : drawDisplays()) {
+    desk::attach(machine, desk::displayOf(number++, "Any", frame));
+  }
+  machine.mouse.moveTo({200, 150});
+  machine.mouse.setCursor(cursor);
+  machine.permission.setTrusted(true);
+  desk::setDockOrientation(machine, *rc::gen::element<std::string>("bottom", "left", "right"));
+}
+
+void expectNothingLost(const desk::Machine& machine, const std::optional<DockMouseGuard>& guard) {
+  RC_ASSERT(machine.counters.droppedEvents == 0);
+  RC_ASSERT(guard->isRunning() == !guard->cachedTriggerZones().empty());
+}
+
+void pinAndMove(Cursor cursor) {
+  desk::MachineScope scope;
+  desk::Machine& machine = scope.machine();
+  setUp(machine, cursor);
+  std::optional<DockMouseGuard> guard;
+  guard.emplace().start("1", OrvaneModifier::option, false);
+  for (int count = 0; count < 30; ++count) {
+    moveHand(machine);
+    RC_ASSERT(machine.dock.displayNumber() == 1U);
+    expectNothingLost(machine, guard);
+  }
+  guard.reset();
+}
+
+void preventAndMove(Cursor cursor) {
+  desk::MachineScope scope;
+  desk::Machine& machine = scope.machine();
+  setUp(machine, cursor);
+  machine.preferences.set(desk::dockDomain(), desk::Dock::autoHideKey, true);
+  std::optional<DockMouseGuard> guard;
+  guard.emplace().start("", OrvaneModifier::option, true);
+  for (int count = 0; count < 30; ++count) {
+    moveHand(machine);
+    RC_ASSERT(machine.dock.reveals().empty());
+    expectNothingLost(machine, guard);
+  }
+  guard.reset();
+}
+
+RC_GTEST_PROP(DockMouseGuardHandProperty, APinnedDockStaysWithAHeldCursor, ()) {
+  pinAndMove(Cursor::held);
+}
+RC_GTEST_PROP(DockMouseGuardHandProperty, APinnedDockStaysWithAFreeCursor, ()) {
+  pinAndMove(Cursor::free);
+}
+RC_GTEST_PROP(DockMouseGuardHandProperty, APreventedDockStaysDownWithAHeldCursor, ()) {
+  preventAndMove(Cursor::held);
+}
+RC_GTEST_PROP(DockMouseGuardHandProperty, APreventedDockStaysDownWithAFreeCursor, ()) {
+  preventAndMove(Cursor::free);
+}
+
+}  // namespace
+}  // namespace orvane
