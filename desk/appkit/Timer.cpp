@@ -16,8 +16,8 @@ Timer Timer::repeating(double intervalSeconds, RunLoopMode mode, std::function<v
       mode == RunLoopMode::common
           ? desk::RunLoop::commonModes
           : static_cast<desk::RunLoop::ModeSet>(desk::RunLoop::Mode::standard);
-  auto timer = desk::Machine::current().runLoop.addTimer(desk::Clock::fromSeconds(intervalSeconds),
-                                                         modes, std::move(tick));
+  auto timer = desk::Machine::current().runLoop.addTimerOnSharedBeat(
+      desk::Clock::fromSeconds(intervalSeconds), modes, std::move(tick));
   return Timer(std::make_unique<Implementation>(Implementation{std::move(timer)}));
 }
 

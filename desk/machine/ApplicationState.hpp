@@ -7,6 +7,8 @@ namespace orvane::desk {
 
 struct ApplicationState {
   appkit::ActivationPolicy activationPolicy = appkit::ActivationPolicy::regular;
+  /// Activities that have begun and not ended.
+  int activityCount = 0;
 };
 
 }  // namespace orvane::desk

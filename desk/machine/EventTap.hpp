@@ -18,6 +18,9 @@ struct EventTap {
   /// none is, and then events pass by.
   std::uint8_t sourceModes = 0;
   bool isEnabled = true;
+  /// False once the system has disabled it for good, as it does to the tap of an application that
+  /// was removed from the list of permissions.
+  bool canBeEnabled = true;
   /// False once the permission was lost or the port was invalidated; it never comes back.
   bool isAlive = true;
 };

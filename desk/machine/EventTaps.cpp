@@ -110,6 +110,13 @@ int EventTaps::disableAll(CGEventType reason, CGPoint location) {
   return disabled;
 }
 
+void EventTaps::disableAllSilently(bool forGood) {
+  for (const auto& tap : order_) {
+    tap->isEnabled = false;
+    tap->canBeEnabled = tap->canBeEnabled && !forGood;
+  }
+}
+
 std::size_t EventTaps::aliveCount() const {
   const auto isAlive = [](const auto& tap) { return tap->isAlive; };
   return static_cast<std::size_t>(

@@ -47,6 +47,8 @@ class EventTaps {
   /// The system disables every enabled tap and then tells it so by an event of that type. Returns
   /// how many there were.
   int disableAll(CGEventType reason, CGPoint location);
+  /// The same without an event, as over sleep; `forGood` leaves them where nobody can enable them.
+  void disableAllSilently(bool forGood);
 
   [[nodiscard]] std::size_t aliveCount() const;
   /// Whether some living tap is enabled.

@@ -23,7 +23,7 @@ Machine::Machine() {
   }
   currentMachine = this;
   runLoop.setAcceptsTasks(false);
-  permission.onLost([this] { eventTaps.killAll(); });
+  permission.onChange([this] { permissionChanged(); });
   displays.onChange([this] { displaysChanged(); });
   dock.onChange([this] { dockChanged(); });
   preferences.onChange([this] { dock.readPreferences(preferences, pointer.place()); });
@@ -44,6 +44,15 @@ Machine& Machine::current() {
 
 Machine* Machine::currentOrNull() {
   return currentMachine;
+}
+
+void Machine::permissionChanged() {
+  if (!permission.isTrusted()) {
+    eventTaps.killAll();
+  }
+  if (process.isRunning()) {
+    observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
+  }
 }
 
 void Machine::displaysChanged() {

@@ -79,6 +79,7 @@ class Machine {
 
  private:
   void displaysChanged();
+  void permissionChanged();
   void dockChanged();
   [[nodiscard]] bool haveVisibleFramesChanged() const;
   void noteVisibleFrames();

@@ -13,14 +13,14 @@ class Permission {
   [[nodiscard]] bool isListed() const { return isListed_; }
 
   void setTrusted(bool trusted) {
-    const bool lost = isTrusted_ && !trusted;
+    const bool isChange = isTrusted_ != trusted;
     isTrusted_ = trusted;
     if (trusted) {
       isListed_ = true;
       isKnown_ = true;
     }
-    if (lost && lost_) {
-      lost_();
+    if (isChange && changed_) {
+      changed_();
     }
   }
 
@@ -38,14 +38,14 @@ class Permission {
     setTrusted(false);
   }
 
-  /// Called when a permission that was there is taken away.
-  void onLost(std::function<void()> lost) { lost_ = std::move(lost); }
+  /// Called after the permission was given or taken away.
+  void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
  private:
   bool isTrusted_ = false;
   bool isListed_ = false;
   bool isKnown_ = false;
-  std::function<void()> lost_;
+  std::function<void()> changed_;
 };
 
 }  // namespace orvane::desk

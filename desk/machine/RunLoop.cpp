@@ -60,6 +60,22 @@ std::shared_ptr<RunLoopTimer> RunLoop::addTimer(std::int64_t intervalNanoseconds
   return timer;
 }
 
+std::shared_ptr<RunLoopTimer> RunLoop::addTimerOnSharedBeat(std::int64_t intervalNanoseconds,
+                                                            ModeSet modes, Task tick) {
+  const auto companion = std::find_if(timers_.begin(), timers_.end(), [&](const auto& timer) {
+    return timer->sharesBeat && timer->intervalNanoseconds == intervalNanoseconds &&
+           timer->dueNanoseconds > clock_.now();
+  });
+  const bool isFirst = companion == timers_.end();
+  const std::int64_t beat = isFirst ? 0 : (*companion)->dueNanoseconds;
+  auto timer = addTimer(intervalNanoseconds, modes, std::move(tick));
+  timer->sharesBeat = true;
+  if (!isFirst) {
+    timer->dueNanoseconds = beat;
+  }
+  return timer;
+}
+
 void RunLoop::invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer) {
   if (!timer->isValid) {
     return;
@@ -231,6 +247,7 @@ void RunLoop::advance(std::int64_t nanoseconds) {
       break;
     }
     clock_.moveTo(*due);
+    ++wakeUps_;
     serveInstant();
   }
   clock_.moveTo(end);

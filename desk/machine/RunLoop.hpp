@@ -68,6 +68,10 @@ class RunLoop {
   /// grid. An interval of nothing is taken as 0.1 ms, as the Mac does.
   std::shared_ptr<RunLoopTimer> addTimer(std::int64_t intervalNanoseconds, ModeSet modes,
                                          Task tick);
+  /// The same, but the first tick comes with the next one of another such timer of the same
+  /// interval, where there is one.
+  std::shared_ptr<RunLoopTimer> addTimerOnSharedBeat(std::int64_t intervalNanoseconds,
+                                                     ModeSet modes, Task tick);
   /// The tick is not called again, and is destroyed as soon as it does not run.
   void invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer);
   [[nodiscard]] std::size_t timerCount() const;
@@ -92,10 +96,11 @@ class RunLoop {
   /// holds are forgotten. Sources are left to their owner.
   void sweep();
 
-  /// How often the process was woken since the machine was switched on.
+  /// Since the machine was switched on: timers fired, tasks run, and instants at which time that
+  /// passed brought something to do, as often as the process was woken from its sleep.
   [[nodiscard]] std::int64_t timerFireCount() const { return timerFires_; }
   [[nodiscard]] std::int64_t taskCount() const { return tasksRun_; }
-  [[nodiscard]] std::int64_t wakeUpCount() const { return timerFires_ + tasksRun_; }
+  [[nodiscard]] std::int64_t wakeUpCount() const { return wakeUps_; }
 
  private:
   /// Due time, then order of arrival.
@@ -124,6 +129,7 @@ class RunLoop {
   bool servesMainQueue_ = false;
   std::int64_t timerFires_ = 0;
   std::int64_t tasksRun_ = 0;
+  std::int64_t wakeUps_ = 0;
 };
 
 }  // namespace orvane::desk

@@ -14,6 +14,8 @@ struct RunLoopTimer {
   std::int64_t dueNanoseconds;
   /// Its place among what is due at the same time.
   std::uint64_t sequence;
+  /// It fires together with the others of its interval that share the beat.
+  bool sharesBeat = false;
   bool isValid = true;
 };
 

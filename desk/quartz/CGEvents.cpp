@@ -33,7 +33,7 @@ CFMachPortRef CGEventTapCreate(CGEventTapLocation, CGEventTapPlacement place,
 
 void CGEventTapEnable(CFMachPortRef tap, bool enable) {
   if (EventTap* const found = tapOf(tap, "CGEventTapEnable")) {
-    found->isEnabled = enable;
+    found->isEnabled = enable && found->canBeEnabled;
   }
 }
 

@@ -17,14 +17,35 @@ struct Timer::Implementation {
   NSTimer* timer;
 };
 
+namespace {
+
+NSHashTable<NSTimer*>* liveTimers() {
+  static NSHashTable<NSTimer*>* const timers = [NSHashTable weakObjectsHashTable];
+  return timers;
+}
+
+/// When the next live timer of this interval fires; without one, an interval from now.
+NSDate* firstFireDate(NSTimeInterval interval) {
+  for (NSTimer* timer in liveTimers()) {
+    if (timer.valid && timer.timeInterval == interval && timer.fireDate.timeIntervalSinceNow > 0) {
+      return timer.fireDate;
+    }
+  }
+  return [NSDate dateWithTimeIntervalSinceNow:interval];
+}
+
+}  // namespace
+
 Timer Timer::repeating(double intervalSeconds, RunLoopMode mode, std::function<void()> tick) {
-  NSTimer* const timer = [NSTimer timerWithTimeInterval:intervalSeconds
-                                                repeats:YES
-                                                  block:^(NSTimer*) {
-                                                    // A tick may end its own timer.
-                                                    const std::function<void()> running = tick;
-                                                    running();
-                                                  }];
+  NSTimer* const timer = [[NSTimer alloc] initWithFireDate:firstFireDate(intervalSeconds)
+                                                  interval:intervalSeconds
+                                                   repeats:YES
+                                                     block:^(NSTimer*) {
+                                                       // A tick may end its own timer.
+                                                       const std::function<void()> running = tick;
+                                                       running();
+                                                     }];
+  [liveTimers() addObject:timer];
   // What the header advises for repeating timers: the Mac may wake up for several at once. Later
   // ticks keep to the original grid.
   timer.tolerance = intervalSeconds * 0.1;

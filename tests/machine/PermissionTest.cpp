@@ -1,4 +1,4 @@
-// The permission, and its loss.
+// The permission, and its changes.
 #include <gtest/gtest.h>
 
 #include "desk/machine/Permission.hpp"
@@ -6,19 +6,20 @@
 namespace orvane::desk {
 namespace {
 
-TEST(Permission, TellsOfItsLossAndOfNothingElse) {
+TEST(Permission, AnnouncesItsChangesAndNothingElse) {
   Permission permission;
-  int losses = 0;
-  permission.onLost([&losses] { ++losses; });
+  int changes = 0;
+  permission.onChange([&changes] { ++changes; });
   EXPECT_FALSE(permission.isTrusted());
   permission.setTrusted(false);
+  EXPECT_EQ(changes, 0);
   permission.setTrusted(true);
   permission.setTrusted(true);
   EXPECT_TRUE(permission.isTrusted());
-  EXPECT_EQ(losses, 0);
+  EXPECT_EQ(changes, 1);
   permission.setTrusted(false);
   permission.setTrusted(false);
-  EXPECT_EQ(losses, 1);
+  EXPECT_EQ(changes, 2);
 }
 
 }  // namespace

@@ -206,12 +206,24 @@ TEST_F(RunLoopTest, AnIntervalOfNothingIsATenthOfAMillisecond) {
   EXPECT_EQ(ticks, 10);
 }
 
-TEST_F(RunLoopTest, CountsEveryWakeUp) {
+TEST_F(RunLoopTest, CountsAWakeUpForEachInstantWithSomethingToDo) {
   const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [] {});
-  runLoop.async([] {});
+  runLoop.asyncAfter(2 * second, [] {});
   runLoop.advance(3 * second);
   EXPECT_EQ(runLoop.taskCount(), 1);
   EXPECT_EQ(runLoop.timerFireCount(), 3);
+  EXPECT_EQ(runLoop.wakeUpCount(), 3);
+}
+
+TEST_F(RunLoopTest, TimersOnTheSharedBeatFireTogetherAndInTheOrderInWhichTheyCame) {
+  const auto first = runLoop.addTimerOnSharedBeat(second, RunLoop::commonModes, note("first"));
+  runLoop.advance(300 * millisecond);
+  const auto joined = runLoop.addTimerOnSharedBeat(second, standardMode, note("joined"));
+  const auto longer = runLoop.addTimerOnSharedBeat(2 * second, standardMode, note("longer"));
+  const auto apart = runLoop.addTimer(second, standardMode, note("apart"));
+  runLoop.advance(2 * second);
+  EXPECT_EQ(log, (Log{"first@1000", "joined@1000", "apart@1300", "first@2000", "joined@2000",
+                      "longer@2300", "apart@2300"}));
   EXPECT_EQ(runLoop.wakeUpCount(), 4);
 }
 
@@ -285,10 +297,10 @@ TEST_F(RunLoopTest, WhatFollowsComesBeforeAllThatIsDueInEveryModeAndWhileTheQueu
     });
     order += "first ";
   });
-  const std::int64_t before = runLoop.wakeUpCount();
+  const std::int64_t before = runLoop.taskCount();
   runLoop.runDue();
   EXPECT_EQ(order, "first follower task ");
-  EXPECT_EQ(runLoop.wakeUpCount() - before, 2);
+  EXPECT_EQ(runLoop.taskCount() - before, 2);
 }
 
 }  // namespace

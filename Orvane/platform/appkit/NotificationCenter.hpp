@@ -1,5 +1,5 @@
-// The default notification center with blocks on the main operation queue; NSNotificationCenter on
-// a Mac.
+// Notifications with blocks on the main thread; on a Mac those of NSNotificationCenter, and those
+// between processes of NSDistributedNotificationCenter.
 #pragma once
 
 #include <functional>
@@ -11,6 +11,9 @@ namespace orvane::appkit {
 enum class NotificationName {
   /// NSApplicationDidChangeScreenParametersNotification
   applicationDidChangeScreenParameters,
+  /// "com.apple.accessibility.api", posted by the system to every process when its list of
+  /// Accessibility permissions has changed. No header declares it.
+  accessibilityPermissionsDidChange,
 };
 
 /// A registration. It does not end by itself: give it to removeObserver.

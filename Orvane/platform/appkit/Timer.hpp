@@ -18,7 +18,8 @@ enum class RunLoopMode {
 /// thread only.
 class Timer {
  public:
-  /// Fires every `intervalSeconds`, the first time after one interval.
+  /// Fires every `intervalSeconds`. Timers of one interval fire together, so that one wake-up
+  /// serves them all: the first in the process fires after one interval, a later one within one.
   [[nodiscard]] static Timer repeating(double intervalSeconds, RunLoopMode mode,
                                        std::function<void()> tick);
 
