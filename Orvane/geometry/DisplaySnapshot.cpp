@@ -8,7 +8,8 @@
 
 namespace orvane {
 
-DisplaySnapshot DisplaySnapshot::of(const appkit::Screen& screen) {
+DisplaySnapshot DisplaySnapshot::of(const appkit::Screen& screen,
+                                    std::span<const appkit::Screen> screens) {
   const std::optional<CGDirectDisplayID> displayID = OrvaneScreen::orvaneDisplayID(screen);
   const bool isBuiltIn = displayID && CGDisplayIsBuiltin(*displayID) != 0;
   return {
@@ -17,7 +18,7 @@ DisplaySnapshot DisplaySnapshot::of(const appkit::Screen& screen) {
       .name = OrvaneDisplayNameLocalizer::localizedDisplayName(screen.localizedName(), displayID,
                                                                isBuiltIn),
       .frame = screen.frame(),
-      .cgFrame = OrvaneScreen::orvaneCGFrame(screen),
+      .cgFrame = OrvaneScreen::orvaneCGFrame(screen, screens),
       .isMain = displayID && CGDisplayIsMain(*displayID) != 0,
       .isBuiltIn = isBuiltIn,
   };
@@ -25,8 +26,9 @@ DisplaySnapshot DisplaySnapshot::of(const appkit::Screen& screen) {
 
 std::vector<DisplaySnapshot> DisplaySnapshot::ofAllScreens() {
   std::vector<DisplaySnapshot> snapshots;
-  for (const appkit::Screen& screen : appkit::Screen::screens()) {
-    snapshots.push_back(of(screen));
+  const std::vector<appkit::Screen> screens = appkit::Screen::screens();
+  for (const appkit::Screen& screen : screens) {
+    snapshots.push_back(of(screen, screens));
   }
   return snapshots;
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <functional>
 #include <set>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -31,8 +32,9 @@ struct DisplaySnapshot {
     return matchingIdentifiers.contains(identifier);
   }
 
-  /// The snapshot of one screen, taken now.
-  [[nodiscard]] static DisplaySnapshot of(const appkit::Screen& screen);
+  /// The snapshot of one of the system's screens, taken now.
+  [[nodiscard]] static DisplaySnapshot of(const appkit::Screen& screen,
+                                          std::span<const appkit::Screen> screens);
   /// One snapshot per screen, in the system's order.
   [[nodiscard]] static std::vector<DisplaySnapshot> ofAllScreens();
 

@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <vector>
 
 #include "Orvane/base/CFRef.hpp"
 #include "Orvane/platform/CFText.hpp"
@@ -44,9 +43,8 @@ std::optional<CGDirectDisplayID> orvaneDisplayID(const appkit::Screen& screen) {
   return number ? std::optional(static_cast<CGDirectDisplayID>(*number)) : std::nullopt;
 }
 
-CGRect orvaneCGFrame(const appkit::Screen& screen) {
+CGRect orvaneCGFrame(const appkit::Screen& screen, std::span<const appkit::Screen> screens) {
   const CGRect frame = screen.frame();
-  const std::vector<appkit::Screen> screens = appkit::Screen::screens();
   if (screens.empty()) {
     return frame;
   }
@@ -85,12 +83,13 @@ std::set<std::string> orvaneMatchingIdentifiers(const appkit::Screen& screen) {
   return identifiers;
 }
 
-std::optional<appkit::Screen> orvaneFindScreen(const std::string& identifier) {
-  const std::vector<appkit::Screen> screens = appkit::Screen::screens();
+std::optional<std::size_t> orvaneFindScreen(const std::string& identifier,
+                                            std::span<const appkit::Screen> screens) {
   const auto found = std::ranges::find_if(screens, [&](const appkit::Screen& screen) {
     return orvaneMatchingIdentifiers(screen).contains(identifier);
   });
-  return found != screens.end() ? std::optional(*found) : std::nullopt;
+  return found != screens.end() ? std::optional(static_cast<std::size_t>(found - screens.begin()))
+                                : std::nullopt;
 }
 
 }  // namespace orvane::OrvaneScreen

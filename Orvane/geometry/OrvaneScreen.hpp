@@ -1,9 +1,12 @@
 // What the application asks of a screen beyond the window system's own answers: who it is and
-// where it is in global coordinates. Everything is computed afresh at each call.
+// where it is in global coordinates. Nothing is kept between calls; where other screens matter, the
+// caller passes the list, so that one operation lists the screens once.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
 
 #include "Orvane/platform/Quartz.hpp"
@@ -16,8 +19,10 @@ namespace orvane::OrvaneScreen {
 [[nodiscard]] std::optional<CGDirectDisplayID> orvaneDisplayID(const appkit::Screen& screen);
 
 /// The frame in global display coordinates: points, origin at the top left of the first display,
-/// y downwards. Without any screen in the system's list it is the frame unchanged.
-[[nodiscard]] CGRect orvaneCGFrame(const appkit::Screen& screen);
+/// y downwards. `screens` is the system's list, whose first screen has the origin; when it is
+/// empty, the frame is unchanged.
+[[nodiscard]] CGRect orvaneCGFrame(const appkit::Screen& screen,
+                                   std::span<const appkit::Screen> screens);
 
 /// The display's UUID string where it has a number and the system a UUID for it, otherwise its
 /// legacy identifier.
@@ -30,8 +35,9 @@ namespace orvane::OrvaneScreen {
 /// The primary and the legacy identifier, and the display's number in decimal when it has one.
 [[nodiscard]] std::set<std::string> orvaneMatchingIdentifiers(const appkit::Screen& screen);
 
-/// The first screen in the system's order that the identifier names, compared exactly; none when
-/// no screen does.
-[[nodiscard]] std::optional<appkit::Screen> orvaneFindScreen(const std::string& identifier);
+/// The index of the first of `screens` that the identifier names, compared exactly; none when no
+/// screen does.
+[[nodiscard]] std::optional<std::size_t> orvaneFindScreen(const std::string& identifier,
+                                                          std::span<const appkit::Screen> screens);
 
 }  // namespace orvane::OrvaneScreen

@@ -2,9 +2,7 @@
 // that runs for every event is in DockMouseGuardFilter.cpp.
 #include "Orvane/guard/DockMouseGuard.hpp"
 
-#include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <set>
 #include <utility>
 
@@ -42,13 +40,17 @@ void DockMouseGuard::start(const std::string& targetDisplayID, OrvaneModifier mo
   overrideModifier_ = modifier;
   blocksAllDisplays_ = blocksAllDisplays;
   removeEventTap();
-  refreshTriggerZones();
+  refreshTriggerZones(appkit::Screen::screens());
   if (cachedTriggerZones_.empty()) {
     emit(DockMouseGuardMessages::noTriggerZones());
   } else {
     setupEventTap();
   }
+  if (!eventTap_) {
+    pause();
+  }
   observeScreenChanges();
+  announceRunning();
 }
 
 void DockMouseGuard::stop() {
@@ -58,16 +60,36 @@ void DockMouseGuard::stop() {
   blocksAllDisplays_ = false;
   forgetRecentBlocks();
   setTemporarilyUnlocked(false);
+  announceRunning();
 }
 
-void DockMouseGuard::refreshTriggerZones() {
-  cachedTriggerZones_ = currentTriggerZones();
+void DockMouseGuard::reviveTap() {
+  if (!eventTap_ || isShutOff_ || CGEventTapIsEnabled(eventTap_.get())) {
+    wasRevived_ = false;
+    return;
+  }
+  if (!std::exchange(wasRevived_, true)) {
+    CGEventTapEnable(eventTap_.get(), true);
+    return;
+  }
+  removeEventTap();
+  setupEventTap();
+  if (!eventTap_) {
+    pause();
+  }
+  announceRunning();
 }
 
-std::vector<TriggerZone> DockMouseGuard::currentTriggerZones() const {
-  const std::vector<appkit::Screen> screens = appkit::Screen::screens();
+void DockMouseGuard::refreshTriggerZones(std::span<const appkit::Screen> screens) {
+  cachedTriggerZones_ = currentTriggerZones(screens);
+}
+
+std::vector<TriggerZone> DockMouseGuard::currentTriggerZones(
+    std::span<const appkit::Screen> screens) const {
   std::vector<CGRect> frames;
-  std::ranges::transform(screens, std::back_inserter(frames), OrvaneScreen::orvaneCGFrame);
+  for (const appkit::Screen& screen : screens) {
+    frames.push_back(OrvaneScreen::orvaneCGFrame(screen, screens));
+  }
   const DockPosition dockPosition = DockUtils::getDockPosition();
 
   if (blocksAllDisplays_) {
@@ -80,14 +102,11 @@ std::vector<TriggerZone> DockMouseGuard::currentTriggerZones() const {
   if (lockedDisplayIdentifier_.empty()) {
     return {};
   }
-  const auto locked = std::ranges::find_if(screens, [this](const appkit::Screen& screen) {
-    return OrvaneScreen::orvaneMatchingIdentifiers(screen).contains(lockedDisplayIdentifier_);
-  });
-  if (locked == screens.end()) {
+  const auto lockedIndex = OrvaneScreen::orvaneFindScreen(lockedDisplayIdentifier_, screens);
+  if (!lockedIndex) {
     return {};
   }
-  const auto lockedIndex = static_cast<std::size_t>(locked - screens.begin());
-  return OrvaneGeometry::calculateTriggerZones(frames, lockedIndex, dockPosition);
+  return OrvaneGeometry::calculateTriggerZones(frames, *lockedIndex, dockPosition);
 }
 
 void DockMouseGuard::setupEventTap() {
@@ -111,7 +130,6 @@ void DockMouseGuard::setupEventTap() {
     return;
   }
   eventTap_ = std::move(port);
-  ++tapCount_;
   runLoopSource_ = std::move(source);
   CFRunLoopAddSource(CFRunLoopGetCurrent(), runLoopSource_.get(), kCFRunLoopCommonModes);
   CGEventTapEnable(eventTap_.get(), true);
@@ -129,6 +147,8 @@ void DockMouseGuard::removeEventTap() {
   }
   runLoopSource_.reset();
   eventTap_.reset();
+  isShutOff_ = false;
+  wasRevived_ = false;
 }
 
 void DockMouseGuard::observeScreenChanges() {
@@ -146,14 +166,21 @@ void DockMouseGuard::stopObservingScreens() {
 }
 
 void DockMouseGuard::handleScreenConfigChanged() {
+  // The change ends a shut-off, also one that the main queue has not finished yet.
+  finishShutOff();
+  updateForScreens(appkit::Screen::screens());
+  announceRunning();
+}
+
+void DockMouseGuard::updateForScreens(std::span<const appkit::Screen> screens) {
   if (!blocksAllDisplays_ && !lockedDisplayIdentifier_.empty() &&
-      !OrvaneScreen::orvaneFindScreen(lockedDisplayIdentifier_)) {
+      !OrvaneScreen::orvaneFindScreen(lockedDisplayIdentifier_, screens)) {
     cachedTriggerZones_.clear();
     pause();
     emit(DockMouseGuardMessages::targetUnavailable());
     return;
   }
-  refreshTriggerZones();
+  refreshTriggerZones(screens);
   if (cachedTriggerZones_.empty()) {
     pause();
     return;
@@ -163,21 +190,43 @@ void DockMouseGuard::handleScreenConfigChanged() {
   }
 }
 
+void DockMouseGuard::finishShutOff() {
+  if (!isShutOff_) {
+    return;
+  }
+  cachedTriggerZones_.clear();
+  forgetRecentBlocks();
+  pause();
+}
+
 void DockMouseGuard::pause() {
   removeEventTap();
-  // Without a tap nothing would tell that the key has been let go.
+  // Without a tap nothing would show that the key has been let go.
   setTemporarilyUnlocked(false);
 }
 
 void DockMouseGuard::forgetRecentBlocks() {
   recentBlockTimestamps_.clear();
   lastBlockedEventLogAt_ = 0;
+  disabledAt_ = neverDisabled();
 }
 
 void DockMouseGuard::emit(std::string message) {
   appkit::MainQueue::async(lifetime_.whileAlive([this, message = std::move(message)] {
     if (onEvent) {
       onEvent(message);
+    }
+  }));
+}
+
+void DockMouseGuard::announceRunning() {
+  if (lastAnnouncedRunning_ == isRunning()) {
+    return;
+  }
+  lastAnnouncedRunning_ = isRunning();
+  appkit::MainQueue::async(lifetime_.whileAlive([this, isRunning = isRunning()] {
+    if (onRunningChanged) {
+      onRunningChanged(isRunning);
     }
   }));
 }

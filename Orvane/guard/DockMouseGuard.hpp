@@ -3,9 +3,12 @@
 // land in a trigger zone back into the display.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -17,6 +20,7 @@
 #include "Orvane/guard/RecentBlockTimestamps.hpp"
 #include "Orvane/platform/Quartz.hpp"
 #include "Orvane/platform/appkit/NotificationCenter.hpp"
+#include "Orvane/platform/appkit/Screen.hpp"
 
 namespace orvane {
 
@@ -34,6 +38,10 @@ class DockMouseGuard {
   /// arrangement to change.
   void start(const std::string& targetDisplayID, OrvaneModifier modifier, bool blocksAllDisplays);
   void stop();
+  /// For a caller that looks regularly while the permission is there: the first look that finds the
+  /// tap disabled enables it; if the next one finds it disabled again, a new tap takes its place.
+  /// A guard that has shut itself off is left alone.
+  void reviveTap();
 
   /// The filter: called for every event that the tap delivers; returns the same event, whose
   /// location it has changed if it was in a zone. It runs for every pointer movement of the
@@ -41,13 +49,16 @@ class DockMouseGuard {
   /// only the task of one takes memory.
   CGEventRef eventTapCallback(CGEventType type, CGEventRef event);
 
-  /// Both are called on the main queue, never from within the filter.
+  /// All three are called on the main queue, never from within the filter.
   std::function<void(const std::string& message)> onEvent;
   std::function<void(bool isTemporarilyUnlocked)> onTemporaryUnlockChanged;
+  std::function<void(bool isRunning)> onRunningChanged;
 
   /// The guard is running when it holds an event tap.
   [[nodiscard]] bool isRunning() const { return static_cast<bool>(eventTap_); }
   [[nodiscard]] CFMachPortRef eventTap() const { return eventTap_.get(); }
+  /// There are zones to guard, but the system refused the last tap.
+  [[nodiscard]] bool isTapRefused() const { return !eventTap_ && !cachedTriggerZones_.empty(); }
   /// In global display coordinates, in the order in which they are tried.
   [[nodiscard]] const std::vector<TriggerZone>& cachedTriggerZones() const {
     return cachedTriggerZones_;
@@ -71,26 +82,49 @@ class DockMouseGuard {
   static void openDesktopAndDockSettings();
 
  private:
+  /// The system disables the tap again and again when that happens so often within the window: the
+  /// pointer of the whole session stalls each time, so the guard shuts itself off.
+  static constexpr std::size_t disablingLimit = 5;
+  static constexpr double disablingWindowSeconds = 10.0;
+
   void setTemporarilyUnlocked(bool value);
   void recordBlockedEvent();
   void disableEventTapForRapidBlocking();
+  void handleDisabledTap();
+  /// At once the tap is disabled; the main queue takes it down. Only a change of the displays or
+  /// the next start brings the guard back.
+  void shutOff();
+  void finishShutOff();
 
-  void refreshTriggerZones();
-  [[nodiscard]] std::vector<TriggerZone> currentTriggerZones() const;
+  void refreshTriggerZones(std::span<const appkit::Screen> screens);
+  [[nodiscard]] std::vector<TriggerZone> currentTriggerZones(
+      std::span<const appkit::Screen> screens) const;
   void setupEventTap();
   void removeEventTap();
   void observeScreenChanges();
   void stopObservingScreens();
   void handleScreenConfigChanged();
+  void updateForScreens(std::span<const appkit::Screen> screens);
   /// The tap goes, and the guard waits for the displays to change.
   void pause();
   void forgetRecentBlocks();
   void emit(std::string message);
+  /// Announces that the guard has started or stopped running since the last announcement.
+  void announceRunning();
+
+  [[nodiscard]] static constexpr std::array<double, disablingLimit> neverDisabled() {
+    std::array<double, disablingLimit> times{};
+    times.fill(-std::numeric_limits<double>::infinity());
+    return times;
+  }
 
   CFRef<CFMachPortRef> eventTap_;
   CFRef<CFRunLoopSourceRef> runLoopSource_;
-  /// How many taps there have been; tells one from the next.
-  std::uint64_t tapCount_ = 0;
+  /// The tap that is there is disabled for good, and the main queue is about to take it down.
+  bool isShutOff_ = false;
+  /// The last look found the tap disabled.
+  bool wasRevived_ = false;
+  bool lastAnnouncedRunning_ = false;
   std::vector<TriggerZone> cachedTriggerZones_;
   std::optional<appkit::ObserverToken> screenObserver_;
   std::string lockedDisplayIdentifier_;
@@ -101,6 +135,8 @@ class DockMouseGuard {
   RecentBlockTimestamps recentBlockTimestamps_;
   /// Media-clock time in seconds.
   double lastBlockedEventLogAt_ = 0;
+  /// When the system last disabled the tap, the oldest first; media-clock times in seconds.
+  std::array<double, disablingLimit> disabledAt_ = neverDisabled();
   Lifetime lifetime_;
 };
 

@@ -1,6 +1,8 @@
 // The guard's event path: what happens to each pointer movement of the session. Nothing here locks,
 // reads settings or reports, and nothing allocates but what is left on the main queue: a task for
 // each change of the unlock key, for a report at most once a second, and for the shut-off.
+#include <algorithm>
+
 #include "Orvane/guard/DockMouseGuard.hpp"
 #include "Orvane/guard/DockMouseGuardMessages.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
@@ -17,9 +19,7 @@ constexpr double reportIntervalSeconds = 1.0;
 // Flattened: what it calls for every event is compiled into it where the linker sees it.
 [[gnu::flatten]] CGEventRef DockMouseGuard::eventTapCallback(CGEventType type, CGEventRef event) {
   if (type == kCGEventTapDisabledByTimeout || type == kCGEventTapDisabledByUserInput) {
-    if (eventTap_) {
-      CGEventTapEnable(eventTap_.get(), true);
-    }
+    handleDisabledTap();
     return event;
   }
   const bool isUnlocked = overrideModifier_.isHeld(CGEventGetFlags(event));
@@ -71,19 +71,33 @@ void DockMouseGuard::recordBlockedEvent() {
 }
 
 void DockMouseGuard::disableEventTapForRapidBlocking() {
+  shutOff();
+}
+
+void DockMouseGuard::handleDisabledTap() {
+  if (!eventTap_ || isShutOff_) {
+    return;
+  }
+  std::shift_left(disabledAt_.begin(), disabledAt_.end(), 1);
+  disabledAt_.back() = CACurrentMediaTime();
+  if (disabledAt_.back() - disabledAt_.front() <= disablingWindowSeconds) {
+    shutOff();
+  } else if (AXIsProcessTrusted()) {
+    // Without the permission the tap would only hold up the pointer again.
+    CGEventTapEnable(eventTap_.get(), true);
+  }
+}
+
+void DockMouseGuard::shutOff() {
   if (eventTap_) {
     CGEventTapEnable(eventTap_.get(), false);
   }
-  // Deliberately nothing brings the guard back but a change of the displays or the next start.
-  appkit::MainQueue::async(lifetime_.whileAlive([this, tap = tapCount_] {
+  isShutOff_ = true;
+  appkit::MainQueue::async(lifetime_.whileAlive([this] {
     forgetRecentBlocks();
-    // A start that came before this has made a tap of its own, which is not the one to clean up.
-    // This one goes even if the system's word that it was disabled has enabled it meanwhile.
-    if (tap != tapCount_) {
-      return;
-    }
-    removeEventTap();
-    cachedTriggerZones_.clear();
+    // A start that came first has made a tap of its own, which stays.
+    finishShutOff();
+    announceRunning();
   }));
 }
 

@@ -1,15 +1,12 @@
 // The commands that look and compare: show, find, picture, echo, expect.
 #include "desk/script/LookingCommands.hpp"
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include <nlohmann/json.hpp>
 
-#include "Orvane/geometry/DisplaySnapshot.hpp"
 #include "Orvane/geometry/OrvaneScreen.hpp"
 #include "Orvane/platform/appkit/Screen.hpp"
 #include "desk/script/Expectation.hpp"
@@ -85,28 +82,13 @@ Complaint expect(ScriptContext& context, Arguments& arguments) {
   return std::nullopt;
 }
 
-/// The place in the list of the screen that the application finds. Two screens that agree in all
-/// that an application can read of them count as one.
-Json indexOfScreen(const std::string& identifier) {
-  const std::optional<appkit::Screen> found = OrvaneScreen::orvaneFindScreen(identifier);
-  if (found) {
-    const DisplaySnapshot wanted = DisplaySnapshot::of(*found);
-    const std::vector<DisplaySnapshot> all = DisplaySnapshot::ofAllScreens();
-    for (std::size_t index = 0; index < all.size(); ++index) {
-      if (all[index] == wanted) {
-        return index;
-      }
-    }
-  }
-  return nullptr;
-}
-
 Complaint find(ScriptContext& context, Arguments& arguments) {
   const std::string identifier = arguments.text("\"IDENTIFIER\"");
   if (Complaint complaint = arguments.finish()) {
     return complaint;
   }
-  context.output << jsonText(Json{{"index", indexOfScreen(identifier)}}) << '\n';
+  const auto index = OrvaneScreen::orvaneFindScreen(identifier, appkit::Screen::screens());
+  context.output << jsonText(Json{{"index", index ? Json(*index) : Json(nullptr)}}) << '\n';
   return std::nullopt;
 }
 

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -20,6 +21,13 @@ using namespace OrvaneScreen;
 using desk::attach;
 
 const char* const colorSpaceEnding = "Optional(8)-Optional(\"NSCalibratedRGBColorSpace\")";
+
+/// The screen to which the identifier belongs.
+std::optional<appkit::Screen> screenNamed(const std::string& identifier) {
+  const std::vector<appkit::Screen> screens = appkit::Screen::screens();
+  const auto index = orvaneFindScreen(identifier, screens);
+  return index ? std::optional(screens.at(*index)) : std::nullopt;
+}
 
 class OrvaneScreenTest : public desk::MachineFixture {
  protected:
@@ -108,7 +116,7 @@ TEST_F(OrvaneScreenTest, TheMatchingIdentifiersAreUUIDLegacyAndNumber) {
 TEST_F(OrvaneScreenTest, AStoredNumberFindsTheDisplayWithThatNumber) {
   attach(machine, desk::laptop());
   attach(machine, desk::monitorAtTheRight());
-  const auto found = orvaneFindScreen("2");
+  const auto found = screenNamed("2");
   ASSERT_TRUE(found);
   EXPECT_EQ(orvaneDisplayID(*found), 2U);
 }
@@ -117,25 +125,25 @@ TEST_F(OrvaneScreenTest, AStoredUUIDFindsTheDisplayAfterItsNumberChanged) {
   attach(machine, desk::laptop());
   attach(machine, desk::monitorAtTheRight());
   EXPECT_EQ(machine.displays.renumber(2, 9), std::nullopt);
-  const auto found = orvaneFindScreen(desk::uuidNamed('B'));
+  const auto found = screenNamed(desk::uuidNamed('B'));
   ASSERT_TRUE(found);
   EXPECT_EQ(orvaneDisplayID(*found), 9U);
-  EXPECT_FALSE(orvaneFindScreen("2"));
+  EXPECT_FALSE(screenNamed("2"));
 }
 
 TEST_F(OrvaneScreenTest, IdentifiersAreComparedExactly) {
   desk::Display display = desk::laptop();
   display.uuid = "ABCDEF00-0000-4000-8000-00000000000A";
   attach(machine, display);
-  EXPECT_TRUE(orvaneFindScreen("ABCDEF00-0000-4000-8000-00000000000A"));
-  EXPECT_FALSE(orvaneFindScreen("abcdef00-0000-4000-8000-00000000000a"));
-  EXPECT_FALSE(orvaneFindScreen(" 1"));
-  EXPECT_FALSE(orvaneFindScreen("01"));
-  EXPECT_FALSE(orvaneFindScreen(""));
+  EXPECT_TRUE(screenNamed("ABCDEF00-0000-4000-8000-00000000000A"));
+  EXPECT_FALSE(screenNamed("abcdef00-0000-4000-8000-00000000000a"));
+  EXPECT_FALSE(screenNamed(" 1"));
+  EXPECT_FALSE(screenNamed("01"));
+  EXPECT_FALSE(screenNamed(""));
 }
 
 TEST_F(OrvaneScreenTest, WithoutScreensNothingIsFound) {
-  EXPECT_FALSE(orvaneFindScreen("1"));
+  EXPECT_FALSE(screenNamed("1"));
 }
 
 TEST_F(OrvaneScreenTest, OfTwoIdenticalScreensTheFirstIsFound) {
@@ -149,7 +157,7 @@ TEST_F(OrvaneScreenTest, OfTwoIdenticalScreensTheFirstIsFound) {
   attach(machine, twin);
   const std::string shared = orvaneLegacyIdentifier(screen(0));
   EXPECT_EQ(shared, orvaneLegacyIdentifier(screen(1)));
-  const auto found = orvaneFindScreen(shared);
+  const auto found = screenNamed(shared);
   ASSERT_TRUE(found);
   EXPECT_EQ(found->localizedName(), "Left twin");
 }
@@ -158,16 +166,20 @@ TEST_F(OrvaneScreenTest, GlobalCoordinatesHangFromTheTopOfTheFirstScreen) {
   attach(machine, desk::displayOf(1, "First", {{0, 0}, {1512, 982}}));
   attach(machine, desk::displayOf(2, "Higher", {{1512, 200}, {1920, 1080}}));
   attach(machine, desk::displayOf(3, "Below", {{-300, -1440}, {2560, 1440}}));
-  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(0)), {{0, 0}, {1512, 982}}));
-  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(1)), {{1512, -298}, {1920, 1080}}));
-  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(2)), {{-300, 982}, {2560, 1440}}));
+  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(0), appkit::Screen::screens()),
+                                {{0, 0}, {1512, 982}}));
+  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(1), appkit::Screen::screens()),
+                                {{1512, -298}, {1920, 1080}}));
+  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(2), appkit::Screen::screens()),
+                                {{-300, 982}, {2560, 1440}}));
 }
 
 TEST_F(OrvaneScreenTest, WithoutAnyScreenInTheListAFrameIsUnchanged) {
   attach(machine, desk::displayOf(1, "Gone soon", {{3, 5}, {1512, 982}}));
   const appkit::Screen kept = screen();
   desk::detach(machine, 1);
-  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(kept), {{3, 5}, {1512, 982}}));
+  EXPECT_TRUE(
+      CGRectEqualToRect(orvaneCGFrame(kept, appkit::Screen::screens()), {{3, 5}, {1512, 982}}));
 }
 
 // Properties.
@@ -226,7 +238,7 @@ RC_GTEST_PROP(OrvaneScreenProperty, AnIdentifierFindsTheFirstDisplayThatItNames,
   for (const std::string& identifier : asked) {
     const auto expected = std::ranges::find_if(
         specs, [&](const Spec& spec) { return namesOf(spec).contains(identifier); });
-    const auto found = orvaneFindScreen(identifier);
+    const auto found = screenNamed(identifier);
     RC_ASSERT(found.has_value() == (expected != specs.end()));
     if (found) {
       RC_ASSERT(orvaneMatchingIdentifiers(*found) == namesOf(*expected));

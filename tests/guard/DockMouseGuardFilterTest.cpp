@@ -314,6 +314,60 @@ TEST_F(DockMouseGuardFilterTest, ATapThatTheSystemDisabledIsEnabledAgainAtOnce) 
   }
 }
 
+TEST_F(DockMouseGuardFilterTest, ATapWithoutThePermissionIsNotEnabledAgain) {
+  startPinned();
+  // The permission goes as the event is on its way: the tap is there still.
+  machine.permission.onChange(nullptr);
+  machine.permission.setTrusted(false);
+  machine.eventTaps.disableAll(kCGEventTapDisabledByTimeout, inTheZone);
+  EXPECT_FALSE(machine.eventTaps.isAnyEnabled());
+}
+
+TEST_F(DockMouseGuardFilterTest, TheFifthDisablingWithinTenSecondsShutsTheGuardOff) {
+  startPinned();
+  for (const double pause : {2.5, 2.5, 2.5, 2.5}) {
+    machine.eventTaps.disableAll(kCGEventTapDisabledByTimeout, inTheZone);
+    EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
+    machine.advance(pause);
+  }
+  // Ten seconds after the first to the nanosecond.
+  machine.eventTaps.disableAll(kCGEventTapDisabledByUserInput, inTheZone);
+  EXPECT_FALSE(machine.eventTaps.isAnyEnabled()) << "at once";
+  machine.runDue();
+  EXPECT_FALSE(guard->isRunning());
+  EXPECT_TRUE(guard->cachedTriggerZones().empty());
+  EXPECT_EQ(messages, Messages{});
+
+  machine.advance(100);
+  EXPECT_FALSE(guard->isRunning()) << "like after the shut-off for rapid blocking";
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_TRUE(guard->isRunning());
+  for (int count = 0; count < 4; ++count) {
+    machine.eventTaps.disableAll(kCGEventTapDisabledByTimeout, inTheZone);
+  }
+  machine.runDue();
+  EXPECT_TRUE(guard->isRunning()) << "the earlier five are forgotten";
+}
+
+TEST_F(DockMouseGuardFilterTest, DisablingsFartherApartAreBorneForEver) {
+  startPinned();
+  for (int count = 0; count < 50; ++count) {
+    machine.eventTaps.disableAll(kCGEventTapDisabledByTimeout, inTheZone);
+    machine.advance(2.501);
+  }
+  EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
+}
+
+TEST_F(DockMouseGuardFilterTest, AShutOffEndsATemporaryUnlock) {
+  startPinned();
+  outcomeOf(inTheZone, optionKey);
+  for (int count = 0; count < 5; ++count) {
+    machine.eventTaps.disableAll(kCGEventTapDisabledByTimeout, inTheZone);
+  }
+  machine.runDue();
+  EXPECT_EQ(unlocks, (Unlocks{true, false}));
+}
+
 TEST_F(DockMouseGuardFilterTest, NothingElseHappensForATapThatTheSystemDisabled) {
   startPinned();
   for (const CGEventType reason : {kCGEventTapDisabledByTimeout, kCGEventTapDisabledByUserInput}) {

@@ -128,15 +128,27 @@ TEST_F(DockMouseGuardTapTest, AStartBeforeTheCleanUpOfAShutOffKeepsItsTap) {
   EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty()) << "the next block is the first again";
 }
 
-TEST_F(DockMouseGuardTapTest, ATapThatTheSystemsWordHasEnabledGoesInTheCleanUpOfAShutOff) {
+TEST_F(DockMouseGuardTapTest, TheSystemsWordDoesNotEnableATapThatIsShutOff) {
   startPreventing();
   machine.runLoop.holdMainQueue();
   block(180);
   guard->eventTapCallback(kCGEventTapDisabledByUserInput, nullptr);
-  ASSERT_TRUE(CGEventTapIsEnabled(guard->eventTap()));
+  EXPECT_FALSE(CGEventTapIsEnabled(guard->eventTap()));
   machine.runLoop.releaseMainQueue();
   machine.runDue();
   expectWaiting();
+}
+
+TEST_F(DockMouseGuardTapTest, AChangeOfTheDisplaysBeforeTheCleanUpOfAShutOffEndsIt) {
+  startPreventing();
+  machine.runLoop.holdMainQueue();
+  block(180);
+  desk::attach(machine, desk::displayOf(3, "Third", {{3840, 0}, {1000, 1000}}));
+  EXPECT_TRUE(CGEventTapIsEnabled(guard->eventTap()));
+  block();
+  machine.runLoop.releaseMainQueue();
+  machine.runDue();
+  expectGuarding();
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // The guard's life: starting, stopping, and what it tells its owner.
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -287,6 +288,85 @@ TEST_F(DockMouseGuardTest, WhenEveryLinkIsRefusedTheSettingsThemselvesAreOpened)
             (Messages{"x-apple.systempreferences:com.apple.Desktop-Settings.extension refused",
                       "x-apple.systempreferences:com.apple.preference.dock refused",
                       "file:///System/Applications/System%20Settings.app"}));
+}
+
+// What the guard says of itself: whether it runs.
+
+class RunningAnnouncementTest : public GuardLifeFixture {
+ protected:
+  RunningAnnouncementTest() {
+    guard->onRunningChanged = [this](bool isRunning) { running.push_back(isRunning); };
+  }
+  std::vector<bool> announced() {
+    machine.runDue();
+    return std::exchange(running, {});
+  }
+
+  std::vector<bool> running;
+};
+
+TEST_F(RunningAnnouncementTest, StartAndStopAreAnnouncedOnTheMainQueue) {
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  EXPECT_TRUE(running.empty());
+  EXPECT_EQ(announced(), std::vector{true});
+  guard->stop();
+  EXPECT_TRUE(running.empty());
+  EXPECT_EQ(announced(), std::vector{false});
+}
+
+TEST_F(RunningAnnouncementTest, ARestartIsNoChange) {
+  startPinned();
+  announced();
+  guard->start("", OrvaneModifier::option, true);
+  EXPECT_EQ(announced(), std::vector<bool>());
+}
+
+TEST_F(RunningAnnouncementTest, AStartWithoutATapIsNoChangeButEndsOneThatRan) {
+  machine.eventTaps.setRefusesCreation(true);
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  EXPECT_EQ(announced(), std::vector<bool>());
+  machine.eventTaps.setRefusesCreation(false);
+  startPinned();
+  announced();
+  machine.eventTaps.setRefusesCreation(true);
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  EXPECT_EQ(announced(), std::vector{false});
+}
+
+TEST_F(RunningAnnouncementTest, WhatTheDisplaysBringIsAnnounced) {
+  startPinned();
+  announced();
+  desk::detach(machine, 1);
+  EXPECT_EQ(announced(), std::vector{false});
+  desk::attach(machine, desk::laptop());
+  EXPECT_EQ(announced(), std::vector{true});
+}
+
+TEST_F(RunningAnnouncementTest, AShutOffIsAnnounced) {
+  startPinned();
+  announced();
+  block(180);
+  EXPECT_EQ(announced(), std::vector{false});
+}
+
+// A start that ends without a tap.
+
+TEST_F(DockMouseGuardTest, AStartWithoutZonesEndsATemporaryUnlock) {
+  startPinned();
+  outcomeOf(outsideEveryZone, kCGEventFlagMaskAlternate);
+  guard->start("", OrvaneModifier::option, false);
+  machine.runDue();
+  ASSERT_FALSE(guard->isRunning());
+  EXPECT_EQ(unlocks, (Unlocks{true, false}));
+}
+
+TEST_F(DockMouseGuardTest, AStartWhoseTapIsRefusedEndsATemporaryUnlock) {
+  startPinned();
+  outcomeOf(outsideEveryZone, kCGEventFlagMaskAlternate);
+  machine.eventTaps.setRefusesCreation(true);
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  machine.runDue();
+  EXPECT_EQ(unlocks, (Unlocks{true, false}));
 }
 
 }  // namespace

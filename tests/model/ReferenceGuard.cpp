@@ -82,6 +82,7 @@ Told Guard::start(const World& world, const std::string& newTarget, const std::s
   if (!zones.empty()) {
     putTapUp(world);
   }
+  isUnlocked = isUnlocked && hasTap;
   observes = true;
   return {.anything = true};
 }
