@@ -35,15 +35,16 @@ void AppDelegate::setupStatusItem() {
 
 void AppDelegate::observeModelChanges() {
   // The change is announced before the displays have their names in the new language, so the menu
-  // is built once whoever makes the change has returned.
+  // is built once the caller has returned.
   const std::function<void()> rebuild = lifetime_.whileAlive([this] { rebuildMenuAndIcon(); });
   modelCancellable_ = OrvaneAppState::model().appLanguage().observe(
       [rebuild] { appkit::MainQueue::async(rebuild); });
+  guardCancellable_ = OrvaneAppState::model().guardChanges().observe(
+      lifetime_.whileAlive([this] { refreshStatusItemTimerFired(); }));
 }
 
 void AppDelegate::refreshStatusItemTimerFired() {
   OrvaneModel& model = OrvaneAppState::model();
-  model.noteGuard();
   announcer_.update(model);
   // Most of the time there is nothing to draw.
   if (showsRunningGuard_ != model.isGuardRunning()) {
@@ -76,6 +77,7 @@ bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/) {
 void AppDelegate::applicationWillTerminate() {
   statusRefreshTimer_.reset();
   modelCancellable_.cancel();
+  guardCancellable_.cancel();
 }
 
 }  // namespace orvane

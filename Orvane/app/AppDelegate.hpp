@@ -61,6 +61,7 @@ class AppDelegate {
   bool showsRunningGuard_ = false;
   std::optional<appkit::Timer> statusRefreshTimer_;
   Subscription modelCancellable_;
+  Subscription guardCancellable_;
   GuardAnnouncer announcer_;
   Lifetime lifetime_;
 };

@@ -18,10 +18,6 @@ OrvaneModel& model() {
   return OrvaneAppState::model();
 }
 
-std::string localized(std::string_view english, std::string_view chinese) {
-  return model().appLanguage().value().localized(english, chinese);
-}
-
 appkit::HostingView hosted(const ui::View& view, CGSize size) {
   appkit::HostingView host([view](const ui::Environment& /*environment*/) { return view; });
   host.setFrame(CGRectMake(0, 0, size.width, size.height));
@@ -72,10 +68,9 @@ void AppDelegate::rebuildStatusMenu() {
 }
 
 void AppDelegate::addSwitches() {
-  const bool isRunning = model().isGuardRunning();
-  const bool isPreventing = model().hidesDockOnAllDisplays().value();
+  const OrvaneMode mode = model().mode();
   statusMenu_.addItem(rowItem({
-      .title = localized("Open at Login", "开机自动运行"),
+      .title = model().localized("Open at Login", "开机自动运行"),
       .systemImage = "power",
       .isOn = model().launchAtLoginEnabled().value(),
       .rowWidth = statusMenuRowWidth,
@@ -83,28 +78,28 @@ void AppDelegate::addSwitches() {
   }));
   statusMenu_.addItem(appkit::MenuItem::separator());
   statusMenu_.addItem(rowItem({
-      .title = localized("Prevent Dock Pop-Up", "防止 Dock 弹出"),
+      .title = model().localized("Prevent Dock Pop-Up", "防止 Dock 弹出"),
       .systemImage = "eye.slash",
-      .isOn = isRunning && isPreventing,
+      .isOn = mode == OrvaneMode::preventing,
       .rowWidth = statusMenuRowWidth,
       .action = lifetime_.whileAlive([this] { toggleHideDockFromStatusMenu(); }),
   }));
   statusMenu_.addItem(rowItem({
-      .title = localized("Pin Dock", "固定 Dock"),
+      .title = model().localized("Pin Dock", "固定 Dock"),
       .systemImage = "lock",
       .isEnabled = model().selectedDisplayID().value().has_value(),
-      .isOn = isRunning && !isPreventing,
+      .isOn = mode == OrvaneMode::pinning,
       .rowWidth = statusMenuRowWidth,
       .action = lifetime_.whileAlive([this] { toggleLockFromStatusMenu(); }),
   }));
 }
 
 void AppDelegate::addDisplayChooser() {
-  statusMenu_.addItem(headerItem(localized("Choose Display", "选择显示器")));
+  statusMenu_.addItem(headerItem(model().localized("Choose Display", "选择显示器")));
   for (const DisplaySnapshot& display : model().displays().value()) {
     statusMenu_.addItem(rowItem({
-        .title =
-            display.isMain ? display.name + " " + localized("(Main)", "（主要）") : display.name,
+        .title = display.isMain ? display.name + " " + model().localized("(Main)", "（主要）")
+                                : display.name,
         .systemImage = "display",
         .isSelected = model().selectedDisplayID().value() == display.id,
         .rowWidth = statusMenuRowWidth,
@@ -116,7 +111,7 @@ void AppDelegate::addDisplayChooser() {
   }
   if (model().displays().value().empty()) {
     statusMenu_.addItem(rowItem({
-        .title = localized("No displays detected", "未检测到显示器"),
+        .title = model().localized("No displays detected", "未检测到显示器"),
         .systemImage = "display.trianglebadge.exclamationmark",
         .isEnabled = false,
         .rowWidth = statusMenuRowWidth,
@@ -126,7 +121,7 @@ void AppDelegate::addDisplayChooser() {
 
 void AppDelegate::addActions() {
   statusMenu_.addItem(rowItem({
-      .title = localized("Open Window", "打开窗口"),
+      .title = model().localized("Open Window", "打开窗口"),
       .systemImage = "macwindow",
       .rowWidth = statusMenuRowWidth,
       .action = closingTheMenu([this] {
@@ -135,7 +130,7 @@ void AppDelegate::addActions() {
       }),
   }));
   statusMenu_.addItem(rowItem({
-      .title = localized("Settings", "设置"),
+      .title = model().localized("Settings", "设置"),
       .systemImage = "gearshape",
       .rowWidth = statusMenuRowWidth,
       .action = closingTheMenu([this] {
@@ -144,7 +139,7 @@ void AppDelegate::addActions() {
       }),
   }));
   statusMenu_.addItem(rowItem({
-      .title = localized("Quit", "退出"),
+      .title = model().localized("Quit", "退出"),
       .systemImage = "power",
       .rowWidth = statusMenuRowWidth,
       .action = closingTheMenu([this] { quitFromStatusMenu(); }),

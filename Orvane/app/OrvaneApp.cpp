@@ -1,10 +1,9 @@
-// The entry of the application: it puts the parts together that do not know each other, and hands
-// the delegate to the platform.
+// The entry of the application: it puts the parts together that do not know each other.
 #include "Orvane/app/OrvaneApp.hpp"
 
 #include <utility>
 
-#include "Orvane/app/AppDelegate.hpp"
+#include "Orvane/app/OrvaneAppState.hpp"
 #include "Orvane/base/ProcessShared.hpp"
 #include "Orvane/panels/main/ContentView.hpp"
 #include "Orvane/panels/settings/OrvaneSettingsView.hpp"
@@ -19,8 +18,8 @@ namespace {
 
 using RootBuilder = appkit::HostingView::RootBuilder;
 
-AppDelegate& appDelegate() {
-  static ProcessShared<AppDelegate> shared;
+OrvaneApp& orvaneApp() {
+  static ProcessShared<OrvaneApp> shared;
   return shared.get();
 }
 
@@ -47,13 +46,34 @@ void OrvaneApp::install() {
   OrvaneWindowController::shared().setContents({mainPanel, settingsPanel});
   OrvaneAccessibilityPermission::setPrompt(OrvanePermissionAlert::show);
   appkit::Application::setDelegate({
-      .didFinishLaunching = [] { appDelegate().applicationDidFinishLaunching(); },
+      .didFinishLaunching = [] { orvaneApp().didFinishLaunching(); },
       .shouldHandleReopen =
           [](bool hasVisibleWindows) {
-            return appDelegate().applicationShouldHandleReopen(hasVisibleWindows);
+            return orvaneApp().delegate_.applicationShouldHandleReopen(hasVisibleWindows);
           },
-      .willTerminate = [] { appDelegate().applicationWillTerminate(); },
+      .willTerminate = [] { orvaneApp().willTerminate(); },
   });
+}
+
+void OrvaneApp::didFinishLaunching() {
+  delegate_.applicationDidFinishLaunching();
+  OrvaneModel& model = OrvaneAppState::model();
+  tapWatch_.emplace(model);
+  guardChanges_ = model.guardChanges().observe([this] { guardChanged(); });
+}
+
+void OrvaneApp::guardChanged() {
+  if (OrvaneAppState::model().isGuardRunning()) {
+    activity_.emplace("Moves the pointer away from the Dock's edge");
+  } else {
+    activity_.reset();
+  }
+}
+
+void OrvaneApp::willTerminate() {
+  guardChanges_.cancel();
+  tapWatch_.reset();
+  delegate_.applicationWillTerminate();
 }
 
 }  // namespace orvane

@@ -1,5 +1,5 @@
 // GuardAnnouncer tells users of a screen reader what others see by the icon in the menu bar: that
-// the guard has started, has stopped, or is kept from starting by the missing permission.
+// the guard has started, has stopped, or cannot start without the permission.
 #pragma once
 
 #include <string>
@@ -11,24 +11,25 @@ namespace orvane {
 /// Main thread only.
 class GuardAnnouncer {
  public:
-  /// Speaks when what there is to tell is another than the last time; at first the guard counts as
-  /// stopped, so that an ordinary start of the application says nothing.
+  /// Speaks when there is something new to say. At first the guard counts as stopped, so an
+  /// ordinary start of the application says nothing.
   void update(const OrvaneModel& model);
 
  private:
-  enum class State { stopped, pinning, preventing, blocked };
-  struct Told {
-    State state = State::stopped;
-    /// Of the display to which the Dock is pinned; empty in every other state.
-    std::string displayID;
+  struct Announcement {
+    OrvaneMode mode = OrvaneMode::off;
+    /// The guard is wanted, but the permission is missing.
+    bool isBlocked = false;
+    /// Of the display to which the Dock is pinned; empty otherwise.
+    std::string displayID = {};
 
-    friend bool operator==(const Told&, const Told&) = default;
+    friend bool operator==(const Announcement&, const Announcement&) = default;
   };
 
-  [[nodiscard]] Told tell(const OrvaneModel& model) const;
-  [[nodiscard]] static std::string text(State state, const OrvaneModel& model);
+  [[nodiscard]] Announcement announcementFor(const OrvaneModel& model) const;
+  [[nodiscard]] std::string text(const OrvaneModel& model) const;
 
-  Told told_;
+  Announcement last_;
 };
 
 }  // namespace orvane

@@ -40,4 +40,9 @@ class OrvaneLanguage {
   Value value_;
 };
 
+/// The text of the stored language: for what speaks without the model.
+[[nodiscard]] inline std::string localized(std::string_view english, std::string_view chinese) {
+  return OrvaneLanguage::stored().localized(english, chinese);
+}
+
 }  // namespace orvane

@@ -24,7 +24,7 @@ OrvaneModel::OrvaneModel()
       hasAccessibilityPermission_(AXIsProcessTrusted() != 0, &changes_),
       isTemporarilyUnlocked_(false, &changes_),
       lastRestoreSucceeded_(std::nullopt, &changes_),
-      lastCheckedAt_(CFAbsoluteTimeGetCurrent(), &changes_),
+      lastCheckedAt_(CFAbsoluteTimeGetCurrent()),
       appLanguage_(OrvaneSettings::appLanguage(), &changes_),
       temporaryUnlockModifier_(OrvaneSettings::temporaryUnlockModifier(), &changes_),
       hidesDockOnAllDisplays_(OrvaneSettings::hidesDockOnAllDisplays(), &changes_),
@@ -47,6 +47,10 @@ void OrvaneModel::installGuardCallbacks() {
       lifetime_.whileAlive([this](const std::string& /*message*/) { noteChecked(); });
   guardService_.onTemporaryUnlockChanged =
       lifetime_.whileAlive([this](bool isUnlocked) { isTemporarilyUnlocked_.set(isUnlocked); });
+  guardService_.onRunningChanged = lifetime_.whileAlive([this](bool /*isRunning*/) {
+    guardChanges_.notify();
+    changes_.notify();
+  });
 }
 
 void OrvaneModel::observeScreenChanges() {
@@ -107,7 +111,7 @@ void OrvaneModel::refreshDisplays() {
     // on purpose: it is found again when it returns.
     setSelectedDisplayID(selected->id);
   }
-  setHasAccessibilityPermission(AXIsProcessTrusted() != 0);
+  refreshPermission();
   noteChecked();
 }
 
@@ -116,7 +120,7 @@ void OrvaneModel::selectDisplay(const std::string& id) {
     return;
   }
   setSelectedDisplayID(id);
-  if (isPinning()) {
+  if (mode() == OrvaneMode::pinning) {
     restartGuardIfRunning();
   }
 }
@@ -147,17 +151,19 @@ void OrvaneModel::setAppLanguage(OrvaneLanguage language) {
   refreshDisplays();
 }
 
-void OrvaneModel::setHasAccessibilityPermission(bool hasPermission) {
-  hasAccessibilityPermission_.set(hasPermission);
+bool OrvaneModel::refreshPermission() {
+  const bool isTrusted = AXIsProcessTrusted() != 0;
+  hasAccessibilityPermission_.set(isTrusted && !isPermissionDoubted_);
+  return isTrusted;
+}
+
+void OrvaneModel::doubtPermission() {
+  isPermissionDoubted_ = true;
+  hasAccessibilityPermission_.set(false);
 }
 
 void OrvaneModel::noteChecked() {
   lastCheckedAt_.set(CFAbsoluteTimeGetCurrent());
-  noteGuard();
-}
-
-void OrvaneModel::noteGuard() {
-  isGuardAnnounced_.set(isGuardRunning());
 }
 
 void OrvaneModel::refreshLaunchAtLoginStatus() {
@@ -173,10 +179,17 @@ void OrvaneModel::setLaunchAtLoginEnabled(bool enabled) {
 void OrvaneModel::openAccessibilitySettings() {
   constexpr double recheckSeconds = 1.0;
   OrvaneAccessibilityPermission::openSystemSettings();
-  setHasAccessibilityPermission(AXIsProcessTrusted() != 0);
-  appkit::MainQueue::asyncAfter(recheckSeconds, lifetime_.whileAlive([this] {
-    setHasAccessibilityPermission(AXIsProcessTrusted() != 0);
-  }));
+  believePermission();
+  refreshPermission();
+  appkit::MainQueue::asyncAfter(recheckSeconds,
+                                lifetime_.whileAlive([this] { refreshPermission(); }));
+}
+
+void OrvaneModel::openLoginItemsSettings() {
+  if (!appkit::Workspace::openURL(
+          "x-apple.systempreferences:com.apple.LoginItems-Settings.extension")) {
+    appkit::Workspace::openFile("/System/Applications/System Settings.app");
+  }
 }
 
 void OrvaneModel::openPrivacyPolicy() {

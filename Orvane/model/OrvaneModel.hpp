@@ -2,8 +2,11 @@
 // permission, and the guard that it starts and stops. Every user action is a call on it.
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Orvane/base/Lifetime.hpp"
@@ -13,14 +16,14 @@
 #include "Orvane/guard/DockMouseGuard.hpp"
 #include "Orvane/guard/OrvaneModifier.hpp"
 #include "Orvane/model/OrvaneLanguage.hpp"
+#include "Orvane/model/OrvaneMode.hpp"
 #include "Orvane/model/OrvaneStatus.hpp"
 #include "Orvane/platform/Quartz.hpp"
 #include "Orvane/platform/appkit/NotificationCenter.hpp"
 
 namespace orvane {
 
-/// Main thread only. Whether the guard is running is read from the guard at each question; what is
-/// stored of it here only tells whether it has been announced.
+/// Main thread only. Whether the guard is running is read from the guard at each question.
 class OrvaneModel {
  public:
   /// Reads the settings and starts listening to the system; neither lists displays nor starts the
@@ -68,18 +71,25 @@ class OrvaneModel {
     return launchAtLoginErrorMessage_;
   }
 
-  /// Notified after each change of any published property, and when the guard has started or
-  /// stopped.
+  /// Notified after each change of a published property other than `lastCheckedAt`, which no view
+  /// shows, and when the guard has started or stopped running.
   [[nodiscard]] const Signal& changes() const { return changes_; }
+  /// Notified on the main queue when the guard has started or stopped running.
+  [[nodiscard]] const Signal& guardChanges() const { return guardChanges_; }
 
   [[nodiscard]] const DockMouseGuard& guardService() const { return guardService_; }
   [[nodiscard]] DockMouseGuard& guardService() { return guardService_; }
   /// The guard is running when it holds an event tap.
   [[nodiscard]] bool isGuardRunning() const { return guardService_.isRunning(); }
+  [[nodiscard]] OrvaneMode mode() const;
   /// Computed at each call, the Dock's edge read afresh.
   [[nodiscard]] OrvaneStatus status() const;
   /// The attached display that `selectedDisplayID` names; none when it names none.
   [[nodiscard]] std::optional<DisplaySnapshot> selectedDisplay() const;
+  /// The text of the interface language.
+  [[nodiscard]] std::string localized(std::string_view english, std::string_view chinese) const {
+    return appLanguage_.value().localized(english, chinese);
+  }
 
   /// Stored, restarts a running guard when the permission is there.
   void setHidesDockOnAllDisplays(bool hides);
@@ -87,8 +97,15 @@ class OrvaneModel {
   void setTemporaryUnlockModifier(OrvaneModifier modifier);
   /// Stored, re-reads the displays, whose names depend on it.
   void setAppLanguage(OrvaneLanguage language);
-  /// What a view has just read from the system.
-  void setHasAccessibilityPermission(bool hasPermission);
+  /// Reads from the system whether the permission is there, and returns what it says. A doubted
+  /// permission counts as missing all the same.
+  bool refreshPermission();
+  /// The system says that the permission is there, and yet refuses the tap, as it does after the
+  /// application was removed from its list. From now on the permission counts as missing, until the
+  /// user asks for it or for the guard, or until `believePermission` and the next reading.
+  void doubtPermission();
+  void believePermission() { isPermissionDoubted_ = false; }
+  [[nodiscard]] bool isPermissionDoubted() const { return isPermissionDoubted_; }
 
   void refreshDisplays();
   void selectDisplay(const std::string& id);
@@ -99,13 +116,10 @@ class OrvaneModel {
   void toggleHideDockOnAllDisplays();
   /// Once at launch: starts the guard again if it was on when the application quit and can start.
   void restoreLockIfNeeded();
-  /// Announces that the guard has started or stopped by itself, if it has since the last
-  /// announcement. A guard tells nobody; whoever has a timer asks.
-  void noteGuard();
   /// Stops the guard without touching the user's wish that it should run.
   void suspendGuard();
-  /// Starts the guard again if the user's wish is that it runs and it doesn't. One whose target is
-  /// not attached waits for it.
+  /// Starts the guard if the user wants it to run and it does not. A guard whose target is not
+  /// attached waits for it.
   void resumeGuard();
   /// The guard was to be started again at launch and the permission was missing; until it starts.
   [[nodiscard]] bool isRestoreBlocked() const { return isRestoreBlocked_; }
@@ -114,6 +128,8 @@ class OrvaneModel {
   void setLaunchAtLoginEnabled(bool enabled);
 
   void openAccessibilitySettings();
+  /// Where the user approves and removes login items.
+  void openLoginItemsSettings();
   void openPrivacyPolicy();
   void openSupportEmail();
 
@@ -122,11 +138,9 @@ class OrvaneModel {
   void observeScreenChanges();
   void handleScreenChange();
 
-  [[nodiscard]] bool isPinning() const;
-  [[nodiscard]] bool isPreventing() const;
   [[nodiscard]] bool isTargetAttached() const;
   /// Prevent mode needs no target; pinning needs one, attached or not.
-  [[nodiscard]] bool hasWhatTheModeNeeds() const;
+  [[nodiscard]] bool canStart() const;
 
   void startGuard();
   void startGuardForTheUser();
@@ -134,18 +148,26 @@ class OrvaneModel {
   void stopActiveLockIfNeeded();
   void restartGuardIfRunning();
   void requestAccessibilityForAllDisplayGuard();
+  /// Asks for the permission and then runs `start`, unless a later action of the user has started
+  /// or stopped the guard by then.
+  void requestPermission(std::function<void()> start);
   void setSelectedDisplayID(std::optional<std::string> id);
   void noteChecked();
 
   Signal changes_;
+  Signal guardChanges_;
   Published<std::vector<DisplaySnapshot>> displays_;
   Published<std::optional<std::string>> selectedDisplayID_;
   Published<bool> hasAccessibilityPermission_;
   Published<bool> isTemporarilyUnlocked_;
   Published<std::optional<bool>> lastRestoreSucceeded_;
   Published<CFAbsoluteTime> lastCheckedAt_;
-  Published<bool> isGuardAnnounced_{false, &changes_};
   bool isRestoreBlocked_ = false;
+  bool isPermissionDoubted_ = false;
+  /// The user's actions on the guard are numbered, requests for the permission among them; the last
+  /// is the one that the guard's state is due to.
+  std::uint64_t userActionCount_ = 0;
+  std::uint64_t lastUserAction_ = 0;
   Published<OrvaneLanguage> appLanguage_;
   Published<OrvaneModifier> temporaryUnlockModifier_;
   Published<bool> hidesDockOnAllDisplays_;

@@ -1,24 +1,25 @@
 // OrvaneModel's actions on the guard. The two modes, pinning and preventing, exclude each other:
 // switching one on stops the other first, and switching the active one off stops the guard.
+#include <utility>
+
 #include "Orvane/model/OrvaneModel.hpp"
 #include "Orvane/model/OrvaneSettings.hpp"
 #include "Orvane/permission/OrvaneAccessibilityPermission.hpp"
 
 namespace orvane {
 
-bool OrvaneModel::isPinning() const {
-  return isGuardRunning() && !hidesDockOnAllDisplays_.value();
-}
-
-bool OrvaneModel::isPreventing() const {
-  return isGuardRunning() && hidesDockOnAllDisplays_.value();
+OrvaneMode OrvaneModel::mode() const {
+  if (!isGuardRunning()) {
+    return OrvaneMode::off;
+  }
+  return hidesDockOnAllDisplays_.value() ? OrvaneMode::preventing : OrvaneMode::pinning;
 }
 
 bool OrvaneModel::isTargetAttached() const {
   return selectedDisplay().has_value();
 }
 
-bool OrvaneModel::hasWhatTheModeNeeds() const {
+bool OrvaneModel::canStart() const {
   return hidesDockOnAllDisplays_.value() || selectedDisplayID_.value().has_value();
 }
 
@@ -30,11 +31,13 @@ void OrvaneModel::startGuard() {
 }
 
 void OrvaneModel::startGuardForTheUser() {
+  lastUserAction_ = ++userActionCount_;
   startGuard();
   OrvaneSettings::setOrvaneEnabled(true);
 }
 
 void OrvaneModel::stopGuardForTheUser() {
+  lastUserAction_ = ++userActionCount_;
   guardService_.stop();
   OrvaneSettings::setOrvaneEnabled(false);
 }
@@ -49,25 +52,23 @@ void OrvaneModel::toggleLock() {
     noteChecked();
     return;
   }
+  believePermission();
   refreshDisplays();
-  if (!hasAccessibilityPermission_.value()) {
-    OrvaneAccessibilityPermission::check(lifetime_.whileAlive([this] {
-      setHasAccessibilityPermission(true);
-      refreshDisplays();
-      if (hasWhatTheModeNeeds()) {
-        startGuardForTheUser();
-      }
-    }));
-    return;
-  }
   // The target need not be attached: the guard then waits for it, and the status says so.
-  if (hasWhatTheModeNeeds()) {
-    startGuardForTheUser();
+  const auto start = [this] {
+    if (canStart()) {
+      startGuardForTheUser();
+    }
+  };
+  if (hasAccessibilityPermission_.value()) {
+    start();
+  } else {
+    requestPermission(start);
   }
 }
 
 void OrvaneModel::toggleSelectedDisplayLock() {
-  if (isPinning()) {
+  if (mode() == OrvaneMode::pinning) {
     toggleLock();
     return;
   }
@@ -79,11 +80,12 @@ void OrvaneModel::toggleSelectedDisplayLock() {
 }
 
 void OrvaneModel::toggleHideDockOnAllDisplays() {
-  if (isPreventing()) {
+  if (mode() == OrvaneMode::preventing) {
     toggleLock();
     return;
   }
   if (!hidesDockOnAllDisplays_.value()) {
+    believePermission();
     refreshDisplays();
     if (!hasAccessibilityPermission_.value()) {
       requestAccessibilityForAllDisplayGuard();
@@ -98,13 +100,25 @@ void OrvaneModel::toggleHideDockOnAllDisplays() {
 }
 
 void OrvaneModel::requestAccessibilityForAllDisplayGuard() {
-  OrvaneAccessibilityPermission::check(lifetime_.whileAlive([this] {
-    setHasAccessibilityPermission(true);
-    refreshDisplays();
+  requestPermission([this] {
     stopActiveLockIfNeeded();
     setHidesDockOnAllDisplays(true);
     toggleLock();
-  }));
+  });
+}
+
+void OrvaneModel::requestPermission(std::function<void()> start) {
+  OrvaneAccessibilityPermission::check(
+      lifetime_.whileAlive([this, start = std::move(start), request = ++userActionCount_] {
+        if (request < lastUserAction_) {
+          return;
+        }
+        believePermission();
+        refreshDisplays();
+        start();
+        // What was started is as old as the request: a later one still comes after it.
+        lastUserAction_ = request;
+      }));
 }
 
 void OrvaneModel::stopActiveLockIfNeeded() {
@@ -132,7 +146,6 @@ void OrvaneModel::restartGuardIfRunning() {
 void OrvaneModel::suspendGuard() {
   guardService_.stop();
   isTemporarilyUnlocked_.set(false);
-  noteGuard();
 }
 
 void OrvaneModel::resumeGuard() {
@@ -140,7 +153,7 @@ void OrvaneModel::resumeGuard() {
     return;
   }
   refreshDisplays();
-  if (hasWhatTheModeNeeds()) {
+  if (canStart()) {
     startGuard();
   }
 }

@@ -19,10 +19,6 @@ namespace {
 
 constexpr double iconSide = 64;
 
-std::string localized(std::string_view english, std::string_view chinese) {
-  return OrvaneLanguage::stored().localized(english, chinese);
-}
-
 View paragraph(const std::string& text) {
   return Text(text)
       .font(Font::subheadline())

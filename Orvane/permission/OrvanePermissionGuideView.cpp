@@ -18,10 +18,6 @@ using namespace ui;
 
 namespace {
 
-std::string localized(std::string_view english, std::string_view chinese) {
-  return OrvaneLanguage::stored().localized(english, chinese);
-}
-
 /// The application's icon, and an arrow that points at it.
 View draggableIcon() {
   const View arrow = Symbol("arrow.down")
@@ -47,6 +43,7 @@ View OrvanePermissionGuideView::closeControl() const {
              Symbol("xmark.circle.fill").font(Font::title()).foreground(Color::secondary()))
           .style(PlainButtonStyle{})
           .focusRing(ShapeForm::circle())
+          .keyboardShortcut(KeyboardShortcut::cancelAction())
           .accessibilityLabel(localized("Close", "关闭"));
   return HStack(0, {Spacer(), cross}).padding(Edges{.top = 16, .trailing = 16});
 }
@@ -97,6 +94,7 @@ View OrvanePermissionGuideView::doneButton() const {
                          .padding(Edges::vertical(10));
   return Button(onClose, label)
       .style(BorderedButtonStyle{.isProminent = true})
+      .keyboardShortcut(KeyboardShortcut::defaultAction())
       .padding(Edges{.leading = 40, .bottom = 20, .trailing = 40});
 }
 

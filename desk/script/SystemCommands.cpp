@@ -60,14 +60,19 @@ Complaint setTapCreation(ScriptContext& context, Arguments& arguments) {
 }
 
 Complaint disableTap(ScriptContext& context, Arguments& arguments) {
-  constexpr std::array<std::string_view, 2> choices = {"timeout", "userinput"};
-  const bool isUserInput = arguments.choice("timeout|userinput", choices) == 1;
+  constexpr std::array<std::string_view, 4> choices = {"timeout", "userinput", "silently",
+                                                       "forgood"};
+  const auto choice = arguments.choice("timeout|userinput|silently|forgood", choices);
   if (Complaint complaint = arguments.finish()) {
     return complaint;
   }
-  context.machine().eventTaps.disableAll(
-      isUserInput ? kCGEventTapDisabledByUserInput : kCGEventTapDisabledByTimeout,
-      context.machine().pointer.place());
+  EventTaps& taps = context.machine().eventTaps;
+  if (choice >= 2) {
+    taps.disableAllSilently(choice == 3);
+  } else {
+    taps.disableAll(choice == 1 ? kCGEventTapDisabledByUserInput : kCGEventTapDisabledByTimeout,
+                    context.machine().pointer.place());
+  }
   return std::nullopt;
 }
 
@@ -245,7 +250,7 @@ void addSystemCommands(CommandTable& table) {
   table.add({"dock autohide", "on|off", setDockAutoHide});
   table.add({"trust", "on|off", setTrust});
   table.add({"taps", "allow|refuse", setTapCreation});
-  table.add({"tap disabled", "timeout|userinput", disableTap});
+  table.add({"tap disabled", "timeout|userinput|silently|forgood", disableTap});
   table.add({"locale", "preferred=A,B,... current=C", setLocale});
   table.add({"defaults set", "KEY string|bool|number VALUE", setDefault});
   table.add({"defaults remove", "KEY", removeDefault});

@@ -15,7 +15,7 @@ namespace orvane::desk {
 namespace {
 
 /// A link that begins so opens that page. Of two that fit, the first one does.
-constexpr std::array<std::pair<std::string_view, SettingsPage>, 5> pagesByLink{{
+constexpr std::array<std::pair<std::string_view, SettingsPage>, 6> pagesByLink{{
     {"x-apple.systempreferences:com.apple.settings.PrivacySecurity.extension?Privacy_Accessibility",
      SettingsPage::accessibility},
     {"x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility",
@@ -24,6 +24,7 @@ constexpr std::array<std::pair<std::string_view, SettingsPage>, 5> pagesByLink{{
     {"x-apple.systempreferences:com.apple.Desktop-Settings.extension",
      SettingsPage::desktopAndDock},
     {"x-apple.systempreferences:com.apple.preference.dock", SettingsPage::desktopAndDock},
+    {"x-apple.systempreferences:com.apple.LoginItems-Settings.extension", SettingsPage::general},
 }};
 constexpr std::string_view application = "file:///System/Applications/System%20Settings.app";
 

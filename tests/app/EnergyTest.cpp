@@ -9,11 +9,13 @@ constexpr std::int64_t secondsPerHour = 3600;
 class EnergyTest : public AppFixture {
  protected:
   struct Cost {
-    std::int64_t timerFires;
+    std::int64_t wakeUps;
     std::int64_t tasks;
     long long changesOnScreen;
     bool operator==(const Cost&) const = default;
   };
+  /// One wake-up a second, and nothing is drawn.
+  static constexpr Cost nothingButTheClock{secondsPerHour, 0, 0};
 
   /// What one hour costs in which nobody touches anything.
   Cost idleHour() {
@@ -22,27 +24,26 @@ class EnergyTest : public AppFixture {
     const Cost before = now();
     machine.advance(static_cast<double>(secondsPerHour));
     const Cost after = now();
-    return {after.timerFires - before.timerFires, after.tasks - before.tasks,
+    return {after.wakeUps - before.wakeUps, after.tasks - before.tasks,
             after.changesOnScreen - before.changesOnScreen};
   }
 
- private:
   [[nodiscard]] Cost now() {
-    return {machine.runLoop.timerFireCount(), machine.runLoop.taskCount(),
+    return {machine.runLoop.wakeUpCount(), machine.runLoop.taskCount(),
             server().updates.changeCount()};
   }
 };
 
 TEST_F(EnergyTest, UnlockedItWakesOnceASecondAndDrawsNothing) {
   begin();
-  EXPECT_EQ(idleHour(), (Cost{secondsPerHour, 0, 0}));
+  EXPECT_EQ(idleHour(), nothingButTheClock);
 }
 
 TEST_F(EnergyTest, LockedItCostsNothingMore) {
   store("isOrvaneEnabled", true);
   begin();
   ASSERT_TRUE(model().isGuardRunning());
-  EXPECT_EQ(idleHour(), (Cost{secondsPerHour, 0, 0}));
+  EXPECT_EQ(idleHour(), nothingButTheClock);
 }
 
 TEST_F(EnergyTest, AMenuThatWasOpenLeavesNothingBehind) {
@@ -51,7 +52,7 @@ TEST_F(EnergyTest, AMenuThatWasOpenLeavesNothingBehind) {
   moveTo(middleOf("Quit"));
   ASSERT_TRUE(press("Pin Dock"));
   server().menus.close();
-  EXPECT_EQ(idleHour(), (Cost{secondsPerHour, 0, 0}));
+  EXPECT_EQ(idleHour(), nothingButTheClock);
 }
 
 TEST_F(EnergyTest, WindowsThatWereOpenLeaveNothingBehind) {
@@ -60,13 +61,51 @@ TEST_F(EnergyTest, WindowsThatWereOpenLeaveNothingBehind) {
   ASSERT_TRUE(press("Settings"));
   machine.advance(2);
   server().close(desk::Surfaces(server()).window("main"));
-  EXPECT_EQ(idleHour(), (Cost{secondsPerHour, 0, 0}));
+  EXPECT_EQ(idleHour(), nothingButTheClock);
 }
 
-TEST_F(EnergyTest, AnOpenPanelAddsItsOwnTimerAndDrawsNothing) {
+TEST_F(EnergyTest, AnOpenPanelCostsNothingMoreWheneverItWasOpened) {
+  begin();
+  machine.advance(0.37);
+  application.reopen();
+  EXPECT_EQ(idleHour(), nothingButTheClock);
+}
+
+TEST_F(EnergyTest, OpenSettingsCostNothingMoreEvenWhileTheirCaptionIsShown) {
+  machine.loginItem.status = appkit::LoginItem::Status::requiresApproval;
+  begin();
+  machine.advance(0.61);
+  ASSERT_TRUE(openMenu());
+  ASSERT_TRUE(press("Settings"));
+  EXPECT_EQ(idleHour(), nothingButTheClock);
+}
+
+TEST_F(EnergyTest, PushingAgainstAnEdgeDrawsNothingInAnOpenPanel) {
   begin();
   application.reopen();
-  EXPECT_EQ(idleHour(), (Cost{2 * secondsPerHour, 0, 0}));
+  model().toggleSelectedDisplayLock();
+  machine.advance(5);
+  const long long before = server().updates.changeCount();
+  for (int second = 0; second < 10; ++second) {
+    machine.mouse.post({2800, 1075}, 0);
+    machine.advance(1);
+  }
+  EXPECT_EQ(model().guardService().blockedCount(), 10);
+  EXPECT_EQ(server().updates.changeCount() - before, 0);
+}
+
+TEST_F(EnergyTest, AnActivityLastsAsLongAsTheGuardRuns) {
+  begin();
+  EXPECT_EQ(machine.application.activityCount, 0);
+  model().toggleSelectedDisplayLock();
+  machine.runDue();
+  EXPECT_EQ(machine.application.activityCount, 1);
+  machine.permission.setTrusted(false);
+  machine.runDue();
+  EXPECT_EQ(machine.application.activityCount, 0);
+  machine.permission.setTrusted(true);
+  machine.runDue();
+  EXPECT_EQ(machine.application.activityCount, 1);
 }
 
 }  // namespace

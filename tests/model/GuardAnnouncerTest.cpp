@@ -80,11 +80,11 @@ TEST_F(GuardAnnouncerTest, APermissionThatIsTakenAwayIsToldAndItsReturnToo) {
   launchPinned();
   said();
   machine.permission.setTrusted(false);
-  model->setHasAccessibilityPermission(false);
+  model->refreshPermission();
   EXPECT_EQ(said(),
             Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
   machine.permission.setTrusted(true);
-  model->setHasAccessibilityPermission(true);
+  model->refreshPermission();
   EXPECT_EQ(said(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
 }
 
@@ -93,11 +93,11 @@ TEST_F(GuardAnnouncerTest, AGuardThatGoesWithItsPermissionIsToldOnceAsBlocked) {
   said();
   machine.permission.setTrusted(false);
   model->guardService().stop();
-  model->setHasAccessibilityPermission(false);
+  model->refreshPermission();
   EXPECT_EQ(said(),
             Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
   machine.permission.setTrusted(true);
-  model->setHasAccessibilityPermission(true);
+  model->refreshPermission();
   EXPECT_EQ(said(), Announcements());
 }
 
@@ -107,13 +107,13 @@ TEST_F(GuardAnnouncerTest, ALockThatHasStartedAfterAllIsNoLongerBlockedWhenThePe
   launch();
   said();
   machine.permission.setTrusted(true);
-  model->setHasAccessibilityPermission(true);
+  model->refreshPermission();
   model->toggleSelectedDisplayLock();
   said();
   model->toggleSelectedDisplayLock();
   EXPECT_EQ(said(), Announcements{"The Dock is no longer guarded"});
   machine.permission.setTrusted(false);
-  model->setHasAccessibilityPermission(false);
+  model->refreshPermission();
   EXPECT_EQ(said(), Announcements());
 }
 

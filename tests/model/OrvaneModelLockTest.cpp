@@ -219,16 +219,27 @@ TEST_F(OrvaneModelLockTest, PreventWithoutPermissionAsksBeforeTheModeIsChosen) {
   EXPECT_TRUE(isPreventing());
 }
 
-TEST_F(OrvaneModelLockTest, AGrantForPreventStopsAPinThatBeganMeanwhile) {
+TEST_F(OrvaneModelLockTest, APinThatCameAfterTheRequestForPreventStays) {
   machine.permission.setTrusted(false);
   launch().toggleHideDockOnAllDisplays();
   machine.runDue();
   machine.permission.setTrusted(true);
   model->toggleSelectedDisplayLock();
   ASSERT_TRUE(isPinned());
-  EXPECT_EQ(writesOf([&] { prompts.at(0)(); }),
-            (Writes{{"isOrvaneEnabled", 2}, {"hidesDockOnAllDisplays", 1}}));
-  EXPECT_TRUE(isPreventing());
+  EXPECT_EQ(writesOf([&] { prompts.at(0)(); }), Writes{});
+  EXPECT_TRUE(isPinned());
+}
+
+TEST_F(OrvaneModelLockTest, APinThatWasSwitchedOffAgainIsNotStartedByItsGrant) {
+  machine.permission.setTrusted(false);
+  launch().toggleSelectedDisplayLock();
+  machine.runDue();
+  machine.permission.setTrusted(true);
+  model->toggleSelectedDisplayLock();
+  model->toggleSelectedDisplayLock();
+  prompts.at(0)();
+  EXPECT_FALSE(model->isGuardRunning());
+  EXPECT_EQ(stored("isOrvaneEnabled"), Value(false));
 }
 
 TEST_F(OrvaneModelLockTest, AGrantForPreventWritesTheModeEvenWhenItIsChosenAlready) {

@@ -42,7 +42,8 @@ TEST_F(OrvaneStatusTest, AMissingPermissionComesBeforeAMissingTarget) {
   machine.permission.setTrusted(false);
   launch();
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
-  model->setHasAccessibilityPermission(true);
+  machine.permission.setTrusted(true);
+  model->refreshPermission();
   EXPECT_EQ(model->status(), OrvaneStatus::targetMissing);
 }
 

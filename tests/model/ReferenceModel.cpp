@@ -75,8 +75,15 @@ void Model::start() {
   lastChecked = world_.date();
 }
 
+void Model::overtakeRequests() {
+  if (!isGranting_) {
+    std::ranges::fill(requests, Request::overtaken);
+  }
+}
+
 void Model::startForTheUser() {
   if (prevents || selected) {
+    overtakeRequests();
     start();
     world_.write("isOrvaneEnabled", true);
   }
@@ -84,6 +91,7 @@ void Model::startForTheUser() {
 
 void Model::stopIfRunning() {
   if (isRunning()) {
+    overtakeRequests();
     guard.stop();
     world_.write("isOrvaneEnabled", false);
     isUnlocked = false;
@@ -193,15 +201,20 @@ void Model::ask(Request request) {
 }
 
 void Model::granted(Request request) {
+  if (request == Request::overtaken) {
+    return;
+  }
+  isGranting_ = true;
   hasPermission = true;
   refresh();
   if (request == Request::lock) {
     startForTheUser();
-    return;
+  } else {
+    stopIfRunning();
+    setPrevents(true);
+    toggleLock();
   }
-  stopIfRunning();
-  setPrevents(true);
-  toggleLock();
+  isGranting_ = false;
 }
 
 void Model::displaysChanged() {

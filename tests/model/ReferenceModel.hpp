@@ -16,7 +16,7 @@ namespace orvane::reference {
 /// One run of the application.
 class Model {
  public:
-  enum class Request { lock, prevent };
+  enum class Request { lock, prevent, overtaken };
 
   explicit Model(World& world);
 
@@ -58,6 +58,8 @@ class Model {
 
  private:
   void setSelected(const std::optional<std::string>& id);
+  /// The user starts or stops the guard: what was asked for before has no effect any more.
+  void overtakeRequests();
   void ask(Request request);
   void start();
   void startForTheUser();
@@ -70,6 +72,7 @@ class Model {
   /// The screens as they were when they were last listed.
   std::vector<Screen> listed_;
   double askingEnds_ = 0;
+  bool isGranting_ = false;
   std::vector<double> looks_;
 };
 

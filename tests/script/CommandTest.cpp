@@ -70,7 +70,7 @@ TEST(CommandTest, TheDockIsWhereItsPreferencesPutIt) {
 TEST(CommandTest, TrustAndTapsAreGivenAndTaken) {
   EXPECT_EQ(
       failuresOf(pinned + "expect guard.taps 1\ntrust off\nexpect guard.taps 0\ntrust on\n"
-                          "expect guard.taps 0\ntaps refuse\ndo toggleSelectedDisplayLock\n"
+                          "expect guard.taps 1\ntaps refuse\ndo toggleSelectedDisplayLock\n"
                           "do toggleSelectedDisplayLock\nexpect guard.running false\ntaps allow\n"
                           "do toggleSelectedDisplayLock\nexpect guard.running true\n"),
       "");

@@ -106,7 +106,7 @@ TEST(ComplaintTest, TellsWhatIsWrongWithDisplays) {
 TEST(ComplaintTest, TellsWhatIsWrongWithSystem) {
   expectComplaints({{"trust maybe", "trust: on|off must be one of off, on, not \"maybe\""},
                     {"taps on", "taps: allow|refuse must be one of allow, refuse"},
-                    {"tap disabled", "tap disabled: timeout|userinput is missing"},
+                    {"tap disabled", "tap disabled: timeout|userinput|silently|forgood is missing"},
                     {"dock edge", "dock edge: VALUE is missing"},
                     {"dock edge left right", "dock edge: unexpected \"right\""},
                     {"dock autohide", "dock autohide: on|off is missing"},

@@ -69,7 +69,7 @@ TEST(WindowScriptTest, TheAlertLeadsToTheGuideAndTheGuideToTheLock) {
              "key return\nexpect windows.# 1\nexpect windows.0.surface \"system\"\n"
              "expect opened.# 1\n"
              "advance 2\nexpect windows.1.surface \"guide\"\nexpect windows.1.level 25\n"
-             "expect windows.1.collectionBehavior 131346\nexpect windows.1.key false\n"
+             "expect windows.1.collectionBehavior 131346\nexpect windows.1.key true\n"
              "trust on\nadvance 1\nexpect guide.state \"success\"\nexpect guide.visible true\n"
              "expect model.status \"locked\"\nadvance 1.5\nexpect guide.visible false\n");
 }

@@ -7,7 +7,6 @@
 #include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/main/TitleBarIconButtonStyle.hpp"
 #include "Orvane/panels/main/TrafficLightButton.hpp"
-#include "Orvane/platform/Quartz.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
 #include "Orvane/ui/Button.hpp"
 #include "Orvane/ui/Image.hpp"
@@ -33,18 +32,6 @@ constexpr double permissionRefreshSeconds = 1.0;
 
 }  // namespace
 
-std::string ContentView::localized(std::string_view english, std::string_view chinese) const {
-  return model->appLanguage().value().localized(english, chinese);
-}
-
-bool ContentView::isPinned() const {
-  return model->isGuardRunning() && !model->hidesDockOnAllDisplays().value();
-}
-
-bool ContentView::isPreventing() const {
-  return model->isGuardRunning() && model->hidesDockOnAllDisplays().value();
-}
-
 View ContentView::windowBackground(bool isDark) const {
   const View highlight = Rectangle()
                              .fill(OrvanePalette::windowTopHighlight(isDark))
@@ -60,11 +47,11 @@ View ContentView::windowBackground(bool isDark) const {
 View ContentView::trafficLights(const Environment& environment) const {
   const State<bool> isHovered = environment.state("isTrafficLightsHovered", false);
   // A frameless window has no title bar that would know these keys.
-  const View close =
-      View(TrafficLightButton::close(isHovered.value(), localized("Close", "关闭"), actions.close))
-          .keyboardShortcut(KeyboardShortcut::command("w"));
+  const View close = View(TrafficLightButton::close(
+                              isHovered.value(), model->localized("Close", "关闭"), actions.close))
+                         .keyboardShortcut(KeyboardShortcut::command("w"));
   const View minimise =
-      View(TrafficLightButton::minimise(isHovered.value(), localized("Minimise", "最小化"),
+      View(TrafficLightButton::minimise(isHovered.value(), model->localized("Minimise", "最小化"),
                                         actions.minimise))
           .keyboardShortcut(KeyboardShortcut::command("m"));
   return HStack(trafficLightSpacing, {close, minimise}).onHover([isHovered](bool isInside) {
@@ -87,7 +74,7 @@ View ContentView::appIcon(const Environment& environment) const {
 }
 
 View ContentView::settingsButton() const {
-  const std::string title = localized("Settings", "设置");
+  const std::string title = model->localized("Settings", "设置");
   return Button(actions.showSettings,
                 Symbol("gearshape").font(Font::system(18, Weight::semibold)).frame(34, 34))
       .style(TitleBarIconButtonStyle{})
@@ -133,9 +120,9 @@ View ContentView::body(const Environment& environment) const {
       .onAppear([model = model, hasAppeared, permissionTimer] {
         model->refreshDisplays();
         hasAppeared.set(true, Curve::easeOut(entranceSeconds));
-        permissionTimer.set(std::make_shared<appkit::Timer>(appkit::Timer::repeating(
-            permissionRefreshSeconds, appkit::RunLoopMode::common,
-            [model] { model->setHasAccessibilityPermission(AXIsProcessTrusted() != 0); })));
+        permissionTimer.set(std::make_shared<appkit::Timer>(
+            appkit::Timer::repeating(permissionRefreshSeconds, appkit::RunLoopMode::common,
+                                     [model] { model->refreshPermission(); })));
       });
 }
 

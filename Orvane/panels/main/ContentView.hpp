@@ -3,8 +3,6 @@
 #pragma once
 
 #include <functional>
-#include <string>
-#include <string_view>
 
 #include "Orvane/model/OrvaneModel.hpp"
 #include "Orvane/ui/View.hpp"
@@ -32,12 +30,6 @@ struct ContentView {
   ui::View body(const ui::Environment& environment) const;
 
  private:
-  [[nodiscard]] std::string localized(std::string_view english, std::string_view chinese) const;
-  /// The guard is running and pins the Dock to one display.
-  [[nodiscard]] bool isPinned() const;
-  /// The guard is running and keeps the Dock from every display.
-  [[nodiscard]] bool isPreventing() const;
-
   [[nodiscard]] ui::View windowBackground(bool isDark) const;
   [[nodiscard]] ui::View titleBar(const ui::Environment& environment) const;
   [[nodiscard]] ui::View trafficLights(const ui::Environment& environment) const;

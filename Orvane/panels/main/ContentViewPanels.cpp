@@ -81,12 +81,15 @@ View ContentView::panels() const {
 }
 
 View ContentView::lockDockPanel() const {
-  const View head = header(
-      {.systemImage = "lock", .tint = Color::accent()},
-      {.title = localized("Pin Dock to a Display", "固定 Dock 到指定显示器"),
-       .description = localized("Dock stays on the selected display", "Dock 固定在选中的显示器")},
-      {.text = isPinned() ? localized("Pinned", "已固定") : localized("Not Pinned", "未固定"),
-       .isActive = isPinned()});
+  const bool isPinned = model->mode() == OrvaneMode::pinning;
+  const View head =
+      header({.systemImage = "lock", .tint = Color::accent()},
+             {.title = model->localized("Pin Dock to a Display", "固定 Dock 到指定显示器"),
+              .description = model->localized("Dock stays on the selected display",
+                                              "Dock 固定在选中的显示器")},
+             {.text = isPinned ? model->localized("Pinned", "已固定")
+                               : model->localized("Not Pinned", "未固定"),
+              .isActive = isPinned});
   return panel(pinPanelHeight, VStack(pinPanelRowSpacing, {head, displayPicker(), pinButton()}));
 }
 
@@ -113,43 +116,50 @@ View ContentView::displayPicker() const {
 }
 
 View ContentView::pinButton() const {
-  const View label = isPinned() ? labelled("lock.open", localized("Unpin Dock", "解除固定 Dock"))
-                                : labelled("lock", localized("Pin Dock", "固定 Dock"));
+  const bool isPinned = model->mode() == OrvaneMode::pinning;
+  const View label = isPinned
+                         ? labelled("lock.open", model->localized("Unpin Dock", "解除固定 Dock"))
+                         : labelled("lock", model->localized("Pin Dock", "固定 Dock"));
   return Button([model = model] { model->toggleSelectedDisplayLock(); }, label)
-      .style(PrimaryActionButtonStyle{.tint = isPinned() ? Color::red() : Color::accent()})
+      .style(PrimaryActionButtonStyle{.tint = isPinned ? Color::red() : Color::accent()})
       .focusRing(ShapeForm::rounded(PrimaryActionButtonStyle::cornerRadius))
       .disabled(!model->selectedDisplayID().value().has_value());
 }
 
 View ContentView::hideDockPanel() const {
+  const bool isPreventing = model->mode() == OrvaneMode::preventing;
   const std::string description =
-      isPreventing()
-          ? localized(
+      isPreventing
+          ? model->localized(
                 "If the Dock is still visible, manually enable “Automatically hide and show "
                 "the Dock”",
                 "如果你还看得到 Dock 栏，需要手动开启“自动隐藏和显示程序坞”")
-          : localized("Prevents screen edges from bringing up the Dock",
-                      "阻止屏幕边缘触发 Dock 弹出");
-  const View head = header(
-      {.systemImage = "eye.slash", .tint = isPreventing() ? Color::accent() : Color::gray()},
-      {.title = localized("Prevent Dock Pop-Up", "防止 Dock 弹出"), .description = description},
-      {.text = isPreventing() ? localized("Enabled", "已启用") : localized("Off", "未启用"),
-       .isActive = isPreventing()});
+          : model->localized("Prevents screen edges from bringing up the Dock",
+                             "阻止屏幕边缘触发 Dock 弹出");
+  const View head =
+      header({.systemImage = "eye.slash", .tint = isPreventing ? Color::accent() : Color::gray()},
+             {.title = model->localized("Prevent Dock Pop-Up", "防止 Dock 弹出"),
+              .description = description},
+             {.text = isPreventing ? model->localized("Enabled", "已启用")
+                                   : model->localized("Off", "未启用"),
+              .isActive = isPreventing});
   return panel(popUpPanelHeight,
                VStack(popUpPanelRowSpacing, {head.height(popUpPanelHeaderHeight), popUpButtons()}));
 }
 
 View ContentView::popUpButtons() const {
+  const bool isPreventing = model->mode() == OrvaneMode::preventing;
   const View toggleLabel =
-      isPreventing() ? labelled("eye", localized("Allow Dock Pop-Up", "允许 Dock 弹出"))
-                     : labelled("eye.slash", localized("Prevent Dock Pop-Up", "防止 Dock 弹出"));
+      isPreventing
+          ? labelled("eye", model->localized("Allow Dock Pop-Up", "允许 Dock 弹出"))
+          : labelled("eye.slash", model->localized("Prevent Dock Pop-Up", "防止 Dock 弹出"));
   const ShapeForm ring = ShapeForm::rounded(SecondaryActionButtonStyle::cornerRadius);
   const View toggle = Button([model = model] { model->toggleHideDockOnAllDisplays(); }, toggleLabel)
                           .style(SecondaryActionButtonStyle{})
                           .focusRing(ring);
   const View openSettings =
       Button([] { DockMouseGuard::openDesktopAndDockSettings(); },
-             labelled("gearshape", localized("Open Dock Settings", "打开 Dock 设置")))
+             labelled("gearshape", model->localized("Open Dock Settings", "打开 Dock 设置")))
           .style(SecondaryActionButtonStyle{})
           .focusRing(ring)
           .width(dockSettingsWidth)
@@ -160,7 +170,7 @@ View ContentView::popUpButtons() const {
       .top = lineRoom, .leading = lineRoom, .bottom = lineRoom, .trailing = DockPanel::padding};
   const Edges back{
       .top = -lineRoom, .leading = -lineRoom, .bottom = -lineRoom, .trailing = -DockPanel::padding};
-  return HStack(buttonSpacing, {toggle, when(isPreventing(), openSettings)})
+  return HStack(buttonSpacing, {toggle, when(isPreventing, openSettings)})
       .padding(toTheEdge)
       .clip(ShapeForm::rectangle())
       .padding(back);

@@ -2,6 +2,7 @@
 // are in OrvaneSettingsViewCards.cpp.
 #include "Orvane/panels/settings/OrvaneSettingsView.hpp"
 
+#include "Orvane/panels/settings/LoginItemCaption.hpp"
 #include "Orvane/panels/settings/SettingsIconButtonStyle.hpp"
 #include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/ui/Button.hpp"
@@ -38,11 +39,6 @@ View headerTile() {
 
 }  // namespace
 
-std::string OrvaneSettingsView::localized(std::string_view english,
-                                          std::string_view chinese) const {
-  return model->appLanguage().value().localized(english, chinese);
-}
-
 std::function<void()> OrvaneSettingsView::closing(const Environment& environment) const {
   return [onClose = onClose, environment] {
     if (onClose) {
@@ -62,7 +58,7 @@ View OrvaneSettingsView::closingByCommand(const Environment& environment) const 
 }
 
 View OrvaneSettingsView::header(const Environment& environment) const {
-  const std::string closeTitle = localized("Close", "关闭");
+  const std::string closeTitle = model->localized("Close", "关闭");
   const View closeButton =
       Button(closing(environment),
              Symbol("xmark").font(Font::system(12, Weight::bold)).frame(28, 28))
@@ -71,11 +67,14 @@ View OrvaneSettingsView::header(const Environment& environment) const {
           .keyboardShortcut(KeyboardShortcut::cancelAction())
           .tooltip(closeTitle)
           .accessibilityLabel(closeTitle);
-  return HStack(10, {headerTile(),
-                     Text(localized("Settings", "设置"))
-                         .font(Font::system(17, Weight::bold))
-                         .accessibilityRole(Role::heading),
-                     Spacer(), closeButton})
+  const LoginItemCaption caption{model};
+  return HStack(10,
+                {headerTile(),
+                 Text(model->localized("Settings", "设置"))
+                     .font(Font::system(17, Weight::bold))
+                     .fixedSize()
+                     .accessibilityRole(Role::heading),
+                 Spacer(), when(caption.isNeeded(), View(caption).layoutPriority(1)), closeButton})
       .padding(headerPadding)
       .maximumWidth()
       .background(Rectangle().fill(SettingsPalette::headerGradient(environment.isDark())))
@@ -92,7 +91,10 @@ View OrvaneSettingsView::body(const Environment& environment) const {
       .frame(width, height)
       .background(closingByCommand(environment))
       .background(Rectangle().fill(SettingsPalette::windowGradient(environment.isDark())))
-      .onAppear([hasAppeared] { hasAppeared.set(true, Curve::easeOut(entranceSeconds)); });
+      .onAppear([model = model, hasAppeared] {
+        model->refreshLaunchAtLoginStatus();
+        hasAppeared.set(true, Curve::easeOut(entranceSeconds));
+      });
 }
 
 }  // namespace orvane

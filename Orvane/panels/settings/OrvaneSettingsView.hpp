@@ -2,8 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <string>
-#include <string_view>
 
 #include "Orvane/model/OrvaneModel.hpp"
 #include "Orvane/ui/View.hpp"
@@ -23,7 +21,6 @@ struct OrvaneSettingsView {
   ui::View body(const ui::Environment& environment) const;
 
  private:
-  [[nodiscard]] std::string localized(std::string_view english, std::string_view chinese) const;
   /// What closes the panel.
   [[nodiscard]] std::function<void()> closing(const ui::Environment& environment) const;
   /// The close button has Escape; this is Command-W, for the keyboard alone.

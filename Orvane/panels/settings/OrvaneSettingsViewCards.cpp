@@ -66,10 +66,10 @@ View OrvaneSettingsView::cards() const {
 }
 
 View OrvaneSettingsView::languageCard() const {
-  const std::string title = localized("Language", "语言");
+  const std::string title = model->localized("Language", "语言");
   // In the order of the cases; the name of English is the same in both languages, on purpose.
-  const std::vector<std::string> names = {localized("Follow System", "跟随系统"), "English",
-                                          localized("Chinese", "中文")};
+  const std::vector<std::string> names = {model->localized("Follow System", "跟随系统"), "English",
+                                          model->localized("Chinese", "中文")};
   const Picker picker{
       .label = title,
       .items = names,
@@ -79,12 +79,12 @@ View OrvaneSettingsView::languageCard() const {
         model->setAppLanguage(OrvaneLanguage::allCases.at(static_cast<std::size_t>(index)));
       }};
   return section("globe", title, SettingsPalette::blue(),
-                 HStack({Text(localized("Use Orvane in", "Orvane 使用语言")), Spacer(),
+                 HStack({Text(model->localized("Use Orvane in", "Orvane 使用语言")), Spacer(),
                          View(picker).width(languagePickerWidth)}));
 }
 
 View OrvaneSettingsView::shortcutCard() const {
-  const std::string title = localized("Temporary Unlock Shortcut", "临时解锁快捷键");
+  const std::string title = model->localized("Temporary Unlock Shortcut", "临时解锁快捷键");
   std::vector<std::string> names;
   names.reserve(OrvaneModifier::allCases.size());
   for (const OrvaneModifier modifier : OrvaneModifier::allCases) {
@@ -99,34 +99,35 @@ View OrvaneSettingsView::shortcutCard() const {
         model->setTemporaryUnlockModifier(
             OrvaneModifier::allCases.at(static_cast<std::size_t>(index)));
       }};
-  const View line = statement(
-      localized("Hold the shortcut to allow Dock temporarily", "按住快捷键时允许 Dock 临时弹出"));
+  const View line = statement(model->localized("Hold the shortcut to allow Dock temporarily",
+                                               "按住快捷键时允许 Dock 临时弹出"));
   return section("keyboard", title, SettingsPalette::indigo(),
                  HStack({line, Spacer(), View(picker).width(shortcutPickerWidth)}));
 }
 
 View OrvaneSettingsView::privacyCard() const {
-  const View buttons = HStack(
-      buttonSpacing, {button("doc.text", localized("Privacy Policy", "隐私政策"),
-                             [model = model] { model->openPrivacyPolicy(); }),
-                      button("lock.shield", localized("Accessibility Settings", "辅助功能设置"),
-                             [model = model] { model->openAccessibilitySettings(); })});
-  const View text = statement(localized(
+  const View buttons =
+      HStack(buttonSpacing,
+             {button("doc.text", model->localized("Privacy Policy", "隐私政策"),
+                     [model = model] { model->openPrivacyPolicy(); }),
+              button("lock.shield", model->localized("Accessibility Settings", "辅助功能设置"),
+                     [model = model] { model->openAccessibilitySettings(); })});
+  const View text = statement(model->localized(
       "Orvane only reads display layout and mouse position on this Mac to prevent non-target "
       "displays from triggering Dock. It does not collect, upload, or share personal data",
       "Orvane 只在本机读取显示器排列和鼠标位置，用于阻止非目标显示器触发 "
       "Dock。不会收集、上传或共享个人数据"));
-  return section("hand.raised", localized("Privacy", "隐私"), SettingsPalette::mint(),
+  return section("hand.raised", model->localized("Privacy", "隐私"), SettingsPalette::mint(),
                  VStack(textToButtons, HorizontalAlignment::leading, {text, buttons}));
 }
 
 View OrvaneSettingsView::supportCard() const {
-  const View text = statement(localized(
+  const View text = statement(model->localized(
       "Contact support by email if you run into display detection, permission, or locking issues",
       "遇到显示器识别、权限或锁定问题时，可以通过邮件联系支持"));
-  return section("lifepreserver", localized("Support", "用户支持"), SettingsPalette::sky(),
+  return section("lifepreserver", model->localized("Support", "用户支持"), SettingsPalette::sky(),
                  VStack(textToButtons, HorizontalAlignment::leading,
-                        {text, button("envelope", localized("Contact Support", "联系支持"),
+                        {text, button("envelope", model->localized("Contact Support", "联系支持"),
                                       [model = model] { model->openSupportEmail(); })}));
 }
 

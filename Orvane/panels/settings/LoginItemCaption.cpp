@@ -1,0 +1,59 @@
+// What the caption says, and the way to the page where the user can do something about it.
+#include "Orvane/panels/settings/LoginItemCaption.hpp"
+
+#include <memory>
+#include <string>
+
+#include "Orvane/panels/settings/SettingsPalette.hpp"
+#include "Orvane/panels/settings/SettingsSecondaryButtonStyle.hpp"
+#include "Orvane/platform/appkit/Timer.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+namespace {
+
+constexpr double spacing = 6;
+/// The user may approve or remove the item in the System Settings while the caption is shown.
+constexpr double refreshSeconds = 1.0;
+
+}  // namespace
+
+bool LoginItemCaption::isNeeded() const {
+  return model->launchAtLoginErrorMessage().value() ||
+         model->launchAtLoginRequiresApproval().value();
+}
+
+View LoginItemCaption::body(const Environment& environment) const {
+  // It ends with the view, whose state it is.
+  const State<std::shared_ptr<appkit::Timer>> refreshTimer =
+      environment.state("refreshTimer", std::shared_ptr<appkit::Timer>());
+  const std::string message = model->launchAtLoginErrorMessage().value().value_or(
+      model->localized("Approve Orvane in Login Items", "请在“登录项”中允许 Orvane"));
+  const View text = Text(message)
+                        .font(Font::caption())
+                        .foreground(SettingsPalette::statementText())
+                        .lineLimit(2)
+                        .tooltip(message);
+  const View button =
+      Button([model = model] { model->openLoginItemsSettings(); },
+             Text(model->localized("Login Items…", "登录项…")).fixedSize())
+          .style(SettingsSecondaryButtonStyle{})
+          .focusRing(ShapeForm::rounded(SettingsSecondaryButtonStyle::cornerRadius));
+  const View mark = Symbol("exclamationmark.triangle.fill")
+                        .font(Font::system(12, Weight::semibold))
+                        .foreground(Color::orange());
+  return HStack(spacing, {mark, text, button}).onAppear([model = model, refreshTimer] {
+    refreshTimer.set(std::make_shared<appkit::Timer>(
+        appkit::Timer::repeating(refreshSeconds, appkit::RunLoopMode::common,
+                                 [model] { model->refreshLaunchAtLoginStatus(); })));
+  });
+}
+
+}  // namespace orvane
