@@ -15,6 +15,7 @@
 #include "Orvane/platform/appkit/LoginItem.hpp"
 #include "Orvane/platform/appkit/Menu.hpp"
 #include "Orvane/platform/appkit/NotificationCenter.hpp"
+#include "Orvane/platform/appkit/Screen.hpp"
 #include "Orvane/platform/appkit/StatusItem.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
 #include "Orvane/platform/appkit/UserDefaults.hpp"
@@ -28,6 +29,7 @@ namespace orvane {
 namespace {
 
 std::vector<std::string>* recorded = nullptr;
+int screenListCount = 0;
 
 void note(std::string call) {
   if (recorded != nullptr) {
@@ -61,6 +63,7 @@ std::string quoted(std::string_view text) {
 
 SeamRecorder::SeamRecorder() {
   recorded = &calls_;
+  screenListCount = 0;
 }
 
 SeamRecorder::~SeamRecorder() {
@@ -73,6 +76,10 @@ std::string SeamRecorder::text() const {
     all += call + "\n";
   }
   return all;
+}
+
+int SeamRecorder::screenLists() {
+  return screenListCount;
 }
 
 const appkit::ApplicationDelegate& SeamRecorder::delegate() {
@@ -307,6 +314,15 @@ void addItem(Menu*, MenuItem) WRAPPED("_ZN6orvane6appkit4Menu7addItemENS0_8MenuI
 void addItem(Menu* menu, MenuItem item) {
   note("Menu.addItem " + (item.isSeparator ? std::string("-") : quoted(item.title)));
   realAddItem(menu, std::move(item));
+}
+
+// Screen
+
+std::vector<Screen> realScreens() REAL("_ZN6orvane6appkit6Screen7screensEv");
+std::vector<Screen> screens() WRAPPED("_ZN6orvane6appkit6Screen7screensEv");
+std::vector<Screen> screens() {
+  ++screenListCount;
+  return realScreens();
 }
 
 // Timer

@@ -22,6 +22,9 @@ class SeamRecorder {
   /// One call in each line: the name of the function and what matters of its arguments.
   [[nodiscard]] std::string text() const;
 
+  /// How often the screens were listed, which is a look-up and no call of the text.
+  [[nodiscard]] static int screenLists();
+
   /// What the application has given the system to call, whether it was recorded or not.
   [[nodiscard]] static const appkit::ApplicationDelegate& delegate();
 

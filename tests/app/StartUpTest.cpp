@@ -198,6 +198,21 @@ TEST_F(StartUpTest, SecondsInWhichNothingChangesAskForThePermissionAndForNothing
   }
 }
 
+TEST_F(StartUpTest, TheScreensAreListedOnceForTheModelAndOnceForTheGuard) {
+  machine.permission.setTrusted(true);
+  application.launch();
+  model().refreshDisplays();
+  {
+    const SeamRecorder recorder;
+    model().toggleSelectedDisplayLock();
+    EXPECT_EQ(SeamRecorder::screenLists(), 2);
+  }
+  const SeamRecorder recorder;
+  desk::attach(machine, desk::monitorAbove());
+  machine.runDue();
+  EXPECT_EQ(SeamRecorder::screenLists(), 3) << "the guard, the model, and the guard's restart";
+}
+
 TEST_F(StartUpTest, TheIconFollowsTheGuardAtOnce) {
   machine.permission.setTrusted(true);
   application.launch();
