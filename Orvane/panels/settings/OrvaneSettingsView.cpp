@@ -68,13 +68,12 @@ View OrvaneSettingsView::header(const Environment& environment) const {
           .tooltip(closeTitle)
           .accessibilityLabel(closeTitle);
   const LoginItemCaption caption{model};
-  return HStack(10,
-                {headerTile(),
-                 Text(model->localized("Settings", "设置"))
-                     .font(Font::system(17, Weight::bold))
-                     .fixedSize()
-                     .accessibilityRole(Role::heading),
-                 Spacer(), when(caption.isNeeded(), View(caption).layoutPriority(1)), closeButton})
+  return HStack(10, {headerTile(),
+                     Text(model->localized("Settings", "设置"))
+                         .font(Font::system(17, Weight::bold))
+                         .fixedSize()
+                         .accessibilityRole(Role::heading),
+                     Spacer(), when(caption.isNeeded(), caption), closeButton})
       .padding(headerPadding)
       .maximumWidth()
       .background(Rectangle().fill(SettingsPalette::headerGradient(environment.isDark())))
