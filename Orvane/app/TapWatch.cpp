@@ -19,8 +19,8 @@ TapWatch::~TapWatch() {
 }
 
 void TapWatch::permissionsChanged() {
-  if (model_.isPermissionDoubted()) {
-    // The change may have mended what the doubt was about.
+  if (model_.isPermissionDoubted() || model_.guardService().isTapRefused()) {
+    // The system may grant now what it refused before.
     model_.believePermission();
     wasMissing_ = true;
   }
@@ -37,28 +37,35 @@ void TapWatch::look() {
     }
     return;
   }
-  if (std::exchange(wasMissing_, false)) {
-    resumeGuard();
-  } else {
+  if (model_.isPermissionDoubted()) {
+    return;
+  }
+  if (const bool isBack = std::exchange(wasMissing_, false); model_.isGuardRunning()) {
     reviveTap();
+  } else if (isBack) {
+    resumeGuard();
   }
 }
 
 void TapWatch::resumeGuard() {
   model_.resumeGuard();
   if (model_.guardService().isTapRefused()) {
-    model_.doubtPermission();
+    giveUp();
   }
 }
 
 void TapWatch::reviveTap() {
-  if (!model_.isGuardRunning()) {
-    return;
-  }
   model_.guardService().reviveTap();
-  if (!model_.isGuardRunning()) {
-    model_.doubtPermission();
+  if (model_.guardService().isTapRefused()) {
+    giveUp();
   }
+}
+
+void TapWatch::giveUp() {
+  // A guard that went on waiting for the displays would ask for a tap at each change of them.
+  model_.suspendGuard();
+  model_.doubtPermission();
+  wasMissing_ = true;
 }
 
 }  // namespace orvane

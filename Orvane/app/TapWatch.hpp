@@ -27,9 +27,11 @@ class TapWatch {
   void look();
   void resumeGuard();
   void reviveTap();
+  /// The system refuses the tap although it says that the permission is there.
+  void giveUp();
 
   OrvaneModel& model_;
-  /// The permission was missing at the last look, or at launch.
+  /// The permission was missing, or doubted, at the last look or at launch.
   bool wasMissing_;
   appkit::Timer timer_;
   appkit::ObserverToken permissionObserver_;

@@ -64,12 +64,19 @@ void DockMouseGuard::stop() {
 }
 
 void DockMouseGuard::reviveTap() {
-  if (!eventTap_ || isShutOff_ || CGEventTapIsEnabled(eventTap_.get())) {
+  // The main queue may stand still, in a modal session, with the clean-up.
+  finishShutOff();
+  announceRunning();
+  if (!eventTap_ || CGEventTapIsEnabled(eventTap_.get())) {
     wasRevived_ = false;
     return;
   }
   if (!std::exchange(wasRevived_, true)) {
     CGEventTapEnable(eventTap_.get(), true);
+    return;
+  }
+  if (isDisabledTooOften()) {
+    shutOff();
     return;
   }
   removeEventTap();
@@ -196,6 +203,7 @@ void DockMouseGuard::finishShutOff() {
   }
   cachedTriggerZones_.clear();
   forgetRecentBlocks();
+  disabledAt_ = neverDisabled();
   pause();
 }
 
@@ -208,7 +216,6 @@ void DockMouseGuard::pause() {
 void DockMouseGuard::forgetRecentBlocks() {
   recentBlockTimestamps_.clear();
   lastBlockedEventLogAt_ = 0;
-  disabledAt_ = neverDisabled();
 }
 
 void DockMouseGuard::emit(std::string message) {

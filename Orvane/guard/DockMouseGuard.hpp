@@ -40,7 +40,7 @@ class DockMouseGuard {
   void stop();
   /// For a caller that looks regularly while the permission is there: the first look that finds the
   /// tap disabled enables it; if the next one finds it disabled again, a new tap takes its place.
-  /// A guard that has shut itself off is left alone.
+  /// A shut-off that the main queue has not finished yet is finished.
   void reviveTap();
 
   /// The filter: called for every event that the tap delivers; returns the same event, whose
@@ -91,6 +91,8 @@ class DockMouseGuard {
   void recordBlockedEvent();
   void disableEventTapForRapidBlocking();
   void handleDisabledTap();
+  /// Notes that the system has disabled the tap, and whether that reaches the limit.
+  [[nodiscard]] bool isDisabledTooOften();
   /// At once the tap is disabled; the main queue takes it down. Only a change of the displays or
   /// the next start brings the guard back.
   void shutOff();

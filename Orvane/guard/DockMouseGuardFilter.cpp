@@ -78,14 +78,18 @@ void DockMouseGuard::handleDisabledTap() {
   if (!eventTap_ || isShutOff_) {
     return;
   }
-  std::shift_left(disabledAt_.begin(), disabledAt_.end(), 1);
-  disabledAt_.back() = CACurrentMediaTime();
-  if (disabledAt_.back() - disabledAt_.front() <= disablingWindowSeconds) {
+  if (isDisabledTooOften()) {
     shutOff();
   } else if (AXIsProcessTrusted()) {
     // Without the permission the tap would only hold up the pointer again.
     CGEventTapEnable(eventTap_.get(), true);
   }
+}
+
+bool DockMouseGuard::isDisabledTooOften() {
+  std::shift_left(disabledAt_.begin(), disabledAt_.end(), 1);
+  disabledAt_.back() = CACurrentMediaTime();
+  return disabledAt_.back() - disabledAt_.front() <= disablingWindowSeconds;
 }
 
 void DockMouseGuard::shutOff() {

@@ -131,6 +131,7 @@ void OrvaneModel::setSelectedDisplayID(std::optional<std::string> id) {
 }
 
 void OrvaneModel::setHidesDockOnAllDisplays(bool hides) {
+  modeRequest_ = 0;
   hidesDockOnAllDisplays_.set(hides);
   OrvaneSettings::setHidesDockOnAllDisplays(hides);
   if (hasAccessibilityPermission_.value()) {
@@ -172,6 +173,7 @@ void OrvaneModel::refreshLaunchAtLoginStatus() {
 }
 
 void OrvaneModel::setLaunchAtLoginEnabled(bool enabled) {
+  wantsLaunchAtLogin_ = enabled;
   launchAtLoginErrorMessage_.set(OrvaneLoginItem::setEnabled(enabled));
   refreshLaunchAtLoginStatus();
 }

@@ -126,6 +126,11 @@ class OrvaneModel {
 
   void refreshLaunchAtLoginStatus();
   void setLaunchAtLoginEnabled(bool enabled);
+  /// The last change failed, and the login item is still not what the user asked for.
+  [[nodiscard]] bool isLaunchAtLoginFailing() const {
+    return launchAtLoginErrorMessage_.value() &&
+           launchAtLoginEnabled_.value() != wantsLaunchAtLogin_;
+  }
 
   void openAccessibilitySettings();
   /// Where the user approves and removes login items.
@@ -148,9 +153,9 @@ class OrvaneModel {
   void stopActiveLockIfNeeded();
   void restartGuardIfRunning();
   void requestAccessibilityForAllDisplayGuard();
-  /// Asks for the permission and then runs `start`, unless a later action of the user has started
-  /// or stopped the guard by then.
-  void requestPermission(std::function<void()> start);
+  /// Asks for the permission and then runs `start` with the number of this request, unless a later
+  /// action of the user has started or stopped the guard by then.
+  void requestPermission(std::function<void(std::uint64_t request)> start);
   void setSelectedDisplayID(std::optional<std::string> id);
   void noteChecked();
 
@@ -164,10 +169,13 @@ class OrvaneModel {
   Published<CFAbsoluteTime> lastCheckedAt_;
   bool isRestoreBlocked_ = false;
   bool isPermissionDoubted_ = false;
-  /// The user's actions on the guard are numbered, requests for the permission among them; the last
-  /// is the one that the guard's state is due to.
+  bool wantsLaunchAtLogin_ = false;
+  /// The user's actions on the guard are numbered, requests for the permission among them. The last
+  /// one has made the guard what it is.
   std::uint64_t userActionCount_ = 0;
   std::uint64_t lastUserAction_ = 0;
+  /// The request that has chosen the present mode; 0 when the user has, without one.
+  std::uint64_t modeRequest_ = 0;
   Published<OrvaneLanguage> appLanguage_;
   Published<OrvaneModifier> temporaryUnlockModifier_;
   Published<bool> hidesDockOnAllDisplays_;

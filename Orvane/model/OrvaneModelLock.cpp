@@ -63,7 +63,13 @@ void OrvaneModel::toggleLock() {
   if (hasAccessibilityPermission_.value()) {
     start();
   } else {
-    requestPermission(start);
+    requestPermission([this, start](std::uint64_t request) {
+      // An earlier request has chosen its mode since this one was made.
+      if (modeRequest_ != 0 && modeRequest_ < request) {
+        setHidesDockOnAllDisplays(false);
+      }
+      start();
+    });
   }
 }
 
@@ -100,14 +106,15 @@ void OrvaneModel::toggleHideDockOnAllDisplays() {
 }
 
 void OrvaneModel::requestAccessibilityForAllDisplayGuard() {
-  requestPermission([this] {
+  requestPermission([this](std::uint64_t request) {
     stopActiveLockIfNeeded();
     setHidesDockOnAllDisplays(true);
+    modeRequest_ = request;
     toggleLock();
   });
 }
 
-void OrvaneModel::requestPermission(std::function<void()> start) {
+void OrvaneModel::requestPermission(std::function<void(std::uint64_t request)> start) {
   OrvaneAccessibilityPermission::check(
       lifetime_.whileAlive([this, start = std::move(start), request = ++userActionCount_] {
         if (request < lastUserAction_) {
@@ -115,7 +122,7 @@ void OrvaneModel::requestPermission(std::function<void()> start) {
         }
         believePermission();
         refreshDisplays();
-        start();
+        start(request);
         // What was started is as old as the request: a later one still comes after it.
         lastUserAction_ = request;
       }));

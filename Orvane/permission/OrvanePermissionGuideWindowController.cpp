@@ -39,8 +39,7 @@ appkit::Window makePanel() {
                        appkit::StyleMask::nonactivatingPanel);
   panel.setClassName("OrvaneGuidePanel");
   panel.setMovableByWindowBackground(true);
-  // Without a title bar it refuses unless it is told otherwise, and no key would reach its
-  // controls.
+  // A panel without a title bar refuses by default, and no key would reach its controls.
   panel.setCanBecomeKeyWindow(true);
   // Becoming a floating panel changes the level too, so it comes first.
   panel.setFloatingPanel(true);

@@ -33,7 +33,7 @@ class Displays {
   [[nodiscard]] Complaint beginTogether();
   [[nodiscard]] Complaint endTogether();
   [[nodiscard]] bool isTogether() const { return together_; }
-  /// While changes are made together: something that hangs on the displays has changed with them.
+  /// While changes are made together: a visible frame has changed with them.
   void joinTogether() { changedTogether_ = true; }
 
   /// Called after each change, or once after the changes made together.

@@ -26,7 +26,7 @@ struct LoginItemState {
     }
     return error;
   }
-  /// The error's text, or none on success: the status is then `notRegistered`, whatever it was.
+  /// The error's text, or none on success: the status is then `notRegistered`.
   std::optional<std::string> unregisterApplication() {
     ++unregistrationCount;
     if (!error) {

@@ -66,8 +66,8 @@ void Machine::displaysChanged() {
 
 void Machine::dockChanged() {
   if (process.isRunning()) {
-    // Not here, in the middle of a movement: observers hear of it when the event has had its way,
-    // in every mode of the run loop, as they hear of the displays.
+    // Not here, in the middle of a movement: observers hear of it once the event is delivered, in
+    // every mode of the run loop, as they hear of the displays.
     runLoop.afterCurrent([this] { announceVisibleFrames(); });
   }
 }

@@ -45,7 +45,7 @@ class Machine {
   /// Null when there is none.
   static Machine* currentOrNull();
 
-  /// A process has started: it reads its screens itself, and they are no news to it.
+  /// A process has started. It reads its screens itself, so only later changes are posted.
   void processStarted() { noteVisibleFrames(); }
 
   /// Serves all that is due at the present instant.

@@ -63,14 +63,16 @@ std::shared_ptr<RunLoopTimer> RunLoop::addTimer(std::int64_t intervalNanoseconds
 std::shared_ptr<RunLoopTimer> RunLoop::addTimerOnSharedBeat(std::int64_t intervalNanoseconds,
                                                             ModeSet modes, Task tick) {
   const auto companion = std::find_if(timers_.begin(), timers_.end(), [&](const auto& timer) {
-    return timer->sharesBeat && timer->intervalNanoseconds == intervalNanoseconds &&
-           timer->dueNanoseconds > clock_.now();
+    return timer->sharesBeat && timer->intervalNanoseconds == intervalNanoseconds;
   });
   const bool isFirst = companion == timers_.end();
-  const std::int64_t beat = isFirst ? 0 : (*companion)->dueNanoseconds;
+  std::int64_t beat = isFirst ? 0 : (*companion)->dueNanoseconds;
   auto timer = addTimer(intervalNanoseconds, modes, std::move(tick));
   timer->sharesBeat = true;
   if (!isFirst) {
+    // A companion that is late returns to its grid.
+    const std::int64_t late = clock_.now() - beat;
+    beat += late < 0 ? 0 : (late / intervalNanoseconds + 1) * intervalNanoseconds;
     timer->dueNanoseconds = beat;
   }
   return timer;

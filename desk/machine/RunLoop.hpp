@@ -96,8 +96,8 @@ class RunLoop {
   /// holds are forgotten. Sources are left to their owner.
   void sweep();
 
-  /// Since the machine was switched on: timers fired, tasks run, and instants at which time that
-  /// passed brought something to do, as often as the process was woken from its sleep.
+  /// Since the machine was switched on: timers fired, tasks run, and instants at which at least one
+  /// of them woke the process.
   [[nodiscard]] std::int64_t timerFireCount() const { return timerFires_; }
   [[nodiscard]] std::int64_t taskCount() const { return tasksRun_; }
   [[nodiscard]] std::int64_t wakeUpCount() const { return wakeUps_; }

@@ -11,10 +11,19 @@ struct Activity::Implementation {
   id<NSObject> token;
 };
 
+namespace {
+
+id<NSObject> begin(std::string_view reason) {
+  NSString* const text = foundationString(reason);
+  return [NSProcessInfo.processInfo
+      beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
+                        reason:text == nil ? @"" : text];
+}
+
+}  // namespace
+
 Activity::Activity(std::string_view reason)
-    : implementation_(std::make_unique<Implementation>(Implementation{[NSProcessInfo.processInfo
-          beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
-                            reason:foundationString(reason) ?: @"Orvane"]})) {}
+    : implementation_(std::make_unique<Implementation>(Implementation{begin(reason)})) {}
 
 Activity::~Activity() {
   [NSProcessInfo.processInfo endActivity:implementation_->token];

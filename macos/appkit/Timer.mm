@@ -3,6 +3,7 @@
 
 #import <Foundation/Foundation.h>
 
+#include <cmath>
 #include <utility>
 
 namespace orvane::appkit {
@@ -24,11 +25,14 @@ NSHashTable<NSTimer*>* liveTimers() {
   return timers;
 }
 
-/// When the next live timer of this interval fires; without one, an interval from now.
+/// The next beat of a live timer of this interval, also of one that is late; without one, an
+/// interval from now.
 NSDate* firstFireDate(NSTimeInterval interval) {
   for (NSTimer* timer in liveTimers()) {
-    if (timer.valid && timer.timeInterval == interval && timer.fireDate.timeIntervalSinceNow > 0) {
-      return timer.fireDate;
+    if (timer.valid && timer.timeInterval == interval) {
+      const NSTimeInterval late = -timer.fireDate.timeIntervalSinceNow;
+      const double missedBeats = late < 0 ? 0 : std::floor(late / interval) + 1;
+      return [timer.fireDate dateByAddingTimeInterval:missedBeats * interval];
     }
   }
   return [NSDate dateWithTimeIntervalSinceNow:interval];

@@ -69,7 +69,7 @@ TEST_F(TapWatchTest, TheGuardThatItStoppedComesBackWithThePermission) {
   EXPECT_TRUE(model->guardService().blocksAllDisplays());
 }
 
-TEST_F(TapWatchTest, ATargetThatWentMeanwhileIsWaitedFor) {
+TEST_F(TapWatchTest, ATargetUnpluggedWithoutThePermissionIsAwaited) {
   launchPinned();
   watch();
   machine.permission.setTrusted(false);
@@ -93,7 +93,7 @@ TEST_F(TapWatchTest, AGuardThatNobodyWantedDoesNotComeBack) {
   EXPECT_FALSE(model->isGuardRunning());
 }
 
-TEST_F(TapWatchTest, AGuardThatTheUserStoppedMeanwhileDoesNotComeBack) {
+TEST_F(TapWatchTest, AGuardWithdrawnWithoutThePermissionDoesNotComeBack) {
   launchPinned();
   watch();
   machine.permission.setTrusted(false);
@@ -255,9 +255,27 @@ TEST_F(DoubtedPermissionTest, EndsWhenTheUserAsksForTheGuard) {
   EXPECT_EQ(model->status(), OrvaneStatus::locked);
 }
 
-TEST_F(DoubtedPermissionTest, EndsWithThePermissionsPage) {
+TEST_F(DoubtedPermissionTest, EndsWithThePermissionsPageAndTheGuardComesBack) {
+  machine.eventTaps.setRefusesCreation(false);
   model->openAccessibilitySettings();
   EXPECT_TRUE(model->hasAccessibilityPermission().value());
+  machine.advance(1);
+  EXPECT_EQ(model->status(), OrvaneStatus::locked);
+}
+
+TEST_F(DoubtedPermissionTest, ReturnsWhenTheTapIsRefusedOnceMore) {
+  model->toggleSelectedDisplayLock();
+  EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
+  machine.advance(1);
+  EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
+}
+
+TEST_F(DoubtedPermissionTest, IsNotEndedByAChangeOfTheDisplays) {
+  machine.eventTaps.setRefusesCreation(false);
+  desk::attach(machine, desk::monitorAbove());
+  machine.advance(5);
+  EXPECT_FALSE(model->isGuardRunning());
+  EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
 }
 
 TEST_F(DoubtedPermissionTest, EndsWithTheNextLaunch) {
@@ -265,6 +283,18 @@ TEST_F(DoubtedPermissionTest, EndsWithTheNextLaunch) {
   tapWatch.reset();
   relaunch();
   EXPECT_EQ(model->status(), OrvaneStatus::locked);
+}
+
+TEST_F(TapWatchTest, ATapThatKeepsDyingIsGivenUp) {
+  launchPinned();
+  watch();
+  for (int count = 0; count < 5; ++count) {
+    EXPECT_TRUE(model->isGuardRunning());
+    machine.eventTaps.disableAllSilently(true);
+    machine.advance(2 * TapWatch::intervalSeconds);
+  }
+  EXPECT_FALSE(model->isGuardRunning());
+  EXPECT_TRUE(model->hasAccessibilityPermission().value());
 }
 
 TEST_F(TapWatchTest, ATapRefusedToTheUserIsNoDoubt) {
@@ -285,8 +315,8 @@ TEST_F(TapWatchTest, AGuardThatSwitchedItselfOffStaysOff) {
   for (int move = 0; move < 200; ++move) {
     machine.mouse.post({2500, 1079}, 0);
   }
-  machine.advance(5);
-  EXPECT_FALSE(isTapEnabled());
+  machine.advance(1);
+  EXPECT_FALSE(model->isGuardRunning()) << "the look finishes what the main queue cannot";
   machine.runLoop.releaseMainQueue();
   machine.runLoop.leaveMode();
   machine.advance(5);

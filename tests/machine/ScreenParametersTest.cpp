@@ -147,7 +147,7 @@ TEST_F(ScreenParametersTest, WhatIsUndoneAtOnceIsNoNews) {
   EXPECT_EQ(heardAtRest(), 0);
 }
 
-TEST_F(ScreenParametersTest, ADisplayChangeIsOneWhateverItDoesToTheDock) {
+TEST_F(ScreenParametersTest, ADisplayChangeThatMovesTheDockIsPostedOnce) {
   ASSERT_EQ(machine.displays.renumber(2, 9), std::nullopt);
   EXPECT_EQ(heardAtRest(), 1);
   ASSERT_EQ(machine.displays.setMain(9), std::nullopt);

@@ -169,6 +169,7 @@ void Model::restore() {
 
 void Model::setPrevents(bool newPrevents) {
   prevents = newPrevents;
+  std::ranges::replace(requests, Request::pin, Request::lock);
   world_.write("hidesDockOnAllDisplays", prevents);
   if (hasPermission) {
     restartIfRunning();
@@ -207,12 +208,16 @@ void Model::granted(Request request) {
   isGranting_ = true;
   hasPermission = true;
   refresh();
-  if (request == Request::lock) {
-    startForTheUser();
-  } else {
+  if (request == Request::prevent) {
     stopIfRunning();
     setPrevents(true);
+    std::ranges::replace(requests, Request::lock, Request::pin);
     toggleLock();
+  } else {
+    if (request == Request::pin) {
+      setPrevents(false);
+    }
+    startForTheUser();
   }
   isGranting_ = false;
 }

@@ -16,7 +16,8 @@ namespace orvane::reference {
 /// One run of the application.
 class Model {
  public:
-  enum class Request { lock, prevent, overtaken };
+  /// `pin` is a request to lock that comes after a request to prevent has been granted.
+  enum class Request { lock, pin, prevent, overtaken };
 
   explicit Model(World& world);
 

@@ -26,16 +26,18 @@ constexpr double refreshSeconds = 1.0;
 }  // namespace
 
 bool LoginItemCaption::isNeeded() const {
-  return model->launchAtLoginErrorMessage().value() ||
-         model->launchAtLoginRequiresApproval().value();
+  return model->launchAtLoginRequiresApproval().value() || model->isLaunchAtLoginFailing();
 }
 
 View LoginItemCaption::body(const Environment& environment) const {
   // It ends with the view, whose state it is.
   const State<std::shared_ptr<appkit::Timer>> refreshTimer =
       environment.state("refreshTimer", std::shared_ptr<appkit::Timer>());
-  const std::string message = model->launchAtLoginErrorMessage().value().value_or(
-      model->localized("Approve Orvane in Login Items", "请在“登录项”中允许 Orvane"));
+  // Of the two, the approval is what the user can do something about.
+  const std::string message =
+      model->launchAtLoginRequiresApproval().value()
+          ? model->localized("Approve Orvane in Login Items", "请在“登录项”中允许 Orvane")
+          : model->launchAtLoginErrorMessage().value().value_or("");
   const View text = Text(message)
                         .font(Font::caption())
                         .foreground(SettingsPalette::statementText())
