@@ -6,7 +6,8 @@ set(ORVANE_PRIVACY_POLICY_URL "https://orvane.example/privacy" CACHE STRING
     "Web address of the privacy policy")
 
 set(ORVANE_MACOS_SDK "" CACHE PATH "A macOS SDK, to cross-build the real application on Linux")
-if(APPLE OR ORVANE_MACOS_SDK)
+set(ORVANE_GNUSTEP "" CACHE PATH "Where tools/gnustep has installed GNUstep, to run the Mac half on Linux")
+if(APPLE OR ORVANE_MACOS_SDK OR ORVANE_GNUSTEP)
   set(orvane_default_platform macos)
 else()
   set(orvane_default_platform desk)

@@ -1,0 +1,66 @@
+// Copies of the application that run in one session.
+#import <AppKit/AppKit.h>
+
+#include "macos/handover/Handover.hpp"
+#include "tests/contract/ContractFixture.hpp"
+#include "tests/gnustep/shim/World.hpp"
+
+@interface OrvaneReopenCounter : NSObject <NSApplicationDelegate> {
+ @public
+  int _count;
+}
+@end
+@implementation OrvaneReopenCounter
+- (BOOL)applicationShouldHandleReopen:(NSApplication*)application
+                    hasVisibleWindows:(BOOL)hasVisibleWindows {
+  ++_count;
+  return YES;
+}
+@end
+
+namespace orvane {
+namespace {
+
+using gnustep::world;
+
+/// The copy that is tested was launched at 1000 seconds.
+class HandoverOnMac : public ContractFixture {
+ protected:
+  static constexpr int otherProcess = 1;
+};
+
+TEST_F(HandoverOnMac, TheOnlyCopyStays) {
+  EXPECT_FALSE(handOverToRunningCopy());
+  EXPECT_TRUE(world().distributedNotifications.empty());
+}
+
+TEST_F(HandoverOnMac, ALaterCopyAsksTheFirstAndGivesWay) {
+  world().otherCopies[otherProcess] = 999;
+  EXPECT_TRUE(handOverToRunningCopy());
+  EXPECT_EQ(world().distributedNotifications, std::vector<std::string>{"app.orvane.Orvane.show"});
+}
+
+TEST_F(HandoverOnMac, TheFirstCopyStaysWhenAnotherIsStarted) {
+  world().otherCopies[otherProcess] = 1001;
+  EXPECT_FALSE(handOverToRunningCopy());
+}
+
+TEST_F(HandoverOnMac, ACopyThatSomebodyStartedByHandGivesWay) {
+  constexpr double unknown = -1;
+  world().otherCopies[otherProcess] = unknown;
+  EXPECT_FALSE(handOverToRunningCopy());
+}
+
+TEST_F(HandoverOnMac, TheFirstCopyShowsItsWindowWhenALaterOneAsks) {
+  OrvaneReopenCounter* const delegate = [[OrvaneReopenCounter alloc] init];
+  NSApp.delegate = delegate;
+  answerLaterCopies();
+  EXPECT_EQ(delegate->_count, 0);
+  world().otherCopies[otherProcess] = 999;
+  EXPECT_TRUE(handOverToRunningCopy());
+  EXPECT_EQ(delegate->_count, 1);
+  NSApp.delegate = nil;
+}
+
+}  // namespace
+}  // namespace orvane

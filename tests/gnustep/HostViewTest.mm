@@ -1,0 +1,161 @@
+// A host view's events on AppKit: the pointer, the keys, the wheel and what changes around it.
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/ScrollView.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "tests/gnustep/MacHalfFixture.hpp"
+#include "tests/gnustep/shim/World.hpp"
+
+namespace orvane {
+namespace {
+
+using appkit::Window;
+
+class HostView : public MacHalfFixture {
+ protected:
+  Window showTwoButtons() {
+    return show([this](const ui::Environment&) -> ui::View {
+      const auto button = [](int& clicks) {
+        return ui::Button([&clicks] { ++clicks; }, ui::Rectangle().frame(200, 50));
+      };
+      return ui::VStack(0, {button(first), button(second)});
+    });
+  }
+
+  int first = 0;
+  int second = 0;
+};
+
+TEST_F(HostView, AClickReachesWhatLiesUnderIt) {
+  Window window = showTwoButtons();
+  click(nativeOf(window), 100, 20);
+  EXPECT_EQ(first, 1);
+  EXPECT_EQ(second, 0);
+  click(nativeOf(window), 100, 80);
+  EXPECT_EQ(first, 1);
+  EXPECT_EQ(second, 1);
+  window.close();
+}
+
+TEST_F(HostView, AClickThatIsReleasedElsewhereIsNone) {
+  Window window = showTwoButtons();
+  mouse(nativeOf(window), NSLeftMouseDown, 100, 20);
+  mouse(nativeOf(window), NSLeftMouseDragged, 100, 80);
+  mouse(nativeOf(window), NSLeftMouseUp, 100, 80);
+  EXPECT_EQ(first + second, 0);
+  window.close();
+}
+
+TEST_F(HostView, ACommandKeyIsAKeyEquivalentAndItsRepeatIsNot) {
+  int calls = 0;
+  Window window = show([&](const ui::Environment&) -> ui::View {
+    return ui::Button([&] { ++calls; }, ui::Rectangle().frame(200, 100))
+        .keyboardShortcut(ui::KeyboardShortcut::command("w"));
+  });
+  key(nativeOf(window), @"w", NSCommandKeyMask);
+  EXPECT_EQ(calls, 1);
+  key(nativeOf(window), @"w", NSCommandKeyMask, YES);
+  EXPECT_EQ(calls, 1);
+  window.close();
+}
+
+TEST_F(HostView, EveryKeyThatTheKitKnowsIsTranslated) {
+  Window window = showTwoButtons();
+  NSWindow* const native = nativeOf(window);
+  // The first Tab finds the first button, the next the second, and the reverse the first again.
+  key(native, @"\t");
+  key(native, @" ");
+  EXPECT_EQ(first, 1);
+  key(native, @"\t");
+  key(native, @"\r");
+  EXPECT_EQ(second, 1);
+  key(native, @"\x19", NSShiftKeyMask);
+  key(native, @"\x03");
+  EXPECT_EQ(first, 2);
+  key(native, @" ", 0, YES);
+  EXPECT_EQ(first, 2);
+  window.close();
+}
+
+TEST_F(HostView, TheWheelScrollsWhatLiesUnderIt) {
+  std::vector<int> clicks;
+  Window window = show([&](const ui::Environment&) -> ui::View {
+    std::vector<ui::View> columns;
+    for (int column = 0; column < 10; ++column) {
+      columns.push_back(ui::Button([&clicks, column] { clicks.push_back(column); },
+                                   ui::Rectangle().frame(50, 100)));
+    }
+    return ui::ScrollView(ui::HStack(0, std::move(columns)));
+  });
+  click(nativeOf(window), 20, 50);
+  NSEvent* const wheel = [NSEvent mouseEventWithType:NSScrollWheel
+                                            location:NSMakePoint(100, 50)
+                                       modifierFlags:0
+                                           timestamp:0
+                                        windowNumber:nativeOf(window).windowNumber
+                                             context:nil
+                                         eventNumber:0
+                                          clickCount:1
+                                            pressure:0
+                                        buttonNumber:0
+                                              deltaX:-5
+                                              deltaY:0
+                                              deltaZ:0];
+  [hostOf(window) scrollWheel:wheel];
+  letTimePass(0.05);
+  // Five lines of ten points.
+  click(nativeOf(window), 20, 50);
+  EXPECT_EQ(clicks, (std::vector<int>{0, 1}));
+  window.close();
+}
+
+TEST_F(HostView, ATooltipSaysItsText) {
+  Window window = show([](const ui::Environment&) -> ui::View {
+    return ui::HStack(0, {ui::Rectangle().frame(100, 100).tooltip("what this is"),
+                          ui::Rectangle().frame(100, 100)});
+  });
+  mouse(nativeOf(window), NSMouseMoved, 50, 50);
+  OrvaneHostView* const view = hostOf(window);
+  EXPECT_STREQ([view view:view stringForToolTip:0 point:NSZeroPoint userData:nullptr].UTF8String,
+               "what this is");
+  mouse(nativeOf(window), NSMouseMoved, 150, 50);
+  EXPECT_STREQ([view view:view stringForToolTip:0 point:NSZeroPoint userData:nullptr].UTF8String,
+               "");
+  window.close();
+}
+
+TEST_F(HostView, TheSettingsOfTheDisplayReachItsContent) {
+  std::vector<bool> contrasts;
+  Window window = show([&](const ui::Environment& environment) -> ui::View {
+    contrasts.push_back(environment.appearance.increaseContrast);
+    return ui::Rectangle();
+  });
+  gnustep::world().increasesContrast = true;
+  [NSWorkspace.sharedWorkspace.notificationCenter
+      postNotificationName:NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification
+                    object:nil];
+  letTimePass(0.05);
+  ASSERT_GE(contrasts.size(), 2U);
+  EXPECT_FALSE(contrasts.front());
+  EXPECT_TRUE(contrasts.back());
+  window.close();
+}
+
+TEST_F(HostView, APressOnTheBackgroundDragsTheWindow) {
+  Window window = show([](const ui::Environment&) -> ui::View { return ui::View(); });
+  window.setMovableByWindowBackground(true);
+  NSWindow* const native = nativeOf(window);
+  [NSApp postEvent:mouseEvent(native, NSLeftMouseDragged, 110, 40) atStart:NO];
+  [NSApp postEvent:mouseEvent(native, NSLeftMouseUp, 100, 50) atStart:NO];
+  mouse(native, NSLeftMouseDown, 100, 50);
+  EXPECT_EQ(window.frame().origin.x, 110);
+  EXPECT_EQ(window.frame().origin.y, 110);
+  window.close();
+}
+
+}  // namespace
+}  // namespace orvane

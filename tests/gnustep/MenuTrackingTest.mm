@@ -1,0 +1,133 @@
+// Menus that are open: rows that rebuild their own menu, the keyboard, and a session that begins.
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "Orvane/platform/appkit/Application.hpp"
+#include "Orvane/platform/appkit/MainQueue.hpp"
+#include "Orvane/platform/appkit/Menu.hpp"
+#include "Orvane/platform/appkit/StatusItem.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "macos/hosting/HostingContainer.hpp"
+#include "tests/gnustep/MacHalfFixture.hpp"
+
+namespace orvane {
+namespace {
+
+class MenuTracking : public MacHalfFixture {
+ protected:
+  static void addRow(appkit::Menu& menu, std::function<void()> action) {
+    appkit::MenuItem row;
+    row.title = "row";
+    row.action = action;
+    appkit::HostingView view([action](const ui::Environment&) -> ui::View {
+      return ui::Button(action, ui::Rectangle().frame(180, 30));
+    });
+    view.setFrame(CGRectMake(0, 0, 180, 30));
+    row.view = view;
+    menu.addItem(std::move(row));
+  }
+
+  /// Opens the menu of a status item, and returns when it has been closed.
+  static void open(const appkit::Menu& menu) {
+    appkit::StatusItem item;
+    item.setMenu(menu);
+    for (NSWindow* window in NSApp.windows) {
+      if (window.visible && [window.contentView isKindOfClass:NSStatusBarButton.class]) {
+        @autoreleasepool {
+          [static_cast<NSStatusBarButton*>(window.contentView) performClick:nil];
+        }
+        return;
+      }
+    }
+    ADD_FAILURE() << "there is no item in the bar";
+  }
+
+  static NSView* row(int index) {
+    return [[openMenuWindow().contentView subviews] objectAtIndex:static_cast<NSUInteger>(index)];
+  }
+
+  static void clickRow(int index) {
+    const NSRect frame = [row(index) convertRect:row(index).bounds toView:nil];
+    for (NSEventType type : {NSLeftMouseDown, NSLeftMouseUp}) {
+      [NSApp postEvent:[NSEvent mouseEventWithType:type
+                                          location:NSMakePoint(NSMidX(frame), NSMidY(frame))
+                                     modifierFlags:0
+                                         timestamp:0
+                                      windowNumber:openMenuWindow().windowNumber
+                                           context:nil
+                                       eventNumber:0
+                                        clickCount:1
+                                          pressure:1]
+               atStart:NO];
+    }
+  }
+};
+
+TEST_F(MenuTracking, ARowMayRebuildItsOwnMenu) {
+  appkit::Menu menu;
+  int clicks = 0;
+  const std::function<void()> build = [&] {
+    menu.removeAllItems();
+    for (int count = 0; count < 2; ++count) {
+      addRow(menu, [&] {
+        ++clicks;
+        build();
+      });
+    }
+  };
+  menu.onWillOpen(build);
+  appkit::MainQueue::asyncAfter(0.2, [] { clickRow(0); });
+  appkit::MainQueue::asyncAfter(0.6, [&] { menu.cancelTracking(); });
+  open(menu);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(MenuTracking, TheKeyboardLightsUpARowAndChoosesIt) {
+  appkit::Menu menu;
+  std::vector<int> chosen;
+  for (int index = 0; index < 2; ++index) {
+    addRow(menu, [&chosen, index] { chosen.push_back(index); });
+  }
+  const auto isLit = [](int index) {
+    return static_cast<bool>(static_cast<OrvaneHostingContainer*>(row(index)).highlighted);
+  };
+  NSString* const down = functionKey(NSDownArrowFunctionKey);
+  typeSoonIntoMenu(@[ down, down ]);
+  appkit::MainQueue::asyncAfter(0.4, [&] {
+    EXPECT_FALSE(isLit(0));
+    EXPECT_TRUE(isLit(1));
+    typeSoonIntoMenu(@[ @"\r" ]);
+  });
+  open(menu);
+  EXPECT_EQ(chosen, std::vector<int>{1});
+}
+
+TEST_F(MenuTracking, AModalSessionBeginsWhenTheMenuHasClosed) {
+  appkit::Menu menu;
+  __block bool isMenuOpen = true;
+  int response = 0;
+  appkit::Window panel(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
+                       appkit::StyleMask::titled);
+  addRow(menu, [&] {
+    appkit::Application::runModal(panel, [&](int code) { response = code; });
+    EXPECT_EQ(response, 0) << "the menu's row waits for the session";
+  });
+  NSTimer* const end = [NSTimer timerWithTimeInterval:0.5
+                                              repeats:NO
+                                                block:^(NSTimer*) {
+                                                  isMenuOpen = openMenuWindow() != nil;
+                                                  appkit::Application::stopModal(1001);
+                                                }];
+  [NSRunLoop.mainRunLoop addTimer:end forMode:NSRunLoopCommonModes];
+  appkit::MainQueue::asyncAfter(0.2, [] { clickRow(0); });
+  open(menu);
+  letTimePass(0.6);
+  EXPECT_EQ(response, 1001);
+  EXPECT_FALSE(isMenuOpen);
+  panel.close();
+}
+
+}  // namespace
+}  // namespace orvane

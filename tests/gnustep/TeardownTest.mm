@@ -1,0 +1,197 @@
+// A handler may end the view, the window and every handle of what is calling it; what is gone is
+// gone.
+#include <memory>
+#include <optional>
+
+#include "Orvane/platform/appkit/Application.hpp"
+#include "Orvane/platform/appkit/MainQueue.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/Picker.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "macos/appkit/NativeWindow.hpp"
+#include "tests/gnustep/MacHalfFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using appkit::Window;
+
+class Teardown : public MacHalfFixture {
+ protected:
+  /// Shows `root`, and keeps the only handle.
+  void showAndWatch(appkit::HostingView::RootBuilder root) {
+    @autoreleasepool {
+      window.emplace(show(std::move(root)));
+      native = nativeOf(*window);
+      view = hostOf(*window);
+    }
+  }
+
+  void endEverything() {
+    window->close();
+    window.reset();
+  }
+
+  void expectNothingLeft() {
+    letTimePass(0.1);
+    EXPECT_FALSE(window.has_value());
+    EXPECT_EQ(view, nil) << "the view is kept";
+    EXPECT_EQ(native, nil) << "the window is kept";
+  }
+
+  ui::View buttonThatEndsEverything() {
+    return ui::Button([this] { endEverything(); }, ui::Rectangle().frame(200, 100))
+        .keyboardShortcut(ui::KeyboardShortcut::cancelAction());
+  }
+
+  std::optional<Window> window;
+  __weak NSWindow* native = nil;
+  __weak OrvaneHostView* view = nil;
+};
+
+TEST_F(Teardown, AClickMayEndEverything) {
+  showAndWatch([this](const ui::Environment&) { return buttonThatEndsEverything(); });
+  @autoreleasepool {
+    click(native, 100, 50);
+  }
+  expectNothingLeft();
+}
+
+TEST_F(Teardown, AKeyMayEndEverything) {
+  showAndWatch([this](const ui::Environment&) { return buttonThatEndsEverything(); });
+  @autoreleasepool {
+    key(native, @"\x1B");
+  }
+  expectNothingLeft();
+}
+
+TEST_F(Teardown, APressByVoiceOverMayEndEverything) {
+  showAndWatch([this](const ui::Environment&) { return buttonThatEndsEverything(); });
+  id kept = nil;
+  @autoreleasepool {
+    kept = [view accessibilityChildren].firstObject;
+    [kept accessibilityPerformPress];
+  }
+  expectNothingLeft();
+  // A screen reader may hold the element for longer.
+  EXPECT_TRUE(NSIsEmptyRect([kept accessibilityFrame]));
+  [kept accessibilityPerformPress];
+  [kept setAccessibilityFocused:YES];
+}
+
+TEST_F(Teardown, AChoiceInAMenuMayEndEverything) {
+  int chosen = -1;
+  showAndWatch([&](const ui::Environment&) -> ui::View {
+    return ui::Picker{"label", {"one", "two"}, 0, [&](int index) {
+                        chosen = index;
+                        endEverything();
+                      }};
+  });
+  @autoreleasepool {
+    click(native, 100, 50);
+    NSString* const down = functionKey(NSDownArrowFunctionKey);
+    typeSoonIntoMenu(@[ down, down, @"\r" ]);
+  }
+  letTimePass(0.4);
+  EXPECT_EQ(chosen, 1);
+  expectNothingLeft();
+}
+
+TEST_F(Teardown, NoMenuOpensOnceItsWindowHasGone) {
+  showAndWatch([](const ui::Environment&) -> ui::View {
+    return ui::Picker{"label", {"one", "two"}, 0, [](int) { ADD_FAILURE(); }};
+  });
+  @autoreleasepool {
+    click(native, 100, 50);
+    endEverything();
+  }
+  appkit::MainQueue::asyncAfter(0.1, [] {
+    EXPECT_EQ(openMenuWindow(), nil);
+    // Otherwise the menu would wait for ever.
+    [NSApp postEvent:keyEvent(openMenuWindow(), @"\x1B") atStart:NO];
+  });
+  letTimePass(0.3);
+  expectNothingLeft();
+}
+
+TEST_F(Teardown, AnAnimationDoesNotKeepItsView) {
+  showAndWatch([](const ui::Environment& environment) -> ui::View {
+    const auto isWide = environment.state("isWide", false);
+    return ui::Rectangle().frame(isWide.value() ? 180 : 20, 20).onAppear([isWide] {
+      isWide.set(true, ui::Curve::easeOut(5));
+    });
+  });
+  letTimePass(0.2);
+  endEverything();
+  expectNothingLeft();
+}
+
+TEST_F(Teardown, AWindowThatIsShownLivesWithoutHandles) {
+  showAndWatch([](const ui::Environment&) { return ui::View(); });
+  window.reset();
+  letTimePass(0.05);
+  ASSERT_NE(native, nil);
+  @autoreleasepool {
+    [native close];
+  }
+  expectNothingLeft();
+}
+
+TEST_F(Teardown, AChildIsKeptByItsParentAndClosesAlone) {
+  Window parent = show([](const ui::Environment&) { return ui::View(); });
+  showAndWatch([](const ui::Environment&) { return ui::View(); });
+  parent.addChildWindowAbove(*window);
+  window.reset();
+  letTimePass(0.05);
+  ASSERT_EQ(parent.childWindows().size(), 1U);
+  @autoreleasepool {
+    Window child = parent.childWindows().front();
+    parent.removeChildWindow(child);
+    child.close();
+  }
+  expectNothingLeft();
+  parent.close();
+}
+
+TEST_F(Teardown, AModalPanelGoesWithItsSession) {
+  int response = 0;
+  @autoreleasepool {
+    Window panel(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
+                 appkit::StyleMask::titled | appkit::StyleMask::closable);
+    const std::weak_ptr weak(panel.implementation());
+    panel.setContentView(appkit::HostingView([weak](const ui::Environment&) -> ui::View {
+      return ui::Button(
+          [weak] {
+            appkit::Application::stopModal(1000);
+            if (const auto strong = weak.lock()) {
+              Window(strong).close();
+            }
+          },
+          ui::Rectangle().frame(200, 100));
+    }));
+    native = nativeOf(panel);
+    view = hostOf(panel);
+    appkit::MainQueue::async([panel, &response] {
+      appkit::Application::runModal(panel, [panel, &response](int code) mutable {
+        response = code;
+        panel.clearDelegate();
+        panel.clearContentView();
+      });
+    });
+  }
+  NSTimer* const press =
+      [NSTimer timerWithTimeInterval:0.2
+                             repeats:NO
+                               block:^(NSTimer*) {
+                                 for (NSEventType type : {NSLeftMouseDown, NSLeftMouseUp}) {
+                                   [NSApp postEvent:mouseEvent(native, type, 100, 50) atStart:NO];
+                                 }
+                               }];
+  [NSRunLoop.mainRunLoop addTimer:press forMode:NSRunLoopCommonModes];
+  letTimePass(0.6);
+  EXPECT_EQ(response, 1000);
+  expectNothingLeft();
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,4 @@
+// Core Text is declared with what ApplicationServices brings along.
+#pragma once
+
+#include <ApplicationServices/ApplicationServices.h>

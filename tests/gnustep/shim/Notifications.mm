@@ -1,0 +1,69 @@
+// Observers by block that hear in the order of their registration; GNUstep tells the last one
+// first.
+#include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "tests/gnustep/shim/Methods.hpp"
+
+@interface OrvaneShimObserver : NSObject {
+ @public
+  void (^_block)(NSNotification* notification);
+}
+@end
+@implementation OrvaneShimObserver
+@end
+
+namespace orvane::gnustep {
+namespace {
+
+using Observers = std::vector<OrvaneShimObserver*>;
+
+/// By the name of the notification.
+std::map<std::string, Observers>& observers() {
+  static auto* const all = new std::map<std::string, Observers>;
+  return *all;
+}
+
+/// One that is removed meanwhile hears nothing.
+void tell(NSNotification* notification) {
+  const std::string name = notification.name.UTF8String;
+  for (OrvaneShimObserver* observer : Observers(observers()[name])) {
+    if (std::ranges::count(observers()[name], observer) > 0) {
+      observer->_block(notification);
+    }
+  }
+}
+
+}  // namespace
+
+void installNotifications() {
+  static const SEL add = @selector(addObserverForName:object:queue:usingBlock:);
+  static IMP const addObserver =
+      replaceMethod(NSNotificationCenter.class, add,
+                    ^id(NSNotificationCenter* center, NSString* name, id object, NSOperationQueue*,
+                        void (^block)(NSNotification*)) {
+                      Observers& known = observers()[name.UTF8String];
+                      if (known.empty()) {
+                        callReplaced<id, id, id, id, id>(addObserver, center, add, name, object,
+                                                         nil, ^(NSNotification* notification) {
+                                                           tell(notification);
+                                                         });
+                      }
+                      OrvaneShimObserver* const observer = [[OrvaneShimObserver alloc] init];
+                      observer->_block = [block copy];
+                      known.push_back(observer);
+                      return observer;
+                    });
+  static IMP const removeObserver = replaceMethod(
+      NSNotificationCenter.class, @selector(removeObserver:),
+      ^(NSNotificationCenter* center, id observer) {
+        for (auto& [name, known] : observers()) {
+          std::erase(known, observer);
+        }
+        callReplaced<void, id>(removeObserver, center, @selector(removeObserver:), observer);
+      });
+}
+
+}  // namespace orvane::gnustep

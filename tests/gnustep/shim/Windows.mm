@@ -1,0 +1,95 @@
+// Windows as AppKit has them, where GNUstep's differ.
+#include "tests/gnustep/shim/Methods.hpp"
+
+namespace {
+
+const char styleMaskKey = 0;
+const char behaviorKey = 0;
+
+}  // namespace
+
+@implementation NSWindow (OrvaneShim)
+
+ORVANE_STORED_OBJECT(NSString*, identifier, setIdentifier, OBJC_ASSOCIATION_COPY)
+ORVANE_STORED_NUMBER(NSWindowTitleVisibility, titleVisibility, setTitleVisibility, integerValue)
+ORVANE_STORED_NUMBER(BOOL, titlebarAppearsTransparent, setTitlebarAppearsTransparent, boolValue)
+
+- (void)performWindowDragWithEvent:(NSEvent*)event {
+  const NSPoint start = event.locationInWindow;
+  NSEvent* next = event;
+  while (next.type != NSLeftMouseUp) {
+    next = [NSApp nextEventMatchingMask:NSLeftMouseDraggedMask | NSLeftMouseUpMask
+                              untilDate:NSDate.distantFuture
+                                 inMode:NSEventTrackingRunLoopMode
+                                dequeue:YES];
+    const NSPoint origin = self.frame.origin;
+    [self setFrameOrigin:NSMakePoint(origin.x + next.locationInWindow.x - start.x,
+                                     origin.y + next.locationInWindow.y - start.y)];
+  }
+}
+
+@end
+
+@implementation NSButton (OrvaneShim)
+- (NSImageScaling)imageScaling {
+  return [self.cell imageScaling];
+}
+- (void)setImageScaling:(NSImageScaling)scaling {
+  [self.cell setImageScaling:scaling];
+}
+@end
+
+namespace orvane::gnustep {
+
+void installWindows() {
+  // AppKit gives a title bar to titled windows alone, and remembers every bit of the mask.
+  static const SEL initialise = @selector(initWithContentRect:styleMask:backing:defer:);
+  static IMP const init = replaceMethod(
+      NSWindow.class, initialise,
+      ^id(NSWindow* window, NSRect content, NSUInteger mask, NSBackingStoreType backing,
+          BOOL defer) {
+        constexpr NSUInteger decorations = 0xF;
+        const NSUInteger known = (mask & NSTitledWindowMask) != 0 ? mask : mask & ~decorations;
+        NSWindow* const made = callReplaced<id, NSRect, NSUInteger, NSBackingStoreType, BOOL>(
+            init, window, initialise, content, known, backing, defer);
+        objc_setAssociatedObject(made, &styleMaskKey, @(mask), OBJC_ASSOCIATION_RETAIN);
+        return made;
+      });
+  static IMP const styleMask =
+      replaceMethod(NSWindow.class, @selector(styleMask), ^NSUInteger(NSWindow* window) {
+        NSNumber* const mask = objc_getAssociatedObject(window, &styleMaskKey);
+        return mask == nil ? callReplaced<NSUInteger>(styleMask, window, @selector(styleMask))
+                           : mask.unsignedIntegerValue;
+      });
+  replaceMethod(NSWindow.class, @selector(collectionBehavior), ^NSUInteger(NSWindow* window) {
+    return [objc_getAssociatedObject(window, &behaviorKey) unsignedIntegerValue];
+  });
+  replaceMethod(
+      NSWindow.class, @selector(setCollectionBehavior:), ^(NSWindow* window, NSUInteger behavior) {
+        objc_setAssociatedObject(window, &behaviorKey, @(behavior), OBJC_ASSOCIATION_RETAIN);
+      });
+  static IMP const setFloating = replaceMethod(
+      NSPanel.class, @selector(setFloatingPanel:), ^(NSPanel* panel, BOOL isFloating) {
+        callReplaced<void, BOOL>(setFloating, panel, @selector(setFloatingPanel:), isFloating);
+        // GNUstep has another number for it.
+        constexpr NSInteger floatingLevel = 3;
+        panel.level = isFloating ? floatingLevel : NSNormalWindowLevel;
+      });
+  // Children move with their parent.
+  static IMP const setOrigin = replaceMethod(
+      NSWindow.class, @selector(setFrameOrigin:), ^(NSWindow* window, NSPoint origin) {
+        const NSPoint before = window.frame.origin;
+        callReplaced<void, NSPoint>(setOrigin, window, @selector(setFrameOrigin:), origin);
+        for (NSWindow* child in window.childWindows) {
+          const NSPoint place = child.frame.origin;
+          [child setFrameOrigin:NSMakePoint(place.x + origin.x - before.x,
+                                            place.y + origin.y - before.y)];
+        }
+      });
+  // AppKit holds it weakly, GNUstep for good.
+  replaceMethod(NSWindow.class, @selector(setInitialFirstResponder:),
+                ^(NSWindow*, NSView*){
+                });
+}
+
+}  // namespace orvane::gnustep
