@@ -364,6 +364,9 @@ class AddressesTest(RuleTest):
         scheme = "https:" + "//"
         self.assert_caught({"a.md": f"See {scheme}packages.somewhere.net/list\n"}, ("a.md", 1))
         self.assert_passed({"a.md": f"See {scheme}orvane.example/privacy, {scheme}semver.org/\n"})
+        cloned = f"forge={scheme}forge.somewhere.net\n"
+        self.assert_caught({"tools/other": cloned}, ("tools/other", 1))
+        self.assert_passed({"tools/gnustep": cloned})
 
 
 class CommandTest(unittest.TestCase):
