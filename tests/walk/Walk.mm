@@ -12,7 +12,6 @@
 #include "Orvane/app/OrvaneAppState.hpp"
 #include "Orvane/permission/OrvanePermissionAlert.hpp"
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
-#include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
 #include "Orvane/windows/OrvaneWindowController.hpp"
@@ -40,6 +39,15 @@ NSStatusBarButton* statusButton() {
     }
   }
   return nil;
+}
+
+/// As its user does; a modal session ends with its window.
+void closeWindow(NSString* identifier) {
+  for (NSWindow* window in NSApplication.sharedApplication.windows.copy) {
+    if (window.visible && [window.identifier hasSuffix:identifier]) {
+      [window close];
+    }
+  }
 }
 
 /// One step after another, each time when what the last one opened has come to rest. The timer goes
@@ -98,7 +106,7 @@ class Walk {
     steps_.push_back([] { OrvanePermissionAlert::show([] {}); });
     steps_.push_back([this, named] {
       [pictures_ takeWindow:@"OrvaneAlertPanel" as:named(@"alert")];
-      appkit::Application::stopModal(appkit::ModalResponse::alertSecondButton);
+      closeWindow(@"OrvaneAlertPanel");
     });
     steps_.push_back([] { guide().show([] {}); });
     steps_.push_back([this, named] {

@@ -2,6 +2,12 @@
 #include "tests/walk/WindowPictures.hpp"
 
 #include <cstdio>
+#include <string>
+
+#include "macos/appkit/Strings.hpp"
+#include "macos/canvas/CoreTextMeasurer.hpp"
+#include "macos/hosting/HostingContainer.hpp"
+#include "tests/support/TextBoxes.hpp"
 
 namespace {
 
@@ -21,6 +27,14 @@ bool showsSomething(NSBitmapImageRep* picture) {
   return false;
 }
 
+std::string textBoxesOf(OrvaneHostingContainer* content, NSString* name) {
+  OrvaneHostView* const view = content.hostView;
+  const double top = NSHeight(content.bounds) - NSMaxY(view.frame);
+  orvane::appkit::CoreTextMeasurer measurer;
+  return orvane::textBoxes(orvane::appkit::utf8String(name), view.host, {NSMinX(view.frame), top},
+                           measurer);
+}
+
 NSBitmapImageRep* pictureOf(NSView* view) {
   [view layoutSubtreeIfNeeded];
   NSBitmapImageRep* const picture = [view bitmapImageRepForCachingDisplayInRect:view.bounds];
@@ -36,6 +50,7 @@ NSBitmapImageRep* pictureOf(NSView* view) {
   NSString* _folder;
   NSInteger _pictureCount;
   NSInteger _failureCount;
+  std::string _textBoxes;
 }
 
 - (instancetype)initWithFolder:(NSString*)folder {
@@ -78,6 +93,12 @@ NSBitmapImageRep* pictureOf(NSView* view) {
   for (NSWindow* window in NSApplication.sharedApplication.windows) {
     if (window.visible && [window.identifier hasSuffix:identifier]) {
       [self save:pictureOf(window.contentView) as:name];
+      _textBoxes += textBoxesOf(static_cast<OrvaneHostingContainer*>(window.contentView), name);
+      [orvane::appkit::foundationString(_textBoxes)
+          writeToFile:[_folder stringByAppendingPathComponent:@"layout.txt"]
+           atomically:YES
+             encoding:NSUTF8StringEncoding
+                error:nil];
       return;
     }
   }

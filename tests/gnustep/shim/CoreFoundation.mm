@@ -125,7 +125,8 @@ CFStringRef CFUUIDCreateString(CFAllocatorRef, CFUUIDRef uuid) {
   return (CFStringRef)[(id)uuid copy];
 }
 boolean_t CGDisplayIsMain(CGDirectDisplayID number) {
-  return !world().displays.empty() && world().displays.front().number == number;
+  // The X server has one screen.
+  return world().displays.empty() || world().displays.front().number == number;
 }
 boolean_t CGDisplayIsBuiltin(CGDirectDisplayID number) {
   for (const auto& display : world().displays) {

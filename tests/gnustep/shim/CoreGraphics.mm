@@ -62,7 +62,6 @@ using orvane::gnustep::paint;
 
 - (void)dealloc {
   NSCAssert(_layers.empty() && _states.size() == 1, @"a drawing ends with something open");
-  cairo_surface_flush(cairo_get_target(_cairo));
   cairo_destroy(_cairo);
   [super dealloc];
 }

@@ -1,4 +1,6 @@
 // Windows as AppKit has them, where GNUstep's differ.
+#include <initializer_list>
+
 #include "tests/gnustep/shim/Methods.hpp"
 
 namespace {
@@ -40,18 +42,51 @@ ORVANE_STORED_NUMBER(BOOL, titlebarAppearsTransparent, setTitlebarAppearsTranspa
 @end
 
 namespace orvane::gnustep {
+namespace {
+
+/// AppKit gives a title bar to titled windows alone, and lays it over content that fills the
+/// window; GNUstep gives one to what can be closed or miniaturised, too.
+NSUInteger decorated(NSUInteger mask) {
+  constexpr NSUInteger decorations = 0xF;
+  constexpr NSUInteger fullSizeContentView = 1 << 15;
+  const bool hasTitleBar = (mask & NSTitledWindowMask) != 0 && (mask & fullSizeContentView) == 0;
+  return hasTitleBar ? mask : mask & ~decorations;
+}
+
+void installDecorations() {
+  static const SEL offsets = @selector(offsets:: ::forStyleMask:);
+  for (Class decoration : {NSClassFromString(@"GSWindowDecorationView"),
+                           NSClassFromString(@"GSStandardWindowDecorationView")}) {
+    IMP* const replaced = new IMP;
+    *replaced = replaceClassMethod(
+        decoration, offsets,
+        ^(Class type, float* left, float* right, float* top, float* bottom, NSUInteger mask) {
+          callReplaced<void, float*, float*, float*, float*, NSUInteger>(
+              *replaced, type, offsets, left, right, top, bottom, decorated(mask));
+        });
+  }
+  static IMP const draw =
+      replaceMethod(NSClassFromString(@"GSStandardWindowDecorationView"), @selector(drawRect:),
+                    ^(NSView* view, NSRect dirty) {
+                      const NSUInteger mask = view.window.styleMask;
+                      if (decorated(mask) == mask) {
+                        callReplaced<void, NSRect>(draw, view, @selector(drawRect:), dirty);
+                      }
+                    });
+}
+
+}  // namespace
 
 void installWindows() {
-  // AppKit gives a title bar to titled windows alone, and remembers every bit of the mask.
+  installDecorations();
+  // The mask is remembered to its last bit; GNUstep sees what it can take.
   static const SEL initialise = @selector(initWithContentRect:styleMask:backing:defer:);
   static IMP const init = replaceMethod(
       NSWindow.class, initialise,
       ^id(NSWindow* window, NSRect content, NSUInteger mask, NSBackingStoreType backing,
           BOOL defer) {
-        constexpr NSUInteger decorations = 0xF;
-        const NSUInteger known = (mask & NSTitledWindowMask) != 0 ? mask : mask & ~decorations;
         NSWindow* const made = callReplaced<id, NSRect, NSUInteger, NSBackingStoreType, BOOL>(
-            init, window, initialise, content, known, backing, defer);
+            init, window, initialise, content, decorated(mask), backing, defer);
         objc_setAssociatedObject(made, &styleMaskKey, @(mask), OBJC_ASSOCIATION_RETAIN);
         return made;
       });

@@ -1,0 +1,17 @@
+// Where a view's texts are: to compare what two platforms make of the same view.
+#pragma once
+
+#include <string>
+
+#include "Orvane/ui/Point.hpp"
+#include "Orvane/ui/TextMeasurer.hpp"
+#include "Orvane/ui/ViewHost.hpp"
+
+namespace orvane {
+
+/// One line for each line of text that the host draws: the name, the text and its box (left, top,
+/// width, height, in points to a tenth), with tabs between them. `origin` is the host's place.
+std::string textBoxes(const std::string& name, const ui::ViewHost& host, ui::Point origin,
+                      ui::TextMeasurer& measurer);
+
+}  // namespace orvane

@@ -1,0 +1,53 @@
+#!/usr/bin/env python3
+"""Compares where the walk found each window's texts with the kept list of the simulated Mac's.
+
+Usage: compare_layout.py KEPT WALKED
+In both appearances every text has to be there, in the same order, with its box within two points. In
+Chinese this goes for the left edge and the width alone: the simulated Mac gives Chinese characters the
+height of their own font, the Mac half that of the system's font.
+"""
+
+import sys
+
+MOST_POINTS = 2
+
+
+def read(path):
+    """By the name of the window: pairs of text and box."""
+    windows = {}
+    with open(path, encoding="utf-8") as file:
+        for line in file:
+            name, text, *box = line.rstrip("\n").split("\t")
+            windows.setdefault(name, []).append((text, [float(value) for value in box]))
+    return windows
+
+
+def differences(kept, walked):
+    """What differs, in words."""
+    if not walked:
+        yield "the walk has found no window"
+    for name, found in walked.items():
+        language, _, window = name.split("-")
+        expected = kept.get(f"{language}-{window}", [])
+        if [text for text, _ in found] != [text for text, _ in expected]:
+            yield f"{name}: {[text for text, _ in found]} instead of {[text for text, _ in expected]}"
+            continue
+        compared = slice(0, 4, 2) if language == "zh" else slice(0, 4)
+        for (text, box), (_, kept_box) in zip(found, expected):
+            if max(abs(a - b) for a, b in zip(box[compared], kept_box[compared])) > MOST_POINTS:
+                yield f"{name}: {text} at {box} instead of {kept_box}"
+    missing = {f"{name[:2]}-{appearance}{name[2:]}" for name in kept
+               for appearance in ("light", "dark")} - set(walked)
+    for name in sorted(missing):
+        yield f"{name} is missing"
+
+
+def main():
+    found = list(differences(read(sys.argv[1]), read(sys.argv[2])))
+    for line in found:
+        print(line)
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
