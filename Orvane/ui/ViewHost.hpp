@@ -12,16 +12,19 @@
 #include "Orvane/ui/Appearance.hpp"
 #include "Orvane/ui/Canvas.hpp"
 #include "Orvane/ui/Color.hpp"
-#include "Orvane/ui/Environment.hpp"
+#include "Orvane/ui/Curve.hpp"
 #include "Orvane/ui/HostServices.hpp"
 #include "Orvane/ui/ImageSource.hpp"
 #include "Orvane/ui/KeyboardShortcut.hpp"
 #include "Orvane/ui/Proposal.hpp"
+#include "Orvane/ui/RootBuilder.hpp"
 #include "Orvane/ui/Semantics.hpp"
 #include "Orvane/ui/TextMeasurer.hpp"
-#include "Orvane/ui/View.hpp"
 
 namespace orvane::ui {
+
+struct HostLink;
+struct Node;
 
 struct Tooltip {
   std::string text;
@@ -45,7 +48,7 @@ struct HostPlatform {
 // Call tick() before passing an event on, so that what the event starts, starts now.
 class ViewHost {
  public:
-  using RootBuilder = std::function<View(const Environment&)>;
+  using RootBuilder = ui::RootBuilder;
 
   explicit ViewHost(HostPlatform platform);
   ViewHost(const ViewHost&) = delete;

@@ -3,6 +3,7 @@
 #include <tuple>
 
 #include "Orvane/platform/appkit/Window.hpp"
+#include "Orvane/ui/View.hpp"
 #include "tests/contract/ContractFixture.hpp"
 
 namespace orvane {

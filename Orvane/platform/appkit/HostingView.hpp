@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/RootBuilder.hpp"
 
 namespace orvane::appkit {
 
@@ -23,7 +23,7 @@ enum class Backdrop {
 /// holds it. Main thread only.
 class HostingView {
  public:
-  using RootBuilder = ui::ViewHost::RootBuilder;
+  using RootBuilder = ui::RootBuilder;
 
   /// `buildRoot` is called whenever the view has to be described anew. It reads the state that it
   /// shows; whoever changes that state calls setNeedsUpdate.
