@@ -5,7 +5,12 @@
 #include <memory>
 
 #include <cairo.h>
-#include <glib-object.h>
+
+// Named only: their libraries' headers are large, and few sources call them.
+using PangoContext = struct _PangoContext;
+using PangoFontMap = struct _PangoFontMap;
+using PangoLayout = struct _PangoLayout;
+using RsvgHandle = struct _RsvgHandle;
 
 namespace orvane::desk {
 
@@ -17,10 +22,7 @@ struct CairoRelease {
 };
 
 struct ObjectRelease {
-  template <typename Object>
-  void operator()(Object* object) const {
-    g_object_unref(object);
-  }
+  void operator()(void* object) const;
 };
 
 using SurfacePointer = std::unique_ptr<cairo_surface_t, CairoRelease>;

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <librsvg/rsvg.h>
+
 #include "desk/canvas/PngFile.hpp"
 
 namespace orvane::desk {

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include <cairo.h>
-#include <librsvg/rsvg.h>
 
 #include "Orvane/ui/Size.hpp"
 #include "desk/canvas/CairoPointers.hpp"

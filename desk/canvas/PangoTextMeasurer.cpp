@@ -6,6 +6,8 @@
 #include <cmath>
 #include <vector>
 
+#include <pango/pango.h>
+
 namespace orvane::desk {
 namespace {
 

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <cstdio>
 
+#include <librsvg/rsvg.h>
+
 #include "desk/canvas/SymbolArtwork.hpp"
 
 namespace orvane::desk {

@@ -6,8 +6,6 @@
 #include <string>
 #include <utility>
 
-#include <librsvg/rsvg.h>
-
 #include "Orvane/ui/Font.hpp"
 #include "Orvane/ui/Size.hpp"
 #include "desk/canvas/CairoPointers.hpp"

@@ -4,8 +4,6 @@
 
 #include <string>
 
-#include <pango/pango.h>
-
 #include "Orvane/ui/Font.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 #include "desk/canvas/MaskCache.hpp"

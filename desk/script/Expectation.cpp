@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <utility>
 
+#include <nlohmann/json.hpp>
+
 #include "desk/script/Decimal.hpp"
 #include "desk/script/JsonText.hpp"
 

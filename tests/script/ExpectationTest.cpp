@@ -1,5 +1,6 @@
 // What holds at a path, and what is said when it does not.
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include "desk/script/Expectation.hpp"
 #include "desk/script/JsonText.hpp"
