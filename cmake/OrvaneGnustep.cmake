@@ -1,11 +1,6 @@
 # Builds the Mac half on Linux: with clang for GNUstep's Objective-C runtime, and with programs laid
 # out as GNUstep's applications, which run on a display of their own.
 
-set(CMAKE_OBJCXX_COMPILER "${CMAKE_CXX_COMPILER}")
-enable_language(OBJCXX)
-set(CMAKE_OBJCXX_STANDARD 20)
-set(CMAKE_OBJCXX_STANDARD_REQUIRED ON)
-set(CMAKE_OBJCXX_EXTENSIONS OFF)
 if(ORVANE_CCACHE AND NOT CMAKE_OBJCXX_COMPILER_LAUNCHER)
   set(CMAKE_OBJCXX_COMPILER_LAUNCHER "${ORVANE_CCACHE}")
 endif()

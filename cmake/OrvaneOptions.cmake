@@ -22,8 +22,12 @@ option(ORVANE_SPEED_TESTS_ONLY "Of the tests, build only those with the label sp
 option(ORVANE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(ORVANE_BUILD_FUZZERS "Build the libFuzzer targets (clang only)" OFF)
 
-# ccache, where there is one, makes the second build of a tree cheap.
+# ccache, where there is one, makes the second build of a tree cheap. CCACHE_DISABLE, its own variable,
+# leaves it out when CMake configures.
 find_program(ORVANE_CCACHE ccache)
+if(DEFINED ENV{CCACHE_DISABLE})
+  set(ORVANE_CCACHE OFF)
+endif()
 if(ORVANE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${ORVANE_CCACHE}")
 endif()

@@ -13,24 +13,81 @@ if(ORVANE_SANITIZE)
   target_compile_options(orvane_flags INTERFACE ${orvane_sanitizers})
   target_link_options(orvane_flags INTERFACE ${orvane_sanitizers})
 endif()
+if(ORVANE_PLATFORM STREQUAL "macos")
+  target_compile_options(orvane_flags INTERFACE $<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-arc>)
+endif()
 
-# Without a cache of what was compiled before, headers that are read once for a whole target take a
-# third off the time of a first build. A build with the cache shows which includes are missing.
-function(orvane_precompile name)
-  get_target_property(sources ${name} SOURCES)
-  list(LENGTH sources source_count)
-  if(ORVANE_CCACHE OR source_count LESS 5 OR NOT ORVANE_PLATFORM STREQUAL "desk")
-    return()
+# Without a cache of what was compiled before, the libraries' headers, read once for everything, take a
+# half off the time of a first build. A build with the cache, or on a Mac, shows which includes are missing.
+set(orvane_precompiles ON)
+if(ORVANE_CCACHE OR (ORVANE_PLATFORM STREQUAL "macos" AND NOT CMAKE_CROSSCOMPILING))
+  set(orvane_precompiles OFF)
+elseif(ORVANE_PLATFORM STREQUAL "desk")
+  # Some libraries' packages ask for it, and it must be the same for all who share the headers.
+  target_compile_options(orvane_flags INTERFACE -pthread)
+endif()
+set(orvane_read_headers
+    <algorithm> <array> <cmath> <cstdint> <functional> <limits> <map> <memory> <optional> <set> <span>
+    <sstream> <string> <string_view> <utility> <vector>)
+if(ORVANE_PLATFORM STREQUAL "macos")
+  list(APPEND orvane_read_headers <ApplicationServices/ApplicationServices.h>
+       $<$<COMPILE_LANGUAGE:OBJCXX>:<AppKit/AppKit.h$<ANGLE-R>>)
+endif()
+
+# orvane_precompiled(NAME HEADERS...): a target with nothing but the read headers, for others to reuse.
+function(orvane_precompiled name)
+  if(orvane_precompiles)
+    add_library(${name} OBJECT)
+    set(kinds cpp)
+    if(ORVANE_PLATFORM STREQUAL "macos")
+      list(APPEND kinds mm)
+    endif()
+    foreach(kind IN LISTS kinds)
+      file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/generated/${name}.${kind}" CONTENT "")
+      target_sources(${name} PRIVATE "${CMAKE_BINARY_DIR}/generated/${name}.${kind}")
+    endforeach()
+    target_link_libraries(${name} PRIVATE orvane_flags)
+    target_precompile_headers(${name} PRIVATE ${ARGN} ${orvane_read_headers})
   endif()
-  target_precompile_headers(${name} PRIVATE ${ARGN} <algorithm> <array> <functional> <memory>
-                            <optional> <string> <string_view> <utility> <vector>)
+endfunction()
+orvane_precompiled(orvane_headers)
+
+# orvane_steers_fuzzers(NAME): libFuzzer sees which branches of the target an input takes.
+function(orvane_steers_fuzzers name)
+  if(ORVANE_BUILD_FUZZERS)
+    target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
+endfunction()
+if(TARGET orvane_headers)
+  orvane_steers_fuzzers(orvane_headers)
+endif()
+
+# orvane_reuse(NAME HEADERS): the target's sources find the headers of the target HEADERS read.
+function(orvane_reuse name headers)
+  if(TARGET ${headers})
+    target_precompile_headers(${name} REUSE_FROM ${headers})
+  endif()
 endfunction()
 
 # orvane_library(NAME SOURCES...): a static library of the project.
 function(orvane_library name)
   add_library(${name} STATIC ${ARGN})
   target_link_libraries(${name} PUBLIC orvane_flags)
-  orvane_precompile(${name})
+  orvane_steers_fuzzers(${name})
+  orvane_reuse(${name} orvane_headers)
+endfunction()
+
+# orvane_as_a_test(NAME): compiles the target's sources as tests are compiled.
+function(orvane_as_a_test name)
+  if(CMAKE_BUILD_TYPE STREQUAL "Debug")
+    # To optimise GoogleTest's code takes most of a test's build; what is tested stays optimised.
+    target_compile_options(${name} PRIVATE -O0)
+  endif()
+  # What a cross build cannot run shows no more when it is built for the second processor, too.
+  if(CMAKE_CROSSCOMPILING)
+    list(GET CMAKE_OSX_ARCHITECTURES 0 processor)
+    set_target_properties(${name} PROPERTIES OSX_ARCHITECTURES ${processor})
+  endif()
 endfunction()
 
 # orvane_test(NAME SOURCES file... [LIBRARIES library...] [DEFINITIONS name=value...]
@@ -48,12 +105,8 @@ function(orvane_test name)
   if(ORVANE_GNUSTEP AND "orvane_macos" IN_LIST arg_LIBRARIES)
     orvane_gnustep_bundle(${name} ${ORVANE_BUNDLE_IDENTIFIER})
   endif()
-  if(ORVANE_SANITIZE)
-    # The checks of the sanitizers in optimised GoogleTest code take most of the build's time; what
-    # is tested stays optimised.
-    target_compile_options(${name} PRIVATE -O0)
-  endif()
-  orvane_precompile(${name} <gtest/gtest.h>)
+  orvane_as_a_test(${name})
+  orvane_reuse(${name} orvane_test_headers)
   set(prefix "")
   if(ORVANE_GNUSTEP)
     set(prefix "gnustep.")
