@@ -55,7 +55,7 @@ std::string number(double value) {
   return text;
 }
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
   return "\"" + std::string(text) + "\"";
 }
 
@@ -210,7 +210,7 @@ void realSetAutosaveName(StatusItem*, std::string_view) REAL(
 void setAutosaveName(StatusItem*, std::string_view) WRAPPED(
     "_ZN6orvane6appkit10StatusItem15setAutosaveNameESt17basic_string_viewIcSt11char_traitsIcEE");
 void setAutosaveName(StatusItem* item, std::string_view name) {
-  note("StatusItem.setAutosaveName " + quoted(name));
+  note("StatusItem.setAutosaveName " + inQuotes(name));
   realSetAutosaveName(item, name);
 }
 
@@ -268,7 +268,7 @@ std::optional<Image> systemSymbol(std::string_view, std::string_view, double, Sy
     "12SymbolWeightE");
 std::optional<Image> systemSymbol(std::string_view name, std::string_view description,
                                   double pointSize, SymbolWeight weight) {
-  note("Image.systemSymbol " + quoted(name) + " " + quoted(description) + " " + number(pointSize));
+  note("Image.systemSymbol " + inQuotes(name) + " " + inQuotes(description) + " " + number(pointSize));
   return realSystemSymbol(name, description, pointSize, weight);
 }
 
@@ -312,7 +312,7 @@ void removeAllItems(Menu* menu) {
 void realAddItem(Menu*, MenuItem) REAL("_ZN6orvane6appkit4Menu7addItemENS0_8MenuItemE");
 void addItem(Menu*, MenuItem) WRAPPED("_ZN6orvane6appkit4Menu7addItemENS0_8MenuItemE");
 void addItem(Menu* menu, MenuItem item) {
-  note("Menu.addItem " + (item.isSeparator ? std::string("-") : quoted(item.title)));
+  note("Menu.addItem " + (item.isSeparator ? std::string("-") : inQuotes(item.title)));
   realAddItem(menu, std::move(item));
 }
 
@@ -344,7 +344,7 @@ void realSetString(std::string_view, std::string_view)
 void setString(std::string_view, std::string_view) WRAPPED(
     "_ZN6orvane6appkit12UserDefaults9setStringESt17basic_string_viewIcSt11char_traitsIcEES5_");
 void setString(std::string_view key, std::string_view value) {
-  note("UserDefaults.setString " + quoted(key) + " " + quoted(value));
+  note("UserDefaults.setString " + inQuotes(key) + " " + inQuotes(value));
   realSetString(key, value);
 }
 
@@ -353,7 +353,7 @@ void realSetBoolean(std::string_view, bool)
 void setBoolean(std::string_view, bool) WRAPPED(
     "_ZN6orvane6appkit12UserDefaults10setBooleanESt17basic_string_viewIcSt11char_traitsIcEEb");
 void setBoolean(std::string_view key, bool value) {
-  note("UserDefaults.setBoolean " + quoted(key) + (value ? " true" : " false"));
+  note("UserDefaults.setBoolean " + inQuotes(key) + (value ? " true" : " false"));
   realSetBoolean(key, value);
 }
 
