@@ -1,4 +1,4 @@
-// When the application is told that its screens have changed: after display changes, and when the
+// When the screen-parameters notification is posted: after display changes, and when the
 // Dock takes or gives back a part of one.
 #include <cstdint>
 #include <optional>

@@ -26,7 +26,7 @@ std::map<std::string, Observers>& observers() {
   return *all;
 }
 
-/// One that is removed meanwhile hears nothing.
+/// An observer that is removed before its turn hears nothing.
 void tell(NSNotification* notification) {
   const std::string name = notification.name.UTF8String;
   for (OrvaneShimObserver* observer : Observers(observers()[name])) {
