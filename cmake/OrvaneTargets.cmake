@@ -128,6 +128,7 @@ function(orvane_test name)
   gtest_discover_tests(
     ${name}
     DISCOVERY_MODE PRE_TEST
+    DISCOVERY_TIMEOUT 60
     TEST_PREFIX "${prefix}"
     PROPERTIES ${properties})
 endfunction()

@@ -10,6 +10,21 @@
 #include "tests/gnustep/MacHalfFixture.hpp"
 #include "tests/gnustep/shim/World.hpp"
 
+@interface OrvaneNextResponder : NSResponder {
+ @public
+  int _keys;
+  int _scrolls;
+}
+@end
+@implementation OrvaneNextResponder
+- (void)keyDown:(NSEvent*)event {
+  ++_keys;
+}
+- (void)scrollWheel:(NSEvent*)event {
+  ++_scrolls;
+}
+@end
+
 namespace orvane {
 namespace {
 
@@ -102,12 +117,12 @@ TEST_F(HostView, TheWheelScrollsWhatLiesUnderIt) {
                                           clickCount:1
                                             pressure:0
                                         buttonNumber:0
-                                              deltaX:-5
+                                              deltaX:-8
                                               deltaY:0
                                               deltaZ:0];
-  [hostOf(window) scrollWheel:wheel];
+  [NSApp sendEvent:wheel];
   letTimePass(0.05);
-  // Five lines of ten points.
+  // Eight lines of ten points; a column with its margins is 74 points wide.
   click(nativeOf(window), 20, 50);
   EXPECT_EQ(clicks, (std::vector<int>{0, 1}));
   window.close();
@@ -142,6 +157,66 @@ TEST_F(HostView, TheSettingsOfTheDisplayReachItsContent) {
   ASSERT_GE(contrasts.size(), 2U);
   EXPECT_FALSE(contrasts.front());
   EXPECT_TRUE(contrasts.back());
+  window.close();
+}
+
+TEST_F(HostView, ThePointerThatLeavesHoversOverNothing) {
+  std::vector<bool> hovers;
+  Window window = show([&](const ui::Environment&) -> ui::View {
+    return ui::Rectangle().frame(200, 100).onHover([&](bool isOver) { hovers.push_back(isOver); });
+  });
+  mouse(nativeOf(window), NSMouseMoved, 100, 50);
+  mouse(nativeOf(window), NSMouseMoved, 100, 150);
+  EXPECT_EQ(hovers, (std::vector<bool>{true, false}));
+  window.close();
+}
+
+TEST_F(HostView, WhatItDoesNotTakeGoesOn) {
+  Window window = showTwoButtons();
+  OrvaneHostView* const view = hostOf(window);
+  OrvaneNextResponder* const next = [[OrvaneNextResponder alloc] init];
+  view.nextResponder = next;
+  [view keyDown:keyEvent(nativeOf(window), @"x")];
+  [view keyDown:keyEvent(nativeOf(window), @"x", 0, YES)];
+  EXPECT_EQ(next->_keys, 1) << "a repeat goes nowhere";
+  [view scrollWheel:mouseEvent(nativeOf(window), NSMouseMoved, 100, 50)];
+  EXPECT_EQ(next->_scrolls, 1);
+  window.close();
+}
+
+TEST_F(HostView, ItsContentMayDismissIt) {
+  bool isDismissed = false;
+  Window window = show([](const ui::Environment& environment) -> ui::View {
+    return ui::Button([environment] { environment.dismiss(); }, ui::Rectangle().frame(200, 100));
+  });
+  click(nativeOf(window), 100, 50);
+  window.contentView()->onDismiss([&] { isDismissed = true; });
+  click(nativeOf(window), 100, 50);
+  EXPECT_TRUE(isDismissed);
+  window.close();
+}
+
+TEST_F(HostView, ItHasOneTrackingAreaHoweverOftenItMoves) {
+  Window window = showTwoButtons();
+  OrvaneHostView* const view = hostOf(window);
+  [view updateTrackingAreas];
+  [view updateTrackingAreas];
+  EXPECT_EQ(view.trackingAreas.count, 1U);
+  window.close();
+}
+
+TEST_F(HostView, AWindowIsMiniaturisedAndIsOnAScreen) {
+  Window window(appkit::WindowKind::window, CGRectMake(100, 100, 200, 100),
+                appkit::StyleMask::titled | appkit::StyleMask::miniaturizable);
+  window.makeKeyAndOrderFront();
+  ASSERT_TRUE(window.screen());
+  EXPECT_EQ(window.screen()->frame().size.width, 1440);
+  window.miniaturize();
+  letTimePass(0.05);
+  EXPECT_TRUE(window.isMiniaturized());
+  window.deminiaturize();
+  letTimePass(0.05);
+  EXPECT_FALSE(window.isMiniaturized());
   window.close();
 }
 

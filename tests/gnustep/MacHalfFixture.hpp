@@ -1,6 +1,8 @@
 // MacHalfFixture shows views in windows of their own, and sends these what AppKit would send them.
 #pragma once
 
+#include <functional>
+
 #import <AppKit/AppKit.h>
 
 #include "Orvane/platform/appkit/HostingView.hpp"
@@ -21,6 +23,11 @@ namespace orvane {
 
 class MacHalfFixture : public ContractFixture {
  protected:
+  /// Time passes until something is so, some seconds at most; whether it is.
+  [[nodiscard]] bool isSoon(const std::function<bool()>& condition);
+  /// Does something as soon as something is so, in whatever mode the run loop is then.
+  static void when(const std::function<bool()>& condition, const std::function<void()>& action);
+
   /// A key panel of 200 by 100 points at (100, 100).
   appkit::Window show(appkit::HostingView::RootBuilder root);
 
@@ -38,8 +45,8 @@ class MacHalfFixture : public ContractFixture {
 
   /// The window of the menu that is open; nil when none is.
   static NSWindow* openMenuWindow();
-  /// Soon, a menu that is open by then is sent these keys, one after another.
-  static void typeSoonIntoMenu(NSArray* keys);
+  /// When a menu is open, it is sent these keys, one after another.
+  static void typeIntoMenu(NSArray* keys);
   static NSString* functionKey(unichar key);
 };
 

@@ -3,11 +3,44 @@
 
 #include <utility>
 
-#include "Orvane/platform/appkit/MainQueue.hpp"
 #include "macos/appkit/NativeWindow.hpp"
 #include "macos/hosting/HostingContainer.hpp"
 
 namespace orvane {
+
+namespace {
+
+/// More than enough on a machine that is busy.
+constexpr double patienceSeconds = 20;
+
+}  // namespace
+
+bool MacHalfFixture::isSoon(const std::function<bool()>& condition) {
+  NSDate* const end = [NSDate dateWithTimeIntervalSinceNow:patienceSeconds];
+  while (!condition() && end.timeIntervalSinceNow > 0) {
+    letTimePass(0.01);
+  }
+  return condition();
+}
+
+void MacHalfFixture::when(const std::function<bool()>& condition,
+                          const std::function<void()>& action) {
+  NSDate* const end = [NSDate dateWithTimeIntervalSinceNow:patienceSeconds];
+  const auto isDue = condition;
+  const auto act = action;
+  NSTimer* const timer = [NSTimer timerWithTimeInterval:0.02
+                                                repeats:YES
+                                                  block:^(NSTimer* running) {
+                                                    if (isDue()) {
+                                                      [running invalidate];
+                                                      act();
+                                                    } else if (end.timeIntervalSinceNow < 0) {
+                                                      [running invalidate];
+                                                      ADD_FAILURE() << "it did not come to that";
+                                                    }
+                                                  }];
+  [NSRunLoop.mainRunLoop addTimer:timer forMode:NSRunLoopCommonModes];
+}
 
 appkit::Window MacHalfFixture::show(appkit::HostingView::RootBuilder root) {
   appkit::Window window(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
@@ -77,13 +110,13 @@ NSWindow* MacHalfFixture::openMenuWindow() {
   return nil;
 }
 
-void MacHalfFixture::typeSoonIntoMenu(NSArray* keys) {
-  appkit::MainQueue::asyncAfter(0.2, [keys] {
-    EXPECT_NE(openMenuWindow(), nil);
-    for (NSString* characters in keys) {
-      [NSApp postEvent:keyEvent(openMenuWindow(), characters) atStart:NO];
-    }
-  });
+void MacHalfFixture::typeIntoMenu(NSArray* keys) {
+  when([] { return openMenuWindow() != nil; },
+       [keys] {
+         for (NSString* characters in keys) {
+           [NSApp postEvent:keyEvent(openMenuWindow(), characters) atStart:NO];
+         }
+       });
 }
 
 NSString* MacHalfFixture::functionKey(unichar key) {

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "Orvane/platform/appkit/Application.hpp"
-#include "Orvane/platform/appkit/MainQueue.hpp"
 #include "Orvane/platform/appkit/Menu.hpp"
 #include "Orvane/platform/appkit/StatusItem.hpp"
 #include "Orvane/ui/Button.hpp"
@@ -44,6 +43,8 @@ class MenuTracking : public MacHalfFixture {
     ADD_FAILURE() << "there is no item in the bar";
   }
 
+  static bool isMenuOpen() { return openMenuWindow() != nil; }
+
   static NSView* row(int index) {
     return [[openMenuWindow().contentView subviews] objectAtIndex:static_cast<NSUInteger>(index)];
   }
@@ -78,8 +79,24 @@ TEST_F(MenuTracking, ARowMayRebuildItsOwnMenu) {
     }
   };
   menu.onWillOpen(build);
-  appkit::MainQueue::asyncAfter(0.2, [] { clickRow(0); });
-  appkit::MainQueue::asyncAfter(0.6, [&] { menu.cancelTracking(); });
+  when(isMenuOpen, [] { clickRow(0); });
+  when([&] { return clicks > 0; }, [&] { menu.cancelTracking(); });
+  open(menu);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(MenuTracking, TheButtonMayComeUpOverARowWhereItDidNotGoDown) {
+  appkit::Menu menu;
+  int clicks = 0;
+  addRow(menu, [&] { ++clicks; });
+  when(isMenuOpen, [] {
+    // The menu's own loop gives it to what lies under the pointer.
+    OrvaneHostView* const view = static_cast<OrvaneHostingContainer*>(row(0)).hostView;
+    const NSPoint middle = [view convertPoint:NSMakePoint(90, 15) toView:nil];
+    [view mouseUp:mouseEvent(openMenuWindow(), NSLeftMouseUp, middle.x,
+                             NSHeight([openMenuWindow().contentView frame]) - middle.y)];
+  });
+  when([&] { return clicks > 0; }, [&] { menu.cancelTracking(); });
   open(menu);
   EXPECT_EQ(clicks, 1);
 }
@@ -94,19 +111,19 @@ TEST_F(MenuTracking, TheKeyboardLightsUpARowAndChoosesIt) {
     return static_cast<bool>(static_cast<OrvaneHostingContainer*>(row(index)).highlighted);
   };
   NSString* const down = functionKey(NSDownArrowFunctionKey);
-  typeSoonIntoMenu(@[ down, down ]);
-  appkit::MainQueue::asyncAfter(0.4, [&] {
-    EXPECT_FALSE(isLit(0));
-    EXPECT_TRUE(isLit(1));
-    typeSoonIntoMenu(@[ @"\r" ]);
-  });
+  typeIntoMenu(@[ down, down ]);
+  when([&] { return isMenuOpen() && isLit(1); },
+       [&] {
+         EXPECT_FALSE(isLit(0));
+         typeIntoMenu(@[ @"\r" ]);
+       });
   open(menu);
   EXPECT_EQ(chosen, std::vector<int>{1});
 }
 
 TEST_F(MenuTracking, AModalSessionBeginsWhenTheMenuHasClosed) {
   appkit::Menu menu;
-  __block bool isMenuOpen = true;
+  bool wasMenuOpen = true;
   int response = 0;
   appkit::Window panel(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
                        appkit::StyleMask::titled);
@@ -114,18 +131,15 @@ TEST_F(MenuTracking, AModalSessionBeginsWhenTheMenuHasClosed) {
     appkit::Application::runModal(panel, [&](int code) { response = code; });
     EXPECT_EQ(response, 0) << "the menu's row waits for the session";
   });
-  NSTimer* const end = [NSTimer timerWithTimeInterval:0.5
-                                              repeats:NO
-                                                block:^(NSTimer*) {
-                                                  isMenuOpen = openMenuWindow() != nil;
-                                                  appkit::Application::stopModal(1001);
-                                                }];
-  [NSRunLoop.mainRunLoop addTimer:end forMode:NSRunLoopCommonModes];
-  appkit::MainQueue::asyncAfter(0.2, [] { clickRow(0); });
+  when([] { return NSApp.modalWindow != nil; },
+       [&] {
+         wasMenuOpen = isMenuOpen();
+         appkit::Application::stopModal(1001);
+       });
+  when(isMenuOpen, [] { clickRow(0); });
   open(menu);
-  letTimePass(0.6);
-  EXPECT_EQ(response, 1001);
-  EXPECT_FALSE(isMenuOpen);
+  EXPECT_TRUE(isSoon([&] { return response == 1001; }));
+  EXPECT_FALSE(wasMenuOpen);
   panel.close();
 }
 

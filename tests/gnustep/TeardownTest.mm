@@ -33,10 +33,9 @@ class Teardown : public MacHalfFixture {
   }
 
   void expectNothingLeft() {
-    letTimePass(0.1);
-    EXPECT_FALSE(window.has_value());
-    EXPECT_EQ(view, nil) << "the view is kept";
-    EXPECT_EQ(native, nil) << "the window is kept";
+    EXPECT_TRUE(isSoon([this] { return !window.has_value(); }));
+    EXPECT_TRUE(isSoon([this] { return view == nil; })) << "the view is kept";
+    EXPECT_TRUE(isSoon([this] { return native == nil; })) << "the window is kept";
   }
 
   ui::View buttonThatEndsEverything() {
@@ -90,10 +89,9 @@ TEST_F(Teardown, AChoiceInAMenuMayEndEverything) {
   @autoreleasepool {
     click(native, 100, 50);
     NSString* const down = functionKey(NSDownArrowFunctionKey);
-    typeSoonIntoMenu(@[ down, down, @"\r" ]);
+    typeIntoMenu(@[ down, down, @"\r" ]);
   }
-  letTimePass(0.4);
-  EXPECT_EQ(chosen, 1);
+  EXPECT_TRUE(isSoon([&] { return chosen == 1; }));
   expectNothingLeft();
 }
 
@@ -179,17 +177,13 @@ TEST_F(Teardown, AModalPanelGoesWithItsSession) {
       });
     });
   }
-  NSTimer* const press =
-      [NSTimer timerWithTimeInterval:0.2
-                             repeats:NO
-                               block:^(NSTimer*) {
-                                 for (NSEventType type : {NSLeftMouseDown, NSLeftMouseUp}) {
-                                   [NSApp postEvent:mouseEvent(native, type, 100, 50) atStart:NO];
-                                 }
-                               }];
-  [NSRunLoop.mainRunLoop addTimer:press forMode:NSRunLoopCommonModes];
-  letTimePass(0.6);
-  EXPECT_EQ(response, 1000);
+  when([this] { return native != nil && NSApp.modalWindow == native; },
+       [this] {
+         for (NSEventType type : {NSLeftMouseDown, NSLeftMouseUp}) {
+           [NSApp postEvent:mouseEvent(native, type, 100, 50) atStart:NO];
+         }
+       });
+  EXPECT_TRUE(isSoon([&] { return response == 1000; }));
   expectNothingLeft();
 }
 

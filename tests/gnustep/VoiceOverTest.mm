@@ -66,7 +66,12 @@ TEST_F(VoiceOver, AnElementIsFoundByItsPlaceAndPressed) {
   EXPECT_TRUE([children[1] accessibilityPerformPress]);
   EXPECT_EQ(first, 0);
   EXPECT_EQ(second, 1);
-  EXPECT_TRUE([children[1] isAccessibilitySelectorAllowed:@selector(accessibilityPerformPress)]);
+  for (const SEL selector : {
+         @selector(accessibilityPerformPress), @selector(setAccessibilityFocused:),
+             @selector(accessibilityLabel)
+       }) {
+    EXPECT_TRUE([children[1] isAccessibilitySelectorAllowed:selector]);
+  }
   window.close();
 }
 

@@ -4,7 +4,8 @@
 
 #import <AppKit/AppKit.h>
 
-/// Main thread only. Beside the pictures it leaves a list of all texts and their places, layout.txt.
+/// Main thread only. Beside the pictures it leaves a list of all texts and their places,
+/// layout.txt.
 @interface OrvaneWindowPictures : NSObject
 
 - (nonnull instancetype)initWithFolder:(nonnull NSString*)folder;

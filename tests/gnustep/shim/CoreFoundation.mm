@@ -125,8 +125,9 @@ CFStringRef CFUUIDCreateString(CFAllocatorRef, CFUUIDRef uuid) {
   return (CFStringRef)[(id)uuid copy];
 }
 boolean_t CGDisplayIsMain(CGDirectDisplayID number) {
-  // The X server has one screen.
-  return world().displays.empty() || world().displays.front().number == number;
+  // The screen of the X server, where a test has arranged none.
+  NSNumber* const main = NSScreen.mainScreen.deviceDescription[@"NSScreenNumber"];
+  return main.unsignedIntValue == number;
 }
 boolean_t CGDisplayIsBuiltin(CGDirectDisplayID number) {
   for (const auto& display : world().displays) {

@@ -44,8 +44,8 @@ void installNotifications() {
       replaceMethod(NSNotificationCenter.class, add,
                     ^id(NSNotificationCenter* center, NSString* name, id object, NSOperationQueue*,
                         void (^block)(NSNotification*)) {
-                      Observers& known = observers()[name.UTF8String];
-                      if (known.empty()) {
+                      const auto [known, isFirst] = observers().try_emplace(name.UTF8String);
+                      if (isFirst) {
                         callReplaced<id, id, id, id, id>(addObserver, center, add, name, object,
                                                          nil, ^(NSNotification* notification) {
                                                            tell(notification);
@@ -53,7 +53,7 @@ void installNotifications() {
                       }
                       OrvaneShimObserver* const observer = [[OrvaneShimObserver alloc] init];
                       observer->_block = [block copy];
-                      known.push_back(observer);
+                      known->second.push_back(observer);
                       return observer;
                     });
   static IMP const removeObserver = replaceMethod(

@@ -1,0 +1,210 @@
+// What the Mac half makes of the kit's words, and the kit of the Mac's: keys, colours, weights,
+// roles.
+#include <map>
+#include <string>
+#include <vector>
+
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/StandardColors.hpp"
+#include "macos/canvas/CoreTextMeasurer.hpp"
+#include "macos/canvas/QuartzCanvas.hpp"
+#include "macos/canvas/SystemColors.hpp"
+#include "macos/canvas/SystemFont.hpp"
+#include "macos/hosting/FileDrag.hpp"
+#include "macos/hosting/KeyTranslation.hpp"
+#include "tests/gnustep/MacHalfFixture.hpp"
+#include "tests/gnustep/shim/DrawingContext.hpp"
+#include "tests/gnustep/shim/World.hpp"
+
+namespace orvane {
+namespace {
+
+class Translation : public MacHalfFixture {
+ protected:
+  static ui::Appearance looking(bool isDark) {
+    ui::Appearance appearance;
+    appearance.dark = isDark;
+    return appearance;
+  }
+};
+
+TEST_F(Translation, EveryKeyOfTheKitHasOneOfTheMac) {
+  const std::vector<std::pair<unichar, ui::Key>> keys{{NSTabCharacter, ui::Key::tab},
+                                                      {NSBackTabCharacter, ui::Key::tab},
+                                                      {NSCarriageReturnCharacter, ui::Key::enter},
+                                                      {NSEnterCharacter, ui::Key::enter},
+                                                      {' ', ui::Key::space},
+                                                      {0x1B, ui::Key::escape},
+                                                      {NSLeftArrowFunctionKey, ui::Key::left},
+                                                      {NSRightArrowFunctionKey, ui::Key::right},
+                                                      {NSUpArrowFunctionKey, ui::Key::up},
+                                                      {NSDownArrowFunctionKey, ui::Key::down},
+                                                      {'W', ui::Key::character}};
+  for (const auto& [character, key] : keys) {
+    const auto event = appkit::keyEventFrom(keyEvent(nil, functionKey(character), NSShiftKeyMask));
+    ASSERT_TRUE(event);
+    EXPECT_EQ(event->key, key) << character;
+    EXPECT_TRUE(event->modifiers.shift);
+    EXPECT_FALSE(event->modifiers.command);
+    EXPECT_EQ(event->characters, key == ui::Key::character ? "w" : "");
+  }
+  EXPECT_FALSE(appkit::keyEventFrom(keyEvent(nil, @"")));
+  EXPECT_FALSE(appkit::keyEventFrom(mouseEvent(nil, NSLeftMouseDown, 0, 0)));
+  EXPECT_FALSE(appkit::isRepeatedActivation(mouseEvent(nil, NSLeftMouseDown, 0, 0)));
+  EXPECT_FALSE(appkit::isRepeatedActivation(keyEvent(nil, @"\t", 0, YES)));
+  EXPECT_TRUE(appkit::isRepeatedActivation(keyEvent(nil, @" ", 0, YES)));
+}
+
+TEST_F(Translation, ASystemColourIsThatOfTheAppearanceThatIsAskedFor) {
+  const auto expectColor = [](ui::SystemColor name, bool isDark, int red, int green, int blue) {
+    const ui::Rgba color = appkit::systemColor(name, looking(isDark));
+    EXPECT_NEAR(color.red * 255, red, 1);
+    EXPECT_NEAR(color.green * 255, green, 1);
+    EXPECT_NEAR(color.blue * 255, blue, 1);
+  };
+  // The appearance that draws is the light one.
+  expectColor(ui::SystemColor::red, false, 0xFF, 0x3B, 0x30);
+  expectColor(ui::SystemColor::red, true, 0xFF, 0x45, 0x3A);
+  expectColor(ui::SystemColor::green, true, 0x30, 0xD1, 0x58);
+  expectColor(ui::SystemColor::orange, true, 0xFF, 0x9F, 0x0A);
+  expectColor(ui::SystemColor::blue, true, 0x0A, 0x84, 0xFF);
+  expectColor(ui::SystemColor::gray, true, 0x98, 0x98, 0x9D);
+  expectColor(ui::SystemColor::accent, true, 0x0A, 0x84, 0xFF);
+  expectColor(ui::SystemColor::primary, true, 0xFF, 0xFF, 0xFF);
+  expectColor(ui::SystemColor::tertiary, false, 0, 0, 0);
+  expectColor(ui::SystemColor::windowBackground, true, 0x1E, 0x1E, 0x1E);
+}
+
+TEST_F(Translation, SomeColoursAreTheKitsOwn) {
+  const ui::Rgba chosen{0.1, 0.2, 0.3, 1};
+  ui::Appearance appearance;
+  appearance.accent = chosen;
+  EXPECT_EQ(appkit::systemColor(ui::SystemColor::accent, appearance), chosen);
+  EXPECT_EQ(appkit::systemColor(ui::SystemColor::secondary, {}),
+            ui::standardColor(ui::SystemColor::secondary, {}));
+  ui::Appearance contrast;
+  contrast.increaseContrast = true;
+  EXPECT_EQ(appkit::systemColor(ui::SystemColor::secondary, contrast).alpha, 128 / 255.0);
+  EXPECT_EQ(appkit::systemColor(ui::SystemColor::fixed, {}),
+            ui::standardColor(ui::SystemColor::fixed, {}));
+}
+
+TEST_F(Translation, EveryWeightIsHeavierThanTheOneBefore) {
+  const std::vector<ui::Weight> weights{
+      ui::Weight::ultraLight, ui::Weight::thin,   ui::Weight::light,
+      ui::Weight::regular,    ui::Weight::medium, ui::Weight::semibold,
+      ui::Weight::bold,       ui::Weight::heavy,  ui::Weight::black};
+  for (std::size_t index = 1; index < weights.size(); ++index) {
+    EXPECT_LT(appkit::fontWeight(weights[index - 1]), appkit::fontWeight(weights[index]));
+  }
+  EXPECT_EQ(appkit::fontWeight(ui::Weight::regular), NSFontWeightRegular);
+}
+
+TEST_F(Translation, EveryRoleHasItsNameAndItsValue) {
+  const std::vector<std::pair<ui::Role, NSString*>> roles{
+      {ui::Role::group, NSAccessibilityGroupRole},
+      {ui::Role::staticText, NSAccessibilityStaticTextRole},
+      {ui::Role::heading, NSAccessibilityStaticTextRole},
+      {ui::Role::image, NSAccessibilityImageRole},
+      {ui::Role::button, NSAccessibilityButtonRole},
+      {ui::Role::toggle, NSAccessibilityCheckBoxRole},
+      {ui::Role::radioButton, NSAccessibilityRadioButtonRole},
+      {ui::Role::popUpButton, NSAccessibilityPopUpButtonRole},
+      {ui::Role::link, NSAccessibilityLinkRole},
+      {ui::Role::scrollArea, NSAccessibilityScrollAreaRole}};
+  for (const auto& [role, name] : roles) {
+    appkit::Window window = show([shown = role](const ui::Environment&) -> ui::View {
+      return ui::Rectangle()
+          .frame(200, 50)
+          .accessibilityLabel("label")
+          .accessibilityRole(shown)
+          .accessibilityValue("1")
+          .accessibilitySelected(true);
+    });
+    NSAccessibilityElement* const element = [hostOf(window) accessibilityChildren].firstObject;
+    EXPECT_TRUE([element.accessibilityRole isEqual:name]) << name.UTF8String;
+    EXPECT_STREQ([element.accessibilityValue description].UTF8String, "1");
+    const bool addsValue = role == ui::Role::radioButton;
+    EXPECT_STREQ(element.accessibilityLabel.UTF8String, addsValue ? "label, 1" : "label");
+    EXPECT_EQ(element.accessibilitySubrole != nil, role == ui::Role::toggle);
+    window.close();
+  }
+}
+
+/// A canvas of 20 by 20 points.
+class CanvasOnMac : public ContractFixture {
+ protected:
+  CanvasOnMac() {
+    // As in a flipped view.
+    CGContextRef const reference = (__bridge CGContextRef)context;
+    CGContextTranslateCTM(reference, 0, 20);
+    CGContextScaleCTM(reference, 1, -1);
+  }
+  ~CanvasOnMac() override { cairo_surface_destroy(surface); }
+
+  [[nodiscard]] std::uint32_t pixel(int x, int y) const {
+    cairo_surface_flush(surface);
+    const auto* const row =
+        cairo_image_surface_get_data(surface) + y * cairo_image_surface_get_stride(surface);
+    return reinterpret_cast<const std::uint32_t*>(row)[x];
+  }
+  [[nodiscard]] bool isEmpty() const {
+    for (int index = 0; index < 400; ++index) {
+      if (pixel(index % 20, index / 20) != 0) {
+        return false;
+      }
+    }
+    return true;
+  }
+
+  cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 20, 20);
+  OrvaneShimContext* context = [[OrvaneShimContext alloc] initWithSurface:surface];
+  const ui::Paint black = ui::Paint::solid({0, 0, 0, 1});
+};
+
+TEST_F(CanvasOnMac, NothingIsDrawnOfWhatIsEmptyOrUnknown) {
+  appkit::QuartzCanvas canvas((__bridge CGContextRef)context, 1);
+  const auto empty = ui::Shape::rectangle({5, 5, 0, 0});
+  const auto shape = ui::Shape::rectangle({5, 5, 10, 10});
+  canvas.fill(empty, black);
+  canvas.stroke(empty, black, 2);
+  canvas.stroke(shape, black, 0);
+  canvas.shadow(empty, {.color = {0, 0, 0, 1}, .radius = 4, .offset = {}});
+  canvas.text("\xFF", ui::Font::body(), {0, 0, 0, 1}, {5, 15});
+  canvas.symbol("no such symbol", ui::Font::body(), {0, 0, 0, 1}, {5, 5, 10, 10});
+  EXPECT_TRUE(isEmpty());
+}
+
+TEST_F(CanvasOnMac, NothingIsDrawnInAnEmptyClip) {
+  appkit::QuartzCanvas canvas((__bridge CGContextRef)context, 1);
+  const auto shape = ui::Shape::rectangle({5, 5, 10, 10});
+  canvas.save();
+  canvas.clip(ui::Shape::rectangle({5, 5, 0, 0}));
+  canvas.fill(shape, black);
+  canvas.restore();
+  EXPECT_TRUE(isEmpty());
+  canvas.fill(shape, black);
+  EXPECT_EQ(pixel(10, 10), 0xFF000000U);
+  EXPECT_EQ(pixel(2, 2), 0U);
+}
+
+TEST_F(CanvasOnMac, AShadowFallsDownwardsAndOutsideOfItsShape) {
+  appkit::QuartzCanvas canvas((__bridge CGContextRef)context, 1);
+  canvas.shadow(ui::Shape::rectangle({5, 5, 10, 6}),
+                {.color = {0, 0, 0, 1}, .radius = 0, .offset = {0, 4}});
+  EXPECT_EQ(pixel(10, 8), 0U);
+  EXPECT_EQ(pixel(10, 13), 0xFF000000U);
+  EXPECT_EQ(pixel(10, 2), 0U);
+}
+
+TEST_F(Translation, ADragWithoutAFileBeginsNothing) {
+  appkit::Window window = show([](const ui::Environment&) { return ui::View(); });
+  click(nativeOf(window), 10, 10);
+  appkit::beginFileDrag({.fileUrl = "\xFF", .imageName = "", .frame = {}}, hostOf(window));
+  EXPECT_FALSE(gnustep::world().drag);
+  window.close();
+}
+
+}  // namespace
+}  // namespace orvane
