@@ -17,6 +17,7 @@ set_property(CACHE ORVANE_PLATFORM PROPERTY STRINGS desk macos)
 
 option(ORVANE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(ORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(ORVANE_COVERAGE "Count which lines of macos/ are run (clang only)" OFF)
 option(ORVANE_BUILD_TESTS "Build the tests" ON)
 option(ORVANE_SPEED_TESTS_ONLY "Of the tests, build only those with the label speed" OFF)
 option(ORVANE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
