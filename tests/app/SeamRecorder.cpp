@@ -268,7 +268,8 @@ std::optional<Image> systemSymbol(std::string_view, std::string_view, double, Sy
     "12SymbolWeightE");
 std::optional<Image> systemSymbol(std::string_view name, std::string_view description,
                                   double pointSize, SymbolWeight weight) {
-  note("Image.systemSymbol " + inQuotes(name) + " " + inQuotes(description) + " " + number(pointSize));
+  note("Image.systemSymbol " + inQuotes(name) + " " + inQuotes(description) + " " +
+       number(pointSize));
   return realSystemSymbol(name, description, pointSize, weight);
 }
 
