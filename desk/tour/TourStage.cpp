@@ -209,7 +209,10 @@ void TourStage::tell(const std::string& line) {
   }
   ++stepCount_;
   constexpr int twoDigits = 10;
-  const std::string number = (stepCount_ < twoDigits ? "0" : "") + std::to_string(stepCount_);
+  std::string number = std::to_string(stepCount_);
+  if (stepCount_ < twoDigits) {
+    number.insert(number.begin(), '0');
+  }
   DesktopScene scene(machine(), application_);
   scene.showsZones = showsZones_;
   scene.movedBack = movedBack_;
