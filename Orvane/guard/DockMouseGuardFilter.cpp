@@ -16,14 +16,17 @@ constexpr double reportIntervalSeconds = 1.0;
 
 }  // namespace
 
-// Flattened: what it calls for every event is compiled into it where the linker sees it.
+// Flattened: what it calls for every event is compiled into it where the linker sees it. What is
+// rare is kept out, so that a movement outside every zone needs no room on the stack.
 [[gnu::flatten]] CGEventRef DockMouseGuard::eventTapCallback(CGEventType type, CGEventRef event) {
   if (type == kCGEventTapDisabledByTimeout || type == kCGEventTapDisabledByUserInput) {
     handleDisabledTap();
     return event;
   }
   const bool isUnlocked = overrideModifier_.isHeld(CGEventGetFlags(event));
-  setTemporarilyUnlocked(isUnlocked);
+  if (isUnlocked != isTemporarilyUnlocked_) {
+    setTemporarilyUnlocked(isUnlocked);
+  }
   if (isUnlocked) {
     return event;
   }
@@ -40,7 +43,7 @@ constexpr double reportIntervalSeconds = 1.0;
   return event;
 }
 
-void DockMouseGuard::setTemporarilyUnlocked(bool value) {
+[[gnu::noinline]] void DockMouseGuard::setTemporarilyUnlocked(bool value) {
   if (isTemporarilyUnlocked_ == value) {
     return;
   }
@@ -52,7 +55,7 @@ void DockMouseGuard::setTemporarilyUnlocked(bool value) {
   }));
 }
 
-void DockMouseGuard::recordBlockedEvent() {
+[[gnu::noinline]] void DockMouseGuard::recordBlockedEvent() {
   const double now = CACurrentMediaTime();
   recentBlockTimestamps_.record(now);
   if (recentBlockTimestamps_.isRunaway()) {
@@ -74,7 +77,7 @@ void DockMouseGuard::disableEventTapForRapidBlocking() {
   shutOff();
 }
 
-void DockMouseGuard::handleDisabledTap() {
+[[gnu::noinline, gnu::cold]] void DockMouseGuard::handleDisabledTap() {
   if (!eventTap_ || isShutOff_) {
     return;
   }
@@ -92,7 +95,7 @@ bool DockMouseGuard::isDisabledTooOften() {
   return disabledAt_.back() - disabledAt_.front() <= disablingWindowSeconds;
 }
 
-void DockMouseGuard::shutOff() {
+[[gnu::noinline, gnu::cold]] void DockMouseGuard::shutOff() {
   if (eventTap_) {
     CGEventTapEnable(eventTap_.get(), false);
   }
