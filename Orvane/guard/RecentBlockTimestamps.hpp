@@ -17,10 +17,8 @@ class RecentBlockTimestamps {
 
   [[nodiscard]] std::size_t size() const { return count_; }
   [[nodiscard]] bool isEmpty() const { return count_ == 0; }
-  /// The timestamp at `index`, the oldest at 0.
-  [[nodiscard]] double at(std::size_t index) const {
-    return timestamps_[(oldest_ + index) % runawayCount];
-  }
+  /// The timestamp at `index`, which is below the size; the oldest at 0.
+  [[nodiscard]] double at(std::size_t index) const { return timestamps_[wrapped(oldest_ + index)]; }
 
   /// Adds `now` and forgets what is more than the window older. The clock never goes back, so the
   /// oldest are always the first.
@@ -28,7 +26,7 @@ class RecentBlockTimestamps {
     if (count_ == runawayCount) {
       forgetOldest();
     }
-    timestamps_[(oldest_ + count_) % runawayCount] = now;
+    timestamps_[wrapped(oldest_ + count_)] = now;
     ++count_;
     while (now - at(0) > windowSeconds) {
       forgetOldest();
@@ -40,8 +38,13 @@ class RecentBlockTimestamps {
   void clear() { count_ = 0; }
 
  private:
+  /// Both parts of a place are within the ring, so it is passed once at the most; a remainder would
+  /// cost more than all the rest of a block.
+  [[nodiscard]] static constexpr std::size_t wrapped(std::size_t place) {
+    return place < runawayCount ? place : place - runawayCount;
+  }
   void forgetOldest() {
-    oldest_ = (oldest_ + 1) % runawayCount;
+    oldest_ = wrapped(oldest_ + 1);
     --count_;
   }
 
