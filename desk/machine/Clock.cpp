@@ -10,23 +10,27 @@ namespace {
 
 /// `nanoseconds` since the start in seconds since `secondsAtStart`, with the fraction rounded to
 /// 2^-fractionBits. Whole seconds and fraction together need no more than a double's 53 bits for
-/// the first weeks of a machine, so the sum is exact.
-double quantisedSeconds(std::int64_t nanoseconds, std::int64_t secondsAtStart, int fractionBits) {
-  const std::int64_t whole = nanoseconds / Clock::nanosecondsPerSecond;
-  const std::int64_t rest = nanoseconds % Clock::nanosecondsPerSecond;
-  const double steps = std::round(std::ldexp(static_cast<double>(rest), fractionBits) /
-                                  static_cast<double>(Clock::nanosecondsPerSecond));
-  return static_cast<double>(secondsAtStart + whole) + std::ldexp(steps, -fractionBits);
+/// the first weeks of a machine, so the sum is exact. In whole numbers, because every event that is
+/// moved back asks for the time.
+template <int fractionBits>
+double quantisedSeconds(std::int64_t nanoseconds, std::int64_t secondsAtStart) {
+  constexpr std::int64_t second = Clock::nanosecondsPerSecond;
+  constexpr std::int64_t steps = std::int64_t{1} << fractionBits;
+  const std::int64_t whole = nanoseconds / second;
+  const std::int64_t rest = nanoseconds % second;
+  const std::int64_t fraction = (rest * steps + second / 2) / second;
+  return static_cast<double>(secondsAtStart + whole) +
+         static_cast<double>(fraction) / static_cast<double>(steps);
 }
 
 }  // namespace
 
 double Clock::mediaTime() const {
-  return quantisedSeconds(now_, mediaSecondsAtStart, 30);
+  return quantisedSeconds<30>(now_, mediaSecondsAtStart);
 }
 
 double Clock::calendarTime() const {
-  return quantisedSeconds(now_, calendarSecondsAtStart, 20);
+  return quantisedSeconds<20>(now_, calendarSecondsAtStart);
 }
 
 void Clock::moveTo(std::int64_t nanoseconds) {
