@@ -1,17 +1,14 @@
-// Finds the families with the machine's fontconfig, then builds a configuration of our own that
-// accepts only them and carries no rules for hinting, emboldening or substitution.
+// A configuration of our own, with fontconfig's usual folders and caches. It accepts only the
+// pinned families and carries no rules for hinting, emboldening or substitution. The machine's own
+// is not read: its rules take longer than the first picture of a panel.
 #include "desk/canvas/PinnedFonts.hpp"
 
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <memory>
-#include <set>
-#include <vector>
 
 #include <fontconfig/fontconfig.h>
 #include <pango/pangocairo.h>
-#include <pango/pangofc-fontmap.h>
 
 // Read by the leak checker of a sanitizer build, where there is one. fontconfig holds its patterns
 // by offsets instead of pointers, so the checker takes for lost what is still in use.
@@ -29,7 +26,6 @@ namespace orvane::desk {
 namespace {
 
 struct FontconfigRelease {
-  void operator()(FcConfig* config) const { FcConfigDestroy(config); }
   void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
   void operator()(FcObjectSet* objects) const { FcObjectSetDestroy(objects); }
   void operator()(FcFontSet* fonts) const { FcFontSetDestroy(fonts); }
@@ -63,71 +59,45 @@ const FcChar8* characters(const char* text) {
   return reinterpret_cast<const FcChar8*>(text);
 }
 
-/// The files of a face in the machine's configuration.
-std::set<std::filesystem::path> filesOf(const Face& face) {
-  const FontconfigPointer<FcPattern> pattern(FcPatternCreate());
-  FcPatternAddString(pattern.get(), FC_FAMILY, characters(face.family));
-  FcPatternAddInteger(pattern.get(), FC_WEIGHT, face.weight);
-  FcPatternAddInteger(pattern.get(), FC_SLANT, face.slant);
-  const FontconfigPointer<FcObjectSet> objects(
-      FcObjectSetBuild(FC_FILE, static_cast<const char*>(nullptr)));
-  const FontconfigPointer<FcFontSet> fonts(FcFontList(nullptr, pattern.get(), objects.get()));
-  std::set<std::filesystem::path> files;
-  for (int index = 0; fonts && index < fonts->nfont; ++index) {
-    FcChar8* file = nullptr;
-    if (FcPatternGetString(fonts->fonts[index], FC_FILE, 0, &file) == FcResultMatch) {
-      files.insert(reinterpret_cast<const char*>(file));
-    }
-  }
-  return files;
-}
+/// Never looked at again, or fontconfig would read the machine's own after a change of a folder.
+constexpr const char* noRescan = "<config><rescan><int>0</int></rescan></config>";
 
-std::string escaped(const std::string& text) {
-  std::string result;
-  for (const char character : text) {
-    switch (character) {
-      case '&':
-        result += "&amp;";
-        break;
-      case '<':
-        result += "&lt;";
-        break;
-      default:
-        result += character;
-    }
-  }
-  return result;
-}
+constexpr const char* fontFolders =
+    "<dir>/usr/share/fonts</dir><dir>/usr/local/share/fonts</dir>"
+    "<dir prefix=\"xdg\">fonts</dir><dir>~/.fonts</dir>"
+    "<cachedir>/var/cache/fontconfig</cachedir><cachedir prefix=\"xdg\">fontconfig</cachedir>";
 
 std::string acceptedFamily(const char* family) {
   return std::string("<acceptfont><pattern><patelt name=\"family\"><string>") + family +
          "</string></patelt></pattern></acceptfont>";
 }
 
-/// A configuration with the folders of the pinned files, the machine's caches of them, and a
-/// filter that lets only the two families through.
-FontconfigPointer<FcConfig> makeConfiguration() {
-  std::set<std::filesystem::path> folders;
-  for (const Face& face : requiredFaces) {
-    for (const std::filesystem::path& file : filesOf(face)) {
-      folders.insert(file.parent_path());
-    }
-  }
-  std::string xml = "<?xml version=\"1.0\"?><fontconfig>";
-  for (const std::filesystem::path& folder : folders) {
-    xml += "<dir>" + escaped(folder.string()) + "</dir>";
-  }
-  FcStrList* caches = FcConfigGetCacheDirs(nullptr);
-  while (const FcChar8* cache = FcStrListNext(caches)) {
-    xml += "<cachedir>" + escaped(reinterpret_cast<const char*>(cache)) + "</cachedir>";
-  }
-  FcStrListDone(caches);
-  xml += "<selectfont>" + acceptedFamily(systemFontFamily) + acceptedFamily(chineseFontFamily) +
-         "<rejectfont><pattern></pattern></rejectfont></selectfont></fontconfig>";
-  FontconfigPointer<FcConfig> config(FcConfigCreate());
-  FcConfigParseAndLoadFromMemory(config.get(), characters(xml.c_str()), FcTrue);
-  FcConfigBuildFonts(config.get());
+/// Made at the first use; never given back, because fontconfig's and pango's own caches refer to it
+/// until the process ends.
+FcConfig* configuration() {
+  static FcConfig* const config = [] {
+    const std::string xml =
+        std::string("<?xml version=\"1.0\"?><fontconfig>") + noRescan + fontFolders +
+        "<selectfont>" + acceptedFamily(systemFontFamily) + acceptedFamily(chineseFontFamily) +
+        "<rejectfont><pattern></pattern></rejectfont></selectfont></fontconfig>";
+    FcConfig* const made = FcConfigCreate();
+    FcConfigParseAndLoadFromMemory(made, characters(xml.c_str()), FcTrue);
+    FcConfigBuildFonts(made);
+    return made;
+  }();
   return config;
+}
+
+bool isInstalled(const Face& face) {
+  const FontconfigPointer<FcPattern> pattern(FcPatternCreate());
+  FcPatternAddString(pattern.get(), FC_FAMILY, characters(face.family));
+  FcPatternAddInteger(pattern.get(), FC_WEIGHT, face.weight);
+  FcPatternAddInteger(pattern.get(), FC_SLANT, face.slant);
+  const FontconfigPointer<FcObjectSet> objects(
+      FcObjectSetBuild(FC_FILE, static_cast<const char*>(nullptr)));
+  const FontconfigPointer<FcFontSet> fonts(
+      FcFontList(configuration(), pattern.get(), objects.get()));
+  return fonts != nullptr && fonts->nfont > 0;
 }
 
 }  // namespace
@@ -135,7 +105,7 @@ FontconfigPointer<FcConfig> makeConfiguration() {
 std::optional<std::string> missingFontsMessage() {
   std::string missing;
   for (const Face& face : requiredFaces) {
-    if (filesOf(face).empty()) {
+    if (!isInstalled(face)) {
       missing.append(missing.empty() ? "" : ", ");
       missing.append(face.family).append(" ").append(face.description);
     }
@@ -148,15 +118,15 @@ std::optional<std::string> missingFontsMessage() {
 }
 
 PangoFontMap* pinnedFontMap() {
-  // It is never given back: fontconfig's and pango's own caches refer to it until the process ends.
   static PangoFontMap* const map = [] {
     if (const std::optional<std::string> message = missingFontsMessage()) {
       std::fprintf(stderr, "%s\n", message->c_str());
       std::abort();
     }
+    // Before the map is made: its class has a thread load the current configuration, and that of
+    // the machine if there is none yet.
+    FcConfigSetCurrent(configuration());
     PangoFontMap* made = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
-    const FontconfigPointer<FcConfig> config = makeConfiguration();
-    pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(made), config.get());
     pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(made), 72.0);
     return made;
   }();

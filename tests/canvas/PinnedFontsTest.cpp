@@ -87,14 +87,26 @@ TEST(PinnedFontsTest, ThisMachineHasTheFonts) {
 
 TEST(PinnedFontsDeathTest, AMachineWithoutTheFontsIsToldWhichPackagesToInstall) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
-  const auto file = std::filesystem::path(testing::TempDir()) / "orvane-no-fonts.conf";
-  std::ofstream(file) << "<fontconfig></fontconfig>";
   EXPECT_DEATH(
       {
-        setenv("FONTCONFIG_FILE", file.c_str(), 1);
+        // Where fontconfig looks for the folders of a system; there is nothing.
+        setenv("FONTCONFIG_SYSROOT", "/nowhere", 1);
         pinnedFontMap();
       },
       "Inter Regular.*Noto Sans CJK SC Bold.*fonts-inter and fonts-noto-cjk");
+}
+
+TEST(PinnedFontsDeathTest, TheRulesOfTheMachineAreNotRead) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto file = std::filesystem::path(testing::TempDir()) / "orvane-no-fonts.conf";
+  std::ofstream(file) << "<fontconfig></fontconfig>";
+  EXPECT_EXIT(
+      {
+        setenv("FONTCONFIG_FILE", file.c_str(), 1);
+        pinnedFontMap();
+        std::exit(0);
+      },
+      testing::ExitedWithCode(0), "");
 }
 
 void drawChinese(const char* language, const std::filesystem::path& file) {
