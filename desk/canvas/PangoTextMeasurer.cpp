@@ -85,6 +85,11 @@ ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::F
 void PangoTextMeasurer::breakParagraph(const std::string& paragraph, const ui::Font& font,
                                        double maximumWidth, int lineLimit,
                                        ui::TextLayout& layout) const {
+  // What fits on one line has no breaks to be found.
+  if (shaper_.measure(paragraph, font).width <= maximumWidth) {
+    addLine(paragraph, font, layout);
+    return;
+  }
   const ObjectPointer<PangoLayout> shaped = shaper_.layout(paragraph, font);
   pango_layout_set_wrap(shaped.get(), PANGO_WRAP_WORD_CHAR);
   pango_layout_set_width(shaped.get(), static_cast<int>(std::ceil(maximumWidth * PANGO_SCALE)));

@@ -13,6 +13,8 @@
 namespace orvane::desk {
 namespace {
 
+constexpr std::size_t mostAnswers = 4096;
+
 double points(int pangoUnits) {
   return static_cast<double>(pangoUnits) / PANGO_SCALE;
 }
@@ -123,6 +125,18 @@ LineMetrics TextShaper::measure(const std::string& line, const ui::Font& font) c
   if (!(font.size > 0)) {
     return {};
   }
+  const Question question(line, font.size, font.weight);
+  const auto found = measured_.find(question);
+  if (found != measured_.end()) {
+    return found->second;
+  }
+  if (measured_.size() >= mostAnswers) {
+    measured_.clear();
+  }
+  return measured_.emplace(question, measured(line, font)).first->second;
+}
+
+LineMetrics TextShaper::measured(const std::string& line, const ui::Font& font) const {
   const ObjectPointer<PangoLayout> shaped = layout(line, font);
   PangoLayoutLine* shapedLine = pango_layout_get_line_readonly(shaped.get(), 0);
   PangoRectangle logical;

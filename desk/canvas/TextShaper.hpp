@@ -2,7 +2,9 @@
 // through here, so that what was measured is what is drawn.
 #pragma once
 
+#include <map>
 #include <string>
+#include <tuple>
 
 #include "Orvane/ui/Font.hpp"
 #include "desk/canvas/CairoPointers.hpp"
@@ -30,6 +32,7 @@ class TextShaper {
 
   /// The advance width of a line without line breaks, and the height and ascent of the faces that
   /// it uses, those of the Mac's own for Chinese. An empty line has the height of the system face.
+  /// Answers are kept: layout and the desktop ask for the same lines again and again.
   LineMetrics measure(const std::string& line, const ui::Font& font) const;
 
   /// The coverage of a line whose baseline starts on the placement's anchor; without a surface
@@ -38,7 +41,12 @@ class TextShaper {
                 const PixelPlacement& placement) const;
 
  private:
+  using Question = std::tuple<std::string, double, ui::Weight>;
+
+  LineMetrics measured(const std::string& line, const ui::Font& font) const;
+
   ObjectPointer<PangoContext> context_;
+  mutable std::map<Question, LineMetrics> measured_;
 };
 
 }  // namespace orvane::desk
