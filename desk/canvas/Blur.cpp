@@ -109,21 +109,21 @@ void blurPlane(const Plane& plane, const Box& box, BlurEdge edge) {
   }
 }
 
-/// A copy of the picture with rows and columns exchanged, `pixelBytes` bytes to a pixel.
-std::vector<std::uint8_t> transposed(const std::uint8_t* data, std::ptrdiff_t stride, int width,
-                                     int height, int pixelBytes) {
-  const auto bytes = static_cast<std::size_t>(pixelBytes);
-  std::vector<std::uint8_t> result(static_cast<std::size_t>(width) *
-                                   static_cast<std::size_t>(height) * bytes);
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < width; ++x) {
-      const auto target = (static_cast<std::size_t>(x) * static_cast<std::size_t>(height) +
-                           static_cast<std::size_t>(y)) *
-                          bytes;
-      std::copy_n(data + y * stride + x * pixelBytes, bytes, result.data() + target);
+/// Copies a picture with its rows and columns exchanged, in squares that stay in the processor's
+/// nearest cache.
+template <typename Pixel>
+void transpose(const Pixel* from, std::ptrdiff_t fromStride, Pixel* to, std::ptrdiff_t toStride,
+               int width, int height) {
+  constexpr int side = 16;
+  for (int top = 0; top < height; top += side) {
+    for (int left = 0; left < width; left += side) {
+      for (int x = left; x < std::min(left + side, width); ++x) {
+        for (int y = top; y < std::min(top + side, height); ++y) {
+          to[x * toStride + y] = from[y * fromStride + x];
+        }
+      }
     }
   }
-  return result;
 }
 
 /// Pixels in memory, `pixelBytes` bytes each.
@@ -135,23 +135,32 @@ struct Pixels {
   int pixelBytes;
 };
 
-void blurExactly(const Pixels& pixels, double sigma, BlurEdge edge) {
+/// Rows are blurred as the columns of the transposed picture.
+template <typename Pixel>
+void blurRows(const Pixels& pixels, const Box& box, BlurEdge edge) {
   const auto [data, stride, width, height, pixelBytes] = pixels;
+  auto* const own = reinterpret_cast<Pixel*>(data);
+  const std::ptrdiff_t ownStride = stride / pixelBytes;
+  std::vector<Pixel> turned(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+  transpose(own, ownStride, turned.data(), height, width, height);
+  for (int pass = 0; pass < passCount; ++pass) {
+    blurPlane({reinterpret_cast<std::uint8_t*>(turned.data()),
+               static_cast<std::ptrdiff_t>(height) * pixelBytes, width, height * pixelBytes},
+              box, edge);
+  }
+  transpose(turned.data(), height, own, ownStride, height, width);
+}
+
+void blurExactly(const Pixels& pixels, double sigma, BlurEdge edge) {
   const Box box = makeBox(sigma);
   for (int pass = 0; pass < passCount; ++pass) {
-    blurPlane({data, stride, height, width * pixelBytes}, box, edge);
+    blurPlane({pixels.data, pixels.stride, pixels.height, pixels.width * pixels.pixelBytes}, box,
+              edge);
   }
-  std::vector<std::uint8_t> turned = transposed(data, stride, width, height, pixelBytes);
-  const std::ptrdiff_t turnedStride = static_cast<std::ptrdiff_t>(height) * pixelBytes;
-  for (int pass = 0; pass < passCount; ++pass) {
-    blurPlane({turned.data(), turnedStride, width, height * pixelBytes}, box, edge);
-  }
-  const std::vector<std::uint8_t> result =
-      transposed(turned.data(), turnedStride, height, width, pixelBytes);
-  const auto rowBytes = static_cast<std::size_t>(width) * static_cast<std::size_t>(pixelBytes);
-  for (int y = 0; y < height; ++y) {
-    std::copy_n(result.data() + static_cast<std::size_t>(y) * rowBytes, rowBytes,
-                data + y * stride);
+  if (pixels.pixelBytes == 1) {
+    blurRows<std::uint8_t>(pixels, box, edge);
+  } else {
+    blurRows<std::uint32_t>(pixels, box, edge);
   }
 }
 
