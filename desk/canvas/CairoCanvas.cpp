@@ -1,5 +1,5 @@
-// Shapes go to cairo as paths. Text, symbols and shadows are masks that are shared between
-// drawings. A layer is a surface of its own whose pixels line up with those of the target.
+// Text, symbols and shadows are masks that are shared between drawings. A layer is a surface of its
+// own whose pixels line up with those of the target.
 #include "desk/canvas/CairoCanvas.hpp"
 
 #include <algorithm>
@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "desk/canvas/Blur.hpp"
-#include "desk/canvas/GradientRows.hpp"
 #include "desk/canvas/ShadowMask.hpp"
 
 namespace orvane::desk {
@@ -35,11 +34,6 @@ cairo_matrix_t matrixOf(cairo_t* context) {
   cairo_matrix_t matrix;
   cairo_get_matrix(context, &matrix);
   return matrix;
-}
-
-ui::Transform toPixels(cairo_t* context) {
-  const cairo_matrix_t matrix = matrixOf(context);
-  return {matrix.xx, matrix.yy, matrix.x0, matrix.y0};
 }
 
 PixelBounds clipBounds(cairo_t* context) {
@@ -119,10 +113,17 @@ CairoCanvas::CairoCanvas(cairo_surface_t* target, double scaleFactor, DrawingRes
 
 void CairoCanvas::save() {
   cairo_save(context());
+  layers_.back().clips.push_back(layers_.back().clips.back());
 }
 
 void CairoCanvas::restore() {
   cairo_restore(context());
+  layers_.back().clips.pop_back();
+}
+
+ui::Transform CairoCanvas::pixelTransform() {
+  const cairo_matrix_t matrix = matrixOf(context());
+  return {matrix.xx, matrix.yy, matrix.x0, matrix.y0};
 }
 
 void CairoCanvas::transform(const ui::Transform& transform) {
@@ -137,47 +138,8 @@ void CairoCanvas::transform(const ui::Transform& transform) {
   cairo_transform(context(), &matrix);
 }
 
-void CairoCanvas::clip(const ui::Shape& shape) {
-  cairo_new_path(context());
-  appendShape(context(), shape);
-  cairo_clip(context());
-}
-
-void CairoCanvas::setPaint(const ui::Paint& paint) {
-  if (paint.isSolid() || paint.start == paint.end) {
-    setColor(context(), paint.stops.back().color);
-    return;
-  }
-  cairo_set_source(context(), gradientOf(paint).get());
-}
-
-void CairoCanvas::fill(const ui::Shape& shape, const ui::Paint& paint) {
-  if (paint.stops.empty()) {
-    return;
-  }
-  if (runsDown(paint)) {
-    setGradientRows(context(), paint, toPixels(context()).apply(shape.rect));
-  } else {
-    setPaint(paint);
-  }
-  cairo_new_path(context());
-  appendShape(context(), shape);
-  cairo_fill(context());
-}
-
-void CairoCanvas::stroke(const ui::Shape& shape, const ui::Paint& paint, double lineWidth) {
-  if (paint.stops.empty() || !(lineWidth > 0)) {
-    return;
-  }
-  setPaint(paint);
-  cairo_new_path(context());
-  appendShape(context(), shape);
-  cairo_set_line_width(context(), lineWidth);
-  cairo_stroke(context());
-}
-
 void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) {
-  const ui::Transform pixels = toPixels(context());
+  const ui::Transform pixels = pixelTransform();
   if (shape.rect.isEmpty() || !(shadow.color.alpha > 0) || !pixels.isInvertible()) {
     return;
   }
@@ -208,13 +170,40 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
     cutOut(made, hole);
     return made;
   });
-  paintMask(mask, pixelX, pixelY, shadow.color);
+  // Within the shape there is nothing of its shadow, so that is not even read.
+  const ui::Rect inner = hole.rect.inset(hole.effectiveRadius() + 1);
+  if (inner.isEmpty() || !mask.surface) {
+    paintMask(mask, pixelX, pixelY, shadow.color);
+    return;
+  }
+  const double left = std::ceil(inner.x) + pixelX;
+  const double top = std::ceil(inner.y) + pixelY;
+  const double right = std::max(left, std::floor(inner.right()) + pixelX);
+  const double bottom = std::max(top, std::floor(inner.bottom()) + pixelY);
+  const double outerLeft = mask.x + pixelX;
+  const double outerTop = mask.y + pixelY;
+  const double outerRight = outerLeft + cairo_image_surface_get_width(mask.surface.get());
+  const double outerBottom = outerTop + cairo_image_surface_get_height(mask.surface.get());
+  for (const ui::Rect& part : {ui::Rect::between(outerLeft, outerTop, outerRight, top),
+                               ui::Rect::between(outerLeft, top, left, bottom),
+                               ui::Rect::between(right, top, outerRight, bottom),
+                               ui::Rect::between(outerLeft, bottom, outerRight, outerBottom)}) {
+    cairo_save(context());
+    const cairo_matrix_t matrix = matrixOf(context());
+    cairo_identity_matrix(context());
+    cairo_new_path(context());
+    cairo_rectangle(context(), part.x, part.y, part.width, part.height);
+    cairo_clip(context());
+    cairo_set_matrix(context(), &matrix);
+    paintMask(mask, pixelX, pixelY, shadow.color);
+    cairo_restore(context());
+  }
 }
 
 void CairoCanvas::beginLayer(const ui::Rect& bounds, double opacity,
                              const std::optional<ui::PaintShadow>& shadow) {
   cairo_t* outer = context();
-  const ui::Transform pixels = toPixels(outer);
+  const ui::Transform pixels = pixelTransform();
   const ui::Rect painted = pixels.apply(bounds);
   PixelBounds area{painted.x, painted.y, painted.right(), painted.bottom()};
   PixelBounds visible = clipBounds(outer);
@@ -262,7 +251,7 @@ void CairoCanvas::endLayer() {
 }
 
 void CairoCanvas::paintLayerShadow(const Layer& layer, const ui::PaintShadow& shadow) {
-  const ui::Transform pixels = toPixels(context());
+  const ui::Transform pixels = pixelTransform();
   Mask alpha{coverageOf(cairo_get_target(layer.context.get()), layer.x, layer.y)};
   const double sigma = sigmaInPixels(shadow, pixels);
   const MaskKey key = MaskKey().add(MaskKind::layerShadow).add(sigma).add(bytesOf(alpha.surface));
@@ -295,7 +284,7 @@ bool CairoCanvas::isScaledByTransform() {
 }
 
 PixelPlacement CairoCanvas::placementOf(ui::Point anchor) {
-  const ui::Transform pixels = toPixels(context());
+  const ui::Transform pixels = pixelTransform();
   const ui::Point place = pixels.apply(anchor);
   // Masks are made for quarters of a pixel; what is being scaled moves smoothly instead.
   const double steps = isScaledByTransform() ? 1024 : 4;

@@ -40,10 +40,21 @@ class CairoCanvas : public ui::Canvas {
   void symbol(const std::string& name, const ui::Font& font, const ui::Rgba& color,
               const ui::Rect& rect) override;
 
-  /// The context that is drawn on now, in points, for what the desk draws beside the view kit.
+  /// The context that is drawn on now, in points, for what the desk draws beside the view kit. A
+  /// clip of any other form than rectangles goes through the canvas.
   cairo_t* context() { return layers_.back().context.get(); }
 
  private:
+  struct RoundedClip {
+    ui::Shape shape;
+    ui::Transform pixels;
+  };
+  /// What is known of a clip, besides its rectangles of whole pixels, which cairo tells.
+  struct Clip {
+    std::optional<RoundedClip> rounded;
+    /// Nothing is known of it.
+    bool isTangled = false;
+  };
   struct Layer {
     ContextPointer context;
     double opacity = 1;
@@ -51,9 +62,23 @@ class CairoCanvas : public ui::Canvas {
     // Top left of the layer's surface in pixels of the target.
     int x = 0;
     int y = 0;
+    // The clip of now, and below it those that will be restored.
+    std::vector<Clip> clips{1};
   };
 
-  void setPaint(const ui::Paint& paint);
+  void noteClip(const ui::Shape& shape);
+  /// A line width of zero fills the shape.
+  void paintPath(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
+  /// The same, in one colour or a gradient that runs down, by the coverage. False, and nothing
+  /// painted, where that cannot be.
+  bool paintCoverage(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
+  /// Of some rows of a shape, in pixels of the target.
+  Mask coveredRows(const ui::Shape& shape, double lineWidth, const RoundedClip* clip,
+                   const PixelRect& rows);
+  /// Of the rows from `top` up to `bottom`, in pixels of the target.
+  RowColors colorsOf(const ui::Paint& paint, int top, int bottom);
+  /// From the current coordinates to pixels of the target.
+  [[nodiscard]] ui::Transform pixelTransform();
   /// Paints a mask in one colour; its anchor is a pixel of the target.
   void paintMask(const Mask& mask, int anchorX, int anchorY, const ui::Rgba& color);
   void paintLayerShadow(const Layer& layer, const ui::PaintShadow& shadow);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "Orvane/ui/ImageSource.hpp"
+#include "desk/canvas/CoverageRuns.hpp"
 #include "desk/canvas/ImageLibrary.hpp"
 #include "desk/canvas/MaskCache.hpp"
 #include "desk/canvas/SymbolLibrary.hpp"
@@ -17,6 +18,7 @@ struct DrawingResources {
   SymbolLibrary symbols;
   TextShaper shaper;
   MaskCache masks{std::size_t{48} << 20U};
+  CoverageCache coverage;
   /// Names of images and symbols that were asked for in vain, for tests to be empty.
   std::set<std::string> missingNames;
 

@@ -20,6 +20,17 @@ bool runsDown(const ui::Paint& paint) {
   return !paint.isSolid() && paint.start.x == paint.end.x && paint.start.y != paint.end.y;
 }
 
+SurfacePointer gradientRows(const ui::Paint& paint, const cairo_matrix_t& matrix, int top,
+                            int height) {
+  SurfacePointer strip(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1, height));
+  const ContextPointer drawing(cairo_create(strip.get()));
+  cairo_translate(drawing.get(), 0, -top);
+  cairo_transform(drawing.get(), &matrix);
+  cairo_set_source(drawing.get(), gradientOf(paint).get());
+  cairo_paint(drawing.get());
+  return strip;
+}
+
 void setGradientRows(cairo_t* context, const ui::Paint& paint, const ui::Rect& area) {
   cairo_matrix_t matrix;
   cairo_get_matrix(context, &matrix);
@@ -30,14 +41,7 @@ void setGradientRows(cairo_t* context, const ui::Paint& paint, const ui::Rect& a
   cairo_clip_extents(context, &across, &clipTop, &across, &clipBottom);
   const int top = static_cast<int>(std::floor(std::max(area.y - 1, clipTop)));
   const int bottom = static_cast<int>(std::ceil(std::min(area.bottom() + 1, clipBottom)));
-  const int height = std::max(1, bottom - top);
-  const SurfacePointer strip(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1, height));
-  const ContextPointer drawing(cairo_create(strip.get()));
-  cairo_translate(drawing.get(), 0, -top);
-  cairo_transform(drawing.get(), &matrix);
-  cairo_set_source(drawing.get(), gradientOf(paint).get());
-  cairo_paint(drawing.get());
-
+  const SurfacePointer strip = gradientRows(paint, matrix, top, std::max(1, bottom - top));
   cairo_set_source_surface(context, strip.get(), 0, top);
   cairo_set_matrix(context, &matrix);
   cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_REPEAT);

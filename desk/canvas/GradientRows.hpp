@@ -14,9 +14,13 @@ PatternPointer gradientOf(const ui::Paint& paint);
 
 [[nodiscard]] bool runsDown(const ui::Paint& paint);
 
+/// A gradient that runs down as `height` rows of one pixel, from row `top` of a device to which the
+/// matrix leads. Each row of pixels has one colour.
+SurfacePointer gradientRows(const ui::Paint& paint, const cairo_matrix_t& matrix, int top,
+                            int height);
+
 /// Makes a gradient that runs down the source for what is painted within `area`, in pixels of the
-/// context's device. Each row of pixels has one colour, so a strip of one pixel's width holds all
-/// there is to compute, and cairo repeats it across.
+/// context's device: its rows, which cairo repeats across.
 void setGradientRows(cairo_t* context, const ui::Paint& paint, const ui::Rect& area);
 
 }  // namespace orvane::desk

@@ -1,0 +1,270 @@
+// Filling and stroking. A shape is painted by its coverage, which is kept; what that cannot do is
+// left to cairo.
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "desk/canvas/CairoCanvas.hpp"
+#include "desk/canvas/GradientRows.hpp"
+#include "desk/canvas/ShadowMask.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+bool isWhole(double number) {
+  return number == std::floor(number);
+}
+
+bool isWhole(const ui::Rect& pixels) {
+  return isWhole(pixels.x) && isWhole(pixels.y) && isWhole(pixels.right()) &&
+         isWhole(pixels.bottom());
+}
+
+PixelRect pixelsOf(const ui::Rect& rect) {
+  return {static_cast<int>(std::floor(rect.x)), static_cast<int>(std::floor(rect.y)),
+          static_cast<int>(std::ceil(rect.right())), static_cast<int>(std::ceil(rect.bottom()))};
+}
+
+PixelRect clipExtents(cairo_t* context) {
+  double left = 0;
+  double top = 0;
+  double right = 0;
+  double bottom = 0;
+  cairo_matrix_t matrix;
+  cairo_get_matrix(context, &matrix);
+  cairo_identity_matrix(context);
+  cairo_clip_extents(context, &left, &top, &right, &bottom);
+  cairo_set_matrix(context, &matrix);
+  return pixelsOf(ui::Rect::between(left, top, right, bottom));
+}
+
+/// The rectangles of a clip that is made of whole pixels; none of any other.
+std::optional<std::vector<PixelRect>> clipRectangles(cairo_t* context) {
+  cairo_matrix_t matrix;
+  cairo_get_matrix(context, &matrix);
+  cairo_identity_matrix(context);
+  cairo_rectangle_list_t* const list = cairo_copy_clip_rectangle_list(context);
+  cairo_set_matrix(context, &matrix);
+  std::optional<std::vector<PixelRect>> rectangles;
+  if (list->status == CAIRO_STATUS_SUCCESS) {
+    rectangles.emplace();
+    for (int index = 0; index < list->num_rectangles; ++index) {
+      const cairo_rectangle_t& found = list->rectangles[index];
+      rectangles->push_back(pixelsOf({found.x, found.y, found.width, found.height}));
+    }
+  }
+  cairo_rectangle_list_destroy(list);
+  return rectangles;
+}
+
+/// The colour as cairo and pixman make a pixel of it.
+std::uint32_t pixelOf(const ui::Rgba& color) {
+  const auto part = [](double share) {
+    return static_cast<std::uint32_t>(std::clamp(share, 0.0, 1.0) * 65535 + 0.5) >> 8U;
+  };
+  const double alpha = std::clamp(color.alpha, 0.0, 1.0);
+  const auto multiplied = [&](double share) { return part(std::clamp(share, 0.0, 1.0) * alpha); };
+  return part(alpha) << 24U | multiplied(color.red) << 16U | multiplied(color.green) << 8U |
+         multiplied(color.blue);
+}
+
+bool isOneColor(const ui::Paint& paint) {
+  return paint.isSolid() || paint.start == paint.end;
+}
+
+bool isRounded(const ui::Shape& shape) {
+  return shape.kind == ui::Shape::Kind::roundedRectangle || shape.kind == ui::Shape::Kind::capsule;
+}
+
+/// The rows of pixels between the corners of a shape, where its sides run straight down.
+PixelRect straightRows(const ui::Shape& shape, const ui::Transform& pixels, double lineWidth) {
+  // A continuous corner begins at most at 1.4 of its radius (see Shape::path).
+  constexpr double reach = 1.5;
+  const bool isEllipse = shape.kind == ui::Shape::Kind::ellipse;
+  const double corner = isEllipse ? shape.rect.height : reach * shape.effectiveRadius() + lineWidth;
+  const ui::Rect rect = pixels.apply(shape.rect.inset(ui::Edges::vertical(corner)));
+  return {0, static_cast<int>(std::ceil(rect.y)) + 1, 1,
+          static_cast<int>(std::floor(rect.bottom())) - 1};
+}
+
+void draw(cairo_t* context, const ui::Shape& shape, double lineWidth) {
+  cairo_new_path(context);
+  appendShape(context, shape);
+  if (lineWidth > 0) {
+    cairo_set_line_width(context, lineWidth);
+    cairo_stroke(context);
+  } else {
+    cairo_fill(context);
+  }
+}
+
+}  // namespace
+
+void CairoCanvas::clip(const ui::Shape& shape) {
+  noteClip(shape);
+  cairo_new_path(context());
+  appendShape(context(), shape);
+  cairo_clip(context());
+}
+
+void CairoCanvas::noteClip(const ui::Shape& shape) {
+  Clip& clip = layers_.back().clips.back();
+  const bool isOnPixels = isWhole(pixelTransform().apply(shape.rect));
+  if (shape.kind == ui::Shape::Kind::rectangle && isOnPixels) {
+    return;
+  }
+  if (!clip.rounded && isRounded(shape) && isOnPixels) {
+    clip.rounded = RoundedClip{shape, pixelTransform()};
+  } else {
+    clip.isTangled = true;
+  }
+}
+
+void CairoCanvas::fill(const ui::Shape& shape, const ui::Paint& paint) {
+  if (paint.stops.empty()) {
+    return;
+  }
+  if (!(isOneColor(paint) || runsDown(paint)) || !paintCoverage(shape, paint, 0)) {
+    paintPath(shape, paint, 0);
+  }
+}
+
+void CairoCanvas::stroke(const ui::Shape& shape, const ui::Paint& paint, double lineWidth) {
+  if (paint.stops.empty() || !(lineWidth > 0)) {
+    return;
+  }
+  if (!isOneColor(paint) || !paintCoverage(shape, paint, lineWidth)) {
+    paintPath(shape, paint, lineWidth);
+  }
+}
+
+void CairoCanvas::paintPath(const ui::Shape& shape, const ui::Paint& paint, double lineWidth) {
+  if (isOneColor(paint)) {
+    const ui::Rgba& color = paint.stops.back().color;
+    cairo_set_source_rgba(context(), color.red, color.green, color.blue, color.alpha);
+  } else if (runsDown(paint) && !(lineWidth > 0)) {
+    setGradientRows(context(), paint, pixelTransform().apply(shape.rect));
+  } else {
+    cairo_set_source(context(), gradientOf(paint).get());
+  }
+  draw(context(), shape, lineWidth);
+}
+
+RowColors CairoCanvas::colorsOf(const ui::Paint& paint, int top, int bottom) {
+  if (isOneColor(paint)) {
+    return {{pixelOf(paint.stops.back().color)}, 0, true};
+  }
+  cairo_matrix_t matrix;
+  cairo_get_matrix(context(), &matrix);
+  const SurfacePointer strip = gradientRows(paint, matrix, top, bottom - top);
+  cairo_surface_flush(strip.get());
+  const auto* const pixels =
+      reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(strip.get()));
+  return {{pixels, pixels + (bottom - top)}, top - layers_.back().y, false};
+}
+
+Mask CairoCanvas::coveredRows(const ui::Shape& shape, double lineWidth, const RoundedClip* clip,
+                              const PixelRect& rows) {
+  Mask mask{SurfacePointer(cairo_image_surface_create(CAIRO_FORMAT_A8, rows.right - rows.left,
+                                                      rows.bottom - rows.top)),
+            rows.left, rows.top};
+  const ContextPointer drawing(cairo_create(mask.surface.get()));
+  const auto place = [&](const ui::Transform& pixels) {
+    const cairo_matrix_t matrix{pixels.scaleX,      0, 0, pixels.scaleY, pixels.x - rows.left,
+                                pixels.y - rows.top};
+    cairo_set_matrix(drawing.get(), &matrix);
+  };
+  if (clip != nullptr) {
+    place(clip->pixels);
+    appendShape(drawing.get(), clip->shape);
+    cairo_clip(drawing.get());
+  }
+  place(pixelTransform());
+  draw(drawing.get(), shape, lineWidth);
+  return mask;
+}
+
+bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, double lineWidth) {
+  const Layer& layer = layers_.back();
+  const Clip& clip = layer.clips.back();
+  cairo_surface_t* const target = cairo_get_target(context());
+  if (shape.rect.isEmpty() || clip.isTangled ||
+      cairo_image_surface_get_format(target) != CAIRO_FORMAT_ARGB32) {
+    return false;
+  }
+  // Of a rectangle between pixels cairo computes the coverage by itself.
+  const bool isSharp = shape.kind == ui::Shape::Kind::rectangle || shape.effectiveRadius() == 0;
+  if (isSharp && (lineWidth > 0 || !isWhole(pixelTransform().apply(shape.rect)))) {
+    return false;
+  }
+  std::optional<std::vector<PixelRect>> parts = clipRectangles(context());
+  if (!parts && clip.rounded) {
+    parts = {clipExtents(context())};
+  }
+  if (!parts) {
+    return false;
+  }
+  const ui::Transform pixels = pixelTransform();
+  const ui::Rect area = pixels.apply(shape.rect.inset(-lineWidth));
+  const PixelRect bounds = pixelsOf(area);
+  PixelRect straight = straightRows(shape, pixels, lineWidth);
+  // The coverage is that near pixel zero, moved by whole pixels, so that equal shapes share it.
+  MaskKey key = MaskKey()
+                    .add(shape.kind)
+                    .add(shape.cornerStyle)
+                    .add(shape.cornerRadius)
+                    .add(shape.rect.width)
+                    .add(shape.rect.height)
+                    .add(pixels.scaleX)
+                    .add(pixels.scaleY)
+                    .add(area.x - bounds.left)
+                    .add(area.y - bounds.top)
+                    .add(lineWidth);
+  if (clip.rounded) {
+    const auto& [outline, toPixels] = *clip.rounded;
+    const PixelRect rows = straightRows(outline, toPixels, 0);
+    straight = straight.cutTo({0, rows.top, 1, rows.bottom});
+    const ui::Rect rect = toPixels.apply(outline.rect);
+    key.add(outline.kind)
+        .add(outline.cornerStyle)
+        .add(outline.cornerRadius)
+        .add(rect.x - bounds.left)
+        .add(rect.y - bounds.top)
+        .add(rect.width)
+        .add(rect.height);
+  }
+  const CoverageRuns& runs = resources_.coverage.get(key, [&] {
+    const RoundedClip* const rounded = clip.rounded ? &*clip.rounded : nullptr;
+    CoverageRuns made;
+    const auto add = [&](int top, int bottom) {
+      made.add(coveredRows(shape, lineWidth, rounded, {bounds.left, top, bounds.right, bottom}));
+    };
+    if (straight.isEmpty()) {
+      add(bounds.top, bounds.bottom);
+    } else {
+      // All the straight rows are alike.
+      add(bounds.top, straight.top + 1);
+      made.repeatLast(straight.bottom - straight.top - 1);
+      add(straight.bottom, bounds.bottom);
+    }
+    made.moveBy(-bounds.left, -bounds.top);
+    return made;
+  });
+  PixelRect painted;
+  for (PixelRect& part : *parts) {
+    part = part.cutTo(bounds);
+    painted = painted.isEmpty() ? part : painted.joinedWith(part);
+  }
+  if (painted.isEmpty()) {
+    return true;
+  }
+  const RowColors colors = colorsOf(paint, painted.top, painted.bottom);
+  for (const PixelRect& part : *parts) {
+    runs.paint(target, bounds.left - layer.x, bounds.top - layer.y,
+               part.movedBy(-layer.x, -layer.y), colors);
+  }
+  return true;
+}
+
+}  // namespace orvane::desk
