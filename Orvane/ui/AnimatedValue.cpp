@@ -1,6 +1,8 @@
 // The value is its target plus what the motion has left.
 #include "Orvane/ui/AnimatedValue.hpp"
 
+#include <cmath>
+
 namespace orvane::ui {
 
 void AnimatedValue::jump(double value) {
@@ -34,7 +36,11 @@ Curve::Remainder AnimatedValue::remainder(double now) const {
   if (!motion_) {
     return {0, 0, true};
   }
-  return motion_->curve.remainder(motion_->distance, motion_->velocity, now - motion_->start);
+  // The difference of two times carries their rounding. Without it the same motion looks the same
+  // at any hour, down to the last bit, and what was drawn for it once can be shown again.
+  constexpr double stepsPerSecond = 0x1p24;
+  const double elapsed = std::floor((now - motion_->start) * stepsPerSecond + 0.5) / stepsPerSecond;
+  return motion_->curve.remainder(motion_->distance, motion_->velocity, elapsed);
 }
 
 double AnimatedValue::at(double now) const {
