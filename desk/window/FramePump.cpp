@@ -19,7 +19,8 @@ constexpr std::int64_t nanosecondsPerMillisecond = 1'000'000;
 FramePump::FramePump(int framesPerSecond)
     : frameNanoseconds_(Clock::nanosecondsPerSecond / std::max(framesPerSecond, 1)),
       last_(wallNanoseconds()),
-      lastDrawn_(last_ - frameNanoseconds_) {}
+      nextPicture_(last_),
+      start_(last_) {}
 
 std::int64_t FramePump::wallNanoseconds() {
   return std::chrono::duration_cast<std::chrono::nanoseconds>(
@@ -34,16 +35,21 @@ void FramePump::advance(DeskSession& session) {
 }
 
 bool FramePump::isTimeToDraw() const {
-  return wallNanoseconds() - lastDrawn_ >= frameNanoseconds_;
+  return wallNanoseconds() >= nextPicture_;
 }
 
-void FramePump::noteDrawn() {
-  lastDrawn_ = wallNanoseconds();
+void FramePump::beginPicture() {
+  const std::int64_t now = wallNanoseconds();
+  nextPicture_ = frameNanoseconds_ + (now - nextPicture_ < frameNanoseconds_ ? nextPicture_ : now);
+}
+
+void FramePump::endPicture() {
+  shown_.push_back(static_cast<double>(wallNanoseconds() - start_) / nanosecondsPerMillisecond);
 }
 
 int FramePump::millisecondsToWait(const DeskSession& session, bool isOutdated) const {
   const std::int64_t now = wallNanoseconds();
-  const std::int64_t toFrame = std::max<std::int64_t>(lastDrawn_ + frameNanoseconds_ - now, 0);
+  const std::int64_t toFrame = std::max<std::int64_t>(nextPicture_ - now, 0);
   std::int64_t wait = toFrame;
   if (!isOutdated) {
     const std::int64_t toChange = session.nanosecondsToNextChange() - (now - last_);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "desk/window/DeskSession.hpp"
 
@@ -10,14 +11,20 @@ namespace orvane::desk {
 
 class FramePump {
  public:
-  /// At most so many pictures a second.
+  /// At most so many pictures a second, on a grid of that many moments while something changes.
   explicit FramePump(int framesPerSecond);
 
   /// Lets the machine's time pass by what has passed since the last call.
   void advance(DeskSession& session);
-  /// Whether enough time has passed since the last picture for another one.
+  /// Whether the next moment of the grid has come.
   [[nodiscard]] bool isTimeToDraw() const;
-  void noteDrawn();
+  /// A picture is begun. One that comes within a frame of its moment keeps the grid, however long
+  /// it takes to draw; a later one begins a new grid.
+  void beginPicture();
+  /// The picture can be seen.
+  void endPicture();
+  /// When each picture could be seen, in milliseconds since the pump began.
+  [[nodiscard]] const std::vector<double>& shownMilliseconds() const { return shown_; }
   /// For how many milliseconds there is nothing to do unless someone touches something.
   /// `isOutdated` says whether a picture waits to be drawn.
   [[nodiscard]] int millisecondsToWait(const DeskSession& session, bool isOutdated) const;
@@ -27,7 +34,9 @@ class FramePump {
 
   std::int64_t frameNanoseconds_;
   std::int64_t last_;
-  std::int64_t lastDrawn_;
+  std::int64_t nextPicture_;
+  std::int64_t start_;
+  std::vector<double> shown_;
 };
 
 }  // namespace orvane::desk

@@ -24,16 +24,19 @@ WindowLayout layoutOf(const SdlWindow& window) {
           cairo_image_surface_get_height(window.surface()), window.pixelRatio()};
 }
 
-void run(DeskSession& session, SdlWindow& window, HardwarePanelHost& panel,
-         WindowPicture& picture) {
-  FramePump pump(window.framesPerSecond());
+/// Until the window is closed; returns when it was drawn.
+WindowFrames run(DeskSession& session, SdlWindow& window, HardwarePanelHost& panel,
+                 WindowPicture& picture) {
+  const int framesPerSecond = window.framesPerSecond();
+  FramePump pump(framesPerSecond);
   WindowInput input(session, window, panel);
   while (!input.wantsToQuit()) {
     const bool isOutdated = picture.isOutdated(session, window.isMouseHeld());
     if (isOutdated && pump.isTimeToDraw()) {
+      pump.beginPicture();
       picture.draw(window.surface(), layoutOf(window), session, window.isMouseHeld());
       window.present();
-      pump.noteDrawn();
+      pump.endPicture();
     }
     SDL_Event event;
     const bool stillOutdated = picture.isOutdated(session, window.isMouseHeld());
@@ -49,6 +52,7 @@ void run(DeskSession& session, SdlWindow& window, HardwarePanelHost& panel,
       picture.forget();
     }
   }
+  return {framesPerSecond, pump.shownMilliseconds()};
 }
 
 }  // namespace
@@ -67,10 +71,10 @@ int runWindow(const WindowOptions& options) {
   DeskSession session(options.displayCount);
   HardwarePanelHost panel(session.hardware());
   WindowPicture picture(panel);
-  run(session, *window, panel, picture);
+  const WindowFrames frames = run(session, *window, panel, picture);
   if (options.dumpFile) {
     std::ofstream file(*options.dumpFile);
-    file << windowDump(session, layoutOf(*window), picture.drawnCount());
+    file << windowDump(session, layoutOf(*window), frames);
     if (!file.flush()) {
       std::cerr << "orvane-desk: cannot write " << options.dumpFile->string() << '\n';
       return 1;

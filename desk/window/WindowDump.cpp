@@ -3,6 +3,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "desk/windows/Surfaces.hpp"
+#include "desk/windows/WindowServer.hpp"
+
 namespace orvane::desk {
 
 namespace {
@@ -38,7 +41,9 @@ Json applicationOf(const DeskSession& session) {
     return {{"running", false}};
   }
   const OrvaneModel& model = session.application().model();
+  WindowServer* const server = WindowServer::of(session.machine());
   return {{"running", true},
+          {"windows", server == nullptr ? Json::array() : Json(Surfaces(*server).names())},
           {"guardRunning", model.isGuardRunning()},
           {"zones", model.guardService().cachedTriggerZones().size()},
           {"blockedCount", model.guardService().blockedCount()},
@@ -51,7 +56,7 @@ Json applicationOf(const DeskSession& session) {
 }  // namespace
 
 std::string windowDump(const DeskSession& session, const WindowLayout& layout,
-                       std::int64_t drawnFrames) {
+                       const WindowFrames& frames) {
   const Machine& machine = session.machine();
   const DesktopLayout desktop = layout.desktopLayout(machine.displays.globalFrames());
   const CGPoint pointer = machine.pointer.place();
@@ -63,7 +68,9 @@ std::string windowDump(const DeskSession& session, const WindowLayout& layout,
       {"events", machine.counters.hardwareMovements},
       {"modifiers", static_cast<std::uint64_t>(machine.modifierKeys.flags())},
       {"seconds", static_cast<double>(machine.clock.now()) / 1e9},
-      {"drawnFrames", drawnFrames},
+      {"drawnFrames", frames.shownMilliseconds.size()},
+      {"framesPerSecond", frames.perSecond},
+      {"shownMilliseconds", frames.shownMilliseconds},
       {"window",
        {{"scale", desktop.scale()},
         {"pixelRatio", layout.pixelRatio},

@@ -1,17 +1,23 @@
 // What a session came to, for machines to read.
 #pragma once
 
-#include <cstdint>
 #include <string>
+#include <vector>
 
 #include "desk/window/DeskSession.hpp"
 #include "desk/window/WindowLayout.hpp"
 
 namespace orvane::desk {
 
-/// A JSON object on several lines. `drawnFrames` is how often the window was drawn; places in
-/// pixels are those of the window's drawing area.
+/// When the window was drawn: pictures a second at the most, and the milliseconds at which each one
+/// could be seen.
+struct WindowFrames {
+  int perSecond = 0;
+  std::vector<double> shownMilliseconds;
+};
+
+/// A JSON object on several lines. Places in pixels are those of the window's drawing area.
 std::string windowDump(const DeskSession& session, const WindowLayout& layout,
-                       std::int64_t drawnFrames);
+                       const WindowFrames& frames);
 
 }  // namespace orvane::desk

@@ -1,4 +1,7 @@
 // The pump's promises that do not depend on how fast the computer is.
+#include <chrono>
+#include <thread>
+
 #include "desk/window/FramePump.hpp"
 #include "tests/window/SessionFixture.hpp"
 
@@ -24,18 +27,36 @@ TEST_F(FramePumpTest, DrawsTheFirstPictureAtOnceAndTheNextOneAFrameLater) {
   FramePump pump(1);
   EXPECT_TRUE(pump.isTimeToDraw());
   EXPECT_EQ(pump.millisecondsToWait(session, true), 0);
-  pump.noteDrawn();
+  pump.beginPicture();
+  pump.endPicture();
+  EXPECT_EQ(pump.shownMilliseconds().size(), 1U);
   EXPECT_FALSE(pump.isTimeToDraw());
   const int wait = pump.millisecondsToWait(session, true);
   EXPECT_GT(wait, 0);
   EXPECT_LE(wait, 1000);
 }
 
+TEST_F(FramePumpTest, TheTimeThatAPictureTakesDoesNotDelayTheNextOne) {
+  FramePump pump(2);
+  pump.beginPicture();
+  std::this_thread::sleep_for(std::chrono::milliseconds(200));
+  pump.endPicture();
+  EXPECT_GE(pump.shownMilliseconds().front(), 200);
+  EXPECT_LE(pump.millisecondsToWait(session, true), 300);
+}
+
+TEST_F(FramePumpTest, APictureThatComesLateInItsFrameKeepsTheGrid) {
+  FramePump pump(4);
+  std::this_thread::sleep_for(std::chrono::milliseconds(100));
+  pump.beginPicture();
+  EXPECT_LE(pump.millisecondsToWait(session, true), 150);
+}
+
 TEST_F(FramePumpTest, SleepsWhileNothingChanges) {
   session.advance(2 * second);
   session.application().terminate();
   FramePump pump(60);
-  pump.noteDrawn();
+  pump.beginPicture();
   EXPECT_GT(pump.millisecondsToWait(session, false), 10'000);
   session.machine().preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, true);
   EXPECT_LE(pump.millisecondsToWait(session, false), 17);

@@ -10,7 +10,7 @@ namespace {
 class WindowDumpTest : public SessionFixture {
  protected:
   nlohmann::json dump() {
-    return nlohmann::json::parse(windowDump(session, WindowLayout(1480, 800, 1), 12));
+    return nlohmann::json::parse(windowDump(session, WindowLayout(1480, 800, 1), {60, {4, 20.5}}));
   }
 };
 
@@ -21,7 +21,12 @@ TEST_F(WindowDumpTest, TellsWhereTheDockIsAndHowOftenItCameUp) {
   EXPECT_EQ(dump()["dock"]["display"], 2);
   EXPECT_EQ(dump()["dock"]["reveals"]["2"], 1);
   EXPECT_EQ(dump()["pointer"]["display"], 2);
-  EXPECT_EQ(dump()["drawnFrames"], 12);
+}
+
+TEST_F(WindowDumpTest, TellsWhenTheWindowWasDrawn) {
+  EXPECT_EQ(dump()["drawnFrames"], 2);
+  EXPECT_EQ(dump()["framesPerSecond"], 60);
+  EXPECT_EQ(dump()["shownMilliseconds"], (std::vector<double>{4, 20.5}));
 }
 
 TEST_F(WindowDumpTest, TellsWhatTheGuardDid) {
@@ -32,6 +37,13 @@ TEST_F(WindowDumpTest, TellsWhatTheGuardDid) {
   EXPECT_EQ(application["guardRunning"], true);
   EXPECT_EQ(application["zones"], 1);
   EXPECT_EQ(application["blockedCount"], 4);
+}
+
+TEST_F(WindowDumpTest, TellsWhatIsOpen) {
+  EXPECT_EQ(dump()["application"]["windows"], nlohmann::json::array());
+  session.application().reopen();
+  session.advance(second);
+  EXPECT_EQ(dump()["application"]["windows"], nlohmann::json::array({"main"}));
 }
 
 TEST_F(WindowDumpTest, TellsWhereTheScreensAreInTheWindow) {

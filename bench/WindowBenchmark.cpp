@@ -1,0 +1,50 @@
+// What one picture of the desk's window costs while the pointer moves over the main panel on a desk
+// with three displays: the machine's time, the movement, everything that is drawn anew. A window of
+// 60 frames a second has 16.6 ms for that and for showing it.
+#include <cstddef>
+#include <cstdint>
+
+#include <benchmark/benchmark.h>
+
+#include "desk/window/WindowPicture.hpp"
+#include "desk/windows/Surfaces.hpp"
+#include "desk/windows/WindowServer.hpp"
+
+namespace orvane::bench {
+namespace {
+
+constexpr int width = 1480;
+constexpr int height = 800;
+constexpr std::int64_t frameNanoseconds = desk::Clock::nanosecondsPerSecond / 60;
+
+void windowFrame(benchmark::State& state) {
+  desk::DeskSession session(3);
+  session.application().reopen();
+  session.advance(2 * desk::Clock::nanosecondsPerSecond);
+  desk::HardwarePanelHost panel(session.hardware());
+  desk::WindowPicture picture(panel);
+  const desk::SurfacePointer surface(
+      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  const desk::WindowLayout layout(width, height, 1);
+  desk::WindowServer& server = desk::WindowServer::current();
+  const auto window = desk::Surfaces(server).window("main");
+  const CGPoint corner = server.topLeftOf(*window);
+  const CGPoint pointer = session.machine().pointer.place();
+  // From the middle of the cards' row to its sides and back.
+  session.movePointerBy(corner.x + 60 - pointer.x, corner.y + 230 - pointer.y);
+  double step = 4;
+  std::int64_t drawn = 0;
+  for (auto _ : state) {
+    if (++drawn % 120 == 0) {
+      step = -step;
+    }
+    session.movePointerBy(step, 0);
+    session.advance(frameNanoseconds);
+    picture.draw(surface.get(), layout, session, true);
+  }
+}
+
+BENCHMARK(windowFrame)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace orvane::bench
