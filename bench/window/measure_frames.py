@@ -1,4 +1,7 @@
-# Drives the desk's window under Xvfb and reads from its dump when each picture could be seen.
+#!/usr/bin/env python3
+"""Drives the desk's window under Xvfb and reads from its dump when each picture could be seen.
+
+Usage: measure_frames.py PROGRAM SECONDS"""
 import json
 import os
 import pathlib
