@@ -17,7 +17,7 @@
 namespace orvane::bench {
 namespace {
 
-constexpr double scale = 2;
+constexpr double displayScale = 2;
 
 bool paintMainWindow(cairo_surface_t* surface) {
   desk::WindowServer& server = desk::WindowServer::current();
@@ -26,15 +26,15 @@ bool paintMainWindow(cairo_surface_t* surface) {
     return false;
   }
   window->content->update();
-  desk::CairoCanvas canvas(surface, scale, server.resources());
+  desk::CairoCanvas canvas(surface, displayScale, server.resources());
   window->content->host().paint(canvas, {0, 0, ContentView::width, ContentView::height});
   return true;
 }
 
 void launchToFirstFrame(benchmark::State& state) {
-  const desk::SurfacePointer surface(
-      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(ContentView::width * scale),
-                                 static_cast<int>(ContentView::height * scale)));
+  const desk::SurfacePointer surface(cairo_image_surface_create(
+      CAIRO_FORMAT_ARGB32, static_cast<int>(ContentView::width * displayScale),
+      static_cast<int>(ContentView::height * displayScale)));
   for (auto _ : state) {
     state.PauseTiming();
     std::optional<desk::MachineScope> scope(std::in_place);

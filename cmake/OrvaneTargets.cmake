@@ -3,7 +3,13 @@
 
 add_library(orvane_flags INTERFACE)
 target_include_directories(orvane_flags INTERFACE "${CMAKE_SOURCE_DIR}" "${CMAKE_BINARY_DIR}/generated")
-target_compile_options(orvane_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+target_compile_options(orvane_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+if(NOT CMAKE_UNITY_BUILD)
+  target_compile_options(orvane_flags INTERFACE -Wshadow)
+elseif(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # Files that are compiled as one see each other's constants, which no file alone could shadow.
+  target_compile_options(orvane_flags INTERFACE -Wshadow=local)
+endif()
 if(ORVANE_WARNINGS_AS_ERRORS)
   target_compile_options(orvane_flags INTERFACE -Werror)
 endif()

@@ -22,7 +22,7 @@ namespace ModalResponse = appkit::ModalResponse;
 /// The guide waits for the settings to have opened, in seconds.
 constexpr double guideDelaySeconds = 2.0;
 
-appkit::Window makePanel() {
+appkit::Window makeAlertPanel() {
   const CGSize size = OrvanePermissionAlert::contentSize;
   appkit::Window panel(appkit::WindowKind::panel, CGRectMake(0, 0, size.width, size.height),
                        appkit::StyleMask::titled | appkit::StyleMask::closable);
@@ -58,7 +58,7 @@ void openSettingsAndGuide(const std::function<void()>& onGranted) {
 void runAlert(const std::function<void()>& onGranted) {
   Application::activateIgnoringOtherApps();
   const auto delegate = std::make_shared<OrvaneModalPanelDelegate>();
-  appkit::Window panel = makePanel();
+  appkit::Window panel = makeAlertPanel();
   panel.onWillClose([delegate] { delegate->windowWillClose(); });
   const auto finish = finishing(panel, delegate);
   panel.setContentView(

@@ -33,7 +33,7 @@ ProcessShared<OrvanePermissionGuideWindowController>& sharedController() {
   return shared;
 }
 
-appkit::Window makePanel() {
+appkit::Window makeGuidePanel() {
   const CGSize size = OrvanePermissionGuideWindowController::contentSize;
   appkit::Window panel(appkit::WindowKind::panel, CGRectMake(0, 0, size.width, size.height),
                        appkit::StyleMask::nonactivatingPanel);
@@ -75,7 +75,7 @@ std::optional<Screen> screenForTheGuide() {
 }  // namespace
 
 OrvanePermissionGuideWindowController::OrvanePermissionGuideWindowController()
-    : panel_(makePanel()) {
+    : panel_(makeGuidePanel()) {
   appkit::HostingView view([this](const ui::Environment& /*environment*/) -> ui::View {
     return OrvanePermissionGuideView{.state = viewModel_.state.value(),
                                      .onClose = lifetime_.whileAlive([this] { close(); })};

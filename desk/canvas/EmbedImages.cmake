@@ -17,10 +17,10 @@ file(WRITE "${OUTPUT}" "// Generated from Orvane/resources; edit the drawings th
 namespace orvane::desk {
 namespace {
 ${arrays}
-constexpr ImageArtwork artworks[] = {
+constexpr ImageArtwork images[] = {
 ${entries}};
 }  // namespace
 
-std::span<const ImageArtwork> imageArtworks() { return artworks; }
+std::span<const ImageArtwork> imageArtworks() { return images; }
 }  // namespace orvane::desk
 ")

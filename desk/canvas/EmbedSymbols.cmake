@@ -12,10 +12,10 @@ file(WRITE "${OUTPUT}" "// Generated from desk/symbols; edit the drawings there.
 
 namespace orvane::desk {
 namespace {
-constexpr SymbolArtwork artworks[] = {
+constexpr SymbolArtwork symbols[] = {
 ${entries}};
 }  // namespace
 
-std::span<const SymbolArtwork> symbolArtworks() { return artworks; }
+std::span<const SymbolArtwork> symbolArtworks() { return symbols; }
 }  // namespace orvane::desk
 ")

@@ -13,7 +13,7 @@
 namespace orvane::desk {
 namespace {
 
-constexpr std::size_t mostAnswers = 4096;
+constexpr std::size_t mostMeasured = 4096;
 
 double points(int pangoUnits) {
   return static_cast<double>(pangoUnits) / PANGO_SCALE;
@@ -130,7 +130,7 @@ LineMetrics TextShaper::measure(const std::string& line, const ui::Font& font) c
   if (found != measured_.end()) {
     return found->second;
   }
-  if (measured_.size() >= mostAnswers) {
+  if (measured_.size() >= mostMeasured) {
     measured_.clear();
   }
   return measured_.emplace(question, measured(line, font)).first->second;

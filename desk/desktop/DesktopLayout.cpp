@@ -4,16 +4,14 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desk/desktop/Rects.hpp"
+
 namespace orvane::desk {
 
 namespace {
 
 /// Frames that overlap by less, in points, stand beside each other all the same.
 constexpr double overlapTolerance = 2;
-
-ui::Rect toRect(const CGRect& frame) {
-  return {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height};
-}
 
 /// For each frame the length of the longest chain of frames before it along one axis. Two frames
 /// that do not overlap along that axis get different lengths, so that moving each by its length
@@ -46,7 +44,7 @@ std::vector<ui::Rect> placesInPoints(const std::vector<CGRect>& frames, DesktopS
   std::vector<double> bottoms;
   ui::Rect bounds;
   for (const CGRect& frame : frames) {
-    const ui::Rect rect = toRect(frame);
+    const ui::Rect rect = rectOf(frame);
     places.push_back(rect);
     lefts.push_back(rect.x);
     rights.push_back(rect.right());
@@ -106,7 +104,7 @@ DesktopLayout::DesktopLayout(const std::vector<CGRect>& frames, DesktopStyle sty
     const int right = roundToPixel(places[index].right() * scale);
     const int bottom = roundToPixel(places[index].bottom() * scale);
     screens_.push_back(
-        {toRect(frames[index]), {origin.x + left, origin.y + top, right - left, bottom - top}});
+        {rectOf(frames[index]), {origin.x + left, origin.y + top, right - left, bottom - top}});
   }
 }
 

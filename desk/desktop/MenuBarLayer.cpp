@@ -7,6 +7,7 @@
 
 #include "desk/desktop/Glass.hpp"
 #include "desk/desktop/MenuClock.hpp"
+#include "desk/desktop/Rects.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
@@ -26,14 +27,6 @@ void paintMark(CairoCanvas& canvas, ui::Point at, const ui::Rgba& ink) {
   const ui::Rect screen{at.x, at.y - 11, 16, 12};
   canvas.stroke(ui::Shape::roundedRectangle(screen.inset(0.75), 3), ui::Paint::solid(ink), 1.5);
   canvas.fill(ui::Shape::roundedRectangle({at.x + 4, at.y - 3.75, 8, 2}, 1), ui::Paint::solid(ink));
-}
-
-CGRect rectOf(const ui::Rect& rect) {
-  return CGRectMake(rect.x, rect.y, rect.width, rect.height);
-}
-
-ui::Rect rectOf(const CGRect& rect) {
-  return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
 }
 
 /// The `position`-th icon from the right, beside the clock.

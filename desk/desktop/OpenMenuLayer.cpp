@@ -4,6 +4,7 @@
 #include "Orvane/ui/StandardColors.hpp"
 #include "desk/desktop/FileDragArt.hpp"
 #include "desk/desktop/Glass.hpp"
+#include "desk/desktop/Rects.hpp"
 #include "desk/desktop/WindowArt.hpp"
 #include "desk/windows/MenuMetrics.hpp"
 #include "desk/windows/Surfaces.hpp"
@@ -15,10 +16,6 @@ namespace {
 
 constexpr ui::PaintShadow menuShadow{{0, 0, 0, 0.28}, 20, {0, 6}};
 constexpr double sideInset = 5;
-
-ui::Rect rectOf(const CGRect& rect) {
-  return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
-}
 
 ui::Rgba ink(const Machine& machine, double opacity) {
   return machine.appearance.isDark ? ui::Rgba{1, 1, 1, opacity} : ui::Rgba{0, 0, 0, opacity};

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "desk/desktop/Rects.hpp"
+
 namespace orvane::desk {
 
 namespace {
@@ -13,10 +15,6 @@ constexpr ui::Rgba zoneRed{1, 0.23, 0.19, 1};
 
 void setRed(cairo_t* context, double alpha) {
   cairo_set_source_rgba(context, zoneRed.red, zoneRed.green, zoneRed.blue, alpha);
-}
-
-ui::Rect toRect(const CGRect& rect) {
-  return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
 }
 
 /// An arrow from the middle of the zone, as long as the nudge, with its head beyond the zone.
@@ -39,7 +37,7 @@ void addNudgeArrow(cairo_t* context, ui::Point from, const CGVector& nudge) {
 }
 
 void paintZone(cairo_t* context, const TriggerZone& zone) {
-  const ui::Rect rect = toRect(zone.rect);
+  const ui::Rect rect = rectOf(zone.rect);
   setRed(context, 0.44);
   cairo_rectangle(context, rect.x, rect.y, rect.width, rect.height);
   cairo_fill(context);
@@ -97,7 +95,7 @@ void ZoneLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
   cairo_t* const context = display.canvas.context();
   if (scene.showsZones) {
     for (const TriggerZone& zone : scene.zones) {
-      if (toRect(zone.rect).intersects(display.frame)) {
+      if (rectOf(zone.rect).intersects(display.frame)) {
         paintZone(context, zone);
       }
     }

@@ -16,7 +16,7 @@ namespace {
 constexpr std::array<std::string_view, 2> offAndOn = {"off", "on"};
 
 /// A long text is shown by its beginning only.
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
   constexpr std::size_t shownBytes = 60;
   std::string shown(text);
   if (text.size() > shownBytes) {
@@ -75,7 +75,7 @@ double Arguments::number(std::string_view what) {
   }
   const std::optional<double> value = parseDecimal(word->text);
   if (!value) {
-    complain(std::string(what) + " must be a decimal number, not " + quoted(word->text));
+    complain(std::string(what) + " must be a decimal number, not " + inQuotes(word->text));
   }
   return value.value_or(0);
 }
@@ -88,9 +88,9 @@ double Arguments::coordinate(std::string_view what) {
 double Arguments::checkedCoordinate(std::string_view what, std::string_view text) {
   const std::optional<double> value = parseDecimal(text);
   if (!value) {
-    complain(std::string(what) + " must be a decimal number, not " + quoted(text));
+    complain(std::string(what) + " must be a decimal number, not " + inQuotes(text));
   } else if (std::abs(*value) > coordinateLimit) {
-    complain(std::string(what) + " is too large: " + quoted(text));
+    complain(std::string(what) + " is too large: " + inQuotes(text));
   }
   return value.value_or(0);
 }
@@ -108,7 +108,7 @@ std::int64_t Arguments::integer(std::string_view what, std::int64_t lowest, std:
   const std::optional<std::int64_t> value = parseInteger(word->text);
   if (!value || *value < lowest || *value > highest) {
     complain(std::string(what) + " must be a whole number from " + std::to_string(lowest) + " to " +
-             std::to_string(highest) + ", not " + quoted(word->text));
+             std::to_string(highest) + ", not " + inQuotes(word->text));
     return lowest;
   }
   return *value;
@@ -120,13 +120,14 @@ std::int64_t Arguments::nanoseconds(std::string_view what, std::int64_t highest)
     return 0;
   }
   if (!parseDecimal(word->text)) {
-    complain(std::string(what) + " must be a decimal number of seconds, not " + quoted(word->text));
+    complain(std::string(what) + " must be a decimal number of seconds, not " +
+             inQuotes(word->text));
     return 0;
   }
   const std::optional<std::int64_t> value = parseNanoseconds(word->text);
   if (!value || *value < 0 || *value > highest) {
     complain(std::string(what) + " must be from 0 to " + secondsText(highest) + " seconds, not " +
-             quoted(word->text));
+             inQuotes(word->text));
     return 0;
   }
   return *value;
@@ -141,7 +142,7 @@ std::array<double, 4> Arguments::parseRectangle(std::string_view what, std::stri
   const std::vector<std::string> parts = splitAtCommas(text);
   std::array<double, 4> numbers{};
   if (parts.size() != numbers.size()) {
-    complain(std::string(what) + " must be X,Y,W,H, not " + quoted(text));
+    complain(std::string(what) + " must be X,Y,W,H, not " + inQuotes(text));
     return numbers;
   }
   std::ranges::transform(parts, numbers.begin(),
@@ -161,7 +162,7 @@ std::size_t Arguments::choice(std::string_view what, std::span<const std::string
   const auto found = std::ranges::find(choices, word->text);
   if (found == choices.end()) {
     complain(std::string(what) + " must be one of " + joined(choices) + ", not " +
-             quoted(word->text));
+             inQuotes(word->text));
     return 0;
   }
   return static_cast<std::size_t>(std::distance(choices.begin(), found));
@@ -240,7 +241,7 @@ void Arguments::complain(std::string complaint) {
 
 Complaint Arguments::finish() {
   if (const std::optional<std::size_t> place = next()) {
-    complain("unexpected " + quoted(words_[*place].text));
+    complain("unexpected " + inQuotes(words_[*place].text));
   }
   return complaint_;
 }

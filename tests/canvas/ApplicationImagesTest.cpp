@@ -5,8 +5,6 @@
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <regex>
 #include <set>
@@ -20,6 +18,7 @@
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/ImageArtwork.hpp"
 #include "desk/canvas/PngFile.hpp"
+#include "tests/support/BytesOf.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -28,11 +27,6 @@ namespace fs = std::filesystem;
 
 const fs::path sources = fs::path(ORVANE_SOURCE_FOLDER) / "Orvane";
 const fs::path resources = sources / "resources";
-
-std::string contents(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 /// Every name in quotes that begins an image in the application's source.
 std::set<std::string> namedImages() {
@@ -44,7 +38,7 @@ std::set<std::string> namedImages() {
     if (entry.path().extension() != ".cpp") {
       continue;
     }
-    const std::string text = contents(entry.path());
+    const std::string text = bytesOf(entry.path());
     for (std::sregex_iterator match(text.begin(), text.end(), mention), end; match != end;
          ++match) {
       const std::string arguments = match->str();
@@ -150,7 +144,7 @@ TEST(ApplicationImagesTest, RenderedFilesAreWhatTheirDrawingsShowAtBothScales) {
 }
 
 TEST(ApplicationImagesTest, TheIconFileHasEverySizeOfAMac) {
-  const std::string file = contents(resources / "rendered" / "AppIcon.icns");
+  const std::string file = bytesOf(resources / "rendered" / "AppIcon.icns");
   const auto number = [&](std::size_t at) {
     std::uint32_t value = 0;
     for (std::size_t index = 0; index < 4; ++index) {

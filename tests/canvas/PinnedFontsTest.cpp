@@ -2,7 +2,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <set>
 #include <string>
 #include <vector>
@@ -15,6 +14,7 @@
 #include "desk/canvas/PinnedFonts.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "desk/canvas/TextShaper.hpp"
+#include "tests/support/BytesOf.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -119,11 +119,6 @@ void drawChinese(const char* language, const std::filesystem::path& file) {
   std::exit(writePng(surface.get(), file) ? 0 : 1);
 }
 
-std::string readFile(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 // pango reads the language of the environment once in a process, so each gets its own.
 TEST(PinnedFontsDeathTest, TheLanguageOfTheEnvironmentDoesNotChangeCharacters) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
@@ -132,8 +127,8 @@ TEST(PinnedFontsDeathTest, TheLanguageOfTheEnvironmentDoesNotChangeCharacters) {
   const std::filesystem::path japanese = folder / "orvane-language-japanese.png";
   EXPECT_EXIT(drawChinese("zh_CN", chinese), testing::ExitedWithCode(0), "");
   EXPECT_EXIT(drawChinese("ja", japanese), testing::ExitedWithCode(0), "");
-  EXPECT_GT(readFile(chinese).size(), 500U);
-  EXPECT_EQ(readFile(chinese), readFile(japanese));
+  EXPECT_GT(bytesOf(chinese).size(), 500U);
+  EXPECT_EQ(bytesOf(chinese), bytesOf(japanese));
   std::filesystem::remove(chinese);
   std::filesystem::remove(japanese);
 }

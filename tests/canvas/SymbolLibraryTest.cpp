@@ -1,8 +1,6 @@
 // Every symbol has a drawing that is whole, centred and of the same kind as the others.
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <sstream>
 #include <string>
@@ -14,6 +12,7 @@
 #include "desk/canvas/SymbolArtwork.hpp"
 #include "desk/canvas/SymbolLibrary.hpp"
 #include "tests/canvas/PixelFixture.hpp"
+#include "tests/support/BytesOf.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -54,11 +53,6 @@ Ink inkOf(const Mask& mask) {
     }
   }
   return ink;
-}
-
-std::string readFile(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 /// True for lower-case words with dots between them, which is how symbols are named.
@@ -152,7 +146,7 @@ TEST(SymbolLibraryTest, EveryNameInTheViewsHasADrawing) {
       if (extension != ".cpp" && extension != ".hpp") {
         continue;
       }
-      for (const std::string& name : symbolNamesIn(readFile(entry.path()))) {
+      for (const std::string& name : symbolNamesIn(bytesOf(entry.path()))) {
         EXPECT_TRUE(SymbolLibrary::contains(name)) << name << " in " << entry.path();
         all.insert(name);
       }
@@ -184,7 +178,7 @@ TEST(SymbolLibraryTest, EveryDrawingInTheFolderIsEmbedded) {
   std::vector<std::string> embedded;
   for (const SymbolArtwork& artwork : symbolArtworks()) {
     embedded.emplace_back(artwork.name);
-    EXPECT_EQ(artwork.svg, readFile(sourceFolder / "desk/symbols" / (embedded.back() + ".svg")));
+    EXPECT_EQ(artwork.svg, bytesOf(sourceFolder / "desk/symbols" / (embedded.back() + ".svg")));
   }
   EXPECT_EQ(embedded, files);
 }

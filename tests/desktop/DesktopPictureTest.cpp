@@ -1,14 +1,13 @@
 // Pictures of the desktop as files, and a few that are compared with their kept versions. To renew
 // those after a wanted change, run with ORVANE_RENEW_PICTURES=1 and look at what changed.
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <limits>
 
 #include "desk/canvas/PngFile.hpp"
 #include "desk/desktop/DesktopPicture.hpp"
 #include "desk/desktop/StandardDisplays.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
+#include "tests/support/BytesOf.hpp"
 #include "tests/support/KeptPicture.hpp"
 
 namespace orvane::desk {
@@ -20,11 +19,6 @@ class DesktopPictureTest : public DesktopFixture {
       std::filesystem::path(testing::TempDir()) /
       (std::string("orvane-desktop-") +
        testing::UnitTest::GetInstance()->current_test_info()->name() + ".png");
-
-  static std::string bytesOf(const std::filesystem::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
 
   static void expectPicture(const SurfacePointer& shown, const std::string& name) {
     EXPECT_EQ(differenceFromKept(shown.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /

@@ -39,14 +39,14 @@ TEST_F(DockMouseGuardDisplayChangeTest, AnAbsentTargetGivesNoZonesUntilItComes) 
 TEST_F(DockMouseGuardDisplayChangeTest, ATapThatIsRefusedIsTriedAgainWhenTheDisplaysChange) {
   machine.eventTaps.setRefusesCreation(true);
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  EXPECT_EQ(told(), Messages{tapRefused});
+  EXPECT_EQ(told(), Messages{tapWasRefused});
   EXPECT_FALSE(guard->isRunning());
   EXPECT_TRUE(guard->isObservingScreens());
   EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor}) << "nothing else changes";
   EXPECT_EQ(machine.runLoop.sources().size(), 0U);
 
   desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(told(), Messages{tapRefused});
+  EXPECT_EQ(told(), Messages{tapWasRefused});
   machine.eventTaps.setRefusesCreation(false);
   desk::detach(machine, 3);
   expectGuarding();

@@ -111,7 +111,7 @@ TEST_F(DockMouseGuardTapTest, ATapThatCannotBeServedIsNotLeftInTheSessionsWay) {
   refusesSources = true;
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
   EXPECT_EQ(calls, (Calls{"make source", "disable", "invalidate"}));
-  EXPECT_EQ(told(), Messages{tapRefused});
+  EXPECT_EQ(told(), Messages{tapWasRefused});
   EXPECT_FALSE(guard->isRunning());
   EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
 }

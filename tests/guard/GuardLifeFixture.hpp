@@ -23,7 +23,7 @@ inline const char* const noZones =
     "arrangement.";
 inline const char* const notTrusted =
     "Accessibility permission is not enabled. Dock locking was not started.";
-inline const char* const tapRefused =
+inline const char* const tapWasRefused =
     "Could not create the CGEventTap. Make sure Accessibility permission is enabled.";
 inline const char* const targetGone = "The target display is unavailable. Mouse guard paused.";
 

@@ -178,18 +178,18 @@ TEST_F(ScreenParametersTest, WhatChangedBeforeALaunchIsNoNewsToIt) {
   EXPECT_EQ(heardAtRest(), 1);
 }
 
-struct Step {
+struct FrameStep {
   int kind;
   int choice;
   int x;
   int y;
 };
 
-std::ostream& operator<<(std::ostream& out, const Step& step) {
+std::ostream& operator<<(std::ostream& out, const FrameStep& step) {
   return out << "{" << step.kind << " " << step.choice << " " << step.x << " " << step.y << "}";
 }
 
-void take(Machine& machine, const Step& step) {
+void take(Machine& machine, const FrameStep& step) {
   const std::vector<PropertyValue> edges = {std::string("bottom"), std::string("left"),
                                             std::string("right"), std::string("top"), 3.0};
   switch (step.kind) {
@@ -212,10 +212,10 @@ RC_GTEST_PROP(ScreenParametersProperty, AreHeardOfExactlyWhenAVisibleFrameHasCha
   int heard = 0;
   machine.observers.add(NotificationName::applicationDidChangeScreenParameters,
                         [&heard] { ++heard; });
-  const auto steps = *rc::gen::container<std::vector<Step>>(
-      rc::gen::construct<Step>(rc::gen::element(0, 1, 2, 2, 2, 2), rc::gen::inRange(0, 5),
-                               rc::gen::inRange(-100, 400), rc::gen::inRange(-200, 200)));
-  for (const Step& step : steps) {
+  const auto steps = *rc::gen::container<std::vector<FrameStep>>(
+      rc::gen::construct<FrameStep>(rc::gen::element(0, 1, 2, 2, 2, 2), rc::gen::inRange(0, 5),
+                                    rc::gen::inRange(-100, 400), rc::gen::inRange(-200, 200)));
+  for (const FrameStep& step : steps) {
     const std::vector<CGRect> before = visibleFrames();
     take(machine, step);
     machine.runDue();

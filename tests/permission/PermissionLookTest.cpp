@@ -25,8 +25,8 @@ struct Ink {
   std::optional<SystemColor> color;
 };
 
-constexpr const char* waiting = "Waiting for permission in System Settings";
-constexpr const char* notDetected = "Permission not detected yet.";
+constexpr const char* waitingBegins = "Waiting for permission in System Settings";
+constexpr const char* notDetectedBegins = "Permission not detected yet.";
 
 class PermissionLookTest : public PermissionFlow, public testing::WithParamInterface<bool> {
  protected:
@@ -119,10 +119,11 @@ TEST_P(PermissionLookTest, WhileItLooksTheGuidesPartsHaveTheirFontsAndColours) {
                             status,
                             {"Done", {13, Weight::bold}, {}}};
   };
-  expectInk(drawing("guide"), withStatus({waiting, {10, Weight::regular}, SystemColor::secondary}));
+  expectInk(drawing("guide"),
+            withStatus({waitingBegins, {10, Weight::regular}, SystemColor::secondary}));
   machine.advance(13);
   expectInk(drawing("guide"),
-            withStatus({notDetected, {10, Weight::regular}, SystemColor::orange}));
+            withStatus({notDetectedBegins, {10, Weight::regular}, SystemColor::orange}));
 }
 
 TEST_P(PermissionLookTest, ASuccessIsAGreenCheckMarkOfSixtyPointsAndAGreenHeadline) {

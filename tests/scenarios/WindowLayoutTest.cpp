@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -17,6 +16,7 @@
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "tests/support/BytesOf.hpp"
 #include "tests/support/TestDisplays.hpp"
 #include "tests/support/TextBoxes.hpp"
 
@@ -78,8 +78,7 @@ TEST_F(WindowLayoutTest, everyTextIsWhereItWas) {
   if (std::getenv("ORVANE_RENEW_PICTURES") != nullptr) {
     std::ofstream(file) << texts;
   }
-  std::ifstream kept(file);
-  EXPECT_EQ(texts, std::string(std::istreambuf_iterator<char>(kept), {}));
+  EXPECT_EQ(texts, bytesOf(file));
 }
 
 }  // namespace

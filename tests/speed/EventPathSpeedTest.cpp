@@ -16,13 +16,13 @@
 namespace orvane::bench {
 namespace {
 
-constexpr int rounds = 40;
 constexpr int callsPerRound = 100'000;
 
 /// Nanoseconds per call in the quickest of the rounds: what else the machine does only adds.
 template <typename Call>
 double quickestNanoseconds(const Call& call) {
   using Clock = std::chrono::steady_clock;
+  constexpr int rounds = 40;
   double quickest = std::numeric_limits<double>::infinity();
   for (int round = 0; round < rounds; ++round) {
     const Clock::time_point begin = Clock::now();

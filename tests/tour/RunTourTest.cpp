@@ -1,7 +1,5 @@
 // The whole tour as a person takes it.
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
@@ -11,6 +9,7 @@
 
 #include "desk/canvas/PngFile.hpp"
 #include "desk/tour/RunTour.hpp"
+#include "tests/support/BytesOf.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -27,8 +26,7 @@ class RunTourTest : public testing::Test {
   static std::map<std::string, std::string> filesIn(const std::filesystem::path& directory) {
     std::map<std::string, std::string> files;
     for (const auto& entry : std::filesystem::directory_iterator(directory)) {
-      std::ifstream stream(entry.path(), std::ios::binary);
-      files[entry.path().filename().string()] = {std::istreambuf_iterator<char>(stream), {}};
+      files[entry.path().filename().string()] = bytesOf(entry.path());
     }
     return files;
   }

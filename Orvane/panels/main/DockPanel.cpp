@@ -8,20 +8,14 @@ namespace orvane {
 
 using namespace ui;
 
-namespace {
-
-constexpr double shadowRadius = 10;
-constexpr double shadowDrop = 4;
-
-}  // namespace
+namespace {}  // namespace
 
 View DockPanel::body(const Environment& environment) const {
   const bool isDark = environment.isDark();
   return content.padding(padding).maximumWidth().background(
       RoundedRectangle(cornerRadius)
-          .castShadow({.color = Color::black().opacity(isDark ? 0.396 : 0.18),
-                       .radius = shadowRadius,
-                       .y = shadowDrop})
+          .castShadow(
+              {.color = Color::black().opacity(isDark ? 0.396 : 0.18), .radius = 10, .y = 4})
           .fill(Color::white().opacity(isDark ? 0.03 : 0.28))
           .fill(OrvanePalette::panelOverlayGradient(isDark))
           .stroke(OrvanePalette::outline(OrvanePalette::panelRim(isDark), environment), 0.8));

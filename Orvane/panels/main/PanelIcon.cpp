@@ -12,9 +12,7 @@ namespace {
 
 constexpr double side = 48;
 /// A little under a quarter of the side, the proportion of the Mac's own icon tiles.
-constexpr double cornerRadius = 11;
-constexpr double shadowRadius = 7;
-constexpr double shadowDrop = 3;
+constexpr double tileRadius = 11;
 
 }  // namespace
 
@@ -23,10 +21,9 @@ View PanelIcon::body(const Environment& /*environment*/) const {
       .font(Font::system(24, Weight::bold))
       .foreground(Color::white())
       .frame(side, side)
-      .background(
-          RoundedRectangle(cornerRadius)
-              .castShadow({.color = tint.opacity(0.24), .radius = shadowRadius, .y = shadowDrop})
-              .fill(Gradient::linear({tint.opacity(0.98), tint.opacity(0.78)})));
+      .background(RoundedRectangle(tileRadius)
+                      .castShadow({.color = tint.opacity(0.24), .radius = 7, .y = 3})
+                      .fill(Gradient::linear({tint.opacity(0.98), tint.opacity(0.78)})));
 }
 
 }  // namespace orvane

@@ -10,9 +10,7 @@ using namespace ui;
 
 namespace {
 
-constexpr double cornerRadius = 10;
-constexpr double shadowRadius = 5;
-constexpr double shadowDrop = 2;
+constexpr double buttonRadius = 10;
 
 double backgroundOpacity(bool isDark, bool isPressed) {
   if (isDark) {
@@ -29,10 +27,9 @@ View TitleBarIconButtonStyle::body(const ButtonConfiguration& configuration,
   return configuration.label
       .foreground(isDark ? Color::primary().opacity(0.84) : Color::rgb(0.16, 0.22, 0.34))
       .background(
-          RoundedRectangle(cornerRadius)
-              .castShadow({.color = Color::black().opacity(isDark ? 0.22 : 0.1),
-                           .radius = shadowRadius,
-                           .y = shadowDrop})
+          RoundedRectangle(buttonRadius)
+              .castShadow(
+                  {.color = Color::black().opacity(isDark ? 0.22 : 0.1), .radius = 5, .y = 2})
               .fill(Color::white().opacity(backgroundOpacity(isDark, configuration.isPressed)))
               .stroke(OrvanePalette::outline(OrvanePalette::panelRim(isDark), environment), 0.7))
       .opacity(configuration.isEnabled ? 1 : OrvanePalette::disabledOpacity)

@@ -14,9 +14,7 @@ using namespace ui;
 namespace {
 
 constexpr double diameter = 14;
-constexpr double shadowRadius = 4;
-constexpr double shadowDrop = 1;
-constexpr double hoverSeconds = 0.14;
+constexpr double lightHoverSeconds = 0.14;
 
 }  // namespace
 
@@ -50,18 +48,18 @@ View TrafficLightButton::body(const Environment& environment) const {
           .foreground(hoverIconColor)
           .opacity(showsHoverIcon ? 1 : 0)
           .frame(diameter, diameter)
-          .background(Circle()
-                          .castShadow({.color = color.opacity(isHovered.value() ? 0.26 : 0),
-                                       .radius = shadowRadius,
-                                       .y = shadowDrop})
-                          .fill(color)
-                          .stroke(stroke.opacity(0.55), 0.7));
+          .background(
+              Circle()
+                  .castShadow(
+                      {.color = color.opacity(isHovered.value() ? 0.26 : 0), .radius = 4, .y = 1})
+                  .fill(color)
+                  .stroke(stroke.opacity(0.55), 0.7));
   return Button(action, light)
       .style(BareButtonStyle{})
       .focusRing(ShapeForm::circle())
       .accessibilityLabel(label)
       .scale(isHovered.value() ? 1.1 : 1)
-      .animation(Curve::easeOut(hoverSeconds), isHovered.value())
+      .animation(Curve::easeOut(lightHoverSeconds), isHovered.value())
       .onHover([isHovered](bool isInside) { isHovered.set(isInside); });
 }
 

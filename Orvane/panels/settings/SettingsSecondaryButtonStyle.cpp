@@ -12,7 +12,7 @@ using namespace ui;
 namespace {
 
 constexpr double height = 26;
-constexpr double sidePadding = 11;
+constexpr double buttonPadding = 11;
 constexpr double rimOpacityDark = 0.16;
 constexpr double rimOpacityLight = 0.18;
 constexpr double pressedOpacity = 0.7;
@@ -27,7 +27,7 @@ View SettingsSecondaryButtonStyle::body(const ButtonConfiguration& configuration
   const Color rim = isDark ? Color::white().opacity(rimOpacityDark)
                            : SettingsPalette::blue().opacity(rimOpacityLight);
   return configuration.label.font(Font::system(13, Weight::semibold))
-      .padding(Edges::horizontal(sidePadding).vertical(0))
+      .padding(Edges::horizontal(buttonPadding).vertical(0))
       .height(height)
       .background(RoundedRectangle(cornerRadius)
                       .fill(configuration.isPressed ? fill.opacity(pressedOpacity) : fill)

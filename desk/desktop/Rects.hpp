@@ -1,0 +1,17 @@
+// Rectangles of the machine as the canvas takes them, and back.
+#pragma once
+
+#include "Orvane/platform/Quartz.hpp"
+#include "Orvane/ui/Rect.hpp"
+
+namespace orvane::desk {
+
+constexpr ui::Rect rectOf(const CGRect& rect) {
+  return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+constexpr CGRect rectOf(const ui::Rect& rect) {
+  return {{rect.x, rect.y}, {rect.width, rect.height}};
+}
+
+}  // namespace orvane::desk
