@@ -22,6 +22,7 @@
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/desktop/StandardDisplays.hpp"
 #include "desk/machine/MachineScope.hpp"
+#include "desk/windows/ContentPicture.hpp"
 
 namespace orvane::bench {
 namespace {
@@ -104,17 +105,20 @@ class Stage {
     now_ += 1.0 / 60;
     host_.tick(now_);
   }
-  void paint(const ui::Rect& area) {
+  void paintAll() {
     desk::CairoCanvas canvas(surface_.get(), scale, resources_);
-    host_.paint(canvas, area);
+    host_.paint(canvas, {0, 0, host_.size().width, host_.size().height});
   }
-  void paintAll() { paint({0, 0, host_.size().width, host_.size().height}); }
+  /// What has changed is drawn, as in a window.
+  void showFrame() { picture_.of(host_, scale, resources_); }
+  [[nodiscard]] long long areas() const { return picture_.drawnAreas(); }
 
  private:
   desk::PangoTextMeasurer text_;
   desk::DrawingResources resources_;
   ui::ViewHost host_;
   desk::SurfacePointer surface_;
+  desk::ContentPicture picture_;
   double now_ = 0;
 };
 
@@ -205,30 +209,23 @@ void kitPaint(benchmark::State& state) {
   }
 }
 
-/// The pointer comes over a control, or leaves it: update and painting of one frame. The share is
-/// that of the panel's area.
+/// The pointer comes over a control, or leaves it: update and painting of one frame, as a window
+/// does it.
 template <typename Panel>
 void kitHover(benchmark::State& state) {
   Panel subject;
   Stage stage(subject);
-  stage.paintAll();
+  stage.showFrame();
+  const auto before = stage.areas();
   bool isInside = false;
-  double area = 0;
-  double rects = 0;
   for (auto _ : state) {
     isInside = !isInside;
     stage.host().pointerMoved(isInside ? subject.hoverPlace() : ui::Point{2, 2});
     stage.nextFrame();
-    for (const ui::Rect& rect : stage.host().takeDirtyRects()) {
-      stage.paint(rect);
-      area += rect.width * rect.height;
-      ++rects;
-    }
+    stage.showFrame();
   }
-  const double whole = subject.size().width * subject.size().height;
-  state.counters["share_percent"] =
-      benchmark::Counter(100 * area / whole, benchmark::Counter::kAvgIterations);
-  state.counters["rects"] = benchmark::Counter(rects, benchmark::Counter::kAvgIterations);
+  state.counters["areas"] = benchmark::Counter(static_cast<double>(stage.areas() - before),
+                                               benchmark::Counter::kAvgIterations);
 }
 
 /// What the heap holds for a laid out tree, by its nodes: nodes, descriptions, broken texts.

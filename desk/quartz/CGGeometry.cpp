@@ -1,6 +1,8 @@
 // Rectangles as Core Graphics documents them: every function takes a rectangle with a negative size
 // as the standardised one, which has a positive size and another origin.
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 #include "Orvane/platform/Quartz.hpp"
@@ -64,9 +66,12 @@ CGFloat CGRectGetHeight(CGRect rect) {
 }
 
 bool CGRectContainsPoint(CGRect rect, CGPoint point) {
-  // The event path asks this for every zone: only a negative size costs more than comparing. The
-  // null rectangle, whose origin is infinite, contains nothing by the comparisons alone.
-  if (rect.size.width < 0 || rect.size.height < 0) [[unlikely]] {
+  // The event path asks this for every zone: only a negative size costs more than comparing, and one
+  // look at both signs tells. The null rectangle, whose origin is infinite, contains nothing by the
+  // comparisons alone.
+  const auto signs = std::bit_cast<std::int64_t>(rect.size.width) |
+                     std::bit_cast<std::int64_t>(rect.size.height);
+  if (signs < 0) [[unlikely]] {
     rect = standardised(rect);
   }
   return point.x >= rect.origin.x && point.x < rect.origin.x + rect.size.width &&
