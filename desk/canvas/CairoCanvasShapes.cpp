@@ -12,8 +12,8 @@ namespace orvane::desk {
 
 namespace {
 
-/// As cairo sees it, which takes places in steps of 1/256 pixel: at a scale such as 1.1 a whole pixel
-/// is not a whole number to the last bit.
+/// As cairo sees it, which takes places in steps of 1/256 pixel: at a scale such as 1.1 a whole
+/// pixel is not a whole number to the last bit.
 bool isWhole(double number) {
   return std::abs(number - std::round(number)) < 1.0 / 512;
 }

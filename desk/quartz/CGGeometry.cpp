@@ -66,11 +66,11 @@ CGFloat CGRectGetHeight(CGRect rect) {
 }
 
 bool CGRectContainsPoint(CGRect rect, CGPoint point) {
-  // The event path asks this for every zone: only a negative size costs more than comparing, and one
-  // look at both signs tells. The null rectangle, whose origin is infinite, contains nothing by the
-  // comparisons alone.
-  const auto signs = std::bit_cast<std::int64_t>(rect.size.width) |
-                     std::bit_cast<std::int64_t>(rect.size.height);
+  // The event path asks this for every zone: only a negative size costs more than comparing, and
+  // one look at both signs tells. The null rectangle, whose origin is infinite, contains nothing by
+  // the comparisons alone.
+  const auto signs =
+      std::bit_cast<std::int64_t>(rect.size.width) | std::bit_cast<std::int64_t>(rect.size.height);
   if (signs < 0) [[unlikely]] {
     rect = standardised(rect);
   }
