@@ -35,8 +35,7 @@ class Desk:
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
             display = ":" + pipe.readline().strip()
-        self.environment = dict(os.environ, DISPLAY=display, SDL_VIDEODRIVER="x11",
-                                SDL_RENDER_DRIVER="software")
+        self.environment = dict(os.environ, DISPLAY=display, SDL_VIDEODRIVER="x11")
         self.environment.pop("WAYLAND_DISPLAY", None)
         self.process = subprocess.Popen(
             [program, "--displays", str(DISPLAYS), "--dump", str(folder / "dump.json"),

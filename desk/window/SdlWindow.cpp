@@ -21,6 +21,9 @@ bool isInvisible(const char* driver) {
 std::unique_ptr<SdlWindow> SdlWindow::open(int width, int height, std::string& complaint) {
   SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
   SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+  // The pictures come from the processor, and go to the screen without a detour through OpenGL,
+  // which may be the processor's, too.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   if (SDL_Init(SDL_INIT_VIDEO) != 0) {
     complaint = SDL_GetError();
     return nullptr;
@@ -39,8 +42,7 @@ std::unique_ptr<SdlWindow> SdlWindow::open(int width, int height, std::string& c
     return nullptr;
   }
   SDL_SetWindowMinimumSize(result->window_.get(), smallestWidth, smallestHeight);
-  result->renderer_.reset(SDL_CreateRenderer(result->window_.get(), -1, 0));
-  if (!result->renderer_ || !result->updateSize()) {
+  if (!result->updateSize()) {
     complaint = SDL_GetError();
     return nullptr;
   }
@@ -48,8 +50,6 @@ std::unique_ptr<SdlWindow> SdlWindow::open(int width, int height, std::string& c
 }
 
 SdlWindow::~SdlWindow() {
-  texture_.reset();
-  renderer_.reset();
   window_.reset();
   SDL_Quit();
 }
@@ -59,7 +59,7 @@ bool SdlWindow::updateSize() {
   int height = 0;
   int pointWidth = 0;
   int pointHeight = 0;
-  SDL_GetRendererOutputSize(renderer_.get(), &width, &height);
+  SDL_GetWindowSizeInPixels(window_.get(), &width, &height);
   SDL_GetWindowSize(window_.get(), &pointWidth, &pointHeight);
   if (width <= 0 || height <= 0 || pointWidth <= 0) {
     return false;
@@ -69,19 +69,22 @@ bool SdlWindow::updateSize() {
     return false;
   }
   pixelRatio_ = static_cast<double>(width) / pointWidth;
-  texture_.reset(SDL_CreateTexture(renderer_.get(), SDL_PIXELFORMAT_ARGB8888,
-                                   SDL_TEXTUREACCESS_STREAMING, width, height));
+  picture_.reset();
   surface_.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-  return texture_ != nullptr && cairo_surface_status(surface_.get()) == CAIRO_STATUS_SUCCESS;
+  // Both keep a pixel as one 32-bit number with alpha at the top; the picture has no transparency.
+  picture_.reset(SDL_CreateRGBSurfaceWithFormatFrom(
+      cairo_image_surface_get_data(surface_.get()), width, height, 32,
+      cairo_image_surface_get_stride(surface_.get()), SDL_PIXELFORMAT_XRGB8888));
+  return picture_ != nullptr && cairo_surface_status(surface_.get()) == CAIRO_STATUS_SUCCESS;
 }
 
 void SdlWindow::present() {
   cairo_surface_flush(surface_.get());
-  // Both keep a pixel as one 32-bit number with alpha at the top; the picture has no transparency.
-  SDL_UpdateTexture(texture_.get(), nullptr, cairo_image_surface_get_data(surface_.get()),
-                    cairo_image_surface_get_stride(surface_.get()));
-  SDL_RenderCopy(renderer_.get(), texture_.get(), nullptr, nullptr);
-  SDL_RenderPresent(renderer_.get());
+  // The window's own surface is another one after each change of its size.
+  if (SDL_Surface* const shown = SDL_GetWindowSurface(window_.get())) {
+    SDL_BlitSurface(picture_.get(), nullptr, shown, nullptr);
+    SDL_UpdateWindowSurface(window_.get());
+  }
 }
 
 int SdlWindow::framesPerSecond() const {

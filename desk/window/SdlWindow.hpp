@@ -40,16 +40,15 @@ class SdlWindow {
  private:
   struct Release {
     void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
-    void operator()(SDL_Renderer* renderer) const { SDL_DestroyRenderer(renderer); }
-    void operator()(SDL_Texture* texture) const { SDL_DestroyTexture(texture); }
+    void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
   };
 
   SdlWindow() = default;
 
   std::unique_ptr<SDL_Window, Release> window_;
-  std::unique_ptr<SDL_Renderer, Release> renderer_;
-  std::unique_ptr<SDL_Texture, Release> texture_;
   SurfacePointer surface_;
+  /// The same pixels as SDL sees them.
+  std::unique_ptr<SDL_Surface, Release> picture_;
   double pixelRatio_ = 1;
   bool isMouseHeld_ = false;
 };

@@ -79,7 +79,7 @@ class RealWindow(unittest.TestCase):
             self.desk.wait(10)
 
     def environment(self, display):
-        environment = dict(os.environ, SDL_VIDEODRIVER="x11", SDL_RENDER_DRIVER="software",
+        environment = dict(os.environ, SDL_VIDEODRIVER="x11",
                            ASAN_OPTIONS="detect_leaks=0")
         for name in ("WAYLAND_DISPLAY", "DISPLAY"):
             environment.pop(name, None)
