@@ -143,6 +143,11 @@ bool ContractFixture::storeNumberInUserDefaults(const std::string& key, double n
   return true;
 }
 
+bool ContractFixture::makeVolumeReadOnly() {
+  world().isBundleOnReadOnlyVolume = true;
+  return true;
+}
+
 bool ContractFixture::canRegisterLoginItem() const {
   return true;
 }

@@ -73,6 +73,10 @@ bool ContractFixture::storeNumberInUserDefaults(const std::string&, double) {
   return false;
 }
 
+bool ContractFixture::makeVolumeReadOnly() {
+  return false;
+}
+
 bool ContractFixture::canRegisterLoginItem() const {
   return false;
 }
