@@ -96,6 +96,17 @@ function(orvane_as_a_test name)
   endif()
 endfunction()
 
+# orvane_test_bundle(NAME): on a Mac a bundle with user defaults of its own, which are not the user's
+# Orvane's; on GNUstep one with the application's images, too.
+function(orvane_test_bundle name)
+  if(ORVANE_GNUSTEP)
+    orvane_gnustep_bundle(${name} ${ORVANE_BUNDLE_IDENTIFIER})
+  else()
+    set_target_properties(${name} PROPERTIES MACOSX_BUNDLE TRUE
+                                             MACOSX_BUNDLE_GUI_IDENTIFIER ${ORVANE_BUNDLE_IDENTIFIER}.tests)
+  endif()
+endfunction()
+
 # orvane_test(NAME SOURCES file... [LIBRARIES library...] [DEFINITIONS name=value...]
 # [LABELS label...] [PROPERTY_CASES count]): a GoogleTest executable; every test in it is one test of
 # ctest. In the sanitizers' build its name says so. Under ctest RapidCheck's properties see the same
@@ -108,8 +119,8 @@ function(orvane_test name)
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE orvane_flags ${arg_LIBRARIES} GTest::gtest_main)
   target_compile_definitions(${name} PRIVATE ${arg_DEFINITIONS})
-  if(ORVANE_GNUSTEP AND "orvane_macos" IN_LIST arg_LIBRARIES)
-    orvane_gnustep_bundle(${name} ${ORVANE_BUNDLE_IDENTIFIER})
+  if("orvane_macos" IN_LIST arg_LIBRARIES)
+    orvane_test_bundle(${name})
   endif()
   orvane_as_a_test(${name})
   orvane_reuse(${name} orvane_test_headers)

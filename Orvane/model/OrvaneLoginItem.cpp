@@ -1,9 +1,18 @@
-// Launch at login: asks the system for no more than a change of what already holds.
+// Launch at login: where it is possible, and no more asked of the system than what changes
+// something.
 #include "Orvane/model/OrvaneLoginItem.hpp"
 
+#include "Orvane/platform/appkit/Bundle.hpp"
 #include "Orvane/platform/appkit/LoginItem.hpp"
 
 namespace orvane::OrvaneLoginItem {
+
+bool isInPlaceThatStays() {
+  // No public function names a translocated application; its path does.
+  const std::string url = appkit::Bundle::url().value_or("");
+  return !appkit::Bundle::isOnReadOnlyVolume() &&
+         url.find("/AppTranslocation/") == std::string::npos;
+}
 
 std::optional<std::string> setEnabled(bool enabled) {
   using appkit::LoginItem;

@@ -31,7 +31,8 @@ OrvaneModel::OrvaneModel()
       launchAtLoginEnabled_(LoginItem::status() == LoginItem::Status::enabled, &changes_),
       launchAtLoginRequiresApproval_(LoginItem::status() == LoginItem::Status::requiresApproval,
                                      &changes_),
-      launchAtLoginErrorMessage_(std::nullopt, &changes_) {
+      launchAtLoginErrorMessage_(std::nullopt, &changes_),
+      isLaunchAtLoginMisplaced_(false, &changes_) {
   installGuardCallbacks();
   observeScreenChanges();
 }
@@ -174,7 +175,9 @@ void OrvaneModel::refreshLaunchAtLoginStatus() {
 
 void OrvaneModel::setLaunchAtLoginEnabled(bool enabled) {
   wantsLaunchAtLogin_ = enabled;
-  launchAtLoginErrorMessage_.set(OrvaneLoginItem::setEnabled(enabled));
+  isLaunchAtLoginMisplaced_.set(enabled && !OrvaneLoginItem::isInPlaceThatStays());
+  launchAtLoginErrorMessage_.set(
+      isLaunchAtLoginMisplaced_.value() ? std::nullopt : OrvaneLoginItem::setEnabled(enabled));
   refreshLaunchAtLoginStatus();
 }
 

@@ -125,7 +125,12 @@ class OrvaneModel {
   [[nodiscard]] bool isRestoreBlocked() const { return isRestoreBlocked_; }
 
   void refreshLaunchAtLoginStatus();
+  /// From a place where the application does not stay, nothing is registered.
   void setLaunchAtLoginEnabled(bool enabled);
+  /// The user asked for the login item where the application does not stay, and there is none.
+  [[nodiscard]] bool isLaunchAtLoginMisplaced() const {
+    return isLaunchAtLoginMisplaced_.value() && !launchAtLoginEnabled_.value();
+  }
   /// The last change failed, and the login item is still not what the user asked for.
   [[nodiscard]] bool isLaunchAtLoginFailing() const {
     return launchAtLoginErrorMessage_.value() &&
@@ -182,6 +187,7 @@ class OrvaneModel {
   Published<bool> launchAtLoginEnabled_;
   Published<bool> launchAtLoginRequiresApproval_;
   Published<std::optional<std::string>> launchAtLoginErrorMessage_;
+  Published<bool> isLaunchAtLoginMisplaced_;
   DockMouseGuard guardService_;
   std::optional<appkit::ObserverToken> screenObserver_;
   Lifetime lifetime_;

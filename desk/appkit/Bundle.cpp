@@ -1,10 +1,16 @@
-// The application's bundle on the desk, where the simulated Mac has it installed.
+// The application's bundle on the desk.
 #include "Orvane/platform/appkit/Bundle.hpp"
+
+#include "desk/machine/Machine.hpp"
 
 namespace orvane::appkit {
 
 std::optional<std::string> Bundle::url() {
-  return "file:///Applications/Orvane.app/";
+  return desk::Machine::current().bundle.url;
+}
+
+bool Bundle::isOnReadOnlyVolume() {
+  return desk::Machine::current().bundle.isOnReadOnlyVolume;
 }
 
 }  // namespace orvane::appkit

@@ -15,6 +15,7 @@
 #include "desk/machine/Dock.hpp"
 #include "desk/machine/EventTaps.hpp"
 #include "desk/machine/Faults.hpp"
+#include "desk/machine/InstalledBundle.hpp"
 #include "desk/machine/Links.hpp"
 #include "desk/machine/LocaleSettings.hpp"
 #include "desk/machine/LoginItemState.hpp"
@@ -61,6 +62,7 @@ class Machine {
   Observers observers;
   Permission permission;
   LoginItemState loginItem;
+  InstalledBundle bundle;
   Links links;
   Preferences preferences;
   UserDefaultsStore userDefaults;

@@ -15,4 +15,12 @@ std::optional<std::string> Bundle::url() {
              : std::optional(utf8String(bundle.bundleURL.absoluteString));
 }
 
+bool Bundle::isOnReadOnlyVolume() {
+  id isReadOnly = nil;
+  [NSBundle.mainBundle.bundleURL getResourceValue:&isReadOnly
+                                           forKey:NSURLVolumeIsReadOnlyKey
+                                            error:nil];
+  return [isReadOnly boolValue];
+}
+
 }  // namespace orvane::appkit

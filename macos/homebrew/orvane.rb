@@ -14,10 +14,15 @@ cask "orvane" do
     regex(/Orvane[._-]v?(\d+(?:\.\d+)+)\.dmg/i)
   end
 
-  depends_on macos: ">= :ventura"
+  depends_on macos: :ventura
 
   app "Orvane.app"
 
+  # A login item of SMAppService is unregistered by the application itself or, in System Settings, by
+  # its user; no command does it. Homebrew asks System Events to delete what is listed under the
+  # application's path or this name, at an uninstallation only. A script of the cask would also run at
+  # every upgrade, and each would cost the user the login item. Where System Events does not list it,
+  # macOS drops it once the application is gone.
   uninstall quit:       "app.orvane.Orvane",
             login_item: "Orvane"
 
@@ -28,6 +33,7 @@ cask "orvane" do
 
   caveats <<~EOS
     Orvane needs the Accessibility permission and asks for it when a lock is first switched on.
+    Switch "Open at Login" off before uninstalling; that is certain to remove the login item.
     After uninstalling, this removes what is left of the permission:
       tccutil reset Accessibility app.orvane.Orvane
   EOS

@@ -59,6 +59,8 @@ class ContractFixture : public testing::Test {
   [[nodiscard]] bool refuseLinks(const std::string& prefix);
   /// A value of another type than text and truth in the user defaults.
   [[nodiscard]] bool storeNumberInUserDefaults(const std::string& key, double number);
+  /// The application's bundle lies on a volume that cannot be written to.
+  [[nodiscard]] bool makeVolumeReadOnly();
   /// The login item may be registered and unregistered without consequence for anybody.
   [[nodiscard]] bool canRegisterLoginItem() const;
 

@@ -2,7 +2,6 @@
 // is offered.
 #include <optional>
 
-#include "Orvane/platform/appkit/Bundle.hpp"
 #include "Orvane/platform/appkit/Window.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "tests/contract/Arrange.hpp"
@@ -29,12 +28,6 @@ class FileDragContract : public ContractFixture {
     return window;
   }
 };
-
-TEST_F(FileDragContract, TheApplicationHasABundleToBeDragged) {
-  const std::optional<std::string> bundle = appkit::Bundle::url();
-  ASSERT_TRUE(bundle);
-  EXPECT_TRUE(bundle->starts_with("file:///")) << *bundle;
-}
 
 TEST_F(FileDragContract, ADraggedSourceOffersItsFileToBeCopiedOnly) {
   ORVANE_ARRANGE(arrangeTwoDisplays());

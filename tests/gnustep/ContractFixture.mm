@@ -1,54 +1,17 @@
 // The contract's fixture on GNUstep: the shim can be arranged in nearly every way.
-#import <AppKit/AppKit.h>
-
 #include "tests/contract/ContractFixture.hpp"
+#include "tests/contract/macos/ApplicationRun.hpp"
 #include "tests/gnustep/shim/World.hpp"
 
 namespace orvane {
 
 using gnustep::world;
 
-extern "C" void* objc_autoreleasePoolPush(void);
-extern "C" void objc_autoreleasePoolPop(void* pool);
-
-/// What a test has had autoreleased goes whenever time passes, as after each turn of an
-/// application's run loop.
 struct ContractFixture::Platform {
-  Platform() = default;
-  Platform(const Platform&) = delete;
-  Platform& operator=(const Platform&) = delete;
-  ~Platform() { objc_autoreleasePoolPop(pool); }
-  void drain() {
-    objc_autoreleasePoolPop(pool);
-    pool = objc_autoreleasePoolPush();
-  }
-
-  void* pool = objc_autoreleasePoolPush();
+  ApplicationRun run;
 };
 
 namespace {
-
-/// Serves the run loop in a mode, and handles the events that come.
-void serve(double seconds, NSString* mode) {
-  @autoreleasepool {
-    NSDate* const end = [NSDate dateWithTimeIntervalSinceNow:seconds];
-    // What is due by then is served, even when one task has taken all of the time.
-    bool goesOn = true;
-    while (goesOn) {
-      @autoreleasepool {
-        NSEvent* const event =
-            [NSApp nextEventMatchingMask:NSAnyEventMask
-                               untilDate:[NSDate dateWithTimeIntervalSinceNow:0.001]
-                                  inMode:mode
-                                 dequeue:YES];
-        if (event != nil) {
-          [NSApp sendEvent:event];
-        }
-        goesOn = event != nil || end.timeIntervalSinceNow > 0;
-      }
-    }
-  }
-}
 
 NSPoint onScreen(CGPoint global) {
   return NSMakePoint(global.x, [NSScreen.screens.firstObject frame].size.height - global.y);
@@ -85,9 +48,6 @@ void postMouse(NSEventType type, CGPoint global) {
 }  // namespace
 
 ContractFixture::ContractFixture() : platform_(std::make_unique<Platform>()) {
-  if (NSApp == nil) {
-    [NSApplication.sharedApplication finishLaunching];
-  }
   world() = {};
   letTimePass(0);
 }
@@ -99,12 +59,11 @@ ContractFixture::~ContractFixture() {
 }
 
 void ContractFixture::letTimePass(double seconds) {
-  serve(seconds, NSDefaultRunLoopMode);
-  platform_->drain();
+  platform_->run.serve(seconds, NSDefaultRunLoopMode);
 }
 
 bool ContractFixture::letTimePassWithMenuOpen(double seconds) {
-  serve(seconds, NSEventTrackingRunLoopMode);
+  platform_->run.serve(seconds, NSEventTrackingRunLoopMode);
   return true;
 }
 
@@ -181,6 +140,11 @@ bool ContractFixture::refuseLinks(const std::string& prefix) {
 
 bool ContractFixture::storeNumberInUserDefaults(const std::string& key, double number) {
   [NSUserDefaults.standardUserDefaults setObject:@(number) forKey:@(key.c_str())];
+  return true;
+}
+
+bool ContractFixture::makeVolumeReadOnly() {
+  world().isBundleOnReadOnlyVolume = true;
   return true;
 }
 

@@ -33,6 +33,18 @@ TEST_F(OrvaneLoginItemTest, DisablingUnregistersUnlessItIsNotRegistered) {
   }
 }
 
+TEST_F(OrvaneLoginItemTest, ADiskImageAndATranslocatedPathDoNotStay) {
+  EXPECT_TRUE(OrvaneLoginItem::isInPlaceThatStays());
+  machine.bundle.isOnReadOnlyVolume = true;
+  EXPECT_FALSE(OrvaneLoginItem::isInPlaceThatStays());
+  machine.bundle = {.url =
+                        "file:///private/var/folders/x2/k8/T/AppTranslocation/"
+                        "9F0C21B4-7A54-4F5E-8F0B-0E7C1A8F31C5/d/Orvane.app/"};
+  EXPECT_FALSE(OrvaneLoginItem::isInPlaceThatStays());
+  machine.bundle = {.url = "file:///Users/me/Applications/Orvane.app/"};
+  EXPECT_TRUE(OrvaneLoginItem::isInPlaceThatStays());
+}
+
 TEST_F(OrvaneLoginItemTest, ThePlatformsErrorIsPassedOutUnchanged) {
   machine.loginItem.error = "Operation not permitted";
   EXPECT_EQ(OrvaneLoginItem::setEnabled(true), "Operation not permitted");

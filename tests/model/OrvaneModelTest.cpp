@@ -1,4 +1,4 @@
-// OrvaneModel's state: creation, displays and target, setters, links, launch at login, and its end.
+// OrvaneModel's state: creation, displays and target, setters, links, and its end.
 #include <string>
 #include <vector>
 
@@ -329,43 +329,6 @@ TEST_F(OrvaneModelTest, TheGuardsUnlocksAreShown) {
   EXPECT_TRUE(model->isTemporarilyUnlocked().value());
   moveHolding(0);
   EXPECT_FALSE(model->isTemporarilyUnlocked().value());
-}
-
-TEST_F(OrvaneModelTest, LaunchAtLoginShowsTheRealState) {
-  launch();
-  machine.loginItem.status = Status::requiresApproval;
-  model->refreshLaunchAtLoginStatus();
-  EXPECT_FALSE(model->launchAtLoginEnabled().value());
-  EXPECT_TRUE(model->launchAtLoginRequiresApproval().value());
-  machine.loginItem.status = Status::enabled;
-  model->refreshLaunchAtLoginStatus();
-  EXPECT_TRUE(model->launchAtLoginEnabled().value());
-  EXPECT_FALSE(model->launchAtLoginRequiresApproval().value());
-}
-
-TEST_F(OrvaneModelTest, SwitchingLaunchAtLoginRegistersAndUnregisters) {
-  launch().setLaunchAtLoginEnabled(true);
-  EXPECT_TRUE(model->launchAtLoginEnabled().value());
-  EXPECT_EQ(machine.loginItem.registrationCount, 1);
-  model->setLaunchAtLoginEnabled(false);
-  EXPECT_FALSE(model->launchAtLoginEnabled().value());
-  EXPECT_EQ(machine.loginItem.unregistrationCount, 1);
-  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt);
-}
-
-TEST_F(OrvaneModelTest, AFailedRegistrationKeepsThePlatformsTextUntilASuccess) {
-  launch();
-  machine.loginItem.error = "Operation not permitted";
-  machine.loginItem.status = Status::requiresApproval;
-  model->setLaunchAtLoginEnabled(true);
-  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), "Operation not permitted");
-  EXPECT_FALSE(model->launchAtLoginEnabled().value());
-  EXPECT_TRUE(model->launchAtLoginRequiresApproval().value()) << "refreshed all the same";
-  machine.loginItem.error.reset();
-  model->setLaunchAtLoginEnabled(true);
-  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt);
-  EXPECT_FALSE(model->launchAtLoginEnabled().value()) << "it is the user who approves";
-  EXPECT_TRUE(model->launchAtLoginRequiresApproval().value());
 }
 
 TEST_F(OrvaneModelTest, OpeningTheAccessibilitySettingsLooksAgainAfterASecond) {

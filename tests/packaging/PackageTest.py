@@ -4,6 +4,7 @@ programs that only write down how they are called."""
 import os
 import pathlib
 import plistlib
+import shutil
 import stat
 import subprocess
 import sys
@@ -22,11 +23,12 @@ echo "$name $*" >>"$CALLS"
 case $name in
   uname) echo "$SYSTEM" ;;
   plutil) echo 2.5.0 ;;
+  dsymutil) mkdir "$3" ;;
   ditto) if [ "$1" = -c ]; then for last; do :; done; echo zip >"$last"; else cp -R "$1" "$2"; fi ;;
   hdiutil) for last; do :; done; echo image >"$last"; ls -l "${last%/*}" >/dev/null
     for word; do [ "$previous" = -srcfolder ] && ls -l "$word" >>"$CALLS"; previous=$word; done ;;
 esac
-[ "$name" != "$FAILING" ]
+[ "$name" != "$FAILING" ] || [ "$(grep -c "^$name " "$CALLS")" -gt "$FAILURES" ]
 """
 
 
@@ -55,6 +57,15 @@ class PackageFixture(unittest.TestCase):
             environment["PATH"] = f"{path}:{environment['PATH']}"
         return subprocess.run([str(TOOL), "--bundle", str(self.bundle), "--output", str(self.output), *options],
                               env=environment, capture_output=True, text=True, check=False)
+
+
+@unittest.skipUnless(shutil.which("shellcheck"), "there is no shellcheck")
+class TheScript(unittest.TestCase):
+    """What a shell makes of it is what it seems."""
+
+    def test_shellcheck_finds_nothing(self):
+        result = subprocess.run(["shellcheck", "-x", str(TOOL)], cwd=ROOT, capture_output=True, text=True, check=False)
+        self.assertEqual((result.returncode, result.stdout), (0, ""))
 
 
 class OnLinux(PackageFixture):
@@ -120,13 +131,17 @@ class OnAMac(PackageFixture):
         self.programs = self.folder / "programs"
         self.programs.mkdir()
         self.calls = self.folder / "calls"
-        for name in ("uname", "plutil", "ditto", "codesign", "xcrun", "hdiutil", "shasum"):
+        for name in ("uname", "plutil", "dsymutil", "strip", "ditto", "codesign", "xcrun", "spctl", "hdiutil", "sleep",
+                     "shasum"):
             program = self.programs / name
             program.write_text(_RECORDER, encoding="utf-8")
             program.chmod(0o755)
 
-    def calls_of(self, *options, failing=""):
-        result = self.run_tool(*options, path=self.programs, CALLS=str(self.calls), SYSTEM="Darwin", FAILING=failing)
+    def calls_of(self, *options, failing="", failures=99):
+        """What is called when a program fails so many times."""
+        self.calls.unlink(missing_ok=True)
+        result = self.run_tool(*options, path=self.programs, CALLS=str(self.calls), SYSTEM="Darwin", FAILING=failing,
+                               FAILURES=str(failures))
         lines = self.calls.read_text(encoding="utf-8").splitlines()
         return result, [line for line in lines if not line.startswith(("uname", "plutil", "shasum"))]
 
@@ -137,19 +152,25 @@ class OnAMac(PackageFixture):
         for line in lines:
             words = line.split()
             if words[0] == "ditto":
-                kinds.append("zip" if words[1] == "-c" else "copy")
+                packed = "zip symbols" if line.endswith("dSYM.zip") else "zip"
+                kinds.append(packed if words[1] == "-c" else "copy")
             elif words[0] == "codesign":
                 kinds.append("verify" if "--verify" in words else "sign")
             elif words[0] == "xcrun":
                 kinds.append(words[2])
             elif words[0] == "hdiutil":
                 kinds.append("image")
+            elif words[0] in ("dsymutil", "strip", "spctl", "sleep"):
+                kinds.append(words[0])
         return kinds
+
+    # What every package begins with.
+    SIGNED = ["copy", "dsymutil", "strip", "zip symbols", "sign", "verify", "zip"]
 
     def test_without_an_identity_the_signature_is_ad_hoc(self):
         result, lines = self.calls_of()
         self.assertEqual(result.returncode, 0, result.stderr)
-        self.assertEqual(self.kinds(lines), ["copy", "sign", "verify", "zip", "copy", "image"])
+        self.assertEqual(self.kinds(lines), [*self.SIGNED, "copy", "image"])
         signing = next(line for line in lines if line.startswith("codesign"))
         self.assertIn("--sign - --timestamp=none --options runtime", signing)
         self.assertNotIn("entitlements", signing)
@@ -158,16 +179,40 @@ class OnAMac(PackageFixture):
     def test_with_an_identity_the_image_is_signed_too(self):
         result, lines = self.calls_of("--identity", "Developer ID Application: Somebody (TEAM)")
         self.assertEqual(result.returncode, 0, result.stderr)
-        self.assertEqual(self.kinds(lines), ["copy", "sign", "verify", "zip", "copy", "image", "sign"])
-        self.assertIn("--sign Developer ID Application: Somebody (TEAM) --timestamp --options runtime", lines[1])
+        self.assertEqual(self.kinds(lines), [*self.SIGNED, "copy", "image", "sign"])
+        signing = next(line for line in lines if line.startswith("codesign"))
+        self.assertIn("--sign Developer ID Application: Somebody (TEAM) --timestamp --options runtime", signing)
 
     def test_what_is_packed_is_notarised_and_stapled(self):
         result, lines = self.calls_of("--identity", "Somebody", "--notary", "profile")
         self.assertEqual(result.returncode, 0, result.stderr)
         self.assertEqual(self.kinds(lines),
-                         ["copy", "sign", "verify", "zip", "submit", "staple", "zip", "copy", "image", "sign",
-                          "submit", "staple"])
-        self.assertIn("--keychain-profile profile --wait", "\n".join(lines))
+                         [*self.SIGNED, "submit", "staple", "validate", "spctl", "zip", "copy", "image", "sign",
+                          "submit", "staple", "validate", "spctl"])
+        listing = "\n".join(lines)
+        self.assertIn("--keychain-profile profile --wait", listing)
+        self.assertRegex(listing, r"spctl --assess -vv --type execute \S+/Orvane\.app\n")
+        self.assertRegex(listing, r"spctl --assess -vv --type open --context context:primary-signature \S+\.dmg\b")
+
+    def test_what_gatekeeper_refuses_is_no_package(self):
+        result, lines = self.calls_of("--identity", "Somebody", "--notary", "profile", failing="spctl")
+        self.assertNotEqual(result.returncode, 0)
+        self.assertNotIn("image", self.kinds(lines))
+
+    def test_a_busy_image_is_tried_again_with_a_pause(self):
+        result, lines = self.calls_of(failing="hdiutil", failures=2)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(self.kinds(lines)[-5:], ["image", "sleep", "image", "sleep", "image"])
+        result, lines = self.calls_of(failing="hdiutil")
+        self.assertNotEqual(result.returncode, 0)
+        self.assertEqual(self.kinds(lines).count("image"), 5)
+        self.assertIn("cannot be made", result.stderr)
+
+    def test_the_symbols_are_kept_and_the_program_goes_without(self):
+        _, lines = self.calls_of()
+        self.assertTrue((self.output / "Orvane-2.5.0.dSYM.zip").exists())
+        stripped = next(line for line in lines if line.startswith("strip"))
+        self.assertRegex(stripped, r"strip -S \S+/Orvane\.app/Contents/MacOS/Orvane$")
 
     def test_the_image_holds_the_application_and_the_way_to_install_it(self):
         _, lines = self.calls_of()

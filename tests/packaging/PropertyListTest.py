@@ -97,6 +97,9 @@ class FleetProfile(unittest.TestCase):
         self.assertIs(entry["StaticCode"], False)
         self.assertEqual(entry["CodeRequirement"],
                          f'identifier "{IDENTIFIER}" and anchor apple generic and '
+                         # Developer ID's certificate authority, and its certificates for applications.
+                         'certificate 1[field.1.2.840.113635.100.6.2.6] /* exists */ and '
+                         'certificate leaf[field.1.2.840.113635.100.6.1.13] /* exists */ and '
                          'certificate leaf[subject.OU] = "TEAM000000"')
 
     def test_it_lets_the_application_open_at_login(self):
@@ -117,8 +120,15 @@ class HomebrewCask(unittest.TestCase):
         self.assertIn(f'quit:       "{IDENTIFIER}"', self.cask)
         self.assertIn(f"/Library/Preferences/{IDENTIFIER}.plist", self.cask)
         self.assertIn(f"tccutil reset Accessibility {IDENTIFIER}", self.cask)
-        self.assertIn('depends_on macos: ">= :ventura"', self.cask)
+        self.assertIn("depends_on macos: :ventura\n", self.cask)
         self.assertEqual(OLDEST, "13.0", "which is Ventura")
+
+    def test_only_an_uninstallation_removes_the_login_item(self):
+        uninstall = re.search(r"^  uninstall (.*?)\n\n", self.cask, re.MULTILINE | re.DOTALL)[1]
+        directives = dict(re.findall(r'(\w+):\s+"([^"]+)"', uninstall))
+        self.assertEqual(directives, {"quit": IDENTIFIER, "login_item": "Orvane"})
+        # These would run at every upgrade.
+        self.assertNotRegex(self.cask, r"early_script:|script:|uninstall_preflight|uninstall_postflight")
 
     def test_its_placeholders_cannot_be_taken_for_a_release(self):
         self.assertEqual(len(re.findall(r'sha256 "[0-9a-f]{64}"', self.cask)), 1)

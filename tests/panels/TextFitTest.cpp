@@ -75,6 +75,10 @@ void pin(OrvaneModel& model) {
 void prevent(OrvaneModel& model) {
   model.toggleHideDockOnAllDisplays();
 }
+void askForALoginItemOnADiskImage(OrvaneModel& model) {
+  desk::Machine::current().bundle.isOnReadOnlyVolume = true;
+  model.setLaunchAtLoginEnabled(true);
+}
 
 INSTANTIATE_TEST_SUITE_P(
     States, TextFitTest,
@@ -85,7 +89,11 @@ INSTANTIATE_TEST_SUITE_P(
                     State{"Chinese, pinned", "main", OrvaneLanguage::chinese, pin},
                     State{"Chinese, preventing", "main", OrvaneLanguage::chinese, prevent},
                     State{"English settings", "settings", OrvaneLanguage::english, stay},
-                    State{"Chinese settings", "settings", OrvaneLanguage::chinese, stay}));
+                    State{"Chinese settings", "settings", OrvaneLanguage::chinese, stay},
+                    State{"English settings on a disk image", "settings", OrvaneLanguage::english,
+                          askForALoginItemOnADiskImage},
+                    State{"Chinese settings on a disk image", "settings", OrvaneLanguage::chinese,
+                          askForALoginItemOnADiskImage}));
 
 }  // namespace
 }  // namespace orvane

@@ -11,7 +11,7 @@ EXCEPTIONS = {
 # Where the headers are that any folder of a platform may implement.
 SEAM_HEADERS = "Orvane/platform/appkit"
 # These folders implement functions that the platform or its compiler declares, a group per file.
-FOREIGN_FOLDERS = {"desk/quartz", "macos/quartz", "macos/cross"}
+FOREIGN_FOLDERS = {"desk/quartz", "macos/quartz", "macos/runtime"}
 ENTRY_POINTS = {"main", "Main"}
 
 _TYPE = re.compile(

@@ -26,23 +26,31 @@ constexpr double refreshSeconds = 1.0;
 }  // namespace
 
 bool LoginItemCaption::isNeeded() const {
-  return model->launchAtLoginRequiresApproval().value() || model->isLaunchAtLoginFailing();
+  return model->launchAtLoginRequiresApproval().value() || model->isLaunchAtLoginMisplaced() ||
+         model->isLaunchAtLoginFailing();
+}
+
+std::string LoginItemCaption::message() const {
+  // What the user can do something about comes first.
+  if (model->launchAtLoginRequiresApproval().value()) {
+    return model->localized("Approve Orvane in Login Items", "请在“登录项”中允许 Orvane");
+  }
+  if (model->isLaunchAtLoginMisplaced()) {
+    return model->localized("To open at login, move Orvane to Applications",
+                            "要开机自动运行，请先将 Orvane 移到“应用程序”文件夹");
+  }
+  return model->launchAtLoginErrorMessage().value().value_or("");
 }
 
 View LoginItemCaption::body(const Environment& environment) const {
   // It ends with the view, whose state it is.
   const State<std::shared_ptr<appkit::Timer>> refreshTimer =
       environment.state("refreshTimer", std::shared_ptr<appkit::Timer>());
-  // Of the two, the approval is what the user can do something about.
-  const std::string message =
-      model->launchAtLoginRequiresApproval().value()
-          ? model->localized("Approve Orvane in Login Items", "请在“登录项”中允许 Orvane")
-          : model->launchAtLoginErrorMessage().value().value_or("");
-  const View text = Text(message)
+  const View text = Text(message())
                         .font(Font::caption())
                         .foreground(SettingsPalette::statementText())
                         .lineLimit(2)
-                        .tooltip(message);
+                        .tooltip(message());
   const View button =
       Button([model = model] { model->openLoginItemsSettings(); },
              Text(model->localized("Login Items…", "登录项…")).fixedSize())
@@ -51,11 +59,15 @@ View LoginItemCaption::body(const Environment& environment) const {
   const View mark = Symbol("exclamationmark.triangle.fill")
                         .font(Font::system(12, Weight::semibold))
                         .foreground(Color::orange());
-  return HStack(spacing, {mark, text, button}).onAppear([model = model, refreshTimer] {
-    refreshTimer.set(std::make_shared<appkit::Timer>(
-        appkit::Timer::repeating(refreshSeconds, appkit::RunLoopMode::common,
-                                 [model] { model->refreshLaunchAtLoginStatus(); })));
-  });
+  // No page of the System Settings moves the application.
+  const bool hasPage =
+      model->launchAtLoginRequiresApproval().value() || !model->isLaunchAtLoginMisplaced();
+  return HStack(spacing, {mark, text, when(hasPage, button)})
+      .onAppear([model = model, refreshTimer] {
+        refreshTimer.set(std::make_shared<appkit::Timer>(
+            appkit::Timer::repeating(refreshSeconds, appkit::RunLoopMode::common,
+                                     [model] { model->refreshLaunchAtLoginStatus(); })));
+      });
 }
 
 }  // namespace orvane

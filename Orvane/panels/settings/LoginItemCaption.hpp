@@ -1,6 +1,8 @@
 // A caption in the header of the settings, only while the login item has something to say: that its
-// registration failed, or that the user has to approve it.
+// registration failed, that the user has to approve it, or has to install the application first.
 #pragma once
+
+#include <string>
 
 #include "Orvane/model/OrvaneModel.hpp"
 #include "Orvane/ui/View.hpp"
@@ -14,6 +16,9 @@ struct LoginItemCaption {
   /// Whether there is something to say.
   [[nodiscard]] bool isNeeded() const;
   ui::View body(const ui::Environment& environment) const;
+
+ private:
+  [[nodiscard]] std::string message() const;
 };
 
 }  // namespace orvane

@@ -12,6 +12,8 @@ class Bundle {
 
   /// The file URL of the application bundle; none when there is none.
   static std::optional<std::string> url();
+  /// Whether nothing can be written where it lies, as on a disk image; false where nobody can tell.
+  static bool isOnReadOnlyVolume();
 };
 
 }  // namespace orvane::appkit

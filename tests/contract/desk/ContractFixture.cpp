@@ -118,6 +118,11 @@ bool ContractFixture::storeNumberInUserDefaults(const std::string& key, double n
   return true;
 }
 
+bool ContractFixture::makeVolumeReadOnly() {
+  platform_->scope->bundle.isOnReadOnlyVolume = true;
+  return true;
+}
+
 bool ContractFixture::canRegisterLoginItem() const {
   return true;
 }

@@ -224,6 +224,18 @@ void installLinks() {
   });
 }
 
+// GNUstep knows nothing of volumes.
+void installVolumes() {
+  replaceMethod(NSURL.class, @selector(getResourceValue:forKey:error:),
+                ^BOOL(NSURL*, id __autoreleasing* value, NSString* key, NSError* __autoreleasing*) {
+                  if (![key isEqual:NSURLVolumeIsReadOnlyKey]) {
+                    return NO;
+                  }
+                  *value = @(world().isBundleOnReadOnlyVolume);
+                  return YES;
+                });
+}
+
 // GNUstep knows of no other application.
 void installCopies() {
   replaceClassMethod(NSRunningApplication.class, @selector(currentApplication), ^id(Class) {
@@ -251,6 +263,7 @@ void installSurroundings() {
   installDisplays();
   installLocale();
   installLinks();
+  installVolumes();
   installCopies();
   // GNUstep opens what stands on the command line, and says in a window that it cannot.
   replaceMethod(NSApplication.class, @selector(presentError:), ^BOOL(id, NSError*) {

@@ -56,6 +56,7 @@ struct World {
   int loginItemStatus = 0;
   /// Not empty: registrations fail with this text.
   std::string loginItemError;
+  bool isBundleOnReadOnlyVolume = false;
   std::vector<std::string> openedLinks;
   /// Not empty: links that begin so are refused.
   std::string refusedLinkPrefix;

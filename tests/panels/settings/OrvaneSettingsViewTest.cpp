@@ -185,6 +185,30 @@ TEST_F(OrvaneSettingsViewTest, ACardUnderThePointerIsRaised) {
   EXPECT_NEAR(frameOf("Privacy Policy", settingsPanel).width, before, 1e-6);
 }
 
+TEST_F(OrvaneSettingsViewTest, TheHeaderSaysWhyALoginItemIsNotToBeHadFromADiskImage) {
+  const std::string english = "To open at login, move Orvane to Applications";
+  const std::string chinese = "要开机自动运行，请先将 Orvane 移到“应用程序”文件夹";
+  machine.bundle.isOnReadOnlyVolume = true;
+  openSettings();
+  EXPECT_FALSE(element(english, settingsPanel)) << "nobody has asked for one";
+  model().setLaunchAtLoginEnabled(true);
+  machine.runDue();
+  EXPECT_TRUE(element(english, settingsPanel));
+  EXPECT_FALSE(element("Login Items…", settingsPanel)) << "it would not help";
+  model().setAppLanguage(OrvaneLanguage::chinese);
+  machine.runDue();
+  EXPECT_TRUE(element(chinese, settingsPanel));
+  // The item of an installed copy waits for approval, which its user can give.
+  machine.loginItem.status = appkit::LoginItem::Status::requiresApproval;
+  machine.advance(1);
+  EXPECT_FALSE(element(chinese, settingsPanel));
+  EXPECT_TRUE(element("登录项…", settingsPanel));
+  machine.loginItem.status = appkit::LoginItem::Status::notRegistered;
+  model().setLaunchAtLoginEnabled(false);
+  machine.runDue();
+  EXPECT_FALSE(element(chinese, settingsPanel));
+}
+
 TEST_F(OrvaneSettingsViewTest, ControlsHaveTheirSizes) {
   openSettings();
   EXPECT_EQ(tree(settingsPanel).frame, (ui::Rect{0, 0, 420, 476}));

@@ -1,5 +1,6 @@
-// What @available asks at run time. Apple's compiler brings this function along; the cross build's
-// compiler has no runtime library for macOS, so this stands in for it.
+// What @available asks at run time. The compiler's own answer reads a file of the system by
+// functions that the application does without, and the cross build's compiler brings none. This one
+// stands before the compiler's library when the linker looks, so it alone is taken.
 #import <Foundation/Foundation.h>
 
 #include <cstdint>

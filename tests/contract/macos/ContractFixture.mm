@@ -1,24 +1,24 @@
 // A real Mac is taken as it is: time passes on its main run loop, and hardly anything else can be
 // arranged without disturbing its user.
 #include "tests/contract/ContractFixture.hpp"
+#include "tests/contract/macos/ApplicationRun.hpp"
 
 namespace orvane {
 
-struct ContractFixture::Platform {};
+struct ContractFixture::Platform {
+  ApplicationRun run;
+};
 
-ContractFixture::ContractFixture() = default;
+ContractFixture::ContractFixture() : platform_(std::make_unique<Platform>()) {}
 ContractFixture::~ContractFixture() = default;
 
 void ContractFixture::letTimePass(double seconds) {
-  const CFAbsoluteTime end = CFAbsoluteTimeGetCurrent() + seconds;
-  do {
-    // The call returns early when there is nothing to wait for.
-    CFRunLoopRunInMode(kCFRunLoopDefaultMode, 0.005, false);
-  } while (CFAbsoluteTimeGetCurrent() < end);
+  platform_->run.serve(seconds, NSDefaultRunLoopMode);
 }
 
-bool ContractFixture::letTimePassWithMenuOpen(double) {
-  return false;
+bool ContractFixture::letTimePassWithMenuOpen(double seconds) {
+  platform_->run.serve(seconds, NSEventTrackingRunLoopMode);
+  return true;
 }
 
 bool ContractFixture::arrangeTwoDisplays() {
@@ -70,6 +70,10 @@ bool ContractFixture::refuseLinks(const std::string&) {
 }
 
 bool ContractFixture::storeNumberInUserDefaults(const std::string&, double) {
+  return false;
+}
+
+bool ContractFixture::makeVolumeReadOnly() {
   return false;
 }
 

@@ -1,0 +1,28 @@
+// What the application relies on in its bundle.
+#include "Orvane/platform/appkit/Bundle.hpp"
+#include "tests/contract/Arrange.hpp"
+#include "tests/contract/ContractFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using appkit::Bundle;
+using BundleContract = ContractFixture;
+
+TEST_F(BundleContract, ItsPlaceIsAFileURL) {
+  const std::optional<std::string> url = Bundle::url();
+  ASSERT_TRUE(url);
+  EXPECT_TRUE(url->starts_with("file:///")) << *url;
+}
+
+TEST_F(BundleContract, WhereItWasBuiltOrInstalledCanBeWrittenTo) {
+  EXPECT_FALSE(Bundle::isOnReadOnlyVolume());
+}
+
+TEST_F(BundleContract, ADiskImageCannotBeWrittenTo) {
+  ORVANE_ARRANGE(makeVolumeReadOnly());
+  EXPECT_TRUE(Bundle::isOnReadOnlyVolume());
+}
+
+}  // namespace
+}  // namespace orvane

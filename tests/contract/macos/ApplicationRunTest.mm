@@ -1,0 +1,30 @@
+// What the contract's tests on AppKit rely on in their surroundings.
+#include "tests/contract/macos/ApplicationRun.hpp"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+TEST(ApplicationRun, ThereIsAnApplication) {
+  const ApplicationRun run;
+  EXPECT_NE(NSApp, nil);
+}
+
+TEST(ApplicationRun, WhatWasAutoreleasedGoesWhenTimePassesAndWhenTheTestEnds) {
+  __weak NSObject* first = nil;
+  __weak NSObject* second = nil;
+  {
+    ApplicationRun run;
+    __autoreleasing NSObject* object = [[NSObject alloc] init];
+    first = object;
+    run.serve(0, NSDefaultRunLoopMode);
+    EXPECT_EQ(first, nil);
+    object = [[NSObject alloc] init];
+    second = object;
+  }
+  EXPECT_EQ(second, nil);
+}
+
+}  // namespace
+}  // namespace orvane

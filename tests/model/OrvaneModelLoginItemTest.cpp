@@ -1,0 +1,74 @@
+// OrvaneModel's launch at login: what it shows of the system's state, and what it asks for.
+#include <gtest/gtest.h>
+
+#include "Orvane/model/OrvaneModel.hpp"
+#include "tests/support/ModelFixture.hpp"
+
+namespace orvane {
+namespace {
+
+using Status = appkit::LoginItem::Status;
+
+class OrvaneModelLoginItemTest : public ModelFixture {};
+
+TEST_F(OrvaneModelLoginItemTest, LaunchAtLoginShowsTheRealState) {
+  launch();
+  machine.loginItem.status = Status::requiresApproval;
+  model->refreshLaunchAtLoginStatus();
+  EXPECT_FALSE(model->launchAtLoginEnabled().value());
+  EXPECT_TRUE(model->launchAtLoginRequiresApproval().value());
+  machine.loginItem.status = Status::enabled;
+  model->refreshLaunchAtLoginStatus();
+  EXPECT_TRUE(model->launchAtLoginEnabled().value());
+  EXPECT_FALSE(model->launchAtLoginRequiresApproval().value());
+}
+
+TEST_F(OrvaneModelLoginItemTest, SwitchingLaunchAtLoginRegistersAndUnregisters) {
+  launch().setLaunchAtLoginEnabled(true);
+  EXPECT_TRUE(model->launchAtLoginEnabled().value());
+  EXPECT_EQ(machine.loginItem.registrationCount, 1);
+  model->setLaunchAtLoginEnabled(false);
+  EXPECT_FALSE(model->launchAtLoginEnabled().value());
+  EXPECT_EQ(machine.loginItem.unregistrationCount, 1);
+  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt);
+}
+
+TEST_F(OrvaneModelLoginItemTest, AFailedRegistrationKeepsThePlatformsTextUntilASuccess) {
+  launch();
+  machine.loginItem.error = "Operation not permitted";
+  machine.loginItem.status = Status::requiresApproval;
+  model->setLaunchAtLoginEnabled(true);
+  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), "Operation not permitted");
+  EXPECT_FALSE(model->launchAtLoginEnabled().value());
+  EXPECT_TRUE(model->launchAtLoginRequiresApproval().value()) << "refreshed all the same";
+  machine.loginItem.error.reset();
+  model->setLaunchAtLoginEnabled(true);
+  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt);
+  EXPECT_FALSE(model->launchAtLoginEnabled().value()) << "it is the user who approves";
+  EXPECT_TRUE(model->launchAtLoginRequiresApproval().value());
+}
+
+TEST_F(OrvaneModelLoginItemTest, NothingIsRegisteredWhereTheApplicationDoesNotStay) {
+  launch();
+  machine.bundle.isOnReadOnlyVolume = true;
+  int announcements = 0;
+  const Subscription subscription = model->changes().observe([&] { ++announcements; });
+  model->setLaunchAtLoginEnabled(true);
+  EXPECT_EQ(announcements, 1);
+  EXPECT_EQ(machine.loginItem.registrationCount, 0);
+  EXPECT_TRUE(model->isLaunchAtLoginMisplaced());
+  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt) << "nothing has failed";
+  // The installed copy may have registered itself, and may be taken back from anywhere.
+  machine.loginItem.status = Status::enabled;
+  model->refreshLaunchAtLoginStatus();
+  EXPECT_FALSE(model->isLaunchAtLoginMisplaced());
+  model->setLaunchAtLoginEnabled(false);
+  EXPECT_EQ(machine.loginItem.unregistrationCount, 1);
+  EXPECT_FALSE(model->isLaunchAtLoginMisplaced()) << "the user no longer asks for it";
+  machine.bundle.isOnReadOnlyVolume = false;
+  model->setLaunchAtLoginEnabled(true);
+  EXPECT_TRUE(model->launchAtLoginEnabled().value());
+}
+
+}  // namespace
+}  // namespace orvane
