@@ -6,9 +6,10 @@ target_include_directories(orvane_flags INTERFACE "${CMAKE_SOURCE_DIR}" "${CMAKE
 target_compile_options(orvane_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
 if(NOT CMAKE_UNITY_BUILD)
   target_compile_options(orvane_flags INTERFACE -Wshadow)
-elseif(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  # Files that are compiled as one see each other's constants, which no file alone could shadow.
-  target_compile_options(orvane_flags INTERFACE -Wshadow=local)
+else()
+  # C++ files that are compiled as one see each other's constants, which no file alone could shadow.
+  target_compile_options(orvane_flags INTERFACE
+    "$<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>" "$<$<COMPILE_LANGUAGE:OBJCXX>:-Wshadow>")
 endif()
 if(ORVANE_WARNINGS_AS_ERRORS)
   target_compile_options(orvane_flags INTERFACE -Werror)
