@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "Orvane/platform/appkit/Workspace.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/StandardColors.hpp"
@@ -196,6 +197,21 @@ TEST_F(CanvasOnMac, AShadowFallsDownwardsAndOutsideOfItsShape) {
   EXPECT_EQ(pixel(10, 8), 0U);
   EXPECT_EQ(pixel(10, 13), 0xFF000000U);
   EXPECT_EQ(pixel(10, 2), 0U);
+}
+
+TEST_F(Translation, WhetherALinkWasOpenedIsToldOnTheMainThread) {
+  int answers = 0;
+  gnustep::world().refusedLinkPrefix = "refused:";
+  int expected = 0;
+  for (const char* const link : {"refused:link", "a:link"}) {
+    appkit::Workspace::openURL(link, [&](bool isOpened) {
+      EXPECT_TRUE(NSThread.isMainThread);
+      EXPECT_EQ(isOpened, gnustep::world().openedLinks.size() == 1);
+      ++answers;
+    });
+    ++expected;
+    EXPECT_TRUE(isSoon([&] { return answers == expected; }));
+  }
 }
 
 TEST_F(Translation, ADragWithoutAFileBeginsNothing) {

@@ -151,11 +151,19 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 @property(readonly) NSInteger maximumFramesPerSecond;
 @end
 
+@interface NSWorkspaceOpenConfiguration : NSObject
++ (instancetype)configuration;
+@property BOOL promptsUserIfNeeded;
+@end
+
 @interface NSWorkspace (OrvaneShim)
 @property(readonly) BOOL accessibilityDisplayShouldIncreaseContrast;
 @property(readonly) BOOL accessibilityDisplayShouldReduceTransparency;
 @property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
 @property(readonly, getter=isVoiceOverEnabled) BOOL voiceOverEnabled;
+- (void)openURL:(NSURL*)url
+        configuration:(NSWorkspaceOpenConfiguration*)configuration
+    completionHandler:(void (^)(NSRunningApplication* application, NSError* error))handler;
 @end
 
 @interface NSColor (OrvaneShim)
