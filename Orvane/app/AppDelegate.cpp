@@ -23,8 +23,8 @@ void AppDelegate::setupStatusItem() {
   statusItem_->setImagePosition(appkit::ImagePosition::imageOnly);
   statusItem_->setImageScaling(appkit::ImageScaling::proportionallyDown);
   statusItem_->setSquareLength();
-  statusMenu_.onWillOpen(lifetime_.whileAlive([this] { menuWillOpen(); }));
-  statusItem_->setMenu(statusMenu_);
+  statusMenu_.menu().onWillOpen(lifetime_.whileAlive([this] { menuWillOpen(); }));
+  statusItem_->setMenu(statusMenu_.menu());
   observeModelChanges();
   rebuildStatusMenu();
   updateStatusItemIcon();
@@ -46,9 +46,9 @@ void AppDelegate::observeModelChanges() {
 void AppDelegate::refreshStatusItemTimerFired() {
   OrvaneModel& model = OrvaneAppState::model();
   announcer_.update(model);
-  // Most of the time there is nothing to draw.
+  // Most of the time there is nothing to draw. The menu may be open.
   if (showsRunningGuard_ != model.isGuardRunning()) {
-    updateStatusItemIcon();
+    rebuildMenuAndIcon();
   }
 }
 

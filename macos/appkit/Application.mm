@@ -94,13 +94,9 @@ void Application::runModal(const Window& window, std::function<void(int response
   // loop ends when this task has returned; then the session begins in a task of the main queue, as
   // it would have here. The window's handle is kept until then.
   [openMenu() cancelTrackingWithoutAnimation];
-  const std::function<void()> run = [window, ended = std::move(ended)] {
-    runModalNow(window.implementation()->window, ended);
-  };
-  [NSRunLoop.mainRunLoop performInModes:@[ NSDefaultRunLoopMode ]
-                                  block:^{
-                                    MainQueue::async(run);
-                                  }];
+  whenNoMenuIsTracked([window, ended = std::move(ended)] {
+    MainQueue::async([window, ended] { runModalNow(window.implementation()->window, ended); });
+  });
 }
 
 void Application::stopModal(int response) {

@@ -73,6 +73,7 @@ void StatusItem::setImage(const std::optional<Image>& image) {
 
 void StatusItem::setMenu(const Menu& menu) {
   implementation_->menu = menu.implementation();
+  implementation_->menu->delegate->_button = implementation_->item.button;
   implementation_->item.menu = menu.implementation()->menu;
 }
 

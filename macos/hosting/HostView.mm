@@ -180,6 +180,9 @@ ui::TextMeasurer& textMeasurer() {
   [super viewDidMoveToWindow];
   _frames->stop();
   if (self.window == nil) {
+    // A row of a menu comes back when the menu is opened again.
+    _isPressed = NO;
+    _host->pointerCancelled();
     _host->pointerExited();
   } else {
     [self takeOverAppearance];
