@@ -78,6 +78,8 @@ void runModalNow(NSWindow* native, const std::function<void(int response)>& ende
   keepWhileShown(native);
   // A panel would be hidden with the application's deactivation, and nobody could end the session.
   native.hidesOnDeactivate = NO;
+  // Otherwise an alert that waits for its answer would keep its user from logging out.
+  native.preventsApplicationTerminationWhenModal = NO;
   const NSModalResponse response = [NSApplication.sharedApplication runModalForWindow:native];
   ended(static_cast<int>(response));
 }

@@ -191,6 +191,17 @@ TEST_F(AppDelegateTest, QuittingLeavesTheWishForTheNextLaunch) {
   EXPECT_EQ(icon(), "lock.fill");
 }
 
+TEST_F(AppDelegateTest, AnAlertThatWaitsForItsAnswerDoesNotKeepItFromQuitting) {
+  begin();
+  OrvanePermissionAlert::show(nullptr);
+  machine.runDue();
+  ASSERT_TRUE(server().modal.isRunning());
+  application.terminate();
+  EXPECT_FALSE(application.isRunning());
+  EXPECT_FALSE(server().modal.isRunning());
+  EXPECT_TRUE(machine.links.opened().empty());
+}
+
 TEST_F(AppDelegateTest, BetweenItsFarewellAndItsEndItNeitherTicksNorRebuilds) {
   store("appLanguage", std::string("english"));
   begin();

@@ -11,6 +11,19 @@
 #include "macos/appkit/NativeWindow.hpp"
 #include "tests/gnustep/MacHalfFixture.hpp"
 
+/// Is asked whether the application may quit, and says no.
+@interface OrvaneUndecided : NSObject <NSApplicationDelegate> {
+ @public
+  int _questions;
+}
+@end
+@implementation OrvaneUndecided
+- (NSApplicationTerminateReply)applicationShouldTerminate:(NSApplication*)application {
+  ++_questions;
+  return NSTerminateCancel;
+}
+@end
+
 namespace orvane {
 namespace {
 
@@ -149,6 +162,23 @@ TEST_F(Teardown, AChildIsKeptByItsParentAndClosesAlone) {
   }
   expectNothingLeft();
   parent.close();
+}
+
+TEST_F(Teardown, AModalSessionDoesNotKeepTheApplicationFromQuitting) {
+  OrvaneUndecided* const undecided = [[OrvaneUndecided alloc] init];
+  NSApp.delegate = undecided;
+  Window panel(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
+               appkit::StyleMask::titled);
+  appkit::MainQueue::async([panel] { appkit::Application::runModal(panel, [](int) {}); });
+  when([] { return NSApp.modalWindow != nil; },
+       [] {
+         appkit::Application::terminate();
+         appkit::Application::stopModal(1001);
+       });
+  EXPECT_TRUE(isSoon([&] { return undecided->_questions == 1; }));
+  letTimePass(0.05);
+  NSApp.delegate = nil;
+  panel.close();
 }
 
 TEST_F(Teardown, AModalPanelGoesWithItsSession) {

@@ -68,6 +68,7 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 @property(copy) NSString* identifier;
 @property NSWindowTitleVisibility titleVisibility;
 @property BOOL titlebarAppearsTransparent;
+@property BOOL preventsApplicationTerminationWhenModal;
 - (void)performWindowDragWithEvent:(NSEvent*)event;
 @end
 
