@@ -125,6 +125,21 @@ TEST_F(Teardown, NoMenuOpensOnceItsWindowHasGone) {
   expectNothingLeft();
 }
 
+TEST_F(Teardown, NoMenuOpensOverAWindowThatIsClosedAndKept) {
+  Window kept = show([](const ui::Environment&) -> ui::View {
+    return ui::Picker{"label", {"one", "two"}, 0, [](int) { ADD_FAILURE(); }};
+  });
+  bool hasOpened = false;
+  appkit::MainQueue::asyncAfter(0.1, [&] {
+    hasOpened = openMenuWindow() != nil;
+    [NSApp postEvent:keyEvent(openMenuWindow(), @"\x1B") atStart:NO];
+  });
+  click(nativeOf(kept), 100, 50);
+  kept.close();
+  letTimePass(0.3);
+  EXPECT_FALSE(hasOpened);
+}
+
 TEST_F(Teardown, AnAnimationDoesNotKeepItsView) {
   showAndWatch([](const ui::Environment& environment) -> ui::View {
     const auto isWide = environment.state("isWide", false);
