@@ -53,9 +53,12 @@ void AppDelegate::refreshStatusItemTimerFired() {
 }
 
 void AppDelegate::updateStatusItemIcon() {
-  showsRunningGuard_ = OrvaneAppState::model().isGuardRunning();
+  const OrvaneModel& model = OrvaneAppState::model();
+  showsRunningGuard_ = model.isGuardRunning();
   statusItem_->setImage(statusBarImage(showsRunningGuard_ ? "lock.fill" : "lock.open"));
-  announcer_.update(OrvaneAppState::model());
+  statusItem_->setAccessibilityValue(showsRunningGuard_ ? model.localized("Locked", "已锁定")
+                                                        : model.localized("Unlocked", "未锁定"));
+  announcer_.update(model);
 }
 
 std::optional<appkit::Image> AppDelegate::statusBarImage(std::string_view name) {

@@ -49,6 +49,23 @@ TEST_F(AppDelegateTest, TheIconIsATemplateOfEighteenPointsThatVoiceOverCallsOrva
   }
 }
 
+TEST_F(AppDelegateTest, VoiceOverSaysWhetherTheLockIsClosed) {
+  store("appLanguage", std::string("english"));
+  begin();
+  const std::string& value = server().statusBar.item()->accessibilityValue;
+  EXPECT_EQ(value, "Unlocked");
+  model().refreshDisplays();
+  model().toggleSelectedDisplayLock();
+  machine.runDue();
+  EXPECT_EQ(value, "Locked");
+  model().setAppLanguage(OrvaneLanguage::chinese);
+  machine.runDue();
+  EXPECT_EQ(value, "已锁定");
+  model().toggleSelectedDisplayLock();
+  machine.runDue();
+  EXPECT_EQ(value, "未锁定");
+}
+
 TEST_F(AppDelegateTest, AStoredLockIsRestoredAndItsIconClosedBeforeTheFirstTick) {
   store("isOrvaneEnabled", true);
   begin();

@@ -248,6 +248,17 @@ void setMenu(StatusItem* item, const Menu& menu) {
   realSetMenu(item, menu);
 }
 
+void realSetAccessibilityValue(StatusItem*, std::string_view) REAL(
+    "_ZN6orvane6appkit10StatusItem21setAccessibilityValueE"
+    "St17basic_string_viewIcSt11char_traitsIcEE");
+void setAccessibilityValue(StatusItem*, std::string_view) WRAPPED(
+    "_ZN6orvane6appkit10StatusItem21setAccessibilityValueE"
+    "St17basic_string_viewIcSt11char_traitsIcEE");
+void setAccessibilityValue(StatusItem* item, std::string_view value) {
+  note("StatusItem.setAccessibilityValue " + inQuotes(value));
+  realSetAccessibilityValue(item, value);
+}
+
 void realSetImage(StatusItem*, const std::optional<Image>&)
     REAL("_ZN6orvane6appkit10StatusItem8setImageERKSt8optionalINS0_5ImageEE");
 void setImage(StatusItem*, const std::optional<Image>&)

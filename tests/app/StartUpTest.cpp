@@ -59,7 +59,9 @@ const std::string theWatch = "Timer.repeating 1 common\nNotificationCenter.addOb
 
 std::string theIcon(const std::string& name) {
   return "Image.systemSymbol \"" + name +
-         "\" \"Orvane\" 16\nImage.setTemplate true\nImage.setSize 18 18\nStatusItem.setImage\n";
+         "\" \"Orvane\" 16\nImage.setTemplate true\nImage.setSize 18 18\nStatusItem.setImage\n"
+         "StatusItem.setAccessibilityValue \"" +
+         (name == "lock.fill" ? "Locked" : "Unlocked") + "\"\n";
 }
 
 class StartUpTest : public AppFixture {

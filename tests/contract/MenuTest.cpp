@@ -62,6 +62,7 @@ TEST_F(MenuContract, AStatusItemTakesAnImageAndAMenuAndCanLoseTheImage) {
   item.setSquareLength();
   item.setImagePosition(appkit::ImagePosition::imageOnly);
   item.setImageScaling(appkit::ImageScaling::proportionallyDown);
+  item.setAccessibilityValue("Unlocked");
   item.setMenu(appkit::Menu());
   auto image =
       appkit::Image::systemSymbol("lock.open", "Orvane", 16, appkit::SymbolWeight::regular);

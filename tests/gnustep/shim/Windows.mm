@@ -42,6 +42,7 @@ ORVANE_STORED_NUMBER(BOOL, titlebarAppearsTransparent, setTitlebarAppearsTranspa
 @end
 
 @implementation NSButton (OrvaneShim)
+ORVANE_STORED_OBJECT(id, accessibilityValue, setAccessibilityValue, OBJC_ASSOCIATION_RETAIN)
 - (NSImageScaling)imageScaling {
   return [self.cell imageScaling];
 }

@@ -129,6 +129,7 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 @end
 
 @interface NSButton (OrvaneShim)
+@property(retain) id accessibilityValue;
 @property NSImageScaling imageScaling;
 @end
 
