@@ -72,6 +72,30 @@ std::optional<appkit::Image> AppDelegate::statusBarImage(std::string_view name) 
   return image;
 }
 
+bool AppDelegate::performKeyEquivalent(const ui::KeyEvent& event) {
+  const auto isCommand = [&event](const char* key) {
+    return ui::KeyboardShortcut::command(key).matches(event);
+  };
+  if (isCommand("q")) {
+    quitFromStatusMenu();
+    return true;
+  }
+  // The alert wants an answer first. Hidden, it could not be brought back: nothing in the Dock
+  // stands for the application.
+  if (appkit::Application::modalWindow()) {
+    return false;
+  }
+  if (isCommand(",")) {
+    openSettingsFromStatusItem();
+    return true;
+  }
+  if (isCommand("h")) {
+    appkit::Application::hide();
+    return true;
+  }
+  return false;
+}
+
 bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/) {
   OrvaneWindowController::shared().show(OrvaneAppState::model());
   return true;

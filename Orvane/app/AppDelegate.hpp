@@ -15,6 +15,7 @@
 #include "Orvane/platform/appkit/Image.hpp"
 #include "Orvane/platform/appkit/StatusItem.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
+#include "Orvane/ui/KeyboardShortcut.hpp"
 
 namespace orvane {
 
@@ -34,6 +35,10 @@ class AppDelegate {
   void applicationWillTerminate();
 
   void menuWillOpen();
+
+  /// A key that the window it went to has no use for. Whether it meant something to the
+  /// application.
+  bool performKeyEquivalent(const ui::KeyEvent& event);
 
   void openMainWindowFromStatusItem();
   void openSettingsFromStatusItem();

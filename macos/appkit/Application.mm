@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "Orvane/platform/appkit/MainQueue.hpp"
+#include "macos/appkit/KeyEquivalents.hpp"
 #include "macos/appkit/MenuImplementation.hpp"
 #include "macos/appkit/NativeWindow.hpp"
 
@@ -51,6 +52,16 @@ void Application::setDelegate(ApplicationDelegate delegate) {
   NSApplication.sharedApplication.delegate = native;
 }
 
+bool performKeyEquivalent(const ui::KeyEvent& event) {
+  const id delegate = NSApplication.sharedApplication.delegate;
+  if (![delegate isKindOfClass:OrvaneApplicationDelegate.class]) {
+    return false;
+  }
+  const auto perform =
+      static_cast<OrvaneApplicationDelegate*>(delegate)->_delegate.performKeyEquivalent;
+  return perform && perform(event);
+}
+
 void Application::setActivationPolicy(ActivationPolicy policy) {
   [NSApplication.sharedApplication
       setActivationPolicy:static_cast<NSApplicationActivationPolicy>(policy)];
@@ -60,12 +71,20 @@ void Application::activateIgnoringOtherApps() {
   [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
 }
 
+void Application::hide() {
+  [NSApplication.sharedApplication hide:nil];
+}
+
 void Application::terminate() {
   [NSApplication.sharedApplication terminate:nil];
 }
 
 std::optional<Window> Application::keyWindow() {
   return windowFrom(NSApplication.sharedApplication.keyWindow);
+}
+
+std::optional<Window> Application::modalWindow() {
+  return windowFrom(NSApplication.sharedApplication.modalWindow);
 }
 
 CGPoint Application::mouseLocation() {

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "Orvane/platform/appkit/Accessibility.hpp"
+#include "macos/appkit/KeyEquivalents.hpp"
 #include "macos/appkit/Strings.hpp"
 #include "macos/canvas/CoreTextMeasurer.hpp"
 #include "macos/canvas/QuartzCanvas.hpp"
@@ -337,7 +338,7 @@ ui::TextMeasurer& textMeasurer() {
     return NO;
   }
   [self update];
-  return _host->keyDown(*key);
+  return _host->keyDown(*key) || appkit::performKeyEquivalent(*key);
 }
 
 - (void)keyDown:(NSEvent*)event {

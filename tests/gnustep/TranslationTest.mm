@@ -57,6 +57,24 @@ TEST_F(Translation, EveryKeyOfTheKitHasOneOfTheMac) {
   EXPECT_TRUE(appkit::isRepeatedActivation(keyEvent(nil, @" ", 0, YES)));
 }
 
+TEST_F(Translation, WithCommandAKeyIsWhatALayoutOfAnotherScriptTypesThen) {
+  const auto russian = [](NSUInteger modifiers) {
+    NSEvent* const event = [NSEvent keyEventWithType:NSKeyDown
+                                            location:NSZeroPoint
+                                       modifierFlags:modifiers
+                                           timestamp:0
+                                        windowNumber:0
+                                             context:nil
+                                          characters:@"w"
+                         charactersIgnoringModifiers:@"\u0446"
+                                           isARepeat:NO
+                                             keyCode:0];
+    return appkit::keyEventFrom(event);
+  };
+  EXPECT_TRUE(ui::KeyboardShortcut::command("w").matches(*russian(NSCommandKeyMask)));
+  EXPECT_EQ(russian(NSAlternateKeyMask)->characters, "ц");
+}
+
 TEST_F(Translation, ASystemColourIsThatOfTheAppearanceThatIsAskedFor) {
   const auto expectColor = [](ui::SystemColor name, bool isDark, int red, int green, int blue) {
     const ui::Rgba color = appkit::systemColor(name, looking(isDark));
