@@ -23,8 +23,8 @@ void AppDelegate::setupStatusItem() {
   statusItem_->setImagePosition(appkit::ImagePosition::imageOnly);
   statusItem_->setImageScaling(appkit::ImageScaling::proportionallyDown);
   statusItem_->setSquareLength();
-  statusMenu_.onWillOpen(lifetime_.whileAlive([this] { menuWillOpen(); }));
-  statusItem_->setMenu(statusMenu_);
+  statusMenu_.menu().onWillOpen(lifetime_.whileAlive([this] { menuWillOpen(); }));
+  statusItem_->setMenu(statusMenu_.menu());
   observeModelChanges();
   rebuildStatusMenu();
   updateStatusItemIcon();
@@ -46,16 +46,19 @@ void AppDelegate::observeModelChanges() {
 void AppDelegate::refreshStatusItemTimerFired() {
   OrvaneModel& model = OrvaneAppState::model();
   announcer_.update(model);
-  // Most of the time there is nothing to draw.
+  // Most of the time there is nothing to draw. The menu may be open.
   if (showsRunningGuard_ != model.isGuardRunning()) {
-    updateStatusItemIcon();
+    rebuildMenuAndIcon();
   }
 }
 
 void AppDelegate::updateStatusItemIcon() {
-  showsRunningGuard_ = OrvaneAppState::model().isGuardRunning();
+  const OrvaneModel& model = OrvaneAppState::model();
+  showsRunningGuard_ = model.isGuardRunning();
   statusItem_->setImage(statusBarImage(showsRunningGuard_ ? "lock.fill" : "lock.open"));
-  announcer_.update(OrvaneAppState::model());
+  statusItem_->setAccessibilityValue(showsRunningGuard_ ? model.localized("Locked", "已锁定")
+                                                        : model.localized("Unlocked", "未锁定"));
+  announcer_.update(model);
 }
 
 std::optional<appkit::Image> AppDelegate::statusBarImage(std::string_view name) {
@@ -67,6 +70,30 @@ std::optional<appkit::Image> AppDelegate::statusBarImage(std::string_view name) 
     image->setSize(statusBarIconSize);
   }
   return image;
+}
+
+bool AppDelegate::performKeyEquivalent(const ui::KeyEvent& event) {
+  const auto isCommand = [&event](const char* key) {
+    return ui::KeyboardShortcut::command(key).matches(event);
+  };
+  if (isCommand("q")) {
+    quitFromStatusMenu();
+    return true;
+  }
+  // The alert wants an answer first. Hidden, it could not be brought back: nothing in the Dock
+  // stands for the application.
+  if (appkit::Application::modalWindow()) {
+    return false;
+  }
+  if (isCommand(",")) {
+    openSettingsFromStatusItem();
+    return true;
+  }
+  if (isCommand("h")) {
+    appkit::Application::hide();
+    return true;
+  }
+  return false;
 }
 
 bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/) {

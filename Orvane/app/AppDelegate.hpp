@@ -5,15 +5,17 @@
 #include <functional>
 #include <optional>
 #include <string_view>
+#include <vector>
 
+#include "Orvane/app/StatusMenu.hpp"
 #include "Orvane/base/Lifetime.hpp"
 #include "Orvane/base/Signal.hpp"
 #include "Orvane/model/GuardAnnouncer.hpp"
 #include "Orvane/platform/Quartz.hpp"
 #include "Orvane/platform/appkit/Image.hpp"
-#include "Orvane/platform/appkit/Menu.hpp"
 #include "Orvane/platform/appkit/StatusItem.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
+#include "Orvane/ui/KeyboardShortcut.hpp"
 
 namespace orvane {
 
@@ -34,6 +36,10 @@ class AppDelegate {
 
   void menuWillOpen();
 
+  /// A key that the window it went to has no use for. Whether it meant something to the
+  /// application.
+  bool performKeyEquivalent(const ui::KeyEvent& event);
+
   void openMainWindowFromStatusItem();
   void openSettingsFromStatusItem();
   void toggleLockFromStatusMenu();
@@ -49,15 +55,15 @@ class AppDelegate {
   [[nodiscard]] static std::optional<appkit::Image> statusBarImage(std::string_view name);
 
   void rebuildStatusMenu();
-  void addSwitches();
-  void addDisplayChooser();
-  void addActions();
+  void addSwitches(std::vector<StatusMenuEntry>& entries);
+  void addDisplayChooser(std::vector<StatusMenuEntry>& entries);
+  void addActions(std::vector<StatusMenuEntry>& entries);
   void rebuildMenuAndIcon();
-  /// The same action, run after the menu has been closed.
+  /// Closes the menu, and runs the action when it has closed.
   [[nodiscard]] std::function<void()> closingTheMenu(std::function<void()> action);
 
   std::optional<appkit::StatusItem> statusItem_;
-  appkit::Menu statusMenu_;
+  StatusMenu statusMenu_{statusMenuSectionHeaderWidth};
   bool showsRunningGuard_ = false;
   std::optional<appkit::Timer> statusRefreshTimer_;
   Subscription modelCancellable_;

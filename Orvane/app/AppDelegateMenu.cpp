@@ -1,12 +1,11 @@
-// The menu under the status item: a compact control panel, built anew from the model whenever it
-// opens, after each action taken in it, and when the language changes.
+// The menu under the status item: a compact control panel, brought in step with the model whenever
+// it opens, after each action taken in it, and when the guard or the language changes.
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "Orvane/app/AppDelegate.hpp"
 #include "Orvane/app/OrvaneAppState.hpp"
-#include "Orvane/app/StatusMenuRow.hpp"
-#include "Orvane/app/StatusMenuSectionHeader.hpp"
 #include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/windows/OrvaneWindowController.hpp"
 
@@ -16,33 +15,6 @@ namespace {
 
 OrvaneModel& model() {
   return OrvaneAppState::model();
-}
-
-appkit::HostingView hosted(const ui::View& view, CGSize size) {
-  appkit::HostingView host([view](const ui::Environment& /*environment*/) { return view; });
-  host.setFrame(CGRectMake(0, 0, size.width, size.height));
-  return host;
-}
-
-appkit::MenuItem rowItem(const StatusMenuRow& row) {
-  appkit::MenuItem item;
-  item.title = row.title;
-  item.isEnabled = row.isEnabled;
-  item.isOn = row.isOn.value_or(row.isSelected);
-  item.keepsMenuOpen = row.isOn.has_value();
-  item.action = row.action;
-  item.view = hosted(row, CGSizeMake(row.rowWidth, StatusMenuRow::rowHeight));
-  return item;
-}
-
-appkit::MenuItem headerItem(const std::string& title) {
-  appkit::MenuItem item;
-  item.title = title;
-  item.isEnabled = false;
-  item.view = hosted(
-      StatusMenuSectionHeader{title},
-      CGSizeMake(AppDelegate::statusMenuSectionHeaderWidth, StatusMenuSectionHeader::height));
-  return item;
 }
 
 }  // namespace
@@ -59,45 +31,46 @@ void AppDelegate::rebuildMenuAndIcon() {
 }
 
 void AppDelegate::rebuildStatusMenu() {
-  statusMenu_.removeAllItems();
-  addSwitches();
-  statusMenu_.addItem(appkit::MenuItem::separator());
-  addDisplayChooser();
-  statusMenu_.addItem(appkit::MenuItem::separator());
-  addActions();
+  std::vector<StatusMenuEntry> entries;
+  addSwitches(entries);
+  entries.emplace_back(StatusMenuSeparator());
+  addDisplayChooser(entries);
+  entries.emplace_back(StatusMenuSeparator());
+  addActions(entries);
+  statusMenu_.show(entries);
 }
 
-void AppDelegate::addSwitches() {
+void AppDelegate::addSwitches(std::vector<StatusMenuEntry>& entries) {
   const OrvaneMode mode = model().mode();
-  statusMenu_.addItem(rowItem({
+  entries.emplace_back(StatusMenuRow{
       .title = model().localized("Open at Login", "开机自动运行"),
       .systemImage = "power",
       .isOn = model().launchAtLoginEnabled().value(),
       .rowWidth = statusMenuRowWidth,
       .action = lifetime_.whileAlive([this] { toggleLaunchAtLoginFromStatusMenu(); }),
-  }));
-  statusMenu_.addItem(appkit::MenuItem::separator());
-  statusMenu_.addItem(rowItem({
+  });
+  entries.emplace_back(StatusMenuSeparator());
+  entries.emplace_back(StatusMenuRow{
       .title = model().localized("Prevent Dock Pop-Up", "防止 Dock 弹出"),
       .systemImage = "eye.slash",
       .isOn = mode == OrvaneMode::preventing,
       .rowWidth = statusMenuRowWidth,
       .action = lifetime_.whileAlive([this] { toggleHideDockFromStatusMenu(); }),
-  }));
-  statusMenu_.addItem(rowItem({
+  });
+  entries.emplace_back(StatusMenuRow{
       .title = model().localized("Pin Dock", "固定 Dock"),
       .systemImage = "lock",
       .isEnabled = model().selectedDisplayID().value().has_value(),
       .isOn = mode == OrvaneMode::pinning,
       .rowWidth = statusMenuRowWidth,
       .action = lifetime_.whileAlive([this] { toggleLockFromStatusMenu(); }),
-  }));
+  });
 }
 
-void AppDelegate::addDisplayChooser() {
-  statusMenu_.addItem(headerItem(model().localized("Choose Display", "选择显示器")));
+void AppDelegate::addDisplayChooser(std::vector<StatusMenuEntry>& entries) {
+  entries.emplace_back(StatusMenuSectionHeader{model().localized("Choose Display", "选择显示器")});
   for (const DisplaySnapshot& display : model().displays().value()) {
-    statusMenu_.addItem(rowItem({
+    entries.emplace_back(StatusMenuRow{
         .title = display.isMain ? display.name + " " + model().localized("(Main)", "（主要）")
                                 : display.name,
         .systemImage = "display",
@@ -107,20 +80,20 @@ void AppDelegate::addDisplayChooser() {
           model().selectDisplay(id);
           rebuildMenuAndIcon();
         }),
-    }));
+    });
   }
   if (model().displays().value().empty()) {
-    statusMenu_.addItem(rowItem({
+    entries.emplace_back(StatusMenuRow{
         .title = model().localized("No displays detected", "未检测到显示器"),
         .systemImage = "display.trianglebadge.exclamationmark",
         .isEnabled = false,
         .rowWidth = statusMenuRowWidth,
-    }));
+    });
   }
 }
 
-void AppDelegate::addActions() {
-  statusMenu_.addItem(rowItem({
+void AppDelegate::addActions(std::vector<StatusMenuEntry>& entries) {
+  entries.emplace_back(StatusMenuRow{
       .title = model().localized("Open Window", "打开窗口"),
       .systemImage = "macwindow",
       .rowWidth = statusMenuRowWidth,
@@ -128,8 +101,8 @@ void AppDelegate::addActions() {
         openMainWindowFromStatusItem();
         updateStatusItemIcon();
       }),
-  }));
-  statusMenu_.addItem(rowItem({
+  });
+  entries.emplace_back(StatusMenuRow{
       .title = model().localized("Settings", "设置"),
       .systemImage = "gearshape",
       .rowWidth = statusMenuRowWidth,
@@ -137,21 +110,18 @@ void AppDelegate::addActions() {
         openSettingsFromStatusItem();
         updateStatusItemIcon();
       }),
-  }));
-  statusMenu_.addItem(rowItem({
+  });
+  entries.emplace_back(StatusMenuRow{
       .title = model().localized("Quit", "退出"),
       .systemImage = "power",
       .rowWidth = statusMenuRowWidth,
       .action = closingTheMenu([this] { quitFromStatusMenu(); }),
-  }));
+  });
 }
 
 std::function<void()> AppDelegate::closingTheMenu(std::function<void()> action) {
-  return lifetime_.whileAlive([this, action = std::move(action)] {
-    // The action may rebuild the menu and with it destroy this closure.
-    const std::function<void()> kept = action;
-    statusMenu_.cancelTracking();
-    kept();
+  return lifetime_.whileAlive([this, ended = lifetime_.whileAlive(std::move(action))] {
+    statusMenu_.menu().cancelTracking(ended);
   });
 }
 

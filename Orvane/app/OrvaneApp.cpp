@@ -51,6 +51,10 @@ void OrvaneApp::install() {
           [](bool hasVisibleWindows) {
             return orvaneApp().delegate_.applicationShouldHandleReopen(hasVisibleWindows);
           },
+      .performKeyEquivalent =
+          [](const ui::KeyEvent& event) {
+            return orvaneApp().delegate_.performKeyEquivalent(event);
+          },
       .willTerminate = [] { orvaneApp().willTerminate(); },
   });
 }

@@ -11,9 +11,9 @@
 #include "Orvane/geometry/OrvaneGeometry.hpp"
 #include "Orvane/geometry/OrvaneScreen.hpp"
 #include "Orvane/guard/DockMouseGuardMessages.hpp"
+#include "Orvane/platform/SystemSettingsLinks.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
 #include "Orvane/platform/appkit/Screen.hpp"
-#include "Orvane/platform/appkit/Workspace.hpp"
 
 namespace orvane {
 
@@ -243,12 +243,8 @@ std::vector<DisplaySnapshot> DockMouseGuard::displays() {
 }
 
 void DockMouseGuard::openDesktopAndDockSettings() {
-  if (appkit::Workspace::openURL(
-          "x-apple.systempreferences:com.apple.Desktop-Settings.extension") ||
-      appkit::Workspace::openURL("x-apple.systempreferences:com.apple.preference.dock")) {
-    return;
-  }
-  appkit::Workspace::openFile("/System/Applications/System Settings.app");
+  openSystemSettingsByFirstOf({"x-apple.systempreferences:com.apple.Desktop-Settings.extension",
+                               "x-apple.systempreferences:com.apple.preference.dock"});
 }
 
 }  // namespace orvane

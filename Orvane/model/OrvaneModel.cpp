@@ -10,6 +10,7 @@
 #include "Orvane/model/OrvaneProduct.hpp"
 #include "Orvane/model/OrvaneSettings.hpp"
 #include "Orvane/permission/OrvaneAccessibilityPermission.hpp"
+#include "Orvane/platform/SystemSettingsLinks.hpp"
 #include "Orvane/platform/appkit/LoginItem.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
 #include "Orvane/platform/appkit/Workspace.hpp"
@@ -191,10 +192,8 @@ void OrvaneModel::openAccessibilitySettings() {
 }
 
 void OrvaneModel::openLoginItemsSettings() {
-  if (!appkit::Workspace::openURL(
-          "x-apple.systempreferences:com.apple.LoginItems-Settings.extension")) {
-    appkit::Workspace::openFile("/System/Applications/System Settings.app");
-  }
+  openSystemSettingsByFirstOf(
+      {"x-apple.systempreferences:com.apple.LoginItems-Settings.extension"});
 }
 
 void OrvaneModel::openPrivacyPolicy() {

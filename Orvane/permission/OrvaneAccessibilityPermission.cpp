@@ -7,8 +7,8 @@
 #include "Orvane/base/Lifetime.hpp"
 #include "Orvane/base/ProcessShared.hpp"
 #include "Orvane/platform/Quartz.hpp"
+#include "Orvane/platform/SystemSettingsLinks.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
-#include "Orvane/platform/appkit/Workspace.hpp"
 
 namespace orvane {
 
@@ -54,16 +54,11 @@ void OrvaneAccessibilityPermission::showPermissionAlert(std::function<void()> on
 }
 
 void OrvaneAccessibilityPermission::openSystemSettings() {
-  for (const char* const link :
-       {"x-apple.systempreferences:com.apple.settings.PrivacySecurity.extension"
-        "?Privacy_Accessibility",
-        "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility",
-        "x-apple.systempreferences:com.apple.preference.security"}) {
-    if (appkit::Workspace::openURL(link)) {
-      return;
-    }
-  }
-  appkit::Workspace::openFile("/System/Applications/System Settings.app");
+  openSystemSettingsByFirstOf(
+      {"x-apple.systempreferences:com.apple.settings.PrivacySecurity.extension"
+       "?Privacy_Accessibility",
+       "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility",
+       "x-apple.systempreferences:com.apple.preference.security"});
 }
 
 bool OrvaneAccessibilityPermission::isChecking() {

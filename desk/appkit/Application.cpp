@@ -22,6 +22,10 @@ void Application::activateIgnoringOtherApps() {
   WindowServer::current().focus.activate();
 }
 
+void Application::hide() {
+  WindowServer::current().focus.hide();
+}
+
 void Application::terminate() {
   WindowServer::current().application.terminate();
 }
@@ -29,6 +33,11 @@ void Application::terminate() {
 std::optional<Window> Application::keyWindow() {
   const auto key = WindowServer::current().focus.keyWindow();
   return key == nullptr ? std::nullopt : std::optional(desk::handleOf(key));
+}
+
+std::optional<Window> Application::modalWindow() {
+  const auto modal = WindowServer::current().modal.window();
+  return modal == nullptr ? std::nullopt : std::optional(desk::handleOf(modal));
 }
 
 CGPoint Application::mouseLocation() {

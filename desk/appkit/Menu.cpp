@@ -1,9 +1,11 @@
 // Menus on the desk are lists of items that its window server shows.
 #include "Orvane/platform/appkit/Menu.hpp"
 
+#include <cstddef>
 #include <utility>
 #include <vector>
 
+#include "Orvane/base/Require.hpp"
 #include "desk/windows/Implementations.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -11,14 +13,32 @@ namespace orvane::appkit {
 
 Menu::Menu() : implementation_(std::make_shared<Implementation>()) {}
 
-void Menu::removeAllItems() {
-  // What the items hold may ask for the menu again while it is destroyed.
-  const std::vector<MenuItem> gone = std::exchange(implementation_->items, {});
+namespace {
+
+auto placeOf(std::vector<MenuItem>& items, std::size_t index) {
+  require(index <= items.size(), "the menu has no such item");
+  return items.begin() + static_cast<std::ptrdiff_t>(index);
+}
+
+}  // namespace
+
+void Menu::insertItem(std::size_t index, MenuItem item) {
+  auto& items = implementation_->items;
+  items.insert(placeOf(items, index), std::move(item));
   desk::WindowServer::current().menus.itemsChanged(*implementation_);
 }
 
-void Menu::addItem(MenuItem item) {
-  implementation_->items.push_back(std::move(item));
+void Menu::changeItem(std::size_t index, MenuItem item) {
+  // What the item holds may ask for the menu again while it is destroyed.
+  std::swap(*placeOf(implementation_->items, index), item);
+  desk::WindowServer::current().menus.itemsChanged(*implementation_);
+}
+
+void Menu::removeItem(std::size_t index) {
+  auto& items = implementation_->items;
+  const auto place = placeOf(items, index);
+  const MenuItem gone = std::move(*place);
+  items.erase(place);
   desk::WindowServer::current().menus.itemsChanged(*implementation_);
 }
 
@@ -26,11 +46,12 @@ void Menu::onWillOpen(std::function<void()> willOpen) {
   implementation_->willOpen = std::move(willOpen);
 }
 
-void Menu::cancelTracking() {
+void Menu::cancelTracking(std::function<void()> ended) {
   desk::WindowServer& server = desk::WindowServer::current();
   if (server.menus.isTracking(*implementation_)) {
     server.menus.close();
   }
+  server.machine().runLoop.afterCurrent(std::move(ended));
 }
 
 }  // namespace orvane::appkit

@@ -47,6 +47,10 @@ void StatusItem::setImage(const std::optional<Image>& image) {
   }
 }
 
+void StatusItem::setAccessibilityValue(std::string_view value) {
+  implementation_->accessibilityValue = value;
+}
+
 void StatusItem::setMenu(const Menu& menu) {
   implementation_->menu = menu.implementation();
 }

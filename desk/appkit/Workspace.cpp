@@ -1,17 +1,30 @@
 // Opening links on the desk: the machine notes what was asked for.
 #include "Orvane/platform/appkit/Workspace.hpp"
 
+#include <utility>
+
+#include "Orvane/platform/appkit/MainQueue.hpp"
 #include "desk/machine/Machine.hpp"
 #include "desk/quartz/Utf8.hpp"
 
 namespace orvane::appkit {
 
-bool Workspace::openURL(std::string_view url) {
-  return desk::Machine::current().links.openURL(url);
+namespace {
+
+void report(bool isOpened, std::function<void(bool isOpened)> completed) {
+  if (completed) {
+    MainQueue::async([isOpened, completed = std::move(completed)] { completed(isOpened); });
+  }
 }
 
-bool Workspace::openFile(std::string_view path) {
-  return desk::Machine::current().links.openFile(path);
+}  // namespace
+
+void Workspace::openURL(std::string_view url, std::function<void(bool isOpened)> completed) {
+  report(desk::Machine::current().links.openURL(url), std::move(completed));
+}
+
+void Workspace::openFile(std::string_view path, std::function<void(bool isOpened)> completed) {
+  report(desk::Machine::current().links.openFile(path), std::move(completed));
 }
 
 std::optional<std::string> Workspace::percentEncodedForQuery(std::string_view text) {

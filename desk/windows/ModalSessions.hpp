@@ -25,6 +25,10 @@ class ModalSessions {
   /// Stops the innermost session that has not been stopped; nothing without one.
   void stop(int response);
   [[nodiscard]] bool isRunning() const { return !sessions_.empty(); }
+  /// The innermost session's; null without one.
+  [[nodiscard]] Window window() const {
+    return sessions_.empty() ? nullptr : sessions_.back().window;
+  }
   /// Whether the innermost session is this window's.
   [[nodiscard]] bool isModal(const DeskWindow& window) const;
   /// Whether the innermost session keeps events from the window: it is the application's, and

@@ -30,6 +30,11 @@ void RunningApplication::reopen() {
   }
 }
 
+bool RunningApplication::performKeyEquivalent(const ui::KeyEvent& event) {
+  const auto perform = delegate_.performKeyEquivalent;
+  return perform && perform(event);
+}
+
 void RunningApplication::terminate() {
   if (std::exchange(isTerminating_, true)) {
     return;

@@ -19,6 +19,8 @@ class RunningApplication {
   /// The user opens the running application again. It becomes active and, unless the delegate
   /// answers no, nothing else happens: there is no document to make.
   void reopen();
+  /// Whether a key meant something to the application, whose window had no use for it.
+  bool performKeyEquivalent(const ui::KeyEvent& event);
   /// The delegate is told, and the process ends as soon as what runs now has returned.
   void terminate();
   void processEnded();

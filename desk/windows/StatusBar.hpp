@@ -27,6 +27,7 @@ struct StatusBarItem {
   std::optional<appkit::ImageScaling> imageScaling;
   std::shared_ptr<SymbolImage> image;
   std::shared_ptr<DeskMenu> menu;
+  std::string accessibilityValue;
   std::string autosaveName;
 };
 

@@ -26,6 +26,14 @@ void WindowFocus::deactivate() {
   server_.noteChange();
 }
 
+void WindowFocus::hide() {
+  isActive_ = false;
+  for (const Window& window : server_.windows()) {
+    window->isHiddenByDeactivation = window->owner == WindowOwner::application;
+  }
+  server_.noteChange();
+}
+
 void WindowFocus::hideForDeactivation() {
   for (const Window& window : server_.windows()) {
     // A modal window stays: without it nobody could end the session.

@@ -21,6 +21,8 @@ class WindowFocus {
   void activate();
   /// Another program becomes active.
   void deactivate();
+  /// The same, and the application's windows are hidden until it is active again.
+  void hide();
 
   /// Nothing for a window that cannot become key, is not on the screen, or is kept back by a modal
   /// session.

@@ -262,6 +262,9 @@ bool WindowServer::keyDown(const ui::KeyEvent& event) {
       return true;
     }
   }
+  if (window->owner == WindowOwner::application && application.performKeyEquivalent(event)) {
+    return true;
+  }
   const ui::KeyModifiers command{false, false, false, true};
   if (event.key != ui::Key::character || event.modifiers != command) {
     return false;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "Orvane/platform/appkit/MainQueue.hpp"
+#include "macos/appkit/KeyEquivalents.hpp"
 #include "macos/appkit/MenuImplementation.hpp"
 #include "macos/appkit/NativeWindow.hpp"
 
@@ -51,6 +52,16 @@ void Application::setDelegate(ApplicationDelegate delegate) {
   NSApplication.sharedApplication.delegate = native;
 }
 
+bool performKeyEquivalent(const ui::KeyEvent& event) {
+  const id delegate = NSApplication.sharedApplication.delegate;
+  if (![delegate isKindOfClass:OrvaneApplicationDelegate.class]) {
+    return false;
+  }
+  const auto perform =
+      static_cast<OrvaneApplicationDelegate*>(delegate)->_delegate.performKeyEquivalent;
+  return perform && perform(event);
+}
+
 void Application::setActivationPolicy(ActivationPolicy policy) {
   [NSApplication.sharedApplication
       setActivationPolicy:static_cast<NSApplicationActivationPolicy>(policy)];
@@ -60,12 +71,20 @@ void Application::activateIgnoringOtherApps() {
   [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
 }
 
+void Application::hide() {
+  [NSApplication.sharedApplication hide:nil];
+}
+
 void Application::terminate() {
   [NSApplication.sharedApplication terminate:nil];
 }
 
 std::optional<Window> Application::keyWindow() {
   return windowFrom(NSApplication.sharedApplication.keyWindow);
+}
+
+std::optional<Window> Application::modalWindow() {
+  return windowFrom(NSApplication.sharedApplication.modalWindow);
 }
 
 CGPoint Application::mouseLocation() {
@@ -78,6 +97,8 @@ void runModalNow(NSWindow* native, const std::function<void(int response)>& ende
   keepWhileShown(native);
   // A panel would be hidden with the application's deactivation, and nobody could end the session.
   native.hidesOnDeactivate = NO;
+  // Otherwise an alert that waits for its answer would keep its user from logging out.
+  native.preventsApplicationTerminationWhenModal = NO;
   const NSModalResponse response = [NSApplication.sharedApplication runModalForWindow:native];
   ended(static_cast<int>(response));
 }
@@ -94,13 +115,9 @@ void Application::runModal(const Window& window, std::function<void(int response
   // loop ends when this task has returned; then the session begins in a task of the main queue, as
   // it would have here. The window's handle is kept until then.
   [openMenu() cancelTrackingWithoutAnimation];
-  const std::function<void()> run = [window, ended = std::move(ended)] {
-    runModalNow(window.implementation()->window, ended);
-  };
-  [NSRunLoop.mainRunLoop performInModes:@[ NSDefaultRunLoopMode ]
-                                  block:^{
-                                    MainQueue::async(run);
-                                  }];
+  whenNoMenuIsTracked([window, ended = std::move(ended)] {
+    MainQueue::async([window, ended] { runModalNow(window.implementation()->window, ended); });
+  });
 }
 
 void Application::stopModal(int response) {

@@ -12,20 +12,9 @@
 @interface OrvaneMenuItem : NSMenuItem {
  @public
   std::function<void()> _chosen;
+  BOOL _keepsMenuOpen;
 }
 - (void)choose:(nullable id)sender;
-@end
-
-@implementation OrvaneMenuItem
-
-- (void)choose:(id)sender {
-  // The action may take this item out of its menu.
-  const std::function<void()> chosen = _chosen;
-  if (chosen) {
-    chosen();
-  }
-}
-
 @end
 
 namespace {
@@ -38,7 +27,34 @@ bool isUnderPointer(NSView* view) {
   return NSPointInRect(NSEvent.mouseLocation, frame);
 }
 
+/// A choice by the keyboard or by VoiceOver always closes the menu, so it has to open again; not
+/// over an alert that the choice has brought up.
+void openAgain(NSStatusBarButton* button) {
+  __weak NSStatusBarButton* const weakButton = button;
+  orvane::appkit::whenNoMenuIsTracked([weakButton] {
+    if (NSApplication.sharedApplication.modalWindow == nil) {
+      [weakButton performClick:nil];
+    }
+  });
+}
+
 }  // namespace
+
+@implementation OrvaneMenuItem
+
+- (void)choose:(id)sender {
+  // The action may take this item out of its menu.
+  const std::function<void()> chosen = _chosen;
+  OrvaneMenuDelegate* const delegate = static_cast<OrvaneMenuDelegate*>(self.menu.delegate);
+  if (_keepsMenuOpen && delegate != nil) {
+    openAgain(delegate->_button);
+  }
+  if (chosen) {
+    chosen();
+  }
+}
+
+@end
 
 @implementation OrvaneMenuDelegate
 
@@ -55,6 +71,7 @@ bool isUnderPointer(NSView* view) {
 
 - (void)menuDidClose:(NSMenu*)menu {
   trackedMenu = nil;
+  [self menu:menu willHighlightItem:nil];
 }
 
 // A row with a view of its own shows nothing of what the keyboard has come to, unless it is told.
@@ -75,6 +92,30 @@ NSMenu* openMenu() {
   return trackedMenu;
 }
 
+void whenNoMenuIsTracked(std::function<void()> task) {
+  [NSRunLoop.mainRunLoop performInModes:@[ NSDefaultRunLoopMode, NSModalPanelRunLoopMode ]
+                                  block:^{
+                                    task();
+                                  }];
+}
+
+namespace {
+
+void fill(OrvaneMenuItem* native, MenuItem item) {
+  NSString* const title = foundationString(item.title);
+  native.title = title == nil ? @"" : title;
+  native.enabled = item.isEnabled;
+  native.state = item.isOn ? NSControlStateValueOn : NSControlStateValueOff;
+  NSView* const view = item.view ? nativeView(*item.view) : nil;
+  if (view != native.view) {
+    native.view = view;
+  }
+  native->_chosen = std::move(item.action);
+  native->_keepsMenuOpen = item.keepsMenuOpen;
+}
+
+}  // namespace
+
 Menu::Menu()
     : implementation_(std::make_shared<Implementation>(
           Implementation{[[NSMenu alloc] init], [[OrvaneMenuDelegate alloc] init]})) {
@@ -83,35 +124,39 @@ Menu::Menu()
   implementation_->menu.delegate = implementation_->delegate;
 }
 
-void Menu::removeAllItems() {
-  [implementation_->menu removeAllItems];
-}
-
-void Menu::addItem(MenuItem item) {
+void Menu::insertItem(std::size_t index, MenuItem item) {
+  const auto place = static_cast<NSInteger>(index);
   if (item.isSeparator) {
-    [implementation_->menu addItem:NSMenuItem.separatorItem];
+    [implementation_->menu insertItem:NSMenuItem.separatorItem atIndex:place];
     return;
   }
-  NSString* const title = foundationString(item.title);
-  OrvaneMenuItem* const native = [[OrvaneMenuItem alloc] initWithTitle:title == nil ? @"" : title
+  OrvaneMenuItem* const native = [[OrvaneMenuItem alloc] initWithTitle:@""
                                                                 action:@selector(choose:)
                                                          keyEquivalent:@""];
   native.target = native;
-  native.enabled = item.isEnabled;
-  native.state = item.isOn ? NSControlStateValueOn : NSControlStateValueOff;
-  native.view = item.view ? nativeView(*item.view) : nil;
-  // An item chosen by the keyboard always closes the menu; a click in a view leaves it open, so
-  // keepsMenuOpen asks for nothing more here.
-  native->_chosen = std::move(item.action);
-  [implementation_->menu addItem:native];
+  fill(native, std::move(item));
+  [implementation_->menu insertItem:native atIndex:place];
+}
+
+void Menu::changeItem(std::size_t index, MenuItem item) {
+  NSMenuItem* const native = [implementation_->menu itemAtIndex:static_cast<NSInteger>(index)];
+  fill(static_cast<OrvaneMenuItem*>(native), std::move(item));
+}
+
+void Menu::removeItem(std::size_t index) {
+  NSMenu* const menu = implementation_->menu;
+  [menu removeItem:[menu itemAtIndex:static_cast<NSInteger>(index)]];
 }
 
 void Menu::onWillOpen(std::function<void()> willOpen) {
   implementation_->delegate->_willOpen = std::move(willOpen);
 }
 
-void Menu::cancelTracking() {
+void Menu::cancelTracking(std::function<void()> ended) {
   [implementation_->menu cancelTracking];
+  if (ended) {
+    whenNoMenuIsTracked(std::move(ended));
+  }
 }
 
 }  // namespace orvane::appkit

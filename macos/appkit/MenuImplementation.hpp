@@ -12,6 +12,8 @@
 @interface OrvaneMenuDelegate : NSObject <NSMenuDelegate> {
  @public
   std::function<void()> _willOpen;
+  /// That of the status item which shows the menu; nil without one.
+  __weak NSStatusBarButton* _button;
 }
 @end
 
@@ -24,5 +26,8 @@ struct Menu::Implementation {
 
 /// The Menu that is being tracked now; nil when none is.
 [[nodiscard]] NSMenu* _Nullable openMenu();
+
+/// Runs `task` from the run loop once no menu is tracked, also in a modal session.
+void whenNoMenuIsTracked(std::function<void()> task);
 
 }  // namespace orvane::appkit

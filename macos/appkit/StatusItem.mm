@@ -71,8 +71,18 @@ void StatusItem::setImage(const std::optional<Image>& image) {
   implementation_->item.button.image = image ? image->implementation()->image : nil;
 }
 
+void StatusItem::setAccessibilityValue(std::string_view value) {
+  NSStatusBarButton* const button = implementation_->item.button;
+  NSString* const text = foundationString(value);
+  if (![text isEqual:button.accessibilityValue]) {
+    button.accessibilityValue = text;
+    NSAccessibilityPostNotification(button, NSAccessibilityValueChangedNotification);
+  }
+}
+
 void StatusItem::setMenu(const Menu& menu) {
   implementation_->menu = menu.implementation();
+  implementation_->menu->delegate->_button = implementation_->item.button;
   implementation_->item.menu = menu.implementation()->menu;
 }
 

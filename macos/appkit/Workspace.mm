@@ -3,6 +3,9 @@
 
 #import <AppKit/AppKit.h>
 
+#include <utility>
+
+#include "Orvane/platform/appkit/MainQueue.hpp"
 #include "macos/appkit/Strings.hpp"
 
 namespace orvane::appkit {
@@ -16,17 +19,39 @@ NSURL* urlFrom(NSString* text) {
   return [NSURL URLWithString:text];
 }
 
-}  // namespace
-
-bool Workspace::openURL(std::string_view url) {
-  NSString* const text = foundationString(url);
-  NSURL* const link = text == nil ? nil : urlFrom(text);
-  return link != nil && [NSWorkspace.sharedWorkspace openURL:link];
+void report(bool isOpened, const std::function<void(bool isOpened)>& completed) {
+  if (completed) {
+    MainQueue::async([isOpened, completed] { completed(isOpened); });
+  }
 }
 
-bool Workspace::openFile(std::string_view path) {
+void openLink(NSURL* url, std::function<void(bool isOpened)> completed) {
+  if (url == nil) {
+    report(false, completed);
+    return;
+  }
+  NSWorkspaceOpenConfiguration* const configuration = NSWorkspaceOpenConfiguration.configuration;
+  // A link that fails is passed over in silence; the system would keep the answer back until its
+  // message is dismissed.
+  configuration.promptsUserIfNeeded = NO;
+  [NSWorkspace.sharedWorkspace openURL:url
+                         configuration:configuration
+                     completionHandler:^(NSRunningApplication* taker, NSError*) {
+                       // On a queue of the system's.
+                       report(taker != nil, completed);
+                     }];
+}
+
+}  // namespace
+
+void Workspace::openURL(std::string_view url, std::function<void(bool isOpened)> completed) {
+  NSString* const text = foundationString(url);
+  openLink(text == nil ? nil : urlFrom(text), std::move(completed));
+}
+
+void Workspace::openFile(std::string_view path, std::function<void(bool isOpened)> completed) {
   NSString* const text = foundationString(path);
-  return text != nil && [NSWorkspace.sharedWorkspace openURL:[NSURL fileURLWithPath:text]];
+  openLink(text == nil ? nil : [NSURL fileURLWithPath:text], std::move(completed));
 }
 
 std::optional<std::string> Workspace::percentEncodedForQuery(std::string_view text) {

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "Orvane/platform/appkit/Accessibility.hpp"
+#include "macos/appkit/KeyEquivalents.hpp"
 #include "macos/appkit/Strings.hpp"
 #include "macos/canvas/CoreTextMeasurer.hpp"
 #include "macos/canvas/QuartzCanvas.hpp"
@@ -180,6 +181,9 @@ ui::TextMeasurer& textMeasurer() {
   [super viewDidMoveToWindow];
   _frames->stop();
   if (self.window == nil) {
+    // A row of a menu comes back when the menu is opened again.
+    _isPressed = NO;
+    _host->pointerCancelled();
     _host->pointerExited();
   } else {
     [self takeOverAppearance];
@@ -334,7 +338,7 @@ ui::TextMeasurer& textMeasurer() {
     return NO;
   }
   [self update];
-  return _host->keyDown(*key);
+  return _host->keyDown(*key) || appkit::performKeyEquivalent(*key);
 }
 
 - (void)keyDown:(NSEvent*)event {
@@ -358,7 +362,9 @@ ui::TextMeasurer& textMeasurer() {
   const ui::MenuRequest kept = request;
   [NSRunLoop.mainRunLoop performInModes:@[ NSRunLoopCommonModes ]
                                   block:^{
-                                    if (OrvaneHostView* const view = weakSelf; view != nil) {
+                                    // Its window may have been closed in between.
+                                    OrvaneHostView* const view = weakSelf;
+                                    if (view.window.visible) {
                                       appkit::runPopUpMenu(kept, view);
                                     }
                                   }];

@@ -40,10 +40,15 @@ ui::KeyModifiers modifiersFrom(NSEventModifierFlags flags) {
 }  // namespace
 
 std::optional<ui::KeyEvent> keyEventFrom(NSEvent* event) {
-  if (event.type != NSEventTypeKeyDown || event.charactersIgnoringModifiers.length == 0) {
+  if (event.type != NSEventTypeKeyDown) {
     return std::nullopt;
   }
-  NSString* const typed = event.charactersIgnoringModifiers;
+  // With Command held, a layout of another script types Latin letters.
+  const bool hasCommand = (event.modifierFlags & NSEventModifierFlagCommand) != 0;
+  NSString* const typed = hasCommand ? event.characters : event.charactersIgnoringModifiers;
+  if (typed.length == 0) {
+    return std::nullopt;
+  }
   const ui::Key key = keyFrom([typed characterAtIndex:0]);
   const bool isCharacter = key == ui::Key::character;
   return ui::KeyEvent{key, modifiersFrom(event.modifierFlags),

@@ -1,5 +1,6 @@
 // The menu under the status item: its rows, what they do, and what of it stays open.
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,17 @@ class AppDelegateMenuTest : public AppFixture {
     ASSERT_TRUE(openMenu());
   }
   [[nodiscard]] bool isOpen() { return server().menus.isStatusMenuOpen(); }
+  /// Those of all rows, from above.
+  [[nodiscard]] std::vector<std::shared_ptr<desk::HostedView>> views() {
+    std::vector<std::shared_ptr<desk::HostedView>> all;
+    server().menus.layOut();
+    for (const desk::MenuRow& shown : server().menus.rows()) {
+      if (shown.view != nullptr) {
+        all.push_back(shown.view);
+      }
+    }
+    return all;
+  }
   /// The grey of a row's highlight, if the row shows one.
   [[nodiscard]] bool isHighlighted(const std::string& title) {
     for (const desk::MenuRow& shown : server().menus.rows()) {
@@ -171,6 +183,52 @@ TEST_F(AppDelegateMenuTest, TheIconFollowsTheGuardAtOnceWhileTheMenuIsOpen) {
   ASSERT_FALSE(model().isGuardRunning());
   EXPECT_TRUE(isOpen());
   EXPECT_EQ(icon(), "lock.open");
+}
+
+TEST_F(AppDelegateMenuTest, AnOpenMenuShowsThatTheGuardHasStoppedByItself) {
+  beginWithOpenMenu();
+  ASSERT_TRUE(press("Pin Dock"));
+  ASSERT_EQ(row("Pin Dock"), "lock | Pin Dock | on");
+  letBlockingRunAway();
+  ASSERT_TRUE(isOpen());
+  EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | off");
+}
+
+TEST_F(AppDelegateMenuTest, ARowStaysWhereItIsThroughItsOwnClick) {
+  beginWithOpenMenu();
+  const auto before = views();
+  ASSERT_TRUE(press("Pin Dock"));
+  ASSERT_EQ(row("Pin Dock"), "lock | Pin Dock | on");
+  EXPECT_EQ(views(), before);
+}
+
+TEST_F(AppDelegateMenuTest, ADisplayMoreOrLessLeavesTheOtherRowsWhereTheyAre) {
+  beginWithOpenMenu();
+  const auto two = views();
+  desk::attach(machine, desk::monitorAbove());
+  ASSERT_TRUE(openMenu());
+  auto three = views();
+  ASSERT_EQ(three.size(), two.size() + 1);
+  constexpr std::ptrdiff_t afterTheDisplays = 6;
+  three.erase(three.begin() + afterTheDisplays);
+  EXPECT_EQ(three, two);
+  desk::detach(machine, 2);
+  ASSERT_TRUE(openMenu());
+  EXPECT_EQ(views(), two);
+  EXPECT_EQ(row("Wall"), "display | Wall");
+  EXPECT_EQ(row("Studio"), "no row Studio");
+}
+
+TEST_F(AppDelegateMenuTest, WhatClosesTheMenuIsDoneWhenTheClickIsOver) {
+  beginWithOpenMenu();
+  moveTo(middleOf("Open Window"));
+  machine.mouse.pressButton();
+  machine.runDue();
+  machine.mouse.releaseButton();
+  EXPECT_FALSE(isOpen());
+  EXPECT_FALSE(desk::Surfaces(server()).isThere("main"));
+  machine.runDue();
+  EXPECT_TRUE(desk::Surfaces(server()).isThere("main"));
 }
 
 TEST_F(AppDelegateMenuTest, SwitchesFlipInPlaceAndLeaveTheMenuOpen) {

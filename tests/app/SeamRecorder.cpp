@@ -248,6 +248,17 @@ void setMenu(StatusItem* item, const Menu& menu) {
   realSetMenu(item, menu);
 }
 
+void realSetAccessibilityValue(StatusItem*, std::string_view) REAL(
+    "_ZN6orvane6appkit10StatusItem21setAccessibilityValueE"
+    "St17basic_string_viewIcSt11char_traitsIcEE");
+void setAccessibilityValue(StatusItem*, std::string_view) WRAPPED(
+    "_ZN6orvane6appkit10StatusItem21setAccessibilityValueE"
+    "St17basic_string_viewIcSt11char_traitsIcEE");
+void setAccessibilityValue(StatusItem* item, std::string_view value) {
+  note("StatusItem.setAccessibilityValue " + inQuotes(value));
+  realSetAccessibilityValue(item, value);
+}
+
 void realSetImage(StatusItem*, const std::optional<Image>&)
     REAL("_ZN6orvane6appkit10StatusItem8setImageERKSt8optionalINS0_5ImageEE");
 void setImage(StatusItem*, const std::optional<Image>&)
@@ -296,25 +307,43 @@ void onWillOpen(Menu* menu, Task willOpen) {
   realOnWillOpen(menu, std::move(willOpen));
 }
 
-void realCancelTracking(Menu*) REAL("_ZN6orvane6appkit4Menu14cancelTrackingEv");
-void cancelTracking(Menu*) WRAPPED("_ZN6orvane6appkit4Menu14cancelTrackingEv");
-void cancelTracking(Menu* menu) {
+void realCancelTracking(Menu*, Task)
+    REAL("_ZN6orvane6appkit4Menu14cancelTrackingESt8functionIFvvEE");
+void cancelTracking(Menu*, Task)
+    WRAPPED("_ZN6orvane6appkit4Menu14cancelTrackingESt8functionIFvvEE");
+void cancelTracking(Menu* menu, Task ended) {
   note("Menu.cancelTracking");
-  realCancelTracking(menu);
+  realCancelTracking(menu, std::move(ended));
 }
 
-void realRemoveAllItems(Menu*) REAL("_ZN6orvane6appkit4Menu14removeAllItemsEv");
-void removeAllItems(Menu*) WRAPPED("_ZN6orvane6appkit4Menu14removeAllItemsEv");
-void removeAllItems(Menu* menu) {
-  note("Menu.removeAllItems");
-  realRemoveAllItems(menu);
+void noteItem(const std::string& call, std::size_t index, const MenuItem& item) {
+  note("Menu." + call + " " + std::to_string(index) + " " +
+       (item.isSeparator ? std::string("-") : inQuotes(item.title)));
 }
 
-void realAddItem(Menu*, MenuItem) REAL("_ZN6orvane6appkit4Menu7addItemENS0_8MenuItemE");
-void addItem(Menu*, MenuItem) WRAPPED("_ZN6orvane6appkit4Menu7addItemENS0_8MenuItemE");
-void addItem(Menu* menu, MenuItem item) {
-  note("Menu.addItem " + (item.isSeparator ? std::string("-") : inQuotes(item.title)));
-  realAddItem(menu, std::move(item));
+void realInsertItem(Menu*, std::size_t, MenuItem)
+    REAL("_ZN6orvane6appkit4Menu10insertItemEmNS0_8MenuItemE");
+void insertItem(Menu*, std::size_t, MenuItem)
+    WRAPPED("_ZN6orvane6appkit4Menu10insertItemEmNS0_8MenuItemE");
+void insertItem(Menu* menu, std::size_t index, MenuItem item) {
+  noteItem("insertItem", index, item);
+  realInsertItem(menu, index, std::move(item));
+}
+
+void realChangeItem(Menu*, std::size_t, MenuItem)
+    REAL("_ZN6orvane6appkit4Menu10changeItemEmNS0_8MenuItemE");
+void changeItem(Menu*, std::size_t, MenuItem)
+    WRAPPED("_ZN6orvane6appkit4Menu10changeItemEmNS0_8MenuItemE");
+void changeItem(Menu* menu, std::size_t index, MenuItem item) {
+  noteItem("changeItem", index, item);
+  realChangeItem(menu, index, std::move(item));
+}
+
+void realRemoveItem(Menu*, std::size_t) REAL("_ZN6orvane6appkit4Menu10removeItemEm");
+void removeItem(Menu*, std::size_t) WRAPPED("_ZN6orvane6appkit4Menu10removeItemEm");
+void removeItem(Menu* menu, std::size_t index) {
+  note("Menu.removeItem " + std::to_string(index));
+  realRemoveItem(menu, index);
 }
 
 // Screen

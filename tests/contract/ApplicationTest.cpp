@@ -21,8 +21,9 @@ TEST_F(ApplicationContract, StoppingAModalSessionThatDoesNotRunDoesNothing) {
   letTimePass(0);
 }
 
-TEST_F(ApplicationContract, WithoutAWindowThereIsNoKeyWindow) {
+TEST_F(ApplicationContract, WithoutAWindowThereIsNoKeyWindowAndNoModalOne) {
   EXPECT_FALSE(appkit::Application::keyWindow().has_value());
+  EXPECT_FALSE(appkit::Application::modalWindow().has_value());
 }
 
 TEST_F(ApplicationContract, ThePointersPlaceCountsUpwards) {
@@ -41,6 +42,7 @@ TEST_F(ApplicationContract, AModalSessionHoldsTheMainQueueAndEndsWithItsResponse
   bool taskRanWithin = true;
   const auto timer = appkit::Timer::repeating(0.1, appkit::RunLoopMode::common, [&] {
     taskRanWithin = taskRan;
+    EXPECT_EQ(appkit::Application::modalWindow(), panel);
     appkit::Application::stopModal(appkit::ModalResponse::alertSecondButton);
   });
   appkit::MainQueue::async([&] {

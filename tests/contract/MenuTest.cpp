@@ -16,26 +16,44 @@ appkit::MenuItem itemWith(std::function<void()> action) {
   return item;
 }
 
-TEST_F(MenuContract, AMenuThatIsNotOpenCanBeFilledEmptiedAndCancelled) {
+TEST_F(MenuContract, AMenuThatIsNotOpenCanBeFilledChangedEmptiedAndCancelled) {
   appkit::Menu menu;
   menu.onWillOpen([] { FAIL() << "nobody opened it"; });
-  menu.addItem(appkit::MenuItem::separator());
-  menu.addItem(itemWith([] {}));
+  menu.insertItem(0, itemWith([] {}));
+  menu.insertItem(0, appkit::MenuItem::separator());
+  menu.insertItem(2, itemWith([] {}));
+  menu.changeItem(1, itemWith([] {}));
   menu.cancelTracking();
-  menu.removeAllItems();
-  menu.removeAllItems();
+  menu.removeItem(2);
+  menu.removeItem(0);
+  menu.changeItem(0, itemWith([] {}));
+  menu.removeItem(0);
   letTimePass(0);
 }
 
-TEST_F(MenuContract, AnEmptiedMenuLetsGoOfItsActions) {
+TEST_F(MenuContract, WhatFollowsItsClosingComesAfterTheCall) {
   appkit::Menu menu;
-  auto held = std::make_shared<int>(1);
-  const std::weak_ptr<int> watch = held;
-  menu.addItem(itemWith([held = std::move(held)] {}));
-  EXPECT_FALSE(watch.expired());
-  menu.removeAllItems();
+  int endings = 0;
+  menu.cancelTracking([&] { ++endings; });
+  EXPECT_EQ(endings, 0);
+  letTimePass(0.05);
+  EXPECT_EQ(endings, 1);
+}
+
+TEST_F(MenuContract, AnItemThatChangesOrGoesLetsGoOfItsAction) {
+  appkit::Menu menu;
+  auto first = std::make_shared<int>(1);
+  auto second = std::make_shared<int>(2);
+  const std::weak_ptr<int> watchFirst = first;
+  const std::weak_ptr<int> watchSecond = second;
+  menu.insertItem(0, itemWith([held = std::move(first)] {}));
+  menu.changeItem(0, itemWith([held = std::move(second)] {}));
   letTimePass(0);
-  EXPECT_TRUE(watch.expired());
+  EXPECT_TRUE(watchFirst.expired());
+  EXPECT_FALSE(watchSecond.expired());
+  menu.removeItem(0);
+  letTimePass(0);
+  EXPECT_TRUE(watchSecond.expired());
 }
 
 TEST_F(MenuContract, AStatusItemTakesAnImageAndAMenuAndCanLoseTheImage) {
@@ -44,6 +62,7 @@ TEST_F(MenuContract, AStatusItemTakesAnImageAndAMenuAndCanLoseTheImage) {
   item.setSquareLength();
   item.setImagePosition(appkit::ImagePosition::imageOnly);
   item.setImageScaling(appkit::ImageScaling::proportionallyDown);
+  item.setAccessibilityValue("Unlocked");
   item.setMenu(appkit::Menu());
   auto image =
       appkit::Image::systemSymbol("lock.open", "Orvane", 16, appkit::SymbolWeight::regular);

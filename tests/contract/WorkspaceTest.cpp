@@ -1,4 +1,7 @@
 // What the application relies on when it opens links and files.
+#include <functional>
+#include <vector>
+
 #include "Orvane/platform/appkit/Workspace.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
@@ -7,18 +10,50 @@ namespace orvane {
 namespace {
 
 using appkit::Workspace;
-using WorkspaceContract = ContractFixture;
+
+class WorkspaceContract : public ContractFixture {
+ protected:
+  /// Notes an answer, and whether the call had returned by then.
+  [[nodiscard]] std::function<void(bool)> answer() {
+    return [this](bool isOpened) {
+      EXPECT_TRUE(hasReturned);
+      answers.push_back(isOpened);
+    };
+  }
+  /// Another program takes its time.
+  std::vector<bool> answersInTime(std::size_t count) {
+    hasReturned = true;
+    for (int turn = 0; turn < 100 && answers.size() < count; ++turn) {
+      letTimePass(0.05);
+    }
+    return answers;
+  }
+
+  bool hasReturned = false;
+  std::vector<bool> answers;
+};
 
 TEST_F(WorkspaceContract, WhatIsNoURLIsNotOpened) {
-  EXPECT_FALSE(Workspace::openURL(""));
+  Workspace::openURL("", answer());
+  Workspace::openURL("no link", answer());
+  Workspace::openURL("\xFF", answer());
+  EXPECT_EQ(answersInTime(3), (std::vector<bool>{false, false, false}));
 }
 
 TEST_F(WorkspaceContract, ARefusedLinkIsToldAndAnotherIsOpened) {
   ORVANE_ARRANGE(canOpenLinks());
   ORVANE_ARRANGE(refuseLinks("x-apple.systempreferences:com.apple.settings"));
-  EXPECT_FALSE(Workspace::openURL("x-apple.systempreferences:com.apple.settings.Privacy"));
-  EXPECT_TRUE(Workspace::openURL("x-apple.systempreferences:com.apple.preference.security"));
-  EXPECT_TRUE(Workspace::openFile("/System/Applications/System Settings.app"));
+  Workspace::openURL("x-apple.systempreferences:com.apple.settings.Privacy", answer());
+  EXPECT_EQ(answersInTime(1), std::vector<bool>{false});
+  hasReturned = false;
+  Workspace::openURL("x-apple.systempreferences:com.apple.preference.security", answer());
+  Workspace::openFile("/System/Applications/System Settings.app", answer());
+  EXPECT_EQ(answersInTime(3), (std::vector<bool>{false, true, true}));
+}
+
+TEST_F(WorkspaceContract, NobodyNeedsToHearTheAnswer) {
+  Workspace::openURL("");
+  letTimePass(0.05);
 }
 
 TEST_F(WorkspaceContract, EncodesWhatAQueryMayNotHold) {

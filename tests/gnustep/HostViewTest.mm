@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/ui/Button.hpp"
 #include "Orvane/ui/ScrollView.hpp"
 #include "Orvane/ui/ShapeView.hpp"
@@ -75,6 +76,28 @@ TEST_F(HostView, ACommandKeyIsAKeyEquivalentAndItsRepeatIsNot) {
   EXPECT_EQ(calls, 1);
   key(nativeOf(window), @"w", NSCommandKeyMask, YES);
   EXPECT_EQ(calls, 1);
+  window.close();
+}
+
+TEST_F(HostView, AKeyEquivalentThatNoViewTakesIsTheApplications) {
+  std::string heard;
+  appkit::ApplicationDelegate delegate;
+  delegate.performKeyEquivalent = [&](const ui::KeyEvent& event) {
+    heard += event.characters;
+    return event.characters == ",";
+  };
+  appkit::Application::setDelegate(delegate);
+  Window window = show([](const ui::Environment&) -> ui::View {
+    return ui::Button([] {}, ui::Rectangle().frame(200, 100))
+        .keyboardShortcut(ui::KeyboardShortcut::command("w"));
+  });
+  OrvaneHostView* const view = hostOf(window);
+  EXPECT_TRUE([view performKeyEquivalent:keyEvent(nil, @",", NSCommandKeyMask)]);
+  EXPECT_FALSE([view performKeyEquivalent:keyEvent(nil, @"x", NSCommandKeyMask)]);
+  EXPECT_TRUE([view performKeyEquivalent:keyEvent(nil, @"w", NSCommandKeyMask)]);
+  EXPECT_FALSE([view performKeyEquivalent:keyEvent(nil, @",", NSCommandKeyMask, YES)]);
+  EXPECT_EQ(heard, ",x");
+  appkit::Application::setDelegate({});
   window.close();
 }
 

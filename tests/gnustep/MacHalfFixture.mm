@@ -32,8 +32,10 @@ void MacHalfFixture::when(const std::function<bool()>& condition,
                                                 repeats:YES
                                                   block:^(NSTimer* running) {
                                                     if (isDue()) {
+                                                      // The timer lets go of this block.
+                                                      const std::function<void()> acting = act;
                                                       [running invalidate];
-                                                      act();
+                                                      acting();
                                                     } else if (end.timeIntervalSinceNow < 0) {
                                                       [running invalidate];
                                                       ADD_FAILURE() << "it did not come to that";

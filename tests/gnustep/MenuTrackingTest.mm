@@ -4,10 +4,12 @@
 #include <vector>
 
 #include "Orvane/platform/appkit/Application.hpp"
+#include "Orvane/platform/appkit/MainQueue.hpp"
 #include "Orvane/platform/appkit/Menu.hpp"
 #include "Orvane/platform/appkit/StatusItem.hpp"
 #include "Orvane/ui/Button.hpp"
 #include "Orvane/ui/ShapeView.hpp"
+#include "macos/appkit/MenuImplementation.hpp"
 #include "macos/hosting/HostingContainer.hpp"
 #include "tests/gnustep/MacHalfFixture.hpp"
 
@@ -16,7 +18,7 @@ namespace {
 
 class MenuTracking : public MacHalfFixture {
  protected:
-  static void addRow(appkit::Menu& menu, std::function<void()> action) {
+  static appkit::MenuItem rowWith(std::function<void()> action) {
     appkit::MenuItem row;
     row.title = "row";
     row.action = action;
@@ -25,13 +27,21 @@ class MenuTracking : public MacHalfFixture {
     });
     view.setFrame(CGRectMake(0, 0, 180, 30));
     row.view = view;
-    menu.addItem(std::move(row));
+    return row;
+  }
+  static void addRow(appkit::Menu& menu, std::function<void()> action) {
+    menu.insertItem(0, rowWith(std::move(action)));
   }
 
   /// Opens the menu of a status item, and returns when it has been closed.
   static void open(const appkit::Menu& menu) {
     appkit::StatusItem item;
     item.setMenu(menu);
+    clickStatusItem();
+  }
+
+  /// The same with an item that is there.
+  static void clickStatusItem() {
     for (NSWindow* window in NSApp.windows) {
       if (window.visible && [window.contentView isKindOfClass:NSStatusBarButton.class]) {
         @autoreleasepool {
@@ -66,23 +76,110 @@ class MenuTracking : public MacHalfFixture {
   }
 };
 
-TEST_F(MenuTracking, ARowMayRebuildItsOwnMenu) {
+TEST_F(MenuTracking, ARowMayChangeItsOwnItemAndItsNeighbour) {
   appkit::Menu menu;
   int clicks = 0;
-  const std::function<void()> build = [&] {
-    menu.removeAllItems();
-    for (int count = 0; count < 2; ++count) {
-      addRow(menu, [&] {
-        ++clicks;
-        build();
-      });
-    }
-  };
-  menu.onWillOpen(build);
+  appkit::MenuItem clicked;
+  appkit::MenuItem neighbour = rowWith([] {});
+  clicked = rowWith([&] {
+    ++clicks;
+    NSView* const before = row(0);
+    clicked.title = "changed";
+    neighbour.isEnabled = false;
+    menu.changeItem(0, clicked);
+    menu.changeItem(1, neighbour);
+    EXPECT_EQ(row(0), before);
+  });
+  menu.insertItem(0, clicked);
+  menu.insertItem(1, neighbour);
   when(isMenuOpen, [] { clickRow(0); });
-  when([&] { return clicks > 0; }, [&] { menu.cancelTracking(); });
+  when([&] { return clicks == 1; }, [&] { clickRow(0); });
+  when([&] { return clicks == 2; },
+       [&] {
+         NSMenu* const native = menu.implementation()->menu;
+         EXPECT_STREQ([native itemAtIndex:0].title.UTF8String, "changed");
+         EXPECT_FALSE([native itemAtIndex:1].isEnabled);
+         menu.cancelTracking();
+       });
   open(menu);
-  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(MenuTracking, WhatFollowsTheClosingRunsWhenTheMenusLoopHasEnded) {
+  appkit::Menu menu;
+  int endings = 0;
+  addRow(menu, [&] {
+    menu.cancelTracking([&] {
+      ++endings;
+      EXPECT_FALSE(isMenuOpen());
+      EXPECT_TRUE([NSRunLoop.currentRunLoop.currentMode isEqual:NSDefaultRunLoopMode]);
+    });
+    EXPECT_EQ(endings, 0);
+  });
+  when(isMenuOpen, [] { clickRow(0); });
+  open(menu);
+  EXPECT_EQ(endings, 0);
+  EXPECT_TRUE(isSoon([&] { return endings == 1; }));
+}
+
+TEST_F(MenuTracking, WhatWaitsForTheEndOfAMenuWaitsWhileItIsOpen) {
+  appkit::Menu menu;
+  int runs = 0;
+  addRow(menu, [&] {
+    appkit::whenNoMenuIsTracked([&] { ++runs; });
+    appkit::MainQueue::asyncAfter(0.1, [&] {
+      EXPECT_TRUE(isMenuOpen());
+      EXPECT_EQ(runs, 0);
+      menu.cancelTracking();
+    });
+  });
+  when(isMenuOpen, [] { clickRow(0); });
+  open(menu);
+  EXPECT_TRUE(isSoon([&] { return runs == 1; }));
+}
+
+TEST_F(MenuTracking, ASwitchThatTheKeyboardChoosesLeavesTheMenuOpen) {
+  appkit::Menu menu;
+  int choices = 0;
+  int openings = 0;
+  appkit::MenuItem row = rowWith([&] { ++choices; });
+  row.keepsMenuOpen = true;
+  menu.insertItem(0, row);
+  menu.onWillOpen([&] { ++openings; });
+  appkit::StatusItem item;
+  item.setMenu(menu);
+  typeIntoMenu(@[ functionKey(NSDownArrowFunctionKey), @"\r" ]);
+  when([&] { return openings == 2 && isMenuOpen(); }, [&] { menu.cancelTracking(); });
+  clickStatusItem();
+  EXPECT_EQ(choices, 1);
+  EXPECT_TRUE(isSoon([&] { return openings == 2 && !isMenuOpen(); }));
+  letTimePass(0.05);
+  EXPECT_EQ(openings, 2);
+}
+
+TEST_F(MenuTracking, ASwitchWhoseChoiceBringsUpAnAlertLeavesTheMenuClosed) {
+  appkit::Menu menu;
+  int openings = 0;
+  appkit::Window panel(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
+                       appkit::StyleMask::titled);
+  appkit::MenuItem row = rowWith([&] {
+    when([] { return NSApp.modalWindow != nil; },
+         [] {
+           EXPECT_FALSE(isMenuOpen());
+           appkit::Application::stopModal(1001);
+         });
+    [NSApp runModalForWindow:nativeOf(panel)];
+  });
+  row.keepsMenuOpen = true;
+  menu.insertItem(0, row);
+  menu.onWillOpen([&] { ++openings; });
+  appkit::StatusItem item;
+  item.setMenu(menu);
+  typeIntoMenu(@[ functionKey(NSDownArrowFunctionKey), @"\r" ]);
+  clickStatusItem();
+  letTimePass(0.1);
+  EXPECT_EQ(openings, 1);
+  panel.close();
 }
 
 TEST_F(MenuTracking, TheButtonMayComeUpOverARowWhereItDidNotGoDown) {
@@ -104,8 +201,9 @@ TEST_F(MenuTracking, TheButtonMayComeUpOverARowWhereItDidNotGoDown) {
 TEST_F(MenuTracking, TheKeyboardLightsUpARowAndChoosesIt) {
   appkit::Menu menu;
   std::vector<int> chosen;
-  for (int index = 0; index < 2; ++index) {
-    addRow(menu, [&chosen, index] { chosen.push_back(index); });
+  for (std::size_t index = 0; index < 2; ++index) {
+    menu.insertItem(index,
+                    rowWith([&chosen, index] { chosen.push_back(static_cast<int>(index)); }));
   }
   const auto isLit = [](int index) {
     return static_cast<bool>(static_cast<OrvaneHostingContainer*>(row(index)).highlighted);
@@ -119,6 +217,9 @@ TEST_F(MenuTracking, TheKeyboardLightsUpARowAndChoosesIt) {
        });
   open(menu);
   EXPECT_EQ(chosen, std::vector<int>{1});
+  for (NSMenuItem* item in menu.implementation()->menu.itemArray) {
+    EXPECT_FALSE(static_cast<OrvaneHostingContainer*>(item.view).highlighted);
+  }
 }
 
 TEST_F(MenuTracking, AModalSessionBeginsWhenTheMenuHasClosed) {

@@ -11,6 +11,19 @@
 #include "macos/appkit/NativeWindow.hpp"
 #include "tests/gnustep/MacHalfFixture.hpp"
 
+/// Is asked whether the application may quit, and says no.
+@interface OrvaneUndecided : NSObject <NSApplicationDelegate> {
+ @public
+  int _questions;
+}
+@end
+@implementation OrvaneUndecided
+- (NSApplicationTerminateReply)applicationShouldTerminate:(NSApplication*)application {
+  ++_questions;
+  return NSTerminateCancel;
+}
+@end
+
 namespace orvane {
 namespace {
 
@@ -112,6 +125,21 @@ TEST_F(Teardown, NoMenuOpensOnceItsWindowHasGone) {
   expectNothingLeft();
 }
 
+TEST_F(Teardown, NoMenuOpensOverAWindowThatIsClosedAndKept) {
+  Window kept = show([](const ui::Environment&) -> ui::View {
+    return ui::Picker{"label", {"one", "two"}, 0, [](int) { ADD_FAILURE(); }};
+  });
+  bool hasOpened = false;
+  appkit::MainQueue::asyncAfter(0.1, [&] {
+    hasOpened = openMenuWindow() != nil;
+    [NSApp postEvent:keyEvent(openMenuWindow(), @"\x1B") atStart:NO];
+  });
+  click(nativeOf(kept), 100, 50);
+  kept.close();
+  letTimePass(0.3);
+  EXPECT_FALSE(hasOpened);
+}
+
 TEST_F(Teardown, AnAnimationDoesNotKeepItsView) {
   showAndWatch([](const ui::Environment& environment) -> ui::View {
     const auto isWide = environment.state("isWide", false);
@@ -149,6 +177,23 @@ TEST_F(Teardown, AChildIsKeptByItsParentAndClosesAlone) {
   }
   expectNothingLeft();
   parent.close();
+}
+
+TEST_F(Teardown, AModalSessionDoesNotKeepTheApplicationFromQuitting) {
+  OrvaneUndecided* const undecided = [[OrvaneUndecided alloc] init];
+  NSApp.delegate = undecided;
+  Window panel(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
+               appkit::StyleMask::titled);
+  appkit::MainQueue::async([panel] { appkit::Application::runModal(panel, [](int) {}); });
+  when([] { return NSApp.modalWindow != nil; },
+       [] {
+         appkit::Application::terminate();
+         appkit::Application::stopModal(1001);
+       });
+  EXPECT_TRUE(isSoon([&] { return undecided->_questions == 1; }));
+  letTimePass(0.05);
+  NSApp.delegate = nil;
+  panel.close();
 }
 
 TEST_F(Teardown, AModalPanelGoesWithItsSession) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "Orvane/platform/appkit/Workspace.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/StandardColors.hpp"
@@ -54,6 +55,24 @@ TEST_F(Translation, EveryKeyOfTheKitHasOneOfTheMac) {
   EXPECT_FALSE(appkit::isRepeatedActivation(mouseEvent(nil, NSLeftMouseDown, 0, 0)));
   EXPECT_FALSE(appkit::isRepeatedActivation(keyEvent(nil, @"\t", 0, YES)));
   EXPECT_TRUE(appkit::isRepeatedActivation(keyEvent(nil, @" ", 0, YES)));
+}
+
+TEST_F(Translation, WithCommandAKeyIsWhatALayoutOfAnotherScriptTypesThen) {
+  const auto russian = [](NSUInteger modifiers) {
+    NSEvent* const event = [NSEvent keyEventWithType:NSKeyDown
+                                            location:NSZeroPoint
+                                       modifierFlags:modifiers
+                                           timestamp:0
+                                        windowNumber:0
+                                             context:nil
+                                          characters:@"w"
+                         charactersIgnoringModifiers:@"\u0446"
+                                           isARepeat:NO
+                                             keyCode:0];
+    return appkit::keyEventFrom(event);
+  };
+  EXPECT_TRUE(ui::KeyboardShortcut::command("w").matches(*russian(NSCommandKeyMask)));
+  EXPECT_EQ(russian(NSAlternateKeyMask)->characters, "ц");
 }
 
 TEST_F(Translation, ASystemColourIsThatOfTheAppearanceThatIsAskedFor) {
@@ -196,6 +215,21 @@ TEST_F(CanvasOnMac, AShadowFallsDownwardsAndOutsideOfItsShape) {
   EXPECT_EQ(pixel(10, 8), 0U);
   EXPECT_EQ(pixel(10, 13), 0xFF000000U);
   EXPECT_EQ(pixel(10, 2), 0U);
+}
+
+TEST_F(Translation, WhetherALinkWasOpenedIsToldOnTheMainThread) {
+  int answers = 0;
+  gnustep::world().refusedLinkPrefix = "refused:";
+  int expected = 0;
+  for (const char* const link : {"refused:link", "a:link"}) {
+    appkit::Workspace::openURL(link, [&](bool isOpened) {
+      EXPECT_TRUE(NSThread.isMainThread);
+      EXPECT_EQ(isOpened, gnustep::world().openedLinks.size() == 1);
+      ++answers;
+    });
+    ++expected;
+    EXPECT_TRUE(isSoon([&] { return answers == expected; }));
+  }
 }
 
 TEST_F(Translation, ADragWithoutAFileBeginsNothing) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "Orvane/platform/appkit/StatusItem.hpp"
 #include "Orvane/ui/Button.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
@@ -112,6 +113,25 @@ TEST_F(VoiceOver, AListenerHearsOfAChangeWithoutAsking) {
   letTimePass(0.05);
   EXPECT_TRUE(wasTold(NSAccessibilityLayoutChangedNotification));
   window.close();
+}
+
+TEST_F(VoiceOver, TheStatusItemSaysItsValueAndThatItHasChanged) {
+  appkit::StatusItem item;
+  NSStatusBarButton* button = nil;
+  for (NSWindow* window in NSApp.windows) {
+    if (window.visible && [window.contentView isKindOfClass:NSStatusBarButton.class]) {
+      button = static_cast<NSStatusBarButton*>(window.contentView);
+    }
+  }
+  item.setAccessibilityValue("Unlocked");
+  EXPECT_STREQ([button.accessibilityValue UTF8String], "Unlocked");
+  world().announcements.clear();
+  item.setAccessibilityValue("Locked");
+  EXPECT_STREQ([button.accessibilityValue UTF8String], "Locked");
+  EXPECT_TRUE(wasTold(NSAccessibilityValueChangedNotification));
+  world().announcements.clear();
+  item.setAccessibilityValue("Locked");
+  EXPECT_TRUE(world().announcements.empty());
 }
 
 TEST_F(VoiceOver, AnElementThatGoesAndANewValueAreTold) {

@@ -276,6 +276,8 @@ TEST_F(DockMouseGuardTest, TheDesktopAndDockSettingsOpenByTheNewLink) {
 TEST_F(DockMouseGuardTest, ARefusedSettingsLinkGivesWayToTheNext) {
   machine.links.refuse("x-apple.systempreferences:com.apple.Desktop");
   DockMouseGuard::openDesktopAndDockSettings();
+  EXPECT_EQ(openedLinks(machine).size(), 1U) << "nobody waits for the answer";
+  machine.runDue();
   EXPECT_EQ(openedLinks(machine),
             (Messages{"x-apple.systempreferences:com.apple.Desktop-Settings.extension refused",
                       "x-apple.systempreferences:com.apple.preference.dock"}));
@@ -284,6 +286,7 @@ TEST_F(DockMouseGuardTest, ARefusedSettingsLinkGivesWayToTheNext) {
 TEST_F(DockMouseGuardTest, WhenEveryLinkIsRefusedTheSettingsThemselvesAreOpened) {
   machine.links.refuse("x-apple.systempreferences:");
   DockMouseGuard::openDesktopAndDockSettings();
+  machine.runDue();
   EXPECT_EQ(openedLinks(machine),
             (Messages{"x-apple.systempreferences:com.apple.Desktop-Settings.extension refused",
                       "x-apple.systempreferences:com.apple.preference.dock refused",

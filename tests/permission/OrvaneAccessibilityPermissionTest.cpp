@@ -133,10 +133,12 @@ TEST_F(OrvaneAccessibilityPermissionTest, RefusedLinksGiveWayInOrder) {
   const std::string refused = " refused";
   machine.links.refuse("x-apple.systempreferences:com.apple.settings");
   OrvaneAccessibilityPermission::openSystemSettings();
+  machine.runDue();
   EXPECT_EQ(openedLinks(), (std::vector<std::string>{newPane + refused, olderPane}));
 
   machine.links.refuse(olderPane);
   OrvaneAccessibilityPermission::openSystemSettings();
+  machine.runDue();
   const std::vector<std::string> opened = openedLinks();
   EXPECT_EQ(
       std::vector<std::string>(opened.begin() + 2, opened.end()),
@@ -147,6 +149,7 @@ TEST_F(OrvaneAccessibilityPermissionTest, WhenEveryLinkIsRefusedTheSettingsThems
   const std::string refused = " refused";
   machine.links.refuse("x-apple.systempreferences:");
   OrvaneAccessibilityPermission::openSystemSettings();
+  machine.runDue();
   EXPECT_EQ(openedLinks(),
             (std::vector<std::string>{newPane + refused, olderPane + refused,
                                       olderPaneWithoutAnchor + refused,

@@ -27,6 +27,13 @@ class MenuTrackerTest : public WindowFixture {
     made.view = view;
     return made;
   }
+  /// As the last item.
+  void add(MenuItem made) { menu.insertItem(count++, std::move(made)); }
+  void clear() {
+    while (count > 0) {
+      menu.removeItem(--count);
+    }
+  }
   /// A click on the status item of the first display.
   void clickItem() { click({1000 - 14 - 112 - 32 * 3 + 16, 12}); }
   [[nodiscard]] bool isOpen() { return server().menus.isOpen(); }
@@ -36,11 +43,12 @@ class MenuTrackerTest : public WindowFixture {
   }
 
   Menu menu;
+  std::size_t count = 0;
   appkit::StatusItem item;
 };
 
 TEST_F(MenuTrackerTest, AClickOnTheItemOpensTheMenuUnderItAndAnotherClosesIt) {
-  menu.addItem(row("Row", [] {}));
+  add(row("Row", [] {}));
   clickItem();
   ASSERT_TRUE(isOpen());
   EXPECT_EQ(server().menus.frame().origin.y, 24);
@@ -51,7 +59,7 @@ TEST_F(MenuTrackerTest, AClickOnTheItemOpensTheMenuUnderItAndAnotherClosesIt) {
 }
 
 TEST_F(MenuTrackerTest, ItOpensOnTheDisplayThatWasClicked) {
-  menu.addItem(row("Row", [] {}));
+  add(row("Row", [] {}));
   click({2000 - 14 - 112 - 32 * 3 + 16, 12});
   ASSERT_TRUE(isOpen());
   EXPECT_EQ(server().menus.displayIndex(), 1U);
@@ -63,8 +71,8 @@ TEST_F(MenuTrackerTest, WhatIsToldThatItOpensMayFillIt) {
   int told = 0;
   menu.onWillOpen([&] {
     ++told;
-    menu.removeAllItems();
-    menu.addItem(row("Fresh", [] {}));
+    clear();
+    add(row("Fresh", [] {}));
   });
   clickItem();
   EXPECT_EQ(told, 1);
@@ -73,7 +81,7 @@ TEST_F(MenuTrackerTest, WhatIsToldThatItOpensMayFillIt) {
 }
 
 TEST_F(MenuTrackerTest, WhileItIsOpenStandardTimersWait) {
-  menu.addItem(row("Row", [] {}));
+  add(row("Row", [] {}));
   int ticks = 0;
   const auto timer = appkit::Timer::repeating(1, appkit::RunLoopMode::standard, [&] { ++ticks; });
   clickItem();
@@ -86,7 +94,7 @@ TEST_F(MenuTrackerTest, WhileItIsOpenStandardTimersWait) {
 
 TEST_F(MenuTrackerTest, AClickInARowsViewRunsItAndLeavesTheMenuOpen) {
   int runs = 0;
-  menu.addItem(row("Row", [&] { ++runs; }));
+  add(row("Row", [&] { ++runs; }));
   clickItem();
   click(middleOfRow(0));
   EXPECT_EQ(runs, 1);
@@ -97,11 +105,11 @@ TEST_F(MenuTrackerTest, ItemsMayBeReplacedByTheActionOfOneOfThem) {
   int runs = 0;
   std::function<void()> action = [&] {
     ++runs;
-    menu.removeAllItems();
-    menu.addItem(row("Second", action));
-    menu.addItem(row("Third", action));
+    clear();
+    add(row("Second", action));
+    add(row("Third", action));
   };
-  menu.addItem(row("First", action));
+  add(row("First", action));
   clickItem();
   click(middleOfRow(0));
   EXPECT_EQ(server().menus.rows().size(), 2U);
@@ -112,7 +120,7 @@ TEST_F(MenuTrackerTest, ItemsMayBeReplacedByTheActionOfOneOfThem) {
 
 TEST_F(MenuTrackerTest, AnActionMayCloseTheMenuFirst) {
   bool wasOpen = true;
-  menu.addItem(row("Row", [&] {
+  add(row("Row", [&] {
     menu.cancelTracking();
     wasOpen = isOpen();
   }));
@@ -122,12 +130,44 @@ TEST_F(MenuTrackerTest, AnActionMayCloseTheMenuFirst) {
   EXPECT_FALSE(isOpen());
 }
 
+TEST_F(MenuTrackerTest, WhatFollowsItsClosingComesWhenTheActionHasReturned) {
+  int endings = 0;
+  add(row("Row", [&] {
+    menu.cancelTracking([&] {
+      ++endings;
+      EXPECT_FALSE(isOpen());
+      EXPECT_EQ(machine.runLoop.mode(), RunLoop::Mode::standard);
+    });
+    EXPECT_EQ(endings, 0);
+  }));
+  clickItem();
+  click(middleOfRow(0));
+  EXPECT_EQ(endings, 1);
+}
+
+TEST_F(MenuTrackerTest, AnItemThatChangesKeepsItsViewAndTheMenuOpen) {
+  MenuItem changing = row("Before", [] {});
+  add(changing);
+  add(row("Last", [] {}));
+  clickItem();
+  const auto view = server().menus.rows().front().view;
+  changing.title = "After";
+  changing.isEnabled = false;
+  menu.changeItem(0, changing);
+  machine.runDue();
+  ASSERT_TRUE(isOpen());
+  EXPECT_EQ(server().menus.rows().front().view, view);
+  EXPECT_TRUE(view->isOnScreen());
+  EXPECT_EQ(server().menus.menu()->items.front().title, "After");
+  EXPECT_FALSE(server().menus.choose(0));
+}
+
 TEST_F(MenuTrackerTest, AClickOutsideClosesTheMenuAndReachesNobody) {
   int clicks = 0;
   appkit::Window window = makeWindow({0, 0});
   window.setContentView(hosting(wideButton("Button", [&] { ++clicks; })));
   window.orderFrontRegardless();
-  menu.addItem(row("Row", [] {}));
+  add(row("Row", [] {}));
   clickItem();
   click({100, 750});
   EXPECT_FALSE(isOpen());
@@ -136,14 +176,14 @@ TEST_F(MenuTrackerTest, AClickOutsideClosesTheMenuAndReachesNobody) {
 
 TEST_F(MenuTrackerTest, TheKeyboardGoesOverEnabledItemsAndChooses) {
   std::string chosen;
-  menu.addItem(plain("First", [&] { chosen += "first "; }));
-  menu.addItem(MenuItem::separator());
+  add(plain("First", [&] { chosen += "first "; }));
+  add(MenuItem::separator());
   MenuItem disabled = plain("Off", [&] { chosen += "off "; });
   disabled.isEnabled = false;
-  menu.addItem(disabled);
+  add(disabled);
   MenuItem keeps = plain("Keeps", [&] { chosen += "keeps "; });
   keeps.keepsMenuOpen = true;
-  menu.addItem(keeps);
+  add(keeps);
   clickItem();
   EXPECT_TRUE(key(ui::Key::enter));
   EXPECT_EQ(chosen, "");
@@ -161,7 +201,7 @@ TEST_F(MenuTrackerTest, TheKeyboardGoesOverEnabledItemsAndChooses) {
 
 TEST_F(MenuTrackerTest, TheKeyboardGoesOnFromWhereThePointerIs) {
   for (const char* const title : {"First", "Second", "Third"}) {
-    menu.addItem(row(title, [] {}));
+    add(row(title, [] {}));
   }
   clickItem();
   moveTo(middleOfRow(1));
@@ -173,8 +213,8 @@ TEST_F(MenuTrackerTest, TheKeyboardGoesOnFromWhereThePointerIs) {
 
 TEST_F(MenuTrackerTest, ReturnChoosesTheRowUnderThePointer) {
   std::string chosen;
-  menu.addItem(row("First", [&] { chosen = "first"; }));
-  menu.addItem(row("Second", [&] { chosen = "second"; }));
+  add(row("First", [&] { chosen = "first"; }));
+  add(row("Second", [&] { chosen = "second"; }));
   clickItem();
   moveTo(middleOfRow(1));
   key(ui::Key::enter);
@@ -187,8 +227,8 @@ TEST_F(MenuTrackerTest, TheKeyboardTakesTheHoverAwayUntilThePointerMovesAgain) {
   hovering.view =
       hosting(wideButton("First", [] {}).onHover([&](bool isInside) { isHovered = isInside; }));
   hovering.view->setFrame(CGRectMake(0, 0, 200, 30));
-  menu.addItem(hovering);
-  menu.addItem(row("Second", [] {}));
+  add(hovering);
+  add(row("Second", [] {}));
   clickItem();
   moveTo(middleOfRow(0));
   EXPECT_TRUE(isHovered);
@@ -202,11 +242,11 @@ TEST_F(MenuTrackerTest, TheKeyboardTakesTheHoverAwayUntilThePointerMovesAgain) {
 
 TEST_F(MenuTrackerTest, TypingFindsTheNextItemThatBeginsSo) {
   for (const char* const title : {"Pear", "Apple", "plum"}) {
-    menu.addItem(plain(title, [] {}));
+    add(plain(title, [] {}));
   }
   MenuItem disabled = plain("Peach", [] {});
   disabled.isEnabled = false;
-  menu.addItem(disabled);
+  add(disabled);
   clickItem();
   const auto type = [&](const std::string& characters) {
     server().keyDown({ui::Key::character, {}, characters});
@@ -226,7 +266,7 @@ TEST_F(MenuTrackerTest, TypingFindsTheNextItemThatBeginsSo) {
 
 TEST_F(MenuTrackerTest, EscapeClosesWithoutChoosing) {
   int runs = 0;
-  menu.addItem(plain("Item", [&] { ++runs; }));
+  add(plain("Item", [&] { ++runs; }));
   clickItem();
   key(ui::Key::down);
   key(ui::Key::escape);
@@ -236,14 +276,14 @@ TEST_F(MenuTrackerTest, EscapeClosesWithoutChoosing) {
 
 TEST_F(MenuTrackerTest, AClickOnAPlainItemClosesAndThenRunsIt) {
   bool wasOpen = true;
-  menu.addItem(plain("Item", [&] { wasOpen = isOpen(); }));
+  add(plain("Item", [&] { wasOpen = isOpen(); }));
   clickItem();
   click(middleOfRow(0));
   EXPECT_FALSE(wasOpen);
 }
 
 TEST_F(MenuTrackerTest, AModalSessionKeepsTheMenuBack) {
-  menu.addItem(row("Row", [] {}));
+  add(row("Row", [] {}));
   appkit::Window panel = makeWindow({0, 0});
   appkit::Application::runModal(panel, [](int) {});
   clickItem();
@@ -269,7 +309,7 @@ TEST_F(MenuTrackerTest, APickerOpensItsMenuOverItselfAndReportsTheChoice) {
 TEST_F(MenuTrackerTest, AnItemThatGoesTakesItsMenuAlong) {
   {
     appkit::StatusItem moved = std::move(item);
-    menu.addItem(row("Row", [] {}));
+    add(row("Row", [] {}));
     clickItem();
     EXPECT_TRUE(isOpen());
   }

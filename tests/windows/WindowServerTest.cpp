@@ -131,8 +131,10 @@ TEST_F(WindowServerTest, TheEndOfTheProcessTakesItsWindowsWithoutAWordButLeavesT
 
 TEST_F(WindowServerTest, TerminatingTellsTheDelegateOnceAndEndsTheProcessAfterwards) {
   int told = 0;
-  appkit::Application::setDelegate(
-      {.didFinishLaunching = {}, .shouldHandleReopen = {}, .willTerminate = [&] { ++told; }});
+  appkit::Application::setDelegate({.didFinishLaunching = {},
+                                    .shouldHandleReopen = {},
+                                    .performKeyEquivalent = {},
+                                    .willTerminate = [&] { ++told; }});
   appkit::Application::terminate();
   appkit::Application::terminate();
   EXPECT_TRUE(machine.process.isRunning());

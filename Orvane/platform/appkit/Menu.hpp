@@ -1,6 +1,7 @@
 // Menus whose items may hold views; NSMenu and NSMenuItem on a Mac.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -35,18 +36,23 @@ struct MenuItem {
   }
 };
 
-/// A handle; copies name the same menu. Main thread only. Items may be replaced while it is open.
+/// A handle; copies name the same menu. Main thread only. Items may come, change and go while it is
+/// open. Each index is that of an item, or the number of items where one is inserted.
 class Menu {
  public:
   Menu();
 
-  void removeAllItems();
-  void addItem(MenuItem item);
+  void insertItem(std::size_t index, MenuItem item);
+  /// The item, which is no separator, becomes as this one, also while it is being chosen. The view
+  /// that it shows stays where it is when it is the same.
+  void changeItem(std::size_t index, MenuItem item);
+  void removeItem(std::size_t index);
 
   /// Called when the menu is about to be shown.
   void onWillOpen(std::function<void()> willOpen);
-  /// Closes the menu if it is open, without choosing anything.
-  void cancelTracking();
+  /// Closes the menu if it is open, without choosing anything. `ended`, which may be null, is
+  /// called once the caller has returned and no menu is open.
+  void cancelTracking(std::function<void()> ended = nullptr);
 
   struct Implementation;
   [[nodiscard]] const std::shared_ptr<Implementation>& implementation() const {

@@ -29,6 +29,8 @@ class StatusItem {
   void setImageScaling(ImageScaling scaling);
   /// None leaves the button without an image.
   void setImage(const std::optional<Image>& image);
+  /// What VoiceOver says of the item's state, after its image's description.
+  void setAccessibilityValue(std::string_view value);
   /// A click on the item opens the menu.
   void setMenu(const Menu& menu);
   /// Under this name the system remembers where the user put the item.

@@ -75,6 +75,31 @@ NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification =
 - (BOOL)isVoiceOverEnabled {
   return world().isVoiceOverOn;
 }
+- (void)openURL:(NSURL*)url
+        configuration:(NSWorkspaceOpenConfiguration*)configuration
+    completionHandler:(void (^)(NSRunningApplication*, NSError*))handler {
+  const std::string link = url.absoluteString.UTF8String;
+  const std::string& refused = world().refusedLinkPrefix;
+  if (url.scheme.length > 0 && (refused.empty() || !link.starts_with(refused))) {
+    world().openedLinks.push_back(link);
+    dispatch_async(dispatch_get_global_queue(0, 0), ^{
+      handler(NSRunningApplication.currentApplication, nil);
+    });
+  } else if (!configuration.promptsUserIfNeeded) {
+    // Otherwise the user would have to dismiss the system's message first, and there is none.
+    dispatch_async(dispatch_get_global_queue(0, 0), ^{
+      handler(nil, [NSError errorWithDomain:NSCocoaErrorDomain code:256 userInfo:nil]);
+    });
+  }
+}
+@end
+
+@implementation NSWorkspaceOpenConfiguration
++ (instancetype)configuration {
+  NSWorkspaceOpenConfiguration* const configuration = [[self alloc] init];
+  configuration.promptsUserIfNeeded = YES;
+  return configuration;
+}
 @end
 
 @implementation NSURL (OrvaneShim)
@@ -212,18 +237,6 @@ void installLocale() {
       });
 }
 
-void installLinks() {
-  replaceMethod(NSWorkspace.class, @selector(openURL:), ^BOOL(NSWorkspace*, NSURL* url) {
-    const std::string link = url.absoluteString.UTF8String;
-    const std::string& refused = world().refusedLinkPrefix;
-    if (url.scheme.length == 0 || (!refused.empty() && link.starts_with(refused))) {
-      return NO;
-    }
-    world().openedLinks.push_back(link);
-    return YES;
-  });
-}
-
 // GNUstep knows nothing of volumes.
 void installVolumes() {
   replaceMethod(NSURL.class, @selector(getResourceValue:forKey:error:),
@@ -262,7 +275,6 @@ void installCopies() {
 void installSurroundings() {
   installDisplays();
   installLocale();
-  installLinks();
   installVolumes();
   installCopies();
   // GNUstep opens what stands on the command line, and says in a window that it cannot.

@@ -7,6 +7,7 @@ namespace {
 
 const char styleMaskKey = 0;
 const char behaviorKey = 0;
+const char preventsTerminationKey = 0;
 
 }  // namespace
 
@@ -15,6 +16,14 @@ const char behaviorKey = 0;
 ORVANE_STORED_OBJECT(NSString*, identifier, setIdentifier, OBJC_ASSOCIATION_COPY)
 ORVANE_STORED_NUMBER(NSWindowTitleVisibility, titleVisibility, setTitleVisibility, integerValue)
 ORVANE_STORED_NUMBER(BOOL, titlebarAppearsTransparent, setTitlebarAppearsTransparent, boolValue)
+
+- (BOOL)preventsApplicationTerminationWhenModal {
+  NSNumber* const prevents = objc_getAssociatedObject(self, &preventsTerminationKey);
+  return prevents == nil || prevents.boolValue;
+}
+- (void)setPreventsApplicationTerminationWhenModal:(BOOL)prevents {
+  objc_setAssociatedObject(self, &preventsTerminationKey, @(prevents), OBJC_ASSOCIATION_RETAIN);
+}
 
 - (void)performWindowDragWithEvent:(NSEvent*)event {
   const NSPoint start = event.locationInWindow;
@@ -33,6 +42,7 @@ ORVANE_STORED_NUMBER(BOOL, titlebarAppearsTransparent, setTitlebarAppearsTranspa
 @end
 
 @implementation NSButton (OrvaneShim)
+ORVANE_STORED_OBJECT(id, accessibilityValue, setAccessibilityValue, OBJC_ASSOCIATION_RETAIN)
 - (NSImageScaling)imageScaling {
   return [self.cell imageScaling];
 }
@@ -79,6 +89,12 @@ void installDecorations() {
 
 void installWindows() {
   installDecorations();
+  static IMP const terminate = replaceMethod(
+      NSApplication.class, @selector(terminate:), ^(NSApplication* application, id sender) {
+        if (!application.modalWindow.preventsApplicationTerminationWhenModal) {
+          callReplaced<void, id>(terminate, application, @selector(terminate:), sender);
+        }
+      });
   // The mask is remembered to its last bit; GNUstep sees what it can take.
   static const SEL initialise = @selector(initWithContentRect:styleMask:backing:defer:);
   static IMP const init = replaceMethod(

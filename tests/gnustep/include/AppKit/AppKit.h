@@ -68,6 +68,7 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 @property(copy) NSString* identifier;
 @property NSWindowTitleVisibility titleVisibility;
 @property BOOL titlebarAppearsTransparent;
+@property BOOL preventsApplicationTerminationWhenModal;
 - (void)performWindowDragWithEvent:(NSEvent*)event;
 @end
 
@@ -128,6 +129,7 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 @end
 
 @interface NSButton (OrvaneShim)
+@property(retain) id accessibilityValue;
 @property NSImageScaling imageScaling;
 @end
 
@@ -151,11 +153,19 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 @property(readonly) NSInteger maximumFramesPerSecond;
 @end
 
+@interface NSWorkspaceOpenConfiguration : NSObject
++ (instancetype)configuration;
+@property BOOL promptsUserIfNeeded;
+@end
+
 @interface NSWorkspace (OrvaneShim)
 @property(readonly) BOOL accessibilityDisplayShouldIncreaseContrast;
 @property(readonly) BOOL accessibilityDisplayShouldReduceTransparency;
 @property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
 @property(readonly, getter=isVoiceOverEnabled) BOOL voiceOverEnabled;
+- (void)openURL:(NSURL*)url
+        configuration:(NSWorkspaceOpenConfiguration*)configuration
+    completionHandler:(void (^)(NSRunningApplication* application, NSError* error))handler;
 @end
 
 @interface NSColor (OrvaneShim)

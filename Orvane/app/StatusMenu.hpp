@@ -1,0 +1,54 @@
+// The menu under the status item as a list of entries.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <variant>
+#include <vector>
+
+#include "Orvane/app/StatusMenuRow.hpp"
+#include "Orvane/app/StatusMenuSectionHeader.hpp"
+#include "Orvane/platform/Quartz.hpp"
+#include "Orvane/platform/appkit/HostingView.hpp"
+#include "Orvane/platform/appkit/Menu.hpp"
+
+namespace orvane {
+
+struct StatusMenuSeparator {};
+
+using StatusMenuEntry = std::variant<StatusMenuSeparator, StatusMenuSectionHeader, StatusMenuRow>;
+
+/// Main thread only.
+class StatusMenu {
+ public:
+  /// In points.
+  explicit StatusMenu(double headerWidth) : headerWidth_(headerWidth) {}
+
+  /// Shows these entries and no others. An item stays, with its view, where the entry is of the
+  /// same kind as before: a row may ask for this from within its own click, while the menu is open.
+  void show(const std::vector<StatusMenuEntry>& entries);
+
+  [[nodiscard]] appkit::Menu& menu() { return menu_; }
+
+ private:
+  struct Shown {
+    /// What the view reads.
+    std::shared_ptr<StatusMenuEntry> entry;
+    std::optional<appkit::HostingView> view;
+  };
+
+  [[nodiscard]] CGSize sizeOf(const StatusMenuEntry& entry) const;
+  /// None for a separator, which the menu draws.
+  [[nodiscard]] std::optional<appkit::HostingView> viewOf(
+      const std::shared_ptr<StatusMenuEntry>& entry) const;
+  void insert(std::size_t index, const StatusMenuEntry& entry);
+  void change(std::size_t index, const StatusMenuEntry& entry);
+  void remove(std::size_t index);
+
+  double headerWidth_;
+  appkit::Menu menu_;
+  std::vector<Shown> shown_;
+};
+
+}  // namespace orvane

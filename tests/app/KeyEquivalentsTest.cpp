@@ -1,0 +1,99 @@
+// The keys that mean the same in every application, in whichever of its windows they are pressed.
+#include <string>
+
+#include "Orvane/permission/OrvanePermissionAlert.hpp"
+#include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
+#include "tests/app/AppFixture.hpp"
+
+namespace orvane {
+namespace {
+
+class KeyEquivalentsTest : public AppFixture {
+ protected:
+  KeyEquivalentsTest() { begin(); }
+
+  bool command(const std::string& character) {
+    const bool isDone =
+        server().keyDown({ui::Key::character, {false, false, false, true}, character});
+    machine.runDue();
+    return isDone;
+  }
+  [[nodiscard]] bool isThere(const std::string& surface) {
+    return desk::Surfaces(server()).isThere(surface);
+  }
+  void showSettings() {
+    application.reopen();
+    ASSERT_TRUE(command(","));
+  }
+  void showAlert() {
+    OrvanePermissionAlert::show(nullptr);
+    machine.runDue();
+    ASSERT_TRUE(isThere("alert"));
+  }
+  void showGuide() {
+    OrvanePermissionGuideWindowController::shared().show(nullptr);
+    machine.runDue();
+    ASSERT_TRUE(isThere("guide"));
+  }
+};
+
+TEST_F(KeyEquivalentsTest, CommandCommaOpensTheSettings) {
+  application.reopen();
+  EXPECT_FALSE(isThere("settings"));
+  EXPECT_TRUE(command(","));
+  EXPECT_TRUE(isThere("settings"));
+  EXPECT_TRUE(command("w"));
+  EXPECT_FALSE(isThere("settings"));
+  EXPECT_TRUE(isThere("main"));
+}
+
+TEST_F(KeyEquivalentsTest, CommandQQuitsFromThePanels) {
+  application.reopen();
+  EXPECT_TRUE(command("q"));
+  EXPECT_FALSE(application.isRunning());
+  application.launch();
+  showSettings();
+  EXPECT_TRUE(command("q"));
+  EXPECT_FALSE(application.isRunning());
+}
+
+TEST_F(KeyEquivalentsTest, CommandQQuitsFromTheGuide) {
+  showGuide();
+  ASSERT_FALSE(server().focus.isActive()) << "it takes keys without activating the application";
+  EXPECT_TRUE(command("q"));
+  EXPECT_FALSE(application.isRunning());
+}
+
+TEST_F(KeyEquivalentsTest, CommandHHidesUntilTheApplicationIsOpenedAgain) {
+  application.reopen();
+  EXPECT_TRUE(command("h"));
+  EXPECT_FALSE(server().focus.isActive());
+  EXPECT_FALSE(isThere("main"));
+  EXPECT_FALSE(command("q")) << "there is no window that keys go to";
+  application.reopen();
+  EXPECT_TRUE(isThere("main"));
+  EXPECT_TRUE(server().focus.isActive());
+}
+
+TEST_F(KeyEquivalentsTest, AnAlertCanBeQuitButNotPassedOver) {
+  application.reopen();
+  showAlert();
+  EXPECT_FALSE(command(","));
+  EXPECT_FALSE(command("h"));
+  EXPECT_TRUE(isThere("alert"));
+  EXPECT_FALSE(isThere("settings"));
+  EXPECT_TRUE(command("q"));
+  EXPECT_FALSE(application.isRunning());
+}
+
+TEST_F(KeyEquivalentsTest, OtherKeysMeanNothing) {
+  application.reopen();
+  EXPECT_FALSE(command("n"));
+  EXPECT_FALSE(server().keyDown({ui::Key::character, {}, "q"}));
+  EXPECT_FALSE(server().keyDown({ui::Key::character, {true, false, false, true}, "q"}));
+  machine.runDue();
+  EXPECT_TRUE(application.isRunning());
+}
+
+}  // namespace
+}  // namespace orvane
