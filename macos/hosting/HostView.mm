@@ -358,7 +358,9 @@ ui::TextMeasurer& textMeasurer() {
   const ui::MenuRequest kept = request;
   [NSRunLoop.mainRunLoop performInModes:@[ NSRunLoopCommonModes ]
                                   block:^{
-                                    if (OrvaneHostView* const view = weakSelf; view != nil) {
+                                    // Its window may have been closed in between.
+                                    OrvaneHostView* const view = weakSelf;
+                                    if (view.window.visible) {
                                       appkit::runPopUpMenu(kept, view);
                                     }
                                   }];
