@@ -10,7 +10,8 @@ namespace {
 
 bool comesBefore(const RunningCopy& first, const RunningCopy& second) {
   const auto rank = [](const RunningCopy& copy) {
-    return std::tuple(!copy.launchedAt, copy.launchedAt.value_or(0), copy.processID);
+    return std::tuple(!copy.isRunning, !copy.launchedAt, copy.launchedAt.value_or(0),
+                      copy.processID);
   };
   return rank(first) < rank(second);
 }

@@ -18,6 +18,9 @@ struct TextLine {
   friend bool operator==(const TextLine&, const TextLine&) = default;
 };
 
+// From one line to the next are whole points, as in the system's own labels.
+double lineHeightFor(double ascent, double descent);
+
 // A broken paragraph. The baseline of line i is ascent + i * lineHeight below the top.
 struct TextLayout {
   std::vector<TextLine> lines;

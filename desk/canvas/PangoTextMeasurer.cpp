@@ -76,6 +76,7 @@ ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::F
         layout.lines.back() = cutLine(layout.lines.back().text, font, maximumWidth);
         layout.isTruncated = true;
       }
+      layout.lineHeight = ui::lineHeightFor(layout.ascent, layout.lineHeight - layout.ascent);
       return layout;
     }
     from = feed + 1;

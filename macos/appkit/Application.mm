@@ -68,7 +68,11 @@ void Application::setActivationPolicy(ActivationPolicy policy) {
 }
 
 void Application::activateIgnoringOtherApps() {
-  [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
+  if (@available(macOS 14, *)) {
+    [NSApplication.sharedApplication activate];
+  } else {
+    [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
+  }
 }
 
 void Application::hide() {

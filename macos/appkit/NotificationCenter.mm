@@ -19,7 +19,9 @@
 - (void)receive:(NSNotification*)notification {
   // The block may end its own registration.
   const std::function<void()> running = _block;
-  running();
+  @autoreleasepool {
+    running();
+  }
 }
 
 @end

@@ -10,8 +10,9 @@
 namespace orvane::appkit {
 namespace {
 
-/// Whether the application is quitting. Taking an item out of the bar makes the system forget where
-/// its user had put it; at the end of the process it goes by itself, and its place is kept.
+/// Whether the application is quitting. Taking an item out of the bar, as its end does, makes the
+/// system forget where its user had put it; with the process it goes by itself, and its place is
+/// kept.
 bool& isQuitting() {
   static bool quitting = false;
   return quitting;
@@ -40,7 +41,10 @@ struct StatusItem::Implementation {
   Implementation(const Implementation&) = delete;
   Implementation& operator=(const Implementation&) = delete;
   ~Implementation() {
-    if (!isQuitting()) {
+    if (isQuitting()) {
+      // A reference for good.
+      (void)(__bridge_retained void*)item;
+    } else {
       [NSStatusBar.systemStatusBar removeStatusItem:item];
     }
   }

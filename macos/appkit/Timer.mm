@@ -45,9 +45,12 @@ Timer Timer::repeating(double intervalSeconds, RunLoopMode mode, std::function<v
                                                   interval:intervalSeconds
                                                    repeats:YES
                                                      block:^(NSTimer*) {
-                                                       // A tick may end its own timer.
+                                                       // A tick may end its own timer. At rest
+                                                       // no event comes to empty a pool.
                                                        const std::function<void()> running = tick;
-                                                       running();
+                                                       @autoreleasepool {
+                                                         running();
+                                                       }
                                                      }];
   [liveTimers() addObject:timer];
   // What the header advises for repeating timers: the Mac may wake up for several at once. Later

@@ -5,7 +5,6 @@
 #import <CoreText/CoreText.h>
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 #include "macos/appkit/Strings.hpp"
@@ -25,8 +24,23 @@ NSAttributedString* attributed(NSString* text, const ui::Font& font, const ui::R
           }];
 }
 
+struct LineBounds {
+  CGFloat width = 0;
+  CGFloat ascent = 0;
+  CGFloat descent = 0;
+  CGFloat leading = 0;
+};
+
+/// With the fonts that take the place of the system's for what that has not, such as Chinese.
+LineBounds lineBounds(NSString* text, const ui::Font& font) {
+  LineBounds bounds;
+  bounds.width = CTLineGetTypographicBounds(textLine(text, font).get(), &bounds.ascent,
+                                            &bounds.descent, &bounds.leading);
+  return bounds;
+}
+
 double lineWidth(NSString* text, const ui::Font& font) {
-  return CTLineGetTypographicBounds(textLine(text, font).get(), nullptr, nullptr, nullptr);
+  return lineBounds(text, font).width;
 }
 
 NSString* withoutTrailingBlanks(NSString* text) {
@@ -99,14 +113,16 @@ ui::TextLayout CoreTextMeasurer::layout(const std::string& text, const ui::Font&
     lines.resize(limit);
     lines.back().text = truncated(lines.back().rest, font, allowed);
   }
-  for (const BrokenLine& line : lines) {
-    layout.lines.push_back({utf8String(line.text), lineWidth(line.text, font)});
-  }
   NSFont* const platformFont = systemFont(font);
   layout.ascent = platformFont.ascender;
-  // Whole points from line to line, as the system's own labels have them.
-  layout.lineHeight =
-      std::ceil(platformFont.ascender - platformFont.descender + platformFont.leading);
+  double descent = platformFont.leading - platformFont.descender;
+  for (const BrokenLine& line : lines) {
+    const LineBounds bounds = lineBounds(line.text, font);
+    layout.lines.push_back({utf8String(line.text), bounds.width});
+    layout.ascent = std::max(layout.ascent, bounds.ascent);
+    descent = std::max(descent, bounds.descent + bounds.leading);
+  }
+  layout.lineHeight = ui::lineHeightFor(layout.ascent, descent);
   return layout;
 }
 

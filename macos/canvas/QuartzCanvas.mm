@@ -154,11 +154,16 @@ void QuartzCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow)
   CGContextSaveGState(context_);
   // Everything but the shape: an even-odd clip to it within a rectangle that holds all there is.
   const CGRect everything =
-      CGRectUnion(CGContextGetClipBoundingBox(context_), rectFrom(shape.rect));
-  CGContextAddRect(context_, CGRectInset(everything, -1, -1));
+      CGRectInset(CGRectUnion(CGContextGetClipBoundingBox(context_), rectFrom(shape.rect)), -1, -1);
+  CGContextAddRect(context_, everything);
   CGContextAddPath(context_, path.get());
   CGContextEOClip(context_);
-  setShadow(shadow);
+  // What casts it is drawn beyond all of that: the clip's soft edge would let its rim through.
+  const double distance = std::ceil(CGRectGetMaxX(everything) - shape.rect.x) + 1;
+  ui::PaintShadow cast = shadow;
+  cast.offset.x -= distance;
+  setShadow(cast);
+  CGContextTranslateCTM(context_, distance, 0);
   CGContextSetFillColorWithColor(context_, CGColorGetConstantColor(kCGColorBlack));
   CGContextAddPath(context_, path.get());
   CGContextFillPath(context_);

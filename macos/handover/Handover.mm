@@ -34,9 +34,17 @@ NSString* requestName() {
 
 RunningCopy copyFrom(NSRunningApplication* application) {
   NSDate* const launched = application.launchDate;
-  return {application.processIdentifier,
+  return {application.processIdentifier, static_cast<bool>(application.finishedLaunching),
           launched == nil ? std::nullopt
                           : std::optional<double>(launched.timeIntervalSinceReferenceDate)};
+}
+
+/// From macOS 14 on an application comes forward when the one that the user has just opened lets
+/// it.
+void letComeForward(NSRunningApplication* application) {
+  if (@available(macOS 14, *)) {
+    [NSApplication.sharedApplication yieldActivationToApplication:application];
+  }
 }
 
 }  // namespace
@@ -48,8 +56,9 @@ bool handOverToRunningCopy() {
   }
   NSRunningApplication* const current = NSRunningApplication.currentApplication;
   std::vector<RunningCopy> copies{copyFrom(current)};
-  for (NSRunningApplication* other in
-       [NSRunningApplication runningApplicationsWithBundleIdentifier:identifier]) {
+  NSArray* const running =
+      [NSRunningApplication runningApplicationsWithBundleIdentifier:identifier];
+  for (NSRunningApplication* other in running) {
     if (!other.terminated && ![other isEqual:current]) {
       copies.push_back(copyFrom(other));
     }
@@ -57,6 +66,11 @@ bool handOverToRunningCopy() {
   const auto stays = copyThatStays(copies);
   if (!stays || *stays == copies.front()) {
     return false;
+  }
+  for (NSRunningApplication* other in running) {
+    if (other.processIdentifier == stays->processID) {
+      letComeForward(other);
+    }
   }
   [NSDistributedNotificationCenter.defaultCenter postNotificationName:requestName()
                                                                object:nil

@@ -16,6 +16,12 @@
   std::function<void()> _focus;
 }
 
+// The host view is no element itself, so its place in the tree is that of what is around it.
+- (id)accessibilityParent {
+  id const parent = super.accessibilityParent;
+  return parent == nil ? nil : NSAccessibilityUnignoredAncestor(parent);
+}
+
 // The place on the screen is worked out when it is asked for: the window may have moved.
 - (NSRect)accessibilityFrame {
   NSView* const view = _view;
@@ -61,8 +67,10 @@ NSAccessibilityRole roleFrom(ui::Role role) {
     case ui::Role::group:
       return NSAccessibilityGroupRole;
     case ui::Role::staticText:
-    case ui::Role::heading:
       return NSAccessibilityStaticTextRole;
+    case ui::Role::heading:
+      // The header has no name for it.
+      return @"AXHeading";
     case ui::Role::image:
       return NSAccessibilityImageRole;
     case ui::Role::button:
@@ -81,7 +89,12 @@ NSAccessibilityRole roleFrom(ui::Role role) {
   return NSAccessibilityUnknownRole;
 }
 
-/// A switch and a radio button say by a number whether they are on; a text is its own value.
+std::string textOf(const ui::SemanticsNode& node) {
+  return node.value.empty() ? node.label : node.label + ", " + node.value;
+}
+
+/// A switch and a radio button say by a number whether they are on. A text is the value of its
+/// element, which has no label.
 id valueFrom(const ui::SemanticsNode& node) {
   switch (node.role) {
     case ui::Role::toggle:
@@ -89,23 +102,28 @@ id valueFrom(const ui::SemanticsNode& node) {
     case ui::Role::radioButton:
       return @(node.isSelected);
     case ui::Role::staticText:
-    case ui::Role::heading:
-      return foundationString(node.value.empty() ? node.label : node.value);
+      return foundationString(textOf(node));
     default:
       return node.value.empty() ? nil : foundationString(node.value);
   }
 }
 
-/// A radio button's value being a number, what else it has to say goes with its label.
-std::string labelFrom(const ui::SemanticsNode& node) {
-  const bool addsValue = node.role == ui::Role::radioButton && !node.value.empty();
-  return addsValue ? node.label + ", " + node.value : node.label;
+NSString* labelFrom(const ui::SemanticsNode& node) {
+  switch (node.role) {
+    case ui::Role::staticText:
+      return nil;
+    case ui::Role::radioButton:
+      // Its value being a number, what else it has to say goes with its label.
+      return foundationString(textOf(node));
+    default:
+      return foundationString(node.label);
+  }
 }
 
 void describe(OrvaneAccessibilityElement* element, const ui::SemanticsNode& node) {
   element.accessibilityRole = roleFrom(node.role);
   element.accessibilitySubrole = node.role == ui::Role::toggle ? NSAccessibilitySwitchSubrole : nil;
-  element.accessibilityLabel = foundationString(labelFrom(node));
+  element.accessibilityLabel = labelFrom(node);
   element.accessibilityValue = valueFrom(node);
   element.accessibilityEnabled = node.isEnabled;
   element.accessibilitySelected = node.isSelected;

@@ -18,7 +18,9 @@
 - (void)frameComes:(id)sender {
   // The frame may stop its own source.
   const std::function<void()> frame = _frame;
-  frame();
+  @autoreleasepool {
+    frame();
+  }
 }
 
 @end

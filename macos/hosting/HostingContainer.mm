@@ -35,7 +35,8 @@ NSImage* backdropMask(CGFloat radius) {
 
 @implementation OrvaneHostingContainer {
   OrvaneHostView* _hostView;
-  NSVisualEffectView* _backdrop;
+  // It holds this view.
+  __weak NSVisualEffectView* _backdrop;
   CGFloat _backdropRadius;
   BOOL _respectsSafeArea;
   BOOL _highlighted;
@@ -69,22 +70,26 @@ NSImage* backdropMask(CGFloat radius) {
   return _respectsSafeArea ? super.safeAreaInsets : NSEdgeInsetsZero;
 }
 
-- (BOOL)showsBackdrop {
-  return _backdrop != nil;
-}
-
-- (void)setShowsBackdrop:(BOOL)shows {
-  [_backdrop removeFromSuperview];
-  _backdrop = nil;
-  if (shows) {
-    _backdrop = [[NSVisualEffectView alloc] initWithFrame:self.bounds];
-    _backdrop.material = NSVisualEffectMaterialHUDWindow;
-    _backdrop.blendingMode = NSVisualEffectBlendingModeBehindWindow;
-    // As clear in a panel that is not key.
-    _backdrop.state = NSVisualEffectStateActive;
-    [self addSubview:_backdrop positioned:NSWindowBelow relativeTo:_hostView];
-    [self roundBackdrop];
+// The picture is around this view and not below it: its mask has an effect on the shadow of a
+// window only when it is the window's content view.
+- (NSView*)outermostWithBackdrop:(BOOL)hasBackdrop {
+  const NSRect frame = _backdrop == nil ? self.frame : _backdrop.frame;
+  [self removeFromSuperview];
+  if (!hasBackdrop) {
+    self.frame = frame;
+    return self;
   }
+  NSVisualEffectView* const backdrop = [[NSVisualEffectView alloc] initWithFrame:frame];
+  backdrop.material = NSVisualEffectMaterialHUDWindow;
+  backdrop.blendingMode = NSVisualEffectBlendingModeBehindWindow;
+  // As clear in a panel that is not key.
+  backdrop.state = NSVisualEffectStateActive;
+  self.frame = backdrop.bounds;
+  self.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
+  [backdrop addSubview:self];
+  _backdrop = backdrop;
+  [self roundBackdrop];
+  return backdrop;
 }
 
 - (CGFloat)backdropRadius {
@@ -130,7 +135,6 @@ NSImage* backdropMask(CGFloat radius) {
 }
 
 - (void)placeSubviews {
-  _backdrop.frame = self.bounds;
   _hostView.frame = _respectsSafeArea ? self.safeAreaRect : self.bounds;
 }
 

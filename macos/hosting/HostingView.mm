@@ -13,13 +13,16 @@ namespace orvane::appkit {
 struct HostingView::Implementation {
   explicit Implementation(RootBuilder buildRoot)
       : container([[OrvaneHostingContainer alloc]
-            initWithHostView:[[OrvaneHostView alloc] initWithRoot:std::move(buildRoot)]]) {}
+            initWithHostView:[[OrvaneHostView alloc] initWithRoot:std::move(buildRoot)]]),
+        outermost(container) {}
 
   OrvaneHostingContainer* container;
+  /// The container, or the backdrop around it.
+  NSView* outermost;
 };
 
 NSView* nativeView(const HostingView& view) {
-  return view.implementation()->container;
+  return view.implementation()->outermost;
 }
 
 NSView* keyView(const HostingView& view) {
@@ -34,11 +37,11 @@ void HostingView::setNeedsUpdate() {
 }
 
 void HostingView::setFrame(CGRect frame) {
-  implementation_->container.frame = frame;
+  implementation_->outermost.frame = frame;
 }
 
 CGRect HostingView::frame() const {
-  return implementation_->container.frame;
+  return implementation_->outermost.frame;
 }
 
 CGSize HostingView::fittingSize() const {
@@ -70,7 +73,8 @@ void HostingView::setLayerCorners(double radius, CornerCurve curve, bool masksTo
 }
 
 void HostingView::setBackdrop(Backdrop backdrop) {
-  implementation_->container.showsBackdrop = backdrop == Backdrop::behindWindow;
+  implementation_->outermost =
+      [implementation_->container outermostWithBackdrop:backdrop == Backdrop::behindWindow];
 }
 
 void HostingView::onDismiss(std::function<void()> dismiss) {

@@ -9,9 +9,9 @@
 namespace orvane {
 namespace {
 
-constexpr RunningCopy early{900, 100.0};
-constexpr RunningCopy late{200, 101.5};
-constexpr RunningCopy unknown{100, std::nullopt};
+constexpr RunningCopy early{900, false, 100.0};
+constexpr RunningCopy late{200, false, 101.5};
+constexpr RunningCopy unknown{100, false, std::nullopt};
 
 TEST(RunningCopyTest, WithoutCopiesNoneStays) {
   EXPECT_EQ(copyThatStays({}), std::nullopt);
@@ -29,22 +29,30 @@ TEST(RunningCopyTest, ACopyWhoseLaunchNobodyNotedGivesWay) {
   EXPECT_EQ(copyThatStays(std::vector{unknown, late}), late);
 }
 
+TEST(RunningCopyTest, ACopyThatRunsAlreadyStaysHoweverItWasLaunched) {
+  constexpr RunningCopy running{300, true, std::nullopt};
+  EXPECT_EQ(copyThatStays(std::vector{early, late, unknown, running}), running);
+  EXPECT_EQ(copyThatStays(std::vector{early, running}), running);
+}
+
 TEST(RunningCopyTest, OfEqualCopiesTheLeastNumberStays) {
-  EXPECT_EQ(copyThatStays(std::vector{RunningCopy{7, 100.0}, RunningCopy{5, 100.0}}),
-            (RunningCopy{5, 100.0}));
-  EXPECT_EQ(copyThatStays(std::vector{RunningCopy{7, std::nullopt}, RunningCopy{5, std::nullopt}}),
-            (RunningCopy{5, std::nullopt}));
+  EXPECT_EQ(copyThatStays(std::vector{RunningCopy{7, false, 100.0}, RunningCopy{5, false, 100.0}}),
+            (RunningCopy{5, false, 100.0}));
+  EXPECT_EQ(copyThatStays(std::vector{RunningCopy{7, false, std::nullopt},
+                                      RunningCopy{5, false, std::nullopt}}),
+            (RunningCopy{5, false, std::nullopt}));
 }
 
 TEST(RunningCopyTest, AllCopiesAgreeInWhateverOrderTheySeeEachOther) {
-  std::vector<RunningCopy> copies = {early, late, unknown, {50, std::nullopt}, {60, 100.0}};
+  std::vector<RunningCopy> copies = {
+      early, late, unknown, {50, false, std::nullopt}, {60, false, 100.0}};
   const auto byNumber = [](const RunningCopy& first, const RunningCopy& second) {
     return first.processID < second.processID;
   };
   std::ranges::sort(copies, byNumber);
   int orders = 0;
   do {
-    EXPECT_EQ(copyThatStays(copies), (RunningCopy{60, 100.0}));
+    EXPECT_EQ(copyThatStays(copies), (RunningCopy{60, false, 100.0}));
     ++orders;
   } while (std::ranges::next_permutation(copies, byNumber).found);
   EXPECT_EQ(orders, 120);

@@ -2,6 +2,8 @@
 #include <vector>
 
 #include "Orvane/base/CFRef.hpp"
+#include "Orvane/platform/appkit/Application.hpp"
+#include "Orvane/platform/appkit/Screen.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
 
@@ -103,6 +105,22 @@ TEST_F(CGEventTapContract, WhereTheCallbackPutsTheEventTheNextMovementBegins) {
   ASSERT_EQ(seen.size(), 2U);
   EXPECT_EQ(seen[0].location.y, 799);
   EXPECT_EQ(seen[1].location.y, 790);
+}
+
+TEST_F(CGEventTapContract, TheCursorRestsWhereTheCallbackPutsTheEvent) {
+  // A Mac's own displays will do: the first begins at (0, 0).
+  (void)arrangeTwoDisplays();
+  ORVANE_ARRANGE(setTrusted(true));
+  const double height = CGRectGetHeight(appkit::Screen::screens().front().frame());
+  ASSERT_TRUE(beginTap());
+  dy = -12;
+  for (const double y : {400.0, 410.0, 420.0, 430.0, 440.0}) {
+    ORVANE_ARRANGE(movePointer(CGPointMake(300, y)));
+    ASSERT_FALSE(seen.empty());
+    const CGPoint cursor = appkit::Application::mouseLocation();
+    EXPECT_NEAR(cursor.x, 300, 1);
+    EXPECT_NEAR(height - cursor.y, y + dy, 1);
+  }
 }
 
 TEST_F(CGEventTapContract, ADisabledTapHearsNothing) {

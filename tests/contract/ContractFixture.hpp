@@ -38,7 +38,8 @@ class ContractFixture : public testing::Test {
   /// Any change of the displays.
   [[nodiscard]] bool changeDisplays();
   [[nodiscard]] bool setTrusted(bool isTrusted);
-  /// A movement of the pointer by hardware; global coordinates.
+  /// A movement of the pointer by hardware; global coordinates. A real Mac posts one in the
+  /// hardware's place where ORVANE_POST_MOVEMENTS is set in the environment.
   [[nodiscard]] bool movePointer(CGPoint goal);
   /// The modifier keys that are held from now on.
   [[nodiscard]] bool holdModifiers(std::uint64_t flags);

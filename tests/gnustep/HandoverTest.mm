@@ -1,6 +1,11 @@
 // Copies of the application that run in one session.
 #import <AppKit/AppKit.h>
 
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Orvane/platform/appkit/Application.hpp"
 #include "macos/handover/Handover.hpp"
 #include "tests/contract/ContractFixture.hpp"
 #include "tests/gnustep/shim/World.hpp"
@@ -35,20 +40,31 @@ TEST_F(HandoverOnMac, TheOnlyCopyStays) {
 }
 
 TEST_F(HandoverOnMac, ALaterCopyAsksTheFirstAndGivesWay) {
-  world().otherCopies[otherProcess] = 999;
+  world().otherCopies[otherProcess] = {.launchedAt = 999};
+  world().otherCopies[otherProcess + 1] = {.launchedAt = 1001, .isRunning = false};
   EXPECT_TRUE(handOverToRunningCopy());
   EXPECT_EQ(world().distributedNotifications, std::vector<std::string>{"app.orvane.Orvane.show"});
+  EXPECT_EQ(world().yieldedTo, std::vector<int>{otherProcess});
 }
 
-TEST_F(HandoverOnMac, TheFirstCopyStaysWhenAnotherIsStarted) {
-  world().otherCopies[otherProcess] = 1001;
+TEST_F(HandoverOnMac, TheFirstOfTwoThatStartAtOneTimeStays) {
+  world().otherCopies[otherProcess] = {.launchedAt = 1001, .isRunning = false};
+  EXPECT_FALSE(handOverToRunningCopy());
+  EXPECT_TRUE(world().yieldedTo.empty());
+  world().otherCopies[otherProcess] = {.launchedAt = 999, .isRunning = false};
+  EXPECT_TRUE(handOverToRunningCopy());
+}
+
+TEST_F(HandoverOnMac, ACopyThatSomebodyStartedByHandStaysWhenItRuns) {
+  world().otherCopies[otherProcess] = {.launchedAt = std::nullopt};
+  EXPECT_TRUE(handOverToRunningCopy());
+  world().otherCopies[otherProcess] = {.launchedAt = std::nullopt, .isRunning = false};
   EXPECT_FALSE(handOverToRunningCopy());
 }
 
-TEST_F(HandoverOnMac, ACopyThatSomebodyStartedByHandGivesWay) {
-  constexpr double unknown = -1;
-  world().otherCopies[otherProcess] = unknown;
-  EXPECT_FALSE(handOverToRunningCopy());
+TEST_F(HandoverOnMac, ACopyComesForwardAsTheSystemHasItSinceItAsks) {
+  appkit::Application::activateIgnoringOtherApps();
+  EXPECT_EQ(world().activations, 1);
 }
 
 TEST_F(HandoverOnMac, TheFirstCopyShowsItsWindowWhenALaterOneAsks) {
@@ -56,7 +72,7 @@ TEST_F(HandoverOnMac, TheFirstCopyShowsItsWindowWhenALaterOneAsks) {
   NSApp.delegate = delegate;
   answerLaterCopies();
   EXPECT_EQ(delegate->_count, 0);
-  world().otherCopies[otherProcess] = 999;
+  world().otherCopies[otherProcess] = {.launchedAt = 999};
   EXPECT_TRUE(handOverToRunningCopy());
   EXPECT_EQ(delegate->_count, 1);
   NSApp.delegate = nil;

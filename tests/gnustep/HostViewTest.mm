@@ -255,5 +255,28 @@ TEST_F(HostView, APressOnTheBackgroundDragsTheWindow) {
   window.close();
 }
 
+TEST_F(HostView, ABackdropIsTheContentViewOfItsWindowAndHoldsTheContent) {
+  Window window(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
+                appkit::StyleMask::nonactivatingPanel);
+  {
+    appkit::HostingView view([](const ui::Environment&) -> ui::View { return ui::Rectangle(); });
+    view.setFrame(CGRectMake(0, 0, 200, 100));
+    view.setLayerCorners(24, appkit::CornerCurve::continuous, true);
+    view.setBackdrop(appkit::Backdrop::behindWindow);
+    window.setContentView(view);
+  }
+  auto* const backdrop = static_cast<NSVisualEffectView*>(nativeOf(window).contentView);
+  ASSERT_TRUE([backdrop isKindOfClass:NSVisualEffectView.class]);
+  // Its mask shapes the window's shadow.
+  EXPECT_NE(backdrop.maskImage, nil);
+  EXPECT_EQ(backdrop.maskImage.capInsets.left, 39);
+  OrvaneHostView* const view = hostOf(window);
+  EXPECT_TRUE([view isDescendantOf:backdrop]);
+  EXPECT_TRUE(NSEqualRects([view convertRect:view.bounds toView:backdrop], backdrop.bounds));
+  [backdrop setFrameSize:NSMakeSize(300, 150)];
+  EXPECT_TRUE(NSEqualRects([view convertRect:view.bounds toView:backdrop], backdrop.bounds));
+  window.close();
+}
+
 }  // namespace
 }  // namespace orvane

@@ -22,11 +22,14 @@
 namespace orvane {
 
 class MacHalfFixture : public ContractFixture {
+ public:
+  ~MacHalfFixture() override;
+
  protected:
   /// Time passes until something is so, some seconds at most; whether it is.
   [[nodiscard]] bool isSoon(const std::function<bool()>& condition);
   /// Does something as soon as something is so, in whatever mode the run loop is then.
-  static void when(const std::function<bool()>& condition, const std::function<void()>& action);
+  void when(const std::function<bool()>& condition, const std::function<void()>& action);
 
   /// A key panel of 200 by 100 points at (100, 100).
   appkit::Window show(appkit::HostingView::RootBuilder root);
@@ -46,8 +49,11 @@ class MacHalfFixture : public ContractFixture {
   /// The window of the menu that is open; nil when none is.
   static NSWindow* openMenuWindow();
   /// When a menu is open, it is sent these keys, one after another.
-  static void typeIntoMenu(NSArray* keys);
+  void typeIntoMenu(NSArray* keys);
   static NSString* functionKey(unichar key);
+
+ private:
+  NSMutableArray* timers_ = [NSMutableArray array];
 };
 
 }  // namespace orvane

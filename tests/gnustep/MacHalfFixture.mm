@@ -3,8 +3,8 @@
 
 #include <utility>
 
+#include "macos/appkit/NativeView.hpp"
 #include "macos/appkit/NativeWindow.hpp"
-#include "macos/hosting/HostingContainer.hpp"
 
 namespace orvane {
 
@@ -14,6 +14,13 @@ namespace {
 constexpr double patienceSeconds = 20;
 
 }  // namespace
+
+MacHalfFixture::~MacHalfFixture() {
+  // What they refer to ends with the test.
+  for (NSTimer* timer in timers_) {
+    [timer invalidate];
+  }
+}
 
 bool MacHalfFixture::isSoon(const std::function<bool()>& condition) {
   NSDate* const end = [NSDate dateWithTimeIntervalSinceNow:patienceSeconds];
@@ -42,6 +49,7 @@ void MacHalfFixture::when(const std::function<bool()>& condition,
                                                     }
                                                   }];
   [NSRunLoop.mainRunLoop addTimer:timer forMode:NSRunLoopCommonModes];
+  [timers_ addObject:timer];
 }
 
 appkit::Window MacHalfFixture::show(appkit::HostingView::RootBuilder root) {
@@ -60,7 +68,7 @@ NSWindow* MacHalfFixture::nativeOf(const appkit::Window& window) {
 }
 
 OrvaneHostView* MacHalfFixture::hostOf(const appkit::Window& window) {
-  return static_cast<OrvaneHostingContainer*>(nativeOf(window).contentView).hostView;
+  return static_cast<OrvaneHostView*>(appkit::keyView(*window.contentView()));
 }
 
 NSEvent* MacHalfFixture::mouseEvent(NSWindow* window, NSEventType type, double x, double y) {

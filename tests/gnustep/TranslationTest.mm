@@ -8,6 +8,7 @@
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/StandardColors.hpp"
+#include "macos/appkit/Strings.hpp"
 #include "macos/canvas/CoreTextMeasurer.hpp"
 #include "macos/canvas/QuartzCanvas.hpp"
 #include "macos/canvas/SystemColors.hpp"
@@ -124,7 +125,7 @@ TEST_F(Translation, EveryRoleHasItsNameAndItsValue) {
   const std::vector<std::pair<ui::Role, NSString*>> roles{
       {ui::Role::group, NSAccessibilityGroupRole},
       {ui::Role::staticText, NSAccessibilityStaticTextRole},
-      {ui::Role::heading, NSAccessibilityStaticTextRole},
+      {ui::Role::heading, @"AXHeading"},
       {ui::Role::image, NSAccessibilityImageRole},
       {ui::Role::button, NSAccessibilityButtonRole},
       {ui::Role::toggle, NSAccessibilityCheckBoxRole},
@@ -143,9 +144,10 @@ TEST_F(Translation, EveryRoleHasItsNameAndItsValue) {
     });
     NSAccessibilityElement* const element = [hostOf(window) accessibilityChildren].firstObject;
     EXPECT_TRUE([element.accessibilityRole isEqual:name]) << name.UTF8String;
-    EXPECT_STREQ([element.accessibilityValue description].UTF8String, "1");
-    const bool addsValue = role == ui::Role::radioButton;
-    EXPECT_STREQ(element.accessibilityLabel.UTF8String, addsValue ? "label, 1" : "label");
+    const bool isText = role == ui::Role::staticText;
+    EXPECT_STREQ([element.accessibilityValue description].UTF8String, isText ? "label, 1" : "1");
+    const std::string label = role == ui::Role::radioButton ? "label, 1" : "label";
+    EXPECT_EQ(appkit::utf8String(element.accessibilityLabel), isText ? "" : label);
     EXPECT_EQ(element.accessibilitySubrole != nil, role == ui::Role::toggle);
     window.close();
   }

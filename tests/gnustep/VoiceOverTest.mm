@@ -6,8 +6,10 @@
 
 #include "Orvane/platform/appkit/StatusItem.hpp"
 #include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/ScrollView.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
 #include "tests/gnustep/MacHalfFixture.hpp"
 #include "tests/gnustep/shim/World.hpp"
 
@@ -48,12 +50,45 @@ TEST_F(VoiceOver, EachElementSaysWhatItIsAndWhere) {
   NSAccessibilityElement* const bottom = children[1];
   EXPECT_STREQ(top.accessibilityLabel.UTF8String, "first");
   EXPECT_TRUE([top.accessibilityRole isEqual:NSAccessibilityButtonRole]);
-  EXPECT_EQ(top.accessibilityParent, view);
+  EXPECT_EQ(top.accessibilityParent, nativeOf(window));
   // The focus ring's room is part of a button.
   EXPECT_TRUE(CGRectEqualToRect(top.accessibilityFrame, CGRectMake(88, 150, 224, 60)));
   EXPECT_TRUE(CGRectEqualToRect(bottom.accessibilityFrame, CGRectMake(88, 90, 224, 60)));
   window.setFrameOrigin(CGPointMake(120, 90));
   EXPECT_TRUE(CGRectEqualToRect(bottom.accessibilityFrame, CGRectMake(108, 80, 224, 60)));
+  window.close();
+}
+
+TEST_F(VoiceOver, AnElementInAnotherHasThatForItsParent) {
+  Window window = show([](const ui::Environment&) -> ui::View {
+    return ui::ScrollView(ui::Rectangle().frame(200, 300).accessibilityLabel("inside"));
+  });
+  NSAccessibilityElement* const area = [hostOf(window) accessibilityChildren].firstObject;
+  ASSERT_EQ(area.accessibilityChildren.count, 1U);
+  NSAccessibilityElement* const inside = area.accessibilityChildren.firstObject;
+  EXPECT_EQ(inside.accessibilityParent, area);
+  EXPECT_EQ(area.accessibilityParent, nativeOf(window));
+  window.close();
+}
+
+TEST_F(VoiceOver, ATextIsAValueAndAHeadingALabel) {
+  Window window = show([](const ui::Environment&) -> ui::View {
+    return ui::VStack(0, {ui::Text("above").accessibilityRole(ui::Role::heading), ui::Text("below"),
+                          ui::Text("state").accessibilityValue("on")});
+  });
+  NSArray* const children = [hostOf(window) accessibilityChildren];
+  ASSERT_EQ(children.count, 3U);
+  NSAccessibilityElement* const heading = children[0];
+  EXPECT_STREQ(heading.accessibilityRole.UTF8String, "AXHeading");
+  EXPECT_STREQ(heading.accessibilityLabel.UTF8String, "above");
+  EXPECT_EQ(heading.accessibilityValue, nil);
+  NSAccessibilityElement* const text = children[1];
+  EXPECT_TRUE([text.accessibilityRole isEqual:NSAccessibilityStaticTextRole]);
+  EXPECT_EQ(text.accessibilityLabel, nil);
+  EXPECT_STREQ([text.accessibilityValue UTF8String], "below");
+  NSAccessibilityElement* const state = children[2];
+  EXPECT_EQ(state.accessibilityLabel, nil);
+  EXPECT_STREQ([state.accessibilityValue UTF8String], "state, on");
   window.close();
 }
 

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <string>
 
+#include "macos/appkit/NativeView.hpp"
+#include "macos/appkit/NativeWindow.hpp"
 #include "macos/appkit/Strings.hpp"
 #include "macos/canvas/CoreTextMeasurer.hpp"
 #include "macos/hosting/HostingContainer.hpp"
@@ -27,9 +29,10 @@ bool showsSomething(NSBitmapImageRep* picture) {
   return false;
 }
 
-std::string textBoxesOf(OrvaneHostingContainer* content, NSString* name) {
-  OrvaneHostView* const view = content.hostView;
-  const double top = NSHeight(content.bounds) - NSMaxY(view.frame);
+std::string textBoxesOf(NSWindow* window, NSString* name) {
+  const auto content = orvane::appkit::windowFrom(window)->contentView();
+  auto* const view = static_cast<OrvaneHostView*>(orvane::appkit::keyView(*content));
+  const double top = NSHeight(view.superview.bounds) - NSMaxY(view.frame);
   orvane::appkit::CoreTextMeasurer measurer;
   return orvane::textBoxes(orvane::appkit::utf8String(name), view.host, {NSMinX(view.frame), top},
                            measurer);
@@ -93,7 +96,7 @@ NSBitmapImageRep* pictureOf(NSView* view) {
   for (NSWindow* window in NSApplication.sharedApplication.windows) {
     if (window.visible && [window.identifier hasSuffix:identifier]) {
       [self save:pictureOf(window.contentView) as:name];
-      _textBoxes += textBoxesOf(static_cast<OrvaneHostingContainer*>(window.contentView), name);
+      _textBoxes += textBoxesOf(window, name);
       [orvane::appkit::foundationString(_textBoxes)
           writeToFile:[_folder stringByAppendingPathComponent:@"layout.txt"]
            atomically:YES

@@ -25,7 +25,7 @@ namespace {
 constexpr double cardSpacing = 10;
 constexpr double sidePadding = 18;
 constexpr double backgroundTintOpacity = 0.05;
-constexpr double textToButtons = 9;
+constexpr double textToButtons = 7;
 constexpr double buttonSpacing = 8;
 constexpr double languagePickerWidth = 160;
 constexpr double shortcutPickerWidth = 150;

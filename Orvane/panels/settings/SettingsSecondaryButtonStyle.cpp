@@ -11,7 +11,7 @@ using namespace ui;
 
 namespace {
 
-constexpr double height = 26;
+constexpr double height = 25;
 constexpr double buttonPadding = 11;
 constexpr double rimOpacityDark = 0.16;
 constexpr double rimOpacityLight = 0.18;

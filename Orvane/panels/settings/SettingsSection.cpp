@@ -15,8 +15,11 @@ namespace {
 constexpr double cornerRadius = 10;
 constexpr double rowSpacing = 12;
 constexpr double headerSpacing = 8;
+/// The symbols differ in height; the row is as high as the title.
+constexpr double symbolWidth = 20;
+constexpr double titleHeight = 17;
 /// Four cards must fit into the panel, so there is little to give above and below.
-constexpr Edges cardPadding{.top = 8, .leading = 14, .bottom = 8, .trailing = 14};
+constexpr Edges cardPadding{.top = 7, .leading = 14, .bottom = 7, .trailing = 14};
 constexpr double hoverSeconds = 0.16;
 
 double borderOpacity(bool isDark, bool isHovered) {
@@ -52,7 +55,7 @@ View SettingsSection::body(const Environment& environment) const {
              {Symbol(systemImage)
                   .font(Font::system(15, Weight::semibold))
                   .foreground(tint)
-                  .width(20)
+                  .frame(symbolWidth, titleHeight)
                   .scale(isHovered ? 1.06 : 1),
               Text(title).font(Font::system(14, Weight::bold)).accessibilityRole(Role::heading)});
   const double radius = isHovered ? 12 : 8;

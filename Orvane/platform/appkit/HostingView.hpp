@@ -44,6 +44,7 @@ class HostingView {
 
   /// Layer-backed, with rounded corners that clip the content when `masksToBounds`.
   void setLayerCorners(double radius, CornerCurve curve, bool masksToBounds);
+  /// Before the view is shown in a window.
   void setBackdrop(Backdrop backdrop);
 
   /// Called when a control of the content asks for the end of what it is shown in, as the

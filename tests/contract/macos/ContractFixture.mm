@@ -3,6 +3,10 @@
 #include "tests/contract/ContractFixture.hpp"
 #include "tests/contract/macos/ApplicationRun.hpp"
 
+#include <cstdlib>
+
+#include "Orvane/base/CFRef.hpp"
+
 namespace orvane {
 
 struct ContractFixture::Platform {
@@ -33,8 +37,16 @@ bool ContractFixture::setTrusted(bool isTrusted) {
   return (AXIsProcessTrusted() != 0) == isTrusted;
 }
 
-bool ContractFixture::movePointer(CGPoint) {
-  return false;
+bool ContractFixture::movePointer(CGPoint goal) {
+  // It takes the pointer out of its user's hand.
+  if (std::getenv("ORVANE_POST_MOVEMENTS") == nullptr) {
+    return false;
+  }
+  const auto event = CFRef<CGEventRef>::owning(
+      CGEventCreateMouseEvent(nullptr, kCGEventMouseMoved, goal, kCGMouseButtonLeft));
+  CGEventPost(kCGHIDEventTap, event.get());
+  letTimePass(0.1);
+  return true;
 }
 
 bool ContractFixture::holdModifiers(std::uint64_t) {

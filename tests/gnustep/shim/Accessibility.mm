@@ -50,6 +50,19 @@ ORVANE_STORED_NUMBER(BOOL, isAccessibilitySelected, setAccessibilitySelected, bo
 
 @end
 
+/// A view is an element when it says so; a window and what is no view always are.
+extern "C" id NSAccessibilityUnignoredAncestor(id element) {
+  id each = element;
+  while ([each isKindOfClass:NSView.class]) {
+    NSView* const view = each;
+    if (view.isAccessibilityElement) {
+      break;
+    }
+    each = view.superview == nil ? static_cast<id>(view.window) : view.superview;
+  }
+  return each;
+}
+
 NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame) {
   return [view.window convertRectToScreen:[view convertRect:frame toView:nil]];
 }

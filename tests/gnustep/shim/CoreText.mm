@@ -1,6 +1,9 @@
 // Core Text on pango, with Inter for the system's font. Without ARC.
 #include <pango/pangocairo.h>
 
+#include <algorithm>
+#include <string_view>
+
 #include "tests/gnustep/shim/DrawingContext.hpp"
 
 @interface OrvaneShimLine : NSObject {
@@ -70,9 +73,32 @@ CTLineRef CTLineCreateWithAttributedString(CFAttributedStringRef reference) {
   pango_layout_set_text(line->_layout, string.string.UTF8String, -1);
   return (CTLineRef)line;
 }
-double CTLineGetTypographicBounds(CTLineRef line, CGFloat*, CGFloat*, CGFloat*) {
+double CTLineGetTypographicBounds(CTLineRef line, CGFloat* ascent, CGFloat* descent,
+                                  CGFloat* leading) {
+  PangoLayout* const layout = ((OrvaneShimLine*)line)->_layout;
+  *ascent = *descent = *leading = 0;
+  const PangoFontDescription* const font = pango_layout_get_font_description(layout);
+  for (const GSList* link = pango_layout_get_line_readonly(layout, 0)->runs;
+       link != nullptr && font != nullptr; link = link->next) {
+    auto* const run = static_cast<PangoGlyphItem*>(link->data);
+    PangoRectangle reach;
+    pango_glyph_string_extents(run->glyphs, run->item->analysis.font, nullptr, &reach);
+    double above = static_cast<double>(-reach.y) / PANGO_SCALE;
+    double below = static_cast<double>(reach.y + reach.height) / PANGO_SCALE;
+    PangoFontDescription* const face = pango_font_describe(run->item->analysis.font);
+    const bool isSystemFont = std::string_view(pango_font_description_get_family(face)) == "Inter";
+    pango_font_description_free(face);
+    if (!isSystemFont) {
+      // Chinese: on a Mac in PingFang SC.
+      const double size = static_cast<double>(pango_font_description_get_size(font)) / PANGO_SCALE;
+      above = 1.06 * size;
+      below = 0.34 * size;
+    }
+    *ascent = std::max(*ascent, above);
+    *descent = std::max(*descent, below);
+  }
   PangoRectangle extents;
-  pango_layout_get_extents(((OrvaneShimLine*)line)->_layout, nullptr, &extents);
+  pango_layout_get_extents(layout, nullptr, &extents);
   return static_cast<double>(extents.width) / PANGO_SCALE;
 }
 void CTLineDraw(CTLineRef reference, CGContextRef context) {

@@ -57,6 +57,13 @@ using orvane::gnustep::world;
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy {
   return YES;
 }
+- (void)activate {
+  ++world().activations;
+  [self activateIgnoringOtherApps:YES];
+}
+- (void)yieldActivationToApplication:(NSRunningApplication*)application {
+  world().yieldedTo.push_back(application.processIdentifier);
+}
 @end
 
 NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification =
@@ -144,7 +151,7 @@ NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification =
 @interface OrvaneShimCopy : NSRunningApplication {
  @public
   int _number;
-  double _launched;
+  orvane::gnustep::Copy _copy;
 }
 @end
 
@@ -153,7 +160,10 @@ NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification =
   return _number;
 }
 - (NSDate*)launchDate {
-  return _launched < 0 ? nil : [NSDate dateWithTimeIntervalSinceReferenceDate:_launched];
+  return _copy.launchedAt ? [NSDate dateWithTimeIntervalSinceReferenceDate:*_copy.launchedAt] : nil;
+}
+- (BOOL)isFinishedLaunching {
+  return _copy.isRunning;
 }
 - (BOOL)isEqual:(id)other {
   return [other isKindOfClass:OrvaneShimCopy.class] &&
@@ -185,10 +195,10 @@ NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification =
 namespace orvane::gnustep {
 namespace {
 
-OrvaneShimCopy* copyWith(int number, double launched) {
+OrvaneShimCopy* copyWith(int number, const Copy& state) {
   OrvaneShimCopy* const copy = [[OrvaneShimCopy alloc] init];
   copy->_number = number;
-  copy->_launched = launched;
+  copy->_copy = state;
   return copy;
 }
 
@@ -252,15 +262,16 @@ void installVolumes() {
 // GNUstep knows of no other application.
 void installCopies() {
   replaceClassMethod(NSRunningApplication.class, @selector(currentApplication), ^id(Class) {
-    return copyWith(NSProcessInfo.processInfo.processIdentifier, 1000);
+    return copyWith(NSProcessInfo.processInfo.processIdentifier,
+                    {.launchedAt = 1000, .isRunning = false});
   });
   replaceClassMethod(NSRunningApplication.class,
                      @selector(runningApplicationsWithBundleIdentifier:),
                      ^NSArray*(Class, NSString*) {
                        NSMutableArray* const all =
                            [NSMutableArray arrayWithObject:NSRunningApplication.currentApplication];
-                       for (const auto& [number, launched] : world().otherCopies) {
-                         [all addObject:copyWith(number, launched)];
+                       for (const auto& [number, copy] : world().otherCopies) {
+                         [all addObject:copyWith(number, copy)];
                        }
                        return all;
                      });

@@ -128,6 +128,9 @@ ORVANE_STORED_NUMBER(BOOL, clipsToBounds, setClipsToBounds, boolValue)
   return session;
 }
 
+- (BOOL)isAccessibilityElement {
+  return NO;
+}
 - (id)accessibilityHitTest:(NSPoint)point {
   return self;
 }

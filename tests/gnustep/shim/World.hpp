@@ -32,6 +32,13 @@ struct FileDrag {
   bool hasImage = false;
 };
 
+/// Another copy of the application.
+struct Copy {
+  /// None: not launched by the system.
+  std::optional<double> launchedAt;
+  bool isRunning = true;
+};
+
 /// Main thread only.
 struct World {
   /// Empty: those of the X server. The first is the main one.
@@ -61,8 +68,11 @@ struct World {
   /// Not empty: links that begin so are refused.
   std::string refusedLinkPrefix;
 
-  /// Other copies of the application that run, by process number and the time of their launch.
-  std::map<int, double> otherCopies;
+  /// By process number.
+  std::map<int, Copy> otherCopies;
+  /// To which copies the application has yielded its activation.
+  std::vector<int> yieldedTo;
+  int activations = 0;
   std::vector<std::string> distributedNotifications;
 
   /// The file that is on its way with the pointer.

@@ -20,7 +20,7 @@ class SettingsButtonStylesTest : public ComponentFixture {
   }
   void showSecondary() {
     show(ui::Button([] {}, ui::Text("Go").fixedSize()).style(SettingsSecondaryButtonStyle{}),
-         {35, 26});
+         {35, 25});
   }
 };
 
@@ -108,7 +108,7 @@ TEST_P(SettingsSecondaryButtonStyleTest, IsFilledAndThinlyRimmed) {
   const auto label = test.element("Go");
   ASSERT_TRUE(label);
   const std::string shape = "rounded(" + numbers(label->frame) + " r8 continuous) rgba(";
-  EXPECT_EQ(label->frame.height, 26);
+  EXPECT_EQ(label->frame.height, 25);
   EXPECT_EQ(label->frame.width, 2 * 6.5 + 2 * 11);
   EXPECT_TRUE(draws("fill " + shape + look.fill + ")\n")) << drawing();
   EXPECT_TRUE(draws("stroke " + shape + look.rim + ") width 0.7\n")) << drawing();

@@ -62,6 +62,8 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 
 @interface NSApplication (OrvaneShim)
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy;
+- (void)activate;
+- (void)yieldActivationToApplication:(NSRunningApplication*)application;
 @end
 
 @interface NSWindow (OrvaneShim)
@@ -116,6 +118,7 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
                                              source:(id<NSDraggingSource>)source;
 - (id)accessibilityHitTest:(NSPoint)point;
 - (id)accessibilityFocusedUIElement;
+@property(readonly) BOOL isAccessibilityElement;
 @end
 
 @interface NSView (OrvaneShimMenu)
