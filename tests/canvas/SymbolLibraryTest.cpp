@@ -97,7 +97,7 @@ std::set<std::string> symbolNamesIn(const std::string& source) {
       const auto follows = [&](const std::string& call) {
         return place >= call.size() && line.compare(place - call.size(), call.size(), call) == 0;
       };
-      const bool isIdentity = follows("id(") || follows("command(");
+      const bool isIdentity = follows("id(") || follows("ommand(");
       if (isSymbolName(literal) && !isIdentity) {
         names.insert(literal);
       }
