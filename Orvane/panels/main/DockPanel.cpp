@@ -8,8 +8,6 @@ namespace orvane {
 
 using namespace ui;
 
-namespace {}  // namespace
-
 View DockPanel::body(const Environment& environment) const {
   const bool isDark = environment.isDark();
   return content.padding(padding).maximumWidth().background(
