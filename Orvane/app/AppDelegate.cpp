@@ -46,9 +46,14 @@ void AppDelegate::observeModelChanges() {
 void AppDelegate::refreshStatusItemTimerFired() {
   OrvaneModel& model = OrvaneAppState::model();
   announcer_.update(model);
-  // Most of the time there is nothing to draw. The menu may be open.
-  if (showsRunningGuard_ != model.isGuardRunning()) {
+  // Most of the time there is nothing to draw.
+  if (showsRunningGuard_ == model.isGuardRunning()) {
+    return;
+  }
+  if (statusMenu_.menu().isOpen()) {
     rebuildMenuAndIcon();
+  } else {
+    updateStatusItemIcon();
   }
 }
 

@@ -42,6 +42,10 @@ void Menu::removeItem(std::size_t index) {
   desk::WindowServer::current().menus.itemsChanged(*implementation_);
 }
 
+bool Menu::isOpen() const {
+  return desk::WindowServer::current().menus.isTracking(*implementation_);
+}
+
 void Menu::onWillOpen(std::function<void()> willOpen) {
   implementation_->willOpen = std::move(willOpen);
 }

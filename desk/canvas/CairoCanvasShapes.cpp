@@ -229,6 +229,8 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
     straight = straight.cutTo({0, rows.top, 1, rows.bottom});
     const ui::Rect rect = toPixels.apply(outline.rect);
     key.add(outline.kind)
+        .add(toPixels.scaleX)
+        .add(toPixels.scaleY)
         .add(outline.cornerStyle)
         .add(outline.cornerRadius)
         .add(rect.x - bounds.left)

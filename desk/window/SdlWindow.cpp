@@ -42,7 +42,7 @@ std::unique_ptr<SdlWindow> SdlWindow::open(int width, int height, std::string& c
     return nullptr;
   }
   SDL_SetWindowMinimumSize(result->window_.get(), smallestWidth, smallestHeight);
-  if (!result->updateSize()) {
+  if (SDL_GetWindowSurface(result->window_.get()) == nullptr || !result->updateSize()) {
     complaint = SDL_GetError();
     return nullptr;
   }

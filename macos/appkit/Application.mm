@@ -68,6 +68,8 @@ void Application::setActivationPolicy(ActivationPolicy policy) {
 }
 
 void Application::activateIgnoringOtherApps() {
+  // After Command with H only a granted activation would bring the windows back.
+  [NSApplication.sharedApplication unhideWithoutActivation];
   if (@available(macOS 14, *)) {
     [NSApplication.sharedApplication activate];
   } else {

@@ -5,6 +5,7 @@
 
 #include "macos/appkit/MenuImplementation.hpp"
 #include "macos/appkit/NativeView.hpp"
+#include "macos/appkit/RunSoon.hpp"
 #include "macos/appkit/Strings.hpp"
 #include "macos/hosting/HostingContainer.hpp"
 
@@ -21,6 +22,10 @@ namespace {
 
 __weak NSMenu* trackedMenu = nil;
 
+NSArray<NSRunLoopMode>* modesWithoutMenu() {
+  return @[ NSDefaultRunLoopMode, NSModalPanelRunLoopMode ];
+}
+
 /// Under the pointer a row looks as it wants to.
 bool isUnderPointer(NSView* view) {
   const NSRect frame = [view.window convertRectToScreen:[view convertRect:view.bounds toView:nil]];
@@ -30,12 +35,17 @@ bool isUnderPointer(NSView* view) {
 /// A choice by the keyboard or by VoiceOver always closes the menu, so it has to open again; not
 /// over an alert that the choice has brought up.
 void openAgain(NSStatusBarButton* button) {
+  // The alert waits on the main queue, which has its turn within this time.
+  constexpr double delaySeconds = 0.05;
   __weak NSStatusBarButton* const weakButton = button;
-  orvane::appkit::whenNoMenuIsTracked([weakButton] {
-    if (NSApplication.sharedApplication.modalWindow == nil) {
-      [weakButton performClick:nil];
-    }
-  });
+  orvane::appkit::runSoon(
+      modesWithoutMenu(),
+      ^{
+        if (NSApplication.sharedApplication.modalWindow == nil) {
+          [weakButton performClick:nil];
+        }
+      },
+      delaySeconds);
 }
 
 }  // namespace
@@ -46,11 +56,12 @@ void openAgain(NSStatusBarButton* button) {
   // The action may take this item out of its menu.
   const std::function<void()> chosen = _chosen;
   OrvaneMenuDelegate* const delegate = static_cast<OrvaneMenuDelegate*>(self.menu.delegate);
-  if (_keepsMenuOpen && delegate != nil) {
-    openAgain(delegate->_button);
-  }
+  NSStatusBarButton* const button = _keepsMenuOpen && delegate != nil ? delegate->_button : nil;
   if (chosen) {
     chosen();
+  }
+  if (button != nil) {
+    openAgain(button);
   }
 }
 
@@ -93,10 +104,9 @@ NSMenu* openMenu() {
 }
 
 void whenNoMenuIsTracked(std::function<void()> task) {
-  [NSRunLoop.mainRunLoop performInModes:@[ NSDefaultRunLoopMode, NSModalPanelRunLoopMode ]
-                                  block:^{
-                                    task();
-                                  }];
+  runSoon(modesWithoutMenu(), ^{
+    task();
+  });
 }
 
 namespace {
@@ -146,6 +156,10 @@ void Menu::changeItem(std::size_t index, MenuItem item) {
 void Menu::removeItem(std::size_t index) {
   NSMenu* const menu = implementation_->menu;
   [menu removeItem:[menu itemAtIndex:static_cast<NSInteger>(index)]];
+}
+
+bool Menu::isOpen() const {
+  return openMenu() == implementation_->menu;
 }
 
 void Menu::onWillOpen(std::function<void()> willOpen) {

@@ -14,7 +14,7 @@ cask "orvane" do
     regex(/Orvane[._-]v?(\d+(?:\.\d+)+)\.dmg/i)
   end
 
-  depends_on macos: :ventura
+  depends_on macos: ">= :ventura"
 
   app "Orvane.app"
 

@@ -10,6 +10,7 @@
 
 #include "Orvane/platform/appkit/Accessibility.hpp"
 #include "macos/appkit/KeyEquivalents.hpp"
+#include "macos/appkit/RunSoon.hpp"
 #include "macos/appkit/Strings.hpp"
 #include "macos/canvas/CoreTextMeasurer.hpp"
 #include "macos/canvas/QuartzCanvas.hpp"
@@ -169,10 +170,9 @@ ui::TextMeasurer& textMeasurer() {
 // The shadow of a window without a background is that of its content, which is there only now.
 - (void)castShadowSoon {
   __weak NSWindow* const window = self.window;
-  [NSRunLoop.mainRunLoop performInModes:@[ NSRunLoopCommonModes ]
-                                  block:^{
-                                    [window invalidateShadow];
-                                  }];
+  appkit::runSoon(@[ NSRunLoopCommonModes ], ^{
+    [window invalidateShadow];
+  });
 }
 
 #pragma mark Surroundings
@@ -360,14 +360,13 @@ ui::TextMeasurer& textMeasurer() {
   __weak OrvaneHostView* const weakSelf = self;
   // A block would keep the reference, and what it refers to is gone by then.
   const ui::MenuRequest kept = request;
-  [NSRunLoop.mainRunLoop performInModes:@[ NSRunLoopCommonModes ]
-                                  block:^{
-                                    // Its window may have been closed in between.
-                                    OrvaneHostView* const view = weakSelf;
-                                    if (view.window.visible) {
-                                      appkit::runPopUpMenu(kept, view);
-                                    }
-                                  }];
+  appkit::runSoon(@[ NSRunLoopCommonModes ], ^{
+    // Its window may have been closed in between.
+    OrvaneHostView* const view = weakSelf;
+    if (view.window.visible) {
+      appkit::runPopUpMenu(kept, view);
+    }
+  });
 }
 
 #pragma mark Accessibility
@@ -382,10 +381,9 @@ ui::TextMeasurer& textMeasurer() {
   }
   // Somebody listens: what has changed is told soon, and not only when it is asked for.
   __weak OrvaneHostView* const weakSelf = self;
-  [NSRunLoop.mainRunLoop performInModes:@[ NSRunLoopCommonModes ]
-                                  block:^{
-                                    [weakSelf bringMeaningsUpToDate];
-                                  }];
+  appkit::runSoon(@[ NSRunLoopCommonModes ], ^{
+    [weakSelf bringMeaningsUpToDate];
+  });
 }
 
 - (void)bringMeaningsUpToDate {

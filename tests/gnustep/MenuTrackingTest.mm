@@ -162,13 +162,19 @@ TEST_F(MenuTracking, ASwitchWhoseChoiceBringsUpAnAlertLeavesTheMenuClosed) {
   int openings = 0;
   appkit::Window panel(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
                        appkit::StyleMask::titled);
+  int alerts = 0;
   appkit::MenuItem row = rowWith([&] {
-    when([] { return NSApp.modalWindow != nil; },
-         [] {
-           EXPECT_FALSE(isMenuOpen());
-           appkit::Application::stopModal(1001);
-         });
-    [NSApp runModalForWindow:nativeOf(panel)];
+    // As the permission alert comes up: by a task of the main queue.
+    appkit::MainQueue::async([&] {
+      NSDate* const read = [NSDate dateWithTimeIntervalSinceNow:0.2];
+      when([read] { return NSApp.modalWindow != nil && read.timeIntervalSinceNow < 0; },
+           [&] {
+             ++alerts;
+             EXPECT_FALSE(isMenuOpen());
+             appkit::Application::stopModal(1001);
+           });
+      [NSApp runModalForWindow:nativeOf(panel)];
+    });
   });
   row.keepsMenuOpen = true;
   menu.insertItem(0, row);
@@ -177,6 +183,7 @@ TEST_F(MenuTracking, ASwitchWhoseChoiceBringsUpAnAlertLeavesTheMenuClosed) {
   item.setMenu(menu);
   typeIntoMenu(@[ functionKey(NSDownArrowFunctionKey), @"\r" ]);
   clickStatusItem();
+  EXPECT_TRUE(isSoon([&] { return alerts == 1; }));
   letTimePass(0.1);
   EXPECT_EQ(openings, 1);
   panel.close();

@@ -120,7 +120,7 @@ class HomebrewCask(unittest.TestCase):
         self.assertIn(f'quit:       "{IDENTIFIER}"', self.cask)
         self.assertIn(f"/Library/Preferences/{IDENTIFIER}.plist", self.cask)
         self.assertIn(f"tccutil reset Accessibility {IDENTIFIER}", self.cask)
-        self.assertIn("depends_on macos: :ventura\n", self.cask)
+        self.assertIn('depends_on macos: ">= :ventura"\n', self.cask)
         self.assertEqual(OLDEST, "13.0", "which is Ventura")
 
     def test_only_an_uninstallation_removes_the_login_item(self):

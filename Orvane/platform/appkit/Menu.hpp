@@ -48,6 +48,7 @@ class Menu {
   void changeItem(std::size_t index, MenuItem item);
   void removeItem(std::size_t index);
 
+  [[nodiscard]] bool isOpen() const;
   /// Called when the menu is about to be shown.
   void onWillOpen(std::function<void()> willOpen);
   /// Closes the menu if it is open, without choosing anything. `ended`, which may be null, is
