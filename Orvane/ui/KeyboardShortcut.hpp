@@ -19,7 +19,8 @@ struct KeyModifiers {
 struct KeyEvent {
   Key key = Key::character;
   KeyModifiers modifiers;
-  // For Key::character: what the key types without its modifiers but Command, in UTF-8 and lower case.
+  // For Key::character: what the key types without its modifiers but Command, in UTF-8 and lower
+  // case.
   std::string characters;
 };
 

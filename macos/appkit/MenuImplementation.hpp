@@ -27,7 +27,8 @@ struct Menu::Implementation {
 /// The Menu that is being tracked now; nil when none is.
 [[nodiscard]] NSMenu* _Nullable openMenu();
 
-/// Runs `task` from the run loop once no menu is tracked: in the default mode or in a modal session.
+/// Runs `task` from the run loop once no menu is tracked: in the default mode or in a modal
+/// session.
 void whenNoMenuIsTracked(std::function<void()> task);
 
 }  // namespace orvane::appkit

@@ -53,10 +53,9 @@ class Application {
 
   /// Shows `window` and lets the user do nothing else in the application until stopModal; then
   /// calls `ended` with its response. An open menu is closed first, and the window stays in sight
-  /// when the application is deactivated. The application may be quit in between, and then nobody is
-  /// called. The task that calls this must have nothing left to do
-  /// afterwards: until the session ends, the main queue delivers nothing, while events and timers
-  /// of the common modes go on.
+  /// when the application is deactivated. The application may be quit in between, and then nobody
+  /// is called. The task that calls this must have nothing left to do afterwards: until the session
+  /// ends, the main queue delivers nothing, while events and timers of the common modes go on.
   static void runModal(const Window& window, std::function<void(int response)> ended);
   /// Ends the modal session; does nothing without one.
   static void stopModal(int response);
