@@ -17,10 +17,10 @@ struct RunningCopy {
   friend bool operator==(const RunningCopy&, const RunningCopy&) = default;
 };
 
-/// The copy to which the others hand over: one that runs already; of several that start at one
-/// time, the one that was launched first, and of equal ones that with the least process number. A
-/// copy whose launch nobody noted comes after those whose launch is known. All who see the same
-/// copies, in any order, get the same answer; none when there are no copies.
+/// The copy to which the others hand over. A copy that runs already comes before those that still
+/// start; then the earlier launch decides, and at last the smaller process number. A copy without a
+/// launch date comes after those with one. The order of the copies does not matter; none when there
+/// are no copies.
 [[nodiscard]] std::optional<RunningCopy> copyThatStays(std::span<const RunningCopy> copies);
 
 }  // namespace orvane
