@@ -25,6 +25,7 @@ View StatusPill::body(const Environment& environment) const {
   return Text(text)
       .font(Font::system(13, Weight::bold))
       .foreground(isActive ? Color::accent() : Color::secondary())
+      .lineHeight(16)
       .fixedSize()
       .padding(Edges::horizontal(13).vertical(8))
       .background(
