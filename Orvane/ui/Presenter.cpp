@@ -28,7 +28,7 @@ bool isPlaceMoving(const Node& node, double now) {
   return node.geometry[0].isMoving(now) || node.geometry[1].isMoving(now);
 }
 
-bool isAnySideMoving(const Node& node, double now) {
+bool isSizeMoving(const Node& node, double now) {
   return node.geometry[2].isMoving(now) || node.geometry[3].isMoving(now);
 }
 
@@ -49,7 +49,7 @@ void Presenter::visit(Node& node, const Inherited& outer) {
   node.toHost = outer.toHost.after(Transform::translation(frame.origin()));
   const Inherited inner = through(node, outer, isChanging);
   node.movesContent = inner.isMoving;
-  node.isMoving = inner.isMoving || isAnySideMoving(node, now_);
+  node.isMoving = inner.isMoving || isSizeMoving(node, now_);
   note(node, inner);
   node.inkWithDescendants = node.ink;
   for (const auto& child : node.children) {

@@ -23,7 +23,6 @@ constexpr double sidePadding = 12;
 constexpr double imageShadowRadius = 5;
 constexpr double imageShadowDrop = 3;
 constexpr double hoverSeconds = 0.14;
-constexpr double cardPressedShade = 0.08;
 
 }  // namespace
 
@@ -83,7 +82,8 @@ View DisplayChoiceCard::body(const Environment& environment) const {
   return Button([environment,
                  action = action] { environment.animate(Curve::spring(0.24, 0.82), action); },
                 card)
-      .style(DarkeningButtonStyle{ShapeForm::rounded(cornerRadius), cardPressedShade})
+      .style(
+          DarkeningButtonStyle{ShapeForm::rounded(cornerRadius), environment.isDark() ? 0.2 : 0.08})
       .focusRing(ShapeForm::rounded(cornerRadius))
       .accessibilityRole(Role::radioButton)
       .accessibilityLabel(title())

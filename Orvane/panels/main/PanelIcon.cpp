@@ -29,7 +29,7 @@ View PanelIcon::body(const Environment& /*environment*/) const {
                       .castShadow({.color = tint.opacity(0.24), .radius = 7, .y = 3})
                       .fill(Color::black().opacity(0.7))
                       .fill(Gradient::linear({tint.opacity(0.98), tint.opacity(0.78)}))
-                      .fill(Gradient::linear({light.opacity(0.12), light.opacity(0)})));
+                      .fill(Gradient::linear({light.opacity(0.08), light.opacity(0)})));
 }
 
 }  // namespace orvane

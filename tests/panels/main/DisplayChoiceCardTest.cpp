@@ -139,6 +139,9 @@ TEST_F(DisplayChoiceCardTest, DarkensWhilePressedAndGrowsNoMore) {
   hold({100, 80});
   EXPECT_TRUE(draws(shade)) << drawing();
   EXPECT_NEAR(growth(), 1, 1e-9);
+  appear(true);
+  EXPECT_TRUE(draws("continuous) rgba(0 0 0 0.2)")) << drawing();
+  appear(false);
   test.host->pointerDragged({5, 80});
   rest();
   EXPECT_FALSE(draws(shade)) << drawing();
