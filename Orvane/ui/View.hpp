@@ -92,7 +92,8 @@ class View {
   View font(const Font& font) const;
   View lineLimit(int lines) const;
   // The lines of texts are so many points high, whatever script they are written in, and each has
-  // its baseline where a Latin line in the middle of this height has it.
+  // its baseline where a Latin line in the middle of this height has it. Zero and less leave them
+  // as they are.
   View lineHeight(double points) const;
   View textAlignment(TextAlignment alignment) const;
   View disabled(bool isDisabled) const;

@@ -40,7 +40,9 @@ View View::lineLimit(int lines) const {
 }
 
 View View::lineHeight(double points) const {
-  return environment([points](Environment& inherited) { inherited.lineHeight = points; });
+  return environment([points](Environment& inherited) {
+    inherited.lineHeight = points > 0 ? std::optional<double>(points) : std::nullopt;
+  });
 }
 
 View View::textAlignment(TextAlignment alignment) const {

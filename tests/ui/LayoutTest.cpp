@@ -62,7 +62,7 @@ class TallScript : public TextMeasurer {
   TextLayout layout(const std::string& text, const Font& font, double maximumWidth,
                     int lineLimit) override {
     TextLayout layout = latin_.layout(text, font, maximumWidth, lineLimit);
-    const bool isTall = std::ranges::any_of(text, [](char byte) { return byte < 0; });
+    const bool isTall = std::ranges::any_of(text, [](unsigned char byte) { return byte > 0x7F; });
     layout.ascent += isTall ? 3 : 0;
     layout.lineHeight += isTall ? 5 : 0;
     return layout;
@@ -101,6 +101,7 @@ TEST(LayoutTest, linesOfAFixedHeightHaveTheirBaselinesWhereLatinOnesHaveThem) {
   // 10 points of font, 7.5 of them above the baseline, in the middle of 14; on whole points.
   EXPECT_EQ(baselines("a\nb"), (std::vector<std::string>{" at 0 10", " at 0 24"}));
   EXPECT_EQ(baselines("中\nb"), baselines("a\nb"));
+  EXPECT_EQ(drawing("中", Text("中").lineHeight(0)), drawing("中", Text("中")));
   EXPECT_NE(drawing("中", Text("中")), drawing("a", Text("a"))) << "else they follow their script";
 }
 
