@@ -71,7 +71,7 @@ View OrvanePermissionGuideView::statusLine() const {
                                       .foreground(color)
                                       .textAlignment(TextAlignment::center)
                                       .frame({.height = lineHeight, .maximumWidth = infinity})
-                                      .transition(Transition::opacity()));
+                                      .transition(Transition::fadeThrough()));
   };
   return ZStack({line(PermissionGuideState::checking,
                       localized("Waiting for permission in System Settings",

@@ -37,10 +37,11 @@ class Builder {
   void members(Node& node, const std::vector<View>& views,
                const std::shared_ptr<const Environment>& environment);
 
-  // From here to the end of the scope, changes travel along the curve.
+  // From here to the end of the scope, changes travel along the curve; without one they do not
+  // travel.
   class CurveScope {
    public:
-    CurveScope(Builder& builder, const Curve& curve)
+    CurveScope(Builder& builder, const std::optional<Curve>& curve)
         : builder_(builder), previous_(builder.curve_) {
       builder.curve_ = curve;
     }

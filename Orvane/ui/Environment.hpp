@@ -27,6 +27,8 @@ struct Environment {
   TextAlignment textAlignment = TextAlignment::leading;
   // 0 means any number of lines.
   int lineLimit = 0;
+  // In points; none for the height that the characters ask for.
+  std::optional<double> lineHeight;
   bool isEnabled = true;
   // Activates the first control below.
   std::optional<KeyboardShortcut> shortcut;

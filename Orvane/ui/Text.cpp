@@ -26,9 +26,18 @@ struct TextData {
 
   std::string text;
   Font font;
+  std::optional<double> lineHeight;
   std::vector<Known> known;
   TextLayout placed;
 };
+
+// The same lines, each of that height.
+TextLayout spaced(TextLayout layout, double lineHeight, const Font& font, LayoutPass& pass) {
+  const TextLayout latin = pass.text().layout("x", font, infinity, 1);
+  layout.ascent = latin.ascent + (lineHeight - latin.lineHeight) / 2;
+  layout.lineHeight = lineHeight;
+  return layout;
+}
 
 class TextElement final : public Element {
  public:
@@ -37,8 +46,10 @@ class TextElement final : public Element {
   void build(Node& node, Builder&) const override {
     const auto* data = std::any_cast<TextData>(&node.data);
     const Font& font = node.environment->font;
-    if (data == nullptr || data->text != text_ || !(data->font == font)) {
-      node.data = TextData{text_, font, {}, {}};
+    const std::optional<double>& lineHeight = node.environment->lineHeight;
+    if (data == nullptr || data->text != text_ || !(data->font == font) ||
+        data->lineHeight != lineHeight) {
+      node.data = TextData{text_, font, lineHeight, {}, {}};
     }
   }
 
@@ -115,7 +126,11 @@ class TextElement final : public Element {
     data.known.reserve(most);
     data.known.push_back(
         {width, lineLimit, pass.text().layout(text_, data.font, width + slack, lineLimit)});
-    return data.known.back().layout;
+    TextLayout& layout = data.known.back().layout;
+    if (data.lineHeight) {
+      layout = spaced(std::move(layout), *data.lineHeight, data.font, pass);
+    }
+    return layout;
   }
 
   std::string text_;

@@ -39,6 +39,12 @@ View View::lineLimit(int lines) const {
   return environment([lines](Environment& inherited) { inherited.lineLimit = lines; });
 }
 
+View View::lineHeight(double points) const {
+  return environment([points](Environment& inherited) {
+    inherited.lineHeight = points > 0 ? std::optional<double>(points) : std::nullopt;
+  });
+}
+
 View View::textAlignment(TextAlignment alignment) const {
   return environment([alignment](Environment& inherited) { inherited.textAlignment = alignment; });
 }
