@@ -54,7 +54,7 @@ GallerySheet rowSheet() {
       .name = "status-menu-row",
       .title = "StatusMenuRow",
       .ground = GallerySheet::Ground::menu,
-      .columns = 6,
+      .columns = 7,
       .items = {rowItem("switch, off", prevent, {.isOn = false}),
                 rowItem("switch, on", prevent, {.isOn = true}),
                 rowItem("switch, hovered", prevent, {.isOn = false}, Hand::over),

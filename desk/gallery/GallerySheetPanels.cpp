@@ -46,12 +46,12 @@ void openAtLogin(OrvaneModel& model) {
   model.setLaunchAtLoginEnabled(true);
 }
 
-GallerySheet mainPanelSheet(const std::string& name, const std::string& title,
+GallerySheet mainPanelSheet(const std::string& name, const std::string& title, std::size_t columns,
                             std::vector<GalleryItem> items) {
   return {.name = name,
           .title = title,
           .ground = GallerySheet::Ground::mainWindow,
-          .columns = 3,
+          .columns = columns,
           .items = std::move(items)};
 }
 
@@ -59,7 +59,7 @@ GallerySheet displaysSheet() {
   const auto chooseTheLast = [](OrvaneModel& model) {
     model.selectDisplay(PanelStage::displayID(7));
   };
-  return mainPanelSheet("main-panel-displays", "ContentView: displays",
+  return mainPanelSheet("main-panel-displays", "ContentView: displays", 3,
                         {mainPanel("none", {.displayNames = {}}),
                          mainPanel("one", {.displayNames = firstDisplays(1)}),
                          mainPanel("two", {.displayNames = firstDisplays(2)}),
@@ -77,7 +77,7 @@ GallerySheet namesSheet() {
                         "左侧墙面上的会议室超宽电视显示器（2）", "DELL"};
   const Names chineseNames{"", "书房的显示器", "LG HDR 4K", "会议室电视"};
   return mainPanelSheet(
-      "main-panel-names", "ContentView: names of displays",
+      "main-panel-names", "ContentView: names of displays", 3,
       {mainPanel("long", {.displayNames = longNames, .use = chooseTheSecond}),
        mainPanel("Chinese beside Latin", {.displayNames = chineseNames, .use = chooseTheSecond}),
        mainPanel("missing", {.displayNames = {"", "", "", ""}, .use = chooseTheSecond})});
@@ -86,7 +86,7 @@ GallerySheet namesSheet() {
 GallerySheet statesSheet() {
   const auto chooseOneThatIsAway = [](OrvaneModel& model) { model.selectDisplay("AWAY"); };
   return mainPanelSheet(
-      "main-panel-states", "ContentView: states",
+      "main-panel-states", "ContentView: states", 4,
       {mainPanel("pinned", {.displayNames = firstDisplays(2), .use = pin}),
        mainPanel("preventing", {.displayNames = firstDisplays(2), .use = prevent}),
        mainPanel("without the permission", {.displayNames = firstDisplays(2), .isTrusted = false}),
