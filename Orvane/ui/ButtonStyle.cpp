@@ -26,10 +26,11 @@ View BorderedButtonStyle::body(const ButtonConfiguration& configuration,
   const Color neutral = environment.isDark()
                             ? Color::white().opacity(configuration.isPressed ? 0.28 : 0.2)
                             : Color::black().opacity(configuration.isPressed ? 0.16 : 0.09);
-  const Color accent = configuration.isPressed ? Color::accent().opacity(0.8) : Color::accent();
+  const Color filled = Color::accent().buttonFill();
+  const Color accent = configuration.isPressed ? filled.opacity(0.8) : filled;
   const Color rim =
       environment.isDark() ? Color::white().opacity(0.1) : Color::black().opacity(0.06);
-  return configuration.label.foreground(isFilled ? Color::white() : Color::primary())
+  return configuration.label.foreground(isFilled ? Color::accent().buttonLabel() : Color::primary())
       .padding(Edges::horizontal(bezelPaddingAcross).vertical(bezelPaddingDown))
       .background(
           RoundedRectangle(bezelRadius).fill(isFilled ? accent : neutral).strokeBorder(rim, 0.5))

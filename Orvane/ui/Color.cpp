@@ -1,7 +1,10 @@
-// Resolving a semantic colour: the platform's answer first, then white and opacity on top.
+// Resolving a semantic colour: the platform's answer first, then what its use asks for, then white
+// and opacity on top.
 #include "Orvane/ui/Color.hpp"
 
 #include <algorithm>
+
+#include "Orvane/ui/Legibility.hpp"
 
 namespace orvane::ui {
 
@@ -36,8 +39,45 @@ Color Color::lighter(double share) const {
   return result;
 }
 
+Color Color::usedAs(Use use) const {
+  Color result = *this;
+  result.use_ = use;
+  return result;
+}
+
+Color Color::textOn(double groundLuminance, double veil) const {
+  Color result = usedAs(Use::text);
+  result.groundLuminance_ = unit(groundLuminance);
+  result.veil_ = unit(veil);
+  return result;
+}
+
+Color Color::buttonFill() const {
+  return usedAs(Use::buttonFill);
+}
+
+Color Color::buttonLabel() const {
+  return usedAs(Use::buttonLabel);
+}
+
+Rgba Color::forUse(const Rgba& base, const Appearance& appearance) const {
+  const double required = legibility::requiredContrast(appearance);
+  switch (use_) {
+    case Use::any:
+      return base;
+    case Use::text:
+      return legibility::textOn(legibility::veiled(groundLuminance_, base, veil_), base, required);
+    case Use::buttonFill:
+      return legibility::buttonFill(base, required, gradientLight);
+    case Use::buttonLabel:
+      return legibility::buttonLabel(base);
+  }
+  return base;
+}
+
 Rgba Color::resolve(const Appearance& appearance, const ColorResolver& resolver) const {
-  const Rgba base = name_ == SystemColor::fixed ? components_ : resolver(name_, appearance);
+  const Rgba base =
+      forUse(name_ == SystemColor::fixed ? components_ : resolver(name_, appearance), appearance);
   return {mixWithWhite(base.red, whiteShare_), mixWithWhite(base.green, whiteShare_),
           mixWithWhite(base.blue, whiteShare_), base.alpha * opacity_};
 }

@@ -1,7 +1,8 @@
-// A colour that stays semantic until it is drawn: a name or fixed components, an opacity, and a
-// share of white mixed in.
+// A colour that stays semantic until it is drawn: a name or fixed components, what it is used for,
+// an opacity, and a share of white mixed in.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 
 #include "Orvane/ui/Appearance.hpp"
@@ -28,6 +29,10 @@ using ColorResolver = std::function<Rgba(SystemColor, const Appearance&)>;
 
 class Color {
  public:
+  // The share of white at the top of Gradient::system: enough to be seen as light, not as another
+  // colour.
+  static constexpr double gradientLight = 0.125;
+
   static Color accent() { return Color(SystemColor::accent); }
   // The label colours, from strongest to faintest.
   static Color primary() { return Color(SystemColor::primary); }
@@ -50,15 +55,32 @@ class Color {
   // The same colour with white mixed in: 0 changes nothing, 1 is white.
   Color lighter(double share) const;
 
+  // The same hue as a text that can be read on a ground of this relative luminance (0 to 1), also
+  // under a veil of this colour in that opacity (0 to 1): as little darker or lighter as it takes.
+  Color textOn(double groundLuminance, double veil = 0) const;
+  // The same hue as the fill of a button, as little darker as its label takes, and the colour of
+  // that label: white, or black on a light colour.
+  Color buttonFill() const;
+  Color buttonLabel() const;
+
   Rgba resolve(const Appearance& appearance, const ColorResolver& resolver) const;
 
   friend bool operator==(const Color&, const Color&) = default;
 
  private:
+  enum class Use : std::uint8_t { any, text, buttonFill, buttonLabel };
+
   explicit Color(SystemColor name) : name_(name) {}
+
+  Color usedAs(Use use) const;
+  Rgba forUse(const Rgba& base, const Appearance& appearance) const;
 
   SystemColor name_;
   Rgba components_;
+  Use use_ = Use::any;
+  // Of a text.
+  double groundLuminance_ = 0;
+  double veil_ = 0;
   double opacity_ = 1;
   double whiteShare_ = 0;
 };

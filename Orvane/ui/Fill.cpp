@@ -15,9 +15,7 @@ Gradient Gradient::linear(std::initializer_list<Color> colors, UnitPoint start, 
 }
 
 Gradient Gradient::system(const Color& color) {
-  // An eighth of white at the top is enough to be seen as light, not as another colour.
-  constexpr double lightShare = 0.125;
-  return linear({color.lighter(lightShare), color});
+  return linear({color.lighter(Color::gradientLight), color});
 }
 
 Gradient Gradient::opacity(double factor) const {

@@ -33,7 +33,7 @@ Rgba standardColor(SystemColor name, const Appearance& appearance) {
     case SystemColor::secondary:
       // AppKit's are 0.5 and 0.55, and vibrancy strengthens them over glass. Without vibrancy they
       // would not reach a contrast of 4.5 to 1, even black on pure white.
-      return label(appearance, 0.6, 0.68, 0.8);
+      return label(appearance, 0.6, 0.7, 0.8);
     case SystemColor::tertiary:
       return label(appearance, 0.26, 0.25, 0.45);
     case SystemColor::windowBackground:

@@ -1,13 +1,13 @@
 // Every text of the panels can be read: its contrast is measured from the pixels of the desktop, in
-// both appearances, over a white, a black and a busy wallpaper.
+// both appearances, over a white, a black and a busy wallpaper, and in every accent colour.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/StandardColors.hpp"
 #include "desk/desktop/DesktopPicture.hpp"
 #include "tests/panels/PanelFixture.hpp"
 #include "tests/panels/TextRun.hpp"
@@ -18,54 +18,29 @@ namespace {
 
 using Wallpaper = desk::Appearance::Wallpaper;
 
-/// Why a text may be fainter than 4.5 to 1, and what it must reach then. But for the first, the
-/// colours are the user's and the system's own.
-struct Exception {
-  std::string reason;
-  bool (*applies)(const TextRun& run);
-  double least;
-};
+using Accent = desk::Appearance::Accent;
 
-bool isWhite(const ui::Rgba& color) {
-  return color.red > 0.99 && color.green > 0.99 && color.blue > 0.99 && color.alpha > 0.99;
-}
-/// The system's blue, which is the accent colour unless the user has chosen another.
-bool isAccent(const ui::Rgba& color, bool isDark) {
-  ui::Appearance appearance;
-  appearance.dark = isDark;
-  const ui::Rgba accent = ui::standardColor(ui::SystemColor::blue, appearance);
-  return color.red == accent.red && color.green == accent.green && color.blue == accent.blue;
-}
+/// Those that the system offers: blue, purple, pink, red, orange, yellow, green and graphite.
+constexpr std::array accents{Accent{0, 122, 255}, Accent{149, 61, 150}, Accent{247, 79, 158},
+                             Accent{224, 56, 62}, Accent{247, 130, 27}, Accent{255, 199, 38},
+                             Accent{98, 186, 70}, Accent{152, 152, 152}};
 
-const std::vector<Exception>& exceptions() {
-  static const std::vector<Exception> all{
-      {"bold text of 18 points and more needs 3 to 1",
-       [](const TextRun& run) {
-         return run.font.size >= 18 && run.font.weight >= ui::Weight::bold && run.opacity == 1;
-       },
-       3.0},
-      {"the label of the main button is white on the accent colour or on red",
-       [](const TextRun& run) { return isWhite(run.color) && run.font.size == 15; }, 3.1},
-      {"the chosen card and an active pill are written in the accent colour as it is, by day",
-       [](const TextRun& run) { return isAccent(run.color, false); }, 2.8},
-      {"and in the dark, on the lightest glass there is: over white, raised, with the top's light",
-       [](const TextRun& run) { return isAccent(run.color, true); }, 2.2},
-  };
-  return all;
-}
-
-double leastContrast(const TextRun& run) {
-  for (const Exception& exception : exceptions()) {
-    if (exception.applies(run)) {
-      return exception.least;
-    }
-  }
-  return 4.5;
+/// What a text must reach: 4.5, and 3 where it is large or written in, or on, the accent colour or
+/// red, unless the user asks for contrast.
+double leastContrast(const TextRun& run, bool increasesContrast) {
+  const bool isLarge = run.font.size >= 18 && run.font.weight >= ui::Weight::bold;
+  // Labels are black or white, and translucent but where more contrast is asked for.
+  const bool isInk = run.color.alpha < 1 || run.color.red == 0 || run.color.red == 1;
+  const bool isOnFill = run.font.size == 15 && run.font.weight == ui::Weight::semibold;
+  const bool isColored = !isInk || run.color.red != run.color.blue || isOnFill;
+  return isLarge || (isColored && !increasesContrast) ? 3 : 4.5;
 }
 
 class ContrastTest : public PanelFixture {
  protected:
   static constexpr double scale = 3;
+
+  desk::DrawingResources resources;
 
   ContrastTest() {
     EXPECT_FALSE(machine.displays.detach(3));
@@ -105,7 +80,6 @@ class ContrastTest : public PanelFixture {
   void expectReadable(const std::string& surface, const std::string& where) {
     const auto shown = window(surface);
     ASSERT_NE(shown, nullptr);
-    desk::DrawingResources resources;
     desk::DesktopPainter painter(resources);
     desk::DesktopScene scene(machine, application);
     scene.onlySurface = surface;
@@ -126,19 +100,24 @@ class ContrastTest : public PanelFixture {
                       pixel(corner.x + run.frame.right()),
                       pixel(corner.y + run.frame.bottom()) + 3};
       const double reached = measured(picture.get(), area);
-      EXPECT_GE(reached, leastContrast(run)) << "\"" << run.line << "\" " << where;
+      EXPECT_GE(reached, leastContrast(run, machine.appearance.increasesContrast))
+          << "\"" << run.line << "\" " << where;
     }
   }
 
-  /// Both panels over every wallpaper in an appearance, with whatever is switched on.
+  /// Over every wallpaper in both appearances, as it is and with more contrast.
   void expectReadableEverywhere(const std::string& surface, const std::string& state) {
     for (const bool isDark : {false, true}) {
-      for (const Wallpaper wallpaper : {Wallpaper::white, Wallpaper::black, Wallpaper::busy}) {
-        machine.appearance.isDark = isDark;
-        machine.appearance.wallpaper = wallpaper;
-        machine.advance(1);
-        expectReadable(surface, state + (isDark ? ", dark" : ", light") + ", wallpaper " +
-                                    std::to_string(static_cast<int>(wallpaper)));
+      for (const bool increasesContrast : {false, true}) {
+        for (const Wallpaper wallpaper : {Wallpaper::white, Wallpaper::black, Wallpaper::busy}) {
+          machine.appearance.isDark = isDark;
+          machine.appearance.increasesContrast = increasesContrast;
+          machine.appearance.wallpaper = wallpaper;
+          machine.advance(1);
+          expectReadable(surface, state + (isDark ? ", dark" : ", light") +
+                                      (increasesContrast ? ", more contrast" : "") +
+                                      ", wallpaper " + std::to_string(static_cast<int>(wallpaper)));
+        }
       }
     }
   }
@@ -160,6 +139,30 @@ TEST_F(ContrastTest, OfTheMainPanelWhilePreventingInChinese) {
   model().setAppLanguage(OrvaneLanguage::chinese);
   model().toggleHideDockOnAllDisplays();
   expectReadableEverywhere(mainPanel, "preventing");
+}
+
+// One state has it all: a chosen card, an active pill, and the main button in the accent colour.
+TEST_F(ContrastTest, OfTheMainPanelInEveryAccentColour) {
+  openMain();
+  model().toggleHideDockOnAllDisplays();
+  for (const bool increasesContrast : {false, true}) {
+    for (const Accent& accent : accents) {
+      machine.appearance.increasesContrast = increasesContrast;
+      machine.appearance.accent = accent;
+      const std::string name = std::to_string(accent.red) + "," + std::to_string(accent.green) +
+                               "," + std::to_string(accent.blue) +
+                               (increasesContrast ? ", more contrast" : "");
+      // Where the ground is nearest to the texts.
+      machine.appearance.isDark = true;
+      machine.appearance.wallpaper = Wallpaper::white;
+      machine.advance(1);
+      expectReadable(mainPanel, name + ", dark");
+      machine.appearance.isDark = false;
+      machine.appearance.wallpaper = Wallpaper::black;
+      machine.advance(1);
+      expectReadable(mainPanel, name + ", light");
+    }
+  }
 }
 
 TEST_F(ContrastTest, OfTheSettings) {

@@ -20,6 +20,8 @@ struct Written {
 constexpr const char* primary = "0 0 0 0.85";
 constexpr const char* secondary = "0 0 0 0.6";
 constexpr const char* accent = "0 0.478 1 1";
+/// A little darker, to be read on a veil of itself.
+constexpr const char* accentOnPill = "0 0.459 0.959 1";
 constexpr const char* white = "1 1 1 1";
 /// The primary colour at 0.82.
 constexpr const char* secondaryButton = "0 0 0 0.697";
@@ -66,7 +68,7 @@ TEST_F(PanelFontsTest, TheMainPanelWhileItPrevents) {
   ASSERT_TRUE(press("Prevent Dock Pop-Up"));
   machine.advance(1);
   expectWritten(mainPanel, {{"text \"the Dock”\"", "13/400", secondary},
-                            {"text \"Enabled\"", "13/700", accent},
+                            {"text \"Enabled\"", "13/700", accentOnPill},
                             {"symbol eye", "13/700", secondaryButton},
                             {"text \"Allow Dock Pop-Up\"", "13/700", secondaryButton},
                             {"symbol gearshape", "13/700", secondaryButton},

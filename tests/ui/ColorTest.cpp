@@ -20,7 +20,7 @@ TEST(ColorTest, aSemanticColourFollowsTheAppearance) {
   EXPECT_EQ(resolved(Color::primary(), false), (Rgba{0, 0, 0, 0.85}));
   EXPECT_EQ(resolved(Color::primary(), true), (Rgba{1, 1, 1, 0.85}));
   EXPECT_EQ(resolved(Color::secondary(), false).alpha, 0.6);
-  EXPECT_EQ(resolved(Color::secondary(), true).alpha, 0.68);
+  EXPECT_EQ(resolved(Color::secondary(), true).alpha, 0.7);
   EXPECT_EQ(resolved(Color::tertiary(), true).alpha, 0.25);
   EXPECT_EQ(resolved(Color::red(), true), (Rgba{1, 69 / 255.0, 58 / 255.0, 1}));
 }

@@ -27,7 +27,8 @@ const std::string& DisplayChoiceCard::title() const {
   return display.name.empty() ? fallbackLabel : display.name;
 }
 
-View DisplayChoiceCard::content() const {
+View DisplayChoiceCard::content(bool isDark) const {
+  const Color chosen = OrvanePalette::accentText(isDark);
   const View image = Image(display.isBuiltIn ? "DisplayLaptop" : "DisplayMonitor")
                          .resizable(ContentMode::fit)
                          .frame(122, 70)
@@ -36,11 +37,11 @@ View DisplayChoiceCard::content() const {
                                   .y = imageShadowDrop});
   const View name = Text(title())
                         .font(Font::system(13, isSelected ? Weight::bold : Weight::medium))
-                        .foreground(isSelected ? Color::accent() : Color::primary())
+                        .foreground(isSelected ? chosen : Color::primary())
                         .lineLimit(1);
   const View role = Text(roleLabel)
                         .font(Font::system(11, Weight::semibold))
-                        .foreground(isSelected ? Color::accent() : Color::secondary())
+                        .foreground(isSelected ? chosen : Color::secondary())
                         .lineLimit(1);
   return VStack(imageToTitle, {image, VStack(titleToRole, {name, role})})
       .padding(Edges::horizontal(sidePadding))
@@ -70,7 +71,7 @@ View DisplayChoiceCard::checkBadge() const {
 View DisplayChoiceCard::body(const Environment& environment) const {
   const State<bool> isHovered = environment.state("isHovered", false);
   const bool isRaised = isSelected || isHovered.value();
-  const View card = content()
+  const View card = content(environment.isDark())
                         .background(surface(environment, isRaised))
                         .overlay(when(isSelected, checkBadge()), Alignment::topTrailing());
   return Button([environment,

@@ -27,7 +27,7 @@ struct DisplayChoiceCard {
 
  private:
   [[nodiscard]] const std::string& title() const;
-  [[nodiscard]] ui::View content() const;
+  [[nodiscard]] ui::View content(bool isDark) const;
   [[nodiscard]] ui::View surface(const ui::Environment& environment, bool isRaised) const;
   [[nodiscard]] ui::View checkBadge() const;
 };

@@ -36,6 +36,12 @@ Gradient panelOverlayGradient(bool isDark) {
                 : Gradient::linear({white(0.3), white(0.1)});
 }
 
+// The grounds are those of the chosen card where they are nearest to the text's own brightness:
+// over a white wallpaper in the dark, and over a black one by day.
+Color accentText(bool isDark, double veil) {
+  return Color::accent().textOn(isDark ? 0.078 : 0.81, veil);
+}
+
 Color secondaryButtonFill(bool isDark, bool isPressed) {
   if (isDark) {
     return white(isPressed ? 0.14 : 0.085);

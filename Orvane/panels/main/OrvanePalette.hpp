@@ -14,6 +14,8 @@ namespace orvane::OrvanePalette {
 [[nodiscard]] ui::Gradient windowTopHighlight(bool isDark);
 /// Laid over the surface of a panel.
 [[nodiscard]] ui::Gradient panelOverlayGradient(bool isDark);
+/// The accent colour as a text on a panel, also under a veil of the accent colour in that opacity.
+[[nodiscard]] ui::Color accentText(bool isDark, double veil = 0);
 [[nodiscard]] ui::Color secondaryButtonFill(bool isDark, bool isPressed);
 
 /// The line around the window, around panels and pills, and around small controls.

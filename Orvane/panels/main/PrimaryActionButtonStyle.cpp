@@ -10,9 +10,9 @@ using namespace ui;
 
 View PrimaryActionButtonStyle::body(const ButtonConfiguration& configuration,
                                     const Environment& /*environment*/) const {
-  const Fill fill = Gradient::system(tint);
+  const Fill fill = Gradient::system(tint.buttonFill());
   return configuration.label.font(Font::system(15, Weight::semibold))
-      .foreground(Color::white())
+      .foreground(tint.buttonLabel())
       .maximumWidth()
       .height(height)
       .background(

@@ -11,9 +11,13 @@ using namespace ui;
 
 namespace {
 
+double activeOpacity(bool isDark) {
+  return isDark ? 0.24 : 0.14;
+}
+
 Color capsuleFill(bool isActive, bool isDark) {
   if (isActive) {
-    return Color::accent().opacity(isDark ? 0.24 : 0.14);
+    return Color::accent().opacity(activeOpacity(isDark));
   }
   return isDark ? Color::white().opacity(0.095) : Color::black().opacity(0.05);
 }
@@ -24,7 +28,8 @@ View StatusPill::body(const Environment& environment) const {
   const bool isDark = environment.isDark();
   return Text(text)
       .font(Font::system(13, Weight::bold))
-      .foreground(isActive ? Color::accent() : Color::secondary())
+      .foreground(isActive ? OrvanePalette::accentText(isDark, activeOpacity(isDark))
+                           : Color::secondary())
       .fixedSize()
       .padding(Edges::horizontal(13).vertical(8))
       .background(

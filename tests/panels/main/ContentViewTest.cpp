@@ -89,7 +89,7 @@ TEST_F(ContentViewTest, ThePreventButtonPreventsAndAllows) {
 }
 
 TEST_F(ContentViewTest, APillIsWrittenInTheAccentColourExactlyWhileItsModeIsOn) {
-  const std::string accent = "13/700 rgba(0 0.478 1 1) ";
+  const std::string accent = "13/700 rgba(0 0.459 0.959 1) ";
   const std::string secondary = "13/700 rgba(0 0 0 0.6) ";
   openMain();
   EXPECT_EQ(drawn("text \"Not Pinned\" " + secondary), 1);

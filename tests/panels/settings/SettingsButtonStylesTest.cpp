@@ -50,13 +50,13 @@ TEST_P(SettingsIconButtonStyleTest, IsAFaintPlateThatTurnsBlueWhilePressed) {
   EXPECT_EQ(draws("scale"), look.isPressed) << drawing();
 }
 
-// The secondary colour is black at 0.6 by day and white at 0.68 in the dark, and the plate a tenth
+// The secondary colour is black at 0.6 by day and white at 0.7 in the dark, and the plate a tenth
 // of that.
 INSTANTIATE_TEST_SUITE_P(
     Looks, SettingsIconButtonStyleTest,
     testing::Values(
         IconLook{"by day, at rest", false, false, "0 0 0 0.6", "0 0 0 0.06"},
-        IconLook{"in the dark, at rest", true, false, "1 1 1 0.68", "1 1 1 0.068"},
+        IconLook{"in the dark, at rest", true, false, "1 1 1 0.7", "1 1 1 0.07"},
         IconLook{"by day, pressed", false, true, "0.34 0.39 0.95 1", "0.03 0.47 0.98 0.18"},
         IconLook{"in the dark, pressed", true, true, "0.34 0.39 0.95 1", "0.03 0.47 0.98 0.18"}));
 
