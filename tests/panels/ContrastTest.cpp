@@ -17,7 +17,6 @@ namespace orvane {
 namespace {
 
 using Wallpaper = desk::Appearance::Wallpaper;
-
 using Accent = desk::Appearance::Accent;
 
 /// Those that the system offers: blue, purple, pink, red, orange, yellow, green and graphite.
