@@ -91,6 +91,10 @@ class View {
   View foreground(const Color& color) const;
   View font(const Font& font) const;
   View lineLimit(int lines) const;
+  View truncationMode(TruncationMode mode) const;
+  // A text of one line that is too wide by no more than this share of its width moves its
+  // characters closer together instead of being cut. The share is AppKit's own.
+  View allowsTightening(double share = 0.05) const;
   View textAlignment(TextAlignment alignment) const;
   View disabled(bool isDisabled) const;
   View environment(std::function<void(Environment&)> change) const;

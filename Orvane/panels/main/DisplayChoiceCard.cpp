@@ -37,7 +37,8 @@ View DisplayChoiceCard::content() const {
   const View name = Text(title())
                         .font(Font::system(13, isSelected ? Weight::bold : Weight::medium))
                         .foreground(isSelected ? Color::accent() : Color::primary())
-                        .lineLimit(1);
+                        .lineLimit(1)
+                        .truncationMode(TruncationMode::middle);
   const View role = Text(roleLabel)
                         .font(Font::system(11, Weight::semibold))
                         .foreground(isSelected ? Color::accent() : Color::secondary())
