@@ -111,8 +111,9 @@ TEST_F(StatusMenuRowTest, ASwitchIsACapsuleWithAKnobAtOneEnd) {
   EXPECT_TRUE(test.host->semantics().children.empty());
 }
 
-TEST_F(StatusMenuRowTest, ASwitchHasAnOutlineWhereContrastIsAskedFor) {
+TEST_F(StatusMenuRowTest, ASwitchThatIsOffHasAnOutlineAndAClearerOneWhereContrastIsAskedFor) {
   show(CompactMenuSwitch{false}, {34, 18});
+  EXPECT_TRUE(draws("rgba(0 0 0 0.425) width 1\n")) << drawing();
   EXPECT_FALSE(draws("rgba(0 0 0 0.6)")) << drawing();
   ui::Appearance appearance;
   appearance.increaseContrast = true;
