@@ -98,7 +98,7 @@ TEST_F(PanelFontsTest, TheSettingsPanel) {
                                 {"text \"Use Orvane in\"", "13/400", primary},
                                 {"symbol keyboard", "15/600", "0.34 0.39 0.95 1"},
                                 {"text \"Temporary Unlock Shortcut\"", "14/700", primary},
-                                {"text \"Hold the shortcut to allow Dock\"", "12/400", statement},
+                                {"text \"Hold the shortcut to allow Dock\"", "13/400", primary},
                                 {"symbol hand.raised", "15/600", "0.02 0.62 0.64 1"},
                                 {"text \"Privacy\"", "14/700", primary},
                                 {"text \"upload, or share personal data\"", "12/400", statement},
