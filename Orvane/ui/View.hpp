@@ -91,6 +91,10 @@ class View {
   View foreground(const Color& color) const;
   View font(const Font& font) const;
   View lineLimit(int lines) const;
+  View truncationMode(TruncationMode mode) const;
+  // A text of one line that is too wide by no more than this share of its width moves its
+  // characters closer together instead of being cut. The share is AppKit's own.
+  View allowsTightening(double share = 0.05) const;
   // The lines of texts are so many points high, whatever script they are written in, and each has
   // its baseline where a Latin line in the middle of this height has it. Zero and less leave them
   // as they are.

@@ -45,6 +45,14 @@ View View::lineHeight(double points) const {
   });
 }
 
+View View::truncationMode(TruncationMode mode) const {
+  return environment([mode](Environment& inherited) { inherited.truncationMode = mode; });
+}
+
+View View::allowsTightening(double share) const {
+  return environment([share](Environment& inherited) { inherited.tightening = share; });
+}
+
 View View::textAlignment(TextAlignment alignment) const {
   return environment([alignment](Environment& inherited) { inherited.textAlignment = alignment; });
 }

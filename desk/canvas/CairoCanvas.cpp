@@ -81,6 +81,7 @@ MaskKey keyOf(MaskKind kind, const std::string& content, const ui::Font& font,
       .add(content)
       .add(font.size)
       .add(font.weight)
+      .add(font.tracking)
       .add(placement.scaleX)
       .add(placement.scaleY)
       .add(placement.phaseX)

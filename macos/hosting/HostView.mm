@@ -126,6 +126,11 @@ ui::TextMeasurer& textMeasurer() {
 - (void)layout {
   [super layout];
   [self update];
+  // In a menu the tool tips of views do not come, those of items do.
+  if (NSMenuItem* const item = self.enclosingMenuItem; item != nil) {
+    const auto tooltip = _host->tooltipAt({NSMidX(self.bounds), NSMidY(self.bounds)});
+    item.toolTip = tooltip ? appkit::foundationString(tooltip->text) : nil;
+  }
 }
 
 - (void)update {

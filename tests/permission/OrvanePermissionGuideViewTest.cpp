@@ -259,7 +259,7 @@ class OneTextMeasurer : public ui::TextMeasurer {
   OneTextMeasurer(std::string text, double width) : text_(std::move(text)), width_(width) {}
 
   ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
-                        int /*lineLimit*/) override {
+                        ui::LineLimit /*limit*/) override {
     const double width = text == text_ ? width_ : 10;
     if (width <= maximumWidth) {
       return {{{text, width}}, font.size, font.size, false};

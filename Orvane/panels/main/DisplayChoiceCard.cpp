@@ -41,7 +41,8 @@ View DisplayChoiceCard::content(bool isDark) const {
   const View name = Text(title())
                         .font(Font::system(13, isSelected ? Weight::bold : Weight::medium))
                         .foreground(isSelected ? chosen : Color::primary())
-                        .lineLimit(1);
+                        .lineLimit(1)
+                        .truncationMode(TruncationMode::middle);
   const View role = Text(roleLabel)
                         .font(Font::system(11, Weight::semibold))
                         .foreground(isSelected ? chosen : Color::secondary())
