@@ -109,8 +109,9 @@ View ContentView::displayPicker() const {
   const View cards = HStack(cardSpacing, {forEach(displays, identify, card)});
   // The row begins at the same height with and without cards: the first ones come where they stay.
   constexpr double aboveCards = (pickerHeight - DisplayChoiceCard::height) / 2;
-  return ScrollView(cards.padding(Edges::horizontal(pickerReach).vertical(aboveCards))
-                        .height(pickerHeight, Alignment::top()))
+  return ScrollView(
+             cards.padding(Edges::vertical(aboveCards)).height(pickerHeight, Alignment::top()),
+             pickerReach)
       .height(pickerHeight)
       .padding(Edges::horizontal(-pickerReach));
 }
