@@ -42,7 +42,7 @@ View OrvanePermissionGuideView::closeControl() const {
       Button(onClose,
              Symbol("xmark.circle.fill").font(Font::title()).foreground(Color::secondary()))
           .style(PlainButtonStyle{})
-          .focusRing(ShapeForm::circle())
+          .outOfTabOrder()
           .keyboardShortcut(KeyboardShortcut::cancelAction())
           .accessibilityLabel(localized("Close", "关闭"));
   return HStack(0, {Spacer(), cross}).padding(Edges{.top = 16, .trailing = 16});

@@ -144,8 +144,14 @@ class ViewHost {
   bool moveFocus(bool isForward);
   bool activateShortcut(const KeyEvent& event);
   void setFocus(std::uint64_t id, bool isVisible);
-  void scrollToVisible(Node& node);
-  std::optional<Shape> focusRing() const;
+  // Everything that scrolls around the node brings it into sight.
+  void scrollToVisible(const Node& node, const std::optional<Curve>& curve);
+  struct FocusRing {
+    Shape shape;
+    // What the scroll views around the control let be seen; none without one.
+    std::optional<Rect> clip;
+  };
+  std::optional<FocusRing> focusRing() const;
 
   TextMeasurer& text_;
   ImageSource images_;

@@ -200,8 +200,8 @@ bool ViewHost::activate(std::uint64_t id) {
 bool ViewHost::scroll(Point point, double horizontal, double vertical) {
   for (const Node* hit : hitTest(point)) {
     Node* node = findNode(root_.get(), hit->id);
-    ScrollData* data = scrollData(*node);
-    if (data != nullptr && data->scrollBy(horizontal != 0 ? horizontal : vertical)) {
+    if (scrollData(*node) != nullptr &&
+        scrollBy(*node, horizontal != 0 ? horizontal : vertical, now_)) {
       pointer_ = point;
       present();
       requestRedraw();

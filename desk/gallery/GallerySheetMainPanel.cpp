@@ -109,8 +109,7 @@ GalleryItem lightItem(const std::string& caption, bool isClose, bool showsIcon,
 std::vector<GalleryItem> lightItems(bool isClose) {
   return {lightItem("normal", isClose, false), lightItem("cluster hovered", isClose, true),
           lightItem("hovered", isClose, true, Hand::over),
-          lightItem("pressed", isClose, true, Hand::pressing),
-          lightItem("focused", isClose, false, Hand::tabbing)};
+          lightItem("pressed", isClose, true, Hand::pressing)};
 }
 
 GallerySheet lightSheet() {
@@ -120,7 +119,7 @@ GallerySheet lightSheet() {
           .title = "TrafficLightButton",
           .ground = GallerySheet::Ground::window,
           .hasTexts = false,
-          .columns = 5,
+          .columns = 4,
           .items = std::move(items)};
 }
 

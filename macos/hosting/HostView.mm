@@ -59,6 +59,9 @@ ui::TextMeasurer& textMeasurer() {
   if (self == nil) {
     return nil;
   }
+  // Thin veils one over another leave stripes where each is rounded to eight bits.
+  self.wantsLayer = YES;
+  self.layer.contentsFormat = kCAContentsFormatRGBA16Float;
   __weak OrvaneHostView* const weakSelf = self;
   _meaningsHaveChanged = YES;
   _frames = std::make_unique<appkit::FrameSource>(self, [weakSelf] { [weakSelf frameComes]; });

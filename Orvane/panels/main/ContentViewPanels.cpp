@@ -135,9 +135,10 @@ View ContentView::displayPicker() const {
   // The row begins at the same height with and without cards: the first ones come where they stay.
   constexpr double aboveCards = (pickerHeight - DisplayChoiceCard::height) / 2;
   // Cards that travelled to other places would pass over one another.
-  return ScrollView(cards.padding(Edges::horizontal(pickerReach).vertical(aboveCards))
+  return ScrollView(cards.padding(Edges::vertical(aboveCards))
                         .height(pickerHeight, Alignment::top())
-                        .animation(std::nullopt, order))
+                        .animation(std::nullopt, order),
+                    pickerReach)
       .height(pickerHeight)
       .padding(Edges::horizontal(-pickerReach));
 }

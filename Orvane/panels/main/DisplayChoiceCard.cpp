@@ -93,7 +93,8 @@ View DisplayChoiceCard::body(const Environment& environment) const {
       .accessibilitySelected(isSelected)
       .scale(isRaised ? 1.012 : 1)
       .animation(Curve::easeOut(hoverSeconds), isHovered.value())
-      .onHover([isHovered](bool isInside) { isHovered.set(isInside); });
+      .onHover([isHovered](bool isInside) { isHovered.set(isInside); })
+      .scrollsIntoView(isSelected);
 }
 
 }  // namespace orvane

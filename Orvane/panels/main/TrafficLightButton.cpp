@@ -58,7 +58,7 @@ View TrafficLightButton::body(const Environment& environment) const {
                   .stroke(stroke.opacity(0.55), 0.7));
   return Button(action, light)
       .style(DarkeningButtonStyle{ShapeForm::circle(), lightPressedShade})
-      .focusRing(ShapeForm::circle())
+      .outOfTabOrder()
       .accessibilityLabel(label)
       .scale(isHovered.value() ? 1.1 : 1)
       .animation(Curve::easeOut(lightHoverSeconds), isHovered.value())

@@ -63,7 +63,7 @@ View OrvaneSettingsView::header(const Environment& environment) const {
       Button(closing(environment),
              Symbol("xmark").font(Font::system(12, Weight::bold)).frame(28, 28))
           .style(SettingsIconButtonStyle{})
-          .focusRing(ShapeForm::circle())
+          .outOfTabOrder()
           .keyboardShortcut(KeyboardShortcut::cancelAction())
           .tooltip(closeTitle)
           .accessibilityLabel(closeTitle);
