@@ -60,8 +60,8 @@ TEST(LayoutTest, aColumnAlignsItsChildrenAcross) {
 class TallScript : public TextMeasurer {
  public:
   TextLayout layout(const std::string& text, const Font& font, double maximumWidth,
-                    int lineLimit) override {
-    TextLayout layout = latin_.layout(text, font, maximumWidth, lineLimit);
+                    LineLimit limit) override {
+    TextLayout layout = latin_.layout(text, font, maximumWidth, limit);
     const bool isTall = std::ranges::any_of(text, [](unsigned char byte) { return byte > 0x7F; });
     layout.ascent += isTall ? 3 : 0;
     layout.lineHeight += isTall ? 5 : 0;
