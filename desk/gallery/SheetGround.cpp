@@ -80,8 +80,13 @@ void paintGround(CairoCanvas& canvas, Ground ground, const ui::Rect& rect,
     return;
   }
   GlassCache glass;
-  paintGlass(canvas, shape, glassSigma, glassTint(appearance.dark), glass);
-  if (ground == Ground::menu || isWholeWindow(ground)) {
+  const bool isMenu = ground == Ground::menu;
+  paintGlass(canvas, shape, glassSigma,
+             isMenu ? menuTint(appearance.dark) : glassTint(appearance.dark), glass);
+  if (isMenu) {
+    paintMenuEdge(canvas, shape, appearance.dark);
+  }
+  if (isMenu || isWholeWindow(ground)) {
     return;
   }
   const WindowSurface surface{ground, rect.size()};

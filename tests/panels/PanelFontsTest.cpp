@@ -67,7 +67,7 @@ TEST_F(PanelFontsTest, TheMainPanelWhileItPrevents) {
   openMain();
   ASSERT_TRUE(press("Prevent Dock Pop-Up"));
   machine.advance(1);
-  expectWritten(mainPanel, {{"text \"Dock”\"", "13/400", secondary},
+  expectWritten(mainPanel, {{"text \"the Dock”\"", "13/400", secondary},
                             {"text \"Enabled\"", "13/700", accentOnPill},
                             {"symbol eye", "13/700", secondaryButton},
                             {"text \"Allow Dock Pop-Up\"", "13/700", secondaryButton},

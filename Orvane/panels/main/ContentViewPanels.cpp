@@ -45,6 +45,8 @@ constexpr double headerSpacing = 14;
 constexpr double titleLineHeight = 22;
 constexpr double descriptionLineHeight = 16;
 constexpr double titleToDescription = 2;
+/// A little less than there is, so that no single word of the hint stands in a line of its own.
+constexpr double descriptionWidth = 400;
 constexpr double buttonSpacing = 10;
 constexpr double dockSettingsWidth = 190;
 
@@ -61,8 +63,8 @@ View labelled(const std::string& symbol, const std::string& text) {
 struct HeaderTexts {
   std::string title;
   std::string description;
-  /// Another identity is another description, which takes the place of the one before.
-  std::string descriptionID = {};
+  /// A hint and a description are two texts, of which one takes the place of the other.
+  bool isHint = false;
 };
 
 View header(const PanelIcon& icon, const HeaderTexts& texts, const StatusPill& pill) {
@@ -76,17 +78,18 @@ View header(const PanelIcon& icon, const HeaderTexts& texts, const StatusPill& p
                                .foreground(Color::secondary())
                                .fixedSizeVertical()
                                .transition(Transition::fadeThrough())
-                               .id(texts.descriptionID);
+                               .id(std::to_string(texts.isHint));
   // However many lines the description has, the title stays: a second line reaches below the row.
-  const View words =
-      VStack(titleToDescription, HorizontalAlignment::leading,
-             {title, description.height(descriptionLineHeight, Alignment::topLeading())});
+  const View words = VStack(titleToDescription, HorizontalAlignment::leading,
+                            {title, description.frame({.height = descriptionLineHeight,
+                                                       .maximumWidth = descriptionWidth,
+                                                       .alignment = Alignment::topLeading()})});
   // Read aloud, the pill says which mode it speaks of. Each state has a pill of its own.
   const View status = View(pill)
                           .accessibilityLabel(texts.title)
                           .accessibilityValue(pill.text)
                           .transition(Transition::fadeThrough())
-                          .id(pill.isActive ? "active" : "inactive");
+                          .id(std::to_string(pill.isActive));
   return HStack(headerSpacing, {icon, words.layoutPriority(1), Spacer(), status})
       .height(headerHeight);
 }
@@ -168,7 +171,7 @@ View ContentView::hideDockPanel() const {
       header({.systemImage = "eye.slash", .tint = isPreventing ? Color::accent() : Color::gray()},
              {.title = model->localized("Prevent Dock Pop-Up", "防止 Dock 弹出"),
               .description = description,
-              .descriptionID = isPreventing ? "hint" : "description"},
+              .isHint = isPreventing},
              {.text = isPreventing ? model->localized("Enabled", "已启用")
                                    : model->localized("Off", "未启用"),
               .isActive = isPreventing});
