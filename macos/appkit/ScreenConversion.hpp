@@ -1,4 +1,4 @@
-// From the window system's screens to the seam's.
+// Conversion from the window system's screens to the seam's.
 #pragma once
 
 #include <optional>

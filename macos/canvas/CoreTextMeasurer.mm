@@ -31,7 +31,7 @@ struct LineBounds {
   CGFloat leading = 0;
 };
 
-/// With the fonts that take the place of the system's for what that has not, such as Chinese.
+/// Includes the fallback fonts for characters that the system font lacks, such as Chinese.
 LineBounds lineBounds(NSString* text, const ui::Font& font) {
   LineBounds bounds;
   bounds.width = CTLineGetTypographicBounds(textLine(text, font).get(), &bounds.ascent,
@@ -52,7 +52,7 @@ NSString* withoutTrailingBlanks(NSString* text) {
   return [text substringToIndex:length];
 }
 
-/// The text with an ellipsis, cut to the greatest number of whole characters that fits.
+/// The text cut to the maximum number of whole characters that fits, with an ellipsis.
 NSString* truncated(NSString* text, const ui::Font& font, double maximumWidth) {
   NSUInteger length = text.length;
   while (true) {
@@ -66,7 +66,7 @@ NSString* truncated(NSString* text, const ui::Font& font, double maximumWidth) {
 
 struct BrokenLine {
   NSString* text;
-  /// The paragraph from this line on.
+  /// The paragraph from this line to its end.
   NSString* rest;
 };
 
@@ -77,10 +77,10 @@ void breakParagraph(NSString* paragraph, const ui::Font& font, double maximumWid
     const auto typesetter = CFRef<CTTypesetterRef>::owning(CTTypesetterCreateWithAttributedString(
         (__bridge CFAttributedStringRef)attributed(rest, font, {})));
     const CFIndex suggested = CTTypesetterSuggestLineBreak(typesetter.get(), 0, maximumWidth);
-    // However narrow, a line holds a character.
-    const NSUInteger least = NSMaxRange([rest rangeOfComposedCharacterSequenceAtIndex:0]);
+    // Even the narrowest line holds one character.
+    const NSUInteger minimum = NSMaxRange([rest rangeOfComposedCharacterSequenceAtIndex:0]);
     const NSUInteger end =
-        std::clamp(static_cast<NSUInteger>(std::max<CFIndex>(0, suggested)), least, rest.length);
+        std::clamp(static_cast<NSUInteger>(std::max<CFIndex>(0, suggested)), minimum, rest.length);
     if (end == rest.length) {
       break;
     }
