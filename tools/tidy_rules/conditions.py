@@ -1,4 +1,4 @@
-"""The application knows no platform: no conditional compilation but at the seam."""
+"""The application is portable: no conditional compilation except at the seam."""
 
 import re
 
@@ -8,7 +8,7 @@ _ALLOWED_AT_SEAM = re.compile(r"^\s*#\s*ifdef\s+__APPLE__\s*$")
 
 
 def check(project):
-    """No #if of any kind in Orvane/ but the one that chooses the platform's C headers."""
+    """No #if of any kind in Orvane/ except the one that selects the platform's C headers."""
     for file in project.below("Orvane"):
         at_seam = 0
         for number, line in file.code_lines():
