@@ -1,7 +1,7 @@
-// The C half of the seam: Quartz Event Services, Core Graphics, Core Foundation, Accessibility and
-// the media clock. On Apple platforms it includes the real headers. Elsewhere it declares those
-// names that the application uses, and the desk implements them. So the tested code is, call by
-// call and constant by constant, the code that ships.
+// The C functions of the platform interface: Quartz Event Services, Core Graphics, Core Foundation,
+// Accessibility and the media clock. On Apple platforms it includes the real headers. Elsewhere it
+// declares those names that the application uses, and the desk implements them. So the tested code
+// is, call by call and constant by constant, the code that ships.
 #pragma once
 
 #ifdef __APPLE__

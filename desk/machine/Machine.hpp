@@ -1,4 +1,4 @@
-// The simulated Mac, composed of its parts. The seam's functions act on the current machine.
+// The simulated Mac, composed of its parts. The platform functions act on the current machine.
 #pragma once
 
 #include <cstdint>
@@ -40,7 +40,7 @@ class Machine {
   Machine& operator=(const Machine&) = delete;
   ~Machine();
 
-  /// The machine that the seam's functions act on. There must be one.
+  /// The machine that the platform functions act on. There must be one.
   static Machine& current();
   /// Null when there is none.
   static Machine* currentOrNull();

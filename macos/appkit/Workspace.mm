@@ -11,7 +11,7 @@
 namespace orvane::appkit {
 namespace {
 
-// Since macOS 14 the plain initialiser repairs an invalid URL, which the seam must refuse.
+// Since macOS 14 the plain initialiser repairs an invalid URL, which must be refused.
 NSURL* urlFrom(NSString* text) {
   if (@available(macOS 14, *)) {
     return [NSURL URLWithString:text encodingInvalidCharacters:NO];

@@ -140,11 +140,11 @@ class PlatformConditionsTest(RuleTest):
                 self.assert_passed({"Orvane/guard/Guard.cpp": TOP + "// " + line + "\n"})
 
     def test_the_platform_header_has_one_condition(self):
-        seam = "Orvane/platform/Quartz.hpp"
+        header = "Orvane/platform/Quartz.hpp"
         one = "#ifdef __APPLE__\n#else\n#endif\n"
-        self.assert_passed({seam: TOP + one})
-        self.assert_caught({seam: TOP + one + one}, (seam, 5))
-        self.assert_caught({seam: TOP + "#ifdef __linux__\n#endif\n"}, (seam, 2))
+        self.assert_passed({header: TOP + one})
+        self.assert_caught({header: TOP + one + one}, (header, 5))
+        self.assert_caught({header: TOP + "#ifdef __linux__\n#endif\n"}, (header, 2))
 
 
 class WallClockTest(RuleTest):

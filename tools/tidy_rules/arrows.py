@@ -3,7 +3,7 @@
 import re
 
 # For each part of Orvane/, the other parts that it may include. Every part may include base and the
-# header FOR_EVERYONE. Windows and panels use the platform, so they see the seam.
+# header FOR_EVERYONE. Windows and panels use the platform, so they may include platform/.
 ALLOWED = {
     "base": set(),
     "ui": set(),
