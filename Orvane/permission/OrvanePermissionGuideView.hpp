@@ -21,7 +21,7 @@ struct OrvanePermissionGuideView {
  private:
   [[nodiscard]] ui::View closeControl() const;
   [[nodiscard]] ui::View iconArea() const;
-  [[nodiscard]] ui::View statusLine() const;
+  [[nodiscard]] ui::View statusLine(bool isDark) const;
   [[nodiscard]] ui::View doneButton() const;
 };
 

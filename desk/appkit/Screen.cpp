@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "desk/machine/Machine.hpp"
+#include "desk/machine/MachineObserver.hpp"
 #include "desk/machine/VisibleFrame.hpp"
 
 namespace orvane::appkit {
@@ -36,8 +37,8 @@ std::vector<Screen> Screen::screens() {
 
 std::optional<Screen> Screen::mainScreen() {
   const desk::Machine& machine = desk::Machine::current();
-  if (machine.companion != nullptr) {
-    if (const auto index = machine.companion->keyDisplayIndex()) {
+  if (machine.observer != nullptr) {
+    if (const auto index = machine.observer->keyDisplayIndex()) {
       return screenOf(machine, machine.displays.all()[*index]);
     }
   }

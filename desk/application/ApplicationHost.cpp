@@ -10,6 +10,9 @@
 
 namespace orvane::desk {
 
+ApplicationHost::ApplicationHost(Machine& machine)
+    : machine_(machine), systemSettings_(SystemSettings::installOn(WindowServer::current())) {}
+
 void ApplicationHost::launch() {
   if (isRunning()) {
     return;

@@ -7,6 +7,7 @@
 
 #include "Orvane/model/OrvaneModel.hpp"
 #include "desk/machine/Machine.hpp"
+#include "desk/settings/SystemSettings.hpp"
 
 namespace orvane::desk {
 
@@ -19,7 +20,8 @@ struct GuardMessage {
 /// Belongs to one machine, which must outlive it.
 class ApplicationHost {
  public:
-  explicit ApplicationHost(Machine& machine) : machine_(machine) {}
+  /// With the system's own programs, which run whether or not the application does.
+  explicit ApplicationHost(Machine& machine);
   ApplicationHost(const ApplicationHost&) = delete;
   ApplicationHost& operator=(const ApplicationHost&) = delete;
 
@@ -32,6 +34,7 @@ class ApplicationHost {
   /// Ends the process without any notice.
   void crash();
 
+  [[nodiscard]] SystemSettings& systemSettings() const { return systemSettings_; }
   [[nodiscard]] bool isRunning() const { return machine_.process.isRunning(); }
   /// The application must be running.
   [[nodiscard]] OrvaneModel& model() const;
@@ -44,6 +47,7 @@ class ApplicationHost {
   void listenToGuard();
 
   Machine& machine_;
+  SystemSettings& systemSettings_;
   std::vector<GuardMessage> messages_;
   std::int64_t launchedAt_ = 0;
 };

@@ -21,6 +21,22 @@ ui::Rgba ink(const Machine& machine, double opacity) {
   return machine.appearance.isDark ? ui::Rgba{1, 1, 1, opacity} : ui::Rgba{0, 0, 0, opacity};
 }
 
+/// Lighter than a window's glass in the dark: a menu stands out from what it lies on.
+ui::Rgba menuTint(bool isDark) {
+  return isDark ? ui::Rgba{0.17, 0.17, 0.185, 0.92} : glassTint(isDark);
+}
+
+/// The edge of what lies above everything: a dark line around it, and in the dark, where that is
+/// lost on a dark wallpaper, a light one within.
+void paintEdge(CairoCanvas& canvas, const ui::Shape& shape, bool isDark) {
+  const double hairline = 1 / canvas.scaleFactor();
+  canvas.stroke(shape.inset(-hairline / 2), ui::Paint::solid({0, 0, 0, isDark ? 0.6 : 0.16}),
+                hairline);
+  if (isDark) {
+    canvas.stroke(shape.inset(hairline / 2), ui::Paint::solid({1, 1, 1, 0.22}), hairline);
+  }
+}
+
 ui::Rgba accentColor(const Machine& machine) {
   return ui::standardColor(ui::SystemColor::accent, HostedView::appearanceOf(machine));
 }
@@ -64,12 +80,12 @@ void paintMenu(CairoCanvas& canvas, WindowServer& server, GlassCache& glass) {
   const ui::Shape shape =
       ui::Shape::roundedRectangle(rectOf(server.menus.frame()), MenuMetrics::cornerRadius);
   canvas.shadow(shape, menuShadow);
-  paintGlass(canvas, shape, glassSigma, tintFor(server.machine().appearance, glassTint(isDark)),
+  paintGlass(canvas, shape, glassSigma, tintFor(server.machine().appearance, menuTint(isDark)),
              glass);
   for (const MenuRow& row : server.menus.rows()) {
     paintRow(canvas, server, row);
   }
-  canvas.stroke(shape.inset(-0.25), ui::Paint::solid({0, 0, 0, isDark ? 0.6 : 0.16}), 0.5);
+  paintEdge(canvas, shape, isDark);
 }
 
 void paintTooltip(CairoCanvas& canvas, WindowServer& server, const ui::Rect& screen) {
@@ -83,6 +99,7 @@ void paintTooltip(CairoCanvas& canvas, WindowServer& server, const ui::Rect& scr
   canvas.shadow(shape, {{0, 0, 0, 0.25}, 6, {0, 2}});
   canvas.fill(shape, ui::Paint::solid(isDark ? ui::Rgba{0.2, 0.2, 0.21, 1}
                                              : ui::Rgba{0.95, 0.95, 0.95, 1}));
+  paintEdge(canvas, shape, isDark);
   canvas.text(shown.text, font, ink(server.machine(), 0.85), {frame.x + 6, frame.y + 13.5});
 }
 

@@ -86,20 +86,12 @@ ui::Rgba glassTint(bool isDark) {
 void paintView(CairoCanvas& canvas, WindowServer& server, HostedView& view, ui::Point corner) {
   const auto kept = view.shared_from_this();
   view.update();
-  cairo_surface_t* const picture =
+  const DeepSurface* const picture =
       view.picture.of(view.host(), canvas.scaleFactor(), server.resources());
   if (picture == nullptr) {
     return;
   }
-  cairo_t* const context = canvas.context();
-  double x = corner.x;
-  double y = corner.y;
-  cairo_user_to_device(context, &x, &y);
-  cairo_save(context);
-  cairo_identity_matrix(context);
-  cairo_set_source_surface(context, picture, std::round(x), std::round(y));
-  cairo_paint(context);
-  cairo_restore(context);
+  canvas.picture(*picture, corner);
 }
 
 void paintWindow(CairoCanvas& canvas, WindowServer& server, DeskWindow& window, GlassCache& glass) {

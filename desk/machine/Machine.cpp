@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "desk/machine/MachineObserver.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/machine/VisibleFrame.hpp"
 
@@ -30,7 +31,7 @@ Machine::Machine() {
 }
 
 Machine::~Machine() {
-  companion.reset();
+  windowServer.reset();
   currentMachine = nullptr;
 }
 
@@ -58,8 +59,8 @@ void Machine::permissionChanged() {
 void Machine::displaysChanged() {
   pointer.displaysChanged();
   dock.displaysChanged(pointer.place());
-  if (companion != nullptr) {
-    companion->displaysChanged();
+  if (observer != nullptr) {
+    observer->displaysChanged();
   }
   postScreenParameters();
 }

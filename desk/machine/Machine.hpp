@@ -8,7 +8,6 @@
 #include "desk/machine/Appearance.hpp"
 #include "desk/machine/ApplicationState.hpp"
 #include "desk/machine/Clock.hpp"
-#include "desk/machine/Companion.hpp"
 #include "desk/machine/Counters.hpp"
 #include "desk/machine/Displays.hpp"
 #include "desk/machine/Dock.hpp"
@@ -30,6 +29,9 @@
 #include "desk/machine/UserDefaultsStore.hpp"
 
 namespace orvane::desk {
+
+class MachineObserver;
+class WindowServer;
 
 /// Created by a MachineScope. It starts with no display, no process, no permission, an empty disk,
 /// and the Dock shown at the bottom.
@@ -76,8 +78,11 @@ class Machine {
   Dock dock{displays, clock};
   Mouse mouse{displays, pointer, eventTaps, dock, modifierKeys, counters};
   Process process{*this};
-  /// Null until somebody needs windows. Last, because it uses all the others.
-  std::unique_ptr<Companion> companion;
+  /// Made by WindowServer::current; null until somebody needs windows. Last, because it uses all
+  /// the others.
+  std::shared_ptr<WindowServer> windowServer;
+  /// The window server, while there is one.
+  MachineObserver* observer = nullptr;
 
  private:
   void displaysChanged();

@@ -3,6 +3,7 @@
 
 #include "Orvane/base/ProcessShared.hpp"
 #include "desk/machine/Machine.hpp"
+#include "desk/machine/MachineObserver.hpp"
 
 namespace orvane::desk {
 
@@ -24,8 +25,8 @@ void Process::end() {
   machine_.runLoop.setAcceptsTasks(false);
   machine_.runLoop.sweep();
   ProcessLifetime::end();
-  if (machine_.companion != nullptr) {
-    machine_.companion->processEnded();
+  if (machine_.observer != nullptr) {
+    machine_.observer->processEnded();
   }
   machine_.observers.removeAll();
   machine_.eventTaps.killAll();

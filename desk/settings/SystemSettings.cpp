@@ -43,9 +43,20 @@ std::optional<ui::Rect> frameOf(const ui::SemanticsNode& node, const std::string
 }  // namespace
 
 SystemSettings::SystemSettings(WindowServer& server)
-    : server_(server), applications_(server.machine().permission) {}
+    : server_(server), applications_(server.machine().permission) {
+  server.machine().links.onOpened([this](const Links::Opened& link) { linkOpened(link); });
+}
 
-SystemSettings::~SystemSettings() = default;
+SystemSettings::~SystemSettings() {
+  server_.machine().links.onOpened(nullptr);
+}
+
+SystemSettings& SystemSettings::installOn(WindowServer& server) {
+  auto program = std::make_unique<SystemSettings>(server);
+  SystemSettings& installed = *program;
+  server.install(std::move(program));
+  return installed;
+}
 
 std::optional<SettingsPage> SystemSettings::pageOf(const std::string& url) {
   for (const auto& [link, page] : pagesByLink) {

@@ -13,6 +13,7 @@
 #include "desk/settings/AccessibilityList.hpp"
 #include "desk/settings/SettingsPage.hpp"
 #include "desk/settings/SystemLanguage.hpp"
+#include "desk/windows/SystemProgram.hpp"
 
 namespace orvane::desk {
 
@@ -23,7 +24,7 @@ struct DeskWindow;
 
 /// It outlives the application's process, as a program of its own does. What it shows of the
 /// machine is read anew whenever the machine has changed.
-class SystemSettings {
+class SystemSettings : public SystemProgram {
  public:
   /// The window's size in points.
   static constexpr double width = 715;
@@ -41,10 +42,12 @@ class SystemSettings {
     bool isDragOver = false;
   };
 
+  /// Use installOn.
   explicit SystemSettings(WindowServer& server);
-  SystemSettings(const SystemSettings&) = delete;
-  SystemSettings& operator=(const SystemSettings&) = delete;
-  ~SystemSettings();
+  ~SystemSettings() override;
+
+  /// Once for each server. From then on it opens when a link names one of its pages.
+  static SystemSettings& installOn(WindowServer& server);
 
   /// The page that a link names; none when it is not one of the settings'.
   [[nodiscard]] static std::optional<SettingsPage> pageOf(const std::string& url);

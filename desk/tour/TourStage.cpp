@@ -166,7 +166,7 @@ std::optional<CGPoint> TourStage::iconPlace() {
 void TourStage::dropIcon() {
   WindowServer& server = WindowServer::current();
   const auto system = Surfaces(server).window("system");
-  const auto list = server.systemSettings.listFrame();
+  const auto list = application_.systemSettings().listFrame();
   const std::optional<CGPoint> icon = iconPlace();
   check(icon && list && system != nullptr, "guide and list are there");
   if (isOver()) {

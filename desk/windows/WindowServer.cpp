@@ -29,11 +29,11 @@ double overlapArea(const CGRect& first, const CGRect& second) {
 
 WindowServer::WindowServer(Machine& machine) : machine_(machine) {
   addApplicationImages(resources_.images);
-  machine.links.onOpened([this](const Links::Opened& link) { systemSettings.linkOpened(link); });
+  machine.observer = this;
 }
 
 WindowServer::~WindowServer() {
-  machine_.links.onOpened(nullptr);
+  machine_.observer = nullptr;
   // Views that end later must not ask for a server that is no more.
   for (const Window& window : windows()) {
     if (window->content != nullptr) {
@@ -44,14 +44,14 @@ WindowServer::~WindowServer() {
 
 WindowServer& WindowServer::current() {
   Machine& machine = Machine::current();
-  if (machine.companion == nullptr) {
-    machine.companion = std::make_unique<WindowServer>(machine);
+  if (machine.windowServer == nullptr) {
+    machine.windowServer = std::make_shared<WindowServer>(machine);
   }
-  return static_cast<WindowServer&>(*machine.companion);
+  return *machine.windowServer;
 }
 
 WindowServer* WindowServer::of(const Machine& machine) {
-  return static_cast<WindowServer*>(machine.companion.get());
+  return machine.windowServer.get();
 }
 
 bool WindowServer::isVisible(const DeskWindow& window) const {

@@ -5,19 +5,20 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "desk/canvas/DrawingResources.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
-#include "desk/machine/Companion.hpp"
 #include "desk/machine/Machine.hpp"
-#include "desk/settings/SystemSettings.hpp"
+#include "desk/machine/MachineObserver.hpp"
 #include "desk/windows/DeskWindow.hpp"
 #include "desk/windows/MenuTracker.hpp"
 #include "desk/windows/ModalSessions.hpp"
 #include "desk/windows/PointerRouter.hpp"
 #include "desk/windows/RunningApplication.hpp"
 #include "desk/windows/StatusBar.hpp"
+#include "desk/windows/SystemProgram.hpp"
 #include "desk/windows/Tooltips.hpp"
 #include "desk/windows/ViewUpdates.hpp"
 #include "desk/windows/WindowFocus.hpp"
@@ -27,7 +28,7 @@ namespace orvane::desk {
 
 /// Callbacks may do anything, also end the windows they came from; what is being worked on is held
 /// meanwhile.
-class WindowServer : public Companion {
+class WindowServer : public MachineObserver {
  public:
   using Window = std::shared_ptr<DeskWindow>;
 
@@ -43,6 +44,9 @@ class WindowServer : public Companion {
   [[nodiscard]] const Machine& machine() const { return machine_; }
   [[nodiscard]] DrawingResources& resources() { return resources_; }
   [[nodiscard]] ui::TextMeasurer& text() { return text_; }
+
+  /// From now on the program lives as long as the server.
+  void install(std::unique_ptr<SystemProgram> program) { programs_.push_back(std::move(program)); }
 
   /// The windows that are on the screen, miniaturised, or hidden for a while, back to front.
   [[nodiscard]] WindowList::Windows windows() const { return list_.backToFront(); }
@@ -102,9 +106,11 @@ class WindowServer : public Companion {
   MenuTracker menus{*this};
   Tooltips tooltips{*this};
   PointerRouter pointer{*this};
-  SystemSettings systemSettings{*this};
   /// What was spoken to users of a screen reader.
   std::vector<std::string> announcements;
+
+ private:
+  std::vector<std::unique_ptr<SystemProgram>> programs_;
 };
 
 }  // namespace orvane::desk

@@ -17,7 +17,7 @@ namespace orvane::appkit {
 class CoreTextMeasurer : public ui::TextMeasurer {
  public:
   ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
-                        int lineLimit) override;
+                        ui::LineLimit limit) override;
 };
 
 }  // namespace orvane::appkit

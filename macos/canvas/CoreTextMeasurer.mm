@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "Orvane/ui/Truncation.hpp"
 #include "macos/appkit/Strings.hpp"
 #include "macos/canvas/SystemFont.hpp"
 
@@ -16,12 +17,14 @@ namespace {
 NSAttributedString* attributed(NSString* text, const ui::Font& font, const ui::Rgba& color) {
   const auto painted =
       CFRef<CGColorRef>::owning(CGColorCreateSRGB(color.red, color.green, color.blue, color.alpha));
-  return [[NSAttributedString alloc]
-      initWithString:text
-          attributes:@{
-            (id)kCTFontAttributeName : systemFont(font),
-            (id)kCTForegroundColorAttributeName : (__bridge id)painted.get(),
-          }];
+  NSMutableDictionary* const attributes = [NSMutableDictionary dictionary];
+  attributes[(id)kCTFontAttributeName] = systemFont(font);
+  attributes[(id)kCTForegroundColorAttributeName] = (__bridge id)painted.get();
+  // Even a tracking of zero disables ligatures.
+  if (font.tracking != 0) {
+    attributes[(id)kCTTrackingAttributeName] = @(font.tracking);
+  }
+  return [[NSAttributedString alloc] initWithString:text attributes:attributes];
 }
 
 struct LineBounds {
@@ -52,16 +55,22 @@ NSString* withoutTrailingBlanks(NSString* text) {
   return [text substringToIndex:length];
 }
 
-/// The text cut to the maximum number of whole characters that fits, with an ellipsis.
-NSString* truncated(NSString* text, const ui::Font& font, double maximumWidth) {
-  NSUInteger length = text.length;
-  while (true) {
-    NSString* const candidate = [[text substringToIndex:length] stringByAppendingString:@"…"];
-    if (length == 0 || lineWidth(candidate, font) <= maximumWidth) {
-      return candidate;
-    }
-    length = [text rangeOfComposedCharacterSequenceAtIndex:length - 1].location;
+/// The boundaries of whole characters, in bytes of UTF-8.
+std::vector<std::size_t> characterPlaces(NSString* text) {
+  std::vector<std::size_t> places{0};
+  for (NSUInteger at = 0; at < text.length;) {
+    const auto character = [text rangeOfComposedCharacterSequenceAtIndex:at];
+    places.push_back(places.back() + utf8String([text substringWithRange:character]).size());
+    at = NSMaxRange(character);
   }
+  return places;
+}
+
+NSString* truncated(NSString* text, const ui::Font& font, double maximumWidth,
+                    ui::TruncationMode mode) {
+  return foundationString(ui::truncatedLine(
+      utf8String(text), characterPlaces(text), mode, maximumWidth,
+      [&](const std::string& part) { return lineWidth(foundationString(part), font); }));
 }
 
 struct BrokenLine {
@@ -98,7 +107,7 @@ CFRef<CTLineRef> textLine(NSString* text, const ui::Font& font, const ui::Rgba& 
 }
 
 ui::TextLayout CoreTextMeasurer::layout(const std::string& text, const ui::Font& font,
-                                        double maximumWidth, int lineLimit) {
+                                        double maximumWidth, ui::LineLimit limit) {
   const double allowed = maximumWidth > 0 ? maximumWidth : 0;
   std::vector<BrokenLine> lines;
   NSString* const whole = foundationString(text);
@@ -107,11 +116,11 @@ ui::TextLayout CoreTextMeasurer::layout(const std::string& text, const ui::Font&
   }
 
   ui::TextLayout layout;
-  const auto limit = static_cast<std::size_t>(std::max(0, lineLimit));
-  if (limit > 0 && lines.size() > limit) {
+  const auto maximum = static_cast<std::size_t>(std::max(0, limit.lines));
+  if (maximum > 0 && lines.size() > maximum) {
     layout.isTruncated = true;
-    lines.resize(limit);
-    lines.back().text = truncated(lines.back().rest, font, allowed);
+    lines.resize(maximum);
+    lines.back().text = truncated(lines.back().rest, font, allowed, limit.truncation);
   }
   NSFont* const platformFont = systemFont(font);
   layout.ascent = platformFont.ascender;

@@ -59,6 +59,9 @@ ui::TextMeasurer& textMeasurer() {
   if (self == nil) {
     return nil;
   }
+  // Thin veils one over another leave stripes where each is rounded to eight bits.
+  self.wantsLayer = YES;
+  self.layer.contentsFormat = kCAContentsFormatRGBA16Float;
   __weak OrvaneHostView* const weakSelf = self;
   _semanticsHaveChanged = YES;
   _frames = std::make_unique<appkit::FrameSource>(self, [weakSelf] { [weakSelf frameComes]; });
@@ -126,6 +129,11 @@ ui::TextMeasurer& textMeasurer() {
 - (void)layout {
   [super layout];
   [self update];
+  // In a menu the tool tips of views do not come, those of items do.
+  if (NSMenuItem* const item = self.enclosingMenuItem; item != nil) {
+    const auto tooltip = _host->tooltipAt({NSMidX(self.bounds), NSMidY(self.bounds)});
+    item.toolTip = tooltip ? appkit::foundationString(tooltip->text) : nil;
+  }
 }
 
 - (void)update {

@@ -314,12 +314,12 @@ TEST_F(AppDelegateMenuTest, OpenWindowClosesTheMenuShowsTheWindowAndActivates) {
 
 TEST_F(AppDelegateMenuTest, WindowsComeInFrontOfThoseOfOtherApplications) {
   begin();
-  server().systemSettings.open();
+  application.systemSettings().open();
   ASSERT_FALSE(server().focus.isActive());
   ASSERT_TRUE(openMenu());
   ASSERT_TRUE(press("Open Window"));
   EXPECT_EQ(server().windows().back()->className, "OrvaneWindow");
-  server().systemSettings.open();
+  application.systemSettings().open();
   ASSERT_EQ(server().windows().back()->className, "SystemSettings");
   ASSERT_TRUE(openMenu());
   ASSERT_TRUE(press("Settings"));

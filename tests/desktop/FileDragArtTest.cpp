@@ -13,7 +13,7 @@ class FileDragArtTest : public DesktopFixture {
     // Both windows fit beside each other on the two displays.
     OrvanePermissionGuideWindowController::shared().show(nullptr);
     machine.mouse.moveTo({1200, 250});
-    server().systemSettings.open(SettingsPage::accessibility);
+    application.systemSettings().open(SettingsPage::accessibility);
     machine.runDue();
   }
 
@@ -35,7 +35,7 @@ class FileDragArtTest : public DesktopFixture {
   /// On the list of applications.
   CGPoint listPlace() {
     const CGPoint corner = server().topLeftOf(*Surfaces(server()).window("system"));
-    const ui::Rect list = server().systemSettings.listFrame().value_or(ui::Rect{});
+    const ui::Rect list = application.systemSettings().listFrame().value_or(ui::Rect{});
     return {corner.x + list.x + 200, corner.y + list.y + 20};
   }
   /// The middle of the mark's left arm, which is white, and above it the disc.

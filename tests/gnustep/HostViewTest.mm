@@ -255,6 +255,12 @@ TEST_F(HostView, APressOnTheBackgroundDragsTheWindow) {
   window.close();
 }
 
+TEST_F(HostView, ItsLayerHasSixteenBitsForEachColour) {
+  Window window = showTwoButtons();
+  EXPECT_TRUE([hostOf(window).layer.contentsFormat isEqual:kCAContentsFormatRGBA16Float]);
+  window.close();
+}
+
 TEST_F(HostView, ABackdropIsTheContentViewOfItsWindowAndHoldsTheContent) {
   Window window(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
                 appkit::StyleMask::nonactivatingPanel);

@@ -67,7 +67,7 @@ TEST_F(PanelFontsTest, TheMainPanelWhileItPrevents) {
   openMain();
   ASSERT_TRUE(press("Prevent Dock Pop-Up"));
   machine.advance(1);
-  expectWritten(mainPanel, {{"text \"the Dock”\"", "13/400", secondary},
+  expectWritten(mainPanel, {{"text \"Dock”\"", "13/400", secondary},
                             {"text \"Enabled\"", "13/700", accentOnPill},
                             {"symbol eye", "13/700", secondaryButton},
                             {"text \"Allow Dock Pop-Up\"", "13/700", secondaryButton},
@@ -92,28 +92,27 @@ TEST_F(PanelFontsTest, TheSymbolInPlaceOfTheApplicationsIcon) {
 TEST_F(PanelFontsTest, TheSettingsPanel) {
   openSettings();
   machine.advance(1);
-  expectWritten(settingsPanel,
-                {{"symbol gearshape.fill", "18/600", white},
-                 {"text \"Settings\"", "17/700", primary},
-                 {"symbol xmark", "12/700", secondary},
-                 {"symbol globe", "15/600", "0.03 0.47 0.98 1"},
-                 {"text \"Language\"", "14/700", primary},
-                 {"text \"Use Orvane in\"", "13/400", primary},
-                 {"symbol keyboard", "15/600", "0.34 0.39 0.95 1"},
-                 {"text \"Temporary Unlock Shortcut\"", "14/700", primary},
-                 {"text \"Hold the shortcut to allow Dock\"", "12/400", statement},
-                 {"symbol hand.raised", "15/600", "0.02 0.62 0.64 1"},
-                 {"text \"Privacy\"", "14/700", primary},
-                 {"text \"does not collect, upload, or share personal data\"", "12/400", statement},
-                 {"symbol doc.text", "13/600", primary},
-                 {"text \"Privacy Policy\"", "13/600", primary},
-                 {"symbol lock.shield", "13/600", primary},
-                 {"text \"Accessibility Settings\"", "13/600", primary},
-                 {"symbol lifepreserver", "15/600", "0.12 0.58 0.92 1"},
-                 {"text \"Support\"", "14/700", primary},
-                 {"text \"permission, or locking issues\"", "12/400", statement},
-                 {"symbol envelope", "13/600", primary},
-                 {"text \"Contact Support\"", "13/600", primary}});
+  expectWritten(settingsPanel, {{"symbol gearshape.fill", "18/600", white},
+                                {"text \"Settings\"", "17/700", primary},
+                                {"symbol xmark", "12/700", secondary},
+                                {"symbol globe", "15/600", "0.03 0.47 0.98 1"},
+                                {"text \"Language\"", "14/700", primary},
+                                {"text \"Use Orvane in\"", "13/400", primary},
+                                {"symbol keyboard", "15/600", "0.34 0.39 0.95 1"},
+                                {"text \"Temporary Unlock Shortcut\"", "14/700", primary},
+                                {"text \"Hold the shortcut to allow Dock\"", "13/400", primary},
+                                {"symbol hand.raised", "15/600", "0.02 0.62 0.64 1"},
+                                {"text \"Privacy\"", "14/700", primary},
+                                {"text \"upload, or share personal data\"", "12/400", statement},
+                                {"symbol doc.text", "13/600", primary},
+                                {"text \"Privacy Policy\"", "13/600", primary},
+                                {"symbol lock.shield", "13/600", primary},
+                                {"text \"Accessibility Settings\"", "13/600", primary},
+                                {"symbol lifepreserver", "15/600", "0.12 0.58 0.92 1"},
+                                {"text \"Support\"", "14/700", primary},
+                                {"text \"permission, or locking issues\"", "12/400", statement},
+                                {"symbol envelope", "13/600", primary},
+                                {"text \"Contact Support\"", "13/600", primary}});
 }
 
 }  // namespace

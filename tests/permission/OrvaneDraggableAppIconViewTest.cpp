@@ -53,7 +53,7 @@ TEST_F(OrvaneDraggableAppIconViewTest, DroppedOnTheListItGrantsThePermission) {
   pressAt(place);
   moveTo({place.x + 10, place.y + 10});
   const CGPoint corner = server().topLeftOf(*window("system"));
-  const ui::Rect list = server().systemSettings.listFrame().value_or(ui::Rect{});
+  const ui::Rect list = systemSettings.listFrame().value_or(ui::Rect{});
   moveTo({corner.x + list.x + 50, corner.y + list.y + 20});
   release();
   EXPECT_TRUE(machine.permission.isTrusted());

@@ -116,13 +116,26 @@ TEST_F(OrvanePermissionGuideViewTest, OneStatusFadesIntoTheOtherAndIsNeverCut) {
   openGuide();
   const double before = leftOf(waiting);
   machine.advance(11);
-  // In the middle of the transition, both the old line and the new one are drawn whole and in
-  // place.
-  machine.advance(0.1);
-  const std::string drawn = drawing("guide");
-  EXPECT_NEAR(leftOf(waiting), before, 0.5) << drawn;
-  EXPECT_NE(drawn.find("Permission not detected yet."), std::string::npos) << drawn;
-  EXPECT_EQ(drawn.find("clip"), drawn.rfind("clip")) << "only the whole drawing is cut\n" << drawn;
+  // During the transition the old line is drawn unchanged and in place, later the new one, but
+  // never both.
+  const std::string newLine = "Permission not detected yet.";
+  bool isOldSeen = false;
+  bool isNewSeen = false;
+  for (int frame = 0; frame < 30; ++frame) {
+    machine.advance(1.0 / 60);
+    const std::string drawn = drawing("guide");
+    const bool hasOld = drawn.find(waiting) != std::string::npos;
+    const bool hasNew = drawn.find(newLine) != std::string::npos;
+    EXPECT_FALSE(hasOld && hasNew) << drawn;
+    EXPECT_EQ(drawn.find("clip"), drawn.rfind("clip")) << "only the whole drawing is cut\n"
+                                                       << drawn;
+    if (hasOld) {
+      EXPECT_NEAR(leftOf(waiting), before, 0.5) << drawn;
+    }
+    isOldSeen = isOldSeen || hasOld;
+    isNewSeen = isNewSeen || hasNew;
+  }
+  EXPECT_TRUE(isOldSeen && isNewSeen);
   machine.advance(2);
   EXPECT_EQ(drawing("guide").find(waiting), std::string::npos);
 }
@@ -246,7 +259,7 @@ class OneTextMeasurer : public ui::TextMeasurer {
   OneTextMeasurer(std::string text, double width) : text_(std::move(text)), width_(width) {}
 
   ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
-                        int /*lineLimit*/) override {
+                        ui::LineLimit /*limit*/) override {
     const double width = text == text_ ? width_ : 10;
     if (width <= maximumWidth) {
       return {{{text, width}}, font.size, font.size, false};

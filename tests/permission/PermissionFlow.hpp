@@ -11,6 +11,7 @@
 #include "Orvane/permission/OrvanePermissionAlert.hpp"
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "Orvane/ui/RecordingCanvas.hpp"
+#include "desk/settings/SystemSettings.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "tests/support/MachineFixture.hpp"
@@ -25,7 +26,6 @@ class PermissionFlow : public desk::MachineFixture {
     desk::attach(machine, desk::laptop());
     desk::attach(machine, desk::monitorAtTheRight());
     machine.mouse.moveTo({20, 200});
-    server();
     OrvaneAccessibilityPermission::setPrompt(OrvanePermissionAlert::show);
   }
 
@@ -104,6 +104,7 @@ class PermissionFlow : public desk::MachineFixture {
   }
 
   std::string granted;
+  desk::SystemSettings& systemSettings = desk::SystemSettings::installOn(server());
 };
 
 }  // namespace orvane

@@ -90,7 +90,7 @@ void PermissionSwarm::wait(unsigned how) {
 void PermissionSwarm::dropIcon() {
   const auto guide = desk::Surfaces(server_).window("guide");
   const auto settings = desk::Surfaces(server_).window("system");
-  const auto list = server_.systemSettings.listFrame();
+  const auto list = application_.systemSettings().listFrame();
   if (guide == nullptr || settings == nullptr || !list) {
     return;
   }

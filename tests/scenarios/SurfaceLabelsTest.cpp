@@ -84,7 +84,7 @@ class SurfaceLabelsTest : public testing::TestWithParam<const char*> {
   }
 
   void lookAtSystemSettings() {
-    SystemSettings& settings = WindowServer::current().systemSettings;
+    SystemSettings& settings = application.systemSettings();
     for (const SettingsPage page :
          {SettingsPage::general, SettingsPage::displays, SettingsPage::desktopAndDock,
           SettingsPage::privacy, SettingsPage::accessibility}) {

@@ -6,6 +6,7 @@
 #include "Orvane/platform/appkit/Workspace.hpp"
 #include "Orvane/ui/RecordingCanvas.hpp"
 #include "desk/canvas/SymbolLibrary.hpp"
+#include "desk/settings/SystemSettings.hpp"
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {
@@ -18,12 +19,9 @@ constexpr const char* accessibilityLink =
 
 class SystemSettingsTest : public WindowFixture {
  protected:
-  SystemSettingsTest() {
-    server();
-    moveTo({500, 400});
-  }
+  SystemSettingsTest() { moveTo({500, 400}); }
 
-  SystemSettings& settings() { return server().systemSettings; }
+  SystemSettings& settings() { return settings_; }
   std::shared_ptr<DeskWindow> window() { return Surfaces(server()).window("system"); }
   void open(const char* link = accessibilityLink) {
     Workspace::openURL(link);
@@ -80,6 +78,9 @@ class SystemSettingsTest : public WindowFixture {
     const ui::Rect list = settings().listFrame().value_or(ui::Rect{});
     moveTo({corner.x + list.x + 100, corner.y + list.y + 20});
   }
+
+ private:
+  SystemSettings& settings_ = SystemSettings::installOn(server());
 };
 
 TEST_F(SystemSettingsTest, EachLinkOpensItsPage) {

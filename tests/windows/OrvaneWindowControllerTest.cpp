@@ -5,6 +5,7 @@
 
 #include "Orvane/platform/appkit/Screen.hpp"
 #include "Orvane/windows/OrvaneWindowController.hpp"
+#include "desk/settings/SystemSettings.hpp"
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane {
@@ -134,7 +135,7 @@ TEST_F(OrvaneWindowControllerTest, AClosedMainPanelIsMadeAnewAndCentred) {
 
 TEST_F(OrvaneWindowControllerTest, ItIsBroughtToTheFrontAlsoOfAnInactiveApplication) {
   show();
-  server().systemSettings.open();
+  desk::SystemSettings::installOn(server()).open();
   ASSERT_EQ(order(), "OrvaneWindow SystemSettings");
   ASSERT_FALSE(server().focus.isActive());
   show();

@@ -18,7 +18,7 @@ constexpr double scale = 2;
 constexpr const char* style = R"(
 window { background: transparent; }
 .panel { background: #ececec; border-radius: 24px; padding: 20px; }
-label { font-family: Inter; font-size: 13px; color: rgba(0,0,0,0.85); }
+label { font-family: Inter Display; font-size: 13px; color: rgba(0,0,0,0.85); }
 label.title { font-size: 18px; font-weight: bold; }
 label.bold { font-weight: bold; }
 label.secondary { color: rgba(0,0,0,0.5); }

@@ -1,7 +1,8 @@
-// Implements Core Text on pango, with Inter as the system's font. Without ARC.
+// Implements Core Text on pango, with Inter Display as the system's font. Without ARC.
 #include <pango/pangocairo.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 
 #include "tests/gnustep/shim/DrawingContext.hpp"
@@ -53,6 +54,7 @@ PangoWeight pangoWeight(double weight) {
 
 const CFStringRef kCTFontAttributeName = CFSTR("NSFont");
 const CFStringRef kCTForegroundColorAttributeName = CFSTR("CTForegroundColor");
+const CFStringRef kCTTrackingAttributeName = CFSTR("CTTracking");
 
 CTLineRef CTLineCreateWithAttributedString(CFAttributedStringRef reference) {
   NSAttributedString* const string = (NSAttributedString*)reference;
@@ -65,11 +67,17 @@ CTLineRef CTLineCreateWithAttributedString(CFAttributedStringRef reference) {
   line->_color = ((OrvaneShimColor*)attributes[(id)kCTForegroundColorAttributeName])->_color;
   NSFont* const font = attributes[(id)kCTFontAttributeName];
   PangoFontDescription* const description = pango_font_description_new();
-  pango_font_description_set_family(description, "Inter");
+  pango_font_description_set_family(description, "Inter Display");
   pango_font_description_set_absolute_size(description, font.pointSize * PANGO_SCALE);
   pango_font_description_set_weight(description, pangoWeight(orvane::gnustep::weightOf(font)));
   pango_layout_set_font_description(line->_layout, description);
   pango_font_description_free(description);
+  const double tracking = [attributes[(id)kCTTrackingAttributeName] doubleValue];
+  PangoAttrList* const spacing = pango_attr_list_new();
+  pango_attr_list_insert(spacing, pango_attr_letter_spacing_new(
+                                      static_cast<int>(std::lround(tracking * PANGO_SCALE))));
+  pango_layout_set_attributes(line->_layout, spacing);
+  pango_attr_list_unref(spacing);
   pango_layout_set_text(line->_layout, string.string.UTF8String, -1);
   return (CTLineRef)line;
 }
@@ -86,7 +94,8 @@ double CTLineGetTypographicBounds(CTLineRef line, CGFloat* ascent, CGFloat* desc
     double above = static_cast<double>(-reach.y) / PANGO_SCALE;
     double below = static_cast<double>(reach.y + reach.height) / PANGO_SCALE;
     PangoFontDescription* const face = pango_font_describe(run->item->analysis.font);
-    const bool isSystemFont = std::string_view(pango_font_description_get_family(face)) == "Inter";
+    const bool isSystemFont =
+        std::string_view(pango_font_description_get_family(face)) == "Inter Display";
     pango_font_description_free(face);
     if (!isSystemFont) {
       // Chinese, for which macOS uses PingFang SC.

@@ -7,6 +7,7 @@
 
 NSString* const kCACornerCurveCircular = @"circular";
 NSString* const kCACornerCurveContinuous = @"continuous";
+NSString* const kCAContentsFormatRGBA16Float = @"RGBA16Float";
 
 @implementation CALayer
 @end

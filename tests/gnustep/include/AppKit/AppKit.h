@@ -25,6 +25,7 @@ extern "C" {
 extern NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
 extern NSString* const kCACornerCurveCircular;
 extern NSString* const kCACornerCurveContinuous;
+extern NSString* const kCAContentsFormatRGBA16Float;
 NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 }
 
@@ -78,6 +79,7 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 @interface CALayer : NSObject
 @property CGFloat cornerRadius;
 @property(copy) NSString* cornerCurve;
+@property(copy) NSString* contentsFormat;
 @property BOOL masksToBounds;
 @end
 

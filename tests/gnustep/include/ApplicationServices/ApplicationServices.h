@@ -84,6 +84,7 @@ using CTLineRef = const struct __CTLine*;
 using CTTypesetterRef = const struct __CTTypesetter*;
 extern const CFStringRef kCTFontAttributeName;
 extern const CFStringRef kCTForegroundColorAttributeName;
+extern const CFStringRef kCTTrackingAttributeName;
 CTLineRef CTLineCreateWithAttributedString(CFAttributedStringRef string);
 double CTLineGetTypographicBounds(CTLineRef line, CGFloat* ascent, CGFloat* descent,
                                   CGFloat* leading);

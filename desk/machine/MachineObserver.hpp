@@ -1,5 +1,4 @@
-// Companion is the part of a machine that stands above it and that the machine knows only by what
-// it has to tell it: the window server.
+// What the machine tells the window server, which is built on top of it.
 #pragma once
 
 #include <cstddef>
@@ -7,12 +6,12 @@
 
 namespace orvane::desk {
 
-class Companion {
+class MachineObserver {
  public:
-  Companion() = default;
-  Companion(const Companion&) = delete;
-  Companion& operator=(const Companion&) = delete;
-  virtual ~Companion() = default;
+  MachineObserver() = default;
+  MachineObserver(const MachineObserver&) = delete;
+  MachineObserver& operator=(const MachineObserver&) = delete;
+  virtual ~MachineObserver() = default;
 
   /// Before the application hears of it.
   virtual void displaysChanged() = 0;
