@@ -1,7 +1,7 @@
-// What one event costs in the guard's filter, by what happens to it and by the number of zones,
-// beside the same loop written bare. Part of a hit is the desk's own: its clock (mediaClock), which
-// on a Mac is a read of the processor's counter and a multiplication, and letting time pass
-// (timePasses), without which blocking would run away.
+// The cost of one event in the guard's filter, by outcome and number of zones, compared with the
+// bare loop. Part of a hit's cost is the desk's: its clock (mediaClock), which on a Mac is a read
+// of the processor's counter and a multiplication, and letting time pass (timePasses), without
+// which the guard would detect runaway blocking.
 #include <cstddef>
 #include <vector>
 

@@ -1,4 +1,4 @@
-// A simulated Mac with a running guard, as the benchmarks of the event path need it.
+// A simulated Mac with a running guard, for the benchmarks of the event path.
 #include "bench/GuardedDesk.hpp"
 
 #include <cstdint>

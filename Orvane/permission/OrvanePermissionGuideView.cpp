@@ -1,4 +1,4 @@
-// The floating card that tells what to switch on in the System Settings and whether it has been.
+// The floating card that shows what to turn on in System Settings, and whether it has been.
 #include "Orvane/permission/OrvanePermissionGuideView.hpp"
 
 #include <string>
@@ -18,7 +18,7 @@ using namespace ui;
 
 namespace {
 
-/// The application's icon, and an arrow that points at it.
+/// The application's icon under an arrow that points at it.
 View draggableIcon() {
   const View arrow = Symbol("arrow.down")
                          .font(Font::system(24, Weight::semibold))
@@ -49,7 +49,7 @@ View OrvanePermissionGuideView::closeControl() const {
 }
 
 View OrvanePermissionGuideView::iconArea() const {
-  // What comes and what goes fill the same area, so that neither moves while they change places.
+  // Both contents fill the same area, so that neither moves during the transition.
   const auto filling = [](const View& content, const Transition& transition) {
     return content.frame({.height = 136, .maximumWidth = infinity}).transition(transition);
   };
@@ -61,13 +61,13 @@ View OrvanePermissionGuideView::iconArea() const {
 }
 
 View OrvanePermissionGuideView::statusLine(bool isDark) const {
-  // These are no colours that the user has chosen, so they must be read as easily as other texts,
-  // on the window's background.
+  // The user has not chosen these colours, so they must be as readable on the window's background
+  // as other texts.
   const auto readable = [isDark](const Color& color) {
     return color.textOn(isDark ? 0.04 : 0.8, 0, 4.5);
   };
-  // Each state has a line of its own, so that one fades into the other; a line that only changed
-  // its text would be cut while it grows.
+  // Each state has its own line, so that one fades into the other; a single line would be clipped
+  // while its text grows.
   static constexpr double lineHeight = 34;
   const auto line = [this](PermissionGuideState shownIn, const std::string& text, const Font& font,
                            const Color& color) {

@@ -1,4 +1,4 @@
-// The floating guide that tells what to switch on, and looks once a second whether it has been.
+// The floating guide that shows what to turn on, and polls once a second whether it has been.
 #pragma once
 
 #include <cstdint>
@@ -27,16 +27,16 @@ class OrvanePermissionGuideWindowController {
 
   OrvanePermissionGuideWindowController();
 
-  /// The one controller of the process, created with its panel when it is first asked for.
+  /// The process's only controller, created with its panel on first use.
   static OrvanePermissionGuideWindowController& shared();
-  /// Whether shared() has been asked for in this process.
+  /// Whether shared() has been called in this process.
   static bool sharedExists();
 
-  /// Opens the guide, or opens it again, and starts looking for the permission. `onGranted` takes
-  /// the place of an earlier callback and is called once, when the permission is seen; the guide
-  /// closes itself a second and a half later, unless it has been shown again by then.
+  /// Shows the guide, again if need be, and starts polling for the permission. `onGranted` replaces
+  /// an earlier callback and is called once, when the permission is detected; the guide closes
+  /// itself a second and a half later, unless it has been shown again by then.
   void show(std::function<void()> onGranted);
-  /// Closes the guide and stops looking; `onGranted` is dropped.
+  /// Closes the guide, stops polling and drops `onGranted`.
   void close();
 
   [[nodiscard]] const ViewModel& viewModel() const { return viewModel_; }
@@ -54,7 +54,7 @@ class OrvanePermissionGuideWindowController {
   appkit::Window panel_;
   std::optional<appkit::Timer> checkTimer_;
   std::optional<CFAbsoluteTime> startTime_;
-  /// How often the guide has been shown; tells a success from the next showing.
+  /// How often the guide has been shown; distinguishes this showing from the next.
   std::uint64_t showCount_ = 0;
   std::function<void()> onGranted_;
   Lifetime lifetime_;

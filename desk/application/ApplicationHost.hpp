@@ -1,4 +1,4 @@
-// Starts and ends the application on the simulated Mac, and listens to what its guard reports.
+// Starts and ends the application on the simulated Mac, and records its guard's messages.
 #pragma once
 
 #include <cstdint>
@@ -11,13 +11,13 @@
 
 namespace orvane::desk {
 
-/// A message of the guard and when it came, by the machine's clock.
+/// A message of the guard and its time by the machine's clock.
 struct GuardMessage {
   std::int64_t atNanoseconds;
   std::string text;
 };
 
-/// Belongs to one machine and ends before it.
+/// Belongs to one machine, which must outlive it.
 class ApplicationHost {
  public:
   /// With the system's own programs, which run whether or not the application does.
@@ -25,13 +25,13 @@ class ApplicationHost {
   ApplicationHost(const ApplicationHost&) = delete;
   ApplicationHost& operator=(const ApplicationHost&) = delete;
 
-  /// Starts the application; nothing when it runs already.
+  /// Starts the application; does nothing when it is running.
   void launch();
-  /// The user opens it again while it runs; nothing when it does not.
+  /// The user opens the running application again; does nothing when it is not running.
   void reopen();
-  /// Quits it in order.
+  /// Quits the application in order.
   void terminate();
-  /// Ends it without a word.
+  /// Ends the process without any notice.
   void crash();
 
   [[nodiscard]] SystemSettings& systemSettings() const { return systemSettings_; }

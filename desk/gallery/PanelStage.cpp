@@ -21,8 +21,8 @@ constexpr std::array<CGRect, 8> displayFrames{{{{0, 0}, {1512, 982}},
                                                {{-3000, 0}, {1080, 1920}},
                                                {{0, 2062}, {1920, 1080}}}};
 
-void carriedOut(const Displays::Complaint& complaint) {
-  require(!complaint, "the gallery asked for displays that cannot be");
+void carriedOut(const Displays::Problem& problem) {
+  require(!problem, "the gallery asked for displays that cannot be");
 }
 
 void plugDisplays(const std::vector<std::string>& names, Displays& displays) {

@@ -11,7 +11,7 @@ struct Form {
   unsigned char secondHigh;
 };
 
-/// How a sequence goes on after its first byte; a length of 0 for a byte that begins none.
+/// The length of a sequence and the range of its second byte; length 0 for an invalid first byte.
 Form formOf(unsigned char first) {
   if (first < 0x80) {
     return {1, 0, 0};

@@ -10,7 +10,7 @@
 
 namespace orvane::appkit {
 
-/// One line as it is measured and drawn. The colour matters only for drawing.
+/// A line of text for measuring and drawing. The colour matters only for drawing.
 [[nodiscard]] CFRef<CTLineRef> textLine(NSString* _Nonnull text, const ui::Font& font,
                                         const ui::Rgba& color = {});
 

@@ -20,7 +20,7 @@ NSAttributedString* attributed(NSString* text, const ui::Font& font, const ui::R
   NSMutableDictionary* const attributes = [NSMutableDictionary dictionary];
   attributes[(id)kCTFontAttributeName] = systemFont(font);
   attributes[(id)kCTForegroundColorAttributeName] = (__bridge id)painted.get();
-  // A tracking of zero would already take the ligatures away.
+  // Even a tracking of zero disables ligatures.
   if (font.tracking != 0) {
     attributes[(id)kCTTrackingAttributeName] = @(font.tracking);
   }
@@ -34,7 +34,7 @@ struct LineBounds {
   CGFloat leading = 0;
 };
 
-/// With the fonts that take the place of the system's for what that has not, such as Chinese.
+/// Includes the fallback fonts for characters that the system font lacks, such as Chinese.
 LineBounds lineBounds(NSString* text, const ui::Font& font) {
   LineBounds bounds;
   bounds.width = CTLineGetTypographicBounds(textLine(text, font).get(), &bounds.ascent,
@@ -55,7 +55,7 @@ NSString* withoutTrailingBlanks(NSString* text) {
   return [text substringToIndex:length];
 }
 
-/// Where whole characters end, counted in bytes of UTF-8.
+/// The boundaries of whole characters, in bytes of UTF-8.
 std::vector<std::size_t> characterPlaces(NSString* text) {
   std::vector<std::size_t> places{0};
   for (NSUInteger at = 0; at < text.length;) {
@@ -75,7 +75,7 @@ NSString* truncated(NSString* text, const ui::Font& font, double maximumWidth,
 
 struct BrokenLine {
   NSString* text;
-  /// The paragraph from this line on.
+  /// The paragraph from this line to its end.
   NSString* rest;
 };
 
@@ -86,10 +86,10 @@ void breakParagraph(NSString* paragraph, const ui::Font& font, double maximumWid
     const auto typesetter = CFRef<CTTypesetterRef>::owning(CTTypesetterCreateWithAttributedString(
         (__bridge CFAttributedStringRef)attributed(rest, font, {})));
     const CFIndex suggested = CTTypesetterSuggestLineBreak(typesetter.get(), 0, maximumWidth);
-    // However narrow, a line holds a character.
-    const NSUInteger least = NSMaxRange([rest rangeOfComposedCharacterSequenceAtIndex:0]);
+    // Even the narrowest line holds one character.
+    const NSUInteger minimum = NSMaxRange([rest rangeOfComposedCharacterSequenceAtIndex:0]);
     const NSUInteger end =
-        std::clamp(static_cast<NSUInteger>(std::max<CFIndex>(0, suggested)), least, rest.length);
+        std::clamp(static_cast<NSUInteger>(std::max<CFIndex>(0, suggested)), minimum, rest.length);
     if (end == rest.length) {
       break;
     }
@@ -116,10 +116,10 @@ ui::TextLayout CoreTextMeasurer::layout(const std::string& text, const ui::Font&
   }
 
   ui::TextLayout layout;
-  const auto most = static_cast<std::size_t>(std::max(0, limit.lines));
-  if (most > 0 && lines.size() > most) {
+  const auto maximum = static_cast<std::size_t>(std::max(0, limit.lines));
+  if (maximum > 0 && lines.size() > maximum) {
     layout.isTruncated = true;
-    lines.resize(most);
+    lines.resize(maximum);
     lines.back().text = truncated(lines.back().rest, font, allowed, limit.truncation);
   }
   NSFont* const platformFont = systemFont(font);

@@ -1,5 +1,5 @@
-// What becomes of each pointer event: moved out of a zone, let through, counted, reported, and the
-// shut-off when blocking runs away.
+// The handling of each pointer event: moved out of a zone or passed, counted, reported; and the
+// shut-off for runaway blocking.
 #include <string>
 #include <vector>
 
@@ -21,7 +21,7 @@ constexpr std::uint64_t commandKey = 0x100000;
 
 class DockMouseGuardFilterTest : public GuardFixture {
  protected:
-  /// Blocks until the guard is one block short of running away.
+  /// Blocks until the guard is one block short of the runaway limit.
   void blockUpToTheLimit() { block(179); }
 };
 
@@ -43,7 +43,7 @@ TEST_F(DockMouseGuardFilterTest, WithTheDockAtASideTheMoveIsSideways) {
 
 TEST_F(DockMouseGuardFilterTest, AMoveOutsideEveryZonePassesUnchanged) {
   startPinned();
-  // On the display to which the Dock is pinned, and high up on the guarded one.
+  // On the display to which the Dock is pinned, and far above the edge of the guarded one.
   for (const CGPoint point : {CGPoint{500, 1075}, outsideEveryZone, CGPoint{1919.75, 1079}}) {
     EXPECT_EQ(outcomeOf(point), point);
   }
@@ -99,7 +99,7 @@ TEST_F(DockMouseGuardFilterTest, WhileTheModifierIsHeldAMovePassesAndIsReportedO
   startPinned();
   EXPECT_EQ(outcomeOf(inTheZone, optionKey), inTheZone);
   EXPECT_TRUE(guard->isTemporarilyUnlocked());
-  EXPECT_EQ(unlocks, Unlocks{}) << "told only after the event has been passed on";
+  EXPECT_EQ(unlocks, Unlocks{}) << "reported only after the event has been passed on";
   machine.runDue();
   EXPECT_EQ(unlocks, Unlocks{true});
   outcomeOf(inTheZone, optionKey);
@@ -198,7 +198,7 @@ TEST_F(DockMouseGuardFilterTest, ReportsAreChineseWhenTheSettingIs) {
   EXPECT_EQ(messages, Messages{"已阻止第 1 次 Dock 触发"});
 }
 
-TEST_F(DockMouseGuardFilterTest, The180thBlockWithinTwoSecondsShutsTheTapOffWithoutAMessage) {
+TEST_F(DockMouseGuardFilterTest, The180thBlockWithinTwoSecondsShutsTheTapOffSilently) {
   startPinned();
   blockUpToTheLimit();
   machine.runDue();
@@ -287,7 +287,7 @@ TEST_F(DockMouseGuardFilterTest, AfterAShutOffAStartBringsTheGuardBack) {
   EXPECT_TRUE(machine.eventTaps.isAnyEnabled()) << "blocks from before do not count";
 }
 
-TEST_F(DockMouseGuardFilterTest, AShutOffThatIsPendingDoesNothingOnceTheGuardIsGone) {
+TEST_F(DockMouseGuardFilterTest, APendingShutOffDoesNothingOnceTheGuardIsGone) {
   startPinned();
   block(180);
   guard.reset();
@@ -316,7 +316,7 @@ TEST_F(DockMouseGuardFilterTest, ATapThatTheSystemDisabledIsEnabledAgainAtOnce) 
 
 TEST_F(DockMouseGuardFilterTest, ATapWithoutThePermissionIsNotEnabledAgain) {
   startPinned();
-  // The permission goes as the event is on its way: the tap is there still.
+  // The permission is revoked while the event is on its way: the tap still exists.
   machine.permission.onChange(nullptr);
   machine.permission.setTrusted(false);
   machine.eventTaps.disableAll(kCGEventTapDisabledByTimeout, inTheZone);

@@ -1,5 +1,5 @@
-// The filter on random arrangements of displays: what it moves ends outside, what it need not move
-// it leaves alone.
+// The filter on random arrangements of displays: events that it moves end outside of their zone;
+// all others are unchanged.
 #include <algorithm>
 #include <optional>
 #include <string>
@@ -32,7 +32,7 @@ const char* nameOf(DockPosition edge) {
   }
 }
 
-/// Attaches the arrangement; its frames are global, the machine's hang from the first one's bottom.
+/// Attaches the arrangement, whose frames are global, in window-system coordinates.
 void attachAll(desk::Machine& machine, const Arrangement& arrangement) {
   const double height = arrangement.frames.front().size.height;
   std::uint32_t number = 1;

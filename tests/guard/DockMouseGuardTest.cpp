@@ -1,4 +1,4 @@
-// The guard's life: starting, stopping, and what it tells its owner.
+// The guard's life cycle: starting, stopping, and its messages to its owner.
 #include <string>
 #include <utility>
 #include <vector>
@@ -33,21 +33,21 @@ TEST_F(DockMouseGuardTest, StartingGuardsEveryDisplayButTheTarget) {
   EXPECT_EQ(guard->lockedDisplayIdentifier(), desk::uuidNamed('A'));
   EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::control);
   EXPECT_FALSE(guard->blocksAllDisplays());
-  EXPECT_EQ(messages, Messages{}) << "told on the main queue only";
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  EXPECT_EQ(messages, Messages{}) << "reported on the main queue only";
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
 TEST_F(DockMouseGuardTest, BlockingAllDisplaysGuardsEachOfThem) {
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
   EXPECT_EQ(guard->cachedTriggerZones(), (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
-  EXPECT_EQ(told(), Messages{"Mouse guard started. Trigger zones: 2"});
+  EXPECT_EQ(takeMessages(), Messages{"Mouse guard started. Trigger zones: 2"});
 }
 
 TEST_F(DockMouseGuardTest, BlockingAllDisplaysGuardsASingleOneAndNeedsNoTarget) {
   desk::detach(machine, 2);
   guard->start("", OrvaneModifier::option, true);
   EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheLaptop});
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
 TEST_F(DockMouseGuardTest, TheTargetIsFoundByAnyOfItsIdentifiers) {
@@ -99,17 +99,17 @@ TEST_F(DockMouseGuardTest, TheFilterWorksWhileAMenuIsOpenAndWhileAModalSessionRu
   }
 }
 
-TEST_F(DockMouseGuardTest, WithoutTrustAStartChangesNothingAndOnlySaysSo) {
+TEST_F(DockMouseGuardTest, WithoutPermissionAStartOnlyReportsIt) {
   machine.permission.setTrusted(false);
   guard->start(desk::uuidNamed('A'), OrvaneModifier::command, true);
   expectIdle();
   EXPECT_EQ(guard->lockedDisplayIdentifier(), "");
   EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::option);
   EXPECT_FALSE(guard->blocksAllDisplays());
-  EXPECT_EQ(told(), Messages{notTrusted});
+  EXPECT_EQ(takeMessages(), Messages{notTrusted});
 }
 
-TEST_F(DockMouseGuardTest, WithoutTrustARunningGuardKeepsItsEarlierSettings) {
+TEST_F(DockMouseGuardTest, WithoutPermissionARunningGuardKeepsItsEarlierSettings) {
   startPinned(OrvaneModifier::control);
   const CFMachPortRef tap = guard->eventTap();
   machine.permission.setTrusted(false);
@@ -119,7 +119,7 @@ TEST_F(DockMouseGuardTest, WithoutTrustARunningGuardKeepsItsEarlierSettings) {
   EXPECT_EQ(guard->lockedDisplayIdentifier(), desk::uuidNamed('A'));
   EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::control);
   EXPECT_FALSE(guard->blocksAllDisplays());
-  EXPECT_EQ(told(), Messages{notTrusted});
+  EXPECT_EQ(takeMessages(), Messages{notTrusted});
 }
 
 TEST_F(DockMouseGuardTest, AfterTheTrustReturnsAStartReplacesTheDeadTap) {
@@ -136,7 +136,7 @@ TEST_F(DockMouseGuardTest, ADockAtNoEdgeGivesNoZones) {
   for (const char* const edge : {"top", "middle"}) {
     desk::setDockOrientation(machine, edge);
     guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
-    EXPECT_EQ(told(), Messages{noZones}) << edge;
+    EXPECT_EQ(takeMessages(), Messages{noZones}) << edge;
     expectWaiting();
   }
 }
@@ -147,13 +147,13 @@ TEST_F(DockMouseGuardTest, TwoStartsInARowLeaveOneTapAndOneObserver) {
   expectGuarding();
   EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheLaptop});
   EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::shift);
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
-TEST_F(DockMouseGuardTest, ARestartWithoutZonesTakesTheTapDown) {
+TEST_F(DockMouseGuardTest, ARestartWithoutZonesRemovesTheTap) {
   startPinned();
   guard->start("", OrvaneModifier::option, false);
-  EXPECT_EQ(told(), Messages{noZones});
+  EXPECT_EQ(takeMessages(), Messages{noZones});
   expectWaiting();
 }
 
@@ -167,7 +167,7 @@ TEST_F(DockMouseGuardTest, StoppingLeavesTheGuardIdle) {
   EXPECT_EQ(outcomeOf(inTheZone), inTheZone);
 }
 
-TEST_F(DockMouseGuardTest, StoppingInvalidatesThePortWhoeverElseHoldsIt) {
+TEST_F(DockMouseGuardTest, StoppingInvalidatesThePortEvenIfOthersHoldIt) {
   startPinned();
   const auto held = CFRef<CFMachPortRef>::retaining(guard->eventTap());
   guard->stop();
@@ -183,20 +183,20 @@ TEST_F(DockMouseGuardTest, StoppingKeepsTargetModifierAndTotal) {
   EXPECT_EQ(guard->blockedCount(), 3);
   startPinned();
   block();
-  EXPECT_EQ(told(), Messages{"Blocked Dock trigger 4 times"})
+  EXPECT_EQ(takeMessages(), Messages{"Blocked Dock trigger 4 times"})
       << "the time of the last report is forgotten";
 }
 
 TEST_F(DockMouseGuardTest, ARestartWithoutStoppingRemembersTheLastReport) {
   startPinned();
   block();
-  told();
+  takeMessages();
   startPinned();
   block();
-  EXPECT_EQ(told(), Messages{});
+  EXPECT_EQ(takeMessages(), Messages{});
 }
 
-TEST_F(DockMouseGuardTest, StoppingWhileUnlockedTellsOfTheEndOnce) {
+TEST_F(DockMouseGuardTest, StoppingWhileUnlockedReportsTheEndOnce) {
   startPinned();
   outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
   machine.runDue();
@@ -207,7 +207,7 @@ TEST_F(DockMouseGuardTest, StoppingWhileUnlockedTellsOfTheEndOnce) {
   EXPECT_EQ(unlocks, (Unlocks{true, false}));
 }
 
-TEST_F(DockMouseGuardTest, StoppingAnIdleGuardTellsNothing) {
+TEST_F(DockMouseGuardTest, StoppingAnIdleGuardReportsNothing) {
   guard->stop();
   machine.runDue();
   EXPECT_EQ(unlocks, Unlocks{});
@@ -215,7 +215,7 @@ TEST_F(DockMouseGuardTest, StoppingAnIdleGuardTellsNothing) {
   expectIdle();
 }
 
-TEST_F(DockMouseGuardTest, ARestartWhileUnlockedTellsNothing) {
+TEST_F(DockMouseGuardTest, ARestartWhileUnlockedReportsNothing) {
   startPinned();
   outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
   startPinned();
@@ -247,8 +247,9 @@ TEST_F(DockMouseGuardTest, MessagesAreChineseWhenTheSettingIs) {
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
   desk::detach(machine, 1);
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  EXPECT_EQ(told(), (Messages{"鼠标守卫已启动，触发区数量：1", "目标显示器不存在，鼠标守卫已暂停",
-                              "没有可用触发区。请检查目标显示器、Dock 位置和显示器排列"}));
+  EXPECT_EQ(takeMessages(),
+            (Messages{"鼠标守卫已启动，触发区数量：1", "目标显示器不存在，鼠标守卫已暂停",
+                      "没有可用触发区。请检查目标显示器、Dock 位置和显示器排列"}));
 }
 
 TEST_F(DockMouseGuardTest, TheDisplaysAreListedInTheSystemsOrder) {
@@ -293,7 +294,7 @@ TEST_F(DockMouseGuardTest, WhenEveryLinkIsRefusedTheSettingsThemselvesAreOpened)
                       "file:///System/Applications/System%20Settings.app"}));
 }
 
-// What the guard says of itself: whether it runs.
+// The announcement of whether the guard runs.
 
 class RunningAnnouncementTest : public GuardLifeFixture {
  protected:
@@ -317,14 +318,14 @@ TEST_F(RunningAnnouncementTest, StartAndStopAreAnnouncedOnTheMainQueue) {
   EXPECT_EQ(announced(), std::vector{false});
 }
 
-TEST_F(RunningAnnouncementTest, ARestartIsNoChange) {
+TEST_F(RunningAnnouncementTest, ARestartIsNotAChange) {
   startPinned();
   announced();
   guard->start("", OrvaneModifier::option, true);
   EXPECT_EQ(announced(), std::vector<bool>());
 }
 
-TEST_F(RunningAnnouncementTest, AStartWithoutATapIsNoChangeButEndsOneThatRan) {
+TEST_F(RunningAnnouncementTest, AStartWithoutATapIsNotAChangeUnlessTheGuardRan) {
   machine.eventTaps.setRefusesCreation(true);
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
   EXPECT_EQ(announced(), std::vector<bool>());
@@ -352,7 +353,7 @@ TEST_F(RunningAnnouncementTest, AShutOffIsAnnounced) {
   EXPECT_EQ(announced(), std::vector{false});
 }
 
-// A start that ends without a tap.
+// Starts that end without a tap.
 
 TEST_F(DockMouseGuardTest, AStartWithoutZonesEndsATemporaryUnlock) {
   startPinned();

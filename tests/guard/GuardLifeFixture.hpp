@@ -1,5 +1,5 @@
-// What the tests of the guard's life share: the messages in English, the zones of the two displays,
-// and what holds while the guard guards, waits or is idle.
+// Shared by the tests of the guard's life cycle: the messages in English, the zones of the two
+// displays, and the expectations for a guard that guards, waits or is idle.
 #pragma once
 
 #include <cstddef>
@@ -32,8 +32,8 @@ inline const TriggerZone zoneOfTheMonitor{{{1920, 1068}, {1920, 12}}, {0, -12}};
 
 class GuardLifeFixture : public GuardFixture {
  protected:
-  /// What the guard has told since the last call.
-  Messages told() {
+  /// Returns and clears the guard's messages, after serving the main queue.
+  Messages takeMessages() {
     machine.runDue();
     return std::exchange(messages, {});
   }

@@ -155,7 +155,7 @@ TEST_F(OrvaneModelLockTest, PinWithPreventChosenButStoppedClearsPrevent) {
 
 // Without the permission.
 
-TEST_F(OrvaneModelLockTest, WithoutPermissionTheLockAsksAndChangesNothingElse) {
+TEST_F(OrvaneModelLockTest, WithoutPermissionTheLockOnlyAsks) {
   launch();
   machine.permission.setTrusted(false);
   EXPECT_EQ(writesOf([&] { model->toggleLock(); }), (Writes{{"selectedDisplayID", 1}}));
@@ -219,7 +219,7 @@ TEST_F(OrvaneModelLockTest, PreventWithoutPermissionAsksBeforeTheModeIsChosen) {
   EXPECT_TRUE(isPreventing());
 }
 
-TEST_F(OrvaneModelLockTest, APinThatCameAfterTheRequestForPreventStays) {
+TEST_F(OrvaneModelLockTest, APinChosenAfterTheRequestForPreventIsKept) {
   machine.permission.setTrusted(false);
   launch().toggleHideDockOnAllDisplays();
   machine.runDue();
@@ -393,7 +393,7 @@ TEST_F(OrvaneModelLockTest, PreventModeIsRestoredWithAnUnpluggedTarget) {
   EXPECT_TRUE(isPreventing());
 }
 
-TEST_F(OrvaneModelLockTest, WithoutPermissionALaunchRestoresNothingAndAsksNobody) {
+TEST_F(OrvaneModelLockTest, WithoutPermissionALaunchRestoresNothingAndDoesNotAsk) {
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(false);
   launch();

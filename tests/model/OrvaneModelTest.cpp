@@ -1,4 +1,4 @@
-// OrvaneModel's state: creation, displays and target, setters, links, and its end.
+// OrvaneModel's state: creation, displays and target, setters, links, destruction.
 #include <string>
 #include <vector>
 
@@ -26,7 +26,7 @@ class OrvaneModelTest : public ModelFixture {
     }
     return urls;
   }
-  /// How often anything was announced during the action.
+  /// The number of change notifications during the action.
   template <typename Action>
   int announcementsOf(Action action) {
     int count = 0;
@@ -180,7 +180,7 @@ TEST_F(OrvaneModelTest, InPreventModeASelectionDoesNotTouchTheGuard) {
   EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), desk::uuidNamed('A'));
 }
 
-TEST_F(OrvaneModelTest, SelectingWhatIsNotAttachedStopsPinningButKeepsTheWish) {
+TEST_F(OrvaneModelTest, SelectingADetachedDisplayStopsPinningButKeepsTheChoice) {
   launchPinned();
   moveHolding(kCGEventFlagMaskAlternate);
   const double checked = model->lastCheckedAt().value();
@@ -376,9 +376,9 @@ TEST_F(OrvaneModelTest, AtItsEndTheModelStopsObservingAndGuarding) {
   EXPECT_EQ(machine.objects.liveCount(), 0U);
 }
 
-TEST_F(OrvaneModelTest, WhatIsPendingDoesNothingOnceTheModelIsGone) {
+TEST_F(OrvaneModelTest, APendingTaskDoesNothingOnceTheModelIsGone) {
   launchPinned();
-  // The screen task of the model, reports of the guard, and the delayed look at the permission.
+  // The model's screen task, the guard's reports and the delayed check of the permission.
   model->openAccessibilitySettings();
   desk::attach(machine, desk::monitorAbove());
   machine.mouse.post({2500, 1075}, kCGEventFlagMaskAlternate);
@@ -388,7 +388,7 @@ TEST_F(OrvaneModelTest, WhatIsPendingDoesNothingOnceTheModelIsGone) {
   EXPECT_EQ(writesOf([&] { machine.advance(10); }), Writes{});
 }
 
-TEST_F(OrvaneModelTest, AGrantThatComesAfterTheModelsEndDoesNothing) {
+TEST_F(OrvaneModelTest, AGrantAfterTheModelsEndDoesNothing) {
   machine.permission.setTrusted(false);
   launch().toggleLock();
   machine.advance(1);

@@ -1,4 +1,4 @@
-// The guide: its panel, where it stands, how it looks for the permission, and how it ends.
+// The guide: its panel, its position, how it polls for the permission, and how it closes.
 #include <memory>
 
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
@@ -19,7 +19,7 @@ class OrvanePermissionGuideWindowControllerTest : public PermissionFlow {
     EXPECT_EQ(guide().panel().frame().origin.x, x);
     EXPECT_EQ(guide().panel().frame().origin.y, y);
   }
-  /// Only a display of that frame.
+  /// Replaces the displays by a single one with that frame.
   void haveDisplay(CGRect frame) {
     desk::attach(machine, desk::displayOf(9, "Only", frame));
     EXPECT_FALSE(machine.displays.setMain(9));
@@ -29,7 +29,8 @@ class OrvanePermissionGuideWindowControllerTest : public PermissionFlow {
   void grant() { machine.permission.setTrusted(true); }
 };
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ThePanelFloatsAboveAllAndActivatesNobody) {
+TEST_F(OrvanePermissionGuideWindowControllerTest,
+       ThePanelFloatsAboveAllAndDoesNotActivateTheApplication) {
   show();
   const auto panel = window("guide");
   ASSERT_NE(panel, nullptr);
@@ -88,7 +89,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ThePlaceMayLieLeftOfAScreenTha
   EXPECT_EQ(guide().panel().frame().origin.x, 100 + 300 - 360 - 20);
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAllTheSame) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAnyway) {
   EXPECT_FALSE(machine.displays.detach(1));
   EXPECT_FALSE(machine.displays.detach(2));
   show();
@@ -128,7 +129,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, AGrantAfterTheTimeOutIsASucces
   EXPECT_EQ(granted, "a");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, TheSuccessStaysForASecondAndAHalf) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, TheSuccessIsShownForASecondAndAHalf) {
   show();
   grant();
   machine.advance(1);
@@ -160,7 +161,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, AnOldSuccessDoesNotCloseTheGui
   EXPECT_FALSE(isGuideVisible());
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, EachSuccessStaysForItsOwnSecondAndAHalf) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, EachSuccessIsShownForItsOwnSecondAndAHalf) {
   show();
   grant();
   machine.advance(1);
@@ -234,7 +235,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsLookingAndForgetsT
   EXPECT_EQ(granted, "");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingLetsGoOfWhatTheCallbackHolds) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingReleasesWhatTheCallbackHolds) {
   const auto held = std::make_shared<int>(0);
   guide().show([held] { ++*held; });
   EXPECT_EQ(held.use_count(), 2);
@@ -273,7 +274,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ShownOverItselfItHasOneTimerAn
   EXPECT_EQ(granted, "b");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutACallbackItEndsAllTheSame) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutACallbackItEndsAnyway) {
   guide().show(nullptr);
   grant();
   machine.advance(2.5);

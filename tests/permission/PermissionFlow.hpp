@@ -1,5 +1,5 @@
-// PermissionFlow gives each test two displays, an application without the permission, and hands
-// that operate what is shown.
+// PermissionFlow gives each test two displays, an application without the permission, and functions
+// that operate its windows.
 #pragma once
 
 #include <functional>
@@ -39,12 +39,12 @@ class PermissionFlow : public desk::MachineFixture {
   }
   PermissionGuideState state() { return guide().viewModel().state.value(); }
 
-  /// A check whose callback adds `name` to what was granted.
+  /// A check whose callback appends `name` to `granted`.
   void check(char name) {
     OrvaneAccessibilityPermission::check([this, name] { granted += name; });
     machine.runDue();
   }
-  /// A check, agreed to, and the guide that follows.
+  /// A check, the user's consent, and the guide that follows.
   void openGuide(char name = 'a') {
     check(name);
     press("Open Privacy Settings", "alert");
@@ -54,17 +54,17 @@ class PermissionFlow : public desk::MachineFixture {
   std::shared_ptr<desk::DeskWindow> window(const std::string& surface) {
     return desk::Surfaces(server()).window(surface);
   }
-  /// The elements that a screen reader finds there.
+  /// The top-level semantics elements of the surface.
   std::vector<ui::SemanticsNode> children(const std::string& surface) {
     const auto tree = desk::Surfaces(server()).tree(surface);
     return tree ? tree->children : std::vector<ui::SemanticsNode>{};
   }
-  /// The same in words, one element per line.
+  /// The semantics tree as text, one element per line.
   std::string elements(const std::string& surface) {
     const auto tree = desk::Surfaces(server()).tree(surface);
     return tree ? ui::describeSemantics(*tree) : "";
   }
-  /// Every call of the drawing, one per line.
+  /// The recorded drawing calls, one per line.
   std::string drawing(const std::string& surface) {
     const auto view = window(surface)->content;
     view->update();

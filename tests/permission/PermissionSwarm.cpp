@@ -1,4 +1,4 @@
-// Steps that make no sense at the moment do nothing, so that every list of steps can be taken.
+// Steps that are impossible at the moment do nothing, so that every sequence of steps is valid.
 #include "tests/permission/PermissionSwarm.hpp"
 
 #include <algorithm>
@@ -187,12 +187,12 @@ void PermissionSwarm::take(const SwarmStep& step) {
   }
   machine_.runDue();
   if (!application_.isRunning()) {
-    // A click may have met "Quit".
+    // A click may have hit "Quit".
     launch();
   }
 }
 
-std::optional<std::string> PermissionSwarm::complaint() const {
+std::optional<std::string> PermissionSwarm::problem() const {
   const std::size_t alerts = visibleCount("OrvaneAlertPanel");
   if (alerts > 1) {
     return "there are two alerts";
@@ -226,10 +226,10 @@ std::optional<std::string> PermissionSwarm::complaint() const {
   return std::nullopt;
 }
 
-std::optional<std::string> PermissionSwarm::complaintAtTheEnd() {
+std::optional<std::string> PermissionSwarm::problemAtTheEnd() {
   server_.menus.close();
   machine_.runDue();
-  // What is still to come comes now, and is declined.
+  // Wait for everything that is pending, and decline it.
   for (int round = 0; round < 3; ++round) {
     answerAlert(0);
     machine_.runDue();
@@ -244,8 +244,8 @@ std::optional<std::string> PermissionSwarm::complaintAtTheEnd() {
   machine_.mouse.moveTo({700, 500});
   machine_.runDue();
   machine_.advance(10);
-  if (const auto wrong = complaint()) {
-    return wrong;
+  if (const auto found = problem()) {
+    return found;
   }
   if (server_.modal.isRunning() || !server_.windows().empty()) {
     return "something is still shown";

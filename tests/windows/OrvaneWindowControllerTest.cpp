@@ -1,4 +1,4 @@
-// The two panels: their attributes, where they are placed, and how they come and go together.
+// The two panels: their attributes, their positions, and how they open and close together.
 #include <functional>
 #include <memory>
 #include <string>

@@ -1,5 +1,5 @@
-// WindowFixture gives each test a machine with two displays and a window server, and hands to move
-// and click with.
+// WindowFixture gives each test a machine with two displays, a window server, and functions that
+// operate mouse and keyboard.
 #pragma once
 
 #include <functional>
@@ -38,8 +38,7 @@ class WindowFixture : public MachineFixture {
 
   WindowServer& server() { return WindowServer::current(); }
 
-  /// A window with its origin there, of 200 by 100 points, in window-system coordinates. It can
-  /// become key.
+  /// A window of 200 by 100 points at `origin`, in window-system coordinates. It can become key.
   static appkit::Window makeWindow(CGPoint origin, const std::string& name = "NSWindow",
                                    appkit::WindowKind kind = appkit::WindowKind::window,
                                    std::uint64_t styleMask = 0) {
@@ -52,7 +51,7 @@ class WindowFixture : public MachineFixture {
   static appkit::HostingView hosting(const ui::View& view) {
     return appkit::HostingView([view](const ui::Environment&) { return view; });
   }
-  /// A button that fills what it is shown in.
+  /// A button that fills its host.
   static ui::View wideButton(const std::string& title, std::function<void()> action) {
     return ui::Button(std::move(action), ui::Text(title).frame({.maximumWidth = ui::infinity,
                                                                 .maximumHeight = ui::infinity}))

@@ -1,5 +1,5 @@
-// What ApplicationServices brings along on a Mac, as far as the application uses it and
-// Orvane/platform/Quartz.hpp does not declare it already: drawing with Core Graphics and Core Text.
+// The parts of ApplicationServices that the application uses and Orvane/platform/Quartz.hpp does
+// not declare: drawing with Core Graphics and Core Text.
 #pragma once
 
 #include <CoreFoundation/CFCGTypes.h>
