@@ -121,8 +121,7 @@ TEST_P(PermissionLookTest, WhileItLooksTheGuidesPartsHaveTheirFontsAndColours) {
   expectInk(drawing("guide"),
             withStatus({waitingBegins, {10, Weight::regular}, SystemColor::secondary}));
   machine.advance(13);
-  expectInk(drawing("guide"),
-            withStatus({notDetectedBegins, {10, Weight::regular}, std::nullopt}));
+  expectInk(drawing("guide"), withStatus({notDetectedBegins, {10, Weight::regular}, std::nullopt}));
 }
 
 TEST_P(PermissionLookTest, ASuccessIsAGreenCheckMarkOfSixtyPointsAndAGreenHeadline) {
