@@ -1,44 +1,135 @@
 // What a script can look at of the application.
-#include "desk/script/ApplicationThings.hpp"
+#include <cmath>
+#include <optional>
+#include <string>
 
 #include <nlohmann/json.hpp>
 
-#include "desk/script/JsonSnapshots.hpp"
+#include "Orvane/geometry/DisplaySnapshot.hpp"
+#include "Orvane/guard/DockMouseGuard.hpp"
+#include "desk/script/JsonText.hpp"
+#include "desk/script/Things.hpp"
 
 namespace orvane::desk::script {
 
 namespace {
 
+const char* nameOf(OrvaneStatus status) {
+  switch (status) {
+    case OrvaneStatus::unlocked:
+      return "unlocked";
+    case OrvaneStatus::locked:
+      return "locked";
+    case OrvaneStatus::temporarilyUnlocked:
+      return "temporarilyUnlocked";
+    case OrvaneStatus::needsCheck:
+      return "needsCheck";
+    case OrvaneStatus::targetMissing:
+      return "targetMissing";
+    case OrvaneStatus::permissionRequired:
+      break;
+  }
+  return "permissionRequired";
+}
+
+template <typename T>
+Json valueOrNull(const std::optional<T>& value) {
+  return value ? Json(*value) : Json(nullptr);
+}
+
+Json zones(const DockMouseGuard& guard) {
+  Json list = Json::array();
+  for (const TriggerZone& zone : guard.cachedTriggerZones()) {
+    list.push_back(Json{{"rect", jsonRectangle(zone.rect)},
+                        {"nudge", Json{zone.nudgeVector.dx, zone.nudgeVector.dy}}});
+  }
+  return list;
+}
+
+/// Seconds between the launch and a moment of the calendar clock. That clock is a little coarser
+/// than a microsecond, so each end is brought to whole microseconds before they are compared.
+double secondsSinceLaunch(CFAbsoluteTime moment, std::int64_t launchedAtNanoseconds) {
+  const double sinceStart = moment - static_cast<double>(Clock::calendarSecondsAtStart);
+  const std::int64_t microseconds = std::llround(sinceStart * 1e6);
+  const std::int64_t launchMicroseconds = (launchedAtNanoseconds + 500) / 1000;
+  return jsonSeconds((microseconds - launchMicroseconds) * 1000);
+}
+
+Json guardJson(const DockMouseGuard& guard, const Machine& machine) {
+  return {{"running", guard.isRunning()},
+          {"zones", zones(guard)},
+          {"blockedCount", guard.blockedCount()},
+          {"isTemporarilyUnlocked", guard.isTemporarilyUnlocked()},
+          {"blocksAllDisplays", guard.blocksAllDisplays()},
+          {"lockedDisplayIdentifier", guard.lockedDisplayIdentifier()},
+          {"overrideModifier", guard.overrideModifier().rawValue()},
+          {"observing", guard.isObservingScreens()},
+          {"taps", machine.eventTaps.aliveCount()},
+          {"tapEnabled", machine.eventTaps.isAnyEnabled()}};
+}
+
+/// As the application sees them at this moment, whether it runs or not.
 Complaint lookAtDisplays(ScriptContext&, const std::string&, Json& shown) {
-  shown = JsonSnapshots::displays();
+  shown = Json::array();
+  for (const DisplaySnapshot& display : DockMouseGuard::displays()) {
+    shown.push_back(Json{{"id", display.id},
+                         {"matchingIdentifiers", display.matchingIdentifiers},
+                         {"name", display.name},
+                         {"frame", jsonRectangle(display.frame)},
+                         {"cgFrame", jsonRectangle(display.cgFrame)},
+                         {"isMain", display.isMain},
+                         {"isBuiltIn", display.isBuiltIn}});
+  }
   return std::nullopt;
 }
 
+/// While the application does not run, what a new guard says.
 Complaint lookAtGuard(ScriptContext& context, const std::string&, Json& shown) {
-  shown = JsonSnapshots::guard(context.application(), context.machine());
+  const ApplicationHost& application = context.application();
+  shown = application.isRunning() ? guardJson(application.model().guardService(), context.machine())
+                                  : guardJson(DockMouseGuard(), context.machine());
   return std::nullopt;
 }
 
 Complaint lookAtMessages(ScriptContext& context, const std::string&, Json& shown) {
-  shown = JsonSnapshots::messages(context.application());
+  constexpr std::int64_t mediaStart = Clock::mediaSecondsAtStart * Clock::nanosecondsPerSecond;
+  shown = Json::array();
+  for (const GuardMessage& message : context.application().messages()) {
+    shown.push_back(
+        Json{{"at", jsonSeconds(message.atNanoseconds + mediaStart)}, {"text", message.text}});
+  }
   return std::nullopt;
 }
 
 Complaint lookAtModel(ScriptContext& context, const std::string&, Json& shown) {
-  if (!context.application().isRunning()) {
+  const ApplicationHost& application = context.application();
+  if (!application.isRunning()) {
     return "the application is not running";
   }
-  shown = JsonSnapshots::model(context.application());
+  const OrvaneModel& model = application.model();
+  shown = {{"selectedDisplayID", valueOrNull(model.selectedDisplayID().value())},
+           {"hasAccessibilityPermission", model.hasAccessibilityPermission().value()},
+           {"isTemporarilyUnlocked", model.isTemporarilyUnlocked().value()},
+           {"lastRestoreSucceeded", valueOrNull(model.lastRestoreSucceeded().value())},
+           {"lastCheckedAt",
+            secondsSinceLaunch(model.lastCheckedAt().value(), application.launchedAtNanoseconds())},
+           {"appLanguage", model.appLanguage().value().rawValue()},
+           {"temporaryUnlockModifier", model.temporaryUnlockModifier().value().rawValue()},
+           {"hidesDockOnAllDisplays", model.hidesDockOnAllDisplays().value()},
+           {"launchAtLoginEnabled", model.launchAtLoginEnabled().value()},
+           {"launchAtLoginRequiresApproval", model.launchAtLoginRequiresApproval().value()},
+           {"launchAtLoginErrorMessage", valueOrNull(model.launchAtLoginErrorMessage().value())},
+           {"status", nameOf(model.status())}};
   return std::nullopt;
 }
 
 }  // namespace
 
 void addApplicationThings(ThingTable& table) {
-  table.add({.name = "displays", .parameter = {}, .look = lookAtDisplays, .countingMember = {}});
-  table.add({.name = "guard", .parameter = {}, .look = lookAtGuard, .countingMember = {}});
-  table.add({.name = "messages", .parameter = {}, .look = lookAtMessages, .countingMember = {}});
-  table.add({.name = "model", .parameter = {}, .look = lookAtModel, .countingMember = {}});
+  table.add({.name = "displays", .look = lookAtDisplays});
+  table.add({.name = "guard", .look = lookAtGuard});
+  table.add({.name = "messages", .look = lookAtMessages});
+  table.add({.name = "model", .look = lookAtModel});
 }
 
 }  // namespace orvane::desk::script

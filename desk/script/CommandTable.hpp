@@ -28,6 +28,11 @@ class CommandTable {
 
   /// A command of the same name is replaced.
   void add(Command command);
+  /// Its name, what it takes and what it does; see `makeCommand`.
+  template <typename Parameters, typename Action>
+  void add(std::string name, Parameters parameters, Action action) {
+    add(makeCommand(std::move(name), std::move(parameters), std::move(action)));
+  }
   /// The command that the words begin with; there must be at least one word.
   [[nodiscard]] Found find(std::span<const Word> words) const;
 

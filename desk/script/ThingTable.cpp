@@ -3,9 +3,7 @@
 
 #include <utility>
 
-#include "desk/script/ApplicationThings.hpp"
-#include "desk/script/MachineThings.hpp"
-#include "desk/script/WindowThings.hpp"
+#include "desk/script/Things.hpp"
 
 namespace orvane::desk::script {
 

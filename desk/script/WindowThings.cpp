@@ -1,13 +1,12 @@
 // What a script can look at of the window server.
-#include "desk/script/WindowThings.hpp"
-
 #include <string>
 
 #include <nlohmann/json.hpp>
 
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
-#include "desk/script/JsonSnapshots.hpp"
-#include "desk/script/JsonSnapshotsOfMenu.hpp"
+#include "desk/script/JsonText.hpp"
+#include "desk/script/MenuSnapshot.hpp"
+#include "desk/script/Things.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -31,7 +30,7 @@ Json windowSnapshot(const WindowServer& server, const DeskWindow& window) {
   shown["surface"] = Surfaces::nameOf(window);
   shown["class"] = window.className;
   shown["title"] = window.title;
-  shown["frame"] = JsonSnapshots::rectangle(window.frame);
+  shown["frame"] = jsonRectangle(window.frame);
   shown["styleMask"] = window.styleMask;
   shown["level"] = window.level;
   shown["collectionBehavior"] = window.collectionBehavior;
@@ -148,16 +147,13 @@ Complaint lookAtAnnouncements(ScriptContext&, const std::string&, Json& shown) {
 }  // namespace
 
 void addWindowThings(ThingTable& table) {
-  table.add({.name = "windows", .parameter = {}, .look = lookAtWindows, .countingMember = {}});
-  table.add({.name = "tree", .parameter = "SURFACE", .look = lookAtTree, .countingMember = {}});
-  table.add({.name = "menu", .parameter = {}, .look = lookAtMenu, .countingMember = {}});
-  table.add({.name = "icon", .parameter = {}, .look = lookAtIcon, .countingMember = {}});
-  table.add({.name = "guide", .parameter = {}, .look = lookAtGuide, .countingMember = {}});
-  table.add({.name = "announcements",
-             .parameter = {},
-             .look = lookAtAnnouncements,
-             .countingMember = {}});
-  table.add({.name = "tooltip", .parameter = {}, .look = lookAtTooltip, .countingMember = {}});
+  table.add({.name = "windows", .look = lookAtWindows});
+  table.add({.name = "tree", .parameter = "SURFACE", .look = lookAtTree});
+  table.add({.name = "menu", .look = lookAtMenu});
+  table.add({.name = "icon", .look = lookAtIcon});
+  table.add({.name = "guide", .look = lookAtGuide});
+  table.add({.name = "announcements", .look = lookAtAnnouncements});
+  table.add({.name = "tooltip", .look = lookAtTooltip});
 }
 
 }  // namespace orvane::desk::script

@@ -10,7 +10,7 @@
 #include "Orvane/model/OrvaneSettings.hpp"
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/machine/MachineScope.hpp"
-#include "desk/script/JsonSnapshotsOfMenu.hpp"
+#include "desk/script/MenuSnapshot.hpp"
 #include "desk/windows/Implementations.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
