@@ -11,6 +11,7 @@
 #include "desk/canvas/DrawingResources.hpp"
 #include "desk/desktop/DesktopPainter.hpp"
 #include "desk/desktop/DesktopScene.hpp"
+#include "desk/hand/Hand.hpp"
 #include "desk/machine/MachineScope.hpp"
 
 namespace orvane::desk {
@@ -67,8 +68,6 @@ class TourStage {
   void clickAt(CGPoint place);
   /// The part of an area that is on the screen in which its middle lies.
   [[nodiscard]] CGRect onItsScreen(const CGRect& area);
-  /// Where the guide's icon can be taken, in global coordinates; none without a guide.
-  [[nodiscard]] std::optional<CGPoint> iconPlace();
   void write(cairo_surface_t* picture, const std::string& fileName);
   void push(double dx, double dy);
   [[nodiscard]] bool isOver() const { return !isTrue_ || failedToWrite_; }
@@ -78,6 +77,7 @@ class TourStage {
   std::ostream& complaints_;
   MachineScope scope_;
   ApplicationHost application_;
+  Hand hand_{machine()};
   DrawingResources resources_;
   DesktopPainter painter_{resources_};
   std::optional<MovedBack> movedBack_;

@@ -9,7 +9,7 @@
 #include "Orvane/permission/OrvaneAccessibilityPermission.hpp"
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "Orvane/windows/OrvaneWindowController.hpp"
-#include "desk/windows/Surfaces.hpp"
+#include "desk/hand/Hand.hpp"
 #include "tests/support/TestDisplays.hpp"
 
 namespace orvane {
@@ -42,12 +42,7 @@ std::size_t PermissionSwarm::visibleCount(const std::string& className) const {
 }
 
 bool PermissionSwarm::press(const std::string& surface, const std::string& label) {
-  for (const desk::SurfaceControl& control : desk::Surfaces(server_).controls(surface)) {
-    if (control.node.label == label && control.node.isEnabled) {
-      return control.press();
-    }
-  }
-  return false;
+  return !desk::Hand(machine_).press({label, surface});
 }
 
 void PermissionSwarm::check() {
