@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "Orvane/base/Lifetime.hpp"
-#include "Orvane/base/Published.hpp"
 #include "Orvane/permission/PermissionGuideState.hpp"
 #include "Orvane/platform/Quartz.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
@@ -17,9 +16,12 @@ namespace orvane {
 /// Main thread only.
 class OrvanePermissionGuideWindowController {
  public:
-  /// What the guide's view shows.
-  struct ViewModel {
-    Published<PermissionGuideState> state{PermissionGuideState::checking};
+  /// The guide at one moment; without more said, one that has not been shown.
+  struct Snapshot {
+    PermissionGuideState state = PermissionGuideState::checking;
+    bool isVisible = false;
+    /// It looks for the permission.
+    bool isPolling = false;
   };
 
   /// In points.
@@ -29,8 +31,8 @@ class OrvanePermissionGuideWindowController {
 
   /// The one controller of the process, created with its panel when it is first asked for.
   static OrvanePermissionGuideWindowController& shared();
-  /// Whether shared() has been asked for in this process.
-  static bool sharedExists();
+  /// Of the one controller; creates none.
+  [[nodiscard]] static Snapshot snapshot();
 
   /// Opens the guide, or opens it again, and starts looking for the permission. `onGranted` takes
   /// the place of an earlier callback and is called once, when the permission is seen; the guide
@@ -39,8 +41,6 @@ class OrvanePermissionGuideWindowController {
   /// Closes the guide and stops looking; `onGranted` is dropped.
   void close();
 
-  [[nodiscard]] const ViewModel& viewModel() const { return viewModel_; }
-  [[nodiscard]] bool isPolling() const { return checkTimer_.has_value(); }
   [[nodiscard]] const appkit::Window& panel() const { return panel_; }
 
  private:
@@ -50,7 +50,7 @@ class OrvanePermissionGuideWindowController {
   void check();
   void handleSuccess();
 
-  ViewModel viewModel_;
+  PermissionGuideState state_ = PermissionGuideState::checking;
   appkit::Window panel_;
   std::optional<appkit::Timer> checkTimer_;
   std::optional<CFAbsoluteTime> startTime_;

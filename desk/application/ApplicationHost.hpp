@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "Orvane/app/OrvaneSnapshot.hpp"
 #include "Orvane/model/OrvaneModel.hpp"
 #include "desk/machine/Machine.hpp"
 
@@ -33,7 +34,9 @@ class ApplicationHost {
   void crash();
 
   [[nodiscard]] bool isRunning() const { return machine_.process.isRunning(); }
-  /// The application must be running.
+  /// What the application is and shows; also while it does not run.
+  [[nodiscard]] OrvaneSnapshot snapshot() const;
+  /// To operate it; it must be running.
   [[nodiscard]] OrvaneModel& model() const;
   /// Every message since the last launch.
   [[nodiscard]] const std::vector<GuardMessage>& messages() const { return messages_; }

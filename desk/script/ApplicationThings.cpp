@@ -32,14 +32,26 @@ const char* nameOf(OrvaneStatus status) {
   return "permissionRequired";
 }
 
+const char* nameOf(PermissionGuideState state) {
+  switch (state) {
+    case PermissionGuideState::checking:
+      return "checking";
+    case PermissionGuideState::success:
+      return "success";
+    case PermissionGuideState::timeout:
+      return "timeout";
+  }
+  return "";
+}
+
 template <typename T>
 Json valueOrNull(const std::optional<T>& value) {
   return value ? Json(*value) : Json(nullptr);
 }
 
-Json zones(const DockMouseGuard& guard) {
+Json zones(const GuardSnapshot& guard) {
   Json list = Json::array();
-  for (const TriggerZone& zone : guard.cachedTriggerZones()) {
+  for (const TriggerZone& zone : guard.zones) {
     list.push_back(Json{{"rect", jsonRectangle(zone.rect)},
                         {"nudge", Json{zone.nudgeVector.dx, zone.nudgeVector.dy}}});
   }
@@ -53,19 +65,6 @@ double secondsSinceLaunch(CFAbsoluteTime moment, std::int64_t launchedAtNanoseco
   const std::int64_t microseconds = std::llround(sinceStart * 1e6);
   const std::int64_t launchMicroseconds = (launchedAtNanoseconds + 500) / 1000;
   return jsonSeconds((microseconds - launchMicroseconds) * 1000);
-}
-
-Json guardJson(const DockMouseGuard& guard, const Machine& machine) {
-  return {{"running", guard.isRunning()},
-          {"zones", zones(guard)},
-          {"blockedCount", guard.blockedCount()},
-          {"isTemporarilyUnlocked", guard.isTemporarilyUnlocked()},
-          {"blocksAllDisplays", guard.blocksAllDisplays()},
-          {"lockedDisplayIdentifier", guard.lockedDisplayIdentifier()},
-          {"overrideModifier", guard.overrideModifier().rawValue()},
-          {"observing", guard.isObservingScreens()},
-          {"taps", machine.eventTaps.aliveCount()},
-          {"tapEnabled", machine.eventTaps.isAnyEnabled()}};
 }
 
 /// As the application sees them at this moment, whether it runs or not.
@@ -85,9 +84,18 @@ Complaint lookAtDisplays(ScriptContext&, const std::string&, Json& shown) {
 
 /// While the application does not run, what a new guard says.
 Complaint lookAtGuard(ScriptContext& context, const std::string&, Json& shown) {
-  const ApplicationHost& application = context.application();
-  shown = application.isRunning() ? guardJson(application.model().guardService(), context.machine())
-                                  : guardJson(DockMouseGuard(), context.machine());
+  const GuardSnapshot guard = context.application().snapshot().guard;
+  const EventTaps& taps = context.machine().eventTaps;
+  shown = {{"running", guard.isRunning},
+           {"zones", zones(guard)},
+           {"blockedCount", guard.blockedCount},
+           {"isTemporarilyUnlocked", guard.isTemporarilyUnlocked},
+           {"blocksAllDisplays", guard.blocksAllDisplays},
+           {"lockedDisplayIdentifier", guard.lockedDisplayIdentifier},
+           {"overrideModifier", guard.overrideModifier.rawValue()},
+           {"observing", guard.isObservingScreens},
+           {"taps", taps.aliveCount()},
+           {"tapEnabled", taps.isAnyEnabled()}};
   return std::nullopt;
 }
 
@@ -106,20 +114,27 @@ Complaint lookAtModel(ScriptContext& context, const std::string&, Json& shown) {
   if (!application.isRunning()) {
     return "the application is not running";
   }
-  const OrvaneModel& model = application.model();
-  shown = {{"selectedDisplayID", valueOrNull(model.selectedDisplayID().value())},
-           {"hasAccessibilityPermission", model.hasAccessibilityPermission().value()},
-           {"isTemporarilyUnlocked", model.isTemporarilyUnlocked().value()},
-           {"lastRestoreSucceeded", valueOrNull(model.lastRestoreSucceeded().value())},
-           {"lastCheckedAt",
-            secondsSinceLaunch(model.lastCheckedAt().value(), application.launchedAtNanoseconds())},
-           {"appLanguage", model.appLanguage().value().rawValue()},
-           {"temporaryUnlockModifier", model.temporaryUnlockModifier().value().rawValue()},
-           {"hidesDockOnAllDisplays", model.hidesDockOnAllDisplays().value()},
-           {"launchAtLoginEnabled", model.launchAtLoginEnabled().value()},
-           {"launchAtLoginRequiresApproval", model.launchAtLoginRequiresApproval().value()},
-           {"launchAtLoginErrorMessage", valueOrNull(model.launchAtLoginErrorMessage().value())},
-           {"status", nameOf(model.status())}};
+  const OrvaneSnapshot now = application.snapshot();
+  shown = {
+      {"selectedDisplayID", valueOrNull(now.selectedDisplayID)},
+      {"hasAccessibilityPermission", now.hasAccessibilityPermission},
+      {"isTemporarilyUnlocked", now.isTemporarilyUnlocked},
+      {"lastRestoreSucceeded", valueOrNull(now.lastRestoreSucceeded)},
+      {"lastCheckedAt", secondsSinceLaunch(now.lastCheckedAt, application.launchedAtNanoseconds())},
+      {"appLanguage", now.appLanguage.rawValue()},
+      {"temporaryUnlockModifier", now.temporaryUnlockModifier.rawValue()},
+      {"hidesDockOnAllDisplays", now.hidesDockOnAllDisplays},
+      {"launchAtLoginEnabled", now.launchAtLoginEnabled},
+      {"launchAtLoginRequiresApproval", now.launchAtLoginRequiresApproval},
+      {"launchAtLoginErrorMessage", valueOrNull(now.launchAtLoginErrorMessage)},
+      {"status", nameOf(now.status)}};
+  return std::nullopt;
+}
+
+Complaint lookAtGuide(ScriptContext& context, const std::string&, Json& shown) {
+  const auto guide = context.application().snapshot().guide;
+  shown = {
+      {"state", nameOf(guide.state)}, {"visible", guide.isVisible}, {"polling", guide.isPolling}};
   return std::nullopt;
 }
 
@@ -128,6 +143,7 @@ Complaint lookAtModel(ScriptContext& context, const std::string&, Json& shown) {
 void addApplicationThings(ThingTable& table) {
   table.add({.name = "displays", .look = lookAtDisplays});
   table.add({.name = "guard", .look = lookAtGuard});
+  table.add({.name = "guide", .look = lookAtGuide});
   table.add({.name = "messages", .look = lookAtMessages});
   table.add({.name = "model", .look = lookAtModel});
 }

@@ -3,7 +3,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "desk/script/JsonText.hpp"
 #include "desk/script/MenuSnapshot.hpp"
 #include "desk/script/Things.hpp"
@@ -108,31 +107,6 @@ Complaint lookAtIcon(ScriptContext&, const std::string&, Json& shown) {
   return std::nullopt;
 }
 
-const char* nameOf(PermissionGuideState state) {
-  switch (state) {
-    case PermissionGuideState::checking:
-      return "checking";
-    case PermissionGuideState::success:
-      return "success";
-    case PermissionGuideState::timeout:
-      return "timeout";
-  }
-  return "";
-}
-
-Complaint lookAtGuide(ScriptContext&, const std::string&, Json& shown) {
-  shown["state"] = nameOf(PermissionGuideState::checking);
-  shown["visible"] = false;
-  shown["polling"] = false;
-  if (OrvanePermissionGuideWindowController::sharedExists()) {
-    const auto& guide = OrvanePermissionGuideWindowController::shared();
-    shown["state"] = nameOf(guide.viewModel().state.value());
-    shown["visible"] = guide.panel().isVisible();
-    shown["polling"] = guide.isPolling();
-  }
-  return std::nullopt;
-}
-
 Complaint lookAtTooltip(ScriptContext&, const std::string&, Json& shown) {
   const auto& tooltip = WindowServer::current().tooltips.shown();
   shown["text"] = tooltip ? Json(tooltip->text) : Json(nullptr);
@@ -151,7 +125,6 @@ void addWindowThings(ThingTable& table) {
   table.add({.name = "tree", .parameter = "SURFACE", .look = lookAtTree});
   table.add({.name = "menu", .look = lookAtMenu});
   table.add({.name = "icon", .look = lookAtIcon});
-  table.add({.name = "guide", .look = lookAtGuide});
   table.add({.name = "announcements", .look = lookAtAnnouncements});
   table.add({.name = "tooltip", .look = lookAtTooltip});
 }

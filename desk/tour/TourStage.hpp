@@ -24,7 +24,8 @@ class TourStage {
 
   [[nodiscard]] Machine& machine() { return scope_.machine(); }
   [[nodiscard]] ApplicationHost& application() { return application_; }
-  [[nodiscard]] OrvaneModel& model() { return application_.model(); }
+  /// The application as it is now.
+  [[nodiscard]] OrvaneSnapshot seen() const { return application_.snapshot(); }
 
   /// The hand moves the pointer to the place in small movements, which take half a second.
   void walkTo(CGPoint place);

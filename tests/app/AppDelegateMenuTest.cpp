@@ -262,11 +262,11 @@ TEST_F(AppDelegateMenuTest, PinningAndPreventingExcludeEachOther) {
     ASSERT_TRUE(press("Pin Dock"));
     EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | on");
     EXPECT_EQ(row("Prevent Dock Pop-Up"), "eye.slash | Prevent Dock Pop-Up | off");
-    EXPECT_EQ(model().guardService().cachedTriggerZones().size(), 1U);
+    EXPECT_EQ(application.snapshot().guard.zones.size(), 1U);
     ASSERT_TRUE(press("Prevent Dock Pop-Up"));
     EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | off");
     EXPECT_EQ(row("Prevent Dock Pop-Up"), "eye.slash | Prevent Dock Pop-Up | on");
-    EXPECT_EQ(model().guardService().cachedTriggerZones().size(), 2U);
+    EXPECT_EQ(application.snapshot().guard.zones.size(), 2U);
     EXPECT_EQ(icon(), "lock.fill");
   }
 }
@@ -282,13 +282,13 @@ TEST_F(AppDelegateMenuTest, ALoginItemThatCannotBeRegisteredStaysOff) {
 TEST_F(AppDelegateMenuTest, ChoosingADisplayWhilePinnedMovesMarkAndGuardAtOnce) {
   beginWithOpenMenu();
   ASSERT_TRUE(press("Pin Dock"));
-  ASSERT_DOUBLE_EQ(model().guardService().cachedTriggerZones().at(0).rect.origin.x, 1920);
+  ASSERT_DOUBLE_EQ(application.snapshot().guard.zones.at(0).rect.origin.x, 1920);
   ASSERT_TRUE(press("Studio"));
   EXPECT_FALSE(isOpen());
   EXPECT_EQ(row("Studio"), "display | Studio | selected");
   EXPECT_EQ(row("Display (Main)"), "display | Display (Main)");
-  ASSERT_EQ(model().guardService().cachedTriggerZones().size(), 1U);
-  EXPECT_DOUBLE_EQ(model().guardService().cachedTriggerZones()[0].rect.origin.x, 0);
+  ASSERT_EQ(application.snapshot().guard.zones.size(), 1U);
+  EXPECT_DOUBLE_EQ(application.snapshot().guard.zones[0].rect.origin.x, 0);
 }
 
 TEST_F(AppDelegateMenuTest, ASwitchWaitsForThePermissionAndTheGuard) {

@@ -52,7 +52,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsMadeOncePlacedAndNotShown)
   guide();
   expectOrigin(1280, 313);
   EXPECT_FALSE(isGuideVisible());
-  EXPECT_FALSE(guide().isPolling());
+  EXPECT_FALSE(guide().snapshot().isPolling);
   const appkit::Window panel = guide().panel();
   show();
   guide().close();
@@ -93,7 +93,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAllTheS
   EXPECT_FALSE(machine.displays.detach(2));
   show();
   EXPECT_TRUE(isGuideVisible());
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, ItLooksOnceASecondFromTheFirstSecondOn) {
@@ -104,7 +104,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItLooksOnceASecondFromTheFirst
   machine.advance(0.001);
   EXPECT_EQ(state(), State::success);
   EXPECT_EQ(granted, "a");
-  EXPECT_FALSE(guide().isPolling());
+  EXPECT_FALSE(guide().snapshot().isPolling);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, MoreThanTenSecondsAreATimeOutAndItGoesOnLooking) {
@@ -115,7 +115,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, MoreThanTenSecondsAreATimeOutA
   EXPECT_EQ(state(), State::timeout);
   machine.advance(100);
   EXPECT_EQ(state(), State::timeout);
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, AGrantAfterTheTimeOutIsASuccessAndCallsBackOnce) {
@@ -151,7 +151,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, AnOldSuccessDoesNotCloseTheGui
   machine.advance(0.5);
   // A second and a half after the first success.
   EXPECT_TRUE(isGuideVisible());
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
   machine.advance(0.5);
   EXPECT_EQ(granted, "ab") << "the second request is answered, too";
   machine.advance(1.499);
@@ -195,7 +195,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest,
   guide().show([this] {
     granted += 'a';
     EXPECT_EQ(state(), State::success);
-    EXPECT_FALSE(guide().isPolling());
+    EXPECT_FALSE(guide().snapshot().isPolling);
     EXPECT_TRUE(isGuideVisible());
   });
   grant();
@@ -212,7 +212,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ACallbackThatShowsTheGuideAgai
   machine.advance(1);
   EXPECT_EQ(granted, "a");
   EXPECT_EQ(state(), State::checking);
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
   machine.permission.setTrusted(false);
   machine.advance(1.5);
   EXPECT_TRUE(isGuideVisible()) << "the first success does not close it";
@@ -227,7 +227,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsLookingAndForgetsT
   const std::size_t timers = machine.runLoop.timerCount();
   guide().close();
   EXPECT_EQ(machine.runLoop.timerCount(), timers - 1);
-  EXPECT_FALSE(guide().isPolling());
+  EXPECT_FALSE(guide().snapshot().isPolling);
   EXPECT_FALSE(isGuideVisible());
   grant();
   machine.advance(30);
@@ -312,7 +312,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItsBackgroundMovesItAndItsTwoB
     expectOrigin(1310, 293);
     press(button, "guide");
     EXPECT_FALSE(isGuideVisible());
-    EXPECT_FALSE(guide().isPolling());
+    EXPECT_FALSE(guide().snapshot().isPolling);
     moveTo({20, 200});
   }
 }

@@ -29,10 +29,9 @@ class PermissionFlow : public desk::HandFixture {
     return OrvanePermissionGuideWindowController::shared();
   }
   [[nodiscard]] bool isGuideVisible() const {
-    return OrvanePermissionGuideWindowController::sharedExists() &&
-           OrvanePermissionGuideWindowController::shared().panel().isVisible();
+    return OrvanePermissionGuideWindowController::snapshot().isVisible;
   }
-  PermissionGuideState state() { return guide().viewModel().state.value(); }
+  PermissionGuideState state() { return guide().snapshot().state; }
 
   /// A check whose callback adds `name` to what was granted.
   void check(char name) {

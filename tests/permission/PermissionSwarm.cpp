@@ -7,18 +7,11 @@
 
 #include "Orvane/app/OrvaneAppState.hpp"
 #include "Orvane/permission/OrvaneAccessibilityPermission.hpp"
-#include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "Orvane/windows/OrvaneWindowController.hpp"
 #include "desk/hand/Hand.hpp"
 #include "tests/support/TestDisplays.hpp"
 
 namespace orvane {
-
-namespace {
-
-using Guide = OrvanePermissionGuideWindowController;
-
-}  // namespace
 
 PermissionSwarm::PermissionSwarm()
     : server_(desk::WindowServer::current()), application_(machine_) {
@@ -208,15 +201,13 @@ std::optional<std::string> PermissionSwarm::complaint() const {
       return "callback " + std::to_string(index) + " was called twice";
     }
   }
-  if (Guide::sharedExists()) {
-    const Guide& guide = Guide::shared();
-    const bool hasSucceeded = guide.viewModel().state.value() == PermissionGuideState::success;
-    if (guide.isPolling() && (!guide.panel().isVisible() || hasSucceeded)) {
-      return "the guide looks for the permission without need";
-    }
-    if (guide.panel().isVisible() && !guide.isPolling() && !hasSucceeded) {
-      return "the guide is shown and does not look for the permission";
-    }
+  const auto guide = application_.snapshot().guide;
+  const bool isNeeded = guide.isVisible && guide.state != PermissionGuideState::success;
+  if (guide.isPolling && !isNeeded) {
+    return "the guide looks for the permission without need";
+  }
+  if (isNeeded && !guide.isPolling) {
+    return "the guide is shown and does not look for the permission";
   }
   return std::nullopt;
 }

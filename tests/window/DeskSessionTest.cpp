@@ -33,7 +33,7 @@ TEST_F(DeskSessionTest, LetsTheDockFollowThePointerUntilItIsPinned) {
   pinOrUnpin();
   pressRightDisplay(30);
   EXPECT_EQ(dockDisplay(), 1U);
-  EXPECT_EQ(session.application().model().guardService().blockedCount(), 30);
+  EXPECT_EQ(session.application().snapshot().guard.blockedCount, 30);
 }
 
 TEST_F(DeskSessionTest, MarksAMovementThatWasMovedBackForAShortTime) {
