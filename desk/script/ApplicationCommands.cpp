@@ -73,12 +73,8 @@ Complaint doOperation(ScriptContext& context, Arguments& arguments) {
   const std::string name = arguments.text("OPERATION");
   const auto found = operations().all().find(name);
   if (found == operations().all().end()) {
-    std::string known;
-    for (const auto& [operationName, operation] : operations().all()) {
-      known += known.empty() ? "" : ", ";
-      known += operationName;
-    }
-    arguments.complain("there is no operation \"" + name + "\", only " + known);
+    arguments.complain("there is no operation \"" + name + "\", only " +
+                       namesIn(operations().all()));
     return arguments.finish();
   }
   return context.application().isRunning() ? found->second.run(context, arguments)

@@ -13,8 +13,6 @@ namespace orvane::desk::script {
 
 namespace {
 
-constexpr std::array<std::string_view, 2> offAndOn = {"off", "on"};
-
 /// A long text is shown by its beginning only.
 std::string inQuotes(std::string_view text) {
   constexpr std::size_t shownBytes = 60;
@@ -70,12 +68,13 @@ std::string Arguments::text(std::string_view what) {
 
 double Arguments::number(std::string_view what) {
   const Word* const word = take(what);
-  if (word == nullptr) {
-    return 0;
-  }
-  const std::optional<double> value = parseDecimal(word->text);
+  return word != nullptr ? checkedNumber(what, word->text) : 0;
+}
+
+double Arguments::checkedNumber(std::string_view what, std::string_view text) {
+  const std::optional<double> value = parseDecimal(text);
   if (!value) {
-    complain(std::string(what) + " must be a decimal number, not " + inQuotes(word->text));
+    complain(std::string(what) + " must be a decimal number, not " + inQuotes(text));
   }
   return value.value_or(0);
 }
@@ -86,13 +85,11 @@ double Arguments::coordinate(std::string_view what) {
 }
 
 double Arguments::checkedCoordinate(std::string_view what, std::string_view text) {
-  const std::optional<double> value = parseDecimal(text);
-  if (!value) {
-    complain(std::string(what) + " must be a decimal number, not " + inQuotes(text));
-  } else if (std::abs(*value) > coordinateLimit) {
+  const double value = checkedNumber(what, text);
+  if (std::abs(value) > coordinateLimit) {
     complain(std::string(what) + " is too large: " + inQuotes(text));
   }
-  return value.value_or(0);
+  return value;
 }
 
 std::uint32_t Arguments::displayNumber(std::string_view what) {
@@ -102,16 +99,18 @@ std::uint32_t Arguments::displayNumber(std::string_view what) {
 
 std::int64_t Arguments::integer(std::string_view what, std::int64_t lowest, std::int64_t highest) {
   const Word* const word = take(what);
-  if (word == nullptr) {
-    return lowest;
+  return word != nullptr ? checkedInteger(what, word->text, lowest, highest) : lowest;
+}
+
+std::int64_t Arguments::checkedInteger(std::string_view what, std::string_view text,
+                                       std::int64_t lowest, std::int64_t highest) {
+  const std::optional<std::int64_t> value = parseInteger(text);
+  if (value && *value >= lowest && *value <= highest) {
+    return *value;
   }
-  const std::optional<std::int64_t> value = parseInteger(word->text);
-  if (!value || *value < lowest || *value > highest) {
-    complain(std::string(what) + " must be a whole number from " + std::to_string(lowest) + " to " +
-             std::to_string(highest) + ", not " + inQuotes(word->text));
-    return lowest;
-  }
-  return *value;
+  complain(std::string(what) + " must be a whole number from " + std::to_string(lowest) + " to " +
+           std::to_string(highest) + ", not " + inQuotes(text));
+  return lowest;
 }
 
 std::int64_t Arguments::nanoseconds(std::string_view what, std::int64_t highest) {
@@ -150,10 +149,6 @@ std::array<double, 4> Arguments::parseRectangle(std::string_view what, std::stri
   return numbers;
 }
 
-bool Arguments::onOff(std::string_view what) {
-  return choice(what, offAndOn) == 1;
-}
-
 std::size_t Arguments::choice(std::string_view what, std::span<const std::string_view> choices) {
   const Word* const word = take(what);
   if (word == nullptr) {
@@ -181,6 +176,12 @@ std::optional<std::string> Arguments::option(std::string_view key) {
     }
   }
   return std::nullopt;
+}
+
+std::optional<std::int64_t> Arguments::integerOption(std::string_view key, std::int64_t lowest,
+                                                     std::int64_t highest) {
+  const std::optional<std::string> value = option(key);
+  return value ? std::optional(checkedInteger(key, *value, lowest, highest)) : std::nullopt;
 }
 
 std::array<double, 4> Arguments::rectangleOption(std::string_view key) {

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "desk/script/Command.hpp"
-#include "desk/script/Word.hpp"
+#include "desk/script/Lexer.hpp"
 
 namespace orvane::desk::script {
 

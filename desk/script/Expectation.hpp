@@ -8,7 +8,7 @@
 
 #include <nlohmann/json_fwd.hpp>
 
-#include "desk/script/Thing.hpp"
+#include "desk/script/ThingTable.hpp"
 
 namespace orvane::desk::script {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "desk/script/Utf8.hpp"
+#include "desk/quartz/Utf8.hpp"
 
 namespace orvane::desk::script {
 
@@ -21,12 +21,14 @@ bool isControl(char character) {
   return (byte < 0x20 && character != '\t') || byte == 0x7F;
 }
 
+/// Counted in characters.
 std::string atColumn(std::string_view line, std::size_t place) {
-  return " at column " + std::to_string(characterCount(line.substr(0, place)) + 1);
+  const auto begins = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; };
+  return " at column " + std::to_string(std::ranges::count_if(line.substr(0, place), begins) + 1);
 }
 
 Complaint complaintAboutBytes(std::string_view line) {
-  if (const auto place = findMalformedUtf8(line)) {
+  if (const auto place = Utf8::findInvalid(line)) {
     return "malformed UTF-8" + atColumn(line, *place);
   }
   const auto control = std::ranges::find_if(line, isControl);

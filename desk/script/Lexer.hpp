@@ -1,13 +1,26 @@
 // The lexer splits a line of a script into words.
 #pragma once
 
+#include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "desk/script/Complaint.hpp"
-#include "desk/script/Word.hpp"
 
 namespace orvane::desk::script {
+
+/// One word of a line.
+struct Word {
+  /// Without quotes, escapes replaced.
+  std::string text;
+  /// Where it stands in the line, in bytes; `end` is the place after it.
+  std::size_t begin = 0;
+  std::size_t end = 0;
+  /// An escape that the language does not know. A word that is read in another way, as JSON is, may
+  /// have one.
+  Complaint complaint;
+};
 
 struct LexedLine {
   /// Empty for an empty line and for one with nothing but a comment.

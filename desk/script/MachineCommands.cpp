@@ -21,26 +21,14 @@ CGRect rectOf(const std::array<double, 4>& numbers) {
   return CGRectMake(numbers[0], numbers[1], numbers[2], numbers[3]);
 }
 
-std::optional<int> bitsPerSample(Arguments& arguments, std::optional<int> unless) {
-  const std::optional<std::string> value = arguments.option("bits");
-  if (!value) {
-    return unless;
-  }
-  const Word word{.text = *value, .begin = 0, .end = 0, .complaint = {}};
-  Arguments one({&word, 1}, *value);
-  const std::int64_t bits = one.integer("bits", 0, mostBitsPerSample);
-  if (Complaint complaint = one.finish()) {
-    arguments.complain(*complaint);
-  }
-  return static_cast<int>(bits);
-}
-
 NewDisplay readDisplay(ScriptContext& /*context*/, Arguments& arguments) {
   Display display;
   display.frame = rectOf(arguments.rectangleOption("frame"));
   display.uuid = arguments.option("uuid");
   display.name = arguments.option("name").value_or("");
-  display.bitsPerSample = bitsPerSample(arguments, display.bitsPerSample);
+  if (const auto bits = arguments.integerOption("bits", 0, mostBitsPerSample)) {
+    display.bitsPerSample = static_cast<int>(*bits);
+  }
   if (std::optional<std::string> colorSpace = arguments.option("colorspace")) {
     display.colorSpace = std::move(colorSpace);
   }

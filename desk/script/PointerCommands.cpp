@@ -9,7 +9,7 @@
 #include "Orvane/guard/OrvaneModifier.hpp"
 #include "desk/script/Commands.hpp"
 #include "desk/script/JsonText.hpp"
-#include "desk/script/Thing.hpp"
+#include "desk/script/ThingTable.hpp"
 
 namespace orvane::desk::script {
 

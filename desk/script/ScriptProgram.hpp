@@ -7,8 +7,7 @@
 #include <vector>
 
 #include "desk/script/CommandTable.hpp"
-#include "desk/script/PictureWriter.hpp"
-#include "desk/script/ScriptLimits.hpp"
+#include "desk/script/ScriptContext.hpp"
 #include "desk/script/ThingTable.hpp"
 
 namespace orvane::desk::script {

@@ -13,36 +13,34 @@ namespace orvane::desk::script {
 
 namespace {
 
-std::optional<std::string> readSurface(Arguments& arguments) {
-  return arguments.keyword("in") ? std::optional(arguments.text("SURFACE")) : std::nullopt;
+/// Nothing, or "in" and its name.
+Parameter<std::optional<std::string>> surface(const std::string& usage) {
+  return {usage, [](ScriptContext&, Arguments& arguments) {
+            return arguments.keyword("in") ? std::optional(arguments.text("SURFACE"))
+                                           : std::nullopt;
+          }};
 }
 
-ControlName readControlName(ScriptContext& /*context*/, Arguments& arguments) {
-  constexpr std::int64_t greatestCount = 1000;
-  ControlName name;
-  name.label = arguments.text("\"LABEL\"");
-  name.surface = readSurface(arguments);
-  if (arguments.keyword("nth")) {
-    name.nth = arguments.integer("N", 1, greatestCount);
-  }
-  return name;
+/// Which of several, from 1.
+Parameter<std::int64_t> nth() {
+  return {"[nth N]", [](ScriptContext&, Arguments& arguments) {
+            constexpr std::int64_t greatestCount = 1000;
+            return arguments.keyword("nth") ? arguments.integer("N", 1, greatestCount) : 1;
+          }};
 }
 
-Parameter<ControlName> control() {
-  return {"\"LABEL\" [in SURFACE] [nth N]", readControlName};
+/// A command on the control of that label.
+auto onControl(Hand::Refusal (Hand::*action)(const ControlName&) const) {
+  return [action](Machine& machine, const std::string& label,
+                  const std::optional<std::string>& place, std::int64_t number) {
+    return (Hand(machine).*action)({label, place, number});
+  };
 }
 
-struct Picked {
-  ControlName name;
-  std::string item;
-};
-
-Picked readPicked(ScriptContext& /*context*/, Arguments& arguments) {
-  Picked picked;
-  picked.name.label = arguments.text("\"LABEL\"");
-  picked.item = arguments.text("\"ITEM\"");
-  picked.name.surface = readSurface(arguments);
-  return picked;
+/// A command on the window of that name.
+auto onWindow(Hand::Refusal (Hand::*action)(const std::string&) const) {
+  return
+      [action](Machine& machine, const std::string& name) { return (Hand(machine).*action)(name); };
 }
 
 ui::KeyEvent readKey(ScriptContext& context, Arguments& arguments) {
@@ -80,23 +78,19 @@ ui::KeyEvent readKey(ScriptContext& context, Arguments& arguments) {
 void addSurfaceCommands(CommandTable& table) {
   table.add("menu open", takes(), [](Machine& machine) { return Hand(machine).openStatusMenu(); });
   table.add("menu close", takes(), [](Machine&) { WindowServer::current().menus.close(); });
-  table.add("press", takes(control()),
-            [](Machine& machine, const ControlName& name) { return Hand(machine).press(name); });
-  table.add("hover", takes(control()),
-            [](Machine& machine, const ControlName& name) { return Hand(machine).hover(name); });
-  table.add("pick", takes(Parameter<Picked>{R"("LABEL" "ITEM" in SURFACE)", readPicked}),
-            [](Machine& machine, const Picked& picked) {
-              return Hand(machine).pick(picked.name, picked.item);
+  const auto control = takes(text("\"LABEL\""), surface("[in SURFACE]"), nth());
+  table.add("press", control, onControl(&Hand::press));
+  table.add("hover", control, onControl(&Hand::hover));
+  table.add("pick", takes(text("\"LABEL\""), text("\"ITEM\""), surface("in SURFACE")),
+            [](Machine& machine, const std::string& label, const std::string& item,
+               const std::optional<std::string>& place) {
+              return Hand(machine).pick({label, place}, item);
             });
-  table.add("close", takes(text("SURFACE")), [](Machine& machine, const std::string& surface) {
-    return Hand(machine).close(surface);
-  });
-  table.add("minimise", takes(text("SURFACE")), [](Machine& machine, const std::string& surface) {
-    return Hand(machine).minimise(surface);
-  });
+  table.add("close", takes(text("SURFACE")), onWindow(&Hand::close));
+  table.add("minimise", takes(text("SURFACE")), onWindow(&Hand::minimise));
   table.add("drag", takes(text("SURFACE"), coordinate("DX"), coordinate("DY")),
-            [](Machine& machine, const std::string& surface, double dx, double dy) {
-              return Hand(machine).dragWindow(surface, dx, dy);
+            [](Machine& machine, const std::string& name, double dx, double dy) {
+              return Hand(machine).dragWindow(name, dx, dy);
             });
   table.add("drop icon", takes(), [](Machine& machine) { return Hand(machine).dropIcon(); });
   table.add("click", takes(point()),

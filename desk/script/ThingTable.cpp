@@ -17,15 +17,6 @@ const Thing* ThingTable::find(std::string_view name) const {
   return found != things_.end() ? &found->second : nullptr;
 }
 
-std::string ThingTable::names() const {
-  std::string list;
-  for (const auto& [name, thing] : things_) {
-    list += list.empty() ? "" : ", ";
-    list += name;
-  }
-  return list;
-}
-
 ThingTable standardThings() {
   ThingTable table;
   addMachineThings(table);

@@ -20,12 +20,11 @@ struct Line {
 };
 
 TEST(ArgumentsTest, ReadsPositionalWordsInOrder) {
-  const Line line("7 -2.5 \"a b\" on");
+  const Line line("7 -2.5 \"a b\"");
   Arguments arguments = line.arguments();
   EXPECT_EQ(arguments.displayNumber("N"), 7U);
   EXPECT_EQ(arguments.coordinate("X"), -2.5);
   EXPECT_EQ(arguments.text("TEXT"), "a b");
-  EXPECT_TRUE(arguments.onOff("on|off"));
   EXPECT_TRUE(arguments.isEmpty());
   EXPECT_FALSE(arguments.finish());
 }
