@@ -222,8 +222,7 @@ TEST_F(AppDelegateMenuTest, ADisplayMoreOrLessLeavesTheOtherRowsWhereTheyAre) {
 TEST_F(AppDelegateMenuTest, WhatClosesTheMenuIsDoneWhenTheClickIsOver) {
   beginWithOpenMenu();
   moveTo(middleOf("Open Window"));
-  machine.mouse.pressButton();
-  machine.runDue();
+  hand.pressButton();
   machine.mouse.releaseButton();
   EXPECT_FALSE(isOpen());
   EXPECT_FALSE(desk::Surfaces(server()).isThere("main"));
@@ -382,11 +381,7 @@ TEST_F(AppDelegateMenuTest, HoveringHighlightsDisplaysAndActionsButNoSwitch) {
 TEST_F(AppDelegateMenuTest, AClickAnywhereOnARowRunsIt) {
   beginWithOpenMenu();
   for (const double x : {4.0, 204.0}) {
-    moveTo({server().menus.frame().origin.x + x, middleOf("Pin Dock").y});
-    machine.mouse.pressButton();
-    machine.runDue();
-    machine.mouse.releaseButton();
-    machine.runDue();
+    click({server().menus.frame().origin.x + x, middleOf("Pin Dock").y});
     EXPECT_EQ(row("Pin Dock"), x < 100 ? "lock | Pin Dock | on" : "lock | Pin Dock | off");
   }
 }
@@ -413,10 +408,7 @@ TEST_F(AppDelegateMenuTest, EscapeAndAClickOutsideCloseItAndChangeNothing) {
   key(ui::Key::escape);
   EXPECT_FALSE(isOpen());
   ASSERT_TRUE(openMenu());
-  moveTo({600, 600});
-  machine.mouse.pressButton();
-  machine.runDue();
-  machine.mouse.releaseButton();
+  click({600, 600});
   EXPECT_FALSE(isOpen());
   EXPECT_FALSE(model().isGuardRunning());
 }

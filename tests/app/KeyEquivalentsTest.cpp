@@ -80,8 +80,8 @@ TEST_F(KeyEquivalentsTest, AnAlertCanBeQuitButNotPassedOver) {
 TEST_F(KeyEquivalentsTest, OtherKeysMeanNothing) {
   application.reopen();
   EXPECT_FALSE(command("n"));
-  EXPECT_FALSE(server().keyDown({ui::Key::character, {}, "q"}));
-  EXPECT_FALSE(server().keyDown({ui::Key::character, {true, false, false, true}, "q"}));
+  EXPECT_FALSE(hand.key({ui::Key::character, {}, "q"}));
+  EXPECT_FALSE(hand.key({ui::Key::character, {true, false, false, true}, "q"}));
   machine.runDue();
   EXPECT_TRUE(application.isRunning());
 }

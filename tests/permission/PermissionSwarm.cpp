@@ -8,7 +8,6 @@
 #include "Orvane/app/OrvaneAppState.hpp"
 #include "Orvane/permission/OrvaneAccessibilityPermission.hpp"
 #include "Orvane/windows/OrvaneWindowController.hpp"
-#include "desk/hand/Hand.hpp"
 #include "tests/support/TestDisplays.hpp"
 
 namespace orvane {
@@ -35,7 +34,7 @@ std::size_t PermissionSwarm::visibleCount(const std::string& className) const {
 }
 
 bool PermissionSwarm::press(const std::string& surface, const std::string& label) {
-  return !desk::Hand(machine_).press({label, surface});
+  return !hand_.press({label, surface});
 }
 
 void PermissionSwarm::check() {
@@ -58,7 +57,7 @@ void PermissionSwarm::answerAlert(unsigned how) {
       break;
     case 2:
       server_.focus.clicked(alert);
-      server_.keyDown({ui::Key::escape, {}, {}});
+      hand_.key({ui::Key::escape, {}, {}});
       break;
     default:
       press("alert", "Open Privacy Settings");
@@ -85,14 +84,12 @@ void PermissionSwarm::dropIcon() {
   const CGPoint from = server_.topLeftOf(*guide);
   const CGPoint to = server_.topLeftOf(*settings);
   // The icon is in the middle, a little below.
-  machine_.mouse.moveTo({from.x + 180, from.y + 300});
-  machine_.mouse.pressButton();
-  machine_.runDue();
+  hand_.moveTo({from.x + 180, from.y + 300});
+  hand_.pressButton();
   machine_.mouse.moveBy(8, 8);
   machine_.runDue();
-  machine_.mouse.moveTo({to.x + list->x + 30, to.y + list->y + 10});
-  machine_.runDue();
-  machine_.mouse.releaseButton();
+  hand_.moveTo({to.x + list->x + 30, to.y + list->y + 10});
+  hand_.releaseButton();
 }
 
 void PermissionSwarm::changeDisplays() {
@@ -152,10 +149,7 @@ void PermissionSwarm::take(const SwarmStep& step) {
       }
       break;
     case SwarmAction::click:
-      machine_.mouse.moveTo({(step.how * 37) % 1920 + 0.0, (step.how * 91) % 1080 + 0.0});
-      machine_.mouse.pressButton();
-      machine_.runDue();
-      machine_.mouse.releaseButton();
+      hand_.click({(step.how * 37) % 1920 + 0.0, (step.how * 91) % 1080 + 0.0});
       break;
     case SwarmAction::changeDisplays:
       changeDisplays();
