@@ -15,7 +15,7 @@ constexpr const char* notRunning = "the application is not running";
 
 /// What is done to the application while it runs.
 auto whileRunning(void (ApplicationHost::*action)()) {
-  return [action](ScriptContext& context) -> Complaint {
+  return [action](ScriptContext& context) -> Problem {
     if (!context.application().isRunning()) {
       return notRunning;
     }
@@ -28,6 +28,7 @@ auto whileRunning(void (ApplicationHost::*action)()) {
 template <typename Type>
 Parameter<Type> oneOf() {
   std::vector<std::pair<std::string_view, Type>> values;
+  values.reserve(Type::allCases.size());
   for (const Type value : Type::allCases) {
     values.emplace_back(value.rawValue(), value);
   }
@@ -69,16 +70,15 @@ const CommandTable& operations() {
   return all;
 }
 
-Complaint doOperation(ScriptContext& context, Arguments& arguments) {
+Problem doOperation(ScriptContext& context, Arguments& arguments) {
   const std::string name = arguments.text("OPERATION");
   const auto found = operations().all().find(name);
   if (found == operations().all().end()) {
-    arguments.complain("there is no operation \"" + name + "\", only " +
-                       namesIn(operations().all()));
+    arguments.report("there is no operation \"" + name + "\", only " + namesIn(operations().all()));
     return arguments.finish();
   }
   return context.application().isRunning() ? found->second.run(context, arguments)
-                                           : Complaint(notRunning);
+                                           : Problem(notRunning);
 }
 
 }  // namespace

@@ -10,15 +10,15 @@
 #include <string_view>
 #include <vector>
 
-#include "desk/script/Complaint.hpp"
 #include "desk/script/Lexer.hpp"
+#include "desk/script/Problem.hpp"
 
 namespace orvane::desk::script {
 
 /// Reading goes on after a mistake, with a value that means nothing: only the first mistake is
 /// kept, and a command asks `finish` once before it does anything. Positional words are read from
 /// left to right; options ("key=value") and flags may stand anywhere among them. `what` names the
-/// argument in a complaint.
+/// argument in a message.
 class Arguments {
  public:
   /// Lengths and places that a script may use, in points: far beyond any desktop, and far from
@@ -65,15 +65,15 @@ class Arguments {
   std::string restAsText();
 
   /// For a mistake that only the command can see; kept when it is the first.
-  void complain(std::string complaint);
+  void report(std::string problem);
   /// The first mistake; a word that nobody read is one.
-  [[nodiscard]] Complaint finish();
+  [[nodiscard]] Problem finish();
   /// Whether there was a mistake so far.
-  [[nodiscard]] bool isWrong() const { return complaint_.has_value(); }
+  [[nodiscard]] bool isWrong() const { return problem_.has_value(); }
 
  private:
   [[nodiscard]] std::optional<std::size_t> next() const;
-  /// Null, and a complaint, when there is none.
+  /// Null, and a problem reported, when there is none.
   const Word* take(std::string_view what);
   std::array<double, 4> parseRectangle(std::string_view what, std::string_view text);
   double checkedNumber(std::string_view what, std::string_view text);
@@ -84,7 +84,7 @@ class Arguments {
   std::span<const Word> words_;
   std::string_view line_;
   std::vector<bool> isRead_;
-  Complaint complaint_;
+  Problem problem_;
 };
 
 /// The names of a table's entries, separated by commas.

@@ -23,7 +23,7 @@ class CommandTable {
     /// How many words its name has.
     std::size_t nameWords = 0;
     /// What is wrong when there is no such command.
-    Complaint complaint;
+    Problem problem;
   };
 
   /// A command of the same name is replaced.

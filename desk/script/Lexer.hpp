@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "desk/script/Complaint.hpp"
+#include "desk/script/Problem.hpp"
 
 namespace orvane::desk::script {
 
@@ -19,14 +19,14 @@ struct Word {
   std::size_t end = 0;
   /// An escape that the language does not know. A word that is read in another way, as JSON is, may
   /// have one.
-  Complaint complaint;
+  Problem problem;
 };
 
 struct LexedLine {
   /// Empty for an empty line and for one with nothing but a comment.
   std::vector<Word> words;
   /// When there is one, the words are not to be used.
-  Complaint complaint;
+  Problem problem;
 };
 
 /// `line` is one line without its line break. Words are separated by blanks and tabulators; what

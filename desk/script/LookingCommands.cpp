@@ -10,8 +10,8 @@
 #include "Orvane/platform/appkit/Screen.hpp"
 #include "desk/script/Commands.hpp"
 #include "desk/script/Expectation.hpp"
+#include "desk/script/InspectableTable.hpp"
 #include "desk/script/JsonText.hpp"
-#include "desk/script/ThingTable.hpp"
 
 namespace orvane::desk::script {
 
@@ -19,9 +19,9 @@ namespace {
 
 constexpr double greatestScale = 16;
 
-/// A thing, and what it is asked for.
+/// What to look at, and the word after it.
 struct Look {
-  const Thing* thing = nullptr;
+  const Inspectable* inspectable = nullptr;
   std::string argument;
 };
 
@@ -33,20 +33,21 @@ struct Expected {
   std::optional<Json> value;
 };
 
-/// Null, and a complaint, when there is no such thing.
-const Thing* findThing(const ScriptContext& context, const std::string& name,
-                       Arguments& arguments) {
-  const Thing* const thing = context.things.find(name);
-  if (thing == nullptr) {
-    arguments.complain("there is no \"" + name + "\" to look at, only " + context.things.names());
+/// Null, and a problem reported, when there is none of that name.
+const Inspectable* findInspectable(const ScriptContext& context, const std::string& name,
+                                   Arguments& arguments) {
+  const Inspectable* const inspectable = context.inspectables.find(name);
+  if (inspectable == nullptr) {
+    arguments.report("there is no \"" + name + "\" to look at, only " +
+                     context.inspectables.names());
   }
-  return thing;
+  return inspectable;
 }
 
 Look readLook(ScriptContext& context, Arguments& arguments) {
-  Look look{findThing(context, arguments.text("THING"), arguments), {}};
-  if (look.thing != nullptr && !look.thing->parameter.empty()) {
-    look.argument = arguments.text(look.thing->parameter);
+  Look look{findInspectable(context, arguments.text("THING"), arguments), {}};
+  if (look.inspectable != nullptr && !look.inspectable->parameter.empty()) {
+    look.argument = arguments.text(look.inspectable->parameter);
   }
   return look;
 }
@@ -57,19 +58,19 @@ Expected readExpected(ScriptContext& context, Arguments& arguments) {
   const std::string written(arguments.restAsWritten("VALUE"));
   expected.value = parseJson(written);
   if (!expected.value) {
-    arguments.complain("VALUE is not JSON: " + written + " (a text stands in double quotes)");
+    arguments.report("VALUE is not JSON: " + written + " (a text stands in double quotes)");
   }
   std::optional<std::vector<std::string>> parts = parsePath(expected.path);
   if (!parts) {
-    arguments.complain("\"" + expected.path + "\" is not a path");
+    arguments.report("\"" + expected.path + "\" is not a path");
     return expected;
   }
-  expected.look.thing = findThing(context, parts->front(), arguments);
+  expected.look.inspectable = findInspectable(context, parts->front(), arguments);
   parts->erase(parts->begin());
-  if (expected.look.thing != nullptr && !expected.look.thing->parameter.empty()) {
+  if (expected.look.inspectable != nullptr && !expected.look.inspectable->parameter.empty()) {
     if (parts->empty()) {
-      arguments.complain(expected.look.thing->parameter + " is missing after \"" + expected.path +
-                         ".\"");
+      arguments.report(expected.look.inspectable->parameter + " is missing after \"" +
+                       expected.path + ".\"");
       return expected;
     }
     expected.look.argument = std::move(parts->front());
@@ -90,27 +91,27 @@ PictureRequest readPictureRequest(ScriptContext& /*context*/, Arguments& argumen
   if (hasScale) {
     request.scale = arguments.number("S");
     if (!(request.scale > 0 && request.scale <= greatestScale)) {
-      arguments.complain("the scale must be greater than 0 and at most 16");
+      arguments.report("the scale must be greater than 0 and at most 16");
     }
   }
   return request;
 }
 
-Complaint show(ScriptContext& context, const Look& look) {
+Problem show(ScriptContext& context, const Look& look) {
   Json shown;
-  if (Complaint complaint = look.thing->look(context, look.argument, shown)) {
-    return complaint;
+  if (Problem problem = look.inspectable->look(context, look.argument, shown)) {
+    return problem;
   }
   context.output << jsonText(shown) << '\n';
   return std::nullopt;
 }
 
-Complaint expect(ScriptContext& context, const Expected& expected) {
+Problem expect(ScriptContext& context, const Expected& expected) {
   Json shown;
-  if (Complaint complaint = expected.look.thing->look(context, expected.look.argument, shown)) {
-    return complaint;
+  if (Problem problem = expected.look.inspectable->look(context, expected.look.argument, shown)) {
+    return problem;
   }
-  const std::optional<Json> got = valueAt(*expected.look.thing, shown, expected.place);
+  const std::optional<Json> got = valueAt(*expected.look.inspectable, shown, expected.place);
   if (!got || !isSameJson(*got, *expected.value)) {
     context.expectationFailed(failureText(expected.path, *expected.value, got));
   }
@@ -122,7 +123,7 @@ void find(ScriptContext& context, const std::string& identifier) {
   context.output << jsonText(Json{{"index", index ? Json(*index) : Json(nullptr)}}) << '\n';
 }
 
-Complaint picture(ScriptContext& context, const PictureRequest& request) {
+Problem picture(ScriptContext& context, const PictureRequest& request) {
   if (!context.limits.allowsFiles) {
     return "files must not be written";
   }

@@ -37,7 +37,7 @@ NewDisplay readDisplay(ScriptContext& /*context*/, Arguments& arguments) {
   const bool isMain = arguments.flag("main");
   display.number = arguments.displayNumber("N");
   if (display.uuid && display.uuid->empty()) {
-    arguments.complain("uuid must not be empty");
+    arguments.report("uuid must not be empty");
   }
   return {std::move(display), isMain};
 }

@@ -20,7 +20,7 @@ template <typename Value>
 struct Parameter {
   /// How it is written, for people: "X Y", "on|off".
   std::string usage;
-  /// Takes it from the arguments, which keep the first mistake.
+  /// Takes it from the arguments, which keep the first problem.
   std::function<Value(ScriptContext&, Arguments&)> read;
 };
 
@@ -30,13 +30,13 @@ template <typename... Values>
   return {std::move(parameters)...};
 }
 
-/// `name` is what a complaint calls the argument; without a usage, the usage too.
+/// `name` stands for the argument in messages and, without a usage, in the usage.
 [[nodiscard]] Parameter<std::string> text(std::string name, std::string usage = {});
 [[nodiscard]] Parameter<double> coordinate(const std::string& name);
 [[nodiscard]] Parameter<std::uint32_t> displayNumber(const std::string& name);
 /// "X Y", in global coordinates.
 [[nodiscard]] Parameter<CGPoint> point();
-/// One of the words; a complaint calls it by `name`, or by its usage.
+/// One of the words. `name` stands for it in messages; without one, the usage does.
 template <typename Value>
 [[nodiscard]] Parameter<Value> choice(const std::string& usage,
                                       std::vector<std::pair<std::string_view, Value>> values,
@@ -44,6 +44,7 @@ template <typename Value>
   return {usage, [name = name.empty() ? usage : name, values = std::move(values)](
                      ScriptContext&, Arguments& arguments) {
             std::vector<std::string_view> words;
+            words.reserve(values.size());
             for (const auto& [word, value] : values) {
               words.push_back(word);
             }

@@ -8,8 +8,8 @@
 
 #include "Orvane/guard/OrvaneModifier.hpp"
 #include "desk/script/Commands.hpp"
+#include "desk/script/InspectableTable.hpp"
 #include "desk/script/JsonText.hpp"
-#include "desk/script/ThingTable.hpp"
 
 namespace orvane::desk::script {
 
@@ -45,7 +45,7 @@ Parameter<Bits> modifiers() {
 Parameter<Bits> someModifiers() {
   return {"KEY...", [](ScriptContext& context, Arguments& arguments) {
             if (arguments.isEmpty()) {
-              arguments.complain("KEY is missing");
+              arguments.report("KEY is missing");
             }
             return readModifiers(context, arguments);
           }};
@@ -68,7 +68,7 @@ Push readPush(ScriptContext& context, Arguments& arguments) {
     const std::int64_t left = context.limits.clockNanoseconds - context.machine().clock.now();
     push.interval = arguments.nanoseconds("S", left);
     if (push.times > 1 && push.interval > left / (push.times - 1)) {
-      arguments.complain("that would take longer than the clock runs");
+      arguments.report("that would take longer than the clock runs");
     }
   }
   return push;

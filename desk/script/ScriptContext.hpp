@@ -8,12 +8,12 @@
 #include <string>
 
 #include "desk/machine/Clock.hpp"
-#include "desk/script/Complaint.hpp"
+#include "desk/script/Problem.hpp"
 #include "desk/script/Session.hpp"
 
 namespace orvane::desk::script {
 
-class ThingTable;
+class InspectableTable;
 
 /// How much one command may ask for.
 struct ScriptLimits {
@@ -35,13 +35,12 @@ struct PictureRequest {
 
 /// Draws what is to be seen on a machine into a PNG file. Says what was wrong: a surface that is
 /// not there, a file that cannot be written.
-using PictureWriter =
-    std::function<Complaint(const Session& session, const PictureRequest& request)>;
+using PictureWriter = std::function<Problem(const Session& session, const PictureRequest& request)>;
 
 struct ScriptContext {
   Session& session;
   /// What `show` knows to show.
-  const ThingTable& things;
+  const InspectableTable& inspectables;
   /// Where commands print.
   std::ostream& output;
   ScriptLimits limits;

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "desk/script/CommandTable.hpp"
+#include "desk/script/InspectableTable.hpp"
 #include "desk/script/ScriptContext.hpp"
-#include "desk/script/ThingTable.hpp"
 
 namespace orvane::desk::script {
 
@@ -26,7 +26,7 @@ class ScriptProgram {
 
   struct Settings {
     CommandTable commands = standardCommands();
-    ThingTable things = standardThings();
+    InspectableTable inspectables = standardInspectables();
     PictureWriter pictureWriter;
     ScriptLimits limits;
   };

@@ -67,8 +67,8 @@ ui::KeyEvent readKey(ScriptContext& context, Arguments& arguments) {
   }
   event.characters = name;
   if (name.size() != 1 || name.front() <= ' ' || name.front() >= 127) {
-    arguments.complain("there is no key \"" + name +
-                       "\", only escape, return, space, tab, left, right, up, down and characters");
+    arguments.report("there is no key \"" + name +
+                     "\", only escape, return, space, tab, left, right, up, down and characters");
   }
   return event;
 }

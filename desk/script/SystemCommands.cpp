@@ -28,7 +28,7 @@ struct Languages {
 Languages readLanguages(ScriptContext& /*context*/, Arguments& arguments) {
   Languages languages{arguments.option("preferred"), arguments.option("current")};
   if (!languages.preferred && !languages.current) {
-    arguments.complain("preferred=A,B,... or current=C is missing");
+    arguments.report("preferred=A,B,... or current=C is missing");
   }
   return languages;
 }
@@ -52,14 +52,14 @@ Appearance::Accent readAccent(ScriptContext& /*context*/, Arguments& arguments) 
   const std::vector<std::string> parts = splitAtCommas(arguments.text("R,G,B"));
   std::vector<Word> words;
   std::ranges::transform(parts, std::back_inserter(words), [](const std::string& part) {
-    return Word{.text = part, .begin = 0, .end = 0, .complaint = {}};
+    return Word{.text = part, .begin = 0, .end = 0, .problem = {}};
   });
   Arguments numbers(words, {});
   const auto red = static_cast<std::uint8_t>(numbers.integer("R", 0, 255));
   const auto green = static_cast<std::uint8_t>(numbers.integer("G", 0, 255));
   const auto blue = static_cast<std::uint8_t>(numbers.integer("B", 0, 255));
-  if (Complaint complaint = numbers.finish()) {
-    arguments.complain(*complaint);
+  if (Problem problem = numbers.finish()) {
+    arguments.report(*problem);
   }
   return {red, green, blue};
 }

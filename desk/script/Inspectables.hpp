@@ -1,15 +1,15 @@
 // What a script can look at, in groups.
 #pragma once
 
-#include "desk/script/ThingTable.hpp"
+#include "desk/script/InspectableTable.hpp"
 
 namespace orvane::desk::script {
 
 /// The machine itself.
-void addMachineThings(ThingTable& table);
+void addMachineInspectables(InspectableTable& table);
 /// The application, as it is inside.
-void addApplicationThings(ThingTable& table);
+void addApplicationInspectables(InspectableTable& table);
 /// What the window server shows.
-void addWindowThings(ThingTable& table);
+void addWindowInspectables(InspectableTable& table);
 
 }  // namespace orvane::desk::script

@@ -1,13 +1,12 @@
 // What a script can look at of the machine itself.
 #include <optional>
 #include <string>
-#include <utility>
 #include <variant>
 
 #include <nlohmann/json.hpp>
 
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
-#include "desk/script/Things.hpp"
 
 namespace orvane::desk::script {
 
@@ -79,8 +78,8 @@ Json countersOf(const Machine& machine) {
           {"liveObjects", machine.objects.liveCount()}};
 }
 
-Thing::Look lookAt(Json (*snapshot)(const Machine&)) {
-  return [snapshot](ScriptContext& context, const std::string&, Json& shown) -> Complaint {
+Inspectable::Look lookAt(Json (*snapshot)(const Machine&)) {
+  return [snapshot](ScriptContext& context, const std::string&, Json& shown) -> Problem {
     shown = snapshot(context.machine());
     return std::nullopt;
   };
@@ -88,7 +87,7 @@ Thing::Look lookAt(Json (*snapshot)(const Machine&)) {
 
 }  // namespace
 
-void addMachineThings(ThingTable& table) {
+void addMachineInspectables(InspectableTable& table) {
   table.add({.name = "dock", .look = lookAt(dockOf), .countingMember = "reveals"});
   table.add({.name = "pointer", .look = lookAt(pointerOf)});
   table.add({.name = "opened", .look = lookAt(openedOf)});

@@ -3,9 +3,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
 #include "desk/script/MenuSnapshot.hpp"
-#include "desk/script/Things.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -49,7 +49,7 @@ Json windowSnapshot(const WindowServer& server, const DeskWindow& window) {
   return shown;
 }
 
-Complaint lookAtWindows(ScriptContext&, const std::string&, Json& shown) {
+Problem lookAtWindows(ScriptContext&, const std::string&, Json& shown) {
   shown = Json::array();
   const WindowServer& server = WindowServer::current();
   for (const auto& window : server.windows()) {
@@ -75,7 +75,7 @@ Json treeSnapshot(const ui::SemanticsNode& node) {
   return shown;
 }
 
-Complaint lookAtTree(ScriptContext&, const std::string& surface, Json& shown) {
+Problem lookAtTree(ScriptContext&, const std::string& surface, Json& shown) {
   const auto tree = Surfaces(WindowServer::current()).tree(surface);
   if (!tree) {
     return "there is no surface \"" + surface + "\"";
@@ -84,19 +84,18 @@ Complaint lookAtTree(ScriptContext&, const std::string& surface, Json& shown) {
   return std::nullopt;
 }
 
-Complaint lookAtMenu(ScriptContext&, const std::string&, Json& shown) {
+Problem lookAtMenu(ScriptContext&, const std::string&, Json& shown) {
   shown = statusMenuSnapshot(WindowServer::current());
   return std::nullopt;
 }
 
-Complaint lookAtIcon(ScriptContext&, const std::string&, Json& shown) {
+Problem lookAtIcon(ScriptContext&, const std::string&, Json& shown) {
   const StatusBarItem* const item = WindowServer::current().statusBar.item();
   const SymbolImage* const image = item != nullptr ? item->image.get() : nullptr;
-  shown["symbol"] = nullptr;
-  shown["accessibilityDescription"] = nullptr;
-  shown["template"] = nullptr;
-  shown["size"] = nullptr;
-  shown["pointSize"] = nullptr;
+  for (const char* const key :
+       {"symbol", "accessibilityDescription", "template", "size", "pointSize"}) {
+    shown[key] = nullptr;
+  }
   if (image != nullptr) {
     shown["symbol"] = image->name;
     shown["accessibilityDescription"] = image->accessibilityDescription;
@@ -107,20 +106,20 @@ Complaint lookAtIcon(ScriptContext&, const std::string&, Json& shown) {
   return std::nullopt;
 }
 
-Complaint lookAtTooltip(ScriptContext&, const std::string&, Json& shown) {
+Problem lookAtTooltip(ScriptContext&, const std::string&, Json& shown) {
   const auto& tooltip = WindowServer::current().tooltips.shown();
   shown["text"] = tooltip ? Json(tooltip->text) : Json(nullptr);
   return std::nullopt;
 }
 
-Complaint lookAtAnnouncements(ScriptContext&, const std::string&, Json& shown) {
+Problem lookAtAnnouncements(ScriptContext&, const std::string&, Json& shown) {
   shown = WindowServer::current().announcements;
   return std::nullopt;
 }
 
 }  // namespace
 
-void addWindowThings(ThingTable& table) {
+void addWindowInspectables(InspectableTable& table) {
   table.add({.name = "windows", .look = lookAtWindows});
   table.add({.name = "tree", .parameter = "SURFACE", .look = lookAtTree});
   table.add({.name = "menu", .look = lookAtMenu});

@@ -7,8 +7,8 @@
 
 #include "Orvane/geometry/DisplaySnapshot.hpp"
 #include "Orvane/guard/DockMouseGuard.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
-#include "desk/script/Things.hpp"
 
 namespace orvane::desk::script {
 
@@ -68,7 +68,7 @@ double secondsSinceLaunch(CFAbsoluteTime moment, std::int64_t launchedAtNanoseco
 }
 
 /// As the application sees them at this moment, whether it runs or not.
-Complaint lookAtDisplays(ScriptContext&, const std::string&, Json& shown) {
+Problem lookAtDisplays(ScriptContext&, const std::string&, Json& shown) {
   shown = Json::array();
   for (const DisplaySnapshot& display : DockMouseGuard::displays()) {
     shown.push_back(Json{{"id", display.id},
@@ -83,7 +83,7 @@ Complaint lookAtDisplays(ScriptContext&, const std::string&, Json& shown) {
 }
 
 /// While the application does not run, what a new guard says.
-Complaint lookAtGuard(ScriptContext& context, const std::string&, Json& shown) {
+Problem lookAtGuard(ScriptContext& context, const std::string&, Json& shown) {
   const GuardSnapshot guard = context.application().snapshot().guard;
   const EventTaps& taps = context.machine().eventTaps;
   shown = {{"running", guard.isRunning},
@@ -99,7 +99,7 @@ Complaint lookAtGuard(ScriptContext& context, const std::string&, Json& shown) {
   return std::nullopt;
 }
 
-Complaint lookAtMessages(ScriptContext& context, const std::string&, Json& shown) {
+Problem lookAtMessages(ScriptContext& context, const std::string&, Json& shown) {
   constexpr std::int64_t mediaStart = Clock::mediaSecondsAtStart * Clock::nanosecondsPerSecond;
   shown = Json::array();
   for (const GuardMessage& message : context.application().messages()) {
@@ -109,7 +109,7 @@ Complaint lookAtMessages(ScriptContext& context, const std::string&, Json& shown
   return std::nullopt;
 }
 
-Complaint lookAtModel(ScriptContext& context, const std::string&, Json& shown) {
+Problem lookAtModel(ScriptContext& context, const std::string&, Json& shown) {
   const ApplicationHost& application = context.application();
   if (!application.isRunning()) {
     return "the application is not running";
@@ -131,7 +131,7 @@ Complaint lookAtModel(ScriptContext& context, const std::string&, Json& shown) {
   return std::nullopt;
 }
 
-Complaint lookAtGuide(ScriptContext& context, const std::string&, Json& shown) {
+Problem lookAtGuide(ScriptContext& context, const std::string&, Json& shown) {
   const auto guide = context.application().snapshot().guide;
   shown = {
       {"state", nameOf(guide.state)}, {"visible", guide.isVisible}, {"polling", guide.isPolling}};
@@ -140,7 +140,7 @@ Complaint lookAtGuide(ScriptContext& context, const std::string&, Json& shown) {
 
 }  // namespace
 
-void addApplicationThings(ThingTable& table) {
+void addApplicationInspectables(InspectableTable& table) {
   table.add({.name = "displays", .look = lookAtDisplays});
   table.add({.name = "guard", .look = lookAtGuard});
   table.add({.name = "guide", .look = lookAtGuide});
