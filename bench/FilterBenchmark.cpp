@@ -50,7 +50,8 @@ void filterUnlocked(benchmark::State& state) {
 void bareMiss(benchmark::State& state) {
   GuardedDesk desk(zoneCount(state));
   std::vector<BareZone> zones;
-  for (const TriggerZone& zone : desk.guard().cachedTriggerZones()) {
+  const GuardSnapshot guard = desk.guard().snapshot();
+  for (const TriggerZone& zone : guard.zones) {
     zones.push_back({CGRectGetMinX(zone.rect), CGRectGetMinY(zone.rect), CGRectGetMaxX(zone.rect),
                      CGRectGetMaxY(zone.rect), zone.nudgeVector.dx, zone.nudgeVector.dy});
   }

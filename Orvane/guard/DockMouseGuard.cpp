@@ -53,6 +53,18 @@ void DockMouseGuard::start(const std::string& targetDisplayID, OrvaneModifier mo
   announceRunning();
 }
 
+GuardSnapshot DockMouseGuard::snapshot() const {
+  return {.isRunning = isRunning(),
+          .isObservingScreens = screenObserver_.has_value(),
+          .zones = cachedTriggerZones_,
+          .lockedDisplayIdentifier = lockedDisplayIdentifier_,
+          .overrideModifier = overrideModifier_,
+          .blocksAllDisplays = blocksAllDisplays_,
+          .isTemporarilyUnlocked = isTemporarilyUnlocked_,
+          .blockedCount = blockedCount_,
+          .recentBlockCount = recentBlockTimestamps_.size()};
+}
+
 void DockMouseGuard::stop() {
   removeEventTap();
   stopObservingScreens();

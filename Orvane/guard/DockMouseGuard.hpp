@@ -16,6 +16,7 @@
 #include "Orvane/base/Lifetime.hpp"
 #include "Orvane/geometry/DisplaySnapshot.hpp"
 #include "Orvane/geometry/TriggerZone.hpp"
+#include "Orvane/guard/GuardSnapshot.hpp"
 #include "Orvane/guard/OrvaneModifier.hpp"
 #include "Orvane/guard/RecentBlockTimestamps.hpp"
 #include "Orvane/platform/Quartz.hpp"
@@ -59,22 +60,7 @@ class DockMouseGuard {
   [[nodiscard]] CFMachPortRef eventTap() const { return eventTap_.get(); }
   /// Whether there are zones to guard but the system refused the last tap.
   [[nodiscard]] bool isTapRefused() const { return !eventTap_ && !cachedTriggerZones_.empty(); }
-  /// In global display coordinates, in the order in which they are matched.
-  [[nodiscard]] const std::vector<TriggerZone>& cachedTriggerZones() const {
-    return cachedTriggerZones_;
-  }
-  [[nodiscard]] bool isObservingScreens() const { return screenObserver_.has_value(); }
-  [[nodiscard]] const std::string& lockedDisplayIdentifier() const {
-    return lockedDisplayIdentifier_;
-  }
-  [[nodiscard]] OrvaneModifier overrideModifier() const { return overrideModifier_; }
-  [[nodiscard]] bool blocksAllDisplays() const { return blocksAllDisplays_; }
-  /// Events blocked since the guard was created.
-  [[nodiscard]] std::int64_t blockedCount() const { return blockedCount_; }
-  [[nodiscard]] bool isTemporarilyUnlocked() const { return isTemporarilyUnlocked_; }
-  [[nodiscard]] const RecentBlockTimestamps& recentBlockTimestamps() const {
-    return recentBlockTimestamps_;
-  }
+  [[nodiscard]] GuardSnapshot snapshot() const;
 
   /// The attached displays in the system's order.
   [[nodiscard]] static std::vector<DisplaySnapshot> displays();

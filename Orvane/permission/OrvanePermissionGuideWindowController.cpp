@@ -77,7 +77,7 @@ std::optional<Screen> screenForTheGuide() {
 OrvanePermissionGuideWindowController::OrvanePermissionGuideWindowController()
     : panel_(makeGuidePanel()) {
   appkit::HostingView view([this](const ui::Environment& /*environment*/) -> ui::View {
-    return OrvanePermissionGuideView{.state = viewModel_.state.value(),
+    return OrvanePermissionGuideView{.state = state_,
                                      .onClose = lifetime_.whileAlive([this] { close(); })};
   });
   panel_.setContentView(view);
@@ -88,8 +88,12 @@ OrvanePermissionGuideWindowController& OrvanePermissionGuideWindowController::sh
   return sharedController().get();
 }
 
-bool OrvanePermissionGuideWindowController::sharedExists() {
-  return sharedController().exists();
+OrvanePermissionGuideWindowController::Snapshot OrvanePermissionGuideWindowController::snapshot() {
+  if (!sharedController().exists()) {
+    return {};
+  }
+  const OrvanePermissionGuideWindowController& guide = shared();
+  return {guide.state_, guide.panel_.isVisible(), guide.checkTimer_.has_value()};
 }
 
 void OrvanePermissionGuideWindowController::show(std::function<void()> onGranted) {
@@ -103,7 +107,7 @@ void OrvanePermissionGuideWindowController::show(std::function<void()> onGranted
 }
 
 void OrvanePermissionGuideWindowController::setState(PermissionGuideState state) {
-  viewModel_.state.set(state);
+  state_ = state;
   // Even in the same state: the language of the texts may have changed.
   if (auto view = panel_.contentView()) {
     view->setNeedsUpdate();

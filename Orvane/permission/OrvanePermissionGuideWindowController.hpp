@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "Orvane/base/Lifetime.hpp"
-#include "Orvane/base/Published.hpp"
 #include "Orvane/permission/PermissionGuideState.hpp"
 #include "Orvane/platform/Quartz.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
@@ -17,9 +16,12 @@ namespace orvane {
 /// Main thread only.
 class OrvanePermissionGuideWindowController {
  public:
-  /// What the guide's view shows.
-  struct ViewModel {
-    Published<PermissionGuideState> state{PermissionGuideState::checking};
+  /// The guide at one moment; without more said, one that has not been shown.
+  struct Snapshot {
+    PermissionGuideState state = PermissionGuideState::checking;
+    bool isVisible = false;
+    /// It looks for the permission.
+    bool isPolling = false;
   };
 
   /// In points.
@@ -29,8 +31,8 @@ class OrvanePermissionGuideWindowController {
 
   /// The process's only controller, created with its panel on first use.
   static OrvanePermissionGuideWindowController& shared();
-  /// Whether shared() has been called in this process.
-  static bool sharedExists();
+  /// Of the process's only controller; creates none.
+  [[nodiscard]] static Snapshot snapshot();
 
   /// Shows the guide, again if need be, and starts polling for the permission. `onGranted` replaces
   /// an earlier callback and is called once, when the permission is detected; the guide closes
@@ -39,8 +41,6 @@ class OrvanePermissionGuideWindowController {
   /// Closes the guide, stops polling and drops `onGranted`.
   void close();
 
-  [[nodiscard]] const ViewModel& viewModel() const { return viewModel_; }
-  [[nodiscard]] bool isPolling() const { return checkTimer_.has_value(); }
   [[nodiscard]] const appkit::Window& panel() const { return panel_; }
 
  private:
@@ -50,7 +50,7 @@ class OrvanePermissionGuideWindowController {
   void check();
   void handleSuccess();
 
-  ViewModel viewModel_;
+  PermissionGuideState state_ = PermissionGuideState::checking;
   appkit::Window panel_;
   std::optional<appkit::Timer> checkTimer_;
   std::optional<CFAbsoluteTime> startTime_;

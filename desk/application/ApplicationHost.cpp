@@ -46,6 +46,10 @@ void ApplicationHost::crash() {
   machine_.process.end();
 }
 
+OrvaneSnapshot ApplicationHost::snapshot() const {
+  return isRunning() ? OrvaneSnapshot::current() : OrvaneSnapshot{};
+}
+
 OrvaneModel& ApplicationHost::model() const {
   require(isRunning(), "the application is not running");
   return OrvaneAppState::model();

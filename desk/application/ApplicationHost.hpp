@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "Orvane/app/OrvaneSnapshot.hpp"
 #include "Orvane/model/OrvaneModel.hpp"
 #include "desk/machine/Machine.hpp"
 #include "desk/settings/SystemSettings.hpp"
@@ -36,7 +37,9 @@ class ApplicationHost {
 
   [[nodiscard]] SystemSettings& systemSettings() const { return systemSettings_; }
   [[nodiscard]] bool isRunning() const { return machine_.process.isRunning(); }
-  /// The application must be running.
+  /// What the application is and shows; also while it does not run.
+  [[nodiscard]] OrvaneSnapshot snapshot() const;
+  /// To operate it; it must be running.
   [[nodiscard]] OrvaneModel& model() const;
   /// Every message since the last launch.
   [[nodiscard]] const std::vector<GuardMessage>& messages() const { return messages_; }

@@ -48,8 +48,8 @@ TEST_F(DockMouseGuardAllocationTest, AMissAllocatesNothing) {
 
 TEST_F(DockMouseGuardAllocationTest, AHitAllocatesNothing) {
   EXPECT_EQ(takenFor(178, kCGEventMouseMoved, inTheZone), 0U);
-  EXPECT_EQ(guard->recentBlockTimestamps().size(), 179U);
-  EXPECT_EQ(guard->blockedCount(), 179);
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 179U);
+  EXPECT_EQ(guard->snapshot().blockedCount, 179);
 }
 
 TEST_F(DockMouseGuardAllocationTest, AHitThatDiscardsOldBlocksAllocatesNothing) {

@@ -32,7 +32,7 @@ TEST_F(DockMouseGuardDisplayChangeTest, AnAbsentTargetGivesNoZonesUntilItComes) 
   EXPECT_EQ(takeMessages(), Messages{noZones});
   expectWaiting();
   desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
+  EXPECT_EQ(guard->snapshot().zones, (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
   EXPECT_EQ(takeMessages(), Messages{"Mouse guard started. Trigger zones: 2"});
 }
 
@@ -41,8 +41,8 @@ TEST_F(DockMouseGuardDisplayChangeTest, ATapThatIsRefusedIsTriedAgainWhenTheDisp
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
   EXPECT_EQ(takeMessages(), Messages{tapWasRefused});
   EXPECT_FALSE(guard->isRunning());
-  EXPECT_TRUE(guard->isObservingScreens());
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor}) << "nothing else changes";
+  EXPECT_TRUE(guard->snapshot().isObservingScreens);
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor}) << "nothing else changes";
   EXPECT_EQ(machine.runLoop.sources().size(), 0U);
 
   desk::attach(machine, desk::monitorAbove());
@@ -98,7 +98,7 @@ TEST_F(DockMouseGuardDisplayChangeTest, ATargetWithANewNumberIsStillTheTarget) {
   startPinned();
   ASSERT_EQ(machine.displays.renumber(1, 44), std::nullopt);
   expectGuarding();
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor});
   EXPECT_EQ(takeMessages(), Messages{});
 }
 
@@ -115,7 +115,7 @@ TEST_F(DockMouseGuardDisplayChangeTest, AnInstalledTapIsKeptAndSeesTheNewZones) 
   const CFMachPortRef tap = guard->eventTap();
   ASSERT_EQ(machine.displays.setFrame(2, {{1920, 0}, {1000, 600}}), std::nullopt);
   EXPECT_EQ(guard->eventTap(), tap);
-  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{{{{1920, 1068}, {1000, 12}}, {0, -12}}}));
+  EXPECT_EQ(guard->snapshot().zones, (Zones{{{{1920, 1068}, {1000, 12}}, {0, -12}}}));
   EXPECT_EQ(outcomeOf({2500, 1075}), (CGPoint{2500, 1063}));
   EXPECT_EQ(outcomeOf({3000, 1075}), (CGPoint{3000, 1075}));
   machine.runDue();
@@ -126,9 +126,9 @@ TEST_F(DockMouseGuardDisplayChangeTest, AChangeOfTheDocksEdgeIsSeenAtOnce) {
   startPinned();
   desk::setDockOrientation(machine, "right");
   EXPECT_EQ(takeMessages(), Messages{}) << "the tap is kept";
-  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}}));
+  EXPECT_EQ(guard->snapshot().zones, (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}}));
   desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(guard->cachedTriggerZones(),
+  EXPECT_EQ(guard->snapshot().zones,
             (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}, {{{1908, -1080}, {12, 1080}}, {-12, 0}}}));
 }
 
@@ -151,7 +151,7 @@ TEST_F(DockMouseGuardDisplayChangeTest, AfterAShutOffTheGuardIsBackAsSoonAsTheDo
       EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
     }
     expectGuarding();
-    EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
+    EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor});
   }
 }
 
@@ -173,7 +173,7 @@ TEST_F(DockMouseGuardDisplayChangeTest, WhenAllDisplaysAreBlockedUnpluggingOneOn
   takeMessages();
   desk::detach(machine, 1);
   expectGuarding();
-  EXPECT_EQ(guard->cachedTriggerZones().size(), 1U);
+  EXPECT_EQ(guard->snapshot().zones.size(), 1U);
   EXPECT_EQ(takeMessages(), Messages{});
   desk::detach(machine, 2);
   EXPECT_EQ(takeMessages(), Messages{});

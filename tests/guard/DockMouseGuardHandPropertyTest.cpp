@@ -82,7 +82,7 @@ void setUp(desk::Machine& machine, Cursor cursor) {
 
 void expectNothingLost(const desk::Machine& machine, const std::optional<DockMouseGuard>& guard) {
   RC_ASSERT(machine.counters.droppedEvents == 0);
-  RC_ASSERT(guard->isRunning() == !guard->cachedTriggerZones().empty());
+  RC_ASSERT(guard->isRunning() == !guard->snapshot().zones.empty());
 }
 
 void pinAndMove(Cursor cursor) {

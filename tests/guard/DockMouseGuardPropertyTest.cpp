@@ -56,7 +56,7 @@ RC_GTEST_PROP(DockMouseGuardProperty, EventsLeaveTheZoneThatMovedThemAndOthersAr
   guard->start("1", OrvaneModifier::option, blocksAll);
   machine.runDue();
 
-  const std::vector<TriggerZone> zones = guard->cachedTriggerZones();
+  const std::vector<TriggerZone> zones = guard->snapshot().zones;
   std::int64_t blocked = 0;
   for (int count = 0; count < 30; ++count) {
     // Around a zone when there is one, in 64ths of a point.
@@ -80,7 +80,7 @@ RC_GTEST_PROP(DockMouseGuardProperty, EventsLeaveTheZoneThatMovedThemAndOthersAr
     RC_ASSERT(!isInside(hit->rect, outcome));
     RC_ASSERT(outcome == (CGPoint{place.x + hit->nudgeVector.dx, place.y + hit->nudgeVector.dy}));
   }
-  RC_ASSERT(guard->blockedCount() == blocked);
+  RC_ASSERT(guard->snapshot().blockedCount == blocked);
   guard.reset();
   RC_ASSERT(scope.end().isClean());
 }

@@ -125,7 +125,7 @@ TEST_F(DockMouseGuardTapTest, AStartBeforeTheCleanUpOfAShutOffKeepsItsTap) {
   machine.runLoop.releaseMainQueue();
   machine.runDue();
   expectGuarding();
-  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty()) << "the next block is the first again";
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 0U) << "the next block is the first again";
 }
 
 TEST_F(DockMouseGuardTapTest, ANoticeFromTheSystemDoesNotEnableATapThatIsShutOff) {

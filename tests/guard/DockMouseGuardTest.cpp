@@ -16,12 +16,12 @@ class DockMouseGuardTest : public GuardLifeFixture {};
 
 TEST_F(DockMouseGuardTest, ANewGuardIsIdle) {
   expectIdle();
-  EXPECT_EQ(guard->lockedDisplayIdentifier(), "");
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::option);
-  EXPECT_FALSE(guard->blocksAllDisplays());
-  EXPECT_EQ(guard->blockedCount(), 0);
-  EXPECT_FALSE(guard->isTemporarilyUnlocked());
-  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty());
+  EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, "");
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::option);
+  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
+  EXPECT_EQ(guard->snapshot().blockedCount, 0);
+  EXPECT_FALSE(guard->snapshot().isTemporarilyUnlocked);
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 0U);
   EXPECT_FALSE(DockMouseGuard().onEvent);
   EXPECT_FALSE(DockMouseGuard().onTemporaryUnlockChanged);
 }
@@ -29,24 +29,24 @@ TEST_F(DockMouseGuardTest, ANewGuardIsIdle) {
 TEST_F(DockMouseGuardTest, StartingGuardsEveryDisplayButTheTarget) {
   guard->start(desk::uuidNamed('A'), OrvaneModifier::control, false);
   expectGuarding();
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
-  EXPECT_EQ(guard->lockedDisplayIdentifier(), desk::uuidNamed('A'));
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::control);
-  EXPECT_FALSE(guard->blocksAllDisplays());
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor});
+  EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::control);
+  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
   EXPECT_EQ(messages, Messages{}) << "reported on the main queue only";
   EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
 TEST_F(DockMouseGuardTest, BlockingAllDisplaysGuardsEachOfThem) {
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
-  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
+  EXPECT_EQ(guard->snapshot().zones, (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
   EXPECT_EQ(takeMessages(), Messages{"Mouse guard started. Trigger zones: 2"});
 }
 
 TEST_F(DockMouseGuardTest, BlockingAllDisplaysGuardsASingleOneAndNeedsNoTarget) {
   desk::detach(machine, 2);
   guard->start("", OrvaneModifier::option, true);
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheLaptop});
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheLaptop});
   EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
@@ -55,7 +55,7 @@ TEST_F(DockMouseGuardTest, TheTargetIsFoundByAnyOfItsIdentifiers) {
        {"1", "00000000-0000-4000-8000-00000000000A",
         "Optional(1)-1920.0-1080.0-Optional(8)-Optional(\"NSCalibratedRGBColorSpace\")"}) {
     guard->start(identifier, OrvaneModifier::option, false);
-    EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor}) << identifier;
+    EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor}) << identifier;
   }
 }
 
@@ -103,9 +103,9 @@ TEST_F(DockMouseGuardTest, WithoutPermissionAStartOnlyReportsIt) {
   machine.permission.setTrusted(false);
   guard->start(desk::uuidNamed('A'), OrvaneModifier::command, true);
   expectIdle();
-  EXPECT_EQ(guard->lockedDisplayIdentifier(), "");
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::option);
-  EXPECT_FALSE(guard->blocksAllDisplays());
+  EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, "");
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::option);
+  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
   EXPECT_EQ(takeMessages(), Messages{notTrusted});
 }
 
@@ -115,10 +115,10 @@ TEST_F(DockMouseGuardTest, WithoutPermissionARunningGuardKeepsItsEarlierSettings
   machine.permission.setTrusted(false);
   guard->start(desk::uuidNamed('B'), OrvaneModifier::shift, true);
   EXPECT_EQ(guard->eventTap(), tap);
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
-  EXPECT_EQ(guard->lockedDisplayIdentifier(), desk::uuidNamed('A'));
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::control);
-  EXPECT_FALSE(guard->blocksAllDisplays());
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor});
+  EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::control);
+  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
   EXPECT_EQ(takeMessages(), Messages{notTrusted});
 }
 
@@ -145,8 +145,8 @@ TEST_F(DockMouseGuardTest, TwoStartsInARowLeaveOneTapAndOneObserver) {
   startPinned();
   guard->start(desk::uuidNamed('B'), OrvaneModifier::shift, false);
   expectGuarding();
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheLaptop});
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::shift);
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheLaptop});
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::shift);
   EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
@@ -162,8 +162,8 @@ TEST_F(DockMouseGuardTest, StoppingLeavesTheGuardIdle) {
   block();
   guard->stop();
   expectIdle();
-  EXPECT_FALSE(guard->blocksAllDisplays());
-  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty());
+  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 0U);
   EXPECT_EQ(outcomeOf(inTheZone), inTheZone);
 }
 
@@ -178,9 +178,9 @@ TEST_F(DockMouseGuardTest, StoppingKeepsTargetModifierAndTotal) {
   startPinned(OrvaneModifier::command);
   block(3);
   guard->stop();
-  EXPECT_EQ(guard->lockedDisplayIdentifier(), desk::uuidNamed('A'));
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::command);
-  EXPECT_EQ(guard->blockedCount(), 3);
+  EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::command);
+  EXPECT_EQ(guard->snapshot().blockedCount, 3);
   startPinned();
   block();
   EXPECT_EQ(takeMessages(), Messages{"Blocked Dock trigger 4 times"})
@@ -201,7 +201,7 @@ TEST_F(DockMouseGuardTest, StoppingWhileUnlockedReportsTheEndOnce) {
   outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
   machine.runDue();
   guard->stop();
-  EXPECT_FALSE(guard->isTemporarilyUnlocked());
+  EXPECT_FALSE(guard->snapshot().isTemporarilyUnlocked);
   guard->stop();
   machine.runDue();
   EXPECT_EQ(unlocks, (Unlocks{true, false}));
@@ -219,7 +219,7 @@ TEST_F(DockMouseGuardTest, ARestartWhileUnlockedReportsNothing) {
   startPinned();
   outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
   startPinned();
-  EXPECT_TRUE(guard->isTemporarilyUnlocked());
+  EXPECT_TRUE(guard->snapshot().isTemporarilyUnlocked);
   EXPECT_EQ(unlocks, Unlocks{true});
 }
 

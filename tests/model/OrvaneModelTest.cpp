@@ -162,7 +162,7 @@ TEST_F(OrvaneModelTest, SelectingAnotherDisplayStoresItAndRestartsPinning) {
   EXPECT_EQ(writesOf([&] { model->selectDisplay(desk::uuidNamed('B')); }),
             (Writes{{"selectedDisplayID", 1}}));
   EXPECT_EQ(stored("selectedDisplayID"), Value(desk::uuidNamed('B')));
-  EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), desk::uuidNamed('B'));
+  EXPECT_EQ(model->guardService().snapshot().lockedDisplayIdentifier, desk::uuidNamed('B'));
   EXPECT_TRUE(model->isGuardRunning());
   EXPECT_FALSE(hasTap(1));
 }
@@ -177,7 +177,7 @@ TEST_F(OrvaneModelTest, InPreventModeASelectionDoesNotTouchTheGuard) {
   launchPreventing();
   model->selectDisplay(desk::uuidNamed('B'));
   EXPECT_TRUE(hasTap(1));
-  EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), desk::uuidNamed('A'));
+  EXPECT_EQ(model->guardService().snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
 }
 
 TEST_F(OrvaneModelTest, SelectingADetachedDisplayStopsPinningButKeepsTheChoice) {
@@ -188,7 +188,7 @@ TEST_F(OrvaneModelTest, SelectingADetachedDisplayStopsPinningButKeepsTheChoice) 
   EXPECT_EQ(writesOf([&] { model->selectDisplay("unplugged"); }),
             (Writes{{"selectedDisplayID", 1}}));
   EXPECT_FALSE(model->isGuardRunning());
-  EXPECT_FALSE(model->guardService().isObservingScreens());
+  EXPECT_FALSE(model->guardService().snapshot().isObservingScreens);
   EXPECT_FALSE(model->isTemporarilyUnlocked().value());
   EXPECT_EQ(model->lastCheckedAt().value(), checked);
   EXPECT_EQ(stored("isOrvaneEnabled"), Value(true));
@@ -200,7 +200,7 @@ TEST_F(OrvaneModelTest, SettingTheModifierStoresItAndRestartsTheGuard) {
   EXPECT_EQ(writesOf([&] { model->setTemporaryUnlockModifier(OrvaneModifier::shift); }),
             (Writes{{"temporaryUnlockModifier", 1}}));
   EXPECT_EQ(stored("temporaryUnlockModifier"), Value("shift"));
-  EXPECT_EQ(model->guardService().overrideModifier(), OrvaneModifier::shift);
+  EXPECT_EQ(model->guardService().snapshot().overrideModifier, OrvaneModifier::shift);
   EXPECT_FALSE(hasTap(1));
   EXPECT_EQ(model->lastCheckedAt().value(), now());
 }
@@ -222,12 +222,13 @@ TEST_F(OrvaneModelTest, EveryAssignmentOfASettingIsWritten) {
 TEST_F(OrvaneModelTest, SettingPreventModeRestartsARunningGuardWhenThePermissionIsKnown) {
   launchPinned();
   model->setHidesDockOnAllDisplays(true);
-  EXPECT_TRUE(model->guardService().blocksAllDisplays());
+  EXPECT_TRUE(model->guardService().snapshot().blocksAllDisplays);
   EXPECT_EQ(stored("hidesDockOnAllDisplays"), Value(true));
   machine.permission.setTrusted(false);
   model->refreshPermission();
   model->setHidesDockOnAllDisplays(false);
-  EXPECT_TRUE(model->guardService().blocksAllDisplays()) << "not restarted without permission";
+  EXPECT_TRUE(model->guardService().snapshot().blocksAllDisplays)
+      << "not restarted without permission";
   EXPECT_EQ(stored("hidesDockOnAllDisplays"), Value(false));
 }
 

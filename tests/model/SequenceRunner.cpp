@@ -306,15 +306,14 @@ std::string SequenceRunner::seen() {
   out << std::setprecision(17);
   if (machine().process.isRunning()) {
     const OrvaneModel& real = model();
-    const DockMouseGuard& guard = real.guardService();
+    const GuardSnapshot guard = real.guardService().snapshot();
     out << "status " << static_cast<int>(real.status()) << " running " << real.isGuardRunning()
-        << " observing " << guard.isObservingScreens() << "\nworking taps "
+        << " observing " << guard.isObservingScreens << "\nworking taps "
         << machine().eventTaps.aliveCount() << " enabled " << machine().eventTaps.isAnyEnabled()
-        << "\ntarget " << guard.lockedDisplayIdentifier() << " modifier "
-        << guard.overrideModifier().rawValue() << " blocks all " << guard.blocksAllDisplays()
-        << " blocked " << guard.blockedCount() << " recently "
-        << guard.recentBlockTimestamps().size() << "\nzones";
-    for (const TriggerZone& zone : guard.cachedTriggerZones()) {
+        << "\ntarget " << guard.lockedDisplayIdentifier << " modifier "
+        << guard.overrideModifier.rawValue() << " blocks all " << guard.blocksAllDisplays
+        << " blocked " << guard.blockedCount << " recently " << guard.recentBlockCount << "\nzones";
+    for (const TriggerZone& zone : guard.zones) {
       describeZone(out, zone.rect, zone.nudgeVector);
     }
     out << "\nselected " << real.selectedDisplayID().value().value_or("none") << " displays";
@@ -322,7 +321,7 @@ std::string SequenceRunner::seen() {
       out << " " << display.id;
     }
     out << "\npermission " << real.hasAccessibilityPermission().value() << " unlocked "
-        << real.isTemporarilyUnlocked().value() << " " << guard.isTemporarilyUnlocked()
+        << real.isTemporarilyUnlocked().value() << " " << guard.isTemporarilyUnlocked
         << " prevents " << real.hidesDockOnAllDisplays().value() << " modifier "
         << real.temporaryUnlockModifier().value().rawValue() << " language "
         << real.appLanguage().value().rawValue() << "\nchecked " << real.lastCheckedAt().value()

@@ -176,12 +176,9 @@ TEST_F(OrvanePermissionAlertTest, TheEndOfTheProcessEndsTheAlertSilently) {
 
 TEST_F(OrvanePermissionAlertTest, TheFlowCanBeWalkedWithTheMouseAlone) {
   const auto click = [this](const std::string& label, const std::string& surface) {
-    for (const desk::SurfaceControl& control : desk::Surfaces(server()).controls(surface)) {
-      if (control.node.label == label) {
-        pressAt({CGRectGetMidX(control.frame), CGRectGetMidY(control.frame)});
-        release();
-      }
-    }
+    const auto control = hand.control(label, surface);
+    ASSERT_TRUE(control) << label;
+    hand.click({CGRectGetMidX(control->frame), CGRectGetMidY(control->frame)});
   };
   check('a');
   click("Open Privacy Settings", "alert");

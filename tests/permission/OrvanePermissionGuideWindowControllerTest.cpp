@@ -53,7 +53,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsMadeOncePlacedAndNotShown)
   guide();
   expectOrigin(1280, 313);
   EXPECT_FALSE(isGuideVisible());
-  EXPECT_FALSE(guide().isPolling());
+  EXPECT_FALSE(guide().snapshot().isPolling);
   const appkit::Window panel = guide().panel();
   show();
   guide().close();
@@ -94,7 +94,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAnyway)
   EXPECT_FALSE(machine.displays.detach(2));
   show();
   EXPECT_TRUE(isGuideVisible());
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, ItLooksOnceASecondFromTheFirstSecondOn) {
@@ -105,7 +105,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItLooksOnceASecondFromTheFirst
   machine.advance(0.001);
   EXPECT_EQ(state(), State::success);
   EXPECT_EQ(granted, "a");
-  EXPECT_FALSE(guide().isPolling());
+  EXPECT_FALSE(guide().snapshot().isPolling);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, MoreThanTenSecondsAreATimeOutAndItGoesOnLooking) {
@@ -116,7 +116,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, MoreThanTenSecondsAreATimeOutA
   EXPECT_EQ(state(), State::timeout);
   machine.advance(100);
   EXPECT_EQ(state(), State::timeout);
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, AGrantAfterTheTimeOutIsASuccessAndCallsBackOnce) {
@@ -152,7 +152,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, AnOldSuccessDoesNotCloseTheGui
   machine.advance(0.5);
   // A second and a half after the first success.
   EXPECT_TRUE(isGuideVisible());
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
   machine.advance(0.5);
   EXPECT_EQ(granted, "ab") << "the second request is answered, too";
   machine.advance(1.499);
@@ -196,7 +196,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest,
   guide().show([this] {
     granted += 'a';
     EXPECT_EQ(state(), State::success);
-    EXPECT_FALSE(guide().isPolling());
+    EXPECT_FALSE(guide().snapshot().isPolling);
     EXPECT_TRUE(isGuideVisible());
   });
   grant();
@@ -213,7 +213,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ACallbackThatShowsTheGuideAgai
   machine.advance(1);
   EXPECT_EQ(granted, "a");
   EXPECT_EQ(state(), State::checking);
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
   machine.permission.setTrusted(false);
   machine.advance(1.5);
   EXPECT_TRUE(isGuideVisible()) << "the first success does not close it";
@@ -228,7 +228,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsLookingAndForgetsT
   const std::size_t timers = machine.runLoop.timerCount();
   guide().close();
   EXPECT_EQ(machine.runLoop.timerCount(), timers - 1);
-  EXPECT_FALSE(guide().isPolling());
+  EXPECT_FALSE(guide().snapshot().isPolling);
   EXPECT_FALSE(isGuideVisible());
   grant();
   machine.advance(30);
@@ -313,7 +313,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItsBackgroundMovesItAndItsTwoB
     expectOrigin(1310, 293);
     press(button, "guide");
     EXPECT_FALSE(isGuideVisible());
-    EXPECT_FALSE(guide().isPolling());
+    EXPECT_FALSE(guide().snapshot().isPolling);
     moveTo({20, 200});
   }
 }

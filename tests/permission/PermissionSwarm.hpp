@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "desk/application/ApplicationHost.hpp"
+#include "desk/hand/Hand.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -69,6 +70,7 @@ class PermissionSwarm {
 
   desk::MachineScope scope_;
   desk::Machine& machine_ = scope_.machine();
+  desk::Hand hand_{machine_};
   desk::WindowServer& server_;
   desk::ApplicationHost application_;
   /// How often each check's callback was called.

@@ -1,5 +1,5 @@
-// MachineFixture gives each test its own machine with a running process, and checks at the end that
-// no Core Foundation object was leaked or misused.
+// MachineFixture gives each test its own machine, with a running process unless it wants none, and
+// checks at the end that no Core Foundation object was leaked or misused.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -26,7 +26,13 @@ class MachineFixture : public testing::Test {
   MachineScope scope_;
 
  protected:
-  MachineFixture() { machine.process.start(); }
+  enum class Process { running, none };
+
+  explicit MachineFixture(Process process = Process::running) {
+    if (process == Process::running) {
+      machine.process.start();
+    }
+  }
 
   Machine& machine = scope_.machine();
 };

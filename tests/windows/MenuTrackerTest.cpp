@@ -249,8 +249,7 @@ TEST_F(MenuTrackerTest, TypingFindsTheNextItemThatBeginsSo) {
   add(disabled);
   clickItem();
   const auto type = [&](const std::string& characters) {
-    server().keyDown({ui::Key::character, {}, characters});
-    machine.runDue();
+    hand.key({ui::Key::character, {}, characters});
   };
   type("p");
   EXPECT_EQ(server().menus.highlighted(), 0U);

@@ -14,15 +14,13 @@
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
 #include "desk/windows/Implementations.hpp"
-#include "desk/windows/Surfaces.hpp"
-#include "desk/windows/WindowServer.hpp"
-#include "tests/support/MachineFixture.hpp"
+#include "tests/support/HandFixture.hpp"
 
 namespace orvane::desk {
 
 /// Two displays of 1000 by 800 points side by side; the pointer is at rest in a corner of the
 /// second one.
-class WindowFixture : public MachineFixture {
+class WindowFixture : public HandFixture {
  protected:
   WindowFixture() {
     Display left;
@@ -35,8 +33,6 @@ class WindowFixture : public MachineFixture {
     EXPECT_FALSE(machine.displays.attach(right));
     machine.mouse.moveTo({1990, 400});
   }
-
-  WindowServer& server() { return WindowServer::current(); }
 
   /// A window of 200 by 100 points at `origin`, in window-system coordinates. It can become key.
   static appkit::Window makeWindow(CGPoint origin, const std::string& name = "NSWindow",
@@ -67,33 +63,9 @@ class WindowFixture : public MachineFixture {
     return names;
   }
 
-  void moveTo(CGPoint place) {
-    machine.mouse.moveTo(place);
-    machine.runDue();
-  }
   void press(CGPoint place) {
-    moveTo(place);
-    machine.mouse.pressButton();
-    machine.runDue();
-  }
-  void release() {
-    machine.mouse.releaseButton();
-    machine.runDue();
-  }
-  void click(CGPoint place) {
-    press(place);
-    release();
-  }
-  bool key(ui::Key name) {
-    const bool isTaken = server().keyDown({name, {}, {}});
-    machine.runDue();
-    return isTaken;
-  }
-  bool command(const std::string& character) {
-    const bool isTaken =
-        server().keyDown({ui::Key::character, {false, false, false, true}, character});
-    machine.runDue();
-    return isTaken;
+    hand.moveTo(place);
+    hand.pressButton();
   }
 
  private:

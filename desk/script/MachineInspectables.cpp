@@ -1,12 +1,14 @@
-// The machine's state as JSON.
+// What a script can look at of the machine itself.
+#include <optional>
+#include <string>
 #include <variant>
 
 #include <nlohmann/json.hpp>
 
-#include "desk/script/JsonSnapshots.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
 
-namespace orvane::desk::script::JsonSnapshots {
+namespace orvane::desk::script {
 
 namespace {
 
@@ -14,13 +16,7 @@ Json numberOrNull(const std::optional<std::uint32_t>& number) {
   return number ? Json(*number) : Json(nullptr);
 }
 
-}  // namespace
-
-Json rectangle(const CGRect& rect) {
-  return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
-}
-
-Json dock(const Machine& machine) {
+Json dockOf(const Machine& machine) {
   Json reveals = Json::object();
   for (const auto& [number, count] : machine.dock.reveals()) {
     reveals[std::to_string(number)] = count;
@@ -32,7 +28,7 @@ Json dock(const Machine& machine) {
           {"reveals", reveals}};
 }
 
-Json pointer(const Machine& machine) {
+Json pointerOf(const Machine& machine) {
   const CGPoint place = machine.pointer.place();
   const std::optional<std::size_t> index = machine.pointer.displayIndex();
   return {{"x", place.x},
@@ -40,7 +36,7 @@ Json pointer(const Machine& machine) {
           {"display", index ? Json(machine.displays.all()[*index].number) : Json(nullptr)}};
 }
 
-Json opened(const Machine& machine) {
+Json openedOf(const Machine& machine) {
   Json list = Json::array();
   for (const Links::Opened& link : machine.links.opened()) {
     list.push_back(Json{{"url", link.url}, {"accepted", link.wasAccepted}});
@@ -48,7 +44,7 @@ Json opened(const Machine& machine) {
   return list;
 }
 
-Json clock(const Machine& machine) {
+Json clockOf(const Machine& machine) {
   const std::int64_t now = machine.clock.now();
   constexpr std::int64_t calendarStart =
       Clock::calendarSecondsAtStart * Clock::nanosecondsPerSecond;
@@ -57,7 +53,7 @@ Json clock(const Machine& machine) {
           {"calendar", jsonSeconds(now + calendarStart)}};
 }
 
-Json defaults(const Machine& machine) {
+Json defaultsOf(const Machine& machine) {
   Json object = Json::object();
   for (const auto& [key, value] : machine.userDefaults.values()) {
     object[key] = std::visit([](const auto& content) { return Json(content); }, value);
@@ -65,11 +61,11 @@ Json defaults(const Machine& machine) {
   return object;
 }
 
-Json faults(const Machine& machine) {
+Json faultsOf(const Machine& machine) {
   return {{"count", machine.faults.count()}, {"texts", machine.faults.texts()}};
 }
 
-Json counters(const Machine& machine) {
+Json countersOf(const Machine& machine) {
   return {{"hardwareMovements", machine.counters.hardwareMovements},
           {"relocatedEvents", machine.counters.relocatedEvents},
           {"droppedEvents", machine.counters.droppedEvents},
@@ -82,4 +78,23 @@ Json counters(const Machine& machine) {
           {"liveObjects", machine.objects.liveCount()}};
 }
 
-}  // namespace orvane::desk::script::JsonSnapshots
+Inspectable::Look lookAt(Json (*snapshot)(const Machine&)) {
+  return [snapshot](ScriptContext& context, const std::string&, Json& shown) -> Problem {
+    shown = snapshot(context.machine());
+    return std::nullopt;
+  };
+}
+
+}  // namespace
+
+void addMachineInspectables(InspectableTable& table) {
+  table.add({.name = "dock", .look = lookAt(dockOf), .countingMember = "reveals"});
+  table.add({.name = "pointer", .look = lookAt(pointerOf)});
+  table.add({.name = "opened", .look = lookAt(openedOf)});
+  table.add({.name = "clock", .look = lookAt(clockOf)});
+  table.add({.name = "defaults", .look = lookAt(defaultsOf)});
+  table.add({.name = "faults", .look = lookAt(faultsOf)});
+  table.add({.name = "counters", .look = lookAt(countersOf)});
+}
+
+}  // namespace orvane::desk::script

@@ -1,4 +1,4 @@
-// Complaint is what is wrong with a script, in words for its author.
+// Problem is what is wrong with a script, in words for its author.
 #pragma once
 
 #include <optional>
@@ -8,6 +8,6 @@ namespace orvane::desk::script {
 
 /// None when nothing is wrong. Without a final full stop and without the place, which whoever knows
 /// file and line puts before it.
-using Complaint = std::optional<std::string>;
+using Problem = std::optional<std::string>;
 
 }  // namespace orvane::desk::script

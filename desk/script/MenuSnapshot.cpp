@@ -1,12 +1,13 @@
 // Rows are read as a person reads them: what they mean from the semantics of their views, their
 // symbol from what they draw.
-#include "desk/script/JsonSnapshotsOfMenu.hpp"
+#include "desk/script/MenuSnapshot.hpp"
 
 #include <string>
 
 #include <nlohmann/json.hpp>
 
 #include "Orvane/ui/RecordingCanvas.hpp"
+#include "desk/hand/FindControl.hpp"
 #include "desk/windows/MenuMetrics.hpp"
 
 namespace orvane::desk::script {
@@ -29,31 +30,6 @@ class SymbolProbe : public ui::RecordingCanvas {
   std::string first;
 };
 
-/// The first node below with that role; null when there is none.
-const ui::SemanticsNode* findRole(const ui::SemanticsNode& node, ui::Role role) {
-  if (node.role == role) {
-    return &node;
-  }
-  for (const ui::SemanticsNode& child : node.children) {
-    if (const ui::SemanticsNode* const found = findRole(child, role)) {
-      return found;
-    }
-  }
-  return nullptr;
-}
-
-const ui::SemanticsNode* findControl(const ui::SemanticsNode& node) {
-  if (node.isControl()) {
-    return &node;
-  }
-  for (const ui::SemanticsNode& child : node.children) {
-    if (const ui::SemanticsNode* const found = findControl(child)) {
-      return found;
-    }
-  }
-  return nullptr;
-}
-
 Json rowSnapshot(const appkit::MenuItem& item) {
   Json shown;
   if (item.isSeparator) {
@@ -68,20 +44,22 @@ Json rowSnapshot(const appkit::MenuItem& item) {
     tree = view->host().semantics();
     view->host().paint(probe, {0, 0, view->frame().size.width, view->frame().size.height});
   }
-  if (const ui::SemanticsNode* const heading = findRole(tree, ui::Role::heading)) {
+  const auto heading = findElement(
+      tree, [](const ui::SemanticsNode& node) { return node.role == ui::Role::heading; });
+  if (heading) {
     shown["kind"] = "header";
     shown["title"] = heading->label;
     return shown;
   }
-  const ui::SemanticsNode* const control = findControl(tree);
+  const auto control =
+      findElement(tree, [](const ui::SemanticsNode& node) { return node.isControl(); });
   shown["kind"] = "row";
-  shown["title"] = control != nullptr ? control->label : item.title;
+  shown["title"] = control ? control->label : item.title;
   shown["symbol"] = probe.first.empty() ? Json(nullptr) : Json(probe.first);
-  shown["isSelected"] = control != nullptr && control->isSelected;
-  shown["isEnabled"] = control != nullptr ? control->isEnabled : item.isEnabled;
-  shown["isOn"] = control != nullptr && control->role == ui::Role::toggle
-                      ? Json(control->value == "1")
-                      : Json(nullptr);
+  shown["isSelected"] = control && control->isSelected;
+  shown["isEnabled"] = control ? control->isEnabled : item.isEnabled;
+  shown["isOn"] =
+      control && control->role == ui::Role::toggle ? Json(control->value == "1") : Json(nullptr);
   shown["itemEnabled"] = item.isEnabled;
   return shown;
 }

@@ -1,13 +1,11 @@
 // What a script can look at of the window server.
-#include "desk/script/WindowThings.hpp"
-
 #include <string>
 
 #include <nlohmann/json.hpp>
 
-#include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
-#include "desk/script/JsonSnapshots.hpp"
-#include "desk/script/JsonSnapshotsOfMenu.hpp"
+#include "desk/script/Inspectables.hpp"
+#include "desk/script/JsonText.hpp"
+#include "desk/script/MenuSnapshot.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -31,7 +29,7 @@ Json windowSnapshot(const WindowServer& server, const DeskWindow& window) {
   shown["surface"] = Surfaces::nameOf(window);
   shown["class"] = window.className;
   shown["title"] = window.title;
-  shown["frame"] = JsonSnapshots::rectangle(window.frame);
+  shown["frame"] = jsonRectangle(window.frame);
   shown["styleMask"] = window.styleMask;
   shown["level"] = window.level;
   shown["collectionBehavior"] = window.collectionBehavior;
@@ -51,7 +49,7 @@ Json windowSnapshot(const WindowServer& server, const DeskWindow& window) {
   return shown;
 }
 
-Complaint lookAtWindows(ScriptContext&, const std::string&, Json& shown) {
+Problem lookAtWindows(ScriptContext&, const std::string&, Json& shown) {
   shown = Json::array();
   const WindowServer& server = WindowServer::current();
   for (const auto& window : server.windows()) {
@@ -77,7 +75,7 @@ Json treeSnapshot(const ui::SemanticsNode& node) {
   return shown;
 }
 
-Complaint lookAtTree(ScriptContext&, const std::string& surface, Json& shown) {
+Problem lookAtTree(ScriptContext&, const std::string& surface, Json& shown) {
   const auto tree = Surfaces(WindowServer::current()).tree(surface);
   if (!tree) {
     return "there is no surface \"" + surface + "\"";
@@ -86,19 +84,18 @@ Complaint lookAtTree(ScriptContext&, const std::string& surface, Json& shown) {
   return std::nullopt;
 }
 
-Complaint lookAtMenu(ScriptContext&, const std::string&, Json& shown) {
+Problem lookAtMenu(ScriptContext&, const std::string&, Json& shown) {
   shown = statusMenuSnapshot(WindowServer::current());
   return std::nullopt;
 }
 
-Complaint lookAtIcon(ScriptContext&, const std::string&, Json& shown) {
+Problem lookAtIcon(ScriptContext&, const std::string&, Json& shown) {
   const StatusBarItem* const item = WindowServer::current().statusBar.item();
   const SymbolImage* const image = item != nullptr ? item->image.get() : nullptr;
-  shown["symbol"] = nullptr;
-  shown["accessibilityDescription"] = nullptr;
-  shown["template"] = nullptr;
-  shown["size"] = nullptr;
-  shown["pointSize"] = nullptr;
+  for (const char* const key :
+       {"symbol", "accessibilityDescription", "template", "size", "pointSize"}) {
+    shown[key] = nullptr;
+  }
   if (image != nullptr) {
     shown["symbol"] = image->name;
     shown["accessibilityDescription"] = image->accessibilityDescription;
@@ -109,55 +106,26 @@ Complaint lookAtIcon(ScriptContext&, const std::string&, Json& shown) {
   return std::nullopt;
 }
 
-const char* nameOf(PermissionGuideState state) {
-  switch (state) {
-    case PermissionGuideState::checking:
-      return "checking";
-    case PermissionGuideState::success:
-      return "success";
-    case PermissionGuideState::timeout:
-      return "timeout";
-  }
-  return "";
-}
-
-Complaint lookAtGuide(ScriptContext&, const std::string&, Json& shown) {
-  shown["state"] = nameOf(PermissionGuideState::checking);
-  shown["visible"] = false;
-  shown["polling"] = false;
-  if (OrvanePermissionGuideWindowController::sharedExists()) {
-    const auto& guide = OrvanePermissionGuideWindowController::shared();
-    shown["state"] = nameOf(guide.viewModel().state.value());
-    shown["visible"] = guide.panel().isVisible();
-    shown["polling"] = guide.isPolling();
-  }
-  return std::nullopt;
-}
-
-Complaint lookAtTooltip(ScriptContext&, const std::string&, Json& shown) {
+Problem lookAtTooltip(ScriptContext&, const std::string&, Json& shown) {
   const auto& tooltip = WindowServer::current().tooltips.shown();
   shown["text"] = tooltip ? Json(tooltip->text) : Json(nullptr);
   return std::nullopt;
 }
 
-Complaint lookAtAnnouncements(ScriptContext&, const std::string&, Json& shown) {
+Problem lookAtAnnouncements(ScriptContext&, const std::string&, Json& shown) {
   shown = WindowServer::current().announcements;
   return std::nullopt;
 }
 
 }  // namespace
 
-void addWindowThings(ThingTable& table) {
-  table.add({.name = "windows", .parameter = {}, .look = lookAtWindows, .countingMember = {}});
-  table.add({.name = "tree", .parameter = "SURFACE", .look = lookAtTree, .countingMember = {}});
-  table.add({.name = "menu", .parameter = {}, .look = lookAtMenu, .countingMember = {}});
-  table.add({.name = "icon", .parameter = {}, .look = lookAtIcon, .countingMember = {}});
-  table.add({.name = "guide", .parameter = {}, .look = lookAtGuide, .countingMember = {}});
-  table.add({.name = "announcements",
-             .parameter = {},
-             .look = lookAtAnnouncements,
-             .countingMember = {}});
-  table.add({.name = "tooltip", .parameter = {}, .look = lookAtTooltip, .countingMember = {}});
+void addWindowInspectables(InspectableTable& table) {
+  table.add({.name = "windows", .look = lookAtWindows});
+  table.add({.name = "tree", .parameter = "SURFACE", .look = lookAtTree});
+  table.add({.name = "menu", .look = lookAtMenu});
+  table.add({.name = "icon", .look = lookAtIcon});
+  table.add({.name = "announcements", .look = lookAtAnnouncements});
+  table.add({.name = "tooltip", .look = lookAtTooltip});
 }
 
 }  // namespace orvane::desk::script
