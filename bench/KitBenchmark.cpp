@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "showroom/desktop/StandardDisplays.hpp"
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
@@ -20,7 +21,6 @@
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
-#include "desk/desktop/StandardDisplays.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/ContentPicture.hpp"
 

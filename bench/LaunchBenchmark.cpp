@@ -4,12 +4,12 @@
 #include <memory>
 #include <optional>
 
+#include "showroom/desktop/StandardDisplays.hpp"
 #include <benchmark/benchmark.h>
 
 #include "Orvane/panels/main/ContentView.hpp"
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
-#include "desk/desktop/StandardDisplays.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"

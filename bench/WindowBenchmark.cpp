@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "showroom/window/WindowPicture.hpp"
 #include <benchmark/benchmark.h>
 
-#include "desk/window/WindowPicture.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 

@@ -6,11 +6,11 @@
 #include <tuple>
 #include <vector>
 
+#include "showroom/hardware/Hardware.hpp"
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <rapidcheck/gtest.h>
 
-#include "desk/hardware/Hardware.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/script/MenuSnapshot.hpp"
 #include "desk/windows/Surfaces.hpp"

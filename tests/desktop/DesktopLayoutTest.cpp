@@ -1,10 +1,9 @@
 // Where the screens fall in a picture.
 #include <cmath>
 
+#include "showroom/desktop/DesktopLayout.hpp"
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
-
-#include "desk/desktop/DesktopLayout.hpp"
 
 namespace orvane::desk {
 namespace {

@@ -1,13 +1,14 @@
 // The picture of the desktop against the state of the machine, pixel by pixel where it matters.
 #include <cmath>
 
+#include "showroom/desktop/DesktopPainter.hpp"
+#include "showroom/desktop/DockShelf.hpp"
+#include "showroom/desktop/DockTileArt.hpp"
+#include "showroom/desktop/MenuBarLayer.hpp"
+
 #include "Orvane/platform/appkit/HostingView.hpp"
 #include "Orvane/platform/appkit/Window.hpp"
 #include "Orvane/ui/ShapeView.hpp"
-#include "desk/desktop/DesktopPainter.hpp"
-#include "desk/desktop/DockShelf.hpp"
-#include "desk/desktop/DockTileArt.hpp"
-#include "desk/desktop/MenuBarLayer.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 

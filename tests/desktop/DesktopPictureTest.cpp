@@ -3,9 +3,10 @@
 #include <filesystem>
 #include <limits>
 
+#include "showroom/desktop/DesktopPicture.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
+
 #include "desk/canvas/PngFile.hpp"
-#include "desk/desktop/DesktopPicture.hpp"
-#include "desk/desktop/StandardDisplays.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 #include "tests/support/BytesOf.hpp"
 #include "tests/support/KeptPicture.hpp"

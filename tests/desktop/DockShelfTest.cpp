@@ -1,8 +1,7 @@
 // The Dock's shape at every edge and moment.
+#include "showroom/desktop/DockShelf.hpp"
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
-
-#include "desk/desktop/DockShelf.hpp"
 
 namespace orvane::desk {
 namespace {

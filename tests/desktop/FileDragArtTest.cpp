@@ -1,6 +1,7 @@
 // The picture of a file that is dragged out of the permission guide.
+#include "showroom/desktop/FileDragArt.hpp"
+
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
-#include "desk/desktop/FileDragArt.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
 namespace orvane::desk {

@@ -1,8 +1,9 @@
 // Glass lets the wallpaper through, but not when the user wants less transparency.
 #include <vector>
 
-#include "desk/desktop/Glass.hpp"
-#include "desk/desktop/MenuBarLayer.hpp"
+#include "showroom/desktop/Glass.hpp"
+#include "showroom/desktop/MenuBarLayer.hpp"
+
 #include "desk/windows/WindowServer.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 

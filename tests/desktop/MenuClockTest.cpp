@@ -1,7 +1,6 @@
 // The calendar in the menu bar.
+#include "showroom/desktop/MenuClock.hpp"
 #include <gtest/gtest.h>
-
-#include "desk/desktop/MenuClock.hpp"
 
 namespace orvane::desk {
 namespace {

@@ -1,10 +1,9 @@
 // A session of two displays, seen as hardware.
 #pragma once
 
+#include "showroom/hardware/HardwareContent.hpp"
+#include "showroom/window/DeskSession.hpp"
 #include <gtest/gtest.h>
-
-#include "desk/hardware/HardwareContent.hpp"
-#include "desk/window/DeskSession.hpp"
 
 namespace orvane::desk {
 

@@ -1,9 +1,10 @@
 // The hardware panel, worked without a window.
 #include <set>
 
+#include "showroom/hardware/HardwarePanelHost.hpp"
+
 #include "Orvane/ui/RecordingCanvas.hpp"
 #include "desk/hand/FindControl.hpp"
-#include "desk/hardware/HardwarePanelHost.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/hardware/HardwareFixture.hpp"
 

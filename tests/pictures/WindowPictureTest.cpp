@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <string>
 
+#include "showroom/desktop/WallpaperArt.hpp"
+#include "showroom/desktop/WindowArt.hpp"
 #include <gtest/gtest.h>
 
 #include "Orvane/platform/appkit/HostingView.hpp"
@@ -12,8 +14,6 @@
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
-#include "desk/desktop/WallpaperArt.hpp"
-#include "desk/desktop/WindowArt.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "tests/support/KeptPicture.hpp"
 #include "tests/support/MachineFixture.hpp"

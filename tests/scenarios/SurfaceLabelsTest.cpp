@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "showroom/hardware/HardwarePanelHost.hpp"
 #include <gtest/gtest.h>
 
 #include "Orvane/platform/appkit/HostingView.hpp"
@@ -14,7 +15,6 @@
 #include "Orvane/ui/Image.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
-#include "desk/hardware/HardwarePanelHost.hpp"
 #include "desk/settings/SystemSettings.hpp"
 #include "tests/support/ApplicationFixture.hpp"
 #include "tests/support/TestDisplays.hpp"

@@ -95,12 +95,41 @@ class ArrowsTest(RuleTest):
         self.assert_pairs([f"Orvane/{part}" for part in self.parts], "",
                           {(f"Orvane/{a}", f"Orvane/{b}") for a, b in self.may_include})
 
+    def test_every_pair_of_parts_of_the_desk(self):
+        parts = ["canvas", "symbols", "machine", "quartz", "windows", "appkit", "settings", "hand",
+                 "application", "script"]
+        allowed = {("quartz", "machine"), ("windows", "canvas"), ("windows", "machine"),
+                   ("appkit", "canvas"), ("appkit", "machine"), ("appkit", "quartz"),
+                   ("appkit", "windows"), ("settings", "machine"), ("settings", "windows"),
+                   ("hand", "machine"), ("hand", "windows"), ("application", "machine"),
+                   ("application", "settings"), ("application", "windows"),
+                   ("script", "application"), ("script", "hand"), ("script", "machine"),
+                   ("script", "quartz"), ("script", "windows")} | {(part, part) for part in parts}
+        self.assert_pairs([f"desk/{part}" for part in parts], "",
+                          {(f"desk/{a}", f"desk/{b}") for a, b in allowed})
+
+    def test_every_pair_of_parts_of_the_showroom(self):
+        parts = ["desktop", "gallery", "hardware", "tour", "window"]
+        allowed = {("gallery", "desktop"), ("hardware", "desktop"), ("tour", "desktop"),
+                   ("window", "desktop"), ("window", "hardware")} | {(part, part) for part in parts}
+        self.assert_pairs([f"showroom/{part}" for part in parts], "",
+                          {(f"showroom/{a}", f"showroom/{b}") for a, b in allowed})
+
+    def test_the_main_file_may_include_every_part(self):
+        self.assert_passed(self.including("showroom/Main.cpp", "showroom/tour/RunTour.hpp",
+                                          "desk/script/ScriptProgram.hpp"))
+
     def test_every_pair_of_first_folders(self):
-        folders = ["Orvane", "desk", "macos", "tests", "bench", "fuzz"]
-        self.assert_pairs(folders, "/ui", {(folder, folder) for folder in folders} | {
-            ("desk", "Orvane"), ("macos", "Orvane"), ("tests", "Orvane"), ("tests", "desk"),
-            ("tests", "macos"), ("tests", "bench"), ("bench", "Orvane"),
-            ("bench", "desk"), ("fuzz", "Orvane"), ("fuzz", "desk")})
+        folders = ["Orvane/ui", "desk/machine", "showroom/desktop", "macos/appkit", "tests/ui",
+                   "bench/ui", "fuzz/ui"]
+        allowed = {("desk", "Orvane"), ("showroom", "Orvane"), ("showroom", "desk"),
+                   ("macos", "Orvane"), ("tests", "Orvane"), ("tests", "desk"),
+                   ("tests", "showroom"), ("tests", "macos"), ("tests", "bench"),
+                   ("bench", "Orvane"), ("bench", "desk"), ("bench", "showroom"),
+                   ("fuzz", "Orvane"), ("fuzz", "desk")}
+        top = {folder.split("/")[0]: folder for folder in folders}
+        self.assert_pairs(folders, "", {(folder, folder) for folder in folders} |
+                          {(top[here], top[there]) for here, there in allowed})
 
     def test_every_part_may_include_the_language(self):
         self.assert_passed(self.including("Orvane/geometry/Names.hpp",
@@ -157,7 +186,7 @@ class WallClockTest(RuleTest):
                      "clock_gettime(CLOCK_MONOTONIC, &now);", "auto ticks = SDL_GetTicks64();",
                      "auto used = std::clock();", "std::this_thread::sleep_for(second);",
                      "auto count = SDL_GetPerformanceCounter();"):
-            for folder in ("Orvane/guard", "desk/machine", "desk/window"):
+            for folder in ("Orvane/guard", "desk/machine", "showroom/window"):
                 with self.subTest(line=line, folder=folder):
                     path = folder + "/Part.cpp"
                     self.assert_caught({path: TOP + line + "\n"}, (path, 2))
@@ -166,7 +195,7 @@ class WallClockTest(RuleTest):
 
     def test_the_frame_pump_and_the_benchmarks_are_exempt(self):
         line = TOP + "auto now = std::chrono::steady_clock::now();\n"
-        self.assert_passed({"desk/window/FramePump.cpp": line, "bench/Filter.cpp": line})
+        self.assert_passed({"showroom/window/FramePump.cpp": line, "bench/Filter.cpp": line})
 
     def test_words_that_only_look_like_clocks(self):
         self.assert_passed({"desk/machine/Clock.cpp": TOP + "double Clock::time() const;\n"

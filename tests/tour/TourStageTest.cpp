@@ -3,11 +3,11 @@
 #include <filesystem>
 #include <sstream>
 
+#include "showroom/desktop/StandardDisplays.hpp"
+#include "showroom/tour/TourStage.hpp"
 #include <gtest/gtest.h>
 
 #include "desk/canvas/PngFile.hpp"
-#include "desk/desktop/StandardDisplays.hpp"
-#include "desk/tour/TourStage.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 

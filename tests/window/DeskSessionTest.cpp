@@ -1,6 +1,7 @@
 // The desk that someone plays with, without a window around it.
-#include "desk/desktop/StandardDisplays.hpp"
-#include "desk/window/DeskSession.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
+#include "showroom/window/DeskSession.hpp"
+
 #include "desk/windows/WindowServer.hpp"
 #include "tests/window/SessionFixture.hpp"
 

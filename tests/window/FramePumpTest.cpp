@@ -2,7 +2,8 @@
 #include <chrono>
 #include <thread>
 
-#include "desk/window/FramePump.hpp"
+#include "showroom/window/FramePump.hpp"
+
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::desk {

@@ -1,9 +1,8 @@
 // A session of two displays, and what is often done in it.
 #pragma once
 
+#include "showroom/window/DeskSession.hpp"
 #include <gtest/gtest.h>
-
-#include "desk/window/DeskSession.hpp"
 
 namespace orvane::desk {
 

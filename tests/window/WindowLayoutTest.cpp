@@ -1,8 +1,7 @@
 // How the window is divided.
+#include "showroom/hardware/HardwarePanel.hpp"
+#include "showroom/window/WindowLayout.hpp"
 #include <gtest/gtest.h>
-
-#include "desk/hardware/HardwarePanel.hpp"
-#include "desk/window/WindowLayout.hpp"
 
 namespace orvane::desk {
 namespace {

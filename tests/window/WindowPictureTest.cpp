@@ -1,8 +1,9 @@
 // When the window is drawn anew, and when not.
 #include <functional>
 
+#include "showroom/window/WindowPicture.hpp"
+
 #include "desk/hand/FindControl.hpp"
-#include "desk/window/WindowPicture.hpp"
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::desk {

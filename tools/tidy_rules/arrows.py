@@ -4,7 +4,7 @@ import re
 
 # For each part of Orvane/, the other parts that it may include. Every part may include base and the
 # header FOR_EVERYONE. Windows and panels use the platform, so they may include platform/.
-ALLOWED = {
+APPLICATION = {
     "base": set(),
     "ui": set(),
     "platform": {"ui"},
@@ -17,15 +17,39 @@ ALLOWED = {
     "app": {"base", "ui", "platform", "geometry", "guard", "permission", "model", "windows",
             "panels"},
 }
+# The same for the simulated Mac, and for what shows it.
+DESK = {
+    "canvas": set(),
+    "symbols": set(),
+    "machine": set(),
+    "quartz": {"machine"},
+    "windows": {"canvas", "machine"},
+    "appkit": {"canvas", "machine", "quartz", "windows"},
+    "settings": {"machine", "windows"},
+    "hand": {"machine", "windows"},
+    "application": {"machine", "settings", "windows"},
+    "script": {"application", "hand", "machine", "quartz", "windows"},
+}
+SHOWROOM = {
+    "desktop": set(),
+    "gallery": {"desktop"},
+    "hardware": {"desktop"},
+    "tour": {"desktop"},
+    "window": {"desktop", "hardware"},
+}
+# Puts the parts together.
+MAIN_FILE = ("showroom", "Main.cpp")
+ALLOWED = {"Orvane": APPLICATION, "desk": DESK, "showroom": SHOWROOM}
 FOR_EVERYONE = {"Orvane/model/OrvaneLanguage.hpp"}
 
 # For each top folder, the others that it may include.
 TOPS = {
     "Orvane": set(),
     "desk": {"Orvane"},
+    "showroom": {"Orvane", "desk"},
     "macos": {"Orvane"},
-    "tests": {"Orvane", "desk", "macos", "bench"},
-    "bench": {"Orvane", "desk"},
+    "tests": {"Orvane", "desk", "showroom", "macos", "bench"},
+    "bench": {"Orvane", "desk", "showroom"},
     "fuzz": {"Orvane", "desk"},
 }
 
@@ -58,11 +82,13 @@ def _forbidden(source, target, path):
         if target[0] not in TOPS[source[0]]:
             return f"{source[0]} may not include {path}"
         return None
-    if source[0] != "Orvane" or path in FOR_EVERYONE:
+    parts = ALLOWED.get(source[0])
+    if parts is None or path in FOR_EVERYONE or source == MAIN_FILE:
         return None
     here, there = source[1], target[1]
-    if here not in ALLOWED:
-        return f"Orvane/{here} is no known part; say in the arrows what it may include"
-    if there not in ALLOWED[here] | {here} | ({"base"} if here != "base" else set()):
+    if here not in parts:
+        return f"{source[0]}/{here} is no known part; say in the arrows what it may include"
+    everyones = {"base"} if source[0] == "Orvane" and here != "base" else set()
+    if there not in parts[here] | {here} | everyones:
         return f"{here} may not include {path}"
     return None

@@ -3,7 +3,7 @@
 import posixpath
 import re
 
-FOLDERS = ("Orvane", "desk", "macos", "tests", "bench", "fuzz")
+FOLDERS = ("Orvane", "desk", "showroom", "macos", "tests", "bench", "fuzz")
 _SOURCE = re.compile(r"[\w./${}-]+\.(?:cpp|mm)(?![\w.])")
 
 

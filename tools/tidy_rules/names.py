@@ -33,7 +33,7 @@ def check(project):
             yield from _check_header(file)
         elif file.top == "tests":
             yield from _check_test(file)
-        elif file.top in ("Orvane", "desk", "macos"):
+        elif file.top in ("Orvane", "desk", "showroom", "macos"):
             yield from _check_source(project, file)
 
 

@@ -3,7 +3,9 @@
 import re
 
 # The window's frame pump is the one place where simulated time meets real time.
-FRAME_PUMP = "desk/window/FramePump."
+FRAME_PUMP = "showroom/window/FramePump."
+
+SHIPPED_AND_SIMULATED = ("Orvane", "desk", "showroom")
 
 _WALL_CLOCK = re.compile(
     r"\b(?:system|steady|high_resolution|utc|tai|gps|file)_clock\b"
@@ -41,18 +43,18 @@ def _in_code(project, tops, pattern, why):
 
 
 def wall_clock(project):
-    """Nothing in Orvane/ or desk/ reads a real clock or waits on one, except the window's frame pump."""
-    return _in_code(project, ("Orvane", "desk"), _WALL_CLOCK, "time comes from the machine's clock")
+    """Nothing in the application, the desk or the showroom reads a real clock or waits on one, except the window's frame pump."""
+    return _in_code(project, SHIPPED_AND_SIMULATED, _WALL_CLOCK, "time comes from the machine's clock")
 
 
 def chance(project):
-    """Nothing in Orvane/ or desk/ uses random numbers: the same script gives the same output."""
-    return _in_code(project, ("Orvane", "desk"), _CHANCE, "the same input must give the same output")
+    """Nothing in the application, the desk or the showroom uses random numbers: the same script gives the same output."""
+    return _in_code(project, SHIPPED_AND_SIMULATED, _CHANCE, "the same input must give the same output")
 
 
 def order(project):
-    """No container in Orvane/ or desk/ has an order that depends on hashes."""
-    return _in_code(project, ("Orvane", "desk"), _UNORDERED, "take a container with an order")
+    """No container in the application, the desk or the showroom has an order that depends on hashes."""
+    return _in_code(project, SHIPPED_AND_SIMULATED, _UNORDERED, "take a container with an order")
 
 
 def _in_text(project, pattern, why, is_allowed=lambda match: False):

@@ -1,0 +1,38 @@
+// DesktopLayer paints one kind of thing on every display: wallpaper, windows, Dock, menu bar.
+#pragma once
+
+#include <cstddef>
+
+#include "showroom/desktop/DesktopScene.hpp"
+#include "showroom/desktop/GlassCache.hpp"
+
+#include "Orvane/ui/Rect.hpp"
+#include "desk/canvas/CairoCanvas.hpp"
+#include "desk/canvas/DrawingResources.hpp"
+
+namespace orvane::desk {
+
+/// One display while it is painted. The canvas is in global coordinates and clipped to the screen.
+struct DisplayCanvas {
+  CairoCanvas& canvas;
+  DrawingResources& resources;
+  GlassCache& glass;
+  /// The display's place in the machine's list, and its frame in global coordinates.
+  std::size_t displayIndex;
+  ui::Rect frame;
+  /// The screen in pixels of the canvas's surface.
+  cairo_rectangle_int_t pixels;
+};
+
+class DesktopLayer {
+ public:
+  DesktopLayer() = default;
+  DesktopLayer(const DesktopLayer&) = delete;
+  DesktopLayer& operator=(const DesktopLayer&) = delete;
+  virtual ~DesktopLayer() = default;
+
+  /// Called for one display after the other, with what lies below already painted.
+  virtual void paint(const DesktopScene& scene, const DisplayCanvas& display) = 0;
+};
+
+}  // namespace orvane::desk

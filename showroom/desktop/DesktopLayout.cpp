@@ -1,0 +1,148 @@
+// Monitors are moved apart by how many others stand left of and above them.
+#include "showroom/desktop/DesktopLayout.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include "showroom/desktop/Rects.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+/// Frames that overlap by less, in points, stand beside each other all the same.
+constexpr double overlapTolerance = 2;
+
+/// For each frame the length of the longest chain of frames before it along one axis. Two frames
+/// that do not overlap along that axis get different lengths, so that moving each by its length
+/// never brings two of them together.
+std::vector<int> ranks(const std::vector<double>& starts, const std::vector<double>& ends) {
+  std::vector<std::size_t> order(starts.size());
+  for (std::size_t index = 0; index < order.size(); ++index) {
+    order[index] = index;
+  }
+  std::stable_sort(order.begin(), order.end(), [&](std::size_t first, std::size_t second) {
+    return starts[first] < starts[second];
+  });
+  std::vector<int> result(starts.size(), 0);
+  for (const std::size_t index : order) {
+    for (const std::size_t other : order) {
+      if (starts[other] < starts[index] && ends[other] <= starts[index] + overlapTolerance) {
+        result[index] = std::max(result[index], result[other] + 1);
+      }
+    }
+  }
+  return result;
+}
+
+/// The screens' places in points of the picture, origin at the top left of the layout.
+std::vector<ui::Rect> placesInPoints(const std::vector<CGRect>& frames, DesktopStyle style) {
+  std::vector<ui::Rect> places;
+  std::vector<double> lefts;
+  std::vector<double> rights;
+  std::vector<double> tops;
+  std::vector<double> bottoms;
+  ui::Rect bounds;
+  for (const CGRect& frame : frames) {
+    const ui::Rect rect = rectOf(frame);
+    places.push_back(rect);
+    lefts.push_back(rect.x);
+    rights.push_back(rect.right());
+    tops.push_back(rect.y);
+    bottoms.push_back(rect.bottom());
+    bounds = bounds.united(rect);
+  }
+  ui::Point shift{-bounds.x, -bounds.y};
+  if (style == DesktopStyle::monitors) {
+    shift.x += DesktopLayout::margin + DesktopLayout::border;
+    shift.y += DesktopLayout::margin + DesktopLayout::border;
+  }
+  const std::vector<int> columns = ranks(lefts, rights);
+  const std::vector<int> rows = ranks(tops, bottoms);
+  for (std::size_t index = 0; index < places.size(); ++index) {
+    ui::Point distance = shift;
+    if (style == DesktopStyle::monitors) {
+      distance.x += columns[index] * (2 * DesktopLayout::border + DesktopLayout::gap);
+      distance.y +=
+          rows[index] * (DesktopLayout::border + DesktopLayout::lowerBorder + DesktopLayout::gap);
+    }
+    places[index] = places[index].movedBy(distance);
+  }
+  return places;
+}
+
+ui::Size sizeOf(const std::vector<ui::Rect>& places, DesktopStyle style) {
+  ui::Size size;
+  for (const ui::Rect& place : places) {
+    size.width = std::max(size.width, place.right());
+    size.height = std::max(size.height, place.bottom());
+  }
+  if (style == DesktopStyle::monitors && !places.empty()) {
+    size.width += DesktopLayout::border + DesktopLayout::margin;
+    size.height += DesktopLayout::lowerBorder + DesktopLayout::footHeight + DesktopLayout::margin;
+  }
+  return size;
+}
+
+int roundToPixel(double value) {
+  return static_cast<int>(std::lround(value));
+}
+
+}  // namespace
+
+DesktopLayout::DesktopLayout(const std::vector<CGRect>& frames, DesktopStyle style, double scale,
+                             cairo_rectangle_int_t origin)
+    : style_(style), scale_(scale) {
+  const std::vector<ui::Rect> places = placesInPoints(frames, style);
+  const ui::Size size = sizeOf(places, style);
+  pixels_ = {origin.x, origin.y, roundToPixel(size.width * scale),
+             roundToPixel(size.height * scale)};
+  for (std::size_t index = 0; index < places.size(); ++index) {
+    // Both edges are rounded, not the size, so that screens side by side leave no seam.
+    const int left = roundToPixel(places[index].x * scale);
+    const int top = roundToPixel(places[index].y * scale);
+    const int right = roundToPixel(places[index].right() * scale);
+    const int bottom = roundToPixel(places[index].bottom() * scale);
+    screens_.push_back(
+        {rectOf(frames[index]), {origin.x + left, origin.y + top, right - left, bottom - top}});
+  }
+}
+
+DesktopLayout DesktopLayout::fitted(const std::vector<CGRect>& frames, DesktopStyle style,
+                                    const cairo_rectangle_int_t& area, double maximumScale) {
+  const ui::Size size = sizeInPoints(frames, style);
+  double scale = maximumScale;
+  if (size.width > 0 && size.height > 0) {
+    scale = std::min({scale, area.width / size.width, area.height / size.height});
+  }
+  const int width = roundToPixel(size.width * scale);
+  const int height = roundToPixel(size.height * scale);
+  DesktopLayout layout(
+      frames, style, scale,
+      {area.x + (area.width - width) / 2, area.y + (area.height - height) / 2, width, height});
+  layout.pixels_ = area;
+  return layout;
+}
+
+ui::Size DesktopLayout::sizeInPoints(const std::vector<CGRect>& frames, DesktopStyle style) {
+  return sizeOf(placesInPoints(frames, style), style);
+}
+
+std::optional<CGPoint> DesktopLayout::globalPoint(double pixelX, double pixelY) const {
+  for (const ScreenPlacement& screen : screens_) {
+    const double x = pixelX - screen.pixels.x;
+    const double y = pixelY - screen.pixels.y;
+    if (x >= 0 && y >= 0 && x < screen.pixels.width && y < screen.pixels.height) {
+      return CGPoint{screen.frame.x + x / scale_, screen.frame.y + y / scale_};
+    }
+  }
+  return std::nullopt;
+}
+
+ui::Point DesktopLayout::pixel(std::size_t screenIndex, CGPoint globalPoint) const {
+  const ScreenPlacement& screen = screens_[screenIndex];
+  return {screen.pixels.x + (globalPoint.x - screen.frame.x) * scale_,
+          screen.pixels.y + (globalPoint.y - screen.frame.y) * scale_};
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,71 @@
+// Sets each screen up as a canvas in global coordinates and lets the layers paint on it.
+#include "showroom/desktop/DesktopPainter.hpp"
+
+#include <utility>
+
+#include "showroom/desktop/DockLayer.hpp"
+#include "showroom/desktop/MenuBarLayer.hpp"
+#include "showroom/desktop/MonitorArt.hpp"
+#include "showroom/desktop/OpenMenuLayer.hpp"
+#include "showroom/desktop/PointerLayer.hpp"
+#include "showroom/desktop/WallpaperLayer.hpp"
+#include "showroom/desktop/WindowLayer.hpp"
+#include "showroom/desktop/ZoneLayer.hpp"
+
+namespace orvane::desk {
+
+DesktopPainter::DesktopPainter(DrawingResources& resources) : resources_(resources) {
+  backdrop_.push_back(std::make_unique<WallpaperLayer>());
+  windows_.push_back(std::make_unique<WindowLayer>(WindowLayer::Part::belowMenuBar));
+  system_.push_back(std::make_unique<DockLayer>());
+  system_.push_back(std::make_unique<MenuBarLayer>());
+  menus_.push_back(std::make_unique<WindowLayer>(WindowLayer::Part::aboveMenuBar));
+  menus_.push_back(std::make_unique<OpenMenuLayer>());
+  marks_.push_back(std::make_unique<ZoneLayer>());
+  marks_.push_back(std::make_unique<PointerLayer>());
+}
+
+void DesktopPainter::addAboveWallpaper(std::unique_ptr<DesktopLayer> layer) {
+  windows_.push_back(std::move(layer));
+}
+
+void DesktopPainter::addAboveMenuBar(std::unique_ptr<DesktopLayer> layer) {
+  menus_.push_back(std::move(layer));
+}
+
+void DesktopPainter::paint(cairo_surface_t* surface, const DesktopLayout& layout,
+                           const DesktopScene& scene) {
+  paintSurroundings(surface, layout, scene, resources_);
+  for (std::size_t index = 0; index < layout.screens().size(); ++index) {
+    paintScreen(surface, layout, scene, index);
+  }
+}
+
+void DesktopPainter::paintScreen(cairo_surface_t* surface, const DesktopLayout& layout,
+                                 const DesktopScene& scene, std::size_t index) {
+  const ScreenPlacement& screen = layout.screens()[index];
+  const double scale = layout.scale();
+  CairoCanvas canvas(surface, scale, resources_);
+  canvas.save();
+  // The clip is made of whole pixels, before the coordinates become global ones.
+  cairo_t* const context = canvas.context();
+  cairo_save(context);
+  cairo_identity_matrix(context);
+  cairo_rectangle(context, screen.pixels.x, screen.pixels.y, screen.pixels.width,
+                  screen.pixels.height);
+  cairo_restore(context);
+  cairo_clip(context);
+  canvas.transform(ui::Transform::translation(
+      {screen.pixels.x / scale - screen.frame.x, screen.pixels.y / scale - screen.frame.y}));
+  const DisplayCanvas display{canvas, resources_, glass_, index, screen.frame, screen.pixels};
+  for (const Layers* layers : {&backdrop_, &windows_, &system_, &menus_, &marks_}) {
+    for (const auto& layer : *layers) {
+      canvas.save();
+      layer->paint(scene, display);
+      canvas.restore();
+    }
+  }
+  canvas.restore();
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,75 @@
+// A shelf of glass with tiles on it.
+#include "showroom/desktop/DockLayer.hpp"
+
+#include "showroom/desktop/DockShelf.hpp"
+#include "showroom/desktop/DockTileArt.hpp"
+#include "showroom/desktop/Glass.hpp"
+#include "showroom/desktop/MenuClock.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+constexpr double glassSigma = 18;
+
+void paintShelf(CairoCanvas& canvas, const DockShelf& dock, const Appearance& appearance,
+                GlassCache& glass) {
+  const bool isDark = appearance.isDark;
+  const ui::Shape shape = ui::Shape::roundedRectangle(dock.shelf, dock.cornerRadius);
+  canvas.shadow(shape, {{0, 0, 0, isDark ? 0.4 : 0.2}, 18, {0, 4}});
+  paintGlass(canvas, shape, glassSigma,
+             tintFor(appearance,
+                     isDark ? ui::Rgba{0.13, 0.13, 0.16, 0.46} : ui::Rgba{0.97, 0.97, 0.99, 0.42}),
+             glass);
+  canvas.stroke(shape.inset(-0.25), ui::Paint::solid({0, 0, 0, isDark ? 0.45 : 0.14}), 0.5);
+  canvas.stroke(shape.inset(0.5), ui::Paint::solid({1, 1, 1, isDark ? 0.16 : 0.42}), 1);
+}
+
+/// The dot lies between the tile and the edge of the shelf.
+ui::Rect runningDot(const ui::Rect& tile, DockEdge edge, double factor) {
+  const double size = 3.2 * factor;
+  const double distance = 3.6 * factor;
+  ui::Point center = tile.center();
+  switch (edge) {
+    case DockEdge::bottom:
+      center.y = tile.bottom() + distance;
+      break;
+    case DockEdge::left:
+      center.x = tile.x - distance;
+      break;
+    case DockEdge::right:
+      center.x = tile.right() + distance;
+      break;
+  }
+  return {center.x - size / 2, center.y - size / 2, size, size};
+}
+
+}  // namespace
+
+void DockLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+  const Dock& dock = scene.machine.dock;
+  const double shown = dock.shownFraction();
+  if (dock.displayIndex() != display.displayIndex || shown <= 0) {
+    return;
+  }
+  const CGRect area = dock.frame();
+  const DockShelf shelf =
+      DockShelf::make({area.origin.x, area.origin.y, area.size.width, area.size.height},
+                      dock.edge(), shown, dockTileCount());
+  const bool isDark = scene.machine.appearance.isDark;
+  CairoCanvas& canvas = display.canvas;
+  paintShelf(canvas, shelf, scene.machine.appearance, display.glass);
+  const int day = menuClockDay(scene.machine.clock);
+  const ui::Rgba ink = isDark ? ui::Rgba{1, 1, 1, 0.8} : ui::Rgba{0, 0, 0, 0.6};
+  for (std::size_t index = 0; index < shelf.tiles.size(); ++index) {
+    paintDockTile(canvas, index, shelf.tiles[index], day);
+    if (isDockTileRunning(index)) {
+      canvas.fill(ui::Shape::circle(runningDot(shelf.tiles[index], dock.edge(), shelf.factor)),
+                  ui::Paint::solid(ink));
+    }
+  }
+  canvas.fill(ui::Shape::rectangle(shelf.separator),
+              ui::Paint::solid(isDark ? ui::Rgba{1, 1, 1, 0.22} : ui::Rgba{0, 0, 0, 0.18}));
+}
+
+}  // namespace orvane::desk

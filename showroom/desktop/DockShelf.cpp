@@ -1,0 +1,83 @@
+// The shelf is laid out along a line first and then turned to its edge.
+#include "showroom/desktop/DockShelf.hpp"
+
+#include <algorithm>
+
+namespace orvane::desk {
+
+namespace {
+
+// In points, for a Dock of full size.
+constexpr double tileSize = 46;
+constexpr double tileSpacing = 5;
+constexpr double shelfPadding = 7;
+constexpr double separatorRoom = 11;
+constexpr double edgeDistance = 5;
+constexpr double shelfCorner = 17;
+
+/// A rectangle by where it begins along the edge and how far from the edge it begins.
+struct Strip {
+  double along;
+  double away;
+  double length;
+  double depth;
+};
+
+ui::Rect turned(const Strip& strip, const ui::Rect& area, DockEdge edge) {
+  switch (edge) {
+    case DockEdge::bottom:
+      return {area.x + strip.along, area.bottom() - strip.away - strip.depth, strip.length,
+              strip.depth};
+    case DockEdge::left:
+      return {area.x + strip.away, area.y + strip.along, strip.depth, strip.length};
+    case DockEdge::right:
+      return {area.right() - strip.away - strip.depth, area.y + strip.along, strip.depth,
+              strip.length};
+  }
+  return {};
+}
+
+}  // namespace
+
+DockShelf DockShelf::make(const ui::Rect& area, DockEdge edge, double shownFraction,
+                          std::size_t tileCount) {
+  DockShelf result;
+  if (area.isEmpty() || tileCount == 0) {
+    return result;
+  }
+  const double room = edge == DockEdge::bottom ? area.width : area.height;
+  const double depth = edge == DockEdge::bottom ? area.height : area.width;
+  const auto count = static_cast<double>(tileCount);
+  const double needed =
+      2 * shelfPadding + count * tileSize + (count - 1) * tileSpacing + separatorRoom;
+  result.factor = std::min(1.0, room / needed);
+  const double factor = result.factor;
+  result.cornerRadius = shelfCorner * factor;
+
+  // The slide begins and ends gently.
+  const double shown = std::clamp(shownFraction, 0.0, 1.0);
+  const double hidden = 1 - shown * shown * (3 - 2 * shown);
+  const double away = edgeDistance - hidden * depth;
+  const double shelfDepth = (tileSize + 2 * shelfPadding) * factor;
+  const double start = (room - needed * factor) / 2;
+  result.shelf = turned({start, away, needed * factor, shelfDepth}, area, edge);
+
+  double along = start + shelfPadding * factor;
+  for (std::size_t index = 0; index < tileCount; ++index) {
+    if (index + 1 == tileCount) {
+      // A full point, unless the tiles have come too near for that.
+      const double thickness = std::min(1.0, 4 * factor);
+      const double middle = along + (separatorRoom - tileSpacing) / 2 * factor;
+      result.separator =
+          turned({middle - thickness / 2, away + 11 * factor, thickness, shelfDepth - 22 * factor},
+                 area, edge);
+      along += separatorRoom * factor;
+    }
+    result.tiles.push_back(turned(
+        {along, away + shelfPadding * factor, tileSize * factor, tileSize * factor}, area, edge));
+    along += (tileSize + tileSpacing) * factor;
+  }
+  return result;
+}
+
+}  // namespace orvane::desk

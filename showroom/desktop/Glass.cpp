@@ -1,0 +1,70 @@
+// The blur is made on a copy of the pixels around the shape, so that nothing outside of it changes.
+#include "showroom/desktop/Glass.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "desk/canvas/Blur.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+/// The pixels of the current clip that the rectangle touches, and `margin` more around them; cut
+/// to the clip, because what is beyond the screen is not behind the glass.
+cairo_rectangle_int_t pixelsAround(cairo_t* context, const ui::Rect& rect, int margin) {
+  double left = rect.x;
+  double top = rect.y;
+  double right = rect.right();
+  double bottom = rect.bottom();
+  cairo_user_to_device(context, &left, &top);
+  cairo_user_to_device(context, &right, &bottom);
+  cairo_save(context);
+  cairo_identity_matrix(context);
+  double clipLeft = 0;
+  double clipTop = 0;
+  double clipRight = 0;
+  double clipBottom = 0;
+  cairo_clip_extents(context, &clipLeft, &clipTop, &clipRight, &clipBottom);
+  cairo_restore(context);
+  const int x = static_cast<int>(std::max(std::floor(left) - margin, std::floor(clipLeft)));
+  const int y = static_cast<int>(std::max(std::floor(top) - margin, std::floor(clipTop)));
+  return {x, y, static_cast<int>(std::min(std::ceil(right) + margin, std::ceil(clipRight))) - x,
+          static_cast<int>(std::min(std::ceil(bottom) + margin, std::ceil(clipBottom))) - y};
+}
+
+}  // namespace
+
+void paintGlass(CairoCanvas& canvas, const ui::Shape& shape, double sigma, const ui::Rgba& tint,
+                GlassCache& cache) {
+  cairo_t* const context = canvas.context();
+  const double sigmaInPixels = sigma * canvas.scaleFactor();
+  const cairo_rectangle_int_t pixels = pixelsAround(context, shape.rect, blurReach(sigmaInPixels));
+  if (tint.alpha < 1 && pixels.width > 0 && pixels.height > 0) {
+    SurfacePointer copy(
+        cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels.width, pixels.height));
+    {
+      const ContextPointer copying(cairo_create(copy.get()));
+      cairo_set_source_surface(copying.get(), cairo_get_target(context), -pixels.x, -pixels.y);
+      cairo_paint(copying.get());
+    }
+    cairo_surface_t* const blurred = cache.blurred(std::move(copy), sigmaInPixels);
+    canvas.save();
+    canvas.clip(shape);
+    cairo_identity_matrix(context);
+    cairo_set_source_surface(context, blurred, pixels.x, pixels.y);
+    cairo_paint(context);
+    canvas.restore();
+  }
+  canvas.fill(shape, ui::Paint::solid(tint));
+}
+
+ui::Rgba tintFor(const Appearance& appearance, ui::Rgba tint) {
+  if (appearance.reducesTransparency) {
+    tint.alpha = 1;
+  }
+  return tint;
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,61 @@
+// The search ends at the first pixel that differs, so that only what is found costs anything.
+#include "showroom/desktop/GlassCache.hpp"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include "desk/canvas/Blur.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+std::size_t bytesOf(cairo_surface_t* surface) {
+  return static_cast<std::size_t>(cairo_image_surface_get_stride(surface)) *
+         static_cast<std::size_t>(cairo_image_surface_get_height(surface));
+}
+
+bool areEqual(cairo_surface_t* first, cairo_surface_t* second) {
+  return cairo_image_surface_get_format(first) == cairo_image_surface_get_format(second) &&
+         cairo_image_surface_get_width(first) == cairo_image_surface_get_width(second) &&
+         bytesOf(first) == bytesOf(second) &&
+         std::memcmp(cairo_image_surface_get_data(first), cairo_image_surface_get_data(second),
+                     bytesOf(first)) == 0;
+}
+
+SurfacePointer copyOf(cairo_surface_t* picture) {
+  SurfacePointer copy(cairo_image_surface_create(cairo_image_surface_get_format(picture),
+                                                 cairo_image_surface_get_width(picture),
+                                                 cairo_image_surface_get_height(picture)));
+  std::memcpy(cairo_image_surface_get_data(copy.get()), cairo_image_surface_get_data(picture),
+              bytesOf(picture));
+  cairo_surface_mark_dirty(copy.get());
+  return copy;
+}
+
+}  // namespace
+
+cairo_surface_t* GlassCache::blurred(SurfacePointer picture, double sigma) {
+  cairo_surface_flush(picture.get());
+  const auto found = std::ranges::find_if(kept_, [&](const Kept& kept) {
+    return kept.sigma == sigma && areEqual(kept.picture.get(), picture.get());
+  });
+  if (found != kept_.end()) {
+    kept_.splice(kept_.begin(), kept_, found);
+    return kept_.front().blurred.get();
+  }
+  ++blurCount_;
+  SurfacePointer copy = copyOf(picture.get());
+  blurSurface(copy.get(), sigma, BlurEdge::extended);
+  const std::size_t bytes = 2 * bytesOf(picture.get());
+  kept_.push_front({std::move(picture), sigma, std::move(copy), bytes});
+  bytes_ += bytes;
+  while (bytes_ > byteLimit_ && kept_.size() > 1) {
+    bytes_ -= kept_.back().bytes;
+    kept_.pop_back();
+  }
+  return kept_.front().blurred.get();
+}
+
+}  // namespace orvane::desk

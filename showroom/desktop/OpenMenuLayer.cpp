@@ -1,0 +1,114 @@
+// The menu by the measures that it was laid out by.
+#include "showroom/desktop/OpenMenuLayer.hpp"
+
+#include "showroom/desktop/FileDragArt.hpp"
+#include "showroom/desktop/Glass.hpp"
+#include "showroom/desktop/Rects.hpp"
+#include "showroom/desktop/WindowArt.hpp"
+
+#include "Orvane/ui/StandardColors.hpp"
+#include "desk/windows/MenuMetrics.hpp"
+#include "desk/windows/Surfaces.hpp"
+#include "desk/windows/WindowServer.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+constexpr ui::PaintShadow menuShadow{{0, 0, 0, 0.28}, 20, {0, 6}};
+constexpr double sideInset = 5;
+
+ui::Rgba ink(const Machine& machine, double opacity) {
+  return machine.appearance.isDark ? ui::Rgba{1, 1, 1, opacity} : ui::Rgba{0, 0, 0, opacity};
+}
+
+ui::Rgba resolved(const Machine& machine, const ui::Color& color) {
+  return color.resolve(HostedView::appearanceOf(machine), ui::standardColor);
+}
+
+void paintRow(CairoCanvas& canvas, WindowServer& server, const MenuRow& row) {
+  const appkit::MenuItem& item = server.menus.menu()->items[row.itemIndex];
+  const ui::Rect frame = rectOf(row.frame);
+  const bool isHighlighted = server.menus.highlighted() == row.itemIndex;
+  const ui::Shape highlight =
+      ui::Shape::roundedRectangle(frame.inset(ui::Edges::horizontal(sideInset)), 5);
+  if (row.view != nullptr) {
+    if (isHighlighted) {
+      // As rows highlight themselves under the pointer.
+      canvas.fill(ui::Shape::roundedRectangle(frame.inset(ui::Edges::horizontal(3).vertical(2)), 6),
+                  ui::Paint::solid(ink(server.machine(), 0.08)));
+    }
+    paintView(canvas, server, *row.view, frame.origin());
+    return;
+  }
+  if (item.isSeparator) {
+    canvas.fill(ui::Shape::rectangle({frame.x + 10, frame.center().y - 0.5, frame.width - 20, 1}),
+                ui::Paint::solid(ink(server.machine(), 0.14)));
+    return;
+  }
+  if (isHighlighted) {
+    canvas.fill(highlight,
+                ui::Paint::solid(resolved(server.machine(), ui::Color::accent().buttonFill())));
+  }
+  const ui::Rgba color = isHighlighted
+                             ? resolved(server.machine(), ui::Color::accent().buttonLabel())
+                             : ink(server.machine(), item.isEnabled ? 0.85 : 0.26);
+  if (server.menus.menu()->checkedIndex == static_cast<int>(row.itemIndex)) {
+    canvas.symbol("checkmark", ui::Font::system(11, ui::Weight::semibold), color,
+                  {frame.x + 8, frame.y + 4, 14, 14});
+  }
+  canvas.text(item.title, MenuMetrics::font, color,
+              {frame.x + MenuMetrics::titleInset, frame.y + MenuMetrics::baseline});
+}
+
+void paintMenu(CairoCanvas& canvas, WindowServer& server, GlassCache& glass) {
+  server.menus.layOut();
+  const bool isDark = server.machine().appearance.isDark;
+  const ui::Shape shape =
+      ui::Shape::roundedRectangle(rectOf(server.menus.frame()), MenuMetrics::cornerRadius);
+  canvas.shadow(shape, menuShadow);
+  paintGlass(canvas, shape, glassSigma, tintFor(server.machine().appearance, menuTint(isDark)),
+             glass);
+  for (const MenuRow& row : server.menus.rows()) {
+    paintRow(canvas, server, row);
+  }
+  paintMenuEdge(canvas, shape, isDark);
+}
+
+void paintTooltip(CairoCanvas& canvas, WindowServer& server, const ui::Rect& screen) {
+  const Tooltips::Shown& shown = *server.tooltips.shown();
+  const ui::Font font = ui::Font::system(11);
+  const double width = server.resources().shaper.measure(shown.text, font).width + 12;
+  const double x = std::min(shown.place.x, screen.right() - width - 4);
+  const ui::Rect frame{x, shown.place.y + 22, width, 19};
+  const bool isDark = server.machine().appearance.isDark;
+  const ui::Shape shape = ui::Shape::roundedRectangle(frame, 4);
+  canvas.shadow(shape, {{0, 0, 0, 0.25}, 6, {0, 2}});
+  canvas.fill(shape, ui::Paint::solid(isDark ? ui::Rgba{0.2, 0.2, 0.21, 1}
+                                             : ui::Rgba{0.95, 0.95, 0.95, 1}));
+  paintMenuEdge(canvas, shape, isDark);
+  canvas.text(shown.text, font, ink(server.machine(), 0.85), {frame.x + 6, frame.y + 13.5});
+}
+
+}  // namespace
+
+void OpenMenuLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+  WindowServer* const server = WindowServer::of(scene.machine);
+  if (server == nullptr) {
+    return;
+  }
+  const bool isWanted = !scene.onlySurface || *scene.onlySurface == Surfaces::menu;
+  if (server->menus.isOpen() && isWanted && server->menus.displayIndex() == display.displayIndex) {
+    paintMenu(display.canvas, *server, display.glass);
+  }
+  const auto& tooltip = server->tooltips.shown();
+  if (tooltip && !scene.onlySurface &&
+      display.frame.contains({tooltip->place.x, tooltip->place.y})) {
+    paintTooltip(display.canvas, *server, display.frame);
+  }
+  if (server->pointer.fileDrag() && !scene.onlySurface) {
+    paintFileDrag(display.canvas, *server);
+  }
+}
+
+}  // namespace orvane::desk

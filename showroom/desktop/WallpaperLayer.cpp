@@ -1,0 +1,39 @@
+// A wallpaper is drawn once for each size and then copied pixel by pixel.
+#include "showroom/desktop/WallpaperLayer.hpp"
+
+#include "showroom/desktop/WallpaperArt.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+/// More than a desk has displays; while a window is resized, older sizes are dropped.
+constexpr std::size_t keptLimit = 8;
+
+}  // namespace
+
+void WallpaperLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+  const Appearance& appearance = scene.machine.appearance;
+  const Key key{appearance.wallpaper, appearance.isDark, display.pixels.width,
+                display.pixels.height};
+  if (!kept_.contains(key)) {
+    if (kept_.size() >= keptLimit) {
+      kept_.clear();
+    }
+    SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, display.pixels.width,
+                                                      display.pixels.height));
+    const ContextPointer context(cairo_create(surface.get()));
+    paintWallpaper(context.get(), appearance.wallpaper, appearance.isDark, display.pixels.width,
+                   display.pixels.height);
+    kept_.emplace(key, std::move(surface));
+  }
+  cairo_t* const context = display.canvas.context();
+  cairo_save(context);
+  cairo_identity_matrix(context);
+  cairo_set_source_surface(context, kept_.at(key).get(), display.pixels.x, display.pixels.y);
+  cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
+  cairo_paint(context);
+  cairo_restore(context);
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,23 @@
+// WallpaperLayer paints the wallpaper that the user chose, and keeps what it painted.
+#pragma once
+
+#include <map>
+#include <tuple>
+
+#include "showroom/desktop/DesktopLayer.hpp"
+
+#include "desk/canvas/CairoPointers.hpp"
+
+namespace orvane::desk {
+
+class WallpaperLayer : public DesktopLayer {
+ public:
+  void paint(const DesktopScene& scene, const DisplayCanvas& display) override;
+
+ private:
+  /// The wallpaper, dark or not, width and height in pixels.
+  using Key = std::tuple<Appearance::Wallpaper, bool, int, int>;
+  std::map<Key, SurfacePointer> kept_;
+};
+
+}  // namespace orvane::desk

@@ -1,0 +1,32 @@
+// Windows back to front; those that are nowhere near the display are left out.
+#include "showroom/desktop/WindowLayer.hpp"
+
+#include "showroom/desktop/WindowArt.hpp"
+
+#include "desk/windows/Surfaces.hpp"
+#include "desk/windows/WindowServer.hpp"
+
+namespace orvane::desk {
+
+void WindowLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+  WindowServer* const server = WindowServer::of(scene.machine);
+  if (server == nullptr) {
+    return;
+  }
+  for (const auto& window : server->windows()) {
+    const bool isAbove = window->level >= appkit::WindowLevel::status;
+    const bool isWanted = !scene.onlySurface || *scene.onlySurface == Surfaces::nameOf(*window);
+    if (!server->isVisible(*window) || !isWanted || isAbove != (part_ == Part::aboveMenuBar)) {
+      continue;
+    }
+    const CGPoint corner = server->topLeftOf(*window);
+    const ui::Rect frame{corner.x, corner.y, window->frame.size.width, window->frame.size.height};
+    if (frame.inset(-windowShadowReach).intersects(display.frame)) {
+      display.canvas.save();
+      paintWindow(display.canvas, *server, *window, display.glass);
+      display.canvas.restore();
+    }
+  }
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,21 @@
+// WindowLayer paints the windows of the window server: those below the Dock and the menu bar, or
+// those above.
+#pragma once
+
+#include "showroom/desktop/DesktopLayer.hpp"
+
+namespace orvane::desk {
+
+class WindowLayer : public DesktopLayer {
+ public:
+  enum class Part { belowMenuBar, aboveMenuBar };
+
+  explicit WindowLayer(Part part) : part_(part) {}
+
+  void paint(const DesktopScene& scene, const DisplayCanvas& display) override;
+
+ private:
+  Part part_;
+};
+
+}  // namespace orvane::desk

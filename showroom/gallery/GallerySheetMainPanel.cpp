@@ -1,0 +1,155 @@
+// The components that the main panel is built from.
+#include <algorithm>
+#include <iterator>
+
+#include "showroom/gallery/GallerySheet.hpp"
+
+#include "Orvane/panels/main/DisplayChoiceCard.hpp"
+#include "Orvane/panels/main/DockPanel.hpp"
+#include "Orvane/panels/main/PanelIcon.hpp"
+#include "Orvane/panels/main/StatusPill.hpp"
+#include "Orvane/panels/main/TrafficLightButton.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+using ui::Color;
+using ui::Font;
+using ui::View;
+using ui::Weight;
+
+struct CardTexts {
+  std::string english;
+  std::string chinese;
+};
+
+const CardTexts builtInName{"Built-in Display", "内建显示器"};
+const CardTexts longName{"Conference Room Television on the Left Wall (2)",
+                         "左侧墙面上的会议室超宽电视显示器（2）"};
+
+DisplayChoiceCard card(OrvaneLanguage language, const CardTexts& name, bool isSelected) {
+  DisplayChoiceCard shown;
+  shown.display.id = "gallery";
+  shown.display.name = language.localized(name.english, name.chinese);
+  shown.display.isBuiltIn = &name == &builtInName;
+  shown.fallbackLabel = language.localized("Studio Display", "Studio 显示器");
+  shown.roleLabel = shown.display.isBuiltIn ? language.localized("Main Display", "主显示器")
+                                            : language.localized("External Display", "外接显示器");
+  shown.isSelected = isSelected;
+  shown.action = [] {};
+  return shown;
+}
+
+GalleryItem cardItem(const std::string& caption, const CardTexts& name, bool isSelected,
+                     Hand hand = Hand::away, bool isDisabled = false) {
+  return {caption,
+          [name = &name, isSelected, isDisabled](OrvaneLanguage language) {
+            return View(card(language, *name, isSelected)).disabled(isDisabled);
+          },
+          hand};
+}
+
+GallerySheet cardSheet() {
+  static const CardTexts noName{"", ""};
+  return {.name = "display-choice-card",
+          .title = "DisplayChoiceCard",
+          .ground = GallerySheet::Ground::panel,
+          .items = {cardItem("normal", builtInName, false),
+                    cardItem("hovered", builtInName, false, Hand::over),
+                    cardItem("pressed", builtInName, false, Hand::pressing),
+                    cardItem("selected", builtInName, true),
+                    cardItem("selected, hovered", builtInName, true, Hand::over),
+                    cardItem("focused", builtInName, false, Hand::tabbing),
+                    cardItem("long name, selected", longName, true),
+                    cardItem("without a name", noName, false)}};
+}
+
+GalleryItem pillItem(const std::string& caption, const std::string& english,
+                     const std::string& chinese, bool isActive) {
+  return {caption, [=](OrvaneLanguage language) {
+            return View(StatusPill{language.localized(english, chinese), isActive});
+          }};
+}
+
+GallerySheet pillSheet() {
+  return {.name = "status-pill",
+          .title = "StatusPill",
+          .items = {pillItem("inactive", "Not Pinned", "未固定", false),
+                    pillItem("active", "Pinned", "已固定", true),
+                    pillItem("inactive", "Off", "未启用", false),
+                    pillItem("active", "Enabled", "已启用", true)}};
+}
+
+GalleryItem iconItem(const std::string& caption, const std::string& symbol, const Color& tint) {
+  return {caption, [=](OrvaneLanguage) { return View(PanelIcon{symbol, tint}); }};
+}
+
+GallerySheet iconSheet() {
+  return {.name = "panel-icon",
+          .title = "PanelIcon",
+          .hasTexts = false,
+          .items = {iconItem("pin", "lock", Color::accent()),
+                    iconItem("prevent, off", "eye.slash", Color::gray()),
+                    iconItem("prevent, on", "eye.slash", Color::accent()),
+                    iconItem("another tint", "lock.open", Color::orange())}};
+}
+
+GalleryItem lightItem(const std::string& caption, bool isClose, bool showsIcon,
+                      Hand hand = Hand::away) {
+  return {(isClose ? "close, " : "minimise, ") + caption,
+          [=](OrvaneLanguage) {
+            return View(isClose ? TrafficLightButton::close(showsIcon, "Close", [] {})
+                                : TrafficLightButton::minimise(showsIcon, "Minimise", [] {}));
+          },
+          hand};
+}
+
+std::vector<GalleryItem> lightItems(bool isClose) {
+  return {lightItem("normal", isClose, false), lightItem("cluster hovered", isClose, true),
+          lightItem("hovered", isClose, true, Hand::over),
+          lightItem("pressed", isClose, true, Hand::pressing)};
+}
+
+GallerySheet lightSheet() {
+  std::vector<GalleryItem> items = lightItems(true);
+  std::ranges::move(lightItems(false), std::back_inserter(items));
+  return {.name = "traffic-light-button",
+          .title = "TrafficLightButton",
+          .ground = GallerySheet::Ground::window,
+          .hasTexts = false,
+          .columns = 4,
+          .items = std::move(items)};
+}
+
+GallerySheet panelSheet() {
+  const auto panel = [](OrvaneLanguage language) {
+    const View words =
+        ui::VStack(3, ui::HorizontalAlignment::leading,
+                   {ui::Text(language.localized("Pin Dock to a Display", "固定 Dock 到指定显示器"))
+                        .font(Font::system(18, Weight::bold)),
+                    ui::Text(language.localized("Dock stays on the selected display",
+                                                "Dock 固定在选中的显示器"))
+                        .font(Font::system(13))
+                        .foreground(Color::secondary())});
+    return View(DockPanel{ui::HStack(
+                    14, {PanelIcon{"lock", Color::accent()}, words.layoutPriority(1), ui::Spacer(),
+                         StatusPill{language.localized("Pinned", "已固定"), true}})})
+        .width(560);
+  };
+  return {.name = "dock-panel",
+          .title = "DockPanel",
+          .ground = GallerySheet::Ground::window,
+          .columns = 1,
+          .items = {{"with the head of a panel", panel}}};
+}
+
+}  // namespace
+
+std::vector<GallerySheet> mainPanelSheets() {
+  return {cardSheet(), pillSheet(), iconSheet(), lightSheet(), panelSheet()};
+}
+
+}  // namespace orvane::desk

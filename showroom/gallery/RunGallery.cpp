@@ -1,0 +1,68 @@
+// A machine is needed for the stored language, which some components read by themselves, and for
+// the models of whole panels.
+#include "showroom/gallery/RunGallery.hpp"
+
+#include <array>
+#include <filesystem>
+#include <iostream>
+#include <system_error>
+
+#include "showroom/gallery/SheetPainter.hpp"
+
+#include "desk/canvas/ApplicationImages.hpp"
+#include "desk/canvas/PinnedFonts.hpp"
+#include "desk/canvas/PngFile.hpp"
+#include "desk/machine/MachineScope.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+struct NamedAppearance {
+  bool isDark;
+  bool increasesContrast;
+  /// Of the file's name, before its type.
+  const char* ending;
+};
+
+constexpr std::array<NamedAppearance, 4> appearances{{{false, false, "-light"},
+                                                      {true, false, "-dark"},
+                                                      {false, true, "-light-contrast"},
+                                                      {true, true, "-dark-contrast"}}};
+
+}  // namespace
+
+int runGallery(const std::string& directory) {
+  constexpr int unwritable = 2;
+  if (const auto message = missingFontsMessage()) {
+    std::cerr << "orvane-desk: " << *message << '\n';
+    return unwritable;
+  }
+  std::error_code error;
+  std::filesystem::create_directories(directory, error);
+  const MachineScope scope;
+  scope.machine().process.start();
+  DrawingResources resources;
+  addApplicationImages(resources.images);
+  for (const GallerySheet& sheet : gallerySheets()) {
+    for (const auto& [isDark, increasesContrast, ending] : appearances) {
+      const std::string name = sheet.name + ending + ".png";
+      SheetStyle style;
+      style.isDark = isDark;
+      style.increasesContrast = increasesContrast;
+      if (increasesContrast) {
+        // What matters then is the components' own; one wallpaper spares two thirds of the time.
+        style.wallpapers = {Appearance::Wallpaper::busy};
+      }
+      const SurfacePointer picture = paintSheet(sheet, style, scope.machine(), resources);
+      if (!writePng(picture.get(), std::filesystem::path(directory) / name)) {
+        std::cerr << "orvane-desk: cannot write " << name << " in " << directory << '\n';
+        return unwritable;
+      }
+      std::cout << name << std::endl;
+    }
+  }
+  return 0;
+}
+
+}  // namespace orvane::desk

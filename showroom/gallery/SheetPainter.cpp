@@ -1,0 +1,230 @@
+// Everything is laid out first, in points from the sheet's top left; then it is painted, because
+// glass needs to find behind it what it blurs.
+#include "showroom/gallery/SheetPainter.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <string>
+
+#include "showroom/desktop/Glass.hpp"
+#include "showroom/desktop/WallpaperArt.hpp"
+#include "showroom/desktop/WindowArt.hpp"
+#include "showroom/gallery/SheetGround.hpp"
+#include "showroom/gallery/Specimen.hpp"
+
+#include "Orvane/ui/StandardColors.hpp"
+#include "desk/canvas/PangoTextMeasurer.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+constexpr double sheetMargin = 24;
+constexpr double headHeight = 56;
+constexpr double bandTitleHeight = 26;
+/// Around the ground within its wallpaper, and around the components within their ground.
+constexpr double wallpaperBorder = 26;
+constexpr double groundPadding = 16;
+constexpr double captionHeight = 18;
+constexpr double rowSpacing = 10;
+constexpr double leastWidth = 360;
+
+const char* nameOf(Appearance::Wallpaper wallpaper) {
+  switch (wallpaper) {
+    case Appearance::Wallpaper::white:
+      return "over a white wallpaper";
+    case Appearance::Wallpaper::black:
+      return "over a black wallpaper";
+    case Appearance::Wallpaper::busy:
+      return "over a busy wallpaper";
+    case Appearance::Wallpaper::standard:
+      break;
+  }
+  return "over the desk's wallpaper";
+}
+
+/// The specimens of one language and the size of the cells that all of them fit into.
+struct Cells {
+  std::vector<std::unique_ptr<Specimen>> specimens;
+  ui::Size cell;
+};
+
+class SheetPainting {
+ public:
+  SheetPainting(const GallerySheet& sheet, const SheetStyle& style, Machine& machine,
+                DrawingResources& resources)
+      : sheet_(sheet), style_(style), resources_(resources) {
+    appearance_.dark = style.isDark;
+    appearance_.increaseContrast = style.increasesContrast;
+    std::vector<OrvaneLanguage> languages = style.languages;
+    if (!sheet.hasTexts) {
+      languages.resize(1, OrvaneLanguage::english);
+    }
+    for (const OrvaneLanguage language : languages) {
+      addCells(language, machine);
+    }
+    if (sheet.ground == GallerySheet::Ground::dialogue) {
+      // Nothing shines through.
+      wallpapers_.resize(1);
+    } else if (isWholeWindow(sheet.ground)) {
+      wallpapers_ = {Appearance::Wallpaper::standard};
+    }
+    columns_ = std::min(sheet.columns, sheet.items.size());
+    rows_ = (sheet.items.size() + columns_ - 1) / columns_;
+  }
+
+  SurfacePointer painted() {
+    const ui::Size size = sheetSize();
+    SurfacePointer surface(cairo_image_surface_create(
+        CAIRO_FORMAT_ARGB32, static_cast<int>(std::ceil(size.width * style_.scale)),
+        static_cast<int>(std::ceil(size.height * style_.scale))));
+    CairoCanvas canvas(surface.get(), style_.scale, resources_);
+    canvas.fill(ui::Shape::rectangle({0, 0, size.width, size.height}), paper());
+    paintHead(canvas);
+    double top = headHeight;
+    for (const Appearance::Wallpaper wallpaper : wallpapers_) {
+      canvas.text(nameOf(wallpaper), ui::Font::system(12, ui::Weight::medium), ink(0.6),
+                  {sheetMargin, top + 16});
+      paintBand(canvas, wallpaper,
+                {sheetMargin, top + bandTitleHeight, bandSize().width, bandSize().height});
+      top += bandTitleHeight + bandSize().height + rowSpacing;
+    }
+    return surface;
+  }
+
+ private:
+  void addCells(OrvaneLanguage language, Machine& machine) {
+    machine.userDefaults.set(OrvaneLanguage::defaultsKey, std::string(language.rawValue()));
+    Cells cells;
+    for (const GalleryItem& item : sheet_.items) {
+      cells.specimens.push_back(
+          std::make_unique<Specimen>(item, language, appearance_, text_, resources_));
+      const ui::Size size = cells.specimens.back()->size();
+      const double captionWidth =
+          resources_.shaper.measure(item.caption, captionFont).width + 2 * Specimen::margin;
+      cells.cell.width = std::max({cells.cell.width, size.width, captionWidth});
+      cells.cell.height = std::max(cells.cell.height, size.height);
+    }
+    cell_.width = std::max(cell_.width, std::ceil(cells.cell.width));
+    languages_.push_back(std::move(cells));
+  }
+
+  [[nodiscard]] double rowHeight(const Cells& cells) const {
+    return std::ceil(cells.cell.height) + captionHeight;
+  }
+
+  [[nodiscard]] ui::Size groundSize() const {
+    double height = 2 * groundPadding - rowSpacing;
+    for (const Cells& cells : languages_) {
+      height += static_cast<double>(rows_) * (rowHeight(cells) + rowSpacing);
+    }
+    return {static_cast<double>(columns_) * cell_.width + 2 * groundPadding, height};
+  }
+
+  [[nodiscard]] ui::Size bandSize() const {
+    const ui::Size ground = groundSize();
+    return {std::max(ground.width + 2 * wallpaperBorder, leastWidth),
+            ground.height + 2 * wallpaperBorder};
+  }
+
+  [[nodiscard]] ui::Size sheetSize() const {
+    const auto bands = static_cast<double>(wallpapers_.size());
+    return {bandSize().width + 2 * sheetMargin,
+            headHeight + bands * (bandTitleHeight + bandSize().height + rowSpacing) + sheetMargin -
+                rowSpacing};
+  }
+
+  [[nodiscard]] ui::Rgba ink(double opacity) const {
+    return style_.isDark ? ui::Rgba{1, 1, 1, opacity} : ui::Rgba{0, 0, 0, opacity};
+  }
+
+  [[nodiscard]] ui::Paint paper() const {
+    return ui::Paint::solid(style_.isDark ? ui::Rgba{0.13, 0.13, 0.14, 1}
+                                          : ui::Rgba{0.97, 0.97, 0.97, 1});
+  }
+
+  void paintHead(CairoCanvas& canvas) const {
+    const ui::Font font = ui::Font::system(20, ui::Weight::bold);
+    canvas.text(sheet_.title, font, ink(0.9), {sheetMargin, 38});
+    const double width = resources_.shaper.measure(sheet_.title, font).width;
+    canvas.text(std::string(style_.isDark ? "dark" : "light") +
+                    (style_.increasesContrast ? ", Increase Contrast" : ""),
+                ui::Font::system(13), ink(0.6), {sheetMargin + width + 10, 38});
+  }
+
+  void paintBand(CairoCanvas& canvas, Appearance::Wallpaper wallpaper, const ui::Rect& band) {
+    canvas.save();
+    canvas.clip(ui::Shape::rectangle(band));
+    canvas.transform(ui::Transform::translation(band.origin()));
+    paintWallpaper(canvas.context(), wallpaper, style_.isDark, band.width, band.height);
+    const ui::Rect ground = ui::Rect{0, 0, band.width, band.height}.inset(wallpaperBorder);
+    if (!isWholeWindow(sheet_.ground)) {
+      paintGround(canvas, sheet_.ground, ground, appearance_, text_, resources_);
+    }
+    paintRows(canvas, ground);
+    canvas.restore();
+  }
+
+  void paintRows(CairoCanvas& canvas, const ui::Rect& ground) {
+    double top = ground.y + groundPadding;
+    const double left =
+        std::round(ground.center().x - static_cast<double>(columns_) * cell_.width / 2);
+    for (const Cells& cells : languages_) {
+      for (std::size_t index = 0; index < cells.specimens.size(); ++index) {
+        const std::size_t column = index % columns_;
+        if (index > 0 && column == 0) {
+          top += rowHeight(cells) + rowSpacing;
+        }
+        paintCell(canvas, cells, index, {left + static_cast<double>(column) * cell_.width, top});
+      }
+      top += rowHeight(cells) + rowSpacing;
+    }
+  }
+
+  void paintCell(CairoCanvas& canvas, const Cells& cells, std::size_t index, ui::Point corner) {
+    const Specimen& specimen = *cells.specimens[index];
+    const ui::Size size = specimen.size();
+    const ui::Point place{corner.x + std::round((cell_.width - size.width) / 2),
+                          corner.y + std::round((cells.cell.height - size.height) / 2)};
+    canvas.save();
+    if (isWholeWindow(sheet_.ground)) {
+      const ui::Rect window = ui::Rect::from(place, size).inset(Specimen::margin);
+      paintGround(canvas, sheet_.ground, window, appearance_, text_, resources_);
+      canvas.clip(groundShape(sheet_.ground, window));
+    }
+    specimen.paint(canvas, place);
+    canvas.restore();
+    const std::string& caption = sheet_.items[index].caption;
+    const double width = resources_.shaper.measure(caption, captionFont).width;
+    const ui::Point baseline{corner.x + (cell_.width - width) / 2,
+                             corner.y + std::ceil(cells.cell.height) + 8};
+    if (isWholeWindow(sheet_.ground)) {
+      // The wallpaper lies around windows.
+      canvas.fill(ui::Shape::capsule({baseline.x - 8, baseline.y - 11, width + 16, 16}), paper());
+    }
+    canvas.text(caption, captionFont, ink(0.6), baseline);
+  }
+
+  static constexpr ui::Font captionFont = ui::Font::system(10);
+
+  const GallerySheet& sheet_;
+  const SheetStyle& style_;
+  ui::Appearance appearance_;
+  std::vector<Appearance::Wallpaper> wallpapers_ = style_.wallpapers;
+  DrawingResources& resources_;
+  PangoTextMeasurer text_;
+  std::vector<Cells> languages_;
+  ui::Size cell_;
+  std::size_t columns_ = 1;
+  std::size_t rows_ = 1;
+};
+
+}  // namespace
+
+SurfacePointer paintSheet(const GallerySheet& sheet, const SheetStyle& style, Machine& machine,
+                          DrawingResources& resources) {
+  return SheetPainting(sheet, style, machine, resources).painted();
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,112 @@
+// Each change goes to the machine's own part for it.
+#include "showroom/hardware/Hardware.hpp"
+
+#include <algorithm>
+
+#include "showroom/desktop/StandardDisplays.hpp"
+
+namespace orvane::desk {
+
+bool Hardware::canAttachDisplay() const {
+  for (std::size_t position = 0; position < standardDisplayCount; ++position) {
+    if (machine_.displays.find(standardDisplay(position).number) == nullptr) {
+      return true;
+    }
+  }
+  return false;
+}
+
+void Hardware::attachDisplay() {
+  attachNextStandardDisplay(machine_);
+  machine_.runDue();
+}
+
+void Hardware::detachDisplay(std::uint32_t number) {
+  if (machine_.displays.find(number) != nullptr) {
+    // It is attached, so there is nothing to complain about.
+    (void)machine_.displays.detach(number);
+    machine_.runDue();
+  }
+}
+
+void Hardware::makeMain(std::uint32_t number) {
+  if (machine_.displays.find(number) != nullptr) {
+    (void)machine_.displays.setMain(number);
+    machine_.runDue();
+  }
+}
+
+void Hardware::setEdge(DockEdge edge) {
+  machine_.preferences.set({Dock::preferencesDomain}, Dock::orientationKey,
+                           std::string(nameOf(edge)));
+  machine_.runDue();
+}
+
+void Hardware::setAutoHides(bool hides) {
+  machine_.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
+  machine_.runDue();
+}
+
+void Hardware::setTrusted(bool trusted) {
+  machine_.permission.setTrusted(trusted);
+  machine_.runDue();
+}
+
+void Hardware::setDark(bool isDark) {
+  machine_.appearance.isDark = isDark;
+  machine_.runDue();
+}
+
+void Hardware::setWallpaper(Appearance::Wallpaper wallpaper) {
+  machine_.appearance.wallpaper = wallpaper;
+  machine_.runDue();
+}
+
+const std::vector<LanguageList>& Hardware::languageLists() {
+  static const std::vector<LanguageList> lists{
+      {"English", {"en-US"}, "en_US"},
+      {"中文", {"zh-Hans-CN"}, "zh_CN"},
+      {"fr, zh", {"fr-FR", "zh-Hans-CN"}, "fr_FR"},
+      {"Deutsch", {"de-DE"}, "de_DE"},
+  };
+  return lists;
+}
+
+std::optional<std::size_t> Hardware::languageList() const {
+  const auto& lists = languageLists();
+  const auto found = std::find_if(lists.begin(), lists.end(), [&](const LanguageList& list) {
+    return list.preferred == machine_.locale.preferredLanguages &&
+           list.locale == machine_.locale.currentIdentifier;
+  });
+  if (found == lists.end()) {
+    return std::nullopt;
+  }
+  return static_cast<std::size_t>(found - lists.begin());
+}
+
+void Hardware::setLanguageList(std::size_t index) {
+  if (index < languageLists().size()) {
+    machine_.locale.preferredLanguages = languageLists()[index].preferred;
+    machine_.locale.currentIdentifier = languageLists()[index].locale;
+    machine_.runDue();
+  }
+}
+
+void Hardware::launch() {
+  application_.launch();
+}
+
+void Hardware::terminate() {
+  application_.terminate();
+}
+
+void Hardware::crash() {
+  application_.crash();
+  machine_.runDue();
+}
+
+void Hardware::reopen() {
+  application_.reopen();
+}
+
+}  // namespace orvane::desk

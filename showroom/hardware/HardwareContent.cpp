@@ -1,0 +1,92 @@
+// Reads the panel's values from the machine and the application.
+#include "showroom/hardware/HardwareContent.hpp"
+
+#include <cmath>
+
+namespace orvane::desk {
+
+namespace {
+
+std::string sizeText(const CGRect& frame) {
+  return std::to_string(std::lround(frame.size.width)) + " × " +
+         std::to_string(std::lround(frame.size.height));
+}
+
+std::vector<HardwareDisplay> displaysOf(const Machine& machine) {
+  std::vector<HardwareDisplay> displays;
+  const Display* const main = machine.displays.main();
+  for (const Display& display : machine.displays.all()) {
+    displays.push_back({display.number, display.name, sizeText(display.frame),
+                        main != nullptr && main->number == display.number});
+  }
+  return displays;
+}
+
+std::string dockText(const Machine& machine) {
+  const auto number = machine.dock.displayNumber();
+  const Display* const display = number ? machine.displays.find(*number) : nullptr;
+  return display == nullptr ? "nowhere" : display->name;
+}
+
+std::string statusText(const ApplicationHost& application) {
+  if (!application.isRunning()) {
+    return "Not running";
+  }
+  switch (application.snapshot().status) {
+    case OrvaneStatus::unlocked:
+      return "Unlocked";
+    case OrvaneStatus::locked:
+      return "Locked";
+    case OrvaneStatus::temporarilyUnlocked:
+      return "Unlocked for now";
+    case OrvaneStatus::needsCheck:
+      return "Needs a check";
+    case OrvaneStatus::targetMissing:
+      return "Display missing";
+    case OrvaneStatus::permissionRequired:
+      return "No permission";
+  }
+  return {};
+}
+
+std::string revealsText(const Machine& machine) {
+  std::int64_t sum = 0;
+  for (const auto& [number, count] : machine.dock.reveals()) {
+    sum += count;
+  }
+  return std::to_string(sum);
+}
+
+std::string blockedText(const ApplicationHost& application) {
+  return std::to_string(application.snapshot().guard.blockedCount);
+}
+
+}  // namespace
+
+HardwareContent HardwareContent::of(const Hardware& hardware, std::int64_t eventsPerSecond) {
+  const Machine& machine = hardware.machine();
+  const ApplicationHost& application = hardware.application();
+  HardwareContent content;
+  content.displays = displaysOf(machine);
+  content.canAttachDisplay = hardware.canAttachDisplay();
+  content.edge = machine.dock.edge();
+  content.autoHides = machine.dock.autoHides();
+  content.isTrusted = machine.permission.isTrusted();
+  content.isDark = machine.appearance.isDark;
+  content.wallpaper = machine.appearance.wallpaper;
+  content.languageList = hardware.languageList();
+  content.isRunning = hardware.isRunning();
+  content.showsZones = hardware.showsZones();
+  content.figures = {{"Dock on", dockText(machine)},
+                     {"Dock came up", revealsText(machine)},
+                     {"Orvane", statusText(application)},
+                     {"Moved back", blockedText(application)},
+                     {"Movements", std::to_string(machine.counters.hardwareMovements)},
+                     {"Events per second", std::to_string(eventsPerSecond)}};
+  if (!application.messages().empty()) {
+    content.message = application.messages().back().text;
+  }
+  return content;
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,29 @@
+// A row of the hardware panel that switches something on and off.
+#include "showroom/hardware/HardwareSwitch.hpp"
+
+#include "showroom/hardware/HardwareButtonStyle.hpp"
+
+#include "Orvane/app/CompactMenuSwitch.hpp"
+#include "Orvane/ui/Button.hpp"
+#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
+
+namespace orvane::desk {
+
+using namespace ui;
+
+View HardwareSwitch::body(const Environment& /*environment*/) const {
+  // On a plain plate the menu's track alone would hardly be seen while it is off.
+  const View knob = View(CompactMenuSwitch{isOn})
+                        .background(when(!isOn, Capsule().fill(Color::primary().opacity(0.16))));
+  const View row = HStack(8, {Text(title).lineLimit(1), Spacer(), knob}).height(30);
+  return Button([change = onChange, isOn = isOn] { change(!isOn); }, row)
+      .style(ui::BareButtonStyle{})
+      .focusRing(ShapeForm::rounded(6))
+      .accessibilityLabel(title)
+      .accessibilityRole(Role::toggle)
+      .accessibilityValue(isOn ? "1" : "0");
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,11 @@
+// The story that the tour tells.
+#pragma once
+
+#include "showroom/tour/TourStage.hpp"
+
+namespace orvane::desk {
+
+/// Plays all steps on the stage, whose machine must be new.
+void tellTour(TourStage& stage);
+
+}  // namespace orvane::desk

@@ -1,0 +1,105 @@
+// Notes what the pointer does on its way to the machine.
+#include "showroom/window/DeskSession.hpp"
+
+#include <algorithm>
+
+#include "showroom/desktop/MenuClock.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
+
+#include "desk/windows/WindowServer.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+/// From midnight, when the machine is switched on, to 10:08.
+constexpr double secondsToMorning = (10 * 60 + 8) * 60;
+
+}  // namespace
+
+DeskSession::DeskSession(std::size_t displayCount)
+    : application_(scope_.machine()), hardware_(scope_.machine(), application_) {
+  const std::size_t wanted = std::clamp<std::size_t>(displayCount, 1, standardDisplayCount);
+  for (std::size_t position = 0; position < wanted; ++position) {
+    attachNextStandardDisplay(machine());
+  }
+  const CGRect first = machine().displays.globalFrames().front();
+  machine().mouse.moveTo({first.size.width / 2, first.size.height / 2});
+  // The landscape is one by day, so the clock begins by day too.
+  machine().advance(secondsToMorning);
+  machine().permission.setTrusted(true);
+  application_.launch();
+}
+
+void DeskSession::movePointerBy(double dx, double dy) {
+  Machine& desk = machine();
+  const PointerMovement movement = desk.mouse.moveBy(dx, dy);
+  if (movement.outcome == PointerMovement::Outcome::none) {
+    return;
+  }
+  desk.runDue();
+  rate_.note(desk.clock.now(), 1);
+  if (movement.outcome == PointerMovement::Outcome::movedBack) {
+    movedBack_ = MovedBack{movement.wanted, movement.reached, 1};
+    movedBackAt_ = desk.clock.now();
+  }
+}
+
+void DeskSession::advance(std::int64_t nanoseconds) {
+  machine().runLoop.advance(nanoseconds);
+}
+
+std::optional<MovedBack> DeskSession::movedBack() const {
+  const std::int64_t age = machine().clock.now() - movedBackAt_;
+  if (!movedBack_ || age >= markNanoseconds) {
+    return std::nullopt;
+  }
+  MovedBack mark = *movedBack_;
+  mark.strength = 1 - static_cast<double>(age) / static_cast<double>(markNanoseconds);
+  return mark;
+}
+
+DesktopScene DeskSession::scene() const {
+  DesktopScene scene(machine(), application_);
+  scene.showsZones = hardware_.showsZones();
+  scene.movedBack = movedBack();
+  return scene;
+}
+
+std::int64_t DeskSession::eventsPerSecond() const {
+  return rate_.perSecond(machine().clock.now());
+}
+
+std::int64_t DeskSession::nanosecondsToNextChange() const {
+  const Machine& desk = machine();
+  const std::int64_t now = desk.clock.now();
+  const double shown = desk.dock.shownFraction();
+  const bool slides = shown > 0 && shown < 1;
+  const bool begins = desk.dock.displayNumber() && shown != (desk.dock.isVisible() ? 1.0 : 0.0);
+  if (slides || begins || movedBack()) {
+    return 0;
+  }
+  std::int64_t next = nanosecondsToNextMinute(desk.clock);
+  if (const auto due = desk.runLoop.nextDue()) {
+    next = std::min(next, std::max<std::int64_t>(*due - now, 0));
+  }
+  if (eventsPerSecond() > 0) {
+    next = std::min(next, std::max<std::int64_t>(rate_.nextChangeAt() - now, 0));
+  }
+  return next;
+}
+
+HardwareContent DeskSession::hardwareContent(bool isMouseHeld) const {
+  HardwareContent content = HardwareContent::of(hardware_, eventsPerSecond());
+  content.hint =
+      isMouseHeld ? "The desk holds the mouse and has the keys. Escape gives it back."
+                  : "Click a screen, and the desk holds the mouse: edges can be pressed against.";
+  return content;
+}
+
+std::uint32_t DeskSession::pointerDisplayNumber() const {
+  const auto index = machine().pointer.displayIndex();
+  return index ? machine().displays.all()[*index].number : 0;
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,110 @@
+// Thin: what the window shows and does is decided elsewhere.
+#include "showroom/window/SdlWindow.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+constexpr int smallestWidth = 960;
+constexpr int smallestHeight = 640;
+
+/// Without a display SDL falls back on drivers that draw where nobody sees it. Whoever asks for one
+/// of them by name has a reason and may have it.
+bool isInvisible(const char* driver) {
+  const std::string name = driver == nullptr ? "" : driver;
+  return SDL_getenv("SDL_VIDEODRIVER") == nullptr &&
+         (name == "offscreen" || name == "dummy" || name == "evdev");
+}
+
+}  // namespace
+
+std::unique_ptr<SdlWindow> SdlWindow::open(int width, int height, std::string& complaint) {
+  SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
+  SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+  // The pictures come from the processor, and go to the screen without a detour through OpenGL,
+  // which may be the processor's, too.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+  if (SDL_Init(SDL_INIT_VIDEO) != 0) {
+    complaint = SDL_GetError();
+    return nullptr;
+  }
+  // From here on the destructor ends SDL again.
+  std::unique_ptr<SdlWindow> result(new SdlWindow);
+  if (isInvisible(SDL_GetCurrentVideoDriver())) {
+    complaint = "there is no display";
+    return nullptr;
+  }
+  result->window_.reset(SDL_CreateWindow("Orvane desk", SDL_WINDOWPOS_CENTERED,
+                                         SDL_WINDOWPOS_CENTERED, width, height,
+                                         SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
+  if (!result->window_) {
+    complaint = SDL_GetError();
+    return nullptr;
+  }
+  SDL_SetWindowMinimumSize(result->window_.get(), smallestWidth, smallestHeight);
+  if (SDL_GetWindowSurface(result->window_.get()) == nullptr || !result->updateSize()) {
+    complaint = SDL_GetError();
+    return nullptr;
+  }
+  return result;
+}
+
+SdlWindow::~SdlWindow() {
+  window_.reset();
+  SDL_Quit();
+}
+
+bool SdlWindow::updateSize() {
+  int width = 0;
+  int height = 0;
+  int pointWidth = 0;
+  int pointHeight = 0;
+  SDL_GetWindowSizeInPixels(window_.get(), &width, &height);
+  SDL_GetWindowSize(window_.get(), &pointWidth, &pointHeight);
+  if (width <= 0 || height <= 0 || pointWidth <= 0) {
+    return false;
+  }
+  if (surface_ && cairo_image_surface_get_width(surface_.get()) == width &&
+      cairo_image_surface_get_height(surface_.get()) == height) {
+    return false;
+  }
+  pixelRatio_ = static_cast<double>(width) / pointWidth;
+  picture_.reset();
+  surface_.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  // Both keep a pixel as one 32-bit number with alpha at the top; the picture has no transparency.
+  picture_.reset(SDL_CreateRGBSurfaceWithFormatFrom(
+      cairo_image_surface_get_data(surface_.get()), width, height, 32,
+      cairo_image_surface_get_stride(surface_.get()), SDL_PIXELFORMAT_XRGB8888));
+  return picture_ != nullptr && cairo_surface_status(surface_.get()) == CAIRO_STATUS_SUCCESS;
+}
+
+void SdlWindow::present() {
+  cairo_surface_flush(surface_.get());
+  // The window's own surface is another one after each change of its size.
+  if (SDL_Surface* const shown = SDL_GetWindowSurface(window_.get())) {
+    SDL_BlitSurface(picture_.get(), nullptr, shown, nullptr);
+    SDL_UpdateWindowSurface(window_.get());
+  }
+}
+
+int SdlWindow::framesPerSecond() const {
+  constexpr int usual = 60;
+  SDL_DisplayMode mode;
+  const int display = SDL_GetWindowDisplayIndex(window_.get());
+  if (display < 0 || SDL_GetCurrentDisplayMode(display, &mode) != 0 || mode.refresh_rate <= 0) {
+    return usual;
+  }
+  return mode.refresh_rate;
+}
+
+void SdlWindow::showCursor(bool shows) {
+  SDL_ShowCursor(shows ? SDL_ENABLE : SDL_DISABLE);
+}
+
+void SdlWindow::holdMouse(bool hold) {
+  if (hold != isMouseHeld_ && SDL_SetRelativeMouseMode(hold ? SDL_TRUE : SDL_FALSE) == 0) {
+    isMouseHeld_ = hold;
+  }
+}
+
+}  // namespace orvane::desk
