@@ -51,14 +51,15 @@ View SettingsSection::body(const Environment& environment) const {
   const bool isHovered = hover.value();
   const bool isDark = environment.isDark();
 
-  const View header =
-      HStack(headerSpacing,
-             {Symbol(systemImage)
-                  .font(Font::system(15, Weight::semibold))
-                  .foreground(tint)
-                  .frame(symbolWidth, titleHeight)
-                  .scale(isHovered ? 1.06 : 1),
-              Text(title).font(Font::system(14, Weight::bold)).accessibilityRole(Role::heading)});
+  const View header = HStack(headerSpacing, {Symbol(systemImage)
+                                                 .font(Font::system(15, Weight::semibold))
+                                                 .foreground(tint)
+                                                 .frame(symbolWidth, titleHeight)
+                                                 .scale(isHovered ? 1.06 : 1),
+                                             Text(title)
+                                                 .font(Font::system(14, Weight::bold))
+                                                 .lineHeight(titleHeight)
+                                                 .accessibilityRole(Role::heading)});
   const double radius = isHovered ? 12 : 8;
   const double drop = isHovered ? 5 : 3;
   const View surface =
