@@ -48,9 +48,11 @@ View StatusMenuRow::content(bool isHovered) const {
           .truncationMode(TruncationMode::middle)
           .frame({.height = 26, .maximumWidth = infinity, .alignment = Alignment::leading()})
           .padding(Edge::leading, 8);
-  return HStack(0, {iconBadge(), line,
-                    isOn ? View(CompactMenuSwitch{*isOn}).padding(Edge::leading, switchSpacing)
-                         : View()})
+  const View toggle = isOn ? View(CompactMenuSwitch{*isOn})
+                                 .opacity(isEnabled ? 1 : disabledOpacity)
+                                 .padding(Edge::leading, switchSpacing)
+                           : View();
+  return HStack(0, {iconBadge(), line, toggle})
       .padding(Edges{.leading = 14, .trailing = 8})
       .frame(rowWidth, rowHeight)
       .background(RoundedRectangle(6)

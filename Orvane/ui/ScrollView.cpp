@@ -67,20 +67,21 @@ class ScrollElement final : public WrapperElement {
 
 class ScrollTargetElement final : public WrapperElement {
  public:
-  ScrollTargetElement(View content, bool isWanted)
-      : WrapperElement(std::move(content)), isWanted_(isWanted) {}
+  ScrollTargetElement(View content, std::optional<std::size_t> wantedPlace)
+      : WrapperElement(std::move(content)), wantedPlace_(wantedPlace) {}
 
   void build(Node& node, Builder& builder) const override {
-    const auto* const wasWanted = std::any_cast<bool>(&node.data);
-    if (isWanted_ && (wasWanted == nullptr || !*wasWanted)) {
+    const auto* const before = std::any_cast<std::optional<std::size_t>>(&node.data);
+    if (wantedPlace_ && (before == nullptr || *before != wantedPlace_)) {
       builder.scrollIntoView(node, node.isNew ? std::nullopt : node.curve);
     }
-    node.data = isWanted_;
+    node.data = wantedPlace_;
     WrapperElement::build(node, builder);
   }
 
  private:
-  bool isWanted_;
+  // None for a view that is not wanted.
+  std::optional<std::size_t> wantedPlace_;
 };
 
 }  // namespace
@@ -88,8 +89,8 @@ class ScrollTargetElement final : public WrapperElement {
 ScrollView::ScrollView(const View& content, double margin)
     : View(std::make_shared<ScrollElement>(content, margin)) {}
 
-View View::scrollsIntoView(bool isWanted) const {
-  return modified<ScrollTargetElement>(*this, isWanted);
+View View::scrollsIntoView(bool isWanted, std::size_t place) const {
+  return modified<ScrollTargetElement>(*this, isWanted ? std::optional(place) : std::nullopt);
 }
 
 const ScrollData* scrollData(const Node& node) {

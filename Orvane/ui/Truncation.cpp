@@ -2,6 +2,9 @@
 #include "Orvane/ui/Truncation.hpp"
 
 #include <algorithm>
+#include <optional>
+#include <string_view>
+#include <utility>
 
 namespace orvane::ui {
 
@@ -17,6 +20,24 @@ std::string withoutTrailingBlanks(std::string text) {
   return text;
 }
 
+// Where a bracket begins that is open there, and where it ends; none outside of brackets.
+struct Brackets {
+  std::size_t begin;
+  std::size_t end;
+};
+
+std::optional<Brackets> bracketsAround(const std::string& line, std::size_t place) {
+  std::optional<Brackets> found;
+  for (const auto& [opening, closing] : {std::pair{"(", ")"}, std::pair{"（", "）"}}) {
+    const std::size_t begin = place == 0 ? std::string::npos : line.rfind(opening, place - 1);
+    const std::size_t end = begin == std::string::npos ? begin : line.find(closing, begin);
+    if (end != std::string::npos && end >= place) {
+      found = Brackets{begin, end + std::string_view(closing).size()};
+    }
+  }
+  return found;
+}
+
 // Where the end begins that is kept of a line cut in the middle.
 std::size_t startOfEnd(const std::string& line, const std::vector<std::size_t>& places, double room,
                        const std::function<double(const std::string&)>& widthOf) {
@@ -28,7 +49,15 @@ std::size_t startOfEnd(const std::string& line, const std::vector<std::size_t>& 
   start = std::min(line.find_first_not_of(' ', start), line.size());
   const std::size_t blank = start == 0 ? std::string::npos : line.rfind(' ', start - 1);
   const std::size_t word = blank == std::string::npos ? 0 : blank + 1;
-  return fits(word, largestEndShare) ? word : start;
+  if (fits(word, largestEndShare)) {
+    return word;
+  }
+  // Half a bracket says nothing.
+  const std::optional<Brackets> brackets = bracketsAround(line, start);
+  if (!brackets) {
+    return start;
+  }
+  return fits(brackets->begin, largestEndShare) ? brackets->begin : brackets->end;
 }
 
 }  // namespace

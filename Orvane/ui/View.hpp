@@ -115,9 +115,10 @@ class View {
   // Without hit testing the pointer passes through the view and everything in it.
   View hitTesting(bool isAllowed) const;
 
-  // What scrolls around the view brings it into sight when it comes, or later becomes, wanted: at
-  // once where it comes so, else along the animation of the update.
-  View scrollsIntoView(bool isWanted) const;
+  // What scrolls around the view brings it into sight when it comes, or later becomes, wanted, and
+  // when a wanted one has got another place among its siblings: at once where it comes so, else
+  // along the animation of the update.
+  View scrollsIntoView(bool isWanted, std::size_t place = 0) const;
 
   // Change over time. When the value differs from the one before, what changed in this view with
   // the same update travels along the curve, and without a curve is there at once, whatever

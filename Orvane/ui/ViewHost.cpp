@@ -208,7 +208,10 @@ void ViewHost::paint(Canvas& canvas, const Rect& dirty) const {
     if (ring->clip) {
       canvas.clip(Shape::rectangle(*ring->clip));
     }
-    const Color color = Color::accent().opacity(0.6);
+    // Against the lightest ground in the dark and the darkest one by day.
+    const Color color = appearance_.increaseContrast
+                            ? Color::accent().textOn(appearance_.dark ? 0.08 : 0.8)
+                            : Color::accent().opacity(0.6);
     canvas.stroke(ring->shape, Paint::solid(color.resolve(appearance_, colors_)), 3);
   }
   canvas.restore();

@@ -130,9 +130,11 @@ ui::TextMeasurer& textMeasurer() {
   [super layout];
   [self update];
   // In a menu the tool tips of views do not come, those of items do.
-  if (NSMenuItem* const item = self.enclosingMenuItem; item != nil) {
-    const auto tooltip = _host->tooltipAt({NSMidX(self.bounds), NSMidY(self.bounds)});
-    item.toolTip = tooltip ? appkit::foundationString(tooltip->text) : nil;
+  NSMenuItem* const item = self.enclosingMenuItem;
+  const auto tooltip = _host->tooltipAt({NSMidX(self.bounds), NSMidY(self.bounds)});
+  NSString* const text = tooltip ? appkit::foundationString(tooltip->text) : nil;
+  if (text != item.toolTip && ![text isEqualToString:item.toolTip]) {
+    item.toolTip = text;
   }
 }
 

@@ -86,7 +86,7 @@ void tellOfTheMenu(TourStage& stage) {
   stage.clickIcon(builtIn);
   stage.check(WindowServer::current().menus.isStatusMenuOpen(), "the menu is open");
   stage.keep("menu", Surfaces::menu);
-  stage.tell("A click on the lock opens the menu: two switches, the displays, and little else.");
+  stage.tell("A click on the lock opens the menu: three switches, the displays, and little else.");
 }
 
 void tellOfThePermission(TourStage& stage) {

@@ -26,7 +26,7 @@ class ScrollViewTest : public testing::Test {
         cards.push_back(Button([] {}, Rectangle().frame(cardWidth, 20))
                             .style(PlainButtonStyle{})
                             .accessibilityLabel(name)
-                            .scrollsIntoView(name == wanted)
+                            .scrollsIntoView(name == wanted, cards.size())
                             .id(name));
       }
       return ScrollView(HStack(10, std::move(cards)).animation(Curve::linear(1), wanted), margin);
@@ -59,6 +59,17 @@ TEST_F(ScrollViewTest, WhatIsWantedIsInSightAsSoonAsItAppears) {
   test.host->invalidate(Curve::linear(1));
   test.host->layoutIfNeeded();
   EXPECT_EQ(right("e"), 100 - margin);
+}
+
+TEST_F(ScrollViewTest, WhatIsWantedStaysInSightWhenOthersBeforeItGo) {
+  names = {"a", "b", "c", "d", "e", "f", "g", "h"};
+  want("h");
+  want("d");
+  test.at(10);
+  test.host->scroll({50, 20}, 1000, 0);
+  names = {"d", "e", "f", "g", "h"};
+  want("d");
+  EXPECT_EQ(left("d"), margin);
 }
 
 TEST_F(ScrollViewTest, WhatBecomesWantedTravelsIntoSight) {

@@ -12,17 +12,20 @@ namespace {
 
 const std::string ellipsis = "…";
 
+bool isStart(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
 double widthOf(const std::string& text) {
-  const auto isStart = [](char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-  };
   return static_cast<double>(std::ranges::count_if(text, isStart));
 }
 
 std::string cut(const std::string& line, TruncationMode mode, double width) {
   std::vector<std::size_t> places;
   for (std::size_t place = 0; place <= line.size(); ++place) {
-    places.push_back(place);
+    if (place == line.size() || isStart(line[place])) {
+      places.push_back(place);
+    }
   }
   return truncatedLine(line, places, mode, width, widthOf);
 }
@@ -41,6 +44,12 @@ TEST(TruncationTest, InTheMiddleTheEndBeginsWithAWholeWordWhereThereIsRoom) {
             "Laborato…Display (Main)");
   // "Display (Main)" would leave too little for the beginning.
   EXPECT_EQ(cut("Laboratory Display (Main)", TruncationMode::middle, 19), "Laborator…ay (Main)");
+}
+
+TEST(TruncationTest, InTheMiddleNoBracketIsCutInTwo) {
+  EXPECT_EQ(cut("LaboratoryDisplay(2)(Main)", TruncationMode::middle, 14), "Laborat…(Main)");
+  EXPECT_EQ(cut("LaboratoryDisplay(2)(Main)", TruncationMode::middle, 15), "Labor…(2)(Main)");
+  EXPECT_EQ(cut("Laboratory（Conference2）", TruncationMode::middle, 12), "Laboratory（…");
 }
 
 TEST(TruncationTest, InTheMiddleBothEndsAreTheLinesAndAllFits) {

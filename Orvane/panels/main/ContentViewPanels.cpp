@@ -123,13 +123,15 @@ View ContentView::displayPicker() const {
   const std::vector<DisplaySnapshot>& displays = model->displays().value();
   const OrvaneLanguage language = model->appLanguage().value();
   const auto card = [&](const DisplaySnapshot& display, std::size_t position) {
-    return DisplayChoiceCard{
-        .display = display,
-        .fallbackLabel = DisplayCardTexts::fallbackLabel(position, language),
-        .roleLabel = DisplayCardTexts::roleLabel(display, displays, language),
-        .isSelected = model->selectedDisplayID().value() == display.id,
-        .action = [model = model, id = display.id] { model->selectDisplay(id); },
-    };
+    const bool isSelected = model->selectedDisplayID().value() == display.id;
+    return View(DisplayChoiceCard{
+                    .display = display,
+                    .fallbackLabel = DisplayCardTexts::fallbackLabel(position, language),
+                    .roleLabel = DisplayCardTexts::roleLabel(display, displays, language),
+                    .isSelected = isSelected,
+                    .action = [model = model, id = display.id] { model->selectDisplay(id); },
+                })
+        .scrollsIntoView(isSelected, position);
   };
   const auto identify = [](const DisplaySnapshot& display) { return display.id; };
   std::vector<std::string> order;

@@ -59,7 +59,9 @@ View DisplayChoiceCard::surface(const Environment& environment, bool isRaised) c
   const bool isDark = environment.isDark();
   const double raised = isDark ? 0.14 : 0.2;
   const Color rim = OrvanePalette::outline(OrvanePalette::controlRim(isDark), environment);
-  const Color border = isSelected ? Color::accent() : rim;
+  const Color chosen =
+      environment.appearance.increaseContrast ? OrvanePalette::accentText(isDark) : Color::accent();
+  const Color border = isSelected ? chosen : rim;
   return RoundedRectangle(cornerRadius)
       .fill(Color::white().opacity(isRaised ? raised : 0.075))
       .strokeBorder(border, isSelected ? 1.3 : 0.8);
@@ -68,7 +70,7 @@ View DisplayChoiceCard::surface(const Environment& environment, bool isRaised) c
 View DisplayChoiceCard::checkBadge() const {
   return Symbol("checkmark")
       .font(Font::system(12, Weight::black))
-      .foreground(Color::white())
+      .foreground(Color::accent().buttonLabel())
       .frame(20, 20)
       .background(Circle().fill(Color::accent()))
       .padding(8)
@@ -93,8 +95,7 @@ View DisplayChoiceCard::body(const Environment& environment) const {
       .accessibilitySelected(isSelected)
       .scale(isRaised ? 1.012 : 1)
       .animation(Curve::easeOut(hoverSeconds), isHovered.value())
-      .onHover([isHovered](bool isInside) { isHovered.set(isInside); })
-      .scrollsIntoView(isSelected);
+      .onHover([isHovered](bool isInside) { isHovered.set(isInside); });
 }
 
 }  // namespace orvane

@@ -23,7 +23,7 @@ View PanelIcon::body(const Environment& /*environment*/) const {
   const Color light = Color::white();
   return Symbol(systemImage)
       .font(Font::system(24, Weight::bold))
-      .foreground(Color::white())
+      .foreground(tint.buttonLabel())
       .frame(side, side)
       .background(RoundedRectangle(tileRadius)
                       .castShadow({.color = tint.opacity(0.24), .radius = 7, .y = 3})

@@ -97,8 +97,9 @@ TEST_F(SettingsSectionTest, HasItsHeaderTwelvePointsAboveItsContentAndFillsTheWi
   EXPECT_EQ(title->role, ui::Role::heading);
   EXPECT_TRUE(draws("symbol globe 15/600 rgba(0.2 0.4 0.6 1)")) << drawing();
   EXPECT_TRUE(draws("text \"Title\" 14/700 rgba(0 0 0 0.85)")) << drawing();
-  // The header is 17 high, in the middle of which the title stands, however high the symbol is.
-  EXPECT_EQ(content->frame.y - (title->frame.y + title->frame.height), 12 + (17 - 14) / 2.0);
+  // The header is as high as its title's line, however high the symbol is.
+  EXPECT_EQ(title->frame.height, 17);
+  EXPECT_EQ(content->frame.y - title->frame.bottom(), 12);
   // The symbol's frame of 20 and 8 points between.
   EXPECT_EQ(title->frame.x - content->frame.x, 20 + 8);
   EXPECT_TRUE(draws(" 400 ")) << drawing();
