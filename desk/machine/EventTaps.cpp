@@ -57,6 +57,18 @@ void EventTaps::killAll() {
 }
 
 bool EventTaps::deliverToTaps(__CGEvent& event) {
+  return witness_ == nullptr ? deliverInOrder(event) : deliverBeforeWitness(event);
+}
+
+bool EventTaps::deliverBeforeWitness(__CGEvent& event) {
+  const __CGEvent before = event;
+  witness_->willDeliver(before);
+  const bool isKept = deliverInOrder(event);
+  witness_->didDeliver(before, event, isKept);
+  return isKept;
+}
+
+bool EventTaps::deliverInOrder(__CGEvent& event) {
   ++deliveriesUnderWay_;
   // The numbers of ordinary events are bits of the mask; the greater ones only inform a tap.
   const CGEventMask bit = event.type < 64 ? CGEventMask{1} << event.type : 0;

@@ -76,6 +76,9 @@ class RunLoop {
   void invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer);
   [[nodiscard]] std::size_t timerCount() const;
 
+  /// While refused, no new source can be made for a port.
+  void setRefusesSources(bool refuses) { refusesSources_ = refuses; }
+  [[nodiscard]] bool refusesSources() const { return refusesSources_; }
   /// Sources, such as an event tap's, by their address; what they are is their owner's business.
   /// True when the source was in none of these modes before.
   bool addSource(const void* source, ModeSet modes);
@@ -125,6 +128,7 @@ class RunLoop {
   std::uint64_t nextSequence_ = 0;
   int mainQueueHolds_ = 0;
   bool acceptsTasks_ = true;
+  bool refusesSources_ = false;
   bool serves_ = false;
   bool servesMainQueue_ = false;
   std::int64_t timerFires_ = 0;

@@ -3,6 +3,7 @@
 
 #include "desk/script/ApplicationCommands.hpp"
 #include "desk/script/DisplayCommands.hpp"
+#include "desk/script/FaultCommands.hpp"
 #include "desk/script/InputCommands.hpp"
 #include "desk/script/LookingCommands.hpp"
 #include "desk/script/MachineCommands.hpp"
@@ -60,6 +61,7 @@ CommandTable standardCommands() {
   addWindowCommands(table);
   addMenuCommands(table);
   addInputCommands(table);
+  addFaultCommands(table);
   return table;
 }
 

@@ -1,0 +1,53 @@
+// The course of a day.
+#include "desk/explore/Day.hpp"
+
+#include "desk/explore/Habits.hpp"
+#include "desk/explore/Lots.hpp"
+
+namespace orvane::desk::explore {
+
+namespace {
+
+void takeAll(Trial& trial, const Lines& lines) {
+  for (const std::string& line : lines) {
+    trial.take(line);
+  }
+}
+
+}  // namespace
+
+Day liveDay(std::uint64_t seed, std::int64_t steps) {
+  Lots lots(seed);
+  Habits habits(lots);
+  Day day;
+  day.seed = seed;
+  day.lastWish = lots.chance(500) ? LastWish::pin : LastWish::prevent;
+  Trial trial;
+  takeAll(trial, habits.beginning());
+  while (!trial.violation() && static_cast<std::int64_t>(trial.lines().size()) < steps) {
+    takeAll(trial, habits.next(trial.machine(), trial.application()));
+  }
+  day.lines = trial.lines();
+  bringToGoodEnd(trial, day.lastWish);
+  trial.end();
+  day.stepCount = static_cast<std::int64_t>(trial.lines().size());
+  day.eventCount = trial.eventCount();
+  day.faultCounts = habits.faultCounts();
+  day.rarePaths = trial.rarePaths();
+  day.fingerprint = trial.fingerprint().value();
+  day.violation = trial.violation();
+  return day;
+}
+
+std::optional<Violation> repeatDay(const Lines& lines, LastWish lastWish, Lines* all) {
+  Trial trial;
+  takeAll(trial, lines);
+  bringToGoodEnd(trial, lastWish);
+  trial.end();
+  if (all != nullptr) {
+    *all = trial.lines();
+  }
+  return trial.violation();
+}
+
+}  // namespace orvane::desk::explore
