@@ -6,16 +6,6 @@
 
 namespace orvane::desk::explore {
 
-namespace {
-
-void takeAll(Trial& trial, const Lines& lines) {
-  for (const std::string& line : lines) {
-    trial.take(line);
-  }
-}
-
-}  // namespace
-
 Day liveDay(std::uint64_t seed, std::int64_t steps) {
   Lots lots(seed);
   Habits habits(lots);
@@ -23,9 +13,9 @@ Day liveDay(std::uint64_t seed, std::int64_t steps) {
   day.seed = seed;
   day.lastWish = lots.chance(500) ? LastWish::pin : LastWish::prevent;
   Trial trial;
-  takeAll(trial, habits.beginning());
+  trial.takeAll(habits.beginning());
   while (!trial.violation() && static_cast<std::int64_t>(trial.lines().size()) < steps) {
-    takeAll(trial, habits.next(trial.machine(), trial.application()));
+    trial.takeAll(habits.next(trial.machine(), trial.application()));
   }
   day.lines = trial.lines();
   bringToGoodEnd(trial, day.lastWish);
@@ -41,7 +31,7 @@ Day liveDay(std::uint64_t seed, std::int64_t steps) {
 
 std::optional<Violation> repeatDay(const Lines& lines, LastWish lastWish, Lines* all) {
   Trial trial;
-  takeAll(trial, lines);
+  trial.takeAll(lines);
   bringToGoodEnd(trial, lastWish);
   trial.end();
   if (all != nullptr) {

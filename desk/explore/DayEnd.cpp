@@ -50,12 +50,6 @@ Lines arrange(const Trial& trial) {
   return lines;
 }
 
-void takeAll(Trial& trial, const Lines& lines) {
-  for (const std::string& line : lines) {
-    trial.take(line);
-  }
-}
-
 /// Of the open menu or a window.
 void pressLabelled(Trial& trial, const std::string& surface, const char* english,
                    const char* chinese) {
@@ -139,12 +133,12 @@ void bringToGoodEnd(Trial& trial, LastWish lastWish) {
   if (trial.violation()) {
     return;
   }
-  takeAll(trial, calm(trial));
+  trial.takeAll(calm(trial));
   if (!trial.moment().isLaunched) {
     trial.take("launch");
   }
   answerAlerts(trial);
-  takeAll(trial, arrange(trial));
+  trial.takeAll(arrange(trial));
   trial.take("trust on");
   // What was asked for before comes to its end: a guide that is open sees the permission and goes.
   trial.take("advance 12");

@@ -179,7 +179,7 @@ constexpr Path paths[]{
        return step.before.isGuideShown && step.after.isGuideShown &&
               step.before.stored.language != step.after.stored.language;
      }},
-    {"the language changes while an alert waits behind the menu",
+    {"the alert comes while the menu is open",
      [](const Step& step) {
        return step.before.isStatusMenuOpen && !step.before.isModal && step.after.isModal;
      }},

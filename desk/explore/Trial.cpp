@@ -44,6 +44,12 @@ void Trial::take(const std::string& line) {
   events_ = safety_->filter().eventCount();
 }
 
+void Trial::takeAll(const std::vector<std::string>& lines) {
+  for (const std::string& line : lines) {
+    take(line);
+  }
+}
+
 void Trial::complain(Violation violation) {
   if (!violation_) {
     violation_ = std::move(violation);

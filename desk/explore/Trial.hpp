@@ -28,6 +28,7 @@ class Trial {
   /// A line that cannot be carried out, such as a press of what is not there, does nothing. After a
   /// violation, no line does anything.
   void take(const std::string& line);
+  void takeAll(const std::vector<std::string>& lines);
   /// Ends the machine; what the application has left behind is a violation.
   void end();
   [[nodiscard]] const std::optional<Violation>& violation() const { return violation_; }

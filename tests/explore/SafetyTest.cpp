@@ -10,15 +10,10 @@ namespace {
 
 class SafetyTest : public testing::Test {
  protected:
-  void takeAll(const std::vector<std::string>& lines) {
-    for (const std::string& line : lines) {
-      trial_.take(line);
-    }
-  }
   void pin() {
-    takeAll({"display attach 1 frame=0,0,1440,900 uuid=LEFT main",
-             "display attach 2 frame=1440,0,1920,1080 uuid=RIGHT", "trust on", "launch",
-             "do toggleSelectedDisplayLock", "advance 2"});
+    trial_.takeAll({"display attach 1 frame=0,0,1440,900 uuid=LEFT main",
+                    "display attach 2 frame=1440,0,1920,1080 uuid=RIGHT", "trust on", "launch",
+                    "do toggleSelectedDisplayLock", "advance 2"});
   }
   /// Empty when none is broken.
   [[nodiscard]] std::string brokenPromise() const {
@@ -46,7 +41,7 @@ CGEventRef nudge(CGEventTapProxy, CGEventType, CGEventRef event, void*) {
 
 TEST_F(SafetyTest, FindsNothingWrongWithAPinnedDock) {
   pin();
-  takeAll({"move 2000 1060", "push 0 30 times 30", "hold option", "push 0 30", "release"});
+  trial_.takeAll({"move 2000 1060", "push 0 30 times 30", "hold option", "push 0 30", "release"});
   trial_.end();
   EXPECT_EQ(brokenPromise(), "");
   EXPECT_GT(trial_.eventCount(), 30);
@@ -116,7 +111,7 @@ TEST_F(SafetyTest, SeesAModelThatForgotWhatIsStored) {
 
 TEST_F(SafetyTest, SeesTextsInTheWrongLanguage) {
   pin();
-  takeAll({"menu open", "press \"Open Window\" in menu"});
+  trial_.takeAll({"menu open", "press \"Open Window\" in menu"});
   ASSERT_EQ(brokenPromise(), "");
   // As if the choice had been stored and nothing shown in it.
   trial_.application().model().setAppLanguage(OrvaneLanguage::chinese);
