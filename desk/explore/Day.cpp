@@ -26,13 +26,18 @@ Day liveDay(std::uint64_t seed, std::int64_t steps) {
   day.rarePaths = trial.rarePaths();
   day.fingerprint = trial.fingerprint().value();
   day.violation = trial.violation();
+  if (day.violation && day.violation->promise != liveness) {
+    day.lines = trial.lines();
+  }
   return day;
 }
 
-std::optional<Violation> repeatDay(const Lines& lines, LastWish lastWish, Lines* all) {
+std::optional<Violation> repeatDay(const Day& day, const Lines& lines, Lines* all) {
   Trial trial;
   trial.takeAll(lines);
-  bringToGoodEnd(trial, lastWish);
+  if (day.violation && day.violation->promise == liveness) {
+    bringToGoodEnd(trial, day.lastWish);
+  }
   trial.end();
   if (all != nullptr) {
     *all = trial.lines();

@@ -15,13 +15,16 @@
 
 namespace orvane::desk::explore {
 
+/// The promise that is proved at the end of a day.
+constexpr const char* liveness = "liveness";
+
 /// What the user wants when everything is well again.
 enum class LastWish { pin, prevent };
 
 struct Day {
   std::uint64_t seed = 0;
   LastWish lastWish = LastWish::pin;
-  /// The lines that were carried out, without those of the end.
+  /// The lines that were carried out. Those of the end are among them when it is not what fails.
   Lines lines;
   std::int64_t stepCount = 0;
   std::int64_t eventCount = 0;
@@ -35,8 +38,9 @@ struct Day {
 /// A day of at least `steps` lines.
 [[nodiscard]] Day liveDay(std::uint64_t seed, std::int64_t steps);
 
-/// A day of these lines, with the same end. `all` is given every line, those of the end too.
-[[nodiscard]] std::optional<Violation> repeatDay(const Lines& lines, LastWish lastWish,
+/// A day of these lines, with the same end where it is what failed. `all` is given every line,
+/// those of the end too.
+[[nodiscard]] std::optional<Violation> repeatDay(const Day& day, const Lines& lines,
                                                  Lines* all = nullptr);
 
 /// The faults stop, the permission is granted, displays are attached, and the user presses once

@@ -61,7 +61,7 @@ void pressLabelled(Trial& trial, const std::string& surface, const char* english
       return;
     }
   }
-  trial.complain({"liveness", std::string("\"") + english + "\" is not in " + surface});
+  trial.complain({liveness, std::string("\"") + english + "\" is not in " + surface});
 }
 
 void answerAlerts(Trial& trial) {
@@ -77,7 +77,7 @@ void chooseFirstDisplay(Trial& trial) {
   trial.take("menu open");
   const auto controls = Surfaces(WindowServer::current()).controls(Surfaces::menu);
   if (controls.size() <= switches) {
-    trial.complain({"liveness", "the menu has no displays to choose from"});
+    trial.complain({liveness, "the menu has no displays to choose from"});
     return;
   }
   trial.take(controlLine("press", Surfaces::menu, controls, switches));
@@ -107,7 +107,7 @@ void pressAgainstForbiddenEdges(Trial& trial) {
   const Wish wish = trial.moment().stored.wish();
   const std::vector<CGPoint> places = situation.forbiddenPlaces(wish);
   if (places.empty()) {
-    trial.complain({"liveness", "no edge is forbidden"});
+    trial.complain({liveness, "no edge is forbidden"});
   }
   const DockEdge edge = trial.machine().dock.edge();
   const std::string way = edge == DockEdge::bottom ? "0 40"
@@ -119,11 +119,11 @@ void pressAgainstForbiddenEdges(Trial& trial) {
     // As often as does not count as a runaway.
     trial.take("push " + way + " times 200 every 0.02");
     if (!trial.violation() && trial.machine().dock.reveals() != reveals) {
-      trial.complain({"liveness", "the Dock came up where it is forbidden"});
+      trial.complain({liveness, "the Dock came up where it is forbidden"});
     }
   }
   if (!trial.violation() && !trial.moment().isGuardRunning) {
-    trial.complain({"liveness", "the guard did not bear 200 presses", "guard.running true"});
+    trial.complain({liveness, "the guard did not bear 200 presses", "guard.running true"});
   }
 }
 
@@ -147,13 +147,13 @@ void bringToGoodEnd(Trial& trial, LastWish lastWish) {
     return;
   }
   if (trial.moment().isModal) {
-    trial.complain({"liveness", "there is no end of alerts"});
+    trial.complain({liveness, "there is no end of alerts"});
     return;
   }
   pressWhatIsWanted(trial, lastWish);
   trial.take("advance 2");
   if (!trial.violation() && !trial.moment().isGuardRunning) {
-    trial.complain({"liveness", "the guard does not run", "guard.running true"});
+    trial.complain({liveness, "the guard does not run", "guard.running true"});
   }
   if (!trial.violation()) {
     pressAgainstForbiddenEdges(trial);

@@ -40,7 +40,6 @@ void addGuide(Moment& moment) {
   using Guide = OrvanePermissionGuideWindowController;
   if (Guide::sharedExists()) {
     const Guide& guide = Guide::shared();
-    moment.isGuideShown = guide.panel().isVisible();
     moment.isGuidePolling = guide.isPolling();
     moment.guideState = guide.viewModel().state.value();
   }
@@ -57,6 +56,7 @@ void addWindows(Moment& moment, WindowServer& server) {
     if (window->className == "OrvaneWindow") {
       moment.isMainMinimised = window->isMiniaturized;
     }
+    moment.isGuideOpen = moment.isGuideOpen || window->className == "OrvaneGuidePanel";
   }
   if (const StatusBarItem* const item = server.statusBar.item()) {
     moment.icon = item->image != nullptr ? item->image->name : "";
@@ -142,7 +142,7 @@ void Moment::addTo(Fingerprint& fingerprint) const {
        {isLaunched,       isTrusted,          isModal,         isQueueHeld,      isMenuOpen,
         isStatusMenuOpen, isChangingTogether, isTapEnabled,    isGuardRunning,   isGuardWaiting,
         isTapRefused,     isDoubted,          isUnlocked,      isRestoreBlocked, hasPermission,
-        isGuideShown,     isGuidePolling,     isMainMinimised, stored.wants,     stored.prevents}) {
+        isGuideOpen,      isGuidePolling,     isMainMinimised, stored.wants,     stored.prevents}) {
     fingerprint.add(fact);
   }
   fingerprint.add(static_cast<std::uint64_t>(displayCount));

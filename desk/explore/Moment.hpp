@@ -58,7 +58,8 @@ struct Moment {
   std::int64_t blockedCount = 0;
   std::string icon;
   std::string iconValue;
-  bool isGuideShown = false;
+  /// It is on the screen, or hidden with the application.
+  bool isGuideOpen = false;
   bool isGuidePolling = false;
   PermissionGuideState guideState = PermissionGuideState::checking;
   bool isMainMinimised = false;

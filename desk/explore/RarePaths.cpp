@@ -53,7 +53,7 @@ bool changesDisplays(const Step& step) {
 }
 
 bool isGuideIn(const Moment& moment, PermissionGuideState state) {
-  return moment.isGuideShown && moment.guideState == state;
+  return moment.isGuideOpen && moment.guideState == state;
 }
 
 constexpr Path paths[]{
@@ -120,7 +120,7 @@ constexpr Path paths[]{
        return isRevoked(step) && step.before.isStatusMenuOpen && step.before.isGuardRunning;
      }},
     {"the guard starts under the guide",
-     [](const Step& step) { return beginsRunning(step) && step.after.isGuideShown; }},
+     [](const Step& step) { return beginsRunning(step) && step.after.isGuideOpen; }},
     {"the guard starts by itself when the permission is back",
      [](const Step& step) { return beginsRunning(step) && isGranted(step); }},
     {"the target goes while pinned",
@@ -176,7 +176,7 @@ constexpr Path paths[]{
      }},
     {"the language changes under an open guide",
      [](const Step& step) {
-       return step.before.isGuideShown && step.after.isGuideShown &&
+       return step.before.isGuideOpen && step.after.isGuideOpen &&
               step.before.stored.language != step.after.stored.language;
      }},
     {"the alert comes while the menu is open",
@@ -207,7 +207,7 @@ constexpr Path paths[]{
      }},
     {"the request to prevent overtakes the request to pin",
      [](const Step& step) {
-       return step.before.isGuideShown && !step.before.stored.prevents &&
+       return step.before.isGuideOpen && !step.before.stored.prevents &&
               step.after.stored.prevents && beginsRunning(step);
      }},
 };

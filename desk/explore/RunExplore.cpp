@@ -104,11 +104,11 @@ void writeScript(std::ostream& script, const Day& day, const Violation& violatio
 std::optional<std::string> shrink(const Day& day) {
   const std::string& promise = day.violation->promise;
   const Lines lines = explore::shrunk(day.lines, [&](const Lines& some) {
-    const auto violation = explore::repeatDay(some, day.lastWish);
+    const auto violation = explore::repeatDay(day, some);
     return violation && violation->promise == promise;
   });
   Lines all;
-  const auto violation = explore::repeatDay(lines, day.lastWish, &all);
+  const auto violation = explore::repeatDay(day, lines, &all);
   const std::string name = "explore-" + std::to_string(day.seed) + ".desk";
   std::ofstream script(name);
   writeScript(script, day, violation.value_or(*day.violation), all);

@@ -76,8 +76,9 @@ void Safety::listenToScreens() {
   });
 }
 
-void Safety::begin(const Moment& /*moment*/) {
+void Safety::begin() {
   filter_.beginStep();
+  wasStale_ = isStale();
   revealsBefore_ = machine_.dock.reveals();
 }
 
@@ -104,6 +105,10 @@ void Safety::follow(const std::string& line, const Moment& before, const Moment&
     tongues_.clear();
   }
   tongues_.insert(tongue);
+  if (!after.shows("alert") && !after.shows("guide")) {
+    tonguesOfPanels_.clear();
+  }
+  tonguesOfPanels_.insert(tongues_.begin(), tongues_.end());
   if (isNew) {
     filter_.forgetSituations();
     listenToScreens();
@@ -112,7 +117,7 @@ void Safety::follow(const std::string& line, const Moment& before, const Moment&
   } else {
     filter_.noteSituation();
   }
-  hasAsked_ = hasAsked_ || after.shows("alert") || after.isGuideShown;
+  hasAsked_ = hasAsked_ || after.shows("alert") || after.isGuideOpen;
 }
 
 std::optional<Violation> Safety::check(const std::string& line, const Moment& before,
@@ -191,8 +196,8 @@ Safety::Check Safety::checkKeys() const {
 
 Safety::Check Safety::checkDock(const Moment& before, const Moment& after) const {
   const bool isGuarded = before.isGuardRunning && before.isTapEnabled && after.isGuardRunning &&
-                         after.isTapEnabled && !filter_.step().hasFreeMovement && !isStale() &&
-                         before.stored == after.stored;
+                         after.isTapEnabled && !filter_.step().hasFreeMovement && !wasStale_ &&
+                         !isStale() && before.stored == after.stored;
   if (!isGuarded) {
     return std::nullopt;
   }

@@ -27,7 +27,7 @@ class Safety {
   ~Safety();
 
   /// Before a line of the script is carried out.
-  void begin(const Moment& moment);
+  void begin();
   /// After it, with the moments before and after.
   [[nodiscard]] std::optional<Violation> check(const std::string& line, const Moment& before,
                                                const Moment& after);
@@ -73,11 +73,14 @@ class Safety {
   std::set<std::string> names_;
   /// The languages in which the application may speak at the moment.
   std::set<Tongue> tongues_;
+  /// The same of the alert and the guide: they need not follow a change while they are open.
+  std::set<Tongue> tonguesOfPanels_;
   /// The user was asked for the permission since the launch, so that a wish may come true late.
   bool hasAsked_ = false;
   /// The application has read the list of displays since its launch.
   bool hasListed_ = false;
   std::map<std::uint32_t, std::int64_t> revealsBefore_;
+  bool wasStale_ = false;
   std::set<std::string> foreignKeys_;
 };
 

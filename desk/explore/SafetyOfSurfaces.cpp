@@ -46,7 +46,7 @@ Safety::Check Safety::checkIcon(const Moment& after) {
     const Words& words = wordsOf(tongue);
     return after.iconValue == (after.isGuardRunning ? words.locked : words.unlocked);
   });
-  if (isOverdue("icon's value", !isRead, after.now)) {
+  if (isOverdue("icon's value", !isRead && !after.isQueueHeld, after.now)) {
     return Violation{"icon", "it is read as \"" + after.iconValue + "\""};
   }
   return std::nullopt;
@@ -125,7 +125,10 @@ Safety::Check Safety::checkWindows(const Moment& after) const {
     if (!kinds.insert(window->className).second) {
       return Violation{"windows", "there are two of " + window->className};
     }
-    if (server.isVisible(*window) && after.displayCount > 0 && !server.displayIndexOf(*window)) {
+    // A child goes where its parent is taken.
+    const bool mustBeSeen = window->parent.expired() && server.isVisible(*window) &&
+                            after.displayCount > 0 && !after.isChangingTogether;
+    if (mustBeSeen && !server.displayIndexOf(*window)) {
       return Violation{"windows", window->className + " is on no display"};
     }
   }
@@ -144,10 +147,10 @@ Safety::Check Safety::checkModes(const Moment& after) const {
     return Violation{"modes", "the run loop is in a mode that nobody asked for"};
   }
   const bool hasSucceeded = after.guideState == PermissionGuideState::success;
-  if (after.isGuidePolling && (!after.isGuideShown || hasSucceeded)) {
+  if (after.isGuidePolling && (!after.isGuideOpen || hasSucceeded)) {
     return Violation{"guide", "it looks for the permission without need", "guide.polling false"};
   }
-  if (after.isGuideShown && !after.isGuidePolling && !hasSucceeded) {
+  if (after.isGuideOpen && !after.isGuidePolling && !hasSucceeded) {
     return Violation{"guide", "it is shown and does not look for the permission",
                      "guide.polling true"};
   }
@@ -161,11 +164,15 @@ Safety::Check Safety::checkModes(const Moment& after) const {
 
 Safety::Check Safety::checkTexts(const Moment& after) const {
   for (const auto& [surface, tree] : after.trees) {
+    // The alert and the guide need not follow a change of the language while they are open.
+    const bool isPanel = surface == "alert" || surface == "guide";
+    const std::set<Tongue>& tongues = isPanel ? tonguesOfPanels_ : tongues_;
+    if (tongues.size() > 1) {
+      continue;
+    }
     for (const ui::SemanticsNode* const element : elementsOf(tree)) {
       for (const std::string* const text : {&element->label, &element->value}) {
-        const bool isRight = std::ranges::any_of(
-            tongues_, [&](Tongue tongue) { return isIn(tongue, *text, names_); });
-        if (!isRight) {
+        if (!isIn(*tongues.begin(), *text, names_)) {
           return Violation{"texts", "\"" + *text + "\" in " + surface};
         }
       }

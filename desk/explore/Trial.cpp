@@ -21,7 +21,7 @@ void Trial::take(const std::string& line) {
     return;
   }
   lines_.push_back(line);
-  safety_->begin(moment_);
+  safety_->begin();
   const bool isCarriedOut = !interpreter_.run(line);
   const Moment before =
       std::exchange(moment_, Moment::of(session_->machine(), session_->application()));
