@@ -118,6 +118,7 @@ constexpr std::array habits{
     Habit{2, dropIcon},
     Habit{4, doOperation},
     Habit{1, endAndLaunch},
+    Habit{12, followGuide},
 };
 
 Lines refuseTaps(Scene& scene) {

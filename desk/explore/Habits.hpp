@@ -70,5 +70,7 @@ struct Scene {
 [[nodiscard]] Lines closeWindow(Scene& scene);
 [[nodiscard]] Lines dropIcon(Scene& scene);
 [[nodiscard]] Lines doOperation(Scene& scene);
+/// On towards the permission, or not: through the alert, the guide and the System Settings.
+[[nodiscard]] Lines followGuide(Scene& scene);
 
 }  // namespace orvane::desk::explore

@@ -248,4 +248,29 @@ Lines doOperation(Scene& scene) {
   return {std::string("do ") + scene.lots.oneOf(operations)};
 }
 
+Lines followGuide(Scene& scene) {
+  const Surfaces surfaces(WindowServer::current());
+  if (surfaces.isThere("alert")) {
+    constexpr std::size_t notNow = 0;
+    constexpr std::size_t openSettings = 1;
+    const auto controls = surfaces.controls("alert");
+    return {controlLine("press", "alert", controls, scene.lots.chance(800) ? openSettings : notNow),
+            scene.lots.chance(700) ? "advance 2" : "advance 0.7"};
+  }
+  if (!surfaces.isThere("guide")) {
+    return {};
+  }
+  constexpr std::array<const char*, 10> ways{"advance 10.5",
+                                             "advance 1",
+                                             "trust on",
+                                             "press \"Orvane\" in system",
+                                             "drop icon",
+                                             "trust off",
+                                             "do appLanguage chinese",
+                                             "do appLanguage english",
+                                             "do toggleHideDockOnAllDisplays",
+                                             "do toggleSelectedDisplayLock"};
+  return {scene.lots.oneOf(ways)};
+}
+
 }  // namespace orvane::desk::explore

@@ -177,9 +177,7 @@ Safety::Check Safety::checkObjects(const Moment& after) const {
                                     " sources while the guard " +
                                     (running == 1 ? "runs" : "does not run")};
   }
-  // The name of the Dock's preferences is kept for the life of the process.
-  const std::size_t kept = after.isLaunched ? 1 : 0;
-  if (objects.liveCount() > 2 * running + kept) {
+  if (objects.liveCount() != 2 * running) {
     return Violation{"objects", "left over: " + objects.liveDescriptions().back()};
   }
   return std::nullopt;

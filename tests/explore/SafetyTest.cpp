@@ -41,7 +41,7 @@ CGEventRef nudge(CGEventTapProxy, CGEventType, CGEventRef event, void*) {
 
 TEST_F(SafetyTest, FindsNothingWrongWithAPinnedDock) {
   pin();
-  trial_.takeAll({"move 2000 1060", "push 0 30 times 30", "hold option", "push 0 30", "release"});
+  trial_.takeAll({"move 2000 880", "push 0 30 times 30", "hold option", "push 0 30", "release"});
   trial_.end();
   EXPECT_EQ(brokenPromise(), "");
   EXPECT_GT(trial_.eventCount(), 30);
@@ -70,7 +70,7 @@ TEST_F(SafetyTest, SeesAGuardThatDoesNotMoveBack) {
       tap->eventsOfInterest = 0;
     }
   }
-  trial_.take("move 2000 1079");
+  trial_.take("move 2000 899");
   EXPECT_EQ(brokenPromise(), "filter");
 }
 
