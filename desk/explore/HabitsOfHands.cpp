@@ -56,6 +56,12 @@ std::string anySurface(Scene& scene) {
   return scene.lots.chance(500) ? names.front() : scene.lots.oneOf(names);
 }
 
+/// While a menu or the alert is open, a user can operate nothing else of the application.
+bool isFree() {
+  const WindowServer& server = WindowServer::current();
+  return !server.menus.isOpen() && !server.modal.isRunning();
+}
+
 Lines onControl(Scene& scene, const char* command) {
   const std::string surface = anySurface(scene);
   const auto controls = Surfaces(WindowServer::current()).controls(surface);
@@ -149,10 +155,8 @@ Lines operateMenu(Scene& /*scene*/) {
 }
 
 Lines pressControl(Scene& scene) {
-  const WindowServer& server = WindowServer::current();
-  const bool isMenuWanted = scene.isRunning && !server.menus.isOpen() &&
-                            !server.modal.isRunning() && scene.lots.chance(250);
-  return isMenuWanted ? Lines{"menu open"} : onControl(scene, "press");
+  return scene.isRunning && isFree() && scene.lots.chance(250) ? Lines{"menu open"}
+                                                               : onControl(scene, "press");
 }
 
 Lines hoverControl(Scene& scene) {
@@ -238,7 +242,7 @@ Lines doOperation(Scene& scene) {
                                                    "temporaryUnlockModifier shift",
                                                    "temporaryUnlockModifier command",
                                                    "temporaryUnlockModifier option"};
-  if (!scene.isRunning) {
+  if (!scene.isRunning || !isFree()) {
     return {};
   }
   if (!scene.machine.displays.isEmpty() && scene.lots.chance(200)) {
@@ -251,6 +255,9 @@ Lines doOperation(Scene& scene) {
 Lines followGuide(Scene& scene) {
   const Surfaces surfaces(WindowServer::current());
   if (surfaces.isThere("alert")) {
+    if (scene.lots.chance(300)) {
+      return scene.machine.eventTaps.isAnyEnabled() ? runAway(scene) : Lines{"trust on"};
+    }
     constexpr std::size_t notNow = 0;
     constexpr std::size_t openSettings = 1;
     const auto controls = surfaces.controls("alert");
@@ -270,7 +277,8 @@ Lines followGuide(Scene& scene) {
                                              "do appLanguage english",
                                              "do toggleHideDockOnAllDisplays",
                                              "do toggleSelectedDisplayLock"};
-  return {scene.lots.oneOf(ways)};
+  const std::string way = scene.lots.oneOf(ways);
+  return way.starts_with("do ") && !isFree() ? Lines{"menu close"} : Lines{way};
 }
 
 }  // namespace orvane::desk::explore
