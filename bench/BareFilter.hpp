@@ -1,5 +1,5 @@
-// The filter's loop written bare, over plain numbers: the least that any filter must do. The real
-// one is measured against it.
+// The filter's loop over plain numbers: the minimum work of any filter, as the baseline for the
+// real one.
 #pragma once
 
 #include <cstdint>

@@ -1,7 +1,7 @@
-// What one event costs in the guard's filter, by what happens to it and by the number of zones,
-// beside the same loop written bare. Part of a hit is the desk's own: its clock (mediaClock), which
-// on a Mac is a read of the processor's counter and a multiplication, and letting time pass
-// (timePasses), without which blocking would run away.
+// The cost of one event in the guard's filter, by outcome and number of zones, compared with the
+// bare loop. Part of a hit's cost is the desk's: its clock (mediaClock), which on a Mac is a read
+// of the processor's counter and a multiplication, and letting time pass (timePasses), without
+// which the guard would detect runaway blocking.
 #include <cstddef>
 #include <vector>
 
@@ -50,7 +50,8 @@ void filterUnlocked(benchmark::State& state) {
 void bareMiss(benchmark::State& state) {
   GuardedDesk desk(zoneCount(state));
   std::vector<BareZone> zones;
-  for (const TriggerZone& zone : desk.guard().cachedTriggerZones()) {
+  const GuardSnapshot guard = desk.guard().snapshot();
+  for (const TriggerZone& zone : guard.zones) {
     zones.push_back({CGRectGetMinX(zone.rect), CGRectGetMinY(zone.rect), CGRectGetMaxX(zone.rect),
                      CGRectGetMaxY(zone.rect), zone.nudgeVector.dx, zone.nudgeVector.dy});
   }

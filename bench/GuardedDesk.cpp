@@ -1,4 +1,4 @@
-// A simulated Mac with a running guard, as the benchmarks of the event path need it.
+// A simulated Mac with a running guard, for the benchmarks of the event path.
 #include "bench/GuardedDesk.hpp"
 
 #include <cstdint>
@@ -22,7 +22,7 @@ GuardedDesk::GuardedDesk(std::size_t zoneCount) : zoneCount_(zoneCount) {
   guard_ = std::make_unique<DockMouseGuard>();
   guard_->start("1", OrvaneModifier::option, false);
   machine.runDue();
-  require(guard_->cachedTriggerZones().size() == zoneCount, "the benchmark's zones are missing");
+  require(guard_->snapshot().zones.size() == zoneCount, "the benchmark's zones are missing");
 }
 
 GuardedDesk::~GuardedDesk() {

@@ -1,4 +1,4 @@
-// A simulated Mac with a running guard, as the benchmarks of the event path need it.
+// A simulated Mac with a running guard, for the benchmarks of the event path.
 #pragma once
 
 #include <cstddef>
@@ -26,11 +26,11 @@ class GuardedDesk {
 
   /// In the middle of the last display, outside of every zone.
   [[nodiscard]] CGPoint placeOutsideZones() const;
-  /// In the zone of the last display, which is tried last.
+  /// In the zone of the last display, which is matched last.
   [[nodiscard]] CGPoint placeInLastZone() const;
 
-  /// So much time passes that blocking never counts as run away; what waits on the main queue is
-  /// served now and then.
+  /// Lets enough time pass that the guard never detects runaway blocking; occasionally serves the
+  /// main queue.
   void letTimePass();
 
  private:

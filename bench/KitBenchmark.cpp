@@ -1,5 +1,5 @@
-// What the view kit costs: describing, laying out and painting a panel, after a change and after a
-// pointer has come over a control; and what a view takes of memory.
+// The cost of the view kit: describing, laying out and painting a panel, after a change and after a
+// hover; and the memory per view.
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -29,7 +29,7 @@ namespace {
 
 constexpr double scale = 2;
 
-/// A panel to be measured; it may be described any number of times.
+/// A panel to be measured.
 class Subject {
  public:
   Subject() = default;
@@ -38,11 +38,11 @@ class Subject {
   virtual ~Subject() = default;
   [[nodiscard]] virtual ui::Size size() const = 0;
   [[nodiscard]] virtual ui::View view() = 0;
-  /// In the middle of a control that shows that the pointer is over it.
+  /// In the middle of a control with a hover state.
   [[nodiscard]] virtual ui::Point hoverPlace() const = 0;
 };
 
-class MadeUpPanel : public Subject {
+class SyntheticPanel : public Subject {
  public:
   [[nodiscard]] ui::Size size() const override { return {KitPanel::width, KitPanel::height}; }
   [[nodiscard]] ui::View view() override { return KitPanel{++revision_ % 10}; }
@@ -52,7 +52,7 @@ class MadeUpPanel : public Subject {
   int revision_ = 0;
 };
 
-/// The application's own, with three displays.
+/// The application's main panel, with three displays.
 class MainPanel : public Subject {
  public:
   MainPanel() {
@@ -78,7 +78,7 @@ class MainPanel : public Subject {
   std::unique_ptr<OrvaneModel> model_;
 };
 
-/// A panel in a host, at rest, and a picture to paint it on.
+/// A panel in an idle host, and a surface to paint it on.
 class Stage {
  public:
   explicit Stage(Subject& subject)
@@ -109,7 +109,7 @@ class Stage {
     desk::CairoCanvas canvas(surface_.get(), scale, resources_);
     host_.paint(canvas, {0, 0, host_.size().width, host_.size().height});
   }
-  /// What has changed is drawn, as in a window.
+  /// Draws what has changed, as a window does.
   void showFrame() { picture_.of(host_, scale, resources_); }
   [[nodiscard]] long long areas() const { return picture_.drawnAreas(); }
 
@@ -122,7 +122,7 @@ class Stage {
   double now_ = 0;
 };
 
-/// The retained tree without a host around it, so that each stage can be timed by itself.
+/// The retained tree without a host, so that each pass can be timed separately.
 class BareTree {
  public:
   BareTree(ui::TextMeasurer& text, desk::DrawingResources& resources)
@@ -163,7 +163,7 @@ double microsecondsOf(const std::function<void()>& work) {
   return took.count();
 }
 
-/// Rebuild and reconcile, lay out, present: everything that follows a change, without the painting.
+/// Rebuild and reconcile, lay out, present: all passes after a change, without painting.
 template <typename Panel>
 void kitUpdate(benchmark::State& state) {
   Panel subject;
@@ -174,7 +174,7 @@ void kitUpdate(benchmark::State& state) {
   }
 }
 
-/// The same, stage by stage, in microseconds.
+/// The same, pass by pass, in microseconds.
 template <typename Panel>
 void kitStages(benchmark::State& state) {
   Panel subject;
@@ -198,7 +198,7 @@ void kitStages(benchmark::State& state) {
   state.counters["present_us"] = benchmark::Counter(present, average);
 }
 
-/// All of it, at two pixels to the point.
+/// Paints the whole panel at two pixels per point.
 template <typename Panel>
 void kitPaint(benchmark::State& state) {
   Panel subject;
@@ -209,8 +209,7 @@ void kitPaint(benchmark::State& state) {
   }
 }
 
-/// The pointer comes over a control, or leaves it: update and painting of one frame, as a window
-/// does it.
+/// The pointer enters or leaves a control: updates and paints one frame, as a window does.
 template <typename Panel>
 void kitHover(benchmark::State& state) {
   Panel subject;
@@ -228,7 +227,7 @@ void kitHover(benchmark::State& state) {
                                                benchmark::Counter::kAvgIterations);
 }
 
-/// What the heap holds for a laid out tree, by its nodes: nodes, descriptions, broken texts.
+/// The heap memory per node of a laid-out tree: nodes, descriptions, broken text lines.
 template <typename Panel>
 void kitMemory(benchmark::State& state) {
   constexpr std::size_t trees = 32;
@@ -239,7 +238,7 @@ void kitMemory(benchmark::State& state) {
   for (auto _ : state) {
     std::vector<std::unique_ptr<BareTree>> all;
     std::size_t nodes = 0;
-    // The first one fills the caches that all share.
+    // The first tree fills the shared caches.
     for (std::size_t tree = 0; tree <= trees; ++tree) {
       all.push_back(std::make_unique<BareTree>(text, resources));
     }
@@ -259,15 +258,15 @@ void kitMemory(benchmark::State& state) {
   state.counters["bytes_per_node"] = bytesPerNode;
 }
 
-BENCHMARK(kitUpdate<MadeUpPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitUpdate<SyntheticPanel>)->Unit(benchmark::kMicrosecond);
 BENCHMARK(kitUpdate<MainPanel>)->Unit(benchmark::kMicrosecond);
-BENCHMARK(kitStages<MadeUpPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitStages<SyntheticPanel>)->Unit(benchmark::kMicrosecond);
 BENCHMARK(kitStages<MainPanel>)->Unit(benchmark::kMicrosecond);
-BENCHMARK(kitPaint<MadeUpPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitPaint<SyntheticPanel>)->Unit(benchmark::kMicrosecond);
 BENCHMARK(kitPaint<MainPanel>)->Unit(benchmark::kMicrosecond);
-BENCHMARK(kitHover<MadeUpPanel>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(kitHover<SyntheticPanel>)->Unit(benchmark::kMicrosecond);
 BENCHMARK(kitHover<MainPanel>)->Unit(benchmark::kMicrosecond);
-BENCHMARK(kitMemory<MadeUpPanel>)->Iterations(1);
+BENCHMARK(kitMemory<SyntheticPanel>)->Iterations(1);
 BENCHMARK(kitMemory<MainPanel>)->Iterations(1);
 
 }  // namespace

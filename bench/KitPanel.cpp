@@ -1,4 +1,4 @@
-// Only rectangles, circles and texts, so that every toolkit can draw the same.
+// Only rectangles, circles and texts, which every toolkit can draw.
 #include "bench/KitPanel.hpp"
 
 #include <string>

@@ -1,4 +1,4 @@
-// A panel of about 150 views, made up for measuring: a head, four cards, six rows with switches
+// A synthetic panel of about 150 views for measurements: a head, four cards, six rows with switches
 // and two buttons. The same panel is built with two other toolkits in bench/peers.
 #pragma once
 
@@ -11,7 +11,7 @@ struct KitPanel {
   static constexpr double width = 640;
   static constexpr double height = 430;
 
-  /// Drawn into one text, so that two descriptions differ.
+  /// Part of one text, so that two descriptions differ.
   int revision = 0;
 
   ui::View body(const ui::Environment& environment) const;

@@ -1,4 +1,4 @@
-// What choosing a text costs, with a fixed language and with the system's.
+// The cost of choosing a text, with a fixed language and with the system's.
 #include <benchmark/benchmark.h>
 
 #include "Orvane/model/OrvaneLanguage.hpp"

@@ -1,6 +1,6 @@
-// How long a user waits: from the launch on a Mac with three displays until the main window has
-// been opened and its first frame is painted at 2x. Fonts and symbols are read anew in every turn,
-// but the machine's own files stay in its caches.
+// The time from the launch, with three displays, until the main window is open and its first frame
+// painted at 2x. Every iteration reads fonts and symbols again, but the computer's file cache stays
+// warm.
 #include <memory>
 #include <optional>
 

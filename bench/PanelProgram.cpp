@@ -1,5 +1,5 @@
-// Shows the made-up panel once without a screen and prints how long that took since the process was
-// started, what repainting all of it costs, and the memory it stands on.
+// Shows the synthetic panel once without a screen and prints the time since the process was
+// started, the cost of repainting all of it, and the resident memory.
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -19,7 +19,7 @@ using namespace orvane;
 constexpr double scale = 2;
 constexpr int repaints = 50;
 
-/// Of all threads of the process; what else runs on the machine does not count.
+/// Processor time of all threads of the process.
 double millisecondsOfWork() {
   return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }

@@ -1,4 +1,4 @@
-// What one movement of the hand costs on the whole way: pointer, event tap, guard and Dock.
+// The cost of one mouse movement through pointer, event tap, guard and Dock.
 #include <cstddef>
 #include <cstdint>
 

@@ -1,6 +1,6 @@
-// What one picture of the desk's window costs while the pointer moves over the main panel on a desk
-// with three displays: the machine's time, the movement, everything that is drawn anew. A window of
-// 60 frames a second has 16.6 ms for that and for showing it.
+// The cost of one frame of the desk's window while the pointer moves over the main panel, with
+// three displays: the machine's time, the movement and all drawing. A window at 60 frames a second
+// has 16.6 ms for that and for showing the frame.
 #include <cstddef>
 #include <cstdint>
 
@@ -30,7 +30,7 @@ void windowFrame(benchmark::State& state) {
   const auto window = desk::Surfaces(server).window("main");
   const CGPoint corner = server.topLeftOf(*window);
   const CGPoint pointer = session.machine().pointer.place();
-  // From the middle of the cards' row to its sides and back.
+  // From the middle of the row of cards to its sides and back.
   session.movePointerBy(corner.x + 60 - pointer.x, corner.y + 230 - pointer.y);
   double step = 4;
   std::int64_t drawn = 0;

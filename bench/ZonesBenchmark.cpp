@@ -1,4 +1,4 @@
-// What a change of the display arrangement costs: the zones of all displays but one.
+// The cost of a display change: the zones of all displays but one.
 #include <cstddef>
 #include <vector>
 

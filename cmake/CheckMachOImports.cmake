@@ -1,5 +1,5 @@
-# Fails when a Mach-O file leaves to the loader what only this project or a named framework could
-# have given it: a member that nobody defined, a misspelt constant, a framework that is not linked.
+# Fails when a Mach-O file leaves symbols to the loader that only this project or a linked framework
+# could define: a member without a definition, a misspelt constant, a framework that is not linked.
 # Run as: cmake -DNM=... -DFILE=... -P CheckMachOImports.cmake
 execute_process(
   COMMAND "${NM}" --undefined-only --format=darwin "${FILE}"

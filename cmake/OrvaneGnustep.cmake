@@ -1,22 +1,22 @@
-# Builds the Mac half on Linux: with clang for GNUstep's Objective-C runtime, and with programs laid
-# out as GNUstep's applications, which run on a display of their own.
+# Builds the Mac half on Linux, with clang for GNUstep's Objective-C runtime. Programs are laid out
+# as GNUstep applications, which run on their own X display.
 
 if(ORVANE_CCACHE AND NOT CMAKE_OBJCXX_COMPILER_LAUNCHER)
   set(CMAKE_OBJCXX_COMPILER_LAUNCHER "${ORVANE_CCACHE}")
 endif()
 
 add_library(orvane_gnustep_flags INTERFACE)
-# GNUstep demands more of a delegate and promises less of a menu than AppKit, and clang takes a use of
-# its own by the standard library for one of ours.
+# GNUstep requires more methods of a delegate and declares menus less precisely than AppKit, and
+# clang attributes a deprecated use within the standard library to this project.
 target_compile_options(orvane_flags INTERFACE
   -Wno-deprecated-declarations "$<$<COMPILE_LANGUAGE:OBJCXX>:-Wno-protocol;-Wno-incompatible-pointer-types>")
-# The shim's headers stand before GNUstep's, which some of them take in.
+# The shim's headers precede GNUstep's, which some of them include.
 target_include_directories(orvane_gnustep_flags SYSTEM INTERFACE
   "${CMAKE_SOURCE_DIR}/tests/gnustep/include" "${ORVANE_GNUSTEP}/Local/Library/Headers"
   "${ORVANE_GNUSTEP}/include")
 target_compile_definitions(orvane_gnustep_flags INTERFACE
   GNUSTEP GNUSTEP_BASE_LIBRARY=1 GNUSTEP_GUI_LIBRARY=1 _NATIVE_OBJC_EXCEPTIONS)
-# Quartz.hpp, which brings all of Quartz along on a Mac, is portable here.
+# On a Mac, Quartz.hpp includes all of Quartz; here it is the portable half.
 target_compile_options(orvane_gnustep_flags INTERFACE
   "$<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-runtime=gnustep-2.0;-fblocks;-fconstant-string-class=NSConstantString;-includeApplicationServices/ApplicationServices.h>")
 target_link_options(orvane_gnustep_flags INTERFACE -fuse-ld=lld
@@ -26,7 +26,7 @@ target_link_directories(orvane_gnustep_flags INTERFACE
 target_link_libraries(orvane_gnustep_flags INTERFACE gnustep-gui gnustep-base dispatch objc)
 
 # orvane_gnustep_bundle(NAME IDENTIFIER): makes the program a bundle with the application's images;
-# as a test it runs on a display of its own.
+# as a test it runs on its own X display.
 function(orvane_gnustep_bundle name identifier)
   set(bundle "${CMAKE_BINARY_DIR}/${name}.app")
   set_target_properties(${name} PROPERTIES

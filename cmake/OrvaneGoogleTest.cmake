@@ -1,6 +1,6 @@
-# GoogleTest for the tests: the installed library, or its sources where one is needed that does not
-# come installed: in a cross build (Debian's package googletest lays them out), and wherever
-# ORVANE_GOOGLETEST_SOURCE names them, as for a Mac's universal build.
+# GoogleTest: the installed library, or its sources where the installed one does not fit: in a cross
+# build (from Debian's package googletest) and wherever ORVANE_GOOGLETEST_SOURCE names them, as for
+# a Mac's universal build.
 if(NOT CMAKE_CROSSCOMPILING AND NOT ORVANE_GOOGLETEST_SOURCE)
   find_package(GTest REQUIRED)
   return()
@@ -11,7 +11,7 @@ find_path(ORVANE_GOOGLETEST_SOURCE googletest/src/gtest-all.cc
           DOC "The sources of GoogleTest" NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 set(BUILD_GMOCK OFF CACHE BOOL "" FORCE)
 set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
-# An old release asks for an old CMake; that is its own affair.
+# An old release requires an old CMake; its warning is of no use here.
 set(CMAKE_WARN_DEPRECATED OFF CACHE BOOL "" FORCE)
 enable_language(C)
 add_subdirectory("${ORVANE_GOOGLETEST_SOURCE}" "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL SYSTEM)

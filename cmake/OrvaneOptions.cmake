@@ -1,4 +1,4 @@
-# What a builder may choose: the product's own constants, the platform, and what is built beside it.
+# The build's options: the product's constants, the platform, and the optional targets.
 
 set(ORVANE_BUNDLE_IDENTIFIER "app.orvane.Orvane" CACHE STRING "Bundle identifier of the application")
 set(ORVANE_SUPPORT_ADDRESS "support@orvane.example" CACHE STRING "E-mail address of the support")
@@ -23,8 +23,7 @@ option(ORVANE_SPEED_TESTS_ONLY "Of the tests, build only those with the label sp
 option(ORVANE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(ORVANE_BUILD_FUZZERS "Build the libFuzzer targets (clang only)" OFF)
 
-# ccache, where there is one, makes the second build of a tree cheap. CCACHE_DISABLE, its own variable,
-# leaves it out when CMake configures.
+# Uses ccache when it is installed, unless its variable CCACHE_DISABLE is set when CMake configures.
 find_program(ORVANE_CCACHE ccache)
 if(DEFINED ENV{CCACHE_DISABLE})
   set(ORVANE_CCACHE OFF)

@@ -1,5 +1,5 @@
-# How this project's targets are made, so that every one has the same warnings, the same include
-# root and the same sanitizers.
+# Functions that create this project's targets, so that all have the same warnings, include root and
+# sanitizers.
 
 add_library(orvane_flags INTERFACE)
 target_include_directories(orvane_flags INTERFACE "${CMAKE_SOURCE_DIR}" "${CMAKE_BINARY_DIR}/generated")
@@ -7,7 +7,7 @@ target_compile_options(orvane_flags INTERFACE -Wall -Wextra -Wpedantic -Wconvers
 if(NOT CMAKE_UNITY_BUILD)
   target_compile_options(orvane_flags INTERFACE -Wshadow)
 else()
-  # C++ files that are compiled as one see each other's constants, which no file alone could shadow.
+  # In a unity build, files see each other's constants, so that plain -Wshadow warns without cause.
   target_compile_options(orvane_flags INTERFACE
     "$<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>" "$<$<COMPILE_LANGUAGE:OBJCXX>:-Wshadow>")
 endif()
@@ -24,13 +24,13 @@ if(ORVANE_PLATFORM STREQUAL "macos")
   target_compile_options(orvane_flags INTERFACE $<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-arc>)
 endif()
 
-# Without a cache of what was compiled before, the libraries' headers, read once for everything, take a
-# half off the time of a first build. A build with the cache, or on a Mac, shows which includes are missing.
+# Without ccache, precompiling the libraries' headers halves the time of a first build. A build with
+# ccache, or on a Mac, shows which includes are missing.
 set(orvane_precompiles ON)
 if(ORVANE_CCACHE OR (ORVANE_PLATFORM STREQUAL "macos" AND NOT CMAKE_CROSSCOMPILING))
   set(orvane_precompiles OFF)
 elseif(ORVANE_PLATFORM STREQUAL "desk")
-  # Some libraries' packages ask for it, and it must be the same for all who share the headers.
+  # Some libraries' packages require it, and all targets that share the headers must agree.
   target_compile_options(orvane_flags INTERFACE -pthread)
 endif()
 set(orvane_read_headers
@@ -41,7 +41,7 @@ if(ORVANE_PLATFORM STREQUAL "macos")
        $<$<COMPILE_LANGUAGE:OBJCXX>:<AppKit/AppKit.h$<ANGLE-R>>)
 endif()
 
-# orvane_precompiled(NAME HEADERS...): a target with nothing but the read headers, for others to reuse.
+# orvane_precompiled(NAME HEADERS...): a target of precompiled headers only, for others to reuse.
 function(orvane_precompiled name)
   if(orvane_precompiles)
     add_library(${name} OBJECT)
@@ -59,7 +59,7 @@ function(orvane_precompiled name)
 endfunction()
 orvane_precompiled(orvane_headers)
 
-# orvane_steers_fuzzers(NAME): libFuzzer sees which branches of the target an input takes.
+# orvane_steers_fuzzers(NAME): instruments the target for libFuzzer's coverage guidance.
 function(orvane_steers_fuzzers name)
   if(ORVANE_BUILD_FUZZERS)
     target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link)
@@ -69,7 +69,7 @@ if(TARGET orvane_headers)
   orvane_steers_fuzzers(orvane_headers)
 endif()
 
-# orvane_reuse(NAME HEADERS): the target's sources find the headers of the target HEADERS read.
+# orvane_reuse(NAME HEADERS): the target reuses the precompiled headers of the target HEADERS.
 function(orvane_reuse name headers)
   if(TARGET ${headers})
     target_precompile_headers(${name} REUSE_FROM ${headers})
@@ -87,17 +87,18 @@ endfunction()
 # orvane_as_a_test(NAME): compiles the target's sources as tests are compiled.
 function(orvane_as_a_test name)
   if(CMAKE_BUILD_TYPE STREQUAL "Debug")
-    # To optimise GoogleTest's code takes most of a test's build; what is tested stays optimised.
+    # Optimising GoogleTest's templates takes most of a test's build; the tested code stays
+    # optimised.
     target_compile_options(${name} PRIVATE -O0)
   endif()
-  # What a cross build cannot run shows no more when it is built for the second processor, too.
+  # A cross build cannot run the tests, so building them for one processor is enough.
   if(CMAKE_CROSSCOMPILING)
     list(GET CMAKE_OSX_ARCHITECTURES 0 processor)
     set_target_properties(${name} PROPERTIES OSX_ARCHITECTURES ${processor})
   endif()
 endfunction()
 
-# orvane_test_bundle(NAME): on a Mac a bundle with user defaults of its own, which are not the user's
+# orvane_test_bundle(NAME): on a Mac a bundle whose user defaults are separate from an installed
 # Orvane's; on GNUstep one with the application's images, too.
 function(orvane_test_bundle name)
   if(ORVANE_GNUSTEP)
@@ -108,10 +109,10 @@ function(orvane_test_bundle name)
   endif()
 endfunction()
 
-# orvane_test(NAME SOURCES file... [LIBRARIES library...] [DEFINITIONS name=value...]
-# [LABELS label...] [PROPERTY_CASES count]): a GoogleTest executable; every test in it is one test of
-# ctest. In the sanitizers' build its name says so. Under ctest RapidCheck's properties see the same
-# cases in every run, PROPERTY_CASES of them; the executable itself tries others each time.
+# orvane_test(NAME SOURCES file... [LIBRARIES library...] [DEFINITIONS name=value...] [LABELS
+# label...] [PROPERTY_CASES count]): a GoogleTest executable; each of its tests is one ctest test,
+# with a prefix in sanitizer builds. Under ctest, RapidCheck's properties try the same
+# PROPERTY_CASES cases in every run; the executable by itself tries different ones each time.
 function(orvane_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "PROPERTY_CASES" "SOURCES;LIBRARIES;DEFINITIONS;LABELS")
   if(ORVANE_SPEED_TESTS_ONLY AND NOT "speed" IN_LIST arg_LABELS)
@@ -140,7 +141,7 @@ function(orvane_test name)
     list(APPEND properties LABELS "${arg_LABELS}")
   endif()
   if("speed" IN_LIST arg_LABELS)
-    # What is measured must have the machine for itself.
+    # Measurements need the machine to themselves.
     list(APPEND properties RUN_SERIAL TRUE)
   endif()
   gtest_discover_tests(

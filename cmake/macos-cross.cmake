@@ -1,6 +1,6 @@
 # Cross-builds the real application on Linux with clang, lld and the LLVM tools (version 19) and a
 # macOS SDK that the builder provides: -DORVANE_MACOS_SDK=FOLDER, a folder with System/Library and
-# usr. As on a Mac, one call of the compiler makes both processors' code.
+# usr. As on a Mac, one call of the compiler generates code for both processors.
 set(CMAKE_SYSTEM_NAME Darwin)
 set(CMAKE_SYSTEM_PROCESSOR arm64)
 
@@ -29,12 +29,12 @@ find_program(CMAKE_RANLIB llvm-ranlib-19 REQUIRED)
 find_program(CMAKE_STRIP llvm-strip-19 REQUIRED)
 find_program(CMAKE_INSTALL_NAME_TOOL llvm-install-name-tool-19 REQUIRED)
 
-# The compiler joins the two processors' objects with a program that it knows as "lipo" only.
+# The compiler merges the two processors' objects with a program that must be called "lipo".
 set(orvane_tools "${CMAKE_BINARY_DIR}/macos-cross-tools")
 file(MAKE_DIRECTORY "${orvane_tools}")
 file(CREATE_LINK "${ORVANE_LIPO}" "${orvane_tools}/lipo" SYMBOLIC)
 
-# A framework that the SDK leaves out is linked by a stub that names what is used of it.
+# A framework that the SDK lacks is linked by a stub that lists the symbols in use.
 if(NOT EXISTS "${ORVANE_MACOS_SDK}/System/Library/Frameworks/ServiceManagement.framework")
   set(orvane_framework ServiceManagement.framework)
   file(WRITE "${orvane_tools}/${orvane_framework}/ServiceManagement.tbd"
@@ -50,7 +50,7 @@ exports:
 endif()
 
 # Without a settings file in the SDK the compiler would record the deployment target as the SDK's
-# version, and AppKit would take the application for one that was built long ago.
+# version, and AppKit would treat the application as built with that old SDK.
 set(orvane_sdk_version 13.0)
 if(NOT EXISTS "${ORVANE_MACOS_SDK}/SDKSettings.json")
   file(STRINGS "${ORVANE_MACOS_SDK}/usr/include/AvailabilityVersions.h" orvane_version_lines
@@ -69,12 +69,12 @@ endif()
 
 foreach(language C CXX OBJC OBJCXX)
   set(CMAKE_${language}_FLAGS_INIT "-B${orvane_tools}")
-  # The compiler's archives hold one processor's objects; libtool's hold both.
+  # The default archiver stores one processor's objects; libtool stores both.
   set(CMAKE_${language}_CREATE_STATIC_LIBRARY
       "\"${ORVANE_LIBTOOL}\" -static -o <TARGET> <LINK_FLAGS> <OBJECTS>")
 endforeach()
-# An SDK of stubs may leave the C and C++ libraries' own symbols out, so the linker is told to leave
-# what it does not find to the loader; CheckMachOImports.cmake says when that hid a mistake.
+# An SDK of stubs may lack the C and C++ libraries' symbols, so the linker leaves unknown symbols to
+# the loader; CheckMachOImports.cmake reports when that hides a mistake.
 foreach(kind EXE SHARED MODULE)
   set(CMAKE_${kind}_LINKER_FLAGS_INIT
       "-fuse-ld=lld --ld-path=${ORVANE_LD64} -Wl,-undefined,dynamic_lookup -F${orvane_tools} \

@@ -22,8 +22,8 @@ namespace script = orvane::desk::script;
 /// The exit status when the command line makes no sense.
 constexpr int misusedStatus = 2;
 
-script::Complaint writePicture(const script::Session& session,
-                               const script::PictureRequest& request) {
+script::Problem writePicture(const script::Session& session,
+                             const script::PictureRequest& request) {
   if (request.surface) {
     return orvane::desk::writeSurfacePicture(session.machine(), session.application(),
                                              *request.surface, request.file, request.scale);

@@ -1,4 +1,5 @@
-// Whatever stands in a script, it is carried out or refused with a line that says where and why.
+// Fuzzes the script interpreter: any script either runs or is rejected with a position and a
+// reason.
 #include <cstddef>
 #include <cstdint>
 #include <sstream>
@@ -16,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   std::ostringstream errors;
   std::istringstream script(std::string(reinterpret_cast<const char*>(bytes), size));
   ScriptProgram::Settings settings;
-  // One input must take no more than a moment, and must not write files.
+  // An input must not run for long and must not write files.
   settings.limits = {.repetitions = 500,
                      .clockNanoseconds = 600 * orvane::desk::Clock::nanosecondsPerSecond,
                      .allowsFiles = false};

@@ -1,5 +1,5 @@
-// Whatever is stored in the user defaults and in the Dock's preferences, of any type and content,
-// the application starts, reads it or its default, works, and quits without leaving anything.
+// With any values in the user defaults and the Dock's preferences, of any type, the application
+// starts, reads each value or its default, works, and quits without a leak.
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -57,7 +57,7 @@ void attachDisplays(FuzzedDataProvider& data, Machine& machine) {
         data.ConsumeIntegralInRange(-4000, 4000), data.ConsumeIntegralInRange(-4000, 4000),
         data.ConsumeIntegralInRange(1, 4000), data.ConsumeIntegralInRange(1, 4000));
     display.hasNumberInDescription = data.ConsumeBool();
-    // A refused display is one that the machine could not have either.
+    // A real machine could not have a refused display either.
     static_cast<void>(machine.displays.attach(display));
   }
 }

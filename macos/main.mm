@@ -1,4 +1,4 @@
-// The entry of the application on a Mac: it hands over to a copy that runs already, or runs.
+// The application's entry point on a Mac: hands over to a running copy, or runs.
 #import <AppKit/AppKit.h>
 
 #include "Orvane/app/OrvaneApp.hpp"
@@ -12,7 +12,7 @@ int main() {
     }
     orvane::answerLaterCopies();
     orvane::OrvaneApp::install();
-    // Ends with the process.
+    // Does not return: it ends with the process.
     [application run];
   }
 }

@@ -1,5 +1,5 @@
-# What the scripts share: how they speak, how many jobs they start, how they configure and build.
-# Sourced by ./run, ./test and the scripts in tools/; it must also work with the old bash of a Mac.
+# Functions shared by the scripts: messages, the number of jobs, configuring and building. Sourced
+# by ./run, ./test and the scripts in tools/; it must also work with the old bash of a Mac.
 # shellcheck shell=bash
 
 project=$(CDPATH='' cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd -P)
@@ -26,8 +26,8 @@ job_count() {
   say $((processors < memory ? processors : memory))
 }
 
-# configure PRESET [OPTION...]: into build/PRESET. A build directory that was made when the project
-# lay elsewhere is made anew, because CMake refuses it.
+# configure PRESET [OPTION...]: into build/PRESET. Recreates a build directory that was configured
+# when the project was elsewhere, because CMake refuses it.
 configure() {
   local preset=$1 cache="$project/build/$1/CMakeCache.txt" log="$project/build/$1-configure.log"
   if [[ -f $cache ]] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$project" "$cache"; then
@@ -52,7 +52,7 @@ build() {
   say "Built $preset in $((SECONDS - started)) s."
 }
 
-# What sudo built belongs to whoever owns the project, or their next build would fail.
+# Returns what sudo has built to the project's owner, whose next build would otherwise fail.
 return_build_to_owner() {
   if [[ $EUID == 0 && -n ${SUDO_UID:-} && -d $project/build && ! -O $project ]]; then
     chown -R "$SUDO_UID:${SUDO_GID:-$SUDO_UID}" "$project/build"

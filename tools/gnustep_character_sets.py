@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Writes NSCharacterSetData.h, the largest file of GNUstep's base library, from Python's own tables of
-characters: for a clone that leaves it out. Usage: gnustep_character_sets.py FILE"""
+"""Writes NSCharacterSetData.h, the largest file of GNUstep's base library, from Python's Unicode tables, for
+a clone that lacks it. Usage: gnustep_character_sets.py FILE"""
 
 import string
 import sys
@@ -11,7 +11,7 @@ NEWLINES = "\n\v\f\r\x85\u2028\u2029"
 UNRESERVED = string.ascii_letters + string.digits + "-._~"
 IN_URL = UNRESERVED + "!$&'()*+,;="
 
-# By the name of the set: whether a character of a category is in it.
+# By the set's name: whether it contains a character of a category.
 SETS = {
     "alphanumericCharSet": lambda char, kind: kind[0] in "LMN",
     "titlecaseLetterCharSet": lambda char, kind: kind == "Lt",
@@ -38,7 +38,7 @@ SETS = {
 
 
 def bitmap(is_in):
-    """A bit for each character, without the zeros at the end."""
+    """One bit per character, without trailing zero bytes."""
     bits = bytearray(BYTES)
     for code in range(0x110000):
         if is_in(chr(code), unicodedata.category(chr(code))):

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Packs an application's bundle as a Mac unpacks it: with its permissions and its symbolic links, and the
-same bytes from the same bundle.
+"""Packs an application bundle for a Mac, with permissions and symbolic links. The same bundle gives the
+same bytes.
 
 Usage: tools/zip_bundle.py BUNDLE ARCHIVE; tools/zip_bundle.py --version BUNDLE prints the bundle's version.
 """
@@ -12,12 +12,12 @@ import stat
 import sys
 import zipfile
 
-# The earliest time that a zip file can hold.
+# The earliest time that a zip file can represent.
 _TIME = (1980, 1, 1, 0, 0, 0)
 
 
 def _mode(path):
-    """What the archive says of a file: its kind, and whether it can be run."""
+    """The mode stored for a file: its type, and whether it is executable."""
     mode = os.lstat(path).st_mode
     if stat.S_ISLNK(mode):
         return stat.S_IFLNK | 0o755
@@ -27,7 +27,7 @@ def _mode(path):
 
 
 def _entries(bundle):
-    """The bundle and all that is in it, in the order of the paths; links are not followed."""
+    """The bundle and all of its contents; links are not followed."""
     yield bundle
     for folder, folders, names in os.walk(bundle):
         folders.sort()
@@ -36,7 +36,7 @@ def _entries(bundle):
 
 
 def pack(bundle, archive):
-    """Writes the archive, in which the bundle is the only thing at the top."""
+    """Writes the archive, with the bundle as its only top-level entry."""
     with zipfile.ZipFile(archive, "w", zipfile.ZIP_DEFLATED, compresslevel=9) as packed:
         for path in sorted(_entries(bundle)):
             mode = _mode(path)
@@ -53,7 +53,7 @@ def pack(bundle, archive):
 
 
 def version(bundle):
-    """The version that the bundle names."""
+    """The bundle's version."""
     return plistlib.loads((bundle / "Contents" / "Info.plist").read_bytes())["CFBundleShortVersionString"]
 
 

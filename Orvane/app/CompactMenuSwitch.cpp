@@ -9,6 +9,12 @@ namespace orvane {
 
 using namespace ui;
 
+namespace {
+
+constexpr double offRimOpacity = 0.5;
+
+}  // namespace
+
 View CompactMenuSwitch::body(const Environment& environment) const {
   const Color track = isOn ? Color::blue() : Color::tertiary().opacity(0.22);
   const View knob = Circle()
@@ -16,8 +22,10 @@ View CompactMenuSwitch::body(const Environment& environment) const {
                         .castShadow({.color = Color::black().opacity(0.14), .radius = 1, .y = 0.5})
                         .frame(15, 15)
                         .padding(1.5);
-  // The faint track of a switch that is off gets an outline where the user asks for contrast.
-  const Color rim = OrvanePalette::outline(Color::clear(), environment);
+  // The faint track of a switch that is off would be lost without an outline: this one has a
+  // contrast of at least 3 to 1 with the menu.
+  const Color rim = OrvanePalette::outline(
+      isOn ? Color::clear() : Color::primary().opacity(offRimOpacity), environment);
   return ZStack(isOn ? Alignment::trailing() : Alignment::leading(),
                 {Capsule().fill(track).strokeBorder(rim), knob})
       .frame(34, 18)

@@ -3,10 +3,10 @@
 
 #include "Orvane/app/CompactMenuSwitch.hpp"
 #include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/FittedText.hpp"
 #include "Orvane/ui/Image.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/Text.hpp"
 
 namespace orvane {
 
@@ -15,9 +15,9 @@ using namespace ui;
 namespace {
 
 constexpr double disabledOpacity = 0.45;
-/// How much smaller a long title may become before it is cut: in a wide face "Prevent Dock Pop-Up"
-/// does not fit beside the switch at its full size.
-constexpr double smallestTitleScale = 0.85;
+/// Beside a switch are 117 points, and "Prevent Dock Pop-Up" is not to be cut: so much room is
+/// there for a face in which it takes up to 127.
+constexpr double titleTightening = 0.08;
 constexpr double switchSpacing = 3;
 
 }  // namespace
@@ -39,9 +39,13 @@ View StatusMenuRow::content(bool isHovered) const {
   // Rows with a switch never show a highlight, on purpose.
   const bool isHighlighted = isHovered && !isOn;
   const View line =
-      FittedText(title, smallestTitleScale)
+      Text(title)
           .font(Font::system(13, Weight::medium))
           .foreground(isEnabled ? Color::primary() : Color::secondary().opacity(disabledOpacity))
+          .lineLimit(1)
+          .allowsTightening(titleTightening)
+          // The end says which of two displays of a kind it is, and which is the main one.
+          .truncationMode(TruncationMode::middle)
           .frame({.height = 26, .maximumWidth = infinity, .alignment = Alignment::leading()})
           .padding(Edge::leading, 8);
   return HStack(0, {iconBadge(), line,

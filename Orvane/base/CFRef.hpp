@@ -1,10 +1,10 @@
-// CFRef owns one reference to a Core Foundation object: what a function with Create or Copy in its
-// name returns. It is released exactly once, when the CFRef goes away or takes another object.
+// CFRef owns one reference to a Core Foundation object, as a Create or Copy function returns it,
+// and releases it exactly once: when the CFRef is destroyed or assigned another object.
 #pragma once
 
 #include <utility>
 
-// Core Foundation's own two functions, declared as its headers do, so that this header needs none.
+// Declared as in Core Foundation's headers, so that this header needs none of them.
 extern "C" {
 const void* CFRetain(const void* object);
 void CFRelease(const void* object);
@@ -22,7 +22,7 @@ class CFRef {
   /// Takes over the caller's reference, as returned by a Create or Copy function.
   [[nodiscard]] static CFRef owning(Ref created) { return CFRef(created); }
 
-  /// Adds a reference of its own to an object that somebody else owns.
+  /// Retains an object that the caller does not own.
   [[nodiscard]] static CFRef retaining(Ref borrowed) {
     if (borrowed != nullptr) {
       CFRetain(borrowed);

@@ -1,5 +1,5 @@
-// Lifetime lets something that lives longer keep a callback into an object without keeping the
-// object: the callback does nothing once its owner is gone.
+// Lifetime guards callbacks that may outlive their owner: once the owner is destroyed, they do
+// nothing.
 #pragma once
 
 #include <memory>
@@ -7,7 +7,7 @@
 
 namespace orvane {
 
-/// A member of the owner, declared last so that it ends first. Main thread only.
+/// Declare it as the owner's last member, so that it is destroyed first. Main thread only.
 class Lifetime {
  public:
   Lifetime() : token_(std::make_shared<char>()) {}

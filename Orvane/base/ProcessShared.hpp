@@ -1,6 +1,6 @@
-// ProcessShared is an object that a process creates when it is first asked for and keeps until it
-// ends. On a Mac the process's end is the end of it; the desk, where several simulated processes
-// follow each other in one real one, says when one has ended.
+// ProcessShared creates an object on first use and keeps it until the process ends. The desk runs
+// several simulated processes, one after another, in one real process; it marks the end of each
+// with `ProcessLifetime::end`.
 #pragma once
 
 #include <functional>
@@ -10,13 +10,13 @@
 
 namespace orvane {
 
-/// The shared objects of the present process, destroyed in the reverse order of their creation.
-/// Main thread only.
+/// The shared objects of the current process, destroyed in reverse order of creation. Main thread
+/// only.
 class ProcessLifetime {
  public:
   static void add(std::function<void()> destroy) { destructions().push_back(std::move(destroy)); }
 
-  /// Ends the present process: what is asked for afterwards belongs to the next one.
+  /// Ends the current process. Objects that are requested later belong to the next one.
   static void end() {
     while (!destructions().empty()) {
       const std::function<void()> destroy = std::move(destructions().back());
@@ -32,7 +32,7 @@ class ProcessLifetime {
   }
 };
 
-/// Declare one as a static and ask it with get(). Main thread only.
+/// Declare one as a static and call get(). Main thread only.
 template <typename T>
 class ProcessShared {
  public:

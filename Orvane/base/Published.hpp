@@ -1,5 +1,4 @@
-// Published is a value whose changes are announced: observers are told of a change and read the
-// new value.
+// Published is a value that notifies its observers of each change; they then read the new value.
 #pragma once
 
 #include <functional>
@@ -9,7 +8,7 @@
 
 namespace orvane {
 
-/// Main thread only. Assigning an equal value is no change and tells nobody.
+/// Main thread only. Assigning an equal value sends no notification.
 template <typename T>
 class Published {
  public:
@@ -32,7 +31,7 @@ class Published {
     }
   }
 
-  /// Calls `observer` after each later change; the present value is not announced.
+  /// Calls `observer` after each later change, but not for the current value.
   [[nodiscard]] Subscription observe(std::function<void()> observer) const {
     return changed_.observe(std::move(observer));
   }

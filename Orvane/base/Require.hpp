@@ -1,5 +1,4 @@
-// Require: an assertion that stays in release builds, for what cannot happen and must not go on if
-// it does.
+// require: an assertion that release builds keep, for conditions that only a bug can violate.
 #pragma once
 
 #include <cstdio>

@@ -9,18 +9,18 @@ namespace orvane {
 
 struct RunningCopy {
   std::int64_t processID = 0;
-  /// Whether it has come to the end of its start-up, and so decided for itself to stay.
+  /// Whether it has finished starting, and so decided to stay.
   bool isRunning = false;
-  /// Seconds by the calendar clock; none when the system does not know.
+  /// Seconds by the calendar clock; none when the system does not report it.
   std::optional<double> launchedAt;
 
   friend bool operator==(const RunningCopy&, const RunningCopy&) = default;
 };
 
-/// The copy to which the others hand over. A copy that runs already comes before those that still
-/// start; then the earlier launch decides, and at last the smaller process number. A copy without a
-/// launch date comes after those with one. The order of the copies does not matter; none when there
-/// are no copies.
+/// The copy to which the others hand over; none when there are no copies. A running copy takes
+/// precedence over those that are still starting, then an earlier launch over a later one, then a
+/// smaller process number over a greater one. A copy without a launch date comes after those with
+/// one. The order of `copies` does not matter.
 [[nodiscard]] std::optional<RunningCopy> copyThatStays(std::span<const RunningCopy> copies);
 
 }  // namespace orvane

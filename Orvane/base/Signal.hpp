@@ -1,4 +1,4 @@
-// Signal tells its observers, in the order they came, that something happened.
+// Signal notifies its observers, in the order of their subscription.
 #pragma once
 
 #include <functional>
@@ -21,7 +21,7 @@ class Subscription {
   Subscription& operator=(Subscription&&) = default;
   ~Subscription() = default;
 
-  /// The observer is not called any more, even by a notification that is under way.
+  /// The observer is not called again, not even by a notification in progress.
   void cancel() { observer_.reset(); }
   [[nodiscard]] bool isActive() const { return observer_ != nullptr; }
 
@@ -29,8 +29,8 @@ class Subscription {
   std::shared_ptr<std::function<void()>> observer_;
 };
 
-/// Main thread only. Observers may subscribe, cancel and even destroy the Signal while they are
-/// being told; one that subscribes during a notification hears of the next.
+/// Main thread only. During a notification, observers may subscribe, cancel and even destroy the
+/// Signal; a new observer is first called by the next notification.
 class Signal {
  public:
   Signal() = default;
@@ -45,8 +45,8 @@ class Signal {
   }
 
   void notify() const {
-    const Observers told = observers_;
-    for (const auto& weak : told) {
+    const Observers notified = observers_;
+    for (const auto& weak : notified) {
       if (const auto observer = weak.lock()) {
         (*observer)();
       }

@@ -10,11 +10,11 @@ namespace orvane {
 /// tabulator and the line and paragraph breaks.
 [[nodiscard]] std::string_view trimmed(std::string_view text);
 
-/// `text` with the letters A to Z in lower case; all other bytes stay.
+/// `text` with the letters A to Z in lower case; all other bytes are unchanged.
 [[nodiscard]] std::string asciiLowercased(std::string_view text);
 
-/// A language or locale identifier in the form in which they are compared: trimmed, with "-" for
-/// every "_", in lower case.
+/// A language or locale identifier normalised for comparison: trimmed, with "-" for every "_", in
+/// lower case.
 [[nodiscard]] std::string normalizedLocaleIdentifier(std::string_view identifier);
 
 }  // namespace orvane

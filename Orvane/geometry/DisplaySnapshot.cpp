@@ -1,4 +1,4 @@
-// One attached display as the application lists it: who it is, where it is, what it is called.
+// One attached display as the application lists it: its identifiers, name and frames.
 #include "Orvane/geometry/DisplaySnapshot.hpp"
 
 #include <optional>

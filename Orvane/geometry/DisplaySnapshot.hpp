@@ -1,4 +1,4 @@
-// One attached display as the application lists it: who it is, where it is, what it is called.
+// One attached display as the application lists it: its identifiers, name and frames.
 #pragma once
 
 #include <cstddef>
@@ -13,11 +13,11 @@
 
 namespace orvane {
 
-/// A value; equal only when every field is equal.
+/// Equal only when every field is equal.
 struct DisplaySnapshot {
   /// The UUID string where the system gives one, otherwise the legacy identifier.
   std::string id;
-  /// Every identifier under which a stored choice names this display.
+  /// Every identifier by which a stored choice may name this display.
   std::set<std::string> matchingIdentifiers;
   /// In the language of the interface; never empty for a real display.
   std::string name;
@@ -32,7 +32,7 @@ struct DisplaySnapshot {
     return matchingIdentifiers.contains(identifier);
   }
 
-  /// The snapshot of one of the system's screens, taken now.
+  /// Takes a snapshot of `screen`, one of the system's `screens`.
   [[nodiscard]] static DisplaySnapshot of(const appkit::Screen& screen,
                                           std::span<const appkit::Screen> screens);
   /// One snapshot per screen, in the system's order.

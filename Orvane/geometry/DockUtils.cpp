@@ -16,7 +16,7 @@ CFStringRef dockPreferencesID() {
 CFRef<CFPropertyListRef> readDockPreference(CFStringRef key) {
   using Value = CFRef<CFPropertyListRef>;
   const CFStringRef domain = dockPreferencesID();
-  // Otherwise a value that the Dock changed a moment ago would not be seen.
+  // Otherwise a value that the Dock has just changed is not seen.
   CFPreferencesAppSynchronize(domain);
   for (const CFStringRef host : {kCFPreferencesAnyHost, kCFPreferencesCurrentHost}) {
     Value value =

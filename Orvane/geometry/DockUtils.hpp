@@ -7,15 +7,15 @@
 
 namespace orvane::DockUtils {
 
-/// The Dock's preference domain, "com.apple.dock"; made once and kept for the life of the process.
+/// The Dock's preference domain, "com.apple.dock"; created once and never released.
 CFStringRef dockPreferencesID();
 
-/// The value of `key` in the Dock's domain as the Dock stored it last, looked for with any host,
-/// then with the current host, then along the application's search list; empty when there is none.
+/// The value of `key` that the Dock stored last: for any host, else for the current host, else the
+/// first along the application's search list. Empty when there is none.
 [[nodiscard]] CFRef<CFPropertyListRef> readDockPreference(CFStringRef key);
 
-/// From the key "orientation": a missing value or one that is no string means `bottom`, the Dock's
-/// own default; a text that names no edge means `unknown`, which guards nothing.
+/// Reads the key "orientation". A missing value or one that is not a string means `bottom`, the
+/// Dock's own default; a string that names no edge means `unknown`, which has no trigger zones.
 [[nodiscard]] DockPosition getDockPosition();
 
 }  // namespace orvane::DockUtils

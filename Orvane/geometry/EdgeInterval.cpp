@@ -1,4 +1,4 @@
-// A closed stretch along one edge of a display.
+// A closed interval along one edge of a display.
 #include "Orvane/geometry/EdgeInterval.hpp"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// A closed stretch along one edge of a display.
+// A closed interval along one edge of a display.
 #pragma once
 
 #include <vector>
@@ -12,11 +12,11 @@ struct EdgeInterval {
 
   friend bool operator==(const EdgeInterval&, const EdgeInterval&) = default;
 
-  /// Stretches must be longer than this to count, and ones that are no further apart are joined,
-  /// in points.
+  /// In points. Intervals of at most this length are dropped, and gaps of at most this length
+  /// closed.
   static constexpr double minimumLength = 0.5;
 
-  /// The intervals in ascending order, overlapping and nearly touching ones united.
+  /// The intervals in ascending order, with overlapping and nearly touching ones merged.
   [[nodiscard]] static std::vector<EdgeInterval> merge(std::vector<EdgeInterval> intervals);
 
   /// What is left of `whole` without `removed`, in ascending order; pieces of at most

@@ -79,7 +79,7 @@ std::string fallbackDisplayName(std::optional<std::uint32_t> displayID) {
 }
 
 DisplayNameLanguage currentChineseLanguage() {
-  // The locale's identifier is compared as it stands, in both spellings.
+  // The locale's identifier is not normalised, so both spellings are listed.
   static constexpr std::array<std::string_view, 5> traditionalPrefixes = {
       "zh_hant", "zh-hant", "zh_tw", "zh_hk", "zh_mo"};
   return startsWithAny(asciiLowercased(appkit::Locale::currentIdentifier()), traditionalPrefixes)

@@ -6,13 +6,14 @@
 #include <string>
 #include <string_view>
 
-/// Display names know traditional Chinese besides the two languages of the rest of the interface.
+/// Display names support traditional Chinese besides the two languages of the rest of the
+/// interface.
 namespace orvane::OrvaneDisplayNameLocalizer {
 
 enum class DisplayNameLanguage { simplifiedChinese, traditionalChinese, english };
 
-/// A fixed name for a built-in display; otherwise `name` without the blanks around it, or the
-/// fallback name when nothing is left.
+/// A fixed name for a built-in display; otherwise the trimmed `name`, or the fallback name when
+/// that is empty.
 [[nodiscard]] std::string localizedDisplayName(std::string_view name,
                                                std::optional<std::uint32_t> displayID,
                                                bool isBuiltIn);
@@ -23,7 +24,8 @@ enum class DisplayNameLanguage { simplifiedChinese, traditionalChinese, english 
 /// Which Chinese the current locale writes; simplified unless it says traditional.
 [[nodiscard]] DisplayNameLanguage currentChineseLanguage();
 
-/// What the user's preferred languages, then the current locale ask for; English when none decides.
+/// The first language that the user's preferred languages, then the current locale name; English
+/// when they name none.
 [[nodiscard]] DisplayNameLanguage currentChineseLanguageOrEnglish();
 
 }  // namespace orvane::OrvaneDisplayNameLocalizer

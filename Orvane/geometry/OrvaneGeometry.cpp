@@ -1,4 +1,4 @@
-// From display frames and the Dock's edge to the trigger zones: pure functions without state.
+// Computes the trigger zones from the display frames and the Dock's edge. Pure functions.
 #include "Orvane/geometry/OrvaneGeometry.hpp"
 
 #include <algorithm>
@@ -19,7 +19,7 @@ EdgeInterval rangeAlongEdge(CGRect frame, DockPosition dockPosition) {
                                   : EdgeInterval{CGRectGetMinX(frame), CGRectGetMaxX(frame)};
 }
 
-/// Where the frame's own Dock edge runs.
+/// The coordinate of the frame's own Dock edge.
 double edgeLine(CGRect frame, DockPosition dockPosition) {
   switch (dockPosition) {
     case DockPosition::left:
@@ -31,7 +31,7 @@ double edgeLine(CGRect frame, DockPosition dockPosition) {
   }
 }
 
-/// Where the edge runs that a neighbour behind the Dock edge turns towards it.
+/// The coordinate of the neighbour's edge that faces the Dock edge.
 double facingEdge(CGRect neighbour, DockPosition dockPosition) {
   switch (dockPosition) {
     case DockPosition::left:
@@ -43,19 +43,19 @@ double facingEdge(CGRect neighbour, DockPosition dockPosition) {
   }
 }
 
-TriggerZone zoneAlong(EdgeInterval stretch, CGRect frame, DockPosition dockPosition) {
-  const double length = stretch.end - stretch.start;
+TriggerZone zoneAlong(EdgeInterval interval, CGRect frame, DockPosition dockPosition) {
+  const double length = interval.end - interval.start;
   switch (dockPosition) {
     case DockPosition::left:
-      return {CGRectMake(CGRectGetMinX(frame), stretch.start, zoneThickness, length),
+      return {CGRectMake(CGRectGetMinX(frame), interval.start, zoneThickness, length),
               CGVectorMake(zoneThickness, 0)};
     case DockPosition::right:
       return {
-          CGRectMake(CGRectGetMaxX(frame) - zoneThickness, stretch.start, zoneThickness, length),
+          CGRectMake(CGRectGetMaxX(frame) - zoneThickness, interval.start, zoneThickness, length),
           CGVectorMake(-zoneThickness, 0)};
     default:
       return {
-          CGRectMake(stretch.start, CGRectGetMaxY(frame) - zoneThickness, length, zoneThickness),
+          CGRectMake(interval.start, CGRectGetMaxY(frame) - zoneThickness, length, zoneThickness),
           CGVectorMake(0, -zoneThickness)};
   }
 }
@@ -97,8 +97,8 @@ std::vector<TriggerZone> calculateTriggerZones(std::span<const CGRect> screenFra
       break;
     }
     const CGRect frame = screenFrames[index];
-    for (const EdgeInterval& stretch : exposedIntervals(frame, dockPosition, screenFrames)) {
-      zones.push_back(zoneAlong(stretch, frame, dockPosition));
+    for (const EdgeInterval& interval : exposedIntervals(frame, dockPosition, screenFrames)) {
+      zones.push_back(zoneAlong(interval, frame, dockPosition));
     }
   }
   return zones;

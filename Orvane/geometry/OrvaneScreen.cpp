@@ -1,5 +1,5 @@
-// What the application asks of a screen beyond the window system's own answers: who it is and
-// where it is in global coordinates.
+// A screen's identifiers and its frame in global coordinates, derived from what the window system
+// reports.
 #include "Orvane/geometry/OrvaneScreen.hpp"
 
 #include <algorithm>
@@ -15,11 +15,11 @@ namespace orvane::OrvaneScreen {
 
 namespace {
 
-/// The fewest decimals, at least one, from which the value can be read back exactly: 1920.0.
+/// The shortest form, with at least one decimal, that parses back to exactly `value`: 1920.0.
 std::string descriptionOf(double value) {
-  constexpr int mostDecimals = 17;
+  constexpr int maximumDecimals = 17;
   std::array<char, 400> buffer{};
-  for (int decimals = 1; decimals <= mostDecimals; ++decimals) {
+  for (int decimals = 1; decimals <= maximumDecimals; ++decimals) {
     std::snprintf(buffer.data(), buffer.size(), "%.*f", decimals, value);
     if (std::strtod(buffer.data(), nullptr) == value) {
       break;

@@ -1,6 +1,6 @@
-// What the application asks of a screen beyond the window system's own answers: who it is and
-// where it is in global coordinates. Nothing is kept between calls; where other screens matter, the
-// caller passes the list, so that one operation lists the screens once.
+// A screen's identifiers and its frame in global coordinates, derived from what the window system
+// reports. Stateless; functions that depend on the other screens take the list, so that an
+// operation lists the screens once.
 #pragma once
 
 #include <cstddef>
@@ -18,18 +18,18 @@ namespace orvane::OrvaneScreen {
 /// not a number.
 [[nodiscard]] std::optional<CGDirectDisplayID> orvaneDisplayID(const appkit::Screen& screen);
 
-/// The frame in global display coordinates: points, origin at the top left of the first display,
-/// y downwards. `screens` is the system's list, whose first screen has the origin; when it is
-/// empty, the frame is unchanged.
+/// The frame in global display coordinates: points, origin at the top left of the first display, y
+/// downwards. `screens` is the system's list, whose first screen defines the origin; when it is
+/// empty, the frame is returned unchanged.
 [[nodiscard]] CGRect orvaneCGFrame(const appkit::Screen& screen,
                                    std::span<const appkit::Screen> screens);
 
-/// The display's UUID string where it has a number and the system a UUID for it, otherwise its
+/// The display's UUID string when it has a number for which the system knows a UUID, otherwise its
 /// legacy identifier.
 [[nodiscard]] std::string orvanePrimaryIdentifier(const appkit::Screen& screen);
 
-/// Number, size, depth and colour space as text. The form, "Optional(...)" and "nil" included, is
-/// fixed for good: choices were stored in it and are compared as plain strings.
+/// Number, size, depth and colour space as text. The form, "Optional(...)" and "nil" included, must
+/// never change: stored choices contain it and are compared as plain strings.
 [[nodiscard]] std::string orvaneLegacyIdentifier(const appkit::Screen& screen);
 
 /// The primary and the legacy identifier, and the display's number in decimal when it has one.

@@ -1,4 +1,4 @@
-// A strip along a display's Dock edge in which a pointer would bring up the Dock.
+// A strip along a display's Dock edge in which the pointer would summon the Dock.
 #pragma once
 
 #include "Orvane/platform/Quartz.hpp"

@@ -1,5 +1,5 @@
-// The guard's life: starting, following the display arrangement, stopping, reporting. The filter
-// that runs for every event is in DockMouseGuardFilter.cpp.
+// The guard's life cycle: starting, following the display arrangement, stopping, reporting. The
+// filter that runs for every event is in DockMouseGuardFilter.cpp.
 #include "Orvane/guard/DockMouseGuard.hpp"
 
 #include <cstddef>
@@ -53,6 +53,18 @@ void DockMouseGuard::start(const std::string& targetDisplayID, OrvaneModifier mo
   announceRunning();
 }
 
+GuardSnapshot DockMouseGuard::snapshot() const {
+  return {.isRunning = isRunning(),
+          .isObservingScreens = screenObserver_.has_value(),
+          .zones = cachedTriggerZones_,
+          .lockedDisplayIdentifier = lockedDisplayIdentifier_,
+          .overrideModifier = overrideModifier_,
+          .blocksAllDisplays = blocksAllDisplays_,
+          .isTemporarilyUnlocked = isTemporarilyUnlocked_,
+          .blockedCount = blockedCount_,
+          .recentBlockCount = recentBlockTimestamps_.size()};
+}
+
 void DockMouseGuard::stop() {
   removeEventTap();
   stopObservingScreens();
@@ -64,7 +76,7 @@ void DockMouseGuard::stop() {
 }
 
 void DockMouseGuard::reviveTap() {
-  // The main queue may stand still, in a modal session, with the clean-up.
+  // In a modal session the main queue is suspended, and the pending clean-up with it.
   finishShutOff();
   announceRunning();
   if (!eventTap_ || CGEventTapIsEnabled(eventTap_.get())) {
@@ -75,7 +87,7 @@ void DockMouseGuard::reviveTap() {
     CGEventTapEnable(eventTap_.get(), true);
     return;
   }
-  if (isDisabledTooOften()) {
+  if (recordDisabling()) {
     shutOff();
     return;
   }
@@ -130,7 +142,7 @@ void DockMouseGuard::setupEventTap() {
   auto source = CFRef<CFRunLoopSourceRef>::owning(
       CFMachPortCreateRunLoopSource(kCFAllocatorDefault, port.get(), 0));
   if (!source) {
-    // A tap that nobody serves would hold up every event of the session.
+    // A tap without a run-loop source would stall every event of the session.
     CGEventTapEnable(port.get(), false);
     CFMachPortInvalidate(port.get());
     emit(DockMouseGuardMessages::tapRefused());
@@ -173,7 +185,7 @@ void DockMouseGuard::stopObservingScreens() {
 }
 
 void DockMouseGuard::handleScreenConfigChanged() {
-  // The change ends a shut-off, also one that the main queue has not finished yet.
+  // A display change ends a shut-off, even one that the main queue has yet to complete.
   finishShutOff();
   updateForScreens(appkit::Screen::screens());
   announceRunning();
@@ -209,7 +221,7 @@ void DockMouseGuard::finishShutOff() {
 
 void DockMouseGuard::pause() {
   removeEventTap();
-  // Without a tap nothing would show that the key has been let go.
+  // Without a tap, the release of the unlock key would go unnoticed.
   setTemporarilyUnlocked(false);
 }
 

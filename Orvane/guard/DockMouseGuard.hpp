@@ -16,6 +16,7 @@
 #include "Orvane/base/Lifetime.hpp"
 #include "Orvane/geometry/DisplaySnapshot.hpp"
 #include "Orvane/geometry/TriggerZone.hpp"
+#include "Orvane/guard/GuardSnapshot.hpp"
 #include "Orvane/guard/OrvaneModifier.hpp"
 #include "Orvane/guard/RecentBlockTimestamps.hpp"
 #include "Orvane/platform/Quartz.hpp"
@@ -25,7 +26,8 @@
 namespace orvane {
 
 /// Main thread only: the tap's source is on the main run loop, so the filter runs there too. The
-/// tap keeps a pointer to its guard, so a guard never moves and takes its tap down before it goes.
+/// tap keeps a pointer to its guard, so a guard cannot be moved, and its destructor removes the
+/// tap.
 class DockMouseGuard {
  public:
   DockMouseGuard() = default;
@@ -33,23 +35,22 @@ class DockMouseGuard {
   DockMouseGuard& operator=(const DockMouseGuard&) = delete;
   ~DockMouseGuard();
 
-  /// Starts, or restarts with new settings. Without the Accessibility permission nothing changes
-  /// but that the owner is told; without zones or without a tap the guard waits for the display
-  /// arrangement to change.
+  /// Starts, or restarts with new settings. Without the Accessibility permission it only reports
+  /// that; without zones or a tap it waits for the display arrangement to change.
   void start(const std::string& targetDisplayID, OrvaneModifier modifier, bool blocksAllDisplays);
   void stop();
-  /// For a caller that looks regularly while the permission is there: the first look that finds the
-  /// tap disabled enables it; if the next one finds it disabled again, a new tap takes its place.
-  /// A shut-off that the main queue has not finished yet is finished.
+  /// To be called periodically while the permission is granted. The first call that finds the tap
+  /// disabled enables it; if the next call finds it disabled again, it replaces the tap. Also
+  /// completes a pending shut-off.
   void reviveTap();
 
-  /// The filter: called for every event that the tap delivers; returns the same event, whose
-  /// location it has changed if it was in a zone. It runs for every pointer movement of the
-  /// session: no lock, no input or output, no allocation; reports are left to the main queue, and
-  /// only the task of one takes memory.
+  /// The filter: called for every event that the tap delivers. Returns the same event, with its
+  /// location changed if it was in a zone. It runs for every pointer movement of the session, so it
+  /// takes no lock, does no input or output, and allocates only the tasks that it posts to the main
+  /// queue.
   CGEventRef eventTapCallback(CGEventType type, CGEventRef event);
 
-  /// All three are called on the main queue, never from within the filter.
+  /// Called on the main queue, never from within the filter.
   std::function<void(const std::string& message)> onEvent;
   std::function<void(bool isTemporarilyUnlocked)> onTemporaryUnlockChanged;
   std::function<void(bool isRunning)> onRunningChanged;
@@ -57,24 +58,9 @@ class DockMouseGuard {
   /// The guard is running when it holds an event tap.
   [[nodiscard]] bool isRunning() const { return static_cast<bool>(eventTap_); }
   [[nodiscard]] CFMachPortRef eventTap() const { return eventTap_.get(); }
-  /// There are zones to guard, but the system refused the last tap.
+  /// Whether there are zones to guard but the system refused the last tap.
   [[nodiscard]] bool isTapRefused() const { return !eventTap_ && !cachedTriggerZones_.empty(); }
-  /// In global display coordinates, in the order in which they are tried.
-  [[nodiscard]] const std::vector<TriggerZone>& cachedTriggerZones() const {
-    return cachedTriggerZones_;
-  }
-  [[nodiscard]] bool isObservingScreens() const { return screenObserver_.has_value(); }
-  [[nodiscard]] const std::string& lockedDisplayIdentifier() const {
-    return lockedDisplayIdentifier_;
-  }
-  [[nodiscard]] OrvaneModifier overrideModifier() const { return overrideModifier_; }
-  [[nodiscard]] bool blocksAllDisplays() const { return blocksAllDisplays_; }
-  /// Events blocked during the guard's life.
-  [[nodiscard]] std::int64_t blockedCount() const { return blockedCount_; }
-  [[nodiscard]] bool isTemporarilyUnlocked() const { return isTemporarilyUnlocked_; }
-  [[nodiscard]] const RecentBlockTimestamps& recentBlockTimestamps() const {
-    return recentBlockTimestamps_;
-  }
+  [[nodiscard]] GuardSnapshot snapshot() const;
 
   /// The attached displays in the system's order.
   [[nodiscard]] static std::vector<DisplaySnapshot> displays();
@@ -82,8 +68,8 @@ class DockMouseGuard {
   static void openDesktopAndDockSettings();
 
  private:
-  /// The system disables the tap again and again when that happens so often within the window: the
-  /// pointer of the whole session stalls each time, so the guard shuts itself off.
+  /// When the system disables the tap this often within the window, the guard shuts itself off,
+  /// because each time the pointer of the whole session stalls.
   static constexpr std::size_t disablingLimit = 5;
   static constexpr double disablingWindowSeconds = 10.0;
 
@@ -91,10 +77,10 @@ class DockMouseGuard {
   void recordBlockedEvent();
   void disableEventTapForRapidBlocking();
   void handleDisabledTap();
-  /// Notes that the system has disabled the tap, and whether that reaches the limit.
-  [[nodiscard]] bool isDisabledTooOften();
-  /// At once the tap is disabled; the main queue takes it down. Only a change of the displays or
-  /// the next start brings the guard back.
+  /// Records that the system has disabled the tap. True when that reaches the limit.
+  [[nodiscard]] bool recordDisabling();
+  /// Disables the tap at once and has the main queue remove it. Only a display change or the next
+  /// start brings the guard back.
   void shutOff();
   void finishShutOff();
 
@@ -107,7 +93,7 @@ class DockMouseGuard {
   void stopObservingScreens();
   void handleScreenConfigChanged();
   void updateForScreens(std::span<const appkit::Screen> screens);
-  /// The tap goes, and the guard waits for the displays to change.
+  /// Removes the tap and waits for the displays to change.
   void pause();
   void forgetRecentBlocks();
   void emit(std::string message);
@@ -122,9 +108,9 @@ class DockMouseGuard {
 
   CFRef<CFMachPortRef> eventTap_;
   CFRef<CFRunLoopSourceRef> runLoopSource_;
-  /// The tap that is there is disabled for good, and the main queue is about to take it down.
+  /// The present tap is disabled for good; its removal is pending on the main queue.
   bool isShutOff_ = false;
-  /// The last look found the tap disabled.
+  /// The last `reviveTap` found the tap disabled.
   bool wasRevived_ = false;
   bool lastAnnouncedRunning_ = false;
   std::vector<TriggerZone> cachedTriggerZones_;
@@ -137,7 +123,7 @@ class DockMouseGuard {
   RecentBlockTimestamps recentBlockTimestamps_;
   /// Media-clock time in seconds.
   double lastBlockedEventLogAt_ = 0;
-  /// When the system last disabled the tap, the oldest first; media-clock times in seconds.
+  /// When the system last disabled the tap, oldest first; media-clock times in seconds.
   std::array<double, disablingLimit> disabledAt_ = neverDisabled();
   Lifetime lifetime_;
 };

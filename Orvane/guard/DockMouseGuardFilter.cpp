@@ -1,6 +1,6 @@
-// The guard's event path: what happens to each pointer movement of the session. Nothing here locks,
-// reads settings or reports, and nothing allocates but what is left on the main queue: a task for
-// each change of the unlock key, for a report at most once a second, and for the shut-off.
+// The guard's event path, run for each pointer movement of the session. It takes no lock, reads no
+// settings and allocates only the tasks that it posts to the main queue: one for each change of the
+// unlock key, at most one report a second, and one for a shut-off.
 #include <algorithm>
 
 #include "Orvane/guard/DockMouseGuard.hpp"
@@ -11,13 +11,13 @@ namespace orvane {
 
 namespace {
 
-/// Blocks are reported no more often than this, in seconds.
+/// The minimum time between two reports of blocked events.
 constexpr double reportIntervalSeconds = 1.0;
 
 }  // namespace
 
-// Flattened: what it calls for every event is compiled into it where the linker sees it. What is
-// rare is kept out, so that a movement outside every zone needs no room on the stack.
+// Flattened, so that the calls made for every event are inlined where the linker sees them. Rare
+// paths stay out of line, so that a movement outside every zone needs no stack frame.
 [[gnu::flatten]] CGEventRef DockMouseGuard::eventTapCallback(CGEventType type, CGEventRef event) {
   if (type == kCGEventTapDisabledByTimeout || type == kCGEventTapDisabledByUserInput) {
     handleDisabledTap();
@@ -64,7 +64,7 @@ constexpr double reportIntervalSeconds = 1.0;
   }
   if (now - lastBlockedEventLogAt_ >= reportIntervalSeconds) {
     lastBlockedEventLogAt_ = now;
-    // The text is made on the main queue, since choosing its language reads settings.
+    // The text is composed on the main queue, because choosing its language reads settings.
     appkit::MainQueue::async(lifetime_.whileAlive([this, count = blockedCount_] {
       if (onEvent) {
         onEvent(DockMouseGuardMessages::blocked(count));
@@ -81,15 +81,15 @@ void DockMouseGuard::disableEventTapForRapidBlocking() {
   if (!eventTap_ || isShutOff_) {
     return;
   }
-  if (isDisabledTooOften()) {
+  if (recordDisabling()) {
     shutOff();
   } else if (AXIsProcessTrusted()) {
-    // Without the permission the tap would only hold up the pointer again.
+    // Without the permission the tap would only stall the pointer again.
     CGEventTapEnable(eventTap_.get(), true);
   }
 }
 
-bool DockMouseGuard::isDisabledTooOften() {
+bool DockMouseGuard::recordDisabling() {
   std::shift_left(disabledAt_.begin(), disabledAt_.end(), 1);
   disabledAt_.back() = CACurrentMediaTime();
   return disabledAt_.back() - disabledAt_.front() <= disablingWindowSeconds;
@@ -102,7 +102,7 @@ bool DockMouseGuard::isDisabledTooOften() {
   isShutOff_ = true;
   appkit::MainQueue::async(lifetime_.whileAlive([this] {
     forgetRecentBlocks();
-    // A start that came first has made a tap of its own, which stays.
+    // A start in the meantime has created a new tap, which stays.
     finishShutOff();
     announceRunning();
   }));

@@ -1,4 +1,4 @@
-// What the guard tells its owner, in the language that is set at the moment of telling.
+// The guard's messages to its owner, in the language that is set when they are composed.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-// The key that unlocks the guard while it is held.
+// The modifier key that unlocks the guard while it is held.
 #include "Orvane/guard/OrvaneModifier.hpp"
 
 namespace orvane {

@@ -1,4 +1,4 @@
-// The key that unlocks the guard while it is held.
+// The modifier key that unlocks the guard while it is held.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@ class OrvaneModifier {
  public:
   enum Value { option, control, shift, command };
 
-  /// In the order in which they are offered.
+  /// In the order in which the interface offers them.
   static constexpr std::array<Value, 4> allCases = {option, control, shift, command};
 
   constexpr OrvaneModifier(Value value) : value_(value) {}  // NOLINT(google-explicit-constructor)
@@ -26,7 +26,7 @@ class OrvaneModifier {
   /// The key's symbol and English name, the same in every language of the interface.
   [[nodiscard]] std::string_view shortcutText() const;
 
-  /// The bit that is set in an event's flags while the key is held.
+  /// The bit in an event's flags that is set while the key is held.
   [[nodiscard]] constexpr CGEventFlags flagMask() const {
     switch (value_) {
       case control:

@@ -1,5 +1,5 @@
-// When the guard blocked during the last two seconds. Its room is taken once, with the guard, so
-// that the event path never allocates.
+// The times of the guard's blocks during the last two seconds, in a ring of fixed size, so that the
+// event path never allocates.
 #pragma once
 
 #include <array>
@@ -7,21 +7,21 @@
 
 namespace orvane {
 
-/// Times of the media clock in seconds, in the order they came.
+/// Media-clock times in seconds, oldest first.
 class RecentBlockTimestamps {
  public:
-  /// So many blocks within the window mean that blocking has run away; no more are ever kept.
+  /// This many blocks within the window count as runaway blocking; also the ring's capacity.
   static constexpr std::size_t runawayCount = 180;
   /// How long a block is remembered, in seconds.
   static constexpr double windowSeconds = 2.0;
 
   [[nodiscard]] std::size_t size() const { return count_; }
   [[nodiscard]] bool isEmpty() const { return count_ == 0; }
-  /// The timestamp at `index`, which is below the size; the oldest at 0.
+  /// `index` must be less than the size; the oldest timestamp is at 0.
   [[nodiscard]] double at(std::size_t index) const { return timestamps_[wrapped(oldest_ + index)]; }
 
-  /// Adds `now` and forgets what is more than the window older. The clock never goes back, so the
-  /// oldest are always the first.
+  /// Adds `now` and drops the timestamps that have left the window. The clock is monotonic, so the
+  /// oldest always come first.
   void record(double now) {
     if (count_ == runawayCount) {
       forgetOldest();
@@ -38,8 +38,8 @@ class RecentBlockTimestamps {
   void clear() { count_ = 0; }
 
  private:
-  /// Both parts of a place are within the ring, so it is passed once at the most; a remainder would
-  /// cost more than all the rest of a block.
+  /// `place` is always less than twice the capacity, so one subtraction suffices; a division would
+  /// cost more than the rest of `record`.
   [[nodiscard]] static constexpr std::size_t wrapped(std::size_t place) {
     return place < runawayCount ? place : place - runawayCount;
   }

@@ -1,4 +1,4 @@
-// What is said of each state, and when the guard counts as blocked.
+// The announcement for each state, and when the guard counts as blocked.
 #include "Orvane/model/GuardAnnouncer.hpp"
 
 #include <utility>
@@ -10,20 +10,20 @@ namespace orvane {
 
 void GuardAnnouncer::update(const OrvaneModel& model) {
   Announcement next = announcementFor(model);
-  if (next == last_) {
+  if (next == lastAnnounced_) {
     return;
   }
   // Turning off a blocked guard changes nothing for the user, so stay silent.
-  const bool isSilent = last_.isBlocked && next == Announcement();
-  last_ = std::move(next);
+  const bool isSilent = lastAnnounced_.isBlocked && next == Announcement();
+  lastAnnounced_ = std::move(next);
   if (!isSilent) {
     appkit::Accessibility::announce(text(model));
   }
 }
 
 GuardAnnouncer::Announcement GuardAnnouncer::announcementFor(const OrvaneModel& model) const {
-  // The guard runs or did until now, it was to come back, or the permission is being asked for.
-  const bool isWanted = model.isGuardRunning() || last_.mode != OrvaneMode::off ||
+  // The guard runs or ran until now, it was to be restored, or the permission is being requested.
+  const bool isWanted = model.isGuardRunning() || lastAnnounced_.mode != OrvaneMode::off ||
                         model.isRestoreBlocked() || OrvaneAccessibilityPermission::isChecking();
   if (isWanted && !model.hasAccessibilityPermission().value()) {
     return {.isBlocked = true};
@@ -36,11 +36,11 @@ GuardAnnouncer::Announcement GuardAnnouncer::announcementFor(const OrvaneModel& 
 }
 
 std::string GuardAnnouncer::text(const OrvaneModel& model) const {
-  if (last_.isBlocked) {
+  if (lastAnnounced_.isBlocked) {
     return model.localized("The Accessibility permission is missing; the Dock is not guarded",
                            "缺少辅助功能权限，Dock 未受守卫");
   }
-  switch (last_.mode) {
+  switch (lastAnnounced_.mode) {
     case OrvaneMode::off:
       return model.localized("The Dock is no longer guarded", "Dock 守卫已关闭");
     case OrvaneMode::pinning: {

@@ -1,4 +1,4 @@
-// GuardAnnouncer tells users of a screen reader what others see by the icon in the menu bar: that
+// GuardAnnouncer announces to screen readers what the menu-bar icon shows to everyone else: that
 // the guard has started, has stopped, or cannot start without the permission.
 #pragma once
 
@@ -11,8 +11,8 @@ namespace orvane {
 /// Main thread only.
 class GuardAnnouncer {
  public:
-  /// Speaks when there is something new to say. At first the guard counts as stopped, so an
-  /// ordinary start of the application says nothing.
+  /// Announces the state if it has changed. Initially the guard counts as stopped, so an ordinary
+  /// launch is not announced.
   void update(const OrvaneModel& model);
 
  private:
@@ -29,7 +29,7 @@ class GuardAnnouncer {
   [[nodiscard]] Announcement announcementFor(const OrvaneModel& model) const;
   [[nodiscard]] std::string text(const OrvaneModel& model) const;
 
-  Announcement last_;
+  Announcement lastAnnounced_;
 };
 
 }  // namespace orvane

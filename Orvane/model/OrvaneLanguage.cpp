@@ -1,4 +1,4 @@
-// The interface language and the choice between the two texts that every message has.
+// The interface language, which selects between the English and the Chinese text of a message.
 #include "Orvane/model/OrvaneLanguage.hpp"
 
 #include <optional>

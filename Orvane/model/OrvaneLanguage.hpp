@@ -1,4 +1,4 @@
-// The interface language and the choice between the two texts that every message has.
+// The interface language, which selects between the English and the Chinese text of a message.
 #pragma once
 
 #include <array>
@@ -17,7 +17,7 @@ class OrvaneLanguage {
   constexpr OrvaneLanguage(Value value) : value_(value) {}  // NOLINT(google-explicit-constructor)
   constexpr operator Value() const { return value_; }       // NOLINT(google-explicit-constructor)
 
-  /// Under this key of the user defaults the raw value is stored.
+  /// The user-defaults key under which the raw value is stored.
   static constexpr std::string_view defaultsKey = "appLanguage";
 
   /// "system", "english" or "chinese".
@@ -27,12 +27,13 @@ class OrvaneLanguage {
   /// The stored setting; `system` when it is absent or malformed.
   [[nodiscard]] static OrvaneLanguage stored();
 
-  /// The language that the system's settings ask for: `chinese` or `english`, never `system`. The
-  /// first identifier that names either decides, the fallback last; English when none does.
+  /// The language that the system's settings select: `chinese` or `english`, never `system`. The
+  /// first identifier that names either decides, with the fallback last; English when none does.
   [[nodiscard]] static OrvaneLanguage systemPreferred(
       std::span<const std::string> preferredIdentifiers, std::string_view fallbackIdentifier);
 
-  /// The text of this language; for `system`, of the one that the system asks for at this moment.
+  /// The text in this language; `system` stands for the language that the system selects at the
+  /// time of the call.
   [[nodiscard]] std::string localized(std::string_view englishText,
                                       std::string_view chineseText) const;
 
@@ -40,7 +41,7 @@ class OrvaneLanguage {
   Value value_;
 };
 
-/// The text of the stored language: for what speaks without the model.
+/// The text in the stored language, for code that has no model.
 [[nodiscard]] inline std::string localized(std::string_view english, std::string_view chinese) {
   return OrvaneLanguage::stored().localized(english, chinese);
 }

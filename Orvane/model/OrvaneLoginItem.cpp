@@ -1,5 +1,4 @@
-// Launch at login: where it is possible, and no more asked of the system than what changes
-// something.
+// Launch at login: whether the application's location allows it, and the registration itself.
 #include "Orvane/model/OrvaneLoginItem.hpp"
 
 #include "Orvane/platform/appkit/Bundle.hpp"
@@ -7,8 +6,8 @@
 
 namespace orvane::OrvaneLoginItem {
 
-bool isInPlaceThatStays() {
-  // No public function names a translocated application; its path does.
+bool isInPermanentLocation() {
+  // No public function identifies a translocated application, but its path does.
   const std::string url = appkit::Bundle::url().value_or("");
   return !appkit::Bundle::isOnReadOnlyVolume() &&
          url.find("/AppTranslocation/") == std::string::npos;

@@ -1,5 +1,4 @@
-// Launch at login: where it is possible, and no more asked of the system than what changes
-// something.
+// Launch at login: whether the application's location allows it, and the registration itself.
 #pragma once
 
 #include <optional>
@@ -7,12 +6,12 @@
 
 namespace orvane::OrvaneLoginItem {
 
-/// Whether the next login finds the application where it lies now: not on a disk image, nor where
-/// macOS runs a downloaded application that its user has not moved (App Translocation).
-bool isInPlaceThatStays();
+/// Whether the next login will find the application in its present location. False on a disk image,
+/// and where macOS runs a downloaded application that the user has not moved (App Translocation).
+bool isInPermanentLocation();
 
-/// Registers or unregisters the application as a login item unless it already is, or is not, one.
-/// The platform's own text of the error when that fails, none otherwise.
+/// Registers or unregisters the application as a login item, unless it already is, or is not, one.
+/// Returns the platform's error text when that fails, none otherwise.
 std::optional<std::string> setEnabled(bool enabled);
 
 }  // namespace orvane::OrvaneLoginItem

@@ -1,5 +1,5 @@
-// OrvaneModel's state and its life: creation, setters, displays, links and launch at login. The
-// actions that start and stop the guard are in OrvaneModelLock.cpp.
+// OrvaneModel's state: creation, setters, displays, links and launch at login. The actions that
+// start and stop the guard are in OrvaneModelLock.cpp.
 #include "Orvane/model/OrvaneModel.hpp"
 
 #include <algorithm>
@@ -109,8 +109,8 @@ void OrvaneModel::refreshDisplays() {
     setSelectedDisplayID(chosen != displays.end() ? std::optional(chosen->id) : std::nullopt);
   } else if (const auto selected = selectedDisplay();
              selected && selected->id != *selectedDisplayID_.value()) {
-    // An alias becomes the canonical identifier. A display that is not attached stays the target
-    // on purpose: it is found again when it returns.
+    // Replace an alias by the canonical identifier. A display that is not attached deliberately
+    // stays the target, and is found again when it returns.
     setSelectedDisplayID(selected->id);
   }
   refreshPermission();
@@ -148,7 +148,7 @@ void OrvaneModel::setTemporaryUnlockModifier(OrvaneModifier modifier) {
 }
 
 void OrvaneModel::setAppLanguage(OrvaneLanguage language) {
-  // Stored first: observers that are told of the change read texts by the stored language.
+  // Store first: observers of the change read their texts in the stored language.
   OrvaneSettings::setAppLanguage(language);
   appLanguage_.set(language);
   refreshDisplays();
@@ -176,7 +176,7 @@ void OrvaneModel::refreshLaunchAtLoginStatus() {
 
 void OrvaneModel::setLaunchAtLoginEnabled(bool enabled) {
   wantsLaunchAtLogin_ = enabled;
-  isLaunchAtLoginMisplaced_.set(enabled && !OrvaneLoginItem::isInPlaceThatStays());
+  isLaunchAtLoginMisplaced_.set(enabled && !OrvaneLoginItem::isInPermanentLocation());
   launchAtLoginErrorMessage_.set(
       isLaunchAtLoginMisplaced_.value() ? std::nullopt : OrvaneLoginItem::setEnabled(enabled));
   refreshLaunchAtLoginStatus();

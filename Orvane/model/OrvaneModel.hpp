@@ -23,10 +23,10 @@
 
 namespace orvane {
 
-/// Main thread only. Whether the guard is running is read from the guard at each question.
+/// Main thread only. Whether the guard is running is never stored, but asked of the guard.
 class OrvaneModel {
  public:
-  /// Reads the settings and starts listening to the system; neither lists displays nor starts the
+  /// Reads the settings and starts observing the system; neither lists displays nor starts the
   /// guard.
   OrvaneModel();
   OrvaneModel(const OrvaneModel&) = delete;
@@ -46,12 +46,12 @@ class OrvaneModel {
   [[nodiscard]] const Published<bool>& isTemporarilyUnlocked() const {
     return isTemporarilyUnlocked_;
   }
-  /// Nothing assigns it: always none.
+  /// Never assigned: always none.
   [[nodiscard]] const Published<std::optional<bool>>& lastRestoreSucceeded() const {
     return lastRestoreSucceeded_;
   }
-  /// When displays were refreshed, the guard was started or stopped, or it reported; seconds by the
-  /// calendar clock.
+  /// When displays were last refreshed, or the guard last started, stopped or reported; seconds by
+  /// the calendar clock.
   [[nodiscard]] const Published<CFAbsoluteTime>& lastCheckedAt() const { return lastCheckedAt_; }
   [[nodiscard]] const Published<OrvaneLanguage>& appLanguage() const { return appLanguage_; }
   [[nodiscard]] const Published<OrvaneModifier>& temporaryUnlockModifier() const {
@@ -66,15 +66,15 @@ class OrvaneModel {
   [[nodiscard]] const Published<bool>& launchAtLoginRequiresApproval() const {
     return launchAtLoginRequiresApproval_;
   }
-  /// The platform's text of the last failure, none after a success.
+  /// The platform's error text of the last failure; none after a success.
   [[nodiscard]] const Published<std::optional<std::string>>& launchAtLoginErrorMessage() const {
     return launchAtLoginErrorMessage_;
   }
 
-  /// Notified after each change of a published property other than `lastCheckedAt`, which no view
+  /// Notifies after each change of a published property other than `lastCheckedAt`, which no view
   /// shows, and when the guard has started or stopped running.
   [[nodiscard]] const Signal& changes() const { return changes_; }
-  /// Notified on the main queue when the guard has started or stopped running.
+  /// Notifies on the main queue when the guard has started or stopped running.
   [[nodiscard]] const Signal& guardChanges() const { return guardChanges_; }
 
   [[nodiscard]] const DockMouseGuard& guardService() const { return guardService_; }
@@ -82,27 +82,27 @@ class OrvaneModel {
   /// The guard is running when it holds an event tap.
   [[nodiscard]] bool isGuardRunning() const { return guardService_.isRunning(); }
   [[nodiscard]] OrvaneMode mode() const;
-  /// Computed at each call, the Dock's edge read afresh.
+  /// Computed at each call, from the Dock's present edge.
   [[nodiscard]] OrvaneStatus status() const;
   /// The attached display that `selectedDisplayID` names; none when it names none.
   [[nodiscard]] std::optional<DisplaySnapshot> selectedDisplay() const;
-  /// The text of the interface language.
+  /// The text in the interface language.
   [[nodiscard]] std::string localized(std::string_view english, std::string_view chinese) const {
     return appLanguage_.value().localized(english, chinese);
   }
 
-  /// Stored, restarts a running guard when the permission is there.
+  /// Stores the choice and restarts a running guard if the permission is granted.
   void setHidesDockOnAllDisplays(bool hides);
-  /// Stored, restarts a running guard.
+  /// Stores the choice and restarts a running guard.
   void setTemporaryUnlockModifier(OrvaneModifier modifier);
-  /// Stored, re-reads the displays, whose names depend on it.
+  /// Stores the choice and re-reads the displays, whose names depend on it.
   void setAppLanguage(OrvaneLanguage language);
-  /// Reads from the system whether the permission is there, and returns what it says. A doubted
-  /// permission counts as missing all the same.
+  /// Asks the system whether the permission is granted, and returns its answer. A doubted
+  /// permission counts as missing nevertheless.
   bool refreshPermission();
-  /// The system says that the permission is there, and yet refuses the tap, as it does after the
-  /// application was removed from its list. From now on the permission counts as missing, until the
-  /// user asks for it or for the guard, or until `believePermission` and the next reading.
+  /// To be called when the system reports the permission as granted and yet refuses the tap, as it
+  /// does after the application was removed from its list. The permission then counts as missing
+  /// until the user requests it or the guard, or until `believePermission` and the next refresh.
   void doubtPermission();
   void believePermission() { isPermissionDoubted_ = false; }
   [[nodiscard]] bool isPermissionDoubted() const { return isPermissionDoubted_; }
@@ -114,31 +114,33 @@ class OrvaneModel {
   void toggleSelectedDisplayLock();
   /// The switch "Prevent Dock Pop-Up".
   void toggleHideDockOnAllDisplays();
-  /// Once at launch: starts the guard again if it was on when the application quit and can start.
+  /// To be called once at launch: restarts the guard if it was on when the application quit and can
+  /// start.
   void restoreLockIfNeeded();
-  /// Stops the guard without touching the user's wish that it should run.
+  /// Stops the guard but keeps the stored wish that it run.
   void suspendGuard();
-  /// Starts the guard if the user wants it to run and it does not. A guard whose target is not
+  /// Starts the guard if the user wants it on and it is not running. A guard whose target is not
   /// attached waits for it.
   void resumeGuard();
-  /// The guard was to be started again at launch and the permission was missing; until it starts.
+  /// Whether the guard could not be restored at launch because the permission was missing; false
+  /// again once it starts.
   [[nodiscard]] bool isRestoreBlocked() const { return isRestoreBlocked_; }
 
   void refreshLaunchAtLoginStatus();
-  /// From a place where the application does not stay, nothing is registered.
+  /// Registers nothing while the application is in a temporary location.
   void setLaunchAtLoginEnabled(bool enabled);
-  /// The user asked for the login item where the application does not stay, and there is none.
+  /// Whether the user requested the login item from a temporary location, and it does not exist.
   [[nodiscard]] bool isLaunchAtLoginMisplaced() const {
     return isLaunchAtLoginMisplaced_.value() && !launchAtLoginEnabled_.value();
   }
-  /// The last change failed, and the login item is still not what the user asked for.
+  /// Whether the last change failed and the login item still differs from the user's request.
   [[nodiscard]] bool isLaunchAtLoginFailing() const {
     return launchAtLoginErrorMessage_.value() &&
            launchAtLoginEnabled_.value() != wantsLaunchAtLogin_;
   }
 
   void openAccessibilitySettings();
-  /// Where the user approves and removes login items.
+  /// Opens the settings page where the user approves and removes login items.
   void openLoginItemsSettings();
   void openPrivacyPolicy();
   void openSupportEmail();
@@ -158,8 +160,8 @@ class OrvaneModel {
   void stopActiveLockIfNeeded();
   void restartGuardIfRunning();
   void requestAccessibilityForAllDisplayGuard();
-  /// Asks for the permission and then runs `start` with the number of this request, unless a later
-  /// action of the user has started or stopped the guard by then.
+  /// Requests the permission and then calls `start` with the number of this request, unless a later
+  /// user action has started or stopped the guard by then.
   void requestPermission(std::function<void(std::uint64_t request)> start);
   void setSelectedDisplayID(std::optional<std::string> id);
   void noteChecked();
@@ -175,11 +177,11 @@ class OrvaneModel {
   bool isRestoreBlocked_ = false;
   bool isPermissionDoubted_ = false;
   bool wantsLaunchAtLogin_ = false;
-  /// The user's actions on the guard are numbered, requests for the permission among them. The last
-  /// one has made the guard what it is.
+  /// User actions on the guard, including permission requests, are numbered. The last one
+  /// determines the guard's state.
   std::uint64_t userActionCount_ = 0;
   std::uint64_t lastUserAction_ = 0;
-  /// The request that has chosen the present mode; 0 when the user has, without one.
+  /// The request that chose the present mode; 0 when the user chose it directly.
   std::uint64_t modeRequest_ = 0;
   Published<OrvaneLanguage> appLanguage_;
   Published<OrvaneModifier> temporaryUnlockModifier_;

@@ -54,7 +54,7 @@ void OrvaneModel::toggleLock() {
   }
   believePermission();
   refreshDisplays();
-  // The target need not be attached: the guard then waits for it, and the status says so.
+  // The target need not be attached: the guard then waits for it, and the status reports that.
   const auto start = [this] {
     if (canStart()) {
       startGuardForTheUser();
@@ -64,7 +64,7 @@ void OrvaneModel::toggleLock() {
     start();
   } else {
     requestPermission([this, start](std::uint64_t request) {
-      // An earlier request has chosen its mode since this one was made.
+      // An earlier request has set its mode since this request was made.
       if (modeRequest_ != 0 && modeRequest_ < request) {
         setHidesDockOnAllDisplays(false);
       }
@@ -123,7 +123,7 @@ void OrvaneModel::requestPermission(std::function<void(std::uint64_t request)> s
         believePermission();
         refreshDisplays();
         start(request);
-        // What was started is as old as the request: a later one still comes after it.
+        // The start counts as old as its request, so that a later request still supersedes it.
         lastUserAction_ = request;
       }));
 }
@@ -145,7 +145,7 @@ void OrvaneModel::restartGuardIfRunning() {
     startGuard();
     return;
   }
-  // The user's wish stays stored, so that the lock comes back at the next launch if the display is
+  // The user's wish stays stored, so that the next launch restores the lock if the display is
   // attached then.
   suspendGuard();
 }

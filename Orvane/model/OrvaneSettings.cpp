@@ -1,4 +1,4 @@
-// What the application remembers across launches: one value per key of its user defaults.
+// The settings that persist across launches: one user-defaults key each.
 #include "Orvane/model/OrvaneSettings.hpp"
 
 #include <string_view>

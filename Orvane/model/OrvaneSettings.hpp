@@ -1,5 +1,5 @@
-// What the application remembers across launches: one value per key of its user defaults, written
-// the moment it changes. An absent or malformed value reads as its default.
+// The settings that persist across launches: one user-defaults key each, written as soon as the
+// setting changes. An absent or malformed value reads as its default.
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 
 namespace orvane::OrvaneSettings {
 
-/// The display to which the Dock is pinned; none when nothing, or an empty text, is stored.
+/// The display to which the Dock is pinned; none when the stored value is absent or empty.
 [[nodiscard]] std::optional<std::string> selectedDisplayID();
 /// None removes the stored value.
 void setSelectedDisplayID(const std::optional<std::string>& id);

@@ -1,4 +1,4 @@
-// The model's state condensed into one value.
+// The model's state, summarised in one value.
 #pragma once
 
 namespace orvane {
@@ -12,7 +12,7 @@ enum class OrvaneStatus {
   temporarilyUnlocked,
   /// The Dock's screen edge cannot be used for guarding.
   needsCheck,
-  /// A display is chosen to pin the Dock to, and it is not attached.
+  /// The display to which the Dock is to be pinned is not attached.
   targetMissing,
   /// The Accessibility permission is missing.
   permissionRequired,

@@ -1,5 +1,5 @@
-// Stands between an action that needs the Accessibility permission and the system: checks it, asks
-// for it, and opens the system's settings for it.
+// Checks the Accessibility permission, asks the user for it, and opens the system's settings for
+// it.
 #include "Orvane/permission/OrvaneAccessibilityPermission.hpp"
 
 #include <utility>
@@ -14,7 +14,7 @@ namespace orvane {
 
 namespace {
 
-/// For so long after asking, further requests are dropped, in seconds.
+/// For this long after a prompt, further requests are dropped.
 constexpr double repeatedRequestSeconds = 1.0;
 
 struct CheckState {

@@ -1,5 +1,5 @@
-// Stands between an action that needs the Accessibility permission and the system: checks it, asks
-// for it, and opens the system's settings for it.
+// Checks the Accessibility permission, asks the user for it, and opens the system's settings for
+// it.
 #pragma once
 
 #include <functional>
@@ -11,21 +11,21 @@ class OrvaneAccessibilityPermission {
  public:
   OrvaneAccessibilityPermission() = delete;
 
-  /// Calls `onGranted` at once when the permission is there. Otherwise asks the user, and
-  /// `onGranted` is called at most once: when the permission is seen while the guide stands open
-  /// for this request. It is dropped without a call when the user declines, when the guide is
-  /// closed before, when the guide is shown for a later request, and when this request comes
-  /// within a second of another one's asking. A null `onGranted` is allowed.
+  /// Calls `onGranted` at once when the permission is granted. Otherwise asks the user and calls
+  /// `onGranted` at most once: when the guide, open for this request, detects the permission. The
+  /// callback is dropped when the user declines or closes the guide first, when the guide is shown
+  /// for a later request, and when this request comes within a second of another prompt.
+  /// `onGranted` may be null.
   static void check(std::function<void()> onGranted);
 
   /// Opens the Accessibility page of the privacy settings by the first link that the system
-  /// accepts, or the System Settings themselves.
+  /// accepts, or System Settings itself.
   static void openSystemSettings();
 
-  /// Whether asking is under way, so that further requests are dropped.
+  /// Whether further requests are dropped because the user was asked a moment ago.
   [[nodiscard]] static bool isChecking();
 
-  /// How the user is asked; handed in by whoever owns the windows. Without one nobody is asked.
+  /// Asks the user; supplied by the owner of the windows. Without a prompt the user is not asked.
   using Prompt = std::function<void(std::function<void()> onGranted)>;
   static void setPrompt(Prompt prompt);
 

@@ -1,4 +1,4 @@
-// The application's icon, to be dragged into the system's list of applications.
+// The application's icon, which the user can drag into the system's list of applications.
 #include "Orvane/permission/OrvaneDraggableAppIconView.hpp"
 
 #include <optional>
@@ -16,8 +16,8 @@ using namespace ui;
 View OrvaneDraggableAppIconView::body(const Environment& environment) const {
   // Without an image there is nothing to drag.
   const bool hasImage = environment.hasImage("AppIcon");
-  // All of the view takes the press, so that the window stays where it is, beside an image of other
-  // proportions and without one as well.
+  // The whole view takes the press, even beside the image or without one, so that dragging it never
+  // moves the window.
   return ZStack({Rectangle().fill(Color::clear()), Image("AppIcon").resizable(ContentMode::fit)})
       .dragSource([hasImage]() -> std::optional<DragItem> {
         const std::optional<std::string> bundle = appkit::Bundle::url();

@@ -1,5 +1,5 @@
-// The application's icon, to be dragged into the system's list of applications: it carries the
-// application bundle.
+// The application's icon, which the user can drag into the system's list of applications. The drag
+// carries the application bundle.
 #pragma once
 
 #include "Orvane/ui/View.hpp"

@@ -1,5 +1,5 @@
-// Ends the modal session of the permission alert exactly once, whichever way of ending it comes
-// first: a button, or the panel's close control.
+// Ends the modal session of the permission alert exactly once, whether by a button or by the
+// panel's close control.
 #pragma once
 
 #include "Orvane/platform/appkit/Application.hpp"
@@ -16,7 +16,7 @@ class OrvaneModalPanelDelegate {
     }
   }
 
-  /// Closing the panel is declining.
+  /// Closing the panel counts as declining.
   void windowWillClose() { stopModalOnce(appkit::ModalResponse::alertSecondButton); }
 
   [[nodiscard]] bool didStopModal() const { return didStopModal_; }

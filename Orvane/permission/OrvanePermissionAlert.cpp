@@ -19,7 +19,7 @@ namespace {
 using appkit::Application;
 namespace ModalResponse = appkit::ModalResponse;
 
-/// The guide waits for the settings to have opened, in seconds.
+/// Leaves System Settings time to open before the guide appears.
 constexpr double guideDelaySeconds = 2.0;
 
 appkit::Window makeAlertPanel() {
@@ -35,8 +35,8 @@ appkit::Window makeAlertPanel() {
   return panel;
 }
 
-/// Ends the session unless it has ended, and closes the panel in every case. It does not keep the
-/// panel, whose content keeps it.
+/// Ends the session unless it has ended, and closes the panel in any case. It holds the panel
+/// weakly, because the panel's content holds it.
 std::function<void(int response)> finishing(
     const appkit::Window& panel, const std::shared_ptr<OrvaneModalPanelDelegate>& delegate) {
   return [weakPanel = std::weak_ptr<appkit::Window::Implementation>(panel.implementation()),

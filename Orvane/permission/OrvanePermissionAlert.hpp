@@ -15,8 +15,8 @@ class OrvanePermissionAlert {
 
   OrvanePermissionAlert() = delete;
 
-  /// Shows the alert once the caller has returned. When the user agrees, the settings are opened
-  /// and, two seconds later, the guide, which calls `onGranted`; otherwise nothing follows.
+  /// Shows the alert once the caller has returned. When the user agrees, opens the settings and,
+  /// two seconds later, the guide, which calls `onGranted`; otherwise does nothing more.
   static void show(std::function<void()> onGranted);
 };
 

@@ -1,4 +1,4 @@
-// The floating card that tells what to switch on in the System Settings and whether it has been.
+// The floating card that shows what to turn on in System Settings, and whether it has been.
 #include "Orvane/permission/OrvanePermissionGuideView.hpp"
 
 #include <string>
@@ -18,7 +18,7 @@ using namespace ui;
 
 namespace {
 
-/// The application's icon, and an arrow that points at it.
+/// The application's icon under an arrow that points at it.
 View draggableIcon() {
   const View arrow = Symbol("arrow.down")
                          .font(Font::system(24, Weight::semibold))
@@ -42,14 +42,14 @@ View OrvanePermissionGuideView::closeControl() const {
       Button(onClose,
              Symbol("xmark.circle.fill").font(Font::title()).foreground(Color::secondary()))
           .style(PlainButtonStyle{})
-          .focusRing(ShapeForm::circle())
+          .outOfTabOrder()
           .keyboardShortcut(KeyboardShortcut::cancelAction())
           .accessibilityLabel(localized("Close", "关闭"));
   return HStack(0, {Spacer(), cross}).padding(Edges{.top = 16, .trailing = 16});
 }
 
 View OrvanePermissionGuideView::iconArea() const {
-  // What comes and what goes fill the same area, so that neither moves while they change places.
+  // Both contents fill the same area, so that neither moves during the transition.
   const auto filling = [](const View& content, const Transition& transition) {
     return content.frame({.height = 136, .maximumWidth = infinity}).transition(transition);
   };
@@ -60,9 +60,14 @@ View OrvanePermissionGuideView::iconArea() const {
       .padding(Edges::vertical(10));
 }
 
-View OrvanePermissionGuideView::statusLine() const {
-  // Each state has a line of its own, so that one fades into the other; a line that only changed
-  // its text would be cut while it grows.
+View OrvanePermissionGuideView::statusLine(bool isDark) const {
+  // The user has not chosen these colours, so they must be as readable on the window's background
+  // as other texts.
+  const auto readable = [isDark](const Color& color) {
+    return color.textOn(isDark ? 0.04 : 0.8, 0, 4.5);
+  };
+  // Each state has its own line, so that one fades into the other; a single line would be clipped
+  // while its text grows.
   static constexpr double lineHeight = 34;
   const auto line = [this](PermissionGuideState shownIn, const std::string& text, const Font& font,
                            const Color& color) {
@@ -71,7 +76,7 @@ View OrvanePermissionGuideView::statusLine() const {
                                       .foreground(color)
                                       .textAlignment(TextAlignment::center)
                                       .frame({.height = lineHeight, .maximumWidth = infinity})
-                                      .transition(Transition::opacity()));
+                                      .transition(Transition::fadeThrough()));
   };
   return ZStack({line(PermissionGuideState::checking,
                       localized("Waiting for permission in System Settings",
@@ -81,9 +86,9 @@ View OrvanePermissionGuideView::statusLine() const {
                       localized("Permission not detected yet. Make sure Orvane is enabled in "
                                 "Accessibility.",
                                 "暂未检测到权限，请确认 Orvane 已在“辅助功能”列表中开启"),
-                      Font::caption(), Color::orange()),
+                      Font::caption(), readable(Color::orange())),
                  line(PermissionGuideState::success, localized("Permission Enabled", "权限已开启"),
-                      Font::headline(), Color::green())})
+                      Font::headline(), readable(Color::green()))})
       .padding(Edges::horizontal(22));
 }
 
@@ -98,7 +103,7 @@ View OrvanePermissionGuideView::doneButton() const {
       .padding(Edges{.leading = 40, .bottom = 20, .trailing = 40});
 }
 
-View OrvanePermissionGuideView::body(const Environment& /*environment*/) const {
+View OrvanePermissionGuideView::body(const Environment& environment) const {
   constexpr double cornerRadius = 12;
   const View title = Text(localized("Next Step", "下一步"))
                          .font(Font::title2().bold())
@@ -113,8 +118,8 @@ View OrvanePermissionGuideView::body(const Environment& /*environment*/) const {
           .textAlignment(TextAlignment::center)
           .fixedSizeVertical()
           .padding(Edges::horizontal(defaultPadding));
-  const View card =
-      VStack(22, {closeControl(), title, instruction, iconArea(), statusLine(), doneButton()});
+  const View card = VStack(22, {closeControl(), title, instruction, iconArea(),
+                                statusLine(environment.isDark()), doneButton()});
   return card.frame(width, height)
       .background(RoundedRectangle(cornerRadius)
                       .fill(Color::windowBackground())

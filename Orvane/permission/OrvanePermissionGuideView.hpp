@@ -1,4 +1,4 @@
-// The floating card that tells what to switch on in the System Settings and whether it has been.
+// The floating card that shows what to turn on in System Settings, and whether it has been.
 #pragma once
 
 #include <functional>
@@ -21,7 +21,7 @@ struct OrvanePermissionGuideView {
  private:
   [[nodiscard]] ui::View closeControl() const;
   [[nodiscard]] ui::View iconArea() const;
-  [[nodiscard]] ui::View statusLine() const;
+  [[nodiscard]] ui::View statusLine(bool isDark) const;
   [[nodiscard]] ui::View doneButton() const;
 };
 

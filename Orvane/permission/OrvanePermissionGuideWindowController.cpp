@@ -1,4 +1,4 @@
-// The floating guide that tells what to switch on, and looks once a second whether it has been.
+// The floating guide that shows what to turn on, and polls once a second whether it has been.
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 
 #include <algorithm>
@@ -21,10 +21,10 @@ using appkit::Screen;
 
 constexpr double pollSeconds = 1.0;
 constexpr double timeoutSeconds = 10.0;
-/// For so long the success stays visible.
+/// How long the success stays visible.
 constexpr double closeAfterSuccessSeconds = 1.5;
-/// How far right of the screen's middle the guide stands, and how near it comes to the edges of the
-/// screen, in points.
+/// The guide's distance to the right of the screen's centre, and its minimum distance from the
+/// screen's edges, in points.
 constexpr double distanceFromMiddle = 320;
 constexpr double screenMargin = 20;
 
@@ -39,7 +39,7 @@ appkit::Window makeGuidePanel() {
                        appkit::StyleMask::nonactivatingPanel);
   panel.setClassName("OrvaneGuidePanel");
   panel.setMovableByWindowBackground(true);
-  // A panel without a title bar refuses by default, and no key would reach its controls.
+  // By default a panel without a title bar refuses, and no key would reach its controls.
   panel.setCanBecomeKeyWindow(true);
   // Becoming a floating panel changes the level too, so it comes first.
   panel.setFloatingPanel(true);
@@ -77,7 +77,7 @@ std::optional<Screen> screenForTheGuide() {
 OrvanePermissionGuideWindowController::OrvanePermissionGuideWindowController()
     : panel_(makeGuidePanel()) {
   appkit::HostingView view([this](const ui::Environment& /*environment*/) -> ui::View {
-    return OrvanePermissionGuideView{.state = viewModel_.state.value(),
+    return OrvanePermissionGuideView{.state = state_,
                                      .onClose = lifetime_.whileAlive([this] { close(); })};
   });
   panel_.setContentView(view);
@@ -88,8 +88,12 @@ OrvanePermissionGuideWindowController& OrvanePermissionGuideWindowController::sh
   return sharedController().get();
 }
 
-bool OrvanePermissionGuideWindowController::sharedExists() {
-  return sharedController().exists();
+OrvanePermissionGuideWindowController::Snapshot OrvanePermissionGuideWindowController::snapshot() {
+  if (!sharedController().exists()) {
+    return {};
+  }
+  const OrvanePermissionGuideWindowController& guide = shared();
+  return {guide.state_, guide.panel_.isVisible(), guide.checkTimer_.has_value()};
 }
 
 void OrvanePermissionGuideWindowController::show(std::function<void()> onGranted) {
@@ -103,8 +107,8 @@ void OrvanePermissionGuideWindowController::show(std::function<void()> onGranted
 }
 
 void OrvanePermissionGuideWindowController::setState(PermissionGuideState state) {
-  viewModel_.state.set(state);
-  // Also when it is the same: the texts follow a language that may be another by now.
+  state_ = state;
+  // Even in the same state: the language of the texts may have changed.
   if (auto view = panel_.contentView()) {
     view->setNeedsUpdate();
   }
@@ -146,8 +150,7 @@ void OrvanePermissionGuideWindowController::check() {
 void OrvanePermissionGuideWindowController::handleSuccess() {
   checkTimer_.reset();
   setState(PermissionGuideState::success);
-  // Of this showing only: shown again, by the callback or later, the guide looks anew, and for
-  // another request.
+  // Close this showing only: the callback or a later request may show the guide again.
   const auto closeThisShowing = [this, showing = showCount_] {
     if (showing == showCount_) {
       close();

@@ -1,4 +1,4 @@
-// The floating guide that tells what to switch on, and looks once a second whether it has been.
+// The floating guide that shows what to turn on, and polls once a second whether it has been.
 #pragma once
 
 #include <cstdint>
@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "Orvane/base/Lifetime.hpp"
-#include "Orvane/base/Published.hpp"
 #include "Orvane/permission/PermissionGuideState.hpp"
 #include "Orvane/platform/Quartz.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
@@ -17,9 +16,12 @@ namespace orvane {
 /// Main thread only.
 class OrvanePermissionGuideWindowController {
  public:
-  /// What the guide's view shows.
-  struct ViewModel {
-    Published<PermissionGuideState> state{PermissionGuideState::checking};
+  /// The guide at one moment; without more said, one that has not been shown.
+  struct Snapshot {
+    PermissionGuideState state = PermissionGuideState::checking;
+    bool isVisible = false;
+    /// It looks for the permission.
+    bool isPolling = false;
   };
 
   /// In points.
@@ -27,20 +29,18 @@ class OrvanePermissionGuideWindowController {
 
   OrvanePermissionGuideWindowController();
 
-  /// The one controller of the process, created with its panel when it is first asked for.
+  /// The process's only controller, created with its panel on first use.
   static OrvanePermissionGuideWindowController& shared();
-  /// Whether shared() has been asked for in this process.
-  static bool sharedExists();
+  /// Of the process's only controller; creates none.
+  [[nodiscard]] static Snapshot snapshot();
 
-  /// Opens the guide, or opens it again, and starts looking for the permission. `onGranted` takes
-  /// the place of an earlier callback and is called once, when the permission is seen; the guide
-  /// closes itself a second and a half later, unless it has been shown again by then.
+  /// Shows the guide, again if need be, and starts polling for the permission. `onGranted` replaces
+  /// an earlier callback and is called once, when the permission is detected; the guide closes
+  /// itself a second and a half later, unless it has been shown again by then.
   void show(std::function<void()> onGranted);
-  /// Closes the guide and stops looking; `onGranted` is dropped.
+  /// Closes the guide, stops polling and drops `onGranted`.
   void close();
 
-  [[nodiscard]] const ViewModel& viewModel() const { return viewModel_; }
-  [[nodiscard]] bool isPolling() const { return checkTimer_.has_value(); }
   [[nodiscard]] const appkit::Window& panel() const { return panel_; }
 
  private:
@@ -50,11 +50,11 @@ class OrvanePermissionGuideWindowController {
   void check();
   void handleSuccess();
 
-  ViewModel viewModel_;
+  PermissionGuideState state_ = PermissionGuideState::checking;
   appkit::Window panel_;
   std::optional<appkit::Timer> checkTimer_;
   std::optional<CFAbsoluteTime> startTime_;
-  /// How often the guide has been shown; tells a success from the next showing.
+  /// How often the guide has been shown; distinguishes this showing from the next.
   std::uint64_t showCount_ = 0;
   std::function<void()> onGranted_;
   Lifetime lifetime_;

@@ -1,14 +1,14 @@
-// How far the permission guide has come.
+// The state of the permission guide.
 #pragma once
 
 namespace orvane {
 
 enum class PermissionGuideState {
-  /// The permission is looked for and has not been seen yet.
+  /// Polling; the permission has not been detected yet.
   checking,
-  /// It was seen; the guide closes itself shortly.
+  /// Detected; the guide is about to close itself.
   success,
-  /// It has not been seen for a while; looking goes on.
+  /// Not detected for a while; polling continues.
   timeout,
 };
 

@@ -1,4 +1,4 @@
-// Text between Core Foundation and the language's own strings, as UTF-8.
+// Conversion from Core Foundation strings to std::string, as UTF-8.
 #pragma once
 
 #include <cstddef>

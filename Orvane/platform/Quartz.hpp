@@ -1,7 +1,7 @@
-// The C half of the seam: Quartz Event Services, Core Graphics, Core Foundation, Accessibility and
-// the media clock. On Apple these are the real headers. Elsewhere the same names are declared here,
-// just those that the application uses, and the desk implements them; so the code that the tests
-// run is, call by call and constant by constant, the code that ships.
+// The C functions of the platform interface: Quartz Event Services, Core Graphics, Core Foundation,
+// Accessibility and the media clock. On Apple platforms it includes the real headers. Elsewhere it
+// declares those names that the application uses, and the desk implements them. So the tested code
+// is, call by call and constant by constant, the code that ships.
 #pragma once
 
 #ifdef __APPLE__
@@ -16,7 +16,7 @@
 
 extern "C" {
 
-// Core Foundation: objects. Whoever calls a function with Create or Copy in its name owns the
+// Core Foundation: objects. The caller of a function with Create or Copy in its name owns the
 // result and releases it with CFRelease.
 using CFTypeRef = const void*;
 using CFTypeID = unsigned long;
@@ -41,7 +41,7 @@ CFStringRef CFStringCreateWithCString(CFAllocatorRef allocator, const char* text
                                       CFStringEncoding encoding);
 /// The length in UTF-16 units.
 CFIndex CFStringGetLength(CFStringRef string);
-/// The greatest number of bytes that `length` UTF-16 units need, without a terminating zero.
+/// The maximum number of bytes that `length` UTF-16 units need, without a terminating zero.
 CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding encoding);
 /// False when the text with its terminating zero does not fit.
 Boolean CFStringGetCString(CFStringRef string, char* buffer, CFIndex bufferSize,
@@ -159,7 +159,7 @@ enum CGEventTapOptions : std::uint32_t {
 using CGEventTapCallBack = CGEventRef (*)(CGEventTapProxy proxy, CGEventType type, CGEventRef event,
                                           void* userInfo);
 
-/// Null when the tap cannot be made, as without the Accessibility permission.
+/// Null when the tap cannot be created, for example without the Accessibility permission.
 CFMachPortRef CGEventTapCreate(CGEventTapLocation tap, CGEventTapPlacement place,
                                CGEventTapOptions options, CGEventMask eventsOfInterest,
                                CGEventTapCallBack callback, void* userInfo);
@@ -175,7 +175,7 @@ void CGEventSetLocation(CGEventRef event, CGPoint location);
 Boolean AXIsProcessTrusted();
 
 // The media clock.
-/// Seconds since an arbitrary moment, by a clock that never goes back.
+/// Seconds since an arbitrary moment, by a monotonic clock.
 CFTimeInterval CACurrentMediaTime();
 
 }  // extern "C"

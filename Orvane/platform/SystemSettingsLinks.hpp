@@ -1,4 +1,4 @@
-// The system's settings, which have had other links from one macOS to the next.
+// Links into System Settings, which differ between versions of macOS.
 #pragma once
 
 #include <string>
@@ -9,8 +9,8 @@
 
 namespace orvane {
 
-/// Opens the system's settings by the first of the links that the system accepts, or without a
-/// link. Each is tried once the one before has failed. Main thread only.
+/// Opens System Settings by the first of `links` that the system accepts, or without a link when it
+/// accepts none. Each link is tried after the one before has failed. Main thread only.
 inline void openSystemSettingsByFirstOf(std::vector<std::string> links) {
   if (links.empty()) {
     appkit::Workspace::openFile("/System/Applications/System Settings.app");

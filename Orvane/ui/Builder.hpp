@@ -37,10 +37,11 @@ class Builder {
   void members(Node& node, const std::vector<View>& views,
                const std::shared_ptr<const Environment>& environment);
 
-  // From here to the end of the scope, changes travel along the curve.
+  // From here to the end of the scope, changes travel along the curve; without one they do not
+  // travel.
   class CurveScope {
    public:
-    CurveScope(Builder& builder, const Curve& curve)
+    CurveScope(Builder& builder, const std::optional<Curve>& curve)
         : builder_(builder), previous_(builder.curve_) {
       builder.curve_ = curve;
     }
@@ -56,6 +57,16 @@ class Builder {
   // To be run when the layout that follows is done.
   void afterLayout(std::function<void()> action) { actions_.push_back(std::move(action)); }
   std::vector<std::function<void()>> takeActions() { return std::move(actions_); }
+  // To be scrolled into sight when the layout that follows is done, along the curve if there is
+  // one.
+  void scrollIntoView(Node& node, const std::optional<Curve>& curve) {
+    scrollTargets_.push_back({&node, curve});
+  }
+  struct ScrollTarget {
+    Node* node;
+    std::optional<Curve> curve;
+  };
+  const std::vector<ScrollTarget>& scrollTargets() const { return scrollTargets_; }
   // What removed nodes had painted.
   const std::vector<Rect>& removedInk() const { return removedInk_; }
 
@@ -80,6 +91,7 @@ class Builder {
   Settings settings_;
   std::optional<Curve> curve_;
   std::vector<std::function<void()>> actions_;
+  std::vector<ScrollTarget> scrollTargets_;
   std::vector<Rect> removedInk_;
 };
 

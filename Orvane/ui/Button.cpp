@@ -17,6 +17,7 @@ class ButtonElement final : public Element {
 
   void setStyle(const ButtonStyle& style) { style_ = style; }
   void setFocusRing(const ShapeForm& form) { interaction_.focusShape = form; }
+  void leaveTabOrder() { interaction_.isFocusable = false; }
 
   void build(Node& node, Builder& builder) const override {
     if (!node.states) {
@@ -78,6 +79,12 @@ Button Button::style(const ButtonStyle& style) const {
 Button Button::focusRing(const ShapeForm& form) const {
   auto changed = std::make_shared<ButtonElement>(*button_);
   changed->setFocusRing(form);
+  return Button(std::move(changed));
+}
+
+Button Button::outOfTabOrder() const {
+  auto changed = std::make_shared<ButtonElement>(*button_);
+  changed->leaveTabOrder();
   return Button(std::move(changed));
 }
 

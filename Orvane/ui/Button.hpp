@@ -26,6 +26,9 @@ class Button : public View {
   Button style(const ButtonStyle& style) const;
   // The outline of the ring around it while it has the keyboard focus.
   Button focusRing(const ShapeForm& form) const;
+  // Passed over by Tab, as the buttons of a window are; a click, its shortcut and an accessibility
+  // press still reach it.
+  Button outOfTabOrder() const;
 
  private:
   explicit Button(std::shared_ptr<const ButtonElement> element);

@@ -24,7 +24,7 @@ View BorderedButtonStyle::body(const ButtonConfiguration& configuration,
                                const Environment& environment) const {
   const bool isFilled = (isProminent || configuration.isDefault) && configuration.isEnabled;
   const Color neutral = environment.isDark()
-                            ? Color::white().opacity(configuration.isPressed ? 0.28 : 0.2)
+                            ? Color::white().opacity(configuration.isPressed ? 0.26 : 0.2)
                             : Color::black().opacity(configuration.isPressed ? 0.16 : 0.09);
   const Color filled = Color::accent().buttonFill();
   const Color accent = configuration.isPressed ? filled.opacity(0.8) : filled;

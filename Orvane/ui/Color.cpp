@@ -45,10 +45,11 @@ Color Color::usedAs(Use use) const {
   return result;
 }
 
-Color Color::textOn(double groundLuminance, double veil) const {
+Color Color::textOn(double groundLuminance, double veil, double minimumContrast) const {
   Color result = usedAs(Use::text);
   result.groundLuminance_ = unit(groundLuminance);
   result.veil_ = unit(veil);
+  result.minimumContrast_ = minimumContrast;
   return result;
 }
 
@@ -66,7 +67,8 @@ Rgba Color::forUse(const Rgba& base, const Appearance& appearance) const {
     case Use::any:
       return base;
     case Use::text:
-      return legibility::textOn(legibility::veiled(groundLuminance_, base, veil_), base, required);
+      return legibility::textOn(legibility::veiled(groundLuminance_, base, veil_), base,
+                                std::max(required, minimumContrast_));
     case Use::buttonFill:
       return legibility::buttonFill(base, required, gradientLight);
     case Use::buttonLabel:

@@ -57,7 +57,8 @@ class Color {
 
   // The same hue as a text that can be read on a ground of this relative luminance (0 to 1), also
   // under a veil of this colour in that opacity (0 to 1): as little darker or lighter as it takes.
-  Color textOn(double groundLuminance, double veil = 0) const;
+  // The contrast is 3 to 1 at least; 4.5 to 1 where the user asks for contrast.
+  Color textOn(double groundLuminance, double veil = 0, double minimumContrast = 3) const;
   // The same hue as the fill of a button, as little darker as its label takes, and the colour of
   // that label: white, or black on a light colour.
   Color buttonFill() const;
@@ -81,6 +82,7 @@ class Color {
   // Of a text.
   double groundLuminance_ = 0;
   double veil_ = 0;
+  double minimumContrast_ = 0;
   double opacity_ = 1;
   double whiteShare_ = 0;
 };

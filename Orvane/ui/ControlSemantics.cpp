@@ -5,12 +5,17 @@ namespace orvane::ui {
 
 namespace {
 
-void appendLabels(const SemanticsNode& node, std::string& label) {
-  if (!node.label.empty()) {
-    label += (label.empty() ? "" : ", ") + node.label;
+void append(const std::string& text, std::string& list) {
+  if (!text.empty()) {
+    list += (list.empty() ? "" : ", ") + text;
   }
+}
+
+void appendTexts(const SemanticsNode& node, SemanticsNode& control) {
+  append(node.label, control.label);
+  append(node.cutText, control.cutText);
   for (const SemanticsNode& child : node.children) {
-    appendLabels(child, label);
+    appendTexts(child, control);
   }
 }
 
@@ -50,16 +55,20 @@ SemanticsNode controlSemantics(const Node& node, Role role, const Interaction& i
   result.frame = node.hostFrame();
   result.actions = {SemanticsAction::press};
   for (const SemanticsNode& content : contents) {
-    appendLabels(content, result.label);
+    appendTexts(content, result);
   }
   return result;
+}
+
+std::vector<SemanticsNode> describedBy(const Node& node, double now) {
+  return collect(node, now + longestMotion);
 }
 
 SemanticsNode collectSemantics(const Node& root, double now, std::uint64_t focusedId) {
   SemanticsNode result;
   result.id = root.id;
   result.frame = root.hostFrame();
-  result.children = collect(root, now + longestMotion);
+  result.children = describedBy(root, now);
   markFocus(result, focusedId);
   return result;
 }

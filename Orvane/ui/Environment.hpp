@@ -14,6 +14,7 @@
 #include "Orvane/ui/HostLink.hpp"
 #include "Orvane/ui/ImageSource.hpp"
 #include "Orvane/ui/KeyboardShortcut.hpp"
+#include "Orvane/ui/LineLimit.hpp"
 #include "Orvane/ui/State.hpp"
 
 namespace orvane::ui {
@@ -27,6 +28,11 @@ struct Environment {
   TextAlignment textAlignment = TextAlignment::leading;
   // 0 means any number of lines.
   int lineLimit = 0;
+  TruncationMode truncationMode = TruncationMode::tail;
+  // The share of its width by which a single line may be set closer before it is cut.
+  double tightening = 0;
+  // In points; none for the height that the characters ask for.
+  std::optional<double> lineHeight;
   bool isEnabled = true;
   // Activates the first control below.
   std::optional<KeyboardShortcut> shortcut;

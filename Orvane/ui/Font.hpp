@@ -1,4 +1,4 @@
-// The system font at a size in points and a weight.
+// The system font at a size in points and a weight, and how far apart its characters stand.
 #pragma once
 
 namespace orvane::ui {
@@ -18,6 +18,8 @@ enum class Weight {
 struct Font {
   double size = 13;
   Weight weight = Weight::regular;
+  // In points, between one character and the next, in addition to what the face asks for.
+  double tracking = 0;
 
   static constexpr Font system(double size, Weight weight = Weight::regular) {
     return {size, weight};
@@ -33,8 +35,8 @@ struct Font {
   static constexpr Font footnote() { return {10, Weight::regular}; }
   static constexpr Font caption() { return {10, Weight::regular}; }
 
-  constexpr Font weighing(Weight other) const { return {size, other}; }
-  constexpr Font bold() const { return {size, Weight::bold}; }
+  constexpr Font weighing(Weight other) const { return {size, other, tracking}; }
+  constexpr Font bold() const { return weighing(Weight::bold); }
 
   friend bool operator==(const Font&, const Font&) = default;
 };

@@ -15,6 +15,7 @@ class LayoutPass {
 
   TextMeasurer& text() { return text_; }
   const ImageSource& images() const { return images_; }
+  double now() const { return now_; }
 
   // The size that the node chooses; never negative and always a number, but infinite if it was
   // offered infinity and takes everything.

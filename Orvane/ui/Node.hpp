@@ -64,7 +64,9 @@ struct Node {
   // As presented last: from the node's coordinates to the host's, its size, what it painted.
   Transform toHost;
   Size size;
+  // Whether what it draws itself is on its way, in place or in size; and what is in it, in place.
   bool isMoving = false;
+  bool movesContent = false;
   Rect ink;
   Rect inkWithDescendants;
   std::uint64_t signature = 0;

@@ -39,8 +39,9 @@ void Painter::visit(const Node& node, Point origin, bool snapsToPixels) {
     inner = place + Point{effect.transform.x, effect.transform.y};
   }
 
-  const bool snaps = snapsToPixels && !isScaled && !node.isMoving;
-  node.element->draw(node, DrawContext{canvas_, now_, Rect::from(inner, frame.size()), snaps});
+  const bool snaps = snapsToPixels && !isScaled && !node.movesContent;
+  node.element->draw(
+      node, DrawContext{canvas_, now_, Rect::from(inner, frame.size()), snaps && !node.isMoving});
   for (const auto& child : node.children) {
     visit(*child, inner, snaps);
   }

@@ -18,16 +18,17 @@ constexpr double arrowsWidth = 16;
 
 struct PopUpButtonStyle {
   View body(const ButtonConfiguration& configuration, const Environment& environment) const {
-    const Color bezel = environment.isDark()
-                            ? Color::white().opacity(configuration.isPressed ? 0.24 : 0.16)
-                            : Color::white().opacity(configuration.isPressed ? 0.75 : 0.95);
-    const Color rim =
-        environment.isDark() ? Color::white().opacity(0.12) : Color::black().opacity(0.14);
+    const Color bezel = Color::white().opacity(environment.isDark() ? 0.16 : 0.95);
+    // At least 3 to 1 against what the button lies on.
+    const double rim = environment.appearance.increaseContrast ? 0.6
+                       : environment.isDark()                  ? 0.35
+                                                               : 0.55;
     return configuration.label.height(bezelHeight)
         .background(RoundedRectangle(bezelRadius)
                         .castShadow({Color::black().opacity(0.12), 1, 0, 0.5})
                         .fill(bezel)
-                        .strokeBorder(rim, 0.5))
+                        .fill(Color::primary().opacity(configuration.isPressed ? 0.12 : 0))
+                        .strokeBorder(Color::primary().opacity(rim), 1))
         .opacity(configuration.isEnabled ? 1 : 0.45);
   }
 };

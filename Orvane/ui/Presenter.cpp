@@ -24,6 +24,14 @@ void mixTransform(std::uint64_t& fingerprint, const Transform& transform) {
   mixInto(fingerprint, transform.y);
 }
 
+bool isPlaceMoving(const Node& node, double now) {
+  return node.geometry[0].isMoving(now) || node.geometry[1].isMoving(now);
+}
+
+bool isSizeMoving(const Node& node, double now) {
+  return node.geometry[2].isMoving(now) || node.geometry[3].isMoving(now);
+}
+
 }  // namespace
 
 void Presenter::present(Node& root) {
@@ -33,14 +41,15 @@ void Presenter::present(Node& root) {
 }
 
 void Presenter::visit(Node& node, const Inherited& outer) {
-  const bool movesItself = settle(node);
-  isMoving_ = isMoving_ || movesItself;
-  node.isMoving = outer.isMoving || movesItself;
+  const bool isChanging = settle(node);
+  isMoving_ = isMoving_ || isChanging;
 
   const Rect frame = node.frameAt(now_);
   node.size = frame.size();
   node.toHost = outer.toHost.after(Transform::translation(frame.origin()));
-  const Inherited inner = through(node, outer);
+  const Inherited inner = through(node, outer, isChanging);
+  node.movesContent = inner.isMoving;
+  node.isMoving = inner.isMoving || isSizeMoving(node, now_);
   note(node, inner);
   node.inkWithDescendants = node.ink;
   for (const auto& child : node.children) {
@@ -56,11 +65,14 @@ void Presenter::visit(Node& node, const Inherited& outer) {
   }
 }
 
-Presenter::Inherited Presenter::through(const Node& node, const Inherited& outer) const {
+Presenter::Inherited Presenter::through(const Node& node, const Inherited& outer,
+                                        bool isChanging) const {
   const Effect effect = node.element->effect(node, node.size, now_);
   Inherited inner = outer;
   inner.toHost = node.toHost.after(effect.transform);
-  inner.isMoving = node.isMoving;
+  // A change of opacity or of colour moves nothing, nor does one of size move what is inside.
+  inner.isMoving = outer.isMoving || isPlaceMoving(node, now_) ||
+                   (isChanging && !(effect.transform == Transform{}));
   inner.opacity = outer.opacity * effect.opacity;
   mixInto(inner.fingerprint, effect.opacity);
   if (effect.shadow) {

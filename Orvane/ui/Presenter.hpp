@@ -33,7 +33,7 @@ class Presenter {
   };
 
   void visit(Node& node, const Inherited& outer);
-  Inherited through(const Node& node, const Inherited& outer) const;
+  Inherited through(const Node& node, const Inherited& outer, bool isChanging) const;
   void note(Node& node, const Inherited& inner);
   bool settle(Node& node);
   void removeGone(Node& node);

@@ -59,7 +59,8 @@ std::string describe(const PaintShadow& shadow) {
 }
 
 std::string describe(const Font& font) {
-  return number(font.size) + "/" + std::to_string(static_cast<int>(font.weight));
+  return number(font.size) + "/" + std::to_string(static_cast<int>(font.weight)) +
+         (font.tracking == 0 ? "" : "/" + number(font.tracking));
 }
 
 }  // namespace

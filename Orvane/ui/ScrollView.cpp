@@ -1,6 +1,10 @@
-// Horizontal scrolling: the offset lives in the node and only moves what is presented.
+// Horizontal scrolling: the offset is the node's attribute and only moves what is presented.
 #include "Orvane/ui/ScrollView.hpp"
 
+#include <algorithm>
+
+#include "Orvane/ui/Attributes.hpp"
+#include "Orvane/ui/Builder.hpp"
 #include "Orvane/ui/LayoutPass.hpp"
 #include "Orvane/ui/WrapperElement.hpp"
 
@@ -8,9 +12,15 @@ namespace orvane::ui {
 
 namespace {
 
+// Where the content comes to rest.
+double offsetOf(const Node& area) {
+  return area.attributes.empty() ? 0 : area.attributes.front().target();
+}
+
 class ScrollElement final : public WrapperElement {
  public:
-  using WrapperElement::WrapperElement;
+  ScrollElement(const View& content, double margin)
+      : WrapperElement(content.padding(Edges::horizontal(margin))), margin_(margin) {}
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
     const Size content = Element::measure(node, freed(proposal), pass);
@@ -18,24 +28,23 @@ class ScrollElement final : public WrapperElement {
   }
 
   void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
-    if (!node.data.has_value()) {
-      node.data = ScrollData{};
-    }
-    auto& data = std::any_cast<ScrollData&>(node.data);
     const Size content = Element::measure(node, freed(proposal), pass);
-    data.most = std::max(0.0, content.width - size.width);
-    data.scrollBy(0);
+    node.data = ScrollData{std::max(0.0, content.width - size.width), margin_};
+    scrollTo(node, offsetOf(node), node.curve, pass.now());
     Element::place(node, freed(proposal), size, pass);
   }
 
   double layoutPriority(const Node&) const override { return 0; }
 
-  Effect effect(const Node& node, Size size, double) const override {
+  // What the host has set stays.
+  void attributes(const Node& node, AttributeWriter& writer) const override {
+    writer.number(offsetOf(node));
+  }
+
+  Effect effect(const Node& node, Size size, double now) const override {
     Effect effect;
     effect.clip = Shape::rectangle({0, 0, size.width, size.height});
-    if (const auto* data = std::any_cast<ScrollData>(&node.data)) {
-      effect.transform = Transform::translation({-data->offset, 0});
-    }
+    effect.transform = Transform::translation({-AttributeReader(node, now).number(), 0});
     return effect;
   }
 
@@ -52,14 +61,71 @@ class ScrollElement final : public WrapperElement {
 
  private:
   static Proposal freed(const Proposal& proposal) { return {std::nullopt, proposal.height}; }
+
+  double margin_;
+};
+
+class ScrollTargetElement final : public WrapperElement {
+ public:
+  ScrollTargetElement(View content, bool isWanted)
+      : WrapperElement(std::move(content)), isWanted_(isWanted) {}
+
+  void build(Node& node, Builder& builder) const override {
+    const auto* const wasWanted = std::any_cast<bool>(&node.data);
+    if (isWanted_ && (wasWanted == nullptr || !*wasWanted)) {
+      builder.scrollIntoView(node, node.isNew ? std::nullopt : node.curve);
+    }
+    node.data = isWanted_;
+    WrapperElement::build(node, builder);
+  }
+
+ private:
+  bool isWanted_;
 };
 
 }  // namespace
 
-ScrollView::ScrollView(const View& content) : View(std::make_shared<ScrollElement>(content)) {}
+ScrollView::ScrollView(const View& content, double margin)
+    : View(std::make_shared<ScrollElement>(content, margin)) {}
 
-ScrollData* scrollData(Node& node) {
+View View::scrollsIntoView(bool isWanted) const {
+  return modified<ScrollTargetElement>(*this, isWanted);
+}
+
+const ScrollData* scrollData(const Node& node) {
   return std::any_cast<ScrollData>(&node.data);
+}
+
+bool scrollTo(Node& area, double offset, const std::optional<Curve>& curve, double now) {
+  AnimatedValue& shown = area.attributes.front();
+  const double target = std::clamp(offset, 0.0, scrollData(area)->most);
+  const double before = shown.at(now);
+  // A motion to the same place goes on.
+  if (target != shown.target()) {
+    shown.set(target, curve, now);
+  }
+  return target != before;
+}
+
+bool scrollBy(Node& area, double distance, double now) {
+  AnimatedValue& shown = area.attributes.front();
+  const double before = shown.at(now);
+  shown.jump(before);
+  return scrollTo(area, before + distance, std::nullopt, now);
+}
+
+void scrollIntoView(Node& area, const Node& node, const std::optional<Curve>& curve, double now) {
+  // Where layout has put it, whatever still moves.
+  double leading = 0;
+  for (const Node* current = &node; current != &area; current = current->parent) {
+    leading += current->target().x - (scrollData(*current) != nullptr ? offsetOf(*current) : 0);
+  }
+  const double width = area.target().width;
+  const double room = std::max(0.0, (width - node.target().width) / 2);
+  const double margin = std::min(scrollData(area)->margin, room);
+  // Of what is too wide the beginning is shown.
+  const double least = leading + node.target().width + margin - width;
+  scrollTo(area, std::min(std::max(offsetOf(area), least), leading - margin), curve, now);
 }
 
 }  // namespace orvane::ui

@@ -1,8 +1,6 @@
 // A window onto content that may be wider than it: scrolls horizontally, without indicators.
 #pragma once
 
-#include <algorithm>
-
 #include "Orvane/ui/Node.hpp"
 #include "Orvane/ui/View.hpp"
 
@@ -10,25 +8,27 @@ namespace orvane::ui {
 
 // What the node of a scroll view keeps.
 struct ScrollData {
-  // How far the content has moved towards the leading side, in points; from 0 to `most`.
-  double offset = 0;
+  // How far the content can move towards the leading side, in points.
   double most = 0;
-
-  // Moves by a distance within the limits; false when nothing moved.
-  bool scrollBy(double distance) {
-    const double previous = offset;
-    offset = std::clamp(offset + distance, 0.0, most);
-    return offset != previous;
-  }
+  double margin = 0;
 };
 
-// Takes the width it is offered and the height of its content.
+// Takes the width it is offered and the height of its content. The margin, in points, lies before
+// and after the content, and is kept on both sides of what is brought into sight.
 class ScrollView : public View {
  public:
-  explicit ScrollView(const View& content);
+  explicit ScrollView(const View& content, double margin = 0);
 };
 
-// The scroll state of a node, or null when it is no scroll view.
-ScrollData* scrollData(Node& node);
+// Null when the node is no scroll view.
+const ScrollData* scrollData(const Node& node);
+
+// Scrolls the content of a scroll view's node that far from its beginning, within the limits: along
+// the curve, or at once. False when it is there already.
+bool scrollTo(Node& area, double offset, const std::optional<Curve>& curve, double now);
+// The same by a distance from where the content is seen now.
+bool scrollBy(Node& area, double distance, double now);
+// The same as far as it takes to bring a node below it into sight.
+void scrollIntoView(Node& area, const Node& node, const std::optional<Curve>& curve, double now);
 
 }  // namespace orvane::ui

@@ -31,6 +31,9 @@ struct SemanticsNode {
   Role role = Role::group;
   std::string label;
   std::string value;
+  // In full, the texts in it of which not all is drawn; empty when nothing is cut. The host's
+  // tooltip over it says the same, unless a view there has one of its own.
+  std::string cutText;
   bool isEnabled = true;
   bool isSelected = false;
   bool isFocusable = false;

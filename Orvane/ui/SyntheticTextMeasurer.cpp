@@ -3,6 +3,8 @@
 
 #include <string_view>
 
+#include "Orvane/ui/Truncation.hpp"
+
 namespace orvane::ui {
 
 namespace {
@@ -17,7 +19,7 @@ struct Character {
 
 // Splits UTF-8 into characters. Sequences of three bytes and more count as wide, except for general
 // punctuation such as the ellipsis and curly quotes (lead byte E2).
-std::vector<Character> characters(std::string_view text, double size) {
+std::vector<Character> characters(std::string_view text, const Font& font) {
   std::vector<Character> result;
   std::size_t start = 0;
   while (start < text.size()) {
@@ -27,7 +29,8 @@ std::vector<Character> characters(std::string_view text, double size) {
     }
     const auto lead = static_cast<unsigned char>(text[start]);
     const bool isWide = lead >= 0xE3U;
-    result.push_back({text.substr(start, end - start), isWide ? size : size / 2, isWide});
+    const double width = (isWide ? font.size : font.size / 2) + font.tracking;
+    result.push_back({text.substr(start, end - start), width, isWide});
     start = end;
   }
   return result;
@@ -73,27 +76,32 @@ std::size_t lineEnd(const std::vector<Character>& all, std::size_t from, double 
   return all.size();
 }
 
-// The line cut so that it and an ellipsis fit.
-TextLine truncated(const std::vector<Character>& all, std::size_t from, double size,
-                   double maximumWidth) {
-  std::size_t end = all.size();
-  while (end > from && width(all, from, end) + size / 2 > maximumWidth) {
-    --end;
-  }
-  TextLine line = makeLine(all, from, end);
-  line.text += "…";
-  line.width += size / 2;
-  return line;
+double widthOf(const std::string& text, const Font& font) {
+  const std::vector<Character> all = characters(text, font);
+  return width(all, 0, all.size());
 }
 
-void breakParagraph(std::string_view text, const Font& font, double maximumWidth, int lineLimit,
+TextLine truncated(const std::string& text, const Font& font, double maximumWidth,
+                   TruncationMode mode) {
+  std::vector<std::size_t> places{0};
+  for (const Character& character : characters(text, font)) {
+    places.push_back(places.back() + character.bytes.size());
+  }
+  const std::string line =
+      truncatedLine(text, places, mode, maximumWidth,
+                    [&font](const std::string& part) { return widthOf(part, font); });
+  return {line, widthOf(line, font)};
+}
+
+void breakParagraph(std::string_view text, const Font& font, double maximumWidth, LineLimit limit,
                     TextLayout& layout) {
-  const std::vector<Character> all = characters(text, font.size);
+  const std::vector<Character> all = characters(text, font);
   std::size_t from = 0;
   do {
-    const bool isLast = lineLimit > 0 && static_cast<int>(layout.lines.size()) + 1 == lineLimit;
+    const bool isLast = limit.lines > 0 && static_cast<int>(layout.lines.size()) + 1 == limit.lines;
     if (isLast && width(all, from, all.size()) > maximumWidth) {
-      layout.lines.push_back(truncated(all, from, font.size, maximumWidth));
+      layout.lines.push_back(
+          truncated(makeLine(all, from, all.size()).text, font, maximumWidth, limit.truncation));
       layout.isTruncated = true;
       return;
     }
@@ -113,22 +121,21 @@ void breakParagraph(std::string_view text, const Font& font, double maximumWidth
 }  // namespace
 
 TextLayout SyntheticTextMeasurer::layout(const std::string& text, const Font& font,
-                                         double maximumWidth, int lineLimit) {
+                                         double maximumWidth, LineLimit limit) {
   const double allowed = maximumWidth > 0 ? maximumWidth : 0;
   TextLayout layout{{}, font.size, font.size * 0.75, false};
   std::string_view rest = text;
   while (true) {
     const std::size_t feed = rest.find('\n');
-    breakParagraph(rest.substr(0, feed), font, allowed, lineLimit, layout);
-    const bool isFull = lineLimit > 0 && static_cast<int>(layout.lines.size()) >= lineLimit;
+    breakParagraph(rest.substr(0, feed), font, allowed, limit, layout);
+    const bool isFull = limit.lines > 0 && static_cast<int>(layout.lines.size()) >= limit.lines;
     if (feed == std::string_view::npos) {
       return layout;
     }
     if (isFull) {
       if (!layout.isTruncated) {
         TextLine& last = layout.lines.back();
-        const std::string kept = last.text;
-        last = truncated(characters(kept, font.size), 0, font.size, allowed);
+        last = truncated(last.text, font, allowed, limit.truncation);
         layout.isTruncated = true;
       }
       return layout;

@@ -5,13 +5,14 @@
 #include <vector>
 
 #include "Orvane/ui/Font.hpp"
+#include "Orvane/ui/LineLimit.hpp"
 #include "Orvane/ui/Size.hpp"
 
 namespace orvane::ui {
 
 struct TextLine {
   // What Canvas::text is given: without the line break, without trailing blanks that were broken
-  // at, with an ellipsis at the end where the text was cut.
+  // at, with an ellipsis where the text was cut.
   std::string text;
   double width = 0;
 
@@ -42,12 +43,12 @@ class TextMeasurer {
 
   // Breaks UTF-8 text at line feeds and, where a line is wider than the maximum width, between
   // words (between characters where a word alone is too wide, and between Chinese characters). The
-  // width may be infinite: no breaking. A line limit above 0 allows that many lines; the last one
-  // then ends in "…" if more text follows or a single line is too wide. An empty text has one empty
-  // line. A width that is negative or not a number counts as 0; then every line holds at least one
-  // character.
+  // width may be infinite: no breaking. A limit above 0 allows that many lines; the last one is
+  // then cut with "…" if more text follows or a single line is too wide. An empty text has one
+  // empty line. A width that is negative or not a number counts as 0; then every line holds at
+  // least one character.
   virtual TextLayout layout(const std::string& text, const Font& font, double maximumWidth,
-                            int lineLimit) = 0;
+                            LineLimit limit) = 0;
 };
 
 }  // namespace orvane::ui

@@ -91,6 +91,14 @@ class View {
   View foreground(const Color& color) const;
   View font(const Font& font) const;
   View lineLimit(int lines) const;
+  View truncationMode(TruncationMode mode) const;
+  // A text of one line that is too wide by no more than this share of its width moves its
+  // characters closer together instead of being cut. The share is AppKit's own.
+  View allowsTightening(double share = 0.05) const;
+  // The lines of texts are so many points high, whatever script they are written in, and each has
+  // its baseline where a Latin line in the middle of this height has it. Zero and less leave them
+  // as they are.
+  View lineHeight(double points) const;
   View textAlignment(TextAlignment alignment) const;
   View disabled(bool isDisabled) const;
   View environment(std::function<void(Environment&)> change) const;
@@ -107,10 +115,15 @@ class View {
   // Without hit testing the pointer passes through the view and everything in it.
   View hitTesting(bool isAllowed) const;
 
+  // What scrolls around the view brings it into sight when it comes, or later becomes, wanted: at
+  // once where it comes so, else along the animation of the update.
+  View scrollsIntoView(bool isWanted) const;
+
   // Change over time. When the value differs from the one before, what changed in this view with
-  // the same update travels along the curve.
+  // the same update travels along the curve, and without a curve is there at once, whatever
+  // animation the view stands in.
   template <typename Value>
-  View animation(const Curve& curve, Value value) const {
+  View animation(const std::optional<Curve>& curve, Value value) const {
     return animationOn(curve, EquatableValue(std::move(value)));
   }
   // How the view comes and goes when an animation is under way; it must be the view that is added
@@ -130,7 +143,7 @@ class View {
   View accessibilityHidden(bool isHidden = true) const;
 
  private:
-  View animationOn(const Curve& curve, EquatableValue value) const;
+  View animationOn(const std::optional<Curve>& curve, EquatableValue value) const;
 
   std::shared_ptr<const Element> element_;
   std::string id_;

@@ -11,7 +11,7 @@ namespace {
 
 class AnimationElement final : public WrapperElement {
  public:
-  AnimationElement(View content, const Curve& curve, EquatableValue value)
+  AnimationElement(View content, const std::optional<Curve>& curve, EquatableValue value)
       : WrapperElement(std::move(content)), curve_(curve), value_(std::move(value)) {}
 
   void build(Node& node, Builder& builder) const override {
@@ -28,7 +28,7 @@ class AnimationElement final : public WrapperElement {
   }
 
  private:
-  Curve curve_;
+  std::optional<Curve> curve_;
   EquatableValue value_;
 };
 
@@ -45,7 +45,9 @@ class TransitionElement final : public WrapperElement {
     const double scale = presence + transition_.absentScale * absence;
     const Rect rect{0, 0, size.width, size.height};
     Effect effect;
-    effect.opacity = std::clamp(presence + transition_.absentOpacity * absence, 0.0, 1.0);
+    const double delay = transition_.opacityDelay;
+    const double fading = std::max(0.0, presence - delay) / (1 - delay);
+    effect.opacity = std::clamp(fading + transition_.absentOpacity * (1 - fading), 0.0, 1.0);
     effect.transform = Transform::translation(movedBy(size, absence))
                            .after(Transform::scale(scale, scale, rect.center()));
     return effect;
@@ -74,7 +76,7 @@ class TransitionElement final : public WrapperElement {
 
 }  // namespace
 
-View View::animationOn(const Curve& curve, EquatableValue value) const {
+View View::animationOn(const std::optional<Curve>& curve, EquatableValue value) const {
   return modified<AnimationElement>(*this, curve, std::move(value));
 }
 

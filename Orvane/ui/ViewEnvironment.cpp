@@ -39,6 +39,20 @@ View View::lineLimit(int lines) const {
   return environment([lines](Environment& inherited) { inherited.lineLimit = lines; });
 }
 
+View View::lineHeight(double points) const {
+  return environment([points](Environment& inherited) {
+    inherited.lineHeight = points > 0 ? std::optional<double>(points) : std::nullopt;
+  });
+}
+
+View View::truncationMode(TruncationMode mode) const {
+  return environment([mode](Environment& inherited) { inherited.truncationMode = mode; });
+}
+
+View View::allowsTightening(double share) const {
+  return environment([share](Environment& inherited) { inherited.tightening = share; });
+}
+
 View View::textAlignment(TextAlignment alignment) const {
   return environment([alignment](Environment& inherited) { inherited.textAlignment = alignment; });
 }

@@ -141,6 +141,9 @@ std::vector<std::function<void()>> ViewHost::rebuild() {
   LayoutPass pass(text_, images_, now_);
   // A root that is smaller or larger than the host lies in its middle.
   pass.placeAligned(*root_, size_, Alignment::center(), Proposal::of(size_));
+  for (const Builder::ScrollTarget& target : builder.scrollTargets()) {
+    scrollToVisible(*target.node, target.curve);
+  }
   forgetDeadNodes();
   present();
   isUpdating_ = false;
@@ -153,8 +156,11 @@ void ViewHost::present() {
   for (const Rect& area : presenter.dirty()) {
     addDirty(area);
   }
-  const std::optional<Shape> ring = focusRing();
-  const Rect ringArea = ring ? ring->rect.inset(-4) : Rect{};
+  Rect ringArea;
+  if (const std::optional<FocusRing> ring = focusRing()) {
+    ringArea = ring->shape.rect.inset(-4);
+    ringArea = ring->clip ? ringArea.intersection(*ring->clip) : ringArea;
+  }
   if (!(ringArea == presentedRing_)) {
     addDirty(presentedRing_);
     addDirty(ringArea);
@@ -198,9 +204,12 @@ void ViewHost::paint(Canvas& canvas, const Rect& dirty) const {
   canvas.save();
   canvas.clip(Shape::rectangle(dirty));
   Painter(canvas, now_, dirty).paint(*root_);
-  if (const std::optional<Shape> ring = focusRing()) {
+  if (const std::optional<FocusRing> ring = focusRing()) {
+    if (ring->clip) {
+      canvas.clip(Shape::rectangle(*ring->clip));
+    }
     const Color color = Color::accent().opacity(0.6);
-    canvas.stroke(*ring, Paint::solid(color.resolve(appearance_, colors_)), 3);
+    canvas.stroke(ring->shape, Paint::solid(color.resolve(appearance_, colors_)), 3);
   }
   canvas.restore();
 }

@@ -107,6 +107,7 @@ class ViewHost {
 
   // False over a view that takes presses itself.
   bool movesWindowAt(Point point) const;
+  // What a view there says, else in full what is cut there: anywhere over a control whose text is.
   std::optional<Tooltip> tooltipAt(Point point) const;
 
   SemanticsNode semantics() const;
@@ -134,6 +135,7 @@ class ViewHost {
   // Views under the point as presented, topmost first.
   Hits hitTest(Point point) const;
   Node* topmostPressable(Point point) const;
+  std::optional<Tooltip> expansionTooltip(const Hits& hits) const;
   bool updateHover();
   void setPressed(Node& node, bool isPressed);
   bool activate(std::uint64_t id);
@@ -142,8 +144,14 @@ class ViewHost {
   bool moveFocus(bool isForward);
   bool activateShortcut(const KeyEvent& event);
   void setFocus(std::uint64_t id, bool isVisible);
-  void scrollToVisible(Node& node);
-  std::optional<Shape> focusRing() const;
+  // Everything that scrolls around the node brings it into sight.
+  void scrollToVisible(const Node& node, const std::optional<Curve>& curve);
+  struct FocusRing {
+    Shape shape;
+    // What the scroll views around the control let be seen; none without one.
+    std::optional<Rect> clip;
+  };
+  std::optional<FocusRing> focusRing() const;
 
   TextMeasurer& text_;
   ImageSource images_;

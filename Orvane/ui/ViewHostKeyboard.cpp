@@ -108,30 +108,23 @@ void ViewHost::setFocus(std::uint64_t id, bool isVisible) {
   if (!root_) {
     return;
   }
-  if (Node* node = findNode(root_.get(), id)) {
-    scrollToVisible(*node);
+  if (const Node* node = findNode(root_.get(), id)) {
+    scrollToVisible(*node, std::nullopt);
   }
   present();
   requestRedraw();
   call(services_.semanticsChanged);
 }
 
-void ViewHost::scrollToVisible(Node& node) {
+void ViewHost::scrollToVisible(const Node& node, const std::optional<Curve>& curve) {
   for (Node* area = node.parent; area != nullptr; area = area->parent) {
-    ScrollData* data = scrollData(*area);
-    if (data == nullptr || !area->toHost.isInvertible()) {
-      continue;
-    }
-    const Rect frame = area->toHost.inverse().apply(node.hostFrame());
-    if (frame.x < 0) {
-      data->scrollBy(frame.x);
-    } else if (frame.right() > area->size.width) {
-      data->scrollBy(frame.right() - area->size.width);
+    if (scrollData(*area) != nullptr) {
+      scrollIntoView(*area, node, curve, now_);
     }
   }
 }
 
-std::optional<Shape> ViewHost::focusRing() const {
+std::optional<ViewHost::FocusRing> ViewHost::focusRing() const {
   const Node* node = isFocusVisible_ ? findNode(root_.get(), focusedId_) : nullptr;
   if (node == nullptr) {
     return std::nullopt;
@@ -140,7 +133,14 @@ std::optional<Shape> ViewHost::focusRing() const {
   if (interaction == nullptr || !interaction->isFocusable) {
     return std::nullopt;
   }
-  return interaction->focusShape.in(node->hostFrame()).inset(-ringDistance);
+  FocusRing ring{interaction->focusShape.in(node->hostFrame()).inset(-ringDistance), std::nullopt};
+  for (const Node* area = node->parent; area != nullptr; area = area->parent) {
+    if (scrollData(*area) != nullptr) {
+      const Rect seen = area->hostFrame();
+      ring.clip = ring.clip ? ring.clip->intersection(seen) : seen;
+    }
+  }
+  return ring;
 }
 
 bool ViewHost::perform(std::uint64_t id, SemanticsAction) {

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Orvane/ui/ControlSemantics.hpp"
 #include "Orvane/ui/Node.hpp"
 #include "Orvane/ui/ScrollView.hpp"
 #include "Orvane/ui/ViewHost.hpp"
@@ -199,8 +200,8 @@ bool ViewHost::activate(std::uint64_t id) {
 bool ViewHost::scroll(Point point, double horizontal, double vertical) {
   for (const Node* hit : hitTest(point)) {
     Node* node = findNode(root_.get(), hit->id);
-    ScrollData* data = scrollData(*node);
-    if (data != nullptr && data->scrollBy(horizontal != 0 ? horizontal : vertical)) {
+    if (scrollData(*node) != nullptr &&
+        scrollBy(*node, horizontal != 0 ? horizontal : vertical, now_)) {
       pointer_ = point;
       present();
       requestRedraw();
@@ -218,10 +219,30 @@ bool ViewHost::movesWindowAt(Point point) const {
 }
 
 std::optional<Tooltip> ViewHost::tooltipAt(Point point) const {
-  for (const Node* node : hitTest(point)) {
+  const Hits hits = hitTest(point);
+  for (const Node* node : hits) {
     const Interaction* interaction = node->element->interaction();
     if (interaction != nullptr && !interaction->tooltip.empty()) {
       return Tooltip{interaction->tooltip, node->hostFrame()};
+    }
+  }
+  return expansionTooltip(hits);
+}
+
+std::optional<Tooltip> ViewHost::expansionTooltip(const Hits& hits) const {
+  const auto takesPress = [](const Node* node) {
+    const Interaction* interaction = node->element->interaction();
+    return interaction != nullptr && interaction->takesPress();
+  };
+  const auto control = std::ranges::find_if(hits, takesPress);
+  for (const Node* node : control != hits.end() ? Hits{*control} : hits) {
+    if (!node->children.empty() && !takesPress(node)) {
+      continue;
+    }
+    for (const SemanticsNode& described : describedBy(*node, now_)) {
+      if (!described.cutText.empty()) {
+        return Tooltip{described.cutText, node->hostFrame()};
+      }
     }
   }
   return std::nullopt;

@@ -9,7 +9,7 @@ OrvaneWindow::OrvaneWindow(const OrvaneModel& model, appkit::HostingView::RootBu
     : PanelWindow({.className = "OrvaneWindow",
                    .title = "Orvane",
                    .size = contentSize,
-                   // So that it can be minimised although it has no title bar.
+                   // Can be minimised although it has no title bar.
                    .styleMask = appkit::StyleMask::miniaturizable,
                    .cornerRadius = cornerRadius},
                   model, std::move(content)) {}

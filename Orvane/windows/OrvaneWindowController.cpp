@@ -1,5 +1,5 @@
-// Shows the two panels, places them, keeps the settings attached to the main panel, and forgets
-// each one when it closes.
+// Shows and positions the two panels, keeps the settings attached to the main panel, and releases
+// each panel when it closes.
 #include "Orvane/windows/OrvaneWindowController.hpp"
 
 #include <algorithm>
@@ -15,7 +15,7 @@ namespace {
 
 using appkit::Application;
 
-/// Where a window of this size has its origin when it is centred in `area`.
+/// The origin of a window of this size centred in `area`.
 CGPoint originCentredIn(CGRect area, CGSize size) {
   return CGPointMake(CGRectGetMidX(area) - size.width * 0.5,
                      CGRectGetMidY(area) - size.height * 0.5);

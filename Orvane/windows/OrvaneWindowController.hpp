@@ -1,5 +1,5 @@
-// Shows the two panels, places them, keeps the settings attached to the main panel, and forgets
-// each one when it closes.
+// Shows and positions the two panels, keeps the settings attached to the main panel, and releases
+// each panel when it closes.
 #pragma once
 
 #include <functional>
@@ -17,8 +17,8 @@ namespace orvane {
 /// Main thread only.
 class OrvaneWindowController {
  public:
-  /// What the windows show, handed in by whoever knows the panels. Each function is called once
-  /// for each window that is made.
+  /// Builds what the windows show, so that this folder need not know the panels. Each function is
+  /// called once for each window created.
   struct Contents {
     std::function<appkit::HostingView::RootBuilder(OrvaneModel& model)> mainPanel;
     std::function<appkit::HostingView::RootBuilder(OrvaneModel& model,
@@ -26,7 +26,7 @@ class OrvaneWindowController {
         settingsPanel;
   };
 
-  /// The one controller of the process, created when it is first asked for.
+  /// The process's only controller, created on first use.
   static OrvaneWindowController& shared();
 
   /// Must be called before the first show.

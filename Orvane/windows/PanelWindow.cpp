@@ -1,5 +1,5 @@
-// What the two panels of the application have in common: a frameless window of fixed size whose
-// whole chrome is drawn by its content.
+// The base of the application's two panels: a frameless window of fixed size whose content draws
+// all of its chrome.
 #include "Orvane/windows/PanelWindow.hpp"
 
 #include <memory>
@@ -13,7 +13,7 @@ PanelWindow::PanelWindow(const PanelWindowAttributes& attributes, const OrvaneMo
                      CGRectMake(0, 0, attributes.size.width, attributes.size.height),
                      attributes.styleMask) {
   setClassName(attributes.className);
-  // Without a title bar a window refuses both unless it is told otherwise.
+  // A window without a title bar refuses both by default.
   setCanBecomeKeyWindow(true);
   setCanBecomeMainWindow(true);
   setTitle(attributes.title);
@@ -31,7 +31,7 @@ PanelWindow::PanelWindow(const PanelWindowAttributes& attributes, const OrvaneMo
   view.setFrame(CGRectMake(0, 0, attributes.size.width, attributes.size.height));
   view.setLayerCorners(attributes.cornerRadius, appkit::CornerCurve::continuous, true);
   view.setBackdrop(appkit::Backdrop::behindWindow);
-  // A content that is given no other way out dismisses what it is shown in.
+  // Content without its own close action dismisses the window.
   view.onDismiss([weakWindow = std::weak_ptr(implementation())] {
     if (auto window = weakWindow.lock()) {
       appkit::Window(std::move(window)).close();

@@ -1,5 +1,5 @@
-// What the two panels of the application have in common: a frameless window of fixed size whose
-// whole chrome, rounded corners included, is drawn by its content.
+// The base of the application's two panels: a frameless window of fixed size whose content draws
+// all of its chrome, rounded corners included.
 #pragma once
 
 #include <cstdint>

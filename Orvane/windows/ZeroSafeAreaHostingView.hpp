@@ -1,5 +1,5 @@
-// The hosting view of the frameless panels: content laid out against the window's top edge touches
-// it, as there is no title bar to keep clear of.
+// The hosting view of the frameless panels: its content reaches the window's top edge, as there is
+// no title bar to avoid.
 #pragma once
 
 #include <utility>

@@ -1,9 +1,9 @@
-"""Runs each panel program several times and prints what they say about themselves: the first frame
-of the least disturbed run, and the medians of processor time and memory.
+"""Runs each panel program several times and prints the minimum time to the first frame and the medians
+of processor time and memory.
 
-The toolkits take turns, so that a disturbance of the machine meets all of them. Started by
-bench/peers/panels as: measure_panels.py RUNS PANEL PEERS, with the view kit's program and the folder
-of the two others.
+The toolkits take turns, so that disturbances of the machine affect all of them alike. Usage, from
+bench/peers/panels: measure_panels.py RUNS PANEL PEERS, with the view kit's program and the folder of
+the two others.
 """
 
 import os
@@ -28,7 +28,7 @@ def programs(panel, peers):
 
 
 def measure(command, environment, picture):
-    """What one run of a program prints, by name."""
+    """The figures that one run of a program prints, by name."""
     everything = dict(os.environ, **environment, PANEL_PICTURE=picture)
     everything["PANEL_STARTED_MS"] = str(time.clock_gettime(time.CLOCK_MONOTONIC) * 1000)
     done = subprocess.run(command, env=everything, check=True, stdout=subprocess.PIPE,
@@ -38,7 +38,7 @@ def measure(command, environment, picture):
 
 
 def with_screen(work):
-    """Runs the work while an X server without a screen is there."""
+    """Runs the work while an X server without a screen is running."""
     reader, writer = os.pipe()
     server = subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-screen", "0", "1600x1400x24"],
                               pass_fds=[writer], stderr=subprocess.DEVNULL)

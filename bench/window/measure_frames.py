@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Drives the desk's window under Xvfb and reads from its dump when each picture could be seen.
+"""Drives the desk's window under Xvfb and reads from its dump when each frame was shown.
 
 Usage: measure_frames.py PROGRAM SECONDS"""
 import json
@@ -16,11 +16,11 @@ WINDOW = (1480, 800)
 DISPLAYS = 3
 # The middle of the status item, in points from the display's upper right corner.
 STATUS_ITEM = (-206, 12)
-# A mouse reports about so often.
+# About the rate at which a mouse reports.
 EVENTS_PER_SECOND = 125
-# The sweep: so many steps to one side, and then back.
+# The sweep: the number and size of the steps to one side, and then back.
 STEPS, STEP_PIXELS = 50, 3
-# A picture that comes more than half a frame after its time leaves a frame without one.
+# A frame that is late by more than half its duration counts as missed.
 LATE = 1.5
 
 
@@ -64,7 +64,7 @@ def session(program, act):
 
 
 def sweep(seconds):
-    """The mouse goes to and fro for so long, over the cards of the panel."""
+    """Moves the mouse to and fro over the panel's cards."""
     lines = []
     for event in range(seconds * EVENTS_PER_SECOND):
         direction = 1 if event // STEPS % 2 == 0 else -1
@@ -86,7 +86,7 @@ def main():
                                      corner[1] + top + STATUS_ITEM[1] * scale))
         desk.do("sleep 0.5\nclick 1\nsleep 1\nkey Up\nsleep 0.5\nkey Up\nsleep 0.5\nkey Up\n"
                 "sleep 0.5\nkey Return\nsleep 2\nkey Escape\nsleep 0.5")
-        # The panel stands in the middle of its screen, and its cards a little above its middle.
+        # The panel is centred on its screen, and its cards are slightly above its middle.
         desk.do("mousemove %d %d\nsleep 1" % (corner[0] + left + width // 2 - STEPS * STEP_PIXELS // 2,
                                               corner[1] + top + height // 2 - 40 * scale))
         marks["rested"] = time.monotonic()
@@ -98,7 +98,7 @@ def main():
         sys.exit("the panel did not open: %s" % dump["application"])
     frame = 1000 / dump["framesPerSecond"]
     shown = dump["shownMilliseconds"]
-    # The longest run of pictures without a rest is the sweep.
+    # The sweep begins after the last pause.
     start = max(index for index in range(1, len(shown)) if shown[index] - shown[index - 1] > 500)
     swept = shown[start:]
     gaps = [after - before for before, after in zip(swept, swept[1:])]

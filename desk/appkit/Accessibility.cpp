@@ -1,4 +1,4 @@
-// On the desk what is spoken is remembered, in the order in which it was said.
+// Announcements on the desk: the window server keeps them in order.
 #include "Orvane/platform/appkit/Accessibility.hpp"
 
 #include "desk/quartz/Utf8.hpp"

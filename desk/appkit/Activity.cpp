@@ -1,4 +1,4 @@
-// Activities on the desk are counted.
+// Activities on the desk: the machine counts them.
 #include "Orvane/platform/appkit/Activity.hpp"
 
 #include "desk/machine/Machine.hpp"

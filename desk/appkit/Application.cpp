@@ -1,4 +1,4 @@
-// The application object on the desk: the window server knows it.
+// The application object on the desk, a front for the window server.
 #include "Orvane/platform/appkit/Application.hpp"
 
 #include <utility>

@@ -1,4 +1,4 @@
-// Hosting views on the desk are views of its window server.
+// Hosting views on the desk, which are views of its window server.
 #include "Orvane/platform/appkit/HostingView.hpp"
 
 #include <utility>

@@ -1,4 +1,4 @@
-// Images on the desk are requests for its own drawings of the symbols.
+// Images on the desk, which name symbols that the desk draws itself.
 #include "Orvane/platform/appkit/Image.hpp"
 
 #include <string>

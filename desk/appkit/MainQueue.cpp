@@ -1,4 +1,4 @@
-// The main queue on the desk is served by the machine's run loop.
+// The main queue on the desk, which the machine's run loop serves.
 #include "Orvane/platform/appkit/MainQueue.hpp"
 
 #include <utility>

@@ -1,4 +1,4 @@
-// Menus on the desk are lists of items that its window server shows.
+// Menus on the desk: lists of items that the window server shows.
 #include "Orvane/platform/appkit/Menu.hpp"
 
 #include <cstddef>
@@ -29,7 +29,7 @@ void Menu::insertItem(std::size_t index, MenuItem item) {
 }
 
 void Menu::changeItem(std::size_t index, MenuItem item) {
-  // What the item holds may ask for the menu again while it is destroyed.
+  // Destroying what the old item holds may access the menu again.
   std::swap(*placeOf(implementation_->items, index), item);
   desk::WindowServer::current().menus.itemsChanged(*implementation_);
 }

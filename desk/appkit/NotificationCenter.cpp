@@ -1,4 +1,4 @@
-// The notification center on the desk: the machine posts, the observers are its own.
+// The notification center on the desk: the machine keeps the observers and posts to them.
 #include "Orvane/platform/appkit/NotificationCenter.hpp"
 
 #include "desk/machine/Machine.hpp"

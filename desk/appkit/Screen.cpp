@@ -1,4 +1,4 @@
-// Screens on the desk: copies of the machine's displays as they are when the list is read.
+// Screens on the desk: copies of the machine's displays, taken when the list is read.
 #include "Orvane/platform/appkit/Screen.hpp"
 
 #include <utility>

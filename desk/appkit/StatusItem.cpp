@@ -1,4 +1,4 @@
-// Status items on the desk stand in the menu bar of every display.
+// Status items on the desk, shown in the menu bar of every display.
 #include "Orvane/platform/appkit/StatusItem.hpp"
 
 #include <utility>
@@ -41,7 +41,7 @@ void StatusItem::setImageScaling(ImageScaling scaling) {
 void StatusItem::setImage(const std::optional<Image>& image) {
   const auto before =
       std::exchange(implementation_->image, image ? image->implementation() : nullptr);
-  // The same picture again is no reason to draw.
+  // The same image does not need redrawing.
   if (!looksTheSame(before.get(), implementation_->image.get())) {
     desk::WindowServer::current().updates.request();
   }

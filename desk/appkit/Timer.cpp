@@ -1,4 +1,4 @@
-// Timers on the desk belong to the machine's run loop.
+// Timers on the desk, which belong to the machine's run loop.
 #include "Orvane/platform/appkit/Timer.hpp"
 
 #include <utility>
@@ -16,7 +16,7 @@ Timer Timer::repeating(double intervalSeconds, RunLoopMode mode, std::function<v
       mode == RunLoopMode::common
           ? desk::RunLoop::commonModes
           : static_cast<desk::RunLoop::ModeSet>(desk::RunLoop::Mode::standard);
-  auto timer = desk::Machine::current().runLoop.addTimerOnSharedBeat(
+  auto timer = desk::Machine::current().runLoop.addCoalescedTimer(
       desk::Clock::fromSeconds(intervalSeconds), modes, std::move(tick));
   return Timer(std::make_unique<Implementation>(Implementation{std::move(timer)}));
 }
@@ -45,7 +45,7 @@ void Timer::invalidate() {
 }
 
 bool Timer::isValid() const {
-  // A timer that was swept away with its process, and perhaps with its machine, is not valid.
+  // A timer whose process, and perhaps machine, has ended is not valid.
   return implementation_ != nullptr && implementation_->timer->isValid;
 }
 

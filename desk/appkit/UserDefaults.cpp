@@ -14,7 +14,7 @@ std::optional<Value> valueOf(std::string_view key) {
   return typed == nullptr ? std::nullopt : std::optional(*typed);
 }
 
-/// What the destructors of an ending process write is written by nobody: a real one ends without
+/// Writes from the destructors of an ending process are dropped: a real process ends without
 /// running them.
 bool canWrite() {
   return desk::Machine::current().process.state() != desk::Process::State::ending;

@@ -1,5 +1,5 @@
-// Windows on the desk: attributes are remembered, and what has consequences goes to the window
-// server.
+// Windows on the desk: attributes are stored here, and what affects other windows goes to the
+// window server.
 #include "Orvane/platform/appkit/Window.hpp"
 
 #include <utility>
@@ -97,7 +97,7 @@ void Window::setLevel(std::int64_t level) {
 void Window::setFloatingPanel(bool isFloating) {
   if (isFloating != implementation_->isFloatingPanel) {
     implementation_->isFloatingPanel = isFloating;
-    // As AppKit does it: who wants another level sets it afterwards.
+    // As in AppKit: a caller that wants another level sets it afterwards.
     setLevel(isFloating ? floatingLevel : normalLevel);
   }
 }

@@ -1,4 +1,4 @@
-// Opening links on the desk: the machine notes what was asked for.
+// Opening links on the desk: the machine records the requests.
 #include "Orvane/platform/appkit/Workspace.hpp"
 
 #include <utility>

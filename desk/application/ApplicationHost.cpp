@@ -1,4 +1,4 @@
-// Starts and ends the application on the simulated Mac, and listens to what its guard reports.
+// Starts and ends the application on the simulated Mac, and records its guard's messages.
 #include "desk/application/ApplicationHost.hpp"
 
 #include <utility>
@@ -22,8 +22,8 @@ void ApplicationHost::launch() {
   machine_.process.start();
   OrvaneApp::install();
   WindowServer::current().application.finishLaunching();
-  // Not before, lest the model came into being earlier than on a Mac. The guard's first messages
-  // are still on their way.
+  // Not earlier, so that the model is created when it would be on a Mac. The guard's first messages
+  // are still queued.
   listenToGuard();
   machine_.runDue();
 }
@@ -44,6 +44,10 @@ void ApplicationHost::terminate() {
 
 void ApplicationHost::crash() {
   machine_.process.end();
+}
+
+OrvaneSnapshot ApplicationHost::snapshot() const {
+  return isRunning() ? OrvaneSnapshot::current() : OrvaneSnapshot{};
 }
 
 OrvaneModel& ApplicationHost::model() const {

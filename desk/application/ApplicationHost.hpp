@@ -1,23 +1,24 @@
-// Starts and ends the application on the simulated Mac, and listens to what its guard reports.
+// Starts and ends the application on the simulated Mac, and records its guard's messages.
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "Orvane/app/OrvaneSnapshot.hpp"
 #include "Orvane/model/OrvaneModel.hpp"
 #include "desk/machine/Machine.hpp"
 #include "desk/settings/SystemSettings.hpp"
 
 namespace orvane::desk {
 
-/// A message of the guard and when it came, by the machine's clock.
+/// A message of the guard and its time by the machine's clock.
 struct GuardMessage {
   std::int64_t atNanoseconds;
   std::string text;
 };
 
-/// Belongs to one machine and ends before it.
+/// Belongs to one machine, which must outlive it.
 class ApplicationHost {
  public:
   /// With the system's own programs, which run whether or not the application does.
@@ -25,18 +26,20 @@ class ApplicationHost {
   ApplicationHost(const ApplicationHost&) = delete;
   ApplicationHost& operator=(const ApplicationHost&) = delete;
 
-  /// Starts the application; nothing when it runs already.
+  /// Starts the application; does nothing when it is running.
   void launch();
-  /// The user opens it again while it runs; nothing when it does not.
+  /// The user opens the running application again; does nothing when it is not running.
   void reopen();
-  /// Quits it in order.
+  /// Quits the application in order.
   void terminate();
-  /// Ends it without a word.
+  /// Ends the process without any notice.
   void crash();
 
   [[nodiscard]] SystemSettings& systemSettings() const { return systemSettings_; }
   [[nodiscard]] bool isRunning() const { return machine_.process.isRunning(); }
-  /// The application must be running.
+  /// What the application is and shows; also while it does not run.
+  [[nodiscard]] OrvaneSnapshot snapshot() const;
+  /// To operate it; it must be running.
   [[nodiscard]] OrvaneModel& model() const;
   /// Every message since the last launch.
   [[nodiscard]] const std::vector<GuardMessage>& messages() const { return messages_; }

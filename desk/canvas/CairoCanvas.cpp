@@ -81,6 +81,7 @@ MaskKey keyOf(MaskKind kind, const std::string& content, const ui::Font& font,
       .add(content)
       .add(font.size)
       .add(font.weight)
+      .add(font.tracking)
       .add(placement.scaleX)
       .add(placement.scaleY)
       .add(placement.phaseX)
@@ -242,10 +243,16 @@ void CairoCanvas::endLayer() {
   if (layer.shadow) {
     paintLayerShadow(layer, *layer.shadow);
   }
+  cairo_surface_t* const picture = cairo_get_target(layer.context.get());
+  if (DeepSurface* const deep = deepTarget()) {
+    cutToClip(picture, layer.x, layer.y);
+    deep->paintPicture(picture, layer.x, layer.y, clipExtents(), layer.opacity);
+    return;
+  }
   cairo_t* target = context();
   cairo_save(target);
   cairo_identity_matrix(target);
-  cairo_set_source_surface(target, cairo_get_target(layer.context.get()), 0, 0);
+  cairo_set_source_surface(target, picture, 0, 0);
   cairo_paint_with_alpha(target, layer.opacity);
   cairo_restore(target);
 }
@@ -260,19 +267,20 @@ void CairoCanvas::paintLayerShadow(const Layer& layer, const ui::PaintShadow& sh
     return std::move(alpha);
   });
   // An opaque layer lies on its shadow; in a fainter one both are one picture that fades.
-  const bool isOpaque = layer.opacity >= 1;
-  cairo_t* const target = isOpaque ? context() : layer.context.get();
-  cairo_save(target);
-  if (!isOpaque) {
-    cairo_reset_clip(target);
-    cairo_set_operator(target, CAIRO_OPERATOR_DEST_OVER);
+  // On whole pixels, where nothing has to be resampled; what is blurred does not show it.
+  const int x = layer.x + static_cast<int>(std::lround(shadow.offset.x * pixels.scaleX));
+  const int y = layer.y + static_cast<int>(std::lround(shadow.offset.y * pixels.scaleY));
+  if (layer.opacity >= 1) {
+    paintMask(mask, x, y, shadow.color);
+    return;
   }
+  cairo_t* const target = layer.context.get();
+  cairo_save(target);
+  cairo_reset_clip(target);
+  cairo_set_operator(target, CAIRO_OPERATOR_DEST_OVER);
   cairo_identity_matrix(target);
   setColor(target, shadow.color);
-  // On whole pixels, where nothing has to be resampled; what is blurred does not show it.
-  cairo_mask_surface(target, mask.surface.get(),
-                     layer.x + std::round(shadow.offset.x * pixels.scaleX),
-                     layer.y + std::round(shadow.offset.y * pixels.scaleY));
+  cairo_mask_surface(target, mask.surface.get(), x, y);
   cairo_restore(target);
 }
 
@@ -300,11 +308,24 @@ void CairoCanvas::paintMask(const Mask& mask, int anchorX, int anchorY, const ui
   if (!mask.surface) {
     return;
   }
+  const int x = anchorX + mask.x;
+  const int y = anchorY + mask.y;
+  if (DeepSurface* const deep = deepTarget()) {
+    const Rows<DeepColor> colors{{DeepSurface::colorOf(color)}, 0, true};
+    if (layers_.back().clips.back().shapes.empty()) {
+      deep->paint(mask.surface.get(), x, y, clipExtents(), colors);
+    } else {
+      const SurfacePointer cut = coverageOf(mask.surface.get(), 0, 0);
+      cutToClip(cut.get(), x, y);
+      deep->paint(cut.get(), x, y, clipExtents(), colors);
+    }
+    return;
+  }
   cairo_t* target = context();
   cairo_save(target);
   cairo_identity_matrix(target);
   setColor(target, color);
-  cairo_mask_surface(target, mask.surface.get(), anchorX + mask.x, anchorY + mask.y);
+  cairo_mask_surface(target, mask.surface.get(), x, y);
   cairo_restore(target);
 }
 
@@ -327,8 +348,15 @@ void CairoCanvas::image(const std::string& name, const ui::Rect& destination) {
     resources_.missingNames.insert(name);
     return;
   }
-  resources_.images.paint(context(), name, destination.x, destination.y, destination.width,
-                          destination.height);
+  const auto paint = [&] {
+    resources_.images.paint(context(), name, destination.x, destination.y, destination.width,
+                            destination.height);
+  };
+  if (deepTarget() != nullptr) {
+    paintThroughLayer(destination, paint);
+  } else {
+    paint();
+  }
 }
 
 void CairoCanvas::symbol(const std::string& name, const ui::Font& font, const ui::Rgba& color,

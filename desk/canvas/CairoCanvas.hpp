@@ -1,6 +1,7 @@
 // The view kit's canvas on a cairo image surface.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,6 +10,7 @@
 
 #include "Orvane/ui/Canvas.hpp"
 #include "desk/canvas/CairoPointers.hpp"
+#include "desk/canvas/DeepSurface.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 
 namespace orvane::desk {
@@ -18,6 +20,8 @@ class CairoCanvas : public ui::Canvas {
   /// Draws on an ARGB32 image surface without a device scale of its own, `scaleFactor` pixels to
   /// the point. The surface is referenced, the resources have to outlive the canvas.
   CairoCanvas(cairo_surface_t* target, double scaleFactor, DrawingResources& resources);
+  /// The same on a picture of sixteen bits, which has to outlive the canvas. Layers have eight.
+  CairoCanvas(DeepSurface& target, double scaleFactor, DrawingResources& resources);
 
   double scaleFactor() const override { return scaleFactor_; }
 
@@ -40,19 +44,24 @@ class CairoCanvas : public ui::Canvas {
   void symbol(const std::string& name, const ui::Font& font, const ui::Rgba& color,
               const ui::Rect& rect) override;
 
+  /// Paints a picture of sixteen bits, its pixels as they are, with its top left at the pixel
+  /// nearest to that point. The target has eight.
+  void picture(const DeepSurface& picture, ui::Point corner);
+
   /// The context that is drawn on now, in points, for what the desk draws beside the view kit. A
-  /// clip of any other form than rectangles goes through the canvas.
+  /// clip of any other form than rectangles goes through the canvas. What is drawn on it is lost
+  /// outside of the layers of a picture of sixteen bits.
   cairo_t* context() { return layers_.back().context.get(); }
 
  private:
-  struct RoundedClip {
+  struct ClipShape {
     ui::Shape shape;
     ui::Transform pixels;
   };
-  /// What is known of a clip, besides its rectangles of whole pixels, which cairo tells.
+  /// What a clip is made of besides rectangles of whole pixels, which cairo tells.
   struct Clip {
-    std::optional<RoundedClip> rounded;
-    /// Nothing is known of it.
+    std::vector<ClipShape> shapes;
+    /// They are more than one rounded rectangle on whole pixels.
     bool isTangled = false;
   };
   struct Layer {
@@ -72,11 +81,20 @@ class CairoCanvas : public ui::Canvas {
   /// The same, in one colour or a gradient that runs down, by the coverage. False, and nothing
   /// painted, where that cannot be.
   bool paintCoverage(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
-  /// Of some rows of a shape, in pixels of the target.
-  Mask coveredRows(const ui::Shape& shape, double lineWidth, const RoundedClip* clip,
-                   const PixelRect& rows);
+  /// Of some rows of a shape within the clip, in pixels of the target.
+  Mask coveredRows(const ui::Shape& shape, double lineWidth, const PixelRect& rows);
   /// Of the rows from `top` up to `bottom`, in pixels of the target.
   RowColors colorsOf(const ui::Paint& paint, int top, int bottom);
+  Rows<DeepColor> deepColorsOf(const ui::Paint& paint, int top, int bottom);
+  /// The picture of sixteen bits, while it is that which is drawn on.
+  DeepSurface* deepTarget() { return layers_.size() == 1 ? deep_ : nullptr; }
+  /// Pixels that the clip leaves, or more.
+  PixelRect clipExtents();
+  /// Takes out of a surface, with its top left pixel at that of the target, what the clip's shapes
+  /// leave out.
+  void cutToClip(cairo_surface_t* picture, int x, int y);
+  /// Paints on the picture of sixteen bits what only cairo can paint, within bounds.
+  void paintThroughLayer(const ui::Rect& bounds, const std::function<void()>& paint);
   /// From the current coordinates to pixels of the target.
   [[nodiscard]] ui::Transform pixelTransform();
   /// Paints a mask in one colour; its anchor is a pixel of the target.
@@ -89,6 +107,7 @@ class CairoCanvas : public ui::Canvas {
 
   double scaleFactor_;
   DrawingResources& resources_;
+  DeepSurface* deep_ = nullptr;
   std::vector<Layer> layers_;
 };
 

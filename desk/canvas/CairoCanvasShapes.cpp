@@ -28,19 +28,6 @@ PixelRect pixelsOf(const ui::Rect& rect) {
           static_cast<int>(std::ceil(rect.right())), static_cast<int>(std::ceil(rect.bottom()))};
 }
 
-PixelRect clipExtents(cairo_t* context) {
-  double left = 0;
-  double top = 0;
-  double right = 0;
-  double bottom = 0;
-  cairo_matrix_t matrix;
-  cairo_get_matrix(context, &matrix);
-  cairo_identity_matrix(context);
-  cairo_clip_extents(context, &left, &top, &right, &bottom);
-  cairo_set_matrix(context, &matrix);
-  return pixelsOf(ui::Rect::between(left, top, right, bottom));
-}
-
 /// The rectangles of a clip that is made of whole pixels; none of any other.
 std::optional<std::vector<PixelRect>> clipRectangles(cairo_t* context) {
   cairo_matrix_t matrix;
@@ -71,10 +58,6 @@ std::uint32_t pixelOf(const ui::Rgba& color) {
          multiplied(color.blue);
 }
 
-bool isOneColor(const ui::Paint& paint) {
-  return paint.isSolid() || paint.start == paint.end;
-}
-
 bool isRounded(const ui::Shape& shape) {
   return shape.kind == ui::Shape::Kind::roundedRectangle || shape.kind == ui::Shape::Kind::capsule;
 }
@@ -103,6 +86,19 @@ void draw(cairo_t* context, const ui::Shape& shape, double lineWidth) {
 
 }  // namespace
 
+PixelRect CairoCanvas::clipExtents() {
+  double left = 0;
+  double top = 0;
+  double right = 0;
+  double bottom = 0;
+  cairo_matrix_t matrix;
+  cairo_get_matrix(context(), &matrix);
+  cairo_identity_matrix(context());
+  cairo_clip_extents(context(), &left, &top, &right, &bottom);
+  cairo_set_matrix(context(), &matrix);
+  return pixelsOf(ui::Rect::between(left, top, right, bottom));
+}
+
 void CairoCanvas::clip(const ui::Shape& shape) {
   noteClip(shape);
   cairo_new_path(context());
@@ -116,11 +112,8 @@ void CairoCanvas::noteClip(const ui::Shape& shape) {
   if (shape.kind == ui::Shape::Kind::rectangle && isOnPixels) {
     return;
   }
-  if (!clip.rounded && isRounded(shape) && isOnPixels) {
-    clip.rounded = RoundedClip{shape, pixelTransform()};
-  } else {
-    clip.isTangled = true;
-  }
+  clip.isTangled = !clip.shapes.empty() || !isRounded(shape) || !isOnPixels;
+  clip.shapes.push_back({shape, pixelTransform()});
 }
 
 void CairoCanvas::fill(const ui::Shape& shape, const ui::Paint& paint) {
@@ -136,12 +129,17 @@ void CairoCanvas::stroke(const ui::Shape& shape, const ui::Paint& paint, double 
   if (paint.stops.empty() || !(lineWidth > 0)) {
     return;
   }
-  if (!isOneColor(paint) || !paintCoverage(shape, paint, lineWidth)) {
+  const bool isLevel = isOneColor(paint) || (deepTarget() != nullptr && runsDown(paint));
+  if (!isLevel || !paintCoverage(shape, paint, lineWidth)) {
     paintPath(shape, paint, lineWidth);
   }
 }
 
 void CairoCanvas::paintPath(const ui::Shape& shape, const ui::Paint& paint, double lineWidth) {
+  if (deepTarget() != nullptr) {
+    paintThroughLayer(shape.rect.inset(-lineWidth), [&] { paintPath(shape, paint, lineWidth); });
+    return;
+  }
   if (isOneColor(paint)) {
     const ui::Rgba& color = paint.stops.back().color;
     cairo_set_source_rgba(context(), color.red, color.green, color.blue, color.alpha);
@@ -166,8 +164,7 @@ RowColors CairoCanvas::colorsOf(const ui::Paint& paint, int top, int bottom) {
   return {{pixels, pixels + (bottom - top)}, top - layers_.back().y, false};
 }
 
-Mask CairoCanvas::coveredRows(const ui::Shape& shape, double lineWidth, const RoundedClip* clip,
-                              const PixelRect& rows) {
+Mask CairoCanvas::coveredRows(const ui::Shape& shape, double lineWidth, const PixelRect& rows) {
   Mask mask{SurfacePointer(cairo_image_surface_create(CAIRO_FORMAT_A8, rows.right - rows.left,
                                                       rows.bottom - rows.top)),
             rows.left, rows.top};
@@ -177,9 +174,9 @@ Mask CairoCanvas::coveredRows(const ui::Shape& shape, double lineWidth, const Ro
                                 pixels.y - rows.top};
     cairo_set_matrix(drawing.get(), &matrix);
   };
-  if (clip != nullptr) {
-    place(clip->pixels);
-    appendShape(drawing.get(), clip->shape);
+  for (const auto& [outline, pixels] : layers_.back().clips.back().shapes) {
+    place(pixels);
+    appendShape(drawing.get(), outline);
     cairo_clip(drawing.get());
   }
   place(pixelTransform());
@@ -190,19 +187,22 @@ Mask CairoCanvas::coveredRows(const ui::Shape& shape, double lineWidth, const Ro
 bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, double lineWidth) {
   const Layer& layer = layers_.back();
   const Clip& clip = layer.clips.back();
+  DeepSurface* const deep = deepTarget();
   cairo_surface_t* const target = cairo_get_target(context());
-  if (shape.rect.isEmpty() || clip.isTangled ||
-      cairo_image_surface_get_format(target) != CAIRO_FORMAT_ARGB32) {
+  if (shape.rect.isEmpty() ||
+      (deep == nullptr &&
+       (clip.isTangled || cairo_image_surface_get_format(target) != CAIRO_FORMAT_ARGB32))) {
     return false;
   }
   // Of a rectangle between pixels cairo computes the coverage by itself.
   const bool isSharp = shape.kind == ui::Shape::Kind::rectangle || shape.effectiveRadius() == 0;
-  if (isSharp && (lineWidth > 0 || !isWhole(pixelTransform().apply(shape.rect)))) {
+  if (deep == nullptr && isSharp &&
+      (lineWidth > 0 || !isWhole(pixelTransform().apply(shape.rect)))) {
     return false;
   }
   std::optional<std::vector<PixelRect>> parts = clipRectangles(context());
-  if (!parts && clip.rounded) {
-    parts = {clipExtents(context())};
+  if (!parts && !clip.shapes.empty()) {
+    parts = {clipExtents()};
   }
   if (!parts) {
     return false;
@@ -210,7 +210,7 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
   const ui::Transform pixels = pixelTransform();
   const ui::Rect area = pixels.apply(shape.rect.inset(-lineWidth));
   const PixelRect bounds = pixelsOf(area);
-  PixelRect straight = straightRows(shape, pixels, lineWidth);
+  PixelRect straight = clip.isTangled ? PixelRect{} : straightRows(shape, pixels, lineWidth);
   // The coverage is that near pixel zero, moved by whole pixels, so that equal shapes share it.
   MaskKey key = MaskKey()
                     .add(shape.kind)
@@ -223,8 +223,7 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
                     .add(area.x - bounds.left)
                     .add(area.y - bounds.top)
                     .add(lineWidth);
-  if (clip.rounded) {
-    const auto& [outline, toPixels] = *clip.rounded;
+  for (const auto& [outline, toPixels] : clip.shapes) {
     const PixelRect rows = straightRows(outline, toPixels, 0);
     straight = straight.cutTo({0, rows.top, 1, rows.bottom});
     const ui::Rect rect = toPixels.apply(outline.rect);
@@ -239,10 +238,9 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
         .add(rect.height);
   }
   const CoverageRuns& runs = resources_.coverage.get(key, [&] {
-    const RoundedClip* const rounded = clip.rounded ? &*clip.rounded : nullptr;
     CoverageRuns made;
     const auto add = [&](int top, int bottom) {
-      made.add(coveredRows(shape, lineWidth, rounded, {bounds.left, top, bounds.right, bottom}));
+      made.add(coveredRows(shape, lineWidth, {bounds.left, top, bounds.right, bottom}));
     };
     if (straight.isEmpty()) {
       add(bounds.top, bounds.bottom);
@@ -261,6 +259,13 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
     painted = painted.isEmpty() ? part : painted.joinedWith(part);
   }
   if (painted.isEmpty()) {
+    return true;
+  }
+  if (deep != nullptr) {
+    const Rows<DeepColor> colors = deepColorsOf(paint, painted.top, painted.bottom);
+    for (const PixelRect& part : *parts) {
+      deep->paint(runs, bounds.left, bounds.top, part, colors);
+    }
     return true;
   }
   const RowColors colors = colorsOf(paint, painted.top, painted.bottom);

@@ -120,22 +120,12 @@ void CoverageRuns::paint(cairo_surface_t* target, int x, int y, const PixelRect&
   const std::ptrdiff_t stride = cairo_image_surface_get_stride(target);
   const PixelRect area = clip.cutTo(
       {0, 0, cairo_image_surface_get_width(target), cairo_image_surface_get_height(target)});
-  for (const Band& band : bands_) {
-    const int bottom = std::min(band.bottom + y, area.bottom);
-    for (int row = std::max(band.top + y, area.top); row < bottom; ++row) {
-      const std::uint32_t color = colors.at(row);
-      const bool isFill = colors.isOne && color >> 24U == opaque;
-      auto* const pixels = reinterpret_cast<std::uint32_t*>(data + row * stride);
-      for (const Run& run : band.runs) {
-        const int left = std::max(run.left + x, area.left);
-        const int right = std::min(run.right + x, area.right);
-        if (left < right) {
-          paintRun(pixels + left, static_cast<std::size_t>(right - left), color, run.coverage,
-                   isFill);
-        }
-      }
-    }
-  }
+  visit(x, y, area, [&](int row, int left, int right, std::uint8_t coverage) {
+    const std::uint32_t color = colors.at(row);
+    const bool isFill = colors.isOne && color >> 24U == opaque;
+    auto* const pixels = reinterpret_cast<std::uint32_t*>(data + row * stride);
+    paintRun(pixels + left, static_cast<std::size_t>(right - left), color, coverage, isFill);
+  });
   cairo_surface_mark_dirty(target);
 }
 

@@ -3,6 +3,7 @@
 // has to be remembered and no mask of its size is read.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -32,17 +33,20 @@ struct PixelRect {
   }
 };
 
-/// Premultiplied colours as they lie in an ARGB32 surface: one for all rows, or one for each row
-/// from `top` on.
-struct RowColors {
-  std::vector<std::uint32_t> pixels;
+/// One colour for all rows, or one for each row from `top` on.
+template <typename Color>
+struct Rows {
+  std::vector<Color> colors;
   int top = 0;
   bool isOne = true;
 
-  [[nodiscard]] std::uint32_t at(int y) const {
-    return isOne ? pixels.front() : pixels[static_cast<std::size_t>(y - top)];
+  [[nodiscard]] const Color& at(int y) const {
+    return isOne ? colors.front() : colors[static_cast<std::size_t>(y - top)];
   }
 };
+
+/// Premultiplied colours as they lie in an ARGB32 surface.
+using RowColors = Rows<std::uint32_t>;
 
 class CoverageRuns {
  public:
@@ -56,6 +60,24 @@ class CoverageRuns {
   /// that the mask was made for at `x`, `y`. The result is what cairo paints, bit by bit.
   void paint(cairo_surface_t* target, int x, int y, const PixelRect& clip,
              const RowColors& colors) const;
+
+  /// Calls `paintRun(row, left, right, coverage)` for all that is covered within the rectangle,
+  /// with the pixel that the mask was made for at `x`, `y`.
+  template <typename PaintRun>
+  void visit(int x, int y, const PixelRect& area, const PaintRun& paintRun) const {
+    for (const Band& band : bands_) {
+      const int bottom = std::min(band.bottom + y, area.bottom);
+      for (int row = std::max(band.top + y, area.top); row < bottom; ++row) {
+        for (const Run& run : band.runs) {
+          const int left = std::max(run.left + x, area.left);
+          const int right = std::min(run.right + x, area.right);
+          if (left < right) {
+            paintRun(row, left, right, run.coverage);
+          }
+        }
+      }
+    }
+  }
 
  private:
   struct Run {

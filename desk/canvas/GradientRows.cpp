@@ -16,6 +16,27 @@ PatternPointer gradientOf(const ui::Paint& paint) {
   return pattern;
 }
 
+bool isOneColor(const ui::Paint& paint) {
+  return paint.isSolid() || paint.start == paint.end;
+}
+
+ui::Rgba colorAt(const ui::Paint& paint, double share) {
+  const auto next = std::ranges::find_if(
+      paint.stops, [&](const ui::PaintStop& stop) { return stop.location > share; });
+  if (next == paint.stops.begin()) {
+    return next->color;
+  }
+  const ui::PaintStop& from = *(next - 1);
+  if (next == paint.stops.end()) {
+    return from.color;
+  }
+  const double part = (share - from.location) / (next->location - from.location);
+  return {std::lerp(from.color.red, next->color.red, part),
+          std::lerp(from.color.green, next->color.green, part),
+          std::lerp(from.color.blue, next->color.blue, part),
+          std::lerp(from.color.alpha, next->color.alpha, part)};
+}
+
 bool runsDown(const ui::Paint& paint) {
   return !paint.isSolid() && paint.start.x == paint.end.x && paint.start.y != paint.end.y;
 }

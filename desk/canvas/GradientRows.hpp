@@ -12,6 +12,14 @@ namespace orvane::desk {
 /// A gradient of at least two stops between two places of the user space.
 PatternPointer gradientOf(const ui::Paint& paint);
 
+/// A solid one, or a gradient without a way from start to end, which has its last colour
+/// everywhere.
+[[nodiscard]] bool isOneColor(const ui::Paint& paint);
+
+/// The colour at a share of the way from the start to the end of a gradient, not premultiplied. As
+/// cairo has it, red, green, blue and alpha each go straight from stop to stop.
+[[nodiscard]] ui::Rgba colorAt(const ui::Paint& paint, double share);
+
 [[nodiscard]] bool runsDown(const ui::Paint& paint);
 
 /// A gradient that runs down as `height` rows of one pixel, from row `top` of a device to which the

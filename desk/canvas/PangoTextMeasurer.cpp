@@ -8,10 +8,11 @@
 
 #include <pango/pango.h>
 
+#include "Orvane/ui/Truncation.hpp"
+
 namespace orvane::desk {
 namespace {
 
-constexpr const char* ellipsis = "…";
 // Wider than any text; pango counts widths in 1024ths of a point in an int.
 constexpr double widestLine = 1.0e6;
 constexpr std::size_t mostAnswers = 4096;
@@ -46,9 +47,10 @@ std::vector<std::size_t> characterOffsets(const TextShaper& shaper, const std::s
 }  // namespace
 
 ui::TextLayout PangoTextMeasurer::layout(const std::string& text, const ui::Font& font,
-                                         double maximumWidth, int lineLimit) {
+                                         double maximumWidth, ui::LineLimit limit) {
   const double allowed = maximumWidth > 0 ? std::min(maximumWidth, widestLine) : 0.0;
-  const Question question(text, font.size, font.weight, allowed, std::max(lineLimit, 0));
+  const Question question(text, font.size, font.weight, font.tracking, allowed,
+                          std::max(limit.lines, 0), limit.truncation);
   const auto found = answers_.find(question);
   if (found != answers_.end()) {
     return found->second;
@@ -56,11 +58,11 @@ ui::TextLayout PangoTextMeasurer::layout(const std::string& text, const ui::Font
   if (answers_.size() >= mostAnswers) {
     answers_.clear();
   }
-  return answers_.emplace(question, breakText(text, font, allowed, lineLimit)).first->second;
+  return answers_.emplace(question, breakText(text, font, allowed, limit)).first->second;
 }
 
 ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::Font& font,
-                                            double maximumWidth, int lineLimit) const {
+                                            double maximumWidth, ui::LineLimit limit) const {
   // The offsets of the breaks are taken from the text, so it has to be what pango sees.
   const std::string source = validText(text);
   ui::TextLayout layout;
@@ -69,11 +71,12 @@ ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::F
     const std::size_t feed = source.find('\n', from);
     const bool isLastParagraph = feed == std::string::npos;
     breakParagraph(source.substr(from, isLastParagraph ? feed : feed - from), font, maximumWidth,
-                   lineLimit, layout);
-    const bool isFull = lineLimit > 0 && static_cast<int>(layout.lines.size()) >= lineLimit;
+                   limit, layout);
+    const bool isFull = limit.lines > 0 && static_cast<int>(layout.lines.size()) >= limit.lines;
     if (isLastParagraph || isFull) {
       if (!isLastParagraph && !layout.isTruncated) {
-        layout.lines.back() = cutLine(layout.lines.back().text, font, maximumWidth);
+        layout.lines.back() =
+            cutLine(layout.lines.back().text, font, maximumWidth, limit.truncation);
         layout.isTruncated = true;
       }
       layout.lineHeight = ui::lineHeightFor(layout.ascent, layout.lineHeight - layout.ascent);
@@ -84,7 +87,7 @@ ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::F
 }
 
 void PangoTextMeasurer::breakParagraph(const std::string& paragraph, const ui::Font& font,
-                                       double maximumWidth, int lineLimit,
+                                       double maximumWidth, ui::LineLimit limit,
                                        ui::TextLayout& layout) const {
   // What fits on one line has no breaks to be found.
   if (shaper_.measure(paragraph, font).width <= maximumWidth) {
@@ -98,10 +101,10 @@ void PangoTextMeasurer::breakParagraph(const std::string& paragraph, const ui::F
   for (int index = 0; index < count; ++index) {
     PangoLayoutLine* line = pango_layout_get_line_readonly(shaped.get(), index);
     const auto start = static_cast<std::size_t>(pango_layout_line_get_start_index(line));
-    const bool isLast = lineLimit > 0 && static_cast<int>(layout.lines.size()) + 1 == lineLimit;
+    const bool isLast = limit.lines > 0 && static_cast<int>(layout.lines.size()) + 1 == limit.lines;
     const std::string rest = paragraph.substr(start);
     if (isLast && (index + 1 < count || shaper_.measure(rest, font).width > maximumWidth)) {
-      addLine(cutLine(rest, font, maximumWidth).text, font, layout);
+      addLine(cutLine(rest, font, maximumWidth, limit.truncation).text, font, layout);
       layout.isTruncated = true;
       return;
     }
@@ -112,20 +115,11 @@ void PangoTextMeasurer::breakParagraph(const std::string& paragraph, const ui::F
 }
 
 ui::TextLine PangoTextMeasurer::cutLine(const std::string& rest, const ui::Font& font,
-                                        double maximumWidth) const {
-  const std::vector<std::size_t> offsets = characterOffsets(shaper_, rest, font);
-  const auto lineOf = [&](std::size_t count) {
-    return withoutTrailingBlanks(rest.substr(0, offsets[count])) + ellipsis;
-  };
-  // The longest part that fits with the ellipsis; none if the ellipsis alone is too wide.
-  std::size_t fitting = 0;
-  std::size_t tooMany = offsets.size();
-  while (tooMany - fitting > 1) {
-    const std::size_t middle = (fitting + tooMany) / 2;
-    (shaper_.measure(lineOf(middle), font).width <= maximumWidth ? fitting : tooMany) = middle;
-  }
-  const std::string line = lineOf(fitting);
-  return {line, shaper_.measure(line, font).width};
+                                        double maximumWidth, ui::TruncationMode mode) const {
+  const auto widthOf = [&](const std::string& part) { return shaper_.measure(part, font).width; };
+  const std::string line =
+      ui::truncatedLine(rest, characterOffsets(shaper_, rest, font), mode, maximumWidth, widthOf);
+  return {line, widthOf(line)};
 }
 
 void PangoTextMeasurer::addLine(const std::string& line, const ui::Font& font,

@@ -14,16 +14,18 @@ class PangoTextMeasurer : public ui::TextMeasurer {
  public:
   // Layout asks for the same paragraph many times in one pass; the answers are kept.
   ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
-                        int lineLimit) override;
+                        ui::LineLimit limit) override;
 
  private:
-  using Question = std::tuple<std::string, double, ui::Weight, double, int>;
+  using Question =
+      std::tuple<std::string, double, ui::Weight, double, double, int, ui::TruncationMode>;
 
   ui::TextLayout breakText(const std::string& text, const ui::Font& font, double maximumWidth,
-                           int lineLimit) const;
+                           ui::LineLimit limit) const;
   void breakParagraph(const std::string& paragraph, const ui::Font& font, double maximumWidth,
-                      int lineLimit, ui::TextLayout& layout) const;
-  ui::TextLine cutLine(const std::string& rest, const ui::Font& font, double maximumWidth) const;
+                      ui::LineLimit limit, ui::TextLayout& layout) const;
+  ui::TextLine cutLine(const std::string& rest, const ui::Font& font, double maximumWidth,
+                       ui::TruncationMode mode) const;
   void addLine(const std::string& line, const ui::Font& font, ui::TextLayout& layout) const;
 
   TextShaper shaper_;

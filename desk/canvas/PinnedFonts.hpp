@@ -9,8 +9,9 @@
 
 namespace orvane::desk {
 
-/// The face of the interface, in place of the Mac's own.
-inline constexpr const char* systemFontFamily = "Inter";
+/// The face of the interface, in place of the Mac's own: Inter as it is spaced for displays,
+/// because spaced for reading it is wider than the Mac's.
+inline constexpr const char* systemFontFamily = "Inter Display";
 /// The face of Chinese text.
 inline constexpr const char* chineseFontFamily = "Noto Sans CJK SC";
 

@@ -114,6 +114,11 @@ ObjectPointer<PangoLayout> TextShaper::layout(const std::string& text, const ui:
   // A word that is broken between characters gets no hyphen.
   const std::unique_ptr<PangoAttrList, AttributesRelease> attributes(pango_attr_list_new());
   pango_attr_list_insert(attributes.get(), pango_attr_insert_hyphens_new(FALSE));
+  if (font.tracking != 0) {
+    pango_attr_list_insert(
+        attributes.get(),
+        pango_attr_letter_spacing_new(static_cast<int>(std::lround(font.tracking * PANGO_SCALE))));
+  }
   const std::string valid = validText(text);
   addLanguages(attributes.get(), valid);
   pango_layout_set_attributes(layout.get(), attributes.get());
@@ -125,7 +130,7 @@ LineMetrics TextShaper::measure(const std::string& line, const ui::Font& font) c
   if (!(font.size > 0)) {
     return {};
   }
-  const Question question(line, font.size, font.weight);
+  const Question question(line, font.size, font.weight, font.tracking);
   const auto found = measured_.find(question);
   if (found != measured_.end()) {
     return found->second;

@@ -41,7 +41,7 @@ class TextShaper {
                 const PixelPlacement& placement) const;
 
  private:
-  using Question = std::tuple<std::string, double, ui::Weight>;
+  using Question = std::tuple<std::string, double, ui::Weight, double>;
 
   LineMetrics measured(const std::string& line, const ui::Font& font) const;
 

@@ -13,7 +13,7 @@ DesktopScene::DesktopScene(const Machine& shownMachine, const ApplicationHost& a
     if (item != nullptr && item->image != nullptr) {
       statusSymbol = item->image->name;
     }
-    zones = application.model().guardService().cachedTriggerZones();
+    zones = application.snapshot().guard.zones;
   }
 }
 

@@ -21,8 +21,8 @@ ui::Rgba ink(const Machine& machine, double opacity) {
   return machine.appearance.isDark ? ui::Rgba{1, 1, 1, opacity} : ui::Rgba{0, 0, 0, opacity};
 }
 
-ui::Rgba accentColor(const Machine& machine) {
-  return ui::standardColor(ui::SystemColor::accent, HostedView::appearanceOf(machine));
+ui::Rgba resolved(const Machine& machine, const ui::Color& color) {
+  return color.resolve(HostedView::appearanceOf(machine), ui::standardColor);
 }
 
 void paintRow(CairoCanvas& canvas, WindowServer& server, const MenuRow& row) {
@@ -46,10 +46,12 @@ void paintRow(CairoCanvas& canvas, WindowServer& server, const MenuRow& row) {
     return;
   }
   if (isHighlighted) {
-    canvas.fill(highlight, ui::Paint::solid(accentColor(server.machine())));
+    canvas.fill(highlight,
+                ui::Paint::solid(resolved(server.machine(), ui::Color::accent().buttonFill())));
   }
-  const ui::Rgba color =
-      isHighlighted ? ui::Rgba{1, 1, 1, 1} : ink(server.machine(), item.isEnabled ? 0.85 : 0.26);
+  const ui::Rgba color = isHighlighted
+                             ? resolved(server.machine(), ui::Color::accent().buttonLabel())
+                             : ink(server.machine(), item.isEnabled ? 0.85 : 0.26);
   if (server.menus.menu()->checkedIndex == static_cast<int>(row.itemIndex)) {
     canvas.symbol("checkmark", ui::Font::system(11, ui::Weight::semibold), color,
                   {frame.x + 8, frame.y + 4, 14, 14});
@@ -64,12 +66,12 @@ void paintMenu(CairoCanvas& canvas, WindowServer& server, GlassCache& glass) {
   const ui::Shape shape =
       ui::Shape::roundedRectangle(rectOf(server.menus.frame()), MenuMetrics::cornerRadius);
   canvas.shadow(shape, menuShadow);
-  paintGlass(canvas, shape, glassSigma, tintFor(server.machine().appearance, glassTint(isDark)),
+  paintGlass(canvas, shape, glassSigma, tintFor(server.machine().appearance, menuTint(isDark)),
              glass);
   for (const MenuRow& row : server.menus.rows()) {
     paintRow(canvas, server, row);
   }
-  canvas.stroke(shape.inset(-0.25), ui::Paint::solid({0, 0, 0, isDark ? 0.6 : 0.16}), 0.5);
+  paintMenuEdge(canvas, shape, isDark);
 }
 
 void paintTooltip(CairoCanvas& canvas, WindowServer& server, const ui::Rect& screen) {
@@ -83,6 +85,7 @@ void paintTooltip(CairoCanvas& canvas, WindowServer& server, const ui::Rect& scr
   canvas.shadow(shape, {{0, 0, 0, 0.25}, 6, {0, 2}});
   canvas.fill(shape, ui::Paint::solid(isDark ? ui::Rgba{0.2, 0.2, 0.21, 1}
                                              : ui::Rgba{0.95, 0.95, 0.95, 1}));
+  paintMenuEdge(canvas, shape, isDark);
   canvas.text(shown.text, font, ink(server.machine(), 0.85), {frame.x + 6, frame.y + 13.5});
 }
 

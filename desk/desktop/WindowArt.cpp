@@ -83,23 +83,28 @@ ui::Rgba glassTint(bool isDark) {
   return isDark ? ui::Rgba{0.06, 0.06, 0.075, 0.93} : ui::Rgba{0.97, 0.97, 0.98, 0.91};
 }
 
+ui::Rgba menuTint(bool isDark) {
+  return isDark ? ui::Rgba{0.17, 0.17, 0.185, 0.92} : glassTint(isDark);
+}
+
+void paintMenuEdge(CairoCanvas& canvas, const ui::Shape& shape, bool isDark) {
+  const double hairline = 1 / canvas.scaleFactor();
+  canvas.stroke(shape.inset(-hairline / 2), ui::Paint::solid({0, 0, 0, isDark ? 0.6 : 0.16}),
+                hairline);
+  if (isDark) {
+    canvas.stroke(shape.inset(hairline / 2), ui::Paint::solid({1, 1, 1, 0.22}), hairline);
+  }
+}
+
 void paintView(CairoCanvas& canvas, WindowServer& server, HostedView& view, ui::Point corner) {
   const auto kept = view.shared_from_this();
   view.update();
-  cairo_surface_t* const picture =
+  const DeepSurface* const picture =
       view.picture.of(view.host(), canvas.scaleFactor(), server.resources());
   if (picture == nullptr) {
     return;
   }
-  cairo_t* const context = canvas.context();
-  double x = corner.x;
-  double y = corner.y;
-  cairo_user_to_device(context, &x, &y);
-  cairo_save(context);
-  cairo_identity_matrix(context);
-  cairo_set_source_surface(context, picture, std::round(x), std::round(y));
-  cairo_paint(context);
-  cairo_restore(context);
+  canvas.picture(*picture, corner);
 }
 
 void paintWindow(CairoCanvas& canvas, WindowServer& server, DeskWindow& window, GlassCache& glass) {

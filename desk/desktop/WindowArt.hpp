@@ -20,6 +20,11 @@ void paintView(CairoCanvas& canvas, WindowServer& server, HostedView& view, ui::
 
 /// The thin veil over the blurred background that makes it glass.
 [[nodiscard]] ui::Rgba glassTint(bool isDark);
+/// Lighter than a window's glass in the dark: a menu stands out from what it lies on.
+[[nodiscard]] ui::Rgba menuTint(bool isDark);
+/// The edge of what lies above everything: a dark line around it, and in the dark, where that is
+/// lost on a dark wallpaper, a light one within.
+void paintMenuEdge(CairoCanvas& canvas, const ui::Shape& shape, bool isDark);
 inline constexpr double glassSigma = 24;
 
 }  // namespace orvane::desk

@@ -8,7 +8,7 @@ namespace orvane::desk::explore {
 Trial::Trial()
     : safety_(std::make_unique<Safety>(session_->machine(), session_->application())),
       context_{.session = *session_,
-               .things = things_,
+               .inspectables = inspectables_,
                .output = output_,
                .limits = {.allowsFiles = false},
                .pictureWriter = {},

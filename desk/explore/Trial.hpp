@@ -13,8 +13,8 @@
 #include "desk/explore/Moment.hpp"
 #include "desk/explore/RarePaths.hpp"
 #include "desk/explore/Safety.hpp"
+#include "desk/script/InspectableTable.hpp"
 #include "desk/script/Interpreter.hpp"
-#include "desk/script/ThingTable.hpp"
 
 namespace orvane::desk::explore {
 
@@ -47,7 +47,7 @@ class Trial {
   std::unique_ptr<script::Session> session_ = std::make_unique<script::Session>();
   std::unique_ptr<Safety> safety_;
   script::CommandTable commands_ = script::standardCommands();
-  script::ThingTable things_;
+  script::InspectableTable inspectables_;
   std::ostringstream output_;
   script::ScriptContext context_;
   script::Interpreter interpreter_;

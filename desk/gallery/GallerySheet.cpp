@@ -11,7 +11,8 @@ namespace orvane::desk {
 
 std::vector<GallerySheet> gallerySheets() {
   std::vector<GallerySheet> all = mainPanelSheets();
-  for (std::vector<GallerySheet> more : {buttonSheets(), menuSheets(), dialogueSheets()}) {
+  for (std::vector<GallerySheet> more : {buttonSheets(), settingsSheets(), paletteSheets(),
+                                         menuSheets(), dialogueSheets(), panelSheets()}) {
     std::ranges::move(more, std::back_inserter(all));
   }
   return all;

@@ -25,14 +25,27 @@ enum class Hand : std::uint8_t {
 struct GalleryItem {
   std::string caption;
   /// The component with the texts of a language; asked anew whenever the component is redrawn.
-  std::function<ui::View(OrvaneLanguage)> make;
+  std::function<ui::View(OrvaneLanguage)> make = nullptr;
   Hand hand = Hand::away;
+  /// Set for a whole panel, and then in place of `make`: brings the current machine into the item's
+  /// state and returns what makes the panel, on a model that it keeps. The texts are in the
+  /// language that is stored on the machine.
+  std::function<std::function<ui::View()>()> stage = nullptr;
 };
 
 struct GallerySheet {
-  /// What the components lie on: the window's surface, a panel on it, an open menu, or the plain
-  /// background of a dialogue.
-  enum class Ground : std::uint8_t { window, panel, menu, dialogue };
+  /// What the components lie on: the main window's surface, a panel on it, the settings' surface,
+  /// an open menu, or the plain background of a dialogue. A whole panel lies on nothing but the
+  /// desktop, in a window of its own.
+  enum class Ground : std::uint8_t {
+    window,
+    panel,
+    settings,
+    menu,
+    dialogue,
+    mainWindow,
+    settingsWindow
+  };
 
   /// Of the file, without its ending.
   std::string name;
@@ -48,12 +61,16 @@ struct GallerySheet {
 /// Every sheet, in the order in which they are written.
 [[nodiscard]] std::vector<GallerySheet> gallerySheets();
 
-/// The sheets of the main panel's parts, of the menu's, and of the settings panel and the
-/// permission's dialogues; together they are all.
+/// The sheets of the main panel's parts, of both panels' buttons, of the settings' other parts, of
+/// the colours, of the menu's parts, of the permission's dialogues, and of whole panels; together
+/// they are all.
 [[nodiscard]] std::vector<GallerySheet> mainPanelSheets();
 [[nodiscard]] std::vector<GallerySheet> buttonSheets();
+[[nodiscard]] std::vector<GallerySheet> settingsSheets();
+[[nodiscard]] std::vector<GallerySheet> paletteSheets();
 [[nodiscard]] std::vector<GallerySheet> menuSheets();
 [[nodiscard]] std::vector<GallerySheet> dialogueSheets();
+[[nodiscard]] std::vector<GallerySheet> panelSheets();
 
 /// The sheet of that name; there must be one.
 [[nodiscard]] GallerySheet gallerySheetNamed(const std::string& name);

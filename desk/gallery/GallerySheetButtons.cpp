@@ -102,6 +102,7 @@ GallerySheet settingsSheet() {
                       std::nullopt};
   return {.name = "settings-secondary-button",
           .title = "SettingsSecondaryButtonStyle",
+          .ground = GallerySheet::Ground::settings,
           .items = states(styled, labelled("lock.shield", "Privacy Policy", "隐私政策"))};
 }
 
@@ -109,7 +110,7 @@ GallerySheet settingsIconSheet() {
   const Styled styled{SettingsIconButtonStyle{}, ui::ShapeForm::circle(), std::nullopt};
   return {.name = "settings-icon-button",
           .title = "SettingsIconButtonStyle",
-          .ground = GallerySheet::Ground::window,
+          .ground = GallerySheet::Ground::settings,
           .hasTexts = false,
           .items = states(styled, [](OrvaneLanguage) {
             return ui::Symbol("xmark").font(Font::system(12, Weight::bold)).frame(28, 28);

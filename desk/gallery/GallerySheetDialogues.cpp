@@ -1,8 +1,8 @@
-// What asks for the permission, and the kit's own controls that the settings are chosen with.
+// What asks for the permission, with its buttons.
 #include "Orvane/permission/OrvaneAccessibilityPermissionAlertView.hpp"
+#include "Orvane/permission/OrvaneDraggableAppIconView.hpp"
 #include "Orvane/permission/OrvanePermissionGuideView.hpp"
 #include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Picker.hpp"
 #include "Orvane/ui/Text.hpp"
 #include "desk/gallery/GallerySheet.hpp"
 
@@ -37,6 +37,16 @@ GallerySheet guideSheet() {
                     item("granted", PermissionGuideState::success)}};
 }
 
+GallerySheet draggableIconSheet() {
+  return {.name = "draggable-app-icon",
+          .title = "OrvaneDraggableAppIconView",
+          .ground = GallerySheet::Ground::dialogue,
+          .hasTexts = false,
+          .items = {{"the icon", [](OrvaneLanguage) {
+                       return View(OrvaneDraggableAppIconView{}).frame(82, 82);
+                     }}}};
+}
+
 GalleryItem bezelItem(const std::string& caption, bool isDefault, Hand hand = Hand::away,
                       bool isDisabled = false) {
   return {
@@ -62,34 +72,10 @@ GallerySheet bezelSheet() {
                     bezelItem("default, disabled", true, Hand::away, true)}};
 }
 
-GalleryItem pickerItem(const std::string& caption, int selectedIndex, Hand hand = Hand::away,
-                       bool isDisabled = false) {
-  return {caption,
-          [=](OrvaneLanguage language) {
-            return View(ui::Picker{language.localized("Language", "语言"),
-                                   {language.localized("Follow System", "跟随系统"), "English",
-                                    "简体中文"},
-                                   selectedIndex,
-                                   [](int) {}})
-                .disabled(isDisabled);
-          },
-          hand};
-}
-
-GallerySheet pickerSheet() {
-  return {
-      .name = "picker",
-      .title = "Picker",
-      .columns = 5,
-      .items = {pickerItem("the first", 0), pickerItem("another", 1),
-                pickerItem("pressed", 0, Hand::pressing), pickerItem("focused", 0, Hand::tabbing),
-                pickerItem("disabled", 0, Hand::away, true)}};
-}
-
 }  // namespace
 
 std::vector<GallerySheet> dialogueSheets() {
-  return {alertSheet(), guideSheet(), bezelSheet(), pickerSheet()};
+  return {alertSheet(), guideSheet(), draggableIconSheet(), bezelSheet()};
 }
 
 }  // namespace orvane::desk

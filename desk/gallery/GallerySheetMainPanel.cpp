@@ -1,14 +1,12 @@
-// The components that the main panel is built from, and its colours.
+// The components that the main panel is built from.
 #include <algorithm>
 #include <iterator>
 
 #include "Orvane/panels/main/DisplayChoiceCard.hpp"
 #include "Orvane/panels/main/DockPanel.hpp"
-#include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/main/PanelIcon.hpp"
 #include "Orvane/panels/main/StatusPill.hpp"
 #include "Orvane/panels/main/TrafficLightButton.hpp"
-#include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
 #include "desk/gallery/GallerySheet.hpp"
@@ -18,7 +16,6 @@ namespace orvane::desk {
 namespace {
 
 using ui::Color;
-using ui::Environment;
 using ui::Font;
 using ui::View;
 using ui::Weight;
@@ -112,8 +109,7 @@ GalleryItem lightItem(const std::string& caption, bool isClose, bool showsIcon,
 std::vector<GalleryItem> lightItems(bool isClose) {
   return {lightItem("normal", isClose, false), lightItem("cluster hovered", isClose, true),
           lightItem("hovered", isClose, true, Hand::over),
-          lightItem("pressed", isClose, true, Hand::pressing),
-          lightItem("focused", isClose, false, Hand::tabbing)};
+          lightItem("pressed", isClose, true, Hand::pressing)};
 }
 
 GallerySheet lightSheet() {
@@ -123,7 +119,7 @@ GallerySheet lightSheet() {
           .title = "TrafficLightButton",
           .ground = GallerySheet::Ground::window,
           .hasTexts = false,
-          .columns = 5,
+          .columns = 4,
           .items = std::move(items)};
 }
 
@@ -149,48 +145,10 @@ GallerySheet panelSheet() {
           .items = {{"with the head of a panel", panel}}};
 }
 
-/// A function of the palette, made visible.
-using Swatch = std::function<ui::Fill(bool isDark)>;
-
-struct SwatchView {
-  Swatch swatch;
-
-  View body(const Environment& environment) const {
-    return ui::RoundedRectangle(12)
-        .fill(swatch(environment.isDark()))
-        .stroke(Color::primary().opacity(0.2), 0.5)
-        .frame(150, 96);
-  }
-};
-
-GalleryItem swatchItem(const std::string& caption, Swatch swatch) {
-  return {caption,
-          [swatch = std::move(swatch)](OrvaneLanguage) { return View(SwatchView{swatch}); }};
-}
-
-GallerySheet paletteSheet() {
-  namespace palette = OrvanePalette;
-  return {
-      .name = "orvane-palette",
-      .title = "OrvanePalette",
-      .ground = GallerySheet::Ground::menu,
-      .hasTexts = false,
-      .items = {swatchItem("windowGradient", palette::windowGradient),
-                swatchItem("windowTopHighlight", palette::windowTopHighlight),
-                swatchItem("panelOverlayGradient", palette::panelOverlayGradient),
-                swatchItem("secondaryButtonFill",
-                           [](bool isDark) { return palette::secondaryButtonFill(isDark, false); }),
-                swatchItem("secondaryButtonFill, pressed",
-                           [](bool isDark) { return palette::secondaryButtonFill(isDark, true); }),
-                swatchItem("windowRim", palette::windowRim),
-                swatchItem("panelRim", palette::panelRim),
-                swatchItem("controlRim", palette::controlRim)}};
-}
-
 }  // namespace
 
 std::vector<GallerySheet> mainPanelSheets() {
-  return {cardSheet(), pillSheet(), iconSheet(), lightSheet(), panelSheet(), paletteSheet()};
+  return {cardSheet(), pillSheet(), iconSheet(), lightSheet(), panelSheet()};
 }
 
 }  // namespace orvane::desk

@@ -40,6 +40,8 @@ GallerySheet rowSheet() {
   const RowTexts prevent{"eye.slash", "Prevent Dock Pop-Up", "防止 Dock 弹出"};
   const RowTexts pin{"lock", "Pin Dock", "固定 Dock"};
   const RowTexts display{"display", "Built-in Display (Main)", "内建显示器 （主要）"};
+  const RowTexts longName{"display", "Conference Room Television on the Left Wall (2)",
+                          "左侧墙面上的会议室超宽电视显示器（2）"};
   const RowTexts open{"macwindow", "Open Window", "打开窗口"};
   const RowTexts none{"display.trianglebadge.exclamationmark", "No displays detected",
                       "未检测到显示器"};
@@ -48,20 +50,21 @@ GallerySheet rowSheet() {
         return View(StatusMenuSectionHeader{language.localized("Choose Display", "选择显示器")})
             .frame(208, StatusMenuSectionHeader::height);
       }};
-  return {.name = "status-menu-row",
-          .title = "StatusMenuRow",
-          .ground = GallerySheet::Ground::menu,
-          .columns = 6,
-          .items = {rowItem("switch, off", prevent, {.isOn = false}),
-                    rowItem("switch, on", prevent, {.isOn = true}),
-                    rowItem("switch, hovered", prevent, {.isOn = false}, Hand::over),
-                    rowItem("switch, disabled", pin, {.isEnabled = false, .isOn = false}),
-                    rowItem("normal", open, {}), rowItem("hovered", open, {}, Hand::over),
-                    rowItem("display", display, {}),
-                    rowItem("display, selected", display, {.isSelected = true}),
-                    rowItem("selected, hovered", display, {.isSelected = true}, Hand::over),
-                    rowItem("disabled", none, {.isEnabled = false}),
-                    rowItem("focused", open, {}, Hand::tabbing), header}};
+  return {
+      .name = "status-menu-row",
+      .title = "StatusMenuRow",
+      .ground = GallerySheet::Ground::menu,
+      .columns = 7,
+      .items = {rowItem("switch, off", prevent, {.isOn = false}),
+                rowItem("switch, on", prevent, {.isOn = true}),
+                rowItem("switch, hovered", prevent, {.isOn = false}, Hand::over),
+                rowItem("switch, disabled", pin, {.isEnabled = false, .isOn = false}),
+                rowItem("normal", open, {}), rowItem("hovered", open, {}, Hand::over),
+                rowItem("display", display, {}),
+                rowItem("display, selected", display, {.isSelected = true}),
+                rowItem("selected, hovered", display, {.isSelected = true}, Hand::over),
+                rowItem("long name", longName, {}), rowItem("disabled", none, {.isEnabled = false}),
+                rowItem("focused", open, {}, Hand::tabbing), header}};
 }
 
 GallerySheet switchSheet() {

@@ -1,6 +1,8 @@
-// A machine is needed only for the stored language, which some components read by themselves.
+// A machine is needed for the stored language, which some components read by themselves, and for
+// the models of whole panels.
 #include "desk/gallery/RunGallery.hpp"
 
+#include <array>
 #include <filesystem>
 #include <iostream>
 #include <system_error>
@@ -12,6 +14,22 @@
 #include "desk/machine/MachineScope.hpp"
 
 namespace orvane::desk {
+
+namespace {
+
+struct NamedAppearance {
+  bool isDark;
+  bool increasesContrast;
+  /// Of the file's name, before its type.
+  const char* ending;
+};
+
+constexpr std::array<NamedAppearance, 4> appearances{{{false, false, "-light"},
+                                                      {true, false, "-dark"},
+                                                      {false, true, "-light-contrast"},
+                                                      {true, true, "-dark-contrast"}}};
+
+}  // namespace
 
 int runGallery(const std::string& directory) {
   constexpr int unwritable = 2;
@@ -26,10 +44,15 @@ int runGallery(const std::string& directory) {
   DrawingResources resources;
   addApplicationImages(resources.images);
   for (const GallerySheet& sheet : gallerySheets()) {
-    for (const bool isDark : {false, true}) {
-      const std::string name = sheet.name + (isDark ? "-dark.png" : "-light.png");
+    for (const auto& [isDark, increasesContrast, ending] : appearances) {
+      const std::string name = sheet.name + ending + ".png";
       SheetStyle style;
       style.isDark = isDark;
+      style.increasesContrast = increasesContrast;
+      if (increasesContrast) {
+        // What matters then is the components' own; one wallpaper spares two thirds of the time.
+        style.wallpapers = {Appearance::Wallpaper::busy};
+      }
       const SurfacePointer picture = paintSheet(sheet, style, scope.machine(), resources);
       if (!writePng(picture.get(), std::filesystem::path(directory) / name)) {
         std::cerr << "orvane-desk: cannot write " << name << " in " << directory << '\n';

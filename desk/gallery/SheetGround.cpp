@@ -3,9 +3,12 @@
 
 #include "Orvane/panels/main/DockPanel.hpp"
 #include "Orvane/panels/main/OrvanePalette.hpp"
+#include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/StandardColors.hpp"
+#include "Orvane/windows/OrvaneSettingsWindow.hpp"
+#include "Orvane/windows/OrvaneWindow.hpp"
 #include "desk/desktop/Glass.hpp"
 #include "desk/desktop/WindowArt.hpp"
 #include "desk/gallery/Specimen.hpp"
@@ -17,59 +20,78 @@ namespace {
 constexpr ui::PaintShadow groundShadow{{0, 0, 0, 0.3}, 18, {0, 6}};
 constexpr double panelInset = 8;
 
-double cornerRadius(GallerySheet::Ground ground) {
+using Ground = GallerySheet::Ground;
+
+double cornerRadius(Ground ground) {
   switch (ground) {
-    case GallerySheet::Ground::window:
-    case GallerySheet::Ground::panel:
-      return 24;
-    case GallerySheet::Ground::menu:
-    case GallerySheet::Ground::dialogue:
+    case Ground::window:
+    case Ground::panel:
+    case Ground::mainWindow:
+      return OrvaneWindow::cornerRadius;
+    case Ground::settings:
+    case Ground::settingsWindow:
+      return OrvaneSettingsWindow::cornerRadius;
+    case Ground::menu:
+    case Ground::dialogue:
       break;
   }
   return 10;
 }
 
-/// The surface of the main window, and a panel on it.
+/// The surface of the settings or of the main window, and there perhaps a panel on it.
 struct WindowSurface {
+  Ground ground;
   ui::Size size;
-  double radius;
-  bool hasPanel;
 
   ui::View body(const ui::Environment& environment) const {
     const bool isDark = environment.isDark();
-    const ui::View window = ui::RoundedRectangle(radius)
-                                .fill(OrvanePalette::windowGradient(isDark))
+    const ui::RoundedRectangle outline(cornerRadius(ground));
+    if (ground == Ground::settings) {
+      return outline.fill(SettingsPalette::windowGradient(isDark)).frame(size.width, size.height);
+    }
+    const ui::View window = outline.fill(OrvanePalette::windowGradient(isDark))
                                 .stroke(OrvanePalette::windowRim(isDark), 1)
                                 .frame(size.width, size.height);
     const double inset = 2 * (panelInset + DockPanel::padding);
     const ui::View content = ui::Rectangle().fill(ui::Color::clear()).height(size.height - inset);
     const ui::View panel = ui::View(DockPanel{content}).width(size.width - 2 * panelInset);
-    return ui::ZStack({window, ui::when(hasPanel, panel)});
+    return ui::ZStack({window, ui::when(ground == Ground::panel, panel)});
   }
 };
 
 }  // namespace
 
-void paintGround(CairoCanvas& canvas, GallerySheet::Ground ground, const ui::Rect& rect,
-                 bool isDark, ui::TextMeasurer& text, DrawingResources& resources) {
-  const double radius = cornerRadius(ground);
-  const ui::Shape shape = ui::Shape::roundedRectangle(rect, radius);
+bool isWholeWindow(Ground ground) {
+  return ground == Ground::mainWindow || ground == Ground::settingsWindow;
+}
+
+ui::Shape groundShape(Ground ground, const ui::Rect& rect) {
+  return ui::Shape::roundedRectangle(rect, cornerRadius(ground));
+}
+
+void paintGround(CairoCanvas& canvas, Ground ground, const ui::Rect& rect,
+                 const ui::Appearance& appearance, ui::TextMeasurer& text,
+                 DrawingResources& resources) {
+  const ui::Shape shape = groundShape(ground, rect);
   canvas.shadow(shape, groundShadow);
-  if (ground == GallerySheet::Ground::dialogue) {
-    ui::Appearance appearance;
-    appearance.dark = isDark;
+  if (ground == Ground::dialogue) {
     canvas.fill(shape,
                 ui::Paint::solid(ui::standardColor(ui::SystemColor::windowBackground, appearance)));
     return;
   }
   GlassCache glass;
-  paintGlass(canvas, shape, glassSigma, glassTint(isDark), glass);
-  if (ground == GallerySheet::Ground::menu) {
+  const bool isMenu = ground == Ground::menu;
+  paintGlass(canvas, shape, glassSigma,
+             isMenu ? menuTint(appearance.dark) : glassTint(appearance.dark), glass);
+  if (isMenu) {
+    paintMenuEdge(canvas, shape, appearance.dark);
+  }
+  if (isMenu || isWholeWindow(ground)) {
     return;
   }
-  const WindowSurface surface{rect.size(), radius, ground == GallerySheet::Ground::panel};
+  const WindowSurface surface{ground, rect.size()};
   const Specimen specimen({{}, [surface](OrvaneLanguage) { return ui::View(surface); }},
-                          OrvaneLanguage::english, isDark, text, resources);
+                          OrvaneLanguage::english, appearance, text, resources);
   specimen.paint(canvas, {rect.x - Specimen::margin, rect.y - Specimen::margin});
 }
 

@@ -1,15 +1,24 @@
 // What the components of a sheet lie on.
 #pragma once
 
+#include "Orvane/ui/Appearance.hpp"
+#include "Orvane/ui/Shape.hpp"
 #include "Orvane/ui/TextMeasurer.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {
 
+/// Whether each component on such a ground is a window of its own.
+[[nodiscard]] bool isWholeWindow(GallerySheet::Ground ground);
+
+/// The outline of the ground.
+[[nodiscard]] ui::Shape groundShape(GallerySheet::Ground ground, const ui::Rect& rect);
+
 /// Paints the ground into the rectangle, over the wallpaper that is there already, as the window
-/// or the menu has it that the components belong to.
+/// or the menu has it that the components belong to; under a whole window its glass alone.
 void paintGround(CairoCanvas& canvas, GallerySheet::Ground ground, const ui::Rect& rect,
-                 bool isDark, ui::TextMeasurer& text, DrawingResources& resources);
+                 const ui::Appearance& appearance, ui::TextMeasurer& text,
+                 DrawingResources& resources);
 
 }  // namespace orvane::desk

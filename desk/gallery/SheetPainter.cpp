@@ -54,6 +54,8 @@ class SheetPainting {
   SheetPainting(const GallerySheet& sheet, const SheetStyle& style, Machine& machine,
                 DrawingResources& resources)
       : sheet_(sheet), style_(style), resources_(resources) {
+    appearance_.dark = style.isDark;
+    appearance_.increaseContrast = style.increasesContrast;
     std::vector<OrvaneLanguage> languages = style.languages;
     if (!sheet.hasTexts) {
       languages.resize(1, OrvaneLanguage::english);
@@ -64,6 +66,8 @@ class SheetPainting {
     if (sheet.ground == GallerySheet::Ground::dialogue) {
       // Nothing shines through.
       wallpapers_.resize(1);
+    } else if (isWholeWindow(sheet.ground)) {
+      wallpapers_ = {Appearance::Wallpaper::standard};
     }
     columns_ = std::min(sheet.columns, sheet.items.size());
     rows_ = (sheet.items.size() + columns_ - 1) / columns_;
@@ -75,9 +79,7 @@ class SheetPainting {
         CAIRO_FORMAT_ARGB32, static_cast<int>(std::ceil(size.width * style_.scale)),
         static_cast<int>(std::ceil(size.height * style_.scale))));
     CairoCanvas canvas(surface.get(), style_.scale, resources_);
-    canvas.fill(ui::Shape::rectangle({0, 0, size.width, size.height}),
-                ui::Paint::solid(style_.isDark ? ui::Rgba{0.13, 0.13, 0.14, 1}
-                                               : ui::Rgba{0.97, 0.97, 0.97, 1}));
+    canvas.fill(ui::Shape::rectangle({0, 0, size.width, size.height}), paper());
     paintHead(canvas);
     double top = headHeight;
     for (const Appearance::Wallpaper wallpaper : wallpapers_) {
@@ -96,7 +98,7 @@ class SheetPainting {
     Cells cells;
     for (const GalleryItem& item : sheet_.items) {
       cells.specimens.push_back(
-          std::make_unique<Specimen>(item, language, style_.isDark, text_, resources_));
+          std::make_unique<Specimen>(item, language, appearance_, text_, resources_));
       const ui::Size size = cells.specimens.back()->size();
       const double captionWidth =
           resources_.shaper.measure(item.caption, captionFont).width + 2 * Specimen::margin;
@@ -136,12 +138,18 @@ class SheetPainting {
     return style_.isDark ? ui::Rgba{1, 1, 1, opacity} : ui::Rgba{0, 0, 0, opacity};
   }
 
+  [[nodiscard]] ui::Paint paper() const {
+    return ui::Paint::solid(style_.isDark ? ui::Rgba{0.13, 0.13, 0.14, 1}
+                                          : ui::Rgba{0.97, 0.97, 0.97, 1});
+  }
+
   void paintHead(CairoCanvas& canvas) const {
     const ui::Font font = ui::Font::system(20, ui::Weight::bold);
     canvas.text(sheet_.title, font, ink(0.9), {sheetMargin, 38});
     const double width = resources_.shaper.measure(sheet_.title, font).width;
-    canvas.text(style_.isDark ? "dark" : "light", ui::Font::system(13), ink(0.6),
-                {sheetMargin + width + 10, 38});
+    canvas.text(std::string(style_.isDark ? "dark" : "light") +
+                    (style_.increasesContrast ? ", Increase Contrast" : ""),
+                ui::Font::system(13), ink(0.6), {sheetMargin + width + 10, 38});
   }
 
   void paintBand(CairoCanvas& canvas, Appearance::Wallpaper wallpaper, const ui::Rect& band) {
@@ -150,12 +158,14 @@ class SheetPainting {
     canvas.transform(ui::Transform::translation(band.origin()));
     paintWallpaper(canvas.context(), wallpaper, style_.isDark, band.width, band.height);
     const ui::Rect ground = ui::Rect{0, 0, band.width, band.height}.inset(wallpaperBorder);
-    paintGround(canvas, sheet_.ground, ground, style_.isDark, text_, resources_);
+    if (!isWholeWindow(sheet_.ground)) {
+      paintGround(canvas, sheet_.ground, ground, appearance_, text_, resources_);
+    }
     paintRows(canvas, ground);
     canvas.restore();
   }
 
-  void paintRows(CairoCanvas& canvas, const ui::Rect& ground) const {
+  void paintRows(CairoCanvas& canvas, const ui::Rect& ground) {
     double top = ground.y + groundPadding;
     const double left =
         std::round(ground.center().x - static_cast<double>(columns_) * cell_.width / 2);
@@ -171,23 +181,35 @@ class SheetPainting {
     }
   }
 
-  void paintCell(CairoCanvas& canvas, const Cells& cells, std::size_t index,
-                 ui::Point corner) const {
+  void paintCell(CairoCanvas& canvas, const Cells& cells, std::size_t index, ui::Point corner) {
     const Specimen& specimen = *cells.specimens[index];
     const ui::Size size = specimen.size();
-    specimen.paint(canvas, {corner.x + std::round((cell_.width - size.width) / 2),
-                            corner.y + std::round((cells.cell.height - size.height) / 2)});
+    const ui::Point place{corner.x + std::round((cell_.width - size.width) / 2),
+                          corner.y + std::round((cells.cell.height - size.height) / 2)};
+    canvas.save();
+    if (isWholeWindow(sheet_.ground)) {
+      const ui::Rect window = ui::Rect::from(place, size).inset(Specimen::margin);
+      paintGround(canvas, sheet_.ground, window, appearance_, text_, resources_);
+      canvas.clip(groundShape(sheet_.ground, window));
+    }
+    specimen.paint(canvas, place);
+    canvas.restore();
     const std::string& caption = sheet_.items[index].caption;
     const double width = resources_.shaper.measure(caption, captionFont).width;
-    canvas.text(
-        caption, captionFont, ink(0.6),
-        {corner.x + (cell_.width - width) / 2, corner.y + std::ceil(cells.cell.height) + 8});
+    const ui::Point baseline{corner.x + (cell_.width - width) / 2,
+                             corner.y + std::ceil(cells.cell.height) + 8};
+    if (isWholeWindow(sheet_.ground)) {
+      // The wallpaper lies around windows.
+      canvas.fill(ui::Shape::capsule({baseline.x - 8, baseline.y - 11, width + 16, 16}), paper());
+    }
+    canvas.text(caption, captionFont, ink(0.6), baseline);
   }
 
   static constexpr ui::Font captionFont = ui::Font::system(10);
 
   const GallerySheet& sheet_;
   const SheetStyle& style_;
+  ui::Appearance appearance_;
   std::vector<Appearance::Wallpaper> wallpapers_ = style_.wallpapers;
   DrawingResources& resources_;
   PangoTextMeasurer text_;

@@ -13,8 +13,10 @@ namespace orvane::desk {
 
 struct SheetStyle {
   bool isDark = false;
+  bool increasesContrast = false;
   /// Pixels per point.
   double scale = 2;
+  /// Whole panels are shown over the desk's own alone.
   std::vector<Appearance::Wallpaper> wallpapers{
       Appearance::Wallpaper::white, Appearance::Wallpaper::black, Appearance::Wallpaper::busy};
   std::vector<OrvaneLanguage> languages{OrvaneLanguage::english, OrvaneLanguage::chinese};

@@ -16,22 +16,29 @@ ui::HostPlatform platform(ui::TextMeasurer& text, DrawingResources& resources) {
 
 }  // namespace
 
-Specimen::Specimen(const GalleryItem& item, OrvaneLanguage language, bool isDark,
-                   ui::TextMeasurer& text, DrawingResources& resources)
+Specimen::Specimen(const GalleryItem& item, OrvaneLanguage language,
+                   const ui::Appearance& appearance, ui::TextMeasurer& text,
+                   DrawingResources& resources)
     : host_(std::make_unique<ui::ViewHost>(platform(text, resources))) {
-  ui::Appearance appearance;
-  appearance.dark = isDark;
   host_->setAppearance(appearance);
-  host_->setRoot([make = item.make, language](const ui::Environment&) {
-    return make(language).padding(margin);
-  });
+  const std::function<ui::View()> make =
+      item.stage ? item.stage() : [make = item.make, language] { return make(language); };
+  host_->setRoot([make](const ui::Environment&) { return make().padding(margin); });
   host_->setSize(host_->intrinsicSize());
   host_->tick(0);
   use(item.hand);
 }
 
+void Specimen::appear(const ui::Appearance& appearance) {
+  host_->setAppearance(appearance);
+  letTimePass();
+}
+
 void Specimen::use(Hand hand) {
   const ui::Point middle{size().width / 2, size().height / 2};
+  // A panel's model may have changed as the panel appeared.
+  host_->invalidate();
+  letTimePass();
   switch (hand) {
     case Hand::away:
       break;
@@ -40,15 +47,20 @@ void Specimen::use(Hand hand) {
       break;
     case Hand::pressing:
       host_->pointerMoved(middle);
-      host_->tick(betweenEvents);
+      letTimePass();
       host_->pointerDown(middle);
       break;
     case Hand::tabbing:
       host_->keyDown({ui::Key::tab, {}, {}});
       break;
   }
-  host_->tick(2 * betweenEvents);
-  host_->tick(3 * betweenEvents);
+  letTimePass();
+}
+
+void Specimen::letTimePass() {
+  // The first one starts what has changed, the second one ends it.
+  host_->tick(host_->time() + betweenEvents);
+  host_->tick(host_->time() + betweenEvents);
 }
 
 void Specimen::paint(CairoCanvas& canvas, ui::Point corner) const {

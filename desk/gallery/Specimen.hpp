@@ -16,9 +16,13 @@ class Specimen {
   static constexpr double margin = 14;
 
   /// Measurer and resources have to outlive the specimen. Texts that follow the stored setting come
-  /// in the language that is stored on the current machine.
-  Specimen(const GalleryItem& item, OrvaneLanguage language, bool isDark, ui::TextMeasurer& text,
-           DrawingResources& resources);
+  /// in the language that is stored on the current machine. A whole panel's model lives on that
+  /// machine as long as the specimen.
+  Specimen(const GalleryItem& item, OrvaneLanguage language, const ui::Appearance& appearance,
+           ui::TextMeasurer& text, DrawingResources& resources);
+
+  /// Goes over to another appearance, and arrives there.
+  void appear(const ui::Appearance& appearance);
 
   /// In points, with the margin on all sides.
   [[nodiscard]] ui::Size size() const { return host_->size(); }
@@ -29,6 +33,7 @@ class Specimen {
 
  private:
   void use(Hand hand);
+  void letTimePass();
 
   std::unique_ptr<ui::ViewHost> host_;
 };

@@ -2,7 +2,6 @@
 #include "desk/hardware/HardwareChoice.hpp"
 
 #include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/FittedText.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
@@ -23,7 +22,9 @@ View HardwareChoice::segment(std::size_t index, const Environment& environment) 
   const bool isSelected = selected == index;
   const Color raised = environment.isDark() ? Color::white().opacity(0.28) : Color::white();
   const View label =
-      FittedText(items[index], 0.8)
+      Text(items[index])
+          .lineLimit(1)
+          .allowsTightening()
           .font(Font::system(11, isSelected ? Weight::semibold : Weight::regular))
           .padding(Edges::horizontal(1))
           .frame({.height = plateHeight - 4, .maximumWidth = infinity})

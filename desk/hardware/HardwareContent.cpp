@@ -32,7 +32,7 @@ std::string statusText(const ApplicationHost& application) {
   if (!application.isRunning()) {
     return "Not running";
   }
-  switch (application.model().status()) {
+  switch (application.snapshot().status) {
     case OrvaneStatus::unlocked:
       return "Unlocked";
     case OrvaneStatus::locked:
@@ -58,8 +58,7 @@ std::string revealsText(const Machine& machine) {
 }
 
 std::string blockedText(const ApplicationHost& application) {
-  return application.isRunning() ? std::to_string(application.model().guardService().blockedCount())
-                                 : "0";
+  return std::to_string(application.snapshot().guard.blockedCount);
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/FittedText.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
@@ -68,7 +67,7 @@ View smallButton(const std::string& title, const std::string& label, std::functi
 View figureView(const HardwareFigure& figure) {
   return VStack(1, HorizontalAlignment::leading,
                 {Text(figure.label).font(smallFont).foreground(quietColor()).lineLimit(1),
-                 FittedText(figure.value, 0.8).font(Font::system(13, Weight::semibold))})
+                 Text(figure.value).font(Font::system(13, Weight::semibold)).lineLimit(1)})
       .maximumWidth(infinity, Alignment::leading())
       .height(40);
 }

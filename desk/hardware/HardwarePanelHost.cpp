@@ -3,7 +3,8 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
+
+#include "desk/hand/FindControl.hpp"
 
 namespace orvane::desk {
 
@@ -86,16 +87,11 @@ bool HardwarePanelHost::keyDown(const ui::KeyEvent& event) {
 
 void HardwarePanelHost::revealFocus() {
   constexpr double margin = 8;
-  std::vector<ui::SemanticsNode> pending{host_.semantics()};
-  while (!pending.empty()) {
-    const ui::SemanticsNode node = std::move(pending.back());
-    pending.pop_back();
-    if (node.isFocused) {
-      scrollBy(std::max(node.frame.bottom() + margin - scrolled_ - size_.height, 0.0));
-      scrollBy(std::min(node.frame.y - margin - scrolled_, 0.0));
-      return;
-    }
-    pending.insert(pending.end(), node.children.begin(), node.children.end());
+  const auto focused =
+      findElement(host_.semantics(), [](const ui::SemanticsNode& node) { return node.isFocused; });
+  if (focused) {
+    scrollBy(std::max(focused->frame.bottom() + margin - scrolled_ - size_.height, 0.0));
+    scrollBy(std::min(focused->frame.y - margin - scrolled_, 0.0));
   }
 }
 

@@ -1,4 +1,4 @@
-// How the user likes the system to look.
+// The user's appearance settings.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +16,7 @@ struct Appearance {
   };
 
   bool isDark = false;
-  /// None until the user chooses one: the system's blue, which is not the same by day and by night.
+  /// None until the user chooses one: the system's blue, which differs between light and dark.
   std::optional<Accent> accent;
   Wallpaper wallpaper = Wallpaper::standard;
   bool reducesMotion = false;

@@ -1,4 +1,4 @@
-// What the system remembers of the running application itself.
+// The system's record of the running application.
 #pragma once
 
 #include "Orvane/platform/appkit/Application.hpp"

@@ -1,4 +1,4 @@
-// How the machine's nanoseconds become the doubles that the platform hands out.
+// Converts the machine's nanoseconds to the doubles that the platform returns.
 #include "desk/machine/Clock.hpp"
 
 #include <cmath>
@@ -10,8 +10,8 @@ namespace {
 
 /// `nanoseconds` since the start in seconds since `secondsAtStart`, with the fraction rounded to
 /// 2^-fractionBits. Whole seconds and fraction together need no more than a double's 53 bits for
-/// the first weeks of a machine, so the sum is exact. In whole numbers, because every event that is
-/// moved back asks for the time.
+/// the first weeks of a machine, so the sum is exact. Integer arithmetic, because every event that
+/// is moved back reads the time.
 template <int fractionBits>
 double quantisedSeconds(std::int64_t nanoseconds, std::int64_t secondsAtStart) {
   constexpr std::int64_t second = Clock::nanosecondsPerSecond;

@@ -9,10 +9,10 @@ namespace orvane::desk {
 class Clock {
  public:
   static constexpr std::int64_t nanosecondsPerSecond = 1'000'000'000;
-  /// What the media clock shows when the machine is switched on.
+  /// The media clock's reading when the machine is switched on.
   static constexpr std::int64_t mediaSecondsAtStart = 1000;
-  /// What the calendar shows then: 1 January 2026, 0:00 UTC, in seconds since 1 January 2001, which
-  /// are 9131 days.
+  /// The calendar clock's reading then: 1 January 2026, 0:00 UTC, which is 9131 days after 1
+  /// January 2001.
   static constexpr std::int64_t calendarSecondsAtStart = 9131LL * 86'400;
 
   /// Nanoseconds since the machine was switched on.
@@ -32,8 +32,8 @@ class Clock {
   /// Time never goes back: an earlier moment changes nothing.
   void moveTo(std::int64_t nanoseconds);
 
-  /// The nearest number of nanoseconds; 0 for a negative number or none at all, the greatest
-  /// number there is for what does not fit.
+  /// Rounds to the nearest nanosecond. Negative and NaN give 0; what does not fit gives the
+  /// maximum.
   [[nodiscard]] static std::int64_t fromSeconds(double seconds);
 
  private:

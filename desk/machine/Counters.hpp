@@ -1,4 +1,4 @@
-// What happened in the machine since it was switched on, as plain counts.
+// Counts of pointer events since the machine was switched on.
 #pragma once
 
 #include <cstdint>
@@ -6,11 +6,11 @@
 namespace orvane::desk {
 
 struct Counters {
-  /// Movements of the pointer by hardware, however they ended.
+  /// Movements of the pointer by hardware, whatever their outcome.
   std::int64_t hardwareMovements = 0;
-  /// Events that came out of the taps at another place than they went in.
+  /// Events whose location a tap changed.
   std::int64_t relocatedEvents = 0;
-  /// Events that a tap swallowed.
+  /// Events that a tap dropped.
   std::int64_t droppedEvents = 0;
 };
 

@@ -24,8 +24,8 @@ struct Display {
   bool isBuiltIn = false;
   /// Whether "NSScreenNumber" is in the device description.
   bool hasNumberInDescription = true;
-  /// Given by Displays when it is attached, never used again: the display itself, whatever its
-  /// number.
+  /// Assigned by Displays on attachment and never reused: identifies the display even when its
+  /// number changes.
   std::uint64_t identity = 0;
 };
 

@@ -1,4 +1,4 @@
-// Changes of the displays, each checked before it is made.
+// Changes to the displays, each validated before it is made.
 #include "desk/machine/Displays.hpp"
 
 #include <algorithm>
@@ -9,7 +9,7 @@ namespace orvane::desk {
 
 namespace {
 
-Displays::Complaint complaintAbout(CGRect frame) {
+Displays::Problem problemWith(CGRect frame) {
   if (!std::isfinite(frame.origin.x) || !std::isfinite(frame.origin.y) ||
       !std::isfinite(frame.size.width) || !std::isfinite(frame.size.height)) {
     return "the frame of a display must be finite";
@@ -30,12 +30,12 @@ std::string taken(std::uint32_t number) {
 
 }  // namespace
 
-Displays::Complaint Displays::attach(Display display, bool asMain) {
+Displays::Problem Displays::attach(Display display, bool asMain) {
   if (find(display.number) != nullptr) {
     return taken(display.number);
   }
-  if (auto complaint = complaintAbout(display.frame)) {
-    return complaint;
+  if (auto problem = problemWith(display.frame)) {
+    return problem;
   }
   display.identity = nextIdentity_++;
   if (asMain) {
@@ -46,7 +46,7 @@ Displays::Complaint Displays::attach(Display display, bool asMain) {
   return std::nullopt;
 }
 
-Displays::Complaint Displays::detach(std::uint32_t number) {
+Displays::Problem Displays::detach(std::uint32_t number) {
   const auto gone = std::find_if(displays_.begin(), displays_.end(), [number](const auto& display) {
     return display.number == number;
   });
@@ -61,20 +61,20 @@ Displays::Complaint Displays::detach(std::uint32_t number) {
   return std::nullopt;
 }
 
-Displays::Complaint Displays::setFrame(std::uint32_t number, CGRect frame) {
+Displays::Problem Displays::setFrame(std::uint32_t number, CGRect frame) {
   Display* const display = findMutable(number);
   if (display == nullptr) {
     return unknown(number);
   }
-  if (auto complaint = complaintAbout(frame)) {
-    return complaint;
+  if (auto problem = problemWith(frame)) {
+    return problem;
   }
   display->frame = frame;
   changed();
   return std::nullopt;
 }
 
-Displays::Complaint Displays::renumber(std::uint32_t number, std::uint32_t newNumber) {
+Displays::Problem Displays::renumber(std::uint32_t number, std::uint32_t newNumber) {
   Display* const display = findMutable(number);
   if (display == nullptr) {
     return unknown(number);
@@ -87,7 +87,7 @@ Displays::Complaint Displays::renumber(std::uint32_t number, std::uint32_t newNu
   return std::nullopt;
 }
 
-Displays::Complaint Displays::setMain(std::uint32_t number) {
+Displays::Problem Displays::setMain(std::uint32_t number) {
   const Display* const display = find(number);
   if (display == nullptr) {
     return unknown(number);
@@ -97,7 +97,7 @@ Displays::Complaint Displays::setMain(std::uint32_t number) {
   return std::nullopt;
 }
 
-Displays::Complaint Displays::beginTogether() {
+Displays::Problem Displays::beginTogether() {
   if (together_) {
     return "changes are being made together already";
   }
@@ -106,7 +106,7 @@ Displays::Complaint Displays::beginTogether() {
   return std::nullopt;
 }
 
-Displays::Complaint Displays::endTogether() {
+Displays::Problem Displays::endTogether() {
   if (!together_) {
     return "no changes are being made together";
   }

@@ -13,30 +13,30 @@
 
 namespace orvane::desk {
 
-/// Operations that can be refused return what is wrong with the request, or none when it was
-/// carried out; a refused request changes nothing. Every one that is carried out is one change.
+/// Operations that can be refused return the problem with the request, or none on success; a
+/// refused request changes nothing. Each successful operation counts as one change.
 class Displays {
  public:
-  using Complaint = std::optional<std::string>;
+  using Problem = std::optional<std::string>;
 
   /// The height of the menu bar at the top of every display, in points.
   static constexpr double menuBarHeight = 24;
 
   /// Attaches at the end of the list. The frame must be finite and not empty, the number new.
-  [[nodiscard]] Complaint attach(Display display, bool asMain = false);
-  [[nodiscard]] Complaint detach(std::uint32_t number);
-  [[nodiscard]] Complaint setFrame(std::uint32_t number, CGRect frame);
-  [[nodiscard]] Complaint renumber(std::uint32_t number, std::uint32_t newNumber);
-  [[nodiscard]] Complaint setMain(std::uint32_t number);
+  [[nodiscard]] Problem attach(Display display, bool asMain = false);
+  [[nodiscard]] Problem detach(std::uint32_t number);
+  [[nodiscard]] Problem setFrame(std::uint32_t number, CGRect frame);
+  [[nodiscard]] Problem renumber(std::uint32_t number, std::uint32_t newNumber);
+  [[nodiscard]] Problem setMain(std::uint32_t number);
 
-  /// The changes between the two are announced as one; none when there were none.
-  [[nodiscard]] Complaint beginTogether();
-  [[nodiscard]] Complaint endTogether();
+  /// The changes between the two are announced as one, if there were any.
+  [[nodiscard]] Problem beginTogether();
+  [[nodiscard]] Problem endTogether();
   [[nodiscard]] bool isTogether() const { return together_; }
-  /// While changes are made together: a visible frame has changed with them.
+  /// To be called during a group of changes: a visible frame has changed, too.
   void joinTogether() { changedTogether_ = true; }
 
-  /// Called after each change, or once after the changes made together.
+  /// `changed` is called after each change, or once after a group of changes.
   void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
   [[nodiscard]] std::int64_t changeCount() const { return changeCount_; }
 
@@ -52,7 +52,7 @@ class Displays {
   /// downwards; in the order of the list. The height of the first display turns one system into the
   /// other.
   [[nodiscard]] const std::vector<CGRect>& globalFrames() const { return globalFrames_; }
-  /// The first display that contains the point; `preferred` is asked first.
+  /// The first display that contains the point; the one at `preferred` is tried first.
   [[nodiscard]] std::optional<std::size_t> indexContaining(CGPoint globalPoint,
                                                            std::size_t preferred = 0) const {
     if (preferred < globalFrames_.size() && contains(globalFrames_[preferred], globalPoint)) {
@@ -60,7 +60,7 @@ class Displays {
     }
     return search(globalPoint);
   }
-  /// The rectangle in the other of the two coordinate systems, in either direction.
+  /// Converts between the two coordinate systems, in either direction.
   [[nodiscard]] CGRect flipped(CGRect rect) const;
   [[nodiscard]] CGPoint flipped(CGPoint point) const;
 
@@ -77,7 +77,7 @@ class Displays {
 
   std::vector<Display> displays_;
   std::vector<CGRect> globalFrames_;
-  /// The display that was made the main one; the first one while it is not attached.
+  /// The display that was made the main one. While it is not attached, the first one is.
   std::optional<std::uint64_t> mainIdentity_;
   std::function<void()> changed_;
   std::uint64_t nextIdentity_ = 1;

@@ -1,4 +1,4 @@
-// When the Dock moves, comes up and hides.
+// When the Dock moves, appears and hides.
 #include "desk/machine/Dock.hpp"
 
 #include <algorithm>
@@ -9,8 +9,8 @@ namespace orvane::desk {
 
 namespace {
 
-/// How much of the edge the drawn Dock takes.
-constexpr double drawnShareOfEdge = 0.6;
+/// The fraction of the edge that the drawn Dock covers.
+constexpr double drawnFraction = 0.6;
 
 bool isBetween(double value, double low, double high) {
   return value >= low && value < high;
@@ -46,7 +46,7 @@ void Dock::displaysChanged(CGPoint pointerPlace) {
   if (followsMain || !displays_.indexOf(displayIdentity_)) {
     displayIdentity_ = newMain;
     setVisible(newMain != 0 && !autoHides_);
-    // The system puts it there without sliding.
+    // The system places it there without a slide.
     slideStartedAt_ = clock_.now() - slideNanoseconds;
   } else if (hidesWhenLeft_ && !isInArea(pointerPlace)) {
     setVisible(false);
@@ -57,7 +57,7 @@ void Dock::pressed(CGPoint goal, CGPoint place, std::size_t displayIndex) {
   const auto& frames = displays_.globalFrames();
   const CGRect& frame = frames[displayIndex];
   const auto own = this->displayIndex();
-  // A mirror of its own display shows the same Dock.
+  // A mirror of the Dock's display shows the same Dock.
   if (own && CGRectEqualToRect(frames[*own], frame)) {
     if (!isVisible_ && !hasNeighbourBehind(place, displayIndex)) {
       setVisible(true);
@@ -144,7 +144,7 @@ void Dock::countReveal() {
 void Dock::setVisible(bool visible) {
   const bool changes = visible != isVisible_;
   if (changes) {
-    // It turns round where it is: what was shown then is what has been slid already.
+    // A reversed slide starts from the Dock's present position.
     const double alreadySlid = visible ? shownFraction() : 1 - shownFraction();
     isVisible_ = visible;
     slideStartedAt_ =
@@ -171,8 +171,8 @@ CGRect Dock::frame() const {
     return {};
   }
   const CGRect& frame = displays_.globalFrames()[*index];
-  const double width = frame.size.width * drawnShareOfEdge;
-  const double height = frame.size.height * drawnShareOfEdge;
+  const double width = frame.size.width * drawnFraction;
+  const double height = frame.size.height * drawnFraction;
   const double x = frame.origin.x + (frame.size.width - width) / 2;
   const double y = frame.origin.y + (frame.size.height - height) / 2;
   switch (edge_) {

@@ -1,5 +1,5 @@
-// The Dock: it lives at one edge of one display, follows a pointer that presses against that edge
-// of another, hides and comes up. It counts how often it came up, and where.
+// The Dock: it is at one edge of one display, moves to another display when the pointer presses
+// against that edge there, and hides and appears. It counts its appearances per display.
 #pragma once
 
 #include <cstddef>
@@ -23,34 +23,35 @@ class Dock {
   static constexpr const char* orientationKey = "orientation";
   static constexpr const char* autoHideKey = "autohide";
 
-  /// How far its area reaches from the edge, in points. A hidden Dock that came up stays while the
-  /// pointer is there.
+  /// The depth of its area, in points. An auto-hiding Dock stays shown while the pointer is in the
+  /// area.
   static constexpr double depth = 70;
-  /// How near to the edge the pointer must be to press against it, in points: the last place that
-  /// the clamping of the pointer leaves.
+  /// How near to the edge the pointer must be to press against it, in points: the outermost
+  /// location to which the pointer is clamped.
   static constexpr double touchDepth = 1;
-  /// A display whose facing edge is so near, in points, is a neighbour: the edge before it does not
-  /// summon the Dock.
+  /// A display whose facing edge is this near, in points, is a neighbour: the edge that it covers
+  /// does not summon the Dock.
   static constexpr double neighbourTolerance = 2;
   static constexpr std::int64_t slideNanoseconds = 250'000'000;
 
   Dock(const Displays& displays, const Clock& clock) : displays_(displays), clock_(clock) {}
 
-  /// Takes its edge and auto-hide from its preferences. Whatever is not the text "left" or "right"
-  /// leaves it at the bottom; whatever is not true leaves it shown.
+  /// Reads the edge and auto-hiding from the Dock's preferences. Any orientation other than "left"
+  /// or "right" means the bottom; any value of auto-hide other than true means shown.
   void readPreferences(const Preferences& preferences, CGPoint pointerPlace);
   [[nodiscard]] DockEdge edge() const { return edge_; }
   [[nodiscard]] bool autoHides() const { return autoHides_; }
 
-  /// Called after it has come up, hidden, come to another display or read its preferences.
+  /// `changed` is called after the Dock has appeared, hidden, moved to another display or read its
+  /// preferences.
   void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
-  /// When its display has gone it moves to the main display; one on the main display follows when
-  /// another becomes it. Neither counts as coming up.
+  /// When its display is gone, the Dock moves to the main display. A Dock on the main display
+  /// follows when another display becomes main. Neither counts as an appearance.
   void displaysChanged(CGPoint pointerPlace);
 
-  /// A movement of the pointer that wanted to reach `goal` and, clamped and filtered, ended at
-  /// `place` on the display at `displayIndex`; in global coordinates.
+  /// The pointer was moved towards `goal` and, clamped and filtered, ended at `place` on the
+  /// display at `displayIndex`. Global coordinates.
   void pointerMoved(CGPoint goal, CGPoint place, std::size_t displayIndex) {
     if (isAtEdge(place, displays_.globalFrames()[displayIndex])) {
       pressed(goal, place, displayIndex);
@@ -59,22 +60,22 @@ class Dock {
     }
   }
 
-  /// The number of the display it lives on; none when there is no display.
+  /// The number of its display; none when there is no display.
   [[nodiscard]] std::optional<std::uint32_t> displayNumber() const;
   [[nodiscard]] std::optional<std::size_t> displayIndex() const;
   /// False while it is hidden, and when there is no display.
   [[nodiscard]] bool isVisible() const { return isVisible_; }
-  /// Where it is drawn when it has come up all the way, in global coordinates; empty when there is
-  /// no display.
+  /// Where it is drawn when fully shown, in global coordinates; empty when there is no display.
   [[nodiscard]] CGRect frame() const;
-  /// 0 hidden to 1 shown, in between while it slides, at the present time.
+  /// From 0, hidden, to 1, shown; in between while it slides.
   [[nodiscard]] double shownFraction() const;
   /// When it last began to slide in or out, in nanoseconds of the machine's clock; a slide takes
-  /// slideNanoseconds. Earlier than the turn itself when it turned round half way.
+  /// slideNanoseconds. For a slide that was reversed half way, the time at which a full slide would
+  /// have begun.
   [[nodiscard]] std::int64_t slideStartedAt() const { return slideStartedAt_; }
 
-  /// How often it came up on each display, by the number the display had then. A Dock that lives
-  /// there from the start has not come up.
+  /// How often it appeared on each display, by the display's number at that time. Being there from
+  /// the start does not count.
   [[nodiscard]] const std::map<std::uint32_t, std::int64_t>& reveals() const { return reveals_; }
   [[nodiscard]] std::int64_t revealCount(std::uint32_t displayNumber) const;
 
@@ -102,7 +103,7 @@ class Dock {
   DockEdge edge_ = DockEdge::bottom;
   bool autoHides_ = false;
   bool isVisible_ = false;
-  /// Auto-hiding and up: the one case in which a movement away from the edge matters.
+  /// Auto-hiding and shown: the only case in which a movement away from the edge matters.
   bool hidesWhenLeft_ = false;
   /// 0 when there is no display.
   std::uint64_t displayIdentity_ = 0;

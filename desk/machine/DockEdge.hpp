@@ -1,4 +1,4 @@
-// DockEdge is the edge of a display that the simulated Dock really lives on.
+// DockEdge is the display edge at which the simulated Dock is.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@ namespace orvane::desk {
 
 enum class DockEdge : std::uint8_t { bottom, left, right };
 
-/// As the Dock's preferences write it.
+/// The edge as the Dock's preferences spell it.
 [[nodiscard]] constexpr const char* nameOf(DockEdge edge) {
   switch (edge) {
     case DockEdge::left:

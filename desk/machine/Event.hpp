@@ -1,4 +1,4 @@
-// The simulated event behind CGEventRef: a small value on the stack of whoever delivers it.
+// The simulated event behind CGEventRef: a small value on the stack of the code that delivers it.
 #pragma once
 
 #include "Orvane/platform/Quartz.hpp"

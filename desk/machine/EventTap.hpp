@@ -12,16 +12,16 @@ struct EventTap {
   CGEventTapCallBack callback;
   void* userInfo;
   bool isListenOnly;
-  /// Never used again, so that a port can outlive its tap.
+  /// Never reused, so that a port can outlive its tap.
   std::uint64_t identity;
   /// The modes in which a source of the tap is in the run loop, as in RunLoop::ModeSet; empty while
-  /// none is, and then events pass by.
+  /// none is, and then the tap receives no events.
   std::uint8_t sourceModes = 0;
   bool isEnabled = true;
   /// False once the system has disabled it for good, as it does to the tap of an application that
   /// was removed from the list of permissions.
   bool canBeEnabled = true;
-  /// False once the permission was lost or the port was invalidated; it never comes back.
+  /// False for good once the permission is lost or the port invalidated.
   bool isAlive = true;
 };
 

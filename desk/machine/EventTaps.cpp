@@ -1,4 +1,4 @@
-// The life of event taps and the delivery of events to them.
+// Creation and removal of event taps, and the delivery of events to them.
 #include "desk/machine/EventTaps.hpp"
 
 #include <algorithm>
@@ -70,7 +70,7 @@ bool EventTaps::deliverBeforeWitness(__CGEvent& event) {
 
 bool EventTaps::deliverInOrder(__CGEvent& event) {
   ++deliveriesUnderWay_;
-  // The numbers of ordinary events are bits of the mask; the greater ones only inform a tap.
+  // Ordinary event types are bit numbers of the mask; greater ones are notices to a tap.
   const CGEventMask bit = event.type < 64 ? CGEventMask{1} << event.type : 0;
   bool isKept = true;
   for (const auto& tap : order_) {
@@ -113,7 +113,7 @@ int EventTaps::disableAll(CGEventType reason, CGPoint location) {
     ++disabled;
     if (runLoop_.isIn(tap->sourceModes)) {
       __CGEvent event{reason, CGEventFlags{}, location};
-      // The event only informs: whatever the callback returns, there is nothing to pass on.
+      // The event is only a notice, so the callback's result is ignored.
       static_cast<void>(call(*tap, event));
     }
   }
@@ -145,7 +145,7 @@ bool EventTaps::isAnyEnabled() const {
 }
 
 void EventTaps::tidy() {
-  // The list stays as it is while an event is on its way through it.
+  // The list must not change while an event passes through it.
   if (!needsTidying_ || deliveriesUnderWay_ > 0) {
     return;
   }

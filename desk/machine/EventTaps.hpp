@@ -1,4 +1,4 @@
-// The event taps of the session, and the way of an event through them.
+// The event taps of the session, and the passage of events through them.
 #pragma once
 
 #include <cstddef>
@@ -21,23 +21,23 @@ class EventTaps {
   EventTaps(const EventTaps&) = delete;
   EventTaps& operator=(const EventTaps&) = delete;
 
-  /// While refused, no tap can be made, whatever the permission.
+  /// While true, no tap can be created, whatever the permission.
   void setRefusesCreation(bool refuses) { refusesCreation_ = refuses; }
   [[nodiscard]] bool refusesCreation() const { return refusesCreation_; }
 
-  /// The identity of a new tap, enabled and without a source; none when it is refused. One that is
-  /// made while an event is delivered does not see that event.
+  /// Creates a tap, enabled and without a source, and returns its identity; none when it is
+  /// refused. A tap that is created while an event is delivered does not see that event.
   std::optional<std::uint64_t> create(CGEventTapPlacement placement, CGEventTapOptions options,
                                       CGEventMask eventsOfInterest, CGEventTapCallBack callback,
                                       void* userInfo);
-  /// Null when there is no such tap alive.
+  /// Null when no such tap is alive.
   [[nodiscard]] EventTap* find(std::uint64_t identity);
-  /// The tap is alive no more; also from within its callback.
+  /// Ends the tap; may be called from within its callback.
   void remove(std::uint64_t identity);
-  /// The permission has gone: every tap dies. Their ports stay with whoever owns them.
+  /// Ends every tap, as the permission was revoked. Their ports stay with their owners.
   void killAll();
 
-  /// Runs the event through the taps in order. False when one of them swallowed it.
+  /// Passes the event through the taps in order. False when one of them dropped it.
   bool deliver(__CGEvent& event) {
     if (order_.empty() && witness_ == nullptr) {
       return true;
@@ -48,16 +48,16 @@ class EventTaps {
   /// Null for none. Not owned.
   void setWitness(EventWitness* witness) { witness_ = witness; }
 
-  /// The system disables every enabled tap and then tells it so by an event of that type. Returns
-  /// how many there were.
+  /// Disables every enabled tap and notifies it with an event of type `reason`. Returns how many
+  /// there were.
   int disableAll(CGEventType reason, CGPoint location);
-  /// The same without an event, as over sleep; `forGood` leaves them where nobody can enable them.
+  /// The same without an event, as during sleep; after `forGood` they cannot be enabled again.
   void disableAllSilently(bool forGood);
 
   [[nodiscard]] std::size_t aliveCount() const;
-  /// Whether some living tap is enabled.
+  /// Whether any living tap is enabled.
   [[nodiscard]] bool isAnyEnabled() const;
-  /// How often a callback was called.
+  /// The number of calls of callbacks.
   [[nodiscard]] std::int64_t deliveryCount() const { return deliveries_; }
 
  private:
@@ -71,7 +71,7 @@ class EventTaps {
   EventWitness* witness_ = nullptr;
   /// In the order of delivery.
   std::vector<std::unique_ptr<EventTap>> order_;
-  /// Made during a delivery: taken over when it is done, at the head or the tail.
+  /// Created during a delivery; inserted at the head or the tail after it.
   std::vector<std::pair<CGEventTapPlacement, std::unique_ptr<EventTap>>> arrivals_;
   std::uint64_t nextIdentity_ = 1;
   std::int64_t deliveries_ = 0;

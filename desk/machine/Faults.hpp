@@ -1,5 +1,5 @@
-// What the application did that a real Mac would answer with a crash or a silent corruption:
-// releasing an object twice, using it after its release, passing null where an object is asked for.
+// Mistakes of the application that on a real Mac would cause a crash or silent corruption:
+// releasing an object twice, using it after its release, passing null where an object is required.
 #pragma once
 
 #include <cstddef>
@@ -23,7 +23,7 @@ class Faults {
 
   [[nodiscard]] std::size_t count() const { return count_; }
   [[nodiscard]] const std::vector<std::string>& texts() const { return texts_; }
-  /// Returns the texts and forgets everything: for a test that provokes faults on purpose.
+  /// Returns the texts and resets, for a test that provokes faults on purpose.
   std::vector<std::string> take() {
     count_ = 0;
     return std::exchange(texts_, {});

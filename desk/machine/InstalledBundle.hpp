@@ -1,4 +1,4 @@
-// Where the application's bundle lies.
+// The location of the application's bundle.
 #pragma once
 
 #include <string>

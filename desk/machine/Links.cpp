@@ -1,4 +1,4 @@
-// What forms a URL, and what becomes of a request to open one.
+// Which texts are valid URLs, and the handling of requests to open them.
 #include "desk/machine/Links.hpp"
 
 #include <algorithm>
@@ -26,7 +26,7 @@ bool isUnreserved(char character) {
          std::string_view("-._~").find(character) != std::string_view::npos;
 }
 
-/// RFC 3986, section 2.2, without the number sign, which may stand once only.
+/// RFC 3986, section 2.2, without the number sign, which may occur only once.
 bool isReserved(char character) {
   return std::string_view(":/?[]@!$&'()*+,;=").find(character) != std::string_view::npos;
 }
@@ -70,7 +70,7 @@ std::string Links::fileURL(std::string_view absolutePath) {
   std::string url = "file://";
   for (const char character : absolutePath) {
     const auto byte = static_cast<unsigned char>(character);
-    // What a URL's path may hold as it is: RFC 3986, section 3.3.
+    // The characters that a URL's path may contain unescaped: RFC 3986, section 3.3.
     if (isUnreserved(character) ||
         std::string_view("/:@!$&'()*+,=").find(character) != std::string_view::npos) {
       url += character;
@@ -96,9 +96,9 @@ bool Links::note(std::string url, bool isFile) {
       refusedPrefixes_.begin(), refusedPrefixes_.end(),
       [&url](const std::string& prefix) { return url.compare(0, prefix.size(), prefix) == 0; });
   opened_.push_back({std::move(url), isFile, !isRefused});
-  if (told_) {
+  if (openedCallback_) {
     const Opened link = opened_.back();
-    told_(link);
+    openedCallback_(link);
   }
   return !isRefused;
 }

@@ -1,4 +1,4 @@
-// Links and files that the application asked to have opened.
+// The links and files that the application has asked to open.
 #pragma once
 
 #include <functional>
@@ -18,21 +18,23 @@ class Links {
     bool wasAccepted;
   };
 
-  /// False, and nothing noted, when `url` does not form a URL with a scheme (RFC 3986); false also
-  /// when it begins with a refused prefix.
+  /// False, and not recorded, when `url` is not a valid URL with a scheme (RFC 3986). False, but
+  /// recorded, when it begins with a refused prefix.
   bool openURL(std::string_view url);
-  /// False, and nothing noted, when the path is not absolute.
+  /// False, and not recorded, when the path is not absolute.
   bool openFile(std::string_view path);
 
   void refuse(std::string prefix) { refusedPrefixes_.push_back(std::move(prefix)); }
-  /// Everything is accepted again.
+  /// Removes all refused prefixes.
   void acceptAll() { refusedPrefixes_.clear(); }
 
-  /// Everything asked for since the machine was switched on, in order.
+  /// All requests since the machine was switched on, in order.
   [[nodiscard]] const std::vector<Opened>& opened() const { return opened_; }
 
-  /// Called after each of them, for the program that a link belongs to.
-  void onOpened(std::function<void(const Opened& link)> opened) { told_ = std::move(opened); }
+  /// `opened` is called after each request, for the program that handles the link.
+  void onOpened(std::function<void(const Opened& link)> opened) {
+    openedCallback_ = std::move(opened);
+  }
 
   [[nodiscard]] static bool formsURL(std::string_view text);
   [[nodiscard]] static std::string fileURL(std::string_view absolutePath);
@@ -42,7 +44,7 @@ class Links {
 
   std::vector<std::string> refusedPrefixes_;
   std::vector<Opened> opened_;
-  std::function<void(const Opened&)> told_;
+  std::function<void(const Opened&)> openedCallback_;
 };
 
 }  // namespace orvane::desk

@@ -11,14 +11,14 @@ namespace orvane::desk {
 
 struct LoginItemState {
   appkit::LoginItem::Status status = appkit::LoginItem::Status::notRegistered;
-  /// While there is one, every registration and its undoing fail with this text.
+  /// While set, registering and unregistering fail with this text.
   std::optional<std::string> error;
-  /// How often the application asked, with or without success.
+  /// How often the application tried, with or without success.
   std::int64_t registrationCount = 0;
   std::int64_t unregistrationCount = 0;
 
-  /// The error's text, or none on success: the status is then `enabled`, also of a service that was
-  /// not found before. One that its user has to approve stays so.
+  /// Returns the error text, or none on success. The status then is `enabled`, even if it was
+  /// `notFound`, but `requiresApproval` is kept.
   std::optional<std::string> registerApplication() {
     ++registrationCount;
     if (!error && status != appkit::LoginItem::Status::requiresApproval) {
@@ -26,7 +26,7 @@ struct LoginItemState {
     }
     return error;
   }
-  /// The error's text, or none on success: the status is then `notRegistered`.
+  /// Returns the error text, or none on success. The status then is `notRegistered`.
   std::optional<std::string> unregisterApplication() {
     ++unregistrationCount;
     if (!error) {

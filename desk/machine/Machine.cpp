@@ -1,4 +1,4 @@
-// How the parts of the machine tell each other what changed.
+// How the machine's parts notify each other of changes.
 #include "desk/machine/Machine.hpp"
 
 #include <algorithm>
@@ -68,8 +68,8 @@ void Machine::displaysChanged() {
 
 void Machine::dockChanged() {
   if (process.isRunning()) {
-    // Not here, in the middle of a movement: observers hear of it once the event is delivered, in
-    // every mode of the run loop, as they hear of the displays.
+    // Not now, in the middle of a movement: notify observers once the event is delivered, in every
+    // mode of the run loop, as for a display change.
     runLoop.afterCurrent([this] { announceVisibleFrames(); });
   }
 }

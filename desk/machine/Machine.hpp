@@ -1,5 +1,4 @@
-// The simulated Mac: its parts, put together. One machine is the current one, and the seam's
-// functions speak with it.
+// The simulated Mac, composed of its parts. The platform functions act on the current machine.
 #pragma once
 
 #include <cstdint>
@@ -35,8 +34,8 @@ namespace orvane::desk {
 class MachineObserver;
 class WindowServer;
 
-/// Made by a MachineScope. It starts with no display, no process, no permission, an empty disk, the
-/// Dock at the bottom and shown.
+/// Created by a MachineScope. It starts with no display, no process, no permission, an empty disk,
+/// and the Dock shown at the bottom.
 class Machine {
  public:
   Machine();
@@ -44,12 +43,13 @@ class Machine {
   Machine& operator=(const Machine&) = delete;
   ~Machine();
 
-  /// The machine that the seam speaks with. There must be one.
+  /// The machine that the platform functions act on. There must be one.
   static Machine& current();
   /// Null when there is none.
   static Machine* currentOrNull();
 
-  /// A process has started. It reads its screens itself, so only later changes are posted.
+  /// To be called when a process has started. It reads its screens itself, so only later changes
+  /// are posted.
   void processStarted() { noteVisibleFrames(); }
 
   /// Serves all that is due at the present instant.
@@ -97,7 +97,7 @@ class Machine {
   void post(appkit::NotificationName name);
   void postNow(appkit::NotificationName name, bool twice);
 
-  /// Of every display in the order of the list, as the process last heard of them.
+  /// Each display's visible frame as last posted to the process, in the order of the list.
   std::vector<CGRect> knownVisibleFrames_;
 };
 

@@ -9,9 +9,9 @@
 
 namespace orvane::desk {
 
-/// What was wrong when a machine was switched off; all empty when nothing was.
+/// What was found wrong when a machine was switched off.
 struct MachineEnd {
-  /// Core Foundation objects that nobody released, one line each.
+  /// Leaked Core Foundation objects, one line each.
   std::vector<std::string> leftObjects;
   std::vector<std::string> faults;
 
@@ -24,13 +24,13 @@ class MachineScope {
   MachineScope();
   MachineScope(const MachineScope&) = delete;
   MachineScope& operator=(const MachineScope&) = delete;
-  /// Ends the machine if that has not been done.
+  /// Ends the machine unless end() has.
   ~MachineScope();
 
   [[nodiscard]] Machine& machine() const { return *machine_; }
   Machine* operator->() const { return machine_.get(); }
 
-  /// Ends the process, if one runs, and the machine, and says what was left.
+  /// Ends the process, if one is running, and the machine, and returns what was found wrong.
   MachineEnd end();
 
  private:

@@ -9,7 +9,7 @@ namespace orvane::desk {
 
 class ModifierKeys {
  public:
-  /// Any of the kCGEventFlagMask constants, or-ed together; what was held before is released.
+  /// Any of the kCGEventFlagMask constants, or-ed together; replaces the keys held before.
   void hold(std::uint64_t flags) { flags_ = static_cast<CGEventFlags>(flags); }
   void releaseAll() { flags_ = CGEventFlags{}; }
   [[nodiscard]] CGEventFlags flags() const { return flags_; }

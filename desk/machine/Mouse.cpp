@@ -1,4 +1,4 @@
-// The way of a movement through taps, pointer and Dock.
+// The path of a movement through taps, pointer and Dock.
 #include "desk/machine/Mouse.hpp"
 
 #include <cmath>
@@ -7,7 +7,7 @@ namespace orvane::desk {
 
 namespace {
 
-/// The other event types of Quartz Event Services; the application asks for none of them.
+/// The other event types of Quartz Event Services; the application taps none of them.
 constexpr auto leftMouseDown = static_cast<CGEventType>(1);
 constexpr auto leftMouseUp = static_cast<CGEventType>(2);
 constexpr auto leftMouseDragged = static_cast<CGEventType>(6);

@@ -1,4 +1,4 @@
-// The mouse: hardware movements on their way from the device to the pointer and the Dock.
+// The mouse: sends hardware movements through the taps to the pointer and the Dock.
 #pragma once
 
 #include <cstdint>
@@ -17,12 +17,12 @@
 namespace orvane::desk {
 
 /// Points are in global coordinates. A movement is complete when the call returns; what the
-/// application put on its main queue meanwhile is served when the run loop next runs.
+/// application posted to its main queue meanwhile is served when the run loop next runs.
 class Mouse {
  public:
-  /// Whether the location that a tap puts into a movement also holds the cursor; otherwise the
+  /// Whether the location that a tap sets in a movement also holds the cursor. If `free`, the
   /// cursor goes where the hand moves it, and only what follows the taps, the Dock and the windows,
-  /// goes by the changed event. No header of the Mac says which it is.
+  /// sees the changed location. Apple does not document which is right.
   enum class Cursor : std::uint8_t { held, free };
   void setCursor(Cursor cursor) { cursor_ = cursor; }
   [[nodiscard]] Cursor cursor() const { return cursor_; }
@@ -36,34 +36,34 @@ class Mouse {
         modifierKeys_(modifierKeys),
         counters_(counters) {}
 
-  /// The hand moves the mouse by so many points. Without a display nothing happens, nor for a
-  /// movement that is not finite.
+  /// Moves the mouse by a distance in points. Does nothing without a display or when the distance
+  /// is not finite.
   PointerMovement moveBy(double dx, double dy) {
     const CGPoint place = pointer_.place();
     return moveTo({place.x + dx, place.y + dy});
   }
-  /// A movement that wants to end at `goal`.
+  /// Moves the mouse towards `goal`, likewise.
   PointerMovement moveTo(CGPoint goal);
 
-  /// The button goes down, or up; what is not a change does nothing. While it is down, movements
-  /// are drags and no mouse-moved events, as on a Mac.
+  /// Presses or releases the button; does nothing when it already is. While it is pressed,
+  /// movements are drag events, not mouse-moved events, as on a Mac.
   void pressButton();
   void releaseButton();
   [[nodiscard]] bool isButtonPressed() const { return isButtonPressed_; }
-  /// The wheel turns by these distances in points; positive ones go towards the end of the content.
+  /// Scrolls by distances in points; positive ones towards the end of the content.
   void turnWheel(double horizontal, double vertical);
 
-  /// A mouse-moved event from elsewhere, straight into the taps; it moves no pointer. Returns where
-  /// it comes out, none when a tap swallowed it.
+  /// Passes a mouse-moved event from another source through the taps, without moving the pointer.
+  /// Returns its final location, none when a tap dropped it.
   std::optional<CGPoint> post(CGPoint location, std::uint64_t flags);
 
   /// Null for none. Not owned.
   void setListener(PointerListener* listener) { listener_ = listener; }
 
  private:
-  /// Sends the movement through the taps; `followed` is the pointer as what follows them knows it.
+  /// Sends the movement through the taps; `followed` is the pointer as seen after them.
   PointerMovement deliver(CGPoint goal, CGPoint wanted, Pointer& followed);
-  /// An event of that type at the pointer's place; false when a tap swallowed it.
+  /// Sends an event of that type at the pointer's location; false when a tap dropped it.
   bool sendEvent(CGEventType type);
 
   const Displays& displays_;

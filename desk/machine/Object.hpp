@@ -1,4 +1,4 @@
-// Object is the common part of every simulated Core Foundation object.
+// Object is the base of every simulated Core Foundation object.
 #pragma once
 
 #include <cstdint>
@@ -6,7 +6,8 @@
 
 namespace orvane::desk {
 
-/// What an object is; the value is its CFTypeID. The Mac's own numbers differ and mean nothing.
+/// The kind of an object; the value is its CFTypeID. The Mac's own numbers differ and are not
+/// documented.
 enum class ObjectKind : std::uint8_t {
   string = 7,
   number = 22,
@@ -30,9 +31,9 @@ class Object {
   virtual ~Object() = default;
 
   [[nodiscard]] ObjectKind kind() const { return kind_; }
-  /// A short text that helps to find the object in a report.
+  /// A short text that identifies the object in a report.
   [[nodiscard]] virtual std::string description() const { return nameOf(kind_); }
-  /// Called when the last reference has gone: gives up what the object itself refers to.
+  /// Called when the last reference is released: drops the object's own references.
   virtual void lastReferenceGone() {}
 
  private:

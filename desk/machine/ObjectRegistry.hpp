@@ -1,5 +1,5 @@
 // The live Core Foundation objects of a machine. Every use of a reference is checked here first, so
-// that a mistake is a recorded fault and never an access to memory that has gone.
+// that a mistake becomes a recorded fault and never an access to freed memory.
 #pragma once
 
 #include <cstddef>
@@ -20,7 +20,7 @@ class ObjectRegistry {
   ObjectRegistry(const ObjectRegistry&) = delete;
   ObjectRegistry& operator=(const ObjectRegistry&) = delete;
 
-  /// The caller owns the one reference that the object begins with.
+  /// The caller owns the object's initial reference.
   template <typename T>
   T* add(std::unique_ptr<T> object) {
     T* const reference = object.get();
@@ -28,12 +28,12 @@ class ObjectRegistry {
     return reference;
   }
 
-  /// Declares an object that every machine knows, that is never released and never counted, such as
-  /// a constant string. It must live to the end of the program.
+  /// Registers an object that is valid on every machine, never released and never counted, such as
+  /// a constant string. It must live until the end of the program.
   static void addConstant(Object& object);
 
-  /// `operation` names the caller in the fault that is recorded when `reference` is null, was
-  /// released or never was an object.
+  /// `operation` names the caller in the fault that is recorded when `reference` is null, already
+  /// released or not an object.
   void retain(const void* reference, const char* operation);
   void release(const void* reference, const char* operation);
   /// Null, and a fault, when there is no such object.
@@ -50,8 +50,8 @@ class ObjectRegistry {
   [[nodiscard]] std::vector<std::string> liveDescriptions() const;
 
  private:
-  /// So many released objects keep their memory, lest a new object takes the address of one that is
-  /// still wrongly in use and hides the mistake.
+  /// This many released objects keep their memory, so that no new object takes the address of one
+  /// that is still used by mistake.
   static constexpr std::size_t quarantineLimit = 1024;
 
   struct Entry {

@@ -1,4 +1,4 @@
-// Posting to observers that may come and go meanwhile.
+// Posting to observers that may be added and removed meanwhile.
 #include "desk/machine/Observers.hpp"
 
 #include <algorithm>
@@ -22,8 +22,8 @@ void Observers::remove(const std::shared_ptr<Observer>& observer) {
 }
 
 void Observers::post(appkit::NotificationName name) {
-  const auto told = observers_;
-  for (const auto& observer : told) {
+  const auto notified = observers_;
+  for (const auto& observer : notified) {
     if (observer->isRegistered && observer->name == name && observer->block) {
       observer->block();
     }
@@ -31,7 +31,7 @@ void Observers::post(appkit::NotificationName name) {
 }
 
 void Observers::removeAll() {
-  // What the blocks hold may ask for the observers again while it is destroyed.
+  // Destroying what the blocks hold may access the observers again.
   const auto removed = std::exchange(observers_, {});
   for (const auto& observer : removed) {
     observer->isRegistered = false;

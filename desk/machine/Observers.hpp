@@ -1,4 +1,4 @@
-// The observers of notifications, told in the order in which they registered.
+// The observers of notifications, called in the order of their registration.
 #pragma once
 
 #include <cstddef>
@@ -10,8 +10,8 @@
 
 namespace orvane::desk {
 
-/// Observers may come and go while they are being told: one that was removed before its turn is not
-/// told, one that came meanwhile hears of the next notification.
+/// Observers may be added and removed during a notification: one that is removed before its turn is
+/// not called, one that is added is first called by the next notification.
 class Observers {
  public:
   struct Observer {
@@ -24,7 +24,7 @@ class Observers {
   /// Removing twice does nothing.
   void remove(const std::shared_ptr<Observer>& observer);
   void post(appkit::NotificationName name);
-  /// The process has ended.
+  /// To be called when the process has ended.
   void removeAll();
 
   [[nodiscard]] std::size_t count() const { return observers_.size(); }

@@ -24,21 +24,21 @@ class Permission {
     }
   }
 
-  /// The application has asked for the permission: the first time this brings it into the list. One
-  /// that its user has taken out of the list does not come back by asking.
-  void noteAsked() {
+  /// Records that the application has asked for the permission. The first request adds it to the
+  /// list; once the user has removed it, asking does not bring it back.
+  void recordRequest() {
     isListed_ = isListed_ || !isKnown_;
     isKnown_ = true;
   }
 
-  /// Takes the application out of the list, and the permission with it.
+  /// Removes the application from the list, and thus its permission.
   void unlist() {
     isListed_ = false;
     isKnown_ = true;
     setTrusted(false);
   }
 
-  /// Called after the permission was given or taken away.
+  /// `changed` is called after the permission was granted or revoked.
   void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
  private:

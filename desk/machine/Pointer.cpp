@@ -1,4 +1,4 @@
-// Keeping the pointer on the displays.
+// Keeps the pointer on the displays.
 #include "desk/machine/Pointer.hpp"
 
 #include <algorithm>
@@ -14,7 +14,7 @@ std::optional<std::size_t> Pointer::displayIndex() const {
 CGPoint Pointer::clamped(CGPoint point, CGRect frame) {
   const double left = frame.origin.x;
   const double top = frame.origin.y;
-  // A display thinner than a point has one place only.
+  // A display thinner than a point has only one position.
   const double right = std::max(left, left + frame.size.width - 1);
   const double bottom = std::max(top, top + frame.size.height - 1);
   return {std::clamp(point.x, left, right), std::clamp(point.y, top, bottom)};
@@ -57,7 +57,7 @@ void Pointer::displaysChanged() {
   if (displays_.isEmpty()) {
     return;
   }
-  // The list may have another order now, so no display is preferred.
+  // The order of the list may have changed, so no display is preferred.
   displayIndex_ = displays_.count();
   settle(place_);
 }

@@ -1,4 +1,4 @@
-// The pointer: where it is, and where the displays let it be.
+// The pointer: its location, confined to the displays.
 #pragma once
 
 #include <cstddef>
@@ -15,22 +15,22 @@ class Pointer {
   explicit Pointer(const Displays& displays) : displays_(displays) {}
 
   [[nodiscard]] CGPoint place() const { return place_; }
-  /// The place in the list of displays; none while there is no display.
+  /// The index of its display; none while there is no display.
   [[nodiscard]] std::optional<std::size_t> displayIndex() const;
 
-  /// `goal` where a display contains it, otherwise the nearest place on the display that the
-  /// pointer is on. There must be a display.
+  /// `goal` if a display contains it, otherwise the nearest location on the pointer's display.
+  /// There must be a display.
   [[nodiscard]] CGPoint reachable(CGPoint goal) const {
     return displays_.indexContaining(goal, displayIndex_) ? goal : clampedToDisplay(goal);
   }
-  /// Puts the pointer to the reachable place nearest to `goal`; one that is not finite leaves it
-  /// where it is. There must be a display.
+  /// Moves the pointer to the reachable location nearest to `goal`; ignores a goal that is not
+  /// finite. There must be a display.
   void settle(CGPoint goal);
 
-  /// Displays came, went or moved: a pointer that is on none goes to the nearest place on one.
+  /// After a display change, moves a pointer that is on no display to the nearest location on one.
   void displaysChanged();
 
-  /// The nearest place that a pointer can take in `frame`: at most one point inside the far edges.
+  /// The pointer location in `frame` nearest to `point`, at least one point from the far edges.
   [[nodiscard]] static CGPoint clamped(CGPoint point, CGRect frame);
 
  private:

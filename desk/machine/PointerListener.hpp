@@ -1,4 +1,4 @@
-// PointerListener hears where the pointer is after each of its movements, and of button and wheel.
+// PointerListener is notified of pointer movements, the button and the wheel.
 #pragma once
 
 #include "Orvane/platform/Quartz.hpp"
@@ -12,7 +12,7 @@ class PointerListener {
   virtual void pointerMovedTo(CGPoint place) = 0;
   virtual void buttonPressedAt(CGPoint /*place*/) {}
   virtual void buttonReleasedAt(CGPoint /*place*/) {}
-  /// Distances in points; positive ones go towards the end of the content.
+  /// Distances in points; positive ones towards the end of the content.
   virtual void wheelTurnedAt(CGPoint /*place*/, double /*horizontal*/, double /*vertical*/) {}
 };
 

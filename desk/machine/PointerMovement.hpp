@@ -1,4 +1,4 @@
-// PointerMovement is how one movement of the mouse ended.
+// PointerMovement is the result of one movement of the mouse.
 #pragma once
 
 #include <cstdint>
@@ -9,18 +9,18 @@ namespace orvane::desk {
 
 struct PointerMovement {
   enum class Outcome : std::uint8_t {
-    /// There was nothing to move, or nowhere to move to.
+    /// There was no display, or the goal was not finite.
     none,
     passed,
-    /// A tap put the event elsewhere.
+    /// A tap changed the event's location.
     movedBack,
-    /// A tap swallowed the event.
+    /// A tap dropped the event.
     dropped,
   };
 
   Outcome outcome = Outcome::none;
-  /// In global coordinates: where the displays let the movement end, and where it ended for what
-  /// follows the taps.
+  /// In global coordinates: where the movement would have ended on the displays, and where it ended
+  /// after the taps.
   CGPoint wanted{};
   CGPoint reached{};
 };

@@ -1,4 +1,4 @@
-// Preferences: what is stored, and the copies that the application sees of it.
+// The stored preferences and the application's cached copies.
 #include "desk/machine/Preferences.hpp"
 
 #include <array>

@@ -1,5 +1,5 @@
-// The preferences of all programs, as Core Foundation stores them. The application sees a copy that
-// it read once, until it synchronises.
+// The preferences of all programs, as Core Foundation stores them. The application sees a cached
+// copy until it synchronises.
 #pragma once
 
 #include <compare>
@@ -37,17 +37,17 @@ class Preferences {
   [[nodiscard]] std::optional<PropertyValue> stored(const std::string& application,
                                                     const std::string& key) const;
 
-  /// As the application sees it: the first question about a program copies all that is stored for
-  /// it, and later ones are answered from the copy.
+  /// As the application sees it: the first lookup for a program copies everything stored for it,
+  /// and later lookups read the copy.
   [[nodiscard]] std::optional<PropertyValue> seen(const Domain& domain, const std::string& key);
   [[nodiscard]] std::optional<PropertyValue> seen(const std::string& application,
                                                   const std::string& key);
-  /// The next question about this program reads afresh.
+  /// Makes the next lookup for this program read the stored values again.
   void synchronise(const std::string& application) { copies_.erase(application); }
-  /// The process has ended, and its copies with it.
+  /// To be called when the process has ended.
   void forgetCopies() { copies_.clear(); }
 
-  /// Called after each change of what is stored.
+  /// `changed` is called after each change of a stored value.
   void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
  private:

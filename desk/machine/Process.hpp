@@ -1,5 +1,5 @@
 // The simulated process of the application. Tasks, timers, observers, taps and preference copies
-// belong to it and end with it; defaults, login item and permission stay.
+// belong to it and end with it; defaults, login item and permission survive.
 #pragma once
 
 namespace orvane::desk {
@@ -12,12 +12,12 @@ class Process {
 
   explicit Process(Machine& machine) : machine_(machine) {}
 
-  /// Begins a process; one that runs already goes on.
+  /// Starts a process; does nothing when one is running.
   void start();
-  /// Ends it, in order or by a crash: what is pending is destroyed without being run, then the
-  /// shared objects of the process are destroyed, then the system takes back what was left. Nothing
-  /// that those destructors ask of the machine has an effect that outlives the process. Core
-  /// Foundation objects that are left are told at the machine's end, not here.
+  /// Ends the process, in order or by a crash: destroys what is pending without running it, then
+  /// the shared objects of the process, then reclaims what is left. Calls from those destructors
+  /// have no effect that outlives the process. Leaked Core Foundation objects are reported when the
+  /// machine ends, not here.
   void end();
 
   [[nodiscard]] State state() const { return state_; }

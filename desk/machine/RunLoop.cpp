@@ -1,4 +1,4 @@
-// What the run loop serves next, and when.
+// Selects what the run loop serves next, and when.
 #include "desk/machine/RunLoop.hpp"
 
 #include <algorithm>
@@ -9,12 +9,12 @@ namespace orvane::desk {
 namespace {
 
 constexpr std::int64_t never = std::numeric_limits<std::int64_t>::max();
-/// What NSTimer takes instead of an interval that is not positive.
+/// What NSTimer uses in place of an interval that is not positive.
 constexpr std::int64_t shortestInterval = 100'000;
-/// A process that asks for more than this at one instant would never come to rest.
+/// More tasks than this at one instant are taken for an endless loop.
 constexpr int servedAtOneInstantLimit = 1'000'000;
 
-/// Both are not negative.
+/// Saturating addition of two numbers that are not negative.
 std::int64_t later(std::int64_t time, std::int64_t delay) {
   return delay > never - time ? never : time + delay;
 }
@@ -60,20 +60,20 @@ std::shared_ptr<RunLoopTimer> RunLoop::addTimer(std::int64_t intervalNanoseconds
   return timer;
 }
 
-std::shared_ptr<RunLoopTimer> RunLoop::addTimerOnSharedBeat(std::int64_t intervalNanoseconds,
-                                                            ModeSet modes, Task tick) {
-  const auto companion = std::find_if(timers_.begin(), timers_.end(), [&](const auto& timer) {
-    return timer->sharesBeat && timer->intervalNanoseconds == intervalNanoseconds;
+std::shared_ptr<RunLoopTimer> RunLoop::addCoalescedTimer(std::int64_t intervalNanoseconds,
+                                                         ModeSet modes, Task tick) {
+  const auto peer = std::find_if(timers_.begin(), timers_.end(), [&](const auto& timer) {
+    return timer->isCoalesced && timer->intervalNanoseconds == intervalNanoseconds;
   });
-  const bool isFirst = companion == timers_.end();
-  std::int64_t beat = isFirst ? 0 : (*companion)->dueNanoseconds;
+  const bool isFirst = peer == timers_.end();
+  std::int64_t due = isFirst ? 0 : (*peer)->dueNanoseconds;
   auto timer = addTimer(intervalNanoseconds, modes, std::move(tick));
-  timer->sharesBeat = true;
+  timer->isCoalesced = true;
   if (!isFirst) {
-    // A companion that is late returns to its grid.
-    const std::int64_t late = clock_.now() - beat;
-    beat += late < 0 ? 0 : (late / intervalNanoseconds + 1) * intervalNanoseconds;
-    timer->dueNanoseconds = beat;
+    // An overdue peer will return to its grid.
+    const std::int64_t late = clock_.now() - due;
+    due += late < 0 ? 0 : (late / intervalNanoseconds + 1) * intervalNanoseconds;
+    timer->dueNanoseconds = due;
   }
   return timer;
 }
@@ -88,7 +88,7 @@ void RunLoop::invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer) {
     timers_.erase(registered);
   }
   if (timer != firing_) {
-    // What the tick holds may ask for the run loop again while it is destroyed.
+    // Destroying what the tick holds may access the run loop again.
     const Task tick = std::exchange(timer->tick, nullptr);
   }
 }
@@ -205,7 +205,7 @@ void RunLoop::runTask() {
 }
 
 void RunLoop::fire(const std::shared_ptr<RunLoopTimer>& timer) {
-  // A late timer leaves out what it missed and returns to its grid after now.
+  // An overdue timer skips the ticks it missed and returns to its grid.
   const std::int64_t missed = (clock_.now() - timer->dueNanoseconds) / timer->intervalNanoseconds;
   timer->dueNanoseconds = later(timer->dueNanoseconds + missed * timer->intervalNanoseconds,
                                 timer->intervalNanoseconds);
@@ -259,7 +259,7 @@ void RunLoop::advance(std::int64_t nanoseconds) {
 void RunLoop::sweep() {
   modes_.clear();
   mainQueueHolds_ = 0;
-  // What the tasks and ticks hold may ask for the run loop again while it is destroyed.
+  // Destroying what the tasks and ticks hold may access the run loop again.
   const auto tasks = std::exchange(tasks_, {});
   const auto followers = std::exchange(followers_, {});
   const auto timers = std::exchange(timers_, {});

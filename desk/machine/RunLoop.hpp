@@ -18,8 +18,7 @@
 namespace orvane::desk {
 
 /// What is due is served in the order of the due times, and at equal times in the order in which it
-/// was asked for. Nothing is served inside of something else: a task that comes while another runs
-/// waits for its end.
+/// was scheduled. Tasks never nest: one that is posted while another runs waits for its end.
 class RunLoop {
  public:
   using Task = std::function<void()>;
@@ -33,29 +32,29 @@ class RunLoop {
   RunLoop(const RunLoop&) = delete;
   RunLoop& operator=(const RunLoop&) = delete;
 
-  /// Modes nest: a menu in a modal session is left before the session is.
+  /// Modes nest: a menu within a modal session is left before the session is.
   void enterMode(Mode mode) { modes_.push_back(mode); }
-  /// Back to the mode before; the standard mode stays.
+  /// Returns to the previous mode; does nothing in the standard mode.
   void leaveMode();
   [[nodiscard]] Mode mode() const { return modes_.empty() ? Mode::standard : modes_.back(); }
   [[nodiscard]] bool isIn(ModeSet modes) const {
     return (modes & static_cast<ModeSet>(mode())) != 0;
   }
 
-  /// While tasks are not accepted, they are destroyed at once: there is no process to run them.
+  /// Tasks that are not accepted are destroyed at once, because there is no process to run them.
   void setAcceptsTasks(bool accepts) { acceptsTasks_ = accepts; }
   [[nodiscard]] bool acceptsTasks() const { return acceptsTasks_; }
 
   void async(Task task) { asyncAfter(0, std::move(task)); }
   void asyncAfter(std::int64_t delayNanoseconds, Task task);
 
-  /// Runs `task` as soon as what runs now has returned, before all that is due, in every mode and
-  /// also while the main queue is held: what follows an inner loop that has ended, or the layout
-  /// that an event has made necessary. It wakes nobody and needs no process.
+  /// Runs `task` as soon as the current task has returned, before anything that is due, in every
+  /// mode and even while the main queue is held. For what follows the end of an inner loop, or the
+  /// layout after an event. It does not count as a wake-up and needs no process.
   void afterCurrent(Task task);
 
-  /// Between the two the main queue delivers nothing: a modal session runs and the task that
-  /// started it has not returned. They nest.
+  /// Between the two calls, which nest, the main queue delivers nothing: a modal session is
+  /// running, and the task that started it has not returned.
   void holdMainQueue() { ++mainQueueHolds_; }
   void releaseMainQueue();
   [[nodiscard]] bool isMainQueueHeld() const { return mainQueueHolds_ > 0; }
@@ -63,50 +62,49 @@ class RunLoop {
   [[nodiscard]] bool isServingMainQueue() const { return servesMainQueue_; }
   [[nodiscard]] std::size_t pendingTaskCount() const { return tasks_.size(); }
 
-  /// The first tick comes after one interval, later ones on that grid. A timer that was kept from
-  /// firing, because the mode was another, fires once when it may again and then returns to its
-  /// grid. An interval of nothing is taken as 0.1 ms, as the Mac does.
+  /// The first tick comes after one interval, later ones on that grid. A timer that the mode kept
+  /// from firing fires once when it may again and then returns to its grid. An interval that is not
+  /// positive counts as 0.1 ms, as on a Mac.
   std::shared_ptr<RunLoopTimer> addTimer(std::int64_t intervalNanoseconds, ModeSet modes,
                                          Task tick);
-  /// The same, but the first tick comes with the next one of another such timer of the same
-  /// interval, where there is one.
-  std::shared_ptr<RunLoopTimer> addTimerOnSharedBeat(std::int64_t intervalNanoseconds,
-                                                     ModeSet modes, Task tick);
-  /// The tick is not called again, and is destroyed as soon as it does not run.
+  /// The same, but aligned with another coalesced timer of the same interval, if there is one.
+  std::shared_ptr<RunLoopTimer> addCoalescedTimer(std::int64_t intervalNanoseconds, ModeSet modes,
+                                                  Task tick);
+  /// The tick is not called again, and is destroyed as soon as it is not running.
   void invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer);
   [[nodiscard]] std::size_t timerCount() const;
 
-  /// While refused, no new source can be made for a port.
+  /// While refused, no source can be created for a port.
   void setRefusesSources(bool refuses) { refusesSources_ = refuses; }
   [[nodiscard]] bool refusesSources() const { return refusesSources_; }
-  /// Sources, such as an event tap's, by their address; what they are is their owner's business.
-  /// True when the source was in none of these modes before.
+  /// Adds a source, such as an event tap's, which is known only by its address. True when the
+  /// source was not in the run loop before.
   bool addSource(const void* source, ModeSet modes);
-  /// True when the source is in no mode any more, but was in one.
+  /// True when the source was in the run loop and is in no mode any more.
   bool removeSource(const void* source, ModeSet modes);
   /// Empty when the source is not in the run loop.
   [[nodiscard]] ModeSet modesOf(const void* source) const;
   [[nodiscard]] std::vector<const void*> sources() const;
 
-  /// Serves all that is due at the present instant. From within a task it does nothing.
+  /// Serves everything that is due now. Does nothing from within a task.
   void runDue();
-  /// Lets time pass and serves what falls due at its due time. From within a task it does nothing.
+  /// Lets time pass, serving everything at its due time. Does nothing from within a task.
   void advance(std::int64_t nanoseconds);
-  /// When the next task or timer that the present mode and holds let through is due.
+  /// When the next task or timer is due that the present mode and holds allow; none without one.
   [[nodiscard]] std::optional<std::int64_t> nextDue() const;
 
-  /// The process has ended: its tasks and timers are destroyed without being run, its modes and
-  /// holds are forgotten. Sources are left to their owner.
+  /// To be called when the process has ended: destroys its tasks and timers without running them
+  /// and resets modes and holds. Sources are left to their owner.
   void sweep();
 
-  /// Since the machine was switched on: timers fired, tasks run, and instants at which at least one
-  /// of them woke the process.
+  /// Counts since the machine was switched on: timers fired, tasks run, and instants at which
+  /// either woke the process.
   [[nodiscard]] std::int64_t timerFireCount() const { return timerFires_; }
   [[nodiscard]] std::int64_t taskCount() const { return tasksRun_; }
   [[nodiscard]] std::int64_t wakeUpCount() const { return wakeUps_; }
 
  private:
-  /// Due time, then order of arrival.
+  /// Due time, then order of scheduling.
   using Place = std::pair<std::int64_t, std::uint64_t>;
 
   [[nodiscard]] std::shared_ptr<RunLoopTimer> nextTimer() const;

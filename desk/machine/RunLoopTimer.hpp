@@ -12,10 +12,10 @@ struct RunLoopTimer {
   std::uint8_t modes;
   std::function<void()> tick;
   std::int64_t dueNanoseconds;
-  /// Its place among what is due at the same time.
+  /// Orders what is due at the same time.
   std::uint64_t sequence;
-  /// It fires together with the others of its interval that share the beat.
-  bool sharesBeat = false;
+  /// Fires together with the other coalesced timers of its interval.
+  bool isCoalesced = false;
   bool isValid = true;
 };
 

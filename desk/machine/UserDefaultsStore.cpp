@@ -1,4 +1,4 @@
-// The stored user defaults and how often each was written.
+// The stored user defaults, with a count of writes per key.
 #include "desk/machine/UserDefaultsStore.hpp"
 
 #include <utility>

@@ -17,7 +17,7 @@ class UserDefaultsStore {
   using Values = std::map<std::string, PropertyValue, std::less<>>;
 
   void set(std::string_view key, PropertyValue value);
-  /// Removing what is not there is a write as well.
+  /// Removing an absent key counts as a write, too.
   void remove(std::string_view key);
   [[nodiscard]] std::optional<PropertyValue> value(std::string_view key) const;
   /// By key, in the order of the keys.

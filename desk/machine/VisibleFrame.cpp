@@ -1,4 +1,4 @@
-// What the menu bar and the Dock take of a display.
+// The part of a display that the menu bar and the Dock leave to windows.
 #include "desk/machine/VisibleFrame.hpp"
 
 #include "desk/machine/Displays.hpp"

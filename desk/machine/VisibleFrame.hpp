@@ -1,4 +1,4 @@
-// The part of a display that menu bar and Dock leave to windows.
+// The part of a display that the menu bar and the Dock leave to windows.
 #pragma once
 
 #include "Orvane/platform/Quartz.hpp"
@@ -8,8 +8,8 @@
 namespace orvane::desk {
 
 /// The display's frame without its menu bar and, where the Dock is shown, without the Dock; in
-/// window-system coordinates. As on a Mac it goes by where the Dock is going, not by the steps of
-/// its slide: a Dock takes its area, or gives it back, at once when it begins to slide.
+/// window-system coordinates. As on a Mac, it changes at once when the Dock begins to slide, not
+/// along with the slide.
 [[nodiscard]] CGRect visibleFrameOf(const Display& display, const Dock& dock);
 
 }  // namespace orvane::desk

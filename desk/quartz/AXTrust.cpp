@@ -1,9 +1,9 @@
-// The Accessibility permission as the application asks for it.
+// The application's query for the Accessibility permission.
 #include "Orvane/platform/Quartz.hpp"
 #include "desk/machine/Machine.hpp"
 
 Boolean AXIsProcessTrusted() {
   orvane::desk::Permission& permission = orvane::desk::Machine::current().permission;
-  permission.noteAsked();
+  permission.recordRequest();
   return permission.isTrusted() ? 1 : 0;
 }

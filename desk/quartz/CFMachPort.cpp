@@ -1,4 +1,4 @@
-// The ports of event taps, and their end.
+// The ports of event taps, and their invalidation.
 #include "desk/quartz/CFMachPort.hpp"
 
 #include "desk/machine/Machine.hpp"

@@ -1,4 +1,4 @@
-// The simulated CFMachPort: what the application holds of an event tap.
+// The simulated CFMachPort: the application's handle for an event tap.
 #pragma once
 
 #include <cstdint>
@@ -10,10 +10,10 @@
 struct __CFMachPort final : orvane::desk::Object {
   explicit __CFMachPort(std::uint64_t tap)
       : Object(orvane::desk::ObjectKind::machPort), tapIdentity(tap) {}
-  /// A port that nobody holds any more takes its tap along.
+  /// Removes the tap along with its port.
   void lastReferenceGone() override;
 
-  /// The tap may be dead long before the port.
+  /// The tap may end long before the port.
   const std::uint64_t tapIdentity;
   bool isValid = true;
 };

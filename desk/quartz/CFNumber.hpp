@@ -1,5 +1,5 @@
-// The simulated CFNumber. The application only ever asks whether a value is a string, so there is
-// nothing to read it with.
+// The simulated CFNumber. The application only checks whether a value is a string, so there is no
+// function to read it.
 #pragma once
 
 #include "Orvane/platform/Quartz.hpp"

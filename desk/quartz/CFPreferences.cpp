@@ -1,4 +1,4 @@
-// Preferences as the application's process sees them.
+// Preferences, as seen by the application's process.
 #include <memory>
 #include <optional>
 #include <string>

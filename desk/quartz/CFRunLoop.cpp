@@ -1,5 +1,5 @@
-// Run-loop sources: who keeps whom, and when an event tap hears of events. The run loop keeps a
-// source that is in one of its modes, and a source keeps its port.
+// Run-loop sources: their ownership, and when an event tap receives events. The run loop retains a
+// source that is in one of its modes, and a source retains its port.
 #include "desk/quartz/CFRunLoop.hpp"
 
 #include <memory>
@@ -18,7 +18,7 @@ const CFRunLoopMode kCFRunLoopCommonModes = CFSTR("kCFRunLoopCommonModes");
 
 namespace {
 
-/// Empty, and a fault, for what is no mode that the machine knows.
+/// Empty, and a recorded fault, for an unknown mode.
 RunLoop::ModeSet modesNamed(CFRunLoopMode mode, const char* operation) {
   const std::string* const name = textOf(mode, operation);
   if (name == nullptr) {
@@ -44,7 +44,7 @@ __CFMachPort* portBehind(CFMachPortRef port, const char* operation) {
       Machine::current().objects.find(port, ObjectKind::machPort, operation));
 }
 
-/// A tap hears of events in the modes in which any of its port's sources is in the run loop.
+/// A tap receives events in the modes in which any of its port's sources is in the run loop.
 void refreshModesOfTap(CFMachPortRef port) {
   Machine& machine = Machine::current();
   const auto* const object = portBehind(port, "CFRunLoop");

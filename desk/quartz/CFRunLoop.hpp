@@ -1,4 +1,4 @@
-// The simulated CFRunLoop: a handle for the machine's run loop. There is one, a constant.
+// The simulated CFRunLoop: the only instance, a constant, stands for the machine's run loop.
 #pragma once
 
 #include "Orvane/platform/Quartz.hpp"
@@ -11,7 +11,7 @@ struct __CFRunLoop final : orvane::desk::Object {
 
 namespace orvane::desk {
 
-/// Takes every source of the port out of the run loop.
+/// Removes every source of the port from the run loop.
 void removeSourcesOf(CFMachPortRef port);
 
 }  // namespace orvane::desk

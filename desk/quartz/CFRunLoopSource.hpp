@@ -1,4 +1,4 @@
-// The simulated CFRunLoopSource: it keeps the port that it was made for.
+// The simulated CFRunLoopSource, which retains its port.
 #pragma once
 
 #include "Orvane/platform/Quartz.hpp"
@@ -6,9 +6,8 @@
 
 // NOLINTNEXTLINE(bugprone-reserved-identifier): the platform's own name for it.
 struct __CFRunLoopSource final : orvane::desk::Object {
-  /// Takes a reference of its own to the port.
   explicit __CFRunLoopSource(CFMachPortRef source);
-  /// Gives the port back.
+  /// Releases the port.
   void lastReferenceGone() override;
 
   const CFMachPortRef port;

@@ -18,7 +18,8 @@ struct __CFString final : orvane::desk::Object {
 
 namespace orvane::desk {
 
-/// The text of a string of the current machine; null, and a recorded fault, when it is none.
+/// The text of `string`; null, and a recorded fault, when it is not a string of the current
+/// machine.
 const std::string* textOf(CFStringRef string, const char* operation);
 
 }  // namespace orvane::desk

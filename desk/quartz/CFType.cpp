@@ -1,4 +1,4 @@
-// What all Core Foundation objects have in common: counting references, and their kind.
+// What all Core Foundation objects have in common: reference counting and the type.
 #include "Orvane/platform/Quartz.hpp"
 #include "desk/machine/Machine.hpp"
 
@@ -10,7 +10,7 @@ CFTypeRef CFRetain(CFTypeRef object) {
 }
 
 void CFRelease(CFTypeRef object) {
-  // An object that outlives its machine was told as left when the machine ended.
+  // An object that outlives its machine was reported as leaked when the machine ended.
   if (Machine* const machine = Machine::currentOrNull()) {
     machine->objects.release(object, "CFRelease");
   }

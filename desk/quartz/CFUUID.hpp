@@ -1,5 +1,5 @@
-// The simulated CFUUID. It keeps the text that the display was attached with, whatever its form, so
-// that a script can use short ones.
+// The simulated CFUUID. It keeps the text with which the display was attached, in any form, so that
+// scripts can use short ones.
 #pragma once
 
 #include <string>

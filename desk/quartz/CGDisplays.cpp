@@ -1,4 +1,4 @@
-// What Core Graphics knows of a display by its number.
+// Core Graphics' queries about a display by its number.
 #include <memory>
 
 #include "desk/machine/Machine.hpp"

@@ -1,5 +1,5 @@
-// Rectangles as Core Graphics documents them: every function takes a rectangle with a negative size
-// as the standardised one, which has a positive size and another origin.
+// Rectangles as Core Graphics documents them: every function standardises a rectangle with a
+// negative size, which then has a positive size and another origin.
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -66,9 +66,9 @@ CGFloat CGRectGetHeight(CGRect rect) {
 }
 
 bool CGRectContainsPoint(CGRect rect, CGPoint point) {
-  // The event path asks this for every zone: only a negative size costs more than comparing, and
-  // one look at both signs tells. The null rectangle, whose origin is infinite, contains nothing by
-  // the comparisons alone.
+  // The event path calls this for every zone, so one test of both signs decides whether the
+  // rectangle needs standardising. The comparisons alone exclude every point from the null
+  // rectangle, whose origin is infinite.
   const auto signs =
       std::bit_cast<std::int64_t>(rect.size.width) | std::bit_cast<std::int64_t>(rect.size.height);
   if (signs < 0) [[unlikely]] {

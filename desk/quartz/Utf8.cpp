@@ -11,7 +11,7 @@ struct Form {
   unsigned char secondHigh;
 };
 
-/// How a sequence goes on after its first byte; a length of 0 for a byte that begins none.
+/// The length of a sequence and the range of its second byte; length 0 for an invalid first byte.
 Form formOf(unsigned char first) {
   if (first < 0x80) {
     return {1, 0, 0};
@@ -34,23 +34,34 @@ Form formOf(unsigned char first) {
 
 }  // namespace
 
-std::optional<std::size_t> Utf8::lengthInUtf16(std::string_view text) {
-  std::size_t units = 0;
+std::optional<std::size_t> Utf8::findInvalid(std::string_view text) {
   for (std::size_t index = 0; index < text.size();) {
     const Form form = formOf(static_cast<unsigned char>(text[index]));
     if (form.length == 0 || form.length > text.size() - index) {
-      return std::nullopt;
+      return index;
     }
     for (std::size_t offset = 1; offset < form.length; ++offset) {
       const auto byte = static_cast<unsigned char>(text[index + offset]);
       const unsigned char low = offset == 1 ? form.secondLow : 0x80;
       const unsigned char high = offset == 1 ? form.secondHigh : 0xBF;
       if (byte < low || byte > high) {
-        return std::nullopt;
+        return index;
       }
     }
-    units += form.length == 4 ? 2 : 1;
     index += form.length;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::size_t> Utf8::lengthInUtf16(std::string_view text) {
+  if (findInvalid(text)) {
+    return std::nullopt;
+  }
+  std::size_t units = 0;
+  for (std::size_t index = 0; index < text.size();) {
+    const std::size_t length = formOf(static_cast<unsigned char>(text[index])).length;
+    units += length == 4 ? 2 : 1;
+    index += length;
   }
   return units;
 }

@@ -1,4 +1,4 @@
-// Utf8 checks and measures text as Unicode's encoding form UTF-8 demands.
+// Utf8 validates and measures UTF-8 text.
 #pragma once
 
 #include <cstddef>
@@ -11,12 +11,12 @@ class Utf8 {
  public:
   Utf8() = delete;
 
-  /// The length in UTF-16 units; none when `text` is not valid: a byte out of place, a form longer
-  /// than needed, a surrogate, or a number beyond 10FFFF.
+  /// The length in UTF-16 units; none when `text` is not valid: a misplaced byte, an overlong form,
+  /// a surrogate, or a code point beyond 10FFFF.
   [[nodiscard]] static std::optional<std::size_t> lengthInUtf16(std::string_view text);
-  [[nodiscard]] static bool isValid(std::string_view text) {
-    return lengthInUtf16(text).has_value();
-  }
+  [[nodiscard]] static bool isValid(std::string_view text) { return !findInvalid(text); }
+  /// Where the first form stands that is not valid; none when there is none.
+  [[nodiscard]] static std::optional<std::size_t> findInvalid(std::string_view text);
 };
 
 }  // namespace orvane::desk

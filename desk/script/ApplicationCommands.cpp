@@ -1,17 +1,11 @@
 // The commands that start, end and operate the application.
-#include "desk/script/ApplicationCommands.hpp"
-
-#include <algorithm>
-#include <array>
-#include <cstdint>
-#include <iterator>
-#include <map>
 #include <string>
-#include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
 #include "Orvane/guard/DockMouseGuard.hpp"
+#include "desk/script/Commands.hpp"
 
 namespace orvane::desk::script {
 
@@ -19,129 +13,81 @@ namespace {
 
 constexpr const char* notRunning = "the application is not running";
 
-Complaint launch(ScriptContext& context, Arguments& arguments) {
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  context.application().launch();
-  return std::nullopt;
-}
-
-Command whileRunning(std::string name, void (*action)(ApplicationHost&)) {
-  return {std::move(name), "", [action](ScriptContext& context, Arguments& arguments) -> Complaint {
-            if (Complaint complaint = arguments.finish()) {
-              return complaint;
-            }
-            if (!context.application().isRunning()) {
-              return notRunning;
-            }
-            action(context.application());
-            return std::nullopt;
-          }};
-}
-
-using Operation = Complaint (*)(ScriptContext& context, Arguments& arguments);
-
-/// An operation of the model without arguments.
-template <void (OrvaneModel::*operation)()>
-Complaint call(ScriptContext& context, Arguments& arguments) {
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  (context.application().model().*operation)();
-  return std::nullopt;
-}
-
-/// An operation of the model that switches something.
-template <void (OrvaneModel::*operation)(bool)>
-Complaint callWithSwitch(ScriptContext& context, Arguments& arguments) {
-  const bool value = arguments.onOff("on|off");
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  (context.application().model().*operation)(value);
-  return std::nullopt;
-}
-
-/// A setter of the model whose argument is one of the cases of a type, by its raw value.
-template <typename Type, void (OrvaneModel::*setter)(Type)>
-Complaint callWithCase(ScriptContext& context, Arguments& arguments) {
-  std::vector<std::string_view> names;
-  std::ranges::transform(Type::allCases, std::back_inserter(names),
-                         [](Type value) { return value.rawValue(); });
-  const std::size_t index = arguments.choice("the value", names);
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  (context.application().model().*setter)(Type::allCases[index]);
-  return std::nullopt;
-}
-
-Complaint selectDisplay(ScriptContext& context, Arguments& arguments) {
-  const std::string identifier = arguments.text("\"ID\"");
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  context.application().model().selectDisplay(identifier);
-  return std::nullopt;
-}
-
-Complaint openDesktopAndDockSettings(ScriptContext& /*context*/, Arguments& arguments) {
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  DockMouseGuard::openDesktopAndDockSettings();
-  return std::nullopt;
-}
-
-const std::map<std::string, Operation, std::less<>>& operations() {
-  using Model = OrvaneModel;
-  static const std::map<std::string, Operation, std::less<>> all = {
-      {"refreshDisplays", call<&Model::refreshDisplays>},
-      {"selectDisplay", selectDisplay},
-      {"toggleLock", call<&Model::toggleLock>},
-      {"toggleSelectedDisplayLock", call<&Model::toggleSelectedDisplayLock>},
-      {"toggleHideDockOnAllDisplays", call<&Model::toggleHideDockOnAllDisplays>},
-      {"restoreLockIfNeeded", call<&Model::restoreLockIfNeeded>},
-      {"refreshLaunchAtLoginStatus", call<&Model::refreshLaunchAtLoginStatus>},
-      {"setLaunchAtLoginEnabled", callWithSwitch<&Model::setLaunchAtLoginEnabled>},
-      {"openAccessibilitySettings", call<&Model::openAccessibilitySettings>},
-      {"openPrivacyPolicy", call<&Model::openPrivacyPolicy>},
-      {"openSupportEmail", call<&Model::openSupportEmail>},
-      {"openDesktopAndDockSettings", openDesktopAndDockSettings},
-      {"appLanguage", callWithCase<OrvaneLanguage, &Model::setAppLanguage>},
-      {"temporaryUnlockModifier", callWithCase<OrvaneModifier, &Model::setTemporaryUnlockModifier>},
-      {"hidesDockOnAllDisplays", callWithSwitch<&Model::setHidesDockOnAllDisplays>},
+/// What is done to the application while it runs.
+auto whileRunning(void (ApplicationHost::*action)()) {
+  return [action](ScriptContext& context) -> Problem {
+    if (!context.application().isRunning()) {
+      return notRunning;
+    }
+    (context.application().*action)();
+    return std::nullopt;
   };
+}
+
+/// One of the cases of a type, by its raw value.
+template <typename Type>
+Parameter<Type> oneOf() {
+  std::vector<std::pair<std::string_view, Type>> values;
+  values.reserve(Type::allCases.size());
+  for (const Type value : Type::allCases) {
+    values.emplace_back(value.rawValue(), value);
+  }
+  return choice<Type>("VALUE", std::move(values), "the value");
+}
+
+/// An operation of the model.
+template <typename... Values>
+auto onModel(void (OrvaneModel::*operation)(Values...)) {
+  return [operation](ScriptContext& context, const std::decay_t<Values>&... values) {
+    (context.application().model().*operation)(values...);
+  };
+}
+
+/// By their names, with what each takes.
+const CommandTable& operations() {
+  using Model = OrvaneModel;
+  static const CommandTable all = [] {
+    CommandTable table;
+    table.add("refreshDisplays", takes(), onModel(&Model::refreshDisplays));
+    table.add("selectDisplay", takes(text("\"ID\"")), onModel(&Model::selectDisplay));
+    table.add("toggleLock", takes(), onModel(&Model::toggleLock));
+    table.add("toggleSelectedDisplayLock", takes(), onModel(&Model::toggleSelectedDisplayLock));
+    table.add("toggleHideDockOnAllDisplays", takes(), onModel(&Model::toggleHideDockOnAllDisplays));
+    table.add("restoreLockIfNeeded", takes(), onModel(&Model::restoreLockIfNeeded));
+    table.add("refreshLaunchAtLoginStatus", takes(), onModel(&Model::refreshLaunchAtLoginStatus));
+    table.add("setLaunchAtLoginEnabled", takes(onOff()), onModel(&Model::setLaunchAtLoginEnabled));
+    table.add("openAccessibilitySettings", takes(), onModel(&Model::openAccessibilitySettings));
+    table.add("openPrivacyPolicy", takes(), onModel(&Model::openPrivacyPolicy));
+    table.add("openSupportEmail", takes(), onModel(&Model::openSupportEmail));
+    table.add("openDesktopAndDockSettings", takes(),
+              [](Machine&) { DockMouseGuard::openDesktopAndDockSettings(); });
+    table.add("appLanguage", takes(oneOf<OrvaneLanguage>()), onModel(&Model::setAppLanguage));
+    table.add("temporaryUnlockModifier", takes(oneOf<OrvaneModifier>()),
+              onModel(&Model::setTemporaryUnlockModifier));
+    table.add("hidesDockOnAllDisplays", takes(onOff()), onModel(&Model::setHidesDockOnAllDisplays));
+    return table;
+  }();
   return all;
 }
 
-Complaint doOperation(ScriptContext& context, Arguments& arguments) {
+Problem doOperation(ScriptContext& context, Arguments& arguments) {
   const std::string name = arguments.text("OPERATION");
-  const auto found = operations().find(name);
-  if (found == operations().end()) {
-    std::string known;
-    for (const auto& [operationName, operation] : operations()) {
-      known += known.empty() ? "" : ", ";
-      known += operationName;
-    }
-    arguments.complain("there is no operation \"" + name + "\", only " + known);
+  const auto found = operations().all().find(name);
+  if (found == operations().all().end()) {
+    arguments.report("there is no operation \"" + name + "\", only " + namesIn(operations().all()));
     return arguments.finish();
   }
-  if (!context.application().isRunning()) {
-    return notRunning;
-  }
-  return found->second(context, arguments);
+  return context.application().isRunning() ? found->second.run(context, arguments)
+                                           : Problem(notRunning);
 }
 
 }  // namespace
 
 void addApplicationCommands(CommandTable& table) {
-  table.add({"launch", "", launch});
-  table.add(
-      whileRunning("terminate", [](ApplicationHost& application) { application.terminate(); }));
-  table.add(whileRunning("crash", [](ApplicationHost& application) { application.crash(); }));
-  table.add(whileRunning("reopen", [](ApplicationHost& application) { application.reopen(); }));
+  table.add("launch", takes(), [](ScriptContext& context) { context.application().launch(); });
+  table.add("terminate", takes(), whileRunning(&ApplicationHost::terminate));
+  table.add("crash", takes(), whileRunning(&ApplicationHost::crash));
+  table.add("reopen", takes(), whileRunning(&ApplicationHost::reopen));
   table.add({"do", "OPERATION [ARGUMENT]", doOperation});
 }
 

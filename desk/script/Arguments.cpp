@@ -13,8 +13,6 @@ namespace orvane::desk::script {
 
 namespace {
 
-constexpr std::array<std::string_view, 2> offAndOn = {"off", "on"};
-
 /// A long text is shown by its beginning only.
 std::string inQuotes(std::string_view text) {
   constexpr std::size_t shownBytes = 60;
@@ -51,13 +49,13 @@ std::optional<std::size_t> Arguments::next() const {
 const Word* Arguments::take(std::string_view what) {
   const std::optional<std::size_t> place = next();
   if (!place) {
-    complain(std::string(what) + " is missing");
+    report(std::string(what) + " is missing");
     return nullptr;
   }
   isRead_[*place] = true;
   const Word& word = words_[*place];
-  if (word.complaint) {
-    complain(*word.complaint);
+  if (word.problem) {
+    report(*word.problem);
     return nullptr;
   }
   return &word;
@@ -70,12 +68,13 @@ std::string Arguments::text(std::string_view what) {
 
 double Arguments::number(std::string_view what) {
   const Word* const word = take(what);
-  if (word == nullptr) {
-    return 0;
-  }
-  const std::optional<double> value = parseDecimal(word->text);
+  return word != nullptr ? checkedNumber(what, word->text) : 0;
+}
+
+double Arguments::checkedNumber(std::string_view what, std::string_view text) {
+  const std::optional<double> value = parseDecimal(text);
   if (!value) {
-    complain(std::string(what) + " must be a decimal number, not " + inQuotes(word->text));
+    report(std::string(what) + " must be a decimal number, not " + inQuotes(text));
   }
   return value.value_or(0);
 }
@@ -86,13 +85,11 @@ double Arguments::coordinate(std::string_view what) {
 }
 
 double Arguments::checkedCoordinate(std::string_view what, std::string_view text) {
-  const std::optional<double> value = parseDecimal(text);
-  if (!value) {
-    complain(std::string(what) + " must be a decimal number, not " + inQuotes(text));
-  } else if (std::abs(*value) > coordinateLimit) {
-    complain(std::string(what) + " is too large: " + inQuotes(text));
+  const double value = checkedNumber(what, text);
+  if (std::abs(value) > coordinateLimit) {
+    report(std::string(what) + " is too large: " + inQuotes(text));
   }
-  return value.value_or(0);
+  return value;
 }
 
 std::uint32_t Arguments::displayNumber(std::string_view what) {
@@ -102,16 +99,18 @@ std::uint32_t Arguments::displayNumber(std::string_view what) {
 
 std::int64_t Arguments::integer(std::string_view what, std::int64_t lowest, std::int64_t highest) {
   const Word* const word = take(what);
-  if (word == nullptr) {
-    return lowest;
+  return word != nullptr ? checkedInteger(what, word->text, lowest, highest) : lowest;
+}
+
+std::int64_t Arguments::checkedInteger(std::string_view what, std::string_view text,
+                                       std::int64_t lowest, std::int64_t highest) {
+  const std::optional<std::int64_t> value = parseInteger(text);
+  if (value && *value >= lowest && *value <= highest) {
+    return *value;
   }
-  const std::optional<std::int64_t> value = parseInteger(word->text);
-  if (!value || *value < lowest || *value > highest) {
-    complain(std::string(what) + " must be a whole number from " + std::to_string(lowest) + " to " +
-             std::to_string(highest) + ", not " + inQuotes(word->text));
-    return lowest;
-  }
-  return *value;
+  report(std::string(what) + " must be a whole number from " + std::to_string(lowest) + " to " +
+         std::to_string(highest) + ", not " + inQuotes(text));
+  return lowest;
 }
 
 std::int64_t Arguments::nanoseconds(std::string_view what, std::int64_t highest) {
@@ -120,14 +119,13 @@ std::int64_t Arguments::nanoseconds(std::string_view what, std::int64_t highest)
     return 0;
   }
   if (!parseDecimal(word->text)) {
-    complain(std::string(what) + " must be a decimal number of seconds, not " +
-             inQuotes(word->text));
+    report(std::string(what) + " must be a decimal number of seconds, not " + inQuotes(word->text));
     return 0;
   }
   const std::optional<std::int64_t> value = parseNanoseconds(word->text);
   if (!value || *value < 0 || *value > highest) {
-    complain(std::string(what) + " must be from 0 to " + secondsText(highest) + " seconds, not " +
-             inQuotes(word->text));
+    report(std::string(what) + " must be from 0 to " + secondsText(highest) + " seconds, not " +
+           inQuotes(word->text));
     return 0;
   }
   return *value;
@@ -142,16 +140,12 @@ std::array<double, 4> Arguments::parseRectangle(std::string_view what, std::stri
   const std::vector<std::string> parts = splitAtCommas(text);
   std::array<double, 4> numbers{};
   if (parts.size() != numbers.size()) {
-    complain(std::string(what) + " must be X,Y,W,H, not " + inQuotes(text));
+    report(std::string(what) + " must be X,Y,W,H, not " + inQuotes(text));
     return numbers;
   }
   std::ranges::transform(parts, numbers.begin(),
                          [&](const std::string& part) { return checkedCoordinate(what, part); });
   return numbers;
-}
-
-bool Arguments::onOff(std::string_view what) {
-  return choice(what, offAndOn) == 1;
 }
 
 std::size_t Arguments::choice(std::string_view what, std::span<const std::string_view> choices) {
@@ -161,8 +155,8 @@ std::size_t Arguments::choice(std::string_view what, std::span<const std::string
   }
   const auto found = std::ranges::find(choices, word->text);
   if (found == choices.end()) {
-    complain(std::string(what) + " must be one of " + joined(choices) + ", not " +
-             inQuotes(word->text));
+    report(std::string(what) + " must be one of " + joined(choices) + ", not " +
+           inQuotes(word->text));
     return 0;
   }
   return static_cast<std::size_t>(std::distance(choices.begin(), found));
@@ -174,8 +168,8 @@ std::optional<std::string> Arguments::option(std::string_view key) {
     if (!isRead_[index] && word.text.size() > key.size() && word.text.starts_with(key) &&
         word.text[key.size()] == '=') {
       isRead_[index] = true;
-      if (word.complaint) {
-        complain(*word.complaint);
+      if (word.problem) {
+        report(*word.problem);
       }
       return word.text.substr(key.size() + 1);
     }
@@ -183,10 +177,16 @@ std::optional<std::string> Arguments::option(std::string_view key) {
   return std::nullopt;
 }
 
+std::optional<std::int64_t> Arguments::integerOption(std::string_view key, std::int64_t lowest,
+                                                     std::int64_t highest) {
+  const std::optional<std::string> value = option(key);
+  return value ? std::optional(checkedInteger(key, *value, lowest, highest)) : std::nullopt;
+}
+
 std::array<double, 4> Arguments::rectangleOption(std::string_view key) {
   const std::optional<std::string> value = option(key);
   if (!value) {
-    complain(std::string(key) + "=X,Y,W,H is missing");
+    report(std::string(key) + "=X,Y,W,H is missing");
     return {};
   }
   return parseRectangle(key, *value);
@@ -214,7 +214,7 @@ bool Arguments::keyword(std::string_view word) {
 std::string_view Arguments::restAsWritten(std::string_view what) {
   const std::optional<std::size_t> place = next();
   if (!place) {
-    complain(std::string(what) + " is missing");
+    report(std::string(what) + " is missing");
     return {};
   }
   std::fill(isRead_.begin(), isRead_.end(), true);
@@ -233,17 +233,17 @@ std::string Arguments::restAsText() {
   return rest;
 }
 
-void Arguments::complain(std::string complaint) {
-  if (!complaint_) {
-    complaint_ = std::move(complaint);
+void Arguments::report(std::string problem) {
+  if (!problem_) {
+    problem_ = std::move(problem);
   }
 }
 
-Complaint Arguments::finish() {
+Problem Arguments::finish() {
   if (const std::optional<std::size_t> place = next()) {
-    complain("unexpected " + inQuotes(words_[*place].text));
+    report("unexpected " + inQuotes(words_[*place].text));
   }
-  return complaint_;
+  return problem_;
 }
 
 std::vector<std::string> splitAtCommas(std::string_view text) {

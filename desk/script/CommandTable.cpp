@@ -1,16 +1,7 @@
 // The commands of the script language, by their names. Whoever has commands to add adds them.
 #include "desk/script/CommandTable.hpp"
 
-#include "desk/script/ApplicationCommands.hpp"
-#include "desk/script/DisplayCommands.hpp"
-#include "desk/script/FaultCommands.hpp"
-#include "desk/script/InputCommands.hpp"
-#include "desk/script/LookingCommands.hpp"
-#include "desk/script/MachineCommands.hpp"
-#include "desk/script/MenuCommands.hpp"
-#include "desk/script/PointerCommands.hpp"
-#include "desk/script/SystemCommands.hpp"
-#include "desk/script/WindowCommands.hpp"
+#include "desk/script/Commands.hpp"
 
 namespace orvane::desk::script {
 
@@ -53,15 +44,11 @@ std::string CommandTable::familyOf(std::string_view word) const {
 CommandTable standardCommands() {
   CommandTable table;
   addMachineCommands(table);
-  addDisplayCommands(table);
   addSystemCommands(table);
   addApplicationCommands(table);
   addPointerCommands(table);
+  addSurfaceCommands(table);
   addLookingCommands(table);
-  addWindowCommands(table);
-  addMenuCommands(table);
-  addInputCommands(table);
-  addFaultCommands(table);
   return table;
 }
 

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "desk/script/Command.hpp"
-#include "desk/script/Word.hpp"
+#include "desk/script/Lexer.hpp"
 
 namespace orvane::desk::script {
 
@@ -23,11 +23,16 @@ class CommandTable {
     /// How many words its name has.
     std::size_t nameWords = 0;
     /// What is wrong when there is no such command.
-    Complaint complaint;
+    Problem problem;
   };
 
   /// A command of the same name is replaced.
   void add(Command command);
+  /// Its name, what it takes and what it does; see `makeCommand`.
+  template <typename Parameters, typename Action>
+  void add(std::string name, Parameters parameters, Action action) {
+    add(makeCommand(std::move(name), std::move(parameters), std::move(action)));
+  }
   /// The command that the words begin with; there must be at least one word.
   [[nodiscard]] Found find(std::span<const Word> words) const;
 

@@ -95,11 +95,11 @@ std::optional<Json> valueAt(const Json& root, const std::vector<std::string>& pa
   return *value;
 }
 
-std::optional<Json> valueAt(const Thing& thing, const Json& shown,
+std::optional<Json> valueAt(const Inspectable& inspectable, const Json& shown,
                             const std::vector<std::string>& path) {
   std::optional<Json> value = valueAt(shown, path);
-  const bool isCount =
-      path.size() == 2 && !thing.countingMember.empty() && path.front() == thing.countingMember;
+  const bool isCount = path.size() == 2 && !inspectable.countingMember.empty() &&
+                       path.front() == inspectable.countingMember;
   return !value && isCount ? std::optional(Json(0)) : value;
 }
 

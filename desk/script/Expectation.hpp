@@ -8,7 +8,7 @@
 
 #include <nlohmann/json_fwd.hpp>
 
-#include "desk/script/Thing.hpp"
+#include "desk/script/InspectableTable.hpp"
 
 namespace orvane::desk::script {
 
@@ -23,8 +23,9 @@ namespace orvane::desk::script {
 /// None when there is no such place.
 [[nodiscard]] std::optional<Json> valueAt(const Json& root, const std::vector<std::string>& path);
 
-/// The same in what was seen of `thing`, where a key that its counting member does not hold is 0.
-[[nodiscard]] std::optional<Json> valueAt(const Thing& thing, const Json& shown,
+/// The same in what was seen of `inspectable`, where a key that its counting member does not hold
+/// is 0.
+[[nodiscard]] std::optional<Json> valueAt(const Inspectable& inspectable, const Json& shown,
                                           const std::vector<std::string>& path);
 
 /// Whether both are the same value; the order of the keys of an object does not matter.

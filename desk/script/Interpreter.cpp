@@ -8,21 +8,21 @@
 
 namespace orvane::desk::script {
 
-Complaint Interpreter::run(std::string_view line) {
+Problem Interpreter::run(std::string_view line) {
   const LexedLine lexed = lexLine(line);
-  if (lexed.complaint || lexed.words.empty()) {
-    return lexed.complaint;
+  if (lexed.problem || lexed.words.empty()) {
+    return lexed.problem;
   }
   const std::span<const Word> words(lexed.words);
   const CommandTable::Found found = commands_.find(words);
   if (found.command == nullptr) {
-    return found.complaint;
+    return found.problem;
   }
   Arguments arguments(words.subspan(found.nameWords), line);
-  if (const Complaint complaint = found.command->run(context_, arguments)) {
+  if (const Problem problem = found.command->run(context_, arguments)) {
     const std::string usage = found.command->name + " " + found.command->usage;
     const bool explains = arguments.isWrong() && !found.command->usage.empty();
-    return found.command->name + ": " + *complaint + (explains ? " (" + usage + ")" : "");
+    return found.command->name + ": " + *problem + (explains ? " (" + usage + ")" : "");
   }
   context_.machine().runDue();
   return std::nullopt;

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "desk/script/CommandTable.hpp"
-#include "desk/script/Complaint.hpp"
+#include "desk/script/Problem.hpp"
 #include "desk/script/ScriptContext.hpp"
 
 namespace orvane::desk::script {
@@ -18,7 +18,7 @@ class Interpreter {
   /// Carries out one line and then serves all that is due at the present instant, so that the
   /// machine is at rest when it returns. An empty line does nothing. Says why the line could not be
   /// carried out.
-  Complaint run(std::string_view line);
+  Problem run(std::string_view line);
 
  private:
   const CommandTable& commands_;

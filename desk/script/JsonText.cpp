@@ -69,6 +69,10 @@ std::string jsonText(const Json& value) {
   return textText(value);
 }
 
+Json jsonRectangle(const CGRect& rect) {
+  return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
 double jsonSeconds(std::int64_t nanoseconds) {
   return parseDecimal(secondsText(nanoseconds)).value_or(0);
 }

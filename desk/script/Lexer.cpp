@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "desk/script/Utf8.hpp"
+#include "desk/quartz/Utf8.hpp"
 
 namespace orvane::desk::script {
 
@@ -21,12 +21,14 @@ bool isControl(char character) {
   return (byte < 0x20 && character != '\t') || byte == 0x7F;
 }
 
+/// Counted in characters.
 std::string atColumn(std::string_view line, std::size_t place) {
-  return " at column " + std::to_string(characterCount(line.substr(0, place)) + 1);
+  const auto begins = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; };
+  return " at column " + std::to_string(std::ranges::count_if(line.substr(0, place), begins) + 1);
 }
 
-Complaint complaintAboutBytes(std::string_view line) {
-  if (const auto place = findMalformedUtf8(line)) {
+Problem problemWithBytes(std::string_view line) {
+  if (const auto place = Utf8::findInvalid(line)) {
     return "malformed UTF-8" + atColumn(line, *place);
   }
   const auto control = std::ranges::find_if(line, isControl);
@@ -92,8 +94,8 @@ class WordReader {
         word_.text += '\t';
         break;
       default:
-        if (!word_.complaint) {
-          word_.complaint = "an unknown escape" + atColumn(line_, place_ - 1);
+        if (!word_.problem) {
+          word_.problem = "an unknown escape" + atColumn(line_, place_ - 1);
         }
         return;
     }
@@ -109,7 +111,7 @@ class WordReader {
 
 LexedLine lexLine(std::string_view line) {
   LexedLine result;
-  if ((result.complaint = complaintAboutBytes(line))) {
+  if ((result.problem = problemWithBytes(line))) {
     return result;
   }
   std::size_t place = 0;
@@ -122,7 +124,7 @@ LexedLine lexLine(std::string_view line) {
     }
     WordReader reader(line, place);
     if (!reader.read()) {
-      result.complaint = "a quote is opened" + atColumn(line, reader.place()) + " and not closed";
+      result.problem = "a quote is opened" + atColumn(line, reader.place()) + " and not closed";
       return result;
     }
     place = reader.place();

@@ -1,17 +1,17 @@
 // The commands that look and compare: show, find, picture, echo, expect.
-#include "desk/script/LookingCommands.hpp"
-
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
 #include "Orvane/geometry/OrvaneScreen.hpp"
 #include "Orvane/platform/appkit/Screen.hpp"
+#include "desk/script/Commands.hpp"
 #include "desk/script/Expectation.hpp"
+#include "desk/script/InspectableTable.hpp"
 #include "desk/script/JsonText.hpp"
-#include "desk/script/ThingTable.hpp"
 
 namespace orvane::desk::script {
 
@@ -19,80 +19,68 @@ namespace {
 
 constexpr double greatestScale = 16;
 
-/// Null, and a complaint, when there is no such thing.
-const Thing* findThing(const ScriptContext& context, const std::string& name,
-                       Arguments& arguments) {
-  const Thing* const thing = context.things.find(name);
-  if (thing == nullptr) {
-    arguments.complain("there is no \"" + name + "\" to look at, only " + context.things.names());
-  }
-  return thing;
-}
-
-Complaint show(ScriptContext& context, Arguments& arguments) {
-  const Thing* const thing = findThing(context, arguments.text("THING"), arguments);
+/// What to look at, and the word after it.
+struct Look {
+  const Inspectable* inspectable = nullptr;
   std::string argument;
-  if (thing != nullptr && !thing->parameter.empty()) {
-    argument = arguments.text(thing->parameter);
+};
+
+struct Expected {
+  std::string path;
+  Look look;
+  /// Where the value stands in what is seen.
+  std::vector<std::string> place;
+  std::optional<Json> value;
+};
+
+/// Null, and a problem reported, when there is none of that name.
+const Inspectable* findInspectable(const ScriptContext& context, const std::string& name,
+                                   Arguments& arguments) {
+  const Inspectable* const inspectable = context.inspectables.find(name);
+  if (inspectable == nullptr) {
+    arguments.report("there is no \"" + name + "\" to look at, only " +
+                     context.inspectables.names());
   }
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  Json shown;
-  if (Complaint complaint = thing->look(context, argument, shown)) {
-    return complaint;
-  }
-  context.output << jsonText(shown) << '\n';
-  return std::nullopt;
+  return inspectable;
 }
 
-Complaint expect(ScriptContext& context, Arguments& arguments) {
-  const std::string path = arguments.text("THING.PATH");
+Look readLook(ScriptContext& context, Arguments& arguments) {
+  Look look{findInspectable(context, arguments.text("THING"), arguments), {}};
+  if (look.inspectable != nullptr && !look.inspectable->parameter.empty()) {
+    look.argument = arguments.text(look.inspectable->parameter);
+  }
+  return look;
+}
+
+Expected readExpected(ScriptContext& context, Arguments& arguments) {
+  Expected expected;
+  expected.path = arguments.text("THING.PATH");
   const std::string written(arguments.restAsWritten("VALUE"));
-  const std::optional<Json> expected = parseJson(written);
-  if (!expected) {
-    arguments.complain("VALUE is not JSON: " + written + " (a text stands in double quotes)");
+  expected.value = parseJson(written);
+  if (!expected.value) {
+    arguments.report("VALUE is not JSON: " + written + " (a text stands in double quotes)");
   }
-  std::optional<std::vector<std::string>> parts = parsePath(path);
+  std::optional<std::vector<std::string>> parts = parsePath(expected.path);
   if (!parts) {
-    arguments.complain("\"" + path + "\" is not a path");
+    arguments.report("\"" + expected.path + "\" is not a path");
+    return expected;
   }
-  const Thing* const thing = parts ? findThing(context, parts->front(), arguments) : nullptr;
-  std::string argument;
-  if (thing != nullptr) {
-    parts->erase(parts->begin());
-    if (!thing->parameter.empty() && parts->empty()) {
-      arguments.complain(thing->parameter + " is missing after \"" + path + ".\"");
-    } else if (!thing->parameter.empty()) {
-      argument = std::move(parts->front());
-      parts->erase(parts->begin());
+  expected.look.inspectable = findInspectable(context, parts->front(), arguments);
+  parts->erase(parts->begin());
+  if (expected.look.inspectable != nullptr && !expected.look.inspectable->parameter.empty()) {
+    if (parts->empty()) {
+      arguments.report(expected.look.inspectable->parameter + " is missing after \"" +
+                       expected.path + ".\"");
+      return expected;
     }
+    expected.look.argument = std::move(parts->front());
+    parts->erase(parts->begin());
   }
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  Json shown;
-  if (Complaint complaint = thing->look(context, argument, shown)) {
-    return complaint;
-  }
-  const std::optional<Json> got = valueAt(*thing, shown, *parts);
-  if (!got || !isSameJson(*got, *expected)) {
-    context.expectationFailed(failureText(path, *expected, got));
-  }
-  return std::nullopt;
+  expected.place = std::move(*parts);
+  return expected;
 }
 
-Complaint find(ScriptContext& context, Arguments& arguments) {
-  const std::string identifier = arguments.text("\"IDENTIFIER\"");
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  const auto index = OrvaneScreen::orvaneFindScreen(identifier, appkit::Screen::screens());
-  context.output << jsonText(Json{{"index", index ? Json(*index) : Json(nullptr)}}) << '\n';
-  return std::nullopt;
-}
-
-Complaint picture(ScriptContext& context, Arguments& arguments) {
+PictureRequest readPictureRequest(ScriptContext& /*context*/, Arguments& arguments) {
   PictureRequest request;
   request.file = arguments.text("FILE");
   bool hasScale = arguments.keyword("scale");
@@ -103,12 +91,39 @@ Complaint picture(ScriptContext& context, Arguments& arguments) {
   if (hasScale) {
     request.scale = arguments.number("S");
     if (!(request.scale > 0 && request.scale <= greatestScale)) {
-      arguments.complain("the scale must be greater than 0 and at most 16");
+      arguments.report("the scale must be greater than 0 and at most 16");
     }
   }
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
+  return request;
+}
+
+Problem show(ScriptContext& context, const Look& look) {
+  Json shown;
+  if (Problem problem = look.inspectable->look(context, look.argument, shown)) {
+    return problem;
   }
+  context.output << jsonText(shown) << '\n';
+  return std::nullopt;
+}
+
+Problem expect(ScriptContext& context, const Expected& expected) {
+  Json shown;
+  if (Problem problem = expected.look.inspectable->look(context, expected.look.argument, shown)) {
+    return problem;
+  }
+  const std::optional<Json> got = valueAt(*expected.look.inspectable, shown, expected.place);
+  if (!got || !isSameJson(*got, *expected.value)) {
+    context.expectationFailed(failureText(expected.path, *expected.value, got));
+  }
+  return std::nullopt;
+}
+
+void find(ScriptContext& context, const std::string& identifier) {
+  const auto index = OrvaneScreen::orvaneFindScreen(identifier, appkit::Screen::screens());
+  context.output << jsonText(Json{{"index", index ? Json(*index) : Json(nullptr)}}) << '\n';
+}
+
+Problem picture(ScriptContext& context, const PictureRequest& request) {
   if (!context.limits.allowsFiles) {
     return "files must not be written";
   }
@@ -118,23 +133,20 @@ Complaint picture(ScriptContext& context, Arguments& arguments) {
   return context.pictureWriter(context.session, request);
 }
 
-Complaint echo(ScriptContext& context, Arguments& arguments) {
-  const std::string text = arguments.restAsText();
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  context.output << text << '\n';
-  return std::nullopt;
-}
-
 }  // namespace
 
 void addLookingCommands(CommandTable& table) {
-  table.add({"show", "THING", show});
-  table.add({"expect", "THING.PATH VALUE", expect});
-  table.add({"find", "\"IDENTIFIER\"", find});
-  table.add({"picture", "FILE [SURFACE] [scale S]", picture});
-  table.add({"echo", "TEXT", echo});
+  table.add("show", takes(Parameter<Look>{"THING", readLook}), show);
+  table.add("expect", takes(Parameter<Expected>{"THING.PATH VALUE", readExpected}), expect);
+  table.add("find", takes(text("\"IDENTIFIER\"")), find);
+  table.add("picture",
+            takes(Parameter<PictureRequest>{"FILE [SURFACE] [scale S]", readPictureRequest}),
+            picture);
+  table.add(
+      "echo",
+      takes(Parameter<std::string>{
+          "TEXT", [](ScriptContext&, Arguments& arguments) { return arguments.restAsText(); }}),
+      [](ScriptContext& context, const std::string& words) { context.output << words << '\n'; });
 }
 
 }  // namespace orvane::desk::script

@@ -1,36 +1,94 @@
-// The commands that concern the machine as a whole: a new one, and the passing of time.
-#include "desk/script/MachineCommands.hpp"
-
+// The commands that concern the machine as a whole, and its displays.
+#include <array>
 #include <cstdint>
+#include <optional>
+#include <utility>
+
+#include "desk/script/Commands.hpp"
 
 namespace orvane::desk::script {
 
 namespace {
 
-Complaint reset(ScriptContext& context, Arguments& arguments) {
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  context.session.reset();
-  return std::nullopt;
+constexpr std::int64_t mostBitsPerSample = 1024;
+
+struct NewDisplay {
+  Display display;
+  bool isMain = false;
+};
+
+CGRect rectOf(const std::array<double, 4>& numbers) {
+  return CGRectMake(numbers[0], numbers[1], numbers[2], numbers[3]);
 }
 
-Complaint advance(ScriptContext& context, Arguments& arguments) {
-  RunLoop& runLoop = context.machine().runLoop;
-  const std::int64_t left = context.limits.clockNanoseconds - context.machine().clock.now();
-  const std::int64_t duration = arguments.nanoseconds("S", left);
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
+NewDisplay readDisplay(ScriptContext& /*context*/, Arguments& arguments) {
+  Display display;
+  display.frame = rectOf(arguments.rectangleOption("frame"));
+  display.uuid = arguments.option("uuid");
+  display.name = arguments.option("name").value_or("");
+  if (const auto bits = arguments.integerOption("bits", 0, mostBitsPerSample)) {
+    display.bitsPerSample = static_cast<int>(*bits);
   }
-  runLoop.advance(duration);
-  return std::nullopt;
+  if (std::optional<std::string> colorSpace = arguments.option("colorspace")) {
+    display.colorSpace = std::move(colorSpace);
+  }
+  display.isBuiltIn = arguments.flag("builtin");
+  display.hasNumberInDescription = !arguments.flag("nonumber");
+  const bool isMain = arguments.flag("main");
+  display.number = arguments.displayNumber("N");
+  if (display.uuid && display.uuid->empty()) {
+    arguments.report("uuid must not be empty");
+  }
+  return {std::move(display), isMain};
+}
+
+Parameter<CGRect> frame() {
+  const std::string name = "X,Y,W,H";
+  return {name, [name](ScriptContext&, Arguments& arguments) {
+            return rectOf(arguments.rectangle(name));
+          }};
+}
+
+/// Seconds, no more of them than the clock still runs.
+Parameter<std::int64_t> duration() {
+  return {"S", [](ScriptContext& context, Arguments& arguments) {
+            return arguments.nanoseconds(
+                "S", context.limits.clockNanoseconds - context.machine().clock.now());
+          }};
 }
 
 }  // namespace
 
 void addMachineCommands(CommandTable& table) {
-  table.add({"reset", "", reset});
-  table.add({"advance", "S", advance});
+  table.add("reset", takes(), [](ScriptContext& context) { context.session.reset(); });
+  table.add("advance", takes(duration()), [](Machine& machine, std::int64_t nanoseconds) {
+    machine.runLoop.advance(nanoseconds);
+  });
+  table.add("display attach",
+            takes(Parameter<NewDisplay>{
+                "N frame=X,Y,W,H [uuid=U] [name=\"...\"] [builtin] [main] [bits=B] "
+                "[colorspace=\"...\"] [nonumber]",
+                readDisplay}),
+            [](Machine& machine, NewDisplay added) {
+              return machine.displays.attach(std::move(added.display), added.isMain);
+            });
+  table.add("display detach", takes(displayNumber("N")),
+            [](Machine& machine, std::uint32_t number) { return machine.displays.detach(number); });
+  table.add("display frame", takes(displayNumber("N"), frame()),
+            [](Machine& machine, std::uint32_t number, const CGRect& rect) {
+              return machine.displays.setFrame(number, rect);
+            });
+  table.add("display renumber", takes(displayNumber("N"), displayNumber("M")),
+            [](Machine& machine, std::uint32_t number, std::uint32_t newNumber) {
+              return machine.displays.renumber(number, newNumber);
+            });
+  table.add("display main", takes(displayNumber("N")), [](Machine& machine, std::uint32_t number) {
+    return machine.displays.setMain(number);
+  });
+  table.add("display together", takes(),
+            [](Machine& machine) { return machine.displays.beginTogether(); });
+  table.add("display done", takes(),
+            [](Machine& machine) { return machine.displays.endTogether(); });
 }
 
 }  // namespace orvane::desk::script

@@ -1,143 +1,118 @@
 // The commands that move the pointer, hold keys and send events.
-#include "desk/script/PointerCommands.hpp"
-
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include <nlohmann/json.hpp>
 
 #include "Orvane/guard/OrvaneModifier.hpp"
-#include "desk/script/Decimal.hpp"
+#include "desk/script/Commands.hpp"
+#include "desk/script/InspectableTable.hpp"
 #include "desk/script/JsonText.hpp"
-#include "desk/script/Thing.hpp"
 
 namespace orvane::desk::script {
 
 namespace {
 
+using Bits = std::uint64_t;
+
+struct Push {
+  double dx = 0;
+  double dy = 0;
+  std::int64_t times = 1;
+  /// Nanoseconds.
+  std::int64_t interval = 0;
+};
+
 /// Reads all words that remain as keys and returns their bits.
-std::uint64_t readModifiers(Arguments& arguments) {
+Bits readModifiers(ScriptContext& /*context*/, Arguments& arguments) {
   constexpr std::array<OrvaneModifier, 4> keys = {OrvaneModifier::option, OrvaneModifier::control,
                                                   OrvaneModifier::shift, OrvaneModifier::command};
   constexpr std::array<std::string_view, 4> names = {"option", "control", "shift", "command"};
-  std::uint64_t flags = 0;
+  Bits flags = 0;
   while (!arguments.isEmpty()) {
-    flags |= static_cast<std::uint64_t>(keys[arguments.choice("KEY", names)].flagMask());
+    flags |= static_cast<Bits>(keys[arguments.choice("KEY", names)].flagMask());
   }
   return flags;
 }
 
-CGPoint readPoint(Arguments& arguments) {
-  const double x = arguments.coordinate("X");
-  const double y = arguments.coordinate("Y");
-  return CGPointMake(x, y);
+Parameter<Bits> modifiers() {
+  return {"[KEY...]", readModifiers};
 }
 
-Complaint move(ScriptContext& context, Arguments& arguments) {
-  const CGPoint goal = readPoint(arguments);
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  context.machine().mouse.moveTo(goal);
-  return std::nullopt;
+/// The same, at least one.
+Parameter<Bits> someModifiers() {
+  return {"KEY...", [](ScriptContext& context, Arguments& arguments) {
+            if (arguments.isEmpty()) {
+              arguments.report("KEY is missing");
+            }
+            return readModifiers(context, arguments);
+          }};
 }
 
-Complaint push(ScriptContext& context, Arguments& arguments) {
-  const double dx = arguments.coordinate("DX");
-  const double dy = arguments.coordinate("DY");
-  std::int64_t times = 1;
-  std::int64_t interval = 0;
+Parameter<std::int64_t> repetitions() {
+  return {"N", [](ScriptContext& context, Arguments& arguments) {
+            return arguments.integer("N", 0, context.limits.repetitions);
+          }};
+}
+
+Push readPush(ScriptContext& context, Arguments& arguments) {
+  Push push;
+  push.dx = arguments.coordinate("DX");
+  push.dy = arguments.coordinate("DY");
   if (arguments.keyword("times")) {
-    times = arguments.integer("N", 0, context.limits.repetitions);
+    push.times = arguments.integer("N", 0, context.limits.repetitions);
   }
   if (arguments.keyword("every")) {
     const std::int64_t left = context.limits.clockNanoseconds - context.machine().clock.now();
-    interval = arguments.nanoseconds("S", left);
-    if (times > 1 && interval > left / (times - 1)) {
-      arguments.complain("that would take longer than the clock runs");
+    push.interval = arguments.nanoseconds("S", left);
+    if (push.times > 1 && push.interval > left / (push.times - 1)) {
+      arguments.report("that would take longer than the clock runs");
     }
   }
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  for (std::int64_t count = 0; count < times; ++count) {
+  return push;
+}
+
+void carryOutPush(Machine& machine, const Push& push) {
+  for (std::int64_t count = 0; count < push.times; ++count) {
     if (count > 0) {
-      context.machine().runLoop.advance(interval);
+      machine.runLoop.advance(push.interval);
     }
-    context.machine().mouse.moveBy(dx, dy);
+    machine.mouse.moveBy(push.dx, push.dy);
   }
-  return std::nullopt;
 }
 
-Complaint setCursor(ScriptContext& context, Arguments& arguments) {
-  constexpr std::array<std::string_view, 2> choices = {"held", "free"};
-  const bool isFree = arguments.choice("held|free", choices) == 1;
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  context.machine().mouse.setCursor(isFree ? Mouse::Cursor::free : Mouse::Cursor::held);
-  return std::nullopt;
-}
-
-Complaint hold(ScriptContext& context, Arguments& arguments) {
-  if (arguments.isEmpty()) {
-    arguments.complain("KEY is missing");
-  }
-  const std::uint64_t flags = readModifiers(arguments);
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  context.machine().modifierKeys.hold(flags);
-  return std::nullopt;
-}
-
-Complaint releaseKeys(ScriptContext& context, Arguments& arguments) {
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
-  context.machine().modifierKeys.releaseAll();
-  return std::nullopt;
-}
-
-Complaint event(ScriptContext& context, Arguments& arguments) {
-  const CGPoint place = readPoint(arguments);
-  const std::uint64_t flags = readModifiers(arguments);
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
+void sendEvent(ScriptContext& context, CGPoint place, Bits flags) {
   const std::optional<CGPoint> result = context.machine().mouse.post(place, flags);
   Json printed = {{"x", nullptr}, {"y", nullptr}};
   if (result) {
     printed = {{"x", result->x}, {"y", result->y}};
   }
   context.output << jsonText(printed) << '\n';
-  return std::nullopt;
 }
 
-Complaint burst(ScriptContext& context, Arguments& arguments) {
-  const std::int64_t count = arguments.integer("N", 0, context.limits.repetitions);
-  const CGPoint place = readPoint(arguments);
-  const std::uint64_t flags = readModifiers(arguments);
-  if (Complaint complaint = arguments.finish()) {
-    return complaint;
-  }
+void sendBurst(Machine& machine, std::int64_t count, CGPoint place, Bits flags) {
   for (std::int64_t index = 0; index < count; ++index) {
-    context.machine().mouse.post(place, flags);
+    machine.mouse.post(place, flags);
   }
-  return std::nullopt;
 }
 
 }  // namespace
 
 void addPointerCommands(CommandTable& table) {
-  table.add({"move", "X Y", move});
-  table.add({"push", "DX DY [times N] [every S]", push});
-  table.add({"cursor", "held|free", setCursor});
-  table.add({"hold", "KEY...", hold});
-  table.add({"release", "", releaseKeys});
-  table.add({"event", "X Y [KEY...]", event});
-  table.add({"burst", "N X Y [KEY...]", burst});
+  table.add("move", takes(point()),
+            [](Machine& machine, CGPoint goal) { machine.mouse.moveTo(goal); });
+  table.add("push", takes(Parameter<Push>{"DX DY [times N] [every S]", readPush}), carryOutPush);
+  table.add("cursor", takes(either("held|free", "held", "free")),
+            [](Machine& machine, bool isFree) {
+              machine.mouse.setCursor(isFree ? Mouse::Cursor::free : Mouse::Cursor::held);
+            });
+  table.add("hold", takes(someModifiers()),
+            [](Machine& machine, Bits flags) { machine.modifierKeys.hold(flags); });
+  table.add("release", takes(), [](Machine& machine) { machine.modifierKeys.releaseAll(); });
+  table.add("event", takes(point(), modifiers()), sendEvent);
+  table.add("burst", takes(repetitions(), point(), modifiers()), sendBurst);
 }
 
 }  // namespace orvane::desk::script

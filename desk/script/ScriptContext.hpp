@@ -3,21 +3,44 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <ostream>
 #include <string>
 
-#include "desk/script/PictureWriter.hpp"
-#include "desk/script/ScriptLimits.hpp"
+#include "desk/machine/Clock.hpp"
+#include "desk/script/Problem.hpp"
 #include "desk/script/Session.hpp"
 
 namespace orvane::desk::script {
 
-class ThingTable;
+class InspectableTable;
+
+/// How much one command may ask for.
+struct ScriptLimits {
+  /// How often one command may repeat itself.
+  std::int64_t repetitions = 1'000'000'000;
+  /// How late it may become: about 95 years after the machine was switched on.
+  std::int64_t clockNanoseconds = 3'000'000'000 * Clock::nanosecondsPerSecond;
+  /// Whether a script may write files.
+  bool allowsFiles = true;
+};
+
+struct PictureRequest {
+  std::string file;
+  /// One window, menu or panel; the whole desktop when there is none.
+  std::optional<std::string> surface;
+  /// Pixels per point.
+  double scale = 1;
+};
+
+/// Draws what is to be seen on a machine into a PNG file. Says what was wrong: a surface that is
+/// not there, a file that cannot be written.
+using PictureWriter = std::function<Problem(const Session& session, const PictureRequest& request)>;
 
 struct ScriptContext {
   Session& session;
   /// What `show` knows to show.
-  const ThingTable& things;
+  const InspectableTable& inspectables;
   /// Where commands print.
   std::ostream& output;
   ScriptLimits limits;

@@ -79,7 +79,7 @@ ScriptProgram::Status ScriptProgram::run(std::istream& script, const std::string
     errors_ << name << ':' << lineNumber << ": " << text << std::endl;
   };
   ScriptContext context{.session = session,
-                        .things = settings_.things,
+                        .inspectables = settings_.inspectables,
                         .output = output_,
                         .limits = settings_.limits,
                         .pictureWriter = settings_.pictureWriter,
@@ -91,8 +91,8 @@ ScriptProgram::Status ScriptProgram::run(std::istream& script, const std::string
   std::string line;
   while (status != broken && std::getline(script, line)) {
     ++lineNumber;
-    if (const Complaint complaint = interpreter.run(cleaned(line, lineNumber))) {
-      report(*complaint);
+    if (const Problem problem = interpreter.run(cleaned(line, lineNumber))) {
+      report(*problem);
       status = broken;
     }
     output_.flush();

@@ -7,9 +7,8 @@
 #include <vector>
 
 #include "desk/script/CommandTable.hpp"
-#include "desk/script/PictureWriter.hpp"
-#include "desk/script/ScriptLimits.hpp"
-#include "desk/script/ThingTable.hpp"
+#include "desk/script/InspectableTable.hpp"
+#include "desk/script/ScriptContext.hpp"
 
 namespace orvane::desk::script {
 
@@ -27,7 +26,7 @@ class ScriptProgram {
 
   struct Settings {
     CommandTable commands = standardCommands();
-    ThingTable things = standardThings();
+    InspectableTable inspectables = standardInspectables();
     PictureWriter pictureWriter;
     ScriptLimits limits;
   };

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <ostream>
 #include <utility>
-#include <vector>
 
 #include "desk/canvas/PngFile.hpp"
 #include "desk/tour/TourPicture.hpp"
@@ -87,34 +86,27 @@ void TourStage::clickAt(CGPoint place) {
   constexpr double shortly = 0.1;
   walkTo(place);
   machine().advance(shortly);
-  machine().mouse.pressButton();
-  machine().runDue();
-  machine().mouse.releaseButton();
-  machine().runDue();
+  hand_.pressButton();
+  hand_.releaseButton();
 }
 
 void TourStage::click(const std::string& label, const std::string& surface) {
-  for (const SurfaceControl& control : Surfaces(WindowServer::current()).controls(surface)) {
-    if (control.node.label == label && control.node.isEnabled) {
-      clickAt({CGRectGetMidX(control.frame), CGRectGetMidY(control.frame)});
-      return;
-    }
+  const Hand::FoundControl found = hand_.find({label, surface});
+  check(found.control.has_value(), "there is a control \"" + label + "\" in " + surface);
+  if (found.control) {
+    const CGRect& frame = found.control->frame;
+    clickAt({CGRectGetMidX(frame), CGRectGetMidY(frame)});
   }
-  check(false, "there is a control \"" + label + "\" in " + surface);
 }
 
 void TourStage::pick(const std::string& label, const std::string& item,
                      const std::string& surface) {
   click(label, surface);
-  MenuTracker& menus = WindowServer::current().menus;
-  menus.layOut();
-  for (const MenuRow& row : menus.rows()) {
-    if (menus.menu()->items[row.itemIndex].title == item) {
-      clickAt({CGRectGetMidX(row.frame), CGRectGetMidY(row.frame)});
-      return;
-    }
+  const std::optional<CGPoint> place = hand_.menuItemPlace(item);
+  check(place.has_value(), "there is an item \"" + item + "\" of " + label);
+  if (place) {
+    clickAt(*place);
   }
-  check(false, "there is an item \"" + item + "\" of " + label);
 }
 
 void TourStage::clickIcon(std::uint32_t displayNumber) {
@@ -136,38 +128,14 @@ void TourStage::closeWindow(const std::string& surface) {
 }
 
 void TourStage::pressEscape() {
-  WindowServer::current().keyDown({ui::Key::escape, {}, {}});
-  machine().runDue();
-}
-
-std::optional<CGPoint> TourStage::iconPlace() {
-  const Surfaces surfaces(WindowServer::current());
-  const auto guide = surfaces.window("guide");
-  if (guide == nullptr || guide->content == nullptr) {
-    return std::nullopt;
-  }
-  const std::vector<SurfaceControl> controls = surfaces.controls("guide");
-  const CGPoint corner = WindowServer::current().topLeftOf(*guide);
-  constexpr double step = 4;
-  // It stands in the middle of the width, and is the one thing there that neither moves the window
-  // nor is pressed.
-  for (ui::Point place{guide->frame.size.width / 2, step}; place.y < guide->frame.size.height;
-       place.y += step) {
-    const bool isControl = std::ranges::any_of(controls, [&](const SurfaceControl& control) {
-      return control.node.frame.contains(place);
-    });
-    if (!isControl && !guide->content->host().movesWindowAt(place)) {
-      return CGPoint{corner.x + place.x, corner.y + place.y + step};
-    }
-  }
-  return std::nullopt;
+  hand_.key({ui::Key::escape, {}, {}});
 }
 
 void TourStage::dropIcon() {
   WindowServer& server = WindowServer::current();
   const auto system = Surfaces(server).window("system");
   const auto list = application_.systemSettings().listFrame();
-  const std::optional<CGPoint> icon = iconPlace();
+  const std::optional<CGPoint> icon = hand_.iconPlace();
   check(icon && list && system != nullptr, "guide and list are there");
   if (isOver()) {
     return;
@@ -176,11 +144,9 @@ void TourStage::dropIcon() {
   constexpr double intoTheList = 40;
   const CGPoint corner = server.originOf(*system->content).value_or(CGPoint{});
   walkTo(*icon);
-  machine().mouse.pressButton();
-  machine().runDue();
+  hand_.pressButton();
   walkTo({corner.x + list->x + intoTheList, corner.y + list->y + list->height / 2});
-  machine().mouse.releaseButton();
-  machine().runDue();
+  hand_.releaseButton();
 }
 
 void TourStage::moveAway(std::uint32_t displayNumber) {

@@ -11,6 +11,7 @@
 #include "desk/canvas/DrawingResources.hpp"
 #include "desk/desktop/DesktopPainter.hpp"
 #include "desk/desktop/DesktopScene.hpp"
+#include "desk/hand/Hand.hpp"
 #include "desk/machine/MachineScope.hpp"
 
 namespace orvane::desk {
@@ -23,7 +24,8 @@ class TourStage {
 
   [[nodiscard]] Machine& machine() { return scope_.machine(); }
   [[nodiscard]] ApplicationHost& application() { return application_; }
-  [[nodiscard]] OrvaneModel& model() { return application_.model(); }
+  /// The application as it is now.
+  [[nodiscard]] OrvaneSnapshot seen() const { return application_.snapshot(); }
 
   /// The hand moves the pointer to the place in small movements, which take half a second.
   void walkTo(CGPoint place);
@@ -67,8 +69,6 @@ class TourStage {
   void clickAt(CGPoint place);
   /// The part of an area that is on the screen in which its middle lies.
   [[nodiscard]] CGRect onItsScreen(const CGRect& area);
-  /// Where the guide's icon can be taken, in global coordinates; none without a guide.
-  [[nodiscard]] std::optional<CGPoint> iconPlace();
   void write(cairo_surface_t* picture, const std::string& fileName);
   void push(double dx, double dy);
   [[nodiscard]] bool isOver() const { return !isTrue_ || failedToWrite_; }
@@ -78,6 +78,7 @@ class TourStage {
   std::ostream& complaints_;
   MachineScope scope_;
   ApplicationHost application_;
+  Hand hand_{machine()};
   DrawingResources resources_;
   DesktopPainter painter_{resources_};
   std::optional<MovedBack> movedBack_;

@@ -29,7 +29,7 @@ std::int64_t reveals(TourStage& stage) {
 }
 
 std::size_t zoneCount(TourStage& stage) {
-  return stage.model().guardService().cachedTriggerZones().size();
+  return stage.seen().guard.zones.size();
 }
 
 void setAutoHide(TourStage& stage, bool hides) {
@@ -76,7 +76,7 @@ void tellOfTheMenu(TourStage& stage) {
   stage.moveAway(builtIn);
   stage.application().launch();
   machine.advance(1);
-  stage.check(stage.application().isRunning() && !stage.model().isGuardRunning(),
+  stage.check(stage.application().isRunning() && !stage.seen().guard.isRunning,
               "Orvane runs and guards nothing");
   stage.check(WindowServer::current().windows().empty(), "no window is open");
   stage.tell(
@@ -93,7 +93,7 @@ void tellOfThePermission(TourStage& stage) {
   stage.click("Pin Dock", Surfaces::menu);
   machine.advance(0.5);
   stage.check(Surfaces(WindowServer::current()).isThere("alert"), "the alert is open");
-  stage.check(!stage.model().isGuardRunning(), "nothing is guarded without the permission");
+  stage.check(!stage.seen().guard.isRunning, "nothing is guarded without the permission");
   stage.tell("Pin Dock: watching the pointer needs a permission, and Orvane says so first.");
 
   stage.click("Open Privacy Settings", "alert");
@@ -104,10 +104,10 @@ void tellOfThePermission(TourStage& stage) {
 
   stage.dropIcon();
   machine.advance(1.4);
-  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 1,
+  stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 1,
               "the guard runs with one zone");
   const Display* const target = machine.displays.find(builtIn);
-  stage.check(stage.model().selectedDisplayID().value() == target->uuid,
+  stage.check(stage.seen().selectedDisplayID == target->uuid,
               "the Dock's own display is the target");
   stage.check(WindowServer::current().statusBar.item()->image->name == "lock.fill" &&
                   Surfaces(WindowServer::current()).isThere("guide"),
@@ -126,7 +126,7 @@ void tellOfPinning(TourStage& stage) {
   stage.showZones();
   const std::int64_t jumps = reveals(stage);
   stage.pressLowerEdge(right, 60, 0.05);
-  const std::int64_t blocked = stage.model().guardService().blockedCount();
+  const std::int64_t blocked = stage.seen().guard.blockedCount;
   stage.check(blocked == 60, "all sixty touches were moved back");
   stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the Dock stayed");
   machine.advance(0.1);
@@ -142,10 +142,9 @@ void tellOfTheModifier(TourStage& stage) {
   machine.modifierKeys.hold(kCGEventFlagMaskAlternate);
   stage.pressLowerEdge(right, 3, 0.05);
   machine.advance(0.4);
-  stage.check(stage.model().isTemporarilyUnlocked().value() && stage.isDockOn(right),
+  stage.check(stage.seen().isTemporarilyUnlocked && stage.isDockOn(right),
               "the held key lets the Dock come");
-  stage.tell("While " +
-             std::string(stage.model().temporaryUnlockModifier().value().shortcutText()) +
+  stage.tell("While " + std::string(stage.seen().temporaryUnlockModifier.shortcutText()) +
              " is held the pointer passes: the Dock may come to " + stage.dockPlace() + ".");
 
   machine.modifierKeys.releaseAll();
@@ -155,7 +154,7 @@ void tellOfTheModifier(TourStage& stage) {
   stage.moveAway(right);
   const std::int64_t jumps = reveals(stage);
   stage.pressLowerEdge(right, 20, 0.05);
-  stage.check(!stage.model().isTemporarilyUnlocked().value(), "the guard is locked again");
+  stage.check(!stage.seen().isTemporarilyUnlocked, "the guard is locked again");
   stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the Dock stays at home");
   stage.tell("The key is released and the Dock taken home; from now on it stays on " +
              stage.dockPlace() + " again.");
@@ -176,8 +175,7 @@ void tellOfTheWindow(TourStage& stage) {
   stage.keep("settings-panel", "settings");
   stage.pick("Language", "Chinese", "settings");
   machine.advance(1);
-  stage.check(stage.model().appLanguage().value() == OrvaneLanguage::chinese,
-              "the language is Chinese");
+  stage.check(stage.seen().appLanguage == OrvaneLanguage::chinese, "the language is Chinese");
   stage.check(Surfaces(WindowServer::current()).isThere("settings"), "the settings are open");
   stage.tell("In the settings: the language, here Chinese at once, and the key that unlocks.");
 
@@ -196,7 +194,7 @@ void tellOfPreventing(TourStage& stage) {
   stage.pressLowerEdge(builtIn, 1, 0);
   machine.advance(0.14);
   const double shown = machine.dock.shownFraction();
-  stage.check(!stage.model().isGuardRunning() && shown > 0 && shown < 1, "the Dock slides in");
+  stage.check(!stage.seen().guard.isRunning && shown > 0 && shown < 1, "the Dock slides in");
   stage.tell("Unlocked again, and the Dock hides itself: one touch of the edge and it slides in.");
 
   stage.moveAway(builtIn);
@@ -204,17 +202,17 @@ void tellOfPreventing(TourStage& stage) {
   stage.click("Prevent Dock Pop-Up", Surfaces::menu);
   stage.pressEscape();
   machine.advance(1);
-  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 2, "two zones are guarded");
+  stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 2, "two zones are guarded");
   stage.check(!machine.dock.isVisible(), "the Dock is hidden");
   stage.tell("Prevent Dock Pop-Up: now every display has its trigger zone, " +
              counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") + " in all.");
 
   const std::int64_t jumps = reveals(stage);
-  const std::int64_t blocked = stage.model().guardService().blockedCount();
+  const std::int64_t blocked = stage.seen().guard.blockedCount;
   stage.pressLowerEdge(builtIn, 40, 0.05);
   stage.moveAway(builtIn);
   stage.pressLowerEdge(right, 40, 0.05);
-  const std::int64_t touches = stage.model().guardService().blockedCount() - blocked;
+  const std::int64_t touches = stage.seen().guard.blockedCount - blocked;
   stage.check(touches == 80, "all eighty touches were moved back");
   stage.check(reveals(stage) == jumps && !machine.dock.isVisible(), "the Dock never came up");
   stage.tell(std::to_string(touches) + " touches of both edges: the Dock comes up " +
@@ -225,10 +223,10 @@ void tellOfTheShutOff(TourStage& stage) {
   Machine& machine = stage.machine();
   stage.moveAway(right);
   machine.advance(3);
-  const std::int64_t blocked = stage.model().guardService().blockedCount();
+  const std::int64_t blocked = stage.seen().guard.blockedCount;
   stage.pressLowerEdge(right, 180, 0.01);
-  const std::int64_t touches = stage.model().guardService().blockedCount() - blocked;
-  stage.check(touches == 180 && !stage.model().isGuardRunning() && zoneCount(stage) == 0,
+  const std::int64_t touches = stage.seen().guard.blockedCount - blocked;
+  stage.check(touches == 180 && !stage.seen().guard.isRunning && zoneCount(stage) == 0,
               "the guard has switched itself off");
   stage.tell("Something presses " + counted(touches, "time") +
              " within two seconds: Orvane never fights for the mouse, it switches itself off.");
@@ -242,7 +240,7 @@ void tellOfPlugging(TourStage& stage) {
   attachNextStandardDisplay(machine);
   machine.runDue();
   stage.check(machine.displays.count() == 3, "there are three displays");
-  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 3, "three zones are guarded");
+  stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 3, "three zones are guarded");
   stage.tell("Evening. A third display is plugged in, and with it the guard is back: " +
              counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") + ".");
 
@@ -253,7 +251,7 @@ void tellOfPlugging(TourStage& stage) {
   stage.click(stage.nameOf(left), "main");
   stage.click("Pin Dock", "main");
   machine.advance(1);
-  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 2, "the Dock is pinned");
+  stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 2, "the Dock is pinned");
   stage.tell("A click on its card and one on Pin Dock: the Dock belongs to " + stage.nameOf(left) +
              " now.");
 
@@ -279,15 +277,15 @@ void tellOfUnplugging(TourStage& stage) {
   const std::int64_t jumps = reveals(stage);
   stage.check(!machine.displays.detach(left), "the display can be unplugged");
   machine.advance(0.5);
-  stage.check(!stage.model().isGuardRunning() && zoneCount(stage) == 0, "the guard pauses");
-  stage.check(stage.model().status() == OrvaneStatus::targetMissing, "the target is missing");
+  stage.check(!stage.seen().guard.isRunning && zoneCount(stage) == 0, "the guard pauses");
+  stage.check(stage.seen().status == OrvaneStatus::targetMissing, "the target is missing");
   stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the system moved the Dock");
   stage.tell(target + " is unplugged. The system moves the Dock to " + stage.dockPlace() +
              "; Orvane pauses and remembers.");
 
   attachNextStandardDisplay(machine);
   machine.advance(0.5);
-  stage.check(stage.model().isGuardRunning() && zoneCount(stage) == 2, "the guard is back");
+  stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 2, "the guard is back");
   stage.moveAway(left);
   stage.pressLowerEdge(left, 3, 0.05);
   machine.advance(0.4);
@@ -306,7 +304,7 @@ void tellOfUnplugging(TourStage& stage) {
   stage.application().launch();
   machine.advance(1);
   stage.pressLowerEdge(right, 40, 0.05);
-  stage.check(stage.model().isGuardRunning(), "the lock is restored");
+  stage.check(stage.seen().guard.isRunning, "the lock is restored");
   stage.check(stage.isDockOn(left) && reveals(stage) == jumpsSince, "the Dock stayed");
   stage.tell(
       "Orvane is quit and launched again: the lock is restored, and the Dock is where it "

@@ -44,22 +44,6 @@ void DeskSession::movePointerBy(double dx, double dy) {
   }
 }
 
-void DeskSession::pressButton() {
-  machine().mouse.pressButton();
-  machine().runDue();
-}
-
-void DeskSession::releaseButton() {
-  machine().mouse.releaseButton();
-  machine().runDue();
-}
-
-bool DeskSession::keyDown(const ui::KeyEvent& event) {
-  const bool isTaken = WindowServer::current().keyDown(event);
-  machine().runDue();
-  return isTaken;
-}
-
 void DeskSession::advance(std::int64_t nanoseconds) {
   machine().runLoop.advance(nanoseconds);
 }

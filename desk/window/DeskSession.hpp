@@ -6,9 +6,9 @@
 #include <cstdint>
 #include <optional>
 
-#include "Orvane/ui/KeyboardShortcut.hpp"
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/desktop/DesktopScene.hpp"
+#include "desk/hand/Hand.hpp"
 #include "desk/hardware/HardwareContent.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/window/EventRate.hpp"
@@ -31,12 +31,8 @@ class DeskSession {
 
   /// The hand moves the mouse by so many points.
   void movePointerBy(double dx, double dy);
-  /// The mouse button goes down or up where the pointer is.
-  void pressButton();
-  void releaseButton();
-  /// A key is pressed for whatever has the keyboard on the desk. Returns whether anybody did
-  /// anything with it.
-  bool keyDown(const ui::KeyEvent& event);
+  /// The hand with the mouse button and the keys.
+  [[nodiscard]] Hand hand() { return Hand(machine()); }
   /// Lets the machine's time pass.
   void advance(std::int64_t nanoseconds);
 

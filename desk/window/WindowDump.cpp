@@ -40,17 +40,17 @@ Json applicationOf(const DeskSession& session) {
   if (!session.application().isRunning()) {
     return {{"running", false}};
   }
-  const OrvaneModel& model = session.application().model();
+  const OrvaneSnapshot now = session.application().snapshot();
   WindowServer* const server = WindowServer::of(session.machine());
-  return {{"running", true},
-          {"windows", server == nullptr ? Json::array() : Json(Surfaces(*server).names())},
-          {"guardRunning", model.isGuardRunning()},
-          {"zones", model.guardService().cachedTriggerZones().size()},
-          {"blockedCount", model.guardService().blockedCount()},
-          {"isTemporarilyUnlocked", model.isTemporarilyUnlocked().value()},
-          {"hidesDockOnAllDisplays", model.hidesDockOnAllDisplays().value()},
-          {"selectedDisplay",
-           model.selectedDisplay() ? Json(model.selectedDisplay()->name) : Json(nullptr)}};
+  return {
+      {"running", true},
+      {"windows", server == nullptr ? Json::array() : Json(Surfaces(*server).names())},
+      {"guardRunning", now.guard.isRunning},
+      {"zones", now.guard.zones.size()},
+      {"blockedCount", now.guard.blockedCount},
+      {"isTemporarilyUnlocked", now.isTemporarilyUnlocked},
+      {"hidesDockOnAllDisplays", now.hidesDockOnAllDisplays},
+      {"selectedDisplay", now.selectedDisplay ? Json(now.selectedDisplay->name) : Json(nullptr)}};
 }
 
 }  // namespace

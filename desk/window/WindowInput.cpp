@@ -96,7 +96,7 @@ void WindowInput::mousePressed(const SDL_MouseButtonEvent& event) {
     return;
   }
   window_.holdMouse(true);
-  session_.pressButton();
+  session_.hand().pressButton();
 }
 
 void WindowInput::mouseReleased(const SDL_MouseButtonEvent& event) {
@@ -104,7 +104,7 @@ void WindowInput::mouseReleased(const SDL_MouseButtonEvent& event) {
     panel_.pointerUp(panelPoint(event.x, event.y));
     return;
   }
-  session_.releaseButton();
+  session_.hand().releaseButton();
 }
 
 void WindowInput::wheelTurned(const SDL_MouseWheelEvent& event) {
@@ -128,7 +128,7 @@ void WindowInput::keyPressed(const SDL_KeyboardEvent& event) {
     panel_.keyDown(*key);
     return;
   }
-  if (!session_.keyDown(*key) && key->key == ui::Key::escape) {
+  if (!session_.hand().key(*key) && key->key == ui::Key::escape) {
     window_.holdMouse(false);
   }
 }

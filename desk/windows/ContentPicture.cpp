@@ -7,7 +7,8 @@
 
 namespace orvane::desk {
 
-cairo_surface_t* ContentPicture::of(ui::ViewHost& host, double scale, DrawingResources& resources) {
+const DeepSurface* ContentPicture::of(ui::ViewHost& host, double scale,
+                                      DrawingResources& resources) {
   const ui::Size size = host.size();
   const int width = static_cast<int>(std::ceil(size.width * scale));
   const int height = static_cast<int>(std::ceil(size.height * scale));
@@ -15,18 +16,18 @@ cairo_surface_t* ContentPicture::of(ui::ViewHost& host, double scale, DrawingRes
     return nullptr;
   }
   const std::vector<ui::Rect> dirty = host.takeDirtyRects();
-  if (surface_ == nullptr || scale != scale_ || !(size == size_)) {
-    surface_.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  if (!surface_ || scale != scale_ || !(size == size_)) {
+    surface_.emplace(width, height);
     size_ = size;
     scale_ = scale;
     draw(host, {0, 0, size.width, size.height}, resources);
-    return surface_.get();
+    return &*surface_;
   }
   const ui::Rect bounds{0, 0, size.width, size.height};
   for (const ui::Rect& area : dirty) {
     draw(host, area.intersection(bounds), resources);
   }
-  return surface_.get();
+  return &*surface_;
 }
 
 void ContentPicture::draw(const ui::ViewHost& host, const ui::Rect& area,
@@ -39,11 +40,9 @@ void ContentPicture::draw(const ui::ViewHost& host, const ui::Rect& area,
   const double top = std::floor(area.y * scale_);
   const double right = std::ceil(area.right() * scale_);
   const double bottom = std::ceil(area.bottom() * scale_);
-  const ContextPointer clearing(cairo_create(surface_.get()));
-  cairo_set_operator(clearing.get(), CAIRO_OPERATOR_CLEAR);
-  cairo_rectangle(clearing.get(), left, top, right - left, bottom - top);
-  cairo_fill(clearing.get());
-  CairoCanvas canvas(surface_.get(), scale_, resources);
+  surface_->clear({static_cast<int>(left), static_cast<int>(top), static_cast<int>(right),
+                   static_cast<int>(bottom)});
+  CairoCanvas canvas(*surface_, scale_, resources);
   host.paint(canvas,
              ui::Rect::between(left / scale_, top / scale_, right / scale_, bottom / scale_));
 }

@@ -1,11 +1,11 @@
 // ContentPicture keeps what a view has drawn, and draws again only what has changed since.
 #pragma once
 
-#include <cairo.h>
+#include <optional>
 
 #include "Orvane/ui/Size.hpp"
 #include "Orvane/ui/ViewHost.hpp"
-#include "desk/canvas/CairoPointers.hpp"
+#include "desk/canvas/DeepSurface.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 
 namespace orvane::desk {
@@ -14,7 +14,7 @@ class ContentPicture {
  public:
   /// The drawing of an up-to-date host at `scale` pixels per point, on nothing; null when the host
   /// has no size. Another scale or size than before draws everything anew.
-  cairo_surface_t* of(ui::ViewHost& host, double scale, DrawingResources& resources);
+  const DeepSurface* of(ui::ViewHost& host, double scale, DrawingResources& resources);
 
   /// How many areas were drawn so far.
   [[nodiscard]] long long drawnAreas() const { return drawnAreas_; }
@@ -22,7 +22,7 @@ class ContentPicture {
  private:
   void draw(const ui::ViewHost& host, const ui::Rect& area, DrawingResources& resources);
 
-  SurfacePointer surface_;
+  std::optional<DeepSurface> surface_;
   ui::Size size_;
   double scale_ = 0;
   long long drawnAreas_ = 0;

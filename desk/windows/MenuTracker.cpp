@@ -102,6 +102,7 @@ void MenuTracker::close() {
   if (closed == nullptr) {
     return;
   }
+  server_.tooltips.hide();
   server_.machine().runLoop.leaveMode();
   const std::vector<MenuRow> rows = std::exchange(rows_, {});
   for (const MenuRow& row : rows) {

@@ -1,4 +1,4 @@
-// Announcements by NSAccessibility.
+// Announcements with NSAccessibility.
 #include "Orvane/platform/appkit/Accessibility.hpp"
 
 #import <AppKit/AppKit.h>

@@ -1,4 +1,4 @@
-// Activities by NSProcessInfo.
+// Activities with NSProcessInfo.
 #include "Orvane/platform/appkit/Activity.hpp"
 
 #import <Foundation/Foundation.h>

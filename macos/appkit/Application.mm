@@ -1,4 +1,4 @@
-// The application object on NSApplication.
+// The application object with NSApplication.
 #include "Orvane/platform/appkit/Application.hpp"
 
 #import <AppKit/AppKit.h>
@@ -35,7 +35,7 @@
   }
 }
 
-// Nothing of a window is saved, and what is not saved cannot be tampered with.
+// No window state is saved, so none can be tampered with.
 - (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)application {
   return YES;
 }
@@ -68,7 +68,7 @@ void Application::setActivationPolicy(ActivationPolicy policy) {
 }
 
 void Application::activateIgnoringOtherApps() {
-  // After Command with H only a granted activation would bring the windows back.
+  // After Command-H the windows would otherwise come back only if the activation is granted.
   [NSApplication.sharedApplication unhideWithoutActivation];
   if (@available(macOS 14, *)) {
     [NSApplication.sharedApplication activate];
@@ -101,9 +101,9 @@ namespace {
 
 void runModalNow(NSWindow* native, const std::function<void(int response)>& ended) {
   keepWhileShown(native);
-  // A panel would be hidden with the application's deactivation, and nobody could end the session.
+  // Deactivating the application would hide a panel, and the user could not end the session.
   native.hidesOnDeactivate = NO;
-  // Otherwise an alert that waits for its answer would keep its user from logging out.
+  // Otherwise an open alert would keep the user from logging out.
   native.preventsApplicationTerminationWhenModal = NO;
   const NSModalResponse response = [NSApplication.sharedApplication runModalForWindow:native];
   ended(static_cast<int>(response));
@@ -117,9 +117,9 @@ void Application::runModal(const Window& window, std::function<void(int response
     runModalNow(native, ended);
     return;
   }
-  // A session inside the loop of an open menu would leave the menu standing, frozen, over it. The
-  // loop ends when this task has returned; then the session begins in a task of the main queue, as
-  // it would have here. The window's handle is kept until then.
+  // A session inside the tracking loop of an open menu would leave the menu frozen above it. So
+  // cancel tracking, which ends when this task has returned, and then begin the session in a task
+  // of the main queue, as it would have begun here. The window's handle is kept until then.
   [openMenu() cancelTrackingWithoutAnimation];
   whenNoMenuIsTracked([window, ended = std::move(ended)] {
     MainQueue::async([window, ended] { runModalNow(window.implementation()->window, ended); });
@@ -132,7 +132,8 @@ void Application::stopModal(int response) {
     return;
   }
   [application stopModalWithCode:response];
-  // The session looks at this when it has had an event, which a timer or a task is not.
+  // The session checks this only after an event, so one is posted: a timer or a task does not
+  // count.
   NSEvent* const nudge = [NSEvent otherEventWithType:NSEventTypeApplicationDefined
                                             location:NSZeroPoint
                                        modifierFlags:0

@@ -1,4 +1,4 @@
-// The application's bundle by NSBundle.
+// The application's bundle with NSBundle.
 #include "Orvane/platform/appkit/Bundle.hpp"
 
 #import <AppKit/AppKit.h>
@@ -9,7 +9,7 @@ namespace orvane::appkit {
 
 std::optional<std::string> Bundle::url() {
   NSBundle* const bundle = NSBundle.mainBundle;
-  // Without a bundle around it, an executable's folder passes for one, but has no identifier.
+  // For an executable without a bundle, its folder counts as the bundle, but has no identifier.
   return bundle.bundleIdentifier == nil
              ? std::nullopt
              : std::optional(utf8String(bundle.bundleURL.absoluteString));

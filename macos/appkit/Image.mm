@@ -1,4 +1,4 @@
-// Pictures for the window system's own controls by NSImage.
+// Images for the window system's own controls with NSImage.
 #include "Orvane/platform/appkit/Image.hpp"
 
 #include <algorithm>
@@ -44,7 +44,7 @@ void Image::setTemplate(bool isTemplate) {
 }
 
 void Image::setSize(CGSize size) {
-  // A symbol that is given a size is stretched to it, and few symbols are square.
+  // Setting a symbol's size would stretch it, and few symbols are square.
   NSImage* const symbol = implementation_->image;
   const NSSize own = symbol.size;
   const CGFloat scale = std::min({1.0, size.width / own.width, size.height / own.height});

@@ -1,12 +1,12 @@
-// The application's own keys, for the views that the keys come to: without a main menu nobody else
-// looks for them.
+// The application's key equivalents, for the views that receive keys: without a main menu, nothing
+// else dispatches them.
 #pragma once
 
 #include "Orvane/ui/KeyboardShortcut.hpp"
 
 namespace orvane::appkit {
 
-/// Asks the application's delegate. Whether the key meant something to it.
+/// Passes the key to the application's delegate. Returns whether it was handled.
 bool performKeyEquivalent(const ui::KeyEvent& event);
 
 }  // namespace orvane::appkit

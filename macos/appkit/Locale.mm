@@ -1,4 +1,4 @@
-// The user's languages and region by NSLocale.
+// The user's languages and region with NSLocale.
 #include "Orvane/platform/appkit/Locale.hpp"
 
 #import <Foundation/Foundation.h>

@@ -1,4 +1,4 @@
-// The application's login item by SMAppService.
+// The application's login item with SMAppService.
 #include "Orvane/platform/appkit/LoginItem.hpp"
 
 #import <Foundation/Foundation.h>

@@ -1,4 +1,4 @@
-// Menus by NSMenu and NSMenuItem.
+// Menus with NSMenu and NSMenuItem.
 #include "Orvane/platform/appkit/Menu.hpp"
 
 #include <utility>
@@ -26,16 +26,16 @@ NSArray<NSRunLoopMode>* modesWithoutMenu() {
   return @[ NSDefaultRunLoopMode, NSModalPanelRunLoopMode ];
 }
 
-/// Under the pointer a row looks as it wants to.
+/// Under the pointer, a row draws its own hover state.
 bool isUnderPointer(NSView* view) {
   const NSRect frame = [view.window convertRectToScreen:[view convertRect:view.bounds toView:nil]];
   return NSPointInRect(NSEvent.mouseLocation, frame);
 }
 
-/// A choice by the keyboard or by VoiceOver always closes the menu, so it has to open again; not
-/// over an alert that the choice has brought up.
+/// A choice by keyboard or VoiceOver always closes the menu, so it is opened again, but not over an
+/// alert that the choice has opened.
 void openAgain(NSStatusBarButton* button) {
-  // The alert waits on the main queue, which has its turn within this time.
+  // Gives the main queue time to show such an alert first.
   constexpr double delaySeconds = 0.05;
   __weak NSStatusBarButton* const weakButton = button;
   orvane::appkit::runSoon(
@@ -53,7 +53,7 @@ void openAgain(NSStatusBarButton* button) {
 @implementation OrvaneMenuItem
 
 - (void)choose:(id)sender {
-  // The action may take this item out of its menu.
+  // The action may remove this item from its menu.
   const std::function<void()> chosen = _chosen;
   OrvaneMenuDelegate* const delegate = static_cast<OrvaneMenuDelegate*>(self.menu.delegate);
   NSStatusBarButton* const button = _keepsMenuOpen && delegate != nil ? delegate->_button : nil;
@@ -69,7 +69,7 @@ void openAgain(NSStatusBarButton* button) {
 
 @implementation OrvaneMenuDelegate
 
-// The items may be replaced here; when the menu is about to open, that would be too late.
+// The items may be replaced here; menuWillOpen: would be too late for that.
 - (void)menuNeedsUpdate:(NSMenu*)menu {
   if (_willOpen) {
     _willOpen();
@@ -85,7 +85,7 @@ void openAgain(NSStatusBarButton* button) {
   [self menu:menu willHighlightItem:nil];
 }
 
-// A row with a view of its own shows nothing of what the keyboard has come to, unless it is told.
+// AppKit does not draw the highlight of an item with a view, so its container does.
 - (void)menu:(NSMenu*)menu willHighlightItem:(NSMenuItem*)highlighted {
   for (NSMenuItem* item in menu.itemArray) {
     if ([item.view isKindOfClass:OrvaneHostingContainer.class]) {
@@ -129,7 +129,7 @@ void fill(OrvaneMenuItem* native, MenuItem item) {
 Menu::Menu()
     : implementation_(std::make_shared<Implementation>(
           Implementation{[[NSMenu alloc] init], [[OrvaneMenuDelegate alloc] init]})) {
-  // Otherwise the menu itself would decide which items are enabled.
+  // Otherwise the menu would decide which items are enabled.
   implementation_->menu.autoenablesItems = NO;
   implementation_->menu.delegate = implementation_->delegate;
 }

@@ -7,12 +7,12 @@
 
 #include "Orvane/platform/appkit/Menu.hpp"
 
-/// Hears that the menu is about to be shown, and notes that it is open. A menu holds its delegate
-/// weakly, so the menu's implementation holds it.
+/// Runs the callback when the menu is about to open, and tracks whether it is open. A menu holds
+/// its delegate weakly, so the menu's implementation owns it.
 @interface OrvaneMenuDelegate : NSObject <NSMenuDelegate> {
  @public
   std::function<void()> _willOpen;
-  /// That of the status item which shows the menu; nil without one.
+  /// The button of the status item that shows the menu; nil without one.
   __weak NSStatusBarButton* _button;
 }
 @end
@@ -24,7 +24,7 @@ struct Menu::Implementation {
   OrvaneMenuDelegate* _Nonnull delegate;
 };
 
-/// The Menu that is being tracked now; nil when none is.
+/// The menu that is being tracked; nil when none is.
 [[nodiscard]] NSMenu* _Nullable openMenu();
 
 /// Runs `task` from the run loop once no menu is tracked: in the default mode or in a modal

@@ -7,9 +7,9 @@
 
 namespace orvane::appkit {
 
-/// The view keeps alive all that it needs.
+/// The view owns everything it needs.
 [[nodiscard]] NSView* _Nonnull nativeView(const HostingView& view);
-/// The view in it that takes keys.
+/// The subview that receives keys.
 [[nodiscard]] NSView* _Nonnull keyView(const HostingView& view);
 
 }  // namespace orvane::appkit

@@ -1,4 +1,4 @@
-// The NSWindow and the NSPanel behind a Window, and what the window system does not keep for them.
+// The NSWindow or NSPanel behind a Window, and its state that the window system does not store.
 #pragma once
 
 #include <functional>
@@ -19,7 +19,7 @@ struct Window::Implementation {
 };
 
 struct NativeWindowState {
-  /// Empty: as the window system decides.
+  /// Empty for the window system's default.
   std::optional<bool> canBecomeKeyWindow;
   std::optional<bool> canBecomeMainWindow;
   std::optional<HostingView> content;
@@ -30,8 +30,8 @@ struct NativeWindowState {
 
 }  // namespace orvane::appkit
 
-/// A window of the application's own. It belongs to its handles, to a parent window, and to the
-/// screen while it is shown there.
+/// A window of the application. It is owned by its handles, by a parent window, and by the screen
+/// while it is shown.
 @protocol OrvaneNativeWindow <NSObject>
 - (orvane::appkit::NativeWindowState&)state;
 @end
@@ -44,10 +44,10 @@ struct NativeWindowState {
 
 namespace orvane::appkit {
 
-/// A handle of the window; none for nil and for a window that is not the application's own.
+/// A handle to the window; none for nil and for a window that the application did not create.
 [[nodiscard]] std::optional<Window> windowFrom(NSWindow* _Nullable window);
 
-/// Holds the window while it is on the screen or miniaturised.
+/// Retains the window until it closes.
 void keepWhileShown(NSWindow* _Nonnull window);
 
 }  // namespace orvane::appkit

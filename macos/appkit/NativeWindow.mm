@@ -1,4 +1,4 @@
-// The NSWindow and the NSPanel behind a Window, and what the window system does not keep for them.
+// The NSWindow or NSPanel behind a Window, and its state that the window system does not store.
 #include "macos/appkit/NativeWindow.hpp"
 
 #include <utility>
@@ -12,7 +12,7 @@ NSMutableSet<NSWindow*>* shownWindows() {
 }
 
 void windowIsClosing(NSWindow<OrvaneNativeWindow>* window) {
-  // Closing goes on after this with a window that nobody may hold any more.
+  // Closing continues after this, when nothing else may retain the window.
   dispatch_async(dispatch_get_main_queue(), ^{
     (void)window;
   });

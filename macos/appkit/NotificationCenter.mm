@@ -1,4 +1,4 @@
-// Notifications by NSNotificationCenter on the main operation queue, and distributed ones, which
+// Notifications with NSNotificationCenter on the main operation queue, and distributed ones, which
 // AppKit delivers on the main thread.
 #include "Orvane/platform/appkit/NotificationCenter.hpp"
 
@@ -17,7 +17,7 @@
 @implementation OrvaneDistributedObserver
 
 - (void)receive:(NSNotification*)notification {
-  // The block may end its own registration.
+  // The block may remove its own registration.
   const std::function<void()> running = _block;
   @autoreleasepool {
     running();
@@ -54,8 +54,7 @@ ObserverToken observeDistributed(NSNotificationName name, std::function<void()> 
   OrvaneDistributedObserver* const observer = [[OrvaneDistributedObserver alloc] init];
   observer->_block = std::move(block);
   NSDistributedNotificationCenter* const center = NSDistributedNotificationCenter.defaultCenter;
-  // At once: otherwise AppKit holds distributed notifications back while another application is
-  // active.
+  // Otherwise AppKit would hold back distributed notifications while another application is active.
   [center addObserver:observer
                 selector:@selector(receive:)
                     name:name

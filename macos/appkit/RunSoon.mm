@@ -1,5 +1,5 @@
-// A timer, because the run loop sleeps over a block of its own until something else wakes it, and
-// the main queue waits for the end of a modal session that one of its tasks has begun.
+// Uses a timer: a block performed by the run loop does not wake it, and the main queue is suspended
+// during a modal session that one of its tasks has begun.
 #include "macos/appkit/RunSoon.hpp"
 
 namespace orvane::appkit {

@@ -1,4 +1,4 @@
-// The attached displays by NSScreen.
+// The attached displays with NSScreen.
 #include "Orvane/platform/appkit/Screen.hpp"
 
 #import <AppKit/AppKit.h>
@@ -10,7 +10,7 @@
 
 namespace orvane::appkit {
 
-// The values are read at once: an NSScreen may follow its display through a change.
+// The values are copied, because an NSScreen may follow its display through a change.
 struct Screen::Implementation {
   explicit Implementation(NSScreen* screen)
       : frame(screen.frame),

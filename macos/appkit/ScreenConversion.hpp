@@ -1,4 +1,4 @@
-// From the window system's screens to the seam's.
+// Conversion from NSScreen to Screen.
 #pragma once
 
 #include <optional>

@@ -1,5 +1,5 @@
-// Service Management's login items. An SDK without the framework's headers gets the little that is
-// used of it declared here.
+// Service Management's login items. For an SDK without the framework's headers, this header
+// declares the parts in use.
 #pragma once
 
 #import <Foundation/Foundation.h>

@@ -1,4 +1,4 @@
-// Items of the status bar by NSStatusItem.
+// Items of the status bar with NSStatusItem.
 #include "Orvane/platform/appkit/StatusItem.hpp"
 
 #import <AppKit/AppKit.h>
@@ -10,9 +10,9 @@
 namespace orvane::appkit {
 namespace {
 
-/// Whether the application is quitting. Taking an item out of the bar, as its end does, makes the
-/// system forget where its user had put it; with the process it goes by itself, and its place is
-/// kept.
+/// Whether the application is quitting. Removing an item, as its destruction does, makes the system
+/// forget the position that the user chose; when the process ends, the item disappears by itself
+/// and its position is kept.
 bool& isQuitting() {
   static bool quitting = false;
   return quitting;
@@ -42,7 +42,7 @@ struct StatusItem::Implementation {
   Implementation& operator=(const Implementation&) = delete;
   ~Implementation() {
     if (isQuitting()) {
-      // A reference for good.
+      // Leaked on purpose, so that the item is not removed.
       (void)(__bridge_retained void*)item;
     } else {
       [NSStatusBar.systemStatusBar removeStatusItem:item];
@@ -50,7 +50,7 @@ struct StatusItem::Implementation {
   }
 
   NSStatusItem* item;
-  // The item holds the menu, but nobody else the menu's delegate.
+  // The item retains the menu, but not the menu's delegate.
   std::shared_ptr<Menu::Implementation> menu;
 };
 

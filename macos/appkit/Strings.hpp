@@ -1,4 +1,4 @@
-// Text between the application's UTF-8 and Foundation's strings.
+// Conversion between UTF-8 and Foundation's strings.
 #pragma once
 
 #include <string>

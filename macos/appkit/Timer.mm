@@ -1,4 +1,4 @@
-// Repeating timers by NSTimer on the main run loop.
+// Repeating timers with NSTimer on the main run loop.
 #include "Orvane/platform/appkit/Timer.hpp"
 
 #import <Foundation/Foundation.h>
@@ -12,7 +12,7 @@ struct Timer::Implementation {
   explicit Implementation(NSTimer* started) : timer(started) {}
   Implementation(const Implementation&) = delete;
   Implementation& operator=(const Implementation&) = delete;
-  // The run loop keeps the timer, and the timer its block, until it is invalidated.
+  // Until it is invalidated, the run loop retains the timer, and the timer its block.
   ~Implementation() { [timer invalidate]; }
 
   NSTimer* timer;
@@ -25,14 +25,14 @@ NSHashTable<NSTimer*>* liveTimers() {
   return timers;
 }
 
-/// The next beat of a live timer of this interval, also of one that is late; without one, an
+/// The next fire date of a live timer with this interval, even of an overdue one; without one, an
 /// interval from now.
 NSDate* firstFireDate(NSTimeInterval interval) {
   for (NSTimer* timer in liveTimers()) {
     if (timer.valid && timer.timeInterval == interval) {
       const NSTimeInterval late = -timer.fireDate.timeIntervalSinceNow;
-      const double missedBeats = late < 0 ? 0 : std::floor(late / interval) + 1;
-      return [timer.fireDate dateByAddingTimeInterval:missedBeats * interval];
+      const double missedTicks = late < 0 ? 0 : std::floor(late / interval) + 1;
+      return [timer.fireDate dateByAddingTimeInterval:missedTicks * interval];
     }
   }
   return [NSDate dateWithTimeIntervalSinceNow:interval];
@@ -45,16 +45,16 @@ Timer Timer::repeating(double intervalSeconds, RunLoopMode mode, std::function<v
                                                   interval:intervalSeconds
                                                    repeats:YES
                                                      block:^(NSTimer*) {
-                                                       // A tick may end its own timer. At rest
-                                                       // no event comes to empty a pool.
+                                                       // A tick may end its own timer. While idle,
+                                                       // no event drains a pool.
                                                        const std::function<void()> running = tick;
                                                        @autoreleasepool {
                                                          running();
                                                        }
                                                      }];
   [liveTimers() addObject:timer];
-  // What the header advises for repeating timers: the Mac may wake up for several at once. Later
-  // ticks keep to the original grid.
+  // The header's advice for repeating timers, so that the Mac may coalesce wake-ups. Later ticks
+  // keep to the original grid.
   timer.tolerance = intervalSeconds * 0.1;
   [NSRunLoop.mainRunLoop
       addTimer:timer

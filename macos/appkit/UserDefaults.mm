@@ -1,4 +1,4 @@
-// The standard user defaults on NSUserDefaults.
+// The standard user defaults with NSUserDefaults.
 #include "Orvane/platform/appkit/UserDefaults.hpp"
 
 #import <Foundation/Foundation.h>
@@ -29,7 +29,7 @@ std::optional<std::string> UserDefaults::string(std::string_view key) {
 
 std::optional<bool> UserDefaults::boolean(std::string_view key) {
   const id value = valueOf(key);
-  // Numbers are NSNumber too; only the two booleans are of the boolean type.
+  // Numbers are NSNumbers, too; only booleans have the boolean type ID.
   const bool isBoolean =
       value != nil && CFGetTypeID((__bridge CFTypeRef)value) == CFBooleanGetTypeID();
   return isBoolean ? std::optional(static_cast<bool>([value boolValue])) : std::nullopt;

@@ -1,4 +1,4 @@
-// Windows and panels by NSWindow and NSPanel.
+// Windows and panels with NSWindow and NSPanel.
 #include "Orvane/platform/appkit/Window.hpp"
 
 #include <utility>
@@ -20,7 +20,7 @@ NativeWindowState& stateOf(const Window& window) {
   return static_cast<NSWindow<OrvaneNativeWindow>*>(native).state;
 }
 
-/// Nil for a window that is no panel.
+/// Nil for a window that is not a panel.
 NSPanel* panelOf(const Window& window) {
   NSWindow* const native = window.implementation()->window;
   return [native isKindOfClass:NSPanel.class] ? static_cast<NSPanel*>(native) : nil;
@@ -84,7 +84,7 @@ void Window::setMovableByWindowBackground(bool isMovable) {
 }
 
 void Window::setReleasedWhenClosed(bool /*isReleased*/) {
-  // Ownership is the handles' on this platform, whatever is asked for.
+  // Handles own the window on this platform, whatever the argument.
 }
 
 void Window::setOpaque(bool isOpaque) {
@@ -131,7 +131,7 @@ void Window::setContentView(const HostingView& view) {
   stateOf(*this).content = view;
   NSWindow* const native = implementation_->window;
   native.contentView = nativeView(view);
-  // Keys go to the content from the beginning.
+  // The content receives keys from the start.
   native.initialFirstResponder = keyView(view);
   [native makeFirstResponder:keyView(view)];
 }

@@ -1,4 +1,4 @@
-// Links and files by NSWorkspace.
+// Opening links and files with NSWorkspace.
 #include "Orvane/platform/appkit/Workspace.hpp"
 
 #import <AppKit/AppKit.h>
@@ -11,7 +11,7 @@
 namespace orvane::appkit {
 namespace {
 
-// Since macOS 14 the plain initialiser repairs a text that is no URL, which the seam refuses.
+// Since macOS 14 the plain initialiser repairs an invalid URL, which must be refused.
 NSURL* urlFrom(NSString* text) {
   if (@available(macOS 14, *)) {
     return [NSURL URLWithString:text encodingInvalidCharacters:NO];
@@ -31,13 +31,13 @@ void openLink(NSURL* url, std::function<void(bool isOpened)> completed) {
     return;
   }
   NSWorkspaceOpenConfiguration* const configuration = NSWorkspaceOpenConfiguration.configuration;
-  // A link that fails is passed over in silence; the system would keep the answer back until its
-  // message is dismissed.
+  // A link that fails is skipped silently; with a prompt, the system would report back only after
+  // the user has dismissed it.
   configuration.promptsUserIfNeeded = NO;
   [NSWorkspace.sharedWorkspace openURL:url
                          configuration:configuration
                      completionHandler:^(NSRunningApplication* taker, NSError*) {
-                       // On a queue of the system's.
+                       // Runs on one of the system's queues.
                        report(taker != nil, completed);
                      }];
 }

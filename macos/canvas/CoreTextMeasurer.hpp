@@ -10,14 +10,14 @@
 
 namespace orvane::appkit {
 
-/// One line as it is measured and drawn. The colour matters only for drawing.
+/// A line of text for measuring and drawing. The colour matters only for drawing.
 [[nodiscard]] CFRef<CTLineRef> textLine(NSString* _Nonnull text, const ui::Font& font,
                                         const ui::Rgba& color = {});
 
 class CoreTextMeasurer : public ui::TextMeasurer {
  public:
   ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
-                        int lineLimit) override;
+                        ui::LineLimit limit) override;
 };
 
 }  // namespace orvane::appkit

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "Orvane/ui/Truncation.hpp"
 #include "macos/appkit/Strings.hpp"
 #include "macos/canvas/SystemFont.hpp"
 
@@ -16,12 +17,14 @@ namespace {
 NSAttributedString* attributed(NSString* text, const ui::Font& font, const ui::Rgba& color) {
   const auto painted =
       CFRef<CGColorRef>::owning(CGColorCreateSRGB(color.red, color.green, color.blue, color.alpha));
-  return [[NSAttributedString alloc]
-      initWithString:text
-          attributes:@{
-            (id)kCTFontAttributeName : systemFont(font),
-            (id)kCTForegroundColorAttributeName : (__bridge id)painted.get(),
-          }];
+  NSMutableDictionary* const attributes = [NSMutableDictionary dictionary];
+  attributes[(id)kCTFontAttributeName] = systemFont(font);
+  attributes[(id)kCTForegroundColorAttributeName] = (__bridge id)painted.get();
+  // Even a tracking of zero disables ligatures.
+  if (font.tracking != 0) {
+    attributes[(id)kCTTrackingAttributeName] = @(font.tracking);
+  }
+  return [[NSAttributedString alloc] initWithString:text attributes:attributes];
 }
 
 struct LineBounds {
@@ -31,7 +34,7 @@ struct LineBounds {
   CGFloat leading = 0;
 };
 
-/// With the fonts that take the place of the system's for what that has not, such as Chinese.
+/// Includes the fallback fonts for characters that the system font lacks, such as Chinese.
 LineBounds lineBounds(NSString* text, const ui::Font& font) {
   LineBounds bounds;
   bounds.width = CTLineGetTypographicBounds(textLine(text, font).get(), &bounds.ascent,
@@ -52,21 +55,27 @@ NSString* withoutTrailingBlanks(NSString* text) {
   return [text substringToIndex:length];
 }
 
-/// The text with an ellipsis, cut to the greatest number of whole characters that fits.
-NSString* truncated(NSString* text, const ui::Font& font, double maximumWidth) {
-  NSUInteger length = text.length;
-  while (true) {
-    NSString* const candidate = [[text substringToIndex:length] stringByAppendingString:@"…"];
-    if (length == 0 || lineWidth(candidate, font) <= maximumWidth) {
-      return candidate;
-    }
-    length = [text rangeOfComposedCharacterSequenceAtIndex:length - 1].location;
+/// The boundaries of whole characters, in bytes of UTF-8.
+std::vector<std::size_t> characterPlaces(NSString* text) {
+  std::vector<std::size_t> places{0};
+  for (NSUInteger at = 0; at < text.length;) {
+    const auto character = [text rangeOfComposedCharacterSequenceAtIndex:at];
+    places.push_back(places.back() + utf8String([text substringWithRange:character]).size());
+    at = NSMaxRange(character);
   }
+  return places;
+}
+
+NSString* truncated(NSString* text, const ui::Font& font, double maximumWidth,
+                    ui::TruncationMode mode) {
+  return foundationString(ui::truncatedLine(
+      utf8String(text), characterPlaces(text), mode, maximumWidth,
+      [&](const std::string& part) { return lineWidth(foundationString(part), font); }));
 }
 
 struct BrokenLine {
   NSString* text;
-  /// The paragraph from this line on.
+  /// The paragraph from this line to its end.
   NSString* rest;
 };
 
@@ -77,10 +86,10 @@ void breakParagraph(NSString* paragraph, const ui::Font& font, double maximumWid
     const auto typesetter = CFRef<CTTypesetterRef>::owning(CTTypesetterCreateWithAttributedString(
         (__bridge CFAttributedStringRef)attributed(rest, font, {})));
     const CFIndex suggested = CTTypesetterSuggestLineBreak(typesetter.get(), 0, maximumWidth);
-    // However narrow, a line holds a character.
-    const NSUInteger least = NSMaxRange([rest rangeOfComposedCharacterSequenceAtIndex:0]);
+    // Even the narrowest line holds one character.
+    const NSUInteger minimum = NSMaxRange([rest rangeOfComposedCharacterSequenceAtIndex:0]);
     const NSUInteger end =
-        std::clamp(static_cast<NSUInteger>(std::max<CFIndex>(0, suggested)), least, rest.length);
+        std::clamp(static_cast<NSUInteger>(std::max<CFIndex>(0, suggested)), minimum, rest.length);
     if (end == rest.length) {
       break;
     }
@@ -98,7 +107,7 @@ CFRef<CTLineRef> textLine(NSString* text, const ui::Font& font, const ui::Rgba& 
 }
 
 ui::TextLayout CoreTextMeasurer::layout(const std::string& text, const ui::Font& font,
-                                        double maximumWidth, int lineLimit) {
+                                        double maximumWidth, ui::LineLimit limit) {
   const double allowed = maximumWidth > 0 ? maximumWidth : 0;
   std::vector<BrokenLine> lines;
   NSString* const whole = foundationString(text);
@@ -107,11 +116,11 @@ ui::TextLayout CoreTextMeasurer::layout(const std::string& text, const ui::Font&
   }
 
   ui::TextLayout layout;
-  const auto limit = static_cast<std::size_t>(std::max(0, lineLimit));
-  if (limit > 0 && lines.size() > limit) {
+  const auto maximum = static_cast<std::size_t>(std::max(0, limit.lines));
+  if (maximum > 0 && lines.size() > maximum) {
     layout.isTruncated = true;
-    lines.resize(limit);
-    lines.back().text = truncated(lines.back().rest, font, allowed);
+    lines.resize(maximum);
+    lines.back().text = truncated(lines.back().rest, font, allowed, limit.truncation);
   }
   NSFont* const platformFont = systemFont(font);
   layout.ascent = platformFont.ascender;

@@ -8,8 +8,8 @@
 
 namespace orvane::appkit {
 
-/// For the time of one drawing: it borrows the context, whose user space has its origin at the top
-/// left and y downwards, in points, as in a flipped view. Main thread only.
+/// For the duration of one drawing pass: it borrows the context, whose user space has its origin at
+/// the top left and y downwards, in points, as in a flipped view. Main thread only.
 class QuartzCanvas : public ui::Canvas {
  public:
   /// `scaleFactor`: pixels per point. `shadowUnitsPerPoint`: shadows are measured in the context's
@@ -39,9 +39,9 @@ class QuartzCanvas : public ui::Canvas {
   CGContextRef context_;
   double scaleFactor_;
   double shadowUnitsPerPoint_;
-  // What the context's user space was like before the kit's own transforms.
+  // The context's transform before the kit's own transforms.
   CGAffineTransform initialTransform_;
-  // How many transparency layers each open layer of the kit consists of.
+  // The number of transparency layers of each open layer of the kit.
   std::vector<int> openLayers_;
 };
 

@@ -63,7 +63,7 @@ CFRef<CGGradientRef> gradientFrom(const ui::Paint& paint) {
       space.get(), components.data(), locations.data(), locations.size()));
 }
 
-/// Paints what the current path encloses, and ends the path.
+/// Fills the current path and clears it.
 void paintPath(CGContextRef context, const ui::Paint& paint) {
   if (paint.isSolid()) {
     CGContextSetFillColorWithColor(context, colorFrom(paint.stops.front().color).get());
@@ -152,13 +152,15 @@ void QuartzCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow)
   }
   const auto path = pathFrom(shape);
   CGContextSaveGState(context_);
-  // Everything but the shape: an even-odd clip to it within a rectangle that holds all there is.
+  // Clip to everything outside the shape: an even-odd clip to the shape within a rectangle that
+  // encloses everything.
   const CGRect everything =
       CGRectInset(CGRectUnion(CGContextGetClipBoundingBox(context_), rectFrom(shape.rect)), -1, -1);
   CGContextAddRect(context_, everything);
   CGContextAddPath(context_, path.get());
   CGContextEOClip(context_);
-  // What casts it is drawn beyond all of that: the clip's soft edge would let its rim through.
+  // Draw the shape that casts the shadow outside of that rectangle: its rim would show through the
+  // clip's antialiased edge.
   const double distance = std::ceil(CGRectGetMaxX(everything) - shape.rect.x) + 1;
   ui::PaintShadow cast = shadow;
   cast.offset.x -= distance;
@@ -171,7 +173,7 @@ void QuartzCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow)
 }
 
 void QuartzCanvas::setShadow(const ui::PaintShadow& shadow) {
-  // Shadows do not follow the transform, and their y points upwards.
+  // Shadows ignore the transform, and their y axis points upwards.
   const CGAffineTransform now = CGContextGetCTM(context_);
   const double scaleX = now.a / initialTransform_.a * shadowUnitsPerPoint_;
   const double scaleY = now.d / initialTransform_.d * shadowUnitsPerPoint_;
@@ -191,7 +193,7 @@ void QuartzCanvas::beginLayer(const ui::Rect& bounds, double opacity,
     CGContextBeginTransparencyLayerWithRect(context_, extent, nullptr);
     ++layers;
   }
-  // A layer of its own, so that the shadow and its picture fade as one.
+  // A separate layer, so that the shadow and what casts it fade as one.
   if (shadow) {
     setShadow(*shadow);
     CGContextBeginTransparencyLayerWithRect(context_, extent, nullptr);
@@ -215,7 +217,7 @@ void QuartzCanvas::text(const std::string& line, const ui::Font& font, const ui:
     return;
   }
   CGContextSaveGState(context_);
-  // Core Text wants y upwards; turning the text matrix alone would misplace diacritics.
+  // Core Text expects y upwards; flipping only the text matrix would misplace diacritics.
   CGContextTranslateCTM(context_, baseline.x, baseline.y);
   CGContextScaleCTM(context_, 1, -1);
   CGContextSetTextMatrix(context_, CGAffineTransformIdentity);
@@ -238,7 +240,7 @@ void QuartzCanvas::symbol(const std::string& name, const ui::Font& font, const u
   const NSSize size = image.size;
   const CGRect place =
       CGRectMake(center.x - size.width / 2, center.y - size.height / 2, size.width, size.height);
-  // The symbol's alpha is a stencil for the colour.
+  // The symbol's alpha masks the colour.
   const CGRect stencil = CGRectInset(place, -1, -1);
   CGContextSaveGState(context_);
   CGContextBeginTransparencyLayerWithRect(context_, stencil, nullptr);

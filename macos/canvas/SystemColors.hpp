@@ -1,4 +1,4 @@
-// The system's semantic colours and the settings that decide how they look.
+// The system's semantic colours and the settings that affect them.
 #pragma once
 
 #import <AppKit/AppKit.h>
@@ -7,11 +7,11 @@
 
 namespace orvane::appkit {
 
-/// What the kit needs to know of an appearance, with the accessibility settings of the display.
+/// The kit's description of an appearance, including the display's accessibility settings.
 [[nodiscard]] ui::Appearance appearanceFrom(NSAppearance* _Nonnull appearance);
 
-/// A ui::ColorResolver. Ask it while a view draws: then the view's own appearance decides, down to
-/// its contrast.
+/// A ui::ColorResolver. Call it while a view draws, so that the view's own appearance applies,
+/// contrast included.
 [[nodiscard]] ui::Rgba systemColor(ui::SystemColor name, const ui::Appearance& appearance);
 
 }  // namespace orvane::appkit

@@ -1,4 +1,4 @@
-// The system's semantic colours and the settings that decide how they look.
+// The system's semantic colours and the settings that affect them.
 #include "macos/canvas/SystemColors.hpp"
 
 #include <optional>
@@ -43,7 +43,7 @@ NSColor* namedColor(ui::SystemColor name) {
 }
 
 std::optional<ui::Rgba> components(NSColor* color) {
-  // The components of a colour in another space, or of a named one, may not be asked for.
+  // Reading the components of a colour in another colour space, or of a named one, is an error.
   NSColor* const converted = [color colorUsingColorSpace:NSColorSpace.sRGBColorSpace];
   if (converted == nil) {
     return std::nullopt;
@@ -66,7 +66,7 @@ ui::Rgba systemColor(ui::SystemColor name, const ui::Appearance& appearance) {
   if (name == ui::SystemColor::accent && appearance.accent) {
     return *appearance.accent;
   }
-  // The system strengthens its own by vibrancy, which a drawn text does not have.
+  // The system strengthens its secondary colour by vibrancy, which drawn text lacks.
   if (name == ui::SystemColor::secondary && !appearance.increaseContrast) {
     return ui::standardColor(name, appearance);
   }

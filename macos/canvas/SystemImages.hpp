@@ -9,14 +9,14 @@
 
 namespace orvane::appkit {
 
-/// A symbol of one colour in the font's size and weight, drawn in black; nil when the system knows
-/// no symbol of the name.
+/// A monochrome symbol in the font's size and weight, drawn in black; nil when the system has no
+/// symbol of that name.
 [[nodiscard]] NSImage* _Nullable symbolImage(const std::string& name, const ui::Font& font);
 
-/// An image of the bundle's resources; nil when there is none of the name.
+/// An image from the bundle's resources; nil when there is none of that name.
 [[nodiscard]] NSImage* _Nullable resourceImage(const std::string& name);
 
-/// The sizes of both for layout.
+/// The sizes of both kinds of images, for layout.
 [[nodiscard]] ui::ImageSource systemImageSource();
 
 }  // namespace orvane::appkit

@@ -1,4 +1,4 @@
-// One copy of the application runs in a session; distributed notifications are between the copies.
+// Keeps a session to one copy of the application. Copies communicate by distributed notifications.
 #include "macos/handover/Handover.hpp"
 
 #import <AppKit/AppKit.h>
@@ -7,7 +7,7 @@
 
 #include "Orvane/base/RunningCopy.hpp"
 
-/// Hears from later copies; lives as long as the process.
+/// Receives the requests of later copies; lives as long as the process.
 @interface OrvaneHandoverObserver : NSObject
 - (void)laterCopyAsks:(nonnull NSNotification*)notification;
 @end
@@ -27,7 +27,7 @@
 namespace orvane {
 namespace {
 
-/// Nil for an executable without a bundle, which has no copies.
+/// Nil for an executable without a bundle, which has no other copies.
 NSString* requestName() {
   return [NSBundle.mainBundle.bundleIdentifier stringByAppendingString:@".show"];
 }
@@ -39,8 +39,8 @@ RunningCopy copyFrom(NSRunningApplication* application) {
                           : std::optional<double>(launched.timeIntervalSinceReferenceDate)};
 }
 
-/// From macOS 14 on an application comes forward when the one that the user has just opened lets
-/// it.
+/// From macOS 14 on, an application comes forward only if the one that the user has just opened
+/// yields activation to it.
 void letComeForward(NSRunningApplication* application) {
   if (@available(macOS 14, *)) {
     [NSApplication.sharedApplication yieldActivationToApplication:application];

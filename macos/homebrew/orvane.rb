@@ -1,5 +1,5 @@
-# A Homebrew cask, ready but for three things that only a published release has: its address, its
-# digest and the web page. What stands here for them is recognisable as a placeholder.
+# A Homebrew cask, complete except for three things that need a published release: its address, its
+# digest and the web page. They have recognisable placeholders.
 cask "orvane" do
   version "1.0.0"
   sha256 "0000000000000000000000000000000000000000000000000000000000000000"
@@ -18,11 +18,11 @@ cask "orvane" do
 
   app "Orvane.app"
 
-  # A login item of SMAppService is unregistered by the application itself or, in System Settings, by
-  # its user; no command does it. Homebrew asks System Events to delete what is listed under the
-  # application's path or this name, at an uninstallation only. A script of the cask would also run at
-  # every upgrade, and each would cost the user the login item. Where System Events does not list it,
-  # macOS drops it once the application is gone.
+  # Only the application itself or the user, in System Settings, can unregister a login item of
+  # SMAppService; there is no command for it. On uninstallation only, Homebrew asks System Events to
+  # delete the login item of the application's path or this name. A script in the cask would also
+  # run on every upgrade, and the user would lose the login item each time. If System Events does
+  # not list it, macOS drops it once the application is gone.
   uninstall quit:       "app.orvane.Orvane",
             login_item: "Orvane"
 

@@ -1,4 +1,4 @@
-// Serves the view kit's tree of meanings to VoiceOver and other assistive programs.
+// Exposes the view kit's semantics tree to VoiceOver and other assistive technologies.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@
 
 #include "Orvane/ui/Semantics.hpp"
 
-/// One element of the tree. It stays the same object while its view keeps its place, which is how
-/// an assistive program keeps its cursor on it.
+/// One element of the tree. It stays the same object while its view keeps its identity, so that
+/// VoiceOver keeps its cursor on it.
 @interface OrvaneAccessibilityElement : NSAccessibilityElement
 @end
 
@@ -25,14 +25,14 @@ class AccessibilityTree {
   /// it the keyboard.
   AccessibilityTree(NSView* _Nonnull view, Action press, Action focus);
 
-  /// Takes over what has changed, and tells assistive programs of new values, of elements that have
-  /// gone and of another focus. The root itself is the view, so only its children have elements.
+  /// Applies the changes and posts notifications of changed values, removed elements and a new
+  /// focus. The root stands for the view, so only its children have elements.
   void update(const ui::SemanticsNode& root);
 
   [[nodiscard]] NSArray* _Nonnull children() const { return children_; }
   /// The element with the keyboard focus; nil when none has it.
   [[nodiscard]] OrvaneAccessibilityElement* _Nullable focused() const { return focused_; }
-  /// The innermost element at a place on the screen; nil when there is none.
+  /// The innermost element at a point on the screen; nil when there is none.
   [[nodiscard]] id _Nullable elementAt(NSPoint screenPoint) const;
 
  private:

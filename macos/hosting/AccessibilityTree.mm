@@ -1,4 +1,4 @@
-// Serves the view kit's tree of meanings to VoiceOver and other assistive programs.
+// Exposes the view kit's semantics tree to VoiceOver and other assistive technologies.
 #include "macos/hosting/AccessibilityTree.hpp"
 
 #include <utility>
@@ -16,20 +16,20 @@
   std::function<void()> _focus;
 }
 
-// The host view is no element itself, so its place in the tree is that of what is around it.
+// The host view is not an element itself, so the parent is its nearest ancestor that is one.
 - (id)accessibilityParent {
   id const parent = super.accessibilityParent;
   return parent == nil ? nil : NSAccessibilityUnignoredAncestor(parent);
 }
 
-// The place on the screen is worked out when it is asked for: the window may have moved.
+// Computed on demand, because the window may have moved.
 - (NSRect)accessibilityFrame {
   NSView* const view = _view;
   return view == nil ? NSZeroRect : NSAccessibilityFrameInView(view, _frameInView);
 }
 
 - (BOOL)accessibilityPerformPress {
-  // Pressing may take the element away.
+  // Pressing may remove the element.
   const std::function<void()> press = _press;
   if (_canBePressed && press) {
     press();
@@ -69,7 +69,7 @@ NSAccessibilityRole roleFrom(ui::Role role) {
     case ui::Role::staticText:
       return NSAccessibilityStaticTextRole;
     case ui::Role::heading:
-      // The header has no name for it.
+      // AppKit's header has no constant for it.
       return @"AXHeading";
     case ui::Role::image:
       return NSAccessibilityImageRole;
@@ -93,8 +93,8 @@ std::string textOf(const ui::SemanticsNode& node) {
   return node.value.empty() ? node.label : node.label + ", " + node.value;
 }
 
-/// A switch and a radio button say by a number whether they are on. A text is the value of its
-/// element, which has no label.
+/// The value of a switch or a radio button is a number, whether it is on. Static text is its
+/// element's value, without a label.
 id valueFrom(const ui::SemanticsNode& node) {
   switch (node.role) {
     case ui::Role::toggle:
@@ -113,7 +113,7 @@ NSString* labelFrom(const ui::SemanticsNode& node) {
     case ui::Role::staticText:
       return nil;
     case ui::Role::radioButton:
-      // Its value being a number, what else it has to say goes with its label.
+      // Its value is a number, so the value text goes into the label.
       return foundationString(textOf(node));
     default:
       return foundationString(node.label);
@@ -190,7 +190,7 @@ void AccessibilityTree::update(const ui::SemanticsNode& root) {
 id AccessibilityTree::elementAt(NSPoint screenPoint) const {
   id found = nil;
   NSArray* level = children_;
-  // What is drawn last lies on top; inside an element, its own children come before itself.
+  // What is drawn last is on top; an element's children take precedence over the element.
   for (BOOL goesOn = YES; goesOn;) {
     goesOn = NO;
     for (OrvaneAccessibilityElement* element in level.reverseObjectEnumerator) {

@@ -1,4 +1,4 @@
-// A drag of one file out of a view.
+// Dragging a file out of a view.
 #pragma once
 
 #import <AppKit/AppKit.h>
@@ -7,8 +7,8 @@
 
 namespace orvane::appkit {
 
-/// Begins the drag with the event that is being handled. Nothing begins without such an event or
-/// when the request's file is not a URL.
+/// Begins the drag with the current event. Does nothing without a current event or when the
+/// request's file is not a valid URL.
 void beginFileDrag(const ui::DragRequest& request, NSView* _Nonnull view);
 
 }  // namespace orvane::appkit

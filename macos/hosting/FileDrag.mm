@@ -1,4 +1,4 @@
-// A drag of one file out of a view.
+// Dragging a file out of a view.
 #include "macos/hosting/FileDrag.hpp"
 
 #include "macos/appkit/Strings.hpp"
@@ -20,7 +20,7 @@
 namespace orvane::appkit {
 
 void beginFileDrag(const ui::DragRequest& request, NSView* view) {
-  // A session does not say that it keeps its source; this one is there for all of them.
+  // A session is not documented to retain its source, so one source serves all sessions.
   static OrvaneFileDragSource* const source = [[OrvaneFileDragSource alloc] init];
   NSString* const text = foundationString(request.fileUrl);
   NSURL* const file = text == nil ? nil : [NSURL URLWithString:text];

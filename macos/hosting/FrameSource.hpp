@@ -1,4 +1,4 @@
-// Calls once per frame of the display that a view is on, while something moves.
+// Calls back once per frame of a view's display during animations.
 #pragma once
 
 #include <functional>

@@ -1,11 +1,11 @@
-// Calls once per frame of the display that a view is on, while something moves.
+// Calls back once per frame of a view's display during animations.
 #include "macos/hosting/FrameSource.hpp"
 
 #import <QuartzCore/QuartzCore.h>
 
 #include <utility>
 
-/// The target of a display link or a timer, both of which hold it until they are invalidated.
+/// The target of a display link or a timer, both of which retain it until they are invalidated.
 @interface OrvaneFrameTarget : NSObject {
  @public
   std::function<void()> _frame;

@@ -1,5 +1,5 @@
-// The view that shows a tree of the view kit: it draws what is dirty, passes on the pointer and the
-// keys, and serves the tree of meanings.
+// The view that hosts a view tree of the kit: it draws what is dirty, forwards pointer and key
+// events, and exposes the semantics tree.
 #pragma once
 
 #include <functional>
@@ -15,7 +15,7 @@
 
 - (orvane::ui::ViewHost&)host;
 
-/// Called when the content asks for the end of what it is shown in.
+/// `dismiss` is called when the content asks to be dismissed.
 - (void)setDismiss:(std::function<void()>)dismiss;
 
 @end

@@ -1,5 +1,5 @@
-// The view that shows a tree of the view kit: it draws what is dirty, passes on the pointer and the
-// keys, and serves the tree of meanings.
+// The view that hosts a view tree of the kit: it draws what is dirty, forwards pointer and key
+// events, and exposes the semantics tree.
 #include "macos/hosting/HostView.hpp"
 
 #import <QuartzCore/QuartzCore.h>
@@ -43,11 +43,11 @@ ui::TextMeasurer& textMeasurer() {
 }  // namespace
 
 @implementation OrvaneHostView {
-  // The order matters at the end: the host goes first, and with it all that calls the others.
+  // The order matters for destruction: the host goes first, since it calls the others.
   std::function<void()> _dismiss;
   std::unique_ptr<appkit::FrameSource> _frames;
   std::unique_ptr<appkit::AccessibilityTree> _accessibility;
-  BOOL _meaningsHaveChanged;
+  BOOL _semanticsHaveChanged;
   BOOL _isPressed;
   BOOL _hasDrawn;
   std::optional<ui::Tooltip> _tooltip;
@@ -59,8 +59,11 @@ ui::TextMeasurer& textMeasurer() {
   if (self == nil) {
     return nil;
   }
+  // Thin veils one over another leave stripes where each is rounded to eight bits.
+  self.wantsLayer = YES;
+  self.layer.contentsFormat = kCAContentsFormatRGBA16Float;
   __weak OrvaneHostView* const weakSelf = self;
-  _meaningsHaveChanged = YES;
+  _semanticsHaveChanged = YES;
   _frames = std::make_unique<appkit::FrameSource>(self, [weakSelf] { [weakSelf frameComes]; });
   _accessibility = std::make_unique<appkit::AccessibilityTree>(
       self, [weakSelf](std::uint64_t identifier) { [weakSelf press:identifier]; },
@@ -76,7 +79,7 @@ ui::TextMeasurer& textMeasurer() {
   };
   services.dismiss = [weakSelf] { [weakSelf dismiss]; };
   services.announce = appkit::Accessibility::announce;
-  services.semanticsChanged = [weakSelf] { [weakSelf meaningsChange]; };
+  services.semanticsChanged = [weakSelf] { [weakSelf semanticsDidChange]; };
   _host = std::make_unique<ui::ViewHost>(ui::HostPlatform{
       &textMeasurer(), appkit::systemImageSource(), appkit::systemColor, std::move(services)});
   _host->setRoot(std::move(buildRoot));
@@ -102,7 +105,7 @@ ui::TextMeasurer& textMeasurer() {
 }
 
 - (void)dismiss {
-  // It may end this view.
+  // It may destroy this view.
   const std::function<void()> dismiss = _dismiss;
   if (dismiss) {
     dismiss();
@@ -117,7 +120,7 @@ ui::TextMeasurer& textMeasurer() {
 
 - (void)setFrameSize:(NSSize)size {
   [super setFrameSize:size];
-  // The first call comes from the initialiser of the superclass, before there is a host.
+  // The superclass's initialiser calls this before there is a host.
   if (_host != nullptr) {
     _host->setSize({size.width, size.height});
   }
@@ -126,10 +129,15 @@ ui::TextMeasurer& textMeasurer() {
 - (void)layout {
   [super layout];
   [self update];
+  // In a menu the tool tips of views do not come, those of items do.
+  if (NSMenuItem* const item = self.enclosingMenuItem; item != nil) {
+    const auto tooltip = _host->tooltipAt({NSMidX(self.bounds), NSMidY(self.bounds)});
+    item.toolTip = tooltip ? appkit::foundationString(tooltip->text) : nil;
+  }
 }
 
 - (void)update {
-  // The system's colours are resolved while views are built, outside of any drawing, too.
+  // System colours are also resolved while views are built, outside of drawing.
   [self.effectiveAppearance performAsCurrentDrawingAppearance:^{
     self->_host->tick(CACurrentMediaTime());
   }];
@@ -167,7 +175,7 @@ ui::TextMeasurer& textMeasurer() {
   }
 }
 
-// The shadow of a window without a background is that of its content, which is there only now.
+// A window without a background casts the shadow of its content, which is drawn only now.
 - (void)castShadowSoon {
   __weak NSWindow* const window = self.window;
   appkit::runSoon(@[ NSRunLoopCommonModes ], ^{
@@ -181,7 +189,7 @@ ui::TextMeasurer& textMeasurer() {
   [super viewDidMoveToWindow];
   _frames->stop();
   if (self.window == nil) {
-    // A row of a menu comes back when the menu is opened again.
+    // A menu row is shown again when the menu reopens.
     _isPressed = NO;
     _host->pointerCancelled();
     _host->pointerExited();
@@ -210,8 +218,8 @@ ui::TextMeasurer& textMeasurer() {
 
 - (void)takeOverAppearance {
   _host->setAppearance(appkit::appearanceFrom(self.effectiveAppearance));
-  // Another accent colour is another picture of an equal appearance, and what has been built keeps
-  // the colours that it was built with.
+  // The accent colour may change while the appearance stays equal, and built views keep the colours
+  // with which they were built.
   _host->invalidate();
   self.needsDisplay = YES;
 }
@@ -230,7 +238,7 @@ ui::TextMeasurer& textMeasurer() {
       [self removeTrackingArea:area];
     }
   }
-  // Always: a panel and a menu hear of the pointer while another application is active.
+  // Always active: panels and menus track the pointer even while another application is active.
   [self addTrackingArea:[[NSTrackingArea alloc]
                             initWithRect:NSZeroRect
                                  options:NSTrackingMouseEnteredAndExited | NSTrackingMouseMoved |
@@ -244,7 +252,7 @@ ui::TextMeasurer& textMeasurer() {
   return YES;
 }
 
-// Whether a press moves the window depends on the place; mouseDown: decides.
+// Whether a press moves the window depends on its location; mouseDown: decides.
 - (BOOL)mouseDownCanMoveWindow {
   return NO;
 }
@@ -283,7 +291,7 @@ ui::TextMeasurer& textMeasurer() {
   const BOOL wasPressed = _isPressed;
   _isPressed = NO;
   [self update];
-  // In a menu the button may have gone down on the status item and come up over a row.
+  // In a menu, the button may have been pressed on the status item and released over a row.
   if (!wasPressed && self.enclosingMenuItem != nil) {
     _host->pointerDown(point);
   }
@@ -329,7 +337,7 @@ ui::TextMeasurer& textMeasurer() {
 }
 
 - (BOOL)handleKey:(NSEvent*)event {
-  // A switch that is held is not flipped again and again.
+  // A key that is held down must not activate its control repeatedly.
   if (appkit::isRepeatedActivation(event)) {
     return NO;
   }
@@ -355,13 +363,13 @@ ui::TextMeasurer& textMeasurer() {
 #pragma mark Services
 
 - (void)openMenu:(const ui::MenuRequest&)request {
-  // The menu runs a loop of its own: not from within the handler that asks for it, and not from a
-  // task of the main queue, which would stand still meanwhile.
+  // The menu runs its own event loop, so it must not run within the handler that requests it, nor
+  // in a task of the main queue, which it would block.
   __weak OrvaneHostView* const weakSelf = self;
-  // A block would keep the reference, and what it refers to is gone by then.
+  // A block would capture the reference, which dangles by then.
   const ui::MenuRequest kept = request;
   appkit::runSoon(@[ NSRunLoopCommonModes ], ^{
-    // Its window may have been closed in between.
+    // The window may have been closed in the meantime.
     OrvaneHostView* const view = weakSelf;
     if (view.window.visible) {
       appkit::runPopUpMenu(kept, view);
@@ -371,27 +379,27 @@ ui::TextMeasurer& textMeasurer() {
 
 #pragma mark Accessibility
 
-- (void)meaningsChange {
-  if (_meaningsHaveChanged) {
+- (void)semanticsDidChange {
+  if (_semanticsHaveChanged) {
     return;
   }
-  _meaningsHaveChanged = YES;
+  _semanticsHaveChanged = YES;
   if (!NSWorkspace.sharedWorkspace.voiceOverEnabled) {
     return;
   }
-  // Somebody listens: what has changed is told soon, and not only when it is asked for.
+  // VoiceOver is running: notify it soon rather than when it next asks.
   __weak OrvaneHostView* const weakSelf = self;
   appkit::runSoon(@[ NSRunLoopCommonModes ], ^{
-    [weakSelf bringMeaningsUpToDate];
+    [weakSelf postLayoutChanged];
   });
 }
 
-- (void)bringMeaningsUpToDate {
+- (void)postLayoutChanged {
   NSWindow* const window = self.window;
-  if (!_meaningsHaveChanged || window == nil) {
+  if (!_semanticsHaveChanged || window == nil) {
     return;
   }
-  // The view is no element itself, so the window tells of what is in it.
+  // The view is not an element itself, so the window posts the notification for its elements.
   NSDictionary* const changed = @{NSAccessibilityUIElementsKey : self.accessibilityTree.children()};
   NSAccessibilityPostNotificationWithUserInfo(window, NSAccessibilityLayoutChangedNotification,
                                               changed);
@@ -402,7 +410,7 @@ ui::TextMeasurer& textMeasurer() {
   _host->perform(identifier, ui::SemanticsAction::press);
 }
 
-// The keyboard follows the cursor of VoiceOver, where the user wants it to.
+// The keyboard focus follows the VoiceOver cursor, if the user has set that.
 - (void)focus:(std::uint64_t)identifier {
   [self update];
   if (_host->focus(identifier)) {
@@ -411,9 +419,9 @@ ui::TextMeasurer& textMeasurer() {
 }
 
 - (appkit::AccessibilityTree&)accessibilityTree {
-  if (_meaningsHaveChanged || _host->needsUpdate()) {
+  if (_semanticsHaveChanged || _host->needsUpdate()) {
     [self update];
-    _meaningsHaveChanged = NO;
+    _semanticsHaveChanged = NO;
     _accessibility->update(_host->semantics());
   }
   return *_accessibility;

@@ -1,5 +1,5 @@
-// What a HostingView is to the window system: the host view, with a backdrop behind it and corners
-// around both.
+// The window system's side of a HostingView: the host view, with an optional backdrop behind it and
+// rounded corners around both.
 #pragma once
 
 #import <AppKit/AppKit.h>
@@ -12,14 +12,14 @@
 
 @property(readonly, nonnull) OrvaneHostView* hostView;
 @property BOOL respectsSafeArea;
-/// What stands for all of this in a window or in the row of a menu: the blurred picture of what
-/// lies behind the window, with this view in it, or this view alone. It holds this view, and is not
-/// held by it. To be asked for before it is in a window.
+/// The view to put into a window or a menu row: the backdrop with this view in it, or this view
+/// alone. The backdrop retains this view, not the reverse. To be called before the view is in a
+/// window.
 - (nonnull NSView*)outermostWithBackdrop:(BOOL)hasBackdrop;
-/// How round the corners of that picture are, in points.
+/// The corner radius of the backdrop, in points.
 @property CGFloat backdropRadius;
-/// Whether the view stands in the row of a menu that the keyboard has come to; drawn behind the
-/// content, as the rows of the status menu light up under the pointer.
+/// Whether the view is in the menu row that the keyboard has highlighted. The highlight is drawn
+/// behind the content and looks like the status menu's hover state.
 @property(getter=isHighlighted) BOOL highlighted;
 
 @end

@@ -1,5 +1,5 @@
-// What a HostingView is to the window system: the host view, with a backdrop behind it and corners
-// around both.
+// The window system's side of a HostingView: the host view, with an optional backdrop behind it and
+// rounded corners around both.
 #include "macos/hosting/HostingContainer.hpp"
 
 #include <cmath>
@@ -10,10 +10,10 @@ namespace ui = orvane::ui;
 
 namespace {
 
-/// What the blurred picture is cut to; its middle is stretched. The corners of a layer cut what is
-/// drawn in the window, and not what the window server puts behind it.
+/// The mask of the backdrop; its middle is stretched. A layer's corners clip what is drawn in the
+/// window, but not what the window server draws behind it.
 NSImage* backdropMask(CGFloat radius) {
-  // A continuous corner reaches further than its radius.
+  // A continuous corner extends beyond its radius.
   const CGFloat reach = std::ceil(1.6 * radius);
   const CGFloat side = 2 * reach + 1;
   NSImage* const mask = [NSImage
@@ -35,7 +35,7 @@ NSImage* backdropMask(CGFloat radius) {
 
 @implementation OrvaneHostingContainer {
   OrvaneHostView* _hostView;
-  // It holds this view.
+  // The backdrop retains this view.
   __weak NSVisualEffectView* _backdrop;
   CGFloat _backdropRadius;
   BOOL _respectsSafeArea;
@@ -70,8 +70,8 @@ NSImage* backdropMask(CGFloat radius) {
   return _respectsSafeArea ? super.safeAreaInsets : NSEdgeInsetsZero;
 }
 
-// The picture is around this view and not below it: its mask has an effect on the shadow of a
-// window only when it is the window's content view.
+// The backdrop is this view's superview, not its subview: its mask affects the window's shadow only
+// when it is the window's content view.
 - (NSView*)outermostWithBackdrop:(BOOL)hasBackdrop {
   const NSRect frame = _backdrop == nil ? self.frame : _backdrop.frame;
   [self removeFromSuperview];
@@ -82,7 +82,7 @@ NSImage* backdropMask(CGFloat radius) {
   NSVisualEffectView* const backdrop = [[NSVisualEffectView alloc] initWithFrame:frame];
   backdrop.material = NSVisualEffectMaterialHUDWindow;
   backdrop.blendingMode = NSVisualEffectBlendingModeBehindWindow;
-  // As clear in a panel that is not key.
+  // Equally clear in a panel that is not key.
   backdrop.state = NSVisualEffectStateActive;
   self.frame = backdrop.bounds;
   self.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;

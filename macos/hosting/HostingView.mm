@@ -1,4 +1,4 @@
-// Views of the window system that show a tree of the view kit.
+// Views of the window system that host a view tree of the kit.
 #include "Orvane/platform/appkit/HostingView.hpp"
 
 #import <QuartzCore/QuartzCore.h>

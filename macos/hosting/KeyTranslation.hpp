@@ -1,4 +1,4 @@
-// From the window system's key events to the view kit's.
+// Conversion of the window system's key events to the view kit's.
 #pragma once
 
 #include <optional>
@@ -9,10 +9,10 @@
 
 namespace orvane::appkit {
 
-/// None for an event that types nothing, and for anything but a key that goes down.
+/// None for anything but a key press, and for a key press without characters.
 [[nodiscard]] std::optional<ui::KeyEvent> keyEventFrom(NSEvent* _Nonnull event);
 
-/// A key that is held down and sends its event again, unless it is one that moves the focus.
+/// Whether the event is a key's auto-repeat, except for keys that move the focus.
 [[nodiscard]] bool isRepeatedActivation(NSEvent* _Nonnull event);
 
 }  // namespace orvane::appkit

@@ -1,4 +1,4 @@
-// From the window system's key events to the view kit's.
+// Conversion of the window system's key events to the view kit's.
 #include "macos/hosting/KeyTranslation.hpp"
 
 #include "macos/appkit/Strings.hpp"
@@ -43,7 +43,7 @@ std::optional<ui::KeyEvent> keyEventFrom(NSEvent* event) {
   if (event.type != NSEventTypeKeyDown) {
     return std::nullopt;
   }
-  // With Command held, a layout of another script types Latin letters.
+  // With Command held, keyboard layouts of other scripts produce Latin letters.
   const bool hasCommand = (event.modifierFlags & NSEventModifierFlagCommand) != 0;
   NSString* const typed = hasCommand ? event.characters : event.charactersIgnoringModifiers;
   if (typed.length == 0) {

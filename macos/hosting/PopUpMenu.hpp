@@ -7,8 +7,8 @@
 
 namespace orvane::appkit {
 
-/// Shows the menu over its anchor in `view`, whose coordinates are flipped, and returns when it has
-/// been closed; a choice has then been reported.
+/// Shows the menu over its anchor in `view`, whose coordinates are flipped, reports the choice and
+/// returns when the menu has closed.
 void runPopUpMenu(const ui::MenuRequest& request, NSView* _Nonnull view);
 
 }  // namespace orvane::appkit

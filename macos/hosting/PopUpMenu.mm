@@ -3,7 +3,7 @@
 
 #include "macos/appkit/Strings.hpp"
 
-/// Remembers which item was chosen.
+/// Records which item was chosen.
 @interface OrvanePopUpChoice : NSObject {
  @public
   NSMenuItem* _chosen;
@@ -22,7 +22,7 @@
 namespace orvane::appkit {
 
 void runPopUpMenu(const ui::MenuRequest& request, NSView* view) {
-  // Whatever the choice destroys, it does not destroy what is being called.
+  // A copy, because the callback may destroy the request.
   const auto onChoose = request.onChoose;
   OrvanePopUpChoice* const choice = [[OrvanePopUpChoice alloc] init];
   NSMenu* const menu = [[NSMenu alloc] init];

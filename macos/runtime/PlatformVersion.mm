@@ -1,6 +1,6 @@
-// What @available asks at run time. The compiler's own answer reads a file of the system by
-// functions that the application does without, and the cross build's compiler brings none. This one
-// stands before the compiler's library when the linker looks, so it alone is taken.
+// The run-time check behind @available. The compiler's own implementation reads a system file with
+// functions that the application otherwise does not use, and the cross build's compiler lacks one.
+// The linker finds this one before the compiler's library, so only this one is linked.
 #import <Foundation/Foundation.h>
 
 #include <cstdint>

@@ -222,8 +222,7 @@ TEST_F(AppDelegateMenuTest, ADisplayMoreOrLessLeavesTheOtherRowsWhereTheyAre) {
 TEST_F(AppDelegateMenuTest, WhatClosesTheMenuIsDoneWhenTheClickIsOver) {
   beginWithOpenMenu();
   moveTo(middleOf("Open Window"));
-  machine.mouse.pressButton();
-  machine.runDue();
+  hand.pressButton();
   machine.mouse.releaseButton();
   EXPECT_FALSE(isOpen());
   EXPECT_FALSE(desk::Surfaces(server()).isThere("main"));
@@ -262,11 +261,11 @@ TEST_F(AppDelegateMenuTest, PinningAndPreventingExcludeEachOther) {
     ASSERT_TRUE(press("Pin Dock"));
     EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | on");
     EXPECT_EQ(row("Prevent Dock Pop-Up"), "eye.slash | Prevent Dock Pop-Up | off");
-    EXPECT_EQ(model().guardService().cachedTriggerZones().size(), 1U);
+    EXPECT_EQ(application.snapshot().guard.zones.size(), 1U);
     ASSERT_TRUE(press("Prevent Dock Pop-Up"));
     EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | off");
     EXPECT_EQ(row("Prevent Dock Pop-Up"), "eye.slash | Prevent Dock Pop-Up | on");
-    EXPECT_EQ(model().guardService().cachedTriggerZones().size(), 2U);
+    EXPECT_EQ(application.snapshot().guard.zones.size(), 2U);
     EXPECT_EQ(icon(), "lock.fill");
   }
 }
@@ -282,13 +281,13 @@ TEST_F(AppDelegateMenuTest, ALoginItemThatCannotBeRegisteredStaysOff) {
 TEST_F(AppDelegateMenuTest, ChoosingADisplayWhilePinnedMovesMarkAndGuardAtOnce) {
   beginWithOpenMenu();
   ASSERT_TRUE(press("Pin Dock"));
-  ASSERT_DOUBLE_EQ(model().guardService().cachedTriggerZones().at(0).rect.origin.x, 1920);
+  ASSERT_DOUBLE_EQ(application.snapshot().guard.zones.at(0).rect.origin.x, 1920);
   ASSERT_TRUE(press("Studio"));
   EXPECT_FALSE(isOpen());
   EXPECT_EQ(row("Studio"), "display | Studio | selected");
   EXPECT_EQ(row("Display (Main)"), "display | Display (Main)");
-  ASSERT_EQ(model().guardService().cachedTriggerZones().size(), 1U);
-  EXPECT_DOUBLE_EQ(model().guardService().cachedTriggerZones()[0].rect.origin.x, 0);
+  ASSERT_EQ(application.snapshot().guard.zones.size(), 1U);
+  EXPECT_DOUBLE_EQ(application.snapshot().guard.zones[0].rect.origin.x, 0);
 }
 
 TEST_F(AppDelegateMenuTest, ASwitchWaitsForThePermissionAndTheGuard) {
@@ -382,11 +381,7 @@ TEST_F(AppDelegateMenuTest, HoveringHighlightsDisplaysAndActionsButNoSwitch) {
 TEST_F(AppDelegateMenuTest, AClickAnywhereOnARowRunsIt) {
   beginWithOpenMenu();
   for (const double x : {4.0, 204.0}) {
-    moveTo({server().menus.frame().origin.x + x, middleOf("Pin Dock").y});
-    machine.mouse.pressButton();
-    machine.runDue();
-    machine.mouse.releaseButton();
-    machine.runDue();
+    click({server().menus.frame().origin.x + x, middleOf("Pin Dock").y});
     EXPECT_EQ(row("Pin Dock"), x < 100 ? "lock | Pin Dock | on" : "lock | Pin Dock | off");
   }
 }
@@ -413,10 +408,7 @@ TEST_F(AppDelegateMenuTest, EscapeAndAClickOutsideCloseItAndChangeNothing) {
   key(ui::Key::escape);
   EXPECT_FALSE(isOpen());
   ASSERT_TRUE(openMenu());
-  moveTo({600, 600});
-  machine.mouse.pressButton();
-  machine.runDue();
-  machine.mouse.releaseButton();
+  click({600, 600});
   EXPECT_FALSE(isOpen());
   EXPECT_FALSE(model().isGuardRunning());
 }

@@ -245,7 +245,7 @@ TEST_F(AppDelegateTest, ACrashWhileLockedLeavesTheWishToo) {
   application.launch();
   EXPECT_TRUE(model().isGuardRunning());
   EXPECT_EQ(icon(), "lock.fill");
-  EXPECT_EQ(model().guardService().cachedTriggerZones().size(), 2U);
+  EXPECT_EQ(application.snapshot().guard.zones.size(), 2U);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// AppFixture gives each test a machine on which the whole application can be launched, hands to
-// work it with, and words for what its menu and its icon show.
+// AppFixture adds to ApplicationFixture the menu: a hand on it, and words for what it and its icon
+// show.
 #pragma once
 
 #include <string>
@@ -8,25 +8,15 @@
 #include <nlohmann/json.hpp>
 
 #include "Orvane/model/OrvaneSettings.hpp"
-#include "desk/application/ApplicationHost.hpp"
-#include "desk/machine/MachineScope.hpp"
-#include "desk/script/JsonSnapshotsOfMenu.hpp"
+#include "desk/script/MenuSnapshot.hpp"
 #include "desk/windows/Implementations.hpp"
-#include "desk/windows/Surfaces.hpp"
-#include "desk/windows/WindowServer.hpp"
+#include "tests/support/ApplicationFixture.hpp"
 #include "tests/support/TestDisplays.hpp"
 
 namespace orvane {
 
-/// The machine has no display and no permission, and the application does not run yet.
-class AppFixture : public testing::Test {
+class AppFixture : public ApplicationFixture {
  protected:
-  ~AppFixture() override {
-    const desk::MachineEnd end = scope_.end();
-    EXPECT_TRUE(end.isClean()) << (end.faults.empty() ? "something was not released"
-                                                      : end.faults.front());
-  }
-
   void attachTwoDisplays() {
     desk::attach(machine, desk::laptop());
     desk::attach(machine, desk::monitorAtTheRight());
@@ -42,9 +32,6 @@ class AppFixture : public testing::Test {
     machine.userDefaults.set(key, std::move(value));
   }
 
-  [[nodiscard]] desk::WindowServer& server() { return desk::WindowServer::current(); }
-  [[nodiscard]] OrvaneModel& model() { return application.model(); }
-
   [[nodiscard]] bool openMenu() {
     const bool isOpen = server().menus.openStatusMenu(0);
     machine.runDue();
@@ -52,14 +39,7 @@ class AppFixture : public testing::Test {
   }
   /// The accessibility press of a control by its label; false when there is none or it is disabled.
   bool press(const std::string& label, const std::string& surface = desk::Surfaces::menu) {
-    for (const desk::SurfaceControl& control : desk::Surfaces(server()).controls(surface)) {
-      if (control.node.label == label && control.node.isEnabled) {
-        const bool isDone = control.press();
-        machine.runDue();
-        return isDone;
-      }
-    }
-    return false;
+    return ApplicationFixture::press(label, surface);
   }
   /// The same for a row of a menu that need not be open.
   bool pressRow(const std::string& title) {
@@ -68,7 +48,10 @@ class AppFixture : public testing::Test {
       if (item.title == title && item.view) {
         const appkit::HostingView view = *item.view;
         view.implementation()->update();
-        const bool isDone = pressFirst(*view.implementation());
+        ui::ViewHost& host = view.implementation()->host();
+        const auto controls = desk::findControls(host.semantics());
+        const bool isDone =
+            !controls.empty() && host.perform(controls.front().id, ui::SemanticsAction::press);
         machine.runDue();
         return isDone;
       }
@@ -77,14 +60,9 @@ class AppFixture : public testing::Test {
   }
   /// The middle of an open menu's row, in global coordinates.
   [[nodiscard]] CGPoint middleOf(const std::string& title) {
-    server().menus.layOut();
-    for (const desk::MenuRow& row : server().menus.rows()) {
-      if (server().menus.menu()->items[row.itemIndex].title == title) {
-        return {CGRectGetMidX(row.frame), CGRectGetMidY(row.frame)};
-      }
-    }
-    ADD_FAILURE() << "no row " << title;
-    return {};
+    const auto place = hand.menuItemPlace(title);
+    EXPECT_TRUE(place) << "no row " << title;
+    return place.value_or(CGPoint{});
   }
   /// Blocked moves at one instant on the display at the right, more than the guard lets happen
   /// before it shuts itself off.
@@ -92,14 +70,6 @@ class AppFixture : public testing::Test {
     for (int count = 0; count < 200; ++count) {
       machine.mouse.post({2800, 1075}, 0);
     }
-    machine.runDue();
-  }
-  void moveTo(CGPoint place) {
-    machine.mouse.moveTo(place);
-    machine.runDue();
-  }
-  void key(ui::Key name) {
-    server().keyDown({name, {}, {}});
     machine.runDue();
   }
 
@@ -147,26 +117,6 @@ class AppFixture : public testing::Test {
     const bool isConsistent = row["isEnabled"] == row["itemEnabled"];
     return text + (isConsistent ? "" : " | item differs");
   }
-  static bool pressFirst(desk::HostedView& view) {
-    return pressFirst(view, view.host().semantics());
-  }
-  static bool pressFirst(desk::HostedView& view, const ui::SemanticsNode& node) {
-    if (node.isControl()) {
-      return view.host().perform(node.id, ui::SemanticsAction::press);
-    }
-    for (const ui::SemanticsNode& child : node.children) {
-      if (pressFirst(view, child)) {
-        return true;
-      }
-    }
-    return false;
-  }
-
-  desk::MachineScope scope_;
-
- protected:
-  desk::Machine& machine = scope_.machine();
-  desk::ApplicationHost application{machine};
 };
 
 }  // namespace orvane

@@ -90,7 +90,7 @@ TEST_F(EnergyTest, PushingAgainstAnEdgeDrawsNothingInAnOpenPanel) {
     machine.mouse.post({2800, 1075}, 0);
     machine.advance(1);
   }
-  EXPECT_EQ(model().guardService().blockedCount(), 10);
+  EXPECT_EQ(application.snapshot().guard.blockedCount, 10);
   EXPECT_EQ(server().updates.changeCount() - before, 0);
 }
 

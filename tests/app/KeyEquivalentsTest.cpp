@@ -12,15 +12,6 @@ class KeyEquivalentsTest : public AppFixture {
  protected:
   KeyEquivalentsTest() { begin(); }
 
-  bool command(const std::string& character) {
-    const bool isDone =
-        server().keyDown({ui::Key::character, {false, false, false, true}, character});
-    machine.runDue();
-    return isDone;
-  }
-  [[nodiscard]] bool isThere(const std::string& surface) {
-    return desk::Surfaces(server()).isThere(surface);
-  }
   void showSettings() {
     application.reopen();
     ASSERT_TRUE(command(","));
@@ -28,23 +19,23 @@ class KeyEquivalentsTest : public AppFixture {
   void showAlert() {
     OrvanePermissionAlert::show(nullptr);
     machine.runDue();
-    ASSERT_TRUE(isThere("alert"));
+    ASSERT_TRUE(isOpen("alert"));
   }
   void showGuide() {
     OrvanePermissionGuideWindowController::shared().show(nullptr);
     machine.runDue();
-    ASSERT_TRUE(isThere("guide"));
+    ASSERT_TRUE(isOpen("guide"));
   }
 };
 
 TEST_F(KeyEquivalentsTest, CommandCommaOpensTheSettings) {
   application.reopen();
-  EXPECT_FALSE(isThere("settings"));
+  EXPECT_FALSE(isOpen("settings"));
   EXPECT_TRUE(command(","));
-  EXPECT_TRUE(isThere("settings"));
+  EXPECT_TRUE(isOpen("settings"));
   EXPECT_TRUE(command("w"));
-  EXPECT_FALSE(isThere("settings"));
-  EXPECT_TRUE(isThere("main"));
+  EXPECT_FALSE(isOpen("settings"));
+  EXPECT_TRUE(isOpen("main"));
 }
 
 TEST_F(KeyEquivalentsTest, CommandQQuitsFromThePanels) {
@@ -68,10 +59,10 @@ TEST_F(KeyEquivalentsTest, CommandHHidesUntilTheApplicationIsOpenedAgain) {
   application.reopen();
   EXPECT_TRUE(command("h"));
   EXPECT_FALSE(server().focus.isActive());
-  EXPECT_FALSE(isThere("main"));
+  EXPECT_FALSE(isOpen("main"));
   EXPECT_FALSE(command("q")) << "there is no window that keys go to";
   application.reopen();
-  EXPECT_TRUE(isThere("main"));
+  EXPECT_TRUE(isOpen("main"));
   EXPECT_TRUE(server().focus.isActive());
 }
 
@@ -80,8 +71,8 @@ TEST_F(KeyEquivalentsTest, AnAlertCanBeQuitButNotPassedOver) {
   showAlert();
   EXPECT_FALSE(command(","));
   EXPECT_FALSE(command("h"));
-  EXPECT_TRUE(isThere("alert"));
-  EXPECT_FALSE(isThere("settings"));
+  EXPECT_TRUE(isOpen("alert"));
+  EXPECT_FALSE(isOpen("settings"));
   EXPECT_TRUE(command("q"));
   EXPECT_FALSE(application.isRunning());
 }
@@ -89,8 +80,8 @@ TEST_F(KeyEquivalentsTest, AnAlertCanBeQuitButNotPassedOver) {
 TEST_F(KeyEquivalentsTest, OtherKeysMeanNothing) {
   application.reopen();
   EXPECT_FALSE(command("n"));
-  EXPECT_FALSE(server().keyDown({ui::Key::character, {}, "q"}));
-  EXPECT_FALSE(server().keyDown({ui::Key::character, {true, false, false, true}, "q"}));
+  EXPECT_FALSE(hand.key({ui::Key::character, {}, "q"}));
+  EXPECT_FALSE(hand.key({ui::Key::character, {true, false, false, true}, "q"}));
   machine.runDue();
   EXPECT_TRUE(application.isRunning());
 }

@@ -12,7 +12,7 @@
 
 #include "desk/hardware/Hardware.hpp"
 #include "desk/machine/MachineScope.hpp"
-#include "desk/script/JsonSnapshotsOfMenu.hpp"
+#include "desk/script/MenuSnapshot.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 

@@ -82,14 +82,21 @@ TEST_F(StatusMenuRowTest, ShowsAFaintHighlightUnderThePointerUnlessItHasASwitch)
   EXPECT_TRUE(draws("fill rounded(3 2 202 26 r6 continuous) rgba(0 0 0 0)\n")) << drawing();
 }
 
-TEST_F(StatusMenuRowTest, SetsALongTitleSmallerBesideASwitchAndCutsOnlyWhatIsFarTooLong) {
+TEST_F(StatusMenuRowTest, SetsALongTitleCloserBesideASwitchAndCutsOnlyWhatIsFarTooLong) {
   // From 46 to 163 there are 117 points, for 18 characters of 6.5 points.
   show(StatusMenuRow{.title = "123456789012345678", .systemImage = "lock", .isOn = false});
   EXPECT_TRUE(draws("text \"123456789012345678\" 13/500")) << drawing();
-  show(StatusMenuRow{.title = "12345678901234567890", .systemImage = "lock", .isOn = false});
-  EXPECT_TRUE(draws("text \"12345678901234567890\" 11.5/500")) << drawing();
-  show(StatusMenuRow{.title = "1234567890123456789012345", .systemImage = "lock", .isOn = false});
-  EXPECT_TRUE(draws("\u2026\" 11.25/500")) << drawing();
+  EXPECT_FALSE(test.host->tooltipAt({150, 15}));
+  // One more character: 6.5 points to be gained from 19.
+  show(StatusMenuRow{.title = "1234567890123456789", .systemImage = "lock", .isOn = false});
+  EXPECT_TRUE(draws("text \"1234567890123456789\" 13/500/-0.344 ")) << drawing();
+  EXPECT_FALSE(test.host->tooltipAt({150, 15}));
+  show(StatusMenuRow{.title = "A display (Main)5678", .systemImage = "lock", .isOn = false});
+  EXPECT_TRUE(draws("text \"A displ\u2026(Main)5678\" 13/500 ")) << drawing();
+  for (const double x : {30.0, 80.0, 190.0}) {
+    ASSERT_TRUE(test.host->tooltipAt({x, 15}));
+    EXPECT_EQ(test.host->tooltipAt({x, 15})->text, "A display (Main)5678");
+  }
 }
 
 TEST_F(StatusMenuRowTest, ASwitchIsACapsuleWithAKnobAtOneEnd) {
@@ -104,8 +111,9 @@ TEST_F(StatusMenuRowTest, ASwitchIsACapsuleWithAKnobAtOneEnd) {
   EXPECT_TRUE(test.host->semantics().children.empty());
 }
 
-TEST_F(StatusMenuRowTest, ASwitchHasAnOutlineWhereContrastIsAskedFor) {
+TEST_F(StatusMenuRowTest, ASwitchThatIsOffHasAnOutlineAndAClearerOneWhereContrastIsAskedFor) {
   show(CompactMenuSwitch{false}, {34, 18});
+  EXPECT_TRUE(draws("rgba(0 0 0 0.425) width 1\n")) << drawing();
   EXPECT_FALSE(draws("rgba(0 0 0 0.6)")) << drawing();
   ui::Appearance appearance;
   appearance.increaseContrast = true;

@@ -66,7 +66,7 @@ TEST_F(TapWatchTest, TheGuardThatItStoppedComesBackWithThePermission) {
   machine.permission.setTrusted(true);
   machine.advance(TapWatch::intervalSeconds);
   EXPECT_TRUE(isTapEnabled());
-  EXPECT_TRUE(model->guardService().blocksAllDisplays());
+  EXPECT_TRUE(model->guardService().snapshot().blocksAllDisplays);
 }
 
 TEST_F(TapWatchTest, ATargetUnpluggedWithoutThePermissionIsAwaited) {
@@ -136,7 +136,7 @@ TEST_F(TapWatchTest, ALockThatCouldNotBeRestoredAtLaunchComesWithThePermission) 
   watch();
   machine.permission.setTrusted(true);
   EXPECT_FALSE(model->isGuardRunning()) << "its display is away";
-  EXPECT_TRUE(model->guardService().isObservingScreens());
+  EXPECT_TRUE(model->guardService().snapshot().isObservingScreens);
   desk::Display display = desk::monitorAbove();
   display.uuid = "gone";
   desk::attach(machine, display);

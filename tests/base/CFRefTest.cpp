@@ -1,5 +1,5 @@
-// CFRef releases what it owns exactly once. The machine counts the live objects and reports what is
-// released twice.
+// CFRef releases what it owns exactly once. The machine counts the live objects and reports double
+// releases.
 #include <utility>
 
 #include <gtest/gtest.h>

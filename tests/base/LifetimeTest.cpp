@@ -1,4 +1,4 @@
-// Callbacks into an object act while it lives and do nothing afterwards.
+// Callbacks into an object run while it exists and do nothing afterwards.
 #include <functional>
 #include <memory>
 #include <string>

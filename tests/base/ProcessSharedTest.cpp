@@ -1,4 +1,4 @@
-// Objects that live as long as the process that asked for them.
+// Objects that live until their process ends.
 #include <string>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// What a Published value tells, when, and in which order.
+// What a Published value announces, when, and in which order.
 #include <string>
 
 #include <gtest/gtest.h>
@@ -16,14 +16,14 @@ TEST(PublishedTest, ObserversReadTheNewValue) {
   EXPECT_EQ(seen, 2);
 }
 
-TEST(PublishedTest, ThePresentValueIsNotAnnounced) {
+TEST(PublishedTest, TheCurrentValueIsNotAnnounced) {
   const Published<int> value(1);
   int count = 0;
   const Subscription subscription = value.observe([&] { ++count; });
   EXPECT_EQ(count, 0);
 }
 
-TEST(PublishedTest, AnEqualValueIsNoChange) {
+TEST(PublishedTest, AnEqualValueIsNotAChange) {
   Signal anyChange;
   Published<std::string> value("a", &anyChange);
   int count = 0;
@@ -39,25 +39,25 @@ TEST(PublishedTest, TheSignalOfAnyChangeComesAfterTheOwnObservers) {
   Signal anyChange;
   Published<int> first(0, &anyChange);
   Published<int> second(0, &anyChange);
-  std::string told;
-  const Subscription any = anyChange.observe([&] { told += "*"; });
-  const Subscription own = first.observe([&] { told += "a"; });
+  std::string log;
+  const Subscription any = anyChange.observe([&] { log += "*"; });
+  const Subscription own = first.observe([&] { log += "a"; });
   first.set(1);
   second.set(1);
-  EXPECT_EQ(told, "a**");
+  EXPECT_EQ(log, "a**");
 }
 
 TEST(PublishedTest, AnObserverMaySetTheValueAgain) {
   Published<int> value(0);
-  std::string told;
+  std::string log;
   const Subscription subscription = value.observe([&] {
-    told += std::to_string(value.value());
+    log += std::to_string(value.value());
     if (value.value() < 3) {
       value.set(value.value() + 1);
     }
   });
   value.set(1);
-  EXPECT_EQ(told, "123");
+  EXPECT_EQ(log, "123");
   EXPECT_EQ(value.value(), 3);
 }
 

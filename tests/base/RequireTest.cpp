@@ -1,4 +1,4 @@
-// What cannot happen ends the process, also in release builds.
+// A violated requirement ends the process, even in release builds.
 #include <gtest/gtest.h>
 
 #include "Orvane/base/Require.hpp"
@@ -12,7 +12,7 @@ TEST(RequireDeathTest, AFalseConditionEndsTheProcessWithItsMessage) {
                "Orvane: a guard has one event tap at a time");
 }
 
-TEST(RequireTest, ATrueConditionDoesNothing) {
+TEST(RequireTest, ATrueConditionHasNoEffect) {
   require(true, "never said");
 }
 

@@ -1,4 +1,4 @@
-// Which copy of a program stays: every copy decides for itself, so all must decide alike.
+// Which copy of a program stays. Every copy decides for itself, so all must agree.
 #include <algorithm>
 #include <vector>
 
@@ -13,29 +13,29 @@ constexpr RunningCopy early{900, false, 100.0};
 constexpr RunningCopy late{200, false, 101.5};
 constexpr RunningCopy unknown{100, false, std::nullopt};
 
-TEST(RunningCopyTest, WithoutCopiesNoneStays) {
+TEST(RunningCopyTest, WithoutCopiesNoneRemains) {
   EXPECT_EQ(copyThatStays({}), std::nullopt);
 }
 
-TEST(RunningCopyTest, ACopyThatIsAloneStays) {
+TEST(RunningCopyTest, ASingleCopyRemains) {
   EXPECT_EQ(copyThatStays(std::vector{unknown}), unknown);
 }
 
-TEST(RunningCopyTest, TheFirstToBeLaunchedStaysWhateverItsNumber) {
+TEST(RunningCopyTest, TheFirstLaunchedRemainsWhateverItsNumber) {
   EXPECT_EQ(copyThatStays(std::vector{late, early}), early);
 }
 
-TEST(RunningCopyTest, ACopyWhoseLaunchNobodyNotedGivesWay) {
+TEST(RunningCopyTest, ACopyWithAnUnknownLaunchTimeGivesWay) {
   EXPECT_EQ(copyThatStays(std::vector{unknown, late}), late);
 }
 
-TEST(RunningCopyTest, ACopyThatRunsAlreadyStaysHoweverItWasLaunched) {
+TEST(RunningCopyTest, ACopyThatIsAlreadyRunningRemainsHoweverItWasLaunched) {
   constexpr RunningCopy running{300, true, std::nullopt};
   EXPECT_EQ(copyThatStays(std::vector{early, late, unknown, running}), running);
   EXPECT_EQ(copyThatStays(std::vector{early, running}), running);
 }
 
-TEST(RunningCopyTest, OfEqualCopiesTheLeastNumberStays) {
+TEST(RunningCopyTest, OfEqualCopiesTheLowestNumberRemains) {
   EXPECT_EQ(copyThatStays(std::vector{RunningCopy{7, false, 100.0}, RunningCopy{5, false, 100.0}}),
             (RunningCopy{5, false, 100.0}));
   EXPECT_EQ(copyThatStays(std::vector{RunningCopy{7, false, std::nullopt},

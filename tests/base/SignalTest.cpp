@@ -1,4 +1,4 @@
-// What observers may do while they are being told, and how long a registration lasts.
+// What observers may do during a notification, and how long a registration lasts.
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,18 +12,18 @@
 namespace orvane {
 namespace {
 
-// A copy would go on hearing after the original was cancelled.
+// A copy would stay subscribed after the original was cancelled.
 static_assert(!std::is_copy_constructible_v<Subscription>);
 static_assert(std::is_nothrow_move_constructible_v<Subscription>);
 
-TEST(SignalTest, ObserversAreToldInTheOrderTheyCame) {
+TEST(SignalTest, ObserversAreNotifiedInOrder) {
   Signal signal;
-  std::string told;
-  const Subscription first = signal.observe([&] { told += "a"; });
-  const Subscription second = signal.observe([&] { told += "b"; });
-  const Subscription third = signal.observe([&] { told += "c"; });
+  std::string log;
+  const Subscription first = signal.observe([&] { log += "a"; });
+  const Subscription second = signal.observe([&] { log += "b"; });
+  const Subscription third = signal.observe([&] { log += "c"; });
   signal.notify();
-  EXPECT_EQ(told, "abc");
+  EXPECT_EQ(log, "abc");
 }
 
 TEST(SignalTest, ARegistrationEndsWithItsSubscription) {
@@ -37,7 +37,7 @@ TEST(SignalTest, ARegistrationEndsWithItsSubscription) {
   EXPECT_EQ(count, 1);
 }
 
-TEST(SignalTest, ACancelledSubscriptionIsNotActiveAndHearsNothing) {
+TEST(SignalTest, ACancelledSubscriptionIsInactiveAndReceivesNothing) {
   Signal signal;
   int count = 0;
   Subscription subscription = signal.observe([&] { ++count; });
@@ -49,7 +49,7 @@ TEST(SignalTest, ACancelledSubscriptionIsNotActiveAndHearsNothing) {
   EXPECT_EQ(count, 0);
 }
 
-TEST(SignalTest, ADefaultSubscriptionIsOfNothing) {
+TEST(SignalTest, ADefaultSubscriptionIsInactive) {
   EXPECT_FALSE(Subscription().isActive());
 }
 
@@ -67,11 +67,11 @@ TEST(SignalTest, AMovedSubscriptionKeepsTheRegistration) {
 
 TEST(SignalTest, AssigningAnotherSubscriptionEndsTheFirst) {
   Signal signal;
-  std::string told;
-  Subscription subscription = signal.observe([&] { told += "a"; });
-  subscription = signal.observe([&] { told += "b"; });
+  std::string log;
+  Subscription subscription = signal.observe([&] { log += "a"; });
+  subscription = signal.observe([&] { log += "b"; });
   signal.notify();
-  EXPECT_EQ(told, "b");
+  EXPECT_EQ(log, "b");
 }
 
 TEST(SignalTest, ASubscriptionMayOutliveTheSignal) {
@@ -83,7 +83,7 @@ TEST(SignalTest, ASubscriptionMayOutliveTheSignal) {
   subscription.cancel();
 }
 
-TEST(SignalTest, AnObserverCancelledDuringANotificationIsNotToldAnyMore) {
+TEST(SignalTest, AnObserverCancelledDuringANotificationIsSkipped) {
   Signal signal;
   int count = 0;
   Subscription later;
@@ -114,7 +114,7 @@ TEST(SignalTest, AnObserverMayCancelItselfAndGoOn) {
   Subscription own;
   own = signal.observe([&own, &count, witness = std::make_shared<int>(7)] {
     own.cancel();
-    // The observer itself must still be there.
+    // The observer itself must still exist.
     count += *witness;
   });
   signal.notify();
@@ -134,17 +134,17 @@ TEST(SignalTest, AnObserverMayDestroyTheSignal) {
 
 TEST(SignalTest, ANotificationWithinANotificationReachesEveryone) {
   Signal signal;
-  std::string told;
+  std::string log;
   bool again = true;
   const Subscription first = signal.observe([&] {
-    told += "a";
+    log += "a";
     if (std::exchange(again, false)) {
       signal.notify();
     }
   });
-  const Subscription second = signal.observe([&] { told += "b"; });
+  const Subscription second = signal.observe([&] { log += "b"; });
   signal.notify();
-  EXPECT_EQ(told, "aabb");
+  EXPECT_EQ(log, "aabb");
 }
 
 }  // namespace

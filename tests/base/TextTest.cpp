@@ -1,4 +1,4 @@
-// Trimming and comparing text as identifiers and display names need it.
+// Trimming and normalising identifiers and display names.
 #include <string>
 #include <string_view>
 
@@ -26,7 +26,7 @@ TEST(TextTest, EverySpaceOfUnicodeIsTrimmed) {
   }
 }
 
-TEST(TextTest, CharactersThatShareBytesWithSpacesStay) {
+TEST(TextTest, CharactersThatShareBytesWithSpacesAreKept) {
   // Their last bytes are those of a no-break space and of a next line.
   EXPECT_EQ(trimmed("à"), "à");
   EXPECT_EQ(trimmed("Å"), "Å");

@@ -69,10 +69,25 @@ TEST_F(PangoTextMeasurerTest, ALineLimitEndsInAnEllipsis) {
   EXPECT_EQ(linesOf("Pin", 0, 1), Lines{"…"});
 }
 
+TEST_F(PangoTextMeasurerTest, ALineCutInTheMiddleKeepsItsEnd) {
+  const auto cut = [&](const std::string& text, double width) {
+    return measurer.layout(text, font, width, {1, ui::TruncationMode::middle}).lines.at(0);
+  };
+  const std::string end = "(2) （主要）";
+  for (const std::string name : {"Studio Display XDR of the Laboratory ", "超宽曲面专业显示器 "}) {
+    const ui::TextLine line = cut(name + end, 154);
+    EXPECT_LE(line.width, 154);
+    EXPECT_TRUE(line.text.ends_with("…" + end)) << line.text;
+    EXPECT_EQ(line.text.substr(0, 3), name.substr(0, 3));
+  }
+  EXPECT_EQ(cut("Pin Dock", widthOf("Pin Dock")).text, "Pin Dock");
+  EXPECT_EQ(linesOf("Pin\nDock", unlimited, 1), Lines{"Pin…"});
+}
+
 TEST_F(PangoTextMeasurerTest, TheLinesOfATextShareOneHeight) {
   const ui::TextLayout latin = measurer.layout("Dock", font, unlimited, 0);
-  // Inter's own ascent and descent are 0.96875 and 0.2412 of the size.
-  EXPECT_NEAR(latin.ascent, 13 * 0.96875, 0.01);
+  // Inter Display's own ascent and descent are 0.9639 and 0.2451 of the size.
+  EXPECT_NEAR(latin.ascent, 13 * 0.9639, 0.01);
   // 13 times 1.21 is 15.73; lines are whole points apart.
   EXPECT_EQ(latin.lineHeight, 16);
   const ui::TextLayout mixed = measurer.layout("Dock\n固定", font, unlimited, 0);

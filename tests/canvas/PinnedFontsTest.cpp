@@ -39,29 +39,30 @@ std::vector<std::string> facesOf(const std::string& line, const ui::Font& font) 
 }
 
 TEST(PinnedFontsTest, LatinTextIsInterInTheWeightAskedFor) {
-  EXPECT_EQ(facesOf("Pin Dock", ui::Font::system(13)), std::vector<std::string>{"Inter 400"});
+  EXPECT_EQ(facesOf("Pin Dock", ui::Font::system(13)),
+            std::vector<std::string>{"Inter Display 400"});
   EXPECT_EQ(facesOf("Pin Dock", ui::Font::system(13, ui::Weight::medium)),
-            std::vector<std::string>{"Inter 500"});
+            std::vector<std::string>{"Inter Display 500"});
   EXPECT_EQ(facesOf("Pin Dock", ui::Font::system(13, ui::Weight::semibold)),
-            std::vector<std::string>{"Inter 600"});
+            std::vector<std::string>{"Inter Display 600"});
   EXPECT_EQ(facesOf("Pin Dock", ui::Font::system(13, ui::Weight::black)),
-            std::vector<std::string>{"Inter 900"});
+            std::vector<std::string>{"Inter Display 900"});
 }
 
 TEST(PinnedFontsTest, ChineseTextIsNotoSansInSimplifiedForms) {
   EXPECT_EQ(facesOf("固定", ui::Font::system(13)),
             std::vector<std::string>{"Noto Sans CJK SC 400"});
   EXPECT_EQ(facesOf("固定 Dock", ui::Font::headline()),
-            (std::vector<std::string>{"Noto Sans CJK SC 700", "Inter 700"}));
+            (std::vector<std::string>{"Noto Sans CJK SC 700", "Inter Display 700"}));
 }
 
 TEST(PinnedFontsTest, TheKeysOfShortcutsAreInTheSystemFace) {
-  EXPECT_EQ(facesOf("⌥⌃⇧⌘", ui::Font::body()), std::vector<std::string>{"Inter 400"});
+  EXPECT_EQ(facesOf("⌥⌃⇧⌘", ui::Font::body()), std::vector<std::string>{"Inter Display 400"});
 }
 
 TEST(PinnedFontsTest, ACharacterOfNoPinnedFontIsNotTakenFromAnother) {
   for (const std::string& face : facesOf("a😀b", ui::Font::body())) {
-    EXPECT_TRUE(face == "Inter 400" || face == "Noto Sans CJK SC 400") << face;
+    EXPECT_TRUE(face == "Inter Display 400" || face == "Noto Sans CJK SC 400") << face;
   }
 }
 
@@ -93,7 +94,7 @@ TEST(PinnedFontsDeathTest, AMachineWithoutTheFontsIsToldWhichPackagesToInstall) 
         setenv("FONTCONFIG_SYSROOT", "/nowhere", 1);
         pinnedFontMap();
       },
-      "Inter Regular.*Noto Sans CJK SC Bold.*fonts-inter and fonts-noto-cjk");
+      "Inter Display Regular.*Noto Sans CJK SC Bold.*fonts-inter and fonts-noto-cjk");
 }
 
 TEST(PinnedFontsDeathTest, TheRulesOfTheMachineAreNotRead) {

@@ -43,6 +43,20 @@ TEST_F(TextShaperTest, TheDrawnLineEndsWhereItsMeasureSays) {
   }
 }
 
+TEST_F(TextShaperTest, TrackingIsMeasuredAndDrawnBetweenTheCharacters) {
+  ui::Font font = ui::Font::system(26);
+  const double natural = resources.shaper.measure("HamburgH", font).width;
+  begin(200, 40, 4).text("HamburgH", font, black, {10, 30});
+  const auto [naturalLeft, naturalRight] = inkedColumns();
+  font.tracking = -0.5;
+  // Between eight characters are seven places.
+  EXPECT_NEAR(resources.shaper.measure("HamburgH", font).width, natural - 3.5, 0.01);
+  begin(200, 40, 4).text("HamburgH", font, black, {10, 30});
+  const auto [left, right] = inkedColumns();
+  EXPECT_EQ(left, naturalLeft);
+  EXPECT_NEAR(right, naturalRight - 3.5 * 4, 1.01);
+}
+
 TEST_F(TextShaperTest, TheBaselineIsTheLowerEdgeOfAnH) {
   begin(40, 40).text("H", ui::Font::system(20, ui::Weight::bold), black, {10, 30});
   int lowest = 0;

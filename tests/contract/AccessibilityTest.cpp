@@ -1,4 +1,4 @@
-// What the application relies on when it has a screen reader speak.
+// Contract tests for screen-reader announcements.
 #include <string>
 
 #include "Orvane/platform/appkit/Accessibility.hpp"
@@ -12,7 +12,7 @@ using appkit::Accessibility;
 
 class AccessibilityContract : public ContractFixture {
  protected:
-  /// Whether the main queue still delivers after all that is due has been served.
+  /// Whether the main queue still delivers tasks after everything due has run.
   bool isAlive() {
     bool isDelivered = false;
     appkit::MainQueue::async([&isDelivered] { isDelivered = true; });

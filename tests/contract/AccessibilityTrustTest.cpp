@@ -1,4 +1,4 @@
-// What the application relies on when it asks for the Accessibility permission.
+// Contract tests for the Accessibility permission.
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
 

@@ -1,4 +1,4 @@
-// What the application relies on in the application object.
+// Contract tests for the application object.
 #include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
@@ -26,7 +26,7 @@ TEST_F(ApplicationContract, WithoutAWindowThereIsNoKeyWindowAndNoModalOne) {
   EXPECT_FALSE(appkit::Application::modalWindow().has_value());
 }
 
-TEST_F(ApplicationContract, ThePointersPlaceCountsUpwards) {
+TEST_F(ApplicationContract, ThePointersPositionCountsUpwards) {
   ORVANE_ARRANGE(arrangeTwoDisplays());
   ORVANE_ARRANGE(movePointer(CGPointMake(1200, 100)));
   const CGPoint place = appkit::Application::mouseLocation();

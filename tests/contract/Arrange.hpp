@@ -1,7 +1,7 @@
-// The one line with which a contract test asks for what it needs.
+// The macro with which a contract test states a precondition.
 #pragma once
 
-/// Skips the test where the platform cannot be arranged like that.
+/// Skips the test if the platform cannot provide the precondition.
 #define ORVANE_ARRANGE(arrangement)                                  \
   do {                                                               \
     if (!(arrangement)) {                                            \

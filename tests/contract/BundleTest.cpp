@@ -1,4 +1,4 @@
-// What the application relies on in its bundle.
+// Contract tests for the application's bundle.
 #include "Orvane/platform/appkit/Bundle.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
@@ -9,7 +9,7 @@ namespace {
 using appkit::Bundle;
 using BundleContract = ContractFixture;
 
-TEST_F(BundleContract, ItsPlaceIsAFileURL) {
+TEST_F(BundleContract, ItsLocationIsAFileURL) {
   const std::optional<std::string> url = Bundle::url();
   ASSERT_TRUE(url);
   EXPECT_TRUE(url->starts_with("file:///")) << *url;

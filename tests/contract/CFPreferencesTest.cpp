@@ -1,4 +1,4 @@
-// What the application relies on when it reads another program's preferences.
+// Contract tests for reading another program's preferences.
 #include "Orvane/base/CFRef.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
@@ -43,7 +43,7 @@ TEST_F(CFPreferencesContract, AStoredTextIsAStringWithThatText) {
   EXPECT_EQ(text(value), "left");
 }
 
-TEST_F(CFPreferencesContract, AStoredNumberIsNoString) {
+TEST_F(CFPreferencesContract, AStoredNumberIsNotAString) {
   ORVANE_ARRANGE(storePreference(program, "key", 3.0));
   CFPreferencesAppSynchronize(CFSTR("app.orvane.contract"));
   const Value value = copyValue();

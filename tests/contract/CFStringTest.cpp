@@ -1,4 +1,4 @@
-// What the application relies on in Core Foundation's strings.
+// Contract tests for Core Foundation strings.
 #include <string>
 #include <vector>
 

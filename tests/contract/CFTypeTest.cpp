@@ -1,4 +1,4 @@
-// What the application relies on in the counting of references.
+// Contract tests for reference counting.
 #include "tests/contract/ContractFixture.hpp"
 
 namespace orvane {
@@ -7,7 +7,7 @@ namespace {
 using CFTypeContract = ContractFixture;
 
 TEST_F(CFTypeContract, AnObjectLivesAsLongAsAnybodyKeepsIt) {
-  // Long enough that no platform hides it in the reference itself.
+  // Too long for a tagged pointer, which would not be counted.
   const CFStringRef string = CFStringCreateWithCString(
       kCFAllocatorDefault, "a text of more than a few characters", kCFStringEncodingUTF8);
   EXPECT_EQ(CFRetain(string), string);

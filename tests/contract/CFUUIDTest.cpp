@@ -1,4 +1,4 @@
-// What the application relies on in a display's UUID.
+// Contract tests for the UUIDs of displays.
 #include <string>
 
 #include "Orvane/base/CFRef.hpp"

@@ -1,4 +1,4 @@
-// What the application relies on when it asks Core Graphics about displays.
+// Contract tests for Core Graphics' display functions.
 #include "Orvane/base/CFRef.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
@@ -8,7 +8,7 @@ namespace {
 
 using CGDisplaysContract = ContractFixture;
 
-TEST_F(CGDisplaysContract, TellsTheMainAndTheBuiltInDisplay) {
+TEST_F(CGDisplaysContract, ReportsTheMainAndTheBuiltInDisplay) {
   ORVANE_ARRANGE(arrangeTwoDisplays());
   EXPECT_TRUE(CGDisplayIsMain(1));
   EXPECT_FALSE(CGDisplayIsMain(2));
@@ -21,7 +21,7 @@ TEST_F(CGDisplaysContract, ADisplayWithoutAUUIDHasNone) {
   EXPECT_FALSE(CFRef<CFUUIDRef>::owning(CGDisplayCreateUUIDFromDisplayID(2)));
 }
 
-TEST_F(CGDisplaysContract, ANumberThatIsNoDisplayIsNothingSpecial) {
+TEST_F(CGDisplaysContract, ANumberWithoutADisplayIsNotSpecial) {
   constexpr CGDirectDisplayID noDisplay = 0x7FFF1234;
   EXPECT_FALSE(CGDisplayIsMain(noDisplay));
   EXPECT_FALSE(CGDisplayIsBuiltin(noDisplay));

@@ -1,4 +1,4 @@
-// What the application relies on in event taps, their ports and their run-loop sources.
+// Contract tests for event taps, their ports and their run-loop sources.
 #include <vector>
 
 #include "Orvane/base/CFRef.hpp"
@@ -62,7 +62,7 @@ class CGEventTapContract : public ContractFixture {
   double dy = 0;
 };
 
-TEST_F(CGEventTapContract, WithoutThePermissionThereIsNone) {
+TEST_F(CGEventTapContract, WithoutThePermissionThereIsNoTap) {
   ORVANE_ARRANGE(setTrusted(false));
   EXPECT_FALSE(makeTap());
 }
@@ -78,7 +78,7 @@ TEST_F(CGEventTapContract, ATapCanBeMadeEnabledAndTakenDownAgainAndAgain) {
   }
 }
 
-TEST_F(CGEventTapContract, AMovementIsAnEventWithItsPlaceAndTheHeldKeys) {
+TEST_F(CGEventTapContract, AMovementIsAnEventWithItsPositionAndTheHeldKeys) {
   ORVANE_ARRANGE(setTrusted(true));
   ORVANE_ARRANGE(arrangeTwoDisplays());
   ASSERT_TRUE(beginTap());
@@ -100,7 +100,7 @@ TEST_F(CGEventTapContract, WhereTheCallbackPutsTheEventTheNextMovementBegins) {
   dy = -12;
   ORVANE_ARRANGE(movePointer(CGPointMake(300, 799)));
   dy = 0;
-  // From (300, 787) this goal can be reached; the pointer was not left at the edge.
+  // The pointer is at (300, 787), not at the edge, so this movement is possible.
   ORVANE_ARRANGE(movePointer(CGPointMake(300, 790)));
   ASSERT_EQ(seen.size(), 2U);
   EXPECT_EQ(seen[0].location.y, 799);
@@ -108,7 +108,7 @@ TEST_F(CGEventTapContract, WhereTheCallbackPutsTheEventTheNextMovementBegins) {
 }
 
 TEST_F(CGEventTapContract, TheCursorRestsWhereTheCallbackPutsTheEvent) {
-  // A Mac's own displays will do: the first begins at (0, 0).
+  // The real displays of a Mac suffice: the origin of the first is (0, 0).
   (void)arrangeTwoDisplays();
   ORVANE_ARRANGE(setTrusted(true));
   const double height = CGRectGetHeight(appkit::Screen::screens().front().frame());
@@ -123,7 +123,7 @@ TEST_F(CGEventTapContract, TheCursorRestsWhereTheCallbackPutsTheEvent) {
   }
 }
 
-TEST_F(CGEventTapContract, ADisabledTapHearsNothing) {
+TEST_F(CGEventTapContract, ADisabledTapReceivesNothing) {
   ORVANE_ARRANGE(setTrusted(true));
   ORVANE_ARRANGE(arrangeTwoDisplays());
   ASSERT_TRUE(beginTap());
@@ -135,7 +135,7 @@ TEST_F(CGEventTapContract, ADisabledTapHearsNothing) {
   EXPECT_EQ(seen.size(), 1U);
 }
 
-TEST_F(CGEventTapContract, ARemovedSourceOrAnInvalidPortHearsNothing) {
+TEST_F(CGEventTapContract, ARemovedSourceOrAnInvalidPortReceivesNothing) {
   ORVANE_ARRANGE(setTrusted(true));
   ORVANE_ARRANGE(arrangeTwoDisplays());
   ASSERT_TRUE(beginTap());
@@ -147,7 +147,7 @@ TEST_F(CGEventTapContract, ARemovedSourceOrAnInvalidPortHearsNothing) {
   EXPECT_TRUE(seen.empty());
 }
 
-TEST_F(CGEventTapContract, ATapThatTheSystemDisablesIsToldAndCanBeEnabledAgain) {
+TEST_F(CGEventTapContract, ATapThatTheSystemDisablesIsNotifiedAndCanBeEnabledAgain) {
   ORVANE_ARRANGE(setTrusted(true));
   ORVANE_ARRANGE(arrangeTwoDisplays());
   for (const CGEventType reason : {kCGEventTapDisabledByTimeout, kCGEventTapDisabledByUserInput}) {

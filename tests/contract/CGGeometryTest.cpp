@@ -1,4 +1,4 @@
-// What the application relies on in Core Graphics' rectangles.
+// Contract tests for Core Graphics rectangles.
 #include <limits>
 
 #include "tests/contract/ContractFixture.hpp"

@@ -1,4 +1,4 @@
-// What the application relies on in the media clock and the calendar clock.
+// Contract tests for the media clock and the calendar clock.
 #include "tests/contract/ContractFixture.hpp"
 
 namespace orvane {
@@ -15,7 +15,7 @@ TEST_F(ClocksContract, TheMediaClockGoesOnWithTimeAndNeverBack) {
 }
 
 TEST_F(ClocksContract, TheCalendarClockCountsSecondsSinceTheYear2001) {
-  // 2026 to 2200: a clock with another beginning or another unit is far outside.
+  // The years 2026 to 2200: a clock with another epoch or unit is far outside.
   const double before = CFAbsoluteTimeGetCurrent();
   EXPECT_GE(before, 788'918'400);
   EXPECT_LT(before, 6'280'000'000);

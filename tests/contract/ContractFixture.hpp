@@ -1,5 +1,5 @@
-// ContractFixture sets up, for a contract test, what the application's platform must be like. The
-// tests themselves use the seam only; each platform has its own implementation of this.
+// ContractFixture sets up the preconditions of contract tests. The tests use only the platform
+// interface; each platform implements this fixture.
 #pragma once
 
 #include <cstdint>
@@ -15,9 +15,9 @@
 
 namespace orvane {
 
-/// Operations that return a bool arrange something and return true, or return false where the
-/// platform cannot be asked for it; the test then skips. The desk can be asked for everything, a
-/// real Mac for hardly anything: what it is like is its user's business.
+/// Operations that return a bool set up a precondition and return true, or return false if the
+/// platform cannot provide it; the test then skips. The desk can provide everything, a real Mac
+/// very little: its state belongs to its user.
 class ContractFixture : public testing::Test {
  public:
   ~ContractFixture() override;
@@ -25,47 +25,48 @@ class ContractFixture : public testing::Test {
  protected:
   ContractFixture();
 
-  /// The main run loop serves what is due, and goes on for so long.
+  /// Runs the main run loop for this time.
   void letTimePass(double seconds);
-  /// The same while a menu is open; false where none can be opened.
+  /// The same with an open menu; false if no menu can be opened.
   [[nodiscard]] bool letTimePassWithMenuOpen(double seconds);
 
-  /// Exactly two displays, side by side, 1000 by 800 points each. The first, numbered 1, is the
-  /// main one, built in, named "Left" and known by the UUID of `leftUUID`; the second, numbered 2,
-  /// is named "Right" and has no UUID.
+  /// Attaches exactly two displays, side by side, of 1000 by 800 points each. Display 1 is the main
+  /// and built-in one, has the name "Left" and the UUID `leftUUID`; display 2 has the name "Right"
+  /// and no UUID.
   [[nodiscard]] bool arrangeTwoDisplays();
   static constexpr const char* leftUUID = "37D8832A-2D66-02CA-B9F7-8F30A301B230";
-  /// Any change of the displays.
+  /// Changes the displays in any way.
   [[nodiscard]] bool changeDisplays();
   [[nodiscard]] bool setTrusted(bool isTrusted);
-  /// A movement of the pointer by hardware; global coordinates. A real Mac posts one in the
-  /// hardware's place where ORVANE_POST_MOVEMENTS is set in the environment.
+  /// Moves the pointer as hardware does; global coordinates. On a real Mac the movement is posted,
+  /// and only if the environment variable ORVANE_POST_MOVEMENTS is set.
   [[nodiscard]] bool movePointer(CGPoint goal);
-  /// The modifier keys that are held from now on.
+  /// Sets the modifier keys that are held from now on.
   [[nodiscard]] bool holdModifiers(std::uint64_t flags);
-  /// The system disables the event taps of the application and says why.
+  /// Disables the application's event taps as the system does, and reports the reason.
   [[nodiscard]] bool disableTaps(CGEventType reason);
-  /// Another program stores a text, or a number, in its preferences.
+  /// Stores a string or a number in the preferences of another program.
   [[nodiscard]] bool storePreference(const std::string& application, const std::string& key,
                                      const std::string& text);
   [[nodiscard]] bool storePreference(const std::string& application, const std::string& key,
                                      double number);
   [[nodiscard]] bool setLocale(const std::vector<std::string>& preferred,
                                const std::string& current);
-  /// Registrations of the login item fail with this text.
+  /// Makes registrations of the login item fail with this error.
   [[nodiscard]] bool failLoginItem(const std::string& text);
-  /// Opening links has no consequence for anybody. False on a real Mac, where it would have.
+  /// Makes opening links free of side effects; false on a real Mac.
   [[nodiscard]] bool canOpenLinks() const;
-  /// Links that begin so are refused.
+  /// Makes opening links with this prefix fail.
   [[nodiscard]] bool refuseLinks(const std::string& prefix);
-  /// A value of another type than text and truth in the user defaults.
+  /// Stores a value that is neither a string nor a Boolean in the user defaults.
   [[nodiscard]] bool storeNumberInUserDefaults(const std::string& key, double number);
-  /// The application's bundle lies on a volume that cannot be written to.
+  /// Places the application's bundle on a read-only volume.
   [[nodiscard]] bool makeVolumeReadOnly();
-  /// The login item may be registered and unregistered without consequence for anybody.
+  /// Makes registering and unregistering the login item free of side effects.
   [[nodiscard]] bool canRegisterLoginItem() const;
 
-  /// What the window system itself says of a window that can be told such things only.
+  /// The attributes of a window that the platform interface can only set, as the window system
+  /// reports them.
   struct WindowAttributes {
     std::int64_t level = 0;
     std::uint64_t collectionBehavior = 0;
@@ -85,16 +86,16 @@ class ContractFixture : public testing::Test {
   };
   [[nodiscard]] static WindowAttributes attributesOf(const appkit::Window& window);
 
-  /// The button goes down at one place and the pointer is moved to another, in global coordinates;
-  /// the button stays down.
+  /// Presses the button at one point and moves the pointer to another, in global coordinates; the
+  /// button stays down.
   [[nodiscard]] bool dragPointer(CGPoint from, CGPoint to);
   void releasePointer();
   struct DraggedFile {
     std::string url;
-    /// The values of NSDragOperation, or-ed together.
+    /// A mask of NSDragOperation values.
     unsigned operations = 0;
   };
-  /// The file that is on its way with the pointer; none when there is none.
+  /// The file of the current dragging session, if any.
   [[nodiscard]] std::optional<DraggedFile> draggedFile() const;
 
  private:

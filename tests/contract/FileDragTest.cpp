@@ -1,5 +1,4 @@
-// What the application relies on in dragging sessions: a file leaves a view, and only a copy of it
-// is offered.
+// Contract tests for dragging sessions: a view is the source of a file, and offers a copy only.
 #include <optional>
 
 #include "Orvane/platform/appkit/Window.hpp"
@@ -14,8 +13,8 @@ using appkit::Window;
 
 class FileDragContract : public ContractFixture {
  protected:
-  /// A window that its background moves, its lower left corner at (100, 100), 200 by 100 points;
-  /// all of it is a source that gives `item`.
+  /// Shows a window of 200 by 100 points at (100, 100), movable by its background; its content is
+  /// the drag source of `item`.
   static Window showSource(std::optional<ui::DragItem> item) {
     Window window(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
                   appkit::StyleMask::nonactivatingPanel);

@@ -1,4 +1,4 @@
-// What the application relies on in hosting views.
+// Contract tests for hosting views.
 #include "Orvane/platform/appkit/HostingView.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "tests/contract/ContractFixture.hpp"
@@ -9,7 +9,7 @@ namespace {
 using appkit::HostingView;
 using HostingViewContract = ContractFixture;
 
-TEST_F(HostingViewContract, ItsFittingSizeIsWhatItsContentAsksFor) {
+TEST_F(HostingViewContract, ItsFittingSizeIsThatOfItsContent) {
   const HostingView view([](const ui::Environment&) { return ui::Rectangle().frame(30, 20); });
   EXPECT_EQ(view.fittingSize().width, 30);
   EXPECT_EQ(view.fittingSize().height, 20);
@@ -25,7 +25,7 @@ TEST_F(HostingViewContract, AfterAChangeItIsDescribedAnew) {
   EXPECT_EQ(view.fittingSize().width, 50);
 }
 
-TEST_F(HostingViewContract, ItKeepsClearOfATitleBarUnlessToldOtherwise) {
+TEST_F(HostingViewContract, ItAvoidsATitleBarUnlessConfigured) {
   HostingView view([](const ui::Environment&) { return ui::View(); });
   EXPECT_TRUE(view.respectsSafeArea());
   view.setRespectsSafeArea(false);

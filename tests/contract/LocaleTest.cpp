@@ -1,4 +1,4 @@
-// What the application relies on in the user's languages.
+// Contract tests for the user's languages.
 #include "Orvane/platform/appkit/Locale.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"

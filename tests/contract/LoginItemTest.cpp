@@ -1,4 +1,4 @@
-// What the application relies on in its registration as a login item.
+// Contract tests for the registration as a login item.
 #include "Orvane/platform/appkit/LoginItem.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"

@@ -1,4 +1,4 @@
-// What the application relies on in the main queue.
+// Contract tests for the main queue.
 #include <string>
 
 #include "Orvane/platform/appkit/MainQueue.hpp"

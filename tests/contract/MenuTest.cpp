@@ -1,4 +1,4 @@
-// What the application relies on in menus, status items and images.
+// Contract tests for menus, status items and images.
 #include "Orvane/platform/appkit/Image.hpp"
 #include "Orvane/platform/appkit/Menu.hpp"
 #include "Orvane/platform/appkit/StatusItem.hpp"
@@ -18,7 +18,7 @@ appkit::MenuItem itemWith(std::function<void()> action) {
 
 TEST_F(MenuContract, AMenuThatIsNotOpenCanBeFilledChangedEmptiedAndCancelled) {
   appkit::Menu menu;
-  menu.onWillOpen([] { FAIL() << "nobody opened it"; });
+  menu.onWillOpen([] { FAIL() << "the menu was not opened"; });
   menu.insertItem(0, itemWith([] {}));
   menu.insertItem(0, appkit::MenuItem::separator());
   menu.insertItem(2, itemWith([] {}));
@@ -40,7 +40,7 @@ TEST_F(MenuContract, WhatFollowsItsClosingComesAfterTheCall) {
   EXPECT_EQ(endings, 1);
 }
 
-TEST_F(MenuContract, AnItemThatChangesOrGoesLetsGoOfItsAction) {
+TEST_F(MenuContract, AnItemThatChangesOrIsRemovedReleasesItsAction) {
   appkit::Menu menu;
   auto first = std::make_shared<int>(1);
   auto second = std::make_shared<int>(2);

@@ -1,4 +1,4 @@
-// What the application relies on in modal sessions.
+// Contract tests for modal sessions.
 #include <functional>
 #include <memory>
 #include <vector>
@@ -26,7 +26,7 @@ class ModalSessionContract : public ContractFixture {
                   appkit::StyleMask::titled | appkit::StyleMask::closable);
   }
 
-  /// Runs the session from a task of the main queue, and `within` once while it runs.
+  /// Runs the session from a main-queue task, and calls `within` once during the session.
   void run(const Window& panel, std::function<void()> within) {
     bool isDone = false;
     const Timer timer = Timer::repeating(0.05, RunLoopMode::common, [&] {
@@ -117,7 +117,7 @@ TEST_F(ModalSessionContract, TheContentMayBeTakenOutWhenItHasEnded) {
   panel.clearContentView();
   letTimePass(0.05);
   EXPECT_FALSE(panel.contentView().has_value());
-  EXPECT_EQ(held.use_count(), 1) << "nothing keeps the content";
+  EXPECT_EQ(held.use_count(), 1) << "the content is released";
 }
 
 }  // namespace

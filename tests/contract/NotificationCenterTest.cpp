@@ -1,4 +1,4 @@
-// What the application relies on in the notification of changed displays.
+// Contract tests for the notification of changed displays.
 #include <optional>
 #include <string>
 
@@ -22,7 +22,7 @@ class NotificationCenterContract : public ContractFixture {
   std::string log;
 };
 
-TEST_F(NotificationCenterContract, ObserversAreToldInTheOrderTheyRegistered) {
+TEST_F(NotificationCenterContract, ObserversAreNotifiedInOrderOfRegistration) {
   const ObserverToken first = observe([this] { log += "a"; });
   const ObserverToken second = observe([this] { log += "b"; });
   ORVANE_ARRANGE(changeDisplays());
@@ -32,7 +32,7 @@ TEST_F(NotificationCenterContract, ObserversAreToldInTheOrderTheyRegistered) {
   NotificationCenter::removeObserver(second);
 }
 
-TEST_F(NotificationCenterContract, ARemovedObserverIsToldNoMoreAndMayBeRemovedTwice) {
+TEST_F(NotificationCenterContract, ARemovedObserverIsNotNotifiedAndMayBeRemovedTwice) {
   const ObserverToken token = observe([this] { log += "a"; });
   NotificationCenter::removeObserver(token);
   NotificationCenter::removeObserver(token);
@@ -41,7 +41,7 @@ TEST_F(NotificationCenterContract, ARemovedObserverIsToldNoMoreAndMayBeRemovedTw
   EXPECT_EQ(log, "");
 }
 
-TEST_F(NotificationCenterContract, AnObserverMayReplaceItselfWhileItIsTold) {
+TEST_F(NotificationCenterContract, AnObserverMayReplaceItselfDuringANotification) {
   std::optional<ObserverToken> token;
   token = observe([this, &token] {
     log += "old ";

@@ -1,5 +1,5 @@
-// What the application relies on in the attributes of windows and panels: the window system has the
-// numbers that it was given.
+// Contract tests for the attributes of windows and panels: the window system receives the requested
+// values.
 #include "Orvane/platform/appkit/Window.hpp"
 #include "tests/contract/ContractFixture.hpp"
 
@@ -71,7 +71,7 @@ TEST_F(PanelContract, CollectionBehavioursAreKeptAsTheyAre) {
   EXPECT_EQ(attributesOf(window).collectionBehavior, 6U);
 }
 
-TEST_F(PanelContract, OnlyATitleBarLetsAWindowBecomeKeyUnlessItIsTold) {
+TEST_F(PanelContract, OnlyAWindowWithATitleBarBecomesKeyUnlessAllowed) {
   EXPECT_TRUE(attributesOf(make(WindowKind::panel, StyleMask::titled)).canBecomeKey);
   EXPECT_FALSE(attributesOf(make(WindowKind::panel, StyleMask::titled)).canBecomeMain);
   Window window = make(WindowKind::window, StyleMask::miniaturizable);

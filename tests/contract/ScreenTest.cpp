@@ -1,4 +1,4 @@
-// What the application relies on in the screen list.
+// Contract tests for the list of screens.
 #include "Orvane/platform/appkit/Screen.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
@@ -30,7 +30,7 @@ TEST_F(ScreenContract, TheFirstScreensLowerLeftCornerIsTheOrigin) {
   EXPECT_TRUE(CGRectEqualToRect(screens[1].frame(), CGRectMake(1000, 0, 1000, 800)));
 }
 
-TEST_F(ScreenContract, ScreensTellTheirNamesAndDeviceDescriptions) {
+TEST_F(ScreenContract, ScreensHaveNamesAndDeviceDescriptions) {
   ORVANE_ARRANGE(arrangeTwoDisplays());
   const auto screens = Screen::screens();
   EXPECT_EQ(screens[0].localizedName(), "Left");
@@ -41,7 +41,7 @@ TEST_F(ScreenContract, ScreensTellTheirNamesAndDeviceDescriptions) {
   EXPECT_EQ(screens[0].deviceString("NSDeviceColorSpaceName"), "NSCalibratedRGBColorSpace");
 }
 
-TEST_F(ScreenContract, AnEntryThatIsMissingOrOfAnotherTypeIsNone) {
+TEST_F(ScreenContract, AnEntryThatIsMissingOrOfAnotherTypeIsAbsent) {
   ORVANE_ARRANGE(arrangeTwoDisplays());
   const Screen screen = Screen::screens().front();
   EXPECT_EQ(screen.deviceNumber("NoSuchEntry"), std::nullopt);

@@ -1,4 +1,4 @@
-// What the application relies on in timers.
+// Contract tests for timers.
 #include <optional>
 #include <utility>
 

@@ -1,4 +1,4 @@
-// What the application relies on in its user defaults.
+// Contract tests for user defaults.
 #include "Orvane/platform/appkit/UserDefaults.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
@@ -15,7 +15,7 @@ class UserDefaultsContract : public ContractFixture {
   ~UserDefaultsContract() override { UserDefaults::remove(key); }
 };
 
-TEST_F(UserDefaultsContract, AnAbsentValueIsNone) {
+TEST_F(UserDefaultsContract, AMissingValueIsAbsent) {
   EXPECT_EQ(UserDefaults::string(key), std::nullopt);
   EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
 }
@@ -34,7 +34,7 @@ TEST_F(UserDefaultsContract, AWrittenTruthIsReadBackAtOnce) {
   EXPECT_EQ(UserDefaults::boolean(key), false);
 }
 
-TEST_F(UserDefaultsContract, AValueOfAnotherTypeIsNone) {
+TEST_F(UserDefaultsContract, AValueOfAnotherTypeIsAbsent) {
   UserDefaults::setString(key, "true");
   EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
   UserDefaults::setBoolean(key, true);

@@ -1,4 +1,4 @@
-// What the application relies on in windows.
+// Contract tests for windows.
 #include <memory>
 #include <tuple>
 
@@ -14,7 +14,7 @@ using appkit::WindowKind;
 
 class WindowContract : public ContractFixture {
  protected:
-  /// Where displays cannot be arranged, those that are there serve as well.
+  /// Uses the real displays where displays cannot be arranged.
   void haveDisplays() { std::ignore = arrangeTwoDisplays(); }
 
   static Window borderless(WindowKind kind = WindowKind::window) {
@@ -78,7 +78,7 @@ TEST_F(WindowContract, TheCallbackOfClosingComesOnceAndMayDropEveryHandle) {
   letTimePass(0);
 }
 
-TEST_F(WindowContract, WithoutADelegateClosingTellsNobody) {
+TEST_F(WindowContract, ClosingWorksWithoutADelegate) {
   Window window = borderless();
   int calls = 0;
   window.onWillClose([&] { ++calls; });
@@ -87,7 +87,7 @@ TEST_F(WindowContract, WithoutADelegateClosingTellsNobody) {
   EXPECT_EQ(calls, 0);
 }
 
-TEST_F(WindowContract, ABorderlessWindowDoesNotBecomeKeyUnlessTold) {
+TEST_F(WindowContract, ABorderlessWindowDoesNotBecomeKeyUnlessAllowed) {
   haveDisplays();
   Window window = borderless();
   window.makeKeyAndOrderFront();

@@ -1,4 +1,4 @@
-// What the application relies on when it opens links and files.
+// Contract tests for opening links and files.
 #include <functional>
 #include <vector>
 
@@ -13,14 +13,14 @@ using appkit::Workspace;
 
 class WorkspaceContract : public ContractFixture {
  protected:
-  /// Notes an answer, and whether the call had returned by then.
+  /// Records a result, and whether the call had returned before it arrived.
   [[nodiscard]] std::function<void(bool)> answer() {
     return [this](bool isOpened) {
       EXPECT_TRUE(hasReturned);
       answers.push_back(isOpened);
     };
   }
-  /// Another program takes its time.
+  /// Another process may answer late.
   std::vector<bool> answersInTime(std::size_t count) {
     hasReturned = true;
     for (int turn = 0; turn < 100 && answers.size() < count; ++turn) {
@@ -33,14 +33,14 @@ class WorkspaceContract : public ContractFixture {
   std::vector<bool> answers;
 };
 
-TEST_F(WorkspaceContract, WhatIsNoURLIsNotOpened) {
+TEST_F(WorkspaceContract, AnInvalidURLIsNotOpened) {
   Workspace::openURL("", answer());
   Workspace::openURL("no link", answer());
   Workspace::openURL("\xFF", answer());
   EXPECT_EQ(answersInTime(3), (std::vector<bool>{false, false, false}));
 }
 
-TEST_F(WorkspaceContract, ARefusedLinkIsToldAndAnotherIsOpened) {
+TEST_F(WorkspaceContract, ARefusedLinkIsReportedAndAnotherIsOpened) {
   ORVANE_ARRANGE(canOpenLinks());
   ORVANE_ARRANGE(refuseLinks("x-apple.systempreferences:com.apple.settings"));
   Workspace::openURL("x-apple.systempreferences:com.apple.settings.Privacy", answer());
@@ -51,7 +51,7 @@ TEST_F(WorkspaceContract, ARefusedLinkIsToldAndAnotherIsOpened) {
   EXPECT_EQ(answersInTime(3), (std::vector<bool>{false, true, true}));
 }
 
-TEST_F(WorkspaceContract, NobodyNeedsToHearTheAnswer) {
+TEST_F(WorkspaceContract, TheCallbackIsOptional) {
   Workspace::openURL("");
   letTimePass(0.05);
 }

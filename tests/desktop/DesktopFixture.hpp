@@ -9,14 +9,13 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/Rect.hpp"
-#include "desk/application/ApplicationHost.hpp"
 #include "desk/desktop/DesktopPicture.hpp"
 #include "tests/canvas/PixelFixture.hpp"
-#include "tests/support/MachineFixture.hpp"
+#include "tests/support/ApplicationFixture.hpp"
 
 namespace orvane::desk {
 
-class DesktopFixture : public MachineFixture {
+class DesktopFixture : public ApplicationFixture {
  protected:
   static constexpr ui::Rect firstFrame{0, 0, 800, 500};
   static constexpr ui::Rect secondFrame{800, 0, 800, 500};
@@ -24,7 +23,6 @@ class DesktopFixture : public MachineFixture {
   DesktopFixture() {
     attach(1, firstFrame);
     attach(2, secondFrame);
-    machine.process.end();
     machine.permission.setTrusted(true);
     application.launch();
     machine.mouse.moveTo({400, 250});
@@ -74,7 +72,6 @@ class DesktopFixture : public MachineFixture {
                         static_cast<double>(cairo_image_surface_get_height(first.get()))});
   }
 
-  ApplicationHost application{machine};
   DrawingResources resources;
   DesktopPainter painter{resources};
 };

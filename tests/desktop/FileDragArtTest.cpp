@@ -1,7 +1,6 @@
 // The picture of a file that is dragged out of the permission guide.
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "desk/desktop/FileDragArt.hpp"
-#include "desk/windows/Surfaces.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
 namespace orvane::desk {
@@ -17,24 +16,17 @@ class FileDragArtTest : public DesktopFixture {
     machine.runDue();
   }
 
-  WindowServer& server() { return WindowServer::current(); }
   void beginDrag() {
-    const CGPoint corner = server().topLeftOf(*Surfaces(server()).window("guide"));
-    machine.mouse.moveTo({corner.x + 180, corner.y + 290});
-    machine.runDue();
-    machine.mouse.pressButton();
-    machine.runDue();
+    const CGPoint corner = server().topLeftOf(*window("guide"));
+    moveTo({corner.x + 180, corner.y + 290});
+    hand.pressButton();
     machine.mouse.moveBy(8, 8);
     machine.runDue();
     ASSERT_TRUE(server().pointer.fileDrag());
   }
-  void moveTo(CGPoint place) {
-    machine.mouse.moveTo(place);
-    machine.runDue();
-  }
   /// On the list of applications.
   CGPoint listPlace() {
-    const CGPoint corner = server().topLeftOf(*Surfaces(server()).window("system"));
+    const CGPoint corner = server().topLeftOf(*window("system"));
     const ui::Rect list = application.systemSettings().listFrame().value_or(ui::Rect{});
     return {corner.x + list.x + 200, corner.y + list.y + 20};
   }
@@ -52,8 +44,7 @@ TEST_F(FileDragArtTest, TheImageFollowsThePointer) {
   moveTo(place);
   const ui::Rect image = server().pointer.fileDrag()->image.movedBy({place.x, place.y});
   const SurfacePointer during = picture();
-  machine.mouse.releaseButton();
-  machine.runDue();
+  release();
   EXPECT_GT(differences(picture(), during, image), image.width * image.height / 2);
 }
 

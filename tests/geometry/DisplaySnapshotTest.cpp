@@ -1,4 +1,4 @@
-// What the application knows of each attached display.
+// The application's snapshot of each attached display.
 #include <set>
 #include <string>
 #include <unordered_set>

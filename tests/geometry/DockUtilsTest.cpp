@@ -1,4 +1,4 @@
-// Where the Dock's preferences say that it lives.
+// Reading the Dock's edge from its preferences.
 #include <string>
 #include <utility>
 #include <vector>
@@ -56,7 +56,7 @@ TEST_F(DockUtilsTest, AnyOtherTextIsUnknown) {
   }
 }
 
-TEST_F(DockUtilsTest, AValueThatIsNoTextIsTheBottom) {
+TEST_F(DockUtilsTest, AValueThatIsNotTextMeansTheBottom) {
   setDockOrientation(machine, 2.0);
   EXPECT_EQ(DockUtils::getDockPosition(), DockPosition::bottom);
   setDockOrientation(machine, true);

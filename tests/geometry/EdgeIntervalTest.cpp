@@ -1,4 +1,4 @@
-// Uniting stretches of an edge and taking them away from one.
+// Merging and subtracting intervals of an edge.
 #include <algorithm>
 #include <vector>
 
@@ -31,7 +31,7 @@ TEST(EdgeIntervalTest, AGapOfExactlyHalfAPointIsClosed) {
   EXPECT_EQ(EdgeInterval::merge({{0, 100}, {100.5, 200}}), (Intervals{{0, 200}}));
 }
 
-TEST(EdgeIntervalTest, AGapOfMoreThanHalfAPointStaysApart) {
+TEST(EdgeIntervalTest, AGapOfMoreThanHalfAPointIsKept) {
   EXPECT_EQ(EdgeInterval::merge({{0, 100}, {100.6, 200}}), (Intervals{{0, 100}, {100.6, 200}}));
 }
 
@@ -61,7 +61,7 @@ TEST(EdgeIntervalTest, WhatIsLeftIsInOrderAlongTheEdge) {
             (Intervals{{0, 20}, {30, 60}, {70, 100}}));
 }
 
-TEST(EdgeIntervalTest, AGapOfExactlyHalfAPointIsNoPiece) {
+TEST(EdgeIntervalTest, AGapOfExactlyHalfAPointIsNotAPiece) {
   EXPECT_EQ(EdgeInterval::subtract({0, 200}, {{0, 100}, {100.5, 200}}), Intervals{});
   EXPECT_EQ(EdgeInterval::subtract({0, 10}, {{0.5, 9.5}}), Intervals{});
 }
@@ -72,7 +72,7 @@ TEST(EdgeIntervalTest, AGapOfSixTenthsIsAPiece) {
   EXPECT_EQ(pieces[0], (EdgeInterval{100, 100.6}));
 }
 
-TEST(EdgeIntervalTest, WhatLiesBesideTheWholeRemovesNothing) {
+TEST(EdgeIntervalTest, AnIntervalOutsideTheWholeRemovesNothing) {
   EXPECT_EQ(EdgeInterval::subtract({10, 20}, {{0, 5}}), (Intervals{{10, 20}}));
   EXPECT_EQ(EdgeInterval::subtract({10, 20}, {{30, 40}}), (Intervals{{10, 20}}));
   EXPECT_EQ(EdgeInterval::subtract({10, 20}, {{0, 12}, {18, 40}}), (Intervals{{12, 18}}));
@@ -108,7 +108,7 @@ bool isWithin(double place, const Intervals& intervals) {
   });
 }
 
-/// The cells that the intervals cover, with the stretches of at most half a point between them.
+/// The cells that the intervals cover, with the gaps of at most half a point between them.
 Intervals mergedOnTheGrid(const Intervals& intervals) {
   Intervals merged;
   for (const auto& [start, end] : oracle::stretchesWhere(

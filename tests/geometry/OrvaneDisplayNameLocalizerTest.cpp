@@ -1,4 +1,4 @@
-// What displays are called in the three languages that their names know.
+// Display names in the three languages that they support.
 #include <regex>
 #include <string>
 #include <vector>
@@ -129,7 +129,7 @@ TEST_F(OrvaneDisplayNameLocalizerTest, ForTheSystemIdentifiersAreTrimmedAndNorma
   }
 }
 
-// The same rules once more, as regular expressions.
+// The same rules as regular expressions.
 DisplayNameLanguage expectedForSystem(const std::vector<std::string>& identifiers) {
   const auto flags = std::regex::ECMAScript | std::regex::icase;
   static const std::regex traditional(

@@ -1,5 +1,5 @@
-// Exposed stretches and zones on random arrangements of displays, beside a slow and obvious answer
-// and under turns and reflections of the whole desk.
+// Exposed intervals and zones on random arrangements of displays, compared with a slow, obviously
+// correct oracle, and under rotation and reflection of the arrangement.
 #include <algorithm>
 #include <cstddef>
 #include <set>
@@ -33,7 +33,7 @@ bool hasPoint(const CGRect& rect, CGPoint point) {
          point.y >= rect.origin.y && point.y < rect.origin.y + rect.size.height;
 }
 
-/// How deep in the display a point lies, from its Dock edge.
+/// The distance of a point from the display's Dock edge, inwards.
 double depthFrom(DockPosition edge, const CGRect& frame, CGPoint point) {
   switch (edge) {
     case DockPosition::left:
@@ -45,7 +45,7 @@ double depthFrom(DockPosition edge, const CGRect& frame, CGPoint point) {
   }
 }
 
-/// Whether the point lies at most twelve points behind an exposed place of the display's Dock edge.
+/// Whether the point is less than twelve points inside an exposed part of the display's Dock edge.
 bool isGuarded(CGPoint point, const CGRect& frame, DockPosition edge,
                const std::vector<CGRect>& frames) {
   const double depth = depthFrom(edge, frame, point);

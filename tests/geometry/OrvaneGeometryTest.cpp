@@ -1,4 +1,4 @@
-// Which stretches of a display's Dock edge are exposed, and the trigger zones made of them.
+// The exposed intervals of a display's Dock edge, and the resulting trigger zones.
 #include <cmath>
 #include <cstddef>
 #include <limits>
@@ -98,8 +98,8 @@ TEST(OrvaneGeometryTest, ASharedStretchOfAtMostHalfAPointDoesNotCount) {
   EXPECT_EQ(exposedIntervals(frame, DockPosition::bottom, more), (Intervals{{0.75, 200}}));
 }
 
-TEST(OrvaneGeometryTest, AMirrorIsNoNeighbour) {
-  // So flat that its upper edge is within the tolerance of its lower one.
+TEST(OrvaneGeometryTest, AMirrorIsNotANeighbour) {
+  // So flat that its upper edge is within the neighbour tolerance of its lower one.
   const CGRect flat{{0, 0}, {100, 1.5}};
   EXPECT_EQ(exposedIntervals(flat, DockPosition::bottom, Frames{flat, flat}),
             (Intervals{{0, 100}}));

@@ -1,4 +1,4 @@
-// Under which identifiers a display is known, and where it is in global coordinates.
+// A display's identifiers and its frame in global coordinates.
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -69,7 +69,7 @@ TEST_F(OrvaneScreenTest, TheLegacyIdentifierShowsDepthAndColourSpace) {
             "Optional(77)-2560.5-1440.25-Optional(10)-Optional(\"NSDeviceRGBColorSpace\")");
 }
 
-TEST_F(OrvaneScreenTest, TheLegacyIdentifierSaysNilForADepthAndAColourSpaceThatAreLeftOut) {
+TEST_F(OrvaneScreenTest, TheLegacyIdentifierHasNilForAMissingDepthAndColourSpace) {
   desk::Display display = desk::laptop();
   display.bitsPerSample = std::nullopt;
   display.colorSpace = std::nullopt;
@@ -207,7 +207,7 @@ desk::Display displayOf(const Spec& spec) {
   return display;
 }
 
-/// All names of the display, put together by hand.
+/// All identifiers of the display, composed by hand.
 std::set<std::string> namesOf(const Spec& spec) {
   const std::string number = std::to_string(spec.number);
   std::string legacy = spec.hasNumber ? "Optional(" + number + ")" : "nil";

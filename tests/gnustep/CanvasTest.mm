@@ -1,4 +1,4 @@
-// What the canvas draws with Core Graphics, pixel by pixel.
+// Tests of what the canvas draws with Core Graphics, pixel by pixel.
 #include <cmath>
 #include <cstddef>
 #include <memory>
@@ -14,7 +14,7 @@ namespace {
 
 constexpr int side = 80;
 
-/// A white picture, in which a canvas draws with y downwards.
+/// A white image with a canvas whose y points downwards.
 class Canvas : public testing::Test {
  protected:
   Canvas() {
@@ -28,14 +28,14 @@ class Canvas : public testing::Test {
 
   CGContextRef reference() { return (__bridge CGContextRef)context_; }
 
-  /// From black, 0, to white, 255.
+  /// From 0 for black to 255 for white.
   int brightness(int x, int y) {
     cairo_surface_flush(surface_.get());
     const std::ptrdiff_t stride = cairo_image_surface_get_stride(surface_.get());
     return cairo_image_surface_get_data(surface_.get())[y * stride + 4 * x + 1];
   }
 
-  /// What is not white.
+  /// The number of pixels that are not white.
   std::optional<ui::Rect> drawnArea() {
     std::optional<ui::Rect> area;
     for (int y = 0; y < side; ++y) {

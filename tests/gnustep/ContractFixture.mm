@@ -1,4 +1,4 @@
-// The contract's fixture on GNUstep: the shim can be arranged in nearly every way.
+// The contract fixture on GNUstep, where the shim provides nearly every precondition.
 #include "tests/contract/ContractFixture.hpp"
 #include "tests/contract/macos/ApplicationRun.hpp"
 #include "tests/gnustep/shim/World.hpp"
@@ -28,7 +28,7 @@ NSWindow* windowAt(CGPoint global) {
 
 void postMouse(NSEventType type, CGPoint global) {
   static __weak NSWindow* pressed = nil;
-  // What follows a press belongs to the window that was pressed.
+  // The events after a press belong to the window that was pressed.
   NSWindow* const window = type == NSLeftMouseDown ? windowAt(global) : pressed;
   pressed = window;
   if (window != nil) {

@@ -1,4 +1,4 @@
-// The guard of the pointer on the shim's event taps and displays.
+// Tests of the mouse guard on the shim's event taps and displays.
 #include <string>
 #include <vector>
 
@@ -15,7 +15,7 @@ class GuardOnTaps : public ContractFixture {
  protected:
   GuardOnTaps() {
     world().isTrusted = true;
-    // The second is taller and begins higher: what lies at its lower edge depends on the turn of y.
+    // The second is taller and begins higher: its lower edge reveals a wrong conversion of y.
     world().displays = {{1, leftUUID, "Left", CGRectMake(0, 0, 1000, 800), true},
                         {2, "", "Right", CGRectMake(1000, -100, 1200, 700), false}};
   }
@@ -24,13 +24,13 @@ class GuardOnTaps : public ContractFixture {
 
   static void start(DockMouseGuard& guard) { guard.start(leftUUID, OrvaneModifier::option, false); }
 
-  /// Where the pointer is after a movement to a place.
+  /// The pointer's y after a movement to a point.
   static double yAfter(double x, double y) {
     gnustep::movePointer(CGPointMake(x, y));
     return world().pointer.y;
   }
 
-  /// A place at the lower edge of the second display, where the Dock may not come up.
+  /// A point at the lower edge of the second display, where the Dock must not appear.
   static constexpr double guardedX = 1500;
   static constexpr double guardedY = 599;
 };

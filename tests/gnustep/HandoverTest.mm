@@ -1,4 +1,4 @@
-// Copies of the application that run in one session.
+// Tests of several copies of the application in one session.
 #import <AppKit/AppKit.h>
 
 #include <optional>
@@ -28,13 +28,13 @@ namespace {
 
 using gnustep::world;
 
-/// The copy that is tested was launched at 1000 seconds.
+/// The copy under test was launched at 1000 seconds.
 class HandoverOnMac : public ContractFixture {
  protected:
   static constexpr int otherProcess = 1;
 };
 
-TEST_F(HandoverOnMac, TheOnlyCopyStays) {
+TEST_F(HandoverOnMac, TheOnlyCopyRemains) {
   EXPECT_FALSE(handOverToRunningCopy());
   EXPECT_TRUE(world().distributedNotifications.empty());
 }
@@ -47,7 +47,7 @@ TEST_F(HandoverOnMac, ALaterCopyAsksTheFirstAndGivesWay) {
   EXPECT_EQ(world().yieldedTo, std::vector<int>{otherProcess});
 }
 
-TEST_F(HandoverOnMac, TheFirstOfTwoThatStartAtOneTimeStays) {
+TEST_F(HandoverOnMac, TheFirstOfTwoThatStartAtOnceRemains) {
   world().otherCopies[otherProcess] = {.launchedAt = 1001, .isRunning = false};
   EXPECT_FALSE(handOverToRunningCopy());
   EXPECT_TRUE(world().yieldedTo.empty());
@@ -55,7 +55,7 @@ TEST_F(HandoverOnMac, TheFirstOfTwoThatStartAtOneTimeStays) {
   EXPECT_TRUE(handOverToRunningCopy());
 }
 
-TEST_F(HandoverOnMac, ACopyThatSomebodyStartedByHandStaysWhenItRuns) {
+TEST_F(HandoverOnMac, ACopyStartedByHandRemainsWhenItRuns) {
   world().otherCopies[otherProcess] = {.launchedAt = std::nullopt};
   EXPECT_TRUE(handOverToRunningCopy());
   world().otherCopies[otherProcess] = {.launchedAt = std::nullopt, .isRunning = false};

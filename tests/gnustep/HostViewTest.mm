@@ -1,4 +1,4 @@
-// A host view's events on AppKit: the pointer, the keys, the wheel and what changes around it.
+// Tests of a host view's events on AppKit: pointer, keys, wheel and changes of its environment.
 #include <optional>
 #include <string>
 #include <vector>
@@ -57,7 +57,7 @@ TEST_F(HostView, AClickReachesWhatLiesUnderIt) {
   window.close();
 }
 
-TEST_F(HostView, AClickThatIsReleasedElsewhereIsNone) {
+TEST_F(HostView, AClickThatIsReleasedElsewhereIsIgnored) {
   Window window = showTwoButtons();
   mouse(nativeOf(window), NSLeftMouseDown, 100, 20);
   mouse(nativeOf(window), NSLeftMouseDragged, 100, 80);
@@ -101,10 +101,10 @@ TEST_F(HostView, AKeyEquivalentThatNoViewTakesIsTheApplications) {
   window.close();
 }
 
-TEST_F(HostView, EveryKeyThatTheKitKnowsIsTranslated) {
+TEST_F(HostView, EveryKeyOfTheKitIsTranslated) {
   Window window = showTwoButtons();
   NSWindow* const native = nativeOf(window);
-  // The first Tab finds the first button, the next the second, and the reverse the first again.
+  // The first Tab focuses the first button, the next the second, and the back-tab the first again.
   key(native, @"\t");
   key(native, @" ");
   EXPECT_EQ(first, 1);
@@ -145,13 +145,13 @@ TEST_F(HostView, TheWheelScrollsWhatLiesUnderIt) {
                                               deltaZ:0];
   [NSApp sendEvent:wheel];
   letTimePass(0.05);
-  // Eight lines of ten points; a column with its margins is 74 points wide.
+  // Eight lines of ten points each; a column with its margins is 74 points wide.
   click(nativeOf(window), 20, 50);
   EXPECT_EQ(clicks, (std::vector<int>{0, 1}));
   window.close();
 }
 
-TEST_F(HostView, ATooltipSaysItsText) {
+TEST_F(HostView, ATooltipShowsItsText) {
   Window window = show([](const ui::Environment&) -> ui::View {
     return ui::HStack(0, {ui::Rectangle().frame(100, 100).tooltip("what this is"),
                           ui::Rectangle().frame(100, 100)});
@@ -183,7 +183,7 @@ TEST_F(HostView, TheSettingsOfTheDisplayReachItsContent) {
   window.close();
 }
 
-TEST_F(HostView, ThePointerThatLeavesHoversOverNothing) {
+TEST_F(HostView, APointerThatLeavesHoversOverNothing) {
   std::vector<bool> hovers;
   Window window = show([&](const ui::Environment&) -> ui::View {
     return ui::Rectangle().frame(200, 100).onHover([&](bool isOver) { hovers.push_back(isOver); });
@@ -255,6 +255,12 @@ TEST_F(HostView, APressOnTheBackgroundDragsTheWindow) {
   window.close();
 }
 
+TEST_F(HostView, ItsLayerHasSixteenBitsForEachColour) {
+  Window window = showTwoButtons();
+  EXPECT_TRUE([hostOf(window).layer.contentsFormat isEqual:kCAContentsFormatRGBA16Float]);
+  window.close();
+}
+
 TEST_F(HostView, ABackdropIsTheContentViewOfItsWindowAndHoldsTheContent) {
   Window window(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
                 appkit::StyleMask::nonactivatingPanel);
@@ -267,7 +273,7 @@ TEST_F(HostView, ABackdropIsTheContentViewOfItsWindowAndHoldsTheContent) {
   }
   auto* const backdrop = static_cast<NSVisualEffectView*>(nativeOf(window).contentView);
   ASSERT_TRUE([backdrop isKindOfClass:NSVisualEffectView.class]);
-  // Its mask shapes the window's shadow.
+  // Its mask determines the window's shadow.
   EXPECT_NE(backdrop.maskImage, nil);
   EXPECT_EQ(backdrop.maskImage.capInsets.left, 39);
   OrvaneHostView* const view = hostOf(window);

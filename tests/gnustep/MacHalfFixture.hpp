@@ -1,4 +1,4 @@
-// MacHalfFixture shows views in windows of their own, and sends these what AppKit would send them.
+// MacHalfFixture shows views in windows, and sends the windows the events that AppKit would send.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,7 @@
 #include "macos/hosting/HostView.hpp"
 #include "tests/contract/ContractFixture.hpp"
 
-/// What assistive programs ask of a host view and its elements.
+/// The methods that assistive programs call on a host view and its elements.
 @interface NSObject (OrvaneAccessibility)
 - (NSArray*)accessibilityChildren;
 - (id)accessibilityFocusedUIElement;
@@ -26,9 +26,9 @@ class MacHalfFixture : public ContractFixture {
   ~MacHalfFixture() override;
 
  protected:
-  /// Time passes until something is so, some seconds at most; whether it is.
+  /// Runs the run loop until a condition holds, for some seconds at most; returns whether it does.
   [[nodiscard]] bool isSoon(const std::function<bool()>& condition);
-  /// Does something as soon as something is so, in whatever mode the run loop is then.
+  /// Runs an action as soon as a condition holds, in any mode of the run loop.
   void when(const std::function<bool()>& condition, const std::function<void()>& action);
 
   /// A key panel of 200 by 100 points at (100, 100).
@@ -37,7 +37,7 @@ class MacHalfFixture : public ContractFixture {
   static NSWindow* nativeOf(const appkit::Window& window);
   static OrvaneHostView* hostOf(const appkit::Window& window);
 
-  /// An event of the mouse, by the distance from the top left of the content.
+  /// A mouse event at a point relative to the top left corner of the content.
   static NSEvent* mouseEvent(NSWindow* window, NSEventType type, double x, double y);
   static void mouse(NSWindow* window, NSEventType type, double x, double y);
   static void click(NSWindow* window, double x, double y);
@@ -46,9 +46,9 @@ class MacHalfFixture : public ContractFixture {
   static void key(NSWindow* window, NSString* characters, NSUInteger modifiers = 0,
                   BOOL isRepeated = NO);
 
-  /// The window of the menu that is open; nil when none is.
+  /// The window of the open menu; nil if there is none.
   static NSWindow* openMenuWindow();
-  /// When a menu is open, it is sent these keys, one after another.
+  /// Sends these keys, one after another, to the next menu that opens.
   void typeIntoMenu(NSArray* keys);
   static NSString* functionKey(unichar key);
 

@@ -1,4 +1,4 @@
-// Shows views, and sends events to them.
+// Shows views in windows and sends events to them.
 #include "tests/gnustep/MacHalfFixture.hpp"
 
 #include <utility>
@@ -10,13 +10,13 @@ namespace orvane {
 
 namespace {
 
-/// More than enough on a machine that is busy.
+/// Ample even on a busy machine.
 constexpr double patienceSeconds = 20;
 
 }  // namespace
 
 MacHalfFixture::~MacHalfFixture() {
-  // What they refer to ends with the test.
+  // The timers refer to objects of the test.
   for (NSTimer* timer in timers_) {
     [timer invalidate];
   }
@@ -39,13 +39,13 @@ void MacHalfFixture::when(const std::function<bool()>& condition,
                                                 repeats:YES
                                                   block:^(NSTimer* running) {
                                                     if (isDue()) {
-                                                      // The timer lets go of this block.
+                                                      // The timer releases this block.
                                                       const std::function<void()> acting = act;
                                                       [running invalidate];
                                                       acting();
                                                     } else if (end.timeIntervalSinceNow < 0) {
                                                       [running invalidate];
-                                                      ADD_FAILURE() << "it did not come to that";
+                                                      ADD_FAILURE() << "the condition never held";
                                                     }
                                                   }];
   [NSRunLoop.mainRunLoop addTimer:timer forMode:NSRunLoopCommonModes];

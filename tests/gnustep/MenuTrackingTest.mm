@@ -1,4 +1,5 @@
-// Menus that are open: rows that rebuild their own menu, the keyboard, and a session that begins.
+// Tests of open menus: rows that rebuild their own menu, the keyboard, and a modal session that
+// begins meanwhile.
 #include <functional>
 #include <string>
 #include <vector>
@@ -33,14 +34,14 @@ class MenuTracking : public MacHalfFixture {
     menu.insertItem(0, rowWith(std::move(action)));
   }
 
-  /// Opens the menu of a status item, and returns when it has been closed.
+  /// Opens the menu of a new status item and returns when it is closed.
   static void open(const appkit::Menu& menu) {
     appkit::StatusItem item;
     item.setMenu(menu);
     clickStatusItem();
   }
 
-  /// The same with an item that is there.
+  /// The same with an existing item.
   static void clickStatusItem() {
     for (NSWindow* window in NSApp.windows) {
       if (window.visible && [window.contentView isKindOfClass:NSStatusBarButton.class]) {
@@ -50,7 +51,7 @@ class MenuTracking : public MacHalfFixture {
         return;
       }
     }
-    ADD_FAILURE() << "there is no item in the bar";
+    ADD_FAILURE() << "the status bar has no item";
   }
 
   static bool isMenuOpen() { return openMenuWindow() != nil; }
@@ -164,7 +165,7 @@ TEST_F(MenuTracking, ASwitchWhoseChoiceBringsUpAnAlertLeavesTheMenuClosed) {
                        appkit::StyleMask::titled);
   int alerts = 0;
   appkit::MenuItem row = rowWith([&] {
-    // As the permission alert comes up: by a task of the main queue.
+    // The permission alert begins in the same way: in a main-queue task.
     appkit::MainQueue::async([&] {
       NSDate* const read = [NSDate dateWithTimeIntervalSinceNow:0.2];
       when([read] { return NSApp.modalWindow != nil && read.timeIntervalSinceNow < 0; },
@@ -194,7 +195,7 @@ TEST_F(MenuTracking, TheButtonMayComeUpOverARowWhereItDidNotGoDown) {
   int clicks = 0;
   addRow(menu, [&] { ++clicks; });
   when(isMenuOpen, [] {
-    // The menu's own loop gives it to what lies under the pointer.
+    // The menu's tracking loop sends it to the view under the pointer.
     OrvaneHostView* const view = static_cast<OrvaneHostingContainer*>(row(0)).hostView;
     const NSPoint middle = [view convertPoint:NSMakePoint(90, 15) toView:nil];
     [view mouseUp:mouseEvent(openMenuWindow(), NSLeftMouseUp, middle.x,

@@ -1,4 +1,4 @@
-// What is autoreleased in a callback of the run loop goes with that callback.
+// Tests that each callback of the run loop drains its autoreleased objects.
 #import <AppKit/AppKit.h>
 
 #include "Orvane/platform/appkit/Timer.hpp"
@@ -11,7 +11,7 @@ namespace {
 
 class Pools : public ContractFixture {
  protected:
-  /// Notes the timers of the main run loop, so that a test can fire them outside of it.
+  /// Records the timers of the main run loop, so that a test can fire them directly.
   Pools() {
     static IMP const add = gnustep::replaceMethod(
         NSRunLoop.class, @selector(addTimer:forMode:),
@@ -25,7 +25,7 @@ class Pools : public ContractFixture {
     static __weak NSTimer* timer = nil;
     return timer;
   }
-  /// Leaves an object to the pool.
+  /// Autoreleases an object.
   void leaveAnObject() {
     NSObject* const __autoreleasing object = [[NSObject alloc] init];
     left_ = object;

@@ -1,4 +1,4 @@
-// Where the user has put the item in the status bar is kept while the item exists.
+// Tests that the position of the status item is kept while the item exists.
 #import <AppKit/AppKit.h>
 
 #include <optional>
@@ -12,8 +12,8 @@ namespace {
 
 class StatusItemOnMac : public ContractFixture {
  protected:
-  /// Notes the item that the bar makes, and how many items are taken out of it. GNUstep's bar keeps
-  /// its items for good.
+  /// Records the item that the bar creates, and counts the removed items. GNUstep's bar never
+  /// releases its items.
   StatusItemOnMac() {
     gnustep::replaceMethod(NSStatusBar.class, @selector(statusItemWithLength:),
                            ^NSStatusItem*(NSStatusBar*, CGFloat) {
@@ -46,7 +46,7 @@ class StatusItemOnMac : public ContractFixture {
     @autoreleasepool {
       owner.reset();
     }
-    // What is left to the test's own pool goes, too.
+    // Drains the test's own autorelease pool, too.
     letTimePass(0.01);
   }
 

@@ -1,5 +1,5 @@
-// A handler may end the view, the window and every handle of what is calling it; what is gone is
-// gone.
+// Tests that a handler may destroy its view, its window and all their handles, and that nothing is
+// leaked.
 #include <memory>
 #include <optional>
 
@@ -11,7 +11,7 @@
 #include "macos/appkit/NativeWindow.hpp"
 #include "tests/gnustep/MacHalfFixture.hpp"
 
-/// Is asked whether the application may quit, and says no.
+/// A delegate that refuses to terminate the application.
 @interface OrvaneUndecided : NSObject <NSApplicationDelegate> {
  @public
   int _questions;
@@ -31,7 +31,7 @@ using appkit::Window;
 
 class Teardown : public MacHalfFixture {
  protected:
-  /// Shows `root`, and keeps the only handle.
+  /// Shows `root` and holds the only handle.
   void showAndWatch(appkit::HostingView::RootBuilder root) {
     @autoreleasepool {
       window.emplace(show(std::move(root)));
@@ -85,7 +85,7 @@ TEST_F(Teardown, APressByVoiceOverMayEndEverything) {
     [kept accessibilityPerformPress];
   }
   expectNothingLeft();
-  // A screen reader may hold the element for longer.
+  // A screen reader may retain the element longer.
   EXPECT_TRUE(NSIsEmptyRect([kept accessibilityFrame]));
   [kept accessibilityPerformPress];
   [kept setAccessibilityFocused:YES];
@@ -158,7 +158,7 @@ TEST_F(Teardown, AnAnimationDoesNotKeepItsView) {
   expectNothingLeft();
 }
 
-TEST_F(Teardown, AWindowThatIsShownLivesWithoutHandles) {
+TEST_F(Teardown, AShownWindowOutlivesItsHandles) {
   showAndWatch([](const ui::Environment&) { return ui::View(); });
   window.reset();
   letTimePass(0.05);

@@ -1,5 +1,4 @@
-// What the Mac half makes of the kit's words, and the kit of the Mac's: keys, colours, weights,
-// roles.
+// Tests of the translation between the kit's values and AppKit's: keys, colours, weights, roles.
 #include <map>
 #include <string>
 #include <vector>
@@ -83,7 +82,7 @@ TEST_F(Translation, ASystemColourIsThatOfTheAppearanceThatIsAskedFor) {
     EXPECT_NEAR(color.green * 255, green, 1);
     EXPECT_NEAR(color.blue * 255, blue, 1);
   };
-  // The appearance that draws is the light one.
+  // The current drawing appearance is the light one.
   expectColor(ui::SystemColor::red, false, 0xFF, 0x3B, 0x30);
   expectColor(ui::SystemColor::red, true, 0xFF, 0x45, 0x3A);
   expectColor(ui::SystemColor::green, true, 0x30, 0xD1, 0x58);
@@ -157,7 +156,7 @@ TEST_F(Translation, EveryRoleHasItsNameAndItsValue) {
 class CanvasOnMac : public ContractFixture {
  protected:
   CanvasOnMac() {
-    // As in a flipped view.
+    // As a flipped view does.
     CGContextRef const reference = (__bridge CGContextRef)context;
     CGContextTranslateCTM(reference, 0, 20);
     CGContextScaleCTM(reference, 1, -1);
@@ -219,7 +218,7 @@ TEST_F(CanvasOnMac, AShadowFallsDownwardsAndOutsideOfItsShape) {
   EXPECT_EQ(pixel(10, 2), 0U);
 }
 
-TEST_F(Translation, WhetherALinkWasOpenedIsToldOnTheMainThread) {
+TEST_F(Translation, WhetherALinkWasOpenedIsReportedOnTheMainThread) {
   int answers = 0;
   gnustep::world().refusedLinkPrefix = "refused:";
   int expected = 0;

@@ -1,4 +1,4 @@
-// The tree that a host view serves to assistive programs, and what they are told of its changes.
+// Tests of the accessibility tree of a host view and the notifications of its changes.
 #include <algorithm>
 #include <optional>
 #include <string>
@@ -31,7 +31,7 @@ class VoiceOver : public MacHalfFixture {
     });
   }
 
-  static bool wasTold(NSString* notification) {
+  static bool wasPosted(NSString* notification) {
     return std::ranges::count(world().announcements, std::string(notification.UTF8String) + "|") >
            0;
   }
@@ -41,7 +41,7 @@ class VoiceOver : public MacHalfFixture {
   std::string firstLabel = "first";
 };
 
-TEST_F(VoiceOver, EachElementSaysWhatItIsAndWhere) {
+TEST_F(VoiceOver, EachElementReportsItsRoleAndFrame) {
   Window window = showTwoButtons();
   OrvaneHostView* const view = hostOf(window);
   NSArray* const children = [view accessibilityChildren];
@@ -51,7 +51,7 @@ TEST_F(VoiceOver, EachElementSaysWhatItIsAndWhere) {
   EXPECT_STREQ(top.accessibilityLabel.UTF8String, "first");
   EXPECT_TRUE([top.accessibilityRole isEqual:NSAccessibilityButtonRole]);
   EXPECT_EQ(top.accessibilityParent, nativeOf(window));
-  // The focus ring's room is part of a button.
+  // A button includes the space of its focus ring.
   EXPECT_TRUE(CGRectEqualToRect(top.accessibilityFrame, CGRectMake(88, 150, 224, 60)));
   EXPECT_TRUE(CGRectEqualToRect(bottom.accessibilityFrame, CGRectMake(88, 90, 224, 60)));
   window.setFrameOrigin(CGPointMake(120, 90));
@@ -92,7 +92,7 @@ TEST_F(VoiceOver, ATextIsAValueAndAHeadingALabel) {
   window.close();
 }
 
-TEST_F(VoiceOver, AnElementIsFoundByItsPlaceAndPressed) {
+TEST_F(VoiceOver, AnElementIsFoundByItsPositionAndPressed) {
   Window window = showTwoButtons();
   OrvaneHostView* const view = hostOf(window);
   NSArray* const children = [view accessibilityChildren];
@@ -132,13 +132,13 @@ TEST_F(VoiceOver, TheFocusOfTheKeyboardFollows) {
   EXPECT_EQ([view accessibilityFocusedUIElement], children[1]);
   EXPECT_TRUE([children[1] isAccessibilityFocused]);
   EXPECT_FALSE([children[0] isAccessibilityFocused]);
-  EXPECT_TRUE(wasTold(NSAccessibilityFocusedUIElementChangedNotification));
+  EXPECT_TRUE(wasPosted(NSAccessibilityFocusedUIElementChangedNotification));
   key(nativeOf(window), @" ");
   EXPECT_EQ(second, 1);
   window.close();
 }
 
-TEST_F(VoiceOver, AListenerHearsOfAChangeWithoutAsking) {
+TEST_F(VoiceOver, AListenerIsNotifiedOfAChange) {
   world().isVoiceOverOn = true;
   Window window = showTwoButtons();
   (void)[hostOf(window) accessibilityChildren];
@@ -146,11 +146,11 @@ TEST_F(VoiceOver, AListenerHearsOfAChangeWithoutAsking) {
   firstLabel = "another";
   window.contentView()->setNeedsUpdate();
   letTimePass(0.05);
-  EXPECT_TRUE(wasTold(NSAccessibilityLayoutChangedNotification));
+  EXPECT_TRUE(wasPosted(NSAccessibilityLayoutChangedNotification));
   window.close();
 }
 
-TEST_F(VoiceOver, TheStatusItemSaysItsValueAndThatItHasChanged) {
+TEST_F(VoiceOver, TheStatusItemAnnouncesItsValueAndItsChanges) {
   appkit::StatusItem item;
   NSStatusBarButton* button = nil;
   for (NSWindow* window in NSApp.windows) {
@@ -163,13 +163,13 @@ TEST_F(VoiceOver, TheStatusItemSaysItsValueAndThatItHasChanged) {
   world().announcements.clear();
   item.setAccessibilityValue("Locked");
   EXPECT_STREQ([button.accessibilityValue UTF8String], "Locked");
-  EXPECT_TRUE(wasTold(NSAccessibilityValueChangedNotification));
+  EXPECT_TRUE(wasPosted(NSAccessibilityValueChangedNotification));
   world().announcements.clear();
   item.setAccessibilityValue("Locked");
   EXPECT_TRUE(world().announcements.empty());
 }
 
-TEST_F(VoiceOver, AnElementThatGoesAndANewValueAreTold) {
+TEST_F(VoiceOver, ARemovedElementAndANewValueAreAnnounced) {
   bool isOn = false;
   Window window = show([&](const ui::Environment&) -> ui::View {
     const auto toggle = ui::Rectangle()
@@ -189,8 +189,8 @@ TEST_F(VoiceOver, AnElementThatGoesAndANewValueAreTold) {
   window.contentView()->setNeedsUpdate();
   (void)[hostOf(window) accessibilityChildren];
   EXPECT_EQ([element.accessibilityValue integerValue], 1);
-  EXPECT_TRUE(wasTold(NSAccessibilityValueChangedNotification));
-  EXPECT_TRUE(wasTold(NSAccessibilityUIElementDestroyedNotification));
+  EXPECT_TRUE(wasPosted(NSAccessibilityValueChangedNotification));
+  EXPECT_TRUE(wasPosted(NSAccessibilityUIElementDestroyedNotification));
   window.close();
 }
 

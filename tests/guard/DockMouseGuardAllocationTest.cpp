@@ -1,5 +1,5 @@
-// The filter sits in the path of every pointer movement: it must not take memory. In an executable
-// of its own, whose operator new counts.
+// The filter runs for every pointer movement, so it must not allocate. A separate executable with a
+// counting operator new.
 #include <cstddef>
 #include <new>
 
@@ -16,12 +16,12 @@ class DockMouseGuardAllocationTest : public GuardFixture {
  protected:
   DockMouseGuardAllocationTest() {
     startPreventing();
-    // The first report of a run of blocks takes its task; it is not what is measured.
+    // The first report of a series of blocks allocates a task, which is not measured here.
     block();
     machine.runDue();
   }
 
-  /// How much the filter takes for so many events.
+  /// The filter's allocations for that many events.
   std::size_t takenFor(int events, CGEventType type, CGPoint place, std::uint64_t flags = 0) {
     std::size_t taken = 0;
     for (int done = 0; done < events; ++done) {
@@ -36,23 +36,23 @@ class DockMouseGuardAllocationTest : public GuardFixture {
 
 TEST_F(DockMouseGuardAllocationTest, TheCounterCounts) {
   const AllocationCounter counter;
-  // Called by name, because a compiler may leave out what a new-expression would have taken.
+  // Called by name, because a compiler may elide the allocation of a new-expression.
   ::operator delete(::operator new(100));
   ::operator delete(::operator new(8));
   EXPECT_EQ(counter.count(), 2U);
 }
 
-TEST_F(DockMouseGuardAllocationTest, AMissTakesNothing) {
+TEST_F(DockMouseGuardAllocationTest, AMissAllocatesNothing) {
   EXPECT_EQ(takenFor(10'000, kCGEventMouseMoved, outsideEveryZone), 0U);
 }
 
-TEST_F(DockMouseGuardAllocationTest, AHitTakesNothing) {
+TEST_F(DockMouseGuardAllocationTest, AHitAllocatesNothing) {
   EXPECT_EQ(takenFor(178, kCGEventMouseMoved, inTheZone), 0U);
-  EXPECT_EQ(guard->recentBlockTimestamps().size(), 179U);
-  EXPECT_EQ(guard->blockedCount(), 179);
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 179U);
+  EXPECT_EQ(guard->snapshot().blockedCount, 179);
 }
 
-TEST_F(DockMouseGuardAllocationTest, AHitThatForgetsOldBlocksTakesNothing) {
+TEST_F(DockMouseGuardAllocationTest, AHitThatDiscardsOldBlocksAllocatesNothing) {
   std::size_t taken = 0;
   for (int second = 0; second < 50; ++second) {
     // The first of each second is reported.
@@ -65,15 +65,15 @@ TEST_F(DockMouseGuardAllocationTest, AHitThatForgetsOldBlocksTakesNothing) {
   EXPECT_TRUE(guard->isRunning());
 }
 
-TEST_F(DockMouseGuardAllocationTest, AHeldModifierTakesNothing) {
+TEST_F(DockMouseGuardAllocationTest, AHeldModifierAllocatesNothing) {
   outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
   machine.runDue();
   EXPECT_EQ(takenFor(10'000, kCGEventMouseMoved, inTheZone, kCGEventFlagMaskAlternate), 0U);
   EXPECT_EQ(takenFor(10'000, kCGEventMouseMoved, outsideEveryZone, kCGEventFlagMaskAlternate), 0U);
 }
 
-TEST_F(DockMouseGuardAllocationTest, ATapThatTheSystemDisabledTakesNothing) {
-  // The fifth within ten seconds leaves a task on the main queue.
+TEST_F(DockMouseGuardAllocationTest, ATapThatTheSystemDisabledAllocatesNothing) {
+  // The fifth within ten seconds posts a task to the main queue.
   EXPECT_EQ(takenFor(4, kCGEventTapDisabledByTimeout, inTheZone), 0U);
 }
 
@@ -89,7 +89,7 @@ TEST_F(DockMouseGuardAllocationTest, OnlyWhatIsReportedTakesMemoryAtMostOnceASec
   EXPECT_EQ(reports, 20) << "a thousand blocks in twenty seconds";
 }
 
-TEST_F(DockMouseGuardAllocationTest, TheWayThroughPointerTapAndDockTakesNothing) {
+TEST_F(DockMouseGuardAllocationTest, ThePathThroughPointerTapAndDockAllocatesNothing) {
   machine.mouse.moveTo({2500, 500});
   machine.runDue();
   const AllocationCounter counter;

@@ -1,4 +1,4 @@
-// How the guard follows changes of the displays: it pauses, comes back and sees new zones.
+// How the guard follows display changes: it pauses, resumes and updates its zones.
 #include <gtest/gtest.h>
 
 #include "tests/guard/GuardLifeFixture.hpp"
@@ -8,59 +8,59 @@ namespace {
 
 class DockMouseGuardDisplayChangeTest : public GuardLifeFixture {};
 
-TEST_F(DockMouseGuardDisplayChangeTest, WithoutZonesAStartSaysSoAndWaitsForTheDisplaysToChange) {
+TEST_F(DockMouseGuardDisplayChangeTest, AStartWithoutZonesReportsItAndWaitsForTheDisplaysToChange) {
   desk::detach(machine, 2);
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  EXPECT_EQ(told(), Messages{noZones});
+  EXPECT_EQ(takeMessages(), Messages{noZones});
   expectWaiting();
   desk::attach(machine, desk::monitorAtTheRight());
   expectGuarding();
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
 TEST_F(DockMouseGuardDisplayChangeTest, PinningWithoutATargetGivesNoZones) {
   guard->start("", OrvaneModifier::option, false);
-  EXPECT_EQ(told(), Messages{noZones});
+  EXPECT_EQ(takeMessages(), Messages{noZones});
   expectWaiting();
   desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(told(), Messages{}) << "there is no target that could be unavailable";
+  EXPECT_EQ(takeMessages(), Messages{}) << "there is no target that could be unavailable";
   expectWaiting();
 }
 
 TEST_F(DockMouseGuardDisplayChangeTest, AnAbsentTargetGivesNoZonesUntilItComes) {
   guard->start(desk::uuidNamed('C'), OrvaneModifier::option, false);
-  EXPECT_EQ(told(), Messages{noZones});
+  EXPECT_EQ(takeMessages(), Messages{noZones});
   expectWaiting();
   desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
-  EXPECT_EQ(told(), Messages{"Mouse guard started. Trigger zones: 2"});
+  EXPECT_EQ(guard->snapshot().zones, (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
+  EXPECT_EQ(takeMessages(), Messages{"Mouse guard started. Trigger zones: 2"});
 }
 
 TEST_F(DockMouseGuardDisplayChangeTest, ATapThatIsRefusedIsTriedAgainWhenTheDisplaysChange) {
   machine.eventTaps.setRefusesCreation(true);
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  EXPECT_EQ(told(), Messages{tapWasRefused});
+  EXPECT_EQ(takeMessages(), Messages{tapWasRefused});
   EXPECT_FALSE(guard->isRunning());
-  EXPECT_TRUE(guard->isObservingScreens());
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor}) << "nothing else changes";
+  EXPECT_TRUE(guard->snapshot().isObservingScreens);
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor}) << "nothing else changes";
   EXPECT_EQ(machine.runLoop.sources().size(), 0U);
 
   desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(told(), Messages{tapWasRefused});
+  EXPECT_EQ(takeMessages(), Messages{tapWasRefused});
   machine.eventTaps.setRefusesCreation(false);
   desk::detach(machine, 3);
   expectGuarding();
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
 TEST_F(DockMouseGuardDisplayChangeTest, UnpluggingTheTargetPausesAndPluggingItInResumes) {
   startPinned();
   desk::detach(machine, 1);
   expectWaiting();
-  EXPECT_EQ(told(), Messages{targetGone});
+  EXPECT_EQ(takeMessages(), Messages{targetGone});
   desk::attach(machine, desk::laptop());
   expectGuarding();
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
 TEST_F(DockMouseGuardDisplayChangeTest, APauseEndsATemporaryUnlock) {
@@ -85,7 +85,7 @@ TEST_F(DockMouseGuardDisplayChangeTest, EachChangeWhileTheTargetIsGoneIsReported
   startPinned();
   desk::detach(machine, 1);
   desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(told(), (Messages{targetGone, targetGone}));
+  EXPECT_EQ(takeMessages(), (Messages{targetGone, targetGone}));
 }
 
 TEST_F(DockMouseGuardDisplayChangeTest, AChangeIsHandledWithinTheNotification) {
@@ -98,15 +98,15 @@ TEST_F(DockMouseGuardDisplayChangeTest, ATargetWithANewNumberIsStillTheTarget) {
   startPinned();
   ASSERT_EQ(machine.displays.renumber(1, 44), std::nullopt);
   expectGuarding();
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
-  EXPECT_EQ(told(), Messages{});
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor});
+  EXPECT_EQ(takeMessages(), Messages{});
 }
 
 TEST_F(DockMouseGuardDisplayChangeTest, ATargetStoredByNumberIsLostWithTheNumber) {
   guard->start("1", OrvaneModifier::option, false);
-  told();
+  takeMessages();
   ASSERT_EQ(machine.displays.renumber(1, 44), std::nullopt);
-  EXPECT_EQ(told(), Messages{targetGone});
+  EXPECT_EQ(takeMessages(), Messages{targetGone});
   expectWaiting();
 }
 
@@ -115,7 +115,7 @@ TEST_F(DockMouseGuardDisplayChangeTest, AnInstalledTapIsKeptAndSeesTheNewZones) 
   const CFMachPortRef tap = guard->eventTap();
   ASSERT_EQ(machine.displays.setFrame(2, {{1920, 0}, {1000, 600}}), std::nullopt);
   EXPECT_EQ(guard->eventTap(), tap);
-  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{{{{1920, 1068}, {1000, 12}}, {0, -12}}}));
+  EXPECT_EQ(guard->snapshot().zones, (Zones{{{{1920, 1068}, {1000, 12}}, {0, -12}}}));
   EXPECT_EQ(outcomeOf({2500, 1075}), (CGPoint{2500, 1063}));
   EXPECT_EQ(outcomeOf({3000, 1075}), (CGPoint{3000, 1075}));
   machine.runDue();
@@ -125,10 +125,10 @@ TEST_F(DockMouseGuardDisplayChangeTest, AnInstalledTapIsKeptAndSeesTheNewZones) 
 TEST_F(DockMouseGuardDisplayChangeTest, AChangeOfTheDocksEdgeIsSeenAtOnce) {
   startPinned();
   desk::setDockOrientation(machine, "right");
-  EXPECT_EQ(told(), Messages{}) << "the tap is kept";
-  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}}));
+  EXPECT_EQ(takeMessages(), Messages{}) << "the tap is kept";
+  EXPECT_EQ(guard->snapshot().zones, (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}}));
   desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(guard->cachedTriggerZones(),
+  EXPECT_EQ(guard->snapshot().zones,
             (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}, {{{1908, -1080}, {12, 1080}}, {-12, 0}}}));
 }
 
@@ -141,54 +141,54 @@ TEST_F(DockMouseGuardDisplayChangeTest, AfterAShutOffTheGuardIsBackAsSoonAsTheDo
     expectWaiting();
     if (isByEdge) {
       desk::setDockOrientation(machine, "right");
-      EXPECT_EQ(told(), Messages{startedWithOneZone});
+      EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
       desk::setDockOrientation(machine, "bottom");
-      EXPECT_EQ(told(), Messages{}) << "the tap is kept";
+      EXPECT_EQ(takeMessages(), Messages{}) << "the tap is kept";
     } else {
       machine.mouse.moveTo({2500, 1050});
       machine.mouse.moveBy(0, 60);
       EXPECT_EQ(machine.dock.displayNumber(), 2U);
-      EXPECT_EQ(told(), Messages{startedWithOneZone});
+      EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
     }
     expectGuarding();
-    EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
+    EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor});
   }
 }
 
 TEST_F(DockMouseGuardDisplayChangeTest, LosingAllZonesPausesInSilence) {
   startPinned();
   desk::detach(machine, 2);
-  EXPECT_EQ(told(), Messages{});
+  EXPECT_EQ(takeMessages(), Messages{});
   expectWaiting();
   desk::attach(machine, desk::monitorAtTheRight());
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
   desk::setDockOrientation(machine, "top");
   desk::attach(machine, desk::monitorAbove());
-  EXPECT_EQ(told(), Messages{});
+  EXPECT_EQ(takeMessages(), Messages{});
   expectWaiting();
 }
 
 TEST_F(DockMouseGuardDisplayChangeTest, WhenAllDisplaysAreBlockedUnpluggingOneOnlyChangesTheZones) {
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
-  told();
+  takeMessages();
   desk::detach(machine, 1);
   expectGuarding();
-  EXPECT_EQ(guard->cachedTriggerZones().size(), 1U);
-  EXPECT_EQ(told(), Messages{});
+  EXPECT_EQ(guard->snapshot().zones.size(), 1U);
+  EXPECT_EQ(takeMessages(), Messages{});
   desk::detach(machine, 2);
-  EXPECT_EQ(told(), Messages{});
+  EXPECT_EQ(takeMessages(), Messages{});
   expectWaiting();
   desk::attach(machine, desk::laptop());
   expectGuarding();
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
-TEST_F(DockMouseGuardDisplayChangeTest, AStoppedGuardHearsNothingOfTheDisplays) {
+TEST_F(DockMouseGuardDisplayChangeTest, AStoppedGuardIgnoresDisplayChanges) {
   startPinned();
   guard->stop();
   desk::detach(machine, 1);
   desk::attach(machine, desk::laptop());
-  EXPECT_EQ(told(), Messages{});
+  EXPECT_EQ(takeMessages(), Messages{});
   expectIdle();
 }
 

@@ -1,5 +1,5 @@
-// What becomes of each pointer event: moved out of a zone, let through, counted, reported, and the
-// shut-off when blocking runs away.
+// The handling of each pointer event: moved out of a zone or passed, counted, reported; and the
+// shut-off for runaway blocking.
 #include <string>
 #include <vector>
 
@@ -21,13 +21,13 @@ constexpr std::uint64_t commandKey = 0x100000;
 
 class DockMouseGuardFilterTest : public GuardFixture {
  protected:
-  /// Blocks until the guard is one block short of running away.
+  /// Blocks until the guard is one block short of the runaway limit.
   void blockUpToTheLimit() { block(179); }
 };
 
 TEST_F(DockMouseGuardFilterTest, AMoveIntoAZoneIsMovedTwelvePointsBack) {
   guard->start("2", OrvaneModifier::option, false);
-  EXPECT_EQ(guard->cachedTriggerZones(),
+  EXPECT_EQ(guard->snapshot().zones,
             (std::vector<TriggerZone>{{{{0, 1068}, {1920, 12}}, {0, -12}}}));
   EXPECT_EQ(outcomeOf({500, 1075}), (CGPoint{500, 1063}));
 }
@@ -43,13 +43,13 @@ TEST_F(DockMouseGuardFilterTest, WithTheDockAtASideTheMoveIsSideways) {
 
 TEST_F(DockMouseGuardFilterTest, AMoveOutsideEveryZonePassesUnchanged) {
   startPinned();
-  // On the display to which the Dock is pinned, and high up on the guarded one.
+  // On the display to which the Dock is pinned, and far above the edge of the guarded one.
   for (const CGPoint point : {CGPoint{500, 1075}, outsideEveryZone, CGPoint{1919.75, 1079}}) {
     EXPECT_EQ(outcomeOf(point), point);
   }
   machine.runDue();
-  EXPECT_EQ(guard->blockedCount(), 0);
-  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty());
+  EXPECT_EQ(guard->snapshot().blockedCount, 0);
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 0U);
   EXPECT_EQ(messages, Messages{});
 }
 
@@ -67,21 +67,21 @@ TEST_F(DockMouseGuardFilterTest, OfTwoOverlappingZonesOnlyTheFirstMoves) {
   // The third display overlaps the monitor and ends ten points higher.
   desk::attach(machine, desk::displayOf(3, "Over", {{2000, 10}, {800, 600}}));
   startPinned();
-  ASSERT_EQ(guard->cachedTriggerZones().size(), 2U);
-  EXPECT_EQ(guard->cachedTriggerZones()[1].rect.origin.y, 1058);
+  ASSERT_EQ(guard->snapshot().zones.size(), 2U);
+  EXPECT_EQ(guard->snapshot().zones[1].rect.origin.y, 1058);
   // In both zones.
   EXPECT_EQ(outcomeOf({2500, 1069}), (CGPoint{2500, 1057}));
   // From the first into the second.
   EXPECT_EQ(outcomeOf({2500, 1079}), (CGPoint{2500, 1067}));
-  EXPECT_EQ(guard->blockedCount(), 2);
+  EXPECT_EQ(guard->snapshot().blockedCount, 2);
 }
 
 TEST_F(DockMouseGuardFilterTest, MirroredDisplaysMoveTheEventOnce) {
   ASSERT_EQ(machine.displays.setFrame(2, {{0, 0}, {1920, 1080}}), std::nullopt);
   startPreventing();
-  ASSERT_EQ(guard->cachedTriggerZones().size(), 2U);
+  ASSERT_EQ(guard->snapshot().zones.size(), 2U);
   EXPECT_EQ(outcomeOf({500, 1075}), (CGPoint{500, 1063}));
-  EXPECT_EQ(guard->blockedCount(), 1);
+  EXPECT_EQ(guard->snapshot().blockedCount, 1);
 }
 
 TEST_F(DockMouseGuardFilterTest, TheSameEventIsPassedOn) {
@@ -98,15 +98,15 @@ TEST_F(DockMouseGuardFilterTest, TheSameEventIsPassedOn) {
 TEST_F(DockMouseGuardFilterTest, WhileTheModifierIsHeldAMovePassesAndIsReportedOnce) {
   startPinned();
   EXPECT_EQ(outcomeOf(inTheZone, optionKey), inTheZone);
-  EXPECT_TRUE(guard->isTemporarilyUnlocked());
-  EXPECT_EQ(unlocks, Unlocks{}) << "told only after the event has been passed on";
+  EXPECT_TRUE(guard->snapshot().isTemporarilyUnlocked);
+  EXPECT_EQ(unlocks, Unlocks{}) << "reported only after the event has been passed on";
   machine.runDue();
   EXPECT_EQ(unlocks, Unlocks{true});
   outcomeOf(inTheZone, optionKey);
   outcomeOf(outsideEveryZone, optionKey);
   machine.runDue();
   EXPECT_EQ(unlocks, Unlocks{true});
-  EXPECT_EQ(guard->blockedCount(), 0);
+  EXPECT_EQ(guard->snapshot().blockedCount, 0);
 
   EXPECT_EQ(outcomeOf(inTheZone), (CGPoint{2500, 1063}));
   machine.runDue();
@@ -149,7 +149,7 @@ TEST_F(DockMouseGuardFilterTest, WithoutOwnersCallbacksNothingIsCalled) {
   outcomeOf(inTheZone, optionKey);
   outcomeOf(inTheZone);
   machine.runDue();
-  EXPECT_EQ(guard->blockedCount(), 1);
+  EXPECT_EQ(guard->snapshot().blockedCount, 1);
 }
 
 TEST_F(DockMouseGuardFilterTest, TenBlocksInHalfASecondAreReportedOnceAtTheFirst) {
@@ -159,7 +159,7 @@ TEST_F(DockMouseGuardFilterTest, TenBlocksInHalfASecondAreReportedOnceAtTheFirst
     machine.advance(0.05);
   }
   EXPECT_EQ(messages, Messages{"Blocked Dock trigger 1 times"});
-  EXPECT_EQ(guard->blockedCount(), 10);
+  EXPECT_EQ(guard->snapshot().blockedCount, 10);
 }
 
 TEST_F(DockMouseGuardFilterTest, TheNextReportComesAfterAFullSecondWithTheRunningTotal) {
@@ -198,7 +198,7 @@ TEST_F(DockMouseGuardFilterTest, ReportsAreChineseWhenTheSettingIs) {
   EXPECT_EQ(messages, Messages{"已阻止第 1 次 Dock 触发"});
 }
 
-TEST_F(DockMouseGuardFilterTest, The180thBlockWithinTwoSecondsShutsTheTapOffWithoutAMessage) {
+TEST_F(DockMouseGuardFilterTest, The180thBlockWithinTwoSecondsShutsTheTapOffSilently) {
   startPinned();
   blockUpToTheLimit();
   machine.runDue();
@@ -214,11 +214,11 @@ TEST_F(DockMouseGuardFilterTest, The180thBlockWithinTwoSecondsShutsTheTapOffWith
   machine.runDue();
   EXPECT_FALSE(guard->isRunning());
   EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
-  EXPECT_TRUE(guard->cachedTriggerZones().empty());
-  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty());
-  EXPECT_EQ(guard->blockedCount(), 180);
+  EXPECT_TRUE(guard->snapshot().zones.empty());
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 0U);
+  EXPECT_EQ(guard->snapshot().blockedCount, 180);
   EXPECT_EQ(messages, Messages{"Blocked Dock trigger 1 times"});
-  EXPECT_TRUE(guard->isObservingScreens());
+  EXPECT_TRUE(guard->snapshot().isObservingScreens);
 }
 
 TEST_F(DockMouseGuardFilterTest, BlocksOfExactlyTwoSecondsAgoStillCount) {
@@ -237,7 +237,7 @@ TEST_F(DockMouseGuardFilterTest, OlderBlocksAreForgotten) {
   machine.advance(2.001);
   blockUpToTheLimit();
   EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
-  EXPECT_EQ(guard->recentBlockTimestamps().size(), 179U);
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 179U);
 }
 
 TEST_F(DockMouseGuardFilterTest, SteadyBlockingBelowTheLimitGoesOnForever) {
@@ -248,7 +248,7 @@ TEST_F(DockMouseGuardFilterTest, SteadyBlockingBelowTheLimitGoesOnForever) {
     machine.advance(2.0 / 175);
   }
   EXPECT_TRUE(guard->isRunning());
-  EXPECT_EQ(guard->blockedCount(), 2000);
+  EXPECT_EQ(guard->snapshot().blockedCount, 2000);
   EXPECT_EQ(messages.size(), 23U) << "once in each begun second of the 22.8";
 }
 
@@ -287,7 +287,7 @@ TEST_F(DockMouseGuardFilterTest, AfterAShutOffAStartBringsTheGuardBack) {
   EXPECT_TRUE(machine.eventTaps.isAnyEnabled()) << "blocks from before do not count";
 }
 
-TEST_F(DockMouseGuardFilterTest, AShutOffThatIsPendingDoesNothingOnceTheGuardIsGone) {
+TEST_F(DockMouseGuardFilterTest, APendingShutOffDoesNothingOnceTheGuardIsGone) {
   startPinned();
   block(180);
   guard.reset();
@@ -316,7 +316,7 @@ TEST_F(DockMouseGuardFilterTest, ATapThatTheSystemDisabledIsEnabledAgainAtOnce) 
 
 TEST_F(DockMouseGuardFilterTest, ATapWithoutThePermissionIsNotEnabledAgain) {
   startPinned();
-  // The permission goes as the event is on its way: the tap is there still.
+  // The permission is revoked while the event is on its way: the tap still exists.
   machine.permission.onChange(nullptr);
   machine.permission.setTrusted(false);
   machine.eventTaps.disableAll(kCGEventTapDisabledByTimeout, inTheZone);
@@ -335,7 +335,7 @@ TEST_F(DockMouseGuardFilterTest, TheFifthDisablingWithinTenSecondsShutsTheGuardO
   EXPECT_FALSE(machine.eventTaps.isAnyEnabled()) << "at once";
   machine.runDue();
   EXPECT_FALSE(guard->isRunning());
-  EXPECT_TRUE(guard->cachedTriggerZones().empty());
+  EXPECT_TRUE(guard->snapshot().zones.empty());
   EXPECT_EQ(messages, Messages{});
 
   machine.advance(100);
@@ -381,7 +381,7 @@ TEST_F(DockMouseGuardFilterTest, NothingElseHappensForATapThatTheSystemDisabled)
   machine.runDue();
   EXPECT_EQ(unlocks, Unlocks{});
   EXPECT_EQ(messages, Messages{});
-  EXPECT_EQ(guard->blockedCount(), 0);
+  EXPECT_EQ(guard->snapshot().blockedCount, 0);
 }
 
 TEST_F(DockMouseGuardFilterTest, WithoutATapThereIsNothingToEnableAgain) {

@@ -1,5 +1,5 @@
-// What the guard promises to a user, under random movements of a hand on random displays, whether
-// the cursor is held by what the tap does to an event or goes with the hand.
+// The guard's promises to the user, under random movements of a hand on random displays, whether or
+// not the tap's change of an event holds the cursor.
 #include <algorithm>
 #include <cstdint>
 #include <optional>
@@ -25,8 +25,8 @@ bool overlap(const CGRect& first, const CGRect& second) {
          CGRectGetMinY(second) < CGRectGetMaxY(first);
 }
 
-/// One to four displays, each beside, above or below an earlier one, as users arrange them. Frames
-/// in window-system coordinates.
+/// One to four displays, each beside, above or below an earlier one. Frames in window-system
+/// coordinates.
 std::vector<CGRect> drawDisplays() {
   std::vector<CGRect> frames = {{{0, 0}, {400, 300}}};
   const int wanted = *rc::gen::inRange(0, 4);
@@ -56,7 +56,7 @@ std::vector<CGRect> drawDisplays() {
   return frames;
 }
 
-/// Walks, and presses against an edge as long as the hand likes.
+/// Moves in one direction for a while, perhaps pressing against an edge.
 void moveHand(desk::Machine& machine) {
   const double dx = *rc::gen::element(0, 0, 3, -3, 40, -40, 300, -300);
   const double dy = *rc::gen::element(0, 0, 3, -3, 40, -40, 300, -300);
@@ -82,7 +82,7 @@ void setUp(desk::Machine& machine, Cursor cursor) {
 
 void expectNothingLost(const desk::Machine& machine, const std::optional<DockMouseGuard>& guard) {
   RC_ASSERT(machine.counters.droppedEvents == 0);
-  RC_ASSERT(guard->isRunning() == !guard->cachedTriggerZones().empty());
+  RC_ASSERT(guard->isRunning() == !guard->snapshot().zones.empty());
 }
 
 void pinAndMove(Cursor cursor) {

@@ -1,4 +1,4 @@
-// The guard's messages, to the letter, in both languages.
+// The exact texts of the guard's messages in both languages.
 #include <gtest/gtest.h>
 
 #include "Orvane/guard/DockMouseGuardMessages.hpp"
@@ -36,7 +36,7 @@ TEST_F(DockMouseGuardMessagesTest, InChinese) {
   EXPECT_EQ(blocked(42), "已阻止第 42 次 Dock 触发");
 }
 
-TEST_F(DockMouseGuardMessagesTest, ForTheSystemItsLanguagesDecideAtTheMomentOfTelling) {
+TEST_F(DockMouseGuardMessagesTest, TheSystemLanguagesAreReadWhenAMessageIsSent) {
   EXPECT_EQ(blocked(1), "Blocked Dock trigger 1 times");
   machine.locale.preferredLanguages = {"fr-FR", "zh-Hant-TW"};
   EXPECT_EQ(blocked(1), "已阻止第 1 次 Dock 触发");

@@ -1,5 +1,5 @@
-// The filter on random arrangements of displays: what it moves ends outside, what it need not move
-// it leaves alone.
+// The filter on random arrangements of displays: events that it moves end outside of their zone;
+// all others are unchanged.
 #include <algorithm>
 #include <optional>
 #include <string>
@@ -32,7 +32,7 @@ const char* nameOf(DockPosition edge) {
   }
 }
 
-/// Attaches the arrangement; its frames are global, the machine's hang from the first one's bottom.
+/// Attaches the arrangement, whose frames are global, in window-system coordinates.
 void attachAll(desk::Machine& machine, const Arrangement& arrangement) {
   const double height = arrangement.frames.front().size.height;
   std::uint32_t number = 1;
@@ -56,7 +56,7 @@ RC_GTEST_PROP(DockMouseGuardProperty, EventsLeaveTheZoneThatMovedThemAndOthersAr
   guard->start("1", OrvaneModifier::option, blocksAll);
   machine.runDue();
 
-  const std::vector<TriggerZone> zones = guard->cachedTriggerZones();
+  const std::vector<TriggerZone> zones = guard->snapshot().zones;
   std::int64_t blocked = 0;
   for (int count = 0; count < 30; ++count) {
     // Around a zone when there is one, in 64ths of a point.
@@ -80,7 +80,7 @@ RC_GTEST_PROP(DockMouseGuardProperty, EventsLeaveTheZoneThatMovedThemAndOthersAr
     RC_ASSERT(!isInside(hit->rect, outcome));
     RC_ASSERT(outcome == (CGPoint{place.x + hit->nudgeVector.dx, place.y + hit->nudgeVector.dy}));
   }
-  RC_ASSERT(guard->blockedCount() == blocked);
+  RC_ASSERT(guard->snapshot().blockedCount == blocked);
   guard.reset();
   RC_ASSERT(scope.end().isClean());
 }

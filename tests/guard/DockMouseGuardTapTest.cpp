@@ -1,5 +1,5 @@
-// The order in which a tap is put up and taken down, which a real session depends on and a
-// simulated one forgives. The linker leads these calls of the guard through here.
+// The order of the calls that install and remove a tap, which matters in a real session but not in
+// the simulated one. The linker wraps these calls of the guard with the functions below.
 #include <string>
 #include <vector>
 
@@ -107,11 +107,11 @@ TEST_F(DockMouseGuardTapTest, AGuardThatGoesTakesItsTapDown) {
   EXPECT_EQ(calls, takenDown);
 }
 
-TEST_F(DockMouseGuardTapTest, ATapThatCannotBeServedIsNotLeftInTheSessionsWay) {
+TEST_F(DockMouseGuardTapTest, ATapThatCannotBeServedIsRemoved) {
   refusesSources = true;
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
   EXPECT_EQ(calls, (Calls{"make source", "disable", "invalidate"}));
-  EXPECT_EQ(told(), Messages{tapWasRefused});
+  EXPECT_EQ(takeMessages(), Messages{tapWasRefused});
   EXPECT_FALSE(guard->isRunning());
   EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
 }
@@ -125,10 +125,10 @@ TEST_F(DockMouseGuardTapTest, AStartBeforeTheCleanUpOfAShutOffKeepsItsTap) {
   machine.runLoop.releaseMainQueue();
   machine.runDue();
   expectGuarding();
-  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty()) << "the next block is the first again";
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 0U) << "the next block is the first again";
 }
 
-TEST_F(DockMouseGuardTapTest, TheSystemsWordDoesNotEnableATapThatIsShutOff) {
+TEST_F(DockMouseGuardTapTest, ANoticeFromTheSystemDoesNotEnableATapThatIsShutOff) {
   startPreventing();
   machine.runLoop.holdMainQueue();
   block(180);

@@ -1,4 +1,4 @@
-// The guard's life: starting, stopping, and what it tells its owner.
+// The guard's life cycle: starting, stopping, and its messages to its owner.
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,12 +16,12 @@ class DockMouseGuardTest : public GuardLifeFixture {};
 
 TEST_F(DockMouseGuardTest, ANewGuardIsIdle) {
   expectIdle();
-  EXPECT_EQ(guard->lockedDisplayIdentifier(), "");
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::option);
-  EXPECT_FALSE(guard->blocksAllDisplays());
-  EXPECT_EQ(guard->blockedCount(), 0);
-  EXPECT_FALSE(guard->isTemporarilyUnlocked());
-  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty());
+  EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, "");
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::option);
+  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
+  EXPECT_EQ(guard->snapshot().blockedCount, 0);
+  EXPECT_FALSE(guard->snapshot().isTemporarilyUnlocked);
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 0U);
   EXPECT_FALSE(DockMouseGuard().onEvent);
   EXPECT_FALSE(DockMouseGuard().onTemporaryUnlockChanged);
 }
@@ -29,25 +29,25 @@ TEST_F(DockMouseGuardTest, ANewGuardIsIdle) {
 TEST_F(DockMouseGuardTest, StartingGuardsEveryDisplayButTheTarget) {
   guard->start(desk::uuidNamed('A'), OrvaneModifier::control, false);
   expectGuarding();
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
-  EXPECT_EQ(guard->lockedDisplayIdentifier(), desk::uuidNamed('A'));
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::control);
-  EXPECT_FALSE(guard->blocksAllDisplays());
-  EXPECT_EQ(messages, Messages{}) << "told on the main queue only";
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor});
+  EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::control);
+  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
+  EXPECT_EQ(messages, Messages{}) << "reported on the main queue only";
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
 TEST_F(DockMouseGuardTest, BlockingAllDisplaysGuardsEachOfThem) {
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
-  EXPECT_EQ(guard->cachedTriggerZones(), (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
-  EXPECT_EQ(told(), Messages{"Mouse guard started. Trigger zones: 2"});
+  EXPECT_EQ(guard->snapshot().zones, (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
+  EXPECT_EQ(takeMessages(), Messages{"Mouse guard started. Trigger zones: 2"});
 }
 
 TEST_F(DockMouseGuardTest, BlockingAllDisplaysGuardsASingleOneAndNeedsNoTarget) {
   desk::detach(machine, 2);
   guard->start("", OrvaneModifier::option, true);
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheLaptop});
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheLaptop});
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
 TEST_F(DockMouseGuardTest, TheTargetIsFoundByAnyOfItsIdentifiers) {
@@ -55,7 +55,7 @@ TEST_F(DockMouseGuardTest, TheTargetIsFoundByAnyOfItsIdentifiers) {
        {"1", "00000000-0000-4000-8000-00000000000A",
         "Optional(1)-1920.0-1080.0-Optional(8)-Optional(\"NSCalibratedRGBColorSpace\")"}) {
     guard->start(identifier, OrvaneModifier::option, false);
-    EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor}) << identifier;
+    EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor}) << identifier;
   }
 }
 
@@ -99,27 +99,27 @@ TEST_F(DockMouseGuardTest, TheFilterWorksWhileAMenuIsOpenAndWhileAModalSessionRu
   }
 }
 
-TEST_F(DockMouseGuardTest, WithoutTrustAStartChangesNothingAndOnlySaysSo) {
+TEST_F(DockMouseGuardTest, WithoutPermissionAStartOnlyReportsIt) {
   machine.permission.setTrusted(false);
   guard->start(desk::uuidNamed('A'), OrvaneModifier::command, true);
   expectIdle();
-  EXPECT_EQ(guard->lockedDisplayIdentifier(), "");
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::option);
-  EXPECT_FALSE(guard->blocksAllDisplays());
-  EXPECT_EQ(told(), Messages{notTrusted});
+  EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, "");
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::option);
+  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
+  EXPECT_EQ(takeMessages(), Messages{notTrusted});
 }
 
-TEST_F(DockMouseGuardTest, WithoutTrustARunningGuardKeepsItsEarlierSettings) {
+TEST_F(DockMouseGuardTest, WithoutPermissionARunningGuardKeepsItsEarlierSettings) {
   startPinned(OrvaneModifier::control);
   const CFMachPortRef tap = guard->eventTap();
   machine.permission.setTrusted(false);
   guard->start(desk::uuidNamed('B'), OrvaneModifier::shift, true);
   EXPECT_EQ(guard->eventTap(), tap);
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheMonitor});
-  EXPECT_EQ(guard->lockedDisplayIdentifier(), desk::uuidNamed('A'));
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::control);
-  EXPECT_FALSE(guard->blocksAllDisplays());
-  EXPECT_EQ(told(), Messages{notTrusted});
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor});
+  EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::control);
+  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
+  EXPECT_EQ(takeMessages(), Messages{notTrusted});
 }
 
 TEST_F(DockMouseGuardTest, AfterTheTrustReturnsAStartReplacesTheDeadTap) {
@@ -136,7 +136,7 @@ TEST_F(DockMouseGuardTest, ADockAtNoEdgeGivesNoZones) {
   for (const char* const edge : {"top", "middle"}) {
     desk::setDockOrientation(machine, edge);
     guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
-    EXPECT_EQ(told(), Messages{noZones}) << edge;
+    EXPECT_EQ(takeMessages(), Messages{noZones}) << edge;
     expectWaiting();
   }
 }
@@ -145,15 +145,15 @@ TEST_F(DockMouseGuardTest, TwoStartsInARowLeaveOneTapAndOneObserver) {
   startPinned();
   guard->start(desk::uuidNamed('B'), OrvaneModifier::shift, false);
   expectGuarding();
-  EXPECT_EQ(guard->cachedTriggerZones(), Zones{zoneOfTheLaptop});
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::shift);
-  EXPECT_EQ(told(), Messages{startedWithOneZone});
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheLaptop});
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::shift);
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
-TEST_F(DockMouseGuardTest, ARestartWithoutZonesTakesTheTapDown) {
+TEST_F(DockMouseGuardTest, ARestartWithoutZonesRemovesTheTap) {
   startPinned();
   guard->start("", OrvaneModifier::option, false);
-  EXPECT_EQ(told(), Messages{noZones});
+  EXPECT_EQ(takeMessages(), Messages{noZones});
   expectWaiting();
 }
 
@@ -162,12 +162,12 @@ TEST_F(DockMouseGuardTest, StoppingLeavesTheGuardIdle) {
   block();
   guard->stop();
   expectIdle();
-  EXPECT_FALSE(guard->blocksAllDisplays());
-  EXPECT_TRUE(guard->recentBlockTimestamps().isEmpty());
+  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 0U);
   EXPECT_EQ(outcomeOf(inTheZone), inTheZone);
 }
 
-TEST_F(DockMouseGuardTest, StoppingInvalidatesThePortWhoeverElseHoldsIt) {
+TEST_F(DockMouseGuardTest, StoppingInvalidatesThePortEvenIfOthersHoldIt) {
   startPinned();
   const auto held = CFRef<CFMachPortRef>::retaining(guard->eventTap());
   guard->stop();
@@ -178,36 +178,36 @@ TEST_F(DockMouseGuardTest, StoppingKeepsTargetModifierAndTotal) {
   startPinned(OrvaneModifier::command);
   block(3);
   guard->stop();
-  EXPECT_EQ(guard->lockedDisplayIdentifier(), desk::uuidNamed('A'));
-  EXPECT_EQ(guard->overrideModifier(), OrvaneModifier::command);
-  EXPECT_EQ(guard->blockedCount(), 3);
+  EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
+  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::command);
+  EXPECT_EQ(guard->snapshot().blockedCount, 3);
   startPinned();
   block();
-  EXPECT_EQ(told(), Messages{"Blocked Dock trigger 4 times"})
+  EXPECT_EQ(takeMessages(), Messages{"Blocked Dock trigger 4 times"})
       << "the time of the last report is forgotten";
 }
 
 TEST_F(DockMouseGuardTest, ARestartWithoutStoppingRemembersTheLastReport) {
   startPinned();
   block();
-  told();
+  takeMessages();
   startPinned();
   block();
-  EXPECT_EQ(told(), Messages{});
+  EXPECT_EQ(takeMessages(), Messages{});
 }
 
-TEST_F(DockMouseGuardTest, StoppingWhileUnlockedTellsOfTheEndOnce) {
+TEST_F(DockMouseGuardTest, StoppingWhileUnlockedReportsTheEndOnce) {
   startPinned();
   outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
   machine.runDue();
   guard->stop();
-  EXPECT_FALSE(guard->isTemporarilyUnlocked());
+  EXPECT_FALSE(guard->snapshot().isTemporarilyUnlocked);
   guard->stop();
   machine.runDue();
   EXPECT_EQ(unlocks, (Unlocks{true, false}));
 }
 
-TEST_F(DockMouseGuardTest, StoppingAnIdleGuardTellsNothing) {
+TEST_F(DockMouseGuardTest, StoppingAnIdleGuardReportsNothing) {
   guard->stop();
   machine.runDue();
   EXPECT_EQ(unlocks, Unlocks{});
@@ -215,11 +215,11 @@ TEST_F(DockMouseGuardTest, StoppingAnIdleGuardTellsNothing) {
   expectIdle();
 }
 
-TEST_F(DockMouseGuardTest, ARestartWhileUnlockedTellsNothing) {
+TEST_F(DockMouseGuardTest, ARestartWhileUnlockedReportsNothing) {
   startPinned();
   outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
   startPinned();
-  EXPECT_TRUE(guard->isTemporarilyUnlocked());
+  EXPECT_TRUE(guard->snapshot().isTemporarilyUnlocked);
   EXPECT_EQ(unlocks, Unlocks{true});
 }
 
@@ -247,8 +247,9 @@ TEST_F(DockMouseGuardTest, MessagesAreChineseWhenTheSettingIs) {
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
   desk::detach(machine, 1);
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  EXPECT_EQ(told(), (Messages{"鼠标守卫已启动，触发区数量：1", "目标显示器不存在，鼠标守卫已暂停",
-                              "没有可用触发区。请检查目标显示器、Dock 位置和显示器排列"}));
+  EXPECT_EQ(takeMessages(),
+            (Messages{"鼠标守卫已启动，触发区数量：1", "目标显示器不存在，鼠标守卫已暂停",
+                      "没有可用触发区。请检查目标显示器、Dock 位置和显示器排列"}));
 }
 
 TEST_F(DockMouseGuardTest, TheDisplaysAreListedInTheSystemsOrder) {
@@ -293,7 +294,7 @@ TEST_F(DockMouseGuardTest, WhenEveryLinkIsRefusedTheSettingsThemselvesAreOpened)
                       "file:///System/Applications/System%20Settings.app"}));
 }
 
-// What the guard says of itself: whether it runs.
+// The announcement of whether the guard runs.
 
 class RunningAnnouncementTest : public GuardLifeFixture {
  protected:
@@ -317,14 +318,14 @@ TEST_F(RunningAnnouncementTest, StartAndStopAreAnnouncedOnTheMainQueue) {
   EXPECT_EQ(announced(), std::vector{false});
 }
 
-TEST_F(RunningAnnouncementTest, ARestartIsNoChange) {
+TEST_F(RunningAnnouncementTest, ARestartIsNotAChange) {
   startPinned();
   announced();
   guard->start("", OrvaneModifier::option, true);
   EXPECT_EQ(announced(), std::vector<bool>());
 }
 
-TEST_F(RunningAnnouncementTest, AStartWithoutATapIsNoChangeButEndsOneThatRan) {
+TEST_F(RunningAnnouncementTest, AStartWithoutATapIsNotAChangeUnlessTheGuardRan) {
   machine.eventTaps.setRefusesCreation(true);
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
   EXPECT_EQ(announced(), std::vector<bool>());
@@ -352,7 +353,7 @@ TEST_F(RunningAnnouncementTest, AShutOffIsAnnounced) {
   EXPECT_EQ(announced(), std::vector{false});
 }
 
-// A start that ends without a tap.
+// Starts that end without a tap.
 
 TEST_F(DockMouseGuardTest, AStartWithoutZonesEndsATemporaryUnlock) {
   startPinned();

@@ -1,5 +1,5 @@
-// What the tests of the guard's life share: the messages in English, the zones of the two displays,
-// and what holds while the guard guards, waits or is idle.
+// Shared by the tests of the guard's life cycle: the messages in English, the zones of the two
+// displays, and the expectations for a guard that guards, waits or is idle.
 #pragma once
 
 #include <cstddef>
@@ -32,8 +32,8 @@ inline const TriggerZone zoneOfTheMonitor{{{1920, 1068}, {1920, 12}}, {0, -12}};
 
 class GuardLifeFixture : public GuardFixture {
  protected:
-  /// What the guard has told since the last call.
-  Messages told() {
+  /// Returns and clears the guard's messages, after serving the main queue.
+  Messages takeMessages() {
     machine.runDue();
     return std::exchange(messages, {});
   }
@@ -42,8 +42,8 @@ class GuardLifeFixture : public GuardFixture {
   }
   void expectGuarding() const {
     EXPECT_TRUE(guard->isRunning());
-    EXPECT_TRUE(guard->isObservingScreens());
-    EXPECT_FALSE(guard->cachedTriggerZones().empty());
+    EXPECT_TRUE(guard->snapshot().isObservingScreens);
+    EXPECT_FALSE(guard->snapshot().zones.empty());
     EXPECT_EQ(machine.eventTaps.aliveCount(), 1U);
     EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
     EXPECT_EQ(machine.runLoop.sources().size(), 1U);
@@ -53,8 +53,8 @@ class GuardLifeFixture : public GuardFixture {
   void expectWithoutTap(bool isObserving) const {
     EXPECT_FALSE(guard->isRunning());
     EXPECT_EQ(guard->eventTap(), nullptr);
-    EXPECT_EQ(guard->isObservingScreens(), isObserving);
-    EXPECT_TRUE(guard->cachedTriggerZones().empty());
+    EXPECT_EQ(guard->snapshot().isObservingScreens, isObserving);
+    EXPECT_TRUE(guard->snapshot().zones.empty());
     EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
     EXPECT_EQ(machine.runLoop.sources().size(), 0U);
     EXPECT_EQ(machine.observers.count(), isObserving ? 1U : 0U);

@@ -1,4 +1,4 @@
-// The memory of the last two seconds' blocks, beside a plain list of them.
+// The timestamps of the last two seconds' blocks, compared with a plain list.
 #include <deque>
 #include <type_traits>
 #include <vector>
@@ -11,7 +11,7 @@
 namespace orvane {
 namespace {
 
-// All its room is inside it: copying bytes copies it, so nothing is on the heap.
+// Trivially copyable, so it has no memory on the heap.
 static_assert(std::is_trivially_copyable_v<RecentBlockTimestamps>);
 static_assert(sizeof(RecentBlockTimestamps) >= 180 * sizeof(double));
 

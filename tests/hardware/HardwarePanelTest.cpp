@@ -2,21 +2,13 @@
 #include <set>
 
 #include "Orvane/ui/RecordingCanvas.hpp"
+#include "desk/hand/FindControl.hpp"
 #include "desk/hardware/HardwarePanelHost.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/hardware/HardwareFixture.hpp"
 
 namespace orvane::desk {
 namespace {
-
-void collectControls(const ui::SemanticsNode& node, std::vector<ui::SemanticsNode>& controls) {
-  if (node.isControl()) {
-    controls.push_back(node);
-  }
-  for (const ui::SemanticsNode& child : node.children) {
-    collectControls(child, controls);
-  }
-}
 
 class HardwarePanelTest : public HardwareFixture {
  protected:
@@ -27,17 +19,10 @@ class HardwarePanelTest : public HardwareFixture {
 
   void show() { panel.show(content()); }
   [[nodiscard]] std::vector<ui::SemanticsNode> controls() const {
-    std::vector<ui::SemanticsNode> all;
-    collectControls(panel.host().semantics(), all);
-    return all;
+    return findControls(panel.host().semantics());
   }
   [[nodiscard]] std::optional<ui::SemanticsNode> control(const std::string& label) const {
-    for (const ui::SemanticsNode& candidate : controls()) {
-      if (candidate.label == label) {
-        return candidate;
-      }
-    }
-    return std::nullopt;
+    return findControl(panel.host().semantics(), label);
   }
   /// A click in the middle of the control.
   void click(const std::string& label) {

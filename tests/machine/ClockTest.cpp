@@ -9,7 +9,7 @@
 namespace orvane::desk {
 namespace {
 
-TEST(Clock, StartsAtAThousandSecondsOfMediaTime) {
+TEST(ClockTest, StartsAtAThousandSecondsOfMediaTime) {
   const Clock clock;
   EXPECT_EQ(clock.now(), 0);
   EXPECT_EQ(clock.mediaTime(), 1000.0);
@@ -17,14 +17,14 @@ TEST(Clock, StartsAtAThousandSecondsOfMediaTime) {
   EXPECT_EQ(clock.calendarTime(), 788'918'400.0);
 }
 
-TEST(Clock, NeverGoesBack) {
+TEST(ClockTest, NeverGoesBack) {
   Clock clock;
   clock.moveTo(500);
   clock.moveTo(499);
   EXPECT_EQ(clock.now(), 500);
 }
 
-TEST(Clock, MomentsWholeSecondsApartDifferExactlyInDoubles) {
+TEST(ClockTest, MomentsWholeSecondsApartDifferExactlyInDoubles) {
   for (const std::int64_t fraction :
        {1LL, 50'000'000LL, 100'000'000LL, 333'333'333LL, 700'000'000LL, 999'999'999LL}) {
     for (const std::int64_t seconds : {1LL, 2LL, 25LL, 30LL, 2000LL, 86'400LL, 3'000'000LL}) {
@@ -39,20 +39,20 @@ TEST(Clock, MomentsWholeSecondsApartDifferExactlyInDoubles) {
   }
 }
 
-TEST(Clock, KeepsFractionsToANanosecond) {
+TEST(ClockTest, KeepsFractionsToANanosecond) {
   Clock clock;
   clock.moveTo(1'234'567'890);
   EXPECT_NEAR(clock.mediaTime(), 1001.234567890, 0.5e-9 + std::ldexp(1, -31));
 }
 
-TEST(Clock, TurnsSecondsIntoTheNearestNanosecond) {
+TEST(ClockTest, TurnsSecondsIntoTheNearestNanosecond) {
   EXPECT_EQ(Clock::fromSeconds(0.05), 50'000'000);
   EXPECT_EQ(Clock::fromSeconds(0.1 + 0.2), 300'000'000);
   EXPECT_EQ(Clock::fromSeconds(0.0000000004), 0);
   EXPECT_EQ(Clock::fromSeconds(0.0000000006), 1);
 }
 
-TEST(Clock, TakesSecondsThatAreNoDurationAsNothingOrForever) {
+TEST(ClockTest, ClampsSecondsThatAreNotADuration) {
   EXPECT_EQ(Clock::fromSeconds(-1), 0);
   EXPECT_EQ(Clock::fromSeconds(std::nan("")), 0);
   EXPECT_EQ(Clock::fromSeconds(std::numeric_limits<double>::infinity()),

@@ -1,5 +1,4 @@
-// The list of displays: what may be asked of it, the main display, coordinates, and changes made
-// together.
+// The list of displays: valid requests, the main display, coordinates, and grouped changes.
 #include <cmath>
 #include <limits>
 
@@ -36,7 +35,7 @@ TEST_F(DisplaysTest, KeepsTheOrderOfAttachment) {
   EXPECT_EQ(changes, 2);
 }
 
-TEST_F(DisplaysTest, BadRequestsSayWhatIsWrongAndChangeNothing) {
+TEST_F(DisplaysTest, InvalidRequestsReportTheProblemAndChangeNothing) {
   ASSERT_FALSE(displays.attach(display(1, {{0, 0}, {100, 50}})));
   changes = 0;
   EXPECT_EQ(displays.attach(display(1, {{0, 0}, {10, 10}})), "there is a display 1 already");
@@ -93,7 +92,7 @@ TEST_F(DisplaysTest, ADisplayThatReturnsIsAnother) {
 
 TEST_F(DisplaysTest, TheHeightOfTheFirstDisplayTurnsCoordinatesRound) {
   ASSERT_FALSE(displays.attach(display(1, {{0, 0}, {1000, 800}})));
-  // Its top edge is 100 above that of the first, so it begins at -100 seen from the top.
+  // Its top edge is 100 above that of the first, so it begins at y -100 in global coordinates.
   ASSERT_FALSE(displays.attach(display(2, {{1000, 300}, {500, 600}})));
   ASSERT_FALSE(displays.attach(display(3, {{0, -200}, {500, 200}})));
   EXPECT_TRUE(CGRectEqualToRect(displays.globalFrames()[0], CGRectMake(0, 0, 1000, 800)));
@@ -125,7 +124,7 @@ TEST_F(DisplaysTest, ChangesMadeTogetherAreOneChange) {
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(DisplaysTest, NothingDoneTogetherIsNoChange) {
+TEST_F(DisplaysTest, AnEmptyBatchIsNotAChange) {
   EXPECT_EQ(displays.beginTogether(), std::nullopt);
   EXPECT_EQ(displays.detach(5), "there is no display 5");
   EXPECT_EQ(displays.endTogether(), std::nullopt);

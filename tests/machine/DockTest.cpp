@@ -1,4 +1,4 @@
-// The Dock follows the pointer, hides and comes up, and counts it.
+// The Dock follows the pointer, hides and appears, and counts its appearances.
 #include <string>
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ class DockTest : public MachineFixture {
   void setAutoHide(bool hides) {
     machine.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
   }
-  /// A movement from a place well inside the display.
+  /// A movement from a point well inside the display.
   void push(CGPoint from, double dx, double dy) {
     machine.mouse.moveTo(from);
     machine.mouse.moveBy(dx, dy);
@@ -37,13 +37,13 @@ class DockTest : public MachineFixture {
   Dock& dock = machine.dock;
 };
 
-TEST_F(DockTest, LivesNowhereWithoutADisplay) {
+TEST_F(DockTest, IsNowhereWithoutADisplay) {
   EXPECT_EQ(dock.displayNumber(), std::nullopt);
   EXPECT_FALSE(dock.isVisible());
   EXPECT_EQ(dock.frame().size.width, 0);
 }
 
-TEST_F(DockTest, LivesOnTheMainDisplayFromTheStartWithoutHavingComeUp) {
+TEST_F(DockTest, BelongsToTheMainDisplayBeforeItFirstAppears) {
   attachPair();
   EXPECT_EQ(dock.displayNumber(), 1U);
   EXPECT_TRUE(dock.isVisible());
@@ -64,7 +64,7 @@ TEST_F(DockTest, FollowsThePointerThatPressesAgainstItsEdgeOfAnotherDisplay) {
   EXPECT_EQ(dock.revealCount(1), 1);
 }
 
-TEST_F(DockTest, TouchingTheEdgeOfAnotherDisplayWithoutPressingDoesNotSummonIt) {
+TEST_F(DockTest, TouchingTheEdgeOfAnotherDisplayWithoutPressureDoesNotSummonIt) {
   attachPair();
   machine.mouse.moveTo({1500, 799.5});
   EXPECT_EQ(dock.displayNumber(), 1U);
@@ -101,10 +101,10 @@ TEST_F(DockTest, WhateverElseIsStoredLeavesItAtTheBottom) {
 }
 
 TEST_F(DockTest, ANeighbourBehindTheEdgeKeepsItAway) {
-  // The second lies below the right half of the third, which is above both.
+  // The third display is above the right half of the first and extends beyond it.
   attach(1, {{0, 0}, {1000, 800}});
   attach(3, {{500, 800}, {1000, 800}});
-  // At the left of x 1000 the first display lies behind; the pointer walks over to it.
+  // To the left of x 1000 the first display is behind the edge; the pointer crosses over to it.
   push({700, -10}, 0, 5);
   EXPECT_EQ(dock.displayNumber(), 1U);
   machine.mouse.moveTo({1200, -10});

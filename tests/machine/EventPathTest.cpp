@@ -1,4 +1,4 @@
-// The way of an event allocates nothing, whatever happens on it.
+// The path of an event allocates nothing, whatever its outcome.
 #include <gtest/gtest.h>
 
 #include "desk/machine/MachineScope.hpp"
@@ -16,7 +16,7 @@ CGEventRef pushUp(CGEventTapProxy, CGEventType, CGEventRef event, void*) {
   return event;
 }
 
-TEST(EventPath, AllocatesNothing) {
+TEST(EventPathTest, AllocatesNothing) {
   MachineScope scope;
   Machine& machine = scope.machine();
   for (const std::uint32_t number : {1U, 2U, 3U}) {
@@ -29,7 +29,7 @@ TEST(EventPath, AllocatesNothing) {
                                             CGEventMask{1} << kCGEventMouseMoved, pushUp, nullptr);
   machine.eventTaps.find(*tap)->sourceModes = RunLoop::commonModes;
   machine.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, true);
-  // The first reveal of a display notes it in the counts; after that nothing is new.
+  // The first reveal on a display creates its counter; later ones allocate nothing.
   machine.modifierKeys.hold(kCGEventFlagMaskShift);
   for (const double x : {500.0, 1500.0, 2500.0}) {
     machine.mouse.moveTo({x, 400});

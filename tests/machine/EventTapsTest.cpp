@@ -1,4 +1,4 @@
-// Event taps: order, interest, sources, disabling, and their death.
+// Event taps: order, event masks, sources, disabling and ending.
 #include <functional>
 #include <string>
 #include <vector>
@@ -10,7 +10,7 @@
 namespace orvane::desk {
 namespace {
 
-/// What a callback of these tests does, as its user data.
+/// The action of a test's callback, passed as its user data.
 using Action = std::function<CGEventRef(CGEventType, CGEventRef)>;
 
 CGEventRef callAction(CGEventTapProxy, CGEventType type, CGEventRef event, void* userInfo) {
@@ -28,7 +28,7 @@ class EventTapsTest : public testing::Test {
     taps.find(*identity)->sourceModes = RunLoop::commonModes;
     return *identity;
   }
-  /// Notes its name and adds `dx` to the event's location.
+  /// Logs its name and adds `dx` to the event's location.
   Action shift(std::string name, double dx) {
     return [this, name = std::move(name), dx](CGEventType, CGEventRef seen) {
       log.push_back(name);
@@ -46,7 +46,7 @@ class EventTapsTest : public testing::Test {
   using Log = std::vector<std::string>;
 };
 
-TEST_F(EventTapsTest, AnEventWithoutTapsComesOutAsItWentIn) {
+TEST_F(EventTapsTest, AnEventWithoutTapsIsUnchanged) {
   EXPECT_TRUE(taps.deliver(event));
   EXPECT_EQ(event.location.x, 10);
 }
@@ -86,7 +86,7 @@ TEST_F(EventTapsTest, ATapWithoutASourceInTheModeLetsEventsPass) {
   EXPECT_EQ(log.size(), 1U);
 }
 
-TEST_F(EventTapsTest, AListeningTapCannotChangeTheEventNorSwallowIt) {
+TEST_F(EventTapsTest, AListenOnlyTapCanNeitherChangeNorDropTheEvent) {
   Action action = [this](CGEventType, CGEventRef seen) -> CGEventRef {
     log.push_back("heard");
     seen->location.x = 99;
@@ -98,7 +98,7 @@ TEST_F(EventTapsTest, AListeningTapCannotChangeTheEventNorSwallowIt) {
   EXPECT_EQ(event.location.x, 10);
 }
 
-TEST_F(EventTapsTest, ATapThatReturnsNoEventSwallowsIt) {
+TEST_F(EventTapsTest, ATapThatReturnsNoEventDropsIt) {
   Action swallow = [](CGEventType, CGEventRef) -> CGEventRef { return nullptr; };
   Action after = shift("after", 1);
   make(swallow);
@@ -124,22 +124,22 @@ TEST_F(EventTapsTest, RefusedCreationMakesNoTap) {
   EXPECT_EQ(taps.aliveCount(), 0U);
 }
 
-TEST_F(EventTapsTest, TheSystemDisablesATapBeforeItTellsItSo) {
-  std::vector<bool> enabledWhenTold;
+TEST_F(EventTapsTest, TheSystemDisablesATapBeforeItNotifiesIt) {
+  std::vector<bool> enabledWhenNotified;
   std::uint64_t identity = 0;
   Action action = [&](CGEventType type, CGEventRef seen) {
     EXPECT_EQ(type, kCGEventTapDisabledByTimeout);
-    enabledWhenTold.push_back(taps.find(identity)->isEnabled);
+    enabledWhenNotified.push_back(taps.find(identity)->isEnabled);
     return seen;
   };
   identity = make(action);
   EXPECT_EQ(taps.disableAll(kCGEventTapDisabledByTimeout, {0, 0}), 1);
-  EXPECT_EQ(enabledWhenTold, (std::vector<bool>{false}));
+  EXPECT_EQ(enabledWhenNotified, (std::vector<bool>{false}));
   EXPECT_FALSE(taps.isAnyEnabled());
   EXPECT_EQ(taps.aliveCount(), 1U);
   EXPECT_EQ(taps.disableAll(kCGEventTapDisabledByTimeout, {0, 0}), 0);
   taps.deliver(event);
-  EXPECT_EQ(enabledWhenTold.size(), 1U);
+  EXPECT_EQ(enabledWhenNotified.size(), 1U);
 }
 
 TEST_F(EventTapsTest, ADisabledTapMayEnableItselfAgain) {

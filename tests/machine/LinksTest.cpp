@@ -1,4 +1,4 @@
-// What forms a URL, what is refused, and the journal of what was asked for.
+// Which URLs are valid, which are refused, and the log of requests.
 #include <gtest/gtest.h>
 
 #include "desk/machine/Links.hpp"
@@ -6,7 +6,7 @@
 namespace orvane::desk {
 namespace {
 
-TEST(Links, KnowWhatFormsAURL) {
+TEST(LinksTest, KnowWhatFormsAURL) {
   for (const char* text :
        {"https://orvane.example/privacy", "mailto:support@orvane.example?subject=Orvane%20Support",
         "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility",
@@ -20,7 +20,7 @@ TEST(Links, KnowWhatFormsAURL) {
   }
 }
 
-TEST(Links, NoteWhatWasOpenedInOrder) {
+TEST(LinksTest, NoteWhatWasOpenedInOrder) {
   Links links;
   EXPECT_TRUE(links.openURL("a:1"));
   EXPECT_TRUE(links.openFile("/System/Applications/System Settings.app"));
@@ -31,7 +31,7 @@ TEST(Links, NoteWhatWasOpenedInOrder) {
   EXPECT_TRUE(links.opened()[1].isFile);
 }
 
-TEST(Links, RefuseByPrefixUntilAllAreAcceptedAgain) {
+TEST(LinksTest, RefuseByPrefixUntilAllAreAcceptedAgain) {
   Links links;
   links.refuse("a:x");
   EXPECT_FALSE(links.openURL("a:xyz"));
@@ -46,7 +46,7 @@ TEST(Links, RefuseByPrefixUntilAllAreAcceptedAgain) {
   EXPECT_FALSE(links.opened()[2].wasAccepted);
 }
 
-TEST(Links, WhatIsNoURLAndNoAbsolutePathIsNeitherOpenedNorNoted) {
+TEST(LinksTest, AnythingButAURLOrAnAbsolutePathIsNeitherOpenedNorRecorded) {
   Links links;
   EXPECT_FALSE(links.openURL("not a url"));
   EXPECT_FALSE(links.openFile("relative"));

@@ -8,7 +8,7 @@ namespace {
 
 using Status = appkit::LoginItem::Status;
 
-TEST(LoginItemState, RegistersAndUnregisters) {
+TEST(LoginItemStateTest, RegistersAndUnregisters) {
   LoginItemState item;
   EXPECT_EQ(item.status, Status::notRegistered);
   EXPECT_EQ(item.registerApplication(), std::nullopt);
@@ -17,7 +17,7 @@ TEST(LoginItemState, RegistersAndUnregisters) {
   EXPECT_EQ(item.status, Status::notRegistered);
 }
 
-TEST(LoginItemState, WhatItsUserHasToApproveIsNotEnabledByRegisteringItAgain) {
+TEST(LoginItemStateTest, AnItemThatNeedsApprovalIsNotEnabledByRegisteringItAgain) {
   LoginItemState item;
   item.status = Status::requiresApproval;
   EXPECT_EQ(item.registerApplication(), std::nullopt);
@@ -26,14 +26,14 @@ TEST(LoginItemState, WhatItsUserHasToApproveIsNotEnabledByRegisteringItAgain) {
   EXPECT_EQ(item.status, Status::notRegistered);
 }
 
-TEST(LoginItemState, AServiceThatWasNotFoundCanBeRegistered) {
+TEST(LoginItemStateTest, AServiceThatWasNotFoundCanBeRegistered) {
   LoginItemState item;
   item.status = Status::notFound;
   EXPECT_EQ(item.registerApplication(), std::nullopt);
   EXPECT_EQ(item.status, Status::enabled);
 }
 
-TEST(LoginItemState, AnErrorLeavesTheStatusAsItIs) {
+TEST(LoginItemStateTest, AnErrorLeavesTheStatusAsItIs) {
   LoginItemState item;
   item.status = Status::requiresApproval;
   item.error = "Operation not permitted";

@@ -1,4 +1,4 @@
-// Switching machines on and off, and what is told at the end.
+// Switching machines on and off, and the report at the end.
 #include <gtest/gtest.h>
 
 #include "desk/machine/MachineScope.hpp"
@@ -6,7 +6,7 @@
 namespace orvane::desk {
 namespace {
 
-TEST(MachineScope, MakesItsMachineTheCurrentOne) {
+TEST(MachineScopeTest, MakesItsMachineTheCurrentOne) {
   EXPECT_EQ(Machine::currentOrNull(), nullptr);
   {
     const MachineScope scope;
@@ -15,13 +15,13 @@ TEST(MachineScope, MakesItsMachineTheCurrentOne) {
   EXPECT_EQ(Machine::currentOrNull(), nullptr);
 }
 
-TEST(MachineScope, EndsCleanWhenNothingWasLeft) {
+TEST(MachineScopeTest, EndsCleanWhenNothingLeaked) {
   MachineScope scope;
   CFRelease(CFStringCreateWithCString(kCFAllocatorDefault, "text", kCFStringEncodingUTF8));
   EXPECT_TRUE(scope.end().isClean());
 }
 
-TEST(MachineScope, TellsOfObjectsThatNobodyReleased) {
+TEST(MachineScopeTest, ReportsLeakedObjects) {
   MachineScope scope;
   const CFStringRef text =
       CFStringCreateWithCString(kCFAllocatorDefault, "left behind", kCFStringEncodingUTF8);
@@ -33,7 +33,7 @@ TEST(MachineScope, TellsOfObjectsThatNobodyReleased) {
   EXPECT_TRUE(end.faults.empty());
 }
 
-TEST(MachineScope, TellsOfFaults) {
+TEST(MachineScopeTest, ReportsFaults) {
   MachineScope scope;
   const CFStringRef text =
       CFStringCreateWithCString(kCFAllocatorDefault, "twice", kCFStringEncodingUTF8);
@@ -44,7 +44,7 @@ TEST(MachineScope, TellsOfFaults) {
   EXPECT_EQ(end.faults[0], "CFRelease: CFString \"twice\" was already released");
 }
 
-TEST(MachineScope, ANewMachineKnowsNothingOfTheOldOne) {
+TEST(MachineScopeTest, ANewMachineStartsAfresh) {
   {
     MachineScope scope;
     scope->userDefaults.set("key", true);
@@ -62,7 +62,7 @@ TEST(MachineScopeDeathTest, ASecondMachineAtATimeIsRefused) {
   EXPECT_DEATH(MachineScope(), "switched on already");
 }
 
-TEST(MachineScopeDeathTest, WithoutAMachineThereIsNoSeam) {
+TEST(MachineScopeDeathTest, WithoutAMachineThePlatformIsUnavailable) {
   EXPECT_DEATH(Machine::current(), "no machine is switched on");
 }
 

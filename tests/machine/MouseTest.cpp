@@ -1,4 +1,4 @@
-// A movement on its way through taps, pointer and Dock.
+// The path of a movement through taps, pointer and Dock.
 #include <cmath>
 #include <vector>
 
@@ -10,18 +10,18 @@
 namespace orvane::desk {
 namespace {
 
-/// What the tap of these tests saw, and what it does to the event.
+/// What the tap of these tests has seen, and how it changes the event.
 struct TapScript {
   std::vector<__CGEvent> seen;
   double dy = 0;
-  bool swallows = false;
+  bool drops = false;
 };
 
 CGEventRef follow(CGEventTapProxy, CGEventType, CGEventRef event, void* userInfo) {
   auto& script = *static_cast<TapScript*>(userInfo);
   script.seen.push_back(*event);
   event->location.y += script.dy;
-  return script.swallows ? nullptr : event;
+  return script.drops ? nullptr : event;
 }
 
 class MouseTest : public MachineFixture, private PointerListener {
@@ -42,13 +42,13 @@ class MouseTest : public MachineFixture, private PointerListener {
   ~MouseTest() override { machine.mouse.setListener(nullptr); }
 
   TapScript script;
-  std::vector<CGPoint> told;
+  std::vector<CGPoint> positions;
 
  private:
-  void pointerMovedTo(CGPoint place) override { told.push_back(place); }
+  void pointerMovedTo(CGPoint position) override { positions.push_back(position); }
 };
 
-TEST_F(MouseTest, AMovementBecomesAnEventAtTheClampedPlaceWithTheHeldKeys) {
+TEST_F(MouseTest, AMovementBecomesAnEventAtTheClampedPositionWithTheHeldKeys) {
   machine.modifierKeys.hold(kCGEventFlagMaskShift | kCGEventFlagMaskCommand);
   machine.mouse.moveTo({500, 400});
   machine.mouse.moveBy(0, 900);
@@ -69,8 +69,8 @@ TEST_F(MouseTest, WhereTheLastTapLeavesTheEventIsWhereThePointerIs) {
   EXPECT_EQ(movement.wanted.y, 799);
   EXPECT_EQ(movement.reached.y, 787);
   EXPECT_EQ(machine.counters.relocatedEvents, 1);
-  ASSERT_EQ(told.size(), 1U);
-  EXPECT_EQ(told[0].y, 787);
+  ASSERT_EQ(positions.size(), 1U);
+  EXPECT_EQ(positions[0].y, 787);
 }
 
 TEST_F(MouseTest, AMovementThatNoTapChangesEndsWhereItWantedTo) {
@@ -89,32 +89,32 @@ TEST_F(MouseTest, AFreeCursorGoesWithTheHandAndOnlyWhatFollowsTheTapsSeesTheChan
   EXPECT_EQ(movement.outcome, PointerMovement::Outcome::movedBack);
   EXPECT_EQ(movement.wanted.y, 799);
   EXPECT_EQ(movement.reached.y, 787);
-  ASSERT_EQ(told.size(), 2U);
-  EXPECT_EQ(told[1].y, 787);
+  ASSERT_EQ(positions.size(), 2U);
+  EXPECT_EQ(positions[1].y, 787);
   EXPECT_EQ(machine.dock.displayNumber(), 1U);
-  // It is at the edge still: the hand moves on from there.
+  // It is still at the edge: the next movement starts there.
   machine.mouse.moveBy(5, 0);
   EXPECT_EQ(script.seen.back().location.y, 799);
 }
 
-TEST_F(MouseTest, AFreeCursorKnowsOfNoTapThatSwallowsItsMovements) {
+TEST_F(MouseTest, AFreeCursorMovesEvenIfATapDropsItsMovements) {
   machine.mouse.setCursor(Mouse::Cursor::free);
   machine.mouse.moveTo({1500, 400});
-  script.swallows = true;
+  script.drops = true;
   machine.mouse.moveBy(0, 900);
   EXPECT_EQ(machine.pointer.place().y, 799);
   EXPECT_EQ(machine.dock.displayNumber(), 1U);
-  EXPECT_EQ(told.size(), 1U);
+  EXPECT_EQ(positions.size(), 1U);
 }
 
-TEST_F(MouseTest, APlaceOffAllDisplaysIsClampedAgain) {
+TEST_F(MouseTest, APositionOffAllDisplaysIsClampedAgain) {
   script.dy = 5000;
   machine.mouse.moveTo({500, 400});
   EXPECT_EQ(machine.pointer.place().x, 500);
   EXPECT_EQ(machine.pointer.place().y, 799);
 }
 
-TEST_F(MouseTest, APlaceThatIsNoPlaceLeavesThePointerWhereItWas) {
+TEST_F(MouseTest, AnInvalidPositionDoesNotMoveThePointer) {
   machine.mouse.moveTo({500, 400});
   script.dy = std::nan("");
   machine.mouse.moveTo({600, 500});
@@ -122,9 +122,9 @@ TEST_F(MouseTest, APlaceThatIsNoPlaceLeavesThePointerWhereItWas) {
   EXPECT_EQ(machine.pointer.place().y, 400);
 }
 
-TEST_F(MouseTest, ASwallowedMovementMovesNothing) {
+TEST_F(MouseTest, ADroppedMovementMovesNothing) {
   machine.mouse.moveTo({1500, 400});
-  script.swallows = true;
+  script.drops = true;
   const PointerMovement movement = machine.mouse.moveBy(0, 900);
   EXPECT_EQ(movement.outcome, PointerMovement::Outcome::dropped);
   EXPECT_EQ(movement.wanted.y, 799);
@@ -132,10 +132,10 @@ TEST_F(MouseTest, ASwallowedMovementMovesNothing) {
   EXPECT_EQ(machine.pointer.place().y, 400);
   EXPECT_EQ(machine.dock.displayNumber(), 1U);
   EXPECT_EQ(machine.counters.droppedEvents, 1);
-  EXPECT_EQ(told.size(), 1U);
+  EXPECT_EQ(positions.size(), 1U);
 }
 
-TEST_F(MouseTest, TheDockSeesThePlaceAfterTheTaps) {
+TEST_F(MouseTest, TheDockSeesThePositionAfterTheTaps) {
   machine.mouse.moveTo({1500, 400});
   script.dy = -12;
   machine.mouse.moveBy(0, 900);
@@ -145,7 +145,7 @@ TEST_F(MouseTest, TheDockSeesThePlaceAfterTheTaps) {
   EXPECT_EQ(machine.dock.displayNumber(), 2U);
 }
 
-TEST_F(MouseTest, AMovementThatIsNotFiniteIsNone) {
+TEST_F(MouseTest, ANonFiniteMovementIsIgnored) {
   EXPECT_EQ(machine.mouse.moveBy(std::nan(""), 0).outcome, PointerMovement::Outcome::none);
   EXPECT_EQ(machine.mouse.moveBy(0, INFINITY).outcome, PointerMovement::Outcome::none);
   EXPECT_TRUE(script.seen.empty());
@@ -167,8 +167,8 @@ TEST_F(MouseTest, APostedEventRunsThroughTheTapsAndMovesNoPointer) {
   EXPECT_EQ(out->y, 78);
   EXPECT_EQ(script.seen[0].flags, kCGEventFlagMaskControl);
   EXPECT_EQ(machine.pointer.place().y, 0);
-  EXPECT_TRUE(told.empty());
-  script.swallows = true;
+  EXPECT_TRUE(positions.empty());
+  script.drops = true;
   EXPECT_EQ(machine.mouse.post({1, 1}, 0), std::nullopt);
 }
 

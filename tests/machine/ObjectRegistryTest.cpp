@@ -1,4 +1,4 @@
-// Reference counting, and mistakes that are recorded instead of made.
+// Reference counting, and the recording of mistakes.
 #include <memory>
 #include <utility>
 
@@ -69,7 +69,7 @@ TEST_F(ObjectRegistryTest, AnObjectOfAnotherKindIsAFault) {
   EXPECT_EQ(faults.take(), (std::vector<std::string>{"use: CFUUID is no CFString"}));
 }
 
-TEST_F(ObjectRegistryTest, TellsWhatLivesInTheOrderOfCreation) {
+TEST_F(ObjectRegistryTest, ListsLiveObjectsInOrderOfCreation) {
   add(ObjectKind::uuid);
   Object* const number = add(ObjectKind::number);
   registry.retain(number, "retain");
@@ -80,7 +80,7 @@ TEST_F(ObjectRegistryTest, TellsWhatLivesInTheOrderOfCreation) {
   EXPECT_EQ(registry.liveCount(ObjectKind::number), 1U);
 }
 
-TEST_F(ObjectRegistryTest, AReleasedAddressIsNotUsedAgainSoon) {
+TEST_F(ObjectRegistryTest, AReleasedAddressIsNotReusedSoon) {
   Object* const object = add();
   registry.release(object, "release");
   for (int count = 0; count < 500; ++count) {

@@ -1,4 +1,4 @@
-// Notifications reach their observers in order, who may come and go meanwhile.
+// Notifications reach observers in order, even when observers are added and removed meanwhile.
 #include <functional>
 #include <string>
 #include <vector>
@@ -28,7 +28,7 @@ class ObserversTest : public testing::Test {
   using Log = std::vector<std::string>;
 };
 
-TEST_F(ObserversTest, AreToldInTheOrderTheyRegistered) {
+TEST_F(ObserversTest, AreNotifiedInOrderOfRegistration) {
   add("a");
   const auto b = add("b");
   add("c");
@@ -40,7 +40,7 @@ TEST_F(ObserversTest, AreToldInTheOrderTheyRegistered) {
   EXPECT_EQ(observers.count(), 2U);
 }
 
-TEST_F(ObserversTest, OneThatIsRemovedBeforeItsTurnIsNotTold) {
+TEST_F(ObserversTest, AnObserverRemovedBeforeItsTurnIsSkipped) {
   std::shared_ptr<Observers::Observer> second;
   add("first", [&] { observers.remove(second); });
   second = add("second");

@@ -1,4 +1,4 @@
-// The permission, and its changes.
+// The permission and the announcement of its changes.
 #include <gtest/gtest.h>
 
 #include "desk/machine/Permission.hpp"
@@ -6,7 +6,7 @@
 namespace orvane::desk {
 namespace {
 
-TEST(Permission, AnnouncesItsChangesAndNothingElse) {
+TEST(PermissionTest, AnnouncesItsChangesAndNothingElse) {
   Permission permission;
   int changes = 0;
   permission.onChange([&changes] { ++changes; });

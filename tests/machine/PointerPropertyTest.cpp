@@ -1,4 +1,4 @@
-// Clamping on random displays, beside a search over every place there is.
+// Clamping on random displays, compared with a search over all points.
 #include <algorithm>
 #include <ostream>
 #include <vector>
@@ -47,8 +47,8 @@ bool holds(const CGRect& frame, int x, int y) {
          y <= frame.origin.y + frame.size.height - 1;
 }
 
-/// The places of whole points in the frame that are nearest to the goal; for a goal of whole points
-/// there is one.
+/// The point with integer coordinates in the frame that is nearest to the goal; unique for an
+/// integer goal.
 CGPoint nearestBySearch(const CGRect& frame, int goalX, int goalY) {
   CGPoint best{0, 0};
   int smallest = -1;

@@ -61,20 +61,20 @@ TEST_F(PointerTest, CrossesAGapWhenTheMovementReachesTheOtherDisplay) {
   expectPlace(110, 25);
 }
 
-TEST_F(PointerTest, ADisplayThinnerThanAPointHasOnePlace) {
+TEST_F(PointerTest, ADisplayThinnerThanAPointHasOnePosition) {
   attach(1, {{0, 0}, {0.5, 0.25}});
   pointer.settle({8, 8});
   expectPlace(0, 0);
 }
 
-TEST_F(PointerTest, APlaceThatIsNotFiniteLeavesItWhereItIs) {
+TEST_F(PointerTest, ANonFinitePositionDoesNotMoveIt) {
   attach(1, {{0, 0}, {100, 50}});
   pointer.settle({10, 20});
   pointer.settle({std::nan(""), 5});
   expectPlace(10, 20);
 }
 
-TEST_F(PointerTest, MovesToTheNearestPlaceWhenItsDisplayGoes) {
+TEST_F(PointerTest, MovesToTheNearestPositionWhenItsDisplayIsDetached) {
   attach(1, {{0, 0}, {100, 50}});
   attach(2, {{100, 0}, {100, 50}});
   attach(3, {{200, 0}, {100, 50}});
@@ -85,7 +85,7 @@ TEST_F(PointerTest, MovesToTheNearestPlaceWhenItsDisplayGoes) {
   EXPECT_EQ(displays.all()[*pointer.displayIndex()].number, 3U);
 }
 
-TEST_F(PointerTest, StaysWhenAnotherDisplayTakesThePlaceOfItsOwn) {
+TEST_F(PointerTest, StaysWhenAnotherDisplayReplacesItsOwn) {
   attach(1, {{0, 0}, {100, 50}});
   attach(2, {{0, 0}, {100, 50}});
   pointer.settle({10, 20});

@@ -1,4 +1,4 @@
-// Preferences: domains, their order, and the copy that the application sees.
+// Preferences: domains, their search order, and the application's cached copy.
 #include <gtest/gtest.h>
 
 #include "desk/machine/Preferences.hpp"
@@ -14,7 +14,7 @@ PropertyValue text(const char* content) {
   return std::string(content);
 }
 
-TEST(Preferences, KeepOneValueForEachDomain) {
+TEST(PreferencesTest, KeepOneValueForEachDomain) {
   Preferences preferences;
   preferences.set({"dock"}, "edge", text("left"));
   preferences.set({"dock", User::current, Host::current}, "edge", 3.0);
@@ -25,7 +25,7 @@ TEST(Preferences, KeepOneValueForEachDomain) {
   EXPECT_EQ(preferences.stored(Domain{"finder"}, "edge"), std::nullopt);
 }
 
-TEST(Preferences, AreSearchedFromTheNearestDomainToTheFarthest) {
+TEST(PreferencesTest, AreSearchedFromTheNearestDomainToTheFarthest) {
   Preferences preferences;
   preferences.set({"dock", User::any, Host::any}, "edge", text("far"));
   EXPECT_EQ(preferences.stored("dock", "edge"), text("far"));
@@ -39,7 +39,7 @@ TEST(Preferences, AreSearchedFromTheNearestDomainToTheFarthest) {
   EXPECT_EQ(preferences.stored("dock", "edge"), text("second"));
 }
 
-TEST(Preferences, TheApplicationSeesACopyUntilItSynchronises) {
+TEST(PreferencesTest, TheApplicationSeesACopyUntilItSynchronises) {
   Preferences preferences;
   preferences.set({"dock"}, "edge", text("left"));
   EXPECT_EQ(preferences.seen(Domain{"dock"}, "edge"), text("left"));
@@ -55,7 +55,7 @@ TEST(Preferences, TheApplicationSeesACopyUntilItSynchronises) {
   EXPECT_EQ(preferences.seen("dock", "other"), PropertyValue(true));
 }
 
-TEST(Preferences, AnotherProcessSeesAfresh) {
+TEST(PreferencesTest, AnotherProcessSeesAfresh) {
   Preferences preferences;
   EXPECT_EQ(preferences.seen("dock", "edge"), std::nullopt);
   preferences.set({"dock"}, "edge", text("left"));
@@ -64,7 +64,7 @@ TEST(Preferences, AnotherProcessSeesAfresh) {
   EXPECT_EQ(preferences.seen("dock", "edge"), text("left"));
 }
 
-TEST(Preferences, TellOfEachChange) {
+TEST(PreferencesTest, ReportEachChange) {
   Preferences preferences;
   int changes = 0;
   preferences.onChange([&changes] { ++changes; });

@@ -1,4 +1,4 @@
-// The beginning and the end of a process: what goes with it and what stays.
+// The start and the end of a process: what ends with it and what survives.
 #include <memory>
 #include <optional>
 
@@ -26,7 +26,7 @@ class ProcessTest : public testing::Test {
   Machine& machine = scope.machine();
 };
 
-TEST_F(ProcessTest, AMachineStartsWithoutOne) {
+TEST_F(ProcessTest, AMachineStartsWithoutAProcess) {
   int runs = 0;
   EXPECT_FALSE(machine.process.isRunning());
   appkit::MainQueue::async([&runs] { ++runs; });
@@ -49,7 +49,7 @@ TEST_F(ProcessTest, PendingTasksAndTimersEndWithItUnrun) {
   EXPECT_EQ(*held, 0);
 }
 
-TEST_F(ProcessTest, ObserversEndWithItAndAProcessThatDoesNotRunHearsNothing) {
+TEST_F(ProcessTest, ObserversEndWithItAndAProcessThatDoesNotRunReceivesNothing) {
   machine.process.start();
   int heard = 0;
   const auto token = appkit::NotificationCenter::addObserver(
@@ -67,7 +67,7 @@ TEST_F(ProcessTest, ObserversEndWithItAndAProcessThatDoesNotRunHearsNothing) {
   appkit::NotificationCenter::removeObserver(token);
 }
 
-TEST_F(ProcessTest, TapsDieWithItAndTheRunLoopLetsGoOfTheirSources) {
+TEST_F(ProcessTest, TapsEndWithItAndTheRunLoopReleasesTheirSources) {
   machine.process.start();
   machine.permission.setTrusted(true);
   const CFMachPortRef port =
@@ -84,7 +84,7 @@ TEST_F(ProcessTest, TapsDieWithItAndTheRunLoopLetsGoOfTheirSources) {
   EXPECT_TRUE(scope.end().isClean());
 }
 
-/// A shared object whose destructor asks the machine for things that must come to nothing.
+/// A shared object whose destructor makes requests that must have no effect.
 struct LastWords {
   ~LastWords() {
     appkit::UserDefaults::setBoolean("lastWords", true);
@@ -95,7 +95,7 @@ struct LastWords {
 
 ProcessShared<LastWords> lastWords;
 
-TEST_F(ProcessTest, ItsSharedObjectsEndWithItAndTheirLastWordsAreNotHeard) {
+TEST_F(ProcessTest, ItsSharedObjectsEndWithItAndTheirLastPostsAreDropped) {
   machine.process.start();
   appkit::UserDefaults::setBoolean("kept", true);
   lastWords.get();

@@ -1,5 +1,5 @@
-// The order of the run loop on random requests, beside a plain list that is searched from end to
-// end at every step of time.
+// The order of the run loop for random requests, compared with a plain list that is searched at
+// every time step.
 #include <memory>
 #include <ostream>
 #include <string>
@@ -26,9 +26,9 @@ struct Step {
     release
   };
   Kind kind;
-  /// The delay, the interval or the time that passes.
+  /// The delay, the interval or the elapsed time.
   int amount;
-  /// A task asks for another one, so much later, when it is not negative.
+  /// When not negative, the task posts another one with this delay.
   int childDelay;
 };
 
@@ -40,8 +40,8 @@ std::ostream& operator<<(std::ostream& out, const Step& step) {
 
 using Record = std::pair<std::int64_t, int>;
 
-/// What the run loop does, said as simply as possible: time goes on by one unit after the other,
-/// and at each the whole list is searched for what has waited longest.
+/// The simplest possible model of the run loop: time advances unit by unit, and each time the whole
+/// list is searched for the item that has waited longest.
 class ListModel {
  public:
   std::vector<Record> records;

@@ -16,7 +16,7 @@ constexpr auto standardMode = static_cast<RunLoop::ModeSet>(RunLoop::Mode::stand
 
 class RunLoopTest : public testing::Test {
  protected:
-  /// Notes `name` with the time in milliseconds.
+  /// Logs `name` with the time in milliseconds.
   RunLoop::Task note(std::string name) {
     return [this, name = std::move(name)] {
       log.push_back(name + "@" + std::to_string(clock.now() / millisecond));
@@ -71,7 +71,7 @@ TEST_F(RunLoopTest, ServesEqualDueTimesInTheOrderTheyWereAskedFor) {
                       "second timer@2000"}));
 }
 
-TEST_F(RunLoopTest, ADelayOfNothingOrLessIsServedAtOnce) {
+TEST_F(RunLoopTest, AZeroOrNegativeDelayIsServedAtOnce) {
   runLoop.asyncAfter(-5, note("a"));
   runLoop.asyncAfter(0, note("b"));
   runLoop.runDue();
@@ -174,7 +174,7 @@ TEST_F(RunLoopTest, KnowsWhetherATaskOfTheMainQueueRuns) {
   EXPECT_FALSE(runLoop.isServingMainQueue());
 }
 
-TEST_F(RunLoopTest, AnInvalidatedTimerFiresNoMoreAndLetsGoOfItsTick) {
+TEST_F(RunLoopTest, AnInvalidatedTimerStopsAndReleasesItsCallback) {
   auto held = std::make_shared<int>(0);
   const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [held] { ++*held; });
   runLoop.advance(second);
@@ -191,7 +191,7 @@ TEST_F(RunLoopTest, ATimerMayInvalidateItselfInItsTick) {
   const auto held = std::make_shared<int>(0);
   timer = runLoop.addTimer(second, RunLoop::commonModes, [&, held] {
     runLoop.invalidateTimer(timer);
-    // The tick is still running, so what it holds must still be there.
+    // The tick is still running, so what it holds must still exist.
     ++*held;
   });
   runLoop.advance(3 * second);
@@ -199,7 +199,7 @@ TEST_F(RunLoopTest, ATimerMayInvalidateItselfInItsTick) {
   EXPECT_EQ(held.use_count(), 1);
 }
 
-TEST_F(RunLoopTest, AnIntervalOfNothingIsATenthOfAMillisecond) {
+TEST_F(RunLoopTest, AnIntervalOfZeroBecomesATenthOfAMillisecond) {
   int ticks = 0;
   const auto timer = runLoop.addTimer(0, RunLoop::commonModes, [&] { ++ticks; });
   runLoop.advance(millisecond);
@@ -216,10 +216,10 @@ TEST_F(RunLoopTest, CountsAWakeUpForEachInstantWithSomethingToDo) {
 }
 
 TEST_F(RunLoopTest, TimersOnTheSharedBeatFireTogetherAndInTheOrderInWhichTheyCame) {
-  const auto first = runLoop.addTimerOnSharedBeat(second, RunLoop::commonModes, note("first"));
+  const auto first = runLoop.addCoalescedTimer(second, RunLoop::commonModes, note("first"));
   runLoop.advance(300 * millisecond);
-  const auto joined = runLoop.addTimerOnSharedBeat(second, standardMode, note("joined"));
-  const auto longer = runLoop.addTimerOnSharedBeat(2 * second, standardMode, note("longer"));
+  const auto joined = runLoop.addCoalescedTimer(second, standardMode, note("joined"));
+  const auto longer = runLoop.addCoalescedTimer(2 * second, standardMode, note("longer"));
   const auto apart = runLoop.addTimer(second, standardMode, note("apart"));
   runLoop.advance(2 * second);
   EXPECT_EQ(log, (Log{"first@1000", "joined@1000", "apart@1300", "first@2000", "joined@2000",
@@ -227,7 +227,7 @@ TEST_F(RunLoopTest, TimersOnTheSharedBeatFireTogetherAndInTheOrderInWhichTheyCam
   EXPECT_EQ(runLoop.wakeUpCount(), 4);
 }
 
-TEST_F(RunLoopTest, SweepingDestroysWhatIsPendingWithoutRunningIt) {
+TEST_F(RunLoopTest, SweepingDestroysPendingTasksWithoutRunningThem) {
   const auto held = std::make_shared<int>(0);
   const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [held] { ++*held; });
   runLoop.asyncAfter(second, [held] { ++*held; });

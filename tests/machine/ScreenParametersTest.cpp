@@ -1,5 +1,5 @@
-// When the screen-parameters notification is posted: after display changes, and when the
-// Dock takes or gives back a part of one.
+// When the screen-parameters notification is posted: after display changes, and when the Dock
+// changes a visible frame.
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -44,7 +44,7 @@ class ScreenParametersTest : public MachineFixture {
     machine.observers.add(NotificationName::applicationDidChangeScreenParameters,
                           [this] { ++heard_; });
   }
-  /// How often the application heard of its screens since the last call, once all is at rest.
+  /// The number of notifications since the last call, after serving everything that is due.
   int heardAtRest() {
     machine.runDue();
     return std::exchange(heard_, 0);
@@ -89,7 +89,7 @@ TEST_F(ScreenParametersTest, ADockAtAnotherEdgeIsNews) {
   EXPECT_EQ(heardAtRest(), 1);
 }
 
-TEST_F(ScreenParametersTest, AnotherTextForTheSameEdgeIsNone) {
+TEST_F(ScreenParametersTest, AnotherTextForTheSameEdgeIsNotAChange) {
   for (const PropertyValue& value : {PropertyValue(std::string("bottom")),
                                      PropertyValue(std::string("top")), PropertyValue(1.0)}) {
     setDockOrientation(machine, value);
@@ -106,7 +106,7 @@ TEST_F(ScreenParametersTest, SoIsItsHidingWhenTheDockHides) {
   EXPECT_EQ(heardAtRest(), 1);
 }
 
-TEST_F(ScreenParametersTest, ADockThatStaysUpUnderThePointerIsNoNewsYet) {
+TEST_F(ScreenParametersTest, ADockThatStaysUpUnderThePointerIsNotAnnouncedYet) {
   machine.mouse.moveTo(aboveTheDock);
   setAutoHide(machine, true);
   EXPECT_EQ(heardAtRest(), 0);
@@ -144,7 +144,7 @@ TEST_F(ScreenParametersTest, AHiddenDockChangesItsEdgeUnnoticed) {
   EXPECT_EQ(heardAtRest(), 0);
 }
 
-TEST_F(ScreenParametersTest, NobodyHearsOfItInTheMiddleOfAMovement) {
+TEST_F(ScreenParametersTest, NothingIsAnnouncedDuringAMovement) {
   machine.mouse.moveTo(aboveTheOtherEdge);
   machine.mouse.moveBy(0, 60);
   EXPECT_EQ(heardSoFar(), 0);
@@ -162,7 +162,7 @@ TEST_F(ScreenParametersTest, ModalSessionsAndMenusDoNotKeepItBack) {
   }
 }
 
-TEST_F(ScreenParametersTest, WhatIsUndoneAtOnceIsNoNews) {
+TEST_F(ScreenParametersTest, AChangeThatIsUndoneAtOnceIsNotAnnounced) {
   setDockOrientation(machine, "left");
   setDockOrientation(machine, "bottom");
   EXPECT_EQ(heardAtRest(), 0);
@@ -186,7 +186,7 @@ TEST_F(ScreenParametersTest, ADockThatMovesWhileDisplaysChangeTogetherIsHeardOfA
   EXPECT_EQ(heardAtRest(), 1);
 }
 
-TEST_F(ScreenParametersTest, WhatChangedBeforeALaunchIsNoNewsToIt) {
+TEST_F(ScreenParametersTest, AChangeBeforeALaunchIsNotAnnounced) {
   setDockOrientation(machine, "left");
   machine.process.end();
   setAutoHide(machine, true);

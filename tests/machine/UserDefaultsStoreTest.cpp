@@ -1,4 +1,4 @@
-// Stored user defaults and the count of writes.
+// Stored user defaults and the counts of writes.
 #include <gtest/gtest.h>
 
 #include "desk/machine/UserDefaultsStore.hpp"
@@ -6,7 +6,7 @@
 namespace orvane::desk {
 namespace {
 
-TEST(UserDefaultsStore, KeepsValuesOfEachTypeInTheOrderOfTheirKeys) {
+TEST(UserDefaultsStoreTest, KeepsValuesOfEachTypeInTheOrderOfTheirKeys) {
   UserDefaultsStore store;
   store.set("b", std::string("text"));
   store.set("c", 1.5);
@@ -22,7 +22,7 @@ TEST(UserDefaultsStore, KeepsValuesOfEachTypeInTheOrderOfTheirKeys) {
   EXPECT_EQ(store.value("d"), std::nullopt);
 }
 
-TEST(UserDefaultsStore, CountsWritesOfEachKey) {
+TEST(UserDefaultsStoreTest, CountsWritesOfEachKey) {
   UserDefaultsStore store;
   store.set("a", true);
   store.set("a", true);

@@ -1,4 +1,4 @@
-// What users of a screen reader are told of the guard, and when.
+// What is announced of the guard to users of a screen reader, and when.
 #include <string>
 #include <vector>
 
@@ -17,8 +17,8 @@ class GuardAnnouncerTest : public ModelFixture {
  protected:
   GuardAnnouncerTest() { store("appLanguage", "english"); }
 
-  /// What is said at an update, as happens after each action and once a second.
-  std::vector<std::string> said() {
+  /// The announcements of two updates; the second must add nothing.
+  std::vector<std::string> announced() {
     std::vector<std::string>& all = desk::WindowServer::current().announcements;
     all.clear();
     announcer.update(*model);
@@ -29,112 +29,113 @@ class GuardAnnouncerTest : public ModelFixture {
   GuardAnnouncer announcer;
 };
 
-TEST_F(GuardAnnouncerTest, AnOrdinaryStartSaysNothing) {
+TEST_F(GuardAnnouncerTest, AnOrdinaryLaunchIsNotAnnounced) {
   launch();
-  EXPECT_EQ(said(), Announcements());
+  EXPECT_EQ(announced(), Announcements());
 }
 
-TEST_F(GuardAnnouncerTest, ALockThatIsRestoredIsTold) {
+TEST_F(GuardAnnouncerTest, ARestoredLockIsAnnounced) {
   store("isOrvaneEnabled", true);
   launch();
-  EXPECT_EQ(said(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
+  EXPECT_EQ(announced(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
 }
 
-TEST_F(GuardAnnouncerTest, StartingStoppingAndAChangeOfModeAreToldOnce) {
+TEST_F(GuardAnnouncerTest, StartingStoppingAndAChangeOfModeAreAnnouncedOnce) {
   launchPinned();
-  EXPECT_EQ(said(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
+  EXPECT_EQ(announced(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
   model->toggleHideDockOnAllDisplays();
-  EXPECT_EQ(said(), Announcements{"The Dock is kept from popping up"});
+  EXPECT_EQ(announced(), Announcements{"The Dock is kept from popping up"});
   model->toggleHideDockOnAllDisplays();
-  EXPECT_EQ(said(), Announcements{"The Dock is no longer guarded"});
+  EXPECT_EQ(announced(), Announcements{"The Dock is no longer guarded"});
 }
 
-TEST_F(GuardAnnouncerTest, AnotherTargetIsToldByItsName) {
+TEST_F(GuardAnnouncerTest, AnotherTargetIsAnnouncedByName) {
   launchPinned();
-  said();
+  announced();
   model->selectDisplay(model->displays().value().at(1).id);
-  EXPECT_EQ(said(), Announcements{"The Dock is pinned to " + model->displays().value().at(1).name});
+  EXPECT_EQ(announced(),
+            Announcements{"The Dock is pinned to " + model->displays().value().at(1).name});
 }
 
-TEST_F(GuardAnnouncerTest, AMissingPermissionIsToldWhenTheGuardIsAskedFor) {
+TEST_F(GuardAnnouncerTest, AMissingPermissionIsAnnouncedWhenTheGuardIsRequested) {
   machine.permission.setTrusted(false);
   launch();
-  EXPECT_EQ(said(), Announcements()) << "nobody has asked for anything";
+  EXPECT_EQ(announced(), Announcements()) << "nothing was requested";
   model->toggleSelectedDisplayLock();
-  EXPECT_EQ(said(),
+  EXPECT_EQ(announced(),
             Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
-  // The request lapses; nothing has stopped.
+  // The request expires; nothing has stopped.
   machine.advance(2);
-  EXPECT_EQ(said(), Announcements());
+  EXPECT_EQ(announced(), Announcements());
 }
 
-TEST_F(GuardAnnouncerTest, AMissingPermissionIsToldWhenTheLockOfTheLastRunCannotComeBack) {
+TEST_F(GuardAnnouncerTest, AMissingPermissionIsAnnouncedWhenTheLastLockCannotBeRestored) {
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(false);
   launch();
-  EXPECT_EQ(said(),
+  EXPECT_EQ(announced(),
             Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
 }
 
-TEST_F(GuardAnnouncerTest, APermissionThatIsTakenAwayIsToldAndItsReturnToo) {
+TEST_F(GuardAnnouncerTest, ARevokedPermissionAndItsReturnAreAnnounced) {
   launchPinned();
-  said();
+  announced();
   machine.permission.setTrusted(false);
   model->refreshPermission();
-  EXPECT_EQ(said(),
+  EXPECT_EQ(announced(),
             Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
   machine.permission.setTrusted(true);
   model->refreshPermission();
-  EXPECT_EQ(said(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
+  EXPECT_EQ(announced(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
 }
 
-TEST_F(GuardAnnouncerTest, AGuardThatGoesWithItsPermissionIsToldOnceAsBlocked) {
+TEST_F(GuardAnnouncerTest, AGuardThatStopsWithItsPermissionIsAnnouncedOnceAsBlocked) {
   launchPinned();
-  said();
+  announced();
   machine.permission.setTrusted(false);
   model->guardService().stop();
   model->refreshPermission();
-  EXPECT_EQ(said(),
+  EXPECT_EQ(announced(),
             Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
   machine.permission.setTrusted(true);
   model->refreshPermission();
-  EXPECT_EQ(said(), Announcements());
+  EXPECT_EQ(announced(), Announcements());
 }
 
-TEST_F(GuardAnnouncerTest, ALockThatHasStartedAfterAllIsNoLongerBlockedWhenThePermissionGoes) {
+TEST_F(GuardAnnouncerTest, ALockThatStartedLateIsNotBlockedWhenThePermissionIsRevoked) {
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(false);
   launch();
-  said();
+  announced();
   machine.permission.setTrusted(true);
   model->refreshPermission();
   model->toggleSelectedDisplayLock();
-  said();
+  announced();
   model->toggleSelectedDisplayLock();
-  EXPECT_EQ(said(), Announcements{"The Dock is no longer guarded"});
+  EXPECT_EQ(announced(), Announcements{"The Dock is no longer guarded"});
   machine.permission.setTrusted(false);
   model->refreshPermission();
-  EXPECT_EQ(said(), Announcements());
+  EXPECT_EQ(announced(), Announcements());
 }
 
 TEST_F(GuardAnnouncerTest, ItSpeaksTheLanguageOfTheInterface) {
   store("appLanguage", "chinese");
   launchPreventing();
-  EXPECT_EQ(said(), Announcements{"已防止 Dock 弹出"});
+  EXPECT_EQ(announced(), Announcements{"已防止 Dock 弹出"});
   model->toggleHideDockOnAllDisplays();
-  EXPECT_EQ(said(), Announcements{"Dock 守卫已关闭"});
+  EXPECT_EQ(announced(), Announcements{"Dock 守卫已关闭"});
   model->toggleLock();
-  EXPECT_EQ(said(), Announcements{"Dock 已固定到" + model->selectedDisplay()->name});
+  EXPECT_EQ(announced(), Announcements{"Dock 已固定到" + model->selectedDisplay()->name});
   machine.permission.setTrusted(false);
   model->refreshDisplays();
-  EXPECT_EQ(said(), Announcements{"缺少辅助功能权限，Dock 未受守卫"});
+  EXPECT_EQ(announced(), Announcements{"缺少辅助功能权限，Dock 未受守卫"});
 }
 
-TEST_F(GuardAnnouncerTest, AChangeOfTheLanguageAloneIsNotToldAgain) {
+TEST_F(GuardAnnouncerTest, AChangeOfLanguageAloneIsNotAnnounced) {
   launchPinned();
-  said();
+  announced();
   model->setAppLanguage(OrvaneLanguage::chinese);
-  EXPECT_EQ(said(), Announcements());
+  EXPECT_EQ(announced(), Announcements());
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Which of the two languages is spoken.
+// The choice between the two languages.
 #include <array>
 #include <regex>
 #include <string>

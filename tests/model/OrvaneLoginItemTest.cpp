@@ -1,4 +1,4 @@
-// Registering as a login item only when that changes something.
+// Registering as a login item only when that has an effect.
 #include <array>
 
 #include <gtest/gtest.h>
@@ -33,16 +33,16 @@ TEST_F(OrvaneLoginItemTest, DisablingUnregistersUnlessItIsNotRegistered) {
   }
 }
 
-TEST_F(OrvaneLoginItemTest, ADiskImageAndATranslocatedPathDoNotStay) {
-  EXPECT_TRUE(OrvaneLoginItem::isInPlaceThatStays());
+TEST_F(OrvaneLoginItemTest, ADiskImageAndATranslocatedPathAreNotPermanent) {
+  EXPECT_TRUE(OrvaneLoginItem::isInPermanentLocation());
   machine.bundle.isOnReadOnlyVolume = true;
-  EXPECT_FALSE(OrvaneLoginItem::isInPlaceThatStays());
+  EXPECT_FALSE(OrvaneLoginItem::isInPermanentLocation());
   machine.bundle = {.url =
                         "file:///private/var/folders/x2/k8/T/AppTranslocation/"
                         "9F0C21B4-7A54-4F5E-8F0B-0E7C1A8F31C5/d/Orvane.app/"};
-  EXPECT_FALSE(OrvaneLoginItem::isInPlaceThatStays());
+  EXPECT_FALSE(OrvaneLoginItem::isInPermanentLocation());
   machine.bundle = {.url = "file:///Users/me/Applications/Orvane.app/"};
-  EXPECT_TRUE(OrvaneLoginItem::isInPlaceThatStays());
+  EXPECT_TRUE(OrvaneLoginItem::isInPermanentLocation());
 }
 
 TEST_F(OrvaneLoginItemTest, ThePlatformsErrorIsPassedOutUnchanged) {

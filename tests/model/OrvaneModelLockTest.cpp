@@ -15,11 +15,11 @@ class OrvaneModelLockTest : public ModelFixture {
   [[nodiscard]] double now() const { return machine.clock.calendarTime(); }
   [[nodiscard]] bool isPinned() const {
     return model->isGuardRunning() && !model->hidesDockOnAllDisplays().value() &&
-           !model->guardService().blocksAllDisplays();
+           !model->guardService().snapshot().blocksAllDisplays;
   }
   [[nodiscard]] bool isPreventing() const {
     return model->isGuardRunning() && model->hidesDockOnAllDisplays().value() &&
-           model->guardService().blocksAllDisplays();
+           model->guardService().snapshot().blocksAllDisplays;
   }
   [[nodiscard]] bool isStored(const char* key, bool value) const {
     return stored(key) == Value(value);
@@ -37,8 +37,8 @@ TEST_F(OrvaneModelLockTest, TheLockStartsThenStoresTheWish) {
   EXPECT_TRUE(isPinned());
   EXPECT_TRUE(isStored("isOrvaneEnabled", true));
   EXPECT_EQ(model->lastCheckedAt().value(), now());
-  EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), desk::uuidNamed('A'));
-  EXPECT_EQ(model->guardService().cachedTriggerZones().size(), 1U);
+  EXPECT_EQ(model->guardService().snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
+  EXPECT_EQ(model->guardService().snapshot().zones.size(), 1U);
 }
 
 TEST_F(OrvaneModelLockTest, TheLockStopsThenStoresThat) {
@@ -67,14 +67,14 @@ TEST_F(OrvaneModelLockTest, WithoutAnyDisplayPinningDoesNotStart) {
   desk::detach(machine, 2);
   launch();
   EXPECT_EQ(writesOf([&] { model->toggleLock(); }), (Writes{{"selectedDisplayID", 1}}));
-  EXPECT_FALSE(model->guardService().isObservingScreens());
+  EXPECT_FALSE(model->guardService().snapshot().isObservingScreens);
 }
 
 TEST_F(OrvaneModelLockTest, TheTargetNeedNotBeAttachedToStart) {
   store("selectedDisplayID", desk::uuidNamed('C'));
   launch().toggleLock();
   EXPECT_FALSE(model->isGuardRunning());
-  EXPECT_TRUE(model->guardService().isObservingScreens()) << "the guard waits for it";
+  EXPECT_TRUE(model->guardService().snapshot().isObservingScreens) << "the guard waits for it";
   EXPECT_TRUE(isStored("isOrvaneEnabled", true));
   EXPECT_EQ(model->status(), OrvaneStatus::targetMissing);
   desk::attach(machine, desk::monitorAbove());
@@ -87,8 +87,8 @@ TEST_F(OrvaneModelLockTest, AModeWithoutTargetPassesAnEmptyOne) {
   desk::detach(machine, 2);
   store("hidesDockOnAllDisplays", true);
   launch().toggleLock();
-  EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), "");
-  EXPECT_TRUE(model->guardService().blocksAllDisplays());
+  EXPECT_EQ(model->guardService().snapshot().lockedDisplayIdentifier, "");
+  EXPECT_TRUE(model->guardService().snapshot().blocksAllDisplays);
   EXPECT_TRUE(isStored("isOrvaneEnabled", true)) << "the model looks at no result of the start";
 }
 
@@ -104,7 +104,7 @@ TEST_F(OrvaneModelLockTest, TheSwitchesTurnEachModeOnAndOff) {
   EXPECT_TRUE(isPreventing());
   EXPECT_TRUE(isStored("hidesDockOnAllDisplays", true));
   EXPECT_TRUE(isStored("isOrvaneEnabled", true));
-  EXPECT_EQ(model->guardService().cachedTriggerZones().size(), 2U);
+  EXPECT_EQ(model->guardService().snapshot().zones.size(), 2U);
 }
 
 TEST_F(OrvaneModelLockTest, TurningPreventModeOffByItsSwitchStopsAndClearsIt) {
@@ -155,14 +155,14 @@ TEST_F(OrvaneModelLockTest, PinWithPreventChosenButStoppedClearsPrevent) {
 
 // Without the permission.
 
-TEST_F(OrvaneModelLockTest, WithoutPermissionTheLockAsksAndChangesNothingElse) {
+TEST_F(OrvaneModelLockTest, WithoutPermissionTheLockOnlyAsks) {
   launch();
   machine.permission.setTrusted(false);
   EXPECT_EQ(writesOf([&] { model->toggleLock(); }), (Writes{{"selectedDisplayID", 1}}));
   machine.runDue();
   EXPECT_EQ(prompts.size(), 1U);
   EXPECT_FALSE(model->hasAccessibilityPermission().value());
-  EXPECT_FALSE(model->guardService().isObservingScreens());
+  EXPECT_FALSE(model->guardService().snapshot().isObservingScreens);
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
 }
 
@@ -187,7 +187,7 @@ TEST_F(OrvaneModelLockTest, AGrantRefreshesTheDisplaysBeforeTheStart) {
   model->selectDisplay("2");
   EXPECT_EQ(writesOf([&] { prompts.at(0)(); }),
             (Writes{{"selectedDisplayID", 1}, {"isOrvaneEnabled", 1}}));
-  EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), desk::uuidNamed('B'))
+  EXPECT_EQ(model->guardService().snapshot().lockedDisplayIdentifier, desk::uuidNamed('B'))
       << "the alias was rewritten first";
 }
 
@@ -202,7 +202,7 @@ TEST_F(OrvaneModelLockTest, AGrantWithoutAnyTargetStartsNothing) {
   prompts[0]();
   EXPECT_TRUE(model->hasAccessibilityPermission().value());
   EXPECT_EQ(stored("isOrvaneEnabled"), std::nullopt);
-  EXPECT_FALSE(model->guardService().isObservingScreens());
+  EXPECT_FALSE(model->guardService().snapshot().isObservingScreens);
 }
 
 TEST_F(OrvaneModelLockTest, PreventWithoutPermissionAsksBeforeTheModeIsChosen) {
@@ -219,7 +219,7 @@ TEST_F(OrvaneModelLockTest, PreventWithoutPermissionAsksBeforeTheModeIsChosen) {
   EXPECT_TRUE(isPreventing());
 }
 
-TEST_F(OrvaneModelLockTest, APinThatCameAfterTheRequestForPreventStays) {
+TEST_F(OrvaneModelLockTest, APinChosenAfterTheRequestForPreventIsKept) {
   machine.permission.setTrusted(false);
   launch().toggleHideDockOnAllDisplays();
   machine.runDue();
@@ -276,7 +276,7 @@ TEST_F(OrvaneModelLockTest, UnpluggingTheTargetPausesButKeepsTheWish) {
   EXPECT_EQ(model->displays().value().size(), 1U);
   EXPECT_EQ(model->status(), OrvaneStatus::targetMissing);
   EXPECT_EQ(model->lastCheckedAt().value(), now());
-  EXPECT_TRUE(model->guardService().isObservingScreens()) << "the guard waits by itself";
+  EXPECT_TRUE(model->guardService().snapshot().isObservingScreens) << "the guard waits by itself";
 }
 
 TEST_F(OrvaneModelLockTest, PluggingTheTargetInAgainResumes) {
@@ -315,7 +315,7 @@ TEST_F(OrvaneModelLockTest, AChangeStartsNoGuardThatIsOff) {
             }),
             (Writes{{"selectedDisplayID", 1}}));
   EXPECT_EQ(model->displays().value().size(), 3U);
-  EXPECT_FALSE(model->guardService().isObservingScreens());
+  EXPECT_FALSE(model->guardService().snapshot().isObservingScreens);
 }
 
 TEST_F(OrvaneModelLockTest, AChangeWithoutPermissionLeavesTheGuardAsItIs) {
@@ -364,7 +364,7 @@ TEST_F(OrvaneModelLockTest, TheLockComesBackOnceTheTargetIsAttachedAtALaunch) {
   machine.runDue();
   relaunch();
   EXPECT_FALSE(model->isGuardRunning());
-  EXPECT_FALSE(model->guardService().isObservingScreens());
+  EXPECT_FALSE(model->guardService().snapshot().isObservingScreens);
   quit();
   desk::attach(machine, desk::laptop());
   machine.process.start();
@@ -379,7 +379,7 @@ TEST_F(OrvaneModelLockTest, PreventModeIsRestoredWithoutAnyTarget) {
   store("hidesDockOnAllDisplays", true);
   launch();
   EXPECT_EQ(model->selectedDisplayID().value(), std::nullopt);
-  EXPECT_TRUE(model->guardService().isObservingScreens());
+  EXPECT_TRUE(model->guardService().snapshot().isObservingScreens);
   desk::attach(machine, desk::laptop());
   machine.runDue();
   EXPECT_TRUE(isPreventing());
@@ -393,11 +393,11 @@ TEST_F(OrvaneModelLockTest, PreventModeIsRestoredWithAnUnpluggedTarget) {
   EXPECT_TRUE(isPreventing());
 }
 
-TEST_F(OrvaneModelLockTest, WithoutPermissionALaunchRestoresNothingAndAsksNobody) {
+TEST_F(OrvaneModelLockTest, WithoutPermissionALaunchRestoresNothingAndDoesNotAsk) {
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(false);
   launch();
-  EXPECT_FALSE(model->guardService().isObservingScreens());
+  EXPECT_FALSE(model->guardService().snapshot().isObservingScreens);
   EXPECT_TRUE(prompts.empty());
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
   EXPECT_EQ(model->displays().value().size(), 2U) << "the displays are refreshed all the same";
@@ -409,7 +409,7 @@ TEST_F(OrvaneModelLockTest, AnAliasIsEnoughToRestore) {
   store("selectedDisplayID", "1");
   launch();
   EXPECT_TRUE(isPinned());
-  EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), desk::uuidNamed('A'));
+  EXPECT_EQ(model->guardService().snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
 }
 
 TEST_F(OrvaneModelLockTest, TheWishToLockSurvivesTheEndOfTheProcess) {

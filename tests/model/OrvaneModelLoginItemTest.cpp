@@ -1,4 +1,4 @@
-// OrvaneModel's launch at login: what it shows of the system's state, and what it asks for.
+// OrvaneModel's launch at login: the state that it shows, and its requests to the system.
 #include <gtest/gtest.h>
 
 #include "Orvane/model/OrvaneModel.hpp"
@@ -48,7 +48,7 @@ TEST_F(OrvaneModelLoginItemTest, AFailedRegistrationKeepsThePlatformsTextUntilAS
   EXPECT_TRUE(model->launchAtLoginRequiresApproval().value());
 }
 
-TEST_F(OrvaneModelLoginItemTest, NothingIsRegisteredWhereTheApplicationDoesNotStay) {
+TEST_F(OrvaneModelLoginItemTest, NothingIsRegisteredFromATemporaryLocation) {
   launch();
   machine.bundle.isOnReadOnlyVolume = true;
   int announcements = 0;
@@ -58,7 +58,7 @@ TEST_F(OrvaneModelLoginItemTest, NothingIsRegisteredWhereTheApplicationDoesNotSt
   EXPECT_EQ(machine.loginItem.registrationCount, 0);
   EXPECT_TRUE(model->isLaunchAtLoginMisplaced());
   EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt) << "nothing has failed";
-  // The installed copy may have registered itself, and may be taken back from anywhere.
+  // The installed copy may have registered itself, and can be unregistered from any location.
   machine.loginItem.status = Status::enabled;
   model->refreshLaunchAtLoginStatus();
   EXPECT_FALSE(model->isLaunchAtLoginMisplaced());

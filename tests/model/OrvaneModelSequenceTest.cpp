@@ -1,5 +1,5 @@
-// Random sequences of what users, hardware and the system do, on the application and on a small
-// reference of it, compared after every step.
+// Random sequences of actions by the user, the hardware and the system, applied to the application
+// and to a small reference implementation, which are compared after every step.
 #include <vector>
 
 #include <gtest/gtest.h>

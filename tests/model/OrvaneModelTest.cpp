@@ -1,4 +1,4 @@
-// OrvaneModel's state: creation, displays and target, setters, links, and its end.
+// OrvaneModel's state: creation, displays and target, setters, links, destruction.
 #include <string>
 #include <vector>
 
@@ -26,7 +26,7 @@ class OrvaneModelTest : public ModelFixture {
     }
     return urls;
   }
-  /// How often anything was announced during the action.
+  /// The number of change notifications during the action.
   template <typename Action>
   int announcementsOf(Action action) {
     int count = 0;
@@ -162,7 +162,7 @@ TEST_F(OrvaneModelTest, SelectingAnotherDisplayStoresItAndRestartsPinning) {
   EXPECT_EQ(writesOf([&] { model->selectDisplay(desk::uuidNamed('B')); }),
             (Writes{{"selectedDisplayID", 1}}));
   EXPECT_EQ(stored("selectedDisplayID"), Value(desk::uuidNamed('B')));
-  EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), desk::uuidNamed('B'));
+  EXPECT_EQ(model->guardService().snapshot().lockedDisplayIdentifier, desk::uuidNamed('B'));
   EXPECT_TRUE(model->isGuardRunning());
   EXPECT_FALSE(hasTap(1));
 }
@@ -177,10 +177,10 @@ TEST_F(OrvaneModelTest, InPreventModeASelectionDoesNotTouchTheGuard) {
   launchPreventing();
   model->selectDisplay(desk::uuidNamed('B'));
   EXPECT_TRUE(hasTap(1));
-  EXPECT_EQ(model->guardService().lockedDisplayIdentifier(), desk::uuidNamed('A'));
+  EXPECT_EQ(model->guardService().snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
 }
 
-TEST_F(OrvaneModelTest, SelectingWhatIsNotAttachedStopsPinningButKeepsTheWish) {
+TEST_F(OrvaneModelTest, SelectingADetachedDisplayStopsPinningButKeepsTheChoice) {
   launchPinned();
   moveHolding(kCGEventFlagMaskAlternate);
   const double checked = model->lastCheckedAt().value();
@@ -188,7 +188,7 @@ TEST_F(OrvaneModelTest, SelectingWhatIsNotAttachedStopsPinningButKeepsTheWish) {
   EXPECT_EQ(writesOf([&] { model->selectDisplay("unplugged"); }),
             (Writes{{"selectedDisplayID", 1}}));
   EXPECT_FALSE(model->isGuardRunning());
-  EXPECT_FALSE(model->guardService().isObservingScreens());
+  EXPECT_FALSE(model->guardService().snapshot().isObservingScreens);
   EXPECT_FALSE(model->isTemporarilyUnlocked().value());
   EXPECT_EQ(model->lastCheckedAt().value(), checked);
   EXPECT_EQ(stored("isOrvaneEnabled"), Value(true));
@@ -200,7 +200,7 @@ TEST_F(OrvaneModelTest, SettingTheModifierStoresItAndRestartsTheGuard) {
   EXPECT_EQ(writesOf([&] { model->setTemporaryUnlockModifier(OrvaneModifier::shift); }),
             (Writes{{"temporaryUnlockModifier", 1}}));
   EXPECT_EQ(stored("temporaryUnlockModifier"), Value("shift"));
-  EXPECT_EQ(model->guardService().overrideModifier(), OrvaneModifier::shift);
+  EXPECT_EQ(model->guardService().snapshot().overrideModifier, OrvaneModifier::shift);
   EXPECT_FALSE(hasTap(1));
   EXPECT_EQ(model->lastCheckedAt().value(), now());
 }
@@ -222,12 +222,13 @@ TEST_F(OrvaneModelTest, EveryAssignmentOfASettingIsWritten) {
 TEST_F(OrvaneModelTest, SettingPreventModeRestartsARunningGuardWhenThePermissionIsKnown) {
   launchPinned();
   model->setHidesDockOnAllDisplays(true);
-  EXPECT_TRUE(model->guardService().blocksAllDisplays());
+  EXPECT_TRUE(model->guardService().snapshot().blocksAllDisplays);
   EXPECT_EQ(stored("hidesDockOnAllDisplays"), Value(true));
   machine.permission.setTrusted(false);
   model->refreshPermission();
   model->setHidesDockOnAllDisplays(false);
-  EXPECT_TRUE(model->guardService().blocksAllDisplays()) << "not restarted without permission";
+  EXPECT_TRUE(model->guardService().snapshot().blocksAllDisplays)
+      << "not restarted without permission";
   EXPECT_EQ(stored("hidesDockOnAllDisplays"), Value(false));
 }
 
@@ -376,9 +377,9 @@ TEST_F(OrvaneModelTest, AtItsEndTheModelStopsObservingAndGuarding) {
   EXPECT_EQ(machine.objects.liveCount(), 0U);
 }
 
-TEST_F(OrvaneModelTest, WhatIsPendingDoesNothingOnceTheModelIsGone) {
+TEST_F(OrvaneModelTest, APendingTaskDoesNothingOnceTheModelIsGone) {
   launchPinned();
-  // The screen task of the model, reports of the guard, and the delayed look at the permission.
+  // The model's screen task, the guard's reports and the delayed check of the permission.
   model->openAccessibilitySettings();
   desk::attach(machine, desk::monitorAbove());
   machine.mouse.post({2500, 1075}, kCGEventFlagMaskAlternate);
@@ -388,7 +389,7 @@ TEST_F(OrvaneModelTest, WhatIsPendingDoesNothingOnceTheModelIsGone) {
   EXPECT_EQ(writesOf([&] { machine.advance(10); }), Writes{});
 }
 
-TEST_F(OrvaneModelTest, AGrantThatComesAfterTheModelsEndDoesNothing) {
+TEST_F(OrvaneModelTest, AGrantAfterTheModelsEndDoesNothing) {
   machine.permission.setTrusted(false);
   launch().toggleLock();
   machine.advance(1);

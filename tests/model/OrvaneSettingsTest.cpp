@@ -1,4 +1,4 @@
-// What is remembered across launches: the keys, their forms and their defaults.
+// The settings that persist across launches: their keys, formats and defaults.
 #include <string>
 
 #include <gtest/gtest.h>

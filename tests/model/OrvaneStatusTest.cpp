@@ -1,4 +1,4 @@
-// The model's state condensed into one value: which test comes before which.
+// The model's state in one value: which condition takes precedence.
 #include <functional>
 
 #include <gtest/gtest.h>

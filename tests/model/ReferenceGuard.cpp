@@ -1,4 +1,4 @@
-// The guard as its behaviour is described.
+// A reference implementation of the guard.
 #include "tests/model/ReferenceGuard.hpp"
 
 #include "tests/support/EdgeOracle.hpp"
@@ -63,16 +63,16 @@ void Guard::takeTapDown() {
   isShuttingOff = false;
 }
 
-Told Guard::putTapUp(const World& world) {
-  // Told of success or of failure.
+Report Guard::putTapUp(const World& world) {
+  // Reports success or failure.
   hasTap = world.isTrusted && !world.refusesTaps;
-  return {.anything = true};
+  return {.isMade = true};
 }
 
-Told Guard::start(const World& world, const std::string& newTarget, const std::string& newModifier,
-                  bool newBlocksAll) {
+Report Guard::start(const World& world, const std::string& newTarget,
+                    const std::string& newModifier, bool newBlocksAll) {
   if (!world.isTrusted) {
-    return {.anything = true};
+    return {.isMade = true};
   }
   target = newTarget;
   modifier = newModifier;
@@ -84,7 +84,7 @@ Told Guard::start(const World& world, const std::string& newTarget, const std::s
   }
   isUnlocked = isUnlocked && hasTap;
   observes = true;
-  return {.anything = true};
+  return {.isMade = true};
 }
 
 void Guard::stop() {
@@ -97,7 +97,7 @@ void Guard::stop() {
   isUnlocked = false;
 }
 
-Told Guard::displaysChanged(const World& world) {
+Report Guard::displaysChanged(const World& world) {
   if (!observes) {
     return {};
   }
@@ -105,7 +105,7 @@ Told Guard::displaysChanged(const World& world) {
     zones.clear();
     takeTapDown();
     isUnlocked = false;
-    return {.anything = true};
+    return {.isMade = true};
   }
   refreshZones(world);
   if (zones.empty()) {
@@ -113,10 +113,10 @@ Told Guard::displaysChanged(const World& world) {
     isUnlocked = false;
     return {};
   }
-  return hasTap ? Told{} : putTapUp(world);
+  return hasTap ? Report{} : putTapUp(world);
 }
 
-CGPoint Guard::move(const World& world, CGPoint place, std::uint64_t flags, Told& told) {
+CGPoint Guard::move(const World& world, CGPoint place, std::uint64_t flags, Report& report) {
   if (!hasTap || tapIsDead || isShuttingOff) {
     return place;
   }
@@ -138,7 +138,7 @@ CGPoint Guard::move(const World& world, CGPoint place, std::uint64_t flags, Told
       isShuttingOff = true;
     } else if (now - lastReport >= 1) {
       lastReport = now;
-      told.anything = true;
+      report.isMade = true;
     }
     return {place.x + zone.nudge.dx, place.y + zone.nudge.dy};
   }

@@ -1,5 +1,5 @@
-// The guard as its behaviour is described: a list of zones, a tap that works or not, and what was
-// blocked.
+// A reference implementation of the guard: a list of zones, a tap that works or not, and the
+// blocked events.
 #pragma once
 
 #include <cstdint>
@@ -16,16 +16,16 @@ struct Zone {
   CGVector nudge;
 };
 
-/// What a step of the guard tells its owner.
-struct Told {
-  bool anything = false;
+/// Whether a step of the guard sends its owner a message.
+struct Report {
+  bool isMade = false;
 };
 
 struct Guard {
   bool hasTap = false;
-  /// The system took the tap's events away, as it does with the permission.
+  /// The system has ended the tap, as it does when the permission is revoked.
   bool tapIsDead = false;
-  /// The guard itself switched the tap off and has not yet taken it down.
+  /// The guard has disabled the tap and has yet to remove it.
   bool isShuttingOff = false;
   bool observes = false;
   std::vector<Zone> zones;
@@ -37,21 +37,21 @@ struct Guard {
   std::vector<double> recent;
   double lastReport = 0;
 
-  Told start(const World& world, const std::string& newTarget, const std::string& newModifier,
-             bool newBlocksAll);
+  Report start(const World& world, const std::string& newTarget, const std::string& newModifier,
+               bool newBlocksAll);
   void stop();
   /// The displays changed.
-  Told displaysChanged(const World& world);
-  /// One mouse-moved event; returns where it comes out.
-  CGPoint move(const World& world, CGPoint place, std::uint64_t flags, Told& told);
-  /// What was left to the main queue.
+  Report displaysChanged(const World& world);
+  /// Filters one mouse-moved event; returns its final location.
+  CGPoint move(const World& world, CGPoint place, std::uint64_t flags, Report& report);
+  /// Runs what was posted to the main queue.
   void settle();
   void permissionLost() { tapIsDead = hasTap; }
 
  private:
   void refreshZones(const World& world);
   void takeTapDown();
-  Told putTapUp(const World& world);
+  Report putTapUp(const World& world);
 };
 
 }  // namespace orvane::reference

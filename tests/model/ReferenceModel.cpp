@@ -1,4 +1,4 @@
-// The state model as its behaviour is described.
+// A reference implementation of the state model.
 #include "tests/model/ReferenceModel.hpp"
 
 #include <algorithm>
@@ -223,7 +223,7 @@ void Model::granted(Request request) {
 }
 
 void Model::displaysChanged() {
-  if (guard.displaysChanged(world_).anything) {
+  if (guard.displaysChanged(world_).isMade) {
     lastChecked = world_.date();
   }
   const bool wasRunning = isRunning();
@@ -234,15 +234,15 @@ void Model::displaysChanged() {
 }
 
 void Model::move(CGPoint place, std::uint64_t flags, CGPoint& outcome) {
-  Told told;
-  outcome = guard.move(world_, place, flags, told);
-  if (told.anything) {
+  Report report;
+  outcome = guard.move(world_, place, flags, report);
+  if (report.isMade) {
     lastChecked = world_.date();
   }
 }
 
 void Model::settle() {
-  // The guard tells of every change of it.
+  // The guard reports every change of it.
   isUnlocked = guard.isUnlocked;
   guard.settle();
 }

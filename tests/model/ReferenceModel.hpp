@@ -1,4 +1,4 @@
-// The state model as its behaviour is described, small and slow, to be compared with the real one
+// A reference implementation of the state model, small and slow, for comparison with the real one
 // after every step.
 #pragma once
 
@@ -32,13 +32,13 @@ class Model {
   void setLanguage(const std::string& language);
   void openAccessibilitySettings();
 
-  /// The user granted what the request asked for.
+  /// The user grants the permission for the request.
   void granted(Request request);
   void displaysChanged();
   void move(CGPoint place, std::uint64_t flags, CGPoint& outcome);
-  /// What was left to the main queue.
+  /// Runs what was posted to the main queue.
   void settle();
-  /// Time has passed: what was delayed and is due now happens.
+  /// Time has passed: runs what is due.
   void catchUp();
 
   [[nodiscard]] OrvaneStatus status() const;
@@ -53,13 +53,13 @@ class Model {
   std::string language;
   std::string modifier;
   bool prevents;
-  /// What the user was asked and has not yet answered.
+  /// The requests that the user has yet to answer.
   std::vector<Request> requests;
   bool isAsking = false;
 
  private:
   void setSelected(const std::optional<std::string>& id);
-  /// The user starts or stops the guard: what was asked for before has no effect any more.
+  /// The user starts or stops the guard, which cancels earlier requests.
   void overtakeRequests();
   void ask(Request request);
   void start();

@@ -1,5 +1,4 @@
-// What a random sequence of actions does to the world around the application, kept once more beside
-// the simulated machine.
+// The reference's own state of the world around the application, kept beside the simulated machine.
 #pragma once
 
 #include <cstdint>
@@ -40,17 +39,17 @@ struct World {
   /// Seconds since the machine was switched on; a multiple of an eighth.
   double now = 0;
 
-  /// The screens came, went or moved: gives each its global frame.
+  /// Recomputes each screen's global frame after a display change.
   void arrange();
 
   /// The edge that the stored orientation names.
   [[nodiscard]] DockPosition dockPosition() const;
-  /// The edge at which the Dock really lies.
+  /// The edge at which the Dock actually is.
   [[nodiscard]] DockPosition dockLiesAt() const;
   [[nodiscard]] const Screen* find(const std::string& identifier) const;
-  /// What the calendar shows.
+  /// The calendar clock.
   [[nodiscard]] double date() const { return 9131.0 * 86'400 + now; }
-  /// What the media clock shows.
+  /// The media clock.
   [[nodiscard]] double mediaTime() const { return 1000 + now; }
 
   void write(const std::string& key, Value value);

@@ -1,4 +1,4 @@
-// One step of a random sequence: something that the user, the hardware or the system does.
+// One step of a random sequence: an action of the user, the hardware or the system.
 #pragma once
 
 #include <array>
@@ -39,7 +39,7 @@ struct Action {
     grant,
   };
   Kind kind;
-  /// What each means depends on the kind.
+  /// Parameters, whose meaning depends on the kind.
   std::size_t first;
   std::size_t second;
 };
@@ -87,7 +87,7 @@ inline std::ostream& operator<<(std::ostream& out, const Action& action) {
   return out << "?";
 }
 
-/// Sequences in which the frequent things of life are frequent.
+/// Sequences in which common actions are frequent.
 inline rc::Gen<std::vector<Action>> genActions() {
   std::vector<Action::Kind> pool;
   for (const KindOfAction& one : kindsOfActions) {

@@ -1,4 +1,4 @@
-// Does each action to the application and to its reference.
+// Applies each action to the application and to its reference.
 #include "tests/model/SequenceRunner.hpp"
 
 #include <array>
@@ -13,7 +13,7 @@ namespace orvane::reference {
 
 namespace {
 
-/// Small, so that the reference may look at every point of every edge.
+/// Small, so that the reference can examine every point of every edge.
 const std::array<CGRect, 4> slots = {
     {{{0, 0}, {120, 80}}, {{120, 0}, {100, 80}}, {{0, 80}, {120, 60}}, {{30, -60}, {70, 60}}}};
 const std::array<std::string, 4> modifiers = {"option", "control", "shift", "command"};
@@ -71,7 +71,7 @@ void SequenceRunner::launch() {
 void SequenceRunner::endProcess() {
   machine().process.end();
   reference_.reset();
-  // What an earlier process asked for is answered in vain.
+  // Answers to an ended process have no effect.
   for (const auto& late : prompts_) {
     late();
   }
@@ -149,7 +149,7 @@ void SequenceRunner::setDockEdge(std::size_t choice) {
   } else {
     machine().preferences.remove(desk::dockDomain(), desk::Dock::orientationKey);
   }
-  // What the Dock leaves of its display has changed, which is a change of the screens.
+  // The visible frame of the Dock's display has changed, which counts as a display change.
   if (world_.dockLiesAt() != before && !world_.screens.empty() && reference_) {
     reference_->displaysChanged();
   }
@@ -213,7 +213,7 @@ void SequenceRunner::performOnTheWorld(const Action& action) {
       settle();
       return endProcess();
     case Kind::crash:
-      // In the middle of something.
+      // In the middle of a movement.
       movePointer(first, second);
       return endProcess();
     case Kind::corruptStorage:
@@ -268,7 +268,7 @@ void SequenceRunner::performOnTheApplication(const Action& action) {
       model().toggleHideDockOnAllDisplays();
       return reference_->togglePrevent();
     case Kind::selectDisplay: {
-      // By what a view would pass, or by an alias, attached or not.
+      // By a display's identifier, as views pass it, or by an alias, attached or not.
       const std::string id = action.second < 6
                                  ? desk::uuidNamed(static_cast<char>('A' + action.first % 4))
                                  : std::to_string(action.first);
@@ -306,15 +306,14 @@ std::string SequenceRunner::seen() {
   out << std::setprecision(17);
   if (machine().process.isRunning()) {
     const OrvaneModel& real = model();
-    const DockMouseGuard& guard = real.guardService();
+    const GuardSnapshot guard = real.guardService().snapshot();
     out << "status " << static_cast<int>(real.status()) << " running " << real.isGuardRunning()
-        << " observing " << guard.isObservingScreens() << "\nworking taps "
+        << " observing " << guard.isObservingScreens << "\nworking taps "
         << machine().eventTaps.aliveCount() << " enabled " << machine().eventTaps.isAnyEnabled()
-        << "\ntarget " << guard.lockedDisplayIdentifier() << " modifier "
-        << guard.overrideModifier().rawValue() << " blocks all " << guard.blocksAllDisplays()
-        << " blocked " << guard.blockedCount() << " recently "
-        << guard.recentBlockTimestamps().size() << "\nzones";
-    for (const TriggerZone& zone : guard.cachedTriggerZones()) {
+        << "\ntarget " << guard.lockedDisplayIdentifier << " modifier "
+        << guard.overrideModifier.rawValue() << " blocks all " << guard.blocksAllDisplays
+        << " blocked " << guard.blockedCount << " recently " << guard.recentBlockCount << "\nzones";
+    for (const TriggerZone& zone : guard.zones) {
       describeZone(out, zone.rect, zone.nudgeVector);
     }
     out << "\nselected " << real.selectedDisplayID().value().value_or("none") << " displays";
@@ -322,7 +321,7 @@ std::string SequenceRunner::seen() {
       out << " " << display.id;
     }
     out << "\npermission " << real.hasAccessibilityPermission().value() << " unlocked "
-        << real.isTemporarilyUnlocked().value() << " " << guard.isTemporarilyUnlocked()
+        << real.isTemporarilyUnlocked().value() << " " << guard.isTemporarilyUnlocked
         << " prevents " << real.hidesDockOnAllDisplays().value() << " modifier "
         << real.temporaryUnlockModifier().value().rawValue() << " language "
         << real.appLanguage().value().rawValue() << "\nchecked " << real.lastCheckedAt().value()

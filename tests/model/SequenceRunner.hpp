@@ -1,5 +1,5 @@
-// SequenceRunner does each action both to the application on a simulated machine and to its
-// reference, and describes the two in the same words.
+// SequenceRunner applies each action both to the application on a simulated machine and to its
+// reference, and describes both in the same format.
 #pragma once
 
 #include <cstddef>
@@ -20,18 +20,18 @@ namespace orvane::reference {
 
 class SequenceRunner {
  public:
-  /// Two screens are attached, the permission is given and the application launched.
+  /// Starts with two screens attached, the permission granted and the application launched.
   SequenceRunner();
   SequenceRunner(const SequenceRunner&) = delete;
   SequenceRunner& operator=(const SequenceRunner&) = delete;
 
   void perform(const Action& action);
 
-  /// Line by line what can be seen of the application, and what is to be seen.
+  /// The application's observable state, and the reference's, line by line.
   [[nodiscard]] std::string seen();
   [[nodiscard]] std::string expected();
 
-  /// Where the last movement of the pointer came out, of both; equal while all is well.
+  /// The final locations of the last pointer movement, of both; they must be equal.
   [[nodiscard]] std::pair<CGPoint, CGPoint> outcomes() const { return outcomes_; }
 
   /// Ends the machine; true when nothing was left behind.

@@ -1,6 +1,6 @@
-"""The finished application: what it imports, how large it is, what is in its bundle. And the proof that
-these checks can fail. Usage: BundleTest.py BUNDLE INFO_PLIST [CASE...]. Ends with 77,
-which means skipped, where no application has been built."""
+"""Tests of the finished application: its imports, its size and the contents of its bundle. Also tests that
+these checks can fail. Usage: BundleTest.py BUNDLE INFO_PLIST [CASE...]. Exits with 77, which means skipped,
+if no application has been built."""
 
 import os
 import pathlib
@@ -19,8 +19,8 @@ import source_rules  # noqa: E402
 
 BUNDLE, INFO = None, None
 SKIPPED = 77
-MOST_BYTES_PER_PROCESSOR = 2_000_000
-MOST_BYTES_IN_BUNDLE = 5_000_000
+MAXIMUM_BYTES_PER_PROCESSOR = 2_000_000
+MAXIMUM_BYTES_IN_BUNDLE = 5_000_000
 FRAMEWORKS = {"AppKit", "ApplicationServices", "ColorSync", "CoreFoundation", "CoreGraphics", "CoreText", "Foundation",
               "QuartzCore", "ServiceManagement"}
 LIBRARIES = {"/usr/lib/libobjc.A.dylib", "/usr/lib/libc++.1.dylib", "/usr/lib/libSystem.B.dylib"}
@@ -28,13 +28,13 @@ RUNTIME = pathlib.Path(__file__).with_name("allowed_runtime.txt")
 
 
 def runtime_names():
-    """One expression for all names of the language's libraries that may be imported."""
+    """A regular expression for all allowed imports from the language's libraries."""
     lines = [line for line in RUNTIME.read_text(encoding="utf-8").splitlines() if line and line[0] != "#"]
     return re.compile("(?:" + "|".join(f"(?:{line})" for line in lines) + r")\Z")
 
 
 def import_findings(program):
-    """What a program for one processor imports and may not."""
+    """The disallowed imports of a program for one processor."""
     allowed, runtime = source_rules.allowed_names(), runtime_names()
     findings = []
     for name, library in program.imports:
@@ -52,7 +52,7 @@ def import_findings(program):
 
 
 def icon_types(data):
-    """The kinds of pictures in an .icns file."""
+    """The image types in an .icns file."""
     if data[:4] != b"icns" or struct.unpack_from(">I", data, 4)[0] != len(data):
         raise ValueError("not an .icns file")
     position, kinds = 8, set()
@@ -64,13 +64,13 @@ def icon_types(data):
 
 
 def files_in(folder):
-    """All files below a folder, by their path there."""
+    """All files below a folder, by relative path."""
     return {path.relative_to(folder).as_posix(): path for path in sorted(folder.rglob("*"))
             if path.is_symlink() or not path.is_dir()}
 
 
-def why_there_is_nothing_to_check(program, sources):
-    """Empty for a program that was built after the last change of its sources."""
+def reason_to_skip(program, sources):
+    """Empty if the program was built after the last change of its sources."""
     if not program.is_file():
         return "no application for a Mac has been built"
     if program.stat().st_mtime < max(file.absolute.stat().st_mtime for file in sources):
@@ -93,13 +93,13 @@ class TheProgram(unittest.TestCase):
         for program in self.slices:
             self.assertEqual(program.minimum_system, info["LSMinimumSystemVersion"])
 
-    def test_it_imports_nothing_but_what_it_may(self):
+    def test_it_has_only_allowed_imports(self):
         for program in self.slices:
             self.assertIn("CGEventTapCreate", dict(program.imports))
             self.assertIn("mouseLocation", program.selectors)
             self.assertEqual(import_findings(program), [])
 
-    def test_the_processor_that_wants_a_signature_has_one(self):
+    def test_the_processor_that_requires_a_signature_has_one(self):
         for program in self.slices:
             self.assertTrue(program.has_signature or program.cpu != "arm64")
             self.assertEqual(program.signature_holds, program.has_signature, program.cpu)
@@ -113,16 +113,16 @@ class TheProgram(unittest.TestCase):
 
     def test_it_stays_within_its_size(self):
         for program in self.slices:
-            self.assertLess(program.size, MOST_BYTES_PER_PROCESSOR, program.cpu)
+            self.assertLess(program.size, MAXIMUM_BYTES_PER_PROCESSOR, program.cpu)
 
-    def test_it_names_no_folder_of_whoever_built_it(self):
+    def test_it_names_no_folder_of_the_build_machine(self):
         self.assertEqual(re.findall(rb"/(?:home|Users|root|work|tmp|private)/[\w./+-]+", self.data)[:5], [])
 
 
 class TheBundle(unittest.TestCase):
-    """What is around the code."""
+    """The other files in the bundle."""
 
-    def test_it_holds_these_files_and_none_else(self):
+    def test_it_holds_exactly_these_files(self):
         images = (source_rules.ROOT / "Orvane" / "resources" / "Images.cmake").read_text(encoding="utf-8")
         names = re.findall(r"^  ([\w-]+)\)?$", images, re.MULTILINE)
         expected = {"Contents/Info.plist", "Contents/PkgInfo", "Contents/MacOS/Orvane",
@@ -148,15 +148,15 @@ class TheBundle(unittest.TestCase):
         kinds = icon_types((BUNDLE / "Contents" / "Resources" / "AppIcon.icns").read_bytes())
         small = {"icp4", "ic04", "icp5", "ic05"}
         self.assertTrue(kinds & small)
-        # 128, 256, 512 and 1024 pixels, and the doubled sizes.
+        # 128, 256, 512 and 1024 pixels, and the @2x sizes.
         self.assertLessEqual({"ic07", "ic08", "ic09", "ic10", "ic13", "ic14"}, kinds)
 
     def test_it_stays_within_its_size(self):
-        self.assertLess(sum(path.stat().st_size for path in files_in(BUNDLE).values()), MOST_BYTES_IN_BUNDLE)
+        self.assertLess(sum(path.stat().st_size for path in files_in(BUNDLE).values()), MAXIMUM_BYTES_IN_BUNDLE)
 
 
 class TheChecks(unittest.TestCase):
-    """They fail for what they are there for."""
+    """Tests that the checks can fail."""
 
     def program(self, **changes):
         values = {"cpu": "arm64", "size": 1, "libraries": [], "imports": [], "selectors": [], "minimum_system": "13.0",
@@ -168,13 +168,13 @@ class TheChecks(unittest.TestCase):
             program = pathlib.Path(folder, "program")
             source = source_rules.SourceFile(folder, "Source.cpp")
             source.absolute.write_text("", encoding="utf-8")
-            self.assertIn("no application", why_there_is_nothing_to_check(program, [source]))
+            self.assertIn("no application", reason_to_skip(program, [source]))
             program.write_bytes(b"")
             os.utime(source.absolute, (1000, 1000))
             os.utime(program, (1001, 1001))
-            self.assertEqual(why_there_is_nothing_to_check(program, [source]), "")
+            self.assertEqual(reason_to_skip(program, [source]), "")
             os.utime(program, (999, 999))
-            self.assertIn("older", why_there_is_nothing_to_check(program, [source]))
+            self.assertIn("older", reason_to_skip(program, [source]))
 
     def test_an_import_that_is_not_allowed_is_found(self):
         for name in ("socket", "fopen", "connect", "OBJC_CLASS_$_NSURLSession", "OBJC_CLASS_$_NSFileManager",
@@ -198,7 +198,7 @@ class TheChecks(unittest.TestCase):
                          "dataTaskWithURL:", "initWithContentsOfFile:", "generalPasteboard"):
             self.assertEqual(len(import_findings(self.program(selectors=[selector]))), 1, selector)
 
-    def test_a_file_that_is_no_program_is_refused(self):
+    def test_a_file_that_is_not_a_program_is_refused(self):
         for data in (b"", b"\xca\xfe\xba\xbe", b"MZ" * 40, struct.pack("<8I", 0xFEEDFACF, 0x0100000C, 0, 2, 1, 8, 0, 0),
                      struct.pack(">7I", 0xCAFEBABE, 1, 0, 0, 4096, 99, 12)):
             with self.assertRaises(mach_o.MachOError):
@@ -220,7 +220,7 @@ class TheChecks(unittest.TestCase):
 if __name__ == "__main__":
     BUNDLE, INFO = pathlib.Path(sys.argv[1]), sys.argv[2]
     cases = sys.argv[3:] or ["TheProgram", "TheBundle"]
-    MISSING = why_there_is_nothing_to_check(BUNDLE / "Contents" / "MacOS" / "Orvane", source_rules.sources())
+    MISSING = reason_to_skip(BUNDLE / "Contents" / "MacOS" / "Orvane", source_rules.sources())
     if cases != ["TheChecks"] and MISSING:
         print(f"Skipped: {MISSING}. ORVANE_MACOS_SDK=FOLDER ./test builds it with a macOS SDK; on a Mac, ./test does.")
         sys.exit(SKIPPED)

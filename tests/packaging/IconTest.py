@@ -1,5 +1,5 @@
-"""The icon fills the shape in which macOS draws icons, since macOS 26 lays what does not on a grey tile:
-824 of 1024 units, with corners of 185.4. And the proof that the check can fail."""
+"""Tests that the icon fills the shape of macOS icons: 824 of 1024 units, with corners of 185.4. macOS 26 puts
+other icons on a grey tile. Also tests that the check can fail."""
 
 import math
 import pathlib
@@ -11,15 +11,15 @@ import zlib
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 ICON = ROOT / "Orvane" / "resources" / "rendered" / "AppIcon.icns"
 UNITS, MARGIN, RADIUS = 1024, 100, 185.4
-# By kind, the pixels of those that are made from the drawing on that grid. The smallest two have a
-# drawing of their own, on whole pixels.
+# The pixels of each image type that is rendered from the drawing on this grid. The smallest two
+# have separate drawings, aligned to pixels.
 KINDS = {"ic12": 64, "ic07": 128, "ic08": 256}
-# The system's corner bends in sooner than a quarter of a circle, by less than 3 units.
+# The system's corner deviates from a quarter circle by less than 3 units.
 TOLERANCE_UNITS, TOLERANCE_PIXELS = 3, 1
 
 
 def pictures(data):
-    """The PNGs of an .icns file by their kinds."""
+    """The PNGs of an .icns file by image type."""
     found, position = {}, 8
     while position < len(data):
         kind, size = struct.unpack_from(">4sI", data, position)
@@ -29,7 +29,7 @@ def pictures(data):
 
 
 def alpha_rows(png):
-    """The opacity of every pixel, row by row, of a PNG with 8 bits for each of four channels."""
+    """The alpha values, row by row, of a PNG with four channels of 8 bits."""
     position, packed, side, channels = 8, b"", 0, 4
     while position < len(png):
         length, kind = struct.unpack_from(">I4s", png, position)
@@ -57,14 +57,14 @@ def alpha_rows(png):
 
 
 def units_outside(x, y):
-    """How far a place is outside of the shape; negative within."""
+    """The distance of a point from the shape; negative inside."""
     half = UNITS / 2 - MARGIN
     beyond_x, beyond_y = (abs(value - UNITS / 2) - (half - RADIUS) for value in (x, y))
     return math.hypot(max(beyond_x, 0), max(beyond_y, 0)) + min(max(beyond_x, beyond_y), 0) - RADIUS
 
 
 def findings(rows):
-    """Pixels that lack the shape's colour, and pixels that have it elsewhere; a shadow is neither."""
+    """Transparent pixels inside and opaque pixels outside of the shape; a shadow counts as neither."""
     scale = UNITS / len(rows)
     tolerance = TOLERANCE_UNITS + TOLERANCE_PIXELS * scale
     found = []

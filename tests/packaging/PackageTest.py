@@ -1,5 +1,5 @@
-"""tools/package-macos: the archive that Linux makes, and the order of what it does on a Mac, seen by
-programs that only write down how they are called."""
+"""Tests of tools/package-macos: the archive that it makes on Linux, and the order of its steps on a Mac, where
+stubs record their calls."""
 
 import os
 import pathlib
@@ -16,7 +16,7 @@ sys.dont_write_bytecode = True
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 TOOL = ROOT / "tools" / "package-macos"
 
-# Writes its call into a file; where it has to leave something behind, it does.
+# Appends its call to a file, and creates the output that the tool expects.
 _RECORDER = """#!/bin/sh
 name=${0##*/}
 echo "$name $*" >>"$CALLS"
@@ -33,7 +33,7 @@ esac
 
 
 class PackageFixture(unittest.TestCase):
-    """A bundle in the shape of the real one, and a folder for the packages."""
+    """A bundle with the structure of the real one, and a folder for the packages."""
 
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
@@ -61,7 +61,7 @@ class PackageFixture(unittest.TestCase):
 
 @unittest.skipUnless(shutil.which("shellcheck"), "there is no shellcheck")
 class TheScript(unittest.TestCase):
-    """What a shell makes of it is what it seems."""
+    """Static checks of the script."""
 
     def test_shellcheck_finds_nothing(self):
         result = subprocess.run(["shellcheck", "-x", str(TOOL)], cwd=ROOT, capture_output=True, text=True, check=False)
@@ -103,10 +103,10 @@ class OnLinux(PackageFixture):
         self.run_tool()
         self.assertEqual(archive.read_bytes(), first)
 
-    def test_it_says_what_is_not_sealed(self):
-        said = self.run_tool().stdout
-        self.assertIn("no signature seals the bundle", said)
-        self.assertIn("codesign --force --sign -", said)
+    def test_it_warns_that_the_bundle_is_not_sealed(self):
+        output = self.run_tool().stdout
+        self.assertIn("no signature seals the bundle", output)
+        self.assertIn("codesign --force --sign -", output)
 
     def test_what_needs_a_mac_is_refused(self):
         self.assertNotEqual(self.run_tool("--identity", "Somebody").returncode, 0)
@@ -118,13 +118,13 @@ class OnLinux(PackageFixture):
         self.assertNotEqual(result.returncode, 0)
         self.assertIn("There is no application", result.stderr)
 
-    def test_an_option_that_it_does_not_know_is_refused(self):
+    def test_an_unknown_option_is_refused(self):
         self.assertIn("does not know", self.run_tool("--sign", "x").stderr)
         self.assertIn("wants a value", self.run_tool("--identity").stderr)
 
 
 class OnAMac(PackageFixture):
-    """What is called, in which order."""
+    """The order of the programs that it calls."""
 
     def setUp(self):
         super().setUp()
@@ -138,7 +138,7 @@ class OnAMac(PackageFixture):
             program.chmod(0o755)
 
     def calls_of(self, *options, failing="", failures=99):
-        """What is called when a program fails so many times."""
+        """The calls if a program fails this many times."""
         self.calls.unlink(missing_ok=True)
         result = self.run_tool(*options, path=self.programs, CALLS=str(self.calls), SYSTEM="Darwin", FAILING=failing,
                                FAILURES=str(failures))
@@ -147,7 +147,7 @@ class OnAMac(PackageFixture):
 
     @staticmethod
     def kinds(lines):
-        """The first words of each call that say what it does."""
+        """A name for what each call does."""
         kinds = []
         for line in lines:
             words = line.split()
@@ -164,7 +164,7 @@ class OnAMac(PackageFixture):
                 kinds.append(words[0])
         return kinds
 
-    # What every package begins with.
+    # The first steps for every package.
     SIGNED = ["copy", "dsymutil", "strip", "zip symbols", "sign", "verify", "zip"]
 
     def test_without_an_identity_the_signature_is_ad_hoc(self):
@@ -194,7 +194,7 @@ class OnAMac(PackageFixture):
         self.assertRegex(listing, r"spctl --assess -vv --type execute \S+/Orvane\.app\n")
         self.assertRegex(listing, r"spctl --assess -vv --type open --context context:primary-signature \S+\.dmg\b")
 
-    def test_what_gatekeeper_refuses_is_no_package(self):
+    def test_nothing_is_packed_if_gatekeeper_refuses_it(self):
         result, lines = self.calls_of("--identity", "Somebody", "--notary", "profile", failing="spctl")
         self.assertNotEqual(result.returncode, 0)
         self.assertNotIn("image", self.kinds(lines))
@@ -208,13 +208,13 @@ class OnAMac(PackageFixture):
         self.assertEqual(self.kinds(lines).count("image"), 5)
         self.assertIn("cannot be made", result.stderr)
 
-    def test_the_symbols_are_kept_and_the_program_goes_without(self):
+    def test_the_symbols_are_kept_separately_from_the_program(self):
         _, lines = self.calls_of()
         self.assertTrue((self.output / "Orvane-2.5.0.dSYM.zip").exists())
         stripped = next(line for line in lines if line.startswith("strip"))
         self.assertRegex(stripped, r"strip -S \S+/Orvane\.app/Contents/MacOS/Orvane$")
 
-    def test_the_image_holds_the_application_and_the_way_to_install_it(self):
+    def test_the_image_holds_the_application_and_a_link_to_the_applications_folder(self):
         _, lines = self.calls_of()
         listing = "\n".join(lines)
         self.assertRegex(listing, r"Applications -> /Applications")

@@ -1,5 +1,5 @@
-"""What the system reads of the application before it runs: Info.plist, its translations, the profile for
-fleets. Usage: PropertyListTest.py INFO_PLIST IDENTIFIER VERSION OLDEST_SYSTEM, the first as it is built."""
+"""Tests of the metadata that the system reads: Info.plist, its translations and the profile for fleets.
+Usage: PropertyListTest.py INFO_PLIST IDENTIFIER VERSION OLDEST_SYSTEM, where INFO_PLIST is the generated file."""
 
 import pathlib
 import re
@@ -18,9 +18,9 @@ COPYRIGHT = "Copyright © 2026 The Orvane authors"
 
 
 class InfoPlist(unittest.TestCase):
-    """The application's own property list, whole: a key too many is a mistake, too."""
+    """The application's complete property list: an additional key is an error, too."""
 
-    def test_every_key_is_there_and_none_else(self):
+    def test_it_has_exactly_these_keys(self):
         expected = {
             "CFBundleDevelopmentRegion": "en", "CFBundleDisplayName": "Orvane", "CFBundleExecutable": "Orvane",
             "CFBundleIconFile": "AppIcon", "CFBundleIdentifier": IDENTIFIER, "CFBundleInfoDictionaryVersion": "6.0",
@@ -33,7 +33,7 @@ class InfoPlist(unittest.TestCase):
         }
         self.assertEqual(property_lists.read(pathlib.Path(INFO).read_bytes()), expected)
 
-    def test_it_asks_for_the_use_of_nothing(self):
+    def test_it_requests_no_protected_resources(self):
         text = pathlib.Path(INFO).read_text(encoding="utf-8")
         self.assertNotRegex(text, r"UsageDescription|NSAppleEvents|NSAppTransportSecurity|CFBundleURLTypes")
 
@@ -63,7 +63,7 @@ class InfoPlist(unittest.TestCase):
 
 
 class FleetProfile(unittest.TestCase):
-    """The sample of a configuration profile."""
+    """The sample configuration profile."""
 
     def setUp(self):
         self.profile = property_lists.read((MACOS / "fleet" / "orvane.mobileconfig").read_bytes())
@@ -93,11 +93,12 @@ class FleetProfile(unittest.TestCase):
         self.assertEqual(entry["Identifier"], IDENTIFIER)
         self.assertEqual(entry["IdentifierType"], "bundleID")
         self.assertEqual(entry["Authorization"], "Allow")
-        self.assertNotIn("Allowed", entry, "one of the two ways to say it, not both")
+        self.assertNotIn("Allowed", entry, "Authorization replaces it")
         self.assertIs(entry["StaticCode"], False)
         self.assertEqual(entry["CodeRequirement"],
                          f'identifier "{IDENTIFIER}" and anchor apple generic and '
-                         # Developer ID's certificate authority, and its certificates for applications.
+                         # The certificate authority of Developer ID, and its application
+                         # certificates.
                          'certificate 1[field.1.2.840.113635.100.6.2.6] /* exists */ and '
                          'certificate leaf[field.1.2.840.113635.100.6.1.13] /* exists */ and '
                          'certificate leaf[subject.OU] = "TEAM000000"')
@@ -110,7 +111,7 @@ class FleetProfile(unittest.TestCase):
 
 
 class HomebrewCask(unittest.TestCase):
-    """What the cask says of the application is what the application says of itself."""
+    """The cask's values match those of the application."""
 
     def setUp(self):
         self.cask = (MACOS / "homebrew" / "orvane.rb").read_text(encoding="utf-8")
@@ -127,7 +128,7 @@ class HomebrewCask(unittest.TestCase):
         uninstall = re.search(r"^  uninstall (.*?)\n\n", self.cask, re.MULTILINE | re.DOTALL)[1]
         directives = dict(re.findall(r'(\w+):\s+"([^"]+)"', uninstall))
         self.assertEqual(directives, {"quit": IDENTIFIER, "login_item": "Orvane"})
-        # These would run at every upgrade.
+        # These stanzas would run at every upgrade.
         self.assertNotRegex(self.cask, r"early_script:|script:|uninstall_preflight|uninstall_postflight")
 
     def test_its_placeholders_cannot_be_taken_for_a_release(self):
@@ -137,7 +138,7 @@ class HomebrewCask(unittest.TestCase):
 
 
 class TheReader(unittest.TestCase):
-    """It refuses what it is there to refuse."""
+    """Tests that the reader rejects malformed files."""
 
     HEAD = ('<?xml version="1.0" encoding="UTF-8"?>\n<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" '
             '"http://www.apple.com/DTDs/PropertyList-1.0.dtd">\n')
@@ -172,7 +173,7 @@ class TheReader(unittest.TestCase):
         with self.assertRaises(StrictError):
             property_lists.read_strings(b"\xff\xfe\"\0")
 
-    def test_only_a_proper_uuid_is_one(self):
+    def test_only_a_canonical_uuid_is_accepted(self):
         self.assertTrue(property_lists.is_uuid("6F1D2C0A-53B0-4E58-9E36-0B7C1C6A4E01"))
         for text in ("6f1d2c0a-53b0-4e58-9e36-0b7c1c6a4e01", "6F1D2C0A", "", "6F1D2C0A53B04E589E360B7C1C6A4E01"):
             self.assertFalse(property_lists.is_uuid(text), text)

@@ -1,6 +1,6 @@
-"""The review of the Mac half is of the present sources: it names every file of macos/, every function of
-the system that the application calls, and every class and protocol of Objective-C that it uses. And the
-proof that the check can fail."""
+"""Tests that the review of the Mac half covers the current sources: it names every file of macos/, every system
+function that the application calls, and every Objective-C class and protocol that it uses. Also tests that
+the check can fail."""
 
 import re
 import sys
@@ -11,22 +11,22 @@ sys.dont_write_bytecode = True
 import source_rules  # noqa: E402
 
 _CALL = re.compile(r"(?<![\w.>])((?:AX|CA|CF|CG|CT|NS|dispatch_)\w+)\s*\(")
-# Our own owner of Core Foundation's objects, and types and macros that look like calls.
+# The application's own smart pointer, and types and macros that look like calls.
 _NO_CALLS = re.compile(r"CFRef|CFSTR|NSEC_PER_SEC|NSAccessibility\w*Role|NS_\w+|CG_\w+")
-# A class is pointed to, asked for a property, sent a message or made a superclass.
+# A class as the target of a pointer, a property access or a message, or as a superclass.
 _NAME = r"((?!NSRect\b)(?:NS|CA|SM)[A-Z]\w+)"
 _CLASS = re.compile(rf"(?<![\w.>]){_NAME}(?=\s*(?:<[^<>()]*>\s*)?\*|\.[a-z])|(?<!@)\[\s*{_NAME}\s"
                     rf"|@interface\s+\w+\s*:\s*{_NAME}(?:\s*<{_NAME}>)?|\bid<{_NAME}>")
 
 
 def names_in(line):
-    """The functions that a line calls, and the classes and protocols that it uses."""
+    """The functions, classes and protocols that a line uses."""
     return [call for call in _CALL.findall(line) if not _NO_CALLS.fullmatch(call)] + [
         name for names in _CLASS.findall(line) for name in names if name]
 
 
 def used_names(files):
-    """By what the review has to name, the first place that uses it."""
+    """For each name that the review must contain, the first line that uses it."""
     used = {}
     for file in files:
         if file.top == "macos" and file.path.suffix == ".mm":
@@ -40,7 +40,7 @@ def used_names(files):
 
 
 def findings(used, review):
-    """What the review leaves out."""
+    """The names that the review lacks."""
     named = set(re.findall(r"\w+(?:\.mm\b)?", review))
     return [f"{place}: {name} is not in the review" for name, place in used.items() if name not in named]
 
@@ -52,7 +52,7 @@ class TheReview(unittest.TestCase):
         review = (source_rules.ROOT / "docs" / "macos-review.md").read_text(encoding="utf-8")
         self.assertEqual(findings(used_names(source_rules.sources()), review), [])
 
-    def test_what_is_left_out_is_found(self):
+    def test_a_missing_name_is_found(self):
         used = used_names(source_rules.sources())
         review = (source_rules.ROOT / "docs" / "macos-review.md").read_text(encoding="utf-8")
         for name in ("CGEventTapCreate", "CTLineDraw", "dispatch_after", "Handover.mm", "NSPointInRect",

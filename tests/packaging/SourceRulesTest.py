@@ -1,5 +1,5 @@
-"""The application reaches neither the network nor files, nor what is typed, nor what is on the screen:
-its sources use nothing of the system that is not on the list. And the proof that each check can fail."""
+"""Tests that the application has no access to the network, files, typed text or screen contents: its sources use
+only the listed names of the system. Also tests that each check can fail."""
 
 import pathlib
 import sys
@@ -12,7 +12,7 @@ import source_rules  # noqa: E402
 
 
 class TheSources(unittest.TestCase):
-    """What the sources really use."""
+    """The sources of the application."""
 
     @classmethod
     def setUpClass(cls):
@@ -36,7 +36,7 @@ class TheSources(unittest.TestCase):
 
 
 class TheChecks(unittest.TestCase):
-    """Each check fails for what it is there for."""
+    """Tests that each check can fail."""
 
     def files(self, **texts):
         folder = tempfile.TemporaryDirectory()
@@ -56,7 +56,7 @@ class TheChecks(unittest.TestCase):
             found = source_rules.name_findings(self.files(Bad=line), source_rules.allowed_names())
             self.assertEqual(len(found), 1, line)
 
-    def test_a_name_in_a_comment_or_a_text_is_no_use(self):
+    def test_a_name_in_a_comment_or_a_string_is_ignored(self):
         files = self.files(Good='// NSURLSession\nconst char* text = "NSFileManager";')
         self.assertEqual(source_rules.name_findings(files, source_rules.allowed_names()), [])
 

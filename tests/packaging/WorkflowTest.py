@@ -1,5 +1,5 @@
-"""The workflow that builds, tests and publishes: it parses, runs nothing of others but what a commit
-names, and lets no step hang. Ends with 77, which means skipped, where Python has no YAML."""
+"""Tests of the workflow that builds, tests and publishes: it parses, pins all third-party actions to commits, and
+has time limits. Exits with 77, which means skipped, if Python has no YAML."""
 
 import pathlib
 import re
@@ -24,7 +24,7 @@ def steps(workflow):
 
 
 def pin_findings(text):
-    """What a tag or a branch names, either of which can come to mean something else."""
+    """Actions and repositories that are pinned to a tag or a branch, which may change."""
     findings = []
     for step in steps(yaml.safe_load(text)):
         action, _, commit = step.get("uses", "").partition("@")
@@ -32,7 +32,7 @@ def pin_findings(text):
             findings.append(f"{action} is not named by a commit")
         if "repository" in step.get("with", {}) and not _COMMIT.fullmatch(str(step["with"].get("ref", ""))):
             findings.append(f"{step['with']['repository']} is not named by a commit")
-    # Nobody can read a commit, so its release stands behind it.
+    # A hash is not readable, so a comment names its release.
     findings += [f"no release stands behind {commit}"
                  for commit, rest in re.findall(r"([0-9a-f]{40})(.*)", text) if not re.fullmatch(r" # v\d+(\.\d+){2}", rest)]
     return findings
@@ -53,29 +53,29 @@ class TheWorkflow(unittest.TestCase):
     def test_it_is_the_only_one(self):
         self.assertEqual([path.name for path in FOLDER.iterdir()], ["tests.yml"])
 
-    def test_what_others_wrote_is_named_by_commit(self):
+    def test_third_party_actions_are_pinned_to_commits(self):
         self.assertEqual(pin_findings(self.text), [])
 
     def test_every_job_ends(self):
         for name, job in self.jobs.items():
             self.assertLessEqual(job["timeout-minutes"], 90, name)
 
-    def test_what_opens_windows_or_waits_for_another_program_has_a_limit_of_its_own(self):
+    def test_steps_that_may_hang_have_their_own_limits(self):
         for name in ("Every window", "A second copy", "The package", "The unit tests"):
             self.assertLessEqual(self.step("macos", name)["timeout-minutes"], 20, name)
         self.assertLess(self.step("publish", "The package")["timeout-minutes"], self.jobs["publish"]["timeout-minutes"])
 
-    def test_every_macos_that_can_be_hired_is_tried(self):
+    def test_it_runs_on_every_hosted_macos(self):
         runners = self.jobs["macos"]["strategy"]["matrix"]["runner"]
         self.assertEqual(runners, ["macos-14", "macos-15", "macos-15-intel", "macos-26"])
         self.assertEqual(self.jobs["macos"]["continue-on-error"], "${{ matrix.runner == 'macos-14' }}")
 
-    def test_only_what_was_tested_is_published_and_only_there_something_may_be_written(self):
+    def test_publishing_needs_all_tests_and_alone_may_write(self):
         self.assertEqual(self.jobs["publish"]["needs"], ["linux", "gnustep", "macos"])
         self.assertEqual(self.workflow["permissions"], {"contents": "read"})
         self.assertEqual([name for name, job in self.jobs.items() if "permissions" in job], ["publish"])
 
-    def test_the_scripts_of_the_steps_can_be_read(self):
+    def test_the_scripts_of_the_steps_parse(self):
         for step in steps(self.workflow):
             script = re.sub(r"\$\{\{.*?\}\}", "expression", step.get("run", ""))
             result = subprocess.run(["bash", "-n"], input=script, capture_output=True, text=True, check=False)
@@ -83,7 +83,7 @@ class TheWorkflow(unittest.TestCase):
 
 
 class TheChecks(unittest.TestCase):
-    """They fail for what they are there for."""
+    """Tests that the checks can fail."""
 
     def findings(self, step):
         return pin_findings("jobs:\n  one:\n    steps:\n" + "".join(f"      {line}\n" for line in step.splitlines()))

@@ -1,4 +1,4 @@
-"""Reads of a Mach-O program what a check of it needs: processors, imports, libraries, selectors, signature."""
+"""A reader of Mach-O programs: processors, imports, libraries, selectors and signature."""
 
 import dataclasses
 import hashlib
@@ -9,13 +9,13 @@ _MAGIC_64 = 0xFEEDFACF
 CPU_NUMBERS = {"x86_64": 0x01000007, "arm64": 0x0100000C}
 _CPU_NAMES = {number: name for name, number in CPU_NUMBERS.items()}
 _SEGMENT_64, _SYMTAB, _CODE_SIGNATURE, _BUILD_VERSION = 0x19, 0x2, 0x1D, 0x32
-# Plain, weak, re-exported, lazy and upward: all of them are loaded.
+# Plain, weak, re-exported, lazy and upward libraries.
 _LOAD_DYLIBS = {0xC, 0x80000018, 0x8000001F, 0x20, 0x80000023}
 _DYNAMIC_LOOKUP = 254
 
 
 class MachOError(Exception):
-    """The file is not what it should be."""
+    """The file is not a valid program."""
 
 
 @dataclasses.dataclass
@@ -24,12 +24,12 @@ class Slice:
     cpu: str
     size: int
     libraries: list
-    # Pairs of a name, without its leading underscore, and the library it comes from; None for one that
-    # the loader looks for everywhere.
+    # Pairs of a name, without its leading underscore, and its library, which is None for a name
+    # that the loader looks up dynamically.
     imports: list
     selectors: list
     minimum_system: str
-    # Whether there is a signature, and whether what it says of every page of the program is so.
+    # Whether there is a signature, and whether its hashes match every page of the program.
     has_signature: bool
     signature_holds: bool
 
@@ -47,7 +47,7 @@ def _imports(data, symtab, libraries):
     found = []
     for index in range(count):
         name, kind, _, description, _ = struct.unpack_from("<IBBHQ", data, offset + 16 * index)
-        # Undefined and external, and no entry of a debugger.
+        # Only undefined external symbols, without debug entries.
         if kind & 0xE0 or kind & 0x0E or not kind & 0x01:
             continue
         ordinal = description >> 8
@@ -70,7 +70,7 @@ def _section_strings(data, command, wanted):
 
 
 def _signature_holds(data, offset):
-    """Compares the hashes of the signature's code directory with the pages that they stand for."""
+    """Compares the hashes of the signature's code directory with the pages."""
     magic, _, count = struct.unpack_from(">III", data, offset)
     if magic != 0xFADE0CC0:
         raise MachOError("the signature cannot be read")

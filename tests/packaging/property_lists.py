@@ -1,5 +1,4 @@
-"""A strict reader of property lists and of .strings files: what a Mac would accept silently or guess at
-is an error here."""
+"""A strict reader of property lists and .strings files: it rejects what macOS would accept silently or guess."""
 
 import plistlib
 import re
@@ -16,7 +15,7 @@ _STRINGS_TOKEN = re.compile(
 
 
 class StrictError(Exception):
-    """Says what is wrong with the file."""
+    """The problem with the file."""
 
 
 def _check(element):
@@ -27,7 +26,7 @@ def _check(element):
             raise StrictError(f"<{element.tag}> holds text")
         return
     if element.tag not in ("dict", "array"):
-        raise StrictError(f"<{element.tag}> is no element of a property list")
+        raise StrictError(f"<{element.tag}> is not an element of a property list")
     stray = [element.text] + [child.tail for child in element]
     if any(text and text.strip() for text in stray):
         raise StrictError(f"<{element.tag}> holds text")
@@ -37,20 +36,20 @@ def _check(element):
         if any(child.tag != "key" for child in children[::2]) or len(children) % 2:
             raise StrictError("a <dict> is not made of keys and values")
         if len(set(keys)) != len(keys) or not all(keys):
-            raise StrictError("a key is empty or stands twice")
+            raise StrictError("a key is empty or duplicate")
         children = children[1::2]
     for child in children:
         _check(child)
 
 
 def read(data):
-    """The value of a property list, as its file's bytes."""
+    """The value of a property list, from the bytes of its file."""
     try:
         text = data.decode("utf-8")
         if not _HEAD.match(text):
             raise StrictError("does not begin with the declaration and the type of a property list")
         if re.search(r"\$\{|@\w+@", text):
-            raise StrictError("holds a variable that nobody filled in")
+            raise StrictError("holds a variable that was not substituted")
         root = xml.etree.ElementTree.fromstring(text.encode("utf-8"))
         if root.tag != "plist" or root.attrib != {"version": "1.0"} or len(root) != 1:
             raise StrictError("is not one <plist> with one value")
@@ -61,7 +60,7 @@ def read(data):
 
 
 def read_strings(data):
-    """The pairs of a .strings file, as its bytes."""
+    """The pairs of a .strings file, from its bytes."""
     try:
         text = data.decode("utf-8")
     except UnicodeDecodeError as error:
@@ -73,14 +72,14 @@ def read_strings(data):
             raise StrictError(f"cannot be read from here: {text[position:position + 30]!r}")
         if match["key"] is not None:
             if match["key"] in pairs:
-                raise StrictError(f"{match['key']} stands twice")
+                raise StrictError(f"{match['key']} is a duplicate")
             pairs[match["key"]] = match["value"]
         position = match.end()
     return pairs
 
 
 def is_uuid(text):
-    """Whether the text is a UUID as profiles want it: upper case, with hyphens."""
+    """Whether the text is a UUID in the form that profiles require: upper case, with hyphens."""
     try:
         return str(uuid.UUID(text)).upper() == text
     except ValueError:

@@ -1,4 +1,4 @@
-"""What the sources of the application may use of macOS: names, headers, messages, the event mask."""
+"""Checks of what the application's sources use of macOS: names, headers, messages and the event mask."""
 
 import pathlib
 import re
@@ -12,18 +12,18 @@ from tidy_rules.project import SourceFile  # noqa: E402
 
 ALLOWED_NAMES = pathlib.Path(__file__).with_name("allowed_names.txt")
 
-# The prefixes of Apple's frameworks, and of the system's libraries that are not the language's own.
+# The prefixes of Apple's frameworks and of system libraries outside of the language.
 _NAME = re.compile(
     r"(?<![\w.>])(?:k?(?:AB|AC|AE|AR|AS|AU|AV|AX|CA|CB|CF|CG|CI|CK|CL|CM|CN|CS|CT|CV|DA|EK|FS|GC|HI|IO|LA|LS|MD"
     r"|MK|MT|NE|NS|NW|PDF|PH|QL|SC|SF|SK|SL|SM|SS|Sec|UN|UT|WK)[A-Z]\w*"
     r"|(?:dispatch|xpc|nw|notify|mach|task|vm|bootstrap|launch|objc|class|method|sel|os)_\w+)")
-# Functions of the C library that reach files, the network, other programs or the machine. Some names
-# are everyday words: in the portable half they count only when they are qualified.
+# Functions of the C library that access files, the network, other programs or the machine. Some are
+# common words: in the portable half they count only if qualified.
 _C_FUNCTION = re.compile(
     r"(?<![\w.>:])((?:std)?::)?(?:(dlopen|dlsym|fork|vfork|execv\w*|execl\w*|posix_spawn\w*|popen|socket|getaddrinfo"
     r"|gethostbyname|openat|creat|fopen|freopen|opendir|mkstemp|tmpfile|unlink|mmap|shm_open|ioctl|sysctl"
     r"|sysctlbyname|ptrace)|(system|connect|bind|listen|accept|open|rename|remove|kill))\s*\(")
-# Objective-C classes of which only these messages may be sent to the class itself.
+# Objective-C classes that may receive only these class messages.
 _CLASS_MESSAGES = {
     "NSEvent": {"mouseLocation", "otherEventWithType"},
     "NSWorkspace": {"sharedWorkspace"},
@@ -37,7 +37,7 @@ _CLASS_MESSAGES = {
     "NSArray": set(),
     "NSImage": {"imageNamed", "imageWithSystemSymbolName"},
 }
-# Messages that reach files, the network, other programs, what is typed or what is on the screen.
+# Messages that access files, the network, other programs, typed text or screen contents.
 FORBIDDEN_MESSAGES = re.compile(
     r"(?:\w*[cC]ontentsOf(?:File|URL)|byReferencing(?:File|URL)|writeTo(?:File|URL)\w*"
     r"|createFileAtPath|createDirectoryAt\w+|removeItemAt\w+|fileHandleFor\w+|\w*[uU]biquity\w*|URLsForDirectory"
@@ -53,7 +53,7 @@ ALLOWED_HEADERS = {
     "AppKit/AppKit.h", "ApplicationServices/ApplicationServices.h", "CoreText/CoreText.h",
     "Foundation/Foundation.h", "QuartzCore/CABase.h", "QuartzCore/QuartzCore.h",
     "ServiceManagement/ServiceManagement.h", "dispatch/dispatch.h",
-    # Of the language: nothing that opens a file, a thread or a process.
+    # The language's headers, without those that open files, threads or processes.
     "algorithm", "any", "array", "bit", "cassert", "charconv", "cmath", "compare", "concepts", "cstddef", "cstdint",
     "cstdio", "cstdlib", "cstring", "functional", "initializer_list", "iterator", "limits", "list", "map",
     "memory", "numbers", "numeric", "optional", "ranges", "set", "span", "string", "string_view", "tuple",
@@ -63,12 +63,12 @@ _HEADER = re.compile(r"^[ \t]*#[ \t]*(?:include|import)[ \t]*<([^>]+)>", re.MULT
 
 _TAP = re.compile(r"\bCGEventTapCreate\s*\(([^;{}]*)\)\s*\)?\s*;")
 _MASK = "constexprCGEventMaskmouseMoved=CGEventMask{1}<<kCGEventMouseMoved;"
-# Declares the functions elsewhere than on a Mac, so it holds no call.
+# Holds the declarations for other systems than macOS, and no calls.
 _DECLARATIONS = "Orvane/platform/Quartz.hpp"
 
 
 def allowed_names(text=None):
-    """The names of the list; each stands under a heading that says what it is for."""
+    """The names of the list; each belongs to a heading that states its purpose."""
     names, heading = set(), None
     for line in (ALLOWED_NAMES.read_text(encoding="utf-8") if text is None else text).splitlines():
         line = line.split("#")[0].strip()
@@ -76,10 +76,10 @@ def allowed_names(text=None):
             heading = line
         elif line:
             if heading is None:
-                raise ValueError(f"{line}: stands under no heading")
+                raise ValueError(f"{line}: has no heading")
             for name in line.split():
                 if name in names:
-                    raise ValueError(f"{name}: stands twice in the list")
+                    raise ValueError(f"{name}: is listed twice")
                 names.add(name)
     return names
 
@@ -92,7 +92,7 @@ def sources(root=ROOT):
 
 
 def used_names(files):
-    """Which names of the system appear in the code, and where first."""
+    """The names of the system that the code uses, each with its first line."""
     used = {}
     for file in files:
         for number, line in file.code_lines():
@@ -107,49 +107,48 @@ def used_names(files):
 
 
 def name_findings(files, allowed):
-    """Names that are used and not allowed."""
-    # macOS/cross answers a question of the compiler; the function's name is the compiler's.
+    """Uses of names that are not allowed."""
     return [f"{place}: {name} is not in the list of what the application may use"
             for name, place in used_names(files).items() if name not in allowed]
 
 
 def header_findings(files):
-    """Headers of others that are included and not allowed."""
+    """Includes of system headers that are not allowed."""
     return [f"{file}: <{header}> is not among the headers that the application may include"
             for file in files for header in _HEADER.findall(file.text) if header not in ALLOWED_HEADERS]
 
 
 def message_findings(files):
-    """Messages that are sent and not allowed."""
+    """Messages that are not allowed."""
     findings = []
     for file in files:
         if file.path.suffix not in (".mm", ".m") and file.top != "macos":
             continue
         for number, line in file.code_lines():
             for name, message in _CLASS_MESSAGE.findall(line):
-                # A word after a type is a variable unless it stands in a message or after a dot.
+                # A word after a type is a variable unless it is in a message or after a dot.
                 sent = re.search(r"(?:\[\s*" + name + r"\s+|\b" + name + r"\s*\.\s*)" + message + r"\b", line)
                 if sent and name in _CLASS_MESSAGES and message not in _CLASS_MESSAGES[name]:
                     findings.append(f"{file}:{number}: {name} may not be sent {message}")
             for word in re.findall(r"\b[a-z]\w+", line):
                 if FORBIDDEN_MESSAGES.match(word):
-                    findings.append(f"{file}:{number}: {word} reaches what the application leaves alone")
+                    findings.append(f"{file}:{number}: {word} accesses what the application must not")
     return findings
 
 
 def tap_findings(files):
-    """There is one event tap, and the mask with which it is made is that of mouse-moved alone."""
+    """Checks that there is one event tap, whose mask contains only mouse-moved events."""
     taps = [(file, match) for file in files if str(file) != _DECLARATIONS
             for match in _TAP.finditer(file.code())]
     mentions = sum(len(re.findall(r"\bCGEventTapCreate\w*", file.code())) for file in files
                    if str(file) != _DECLARATIONS)
     if len(taps) != 1 or mentions != 1:
-        return [f"{mentions} event taps are made, and {len(taps)} can be read; there has to be one"]
+        return [f"{mentions} event taps are created, {len(taps)} of them readable; there must be one"]
     file, match = taps[0]
     arguments = [argument.strip() for argument in match.group(1).split(",")]
     findings = []
     if arguments[:4] != ["kCGSessionEventTap", "kCGTailAppendEventTap", "kCGEventTapOptionDefault", "mouseMoved"]:
-        findings.append(f"{file}: the event tap is made with {', '.join(arguments[:4])}")
+        findings.append(f"{file}: the event tap is created with {', '.join(arguments[:4])}")
     if re.sub(r"\s", "", file.code()).count(_MASK) != 1 or len(re.findall(r"\bmouseMoved\b", file.code())) != 2:
-        findings.append(f"{file}: the mask is not that of mouse-moved events alone")
+        findings.append(f"{file}: the mask does not consist of mouse-moved events alone")
     return findings

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -12,20 +11,12 @@
 #include "desk/desktop/DesktopPicture.hpp"
 #include "tests/panels/PanelFixture.hpp"
 #include "tests/panels/TextRun.hpp"
+#include "tests/support/Contrast.hpp"
 
 namespace orvane {
 namespace {
 
 using Wallpaper = desk::Appearance::Wallpaper;
-
-/// Relative luminance and contrast as WCAG 2.1 defines them.
-double linear(double component) {
-  return component <= 0.04045 ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
-}
-double contrast(double first, double second) {
-  return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
-}
-
 using Accent = desk::Appearance::Accent;
 
 /// Those that the system offers: blue, purple, pink, red, orange, yellow, green and graphite.
@@ -67,29 +58,19 @@ class ContrastTest : public PanelFixture {
     int bottom;
   };
 
-  [[nodiscard]] static double luminanceAt(cairo_surface_t* surface, int x, int y) {
-    const unsigned char* row =
-        cairo_image_surface_get_data(surface) + y * cairo_image_surface_get_stride(surface);
-    const std::uint32_t value = reinterpret_cast<const std::uint32_t*>(row)[x];
-    const auto component = [value](unsigned shift) {
-      return linear(static_cast<double>(value >> shift & 0xFFU) / 255);
-    };
-    return 0.2126 * component(16) + 0.7152 * component(8) + 0.0722 * component(0);
-  }
-
   /// Of the ink that differs most from what lies just above and below the text.
   [[nodiscard]] static double measured(cairo_surface_t* surface, const Area& area) {
     std::vector<double> around;
     for (int x = area.left; x < area.right; ++x) {
-      around.push_back(luminanceAt(surface, x, area.top));
-      around.push_back(luminanceAt(surface, x, area.bottom));
+      around.push_back(luminance(pixelAt(surface, x, area.top)));
+      around.push_back(luminance(pixelAt(surface, x, area.bottom)));
     }
     std::ranges::sort(around);
     const double background = around.at(around.size() / 2);
     double greatest = 1;
     for (int y = area.top; y < area.bottom; ++y) {
       for (int x = area.left; x < area.right; ++x) {
-        greatest = std::max(greatest, contrast(background, luminanceAt(surface, x, y)));
+        greatest = std::max(greatest, contrast(background, luminance(pixelAt(surface, x, y))));
       }
     }
     return greatest;

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <algorithm>
-#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -11,18 +10,14 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/RecordingCanvas.hpp"
 #include "Orvane/ui/Semantics.hpp"
-#include "desk/application/ApplicationHost.hpp"
-#include "desk/machine/MachineScope.hpp"
-#include "desk/windows/Surfaces.hpp"
-#include "desk/windows/WindowServer.hpp"
+#include "tests/support/ApplicationFixture.hpp"
 
 namespace orvane {
 
 /// The permission is there and nothing is guarded; no panel is open. The displays, all named: the
 /// built-in main one, one to its right and one above it.
-class PanelFixture : public testing::Test {
+class PanelFixture : public ApplicationFixture {
  protected:
   static constexpr const char* mainPanel = "main";
   static constexpr const char* settingsPanel = "settings";
@@ -33,11 +28,6 @@ class PanelFixture : public testing::Test {
     attach(3, CGRectMake(0, 900, 1440, 900), "LG", false);
     machine.permission.setTrusted(true);
     application.launch();
-  }
-  ~PanelFixture() override {
-    const desk::MachineEnd end = scope_.end();
-    EXPECT_TRUE(end.isClean()) << (end.faults.empty() ? "something was not released"
-                                                      : end.faults.front());
   }
 
   void attach(std::uint32_t number, CGRect frame, const std::string& name, bool isBuiltIn) {
@@ -69,37 +59,18 @@ class PanelFixture : public testing::Test {
     machine.advance(1);
   }
 
-  [[nodiscard]] desk::WindowServer& server() { return desk::WindowServer::current(); }
-  [[nodiscard]] OrvaneModel& model() { return application.model(); }
-  [[nodiscard]] bool isOpen(const std::string& surface) {
-    return desk::Surfaces(server()).isThere(surface);
-  }
-  [[nodiscard]] std::shared_ptr<desk::DeskWindow> window(const std::string& surface) {
-    return desk::Surfaces(server()).window(surface);
-  }
-
-  [[nodiscard]] ui::SemanticsNode tree(const std::string& surface) {
-    return desk::Surfaces(server()).tree(surface).value_or(ui::SemanticsNode{});
-  }
   /// Every element of a panel, in the order of reading.
   [[nodiscard]] std::vector<ui::SemanticsNode> elements(const std::string& surface) {
-    std::vector<ui::SemanticsNode> all;
-    collect(tree(surface), all);
-    return all;
+    return desk::findElements(tree(surface), [](const ui::SemanticsNode&) { return true; });
   }
   [[nodiscard]] std::optional<ui::SemanticsNode> element(const std::string& label,
                                                          const std::string& surface = mainPanel) {
-    for (const ui::SemanticsNode& node : elements(surface)) {
-      if (node.label == label) {
-        return node;
-      }
-    }
-    return std::nullopt;
+    return desk::findElement(tree(surface),
+                             [&](const ui::SemanticsNode& node) { return node.label == label; });
   }
   [[nodiscard]] std::vector<ui::SemanticsNode> withRole(ui::Role role, const std::string& surface) {
-    std::vector<ui::SemanticsNode> found = elements(surface);
-    std::erase_if(found, [&](const ui::SemanticsNode& node) { return node.role != role; });
-    return found;
+    return desk::findElements(tree(surface),
+                              [role](const ui::SemanticsNode& node) { return node.role == role; });
   }
   /// The frame of the element, or one that no element has.
   [[nodiscard]] ui::Rect frameOf(const std::string& label, const std::string& surface = mainPanel) {
@@ -119,57 +90,20 @@ class PanelFixture : public testing::Test {
 
   /// The accessibility press of an enabled control; false when there is none.
   bool press(const std::string& label, const std::string& surface = mainPanel) {
-    for (const desk::SurfaceControl& control : desk::Surfaces(server()).controls(surface)) {
-      if (control.node.label == label && control.node.isEnabled) {
-        const bool isDone = control.press();
-        machine.runDue();
-        return isDone;
-      }
-    }
-    return false;
+    return ApplicationFixture::press(label, surface);
   }
   void hover(const std::string& label, const std::string& surface = mainPanel) {
-    for (const desk::SurfaceControl& control : desk::Surfaces(server()).controls(surface)) {
-      if (control.node.label == label) {
-        machine.mouse.moveTo({CGRectGetMidX(control.frame), CGRectGetMidY(control.frame)});
-        machine.runDue();
-      }
+    if (const auto control = hand.control(label, surface)) {
+      moveTo({CGRectGetMidX(control->frame), CGRectGetMidY(control->frame)});
     }
   }
   bool pick(const std::string& label, const std::string& item) {
-    if (!press(label, settingsPanel) || !server().menus.isOpen()) {
-      return false;
-    }
-    const auto& items = server().menus.menu()->items;
-    for (std::size_t index = 0; index < items.size(); ++index) {
-      if (items[index].title == item) {
-        const bool isDone = server().menus.choose(index);
-        machine.runDue();
-        return isDone;
-      }
-    }
-    return false;
-  }
-  void key(ui::Key name, bool shift = false) {
-    server().keyDown({name, {shift, false, false, false}, {}});
-    machine.runDue();
-  }
-  void command(const std::string& character) {
-    server().keyDown({ui::Key::character, {false, false, false, true}, character});
-    machine.runDue();
+    return !hand.pick({label, settingsPanel}, item);
   }
 
   /// All that the panel draws now, one line for each call.
   [[nodiscard]] std::vector<std::string> drawing(const std::string& surface) {
-    const auto shown = window(surface);
-    if (shown == nullptr || shown->content == nullptr) {
-      return {};
-    }
-    shown->content->update();
-    ui::RecordingCanvas canvas;
-    const ui::Size size = shown->content->host().size();
-    shown->content->host().paint(canvas, {0, 0, size.width, size.height});
-    return canvas.lines();
+    return drawnLines(surface);
   }
   /// How many lines of the drawing have the part in them.
   [[nodiscard]] std::ptrdiff_t drawn(const std::string& part,
@@ -200,20 +134,6 @@ class PanelFixture : public testing::Test {
     }
     return 0;
   }
-
- private:
-  static void collect(const ui::SemanticsNode& node, std::vector<ui::SemanticsNode>& all) {
-    all.push_back(node);
-    for (const ui::SemanticsNode& child : node.children) {
-      collect(child, all);
-    }
-  }
-
-  desk::MachineScope scope_;
-
- protected:
-  desk::Machine& machine = scope_.machine();
-  desk::ApplicationHost application{machine};
 };
 
 }  // namespace orvane

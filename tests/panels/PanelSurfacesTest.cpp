@@ -83,11 +83,11 @@ TEST_F(PanelSurfacesTest, ADividerClosesTheHeaderOfTheSettings) {
 
 TEST_F(PanelSurfacesTest, TheTileInTheHeaderOfTheSettingsRunsFromBlueToIndigo) {
   openSettings();
-  const std::string tile = "(20 8 30 30 r8 continuous) ";
+  const std::string tile = "(18 8 30 30 r8 continuous) ";
   expectDrawn(settingsPanel,
               "shadow rounded" + tile + "rgba(0.03 0.47 0.98 0.25) radius 5 offset 0 2");
   expectDrawn(settingsPanel, "fill rounded" + tile +
-                                 "gradient(20 8 to 50 38, 0 rgba(0.03 0.47 0.98 1), "
+                                 "gradient(18 8 to 48 38, 0 rgba(0.03 0.47 0.98 1), "
                                  "1 rgba(0.34 0.39 0.95 1))");
 }
 

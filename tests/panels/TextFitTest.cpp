@@ -81,8 +81,8 @@ TEST_P(TextFitTest, NothingIsCutAndNothingLeavesThePanel) {
 class WiderText : public ui::TextMeasurer {
  public:
   ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
-                        int lineLimit) override {
-    ui::TextLayout layout = measurer_.layout(text, font, maximumWidth / factor, lineLimit);
+                        ui::LineLimit limit) override {
+    ui::TextLayout layout = measurer_.layout(text, font, maximumWidth / factor, limit);
     for (ui::TextLine& line : layout.lines) {
       line.width *= factor;
     }

@@ -16,6 +16,12 @@ struct TextRun {
   /// In points from the panel's top left corner, from the top of its capitals to below its
   /// baseline.
   ui::Rect frame;
+  /// What no clip cuts off of the frame.
+  ui::Rect visible;
+  /// In points from the panel's top.
+  double baseline = 0;
+  /// How many times its font's height it is drawn.
+  double scale = 1;
   /// Less than 1 in a layer that is faded, as a disabled control is.
   double opacity = 1;
 };
@@ -23,11 +29,12 @@ struct TextRun {
 /// A canvas that draws nothing and keeps the texts.
 class TextCollector : public ui::Canvas {
  public:
-  explicit TextCollector(desk::TextShaper& shaper) : shaper_(shaper) {}
+  explicit TextCollector(desk::TextShaper& shaper, double scaleFactor = 1)
+      : shaper_(shaper), scaleFactor_(scaleFactor) {}
 
   [[nodiscard]] const std::vector<TextRun>& runs() const { return runs_; }
 
-  double scaleFactor() const override { return 1; }
+  double scaleFactor() const override { return scaleFactor_; }
   void save() override { states_.push_back(state_); }
   void restore() override {
     state_ = states_.back();
@@ -36,7 +43,9 @@ class TextCollector : public ui::Canvas {
   void transform(const ui::Transform& transform) override {
     state_.transform = state_.transform.after(transform);
   }
-  void clip(const ui::Shape&) override {}
+  void clip(const ui::Shape& shape) override {
+    state_.clip = state_.clip.intersection(state_.transform.apply(shape.rect));
+  }
   void fill(const ui::Shape&, const ui::Paint&) override {}
   void stroke(const ui::Shape&, const ui::Paint&, double) override {}
   void shadow(const ui::Shape&, const ui::PaintShadow&) override {}
@@ -51,7 +60,9 @@ class TextCollector : public ui::Canvas {
     constexpr double below = 0.2;
     const ui::Rect local{baseline.x, baseline.y - capitals * font.size,
                          shaper_.measure(line, font).width, (capitals + below) * font.size};
-    runs_.push_back({line, font, color, state_.transform.apply(local), state_.opacity});
+    const ui::Rect frame = state_.transform.apply(local);
+    runs_.push_back({line, font, color, frame, frame.intersection(state_.clip),
+                     state_.transform.apply(baseline).y, state_.transform.scaleY, state_.opacity});
   }
   void image(const std::string&, const ui::Rect&) override {}
   void symbol(const std::string&, const ui::Font&, const ui::Rgba&, const ui::Rect&) override {}
@@ -59,10 +70,12 @@ class TextCollector : public ui::Canvas {
  private:
   struct State {
     ui::Transform transform;
+    ui::Rect clip{-1e6, -1e6, 2e6, 2e6};
     double opacity = 1;
   };
 
   desk::TextShaper& shaper_;
+  double scaleFactor_;
   State state_;
   std::vector<State> states_;
   std::vector<TextRun> runs_;

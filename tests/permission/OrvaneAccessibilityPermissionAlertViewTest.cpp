@@ -1,4 +1,4 @@
-// What the alert says and how it is laid out.
+// The alert's texts and layout.
 #include "Orvane/permission/OrvaneAccessibilityPermissionAlertView.hpp"
 #include "tests/permission/PermissionFlow.hpp"
 

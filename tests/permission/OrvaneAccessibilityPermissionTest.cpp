@@ -19,7 +19,7 @@ class OrvaneAccessibilityPermissionTest : public desk::MachineFixture {
     OrvaneAccessibilityPermission::setPrompt(
         [this](std::function<void()> onGranted) { prompts.push_back(std::move(onGranted)); });
   }
-  /// A check whose callback adds `name` to what was granted.
+  /// A check whose callback appends `name` to `granted`.
   void check(char name) {
     OrvaneAccessibilityPermission::check([this, name] { granted += name; });
   }
@@ -106,14 +106,14 @@ TEST_F(OrvaneAccessibilityPermissionTest, AGrantedPermissionIsSeenWhileAskingIsU
   EXPECT_EQ(granted, "b");
 }
 
-TEST_F(OrvaneAccessibilityPermissionTest, WithoutAPromptNobodyIsAsked) {
+TEST_F(OrvaneAccessibilityPermissionTest, WithoutAPromptTheUserIsNotAsked) {
   OrvaneAccessibilityPermission::setPrompt(nullptr);
   check('a');
   machine.advance(5);
   EXPECT_EQ(granted, "");
 }
 
-TEST_F(OrvaneAccessibilityPermissionTest, TheNextProcessAsksAfresh) {
+TEST_F(OrvaneAccessibilityPermissionTest, TheNextProcessAsksAgain) {
   check('a');
   machine.process.end();
   machine.process.start();

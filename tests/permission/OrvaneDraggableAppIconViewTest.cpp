@@ -1,4 +1,4 @@
-// The icon that is dragged into the system's list.
+// The icon that the user can drag into the system's list.
 #include "Orvane/permission/OrvaneDraggableAppIconView.hpp"
 #include "tests/permission/PermissionFlow.hpp"
 
@@ -7,7 +7,7 @@ namespace {
 
 class OrvaneDraggableAppIconViewTest : public PermissionFlow {
  protected:
-  /// A place on the icon, in global coordinates.
+  /// A point on the icon, in global coordinates.
   CGPoint iconPlace() {
     const CGPoint corner = server().topLeftOf(*window("guide"));
     for (const ui::SemanticsNode& child : children("guide")) {

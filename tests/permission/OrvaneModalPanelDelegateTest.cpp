@@ -1,4 +1,4 @@
-// Whatever ends the modal session, it ends once.
+// The modal session ends once, whatever ends it.
 #include <vector>
 
 #include "Orvane/permission/OrvaneModalPanelDelegate.hpp"
@@ -9,7 +9,7 @@ namespace {
 
 class OrvaneModalPanelDelegateTest : public PermissionFlow {
  protected:
-  /// A session around the one that the delegate may end, to see a second stop.
+  /// An outer session around the one that the delegate may end, to detect a second stop.
   void runTwoSessions() {
     for (appkit::Window* const panel : {&outer, &inner}) {
       appkit::Application::runModal(*panel,

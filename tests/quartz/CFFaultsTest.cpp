@@ -1,4 +1,4 @@
-// Mistakes with Core Foundation references are recorded, not made.
+// Mistakes with Core Foundation references are recorded as faults.
 #include <string>
 #include <vector>
 

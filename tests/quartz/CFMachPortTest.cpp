@@ -1,4 +1,4 @@
-// Taps, ports, sources and the run loop: who keeps whom, and what ends with what.
+// Taps, ports, sources and the run loop: their ownership, and what ends with what.
 #include <gtest/gtest.h>
 
 #include "Orvane/base/CFRef.hpp"

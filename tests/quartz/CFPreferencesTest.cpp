@@ -42,14 +42,14 @@ TEST_F(CFPreferencesTest, ANewObjectIsCopiedForEachQuestion) {
   EXPECT_EQ(machine.objects.liveCount(), 2U);
 }
 
-TEST_F(CFPreferencesTest, HostsAreToldApart) {
+TEST_F(CFPreferencesTest, HostsAreDistinguished) {
   store(std::string("text"), Preferences::Host::current);
   EXPECT_FALSE(copy());
   EXPECT_TRUE(copy(kCFPreferencesCurrentHost));
   EXPECT_TRUE(Value::owning(CFPreferencesCopyAppValue(CFSTR("key"), CFSTR("program"))));
 }
 
-TEST_F(CFPreferencesTest, TextThatIsNotUtf8IsNoValue) {
+TEST_F(CFPreferencesTest, TextThatIsNotUtf8IsNotAValue) {
   store(std::string("\xFF"));
   EXPECT_FALSE(copy());
 }

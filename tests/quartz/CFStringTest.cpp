@@ -1,4 +1,4 @@
-// What is special about the desk's strings: constants and counting.
+// The desk's strings: constants and reference counting.
 #include <gtest/gtest.h>
 
 #include "desk/quartz/CFString.hpp"

@@ -14,12 +14,9 @@
 #include "Orvane/ui/Image.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
-#include "desk/application/ApplicationHost.hpp"
 #include "desk/hardware/HardwarePanelHost.hpp"
-#include "desk/machine/MachineScope.hpp"
 #include "desk/settings/SystemSettings.hpp"
-#include "desk/windows/Surfaces.hpp"
-#include "desk/windows/WindowServer.hpp"
+#include "tests/support/ApplicationFixture.hpp"
 #include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
@@ -28,40 +25,29 @@ namespace {
 /// The controls below whose label is empty or blank, described by role and place.
 void collectUnlabelled(const ui::SemanticsNode& node, const std::string& surface,
                        std::vector<std::string>& found) {
-  const bool isBlank = std::ranges::all_of(node.label, [](char c) { return c == ' '; });
-  if (node.isControl() && isBlank) {
-    found.push_back(surface + ": a " + ui::roleName(node.role) + " at " +
-                    std::to_string(static_cast<int>(node.frame.x)) + ", " +
-                    std::to_string(static_cast<int>(node.frame.y)));
-  }
-  for (const ui::SemanticsNode& child : node.children) {
-    collectUnlabelled(child, surface, found);
+  for (const ui::SemanticsNode& control : findControls(node)) {
+    if (std::ranges::all_of(control.label, [](char c) { return c == ' '; })) {
+      found.push_back(surface + ": a " + ui::roleName(control.role) + " at " +
+                      std::to_string(static_cast<int>(control.frame.x)) + ", " +
+                      std::to_string(static_cast<int>(control.frame.y)));
+    }
   }
 }
 
-std::size_t countControls(const ui::SemanticsNode& node) {
-  std::size_t count = node.isControl() ? 1 : 0;
-  for (const ui::SemanticsNode& child : node.children) {
-    count += countControls(child);
-  }
-  return count;
-}
-
-class SurfaceLabelsTest : public testing::TestWithParam<const char*> {
+class SurfaceLabelsTest : public ApplicationFixture,
+                          public testing::WithParamInterface<const char*> {
  protected:
   SurfaceLabelsTest() {
-    attach(machine(), laptop());
-    attach(machine(), monitorAtTheRight());
-    attach(machine(), monitorAbove());
+    attach(machine, laptop());
+    attach(machine, monitorAtTheRight());
+    attach(machine, monitorAbove());
   }
-  ~SurfaceLabelsTest() override { application.crash(); }
 
-  [[nodiscard]] Machine& machine() { return scope_.machine(); }
   [[nodiscard]] static Surfaces surfaces() { return Surfaces(WindowServer::current()); }
 
   /// Looks at everything that can be operated now.
   void look() {
-    machine().runDue();
+    machine.runDue();
     for (const std::string& name : surfaces().names()) {
       visited.insert(name);
       const auto tree = surfaces().tree(name);
@@ -73,14 +59,10 @@ class SurfaceLabelsTest : public testing::TestWithParam<const char*> {
 
   /// Presses the control there whose label is one of these.
   void press(const std::string& surface, const std::set<std::string>& labels) {
-    for (const SurfaceControl& control : surfaces().controls(surface)) {
-      if (labels.contains(control.node.label)) {
-        EXPECT_TRUE(control.press());
-        machine().runDue();
-        return;
-      }
-    }
-    ADD_FAILURE() << "no control " << *labels.begin() << " on " << surface;
+    const bool isDone = std::ranges::any_of(labels, [&](const std::string& label) {
+      return ApplicationFixture::press(label, surface);
+    });
+    EXPECT_TRUE(isDone) << "no control " << *labels.begin() << " on " << surface;
   }
 
   void lookAtSystemSettings() {
@@ -97,21 +79,16 @@ class SurfaceLabelsTest : public testing::TestWithParam<const char*> {
 
   void openMenu() {
     EXPECT_TRUE(WindowServer::current().menus.openStatusMenu(0));
-    machine().runDue();
+    machine.runDue();
   }
 
- private:
-  MachineScope scope_;
-
- protected:
-  ApplicationHost application{scope_.machine()};
   std::set<std::string> visited;
   std::vector<std::string> unlabelled;
   std::size_t controls = 0;
 };
 
 TEST_P(SurfaceLabelsTest, noControlOfTheProductIsWithoutALabel) {
-  machine().userDefaults.set("appLanguage", std::string(GetParam()));
+  machine.userDefaults.set("appLanguage", std::string(GetParam()));
   application.launch();
 
   openMenu();
@@ -120,28 +97,28 @@ TEST_P(SurfaceLabelsTest, noControlOfTheProductIsWithoutALabel) {
   look();
   openMenu();
   press("menu", {"Settings", "设置"});
-  machine().advance(1);
+  machine.advance(1);
   look();
 
   // Both modes change what the main panel shows.
-  machine().permission.setTrusted(true);
+  machine.permission.setTrusted(true);
   press("main", {"Pin Dock", "固定 Dock"});
   look();
   press("main", {"Prevent Dock Pop-Up", "防止 Dock 弹出"});
-  machine().advance(1);
+  machine.advance(1);
   look();
   press("main", {"Allow Dock Pop-Up", "允许 Dock 弹出"});
 
-  machine().permission.setTrusted(false);
+  machine.permission.setTrusted(false);
   press("main", {"Pin Dock", "固定 Dock"});
   look();
   press("alert", {"Open Privacy Settings", "打开隐私设置"});
-  machine().advance(3);
+  machine.advance(3);
   look();
-  machine().advance(12);
+  machine.advance(12);
   look();
-  machine().permission.setTrusted(true);
-  machine().advance(1.1);
+  machine.permission.setTrusted(true);
+  machine.advance(1.1);
   look();
 
   lookAtSystemSettings();
@@ -154,15 +131,15 @@ TEST_P(SurfaceLabelsTest, noControlOfTheProductIsWithoutALabel) {
 }
 
 TEST_P(SurfaceLabelsTest, noControlOfTheHardwarePanelIsWithoutALabel) {
-  machine().userDefaults.set("appLanguage", std::string(GetParam()));
+  machine.userDefaults.set("appLanguage", std::string(GetParam()));
   application.launch();
-  Hardware hardware(machine(), application);
+  Hardware hardware(machine, application);
   HardwarePanelHost panel(hardware);
   panel.setSize({HardwarePanel::width, 900});
   panel.show(HardwareContent::of(hardware, 0));
   const ui::SemanticsNode tree = panel.host().semantics();
   collectUnlabelled(tree, "hardware", unlabelled);
-  EXPECT_GT(countControls(tree), 15U);
+  EXPECT_GT(findControls(tree).size(), 15U);
   EXPECT_EQ(unlabelled, std::vector<std::string>());
 }
 
@@ -171,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, SurfaceLabelsTest, testing::Values("english"
 using SurfaceLabelsProof = SurfaceLabelsTest;
 
 TEST_F(SurfaceLabelsProof, aControlWithoutALabelIsFound) {
-  machine().process.start();
+  machine.process.start();
   const appkit::HostingView view([](const ui::Environment&) -> ui::View {
     return ui::VStack({ui::Button([] {}, ui::Text("Labelled")),
                        ui::Button([] {}, ui::Symbol("gearshape")),

@@ -20,12 +20,11 @@ struct Line {
 };
 
 TEST(ArgumentsTest, ReadsPositionalWordsInOrder) {
-  const Line line("7 -2.5 \"a b\" on");
+  const Line line("7 -2.5 \"a b\"");
   Arguments arguments = line.arguments();
   EXPECT_EQ(arguments.displayNumber("N"), 7U);
   EXPECT_EQ(arguments.coordinate("X"), -2.5);
   EXPECT_EQ(arguments.text("TEXT"), "a b");
-  EXPECT_TRUE(arguments.onOff("on|off"));
   EXPECT_TRUE(arguments.isEmpty());
   EXPECT_FALSE(arguments.finish());
 }
@@ -47,7 +46,7 @@ TEST(ArgumentsTest, KeepsTheFirstMistake) {
   Arguments arguments = line.arguments();
   EXPECT_EQ(arguments.number("X"), 0);
   EXPECT_EQ(arguments.number("Y"), 0);
-  arguments.complain("something later");
+  arguments.report("something later");
   EXPECT_TRUE(arguments.isWrong());
   EXPECT_EQ(arguments.finish(), "X must be a decimal number, not \"x\"");
 }
@@ -74,43 +73,43 @@ TEST(ArgumentsTest, ComplainsAboutTheSecondOfTwoEqualOptions) {
 }
 
 TEST(ArgumentsTest, ComplainsAboutNumbersOutOfRange) {
-  const auto complaint = [](const std::string& word, auto read) {
+  const auto problem = [](const std::string& word, auto read) {
     const Line line(word);
     Arguments arguments = line.arguments();
     read(arguments);
     return arguments.finish().value_or("");
   };
   const auto integer = [](Arguments& arguments) { arguments.integer("N", 0, 9); };
-  EXPECT_EQ(complaint("10", integer), "N must be a whole number from 0 to 9, not \"10\"");
-  EXPECT_EQ(complaint("-1", integer), "N must be a whole number from 0 to 9, not \"-1\"");
-  EXPECT_EQ(complaint("99999999999999999999", integer),
+  EXPECT_EQ(problem("10", integer), "N must be a whole number from 0 to 9, not \"10\"");
+  EXPECT_EQ(problem("-1", integer), "N must be a whole number from 0 to 9, not \"-1\"");
+  EXPECT_EQ(problem("99999999999999999999", integer),
             "N must be a whole number from 0 to 9, not \"99999999999999999999\"");
   const auto display = [](Arguments& arguments) { arguments.displayNumber("N"); };
-  EXPECT_EQ(complaint("4294967295", display), "");
-  EXPECT_NE(complaint("4294967296", display), "");
+  EXPECT_EQ(problem("4294967295", display), "");
+  EXPECT_NE(problem("4294967296", display), "");
   const auto coordinate = [](Arguments& arguments) { arguments.coordinate("X"); };
-  EXPECT_EQ(complaint("1000000000", coordinate), "");
-  EXPECT_EQ(complaint("1000000000.5", coordinate), "X is too large: \"1000000000.5\"");
+  EXPECT_EQ(problem("1000000000", coordinate), "");
+  EXPECT_EQ(problem("1000000000.5", coordinate), "X is too large: \"1000000000.5\"");
   const auto seconds = [](Arguments& arguments) { arguments.nanoseconds("S", 2'500'000'000); };
-  EXPECT_EQ(complaint("2.5", seconds), "");
-  EXPECT_EQ(complaint("2.500000001", seconds),
+  EXPECT_EQ(problem("2.5", seconds), "");
+  EXPECT_EQ(problem("2.500000001", seconds),
             "S must be from 0 to 2.5 seconds, not \"2.500000001\"");
-  EXPECT_EQ(complaint("-0.1", seconds), "S must be from 0 to 2.5 seconds, not \"-0.1\"");
-  EXPECT_EQ(complaint("soon", seconds), "S must be a decimal number of seconds, not \"soon\"");
+  EXPECT_EQ(problem("-0.1", seconds), "S must be from 0 to 2.5 seconds, not \"-0.1\"");
+  EXPECT_EQ(problem("soon", seconds), "S must be a decimal number of seconds, not \"soon\"");
 }
 
 TEST(ArgumentsTest, ComplainsAboutRectanglesThatAreNone) {
-  const auto complaint = [](const std::string& word) {
+  const auto problem = [](const std::string& word) {
     const Line line(word);
     Arguments arguments = line.arguments();
     arguments.rectangleOption("frame");
     return arguments.finish().value_or("");
   };
-  EXPECT_EQ(complaint("frame=1,2,3"), "frame must be X,Y,W,H, not \"1,2,3\"");
-  EXPECT_EQ(complaint("frame="), "frame must be X,Y,W,H, not \"\"");
-  EXPECT_EQ(complaint("frame=1,2,3,x"), "frame must be a decimal number, not \"x\"");
-  EXPECT_EQ(complaint("frame=1,,3,4"), "frame must be a decimal number, not \"\"");
-  EXPECT_EQ(complaint("from=1,2,3,4"), "frame=X,Y,W,H is missing");
+  EXPECT_EQ(problem("frame=1,2,3"), "frame must be X,Y,W,H, not \"1,2,3\"");
+  EXPECT_EQ(problem("frame="), "frame must be X,Y,W,H, not \"\"");
+  EXPECT_EQ(problem("frame=1,2,3,x"), "frame must be a decimal number, not \"x\"");
+  EXPECT_EQ(problem("frame=1,,3,4"), "frame must be a decimal number, not \"\"");
+  EXPECT_EQ(problem("from=1,2,3,4"), "frame=X,Y,W,H is missing");
 }
 
 TEST(ArgumentsTest, ShowsOnlyTheBeginningOfALongWord) {

@@ -202,10 +202,10 @@ TEST(CommandTest, EveryCommandComesToRest) {
 TEST(CommandTest, APictureIsAskedForAsItIsWritten) {
   std::vector<std::string> requests;
   ScriptProgram::Settings settings;
-  settings.pictureWriter = [&requests](const Session&, const PictureRequest& request) -> Complaint {
+  settings.pictureWriter = [&requests](const Session&, const PictureRequest& request) -> Problem {
     requests.push_back(request.file + "|" + request.surface.value_or("-") + "|" +
                        std::to_string(request.scale));
-    return request.file == "bad" ? Complaint("the disk is full") : std::nullopt;
+    return request.file == "bad" ? Problem("the disk is full") : std::nullopt;
   };
   EXPECT_EQ(runScript("picture a.png\npicture \"b c.png\" menu\npicture d.png scale 2\n"
                       "picture e.png main scale 0.5\n",
@@ -214,9 +214,9 @@ TEST(CommandTest, APictureIsAskedForAsItIsWritten) {
             "");
   EXPECT_EQ(requests, (std::vector<std::string>{"a.png|-|1.000000", "b c.png|menu|1.000000",
                                                 "d.png|-|2.000000", "e.png|main|0.500000"}));
-  EXPECT_EQ(complaintOf("picture bad\n", settings), "picture: the disk is full");
+  EXPECT_EQ(problemOf("picture bad\n", settings), "picture: the disk is full");
   settings.limits.allowsFiles = false;
-  EXPECT_EQ(complaintOf("picture a.png\n", settings), "picture: files must not be written");
+  EXPECT_EQ(problemOf("picture a.png\n", settings), "picture: files must not be written");
 }
 
 }  // namespace

@@ -112,21 +112,21 @@ TEST(ExpectationTest, ReadsTheValueAsItIsWritten) {
 
 TEST(ExpectationTest, PassesTheFirstPartOfThePathToAThingWithAParameter) {
   ScriptProgram::Settings settings;
-  settings.things.add(
+  settings.inspectables.add(
       {.name = "tree",
        .parameter = "SURFACE",
-       .look = [](ScriptContext&, const std::string& surface, Json& shown) -> Complaint {
+       .look = [](ScriptContext&, const std::string& surface, Json& shown) -> Problem {
          shown = {{"role", surface}};
-         return surface == "none" ? Complaint("there is no surface") : std::nullopt;
+         return surface == "none" ? Problem("there is no surface") : std::nullopt;
        },
        .countingMember = {}});
   const ScriptRun run = runScript("show tree main\nexpect tree.main.role \"main\"\n", settings);
   EXPECT_EQ(run.output, "{\"role\":\"main\"}\n");
   EXPECT_EQ(run.errors, "");
-  EXPECT_EQ(complaintOf("expect tree.none.role 1\n", settings), "expect: there is no surface");
-  EXPECT_EQ(complaintOf("show tree none\n", settings), "show: there is no surface");
-  EXPECT_EQ(complaintOf("show tree\n", settings), "show: SURFACE is missing (show THING)");
-  EXPECT_EQ(complaintOf("expect tree {}\n", settings),
+  EXPECT_EQ(problemOf("expect tree.none.role 1\n", settings), "expect: there is no surface");
+  EXPECT_EQ(problemOf("show tree none\n", settings), "show: there is no surface");
+  EXPECT_EQ(problemOf("show tree\n", settings), "show: SURFACE is missing (show THING)");
+  EXPECT_EQ(problemOf("expect tree {}\n", settings),
             "expect: SURFACE is missing after \"tree.\" (expect THING.PATH VALUE)");
 }
 

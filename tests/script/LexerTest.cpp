@@ -11,10 +11,10 @@ namespace {
 
 std::vector<std::string> textsOf(std::string_view line) {
   const LexedLine lexed = lexLine(line);
-  EXPECT_FALSE(lexed.complaint) << *lexed.complaint;
+  EXPECT_FALSE(lexed.problem) << *lexed.problem;
   std::vector<std::string> texts;
   for (const Word& word : lexed.words) {
-    EXPECT_FALSE(word.complaint) << *word.complaint;
+    EXPECT_FALSE(word.problem) << *word.problem;
     texts.push_back(word.text);
   }
   return texts;
@@ -65,31 +65,31 @@ TEST(LexerTest, SaysWhereEachWordStands) {
 
 TEST(LexerTest, ComplainsAboutAnUnknownEscapeInItsWordOnly) {
   const LexedLine lexed = lexLine(R"(expect "\u4e2d\q" "fine")");
-  ASSERT_FALSE(lexed.complaint);
+  ASSERT_FALSE(lexed.problem);
   ASSERT_EQ(lexed.words.size(), 3U);
-  EXPECT_EQ(lexed.words[1].complaint, "an unknown escape at column 9");
-  EXPECT_FALSE(lexed.words[2].complaint);
+  EXPECT_EQ(lexed.words[1].problem, "an unknown escape at column 9");
+  EXPECT_FALSE(lexed.words[2].problem);
 }
 
 TEST(LexerTest, ComplainsAboutAQuoteLeftOpen) {
-  EXPECT_EQ(lexLine("é \"abc").complaint, "a quote is opened at column 3 and not closed");
-  EXPECT_EQ(lexLine(R"("abc\")").complaint, "a quote is opened at column 1 and not closed");
-  EXPECT_EQ(lexLine("\"abc\\").complaint, "a quote is opened at column 1 and not closed");
+  EXPECT_EQ(lexLine("é \"abc").problem, "a quote is opened at column 3 and not closed");
+  EXPECT_EQ(lexLine(R"("abc\")").problem, "a quote is opened at column 1 and not closed");
+  EXPECT_EQ(lexLine("\"abc\\").problem, "a quote is opened at column 1 and not closed");
 }
 
 TEST(LexerTest, ComplainsAboutControlCharacters) {
-  EXPECT_EQ(lexLine(std::string("ab\0c", 4)).complaint, "a control character at column 3");
-  EXPECT_EQ(lexLine("a\x1B[0m").complaint, "a control character at column 2");
-  EXPECT_EQ(lexLine("a\x7F").complaint, "a control character at column 2");
+  EXPECT_EQ(lexLine(std::string("ab\0c", 4)).problem, "a control character at column 3");
+  EXPECT_EQ(lexLine("a\x1B[0m").problem, "a control character at column 2");
+  EXPECT_EQ(lexLine("a\x7F").problem, "a control character at column 2");
 }
 
 TEST(LexerTest, ComplainsAboutMalformedUtf8) {
   for (const char* const malformed :
        {"\x80", "\xC3", "\xC0\xAF", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8",
         "\xE4\xB8", "\xE4\xB8\x41", "\xFF"}) {
-    EXPECT_EQ(lexLine("é" + std::string(malformed)).complaint, "malformed UTF-8 at column 2");
+    EXPECT_EQ(lexLine("é" + std::string(malformed)).problem, "malformed UTF-8 at column 2");
   }
-  EXPECT_FALSE(lexLine("\xED\x9F\xBF \xEE\x80\x80 \xF4\x8F\xBF\xBF \xE0\xA0\x80").complaint);
+  EXPECT_FALSE(lexLine("\xED\x9F\xBF \xEE\x80\x80 \xF4\x8F\xBF\xBF \xE0\xA0\x80").problem);
 }
 
 }  // namespace

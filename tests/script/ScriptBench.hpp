@@ -4,18 +4,18 @@
 
 #include <sstream>
 
+#include "desk/script/InspectableTable.hpp"
 #include "desk/script/Interpreter.hpp"
-#include "desk/script/ThingTable.hpp"
 
 namespace orvane::desk::script {
 
 struct ScriptBench {
   Session session;
-  const ThingTable things = standardThings();
+  const InspectableTable inspectables = standardInspectables();
   const CommandTable commands = standardCommands();
   std::ostringstream output;
   ScriptContext context{.session = session,
-                        .things = things,
+                        .inspectables = inspectables,
                         .output = output,
                         .limits = {},
                         .pictureWriter = {},

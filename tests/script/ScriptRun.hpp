@@ -27,7 +27,7 @@ inline ScriptRun runScript(const std::string& text, ScriptProgram::Settings sett
 }
 
 /// What is wrong with the last line of a script, without its place; empty when nothing is.
-inline std::string complaintOf(const std::string& text, ScriptProgram::Settings settings = {}) {
+inline std::string problemOf(const std::string& text, ScriptProgram::Settings settings = {}) {
   const ScriptRun run = runScript(text, std::move(settings));
   const std::size_t place = run.errors.find(": ");
   if (run.status != ScriptProgram::broken || place == std::string::npos) {

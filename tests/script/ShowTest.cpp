@@ -1,4 +1,4 @@
-// What each thing prints, byte for byte.
+// What `show` prints, byte for byte.
 #include <fstream>
 #include <set>
 #include <sstream>
@@ -146,23 +146,23 @@ TEST(ShowTest, PrintsWhatWasAnnouncedAndNothingThatCannotBeSpoken) {
   EXPECT_EQ(bench.output.str(), "[\"first\",\"Bureau \xC3\xA9\"]\n");
 }
 
-TEST(ShowTest, TheScenarioOfEverythingShowsEachThing) {
+TEST(ShowTest, TheScenarioOfEverythingShowsEachInspectable) {
   std::ifstream file(ORVANE_SOURCE_FOLDER "/tests/scenarios/everything-shown.desk");
   std::set<std::string> shown;
   for (std::string line; std::getline(file, line);) {
     std::istringstream words(line);
     std::string command;
-    std::string thing;
-    words >> command >> thing;
+    std::string inspectable;
+    words >> command >> inspectable;
     if (command == "show") {
-      shown.insert(thing);
+      shown.insert(inspectable);
     }
   }
   std::string list;
-  for (const std::string& thing : shown) {
-    list += (list.empty() ? "" : ", ") + thing;
+  for (const std::string& inspectable : shown) {
+    list += (list.empty() ? "" : ", ") + inspectable;
   }
-  EXPECT_EQ(list, standardThings().names());
+  EXPECT_EQ(list, standardInspectables().names());
 }
 
 TEST(ShowTest, EchoesItsWords) {

@@ -56,8 +56,8 @@ TEST(WindowScriptTest, AnItemOfAPopUpButtonIsPicked) {
              "menu open\npress \"Settings\" in menu\n"
              "pick \"Language\" \"English\" in settings\n"
              "expect model.appLanguage \"english\"\n");
-  EXPECT_EQ(complaintOf(running + "menu open\npress \"Settings\" in menu\n"
-                                  "pick \"Language\" \"Klingon\" in settings\n"),
+  EXPECT_EQ(problemOf(running + "menu open\npress \"Settings\" in menu\n"
+                                "pick \"Language\" \"Klingon\" in settings\n"),
             "pick: there is no item \"Klingon\"");
 }
 
@@ -92,20 +92,20 @@ TEST(WindowScriptTest, QuittingFromTheMenuEndsTheApplication) {
 }
 
 TEST(WindowScriptTest, WhatIsNotThereOrDisabledIsSaid) {
-  EXPECT_EQ(complaintOf(running + "press \"Nothing\"\n"), "press: there is no control \"Nothing\"");
-  EXPECT_EQ(complaintOf(running + "press \"Nothing\" in main\n"),
+  EXPECT_EQ(problemOf(running + "press \"Nothing\"\n"), "press: there is no control \"Nothing\"");
+  EXPECT_EQ(problemOf(running + "press \"Nothing\" in main\n"),
             "press: there is no surface \"main\"");
-  EXPECT_EQ(complaintOf("trust on\nlaunch\nmenu open\n"),
+  EXPECT_EQ(problemOf("trust on\nlaunch\nmenu open\n"),
             "menu open: there is no display with a menu bar");
-  EXPECT_EQ(complaintOf(twoDisplays + "menu open\n"),
+  EXPECT_EQ(problemOf(twoDisplays + "menu open\n"),
             "menu open: there is no status item with a menu");
-  EXPECT_EQ(complaintOf(running + "close settings\n"), "close: there is no surface \"settings\"");
-  EXPECT_EQ(complaintOf(running + "show tree main\n"), "show: there is no surface \"main\"");
+  EXPECT_EQ(problemOf(running + "close settings\n"), "close: there is no surface \"settings\"");
+  EXPECT_EQ(problemOf(running + "show tree main\n"), "show: there is no surface \"main\"");
 }
 
 TEST(WindowScriptTest, ADisabledControlIsSaidToBeSoAndNotPressed) {
   const std::string withoutDisplay = "launch\nreopen\nadvance 1\n";
-  EXPECT_EQ(complaintOf(withoutDisplay + "press \"Pin Dock\" in main\n"),
+  EXPECT_EQ(problemOf(withoutDisplay + "press \"Pin Dock\" in main\n"),
             "press: \"Pin Dock\" in main is disabled");
   const ScriptRun run = runScript(withoutDisplay + "press \"Pin Dock\"\necho not reached\n");
   EXPECT_EQ(run.status, ScriptProgram::broken);
@@ -124,7 +124,7 @@ TEST(WindowScriptTest, OfControlsLabelledAlikeTheOneOfThatNumberIsPressed) {
              "press \"Twin\" in main\nexpect model.selectedDisplayID \"AAAA\"\n"
              "press \"Twin\" nth 2\nexpect model.selectedDisplayID \"BBBB\"\n"
              "press \"Twin\" nth 1\nexpect model.selectedDisplayID \"AAAA\"\n");
-  EXPECT_EQ(complaintOf(twins + "press \"Twin\" in main nth 4\n"),
+  EXPECT_EQ(problemOf(twins + "press \"Twin\" in main nth 4\n"),
             "press: there is no control \"Twin\" in main");
 }
 
@@ -138,13 +138,13 @@ TEST(WindowScriptTest, ThePointerHoversOverWhatIsInSightOfAControlAndNotOverWhat
   // The window of 700 points shows three cards and the beginning of the fourth.
   expectHeld(row + "hover \"Card 4\" in main\nexpect pointer.x 11254.5\n");
   const std::string away = "\"Card 6\" is scrolled out of sight";
-  EXPECT_EQ(complaintOf(row + "hover \"Card 6\" in main\n"), "hover: " + away);
+  EXPECT_EQ(problemOf(row + "hover \"Card 6\" in main\n"), "hover: " + away);
   const ScriptRun run = runScript(row + "hover \"Card 6\"\necho not reached\n");
   EXPECT_EQ(run.status, ScriptProgram::broken);
   EXPECT_EQ(run.errors, "script.desk:11: hover: " + away + "\n");
   EXPECT_EQ(run.output, "");
   expectHeld(row + "hover \"Card 1\" in main\nscroll 600 0\nhover \"Card 6\" in main\n");
-  EXPECT_EQ(complaintOf(row + "hover \"Card 1\" in main\nscroll 600 0\nhover \"Card 1\"\n"),
+  EXPECT_EQ(problemOf(row + "hover \"Card 1\" in main\nscroll 600 0\nhover \"Card 1\"\n"),
             "hover: \"Card 1\" is scrolled out of sight");
   // An accessibility press needs no sight.
   expectHeld(row + "press \"Card 6\" in main\nexpect model.selectedDisplayID \"U6\"\n");
@@ -158,10 +158,10 @@ TEST(WindowScriptTest, WhatAModalWindowKeepsBackIsSaidAndLeftAsItIs) {
        {R"(press "Settings" in main)", R"(pick "Language" "English" in main)", "close main",
         "minimise main", "drag main 30 0", R"(hover "Settings" in main)"}) {
     const std::string verb(command, std::string(command).find(' '));
-    EXPECT_EQ(complaintOf(asked + command + "\n"),
+    EXPECT_EQ(problemOf(asked + command + "\n"),
               verb + ": \"main\" is kept back by a modal window");
   }
-  EXPECT_EQ(complaintOf(asked + "press \"Settings\"\n"), "press: there is no control \"Settings\"");
+  EXPECT_EQ(problemOf(asked + "press \"Settings\"\n"), "press: there is no control \"Settings\"");
   // The alert itself is operated, and what it kept back afterwards.
   expectHeld(asked +
              "drag alert 20 0\nexpect windows.1.frame [740,460,480,400]\n"
@@ -169,10 +169,10 @@ TEST(WindowScriptTest, WhatAModalWindowKeepsBackIsSaidAndLeftAsItIs) {
 }
 
 TEST(WindowScriptTest, AWindowThatCannotBeMinimisedOrDoesNotMoveIsSaidToBeSo) {
-  EXPECT_EQ(complaintOf(running + "menu open\npress \"Settings\" in menu\nminimise settings\n"),
+  EXPECT_EQ(problemOf(running + "menu open\npress \"Settings\" in menu\nminimise settings\n"),
             "minimise: \"settings\" cannot be minimised");
   // The press goes to the menu, which it closes.
-  EXPECT_EQ(complaintOf(running + "reopen\nmenu open\ndrag main 30 0\n"),
+  EXPECT_EQ(problemOf(running + "reopen\nmenu open\ndrag main 30 0\n"),
             "drag: \"main\" did not move");
   expectHeld(running + "reopen\ndrag main 0 0\ndrag main 0 1\ndrag main 1 0\n");
 }

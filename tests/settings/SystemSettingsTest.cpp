@@ -22,19 +22,14 @@ class SystemSettingsTest : public WindowFixture {
   SystemSettingsTest() { moveTo({500, 400}); }
 
   SystemSettings& settings() { return settings_; }
-  std::shared_ptr<DeskWindow> window() { return Surfaces(server()).window("system"); }
+  std::shared_ptr<DeskWindow> window() { return HandFixture::window("system"); }
   void open(const char* link = accessibilityLink) {
     Workspace::openURL(link);
     machine.runDue();
   }
   /// The control of that name, none when there is none.
   std::optional<SurfaceControl> control(const std::string& label) {
-    for (SurfaceControl& found : Surfaces(server()).controls("system")) {
-      if (found.node.label == label) {
-        return std::move(found);
-      }
-    }
-    return std::nullopt;
+    return hand.control(label, "system");
   }
   void clickOn(const std::string& label) {
     const auto found = control(label);

@@ -1,5 +1,5 @@
-// The event path's promises in figures: what a missed event may cost beside the bare loop, and how
-// many movements a second the simulated Mac must carry.
+// Speed limits of the event path: the cost of a missed event compared with the bare loop, and the
+// movements per second of the simulated Mac.
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
@@ -18,7 +18,7 @@ namespace {
 
 constexpr int callsPerRound = 100'000;
 
-/// Nanoseconds per call in the quickest of the rounds: what else the machine does only adds.
+/// Nanoseconds per call in the fastest round, since other load can only slow it down.
 template <typename Call>
 double quickestNanoseconds(const Call& call) {
   using Clock = std::chrono::steady_clock;
@@ -35,12 +35,12 @@ double quickestNanoseconds(const Call& call) {
   return quickest;
 }
 
-/// The compiler must take it that everything in memory may have changed.
+/// Makes the compiler assume that all memory may have changed.
 void clobberMemory() {
   asm volatile("" : : : "memory");
 }
 
-TEST(EventPathSpeed, AMissOverFourZonesCostsAtMostTwiceTheBareLoopAndUnder25Nanoseconds) {
+TEST(EventPathSpeedTest, AMissOverFourZonesCostsAtMostTwiceTheBareLoopAndUnder25Nanoseconds) {
   GuardedDesk desk(4);
   const CGPoint place = desk.placeOutsideZones();
   __CGEvent event{kCGEventMouseMoved, CGEventFlags{}, place};
@@ -53,7 +53,8 @@ TEST(EventPathSpeed, AMissOverFourZonesCostsAtMostTwiceTheBareLoopAndUnder25Nano
   const double before = filterNanoseconds();
 
   std::vector<BareZone> zones;
-  for (const TriggerZone& zone : desk.guard().cachedTriggerZones()) {
+  const GuardSnapshot guard = desk.guard().snapshot();
+  for (const TriggerZone& zone : guard.zones) {
     zones.push_back({CGRectGetMinX(zone.rect), CGRectGetMinY(zone.rect), CGRectGetMaxX(zone.rect),
                      CGRectGetMaxY(zone.rect), zone.nudgeVector.dx, zone.nudgeVector.dy});
   }
@@ -63,7 +64,8 @@ TEST(EventPathSpeed, AMissOverFourZonesCostsAtMostTwiceTheBareLoopAndUnder25Nano
     clobberMemory();
   });
 
-  // Around the bare loop, so that a machine that changes its pace favours neither.
+  // Measured before and after the bare loop, so that a change of the machine's speed favours
+  // neither.
   const double filter = std::min(before, filterNanoseconds());
   RecordProperty("filterNanoseconds", std::to_string(filter));
   RecordProperty("bareNanoseconds", std::to_string(bare));
@@ -71,7 +73,7 @@ TEST(EventPathSpeed, AMissOverFourZonesCostsAtMostTwiceTheBareLoopAndUnder25Nano
   EXPECT_LT(filter, 25);
 }
 
-TEST(EventPathSpeed, TheSimulatedMacCarriesAMillionMovementsASecondThroughAGuardedEdge) {
+TEST(EventPathSpeedTest, TheSimulatedMacCarriesAMillionMovementsASecondThroughAGuardedEdge) {
   GuardedDesk desk(2);
   desk.machine().mouse.moveTo(desk.placeOutsideZones());
   double distance = 3;
@@ -85,7 +87,7 @@ TEST(EventPathSpeed, TheSimulatedMacCarriesAMillionMovementsASecondThroughAGuard
   });
   RecordProperty("inTheOpenNanoseconds", std::to_string(inTheOpen));
   RecordProperty("againstTheEdgeNanoseconds", std::to_string(againstTheEdge));
-  EXPECT_GT(desk.guard().blockedCount(), 1'000'000) << "the edge was guarded all along";
+  EXPECT_GT(desk.guard().snapshot().blockedCount, 1'000'000) << "the edge was guarded all along";
   EXPECT_EQ(desk.machine().dock.revealCount(3), 0);
   EXPECT_LT(inTheOpen, 1000);
   EXPECT_LT(againstTheEdge, 1000);

@@ -1,5 +1,5 @@
-// The view kit's promises in figures: how long a panel of about 150 views takes from a change to
-// its layout, and to be painted whole.
+// Speed limits of the view kit: the time for a panel of about 150 views from a change to its
+// layout, and for painting all of it.
 #include <algorithm>
 #include <ctime>
 #include <limits>
@@ -17,8 +17,7 @@ namespace {
 
 constexpr int rounds = 40;
 
-/// Milliseconds of processor time in the quickest of the rounds: what else the machine does only
-/// adds.
+/// Milliseconds of processor time in the fastest round, since other load can only slow it down.
 template <typename Call>
 double quickestMilliseconds(int callsPerRound, const Call& call) {
   double quickest = std::numeric_limits<double>::infinity();

@@ -1,4 +1,4 @@
-// Replaces every operator new of the executable by one that counts.
+// Replaces every operator new of the executable by a counting one.
 #include "tests/support/AllocationCounter.hpp"
 
 #include <atomic>

@@ -1,5 +1,5 @@
-// AllocationCounter counts what is taken from the heap. A test executable that contains
-// AllocationCounter.cpp has every operator new replaced.
+// AllocationCounter counts heap allocations. A test executable that contains AllocationCounter.cpp
+// has every operator new replaced.
 #pragma once
 
 #include <cstddef>
@@ -13,7 +13,7 @@ class AllocationCounter {
   [[nodiscard]] std::size_t count() const { return total() - atStart_; }
 
  private:
-  /// Of the whole process.
+  /// The allocations of the whole process.
   [[nodiscard]] static std::size_t total();
 
   std::size_t atStart_;

@@ -1,5 +1,5 @@
 // Random arrangements of displays for properties: side by side, overlapping, with small gaps,
-// mirrored, at negative and fractional places.
+// mirrored, at negative and fractional coordinates.
 #pragma once
 
 #include <cstddef>
@@ -31,7 +31,8 @@ inline std::ostream& operator<<(std::ostream& out, const Arrangement& arrangemen
   return out;
 }
 
-/// Where a display is put: beside an earlier one, onto it, or anywhere. Lengths are in cells.
+/// The position of a display: beside an earlier one, mirroring it, or anywhere. Lengths are in
+/// cells.
 struct Placement {
   enum class Kind { below, above, rightOf, leftOf, mirror, anywhere };
   Kind kind;
@@ -68,11 +69,11 @@ inline CGRect placed(const Placement& placement, const std::vector<CGRect>& earl
   return {{anchor.origin.x + slide, anchor.origin.y + points(placement.gap * 16)}, size};
 }
 
-/// Up to six displays of 1 to 60 points; small, so that every cell of every edge can be looked at.
+/// Up to six displays of 1 to 60 points; small, so that every cell of every edge can be examined.
 inline rc::Gen<Arrangement> genArrangement() {
   namespace gen = rc::gen;
   using Kind = Placement::Kind;
-  // The gaps that decide: around half a point and around two points, to either side.
+  // The critical gaps: around half a point and around two points, positive and negative.
   const auto gap =
       gen::oneOf(gen::just(0), gen::element(6, 7, 8, 9, 10, 30, 31, 32, 33, 34, 40, 42),
                  gen::element(-7, -8, -9, -31, -32, -33, -40), gen::inRange(-48, 49));

@@ -8,7 +8,7 @@
 
 namespace orvane {
 
-/// Empty where no file can be read.
+/// Empty when the file cannot be read.
 inline std::string bytesOf(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};

@@ -1,4 +1,4 @@
-// The obviously right, slow answer to where a display's Dock edge is exposed.
+// A slow, obviously correct computation of where a display's Dock edge is exposed.
 #include "tests/support/EdgeOracle.hpp"
 
 #include <algorithm>
@@ -7,7 +7,7 @@ namespace orvane::oracle {
 
 namespace {
 
-// Written out here once more, since the oracle must not share the constants it checks.
+// Repeated here, because the oracle must not share the constants that it checks.
 constexpr double touchingDistance = 2.0;
 constexpr double shortestThatCounts = 0.5;
 
@@ -16,7 +16,8 @@ bool isSameFrame(const CGRect& first, const CGRect& second) {
          first.size.width == second.size.width && first.size.height == second.size.height;
 }
 
-/// The frame turned so that its Dock edge is at the bottom: x runs along the edge and y towards it.
+/// The frame rotated so that its Dock edge is at the bottom: x runs along the edge and y towards
+/// it.
 CGRect turned(const CGRect& frame, DockPosition edge) {
   const CGRect swapped{{frame.origin.y, frame.origin.x}, {frame.size.height, frame.size.width}};
   switch (edge) {

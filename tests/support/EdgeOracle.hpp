@@ -1,5 +1,5 @@
-// The obviously right, slow answer to where a display's Dock edge is exposed: it walks along the
-// edge cell by cell and looks at what lies behind the middle of each.
+// A slow, obviously correct computation of where a display's Dock edge is exposed: it walks along
+// the edge cell by cell and checks what is behind the middle of each.
 #pragma once
 
 #include <span>
@@ -18,7 +18,7 @@ struct Stretch {
 };
 
 /// The longest stretches of [from, to] in which `holds` is true for the middle of every cell.
-/// Everything that decides `holds` must lie on multiples of `cell`.
+/// `holds` may change only at multiples of `cell`.
 template <typename Predicate>
 std::vector<Stretch> stretchesWhere(double from, double to, double cell, Predicate holds) {
   std::vector<Stretch> found;

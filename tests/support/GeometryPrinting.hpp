@@ -1,4 +1,4 @@
-// How test reports show the geometry's plain values.
+// Prints the geometry's values in test reports.
 #pragma once
 
 #include <iomanip>

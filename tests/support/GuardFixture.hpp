@@ -1,5 +1,5 @@
 // GuardFixture gives each test a guard on a trusted machine with two displays side by side, and
-// notes what the guard reports.
+// records the guard's reports.
 #pragma once
 
 #include <cstdint>
@@ -40,7 +40,7 @@ class GuardFixture : public desk::MachineFixture {
     messages.clear();
   }
 
-  /// Where a mouse-moved event comes out that goes in at `location`.
+  /// The final location of a mouse-moved event at `location`.
   CGPoint outcomeOf(CGPoint location, std::uint64_t flags = 0) {
     return machine.mouse.post(location, flags).value();
   }
@@ -62,7 +62,7 @@ class GuardFixture : public desk::MachineFixture {
 
 }  // namespace orvane
 
-// Beside CGPoint, where they are looked for.
+// In CGPoint's namespace, where argument-dependent lookup finds them.
 inline std::ostream& operator<<(std::ostream& out, CGPoint point) {
   return out << std::setprecision(17) << "(" << point.x << ", " << point.y << ")";
 }

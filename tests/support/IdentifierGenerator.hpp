@@ -1,4 +1,4 @@
-// Random language and locale identifiers, most of them nearly right.
+// Random language and locale identifiers, most of them nearly valid.
 #pragma once
 
 #include <numeric>

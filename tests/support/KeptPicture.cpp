@@ -1,4 +1,4 @@
-// Every component of every pixel is compared.
+// Compares every component of every pixel.
 #include "tests/support/KeptPicture.hpp"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
-// MachineFixture gives each test a machine of its own with a running process, and sees at the end
-// that no Core Foundation object is left and that none was misused.
+// MachineFixture gives each test its own machine, with a running process unless it wants none, and
+// checks at the end that no Core Foundation object was leaked or misused.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,8 +8,8 @@
 
 namespace orvane::desk {
 
-/// The end comes when the fixture is destroyed: after the locals of the test and the members of
-/// fixtures derived from this one, so that what they own is released by then.
+/// The check runs when the fixture is destroyed: after the test's locals and the members of derived
+/// fixtures, so that what they own has been released.
 class MachineFixture : public testing::Test {
  public:
   ~MachineFixture() override {
@@ -26,7 +26,13 @@ class MachineFixture : public testing::Test {
   MachineScope scope_;
 
  protected:
-  MachineFixture() { machine.process.start(); }
+  enum class Process { running, none };
+
+  explicit MachineFixture(Process process = Process::running) {
+    if (process == Process::running) {
+      machine.process.start();
+    }
+  }
 
   Machine& machine = scope_.machine();
 };

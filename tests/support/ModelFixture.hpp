@@ -1,5 +1,4 @@
-// ModelFixture gives each test a trusted machine with two displays and the application's state on
-// it, as the running application has it.
+// ModelFixture gives each test a trusted machine with two displays and the application's model.
 #pragma once
 
 #include <cstdint>
@@ -32,7 +31,7 @@ class ModelFixture : public desk::MachineFixture {
     notePrompts();
   }
 
-  /// Creates the state as the application's start does.
+  /// Creates the model as the application does at launch.
   OrvaneModel& launch() {
     model = std::make_unique<OrvaneModel>();
     model->restoreLockIfNeeded();
@@ -50,7 +49,7 @@ class ModelFixture : public desk::MachineFixture {
     model.reset();
     machine.process.end();
   }
-  /// Launched, and the Dock pinned to the laptop.
+  /// Launches and pins the Dock to the laptop.
   OrvaneModel& launchPinned() {
     launch().toggleSelectedDisplayLock();
     machine.runDue();
@@ -67,7 +66,7 @@ class ModelFixture : public desk::MachineFixture {
   }
   void store(std::string_view key, Value value) { machine.userDefaults.set(key, std::move(value)); }
 
-  /// Which keys the action wrote or removed, and how often.
+  /// The keys that the action wrote or removed, with counts.
   template <typename Action>
   Writes writesOf(Action action) {
     const Writes before = writeCounts();
@@ -89,7 +88,7 @@ class ModelFixture : public desk::MachineFixture {
     machine.runDue();
   }
 
-  /// Whether the guard holds another tap than the one that had this identity.
+  /// Whether the tap with this identity still exists.
   [[nodiscard]] bool hasTap(std::uint64_t identity) {
     return machine.eventTaps.find(identity) != nullptr;
   }

@@ -1,5 +1,4 @@
-// The displays that most tests attach: a laptop with its own panel and monitors around it, placed
-// by whole points.
+// The displays of most tests: a laptop and monitors around it, at integer coordinates.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +11,7 @@
 
 namespace orvane::desk {
 
-/// A UUID text that belongs to the display for good, whatever its number.
+/// A UUID text for a display, independent of its number.
 inline std::string uuidNamed(char letter) {
   return std::string("00000000-0000-4000-8000-00000000000") + letter;
 }
@@ -57,7 +56,7 @@ inline void detach(Machine& machine, std::uint32_t number) {
   EXPECT_EQ(machine.displays.detach(number), std::nullopt);
 }
 
-/// Where the Dock keeps its own settings.
+/// The Dock's preference domain.
 inline Preferences::Domain dockDomain() {
   return {.application = Dock::preferencesDomain,
           .user = Preferences::User::current,

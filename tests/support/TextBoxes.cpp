@@ -1,4 +1,4 @@
-// Draws on a canvas that notes texts alone.
+// Draws on a canvas that records only texts.
 #include "tests/support/TextBoxes.hpp"
 
 #include <cstdio>

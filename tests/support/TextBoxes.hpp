@@ -1,4 +1,4 @@
-// Where a view's texts are: to compare what two platforms make of the same view.
+// The boxes of a view's texts, to compare the layout of a view on two platforms.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@
 namespace orvane {
 
 /// One line for each line of text that the host draws: the name, the text and its box (left, top,
-/// width, height, in points to a tenth), with tabs between them. `origin` is the host's place.
+/// width, height, in points to a tenth), separated by tabs. `origin` is the host's position.
 std::string textBoxes(const std::string& name, const ui::ViewHost& host, ui::Point origin,
                       ui::TextMeasurer& measurer);
 

@@ -1,7 +1,7 @@
-"""Proves that every rule of tools/tidy can fail: each catches its samples and passes their twins.
+"""Tests that every rule of tools/tidy can fail: each rejects its bad samples and accepts the good ones.
 
-A sample is a small project in a temporary folder, written here file by file. The marks that no
-file of this project may hold are put together from halves.
+A sample is a small project in a temporary folder. Marks that must not appear in the sources are
+assembled from halves.
 """
 
 import pathlib
@@ -26,7 +26,7 @@ from tidy_rules.project import Project  # noqa: E402
 
 
 def write(folder, files):
-    """Makes the files, path for path, with their texts."""
+    """Writes the files, given as a dictionary from paths to texts."""
     for path, text in files.items():
         target = pathlib.Path(folder, path)
         target.parent.mkdir(parents=True, exist_ok=True)
@@ -34,25 +34,25 @@ def write(folder, files):
 
 
 def tidy(*arguments):
-    """The finished command."""
+    """Runs the command."""
     return subprocess.run([sys.executable, str(TIDY), *map(str, arguments)], capture_output=True,
                           text=True, check=False)
 
 
 class RuleTest(unittest.TestCase):
-    """What the tests of the rules share."""
+    """The base of the tests of the rules."""
 
     rule = None
 
     def findings(self, files):
-        """What the rule finds in a project of these files, as (file, line) pairs."""
+        """The findings of the rule in a project of these files, as (file, line) pairs."""
         with tempfile.TemporaryDirectory() as folder:
             write(folder, files)
             found = rules[self.rule](Project(folder))
             return [(str(file), int(line)) for file, line, _ in found]
 
     def assert_caught(self, files, *expected):
-        """The rule finds what is expected, (file, line) for (file, line), and nothing else."""
+        """Asserts that the rule finds exactly the expected (file, line) pairs."""
         self.assertEqual(self.findings(files), list(expected))
 
     def assert_passed(self, files):
@@ -63,7 +63,7 @@ class ArrowsTest(RuleTest):
     rule = "arrows"
     parts = ["base", "ui", "platform", "geometry", "guard", "permission", "model", "windows",
              "panels", "app"]
-    # Written a second time, from what the house says and not from the tool.
+    # Stated independently of the tool.
     may_include = {
         ("ui", "base"), ("platform", "base"), ("platform", "ui"), ("geometry", "base"),
         ("geometry", "platform"), ("guard", "base"), ("guard", "geometry"), ("guard", "platform"),
@@ -80,7 +80,7 @@ class ArrowsTest(RuleTest):
         return files
 
     def assert_pairs(self, folders, suffix, allowed):
-        """Each folder includes from each; only the allowed pairs go without a finding."""
+        """Asserts that among includes from each folder to each, only the allowed pairs pass."""
         files = {f"{there}{suffix}/There.hpp": HEADER for there in folders}
         expected = []
         for here in folders:
@@ -102,15 +102,15 @@ class ArrowsTest(RuleTest):
             ("tests", "macos"), ("tests", "bench"), ("bench", "Orvane"),
             ("bench", "desk"), ("fuzz", "Orvane"), ("fuzz", "desk")})
 
-    def test_the_language_is_a_leaf_for_everyone(self):
+    def test_every_part_may_include_the_language(self):
         self.assert_passed(self.including("Orvane/geometry/Names.hpp",
                                           "Orvane/model/OrvaneLanguage.hpp"))
 
-    def test_an_unknown_part_must_be_made_known(self):
+    def test_an_unknown_part_is_caught(self):
         self.assert_caught(self.including("Orvane/magic/Here.hpp", "Orvane/base/There.hpp"),
                            ("Orvane/magic/Here.hpp", 4))
 
-    def test_an_include_cannot_hide_behind_another_spelling(self):
+    def test_other_spellings_of_an_include_are_caught(self):
         for line in ('#include "../ui/There.hpp"', "#include <Orvane/ui/There.hpp>",
                      '#import "There.hpp"', '#  include  "Orvane/ui/./There.hpp" // why'):
             with self.subTest(line=line):
@@ -122,7 +122,7 @@ class ArrowsTest(RuleTest):
         self.assert_passed({"Orvane/model/Product.hpp.in": HEADER,
                             "Orvane/model/Model.cpp": '#include "Orvane/model/Product.hpp"\n'})
 
-    def test_an_include_in_a_comment_is_none(self):
+    def test_an_include_in_a_comment_is_ignored(self):
         self.assert_passed({"Orvane/base/Here.hpp":
                             TOP + '// #include "desk/A.hpp"\n/*\n#include "desk/A.hpp"\n*/\n'})
 
@@ -139,12 +139,12 @@ class PlatformConditionsTest(RuleTest):
                 self.assert_passed({"macos/Guard.mm": TOP + line + "\n"})
                 self.assert_passed({"Orvane/guard/Guard.cpp": TOP + "// " + line + "\n"})
 
-    def test_the_seam_has_just_one(self):
-        seam = "Orvane/platform/Quartz.hpp"
+    def test_the_platform_header_has_one_condition(self):
+        header = "Orvane/platform/Quartz.hpp"
         one = "#ifdef __APPLE__\n#else\n#endif\n"
-        self.assert_passed({seam: TOP + one})
-        self.assert_caught({seam: TOP + one + one}, (seam, 5))
-        self.assert_caught({seam: TOP + "#ifdef __linux__\n#endif\n"}, (seam, 2))
+        self.assert_passed({header: TOP + one})
+        self.assert_caught({header: TOP + one + one}, (header, 5))
+        self.assert_caught({header: TOP + "#ifdef __linux__\n#endif\n"}, (header, 2))
 
 
 class WallClockTest(RuleTest):
@@ -164,7 +164,7 @@ class WallClockTest(RuleTest):
                     self.assert_passed({path: TOP + "// " + line + "\n"})
                     self.assert_passed({path: TOP + f'say("{line}");\n'})
 
-    def test_the_frame_pump_and_the_benchmarks_may(self):
+    def test_the_frame_pump_and_the_benchmarks_are_exempt(self):
         line = TOP + "auto now = std::chrono::steady_clock::now();\n"
         self.assert_passed({"desk/window/FramePump.cpp": line, "bench/Filter.cpp": line})
 
@@ -177,7 +177,7 @@ class WallClockTest(RuleTest):
 class ChanceTest(RuleTest):
     rule = "chance"
 
-    def test_chance(self):
+    def test_sources_of_randomness(self):
         for line in ("std::random_device device;", "int lot = rand();", "srand(1);",
                      "auto lot = std::rand();", "arc4random_uniform(6);"):
             with self.subTest(line=line):
@@ -185,7 +185,7 @@ class ChanceTest(RuleTest):
                                    ("desk/machine/Dock.cpp", 2))
                 self.assert_passed({"tests/DockTest.cpp": TOP + line + "\n"})
 
-    def test_words_that_only_look_like_chance(self):
+    def test_words_that_only_look_like_random_functions(self):
         self.assert_passed({"desk/Generator.cpp": TOP + "auto next = generator.rand();\n"
                             "auto brand = operand(1);\n"})
 
@@ -221,7 +221,7 @@ class NamesTest(RuleTest):
             with self.subTest(text=text):
                 self.assert_caught({"desk/Dock.hpp": HEADER + text + "\n"}, ("desk/Dock.hpp", 1))
 
-    def test_a_qualified_name_is_written_in_one(self):
+    def test_a_file_name_joins_a_qualified_name(self):
         self.assert_passed({"macos/appkit/ImageImplementation.hpp":
                             HEADER + "struct Image::Implementation {};\n"})
         self.assert_passed({"tests/ReferenceGuard.hpp":
@@ -229,7 +229,7 @@ class NamesTest(RuleTest):
         self.assert_caught({"tests/ReferenceGuard.hpp": HEADER + "class Guard {};\n"},
                            ("tests/ReferenceGuard.hpp", 1))
 
-    def test_a_header_of_functions_is_named_after_what_they_are_about(self):
+    def test_a_header_of_functions_is_named_after_their_subject(self):
         self.assert_passed({"desk/Text.hpp": HEADER + "std::string trim(std::string text);\n"})
         self.assert_passed({"desk/Text.hpp": HEADER + "struct Line {};\nLine first(int text);\n"})
 
@@ -245,7 +245,7 @@ class NamesTest(RuleTest):
         self.assert_caught({"desk/a/Guard.hpp": header, "desk/b/Guard.cpp": TOP},
                            ("desk/b/Guard.cpp", 1))
 
-    def test_the_seam_s_headers_are_implemented_elsewhere(self):
+    def test_platform_headers_are_implemented_elsewhere(self):
         header = HEADER + "class Screen {};\n"
         self.assert_passed({"Orvane/platform/appkit/Screen.hpp": header,
                             "desk/appkit/Screen.cpp": TOP, "macos/hosting/Screen.mm": TOP})
@@ -265,7 +265,7 @@ class NamesTest(RuleTest):
 class ListingTest(RuleTest):
     rule = "listing"
 
-    def test_a_source_that_nobody_builds(self):
+    def test_a_source_that_is_not_built(self):
         source = "tests/ui/LayoutTest.cpp"
         for text in ("orvane_test(ui LayoutTest.cpp)", "orvane_test(ui\n  LayoutTest.cpp\n)"):
             self.assert_passed({source: TOP, "tests/ui/CMakeLists.txt": text})
@@ -340,7 +340,7 @@ class UnfinishedTest(RuleTest):
                 with self.subTest(mark=mark, path=path):
                     self.assert_caught({path: f"# One line.\n# {mark}\n"}, (path, 2))
 
-    def test_only_the_contract_may_skip_what_a_platform_cannot_arrange(self):
+    def test_only_contract_tests_may_skip(self):
         skip = "// Why.\nGTEST" + "_SKIP();\n"
         self.assert_passed({"tests/contract/Arrange.hpp": skip})
         self.assert_caught({"tests/contract/TimerTest.cpp": skip},
@@ -370,7 +370,7 @@ class AddressesTest(RuleTest):
 
 
 class CommandTest(unittest.TestCase):
-    """What the command says and with which status it ends."""
+    """The output and the exit status of the command."""
 
     def test_one_line_for_each_finding(self):
         with tempfile.TemporaryDirectory() as folder:
@@ -382,31 +382,31 @@ class CommandTest(unittest.TestCase):
             "desk/Dock.hpp:1: opening-comment: does not begin with a comment that says what it is "
             "for"])
 
-    def test_every_rule_is_followed_when_none_is_named(self):
+    def test_all_rules_run_by_default(self):
         with tempfile.TemporaryDirectory() as folder:
             write(folder, {"Orvane/guard/Guard.hpp": "#ifdef A\nclass Gu { unordered_map a; };"})
             result = tidy("--root", folder)
         found = {line.split(": ")[1] for line in result.stdout.splitlines()}
         self.assertLessEqual({"platform-conditions", "names", "order", "opening-comment"}, found)
 
-    def test_nothing_to_say_is_success(self):
+    def test_no_findings_is_success(self):
         with tempfile.TemporaryDirectory() as folder:
             write(folder, {"desk/Dock.hpp": HEADER + "class Dock {};\n"})
             result = tidy("--root", folder)
         self.assertEqual((result.returncode, result.stdout), (0, ""))
 
-    def test_an_empty_folder_is_no_success(self):
+    def test_an_empty_folder_is_an_error(self):
         with tempfile.TemporaryDirectory() as folder:
             self.assertEqual(tidy("--root", folder).returncode, 2)
 
-    def test_every_rule_is_registered_and_proved(self):
+    def test_every_rule_is_registered_and_tested(self):
         listed = {line.split()[0] for line in tidy("--list").stdout.splitlines()}
         text = (HERE / "CMakeLists.txt").read_text(encoding="utf-8")
         registered = set(re.search(r"foreach\(rule ([^)]*)\)", text)[1].split())
-        proved = {test.rule for test in RuleTest.__subclasses__()}
+        tested = {test.rule for test in RuleTest.__subclasses__()}
         self.assertTrue(listed)
         self.assertEqual(registered, listed)
-        self.assertEqual(proved, listed)
+        self.assertEqual(tested, listed)
 
 
 if __name__ == "__main__":

@@ -87,11 +87,11 @@ TEST_F(TourStageTest, TheHandClicksWhatItIsToldTo) {
   stage.click("Settings", Surfaces::menu);
   stage.machine().advance(1);
   stage.pick("Language", "Chinese", "settings");
-  EXPECT_EQ(stage.model().appLanguage().value(), OrvaneLanguage::chinese);
+  EXPECT_EQ(stage.seen().appLanguage, OrvaneLanguage::chinese);
   stage.pressEscape();
   EXPECT_FALSE(Surfaces(WindowServer::current()).isThere("settings"));
   stage.click("固定 Dock", "main");
-  EXPECT_TRUE(stage.model().isGuardRunning());
+  EXPECT_TRUE(stage.seen().guard.isRunning);
   EXPECT_TRUE(stage.isTrue()) << complaints.str();
 }
 

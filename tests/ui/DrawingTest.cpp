@@ -50,6 +50,39 @@ TEST(DrawingTest, aComponentDrawsItsBackgroundThenItsText) {
             "text \"ok\" 10/700 rgba(0 0.478 1 1) at 13 16\n");
 }
 
+TEST(DrawingTest, whatStandsStillStaysOnItsPixelsWhileOtherThingsChange) {
+  // The text stands at fractions of a point: on whole ones while nothing moves it.
+  bool isChanged = false;
+  double shift = 0;
+  TestHost test({100, 50});
+  test.show([&](const Environment&) -> View {
+    return Text("a")
+        .font(Font::system(10))
+        .foreground(isChanged ? Color::red() : Color::black())
+        .opacity(isChanged ? 0.5 : 1)
+        .frame({.maximumWidth = isChanged ? 60.0 : 80.0, .alignment = Alignment::leading()})
+        .padding(Edges{.top = 0.3, .leading = 0.3 + shift})
+        .frame(100, 50, Alignment::topLeading())
+        .animation(Curve::linear(1), isChanged)
+        .animation(Curve::linear(1), shift);
+  });
+  const auto draws = [&test](const std::string& part) {
+    return test.drawing().find(part) != std::string::npos;
+  };
+  EXPECT_TRUE(draws(" at 0 8\n")) << test.drawing();
+  isChanged = true;
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  test.at(0.5);
+  EXPECT_TRUE(draws(" at 0 8\n")) << test.drawing();
+  test.at(1);
+  shift = 10;
+  test.host->invalidate();
+  test.host->layoutIfNeeded();
+  test.at(1.5);
+  EXPECT_TRUE(draws(" at 5.3 7.8\n")) << test.drawing();
+}
+
 TEST(DrawingTest, borderStrokesRunInsideTheirShape) {
   EXPECT_EQ(drawn(RoundedRectangle(12).strokeBorder(Color::black(), 2), {40, 40}),
             "stroke rounded(1 1 38 38 r11 continuous) rgba(0 0 0 1) width 2\n");

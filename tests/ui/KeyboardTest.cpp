@@ -55,6 +55,24 @@ TEST_F(KeyboardTest, disabledAndInvisibleControlsAreSkipped) {
   EXPECT_EQ(focused(), "c");
 }
 
+TEST_F(KeyboardTest, tabPassesOverWhatIsOutOfItsOrder) {
+  test.show(HStack({Button("a", [this] { log += "a"; })
+                        .outOfTabOrder()
+                        .keyboardShortcut(KeyboardShortcut::command("w")),
+                    button("b")}));
+  test.press(Key::tab);
+  EXPECT_EQ(focused(), "b");
+  test.press(Key::tab);
+  EXPECT_EQ(focused(), "b");
+  const auto element = test.element("a");
+  EXPECT_EQ(element->role, Role::button);
+  EXPECT_FALSE(element->isFocusable);
+  EXPECT_FALSE(test.host->focus(element->id));
+  EXPECT_TRUE(test.host->keyDown({Key::character, {false, false, false, true}, "w"}));
+  EXPECT_TRUE(test.host->perform(element->id, SemanticsAction::press));
+  EXPECT_EQ(log, "aa");
+}
+
 TEST_F(KeyboardTest, withoutControlsTabIsNotHandled) {
   test.show(Text("a"));
   EXPECT_FALSE(test.press(Key::tab));

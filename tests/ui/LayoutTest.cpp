@@ -1,4 +1,6 @@
 // Layout with the synthetic font at size 10: a character is 5 wide and 10 high.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/Group.hpp"
@@ -52,6 +54,55 @@ TEST(LayoutTest, aColumnAlignsItsChildrenAcross) {
             "a(5 0 5 10) bbb(0 12 15 10)");
   EXPECT_EQ(framesIn(VStack(2, HorizontalAlignment::trailing, children), 15, 22),
             "a(10 0 5 10) bbb(0 12 15 10)");
+}
+
+// A measurer whose lines are taller for anything but Latin letters.
+class TallScript : public TextMeasurer {
+ public:
+  TextLayout layout(const std::string& text, const Font& font, double maximumWidth,
+                    LineLimit limit) override {
+    TextLayout layout = latin_.layout(text, font, maximumWidth, limit);
+    const bool isTall = std::ranges::any_of(text, [](unsigned char byte) { return byte > 0x7F; });
+    layout.ascent += isTall ? 3 : 0;
+    layout.lineHeight += isTall ? 5 : 0;
+    return layout;
+  }
+
+ private:
+  SyntheticTextMeasurer latin_;
+};
+
+TEST(LayoutTest, linesOfAFixedHeightHaveTheirBaselinesWhereLatinOnesHaveThem) {
+  const auto drawing = [](const std::string& text, const View& view) {
+    TallScript measurer;
+    HostPlatform platform;
+    platform.text = &measurer;
+    ViewHost host(std::move(platform));
+    host.setSize({100, 48});
+    host.setRoot([&](const Environment&) {
+      return view.font(Font::system(10)).frame(100, 48, Alignment::topLeading());
+    });
+    host.layoutIfNeeded();
+    RecordingCanvas canvas;
+    host.paint(canvas, {0, 0, 100, 48});
+    std::vector<std::string> baselines;
+    for (const std::string& line : canvas.lines()) {
+      const std::size_t place = line.find(" at 0 ");
+      if (place != std::string::npos) {
+        baselines.push_back(line.substr(place));
+      }
+    }
+    EXPECT_FALSE(baselines.empty()) << text;
+    return baselines;
+  };
+  const auto baselines = [&](const std::string& text) {
+    return drawing(text, Text(text).lineHeight(14));
+  };
+  // 10 points of font, 7.5 of them above the baseline, in the middle of 14; on whole points.
+  EXPECT_EQ(baselines("a\nb"), (std::vector<std::string>{" at 0 10", " at 0 24"}));
+  EXPECT_EQ(baselines("中\nb"), baselines("a\nb"));
+  EXPECT_EQ(drawing("中", Text("中").lineHeight(0)), drawing("中", Text("中")));
+  EXPECT_NE(drawing("中", Text("中")), drawing("a", Text("a"))) << "else they follow their script";
 }
 
 TEST(LayoutTest, spacersPushTheirNeighboursApart) {

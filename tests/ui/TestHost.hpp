@@ -8,6 +8,7 @@
 #include "Orvane/ui/RecordingCanvas.hpp"
 #include "Orvane/ui/SyntheticTextMeasurer.hpp"
 #include "Orvane/ui/ViewHost.hpp"
+#include "desk/hand/FindControl.hpp"
 
 namespace orvane::ui {
 
@@ -69,7 +70,12 @@ class TestHost {
   // Every text with its frame, in the order of the tree: "a(0 0 5 10) b(5 0 5 10)".
   std::string frames() const {
     std::string result;
-    appendFrames(host->semantics(), result);
+    const auto isText = [](const SemanticsNode& node) { return node.role == Role::staticText; };
+    for (const SemanticsNode& node : desk::findElements(host->semantics(), isText)) {
+      result += (result.empty() ? "" : " ") + node.label + "(" + number(node.frame.x) + " " +
+                number(node.frame.y) + " " + number(node.frame.width) + " " +
+                number(node.frame.height) + ")";
+    }
     return result;
   }
   std::string drawing() const {
@@ -79,7 +85,8 @@ class TestHost {
   }
   // The element with the label, searched in the order of the tree.
   std::optional<SemanticsNode> element(const std::string& label) const {
-    return find(host->semantics(), label);
+    return desk::findElement(host->semantics(),
+                             [&](const SemanticsNode& node) { return node.label == label; });
   }
 
   std::unique_ptr<ViewHost> host;
@@ -95,29 +102,6 @@ class TestHost {
     char buffer[32];
     std::snprintf(buffer, sizeof buffer, "%g", value);
     return buffer;
-  }
-
-  static void appendFrames(const SemanticsNode& node, std::string& result) {
-    if (node.role == Role::staticText) {
-      result += (result.empty() ? "" : " ") + node.label + "(" + number(node.frame.x) + " " +
-                number(node.frame.y) + " " + number(node.frame.width) + " " +
-                number(node.frame.height) + ")";
-    }
-    for (const SemanticsNode& child : node.children) {
-      appendFrames(child, result);
-    }
-  }
-
-  static std::optional<SemanticsNode> find(const SemanticsNode& node, const std::string& label) {
-    if (node.label == label) {
-      return node;
-    }
-    for (const SemanticsNode& child : node.children) {
-      if (auto found = find(child, label)) {
-        return found;
-      }
-    }
-    return std::nullopt;
   }
 
   SyntheticTextMeasurer text_;

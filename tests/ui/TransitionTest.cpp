@@ -112,6 +112,78 @@ TEST_F(TransitionTest, withReducedMotionAViewIsThereOrGoneAtOnce) {
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
 
+// A text that says whether it is shown, each state with an identity of its own.
+class FadeThroughTest : public TransitionTest {
+ protected:
+  void showTexts(const Curve& curve) {
+    test.show([this, curve](const Environment&) -> View {
+      const std::string text = isShown ? "on" : "off";
+      return ZStack({Text(text).transition(Transition::fadeThrough()).id(text)})
+          .animation(curve, isShown);
+    });
+  }
+};
+
+TEST_F(FadeThroughTest, theOldViewIsGoneBeforeTheNewOneComes) {
+  showTexts(Curve::linear(1));
+  setShown(false);
+  test.at(0.125);
+  EXPECT_TRUE(draws("opacity 0.75"));
+  EXPECT_TRUE(draws("text \"on\""));
+  EXPECT_FALSE(draws("text \"off\""));
+  test.at(0.5);
+  EXPECT_FALSE(draws("text"));
+  test.at(0.875);
+  EXPECT_TRUE(draws("opacity 0.75"));
+  EXPECT_FALSE(draws("text \"on\""));
+  EXPECT_TRUE(draws("text \"off\""));
+  test.at(1);
+  EXPECT_FALSE(draws("layer"));
+  EXPECT_TRUE(draws("text \"off\""));
+}
+
+TEST_F(FadeThroughTest, viewsThatTurnRoundAnywhereAreNeverSeenAtOnce) {
+  for (const Curve& curve : {Curve::linear(1), Curve::easeInOut(1), Curve::spring(0.5, 0.6)}) {
+    for (double moment = 0.05; moment < 1; moment += 0.05) {
+      isShown = true;
+      double now = test.host->time() + 10;
+      test.at(now);
+      showTexts(curve);
+      setShown(false);
+      test.at(now += moment);
+      setShown(true);
+      for (int frame = 0; frame < 100; ++frame) {
+        test.at(now += 0.02);
+        EXPECT_FALSE(draws("text \"on\"") && draws("text \"off\"")) << test.drawing();
+      }
+      EXPECT_TRUE(draws("text \"on\""));
+    }
+  }
+}
+
+TEST_F(FadeThroughTest, combinesWithAMovement) {
+  isShown = false;
+  showWith(Transition::move(Edge::trailing).combined(Transition::fadeThrough()));
+  setShown(true);
+  test.at(0.25);
+  EXPECT_FALSE(draws("text \"a\""));
+  test.at(0.75);
+  EXPECT_TRUE(draws("opacity 0.5"));
+  EXPECT_EQ(test.element("a")->frame.x, 47.5 + 5 * 0.25);
+}
+
+TEST_F(TransitionTest, withoutACurveAChangeIsThereAtOnceInsideAnAnimation) {
+  test.show([this](const Environment&) -> View {
+    const View text = Text("a").font(Font::system(10)).padding(Edge::leading, isShown ? 0 : 40);
+    return ZStack({text.animation(std::nullopt, isShown)})
+        .frame(100, 50, Alignment::leading())
+        .animation(Curve::linear(1), isShown);
+  });
+  EXPECT_EQ(test.element("a")->frame.x, 0);
+  setShown(false);
+  EXPECT_EQ(test.element("a")->frame.x, 40);
+}
+
 TEST_F(TransitionTest, aLeavingLayerStaysWhereItWas) {
   test.show([&](const Environment&) -> View {
     const View badge = Text("a").font(Font::system(10)).transition(Transition::opacity());
@@ -121,7 +193,7 @@ TEST_F(TransitionTest, aLeavingLayerStaysWhereItWas) {
   });
   setShown(false);
   test.at(0.5);
-  EXPECT_TRUE(draws("at 95 7.5")) << test.drawing();
+  EXPECT_TRUE(draws("at 95 8")) << test.drawing();
 }
 
 TEST_F(TransitionTest, aLeavingButtonTakesNoClick) {

@@ -1,5 +1,5 @@
 // Opens every window and the menu of the real application in both languages and both appearances,
-// and leaves a picture of each. Usage: OrvaneWalk FOLDER. Ends with 1 when something did not open.
+// and saves a picture of each. Usage: OrvaneWalk FOLDER. Exits with 1 if something did not open.
 #import <AppKit/AppKit.h>
 
 #include <cstdio>
@@ -41,7 +41,7 @@ NSStatusBarButton* statusButton() {
   return nil;
 }
 
-/// As its user does; a modal session ends with its window.
+/// Closes the window as its user would; a modal session ends with its window.
 void closeWindow(NSString* identifier) {
   for (NSWindow* window in NSApplication.sharedApplication.windows.copy) {
     if (window.visible && [window.identifier hasSuffix:identifier]) {
@@ -50,8 +50,8 @@ void closeWindow(NSString* identifier) {
   }
 }
 
-/// One step after another, each time when what the last one opened has come to rest. The timer goes
-/// on while the alert is modal and while the menu is open.
+/// Performs one step after another, with a pause in which animations end. The timer also fires
+/// while the alert is modal and while the menu is open.
 class Walk {
  public:
   explicit Walk(NSString* folder)
@@ -114,12 +114,12 @@ class Walk {
       guide().close();
     });
     steps_.push_back([this] {
-      // It tracks the pointer in a loop of its own, which the timer must not be in.
+      // The menu has its own tracking loop, which must not run inside a callback of the timer.
       appkit::MainQueue::async([this] {
         if (NSStatusBarButton* const button = statusButton(); button != nil) {
           [button performClick:nil];
         } else {
-          [pictures_ fail:@"there is no item in the menu bar"];
+          [pictures_ fail:@"the menu bar has no item"];
         }
       });
     });

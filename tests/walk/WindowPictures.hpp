@@ -1,20 +1,20 @@
-// Pictures of the application's own windows and menu rows, drawn by themselves: nobody needs to be
-// allowed to record the screen for them.
+// Pictures of the application's own windows and menu rows. The views draw them themselves, so no
+// permission to record the screen is needed.
 #pragma once
 
 #import <AppKit/AppKit.h>
 
-/// Main thread only. Beside the pictures it leaves a list of all texts and their places,
-/// layout.txt.
+/// Main thread only. Besides the pictures, writes layout.txt, a list of all texts and their frames.
 @interface OrvaneWindowPictures : NSObject
 
 - (nonnull instancetype)initWithFolder:(nonnull NSString*)folder;
 
-/// Of the visible window whose identifier ends so; says on the error stream when there is none.
+/// Takes a picture of the visible window whose identifier has this suffix; a missing window is a
+/// failure.
 - (void)takeWindow:(nonnull NSString*)identifier as:(nonnull NSString*)name;
-/// Of all the views in the menu, one below the other.
+/// Takes a picture of each view in the menu.
 - (void)takeMenu:(nonnull NSMenu*)menu as:(nonnull NSString*)name;
-/// What went wrong is counted, and so is each picture.
+/// Prints and counts a failure.
 - (void)fail:(nonnull NSString*)text;
 
 @property(readonly) NSInteger pictureCount;

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// A picture of one colour shows nothing.
+/// Whether the picture has more than one colour.
 bool showsSomething(NSBitmapImageRep* picture) {
   NSColor* const first = [picture colorAtX:picture.pixelsWide / 2 y:picture.pixelsHigh / 2];
   constexpr NSInteger steps = 64;

@@ -1,18 +1,18 @@
 #!/usr/bin/env python3
-"""Compares where the walk found each window's texts with the kept list of the simulated Mac's.
+"""Compares the text positions that the walk found with the stored list of the simulated Mac.
 
 Usage: compare_layout.py KEPT WALKED
-In both languages and appearances every text has to be there, in the same order, with its box within
+In both languages and appearances every text must be present, in the same order, with its box within
 two points.
 """
 
 import sys
 
-MOST_POINTS = 2
+MAXIMUM_POINTS = 2
 
 
 def read(path):
-    """By the name of the window: pairs of text and box."""
+    """Pairs of text and box, by window name."""
     windows = {}
     with open(path, encoding="utf-8") as file:
         for line in file:
@@ -22,7 +22,7 @@ def read(path):
 
 
 def differences(kept, walked):
-    """What differs, in words."""
+    """Descriptions of the differences."""
     if not walked:
         yield "the walk has found no window"
     for name, found in walked.items():
@@ -32,7 +32,7 @@ def differences(kept, walked):
             yield f"{name}: {[text for text, _ in found]} instead of {[text for text, _ in expected]}"
             continue
         for (text, box), (_, kept_box) in zip(found, expected):
-            if max(abs(a - b) for a, b in zip(box, kept_box)) > MOST_POINTS:
+            if max(abs(a - b) for a, b in zip(box, kept_box)) > MAXIMUM_POINTS:
                 yield f"{name}: {text} at {box} instead of {kept_box}"
     missing = {f"{name[:2]}-{appearance}{name[2:]}" for name in kept
                for appearance in ("light", "dark")} - set(walked)

@@ -33,7 +33,7 @@ TEST_F(DeskSessionTest, LetsTheDockFollowThePointerUntilItIsPinned) {
   pinOrUnpin();
   pressRightDisplay(30);
   EXPECT_EQ(dockDisplay(), 1U);
-  EXPECT_EQ(session.application().model().guardService().blockedCount(), 30);
+  EXPECT_EQ(session.application().snapshot().guard.blockedCount, 30);
 }
 
 TEST_F(DeskSessionTest, MarksAMovementThatWasMovedBackForAShortTime) {
@@ -91,26 +91,26 @@ TEST_F(DeskSessionTest, ChangesByItselfOnlyWhileSomethingMovesOrSomethingIsDue) 
 }
 
 TEST_F(DeskSessionTest, KeysGoToTheOpenMenuAndToTheKeyWindow) {
-  EXPECT_FALSE(session.keyDown({ui::Key::down, {}, {}})) << "nobody is there";
+  EXPECT_FALSE(session.hand().key({ui::Key::down, {}, {}})) << "nobody is there";
   WindowServer& server = WindowServer::current();
   ASSERT_TRUE(server.menus.openStatusMenu(0));
   for (int time = 0; time < 3; ++time) {
-    EXPECT_TRUE(session.keyDown({ui::Key::down, {}, {}}));
+    EXPECT_TRUE(session.hand().key({ui::Key::down, {}, {}}));
   }
-  EXPECT_TRUE(session.keyDown({ui::Key::space, {}, {}}));
+  EXPECT_TRUE(session.hand().key({ui::Key::space, {}, {}}));
   EXPECT_TRUE(session.application().model().isGuardRunning());
-  EXPECT_TRUE(session.keyDown({ui::Key::escape, {}, {}}));
+  EXPECT_TRUE(session.hand().key({ui::Key::escape, {}, {}}));
   EXPECT_FALSE(server.menus.isOpen());
-  EXPECT_FALSE(session.keyDown({ui::Key::escape, {}, {}})) << "now it gives the mouse back";
+  EXPECT_FALSE(session.hand().key({ui::Key::escape, {}, {}})) << "now it gives the mouse back";
   session.application().reopen();
-  EXPECT_TRUE(session.keyDown({ui::Key::tab, {}, {}}));
+  EXPECT_TRUE(session.hand().key({ui::Key::tab, {}, {}}));
 }
 
 TEST_F(DeskSessionTest, TheButtonOpensTheMenuUnderThePointer) {
   const CGRect item = StatusBar::itemFrame(session.machine().displays.globalFrames()[1]);
   moveTo(CGRectGetMidX(item), CGRectGetMidY(item));
-  session.pressButton();
-  session.releaseButton();
+  session.hand().pressButton();
+  session.hand().releaseButton();
   EXPECT_TRUE(WindowServer::current().menus.isStatusMenuOpen());
   EXPECT_EQ(WindowServer::current().menus.displayIndex(), 1U);
 }

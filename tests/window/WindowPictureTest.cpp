@@ -1,24 +1,12 @@
 // When the window is drawn anew, and when not.
 #include <functional>
 
+#include "desk/hand/FindControl.hpp"
 #include "desk/window/WindowPicture.hpp"
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::desk {
 namespace {
-
-/// The middle of the control with that label.
-std::optional<ui::Point> placeOf(const ui::SemanticsNode& node, const std::string& label) {
-  if (node.label == label) {
-    return node.frame.center();
-  }
-  for (const ui::SemanticsNode& child : node.children) {
-    if (const auto place = placeOf(child, label)) {
-      return place;
-    }
-  }
-  return std::nullopt;
-}
 
 class WindowPictureTest : public SessionFixture {
  protected:
@@ -78,12 +66,12 @@ TEST_F(WindowPictureTest, IsOutdatedByEveryChangeOfTheHardware) {
 
 TEST_F(WindowPictureTest, IsOutdatedByAPressOnAControlOfThePanel) {
   draw();
-  const auto place = placeOf(panel.host().semantics(), "Show trigger zones");
-  ASSERT_TRUE(place);
-  panel.pointerMoved(*place);
+  const auto control = findControl(panel.host().semantics(), "Show trigger zones");
+  ASSERT_TRUE(control);
+  panel.pointerMoved(control->frame.center());
   draw();
-  panel.pointerDown(*place);
-  panel.pointerUp(*place);
+  panel.pointerDown(control->frame.center());
+  panel.pointerUp(control->frame.center());
   EXPECT_TRUE(isOutdated());
   EXPECT_FALSE(session.hardware().showsZones());
 }

@@ -27,7 +27,7 @@ class MenuTrackerTest : public WindowFixture {
     made.view = view;
     return made;
   }
-  /// As the last item.
+  /// Appends an item.
   void add(MenuItem made) { menu.insertItem(count++, std::move(made)); }
   void clear() {
     while (count > 0) {
@@ -67,15 +67,15 @@ TEST_F(MenuTrackerTest, ItOpensOnTheDisplayThatWasClicked) {
   EXPECT_LE(CGRectGetMaxX(server().menus.frame()), 2000);
 }
 
-TEST_F(MenuTrackerTest, WhatIsToldThatItOpensMayFillIt) {
-  int told = 0;
+TEST_F(MenuTrackerTest, TheWillOpenCallbackMayFillTheMenu) {
+  int openings = 0;
   menu.onWillOpen([&] {
-    ++told;
+    ++openings;
     clear();
     add(row("Fresh", [] {}));
   });
   clickItem();
-  EXPECT_EQ(told, 1);
+  EXPECT_EQ(openings, 1);
   ASSERT_EQ(server().menus.rows().size(), 1U);
   EXPECT_EQ(Surfaces(server()).controls("menu").front().node.label, "Fresh");
 }
@@ -162,7 +162,7 @@ TEST_F(MenuTrackerTest, AnItemThatChangesKeepsItsViewAndTheMenuOpen) {
   EXPECT_FALSE(server().menus.choose(0));
 }
 
-TEST_F(MenuTrackerTest, AClickOutsideClosesTheMenuAndReachesNobody) {
+TEST_F(MenuTrackerTest, AClickOutsideClosesTheMenuAndIsConsumed) {
   int clicks = 0;
   appkit::Window window = makeWindow({0, 0});
   window.setContentView(hosting(wideButton("Button", [&] { ++clicks; })));
@@ -249,8 +249,7 @@ TEST_F(MenuTrackerTest, TypingFindsTheNextItemThatBeginsSo) {
   add(disabled);
   clickItem();
   const auto type = [&](const std::string& characters) {
-    server().keyDown({ui::Key::character, {}, characters});
-    machine.runDue();
+    hand.key({ui::Key::character, {}, characters});
   };
   type("p");
   EXPECT_EQ(server().menus.highlighted(), 0U);

@@ -1,4 +1,4 @@
-// Modal sessions: what they keep back, and when they end.
+// Modal sessions: what they block, and when they end.
 #include "Orvane/platform/appkit/MainQueue.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
 #include "tests/windows/WindowFixture.hpp"
@@ -77,7 +77,7 @@ TEST_F(ModalSessionsTest, TheFirstResponseCountsAndStoppingWithoutASessionDoesNo
   EXPECT_EQ(responses, std::vector<int>{2});
 }
 
-TEST_F(ModalSessionsTest, OtherWindowsHearOfNothing) {
+TEST_F(ModalSessionsTest, OtherWindowsReceiveNothing) {
   int otherClicks = 0;
   int panelClicks = 0;
   Window other = makeWindow({300, 0}, "other");

@@ -1,4 +1,4 @@
-// The two panels: their attributes, where they are placed, and how they come and go together.
+// The two panels: their attributes, their positions, and how they open and close together.
 #include <functional>
 #include <memory>
 #include <string>
@@ -41,9 +41,7 @@ class OrvaneWindowControllerTest : public desk::WindowFixture {
     controller().showSettings(model);
     machine.runDue();
   }
-  std::shared_ptr<desk::DeskWindow> shown(const std::string& surface) {
-    return desk::Surfaces(server()).window(surface);
-  }
+  std::shared_ptr<desk::DeskWindow> shown(const std::string& surface) { return window(surface); }
   [[nodiscard]] static CGPoint originOf(const appkit::Window& window) {
     return window.frame().origin;
   }

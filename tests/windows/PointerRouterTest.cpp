@@ -1,4 +1,4 @@
-// Where the pointer's movements, clicks and drags go.
+// The routing of the pointer's movements, clicks and drags.
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {

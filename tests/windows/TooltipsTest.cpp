@@ -1,4 +1,4 @@
-// Hints come when the pointer rests, and go.
+// Tooltips appear when the pointer rests, and disappear.
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {

@@ -1,5 +1,5 @@
-// WindowFixture gives each test a machine with two displays and a window server, and hands to move
-// and click with.
+// WindowFixture gives each test a machine with two displays, a window server, and functions that
+// operate mouse and keyboard.
 #pragma once
 
 #include <functional>
@@ -14,15 +14,13 @@
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
 #include "desk/windows/Implementations.hpp"
-#include "desk/windows/Surfaces.hpp"
-#include "desk/windows/WindowServer.hpp"
-#include "tests/support/MachineFixture.hpp"
+#include "tests/support/HandFixture.hpp"
 
 namespace orvane::desk {
 
 /// Two displays of 1000 by 800 points side by side; the pointer is at rest in a corner of the
 /// second one.
-class WindowFixture : public MachineFixture {
+class WindowFixture : public HandFixture {
  protected:
   WindowFixture() {
     Display left;
@@ -36,10 +34,7 @@ class WindowFixture : public MachineFixture {
     machine.mouse.moveTo({1990, 400});
   }
 
-  WindowServer& server() { return WindowServer::current(); }
-
-  /// A window with its origin there, of 200 by 100 points, in window-system coordinates. It can
-  /// become key.
+  /// A window of 200 by 100 points at `origin`, in window-system coordinates. It can become key.
   static appkit::Window makeWindow(CGPoint origin, const std::string& name = "NSWindow",
                                    appkit::WindowKind kind = appkit::WindowKind::window,
                                    std::uint64_t styleMask = 0) {
@@ -52,7 +47,7 @@ class WindowFixture : public MachineFixture {
   static appkit::HostingView hosting(const ui::View& view) {
     return appkit::HostingView([view](const ui::Environment&) { return view; });
   }
-  /// A button that fills what it is shown in.
+  /// A button that fills its host.
   static ui::View wideButton(const std::string& title, std::function<void()> action) {
     return ui::Button(std::move(action), ui::Text(title).frame({.maximumWidth = ui::infinity,
                                                                 .maximumHeight = ui::infinity}))
@@ -68,33 +63,9 @@ class WindowFixture : public MachineFixture {
     return names;
   }
 
-  void moveTo(CGPoint place) {
-    machine.mouse.moveTo(place);
-    machine.runDue();
-  }
   void press(CGPoint place) {
-    moveTo(place);
-    machine.mouse.pressButton();
-    machine.runDue();
-  }
-  void release() {
-    machine.mouse.releaseButton();
-    machine.runDue();
-  }
-  void click(CGPoint place) {
-    press(place);
-    release();
-  }
-  bool key(ui::Key name) {
-    const bool isTaken = server().keyDown({name, {}, {}});
-    machine.runDue();
-    return isTaken;
-  }
-  bool command(const std::string& character) {
-    const bool isTaken =
-        server().keyDown({ui::Key::character, {false, false, false, true}, character});
-    machine.runDue();
-    return isTaken;
+    hand.moveTo(place);
+    hand.pressButton();
   }
 
  private:

@@ -17,7 +17,7 @@ class WindowFocusTest : public WindowFixture {
   }
 };
 
-TEST_F(WindowFocusTest, ABorderlessWindowRefusesToBecomeKeyUnlessTold) {
+TEST_F(WindowFocusTest, ABorderlessWindowRefusesToBecomeKeyUnlessAllowed) {
   Window window = plain(WindowKind::window, appkit::StyleMask::borderless);
   window.makeKeyAndOrderFront();
   EXPECT_TRUE(window.isVisible());
@@ -75,7 +75,7 @@ TEST_F(WindowFocusTest, AClickOnTheDesktopTakesTheKeyUntilTheApplicationIsActive
   EXPECT_TRUE(window.isKeyWindow());
 }
 
-TEST_F(WindowFocusTest, APanelHidesWhileTheApplicationIsNotActiveUnlessTold) {
+TEST_F(WindowFocusTest, APanelHidesWhileTheApplicationIsInactiveUnlessConfigured) {
   Window hiding = plain(WindowKind::panel, appkit::StyleMask::titled);
   Window staying = plain(WindowKind::panel, appkit::StyleMask::titled);
   staying.setHidesOnDeactivate(false);

@@ -1,4 +1,4 @@
-// The order in which windows lie above each other.
+// The z-order of windows.
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {
@@ -57,7 +57,7 @@ TEST_F(WindowListTest, AFloatingPanelGetsTheFloatingLevelUntilAnotherIsSet) {
   EXPECT_EQ(panel.implementation()->level, 25);
 }
 
-TEST_F(WindowListTest, WhileTheApplicationIsNotActiveItsWindowsComeBehindOthersUnlessTheyInsist) {
+TEST_F(WindowListTest, AnInactiveApplicationsWindowsAreOrderedBehindOthersUnlessForced) {
   auto system = makeWindow({0, 0}, "system");
   system.implementation()->owner = WindowOwner::system;
   auto own = makeWindow({0, 0}, "own");

@@ -1,4 +1,4 @@
-// Placing, moving, closing, and what the end of a process or a display leaves.
+// Placing, moving and closing windows, and the end of a process or a display.
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {
@@ -32,7 +32,7 @@ TEST_F(WindowServerTest, ChildrenFollowTheirParentAndTheirOwnChildrenFollowToo) 
   EXPECT_TRUE(parent.childWindows().empty());
 }
 
-TEST_F(WindowServerTest, AClosedChildIsNoChildAnyMore) {
+TEST_F(WindowServerTest, AClosedChildIsRemovedFromItsParent) {
   Window parent = makeWindow({100, 100});
   Window child = makeWindow({150, 120});
   parent.orderFrontRegardless();
@@ -81,7 +81,7 @@ TEST_F(WindowServerTest, ClosingAgainFromWithinTheCallbackDoesNotCallItAgain) {
   EXPECT_EQ(calls, 1);
 }
 
-TEST_F(WindowServerTest, AShownWindowLivesWithoutAHandle) {
+TEST_F(WindowServerTest, AShownWindowOutlivesItsHandle) {
   {
     Window window = makeWindow({0, 0}, "kept");
     window.orderFrontRegardless();
@@ -116,7 +116,7 @@ TEST_F(WindowServerTest, AWindowWhoseDisplayGoesComesToAnother) {
   EXPECT_TRUE(window.screen().has_value());
 }
 
-TEST_F(WindowServerTest, TheEndOfTheProcessTakesItsWindowsWithoutAWordButLeavesTheSystems) {
+TEST_F(WindowServerTest, TheEndOfTheProcessClosesItsWindowsSilentlyAndKeepsTheSystems) {
   int calls = 0;
   Window window = makeWindow({0, 0}, "own");
   window.onWillClose([&] { ++calls; });
@@ -129,17 +129,17 @@ TEST_F(WindowServerTest, TheEndOfTheProcessTakesItsWindowsWithoutAWordButLeavesT
   EXPECT_EQ(order(), "system");
 }
 
-TEST_F(WindowServerTest, TerminatingTellsTheDelegateOnceAndEndsTheProcessAfterwards) {
-  int told = 0;
+TEST_F(WindowServerTest, TerminatingNotifiesTheDelegateOnceAndThenEndsTheProcess) {
+  int calls = 0;
   appkit::Application::setDelegate({.didFinishLaunching = {},
                                     .shouldHandleReopen = {},
                                     .performKeyEquivalent = {},
-                                    .willTerminate = [&] { ++told; }});
+                                    .willTerminate = [&] { ++calls; }});
   appkit::Application::terminate();
   appkit::Application::terminate();
   EXPECT_TRUE(machine.process.isRunning());
   machine.runDue();
-  EXPECT_EQ(told, 1);
+  EXPECT_EQ(calls, 1);
   EXPECT_FALSE(machine.process.isRunning());
 }
 

@@ -1,4 +1,4 @@
-"""The rules of the house, by name. A rule takes a Project and yields (file, line, text)."""
+"""The project's rules, by name. A rule takes a Project and yields (file, line, text)."""
 
 from . import arrows, comments, conditions, formatting, listing, names, patterns, size
 

@@ -1,9 +1,9 @@
-"""Who may include whom."""
+"""Which part may include which."""
 
 import re
 
-# For each part of Orvane/ the parts that it may include besides itself. base is for everyone, and
-# so is the one leaf below. Windows and panels are the platform's, so they see the seam.
+# For each part of Orvane/, the other parts that it may include. Every part may include base and the
+# header FOR_EVERYONE. Windows and panels use the platform, so they may include platform/.
 ALLOWED = {
     "base": set(),
     "ui": set(),
@@ -19,7 +19,7 @@ ALLOWED = {
 }
 FOR_EVERYONE = {"Orvane/model/OrvaneLanguage.hpp"}
 
-# For each first folder the others that it may include.
+# For each top folder, the others that it may include.
 TOPS = {
     "Orvane": set(),
     "desk": {"Orvane"},

@@ -1,4 +1,4 @@
-"""Every file says at its top what it is for."""
+"""Every file begins with a comment on its purpose."""
 
 STARTS = {
     ".hpp": ("//",), ".cpp": ("//",), ".mm": ("//",),

@@ -1,15 +1,15 @@
-"""The code looks as clang-format 14 lays it out."""
+"""The code is formatted with clang-format 14."""
 
 import re
 import shutil
 import subprocess
 
-# Enough files per call that the start of the program does not count.
+# Enough files per call that the program's start-up time is negligible.
 BATCH = 64
 
 
 def check(project):
-    """Every C++ file is as clang-format 14 writes it."""
+    """Every C++ file is formatted with clang-format 14."""
     program = _program()
     if not program:
         yield "tools/tidy", 1, "clang-format 14 is not installed"

@@ -1,4 +1,4 @@
-"""Every source is built: a test that nobody compiles cannot fail."""
+"""Every source is built: a test that is not compiled cannot fail."""
 
 import posixpath
 import re

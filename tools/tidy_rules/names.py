@@ -2,15 +2,15 @@
 
 import re
 
-# Headers that are not named after one type, and why.
+# Headers that are not named after a type, and why.
 EXCEPTIONS = {
     "Orvane/platform/Quartz.hpp": "the platform's own words, which are not ours to rename",
     "desk/machine/Event.hpp": "declares the platform's __CGEvent",
     "desk/canvas/CairoPointers.hpp": "owners of a library's objects, one name for each kind",
 }
-# Where the headers are that any folder of a platform may implement.
+# The headers that any folder of a platform may implement.
 SEAM_HEADERS = "Orvane/platform/appkit"
-# These folders implement functions that the platform or its compiler declares, a group per file.
+# Folders that implement functions declared by the platform or its compiler, one group per file.
 FOREIGN_FOLDERS = {"desk/quartz", "macos/quartz", "macos/runtime"}
 ENTRY_POINTS = {"main", "Main"}
 
@@ -18,7 +18,7 @@ _TYPE = re.compile(
     r"^[ \t]*(?:template\s*<[^;{]*>\s*)?(?P<kind>class|struct|union|enum(?:\s+(?:class|struct))?)\s+"
     r"(?:\[\[[^\]]*\]\]\s*)?(?P<name>\w+(?:::\w+)*)\b(?!\s*;)|^using\s+(?P<alias>\w+)\s*=", re.MULTILINE)
 _NAMESPACE = re.compile(r"^\s*namespace\s+(?P<path>[\w:]+)\s*\{", re.MULTILINE)
-# A function outside of a type: it begins in the first column.
+# A function outside of a type begins in the first column.
 _FUNCTION = re.compile(r"^(?!(?:class|struct|union|enum|using|namespace|typedef|template|extern)\b)"
                        r"[\w\[][^;{}()=]*\b\w+\(", re.MULTILINE)
 _TEST = re.compile(r"^\s*(?:TYPED_)?TEST(?:_[FP])?\(|^\s*RC_GTEST_(?:FIXTURE_)?PROP\(", re.MULTILINE)
@@ -46,13 +46,13 @@ def _check_header(file):
     declared = {(match["name"] or match["alias"]).replace("::", "") for match in types}
     spaces = {match["path"].split("::")[-1] for match in _NAMESPACE.finditer(code)}
     names = declared | spaces | {space.capitalize() + name for space in spaces for name in declared}
-    # A family goes by its common name: HStack and VStack in Stack.hpp.
+    # A family is named after what its members share: HStack and VStack in Stack.hpp.
     stems = {file.path.stem, file.path.stem.removesuffix("s")}
     if not declared or any(name.startswith(stem) or name.endswith(stem)
                            for name in names for stem in stems):
         return
-    # Functions, with the plain values that they take and return, are named after what they are
-    # about; a class never hides among them.
+    # A header of functions, with the plain values that they take and return, is named after its
+    # subject; it must not declare a class.
     if _FUNCTION.search(code) and not any(match["kind"] == "class" for match in types):
         return
     yield file, 1, f"declares {', '.join(sorted(declared))} but no {file.path.stem}"

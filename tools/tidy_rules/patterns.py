@@ -1,4 +1,4 @@
-"""Words that must not be in the code or in any file, each with the reason why."""
+"""Patterns that must not occur in the code, or in any file, each with the reason."""
 
 import re
 
@@ -15,17 +15,18 @@ _WALL_CLOCK = re.compile(
 _CHANCE = re.compile(r"\brandom_device\b|(?<![\w.>])(?:std::|::)?s?rand(?:om)?\s*\(|\bdrand48\b"
                      r"|\barc4random\w*|\bgetentropy\b|\bgetrandom\b")
 _UNORDERED = re.compile(r"\bunordered_(?:multi)?(?:set|map)\b")
-# Written so that the patterns do not find themselves.
+# Written so that the pattern does not match itself.
 _UNFINISHED = re.compile(r"\b(?:TO[D]O|FIX[M]E|XX[X]|HA[C]K)\b|\bDISABL[E]D_|\bGTEST_SK[I]P\b"
                          r"|\bnot (?:yet )?implement[e]d\b")
-# Where a test may be skipped: a real Mac lets nobody take its permissions or displays away.
+# The only place where a test may be skipped: a test cannot revoke a real Mac's permissions or
+# detach its displays.
 _MAY_SKIP = "tests/contract/Arrange.hpp"
 _MACHINE_PATH = re.compile(r"(?<![\w.~/$}])/(?:home|Users|root|work|mnt|media)/[\w.-]+")
 _ADDRESS = re.compile(r"\b(?:https?|ftp|git)://(?P<host>[\w-]+(?:\.[\w-]+)+)")
-# Names that stand for no machine, documents that we point to, and names of formats.
+# Placeholder hosts, documents that the project links to, and identifiers of formats.
 _KNOWN_HOSTS = re.compile(r"(?:.*\.)?example(?:\.com|\.org)?$|www\.w3\.org$|www\.apple\.com$"
                           r"|keepachangelog\.com$|semver\.org$|json-schema\.org$")
-# What clones repositories has to say from where.
+# The script that clones repositories names their origin.
 _MAY_CLONE = "tools/gnustep"
 
 
@@ -40,17 +41,17 @@ def _in_code(project, tops, pattern, why):
 
 
 def wall_clock(project):
-    """Nothing in Orvane/ or desk/ reads a real clock or waits on one, but the window's frame pump."""
+    """Nothing in Orvane/ or desk/ reads a real clock or waits on one, except the window's frame pump."""
     return _in_code(project, ("Orvane", "desk"), _WALL_CLOCK, "time comes from the machine's clock")
 
 
 def chance(project):
-    """Nothing in Orvane/ or desk/ draws lots: the same script gives the same output."""
+    """Nothing in Orvane/ or desk/ uses random numbers: the same script gives the same output."""
     return _in_code(project, ("Orvane", "desk"), _CHANCE, "the same input must give the same output")
 
 
 def order(project):
-    """No container in Orvane/ or desk/ whose order is that of hashes."""
+    """No container in Orvane/ or desk/ has an order that depends on hashes."""
     return _in_code(project, ("Orvane", "desk"), _UNORDERED, "take a container with an order")
 
 
@@ -63,14 +64,14 @@ def _in_text(project, pattern, why, is_allowed=lambda match: False):
 
 
 def unfinished(project):
-    """No mark of unfinished work and no test that is switched off, in any file."""
+    """No mark of unfinished work and no disabled test, in any file."""
     for file, number, text in _in_text(project, _UNFINISHED, "finish it or take it out"):
         if not (str(file) == _MAY_SKIP and text.startswith("GTEST_")):
             yield file, number, text
 
 
 def addresses(project):
-    """No path of somebody's machine and no address of a server, in any file."""
+    """No path of a specific machine and no address of a server, in any file."""
     yield from _in_text(project, _MACHINE_PATH, "a path of one machine")
     for file, number, text in _in_text(project, _ADDRESS, "an address of a server",
                                        lambda match: _KNOWN_HOSTS.match(match["host"])):

@@ -1,10 +1,10 @@
-"""The files of the project as the rules see them: their text, and their code without comments."""
+"""The project's files: their text, and their code without comments."""
 
 import os
 import pathlib
 import re
 
-# Folders that hold nothing of ours.
+# Folders that are not part of the project.
 FOREIGN_FOLDERS = {".git", "build", ".cache", "__pycache__"}
 CPP_ENDINGS = {".hpp", ".cpp", ".mm"}
 
@@ -18,7 +18,7 @@ _LITERAL_OR_COMMENT = re.compile(
 
 
 def _blank(text):
-    """The same lines with nothing on them."""
+    """The text with everything but line breaks replaced by spaces."""
     return re.sub(r"[^\n]", " ", text)
 
 
@@ -58,7 +58,7 @@ class SourceFile:
         return self.text.split("\n")
 
     def code(self, keep_literals=False):
-        """C++ with comments, and unless told otherwise literals, blanked out line by line."""
+        """C++ with comments, and by default literals, replaced by spaces."""
         if keep_literals not in self._code:
             def replacement(match):
                 is_comment = match.group().startswith(("//", "/*"))

@@ -54,9 +54,10 @@ View ContentView::trafficLights(const Environment& environment) const {
       View(TrafficLightButton::minimise(isHovered.value(), model->localized("Minimise", "最小化"),
                                         actions.minimise))
           .keyboardShortcut(KeyboardShortcut::command("m"));
-  return HStack(trafficLightSpacing, {close, minimise}).onHover([isHovered](bool isInside) {
-    isHovered.set(isInside);
-  });
+  return HStack(trafficLightSpacing, {close, minimise})
+      .padding(Edge::leading, clusterPadding)
+      .frame(clusterWidth, titleBarHeight, Alignment::leading())
+      .onHover([isHovered](bool isInside) { isHovered.set(isInside); });
 }
 
 View ContentView::appIcon(const Environment& environment) const {
@@ -88,10 +89,7 @@ View ContentView::titleBar(const Environment& environment) const {
                                                           .font(Font::system(18, Weight::semibold))
                                                           .fixedSize()
                                                           .accessibilityRole(Role::heading)});
-  return HStack(0, {trafficLights(environment)
-                        .padding(Edge::leading, clusterPadding)
-                        .frame({.width = clusterWidth, .alignment = Alignment::leading()}),
-                    Spacer(), title, Spacer(),
+  return HStack(0, {trafficLights(environment), Spacer(), title, Spacer(),
                     settingsButton()
                         .padding(Edge::trailing, clusterPadding)
                         .frame({.width = clusterWidth, .alignment = Alignment::trailing()})})

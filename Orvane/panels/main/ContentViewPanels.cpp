@@ -1,5 +1,9 @@
 // The two panels of the main window: pinning the Dock to a display, and preventing it from popping
 // up anywhere.
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
 #include "Orvane/panels/main/ContentView.hpp"
 #include "Orvane/panels/main/DisplayCardTexts.hpp"
 #include "Orvane/panels/main/DisplayChoiceCard.hpp"
@@ -26,46 +30,68 @@ constexpr double panelSpacing = 10;
 constexpr Edges panelsPadding{.top = 15, .leading = 25, .bottom = 25, .trailing = 25};
 constexpr double pinPanelHeight = 269;
 constexpr double popUpPanelHeight = 121;
-/// The picker brings air of its own.
-constexpr double pinPanelRowSpacing = 2;
-constexpr double popUpPanelRowSpacing = 6;
-/// Room for a description of two lines, so that nothing moves when the hint takes its place.
-constexpr double popUpPanelHeaderHeight = 56;
+/// What the heights of panels and rows leave over is divided evenly in the pin panel: 10.5 points
+/// above the icon and below the button, 10 above and below the cards, of which the picker brings 6.
+constexpr double pinPanelRowSpacing = 4;
+/// As much as leaves the icon and the button of this panel the same 10.5 points.
+constexpr double popUpPanelRowSpacing = 18;
+constexpr double headerHeight = 48;
 constexpr double pickerHeight = 154;
 constexpr double cardSpacing = 14;
 /// How far the picker reaches beyond its panel's content on both sides. Cards are cut where the
 /// panel ends, and a raised one at the side is not cut at all.
 constexpr double pickerReach = DockPanel::padding - 1;
 constexpr double headerSpacing = 14;
+constexpr double titleLineHeight = 22;
+constexpr double descriptionLineHeight = 16;
 constexpr double titleToDescription = 2;
+/// A little less than there is, so that no single word of the hint stands in a line of its own.
+constexpr double descriptionWidth = 400;
 constexpr double buttonSpacing = 10;
 constexpr double dockSettingsWidth = 190;
 
+/// One symbol and its words replace another in the middle of their button, also while it changes
+/// its width.
 View labelled(const std::string& symbol, const std::string& text) {
-  return HStack(7, {Symbol(symbol), Text(text).lineLimit(1)});
+  return HStack(7, {Symbol(symbol), Text(text).lineLimit(1)})
+      .fixedSize()
+      .transition(Transition::fadeThrough())
+      .id(symbol)
+      .frame(0, 0);
 }
 
 struct HeaderTexts {
   std::string title;
   std::string description;
+  /// A hint and a description are two texts, of which one takes the place of the other.
+  bool isHint = false;
 };
 
 View header(const PanelIcon& icon, const HeaderTexts& texts, const StatusPill& pill) {
-  const View title =
-      Text(texts.title).font(Font::system(18, Weight::bold)).accessibilityRole(Role::heading);
+  const View title = Text(texts.title)
+                         .font(Font::system(18, Weight::bold))
+                         .lineHeight(titleLineHeight)
+                         .accessibilityRole(Role::heading);
   const View description = Text(texts.description)
                                .font(Font::system(13))
+                               .lineHeight(descriptionLineHeight)
                                .foreground(Color::secondary())
-                               .fixedSizeVertical();
-  const View words = VStack(titleToDescription, HorizontalAlignment::leading, {title, description});
-  // Read aloud, the pill says which mode it speaks of.
-  // Another word is another pill: one fades away as the other comes, each in its own width.
+                               .fixedSizeVertical()
+                               .transition(Transition::fadeThrough())
+                               .id(std::to_string(texts.isHint));
+  // However many lines the description has, the title stays: a second line reaches below the row.
+  const View words = VStack(titleToDescription, HorizontalAlignment::leading,
+                            {title, description.frame({.height = descriptionLineHeight,
+                                                       .maximumWidth = descriptionWidth,
+                                                       .alignment = Alignment::topLeading()})});
+  // Read aloud, the pill says which mode it speaks of. Each state has a pill of its own.
   const View status = View(pill)
                           .accessibilityLabel(texts.title)
                           .accessibilityValue(pill.text)
-                          .transition(Transition::opacity())
-                          .id(pill.text);
-  return HStack(headerSpacing, {icon, words.layoutPriority(1), Spacer(), status});
+                          .transition(Transition::fadeThrough())
+                          .id(std::to_string(pill.isActive));
+  return HStack(headerSpacing, {icon, words.layoutPriority(1), Spacer(), status})
+      .height(headerHeight);
 }
 
 /// The rows are a little higher than what the padding leaves of the panel's height. They reach into
@@ -106,11 +132,16 @@ View ContentView::displayPicker() const {
     };
   };
   const auto identify = [](const DisplaySnapshot& display) { return display.id; };
+  std::vector<std::string> order;
+  std::ranges::transform(displays, std::back_inserter(order), identify);
   const View cards = HStack(cardSpacing, {forEach(displays, identify, card)});
   // The row begins at the same height with and without cards: the first ones come where they stay.
   constexpr double aboveCards = (pickerHeight - DisplayChoiceCard::height) / 2;
-  return ScrollView(cards.padding(Edges::horizontal(pickerReach).vertical(aboveCards))
-                        .height(pickerHeight, Alignment::top()))
+  // Cards that travelled to other places would pass over one another.
+  return ScrollView(cards.padding(Edges::vertical(aboveCards))
+                        .height(pickerHeight, Alignment::top())
+                        .animation(std::nullopt, order),
+                    pickerReach)
       .height(pickerHeight)
       .padding(Edges::horizontal(-pickerReach));
 }
@@ -139,12 +170,12 @@ View ContentView::hideDockPanel() const {
   const View head =
       header({.systemImage = "eye.slash", .tint = isPreventing ? Color::accent() : Color::gray()},
              {.title = model->localized("Prevent Dock Pop-Up", "防止 Dock 弹出"),
-              .description = description},
+              .description = description,
+              .isHint = isPreventing},
              {.text = isPreventing ? model->localized("Enabled", "已启用")
                                    : model->localized("Off", "未启用"),
               .isActive = isPreventing});
-  return panel(popUpPanelHeight,
-               VStack(popUpPanelRowSpacing, {head.height(popUpPanelHeaderHeight), popUpButtons()}));
+  return panel(popUpPanelHeight, VStack(popUpPanelRowSpacing, {head, popUpButtons()}));
 }
 
 View ContentView::popUpButtons() const {

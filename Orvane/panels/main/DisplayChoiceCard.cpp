@@ -1,6 +1,7 @@
 // A card that shows one display and chooses it as the target.
 #include "Orvane/panels/main/DisplayChoiceCard.hpp"
 
+#include "Orvane/panels/main/DarkeningButtonStyle.hpp"
 #include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/ui/Button.hpp"
 #include "Orvane/ui/Image.hpp"
@@ -16,6 +17,8 @@ namespace {
 
 constexpr double imageToTitle = 6;
 constexpr double titleToRole = 2;
+constexpr double nameLineHeight = 16;
+constexpr double roleLineHeight = 14;
 constexpr double sidePadding = 12;
 constexpr double imageShadowRadius = 5;
 constexpr double imageShadowDrop = 3;
@@ -38,12 +41,16 @@ View DisplayChoiceCard::content(bool isDark) const {
   const View name = Text(title())
                         .font(Font::system(13, isSelected ? Weight::bold : Weight::medium))
                         .foreground(isSelected ? chosen : Color::primary())
-                        .lineLimit(1);
+                        .lineLimit(1)
+                        .truncationMode(TruncationMode::middle);
   const View role = Text(roleLabel)
                         .font(Font::system(11, Weight::semibold))
                         .foreground(isSelected ? chosen : Color::secondary())
                         .lineLimit(1);
-  return VStack(imageToTitle, {image, VStack(titleToRole, {name, role})})
+  // Whatever script the name is written in, all images and all baselines of a row are level.
+  const View words =
+      VStack(titleToRole, {name.lineHeight(nameLineHeight), role.lineHeight(roleLineHeight)});
+  return VStack(imageToTitle, {image, words.textAlignment(TextAlignment::center)})
       .padding(Edges::horizontal(sidePadding))
       .frame(width, height);
 }
@@ -77,7 +84,8 @@ View DisplayChoiceCard::body(const Environment& environment) const {
   return Button([environment,
                  action = action] { environment.animate(Curve::spring(0.24, 0.82), action); },
                 card)
-      .style(BareButtonStyle{})
+      .style(
+          DarkeningButtonStyle{ShapeForm::rounded(cornerRadius), environment.isDark() ? 0.2 : 0.08})
       .focusRing(ShapeForm::rounded(cornerRadius))
       .accessibilityRole(Role::radioButton)
       .accessibilityLabel(title())
@@ -85,7 +93,8 @@ View DisplayChoiceCard::body(const Environment& environment) const {
       .accessibilitySelected(isSelected)
       .scale(isRaised ? 1.012 : 1)
       .animation(Curve::easeOut(hoverSeconds), isHovered.value())
-      .onHover([isHovered](bool isInside) { isHovered.set(isInside); });
+      .onHover([isHovered](bool isInside) { isHovered.set(isInside); })
+      .scrollsIntoView(isSelected);
 }
 
 }  // namespace orvane

@@ -16,14 +16,20 @@ constexpr double tileRadius = 11;
 
 }  // namespace
 
+// Light falls on the tile from above, as on the buttons. The tint's own gradient is more
+// transparent at its lower end, which over a light ground would be the lighter one: so its ground
+// is dark.
 View PanelIcon::body(const Environment& /*environment*/) const {
+  const Color light = Color::white();
   return Symbol(systemImage)
       .font(Font::system(24, Weight::bold))
       .foreground(Color::white())
       .frame(side, side)
       .background(RoundedRectangle(tileRadius)
                       .castShadow({.color = tint.opacity(0.24), .radius = 7, .y = 3})
-                      .fill(Gradient::linear({tint.opacity(0.98), tint.opacity(0.78)})));
+                      .fill(Color::black().opacity(0.7))
+                      .fill(Gradient::linear({tint.opacity(0.98), tint.opacity(0.78)}))
+                      .fill(Gradient::linear({light.opacity(0.08), light.opacity(0)})));
 }
 
 }  // namespace orvane

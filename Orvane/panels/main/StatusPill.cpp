@@ -30,6 +30,7 @@ View StatusPill::body(const Environment& environment) const {
       .font(Font::system(13, Weight::bold))
       .foreground(isActive ? OrvanePalette::accentText(isDark, activeOpacity(isDark))
                            : Color::secondary())
+      .lineHeight(16)
       .fixedSize()
       .padding(Edges::horizontal(13).vertical(8))
       .background(

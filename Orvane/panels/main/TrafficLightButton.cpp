@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "Orvane/panels/main/DarkeningButtonStyle.hpp"
 #include "Orvane/ui/Button.hpp"
 #include "Orvane/ui/Image.hpp"
 #include "Orvane/ui/ShapeView.hpp"
@@ -15,6 +16,7 @@ namespace {
 
 constexpr double diameter = 14;
 constexpr double lightHoverSeconds = 0.14;
+constexpr double lightPressedShade = 0.2;
 
 }  // namespace
 
@@ -55,8 +57,8 @@ View TrafficLightButton::body(const Environment& environment) const {
                   .fill(color)
                   .stroke(stroke.opacity(0.55), 0.7));
   return Button(action, light)
-      .style(BareButtonStyle{})
-      .focusRing(ShapeForm::circle())
+      .style(DarkeningButtonStyle{ShapeForm::circle(), lightPressedShade})
+      .outOfTabOrder()
       .accessibilityLabel(label)
       .scale(isHovered.value() ? 1.1 : 1)
       .animation(Curve::easeOut(lightHoverSeconds), isHovered.value())

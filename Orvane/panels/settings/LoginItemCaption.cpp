@@ -49,8 +49,7 @@ View LoginItemCaption::body(const Environment& environment) const {
   const View text = Text(message())
                         .font(Font::caption())
                         .foreground(SettingsPalette::statementText())
-                        .lineLimit(2)
-                        .tooltip(message());
+                        .lineLimit(2);
   const View button =
       Button([model = model] { model->openLoginItemsSettings(); },
              Text(model->localized("Login Items…", "登录项…")).fixedSize())

@@ -19,7 +19,7 @@ namespace {
 
 constexpr double tileSide = 30;
 constexpr double tileCornerRadius = 8;
-constexpr Edges headerPadding{.top = 8, .leading = 20, .bottom = 8, .trailing = 18};
+constexpr Edges headerPadding{.top = 8, .leading = 18, .bottom = 8, .trailing = 18};
 /// At least so much above and below the cards.
 constexpr double leastMargin = 10;
 constexpr double entranceOffset = 10;
@@ -63,7 +63,7 @@ View OrvaneSettingsView::header(const Environment& environment) const {
       Button(closing(environment),
              Symbol("xmark").font(Font::system(12, Weight::bold)).frame(28, 28))
           .style(SettingsIconButtonStyle{})
-          .focusRing(ShapeForm::circle())
+          .outOfTabOrder()
           .keyboardShortcut(KeyboardShortcut::cancelAction())
           .tooltip(closeTitle)
           .accessibilityLabel(closeTitle);

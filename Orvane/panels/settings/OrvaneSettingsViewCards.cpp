@@ -27,6 +27,7 @@ constexpr double sidePadding = 18;
 constexpr double backgroundTintOpacity = 0.05;
 constexpr double textToButtons = 7;
 constexpr double buttonSpacing = 8;
+constexpr double labelToPicker = 8;
 constexpr double languagePickerWidth = 160;
 constexpr double shortcutPickerWidth = 150;
 
@@ -47,6 +48,12 @@ View statement(const std::string& text) {
       .font(Font::callout())
       .foreground(SettingsPalette::statementText())
       .fixedSizeVertical();
+}
+
+/// A picker and what it chooses.
+View pickerRow(const std::string& label, const Picker& picker, double pickerWidth) {
+  return HStack(
+      0, {Text(label).fixedSizeVertical(), Spacer(labelToPicker), View(picker).width(pickerWidth)});
 }
 
 SettingsSection section(const std::string& symbol, const std::string& title, const Color& tint,
@@ -78,9 +85,9 @@ View OrvaneSettingsView::languageCard() const {
       .onChoose = [model = model](int index) {
         model->setAppLanguage(OrvaneLanguage::allCases.at(static_cast<std::size_t>(index)));
       }};
-  return section("globe", title, SettingsPalette::blue(),
-                 HStack({Text(model->localized("Use Orvane in", "Orvane 使用语言")), Spacer(),
-                         View(picker).width(languagePickerWidth)}));
+  return section(
+      "globe", title, SettingsPalette::blue(),
+      pickerRow(model->localized("Use Orvane in", "Orvane 使用语言"), picker, languagePickerWidth));
 }
 
 View OrvaneSettingsView::shortcutCard() const {
@@ -99,10 +106,10 @@ View OrvaneSettingsView::shortcutCard() const {
         model->setTemporaryUnlockModifier(
             OrvaneModifier::allCases.at(static_cast<std::size_t>(index)));
       }};
-  const View line = statement(model->localized("Hold the shortcut to allow Dock temporarily",
-                                               "按住快捷键时允许 Dock 临时弹出"));
   return section("keyboard", title, SettingsPalette::indigo(),
-                 HStack({line, Spacer(), View(picker).width(shortcutPickerWidth)}));
+                 pickerRow(model->localized("Hold the shortcut to allow Dock temporarily",
+                                            "按住快捷键时允许 Dock 临时弹出"),
+                           picker, shortcutPickerWidth));
 }
 
 View OrvaneSettingsView::privacyCard() const {

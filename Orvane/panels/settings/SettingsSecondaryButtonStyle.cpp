@@ -15,7 +15,13 @@ constexpr double height = 25;
 constexpr double buttonPadding = 11;
 constexpr double rimOpacityDark = 0.16;
 constexpr double rimOpacityLight = 0.18;
-constexpr double pressedOpacity = 0.7;
+/// As the close button has it.
+constexpr double pressedSeconds = 0.12;
+
+/// Laid over the fill while the button is held down.
+Color pressedVeil(bool isDark) {
+  return isDark ? Color::white().opacity(0.14) : SettingsPalette::blue().opacity(0.22);
+}
 
 }  // namespace
 
@@ -30,8 +36,10 @@ View SettingsSecondaryButtonStyle::body(const ButtonConfiguration& configuration
       .padding(Edges::horizontal(buttonPadding).vertical(0))
       .height(height)
       .background(RoundedRectangle(cornerRadius)
-                      .fill(configuration.isPressed ? fill.opacity(pressedOpacity) : fill)
-                      .stroke(OrvanePalette::outline(rim, environment), 0.7));
+                      .fill(fill)
+                      .fill(pressedVeil(isDark).opacity(configuration.isPressed ? 1 : 0))
+                      .stroke(OrvanePalette::outline(rim, environment), 0.7))
+      .animation(Curve::easeOut(pressedSeconds), configuration.isPressed);
 }
 
 }  // namespace orvane

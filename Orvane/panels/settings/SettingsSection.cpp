@@ -1,6 +1,7 @@
 // One card of the settings panel.
 #include "Orvane/panels/settings/SettingsSection.hpp"
 
+#include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/ui/Image.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
@@ -71,7 +72,9 @@ View SettingsSection::body(const Environment& environment) const {
           .fill(Color::white().opacity(isDark ? 0.045 : 0.5))
           .fill(backgroundTint)
           .stroke(Color::white().opacity(isDark ? 0.22 : 0.38), 1)
-          .strokeBorder(tint.opacity(borderOpacity(isDark, isHovered)), 0.8);
+          .strokeBorder(
+              OrvanePalette::outline(tint.opacity(borderOpacity(isDark, isHovered)), environment),
+              0.8);
   return VStack(rowSpacing, HorizontalAlignment::leading,
                 {header, content.maximumWidth(infinity, Alignment::leading())})
       .padding(cardPadding)

@@ -1,4 +1,4 @@
-// What is said to users of assistive programs; NSAccessibility on a Mac.
+// Announcements to assistive technologies; NSAccessibility on a Mac.
 #pragma once
 
 #include <string>
@@ -10,8 +10,8 @@ class Accessibility {
  public:
   Accessibility() = delete;
 
-  /// Has a screen reader speak the text. Nothing happens when none is running, or when `text` is
-  /// empty or not valid UTF-8.
+  /// Has a screen reader speak `text`. Does nothing when none is running, or when `text` is empty
+  /// or not valid UTF-8.
   static void announce(const std::string& text);
 };
 

@@ -1,5 +1,5 @@
-// Something that the application does for its user while it has no window; an activity of
-// NSProcessInfo on a Mac.
+// Work that the application does for the user while it has no window; an activity of NSProcessInfo
+// on a Mac.
 #pragma once
 
 #include <memory>
@@ -7,8 +7,8 @@
 
 namespace orvane::appkit {
 
-/// While one lives, the system runs the process at full speed; the Mac itself may still sleep. Main
-/// thread only.
+/// While one exists, the system runs the process at full speed; the Mac itself may still sleep.
+/// Main thread only.
 class Activity {
  public:
   explicit Activity(std::string_view reason);

@@ -20,13 +20,14 @@ inline constexpr int alertFirstButton = 1000;
 inline constexpr int alertSecondButton = 1001;
 }  // namespace ModalResponse
 
-/// What the application is told of its life; unset functions are passed over.
+/// Callbacks for the application's life-cycle events. Unset functions are ignored.
 struct ApplicationDelegate {
   std::function<void()> didFinishLaunching;
-  /// The user has opened the running application again; true lets the platform do what it does.
+  /// The user has reopened the running application. Return true to let the platform respond as
+  /// usual.
   std::function<bool(bool hasVisibleWindows)> shouldHandleReopen;
-  /// A key that was pressed in a window of the application, whose content has no use for it; the
-  /// same in a modal session. Whether it meant something.
+  /// A key press that the content of the key window did not handle, also in a modal session.
+  /// Returns whether it was handled.
   std::function<bool(const ui::KeyEvent& event)> performKeyEquivalent;
   std::function<void()> willTerminate;
 };
@@ -40,22 +41,22 @@ class Application {
 
   static void setActivationPolicy(ActivationPolicy policy);
   static void activateIgnoringOtherApps();
-  /// Takes its windows off the screen until it becomes active again.
+  /// Hides the application's windows until it becomes active again.
   static void hide();
-  /// Quits in order: the delegate is told first.
+  /// Quits in order: calls the delegate first.
   static void terminate();
   [[nodiscard]] static std::optional<Window> keyWindow();
-  /// That of the modal session; none without one.
+  /// The window of the modal session; none without a session.
   [[nodiscard]] static std::optional<Window> modalWindow();
 
-  /// Where the pointer is: window-system coordinates, points, y upwards.
+  /// The pointer's location, in window-system coordinates: points, y upwards.
   [[nodiscard]] static CGPoint mouseLocation();
 
-  /// Shows `window` and lets the user do nothing else in the application until stopModal; then
-  /// calls `ended` with its response. An open menu is closed first, and the window stays in sight
-  /// when the application is deactivated. The application may be quit in between, and then nobody
-  /// is called. The task that calls this must have nothing left to do afterwards: until the session
-  /// ends, the main queue delivers nothing, while events and timers of the common modes go on.
+  /// Shows `window` and blocks the rest of the application for the user until stopModal; then calls
+  /// `ended` with its response. Closes an open menu first. The window stays visible when the
+  /// application is deactivated. If the application quits meanwhile, `ended` is not called. The
+  /// calling task must have nothing left to do afterwards: until the session ends, the main queue
+  /// delivers nothing, while events and timers of the common modes go on.
   static void runModal(const Window& window, std::function<void(int response)> ended);
   /// Ends the modal session; does nothing without one.
   static void stopModal(int response);

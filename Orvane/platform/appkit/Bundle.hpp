@@ -12,7 +12,7 @@ class Bundle {
 
   /// The file URL of the application bundle; none when there is none.
   static std::optional<std::string> url();
-  /// Whether nothing can be written where it lies, as on a disk image; false where nobody can tell.
+  /// Whether the bundle is on a read-only volume, such as a disk image; false when that is unknown.
   static bool isOnReadOnlyVolume();
 };
 

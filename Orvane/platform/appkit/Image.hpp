@@ -1,4 +1,4 @@
-// A picture for the window system's own controls; NSImage on a Mac.
+// An image for the window system's own controls; NSImage on a Mac.
 #pragma once
 
 #include <memory>
@@ -9,10 +9,10 @@
 
 namespace orvane::appkit {
 
-/// The weights of a symbol that are used here.
+/// The symbol weights in use.
 enum class SymbolWeight { regular };
 
-/// A handle; copies name the same image. Main thread only.
+/// A handle; copies refer to the same image. Main thread only.
 class Image {
  public:
   /// The system's symbol of that name at a size in points; none when there is no such symbol.

@@ -14,7 +14,7 @@ class LoginItem {
   enum class Status { notRegistered = 0, enabled = 1, requiresApproval = 2, notFound = 3 };
 
   static Status status();
-  /// The platform's own text of the error when it fails, none when it succeeds.
+  /// The platform's error text on failure; none on success.
   static std::optional<std::string> registerApplication();
   static std::optional<std::string> unregisterApplication();
 };

@@ -5,14 +5,14 @@
 
 namespace orvane::appkit {
 
-/// Tasks run one after another in the order they came, never inside each other.
+/// Tasks run one after another in FIFO order, never nested.
 class MainQueue {
  public:
   MainQueue() = delete;
 
   /// Runs `task` soon, after the caller has returned.
   static void async(std::function<void()> task);
-  /// Runs `task` when at least `seconds` have passed.
+  /// Runs `task` after at least `seconds`.
   static void asyncAfter(double seconds, std::function<void()> task);
 };
 

@@ -12,19 +12,18 @@
 
 namespace orvane::appkit {
 
-/// One entry of a menu, as it is to be made.
+/// The description of one menu item.
 struct MenuItem {
   /// What VoiceOver reads and type selection finds; not drawn when there is a view.
   std::string title;
   bool isSeparator = false;
   bool isEnabled = true;
-  /// A switch that is on, or the choice that is in force: told by VoiceOver, and marked where there
-  /// is no view.
+  /// A switch that is on, or the selected choice. VoiceOver reads it; without a view it has a check
+  /// mark.
   bool isOn = false;
   /// Drawn instead of the title.
   std::optional<HostingView> view;
-  /// Run when the item is chosen by the keyboard or by VoiceOver, and by a click where there is no
-  /// view.
+  /// Run when the item is chosen by keyboard or VoiceOver or, without a view, by a click.
   std::function<void()> action;
   /// Whether choosing the item leaves the menu open.
   bool keepsMenuOpen = false;
@@ -36,20 +35,21 @@ struct MenuItem {
   }
 };
 
-/// A handle; copies name the same menu. Main thread only. Items may come, change and go while it is
-/// open. Each index is that of an item, or the number of items where one is inserted.
+/// A handle; copies refer to the same menu. Main thread only. Items may be inserted, changed and
+/// removed while the menu is open. An index must be that of an item; for insertion it may also be
+/// the number of items.
 class Menu {
  public:
   Menu();
 
   void insertItem(std::size_t index, MenuItem item);
-  /// The item, which is no separator, becomes as this one, also while it is being chosen. The view
-  /// that it shows stays where it is when it is the same.
+  /// Updates the item, which must not be a separator, to match `item`, even while it is being
+  /// chosen. If the view is the same, it stays in place.
   void changeItem(std::size_t index, MenuItem item);
   void removeItem(std::size_t index);
 
   [[nodiscard]] bool isOpen() const;
-  /// Called when the menu is about to be shown.
+  /// `willOpen` is called when the menu is about to be shown.
   void onWillOpen(std::function<void()> willOpen);
   /// Closes the menu if it is open, without choosing anything. `ended`, which may be null, is
   /// called once the caller has returned and no menu is open.

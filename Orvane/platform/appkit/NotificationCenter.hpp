@@ -1,5 +1,5 @@
-// Notifications with blocks on the main thread; on a Mac those of NSNotificationCenter, and those
-// between processes of NSDistributedNotificationCenter.
+// Notifications, delivered to blocks on the main thread; on a Mac those of NSNotificationCenter
+// and, between processes, of NSDistributedNotificationCenter.
 #pragma once
 
 #include <functional>
@@ -16,7 +16,7 @@ enum class NotificationName {
   accessibilityPermissionsDidChange,
 };
 
-/// A registration. It does not end by itself: give it to removeObserver.
+/// A registration. It does not end by itself: pass it to removeObserver.
 class ObserverToken {
  public:
   struct Implementation;
@@ -33,8 +33,8 @@ class NotificationCenter {
  public:
   NotificationCenter() = delete;
 
-  /// Calls `block` on the main thread for each such notification of any sender, observers in the
-  /// order of their registration.
+  /// Calls `block` on the main thread for each such notification of any sender. Observers are
+  /// called in the order of their registration.
   [[nodiscard]] static ObserverToken addObserver(NotificationName name,
                                                  std::function<void()> block);
   /// Removing twice does nothing.

@@ -12,7 +12,7 @@
 
 namespace orvane::appkit {
 
-/// A snapshot: it keeps describing the display as it was when the list was read. Frames are in
+/// A snapshot: it describes the display as it was when the list was read. Frames are in
 /// window-system coordinates: points, origin at the lower left of the first screen, y upwards.
 class Screen {
  public:

@@ -10,11 +10,11 @@
 
 namespace orvane::appkit {
 
-/// The values of NSCellImagePosition and NSImageScaling that are used here.
+/// The values of NSCellImagePosition and NSImageScaling in use.
 enum class ImagePosition { imageOnly = 1 };
 enum class ImageScaling { proportionallyDown = 0 };
 
-/// Owns its item: destroying it takes the item out of the menu bar. Main thread only.
+/// Owns its item: destroying it removes the item from the menu bar. Main thread only.
 class StatusItem {
  public:
   /// A new item of variable length whose button has neither target nor action.
@@ -23,17 +23,17 @@ class StatusItem {
   StatusItem& operator=(StatusItem&&) noexcept;
   ~StatusItem();
 
-  /// As long as the menu bar is high.
+  /// As wide as the menu bar is high.
   void setSquareLength();
   void setImagePosition(ImagePosition position);
   void setImageScaling(ImageScaling scaling);
   /// None leaves the button without an image.
   void setImage(const std::optional<Image>& image);
-  /// What VoiceOver says of the item's state, after its image's description.
+  /// The item's state, which VoiceOver reads after the image's description.
   void setAccessibilityValue(std::string_view value);
   /// A click on the item opens the menu.
   void setMenu(const Menu& menu);
-  /// Under this name the system remembers where the user put the item.
+  /// The name under which the system remembers the item's position.
   void setAutosaveName(std::string_view name);
 
   struct Implementation;

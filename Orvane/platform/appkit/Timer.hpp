@@ -14,12 +14,12 @@ enum class RunLoopMode {
   common,
 };
 
-/// Owns its timer: destroying or invalidating it stops the ticks, also from within a tick. Main
+/// Owns its timer: destroying or invalidating it stops the ticks, even from within a tick. Main
 /// thread only.
 class Timer {
  public:
-  /// Fires every `intervalSeconds`. Timers of one interval fire together, so that one wake-up
-  /// serves them all: the first in the process fires after one interval, a later one within one.
+  /// Fires every `intervalSeconds`. Timers with equal intervals fire together, so that one wake-up
+  /// serves them all: the process's first fires after one interval, a later one within it.
   [[nodiscard]] static Timer repeating(double intervalSeconds, RunLoopMode mode,
                                        std::function<void()> tick);
 

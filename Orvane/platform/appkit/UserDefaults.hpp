@@ -7,8 +7,8 @@
 
 namespace orvane::appkit {
 
-/// Reading is strict: a value of another type than the one asked for reads as none, so that a
-/// malformed value is the same as an absent one. Main thread only.
+/// Reading is strict: a value of a different type reads as none, so that a malformed value is
+/// treated as absent. Main thread only.
 class UserDefaults {
  public:
   UserDefaults() = delete;

@@ -33,7 +33,7 @@ inline constexpr std::uint64_t fullScreenAuxiliary = 1U << 8;
 inline constexpr std::uint64_t auxiliary = 1U << 17;
 }  // namespace CollectionBehavior
 
-/// The values of NSWindowLevel that are used.
+/// The values of NSWindowLevel in use.
 namespace WindowLevel {
 inline constexpr std::int64_t normal = 0;
 inline constexpr std::int64_t modalPanel = 8;
@@ -42,14 +42,13 @@ inline constexpr std::int64_t status = 25;
 
 enum class WindowKind { window, panel };
 
-/// A handle to one window: copies name the same window, and two handles are equal when they do. The
-/// window lives as long as a handle, a parent window or the screen needs it. Frames are in
-/// window-system coordinates: points, origin at the lower left of the first screen, y upwards. Main
-/// thread only.
+/// A handle: copies refer to the same window and compare equal. The window lives as long as a
+/// handle, a parent window or the screen holds it. Frames are in window-system coordinates: points,
+/// origin at the lower left of the first screen, y upwards. Main thread only.
 class Window {
  public:
-  /// Buffered, not deferred, not visible. A panel and a borderless window refuse to become key or
-  /// main as those of AppKit do, unless told otherwise below.
+  /// Buffered, not deferred, not visible. Panels and borderless windows refuse to become key or
+  /// main as AppKit's do, unless set otherwise below.
   Window(WindowKind kind, CGRect contentRect, std::uint64_t styleMask);
 
   friend bool operator==(const Window& first, const Window& second) {
@@ -59,7 +58,7 @@ class Window {
   [[nodiscard]] WindowKind kind() const;
   [[nodiscard]] std::uint64_t styleMask() const;
 
-  /// The class under which the window presents itself to a reader of the window list.
+  /// The class name by which the window list identifies the window.
   void setClassName(std::string_view name);
   void setCanBecomeKeyWindow(bool can);
   void setCanBecomeMainWindow(bool can);
@@ -87,15 +86,15 @@ class Window {
   void clearContentView();
   [[nodiscard]] std::optional<HostingView> contentView() const;
 
-  /// Called once, as the last thing before the window goes; the callback may drop every handle.
+  /// `willClose` is called once, immediately before the window closes; it may drop every handle.
   void onWillClose(std::function<void()> willClose);
   void clearDelegate();
 
   [[nodiscard]] CGRect frame() const;
   void setFrameOrigin(CGPoint origin);
-  /// In the middle of its screen, a little above the middle as the window system does.
+  /// Centres the window on its screen, slightly above the middle, as the window system does.
   void center();
-  /// The screen that the window is on; none when it is on none.
+  /// None when the window is on no screen.
   [[nodiscard]] std::optional<Screen> screen() const;
 
   [[nodiscard]] bool isVisible() const;

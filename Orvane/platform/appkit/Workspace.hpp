@@ -1,4 +1,4 @@
-// Opening links and files with the programs that the user has for them; NSWorkspace on a Mac.
+// Opening links and files with the user's default programs; NSWorkspace on a Mac.
 #pragma once
 
 #include <functional>
@@ -8,13 +8,13 @@
 
 namespace orvane::appkit {
 
-/// Opening takes a program of the user's its time, so nobody waits for it: `completed`, which may
-/// be null, comes in a task of the main queue.
+/// Opening may take a while, so it is asynchronous: `completed`, which may be null, is called from
+/// a task on the main queue.
 class Workspace {
  public:
   Workspace() = delete;
 
-  /// Not opened when `url` does not form a URL or no program took it.
+  /// `isOpened` is false when `url` is not a valid URL or no program accepts it.
   static void openURL(std::string_view url, std::function<void(bool isOpened)> completed = nullptr);
   /// Opens the file or application at an absolute path.
   static void openFile(std::string_view path,

@@ -1,5 +1,5 @@
 // The panel of bench/KitPanel.cpp in GTK 4, styled by CSS; shown once on an X server without a
-// screen, it prints what orvane-panel prints.
+// screen, it prints the same figures as orvane-panel.
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -18,7 +18,7 @@ constexpr double scale = 2;
 constexpr const char* style = R"(
 window { background: transparent; }
 .panel { background: #ececec; border-radius: 24px; padding: 20px; }
-label { font-family: Inter; font-size: 13px; color: rgba(0,0,0,0.85); }
+label { font-family: Inter Display; font-size: 13px; color: rgba(0,0,0,0.85); }
 label.title { font-size: 18px; font-weight: bold; }
 label.bold { font-weight: bold; }
 label.secondary { color: rgba(0,0,0,0.5); }
@@ -36,7 +36,7 @@ label.button { font-size: 15px; font-weight: 600; color: white; }
 .push { background: #007aff; border-radius: 8px; }
 )";
 
-/// Of all threads of the process; what else runs on the machine does not count.
+/// Processor time of all threads of the process.
 double millisecondsOfWork() {
   return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
@@ -178,7 +178,7 @@ GtkWidget* panel() {
   return made;
 }
 
-/// Describes and draws all of it on the surface.
+/// Describes and draws the whole panel on the surface.
 void paint(GdkPaintable* paintable, cairo_surface_t* surface) {
   gdk_paintable_invalidate_contents(paintable);
   GtkSnapshot* const snapshot = gtk_snapshot_new();

@@ -14,7 +14,7 @@ Rectangle {
 
     component Label: Text {
         color: panel.primary
-        font.family: "Inter"
+        font.family: "Inter Display"
         font.pixelSize: 13
     }
 

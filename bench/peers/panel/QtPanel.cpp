@@ -1,4 +1,4 @@
-// Shows Panel.qml once without a screen and prints what orvane-panel prints.
+// Shows Panel.qml once without a screen and prints the same figures as orvane-panel.
 #include <QGuiApplication>
 #include <QImage>
 #include <QQuickView>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Of all threads of the process; what else runs on the machine does not count.
+/// Processor time of all threads of the process.
 double millisecondsOfWork() {
   return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
@@ -50,7 +50,7 @@ int main(int count, char** arguments) {
   constexpr int repaints = 50;
   const double began = millisecondsOfWork();
   for (int repaint = 0; repaint < repaints; ++repaint) {
-    // Another colour of the window makes all of it dirty; otherwise nothing would be drawn.
+    // Changing the window's colour invalidates all of it; otherwise nothing would be drawn.
     view.setColor(repaint % 2 == 0 ? QColor(0, 0, 0, 1) : QColor(Qt::transparent));
     picture = view.grabWindow();
   }

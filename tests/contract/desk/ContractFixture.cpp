@@ -1,4 +1,4 @@
-// The simulated Mac can be arranged in every way.
+// The contract fixture on the simulated Mac, which provides every precondition.
 #include "tests/contract/ContractFixture.hpp"
 
 #include "desk/machine/MachineScope.hpp"

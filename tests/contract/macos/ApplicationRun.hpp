@@ -1,12 +1,11 @@
-// What a test of AppKit needs around it: the application object, and a pool for what is
-// autoreleased.
+// The environment of an AppKit test: the application object and an autorelease pool.
 #pragma once
 
 #import <AppKit/AppKit.h>
 
 namespace orvane {
 
-/// One for each test, on the main thread; the first one launches the application.
+/// One instance per test, on the main thread; the first launches the application.
 class ApplicationRun {
  public:
   ApplicationRun();
@@ -14,8 +13,8 @@ class ApplicationRun {
   ApplicationRun& operator=(const ApplicationRun&) = delete;
   ~ApplicationRun();
 
-  /// Serves the run loop in a mode, and handles the events that come. Then what the test has had
-  /// autoreleased goes, as after each turn of an application's run loop.
+  /// Runs the run loop in a mode and handles events. Then drains the autorelease pool, as an
+  /// application does after each turn of its run loop.
   void serve(double seconds, NSString* mode);
 
  private:

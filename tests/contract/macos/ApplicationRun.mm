@@ -1,4 +1,4 @@
-// Launches the application once, and serves its events as its own loop would.
+// Launches the application once, and handles its events as its own event loop would.
 #include "tests/contract/macos/ApplicationRun.hpp"
 
 namespace orvane {
@@ -6,13 +6,13 @@ namespace orvane {
 extern "C" void* objc_autoreleasePoolPush(void);
 extern "C" void objc_autoreleasePoolPop(void* pool);
 
-/// NSEventMaskAny, whose name GNUstep does not know.
+/// NSEventMaskAny, which GNUstep does not declare.
 static constexpr NSEventMask anyEvent = NSUIntegerMax;
 
 ApplicationRun::ApplicationRun() : pool_(objc_autoreleasePoolPush()) {
   static const bool isLaunched = [] {
     NSApplication* const application = NSApplication.sharedApplication;
-    // Neither an icon in the Dock nor another application's focus is taken for a test.
+    // A test shows no icon in the Dock and takes no focus from other applications.
     [application setActivationPolicy:NSApplicationActivationPolicyAccessory];
     [application finishLaunching];
     return true;
@@ -27,7 +27,7 @@ ApplicationRun::~ApplicationRun() {
 void ApplicationRun::serve(double seconds, NSString* mode) {
   @autoreleasepool {
     NSDate* const end = [NSDate dateWithTimeIntervalSinceNow:seconds];
-    // What is due by then is served, even when one task has taken all of the time.
+    // Everything due by then runs, even if one task has used up the time.
     bool goesOn = true;
     while (goesOn) {
       @autoreleasepool {

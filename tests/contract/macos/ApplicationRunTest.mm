@@ -1,4 +1,4 @@
-// What the contract's tests on AppKit rely on in their surroundings.
+// Tests of the environment in which the contract tests run on AppKit.
 #include "tests/contract/macos/ApplicationRun.hpp"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-// A real Mac is taken as it is: time passes on its main run loop, and hardly anything else can be
-// arranged without disturbing its user.
+// The contract fixture on a real Mac: apart from running the main run loop, it provides hardly any
+// precondition, as it must not disturb the user.
 #include "tests/contract/ContractFixture.hpp"
 #include "tests/contract/macos/ApplicationRun.hpp"
 
@@ -38,7 +38,7 @@ bool ContractFixture::setTrusted(bool isTrusted) {
 }
 
 bool ContractFixture::movePointer(CGPoint goal) {
-  // It takes the pointer out of its user's hand.
+  // Posted movements take control of the user's pointer.
   if (std::getenv("ORVANE_POST_MOVEMENTS") == nullptr) {
     return false;
   }

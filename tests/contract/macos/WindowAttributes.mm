@@ -1,4 +1,4 @@
-// What AppKit says of a window.
+// The attributes of a window as AppKit reports them.
 #include "macos/appkit/NativeWindow.hpp"
 #include "tests/contract/ContractFixture.hpp"
 

@@ -1,5 +1,5 @@
-// The protocol of accessibility elements, which GNUstep lacks, and what assistive programs are
-// told.
+// The protocol of accessibility elements, which GNUstep lacks, and a record of the accessibility
+// notifications.
 #include "tests/gnustep/shim/Methods.hpp"
 #include "tests/gnustep/shim/World.hpp"
 
@@ -50,7 +50,7 @@ ORVANE_STORED_NUMBER(BOOL, isAccessibilitySelected, setAccessibilitySelected, bo
 
 @end
 
-/// A view is an element when it says so; a window and what is no view always are.
+/// A view is an element if it says so; windows and other objects always are.
 extern "C" id NSAccessibilityUnignoredAncestor(id element) {
   id each = element;
   while ([each isKindOfClass:NSView.class]) {
@@ -69,7 +69,7 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame) {
 
 extern "C" void NSAccessibilityPostNotificationWithUserInfo(id element, NSString* notification,
                                                             NSDictionary* info) {
-  NSCAssert(element != nil, @"a notification of nothing");
+  NSCAssert(element != nil, @"a notification without an element");
   NSString* const text = info[NSAccessibilityAnnouncementKey];
   orvane::gnustep::world().announcements.push_back(
       [NSString stringWithFormat:@"%@|%@", notification, text == nil ? @"" : text].UTF8String);

@@ -1,4 +1,4 @@
-// Light and dark, the colours that follow them, and the system's font.
+// Light and dark appearances, the system's colours and the system's font.
 #include <cmath>
 #include <cstdint>
 
@@ -14,10 +14,10 @@ NSAppearance* applicationAppearance() {
   return own == nil ? [NSAppearance appearanceNamed:NSAppearanceNameAqua] : own;
 }
 
-void tellOfAppearance(NSView* view) {
+void announceAppearance(NSView* view) {
   [view viewDidChangeEffectiveAppearance];
   for (NSView* subview in view.subviews) {
-    tellOfAppearance(subview);
+    announceAppearance(subview);
   }
 }
 
@@ -52,7 +52,8 @@ const char weightKey = 0;
 
 @implementation NSFont (OrvaneShim)
 
-// The weight is noted with the font, so each weight has a size that nobody else asks for.
+// The weight is attached to the font object. GNUstep shares font objects by size, so each weight
+// gets a slightly different size.
 + (NSFont*)systemFontOfSize:(CGFloat)size weight:(CGFloat)weight {
   const double own = size + 1e-4 * static_cast<double>(std::lround((weight + 1) * 100));
   NSFont* const font = [NSFont fontWithName:@"Inter-Regular" size:own];
@@ -71,7 +72,8 @@ double weightOf(NSFont* font) {
 
 namespace {
 
-/// The documented values of the system's colours, as the appearance that draws now resolves them.
+/// Installs the documented values of the system's colours, resolved by the current drawing
+/// appearance.
 void installColors() {
   struct Shades {
     SEL name;
@@ -99,13 +101,13 @@ void installColors() {
       const auto part = [shade](int shift) { return (shade >> shift & 0xFF) / 255.0; };
       return [NSColor colorWithDeviceRed:part(24) green:part(16) blue:part(8) alpha:part(0)];
     };
-    // GNUstep knows some of them.
+    // GNUstep defines some of them.
     class_replaceMethod(object_getClass(NSColor.class), color.name,
                         imp_implementationWithBlock(block), "@@:");
   }
 }
 
-/// Inter's own metrics, which GNUstep rounds.
+/// Installs one of Inter's metrics, which GNUstep rounds.
 void installFontMetric(SEL name, double share) {
   IMP* const replaced = new IMP;
   *replaced = replaceMethod(NSFont.class, name, ^CGFloat(NSFont* font) {
@@ -135,7 +137,7 @@ void installAppearance() {
       ^(NSApplication* application, NSAppearance* appearance) {
         callReplaced<void, id>(setAppearance, application, @selector(setAppearance:), appearance);
         for (NSWindow* window in application.windows) {
-          tellOfAppearance(window.contentView);
+          announceAppearance(window.contentView);
         }
       });
 }

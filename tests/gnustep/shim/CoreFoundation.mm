@@ -1,4 +1,4 @@
-// Core Foundation's objects are Objective-C objects here. Without ARC.
+// Implements Core Foundation's objects as Objective-C objects. Without ARC.
 #import <AppKit/AppKit.h>
 
 #include <ctime>
@@ -42,7 +42,7 @@ const CFStringRef kCFPreferencesAnyHost = CFSTR("anyHost");
 const CFStringRef kCFPreferencesCurrentHost = CFSTR("currentHost");
 const CFRunLoopMode kCFRunLoopCommonModes = (CFRunLoopMode)NSRunLoopCommonModes;
 
-// As Core Foundation, these do not put up with null.
+// Core Foundation does not accept null here, either.
 CFTypeRef CFRetain(CFTypeRef object) {
   NSCAssert(object != nullptr, @"nothing to retain");
   return [(id)object retain];
@@ -55,7 +55,7 @@ CFTypeID CFGetTypeID(CFTypeRef object) {
   if ([(id)object isKindOfClass:NSString.class]) {
     return orvane::gnustep::string;
   }
-  // Numbers and booleans are of one class; a boolean is of a subclass of its own.
+  // Booleans are a subclass of numbers.
   return [(id)object isKindOfClass:[(id)kCFBooleanTrue class]] ? orvane::gnustep::boolean
                                                                : orvane::gnustep::anything;
 }
@@ -112,7 +112,7 @@ CFTimeInterval CACurrentMediaTime() {
   return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
-// A display's UUID is its text.
+// The UUID object of a display is a string.
 CFUUIDRef CGDisplayCreateUUIDFromDisplayID(std::uint32_t number) {
   for (const auto& display : world().displays) {
     if (display.number == number && !display.uuid.empty()) {
@@ -125,7 +125,7 @@ CFStringRef CFUUIDCreateString(CFAllocatorRef, CFUUIDRef uuid) {
   return (CFStringRef)[(id)uuid copy];
 }
 boolean_t CGDisplayIsMain(CGDirectDisplayID number) {
-  // The screen of the X server, where a test has arranged none.
+  // The screen of the X server if the test has set up no displays.
   NSNumber* const main = NSScreen.mainScreen.deviceDescription[@"NSScreenNumber"];
   return main.unsignedIntValue == number;
 }

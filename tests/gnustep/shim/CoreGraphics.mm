@@ -1,4 +1,4 @@
-// Core Graphics on cairo: colours, paths, the graphics state and the clip. Without ARC.
+// Implements Core Graphics on cairo: colours, paths, the graphics state and the clip. Without ARC.
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -61,7 +61,8 @@ using orvane::gnustep::paint;
 }
 
 - (void)dealloc {
-  NSCAssert(_layers.empty() && _states.size() == 1, @"a drawing ends with something open");
+  NSCAssert(_layers.empty() && _states.size() == 1,
+            @"a context ends with an open layer or saved state");
   cairo_destroy(_cairo);
   [super dealloc];
 }
@@ -312,7 +313,7 @@ void CGContextDrawLinearGradient(CGContextRef context, CGGradientRef reference, 
       cairo_pattern_add_color_stop_rgba(pattern, gradient->_locations[stop], color[0], color[1],
                                         color[2], color[3]);
     }
-    // The application paints beyond both ends.
+    // The application always requests drawing beyond both ends.
     cairo_pattern_set_extend(pattern, CAIRO_EXTEND_PAD);
     cairo_set_source(cairo, pattern);
     cairo_pattern_destroy(pattern);

@@ -1,7 +1,8 @@
-// Core Text on pango, with Inter for the system's font. Without ARC.
+// Implements Core Text on pango, with Inter Display as the system's font. Without ARC.
 #include <pango/pangocairo.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 
 #include "tests/gnustep/shim/DrawingContext.hpp"
@@ -21,7 +22,7 @@
 
 namespace {
 
-/// Glyphs where their advances put them, at 72 pixels to the inch: a point is a unit.
+/// Places glyphs by their unrounded advances, at 72 dpi, so that a point is a unit.
 PangoContext* textContext() {
   static PangoContext* const context = [] {
     PangoFontMap* const fonts = pango_cairo_font_map_new();
@@ -40,7 +41,7 @@ PangoContext* textContext() {
 }
 
 PangoWeight pangoWeight(double weight) {
-  // AppKit's nine weights lie between these.
+  // The limits between AppKit's nine weights.
   constexpr double limits[] = {-0.7, -0.5, -0.2, 0.1, 0.27, 0.35, 0.5, 0.6};
   int hundreds = 1;
   for (const double limit : limits) {
@@ -53,6 +54,7 @@ PangoWeight pangoWeight(double weight) {
 
 const CFStringRef kCTFontAttributeName = CFSTR("NSFont");
 const CFStringRef kCTForegroundColorAttributeName = CFSTR("CTForegroundColor");
+const CFStringRef kCTTrackingAttributeName = CFSTR("CTTracking");
 
 CTLineRef CTLineCreateWithAttributedString(CFAttributedStringRef reference) {
   NSAttributedString* const string = (NSAttributedString*)reference;
@@ -65,11 +67,17 @@ CTLineRef CTLineCreateWithAttributedString(CFAttributedStringRef reference) {
   line->_color = ((OrvaneShimColor*)attributes[(id)kCTForegroundColorAttributeName])->_color;
   NSFont* const font = attributes[(id)kCTFontAttributeName];
   PangoFontDescription* const description = pango_font_description_new();
-  pango_font_description_set_family(description, "Inter");
+  pango_font_description_set_family(description, "Inter Display");
   pango_font_description_set_absolute_size(description, font.pointSize * PANGO_SCALE);
   pango_font_description_set_weight(description, pangoWeight(orvane::gnustep::weightOf(font)));
   pango_layout_set_font_description(line->_layout, description);
   pango_font_description_free(description);
+  const double tracking = [attributes[(id)kCTTrackingAttributeName] doubleValue];
+  PangoAttrList* const spacing = pango_attr_list_new();
+  pango_attr_list_insert(spacing, pango_attr_letter_spacing_new(
+                                      static_cast<int>(std::lround(tracking * PANGO_SCALE))));
+  pango_layout_set_attributes(line->_layout, spacing);
+  pango_attr_list_unref(spacing);
   pango_layout_set_text(line->_layout, string.string.UTF8String, -1);
   return (CTLineRef)line;
 }
@@ -86,10 +94,11 @@ double CTLineGetTypographicBounds(CTLineRef line, CGFloat* ascent, CGFloat* desc
     double above = static_cast<double>(-reach.y) / PANGO_SCALE;
     double below = static_cast<double>(reach.y + reach.height) / PANGO_SCALE;
     PangoFontDescription* const face = pango_font_describe(run->item->analysis.font);
-    const bool isSystemFont = std::string_view(pango_font_description_get_family(face)) == "Inter";
+    const bool isSystemFont =
+        std::string_view(pango_font_description_get_family(face)) == "Inter Display";
     pango_font_description_free(face);
     if (!isSystemFont) {
-      // Chinese: on a Mac in PingFang SC.
+      // Chinese, for which macOS uses PingFang SC.
       const double size = static_cast<double>(pango_font_description_get_size(font)) / PANGO_SCALE;
       above = 1.06 * size;
       below = 0.34 * size;
@@ -124,13 +133,13 @@ CTTypesetterRef CTTypesetterCreateWithAttributedString(CFAttributedStringRef str
   return (CTTypesetterRef)CTLineCreateWithAttributedString(string);
 }
 CFIndex CTTypesetterSuggestLineBreak(CTTypesetterRef reference, CFIndex start, double width) {
-  NSCAssert(start == 0, @"the shim breaks from the beginning only");
+  NSCAssert(start == 0, @"the shim breaks only from the start of the text");
   PangoLayout* const layout = ((OrvaneShimLine*)reference)->_layout;
   pango_layout_set_wrap(layout, PANGO_WRAP_WORD_CHAR);
   pango_layout_set_width(layout, static_cast<int>(width * PANGO_SCALE));
   const char* const text = pango_layout_get_text(layout);
   const char* end = text + pango_layout_get_line_readonly(layout, 0)->length;
-  // Blanks at the end of a line belong to it.
+  // Trailing spaces belong to the line.
   while (*end == ' ') {
     ++end;
   }

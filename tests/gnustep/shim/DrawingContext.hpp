@@ -1,5 +1,5 @@
-// A drawing context of Core Graphics on a cairo surface. Its base space has y upwards, as a
-// bitmap's.
+// A Core Graphics drawing context on a cairo surface. In its base space y points upwards, as in a
+// bitmap.
 #pragma once
 
 #include <memory>
@@ -19,13 +19,13 @@ struct Color {
 };
 
 struct Shadow {
-  /// Both in the base space, whatever the transform.
+  /// Both in the base space, regardless of the transform.
   CGSize offset{};
   double blur = 0;
   Color color;
 };
 
-/// A path that was stroked before it became the clip; cairo cannot clip to a stroke.
+/// A stroked path that became the clip; cairo cannot clip to a stroke.
 struct StrokeClip {
   std::shared_ptr<cairo_path_t> path;
   double width = 0;
@@ -60,7 +60,7 @@ struct Layer {
 @interface OrvaneShimContext : NSObject {
  @public
   cairo_t* _cairo;
-  /// From the base space to cairo's.
+  /// From the base space to cairo's device space.
   cairo_matrix_t _base;
   int _width;
   int _height;
@@ -71,19 +71,19 @@ struct Layer {
   CGPoint _textPosition;
   BOOL _pathIsStroked;
 }
-/// Takes over `cairo`; the size is that of its target.
+/// Takes ownership of `cairo`; the size is that of its target.
 - (instancetype)initWithCairo:(cairo_t*)cairo
                          base:(cairo_matrix_t)base
                     transform:(CGAffineTransform)transform
                         width:(int)width
                        height:(int)height;
-/// On an image surface of as many points as it has pixels.
+/// On an image surface with one pixel per point.
 - (instancetype)initWithSurface:(cairo_surface_t*)surface;
-/// Gives cairo the transform of the user space.
+/// Sets cairo's matrix to the user space.
 - (void)useTransform;
 @end
 
-/// AppKit's side of such a context.
+/// AppKit's wrapper of such a context.
 @interface OrvaneShimGraphicsContext : NSGraphicsContext {
  @public
   OrvaneShimContext* _context;
@@ -94,14 +94,14 @@ struct Layer {
 
 namespace orvane::gnustep {
 
-/// What a reference refers to. Inline, because each side counts as it is compiled: a file with ARC
-/// takes what another function returns for its own when it was the last to be autoreleased.
+/// The object behind a reference. Inline, because it is used with and without ARC: with ARC, the
+/// caller may claim an autoreleased result of an out-of-line function.
 inline OrvaneShimContext* contextOf(CGContextRef reference) {
   return (__bridge OrvaneShimContext*)reference;
 }
-/// The reference lives as long as the autorelease pool.
+/// The reference is valid until the autorelease pool is drained.
 CGContextRef autoreleased(OrvaneShimContext* context);
-/// The weight that the system's font was asked for.
+/// The weight with which a system font was requested.
 double weightOf(NSFont* font);
 
 }  // namespace orvane::gnustep

@@ -1,5 +1,5 @@
-// Event taps that are asked about movements which a test makes, and that note what Quartz would not
-// have put up with. Without ARC.
+// Event taps for the pointer movements of tests, with a record of misuse that Quartz would not
+// tolerate. Without ARC.
 #import <AppKit/AppKit.h>
 
 #include <algorithm>
@@ -55,7 +55,7 @@ bool isLive(const OrvaneShimPort* port) {
          });
 }
 
-/// The callback may end its own port.
+/// Calls the port's callback, which may release the port.
 void ask(OrvaneShimPort* port, CGEventType type, CGEventRef event) {
   [port retain];
   port->_callback(nullptr, type, event, port->_userInfo);

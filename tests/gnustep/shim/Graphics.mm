@@ -1,5 +1,5 @@
-// Where AppKit's drawing meets Core Graphics: graphics contexts, images, symbols and the material
-// behind a window.
+// AppKit's drawing on Core Graphics: graphics contexts, images, symbols and the material behind a
+// window.
 #include <librsvg/rsvg.h>
 
 #include <algorithm>
@@ -11,7 +11,7 @@
 
 using orvane::gnustep::contextOf;
 
-/// GNUstep's graphics state of the cairo back end.
+/// The graphics state of GNUstep's cairo back end.
 @interface NSObject (OrvaneShimCairoState)
 - (NSSize)size;
 @end
@@ -39,7 +39,7 @@ using orvane::gnustep::contextOf;
 
 @end
 
-/// A picture that is drawn anew each time, in a context whose y points upwards.
+/// An image that a handler draws on each use, in a context whose y points upwards.
 @interface OrvaneShimDrawing : NSImageRep {
  @public
   BOOL (^_handler)(NSRect rect);
@@ -107,8 +107,8 @@ OrvaneShimContext* currentContext() {
   return contextOf(NSGraphicsContext.currentContext.CGContext);
 }
 
-/// The desk's drawing of the symbol; nil when there is none. As on the desk, a symbol at 24 points
-/// has the size of its drawing, of whose 32 units in height the middle 28 count.
+/// The desk's drawing of the symbol; nil if there is none. As on the desk, a symbol at 24 points
+/// has the size of its drawing, of whose height of 32 units the middle 28 count.
 OrvaneShimSymbol* symbolNamed(NSString* name, double pointSize, double weight) {
   NSString* const file = [NSString stringWithFormat:@"%s/%@.svg", ORVANE_SYMBOLS, name];
   RsvgHandle* const drawing = rsvg_handle_new_from_file(file.UTF8String, nullptr);
@@ -146,7 +146,7 @@ OrvaneShimSymbol* symbolNamed(NSString* name, double pointSize, double weight) {
   return symbol;
 }
 
-/// The file of a bundle's image. Kept for good.
+/// The contents of a bundle's image file; never released.
 cairo_surface_t* surfaceOf(NSString* name) {
   static auto* const known = new std::map<std::string, cairo_surface_t*>;
   cairo_surface_t*& surface = (*known)[name.UTF8String];
@@ -157,7 +157,7 @@ cairo_surface_t* surfaceOf(NSString* name) {
   return surface;
 }
 
-/// Upright in a flipped context as in another.
+/// Draws the image upright in flipped and unflipped contexts.
 void drawImage(NSImage* image, NSRect rect, OrvaneShimGraphicsContext* current) {
   OrvaneShimContext* const context = current->_context;
   const bool isFlipped = current.isFlipped;
@@ -183,7 +183,7 @@ void drawImage(NSImage* image, NSRect rect, OrvaneShimGraphicsContext* current) 
   CGContextRestoreGState(current.CGContext);
 }
 
-/// The context of a view that GNUstep draws: on its surface, with its transform and its clip.
+/// The context of a view that GNUstep draws: on the view's surface, with its transform and clip.
 CGContextRef contextFrom(NSGraphicsContext* context) {
   const id state =
       object_getIvar(context, class_getInstanceVariable(object_getClass(context), "gstate"));
@@ -219,7 +219,7 @@ CGContextRef contextFrom(NSGraphicsContext* context) {
   return orvane::gnustep::autoreleased(made);
 }
 
-/// What the material is cut to: the mask with its middle stretched, as a picture of the view.
+/// The mask of the material: the mask image with its middle stretched to the size of the view.
 cairo_surface_t* stretched(NSImage* mask, NSSize size) {
   const NSSize own = mask.size;
   cairo_surface_t* const small = cairo_image_surface_create(
@@ -262,7 +262,7 @@ cairo_surface_t* stretched(NSImage* mask, NSSize size) {
   return large;
 }
 
-/// A plain colour takes the place of the blurred picture.
+/// Draws a plain colour instead of a blurred background.
 void drawMaterial(NSVisualEffectView* view) {
   OrvaneShimContext* const context = currentContext();
   cairo_t* const cairo = context->_cairo;
@@ -337,7 +337,7 @@ ORVANE_STORED_NUMBER(NSImageResizingMode, resizingMode, setResizingMode, integer
 namespace orvane::gnustep {
 
 void installGraphics() {
-  // AppKit holds the current context, GNUstep only points to it.
+  // AppKit retains the current context; GNUstep does not.
   static IMP const setCurrent = replaceClassMethod(
       NSGraphicsContext.class, @selector(setCurrentContext:),
       ^(Class type, NSGraphicsContext* context) {

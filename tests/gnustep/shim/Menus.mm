@@ -1,5 +1,5 @@
-// Menus with views in their rows, tracked in a loop of their own, and the status item with its
-// button in a small window at the top right.
+// Menus with views as rows and their own tracking loop, and the status item with its button in a
+// small window at the top right.
 #include <algorithm>
 #include <vector>
 
@@ -63,10 +63,10 @@ ORVANE_STORED_NUMBER(CGFloat, minimumWidth, setMinimumWidth, doubleValue)
 }
 @end
 
-/// The rows of an open menu, one below the other; those without a view of their own show nothing.
+/// The rows of an open menu, from top to bottom; a row without a view is blank.
 @interface OrvaneShimMenuView : NSView
 - (instancetype)initWithMenu:(NSMenu*)menu;
-/// Handles an event that is meant for the menu; whether it has chosen an item.
+/// Handle an event of the menu; return whether it has chosen an item.
 - (BOOL)chooseByKey:(NSEvent*)event;
 - (BOOL)chooseByMouse:(NSEvent*)event;
 - (NSMenuItem*)highlighted;
@@ -154,7 +154,7 @@ ORVANE_STORED_NUMBER(CGFloat, minimumWidth, setMinimumWidth, doubleValue)
   if (event.type == NSMouseMoved || event.type == NSLeftMouseDragged) {
     [self highlight:[self canChoose:under] ? under : nil];
   }
-  // A row with a view of its own handles the click, and the menu stays open.
+  // A row with a view handles the click itself, and the menu stays open.
   if (event.type == NSLeftMouseUp && under.view == nil && [self canChoose:under]) {
     _highlighted = under;
     return YES;
@@ -171,7 +171,7 @@ void post(NSString* name, NSMenu* menu) {
   [NSNotificationCenter.defaultCenter postNotificationName:name object:menu];
 }
 
-/// The item that is chosen; nil when the menu is closed without a choice.
+/// Returns the chosen item, or nil if the menu is closed without a choice.
 NSMenuItem* track(OrvaneShimMenuView* view, NSWindow* window) {
   while (!isCancelled) {
     @autoreleasepool {
@@ -199,8 +199,8 @@ NSMenuItem* track(OrvaneShimMenuView* view, NSWindow* window) {
   return nil;
 }
 
-/// Shows the menu with its top left corner at a place on the screen; whether an item was chosen,
-/// whose action has then run.
+/// Shows the menu with its top left corner at a screen point; returns whether an item was chosen,
+/// after running its action.
 BOOL runMenu(NSMenu* menu, NSPoint topLeft) {
   const id<NSMenuDelegate> delegate = menu.delegate;
   if (delegate != nil) {

@@ -1,4 +1,4 @@
-// Methods of GNUstep's classes that the shim replaces, and properties that it adds to them.
+// Helpers that replace methods of GNUstep's classes and add properties to them.
 #pragma once
 
 #import <AppKit/AppKit.h>
@@ -6,12 +6,12 @@
 
 namespace orvane::gnustep {
 
-/// Puts a block in the place of an instance method, and returns what was there. The block's first
-/// parameter is the object. Ends the process when the class has no such method.
+/// Replaces an instance method by a block, and returns the old implementation. The block's first
+/// parameter is the object. Aborts if the class has no such method.
 IMP replaceMethod(Class type, SEL name, id block);
 IMP replaceClassMethod(Class type, SEL name, id block);
 
-/// Calls what replaceMethod returned.
+/// Calls an implementation that replaceMethod has returned.
 template <typename Result = void, typename... Arguments>
 Result callReplaced(IMP method, id object, SEL name, Arguments... arguments) {
   auto* const function = reinterpret_cast<void (*)()>(method);
@@ -30,7 +30,7 @@ void installMenus();
 
 }  // namespace orvane::gnustep
 
-/// An object, or a number fetched by `fetch`, that a category keeps with its object.
+/// Properties of categories, stored as associated objects; `fetch` unboxes a number.
 #define ORVANE_STORED_OBJECT(type, getter, setter, policy)            \
   -(type)getter {                                                     \
     return objc_getAssociatedObject(self, @selector(getter));         \

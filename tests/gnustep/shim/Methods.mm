@@ -16,7 +16,7 @@ IMP replaceMethod(Class type, SEL name, id block) {
   }
   IMP const replaced = method_getImplementation(old);
   IMP const replacement = imp_implementationWithBlock(block);
-  // What the class has inherited stays as it is for its other heirs.
+  // An inherited method is overridden, so that other subclasses keep it.
   if (!class_addMethod(type, name, replacement, method_getTypeEncoding(old))) {
     method_setImplementation(class_getInstanceMethod(type, name), replacement);
   }
@@ -34,8 +34,8 @@ const void* imageOf(const void* address) {
   return dladdr(address, &place) != 0 ? place.dli_fbase : nullptr;
 }
 
-/// Where a category of the shim has a method that the class has too, either may be in use. Both
-/// become the shim's.
+/// If a category of the shim and the class itself define the same method, it is undefined which one
+/// is used. Makes the shim's implementation win.
 void preferCategories(Class type) {
   unsigned count = 0;
   Method* const methods = class_copyMethodList(type, &count);
@@ -81,7 +81,7 @@ __attribute__((constructor)) void install() {
       preferCategories(type);
       preferCategories(object_getClass(type));
     }
-    // Windows without a window manager, drawn by cairo, and no window for the application's icon.
+    // Windows without a window manager, drawn by cairo, and no icon window.
     [NSUserDefaults.standardUserDefaults registerDefaults:@{
       @"GSBackend" : @"libgnustep-cairo",
       @"GSBackHandlesWindowDecorations" : @NO,

@@ -1,5 +1,4 @@
-// Observers by block that hear in the order of their registration; GNUstep tells the last one
-// first.
+// Block observers that are notified in order of registration; GNUstep uses the reverse order.
 #include <algorithm>
 #include <map>
 #include <string>
@@ -20,14 +19,14 @@ namespace {
 
 using Observers = std::vector<OrvaneShimObserver*>;
 
-/// By the name of the notification.
+/// By notification name.
 std::map<std::string, Observers>& observers() {
   static auto* const all = new std::map<std::string, Observers>;
   return *all;
 }
 
-/// An observer that is removed before its turn hears nothing.
-void tell(NSNotification* notification) {
+/// Skips observers that are removed before their turn.
+void notify(NSNotification* notification) {
   const std::string name = notification.name.UTF8String;
   for (OrvaneShimObserver* observer : Observers(observers()[name])) {
     if (std::ranges::count(observers()[name], observer) > 0) {
@@ -48,7 +47,7 @@ void installNotifications() {
                       if (isFirst) {
                         callReplaced<id, id, id, id, id>(addObserver, center, add, name, object,
                                                          nil, ^(NSNotification* notification) {
-                                                           tell(notification);
+                                                           notify(notification);
                                                          });
                       }
                       OrvaneShimObserver* const observer = [[OrvaneShimObserver alloc] init];

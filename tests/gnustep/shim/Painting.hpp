@@ -1,4 +1,4 @@
-// Painting with alpha, a blend mode and a shadow, none of which cairo has for a single shape.
+// Painting with alpha, a blend mode and a shadow, which cairo does not support for a single shape.
 #pragma once
 
 #include <functional>
@@ -9,11 +9,11 @@ namespace orvane::gnustep {
 
 cairo_matrix_t matrixFrom(const CGAffineTransform& transform);
 
-/// An image surface of the context's size and at its place in the device; the caller owns it.
+/// An image surface with the context's size and device offset; the caller owns it.
 cairo_surface_t* surfaceLike(const OrvaneShimContext* context);
 
-/// `draw` paints with the current path and matrix of the context's cairo, perhaps twice and
-/// elsewhere; what the graphics state says is added here.
+/// Applies the graphics state to what `draw` paints. `draw` is called with the context's current
+/// path and matrix, possibly twice and on other surfaces.
 void paint(OrvaneShimContext* context, const std::function<void(cairo_t*)>& draw);
 
 }  // namespace orvane::gnustep

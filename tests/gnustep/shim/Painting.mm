@@ -1,4 +1,4 @@
-// Paints on surfaces of its own, and puts them together as the graphics state says. Without ARC.
+// Paints on temporary surfaces and composes them according to the graphics state. Without ARC.
 #include "tests/gnustep/shim/Painting.hpp"
 
 #include <algorithm>
@@ -7,7 +7,7 @@
 namespace orvane::gnustep {
 namespace {
 
-/// The mean over `2 * radius + 1` values of one channel, along a row or a column.
+/// Box blur over `2 * radius + 1` values of one channel, along a row or a column.
 void blurLine(unsigned char* first, int count, int step, int radius) {
   std::vector<int> line(static_cast<std::size_t>(count));
   for (int index = 0; index < count; ++index) {
@@ -26,7 +26,7 @@ void blurLine(unsigned char* first, int count, int step, int radius) {
   }
 }
 
-/// Three boxes are near enough to a Gaussian.
+/// Three box blurs approximate a Gaussian.
 void blurAlpha(cairo_surface_t* surface, double deviation) {
   const int radius =
       static_cast<int>(std::lround((std::sqrt(4 * deviation * deviation + 1) - 1) / 2));
@@ -49,7 +49,7 @@ void blurAlpha(cairo_surface_t* surface, double deviation) {
   cairo_surface_mark_dirty(surface);
 }
 
-/// Draws on `surface` as on the context itself.
+/// Draws on `surface` with the given path and matrix.
 void drawOn(cairo_surface_t* surface, const cairo_path_t* path, const cairo_matrix_t& matrix,
             const std::function<void(cairo_t*)>& draw) {
   cairo_t* const cairo = cairo_create(surface);
@@ -85,21 +85,21 @@ void paint(OrvaneShimContext* context, const std::function<void(cairo_t*)>& draw
   cairo_surface_t* const picture = surfaceLike(context);
   drawOn(picture, path, matrix, draw);
   if (state.shadow) {
-    // Drawn again where the shadow falls: what casts it may lie outside of the picture.
+    // Drawn again at the shadow's offset: the shape itself may lie outside of the picture.
     const auto& [offset, blur, color] = *state.shadow;
     cairo_surface_t* const shadow = surfaceLike(context);
     cairo_surface_set_device_offset(shadow, context->_offsetX + offset.width * context->_base.xx,
                                     context->_offsetY + offset.height * context->_base.yy);
     drawOn(shadow, path, matrix, draw);
     cairo_surface_set_device_offset(shadow, context->_offsetX, context->_offsetY);
-    // The blur is twice the deviation.
+    // The blur radius is twice the standard deviation.
     blurAlpha(shadow, blur * std::abs(context->_base.xx) / 2);
     cairo_set_source_rgba(cairo, color.red, color.green, color.blue, color.alpha * state.alpha);
     cairo_mask_surface(cairo, shadow, 0, 0);
     cairo_surface_destroy(shadow);
   }
   if (state.blendMode == kCGBlendModeSourceIn) {
-    // Nothing is touched but what the path encloses.
+    // Affects only the pixels inside the path.
     cairo_new_path(cairo);
     cairo_append_path(cairo, path);
     cairo_clip(cairo);

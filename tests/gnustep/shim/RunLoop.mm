@@ -1,4 +1,4 @@
-// Run loops as a Mac has them: common modes, blocks, and the main queue served in all of them.
+// Run loops as on macOS: common modes, blocks, and a main queue that is drained in all modes.
 #include <sys/eventfd.h>
 
 #include <utility>
@@ -21,7 +21,7 @@
 }
 @end
 
-/// GNUstep's own server of the main queue, which watches a file descriptor.
+/// GNUstep's class that drains the main queue, which watches a file descriptor.
 @interface NSObject (OrvaneShimMainQueueDrainer)
 + (void*)mainQueueFileDescriptor;
 - (void)receivedEvent:(void*)data
@@ -44,7 +44,7 @@ int descriptorFrom(void* data) {
   return static_cast<int>(reinterpret_cast<std::intptr_t>(data));
 }
 
-/// A timer, a performer and an event that is posted do not wake GNUstep's run loop.
+/// Needed because timers, performers and posted events do not wake GNUstep's run loop.
 void wakeLoop() {
   eventfd_write(descriptorFrom([drainer() mainQueueFileDescriptor]), 1);
 }
@@ -78,7 +78,7 @@ void installRunLoop() {
         }
       });
 
-  // A task of the main queue never runs inside another; what comes up in between comes after it.
+  // A main-queue task never runs inside another; tasks added meanwhile run after it.
   static bool isServing = false;
   static bool hasMissed = false;
   static const SEL received = @selector(receivedEvent:type:extra:forMode:);

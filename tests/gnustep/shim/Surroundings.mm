@@ -1,5 +1,5 @@
-// What is around the application: displays, the pointer, languages, links, the login item, and
-// other copies of it. World.hpp says what they are like.
+// The environment of the application: displays, the pointer, languages, links, the login item, and
+// other copies of it, all as described by World.hpp.
 #include "macos/appkit/ServiceManagement.hpp"
 #include "tests/gnustep/shim/Methods.hpp"
 #include "tests/gnustep/shim/World.hpp"
@@ -14,7 +14,7 @@ using orvane::gnustep::world;
 
 @implementation OrvaneShimScreen
 - (instancetype)initWithDisplay:(const orvane::gnustep::Display&)display {
-  // GNUstep makes its own screens only.
+  // GNUstep has no initialiser for other screens than its own.
   _display = display;
   return self;
 }
@@ -93,7 +93,7 @@ NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification =
       handler(NSRunningApplication.currentApplication, nil);
     });
   } else if (!configuration.promptsUserIfNeeded) {
-    // Otherwise the user would have to dismiss the system's message first, and there is none.
+    // Otherwise the handler would wait until the user dismisses the system's message.
     dispatch_async(dispatch_get_global_queue(0, 0), ^{
       handler(nil, [NSError errorWithDomain:NSCocoaErrorDomain code:256 userInfo:nil]);
     });
@@ -171,7 +171,7 @@ NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification =
 }
 @end
 
-/// Notifications between applications, without a server: observers of this process hear them.
+/// Distributed notifications without a server: they reach observers in this process only.
 @interface OrvaneShimDistributedCenter : NSNotificationCenter
 @end
 
@@ -247,7 +247,7 @@ void installLocale() {
       });
 }
 
-// GNUstep knows nothing of volumes.
+// GNUstep does not support resource values of volumes.
 void installVolumes() {
   replaceMethod(NSURL.class, @selector(getResourceValue:forKey:error:),
                 ^BOOL(NSURL*, id __autoreleasing* value, NSString* key, NSError* __autoreleasing*) {
@@ -259,7 +259,7 @@ void installVolumes() {
                 });
 }
 
-// GNUstep knows of no other application.
+// GNUstep does not list other applications.
 void installCopies() {
   replaceClassMethod(NSRunningApplication.class, @selector(currentApplication), ^id(Class) {
     return copyWith(NSProcessInfo.processInfo.processIdentifier,
@@ -288,11 +288,11 @@ void installSurroundings() {
   installLocale();
   installVolumes();
   installCopies();
-  // GNUstep opens what stands on the command line, and says in a window that it cannot.
+  // GNUstep opens the files of the command line, and reports errors in a window.
   replaceMethod(NSApplication.class, @selector(presentError:), ^BOOL(id, NSError*) {
     return NO;
   });
-  // GNUstep's defaults keep an equal value of another type.
+  // GNUstep's defaults do not replace a value by an equal one of another type.
   static IMP const set = replaceMethod(
       NSUserDefaults.class, @selector(setObject:forKey:),
       ^(NSUserDefaults* defaults, id value, NSString* key) {

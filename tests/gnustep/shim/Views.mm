@@ -1,5 +1,5 @@
-// Views as AppKit has them: layout before drawing, tracking areas, safe areas, frames of the
-// display and drags of files.
+// Views as in AppKit: layout before drawing, tracking areas, safe areas, display links and file
+// drags.
 #include <utility>
 
 #include "tests/gnustep/shim/Methods.hpp"
@@ -7,6 +7,7 @@
 
 NSString* const kCACornerCurveCircular = @"circular";
 NSString* const kCACornerCurveContinuous = @"continuous";
+NSString* const kCAContentsFormatRGBA16Float = @"RGBA16Float";
 
 @implementation CALayer
 @end
@@ -164,7 +165,7 @@ void layOut(NSView* view) {
   }
 }
 
-/// Layout may ask for layout, which AppKit grants a few times.
+/// Layout may invalidate layout; AppKit repeats it a few times.
 void layOutWindow(NSWindow* window) {
   for (int pass = 0; pass < 3; ++pass) {
     layOut(window.contentView);
@@ -188,7 +189,7 @@ void layOutSoon() {
                                   }];
 }
 
-/// Tells the owners of tracking areas that the pointer has entered or left them.
+/// Notifies the owners of tracking areas of pointer movements.
 void track(NSView* view, NSPoint inWindow, NSEvent* event) {
   NSValue* const frame = [NSValue valueWithRect:view.frame];
   if (![objc_getAssociatedObject(view, &trackedFrameKey) isEqual:frame]) {
@@ -228,12 +229,12 @@ void trackIn(NSEvent* event) {
 }  // namespace
 
 void installViews() {
-  // AppKit's is made of the other two, which subclasses override.
+  // AppKit's implementation calls the other two, which subclasses override.
   replaceMethod(NSView.class, @selector(setFrame:), ^(NSView* view, NSRect frame) {
     [view setFrameOrigin:frame.origin];
     [view setFrameSize:frame.size];
   });
-  // GNUstep's engine for constraints holds every view that was laid out, for as long as the window.
+  // GNUstep's constraint engine retains every view that was laid out until the window is released.
   replaceMethod(NSView.class, @selector(layoutSubtreeIfNeeded), ^(NSView* view) {
     layOut(view);
   });

@@ -1,4 +1,4 @@
-// Windows as AppKit has them, where GNUstep's differ.
+// Windows as in AppKit, where GNUstep's differ.
 #include <initializer_list>
 
 #include "tests/gnustep/shim/Methods.hpp"
@@ -54,8 +54,8 @@ ORVANE_STORED_OBJECT(id, accessibilityValue, setAccessibilityValue, OBJC_ASSOCIA
 namespace orvane::gnustep {
 namespace {
 
-/// AppKit gives a title bar to titled windows alone, and lays it over content that fills the
-/// window; GNUstep gives one to what can be closed or miniaturised, too.
+/// AppKit gives a title bar to titled windows only, and lays it over full-size content; GNUstep
+/// gives one to closable and miniaturisable windows, too.
 NSUInteger decorated(NSUInteger mask) {
   constexpr NSUInteger decorations = 0xF;
   constexpr NSUInteger fullSizeContentView = 1 << 15;
@@ -95,7 +95,7 @@ void installWindows() {
           callReplaced<void, id>(terminate, application, @selector(terminate:), sender);
         }
       });
-  // The mask is remembered to its last bit; GNUstep sees what it can take.
+  // Stores the complete mask; GNUstep receives the part that it supports.
   static const SEL initialise = @selector(initWithContentRect:styleMask:backing:defer:);
   static IMP const init = replaceMethod(
       NSWindow.class, initialise,
@@ -122,11 +122,11 @@ void installWindows() {
   static IMP const setFloating = replaceMethod(
       NSPanel.class, @selector(setFloatingPanel:), ^(NSPanel* panel, BOOL isFloating) {
         callReplaced<void, BOOL>(setFloating, panel, @selector(setFloatingPanel:), isFloating);
-        // GNUstep has another number for it.
+        // GNUstep uses another value.
         constexpr NSInteger floatingLevel = 3;
         panel.level = isFloating ? floatingLevel : NSNormalWindowLevel;
       });
-  // Children move with their parent.
+  // Child windows move with their parent.
   static IMP const setOrigin = replaceMethod(
       NSWindow.class, @selector(setFrameOrigin:), ^(NSWindow* window, NSPoint origin) {
         const NSPoint before = window.frame.origin;
@@ -137,7 +137,7 @@ void installWindows() {
                                             place.y + origin.y - before.y)];
         }
       });
-  // AppKit holds it weakly, GNUstep for good.
+  // AppKit holds it weakly; GNUstep retains it.
   replaceMethod(NSWindow.class, @selector(setInitialFirstResponder:),
                 ^(NSWindow*, NSView*){
                 });

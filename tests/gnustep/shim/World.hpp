@@ -1,5 +1,5 @@
-// The machine around the application as the shim pretends it to be: what a test may arrange, and
-// what it may look at afterwards.
+// The environment that the shim simulates: the state that a test may set up, and the effects that
+// it may inspect.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,7 @@ namespace orvane::gnustep {
 
 struct Display {
   std::uint32_t number = 0;
-  /// Empty: the system knows none.
+  /// Empty if the system has none.
   std::string uuid;
   std::string name;
   /// Global coordinates, y downwards.
@@ -25,23 +25,23 @@ struct Display {
 
 struct FileDrag {
   std::string url;
-  /// The values of NSDragOperation, or-ed together.
+  /// A mask of NSDragOperation values.
   unsigned operations = 0;
-  /// In the coordinates of the view that was dragged from.
+  /// In the coordinates of the source view.
   CGRect frame{};
   bool hasImage = false;
 };
 
 /// Another copy of the application.
 struct Copy {
-  /// None: not launched by the system.
+  /// Empty if it was not launched by the system.
   std::optional<double> launchedAt;
   bool isRunning = true;
 };
 
 /// Main thread only.
 struct World {
-  /// Empty: those of the X server. The first is the main one.
+  /// If empty, those of the X server. The first is the main one.
   std::vector<Display> displays;
   /// Global coordinates.
   CGPoint pointer{};
@@ -52,45 +52,45 @@ struct World {
   bool reducesTransparency = false;
   bool reducesMotion = false;
 
-  /// By "application/key"; the application sees what was stored when it last synchronised.
+  /// By "application/key"; the application sees the values of its last synchronisation.
   std::map<std::string, std::variant<std::string, double>> storedPreferences;
   std::map<std::string, std::variant<std::string, double>> seenPreferences;
-  /// Empty: the process's own.
+  /// If empty, those of the process.
   std::vector<std::string> preferredLanguages;
   std::string localeIdentifier;
 
-  /// A number of SMAppServiceStatus.
+  /// A value of SMAppServiceStatus.
   int loginItemStatus = 0;
-  /// Not empty: registrations fail with this text.
+  /// If not empty, registrations fail with this error.
   std::string loginItemError;
   bool isBundleOnReadOnlyVolume = false;
   std::vector<std::string> openedLinks;
-  /// Not empty: links that begin so are refused.
+  /// If not empty, opening links with this prefix fails.
   std::string refusedLinkPrefix;
 
-  /// By process number.
+  /// By process identifier.
   std::map<int, Copy> otherCopies;
-  /// To which copies the application has yielded its activation.
+  /// The copies to which the application has yielded its activation.
   std::vector<int> yieldedTo;
   int activations = 0;
   std::vector<std::string> distributedNotifications;
 
-  /// The file that is on its way with the pointer.
+  /// The file of the current dragging session.
   std::optional<FileDrag> drag;
-  /// What assistive programs were told: the notification, and after a bar the announced text.
+  /// The accessibility notifications: the name, a bar and the announced text.
   std::vector<std::string> announcements;
 
-  /// Ports and sources of event taps that exist.
+  /// The number of live ports and sources of event taps.
   int liveTapObjects = 0;
-  /// What Quartz would not have put up with, such as a port that ends while it is valid.
+  /// Misuse that Quartz would not tolerate, such as a port that is released while it is valid.
   std::vector<std::string> tapFaults;
 };
 
 World& world();
 
-/// A movement of the pointer by hardware: every enabled tap on the run loop may change it.
+/// Moves the pointer as hardware does: every enabled tap on the run loop may change the movement.
 void movePointer(CGPoint goal);
-/// The system disables all taps and says why.
+/// Disables all taps as the system does, with a reason.
 void disableTaps(CGEventType reason);
 int liveTaps();
 int enabledTaps();

@@ -1,5 +1,7 @@
 // Where everything of the main panel stands, in points from its top left corner.
 #include <string>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -68,6 +70,78 @@ TEST_F(ContentViewLayoutTest, ThePanelsAreStackedWithTheirHeights) {
   // Surfaces are drawn once for their fill, once for what lies over it.
   EXPECT_GE(drawn("(25 91 650 269 r12"), 2);
   EXPECT_GE(drawn("(25 370 650 121 r12"), 2);
+}
+
+TEST_F(ContentViewLayoutTest, WhatTheRowsLeaveOfThePanelsIsDividedEvenly) {
+  openMain();
+  const auto shapeTops = [this](const std::string& size) {
+    std::vector<double> tops;
+    for (const std::string& line : drawing(mainPanel)) {
+      const std::size_t start = line.find("fill rounded(45 ");
+      if (start != std::string::npos && line.find(" " + size + " r") != std::string::npos) {
+        tops.push_back(std::stod(line.substr(start + 16)));
+      }
+    }
+    return tops;
+  };
+  const std::vector<double> icons = shapeTops("48 48");
+  ASSERT_GE(icons.size(), 2U);
+  const ui::Rect pin = button("Pin Dock");
+  const ui::Rect prevent = button("Prevent Dock Pop-Up");
+  const ui::Rect card = withRole(ui::Role::radioButton, mainPanel).at(1).frame;
+  // The panels' edges are at 91 and 360, and at 370 and 491.
+  EXPECT_EQ(360 - pin.bottom(), 10.5);
+  EXPECT_EQ(491 - prevent.bottom(), 10.5);
+  EXPECT_EQ(pin.y - card.bottom(), 10);
+  EXPECT_EQ(card.y - (91 + 10.5 + 48), 10);
+  // On whole pixels, as they are drawn at one pixel to the point.
+  EXPECT_NEAR(icons.front() - 91, 10.5, 0.5);
+  EXPECT_EQ(icons.back() - 370, icons.front() - 91);
+}
+
+TEST_F(ContentViewLayoutTest, CardsStandLevelWhateverScriptTheirNamesAreIn) {
+  attach(4, CGRectMake(3360, 0, 1920, 1080), "左侧显示器", false);
+  openMain();
+  const auto levels = [this](const std::string& mark, const std::string& after) {
+    std::vector<std::string> found;
+    for (const std::string& line : drawing(mainPanel)) {
+      const std::size_t start = line.find(mark);
+      if (start != std::string::npos) {
+        // What follows a horizontal place.
+        const std::size_t place = line.find(' ', line.find(after, start) + after.size());
+        found.push_back(line.substr(place, line.find(' ', place + 1) - place));
+      }
+    }
+    return found;
+  };
+  for (const OrvaneLanguage::Value language : {OrvaneLanguage::english, OrvaneLanguage::chinese}) {
+    model().setAppLanguage(language);
+    machine.runDue();
+    // The chosen card is drawn in its own scale; the three others are a monitor each.
+    const std::vector<std::string> images = levels("image DisplayMonitor ", "(");
+    const std::vector<std::string> names = levels(" 13/500 ", " at ");
+    const std::vector<std::string> roles = levels(" 11/600 rgba(0 0 0", " at ");
+    EXPECT_EQ(images, std::vector<std::string>(3, images.at(0)));
+    EXPECT_EQ(names, std::vector<std::string>(3, names.at(0)));
+    EXPECT_EQ(roles, std::vector<std::string>(3, roles.at(0)));
+  }
+}
+
+TEST_F(ContentViewLayoutTest, BothLightsShowTheirSymbolsWhereverInTheirClusterThePointerIs) {
+  openMain();
+  const CGPoint corner = server().topLeftOf(*window(mainPanel));
+  const auto symbolsWithPointerAt = [&](double x, double y) {
+    machine.mouse.moveTo({corner.x + x, corner.y + y});
+    machine.advance(1);
+    return drawn("symbol xmark ") + drawn("symbol minus ");
+  };
+  EXPECT_EQ(symbolsWithPointerAt(350, 33), 0);
+  for (const auto& [x, y] : std::vector<std::pair<double, double>>{
+           {35, 33}, {58, 33}, {46, 33}, {30, 6}, {149, 33}, {100, 65}}) {
+    EXPECT_EQ(symbolsWithPointerAt(x, y), 2) << x << " " << y;
+  }
+  EXPECT_EQ(symbolsWithPointerAt(151, 33), 0);
+  EXPECT_EQ(symbolsWithPointerAt(100, 67), 0);
 }
 
 TEST_F(ContentViewLayoutTest, NothingMovesWhenTheHintTakesTheDescriptionsPlace) {

@@ -131,6 +131,22 @@ TEST_F(DisplayChoiceCardTest, LetsItsBadgeGrowFromFourFifthsAndFadeIn) {
   EXPECT_TRUE(draws("symbol checkmark")) << drawing();
 }
 
+TEST_F(DisplayChoiceCardTest, DarkensWhilePressedAndGrowsNoMore) {
+  const std::string shade = "fill rounded(12 9 176 142 r12 continuous) rgba(0 0 0 0.08)";
+  showCard(false);
+  hover({100, 80});
+  EXPECT_FALSE(draws(shade)) << drawing();
+  hold({100, 80});
+  EXPECT_TRUE(draws(shade)) << drawing();
+  EXPECT_NEAR(growth(), 1, 1e-9);
+  appear(true);
+  EXPECT_TRUE(draws("continuous) rgba(0 0 0 0.2)")) << drawing();
+  appear(false);
+  test.host->pointerDragged({5, 80});
+  rest();
+  EXPECT_FALSE(draws(shade)) << drawing();
+}
+
 TEST_F(DisplayChoiceCardTest, RunsItsActionForATapAnywhereOnIt) {
   showCard(false);
   test.click({14, 80});

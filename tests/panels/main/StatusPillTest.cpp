@@ -28,7 +28,7 @@ TEST_F(StatusPillTest, IsGreyWhileInactive) {
 }
 
 TEST_F(StatusPillTest, LeavesThirteenPointsBesideAndEightAboveItsText) {
-  show(StatusPill{"1234", false}, {200, 61});
+  show(StatusPill{"1234", false}, {200, 60});
   const auto text = test.element("1234");
   ASSERT_TRUE(text);
   const ui::Rect pill{text->frame.x - 13, text->frame.y - 8, text->frame.width + 26,

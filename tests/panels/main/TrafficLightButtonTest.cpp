@@ -36,6 +36,18 @@ TEST_F(TrafficLightButtonTest, GrowsAndCastsAShadowOfItsColourOnlyWhileItIsHover
   EXPECT_FALSE(draws("scale")) << drawing();
 }
 
+TEST_F(TrafficLightButtonTest, DarkensWhilePressed) {
+  const std::string shade = "fill ellipse(13 13 14 14) rgba(0 0 0 0.2)";
+  show(TrafficLightButton::close(true, "Close", [] {}), {40, 40});
+  hover({20, 20});
+  EXPECT_FALSE(draws(shade)) << drawing();
+  hold({20, 20});
+  EXPECT_TRUE(draws(shade)) << drawing();
+  test.host->pointerUp({20, 20});
+  rest();
+  EXPECT_FALSE(draws(shade)) << drawing();
+}
+
 TEST_F(TrafficLightButtonTest, FollowsThePointerWithinAMoment) {
   show(TrafficLightButton::close(true, "Close", [] {}), {40, 40});
   const auto growth = [this] { return (test.element("Close")->frame.width / 14 - 1) / 0.1; };

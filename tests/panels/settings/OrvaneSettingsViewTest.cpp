@@ -74,6 +74,29 @@ TEST_F(OrvaneSettingsViewTest, SaysEverythingToTheLetter) {
   }
 }
 
+TEST_F(OrvaneSettingsViewTest, BothPickersHaveLabelsOfOneStyle) {
+  openSettings();
+  const auto styleOf = [this](const std::string& text) {
+    for (const std::string& line : drawing(settingsPanel)) {
+      const std::size_t start = line.find("text \"" + text);
+      if (start != std::string::npos) {
+        const std::size_t style = line.find('"', start + 6 + text.size());
+        return line.substr(style, line.find(" at ") - style);
+      }
+    }
+    return "no text " + text;
+  };
+  EXPECT_EQ(styleOf("Use Orvane in"), styleOf("Hold the shortcut"));
+  EXPECT_NE(styleOf("Use Orvane in"), styleOf("Contact support by email"));
+}
+
+TEST_F(OrvaneSettingsViewTest, TheHeaderBeginsWhereTheCardsDo) {
+  openSettings();
+  EXPECT_GT(drawn("fill rounded(18 8 30 30 ", settingsPanel), 0);
+  const double cardLeft = frameOf("Use Orvane in", settingsPanel).x - 14;
+  EXPECT_DOUBLE_EQ(cardLeft, 18);
+}
+
 TEST_F(OrvaneSettingsViewTest, ChoosingChineseSwitchesEveryTextOfAllPanelsAtOnce) {
   openSettings();
   ASSERT_TRUE(pick("Language", "Chinese"));

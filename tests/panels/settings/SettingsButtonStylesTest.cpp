@@ -121,10 +121,17 @@ INSTANTIATE_TEST_SUITE_P(
                                   "0.03 0.47 0.98 0.18", "0 0 0 0.85"},
                     SecondaryLook{"in the dark, at rest", true, false, "1 1 1 0.1", "1 1 1 0.16",
                                   "1 1 1 0.85"},
-                    SecondaryLook{"by day, pressed", false, true, "0.85 0.93 1 0.63",
+                    SecondaryLook{"by day, pressed", false, true, "0.03 0.47 0.98 0.22",
                                   "0.03 0.47 0.98 0.18", "0 0 0 0.85"},
-                    SecondaryLook{"in the dark, pressed", true, true, "1 1 1 0.07", "1 1 1 0.16",
+                    SecondaryLook{"in the dark, pressed", true, true, "1 1 1 0.14", "1 1 1 0.16",
                                   "1 1 1 0.85"}));
+
+TEST_F(SettingsButtonStylesTest, TheIconHasARimWhereContrastIsAskedFor) {
+  showIcon();
+  EXPECT_FALSE(draws("rgba(0 0 0 0.6) width")) << drawing();
+  appear(false, true);
+  EXPECT_TRUE(draws("rgba(0 0 0 0.6) width 0.8\n")) << drawing();
+}
 
 TEST_F(SettingsButtonStylesTest, TheSecondaryOneLooksTheSameUnderThePointer) {
   showSecondary();

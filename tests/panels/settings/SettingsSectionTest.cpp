@@ -118,5 +118,17 @@ TEST_F(SettingsSectionTest, FollowsThePointerWithinAMoment) {
   EXPECT_NEAR(growth(), 1 - moment.progress, 1e-6);
 }
 
+TEST_F(SettingsSectionTest, HasAClearBorderWhereContrastIsAskedFor) {
+  showCard();
+  for (const bool isDark : {false, true}) {
+    const std::string border =
+        isDark ? "rgba(1 1 1 0.6) width 0.8\n" : "rgba(0 0 0 0.6) width 0.8\n";
+    appear(isDark);
+    EXPECT_FALSE(draws(border)) << drawing();
+    appear(isDark, true);
+    EXPECT_TRUE(draws(border)) << drawing();
+  }
+}
+
 }  // namespace
 }  // namespace orvane

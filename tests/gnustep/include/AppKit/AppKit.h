@@ -1,9 +1,10 @@
-// GNUstep's AppKit, and what the application uses beyond it; the shim implements that.
+// GNUstep's AppKit, and declarations of what the application uses beyond it, which the shim
+// implements.
 #pragma once
 
 #import <Foundation/Foundation.h>
 
-// An instance variable of GNUstep's has the name of a keyword.
+// One of GNUstep's instance variables has a keyword as its name.
 #define template gnustepTemplate
 #include_next <AppKit/AppKit.h>
 #undef template
@@ -24,10 +25,11 @@ extern "C" {
 extern NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
 extern NSString* const kCACornerCurveCircular;
 extern NSString* const kCACornerCurveContinuous;
+extern NSString* const kCAContentsFormatRGBA16Float;
 NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 }
 
-// What GNUstep has as methods only.
+// Properties that GNUstep declares as methods only.
 @interface NSWindow (OrvaneShimProperties)
 @property(readonly, getter=isVisible) BOOL visible;
 @property(readonly, getter=isKeyWindow) BOOL keyWindow;
@@ -52,7 +54,7 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 @property(readonly, getter=isTerminated) BOOL terminated;
 @end
 
-// What GNUstep does not have.
+// Declarations that GNUstep lacks.
 @class NSStatusBarButton;
 
 @interface NSAppearance (OrvaneShim)
@@ -77,6 +79,7 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 @interface CALayer : NSObject
 @property CGFloat cornerRadius;
 @property(copy) NSString* cornerCurve;
+@property(copy) NSString* contentsFormat;
 @property BOOL masksToBounds;
 @end
 

@@ -1,5 +1,5 @@
-// What ApplicationServices brings along on a Mac, as far as the application uses it and
-// Orvane/platform/Quartz.hpp does not declare it already: drawing with Core Graphics and Core Text.
+// The parts of ApplicationServices that the application uses and Orvane/platform/Quartz.hpp does
+// not declare: drawing with Core Graphics and Core Text.
 #pragma once
 
 #include <CoreFoundation/CFCGTypes.h>
@@ -84,6 +84,7 @@ using CTLineRef = const struct __CTLine*;
 using CTTypesetterRef = const struct __CTTypesetter*;
 extern const CFStringRef kCTFontAttributeName;
 extern const CFStringRef kCTForegroundColorAttributeName;
+extern const CFStringRef kCTTrackingAttributeName;
 CTLineRef CTLineCreateWithAttributedString(CFAttributedStringRef string);
 double CTLineGetTypographicBounds(CTLineRef line, CGFloat* ascent, CGFloat* descent,
                                   CGFloat* leading);

@@ -1,5 +1,5 @@
-// Takes the place of GNUstep's header of this name: the application's own declarations of points,
-// sizes and rectangles are the ones that the shim implements.
+// Replaces GNUstep's header of this name: the shim implements the application's own declarations of
+// points, sizes and rectangles.
 #pragma once
 
 #include <cfloat>

@@ -1,4 +1,4 @@
-// Core Text is declared with what ApplicationServices brings along.
+// ApplicationServices.h declares Core Text.
 #pragma once
 
 #include <ApplicationServices/ApplicationServices.h>

@@ -1,9 +1,9 @@
-// GNUstep's Foundation, and what the application uses beyond it.
+// GNUstep's Foundation, and declarations of what the application uses beyond it.
 #pragma once
 
 #include <ApplicationServices/ApplicationServices.h>
 
-// GNUstep declares it without a type, whose properties could not be asked for.
+// GNUstep declares its result as id, on which property syntax does not compile.
 #define autoupdatingCurrentLocale autoupdatingCurrentLocaleOfGnustep
 #include_next <Foundation/Foundation.h>
 #undef autoupdatingCurrentLocale

@@ -1,4 +1,4 @@
-// The classes of QuartzCore are declared with what GNUstep's AppKit lacks.
+// The shim's AppKit.h declares the classes of QuartzCore.
 #pragma once
 
 #import <AppKit/AppKit.h>

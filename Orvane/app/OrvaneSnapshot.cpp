@@ -1,0 +1,34 @@
+// Asks each part of the application once.
+#include "Orvane/app/OrvaneSnapshot.hpp"
+
+#include "Orvane/app/OrvaneAppState.hpp"
+#include "Orvane/permission/OrvaneAccessibilityPermission.hpp"
+#include "Orvane/windows/OrvaneWindowController.hpp"
+
+namespace orvane {
+
+OrvaneSnapshot OrvaneSnapshot::current() {
+  OrvaneModel& model = OrvaneAppState::model();
+  const OrvaneWindowController& windows = OrvaneWindowController::shared();
+  return {.guard = model.guardService().snapshot(),
+          .mode = model.mode(),
+          .status = model.status(),
+          .selectedDisplayID = model.selectedDisplayID().value(),
+          .selectedDisplay = model.selectedDisplay(),
+          .hasAccessibilityPermission = model.hasAccessibilityPermission().value(),
+          .isTemporarilyUnlocked = model.isTemporarilyUnlocked().value(),
+          .lastRestoreSucceeded = model.lastRestoreSucceeded().value(),
+          .lastCheckedAt = model.lastCheckedAt().value(),
+          .appLanguage = model.appLanguage().value(),
+          .temporaryUnlockModifier = model.temporaryUnlockModifier().value(),
+          .hidesDockOnAllDisplays = model.hidesDockOnAllDisplays().value(),
+          .launchAtLoginEnabled = model.launchAtLoginEnabled().value(),
+          .launchAtLoginRequiresApproval = model.launchAtLoginRequiresApproval().value(),
+          .launchAtLoginErrorMessage = model.launchAtLoginErrorMessage().value(),
+          .showsMainPanel = windows.window() && windows.window()->isVisible(),
+          .showsSettings = windows.settingsWindow() && windows.settingsWindow()->isVisible(),
+          .asksForPermission = OrvaneAccessibilityPermission::isChecking(),
+          .guide = OrvanePermissionGuideWindowController::snapshot()};
+}
+
+}  // namespace orvane

@@ -1,0 +1,50 @@
+// OrvaneSnapshot is what the application is and shows at one moment: for whoever looks at it from
+// outside, as tests do.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "Orvane/geometry/DisplaySnapshot.hpp"
+#include "Orvane/guard/GuardSnapshot.hpp"
+#include "Orvane/guard/OrvaneModifier.hpp"
+#include "Orvane/model/OrvaneLanguage.hpp"
+#include "Orvane/model/OrvaneMode.hpp"
+#include "Orvane/model/OrvaneStatus.hpp"
+#include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
+#include "Orvane/platform/Quartz.hpp"
+
+namespace orvane {
+
+/// A plain value. Without more said, that of an application that does not run.
+struct OrvaneSnapshot {
+  GuardSnapshot guard = {};
+  OrvaneMode mode = OrvaneMode::off;
+  OrvaneStatus status = OrvaneStatus::unlocked;
+
+  std::optional<std::string> selectedDisplayID = std::nullopt;
+  /// None when it is not attached.
+  std::optional<DisplaySnapshot> selectedDisplay = std::nullopt;
+  bool hasAccessibilityPermission = false;
+  bool isTemporarilyUnlocked = false;
+  std::optional<bool> lastRestoreSucceeded = std::nullopt;
+  /// Seconds by the calendar clock.
+  CFAbsoluteTime lastCheckedAt = 0;
+
+  OrvaneLanguage appLanguage = OrvaneLanguage::system;
+  OrvaneModifier temporaryUnlockModifier = OrvaneModifier::option;
+  bool hidesDockOnAllDisplays = false;
+  bool launchAtLoginEnabled = false;
+  bool launchAtLoginRequiresApproval = false;
+  std::optional<std::string> launchAtLoginErrorMessage = std::nullopt;
+
+  bool showsMainPanel = false;
+  bool showsSettings = false;
+  bool asksForPermission = false;
+  OrvanePermissionGuideWindowController::Snapshot guide = {};
+
+  /// Of the application, which must be running. Main thread only.
+  [[nodiscard]] static OrvaneSnapshot current();
+};
+
+}  // namespace orvane

@@ -1,0 +1,16 @@
+// The look of a button whose label is a surface of its own.
+#include "Orvane/panels/main/DarkeningButtonStyle.hpp"
+
+#include "Orvane/ui/ShapeView.hpp"
+
+namespace orvane {
+
+using namespace ui;
+
+View DarkeningButtonStyle::body(const ButtonConfiguration& configuration,
+                                const Environment& /*environment*/) const {
+  return configuration.label.overlay(
+      when(configuration.isPressed, ShapeView(form).fill(Color::black().opacity(shade))));
+}
+
+}  // namespace orvane

@@ -1,0 +1,19 @@
+// How many lines a text may take, and where it is cut when they do not hold it.
+#pragma once
+
+namespace orvane::ui {
+
+// Where the ellipsis stands: at the end, or in the middle, so that the end is told, too.
+enum class TruncationMode { tail, middle };
+
+struct LineLimit {
+  // NOLINTNEXTLINE: a number is a limit
+  constexpr LineLimit(int count, TruncationMode mode = TruncationMode::tail)
+      : lines(count), truncation(mode) {}
+
+  // 0 or less means any number.
+  int lines;
+  TruncationMode truncation;
+};
+
+}  // namespace orvane::ui

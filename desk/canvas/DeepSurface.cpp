@@ -1,0 +1,204 @@
+// The inner loops go through colours one by one, many at once for the compiler.
+#include "desk/canvas/DeepSurface.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::desk {
+
+namespace {
+
+/// What a veil of this alpha, at most `whole`, leaves of what is below it, as a share of 2^16.
+std::uint16_t restOf(std::uint16_t alpha) {
+  return static_cast<std::uint16_t>(0xFFFFU - (alpha + (alpha >> 8U)));
+}
+
+std::uint16_t share(std::uint16_t part, std::uint16_t of) {
+  return static_cast<std::uint16_t>((static_cast<std::uint32_t>(part) * of) >> 16U);
+}
+
+/// As many of 2^16 as a byte is of 255.
+std::uint16_t widened(std::uint32_t byte) {
+  return static_cast<std::uint16_t>(byte * 257U);
+}
+
+/// Every colour becomes what is added to what is left of it.
+void over(std::uint16_t* colors, const std::uint16_t* add, const std::uint16_t* rest,
+          std::size_t count) {
+  for (std::size_t index = 0; index < count; ++index) {
+    colors[index] = static_cast<std::uint16_t>(add[index] + share(colors[index], rest[index]));
+  }
+}
+
+/// One colour again and again, up to as often as is worth the room.
+class Repeated {
+ public:
+  static constexpr std::size_t most = 32;
+
+  Repeated(const DeepColor& color, std::size_t count) {
+    std::fill_n(pixels_.begin(), std::min(count, most), color);
+  }
+  [[nodiscard]] const std::uint16_t* data() const { return pixels_.front().data(); }
+
+ private:
+  std::array<DeepColor, most> pixels_;
+};
+
+void blend(std::uint16_t* pixels, std::size_t count, const DeepColor& color) {
+  const std::uint16_t rest = restOf(color[3]);
+  const Repeated add(color, count);
+  const Repeated rests({rest, rest, rest, rest}, count);
+  for (; count > Repeated::most; count -= Repeated::most, pixels += 4 * Repeated::most) {
+    over(pixels, add.data(), rests.data(), 4 * Repeated::most);
+  }
+  over(pixels, add.data(), rests.data(), 4 * count);
+}
+
+DeepColor covered(const DeepColor& color, std::uint8_t coverage) {
+  if (coverage == 0xFF) {
+    return color;
+  }
+  DeepColor result;
+  std::ranges::transform(color, result.begin(), [weight = widened(coverage)](std::uint16_t part) {
+    return share(part, weight);
+  });
+  return result;
+}
+
+/// The same where each pixel is covered otherwise.
+void blendCovered(std::uint16_t* pixels, std::size_t count, const DeepColor& color,
+                  const std::uint8_t* coverage) {
+  const std::uint16_t alpha = static_cast<std::uint16_t>(0xFFFFU - restOf(color[3]));
+  const Repeated colors(color, count);
+  const Repeated alphas({alpha, alpha, alpha, alpha}, count);
+  std::array<std::uint16_t, 4 * Repeated::most> weights;
+  std::array<std::uint16_t, 4 * Repeated::most> rests;
+  while (count > 0) {
+    const std::size_t length = std::min(count, Repeated::most);
+    for (std::size_t pixel = 0; pixel < length; ++pixel) {
+      std::fill_n(weights.begin() + static_cast<std::ptrdiff_t>(4 * pixel), 4,
+                  widened(coverage[pixel]));
+    }
+    for (std::size_t index = 0; index < 4 * length; ++index) {
+      rests[index] =
+          static_cast<std::uint16_t>(0xFFFFU - share(alphas.data()[index], weights[index]));
+    }
+    for (std::size_t index = 0; index < 4 * length; ++index) {
+      weights[index] = share(colors.data()[index], weights[index]);
+    }
+    over(pixels, weights.data(), rests.data(), 4 * length);
+    pixels += 4 * length;
+    coverage += length;
+    count -= length;
+  }
+}
+
+template <typename Value>
+Value* rowOf(cairo_surface_t* surface, int y) {
+  return reinterpret_cast<Value*>(cairo_image_surface_get_data(surface) +
+                                  static_cast<std::ptrdiff_t>(y) *
+                                      cairo_image_surface_get_stride(surface));
+}
+
+PixelRect boundsOf(cairo_surface_t* surface, int x, int y) {
+  return {x, y, x + cairo_image_surface_get_width(surface),
+          y + cairo_image_surface_get_height(surface)};
+}
+
+}  // namespace
+
+DeepColor DeepSurface::colorOf(const ui::Rgba& color) {
+  const double alpha = std::clamp(color.alpha, 0.0, 1.0);
+  const auto part = [](double value) {
+    return static_cast<std::uint16_t>(std::lround(std::clamp(value, 0.0, 1.0) * whole));
+  };
+  return {part(color.blue * alpha), part(color.green * alpha), part(color.red * alpha),
+          part(alpha)};
+}
+
+DeepSurface::DeepSurface(int width, int height)
+    : width_(std::max(width, 0)),
+      height_(std::max(height, 0)),
+      pixels_(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_) * parts) {}
+
+void DeepSurface::clear(const PixelRect& area) {
+  const PixelRect cut = area.cutTo(bounds());
+  if (cut.isEmpty()) {
+    return;
+  }
+  for (int y = cut.top; y < cut.bottom; ++y) {
+    std::fill_n(pixels_.data() + indexOf(cut.left, y),
+                static_cast<std::size_t>(cut.right - cut.left) * parts, std::uint16_t{0});
+  }
+}
+
+void DeepSurface::paint(const CoverageRuns& runs, int x, int y, const PixelRect& clip,
+                        const Rows<DeepColor>& colors) {
+  runs.visit(x, y, clip.cutTo(bounds()), [&](int row, int left, int right, std::uint8_t coverage) {
+    blend(pixels_.data() + indexOf(left, row), static_cast<std::size_t>(right - left),
+          covered(colors.at(row), coverage));
+  });
+}
+
+void DeepSurface::paint(cairo_surface_t* mask, int x, int y, const PixelRect& clip,
+                        const Rows<DeepColor>& colors) {
+  const PixelRect area = clip.cutTo(bounds()).cutTo(boundsOf(mask, x, y));
+  cairo_surface_flush(mask);
+  for (int row = area.top; row < area.bottom && area.left < area.right; ++row) {
+    const DeepColor& color = colors.at(row);
+    const std::uint8_t* const coverage = rowOf<std::uint8_t>(mask, row - y) - x;
+    blendCovered(pixels_.data() + indexOf(area.left, row),
+                 static_cast<std::size_t>(area.right - area.left), color, coverage + area.left);
+  }
+}
+
+void DeepSurface::paintPicture(cairo_surface_t* picture, int x, int y, const PixelRect& clip,
+                               double opacity) {
+  const PixelRect area = clip.cutTo(bounds()).cutTo(boundsOf(picture, x, y));
+  if (area.isEmpty()) {
+    return;
+  }
+  const auto weight =
+      static_cast<std::uint16_t>(std::lround(std::clamp(opacity, 0.0, 1.0) * 0xFFFF));
+  const auto count = static_cast<std::size_t>(area.right - area.left) * parts;
+  std::vector<std::uint16_t> add(count);
+  std::vector<std::uint16_t> rests(count);
+  cairo_surface_flush(picture);
+  for (int row = area.top; row < area.bottom; ++row) {
+    const std::uint8_t* const bytes =
+        rowOf<std::uint8_t>(picture, row - y) + static_cast<std::size_t>(area.left - x) * parts;
+    for (std::size_t index = 0; index < count; ++index) {
+      add[index] = share(static_cast<std::uint16_t>(bytes[index] << 8U), weight);
+    }
+    for (std::size_t index = 0; index < count; index += parts) {
+      std::fill_n(rests.data() + index, parts, restOf(add[index + 3]));
+    }
+    over(pixels_.data() + indexOf(area.left, row), add.data(), rests.data(), count);
+  }
+}
+
+void DeepSurface::paintOver(cairo_surface_t* target, int x, int y) const {
+  const PixelRect area = boundsOf(target, 0, 0).cutTo({x, y, x + width_, y + height_});
+  if (area.isEmpty()) {
+    return;
+  }
+  cairo_surface_flush(target);
+  const auto count = static_cast<std::size_t>(area.right - area.left) * parts;
+  std::vector<std::uint16_t> rests(count);
+  for (int row = area.top; row < area.bottom; ++row) {
+    const std::uint16_t* const own = pixels_.data() + indexOf(area.left - x, row - y);
+    for (std::size_t index = 0; index < count; index += parts) {
+      std::fill_n(rests.data() + index, parts, restOf(own[index + 3]));
+    }
+    std::uint8_t* const bytes = rowOf<std::uint8_t>(target, row) + area.left * parts;
+    for (std::size_t index = 0; index < count; ++index) {
+      const auto below = static_cast<std::uint16_t>(bytes[index] << 8U);
+      const auto sum = static_cast<std::uint16_t>(own[index] + share(below, rests[index]));
+      // Half a step more, for the nearest byte.
+      bytes[index] = static_cast<std::uint8_t>((std::min<std::uint32_t>(sum, whole) + 128U) >> 8U);
+    }
+  }
+  cairo_surface_mark_dirty(target);
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,65 @@
+// A picture with sixteen bits to each colour, for what is painted as many thin veils one over
+// another. Rounded to eight bits after each of them, colour and alpha step at different rows, and
+// slow gradients are full of stripes; here they are rounded once, when the picture is shown.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include <cairo.h>
+
+#include "Orvane/ui/Appearance.hpp"
+#include "desk/canvas/CoverageRuns.hpp"
+#include "desk/canvas/MaskCache.hpp"
+
+namespace orvane::desk {
+
+/// Premultiplied blue, green, red and alpha, from 0 to `DeepSurface::whole`.
+using DeepColor = std::array<std::uint16_t, 4>;
+
+class DeepSurface {
+ public:
+  /// As much as 255 in a byte, so that the upper byte is one.
+  static constexpr std::uint32_t whole = 255U << 8U;
+
+  [[nodiscard]] static DeepColor colorOf(const ui::Rgba& color);
+
+  /// A clear picture, in pixels.
+  DeepSurface(int width, int height);
+
+  [[nodiscard]] int width() const { return width_; }
+  [[nodiscard]] int height() const { return height_; }
+
+  void clear(const PixelRect& area);
+
+  /// These paint over what is there, within a rectangle of the picture. The runs were made for the
+  /// pixel that is at `x`, `y`; of a mask and of an ARGB32 image surface the top left pixel is
+  /// there.
+  void paint(const CoverageRuns& runs, int x, int y, const PixelRect& clip,
+             const Rows<DeepColor>& colors);
+  void paint(cairo_surface_t* mask, int x, int y, const PixelRect& clip,
+             const Rows<DeepColor>& colors);
+  void paintPicture(cairo_surface_t* picture, int x, int y, const PixelRect& clip, double opacity);
+
+  /// Paints it over an ARGB32 image surface, with its top left at `x`, `y` of that.
+  void paintOver(cairo_surface_t* target, int x, int y) const;
+
+ private:
+  static constexpr std::size_t parts = 4;
+
+  [[nodiscard]] PixelRect bounds() const { return {0, 0, width_, height_}; }
+  [[nodiscard]] std::size_t indexOf(int x, int y) const {
+    return (static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+            static_cast<std::size_t>(x)) *
+           parts;
+  }
+
+  int width_;
+  int height_;
+  /// Rows from the top, without gaps.
+  std::vector<std::uint16_t> pixels_;
+};
+
+}  // namespace orvane::desk

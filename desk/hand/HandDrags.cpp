@@ -1,0 +1,122 @@
+// The hand's drags: a window by its background, the permission guide's icon into a list.
+#include <algorithm>
+
+#include "desk/hand/Hand.hpp"
+#include "desk/windows/WindowServer.hpp"
+
+namespace orvane::desk {
+
+namespace {
+
+/// The first place in an area, looked for in steps from its top left, of which `isRight` is true.
+/// The area is in global coordinates, and so is the place.
+template <typename Predicate>
+std::optional<CGPoint> placeIn(const CGRect& area, double step, const Predicate& isRight) {
+  for (double y = step; y < area.size.height; y += step) {
+    for (double x = step; x < area.size.width; x += step) {
+      const CGPoint place{area.origin.x + x, area.origin.y + y};
+      if (isRight(place, ui::Point{x, y})) {
+        return place;
+      }
+    }
+  }
+  return std::nullopt;
+}
+
+/// Whether a point of the guide's content belongs to its icon: the one thing there that neither
+/// moves the window nor is a control.
+bool isIcon(const DeskWindow& guide, const std::vector<SurfaceControl>& controls, ui::Point point) {
+  return !guide.content->host().movesWindowAt(point) &&
+         std::ranges::none_of(controls, [&](const SurfaceControl& control) {
+           return control.node.frame.contains(point);
+         });
+}
+
+}  // namespace
+
+Hand::Refusal Hand::dragWindow(const std::string& surface, double dx, double dy) const {
+  const FoundWindow found = findWindow(surface);
+  if (found.window == nullptr) {
+    return found.refusal;
+  }
+  const DeskWindow& window = *found.window;
+  if (window.content != nullptr) {
+    window.content->update();
+  }
+  constexpr double step = 6;
+  const WindowServer& server = WindowServer::current();
+  const Displays& displays = machine_.displays;
+  const auto place =
+      placeIn({server.topLeftOf(window), window.frame.size}, step, [&](CGPoint point, ui::Point) {
+        const bool moves =
+            window.isMovableByBackground &&
+            (window.content == nullptr ||
+             window.content->host().movesWindowAt(window.contentPoint(displays.flipped(point))));
+        return displays.indexContaining(point).has_value() && moves &&
+               server.windowAt(point).get() == &window;
+      });
+  if (!place) {
+    return "\"" + surface + "\" has no background to be dragged by";
+  }
+  machine_.mouse.moveTo(*place);
+  pressButton();
+  const CGPoint before = window.frame.origin;
+  machine_.mouse.moveBy(dx, dy);
+  const CGPoint after = window.frame.origin;
+  releaseButton();
+  const bool isStill = before.x == after.x && before.y == after.y;
+  return (dx != 0 || dy != 0) && isStill ? Refusal("\"" + surface + "\" did not move")
+                                         : std::nullopt;
+}
+
+std::optional<CGPoint> Hand::iconPlace() const {
+  WindowServer& server = WindowServer::current();
+  const auto guide = Surfaces(server).window("guide");
+  if (guide == nullptr || guide->content == nullptr) {
+    return std::nullopt;
+  }
+  const std::vector<SurfaceControl> controls = Surfaces(server).controls("guide");
+  const CGPoint corner = server.topLeftOf(*guide);
+  constexpr double step = 4;
+  // It stands in the middle of the width.
+  for (ui::Point point{guide->frame.size.width / 2, step}; point.y < guide->frame.size.height;
+       point.y += step) {
+    if (isIcon(*guide, controls, point)) {
+      return CGPoint{corner.x + point.x, corner.y + point.y + step};
+    }
+  }
+  return std::nullopt;
+}
+
+Hand::Refusal Hand::dropIcon() const {
+  WindowServer& server = WindowServer::current();
+  const auto guide = Surfaces(server).window("guide");
+  const auto system = Surfaces(server).window("system");
+  if (guide == nullptr || system == nullptr || guide->content == nullptr || !system->dropTarget) {
+    return "it takes the surfaces \"guide\" and \"system\"";
+  }
+  constexpr double step = 4;
+  const std::vector<SurfaceControl> controls = Surfaces(server).controls("guide");
+  const auto from = placeIn(
+      machine_.displays.flipped(guide->contentFrame()), step, [&](CGPoint place, ui::Point point) {
+        return isIcon(*guide, controls, point) && server.windowAt(place) == guide;
+      });
+  const auto to = placeIn(
+      machine_.displays.flipped(system->contentFrame()), step, [&](CGPoint place, ui::Point point) {
+        return system->dropTarget->accepts(point) && server.windowAt(place) == system;
+      });
+  if (!from || !to) {
+    return from ? "the list cannot be reached" : "there is no icon to be dragged";
+  }
+  moveTo(*from);
+  pressButton();
+  constexpr double firstDistance = 6;
+  machine_.mouse.moveBy(firstDistance, firstDistance);
+  machine_.runDue();
+  const bool isUnderWay = server.pointer.fileDrag().has_value();
+  machine_.mouse.moveTo(*to);
+  releaseButton();
+  return isUnderWay ? std::nullopt : Refusal("dragging the icon began nothing");
+}
+
+}  // namespace orvane::desk

@@ -1,0 +1,151 @@
+// What a script can look at of the application.
+#include <cmath>
+#include <optional>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "Orvane/geometry/DisplaySnapshot.hpp"
+#include "Orvane/guard/DockMouseGuard.hpp"
+#include "desk/script/Inspectables.hpp"
+#include "desk/script/JsonText.hpp"
+
+namespace orvane::desk::script {
+
+namespace {
+
+const char* nameOf(OrvaneStatus status) {
+  switch (status) {
+    case OrvaneStatus::unlocked:
+      return "unlocked";
+    case OrvaneStatus::locked:
+      return "locked";
+    case OrvaneStatus::temporarilyUnlocked:
+      return "temporarilyUnlocked";
+    case OrvaneStatus::needsCheck:
+      return "needsCheck";
+    case OrvaneStatus::targetMissing:
+      return "targetMissing";
+    case OrvaneStatus::permissionRequired:
+      break;
+  }
+  return "permissionRequired";
+}
+
+const char* nameOf(PermissionGuideState state) {
+  switch (state) {
+    case PermissionGuideState::checking:
+      return "checking";
+    case PermissionGuideState::success:
+      return "success";
+    case PermissionGuideState::timeout:
+      return "timeout";
+  }
+  return "";
+}
+
+template <typename T>
+Json valueOrNull(const std::optional<T>& value) {
+  return value ? Json(*value) : Json(nullptr);
+}
+
+Json zones(const GuardSnapshot& guard) {
+  Json list = Json::array();
+  for (const TriggerZone& zone : guard.zones) {
+    list.push_back(Json{{"rect", jsonRectangle(zone.rect)},
+                        {"nudge", Json{zone.nudgeVector.dx, zone.nudgeVector.dy}}});
+  }
+  return list;
+}
+
+/// Seconds between the launch and a moment of the calendar clock. That clock is a little coarser
+/// than a microsecond, so each end is brought to whole microseconds before they are compared.
+double secondsSinceLaunch(CFAbsoluteTime moment, std::int64_t launchedAtNanoseconds) {
+  const double sinceStart = moment - static_cast<double>(Clock::calendarSecondsAtStart);
+  const std::int64_t microseconds = std::llround(sinceStart * 1e6);
+  const std::int64_t launchMicroseconds = (launchedAtNanoseconds + 500) / 1000;
+  return jsonSeconds((microseconds - launchMicroseconds) * 1000);
+}
+
+/// As the application sees them at this moment, whether it runs or not.
+Problem lookAtDisplays(ScriptContext&, const std::string&, Json& shown) {
+  shown = Json::array();
+  for (const DisplaySnapshot& display : DockMouseGuard::displays()) {
+    shown.push_back(Json{{"id", display.id},
+                         {"matchingIdentifiers", display.matchingIdentifiers},
+                         {"name", display.name},
+                         {"frame", jsonRectangle(display.frame)},
+                         {"cgFrame", jsonRectangle(display.cgFrame)},
+                         {"isMain", display.isMain},
+                         {"isBuiltIn", display.isBuiltIn}});
+  }
+  return std::nullopt;
+}
+
+/// While the application does not run, what a new guard says.
+Problem lookAtGuard(ScriptContext& context, const std::string&, Json& shown) {
+  const GuardSnapshot guard = context.application().snapshot().guard;
+  const EventTaps& taps = context.machine().eventTaps;
+  shown = {{"running", guard.isRunning},
+           {"zones", zones(guard)},
+           {"blockedCount", guard.blockedCount},
+           {"isTemporarilyUnlocked", guard.isTemporarilyUnlocked},
+           {"blocksAllDisplays", guard.blocksAllDisplays},
+           {"lockedDisplayIdentifier", guard.lockedDisplayIdentifier},
+           {"overrideModifier", guard.overrideModifier.rawValue()},
+           {"observing", guard.isObservingScreens},
+           {"taps", taps.aliveCount()},
+           {"tapEnabled", taps.isAnyEnabled()}};
+  return std::nullopt;
+}
+
+Problem lookAtMessages(ScriptContext& context, const std::string&, Json& shown) {
+  constexpr std::int64_t mediaStart = Clock::mediaSecondsAtStart * Clock::nanosecondsPerSecond;
+  shown = Json::array();
+  for (const GuardMessage& message : context.application().messages()) {
+    shown.push_back(
+        Json{{"at", jsonSeconds(message.atNanoseconds + mediaStart)}, {"text", message.text}});
+  }
+  return std::nullopt;
+}
+
+Problem lookAtModel(ScriptContext& context, const std::string&, Json& shown) {
+  const ApplicationHost& application = context.application();
+  if (!application.isRunning()) {
+    return "the application is not running";
+  }
+  const OrvaneSnapshot now = application.snapshot();
+  shown = {
+      {"selectedDisplayID", valueOrNull(now.selectedDisplayID)},
+      {"hasAccessibilityPermission", now.hasAccessibilityPermission},
+      {"isTemporarilyUnlocked", now.isTemporarilyUnlocked},
+      {"lastRestoreSucceeded", valueOrNull(now.lastRestoreSucceeded)},
+      {"lastCheckedAt", secondsSinceLaunch(now.lastCheckedAt, application.launchedAtNanoseconds())},
+      {"appLanguage", now.appLanguage.rawValue()},
+      {"temporaryUnlockModifier", now.temporaryUnlockModifier.rawValue()},
+      {"hidesDockOnAllDisplays", now.hidesDockOnAllDisplays},
+      {"launchAtLoginEnabled", now.launchAtLoginEnabled},
+      {"launchAtLoginRequiresApproval", now.launchAtLoginRequiresApproval},
+      {"launchAtLoginErrorMessage", valueOrNull(now.launchAtLoginErrorMessage)},
+      {"status", nameOf(now.status)}};
+  return std::nullopt;
+}
+
+Problem lookAtGuide(ScriptContext& context, const std::string&, Json& shown) {
+  const auto guide = context.application().snapshot().guide;
+  shown = {
+      {"state", nameOf(guide.state)}, {"visible", guide.isVisible}, {"polling", guide.isPolling}};
+  return std::nullopt;
+}
+
+}  // namespace
+
+void addApplicationInspectables(InspectableTable& table) {
+  table.add({.name = "displays", .look = lookAtDisplays});
+  table.add({.name = "guard", .look = lookAtGuard});
+  table.add({.name = "guide", .look = lookAtGuide});
+  table.add({.name = "messages", .look = lookAtMessages});
+  table.add({.name = "model", .look = lookAtModel});
+}
+
+}  // namespace orvane::desk::script

@@ -1,0 +1,83 @@
+// Rows are read as a person reads them: what they mean from the semantics of their views, their
+// symbol from what they draw.
+#include "desk/script/MenuSnapshot.hpp"
+
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "Orvane/ui/RecordingCanvas.hpp"
+#include "desk/hand/FindControl.hpp"
+#include "desk/windows/MenuMetrics.hpp"
+
+namespace orvane::desk::script {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+/// Notes the first symbol that is drawn.
+class SymbolProbe : public ui::RecordingCanvas {
+ public:
+  void symbol(const std::string& name, const ui::Font& font, const ui::Rgba& color,
+              const ui::Rect& rect) override {
+    if (first.empty()) {
+      first = name;
+    }
+    ui::RecordingCanvas::symbol(name, font, color, rect);
+  }
+
+  std::string first;
+};
+
+Json rowSnapshot(const appkit::MenuItem& item) {
+  Json shown;
+  if (item.isSeparator) {
+    shown["kind"] = "separator";
+    return shown;
+  }
+  const auto view = item.view ? hostedView(*item.view) : nullptr;
+  ui::SemanticsNode tree;
+  SymbolProbe probe;
+  if (view != nullptr) {
+    view->update();
+    tree = view->host().semantics();
+    view->host().paint(probe, {0, 0, view->frame().size.width, view->frame().size.height});
+  }
+  const auto heading = findElement(
+      tree, [](const ui::SemanticsNode& node) { return node.role == ui::Role::heading; });
+  if (heading) {
+    shown["kind"] = "header";
+    shown["title"] = heading->label;
+    return shown;
+  }
+  const auto control =
+      findElement(tree, [](const ui::SemanticsNode& node) { return node.isControl(); });
+  shown["kind"] = "row";
+  shown["title"] = control ? control->label : item.title;
+  shown["symbol"] = probe.first.empty() ? Json(nullptr) : Json(probe.first);
+  shown["isSelected"] = control && control->isSelected;
+  shown["isEnabled"] = control ? control->isEnabled : item.isEnabled;
+  shown["isOn"] =
+      control && control->role == ui::Role::toggle ? Json(control->value == "1") : Json(nullptr);
+  shown["itemEnabled"] = item.isEnabled;
+  return shown;
+}
+
+}  // namespace
+
+Json statusMenuSnapshot(WindowServer& server) {
+  Json shown;
+  shown["open"] = server.menus.isStatusMenuOpen();
+  shown["rows"] = Json::array();
+  const StatusBarItem* const item = server.statusBar.item();
+  if (item != nullptr && item->menu != nullptr) {
+    const auto menu = item->menu;
+    for (const appkit::MenuItem& row : menu->items) {
+      shown["rows"].push_back(rowSnapshot(row));
+    }
+  }
+  return shown;
+}
+
+}  // namespace orvane::desk::script

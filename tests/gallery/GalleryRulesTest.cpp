@@ -1,0 +1,402 @@
+// What holds for every text and control that the application shows: all specimens of the gallery,
+// in both languages and appearances, with and without Increase Contrast, are held against it.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/StandardColors.hpp"
+#include "desk/canvas/ApplicationImages.hpp"
+#include "desk/canvas/PangoTextMeasurer.hpp"
+#include "desk/desktop/WallpaperArt.hpp"
+#include "desk/gallery/SheetGround.hpp"
+#include "desk/gallery/Specimen.hpp"
+#include "tests/panels/TextRun.hpp"
+#include "tests/support/Contrast.hpp"
+#include "tests/support/MachineFixture.hpp"
+
+namespace orvane::desk {
+namespace {
+
+const std::string ellipsis = "…";
+constexpr std::array wallpapers{Appearance::Wallpaper::white, Appearance::Wallpaper::black,
+                                Appearance::Wallpaper::busy};
+
+/// Paints everything but texts.
+class TextlessCanvas : public CairoCanvas {
+ public:
+  using CairoCanvas::CairoCanvas;
+  void text(const std::string& /*line*/, const ui::Font& /*font*/, const ui::Rgba& /*color*/,
+            ui::Point /*baseline*/) override {}
+};
+
+/// The first colour, of any alpha, over the second one, which is opaque.
+ui::Rgba over(const ui::Rgba& color, const ui::Rgba& ground) {
+  const auto mixed = [share = color.alpha](double above, double below) {
+    return above * share + below * (1 - share);
+  };
+  return {mixed(color.red, ground.red), mixed(color.green, ground.green),
+          mixed(color.blue, ground.blue), 1};
+}
+
+/// From 0 for greys to 1.
+double chroma(const ui::Rgba& color) {
+  return std::max({color.red, color.green, color.blue}) -
+         std::min({color.red, color.green, color.blue});
+}
+
+/// In degrees; of a colour with a chroma.
+double hue(const ui::Rgba& color) {
+  const double degrees = std::atan2(std::sqrt(3) * (color.green - color.blue),
+                                    2 * color.red - color.green - color.blue) *
+                         180 / 3.14159265358979;
+  return degrees < 0 ? degrees + 360 : degrees;
+}
+
+bool isWrittenInTheAccentColour(const ui::Rgba& color, const ui::Appearance& appearance) {
+  const ui::Rgba accent = ui::standardColor(ui::SystemColor::accent, appearance);
+  return chroma(color) > 0.3 && std::abs(hue(color) - hue(accent)) < 8;
+}
+
+/// White or black on a button that is filled with the accent colour or with red.
+bool isOnAColouredFill(const ui::Rgba& color, const ui::Rgba& ground) {
+  return chroma(color) < 0.01 && color.alpha == 1 && chroma(ground) > 0.35;
+}
+
+constexpr double textContrast = 4.5;
+constexpr double largeTextContrast = 3;
+
+/// Of what is not on a coloured fill.
+double leastContrast(const TextRun& run, const ui::Appearance& appearance) {
+  const bool isLarge = run.font.size >= 18 && run.font.weight >= ui::Weight::bold;
+  // The accent is the user's choice; who wants more contrast gets it.
+  const bool isTheUsers = isWrittenInTheAccentColour(run.color, appearance);
+  return isLarge || (isTheUsers && !appearance.increaseContrast) ? largeTextContrast : textContrast;
+}
+
+/// How small a control may be on both sides, in points.
+double leastSide(const ui::SemanticsNode& control) {
+  static const std::vector<std::string> lights{"Close", "Minimise", "关闭", "最小化"};
+  // The system's own traffic lights and pop-up buttons are no larger; in the case of the lights
+  // the other controls of that name are.
+  constexpr double lightSide = 14;
+  constexpr double largestLight = 1.1 * lightSide;
+  constexpr double popUpButtonHeight = 22;
+  if (std::ranges::find(lights, control.label) != lights.end() &&
+      control.frame.width <= largestLight + 0.01) {
+    return lightSide;
+  }
+  return control.role == ui::Role::popUpButton ? popUpButtonHeight : 24;
+}
+
+/// Whether all pieces of the line that an ellipsis leaves are in the text, in their order.
+bool isCutFrom(const std::string& line, const std::string& text) {
+  std::size_t from = 0;
+  std::size_t start = 0;
+  while (start <= line.size()) {
+    const std::size_t end = std::min(line.find(ellipsis, start), line.size());
+    std::string piece = line.substr(start, end - start);
+    piece.erase(piece.find_last_not_of(' ') + 1);
+    const std::size_t found = text.find(piece, from);
+    if (found == std::string::npos) {
+      return false;
+    }
+    from = found + piece.size();
+    start = end + ellipsis.size();
+  }
+  return true;
+}
+
+double sharedHeight(const TextRun& first, const TextRun& second) {
+  return std::min(first.frame.bottom(), second.frame.bottom()) -
+         std::max(first.frame.y, second.frame.y);
+}
+
+/// Two lines of one paragraph: one begins or ends below the other, in the same font.
+bool isNextLine(const TextRun& first, const TextRun& second) {
+  const double distance = std::abs(first.baseline - second.baseline);
+  const bool isBelow = first.frame.x < second.frame.right() && second.frame.x < first.frame.right();
+  return isBelow && first.font == second.font && first.color == second.color && distance > 0 &&
+         distance < 1.6 * first.font.size;
+}
+
+class GalleryRulesTest : public MachineFixture, public testing::WithParamInterface<std::string> {
+ protected:
+  GalleryRulesTest() { addApplicationImages(resources.images); }
+
+  void expectAll(const Specimen& specimen, Hand hand) {
+    const ui::ViewHost& host = specimen.host();
+    TextCollector collector(resources.shaper, 2);
+    host.paint(collector, {0, 0, host.size().width, host.size().height});
+    runs = collector.runs();
+    std::erase_if(runs, [](const TextRun& run) { return run.visible.isEmpty(); });
+    nodes.clear();
+    collect(host.semantics());
+    expectNoTextIsCutWithoutATooltip(host);
+    expectNothingIsCutOff(host);
+    expectNoTextsOverlap();
+    expectTheBaselinesOfARowAreEqual();
+    expectControlsAreLargeEnough();
+    expectTextsAreReadable(specimen, hand);
+    textCount += runs.size();
+  }
+
+  GallerySheet sheet = gallerySheetNamed(GetParam());
+  PangoTextMeasurer text;
+  DrawingResources resources;
+  std::size_t textCount = 0;
+
+ private:
+  void collect(const ui::SemanticsNode& node) {
+    nodes.push_back(node);
+    for (const ui::SemanticsNode& child : node.children) {
+      collect(child);
+    }
+  }
+
+  void expectNoTextIsCutWithoutATooltip(const ui::ViewHost& host) const {
+    for (const TextRun& run : runs) {
+      const bool isSaidLikeThis = std::ranges::any_of(nodes, [&](const ui::SemanticsNode& node) {
+        return node.label.find(run.line) != std::string::npos ||
+               node.value.find(run.line) != std::string::npos;
+      });
+      if (run.line.find(ellipsis) == std::string::npos || isSaidLikeThis) {
+        continue;
+      }
+      const auto tooltip = host.tooltipAt(run.visible.center());
+      EXPECT_TRUE(tooltip && isCutFrom(run.line, tooltip->text) &&
+                  tooltip->text.find(ellipsis) == std::string::npos)
+          << "\"" << run.line << "\" is cut, and its tooltip is \""
+          << (tooltip ? tooltip->text : "") << "\"";
+    }
+  }
+
+  /// Whether it is in an area that scrolls from side to side, in sight or not.
+  [[nodiscard]] bool canBeScrolledTo(const ui::Rect& frame) const {
+    return std::ranges::any_of(nodes, [&](const ui::SemanticsNode& node) {
+      return node.role == ui::Role::scrollArea && node.frame.y <= frame.y &&
+             frame.bottom() <= node.frame.bottom();
+    });
+  }
+
+  void expectNothingIsCutOff(const ui::ViewHost& host) const {
+    for (const TextRun& run : runs) {
+      EXPECT_TRUE(run.visible == run.frame || canBeScrolledTo(run.frame))
+          << "\"" << run.line << "\" is cut off";
+    }
+    // What is hovered or chosen is a little larger.
+    const ui::Rect bounds =
+        ui::Rect{0, 0, host.size().width, host.size().height}.inset(Specimen::margin - 3);
+    for (const ui::SemanticsNode& node : nodes) {
+      EXPECT_TRUE(!node.children.empty() || node.label.empty() ||
+                  bounds.united(node.frame) == bounds || canBeScrolledTo(node.frame))
+          << "\"" << node.label << "\" is outside of what it belongs to";
+    }
+  }
+
+  void expectNoTextsOverlap() const {
+    for (auto first = runs.begin(); first != runs.end(); ++first) {
+      for (auto second = first + 1; second != runs.end(); ++second) {
+        EXPECT_TRUE(first->visible.intersection(second->visible).isEmpty())
+            << "\"" << first->line << "\" lies on \"" << second->line << "\"";
+      }
+    }
+  }
+
+  [[nodiscard]] bool isOneLine(const TextRun& run) const {
+    return std::ranges::none_of(runs, [&](const TextRun& other) { return isNextLine(run, other); });
+  }
+
+  /// Of a row are texts of one size that stand beside each other by more than half of their height.
+  void expectTheBaselinesOfARowAreEqual() const {
+    for (auto first = runs.begin(); first != runs.end(); ++first) {
+      for (auto second = first + 1; second != runs.end(); ++second) {
+        if (first->font.size != second->font.size ||
+            sharedHeight(*first, *second) <= first->frame.height / 2 || !isOneLine(*first) ||
+            !isOneLine(*second)) {
+          continue;
+        }
+        // What is drawn larger, as a chosen card is, lies between the pixels.
+        EXPECT_LT(std::abs(first->baseline - second->baseline),
+                  first->scale == 1 && second->scale == 1 ? 0.01 : 1.0)
+            << "\"" << first->line << "\" beside \"" << second->line << "\"";
+      }
+    }
+  }
+
+  void expectControlsAreLargeEnough() const {
+    for (const ui::SemanticsNode& node : nodes) {
+      if (node.isControl()) {
+        EXPECT_GE(std::min(node.frame.width, node.frame.height), leastSide(node) - 0.001)
+            << "\"" << node.label << "\"";
+      }
+    }
+  }
+
+  [[nodiscard]] bool isDisabled(const TextRun& run) const {
+    return std::ranges::any_of(nodes, [&](const ui::SemanticsNode& node) {
+      return !node.isEnabled && node.frame.contains(run.visible.center());
+    });
+  }
+
+  void expectTextsAreReadable(const Specimen& specimen, Hand hand) {
+    const ui::Size size = specimen.size();
+    const ui::Appearance& appearance = specimen.host().appearance();
+    const SurfacePointer shown = blank(size);
+    TextlessCanvas canvas(shown.get(), 1, resources);
+    specimen.paint(canvas, {0, 0});
+    cairo_surface_flush(shown.get());
+    for (const Appearance::Wallpaper wallpaper : wallpapers) {
+      const Behind behind{shown.get(), groundOf(size, appearance, wallpaper)};
+      for (const TextRun& run : runs) {
+        if (isDisabled(run)) {
+          continue;
+        }
+        const ui::Point middle = run.visible.center();
+        const bool isOnAFill = isOnAColouredFill(run.color, behind.at(middle));
+        // A press is over soon, and its fill is fainter by its style.
+        const double wanted = !isOnAFill ? leastContrast(run, appearance)
+                              : appearance.increaseContrast && hand != Hand::pressing
+                                  ? textContrast
+                                  : largeTextContrast;
+        const double reached =
+            isOnAFill ? contrastOnTheDarkestFill(run, behind) : contrastWhereverItLies(run, behind);
+        EXPECT_GE(reached, wanted)
+            << "\"" << run.line << "\" on wallpaper " << static_cast<int>(wallpaper);
+      }
+    }
+  }
+
+  /// What is to be seen where no text is, one pixel to the point.
+  struct Behind {
+    cairo_surface_t* shown;
+    cairo_surface_t* ground;
+
+    [[nodiscard]] ui::Rgba at(ui::Point point) const {
+      const auto within = [](double place, int size) {
+        return std::clamp(static_cast<int>(place), 0, size - 1);
+      };
+      const int x = within(point.x, cairo_image_surface_get_width(shown));
+      const int y = within(point.y, cairo_image_surface_get_height(shown));
+      const ui::Rgba above = pixelAt(shown, x, y);
+      const ui::Rgba below = pixelAt(ground, x, y);
+      const double through = 1 - above.alpha;
+      return {above.red + below.red * through, above.green + below.green * through,
+              above.blue + below.blue * through, 1};
+    }
+  };
+
+  static double contrastOn(const TextRun& run, const ui::Rgba& behind) {
+    ui::Rgba ink = run.color;
+    ink.alpha *= run.opacity;
+    return contrast(luminance(over(ink, behind)), luminance(behind));
+  }
+
+  static double contrastWhereverItLies(const TextRun& run, const Behind& behind) {
+    double least = 21;
+    ui::Rgba last{-1, 0, 0, 0};
+    for (double y = run.visible.y; y < run.visible.bottom(); ++y) {
+      for (double x = run.visible.x; x < run.visible.right(); ++x) {
+        const ui::Rgba here = behind.at({x, y});
+        if (!(here == last)) {
+          least = std::min(least, contrastOn(run, here));
+          last = here;
+        }
+      }
+    }
+    return least;
+  }
+
+  /// A fill may be lit from above; its darker end counts.
+  [[nodiscard]] double contrastOnTheDarkestFill(const TextRun& run, const Behind& behind) const {
+    const ui::Point middle = run.visible.center();
+    ui::Rgba darkest = behind.at(middle);
+    for (const ui::SemanticsNode& node : nodes) {
+      if (!node.isControl() || !node.frame.contains(middle)) {
+        continue;
+      }
+      for (double y = node.frame.y; y < node.frame.bottom(); ++y) {
+        const ui::Rgba here = behind.at({middle.x, y});
+        if (isOnAColouredFill(run.color, here) && luminance(here) < luminance(darkest)) {
+          darkest = here;
+        }
+      }
+    }
+    return contrastOn(run, darkest);
+  }
+
+  static SurfacePointer blank(ui::Size size) {
+    return SurfacePointer(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
+                                                     static_cast<int>(std::ceil(size.width)),
+                                                     static_cast<int>(std::ceil(size.height))));
+  }
+
+  /// What specimens of this size lie on. It is kept, because most of them have a size in common.
+  cairo_surface_t* groundOf(ui::Size size, const ui::Appearance& appearance,
+                            Appearance::Wallpaper wallpaper) {
+    SurfacePointer& kept =
+        grounds[{size.width, size.height, appearance.dark, appearance.increaseContrast, wallpaper}];
+    if (kept == nullptr) {
+      kept = blank(size);
+      CairoCanvas canvas(kept.get(), 1, resources);
+      paintWallpaper(canvas.context(), wallpaper, appearance.dark, size.width, size.height);
+      // Beyond the specimen, so that no edge of the ground lies under it.
+      const double inset = isWholeWindow(sheet.ground) ? Specimen::margin : -Specimen::margin;
+      paintGround(canvas, sheet.ground, ui::Rect{0, 0, size.width, size.height}.inset(inset),
+                  appearance, text, resources);
+      cairo_surface_flush(kept.get());
+    }
+    return kept.get();
+  }
+
+  std::vector<TextRun> runs;
+  std::vector<ui::SemanticsNode> nodes;
+  std::map<std::tuple<double, double, bool, bool, Appearance::Wallpaper>, SurfacePointer> grounds;
+};
+
+TEST_P(GalleryRulesTest, HoldForEveryTextAndControl) {
+  for (const auto language : {OrvaneLanguage::english, OrvaneLanguage::chinese}) {
+    machine.userDefaults.set(OrvaneLanguage::defaultsKey,
+                             std::string(OrvaneLanguage(language).rawValue()));
+    for (const GalleryItem& item : sheet.items) {
+      Specimen specimen(item, language, {}, text, resources);
+      for (const bool isDark : {false, true}) {
+        for (const bool increasesContrast : {false, true}) {
+          SCOPED_TRACE(
+              item.caption + (language == OrvaneLanguage::english ? ", English" : ", Chinese") +
+              (isDark ? ", dark" : ", light") + (increasesContrast ? ", Increase Contrast" : ""));
+          ui::Appearance appearance;
+          appearance.dark = isDark;
+          appearance.increaseContrast = increasesContrast;
+          specimen.appear(appearance);
+          expectAll(specimen, item.hand);
+        }
+      }
+    }
+  }
+  EXPECT_EQ(textCount > 0, sheet.hasTexts);
+}
+
+std::vector<std::string> namesOfSheets() {
+  std::vector<std::string> names;
+  for (const GallerySheet& sheet : gallerySheets()) {
+    names.push_back(sheet.name);
+  }
+  return names;
+}
+
+std::string nameOfTest(const testing::TestParamInfo<std::string>& info) {
+  std::string name = info.param;
+  std::ranges::replace(name, '-', '_');
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Sheets, GalleryRulesTest, testing::ValuesIn(namesOfSheets()), nameOfTest);
+
+}  // namespace
+}  // namespace orvane::desk

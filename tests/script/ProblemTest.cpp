@@ -1,0 +1,230 @@
+// What is said about scripts that cannot be carried out.
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "desk/script/Interpreter.hpp"
+#include "desk/script/Problem.hpp"
+#include "tests/script/ScriptBench.hpp"
+#include "tests/script/ScriptRun.hpp"
+
+namespace orvane::desk::script {
+namespace {
+
+TEST(ProblemTest, StopsTheScriptWithItsPlace) {
+  const ScriptRun run = runScript("echo one\n\n  fly high # why not\necho two\n");
+  EXPECT_EQ(run.status, ScriptProgram::broken);
+  EXPECT_EQ(run.output, "one\n");
+  EXPECT_EQ(run.errors, "script.desk:3: unknown command \"fly\"\n");
+}
+
+TEST(ProblemTest, OutweighsAFailedExpectation) {
+  const ScriptRun run = runScript("expect clock.now 1\nfly\n");
+  EXPECT_EQ(run.status, ScriptProgram::broken);
+  EXPECT_EQ(
+      run.errors,
+      "script.desk:1: expected clock.now = 1, got 0\nscript.desk:2: unknown command \"fly\"\n");
+}
+
+TEST(ProblemTest, NamesTheCommandsOfAFamily) {
+  EXPECT_EQ(problemOf("dock hide\n"), "dock knows no command \"hide\", only autohide, edge");
+  EXPECT_EQ(problemOf("links\n"), "links knows no command alone, only accept, refuse");
+}
+
+TEST(ProblemTest, ExplainsTheShapeOfACommand) {
+  EXPECT_EQ(problemOf("move 1\n"), "move: Y is missing (move X Y)");
+  EXPECT_EQ(problemOf("reset now\n"), "reset: unexpected \"now\"");
+}
+
+/// A script and what is said about its last line, without the command's shape.
+struct Case {
+  const char* script;
+  const char* problem;
+};
+
+void expectProblems(std::initializer_list<Case> cases) {
+  for (const auto& [script, problem] : cases) {
+    const std::string said = problemOf(script);
+    EXPECT_TRUE(said.starts_with(problem)) << script << "\n" << said;
+    EXPECT_EQ(runScript(script).status, ScriptProgram::broken) << script;
+  }
+}
+
+TEST(ProblemTest, TellsWhatIsWrongWithWords) {
+  expectProblems({{"echo \"a", "a quote is opened at column 6 and not closed"},
+                  {"echo \"\\q\"", "echo: an unknown escape at column 7"},
+                  {"echo \xFF", "malformed UTF-8 at column 6"},
+                  {"echo \x01", "a control character at column 6"},
+                  {"\"\"", "unknown command \"\""}});
+}
+
+TEST(ProblemTest, TellsWhatIsWrongWithNumbers) {
+  expectProblems({{"move nan 1", "move: X must be a decimal number, not \"nan\""},
+                  {"move 1 inf", "move: Y must be a decimal number, not \"inf\""},
+                  {"move 1e5 1", "move: X must be a decimal number, not \"1e5\""},
+                  {"move 99999999999 1", "move: X is too large"},
+                  {"push 1 1 times -1", "push: N must be a whole number from 0"},
+                  {"push 1 1 times 1.5", "push: N must be a whole number from 0"},
+                  {"push 1 1 times 99999999999999999999", "push: N must be"},
+                  {"push 1 1 times", "push: N is missing"},
+                  {"push 1 1 every", "push: S is missing"},
+                  {"push 1 1 every -1", "push: S must be from 0 to 3000000000 seconds"},
+                  {"push 1 1 times 1000000000 every 1000", "push: that would take longer"},
+                  {"push 1 1 3", "push: unexpected \"3\""},
+                  {"burst 9999999999 1 1", "burst: N must be a whole number from 0"},
+                  {"burst 1 1", "burst: Y is missing"},
+                  {"advance", "advance: S is missing"},
+                  {"advance -1", "advance: S must be from 0 to 3000000000 seconds"},
+                  {"advance 3000000001", "advance: S must be from 0 to"},
+                  {"advance 1e3", "advance: S must be a decimal number of seconds"}});
+}
+
+TEST(ProblemTest, TellsWhatIsWrongWithDisplays) {
+  expectProblems(
+      {{"display attach 1", "display attach: frame=X,Y,W,H is missing"},
+       {"display attach frame=0,0,1,1", "display attach: N is missing"},
+       {"display attach one frame=0,0,1,1", "display attach: N must be a whole number"},
+       {"display attach -1 frame=0,0,1,1", "display attach: N must be a whole number"},
+       {"display attach 1 frame=0,0,1", "display attach: frame must be X,Y,W,H"},
+       {"display attach 1 frame=0,0,x,1", "display attach: frame must be a decimal number"},
+       {"display attach 1 frame=0,0,0,1", "display attach: the frame of a display must not"},
+       {"display attach 1 frame=0,0,-5,1", "display attach: the frame of a display must not"},
+       {"display attach 1 frame=0,0,1,1 uuid=", "display attach: uuid must not be empty"},
+       {"display attach 1 frame=0,0,1,1 bits=x", "display attach: bits must be"},
+       {"display attach 1 frame=0,0,1,1 bits=9999", "display attach: bits must be"},
+       {"display attach 1 frame=0,0,1,1 size=3", "display attach: unexpected \"size=3\""},
+       {"display detach 1", "display detach: there is no display 1"},
+       {"display frame 1 0,0,1,1", "display frame: there is no display 1"},
+       {"display renumber 1 2", "display renumber: there is no display 1"},
+       {"display main 7", "display main: there is no display 7"},
+       {"display done", "display done: no changes are being made together"}});
+}
+
+TEST(ProblemTest, TellsWhatIsWrongWithSystem) {
+  expectProblems({{"trust maybe", "trust: on|off must be one of off, on, not \"maybe\""},
+                  {"taps on", "taps: allow|refuse must be one of allow, refuse"},
+                  {"tap disabled", "tap disabled: timeout|userinput|silently|forgood is missing"},
+                  {"dock edge", "dock edge: VALUE is missing"},
+                  {"dock edge left right", "dock edge: unexpected \"right\""},
+                  {"dock autohide", "dock autohide: on|off is missing"},
+                  {"locale", "locale: preferred=A,B,... or current=C is missing"},
+                  {"locale region=x current=y", "locale: unexpected \"region=x\""},
+                  {"defaults set a text b", "defaults set: the type must be one of"},
+                  {"defaults set a bool maybe", "defaults set: VALUE must be one of"},
+                  {"defaults set a number x", "defaults set: VALUE must be a decimal number"},
+                  {"defaults set a string", "defaults set: VALUE is missing"},
+                  {"defaults remove", "defaults remove: KEY is missing"},
+                  {"login status on", "login status: the status must be one of"},
+                  {"login error", "login error: \"TEXT\"|none is missing"},
+                  {"links refuse", "links refuse: PREFIX is missing"},
+                  {"appearance blue", "appearance: light|dark must be one of"},
+                  {"accent 1,2", "accent: B is missing"},
+                  {"accent 1,2,3,4", "accent: unexpected \"4\""},
+                  {"accent 1,2,256", "accent: B must be a whole number from 0 to 255"},
+                  {"wallpaper green", "wallpaper: the wallpaper must be one of"},
+                  {"motion none", "motion: reduced|full must be one of"},
+                  {"transparency none", "transparency: reduced|full must be one of"},
+                  {"contrast high", "contrast: increased|normal must be one of"}});
+}
+
+TEST(ProblemTest, TellsWhatIsWrongWithApplication) {
+  expectProblems({{"terminate", "terminate: the application is not running"},
+                  {"crash", "crash: the application is not running"},
+                  {"reopen", "reopen: the application is not running"},
+                  {"do toggleLock", "do: the application is not running"},
+                  {"show model", "show: the application is not running"},
+                  {"expect model.status \"locked\"", "expect: the application is not running"},
+                  {"do", "do: OPERATION is missing"},
+                  {"do fly", "do: there is no operation \"fly\", only appLanguage, "},
+                  {"launch\ndo toggleLock now", "do: unexpected \"now\""},
+                  {"launch\ndo selectDisplay", "do: \"ID\" is missing"},
+                  {"launch\ndo appLanguage french", "do: the value must be one of system, "},
+                  {"launch\ndo hidesDockOnAllDisplays", "do: on|off is missing"},
+                  {"launch now", "launch: unexpected \"now\""}});
+}
+
+TEST(ProblemTest, TellsWhatIsWrongWithLooking) {
+  expectProblems(
+      {{"show", "show: THING is missing"},
+       {"show weather", "show: there is no \"weather\" to look at, only announcements, clock, "},
+       {"show dock edge", "show: unexpected \"edge\""},
+       {"find", "find: \"IDENTIFIER\" is missing"},
+       {"expect clock.now", "expect: VALUE is missing"},
+       {"expect clock.now soon", "expect: VALUE is not JSON: soon"},
+       {"expect clock..now 1", "expect: \"clock..now\" is not a path"},
+       {"expect weather.now 1", "expect: there is no \"weather\" to look at"},
+       {"hold", "hold: KEY is missing"},
+       {"cursor", "cursor: held|free is missing"},
+       {"cursor loose", "cursor: held|free must be one of held, free"},
+       {"hold fn", "hold: KEY must be one of option, control, shift, command"},
+       {"event 1 1 fn", "event: KEY must be one of"},
+       {"picture", "picture: FILE is missing"},
+       {"picture a scale", "picture: S is missing"},
+       {"picture a scale 0", "picture: the scale must be greater than 0"},
+       {"picture a scale 17", "picture: the scale must be greater than 0"},
+       {"picture a main big", "picture: unexpected \"big\""},
+       {"picture a", "picture: no pictures can be drawn here"}});
+}
+
+TEST(ProblemTest, ChangesNothingWhenTheArgumentsAreWrong) {
+  ScriptBench bench;
+  for (const char* const line :
+       {"display attach 1 frame=0,0,9,9 color=red", "trust on please", "dock edge left now",
+        "defaults set a string b c", "advance 1 2", "launch now", "accent 1,2,300"}) {
+    EXPECT_NE(bench.interpreter.run(line), std::nullopt) << line;
+  }
+  const Machine& machine = bench.session.machine();
+  EXPECT_TRUE(machine.displays.isEmpty());
+  EXPECT_FALSE(machine.permission.isTrusted());
+  EXPECT_EQ(machine.dock.edge(), DockEdge::bottom);
+  EXPECT_TRUE(machine.userDefaults.values().empty());
+  EXPECT_EQ(machine.clock.now(), 0);
+  EXPECT_FALSE(machine.process.isRunning());
+  EXPECT_EQ(machine.appearance.accent, std::nullopt);
+}
+
+/// Lines made of the language's own words in any order, and of any bytes.
+RC_GTEST_PROP(ProblemTest, IsAllThatNonsenseGets, ()) {
+  const auto word = rc::gen::oneOf(
+      rc::gen::element<std::string>(
+          "display", "attach", "detach", "frame=0,0,800,600", "1", "2", "main", "together", "done",
+          "launch", "crash", "do", "toggleLock", "toggleHideDockOnAllDisplays", "trust", "on",
+          "off", "move", "push", "900", "-5.5", "times", "every", "0.1", "burst", "expect", "show",
+          "guard", "guard.zones.#", "model", "dock", "edge", "left", "reset", "advance", "hold",
+          "cursor", "free", "held", "option", "event", "renumber", "frame", "0,0,5,5", "tap",
+          "disabled", "timeout", "[", "{}", "\"", "#"),
+      rc::gen::arbitrary<std::string>());
+  const auto line = rc::gen::map(rc::gen::container<std::vector<std::string>>(word),
+                                 [](const std::vector<std::string>& words) {
+                                   std::string text;
+                                   for (const std::string& one : words) {
+                                     text += one + " ";
+                                   }
+                                   return text;
+                                 });
+  ScriptProgram::Settings settings;
+  settings.limits = {.repetitions = 1000,
+                     .clockNanoseconds = 1000 * Clock::nanosecondsPerSecond,
+                     .allowsFiles = false};
+  Session session;
+  std::ostringstream output;
+  int failures = 0;
+  ScriptContext context{.session = session,
+                        .inspectables = settings.inspectables,
+                        .output = output,
+                        .limits = settings.limits,
+                        .pictureWriter = {},
+                        .expectationFailed = [&](const std::string&) { ++failures; }};
+  Interpreter interpreter(settings.commands, context);
+  for (const std::string& one : *rc::gen::container<std::vector<std::string>>(line)) {
+    const Problem problem = interpreter.run(one);
+    RC_ASSERT(!problem || !problem->empty());
+  }
+  RC_ASSERT(session.machine().faults.count() == 0U);
+}
+
+}  // namespace
+}  // namespace orvane::desk::script

@@ -1,0 +1,65 @@
+// Where lines are cut, with characters that are all one point wide.
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Orvane/ui/Truncation.hpp"
+
+namespace orvane::ui {
+namespace {
+
+const std::string ellipsis = "…";
+
+double widthOf(const std::string& text) {
+  const auto isStart = [](char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+  };
+  return static_cast<double>(std::ranges::count_if(text, isStart));
+}
+
+std::string cut(const std::string& line, TruncationMode mode, double width) {
+  std::vector<std::size_t> places;
+  for (std::size_t place = 0; place <= line.size(); ++place) {
+    places.push_back(place);
+  }
+  return truncatedLine(line, places, mode, width, widthOf);
+}
+
+TEST(TruncationTest, AtTheTailAsMuchOfTheBeginningStaysAsFits) {
+  EXPECT_EQ(cut("Studio Display", TruncationMode::tail, 10), "Studio Di…");
+  // No blank before the ellipsis.
+  EXPECT_EQ(cut("Studio Display", TruncationMode::tail, 8), "Studio…");
+  EXPECT_EQ(cut("Studio Display", TruncationMode::tail, 1), "…");
+  EXPECT_EQ(cut("Studio Display", TruncationMode::tail, 0), "…");
+}
+
+TEST(TruncationTest, InTheMiddleTheEndBeginsWithAWholeWordWhereThereIsRoom) {
+  EXPECT_EQ(cut("Studio Display (Main)", TruncationMode::middle, 15), "Studio D…(Main)");
+  EXPECT_EQ(cut("Laboratory Display (Main)", TruncationMode::middle, 23),
+            "Laborato…Display (Main)");
+  // "Display (Main)" would leave too little for the beginning.
+  EXPECT_EQ(cut("Laboratory Display (Main)", TruncationMode::middle, 19), "Laborator…ay (Main)");
+}
+
+TEST(TruncationTest, InTheMiddleBothEndsAreTheLinesAndAllFits) {
+  const std::string line = "Laboratory Display (2) (Main)";
+  for (int width = 0; width < 29; ++width) {
+    const std::string text = cut(line, TruncationMode::middle, width);
+    const std::size_t place = text.find(ellipsis);
+    ASSERT_NE(place, std::string::npos) << width;
+    EXPECT_TRUE(line.starts_with(text.substr(0, place))) << text;
+    EXPECT_TRUE(line.ends_with(text.substr(place + ellipsis.size()))) << text;
+    EXPECT_LE(widthOf(text), std::max(width, 1));
+    EXPECT_GE(widthOf(text), width - 2) << text;
+  }
+}
+
+TEST(TruncationTest, ALineThatFitsLosesItsEndToTheNextOne) {
+  EXPECT_EQ(cut("Display", TruncationMode::middle, 20), "Display…");
+  EXPECT_EQ(cut("", TruncationMode::middle, 20), "…");
+}
+
+}  // namespace
+}  // namespace orvane::ui
