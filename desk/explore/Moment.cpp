@@ -6,7 +6,6 @@
 #include <utility>
 #include <variant>
 
-#include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -34,15 +33,6 @@ std::string oneOf(const std::array<std::string_view, count>& known,
     }
   }
   return std::string(known.front());
-}
-
-void addGuide(Moment& moment) {
-  using Guide = OrvanePermissionGuideWindowController;
-  if (Guide::sharedExists()) {
-    const Guide& guide = Guide::shared();
-    moment.isGuidePolling = guide.isPolling();
-    moment.guideState = guide.viewModel().state.value();
-  }
 }
 
 void addWindows(Moment& moment, WindowServer& server) {
@@ -118,21 +108,23 @@ Moment Moment::of(const Machine& machine, const ApplicationHost& application) {
     return moment;
   }
   const OrvaneModel& model = application.model();
-  const DockMouseGuard& guard = model.guardService();
-  moment.isGuardRunning = guard.isRunning();
-  moment.isGuardWaiting = !guard.isRunning() && guard.isObservingScreens();
-  moment.isTapRefused = guard.isTapRefused();
+  moment.snapshot = application.snapshot();
+  const GuardSnapshot& guard = moment.snapshot.guard;
+  moment.isGuardRunning = guard.isRunning;
+  moment.isGuardWaiting = !guard.isRunning && guard.isObservingScreens;
+  moment.isUnlocked = guard.isTemporarilyUnlocked;
+  moment.blockedCount = guard.blockedCount;
+  moment.hasPermission = moment.snapshot.hasAccessibilityPermission;
+  moment.status = moment.snapshot.status;
+  moment.isGuidePolling = moment.snapshot.guide.isPolling;
+  moment.guideState = moment.snapshot.guide.state;
+  moment.isTapRefused = model.guardService().isTapRefused();
   moment.isDoubted = model.isPermissionDoubted();
-  moment.isUnlocked = guard.isTemporarilyUnlocked();
   moment.isRestoreBlocked = model.isRestoreBlocked();
-  moment.hasPermission = model.hasAccessibilityPermission().value();
-  moment.status = model.status();
-  moment.blockedCount = guard.blockedCount();
   moment.messageCount = application.messages().size();
   if (!application.messages().empty()) {
     moment.lastMessage = application.messages().back().text;
   }
-  addGuide(moment);
   return moment;
 }
 

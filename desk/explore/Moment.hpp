@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "Orvane/app/OrvaneSnapshot.hpp"
 #include "Orvane/permission/PermissionGuideState.hpp"
 #include "Orvane/ui/Semantics.hpp"
 #include "desk/application/ApplicationHost.hpp"
@@ -46,6 +47,7 @@ struct Moment {
   Stored stored;
 
   /// The rest holds for the running application only.
+  OrvaneSnapshot snapshot;
   bool isGuardRunning = false;
   /// The guard has no tap and follows the displays.
   bool isGuardWaiting = false;

@@ -242,20 +242,19 @@ Safety::Check Safety::checkGuard(const Moment& before, const Moment& after) {
   if (!after.isTrusted || !before.isTrusted) {
     return std::nullopt;
   }
-  const DockMouseGuard& guard = application_.model().guardService();
+  const GuardSnapshot& guard = after.snapshot.guard;
   const Wish wish = after.stored.wish();
-  if (guard.blocksAllDisplays() != wish.prevents) {
+  if (guard.blocksAllDisplays != wish.prevents) {
     return Violation{"guard", "it runs in the other mode",
                      "guard.blocksAllDisplays " + yesNo(wish.prevents)};
   }
-  if (static_cast<std::uint64_t>(guard.overrideModifier().flagMask()) !=
-      after.stored.unlockMask()) {
+  if (static_cast<std::uint64_t>(guard.overrideModifier.flagMask()) != after.stored.unlockMask()) {
     return Violation{"guard", "it unlocks by another key",
                      "guard.overrideModifier \"" + after.stored.modifier + "\""};
   }
   std::optional<std::string> complaint;
   for (const Situation& situation : filter_.situations()) {
-    complaint = situation.complaint(guard.cachedTriggerZones(), wish);
+    complaint = situation.complaint(guard.zones, wish);
     if (!complaint) {
       break;
     }
@@ -264,30 +263,30 @@ Safety::Check Safety::checkGuard(const Moment& before, const Moment& after) {
 }
 
 Safety::Check Safety::checkModel(const Moment& after) const {
-  const OrvaneModel& model = application_.model();
+  const OrvaneSnapshot& model = after.snapshot;
   const Stored& stored = after.stored;
-  if (model.selectedDisplayID().value() != stored.selected) {
+  if (model.selectedDisplayID != stored.selected) {
     return Violation{
         "stored", "the target is not the stored one",
         "model.selectedDisplayID " + (stored.selected ? "\"" + *stored.selected + "\"" : "null")};
   }
-  if (model.hidesDockOnAllDisplays().value() != stored.prevents) {
+  if (model.hidesDockOnAllDisplays != stored.prevents) {
     return Violation{"stored", "the mode is not the stored one",
                      "model.hidesDockOnAllDisplays " + yesNo(stored.prevents)};
   }
-  if (model.temporaryUnlockModifier().value().rawValue() != stored.modifier) {
+  if (model.temporaryUnlockModifier.rawValue() != stored.modifier) {
     return Violation{"stored", "the key is not the stored one",
                      "model.temporaryUnlockModifier \"" + stored.modifier + "\""};
   }
-  if (model.appLanguage().value().rawValue() != stored.language) {
+  if (model.appLanguage.rawValue() != stored.language) {
     return Violation{"stored", "the language is not the stored one",
                      "model.appLanguage \"" + stored.language + "\""};
   }
-  if (model.lastRestoreSucceeded().value()) {
+  if (model.lastRestoreSucceeded) {
     return Violation{"model", "something assigned what nothing assigns",
                      "model.lastRestoreSucceeded null"};
   }
-  if (!after.isQueueHeld && model.isTemporarilyUnlocked().value() != after.isUnlocked) {
+  if (!after.isQueueHeld && model.isTemporarilyUnlocked != after.isUnlocked) {
     return Violation{"model", "it did not hear of the unlock",
                      "model.isTemporarilyUnlocked " + yesNo(after.isUnlocked)};
   }
