@@ -81,6 +81,8 @@ int main(int argumentCount, char** arguments) {  // NOLINT(bugprone-exception-es
       ->check(CLI::NonNegativeNumber);
   explorer->add_flag("--shrink", explore.shrinks,
                      "Write the shortest script that still fails as the first day that did");
+  explorer->add_flag("--all-paths", explore.needsAllPaths,
+                     "Fail when a rare state was not reached");
   explorer->add_option("FILE", explore.scripts, "Scripts to look after instead");
 
   program.require_subcommand(0, 1);

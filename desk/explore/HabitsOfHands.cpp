@@ -22,9 +22,9 @@ CGPoint anyPlace(Scene& scene, const CGRect& frame) {
 }
 
 /// Not far from the Dock's edge of a display, and the way out.
-std::pair<CGPoint, CGVector> nearEdge(Scene& scene) {
+std::pair<CGPoint, CGVector> nearEdge(Scene& scene, std::int64_t mostDistance = 40) {
   const CGRect frame = scene.lots.oneOf(scene.machine.displays.globalFrames());
-  const auto distance = static_cast<double>(scene.lots.between(0, 40));
+  const auto distance = static_cast<double>(scene.lots.between(0, mostDistance));
   const auto step = static_cast<double>(scene.lots.between(1, 60));
   CGPoint place = anyPlace(scene, frame);
   switch (scene.machine.dock.edge()) {
@@ -109,7 +109,7 @@ Lines runAway(Scene& scene) {
   if (scene.machine.displays.isEmpty()) {
     return {};
   }
-  const auto [place, way] = nearEdge(scene);
+  const auto [place, way] = nearEdge(scene, 11);
   if (scene.lots.chance(500)) {
     return {"burst " + std::to_string(scene.lots.between(170, 260)) + " " + pointText(place)};
   }
@@ -255,8 +255,11 @@ Lines doOperation(Scene& scene) {
 Lines followGuide(Scene& scene) {
   const Surfaces surfaces(WindowServer::current());
   if (surfaces.isThere("alert")) {
+    if (scene.machine.eventTaps.isAnyEnabled() && scene.lots.chance(600)) {
+      return runAway(scene);
+    }
     if (scene.lots.chance(300)) {
-      return scene.machine.eventTaps.isAnyEnabled() ? runAway(scene) : Lines{"trust on"};
+      return {"trust on"};
     }
     constexpr std::size_t notNow = 0;
     constexpr std::size_t openSettings = 1;

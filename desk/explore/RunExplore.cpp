@@ -175,7 +175,9 @@ int runExplore(const ExploreOptions& options, std::ostream& output, std::ostream
     }
   }
   report(sums, output);
-  return worst;
+  const bool hasReachedAll =
+      std::ranges::find(sums.rarePaths.counts(), 0) == sums.rarePaths.counts().end();
+  return worst == heldStatus && options.needsAllPaths && !hasReachedAll ? brokenStatus : worst;
 }
 
 }  // namespace orvane::desk

@@ -13,9 +13,11 @@ struct ExploreOptions {
   std::uint64_t seed = 1;
   std::int64_t days = 100;
   /// The lines of a day before its end begins.
-  std::int64_t steps = 120;
+  std::int64_t steps = 250;
   /// Whether the first day that fails is cut down to a short script.
   bool shrinks = false;
+  /// Whether a rare state that was not reached is a failure.
+  bool needsAllPaths = false;
   /// Scripts to look after instead of days.
   std::vector<std::string> scripts = {};
 };
