@@ -6,7 +6,6 @@
 #include <memory>
 #include <vector>
 
-#include "showroom/desktop/StandardDisplays.hpp"
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
@@ -23,6 +22,7 @@
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/ContentPicture.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
 
 namespace orvane::bench {
 namespace {

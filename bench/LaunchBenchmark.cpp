@@ -4,7 +4,6 @@
 #include <memory>
 #include <optional>
 
-#include "showroom/desktop/StandardDisplays.hpp"
 #include <benchmark/benchmark.h>
 
 #include "Orvane/panels/main/ContentView.hpp"
@@ -13,6 +12,7 @@
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
 
 namespace orvane::bench {
 namespace {

@@ -4,11 +4,11 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "showroom/window/WindowPicture.hpp"
 #include <benchmark/benchmark.h>
 
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/window/WindowPicture.hpp"
 
 namespace orvane::bench {
 namespace {

@@ -5,14 +5,15 @@
 #include <utility>
 #include <vector>
 
+#include <CLI/CLI.hpp>
+
+#include "desk/explore/RunExplore.hpp"
+#include "desk/script/ScriptProgram.hpp"
 #include "showroom/desktop/DesktopPicture.hpp"
 #include "showroom/desktop/SurfacePicture.hpp"
 #include "showroom/gallery/RunGallery.hpp"
 #include "showroom/tour/RunTour.hpp"
 #include "showroom/window/RunWindow.hpp"
-#include <CLI/CLI.hpp>
-
-#include "desk/script/ScriptProgram.hpp"
 
 namespace {
 
@@ -71,6 +72,19 @@ int main(int argumentCount, char** arguments) {  // NOLINT(bugprone-exception-es
   std::string galleryFolder;
   gallery->add_option("DIR", galleryFolder, "Where the pictures go")->required();
 
+  CLI::App* const explorer =
+      program.add_subcommand("explore", "Live days by lots, with faults, and look after each step");
+  orvane::desk::ExploreOptions explore;
+  explorer->add_option("--seed", explore.seed, "The seed of the first day");
+  explorer->add_option("--days", explore.days, "How many days")->check(CLI::NonNegativeNumber);
+  explorer->add_option("--steps", explore.steps, "The steps of a day")
+      ->check(CLI::NonNegativeNumber);
+  explorer->add_flag("--shrink", explore.shrinks,
+                     "Write the shortest script that still fails as the first day that did");
+  explorer->add_flag("--all-paths", explore.needsAllPaths,
+                     "Fail when a rare state was not reached");
+  explorer->add_option("FILE", explore.scripts, "Scripts to look after instead");
+
   program.require_subcommand(0, 1);
   try {
     program.parse(argumentCount, arguments);
@@ -85,6 +99,9 @@ int main(int argumentCount, char** arguments) {  // NOLINT(bugprone-exception-es
   }
   if (gallery->parsed()) {
     return orvane::desk::runGallery(galleryFolder);
+  }
+  if (explorer->parsed()) {
+    return orvane::desk::runExplore(explore, std::cout, std::cerr);
   }
   if (dump->count() > 0) {
     window.dumpFile = dumpFile;

@@ -47,7 +47,7 @@ void AppDelegate::refreshStatusItemTimerFired() {
   OrvaneModel& model = OrvaneAppState::model();
   announcer_.update(model);
   // Most of the time there is nothing to draw.
-  if (showsRunningGuard_ == model.isGuardRunning()) {
+  if (shownMode_ == model.mode()) {
     return;
   }
   if (statusMenu_.menu().isOpen()) {
@@ -59,10 +59,11 @@ void AppDelegate::refreshStatusItemTimerFired() {
 
 void AppDelegate::updateStatusItemIcon() {
   const OrvaneModel& model = OrvaneAppState::model();
-  showsRunningGuard_ = model.isGuardRunning();
-  statusItem_->setImage(statusBarImage(showsRunningGuard_ ? "lock.fill" : "lock.open"));
-  statusItem_->setAccessibilityValue(showsRunningGuard_ ? model.localized("Locked", "已锁定")
-                                                        : model.localized("Unlocked", "未锁定"));
+  shownMode_ = model.mode();
+  const bool isRunning = shownMode_ != OrvaneMode::off;
+  statusItem_->setImage(statusBarImage(isRunning ? "lock.fill" : "lock.open"));
+  statusItem_->setAccessibilityValue(isRunning ? model.localized("Locked", "已锁定")
+                                               : model.localized("Unlocked", "未锁定"));
   announcer_.update(model);
 }
 

@@ -11,6 +11,7 @@
 #include "Orvane/base/Lifetime.hpp"
 #include "Orvane/base/Signal.hpp"
 #include "Orvane/model/GuardAnnouncer.hpp"
+#include "Orvane/model/OrvaneMode.hpp"
 #include "Orvane/platform/Quartz.hpp"
 #include "Orvane/platform/appkit/Image.hpp"
 #include "Orvane/platform/appkit/StatusItem.hpp"
@@ -64,7 +65,7 @@ class AppDelegate {
 
   std::optional<appkit::StatusItem> statusItem_;
   StatusMenu statusMenu_{statusMenuSectionHeaderWidth};
-  bool showsRunningGuard_ = false;
+  OrvaneMode shownMode_ = OrvaneMode::off;
   std::optional<appkit::Timer> statusRefreshTimer_;
   Subscription modelCancellable_;
   Subscription guardCancellable_;

@@ -57,6 +57,18 @@ void EventTaps::killAll() {
 }
 
 bool EventTaps::deliverToTaps(__CGEvent& event) {
+  return witness_ == nullptr ? deliverInOrder(event) : deliverBeforeWitness(event);
+}
+
+bool EventTaps::deliverBeforeWitness(__CGEvent& event) {
+  const __CGEvent before = event;
+  witness_->willDeliver(before);
+  const bool isKept = deliverInOrder(event);
+  witness_->didDeliver(before, event, isKept);
+  return isKept;
+}
+
+bool EventTaps::deliverInOrder(__CGEvent& event) {
   ++deliveriesUnderWay_;
   // Ordinary event types are bit numbers of the mask; greater ones are notices to a tap.
   const CGEventMask bit = event.type < 64 ? CGEventMask{1} << event.type : 0;

@@ -10,6 +10,7 @@
 #include "Orvane/platform/Quartz.hpp"
 #include "desk/machine/Event.hpp"
 #include "desk/machine/EventTap.hpp"
+#include "desk/machine/EventWitness.hpp"
 #include "desk/machine/RunLoop.hpp"
 
 namespace orvane::desk {
@@ -38,11 +39,14 @@ class EventTaps {
 
   /// Passes the event through the taps in order. False when one of them dropped it.
   bool deliver(__CGEvent& event) {
-    if (order_.empty()) {
+    if (order_.empty() && witness_ == nullptr) {
       return true;
     }
     return deliverToTaps(event);
   }
+
+  /// Null for none. Not owned.
+  void setWitness(EventWitness* witness) { witness_ = witness; }
 
   /// Disables every enabled tap and notifies it with an event of type `reason`. Returns how many
   /// there were.
@@ -58,10 +62,13 @@ class EventTaps {
 
  private:
   bool deliverToTaps(__CGEvent& event);
+  bool deliverBeforeWitness(__CGEvent& event);
+  bool deliverInOrder(__CGEvent& event);
   [[nodiscard]] bool call(EventTap& tap, __CGEvent& event);
   void tidy();
 
   const RunLoop& runLoop_;
+  EventWitness* witness_ = nullptr;
   /// In the order of delivery.
   std::vector<std::unique_ptr<EventTap>> order_;
   /// Created during a delivery; inserted at the head or the tail after it.

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 #include "desk/machine/MachineObserver.hpp"
 #include "desk/machine/MachineScope.hpp"
@@ -52,7 +53,7 @@ void Machine::permissionChanged() {
     eventTaps.killAll();
   }
   if (process.isRunning()) {
-    observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
+    post(appkit::NotificationName::accessibilityPermissionsDidChange);
   }
 }
 
@@ -84,7 +85,28 @@ void Machine::announceVisibleFrames() {
 void Machine::postScreenParameters() {
   if (process.isRunning()) {
     noteVisibleFrames();
-    observers.post(appkit::NotificationName::applicationDidChangeScreenParameters);
+    post(appkit::NotificationName::applicationDidChangeScreenParameters);
+  }
+}
+
+void Machine::post(appkit::NotificationName name) {
+  if (notifications.delayNanoseconds == 0) {
+    postNow(name, notifications.isDoubled);
+    return;
+  }
+  // A timer and no task: as without the delay, no modal session keeps it back.
+  const auto timer = std::make_shared<std::weak_ptr<RunLoopTimer>>();
+  *timer = runLoop.addTimer(notifications.delayNanoseconds, RunLoop::commonModes,
+                            [this, timer, name, twice = notifications.isDoubled] {
+                              runLoop.invalidateTimer(timer->lock());
+                              postNow(name, twice);
+                            });
+}
+
+void Machine::postNow(appkit::NotificationName name, bool twice) {
+  observers.post(name);
+  if (twice) {
+    observers.post(name);
   }
 }
 

@@ -19,6 +19,7 @@
 #include "desk/machine/LoginItemState.hpp"
 #include "desk/machine/ModifierKeys.hpp"
 #include "desk/machine/Mouse.hpp"
+#include "desk/machine/NotificationDelivery.hpp"
 #include "desk/machine/ObjectRegistry.hpp"
 #include "desk/machine/Observers.hpp"
 #include "desk/machine/Permission.hpp"
@@ -62,6 +63,7 @@ class Machine {
   ObjectRegistry objects{faults};
   RunLoop runLoop{clock, faults};
   Observers observers;
+  NotificationDelivery notifications;
   Permission permission;
   LoginItemState loginItem;
   InstalledBundle bundle;
@@ -92,6 +94,8 @@ class Machine {
   void noteVisibleFrames();
   void announceVisibleFrames();
   void postScreenParameters();
+  void post(appkit::NotificationName name);
+  void postNow(appkit::NotificationName name, bool twice);
 
   /// Each display's visible frame as last posted to the process, in the order of the list.
   std::vector<CGRect> knownVisibleFrames_;

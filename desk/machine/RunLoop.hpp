@@ -74,6 +74,9 @@ class RunLoop {
   void invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer);
   [[nodiscard]] std::size_t timerCount() const;
 
+  /// While refused, no source can be created for a port.
+  void setRefusesSources(bool refuses) { refusesSources_ = refuses; }
+  [[nodiscard]] bool refusesSources() const { return refusesSources_; }
   /// Adds a source, such as an event tap's, which is known only by its address. True when the
   /// source was not in the run loop before.
   bool addSource(const void* source, ModeSet modes);
@@ -123,6 +126,7 @@ class RunLoop {
   std::uint64_t nextSequence_ = 0;
   int mainQueueHolds_ = 0;
   bool acceptsTasks_ = true;
+  bool refusesSources_ = false;
   bool serves_ = false;
   bool servesMainQueue_ = false;
   std::int64_t timerFires_ = 0;

@@ -92,7 +92,7 @@ void removeSourcesOf(CFMachPortRef port) {
 
 CFRunLoopSourceRef CFMachPortCreateRunLoopSource(CFAllocatorRef, CFMachPortRef port, CFIndex) {
   const auto* const object = portBehind(port, "CFMachPortCreateRunLoopSource");
-  if (object == nullptr || !object->isValid) {
+  if (object == nullptr || !object->isValid || Machine::current().runLoop.refusesSources()) {
     return nullptr;
   }
   return Machine::current().objects.add(std::make_unique<__CFRunLoopSource>(port));

@@ -33,6 +33,14 @@ Languages readLanguages(ScriptContext& /*context*/, Arguments& arguments) {
   return languages;
 }
 
+NotificationDelivery readDelivery(ScriptContext& /*context*/, Arguments& arguments) {
+  constexpr std::array<std::string_view, 3> words = {"prompt", "late", "doubled"};
+  constexpr std::int64_t longestDelay = 3600 * Clock::nanosecondsPerSecond;
+  const std::size_t word = arguments.choice("prompt|late|doubled", words);
+  const std::int64_t delay = word == 1 ? arguments.nanoseconds("S", longestDelay) : 0;
+  return {.delayNanoseconds = delay, .isDoubled = word == 2};
+}
+
 PropertyValue readPropertyValue(ScriptContext& /*context*/, Arguments& arguments) {
   constexpr std::array<std::string_view, 3> types = {"string", "bool", "number"};
   // Each word for no stands before its word for yes.
@@ -135,6 +143,12 @@ void addSystemCommands(CommandTable& table) {
                                      {"silently", Disabling::silently},
                                      {"forgood", Disabling::forGood}})),
             disableTap);
+  table.add("sources", takes(either("allow|refuse", "allow", "refuse")),
+            [](Machine& machine, bool refuses) { machine.runLoop.setRefusesSources(refuses); });
+  table.add(
+      "notifications",
+      takes(Parameter<NotificationDelivery>{"prompt|late S|doubled", readDelivery}),
+      [](Machine& machine, NotificationDelivery delivery) { machine.notifications = delivery; });
   table.add("locale", takes(Parameter<Languages>{"preferred=A,B,... current=C", readLanguages}),
             setLanguages);
   table.add(

@@ -3,12 +3,11 @@
 
 #include <cstddef>
 
-#include "showroom/desktop/DesktopScene.hpp"
-#include "showroom/desktop/GlassCache.hpp"
-
 #include "Orvane/ui/Rect.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/DrawingResources.hpp"
+#include "showroom/desktop/DesktopScene.hpp"
+#include "showroom/desktop/GlassCache.hpp"
 
 namespace orvane::desk {
 

@@ -4,12 +4,12 @@
 #include <memory>
 #include <vector>
 
-#include "showroom/desktop/DesktopLayer.hpp"
-#include "showroom/desktop/DesktopLayout.hpp"
-#include "showroom/desktop/DesktopScene.hpp"
 #include <cairo.h>
 
 #include "desk/canvas/DrawingResources.hpp"
+#include "showroom/desktop/DesktopLayer.hpp"
+#include "showroom/desktop/DesktopLayout.hpp"
+#include "showroom/desktop/DesktopScene.hpp"
 
 namespace orvane::desk {
 

@@ -5,13 +5,12 @@
 #include <optional>
 #include <string>
 
-#include "showroom/desktop/DesktopLayout.hpp"
-#include "showroom/desktop/DesktopPainter.hpp"
-#include "showroom/desktop/DesktopScene.hpp"
-
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 #include "desk/machine/Machine.hpp"
+#include "showroom/desktop/DesktopLayout.hpp"
+#include "showroom/desktop/DesktopPainter.hpp"
+#include "showroom/desktop/DesktopScene.hpp"
 
 namespace orvane::desk {
 

@@ -1,12 +1,11 @@
 // Glass: a blurred and tinted view of what is already painted behind a shape.
 #pragma once
 
-#include "showroom/desktop/GlassCache.hpp"
-
 #include "Orvane/ui/Appearance.hpp"
 #include "Orvane/ui/Shape.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/machine/Appearance.hpp"
+#include "showroom/desktop/GlassCache.hpp"
 
 namespace orvane::desk {
 

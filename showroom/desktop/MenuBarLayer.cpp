@@ -5,11 +5,10 @@
 #include <array>
 #include <string>
 
+#include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/Glass.hpp"
 #include "showroom/desktop/MenuClock.hpp"
 #include "showroom/desktop/Rects.hpp"
-
-#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
 

@@ -2,11 +2,11 @@
 // screen, else nothing but a ground.
 #pragma once
 
-#include "showroom/desktop/DesktopLayout.hpp"
-#include "showroom/desktop/DesktopScene.hpp"
 #include <cairo.h>
 
 #include "desk/canvas/DrawingResources.hpp"
+#include "showroom/desktop/DesktopLayout.hpp"
+#include "showroom/desktop/DesktopScene.hpp"
 
 namespace orvane::desk {
 

@@ -1,15 +1,14 @@
 // The menu by the measures that it was laid out by.
 #include "showroom/desktop/OpenMenuLayer.hpp"
 
-#include "showroom/desktop/FileDragArt.hpp"
-#include "showroom/desktop/Glass.hpp"
-#include "showroom/desktop/Rects.hpp"
-#include "showroom/desktop/WindowArt.hpp"
-
 #include "Orvane/ui/StandardColors.hpp"
 #include "desk/windows/MenuMetrics.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/FileDragArt.hpp"
+#include "showroom/desktop/Glass.hpp"
+#include "showroom/desktop/Rects.hpp"
+#include "showroom/desktop/WindowArt.hpp"
 
 namespace orvane::desk {
 

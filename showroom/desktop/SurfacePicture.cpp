@@ -3,12 +3,11 @@
 
 #include <cmath>
 
-#include "showroom/desktop/DesktopPicture.hpp"
-
 #include "desk/canvas/CairoPointers.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/DesktopPicture.hpp"
 
 namespace orvane::desk {
 

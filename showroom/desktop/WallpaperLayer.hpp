@@ -4,9 +4,8 @@
 #include <map>
 #include <tuple>
 
-#include "showroom/desktop/DesktopLayer.hpp"
-
 #include "desk/canvas/CairoPointers.hpp"
+#include "showroom/desktop/DesktopLayer.hpp"
 
 namespace orvane::desk {
 

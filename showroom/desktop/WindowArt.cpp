@@ -4,9 +4,8 @@
 #include <array>
 #include <cmath>
 
-#include "showroom/desktop/Glass.hpp"
-
 #include "Orvane/ui/StandardColors.hpp"
+#include "showroom/desktop/Glass.hpp"
 
 namespace orvane::desk {
 

@@ -1,11 +1,10 @@
 // How windows look: shadow, glass, background, title bar, content.
 #pragma once
 
-#include "showroom/desktop/GlassCache.hpp"
-
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/windows/DeskWindow.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/GlassCache.hpp"
 
 namespace orvane::desk {
 

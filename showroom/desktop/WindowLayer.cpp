@@ -1,10 +1,9 @@
 // Windows back to front; those that are nowhere near the display are left out.
 #include "showroom/desktop/WindowLayer.hpp"
 
-#include "showroom/desktop/WindowArt.hpp"
-
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/WindowArt.hpp"
 
 namespace orvane::desk {
 

@@ -1,6 +1,4 @@
 // The styles of the buttons of both panels.
-#include "showroom/gallery/GallerySheet.hpp"
-
 #include "Orvane/panels/main/PrimaryActionButtonStyle.hpp"
 #include "Orvane/panels/main/SecondaryActionButtonStyle.hpp"
 #include "Orvane/panels/main/TitleBarIconButtonStyle.hpp"
@@ -10,6 +8,7 @@
 #include "Orvane/ui/Image.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
+#include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {
 

@@ -1,11 +1,10 @@
 // What asks for the permission, with its buttons.
-#include "showroom/gallery/GallerySheet.hpp"
-
 #include "Orvane/permission/OrvaneAccessibilityPermissionAlertView.hpp"
 #include "Orvane/permission/OrvaneDraggableAppIconView.hpp"
 #include "Orvane/permission/OrvanePermissionGuideView.hpp"
 #include "Orvane/ui/Button.hpp"
 #include "Orvane/ui/Text.hpp"
+#include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {
 

@@ -2,8 +2,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "showroom/gallery/GallerySheet.hpp"
-
 #include "Orvane/panels/main/DisplayChoiceCard.hpp"
 #include "Orvane/panels/main/DockPanel.hpp"
 #include "Orvane/panels/main/PanelIcon.hpp"
@@ -11,6 +9,7 @@
 #include "Orvane/panels/main/TrafficLightButton.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
+#include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {
 

@@ -1,9 +1,8 @@
 // The rows of the status menu.
-#include "showroom/gallery/GallerySheet.hpp"
-
 #include "Orvane/app/CompactMenuSwitch.hpp"
 #include "Orvane/app/StatusMenuRow.hpp"
 #include "Orvane/app/StatusMenuSectionHeader.hpp"
+#include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {
 

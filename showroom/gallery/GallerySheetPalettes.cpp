@@ -3,12 +3,11 @@
 #include <string>
 #include <utility>
 
-#include "showroom/gallery/GallerySheet.hpp"
-
 #include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/ui/Fill.hpp"
 #include "Orvane/ui/ShapeView.hpp"
+#include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {
 

@@ -1,11 +1,10 @@
 // The two panels as they are in their windows, each on a model of its own.
 #include <utility>
 
-#include "showroom/gallery/GallerySheet.hpp"
-#include "showroom/gallery/PanelStage.hpp"
-
 #include "Orvane/panels/main/ContentView.hpp"
 #include "Orvane/panels/settings/OrvaneSettingsView.hpp"
+#include "showroom/gallery/GallerySheet.hpp"
+#include "showroom/gallery/PanelStage.hpp"
 
 namespace orvane::desk {
 

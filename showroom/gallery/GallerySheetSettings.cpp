@@ -1,11 +1,10 @@
 // The cards that the settings panel is built from, and what is chosen in them.
-#include "showroom/gallery/GallerySheet.hpp"
-
 #include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/panels/settings/SettingsSection.hpp"
 #include "Orvane/ui/Picker.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
+#include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {
 

@@ -7,12 +7,11 @@
 #include <iostream>
 #include <system_error>
 
-#include "showroom/gallery/SheetPainter.hpp"
-
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/PinnedFonts.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "desk/machine/MachineScope.hpp"
+#include "showroom/gallery/SheetPainter.hpp"
 
 namespace orvane::desk {
 

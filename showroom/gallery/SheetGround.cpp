@@ -1,10 +1,6 @@
 // Glass and shadow come from the window server's own art, the surface from the main panel's parts.
 #include "showroom/gallery/SheetGround.hpp"
 
-#include "showroom/desktop/Glass.hpp"
-#include "showroom/desktop/WindowArt.hpp"
-#include "showroom/gallery/Specimen.hpp"
-
 #include "Orvane/panels/main/DockPanel.hpp"
 #include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/settings/SettingsPalette.hpp"
@@ -13,6 +9,9 @@
 #include "Orvane/ui/StandardColors.hpp"
 #include "Orvane/windows/OrvaneSettingsWindow.hpp"
 #include "Orvane/windows/OrvaneWindow.hpp"
+#include "showroom/desktop/Glass.hpp"
+#include "showroom/desktop/WindowArt.hpp"
+#include "showroom/gallery/Specimen.hpp"
 
 namespace orvane::desk {
 

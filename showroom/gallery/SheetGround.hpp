@@ -1,12 +1,11 @@
 // What the components of a sheet lie on.
 #pragma once
 
-#include "showroom/gallery/GallerySheet.hpp"
-
 #include "Orvane/ui/Appearance.hpp"
 #include "Orvane/ui/Shape.hpp"
 #include "Orvane/ui/TextMeasurer.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
+#include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {
 

@@ -7,14 +7,13 @@
 #include <memory>
 #include <string>
 
+#include "Orvane/ui/StandardColors.hpp"
+#include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/desktop/Glass.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
 #include "showroom/desktop/WindowArt.hpp"
 #include "showroom/gallery/SheetGround.hpp"
 #include "showroom/gallery/Specimen.hpp"
-
-#include "Orvane/ui/StandardColors.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
 
 namespace orvane::desk {
 

@@ -4,11 +4,10 @@
 
 #include <vector>
 
-#include "showroom/gallery/GallerySheet.hpp"
-
 #include "desk/canvas/CairoPointers.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 #include "desk/machine/Machine.hpp"
+#include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {
 

@@ -4,10 +4,9 @@
 
 #include <memory>
 
-#include "showroom/gallery/GallerySheet.hpp"
-
 #include "Orvane/ui/ViewHost.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
+#include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {
 

@@ -1,12 +1,11 @@
 // A segmented control as the Mac has it: one plate, the chosen segment raised on it.
 #include "showroom/hardware/HardwareChoice.hpp"
 
-#include "showroom/hardware/HardwareButtonStyle.hpp"
-
 #include "Orvane/ui/Button.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
+#include "showroom/hardware/HardwareButtonStyle.hpp"
 
 namespace orvane::desk {
 

@@ -3,14 +3,13 @@
 
 #include <utility>
 
-#include "showroom/hardware/HardwareButtonStyle.hpp"
-#include "showroom/hardware/HardwareChoice.hpp"
-#include "showroom/hardware/HardwareSwitch.hpp"
-
 #include "Orvane/ui/Button.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
+#include "showroom/hardware/HardwareButtonStyle.hpp"
+#include "showroom/hardware/HardwareChoice.hpp"
+#include "showroom/hardware/HardwareSwitch.hpp"
 
 namespace orvane::desk {
 

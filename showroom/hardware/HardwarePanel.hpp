@@ -5,9 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "showroom/hardware/HardwareContent.hpp"
-
 #include "Orvane/ui/View.hpp"
+#include "showroom/hardware/HardwareContent.hpp"
 
 namespace orvane::desk {
 

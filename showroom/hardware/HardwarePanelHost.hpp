@@ -5,12 +5,11 @@
 #include <cstdint>
 #include <optional>
 
-#include "showroom/hardware/HardwarePanel.hpp"
-
 #include "Orvane/ui/ViewHost.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
+#include "showroom/hardware/HardwarePanel.hpp"
 
 namespace orvane::desk {
 

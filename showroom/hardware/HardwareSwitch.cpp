@@ -1,13 +1,12 @@
 // A row of the hardware panel that switches something on and off.
 #include "showroom/hardware/HardwareSwitch.hpp"
 
-#include "showroom/hardware/HardwareButtonStyle.hpp"
-
 #include "Orvane/app/CompactMenuSwitch.hpp"
 #include "Orvane/ui/Button.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
+#include "showroom/hardware/HardwareButtonStyle.hpp"
 
 namespace orvane::desk {
 

@@ -5,10 +5,9 @@
 #include <iostream>
 #include <system_error>
 
+#include "desk/canvas/PinnedFonts.hpp"
 #include "showroom/tour/TourStage.hpp"
 #include "showroom/tour/TourStory.hpp"
-
-#include "desk/canvas/PinnedFonts.hpp"
 
 namespace orvane::desk {
 

@@ -3,11 +3,10 @@
 
 #include <string>
 
-#include "showroom/desktop/DesktopPainter.hpp"
-#include "showroom/desktop/DesktopScene.hpp"
-
 #include "desk/canvas/CairoPointers.hpp"
 #include "desk/canvas/DrawingResources.hpp"
+#include "showroom/desktop/DesktopPainter.hpp"
+#include "showroom/desktop/DesktopScene.hpp"
 
 namespace orvane::desk {
 

@@ -5,11 +5,10 @@
 #include <ostream>
 #include <utility>
 
-#include "showroom/tour/TourPicture.hpp"
-
 #include "desk/canvas/PngFile.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/tour/TourPicture.hpp"
 
 namespace orvane::desk {
 

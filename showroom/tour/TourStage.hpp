@@ -7,13 +7,12 @@
 #include <optional>
 #include <string>
 
-#include "showroom/desktop/DesktopPainter.hpp"
-#include "showroom/desktop/DesktopScene.hpp"
-
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 #include "desk/hand/Hand.hpp"
 #include "desk/machine/MachineScope.hpp"
+#include "showroom/desktop/DesktopPainter.hpp"
+#include "showroom/desktop/DesktopScene.hpp"
 
 namespace orvane::desk {
 

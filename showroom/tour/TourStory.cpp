@@ -4,10 +4,9 @@
 
 #include <string>
 
-#include "showroom/desktop/StandardDisplays.hpp"
-
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
 
 namespace orvane::desk {
 

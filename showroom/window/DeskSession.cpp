@@ -3,10 +3,9 @@
 
 #include <algorithm>
 
+#include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/MenuClock.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
-
-#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
 

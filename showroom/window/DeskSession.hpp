@@ -6,13 +6,12 @@
 #include <cstdint>
 #include <optional>
 
-#include "showroom/desktop/DesktopScene.hpp"
-#include "showroom/hardware/HardwareContent.hpp"
-#include "showroom/window/EventRate.hpp"
-
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/hand/Hand.hpp"
 #include "desk/machine/MachineScope.hpp"
+#include "showroom/desktop/DesktopScene.hpp"
+#include "showroom/hardware/HardwareContent.hpp"
+#include "showroom/window/EventRate.hpp"
 
 namespace orvane::desk {
 

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <string>
 
+#include "desk/canvas/PinnedFonts.hpp"
 #include "showroom/hardware/HardwarePanelHost.hpp"
 #include "showroom/window/DeskSession.hpp"
 #include "showroom/window/FramePump.hpp"
@@ -13,8 +14,6 @@
 #include "showroom/window/WindowInput.hpp"
 #include "showroom/window/WindowLayout.hpp"
 #include "showroom/window/WindowPicture.hpp"
-
-#include "desk/canvas/PinnedFonts.hpp"
 
 namespace orvane::desk {
 

@@ -3,8 +3,9 @@
 
 #include <utility>
 
-#include "showroom/window/KeyTranslation.hpp"
 #include <cairo.h>
+
+#include "showroom/window/KeyTranslation.hpp"
 
 namespace orvane::desk {
 

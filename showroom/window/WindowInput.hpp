@@ -2,11 +2,12 @@
 // clicks.
 #pragma once
 
+#include <SDL.h>
+
 #include "showroom/hardware/HardwarePanelHost.hpp"
 #include "showroom/window/DeskSession.hpp"
 #include "showroom/window/SdlWindow.hpp"
 #include "showroom/window/WindowLayout.hpp"
-#include <SDL.h>
 
 namespace orvane::desk {
 

@@ -4,10 +4,10 @@
 
 #include <vector>
 
-#include "showroom/desktop/DesktopLayout.hpp"
 #include <cairo.h>
 
 #include "Orvane/platform/Quartz.hpp"
+#include "showroom/desktop/DesktopLayout.hpp"
 
 namespace orvane::desk {
 

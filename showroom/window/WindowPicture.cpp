@@ -3,9 +3,8 @@
 
 #include <algorithm>
 
-#include "showroom/desktop/MenuClock.hpp"
-
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/MenuClock.hpp"
 
 namespace orvane::desk {
 

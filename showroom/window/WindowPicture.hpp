@@ -6,13 +6,13 @@
 #include <string>
 #include <vector>
 
+#include <cairo.h>
+
+#include "desk/canvas/DrawingResources.hpp"
 #include "showroom/desktop/DesktopPainter.hpp"
 #include "showroom/hardware/HardwarePanelHost.hpp"
 #include "showroom/window/DeskSession.hpp"
 #include "showroom/window/WindowLayout.hpp"
-#include <cairo.h>
-
-#include "desk/canvas/DrawingResources.hpp"
 
 namespace orvane::desk {
 

@@ -6,7 +6,6 @@
 #include <tuple>
 #include <vector>
 
-#include "showroom/hardware/Hardware.hpp"
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <rapidcheck/gtest.h>
@@ -15,6 +14,7 @@
 #include "desk/script/MenuSnapshot.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/hardware/Hardware.hpp"
 
 namespace orvane {
 namespace {

@@ -6,10 +6,10 @@
 #include <cstdlib>
 #include <string>
 
-#include "showroom/desktop/DesktopPicture.hpp"
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/Rect.hpp"
+#include "showroom/desktop/DesktopPicture.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/support/ApplicationFixture.hpp"
 

@@ -1,9 +1,10 @@
 // Where the screens fall in a picture.
 #include <cmath>
 
-#include "showroom/desktop/DesktopLayout.hpp"
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
+
+#include "showroom/desktop/DesktopLayout.hpp"
 
 namespace orvane::desk {
 namespace {

@@ -1,15 +1,14 @@
 // The picture of the desktop against the state of the machine, pixel by pixel where it matters.
 #include <cmath>
 
-#include "showroom/desktop/DesktopPainter.hpp"
-#include "showroom/desktop/DockShelf.hpp"
-#include "showroom/desktop/DockTileArt.hpp"
-#include "showroom/desktop/MenuBarLayer.hpp"
-
 #include "Orvane/platform/appkit/HostingView.hpp"
 #include "Orvane/platform/appkit/Window.hpp"
 #include "Orvane/ui/ShapeView.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/DesktopPainter.hpp"
+#include "showroom/desktop/DockShelf.hpp"
+#include "showroom/desktop/DockTileArt.hpp"
+#include "showroom/desktop/MenuBarLayer.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
 namespace orvane::desk {

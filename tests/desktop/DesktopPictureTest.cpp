@@ -3,10 +3,9 @@
 #include <filesystem>
 #include <limits>
 
+#include "desk/canvas/PngFile.hpp"
 #include "showroom/desktop/DesktopPicture.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
-
-#include "desk/canvas/PngFile.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 #include "tests/support/BytesOf.hpp"
 #include "tests/support/KeptPicture.hpp"

@@ -1,7 +1,8 @@
 // The Dock's shape at every edge and moment.
-#include "showroom/desktop/DockShelf.hpp"
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
+
+#include "showroom/desktop/DockShelf.hpp"
 
 namespace orvane::desk {
 namespace {

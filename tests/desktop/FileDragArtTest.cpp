@@ -1,7 +1,6 @@
 // The picture of a file that is dragged out of the permission guide.
-#include "showroom/desktop/FileDragArt.hpp"
-
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
+#include "showroom/desktop/FileDragArt.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
 namespace orvane::desk {

@@ -1,9 +1,9 @@
 // Glass is blurred once for what lies behind it.
-#include "showroom/desktop/GlassCache.hpp"
 #include <gtest/gtest.h>
 
 #include "desk/canvas/Blur.hpp"
 #include "desk/canvas/PngFile.hpp"
+#include "showroom/desktop/GlassCache.hpp"
 
 namespace orvane::desk {
 namespace {

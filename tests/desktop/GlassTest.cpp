@@ -1,10 +1,9 @@
 // Glass lets the wallpaper through, but not when the user wants less transparency.
 #include <vector>
 
+#include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/Glass.hpp"
 #include "showroom/desktop/MenuBarLayer.hpp"
-
-#include "desk/windows/WindowServer.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
 namespace orvane::desk {

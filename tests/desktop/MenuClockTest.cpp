@@ -1,6 +1,7 @@
 // The calendar in the menu bar.
-#include "showroom/desktop/MenuClock.hpp"
 #include <gtest/gtest.h>
+
+#include "showroom/desktop/MenuClock.hpp"
 
 namespace orvane::desk {
 namespace {

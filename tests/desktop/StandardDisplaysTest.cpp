@@ -1,8 +1,8 @@
 // The displays of a desk that nobody furnished.
-#include "showroom/desktop/StandardDisplays.hpp"
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/Rect.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
 #include "tests/support/MachineFixture.hpp"
 
 namespace orvane::desk {

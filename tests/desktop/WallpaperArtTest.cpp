@@ -2,9 +2,9 @@
 #include <set>
 #include <tuple>
 
-#include "showroom/desktop/WallpaperArt.hpp"
 #include <gtest/gtest.h>
 
+#include "showroom/desktop/WallpaperArt.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 
 namespace orvane::desk {

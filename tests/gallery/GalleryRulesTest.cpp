@@ -8,14 +8,14 @@
 #include <tuple>
 #include <vector>
 
-#include "showroom/desktop/WallpaperArt.hpp"
-#include "showroom/gallery/SheetGround.hpp"
-#include "showroom/gallery/Specimen.hpp"
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/StandardColors.hpp"
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
+#include "showroom/desktop/WallpaperArt.hpp"
+#include "showroom/gallery/SheetGround.hpp"
+#include "showroom/gallery/Specimen.hpp"
 #include "tests/panels/TextRun.hpp"
 #include "tests/support/Contrast.hpp"
 #include "tests/support/MachineFixture.hpp"

@@ -5,14 +5,14 @@
 #include <string>
 #include <vector>
 
-#include "showroom/gallery/GallerySheet.hpp"
-#include "showroom/gallery/SheetPainter.hpp"
-#include "showroom/gallery/Specimen.hpp"
 #include <gtest/gtest.h>
 
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/canvas/PngFile.hpp"
+#include "showroom/gallery/GallerySheet.hpp"
+#include "showroom/gallery/SheetPainter.hpp"
+#include "showroom/gallery/Specimen.hpp"
 #include "tests/support/MachineFixture.hpp"
 
 namespace orvane::desk {

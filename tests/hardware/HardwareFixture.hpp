@@ -1,9 +1,10 @@
 // A session of two displays, seen as hardware.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include "showroom/hardware/HardwareContent.hpp"
 #include "showroom/window/DeskSession.hpp"
-#include <gtest/gtest.h>
 
 namespace orvane::desk {
 

@@ -1,10 +1,9 @@
 // The hardware panel, worked without a window.
 #include <set>
 
-#include "showroom/hardware/HardwarePanelHost.hpp"
-
 #include "Orvane/ui/RecordingCanvas.hpp"
 #include "desk/hand/FindControl.hpp"
+#include "showroom/hardware/HardwarePanelHost.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/hardware/HardwareFixture.hpp"
 

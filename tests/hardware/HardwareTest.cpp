@@ -1,7 +1,6 @@
 // Every change of the hardware, by what it does to the machine and to the application.
-#include "showroom/desktop/StandardDisplays.hpp"
-
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
 #include "tests/hardware/HardwareFixture.hpp"
 
 namespace orvane::desk {

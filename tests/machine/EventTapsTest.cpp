@@ -197,5 +197,38 @@ TEST_F(EventTapsTest, ATapMadeDuringADeliveryHearsOfTheNextEvent) {
   EXPECT_EQ(log, (Log{"maker", "late", "maker"}));
 }
 
+class Witness : public EventWitness {
+ public:
+  void willDeliver(const __CGEvent& event) override { wentIn.push_back(event.location); }
+  void didDeliver(const __CGEvent& before, const __CGEvent& after, bool isKept) override {
+    EXPECT_EQ(before.location.x, wentIn.back().x);
+    cameOut.push_back(after.location);
+    kept.push_back(isKept);
+  }
+
+  std::vector<CGPoint> wentIn;
+  std::vector<CGPoint> cameOut;
+  std::vector<bool> kept;
+};
+
+TEST_F(EventTapsTest, AWitnessSeesWhatGoesInAndWhatComesOut) {
+  Witness witness;
+  taps.setWitness(&witness);
+  taps.deliver(event);
+  Action first = shift("first", 1);
+  make(first);
+  taps.deliver(event);
+  Action swallow = [](CGEventType, CGEventRef) -> CGEventRef { return nullptr; };
+  make(swallow);
+  taps.deliver(event);
+  taps.setWitness(nullptr);
+  taps.deliver(event);
+  ASSERT_EQ(witness.cameOut.size(), 3U);
+  EXPECT_EQ(witness.cameOut[0].x, 10);
+  EXPECT_EQ(witness.wentIn[1].x, 10);
+  EXPECT_EQ(witness.cameOut[1].x, 11);
+  EXPECT_EQ(witness.kept, (std::vector<bool>{true, true, false}));
+}
+
 }  // namespace
 }  // namespace orvane::desk

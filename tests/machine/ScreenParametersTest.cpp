@@ -59,6 +59,27 @@ class ScreenParametersTest : public MachineFixture {
   int heard_ = 0;
 };
 
+TEST_F(ScreenParametersTest, NewsMayComeLate) {
+  machine.notifications.delayNanoseconds = Clock::fromSeconds(0.5);
+  setDockOrientation(machine, "left");
+  machine.runLoop.enterMode(RunLoop::Mode::modalPanel);
+  machine.runLoop.holdMainQueue();
+  machine.advance(0.4);
+  EXPECT_EQ(heardAtRest(), 0);
+  machine.advance(0.1);
+  EXPECT_EQ(heardAtRest(), 1);
+  machine.advance(2);
+  EXPECT_EQ(heardAtRest(), 0);
+  machine.runLoop.releaseMainQueue();
+  machine.runLoop.leaveMode();
+}
+
+TEST_F(ScreenParametersTest, NewsMayComeTwice) {
+  machine.notifications.isDoubled = true;
+  setDockOrientation(machine, "left");
+  EXPECT_EQ(heardAtRest(), 2);
+}
+
 TEST_F(ScreenParametersTest, ADockAtAnotherEdgeIsNews) {
   setDockOrientation(machine, "left");
   EXPECT_EQ(heardAtRest(), 1);

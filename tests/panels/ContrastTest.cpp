@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "showroom/desktop/DesktopPicture.hpp"
 #include <gtest/gtest.h>
 
+#include "showroom/desktop/DesktopPicture.hpp"
 #include "tests/panels/PanelFixture.hpp"
 #include "tests/panels/TextRun.hpp"
 #include "tests/support/Contrast.hpp"

@@ -5,13 +5,13 @@
 #include <utility>
 #include <vector>
 
-#include "showroom/desktop/WallpaperArt.hpp"
-#include "showroom/desktop/WindowArt.hpp"
 #include <gtest/gtest.h>
 
 #include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/ui/StandardColors.hpp"
+#include "showroom/desktop/WallpaperArt.hpp"
+#include "showroom/desktop/WindowArt.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/panels/PanelFixture.hpp"
 

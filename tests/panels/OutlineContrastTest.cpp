@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <tuple>
 
-#include "showroom/desktop/DesktopPicture.hpp"
 #include <gtest/gtest.h>
 
+#include "showroom/desktop/DesktopPicture.hpp"
 #include "tests/panels/PanelFixture.hpp"
 
 namespace orvane {

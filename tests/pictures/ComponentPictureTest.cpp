@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "showroom/gallery/SheetPainter.hpp"
 #include <gtest/gtest.h>
 
 #include "desk/canvas/ApplicationImages.hpp"
+#include "showroom/gallery/SheetPainter.hpp"
 #include "tests/support/KeptPicture.hpp"
 #include "tests/support/MachineFixture.hpp"
 

@@ -4,8 +4,6 @@
 #include <filesystem>
 #include <string>
 
-#include "showroom/desktop/WallpaperArt.hpp"
-#include "showroom/desktop/WindowArt.hpp"
 #include <gtest/gtest.h>
 
 #include "Orvane/platform/appkit/HostingView.hpp"
@@ -15,6 +13,8 @@
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/WallpaperArt.hpp"
+#include "showroom/desktop/WindowArt.hpp"
 #include "tests/support/KeptPicture.hpp"
 #include "tests/support/MachineFixture.hpp"
 

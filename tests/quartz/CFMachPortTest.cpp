@@ -76,6 +76,14 @@ TEST_F(CFMachPortTest, ATapHearsOfEventsOnlyWhileASourceIsInTheRunLoop) {
   EXPECT_EQ(deliver(), 0);
 }
 
+TEST_F(CFMachPortTest, ASourceThatIsRefusedIsNotMade) {
+  const auto port = makeTap();
+  machine.runLoop.setRefusesSources(true);
+  EXPECT_FALSE(makeSource(port));
+  machine.runLoop.setRefusesSources(false);
+  EXPECT_TRUE(makeSource(port));
+}
+
 TEST_F(CFMachPortTest, InvalidatingThePortEndsTheTapAndItsSources) {
   const auto port = makeTap();
   const auto source = makeSource(port);

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "showroom/hardware/HardwarePanelHost.hpp"
 #include <gtest/gtest.h>
 
 #include "Orvane/platform/appkit/HostingView.hpp"
@@ -16,6 +15,7 @@
 #include "Orvane/ui/Stack.hpp"
 #include "Orvane/ui/Text.hpp"
 #include "desk/settings/SystemSettings.hpp"
+#include "showroom/hardware/HardwarePanelHost.hpp"
 #include "tests/support/ApplicationFixture.hpp"
 #include "tests/support/TestDisplays.hpp"
 

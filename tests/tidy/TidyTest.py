@@ -97,14 +97,16 @@ class ArrowsTest(RuleTest):
 
     def test_every_pair_of_parts_of_the_desk(self):
         parts = ["canvas", "symbols", "machine", "quartz", "windows", "appkit", "settings", "hand",
-                 "application", "script"]
+                 "application", "script", "explore"]
         allowed = {("quartz", "machine"), ("windows", "canvas"), ("windows", "machine"),
                    ("appkit", "canvas"), ("appkit", "machine"), ("appkit", "quartz"),
                    ("appkit", "windows"), ("settings", "machine"), ("settings", "windows"),
                    ("hand", "machine"), ("hand", "windows"), ("application", "machine"),
                    ("application", "settings"), ("application", "windows"),
                    ("script", "application"), ("script", "hand"), ("script", "machine"),
-                   ("script", "quartz"), ("script", "windows")} | {(part, part) for part in parts}
+                   ("script", "quartz"), ("script", "windows"), ("explore", "application"),
+                   ("explore", "canvas"), ("explore", "machine"), ("explore", "script"),
+                   ("explore", "windows")} | {(part, part) for part in parts}
         self.assert_pairs([f"desk/{part}" for part in parts], "",
                           {(f"desk/{a}", f"desk/{b}") for a, b in allowed})
 

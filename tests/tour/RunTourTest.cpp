@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "showroom/tour/RunTour.hpp"
 #include <gtest/gtest.h>
 
 #include "desk/canvas/PngFile.hpp"
+#include "showroom/tour/RunTour.hpp"
 #include "tests/support/BytesOf.hpp"
 
 namespace orvane::desk {

@@ -3,13 +3,13 @@
 #include <filesystem>
 #include <sstream>
 
-#include "showroom/desktop/StandardDisplays.hpp"
-#include "showroom/tour/TourStage.hpp"
 #include <gtest/gtest.h>
 
 #include "desk/canvas/PngFile.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
+#include "showroom/tour/TourStage.hpp"
 
 namespace orvane::desk {
 namespace {

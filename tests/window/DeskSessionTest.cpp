@@ -1,8 +1,7 @@
 // The desk that someone plays with, without a window around it.
+#include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
 #include "showroom/window/DeskSession.hpp"
-
-#include "desk/windows/WindowServer.hpp"
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::desk {

@@ -1,8 +1,8 @@
 // Events per second.
-#include "showroom/window/EventRate.hpp"
 #include <gtest/gtest.h>
 
 #include "desk/machine/Clock.hpp"
+#include "showroom/window/EventRate.hpp"
 
 namespace orvane::desk {
 namespace {

@@ -3,7 +3,6 @@
 #include <thread>
 
 #include "showroom/window/FramePump.hpp"
-
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::desk {

@@ -1,8 +1,8 @@
 // The computer's keys on the simulated Mac.
-#include "showroom/window/KeyTranslation.hpp"
 #include <gtest/gtest.h>
 
 #include "Orvane/platform/Quartz.hpp"
+#include "showroom/window/KeyTranslation.hpp"
 
 namespace orvane::desk {
 namespace {

@@ -1,8 +1,9 @@
 // A session of two displays, and what is often done in it.
 #pragma once
 
-#include "showroom/window/DeskSession.hpp"
 #include <gtest/gtest.h>
+
+#include "showroom/window/DeskSession.hpp"
 
 namespace orvane::desk {
 

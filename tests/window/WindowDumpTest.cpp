@@ -1,7 +1,7 @@
 // The dump of a session, as a program would read it.
-#include "showroom/window/WindowDump.hpp"
 #include <nlohmann/json.hpp>
 
+#include "showroom/window/WindowDump.hpp"
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::desk {

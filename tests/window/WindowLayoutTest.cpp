@@ -1,7 +1,8 @@
 // How the window is divided.
+#include <gtest/gtest.h>
+
 #include "showroom/hardware/HardwarePanel.hpp"
 #include "showroom/window/WindowLayout.hpp"
-#include <gtest/gtest.h>
 
 namespace orvane::desk {
 namespace {

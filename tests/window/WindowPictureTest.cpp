@@ -1,9 +1,8 @@
 // When the window is drawn anew, and when not.
 #include <functional>
 
-#include "showroom/window/WindowPicture.hpp"
-
 #include "desk/hand/FindControl.hpp"
+#include "showroom/window/WindowPicture.hpp"
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::desk {

@@ -29,6 +29,7 @@ DESK = {
     "hand": {"machine", "windows"},
     "application": {"machine", "settings", "windows"},
     "script": {"application", "hand", "machine", "quartz", "windows"},
+    "explore": {"application", "canvas", "machine", "script", "windows"},
 }
 SHOWROOM = {
     "desktop": set(),

@@ -1,0 +1,126 @@
+// Texts are told apart by their characters: no Chinese ones in English, and in Chinese no Latin
+// words but the few that are the same in both.
+#include "desk/explore/Texts.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cstddef>
+#include <vector>
+
+namespace orvane::desk::explore {
+
+namespace {
+
+constexpr std::array<std::string_view, 8> wordsOfBoth{"Dock",   "Orvane",  "macOS", "English",
+                                                      "Option", "Control", "Shift", "Command"};
+
+bool isLatin(char character) {
+  return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
+}
+
+/// Of well-formed text: whether a character of three bytes begins here that is from CJK Radicals
+/// Supplement (U+2E80) on, also a full-width form.
+bool isChineseAt(std::string_view text, std::size_t place) {
+  const auto byte = static_cast<unsigned char>(text[place]);
+  if (byte < 0xE2 || byte > 0xEF || place + 1 >= text.size()) {
+    return false;
+  }
+  return byte > 0xE2 || static_cast<unsigned char>(text[place + 1]) >= 0xBA;
+}
+
+bool hasChinese(std::string_view text) {
+  for (std::size_t place = 0; place < text.size(); ++place) {
+    if (isChineseAt(text, place)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+bool hasForeignLatin(std::string_view text) {
+  std::size_t place = 0;
+  while (place < text.size()) {
+    std::size_t end = place;
+    while (end < text.size() && isLatin(text[end])) {
+      ++end;
+    }
+    if (end > place &&
+        std::ranges::find(wordsOfBoth, text.substr(place, end - place)) == wordsOfBoth.end()) {
+      return true;
+    }
+    place = std::max(end, place + 1);
+  }
+  return false;
+}
+
+std::string normal(std::string_view identifier) {
+  std::string text;
+  for (const char character : identifier) {
+    if (std::isspace(static_cast<unsigned char>(character)) == 0) {
+      text += character == '_'
+                  ? '-'
+                  : static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+    }
+  }
+  return text;
+}
+
+bool isOf(std::string_view identifier, const std::string& language) {
+  const std::string text = normal(identifier);
+  return text == language || text.starts_with(language + "-");
+}
+
+}  // namespace
+
+Tongue tongueFor(std::string_view choice, const LocaleSettings& locale) {
+  if (choice == "chinese" || choice == "english") {
+    return choice == "chinese" ? Tongue::chinese : Tongue::english;
+  }
+  std::vector<std::string> candidates = locale.preferredLanguages;
+  candidates.push_back(locale.currentIdentifier);
+  for (const std::string& candidate : candidates) {
+    if (isOf(candidate, "zh")) {
+      return Tongue::chinese;
+    }
+    if (isOf(candidate, "en")) {
+      return Tongue::english;
+    }
+  }
+  return Tongue::english;
+}
+
+bool isIn(Tongue tongue, std::string text, const std::set<std::string>& names) {
+  // The last in the order first: of two names that begin alike, the longer one.
+  for (auto name = names.rbegin(); name != names.rend(); ++name) {
+    for (std::size_t place = text.find(*name); !name->empty() && place != std::string::npos;
+         place = text.find(*name)) {
+      text.erase(place, name->size());
+    }
+  }
+  return tongue == Tongue::english ? !hasChinese(text) : !hasForeignLatin(text);
+}
+
+const Words& wordsOf(Tongue tongue) {
+  static constexpr Words english{"Pin Dock",
+                                 "Unpin Dock",
+                                 "Prevent Dock Pop-Up",
+                                 "Allow Dock Pop-Up",
+                                 "Pinned",
+                                 "Not Pinned",
+                                 "Enabled",
+                                 "Off",
+                                 "Not Now",
+                                 "Follow System",
+                                 "English",
+                                 "Chinese",
+                                 "Locked",
+                                 "Unlocked"};
+  static constexpr Words chinese{"固定 Dock", "解除固定 Dock", "防止 Dock 弹出", "允许 Dock 弹出",
+                                 "已固定",    "未固定",        "已启用",         "未启用",
+                                 "取消",      "跟随系统",      "English",        "中文",
+                                 "已锁定",    "未锁定"};
+  return tongue == Tongue::english ? english : chinese;
+}
+
+}  // namespace orvane::desk::explore
