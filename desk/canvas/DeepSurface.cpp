@@ -190,7 +190,8 @@ void DeepSurface::paintOver(cairo_surface_t* target, int x, int y) const {
     for (std::size_t index = 0; index < count; index += parts) {
       std::fill_n(rests.data() + index, parts, restOf(own[index + 3]));
     }
-    std::uint8_t* const bytes = rowOf<std::uint8_t>(target, row) + area.left * parts;
+    std::uint8_t* const bytes =
+        rowOf<std::uint8_t>(target, row) + static_cast<std::size_t>(area.left) * parts;
     for (std::size_t index = 0; index < count; ++index) {
       const auto below = static_cast<std::uint16_t>(bytes[index] << 8U);
       const auto sum = static_cast<std::uint16_t>(own[index] + share(below, rests[index]));

@@ -90,7 +90,7 @@ TEST_F(AppDelegateMenuTest, HasRowsOf208By30PointsAndAHeaderOf208By26) {
 }
 
 TEST_F(AppDelegateMenuTest, ItsItemsSayWhatIsOnAndWhatIsChosen) {
-  const auto itemsThatAreOn = [this] {
+  const auto itemsThatAreOn = [] {
     std::vector<std::string> titles;
     for (const appkit::MenuItem& item : server().menus.menu()->items) {
       if (item.isOn) {

@@ -239,10 +239,10 @@ TEST_P(TextMotionTest, OfDisplaysThatComeAndGo) {
   pin();
   machine.advance(1);
   // With the status that follows the target something is always animated.
-  for (const std::uint32_t number : {2, 3, 8, 1}) {
+  for (const std::uint32_t number : {2U, 3U, 8U, 1U}) {
     go(number);
   }
-  for (const std::uint32_t number : {3, 1, 2}) {
+  for (const std::uint32_t number : {3U, 1U, 2U}) {
     come(number);
   }
   follow("another is the main one", [&] { EXPECT_FALSE(machine.displays.setMain(5)); });
