@@ -1,5 +1,5 @@
-// OrvaneSnapshot is what the application is and shows at one moment: for whoever looks at it from
-// outside, as tests do.
+// OrvaneSnapshot describes the application's state and windows at one moment, for scripts, the
+// desk's window and tests.
 #pragma once
 
 #include <optional>

@@ -3,7 +3,7 @@
 
 namespace orvane::ui {
 
-// Where the ellipsis stands: at the end, or in the middle, so that the end is told, too.
+// Position of the ellipsis: at the end, or in the middle, which keeps the end readable.
 enum class TruncationMode { tail, middle };
 
 struct LineLimit {

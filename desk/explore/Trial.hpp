@@ -32,7 +32,7 @@ class Trial {
   /// Ends the machine; what the application has left behind is a violation.
   void end();
   [[nodiscard]] const std::optional<Violation>& violation() const { return violation_; }
-  /// For whoever looks at more than single steps; the first one stays.
+  /// Records a violation found outside of a single step; the first one stays.
   void complain(Violation violation);
 
   [[nodiscard]] Machine& machine() const { return session_->machine(); }

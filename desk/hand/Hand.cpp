@@ -1,5 +1,5 @@
-// A control that is there but disabled, or kept back by a modal window, is told apart from one that
-// is not there.
+// Distinguishes a control that is disabled or blocked by a modal window from one that does not
+// exist.
 #include "desk/hand/Hand.hpp"
 
 #include <algorithm>

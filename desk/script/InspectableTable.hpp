@@ -1,4 +1,4 @@
-// What a script can look at, by name. Whoever has something to show adds it.
+// The table of what scripts can inspect, by name; each group of commands adds its entries.
 #pragma once
 
 #include <functional>
