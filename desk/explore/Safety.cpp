@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "desk/script/Inspectables.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk::explore {
@@ -24,24 +25,6 @@ std::string_view firstWord(std::string_view line) {
 
 bool isByHand(std::string_view line) {
   return std::ranges::find(handsOn, firstWord(line)) != handsOn.end();
-}
-
-const char* nameOf(OrvaneStatus status) {
-  switch (status) {
-    case OrvaneStatus::unlocked:
-      return "unlocked";
-    case OrvaneStatus::locked:
-      return "locked";
-    case OrvaneStatus::temporarilyUnlocked:
-      return "temporarilyUnlocked";
-    case OrvaneStatus::needsCheck:
-      return "needsCheck";
-    case OrvaneStatus::targetMissing:
-      return "targetMissing";
-    case OrvaneStatus::permissionRequired:
-      break;
-  }
-  return "permissionRequired";
 }
 
 std::string yesNo(bool value) {
@@ -323,8 +306,8 @@ Safety::Check Safety::checkStatus(const Moment& after) const {
     expected = OrvaneStatus::temporarilyUnlocked;
   }
   if (after.status != expected) {
-    return Violation{"status", std::string("it is ") + nameOf(after.status),
-                     std::string("model.status \"") + nameOf(expected) + "\""};
+    return Violation{"status", std::string("it is ") + script::nameOf(after.status),
+                     std::string("model.status \"") + script::nameOf(expected) + "\""};
   }
   return std::nullopt;
 }

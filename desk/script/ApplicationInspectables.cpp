@@ -14,24 +14,6 @@ namespace orvane::desk::script {
 
 namespace {
 
-const char* nameOf(OrvaneStatus status) {
-  switch (status) {
-    case OrvaneStatus::unlocked:
-      return "unlocked";
-    case OrvaneStatus::locked:
-      return "locked";
-    case OrvaneStatus::temporarilyUnlocked:
-      return "temporarilyUnlocked";
-    case OrvaneStatus::needsCheck:
-      return "needsCheck";
-    case OrvaneStatus::targetMissing:
-      return "targetMissing";
-    case OrvaneStatus::permissionRequired:
-      break;
-  }
-  return "permissionRequired";
-}
-
 const char* nameOf(PermissionGuideState state) {
   switch (state) {
     case PermissionGuideState::checking:
@@ -127,7 +109,7 @@ Problem lookAtModel(ScriptContext& context, const std::string&, Json& shown) {
       {"launchAtLoginEnabled", now.launchAtLoginEnabled},
       {"launchAtLoginRequiresApproval", now.launchAtLoginRequiresApproval},
       {"launchAtLoginErrorMessage", valueOrNull(now.launchAtLoginErrorMessage)},
-      {"status", nameOf(now.status)}};
+      {"status", script::nameOf(now.status)}};
   return std::nullopt;
 }
 
@@ -139,6 +121,24 @@ Problem lookAtGuide(ScriptContext& context, const std::string&, Json& shown) {
 }
 
 }  // namespace
+
+const char* nameOf(OrvaneStatus status) {
+  switch (status) {
+    case OrvaneStatus::unlocked:
+      return "unlocked";
+    case OrvaneStatus::locked:
+      return "locked";
+    case OrvaneStatus::temporarilyUnlocked:
+      return "temporarilyUnlocked";
+    case OrvaneStatus::needsCheck:
+      return "needsCheck";
+    case OrvaneStatus::targetMissing:
+      return "targetMissing";
+    case OrvaneStatus::permissionRequired:
+      break;
+  }
+  return "permissionRequired";
+}
 
 void addApplicationInspectables(InspectableTable& table) {
   table.add({.name = "displays", .look = lookAtDisplays});

@@ -1,9 +1,13 @@
 // What a script can look at, in groups.
 #pragma once
 
+#include "Orvane/model/OrvaneStatus.hpp"
 #include "desk/script/InspectableTable.hpp"
 
 namespace orvane::desk::script {
+
+/// The status as scripts write it, such as "locked".
+[[nodiscard]] const char* nameOf(OrvaneStatus status);
 
 /// The machine itself.
 void addMachineInspectables(InspectableTable& table);

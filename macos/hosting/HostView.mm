@@ -129,9 +129,10 @@ ui::TextMeasurer& textMeasurer() {
 - (void)layout {
   [super layout];
   [self update];
-  // In a menu the tool tips of views do not come, those of items do.
+  // In a menu, the tooltip of an item appears, and that of a view does not.
   NSMenuItem* const item = self.enclosingMenuItem;
-  const auto tooltip = _host->tooltipAt({NSMidX(self.bounds), NSMidY(self.bounds)});
+  const ui::Point middle{NSMidX(self.bounds), NSMidY(self.bounds)};
+  const auto tooltip = item == nil ? std::nullopt : _host->tooltipAt(middle);
   NSString* const text = tooltip ? appkit::foundationString(tooltip->text) : nil;
   if (text != item.toolTip && ![text isEqualToString:item.toolTip]) {
     item.toolTip = text;
@@ -220,8 +221,7 @@ ui::TextMeasurer& textMeasurer() {
 
 - (void)takeOverAppearance {
   _host->setAppearance(appkit::appearanceFrom(self.effectiveAppearance));
-  // The accent colour may change while the appearance stays equal, and built views keep the colours
-  // with which they were built.
+  // The accent colour may change in an equal appearance, and built views keep their colours.
   _host->invalidate();
   self.needsDisplay = YES;
 }

@@ -1,5 +1,5 @@
-// Whatever changes in the panels, in every frame of the change no text lies on another, and what
-// stands in one place before and after it stands there meanwhile.
+// In every frame of every change of the panels, no text overlaps another, and what has the same
+// place before and after a change keeps it during the change.
 #include <algorithm>
 #include <cmath>
 #include <functional>
