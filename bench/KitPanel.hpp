@@ -2,7 +2,7 @@
 // and two buttons. The same panel is built with two other toolkits in bench/peers.
 #pragma once
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane::bench {
 

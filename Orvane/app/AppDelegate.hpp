@@ -16,7 +16,7 @@
 #include "Orvane/platform/appkit/Image.hpp"
 #include "Orvane/platform/appkit/StatusItem.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
-#include "Orvane/ui/KeyboardShortcut.hpp"
+#include "Orvane/ui/views/KeyboardShortcut.hpp"
 
 namespace orvane {
 

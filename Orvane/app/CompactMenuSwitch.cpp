@@ -2,8 +2,8 @@
 #include "Orvane/app/CompactMenuSwitch.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
 
 namespace orvane {
 

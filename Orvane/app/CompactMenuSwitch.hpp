@@ -1,7 +1,7 @@
 // A small switch that only shows a state; the row that it stands in does the switching.
 #pragma once
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane {
 

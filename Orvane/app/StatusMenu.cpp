@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane {
 

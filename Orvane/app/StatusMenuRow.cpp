@@ -2,11 +2,11 @@
 #include "Orvane/app/StatusMenuRow.hpp"
 
 #include "Orvane/app/CompactMenuSwitch.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 
 namespace orvane {
 

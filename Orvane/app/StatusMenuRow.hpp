@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane {
 

@@ -1,7 +1,7 @@
 // The heading of a section of the status menu.
 #include "Orvane/app/StatusMenuSectionHeader.hpp"
 
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Text.hpp"
 
 namespace orvane {
 

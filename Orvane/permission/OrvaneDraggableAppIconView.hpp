@@ -2,7 +2,7 @@
 // carries the application bundle.
 #pragma once
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane {
 

@@ -8,7 +8,7 @@
 
 #include <cairo.h>
 
-#include "Orvane/ui/Canvas.hpp"
+#include "Orvane/ui/draw/Canvas.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 #include "desk/canvas/DeepSurface.hpp"
 #include "desk/canvas/DrawingResources.hpp"

@@ -10,7 +10,7 @@
 
 #include <cairo.h>
 
-#include "Orvane/ui/Appearance.hpp"
+#include "Orvane/ui/draw/Appearance.hpp"
 #include "desk/canvas/CoverageRuns.hpp"
 #include "desk/canvas/MaskCache.hpp"
 

@@ -4,7 +4,7 @@
 #include <set>
 #include <string>
 
-#include "Orvane/ui/ImageSource.hpp"
+#include "Orvane/ui/draw/ImageSource.hpp"
 #include "desk/canvas/CoverageRuns.hpp"
 #include "desk/canvas/ImageLibrary.hpp"
 #include "desk/canvas/MaskCache.hpp"

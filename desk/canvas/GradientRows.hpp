@@ -3,8 +3,8 @@
 
 #include <cairo.h>
 
-#include "Orvane/ui/Paint.hpp"
-#include "Orvane/ui/Rect.hpp"
+#include "Orvane/ui/draw/Paint.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 
 namespace orvane::desk {

@@ -8,7 +8,7 @@
 
 #include <pango/pango.h>
 
-#include "Orvane/ui/Truncation.hpp"
+#include "Orvane/ui/draw/Truncation.hpp"
 
 namespace orvane::desk {
 namespace {

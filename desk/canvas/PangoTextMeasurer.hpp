@@ -5,7 +5,7 @@
 #include <string>
 #include <tuple>
 
-#include "Orvane/ui/TextMeasurer.hpp"
+#include "Orvane/ui/draw/TextMeasurer.hpp"
 #include "desk/canvas/TextShaper.hpp"
 
 namespace orvane::desk {

@@ -1,7 +1,7 @@
 // The blurred coverage of a shape, which is what its shadow looks like before it has a colour.
 #pragma once
 
-#include "Orvane/ui/Shape.hpp"
+#include "Orvane/ui/draw/Shape.hpp"
 #include "desk/canvas/MaskCache.hpp"
 
 namespace orvane::desk {

@@ -6,8 +6,8 @@
 #include <string>
 #include <utility>
 
-#include "Orvane/ui/Font.hpp"
-#include "Orvane/ui/Size.hpp"
+#include "Orvane/ui/draw/Font.hpp"
+#include "Orvane/ui/layout/Size.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 #include "desk/canvas/MaskCache.hpp"
 #include "desk/canvas/PixelPlacement.hpp"

@@ -6,7 +6,7 @@
 #include <string>
 #include <tuple>
 
-#include "Orvane/ui/Font.hpp"
+#include "Orvane/ui/draw/Font.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 #include "desk/canvas/MaskCache.hpp"
 #include "desk/canvas/PixelPlacement.hpp"

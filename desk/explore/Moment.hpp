@@ -10,7 +10,7 @@
 
 #include "Orvane/app/OrvaneSnapshot.hpp"
 #include "Orvane/permission/PermissionGuideState.hpp"
-#include "Orvane/ui/Semantics.hpp"
+#include "Orvane/ui/views/Semantics.hpp"
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/explore/Fingerprint.hpp"
 #include "desk/explore/Situation.hpp"

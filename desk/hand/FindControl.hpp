@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Orvane/ui/Semantics.hpp"
+#include "Orvane/ui/views/Semantics.hpp"
 
 namespace orvane::desk {
 

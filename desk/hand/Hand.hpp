@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/KeyboardShortcut.hpp"
-#include "Orvane/ui/Semantics.hpp"
+#include "Orvane/ui/views/KeyboardShortcut.hpp"
+#include "Orvane/ui/views/Semantics.hpp"
 #include "desk/machine/Machine.hpp"
 #include "desk/windows/DeskWindow.hpp"
 #include "desk/windows/Surfaces.hpp"

@@ -6,7 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "Orvane/ui/RecordingCanvas.hpp"
+#include "Orvane/ui/draw/InkProbe.hpp"
 #include "desk/hand/FindControl.hpp"
 #include "desk/windows/MenuMetrics.hpp"
 
@@ -17,14 +17,14 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 /// Notes the first symbol that is drawn.
-class SymbolProbe : public ui::RecordingCanvas {
+class SymbolProbe : public ui::InkProbe {
  public:
-  void symbol(const std::string& name, const ui::Font& font, const ui::Rgba& color,
-              const ui::Rect& rect) override {
+  SymbolProbe() : InkProbe({}) {}
+
+  void symbol(const std::string& name, const ui::Font&, const ui::Rgba&, const ui::Rect&) override {
     if (first.empty()) {
       first = name;
     }
-    ui::RecordingCanvas::symbol(name, font, color, rect);
   }
 
   std::string first;

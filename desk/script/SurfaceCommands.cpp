@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "Orvane/ui/KeyboardShortcut.hpp"
+#include "Orvane/ui/views/KeyboardShortcut.hpp"
 #include "desk/hand/Hand.hpp"
 #include "desk/script/Commands.hpp"
 #include "desk/windows/WindowServer.hpp"

@@ -1,7 +1,7 @@
 // The page with the applications that may control the computer.
 #pragma once
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 #include "desk/settings/AccessibilityList.hpp"
 
 namespace orvane::desk {

@@ -1,7 +1,7 @@
 // Orvane brings its icon; the others, which exist as names only, get a plate with a symbol.
 #include "desk/settings/ApplicationIcon.hpp"
 
-#include "Orvane/ui/Image.hpp"
+#include "Orvane/ui/views/Image.hpp"
 #include "desk/settings/AccessibilityList.hpp"
 #include "desk/settings/SettingsBadge.hpp"
 

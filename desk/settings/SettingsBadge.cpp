@@ -1,8 +1,8 @@
 // The coloured plate with a white symbol before a row of the System Settings.
 #include "desk/settings/SettingsBadge.hpp"
 
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 
 namespace orvane::desk {
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane::desk {
 

@@ -1,7 +1,7 @@
 // A button of the System Settings that is drawn by its label alone.
 #pragma once
 
-#include "Orvane/ui/ButtonStyle.hpp"
+#include "Orvane/ui/views/ButtonStyle.hpp"
 
 namespace orvane::desk {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane::desk {
 

@@ -4,11 +4,11 @@
 #include <cmath>
 #include <vector>
 
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "desk/machine/Machine.hpp"
 #include "desk/settings/SettingsBadge.hpp"
 #include "desk/settings/SettingsButtonStyle.hpp"

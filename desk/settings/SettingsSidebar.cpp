@@ -1,10 +1,10 @@
 // The rows keep clear of the window's buttons above them.
 #include "desk/settings/SettingsSidebar.hpp"
 
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "desk/settings/SettingsBadge.hpp"
 #include "desk/settings/SettingsButtonStyle.hpp"
 #include "desk/settings/SystemSettings.hpp"

@@ -1,9 +1,9 @@
 // The small switch at the end of a row of the System Settings.
 #include "desk/settings/SettingsSwitch.hpp"
 
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
 #include "desk/settings/SettingsButtonStyle.hpp"
 
 namespace orvane::desk {

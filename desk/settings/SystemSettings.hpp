@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/ui/Rect.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "desk/machine/DockEdge.hpp"
 #include "desk/machine/Links.hpp"
 #include "desk/settings/AccessibilityList.hpp"

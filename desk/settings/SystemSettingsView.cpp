@@ -1,8 +1,8 @@
 // The sidebar stands on the window's glass, the page on the window's own background.
 #include "desk/settings/SystemSettingsView.hpp"
 
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
 #include "desk/settings/AccessibilityPage.hpp"
 #include "desk/settings/ApplicationChooser.hpp"
 #include "desk/settings/SettingsPages.hpp"

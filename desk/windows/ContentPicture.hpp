@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "Orvane/ui/Size.hpp"
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
+#include "Orvane/ui/layout/Size.hpp"
 #include "desk/canvas/DeepSurface.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "Orvane/platform/appkit/Window.hpp"
-#include "Orvane/ui/Point.hpp"
-#include "Orvane/ui/Shape.hpp"
+#include "Orvane/ui/draw/Shape.hpp"
+#include "Orvane/ui/layout/Point.hpp"
 #include "desk/windows/DropTarget.hpp"
 #include "desk/windows/HostedView.hpp"
 

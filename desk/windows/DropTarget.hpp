@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "Orvane/ui/Point.hpp"
+#include "Orvane/ui/layout/Point.hpp"
 
 namespace orvane::desk {
 

@@ -6,9 +6,9 @@
 #include <memory>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/Appearance.hpp"
-#include "Orvane/ui/Shape.hpp"
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/draw/Appearance.hpp"
+#include "Orvane/ui/draw/Shape.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "desk/machine/RunLoopTimer.hpp"
 #include "desk/windows/ContentPicture.hpp"
 

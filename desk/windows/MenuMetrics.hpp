@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Orvane/platform/appkit/Menu.hpp"
-#include "Orvane/ui/Font.hpp"
+#include "Orvane/ui/draw/Font.hpp"
 #include "desk/windows/HostedView.hpp"
 
 namespace orvane::desk {

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/HostServices.hpp"
-#include "Orvane/ui/KeyboardShortcut.hpp"
+#include "Orvane/ui/host/HostServices.hpp"
+#include "Orvane/ui/views/KeyboardShortcut.hpp"
 #include "desk/windows/DeskMenu.hpp"
 #include "desk/windows/HostedView.hpp"
 

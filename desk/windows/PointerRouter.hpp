@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "Orvane/ui/HostServices.hpp"
+#include "Orvane/ui/host/HostServices.hpp"
 #include "desk/machine/PointerListener.hpp"
 #include "desk/windows/DeskWindow.hpp"
 

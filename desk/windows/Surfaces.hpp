@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/Semantics.hpp"
+#include "Orvane/ui/views/Semantics.hpp"
 #include "desk/windows/DeskWindow.hpp"
 
 namespace orvane::desk {

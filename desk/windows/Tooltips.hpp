@@ -7,7 +7,7 @@
 #include <string>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "desk/machine/RunLoopTimer.hpp"
 #include "desk/windows/HostedView.hpp"
 

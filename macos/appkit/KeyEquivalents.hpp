@@ -2,7 +2,7 @@
 // else dispatches them.
 #pragma once
 
-#include "Orvane/ui/KeyboardShortcut.hpp"
+#include "Orvane/ui/views/KeyboardShortcut.hpp"
 
 namespace orvane::appkit {
 

@@ -5,8 +5,8 @@
 
 #include "Orvane/base/CFRef.hpp"
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/Appearance.hpp"
-#include "Orvane/ui/TextMeasurer.hpp"
+#include "Orvane/ui/draw/Appearance.hpp"
+#include "Orvane/ui/draw/TextMeasurer.hpp"
 
 namespace orvane::appkit {
 

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "Orvane/ui/Truncation.hpp"
+#include "Orvane/ui/draw/Truncation.hpp"
 #include "macos/appkit/Strings.hpp"
 #include "macos/canvas/SystemFont.hpp"
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/Canvas.hpp"
+#include "Orvane/ui/draw/Canvas.hpp"
 
 namespace orvane::appkit {
 

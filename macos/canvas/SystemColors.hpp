@@ -3,7 +3,7 @@
 
 #import <AppKit/AppKit.h>
 
-#include "Orvane/ui/Color.hpp"
+#include "Orvane/ui/draw/Color.hpp"
 
 namespace orvane::appkit {
 

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "Orvane/ui/StandardColors.hpp"
+#include "Orvane/ui/draw/StandardColors.hpp"
 
 namespace orvane::appkit {
 namespace {

@@ -3,7 +3,7 @@
 
 #import <AppKit/AppKit.h>
 
-#include "Orvane/ui/Font.hpp"
+#include "Orvane/ui/draw/Font.hpp"
 
 namespace orvane::appkit {
 

@@ -5,7 +5,7 @@
 
 #import <AppKit/AppKit.h>
 
-#include "Orvane/ui/ImageSource.hpp"
+#include "Orvane/ui/draw/ImageSource.hpp"
 
 namespace orvane::appkit {
 

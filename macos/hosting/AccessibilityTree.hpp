@@ -7,7 +7,7 @@
 
 #import <AppKit/AppKit.h>
 
-#include "Orvane/ui/Semantics.hpp"
+#include "Orvane/ui/views/Semantics.hpp"
 
 /// One element of the tree. It stays the same object while its view keeps its identity, so that
 /// VoiceOver keeps its cursor on it.

@@ -6,7 +6,7 @@
 
 #import <AppKit/AppKit.h>
 
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 
 /// Its coordinates are the kit's: points, origin at the top left.
 @interface OrvaneHostView : NSView <NSViewToolTipOwner>

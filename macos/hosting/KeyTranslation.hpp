@@ -5,7 +5,7 @@
 
 #import <AppKit/AppKit.h>
 
-#include "Orvane/ui/KeyboardShortcut.hpp"
+#include "Orvane/ui/views/KeyboardShortcut.hpp"
 
 namespace orvane::appkit {
 

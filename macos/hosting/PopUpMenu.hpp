@@ -3,7 +3,7 @@
 
 #import <AppKit/AppKit.h>
 
-#include "Orvane/ui/HostServices.hpp"
+#include "Orvane/ui/host/HostServices.hpp"
 
 namespace orvane::appkit {
 

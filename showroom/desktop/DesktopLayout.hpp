@@ -9,9 +9,9 @@
 #include <cairo.h>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/Point.hpp"
-#include "Orvane/ui/Rect.hpp"
-#include "Orvane/ui/Size.hpp"
+#include "Orvane/ui/layout/Point.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
+#include "Orvane/ui/layout/Size.hpp"
 
 namespace orvane::desk {
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "Orvane/ui/Rect.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "desk/machine/DockEdge.hpp"
 
 namespace orvane::desk {

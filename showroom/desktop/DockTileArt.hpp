@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "Orvane/ui/Rect.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 
 namespace orvane::desk {

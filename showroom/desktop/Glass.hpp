@@ -1,8 +1,8 @@
 // Glass: a blurred and tinted view of what is already painted behind a shape.
 #pragma once
 
-#include "Orvane/ui/Appearance.hpp"
-#include "Orvane/ui/Shape.hpp"
+#include "Orvane/ui/draw/Appearance.hpp"
+#include "Orvane/ui/draw/Shape.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/machine/Appearance.hpp"
 #include "showroom/desktop/GlassCache.hpp"

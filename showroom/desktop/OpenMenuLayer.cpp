@@ -1,7 +1,7 @@
 // The menu by the measures that it was laid out by.
 #include "showroom/desktop/OpenMenuLayer.hpp"
 
-#include "Orvane/ui/StandardColors.hpp"
+#include "Orvane/ui/draw/StandardColors.hpp"
 #include "desk/windows/MenuMetrics.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"

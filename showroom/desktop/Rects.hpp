@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/Rect.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 
 namespace orvane::desk {
 

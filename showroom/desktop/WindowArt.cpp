@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-#include "Orvane/ui/StandardColors.hpp"
+#include "Orvane/ui/draw/StandardColors.hpp"
 #include "showroom/desktop/Glass.hpp"
 
 namespace orvane::desk {

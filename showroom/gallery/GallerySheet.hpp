@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "Orvane/model/OrvaneLanguage.hpp"
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane::desk {
 

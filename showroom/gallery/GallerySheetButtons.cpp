@@ -4,10 +4,10 @@
 #include "Orvane/panels/main/TitleBarIconButtonStyle.hpp"
 #include "Orvane/panels/settings/SettingsIconButtonStyle.hpp"
 #include "Orvane/panels/settings/SettingsSecondaryButtonStyle.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {

@@ -2,8 +2,8 @@
 #include "Orvane/permission/OrvaneAccessibilityPermissionAlertView.hpp"
 #include "Orvane/permission/OrvaneDraggableAppIconView.hpp"
 #include "Orvane/permission/OrvanePermissionGuideView.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {

@@ -7,8 +7,8 @@
 #include "Orvane/panels/main/PanelIcon.hpp"
 #include "Orvane/panels/main/StatusPill.hpp"
 #include "Orvane/panels/main/TrafficLightButton.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {

@@ -5,8 +5,8 @@
 
 #include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/settings/SettingsPalette.hpp"
-#include "Orvane/ui/Fill.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/draw/Fill.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {

@@ -1,9 +1,9 @@
 // The cards that the settings panel is built from, and what is chosen in them.
 #include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/panels/settings/SettingsSection.hpp"
-#include "Orvane/ui/Picker.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Picker.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
 namespace orvane::desk {

@@ -1,9 +1,9 @@
 // What the components of a sheet lie on.
 #pragma once
 
-#include "Orvane/ui/Appearance.hpp"
-#include "Orvane/ui/Shape.hpp"
-#include "Orvane/ui/TextMeasurer.hpp"
+#include "Orvane/ui/draw/Appearance.hpp"
+#include "Orvane/ui/draw/Shape.hpp"
+#include "Orvane/ui/draw/TextMeasurer.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "Orvane/ui/StandardColors.hpp"
+#include "Orvane/ui/draw/StandardColors.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/desktop/Glass.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 

@@ -1,7 +1,7 @@
 // The small push button of the hardware panel.
 #include "showroom/hardware/HardwareButtonStyle.hpp"
 
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 
 namespace orvane::desk {
 

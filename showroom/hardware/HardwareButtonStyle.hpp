@@ -1,7 +1,7 @@
 // The small push button of the hardware panel.
 #pragma once
 
-#include "Orvane/ui/ButtonStyle.hpp"
+#include "Orvane/ui/views/ButtonStyle.hpp"
 
 namespace orvane::desk {
 

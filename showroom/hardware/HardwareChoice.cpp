@@ -1,10 +1,10 @@
 // A segmented control as the Mac has it: one plate, the chosen segment raised on it.
 #include "showroom/hardware/HardwareChoice.hpp"
 
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "showroom/hardware/HardwareButtonStyle.hpp"
 
 namespace orvane::desk {

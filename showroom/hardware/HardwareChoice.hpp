@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane::desk {
 

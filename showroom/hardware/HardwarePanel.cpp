@@ -3,10 +3,10 @@
 
 #include <utility>
 
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "showroom/hardware/HardwareButtonStyle.hpp"
 #include "showroom/hardware/HardwareChoice.hpp"
 #include "showroom/hardware/HardwareSwitch.hpp"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 #include "showroom/hardware/HardwareContent.hpp"
 
 namespace orvane::desk {

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"

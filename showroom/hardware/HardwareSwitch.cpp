@@ -2,10 +2,10 @@
 #include "showroom/hardware/HardwareSwitch.hpp"
 
 #include "Orvane/app/CompactMenuSwitch.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "showroom/hardware/HardwareButtonStyle.hpp"
 
 namespace orvane::desk {

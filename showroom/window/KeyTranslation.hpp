@@ -6,7 +6,7 @@
 
 #include <SDL.h>
 
-#include "Orvane/ui/KeyboardShortcut.hpp"
+#include "Orvane/ui/views/KeyboardShortcut.hpp"
 
 namespace orvane::desk {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/ui/RecordingCanvas.hpp"
 #include "tests/app/AppFixture.hpp"
+#include "tests/support/RecordingCanvas.hpp"
 
 namespace orvane {
 namespace {

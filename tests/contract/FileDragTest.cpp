@@ -2,7 +2,7 @@
 #include <optional>
 
 #include "Orvane/platform/appkit/Window.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
 

@@ -1,6 +1,6 @@
 // Contract tests for hosting views.
 #include "Orvane/platform/appkit/HostingView.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 #include "tests/contract/ContractFixture.hpp"
 
 namespace orvane {

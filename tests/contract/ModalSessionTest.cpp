@@ -6,7 +6,7 @@
 #include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 #include "tests/contract/ContractFixture.hpp"
 
 namespace orvane {

@@ -3,7 +3,7 @@
 #include <tuple>
 
 #include "Orvane/platform/appkit/Window.hpp"
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 #include "tests/contract/ContractFixture.hpp"
 
 namespace orvane {

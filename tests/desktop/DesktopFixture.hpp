@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/Rect.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "showroom/desktop/DesktopPicture.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/support/ApplicationFixture.hpp"

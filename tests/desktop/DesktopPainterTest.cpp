@@ -3,7 +3,7 @@
 
 #include "Orvane/platform/appkit/HostingView.hpp"
 #include "Orvane/platform/appkit/Window.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/DesktopPainter.hpp"
 #include "showroom/desktop/DockShelf.hpp"

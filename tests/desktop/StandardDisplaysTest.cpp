@@ -1,7 +1,7 @@
 // The displays of a desk that nobody furnished.
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/Rect.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
 #include "tests/support/MachineFixture.hpp"
 

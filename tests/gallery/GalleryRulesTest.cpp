@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/StandardColors.hpp"
+#include "Orvane/ui/draw/StandardColors.hpp"
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"

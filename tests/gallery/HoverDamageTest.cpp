@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/panels/main/ContentView.hpp"
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "tests/support/ModelFixture.hpp"

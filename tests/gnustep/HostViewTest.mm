@@ -4,10 +4,10 @@
 #include <vector>
 
 #include "Orvane/platform/appkit/Application.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/ScrollView.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/ScrollView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
 #include "tests/gnustep/MacHalfFixture.hpp"
 #include "tests/gnustep/shim/World.hpp"
 

@@ -5,9 +5,9 @@
 
 #include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Picker.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Picker.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 #include "macos/appkit/NativeWindow.hpp"
 #include "tests/gnustep/MacHalfFixture.hpp"
 

@@ -1,11 +1,11 @@
 // The hardware panel, worked without a window.
 #include <set>
 
-#include "Orvane/ui/RecordingCanvas.hpp"
 #include "desk/hand/FindControl.hpp"
 #include "showroom/hardware/HardwarePanelHost.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/hardware/HardwareFixture.hpp"
+#include "tests/support/RecordingCanvas.hpp"
 
 namespace orvane::desk {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/settings/SettingsPalette.hpp"
-#include "Orvane/ui/StandardColors.hpp"
+#include "Orvane/ui/draw/StandardColors.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
 #include "showroom/desktop/WindowArt.hpp"
 #include "tests/canvas/PixelFixture.hpp"

@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/Semantics.hpp"
+#include "Orvane/ui/views/Semantics.hpp"
 #include "tests/support/ApplicationFixture.hpp"
 
 namespace orvane {

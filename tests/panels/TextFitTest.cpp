@@ -10,10 +10,10 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/panels/settings/OrvaneSettingsView.hpp"
-#include "Orvane/ui/RecordingCanvas.hpp"
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "tests/panels/PanelFixture.hpp"
+#include "tests/support/RecordingCanvas.hpp"
 
 namespace orvane {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/ui/Canvas.hpp"
+#include "Orvane/ui/draw/Canvas.hpp"
 #include "desk/canvas/TextShaper.hpp"
 
 namespace orvane {

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "Orvane/permission/OrvanePermissionGuideView.hpp"
-#include "Orvane/ui/TextMeasurer.hpp"
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/draw/TextMeasurer.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "tests/permission/PermissionFlow.hpp"
 
 namespace orvane {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/ui/StandardColors.hpp"
+#include "Orvane/ui/draw/StandardColors.hpp"
 #include "tests/permission/PermissionFlow.hpp"
 
 namespace orvane {

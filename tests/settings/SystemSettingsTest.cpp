@@ -4,9 +4,9 @@
 #include <string>
 
 #include "Orvane/platform/appkit/Workspace.hpp"
-#include "Orvane/ui/RecordingCanvas.hpp"
 #include "desk/canvas/SymbolLibrary.hpp"
 #include "desk/settings/SystemSettings.hpp"
+#include "tests/support/RecordingCanvas.hpp"
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {

@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "bench/KitPanel.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"

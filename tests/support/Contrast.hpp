@@ -7,7 +7,7 @@
 
 #include <cairo.h>
 
-#include "Orvane/ui/Appearance.hpp"
+#include "Orvane/ui/draw/Appearance.hpp"
 
 namespace orvane {
 

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/ui/RecordingCanvas.hpp"
 #include "desk/hand/FindControl.hpp"
 #include "desk/hand/Hand.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "tests/support/MachineFixture.hpp"
+#include "tests/support/RecordingCanvas.hpp"
 
 namespace orvane::desk {
 

@@ -5,7 +5,7 @@
 #include <limits>
 #include <vector>
 
-#include "Orvane/ui/RecordingCanvas.hpp"
+#include "tests/support/RecordingCanvas.hpp"
 
 namespace orvane {
 

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "Orvane/ui/Point.hpp"
-#include "Orvane/ui/TextMeasurer.hpp"
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/draw/TextMeasurer.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
+#include "Orvane/ui/layout/Point.hpp"
 
 namespace orvane {
 

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "Orvane/ui/AnimatedValue.hpp"
+#include "Orvane/ui/views/AnimatedValue.hpp"
 
 namespace orvane::ui {
 namespace {

@@ -1,9 +1,9 @@
 // Changes over time, as a host presents them.
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "tests/ui/TestHost.hpp"
 
 namespace orvane::ui {

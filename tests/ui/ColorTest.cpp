@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/Color.hpp"
-#include "Orvane/ui/Fill.hpp"
-#include "Orvane/ui/StandardColors.hpp"
+#include "Orvane/ui/draw/Color.hpp"
+#include "Orvane/ui/draw/Fill.hpp"
+#include "Orvane/ui/draw/StandardColors.hpp"
 
 namespace orvane::ui {
 namespace {

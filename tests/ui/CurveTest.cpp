@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "Orvane/ui/Curve.hpp"
+#include "Orvane/ui/views/Curve.hpp"
 
 namespace orvane::ui {
 namespace {

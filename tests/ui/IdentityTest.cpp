@@ -1,10 +1,10 @@
 // Retained nodes: matched by id, else by kind and place; state lives in them.
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Group.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Group.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "tests/ui/TestHost.hpp"
 
 namespace orvane::ui {

@@ -5,14 +5,14 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "Orvane/ui/Builder.hpp"
-#include "Orvane/ui/LayoutPass.hpp"
-#include "Orvane/ui/ScrollView.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/StandardColors.hpp"
-#include "Orvane/ui/SyntheticTextMeasurer.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/draw/StandardColors.hpp"
+#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/LayoutPass.hpp"
+#include "Orvane/ui/views/ScrollView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
+#include "tests/support/SyntheticTextMeasurer.hpp"
 
 namespace orvane::ui {
 namespace {

@@ -3,12 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/Group.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/ScrollView.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Group.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/ScrollView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "tests/ui/TestHost.hpp"
 
 namespace orvane::ui {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "Orvane/ui/Legibility.hpp"
+#include "Orvane/ui/draw/Legibility.hpp"
 
 namespace orvane::ui {
 namespace {

@@ -1,8 +1,8 @@
 // The pop-up button and the platform's menu.
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/Picker.hpp"
-#include "Orvane/ui/Stack.hpp"
+#include "Orvane/ui/views/Picker.hpp"
+#include "Orvane/ui/views/Stack.hpp"
 #include "tests/ui/TestHost.hpp"
 
 namespace orvane::ui {

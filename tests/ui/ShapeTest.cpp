@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "Orvane/ui/Shape.hpp"
+#include "Orvane/ui/draw/Shape.hpp"
 
 namespace orvane::ui {
 namespace {

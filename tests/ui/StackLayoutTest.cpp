@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "Orvane/ui/StackLayout.hpp"
+#include "Orvane/ui/layout/StackLayout.hpp"
 
 namespace orvane::ui {
 namespace {

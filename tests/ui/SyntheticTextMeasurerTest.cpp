@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/SyntheticTextMeasurer.hpp"
+#include "tests/support/SyntheticTextMeasurer.hpp"
 
 namespace orvane::ui {
 namespace {

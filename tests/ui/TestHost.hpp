@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/ui/RecordingCanvas.hpp"
-#include "Orvane/ui/SyntheticTextMeasurer.hpp"
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "desk/hand/FindControl.hpp"
+#include "tests/support/RecordingCanvas.hpp"
+#include "tests/support/SyntheticTextMeasurer.hpp"
 
 namespace orvane::ui {
 

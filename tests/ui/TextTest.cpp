@@ -1,9 +1,9 @@
 // A line of text in too little room: it is set closer, or cut and told in full.
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "tests/ui/TestHost.hpp"
 
 namespace orvane::ui {

@@ -1,9 +1,9 @@
 // Views that come and go.
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "tests/ui/TestHost.hpp"
 
 namespace orvane::ui {

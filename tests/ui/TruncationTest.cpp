@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/Truncation.hpp"
+#include "Orvane/ui/draw/Truncation.hpp"
 
 namespace orvane::ui {
 namespace {

@@ -1,7 +1,7 @@
 // The menu under the status item and the pop-up menus of pickers.
 #include "Orvane/platform/appkit/StatusItem.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
-#include "Orvane/ui/Picker.hpp"
+#include "Orvane/ui/views/Picker.hpp"
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {

@@ -9,10 +9,10 @@
 
 #include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/platform/appkit/Window.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "desk/windows/Implementations.hpp"
 #include "tests/support/HandFixture.hpp"
 

@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "Orvane/model/OrvaneModel.hpp"
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane {
 

@@ -13,12 +13,12 @@
 #include "Orvane/panels/main/PrimaryActionButtonStyle.hpp"
 #include "Orvane/panels/main/SecondaryActionButtonStyle.hpp"
 #include "Orvane/panels/main/StatusPill.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Group.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/ScrollView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Group.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/ScrollView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 
 namespace orvane {
 

@@ -1,7 +1,7 @@
 // The look of a button whose label is a surface of its own.
 #include "Orvane/panels/main/DarkeningButtonStyle.hpp"
 
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 
 namespace orvane {
 

@@ -1,8 +1,8 @@
 // The look of a button whose label is a surface of its own: it darkens while it is pressed.
 #pragma once
 
-#include "Orvane/ui/ButtonStyle.hpp"
-#include "Orvane/ui/ShapeForm.hpp"
+#include "Orvane/ui/draw/ShapeForm.hpp"
+#include "Orvane/ui/views/ButtonStyle.hpp"
 
 namespace orvane {
 

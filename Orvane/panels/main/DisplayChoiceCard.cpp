@@ -3,11 +3,11 @@
 
 #include "Orvane/panels/main/DarkeningButtonStyle.hpp"
 #include "Orvane/panels/main/OrvanePalette.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 
 namespace orvane {
 

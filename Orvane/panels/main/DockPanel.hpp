@@ -1,7 +1,7 @@
 // The surface of a panel within the main window.
 #pragma once
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane {
 

@@ -2,9 +2,9 @@
 // opacity, switched on the appearance.
 #pragma once
 
-#include "Orvane/ui/Color.hpp"
-#include "Orvane/ui/Environment.hpp"
-#include "Orvane/ui/Fill.hpp"
+#include "Orvane/ui/draw/Color.hpp"
+#include "Orvane/ui/draw/Fill.hpp"
+#include "Orvane/ui/views/Environment.hpp"
 
 namespace orvane::OrvanePalette {
 

@@ -1,8 +1,8 @@
 // The tile with a symbol at the head of a panel.
 #include "Orvane/panels/main/PanelIcon.hpp"
 
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 
 namespace orvane {
 

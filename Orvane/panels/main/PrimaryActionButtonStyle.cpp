@@ -2,7 +2,7 @@
 #include "Orvane/panels/main/PrimaryActionButtonStyle.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 
 namespace orvane {
 

@@ -1,7 +1,7 @@
 // The look of a panel's one main button.
 #pragma once
 
-#include "Orvane/ui/ButtonStyle.hpp"
+#include "Orvane/ui/views/ButtonStyle.hpp"
 
 namespace orvane {
 

@@ -2,8 +2,8 @@
 #include "Orvane/panels/main/StatusPill.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Text.hpp"
 
 namespace orvane {
 

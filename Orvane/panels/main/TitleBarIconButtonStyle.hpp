@@ -1,7 +1,7 @@
 // The look of the icon button in the window's own title bar.
 #pragma once
 
-#include "Orvane/ui/ButtonStyle.hpp"
+#include "Orvane/ui/views/ButtonStyle.hpp"
 
 namespace orvane {
 

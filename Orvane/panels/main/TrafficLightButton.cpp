@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "Orvane/panels/main/DarkeningButtonStyle.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 
 namespace orvane {
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "Orvane/ui/View.hpp"
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane {
 

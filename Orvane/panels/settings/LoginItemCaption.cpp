@@ -7,11 +7,11 @@
 #include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/panels/settings/SettingsSecondaryButtonStyle.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 
 namespace orvane {
 

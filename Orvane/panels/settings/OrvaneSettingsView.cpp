@@ -5,11 +5,11 @@
 #include "Orvane/panels/settings/LoginItemCaption.hpp"
 #include "Orvane/panels/settings/SettingsIconButtonStyle.hpp"
 #include "Orvane/panels/settings/SettingsPalette.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/ShapeView.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 
 namespace orvane {
 

@@ -10,11 +10,11 @@
 #include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/panels/settings/SettingsSecondaryButtonStyle.hpp"
 #include "Orvane/panels/settings/SettingsSection.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/Picker.hpp"
-#include "Orvane/ui/Stack.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/Picker.hpp"
+#include "Orvane/ui/views/Stack.hpp"
+#include "Orvane/ui/views/Text.hpp"
 
 namespace orvane {
 

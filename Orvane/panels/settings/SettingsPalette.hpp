@@ -1,8 +1,8 @@
 // The colours of the settings panel, cooler and more blue than those of the main panel.
 #pragma once
 
-#include "Orvane/ui/Color.hpp"
-#include "Orvane/ui/Fill.hpp"
+#include "Orvane/ui/draw/Color.hpp"
+#include "Orvane/ui/draw/Fill.hpp"
 
 namespace orvane::SettingsPalette {
 

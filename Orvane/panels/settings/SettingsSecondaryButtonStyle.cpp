@@ -3,7 +3,7 @@
 
 #include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/settings/SettingsPalette.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 
 namespace orvane {
 

@@ -1,7 +1,7 @@
 // The look of the buttons within the cards of the settings panel.
 #pragma once
 
-#include "Orvane/ui/ButtonStyle.hpp"
+#include "Orvane/ui/views/ButtonStyle.hpp"
 
 namespace orvane {
 

@@ -7,7 +7,7 @@
 
 #include "Orvane/platform/Quartz.hpp"
 #include "Orvane/platform/appkit/Window.hpp"
-#include "Orvane/ui/KeyboardShortcut.hpp"
+#include "Orvane/ui/views/KeyboardShortcut.hpp"
 
 namespace orvane::appkit {
 

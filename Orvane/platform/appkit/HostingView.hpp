@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/RootBuilder.hpp"
+#include "Orvane/ui/host/RootBuilder.hpp"
 
 namespace orvane::appkit {
 

@@ -2,9 +2,9 @@
 #include "Orvane/panels/main/PrimaryActionButtonStyle.hpp"
 #include "Orvane/panels/main/SecondaryActionButtonStyle.hpp"
 #include "Orvane/panels/main/TitleBarIconButtonStyle.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {

@@ -1,6 +1,6 @@
 // The surface of a panel.
 #include "Orvane/panels/main/DockPanel.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {

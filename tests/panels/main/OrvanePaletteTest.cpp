@@ -1,6 +1,6 @@
 // The colours of the main panel's glass.
 #include "Orvane/panels/main/OrvanePalette.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 #include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {

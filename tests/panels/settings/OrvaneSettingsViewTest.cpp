@@ -7,9 +7,9 @@
 
 #include "Orvane/panels/settings/OrvaneSettingsView.hpp"
 #include "Orvane/platform/appkit/HostingView.hpp"
-#include "Orvane/ui/SyntheticTextMeasurer.hpp"
-#include "Orvane/ui/ViewHost.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "tests/panels/PanelFixture.hpp"
+#include "tests/support/SyntheticTextMeasurer.hpp"
 
 namespace orvane {
 namespace {

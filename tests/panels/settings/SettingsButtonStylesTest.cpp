@@ -2,9 +2,9 @@
 // dark.
 #include "Orvane/panels/settings/SettingsIconButtonStyle.hpp"
 #include "Orvane/panels/settings/SettingsSecondaryButtonStyle.hpp"
-#include "Orvane/ui/Button.hpp"
-#include "Orvane/ui/Image.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Button.hpp"
+#include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "tests/panels/ComponentFixture.hpp"
 #include "tests/panels/Motion.hpp"
 

@@ -1,6 +1,6 @@
 // The colours of the settings panel.
 #include "Orvane/panels/settings/SettingsPalette.hpp"
-#include "Orvane/ui/ShapeView.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 #include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {

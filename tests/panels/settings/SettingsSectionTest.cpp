@@ -1,6 +1,6 @@
 // One card of the settings panel: at rest and under the pointer, by day and in the dark.
 #include "Orvane/panels/settings/SettingsSection.hpp"
-#include "Orvane/ui/Text.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "tests/panels/ComponentFixture.hpp"
 #include "tests/panels/Motion.hpp"
 

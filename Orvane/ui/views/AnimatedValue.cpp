@@ -1,0 +1,58 @@
+// The value is its target plus what the motion has left.
+#include "Orvane/ui/views/AnimatedValue.hpp"
+
+#include <cmath>
+
+namespace orvane::ui {
+
+void AnimatedValue::jump(double value) {
+  target_ = value;
+  motion_.reset();
+}
+
+void AnimatedValue::set(double target, const std::optional<Curve>& curve, double now) {
+  if (target == target_) {
+    return;
+  }
+  if (!curve) {
+    jump(target);
+    return;
+  }
+  const bool wasMoving = isMoving(now);
+  const double distance = at(now) - target;
+  const std::optional<double> velocity =
+      wasMoving ? std::optional<double>(velocityAt(now)) : std::nullopt;
+  target_ = target;
+  motion_ = std::make_unique<Motion>(Motion{distance, velocity, now, *curve});
+}
+
+void AnimatedValue::settle(double now) {
+  if (motion_ && !isMoving(now)) {
+    motion_.reset();
+  }
+}
+
+Curve::Remainder AnimatedValue::remainder(double now) const {
+  if (!motion_) {
+    return {0, 0, true};
+  }
+  // The difference of two times carries their rounding. Without it the same motion looks the same
+  // at any hour, down to the last bit, and what was drawn for it once can be shown again.
+  constexpr double stepsPerSecond = 0x1p24;
+  const double elapsed = std::floor((now - motion_->start) * stepsPerSecond + 0.5) / stepsPerSecond;
+  return motion_->curve.remainder(motion_->distance, motion_->velocity, elapsed);
+}
+
+double AnimatedValue::at(double now) const {
+  return target_ + remainder(now).distance;
+}
+
+double AnimatedValue::velocityAt(double now) const {
+  return remainder(now).velocity;
+}
+
+bool AnimatedValue::isMoving(double now) const {
+  return !remainder(now).isSettled;
+}
+
+}  // namespace orvane::ui

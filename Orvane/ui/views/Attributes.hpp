@@ -1,0 +1,97 @@
+// Animatable attributes of a node: written as plain numbers when a view is updated, read back as
+// they are at a moment. Writer and reader go through them in the same order.
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "Orvane/ui/draw/Fill.hpp"
+#include "Orvane/ui/draw/Shadow.hpp"
+#include "Orvane/ui/views/Node.hpp"
+
+namespace orvane::ui {
+
+class AttributeWriter {
+ public:
+  AttributeWriter(const Appearance& appearance, const ColorResolver& resolver)
+      : appearance_(appearance), resolver_(resolver) {}
+
+  // What is not finite counts as zero, so that nothing is ever drawn nowhere.
+  void number(double value) { values_.push_back(std::isfinite(value) ? value : 0); }
+  void color(const Color& color) {
+    const Rgba resolved = color.resolve(appearance_, resolver_);
+    for (const double value : {resolved.red, resolved.green, resolved.blue, resolved.alpha}) {
+      number(value);
+    }
+  }
+  void fill(const Fill& fill) {
+    const Gradient& gradient = fill.gradient();
+    for (const double value :
+         {gradient.start.x, gradient.start.y, gradient.end.x, gradient.end.y}) {
+      number(value);
+    }
+    for (const GradientStop& stop : gradient.stops) {
+      number(stop.location);
+      color(stop.color);
+    }
+  }
+  void shadow(const Shadow& shadow) {
+    color(shadow.color);
+    number(shadow.radius);
+    number(shadow.x);
+    number(shadow.y);
+  }
+
+  const std::vector<double>& values() const { return values_; }
+
+ private:
+  const Appearance& appearance_;
+  const ColorResolver& resolver_;
+  std::vector<double> values_;
+};
+
+class AttributeReader {
+ public:
+  AttributeReader(const Node& node, double now) : node_(node), now_(now) {}
+
+  double number() {
+    return next_ < node_.attributes.size() ? node_.attributes[next_++].at(now_) : 0;
+  }
+  // A spring may swing past its target; a share must not.
+  double share() { return std::clamp(number(), 0.0, 1.0); }
+  Rgba color() {
+    const double red = share();
+    const double green = share();
+    const double blue = share();
+    return {red, green, blue, share()};
+  }
+  // The fill that was written, for the rectangle it is painted in.
+  Paint fill(const Fill& written, const Rect& rect) {
+    UnitPoint start;
+    UnitPoint end;
+    start.x = number();
+    start.y = number();
+    end.x = number();
+    end.y = number();
+    Paint paint{{}, start.in(rect), end.in(rect)};
+    for (std::size_t index = 0; index < written.gradient().stops.size(); ++index) {
+      const double location = share();
+      paint.stops.push_back({color(), location});
+    }
+    return paint;
+  }
+  PaintShadow shadow() {
+    const Rgba resolved = color();
+    const double radius = std::max(0.0, number());
+    const double x = number();
+    return {resolved, radius, {x, number()}};
+  }
+
+ private:
+  const Node& node_;
+  double now_;
+  std::size_t next_ = 0;
+};
+
+}  // namespace orvane::ui

@@ -1,0 +1,145 @@
+// Closed forms: nothing is integrated step by step, so any moment can be asked for directly.
+#include "Orvane/ui/views/Curve.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace orvane::ui {
+
+namespace {
+
+// One coordinate of a cubic Bezier from 0 to 1 with the inner control values a and b.
+double cubic(double a, double b, double s) {
+  const double rest = 1 - s;
+  return 3 * rest * rest * s * a + 3 * rest * s * s * b + s * s * s;
+}
+
+double cubicSlope(double a, double b, double s) {
+  const double rest = 1 - s;
+  return 3 * rest * rest * a + 6 * rest * s * (b - a) + 3 * s * s * (1 - b);
+}
+
+double cubicBend(double a, double b, double s) {
+  return 6 * (1 - s) * (b - 2 * a) + 6 * s * (1 - 2 * b + a);
+}
+
+// The parameter at which the x coordinate has a value from 0 to 1. X grows with the parameter, so
+// halving always finds it; 60 halvings exhaust the precision of a double.
+double parameterAt(double x1, double x2, double x) {
+  double low = 0;
+  double high = 1;
+  for (int step = 0; step < 60; ++step) {
+    const double middle = (low + high) / 2;
+    (cubic(x1, x2, middle) < x ? low : high) = middle;
+  }
+  return (low + high) / 2;
+}
+
+// The steepness of y over x. Where both stand still for a moment their second derivatives decide.
+double steepness(double x1, double y1, double x2, double y2, double s) {
+  constexpr double still = 1e-6;
+  const double slopeX = cubicSlope(x1, x2, s);
+  if (slopeX > still) {
+    return cubicSlope(y1, y2, s) / slopeX;
+  }
+  const double bendX = cubicBend(x1, x2, s);
+  return std::abs(bendX) > still ? cubicBend(y1, y2, s) / bendX : 0;
+}
+
+}  // namespace
+
+Curve Curve::bezier(double seconds, double x1, double y1, double x2, double y2) {
+  Curve curve;
+  curve.kind_ = Kind::bezier;
+  curve.seconds_ = seconds;
+  curve.x1_ = x1;
+  curve.y1_ = y1;
+  curve.x2_ = x2;
+  curve.y2_ = y2;
+  return curve;
+}
+
+Curve Curve::spring(double responseSeconds, double dampingFraction) {
+  Curve curve;
+  curve.kind_ = Kind::spring;
+  curve.seconds_ = responseSeconds;
+  curve.dampingFraction_ = std::max(dampingFraction, 0.05);
+  return curve;
+}
+
+Curve::Remainder Curve::remainder(double distance, std::optional<double> velocity,
+                                  double elapsed) const {
+  if (!(seconds_ > 0)) {
+    return {0, 0, true};
+  }
+  const double time = std::max(elapsed, 0.0);
+  return kind_ == Kind::spring ? springRemainder(distance, velocity.value_or(0), time)
+                               : bezierRemainder(distance, velocity, time);
+}
+
+Curve::Remainder Curve::bezierRemainder(double distance, std::optional<double> velocity,
+                                        double elapsed) const {
+  const double share = elapsed / seconds_;
+  if (share >= 1) {
+    return {0, 0, true};
+  }
+  const double s = parameterAt(x1_, x2_, share);
+  Remainder result;
+  result.distance = distance * (1 - cubic(y1_, y2_, s));
+  result.velocity = -distance * steepness(x1_, y1_, x2_, y2_, s) / seconds_;
+  if (velocity) {
+    // t (1 - t/T)^2 starts with slope 1 and ends at zero with slope zero: it carries the difference
+    // between the velocity on screen and the one the curve would start with, and fades out.
+    const double own = -distance * steepness(x1_, y1_, x2_, y2_, 0) / seconds_;
+    const double difference = *velocity - own;
+    result.distance += difference * elapsed * (1 - share) * (1 - share);
+    result.velocity += difference * (1 - share) * (1 - 3 * share);
+  }
+  return result;
+}
+
+// x'' + 2 z w x' + w^2 x = 0 with w = 2 pi / response and z the damping fraction.
+Curve::Remainder Curve::springRemainder(double distance, double velocity, double elapsed) const {
+  const double frequency = 2 * std::numbers::pi / seconds_;
+  const double damping = dampingFraction_;
+  // Around 1 the two other forms divide by nearly zero.
+  constexpr double nearlyCritical = 1e-4;
+  Remainder result;
+  if (std::abs(damping - 1) < nearlyCritical) {
+    const double drift = velocity + frequency * distance;
+    const double fade = std::exp(-frequency * elapsed);
+    result.distance = (distance + drift * elapsed) * fade;
+    result.velocity = (drift - frequency * (distance + drift * elapsed)) * fade;
+  } else if (damping < 1) {
+    const double swing = frequency * std::sqrt(1 - damping * damping);
+    const double decay = damping * frequency;
+    const double fade = std::exp(-decay * elapsed);
+    const double sine = (velocity + decay * distance) / swing;
+    const double c = std::cos(swing * elapsed);
+    const double s = std::sin(swing * elapsed);
+    result.distance = fade * (distance * c + sine * s);
+    result.velocity =
+        fade * (swing * (sine * c - distance * s) - decay * (distance * c + sine * s));
+  } else {
+    const double root = std::sqrt(damping * damping - 1);
+    const double slow = -frequency * (damping - root);
+    const double fast = -frequency * (damping + root);
+    const double ofFast = (velocity - slow * distance) / (fast - slow);
+    const double ofSlow = distance - ofFast;
+    const double fadeSlow = std::exp(slow * elapsed);
+    const double fadeFast = std::exp(fast * elapsed);
+    result.distance = ofSlow * fadeSlow + ofFast * fadeFast;
+    result.velocity = ofSlow * slow * fadeSlow + ofFast * fast * fadeFast;
+  }
+  // The energy of a damped spring only falls, so once it is below a thousandth of the journey the
+  // value never leaves that neighbourhood again.
+  const double reach = std::hypot(result.distance, result.velocity / frequency);
+  const double journey = std::abs(distance) + std::abs(velocity) / frequency;
+  if (reach <= journey / 1000) {
+    return {0, 0, true};
+  }
+  return result;
+}
+
+}  // namespace orvane::ui

@@ -1,0 +1,48 @@
+// What an element does unless its class says otherwise: it wraps its first child.
+#include "Orvane/ui/views/Element.hpp"
+
+#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/LayoutPass.hpp"
+#include "Orvane/ui/views/Node.hpp"
+
+namespace orvane::ui {
+
+void Element::build(Node& node, Builder& builder) const {
+  builder.children(node, {}, node.environment);
+}
+
+Size Element::measure(Node& node, const Proposal& proposal, LayoutPass& pass) const {
+  return node.children.empty() ? Size{} : pass.measure(*node.children.front(), proposal);
+}
+
+void Element::place(Node& node, const Proposal& proposal, Size, LayoutPass& pass) const {
+  if (!node.children.empty()) {
+    pass.place(*node.children.front(), {0, 0}, proposal);
+  }
+}
+
+void Element::attributes(const Node&, AttributeWriter&) const {}
+
+Effect Element::effect(const Node&, Size, double) const {
+  return {};
+}
+
+void Element::draw(const Node&, const DrawContext&) const {}
+
+const Interaction* Element::interaction() const {
+  return nullptr;
+}
+
+std::vector<SemanticsNode> Element::semantics(const Node&,
+                                              std::vector<SemanticsNode> children) const {
+  return children;
+}
+
+double Element::layoutPriority(const Node& node) const {
+  // Wrappers pass on what their only child says.
+  return node.children.size() == 1
+             ? node.children.front()->element->layoutPriority(*node.children.front())
+             : 0;
+}
+
+}  // namespace orvane::ui

@@ -1,0 +1,112 @@
+// Shapes with their layers of paint; all their numbers and colours are animatable.
+#include "Orvane/ui/views/ShapeView.hpp"
+
+#include <vector>
+
+#include "Orvane/ui/draw/DrawContext.hpp"
+#include "Orvane/ui/views/Attributes.hpp"
+
+namespace orvane::ui {
+
+struct ShapeLayer {
+  enum class Kind { fill, stroke, strokeBorder };
+
+  Kind kind;
+  Fill fill;
+  double lineWidth;
+};
+
+class ShapeElement final : public Element {
+ public:
+  explicit ShapeElement(const ShapeForm& form) : form_(form) {}
+
+  void add(ShapeLayer layer) { layers_.push_back(std::move(layer)); }
+  void cast(const Shadow& shadow) { shadows_.push_back(shadow); }
+
+  Size measure(Node&, const Proposal& proposal, LayoutPass&) const override {
+    // Without an offer a shape must be seen somehow.
+    constexpr double ideal = 10;
+    return {proposal.width.value_or(ideal), proposal.height.value_or(ideal)};
+  }
+
+  void attributes(const Node& node, AttributeWriter& writer) const override {
+    writer.number(form_.cornerRadius);
+    for (const Shadow& shadow : shadows_) {
+      writer.shadow(shadow);
+    }
+    for (const ShapeLayer& layer : layersOf(node)) {
+      writer.fill(layer.fill);
+      writer.number(layer.lineWidth);
+    }
+  }
+
+  void draw(const Node& node, const DrawContext& context) const override {
+    const Rect rect = context.snapped(context.rect);
+    if (rect.isEmpty()) {
+      return;
+    }
+    AttributeReader reader(node, context.now);
+    ShapeForm form = form_;
+    form.cornerRadius = reader.number();
+    const Shape shape = form.in(rect);
+    for (std::size_t index = 0; index < shadows_.size(); ++index) {
+      const PaintShadow shadow = reader.shadow();
+      if (shadow.color.alpha > 0) {
+        context.canvas.shadow(shape, shadow);
+      }
+    }
+    for (const ShapeLayer& layer : layersOf(node)) {
+      const Paint paint = reader.fill(layer.fill, shape.rect);
+      const double lineWidth = reader.number();
+      if (layer.kind == ShapeLayer::Kind::fill) {
+        context.canvas.fill(shape, paint);
+      } else if (lineWidth > 0) {
+        const bool isInside = layer.kind == ShapeLayer::Kind::strokeBorder;
+        context.canvas.stroke(isInside ? shape.inset(lineWidth / 2) : shape, paint, lineWidth);
+      }
+    }
+  }
+
+ private:
+  std::vector<ShapeLayer> layersOf(const Node& node) const {
+    if (!layers_.empty()) {
+      return layers_;
+    }
+    return {{ShapeLayer::Kind::fill, node.environment->foreground, 0}};
+  }
+
+  ShapeForm form_;
+  std::vector<Shadow> shadows_;
+  std::vector<ShapeLayer> layers_;
+};
+
+ShapeView::ShapeView(const ShapeForm& form) : ShapeView(std::make_shared<ShapeElement>(form)) {}
+
+ShapeView::ShapeView(std::shared_ptr<const ShapeElement> element)
+    : View(element), shape_(std::move(element)) {}
+
+ShapeView ShapeView::fill(const Fill& fill) const {
+  auto changed = std::make_shared<ShapeElement>(*shape_);
+  changed->add({ShapeLayer::Kind::fill, fill, 0});
+  return ShapeView(std::move(changed));
+}
+
+ShapeView ShapeView::stroke(const Fill& fill, double lineWidth) const {
+  auto changed = std::make_shared<ShapeElement>(*shape_);
+  changed->add({ShapeLayer::Kind::stroke, fill, lineWidth});
+  return ShapeView(std::move(changed));
+}
+
+ShapeView ShapeView::strokeBorder(const Fill& fill, double lineWidth) const {
+  auto changed = std::make_shared<ShapeElement>(*shape_);
+  changed->add({ShapeLayer::Kind::strokeBorder, fill, lineWidth});
+  return ShapeView(std::move(changed));
+}
+
+ShapeView ShapeView::castShadow(const Shadow& shadow) const {
+  auto changed = std::make_shared<ShapeElement>(*shape_);
+  changed->cast(shadow);
+  return ShapeView(std::move(changed));
+}
+
+}  // namespace orvane::ui

@@ -1,0 +1,247 @@
+// The modifiers that change layout: padding, frames, fixed sizes, priorities, layers.
+#include <algorithm>
+
+#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/LayoutPass.hpp"
+#include "Orvane/ui/views/WrapperElement.hpp"
+
+namespace orvane::ui {
+
+namespace {
+
+class PaddingElement final : public WrapperElement {
+ public:
+  PaddingElement(View content, const Edges& edges)
+      : WrapperElement(std::move(content)), edges_(edges) {}
+
+  Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
+    if (node.children.empty()) {
+      return {edges_.width(), edges_.height()};
+    }
+    const Size inner = pass.measure(*node.children.front(), proposal.inset(edges_));
+    return {inner.width + edges_.width(), inner.height + edges_.height()};
+  }
+
+  void place(Node& node, const Proposal& proposal, Size, LayoutPass& pass) const override {
+    if (!node.children.empty()) {
+      pass.place(*node.children.front(), {edges_.leading, edges_.top}, proposal.inset(edges_));
+    }
+  }
+
+ private:
+  Edges edges_;
+};
+
+// One direction of a frame.
+struct FrameLength {
+  std::optional<double> fixed;
+  std::optional<double> minimum;
+  std::optional<double> maximum;
+
+  std::optional<double> offer(std::optional<double> proposed) const {
+    if (fixed) {
+      return fixed;
+    }
+    if (!proposed) {
+      return std::nullopt;
+    }
+    return std::max(minimum.value_or(0), std::min(*proposed, maximum.value_or(infinity)));
+  }
+
+  // Without a bound on a side, the content is the bound on that side.
+  double chosen(std::optional<double> proposed, double content) const {
+    if (fixed) {
+      return *fixed;
+    }
+    if (!minimum && !maximum) {
+      return content;
+    }
+    const double least = minimum.value_or(std::min(content, maximum.value_or(infinity)));
+    const double most = std::max(least, maximum.value_or(content));
+    return std::clamp(proposed.value_or(content), least, most);
+  }
+};
+
+class FrameElement final : public WrapperElement {
+ public:
+  FrameElement(View content, const FrameBounds& bounds)
+      : WrapperElement(std::move(content)),
+        width_{bounds.width, bounds.minimumWidth, bounds.maximumWidth},
+        height_{bounds.height, bounds.minimumHeight, bounds.maximumHeight},
+        alignment_(bounds.alignment) {}
+
+  Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
+    const Size inner = node.children.empty()
+                           ? Size{}
+                           : pass.measure(*node.children.front(), innerProposal(proposal));
+    return {width_.chosen(proposal.width, inner.width),
+            height_.chosen(proposal.height, inner.height)};
+  }
+
+  void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
+    if (!node.children.empty()) {
+      pass.placeAligned(*node.children.front(), size, alignment_, innerProposal(proposal));
+    }
+  }
+
+ private:
+  Proposal innerProposal(const Proposal& proposal) const {
+    return {width_.offer(proposal.width), height_.offer(proposal.height)};
+  }
+
+  FrameLength width_;
+  FrameLength height_;
+  Alignment alignment_;
+};
+
+class FixedSizeElement final : public WrapperElement {
+ public:
+  FixedSizeElement(View content, bool horizontal, bool vertical)
+      : WrapperElement(std::move(content)), horizontal_(horizontal), vertical_(vertical) {}
+
+  Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
+    return Element::measure(node, freed(proposal), pass);
+  }
+
+  void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
+    Element::place(node, freed(proposal), size, pass);
+  }
+
+ private:
+  Proposal freed(const Proposal& proposal) const {
+    return {horizontal_ ? std::nullopt : proposal.width,
+            vertical_ ? std::nullopt : proposal.height};
+  }
+
+  bool horizontal_;
+  bool vertical_;
+};
+
+class PriorityElement final : public WrapperElement {
+ public:
+  PriorityElement(View content, double priority)
+      : WrapperElement(std::move(content)), priority_(priority) {}
+
+  double layoutPriority(const Node&) const override { return priority_; }
+
+ private:
+  double priority_;
+};
+
+// Covers the whole view it belongs to and aligns its content in there, so that its place does not
+// change when the content comes and goes.
+class LayerElement final : public WrapperElement {
+ public:
+  LayerElement(View content, Alignment alignment)
+      : WrapperElement(std::move(content)), alignment_(alignment) {}
+
+  Size measure(Node&, const Proposal& proposal, LayoutPass&) const override {
+    return {proposal.width.value_or(0), proposal.height.value_or(0)};
+  }
+
+  void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
+    if (!node.children.empty()) {
+      pass.placeAligned(*node.children.front(), size, alignment_, proposal);
+    }
+  }
+
+ private:
+  Alignment alignment_;
+};
+
+// A view with a layer beneath or above it. The view decides the size; the layer is proposed it.
+class LayersElement final : public WrapperElement {
+ public:
+  LayersElement(View content, View layer, bool isAbove, Alignment alignment)
+      : WrapperElement(std::move(content)),
+        layer_(std::move(layer)),
+        isAbove_(isAbove),
+        alignment_(alignment) {}
+
+  void build(Node& node, Builder& builder) const override {
+    const View layer(std::make_shared<LayerElement>(layer_, alignment_));
+    if (isAbove_) {
+      builder.children(node, {content(), layer}, node.environment);
+    } else {
+      builder.children(node, {layer, content()}, node.environment);
+    }
+  }
+
+  Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
+    return pass.measure(primary(node), proposal);
+  }
+
+  void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
+    pass.place(primary(node), {0, 0}, proposal);
+    Node& layer = *node.children[isAbove_ ? 1 : 0];
+    pass.place(layer, {0, 0}, Proposal::of(size));
+  }
+
+  double layoutPriority(const Node& node) const override {
+    const Node& content = *node.children[isAbove_ ? 0 : 1];
+    return content.element->layoutPriority(content);
+  }
+
+ private:
+  Node& primary(Node& node) const { return *node.children[isAbove_ ? 0 : 1]; }
+
+  View layer_;
+  bool isAbove_;
+  Alignment alignment_;
+};
+
+}  // namespace
+
+View View::padding(double distance) const {
+  return padding(Edges::all(distance));
+}
+
+View View::padding(Edge edge, double distance) const {
+  return padding(Edges::only(edge, distance));
+}
+
+View View::padding(const Edges& edges) const {
+  return modified<PaddingElement>(*this, edges);
+}
+
+View View::frame(double width, double height, Alignment alignment) const {
+  return frame({width, height, {}, {}, {}, {}, alignment});
+}
+
+View View::frame(const FrameBounds& bounds) const {
+  return modified<FrameElement>(*this, bounds);
+}
+
+View View::width(double width, Alignment alignment) const {
+  return frame({width, {}, {}, {}, {}, {}, alignment});
+}
+
+View View::height(double height, Alignment alignment) const {
+  return frame({{}, height, {}, {}, {}, {}, alignment});
+}
+
+View View::maximumWidth(double maximum, Alignment alignment) const {
+  return frame({{}, {}, {}, maximum, {}, {}, alignment});
+}
+
+View View::maximumHeight(double maximum, Alignment alignment) const {
+  return frame({{}, {}, {}, {}, {}, maximum, alignment});
+}
+
+View View::fixedSize(bool horizontal, bool vertical) const {
+  return modified<FixedSizeElement>(*this, horizontal, vertical);
+}
+
+View View::layoutPriority(double priority) const {
+  return modified<PriorityElement>(*this, priority);
+}
+
+View View::background(const View& background, Alignment alignment) const {
+  return modified<LayersElement>(*this, background, false, alignment);
+}
+
+View View::overlay(const View& overlay, Alignment alignment) const {
+  return modified<LayersElement>(*this, overlay, true, alignment);
+}
+
+}  // namespace orvane::ui
