@@ -18,7 +18,7 @@ SurfacePointer picture(int x, int side = 20) {
   return surface;
 }
 
-TEST(GlassCacheTest, isWhatABlurOfThePictureIs) {
+TEST(GlassCacheTest, IsWhatABlurOfThePictureIs) {
   GlassCache cache;
   const SurfacePointer plain = picture(3);
   blurSurface(plain.get(), 2, BlurEdge::extended);
@@ -28,7 +28,7 @@ TEST(GlassCacheTest, isWhatABlurOfThePictureIs) {
   EXPECT_EQ(cache.blurCount(), 1);
 }
 
-TEST(GlassCacheTest, anotherPictureOrAnotherBlurIsAnother) {
+TEST(GlassCacheTest, AnotherPictureOrAnotherBlurIsAnother) {
   GlassCache cache;
   const auto first = encodePng(cache.blurred(picture(3), 2));
   EXPECT_NE(encodePng(cache.blurred(picture(4), 2)), first);
@@ -39,7 +39,7 @@ TEST(GlassCacheTest, anotherPictureOrAnotherBlurIsAnother) {
   EXPECT_EQ(cache.blurCount(), 4);
 }
 
-TEST(GlassCacheTest, beyondTheLimitTheLongestUnusedGoes) {
+TEST(GlassCacheTest, BeyondTheLimitTheLongestUnusedGoes) {
   // Room for two pictures of 20 by 20 and what was made of them.
   GlassCache cache(std::size_t{4} * 20 * 20 * 4);
   cache.blurred(picture(1), 2);

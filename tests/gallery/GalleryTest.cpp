@@ -47,7 +47,7 @@ class GalleryTest : public MachineFixture {
   DrawingResources resources;
 };
 
-TEST_F(GalleryTest, everySheetHasANameOfItsOwn) {
+TEST_F(GalleryTest, EverySheetHasANameOfItsOwn) {
   std::set<std::string> names;
   for (const GallerySheet& sheet : gallerySheets()) {
     EXPECT_TRUE(names.insert(sheet.name).second) << sheet.name;
@@ -55,7 +55,7 @@ TEST_F(GalleryTest, everySheetHasANameOfItsOwn) {
   }
 }
 
-TEST_F(GalleryTest, aHandThatPressesOrTabsIsSeen) {
+TEST_F(GalleryTest, AHandThatPressesOrTabsIsSeen) {
   int seen = 0;
   for (const GallerySheet& sheet : gallerySheets()) {
     for (GalleryItem item : sheet.items) {
@@ -70,7 +70,7 @@ TEST_F(GalleryTest, aHandThatPressesOrTabsIsSeen) {
   EXPECT_GE(seen, 20);
 }
 
-TEST_F(GalleryTest, aPointerOverACardALightOrARowIsSeenButNotOverARowWithASwitch) {
+TEST_F(GalleryTest, APointerOverACardALightOrARowIsSeenButNotOverARowWithASwitch) {
   const GallerySheet cards = gallerySheetNamed("display-choice-card");
   EXPECT_NE(pictureOf(item(cards, "hovered")), pictureOf(item(cards, "normal")));
   const GallerySheet lights = gallerySheetNamed("traffic-light-button");
@@ -81,12 +81,12 @@ TEST_F(GalleryTest, aPointerOverACardALightOrARowIsSeenButNotOverARowWithASwitch
   EXPECT_EQ(pictureOf(item(rows, "switch, hovered")), pictureOf(item(rows, "switch, off")));
 }
 
-TEST_F(GalleryTest, aCardThatIsHoveredAndSelectedIsNoLargerThanOneThatIsSelected) {
+TEST_F(GalleryTest, ACardThatIsHoveredAndSelectedIsNoLargerThanOneThatIsSelected) {
   const GallerySheet cards = gallerySheetNamed("display-choice-card");
   EXPECT_EQ(pictureOf(item(cards, "selected, hovered")), pictureOf(item(cards, "selected")));
 }
 
-TEST_F(GalleryTest, whatIsDisabledLooksDisabled) {
+TEST_F(GalleryTest, WhatIsDisabledLooksDisabled) {
   for (const GallerySheet& sheet : buttonSheets()) {
     if (!sheet.name.starts_with("settings-")) {
       EXPECT_NE(pictureOf(item(sheet, "disabled")), pictureOf(item(sheet, "normal"))) << sheet.name;
@@ -94,7 +94,7 @@ TEST_F(GalleryTest, whatIsDisabledLooksDisabled) {
   }
 }
 
-TEST_F(GalleryTest, theLanguagesDifferWhereThereAreTextsAndOnlyThere) {
+TEST_F(GalleryTest, TheLanguagesDifferWhereThereAreTextsAndOnlyThere) {
   for (const GallerySheet& sheet : gallerySheets()) {
     const GalleryItem& first = sheet.items.front();
     EXPECT_EQ(sheet.hasTexts, pictureOf(first, OrvaneLanguage::english) !=
@@ -103,7 +103,7 @@ TEST_F(GalleryTest, theLanguagesDifferWhereThereAreTextsAndOnlyThere) {
   }
 }
 
-TEST_F(GalleryTest, everythingIsRecolouredInTheDark) {
+TEST_F(GalleryTest, EverythingIsRecolouredInTheDark) {
   for (const GallerySheet& sheet : gallerySheets()) {
     // The lights and the icon have colours of their own.
     if (sheet.name != "traffic-light-button" && sheet.name != "draggable-app-icon") {
@@ -114,7 +114,7 @@ TEST_F(GalleryTest, everythingIsRecolouredInTheDark) {
   }
 }
 
-TEST_F(GalleryTest, aSheetIsTheSameEveryTimeAndMissesNothing) {
+TEST_F(GalleryTest, ASheetIsTheSameEveryTimeAndMissesNothing) {
   for (const GallerySheet& sheet : gallerySheets()) {
     const SheetStyle style{.isDark = true, .scale = 0.25};
     const auto first = encodePng(paintSheet(sheet, style, machine, resources).get());

@@ -83,11 +83,11 @@ class HoverDamageTest : public ModelFixture {
 /// Of a card that grows by 1.012, with its border and a point for edges between pixels.
 constexpr double cardReach = 4;
 
-TEST_F(HoverDamageTest, nothingIsRepaintedAtRest) {
+TEST_F(HoverDamageTest, NothingIsRepaintedAtRest) {
   EXPECT_TRUE(moveTo({350, 100}, 20).area.isEmpty());
 }
 
-TEST_F(HoverDamageTest, aHoveredCardIsRepaintedAlone) {
+TEST_F(HoverDamageTest, AHoveredCardIsRepaintedAlone) {
   const ui::Rect card = frameOf(model->displays().value().back().name);
   ASSERT_FALSE(card.isEmpty());
   const Damage damage = moveTo(card.center(), 20);
@@ -96,7 +96,7 @@ TEST_F(HoverDamageTest, aHoveredCardIsRepaintedAlone) {
   EXPECT_TRUE(holds(card.inset(-cardReach), damage.area));
 }
 
-TEST_F(HoverDamageTest, goingFromOneCardToTheNextRepaintsTheTwo) {
+TEST_F(HoverDamageTest, GoingFromOneCardToTheNextRepaintsTheTwo) {
   const ui::Rect first = frameOf(model->displays().value().front().name);
   const ui::Rect second = frameOf(model->displays().value().back().name);
   moveTo(first.center(), 20);
@@ -104,7 +104,7 @@ TEST_F(HoverDamageTest, goingFromOneCardToTheNextRepaintsTheTwo) {
   EXPECT_TRUE(holds(first.united(second).inset(-cardReach), damage.area));
 }
 
-TEST_F(HoverDamageTest, theLightsAreRepaintedTogetherAndAlone) {
+TEST_F(HoverDamageTest, TheLightsAreRepaintedTogetherAndAlone) {
   const ui::Rect close = frameOf("Close");
   const ui::Rect minimise = frameOf("Minimise");
   ASSERT_FALSE(close.isEmpty() || minimise.isEmpty());

@@ -51,40 +51,40 @@ class ComponentPictureTest : public MachineFixture {
   }
 };
 
-TEST_F(ComponentPictureTest, cards) {
+TEST_F(ComponentPictureTest, Cards) {
   expectSheet("display-choice-card", {"normal", "hovered", "selected", "focused"}, true,
               Appearance::Wallpaper::busy);
 }
 
-TEST_F(ComponentPictureTest, theMainButton) {
+TEST_F(ComponentPictureTest, TheMainButton) {
   expectSheet("primary-action-button", {"normal", "pressed", "disabled", "in red"}, false,
               Appearance::Wallpaper::busy);
 }
 
-TEST_F(ComponentPictureTest, trafficLights) {
+TEST_F(ComponentPictureTest, TrafficLights) {
   expectSheet("traffic-light-button",
               {"close, normal", "close, hovered", "minimise, normal", "minimise, hovered"}, false,
               Appearance::Wallpaper::white);
 }
 
-TEST_F(ComponentPictureTest, menuRows) {
+TEST_F(ComponentPictureTest, MenuRows) {
   expectSheet("status-menu-row", {"switch, off", "switch, on", "hovered", "display, selected"},
               true, Appearance::Wallpaper::black);
 }
 
-TEST_F(ComponentPictureTest, theAlertByDay) {
+TEST_F(ComponentPictureTest, TheAlertByDay) {
   expectDialogues("permission-alert", false, OrvaneLanguage::english);
 }
 
-TEST_F(ComponentPictureTest, theAlertByNight) {
+TEST_F(ComponentPictureTest, TheAlertByNight) {
   expectDialogues("permission-alert", true, OrvaneLanguage::chinese);
 }
 
-TEST_F(ComponentPictureTest, theGuideByDay) {
+TEST_F(ComponentPictureTest, TheGuideByDay) {
   expectDialogues("permission-guide", false, OrvaneLanguage::english);
 }
 
-TEST_F(ComponentPictureTest, theGuideByNight) {
+TEST_F(ComponentPictureTest, TheGuideByNight) {
   expectDialogues("permission-guide", true, OrvaneLanguage::chinese);
 }
 

@@ -43,11 +43,11 @@ class NoRenewing {
   const bool isRenewing_ = std::getenv(variable) != nullptr;
 };
 
-TEST(KeptPictureTest, equalPicturesDoNotDiffer) {
+TEST(KeptPictureTest, EqualPicturesDoNotDiffer) {
   EXPECT_EQ(pictureDifference(grey(4, 3, 0.5).get(), grey(4, 3, 0.5).get()), std::nullopt);
 }
 
-TEST(KeptPictureTest, onePixelInOneColourIsADifference) {
+TEST(KeptPictureTest, OnePixelInOneColourIsADifference) {
   const double level = 100 * step;
   const auto pixel = grey(4, 3, level, 2, 103 * step);
   EXPECT_EQ(pictureDifference(pixel.get(), grey(4, 3, level).get()),
@@ -56,12 +56,12 @@ TEST(KeptPictureTest, onePixelInOneColourIsADifference) {
   EXPECT_EQ(pictureDifference(within.get(), grey(4, 3, level).get()), std::nullopt);
 }
 
-TEST(KeptPictureTest, anotherSizeIsADifference) {
+TEST(KeptPictureTest, AnotherSizeIsADifference) {
   EXPECT_EQ(pictureDifference(grey(4, 3, 0.5).get(), grey(4, 4, 0.5).get()),
             "it has 4 by 3 pixels instead of 4 by 4");
 }
 
-TEST(KeptPictureTest, aFileIsComparedPixelByPixelAndMustBeThere) {
+TEST(KeptPictureTest, AFileIsComparedPixelByPixelAndMustBeThere) {
   const NoRenewing noRenewing;
   const auto file = std::filesystem::path(testing::TempDir()) / "orvane-kept-picture.png";
   std::filesystem::remove(file);

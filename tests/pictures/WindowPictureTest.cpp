@@ -62,7 +62,7 @@ class WindowPictureTest : public MachineFixture {
   }
 };
 
-TEST_F(WindowPictureTest, aFramelessWindowOfGlass) {
+TEST_F(WindowPictureTest, AFramelessWindowOfGlass) {
   appkit::HostingView view = content();
   view.setLayerCorners(24, appkit::CornerCurve::continuous, true);
   view.setBackdrop(appkit::Backdrop::behindWindow);
@@ -75,7 +75,7 @@ TEST_F(WindowPictureTest, aFramelessWindowOfGlass) {
   expectWindows("glass-window", Appearance::Wallpaper::busy);
 }
 
-TEST_F(WindowPictureTest, aWindowWithATitleInTheDark) {
+TEST_F(WindowPictureTest, AWindowWithATitleInTheDark) {
   machine.appearance.isDark = true;
   appkit::Window titled = window(appkit::StyleMask::titled | appkit::StyleMask::closable);
   titled.setTitle("Title");

@@ -87,7 +87,7 @@ class SurfaceLabelsTest : public ApplicationFixture,
   std::size_t controls = 0;
 };
 
-TEST_P(SurfaceLabelsTest, noControlOfTheProductIsWithoutALabel) {
+TEST_P(SurfaceLabelsTest, NoControlOfTheProductIsWithoutALabel) {
   machine.userDefaults.set("appLanguage", std::string(GetParam()));
   application.launch();
 
@@ -130,7 +130,7 @@ TEST_P(SurfaceLabelsTest, noControlOfTheProductIsWithoutALabel) {
   EXPECT_EQ(unlabelled, std::vector<std::string>());
 }
 
-TEST_P(SurfaceLabelsTest, noControlOfTheHardwarePanelIsWithoutALabel) {
+TEST_P(SurfaceLabelsTest, NoControlOfTheHardwarePanelIsWithoutALabel) {
   machine.userDefaults.set("appLanguage", std::string(GetParam()));
   application.launch();
   Hardware hardware(machine, application);
@@ -147,7 +147,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, SurfaceLabelsTest, testing::Values("english"
 
 using SurfaceLabelsProof = SurfaceLabelsTest;
 
-TEST_F(SurfaceLabelsProof, aControlWithoutALabelIsFound) {
+TEST_F(SurfaceLabelsProof, AControlWithoutALabelIsFound) {
   machine.process.start();
   const appkit::HostingView view([](const ui::Environment&) -> ui::View {
     return ui::VStack({ui::Button([] {}, ui::Text("Labelled")),

@@ -71,7 +71,7 @@ class WindowLayoutTest : public testing::Test {
   ApplicationHost application{scope_.machine()};
 };
 
-TEST_F(WindowLayoutTest, everyTextIsWhereItWas) {
+TEST_F(WindowLayoutTest, EveryTextIsWhereItWas) {
   const std::string texts =
       textsOfWindows(OrvaneLanguage::english, "en") + textsOfWindows(OrvaneLanguage::chinese, "zh");
   const std::filesystem::path file(ORVANE_KEPT_LAYOUT);

@@ -291,6 +291,9 @@ class NamesTest(RuleTest):
         self.assert_passed({"tests/DockTest.cpp": test, "tests/Helper.cpp": TOP})
         self.assert_caught({"tests/Dock.cpp": test}, ("tests/Dock.cpp", 1))
         self.assert_caught({"tests/DockTest.cpp": TOP}, ("tests/DockTest.cpp", 1))
+        for line in ("TEST(DockTest, hides) {}", "RC_GTEST_PROP(DockTest, hides, ()) {}"):
+            self.assert_caught({"tests/DockTest.cpp": test + line + "\n"},
+                               ("tests/DockTest.cpp", test.count("\n") + 1))
 
 
 class ListingTest(RuleTest):

@@ -23,14 +23,14 @@ Curve anyCurve() {
   }
 }
 
-TEST(AnimatedValueTest, withoutACurveItJumps) {
+TEST(AnimatedValueTest, WithoutACurveItJumps) {
   AnimatedValue value(3);
   value.set(8, std::nullopt, 1);
   EXPECT_EQ(value.at(1), 8);
   EXPECT_FALSE(value.isMoving(1));
 }
 
-TEST(AnimatedValueTest, travelsFromWhereItWasToItsTarget) {
+TEST(AnimatedValueTest, TravelsFromWhereItWasToItsTarget) {
   AnimatedValue value(0);
   value.set(10, Curve::linear(2), 5);
   EXPECT_EQ(value.at(5), 0);
@@ -41,14 +41,14 @@ TEST(AnimatedValueTest, travelsFromWhereItWasToItsTarget) {
   EXPECT_EQ(value.at(100), 10);
 }
 
-TEST(AnimatedValueTest, theSameTargetLetsAMotionGoOn) {
+TEST(AnimatedValueTest, TheSameTargetLetsAMotionGoOn) {
   AnimatedValue value(0);
   value.set(10, Curve::linear(2), 0);
   value.set(10, std::nullopt, 1);
   EXPECT_NEAR(value.at(1), 5, 1e-9);
 }
 
-RC_GTEST_PROP(AnimatedValueTest, retargetingKeepsPositionAndVelocity, ()) {
+RC_GTEST_PROP(AnimatedValueTest, RetargetingKeepsPositionAndVelocity, ()) {
   AnimatedValue value(*rc::gen::inRange(-50, 50));
   const double first = *rc::gen::inRange(-50, 50);
   const double second = *rc::gen::inRange(-50, 50);

@@ -21,7 +21,7 @@ class AnimationTest : public testing::Test {
   double position = 0;
 };
 
-TEST_F(AnimationTest, anIdleTreeAsksForNoFrame) {
+TEST_F(AnimationTest, AnIdleTreeAsksForNoFrame) {
   test.show(Text("a").offset(position, 0).animation(Curve::linear(1), position));
   test.at(1);
   test.at(2);
@@ -30,7 +30,7 @@ TEST_F(AnimationTest, anIdleTreeAsksForNoFrame) {
   EXPECT_EQ(test.frameRequests, 0);
 }
 
-TEST_F(AnimationTest, aChangedValueAnimatesTheViewAndFramesEndWithIt) {
+TEST_F(AnimationTest, AChangedValueAnimatesTheViewAndFramesEndWithIt) {
   test.show([&](const Environment&) {
     return Text("a").offset(position, 0).animation(Curve::linear(2), position);
   });
@@ -49,7 +49,7 @@ TEST_F(AnimationTest, aChangedValueAnimatesTheViewAndFramesEndWithIt) {
   EXPECT_EQ(test.frameRequests, 1);
 }
 
-TEST_F(AnimationTest, aValueThatStaysTheSameAnimatesNothing) {
+TEST_F(AnimationTest, AValueThatStaysTheSameAnimatesNothing) {
   test.show([&](const Environment&) {
     return Text("a").offset(position, 0).animation(Curve::linear(2), std::string("other"));
   });
@@ -60,7 +60,7 @@ TEST_F(AnimationTest, aValueThatStaysTheSameAnimatesNothing) {
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
 
-TEST_F(AnimationTest, anExplicitAnimationAppliesToEverythingThatChanges) {
+TEST_F(AnimationTest, AnExplicitAnimationAppliesToEverythingThatChanges) {
   test.show([&](const Environment&) { return Text("a").offset(position, 0); });
   const double start = xOf("a");
   test.at(3);
@@ -73,7 +73,7 @@ TEST_F(AnimationTest, anExplicitAnimationAppliesToEverythingThatChanges) {
   EXPECT_EQ(xOf("a"), start + 100) << "the next update is not animated any more";
 }
 
-TEST_F(AnimationTest, retargetingContinuesFromWhatIsOnScreen) {
+TEST_F(AnimationTest, RetargetingContinuesFromWhatIsOnScreen) {
   test.show([&](const Environment&) {
     return Text("a").offset(position, 0).animation(Curve::spring(0.5, 0.8), position);
   });
@@ -94,7 +94,7 @@ TEST_F(AnimationTest, retargetingContinuesFromWhatIsOnScreen) {
   EXPECT_NEAR(velocityAfter, velocityBefore, 0.01 * velocityBefore + 3);
 }
 
-TEST_F(AnimationTest, placesInTheLayoutAnimateToo) {
+TEST_F(AnimationTest, PlacesInTheLayoutAnimateToo) {
   bool isAtEnd = false;
   test.show([&](const Environment&) -> View {
     return HStack(0, {when(isAtEnd, Spacer()).id("before"), Text("a").font(Font::system(10)),
@@ -111,7 +111,7 @@ TEST_F(AnimationTest, placesInTheLayoutAnimateToo) {
   EXPECT_EQ(xOf("a"), 95);
 }
 
-TEST_F(AnimationTest, coloursTravelBetweenTheirResolvedValues) {
+TEST_F(AnimationTest, ColoursTravelBetweenTheirResolvedValues) {
   bool isRed = false;
   test.show([&](const Environment&) {
     return Rectangle()
@@ -124,7 +124,7 @@ TEST_F(AnimationTest, coloursTravelBetweenTheirResolvedValues) {
   EXPECT_NE(test.drawing().find("rgba(0.25 0 0.75 1)"), std::string::npos) << test.drawing();
 }
 
-TEST_F(AnimationTest, reduceMotionJumpsToTheEnd) {
+TEST_F(AnimationTest, ReduceMotionJumpsToTheEnd) {
   test.show([&](const Environment&) {
     return Text("a").offset(position, 0).animation(Curve::linear(1), position);
   });
@@ -147,7 +147,7 @@ TEST_F(AnimationTest, reduceMotionJumpsToTheEnd) {
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
 
-TEST_F(AnimationTest, anEntranceRunsOnceWhenTheViewAppears) {
+TEST_F(AnimationTest, AnEntranceRunsOnceWhenTheViewAppears) {
   struct Entrance {
     View body(const Environment& environment) const {
       const State<bool> hasAppeared = environment.state<bool>("hasAppeared", false);
@@ -169,13 +169,13 @@ TEST_F(AnimationTest, anEntranceRunsOnceWhenTheViewAppears) {
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
 
-TEST_F(AnimationTest, timeNeverRunsBackwards) {
+TEST_F(AnimationTest, TimeNeverRunsBackwards) {
   test.at(5);
   test.at(3);
   EXPECT_EQ(test.host->time(), 5);
 }
 
-TEST_F(AnimationTest, anAppearanceChangeRecoloursAllAtOnce) {
+TEST_F(AnimationTest, AnAppearanceChangeRecoloursAllAtOnce) {
   test.show(Text("a").animation(Curve::linear(1), 0));
   Appearance dark;
   dark.dark = true;

@@ -16,7 +16,7 @@ Rgba resolved(const Color& color, bool dark) {
   return color.resolve(appearance, standardColor);
 }
 
-TEST(ColorTest, aSemanticColourFollowsTheAppearance) {
+TEST(ColorTest, ASemanticColourFollowsTheAppearance) {
   EXPECT_EQ(resolved(Color::primary(), false), (Rgba{0, 0, 0, 0.85}));
   EXPECT_EQ(resolved(Color::primary(), true), (Rgba{1, 1, 1, 0.85}));
   EXPECT_EQ(resolved(Color::secondary(), false).alpha, 0.6);
@@ -25,14 +25,14 @@ TEST(ColorTest, aSemanticColourFollowsTheAppearance) {
   EXPECT_EQ(resolved(Color::red(), true), (Rgba{1, 69 / 255.0, 58 / 255.0, 1}));
 }
 
-TEST(ColorTest, theAccentIsTheUsersChoiceOrBlue) {
+TEST(ColorTest, TheAccentIsTheUsersChoiceOrBlue) {
   EXPECT_EQ(resolved(Color::accent(), false), resolved(Color::blue(), false));
   Appearance appearance;
   appearance.accent = Rgba{0.5, 0.25, 0, 1};
   EXPECT_EQ(Color::accent().resolve(appearance, standardColor), (Rgba{0.5, 0.25, 0, 1}));
 }
 
-TEST(ColorTest, opacitiesMultiply) {
+TEST(ColorTest, OpacitiesMultiply) {
   EXPECT_DOUBLE_EQ(resolved(Color::secondary().opacity(0.5).opacity(0.5), false).alpha, 0.15);
   EXPECT_EQ(resolved(Color::white().opacity(7), false).alpha, 1);
   EXPECT_EQ(resolved(Color::white().opacity(-1), false).alpha, 0);
@@ -40,14 +40,14 @@ TEST(ColorTest, opacitiesMultiply) {
             0);
 }
 
-TEST(ColorTest, increasedContrastStrengthensLabels) {
+TEST(ColorTest, IncreasedContrastStrengthensLabels) {
   Appearance appearance;
   const double usual = Color::secondary().resolve(appearance, standardColor).alpha;
   appearance.increaseContrast = true;
   EXPECT_GT(Color::secondary().resolve(appearance, standardColor).alpha, usual);
 }
 
-TEST(ColorTest, fixedColoursNeverAskThePlatform) {
+TEST(ColorTest, FixedColoursNeverAskThePlatform) {
   const ColorResolver forbidden = [](SystemColor, const Appearance&) -> Rgba {
     ADD_FAILURE() << "asked";
     return {};
@@ -55,7 +55,7 @@ TEST(ColorTest, fixedColoursNeverAskThePlatform) {
   EXPECT_EQ(Color::rgb(0.2, 0.4, 0.6, 0.8).resolve({}, forbidden), (Rgba{0.2, 0.4, 0.6, 0.8}));
 }
 
-TEST(ColorTest, aGradientSpreadsItsColoursEvenlyOverItsRectangle) {
+TEST(ColorTest, AGradientSpreadsItsColoursEvenlyOverItsRectangle) {
   const Fill fill = Gradient::linear({Color::white(), Color::black(), Color::white()});
   const Paint paint = fill.resolve({10, 20, 30, 40}, {}, standardColor);
   ASSERT_EQ(paint.stops.size(), 3U);

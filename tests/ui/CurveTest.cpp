@@ -30,7 +30,7 @@ double integrated(double response, double damping, double x, double v, double un
   return x;
 }
 
-TEST(CurveTest, aSpringFollowsItsDifferentialEquationInAllThreeRegimes) {
+TEST(CurveTest, ASpringFollowsItsDifferentialEquationInAllThreeRegimes) {
   for (const double damping : {0.3, 0.86, 1.0, 1.7}) {
     const Curve spring = Curve::spring(0.5, damping);
     for (const double time : {0.01, 0.05, 0.1, 0.2, 0.3}) {
@@ -41,7 +41,7 @@ TEST(CurveTest, aSpringFollowsItsDifferentialEquationInAllThreeRegimes) {
   }
 }
 
-TEST(CurveTest, theThreeRegimesMeetAtTheCriticalDamping) {
+TEST(CurveTest, TheThreeRegimesMeetAtTheCriticalDamping) {
   for (const double time : {0.02, 0.1, 0.25}) {
     const double critical = Curve::spring(0.4, 1).remainder(1, 0.0, time).distance;
     EXPECT_NEAR(Curve::spring(0.4, 0.9995).remainder(1, 0.0, time).distance, critical, 1e-3);
@@ -49,7 +49,7 @@ TEST(CurveTest, theThreeRegimesMeetAtTheCriticalDamping) {
   }
 }
 
-RC_GTEST_PROP(CurveTest, aCriticallyDampedSpringNeverOvershoots, ()) {
+RC_GTEST_PROP(CurveTest, ACriticallyDampedSpringNeverOvershoots, ()) {
   const double response = *rc::gen::inRange(1, 200) / 100.0;
   const double distance = *rc::gen::inRange(-1000, 1000) / 10.0;
   const Curve spring = Curve::spring(response, 1);
@@ -62,7 +62,7 @@ RC_GTEST_PROP(CurveTest, aCriticallyDampedSpringNeverOvershoots, ()) {
   }
 }
 
-TEST(CurveTest, anUnderdampedSpringOvershoots) {
+TEST(CurveTest, AnUnderdampedSpringOvershoots) {
   // After half a swing, pi / (w sqrt(1 - z^2)), it is beyond the target by exp(-pi z / sqrt(1 -
   // z^2)).
   const double root = std::sqrt(1 - 0.25);
@@ -71,7 +71,7 @@ TEST(CurveTest, anUnderdampedSpringOvershoots) {
               -std::exp(-std::numbers::pi * 0.5 / root), 1e-9);
 }
 
-TEST(CurveTest, aSpringSettlesForGood) {
+TEST(CurveTest, ASpringSettlesForGood) {
   for (const double damping : {0.2, 0.82, 1.0, 2.0}) {
     const Curve spring = Curve::spring(0.3, damping);
     bool wasSettled = false;
@@ -85,7 +85,7 @@ TEST(CurveTest, aSpringSettlesForGood) {
   }
 }
 
-TEST(CurveTest, easeInOutIsSymmetricAndStartsAtRest) {
+TEST(CurveTest, EaseInOutIsSymmetricAndStartsAtRest) {
   const Curve curve = Curve::easeInOut(2);
   EXPECT_NEAR(curve.remainder(10, std::nullopt, 1).distance, 5, 1e-9);
   EXPECT_NEAR(curve.remainder(10, std::nullopt, 0).velocity, 0, 1e-6);
@@ -96,14 +96,14 @@ TEST(CurveTest, easeInOutIsSymmetricAndStartsAtRest) {
   }
 }
 
-TEST(CurveTest, easeOutMatchesItsBezierAtAKnownParameter) {
+TEST(CurveTest, EaseOutMatchesItsBezierAtAKnownParameter) {
   // At the parameter 1/2: x = 3/8 * 0.58 + 1/8 = 0.3425, y = 3/8 + 1/8 + ... = 0.5.
   EXPECT_NEAR(Curve::easeOut(1).remainder(1, std::nullopt, 0.3425).distance, 0.5, 1e-9);
   // Mirrored, easeIn is at the parameter 1/2 when x = 3/8 * 0.42 + 3/8 + 1/8.
   EXPECT_NEAR(Curve::easeIn(1).remainder(1, std::nullopt, 0.6575).distance, 0.5, 1e-9);
 }
 
-TEST(CurveTest, velocityIsTheSlopeOfTheDistance) {
+TEST(CurveTest, VelocityIsTheSlopeOfTheDistance) {
   constexpr double step = 1e-6;
   for (const Curve& curve :
        {Curve::linear(1), Curve::easeIn(1), Curve::easeOut(1), Curve::easeInOut(1),
@@ -119,13 +119,13 @@ TEST(CurveTest, velocityIsTheSlopeOfTheDistance) {
   }
 }
 
-TEST(CurveTest, aBezierArrivesOnTimeWhateverItsVelocityWas) {
+TEST(CurveTest, ABezierArrivesOnTimeWhateverItsVelocityWas) {
   EXPECT_FALSE(Curve::easeOut(0.2).remainder(3, 500.0, 0.199).isSettled);
   EXPECT_TRUE(Curve::easeOut(0.2).remainder(3, 500.0, 0.2).isSettled);
   EXPECT_NEAR(Curve::easeOut(0.2).remainder(3, 500.0, 0.19999).distance, 0, 1e-3);
 }
 
-TEST(CurveTest, aCurveWithoutDurationArrivesAtOnce) {
+TEST(CurveTest, ACurveWithoutDurationArrivesAtOnce) {
   EXPECT_TRUE(Curve::easeOut(0).remainder(5, std::nullopt, 0).isSettled);
   EXPECT_TRUE(Curve::spring(-1, 1).remainder(5, std::nullopt, 0).isSettled);
 }

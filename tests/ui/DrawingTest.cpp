@@ -43,14 +43,14 @@ struct Pill {
   }
 };
 
-TEST(DrawingTest, aComponentDrawsItsBackgroundThenItsText) {
+TEST(DrawingTest, AComponentDrawsItsBackgroundThenItsText) {
   EXPECT_EQ(drawn(Pill{"ok", true}, {36, 26}),
             "fill capsule(0 0 36 26) rgba(1 1 1 0.05)\n"
             "stroke capsule(0 0 36 26) rgba(1 1 1 0.5) width 0.7\n"
             "text \"ok\" 10/700 rgba(0 0.478 1 1) at 13 16\n");
 }
 
-TEST(DrawingTest, whatStandsStillStaysOnItsPixelsWhileOtherThingsChange) {
+TEST(DrawingTest, WhatStandsStillStaysOnItsPixelsWhileOtherThingsChange) {
   // The text stands at fractions of a point: on whole ones while nothing moves it.
   bool isChanged = false;
   double shift = 0;
@@ -83,12 +83,12 @@ TEST(DrawingTest, whatStandsStillStaysOnItsPixelsWhileOtherThingsChange) {
   EXPECT_TRUE(draws(" at 5.3 7.8\n")) << test.drawing();
 }
 
-TEST(DrawingTest, borderStrokesRunInsideTheirShape) {
+TEST(DrawingTest, BorderStrokesRunInsideTheirShape) {
   EXPECT_EQ(drawn(RoundedRectangle(12).strokeBorder(Color::black(), 2), {40, 40}),
             "stroke rounded(1 1 38 38 r11 continuous) rgba(0 0 0 1) width 2\n");
 }
 
-TEST(DrawingTest, gradientsKeepAllTheirStops) {
+TEST(DrawingTest, GradientsKeepAllTheirStops) {
   EXPECT_EQ(
       drawn(Rectangle().fill(Gradient::linear({Color::white(), Color::clear(), Color::black()},
                                               UnitPoint::leading(), UnitPoint::trailing())),
@@ -97,13 +97,13 @@ TEST(DrawingTest, gradientsKeepAllTheirStops) {
       "1 rgba(0 0 0 1))\n");
 }
 
-TEST(DrawingTest, aShapeCastsItsOwnShadowBeneathItsFill) {
+TEST(DrawingTest, AShapeCastsItsOwnShadowBeneathItsFill) {
   EXPECT_EQ(drawn(Rectangle().fill(Color::white()).castShadow({Color::black(), 8, 0, 3}), {40, 20}),
             "shadow rectangle(0 0 40 20) rgba(0 0 0 1) radius 8 offset 0 3\n"
             "fill rectangle(0 0 40 20) rgba(1 1 1 1)\n");
 }
 
-TEST(DrawingTest, opacityAndShadowOfASubtreeAreLayers) {
+TEST(DrawingTest, OpacityAndShadowOfASubtreeAreLayers) {
   const View box = Rectangle().fill(Color::white()).frame(10, 10);
   EXPECT_EQ(drawn(box.opacity(0.5), {10, 10}),
             "layer (-1 -1 12 12) opacity 0.5\n"
@@ -117,7 +117,7 @@ TEST(DrawingTest, opacityAndShadowOfASubtreeAreLayers) {
             "end\n");
 }
 
-TEST(DrawingTest, clipsAndScalesAreUndoneAfterTheirView) {
+TEST(DrawingTest, ClipsAndScalesAreUndoneAfterTheirView) {
   EXPECT_EQ(drawn(Rectangle().fill(Color::white()).frame(10, 10).clip(ShapeForm::circle()).scale(2),
                   {20, 20}),
             "save\n"
@@ -129,7 +129,7 @@ TEST(DrawingTest, clipsAndScalesAreUndoneAfterTheirView) {
             "restore\n");
 }
 
-TEST(DrawingTest, modifiersApplyInTheirOrder) {
+TEST(DrawingTest, ModifiersApplyInTheirOrder) {
   const View box = Rectangle().fill(Color::white()).frame(10, 10);
   const View layer = Rectangle().fill(Color::black());
   EXPECT_EQ(drawn(box.padding(5).background(layer), {20, 20}),
@@ -140,7 +140,7 @@ TEST(DrawingTest, modifiersApplyInTheirOrder) {
             "fill rectangle(5 5 10 10) rgba(1 1 1 1)\n");
 }
 
-TEST(DrawingTest, edgesSnapToWholePixelsOnlyWhenPainting) {
+TEST(DrawingTest, EdgesSnapToWholePixelsOnlyWhenPainting) {
   const View thirds = HStack(0, {Rectangle().fill(Color::white()), Rectangle().fill(Color::white()),
                                  Rectangle().fill(Color::white())});
   EXPECT_EQ(drawn(thirds, {10, 4}),
@@ -153,27 +153,27 @@ TEST(DrawingTest, edgesSnapToWholePixelsOnlyWhenPainting) {
             "fill rectangle(6.5 0 3.5 4) rgba(1 1 1 1)\n");
 }
 
-TEST(DrawingTest, linesOfTextAreAlignedInTheirFrame) {
+TEST(DrawingTest, LinesOfTextAreAlignedInTheirFrame) {
   EXPECT_EQ(
       drawn(Text("aaa b").font(Font::system(10)).textAlignment(TextAlignment::trailing), {15, 20}),
       "text \"aaa\" 10/400 rgba(0 0 0 0.85) at 0 8\n"
       "text \"b\" 10/400 rgba(0 0 0 0.85) at 10 18\n");
 }
 
-TEST(DrawingTest, numbersThatAreNoneCountAsZero) {
+TEST(DrawingTest, NumbersThatAreNoneCountAsZero) {
   const View box = Rectangle().fill(Color::white()).frame(10, 10);
   EXPECT_EQ(drawn(box.offset(std::nan(""), infinity), {10, 10}),
             "fill rectangle(0 0 10 10) rgba(1 1 1 1)\n");
 }
 
-TEST(DrawingTest, symbolsAndImagesAreDrawnByName) {
+TEST(DrawingTest, SymbolsAndImagesAreDrawnByName) {
   EXPECT_EQ(drawn(Symbol("lock").font(Font::system(8, Weight::bold)).foreground(Color::white()),
                   {20, 20}),
             "symbol lock 8/700 rgba(1 1 1 1) (6 6 8 8)\n");
   EXPECT_EQ(drawn(Image("photo").resizable(), {12, 12}), "image photo (0 0 12 12)\n");
 }
 
-TEST(DrawingTest, inTheDarkAnImageIsReplacedByItsDarkTwin) {
+TEST(DrawingTest, InTheDarkAnImageIsReplacedByItsDarkTwin) {
   TestHost test({12, 12});
   test.show(Image("photo").resizable());
   Appearance dark;
@@ -199,13 +199,13 @@ class DirtyTest : public testing::Test {
   TestHost test{{100, 20}};
 };
 
-TEST_F(DirtyTest, theFirstPresentationIsDirtyAndARedrawWithoutChangeIsNot) {
+TEST_F(DirtyTest, TheFirstPresentationIsDirtyAndARedrawWithoutChangeIsNot) {
   test.show(HStack(20, {box(Color::white()), Text("a")}));
   EXPECT_FALSE(test.host->takeDirtyRects().empty());
   EXPECT_TRUE(dirtyAfterUpdate().empty());
 }
 
-TEST_F(DirtyTest, onlyWhatLooksDifferentIsRepainted) {
+TEST_F(DirtyTest, OnlyWhatLooksDifferentIsRepainted) {
   Color color = Color::white();
   test.show([&](const Environment&) -> View {
     return HStack(20, {box(Color::black()), box(color), box(Color::black())});
@@ -223,14 +223,14 @@ TEST_F(DirtyTest, onlyWhatLooksDifferentIsRepainted) {
             "restore\n");
 }
 
-TEST_F(DirtyTest, whatMovesIsRepaintedWhereItWasAndWhereItIs) {
+TEST_F(DirtyTest, WhatMovesIsRepaintedWhereItWasAndWhereItIs) {
   double x = -40;
   test.show([&](const Environment&) { return box(Color::white()).offset(x, 0); });
   x = 40;
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{-1, -1, 22, 22}, {79, -1, 22, 22}}));
 }
 
-TEST_F(DirtyTest, whatGoesIsRepaintedWhereItWas) {
+TEST_F(DirtyTest, WhatGoesIsRepaintedWhereItWas) {
   bool isShown = true;
   test.show(
       [&](const Environment&) -> View { return ZStack({when(isShown, box(Color::white()))}); });
@@ -238,7 +238,7 @@ TEST_F(DirtyTest, whatGoesIsRepaintedWhereItWas) {
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{39, -1, 22, 22}}));
 }
 
-TEST_F(DirtyTest, shadowsReachBeyondTheirViewAndClipsCutThem) {
+TEST_F(DirtyTest, ShadowsReachBeyondTheirViewAndClipsCutThem) {
   double radius = 4;
   test.show([&](const Environment&) {
     return box(Color::white()).shadow({Color::black(), radius, 0, 2});
@@ -253,7 +253,7 @@ TEST_F(DirtyTest, shadowsReachBeyondTheirViewAndClipsCutThem) {
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{40, 0, 20, 20}}));
 }
 
-TEST_F(DirtyTest, clipsInsideOfOneAnotherCutTogether) {
+TEST_F(DirtyTest, ClipsInsideOfOneAnotherCutTogether) {
   Color color = Color::white();
   test.show([&](const Environment&) {
     return Rectangle()
@@ -268,7 +268,7 @@ TEST_F(DirtyTest, clipsInsideOfOneAnotherCutTogether) {
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{40, 0, 20, 20}}));
 }
 
-TEST_F(DirtyTest, whatHasMovedAwayIsRepaintedWhenItIsGone) {
+TEST_F(DirtyTest, WhatHasMovedAwayIsRepaintedWhenItIsGone) {
   bool isShown = true;
   test.show([&](const Environment&) -> View {
     return ZStack({when(isShown, box(Color::white()).transition(Transition::scale(0.5)))})
@@ -283,7 +283,7 @@ TEST_F(DirtyTest, whatHasMovedAwayIsRepaintedWhenItIsGone) {
   EXPECT_EQ(test.drawing().find("fill"), std::string::npos);
 }
 
-TEST_F(DirtyTest, aLayersOpacityRepaintsEverythingInIt) {
+TEST_F(DirtyTest, ALayersOpacityRepaintsEverythingInIt) {
   double opacity = 1;
   test.show([&](const Environment&) {
     return HStack(20, {box(Color::white()), box(Color::white())}).opacity(opacity);

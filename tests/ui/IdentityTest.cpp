@@ -30,7 +30,7 @@ std::string labels(const TestHost& test) {
   return result;
 }
 
-TEST(IdentityTest, stateOutlivesARedraw) {
+TEST(IdentityTest, StateOutlivesARedraw) {
   TestHost test({10, 10});
   test.show(Counter{"a"});
   test.click({5, 5});
@@ -40,7 +40,7 @@ TEST(IdentityTest, stateOutlivesARedraw) {
   EXPECT_EQ(labels(test), "a1 ");
 }
 
-TEST(IdentityTest, stateFollowsItsItemWhenItemsMove) {
+TEST(IdentityTest, StateFollowsItsItemWhenItemsMove) {
   std::vector<std::string> names{"a", "b", "c"};
   TestHost test({30, 10});
   test.show([&](const Environment&) -> View {
@@ -63,7 +63,7 @@ TEST(IdentityTest, stateFollowsItsItemWhenItemsMove) {
   EXPECT_EQ(labels(test), "b0 c0 a0 ") << "what was gone begins anew";
 }
 
-TEST(IdentityTest, aConditionalSiblingDoesNotDisturbTheOthers) {
+TEST(IdentityTest, AConditionalSiblingDoesNotDisturbTheOthers) {
   bool isShown = false;
   TestHost test({30, 10});
   test.show([&](const Environment&) -> View {
@@ -77,7 +77,7 @@ TEST(IdentityTest, aConditionalSiblingDoesNotDisturbTheOthers) {
   EXPECT_EQ(labels(test), "x a1 ");
 }
 
-TEST(IdentityTest, anotherIdOrKindIsAnotherNode) {
+TEST(IdentityTest, AnotherIdOrKindIsAnotherNode) {
   std::string id = "one";
   TestHost test({10, 10});
   test.show([&](const Environment&) { return View(Counter{"a"}).id(id); });
@@ -89,7 +89,7 @@ TEST(IdentityTest, anotherIdOrKindIsAnotherNode) {
   EXPECT_EQ(labels(test), "a0 ");
 }
 
-TEST(IdentityTest, appearingAndDisappearingAreToldOnce) {
+TEST(IdentityTest, AppearingAndDisappearingAreToldOnce) {
   bool isShown = true;
   std::string log;
   TestHost test;
@@ -107,7 +107,7 @@ TEST(IdentityTest, appearingAndDisappearingAreToldOnce) {
   EXPECT_EQ(log, "+-");
 }
 
-TEST(IdentityTest, stateSetAfterItsViewIsGoneDoesNothing) {
+TEST(IdentityTest, StateSetAfterItsViewIsGoneDoesNothing) {
   TestHost test;
   std::optional<State<int>> kept;
   test.show([&](const Environment&) -> View {
@@ -125,7 +125,7 @@ TEST(IdentityTest, stateSetAfterItsViewIsGoneDoesNothing) {
   EXPECT_EQ(**kept, 5);
 }
 
-TEST(IdentityTest, anEqualValueAsksForNothing) {
+TEST(IdentityTest, AnEqualValueAsksForNothing) {
   TestHost test;
   std::optional<State<int>> kept;
   struct Keeper {

@@ -30,7 +30,7 @@ class KeyboardTest : public testing::Test {
   std::string log;
 };
 
-TEST_F(KeyboardTest, tabWalksInReadingOrderAndRoundAgain) {
+TEST_F(KeyboardTest, TabWalksInReadingOrderAndRoundAgain) {
   test.show(VStack({HStack({button("a"), button("b")}), button("c")}));
   EXPECT_EQ(focused(), "");
   std::string walk;
@@ -43,19 +43,19 @@ TEST_F(KeyboardTest, tabWalksInReadingOrderAndRoundAgain) {
   EXPECT_EQ(focused(), "c");
 }
 
-TEST_F(KeyboardTest, shiftTabBeginsAtTheEnd) {
+TEST_F(KeyboardTest, ShiftTabBeginsAtTheEnd) {
   test.show(HStack({button("a"), button("b")}));
   test.press(Key::tab, true);
   EXPECT_EQ(focused(), "b");
 }
 
-TEST_F(KeyboardTest, disabledAndInvisibleControlsAreSkipped) {
+TEST_F(KeyboardTest, DisabledAndInvisibleControlsAreSkipped) {
   test.show(HStack({button("a").disabled(true), button("b").opacity(0), button("c")}));
   test.press(Key::tab);
   EXPECT_EQ(focused(), "c");
 }
 
-TEST_F(KeyboardTest, tabPassesOverWhatIsOutOfItsOrder) {
+TEST_F(KeyboardTest, TabPassesOverWhatIsOutOfItsOrder) {
   test.show(HStack({Button("a", [this] { log += "a"; })
                         .outOfTabOrder()
                         .keyboardShortcut(KeyboardShortcut::command("w")),
@@ -73,12 +73,12 @@ TEST_F(KeyboardTest, tabPassesOverWhatIsOutOfItsOrder) {
   EXPECT_EQ(log, "aa");
 }
 
-TEST_F(KeyboardTest, withoutControlsTabIsNotHandled) {
+TEST_F(KeyboardTest, WithoutControlsTabIsNotHandled) {
   test.show(Text("a"));
   EXPECT_FALSE(test.press(Key::tab));
 }
 
-TEST_F(KeyboardTest, spaceActivatesTheFocus) {
+TEST_F(KeyboardTest, SpaceActivatesTheFocus) {
   test.show(HStack({button("a"), button("b")}));
   EXPECT_FALSE(test.press(Key::space));
   test.press(Key::tab);
@@ -87,7 +87,7 @@ TEST_F(KeyboardTest, spaceActivatesTheFocus) {
   EXPECT_EQ(log, "b");
 }
 
-TEST_F(KeyboardTest, returnAndEscapeReachTheirButtonsWhateverHasTheFocus) {
+TEST_F(KeyboardTest, ReturnAndEscapeReachTheirButtonsWhateverHasTheFocus) {
   test.show(HStack({button("a").keyboardShortcut(KeyboardShortcut::cancelAction()),
                     button("b").keyboardShortcut(KeyboardShortcut::defaultAction()), button("c")}));
   test.press(Key::tab);
@@ -97,7 +97,7 @@ TEST_F(KeyboardTest, returnAndEscapeReachTheirButtonsWhateverHasTheFocus) {
   EXPECT_EQ(log, "ba");
 }
 
-TEST_F(KeyboardTest, withoutADefaultButtonReturnActivatesTheFocus) {
+TEST_F(KeyboardTest, WithoutADefaultButtonReturnActivatesTheFocus) {
   test.show(HStack({button("a"), button("b")}));
   EXPECT_FALSE(test.press(Key::enter));
   test.press(Key::tab);
@@ -106,13 +106,13 @@ TEST_F(KeyboardTest, withoutADefaultButtonReturnActivatesTheFocus) {
   EXPECT_FALSE(test.press(Key::escape));
 }
 
-TEST_F(KeyboardTest, aDisabledDefaultButtonDoesNotAnswer) {
+TEST_F(KeyboardTest, ADisabledDefaultButtonDoesNotAnswer) {
   test.show(button("a").keyboardShortcut(KeyboardShortcut::defaultAction()).disabled(true));
   EXPECT_FALSE(test.press(Key::enter));
   EXPECT_EQ(log, "");
 }
 
-TEST_F(KeyboardTest, aShortcutNeedsItsCharacterAndItsModifiers) {
+TEST_F(KeyboardTest, AShortcutNeedsItsCharacterAndItsModifiers) {
   test.show(button("a").keyboardShortcut(KeyboardShortcut::command("w")));
   EXPECT_FALSE(test.host->keyDown({Key::character, {}, "w"}));
   EXPECT_FALSE(test.host->keyDown({Key::character, {false, false, false, true}, "q"}));
@@ -120,7 +120,7 @@ TEST_F(KeyboardTest, aShortcutNeedsItsCharacterAndItsModifiers) {
   EXPECT_EQ(log, "a");
 }
 
-TEST_F(KeyboardTest, theRingIsSeenOnlyWhenTheFocusCameByTheKeyboard) {
+TEST_F(KeyboardTest, TheRingIsSeenOnlyWhenTheFocusCameByTheKeyboard) {
   test.show(
       Button([] {}, Rectangle().frame(40, 20)).style(PlainButtonStyle{}).accessibilityLabel("a"));
   const std::string ring = "stroke rounded(128 38 44 24 r8 continuous)";
@@ -136,7 +136,7 @@ TEST_F(KeyboardTest, theRingIsSeenOnlyWhenTheFocusCameByTheKeyboard) {
   EXPECT_EQ(dirty[0], (Rect{124, 34, 52, 32}));
 }
 
-TEST_F(KeyboardTest, theFocusEndsWithItsNode) {
+TEST_F(KeyboardTest, TheFocusEndsWithItsNode) {
   bool isShown = true;
   test.show([&](const Environment&) -> View {
     return HStack({when(isShown, button("a")), button("b")});
@@ -151,7 +151,7 @@ TEST_F(KeyboardTest, theFocusEndsWithItsNode) {
   EXPECT_EQ(log, "");
 }
 
-TEST_F(KeyboardTest, theFocusScrollsItsControlIntoView) {
+TEST_F(KeyboardTest, TheFocusScrollsItsControlIntoView) {
   test.host->setSize({50, 40});
   const auto card = [this](const std::string& title) {
     return Button([this, title] { log += title; }, Text(title).frame(40, 20))
@@ -165,7 +165,7 @@ TEST_F(KeyboardTest, theFocusScrollsItsControlIntoView) {
   EXPECT_EQ(test.element("a")->frame.x, 0);
 }
 
-TEST_F(KeyboardTest, aKeyMayDestroyTheHost) {
+TEST_F(KeyboardTest, AKeyMayDestroyTheHost) {
   test.show(Button("a", [this] {
               test.host.reset();
             }).keyboardShortcut(KeyboardShortcut::cancelAction()));

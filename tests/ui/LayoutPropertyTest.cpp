@@ -101,7 +101,7 @@ class LaidOut {
   std::uint64_t nodeCount_ = 0;
 };
 
-RC_GTEST_PROP(LayoutPropertyTest, everySizeIsANumberAndEveryFrameIsFinite, ()) {
+RC_GTEST_PROP(LayoutPropertyTest, EverySizeIsANumberAndEveryFrameIsFinite, ()) {
   View view = anyView(4);
   if (*rc::gen::arbitrary<bool>()) {
     view = ScrollView(view).overlay(anyView(2)).offset(3, 4);
@@ -115,7 +115,7 @@ RC_GTEST_PROP(LayoutPropertyTest, everySizeIsANumberAndEveryFrameIsFinite, ()) {
   }
 }
 
-RC_GTEST_PROP(LayoutPropertyTest, childrenLieWithinTheirParent, ()) {
+RC_GTEST_PROP(LayoutPropertyTest, ChildrenLieWithinTheirParent, ()) {
   const LaidOut tree(anyView(4),
                      {double(*rc::gen::inRange(0, 400)), double(*rc::gen::inRange(0, 400))});
   constexpr double rounding = 1e-6;
@@ -130,7 +130,7 @@ RC_GTEST_PROP(LayoutPropertyTest, childrenLieWithinTheirParent, ()) {
   });
 }
 
-RC_GTEST_PROP(LayoutPropertyTest, spacingsAddUpExactly, ()) {
+RC_GTEST_PROP(LayoutPropertyTest, SpacingsAddUpExactly, ()) {
   const LaidOut tree(anyView(4),
                      {double(*rc::gen::inRange(0, 400)), double(*rc::gen::inRange(0, 400))});
   visitNodes(*tree.root, [&](const Node& node) {
@@ -151,7 +151,7 @@ RC_GTEST_PROP(LayoutPropertyTest, spacingsAddUpExactly, ()) {
   });
 }
 
-RC_GTEST_PROP(LayoutPropertyTest, theSameInputGivesTheSameOutput, ()) {
+RC_GTEST_PROP(LayoutPropertyTest, TheSameInputGivesTheSameOutput, ()) {
   const View view = anyView(4);
   const Proposal proposal{anyLength(), anyLength()};
   RC_ASSERT(LaidOut(view, proposal).frames() == LaidOut(view, proposal).frames());

@@ -26,12 +26,12 @@ Size ideal(const View& view) {
   return test.host->intrinsicSize();
 }
 
-TEST(LayoutTest, aRowPlacesItsChildrenSideBySideInTheMiddleOfTheHost) {
+TEST(LayoutTest, ARowPlacesItsChildrenSideBySideInTheMiddleOfTheHost) {
   EXPECT_EQ(framesIn(HStack(8, {Text("a"), Text("bb")}), 100, 20),
             "a(38.5 5 5 10) bb(51.5 5 10 10)");
 }
 
-TEST(LayoutTest, aRowOfItsOwnIdealWidthCutsNoText) {
+TEST(LayoutTest, ARowOfItsOwnIdealWidthCutsNoText) {
   // Sizes and spacings whose sums are rounded.
   for (int step = 0; step < 200; ++step) {
     const double size = 9 + step * 0.07;
@@ -46,7 +46,7 @@ TEST(LayoutTest, aRowOfItsOwnIdealWidthCutsNoText) {
   }
 }
 
-TEST(LayoutTest, aColumnAlignsItsChildrenAcross) {
+TEST(LayoutTest, AColumnAlignsItsChildrenAcross) {
   const std::vector<View> children{Text("a"), Text("bbb")};
   EXPECT_EQ(framesIn(VStack(2, HorizontalAlignment::leading, children), 15, 22),
             "a(0 0 5 10) bbb(0 12 15 10)");
@@ -72,7 +72,7 @@ class TallScript : public TextMeasurer {
   SyntheticTextMeasurer latin_;
 };
 
-TEST(LayoutTest, linesOfAFixedHeightHaveTheirBaselinesWhereLatinOnesHaveThem) {
+TEST(LayoutTest, LinesOfAFixedHeightHaveTheirBaselinesWhereLatinOnesHaveThem) {
   const auto drawing = [](const std::string& text, const View& view) {
     TallScript measurer;
     HostPlatform platform;
@@ -105,7 +105,7 @@ TEST(LayoutTest, linesOfAFixedHeightHaveTheirBaselinesWhereLatinOnesHaveThem) {
   EXPECT_NE(drawing("中", Text("中")), drawing("a", Text("a"))) << "else they follow their script";
 }
 
-TEST(LayoutTest, spacersPushTheirNeighboursApart) {
+TEST(LayoutTest, SpacersPushTheirNeighboursApart) {
   EXPECT_EQ(framesIn(HStack(0, {Text("a"), Spacer(), Text("b")}), 100, 10),
             "a(0 0 5 10) b(95 0 5 10)");
   EXPECT_EQ(framesIn(VStack(0, {Spacer(), Text("a"), Spacer()}), 5, 90), "a(0 40 5 10)");
@@ -113,7 +113,7 @@ TEST(LayoutTest, spacersPushTheirNeighboursApart) {
             "a(0 0 5 10) b(25 0 5 10)");
 }
 
-TEST(LayoutTest, aHeaderRowGivesWayWordByWord) {
+TEST(LayoutTest, AHeaderRowGivesWayWordByWord) {
   // At every width: the rigid label keeps its room, then the text wraps, and at last both break.
   const View header = HStack(8, VerticalAlignment::top, {Text("aaaa bbbb"), Spacer(), Text("ok")});
   const std::vector<std::pair<double, std::string>> expected{
@@ -127,12 +127,12 @@ TEST(LayoutTest, aHeaderRowGivesWayWordByWord) {
   }
 }
 
-TEST(LayoutTest, emptyViewsTakeNeitherRoomNorSpacing) {
+TEST(LayoutTest, EmptyViewsTakeNeitherRoomNorSpacing) {
   const View row = HStack(8, {Text("a"), when(false, Text("gone")), Text("b"), View().padding()});
   EXPECT_EQ(framesIn(row, 18, 10), "a(0 0 5 10) b(13 0 5 10)");
 }
 
-TEST(LayoutTest, aGroupTakesPartInItsStackMemberByMember) {
+TEST(LayoutTest, AGroupTakesPartInItsStackMemberByMember) {
   const std::vector<std::string> names{"x", "y"};
   const View items = forEach(
       names, [](const std::string& name) { return name; },
@@ -141,7 +141,7 @@ TEST(LayoutTest, aGroupTakesPartInItsStackMemberByMember) {
             "a(0 0 5 10) x(10 0 5 10) y(20 0 5 10) b(30 0 5 10)");
 }
 
-TEST(LayoutTest, paddingSurroundsAndModifiersApplyInTheirOrder) {
+TEST(LayoutTest, PaddingSurroundsAndModifiersApplyInTheirOrder) {
   EXPECT_EQ(ideal(Text("a").padding()), (Size{37, 42}));
   EXPECT_EQ(ideal(Text("a").padding(Edges::horizontal(13).vertical(8))), (Size{31, 26}));
   EXPECT_EQ(ideal(Text("a").padding(4).frame(50, 50)), (Size{50, 50}));
@@ -149,14 +149,14 @@ TEST(LayoutTest, paddingSurroundsAndModifiersApplyInTheirOrder) {
   EXPECT_EQ(framesIn(Text("a").padding(Edge::top, 6), 5, 16), "a(0 6 5 10)");
 }
 
-TEST(LayoutTest, aFixedFrameAlignsItsContent) {
+TEST(LayoutTest, AFixedFrameAlignsItsContent) {
   EXPECT_EQ(framesIn(Text("a").frame(25, 30, Alignment::topLeading()), 25, 30), "a(0 0 5 10)");
   EXPECT_EQ(framesIn(Text("a").frame(25, 30, Alignment::bottomTrailing()), 25, 30),
             "a(20 20 5 10)");
   EXPECT_EQ(framesIn(Text("a").frame(25, 30), 25, 30), "a(10 10 5 10)");
 }
 
-TEST(LayoutTest, aFlexibleFrameGrowsToWhatItIsOfferedWithinItsBounds) {
+TEST(LayoutTest, AFlexibleFrameGrowsToWhatItIsOfferedWithinItsBounds) {
   FrameBounds bounds;
   bounds.minimumWidth = 20;
   bounds.maximumWidth = 60;
@@ -168,12 +168,12 @@ TEST(LayoutTest, aFlexibleFrameGrowsToWhatItIsOfferedWithinItsBounds) {
   EXPECT_EQ(ideal(Text("a").maximumWidth()), (Size{5, 10}));
 }
 
-TEST(LayoutTest, twoStretchedLabelsShareTheWidthEqually) {
+TEST(LayoutTest, TwoStretchedLabelsShareTheWidthEqually) {
   const View row = HStack(10, {Text("a").maximumWidth(), Text("bbbbbb").maximumWidth()});
   EXPECT_EQ(framesIn(row, 110, 10), "a(22.5 0 5 10) bbbbbb(70 0 30 10)");
 }
 
-TEST(LayoutTest, textIsCutWhereHeightIsShortUnlessItsHeightIsFixed) {
+TEST(LayoutTest, TextIsCutWhereHeightIsShortUnlessItsHeightIsFixed) {
   TestHost cut({20, 15});
   cut.show(Text("aaaa bbbb cccc").font(Font::system(10)));
   EXPECT_NE(cut.drawing().find("text \"aaa…\""), std::string::npos);
@@ -182,11 +182,11 @@ TEST(LayoutTest, textIsCutWhereHeightIsShortUnlessItsHeightIsFixed) {
             "aaaa bbbb cccc(0 -7.5 20 30)");
 }
 
-TEST(LayoutTest, aLineLimitIsInherited) {
+TEST(LayoutTest, ALineLimitIsInherited) {
   EXPECT_EQ(framesIn(VStack(0, {Text("aaaa bbbb")}).lineLimit(1), 25, 40), "aaaa bbbb(0 15 25 10)");
 }
 
-TEST(LayoutTest, layersAreOfferedTheSizeOfTheirViewAndDoNotChangeIt) {
+TEST(LayoutTest, LayersAreOfferedTheSizeOfTheirViewAndDoNotChangeIt) {
   const View view = Text("content")
                         .overlay(Text("o"), Alignment::topTrailing())
                         .background(Text("b"), Alignment::bottomLeading());
@@ -194,26 +194,26 @@ TEST(LayoutTest, layersAreOfferedTheSizeOfTheirViewAndDoNotChangeIt) {
   EXPECT_EQ(ideal(view), (Size{35, 10}));
 }
 
-TEST(LayoutTest, depthStacksAreAsLargeAsTheirLargest) {
+TEST(LayoutTest, DepthStacksAreAsLargeAsTheirLargest) {
   EXPECT_EQ(framesIn(ZStack(Alignment::bottomTrailing(), {Text("aaa"), Text("b\nb")}), 15, 20),
             "aaa(0 10 15 10) b\nb(10 0 5 20)");
 }
 
-TEST(LayoutTest, aDividerRunsAcrossItsStack) {
+TEST(LayoutTest, ADividerRunsAcrossItsStack) {
   const View column = VStack(4, {Text("a"), Divider(), Text("b")});
   EXPECT_EQ(framesIn(column, 50, 29), "a(22.5 0 5 10) b(22.5 19 5 10)");
   EXPECT_EQ(framesIn(HStack(4, {Text("a"), Divider(), Text("b")}), 19, 30),
             "a(0 10 5 10) b(14 10 5 10)");
 }
 
-TEST(LayoutTest, aScrollViewTakesItsWidthAndTheHeightOfItsContent) {
+TEST(LayoutTest, AScrollViewTakesItsWidthAndTheHeightOfItsContent) {
   const View row = ScrollView(HStack(5, {Text("aaaa"), Text("bbbb")}));
   EXPECT_EQ(framesIn(VStack(0, {row, Text("c")}), 30, 20),
             "aaaa(0 0 20 10) bbbb(25 0 20 10) c(12.5 10 5 10)");
   EXPECT_EQ(ideal(row), (Size{45, 10}));
 }
 
-TEST(LayoutTest, imagesKeepTheirSizeUntilTheyAreMadeResizable) {
+TEST(LayoutTest, ImagesKeepTheirSizeUntilTheyAreMadeResizable) {
   EXPECT_EQ(ideal(Image("photo")), (Size{40, 20}));
   EXPECT_EQ(ideal(Image("unknown")), (Size{0, 0}));
   TestHost test({30, 30});
@@ -225,7 +225,7 @@ TEST(LayoutTest, imagesKeepTheirSizeUntilTheyAreMadeResizable) {
   EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{60, 30}));
 }
 
-TEST(LayoutTest, prioritiesDecideWhoIsServedFirst) {
+TEST(LayoutTest, PrioritiesDecideWhoIsServedFirst) {
   const View row = HStack(0, {Text("aa aa"), Text("bb bb").layoutPriority(1)});
   EXPECT_EQ(framesIn(row, 35, 20), "aa aa(0 0 10 20) bb bb(10 5 25 10)");
 }

@@ -36,21 +36,21 @@ double chromaOf(const Rgba& color) {
 }
 
 // Figures that others publish for these pairs.
-TEST(LegibilityTest, contrastIsThatOfTheGuidelines) {
+TEST(LegibilityTest, ContrastIsThatOfTheGuidelines) {
   EXPECT_NEAR(contrastOf(black, white), 21, 1e-9);
   EXPECT_NEAR(contrastOf({0.4666667, 0.4666667, 0.4666667, 1}, white), 4.48, 0.005);
   EXPECT_NEAR(contrastOf(white, {1, 0, 0, 1}), 4.00, 0.005);
   EXPECT_NEAR(contrastOf({0, 0, 1, 1}, white), 8.59, 0.005);
 }
 
-TEST(LegibilityTest, moreIsRequiredWhereTheUserAsksForContrast) {
+TEST(LegibilityTest, MoreIsRequiredWhereTheUserAsksForContrast) {
   Appearance appearance;
   EXPECT_EQ(legibility::requiredContrast(appearance), 3);
   appearance.increaseContrast = true;
   EXPECT_EQ(legibility::requiredContrast(appearance), 4.5);
 }
 
-RC_GTEST_PROP(LegibilityTest, aTextReachesTheContrastInItsOwnHue, ()) {
+RC_GTEST_PROP(LegibilityTest, ATextReachesTheContrastInItsOwnHue, ()) {
   const Rgba color = anyColor();
   const double level = *rc::gen::inRange(0, 101) / 100.0;
   const Rgba ground{level, level, level, 1};
@@ -62,7 +62,7 @@ RC_GTEST_PROP(LegibilityTest, aTextReachesTheContrastInItsOwnHue, ()) {
   }
 }
 
-RC_GTEST_PROP(LegibilityTest, aTextIsChangedNoFurtherThanItTakes, ()) {
+RC_GTEST_PROP(LegibilityTest, ATextIsChangedNoFurtherThanItTakes, ()) {
   const Rgba color = anyColor();
   const double ground = *rc::gen::element(0.07, 0.8);
   const Rgba text = legibility::textOn(ground, color, 3);
@@ -70,18 +70,18 @@ RC_GTEST_PROP(LegibilityTest, aTextIsChangedNoFurtherThanItTakes, ()) {
   RC_ASSERT(text == color || reached < 3.06);
 }
 
-TEST(LegibilityTest, whatCanBeReadStaysAsItIs) {
+TEST(LegibilityTest, WhatCanBeReadStaysAsItIs) {
   EXPECT_EQ(legibility::textOn(1, blue, 3), blue);
   EXPECT_EQ(legibility::buttonFill(blue, 3, 0), blue);
 }
 
-TEST(LegibilityTest, aVeilMovesTheGroundTowardsItsColour) {
+TEST(LegibilityTest, AVeilMovesTheGroundTowardsItsColour) {
   EXPECT_NEAR(legibility::veiled(0.5, white, 0), 0.5, 1e-9);
   EXPECT_NEAR(legibility::veiled(0.5, blue, 1), legibility::relativeLuminance(blue), 1e-9);
   EXPECT_LT(legibility::veiled(0.5, black, 0.2), 0.5);
 }
 
-RC_GTEST_PROP(LegibilityTest, aLabelCanBeReadOnItsFillAlsoWhereTheFillIsLightened, ()) {
+RC_GTEST_PROP(LegibilityTest, ALabelCanBeReadOnItsFillAlsoWhereTheFillIsLightened, ()) {
   const Rgba color = anyColor();
   const double required = *rc::gen::element(3.0, 4.5);
   constexpr double light = 0.125;
@@ -93,7 +93,7 @@ RC_GTEST_PROP(LegibilityTest, aLabelCanBeReadOnItsFillAlsoWhereTheFillIsLightene
   RC_ASSERT(contrastOf(label, top) >= required);
 }
 
-TEST(LegibilityTest, theLabelIsBlackOnYellowAloneOfTheSystemsAccentColours) {
+TEST(LegibilityTest, TheLabelIsBlackOnYellowAloneOfTheSystemsAccentColours) {
   EXPECT_EQ(legibility::buttonLabel(yellow), black);
   EXPECT_EQ(legibility::buttonFill(yellow, 4.5, 0.125), yellow);
   for (const Rgba& dark : {blue, Rgba{247 / 255.0, 130 / 255.0, 27 / 255.0, 1},

@@ -27,12 +27,12 @@ class PickerTest : public testing::Test {
   int selected = 0;
 };
 
-TEST_F(PickerTest, showsTheSelectedItem) {
+TEST_F(PickerTest, ShowsTheSelectedItem) {
   EXPECT_NE(test.drawing().find("text \"System\""), std::string::npos);
   EXPECT_EQ(test.drawing().find("English"), std::string::npos);
 }
 
-TEST_F(PickerTest, aClickOpensTheMenuAtTheControlAndAChoiceIsToldOnce) {
+TEST_F(PickerTest, AClickOpensTheMenuAtTheControlAndAChoiceIsToldOnce) {
   test.click({100, 11});
   ASSERT_EQ(test.menus.size(), 1U);
   EXPECT_EQ(test.menus[0].items, (std::vector<std::string>{"System", "English"}));
@@ -44,7 +44,7 @@ TEST_F(PickerTest, aClickOpensTheMenuAtTheControlAndAChoiceIsToldOnce) {
   EXPECT_NE(test.drawing().find("text \"English\""), std::string::npos);
 }
 
-TEST_F(PickerTest, theKeyboardAndAPressOpenItToo) {
+TEST_F(PickerTest, TheKeyboardAndAPressOpenItToo) {
   test.press(Key::tab);
   test.press(Key::space);
   EXPECT_EQ(test.menus.size(), 1U);
@@ -52,14 +52,14 @@ TEST_F(PickerTest, theKeyboardAndAPressOpenItToo) {
   EXPECT_EQ(test.menus.size(), 2U);
 }
 
-TEST_F(PickerTest, describesItselfWithLabelAndValue) {
+TEST_F(PickerTest, DescribesItselfWithLabelAndValue) {
   const auto element = test.element("Language");
   ASSERT_TRUE(element);
   EXPECT_EQ(element->role, Role::popUpButton);
   EXPECT_EQ(element->value, "System");
 }
 
-TEST_F(PickerTest, anIndexOutsideOfTheItemsShowsAnEmptyTitle) {
+TEST_F(PickerTest, AnIndexOutsideOfTheItemsShowsAnEmptyTitle) {
   selected = 7;
   test.host->invalidate();
   test.host->layoutIfNeeded();

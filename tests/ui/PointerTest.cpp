@@ -34,7 +34,7 @@ class PointerTest : public testing::Test {
   std::string log;
 };
 
-TEST_F(PointerTest, aClickIsAPressAndAReleaseInside) {
+TEST_F(PointerTest, AClickIsAPressAndAReleaseInside) {
   test.show(button("a"));
   EXPECT_TRUE(test.host->pointerDown({20, 10}));
   test.host->layoutIfNeeded();
@@ -46,7 +46,7 @@ TEST_F(PointerTest, aClickIsAPressAndAReleaseInside) {
   EXPECT_EQ(log, "a");
 }
 
-TEST_F(PointerTest, draggingOutCancelsAndDraggingBackArmsAgain) {
+TEST_F(PointerTest, DraggingOutCancelsAndDraggingBackArmsAgain) {
   test.show(button("a"));
   test.host->pointerDown({20, 10});
   test.host->pointerDragged({60, 10});
@@ -60,7 +60,7 @@ TEST_F(PointerTest, draggingOutCancelsAndDraggingBackArmsAgain) {
   EXPECT_EQ(log, "");
 }
 
-TEST_F(PointerTest, aCancelledPressDoesNothing) {
+TEST_F(PointerTest, ACancelledPressDoesNothing) {
   test.show(button("a"));
   test.host->pointerDown({20, 10});
   test.host->pointerCancelled();
@@ -68,7 +68,7 @@ TEST_F(PointerTest, aCancelledPressDoesNothing) {
   EXPECT_EQ(log, "");
 }
 
-TEST_F(PointerTest, aPressEndsWithItsNode) {
+TEST_F(PointerTest, APressEndsWithItsNode) {
   std::string id = "one";
   test.show([&](const Environment&) { return button("a").id(id); });
   test.host->pointerDown({20, 10});
@@ -79,7 +79,7 @@ TEST_F(PointerTest, aPressEndsWithItsNode) {
   EXPECT_FALSE(showsPress());
 }
 
-TEST_F(PointerTest, aPressEndsWhenItsControlIsDisabled) {
+TEST_F(PointerTest, APressEndsWhenItsControlIsDisabled) {
   bool isDisabled = false;
   test.show([&](const Environment&) { return button("a").disabled(isDisabled); });
   test.host->pointerDown({20, 10});
@@ -92,26 +92,26 @@ TEST_F(PointerTest, aPressEndsWhenItsControlIsDisabled) {
   EXPECT_FALSE(showsPress());
 }
 
-TEST_F(PointerTest, disabledSubtreesTakeThePressAndDoNothing) {
+TEST_F(PointerTest, DisabledSubtreesTakeThePressAndDoNothing) {
   test.show(ZStack({button("below"), VStack({button("a")}).disabled(true)}));
   EXPECT_TRUE(test.host->pointerDown({20, 10}));
   test.host->pointerUp({20, 10});
   EXPECT_EQ(log, "");
 }
 
-TEST_F(PointerTest, theTopmostControlIsHit) {
+TEST_F(PointerTest, TheTopmostControlIsHit) {
   test.show(ZStack({button("a"), button("b")}));
   test.click({20, 10});
   EXPECT_EQ(log, "b");
 }
 
-TEST_F(PointerTest, whatCannotBeSeenOrHitLetsThePointerThrough) {
+TEST_F(PointerTest, WhatCannotBeSeenOrHitLetsThePointerThrough) {
   test.show(ZStack({button("a"), button("b").hitTesting(false), button("c").opacity(0)}));
   test.click({20, 10});
   EXPECT_EQ(log, "a");
 }
 
-TEST_F(PointerTest, hitsFollowOffsetsAndScalesAsPresented) {
+TEST_F(PointerTest, HitsFollowOffsetsAndScalesAsPresented) {
   test.host->setSize({200, 100});
   test.show(button("a").scale(0.5).offset(50, 0));
   // The button's 40 by 20 points in the middle, halved and moved: 140 to 160, 45 to 55.
@@ -123,7 +123,7 @@ TEST_F(PointerTest, hitsFollowOffsetsAndScalesAsPresented) {
   EXPECT_EQ(log, "a");
 }
 
-TEST_F(PointerTest, hitsFollowAMotionUnderWay) {
+TEST_F(PointerTest, HitsFollowAMotionUnderWay) {
   test.host->setSize({200, 20});
   double x = -50;
   test.show(
@@ -135,7 +135,7 @@ TEST_F(PointerTest, hitsFollowAMotionUnderWay) {
   EXPECT_EQ(log, "a");
 }
 
-TEST_F(PointerTest, hoverIsToldOnceEachWay) {
+TEST_F(PointerTest, HoverIsToldOnceEachWay) {
   test.host->setSize({100, 20});
   test.show(Rectangle().frame(40, 20).onHover([this](bool inside) { log += inside ? "+" : "-"; }));
   test.host->pointerMoved({10, 10});
@@ -150,7 +150,7 @@ TEST_F(PointerTest, hoverIsToldOnceEachWay) {
   EXPECT_EQ(log, "+-+-");
 }
 
-TEST_F(PointerTest, hoverIsFoundAnewAfterLayoutThoughThePointerIsStill) {
+TEST_F(PointerTest, HoverIsFoundAnewAfterLayoutThoughThePointerIsStill) {
   test.host->setSize({100, 20});
   double x = 30;
   test.show([&](const Environment&) {
@@ -169,14 +169,14 @@ TEST_F(PointerTest, hoverIsFoundAnewAfterLayoutThoughThePointerIsStill) {
   EXPECT_EQ(log, "+-");
 }
 
-TEST_F(PointerTest, aClusterAndTheControlInItHoverTogether) {
+TEST_F(PointerTest, AClusterAndTheControlInItHoverTogether) {
   test.show(HStack(0, {button("a").onHover([this](bool in) { log += in ? "i" : "o"; })})
                 .onHover([this](bool in) { log += in ? "I" : "O"; }));
   test.host->pointerMoved({20, 10});
   EXPECT_EQ(log, "iI");
 }
 
-TEST_F(PointerTest, aHandlerMayRemoveItsView) {
+TEST_F(PointerTest, AHandlerMayRemoveItsView) {
   bool isShown = true;
   test.show([&](const Environment&) -> View {
     return ZStack({when(isShown, Button("a", [&] {
@@ -191,13 +191,13 @@ TEST_F(PointerTest, aHandlerMayRemoveItsView) {
   EXPECT_EQ(test.frames(), "");
 }
 
-TEST_F(PointerTest, aHandlerMayDestroyItsHost) {
+TEST_F(PointerTest, AHandlerMayDestroyItsHost) {
   test.show(Button("a", [this] { test.host.reset(); }).style(MarkingStyle{}));
   test.click({20, 10});
   EXPECT_FALSE(test.host);
 }
 
-TEST_F(PointerTest, aHoverOrAppearanceHandlerMayDestroyItsHost) {
+TEST_F(PointerTest, AHoverOrAppearanceHandlerMayDestroyItsHost) {
   test.show(button("a").onHover([this](bool) { test.host.reset(); }));
   test.host->pointerMoved({20, 10});
   EXPECT_FALSE(test.host);
@@ -209,7 +209,7 @@ TEST_F(PointerTest, aHoverOrAppearanceHandlerMayDestroyItsHost) {
   EXPECT_FALSE(other.host);
 }
 
-TEST_F(PointerTest, scrollingStopsAtBothEnds) {
+TEST_F(PointerTest, ScrollingStopsAtBothEnds) {
   test.host->setSize({30, 10});
   test.show(ScrollView(HStack(0, {Text("aaaaaa").onTap([this] { log += "a"; }),
                                   Text("bbbbbb").onTap([this] { log += "b"; })}))
@@ -226,7 +226,7 @@ TEST_F(PointerTest, scrollingStopsAtBothEnds) {
   EXPECT_FALSE(test.host->scroll({5, 50}, -5, 0)) << "not over the view";
 }
 
-TEST_F(PointerTest, whatIsScrolledOutOfSightCannotBeHit) {
+TEST_F(PointerTest, WhatIsScrolledOutOfSightCannotBeHit) {
   test.host->setSize({60, 10});
   test.show(ScrollView(HStack(0, {Text("aaaaaa"), Text("bbbbbb").onTap([this] { log += "b"; })}))
                 .frame(30, 10, Alignment::leading())
@@ -236,7 +236,7 @@ TEST_F(PointerTest, whatIsScrolledOutOfSightCannotBeHit) {
   EXPECT_EQ(log, "");
 }
 
-TEST_F(PointerTest, theScrollOffsetOutlivesARedrawAndFollowsItsContent) {
+TEST_F(PointerTest, TheScrollOffsetOutlivesARedrawAndFollowsItsContent) {
   std::string text = "aaaaaaaaaaaa";
   test.host->setSize({30, 10});
   test.show([&](const Environment&) { return ScrollView(Text(text)).font(Font::system(10)); });
@@ -248,7 +248,7 @@ TEST_F(PointerTest, theScrollOffsetOutlivesARedrawAndFollowsItsContent) {
   EXPECT_EQ(test.element(text)->frame.x, -10);
 }
 
-TEST_F(PointerTest, aDragBeginsAfterAFewPointsAndClicksNothing) {
+TEST_F(PointerTest, ADragBeginsAfterAFewPointsAndClicksNothing) {
   test.show(Rectangle().frame(40, 20).dragSource([] { return DragItem{"file:///app", "icon"}; }));
   EXPECT_FALSE(test.host->movesWindowAt({20, 10}));
   EXPECT_TRUE(test.host->pointerDown({20, 10}));
@@ -262,7 +262,7 @@ TEST_F(PointerTest, aDragBeginsAfterAFewPointsAndClicksNothing) {
   EXPECT_EQ(test.drags[0].frame, (Rect{0, 0, 40, 20}));
 }
 
-TEST_F(PointerTest, aDragSourceWithoutAnItemStartsNothing) {
+TEST_F(PointerTest, ADragSourceWithoutAnItemStartsNothing) {
   test.show(Rectangle().dragSource([this]() -> std::optional<DragItem> {
     log += "?";
     return std::nullopt;
@@ -275,7 +275,7 @@ TEST_F(PointerTest, aDragSourceWithoutAnItemStartsNothing) {
   EXPECT_TRUE(test.host->pointerUp({35, 10}));
 }
 
-TEST_F(PointerTest, theWindowMovesWhereNoViewTakesThePress) {
+TEST_F(PointerTest, TheWindowMovesWhereNoViewTakesThePress) {
   test.host->setSize({100, 20});
   test.show(HStack(0, {Text("title"), button("a")}));
   EXPECT_TRUE(test.host->movesWindowAt({5, 10}));
@@ -284,7 +284,7 @@ TEST_F(PointerTest, theWindowMovesWhereNoViewTakesThePress) {
   EXPECT_FALSE(test.host->movesWindowAt(frame.center()));
 }
 
-TEST_F(PointerTest, tooltipsBelongToTheirView) {
+TEST_F(PointerTest, TooltipsBelongToTheirView) {
   test.host->setSize({100, 20});
   test.show(Rectangle().frame(40, 20).tooltip("Settings"));
   EXPECT_FALSE(test.host->tooltipAt({10, 10}));

@@ -20,7 +20,7 @@ std::string described(const View& view) {
   return describeSemantics(test.host->semantics());
 }
 
-TEST(SemanticsTest, textsAndButtonsAreElementsAndDecorationIsNot) {
+TEST(SemanticsTest, TextsAndButtonsAreElementsAndDecorationIsNot) {
   EXPECT_EQ(described(VStack({Text("Title"), Symbol("lock"), Image("photo"), Capsule(),
                               Button([] {}, HStack({Symbol("lock"), Text("Pin"), Text("Dock")}))})),
             "group\n"
@@ -28,7 +28,7 @@ TEST(SemanticsTest, textsAndButtonsAreElementsAndDecorationIsNot) {
             "  button \"Pin, Dock\"\n");
 }
 
-TEST(SemanticsTest, modifiersCompleteWhatAViewSays) {
+TEST(SemanticsTest, ModifiersCompleteWhatAViewSays) {
   EXPECT_EQ(
       described(HStack({Button([] {}, Symbol("xmark")).accessibilityLabel("Close"),
                         Button("Card", [] {}).accessibilitySelected(true),
@@ -46,21 +46,21 @@ TEST(SemanticsTest, modifiersCompleteWhatAViewSays) {
       "  button \"Pin\" = \"on\" disabled\n");
 }
 
-TEST(SemanticsTest, aTapMakesAButton) {
+TEST(SemanticsTest, ATapMakesAButton) {
   EXPECT_EQ(described(HStack({Text("Row"), Text("on")}).onTap([] {})),
             "group\n  button \"Row, on\"\n");
 }
 
-TEST(SemanticsTest, aScrollAreaHoldsItsContent) {
+TEST(SemanticsTest, AScrollAreaHoldsItsContent) {
   EXPECT_EQ(described(ScrollView(Text("a"))), "group\n  scroll area\n    text \"a\"\n");
 }
 
-TEST(SemanticsTest, whatHasFadedOutIsNotThere) {
+TEST(SemanticsTest, WhatHasFadedOutIsNotThere) {
   EXPECT_EQ(described(VStack({Text("a").opacity(0), Text("b").opacity(0.1)})),
             "group\n  text \"b\"\n");
 }
 
-TEST(SemanticsTest, aPressRunsTheSameActionAsAClick) {
+TEST(SemanticsTest, APressRunsTheSameActionAsAClick) {
   TestHost test;
   int presses = 0;
   bool isDisabled = false;
@@ -78,13 +78,13 @@ TEST(SemanticsTest, aPressRunsTheSameActionAsAClick) {
   EXPECT_FALSE(test.host->perform(999, SemanticsAction::press));
 }
 
-TEST(SemanticsTest, framesAreThoseOnScreen) {
+TEST(SemanticsTest, FramesAreThoseOnScreen) {
   TestHost test({100, 40});
   test.show(Rectangle().frame(40, 20).accessibilityLabel("box").scale(2).offset(5, 0));
   EXPECT_EQ(test.element("box")->frame, (Rect{15, 0, 80, 40}));
 }
 
-TEST(SemanticsTest, aChangeIsToldAlsoWhenNothingIsRebuilt) {
+TEST(SemanticsTest, AChangeIsToldAlsoWhenNothingIsRebuilt) {
   TestHost test({30, 10});
   const auto changesOf = [&](const std::function<void()>& change) {
     const int before = test.semanticsChanges;
@@ -109,7 +109,7 @@ TEST(SemanticsTest, aChangeIsToldAlsoWhenNothingIsRebuilt) {
   EXPECT_EQ(changesOf([&] { test.at(4); }), 0);
 }
 
-TEST(SemanticsTest, aViewCanDismissItsHostAndSpeak) {
+TEST(SemanticsTest, AViewCanDismissItsHostAndSpeak) {
   TestHost test;
   test.show([](const Environment& environment) {
     return Button("Close", [environment] { environment.dismiss(); });

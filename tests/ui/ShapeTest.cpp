@@ -46,7 +46,7 @@ std::vector<Sample> samples(const Path& path) {
   return result;
 }
 
-TEST(ShapeTest, aCircularCornerIsACircle) {
+TEST(ShapeTest, ACircularCornerIsACircle) {
   const Shape shape = Shape::roundedRectangle({0, 0, 100, 60}, 20, CornerStyle::circular);
   for (const Sample& sample : samples(shape.path())) {
     const Point center{sample.point.x < 50 ? 20.0 : 80.0, sample.point.y < 30 ? 20.0 : 40.0};
@@ -54,7 +54,7 @@ TEST(ShapeTest, aCircularCornerIsACircle) {
   }
 }
 
-TEST(ShapeTest, aContinuousCornerHasNoJumpOfCurvature) {
+TEST(ShapeTest, AContinuousCornerHasNoJumpOfCurvature) {
   const Shape shape = Shape::roundedRectangle({0, 0, 200, 200}, 20);
   const std::vector<Sample> all = samples(shape.path());
   ASSERT_FALSE(all.empty());
@@ -74,7 +74,7 @@ TEST(ShapeTest, aContinuousCornerHasNoJumpOfCurvature) {
   EXPECT_LT(strongest, 1.2 / 20.0);
 }
 
-RC_GTEST_PROP(ShapeTest, outlinesStayInsideTheirRectangle, ()) {
+RC_GTEST_PROP(ShapeTest, OutlinesStayInsideTheirRectangle, ()) {
   const Rect rect{double(*rc::gen::inRange(-50, 50)), double(*rc::gen::inRange(-50, 50)),
                   double(*rc::gen::inRange(1, 300)), double(*rc::gen::inRange(1, 300))};
   const double radius = *rc::gen::inRange(0, 200);
@@ -88,18 +88,18 @@ RC_GTEST_PROP(ShapeTest, outlinesStayInsideTheirRectangle, ()) {
   }
 }
 
-TEST(ShapeTest, insetKeepsCornersConcentric) {
+TEST(ShapeTest, InsetKeepsCornersConcentric) {
   const Shape inner = Shape::roundedRectangle({0, 0, 50, 50}, 12).inset(2);
   EXPECT_EQ(inner.rect, (Rect{2, 2, 46, 46}));
   EXPECT_EQ(inner.cornerRadius, 10);
   EXPECT_EQ(Shape::roundedRectangle({0, 0, 50, 50}, 1).inset(3).cornerRadius, 0);
 }
 
-TEST(ShapeTest, aCircleIsTheLargestInTheMiddle) {
+TEST(ShapeTest, ACircleIsTheLargestInTheMiddle) {
   EXPECT_EQ(Shape::circle({0, 0, 100, 40}).rect, (Rect{30, 0, 40, 40}));
 }
 
-TEST(ShapeTest, anEmptyRectangleHasNoOutline) {
+TEST(ShapeTest, AnEmptyRectangleHasNoOutline) {
   EXPECT_TRUE(Shape::capsule({5, 5, 0, 10}).path().elements().empty());
 }
 

@@ -26,21 +26,21 @@ std::vector<double> divided(std::optional<double> available, double spacing,
 
 constexpr double unlimited = std::numeric_limits<double>::infinity();
 
-TEST(StackLayoutTest, flexibleItemsShareEquallyWhatRigidOnesLeave) {
+TEST(StackLayoutTest, FlexibleItemsShareEquallyWhatRigidOnesLeave) {
   EXPECT_EQ(divided(100, 10, {{20, 20, 0}, {0, unlimited, 0}, {0, unlimited, 0}}),
             (std::vector<double>{20, 30, 30}));
 }
 
-TEST(StackLayoutTest, whatALimitedItemDoesNotTakeGoesToTheOthers) {
+TEST(StackLayoutTest, WhatALimitedItemDoesNotTakeGoesToTheOthers) {
   EXPECT_EQ(divided(90, 0, {{0, unlimited, 0}, {0, 10, 0}, {0, unlimited, 0}}),
             (std::vector<double>{40, 10, 40}));
 }
 
-TEST(StackLayoutTest, higherPrioritiesAreServedFirstAndLowerOnesKeepTheirLeast) {
+TEST(StackLayoutTest, HigherPrioritiesAreServedFirstAndLowerOnesKeepTheirLeast) {
   EXPECT_EQ(divided(100, 0, {{5, unlimited, 0}, {0, unlimited, 1}}), (std::vector<double>{5, 95}));
 }
 
-TEST(StackLayoutTest, equalItemsAreServedInTheirOrder) {
+TEST(StackLayoutTest, EqualItemsAreServedInTheirOrder) {
   std::vector<std::size_t> order;
   divideStack(30.0, 0, {{0, 10, 0}, {0, 10, 0}, {0, 10, 0}},
               [&](std::size_t index, std::optional<double>) {
@@ -50,13 +50,13 @@ TEST(StackLayoutTest, equalItemsAreServedInTheirOrder) {
   EXPECT_EQ(order, (std::vector<std::size_t>{0, 1, 2}));
 }
 
-TEST(StackLayoutTest, nothingDefiniteIsPassedOnAsItIs) {
+TEST(StackLayoutTest, NothingDefiniteIsPassedOnAsItIs) {
   const std::vector<StackItem> items{{3, unlimited, 0}, {4, 8, 0}};
   EXPECT_EQ(divided(std::nullopt, 5, items), (std::vector<double>{3, 4}));
   EXPECT_EQ(divided(unlimited, 5, items), (std::vector<double>{unlimited, 8}));
 }
 
-RC_GTEST_PROP(StackLayoutTest, lengthsAreNumbersAndFillExactlyWhenSomethingIsFlexible, ()) {
+RC_GTEST_PROP(StackLayoutTest, LengthsAreNumbersAndFillExactlyWhenSomethingIsFlexible, ()) {
   const auto count = static_cast<std::size_t>(*rc::gen::inRange(1, 7));
   std::vector<StackItem> items;
   double least = 0;

@@ -19,7 +19,7 @@ std::string broken(const std::string& text, double width, int limit = 0) {
   return result;
 }
 
-TEST(SyntheticTextMeasurerTest, aLineIsHalfItsSizePerCharacterWide) {
+TEST(SyntheticTextMeasurerTest, ALineIsHalfItsSizePerCharacterWide) {
   SyntheticTextMeasurer measurer;
   const TextLayout layout = measurer.layout("hello", Font::system(10), unlimited, 0);
   EXPECT_EQ(layout.size(), (Size{25, 10}));
@@ -27,7 +27,7 @@ TEST(SyntheticTextMeasurerTest, aLineIsHalfItsSizePerCharacterWide) {
   EXPECT_EQ(measurer.layout("固定", Font::system(10), unlimited, 0).size(), (Size{20, 10}));
 }
 
-TEST(SyntheticTextMeasurerTest, breaksBetweenWordsAtEveryWidth) {
+TEST(SyntheticTextMeasurerTest, BreaksBetweenWordsAtEveryWidth) {
   const std::string text = "aa bbb c";
   const std::vector<std::pair<double, std::string>> expected{
       {45, "aa bbb c|"},  {40, "aa bbb c|"},  {39, "aa bbb|c|"},   {30, "aa bbb|c|"},
@@ -38,17 +38,17 @@ TEST(SyntheticTextMeasurerTest, breaksBetweenWordsAtEveryWidth) {
   }
 }
 
-TEST(SyntheticTextMeasurerTest, chineseBreaksBetweenCharacters) {
+TEST(SyntheticTextMeasurerTest, ChineseBreaksBetweenCharacters) {
   EXPECT_EQ(broken("固定显示器", 25), "固定|显示|器|");
 }
 
-TEST(SyntheticTextMeasurerTest, aLimitCutsWithAnEllipsis) {
+TEST(SyntheticTextMeasurerTest, ALimitCutsWithAnEllipsis) {
   EXPECT_EQ(broken("hello", 25, 1), "hello|");
   EXPECT_EQ(broken("hello", 24, 1), "hel…|");
   EXPECT_EQ(broken("aa bbb c", 15, 2), "aa|bb…|");
 }
 
-TEST(SyntheticTextMeasurerTest, aLimitThatCutsBetweenParagraphsLeavesAnEllipsisToo) {
+TEST(SyntheticTextMeasurerTest, ALimitThatCutsBetweenParagraphsLeavesAnEllipsisToo) {
   EXPECT_EQ(broken("hello\nyou", unlimited, 1), "hello…|");
   EXPECT_EQ(broken("hello\nyou", 25, 1), "hell…|");
   EXPECT_EQ(broken("a\nb\nc", unlimited, 2), "a|b…|");
@@ -57,7 +57,7 @@ TEST(SyntheticTextMeasurerTest, aLimitThatCutsBetweenParagraphsLeavesAnEllipsisT
   EXPECT_EQ(broken("\nb", unlimited, 1), "…|");
 }
 
-TEST(SyntheticTextMeasurerTest, lineFeedsBreakAndEmptyTextHasOneLine) {
+TEST(SyntheticTextMeasurerTest, LineFeedsBreakAndEmptyTextHasOneLine) {
   EXPECT_EQ(broken("a\nb", unlimited), "a|b|");
   EXPECT_EQ(broken("", unlimited), "|");
 }

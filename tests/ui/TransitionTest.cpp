@@ -28,14 +28,14 @@ class TransitionTest : public testing::Test {
   bool isShown = true;
 };
 
-TEST_F(TransitionTest, theFirstPresentationComesWithoutOne) {
+TEST_F(TransitionTest, TheFirstPresentationComesWithoutOne) {
   showWith(Transition::opacity());
   EXPECT_FALSE(test.host->nextFrameWanted());
   EXPECT_FALSE(draws("layer"));
   EXPECT_TRUE(draws("text \"a\""));
 }
 
-TEST_F(TransitionTest, aViewFadesOutAndIsThenGone) {
+TEST_F(TransitionTest, AViewFadesOutAndIsThenGone) {
   showWith(Transition::opacity());
   setShown(false);
   test.at(0.25);
@@ -46,7 +46,7 @@ TEST_F(TransitionTest, aViewFadesOutAndIsThenGone) {
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
 
-TEST_F(TransitionTest, aViewFadesIn) {
+TEST_F(TransitionTest, AViewFadesIn) {
   isShown = false;
   showWith(Transition::opacity());
   setShown(true);
@@ -57,7 +57,7 @@ TEST_F(TransitionTest, aViewFadesIn) {
   EXPECT_FALSE(draws("layer"));
 }
 
-TEST_F(TransitionTest, aViewThatComesBackTurnsRoundWhereItIs) {
+TEST_F(TransitionTest, AViewThatComesBackTurnsRoundWhereItIs) {
   showWith(Transition::opacity());
   setShown(false);
   test.at(0.25);
@@ -70,7 +70,7 @@ TEST_F(TransitionTest, aViewThatComesBackTurnsRoundWhereItIs) {
   EXPECT_FALSE(draws("layer"));
 }
 
-TEST_F(TransitionTest, scaleAndMoveCombine) {
+TEST_F(TransitionTest, ScaleAndMoveCombine) {
   isShown = false;
   showWith(Transition::move(Edge::trailing).combined(Transition::scale(0.5)));
   setShown(true);
@@ -80,7 +80,7 @@ TEST_F(TransitionTest, scaleAndMoveCombine) {
   EXPECT_EQ(test.element("a")->frame, (Rect{47.5 + 2.5 - 1.875 + 2.5, 20 + 5 - 3.75, 3.75, 7.5}));
 }
 
-TEST_F(TransitionTest, withoutAnAnimationAViewComesAndGoesAtOnce) {
+TEST_F(TransitionTest, WithoutAnAnimationAViewComesAndGoesAtOnce) {
   test.show([&](const Environment&) -> View {
     return ZStack({when(isShown, Text("a").transition(Transition::opacity()))});
   });
@@ -89,7 +89,7 @@ TEST_F(TransitionTest, withoutAnAnimationAViewComesAndGoesAtOnce) {
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
 
-TEST_F(TransitionTest, aTransitionMayBringItsOwnCurve) {
+TEST_F(TransitionTest, ATransitionMayBringItsOwnCurve) {
   test.show([&](const Environment&) -> View {
     return ZStack(
         {when(isShown, Text("a").transition(Transition::opacity().animated(Curve::linear(2))))});
@@ -99,7 +99,7 @@ TEST_F(TransitionTest, aTransitionMayBringItsOwnCurve) {
   EXPECT_TRUE(draws("opacity 0.5"));
 }
 
-TEST_F(TransitionTest, withReducedMotionAViewIsThereOrGoneAtOnce) {
+TEST_F(TransitionTest, WithReducedMotionAViewIsThereOrGoneAtOnce) {
   Appearance appearance;
   appearance.reduceMotion = true;
   test.host->setAppearance(appearance);
@@ -124,7 +124,7 @@ class FadeThroughTest : public TransitionTest {
   }
 };
 
-TEST_F(FadeThroughTest, theOldViewIsGoneBeforeTheNewOneComes) {
+TEST_F(FadeThroughTest, TheOldViewIsGoneBeforeTheNewOneComes) {
   showTexts(Curve::linear(1));
   setShown(false);
   test.at(0.125);
@@ -142,7 +142,7 @@ TEST_F(FadeThroughTest, theOldViewIsGoneBeforeTheNewOneComes) {
   EXPECT_TRUE(draws("text \"off\""));
 }
 
-TEST_F(FadeThroughTest, viewsThatTurnRoundAnywhereAreNeverSeenAtOnce) {
+TEST_F(FadeThroughTest, ViewsThatTurnRoundAnywhereAreNeverSeenAtOnce) {
   for (const Curve& curve : {Curve::linear(1), Curve::easeInOut(1), Curve::spring(0.5, 0.6)}) {
     for (double moment = 0.05; moment < 1; moment += 0.05) {
       isShown = true;
@@ -161,7 +161,7 @@ TEST_F(FadeThroughTest, viewsThatTurnRoundAnywhereAreNeverSeenAtOnce) {
   }
 }
 
-TEST_F(FadeThroughTest, combinesWithAMovement) {
+TEST_F(FadeThroughTest, CombinesWithAMovement) {
   isShown = false;
   showWith(Transition::move(Edge::trailing).combined(Transition::fadeThrough()));
   setShown(true);
@@ -172,7 +172,7 @@ TEST_F(FadeThroughTest, combinesWithAMovement) {
   EXPECT_EQ(test.element("a")->frame.x, 47.5 + 5 * 0.25);
 }
 
-TEST_F(TransitionTest, withoutACurveAChangeIsThereAtOnceInsideAnAnimation) {
+TEST_F(TransitionTest, WithoutACurveAChangeIsThereAtOnceInsideAnAnimation) {
   test.show([this](const Environment&) -> View {
     const View text = Text("a").font(Font::system(10)).padding(Edge::leading, isShown ? 0 : 40);
     return ZStack({text.animation(std::nullopt, isShown)})
@@ -184,7 +184,7 @@ TEST_F(TransitionTest, withoutACurveAChangeIsThereAtOnceInsideAnAnimation) {
   EXPECT_EQ(test.element("a")->frame.x, 40);
 }
 
-TEST_F(TransitionTest, aLeavingLayerStaysWhereItWas) {
+TEST_F(TransitionTest, ALeavingLayerStaysWhereItWas) {
   test.show([&](const Environment&) -> View {
     const View badge = Text("a").font(Font::system(10)).transition(Transition::opacity());
     return Spacer()
@@ -196,7 +196,7 @@ TEST_F(TransitionTest, aLeavingLayerStaysWhereItWas) {
   EXPECT_TRUE(draws("at 95 8")) << test.drawing();
 }
 
-TEST_F(TransitionTest, aLeavingButtonTakesNoClick) {
+TEST_F(TransitionTest, ALeavingButtonTakesNoClick) {
   int clicks = 0;
   test.show([&](const Environment&) -> View {
     return ZStack({when(isShown, Button("a", [&] { ++clicks; }).transition(Transition::opacity()))})

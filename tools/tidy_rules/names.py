@@ -23,9 +23,11 @@ _FUNCTION = re.compile(r"^(?!(?:class|struct|union|enum|using|namespace|typedef|
                        r"[\w\[][^;{}()=]*\b\w+\(", re.MULTILINE)
 _TEST = re.compile(r"^\s*(?:TYPED_)?TEST(?:_[FP])?\(|^\s*RC_GTEST_(?:FIXTURE_)?PROP\(", re.MULTILINE)
 
+_LOWER_TEST = re.compile(r"(?:\bTEST(?:_[FP])?|_PROP)\(\s*\w+,\s*[a-z]")
+
 
 def check(project):
-    """X.hpp declares X and is guarded; X.cpp belongs to a header; tests live in XTest.cpp."""
+    """X.hpp declares X and is guarded; X.cpp belongs to a header; tests live in XTest.cpp, UpperCamel."""
     for file in project.cpp:
         if str(file) in EXCEPTIONS:
             continue
@@ -64,6 +66,9 @@ def _check_test(file):
         yield file, 1, f"holds tests, so its name is {file.path.stem}Test.cpp"
     if file.path.stem.endswith("Test") and not has_tests:
         yield file, 1, "is named a test and holds none"
+    for match in _LOWER_TEST.finditer(file.code()):
+        line = file.code().count("\n", 0, match.start()) + 1
+        yield file, line, "a test's name begins with a capital letter"
 
 
 def _check_source(project, file):
