@@ -55,7 +55,7 @@ void TapWatch::resumeGuard() {
 }
 
 void TapWatch::reviveTap() {
-  model_.guardService().reviveTap();
+  model_.reviveGuard();
   if (model_.guardService().isTapRefused()) {
     giveUp();
   }

@@ -53,6 +53,12 @@ void DockMouseGuard::start(const std::string& targetDisplayID, OrvaneModifier mo
   announceRunning();
 }
 
+bool DockMouseGuard::isSetTo(const std::string& targetDisplayID, OrvaneModifier modifier,
+                             bool blocksAllDisplays) const {
+  return lockedDisplayIdentifier_ == targetDisplayID && overrideModifier_ == modifier &&
+         blocksAllDisplays_ == blocksAllDisplays;
+}
+
 GuardSnapshot DockMouseGuard::snapshot() const {
   return {.isRunning = isRunning(),
           .isObservingScreens = screenObserver_.has_value(),

@@ -60,6 +60,10 @@ class DockMouseGuard {
   [[nodiscard]] CFMachPortRef eventTap() const { return eventTap_.get(); }
   /// Whether there are zones to guard but the system refused the last tap.
   [[nodiscard]] bool isTapRefused() const { return !eventTap_ && !cachedTriggerZones_.empty(); }
+  /// Whether these are the settings of the last successful start. A start without the permission
+  /// leaves a running guard with the settings that it had.
+  [[nodiscard]] bool isSetTo(const std::string& targetDisplayID, OrvaneModifier modifier,
+                             bool blocksAllDisplays) const;
   [[nodiscard]] GuardSnapshot snapshot() const;
 
   /// The attached displays in the system's order.

@@ -122,6 +122,9 @@ class OrvaneModel {
   /// Starts the guard if the user wants it on and it is not running. A guard whose target is not
   /// attached waits for it.
   void resumeGuard();
+  /// To be called periodically while the guard runs and the permission is granted. Restarts a guard
+  /// that missed a change of the settings while the permission was away; else revives its tap.
+  void reviveGuard();
   /// Whether the guard could not be restored at launch because the permission was missing; false
   /// again once it starts.
   [[nodiscard]] bool isRestoreBlocked() const { return isRestoreBlocked_; }

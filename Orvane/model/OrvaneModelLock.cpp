@@ -165,6 +165,15 @@ void OrvaneModel::resumeGuard() {
   }
 }
 
+void OrvaneModel::reviveGuard() {
+  if (guardService_.isSetTo(selectedDisplayID_.value().value_or(""),
+                            temporaryUnlockModifier_.value(), hidesDockOnAllDisplays_.value())) {
+    guardService_.reviveTap();
+  } else {
+    startGuard();
+  }
+}
+
 void OrvaneModel::restoreLockIfNeeded() {
   if (!OrvaneSettings::isOrvaneEnabled()) {
     return;

@@ -221,8 +221,12 @@ Safety::Check Safety::checkGuard(const Moment& before, const Moment& after) {
   if (!after.stored.wants) {
     return Violation{"guard", "it runs and nobody wants it", "guard.running false"};
   }
-  // Without the permission a start changes nothing, and the tap is about to go.
+  // A start without the permission changes nothing; the next look at the permission, within a
+  // second, ends the guard or restarts it with the settings of now.
   if (!after.isTrusted || !before.isTrusted) {
+    untrustedAt_ = after.now;
+  }
+  if (untrustedAt_ && after.now - *untrustedAt_ <= Clock::nanosecondsPerSecond) {
     return std::nullopt;
   }
   const GuardSnapshot& guard = after.snapshot.guard;

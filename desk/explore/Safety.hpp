@@ -69,6 +69,8 @@ class Safety {
   const ApplicationHost& application_;
   FilterWatch filter_;
   std::map<std::string, std::int64_t> wrongSince_;
+  /// When the guard last ran without the permission, in nanoseconds.
+  std::optional<std::int64_t> untrustedAt_;
   /// Texts that are in no language of ours: names of displays, messages of the system.
   std::set<std::string> names_;
   /// The languages in which the application may speak at the moment.
