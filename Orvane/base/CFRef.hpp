@@ -5,10 +5,7 @@
 #include <utility>
 
 // Declared as in Core Foundation's headers, so that this header needs none of them.
-extern "C" {
-const void* CFRetain(const void* object);
-void CFRelease(const void* object);
-}
+extern "C" void CFRelease(const void* object);
 
 namespace orvane {
 
@@ -21,14 +18,6 @@ class CFRef {
 
   /// Takes over the caller's reference, as returned by a Create or Copy function.
   [[nodiscard]] static CFRef owning(Ref created) { return CFRef(created); }
-
-  /// Retains an object that the caller does not own.
-  [[nodiscard]] static CFRef retaining(Ref borrowed) {
-    if (borrowed != nullptr) {
-      CFRetain(borrowed);
-    }
-    return CFRef(borrowed);
-  }
 
   CFRef(const CFRef&) = delete;
   CFRef& operator=(const CFRef&) = delete;

@@ -26,7 +26,6 @@ using CFAllocatorRef = const struct __CFAllocator*;
 using CFPropertyListRef = CFTypeRef;
 constexpr CFAllocatorRef kCFAllocatorDefault = nullptr;
 
-CFTypeRef CFRetain(CFTypeRef object);
 void CFRelease(CFTypeRef object);
 CFTypeID CFGetTypeID(CFTypeRef object);
 

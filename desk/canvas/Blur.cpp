@@ -306,43 +306,4 @@ void blurSurface(cairo_surface_t* surface, double sigma, BlurEdge edge) {
   cairo_surface_mark_dirty(surface);
 }
 
-void blurRegion(cairo_surface_t* surface, const cairo_rectangle_int_t& region, double sigma) {
-  cairo_surface_flush(surface);
-  const int pixelBytes = pixelBytesOf(surface);
-  if (pixelBytes == 0 || !(sigma > 0.0)) {
-    return;
-  }
-  const int width = cairo_image_surface_get_width(surface);
-  const int height = cairo_image_surface_get_height(surface);
-  const int left = std::clamp(region.x, 0, width);
-  const int top = std::clamp(region.y, 0, height);
-  const int right = std::clamp(region.x + region.width, left, width);
-  const int bottom = std::clamp(region.y + region.height, top, height);
-  if (left == right || top == bottom) {
-    return;
-  }
-  // As far as a pixel outside of the region can be felt inside it.
-  const int margin = blurReach(sigma);
-  const int copyLeft = std::max(0, left - margin);
-  const int copyTop = std::max(0, top - margin);
-  const int copyWidth = std::min(width, right + margin) - copyLeft;
-  const int copyHeight = std::min(height, bottom + margin) - copyTop;
-  const std::ptrdiff_t stride = cairo_image_surface_get_stride(surface);
-  std::uint8_t* data = cairo_image_surface_get_data(surface);
-  const std::ptrdiff_t copyStride = static_cast<std::ptrdiff_t>(copyWidth) * pixelBytes;
-  std::vector<std::uint8_t> copy(static_cast<std::size_t>(copyStride) *
-                                 static_cast<std::size_t>(copyHeight));
-  for (int y = 0; y < copyHeight; ++y) {
-    std::copy_n(data + (copyTop + y) * stride + copyLeft * pixelBytes, copyStride,
-                copy.data() + y * copyStride);
-  }
-  blurPixels({copy.data(), copyStride, copyWidth, copyHeight, pixelBytes}, sigma,
-             BlurEdge::extended);
-  for (int y = top; y < bottom; ++y) {
-    std::copy_n(copy.data() + (y - copyTop) * copyStride + (left - copyLeft) * pixelBytes,
-                (right - left) * pixelBytes, data + y * stride + left * pixelBytes);
-  }
-  cairo_surface_mark_dirty(surface);
-}
-
 }  // namespace orvane::desk

@@ -16,9 +16,4 @@ int blurReach(double sigma);
 /// value that is not above zero, or a surface of another format, leaves the picture as it is.
 void blurSurface(cairo_surface_t* surface, double sigma, BlurEdge edge);
 
-/// Blurs the part of an ARGB32 or A8 image surface that the pixel rectangle covers, as glass does
-/// with what lies behind it. Pixels outside the rectangle stay as they are, but those near it
-/// take part in the blur. A rectangle that leaves the surface is cut to it.
-void blurRegion(cairo_surface_t* surface, const cairo_rectangle_int_t& region, double sigma);
-
 }  // namespace orvane::desk

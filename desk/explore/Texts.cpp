@@ -102,24 +102,26 @@ bool isIn(Tongue tongue, std::string text, const std::set<std::string>& names) {
 }
 
 const Words& wordsOf(Tongue tongue) {
-  static constexpr Words english{"Pin Dock",
-                                 "Unpin Dock",
-                                 "Prevent Dock Pop-Up",
-                                 "Allow Dock Pop-Up",
-                                 "Pinned",
-                                 "Not Pinned",
-                                 "Enabled",
-                                 "Off",
-                                 "Not Now",
-                                 "Follow System",
-                                 "English",
-                                 "Chinese",
-                                 "Locked",
-                                 "Unlocked"};
-  static constexpr Words chinese{"固定 Dock", "解除固定 Dock", "防止 Dock 弹出", "允许 Dock 弹出",
-                                 "已固定",    "未固定",        "已启用",         "未启用",
-                                 "取消",      "跟随系统",      "English",        "中文",
-                                 "已锁定",    "未锁定"};
+  static constexpr Words english{.pin = "Pin Dock",
+                                 .unpin = "Unpin Dock",
+                                 .prevent = "Prevent Dock Pop-Up",
+                                 .allow = "Allow Dock Pop-Up",
+                                 .notNow = "Not Now",
+                                 .followSystem = "Follow System",
+                                 .english = "English",
+                                 .chinese = "Chinese",
+                                 .locked = "Locked",
+                                 .unlocked = "Unlocked"};
+  static constexpr Words chinese{.pin = "固定 Dock",
+                                 .unpin = "解除固定 Dock",
+                                 .prevent = "防止 Dock 弹出",
+                                 .allow = "允许 Dock 弹出",
+                                 .notNow = "取消",
+                                 .followSystem = "跟随系统",
+                                 .english = "English",
+                                 .chinese = "中文",
+                                 .locked = "已锁定",
+                                 .unlocked = "未锁定"};
   return tongue == Tongue::english ? english : chinese;
 }
 

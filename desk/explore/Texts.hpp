@@ -24,10 +24,6 @@ struct Words {
   const char* unpin;
   const char* prevent;
   const char* allow;
-  const char* pinned;
-  const char* notPinned;
-  const char* enabled;
-  const char* off;
   const char* notNow;
   const char* followSystem;
   const char* english;

@@ -4,11 +4,6 @@
 
 using orvane::desk::Machine;
 
-CFTypeRef CFRetain(CFTypeRef object) {
-  Machine::current().objects.retain(object, "CFRetain");
-  return object;
-}
-
 void CFRelease(CFTypeRef object) {
   // An object that outlives its machine was reported as leaked when the machine ended.
   if (Machine* const machine = Machine::currentOrNull()) {

@@ -78,7 +78,6 @@ class MenuTracker {
 
  private:
   void open(Menu menu);
-  void show(const std::shared_ptr<HostedView>& view);
   void moveHighlight(bool isDown);
   /// The next item, after the present one, whose title begins with these characters.
   void selectByTyping(const std::string& characters);

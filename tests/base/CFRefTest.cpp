@@ -74,20 +74,5 @@ TEST_F(CFRefTest, MovingOntoItselfKeepsTheObject) {
   EXPECT_EQ(liveCount(), 1U);
 }
 
-TEST_F(CFRefTest, RetainingAddsAReferenceOfItsOwn) {
-  Text owner = made("a");
-  {
-    const Text borrower = Text::retaining(owner.get());
-    EXPECT_EQ(machine.objects.referenceCount(owner.get()), 2);
-    owner.reset();
-    EXPECT_EQ(textOf(borrower.get()), "a");
-  }
-  EXPECT_EQ(liveCount(), 0U);
-}
-
-TEST_F(CFRefTest, RetainingNullIsEmpty) {
-  EXPECT_FALSE(Text::retaining(nullptr));
-}
-
 }  // namespace
 }  // namespace orvane

@@ -134,30 +134,5 @@ RC_GTEST_PROP(BlurProperty, TheAmountOfInkIsKeptAndSidesStayEqual, ()) {
   }
 }
 
-class BlurRegionTest : public PixelFixture {};
-
-TEST_F(BlurRegionTest, OnlyTheRegionChangesAndItSeesWhatLiesAround) {
-  begin(60, 60).fill(ui::Shape::rectangle({0, 0, 30, 60}), ui::Paint::solid(black));
-  canvas->fill(ui::Shape::rectangle({30, 0, 30, 60}), ui::Paint::solid(red));
-  blurRegion(surface.get(), {20, 20, 15, 20}, 4);
-  EXPECT_EQ(at(29, 19), fullBlack);
-  EXPECT_EQ(at(19, 30), fullBlack);
-  EXPECT_EQ(at(35, 30), fullRed);
-  EXPECT_EQ(at(30, 40), fullRed);
-  EXPECT_NEAR(at(29, 30).red + at(30, 30).red, 255, 3);
-  EXPECT_EQ(at(30, 30).alpha, 255);
-  // Next to the region's edge, five pixels from the boundary, a blur that saw only the region
-  // would not be symmetric about the boundary.
-  EXPECT_NEAR(at(34, 30).red, 255 - at(25, 30).red, 3);
-}
-
-TEST_F(BlurRegionTest, ARegionThatLeavesTheSurfaceIsCutToIt) {
-  begin(20, 20).fill(ui::Shape::rectangle({0, 0, 20, 20}), ui::Paint::solid(red));
-  blurRegion(surface.get(), {-10, -10, 60, 60}, 3);
-  blurRegion(surface.get(), {30, 30, 10, 10}, 3);
-  EXPECT_EQ(at(0, 0), fullRed);
-  EXPECT_EQ(at(19, 19), fullRed);
-}
-
 }  // namespace
 }  // namespace orvane::desk

@@ -120,7 +120,7 @@ TEST_F(DockMouseGuardTapTest, AStartBeforeTheCleanUpOfAShutOffKeepsItsTap) {
   startPreventing();
   machine.runLoop.holdMainQueue();
   block(180);
-  ASSERT_FALSE(CGEventTapIsEnabled(guard->eventTap()));
+  ASSERT_FALSE(machine.eventTaps.isAnyEnabled());
   guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
   machine.runLoop.releaseMainQueue();
   machine.runDue();
@@ -133,7 +133,7 @@ TEST_F(DockMouseGuardTapTest, ANoticeFromTheSystemDoesNotEnableATapThatIsShutOff
   machine.runLoop.holdMainQueue();
   block(180);
   guard->eventTapCallback(kCGEventTapDisabledByUserInput, nullptr);
-  EXPECT_FALSE(CGEventTapIsEnabled(guard->eventTap()));
+  EXPECT_FALSE(machine.eventTaps.isAnyEnabled());
   machine.runLoop.releaseMainQueue();
   machine.runDue();
   expectWaiting();
@@ -144,7 +144,7 @@ TEST_F(DockMouseGuardTapTest, AChangeOfTheDisplaysBeforeTheCleanUpOfAShutOffEnds
   machine.runLoop.holdMainQueue();
   block(180);
   desk::attach(machine, desk::displayOf(3, "Third", {{3840, 0}, {1000, 1000}}));
-  EXPECT_TRUE(CGEventTapIsEnabled(guard->eventTap()));
+  EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
   block();
   machine.runLoop.releaseMainQueue();
   machine.runDue();

@@ -25,7 +25,7 @@ TEST(MachineScopeTest, ReportsLeakedObjects) {
   MachineScope scope;
   const CFStringRef text =
       CFStringCreateWithCString(kCFAllocatorDefault, "left behind", kCFStringEncodingUTF8);
-  CFRetain(text);
+  Machine::current().objects.retain(text, "test");
   const MachineEnd end = scope.end();
   EXPECT_FALSE(end.isClean());
   ASSERT_EQ(end.leftObjects.size(), 1U);

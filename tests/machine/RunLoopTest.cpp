@@ -164,16 +164,6 @@ TEST_F(RunLoopTest, HoldsNestAndOneReleaseTooManyDoesNothing) {
   EXPECT_FALSE(runLoop.isMainQueueHeld());
 }
 
-TEST_F(RunLoopTest, KnowsWhetherATaskOfTheMainQueueRuns) {
-  std::vector<bool> serving;
-  const auto timer = runLoop.addTimer(second, RunLoop::commonModes,
-                                      [&] { serving.push_back(runLoop.isServingMainQueue()); });
-  runLoop.async([&] { serving.push_back(runLoop.isServingMainQueue()); });
-  runLoop.advance(second);
-  EXPECT_EQ(serving, (std::vector<bool>{true, false}));
-  EXPECT_FALSE(runLoop.isServingMainQueue());
-}
-
 TEST_F(RunLoopTest, AnInvalidatedTimerStopsAndReleasesItsCallback) {
   auto held = std::make_shared<int>(0);
   const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [held] { ++*held; });

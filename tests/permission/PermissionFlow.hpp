@@ -11,6 +11,7 @@
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "desk/settings/SystemSettings.hpp"
 #include "tests/support/HandFixture.hpp"
+#include "tests/support/SemanticsText.hpp"
 #include "tests/support/TestDisplays.hpp"
 
 namespace orvane {
@@ -51,7 +52,7 @@ class PermissionFlow : public desk::HandFixture {
   }
   /// The semantics tree as text, one element per line.
   std::string elements(const std::string& surface) {
-    return isOpen(surface) ? ui::describeSemantics(tree(surface)) : "";
+    return isOpen(surface) ? ui::semanticsText(tree(surface)) : "";
   }
   /// The recorded drawing calls, one per line.
   std::string drawing(const std::string& surface) {

@@ -17,7 +17,7 @@ Curve anyCurve() {
     case 1:
       return Curve::easeOut(seconds);
     case 2:
-      return Curve::easeIn(seconds);
+      return Curve::linear(seconds);
     default:
       return Curve::spring(seconds, *rc::gen::inRange(20, 200) / 100.0);
   }

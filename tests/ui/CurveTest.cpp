@@ -99,15 +99,13 @@ TEST(CurveTest, EaseInOutIsSymmetricAndStartsAtRest) {
 TEST(CurveTest, EaseOutMatchesItsBezierAtAKnownParameter) {
   // At the parameter 1/2: x = 3/8 * 0.58 + 1/8 = 0.3425, y = 3/8 + 1/8 + ... = 0.5.
   EXPECT_NEAR(Curve::easeOut(1).remainder(1, std::nullopt, 0.3425).distance, 0.5, 1e-9);
-  // Mirrored, easeIn is at the parameter 1/2 when x = 3/8 * 0.42 + 3/8 + 1/8.
-  EXPECT_NEAR(Curve::easeIn(1).remainder(1, std::nullopt, 0.6575).distance, 0.5, 1e-9);
 }
 
 TEST(CurveTest, VelocityIsTheSlopeOfTheDistance) {
   constexpr double step = 1e-6;
   for (const Curve& curve :
-       {Curve::linear(1), Curve::easeIn(1), Curve::easeOut(1), Curve::easeInOut(1),
-        Curve::spring(0.5, 0.6), Curve::spring(0.5, 1), Curve::spring(0.5, 1.5)}) {
+       {Curve::linear(1), Curve::easeOut(1), Curve::easeInOut(1), Curve::spring(0.5, 0.6),
+        Curve::spring(0.5, 1), Curve::spring(0.5, 1.5)}) {
     for (const double time : {0.1, 0.33, 0.6}) {
       for (const std::optional<double> velocity : {std::optional<double>(), std::optional(25.0)}) {
         const double before = curve.remainder(10, velocity, time - step).distance;

@@ -16,9 +16,9 @@ struct Counter {
 
   View body(const Environment& environment) const {
     const State<int> count = environment.state<int>("count", 0);
-    return Text(name + std::to_string(*count)).font(Font::system(10)).onTap([count] {
-      count.set(*count + 1);
-    });
+    return Button([count] { count.set(*count + 1); },
+                  Text(name + std::to_string(*count)).font(Font::system(10)))
+        .style(BareButtonStyle{});
   }
 };
 

@@ -24,6 +24,10 @@ class PointerTest : public testing::Test {
   View button(const std::string& title) {
     return Button(title, [this, title] { log += title; }).style(MarkingStyle{});
   }
+  // As large as its title.
+  View bareButton(const std::string& title) {
+    return Button(title, [this, title] { log += title; }).style(BareButtonStyle{});
+  }
   bool showsPress() { return test.drawing().find("\"!\"") != std::string::npos; }
   void update() {
     test.host->invalidate();
@@ -211,15 +215,14 @@ TEST_F(PointerTest, AHoverOrAppearanceHandlerMayDestroyItsHost) {
 
 TEST_F(PointerTest, ScrollingStopsAtBothEnds) {
   test.host->setSize({30, 10});
-  test.show(ScrollView(HStack(0, {Text("aaaaaa").onTap([this] { log += "a"; }),
-                                  Text("bbbbbb").onTap([this] { log += "b"; })}))
-                .font(Font::system(10)));
+  test.show(
+      ScrollView(HStack(0, {bareButton("aaaaaa"), bareButton("bbbbbb")})).font(Font::system(10)));
   EXPECT_EQ(test.element("aaaaaa")->frame.x, 0);
   EXPECT_FALSE(test.host->scroll({5, 5}, -4, 0));
   EXPECT_TRUE(test.host->scroll({5, 5}, 20, 0));
   EXPECT_EQ(test.element("aaaaaa")->frame.x, -20);
   test.click({15, 5});
-  EXPECT_EQ(log, "b") << "hits follow the offset";
+  EXPECT_EQ(log, "bbbbbb") << "hits follow the offset";
   EXPECT_TRUE(test.host->scroll({5, 5}, 0, 100)) << "a wheel that turns only one way";
   EXPECT_EQ(test.element("aaaaaa")->frame.x, -30);
   EXPECT_FALSE(test.host->scroll({5, 5}, 1, 0));
@@ -228,7 +231,7 @@ TEST_F(PointerTest, ScrollingStopsAtBothEnds) {
 
 TEST_F(PointerTest, WhatIsScrolledOutOfSightCannotBeHit) {
   test.host->setSize({60, 10});
-  test.show(ScrollView(HStack(0, {Text("aaaaaa"), Text("bbbbbb").onTap([this] { log += "b"; })}))
+  test.show(ScrollView(HStack(0, {Text("aaaaaa"), bareButton("bbbbbb")}))
                 .frame(30, 10, Alignment::leading())
                 .font(Font::system(10)));
   // The scroll view covers 15 to 45; the second text begins there.

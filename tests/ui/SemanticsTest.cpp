@@ -9,6 +9,7 @@
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
+#include "tests/support/SemanticsText.hpp"
 #include "tests/ui/TestHost.hpp"
 
 namespace orvane::ui {
@@ -17,7 +18,7 @@ namespace {
 std::string described(const View& view) {
   TestHost test;
   test.show(view);
-  return describeSemantics(test.host->semantics());
+  return semanticsText(test.host->semantics());
 }
 
 TEST(SemanticsTest, TextsAndButtonsAreElementsAndDecorationIsNot) {
@@ -44,11 +45,6 @@ TEST(SemanticsTest, ModifiersCompleteWhatAViewSays) {
       "    text \"a\"\n"
       "    text \"b\"\n"
       "  button \"Pin\" = \"on\" disabled\n");
-}
-
-TEST(SemanticsTest, ATapMakesAButton) {
-  EXPECT_EQ(described(HStack({Text("Row"), Text("on")}).onTap([] {})),
-            "group\n  button \"Row, on\"\n");
 }
 
 TEST(SemanticsTest, AScrollAreaHoldsItsContent) {

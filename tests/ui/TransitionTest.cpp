@@ -89,21 +89,11 @@ TEST_F(TransitionTest, WithoutAnAnimationAViewComesAndGoesAtOnce) {
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
 
-TEST_F(TransitionTest, ATransitionMayBringItsOwnCurve) {
-  test.show([&](const Environment&) -> View {
-    return ZStack(
-        {when(isShown, Text("a").transition(Transition::opacity().animated(Curve::linear(2))))});
-  });
-  setShown(false);
-  test.at(1);
-  EXPECT_TRUE(draws("opacity 0.5"));
-}
-
 TEST_F(TransitionTest, WithReducedMotionAViewIsThereOrGoneAtOnce) {
   Appearance appearance;
   appearance.reduceMotion = true;
   test.host->setAppearance(appearance);
-  showWith(Transition::opacity().animated(Curve::linear(2)));
+  showWith(Transition::opacity());
   setShown(false);
   EXPECT_FALSE(draws("text \"a\""));
   setShown(true);

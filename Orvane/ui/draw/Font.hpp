@@ -32,11 +32,9 @@ struct Font {
   static constexpr Font body() { return {13, Weight::regular}; }
   static constexpr Font callout() { return {12, Weight::regular}; }
   static constexpr Font subheadline() { return {11, Weight::regular}; }
-  static constexpr Font footnote() { return {10, Weight::regular}; }
   static constexpr Font caption() { return {10, Weight::regular}; }
 
-  constexpr Font weighing(Weight other) const { return {size, other, tracking}; }
-  constexpr Font bold() const { return weighing(Weight::bold); }
+  constexpr Font bold() const { return {size, Weight::bold, tracking}; }
 
   friend bool operator==(const Font&, const Font&) = default;
 };

@@ -156,13 +156,8 @@ void Builder::enter(Node& node, bool isMade) {
     if (isMade) {
       moved->presence.jump(0);
     }
-    moved->presence.set(1, transitionCurve(*moved), settings_.now);
+    moved->presence.set(1, curve_, settings_.now);
   }
-}
-
-std::optional<Curve> Builder::transitionCurve(const Node& moved) const {
-  const std::optional<Curve>& own = moved.element->transition()->curve;
-  return own ? own : curve_;
 }
 
 void Builder::remove(Node& parent, std::unique_ptr<Node> node) {
@@ -173,13 +168,11 @@ void Builder::remove(Node& parent, std::unique_ptr<Node> node) {
     }
     gone.isPressed = false;
   });
-  if (Node* moved = transitionNode(*node)) {
-    const std::optional<Curve> curve = transitionCurve(*moved);
-    if (curve) {
-      moved->presence.set(0, curve, settings_.now);
-      parent.leaving.push_back(std::move(node));
-      return;
-    }
+  Node* const moved = transitionNode(*node);
+  if (moved != nullptr && curve_) {
+    moved->presence.set(0, curve_, settings_.now);
+    parent.leaving.push_back(std::move(node));
+    return;
   }
   removedInk_.push_back(node->inkWithDescendants);
 }

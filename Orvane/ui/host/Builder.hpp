@@ -85,7 +85,6 @@ class Builder {
   void update(Node& node, const View& view, const std::shared_ptr<const Environment>& environment);
   void updateAttributes(Node& node);
   void enter(Node& node, bool isMade);
-  std::optional<Curve> transitionCurve(const Node& moved) const;
   void remove(Node& parent, std::unique_ptr<Node> node);
 
   Settings settings_;

@@ -15,7 +15,6 @@ struct UnitPoint {
   static constexpr UnitPoint leading() { return {0, 0.5}; }
   static constexpr UnitPoint center() { return {0.5, 0.5}; }
   static constexpr UnitPoint trailing() { return {1, 0.5}; }
-  static constexpr UnitPoint bottomLeading() { return {0, 1}; }
   static constexpr UnitPoint bottom() { return {0.5, 1}; }
   static constexpr UnitPoint bottomTrailing() { return {1, 1}; }
 

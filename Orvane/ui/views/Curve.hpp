@@ -18,7 +18,6 @@ class Curve {
   };
 
   static Curve linear(double seconds) { return bezier(seconds, 0, 0, 1, 1); }
-  static Curve easeIn(double seconds) { return bezier(seconds, 0.42, 0, 1, 1); }
   static Curve easeOut(double seconds) { return bezier(seconds, 0, 0, 0.58, 1); }
   static Curve easeInOut(double seconds) { return bezier(seconds, 0.42, 0, 0.58, 1); }
   // A mass of 1 on a spring of stiffness (2 pi / response)^2 with damping

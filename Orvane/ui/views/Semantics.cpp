@@ -1,28 +1,7 @@
-// The semantics tree as text.
+// The names of the roles.
 #include "Orvane/ui/views/Semantics.hpp"
 
 namespace orvane::ui {
-
-namespace {
-
-void describe(const SemanticsNode& node, std::size_t depth, std::string& text) {
-  text += std::string(depth * 2, ' ') + roleName(node.role);
-  if (!node.label.empty()) {
-    text += " \"" + node.label + "\"";
-  }
-  if (!node.value.empty()) {
-    text += " = \"" + node.value + "\"";
-  }
-  text += node.isSelected ? " selected" : "";
-  text += node.isEnabled ? "" : " disabled";
-  text += node.isFocused ? " focused" : "";
-  text += "\n";
-  for (const SemanticsNode& child : node.children) {
-    describe(child, depth + 1, text);
-  }
-}
-
-}  // namespace
 
 const char* roleName(Role role) {
   switch (role) {
@@ -48,12 +27,6 @@ const char* roleName(Role role) {
       return "scroll area";
   }
   return "";
-}
-
-std::string describeSemantics(const SemanticsNode& root) {
-  std::string text;
-  describe(root, 0, text);
-  return text;
 }
 
 }  // namespace orvane::ui

@@ -58,7 +58,4 @@ struct SemanticsChange {
 // A role's name in words, such as "button".
 const char* roleName(Role role);
 
-// The tree as text, one element per line, indented by depth: role, label in quotes, value, states.
-std::string describeSemantics(const SemanticsNode& root);
-
 }  // namespace orvane::ui

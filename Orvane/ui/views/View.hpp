@@ -68,7 +68,6 @@ class View {
   View height(double height, Alignment alignment = Alignment::center()) const;
   // Grows to the proposed width, at most to the maximum.
   View maximumWidth(double maximum = infinity, Alignment alignment = Alignment::center()) const;
-  View maximumHeight(double maximum = infinity, Alignment alignment = Alignment::center()) const;
   // Takes its ideal size in these directions, whatever is proposed: a text wraps and is never cut.
   View fixedSize(bool horizontal = true, bool vertical = true) const;
   View fixedSizeVertical() const { return fixedSize(false, true); }
@@ -104,13 +103,10 @@ class View {
   View environment(std::function<void(Environment&)> change) const;
 
   // Input. Handlers may destroy the view, and even its host.
-  View onTap(std::function<void()> action) const;
   // Told when the pointer comes (true) and goes (false); disabled views hear of it too.
   View onHover(std::function<void(bool isInside)> handler) const;
   View tooltip(std::string text) const;
   View keyboardShortcut(KeyboardShortcut shortcut) const;
-  // Reached by Tab; Space runs the action.
-  View focusable(std::function<void()> action, ShapeForm ring = ShapeForm::rounded(6)) const;
   View dragSource(std::function<std::optional<DragItem>()> item) const;
   // Without hit testing the pointer passes through the view and everything in it.
   View hitTesting(bool isAllowed) const;

@@ -1,5 +1,4 @@
 // The modifiers that give a view behaviour.
-#include "Orvane/ui/views/ControlSemantics.hpp"
 #include "Orvane/ui/views/WrapperElement.hpp"
 
 namespace orvane::ui {
@@ -13,32 +12,11 @@ class InteractionElement final : public WrapperElement {
 
   const Interaction* interaction() const override { return &interaction_; }
 
-  std::vector<SemanticsNode> semantics(const Node& node,
-                                       std::vector<SemanticsNode> children) const override {
-    if (!interaction_.activate) {
-      return children;
-    }
-    return {controlSemantics(node, Role::button, interaction_, children)};
-  }
-
  private:
   Interaction interaction_;
 };
 
-std::function<void(const Activation&)> withoutActivation(std::function<void()> action) {
-  if (!action) {
-    return nullptr;
-  }
-  return [action = std::move(action)](const Activation&) { action(); };
-}
-
 }  // namespace
-
-View View::onTap(std::function<void()> action) const {
-  Interaction interaction;
-  interaction.activate = withoutActivation(std::move(action));
-  return modified<InteractionElement>(*this, std::move(interaction));
-}
 
 View View::onHover(std::function<void(bool isInside)> handler) const {
   Interaction interaction;
@@ -49,14 +27,6 @@ View View::onHover(std::function<void(bool isInside)> handler) const {
 View View::tooltip(std::string text) const {
   Interaction interaction;
   interaction.tooltip = std::move(text);
-  return modified<InteractionElement>(*this, std::move(interaction));
-}
-
-View View::focusable(std::function<void()> action, ShapeForm ring) const {
-  Interaction interaction;
-  interaction.activate = withoutActivation(std::move(action));
-  interaction.isFocusable = true;
-  interaction.focusShape = ring;
   return modified<InteractionElement>(*this, std::move(interaction));
 }
 

@@ -205,7 +205,7 @@ View View::padding(const Edges& edges) const {
 }
 
 View View::frame(double width, double height, Alignment alignment) const {
-  return frame({width, height, {}, {}, {}, {}, alignment});
+  return frame({.width = width, .height = height, .alignment = alignment});
 }
 
 View View::frame(const FrameBounds& bounds) const {
@@ -213,19 +213,15 @@ View View::frame(const FrameBounds& bounds) const {
 }
 
 View View::width(double width, Alignment alignment) const {
-  return frame({width, {}, {}, {}, {}, {}, alignment});
+  return frame({.width = width, .alignment = alignment});
 }
 
 View View::height(double height, Alignment alignment) const {
-  return frame({{}, height, {}, {}, {}, {}, alignment});
+  return frame({.height = height, .alignment = alignment});
 }
 
 View View::maximumWidth(double maximum, Alignment alignment) const {
-  return frame({{}, {}, {}, maximum, {}, {}, alignment});
-}
-
-View View::maximumHeight(double maximum, Alignment alignment) const {
-  return frame({{}, {}, {}, {}, {}, maximum, alignment});
+  return frame({.maximumWidth = maximum, .alignment = alignment});
 }
 
 View View::fixedSize(bool horizontal, bool vertical) const {

@@ -43,10 +43,6 @@ const CFStringRef kCFPreferencesCurrentHost = CFSTR("currentHost");
 const CFRunLoopMode kCFRunLoopCommonModes = (CFRunLoopMode)NSRunLoopCommonModes;
 
 // Core Foundation does not accept null here, either.
-CFTypeRef CFRetain(CFTypeRef object) {
-  NSCAssert(object != nullptr, @"nothing to retain");
-  return [(id)object retain];
-}
 void CFRelease(CFTypeRef object) {
   NSCAssert(object != nullptr, @"nothing to release");
   [(id)object release];
