@@ -25,11 +25,11 @@ constexpr int misusedStatus = 2;
 script::Problem writePicture(const script::Session& session,
                              const script::PictureRequest& request) {
   if (request.surface) {
-    return orvane::desk::writeSurfacePicture(session.machine(), session.application(),
-                                             *request.surface, request.file, request.scale);
+    return orvane::showroom::writeSurfacePicture(session.machine(), session.application(),
+                                                 *request.surface, request.file, request.scale);
   }
-  return orvane::desk::writeDesktopPicture(session.machine(), session.application(), request.file,
-                                           request.scale);
+  return orvane::showroom::writeDesktopPicture(session.machine(), session.application(),
+                                               request.file, request.scale);
 }
 
 int runScripts(const std::vector<std::string>& files) {
@@ -46,7 +46,7 @@ int main(int argumentCount, char** arguments) {  // NOLINT(bugprone-exception-es
   CLI::App program(
       "Orvane on a simulated Mac with several displays; without a command, in a window.",
       "orvane-desk");
-  orvane::desk::WindowOptions window;
+  orvane::showroom::WindowOptions window;
   std::string dumpFile;
   program.add_option("--displays", window.displayCount, "How many displays the window begins with")
       ->check(CLI::Range(1, 4));
@@ -95,10 +95,10 @@ int main(int argumentCount, char** arguments) {  // NOLINT(bugprone-exception-es
     return runScripts(files);
   }
   if (tour->parsed()) {
-    return orvane::desk::runTour(folder);
+    return orvane::showroom::runTour(folder);
   }
   if (gallery->parsed()) {
-    return orvane::desk::runGallery(galleryFolder);
+    return orvane::showroom::runGallery(galleryFolder);
   }
   if (explorer->parsed()) {
     return orvane::desk::runExplore(explore, std::cout, std::cerr);
@@ -106,5 +106,5 @@ int main(int argumentCount, char** arguments) {  // NOLINT(bugprone-exception-es
   if (dump->count() > 0) {
     window.dumpFile = dumpFile;
   }
-  return orvane::desk::runWindow(window);
+  return orvane::showroom::runWindow(window);
 }
