@@ -57,7 +57,7 @@ class MainPanel : public Subject {
  public:
   MainPanel() {
     for (int display = 0; display < 3; ++display) {
-      desk::attachNextStandardDisplay(scope_.machine());
+      showroom::attachNextStandardDisplay(scope_.machine());
     }
     scope_.machine().process.start();
     model_ = std::make_unique<OrvaneModel>();

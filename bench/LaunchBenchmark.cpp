@@ -39,7 +39,7 @@ void launchToFirstFrame(benchmark::State& state) {
     state.PauseTiming();
     std::optional<desk::MachineScope> scope(std::in_place);
     for (int display = 0; display < 3; ++display) {
-      desk::attachNextStandardDisplay(scope->machine());
+      showroom::attachNextStandardDisplay(scope->machine());
     }
     desk::ApplicationHost application(scope->machine());
     state.ResumeTiming();

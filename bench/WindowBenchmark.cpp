@@ -18,14 +18,14 @@ constexpr int height = 800;
 constexpr std::int64_t frameNanoseconds = desk::Clock::nanosecondsPerSecond / 60;
 
 void windowFrame(benchmark::State& state) {
-  desk::DeskSession session(3);
+  showroom::DeskSession session(3);
   session.application().reopen();
   session.advance(2 * desk::Clock::nanosecondsPerSecond);
-  desk::HardwarePanelHost panel(session.hardware());
-  desk::WindowPicture picture(panel);
+  showroom::HardwarePanelHost panel(session.hardware());
+  showroom::WindowPicture picture(panel);
   const desk::SurfacePointer surface(
       cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-  const desk::WindowLayout layout(width, height, 1);
+  const showroom::WindowLayout layout(width, height, 1);
   desk::WindowServer& server = desk::WindowServer::current();
   const auto window = desk::Surfaces(server).window("main");
   const CGPoint corner = server.topLeftOf(*window);

@@ -1,48 +1,48 @@
-// The course of a day.
+// Random lines, then the liveness check.
 #include "desk/explore/Day.hpp"
 
-#include "desk/explore/Habits.hpp"
-#include "desk/explore/Lots.hpp"
+#include "desk/explore/ActionGenerator.hpp"
+#include "desk/explore/Random.hpp"
 
 namespace orvane::desk::explore {
 
-Day liveDay(std::uint64_t seed, std::int64_t steps) {
-  Lots lots(seed);
-  Habits habits(lots);
+Day simulateDay(std::uint64_t seed, std::int64_t steps) {
+  Random random{seed};
+  ActionGenerator actions(random);
   Day day;
   day.seed = seed;
-  day.lastWish = lots.chance(500) ? LastWish::pin : LastWish::prevent;
-  Trial trial;
-  trial.takeAll(habits.beginning());
-  while (!trial.violation() && static_cast<std::int64_t>(trial.lines().size()) < steps) {
-    trial.takeAll(habits.next(trial.machine(), trial.application()));
+  day.finalMode = random.chance(500) ? FinalMode::pin : FinalMode::prevent;
+  CheckedSession session;
+  session.runAll(actions.beginning());
+  while (!session.violation() && static_cast<std::int64_t>(session.lines().size()) < steps) {
+    session.runAll(actions.next(session.machine(), session.application()));
   }
-  day.lines = trial.lines();
-  bringToGoodEnd(trial, day.lastWish);
-  trial.end();
-  day.stepCount = static_cast<std::int64_t>(trial.lines().size());
-  day.eventCount = trial.eventCount();
-  day.faultCounts = habits.faultCounts();
-  day.rarePaths = trial.rarePaths();
-  day.fingerprint = trial.fingerprint().value();
-  day.violation = trial.violation();
-  if (day.violation && day.violation->promise != liveness) {
-    day.lines = trial.lines();
+  day.lines = session.lines();
+  checkLiveness(session, day.finalMode);
+  session.end();
+  day.stepCount = static_cast<std::int64_t>(session.lines().size());
+  day.eventCount = session.eventCount();
+  day.faultCounts = actions.faultCounts();
+  day.rarePaths = session.rarePaths();
+  day.fingerprint = session.fingerprint().value();
+  day.violation = session.violation();
+  if (day.violation && day.violation->invariant != liveness) {
+    day.lines = session.lines();
   }
   return day;
 }
 
-std::optional<Violation> repeatDay(const Day& day, const Lines& lines, Lines* all) {
-  Trial trial;
-  trial.takeAll(lines);
-  if (day.violation && day.violation->promise == liveness) {
-    bringToGoodEnd(trial, day.lastWish);
+std::optional<Violation> replayDay(const Day& day, const Lines& lines, Lines* all) {
+  CheckedSession session;
+  session.runAll(lines);
+  if (day.violation && day.violation->invariant == liveness) {
+    checkLiveness(session, day.finalMode);
   }
-  trial.end();
+  session.end();
   if (all != nullptr) {
-    *all = trial.lines();
+    *all = session.lines();
   }
-  return trial.violation();
+  return session.violation();
 }
 
 }  // namespace orvane::desk::explore

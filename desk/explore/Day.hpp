@@ -1,5 +1,5 @@
-// Day is one day of the application on a simulated Mac: habits and faults by the lots of one seed,
-// and at its end the proof that all can be well again.
+// Day is one random run of the application on a simulated Mac: actions and faults that one seed
+// determines, and a liveness check at its end.
 #pragma once
 
 #include <cstddef>
@@ -9,42 +9,42 @@
 #include <string>
 #include <vector>
 
+#include "desk/explore/CheckedSession.hpp"
 #include "desk/explore/Lines.hpp"
 #include "desk/explore/RarePaths.hpp"
-#include "desk/explore/Trial.hpp"
 
 namespace orvane::desk::explore {
 
-/// The promise that is proved at the end of a day.
+/// The invariant that is checked at the end of a day.
 constexpr const char* liveness = "liveness";
 
-/// What the user wants when everything is well again.
-enum class LastWish { pin, prevent };
+/// The lock that the user switches on at the end of a day.
+enum class FinalMode { pin, prevent };
 
 struct Day {
   std::uint64_t seed = 0;
-  LastWish lastWish = LastWish::pin;
-  /// The lines that were carried out. Those of the end are among them when it is not what fails.
+  FinalMode finalMode = FinalMode::pin;
+  /// The lines that ran; without those of the liveness check if that is what failed.
   Lines lines;
   std::int64_t stepCount = 0;
   std::int64_t eventCount = 0;
-  /// By kind, in the order of Habits::faultNames.
+  /// In the order of ActionGenerator::faultNames().
   std::vector<std::int64_t> faultCounts;
   RarePaths rarePaths;
   std::uint64_t fingerprint = 0;
   std::optional<Violation> violation;
 };
 
-/// A day of at least `steps` lines.
-[[nodiscard]] Day liveDay(std::uint64_t seed, std::int64_t steps);
+/// Runs at least `steps` random lines, then the liveness check.
+[[nodiscard]] Day simulateDay(std::uint64_t seed, std::int64_t steps);
 
-/// A day of these lines, with the same end where it is what failed. `all` is given every line,
-/// those of the end too.
-[[nodiscard]] std::optional<Violation> repeatDay(const Day& day, const Lines& lines,
+/// Runs these lines, and the liveness check if that is what failed. `all` receives every line that
+/// ran.
+[[nodiscard]] std::optional<Violation> replayDay(const Day& day, const Lines& lines,
                                                  Lines* all = nullptr);
 
-/// The faults stop, the permission is granted, displays are attached, and the user presses once
-/// what they want: then the guard must run, and hold.
-void bringToGoodEnd(Trial& trial, LastWish lastWish);
+/// Ends all faults, grants the permission, arranges at least two displays and presses one switch.
+/// The guard must then run and keep the Dock from the forbidden edges.
+void checkLiveness(CheckedSession& session, FinalMode finalMode);
 
 }  // namespace orvane::desk::explore

@@ -1,9 +1,9 @@
-// The filter against its promise, event by event.
+// Compares each event before and after the taps.
 #include "desk/explore/FilterWatch.hpp"
 
 #include <algorithm>
 
-#include "desk/explore/Moment.hpp"
+#include "desk/explore/Observation.hpp"
 
 namespace orvane::desk::explore {
 
@@ -19,21 +19,21 @@ bool isSame(CGPoint first, CGPoint second) {
 
 }  // namespace
 
-void FilterWatch::noteSituation() {
-  Situation present = Situation::of(machine_);
-  if (std::ranges::find(situations_, present) == situations_.end()) {
-    situations_.push_back(std::move(present));
+void FilterWatch::addConfiguration() {
+  DisplayConfiguration present = DisplayConfiguration::of(machine_);
+  if (std::ranges::find(configurations_, present) == configurations_.end()) {
+    configurations_.push_back(std::move(present));
   }
 }
 
-void FilterWatch::forgetSituations() {
-  situations_ = {Situation::of(machine_)};
+void FilterWatch::resetConfigurations() {
+  configurations_ = {DisplayConfiguration::of(machine_)};
 }
 
 void FilterWatch::willDeliver(const __CGEvent& event) {
   const bool isRunning = application_.isRunning() && application_.model().isGuardRunning();
   const Stored stored = Stored::of(machine_.userDefaults);
-  wish_ = stored.wish();
+  goal_ = stored.goal();
   isGuarded_ = isRunning && event.type == kCGEventMouseMoved && machine_.eventTaps.isAnyEnabled();
   const std::uint64_t mask = stored.unlockMask();
   isUnlocked_ = (static_cast<std::uint64_t>(event.flags) & mask) == mask;
@@ -47,31 +47,32 @@ void FilterWatch::didDeliver(const __CGEvent& before, const __CGEvent& after, bo
   ++events_;
   step_.hasMovedBack = step_.hasMovedBack || !isSame(before.location, after.location);
   if (!step_.violation) {
-    if (auto text = complaint(before, after, isKept)) {
+    if (auto text = problem(before, after, isKept)) {
       step_.violation = Violation{"filter", std::move(*text)};
     }
   }
 }
 
-std::optional<std::string> FilterWatch::complaint(const __CGEvent& before, const __CGEvent& after,
-                                                  bool isKept) const {
+std::optional<std::string> FilterWatch::problem(const __CGEvent& before, const __CGEvent& after,
+                                                bool isKept) const {
   if (!isKept) {
     return "an event was dropped at " + textOf(before.location);
   }
   if (after.type != before.type || after.flags != before.flags) {
-    return "more than the place of an event was changed";
+    return "an event was changed in more than its location";
   }
   if (!isGuarded_ || isUnlocked_) {
     return isSame(before.location, after.location)
                ? std::nullopt
-               : std::optional("an event that is free was moved from " + textOf(before.location));
+               : std::optional("an event that must pass was moved from " + textOf(before.location));
   }
-  const bool isRight = std::ranges::any_of(situations_, [&](const Situation& situation) {
-    return isSame(situation.guarded(before.location, wish_), after.location);
-  });
-  return isRight ? std::nullopt
-                 : std::optional("an event at " + textOf(before.location) + " came out at " +
-                                 textOf(after.location));
+  const bool isExpected =
+      std::ranges::any_of(configurations_, [&](const DisplayConfiguration& configuration) {
+        return isSame(configuration.filtered(before.location, goal_), after.location);
+      });
+  return isExpected ? std::nullopt
+                    : std::optional("an event at " + textOf(before.location) + " was moved to " +
+                                    textOf(after.location));
 }
 
 }  // namespace orvane::desk::explore

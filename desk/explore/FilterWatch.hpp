@@ -1,5 +1,4 @@
-// FilterWatch sees every event on its way through the taps, and says whether the guard's filter may
-// do with it what it does.
+// FilterWatch checks for every event that the guard's filter changes it only as it should.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +7,7 @@
 #include <vector>
 
 #include "desk/application/ApplicationHost.hpp"
-#include "desk/explore/Situation.hpp"
+#include "desk/explore/DisplayConfiguration.hpp"
 #include "desk/explore/Violation.hpp"
 #include "desk/machine/EventWitness.hpp"
 
@@ -22,17 +21,19 @@ class FilterWatch : public EventWitness {
   void willDeliver(const __CGEvent& event) override;
   void didDeliver(const __CGEvent& before, const __CGEvent& after, bool isKept) override;
 
-  /// The guard may know the displays and the Dock as they are now.
-  void noteSituation();
-  /// The process has just been told of the displays: it knows no other situation from now on.
-  void forgetSituations();
-  [[nodiscard]] const std::vector<Situation>& situations() const { return situations_; }
+  /// The guard may act on the present displays and Dock, or still on earlier ones.
+  void addConfiguration();
+  /// The application has just been notified: only the present configuration counts.
+  void resetConfigurations();
+  [[nodiscard]] const std::vector<DisplayConfiguration>& configurations() const {
+    return configurations_;
+  }
 
-  /// What was seen since the last beginning of a step.
+  /// What happened since beginStep().
   struct Step {
-    /// A movement passed that the guard let pass on purpose, or did not see.
+    /// A movement passed because the guard is unlocked or had no enabled tap.
     bool hasFreeMovement = false;
-    /// An event met the guard's tap after it was disabled.
+    /// An event arrived while the guard's tap was disabled.
     bool hasMetDisabledTap = false;
     bool hasMovedBack = false;
     bool hasUnlockedMovement = false;
@@ -43,15 +44,15 @@ class FilterWatch : public EventWitness {
   [[nodiscard]] std::int64_t eventCount() const { return events_; }
 
  private:
-  [[nodiscard]] std::optional<std::string> complaint(const __CGEvent& before,
-                                                     const __CGEvent& after, bool isKept) const;
+  [[nodiscard]] std::optional<std::string> problem(const __CGEvent& before, const __CGEvent& after,
+                                                   bool isKept) const;
 
   Machine& machine_;
   const ApplicationHost& application_;
-  std::vector<Situation> situations_;
+  std::vector<DisplayConfiguration> configurations_;
   bool isGuarded_ = false;
   bool isUnlocked_ = false;
-  Wish wish_;
+  GuardGoal goal_;
   Step step_;
   std::int64_t events_ = 0;
 };

@@ -1,4 +1,4 @@
-// Fingerprint is one number for everything that was added to it, in its order.
+// Fingerprint is a hash of the values that were added to it, in their order.
 #pragma once
 
 #include <bit>
@@ -27,7 +27,7 @@ class Fingerprint {
   [[nodiscard]] std::uint64_t value() const { return hash_; }
 
  private:
-  /// FNV-1a of 64 bits, by its authors' constants.
+  /// FNV-1a, 64 bits, with the constants of its authors.
   void addByte(unsigned char byte) { hash_ = (hash_ ^ byte) * 0x100000001B3ULL; }
 
   std::uint64_t hash_ = 0xCBF29CE484222325ULL;

@@ -1,4 +1,4 @@
-// Lines of the script language, written from numbers and texts.
+// Formats lines of the script language.
 #include "desk/explore/Lines.hpp"
 
 #include <algorithm>

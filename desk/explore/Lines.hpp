@@ -1,4 +1,4 @@
-// Lines of the script language, written from numbers and texts.
+// Formats lines of the script language.
 #pragma once
 
 #include <cstdint>
@@ -12,15 +12,15 @@ namespace orvane::desk::explore {
 
 using Lines = std::vector<std::string>;
 
-/// In double quotes, as the language reads it.
+/// In double quotes, with escapes.
 [[nodiscard]] std::string quoted(std::string_view text);
-/// A number of thousandths in decimal.
+/// Thousandths as a decimal number.
 [[nodiscard]] std::string decimal(std::int64_t thousandths);
-/// The nearest number of thousandths, in decimal.
+/// Rounded to thousandths.
 [[nodiscard]] std::string decimal(double number);
 
-/// A line that operates the control at `index` of those of a surface by its label: `command` is
-/// "press" or "hover".
+/// A line that names the control at `index` of a surface by its label; `command` is "press" or
+/// "hover".
 [[nodiscard]] std::string controlLine(std::string_view command, const std::string& surface,
                                       const std::vector<SurfaceControl>& controls,
                                       std::size_t index);

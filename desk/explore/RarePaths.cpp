@@ -1,4 +1,4 @@
-// Each rare state by what shows it.
+// The rare states, each with a predicate on a step.
 #include "desk/explore/RarePaths.hpp"
 
 #include <algorithm>
@@ -26,12 +26,12 @@ bool isGranted(const Step& step) {
   return !step.before.isTrusted && step.after.isTrusted;
 }
 
-bool beginsRunning(const Step& step) {
+bool starts(const Step& step) {
   return step.before.isLaunched && step.after.isLaunched && !step.before.isGuardRunning &&
          step.after.isGuardRunning;
 }
 
-/// The guard goes on, without a tap: it follows the displays.
+/// The guard removes its tap but still observes the displays.
 bool pauses(const Step& step) {
   return step.before.isGuardRunning && !step.after.isGuardRunning && step.after.isGuardWaiting;
 }
@@ -44,16 +44,16 @@ bool isEnd(const Step& step) {
   return step.before.isLaunched && !step.after.isLaunched;
 }
 
-bool begins(const Step& step, std::string_view words) {
-  return std::string_view(step.line).starts_with(words);
+bool startsWith(const Step& step, std::string_view prefix) {
+  return std::string_view(step.line).starts_with(prefix);
 }
 
 bool changesDisplays(const Step& step) {
-  return begins(step, "display ");
+  return startsWith(step, "display ");
 }
 
-bool isGuideIn(const Moment& moment, PermissionGuideState state) {
-  return moment.isGuideOpen && moment.guideState == state;
+bool isGuideIn(const Observation& observation, PermissionGuideState state) {
+  return observation.isGuideOpen && observation.guideState == state;
 }
 
 constexpr Path paths[]{
@@ -64,11 +64,11 @@ constexpr Path paths[]{
        return step.before.isUnlocked && step.before.isGuardRunning && step.after.isLaunched &&
               !step.after.isGuardRunning && !step.after.isGuardWaiting;
      }},
-    {"the permission goes while unlocked",
+    {"the permission is revoked while unlocked",
      [](const Step& step) { return isRevoked(step) && step.before.isUnlocked; }},
-    {"an event between shut-off and clean-up",
+    {"an event arrives between shut-off and clean-up",
      [](const Step& step) { return step.filter.hasMetDisabledTap && step.filter.hasMovedBack; }},
-    {"a shut-off that the alert keeps waiting",
+    {"a shut-off waits for the alert to close",
      [](const Step& step) {
        return step.after.isGuardRunning && !step.after.isTapEnabled && step.after.isQueueHeld &&
               step.after.tapCount > 0;
@@ -77,68 +77,68 @@ constexpr Path paths[]{
      [](const Step& step) {
        return pauses(step) && step.after.blockedCount >= step.before.blockedCount + 100;
      }},
-    {"the guard is back after a shut-off, by the displays",
-     [](const Step& step) { return beginsRunning(step) && changesDisplays(step); }},
+    {"a change of displays restarts the guard after a shut-off",
+     [](const Step& step) { return starts(step) && changesDisplays(step); }},
     {"the system disables the tap too often",
-     [](const Step& step) { return pauses(step) && begins(step, "tap disabled"); }},
-    {"a tap that died without a word is enabled again",
+     [](const Step& step) { return pauses(step) && startsWith(step, "tap disabled"); }},
+    {"a silently disabled tap is enabled again",
      [](const Step& step) {
        return step.before.isGuardRunning && step.before.tapCount > 0 && !step.before.isTapEnabled &&
-              step.after.isGuardRunning && step.after.isTapEnabled && begins(step, "advance");
+              step.after.isGuardRunning && step.after.isTapEnabled && startsWith(step, "advance");
      }},
     {"the tap is refused",
      [](const Step& step) {
        return step.machine.eventTaps.refusesCreation() && step.after.isDoubted;
      }},
-    {"its source is refused",
+    {"the source of the tap is refused",
      [](const Step& step) {
        return step.machine.runLoop.refusesSources() && step.after.isDoubted;
      }},
-    {"a doubted permission is believed again",
+    {"a doubted permission is trusted again",
      [](const Step& step) {
        return step.before.isDoubted && step.after.isLaunched && !step.after.isDoubted;
      }},
-    {"the permission comes inside the alert",
+    {"the permission is granted during the alert",
      [](const Step& step) { return isGranted(step) && step.after.isModal; }},
-    {"the permission goes inside the alert",
+    {"the permission is revoked during the alert",
      [](const Step& step) { return isRevoked(step) && step.after.isModal; }},
-    {"the permission comes while the guide polls",
+    {"the permission is granted while the guide polls",
      [](const Step& step) { return isGranted(step) && step.before.isGuidePolling; }},
-    {"the permission comes after the time-out",
+    {"the permission is granted after the time-out",
      [](const Step& step) {
        return isGuideIn(step.before, PermissionGuideState::timeout) &&
               isGuideIn(step.after, PermissionGuideState::success);
      }},
-    {"the permission goes after the guide's success",
+    {"the permission is revoked after the guide's success",
      [](const Step& step) {
        return isRevoked(step) && isGuideIn(step.before, PermissionGuideState::success);
      }},
-    {"the permission comes with the menu open",
+    {"the permission is granted with the menu open",
      [](const Step& step) { return isGranted(step) && step.before.isStatusMenuOpen; }},
-    {"the permission goes with the menu open and the guard running",
+    {"the permission is revoked with the menu open and the guard running",
      [](const Step& step) {
        return isRevoked(step) && step.before.isStatusMenuOpen && step.before.isGuardRunning;
      }},
-    {"the guard starts under the guide",
-     [](const Step& step) { return beginsRunning(step) && step.after.isGuideOpen; }},
-    {"the guard starts by itself when the permission is back",
-     [](const Step& step) { return beginsRunning(step) && isGranted(step); }},
-    {"the target goes while pinned",
+    {"the guard starts while the guide is open",
+     [](const Step& step) { return starts(step) && step.after.isGuideOpen; }},
+    {"the guard restarts when the permission is granted again",
+     [](const Step& step) { return starts(step) && isGranted(step); }},
+    {"the target is detached while pinned",
      [](const Step& step) {
        return pauses(step) && changesDisplays(step) && step.after.displayCount > 0 &&
               !step.after.stored.prevents;
      }},
-    {"the last display goes while the guard runs",
+    {"the last display is detached while the guard runs",
      [](const Step& step) {
        return step.before.isGuardRunning && step.before.displayCount > 0 &&
               step.after.displayCount == 0;
      }},
-    {"the target has another number and is guarded on",
+    {"the guard keeps running when a display is renumbered",
      [](const Step& step) {
-       return begins(step, "display renumber") && step.before.isGuardRunning &&
+       return startsWith(step, "display renumber") && step.before.isGuardRunning &&
               step.after.isGuardRunning;
      }},
-    {"an event meets displays that the guard does not know",
+    {"an event arrives before the guard is notified of changed displays",
      [](const Step& step) {
        return step.isStale && step.before.isTapEnabled && step.filter.hasMovedBack;
      }},
@@ -150,21 +150,21 @@ constexpr Path paths[]{
      [](const Step& step) { return isLaunch(step) && step.after.isGuardRunning; }},
     {"the restore waits for the permission",
      [](const Step& step) { return isLaunch(step) && step.after.isRestoreBlocked; }},
-    {"the restore that waited comes true",
-     [](const Step& step) { return step.before.isRestoreBlocked && beginsRunning(step); }},
+    {"a waiting restore succeeds",
+     [](const Step& step) { return step.before.isRestoreBlocked && starts(step); }},
     {"a crash while the guard runs",
      [](const Step& step) {
-       return isEnd(step) && begins(step, "crash") && step.before.isGuardRunning;
+       return isEnd(step) && startsWith(step, "crash") && step.before.isGuardRunning;
      }},
-    {"an end inside the alert",
+    {"the application ends during the alert",
      [](const Step& step) { return isEnd(step) && step.before.isModal; }},
-    {"an end with the menu open",
+    {"the application ends with the menu open",
      [](const Step& step) { return isEnd(step) && step.before.isStatusMenuOpen; }},
-    {"the user quits by the menu",
-     [](const Step& step) { return isEnd(step) && begins(step, "press"); }},
-    {"the user quits by the keyboard",
-     [](const Step& step) { return isEnd(step) && begins(step, "key"); }},
-    {"a minimised window is brought back",
+    {"the user quits with the menu",
+     [](const Step& step) { return isEnd(step) && startsWith(step, "press"); }},
+    {"the user quits with the keyboard",
+     [](const Step& step) { return isEnd(step) && startsWith(step, "key"); }},
+    {"a minimised window is restored",
      [](const Step& step) {
        return step.before.isMainMinimised && step.after.isLaunched && !step.after.isMainMinimised &&
               step.after.shows("main");
@@ -174,12 +174,12 @@ constexpr Path paths[]{
        return step.before.shows("main") && step.before.shows("settings") && step.after.isLaunched &&
               !step.after.shows("main") && !step.after.shows("settings");
      }},
-    {"the language changes under an open guide",
+    {"the language changes while the guide is open",
      [](const Step& step) {
        return step.before.isGuideOpen && step.after.isGuideOpen &&
               step.before.stored.language != step.after.stored.language;
      }},
-    {"the alert comes while the menu is open",
+    {"the alert opens while the menu is open",
      [](const Step& step) {
        return step.before.isStatusMenuOpen && !step.before.isModal && step.after.isModal;
      }},
@@ -197,18 +197,19 @@ constexpr Path paths[]{
        return step.after.isLaunched &&
               step.application.model().launchAtLoginRequiresApproval().value();
      }},
-    {"the Dock's edge is none that the guard knows",
+    {"the Dock's edge is invalid",
      [](const Step& step) {
        return step.after.isLaunched && step.after.status == OrvaneStatus::needsCheck;
      }},
     {"the Dock moves while the guard runs",
      [](const Step& step) {
-       return begins(step, "dock edge") && step.before.isGuardRunning && step.after.isGuardRunning;
+       return startsWith(step, "dock edge") && step.before.isGuardRunning &&
+              step.after.isGuardRunning;
      }},
     {"the request to prevent overtakes the request to pin",
      [](const Step& step) {
        return step.before.isGuideOpen && !step.before.stored.prevents &&
-              step.after.stored.prevents && beginsRunning(step);
+              step.after.stored.prevents && starts(step);
      }},
 };
 

@@ -1,5 +1,4 @@
-// RarePaths names the states that are worth reaching, and counts how often each was reached. They
-// are recognised from outside.
+// RarePaths counts how often rare states were reached, which shows what the random days cover.
 #pragma once
 
 #include <array>
@@ -8,19 +7,19 @@
 #include <vector>
 
 #include "desk/explore/FilterWatch.hpp"
-#include "desk/explore/Moment.hpp"
+#include "desk/explore/Observation.hpp"
 
 namespace orvane::desk::explore {
 
 class RarePaths {
  public:
-  /// One line of a script, and what was before and after it.
+  /// One script line with the observations before and after it.
   struct Step {
     const std::string& line;
-    const Moment& before;
-    const Moment& after;
+    const Observation& before;
+    const Observation& after;
     const FilterWatch::Step& filter;
-    /// The displays have changed, or the Dock, and the application may not have been told.
+    /// See InvariantChecker::isStale().
     bool isStale;
     const Machine& machine;
     const ApplicationHost& application;
@@ -32,7 +31,7 @@ class RarePaths {
   void add(const RarePaths& other);
 
   [[nodiscard]] static std::vector<std::string> names();
-  /// In the order of the names.
+  /// In the order of names().
   [[nodiscard]] const std::vector<std::int64_t>& counts() const { return counts_; }
 
  private:

@@ -1,4 +1,4 @@
-// Lives the days, adds up what they saw, and says what went wrong and how to see it again.
+// Runs the days, sums up their counts, and reports a violation with the command that repeats it.
 #include "desk/explore/RunExplore.hpp"
 
 #include <algorithm>
@@ -7,36 +7,33 @@
 #include <cstddef>
 #include <cstdio>
 #include <fstream>
+#include <iomanip>
 #include <optional>
 
 #include <unistd.h>
 
 #include "desk/canvas/PinnedFonts.hpp"
+#include "desk/explore/ActionGenerator.hpp"
 #include "desk/explore/Day.hpp"
-#include "desk/explore/Habits.hpp"
 #include "desk/explore/Shrink.hpp"
 
-namespace orvane::desk {
+namespace orvane::desk::explore {
 
 namespace {
 
-using explore::Day;
-using explore::Lines;
-using explore::Violation;
-
-constexpr int heldStatus = 0;
-constexpr int brokenStatus = 1;
+constexpr int successStatus = 0;
+constexpr int violationStatus = 1;
 constexpr int unreadableStatus = 2;
 
-/// What the handler of a failed requirement says last; a plain buffer, as a handler may read it.
-std::array<char, 256> lastWords{};
+/// The command that repeats the running day, printed if it aborts. A signal handler reads it.
+std::array<char, 256> abortMessage{};
 
-void sayLastWords(int /*signal*/) {
+void writeAbortMessage(int /*signal*/) {
   std::size_t length = 0;
-  while (length < lastWords.size() && lastWords[length] != '\0') {
+  while (length < abortMessage.size() && abortMessage[length] != '\0') {
     ++length;
   }
-  static_cast<void>(!write(STDERR_FILENO, lastWords.data(), length));
+  static_cast<void>(!write(STDERR_FILENO, abortMessage.data(), length));
 }
 
 std::string commandFor(const Day& day, const ExploreOptions& options) {
@@ -44,20 +41,14 @@ std::string commandFor(const Day& day, const ExploreOptions& options) {
          std::to_string(options.steps);
 }
 
-std::string hexadecimal(std::uint64_t number) {
-  std::array<char, 17> text{};
-  std::snprintf(text.data(), text.size(), "%016llx", static_cast<unsigned long long>(number));
-  return text.data();
-}
-
-struct Sums {
+struct Totals {
   std::int64_t days = 0;
   std::int64_t steps = 0;
   std::int64_t events = 0;
   std::vector<std::int64_t> faults =
-      std::vector<std::int64_t>(explore::Habits::faultNames().size());
-  explore::RarePaths rarePaths;
-  explore::Fingerprint fingerprint;
+      std::vector<std::int64_t>(ActionGenerator::faultNames().size());
+  RarePaths rarePaths;
+  Fingerprint fingerprint;
 
   void add(const Day& day) {
     ++days;
@@ -71,27 +62,28 @@ struct Sums {
   }
 };
 
-void report(const Sums& sums, std::ostream& output) {
+void report(const Totals& totals, std::ostream& output) {
   std::int64_t faults = 0;
-  const std::vector<std::string> kinds = explore::Habits::faultNames();
+  const std::vector<std::string> kinds = ActionGenerator::faultNames();
   for (std::size_t index = 0; index < kinds.size(); ++index) {
-    output << kinds[index] << ": " << sums.faults[index] << '\n';
-    faults += sums.faults[index];
+    output << kinds[index] << ": " << totals.faults[index] << '\n';
+    faults += totals.faults[index];
   }
-  const std::vector<std::string> paths = explore::RarePaths::names();
+  const std::vector<std::string> paths = RarePaths::names();
   for (std::size_t index = 0; index < paths.size(); ++index) {
-    const std::int64_t count = sums.rarePaths.counts()[index];
+    const std::int64_t count = totals.rarePaths.counts()[index];
     output << (count == 0 ? "never reached: " : "reached " + std::to_string(count) + " times: ")
            << paths[index] << '\n';
   }
-  output << sums.days << " days, " << sums.steps << " steps, " << sums.events << " events, "
-         << faults << " faults, fingerprint " << hexadecimal(sums.fingerprint.value()) << std::endl;
+  output << totals.days << " days, " << totals.steps << " steps, " << totals.events << " events, "
+         << faults << " faults, fingerprint " << std::hex << std::setw(16) << std::setfill('0')
+         << totals.fingerprint.value() << std::dec << std::endl;
 }
 
 void writeScript(std::ostream& script, const Day& day, const Violation& violation,
                  const Lines& lines) {
-  script << "# " << violation.promise << ": " << violation.text << "\n# Found by seed " << day.seed
-         << ".\n";
+  script << "# " << violation.invariant << ": " << violation.text << "\n# Found by seed "
+         << day.seed << ".\n";
   for (const std::string& line : lines) {
     script << line << '\n';
   }
@@ -100,52 +92,52 @@ void writeScript(std::ostream& script, const Day& day, const Violation& violatio
   }
 }
 
-/// The name of the script; none when it cannot be written.
+/// Returns the name of the script; none if it cannot be written.
 std::optional<std::string> shrink(const Day& day) {
-  const std::string& promise = day.violation->promise;
-  const Lines lines = explore::shrunk(day.lines, [&](const Lines& some) {
-    const auto violation = explore::repeatDay(day, some);
-    return violation && violation->promise == promise;
+  const std::string& invariant = day.violation->invariant;
+  const Lines lines = shrunk(day.lines, [&](const Lines& some) {
+    const auto violation = replayDay(day, some);
+    return violation && violation->invariant == invariant;
   });
   Lines all;
-  const auto violation = explore::repeatDay(day, lines, &all);
+  const auto violation = replayDay(day, lines, &all);
   const std::string name = "explore-" + std::to_string(day.seed) + ".desk";
   std::ofstream script(name);
   writeScript(script, day, violation.value_or(*day.violation), all);
   return script.flush() ? std::optional(name) : std::nullopt;
 }
 
-int tellFailure(const Day& day, const ExploreOptions& options, std::ostream& errors) {
-  errors << "seed " << day.seed << ", step " << day.stepCount << ": " << day.violation->promise
+int reportFailure(const Day& day, const ExploreOptions& options, std::ostream& errors) {
+  errors << "seed " << day.seed << ", step " << day.stepCount << ": " << day.violation->invariant
          << ": " << day.violation->text << '\n'
          << commandFor(day, options) << " --shrink" << std::endl;
   if (!options.shrinks) {
-    return brokenStatus;
+    return violationStatus;
   }
   const auto name = shrink(day);
-  errors << (name ? "the script is " + *name : "the script cannot be written") << std::endl;
-  return name ? brokenStatus : unreadableStatus;
+  errors << (name ? "script: " + *name : "cannot write the script") << std::endl;
+  return name ? violationStatus : unreadableStatus;
 }
 
-int watchScript(const std::string& file, std::ostream& errors) {
+int checkScript(const std::string& file, std::ostream& errors) {
   std::ifstream script(file);
-  explore::Trial trial;
+  CheckedSession session;
   std::string line;
   while (std::getline(script, line)) {
-    trial.take(line);
+    session.run(line);
   }
-  const auto count = trial.lines().size();
-  trial.end();
+  const auto count = session.lines().size();
+  session.end();
   if (!script.eof()) {
     errors << file << ":0: the file cannot be read" << std::endl;
     return unreadableStatus;
   }
-  if (trial.violation()) {
-    errors << file << ':' << count << ": " << trial.violation()->promise << ": "
-           << trial.violation()->text << std::endl;
-    return brokenStatus;
+  if (session.violation()) {
+    errors << file << ':' << count << ": " << session.violation()->invariant << ": "
+           << session.violation()->text << std::endl;
+    return violationStatus;
   }
-  return heldStatus;
+  return successStatus;
 }
 
 }  // namespace
@@ -155,29 +147,31 @@ int runExplore(const ExploreOptions& options, std::ostream& output, std::ostream
     errors << "orvane-desk: " << *message << std::endl;
     return unreadableStatus;
   }
-  int worst = heldStatus;
+  int worst = successStatus;
   for (const std::string& script : options.scripts) {
-    worst = std::max(worst, watchScript(script, errors));
+    worst = std::max(worst, checkScript(script, errors));
   }
   if (!options.scripts.empty()) {
     return worst;
   }
-  std::signal(SIGABRT, sayLastWords);
-  Sums sums;
-  for (std::int64_t index = 0; index < options.days && worst == heldStatus; ++index) {
+  std::signal(SIGABRT, writeAbortMessage);
+  Totals totals;
+  for (std::int64_t index = 0; index < options.days && worst == successStatus; ++index) {
     Day day;
     day.seed = options.seed + static_cast<std::uint64_t>(index);
-    std::snprintf(lastWords.data(), lastWords.size(), "\n%s\n", commandFor(day, options).c_str());
-    day = explore::liveDay(day.seed, options.steps);
-    sums.add(day);
+    std::snprintf(abortMessage.data(), abortMessage.size(), "\n%s\n",
+                  commandFor(day, options).c_str());
+    day = simulateDay(day.seed, options.steps);
+    totals.add(day);
     if (day.violation) {
-      worst = tellFailure(day, options, errors);
+      worst = reportFailure(day, options, errors);
     }
   }
-  report(sums, output);
+  report(totals, output);
   const bool hasReachedAll =
-      std::ranges::find(sums.rarePaths.counts(), 0) == sums.rarePaths.counts().end();
-  return worst == heldStatus && options.needsAllPaths && !hasReachedAll ? brokenStatus : worst;
+      std::ranges::find(totals.rarePaths.counts(), 0) == totals.rarePaths.counts().end();
+  return worst == successStatus && options.needsAllPaths && !hasReachedAll ? violationStatus
+                                                                           : worst;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::desk::explore

@@ -1,4 +1,4 @@
-// The explorer: day after day of the whole application on simulated Macs, by lots.
+// The explorer: random days of the whole application on simulated Macs.
 #pragma once
 
 #include <cstdint>
@@ -6,24 +6,24 @@
 #include <string>
 #include <vector>
 
-namespace orvane::desk {
+namespace orvane::desk::explore {
 
 struct ExploreOptions {
-  /// That of the first day; each day after it has the next one.
+  /// The seed of the first day; each further day has the next number.
   std::uint64_t seed = 1;
   std::int64_t days = 100;
-  /// The lines of a day before its end begins.
+  /// The random lines of a day.
   std::int64_t steps = 250;
-  /// Whether the first day that fails is cut down to a short script.
+  /// Whether the first failing day is reduced to a short script.
   bool shrinks = false;
-  /// Whether a rare state that was not reached is a failure.
+  /// Whether an unreached rare state is a failure.
   bool needsAllPaths = false;
-  /// Scripts to look after instead of days.
+  /// Scripts to check instead of random days.
   std::vector<std::string> scripts = {};
 };
 
-/// Returns the program's exit status: 0 when all went well, 1 when a promise was broken, 2 when a
-/// file cannot be read or written.
+/// Returns the exit status: 0 for success, 1 for a violated invariant, 2 if a file cannot be read
+/// or written.
 int runExplore(const ExploreOptions& options, std::ostream& output, std::ostream& errors);
 
-}  // namespace orvane::desk
+}  // namespace orvane::desk::explore

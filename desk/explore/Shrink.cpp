@@ -1,4 +1,4 @@
-// Delta debugging over lines: parts are left out, first great ones, then small ones.
+// Delta debugging: leaves out ever smaller runs of lines.
 #include "desk/explore/Shrink.hpp"
 
 #include <algorithm>

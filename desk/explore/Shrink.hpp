@@ -1,4 +1,4 @@
-// Shrink finds a short list of lines that still breaks the same promise.
+// Reduces a failing list of lines.
 #pragma once
 
 #include <functional>
@@ -8,8 +8,8 @@
 
 namespace orvane::desk::explore {
 
-/// `stillFails` must hold for `lines`. What is returned fails too, and no longer does when any one
-/// of its lines is left out. Delta debugging: Zeller and Hildebrandt, "Simplifying and isolating
+/// `stillFails` must hold for `lines`. It holds for the result, too, but for none that lacks one
+/// more line. Delta debugging: Zeller and Hildebrandt, "Simplifying and isolating
 /// failure-inducing input", IEEE Transactions on Software Engineering 28 (2), 2002.
 [[nodiscard]] Lines shrunk(Lines lines, const std::function<bool(const Lines&)>& stillFails);
 

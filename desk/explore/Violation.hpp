@@ -1,4 +1,4 @@
-// Violation is something that must never be and was.
+// Violation describes an invariant that did not hold.
 #pragma once
 
 #include <string>
@@ -6,11 +6,11 @@
 namespace orvane::desk::explore {
 
 struct Violation {
-  /// Which promise is broken: one word.
-  std::string promise;
-  /// How, in words.
+  /// A short name of the invariant.
+  std::string invariant;
+  /// What was observed.
   std::string text;
-  /// What a script would expect instead, as `THING.PATH VALUE`; empty when it cannot say it.
+  /// What a script would expect instead, as `THING.PATH VALUE`; empty if a script cannot.
   std::string expectation = {};
 };
 

@@ -9,12 +9,12 @@
 #include "showroom/desktop/DesktopScene.hpp"
 #include "showroom/desktop/GlassCache.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// One display while it is painted. The canvas is in global coordinates and clipped to the screen.
 struct DisplayCanvas {
-  CairoCanvas& canvas;
-  DrawingResources& resources;
+  desk::CairoCanvas& canvas;
+  desk::DrawingResources& resources;
   GlassCache& glass;
   /// The display's place in the machine's list, and its frame in global coordinates.
   std::size_t displayIndex;
@@ -34,4 +34,4 @@ class DesktopLayer {
   virtual void paint(const DesktopScene& scene, const DisplayCanvas& display) = 0;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -6,7 +6,7 @@
 
 #include "showroom/desktop/Rects.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -145,4 +145,4 @@ ui::Point DesktopLayout::pixel(std::size_t screenIndex, CGPoint globalPoint) con
           screen.pixels.y + (globalPoint.y - screen.frame.y) * scale_};
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

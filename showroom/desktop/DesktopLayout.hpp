@@ -13,7 +13,7 @@
 #include "Orvane/ui/layout/Rect.hpp"
 #include "Orvane/ui/layout/Size.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// `exact` shows just the screens, each at its place in global coordinates. `monitors` puts each
 /// screen into a monitor and moves the monitors apart, as they stand on a table.
@@ -71,4 +71,4 @@ class DesktopLayout {
   std::vector<ScreenPlacement> screens_;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -12,9 +12,9 @@
 #include "showroom/desktop/WindowLayer.hpp"
 #include "showroom/desktop/ZoneLayer.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
-DesktopPainter::DesktopPainter(DrawingResources& resources) : resources_(resources) {
+DesktopPainter::DesktopPainter(desk::DrawingResources& resources) : resources_(resources) {
   backdrop_.push_back(std::make_unique<WallpaperLayer>());
   windows_.push_back(std::make_unique<WindowLayer>(WindowLayer::Part::belowMenuBar));
   system_.push_back(std::make_unique<DockLayer>());
@@ -45,7 +45,7 @@ void DesktopPainter::paintScreen(cairo_surface_t* surface, const DesktopLayout& 
                                  const DesktopScene& scene, std::size_t index) {
   const ScreenPlacement& screen = layout.screens()[index];
   const double scale = layout.scale();
-  CairoCanvas canvas(surface, scale, resources_);
+  desk::CairoCanvas canvas(surface, scale, resources_);
   canvas.save();
   // The clip is made of whole pixels, before the coordinates become global ones.
   cairo_t* const context = canvas.context();
@@ -68,4 +68,4 @@ void DesktopPainter::paintScreen(cairo_surface_t* surface, const DesktopLayout& 
   canvas.restore();
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -11,13 +11,13 @@
 #include "showroom/desktop/DesktopLayout.hpp"
 #include "showroom/desktop/DesktopScene.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// Keeps what is dear to draw, so one painter should serve for many pictures.
 class DesktopPainter {
  public:
   /// The resources have to outlive the painter.
-  explicit DesktopPainter(DrawingResources& resources);
+  explicit DesktopPainter(desk::DrawingResources& resources);
 
   /// Adds a layer above the wallpaper and what was added so, below the Dock and the menu bar: the
   /// place of windows.
@@ -35,7 +35,7 @@ class DesktopPainter {
   void paintScreen(cairo_surface_t* surface, const DesktopLayout& layout, const DesktopScene& scene,
                    std::size_t index);
 
-  DrawingResources& resources_;
+  desk::DrawingResources& resources_;
   GlassCache glass_;
   Layers backdrop_;
   Layers windows_;
@@ -44,4 +44,4 @@ class DesktopPainter {
   Layers marks_;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -5,7 +5,7 @@
 
 #include "desk/canvas/PngFile.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -13,8 +13,8 @@ constexpr double longestSideInPixels = 16384;
 
 }  // namespace
 
-SurfacePointer renderDesktop(DesktopPainter& painter, const DesktopScene& scene, DesktopStyle style,
-                             double scale) {
+desk::SurfacePointer renderDesktop(DesktopPainter& painter, const DesktopScene& scene,
+                                   DesktopStyle style, double scale) {
   const auto& frames = scene.machine.displays.globalFrames();
   const ui::Size size = DesktopLayout::sizeInPoints(frames, style);
   // Written so that a scale that is not a number is refused too.
@@ -24,29 +24,29 @@ SurfacePointer renderDesktop(DesktopPainter& painter, const DesktopScene& scene,
     return nullptr;
   }
   const DesktopLayout layout(frames, style, scale);
-  SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, layout.pixels().width,
-                                                    layout.pixels().height));
+  desk::SurfacePointer surface(cairo_image_surface_create(
+      CAIRO_FORMAT_ARGB32, layout.pixels().width, layout.pixels().height));
   painter.paint(surface.get(), layout, scene);
   return surface;
 }
 
-std::optional<std::string> writeDesktopPicture(const Machine& machine,
-                                               const ApplicationHost& application,
+std::optional<std::string> writeDesktopPicture(const desk::Machine& machine,
+                                               const desk::ApplicationHost& application,
                                                const std::filesystem::path& file, double scale) {
   if (machine.displays.isEmpty()) {
     return "there is no display to make a picture of";
   }
-  DrawingResources resources;
+  desk::DrawingResources resources;
   DesktopPainter painter(resources);
-  const SurfacePointer surface =
+  const desk::SurfacePointer surface =
       renderDesktop(painter, DesktopScene(machine, application), DesktopStyle::exact, scale);
   if (surface == nullptr) {
     return "a picture at this scale would be too small or too large";
   }
-  if (!writePng(surface.get(), file)) {
+  if (!desk::writePng(surface.get(), file)) {
     return "cannot write " + file.string();
   }
   return std::nullopt;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -3,13 +3,14 @@
 
 #include "desk/windows/WindowServer.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
-DesktopScene::DesktopScene(const Machine& shownMachine, const ApplicationHost& application)
+DesktopScene::DesktopScene(const desk::Machine& shownMachine,
+                           const desk::ApplicationHost& application)
     : machine(shownMachine) {
   if (application.isRunning()) {
-    const WindowServer* const server = WindowServer::of(shownMachine);
-    const StatusBarItem* const item = server != nullptr ? server->statusBar.item() : nullptr;
+    const desk::WindowServer* const server = desk::WindowServer::of(shownMachine);
+    const desk::StatusBarItem* const item = server != nullptr ? server->statusBar.item() : nullptr;
     if (item != nullptr && item->image != nullptr) {
       statusSymbol = item->image->name;
     }
@@ -17,4 +18,4 @@ DesktopScene::DesktopScene(const Machine& shownMachine, const ApplicationHost& a
   }
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

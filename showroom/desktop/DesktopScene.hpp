@@ -11,7 +11,7 @@
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/machine/Machine.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// A pointer movement that the guard moved back, in global coordinates.
 struct MovedBack {
@@ -22,11 +22,11 @@ struct MovedBack {
 };
 
 struct DesktopScene {
-  explicit DesktopScene(const Machine& shownMachine) : machine(shownMachine) {}
+  explicit DesktopScene(const desk::Machine& shownMachine) : machine(shownMachine) {}
   /// With the application's status icon, if it runs, and the zones of its guard.
-  DesktopScene(const Machine& shownMachine, const ApplicationHost& application);
+  DesktopScene(const desk::Machine& shownMachine, const desk::ApplicationHost& application);
 
-  const Machine& machine;
+  const desk::Machine& machine;
   /// The name of the application's symbol in the menu bar; none while it does not run.
   std::optional<std::string> statusSymbol;
   /// The zones in force, in global coordinates; marked when `showsZones` is true.
@@ -39,4 +39,4 @@ struct DesktopScene {
   double pointerMagnification = 1;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -6,14 +6,14 @@
 #include "showroom/desktop/Glass.hpp"
 #include "showroom/desktop/MenuClock.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
 constexpr double glassSigma = 18;
 
-void paintShelf(CairoCanvas& canvas, const DockShelf& dock, const Appearance& appearance,
-                GlassCache& glass) {
+void paintShelf(desk::CairoCanvas& canvas, const DockShelf& dock,
+                const desk::Appearance& appearance, GlassCache& glass) {
   const bool isDark = appearance.isDark;
   const ui::Shape shape = ui::Shape::roundedRectangle(dock.shelf, dock.cornerRadius);
   canvas.shadow(shape, {{0, 0, 0, isDark ? 0.4 : 0.2}, 18, {0, 4}});
@@ -26,18 +26,18 @@ void paintShelf(CairoCanvas& canvas, const DockShelf& dock, const Appearance& ap
 }
 
 /// The dot lies between the tile and the edge of the shelf.
-ui::Rect runningDot(const ui::Rect& tile, DockEdge edge, double factor) {
+ui::Rect runningDot(const ui::Rect& tile, desk::DockEdge edge, double factor) {
   const double size = 3.2 * factor;
   const double distance = 3.6 * factor;
   ui::Point center = tile.center();
   switch (edge) {
-    case DockEdge::bottom:
+    case desk::DockEdge::bottom:
       center.y = tile.bottom() + distance;
       break;
-    case DockEdge::left:
+    case desk::DockEdge::left:
       center.x = tile.x - distance;
       break;
-    case DockEdge::right:
+    case desk::DockEdge::right:
       center.x = tile.right() + distance;
       break;
   }
@@ -47,7 +47,7 @@ ui::Rect runningDot(const ui::Rect& tile, DockEdge edge, double factor) {
 }  // namespace
 
 void DockLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
-  const Dock& dock = scene.machine.dock;
+  const desk::Dock& dock = scene.machine.dock;
   const double shown = dock.shownFraction();
   if (dock.displayIndex() != display.displayIndex || shown <= 0) {
     return;
@@ -57,7 +57,7 @@ void DockLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
       DockShelf::make({area.origin.x, area.origin.y, area.size.width, area.size.height},
                       dock.edge(), shown, dockTileCount());
   const bool isDark = scene.machine.appearance.isDark;
-  CairoCanvas& canvas = display.canvas;
+  desk::CairoCanvas& canvas = display.canvas;
   paintShelf(canvas, shelf, scene.machine.appearance, display.glass);
   const int day = menuClockDay(scene.machine.clock);
   const ui::Rgba ink = isDark ? ui::Rgba{1, 1, 1, 0.8} : ui::Rgba{0, 0, 0, 0.6};
@@ -72,4 +72,4 @@ void DockLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
               ui::Paint::solid(isDark ? ui::Rgba{1, 1, 1, 0.22} : ui::Rgba{0, 0, 0, 0.18}));
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -3,11 +3,11 @@
 
 #include "showroom/desktop/DesktopLayer.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class DockLayer : public DesktopLayer {
  public:
   void paint(const DesktopScene& scene, const DisplayCanvas& display) override;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -23,14 +23,14 @@ struct Strip {
   double depth;
 };
 
-ui::Rect turned(const Strip& strip, const ui::Rect& area, DockEdge edge) {
+ui::Rect turned(const Strip& strip, const ui::Rect& area, desk::DockEdge edge) {
   switch (edge) {
-    case DockEdge::bottom:
+    case desk::DockEdge::bottom:
       return {area.x + strip.along, area.bottom() - strip.away - strip.depth, strip.length,
               strip.depth};
-    case DockEdge::left:
+    case desk::DockEdge::left:
       return {area.x + strip.away, area.y + strip.along, strip.depth, strip.length};
-    case DockEdge::right:
+    case desk::DockEdge::right:
       return {area.right() - strip.away - strip.depth, area.y + strip.along, strip.depth,
               strip.length};
   }
@@ -39,14 +39,14 @@ ui::Rect turned(const Strip& strip, const ui::Rect& area, DockEdge edge) {
 
 }  // namespace
 
-DockShelf DockShelf::make(const ui::Rect& area, DockEdge edge, double shownFraction,
+DockShelf DockShelf::make(const ui::Rect& area, desk::DockEdge edge, double shownFraction,
                           std::size_t tileCount) {
   DockShelf result;
   if (area.isEmpty() || tileCount == 0) {
     return result;
   }
-  const double room = edge == DockEdge::bottom ? area.width : area.height;
-  const double depth = edge == DockEdge::bottom ? area.height : area.width;
+  const double room = edge == desk::DockEdge::bottom ? area.width : area.height;
+  const double depth = edge == desk::DockEdge::bottom ? area.height : area.width;
   const auto count = static_cast<double>(tileCount);
   const double needed =
       2 * shelfPadding + count * tileSize + (count - 1) * tileSpacing + separatorRoom;
@@ -80,4 +80,4 @@ DockShelf DockShelf::make(const ui::Rect& area, DockEdge edge, double shownFract
   return result;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -7,7 +7,7 @@
 #include "Orvane/ui/layout/Rect.hpp"
 #include "desk/machine/DockEdge.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// All rectangles are in global coordinates.
 struct DockShelf {
@@ -22,8 +22,8 @@ struct DockShelf {
 
   /// `area` is the Dock's frame when it is all the way up; `shownFraction` runs from 0, out of
   /// sight behind the edge, to 1.
-  static DockShelf make(const ui::Rect& area, DockEdge edge, double shownFraction,
+  static DockShelf make(const ui::Rect& area, desk::DockEdge edge, double shownFraction,
                         std::size_t tileCount);
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -7,7 +7,7 @@
 
 #include "desk/canvas/CairoPointers.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -45,7 +45,7 @@ constexpr double unit = 100;
 /// A context in which the square has 100 units on each side.
 class UnitSquare {
  public:
-  UnitSquare(CairoCanvas& canvas, const ui::Rect& square) : context_(canvas.context()) {
+  UnitSquare(desk::CairoCanvas& canvas, const ui::Rect& square) : context_(canvas.context()) {
     cairo_save(context_);
     cairo_translate(context_, square.x, square.y);
     cairo_scale(context_, square.width / unit, square.height / unit);
@@ -75,7 +75,7 @@ void addRoundedRectangle(cairo_t* context, double x, double y, double width, dou
   cairo_close_path(context);
 }
 
-void paintPlate(CairoCanvas& canvas, const ui::Rect& square, const Tile& tile) {
+void paintPlate(desk::CairoCanvas& canvas, const ui::Rect& square, const Tile& tile) {
   const ui::Shape plate = ui::Shape::roundedRectangle(square, square.width * 0.235);
   canvas.shadow(plate, {{0, 0, 0, 0.22}, square.width * 0.1, {0, square.width * 0.035}});
   canvas.fill(
@@ -148,7 +148,7 @@ void paintPrompt(cairo_t* context) {
 }
 
 void paintBin(cairo_t* context) {
-  const PatternPointer shade(cairo_pattern_create_linear(0, 20, 0, 92));
+  const desk::PatternPointer shade(cairo_pattern_create_linear(0, 20, 0, 92));
   cairo_pattern_add_color_stop_rgba(shade.get(), 0, 1, 1, 1, 0.95);
   cairo_pattern_add_color_stop_rgba(shade.get(), 1, 0.82, 0.85, 0.9, 0.9);
   cairo_set_source(context, shade.get());
@@ -177,7 +177,7 @@ void paintBin(cairo_t* context) {
   cairo_stroke(context);
 }
 
-void paintCalendar(CairoCanvas& canvas, const ui::Rect& square, int dayOfMonth) {
+void paintCalendar(desk::CairoCanvas& canvas, const ui::Rect& square, int dayOfMonth) {
   {
     const UnitSquare units(canvas, square);
     cairo_t* const context = units.context();
@@ -210,7 +210,8 @@ bool isDockTileRunning(std::size_t index) {
   return index < tiles.size() && tiles[index].isRunning;
 }
 
-void paintDockTile(CairoCanvas& canvas, std::size_t index, const ui::Rect& square, int dayOfMonth) {
+void paintDockTile(desk::CairoCanvas& canvas, std::size_t index, const ui::Rect& square,
+                   int dayOfMonth) {
   if (index >= tiles.size()) {
     return;
   }
@@ -245,4 +246,4 @@ void paintDockTile(CairoCanvas& canvas, std::size_t index, const ui::Rect& squar
   }
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -6,7 +6,7 @@
 #include "Orvane/ui/layout/Rect.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// How many tiles there are; the last one is the bin.
 std::size_t dockTileCount();
@@ -16,6 +16,7 @@ bool isDockTileRunning(std::size_t index);
 
 /// Paints one tile into the square; `dayOfMonth` is what the calendar shows. An index beyond the
 /// last one paints nothing.
-void paintDockTile(CairoCanvas& canvas, std::size_t index, const ui::Rect& square, int dayOfMonth);
+void paintDockTile(desk::CairoCanvas& canvas, std::size_t index, const ui::Rect& square,
+                   int dayOfMonth);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

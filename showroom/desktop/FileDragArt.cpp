@@ -1,7 +1,7 @@
 // The image is the application's, so it comes from the window server's pictures.
 #include "showroom/desktop/FileDragArt.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -9,7 +9,7 @@ constexpr double imageOpacity = 0.7;
 constexpr ui::Rgba green{0.16, 0.76, 0.25, 1};
 
 /// A plus in a disc, right below the pointer's arrow.
-void paintCopyMark(CairoCanvas& canvas, const CGPoint& place) {
+void paintCopyMark(desk::CairoCanvas& canvas, const CGPoint& place) {
   constexpr double side = 17;
   constexpr double armLength = 9;
   constexpr double armWidth = 2;
@@ -29,8 +29,8 @@ void paintCopyMark(CairoCanvas& canvas, const CGPoint& place) {
 
 }  // namespace
 
-void paintFileDrag(CairoCanvas& canvas, WindowServer& server) {
-  const FileDrag& drag = *server.pointer.fileDrag();
+void paintFileDrag(desk::CairoCanvas& canvas, desk::WindowServer& server) {
+  const desk::FileDrag& drag = *server.pointer.fileDrag();
   const CGPoint place = server.machine().pointer.place();
   const ui::Rect image = drag.image.movedBy({place.x, place.y});
   canvas.beginLayer(image, imageOpacity, std::nullopt);
@@ -42,4 +42,4 @@ void paintFileDrag(CairoCanvas& canvas, WindowServer& server) {
   }
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

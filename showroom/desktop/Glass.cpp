@@ -7,7 +7,7 @@
 
 #include "desk/canvas/Blur.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -36,16 +36,17 @@ cairo_rectangle_int_t pixelsAround(cairo_t* context, const ui::Rect& rect, int m
 
 }  // namespace
 
-void paintGlass(CairoCanvas& canvas, const ui::Shape& shape, double sigma, const ui::Rgba& tint,
-                GlassCache& cache) {
+void paintGlass(desk::CairoCanvas& canvas, const ui::Shape& shape, double sigma,
+                const ui::Rgba& tint, GlassCache& cache) {
   cairo_t* const context = canvas.context();
   const double sigmaInPixels = sigma * canvas.scaleFactor();
-  const cairo_rectangle_int_t pixels = pixelsAround(context, shape.rect, blurReach(sigmaInPixels));
+  const cairo_rectangle_int_t pixels =
+      pixelsAround(context, shape.rect, desk::blurReach(sigmaInPixels));
   if (tint.alpha < 1 && pixels.width > 0 && pixels.height > 0) {
-    SurfacePointer copy(
+    desk::SurfacePointer copy(
         cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels.width, pixels.height));
     {
-      const ContextPointer copying(cairo_create(copy.get()));
+      const desk::ContextPointer copying(cairo_create(copy.get()));
       cairo_set_source_surface(copying.get(), cairo_get_target(context), -pixels.x, -pixels.y);
       cairo_paint(copying.get());
     }
@@ -60,11 +61,11 @@ void paintGlass(CairoCanvas& canvas, const ui::Shape& shape, double sigma, const
   canvas.fill(shape, ui::Paint::solid(tint));
 }
 
-ui::Rgba tintFor(const Appearance& appearance, ui::Rgba tint) {
+ui::Rgba tintFor(const desk::Appearance& appearance, ui::Rgba tint) {
   if (appearance.reducesTransparency) {
     tint.alpha = 1;
   }
   return tint;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -7,15 +7,15 @@
 #include "desk/machine/Appearance.hpp"
 #include "showroom/desktop/GlassCache.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// Blurs what the canvas holds inside the shape by a standard deviation in points, and lays the
 /// tint over it; an opaque tint leaves nothing to blur. Not to be used within a layer of the
 /// canvas.
-void paintGlass(CairoCanvas& canvas, const ui::Shape& shape, double sigma, const ui::Rgba& tint,
-                GlassCache& cache);
+void paintGlass(desk::CairoCanvas& canvas, const ui::Shape& shape, double sigma,
+                const ui::Rgba& tint, GlassCache& cache);
 
 /// The tint, opaque when the user wants less transparency.
-[[nodiscard]] ui::Rgba tintFor(const Appearance& appearance, ui::Rgba tint);
+[[nodiscard]] ui::Rgba tintFor(const desk::Appearance& appearance, ui::Rgba tint);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

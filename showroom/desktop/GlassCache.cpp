@@ -7,7 +7,7 @@
 
 #include "desk/canvas/Blur.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -24,10 +24,10 @@ bool areEqual(cairo_surface_t* first, cairo_surface_t* second) {
                      bytesOf(first)) == 0;
 }
 
-SurfacePointer copyOf(cairo_surface_t* picture) {
-  SurfacePointer copy(cairo_image_surface_create(cairo_image_surface_get_format(picture),
-                                                 cairo_image_surface_get_width(picture),
-                                                 cairo_image_surface_get_height(picture)));
+desk::SurfacePointer copyOf(cairo_surface_t* picture) {
+  desk::SurfacePointer copy(cairo_image_surface_create(cairo_image_surface_get_format(picture),
+                                                       cairo_image_surface_get_width(picture),
+                                                       cairo_image_surface_get_height(picture)));
   std::memcpy(cairo_image_surface_get_data(copy.get()), cairo_image_surface_get_data(picture),
               bytesOf(picture));
   cairo_surface_mark_dirty(copy.get());
@@ -36,7 +36,7 @@ SurfacePointer copyOf(cairo_surface_t* picture) {
 
 }  // namespace
 
-cairo_surface_t* GlassCache::blurred(SurfacePointer picture, double sigma) {
+cairo_surface_t* GlassCache::blurred(desk::SurfacePointer picture, double sigma) {
   cairo_surface_flush(picture.get());
   const auto found = std::ranges::find_if(kept_, [&](const Kept& kept) {
     return kept.sigma == sigma && areEqual(kept.picture.get(), picture.get());
@@ -46,8 +46,8 @@ cairo_surface_t* GlassCache::blurred(SurfacePointer picture, double sigma) {
     return kept_.front().blurred.get();
   }
   ++blurCount_;
-  SurfacePointer copy = copyOf(picture.get());
-  blurSurface(copy.get(), sigma, BlurEdge::extended);
+  desk::SurfacePointer copy = copyOf(picture.get());
+  desk::blurSurface(copy.get(), sigma, desk::BlurEdge::extended);
   const std::size_t bytes = 2 * bytesOf(picture.get());
   kept_.push_front({std::move(picture), sigma, std::move(copy), bytes});
   bytes_ += bytes;
@@ -58,4 +58,4 @@ cairo_surface_t* GlassCache::blurred(SurfacePointer picture, double sigma) {
   return kept_.front().blurred.get();
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -7,7 +7,7 @@
 
 #include "desk/canvas/CairoPointers.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class GlassCache {
  public:
@@ -18,7 +18,7 @@ class GlassCache {
   /// The picture, an RGB24 or ARGB32 image surface, blurred by a standard deviation in pixels as if
   /// it went on beyond its edges. Pictures are compared pixel by pixel. The surface lives until the
   /// next call.
-  cairo_surface_t* blurred(SurfacePointer picture, double sigma);
+  cairo_surface_t* blurred(desk::SurfacePointer picture, double sigma);
 
   /// How often something was blurred.
   [[nodiscard]] long long blurCount() const { return blurCount_; }
@@ -26,9 +26,9 @@ class GlassCache {
 
  private:
   struct Kept {
-    SurfacePointer picture;
+    desk::SurfacePointer picture;
     double sigma;
-    SurfacePointer blurred;
+    desk::SurfacePointer blurred;
     std::size_t bytes;
   };
 
@@ -39,4 +39,4 @@ class GlassCache {
   std::list<Kept> kept_;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -10,7 +10,7 @@
 #include "showroom/desktop/MenuClock.hpp"
 #include "showroom/desktop/Rects.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -23,7 +23,7 @@ constexpr ui::Font font = ui::Font::system(13, ui::Weight::medium);
 constexpr std::array<const char*, 6> titles{"Desk", "File", "Edit", "View", "Window", "Help"};
 
 /// The desk's own mark: a screen with a shelf.
-void paintMark(CairoCanvas& canvas, ui::Point at, const ui::Rgba& ink) {
+void paintMark(desk::CairoCanvas& canvas, ui::Point at, const ui::Rgba& ink) {
   const ui::Rect screen{at.x, at.y - 11, 16, 12};
   canvas.stroke(ui::Shape::roundedRectangle(screen.inset(0.75), 3), ui::Paint::solid(ink), 1.5);
   canvas.fill(ui::Shape::roundedRectangle({at.x + 4, at.y - 3.75, 8, 2}, 1), ui::Paint::solid(ink));
@@ -31,12 +31,12 @@ void paintMark(CairoCanvas& canvas, ui::Point at, const ui::Rgba& ink) {
 
 /// The `position`-th icon from the right, beside the clock.
 ui::Rect iconFrame(const ui::Rect& displayFrame, int position) {
-  return rectOf(StatusBar::place(rectOf(displayFrame), position));
+  return rectOf(desk::StatusBar::place(rectOf(displayFrame), position));
 }
 
 /// Whether the menu under the status icon is open on this display.
 bool isMenuOpen(const DesktopScene& scene, std::size_t displayIndex) {
-  const WindowServer* const server = WindowServer::of(scene.machine);
+  const desk::WindowServer* const server = desk::WindowServer::of(scene.machine);
   return server != nullptr && server->menus.isStatusMenuOpen() &&
          server->menus.displayIndex() == displayIndex;
 }
@@ -44,13 +44,13 @@ bool isMenuOpen(const DesktopScene& scene, std::size_t displayIndex) {
 }  // namespace
 
 ui::Rect MenuBarLayer::statusItemFrame(const ui::Rect& displayFrame) {
-  return rectOf(StatusBar::itemFrame(rectOf(displayFrame)));
+  return rectOf(desk::StatusBar::itemFrame(rectOf(displayFrame)));
 }
 
 void MenuBarLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
   const bool isDark = scene.machine.appearance.isDark;
   const ui::Rect& frame = display.frame;
-  CairoCanvas& canvas = display.canvas;
+  desk::CairoCanvas& canvas = display.canvas;
   const ui::Rect bar{frame.x, frame.y, frame.width, height};
   paintGlass(canvas, ui::Shape::rectangle(bar), glassSigma,
              tintFor(scene.machine.appearance,
@@ -83,4 +83,4 @@ void MenuBarLayer::paint(const DesktopScene& scene, const DisplayCanvas& display
   }
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -4,7 +4,7 @@
 
 #include "showroom/desktop/DesktopLayer.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class MenuBarLayer : public DesktopLayer {
  public:
@@ -18,4 +18,4 @@ class MenuBarLayer : public DesktopLayer {
   void paint(const DesktopScene& scene, const DisplayCanvas& display) override;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

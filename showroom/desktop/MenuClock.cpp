@@ -5,15 +5,15 @@
 #include <chrono>
 #include <cstdint>
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
-std::chrono::sys_seconds calendarMoment(const Clock& clock) {
+std::chrono::sys_seconds calendarMoment(const desk::Clock& clock) {
   constexpr std::chrono::sys_days reference =
       std::chrono::year{2001} / std::chrono::January / std::chrono::day{1};
   const std::int64_t seconds =
-      Clock::calendarSecondsAtStart + clock.now() / Clock::nanosecondsPerSecond;
+      desk::Clock::calendarSecondsAtStart + clock.now() / desk::Clock::nanosecondsPerSecond;
   return std::chrono::sys_seconds(reference) + std::chrono::seconds(seconds);
 }
 
@@ -23,7 +23,7 @@ constexpr std::array<const char*, 12> monthNames{"Jan", "Feb", "Mar", "Apr", "Ma
 
 }  // namespace
 
-std::string menuClockText(const Clock& clock) {
+std::string menuClockText(const desk::Clock& clock) {
   const std::chrono::sys_seconds moment = calendarMoment(clock);
   const auto midnight = std::chrono::floor<std::chrono::days>(moment);
   const std::chrono::year_month_day date(midnight);
@@ -37,16 +37,16 @@ std::string menuClockText(const Clock& clock) {
          std::to_string(minutes);
 }
 
-int menuClockDay(const Clock& clock) {
+int menuClockDay(const desk::Clock& clock) {
   const auto midnight = std::chrono::floor<std::chrono::days>(calendarMoment(clock));
   return static_cast<int>(static_cast<unsigned>(std::chrono::year_month_day(midnight).day()));
 }
 
-std::int64_t nanosecondsToNextMinute(const Clock& clock) {
+std::int64_t nanosecondsToNextMinute(const desk::Clock& clock) {
   // The calendar starts on a full minute, so the machine's own minutes are the calendar's.
-  constexpr std::int64_t minute = 60 * Clock::nanosecondsPerSecond;
-  static_assert(Clock::calendarSecondsAtStart % 60 == 0);
+  constexpr std::int64_t minute = 60 * desk::Clock::nanosecondsPerSecond;
+  static_assert(desk::Clock::calendarSecondsAtStart % 60 == 0);
   return minute - clock.now() % minute;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

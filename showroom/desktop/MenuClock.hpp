@@ -5,15 +5,15 @@
 
 #include "desk/machine/Clock.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// For example "Thu 1 Jan  0:00".
-std::string menuClockText(const Clock& clock);
+std::string menuClockText(const desk::Clock& clock);
 
 /// The day of the month, from 1.
-int menuClockDay(const Clock& clock);
+int menuClockDay(const desk::Clock& clock);
 
 /// Nanoseconds of the machine's clock until the text changes.
-std::int64_t nanosecondsToNextMinute(const Clock& clock);
+std::int64_t nanosecondsToNextMinute(const desk::Clock& clock);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

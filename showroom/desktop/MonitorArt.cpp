@@ -6,7 +6,7 @@
 
 #include "desk/canvas/CairoCanvas.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -40,7 +40,7 @@ bool hasRoomBelow(const DesktopLayout& layout, std::size_t index) {
   return true;
 }
 
-void paintLaptopBase(CairoCanvas& canvas, const ui::Rect& monitor, bool isDark) {
+void paintLaptopBase(desk::CairoCanvas& canvas, const ui::Rect& monitor, bool isDark) {
   const ui::Rect base{monitor.x - 12, monitor.bottom() - 1, monitor.width + 24, 13};
   const ui::Rgba top = isDark ? ui::Rgba{0.4, 0.41, 0.44, 1} : ui::Rgba{0.84, 0.85, 0.87, 1};
   const ui::Rgba bottom = isDark ? ui::Rgba{0.24, 0.25, 0.28, 1} : ui::Rgba{0.66, 0.67, 0.7, 1};
@@ -51,7 +51,7 @@ void paintLaptopBase(CairoCanvas& canvas, const ui::Rect& monitor, bool isDark) 
   canvas.fill(ui::Shape::roundedRectangle(notch, 2.5), ui::Paint::solid(bottom));
 }
 
-void paintFoot(CairoCanvas& canvas, const ui::Rect& monitor, bool isDark) {
+void paintFoot(desk::CairoCanvas& canvas, const ui::Rect& monitor, bool isDark) {
   const ui::Rect neck{monitor.center().x - 62, monitor.bottom() - 2, 124, 36};
   const ui::Rect foot{monitor.center().x - 122, neck.bottom() - 1, 244, 8};
   const ui::Rgba light = isDark ? ui::Rgba{0.34, 0.35, 0.38, 1} : ui::Rgba{0.8, 0.81, 0.84, 1};
@@ -61,8 +61,8 @@ void paintFoot(CairoCanvas& canvas, const ui::Rect& monitor, bool isDark) {
   canvas.fill(ui::Shape::roundedRectangle(foot, 4), vertical(light, shade, foot));
 }
 
-void paintMonitor(CairoCanvas& canvas, const ui::Rect& screen, const Display& display, bool hasFoot,
-                  bool isDark, DrawingResources& resources) {
+void paintMonitor(desk::CairoCanvas& canvas, const ui::Rect& screen, const desk::Display& display,
+                  bool hasFoot, bool isDark, desk::DrawingResources& resources) {
   const ui::Rect monitor = monitorAround(screen);
   const ui::Shape shape = ui::Shape::roundedRectangle(monitor, monitorCorner);
   if (hasFoot && !display.isBuiltIn) {
@@ -83,8 +83,8 @@ void paintMonitor(CairoCanvas& canvas, const ui::Rect& screen, const Display& di
 }  // namespace
 
 void paintSurroundings(cairo_surface_t* surface, const DesktopLayout& layout,
-                       const DesktopScene& scene, DrawingResources& resources) {
-  CairoCanvas canvas(surface, layout.scale(), resources);
+                       const DesktopScene& scene, desk::DrawingResources& resources) {
+  desk::CairoCanvas canvas(surface, layout.scale(), resources);
   const ui::Rect all = inPoints(layout.pixels(), layout.scale());
   if (layout.style() == DesktopStyle::exact) {
     canvas.fill(ui::Shape::rectangle(all), ui::Paint::solid({0.1, 0.1, 0.11, 1}));
@@ -101,4 +101,4 @@ void paintSurroundings(cairo_surface_t* surface, const DesktopLayout& layout,
   }
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -8,10 +8,10 @@
 #include "showroom/desktop/DesktopLayout.hpp"
 #include "showroom/desktop/DesktopScene.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// Paints all of the layout's pixels; the screens themselves are painted over it afterwards.
 void paintSurroundings(cairo_surface_t* surface, const DesktopLayout& layout,
-                       const DesktopScene& scene, DrawingResources& resources);
+                       const DesktopScene& scene, desk::DrawingResources& resources);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -10,22 +10,22 @@
 #include "showroom/desktop/Rects.hpp"
 #include "showroom/desktop/WindowArt.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
 constexpr ui::PaintShadow menuShadow{{0, 0, 0, 0.28}, 20, {0, 6}};
 constexpr double sideInset = 5;
 
-ui::Rgba ink(const Machine& machine, double opacity) {
+ui::Rgba ink(const desk::Machine& machine, double opacity) {
   return machine.appearance.isDark ? ui::Rgba{1, 1, 1, opacity} : ui::Rgba{0, 0, 0, opacity};
 }
 
-ui::Rgba resolved(const Machine& machine, const ui::Color& color) {
-  return color.resolve(HostedView::appearanceOf(machine), ui::standardColor);
+ui::Rgba resolved(const desk::Machine& machine, const ui::Color& color) {
+  return color.resolve(desk::HostedView::appearanceOf(machine), ui::standardColor);
 }
 
-void paintRow(CairoCanvas& canvas, WindowServer& server, const MenuRow& row) {
+void paintRow(desk::CairoCanvas& canvas, desk::WindowServer& server, const desk::MenuRow& row) {
   const appkit::MenuItem& item = server.menus.menu()->items[row.itemIndex];
   const ui::Rect frame = rectOf(row.frame);
   const bool isHighlighted = server.menus.highlighted() == row.itemIndex;
@@ -56,26 +56,26 @@ void paintRow(CairoCanvas& canvas, WindowServer& server, const MenuRow& row) {
     canvas.symbol("checkmark", ui::Font::system(11, ui::Weight::semibold), color,
                   {frame.x + 8, frame.y + 4, 14, 14});
   }
-  canvas.text(item.title, MenuMetrics::font, color,
-              {frame.x + MenuMetrics::titleInset, frame.y + MenuMetrics::baseline});
+  canvas.text(item.title, desk::MenuMetrics::font, color,
+              {frame.x + desk::MenuMetrics::titleInset, frame.y + desk::MenuMetrics::baseline});
 }
 
-void paintMenu(CairoCanvas& canvas, WindowServer& server, GlassCache& glass) {
+void paintMenu(desk::CairoCanvas& canvas, desk::WindowServer& server, GlassCache& glass) {
   server.menus.layOut();
   const bool isDark = server.machine().appearance.isDark;
   const ui::Shape shape =
-      ui::Shape::roundedRectangle(rectOf(server.menus.frame()), MenuMetrics::cornerRadius);
+      ui::Shape::roundedRectangle(rectOf(server.menus.frame()), desk::MenuMetrics::cornerRadius);
   canvas.shadow(shape, menuShadow);
   paintGlass(canvas, shape, glassSigma, tintFor(server.machine().appearance, menuTint(isDark)),
              glass);
-  for (const MenuRow& row : server.menus.rows()) {
+  for (const desk::MenuRow& row : server.menus.rows()) {
     paintRow(canvas, server, row);
   }
   paintMenuEdge(canvas, shape, isDark);
 }
 
-void paintTooltip(CairoCanvas& canvas, WindowServer& server, const ui::Rect& screen) {
-  const Tooltips::Shown& shown = *server.tooltips.shown();
+void paintTooltip(desk::CairoCanvas& canvas, desk::WindowServer& server, const ui::Rect& screen) {
+  const desk::Tooltips::Shown& shown = *server.tooltips.shown();
   const ui::Font font = ui::Font::system(11);
   const double width = server.resources().shaper.measure(shown.text, font).width + 12;
   const double x = std::min(shown.place.x, screen.right() - width - 4);
@@ -92,11 +92,11 @@ void paintTooltip(CairoCanvas& canvas, WindowServer& server, const ui::Rect& scr
 }  // namespace
 
 void OpenMenuLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
-  WindowServer* const server = WindowServer::of(scene.machine);
+  desk::WindowServer* const server = desk::WindowServer::of(scene.machine);
   if (server == nullptr) {
     return;
   }
-  const bool isWanted = !scene.onlySurface || *scene.onlySurface == Surfaces::menu;
+  const bool isWanted = !scene.onlySurface || *scene.onlySurface == desk::Surfaces::menu;
   if (server->menus.isOpen() && isWanted && server->menus.displayIndex() == display.displayIndex) {
     paintMenu(display.canvas, *server, display.glass);
   }
@@ -110,4 +110,4 @@ void OpenMenuLayer::paint(const DesktopScene& scene, const DisplayCanvas& displa
   }
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -3,7 +3,7 @@
 
 #include <array>
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -48,4 +48,4 @@ void PointerLayer::paint(const DesktopScene& scene, const DisplayCanvas& display
   cairo_fill(context);
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

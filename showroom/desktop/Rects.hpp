@@ -4,7 +4,7 @@
 #include "Orvane/platform/Quartz.hpp"
 #include "Orvane/ui/layout/Rect.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 constexpr ui::Rect rectOf(const CGRect& rect) {
   return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
@@ -14,4 +14,4 @@ constexpr CGRect rectOf(const ui::Rect& rect) {
   return {{rect.x, rect.y}, {rect.width, rect.height}};
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -6,11 +6,11 @@
 
 #include "Orvane/base/Require.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
-Display standardDisplay(std::size_t position) {
+desk::Display standardDisplay(std::size_t position) {
   require(position < standardDisplayCount, "there are only so many standard displays");
-  Display display;
+  desk::Display display;
   display.number = static_cast<std::uint32_t>(position + 1);
   switch (position) {
     case 0:
@@ -38,9 +38,9 @@ Display standardDisplay(std::size_t position) {
   return display;
 }
 
-std::uint32_t attachNextStandardDisplay(Machine& machine) {
+std::uint32_t attachNextStandardDisplay(desk::Machine& machine) {
   for (std::size_t position = 0; position < standardDisplayCount; ++position) {
-    const Display display = standardDisplay(position);
+    const desk::Display display = standardDisplay(position);
     const auto& attached = machine.displays.all();
     const bool isAttached = std::any_of(attached.begin(), attached.end(), [&](const auto& other) {
       return other.uuid == display.uuid;
@@ -52,4 +52,4 @@ std::uint32_t attachNextStandardDisplay(Machine& machine) {
   return 0;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

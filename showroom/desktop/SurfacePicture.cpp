@@ -9,26 +9,26 @@
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/DesktopPicture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
 /// In global coordinates; none when there is no such surface.
-std::optional<CGRect> frameOf(WindowServer& server, const std::string& surface) {
-  if (surface == Surfaces::menu) {
+std::optional<CGRect> frameOf(desk::WindowServer& server, const std::string& surface) {
+  if (surface == desk::Surfaces::menu) {
     server.menus.layOut();
     return server.menus.isOpen() ? std::optional(server.menus.frame()) : std::nullopt;
   }
-  const auto window = Surfaces(server).window(surface);
+  const auto window = desk::Surfaces(server).window(surface);
   return window != nullptr ? std::optional(server.machine().displays.flipped(window->frame))
                            : std::nullopt;
 }
 
-SurfacePointer cut(cairo_surface_t* whole, double x, double y, double width, double height) {
-  SurfacePointer part(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
-                                                 static_cast<int>(std::ceil(width)),
-                                                 static_cast<int>(std::ceil(height))));
-  const ContextPointer context(cairo_create(part.get()));
+desk::SurfacePointer cut(cairo_surface_t* whole, double x, double y, double width, double height) {
+  desk::SurfacePointer part(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
+                                                       static_cast<int>(std::ceil(width)),
+                                                       static_cast<int>(std::ceil(height))));
+  const desk::ContextPointer context(cairo_create(part.get()));
   cairo_set_source_surface(context.get(), whole, -std::round(x), -std::round(y));
   cairo_paint(context.get());
   return part;
@@ -36,20 +36,20 @@ SurfacePointer cut(cairo_surface_t* whole, double x, double y, double width, dou
 
 }  // namespace
 
-std::optional<std::string> writeSurfacePicture(const Machine& machine,
-                                               const ApplicationHost& application,
+std::optional<std::string> writeSurfacePicture(const desk::Machine& machine,
+                                               const desk::ApplicationHost& application,
                                                const std::string& surface,
                                                const std::filesystem::path& file, double scale) {
-  WindowServer* const server = WindowServer::of(machine);
+  desk::WindowServer* const server = desk::WindowServer::of(machine);
   const auto frame = server != nullptr ? frameOf(*server, surface) : std::nullopt;
   if (!frame) {
     return "there is no surface \"" + surface + "\"";
   }
-  DrawingResources resources;
+  desk::DrawingResources resources;
   DesktopPainter painter(resources);
   DesktopScene scene(machine, application);
   scene.onlySurface = surface;
-  const SurfacePointer whole = renderDesktop(painter, scene, DesktopStyle::exact, scale);
+  const desk::SurfacePointer whole = renderDesktop(painter, scene, DesktopStyle::exact, scale);
   if (whole == nullptr) {
     return "a picture at this scale would be too small or too large";
   }
@@ -57,12 +57,12 @@ std::optional<std::string> writeSurfacePicture(const Machine& machine,
   const CGPoint middle{CGRectGetMidX(*frame), CGRectGetMidY(*frame)};
   const auto screen = machine.displays.indexContaining(middle);
   const ui::Point corner = layout.pixel(screen.value_or(0), frame->origin);
-  const SurfacePointer part =
+  const desk::SurfacePointer part =
       cut(whole.get(), corner.x, corner.y, frame->size.width * scale, frame->size.height * scale);
-  if (!writePng(part.get(), file)) {
+  if (!desk::writePng(part.get(), file)) {
     return "cannot write " + file.string();
   }
   return std::nullopt;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -9,7 +9,7 @@
 
 #include "desk/canvas/CairoPointers.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -81,7 +81,7 @@ constexpr Palette night{{{{12, 17, 42}, {27, 34, 74}, {58, 54, 104}, {112, 82, 1
                           {905, 46, 1.5, 5.3, {13, 20, 46}, {20, 28, 56}}}}};
 
 void paintSky(cairo_t* context, const Palette& palette) {
-  const PatternPointer sky(cairo_pattern_create_linear(0, 0, 0, 700));
+  const desk::PatternPointer sky(cairo_pattern_create_linear(0, 0, 0, 700));
   addStop(sky.get(), 0, palette.sky[0]);
   addStop(sky.get(), 0.4, palette.sky[1]);
   addStop(sky.get(), 0.78, palette.sky[2]);
@@ -119,7 +119,7 @@ void paintStars(cairo_t* context) {
 }
 
 void paintLight(cairo_t* context, const Palette& palette) {
-  const PatternPointer glow(cairo_pattern_create_radial(
+  const desk::PatternPointer glow(cairo_pattern_create_radial(
       palette.lightX, palette.lightY, 0, palette.lightX, palette.lightY, palette.glowRadius));
   // The squares of what is left to the rim, so that the glow ends without one.
   addStop(glow.get(), 0, palette.light, 0.5);
@@ -153,7 +153,7 @@ void paintRidge(cairo_t* context, const Ridge& ridge) {
   }
   cairo_line_to(context, sheetWidth, sheetHeight);
   cairo_close_path(context);
-  const PatternPointer shade(
+  const desk::PatternPointer shade(
       cairo_pattern_create_linear(0, ridge.height - ridge.swing, 0, ridge.height + 170));
   addStop(shade.get(), 0, ridge.crest);
   addStop(shade.get(), 1, ridge.foot);
@@ -208,24 +208,24 @@ void paintBusy(cairo_t* context, double width, double height) {
 
 }  // namespace
 
-void paintWallpaper(cairo_t* context, Appearance::Wallpaper wallpaper, bool isDark, double width,
-                    double height) {
+void paintWallpaper(cairo_t* context, desk::Appearance::Wallpaper wallpaper, bool isDark,
+                    double width, double height) {
   cairo_save(context);
   cairo_rectangle(context, 0, 0, width, height);
   cairo_clip(context);
   switch (wallpaper) {
-    case Appearance::Wallpaper::standard:
+    case desk::Appearance::Wallpaper::standard:
       paintLandscape(context, isDark ? night : day, isDark, width, height);
       break;
-    case Appearance::Wallpaper::white:
+    case desk::Appearance::Wallpaper::white:
       setTone(context, {255, 255, 255});
       cairo_paint(context);
       break;
-    case Appearance::Wallpaper::black:
+    case desk::Appearance::Wallpaper::black:
       setTone(context, {0, 0, 0});
       cairo_paint(context);
       break;
-    case Appearance::Wallpaper::busy:
+    case desk::Appearance::Wallpaper::busy:
       setTone(context, {24, 24, 34});
       cairo_paint(context);
       paintBusy(context, width, height);
@@ -234,4 +234,4 @@ void paintWallpaper(cairo_t* context, Appearance::Wallpaper wallpaper, bool isDa
   cairo_restore(context);
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -6,11 +6,11 @@
 
 #include "desk/machine/Appearance.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// Fills `width` by `height` units of the context from the origin. The same arguments give the same
 /// picture.
-void paintWallpaper(cairo_t* context, Appearance::Wallpaper wallpaper, bool isDark, double width,
-                    double height);
+void paintWallpaper(cairo_t* context, desk::Appearance::Wallpaper wallpaper, bool isDark,
+                    double width, double height);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -3,7 +3,7 @@
 
 #include "showroom/desktop/WallpaperArt.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -13,16 +13,16 @@ constexpr std::size_t keptLimit = 8;
 }  // namespace
 
 void WallpaperLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
-  const Appearance& appearance = scene.machine.appearance;
+  const desk::Appearance& appearance = scene.machine.appearance;
   const Key key{appearance.wallpaper, appearance.isDark, display.pixels.width,
                 display.pixels.height};
   if (!kept_.contains(key)) {
     if (kept_.size() >= keptLimit) {
       kept_.clear();
     }
-    SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, display.pixels.width,
-                                                      display.pixels.height));
-    const ContextPointer context(cairo_create(surface.get()));
+    desk::SurfacePointer surface(cairo_image_surface_create(
+        CAIRO_FORMAT_RGB24, display.pixels.width, display.pixels.height));
+    const desk::ContextPointer context(cairo_create(surface.get()));
     paintWallpaper(context.get(), appearance.wallpaper, appearance.isDark, display.pixels.width,
                    display.pixels.height);
     kept_.emplace(key, std::move(surface));
@@ -36,4 +36,4 @@ void WallpaperLayer::paint(const DesktopScene& scene, const DisplayCanvas& displ
   cairo_restore(context);
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

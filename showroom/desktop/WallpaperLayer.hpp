@@ -7,7 +7,7 @@
 #include "desk/canvas/CairoPointers.hpp"
 #include "showroom/desktop/DesktopLayer.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class WallpaperLayer : public DesktopLayer {
  public:
@@ -15,8 +15,8 @@ class WallpaperLayer : public DesktopLayer {
 
  private:
   /// The wallpaper, dark or not, width and height in pixels.
-  using Key = std::tuple<Appearance::Wallpaper, bool, int, int>;
-  std::map<Key, SurfacePointer> kept_;
+  using Key = std::tuple<desk::Appearance::Wallpaper, bool, int, int>;
+  std::map<Key, desk::SurfacePointer> kept_;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

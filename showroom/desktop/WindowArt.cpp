@@ -7,7 +7,7 @@
 #include "Orvane/ui/draw/StandardColors.hpp"
 #include "showroom/desktop/Glass.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -21,19 +21,19 @@ ui::Shape placed(ui::Shape shape, ui::Point corner) {
 }
 
 /// Whether the window's silhouette is its outline, and not what its content happens to cover.
-bool fillsItsOutline(const DeskWindow& window) {
+bool fillsItsOutline(const desk::DeskWindow& window) {
   return !window.hasClearBackground || (window.content != nullptr && window.content->hasBackdrop);
 }
 
-ui::Rgba backgroundColor(const WindowServer& server) {
+ui::Rgba backgroundColor(const desk::WindowServer& server) {
   ui::Appearance appearance;
   appearance.dark = server.machine().appearance.isDark;
   return ui::standardColor(ui::SystemColor::windowBackground, appearance);
 }
 
 /// The close button in red while its window is key, and the places of the two others.
-void paintTitleButtons(CairoCanvas& canvas, const WindowServer& server, const DeskWindow& window,
-                       ui::Point corner) {
+void paintTitleButtons(desk::CairoCanvas& canvas, const desk::WindowServer& server,
+                       const desk::DeskWindow& window, ui::Point corner) {
   constexpr double spacing = 20;
   const auto close = window.closeButton();
   if (!close) {
@@ -51,13 +51,14 @@ void paintTitleButtons(CairoCanvas& canvas, const WindowServer& server, const De
   }
 }
 
-void paintTitleBar(CairoCanvas& canvas, WindowServer& server, const DeskWindow& window,
-                   ui::Point corner) {
+void paintTitleBar(desk::CairoCanvas& canvas, desk::WindowServer& server,
+                   const desk::DeskWindow& window, ui::Point corner) {
   const bool isDark = server.machine().appearance.isDark;
   if (!window.hasTransparentTitlebar) {
-    canvas.fill(ui::Shape::rectangle({corner.x, corner.y + DeskWindow::titleBarHeight - rimWidth,
-                                      window.frame.size.width, rimWidth}),
-                ui::Paint::solid(isDark ? ui::Rgba{1, 1, 1, 0.14} : ui::Rgba{0, 0, 0, 0.14}));
+    canvas.fill(
+        ui::Shape::rectangle({corner.x, corner.y + desk::DeskWindow::titleBarHeight - rimWidth,
+                              window.frame.size.width, rimWidth}),
+        ui::Paint::solid(isDark ? ui::Rgba{1, 1, 1, 0.14} : ui::Rgba{0, 0, 0, 0.14}));
   }
   paintTitleButtons(canvas, server, window, corner);
   if (!window.isTitleHidden && !window.title.empty()) {
@@ -68,7 +69,8 @@ void paintTitleBar(CairoCanvas& canvas, WindowServer& server, const DeskWindow& 
   }
 }
 
-void paintContent(CairoCanvas& canvas, WindowServer& server, DeskWindow& window, ui::Point corner) {
+void paintContent(desk::CairoCanvas& canvas, desk::WindowServer& server, desk::DeskWindow& window,
+                  ui::Point corner) {
   if (window.content == nullptr) {
     return;
   }
@@ -87,7 +89,7 @@ ui::Rgba menuTint(bool isDark) {
   return isDark ? ui::Rgba{0.17, 0.17, 0.185, 0.92} : glassTint(isDark);
 }
 
-void paintMenuEdge(CairoCanvas& canvas, const ui::Shape& shape, bool isDark) {
+void paintMenuEdge(desk::CairoCanvas& canvas, const ui::Shape& shape, bool isDark) {
   const double hairline = 1 / canvas.scaleFactor();
   canvas.stroke(shape.inset(-hairline / 2), ui::Paint::solid({0, 0, 0, isDark ? 0.6 : 0.16}),
                 hairline);
@@ -96,10 +98,11 @@ void paintMenuEdge(CairoCanvas& canvas, const ui::Shape& shape, bool isDark) {
   }
 }
 
-void paintView(CairoCanvas& canvas, WindowServer& server, HostedView& view, ui::Point corner) {
+void paintView(desk::CairoCanvas& canvas, desk::WindowServer& server, desk::HostedView& view,
+               ui::Point corner) {
   const auto kept = view.shared_from_this();
   view.update();
-  const DeepSurface* const picture =
+  const desk::DeepSurface* const picture =
       view.picture.of(view.host(), canvas.scaleFactor(), server.resources());
   if (picture == nullptr) {
     return;
@@ -107,7 +110,8 @@ void paintView(CairoCanvas& canvas, WindowServer& server, HostedView& view, ui::
   canvas.picture(*picture, corner);
 }
 
-void paintWindow(CairoCanvas& canvas, WindowServer& server, DeskWindow& window, GlassCache& glass) {
+void paintWindow(desk::CairoCanvas& canvas, desk::WindowServer& server, desk::DeskWindow& window,
+                 GlassCache& glass) {
   const CGPoint topLeft = server.topLeftOf(window);
   const ui::Point corner{topLeft.x, topLeft.y};
   const ui::Shape outline = placed(window.outline(), corner);
@@ -139,4 +143,4 @@ void paintWindow(CairoCanvas& canvas, WindowServer& server, DeskWindow& window, 
                 rimWidth);
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

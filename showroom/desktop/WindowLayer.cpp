@@ -5,16 +5,17 @@
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/WindowArt.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 void WindowLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
-  WindowServer* const server = WindowServer::of(scene.machine);
+  desk::WindowServer* const server = desk::WindowServer::of(scene.machine);
   if (server == nullptr) {
     return;
   }
   for (const auto& window : server->windows()) {
     const bool isAbove = window->level >= appkit::WindowLevel::status;
-    const bool isWanted = !scene.onlySurface || *scene.onlySurface == Surfaces::nameOf(*window);
+    const bool isWanted =
+        !scene.onlySurface || *scene.onlySurface == desk::Surfaces::nameOf(*window);
     if (!server->isVisible(*window) || !isWanted || isAbove != (part_ == Part::aboveMenuBar)) {
       continue;
     }
@@ -28,4 +29,4 @@ void WindowLayer::paint(const DesktopScene& scene, const DisplayCanvas& display)
   }
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -4,7 +4,7 @@
 
 #include "showroom/desktop/DesktopLayer.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class WindowLayer : public DesktopLayer {
  public:
@@ -18,4 +18,4 @@ class WindowLayer : public DesktopLayer {
   Part part_;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -7,7 +7,7 @@
 
 #include "showroom/desktop/Rects.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -105,4 +105,4 @@ void ZoneLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
   }
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

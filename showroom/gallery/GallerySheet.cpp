@@ -7,7 +7,7 @@
 
 #include "Orvane/base/Require.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 std::vector<GallerySheet> gallerySheets() {
   std::vector<GallerySheet> all = mainPanelSheets();
@@ -25,4 +25,4 @@ GallerySheet gallerySheetNamed(const std::string& name) {
   return *found;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -9,7 +9,7 @@
 #include "Orvane/model/OrvaneLanguage.hpp"
 #include "Orvane/ui/views/View.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// What somebody is doing with a component while its picture is taken.
 enum class Hand : std::uint8_t {
@@ -75,4 +75,4 @@ struct GallerySheet {
 /// The sheet of that name; there must be one.
 [[nodiscard]] GallerySheet gallerySheetNamed(const std::string& name);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -10,7 +10,7 @@
 #include "Orvane/ui/views/Text.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -123,4 +123,4 @@ std::vector<GallerySheet> buttonSheets() {
   return {primarySheet(), secondarySheet(), titleBarSheet(), settingsSheet(), settingsIconSheet()};
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

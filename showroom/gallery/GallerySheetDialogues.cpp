@@ -6,7 +6,7 @@
 #include "Orvane/ui/views/Text.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -78,4 +78,4 @@ std::vector<GallerySheet> dialogueSheets() {
   return {alertSheet(), guideSheet(), draggableIconSheet(), bezelSheet()};
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

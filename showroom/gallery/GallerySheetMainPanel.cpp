@@ -11,7 +11,7 @@
 #include "Orvane/ui/views/Text.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -151,4 +151,4 @@ std::vector<GallerySheet> mainPanelSheets() {
   return {cardSheet(), pillSheet(), iconSheet(), lightSheet(), panelSheet()};
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -4,7 +4,7 @@
 #include "Orvane/app/StatusMenuSectionHeader.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -84,4 +84,4 @@ std::vector<GallerySheet> menuSheets() {
   return {rowSheet(), switchSheet()};
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -9,7 +9,7 @@
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -84,4 +84,4 @@ std::vector<GallerySheet> paletteSheets() {
   return {mainPaletteSheet(), settingsPaletteSheet()};
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

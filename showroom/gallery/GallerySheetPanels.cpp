@@ -6,7 +6,7 @@
 #include "showroom/gallery/GallerySheet.hpp"
 #include "showroom/gallery/PanelStage.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -119,4 +119,4 @@ std::vector<GallerySheet> panelSheets() {
   return {displaysSheet(), namesSheet(), statesSheet(), settingsPanelSheet()};
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -6,7 +6,7 @@
 #include "Orvane/ui/views/Text.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -75,4 +75,4 @@ std::vector<GallerySheet> settingsSheets() {
   return {sectionSheet(), pickerSheet()};
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

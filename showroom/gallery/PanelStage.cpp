@@ -6,7 +6,7 @@
 #include "Orvane/base/Require.hpp"
 #include "desk/machine/Machine.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -21,18 +21,18 @@ constexpr std::array<CGRect, 8> displayFrames{{{{0, 0}, {1512, 982}},
                                                {{-3000, 0}, {1080, 1920}},
                                                {{0, 2062}, {1920, 1080}}}};
 
-void carriedOut(const Displays::Problem& problem) {
+void carriedOut(const desk::Displays::Problem& problem) {
   require(!problem, "the gallery asked for displays that cannot be");
 }
 
-void plugDisplays(const std::vector<std::string>& names, Displays& displays) {
+void plugDisplays(const std::vector<std::string>& names, desk::Displays& displays) {
   require(names.size() <= displayFrames.size(), "the gallery has no place for so many displays");
   carriedOut(displays.beginTogether());
   while (!displays.isEmpty()) {
     carriedOut(displays.detach(displays.all().back().number));
   }
   for (std::size_t place = 0; place < names.size(); ++place) {
-    Display display;
+    desk::Display display;
     display.number = static_cast<std::uint32_t>(place + 1);
     display.uuid = PanelStage::displayID(place);
     display.name = names[place];
@@ -43,8 +43,8 @@ void plugDisplays(const std::vector<std::string>& names, Displays& displays) {
   carriedOut(displays.endTogether());
 }
 
-void forgetSettings(UserDefaultsStore& defaults) {
-  const UserDefaultsStore::Values stored = defaults.values();
+void forgetSettings(desk::UserDefaultsStore& defaults) {
+  const desk::UserDefaultsStore::Values stored = defaults.values();
   for (const auto& [key, value] : stored) {
     if (key != OrvaneLanguage::defaultsKey) {
       defaults.remove(key);
@@ -55,7 +55,7 @@ void forgetSettings(UserDefaultsStore& defaults) {
 }  // namespace
 
 std::shared_ptr<OrvaneModel> PanelStage::model() const {
-  Machine& machine = Machine::current();
+  desk::Machine& machine = desk::Machine::current();
   plugDisplays(displayNames, machine.displays);
   forgetSettings(machine.userDefaults);
   machine.permission.setTrusted(isTrusted);
@@ -74,4 +74,4 @@ std::string PanelStage::displayID(std::size_t place) {
   return "GALLERY-" + std::to_string(place + 1);
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

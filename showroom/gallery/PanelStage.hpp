@@ -10,7 +10,7 @@
 #include "Orvane/model/OrvaneModel.hpp"
 #include "Orvane/platform/appkit/LoginItem.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 struct PanelStage {
   /// At most eight. The first display is the built-in and main one, whose name is the product's;
@@ -34,4 +34,4 @@ struct PanelStage {
   [[nodiscard]] static std::string displayID(std::size_t place);
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -13,7 +13,7 @@
 #include "desk/machine/MachineScope.hpp"
 #include "showroom/gallery/SheetPainter.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -33,16 +33,16 @@ constexpr std::array<NamedAppearance, 4> appearances{{{false, false, "-light"},
 
 int runGallery(const std::string& directory) {
   constexpr int unwritable = 2;
-  if (const auto message = missingFontsMessage()) {
+  if (const auto message = desk::missingFontsMessage()) {
     std::cerr << "orvane-desk: " << *message << '\n';
     return unwritable;
   }
   std::error_code error;
   std::filesystem::create_directories(directory, error);
-  const MachineScope scope;
+  const desk::MachineScope scope;
   scope.machine().process.start();
-  DrawingResources resources;
-  addApplicationImages(resources.images);
+  desk::DrawingResources resources;
+  desk::addApplicationImages(resources.images);
   for (const GallerySheet& sheet : gallerySheets()) {
     for (const auto& [isDark, increasesContrast, ending] : appearances) {
       const std::string name = sheet.name + ending + ".png";
@@ -51,10 +51,10 @@ int runGallery(const std::string& directory) {
       style.increasesContrast = increasesContrast;
       if (increasesContrast) {
         // What matters then is the components' own; one wallpaper spares two thirds of the time.
-        style.wallpapers = {Appearance::Wallpaper::busy};
+        style.wallpapers = {desk::Appearance::Wallpaper::busy};
       }
-      const SurfacePointer picture = paintSheet(sheet, style, scope.machine(), resources);
-      if (!writePng(picture.get(), std::filesystem::path(directory) / name)) {
+      const desk::SurfacePointer picture = paintSheet(sheet, style, scope.machine(), resources);
+      if (!desk::writePng(picture.get(), std::filesystem::path(directory) / name)) {
         std::cerr << "orvane-desk: cannot write " << name << " in " << directory << '\n';
         return unwritable;
       }
@@ -64,4 +64,4 @@ int runGallery(const std::string& directory) {
   return 0;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// Writes every sheet, light and dark, each also with Increase Contrast, into the directory, which
 /// is made if it is not there, and prints the name of each file. Returns the exit status of the
@@ -11,4 +11,4 @@ namespace orvane::desk {
 /// the same bytes.
 int runGallery(const std::string& directory);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -13,7 +13,7 @@
 #include "showroom/desktop/WindowArt.hpp"
 #include "showroom/gallery/Specimen.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -69,9 +69,9 @@ ui::Shape groundShape(Ground ground, const ui::Rect& rect) {
   return ui::Shape::roundedRectangle(rect, cornerRadius(ground));
 }
 
-void paintGround(CairoCanvas& canvas, Ground ground, const ui::Rect& rect,
+void paintGround(desk::CairoCanvas& canvas, Ground ground, const ui::Rect& rect,
                  const ui::Appearance& appearance, ui::TextMeasurer& text,
-                 DrawingResources& resources) {
+                 desk::DrawingResources& resources) {
   const ui::Shape shape = groundShape(ground, rect);
   canvas.shadow(shape, groundShadow);
   if (ground == Ground::dialogue) {
@@ -95,4 +95,4 @@ void paintGround(CairoCanvas& canvas, Ground ground, const ui::Rect& rect,
   specimen.paint(canvas, {rect.x - Specimen::margin, rect.y - Specimen::margin});
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

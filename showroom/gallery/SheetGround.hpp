@@ -7,7 +7,7 @@
 #include "desk/canvas/CairoCanvas.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// Whether each component on such a ground is a window of its own.
 [[nodiscard]] bool isWholeWindow(GallerySheet::Ground ground);
@@ -17,8 +17,8 @@ namespace orvane::desk {
 
 /// Paints the ground into the rectangle, over the wallpaper that is there already, as the window
 /// or the menu has it that the components belong to; under a whole window its glass alone.
-void paintGround(CairoCanvas& canvas, GallerySheet::Ground ground, const ui::Rect& rect,
+void paintGround(desk::CairoCanvas& canvas, GallerySheet::Ground ground, const ui::Rect& rect,
                  const ui::Appearance& appearance, ui::TextMeasurer& text,
-                 DrawingResources& resources);
+                 desk::DrawingResources& resources);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

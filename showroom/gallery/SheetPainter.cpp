@@ -15,7 +15,7 @@
 #include "showroom/gallery/SheetGround.hpp"
 #include "showroom/gallery/Specimen.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -29,15 +29,15 @@ constexpr double captionHeight = 18;
 constexpr double rowSpacing = 10;
 constexpr double leastWidth = 360;
 
-const char* nameOf(Appearance::Wallpaper wallpaper) {
+const char* nameOf(desk::Appearance::Wallpaper wallpaper) {
   switch (wallpaper) {
-    case Appearance::Wallpaper::white:
+    case desk::Appearance::Wallpaper::white:
       return "over a white wallpaper";
-    case Appearance::Wallpaper::black:
+    case desk::Appearance::Wallpaper::black:
       return "over a black wallpaper";
-    case Appearance::Wallpaper::busy:
+    case desk::Appearance::Wallpaper::busy:
       return "over a busy wallpaper";
-    case Appearance::Wallpaper::standard:
+    case desk::Appearance::Wallpaper::standard:
       break;
   }
   return "over the desk's wallpaper";
@@ -51,8 +51,8 @@ struct Cells {
 
 class SheetPainting {
  public:
-  SheetPainting(const GallerySheet& sheet, const SheetStyle& style, Machine& machine,
-                DrawingResources& resources)
+  SheetPainting(const GallerySheet& sheet, const SheetStyle& style, desk::Machine& machine,
+                desk::DrawingResources& resources)
       : sheet_(sheet), style_(style), resources_(resources) {
     appearance_.dark = style.isDark;
     appearance_.increaseContrast = style.increasesContrast;
@@ -67,22 +67,22 @@ class SheetPainting {
       // Nothing shines through.
       wallpapers_.resize(1);
     } else if (isWholeWindow(sheet.ground)) {
-      wallpapers_ = {Appearance::Wallpaper::standard};
+      wallpapers_ = {desk::Appearance::Wallpaper::standard};
     }
     columns_ = std::min(sheet.columns, sheet.items.size());
     rows_ = (sheet.items.size() + columns_ - 1) / columns_;
   }
 
-  SurfacePointer painted() {
+  desk::SurfacePointer painted() {
     const ui::Size size = sheetSize();
-    SurfacePointer surface(cairo_image_surface_create(
+    desk::SurfacePointer surface(cairo_image_surface_create(
         CAIRO_FORMAT_ARGB32, static_cast<int>(std::ceil(size.width * style_.scale)),
         static_cast<int>(std::ceil(size.height * style_.scale))));
-    CairoCanvas canvas(surface.get(), style_.scale, resources_);
+    desk::CairoCanvas canvas(surface.get(), style_.scale, resources_);
     canvas.fill(ui::Shape::rectangle({0, 0, size.width, size.height}), paper());
     paintHead(canvas);
     double top = headHeight;
-    for (const Appearance::Wallpaper wallpaper : wallpapers_) {
+    for (const desk::Appearance::Wallpaper wallpaper : wallpapers_) {
       canvas.text(nameOf(wallpaper), ui::Font::system(12, ui::Weight::medium), ink(0.6),
                   {sheetMargin, top + 16});
       paintBand(canvas, wallpaper,
@@ -93,7 +93,7 @@ class SheetPainting {
   }
 
  private:
-  void addCells(OrvaneLanguage language, Machine& machine) {
+  void addCells(OrvaneLanguage language, desk::Machine& machine) {
     machine.userDefaults.set(OrvaneLanguage::defaultsKey, std::string(language.rawValue()));
     Cells cells;
     for (const GalleryItem& item : sheet_.items) {
@@ -143,7 +143,7 @@ class SheetPainting {
                                           : ui::Rgba{0.97, 0.97, 0.97, 1});
   }
 
-  void paintHead(CairoCanvas& canvas) const {
+  void paintHead(desk::CairoCanvas& canvas) const {
     const ui::Font font = ui::Font::system(20, ui::Weight::bold);
     canvas.text(sheet_.title, font, ink(0.9), {sheetMargin, 38});
     const double width = resources_.shaper.measure(sheet_.title, font).width;
@@ -152,7 +152,8 @@ class SheetPainting {
                 ui::Font::system(13), ink(0.6), {sheetMargin + width + 10, 38});
   }
 
-  void paintBand(CairoCanvas& canvas, Appearance::Wallpaper wallpaper, const ui::Rect& band) {
+  void paintBand(desk::CairoCanvas& canvas, desk::Appearance::Wallpaper wallpaper,
+                 const ui::Rect& band) {
     canvas.save();
     canvas.clip(ui::Shape::rectangle(band));
     canvas.transform(ui::Transform::translation(band.origin()));
@@ -165,7 +166,7 @@ class SheetPainting {
     canvas.restore();
   }
 
-  void paintRows(CairoCanvas& canvas, const ui::Rect& ground) {
+  void paintRows(desk::CairoCanvas& canvas, const ui::Rect& ground) {
     double top = ground.y + groundPadding;
     const double left =
         std::round(ground.center().x - static_cast<double>(columns_) * cell_.width / 2);
@@ -181,7 +182,8 @@ class SheetPainting {
     }
   }
 
-  void paintCell(CairoCanvas& canvas, const Cells& cells, std::size_t index, ui::Point corner) {
+  void paintCell(desk::CairoCanvas& canvas, const Cells& cells, std::size_t index,
+                 ui::Point corner) {
     const Specimen& specimen = *cells.specimens[index];
     const ui::Size size = specimen.size();
     const ui::Point place{corner.x + std::round((cell_.width - size.width) / 2),
@@ -210,9 +212,9 @@ class SheetPainting {
   const GallerySheet& sheet_;
   const SheetStyle& style_;
   ui::Appearance appearance_;
-  std::vector<Appearance::Wallpaper> wallpapers_ = style_.wallpapers;
-  DrawingResources& resources_;
-  PangoTextMeasurer text_;
+  std::vector<desk::Appearance::Wallpaper> wallpapers_ = style_.wallpapers;
+  desk::DrawingResources& resources_;
+  desk::PangoTextMeasurer text_;
   std::vector<Cells> languages_;
   ui::Size cell_;
   std::size_t columns_ = 1;
@@ -221,9 +223,9 @@ class SheetPainting {
 
 }  // namespace
 
-SurfacePointer paintSheet(const GallerySheet& sheet, const SheetStyle& style, Machine& machine,
-                          DrawingResources& resources) {
+desk::SurfacePointer paintSheet(const GallerySheet& sheet, const SheetStyle& style,
+                                desk::Machine& machine, desk::DrawingResources& resources) {
   return SheetPainting(sheet, style, machine, resources).painted();
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

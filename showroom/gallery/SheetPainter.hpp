@@ -9,7 +9,7 @@
 #include "desk/machine/Machine.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 struct SheetStyle {
   bool isDark = false;
@@ -17,14 +17,16 @@ struct SheetStyle {
   /// Pixels per point.
   double scale = 2;
   /// Whole panels are shown over the desk's own alone.
-  std::vector<Appearance::Wallpaper> wallpapers{
-      Appearance::Wallpaper::white, Appearance::Wallpaper::black, Appearance::Wallpaper::busy};
+  std::vector<desk::Appearance::Wallpaper> wallpapers{desk::Appearance::Wallpaper::white,
+                                                      desk::Appearance::Wallpaper::black,
+                                                      desk::Appearance::Wallpaper::busy};
   std::vector<OrvaneLanguage> languages{OrvaneLanguage::english, OrvaneLanguage::chinese};
 };
 
 /// The whole sheet. The machine's stored language is another afterwards. Equal arguments give equal
 /// pixels.
-[[nodiscard]] SurfacePointer paintSheet(const GallerySheet& sheet, const SheetStyle& style,
-                                        Machine& machine, DrawingResources& resources);
+[[nodiscard]] desk::SurfacePointer paintSheet(const GallerySheet& sheet, const SheetStyle& style,
+                                              desk::Machine& machine,
+                                              desk::DrawingResources& resources);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -3,14 +3,14 @@
 
 #include <utility>
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
 /// In seconds; longer than any animation.
 constexpr double betweenEvents = 10;
 
-ui::HostPlatform platform(ui::TextMeasurer& text, DrawingResources& resources) {
+ui::HostPlatform platform(ui::TextMeasurer& text, desk::DrawingResources& resources) {
   return {&text, resources.imageSource(), {}, {}};
 }
 
@@ -18,7 +18,7 @@ ui::HostPlatform platform(ui::TextMeasurer& text, DrawingResources& resources) {
 
 Specimen::Specimen(const GalleryItem& item, OrvaneLanguage language,
                    const ui::Appearance& appearance, ui::TextMeasurer& text,
-                   DrawingResources& resources)
+                   desk::DrawingResources& resources)
     : host_(std::make_unique<ui::ViewHost>(platform(text, resources))) {
   host_->setAppearance(appearance);
   const std::function<ui::View()> make =
@@ -63,11 +63,11 @@ void Specimen::letTimePass() {
   host_->tick(host_->time() + betweenEvents);
 }
 
-void Specimen::paint(CairoCanvas& canvas, ui::Point corner) const {
+void Specimen::paint(desk::CairoCanvas& canvas, ui::Point corner) const {
   canvas.save();
   canvas.transform(ui::Transform::translation(corner));
   host_->paint(canvas, {0, 0, size().width, size().height});
   canvas.restore();
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

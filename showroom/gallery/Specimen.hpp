@@ -8,7 +8,7 @@
 #include "desk/canvas/CairoCanvas.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class Specimen {
  public:
@@ -19,7 +19,7 @@ class Specimen {
   /// in the language that is stored on the current machine. A whole panel's model lives on that
   /// machine as long as the specimen.
   Specimen(const GalleryItem& item, OrvaneLanguage language, const ui::Appearance& appearance,
-           ui::TextMeasurer& text, DrawingResources& resources);
+           ui::TextMeasurer& text, desk::DrawingResources& resources);
 
   /// Goes over to another appearance, and arrives there.
   void appear(const ui::Appearance& appearance);
@@ -29,7 +29,7 @@ class Specimen {
   [[nodiscard]] const ui::ViewHost& host() const { return *host_; }
 
   /// Paints it with its top left there, in the canvas' coordinates.
-  void paint(CairoCanvas& canvas, ui::Point corner) const;
+  void paint(desk::CairoCanvas& canvas, ui::Point corner) const;
 
  private:
   void use(Hand hand);
@@ -38,4 +38,4 @@ class Specimen {
   std::unique_ptr<ui::ViewHost> host_;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

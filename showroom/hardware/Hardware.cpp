@@ -5,7 +5,7 @@
 
 #include "showroom/desktop/StandardDisplays.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 bool Hardware::canAttachDisplay() const {
   for (std::size_t position = 0; position < standardDisplayCount; ++position) {
@@ -36,14 +36,14 @@ void Hardware::makeMain(std::uint32_t number) {
   }
 }
 
-void Hardware::setEdge(DockEdge edge) {
-  machine_.preferences.set({Dock::preferencesDomain}, Dock::orientationKey,
+void Hardware::setEdge(desk::DockEdge edge) {
+  machine_.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::orientationKey,
                            std::string(nameOf(edge)));
   machine_.runDue();
 }
 
 void Hardware::setAutoHides(bool hides) {
-  machine_.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
+  machine_.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, hides);
   machine_.runDue();
 }
 
@@ -57,7 +57,7 @@ void Hardware::setDark(bool isDark) {
   machine_.runDue();
 }
 
-void Hardware::setWallpaper(Appearance::Wallpaper wallpaper) {
+void Hardware::setWallpaper(desk::Appearance::Wallpaper wallpaper) {
   machine_.appearance.wallpaper = wallpaper;
   machine_.runDue();
 }
@@ -109,4 +109,4 @@ void Hardware::reopen() {
   application_.reopen();
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

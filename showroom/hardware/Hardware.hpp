@@ -11,7 +11,7 @@
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/machine/Machine.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// A list of languages that the Mac can be set to, best first, with the region that goes with it.
 struct LanguageList {
@@ -23,12 +23,12 @@ struct LanguageList {
 /// After each change the machine has done all that is due. Machine and application outlive it.
 class Hardware {
  public:
-  Hardware(Machine& machine, ApplicationHost& application)
+  Hardware(desk::Machine& machine, desk::ApplicationHost& application)
       : machine_(machine), application_(application) {}
 
-  [[nodiscard]] Machine& machine() { return machine_; }
-  [[nodiscard]] const Machine& machine() const { return machine_; }
-  [[nodiscard]] const ApplicationHost& application() const { return application_; }
+  [[nodiscard]] desk::Machine& machine() { return machine_; }
+  [[nodiscard]] const desk::Machine& machine() const { return machine_; }
+  [[nodiscard]] const desk::ApplicationHost& application() const { return application_; }
 
   [[nodiscard]] bool canAttachDisplay() const;
   /// The next of the standard displays; nothing when all are attached.
@@ -37,12 +37,12 @@ class Hardware {
   void detachDisplay(std::uint32_t number);
   void makeMain(std::uint32_t number);
 
-  void setEdge(DockEdge edge);
+  void setEdge(desk::DockEdge edge);
   void setAutoHides(bool hides);
 
   void setTrusted(bool trusted);
   void setDark(bool isDark);
-  void setWallpaper(Appearance::Wallpaper wallpaper);
+  void setWallpaper(desk::Appearance::Wallpaper wallpaper);
   [[nodiscard]] static const std::vector<LanguageList>& languageLists();
   /// The place in languageLists of what the Mac is set to; none when it is another list.
   [[nodiscard]] std::optional<std::size_t> languageList() const;
@@ -59,9 +59,9 @@ class Hardware {
   void setShowsZones(bool shows) { showsZones_ = shows; }
 
  private:
-  Machine& machine_;
-  ApplicationHost& application_;
+  desk::Machine& machine_;
+  desk::ApplicationHost& application_;
   bool showsZones_ = true;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

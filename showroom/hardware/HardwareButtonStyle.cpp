@@ -3,7 +3,7 @@
 
 #include "Orvane/ui/views/ShapeView.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 using namespace ui;
 
@@ -19,4 +19,4 @@ View HardwareButtonStyle::body(const ButtonConfiguration& configuration,
       .opacity(configuration.isEnabled ? 1 : 0.4);
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

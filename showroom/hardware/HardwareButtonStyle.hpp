@@ -3,11 +3,11 @@
 
 #include "Orvane/ui/views/ButtonStyle.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 struct HardwareButtonStyle {
   ui::View body(const ui::ButtonConfiguration& configuration,
                 const ui::Environment& environment) const;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -7,7 +7,7 @@
 #include "Orvane/ui/views/Text.hpp"
 #include "showroom/hardware/HardwareButtonStyle.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 using namespace ui;
 
@@ -55,4 +55,4 @@ View HardwareChoice::body(const Environment& environment) const {
       .height(30);
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

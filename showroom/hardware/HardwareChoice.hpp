@@ -9,7 +9,7 @@
 
 #include "Orvane/ui/views/View.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 struct HardwareChoice {
   std::string title;
@@ -23,4 +23,4 @@ struct HardwareChoice {
   [[nodiscard]] ui::View segment(std::size_t index, const ui::Environment& environment) const;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -12,23 +12,23 @@ std::string sizeText(const CGRect& frame) {
          std::to_string(std::lround(frame.size.height));
 }
 
-std::vector<HardwareDisplay> displaysOf(const Machine& machine) {
+std::vector<HardwareDisplay> displaysOf(const desk::Machine& machine) {
   std::vector<HardwareDisplay> displays;
-  const Display* const main = machine.displays.main();
-  for (const Display& display : machine.displays.all()) {
+  const desk::Display* const main = machine.displays.main();
+  for (const desk::Display& display : machine.displays.all()) {
     displays.push_back({display.number, display.name, sizeText(display.frame),
                         main != nullptr && main->number == display.number});
   }
   return displays;
 }
 
-std::string dockText(const Machine& machine) {
+std::string dockText(const desk::Machine& machine) {
   const auto number = machine.dock.displayNumber();
-  const Display* const display = number ? machine.displays.find(*number) : nullptr;
+  const desk::Display* const display = number ? machine.displays.find(*number) : nullptr;
   return display == nullptr ? "nowhere" : display->name;
 }
 
-std::string statusText(const ApplicationHost& application) {
+std::string statusText(const desk::ApplicationHost& application) {
   if (!application.isRunning()) {
     return "Not running";
   }
@@ -49,7 +49,7 @@ std::string statusText(const ApplicationHost& application) {
   return {};
 }
 
-std::string revealsText(const Machine& machine) {
+std::string revealsText(const desk::Machine& machine) {
   std::int64_t sum = 0;
   for (const auto& [number, count] : machine.dock.reveals()) {
     sum += count;
@@ -57,15 +57,15 @@ std::string revealsText(const Machine& machine) {
   return std::to_string(sum);
 }
 
-std::string blockedText(const ApplicationHost& application) {
+std::string blockedText(const desk::ApplicationHost& application) {
   return std::to_string(application.snapshot().guard.blockedCount);
 }
 
 }  // namespace
 
 HardwareContent HardwareContent::of(const Hardware& hardware, std::int64_t eventsPerSecond) {
-  const Machine& machine = hardware.machine();
-  const ApplicationHost& application = hardware.application();
+  const desk::Machine& machine = hardware.machine();
+  const desk::ApplicationHost& application = hardware.application();
   HardwareContent content;
   content.displays = displaysOf(machine);
   content.canAttachDisplay = hardware.canAttachDisplay();
@@ -89,4 +89,4 @@ HardwareContent HardwareContent::of(const Hardware& hardware, std::int64_t event
   return content;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -9,7 +9,7 @@
 
 #include "showroom/hardware/Hardware.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 struct HardwareDisplay {
   std::uint32_t number = 0;
@@ -29,11 +29,11 @@ struct HardwareFigure {
 struct HardwareContent {
   std::vector<HardwareDisplay> displays;
   bool canAttachDisplay = false;
-  DockEdge edge = DockEdge::bottom;
+  desk::DockEdge edge = desk::DockEdge::bottom;
   bool autoHides = false;
   bool isTrusted = false;
   bool isDark = false;
-  Appearance::Wallpaper wallpaper = Appearance::Wallpaper::standard;
+  desk::Appearance::Wallpaper wallpaper = desk::Appearance::Wallpaper::standard;
   std::optional<std::size_t> languageList;
   bool isRunning = false;
   bool showsZones = false;
@@ -48,4 +48,4 @@ struct HardwareContent {
   [[nodiscard]] static HardwareContent of(const Hardware& hardware, std::int64_t eventsPerSecond);
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -11,7 +11,7 @@
 #include "showroom/hardware/HardwareChoice.hpp"
 #include "showroom/hardware/HardwareSwitch.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 using namespace ui;
 
@@ -115,13 +115,13 @@ View HardwarePanel::dock() const {
   return Group{"Dock",
                {HardwareChoice{"Edge",
                                {"Left", "Bottom", "Right"},
-                               content.edge == DockEdge::left     ? 0U
-                               : content.edge == DockEdge::bottom ? 1U
-                                                                  : 2U,
+                               content.edge == desk::DockEdge::left     ? 0U
+                               : content.edge == desk::DockEdge::bottom ? 1U
+                                                                        : 2U,
                                [target](std::size_t index) {
-                                 target->setEdge(index == 0   ? DockEdge::left
-                                                 : index == 1 ? DockEdge::bottom
-                                                              : DockEdge::right);
+                                 target->setEdge(index == 0   ? desk::DockEdge::left
+                                                 : index == 1 ? desk::DockEdge::bottom
+                                                              : desk::DockEdge::right);
                                }},
                 HardwareSwitch{"Hide the Dock automatically", content.autoHides,
                                [target](bool isOn) { target->setAutoHides(isOn); }}}};
@@ -133,21 +133,22 @@ View HardwarePanel::mac() const {
   for (const LanguageList& list : Hardware::languageLists()) {
     languages.emplace_back(list.title);
   }
-  return Group{"Mac",
-               {HardwareSwitch{"Accessibility permission", content.isTrusted,
-                               [target](bool isOn) { target->setTrusted(isOn); }},
-                HardwareChoice{"Appearance",
-                               {"Light", "Dark"},
-                               content.isDark ? 1U : 0U,
-                               [target](std::size_t index) { target->setDark(index == 1); }},
-                HardwareChoice{"Wallpaper",
-                               {"Default", "White", "Black", "Busy"},
-                               static_cast<std::size_t>(content.wallpaper),
-                               [target](std::size_t index) {
-                                 target->setWallpaper(static_cast<Appearance::Wallpaper>(index));
-                               }},
-                HardwareChoice{"Language", languages, content.languageList,
-                               [target](std::size_t index) { target->setLanguageList(index); }}}};
+  return Group{
+      "Mac",
+      {HardwareSwitch{"Accessibility permission", content.isTrusted,
+                      [target](bool isOn) { target->setTrusted(isOn); }},
+       HardwareChoice{"Appearance",
+                      {"Light", "Dark"},
+                      content.isDark ? 1U : 0U,
+                      [target](std::size_t index) { target->setDark(index == 1); }},
+       HardwareChoice{"Wallpaper",
+                      {"Default", "White", "Black", "Busy"},
+                      static_cast<std::size_t>(content.wallpaper),
+                      [target](std::size_t index) {
+                        target->setWallpaper(static_cast<desk::Appearance::Wallpaper>(index));
+                      }},
+       HardwareChoice{"Language", languages, content.languageList,
+                      [target](std::size_t index) { target->setLanguageList(index); }}}};
 }
 
 View HardwarePanel::application() const {
@@ -197,4 +198,4 @@ View HardwarePanel::body(const Environment& environment) const {
       .overlay(Rectangle().fill(line).width(1), Alignment::leading());
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

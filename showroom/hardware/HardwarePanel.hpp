@@ -8,7 +8,7 @@
 #include "Orvane/ui/views/View.hpp"
 #include "showroom/hardware/HardwareContent.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// Every control has a label. The hardware outlives the view.
 struct HardwarePanel {
@@ -30,4 +30,4 @@ struct HardwarePanel {
   [[nodiscard]] ui::View words() const;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -6,7 +6,7 @@
 
 #include "desk/hand/FindControl.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 HardwarePanelHost::HardwarePanelHost(Hardware& hardware) : hardware_(hardware), host_(platform()) {
   host_.setRoot([this](const ui::Environment&) -> ui::View {
@@ -42,7 +42,7 @@ void HardwarePanelHost::show(const HardwareContent& content) {
   update();
 }
 
-void HardwarePanelHost::paint(CairoCanvas& canvas, ui::Point corner) {
+void HardwarePanelHost::paint(desk::CairoCanvas& canvas, ui::Point corner) {
   canvas.save();
   canvas.clip(ui::Shape::rectangle({corner.x, corner.y, size_.width, size_.height}));
   canvas.transform(ui::Transform::translation({corner.x, corner.y - scrolled_}));
@@ -87,12 +87,12 @@ bool HardwarePanelHost::keyDown(const ui::KeyEvent& event) {
 
 void HardwarePanelHost::revealFocus() {
   constexpr double margin = 8;
-  const auto focused =
-      findElement(host_.semantics(), [](const ui::SemanticsNode& node) { return node.isFocused; });
+  const auto focused = desk::findElement(
+      host_.semantics(), [](const ui::SemanticsNode& node) { return node.isFocused; });
   if (focused) {
     scrollBy(std::max(focused->frame.bottom() + margin - scrolled_ - size_.height, 0.0));
     scrollBy(std::min(focused->frame.y - margin - scrolled_, 0.0));
   }
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

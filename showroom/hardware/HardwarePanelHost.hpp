@@ -11,7 +11,7 @@
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/hardware/HardwarePanel.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// Points are counted from the top left of what is seen of the panel; one that is higher than its
 /// place is scrolled. The hardware outlives it.
@@ -30,7 +30,7 @@ class HardwarePanelHost {
   [[nodiscard]] std::int64_t changeCount() const { return changeCount_; }
 
   /// Paints what was shown last, with the top left of its place there.
-  void paint(CairoCanvas& canvas, ui::Point corner);
+  void paint(desk::CairoCanvas& canvas, ui::Point corner);
 
   void pointerMoved(ui::Point point);
   void pointerExited();
@@ -57,12 +57,12 @@ class HardwarePanelHost {
 
   Hardware& hardware_;
   HardwareContent content_;
-  DrawingResources resources_;
-  PangoTextMeasurer text_;
+  desk::DrawingResources resources_;
+  desk::PangoTextMeasurer text_;
   std::int64_t changeCount_ = 0;
   ui::Size size_;
   double scrolled_ = 0;
   ui::ViewHost host_;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

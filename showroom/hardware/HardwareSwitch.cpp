@@ -8,7 +8,7 @@
 #include "Orvane/ui/views/Text.hpp"
 #include "showroom/hardware/HardwareButtonStyle.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 using namespace ui;
 
@@ -25,4 +25,4 @@ View HardwareSwitch::body(const Environment& /*environment*/) const {
       .accessibilityValue(isOn ? "1" : "0");
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

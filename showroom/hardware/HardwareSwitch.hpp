@@ -6,7 +6,7 @@
 
 #include "Orvane/ui/views/View.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 struct HardwareSwitch {
   std::string title;
@@ -17,4 +17,4 @@ struct HardwareSwitch {
   ui::View body(const ui::Environment& environment) const;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -9,11 +9,11 @@
 #include "showroom/tour/TourStage.hpp"
 #include "showroom/tour/TourStory.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 int runTour(const std::string& directory) {
   constexpr int unwritable = 2;
-  if (const auto message = missingFontsMessage()) {
+  if (const auto message = desk::missingFontsMessage()) {
     std::cerr << "orvane-desk: " << *message << '\n';
     return unwritable;
   }
@@ -31,4 +31,4 @@ int runTour(const std::string& directory) {
   return stage.isTrue() ? 0 : 1;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

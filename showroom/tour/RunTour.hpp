@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// Writes a numbered picture of each step into the directory, which is made if it is not there, and
 /// prints one line for each on the standard output. Returns the exit status of the program: 0; 1
@@ -11,4 +11,4 @@ namespace orvane::desk {
 /// program gives the same lines and the same bytes.
 int runTour(const std::string& directory);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -7,7 +7,7 @@
 
 #include "showroom/desktop/DesktopLayout.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -15,8 +15,9 @@ constexpr int width = 1440;
 constexpr int desktopHeight = 560;
 constexpr int captionHeight = 56;
 
-void paintCaption(CairoCanvas& canvas, DrawingResources& resources, const ui::Rect& rect,
-                  const std::string& number, const std::string& line, bool isDark) {
+void paintCaption(desk::CairoCanvas& canvas, desk::DrawingResources& resources,
+                  const ui::Rect& rect, const std::string& number, const std::string& line,
+                  bool isDark) {
   const ui::Rgba ground = isDark ? ui::Rgba{0.125, 0.13, 0.15, 1} : ui::Rgba{1, 1, 1, 1};
   const ui::Rgba ink = isDark ? ui::Rgba{1, 1, 1, 0.92} : ui::Rgba{0, 0, 0, 0.85};
   const ui::Rgba blue = isDark ? ui::Rgba{0.16, 0.56, 1, 1} : ui::Rgba{0, 0.42, 0.9, 1};
@@ -38,10 +39,10 @@ void paintCaption(CairoCanvas& canvas, DrawingResources& resources, const ui::Re
 
 }  // namespace
 
-SurfacePointer renderTourPicture(DesktopPainter& painter, DrawingResources& resources,
-                                 const DesktopScene& scene, const std::string& number,
-                                 const std::string& line) {
-  SurfacePointer surface(
+desk::SurfacePointer renderTourPicture(DesktopPainter& painter, desk::DrawingResources& resources,
+                                       const DesktopScene& scene, const std::string& number,
+                                       const std::string& line) {
+  desk::SurfacePointer surface(
       cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, desktopHeight + captionHeight));
   const DesktopLayout layout =
       DesktopLayout::fitted(scene.machine.displays.globalFrames(), DesktopStyle::monitors,
@@ -50,18 +51,18 @@ SurfacePointer renderTourPicture(DesktopPainter& painter, DrawingResources& reso
   // As large as on a screen that is shown in its own size.
   shown.pointerMagnification = std::max(1.2 / layout.scale(), 1.0);
   painter.paint(surface.get(), layout, shown);
-  CairoCanvas canvas(surface.get(), 1, resources);
+  desk::CairoCanvas canvas(surface.get(), 1, resources);
   paintCaption(canvas, resources, {0, desktopHeight, width, captionHeight}, number, line,
                scene.machine.appearance.isDark);
   return surface;
 }
 
-SurfacePointer renderCloseUp(DesktopPainter& painter, const DesktopScene& scene,
-                             const CGRect& area) {
+desk::SurfacePointer renderCloseUp(DesktopPainter& painter, const DesktopScene& scene,
+                                   const CGRect& area) {
   constexpr double scale = 2;
   const auto pixels = [](double points) { return static_cast<int>(std::lround(points * scale)); };
-  SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels(area.size.width),
-                                                    pixels(area.size.height)));
+  desk::SurfacePointer surface(cairo_image_surface_create(
+      CAIRO_FORMAT_RGB24, pixels(area.size.width), pixels(area.size.height)));
   const std::vector<CGRect>& frames = scene.machine.displays.globalFrames();
   // The layout begins at the leftmost and topmost of the displays.
   double left = 0;
@@ -76,4 +77,4 @@ SurfacePointer renderCloseUp(DesktopPainter& painter, const DesktopScene& scene,
   return surface;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

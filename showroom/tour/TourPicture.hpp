@@ -8,16 +8,16 @@
 #include "showroom/desktop/DesktopPainter.hpp"
 #include "showroom/desktop/DesktopScene.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// All pictures have the same size, whatever stands on the desk.
-SurfacePointer renderTourPicture(DesktopPainter& painter, DrawingResources& resources,
-                                 const DesktopScene& scene, const std::string& number,
-                                 const std::string& line);
+desk::SurfacePointer renderTourPicture(DesktopPainter& painter, desk::DrawingResources& resources,
+                                       const DesktopScene& scene, const std::string& number,
+                                       const std::string& line);
 
 /// What a rectangle of the desktop shows, in global coordinates, at two pixels per point and
 /// without a line.
-SurfacePointer renderCloseUp(DesktopPainter& painter, const DesktopScene& scene,
-                             const CGRect& area);
+desk::SurfacePointer renderCloseUp(DesktopPainter& painter, const DesktopScene& scene,
+                                   const CGRect& area);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

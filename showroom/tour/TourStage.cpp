@@ -10,7 +10,7 @@
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/tour/TourPicture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -26,11 +26,11 @@ TourStage::TourStage(std::filesystem::path directory, std::ostream& story, std::
       application_(scope_.machine()) {}
 
 void TourStage::push(double dx, double dy) {
-  Machine& desk = machine();
-  const PointerMovement movement = desk.mouse.moveBy(dx, dy);
+  desk::Machine& desk = machine();
+  const desk::PointerMovement movement = desk.mouse.moveBy(dx, dy);
   desk.runDue();
   movedBack_.reset();
-  if (movement.outcome == PointerMovement::Outcome::movedBack) {
+  if (movement.outcome == desk::PointerMovement::Outcome::movedBack) {
     movedBack_ = MovedBack{movement.wanted, movement.reached, 1};
   }
 }
@@ -91,7 +91,7 @@ void TourStage::clickAt(CGPoint place) {
 }
 
 void TourStage::click(const std::string& label, const std::string& surface) {
-  const Hand::FoundControl found = hand_.find({label, surface});
+  const desk::Hand::FoundControl found = hand_.find({label, surface});
   check(found.control.has_value(), "there is a control \"" + label + "\" in " + surface);
   if (found.control) {
     const CGRect& frame = found.control->frame;
@@ -113,15 +113,15 @@ void TourStage::clickIcon(std::uint32_t displayNumber) {
   const auto& displays = machine().displays.all();
   for (std::size_t index = 0; index < displays.size(); ++index) {
     if (displays[index].number == displayNumber) {
-      const CGRect icon = StatusBar::itemFrame(machine().displays.globalFrames()[index]);
+      const CGRect icon = desk::StatusBar::itemFrame(machine().displays.globalFrames()[index]);
       clickAt({CGRectGetMidX(icon), CGRectGetMidY(icon)});
     }
   }
 }
 
 void TourStage::closeWindow(const std::string& surface) {
-  WindowServer& server = WindowServer::current();
-  if (const auto window = Surfaces(server).window(surface)) {
+  desk::WindowServer& server = desk::WindowServer::current();
+  if (const auto window = desk::Surfaces(server).window(surface)) {
     server.performClose(window);
     machine().runDue();
   }
@@ -132,8 +132,8 @@ void TourStage::pressEscape() {
 }
 
 void TourStage::dropIcon() {
-  WindowServer& server = WindowServer::current();
-  const auto system = Surfaces(server).window("system");
+  desk::WindowServer& server = desk::WindowServer::current();
+  const auto system = desk::Surfaces(server).window("system");
   const auto list = application_.systemSettings().listFrame();
   const std::optional<CGPoint> icon = hand_.iconPlace();
   check(icon && list && system != nullptr, "guide and list are there");
@@ -182,7 +182,7 @@ void TourStage::tell(const std::string& line) {
   DesktopScene scene(machine(), application_);
   scene.showsZones = showsZones_;
   scene.movedBack = movedBack_;
-  const SurfacePointer picture = renderTourPicture(painter_, resources_, scene, number, line);
+  const desk::SurfacePointer picture = renderTourPicture(painter_, resources_, scene, number, line);
   write(picture.get(), number);
   if (!failedToWrite_) {
     story_ << number << "  " << line << std::endl;
@@ -194,10 +194,10 @@ void TourStage::keep(const std::string& name, const std::string& surface) {
     return;
   }
   constexpr double margin = 28;
-  WindowServer& server = WindowServer::current();
-  const auto window = Surfaces(server).window(surface);
+  desk::WindowServer& server = desk::WindowServer::current();
+  const auto window = desk::Surfaces(server).window(surface);
   CGRect frame = server.menus.frame();
-  if (surface != Surfaces::menu) {
+  if (surface != desk::Surfaces::menu) {
     frame = window != nullptr ? machine().displays.flipped(window->frame) : CGRect{};
   }
   check(frame.size.width > 0, "there is a surface \"" + surface + "\"");
@@ -207,21 +207,21 @@ void TourStage::keep(const std::string& name, const std::string& surface) {
   ++keptCount_;
   const CGRect area = CGRectMake(frame.origin.x - margin, frame.origin.y - margin,
                                  frame.size.width + 2 * margin, frame.size.height + 2 * margin);
-  const SurfacePointer picture =
+  const desk::SurfacePointer picture =
       renderCloseUp(painter_, DesktopScene(machine(), application_), onItsScreen(area));
   write(picture.get(), name);
 }
 
 void TourStage::write(cairo_surface_t* picture, const std::string& fileName) {
   const std::filesystem::path file = directory_ / (fileName + ".png");
-  if (!writePng(picture, file)) {
+  if (!desk::writePng(picture, file)) {
     failedToWrite_ = true;
     complaints_ << "orvane-desk: cannot write " << file.string() << '\n';
   }
 }
 
 std::string TourStage::nameOf(std::uint32_t displayNumber) {
-  const Display* const display = machine().displays.find(displayNumber);
+  const desk::Display* const display = machine().displays.find(displayNumber);
   return display == nullptr ? "no display" : display->name;
 }
 
@@ -233,4 +233,4 @@ bool TourStage::isDockOn(std::uint32_t displayNumber) {
   return machine().dock.displayNumber() == displayNumber;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

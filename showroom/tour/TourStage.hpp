@@ -14,7 +14,7 @@
 #include "showroom/desktop/DesktopPainter.hpp"
 #include "showroom/desktop/DesktopScene.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// What the story claims is checked against the machine before it is told; once a claim does not
 /// hold, the stage reports it and tells nothing more.
@@ -22,8 +22,8 @@ class TourStage {
  public:
   TourStage(std::filesystem::path directory, std::ostream& story, std::ostream& complaints);
 
-  [[nodiscard]] Machine& machine() { return scope_.machine(); }
-  [[nodiscard]] ApplicationHost& application() { return application_; }
+  [[nodiscard]] desk::Machine& machine() { return scope_.machine(); }
+  [[nodiscard]] desk::ApplicationHost& application() { return application_; }
   /// The application as it is now.
   [[nodiscard]] OrvaneSnapshot seen() const { return application_.snapshot(); }
 
@@ -76,10 +76,10 @@ class TourStage {
   std::filesystem::path directory_;
   std::ostream& story_;
   std::ostream& complaints_;
-  MachineScope scope_;
-  ApplicationHost application_;
-  Hand hand_{machine()};
-  DrawingResources resources_;
+  desk::MachineScope scope_;
+  desk::ApplicationHost application_;
+  desk::Hand hand_{machine()};
+  desk::DrawingResources resources_;
   DesktopPainter painter_{resources_};
   std::optional<MovedBack> movedBack_;
   int stepCount_ = 0;
@@ -89,4 +89,4 @@ class TourStage {
   bool failedToWrite_ = false;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -8,7 +8,7 @@
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -33,7 +33,7 @@ std::size_t zoneCount(TourStage& stage) {
 }
 
 void setAutoHide(TourStage& stage, bool hides) {
-  stage.machine().preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
+  stage.machine().preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, hides);
 }
 
 /// Seconds from the machine's start at midnight to this hour of the day.
@@ -42,11 +42,11 @@ void waitUntil(TourStage& stage, int hour, int minute) {
   constexpr int secondsPerMinute = 60;
   const double wanted = (hour * minutesPerHour + minute) * secondsPerMinute;
   stage.machine().advance(wanted - static_cast<double>(stage.machine().clock.now()) /
-                                       static_cast<double>(Clock::nanosecondsPerSecond));
+                                       static_cast<double>(desk::Clock::nanosecondsPerSecond));
 }
 
 void tellOfTheUnguardedDock(TourStage& stage) {
-  Machine& machine = stage.machine();
+  desk::Machine& machine = stage.machine();
   attachNextStandardDisplay(machine);
   attachNextStandardDisplay(machine);
   waitUntil(stage, 10, 8);
@@ -72,56 +72,57 @@ void tellOfTheUnguardedDock(TourStage& stage) {
 }
 
 void tellOfTheMenu(TourStage& stage) {
-  Machine& machine = stage.machine();
+  desk::Machine& machine = stage.machine();
   stage.moveAway(builtIn);
   stage.application().launch();
   machine.advance(1);
   stage.check(stage.application().isRunning() && !stage.seen().guard.isRunning,
               "Orvane runs and guards nothing");
-  stage.check(WindowServer::current().windows().empty(), "no window is open");
+  stage.check(desk::WindowServer::current().windows().empty(), "no window is open");
   stage.tell(
       "Orvane is running: an open lock in the menu bar, no window, and nothing guarded yet.");
 
   stage.clickIcon(builtIn);
-  stage.check(WindowServer::current().menus.isStatusMenuOpen(), "the menu is open");
-  stage.keep("menu", Surfaces::menu);
+  stage.check(desk::WindowServer::current().menus.isStatusMenuOpen(), "the menu is open");
+  stage.keep("menu", desk::Surfaces::menu);
   stage.tell("A click on the lock opens the menu: three switches, the displays, and little else.");
 }
 
 void tellOfThePermission(TourStage& stage) {
-  Machine& machine = stage.machine();
-  stage.click("Pin Dock", Surfaces::menu);
+  desk::Machine& machine = stage.machine();
+  stage.click("Pin Dock", desk::Surfaces::menu);
   machine.advance(0.5);
-  stage.check(Surfaces(WindowServer::current()).isThere("alert"), "the alert is open");
+  stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("alert"), "the alert is open");
   stage.check(!stage.seen().guard.isRunning, "nothing is guarded without the permission");
   stage.tell("Pin Dock: watching the pointer needs a permission, and Orvane says so first.");
 
   stage.click("Open Privacy Settings", "alert");
   machine.advance(2.5);
-  stage.check(Surfaces(WindowServer::current()).isThere("system"), "the settings are open");
-  stage.check(Surfaces(WindowServer::current()).isThere("guide"), "the guide is there");
+  stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("system"),
+              "the settings are open");
+  stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("guide"), "the guide is there");
   stage.tell("The System Settings open on the right page, and a small guide waits beside them.");
 
   stage.dropIcon();
   machine.advance(1.4);
   stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 1,
               "the guard runs with one zone");
-  const Display* const target = machine.displays.find(builtIn);
+  const desk::Display* const target = machine.displays.find(builtIn);
   stage.check(stage.seen().selectedDisplayID == target->uuid,
               "the Dock's own display is the target");
-  stage.check(WindowServer::current().statusBar.item()->image->name == "lock.fill" &&
-                  Surfaces(WindowServer::current()).isThere("guide"),
+  stage.check(desk::WindowServer::current().statusBar.item()->image->name == "lock.fill" &&
+                  desk::Surfaces(desk::WindowServer::current()).isThere("guide"),
               "the lock is closed, and the guide says so");
   stage.tell(
       "Its icon dropped onto the list is all it takes: the lock closes, the Dock belongs to " +
       target->name + ".");
   machine.advance(2);
   stage.closeWindow("system");
-  stage.check(WindowServer::current().windows().empty(), "guide and settings are gone");
+  stage.check(desk::WindowServer::current().windows().empty(), "guide and settings are gone");
 }
 
 void tellOfPinning(TourStage& stage) {
-  Machine& machine = stage.machine();
+  desk::Machine& machine = stage.machine();
   stage.moveAway(builtIn);
   stage.showZones();
   const std::int64_t jumps = reveals(stage);
@@ -137,7 +138,7 @@ void tellOfPinning(TourStage& stage) {
 }
 
 void tellOfTheModifier(TourStage& stage) {
-  Machine& machine = stage.machine();
+  desk::Machine& machine = stage.machine();
   stage.moveAway(right);
   machine.modifierKeys.hold(kCGEventFlagMaskAlternate);
   stage.pressLowerEdge(right, 3, 0.05);
@@ -161,11 +162,11 @@ void tellOfTheModifier(TourStage& stage) {
 }
 
 void tellOfTheWindow(TourStage& stage) {
-  Machine& machine = stage.machine();
+  desk::Machine& machine = stage.machine();
   stage.clickIcon(builtIn);
-  stage.click("Open Window", Surfaces::menu);
+  stage.click("Open Window", desk::Surfaces::menu);
   machine.advance(1);
-  stage.check(Surfaces(WindowServer::current()).isThere("main"), "the window is open");
+  stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("main"), "the window is open");
   stage.keep("main-panel", "main");
   stage.tell("The window shows the same with more room: a card for each display, and what is on.");
 
@@ -176,16 +177,18 @@ void tellOfTheWindow(TourStage& stage) {
   stage.pick("Language", "Chinese", "settings");
   machine.advance(1);
   stage.check(stage.seen().appLanguage == OrvaneLanguage::chinese, "the language is Chinese");
-  stage.check(Surfaces(WindowServer::current()).isThere("settings"), "the settings are open");
+  stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("settings"),
+              "the settings are open");
   stage.tell("In the settings: the language, here Chinese at once, and the key that unlocks.");
 
   stage.pick("语言", "跟随系统", "settings");
   stage.pressEscape();
-  stage.check(!Surfaces(WindowServer::current()).isThere("settings"), "the settings are closed");
+  stage.check(!desk::Surfaces(desk::WindowServer::current()).isThere("settings"),
+              "the settings are closed");
 }
 
 void tellOfPreventing(TourStage& stage) {
-  Machine& machine = stage.machine();
+  desk::Machine& machine = stage.machine();
   stage.click("Unpin Dock", "main");
   stage.click("Close", "main");
   setAutoHide(stage, true);
@@ -199,7 +202,7 @@ void tellOfPreventing(TourStage& stage) {
 
   stage.moveAway(builtIn);
   stage.clickIcon(builtIn);
-  stage.click("Prevent Dock Pop-Up", Surfaces::menu);
+  stage.click("Prevent Dock Pop-Up", desk::Surfaces::menu);
   stage.pressEscape();
   machine.advance(1);
   stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 2, "two zones are guarded");
@@ -220,7 +223,7 @@ void tellOfPreventing(TourStage& stage) {
 }
 
 void tellOfTheShutOff(TourStage& stage) {
-  Machine& machine = stage.machine();
+  desk::Machine& machine = stage.machine();
   stage.moveAway(right);
   machine.advance(3);
   const std::int64_t blocked = stage.seen().guard.blockedCount;
@@ -233,7 +236,7 @@ void tellOfTheShutOff(TourStage& stage) {
 }
 
 void tellOfPlugging(TourStage& stage) {
-  Machine& machine = stage.machine();
+  desk::Machine& machine = stage.machine();
   machine.appearance.isDark = true;
   waitUntil(stage, 20, 30);
   stage.moveAway(right);
@@ -246,7 +249,7 @@ void tellOfPlugging(TourStage& stage) {
 
   setAutoHide(stage, false);
   stage.clickIcon(builtIn);
-  stage.click("Open Window", Surfaces::menu);
+  stage.click("Open Window", desk::Surfaces::menu);
   machine.advance(1);
   stage.click(stage.nameOf(left), "main");
   stage.click("Pin Dock", "main");
@@ -271,7 +274,7 @@ void tellOfPlugging(TourStage& stage) {
 }
 
 void tellOfUnplugging(TourStage& stage) {
-  Machine& machine = stage.machine();
+  desk::Machine& machine = stage.machine();
   stage.moveAway(builtIn);
   const std::string target = stage.nameOf(left);
   const std::int64_t jumps = reveals(stage);
@@ -327,4 +330,4 @@ void tellTour(TourStage& stage) {
   tellOfUnplugging(stage);
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -3,9 +3,9 @@
 
 #include "showroom/tour/TourStage.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// Plays all steps on the stage, whose machine must be new.
 void tellTour(TourStage& stage);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

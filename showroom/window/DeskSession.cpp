@@ -7,7 +7,7 @@
 #include "showroom/desktop/MenuClock.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -31,14 +31,14 @@ DeskSession::DeskSession(std::size_t displayCount)
 }
 
 void DeskSession::movePointerBy(double dx, double dy) {
-  Machine& desk = machine();
-  const PointerMovement movement = desk.mouse.moveBy(dx, dy);
-  if (movement.outcome == PointerMovement::Outcome::none) {
+  desk::Machine& desk = machine();
+  const desk::PointerMovement movement = desk.mouse.moveBy(dx, dy);
+  if (movement.outcome == desk::PointerMovement::Outcome::none) {
     return;
   }
   desk.runDue();
   rate_.note(desk.clock.now(), 1);
-  if (movement.outcome == PointerMovement::Outcome::movedBack) {
+  if (movement.outcome == desk::PointerMovement::Outcome::movedBack) {
     movedBack_ = MovedBack{movement.wanted, movement.reached, 1};
     movedBackAt_ = desk.clock.now();
   }
@@ -70,7 +70,7 @@ std::int64_t DeskSession::eventsPerSecond() const {
 }
 
 std::int64_t DeskSession::nanosecondsToNextChange() const {
-  const Machine& desk = machine();
+  const desk::Machine& desk = machine();
   const std::int64_t now = desk.clock.now();
   const double shown = desk.dock.shownFraction();
   const bool slides = shown > 0 && shown < 1;
@@ -101,4 +101,4 @@ std::uint32_t DeskSession::pointerDisplayNumber() const {
   return index ? machine().displays.all()[*index].number : 0;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

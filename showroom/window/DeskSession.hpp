@@ -13,7 +13,7 @@
 #include "showroom/hardware/HardwareContent.hpp"
 #include "showroom/window/EventRate.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class DeskSession {
  public:
@@ -24,15 +24,15 @@ class DeskSession {
   /// application running.
   explicit DeskSession(std::size_t displayCount);
 
-  [[nodiscard]] Machine& machine() { return scope_.machine(); }
-  [[nodiscard]] const Machine& machine() const { return scope_.machine(); }
-  [[nodiscard]] ApplicationHost& application() { return application_; }
-  [[nodiscard]] const ApplicationHost& application() const { return application_; }
+  [[nodiscard]] desk::Machine& machine() { return scope_.machine(); }
+  [[nodiscard]] const desk::Machine& machine() const { return scope_.machine(); }
+  [[nodiscard]] desk::ApplicationHost& application() { return application_; }
+  [[nodiscard]] const desk::ApplicationHost& application() const { return application_; }
 
   /// The hand moves the mouse by so many points.
   void movePointerBy(double dx, double dy);
   /// The hand with the mouse button and the keys.
-  [[nodiscard]] Hand hand() { return Hand(machine()); }
+  [[nodiscard]] desk::Hand hand() { return desk::Hand(machine()); }
   /// Lets the machine's time pass.
   void advance(std::int64_t nanoseconds);
 
@@ -52,12 +52,12 @@ class DeskSession {
   [[nodiscard]] std::uint32_t pointerDisplayNumber() const;
 
  private:
-  MachineScope scope_;
-  ApplicationHost application_;
+  desk::MachineScope scope_;
+  desk::ApplicationHost application_;
   Hardware hardware_;
   EventRate rate_;
   std::optional<MovedBack> movedBack_;
   std::int64_t movedBackAt_ = 0;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

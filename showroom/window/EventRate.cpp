@@ -3,10 +3,11 @@
 
 #include "desk/machine/Clock.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 void EventRate::note(std::int64_t moment, std::int64_t count) {
-  while (!batches_.empty() && batches_.front().moment <= moment - Clock::nanosecondsPerSecond) {
+  while (!batches_.empty() &&
+         batches_.front().moment <= moment - desk::Clock::nanosecondsPerSecond) {
     batches_.pop_front();
   }
   if (count > 0) {
@@ -17,7 +18,7 @@ void EventRate::note(std::int64_t moment, std::int64_t count) {
 std::int64_t EventRate::perSecond(std::int64_t now) const {
   std::int64_t sum = 0;
   for (const Batch& batch : batches_) {
-    if (batch.moment > now - Clock::nanosecondsPerSecond) {
+    if (batch.moment > now - desk::Clock::nanosecondsPerSecond) {
       sum += batch.count;
     }
   }
@@ -25,7 +26,7 @@ std::int64_t EventRate::perSecond(std::int64_t now) const {
 }
 
 std::int64_t EventRate::nextChangeAt() const {
-  return batches_.empty() ? -1 : batches_.back().moment + Clock::nanosecondsPerSecond;
+  return batches_.empty() ? -1 : batches_.back().moment + desk::Clock::nanosecondsPerSecond;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <deque>
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class EventRate {
  public:
@@ -24,4 +24,4 @@ class EventRate {
   std::deque<Batch> batches_;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

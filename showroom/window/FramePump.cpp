@@ -6,18 +6,18 @@
 
 #include "desk/machine/Clock.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
 /// After the computer slept the machine does not have to catch up with more than this.
-constexpr std::int64_t longestStep = 120 * Clock::nanosecondsPerSecond;
+constexpr std::int64_t longestStep = 120 * desk::Clock::nanosecondsPerSecond;
 constexpr std::int64_t nanosecondsPerMillisecond = 1'000'000;
 
 }  // namespace
 
 FramePump::FramePump(int framesPerSecond)
-    : frameNanoseconds_(Clock::nanosecondsPerSecond / std::max(framesPerSecond, 1)),
+    : frameNanoseconds_(desk::Clock::nanosecondsPerSecond / std::max(framesPerSecond, 1)),
       last_(wallNanoseconds()),
       nextPicture_(last_),
       start_(last_) {}
@@ -59,4 +59,4 @@ int FramePump::millisecondsToWait(const DeskSession& session, bool isOutdated) c
   return static_cast<int>((wait + nanosecondsPerMillisecond - 1) / nanosecondsPerMillisecond);
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -7,7 +7,7 @@
 
 #include "showroom/window/DeskSession.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class FramePump {
  public:
@@ -39,4 +39,4 @@ class FramePump {
   std::vector<double> shown_;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

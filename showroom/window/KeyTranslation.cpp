@@ -5,7 +5,7 @@
 
 #include "Orvane/platform/Quartz.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -62,4 +62,4 @@ std::uint64_t modifierFlagsOf(SDL_Keymod state) {
   return flags;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -8,7 +8,7 @@
 
 #include "Orvane/ui/views/KeyboardShortcut.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// The key of an event of a pressed key; none for keys that the Mac's programs here have no use
 /// for, such as the modifiers themselves. Alt is Option, and the Super key is Command.
@@ -17,4 +17,4 @@ namespace orvane::desk {
 /// The kCGEventFlagMask constants of the modifiers that are held, or-ed together.
 [[nodiscard]] std::uint64_t modifierFlagsOf(SDL_Keymod state);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -15,7 +15,7 @@
 #include "showroom/window/WindowLayout.hpp"
 #include "showroom/window/WindowPicture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -58,7 +58,7 @@ WindowFrames run(DeskSession& session, SdlWindow& window, HardwarePanelHost& pan
 }  // namespace
 
 int runWindow(const WindowOptions& options) {
-  if (const auto message = missingFontsMessage()) {
+  if (const auto message = desk::missingFontsMessage()) {
     std::cerr << "orvane-desk: " << *message << '\n';
     return 1;
   }
@@ -83,4 +83,4 @@ int runWindow(const WindowOptions& options) {
   return 0;
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <optional>
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 struct WindowOptions {
   /// How many displays stand on the desk at first: 1 to 4.
@@ -21,4 +21,4 @@ struct WindowOptions {
 /// message on the error stream when no window can be opened or the dump cannot be written.
 int runWindow(const WindowOptions& options = {});
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

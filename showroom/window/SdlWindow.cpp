@@ -1,7 +1,7 @@
 // Thin: what the window shows and does is decided elsewhere.
 #include "showroom/window/SdlWindow.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -107,4 +107,4 @@ void SdlWindow::holdMouse(bool hold) {
   }
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

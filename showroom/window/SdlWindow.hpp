@@ -9,7 +9,7 @@
 
 #include "desk/canvas/CairoPointers.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class SdlWindow {
  public:
@@ -46,11 +46,11 @@ class SdlWindow {
   SdlWindow() = default;
 
   std::unique_ptr<SDL_Window, Release> window_;
-  SurfacePointer surface_;
+  desk::SurfacePointer surface_;
   /// The same pixels as SDL sees them.
   std::unique_ptr<SDL_Surface, Release> picture_;
   double pixelRatio_ = 1;
   bool isMouseHeld_ = false;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -6,13 +6,13 @@
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json dockOf(const Machine& machine) {
+Json dockOf(const desk::Machine& machine) {
   Json reveals = Json::object();
   for (const auto& [number, count] : machine.dock.reveals()) {
     reveals[std::to_string(number)] = count;
@@ -26,7 +26,7 @@ Json dockOf(const Machine& machine) {
           {"reveals", reveals}};
 }
 
-Json screensOf(const Machine& machine, const DesktopLayout& layout) {
+Json screensOf(const desk::Machine& machine, const DesktopLayout& layout) {
   Json screens = Json::array();
   for (std::size_t index = 0; index < layout.screens().size(); ++index) {
     const cairo_rectangle_int_t& pixels = layout.screens()[index].pixels;
@@ -41,10 +41,10 @@ Json applicationOf(const DeskSession& session) {
     return {{"running", false}};
   }
   const OrvaneSnapshot now = session.application().snapshot();
-  WindowServer* const server = WindowServer::of(session.machine());
+  desk::WindowServer* const server = desk::WindowServer::of(session.machine());
   return {
       {"running", true},
-      {"windows", server == nullptr ? Json::array() : Json(Surfaces(*server).names())},
+      {"windows", server == nullptr ? Json::array() : Json(desk::Surfaces(*server).names())},
       {"guardRunning", now.guard.isRunning},
       {"zones", now.guard.zones.size()},
       {"blockedCount", now.guard.blockedCount},
@@ -57,7 +57,7 @@ Json applicationOf(const DeskSession& session) {
 
 std::string windowDump(const DeskSession& session, const WindowLayout& layout,
                        const WindowFrames& frames) {
-  const Machine& machine = session.machine();
+  const desk::Machine& machine = session.machine();
   const DesktopLayout desktop = layout.desktopLayout(machine.displays.globalFrames());
   const CGPoint pointer = machine.pointer.place();
   const Json dump{
@@ -79,4 +79,4 @@ std::string windowDump(const DeskSession& session, const WindowLayout& layout,
   return dump.dump(indentation) + "\n";
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -7,7 +7,7 @@
 #include "showroom/window/DeskSession.hpp"
 #include "showroom/window/WindowLayout.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// When the window was drawn: pictures a second at the most, and the milliseconds at which each one
 /// could be seen.
@@ -20,4 +20,4 @@ struct WindowFrames {
 std::string windowDump(const DeskSession& session, const WindowLayout& layout,
                        const WindowFrames& frames);
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -7,7 +7,7 @@
 
 #include "showroom/window/KeyTranslation.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 void WindowInput::handle(const SDL_Event& event) {
   switch (event.type) {
@@ -157,4 +157,4 @@ void WindowInput::readModifiers() {
   session_.machine().modifierKeys.hold(modifierFlagsOf(SDL_GetModState()));
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -9,7 +9,7 @@
 #include "showroom/window/SdlWindow.hpp"
 #include "showroom/window/WindowLayout.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// The pointer follows the cursor over the screens, and presses on against an edge where the cursor
 /// leaves them. A click on the desktop acts there at once and lets the desk hold the mouse. Keys go
@@ -50,4 +50,4 @@ class WindowInput {
   bool panelHasKeys_ = false;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -6,7 +6,7 @@
 
 #include "showroom/hardware/HardwarePanel.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 WindowLayout::WindowLayout(int width, int height, double windowPixelRatio)
     : pixelRatio(windowPixelRatio) {
@@ -20,4 +20,4 @@ DesktopLayout WindowLayout::desktopLayout(const std::vector<CGRect>& frames) con
   return DesktopLayout::fitted(frames, DesktopStyle::monitors, desktop, pixelRatio);
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -9,7 +9,7 @@
 #include "Orvane/platform/Quartz.hpp"
 #include "showroom/desktop/DesktopLayout.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 /// All in pixels of the window's drawing area.
 struct WindowLayout {
@@ -23,4 +23,4 @@ struct WindowLayout {
   [[nodiscard]] DesktopLayout desktopLayout(const std::vector<CGRect>& frames) const;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

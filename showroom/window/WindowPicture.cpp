@@ -6,7 +6,7 @@
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/MenuClock.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 namespace {
 
@@ -18,7 +18,7 @@ double pointerMagnification(double pixelsPerPoint, double pixelRatio) {
 }  // namespace
 
 WindowPicture::Looks WindowPicture::looksOf(const DeskSession& session, bool isMouseHeld) const {
-  const Machine& machine = session.machine();
+  const desk::Machine& machine = session.machine();
   const DesktopScene scene = session.scene();
   Looks looks;
   looks.panel = session.hardwareContent(isMouseHeld);
@@ -40,7 +40,7 @@ WindowPicture::Looks WindowPicture::looksOf(const DeskSession& session, bool isM
   looks.displayChanges = machine.displays.changeCount();
   looks.wallpaper = machine.appearance.wallpaper;
   looks.statusSymbol = scene.statusSymbol;
-  if (const WindowServer* const server = WindowServer::of(machine)) {
+  if (const desk::WindowServer* const server = desk::WindowServer::of(machine)) {
     looks.windowChanges = server->updates.changeCount();
   }
   return looks;
@@ -62,8 +62,8 @@ void WindowPicture::draw(cairo_surface_t* surface, const WindowLayout& layout,
   scene.pointerMagnification = pointerMagnification(desktop.scale(), ratio);
   painter_.paint(surface, desktop, scene);
 
-  CairoCanvas canvas(surface, ratio, resources_);
+  desk::CairoCanvas canvas(surface, ratio, resources_);
   panel_.paint(canvas, {layout.panel.x / ratio, layout.panel.y / ratio});
 }
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -14,7 +14,7 @@
 #include "showroom/window/DeskSession.hpp"
 #include "showroom/window/WindowLayout.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class WindowPicture {
  public:
@@ -40,7 +40,7 @@ class WindowPicture {
     std::vector<double> places;
     std::vector<TriggerZone> zones;
     std::int64_t displayChanges = 0;
-    Appearance::Wallpaper wallpaper{};
+    desk::Appearance::Wallpaper wallpaper{};
     std::optional<std::string> statusSymbol;
     long long windowChanges = 0;
     bool operator==(const Looks&) const = default;
@@ -48,10 +48,10 @@ class WindowPicture {
   [[nodiscard]] Looks looksOf(const DeskSession& session, bool isMouseHeld) const;
 
   HardwarePanelHost& panel_;
-  DrawingResources resources_;
+  desk::DrawingResources resources_;
   DesktopPainter painter_{resources_};
   std::optional<Looks> drawn_;
   std::int64_t drawnCount_ = 0;
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -182,7 +182,7 @@ class Afternoon {
 
   desk::MachineScope scope_;
   desk::ApplicationHost application_{scope_.machine()};
-  desk::Hardware hardware_{scope_.machine(), application_};
+  showroom::Hardware hardware_{scope_.machine(), application_};
 };
 
 RC_GTEST_PROP(ShellSequence, IconAndMenuNeverLie, ()) {

@@ -13,7 +13,7 @@
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/support/ApplicationFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class DesktopFixture : public ApplicationFixture {
  protected:
@@ -30,7 +30,7 @@ class DesktopFixture : public ApplicationFixture {
   }
 
   void attach(std::uint32_t number, const ui::Rect& frame) {
-    Display display;
+    desk::Display display;
     display.number = number;
     display.uuid = "UUID-" + std::to_string(number);
     display.name = "Display " + std::to_string(number);
@@ -40,25 +40,25 @@ class DesktopFixture : public ApplicationFixture {
   }
 
   void setEdge(const std::string& edge) {
-    machine.preferences.set({Dock::preferencesDomain}, Dock::orientationKey, edge);
+    machine.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::orientationKey, edge);
   }
   void setAutoHide(bool hides) {
-    machine.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
+    machine.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, hides);
   }
 
-  SurfacePointer picture(const DesktopScene& scene) {
+  desk::SurfacePointer picture(const DesktopScene& scene) {
     return renderDesktop(painter, scene, DesktopStyle::exact, 1);
   }
-  SurfacePointer picture() { return picture(DesktopScene(machine, application)); }
+  desk::SurfacePointer picture() { return picture(DesktopScene(machine, application)); }
 
   /// How many pixels in the rectangle differ by more than a trace.
-  static int differences(const SurfacePointer& first, const SurfacePointer& second,
+  static int differences(const desk::SurfacePointer& first, const desk::SurfacePointer& second,
                          const ui::Rect& rect) {
     int count = 0;
     for (int y = static_cast<int>(rect.y); y < static_cast<int>(rect.bottom()); ++y) {
       for (int x = static_cast<int>(rect.x); x < static_cast<int>(rect.right()); ++x) {
-        const Pixel a = pixelAt(first.get(), x, y);
-        const Pixel b = pixelAt(second.get(), x, y);
+        const desk::Pixel a = desk::pixelAt(first.get(), x, y);
+        const desk::Pixel b = desk::pixelAt(second.get(), x, y);
         const int difference = std::max(
             {std::abs(a.red - b.red), std::abs(a.green - b.green), std::abs(a.blue - b.blue)});
         count += difference > 2 ? 1 : 0;
@@ -66,14 +66,14 @@ class DesktopFixture : public ApplicationFixture {
     }
     return count;
   }
-  static int differences(const SurfacePointer& first, const SurfacePointer& second) {
+  static int differences(const desk::SurfacePointer& first, const desk::SurfacePointer& second) {
     return differences(first, second,
                        {0, 0, static_cast<double>(cairo_image_surface_get_width(first.get())),
                         static_cast<double>(cairo_image_surface_get_height(first.get()))});
   }
 
-  DrawingResources resources;
+  desk::DrawingResources resources;
   DesktopPainter painter{resources};
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

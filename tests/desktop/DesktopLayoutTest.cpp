@@ -6,7 +6,7 @@
 
 #include "showroom/desktop/DesktopLayout.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 const std::vector<CGRect> sideBySide{CGRectMake(0, 0, 1024, 640), CGRectMake(1024, -60, 1120, 700)};
@@ -115,4 +115,4 @@ RC_GTEST_PROP(DesktopLayoutTest, TurnsPixelsIntoPlacesAndBack, ()) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -11,7 +11,7 @@
 #include "showroom/desktop/MenuBarLayer.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 class DesktopPainterTest : public DesktopFixture {
@@ -25,10 +25,10 @@ class DesktopPainterTest : public DesktopFixture {
                            dockTileCount());
   }
   /// The same desktop as if no Dock were there.
-  SurfacePointer pictureWithoutDock() {
+  desk::SurfacePointer pictureWithoutDock() {
     setAutoHide(true);
     machine.advance(1);
-    SurfacePointer result = picture();
+    desk::SurfacePointer result = picture();
     setAutoHide(false);
     machine.advance(1);
     return result;
@@ -39,8 +39,8 @@ TEST_F(DesktopPainterTest, PaintsTheDockWhereTheMachineSaysItIsAndNowhereElse) {
   for (const char* const edge : {"bottom", "left", "right"}) {
     setEdge(edge);
     machine.advance(1);
-    const SurfacePointer with = picture();
-    const SurfacePointer without = pictureWithoutDock();
+    const desk::SurfacePointer with = picture();
+    const desk::SurfacePointer without = pictureWithoutDock();
     const ui::Rect shelfRect = shelf().shelf;
     const double area = shelfRect.width * shelfRect.height;
     EXPECT_GT(differences(with, without, shelfRect), 0.9 * area) << edge;
@@ -53,13 +53,13 @@ TEST_F(DesktopPainterTest, PaintsTheDockWhereTheMachineSaysItIsAndNowhereElse) {
 }
 
 TEST_F(DesktopPainterTest, PaintsTheDockOnTheDisplayItHasMovedTo) {
-  const SurfacePointer before = picture();
+  const desk::SurfacePointer before = picture();
   machine.mouse.moveTo({1200, 490});
   machine.mouse.moveBy(0, 30);
   machine.advance(1);
   ASSERT_EQ(machine.dock.displayNumber(), 2U);
   machine.mouse.moveTo({400, 250});
-  const SurfacePointer after = picture();
+  const desk::SurfacePointer after = picture();
   const ui::Rect now = shelf().shelf;
   EXPECT_GT(now.x, 800);
   EXPECT_GT(differences(before, after, now), 0.9 * now.width * now.height);
@@ -67,14 +67,14 @@ TEST_F(DesktopPainterTest, PaintsTheDockOnTheDisplayItHasMovedTo) {
 }
 
 TEST_F(DesktopPainterTest, PaintsTheDockHalfWayWhileItSlides) {
-  const SurfacePointer hidden = pictureWithoutDock();
+  const desk::SurfacePointer hidden = pictureWithoutDock();
   setAutoHide(true);
   machine.advance(1);
   machine.mouse.moveTo({200, 499.5});
   machine.advance(0.125);
   ASSERT_DOUBLE_EQ(machine.dock.shownFraction(), 0.5);
   const DockShelf half = shelf();
-  const SurfacePointer sliding = picture();
+  const desk::SurfacePointer sliding = picture();
   const ui::Rect seen = half.shelf.intersection(firstFrame);
   EXPECT_GT(seen.height, 20);
   EXPECT_LT(seen.height, half.shelf.height);
@@ -83,14 +83,14 @@ TEST_F(DesktopPainterTest, PaintsTheDockHalfWayWhileItSlides) {
 }
 
 TEST_F(DesktopPainterTest, ShowsTheLockOpenOrClosedInEveryMenuBarAndNoneWithoutTheApplication) {
-  const SurfacePointer open = picture();
+  const desk::SurfacePointer open = picture();
   application.model().toggleSelectedDisplayLock();
   // The icon follows within a second.
   machine.advance(1);
   ASSERT_TRUE(application.model().isGuardRunning());
-  const SurfacePointer closed = picture();
+  const desk::SurfacePointer closed = picture();
   application.terminate();
-  const SurfacePointer none = picture();
+  const desk::SurfacePointer none = picture();
   int inside = 0;
   for (const ui::Rect& frame : {firstFrame, secondFrame}) {
     const ui::Rect icon = MenuBarLayer::statusItemFrame(frame);
@@ -103,11 +103,11 @@ TEST_F(DesktopPainterTest, ShowsTheLockOpenOrClosedInEveryMenuBarAndNoneWithoutT
 }
 
 TEST_F(DesktopPainterTest, TheMenuClockShowsTheMachinesTime) {
-  const SurfacePointer before = picture();
+  const desk::SurfacePointer before = picture();
   machine.advance(30);
   EXPECT_EQ(differences(before, picture()), 0);
   machine.advance(30);
-  const SurfacePointer after = picture();
+  const desk::SurfacePointer after = picture();
   EXPECT_GT(differences(before, after, {660, 0, 140, 24}), 5);
   EXPECT_EQ(differences(before, after, {0, 24, 1600, 476}), 0);
 }
@@ -117,26 +117,26 @@ TEST_F(DesktopPainterTest, MarksTheZonesThatAreInForceWhenAsked) {
   machine.runDue();
   DesktopScene scene(machine, application);
   ASSERT_EQ(scene.zones.size(), 1U);
-  const SurfacePointer plain = picture(scene);
+  const desk::SurfacePointer plain = picture(scene);
   scene.showsZones = true;
-  const SurfacePointer marked = picture(scene);
+  const desk::SurfacePointer marked = picture(scene);
   const ui::Rect zone{800, 488, 800, 12};
   EXPECT_EQ(differences(plain, marked, zone), 800 * 12);
   // Only the arrows reach beyond the zone, by half a nudge, a line and its ends.
   EXPECT_GT(differences(plain, marked, {800, 474, 800, 14}), 0);
   EXPECT_EQ(differences(plain, marked), differences(plain, marked, {800, 474, 800, 26}));
   for (const int x : {805, 1200, 1595}) {
-    const Pixel before = pixelAt(plain.get(), x, 494);
-    const Pixel after = pixelAt(marked.get(), x, 494);
+    const desk::Pixel before = desk::pixelAt(plain.get(), x, 494);
+    const desk::Pixel after = desk::pixelAt(marked.get(), x, 494);
     EXPECT_GT(after.red - before.red, after.blue - before.blue + 40) << x;
   }
 }
 
 TEST_F(DesktopPainterTest, MarksWhatWasMovedBackUntilItIsForgotten) {
   DesktopScene scene(machine, application);
-  const SurfacePointer plain = picture(scene);
+  const desk::SurfacePointer plain = picture(scene);
   scene.movedBack = MovedBack{{1200, 300}, {1200, 288}, 1};
-  const SurfacePointer marked = picture(scene);
+  const desk::SurfacePointer marked = picture(scene);
   EXPECT_GT(differences(plain, marked, {1170, 270, 60, 60}), 100);
   EXPECT_EQ(differences(plain, marked, firstFrame), 0);
   scene.movedBack->strength = 0;
@@ -144,39 +144,39 @@ TEST_F(DesktopPainterTest, MarksWhatWasMovedBackUntilItIsForgotten) {
 }
 
 TEST_F(DesktopPainterTest, PaintsThePointerWithItsTipAtItsPlace) {
-  const SurfacePointer before = picture();
+  const desk::SurfacePointer before = picture();
   machine.mouse.moveTo({1100, 200});
-  const SurfacePointer after = picture();
+  const desk::SurfacePointer after = picture();
   EXPECT_GT(differences(before, after, {1097, 197, 16, 24}), 100);
   EXPECT_EQ(differences(before, after), differences(before, after, {1094, 194, 22, 30}) +
                                             differences(before, after, {394, 244, 22, 30}));
   // Inside the arrow, a little below the tip, it is dark.
-  EXPECT_LT(pixelAt(after.get(), 1102, 206).green, 60);
+  EXPECT_LT(desk::pixelAt(after.get(), 1102, 206).green, 60);
   DesktopScene large(machine, application);
   large.pointerMagnification = 2;
   EXPECT_GT(differences(before, picture(large), {1097, 222, 40, 20}), 50);
 }
 
 TEST_F(DesktopPainterTest, ChangesTheWallpaperAndTheAppearanceWhenTheUserDoes) {
-  const SurfacePointer light = picture();
+  const desk::SurfacePointer light = picture();
   machine.appearance.isDark = true;
-  const SurfacePointer dark = picture();
-  EXPECT_GT(pixelAt(light.get(), 400, 4).green, 150);
-  EXPECT_LT(pixelAt(dark.get(), 400, 4).green, 60);
-  machine.appearance.wallpaper = Appearance::Wallpaper::white;
-  EXPECT_EQ(pixelAt(picture().get(), 100, 200), (Pixel{255, 255, 255, 255}));
-  machine.appearance.wallpaper = Appearance::Wallpaper::black;
-  EXPECT_EQ(pixelAt(picture().get(), 100, 200), (Pixel{0, 0, 0, 255}));
+  const desk::SurfacePointer dark = picture();
+  EXPECT_GT(desk::pixelAt(light.get(), 400, 4).green, 150);
+  EXPECT_LT(desk::pixelAt(dark.get(), 400, 4).green, 60);
+  machine.appearance.wallpaper = desk::Appearance::Wallpaper::white;
+  EXPECT_EQ(desk::pixelAt(picture().get(), 100, 200), (desk::Pixel{255, 255, 255, 255}));
+  machine.appearance.wallpaper = desk::Appearance::Wallpaper::black;
+  EXPECT_EQ(desk::pixelAt(picture().get(), 100, 200), (desk::Pixel{0, 0, 0, 255}));
 }
 
 TEST_F(DesktopPainterTest, KeepsTheMenuBarLegibleOnEveryWallpaper) {
-  using Wallpaper = Appearance::Wallpaper;
+  using Wallpaper = desk::Appearance::Wallpaper;
   for (const bool isDark : {false, true}) {
     for (const Wallpaper wallpaper :
          {Wallpaper::standard, Wallpaper::white, Wallpaper::black, Wallpaper::busy}) {
       machine.appearance.isDark = isDark;
       machine.appearance.wallpaper = wallpaper;
-      const SurfacePointer shown = picture();
+      const desk::SurfacePointer shown = picture();
       const auto linear = [](int component) {
         const double value = component / 255.0;
         return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
@@ -184,7 +184,7 @@ TEST_F(DesktopPainterTest, KeepsTheMenuBarLegibleOnEveryWallpaper) {
       // The contrast of WCAG 2.1 between the text's colour and the bar behind the status icons.
       double worst = 21;
       for (int x = 400; x < 560; ++x) {
-        const Pixel pixel = pixelAt(shown.get(), x, 12);
+        const desk::Pixel pixel = desk::pixelAt(shown.get(), x, 12);
         const double luminance =
             0.2126 * linear(pixel.red) + 0.7152 * linear(pixel.green) + 0.0722 * linear(pixel.blue);
         const double ink = isDark ? 0.83 : 0.02;
@@ -213,14 +213,16 @@ TEST_F(DesktopPainterTest, PutsWindowsBelowTheDockAndMenusAboveTheMenuBar) {
   painter.addAboveWallpaper(std::make_unique<SquareLayer>(
       ui::Rect{dock.x - 40, dock.y - 40, dock.width + 80, dock.height + 40}));
   painter.addAboveMenuBar(std::make_unique<SquareLayer>(ui::Rect{780, 10, 60, 60}));
-  const SurfacePointer shown = picture();
-  const Pixel magenta{255, 0, 255, 255};
-  EXPECT_EQ(pixelAt(shown.get(), static_cast<int>(dock.x) - 30, static_cast<int>(dock.y) - 35),
-            magenta);
+  const desk::SurfacePointer shown = picture();
+  const desk::Pixel magenta{255, 0, 255, 255};
+  EXPECT_EQ(
+      desk::pixelAt(shown.get(), static_cast<int>(dock.x) - 30, static_cast<int>(dock.y) - 35),
+      magenta);
   const ui::Point tile = shelf().tiles[1].center();
-  EXPECT_NE(pixelAt(shown.get(), static_cast<int>(tile.x), static_cast<int>(tile.y)), magenta);
-  EXPECT_EQ(pixelAt(shown.get(), 785, 15), magenta);
-  EXPECT_EQ(pixelAt(shown.get(), 830, 15), magenta);
+  EXPECT_NE(desk::pixelAt(shown.get(), static_cast<int>(tile.x), static_cast<int>(tile.y)),
+            magenta);
+  EXPECT_EQ(desk::pixelAt(shown.get(), 785, 15), magenta);
+  EXPECT_EQ(desk::pixelAt(shown.get(), 830, 15), magenta);
 }
 
 TEST_F(DesktopPainterTest, AsksForNoPictureOrSymbolThatIsNotThere) {
@@ -231,8 +233,8 @@ TEST_F(DesktopPainterTest, AsksForNoPictureOrSymbolThatIsNotThere) {
 /// A window that is filled with the accent colour, and a pop-up menu of one item, by night.
 class DesktopAccentTest : public DesktopFixture {
  protected:
-  static constexpr Pixel blueByDay{0, 122, 255, 255};
-  static constexpr Pixel blueByNight{10, 132, 255, 255};
+  static constexpr desk::Pixel blueByDay{0, 122, 255, 255};
+  static constexpr desk::Pixel blueByNight{10, 132, 255, 255};
 
   DesktopAccentTest() {
     machine.appearance.isDark = true;
@@ -243,14 +245,14 @@ class DesktopAccentTest : public DesktopFixture {
   }
 
   /// Blending rounds.
-  static bool isAbout(const Pixel& pixel, const Pixel& wanted) {
+  static bool isAbout(const desk::Pixel& pixel, const desk::Pixel& wanted) {
     return std::abs(pixel.red - wanted.red) <= 1 && std::abs(pixel.green - wanted.green) <= 1 &&
            std::abs(pixel.blue - wanted.blue) <= 1;
   }
-  Pixel pixelOfWindow() { return pixelAt(picture().get(), 250, 250); }
+  desk::Pixel pixelOfWindow() { return desk::pixelAt(picture().get(), 250, 250); }
   /// Of the item that the pointer is over.
-  Pixel pixelOfItem() {
-    WindowServer& server = WindowServer::current();
+  desk::Pixel pixelOfItem() {
+    desk::WindowServer& server = desk::WindowServer::current();
     ui::MenuRequest request;
     request.items = {"One"};
     request.anchor = {0, 0, 100, 20};
@@ -260,18 +262,18 @@ class DesktopAccentTest : public DesktopFixture {
     const CGRect frame = server.menus.rows().front().frame;
     machine.mouse.moveTo({CGRectGetMaxX(frame) - 12, CGRectGetMidY(frame)});
     machine.runDue();
-    const SurfacePointer shown = picture();
+    const desk::SurfacePointer shown = picture();
     server.menus.close();
     // Beside the pointer's arrow, which hangs to the right.
-    return pixelAt(shown.get(), static_cast<int>(CGRectGetMaxX(frame)) - 15,
-                   static_cast<int>(CGRectGetMidY(frame)));
+    return desk::pixelAt(shown.get(), static_cast<int>(CGRectGetMaxX(frame)) - 15,
+                         static_cast<int>(CGRectGetMidY(frame)));
   }
 
   appkit::Window window{appkit::WindowKind::window, CGRectMake(200, 200, 100, 100), 0};
 };
 
 TEST_F(DesktopAccentTest, TheBlueOfTheDayCanBeChosenForTheNight) {
-  machine.appearance.accent = Appearance::Accent{0, 122, 255};
+  machine.appearance.accent = desk::Appearance::Accent{0, 122, 255};
   EXPECT_PRED2(isAbout, pixelOfWindow(), blueByDay);
   EXPECT_PRED2(isAbout, pixelOfItem(), blueByDay);
 }
@@ -279,9 +281,9 @@ TEST_F(DesktopAccentTest, TheBlueOfTheDayCanBeChosenForTheNight) {
 TEST_F(DesktopAccentTest, WithoutAChoiceItIsTheBlueOfTheNight) {
   EXPECT_PRED2(isAbout, pixelOfWindow(), blueByNight);
   EXPECT_PRED2(isAbout, pixelOfItem(), blueByNight);
-  machine.appearance.accent = Appearance::Accent{200, 20, 60};
-  EXPECT_PRED2(isAbout, pixelOfItem(), (Pixel{200, 20, 60, 255}));
+  machine.appearance.accent = desk::Appearance::Accent{200, 20, 60};
+  EXPECT_PRED2(isAbout, pixelOfItem(), (desk::Pixel{200, 20, 60, 255}));
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

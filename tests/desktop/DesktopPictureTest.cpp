@@ -10,7 +10,7 @@
 #include "tests/support/BytesOf.hpp"
 #include "tests/support/KeptPicture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 class DesktopPictureTest : public DesktopFixture {
@@ -20,16 +20,16 @@ class DesktopPictureTest : public DesktopFixture {
       (std::string("orvane-desktop-") +
        testing::UnitTest::GetInstance()->current_test_info()->name() + ".png");
 
-  static void expectPicture(const SurfacePointer& shown, const std::string& name) {
-    EXPECT_EQ(differenceFromKept(shown.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
-                                                  "tests/desktop/pictures" / (name + ".png")),
+  static void expectPicture(const desk::SurfacePointer& shown, const std::string& name) {
+    EXPECT_EQ(desk::differenceFromKept(shown.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
+                                                        "tests/desktop/pictures" / (name + ".png")),
               std::nullopt);
   }
 };
 
 TEST_F(DesktopPictureTest, AreWrittenAtTheScaleThatIsAskedFor) {
   ASSERT_EQ(writeDesktopPicture(machine, application, file, 0.5), std::nullopt);
-  const SurfacePointer read = readPng(file);
+  const desk::SurfacePointer read = desk::readPng(file);
   ASSERT_TRUE(read);
   EXPECT_EQ(cairo_image_surface_get_width(read.get()), 800);
   EXPECT_EQ(cairo_image_surface_get_height(read.get()), 250);
@@ -74,11 +74,11 @@ TEST_F(DesktopPictureTest, ByNightWithTheDockAtTheLeft) {
 }
 
 TEST_F(DesktopPictureTest, OnABusyWallpaper) {
-  machine.appearance.wallpaper = Appearance::Wallpaper::busy;
+  machine.appearance.wallpaper = desk::Appearance::Wallpaper::busy;
   ASSERT_FALSE(machine.displays.detach(2));
   expectPicture(renderDesktop(painter, DesktopScene(machine, application), DesktopStyle::exact, 1),
                 "busy");
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -4,7 +4,7 @@
 
 #include "showroom/desktop/DockShelf.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 constexpr std::size_t tileCount = 10;
@@ -18,7 +18,7 @@ bool holds(const ui::Rect& outer, const ui::Rect& inner) {
 }
 
 TEST(DockShelfTest, StandsInTheMiddleOfItsEdgeWithAGapToIt) {
-  const DockShelf dock = DockShelf::make(wide, DockEdge::bottom, 1, tileCount);
+  const DockShelf dock = DockShelf::make(wide, desk::DockEdge::bottom, 1, tileCount);
   EXPECT_DOUBLE_EQ(dock.shelf.center().x, wide.center().x);
   EXPECT_DOUBLE_EQ(dock.shelf.bottom(), wide.bottom() - 5);
   EXPECT_DOUBLE_EQ(dock.factor, 1);
@@ -26,50 +26,51 @@ TEST(DockShelfTest, StandsInTheMiddleOfItsEdgeWithAGapToIt) {
 }
 
 TEST(DockShelfTest, TurnsToTheSides) {
-  const DockShelf left = DockShelf::make(tall, DockEdge::left, 1, tileCount);
+  const DockShelf left = DockShelf::make(tall, desk::DockEdge::left, 1, tileCount);
   EXPECT_DOUBLE_EQ(left.shelf.x, tall.x + 5);
   EXPECT_DOUBLE_EQ(left.shelf.center().y, tall.center().y);
   EXPECT_LT(left.tiles[0].y, left.tiles[1].y);
   EXPECT_DOUBLE_EQ(left.tiles[0].x, left.tiles[1].x);
-  const DockShelf right = DockShelf::make(tall, DockEdge::right, 1, tileCount);
+  const DockShelf right = DockShelf::make(tall, desk::DockEdge::right, 1, tileCount);
   EXPECT_DOUBLE_EQ(right.shelf.right(), tall.right() - 5);
 }
 
 TEST(DockShelfTest, IsOutOfSightWhenHiddenAndHalfWayInBetween) {
-  const DockShelf hidden = DockShelf::make(wide, DockEdge::bottom, 0, tileCount);
+  const DockShelf hidden = DockShelf::make(wide, desk::DockEdge::bottom, 0, tileCount);
   EXPECT_GE(hidden.shelf.y, wide.bottom() + 5);
-  const DockShelf shown = DockShelf::make(wide, DockEdge::bottom, 1, tileCount);
-  const DockShelf half = DockShelf::make(wide, DockEdge::bottom, 0.5, tileCount);
+  const DockShelf shown = DockShelf::make(wide, desk::DockEdge::bottom, 1, tileCount);
+  const DockShelf half = DockShelf::make(wide, desk::DockEdge::bottom, 0.5, tileCount);
   EXPECT_DOUBLE_EQ(half.shelf.y, (hidden.shelf.y + shown.shelf.y) / 2);
-  const DockShelf hiddenAtTheLeft = DockShelf::make(tall, DockEdge::left, 0, tileCount);
+  const DockShelf hiddenAtTheLeft = DockShelf::make(tall, desk::DockEdge::left, 0, tileCount);
   EXPECT_LE(hiddenAtTheLeft.shelf.right(), tall.x);
-  const DockShelf hiddenAtTheRight = DockShelf::make(tall, DockEdge::right, 0, tileCount);
+  const DockShelf hiddenAtTheRight = DockShelf::make(tall, desk::DockEdge::right, 0, tileCount);
   EXPECT_GE(hiddenAtTheRight.shelf.x, tall.right());
 }
 
 TEST(DockShelfTest, HasNothingWhereThereIsNoRoom) {
-  EXPECT_TRUE(DockShelf::make({}, DockEdge::bottom, 1, tileCount).tiles.empty());
-  EXPECT_TRUE(DockShelf::make(wide, DockEdge::bottom, 1, 0).tiles.empty());
+  EXPECT_TRUE(DockShelf::make({}, desk::DockEdge::bottom, 1, tileCount).tiles.empty());
+  EXPECT_TRUE(DockShelf::make(wide, desk::DockEdge::bottom, 1, 0).tiles.empty());
 }
 
 TEST(DockShelfTest, KeepsTheLineOffTheTilesOnAVeryShortEdge) {
-  const DockShelf dock = DockShelf::make({0, 0, 40, 70}, DockEdge::bottom, 1, 13);
+  const DockShelf dock = DockShelf::make({0, 0, 40, 70}, desk::DockEdge::bottom, 1, 13);
   for (const ui::Rect& tile : dock.tiles) {
     EXPECT_FALSE(dock.separator.intersects(tile));
   }
 }
 
 RC_GTEST_PROP(DockShelfTest, KeepsItsTilesApartAndOnTheShelfAtEveryEdge, ()) {
-  const auto edge = *rc::gen::element(DockEdge::bottom, DockEdge::left, DockEdge::right);
+  const auto edge =
+      *rc::gen::element(desk::DockEdge::bottom, desk::DockEdge::left, desk::DockEdge::right);
   const double room = *rc::gen::inRange(40, 3000);
   const auto count = static_cast<std::size_t>(*rc::gen::inRange(1, 30));
   const double shown = *rc::gen::inRange(0, 101) / 100.0;
   const ui::Rect area =
-      edge == DockEdge::bottom ? ui::Rect{-50, 7, room, 70} : ui::Rect{-50, 7, 70, room};
+      edge == desk::DockEdge::bottom ? ui::Rect{-50, 7, room, 70} : ui::Rect{-50, 7, 70, room};
   const DockShelf dock = DockShelf::make(area, edge, shown, count);
   RC_ASSERT(dock.tiles.size() == count);
   RC_ASSERT(dock.factor > 0 && dock.factor <= 1);
-  const bool isLevel = edge == DockEdge::bottom;
+  const bool isLevel = edge == desk::DockEdge::bottom;
   RC_ASSERT((isLevel ? dock.shelf.width : dock.shelf.height) <= room + 1e-9);
   RC_ASSERT(holds(dock.shelf, dock.separator));
   for (std::size_t index = 0; index < count; ++index) {
@@ -82,4 +83,4 @@ RC_GTEST_PROP(DockShelfTest, KeepsItsTilesApartAndOnTheShelfAtEveryEdge, ()) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

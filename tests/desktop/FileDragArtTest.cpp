@@ -3,7 +3,7 @@
 #include "showroom/desktop/FileDragArt.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 class FileDragArtTest : public DesktopFixture {
@@ -12,7 +12,7 @@ class FileDragArtTest : public DesktopFixture {
     // Both windows fit beside each other on the two displays.
     OrvanePermissionGuideWindowController::shared().show(nullptr);
     machine.mouse.moveTo({1200, 250});
-    application.systemSettings().open(SettingsPage::accessibility);
+    application.systemSettings().open(desk::SettingsPage::accessibility);
     machine.runDue();
   }
 
@@ -33,8 +33,8 @@ class FileDragArtTest : public DesktopFixture {
   /// The middle of the mark's left arm, which is white, and above it the disc.
   static ui::Point armAt(CGPoint place) { return {place.x + 17, place.y + 22}; }
   static ui::Point discAt(CGPoint place) { return {place.x + 16, place.y + 18}; }
-  static Pixel at(const SurfacePointer& shown, ui::Point place) {
-    return pixelAt(shown.get(), static_cast<int>(place.x), static_cast<int>(place.y));
+  static desk::Pixel at(const desk::SurfacePointer& shown, ui::Point place) {
+    return desk::pixelAt(shown.get(), static_cast<int>(place.x), static_cast<int>(place.y));
   }
 };
 
@@ -43,7 +43,7 @@ TEST_F(FileDragArtTest, TheImageFollowsThePointer) {
   const CGPoint place{700, 450};
   moveTo(place);
   const ui::Rect image = server().pointer.fileDrag()->image.movedBy({place.x, place.y});
-  const SurfacePointer during = picture();
+  const desk::SurfacePointer during = picture();
   release();
   EXPECT_GT(differences(picture(), during, image), image.width * image.height / 2);
 }
@@ -53,11 +53,11 @@ TEST_F(FileDragArtTest, TheMarkOfACopyIsThereWhereTheFileWouldBeTaken) {
   const CGPoint place = listPlace();
   moveTo(place);
   ASSERT_TRUE(server().pointer.canDropHere());
-  const SurfacePointer over = picture();
-  const Pixel disc = at(over, discAt(place));
+  const desk::SurfacePointer over = picture();
+  const desk::Pixel disc = at(over, discAt(place));
   EXPECT_GT(disc.green, disc.red + 60);
   EXPECT_GT(disc.green, disc.blue + 60);
-  const Pixel arm = at(over, armAt(place));
+  const desk::Pixel arm = at(over, armAt(place));
   EXPECT_GT(arm.red, 180) << "the plus is white";
   EXPECT_LT(disc.red, 120) << "the disc around it is not";
 }
@@ -67,9 +67,9 @@ TEST_F(FileDragArtTest, ElsewhereThereIsNoMark) {
   const CGPoint place{700, 450};
   moveTo(place);
   EXPECT_FALSE(server().pointer.canDropHere());
-  const Pixel disc = at(picture(), discAt(place));
+  const desk::Pixel disc = at(picture(), discAt(place));
   EXPECT_FALSE(disc.green > disc.red + 60 && disc.green > disc.blue + 60);
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -5,13 +5,13 @@
 #include "desk/canvas/PngFile.hpp"
 #include "showroom/desktop/GlassCache.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 /// A light square at `x` on black.
-SurfacePointer picture(int x, int side = 20) {
-  SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, side, 20));
-  const ContextPointer context(cairo_create(surface.get()));
+desk::SurfacePointer picture(int x, int side = 20) {
+  desk::SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, side, 20));
+  const desk::ContextPointer context(cairo_create(surface.get()));
   cairo_set_source_rgb(context.get(), 1, 0.5, 0.25);
   cairo_rectangle(context.get(), x, 4, 6, 6);
   cairo_fill(context.get());
@@ -20,22 +20,22 @@ SurfacePointer picture(int x, int side = 20) {
 
 TEST(GlassCacheTest, IsWhatABlurOfThePictureIs) {
   GlassCache cache;
-  const SurfacePointer plain = picture(3);
-  blurSurface(plain.get(), 2, BlurEdge::extended);
-  const auto expected = encodePng(plain.get());
-  EXPECT_EQ(encodePng(cache.blurred(picture(3), 2)), expected);
-  EXPECT_EQ(encodePng(cache.blurred(picture(3), 2)), expected);
+  const desk::SurfacePointer plain = picture(3);
+  desk::blurSurface(plain.get(), 2, desk::BlurEdge::extended);
+  const auto expected = desk::encodePng(plain.get());
+  EXPECT_EQ(desk::encodePng(cache.blurred(picture(3), 2)), expected);
+  EXPECT_EQ(desk::encodePng(cache.blurred(picture(3), 2)), expected);
   EXPECT_EQ(cache.blurCount(), 1);
 }
 
 TEST(GlassCacheTest, AnotherPictureOrAnotherBlurIsAnother) {
   GlassCache cache;
-  const auto first = encodePng(cache.blurred(picture(3), 2));
-  EXPECT_NE(encodePng(cache.blurred(picture(4), 2)), first);
-  EXPECT_NE(encodePng(cache.blurred(picture(3), 3)), first);
+  const auto first = desk::encodePng(cache.blurred(picture(3), 2));
+  EXPECT_NE(desk::encodePng(cache.blurred(picture(4), 2)), first);
+  EXPECT_NE(desk::encodePng(cache.blurred(picture(3), 3)), first);
   cache.blurred(picture(3, 21), 2);
   EXPECT_EQ(cache.blurCount(), 4);
-  EXPECT_EQ(encodePng(cache.blurred(picture(3), 2)), first);
+  EXPECT_EQ(desk::encodePng(cache.blurred(picture(3), 2)), first);
   EXPECT_EQ(cache.blurCount(), 4);
 }
 
@@ -55,4 +55,4 @@ TEST(GlassCacheTest, BeyondTheLimitTheLongestUnusedGoes) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

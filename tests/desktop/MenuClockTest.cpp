@@ -3,21 +3,21 @@
 
 #include "showroom/desktop/MenuClock.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
-constexpr std::int64_t second = Clock::nanosecondsPerSecond;
+constexpr std::int64_t second = desk::Clock::nanosecondsPerSecond;
 constexpr std::int64_t day = 86'400 * second;
 
-Clock clockAt(std::int64_t nanoseconds) {
-  Clock clock;
+desk::Clock clockAt(std::int64_t nanoseconds) {
+  desk::Clock clock;
   clock.moveTo(nanoseconds);
   return clock;
 }
 
 TEST(MenuClockTest, BeginsOnTheFirstDayOf2026WhichIsAThursday) {
-  EXPECT_EQ(menuClockText(Clock()), "Thu 1 Jan  0:00");
-  EXPECT_EQ(menuClockDay(Clock()), 1);
+  EXPECT_EQ(menuClockText(desk::Clock()), "Thu 1 Jan  0:00");
+  EXPECT_EQ(menuClockDay(desk::Clock()), 1);
 }
 
 TEST(MenuClockTest, ShowsFullMinutesOnly) {
@@ -34,12 +34,12 @@ TEST(MenuClockTest, GoesOnThroughMonthsAndTheYearsEnd) {
 }
 
 TEST(MenuClockTest, SaysWhenItsTextChanges) {
-  EXPECT_EQ(nanosecondsToNextMinute(Clock()), 60 * second);
-  const Clock clock = clockAt(61 * second + 5);
+  EXPECT_EQ(nanosecondsToNextMinute(desk::Clock()), 60 * second);
+  const desk::Clock clock = clockAt(61 * second + 5);
   const std::int64_t wait = nanosecondsToNextMinute(clock);
   EXPECT_EQ(menuClockText(clockAt(clock.now() + wait - 1)), menuClockText(clock));
   EXPECT_NE(menuClockText(clockAt(clock.now() + wait)), menuClockText(clock));
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -5,10 +5,10 @@
 #include "showroom/desktop/StandardDisplays.hpp"
 #include "tests/support/MachineFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
-class StandardDisplaysTest : public MachineFixture {};
+class StandardDisplaysTest : public desk::MachineFixture {};
 
 TEST_F(StandardDisplaysTest, AreAttachedOneAfterTheOther) {
   for (std::uint32_t number = 1; number <= standardDisplayCount; ++number) {
@@ -45,4 +45,4 @@ TEST_F(StandardDisplaysTest, DoNotOverlapAndTouchTheFirst) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

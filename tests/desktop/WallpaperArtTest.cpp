@@ -7,12 +7,13 @@
 #include "showroom/desktop/WallpaperArt.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
-SurfacePointer drawn(Appearance::Wallpaper wallpaper, bool isDark, int width, int height) {
-  SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-  const ContextPointer context(cairo_create(surface.get()));
+desk::SurfacePointer drawn(desk::Appearance::Wallpaper wallpaper, bool isDark, int width,
+                           int height) {
+  desk::SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  const desk::ContextPointer context(cairo_create(surface.get()));
   paintWallpaper(context.get(), wallpaper, isDark, width, height);
   return surface;
 }
@@ -23,7 +24,7 @@ double brightness(cairo_surface_t* surface) {
   const int height = cairo_image_surface_get_height(surface);
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
-      const Pixel pixel = pixelAt(surface, x, y);
+      const desk::Pixel pixel = desk::pixelAt(surface, x, y);
       sum += (pixel.red + pixel.green + pixel.blue) / 765.0;
     }
   }
@@ -31,17 +32,18 @@ double brightness(cairo_surface_t* surface) {
 }
 
 TEST(WallpaperArtTest, WhiteAndBlackAreThatAndNothingElse) {
-  EXPECT_DOUBLE_EQ(brightness(drawn(Appearance::Wallpaper::white, true, 60, 40).get()), 1);
-  EXPECT_DOUBLE_EQ(brightness(drawn(Appearance::Wallpaper::black, false, 60, 40).get()), 0);
+  EXPECT_DOUBLE_EQ(brightness(drawn(desk::Appearance::Wallpaper::white, true, 60, 40).get()), 1);
+  EXPECT_DOUBLE_EQ(brightness(drawn(desk::Appearance::Wallpaper::black, false, 60, 40).get()), 0);
 }
 
 TEST(WallpaperArtTest, CoversEveryProportionWithoutAHole) {
   for (const auto& [width, height] : {std::pair(300, 60), std::pair(60, 300), std::pair(97, 61)}) {
-    for (const auto wallpaper : {Appearance::Wallpaper::standard, Appearance::Wallpaper::busy}) {
-      const SurfacePointer surface = drawn(wallpaper, false, width, height);
+    for (const auto wallpaper :
+         {desk::Appearance::Wallpaper::standard, desk::Appearance::Wallpaper::busy}) {
+      const desk::SurfacePointer surface = drawn(wallpaper, false, width, height);
       for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
-          ASSERT_EQ(pixelAt(surface.get(), x, y).alpha, 255) << x << " " << y;
+          ASSERT_EQ(desk::pixelAt(surface.get(), x, y).alpha, 255) << x << " " << y;
         }
       }
     }
@@ -49,19 +51,19 @@ TEST(WallpaperArtTest, CoversEveryProportionWithoutAHole) {
 }
 
 TEST(WallpaperArtTest, TheLandscapeIsBrightByDayAndDarkByNight) {
-  EXPECT_GT(brightness(drawn(Appearance::Wallpaper::standard, false, 160, 100).get()), 0.45);
-  EXPECT_LT(brightness(drawn(Appearance::Wallpaper::standard, true, 160, 100).get()), 0.3);
+  EXPECT_GT(brightness(drawn(desk::Appearance::Wallpaper::standard, false, 160, 100).get()), 0.45);
+  EXPECT_LT(brightness(drawn(desk::Appearance::Wallpaper::standard, true, 160, 100).get()), 0.3);
 }
 
 TEST(WallpaperArtTest, TheBusyOneHasManyColoursNextToEachOther) {
-  const SurfacePointer surface = drawn(Appearance::Wallpaper::busy, false, 240, 150);
+  const desk::SurfacePointer surface = drawn(desk::Appearance::Wallpaper::busy, false, 240, 150);
   std::set<std::tuple<int, int, int>> colors;
   for (int x = 0; x < 240; ++x) {
-    const Pixel pixel = pixelAt(surface.get(), x, 75);
+    const desk::Pixel pixel = desk::pixelAt(surface.get(), x, 75);
     colors.emplace(pixel.red, pixel.green, pixel.blue);
   }
   EXPECT_GE(colors.size(), 6U);
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -1,4 +1,4 @@
-// The program: its last line, its fingerprint, and what it says of a script that breaks a promise.
+// The last line of the output, the fingerprint, and the exit status.
 #include <fstream>
 #include <regex>
 #include <sstream>
@@ -8,7 +8,7 @@
 
 #include "desk/explore/RunExplore.hpp"
 
-namespace orvane::desk {
+namespace orvane::desk::explore {
 namespace {
 
 struct Outcome {
@@ -17,7 +17,7 @@ struct Outcome {
   std::string errors;
 };
 
-Outcome explore(const ExploreOptions& options) {
+Outcome outcomeOf(const ExploreOptions& options) {
   std::ostringstream output;
   std::ostringstream errors;
   const int status = runExplore(options, output, errors);
@@ -26,18 +26,18 @@ Outcome explore(const ExploreOptions& options) {
   return {status, text.substr(text.rfind('\n') + 1), errors.str()};
 }
 
-TEST(RunExplore, HasOneFingerprintForOneSeedAndAnotherForAnother) {
-  const Outcome first = explore({.seed = 7, .days = 3, .steps = 60});
+TEST(RunExplore, PrintsTheSameFingerprintOnlyForTheSameSeed) {
+  const Outcome first = outcomeOf({.seed = 7, .days = 3, .steps = 60});
   EXPECT_EQ(first.status, 0) << first.errors;
   EXPECT_TRUE(std::regex_match(
       first.lastLine,
       std::regex("3 days, \\d+ steps, \\d+ events, \\d+ faults, fingerprint [0-9a-f]{16}")))
       << first.lastLine;
-  EXPECT_EQ(explore({.seed = 7, .days = 3, .steps = 60}).lastLine, first.lastLine);
-  EXPECT_NE(explore({.seed = 8, .days = 3, .steps = 60}).lastLine, first.lastLine);
+  EXPECT_EQ(outcomeOf({.seed = 7, .days = 3, .steps = 60}).lastLine, first.lastLine);
+  EXPECT_NE(outcomeOf({.seed = 8, .days = 3, .steps = 60}).lastLine, first.lastLine);
 }
 
-TEST(RunExplore, CannotLookAfterAScriptThatIsNotThere) {
+TEST(RunExplore, FailsForAMissingScript) {
   std::ostringstream output;
   std::ostringstream errors;
   EXPECT_EQ(runExplore({.scripts = {"there-is-no-such.desk"}}, output, errors), 2);
@@ -45,4 +45,4 @@ TEST(RunExplore, CannotLookAfterAScriptThatIsNotThere) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::desk::explore

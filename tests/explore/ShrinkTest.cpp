@@ -1,4 +1,4 @@
-// What is left of a list of lines when all that it does not need has gone.
+// The lines that remain when all others are left out.
 #include <algorithm>
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ bool has(const Lines& lines, const std::string& line) {
   return std::ranges::find(lines, line) != lines.end();
 }
 
-TEST(Shrink, KeepsThoseThatAreNeededTogetherAndTheirOrder) {
+TEST(Shrink, KeepsTheNecessaryLinesInOrder) {
   Lines lines;
   for (int number = 0; number < 100; ++number) {
     lines.push_back(std::to_string(number));
@@ -23,7 +23,7 @@ TEST(Shrink, KeepsThoseThatAreNeededTogetherAndTheirOrder) {
   EXPECT_EQ(shrunk(lines, fails), (Lines{"3", "50", "99"}));
 }
 
-TEST(Shrink, LeavesNothingWhereTheEndAloneFails) {
+TEST(Shrink, KeepsNoLineIfNoneIsNecessary) {
   EXPECT_EQ(shrunk({"a", "b", "c"}, [](const Lines&) { return true; }), Lines{});
 }
 

@@ -20,17 +20,18 @@
 #include "tests/support/Contrast.hpp"
 #include "tests/support/MachineFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 const std::string ellipsis = "…";
-constexpr std::array wallpapers{Appearance::Wallpaper::white, Appearance::Wallpaper::black,
-                                Appearance::Wallpaper::busy};
+constexpr std::array wallpapers{desk::Appearance::Wallpaper::white,
+                                desk::Appearance::Wallpaper::black,
+                                desk::Appearance::Wallpaper::busy};
 
 /// Paints everything but texts.
-class TextlessCanvas : public CairoCanvas {
+class TextlessCanvas : public desk::CairoCanvas {
  public:
-  using CairoCanvas::CairoCanvas;
+  using desk::CairoCanvas::CairoCanvas;
   void text(const std::string& /*line*/, const ui::Font& /*font*/, const ui::Rgba& /*color*/,
             ui::Point /*baseline*/) override {}
 };
@@ -125,9 +126,10 @@ bool isNextLine(const TextRun& first, const TextRun& second) {
          distance < 1.6 * first.font.size;
 }
 
-class GalleryRulesTest : public MachineFixture, public testing::WithParamInterface<std::string> {
+class GalleryRulesTest : public desk::MachineFixture,
+                         public testing::WithParamInterface<std::string> {
  protected:
-  GalleryRulesTest() { addApplicationImages(resources.images); }
+  GalleryRulesTest() { desk::addApplicationImages(resources.images); }
 
   void expectAll(const Specimen& specimen, Hand hand) {
     const ui::ViewHost& host = specimen.host();
@@ -147,8 +149,8 @@ class GalleryRulesTest : public MachineFixture, public testing::WithParamInterfa
   }
 
   GallerySheet sheet = gallerySheetNamed(GetParam());
-  PangoTextMeasurer text;
-  DrawingResources resources;
+  desk::PangoTextMeasurer text;
+  desk::DrawingResources resources;
   std::size_t textCount = 0;
 
  private:
@@ -247,11 +249,11 @@ class GalleryRulesTest : public MachineFixture, public testing::WithParamInterfa
   void expectTextsAreReadable(const Specimen& specimen, Hand hand) {
     const ui::Size size = specimen.size();
     const ui::Appearance& appearance = specimen.host().appearance();
-    const SurfacePointer shown = blank(size);
+    const desk::SurfacePointer shown = blank(size);
     TextlessCanvas canvas(shown.get(), 1, resources);
     specimen.paint(canvas, {0, 0});
     cairo_surface_flush(shown.get());
-    for (const Appearance::Wallpaper wallpaper : wallpapers) {
+    for (const desk::Appearance::Wallpaper wallpaper : wallpapers) {
       const Behind behind{shown.get(), groundOf(size, appearance, wallpaper)};
       for (const TextRun& run : runs) {
         if (isDisabled(run)) {
@@ -330,20 +332,20 @@ class GalleryRulesTest : public MachineFixture, public testing::WithParamInterfa
     return contrastOn(run, darkest);
   }
 
-  static SurfacePointer blank(ui::Size size) {
-    return SurfacePointer(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
-                                                     static_cast<int>(std::ceil(size.width)),
-                                                     static_cast<int>(std::ceil(size.height))));
+  static desk::SurfacePointer blank(ui::Size size) {
+    return desk::SurfacePointer(
+        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(std::ceil(size.width)),
+                                   static_cast<int>(std::ceil(size.height))));
   }
 
   /// What specimens of this size lie on. It is kept, because most of them have a size in common.
   cairo_surface_t* groundOf(ui::Size size, const ui::Appearance& appearance,
-                            Appearance::Wallpaper wallpaper) {
-    SurfacePointer& kept =
+                            desk::Appearance::Wallpaper wallpaper) {
+    desk::SurfacePointer& kept =
         grounds[{size.width, size.height, appearance.dark, appearance.increaseContrast, wallpaper}];
     if (kept == nullptr) {
       kept = blank(size);
-      CairoCanvas canvas(kept.get(), 1, resources);
+      desk::CairoCanvas canvas(kept.get(), 1, resources);
       paintWallpaper(canvas.context(), wallpaper, appearance.dark, size.width, size.height);
       // Beyond the specimen, so that no edge of the ground lies under it.
       const double inset = isWholeWindow(sheet.ground) ? Specimen::margin : -Specimen::margin;
@@ -356,7 +358,9 @@ class GalleryRulesTest : public MachineFixture, public testing::WithParamInterfa
 
   std::vector<TextRun> runs;
   std::vector<ui::SemanticsNode> nodes;
-  std::map<std::tuple<double, double, bool, bool, Appearance::Wallpaper>, SurfacePointer> grounds;
+  std::map<std::tuple<double, double, bool, bool, desk::Appearance::Wallpaper>,
+           desk::SurfacePointer>
+      grounds;
 };
 
 TEST_P(GalleryRulesTest, HoldForEveryTextAndControl) {
@@ -399,4 +403,4 @@ std::string nameOfTest(const testing::TestParamInfo<std::string>& info) {
 INSTANTIATE_TEST_SUITE_P(Sheets, GalleryRulesTest, testing::ValuesIn(namesOfSheets()), nameOfTest);
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -15,12 +15,12 @@
 #include "showroom/gallery/Specimen.hpp"
 #include "tests/support/MachineFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
-class GalleryTest : public MachineFixture {
+class GalleryTest : public desk::MachineFixture {
  protected:
-  GalleryTest() { addApplicationImages(resources.images); }
+  GalleryTest() { desk::addApplicationImages(resources.images); }
 
   std::vector<std::uint8_t> pictureOf(const GalleryItem& item, OrvaneLanguage language,
                                       bool isDark = false) {
@@ -28,12 +28,12 @@ class GalleryTest : public MachineFixture {
     ui::Appearance appearance;
     appearance.dark = isDark;
     const Specimen specimen(item, language, appearance, text, resources);
-    const SurfacePointer surface(
+    const desk::SurfacePointer surface(
         cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(specimen.size().width) + 1,
                                    static_cast<int>(specimen.size().height) + 1));
-    CairoCanvas canvas(surface.get(), 1, resources);
+    desk::CairoCanvas canvas(surface.get(), 1, resources);
     specimen.paint(canvas, {0, 0});
-    return encodePng(surface.get());
+    return desk::encodePng(surface.get());
   }
   std::vector<std::uint8_t> pictureOf(const GalleryItem& item) {
     return pictureOf(item, OrvaneLanguage::english);
@@ -43,8 +43,8 @@ class GalleryTest : public MachineFixture {
     return *std::ranges::find(sheet.items, caption, &GalleryItem::caption);
   }
 
-  PangoTextMeasurer text;
-  DrawingResources resources;
+  desk::PangoTextMeasurer text;
+  desk::DrawingResources resources;
 };
 
 TEST_F(GalleryTest, EverySheetHasANameOfItsOwn) {
@@ -117,13 +117,13 @@ TEST_F(GalleryTest, EverythingIsRecolouredInTheDark) {
 TEST_F(GalleryTest, ASheetIsTheSameEveryTimeAndMissesNothing) {
   for (const GallerySheet& sheet : gallerySheets()) {
     const SheetStyle style{.isDark = true, .scale = 0.25};
-    const auto first = encodePng(paintSheet(sheet, style, machine, resources).get());
-    DrawingResources fresh;
-    addApplicationImages(fresh.images);
-    EXPECT_EQ(first, encodePng(paintSheet(sheet, style, machine, fresh).get())) << sheet.name;
+    const auto first = desk::encodePng(paintSheet(sheet, style, machine, resources).get());
+    desk::DrawingResources fresh;
+    desk::addApplicationImages(fresh.images);
+    EXPECT_EQ(first, desk::encodePng(paintSheet(sheet, style, machine, fresh).get())) << sheet.name;
   }
   EXPECT_EQ(resources.missingNames, std::set<std::string>());
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

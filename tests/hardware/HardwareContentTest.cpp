@@ -1,7 +1,7 @@
 // What the panel says of the machine.
 #include "tests/hardware/HardwareFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 class HardwareContentTest : public HardwareFixture {
@@ -76,4 +76,4 @@ TEST_F(HardwareContentTest, SaysHowOrvaneIsAndWhatTheGuardSaidLast) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

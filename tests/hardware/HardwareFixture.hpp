@@ -6,7 +6,7 @@
 #include "showroom/hardware/HardwareContent.hpp"
 #include "showroom/window/DeskSession.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class HardwareFixture : public testing::Test {
  protected:
@@ -14,7 +14,7 @@ class HardwareFixture : public testing::Test {
 
   DeskSession session{2};
   Hardware& hardware = session.hardware();
-  Machine& machine = session.machine();
+  desk::Machine& machine = session.machine();
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

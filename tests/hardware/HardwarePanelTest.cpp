@@ -7,7 +7,7 @@
 #include "tests/hardware/HardwareFixture.hpp"
 #include "tests/support/RecordingCanvas.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 class HardwarePanelTest : public HardwareFixture {
@@ -19,10 +19,10 @@ class HardwarePanelTest : public HardwareFixture {
 
   void show() { panel.show(content()); }
   [[nodiscard]] std::vector<ui::SemanticsNode> controls() const {
-    return findControls(panel.host().semantics());
+    return desk::findControls(panel.host().semantics());
   }
   [[nodiscard]] std::optional<ui::SemanticsNode> control(const std::string& label) const {
-    return findControl(panel.host().semantics(), label);
+    return desk::findControl(panel.host().semantics(), label);
   }
   /// A click in the middle of the control.
   void click(const std::string& label) {
@@ -81,11 +81,11 @@ TEST_F(HardwarePanelTest, WithoutAnyDisplayOneCanBeAttachedAgain) {
 
 TEST_F(HardwarePanelTest, TheDockFollowsItsRows) {
   click("Edge: Left");
-  EXPECT_EQ(machine.dock.edge(), DockEdge::left);
+  EXPECT_EQ(machine.dock.edge(), desk::DockEdge::left);
   EXPECT_TRUE(control("Edge: Left")->isSelected);
   EXPECT_FALSE(control("Edge: Bottom")->isSelected);
   click("Edge: Right");
-  EXPECT_EQ(machine.dock.edge(), DockEdge::right);
+  EXPECT_EQ(machine.dock.edge(), desk::DockEdge::right);
   click("Hide the Dock automatically");
   EXPECT_TRUE(machine.dock.autoHides());
   EXPECT_EQ(control("Hide the Dock automatically")->value, "1");
@@ -98,9 +98,9 @@ TEST_F(HardwarePanelTest, TheMacFollowsItsRows) {
   click("Appearance: Dark");
   EXPECT_TRUE(machine.appearance.isDark);
   click("Wallpaper: Busy");
-  EXPECT_EQ(machine.appearance.wallpaper, Appearance::Wallpaper::busy);
+  EXPECT_EQ(machine.appearance.wallpaper, desk::Appearance::Wallpaper::busy);
   click("Wallpaper: Black");
-  EXPECT_EQ(machine.appearance.wallpaper, Appearance::Wallpaper::black);
+  EXPECT_EQ(machine.appearance.wallpaper, desk::Appearance::Wallpaper::black);
   click("Language: 中文");
   EXPECT_EQ(machine.locale.preferredLanguages, std::vector<std::string>{"zh-Hans-CN"});
   EXPECT_TRUE(control("Language: 中文")->isSelected);
@@ -130,7 +130,7 @@ TEST_F(HardwarePanelTest, IsWorkedByTheKeyboardAlone) {
   }
   ASSERT_EQ(panel.host().focusedId(), control("Edge: Left")->id);
   EXPECT_TRUE(panel.keyDown({ui::Key::space, {}, {}}));
-  EXPECT_EQ(machine.dock.edge(), DockEdge::left);
+  EXPECT_EQ(machine.dock.edge(), desk::DockEdge::left);
 }
 
 TEST_F(HardwarePanelTest, CutsNoTextInAnyState) {
@@ -192,13 +192,13 @@ TEST_F(HardwarePanelTest, TheKeyboardBringsWhatItReachesIntoSight) {
 TEST_F(HardwarePanelTest, AnEqualContentAsksForNoDrawing) {
   const std::int64_t before = panel.changeCount();
   show();
-  session.advance(Clock::nanosecondsPerSecond);
+  session.advance(desk::Clock::nanosecondsPerSecond);
   show();
   EXPECT_EQ(panel.changeCount(), before);
   EXPECT_FALSE(panel.host().nextFrameWanted());
 }
 
-class HardwarePanelPictureTest : public PixelFixture {};
+class HardwarePanelPictureTest : public desk::PixelFixture {};
 
 TEST_F(HardwarePanelPictureTest, FillsItsPlaceAndFollowsTheAppearance) {
   DeskSession session{2};
@@ -219,4 +219,4 @@ TEST_F(HardwarePanelPictureTest, FillsItsPlaceAndFollowsTheAppearance) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

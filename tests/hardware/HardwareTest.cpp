@@ -3,7 +3,7 @@
 #include "showroom/desktop/StandardDisplays.hpp"
 #include "tests/hardware/HardwareFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 using HardwareTest = HardwareFixture;
@@ -43,7 +43,8 @@ TEST_F(HardwareTest, TheApplicationHearsOfADisplayThatGoes) {
 }
 
 TEST_F(HardwareTest, TheDockGoesToAnEdgeAndHidesItself) {
-  for (const DockEdge edge : {DockEdge::left, DockEdge::right, DockEdge::bottom}) {
+  for (const desk::DockEdge edge :
+       {desk::DockEdge::left, desk::DockEdge::right, desk::DockEdge::bottom}) {
     hardware.setEdge(edge);
     EXPECT_EQ(machine.dock.edge(), edge);
   }
@@ -66,8 +67,8 @@ TEST_F(HardwareTest, ThePermissionComesAndGoesWithTheTap) {
 TEST_F(HardwareTest, AppearanceAndWallpaperAreTheMachines) {
   hardware.setDark(true);
   EXPECT_TRUE(machine.appearance.isDark);
-  hardware.setWallpaper(Appearance::Wallpaper::busy);
-  EXPECT_EQ(machine.appearance.wallpaper, Appearance::Wallpaper::busy);
+  hardware.setWallpaper(desk::Appearance::Wallpaper::busy);
+  EXPECT_EQ(machine.appearance.wallpaper, desk::Appearance::Wallpaper::busy);
 }
 
 TEST_F(HardwareTest, EveryLanguageListIsFoundAgainAndDecidesTheApplicationsLanguage) {
@@ -76,7 +77,7 @@ TEST_F(HardwareTest, EveryLanguageListIsFoundAgainAndDecidesTheApplicationsLangu
   for (std::size_t index = 0; index < expected.size(); ++index) {
     hardware.setLanguageList(index);
     EXPECT_EQ(hardware.languageList(), index);
-    WindowServer& server = WindowServer::current();
+    desk::WindowServer& server = desk::WindowServer::current();
     ASSERT_TRUE(server.menus.openStatusMenu(0));
     EXPECT_EQ(server.menus.menu()->items.back().title, expected[index]);
     server.menus.close();
@@ -93,10 +94,10 @@ TEST_F(HardwareTest, TheApplicationIsStartedAndEndedInEveryWay) {
   hardware.launch();
   EXPECT_TRUE(hardware.isRunning());
   hardware.reopen();
-  EXPECT_EQ(WindowServer::current().windows().size(), 1U);
+  EXPECT_EQ(desk::WindowServer::current().windows().size(), 1U);
   hardware.crash();
   EXPECT_FALSE(hardware.isRunning());
-  EXPECT_TRUE(WindowServer::current().windows().empty());
+  EXPECT_TRUE(desk::WindowServer::current().windows().empty());
   hardware.crash();
   hardware.terminate();
   hardware.reopen();
@@ -104,4 +105,4 @@ TEST_F(HardwareTest, TheApplicationIsStartedAndEndedInEveryWay) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

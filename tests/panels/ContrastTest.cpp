@@ -79,11 +79,11 @@ class ContrastTest : public PanelFixture {
   void expectReadable(const std::string& surface, const std::string& where) {
     const auto shown = window(surface);
     ASSERT_NE(shown, nullptr);
-    desk::DesktopPainter painter(resources);
-    desk::DesktopScene scene(machine, application);
+    showroom::DesktopPainter painter(resources);
+    showroom::DesktopScene scene(machine, application);
     scene.onlySurface = surface;
     const desk::SurfacePointer picture =
-        desk::renderDesktop(painter, scene, desk::DesktopStyle::exact, scale);
+        showroom::renderDesktop(painter, scene, showroom::DesktopStyle::exact, scale);
     ASSERT_TRUE(picture);
     cairo_surface_flush(picture.get());
     TextCollector collector(server().resources().shaper);

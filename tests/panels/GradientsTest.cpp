@@ -61,12 +61,12 @@ class GradientsTest : public PanelFixture {
                                                          static_cast<int>(size.width * scale),
                                                          static_cast<int>(size.height * scale)));
     desk::CairoCanvas canvas(made.get(), scale, server().resources());
-    desk::paintWallpaper(canvas.context(), wallpaper, machine.appearance.isDark, size.width,
-                         size.height);
+    showroom::paintWallpaper(canvas.context(), wallpaper, machine.appearance.isDark, size.width,
+                             size.height);
     const CGPoint corner = server().topLeftOf(*shown);
     canvas.transform(ui::Transform::translation({-corner.x, -corner.y}));
-    desk::GlassCache glass;
-    desk::paintWindow(canvas, server(), *shown, glass);
+    showroom::GlassCache glass;
+    showroom::paintWindow(canvas, server(), *shown, glass);
     return made;
   }
 

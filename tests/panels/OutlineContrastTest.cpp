@@ -29,9 +29,9 @@ class OutlineContrastTest : public PanelFixture,
   void takePicture() {
     machine.advance(1);
     desk::DrawingResources resources;
-    desk::DesktopPainter painter(resources);
-    picture_ = desk::renderDesktop(painter, desk::DesktopScene(machine, application),
-                                   desk::DesktopStyle::exact, scale());
+    showroom::DesktopPainter painter(resources);
+    picture_ = showroom::renderDesktop(painter, showroom::DesktopScene(machine, application),
+                                       showroom::DesktopStyle::exact, scale());
     ASSERT_TRUE(picture_);
     cairo_surface_flush(picture_.get());
   }

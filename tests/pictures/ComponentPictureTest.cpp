@@ -12,14 +12,14 @@
 #include "tests/support/KeptPicture.hpp"
 #include "tests/support/MachineFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
-class ComponentPictureTest : public MachineFixture {
+class ComponentPictureTest : public desk::MachineFixture {
  protected:
   /// The items of a sheet with these captions, over one wallpaper, at one pixel to the point.
   void expectSheet(const std::string& name, const std::vector<std::string>& captions, bool isDark,
-                   Appearance::Wallpaper wallpaper) {
+                   desk::Appearance::Wallpaper wallpaper) {
     GallerySheet sheet = gallerySheetNamed(name);
     std::erase_if(sheet.items, [&](const GalleryItem& item) {
       return std::ranges::find(captions, item.caption) == captions.end();
@@ -34,7 +34,7 @@ class ComponentPictureTest : public MachineFixture {
     expectPainted(gallerySheetNamed(name),
                   {.isDark = isDark,
                    .scale = 1,
-                   .wallpapers = {Appearance::Wallpaper::white},
+                   .wallpapers = {desk::Appearance::Wallpaper::white},
                    .languages = {language}},
                   name + (isDark ? "-dark" : "-light"));
   }
@@ -42,34 +42,34 @@ class ComponentPictureTest : public MachineFixture {
  private:
   void expectPainted(const GallerySheet& sheet, const SheetStyle& style,
                      const std::string& fileName) {
-    DrawingResources resources;
-    addApplicationImages(resources.images);
-    const SurfacePointer picture = paintSheet(sheet, style, machine, resources);
-    EXPECT_EQ(differenceFromKept(picture.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
-                                                    "tests/pictures" / (fileName + ".png")),
+    desk::DrawingResources resources;
+    desk::addApplicationImages(resources.images);
+    const desk::SurfacePointer picture = paintSheet(sheet, style, machine, resources);
+    EXPECT_EQ(desk::differenceFromKept(picture.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
+                                                          "tests/pictures" / (fileName + ".png")),
               std::nullopt);
   }
 };
 
 TEST_F(ComponentPictureTest, Cards) {
   expectSheet("display-choice-card", {"normal", "hovered", "selected", "focused"}, true,
-              Appearance::Wallpaper::busy);
+              desk::Appearance::Wallpaper::busy);
 }
 
 TEST_F(ComponentPictureTest, TheMainButton) {
   expectSheet("primary-action-button", {"normal", "pressed", "disabled", "in red"}, false,
-              Appearance::Wallpaper::busy);
+              desk::Appearance::Wallpaper::busy);
 }
 
 TEST_F(ComponentPictureTest, TrafficLights) {
   expectSheet("traffic-light-button",
               {"close, normal", "close, hovered", "minimise, normal", "minimise, hovered"}, false,
-              Appearance::Wallpaper::white);
+              desk::Appearance::Wallpaper::white);
 }
 
 TEST_F(ComponentPictureTest, MenuRows) {
   expectSheet("status-menu-row", {"switch, off", "switch, on", "hovered", "display, selected"},
-              true, Appearance::Wallpaper::black);
+              true, desk::Appearance::Wallpaper::black);
 }
 
 TEST_F(ComponentPictureTest, TheAlertByDay) {
@@ -89,4 +89,4 @@ TEST_F(ComponentPictureTest, TheGuideByNight) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -18,16 +18,16 @@
 #include "tests/support/KeptPicture.hpp"
 #include "tests/support/MachineFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
-class WindowPictureTest : public MachineFixture {
+class WindowPictureTest : public desk::MachineFixture {
  protected:
   static constexpr int width = 340;
   static constexpr int height = 240;
 
   WindowPictureTest() {
-    Display display;
+    desk::Display display;
     display.number = 1;
     display.frame = CGRectMake(0, 0, width, height);
     EXPECT_FALSE(machine.displays.attach(display, true));
@@ -47,17 +47,18 @@ class WindowPictureTest : public MachineFixture {
     return made;
   }
 
-  void expectWindows(const std::string& name, Appearance::Wallpaper wallpaper) {
-    const SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-    WindowServer& server = WindowServer::current();
+  void expectWindows(const std::string& name, desk::Appearance::Wallpaper wallpaper) {
+    const desk::SurfacePointer surface(
+        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+    desk::WindowServer& server = desk::WindowServer::current();
     GlassCache glass;
-    CairoCanvas canvas(surface.get(), 1, server.resources());
+    desk::CairoCanvas canvas(surface.get(), 1, server.resources());
     paintWallpaper(canvas.context(), wallpaper, machine.appearance.isDark, width, height);
     for (const auto& shown : server.windows()) {
       paintWindow(canvas, server, *shown, glass);
     }
-    EXPECT_EQ(differenceFromKept(surface.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
-                                                    "tests/pictures" / (name + ".png")),
+    EXPECT_EQ(desk::differenceFromKept(surface.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
+                                                          "tests/pictures" / (name + ".png")),
               std::nullopt);
   }
 };
@@ -72,7 +73,7 @@ TEST_F(WindowPictureTest, AFramelessWindowOfGlass) {
   glass.setContentView(view);
   glass.orderFrontRegardless();
   machine.runDue();
-  expectWindows("glass-window", Appearance::Wallpaper::busy);
+  expectWindows("glass-window", desk::Appearance::Wallpaper::busy);
 }
 
 TEST_F(WindowPictureTest, AWindowWithATitleInTheDark) {
@@ -82,8 +83,8 @@ TEST_F(WindowPictureTest, AWindowWithATitleInTheDark) {
   titled.setContentView(content());
   titled.makeKeyAndOrderFront();
   machine.runDue();
-  expectWindows("titled-window", Appearance::Wallpaper::white);
+  expectWindows("titled-window", desk::Appearance::Wallpaper::white);
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -133,10 +133,10 @@ TEST_P(SurfaceLabelsTest, NoControlOfTheProductIsWithoutALabel) {
 TEST_P(SurfaceLabelsTest, NoControlOfTheHardwarePanelIsWithoutALabel) {
   machine.userDefaults.set("appLanguage", std::string(GetParam()));
   application.launch();
-  Hardware hardware(machine, application);
-  HardwarePanelHost panel(hardware);
-  panel.setSize({HardwarePanel::width, 900});
-  panel.show(HardwareContent::of(hardware, 0));
+  showroom::Hardware hardware(machine, application);
+  showroom::HardwarePanelHost panel(hardware);
+  panel.setSize({showroom::HardwarePanel::width, 900});
+  panel.show(showroom::HardwareContent::of(hardware, 0));
   const ui::SemanticsNode tree = panel.host().semantics();
   collectUnlabelled(tree, "hardware", unlabelled);
   EXPECT_GT(findControls(tree).size(), 15U);

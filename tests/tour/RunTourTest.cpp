@@ -11,7 +11,7 @@
 #include "showroom/tour/RunTour.hpp"
 #include "tests/support/BytesOf.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 class RunTourTest : public testing::Test {
@@ -42,7 +42,8 @@ TEST_F(RunTourTest, TellsOneLineForEveryPictureAndEndsWell) {
     EXPECT_EQ(std::stoi(number), count + 1) << line;
     EXPECT_EQ(line.substr(2, 2), "  ");
     EXPECT_EQ(line.back(), '.') << line;
-    const SurfacePointer picture = readPng(folder / "new" / "album" / (number + ".png"));
+    const desk::SurfacePointer picture =
+        desk::readPng(folder / "new" / "album" / (number + ".png"));
     ASSERT_TRUE(picture) << line;
     EXPECT_EQ(cairo_image_surface_get_width(picture.get()), 1440);
   }
@@ -77,4 +78,4 @@ TEST_F(RunTourTest, SaysWhenItCannotWrite) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -11,7 +11,7 @@
 #include "showroom/desktop/StandardDisplays.hpp"
 #include "showroom/tour/TourStage.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 class TourStageTest : public testing::Test {
@@ -67,7 +67,7 @@ TEST_F(TourStageTest, WalksBySmallMovementsThatTakeTime) {
   EXPECT_NEAR(stage.machine().pointer.place().x, 1500, 1e-6);
   EXPECT_NEAR(stage.machine().pointer.place().y, 300, 1e-6);
   EXPECT_EQ(stage.machine().counters.hardwareMovements - movements, 25);
-  EXPECT_EQ(stage.machine().clock.now(), Clock::nanosecondsPerSecond / 2);
+  EXPECT_EQ(stage.machine().clock.now(), desk::Clock::nanosecondsPerSecond / 2);
 }
 
 TEST_F(TourStageTest, PressesAgainstTheEdgeSoThatTheDockFeelsIt) {
@@ -83,13 +83,13 @@ TEST_F(TourStageTest, TheHandClicksWhatItIsToldTo) {
   stage.machine().permission.setTrusted(true);
   stage.application().launch();
   stage.clickIcon(1);
-  ASSERT_TRUE(WindowServer::current().menus.isStatusMenuOpen());
-  stage.click("Settings", Surfaces::menu);
+  ASSERT_TRUE(desk::WindowServer::current().menus.isStatusMenuOpen());
+  stage.click("Settings", desk::Surfaces::menu);
   stage.machine().advance(1);
   stage.pick("Language", "Chinese", "settings");
   EXPECT_EQ(stage.seen().appLanguage, OrvaneLanguage::chinese);
   stage.pressEscape();
-  EXPECT_FALSE(Surfaces(WindowServer::current()).isThere("settings"));
+  EXPECT_FALSE(desk::Surfaces(desk::WindowServer::current()).isThere("settings"));
   stage.click("固定 Dock", "main");
   EXPECT_TRUE(stage.seen().guard.isRunning);
   EXPECT_TRUE(stage.isTrue()) << complaints.str();
@@ -98,7 +98,7 @@ TEST_F(TourStageTest, TheHandClicksWhatItIsToldTo) {
 TEST_F(TourStageTest, AControlThatIsNotThereEndsTheStory) {
   stage.application().launch();
   stage.clickIcon(1);
-  stage.click("Fly", Surfaces::menu);
+  stage.click("Fly", desk::Surfaces::menu);
   EXPECT_FALSE(stage.isTrue());
   EXPECT_NE(complaints.str().find("\"Fly\" in menu"), std::string::npos);
 }
@@ -110,11 +110,11 @@ TEST_F(TourStageTest, KeepsACloseUpOfASurfaceAtTwoPixelsPerPoint) {
   stage.machine().advance(1);
   stage.keep("panel", "main");
   EXPECT_EQ(stage.keptCount(), 1);
-  const SurfacePointer picture = readPng(folder / "panel.png");
+  const desk::SurfacePointer picture = desk::readPng(folder / "panel.png");
   ASSERT_TRUE(picture);
   // The panel of 700 by 516 points, and 28 around it, but nothing beyond the screen of 640 points.
   EXPECT_EQ(cairo_image_surface_get_width(picture.get()), 2 * (700 + 56));
-  const auto panel = Surfaces(WindowServer::current()).window("main");
+  const auto panel = desk::Surfaces(desk::WindowServer::current()).window("main");
   const double top = std::max(0.0, 640 - CGRectGetMaxY(panel->frame) - 28);
   const double bottom = std::min(640.0, 640 - panel->frame.origin.y + 28);
   EXPECT_EQ(cairo_image_surface_get_height(picture.get()), 2 * static_cast<int>(bottom - top));
@@ -124,4 +124,4 @@ TEST_F(TourStageTest, KeepsACloseUpOfASurfaceAtTwoPixelsPerPoint) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

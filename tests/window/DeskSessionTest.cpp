@@ -4,7 +4,7 @@
 #include "showroom/window/DeskSession.hpp"
 #include "tests/window/SessionFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 class DeskSessionTest : public SessionFixture {};
@@ -54,7 +54,7 @@ TEST_F(DeskSessionTest, MarksAMovementThatWasMovedBackForAShortTime) {
 }
 
 TEST_F(DeskSessionTest, MarksWhereTheMovementOfAFreeCursorWasMovedBackTo) {
-  session.machine().mouse.setCursor(Mouse::Cursor::free);
+  session.machine().mouse.setCursor(desk::Mouse::Cursor::free);
   pinOrUnpin();
   moveTo(1500, 600);
   session.movePointerBy(0, 600);
@@ -80,11 +80,11 @@ TEST_F(DeskSessionTest, ChangesByItselfOnlyWhileSomethingMovesOrSomethingIsDue) 
   const std::int64_t untilMinute = session.nanosecondsToNextChange();
   EXPECT_GT(untilMinute, 50 * second);
   EXPECT_LE(untilMinute, 60 * second);
-  session.machine().preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, true);
+  session.machine().preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, true);
   EXPECT_EQ(session.nanosecondsToNextChange(), 0);
-  session.advance(Dock::slideNanoseconds / 2);
+  session.advance(desk::Dock::slideNanoseconds / 2);
   EXPECT_EQ(session.nanosecondsToNextChange(), 0);
-  session.advance(Dock::slideNanoseconds);
+  session.advance(desk::Dock::slideNanoseconds);
   EXPECT_GT(session.nanosecondsToNextChange(), 40 * second);
   session.movePointerBy(1, 0);
   EXPECT_EQ(session.nanosecondsToNextChange(), second);
@@ -92,7 +92,7 @@ TEST_F(DeskSessionTest, ChangesByItselfOnlyWhileSomethingMovesOrSomethingIsDue) 
 
 TEST_F(DeskSessionTest, KeysGoToTheOpenMenuAndToTheKeyWindow) {
   EXPECT_FALSE(session.hand().key({ui::Key::down, {}, {}})) << "nobody is there";
-  WindowServer& server = WindowServer::current();
+  desk::WindowServer& server = desk::WindowServer::current();
   ASSERT_TRUE(server.menus.openStatusMenu(0));
   for (int time = 0; time < 3; ++time) {
     EXPECT_TRUE(session.hand().key({ui::Key::down, {}, {}}));
@@ -107,12 +107,12 @@ TEST_F(DeskSessionTest, KeysGoToTheOpenMenuAndToTheKeyWindow) {
 }
 
 TEST_F(DeskSessionTest, TheButtonOpensTheMenuUnderThePointer) {
-  const CGRect item = StatusBar::itemFrame(session.machine().displays.globalFrames()[1]);
+  const CGRect item = desk::StatusBar::itemFrame(session.machine().displays.globalFrames()[1]);
   moveTo(CGRectGetMidX(item), CGRectGetMidY(item));
   session.hand().pressButton();
   session.hand().releaseButton();
-  EXPECT_TRUE(WindowServer::current().menus.isStatusMenuOpen());
-  EXPECT_EQ(WindowServer::current().menus.displayIndex(), 1U);
+  EXPECT_TRUE(desk::WindowServer::current().menus.isStatusMenuOpen());
+  EXPECT_EQ(desk::WindowServer::current().menus.displayIndex(), 1U);
 }
 
 TEST_F(DeskSessionTest, SaysHowToGetTheMouseBackWhileItIsHeld) {
@@ -130,4 +130,4 @@ TEST_F(DeskSessionTest, SurvivesMovementsWithoutAnyDisplay) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

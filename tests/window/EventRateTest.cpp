@@ -4,10 +4,10 @@
 #include "desk/machine/Clock.hpp"
 #include "showroom/window/EventRate.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
-constexpr std::int64_t second = Clock::nanosecondsPerSecond;
+constexpr std::int64_t second = desk::Clock::nanosecondsPerSecond;
 
 TEST(EventRateTest, IsNothingBeforeTheFirstEvent) {
   EXPECT_EQ(EventRate().perSecond(5 * second), 0);
@@ -40,4 +40,4 @@ TEST(EventRateTest, IgnoresABatchOfNone) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

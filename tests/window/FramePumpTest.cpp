@@ -5,7 +5,7 @@
 #include "showroom/window/FramePump.hpp"
 #include "tests/window/SessionFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 class FramePumpTest : public SessionFixture {};
@@ -58,9 +58,9 @@ TEST_F(FramePumpTest, SleepsWhileNothingChanges) {
   FramePump pump(60);
   pump.beginPicture();
   EXPECT_GT(pump.millisecondsToWait(session, false), 10'000);
-  session.machine().preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, true);
+  session.machine().preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, true);
   EXPECT_LE(pump.millisecondsToWait(session, false), 17);
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -4,7 +4,7 @@
 #include "Orvane/platform/Quartz.hpp"
 #include "showroom/window/KeyTranslation.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 SDL_Keysym pressed(SDL_Keycode code, int modifiers = KMOD_NONE) {
@@ -50,4 +50,4 @@ TEST(KeyTranslationTest, TheFourModifiersAreTheMacsOwn) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

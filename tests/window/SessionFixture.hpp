@@ -5,11 +5,11 @@
 
 #include "showroom/window/DeskSession.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 
 class SessionFixture : public testing::Test {
  protected:
-  static constexpr std::int64_t second = Clock::nanosecondsPerSecond;
+  static constexpr std::int64_t second = desk::Clock::nanosecondsPerSecond;
 
   /// Brings the pointer there by one movement of the hand.
   void moveTo(double x, double y) {
@@ -39,4 +39,4 @@ class SessionFixture : public testing::Test {
   DeskSession session{2};
 };
 
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -4,7 +4,7 @@
 #include "showroom/window/WindowDump.hpp"
 #include "tests/window/SessionFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 class WindowDumpTest : public SessionFixture {
@@ -64,4 +64,4 @@ TEST_F(WindowDumpTest, SaysSoWhenTheApplicationOrEveryDisplayIsGone) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -4,7 +4,7 @@
 #include "showroom/hardware/HardwarePanel.hpp"
 #include "showroom/window/WindowLayout.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 TEST(WindowLayoutTest, GivesThePanelItsWidthAndTheDesktopTheRest) {
@@ -32,4 +32,4 @@ TEST(WindowLayoutTest, SurvivesAWindowThatIsTooNarrowForThePanel) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -5,7 +5,7 @@
 #include "showroom/window/WindowPicture.hpp"
 #include "tests/window/SessionFixture.hpp"
 
-namespace orvane::desk {
+namespace orvane::showroom {
 namespace {
 
 class WindowPictureTest : public SessionFixture {
@@ -15,7 +15,7 @@ class WindowPictureTest : public SessionFixture {
   [[nodiscard]] bool isOutdated() const { return picture.isOutdated(session, false); }
 
   WindowLayout layout{1000, 560, 1};
-  SurfacePointer surface{cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1000, 560)};
+  desk::SurfacePointer surface{cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1000, 560)};
   HardwarePanelHost panel{session.hardware()};
   WindowPicture picture{panel};
 };
@@ -44,11 +44,11 @@ TEST_F(WindowPictureTest, IsOutdatedByEveryChangeOfTheHardware) {
       [&] { hardware.attachDisplay(); },
       [&] { hardware.makeMain(2); },
       [&] { hardware.detachDisplay(1); },
-      [&] { hardware.setEdge(DockEdge::left); },
+      [&] { hardware.setEdge(desk::DockEdge::left); },
       [&] { hardware.setAutoHides(true); },
       [&] { hardware.setTrusted(false); },
       [&] { hardware.setDark(true); },
-      [&] { hardware.setWallpaper(Appearance::Wallpaper::busy); },
+      [&] { hardware.setWallpaper(desk::Appearance::Wallpaper::busy); },
       [&] { hardware.setLanguageList(1); },
       [&] { hardware.setShowsZones(false); },
       [&] { hardware.reopen(); },
@@ -66,7 +66,7 @@ TEST_F(WindowPictureTest, IsOutdatedByEveryChangeOfTheHardware) {
 
 TEST_F(WindowPictureTest, IsOutdatedByAPressOnAControlOfThePanel) {
   draw();
-  const auto control = findControl(panel.host().semantics(), "Show trigger zones");
+  const auto control = desk::findControl(panel.host().semantics(), "Show trigger zones");
   ASSERT_TRUE(control);
   panel.pointerMoved(control->frame.center());
   draw();
@@ -125,4 +125,4 @@ TEST_F(WindowPictureTest, CoversTheWholeWindow) {
 }
 
 }  // namespace
-}  // namespace orvane::desk
+}  // namespace orvane::showroom

@@ -1,5 +1,5 @@
-// Looking at machine and application without touching them.
-#include "desk/explore/Moment.hpp"
+// Reads the machine, the application's snapshot and the semantics trees.
+#include "desk/explore/Observation.hpp"
 
 #include <array>
 #include <string_view>
@@ -13,8 +13,8 @@ namespace orvane::desk::explore {
 
 namespace {
 
-constexpr std::array<const char*, 5> surfacesOfTheApplication{"menu", "main", "settings", "alert",
-                                                              "guide"};
+constexpr std::array<const char*, 5> applicationSurfaces{"menu", "main", "settings", "alert",
+                                                         "guide"};
 
 template <typename Value>
 std::optional<Value> valueOf(const UserDefaultsStore& defaults, std::string_view key) {
@@ -23,7 +23,7 @@ std::optional<Value> valueOf(const UserDefaultsStore& defaults, std::string_view
   return typed == nullptr ? std::nullopt : std::optional(*typed);
 }
 
-/// The text when it is one of these; otherwise the first of them.
+/// The text if it is one of `known`, otherwise the first of these.
 template <std::size_t count>
 std::string oneOf(const std::array<std::string_view, count>& known,
                   const std::optional<std::string>& text) {
@@ -35,22 +35,22 @@ std::string oneOf(const std::array<std::string_view, count>& known,
   return std::string(known.front());
 }
 
-void addWindows(Moment& moment, WindowServer& server) {
+void addWindows(Observation& observation, WindowServer& server) {
   const Surfaces surfaces(server);
-  for (const char* const name : surfacesOfTheApplication) {
+  for (const char* const name : applicationSurfaces) {
     if (auto tree = surfaces.tree(name)) {
-      moment.trees.emplace(name, std::move(*tree));
+      observation.trees.emplace(name, std::move(*tree));
     }
   }
   for (const auto& window : server.windows()) {
     if (window->className == "OrvaneWindow") {
-      moment.isMainMinimised = window->isMiniaturized;
+      observation.isMainMinimised = window->isMiniaturized;
     }
-    moment.isGuideOpen = moment.isGuideOpen || window->className == "OrvaneGuidePanel";
+    observation.isGuideOpen = observation.isGuideOpen || window->className == "OrvaneGuidePanel";
   }
   if (const StatusBarItem* const item = server.statusBar.item()) {
-    moment.icon = item->image != nullptr ? item->image->name : "";
-    moment.iconValue = item->accessibilityValue;
+    observation.icon = item->image != nullptr ? item->image->name : "";
+    observation.iconValue = item->accessibilityValue;
   }
 }
 
@@ -88,54 +88,54 @@ std::uint64_t Stored::unlockMask() const {
   return modifier == "command" ? 0x100000 : 0x80000;
 }
 
-Moment Moment::of(const Machine& machine, const ApplicationHost& application) {
+Observation Observation::of(const Machine& machine, const ApplicationHost& application) {
   WindowServer& server = WindowServer::current();
-  Moment moment;
-  moment.now = machine.clock.now();
-  moment.isLaunched = application.isRunning();
-  moment.isTrusted = machine.permission.isTrusted();
-  moment.isModal = server.modal.isRunning();
-  moment.isQueueHeld = machine.runLoop.isMainQueueHeld();
-  moment.isMenuOpen = server.menus.isOpen();
-  moment.isStatusMenuOpen = server.menus.isStatusMenuOpen();
-  moment.isChangingTogether = machine.displays.isTogether();
-  moment.displayCount = machine.displays.count();
-  moment.tapCount = machine.eventTaps.aliveCount();
-  moment.isTapEnabled = machine.eventTaps.isAnyEnabled();
-  moment.stored = Stored::of(machine.userDefaults);
-  addWindows(moment, server);
-  if (!moment.isLaunched) {
-    return moment;
+  Observation observation;
+  observation.now = machine.clock.now();
+  observation.isLaunched = application.isRunning();
+  observation.isTrusted = machine.permission.isTrusted();
+  observation.isModal = server.modal.isRunning();
+  observation.isQueueHeld = machine.runLoop.isMainQueueHeld();
+  observation.isMenuOpen = server.menus.isOpen();
+  observation.isStatusMenuOpen = server.menus.isStatusMenuOpen();
+  observation.isChangingTogether = machine.displays.isTogether();
+  observation.displayCount = machine.displays.count();
+  observation.tapCount = machine.eventTaps.aliveCount();
+  observation.isTapEnabled = machine.eventTaps.isAnyEnabled();
+  observation.stored = Stored::of(machine.userDefaults);
+  addWindows(observation, server);
+  if (!observation.isLaunched) {
+    return observation;
   }
   const OrvaneModel& model = application.model();
-  moment.snapshot = application.snapshot();
-  const GuardSnapshot& guard = moment.snapshot.guard;
-  moment.isGuardRunning = guard.isRunning;
-  moment.isGuardWaiting = !guard.isRunning && guard.isObservingScreens;
-  moment.isUnlocked = guard.isTemporarilyUnlocked;
-  moment.blockedCount = guard.blockedCount;
-  moment.hasPermission = moment.snapshot.hasAccessibilityPermission;
-  moment.status = moment.snapshot.status;
-  moment.isGuidePolling = moment.snapshot.guide.isPolling;
-  moment.guideState = moment.snapshot.guide.state;
-  moment.isTapRefused = model.guardService().isTapRefused();
-  moment.isDoubted = model.isPermissionDoubted();
-  moment.isRestoreBlocked = model.isRestoreBlocked();
-  moment.messageCount = application.messages().size();
+  observation.snapshot = application.snapshot();
+  const GuardSnapshot& guard = observation.snapshot.guard;
+  observation.isGuardRunning = guard.isRunning;
+  observation.isGuardWaiting = !guard.isRunning && guard.isObservingScreens;
+  observation.isUnlocked = guard.isTemporarilyUnlocked;
+  observation.blockedCount = guard.blockedCount;
+  observation.hasPermission = observation.snapshot.hasAccessibilityPermission;
+  observation.status = observation.snapshot.status;
+  observation.isGuidePolling = observation.snapshot.guide.isPolling;
+  observation.guideState = observation.snapshot.guide.state;
+  observation.isTapRefused = model.guardService().isTapRefused();
+  observation.isDoubted = model.isPermissionDoubted();
+  observation.isRestoreBlocked = model.isRestoreBlocked();
+  observation.messageCount = application.messages().size();
   if (!application.messages().empty()) {
-    moment.lastMessage = application.messages().back().text;
+    observation.lastMessage = application.messages().back().text;
   }
-  return moment;
+  return observation;
 }
 
-void Moment::addTo(Fingerprint& fingerprint) const {
+void Observation::addTo(Fingerprint& fingerprint) const {
   fingerprint.add(now);
-  for (const bool fact :
+  for (const bool flag :
        {isLaunched,       isTrusted,          isModal,         isQueueHeld,      isMenuOpen,
         isStatusMenuOpen, isChangingTogether, isTapEnabled,    isGuardRunning,   isGuardWaiting,
         isTapRefused,     isDoubted,          isUnlocked,      isRestoreBlocked, hasPermission,
         isGuideOpen,      isGuidePolling,     isMainMinimised, stored.wants,     stored.prevents}) {
-    fingerprint.add(fact);
+    fingerprint.add(flag);
   }
   fingerprint.add(static_cast<std::uint64_t>(displayCount));
   fingerprint.add(static_cast<std::uint64_t>(tapCount));

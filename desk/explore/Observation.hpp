@@ -1,5 +1,5 @@
-// Moment is what can be seen from outside when the machine is at rest: of the application what
-// anybody can ask it and what it shows, and of the machine what it stores and counts.
+// Observation is the state of machine and application after a script line: what the application
+// reports and shows, and what the machine stores and counts.
 #pragma once
 
 #include <cstdint>
@@ -12,12 +12,12 @@
 #include "Orvane/permission/PermissionGuideState.hpp"
 #include "Orvane/ui/views/Semantics.hpp"
 #include "desk/application/ApplicationHost.hpp"
+#include "desk/explore/DisplayConfiguration.hpp"
 #include "desk/explore/Fingerprint.hpp"
-#include "desk/explore/Situation.hpp"
 
 namespace orvane::desk::explore {
 
-/// The settings as they are stored, read by the explorer's own rules.
+/// The stored settings, parsed without the application's code.
 struct Stored {
   std::optional<std::string> selected;
   bool wants = false;
@@ -26,13 +26,13 @@ struct Stored {
   std::string language;
 
   [[nodiscard]] static Stored of(const UserDefaultsStore& defaults);
-  [[nodiscard]] Wish wish() const { return {prevents, selected.value_or("")}; }
-  /// The bits of the key that unlocks.
+  [[nodiscard]] GuardGoal goal() const { return {prevents, selected.value_or("")}; }
+  /// The flags of the unlock key.
   [[nodiscard]] std::uint64_t unlockMask() const;
   bool operator==(const Stored&) const = default;
 };
 
-struct Moment {
+struct Observation {
   std::int64_t now = 0;
   bool isLaunched = false;
   bool isTrusted = false;
@@ -46,10 +46,10 @@ struct Moment {
   bool isTapEnabled = false;
   Stored stored;
 
-  /// The rest holds for the running application only.
+  // The rest is valid only while the application runs.
   OrvaneSnapshot snapshot;
   bool isGuardRunning = false;
-  /// The guard has no tap and follows the displays.
+  /// The guard has no tap but observes the displays.
   bool isGuardWaiting = false;
   bool isTapRefused = false;
   bool isDoubted = false;
@@ -60,22 +60,22 @@ struct Moment {
   std::int64_t blockedCount = 0;
   std::string icon;
   std::string iconValue;
-  /// It is on the screen, or hidden with the application.
+  /// True also while the application is hidden.
   bool isGuideOpen = false;
   bool isGuidePolling = false;
   PermissionGuideState guideState = PermissionGuideState::checking;
   bool isMainMinimised = false;
   std::size_t messageCount = 0;
   std::string lastMessage;
-  /// What a screen reader finds on each of the application's surfaces that is shown.
+  /// The semantics trees of the application's visible surfaces, by name.
   std::map<std::string, ui::SemanticsNode> trees;
 
-  [[nodiscard]] static Moment of(const Machine& machine, const ApplicationHost& application);
+  [[nodiscard]] static Observation of(const Machine& machine, const ApplicationHost& application);
   [[nodiscard]] bool shows(const std::string& surface) const { return trees.contains(surface); }
   void addTo(Fingerprint& fingerprint) const;
 };
 
-/// Every element of the tree, parents before their children.
+/// Every node of the tree, parents before their children.
 [[nodiscard]] std::vector<const ui::SemanticsNode*> elementsOf(const ui::SemanticsNode& root);
 
 }  // namespace orvane::desk::explore

@@ -1,4 +1,4 @@
-// Lots draws the same lots from the same seed everywhere.
+// Random is a pseudorandom generator that gives the same numbers for the same seed everywhere.
 #pragma once
 
 #include <cstddef>
@@ -6,12 +6,12 @@
 
 namespace orvane::desk::explore {
 
-class Lots {
+class Random {
  public:
-  explicit Lots(std::uint64_t seed) : state_(seed) {}
+  explicit Random(std::uint64_t seed) : state_(seed) {}
 
-  /// The generator "splitmix64": Steele, Lea and Flood, "Fast splittable pseudorandom number
-  /// generators", OOPSLA 2014.
+  /// splitmix64: Steele, Lea and Flood, "Fast splittable pseudorandom number generators",
+  /// OOPSLA 2014.
   std::uint64_t next() {
     state_ += 0x9E3779B97F4A7C15ULL;
     std::uint64_t mixed = state_;
@@ -20,16 +20,16 @@ class Lots {
     return mixed ^ (mixed >> 31U);
   }
 
-  /// From 0 to `count` - 1; there must be one.
+  /// From 0 to `count` - 1; `count` must not be 0.
   std::size_t below(std::size_t count) { return static_cast<std::size_t>(next() % count); }
-  /// From `lowest` to `highest`, both included.
-  std::int64_t between(std::int64_t lowest, std::int64_t highest) {
-    return lowest +
-           static_cast<std::int64_t>(below(static_cast<std::size_t>(highest - lowest + 1)));
+  /// From `minimum` to `maximum`, inclusive.
+  std::int64_t between(std::int64_t minimum, std::int64_t maximum) {
+    return minimum +
+           static_cast<std::int64_t>(below(static_cast<std::size_t>(maximum - minimum + 1)));
   }
-  /// True so many times of a thousand.
+  /// True with this probability.
   bool chance(std::size_t permille) { return below(1000) < permille; }
-  /// One of them; there must be one.
+  /// An element of the list, which must not be empty.
   template <typename List>
   const auto& oneOf(const List& list) {
     return list[below(list.size())];

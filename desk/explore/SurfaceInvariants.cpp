@@ -1,8 +1,8 @@
-// The promises about what is shown: icon, menu, panels, windows, texts.
+// The invariants of the icon, the menu, the panels, the windows and the texts.
 #include <algorithm>
 #include <array>
 
-#include "desk/explore/Safety.hpp"
+#include "desk/explore/InvariantChecker.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk::explore {
@@ -37,48 +37,48 @@ std::string shortcutOf(const std::string& modifier) {
 
 }  // namespace
 
-Safety::Check Safety::checkIcon(const Moment& after) {
+InvariantChecker::Check InvariantChecker::checkIcon(const Observation& after) {
   const std::string symbol = after.isGuardRunning ? "lock.fill" : "lock.open";
   if (isOverdue("icon", after.icon != symbol, after.now)) {
     return Violation{"icon", "it is \"" + after.icon + "\"", "icon.symbol \"" + symbol + "\""};
   }
-  const bool isRead = std::ranges::any_of(tongues_, [&](Tongue tongue) {
-    const Words& words = wordsOf(tongue);
+  const bool isExpected = std::ranges::any_of(languages_, [&](Language language) {
+    const Labels& words = labelsIn(language);
     return after.iconValue == (after.isGuardRunning ? words.locked : words.unlocked);
   });
-  if (isOverdue("icon's value", !isRead && !after.isQueueHeld, after.now)) {
-    return Violation{"icon", "it is read as \"" + after.iconValue + "\""};
+  if (isOverdue("icon's value", !isExpected && !after.isQueueHeld, after.now)) {
+    return Violation{"icon", "its accessibility value is \"" + after.iconValue + "\""};
   }
   return std::nullopt;
 }
 
-Safety::Check Safety::checkMenu(const Moment& after) {
+InvariantChecker::Check InvariantChecker::checkMenu(const Observation& after) {
   const auto menu = after.trees.find("menu");
   const bool pins = after.isGuardRunning && !after.stored.prevents;
   const bool prevents = after.isGuardRunning && after.stored.prevents;
-  const bool isRight =
+  const bool isExpected =
       !after.isStatusMenuOpen || menu == after.trees.end() ||
-      std::ranges::any_of(tongues_, [&](Tongue tongue) {
-        const auto* const pin = findLabel(menu->second, wordsOf(tongue).pin, false);
-        const auto* const prevent = findLabel(menu->second, wordsOf(tongue).prevent, false);
+      std::ranges::any_of(languages_, [&](Language language) {
+        const auto* const pin = findLabel(menu->second, labelsIn(language).pin, false);
+        const auto* const prevent = findLabel(menu->second, labelsIn(language).prevent, false);
         return pin != nullptr && prevent != nullptr && pin->value == (pins ? "1" : "0") &&
                prevent->value == (prevents ? "1" : "0");
       });
-  if (isOverdue("menu", !isRight, after.now)) {
-    return Violation{"menu", "its switches are not what the guard does"};
+  if (isOverdue("menu", !isExpected, after.now)) {
+    return Violation{"menu", "its switches do not match the guard"};
   }
   return std::nullopt;
 }
 
-Safety::Check Safety::checkMainPanel(const Moment& after) const {
+InvariantChecker::Check InvariantChecker::checkMainPanel(const Observation& after) const {
   const auto panel = after.trees.find("main");
   if (panel == after.trees.end() || after.isQueueHeld) {
     return std::nullopt;
   }
   const bool pins = after.isGuardRunning && !after.stored.prevents;
   const bool prevents = after.isGuardRunning && after.stored.prevents;
-  const bool isRight = std::ranges::any_of(tongues_, [&](Tongue tongue) {
-    const Words& words = wordsOf(tongue);
+  const bool isExpected = std::ranges::any_of(languages_, [&](Language language) {
+    const Labels& words = labelsIn(language);
     const auto hasButton = [&](const char* label) {
       return findLabel(panel->second, label, true) != nullptr;
     };
@@ -87,32 +87,32 @@ Safety::Check Safety::checkMainPanel(const Moment& after) const {
            hasButton(prevents ? words.allow : words.prevent) &&
            !hasButton(prevents ? words.prevent : words.allow);
   });
-  return isRight ? std::nullopt
-                 : Check(Violation{"panel", "its buttons are not for what the guard does"});
+  return isExpected ? std::nullopt
+                    : Check(Violation{"panel", "its buttons do not match the guard"});
 }
 
-Safety::Check Safety::checkSettings(const Moment& after) const {
+InvariantChecker::Check InvariantChecker::checkSettings(const Observation& after) const {
   const auto panel = after.trees.find("settings");
   if (panel == after.trees.end()) {
     return std::nullopt;
   }
-  const bool hasLanguage = std::ranges::any_of(tongues_, [&](Tongue tongue) {
-    const Words& words = wordsOf(tongue);
+  const bool hasLanguage = std::ranges::any_of(languages_, [&](Language language) {
+    const Labels& words = labelsIn(language);
     const std::string& choice = after.stored.language;
     return hasPopUpWith(panel->second, choice == "english"   ? words.english
                                        : choice == "chinese" ? words.chinese
                                                              : words.followSystem);
   });
   if (!hasLanguage || !hasPopUpWith(panel->second, shortcutOf(after.stored.modifier))) {
-    return Violation{"settings", "they show another choice than the stored one"};
+    return Violation{"settings", "they do not show the stored choice"};
   }
   return std::nullopt;
 }
 
-Safety::Check Safety::checkWindows(const Moment& after) const {
+InvariantChecker::Check InvariantChecker::checkWindows(const Observation& after) const {
   const WindowServer& server = WindowServer::current();
   if ((WindowServer::current().statusBar.item() != nullptr) != after.isLaunched) {
-    return Violation{"item", "the status item and the application do not go together"};
+    return Violation{"item", "the status item does not match the application"};
   }
   std::set<std::string> kinds;
   for (const auto& window : server.windows()) {
@@ -120,59 +120,57 @@ Safety::Check Safety::checkWindows(const Moment& after) const {
       continue;
     }
     if (!after.isLaunched) {
-      return Violation{"windows", "a window has outlived the application"};
+      return Violation{"windows", "a window outlived the application"};
     }
     if (!kinds.insert(window->className).second) {
-      return Violation{"windows", "there are two of " + window->className};
+      return Violation{"windows", "there are two windows of class " + window->className};
     }
-    // A child goes where its parent is taken.
-    const bool mustBeSeen = window->parent.expired() && server.isVisible(*window) &&
-                            after.displayCount > 0 && !after.isChangingTogether;
-    if (mustBeSeen && !server.displayIndexOf(*window)) {
+    // A child window moves with its parent, anywhere.
+    const bool mustBeOnADisplay = window->parent.expired() && server.isVisible(*window) &&
+                                  after.displayCount > 0 && !after.isChangingTogether;
+    if (mustBeOnADisplay && !server.displayIndexOf(*window)) {
       return Violation{"windows", window->className + " is on no display"};
     }
   }
   return std::nullopt;
 }
 
-Safety::Check Safety::checkModes(const Moment& after) const {
+InvariantChecker::Check InvariantChecker::checkModes(const Observation& after) const {
   if (after.isModal != after.shows("alert")) {
-    return Violation{"modes", "the modal session and the alert do not go together"};
+    return Violation{"modes", "the modal session does not match the alert"};
   }
   if (after.isQueueHeld != after.isModal) {
-    return Violation{"modes", "the main queue is held without a modal session, or not in one"};
+    return Violation{"modes", "the main queue does not match the modal session"};
   }
   const bool isStandard = machine_.runLoop.mode() == RunLoop::Mode::standard;
   if (isStandard != (!after.isModal && !after.isMenuOpen)) {
-    return Violation{"modes", "the run loop is in a mode that nobody asked for"};
+    return Violation{"modes", "the run loop is in the wrong mode"};
   }
   const bool hasSucceeded = after.guideState == PermissionGuideState::success;
   if (after.isGuidePolling && (!after.isGuideOpen || hasSucceeded)) {
-    return Violation{"guide", "it looks for the permission without need", "guide.polling false"};
+    return Violation{"guide", "it polls without need", "guide.polling false"};
   }
   if (after.isGuideOpen && !after.isGuidePolling && !hasSucceeded) {
-    return Violation{"guide", "it is shown and does not look for the permission",
-                     "guide.polling true"};
+    return Violation{"guide", "it is open but does not poll", "guide.polling true"};
   }
   const int activities = machine_.application.activityCount;
   const bool isActive = after.isLaunched && after.isGuardRunning;
   if (!after.isQueueHeld && after.isLaunched && activities != (isActive ? 1 : 0)) {
-    return Violation{"activity", std::to_string(activities) + " have begun and not ended"};
+    return Violation{"activity", std::to_string(activities) + " activities are running"};
   }
   return std::nullopt;
 }
 
-Safety::Check Safety::checkTexts(const Moment& after) const {
+InvariantChecker::Check InvariantChecker::checkTexts(const Observation& after) const {
   for (const auto& [surface, tree] : after.trees) {
-    // The alert and the guide need not follow a change of the language while they are open.
-    const bool isPanel = surface == "alert" || surface == "guide";
-    const std::set<Tongue>& tongues = isPanel ? tonguesOfPanels_ : tongues_;
-    if (tongues.size() > 1) {
+    const bool isDialogue = surface == "alert" || surface == "guide";
+    const std::set<Language>& languages = isDialogue ? dialogueLanguages_ : languages_;
+    if (languages.size() > 1) {
       continue;
     }
     for (const ui::SemanticsNode* const element : elementsOf(tree)) {
       for (const std::string* const text : {&element->label, &element->value}) {
-        if (!isIn(*tongues.begin(), *text, names_)) {
+        if (!isWrittenIn(*languages.begin(), *text, names_)) {
           return Violation{"texts", "\"" + *text + "\" in " + surface};
         }
       }

@@ -1,6 +1,5 @@
-// The promises about guard, model and machine. Those about what is shown are in
-// SafetyOfSurfaces.cpp.
-#include "desk/explore/Safety.hpp"
+// The invariants of the guard, the model and the machine; SurfaceInvariants.cpp has the others.
+#include "desk/explore/InvariantChecker.hpp"
 
 #include <algorithm>
 #include <array>
@@ -15,16 +14,16 @@ namespace {
 constexpr std::array<std::string_view, 5> storedKeys{"selectedDisplayID", "isOrvaneEnabled",
                                                      "hidesDockOnAllDisplays",
                                                      "temporaryUnlockModifier", "appLanguage"};
-/// The lines by which a user operates the application.
-constexpr std::array<std::string_view, 9> handsOn{"press", "pick",  "key",  "click", "do",
-                                                  "drop",  "hover", "drag", "menu"};
+/// The commands that stand for a user who operates the application.
+constexpr std::array<std::string_view, 9> userCommands{"press", "pick",  "key",  "click", "do",
+                                                       "drop",  "hover", "drag", "menu"};
 
 std::string_view firstWord(std::string_view line) {
   return line.substr(0, line.find(' '));
 }
 
-bool isByHand(std::string_view line) {
-  return std::ranges::find(handsOn, firstWord(line)) != handsOn.end();
+bool isUserCommand(std::string_view line) {
+  return std::ranges::find(userCommands, firstWord(line)) != userCommands.end();
 }
 
 std::string yesNo(bool value) {
@@ -33,43 +32,44 @@ std::string yesNo(bool value) {
 
 }  // namespace
 
-Safety::Safety(Machine& machine, const ApplicationHost& application)
+InvariantChecker::InvariantChecker(Machine& machine, const ApplicationHost& application)
     : machine_(machine), application_(application), filter_(machine, application) {
   machine_.eventTaps.setWitness(&filter_);
-  filter_.forgetSituations();
+  filter_.resetConfigurations();
 }
 
-Safety::~Safety() {
+InvariantChecker::~InvariantChecker() {
   machine_.eventTaps.setWitness(nullptr);
 }
 
-bool Safety::isOverdue(const std::string& matter, bool isWrong, std::int64_t now,
-                       std::int64_t limit) {
+bool InvariantChecker::isOverdue(const std::string& name, bool isWrong, std::int64_t now,
+                                 std::int64_t limit) {
   if (!isWrong) {
-    wrongSince_.erase(matter);
+    wrongSince_.erase(name);
     return false;
   }
-  return now - wrongSince_.emplace(matter, now).first->second > limit;
+  return now - wrongSince_.emplace(name, now).first->second > limit;
 }
 
-void Safety::listenToScreens() {
+void InvariantChecker::observeScreens() {
   machine_.observers.add(appkit::NotificationName::applicationDidChangeScreenParameters, [this] {
-    filter_.forgetSituations();
+    filter_.resetConfigurations();
     hasListed_ = true;
   });
 }
 
-void Safety::begin() {
+void InvariantChecker::begin() {
   filter_.beginStep();
   wasStale_ = isStale();
   revealsBefore_ = machine_.dock.reveals();
 }
 
-void Safety::follow(const std::string& line, const Moment& before, const Moment& after) {
+void InvariantChecker::track(const std::string& line, const Observation& before,
+                             const Observation& after) {
   if (firstWord(line) == "defaults") {
     for (const auto& [key, value] : machine_.userDefaults.values()) {
       if (std::ranges::find(storedKeys, key) == storedKeys.end()) {
-        foreignKeys_.insert(key);
+        scriptKeys_.insert(key);
       }
     }
   }
@@ -79,64 +79,64 @@ void Safety::follow(const std::string& line, const Moment& before, const Moment&
   if (machine_.loginItem.error) {
     names_.insert(*machine_.loginItem.error);
   }
-  const bool isNew = after.isLaunched && !before.isLaunched;
+  const bool isLaunch = after.isLaunched && !before.isLaunched;
   if (!after.isLaunched) {
     wrongSince_.clear();
   }
-  const Tongue tongue = tongueFor(after.stored.language, machine_.locale);
-  if (isNew || before.stored.language != after.stored.language || !after.isLaunched) {
-    tongues_.clear();
+  const Language language = languageFor(after.stored.language, machine_.locale);
+  if (isLaunch || before.stored.language != after.stored.language || !after.isLaunched) {
+    languages_.clear();
   }
-  tongues_.insert(tongue);
+  languages_.insert(language);
   if (!after.shows("alert") && !after.shows("guide")) {
-    tonguesOfPanels_.clear();
+    dialogueLanguages_.clear();
   }
-  tonguesOfPanels_.insert(tongues_.begin(), tongues_.end());
-  if (isNew) {
-    filter_.forgetSituations();
-    listenToScreens();
+  dialogueLanguages_.insert(languages_.begin(), languages_.end());
+  if (isLaunch) {
+    filter_.resetConfigurations();
+    observeScreens();
     hasAsked_ = false;
     hasListed_ = false;
   } else {
-    filter_.noteSituation();
+    filter_.addConfiguration();
   }
   hasAsked_ = hasAsked_ || after.shows("alert") || after.isGuideOpen;
 }
 
-std::optional<Violation> Safety::check(const std::string& line, const Moment& before,
-                                       const Moment& after) {
-  follow(line, before, after);
+std::optional<Violation> InvariantChecker::check(const std::string& line, const Observation& before,
+                                                 const Observation& after) {
+  track(line, before, after);
   if (filter_.step().violation) {
     return filter_.step().violation;
   }
   std::optional<Violation> found = checkMachine(after);
-  const auto then = [&found](auto&& next) {
+  const auto check = [&found](auto&& next) {
     if (!found) {
       found = next();
     }
   };
-  then([&] { return checkObjects(after); });
-  then([&] { return checkKeys(); });
-  then([&] { return checkModes(after); });
-  then([&] { return checkWindows(after); });
+  check([&] { return checkObjects(after); });
+  check([&] { return checkKeys(); });
+  check([&] { return checkModes(after); });
+  check([&] { return checkWindows(after); });
   if (!after.isLaunched) {
     return found;
   }
-  then([&] { return checkDock(before, after); });
-  then([&] { return checkPermission(after); });
-  then([&] { return checkGuard(before, after); });
-  then([&] { return checkModel(after); });
-  then([&] { return checkStatus(after); });
-  then([&] { return checkWish(line, before, after); });
-  then([&] { return checkIcon(after); });
-  then([&] { return checkMenu(after); });
-  then([&] { return checkMainPanel(after); });
-  then([&] { return checkSettings(after); });
-  then([&] { return checkTexts(after); });
+  check([&] { return checkDock(before, after); });
+  check([&] { return checkPermission(after); });
+  check([&] { return checkGuard(before, after); });
+  check([&] { return checkModel(after); });
+  check([&] { return checkStatus(after); });
+  check([&] { return checkStoredChoices(line, before, after); });
+  check([&] { return checkIcon(after); });
+  check([&] { return checkMenu(after); });
+  check([&] { return checkMainPanel(after); });
+  check([&] { return checkSettings(after); });
+  check([&] { return checkTexts(after); });
   return found;
 }
 
-Safety::Check Safety::checkMachine(const Moment& after) const {
+InvariantChecker::Check InvariantChecker::checkMachine(const Observation& after) const {
   if (machine_.faults.count() > 0) {
     return Violation{"faults", machine_.faults.texts().front(), "faults.count 0"};
   }
@@ -150,7 +150,7 @@ Safety::Check Safety::checkMachine(const Moment& after) const {
   return std::nullopt;
 }
 
-Safety::Check Safety::checkObjects(const Moment& after) const {
+InvariantChecker::Check InvariantChecker::checkObjects(const Observation& after) const {
   const ObjectRegistry& objects = machine_.objects;
   const auto running = static_cast<std::size_t>(after.isLaunched && after.isGuardRunning);
   const auto count = [&objects](ObjectKind kind) { return objects.liveCount(kind); };
@@ -166,28 +166,29 @@ Safety::Check Safety::checkObjects(const Moment& after) const {
   return std::nullopt;
 }
 
-Safety::Check Safety::checkKeys() const {
+InvariantChecker::Check InvariantChecker::checkKeys() const {
   for (const auto& [key, value] : machine_.userDefaults.values()) {
-    if (std::ranges::find(storedKeys, key) == storedKeys.end() && !foreignKeys_.contains(key)) {
+    if (std::ranges::find(storedKeys, key) == storedKeys.end() && !scriptKeys_.contains(key)) {
       return Violation{"keys", "\"" + key + "\" was stored"};
     }
   }
   return std::nullopt;
 }
 
-Safety::Check Safety::checkDock(const Moment& before, const Moment& after) const {
+InvariantChecker::Check InvariantChecker::checkDock(const Observation& before,
+                                                    const Observation& after) const {
   const bool isGuarded = before.isGuardRunning && before.isTapEnabled && after.isGuardRunning &&
                          after.isTapEnabled && !filter_.step().hasFreeMovement && !wasStale_ &&
                          !isStale() && before.stored == after.stored;
   if (!isGuarded) {
     return std::nullopt;
   }
-  const Situation& situation = filter_.situations().front();
-  for (std::size_t index = 0; index < situation.screens.size(); ++index) {
-    const std::uint32_t number = situation.screens[index].number;
+  const DisplayConfiguration& configuration = filter_.configurations().front();
+  for (std::size_t index = 0; index < configuration.screens.size(); ++index) {
+    const std::uint32_t number = configuration.screens[index].number;
     const auto known = revealsBefore_.find(number);
     const std::int64_t count = known == revealsBefore_.end() ? 0 : known->second;
-    if (situation.isForbidden(index, after.stored.wish()) &&
+    if (configuration.isForbidden(index, after.stored.goal()) &&
         machine_.dock.revealCount(number) > count) {
       return Violation{"dock", "the Dock came up on display " + std::to_string(number),
                        "dock.reveals." + std::to_string(number) + " " + std::to_string(count)};
@@ -196,30 +197,31 @@ Safety::Check Safety::checkDock(const Moment& before, const Moment& after) const
   return std::nullopt;
 }
 
-Safety::Check Safety::checkPermission(const Moment& after) {
+InvariantChecker::Check InvariantChecker::checkPermission(const Observation& after) {
   if (isOverdue("tap", !after.isTrusted && after.isGuardRunning, after.now)) {
-    return Violation{"permission", "the guard has a tap a second after its permission went",
+    return Violation{"permission",
+                     "the guard still has its tap a second after the permission was revoked",
                      "guard.running false"};
   }
-  const bool counts = after.isTrusted && !after.isDoubted;
-  if (isOverdue("permission", after.hasPermission != counts, after.now)) {
-    return Violation{"permission",
-                     "the model says " + yesNo(after.hasPermission) + " of the permission",
-                     "model.hasAccessibilityPermission " + yesNo(counts)};
+  const bool expected = after.isTrusted && !after.isDoubted;
+  if (isOverdue("permission", after.hasPermission != expected, after.now)) {
+    return Violation{"permission", "hasAccessibilityPermission is " + yesNo(after.hasPermission),
+                     "model.hasAccessibilityPermission " + yesNo(expected)};
   }
   return std::nullopt;
 }
 
-Safety::Check Safety::checkGuard(const Moment& before, const Moment& after) {
+InvariantChecker::Check InvariantChecker::checkGuard(const Observation& before,
+                                                     const Observation& after) {
   if (!after.isGuardRunning) {
     if (after.isUnlocked) {
-      return Violation{"guard", "it is unlocked and does not run",
+      return Violation{"guard", "it is temporarily unlocked but not running",
                        "guard.isTemporarilyUnlocked false"};
     }
     return std::nullopt;
   }
   if (!after.stored.wants) {
-    return Violation{"guard", "it runs and nobody wants it", "guard.running false"};
+    return Violation{"guard", "it runs although the lock is off", "guard.running false"};
   }
   // A start without the permission changes nothing; the next look at the permission, within a
   // second, ends the guard or restarts it with the settings of now.
@@ -230,26 +232,26 @@ Safety::Check Safety::checkGuard(const Moment& before, const Moment& after) {
     return std::nullopt;
   }
   const GuardSnapshot& guard = after.snapshot.guard;
-  const Wish wish = after.stored.wish();
-  if (guard.blocksAllDisplays != wish.prevents) {
-    return Violation{"guard", "it runs in the other mode",
-                     "guard.blocksAllDisplays " + yesNo(wish.prevents)};
+  const GuardGoal goal = after.stored.goal();
+  if (guard.blocksAllDisplays != goal.prevents) {
+    return Violation{"guard", "it runs in the wrong mode",
+                     "guard.blocksAllDisplays " + yesNo(goal.prevents)};
   }
   if (static_cast<std::uint64_t>(guard.overrideModifier.flagMask()) != after.stored.unlockMask()) {
-    return Violation{"guard", "it unlocks by another key",
+    return Violation{"guard", "it has the wrong unlock key",
                      "guard.overrideModifier \"" + after.stored.modifier + "\""};
   }
-  std::optional<std::string> complaint;
-  for (const Situation& situation : filter_.situations()) {
-    complaint = situation.complaint(guard.zones, wish);
-    if (!complaint) {
+  std::optional<std::string> problem;
+  for (const DisplayConfiguration& configuration : filter_.configurations()) {
+    problem = configuration.zoneProblem(guard.zones, goal);
+    if (!problem) {
       break;
     }
   }
-  return complaint ? Check(Violation{"zones", *complaint}) : std::nullopt;
+  return problem ? Check(Violation{"zones", *problem}) : std::nullopt;
 }
 
-Safety::Check Safety::checkModel(const Moment& after) const {
+InvariantChecker::Check InvariantChecker::checkModel(const Observation& after) const {
   const OrvaneSnapshot& model = after.snapshot;
   const Stored& stored = after.stored;
   if (model.selectedDisplayID != stored.selected) {
@@ -270,41 +272,41 @@ Safety::Check Safety::checkModel(const Moment& after) const {
                      "model.appLanguage \"" + stored.language + "\""};
   }
   if (model.lastRestoreSucceeded) {
-    return Violation{"model", "something assigned what nothing assigns",
+    return Violation{"model", "lastRestoreSucceeded was assigned",
                      "model.lastRestoreSucceeded null"};
   }
   if (!after.isQueueHeld && model.isTemporarilyUnlocked != after.isUnlocked) {
-    return Violation{"model", "it did not hear of the unlock",
+    return Violation{"model", "isTemporarilyUnlocked is not the guard's",
                      "model.isTemporarilyUnlocked " + yesNo(after.isUnlocked)};
   }
   return std::nullopt;
 }
 
-Safety::Check Safety::checkStatus(const Moment& after) const {
+InvariantChecker::Check InvariantChecker::checkStatus(const Observation& after) const {
   const bool isSettled = !after.isQueueHeld && !isStale() && !after.isChangingTogether;
   if (!isSettled) {
     return std::nullopt;
   }
   const OrvaneModel& model = application_.model();
-  const Situation& situation = filter_.situations().front();
+  const DisplayConfiguration& configuration = filter_.configurations().front();
   const std::vector<DisplaySnapshot>& listed = model.displays().value();
   const bool isSame = std::ranges::equal(
-      listed, situation.screens,
-      [](const DisplaySnapshot& display, const Situation::Screen& screen) {
+      listed, configuration.screens,
+      [](const DisplaySnapshot& display, const DisplayConfiguration::Screen& screen) {
         return display.id == screen.names.front() && display.cgFrame.origin.x == screen.x &&
                display.cgFrame.origin.y == screen.y;
       });
   if (!isSame && (hasListed_ || !listed.empty())) {
-    return Violation{"displays", "the model lists other displays than there are"};
+    return Violation{"displays", "the model does not list the attached displays"};
   }
-  const Wish wish = after.stored.wish();
+  const GuardGoal goal = after.stored.goal();
   OrvaneStatus expected = after.isGuardRunning ? OrvaneStatus::locked : OrvaneStatus::unlocked;
   if (!after.hasPermission) {
     expected = OrvaneStatus::permissionRequired;
-  } else if (!wish.prevents && after.stored.selected &&
-             (listed.empty() || situation.named(wish.target) == nullptr)) {
+  } else if (!goal.prevents && after.stored.selected &&
+             (listed.empty() || configuration.named(goal.target) == nullptr)) {
     expected = OrvaneStatus::targetMissing;
-  } else if (!situation.edge) {
+  } else if (!configuration.edge) {
     expected = OrvaneStatus::needsCheck;
   } else if (after.isUnlocked) {
     expected = OrvaneStatus::temporarilyUnlocked;
@@ -316,31 +318,32 @@ Safety::Check Safety::checkStatus(const Moment& after) const {
   return std::nullopt;
 }
 
-Safety::Check Safety::checkWish(const std::string& line, const Moment& before,
-                                const Moment& after) const {
+InvariantChecker::Check InvariantChecker::checkStoredChoices(const std::string& line,
+                                                             const Observation& before,
+                                                             const Observation& after) const {
   const Stored& was = before.stored;
   const Stored& is = after.stored;
-  if (firstWord(line) == "defaults" || isByHand(line) || !before.isLaunched) {
+  if (firstWord(line) == "defaults" || isUserCommand(line) || !before.isLaunched) {
     return std::nullopt;
   }
   if (was.language != is.language || was.modifier != is.modifier) {
-    return Violation{"wish", "a choice was stored that nobody made"};
+    return Violation{"choice", "the language or unlock key was stored without a user action"};
   }
-  const bool isOpen = hasAsked_;
-  if ((was.wants && !is.wants && !isOpen) || (!was.wants && is.wants && !isOpen) ||
-      (was.prevents != is.prevents && !isOpen)) {
-    return Violation{"wish", "nobody changed what they want of the guard, and it was stored",
+  if (!hasAsked_ && (was.wants != is.wants || was.prevents != is.prevents)) {
+    return Violation{"choice", "the lock or mode was stored without a user action",
                      "defaults.isOrvaneEnabled " + yesNo(was.wants)};
   }
   if (was.selected && was.selected != is.selected) {
-    // An alias may become the name by which its display is stored.
+    // A display that was stored by an alias may be stored again by its preferred identifier.
     const bool isAlias =
-        is.selected && std::ranges::any_of(filter_.situations(), [&](const Situation& situation) {
-          const auto* const screen = situation.named(*was.selected);
-          return screen != nullptr && screen->isNamed(*is.selected);
-        });
+        is.selected &&
+        std::ranges::any_of(filter_.configurations(),
+                            [&](const DisplayConfiguration& configuration) {
+                              const auto* const screen = configuration.named(*was.selected);
+                              return screen != nullptr && screen->isNamed(*is.selected);
+                            });
     if (!isAlias) {
-      return Violation{"wish", "another target was stored than the one that was chosen"};
+      return Violation{"choice", "the target was stored without a user action"};
     }
   }
   return std::nullopt;

@@ -1,6 +1,5 @@
-// Texts are told apart by their characters: no Chinese ones in English, and in Chinese no Latin
-// words but the few that are the same in both.
-#include "desk/explore/Texts.hpp"
+// English text has no Chinese characters, and Chinese text no Latin words but a few names.
+#include "desk/explore/Language.hpp"
 
 #include <algorithm>
 #include <array>
@@ -12,15 +11,15 @@ namespace orvane::desk::explore {
 
 namespace {
 
-constexpr std::array<std::string_view, 8> wordsOfBoth{"Dock",   "Orvane",  "macOS", "English",
+constexpr std::array<std::string_view, 8> sharedWords{"Dock",   "Orvane",  "macOS", "English",
                                                       "Option", "Control", "Shift", "Command"};
 
 bool isLatin(char character) {
   return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
 }
 
-/// Of well-formed text: whether a character of three bytes begins here that is from CJK Radicals
-/// Supplement (U+2E80) on, also a full-width form.
+/// Whether a three-byte UTF-8 sequence from U+2E80 (CJK Radicals Supplement) on begins here, which
+/// includes full-width forms.
 bool isChineseAt(std::string_view text, std::size_t place) {
   const auto byte = static_cast<unsigned char>(text[place]);
   if (byte < 0xE2 || byte > 0xEF || place + 1 >= text.size()) {
@@ -46,7 +45,7 @@ bool hasForeignLatin(std::string_view text) {
       ++end;
     }
     if (end > place &&
-        std::ranges::find(wordsOfBoth, text.substr(place, end - place)) == wordsOfBoth.end()) {
+        std::ranges::find(sharedWords, text.substr(place, end - place)) == sharedWords.end()) {
       return true;
     }
     place = std::max(end, place + 1);
@@ -73,56 +72,56 @@ bool isOf(std::string_view identifier, const std::string& language) {
 
 }  // namespace
 
-Tongue tongueFor(std::string_view choice, const LocaleSettings& locale) {
+Language languageFor(std::string_view choice, const LocaleSettings& locale) {
   if (choice == "chinese" || choice == "english") {
-    return choice == "chinese" ? Tongue::chinese : Tongue::english;
+    return choice == "chinese" ? Language::chinese : Language::english;
   }
   std::vector<std::string> candidates = locale.preferredLanguages;
   candidates.push_back(locale.currentIdentifier);
   for (const std::string& candidate : candidates) {
     if (isOf(candidate, "zh")) {
-      return Tongue::chinese;
+      return Language::chinese;
     }
     if (isOf(candidate, "en")) {
-      return Tongue::english;
+      return Language::english;
     }
   }
-  return Tongue::english;
+  return Language::english;
 }
 
-bool isIn(Tongue tongue, std::string text, const std::set<std::string>& names) {
-  // The last in the order first: of two names that begin alike, the longer one.
+bool isWrittenIn(Language language, std::string text, const std::set<std::string>& names) {
+  // In reverse order, because a name sorts after its own prefixes.
   for (auto name = names.rbegin(); name != names.rend(); ++name) {
     for (std::size_t place = text.find(*name); !name->empty() && place != std::string::npos;
          place = text.find(*name)) {
       text.erase(place, name->size());
     }
   }
-  return tongue == Tongue::english ? !hasChinese(text) : !hasForeignLatin(text);
+  return language == Language::english ? !hasChinese(text) : !hasForeignLatin(text);
 }
 
-const Words& wordsOf(Tongue tongue) {
-  static constexpr Words english{.pin = "Pin Dock",
-                                 .unpin = "Unpin Dock",
-                                 .prevent = "Prevent Dock Pop-Up",
-                                 .allow = "Allow Dock Pop-Up",
-                                 .notNow = "Not Now",
-                                 .followSystem = "Follow System",
-                                 .english = "English",
-                                 .chinese = "Chinese",
-                                 .locked = "Locked",
-                                 .unlocked = "Unlocked"};
-  static constexpr Words chinese{.pin = "固定 Dock",
-                                 .unpin = "解除固定 Dock",
-                                 .prevent = "防止 Dock 弹出",
-                                 .allow = "允许 Dock 弹出",
-                                 .notNow = "取消",
-                                 .followSystem = "跟随系统",
-                                 .english = "English",
-                                 .chinese = "中文",
-                                 .locked = "已锁定",
-                                 .unlocked = "未锁定"};
-  return tongue == Tongue::english ? english : chinese;
+const Labels& labelsIn(Language language) {
+  static constexpr Labels english{.pin = "Pin Dock",
+                                  .unpin = "Unpin Dock",
+                                  .prevent = "Prevent Dock Pop-Up",
+                                  .allow = "Allow Dock Pop-Up",
+                                  .notNow = "Not Now",
+                                  .followSystem = "Follow System",
+                                  .english = "English",
+                                  .chinese = "Chinese",
+                                  .locked = "Locked",
+                                  .unlocked = "Unlocked"};
+  static constexpr Labels chinese{.pin = "固定 Dock",
+                                  .unpin = "解除固定 Dock",
+                                  .prevent = "防止 Dock 弹出",
+                                  .allow = "允许 Dock 弹出",
+                                  .notNow = "取消",
+                                  .followSystem = "跟随系统",
+                                  .english = "English",
+                                  .chinese = "中文",
+                                  .locked = "已锁定",
+                                  .unlocked = "未锁定"};
+  return language == Language::english ? english : chinese;
 }
 
 }  // namespace orvane::desk::explore

@@ -1,5 +1,5 @@
-// Zones by brute force: whether a place is forbidden is asked of each place by itself.
-#include "desk/explore/Situation.hpp"
+// Brute force: each point of an edge is classified separately.
+#include "desk/explore/DisplayConfiguration.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -17,16 +17,16 @@ constexpr double touchingDistance = 2;
 struct Range {
   double low;
   double high;
-  [[nodiscard]] bool holds(double value) const { return value >= low && value < high; }
+  [[nodiscard]] bool contains(double value) const { return value >= low && value < high; }
 };
 
-Range alongOf(const Situation::Screen& screen, DockEdge edge) {
+Range lengthOf(const DisplayConfiguration::Screen& screen, DockEdge edge) {
   return edge == DockEdge::bottom ? Range{screen.x, screen.x + screen.width}
                                   : Range{screen.y, screen.y + screen.height};
 }
 
-/// Across the Dock's edge: the strip in which the pointer is moved back.
-Range depthOf(const Situation::Screen& screen, DockEdge edge) {
+/// The extent of the strip across the Dock's edge in which the pointer is moved back.
+Range depthOf(const DisplayConfiguration::Screen& screen, DockEdge edge) {
   switch (edge) {
     case DockEdge::left:
       return {screen.x, screen.x + zoneDepth};
@@ -38,13 +38,13 @@ Range depthOf(const Situation::Screen& screen, DockEdge edge) {
   return {screen.y + screen.height - zoneDepth, screen.y + screen.height};
 }
 
-double lineOf(const Situation::Screen& screen, DockEdge edge) {
+double edgeLineOf(const DisplayConfiguration::Screen& screen, DockEdge edge) {
   const Range depth = depthOf(screen, edge);
   return edge == DockEdge::left ? depth.low : depth.high;
 }
 
-/// Of a neighbour behind the edge, the side that faces it.
-double facingLineOf(const Situation::Screen& screen, DockEdge edge) {
+/// The side of a display behind the edge that faces the edge.
+double facingLineOf(const DisplayConfiguration::Screen& screen, DockEdge edge) {
   switch (edge) {
     case DockEdge::left:
       return screen.x + screen.width;
@@ -56,7 +56,7 @@ double facingLineOf(const Situation::Screen& screen, DockEdge edge) {
   return screen.y;
 }
 
-CGVector backwards(DockEdge edge) {
+CGVector nudgeAway(DockEdge edge) {
   switch (edge) {
     case DockEdge::left:
       return {zoneDepth, 0};
@@ -68,7 +68,7 @@ CGVector backwards(DockEdge edge) {
   return {0, -zoneDepth};
 }
 
-std::string whole(double number) {
+std::string wholeText(double number) {
   return std::to_string(std::llround(number)) + ".0";
 }
 
@@ -76,7 +76,7 @@ std::vector<std::string> namesOf(const Display& display) {
   const std::string number = std::to_string(display.number);
   const std::string legacy =
       (display.hasNumberInDescription ? "Optional(" + number + ")" : "nil") + "-" +
-      whole(display.frame.size.width) + "-" + whole(display.frame.size.height) + "-" +
+      wholeText(display.frame.size.width) + "-" + wholeText(display.frame.size.height) + "-" +
       (display.bitsPerSample ? "Optional(" + std::to_string(*display.bitsPerSample) + ")" : "nil") +
       "-" + (display.colorSpace ? "Optional(\"" + *display.colorSpace + "\")" : "nil");
   std::vector<std::string> names;
@@ -106,75 +106,76 @@ bool isWhole(double number) {
   return number == std::floor(number);
 }
 
-std::string textOf(const Situation::Screen& screen) {
+std::string textOf(const DisplayConfiguration::Screen& screen) {
   return "display " + std::to_string(screen.number);
 }
 
 }  // namespace
 
-bool Situation::Screen::isNamed(const std::string& name) const {
+bool DisplayConfiguration::Screen::isNamed(const std::string& name) const {
   return std::ranges::find(names, name) != names.end();
 }
 
-bool Situation::Screen::hasFrameOf(const Screen& other) const {
+bool DisplayConfiguration::Screen::hasFrameOf(const Screen& other) const {
   return x == other.x && y == other.y && width == other.width && height == other.height;
 }
 
-Situation Situation::of(const Machine& machine) {
-  Situation situation{{}, edgeOf(machine)};
+DisplayConfiguration DisplayConfiguration::of(const Machine& machine) {
+  DisplayConfiguration configuration{{}, edgeOf(machine)};
   const auto& displays = machine.displays.all();
-  const double turn = displays.empty() ? 0 : displays.front().frame.size.height;
+  const double mainHeight = displays.empty() ? 0 : displays.front().frame.size.height;
   for (const Display& display : displays) {
     const CGRect& frame = display.frame;
-    situation.screens.push_back({frame.origin.x, turn - frame.origin.y - frame.size.height,
-                                 frame.size.width, frame.size.height, display.number,
-                                 namesOf(display)});
+    configuration.screens.push_back(
+        {frame.origin.x, mainHeight - frame.origin.y - frame.size.height, frame.size.width,
+         frame.size.height, display.number, namesOf(display)});
   }
-  return situation;
+  return configuration;
 }
 
-const Situation::Screen* Situation::named(const std::string& name) const {
+const DisplayConfiguration::Screen* DisplayConfiguration::named(const std::string& name) const {
   const auto found =
       std::ranges::find_if(screens, [&](const Screen& screen) { return screen.isNamed(name); });
   return found == screens.end() ? nullptr : &*found;
 }
 
-bool Situation::isForbidden(std::size_t index, const Wish& wish) const {
-  if (wish.prevents) {
+bool DisplayConfiguration::isForbidden(std::size_t index, const GuardGoal& goal) const {
+  if (goal.prevents) {
     return true;
   }
-  const Screen* const target = named(wish.target);
+  const Screen* const target = named(goal.target);
   return target != nullptr && screens.size() > 1 && target != &screens[index];
 }
 
-bool Situation::isExposed(std::size_t index, double along) const {
-  if (!edge || !alongOf(screens[index], *edge).holds(along)) {
+bool DisplayConfiguration::isExposed(std::size_t index, double along) const {
+  if (!edge || !lengthOf(screens[index], *edge).contains(along)) {
     return false;
   }
   return std::ranges::none_of(screens, [&](const Screen& other) {
-    return !other.hasFrameOf(screens[index]) && alongOf(other, *edge).holds(along) &&
-           std::abs(facingLineOf(other, *edge) - lineOf(screens[index], *edge)) <= touchingDistance;
+    return !other.hasFrameOf(screens[index]) && lengthOf(other, *edge).contains(along) &&
+           std::abs(facingLineOf(other, *edge) - edgeLineOf(screens[index], *edge)) <=
+               touchingDistance;
   });
 }
 
-CGPoint Situation::guarded(CGPoint place, const Wish& wish) const {
+CGPoint DisplayConfiguration::filtered(CGPoint place, const GuardGoal& goal) const {
   if (!edge) {
     return place;
   }
   const double along = *edge == DockEdge::bottom ? place.x : place.y;
   const double across = *edge == DockEdge::bottom ? place.y : place.x;
   for (std::size_t index = 0; index < screens.size(); ++index) {
-    if (isForbidden(index, wish) && depthOf(screens[index], *edge).holds(across) &&
+    if (isForbidden(index, goal) && depthOf(screens[index], *edge).contains(across) &&
         isExposed(index, along)) {
-      const CGVector way = backwards(*edge);
-      return {place.x + way.dx, place.y + way.dy};
+      const CGVector nudge = nudgeAway(*edge);
+      return {place.x + nudge.dx, place.y + nudge.dy};
     }
   }
   return place;
 }
 
-std::optional<std::string> Situation::complaint(std::span<const TriggerZone> zones,
-                                                const Wish& wish) const {
+std::optional<std::string> DisplayConfiguration::zoneProblem(std::span<const TriggerZone> zones,
+                                                             const GuardGoal& goal) const {
   const bool areWhole = std::ranges::all_of(screens, [](const Screen& screen) {
     return isWhole(screen.x) && isWhole(screen.y) && isWhole(screen.width) &&
            isWhole(screen.height);
@@ -188,10 +189,10 @@ std::optional<std::string> Situation::complaint(std::span<const TriggerZone> zon
     zoneLength += edge == DockEdge::bottom ? zone.rect.size.width : zone.rect.size.height;
   }
   for (std::size_t index = 0; edge && index < screens.size(); ++index) {
-    if (!isForbidden(index, wish)) {
+    if (!isForbidden(index, goal)) {
       continue;
     }
-    const Range range = alongOf(screens[index], *edge);
+    const Range range = lengthOf(screens[index], *edge);
     const Range depth = depthOf(screens[index], *edge);
     for (double along = range.low + 0.5; along < range.high; ++along) {
       if (!isExposed(index, along)) {
@@ -205,10 +206,10 @@ std::optional<std::string> Situation::complaint(std::span<const TriggerZone> zon
         const double high = low + (isAcross ? rect.size.width : rect.size.height);
         const double top = isAcross ? rect.origin.y : rect.origin.x;
         const double thickness = isAcross ? rect.size.height : rect.size.width;
-        const CGVector way = backwards(*edge);
-        return Range{low, high}.holds(along) && top == depth.low &&
-               thickness == depth.high - depth.low && zone.nudgeVector.dx == way.dx &&
-               zone.nudgeVector.dy == way.dy;
+        const CGVector nudge = nudgeAway(*edge);
+        return Range{low, high}.contains(along) && top == depth.low &&
+               thickness == depth.high - depth.low && zone.nudgeVector.dx == nudge.dx &&
+               zone.nudgeVector.dy == nudge.dy;
       });
       if (!isGuarded) {
         return "the edge of " + textOf(screens[index]) + " is not guarded at " +
@@ -223,13 +224,13 @@ std::optional<std::string> Situation::complaint(std::span<const TriggerZone> zon
   return std::nullopt;
 }
 
-std::vector<CGPoint> Situation::forbiddenPlaces(const Wish& wish) const {
-  std::vector<CGPoint> places;
+std::vector<CGPoint> DisplayConfiguration::forbiddenEdgePoints(const GuardGoal& goal) const {
+  std::vector<CGPoint> points;
   for (std::size_t index = 0; edge && index < screens.size(); ++index) {
-    if (!isForbidden(index, wish)) {
+    if (!isForbidden(index, goal)) {
       continue;
     }
-    const Range range = alongOf(screens[index], *edge);
+    const Range range = lengthOf(screens[index], *edge);
     const Range depth = depthOf(screens[index], *edge);
     const double across = *edge == DockEdge::left ? depth.low : depth.high - 1;
     double begin = range.low;
@@ -242,10 +243,10 @@ std::vector<CGPoint> Situation::forbiddenPlaces(const Wish& wish) const {
     }
     if (end > begin) {
       const double along = std::floor((begin + end) / 2);
-      places.push_back(*edge == DockEdge::bottom ? CGPoint{along, across} : CGPoint{across, along});
+      points.push_back(*edge == DockEdge::bottom ? CGPoint{along, across} : CGPoint{across, along});
     }
   }
-  return places;
+  return points;
 }
 
 }  // namespace orvane::desk::explore

@@ -1,0 +1,67 @@
+// After each line, the new state is compared with the previous one.
+#include "desk/explore/CheckedSession.hpp"
+
+#include <utility>
+
+namespace orvane::desk::explore {
+
+CheckedSession::CheckedSession()
+    : checker_(std::make_unique<InvariantChecker>(session_->machine(), session_->application())),
+      context_{.session = *session_,
+               .inspectables = inspectables_,
+               .output = output_,
+               .limits = {.allowsFiles = false},
+               .pictureWriter = {},
+               .expectationFailed = [](const std::string&) {}},
+      interpreter_(commands_, context_),
+      observation_(Observation::of(session_->machine(), session_->application())) {}
+
+void CheckedSession::run(const std::string& line) {
+  if (violation_) {
+    return;
+  }
+  lines_.push_back(line);
+  checker_->begin();
+  const bool hasRun = !interpreter_.run(line);
+  const Observation before =
+      std::exchange(observation_, Observation::of(session_->machine(), session_->application()));
+  violation_ = checker_->check(line, before, observation_);
+  rarePaths_.note({.line = line,
+                   .before = before,
+                   .after = observation_,
+                   .filter = checker_->filter().step(),
+                   .isStale = checker_->isStale(),
+                   .machine = session_->machine(),
+                   .application = session_->application()});
+  fingerprint_.add(std::string_view(line));
+  fingerprint_.add(hasRun);
+  fingerprint_.add(std::string_view(output_.view()));
+  output_.str({});
+  const CGPoint place = session_->machine().pointer.place();
+  fingerprint_.add(place.x);
+  fingerprint_.add(place.y);
+  observation_.addTo(fingerprint_);
+  events_ = checker_->filter().eventCount();
+}
+
+void CheckedSession::runAll(const std::vector<std::string>& lines) {
+  for (const std::string& line : lines) {
+    run(line);
+  }
+}
+
+void CheckedSession::report(Violation violation) {
+  if (!violation_) {
+    violation_ = std::move(violation);
+  }
+}
+
+void CheckedSession::end() {
+  checker_.reset();
+  session_->end();
+  for (const std::string& mistake : session_->mistakes()) {
+    report({"end", mistake});
+  }
+}
+
+}  // namespace orvane::desk::explore
