@@ -145,7 +145,7 @@ Lines moveDisplay(Scene& scene) {
 }
 
 Lines renumberDisplays(Scene& scene) {
-  if (scene.machine.displays.isEmpty() || scene.machine.displays.isTogether()) {
+  if (scene.machine.displays.isEmpty() || scene.machine.displays.isChanging()) {
     return {};
   }
   if (scene.lots.chance(400)) {
@@ -163,7 +163,7 @@ Lines chooseMainDisplay(Scene& scene) {
 }
 
 Lines changeDisplaysTogether(Scene& scene) {
-  if (scene.machine.displays.isTogether()) {
+  if (scene.machine.displays.isChanging()) {
     return {};
   }
   Lines lines{"display together"};
@@ -176,7 +176,7 @@ Lines changeDisplaysTogether(Scene& scene) {
 }
 
 Lines changeDisplaysUnderEvents(Scene& scene) {
-  if (scene.machine.displays.isTogether() || scene.machine.displays.isEmpty()) {
+  if (scene.machine.displays.isChanging() || scene.machine.displays.isEmpty()) {
     return {};
   }
   Lines lines{"display together"};

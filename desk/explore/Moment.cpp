@@ -98,7 +98,7 @@ Moment Moment::of(const Machine& machine, const ApplicationHost& application) {
   moment.isQueueHeld = machine.runLoop.isMainQueueHeld();
   moment.isMenuOpen = server.menus.isOpen();
   moment.isStatusMenuOpen = server.menus.isStatusMenuOpen();
-  moment.isChangingTogether = machine.displays.isTogether();
+  moment.isChangingTogether = machine.displays.isChanging();
   moment.displayCount = machine.displays.count();
   moment.tapCount = machine.eventTaps.aliveCount();
   moment.isTapEnabled = machine.eventTaps.isAnyEnabled();

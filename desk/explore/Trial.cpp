@@ -37,7 +37,7 @@ void Trial::take(const std::string& line) {
   fingerprint_.add(isCarriedOut);
   fingerprint_.add(std::string_view(output_.view()));
   output_.str({});
-  const CGPoint place = session_->machine().pointer.place();
+  const CGPoint place = session_->machine().pointer.location();
   fingerprint_.add(place.x);
   fingerprint_.add(place.y);
   moment_.addTo(fingerprint_);

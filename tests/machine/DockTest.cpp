@@ -23,11 +23,9 @@ class DockTest : public MachineFixture {
     attach(2, {{1000, 0}, {1000, 800}});
   }
   void setEdge(PropertyValue value) {
-    machine.preferences.set({Dock::preferencesDomain}, Dock::orientationKey, std::move(value));
+    Dock::store(machine.preferences, Dock::orientationKey, std::move(value));
   }
-  void setAutoHide(bool hides) {
-    machine.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
-  }
+  void setAutoHide(bool hides) { Dock::store(machine.preferences, Dock::autoHideKey, hides); }
   /// A movement from a point well inside the display.
   void push(CGPoint from, double dx, double dy) {
     machine.mouse.moveTo(from);
@@ -119,7 +117,7 @@ TEST_F(DockTest, ANeighbourUpToTwoPointsAwayIsStillANeighbour) {
   machine.mouse.moveTo({500, -400});
   // The movement ends in the gap, so the pointer stays at the lower edge of the second.
   machine.mouse.moveTo({500, -0.5});
-  EXPECT_EQ(machine.pointer.place().y, -2.5);
+  EXPECT_EQ(machine.pointer.location().y, -2.5);
   EXPECT_EQ(dock.displayNumber(), 1U);
   ASSERT_FALSE(machine.displays.setFrame(2, {{0, 802.5}, {1000, 800}}));
   machine.mouse.moveTo({500, -0.5});

@@ -81,9 +81,9 @@ RC_GTEST_PROP(PointerProperty, EndsAtTheGoalOrNearestToItOnTheDisplayItCameFrom,
         [&goalX = x, &goalY = y](const CGRect& frame) { return holds(frame, goalX, goalY); });
     pointer.settle(CGPointMake(x, y));
     const CGPoint expected = isReached ? CGPointMake(x, y) : nearestBySearch(from, x, y);
-    RC_ASSERT(pointer.place().x == expected.x);
-    RC_ASSERT(pointer.place().y == expected.y);
-    RC_ASSERT(CGRectContainsPoint(frames[*pointer.displayIndex()], pointer.place()));
+    RC_ASSERT(pointer.location().x == expected.x);
+    RC_ASSERT(pointer.location().y == expected.y);
+    RC_ASSERT(CGRectContainsPoint(frames[*pointer.displayIndex()], pointer.location()));
   }
 }
 
@@ -93,7 +93,7 @@ RC_GTEST_PROP(PointerProperty, IsOnADisplayAfterEveryChangeAndMovesNoFartherThan
   Pointer pointer(displays);
   pointer.displaysChanged();
   pointer.settle(CGPointMake(*rc::gen::inRange(-20, 21), *rc::gen::inRange(-20, 21)));
-  const CGPoint before = pointer.place();
+  const CGPoint before = pointer.location();
 
   std::vector<std::uint32_t> numbers;
   for (const Display& display : displays.all()) {
@@ -110,7 +110,7 @@ RC_GTEST_PROP(PointerProperty, IsOnADisplayAfterEveryChangeAndMovesNoFartherThan
   }
   pointer.displaysChanged();
 
-  const CGPoint after = pointer.place();
+  const CGPoint after = pointer.location();
   RC_ASSERT(pointer.displayIndex().has_value());
   RC_ASSERT(CGRectContainsPoint(displays.globalFrames()[*pointer.displayIndex()], after));
   const auto distanceTo = [&before](CGPoint place) {

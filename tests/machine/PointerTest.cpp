@@ -18,8 +18,8 @@ class PointerTest : public testing::Test {
     pointer.displaysChanged();
   }
   void expectPlace(double x, double y) const {
-    EXPECT_EQ(pointer.place().x, x);
-    EXPECT_EQ(pointer.place().y, y);
+    EXPECT_EQ(pointer.location().x, x);
+    EXPECT_EQ(pointer.location().y, y);
   }
 
   Displays displays;

@@ -20,7 +20,7 @@ namespace {
 using appkit::NotificationName;
 
 void setAutoHide(Machine& machine, bool hides) {
-  machine.preferences.set(dockDomain(), Dock::autoHideKey, hides);
+  Dock::store(machine.preferences, Dock::autoHideKey, hides);
 }
 
 std::vector<CGRect> visibleFrames() {
@@ -179,10 +179,10 @@ TEST_F(ScreenParametersTest, ADisplayChangeThatMovesTheDockIsPostedOnce) {
 }
 
 TEST_F(ScreenParametersTest, ADockThatMovesWhileDisplaysChangeTogetherIsHeardOfAtTheEnd) {
-  ASSERT_EQ(machine.displays.beginTogether(), std::nullopt);
+  ASSERT_EQ(machine.displays.beginChanges(), std::nullopt);
   setDockOrientation(machine, "left");
   EXPECT_EQ(heardAtRest(), 0);
-  ASSERT_EQ(machine.displays.endTogether(), std::nullopt);
+  ASSERT_EQ(machine.displays.endChanges(), std::nullopt);
   EXPECT_EQ(heardAtRest(), 1);
 }
 

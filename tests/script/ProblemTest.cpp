@@ -100,7 +100,7 @@ TEST(ProblemTest, TellsWhatIsWrongWithDisplays) {
        {"display frame 1 0,0,1,1", "display frame: there is no display 1"},
        {"display renumber 1 2", "display renumber: there is no display 1"},
        {"display main 7", "display main: there is no display 7"},
-       {"display done", "display done: no changes are being made together"}});
+       {"display done", "display done: no group of changes is open"}});
 }
 
 TEST(ProblemTest, TellsWhatIsWrongWithSystem) {
