@@ -4,16 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/machine/Displays.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 namespace {
 
 Display display(std::uint32_t number, CGRect frame) {
-  Display result;
-  result.number = number;
-  result.frame = frame;
-  return result;
+  return displayOf(number, "", frame);
 }
 
 class DisplaysTest : public testing::Test {
@@ -25,15 +22,6 @@ class DisplaysTest : public testing::Test {
   Displays displays;
   int changes = 0;
 };
-
-TEST_F(DisplaysTest, KeepsTheOrderOfAttachment) {
-  EXPECT_EQ(displays.attach(display(7, {{0, 0}, {100, 50}})), std::nullopt);
-  EXPECT_EQ(displays.attach(display(3, {{100, 0}, {100, 50}})), std::nullopt);
-  ASSERT_EQ(displays.count(), 2U);
-  EXPECT_EQ(displays.all()[0].number, 7U);
-  EXPECT_EQ(displays.all()[1].number, 3U);
-  EXPECT_EQ(changes, 2);
-}
 
 TEST_F(DisplaysTest, InvalidRequestsReportTheProblemAndChangeNothing) {
   ASSERT_FALSE(displays.attach(display(1, {{0, 0}, {100, 50}})));

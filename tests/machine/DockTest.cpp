@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/machine/Dock.hpp"
 #include "tests/support/MachineFixture.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -12,19 +12,14 @@ namespace {
 class DockTest : public MachineFixture {
  protected:
   void attach(std::uint32_t number, CGRect frame, bool asMain = false) {
-    Display display;
-    display.number = number;
-    display.frame = frame;
-    ASSERT_FALSE(machine.displays.attach(display, asMain));
+    desk::attach(machine, displayOf(number, "", frame), asMain);
   }
   /// Two displays of 1000 by 800 side by side.
   void attachPair() {
     attach(1, {{0, 0}, {1000, 800}});
     attach(2, {{1000, 0}, {1000, 800}});
   }
-  void setEdge(PropertyValue value) {
-    Dock::store(machine.preferences, Dock::orientationKey, std::move(value));
-  }
+  void setEdge(PropertyValue value) { setDockOrientation(machine, std::move(value)); }
   void setAutoHide(bool hides) { Dock::store(machine.preferences, Dock::autoHideKey, hides); }
   /// A movement from a point well inside the display.
   void push(CGPoint from, double dx, double dy) {

@@ -3,6 +3,7 @@
 
 #include "desk/machine/MachineScope.hpp"
 #include "tests/support/AllocationCounter.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -20,10 +21,7 @@ TEST(EventPathTest, AllocatesNothing) {
   MachineScope scope;
   Machine& machine = scope.machine();
   for (const std::uint32_t number : {1U, 2U, 3U}) {
-    Display display;
-    display.number = number;
-    display.frame = CGRectMake(1000 * (number - 1), 0, 1000, 800);
-    ASSERT_FALSE(machine.displays.attach(display));
+    attach(machine, displayOf(number, "", CGRectMake(1000 * (number - 1), 0, 1000, 800)));
   }
   const auto tap = machine.eventTaps.create(kCGTailAppendEventTap, kCGEventTapOptionDefault,
                                             CGEventMask{1} << kCGEventMouseMoved, pushUp, nullptr);

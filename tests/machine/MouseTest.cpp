@@ -6,6 +6,7 @@
 
 #include "desk/machine/Mouse.hpp"
 #include "tests/support/MachineFixture.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -27,12 +28,8 @@ CGEventRef follow(CGEventTapProxy, CGEventType, CGEventRef event, void* userInfo
 class MouseTest : public MachineFixture, private PointerListener {
  protected:
   MouseTest() {
-    for (const std::uint32_t number : {1U, 2U}) {
-      Display display;
-      display.number = number;
-      display.frame = CGRectMake(1000 * (number - 1), 0, 1000, 800);
-      EXPECT_FALSE(machine.displays.attach(display));
-    }
+    attach(machine, displayOf(1, "", {{0, 0}, {1000, 800}}));
+    attach(machine, displayOf(2, "", {{1000, 0}, {1000, 800}}));
     const auto tap =
         machine.eventTaps.create(kCGTailAppendEventTap, kCGEventTapOptionDefault,
                                  CGEventMask{1} << kCGEventMouseMoved, follow, &script);

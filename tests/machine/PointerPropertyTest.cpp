@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "desk/machine/Pointer.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -35,10 +35,8 @@ rc::Gen<std::vector<Frame>> genFrames() {
 void attachAll(Displays& displays, const std::vector<Frame>& frames) {
   std::uint32_t number = 1;
   for (const Frame& frame : frames) {
-    Display display;
-    display.number = number++;
-    display.frame = CGRectMake(frame.x, frame.y, frame.width, frame.height);
-    RC_ASSERT(!displays.attach(display));
+    RC_ASSERT(!displays.attach(
+        displayOf(number++, "", CGRectMake(frame.x, frame.y, frame.width, frame.height))));
   }
 }
 
