@@ -29,7 +29,7 @@ void windowFrame(benchmark::State& state) {
   desk::WindowServer& server = desk::WindowServer::current();
   const auto window = desk::Surfaces(server).window("main");
   const CGPoint corner = server.topLeftOf(*window);
-  const CGPoint pointer = session.machine().pointer.place();
+  const CGPoint pointer = session.machine().pointer.location();
   // From the middle of the row of cards to its sides and back.
   session.movePointerBy(corner.x + 60 - pointer.x, corner.y + 230 - pointer.y);
   double step = 4;

@@ -11,6 +11,7 @@
 #include "showroom/desktop/DesktopPicture.hpp"
 #include "showroom/desktop/SurfacePicture.hpp"
 #include "showroom/gallery/RunGallery.hpp"
+#include "showroom/settings/SettingsPages.hpp"
 #include "showroom/tour/RunTour.hpp"
 #include "showroom/window/RunWindow.hpp"
 
@@ -33,6 +34,9 @@ script::Problem writePicture(const script::Session& session,
 
 int runScripts(const std::vector<std::string>& files) {
   script::ScriptProgram::Settings settings;
+  settings.prepare = [](orvane::desk::ApplicationHost& application) {
+    orvane::showroom::addSettingsPages(application.systemSettings());
+  };
   settings.pictureWriter = writePicture;
   script::ScriptProgram program(std::move(settings), std::cin, std::cout, std::cerr);
   return program.runFiles(files);

@@ -42,7 +42,7 @@ std::optional<Window> Application::modalWindow() {
 
 CGPoint Application::mouseLocation() {
   const desk::Machine& machine = desk::Machine::current();
-  return machine.displays.flipped(machine.pointer.place());
+  return machine.displays.flipped(machine.pointer.location());
 }
 
 void Application::runModal(const Window& window, std::function<void(int response)> ended) {

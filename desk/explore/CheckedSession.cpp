@@ -37,7 +37,7 @@ void CheckedSession::run(const std::string& line) {
   fingerprint_.add(hasRun);
   fingerprint_.add(std::string_view(output_.view()));
   output_.str({});
-  const CGPoint place = session_->machine().pointer.place();
+  const CGPoint place = session_->machine().pointer.location();
   fingerprint_.add(place.x);
   fingerprint_.add(place.y);
   observation_.addTo(fingerprint_);

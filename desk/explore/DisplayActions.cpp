@@ -144,7 +144,7 @@ Lines moveDisplay(ActionContext& context) {
 }
 
 Lines renumberDisplays(ActionContext& context) {
-  if (context.machine.displays.isEmpty() || context.machine.displays.isTogether()) {
+  if (context.machine.displays.isEmpty() || context.machine.displays.isChanging()) {
     return {};
   }
   if (context.random.chance(400)) {
@@ -162,7 +162,7 @@ Lines chooseMainDisplay(ActionContext& context) {
 }
 
 Lines changeDisplaysTogether(ActionContext& context) {
-  if (context.machine.displays.isTogether()) {
+  if (context.machine.displays.isChanging()) {
     return {};
   }
   Lines lines{"display together"};
@@ -175,7 +175,7 @@ Lines changeDisplaysTogether(ActionContext& context) {
 }
 
 Lines changeDisplaysUnderEvents(ActionContext& context) {
-  if (context.machine.displays.isTogether() || context.machine.displays.isEmpty()) {
+  if (context.machine.displays.isChanging() || context.machine.displays.isEmpty()) {
     return {};
   }
   Lines lines{"display together"};

@@ -98,7 +98,7 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
   observation.isQueueHeld = machine.runLoop.isMainQueueHeld();
   observation.isMenuOpen = server.menus.isOpen();
   observation.isStatusMenuOpen = server.menus.isStatusMenuOpen();
-  observation.isChangingTogether = machine.displays.isTogether();
+  observation.isChangingTogether = machine.displays.isChanging();
   observation.displayCount = machine.displays.count();
   observation.tapCount = machine.eventTaps.aliveCount();
   observation.isTapEnabled = machine.eventTaps.isAnyEnabled();

@@ -97,21 +97,21 @@ Displays::Problem Displays::setMain(std::uint32_t number) {
   return std::nullopt;
 }
 
-Displays::Problem Displays::beginTogether() {
-  if (together_) {
-    return "changes are being made together already";
+Displays::Problem Displays::beginChanges() {
+  if (isChanging_) {
+    return "a group of changes is open already";
   }
-  together_ = true;
-  changedTogether_ = false;
+  isChanging_ = true;
+  hasUnannouncedChange_ = false;
   return std::nullopt;
 }
 
-Displays::Problem Displays::endTogether() {
-  if (!together_) {
-    return "no changes are being made together";
+Displays::Problem Displays::endChanges() {
+  if (!isChanging_) {
+    return "no group of changes is open";
   }
-  together_ = false;
-  if (changedTogether_) {
+  isChanging_ = false;
+  if (hasUnannouncedChange_) {
     changed();
   }
   return std::nullopt;
@@ -173,8 +173,8 @@ CGPoint Displays::flipped(CGPoint point) const {
 
 void Displays::changed() {
   refreshGlobalFrames();
-  if (together_) {
-    changedTogether_ = true;
+  if (isChanging_) {
+    hasUnannouncedChange_ = true;
     return;
   }
   ++changeCount_;

@@ -29,12 +29,12 @@ class Displays {
   [[nodiscard]] Problem renumber(std::uint32_t number, std::uint32_t newNumber);
   [[nodiscard]] Problem setMain(std::uint32_t number);
 
-  /// The changes between the two are announced as one, if there were any.
-  [[nodiscard]] Problem beginTogether();
-  [[nodiscard]] Problem endTogether();
-  [[nodiscard]] bool isTogether() const { return together_; }
-  /// To be called during a group of changes: a visible frame has changed, too.
-  void joinTogether() { changedTogether_ = true; }
+  /// Begin and end a group of changes, which is announced as one change if it contains any.
+  [[nodiscard]] Problem beginChanges();
+  [[nodiscard]] Problem endChanges();
+  [[nodiscard]] bool isChanging() const { return isChanging_; }
+  /// To be called within a group of changes: a visible frame has changed, too.
+  void noteFrameChange() { hasUnannouncedChange_ = true; }
 
   /// `changed` is called after each change, or once after a group of changes.
   void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
@@ -82,8 +82,8 @@ class Displays {
   std::function<void()> changed_;
   std::uint64_t nextIdentity_ = 1;
   std::int64_t changeCount_ = 0;
-  bool together_ = false;
-  bool changedTogether_ = false;
+  bool isChanging_ = false;
+  bool hasUnannouncedChange_ = false;
 };
 
 }  // namespace orvane::desk

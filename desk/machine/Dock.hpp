@@ -39,6 +39,10 @@ class Dock {
   /// Reads the edge and auto-hiding from the Dock's preferences. Any orientation other than "left"
   /// or "right" means the bottom; any value of auto-hide other than true means shown.
   void readPreferences(const Preferences& preferences, CGPoint pointerPlace);
+  /// Stores a value for orientationKey or autoHideKey.
+  static void store(Preferences& preferences, const char* key, PropertyValue value) {
+    preferences.set({preferencesDomain}, key, std::move(value));
+  }
   [[nodiscard]] DockEdge edge() const { return edge_; }
   [[nodiscard]] bool autoHides() const { return autoHides_; }
 

@@ -28,7 +28,7 @@ Machine::Machine() {
   permission.onChange([this] { permissionChanged(); });
   displays.onChange([this] { displaysChanged(); });
   dock.onChange([this] { dockChanged(); });
-  preferences.onChange([this] { dock.readPreferences(preferences, pointer.place()); });
+  preferences.onChange([this] { dock.readPreferences(preferences, pointer.location()); });
 }
 
 Machine::~Machine() {
@@ -59,7 +59,7 @@ void Machine::permissionChanged() {
 
 void Machine::displaysChanged() {
   pointer.displaysChanged();
-  dock.displaysChanged(pointer.place());
+  dock.displaysChanged(pointer.location());
   if (observer != nullptr) {
     observer->displaysChanged();
   }
@@ -75,8 +75,8 @@ void Machine::dockChanged() {
 }
 
 void Machine::announceVisibleFrames() {
-  if (displays.isTogether()) {
-    displays.joinTogether();
+  if (displays.isChanging()) {
+    displays.noteFrameChange();
   } else if (haveVisibleFramesChanged()) {
     postScreenParameters();
   }

@@ -17,7 +17,7 @@ constexpr auto scrollWheel = static_cast<CGEventType>(22);
 
 PointerMovement Mouse::moveTo(CGPoint goal) {
   if (displays_.isEmpty() || !std::isfinite(goal.x) || !std::isfinite(goal.y)) {
-    return {PointerMovement::Outcome::none, pointer_.place(), pointer_.place()};
+    return {PointerMovement::Outcome::none, pointer_.location(), pointer_.location()};
   }
   ++counters_.hardwareMovements;
   const CGPoint wanted = pointer_.reachable(goal);
@@ -34,7 +34,7 @@ PointerMovement Mouse::deliver(CGPoint goal, CGPoint wanted, Pointer& followed) 
                   wanted};
   if (!taps_.deliver(event)) {
     ++counters_.droppedEvents;
-    return {PointerMovement::Outcome::dropped, wanted, followed.place()};
+    return {PointerMovement::Outcome::dropped, wanted, followed.location()};
   }
   const bool isMovedBack = event.location.x != wanted.x || event.location.y != wanted.y;
   if (isMovedBack) {
@@ -42,13 +42,13 @@ PointerMovement Mouse::deliver(CGPoint goal, CGPoint wanted, Pointer& followed) 
   }
   followed.settle(event.location);
   if (const auto index = followed.displayIndex()) {
-    dock_.pointerMoved(goal, followed.place(), *index);
+    dock_.pointerMoved(goal, followed.location(), *index);
   }
   if (listener_ != nullptr) {
-    listener_->pointerMovedTo(followed.place());
+    listener_->pointerMovedTo(followed.location());
   }
   return {isMovedBack ? PointerMovement::Outcome::movedBack : PointerMovement::Outcome::passed,
-          wanted, followed.place()};
+          wanted, followed.location()};
 }
 
 void Mouse::pressButton() {
@@ -57,7 +57,7 @@ void Mouse::pressButton() {
   }
   isButtonPressed_ = true;
   if (sendEvent(leftMouseDown) && listener_ != nullptr) {
-    listener_->buttonPressedAt(pointer_.place());
+    listener_->buttonPressedAt(pointer_.location());
   }
 }
 
@@ -67,7 +67,7 @@ void Mouse::releaseButton() {
   }
   isButtonPressed_ = false;
   if (sendEvent(leftMouseUp) && listener_ != nullptr) {
-    listener_->buttonReleasedAt(pointer_.place());
+    listener_->buttonReleasedAt(pointer_.location());
   }
 }
 
@@ -76,12 +76,12 @@ void Mouse::turnWheel(double horizontal, double vertical) {
     return;
   }
   if (sendEvent(scrollWheel) && listener_ != nullptr) {
-    listener_->wheelTurnedAt(pointer_.place(), horizontal, vertical);
+    listener_->wheelTurnedAt(pointer_.location(), horizontal, vertical);
   }
 }
 
 bool Mouse::sendEvent(CGEventType type) {
-  __CGEvent event{type, modifierKeys_.flags(), pointer_.place()};
+  __CGEvent event{type, modifierKeys_.flags(), pointer_.location()};
   return taps_.deliver(event);
 }
 

@@ -39,7 +39,7 @@ class Mouse {
   /// Moves the mouse by a distance in points. Does nothing without a display or when the distance
   /// is not finite.
   PointerMovement moveBy(double dx, double dy) {
-    const CGPoint place = pointer_.place();
+    const CGPoint place = pointer_.location();
     return moveTo({place.x + dx, place.y + dy});
   }
   /// Moves the mouse towards `goal`, likewise.

@@ -25,7 +25,7 @@ CGPoint Pointer::clampedToDisplay(CGPoint goal) const {
   if (displayIndex_ < frames.size()) {
     return clamped(goal, frames[displayIndex_]);
   }
-  CGPoint nearest = place_;
+  CGPoint nearest = location_;
   double smallestDistance = std::numeric_limits<double>::infinity();
   for (const CGRect& frame : frames) {
     const CGPoint place = clamped(goal, frame);
@@ -42,14 +42,14 @@ void Pointer::settle(CGPoint goal) {
   if (!std::isfinite(goal.x) || !std::isfinite(goal.y)) {
     return;
   }
-  place_ = goal;
+  location_ = goal;
   if (const auto index = displays_.indexContaining(goal, displayIndex_)) {
     displayIndex_ = *index;
     return;
   }
-  place_ = clampedToDisplay(goal);
+  location_ = clampedToDisplay(goal);
   if (displayIndex_ >= displays_.count()) {
-    displayIndex_ = displays_.indexContaining(place_).value_or(0);
+    displayIndex_ = displays_.indexContaining(location_).value_or(0);
   }
 }
 
@@ -59,7 +59,7 @@ void Pointer::displaysChanged() {
   }
   // The order of the list may have changed, so no display is preferred.
   displayIndex_ = displays_.count();
-  settle(place_);
+  settle(location_);
 }
 
 }  // namespace orvane::desk

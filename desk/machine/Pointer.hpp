@@ -14,7 +14,7 @@ class Pointer {
  public:
   explicit Pointer(const Displays& displays) : displays_(displays) {}
 
-  [[nodiscard]] CGPoint place() const { return place_; }
+  [[nodiscard]] CGPoint location() const { return location_; }
   /// The index of its display; none while there is no display.
   [[nodiscard]] std::optional<std::size_t> displayIndex() const;
 
@@ -37,7 +37,7 @@ class Pointer {
   [[nodiscard]] CGPoint clampedToDisplay(CGPoint goal) const;
 
   const Displays& displays_;
-  CGPoint place_{0, 0};
+  CGPoint location_{0, 0};
   std::size_t displayIndex_ = 0;
 };
 

@@ -86,9 +86,9 @@ void addMachineCommands(CommandTable& table) {
     return machine.displays.setMain(number);
   });
   table.add("display together", takes(),
-            [](Machine& machine) { return machine.displays.beginTogether(); });
+            [](Machine& machine) { return machine.displays.beginChanges(); });
   table.add("display done", takes(),
-            [](Machine& machine) { return machine.displays.endTogether(); });
+            [](Machine& machine) { return machine.displays.endChanges(); });
 }
 
 }  // namespace orvane::desk::script

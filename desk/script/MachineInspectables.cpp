@@ -29,7 +29,7 @@ Json dockOf(const Machine& machine) {
 }
 
 Json pointerOf(const Machine& machine) {
-  const CGPoint place = machine.pointer.place();
+  const CGPoint place = machine.pointer.location();
   const std::optional<std::size_t> index = machine.pointer.displayIndex();
   return {{"x", place.x},
           {"y", place.y},

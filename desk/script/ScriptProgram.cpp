@@ -71,7 +71,7 @@ ScriptProgram::Status ScriptProgram::reportUnreadable(const std::string& file,
 }
 
 ScriptProgram::Status ScriptProgram::run(std::istream& script, const std::string& name) {
-  Session session;
+  Session session(settings_.prepare);
   Status status = held;
   std::int64_t lineNumber = 0;
   const auto report = [&](const std::string& text) {

@@ -27,6 +27,8 @@ class ScriptProgram {
   struct Settings {
     CommandTable commands = standardCommands();
     InspectableTable inspectables = standardInspectables();
+    /// Called for each new machine.
+    Session::Prepare prepare;
     PictureWriter pictureWriter;
     ScriptLimits limits;
   };

@@ -1,12 +1,23 @@
 // Session is the machine that a script works on, with the application on it.
 #include "desk/script/Session.hpp"
 
+#include <utility>
+
 namespace orvane::desk::script {
 
-Session::Session() : state_(std::make_unique<State>()) {}
+Session::Session(Prepare prepare) : prepare_(std::move(prepare)) {
+  begin();
+}
 
 Session::~Session() {
   end();
+}
+
+void Session::begin() {
+  state_ = std::make_unique<State>();
+  if (prepare_) {
+    prepare_(state_->application);
+  }
 }
 
 void Session::end() {
@@ -25,7 +36,7 @@ void Session::end() {
 
 void Session::reset() {
   end();
-  state_ = std::make_unique<State>();
+  begin();
 }
 
 }  // namespace orvane::desk::script

@@ -1,6 +1,7 @@
 // Session is the machine that a script works on, with the application on it.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,7 +14,10 @@ namespace orvane::desk::script {
 /// Only one at a time, since there is one current machine in a process.
 class Session {
  public:
-  Session();
+  using Prepare = std::function<void(ApplicationHost&)>;
+
+  /// `prepare` is called for the first machine and after each reset; may be empty.
+  explicit Session(Prepare prepare = {});
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
   /// Ends the machine.
@@ -37,6 +41,9 @@ class Session {
     ApplicationHost application{scope.machine()};
   };
 
+  void begin();
+
+  Prepare prepare_;
   std::unique_ptr<State> state_;
   std::vector<std::string> mistakes_;
 };

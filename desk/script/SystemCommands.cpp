@@ -15,7 +15,6 @@ namespace orvane::desk::script {
 
 namespace {
 
-using Domain = Preferences::Domain;
 using LoginStatus = appkit::LoginItem::Status;
 using Wallpaper = Appearance::Wallpaper;
 enum class Disabling { timeout, userInput, silently, forGood };
@@ -73,13 +72,12 @@ Appearance::Accent readAccent(ScriptContext& /*context*/, Arguments& arguments) 
 }
 
 void setDockEdge(Machine& machine, const std::string& edge) {
-  const Domain domain{Dock::preferencesDomain};
   if (edge == "missing") {
-    machine.preferences.remove(domain, Dock::orientationKey);
+    machine.preferences.remove({Dock::preferencesDomain}, Dock::orientationKey);
   } else if (edge == "number") {
-    machine.preferences.set(domain, Dock::orientationKey, 1.0);
+    Dock::store(machine.preferences, Dock::orientationKey, 1.0);
   } else {
-    machine.preferences.set(domain, Dock::orientationKey, edge);
+    Dock::store(machine.preferences, Dock::orientationKey, edge);
   }
 }
 
@@ -89,7 +87,7 @@ void disableTap(Machine& machine, Disabling how) {
   } else {
     machine.eventTaps.disableAll(
         how == Disabling::userInput ? kCGEventTapDisabledByUserInput : kCGEventTapDisabledByTimeout,
-        machine.pointer.place());
+        machine.pointer.location());
   }
 }
 
@@ -130,7 +128,7 @@ void addLooks(CommandTable& table) {
 void addSystemCommands(CommandTable& table) {
   table.add("dock edge", takes(text("VALUE", "VALUE|missing|number")), setDockEdge);
   table.add("dock autohide", takes(onOff()), [](Machine& machine, bool hides) {
-    machine.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
+    Dock::store(machine.preferences, Dock::autoHideKey, hides);
   });
   table.add("trust", takes(onOff()),
             [](Machine& machine, bool isTrusted) { machine.permission.setTrusted(isTrusted); });

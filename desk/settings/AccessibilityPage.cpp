@@ -12,10 +12,10 @@
 #include "desk/settings/ApplicationIcon.hpp"
 #include "desk/settings/SettingsButtonStyle.hpp"
 #include "desk/settings/SettingsGroup.hpp"
-#include "desk/settings/SettingsPages.hpp"
 #include "desk/settings/SettingsSwitch.hpp"
 #include "desk/settings/SystemSettings.hpp"
 #include "desk/settings/SystemSettingsView.hpp"
+#include "desk/settings/TitledPage.hpp"
 
 namespace orvane::desk {
 
@@ -85,9 +85,8 @@ View AccessibilityPage::body(const Environment& environment) const {
           .padding(Edges{.leading = 2, .bottom = 10});
   const View list = View(SettingsGroup{rows, 46, settings->state().isDragOver})
                         .accessibilityLabel(SystemSettingsView::listLabel(language));
-  return titledPageBelow(*settings, SettingsPage::privacy,
-                         language.text("Accessibility", "辅助功能"),
-                         VStack(0, HorizontalAlignment::leading, {explanation, list}));
+  return titledPage(*settings, language.text("Accessibility", "辅助功能"),
+                    VStack(0, HorizontalAlignment::leading, {explanation, list}));
 }
 
 }  // namespace orvane::desk

@@ -5,7 +5,6 @@
 
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
-#include "Orvane/ui/views/Text.hpp"
 
 namespace orvane::desk {
 
@@ -32,17 +31,6 @@ View SettingsGroup::body(const Environment& environment) const {
   constexpr double radius = 6;
   return VStack(0, parts).background(RoundedRectangle(radius).fill(fill).strokeBorder(
       isHighlighted ? Color::accent() : rim, isHighlighted ? 2 : 1));
-}
-
-View SettingsGroup::row(const std::string& title, const View& end) {
-  constexpr double rowHeight = 36;
-  return HStack(8, {Text(title).lineLimit(1), Spacer(), end})
-      .padding(Edges::horizontal(10))
-      .height(rowHeight);
-}
-
-View SettingsGroup::row(const std::string& title, const std::string& value) {
-  return row(title, Text(value).foreground(Color::secondary()).lineLimit(1));
 }
 
 }  // namespace orvane::desk

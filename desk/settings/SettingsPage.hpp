@@ -1,17 +1,26 @@
-// The pages of the simulated System Settings.
+// A page of the simulated System Settings.
 #pragma once
 
-#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "Orvane/ui/views/View.hpp"
 
 namespace orvane::desk {
 
-enum class SettingsPage : std::uint8_t {
-  general,
-  displays,
-  desktopAndDock,
-  privacy,
-  /// Below privacy.
-  accessibility,
+class SystemSettings;
+
+struct SettingsPage {
+  using MakeView = std::function<ui::View(SystemSettings&)>;
+
+  /// Unique among the window's pages.
+  std::string name;
+  /// The page that the Back button leads to; empty for none.
+  std::string parent;
+  /// A link that begins with one of these opens the page.
+  std::vector<std::string> links;
+  MakeView makeView;
 };
 
 }  // namespace orvane::desk

@@ -2,11 +2,12 @@
 #include "desk/settings/SystemSettings.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <string_view>
+#include <iterator>
 #include <utility>
 
+#include "desk/hand/FindControl.hpp"
+#include "desk/settings/AccessibilityPage.hpp"
 #include "desk/settings/SystemSettingsView.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -14,36 +15,19 @@ namespace orvane::desk {
 
 namespace {
 
-/// A link that begins so opens that page. Of two that fit, the first one does.
-constexpr std::array<std::pair<std::string_view, SettingsPage>, 6> pagesByLink{{
-    {"x-apple.systempreferences:com.apple.settings.PrivacySecurity.extension?Privacy_Accessibility",
-     SettingsPage::accessibility},
-    {"x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility",
-     SettingsPage::accessibility},
-    {"x-apple.systempreferences:com.apple.preference.security", SettingsPage::privacy},
-    {"x-apple.systempreferences:com.apple.Desktop-Settings.extension",
-     SettingsPage::desktopAndDock},
-    {"x-apple.systempreferences:com.apple.preference.dock", SettingsPage::desktopAndDock},
-    {"x-apple.systempreferences:com.apple.LoginItems-Settings.extension", SettingsPage::general},
-}};
-constexpr std::string_view application = "file:///System/Applications/System%20Settings.app";
-
-std::optional<ui::Rect> frameOf(const ui::SemanticsNode& node, const std::string& label) {
-  if (node.role == ui::Role::group && node.label == label) {
-    return node.frame;
-  }
-  for (const ui::SemanticsNode& child : node.children) {
-    if (const auto frame = frameOf(child, label)) {
-      return frame;
-    }
-  }
-  return std::nullopt;
-}
+constexpr const char* bundleUrl = "file:///System/Applications/System%20Settings.app";
 
 }  // namespace
 
 SystemSettings::SystemSettings(WindowServer& server)
-    : server_(server), applications_(server.machine().permission) {
+    : server_(server),
+      applications_(server.machine().permission),
+      pages_{{accessibilityPage,
+              privacyPage,
+              {"x-apple.systempreferences:com.apple.settings.PrivacySecurity.extension"
+               "?Privacy_Accessibility",
+               "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility"},
+              [](SystemSettings& settings) -> ui::View { return AccessibilityPage{&settings}; }}} {
   server.machine().links.onOpened([this](const Links::Opened& link) { linkOpened(link); });
 }
 
@@ -58,27 +42,33 @@ SystemSettings& SystemSettings::installOn(WindowServer& server) {
   return installed;
 }
 
-std::optional<SettingsPage> SystemSettings::pageOf(const std::string& url) {
-  for (const auto& [link, page] : pagesByLink) {
-    if (url.starts_with(link)) {
-      return page;
-    }
-  }
-  return std::nullopt;
+void SystemSettings::extend(std::vector<SettingsPage> pages, SettingsPage::MakeView makeSidebar) {
+  std::ranges::move(pages, std::back_inserter(pages_));
+  makeSidebar_ = std::move(makeSidebar);
+  changed();
+}
+
+const SettingsPage* SystemSettings::findPage(const std::string& name) const {
+  const auto found = std::ranges::find(pages_, name, &SettingsPage::name);
+  return found != pages_.end() ? &*found : nullptr;
 }
 
 void SystemSettings::linkOpened(const Links::Opened& link) {
   if (!link.wasAccepted) {
     return;
   }
-  if (const auto page = pageOf(link.url)) {
-    open(*page);
-  } else if (std::string_view(link.url).starts_with(application)) {
+  const auto page = std::ranges::find_if(pages_, [&](const SettingsPage& candidate) {
+    return std::ranges::any_of(
+        candidate.links, [&](const std::string& prefix) { return link.url.starts_with(prefix); });
+  });
+  if (page != pages_.end()) {
+    open(page->name);
+  } else if (link.url.starts_with(bundleUrl)) {
     open();
   }
 }
 
-void SystemSettings::open(SettingsPage page) {
+void SystemSettings::open(const std::string& page) {
   goTo(page);
   open();
 }
@@ -135,7 +125,7 @@ void SystemSettings::place() {
   server_.setOrigin(*window_, {std::floor(x), std::floor(y)});
 }
 
-const Machine& SystemSettings::machine() const {
+Machine& SystemSettings::machine() const {
   return server_.machine();
 }
 
@@ -162,7 +152,21 @@ void SystemSettings::changed() {
   }
 }
 
-void SystemSettings::goTo(SettingsPage page) {
+ui::View SystemSettings::pageView() {
+  const SettingsPage* const page = findPage(state_.page);
+  return page != nullptr ? page->makeView(*this) : ui::View();
+}
+
+ui::View SystemSettings::sidebarView() {
+  return makeSidebar_ ? makeSidebar_(*this) : ui::View();
+}
+
+const SettingsPage* SystemSettings::parentPage() const {
+  const SettingsPage* const page = findPage(state_.page);
+  return page != nullptr ? findPage(page->parent) : nullptr;
+}
+
+void SystemSettings::goTo(const std::string& page) {
   if (page != state_.page) {
     state_ = {};
     state_.page = page;
@@ -205,23 +209,17 @@ void SystemSettings::endChoosing(bool addsChosen) {
   changed();
 }
 
-void SystemSettings::setDockEdge(DockEdge edge) {
-  server_.machine().preferences.set({Dock::preferencesDomain}, Dock::orientationKey,
-                                    std::string(nameOf(edge)));
-  changed();
-}
-
-void SystemSettings::setDockAutoHides(bool hides) {
-  server_.machine().preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
-  changed();
-}
-
 std::optional<ui::Rect> SystemSettings::listFrame() const {
-  if (view_ == nullptr || state_.page != SettingsPage::accessibility || state_.isChoosing) {
+  if (view_ == nullptr || state_.page != accessibilityPage || state_.isChoosing) {
     return std::nullopt;
   }
   view_->update();
-  return frameOf(view_->host().semantics(), SystemSettingsView::listLabel(language()));
+  const auto list = findElement(
+      view_->host().semantics(),
+      [label = SystemSettingsView::listLabel(language())](const ui::SemanticsNode& node) {
+        return node.role == ui::Role::group && node.label == label;
+      });
+  return list ? std::optional(list->frame) : std::nullopt;
 }
 
 void SystemSettings::setDragOver(bool isOver) {

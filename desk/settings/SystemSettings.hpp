@@ -1,5 +1,5 @@
-// The simulated System Settings: a program of the system with one window, opened by links, in which
-// the user allows applications to control the computer.
+// The simulated System Settings: a system program with one window, opened by links, in which the
+// user allows applications to control the computer.
 #pragma once
 
 #include <memory>
@@ -22,23 +22,28 @@ class Machine;
 class WindowServer;
 struct DeskWindow;
 
-/// It outlives the application's process, as a program of its own does. What it shows of the
-/// machine is read anew whenever the machine has changed.
+/// A separate program: it outlives the application's process. It has the Accessibility page;
+/// `extend` adds more. The window is rebuilt when the machine has changed.
 class SystemSettings : public SystemProgram {
  public:
   /// The window's size in points.
   static constexpr double width = 715;
   static constexpr double height = 500;
 
+  static constexpr const char* accessibilityPage = "accessibility";
+  /// Its parent, which `extend` may add.
+  static constexpr const char* privacyPage = "privacy";
+
   /// What the user has opened and chosen.
   struct State {
-    SettingsPage page = SettingsPage::general;
+    /// The page's name.
+    std::string page = accessibilityPage;
     /// The application that is selected in the Accessibility list; empty for none.
     std::string selected;
     /// Whether the sheet that adds an application is open, and what is selected there.
     bool isChoosing = false;
     std::string chosen;
-    /// Whether a file is being dragged over the list.
+    /// A file is being dragged over the list.
     bool isDragOver = false;
   };
 
@@ -46,24 +51,31 @@ class SystemSettings : public SystemProgram {
   explicit SystemSettings(WindowServer& server);
   ~SystemSettings() override;
 
-  /// Once for each server. From then on it opens when a link names one of its pages.
+  /// To be called once for each server. The window opens when a link to one of its pages is opened.
   static SystemSettings& installOn(WindowServer& server);
 
-  /// The page that a link names; none when it is not one of the settings'.
-  [[nodiscard]] static std::optional<SettingsPage> pageOf(const std::string& url);
-  /// A link or file was opened: opens the window when it is one of the settings'.
-  void linkOpened(const Links::Opened& link);
-  /// Brings the window to the front, on the page that it showed last.
+  /// Adds pages, and the sidebar that leads to them. Of several pages that match a link, the one
+  /// added first opens.
+  void extend(std::vector<SettingsPage> pages, SettingsPage::MakeView makeSidebar);
+  [[nodiscard]] const std::vector<SettingsPage>& pages() const { return pages_; }
+
+  /// Brings the window to the front, with the page that it showed last.
   void open();
-  void open(SettingsPage page);
+  void open(const std::string& page);
 
   [[nodiscard]] const State& state() const { return state_; }
-  [[nodiscard]] const Machine& machine() const;
+  /// The views of the current page and, if the window has been extended, of the sidebar.
+  [[nodiscard]] ui::View pageView();
+  [[nodiscard]] ui::View sidebarView();
+  /// The parent of the current page; null if it has none, or if there is no such page.
+  [[nodiscard]] const SettingsPage* parentPage() const;
+  [[nodiscard]] Machine& machine() const;
   [[nodiscard]] SystemLanguage language() const;
   [[nodiscard]] const AccessibilityList& applications() const { return applications_; }
 
-  void goTo(SettingsPage page);
-  /// Applications are known by their names.
+  /// By the page's name; an unknown page is empty. A change of page resets the rest of the state.
+  void goTo(const std::string& page);
+  /// Applications are identified by name.
   void select(const std::string& name);
   void setAllowed(const std::string& name, bool isAllowed);
   void removeSelected();
@@ -71,15 +83,13 @@ class SystemSettings : public SystemProgram {
   void beginChoosing();
   void choose(const std::string& name);
   void endChoosing(bool addsChosen);
-  void setDockEdge(DockEdge edge);
-  void setDockAutoHides(bool hides);
 
-  /// The list that takes dropped applications, from the top left of the window's content; none
-  /// while it is not shown.
+  /// The frame of the list that accepts dropped applications, from the top left of the window's
+  /// content; none while it is not shown.
   [[nodiscard]] std::optional<ui::Rect> listFrame() const;
 
  private:
-  /// What the views read and nobody announces.
+  /// What pages read without being notified of changes.
   struct Facts {
     std::vector<AccessibilityList::Entry> applications;
     SystemLanguage language;
@@ -90,6 +100,9 @@ class SystemSettings : public SystemProgram {
     friend bool operator==(const Facts&, const Facts&) = default;
   };
 
+  void linkOpened(const Links::Opened& link);
+  /// Null when there is none.
+  [[nodiscard]] const SettingsPage* findPage(const std::string& name) const;
   void makeWindow();
   void place();
   [[nodiscard]] Facts facts() const;
@@ -100,6 +113,8 @@ class SystemSettings : public SystemProgram {
 
   WindowServer& server_;
   AccessibilityList applications_;
+  std::vector<SettingsPage> pages_;
+  SettingsPage::MakeView makeSidebar_;
   State state_;
   std::optional<Facts> shownFacts_;
   std::shared_ptr<HostedView> view_;

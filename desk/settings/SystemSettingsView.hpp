@@ -1,4 +1,4 @@
-// The content of the simulated System Settings: the sidebar, the page, and the sheet above it.
+// The content of System Settings: the sidebar, the page, and the sheet over both.
 #pragma once
 
 #include <string>
@@ -15,13 +15,10 @@ struct SystemSettingsView {
 
   ui::View body(const ui::Environment& environment) const;
 
-  /// How screen readers call the list of applications.
+  /// The accessibility label of the list of applications.
   [[nodiscard]] static std::string listLabel(const SystemLanguage& language) {
     return language.text("Applications", "应用程序");
   }
-
- private:
-  [[nodiscard]] ui::View page() const;
 };
 
 }  // namespace orvane::desk

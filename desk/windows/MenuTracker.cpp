@@ -230,7 +230,7 @@ std::optional<std::size_t> MenuTracker::reached() const {
   if (highlighted_ || isLedByKeys_) {
     return highlighted_;
   }
-  const MenuRow* const row = rowAt(server_.machine().pointer.place());
+  const MenuRow* const row = rowAt(server_.machine().pointer.location());
   return row != nullptr && canBeChosen(menu_->items[row->itemIndex]) ? std::optional(row->itemIndex)
                                                                      : std::nullopt;
 }

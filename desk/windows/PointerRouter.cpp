@@ -59,7 +59,7 @@ void PointerRouter::hoverAt(CGPoint place) {
 
 void PointerRouter::refresh() {
   if (pressed_.expired() && !windowDrag_ && !fileDrag_ && !server_.machine().displays.isEmpty()) {
-    hoverAt(server_.machine().pointer.place());
+    hoverAt(server_.machine().pointer.location());
   }
 }
 
@@ -217,7 +217,7 @@ void PointerRouter::beginFileDrag(const ui::DragRequest& request, const HostedVi
   if (!origin || !server_.machine().mouse.isButtonPressed()) {
     return;
   }
-  const CGPoint place = server_.machine().pointer.place();
+  const CGPoint place = server_.machine().pointer.location();
   pressed_.reset();
   fileDrag_ = FileDrag{request.fileUrl, request.imageName, FileDrag::copyOperation,
                        request.frame.movedBy({origin->x - place.x, origin->y - place.y})};
@@ -248,7 +248,7 @@ void PointerRouter::showDropAt(const std::shared_ptr<DeskWindow>& window) {
 
 bool PointerRouter::canDropHere() const {
   return fileDrag_ && (fileDrag_->operations & FileDrag::copyOperation) != 0 &&
-         dropWindowAt(server_.machine().pointer.place()) != nullptr;
+         dropWindowAt(server_.machine().pointer.location()) != nullptr;
 }
 
 void PointerRouter::drop(CGPoint place) {

@@ -31,7 +31,7 @@ void paintCopyMark(desk::CairoCanvas& canvas, const CGPoint& place) {
 
 void paintFileDrag(desk::CairoCanvas& canvas, desk::WindowServer& server) {
   const desk::FileDrag& drag = *server.pointer.fileDrag();
-  const CGPoint place = server.machine().pointer.place();
+  const CGPoint place = server.machine().pointer.location();
   const ui::Rect image = drag.image.movedBy({place.x, place.y});
   canvas.beginLayer(image, imageOpacity, std::nullopt);
   server.resources().images.paint(canvas.context(), drag.imageName, image.x, image.y, image.width,

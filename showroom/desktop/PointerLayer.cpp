@@ -25,7 +25,7 @@ void PointerLayer::paint(const DesktopScene& scene, const DisplayCanvas& display
   if (scene.onlySurface) {
     return;
   }
-  const CGPoint place = scene.machine.pointer.place();
+  const CGPoint place = scene.machine.pointer.location();
   cairo_t* const context = display.canvas.context();
   cairo_translate(context, place.x, place.y);
   cairo_scale(context, scene.pointerMagnification, scene.pointerMagnification);

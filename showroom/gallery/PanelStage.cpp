@@ -27,7 +27,7 @@ void carriedOut(const desk::Displays::Problem& problem) {
 
 void plugDisplays(const std::vector<std::string>& names, desk::Displays& displays) {
   require(names.size() <= displayFrames.size(), "the gallery has no place for so many displays");
-  carriedOut(displays.beginTogether());
+  carriedOut(displays.beginChanges());
   while (!displays.isEmpty()) {
     carriedOut(displays.detach(displays.all().back().number));
   }
@@ -40,7 +40,7 @@ void plugDisplays(const std::vector<std::string>& names, desk::Displays& display
     display.isBuiltIn = place == 0;
     carriedOut(displays.attach(display, place == 0));
   }
-  carriedOut(displays.endTogether());
+  carriedOut(displays.endChanges());
 }
 
 void forgetSettings(desk::UserDefaultsStore& defaults) {

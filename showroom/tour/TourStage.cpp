@@ -8,6 +8,7 @@
 #include "desk/canvas/PngFile.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/settings/SettingsPages.hpp"
 #include "showroom/tour/TourPicture.hpp"
 
 namespace orvane::showroom {
@@ -23,7 +24,9 @@ TourStage::TourStage(std::filesystem::path directory, std::ostream& story, std::
     : directory_(std::move(directory)),
       story_(story),
       complaints_(complaints),
-      application_(scope_.machine()) {}
+      application_(scope_.machine()) {
+  showroom::addSettingsPages(application_.systemSettings());
+}
 
 void TourStage::push(double dx, double dy) {
   desk::Machine& desk = machine();
@@ -38,9 +41,9 @@ void TourStage::push(double dx, double dy) {
 void TourStage::walkTo(CGPoint place) {
   constexpr int movements = 25;
   constexpr double pause = 0.02;
-  const CGPoint start = machine().pointer.place();
+  const CGPoint start = machine().pointer.location();
   for (int movement = 1; movement <= movements; ++movement) {
-    const CGPoint now = machine().pointer.place();
+    const CGPoint now = machine().pointer.location();
     const double share = static_cast<double>(movement) / movements;
     push(start.x + (place.x - start.x) * share - now.x,
          start.y + (place.y - start.y) * share - now.y);

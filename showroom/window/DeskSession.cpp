@@ -6,6 +6,7 @@
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/MenuClock.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
+#include "showroom/settings/SettingsPages.hpp"
 
 namespace orvane::showroom {
 
@@ -18,6 +19,7 @@ constexpr double secondsToMorning = (10 * 60 + 8) * 60;
 
 DeskSession::DeskSession(std::size_t displayCount)
     : application_(scope_.machine()), hardware_(scope_.machine(), application_) {
+  showroom::addSettingsPages(application_.systemSettings());
   const std::size_t wanted = std::clamp<std::size_t>(displayCount, 1, standardDisplayCount);
   for (std::size_t position = 0; position < wanted; ++position) {
     attachNextStandardDisplay(machine());

@@ -59,7 +59,7 @@ std::string windowDump(const DeskSession& session, const WindowLayout& layout,
                        const WindowFrames& frames) {
   const desk::Machine& machine = session.machine();
   const DesktopLayout desktop = layout.desktopLayout(machine.displays.globalFrames());
-  const CGPoint pointer = machine.pointer.place();
+  const CGPoint pointer = machine.pointer.location();
   const Json dump{
       {"dock", dockOf(machine)},
       {"application", applicationOf(session)},

@@ -83,7 +83,7 @@ bool WindowInput::followCursor(const SDL_MouseMotionEvent& event) {
   if (!place) {
     return false;
   }
-  const CGPoint pointer = session_.machine().pointer.place();
+  const CGPoint pointer = session_.machine().pointer.location();
   session_.movePointerBy(place->x - pointer.x, place->y - pointer.y);
   return true;
 }

@@ -25,8 +25,8 @@ WindowPicture::Looks WindowPicture::looksOf(const DeskSession& session, bool isM
   looks.panelChanges = panel_.changeCount();
   looks.clock = menuClockText(machine.clock);
   const CGRect dock = machine.dock.frame();
-  looks.places = {machine.pointer.place().x,
-                  machine.pointer.place().y,
+  looks.places = {machine.pointer.location().x,
+                  machine.pointer.location().y,
                   dock.origin.x,
                   dock.origin.y,
                   dock.size.width,

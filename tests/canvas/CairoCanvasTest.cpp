@@ -29,12 +29,6 @@ TEST_F(CairoCanvasTest, AFilledRectangleCoversExactlyItsPixelsAtEveryScale) {
   }
 }
 
-TEST_F(CairoCanvasTest, HalfAPixelIsHalfCovered) {
-  begin(4, 4).fill(Shape::rectangle({1.5, 1, 1.5, 1}), Paint::solid(black));
-  EXPECT_NEAR(at(1, 1).alpha, 128, 1);
-  EXPECT_EQ(at(2, 1).alpha, 255);
-}
-
 TEST_F(CairoCanvasTest, AnEmptyPaintPaintsNothing) {
   begin(4, 4).fill(Shape::rectangle({0, 0, 4, 4}), Paint{});
   canvas->stroke(Shape::rectangle({1, 1, 2, 2}), Paint{}, 1);
@@ -89,22 +83,6 @@ TEST_F(CairoCanvasTest, AGradientWithoutLengthIsItsLastColor) {
   paint.stops = {{black, 0}, {red, 1}};
   begin(2, 2).fill(Shape::rectangle({0, 0, 2, 2}), paint);
   EXPECT_EQ(at(1, 1), fullRed);
-}
-
-TEST_F(CairoCanvasTest, AStrokeIsCenteredOnItsOutline) {
-  begin(12, 12).stroke(Shape::rectangle({3, 3, 6, 6}), Paint::solid(black), 2);
-  EXPECT_EQ(at(2, 6).alpha, 255);
-  EXPECT_EQ(at(3, 6).alpha, 255);
-  EXPECT_EQ(at(1, 6).alpha, 0);
-  EXPECT_EQ(at(4, 6).alpha, 0);
-}
-
-TEST_F(CairoCanvasTest, AnInsetShapeKeepsItsStrokeInside) {
-  begin(12, 12).stroke(Shape::rectangle({2, 2, 8, 8}).inset(0.5), Paint::solid(black), 1);
-  EXPECT_EQ(at(2, 6).alpha, 255);
-  EXPECT_EQ(at(1, 6).alpha, 0);
-  EXPECT_EQ(at(9, 6).alpha, 255);
-  EXPECT_EQ(at(10, 6).alpha, 0);
 }
 
 TEST_F(CairoCanvasTest, AClipAndATransformEndWithTheirRestore) {
@@ -297,22 +275,6 @@ TEST_F(CairoCanvasTest, ASymbolIsCenteredInItsRectangleInItsColor) {
   EXPECT_GT(at(9, 38).alpha, 127);
   EXPECT_GT(at(46, 38).alpha, 127);
   EXPECT_EQ(at(47, 38), nothing);
-}
-
-TEST_F(CairoCanvasTest, TheSameDrawingGivesTheSameBytes) {
-  const auto draw = [] {
-    DrawingResources own;
-    const SurfacePointer target(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 200, 80));
-    CairoCanvas ownCanvas(target.get(), 2, own);
-    ownCanvas.shadow(Shape::roundedRectangle({10, 5, 70, 30}, 8), {black, 6, {0, 2}});
-    ownCanvas.fill(Shape::roundedRectangle({10, 5, 70, 30}, 8), Paint::solid({1, 1, 1, 0.8}));
-    ownCanvas.symbol("gearshape", ui::Font::system(15), black, {14, 10, 20, 20});
-    ownCanvas.text("Dock 设置", ui::Font::headline(), black, {36, 24});
-    return encodePng(target.get());
-  };
-  const std::vector<std::uint8_t> first = draw();
-  EXPECT_FALSE(first.empty());
-  EXPECT_EQ(first, draw());
 }
 
 }  // namespace

@@ -71,12 +71,6 @@ TEST_F(ImageLibraryTest, ADrawingIsSharpAtEveryScale) {
   EXPECT_EQ(at(50, 66), nothing);
 }
 
-TEST_F(ImageLibraryTest, AnImageMayHaveASizeOfItsOwn) {
-  ASSERT_TRUE(resources.images.add("two", twoColors(4, 4), ui::Size{2, 2}));
-  EXPECT_EQ(resources.images.size("two"), (ui::Size{2, 2}));
-  EXPECT_EQ(resources.imageSource().image("two"), (ui::Size{2, 2}));
-}
-
 TEST_F(ImageLibraryTest, WhatCannotBeReadIsRefused) {
   EXPECT_FALSE(resources.images.add("broken", bytesOf("no picture")));
   EXPECT_FALSE(resources.images.add("broken", {}));

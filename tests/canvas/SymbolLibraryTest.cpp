@@ -107,36 +107,6 @@ std::set<std::string> symbolNamesIn(const std::string& source) {
   return names;
 }
 
-TEST(SymbolLibraryTest, EverySymbolOfTheInterfaceHasADrawing) {
-  for (const char* name : {"arrow.down",
-                           "checkmark",
-                           "checkmark.circle.fill",
-                           "display",
-                           "display.trianglebadge.exclamationmark",
-                           "doc.text",
-                           "dock.rectangle",
-                           "envelope",
-                           "eye",
-                           "eye.slash",
-                           "gearshape",
-                           "gearshape.fill",
-                           "globe",
-                           "hand.raised",
-                           "keyboard",
-                           "lifepreserver",
-                           "lock",
-                           "lock.fill",
-                           "lock.open",
-                           "lock.shield",
-                           "macwindow",
-                           "minus",
-                           "power",
-                           "xmark",
-                           "xmark.circle.fill"}) {
-    EXPECT_TRUE(SymbolLibrary::contains(name)) << name;
-  }
-}
-
 TEST(SymbolLibraryTest, EveryNameInTheViewsHasADrawing) {
   std::set<std::string> all;
   for (const char* folder : {"app", "panels", "permission"}) {

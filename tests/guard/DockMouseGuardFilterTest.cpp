@@ -405,7 +405,7 @@ TEST_F(DockMouseGuardFilterTest, NoRealMovementReachesTheGuardedEdgeHoweverTheCu
       EXPECT_LT(machine.mouse.moveBy(0, 40).reached.y, 1068);
       machine.advance(0.1);
     }
-    EXPECT_EQ(machine.pointer.place().y < 1068, cursor == Cursor::held);
+    EXPECT_EQ(machine.pointer.location().y < 1068, cursor == Cursor::held);
   }
   EXPECT_EQ(machine.dock.revealCount(2), 0);
   EXPECT_EQ(machine.dock.displayNumber(), 1U);

@@ -103,7 +103,7 @@ void preventAndMove(Cursor cursor) {
   desk::MachineScope scope;
   desk::Machine& machine = scope.machine();
   setUp(machine, cursor);
-  machine.preferences.set(desk::dockDomain(), desk::Dock::autoHideKey, true);
+  desk::Dock::store(machine.preferences, desk::Dock::autoHideKey, true);
   std::optional<DockMouseGuard> guard;
   guard.emplace().start("", OrvaneModifier::option, true);
   for (int count = 0; count < 30; ++count) {

@@ -17,7 +17,7 @@ class HardwareContentTest : public HardwareFixture {
   }
   /// Presses so often against the lower edge of the display on the right.
   void pressRightDisplay(int times) {
-    const CGPoint place = machine.pointer.place();
+    const CGPoint place = machine.pointer.location();
     session.movePointerBy(1500 - place.x, 600 - place.y);
     for (int time = 0; time < times; ++time) {
       session.movePointerBy(0, 60);

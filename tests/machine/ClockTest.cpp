@@ -9,14 +9,6 @@
 namespace orvane::desk {
 namespace {
 
-TEST(ClockTest, StartsAtAThousandSecondsOfMediaTime) {
-  const Clock clock;
-  EXPECT_EQ(clock.now(), 0);
-  EXPECT_EQ(clock.mediaTime(), 1000.0);
-  EXPECT_EQ(clock.mediaNanoseconds(), 1'000'000'000'000);
-  EXPECT_EQ(clock.calendarTime(), 788'918'400.0);
-}
-
 TEST(ClockTest, NeverGoesBack) {
   Clock clock;
   clock.moveTo(500);

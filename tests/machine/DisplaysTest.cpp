@@ -4,16 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/machine/Displays.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 namespace {
 
 Display display(std::uint32_t number, CGRect frame) {
-  Display result;
-  result.number = number;
-  result.frame = frame;
-  return result;
+  return displayOf(number, "", frame);
 }
 
 class DisplaysTest : public testing::Test {
@@ -25,15 +22,6 @@ class DisplaysTest : public testing::Test {
   Displays displays;
   int changes = 0;
 };
-
-TEST_F(DisplaysTest, KeepsTheOrderOfAttachment) {
-  EXPECT_EQ(displays.attach(display(7, {{0, 0}, {100, 50}})), std::nullopt);
-  EXPECT_EQ(displays.attach(display(3, {{100, 0}, {100, 50}})), std::nullopt);
-  ASSERT_EQ(displays.count(), 2U);
-  EXPECT_EQ(displays.all()[0].number, 7U);
-  EXPECT_EQ(displays.all()[1].number, 3U);
-  EXPECT_EQ(changes, 2);
-}
 
 TEST_F(DisplaysTest, InvalidRequestsReportTheProblemAndChangeNothing) {
   ASSERT_FALSE(displays.attach(display(1, {{0, 0}, {100, 50}})));
@@ -51,7 +39,7 @@ TEST_F(DisplaysTest, InvalidRequestsReportTheProblemAndChangeNothing) {
   EXPECT_EQ(displays.setFrame(2, {{0, 0}, {10, 10}}), "there is no display 2");
   EXPECT_EQ(displays.renumber(2, 3), "there is no display 2");
   EXPECT_EQ(displays.setMain(2), "there is no display 2");
-  EXPECT_EQ(displays.endTogether(), "no changes are being made together");
+  EXPECT_EQ(displays.endChanges(), "no group of changes is open");
   ASSERT_FALSE(displays.attach(display(2, {{0, 0}, {10, 10}})));
   EXPECT_EQ(displays.renumber(1, 2), "there is a display 2 already");
   EXPECT_EQ(changes, 1);
@@ -115,19 +103,19 @@ TEST_F(DisplaysTest, ANewHeightOfTheFirstDisplayMovesTheOthers) {
 TEST_F(DisplaysTest, ChangesMadeTogetherAreOneChange) {
   ASSERT_FALSE(displays.attach(display(1, {{0, 0}, {100, 50}})));
   changes = 0;
-  EXPECT_EQ(displays.beginTogether(), std::nullopt);
-  EXPECT_NE(displays.beginTogether(), std::nullopt);
+  EXPECT_EQ(displays.beginChanges(), std::nullopt);
+  EXPECT_NE(displays.beginChanges(), std::nullopt);
   ASSERT_FALSE(displays.attach(display(2, {{100, 0}, {100, 50}})));
   ASSERT_FALSE(displays.renumber(1, 4));
   EXPECT_EQ(changes, 0);
-  EXPECT_EQ(displays.endTogether(), std::nullopt);
+  EXPECT_EQ(displays.endChanges(), std::nullopt);
   EXPECT_EQ(changes, 1);
 }
 
 TEST_F(DisplaysTest, AnEmptyBatchIsNotAChange) {
-  EXPECT_EQ(displays.beginTogether(), std::nullopt);
+  EXPECT_EQ(displays.beginChanges(), std::nullopt);
   EXPECT_EQ(displays.detach(5), "there is no display 5");
-  EXPECT_EQ(displays.endTogether(), std::nullopt);
+  EXPECT_EQ(displays.endChanges(), std::nullopt);
   EXPECT_EQ(changes, 0);
 }
 

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/machine/Dock.hpp"
 #include "tests/support/MachineFixture.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -12,22 +12,15 @@ namespace {
 class DockTest : public MachineFixture {
  protected:
   void attach(std::uint32_t number, CGRect frame, bool asMain = false) {
-    Display display;
-    display.number = number;
-    display.frame = frame;
-    ASSERT_FALSE(machine.displays.attach(display, asMain));
+    desk::attach(machine, displayOf(number, "", frame), asMain);
   }
   /// Two displays of 1000 by 800 side by side.
   void attachPair() {
     attach(1, {{0, 0}, {1000, 800}});
     attach(2, {{1000, 0}, {1000, 800}});
   }
-  void setEdge(PropertyValue value) {
-    machine.preferences.set({Dock::preferencesDomain}, Dock::orientationKey, std::move(value));
-  }
-  void setAutoHide(bool hides) {
-    machine.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, hides);
-  }
+  void setEdge(PropertyValue value) { setDockOrientation(machine, std::move(value)); }
+  void setAutoHide(bool hides) { Dock::store(machine.preferences, Dock::autoHideKey, hides); }
   /// A movement from a point well inside the display.
   void push(CGPoint from, double dx, double dy) {
     machine.mouse.moveTo(from);
@@ -119,7 +112,7 @@ TEST_F(DockTest, ANeighbourUpToTwoPointsAwayIsStillANeighbour) {
   machine.mouse.moveTo({500, -400});
   // The movement ends in the gap, so the pointer stays at the lower edge of the second.
   machine.mouse.moveTo({500, -0.5});
-  EXPECT_EQ(machine.pointer.place().y, -2.5);
+  EXPECT_EQ(machine.pointer.location().y, -2.5);
   EXPECT_EQ(dock.displayNumber(), 1U);
   ASSERT_FALSE(machine.displays.setFrame(2, {{0, 802.5}, {1000, 800}}));
   machine.mouse.moveTo({500, -0.5});

@@ -3,6 +3,7 @@
 
 #include "desk/machine/MachineScope.hpp"
 #include "tests/support/AllocationCounter.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -20,15 +21,12 @@ TEST(EventPathTest, AllocatesNothing) {
   MachineScope scope;
   Machine& machine = scope.machine();
   for (const std::uint32_t number : {1U, 2U, 3U}) {
-    Display display;
-    display.number = number;
-    display.frame = CGRectMake(1000 * (number - 1), 0, 1000, 800);
-    ASSERT_FALSE(machine.displays.attach(display));
+    attach(machine, displayOf(number, "", CGRectMake(1000 * (number - 1), 0, 1000, 800)));
   }
   const auto tap = machine.eventTaps.create(kCGTailAppendEventTap, kCGEventTapOptionDefault,
                                             CGEventMask{1} << kCGEventMouseMoved, pushUp, nullptr);
   machine.eventTaps.find(*tap)->sourceModes = RunLoop::commonModes;
-  machine.preferences.set({Dock::preferencesDomain}, Dock::autoHideKey, true);
+  Dock::store(machine.preferences, Dock::autoHideKey, true);
   // The first reveal on a display creates its counter; later ones allocate nothing.
   machine.modifierKeys.hold(kCGEventFlagMaskShift);
   for (const double x : {500.0, 1500.0, 2500.0}) {

@@ -46,11 +46,6 @@ class EventTapsTest : public testing::Test {
   using Log = std::vector<std::string>;
 };
 
-TEST_F(EventTapsTest, AnEventWithoutTapsIsUnchanged) {
-  EXPECT_TRUE(taps.deliver(event));
-  EXPECT_EQ(event.location.x, 10);
-}
-
 TEST_F(EventTapsTest, TapsAreAskedFromHeadToTail) {
   Action first = shift("first", 1);
   Action second = shift("second", 2);
@@ -115,15 +110,6 @@ TEST_F(EventTapsTest, ATapMayReturnAnotherEvent) {
   EXPECT_EQ(event.location.x, 1);
 }
 
-TEST_F(EventTapsTest, RefusedCreationMakesNoTap) {
-  Action action = shift("tap", 1);
-  taps.setRefusesCreation(true);
-  EXPECT_EQ(taps.create(kCGTailAppendEventTap, kCGEventTapOptionDefault, mouseMovedMask, callAction,
-                        &action),
-            std::nullopt);
-  EXPECT_EQ(taps.aliveCount(), 0U);
-}
-
 TEST_F(EventTapsTest, TheSystemDisablesATapBeforeItNotifiesIt) {
   std::vector<bool> enabledWhenNotified;
   std::uint64_t identity = 0;
@@ -140,27 +126,6 @@ TEST_F(EventTapsTest, TheSystemDisablesATapBeforeItNotifiesIt) {
   EXPECT_EQ(taps.disableAll(kCGEventTapDisabledByTimeout, {0, 0}), 0);
   taps.deliver(event);
   EXPECT_EQ(enabledWhenNotified.size(), 1U);
-}
-
-TEST_F(EventTapsTest, ADisabledTapMayEnableItselfAgain) {
-  std::uint64_t identity = 0;
-  Action action = [&](CGEventType, CGEventRef seen) {
-    taps.find(identity)->isEnabled = true;
-    return seen;
-  };
-  identity = make(action);
-  taps.disableAll(kCGEventTapDisabledByUserInput, {0, 0});
-  EXPECT_TRUE(taps.isAnyEnabled());
-}
-
-TEST_F(EventTapsTest, ADeadTapIsGoneForGood) {
-  Action action = shift("tap", 1);
-  const auto identity = make(action);
-  taps.killAll();
-  EXPECT_EQ(taps.find(identity), nullptr);
-  EXPECT_EQ(taps.aliveCount(), 0U);
-  taps.deliver(event);
-  EXPECT_TRUE(log.empty());
 }
 
 TEST_F(EventTapsTest, ATapMayEndItselfInItsCallback) {

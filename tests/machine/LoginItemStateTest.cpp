@@ -8,15 +8,6 @@ namespace {
 
 using Status = appkit::LoginItem::Status;
 
-TEST(LoginItemStateTest, RegistersAndUnregisters) {
-  LoginItemState item;
-  EXPECT_EQ(item.status, Status::notRegistered);
-  EXPECT_EQ(item.registerApplication(), std::nullopt);
-  EXPECT_EQ(item.status, Status::enabled);
-  EXPECT_EQ(item.unregisterApplication(), std::nullopt);
-  EXPECT_EQ(item.status, Status::notRegistered);
-}
-
 TEST(LoginItemStateTest, AnItemThatNeedsApprovalIsNotEnabledByRegisteringItAgain) {
   LoginItemState item;
   item.status = Status::requiresApproval;
@@ -24,13 +15,6 @@ TEST(LoginItemStateTest, AnItemThatNeedsApprovalIsNotEnabledByRegisteringItAgain
   EXPECT_EQ(item.status, Status::requiresApproval);
   EXPECT_EQ(item.unregisterApplication(), std::nullopt);
   EXPECT_EQ(item.status, Status::notRegistered);
-}
-
-TEST(LoginItemStateTest, AServiceThatWasNotFoundCanBeRegistered) {
-  LoginItemState item;
-  item.status = Status::notFound;
-  EXPECT_EQ(item.registerApplication(), std::nullopt);
-  EXPECT_EQ(item.status, Status::enabled);
 }
 
 TEST(LoginItemStateTest, AnErrorLeavesTheStatusAsItIs) {

@@ -15,12 +15,6 @@ TEST(MachineScopeTest, MakesItsMachineTheCurrentOne) {
   EXPECT_EQ(Machine::currentOrNull(), nullptr);
 }
 
-TEST(MachineScopeTest, EndsCleanWhenNothingLeaked) {
-  MachineScope scope;
-  CFRelease(CFStringCreateWithCString(kCFAllocatorDefault, "text", kCFStringEncodingUTF8));
-  EXPECT_TRUE(scope.end().isClean());
-}
-
 TEST(MachineScopeTest, ReportsLeakedObjects) {
   MachineScope scope;
   const CFStringRef text =

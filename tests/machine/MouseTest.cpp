@@ -6,6 +6,7 @@
 
 #include "desk/machine/Mouse.hpp"
 #include "tests/support/MachineFixture.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -27,12 +28,8 @@ CGEventRef follow(CGEventTapProxy, CGEventType, CGEventRef event, void* userInfo
 class MouseTest : public MachineFixture, private PointerListener {
  protected:
   MouseTest() {
-    for (const std::uint32_t number : {1U, 2U}) {
-      Display display;
-      display.number = number;
-      display.frame = CGRectMake(1000 * (number - 1), 0, 1000, 800);
-      EXPECT_FALSE(machine.displays.attach(display));
-    }
+    attach(machine, displayOf(1, "", {{0, 0}, {1000, 800}}));
+    attach(machine, displayOf(2, "", {{1000, 0}, {1000, 800}}));
     const auto tap =
         machine.eventTaps.create(kCGTailAppendEventTap, kCGEventTapOptionDefault,
                                  CGEventMask{1} << kCGEventMouseMoved, follow, &script);
@@ -64,7 +61,7 @@ TEST_F(MouseTest, AMovementBecomesAnEventAtTheClampedPositionWithTheHeldKeys) {
 TEST_F(MouseTest, WhereTheLastTapLeavesTheEventIsWhereThePointerIs) {
   script.dy = -12;
   const PointerMovement movement = machine.mouse.moveTo({500, 900});
-  EXPECT_EQ(machine.pointer.place().y, 787);
+  EXPECT_EQ(machine.pointer.location().y, 787);
   EXPECT_EQ(movement.outcome, PointerMovement::Outcome::movedBack);
   EXPECT_EQ(movement.wanted.y, 799);
   EXPECT_EQ(movement.reached.y, 787);
@@ -85,7 +82,7 @@ TEST_F(MouseTest, AFreeCursorGoesWithTheHandAndOnlyWhatFollowsTheTapsSeesTheChan
   script.dy = -12;
   machine.mouse.moveTo({1500, 400});
   const PointerMovement movement = machine.mouse.moveBy(0, 900);
-  EXPECT_EQ(machine.pointer.place().y, 799);
+  EXPECT_EQ(machine.pointer.location().y, 799);
   EXPECT_EQ(movement.outcome, PointerMovement::Outcome::movedBack);
   EXPECT_EQ(movement.wanted.y, 799);
   EXPECT_EQ(movement.reached.y, 787);
@@ -102,7 +99,7 @@ TEST_F(MouseTest, AFreeCursorMovesEvenIfATapDropsItsMovements) {
   machine.mouse.moveTo({1500, 400});
   script.drops = true;
   machine.mouse.moveBy(0, 900);
-  EXPECT_EQ(machine.pointer.place().y, 799);
+  EXPECT_EQ(machine.pointer.location().y, 799);
   EXPECT_EQ(machine.dock.displayNumber(), 1U);
   EXPECT_EQ(positions.size(), 1U);
 }
@@ -110,16 +107,16 @@ TEST_F(MouseTest, AFreeCursorMovesEvenIfATapDropsItsMovements) {
 TEST_F(MouseTest, APositionOffAllDisplaysIsClampedAgain) {
   script.dy = 5000;
   machine.mouse.moveTo({500, 400});
-  EXPECT_EQ(machine.pointer.place().x, 500);
-  EXPECT_EQ(machine.pointer.place().y, 799);
+  EXPECT_EQ(machine.pointer.location().x, 500);
+  EXPECT_EQ(machine.pointer.location().y, 799);
 }
 
 TEST_F(MouseTest, AnInvalidPositionDoesNotMoveThePointer) {
   machine.mouse.moveTo({500, 400});
   script.dy = std::nan("");
   machine.mouse.moveTo({600, 500});
-  EXPECT_EQ(machine.pointer.place().x, 500);
-  EXPECT_EQ(machine.pointer.place().y, 400);
+  EXPECT_EQ(machine.pointer.location().x, 500);
+  EXPECT_EQ(machine.pointer.location().y, 400);
 }
 
 TEST_F(MouseTest, ADroppedMovementMovesNothing) {
@@ -129,7 +126,7 @@ TEST_F(MouseTest, ADroppedMovementMovesNothing) {
   EXPECT_EQ(movement.outcome, PointerMovement::Outcome::dropped);
   EXPECT_EQ(movement.wanted.y, 799);
   EXPECT_EQ(movement.reached.y, 400);
-  EXPECT_EQ(machine.pointer.place().y, 400);
+  EXPECT_EQ(machine.pointer.location().y, 400);
   EXPECT_EQ(machine.dock.displayNumber(), 1U);
   EXPECT_EQ(machine.counters.droppedEvents, 1);
   EXPECT_EQ(positions.size(), 1U);
@@ -166,7 +163,7 @@ TEST_F(MouseTest, APostedEventRunsThroughTheTapsAndMovesNoPointer) {
   EXPECT_EQ(out->x, 5000);
   EXPECT_EQ(out->y, 78);
   EXPECT_EQ(script.seen[0].flags, kCGEventFlagMaskControl);
-  EXPECT_EQ(machine.pointer.place().y, 0);
+  EXPECT_EQ(machine.pointer.location().y, 0);
   EXPECT_TRUE(positions.empty());
   script.drops = true;
   EXPECT_EQ(machine.mouse.post({1, 1}, 0), std::nullopt);

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "desk/machine/Pointer.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -35,10 +35,8 @@ rc::Gen<std::vector<Frame>> genFrames() {
 void attachAll(Displays& displays, const std::vector<Frame>& frames) {
   std::uint32_t number = 1;
   for (const Frame& frame : frames) {
-    Display display;
-    display.number = number++;
-    display.frame = CGRectMake(frame.x, frame.y, frame.width, frame.height);
-    RC_ASSERT(!displays.attach(display));
+    RC_ASSERT(!displays.attach(
+        displayOf(number++, "", CGRectMake(frame.x, frame.y, frame.width, frame.height))));
   }
 }
 
@@ -81,9 +79,9 @@ RC_GTEST_PROP(PointerProperty, EndsAtTheGoalOrNearestToItOnTheDisplayItCameFrom,
         [&goalX = x, &goalY = y](const CGRect& frame) { return holds(frame, goalX, goalY); });
     pointer.settle(CGPointMake(x, y));
     const CGPoint expected = isReached ? CGPointMake(x, y) : nearestBySearch(from, x, y);
-    RC_ASSERT(pointer.place().x == expected.x);
-    RC_ASSERT(pointer.place().y == expected.y);
-    RC_ASSERT(CGRectContainsPoint(frames[*pointer.displayIndex()], pointer.place()));
+    RC_ASSERT(pointer.location().x == expected.x);
+    RC_ASSERT(pointer.location().y == expected.y);
+    RC_ASSERT(CGRectContainsPoint(frames[*pointer.displayIndex()], pointer.location()));
   }
 }
 
@@ -93,7 +91,7 @@ RC_GTEST_PROP(PointerProperty, IsOnADisplayAfterEveryChangeAndMovesNoFartherThan
   Pointer pointer(displays);
   pointer.displaysChanged();
   pointer.settle(CGPointMake(*rc::gen::inRange(-20, 21), *rc::gen::inRange(-20, 21)));
-  const CGPoint before = pointer.place();
+  const CGPoint before = pointer.location();
 
   std::vector<std::uint32_t> numbers;
   for (const Display& display : displays.all()) {
@@ -110,7 +108,7 @@ RC_GTEST_PROP(PointerProperty, IsOnADisplayAfterEveryChangeAndMovesNoFartherThan
   }
   pointer.displaysChanged();
 
-  const CGPoint after = pointer.place();
+  const CGPoint after = pointer.location();
   RC_ASSERT(pointer.displayIndex().has_value());
   RC_ASSERT(CGRectContainsPoint(displays.globalFrames()[*pointer.displayIndex()], after));
   const auto distanceTo = [&before](CGPoint place) {

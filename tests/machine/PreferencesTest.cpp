@@ -64,14 +64,5 @@ TEST(PreferencesTest, AnotherProcessSeesAfresh) {
   EXPECT_EQ(preferences.seen("dock", "edge"), text("left"));
 }
 
-TEST(PreferencesTest, ReportEachChange) {
-  Preferences preferences;
-  int changes = 0;
-  preferences.onChange([&changes] { ++changes; });
-  preferences.set({"dock"}, "edge", text("left"));
-  preferences.remove({"dock"}, "edge");
-  EXPECT_EQ(changes, 2);
-}
-
 }  // namespace
 }  // namespace orvane::desk

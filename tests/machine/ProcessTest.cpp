@@ -12,6 +12,7 @@
 #include "Orvane/platform/appkit/UserDefaults.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/machine/Process.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -34,35 +35,17 @@ TEST_F(ProcessTest, AMachineStartsWithoutAProcess) {
   EXPECT_EQ(runs, 0);
 }
 
-TEST_F(ProcessTest, PendingTasksAndTimersEndWithItUnrun) {
-  machine.process.start();
-  const auto held = std::make_shared<int>(0);
-  appkit::MainQueue::async([held] { ++*held; });
-  appkit::MainQueue::asyncAfter(1, [held] { ++*held; });
-  const appkit::Timer timer =
-      appkit::Timer::repeating(1, appkit::RunLoopMode::common, [held] { ++*held; });
-  machine.process.end();
-  EXPECT_EQ(held.use_count(), 1);
-  EXPECT_FALSE(timer.isValid());
-  machine.process.start();
-  machine.advance(5);
-  EXPECT_EQ(*held, 0);
-}
-
 TEST_F(ProcessTest, ObserversEndWithItAndAProcessThatDoesNotRunReceivesNothing) {
   machine.process.start();
   int heard = 0;
   const auto token = appkit::NotificationCenter::addObserver(
       appkit::NotificationName::applicationDidChangeScreenParameters, [&heard] { ++heard; });
-  Display display;
-  display.number = 1;
-  display.frame = CGRectMake(0, 0, 100, 100);
-  ASSERT_FALSE(machine.displays.attach(display));
+  attach(machine, laptop());
   EXPECT_EQ(heard, 1);
   machine.process.end();
-  ASSERT_FALSE(machine.displays.detach(1));
+  detach(machine, 1);
   machine.process.start();
-  ASSERT_FALSE(machine.displays.attach(display));
+  attach(machine, laptop());
   EXPECT_EQ(heard, 1);
   appkit::NotificationCenter::removeObserver(token);
 }
@@ -105,18 +88,6 @@ TEST_F(ProcessTest, ItsSharedObjectsEndWithItAndTheirLastPostsAreDropped) {
   machine.advance(1);
   EXPECT_EQ(machine.userDefaults.values(),
             (UserDefaultsStore::Values{{"kept", PropertyValue(true)}}));
-}
-
-TEST_F(ProcessTest, DefaultsPermissionAndLoginItemOutliveIt) {
-  machine.process.start();
-  machine.permission.setTrusted(true);
-  appkit::UserDefaults::setString("key", "value");
-  machine.loginItem.registerApplication();
-  machine.process.end();
-  machine.process.start();
-  EXPECT_EQ(appkit::UserDefaults::string("key"), "value");
-  EXPECT_TRUE(machine.permission.isTrusted());
-  EXPECT_EQ(machine.loginItem.status, appkit::LoginItem::Status::enabled);
 }
 
 TEST_F(ProcessTest, TheActivationPolicyIsANewProcessesOwn) {

@@ -30,14 +30,6 @@ class RunLoopTest : public testing::Test {
   using Log = std::vector<std::string>;
 };
 
-TEST_F(RunLoopTest, RunsTasksInTheOrderTheyCame) {
-  runLoop.async(note("a"));
-  runLoop.async(note("b"));
-  EXPECT_TRUE(log.empty());
-  runLoop.runDue();
-  EXPECT_EQ(log, (Log{"a@0", "b@0"}));
-}
-
 TEST_F(RunLoopTest, ATaskThatComesWhileAnotherRunsWaitsForItsEnd) {
   runLoop.async([this] {
     runLoop.async(note("inner"));
@@ -48,27 +40,6 @@ TEST_F(RunLoopTest, ATaskThatComesWhileAnotherRunsWaitsForItsEnd) {
   runLoop.runDue();
   EXPECT_EQ(log, (Log{"outer@0", "inner@0"}));
   EXPECT_EQ(clock.now(), 0);
-}
-
-TEST_F(RunLoopTest, ServesDelayedTasksAtTheirDueTimes) {
-  runLoop.asyncAfter(2 * second, note("late"));
-  runLoop.asyncAfter(second, note("early"));
-  runLoop.advance(second - 1);
-  EXPECT_TRUE(log.empty());
-  runLoop.advance(1);
-  EXPECT_EQ(log, (Log{"early@1000"}));
-  runLoop.advance(5 * second);
-  EXPECT_EQ(log, (Log{"early@1000", "late@2000"}));
-  EXPECT_EQ(clock.now(), 6 * second);
-}
-
-TEST_F(RunLoopTest, ServesEqualDueTimesInTheOrderTheyWereAskedFor) {
-  const auto timer = runLoop.addTimer(second, RunLoop::commonModes, note("timer"));
-  runLoop.asyncAfter(second, note("task"));
-  const auto second_ = runLoop.addTimer(second, RunLoop::commonModes, note("second timer"));
-  runLoop.advance(2 * second);
-  EXPECT_EQ(log, (Log{"timer@1000", "task@1000", "second timer@1000", "timer@2000",
-                      "second timer@2000"}));
 }
 
 TEST_F(RunLoopTest, AZeroOrNegativeDelayIsServedAtOnce) {
@@ -87,40 +58,6 @@ TEST_F(RunLoopTest, ATaskThatIsNeverDueDoesNotMoveTime) {
   EXPECT_EQ(runLoop.nextDue(), std::nullopt);
 }
 
-TEST_F(RunLoopTest, ATimerKeepsItsGrid) {
-  const auto timer = runLoop.addTimer(300 * millisecond, RunLoop::commonModes, note("tick"));
-  runLoop.advance(second);
-  EXPECT_EQ(log, (Log{"tick@300", "tick@600", "tick@900"}));
-}
-
-TEST_F(RunLoopTest, ATimerOfTheStandardModeWaitsWhileAMenuIsOpen) {
-  const auto timer = runLoop.addTimer(second, standardMode, note("standard"));
-  const auto common = runLoop.addTimer(second, RunLoop::commonModes, note("common"));
-  runLoop.enterMode(RunLoop::Mode::eventTracking);
-  runLoop.advance(2 * second);
-  EXPECT_EQ(log, (Log{"common@1000", "common@2000"}));
-}
-
-TEST_F(RunLoopTest, ALateTimerFiresOnceAndReturnsToItsGrid) {
-  const auto timer = runLoop.addTimer(second, standardMode, note("tick"));
-  runLoop.enterMode(RunLoop::Mode::modalPanel);
-  runLoop.advance(3500 * millisecond);
-  runLoop.leaveMode();
-  runLoop.runDue();
-  EXPECT_EQ(log, (Log{"tick@3500"}));
-  runLoop.advance(second);
-  EXPECT_EQ(log, (Log{"tick@3500", "tick@4000"}));
-}
-
-TEST_F(RunLoopTest, ATimerThatIsLateByWholeIntervalsFiresNextInTheFuture) {
-  const auto timer = runLoop.addTimer(second, standardMode, note("tick"));
-  runLoop.enterMode(RunLoop::Mode::eventTracking);
-  runLoop.advance(3 * second);
-  runLoop.leaveMode();
-  runLoop.advance(second);
-  EXPECT_EQ(log, (Log{"tick@3000", "tick@4000"}));
-}
-
 TEST_F(RunLoopTest, ModesNest) {
   runLoop.enterMode(RunLoop::Mode::modalPanel);
   runLoop.enterMode(RunLoop::Mode::eventTracking);
@@ -130,13 +67,6 @@ TEST_F(RunLoopTest, ModesNest) {
   runLoop.leaveMode();
   runLoop.leaveMode();
   EXPECT_EQ(runLoop.mode(), RunLoop::Mode::standard);
-}
-
-TEST_F(RunLoopTest, TheMainQueueIsServedInEveryMode) {
-  runLoop.enterMode(RunLoop::Mode::eventTracking);
-  runLoop.async(note("task"));
-  runLoop.runDue();
-  EXPECT_EQ(log, (Log{"task@0"}));
 }
 
 TEST_F(RunLoopTest, AHeldMainQueueDeliversNothingWhileTimersGoOn) {

@@ -6,22 +6,6 @@
 namespace orvane::desk {
 namespace {
 
-TEST(UserDefaultsStoreTest, KeepsValuesOfEachTypeInTheOrderOfTheirKeys) {
-  UserDefaultsStore store;
-  store.set("b", std::string("text"));
-  store.set("c", 1.5);
-  store.set("a", true);
-  std::string keys;
-  for (const auto& [key, value] : store.values()) {
-    keys += key;
-  }
-  EXPECT_EQ(keys, "abc");
-  EXPECT_EQ(store.value("a"), PropertyValue(true));
-  EXPECT_EQ(store.value("b"), PropertyValue(std::string("text")));
-  EXPECT_EQ(store.value("c"), PropertyValue(1.5));
-  EXPECT_EQ(store.value("d"), std::nullopt);
-}
-
 TEST(UserDefaultsStoreTest, CountsWritesOfEachKey) {
   UserDefaultsStore store;
   store.set("a", true);

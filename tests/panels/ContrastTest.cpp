@@ -46,7 +46,7 @@ class ContrastTest : public PanelFixture {
     EXPECT_FALSE(machine.displays.detach(2));
     EXPECT_FALSE(machine.displays.setFrame(1, CGRectMake(0, 0, 720, 620)));
     attach(2, CGRectMake(720, 0, 80, 620), "Side", false);
-    machine.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, true);
+    desk::Dock::store(machine.preferences, desk::Dock::autoHideKey, true);
     machine.advance(2);
   }
 

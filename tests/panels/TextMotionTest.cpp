@@ -247,10 +247,10 @@ TEST_P(TextMotionTest, OfDisplaysThatComeAndGo) {
   }
   follow("another is the main one", [&] { EXPECT_FALSE(machine.displays.setMain(5)); });
   follow("the target goes as another comes", [&] {
-    EXPECT_FALSE(machine.displays.beginTogether());
+    EXPECT_FALSE(machine.displays.beginChanges());
     EXPECT_FALSE(machine.displays.detach(3));
     attach(9, CGRectMake(0, 2000, 1440, 900), "LG", false);
-    EXPECT_FALSE(machine.displays.endTogether());
+    EXPECT_FALSE(machine.displays.endChanges());
   });
   while (!machine.displays.isEmpty()) {
     go(machine.displays.all().front().number);

@@ -78,7 +78,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, OnANarrowerScreenItKeepsItsDis
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, OnAScreenTooSmallForItTheUpperLimitWins) {
   haveDisplay(CGRectMake(0, 0, 390, 520));
-  machine.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, true);
+  desk::Dock::store(machine.preferences, desk::Dock::autoHideKey, true);
   show();
   expectOrigin(390 - 360 - 20, 520 - 24 - 500 - 20);
 }

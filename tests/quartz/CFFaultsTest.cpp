@@ -18,13 +18,6 @@ class CFFaultsTest : public MachineFixture {
   }
 };
 
-TEST_F(CFFaultsTest, ReleasingTwiceIsOne) {
-  const CFStringRef string = make("a");
-  CFRelease(string);
-  CFRelease(string);
-  EXPECT_EQ(machine.faults.take(), (Texts{"CFRelease: CFString \"a\" was already released"}));
-}
-
 TEST_F(CFFaultsTest, UsingAfterTheReleaseIsOne) {
   const CFStringRef string = make("a");
   CFRelease(string);

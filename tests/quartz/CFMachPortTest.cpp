@@ -101,13 +101,6 @@ TEST_F(CFMachPortTest, InvalidatingThePortEndsTheTapAndItsSources) {
   removeSource(source);
 }
 
-TEST_F(CFMachPortTest, ReleasingThePortEndsTheTap) {
-  auto port = makeTap();
-  EXPECT_EQ(machine.eventTaps.aliveCount(), 1U);
-  port.reset();
-  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
-}
-
 TEST_F(CFMachPortTest, TheLossOfThePermissionKillsTheTapForGood) {
   const auto port = makeTap();
   const auto source = makeSource(port);

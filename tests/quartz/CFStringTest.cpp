@@ -19,13 +19,5 @@ TEST_F(CFStringTest, AConstantIsOneObjectWhateverTheMachineAndNeverCounted) {
   EXPECT_EQ(machine.objects.liveCount(), 0U);
 }
 
-TEST_F(CFStringTest, ACreatedStringIsCountedUntilItIsReleased) {
-  const CFStringRef string =
-      CFStringCreateWithCString(kCFAllocatorDefault, "text", kCFStringEncodingUTF8);
-  EXPECT_EQ(machine.objects.liveCount(ObjectKind::string), 1U);
-  CFRelease(string);
-  EXPECT_EQ(machine.objects.liveCount(), 0U);
-}
-
 }  // namespace
 }  // namespace orvane::desk

@@ -14,8 +14,8 @@
 #include "Orvane/ui/views/Image.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
-#include "desk/settings/SystemSettings.hpp"
 #include "showroom/hardware/HardwarePanelHost.hpp"
+#include "showroom/settings/SettingsPages.hpp"
 #include "tests/support/ApplicationFixture.hpp"
 #include "tests/support/TestDisplays.hpp"
 
@@ -67,12 +67,12 @@ class SurfaceLabelsTest : public ApplicationFixture,
 
   void lookAtSystemSettings() {
     SystemSettings& settings = application.systemSettings();
-    for (const SettingsPage page :
-         {SettingsPage::general, SettingsPage::displays, SettingsPage::desktopAndDock,
-          SettingsPage::privacy, SettingsPage::accessibility}) {
-      settings.open(page);
+    showroom::addSettingsPages(settings);
+    for (const SettingsPage& page : settings.pages()) {
+      settings.open(page.name);
       look();
     }
+    settings.open(SystemSettings::accessibilityPage);
     settings.beginChoosing();
     look();
   }

@@ -19,16 +19,6 @@ struct Line {
   LexedLine lexed_;
 };
 
-TEST(ArgumentsTest, ReadsPositionalWordsInOrder) {
-  const Line line("7 -2.5 \"a b\"");
-  Arguments arguments = line.arguments();
-  EXPECT_EQ(arguments.displayNumber("N"), 7U);
-  EXPECT_EQ(arguments.coordinate("X"), -2.5);
-  EXPECT_EQ(arguments.text("TEXT"), "a b");
-  EXPECT_TRUE(arguments.isEmpty());
-  EXPECT_FALSE(arguments.finish());
-}
-
 TEST(ArgumentsTest, ReadsOptionsAndFlagsWhereverTheyStand) {
   const Line line("main name=\"a=b\" 3 frame=0,-1.5,1920,1080");
   Arguments arguments = line.arguments();
@@ -49,20 +39,6 @@ TEST(ArgumentsTest, KeepsTheFirstMistake) {
   arguments.report("something later");
   EXPECT_TRUE(arguments.isWrong());
   EXPECT_EQ(arguments.finish(), "X must be a decimal number, not \"x\"");
-}
-
-TEST(ArgumentsTest, ComplainsAboutWhatIsMissing) {
-  const Line line("");
-  Arguments arguments = line.arguments();
-  EXPECT_EQ(arguments.text("THING"), "");
-  EXPECT_EQ(arguments.finish(), "THING is missing");
-}
-
-TEST(ArgumentsTest, ComplainsAboutWhatNobodyRead) {
-  const Line line("1 color=blue");
-  Arguments arguments = line.arguments();
-  EXPECT_EQ(arguments.displayNumber("N"), 1U);
-  EXPECT_EQ(arguments.finish(), "unexpected \"color=blue\"");
 }
 
 TEST(ArgumentsTest, ComplainsAboutTheSecondOfTwoEqualOptions) {
@@ -98,34 +74,12 @@ TEST(ArgumentsTest, ComplainsAboutNumbersOutOfRange) {
   EXPECT_EQ(problem("soon", seconds), "S must be a decimal number of seconds, not \"soon\"");
 }
 
-TEST(ArgumentsTest, ComplainsAboutRectanglesThatAreNone) {
-  const auto problem = [](const std::string& word) {
-    const Line line(word);
-    Arguments arguments = line.arguments();
-    arguments.rectangleOption("frame");
-    return arguments.finish().value_or("");
-  };
-  EXPECT_EQ(problem("frame=1,2,3"), "frame must be X,Y,W,H, not \"1,2,3\"");
-  EXPECT_EQ(problem("frame="), "frame must be X,Y,W,H, not \"\"");
-  EXPECT_EQ(problem("frame=1,2,3,x"), "frame must be a decimal number, not \"x\"");
-  EXPECT_EQ(problem("frame=1,,3,4"), "frame must be a decimal number, not \"\"");
-  EXPECT_EQ(problem("from=1,2,3,4"), "frame=X,Y,W,H is missing");
-}
-
 TEST(ArgumentsTest, ShowsOnlyTheBeginningOfALongWord) {
   const Line line("a" + std::string(40, 'b') + "显示器显示器显示器显示器");
   Arguments arguments = line.arguments();
   EXPECT_EQ(arguments.number("X"), 0);
   EXPECT_EQ(arguments.finish(),
             "X must be a decimal number, not \"a" + std::string(40, 'b') + "显示器显示器...\"");
-}
-
-TEST(ArgumentsTest, HandsOutTheRestAsItIsWritten) {
-  const Line line("path {\"a\": [1, \"#\"]}   # why");
-  Arguments arguments = line.arguments();
-  EXPECT_EQ(arguments.text("PATH"), "path");
-  EXPECT_EQ(arguments.restAsWritten("VALUE"), "{\"a\": [1, \"#\"]}");
-  EXPECT_FALSE(arguments.finish());
 }
 
 TEST(ArgumentsTest, CutsAtEveryComma) {

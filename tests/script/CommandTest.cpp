@@ -49,40 +49,6 @@ TEST(CommandTest, ChangesMadeTogetherAreOneChange) {
             "");
 }
 
-TEST(CommandTest, ADisplayMayHideItsNumber) {
-  EXPECT_EQ(failuresOf("display attach 1 frame=0,0,800,600 nonumber\n"
-                       "expect displays.0.name \"Unknown Display\"\n"
-                       "expect displays.0.matchingIdentifiers.# 1\n"),
-            "");
-}
-
-TEST(CommandTest, TheDockIsWhereItsPreferencesPutIt) {
-  EXPECT_EQ(failuresOf(twoDisplays +
-                       "dock edge right\nexpect dock.edge \"right\"\ndock edge number\n"
-                       "expect dock.edge \"bottom\"\ndock edge left\nexpect dock.edge \"left\"\n"
-                       "dock edge missing\nexpect dock.edge \"bottom\"\n"
-                       "dock edge LEFT\nexpect dock.edge \"bottom\"\n"
-                       "dock autohide on\nexpect dock.autohide true\nexpect dock.visible false\n"
-                       "dock autohide off\nexpect dock.visible true\n"),
-            "");
-}
-
-TEST(CommandTest, TrustAndTapsAreGivenAndTaken) {
-  EXPECT_EQ(
-      failuresOf(pinned + "expect guard.taps 1\ntrust off\nexpect guard.taps 0\ntrust on\n"
-                          "expect guard.taps 1\ntaps refuse\ndo toggleSelectedDisplayLock\n"
-                          "do toggleSelectedDisplayLock\nexpect guard.running false\ntaps allow\n"
-                          "do toggleSelectedDisplayLock\nexpect guard.running true\n"),
-      "");
-}
-
-TEST(CommandTest, ADisabledTapIsToldSo) {
-  const std::string deliveries = "expect counters.tapDeliveries ";
-  EXPECT_EQ(failuresOf(pinned + deliveries + "0\ntap disabled timeout\n" + deliveries +
-                       "1\ntap disabled userinput\n" + deliveries + "2\n"),
-            "");
-}
-
 TEST(CommandTest, TheLocaleIsSetInPartsOrWhole) {
   EXPECT_EQ(failuresOf("display attach 3 frame=0,0,800,600\nlocale preferred=fr-FR,zh_TW\n"
                        "expect displays.0.name \"顯示器 3\"\nlocale preferred=fr-FR\n"
@@ -116,16 +82,6 @@ TEST(CommandTest, TheLoginItemTakesEveryStateAndFails) {
       "");
 }
 
-TEST(CommandTest, TheCursorIsHeldUntilItIsFree) {
-  ScriptBench bench;
-  const Mouse& mouse = bench.session.machine().mouse;
-  EXPECT_EQ(mouse.cursor(), Mouse::Cursor::held);
-  EXPECT_EQ(bench.interpreter.run("cursor free"), std::nullopt);
-  EXPECT_EQ(mouse.cursor(), Mouse::Cursor::free);
-  EXPECT_EQ(bench.interpreter.run("cursor held"), std::nullopt);
-  EXPECT_EQ(mouse.cursor(), Mouse::Cursor::held);
-}
-
 TEST(CommandTest, LooksAreRemembered) {
   ScriptBench bench;
   const Appearance& appearance = bench.session.machine().appearance;
@@ -150,14 +106,6 @@ TEST(CommandTest, LooksAreRemembered) {
   EXPECT_FALSE(appearance.increasesContrast);
 }
 
-TEST(CommandTest, TheApplicationStartsAndEnds) {
-  EXPECT_EQ(failuresOf(pinned + "reopen\nlaunch\nexpect guard.running true\nterminate\n"
-                                "expect guard.running false\nexpect guard.taps 0\nlaunch\n"
-                                "expect guard.running true\ncrash\nexpect guard.taps 0\n"
-                                "expect defaults.isOrvaneEnabled true\n"),
-            "");
-}
-
 TEST(CommandTest, EveryOperationOfTheModelCanBeCalled) {
   EXPECT_EQ(
       failuresOf(pinned +
@@ -172,16 +120,6 @@ TEST(CommandTest, EveryOperationOfTheModelCanBeCalled) {
                  "do openAccessibilitySettings\ndo openPrivacyPolicy\ndo openSupportEmail\n"
                  "expect opened.# 3\nterminate\nlaunch\ndo restoreLockIfNeeded\n"
                  "expect guard.taps 1\n"),
-      "");
-}
-
-TEST(CommandTest, KeysAreHeldUntilTheyAreReleased) {
-  EXPECT_EQ(
-      failuresOf(pinned +
-                 "hold shift option\nmove 9 9\nexpect guard.isTemporarilyUnlocked true\n"
-                 "move 10 10\nexpect guard.isTemporarilyUnlocked true\nhold shift\nmove 9 9\n"
-                 "expect guard.isTemporarilyUnlocked false\nhold option\nmove 10 10\nrelease\n"
-                 "move 9 9\nexpect guard.isTemporarilyUnlocked false\n"),
       "");
 }
 

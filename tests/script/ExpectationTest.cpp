@@ -71,13 +71,6 @@ TEST(ExpectationTest, ComparesValuesAndNotTheirWriting) {
   EXPECT_FALSE(isSameJson(*parseJson("\"1\""), *parseJson("1")));
 }
 
-TEST(ExpectationTest, HoldsSilently) {
-  const ScriptRun run =
-      runScript("expect clock.media 1000\nexpect opened []\nexpect defaults {}\n");
-  EXPECT_EQ(run.status, ScriptProgram::held);
-  EXPECT_EQ(run.output + run.errors, "");
-}
-
 TEST(ExpectationTest, ReportsEachFailureAndGoesOn) {
   const ScriptRun run = runScript(
       "expect clock.media 1000.5   # not yet\n"

@@ -63,22 +63,14 @@ TEST(ProblemTest, TellsWhatIsWrongWithWords) {
 
 TEST(ProblemTest, TellsWhatIsWrongWithNumbers) {
   expectProblems({{"move nan 1", "move: X must be a decimal number, not \"nan\""},
-                  {"move 1 inf", "move: Y must be a decimal number, not \"inf\""},
-                  {"move 1e5 1", "move: X must be a decimal number, not \"1e5\""},
                   {"move 99999999999 1", "move: X is too large"},
                   {"push 1 1 times -1", "push: N must be a whole number from 0"},
                   {"push 1 1 times 1.5", "push: N must be a whole number from 0"},
-                  {"push 1 1 times 99999999999999999999", "push: N must be"},
                   {"push 1 1 times", "push: N is missing"},
-                  {"push 1 1 every", "push: S is missing"},
                   {"push 1 1 every -1", "push: S must be from 0 to 3000000000 seconds"},
                   {"push 1 1 times 1000000000 every 1000", "push: that would take longer"},
                   {"push 1 1 3", "push: unexpected \"3\""},
-                  {"burst 9999999999 1 1", "burst: N must be a whole number from 0"},
-                  {"burst 1 1", "burst: Y is missing"},
-                  {"advance", "advance: S is missing"},
                   {"advance -1", "advance: S must be from 0 to 3000000000 seconds"},
-                  {"advance 3000000001", "advance: S must be from 0 to"},
                   {"advance 1e3", "advance: S must be a decimal number of seconds"}});
 }
 
@@ -87,47 +79,35 @@ TEST(ProblemTest, TellsWhatIsWrongWithDisplays) {
       {{"display attach 1", "display attach: frame=X,Y,W,H is missing"},
        {"display attach frame=0,0,1,1", "display attach: N is missing"},
        {"display attach one frame=0,0,1,1", "display attach: N must be a whole number"},
-       {"display attach -1 frame=0,0,1,1", "display attach: N must be a whole number"},
        {"display attach 1 frame=0,0,1", "display attach: frame must be X,Y,W,H"},
        {"display attach 1 frame=0,0,x,1", "display attach: frame must be a decimal number"},
        {"display attach 1 frame=0,0,0,1", "display attach: the frame of a display must not"},
-       {"display attach 1 frame=0,0,-5,1", "display attach: the frame of a display must not"},
        {"display attach 1 frame=0,0,1,1 uuid=", "display attach: uuid must not be empty"},
-       {"display attach 1 frame=0,0,1,1 bits=x", "display attach: bits must be"},
        {"display attach 1 frame=0,0,1,1 bits=9999", "display attach: bits must be"},
        {"display attach 1 frame=0,0,1,1 size=3", "display attach: unexpected \"size=3\""},
        {"display detach 1", "display detach: there is no display 1"},
        {"display frame 1 0,0,1,1", "display frame: there is no display 1"},
        {"display renumber 1 2", "display renumber: there is no display 1"},
        {"display main 7", "display main: there is no display 7"},
-       {"display done", "display done: no changes are being made together"}});
+       {"display done", "display done: no group of changes is open"}});
 }
 
 TEST(ProblemTest, TellsWhatIsWrongWithSystem) {
   expectProblems({{"trust maybe", "trust: on|off must be one of off, on, not \"maybe\""},
-                  {"taps on", "taps: allow|refuse must be one of allow, refuse"},
                   {"tap disabled", "tap disabled: timeout|userinput|silently|forgood is missing"},
                   {"dock edge", "dock edge: VALUE is missing"},
                   {"dock edge left right", "dock edge: unexpected \"right\""},
-                  {"dock autohide", "dock autohide: on|off is missing"},
                   {"locale", "locale: preferred=A,B,... or current=C is missing"},
                   {"locale region=x current=y", "locale: unexpected \"region=x\""},
                   {"defaults set a text b", "defaults set: the type must be one of"},
                   {"defaults set a bool maybe", "defaults set: VALUE must be one of"},
                   {"defaults set a number x", "defaults set: VALUE must be a decimal number"},
                   {"defaults set a string", "defaults set: VALUE is missing"},
-                  {"defaults remove", "defaults remove: KEY is missing"},
-                  {"login status on", "login status: the status must be one of"},
                   {"login error", "login error: \"TEXT\"|none is missing"},
-                  {"links refuse", "links refuse: PREFIX is missing"},
-                  {"appearance blue", "appearance: light|dark must be one of"},
                   {"accent 1,2", "accent: B is missing"},
                   {"accent 1,2,3,4", "accent: unexpected \"4\""},
                   {"accent 1,2,256", "accent: B must be a whole number from 0 to 255"},
-                  {"wallpaper green", "wallpaper: the wallpaper must be one of"},
-                  {"motion none", "motion: reduced|full must be one of"},
-                  {"transparency none", "transparency: reduced|full must be one of"},
-                  {"contrast high", "contrast: increased|normal must be one of"}});
+                  {"wallpaper green", "wallpaper: the wallpaper must be one of"}});
 }
 
 TEST(ProblemTest, TellsWhatIsWrongWithApplication) {
@@ -141,16 +121,13 @@ TEST(ProblemTest, TellsWhatIsWrongWithApplication) {
                   {"do fly", "do: there is no operation \"fly\", only appLanguage, "},
                   {"launch\ndo toggleLock now", "do: unexpected \"now\""},
                   {"launch\ndo selectDisplay", "do: \"ID\" is missing"},
-                  {"launch\ndo appLanguage french", "do: the value must be one of system, "},
-                  {"launch\ndo hidesDockOnAllDisplays", "do: on|off is missing"},
-                  {"launch now", "launch: unexpected \"now\""}});
+                  {"launch\ndo appLanguage french", "do: the value must be one of system, "}});
 }
 
 TEST(ProblemTest, TellsWhatIsWrongWithLooking) {
   expectProblems(
       {{"show", "show: THING is missing"},
        {"show weather", "show: there is no \"weather\" to look at, only announcements, clock, "},
-       {"show dock edge", "show: unexpected \"edge\""},
        {"find", "find: \"IDENTIFIER\" is missing"},
        {"expect clock.now", "expect: VALUE is missing"},
        {"expect clock.now soon", "expect: VALUE is not JSON: soon"},
@@ -158,13 +135,11 @@ TEST(ProblemTest, TellsWhatIsWrongWithLooking) {
        {"expect weather.now 1", "expect: there is no \"weather\" to look at"},
        {"hold", "hold: KEY is missing"},
        {"cursor", "cursor: held|free is missing"},
-       {"cursor loose", "cursor: held|free must be one of held, free"},
        {"hold fn", "hold: KEY must be one of option, control, shift, command"},
        {"event 1 1 fn", "event: KEY must be one of"},
        {"picture", "picture: FILE is missing"},
        {"picture a scale", "picture: S is missing"},
        {"picture a scale 0", "picture: the scale must be greater than 0"},
-       {"picture a scale 17", "picture: the scale must be greater than 0"},
        {"picture a main big", "picture: unexpected \"big\""},
        {"picture a", "picture: no pictures can be drawn here"}});
 }

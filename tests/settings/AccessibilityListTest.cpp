@@ -25,23 +25,6 @@ TEST_F(AccessibilityListTest, AskingForThePermissionBringsOrvaneIntoTheList) {
   EXPECT_EQ(names(), "Orvane off, Remote Help on, Text Macros off");
 }
 
-TEST_F(AccessibilityListTest, SwitchingOrvaneOnIsGrantingAndOffIsRevoking) {
-  AXIsProcessTrusted();
-  list.setAllowed("Orvane", true);
-  EXPECT_TRUE(AXIsProcessTrusted());
-  EXPECT_EQ(names(), "Orvane on, Remote Help on, Text Macros off");
-  list.setAllowed("Orvane", false);
-  EXPECT_FALSE(AXIsProcessTrusted());
-}
-
-TEST_F(AccessibilityListTest, RevokingKillsTheTaps) {
-  bool wasLost = false;
-  machine.permission.onChange([&] { wasLost = !machine.permission.isTrusted(); });
-  list.add("Orvane");
-  list.setAllowed("Orvane", false);
-  EXPECT_TRUE(wasLost);
-}
-
 TEST_F(AccessibilityListTest, WhoIsTakenOutLosesThePermissionAndDoesNotComeBackByAsking) {
   list.add("Orvane");
   list.remove("Orvane");

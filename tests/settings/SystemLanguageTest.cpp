@@ -21,10 +21,5 @@ TEST(SystemLanguageTest, WithoutEitherItIsEnglish) {
   EXPECT_FALSE(isChinese({"fr-FR", "zhx"}));
 }
 
-TEST(SystemLanguageTest, ATextIsChosenByIt) {
-  EXPECT_EQ(SystemLanguage::of({{"zh"}, ""}).text("Back", "返回"), "返回");
-  EXPECT_EQ(SystemLanguage::of({{"en"}, ""}).text("Back", "返回"), "Back");
-}
-
 }  // namespace
 }  // namespace orvane::desk

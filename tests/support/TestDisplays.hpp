@@ -64,7 +64,7 @@ inline Preferences::Domain dockDomain() {
 }
 
 inline void setDockOrientation(Machine& machine, PropertyValue value) {
-  machine.preferences.set(dockDomain(), Dock::orientationKey, std::move(value));
+  Dock::store(machine.preferences, Dock::orientationKey, std::move(value));
 }
 
 }  // namespace orvane::desk

@@ -64,8 +64,8 @@ TEST_F(TourStageTest, SaysWhenAPictureCannotBeWritten) {
 TEST_F(TourStageTest, WalksBySmallMovementsThatTakeTime) {
   const std::int64_t movements = stage.machine().counters.hardwareMovements;
   stage.walkTo({1500, 300});
-  EXPECT_NEAR(stage.machine().pointer.place().x, 1500, 1e-6);
-  EXPECT_NEAR(stage.machine().pointer.place().y, 300, 1e-6);
+  EXPECT_NEAR(stage.machine().pointer.location().x, 1500, 1e-6);
+  EXPECT_NEAR(stage.machine().pointer.location().y, 300, 1e-6);
   EXPECT_EQ(stage.machine().counters.hardwareMovements - movements, 25);
   EXPECT_EQ(stage.machine().clock.now(), desk::Clock::nanosecondsPerSecond / 2);
 }

@@ -44,7 +44,7 @@ TEST_F(DeskSessionTest, MarksAMovementThatWasMovedBackForAShortTime) {
   ASSERT_TRUE(session.movedBack());
   EXPECT_DOUBLE_EQ(session.movedBack()->from.x, 1503);
   EXPECT_GE(session.movedBack()->from.y, 639);
-  EXPECT_DOUBLE_EQ(session.movedBack()->to.y, session.machine().pointer.place().y);
+  EXPECT_DOUBLE_EQ(session.movedBack()->to.y, session.machine().pointer.location().y);
   EXPECT_DOUBLE_EQ(session.movedBack()->strength, 1);
   EXPECT_EQ(session.nanosecondsToNextChange(), 0);
   session.advance(DeskSession::markNanoseconds / 2);
@@ -59,7 +59,7 @@ TEST_F(DeskSessionTest, MarksWhereTheMovementOfAFreeCursorWasMovedBackTo) {
   moveTo(1500, 600);
   session.movePointerBy(0, 600);
   ASSERT_TRUE(session.movedBack());
-  EXPECT_DOUBLE_EQ(session.movedBack()->from.y, session.machine().pointer.place().y);
+  EXPECT_DOUBLE_EQ(session.movedBack()->from.y, session.machine().pointer.location().y);
   EXPECT_DOUBLE_EQ(session.movedBack()->to.y, session.movedBack()->from.y - 12);
 }
 

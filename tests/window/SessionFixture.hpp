@@ -13,7 +13,7 @@ class SessionFixture : public testing::Test {
 
   /// Brings the pointer there by one movement of the hand.
   void moveTo(double x, double y) {
-    const CGPoint place = session.machine().pointer.place();
+    const CGPoint place = session.machine().pointer.location();
     session.movePointerBy(x - place.x, y - place.y);
   }
   /// Presses so often against the lower edge of the display on the right.

@@ -48,14 +48,5 @@ TEST_F(FileDragTest, ElsewhereNothingHappens) {
   EXPECT_TRUE(dropped.empty());
 }
 
-TEST_F(FileDragTest, PressingTheSourceDoesNotMoveItsWindow) {
-  press({100, 750});
-  moveTo({101, 750});
-  EXPECT_FALSE(server().pointer.fileDrag().has_value());
-  moveTo({140, 760});
-  release();
-  EXPECT_EQ(source.frame().origin.x, 0);
-}
-
 }  // namespace
 }  // namespace orvane::desk

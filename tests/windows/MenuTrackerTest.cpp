@@ -80,18 +80,6 @@ TEST_F(MenuTrackerTest, TheWillOpenCallbackMayFillTheMenu) {
   EXPECT_EQ(Surfaces(server()).controls("menu").front().node.label, "Fresh");
 }
 
-TEST_F(MenuTrackerTest, WhileItIsOpenStandardTimersWait) {
-  add(row("Row", [] {}));
-  int ticks = 0;
-  const auto timer = appkit::Timer::repeating(1, appkit::RunLoopMode::standard, [&] { ++ticks; });
-  clickItem();
-  machine.advance(2);
-  EXPECT_EQ(ticks, 0);
-  menu.cancelTracking();
-  machine.runDue();
-  EXPECT_EQ(ticks, 1);
-}
-
 TEST_F(MenuTrackerTest, AClickInARowsViewRunsItAndLeavesTheMenuOpen) {
   int runs = 0;
   add(row("Row", [&] { ++runs; }));
@@ -261,16 +249,6 @@ TEST_F(MenuTrackerTest, TypingFindsTheNextItemThatBeginsSo) {
   EXPECT_EQ(server().menus.highlighted(), 0U);
   command("a");
   EXPECT_EQ(server().menus.highlighted(), 0U) << "a shortcut is no typing";
-}
-
-TEST_F(MenuTrackerTest, EscapeClosesWithoutChoosing) {
-  int runs = 0;
-  add(plain("Item", [&] { ++runs; }));
-  clickItem();
-  key(ui::Key::down);
-  key(ui::Key::escape);
-  EXPECT_FALSE(isOpen());
-  EXPECT_EQ(runs, 0);
 }
 
 TEST_F(MenuTrackerTest, AClickOnAPlainItemClosesAndThenRunsIt) {

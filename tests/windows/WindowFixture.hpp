@@ -15,6 +15,7 @@
 #include "Orvane/ui/views/Text.hpp"
 #include "desk/windows/Implementations.hpp"
 #include "tests/support/HandFixture.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::desk {
 
@@ -23,14 +24,8 @@ namespace orvane::desk {
 class WindowFixture : public HandFixture {
  protected:
   WindowFixture() {
-    Display left;
-    left.number = 1;
-    left.frame = CGRectMake(0, 0, 1000, 800);
-    Display right;
-    right.number = 2;
-    right.frame = CGRectMake(1000, 0, 1000, 800);
-    EXPECT_FALSE(machine.displays.attach(left, true));
-    EXPECT_FALSE(machine.displays.attach(right));
+    attach(machine, displayOf(1, "", {{0, 0}, {1000, 800}}), true);
+    attach(machine, displayOf(2, "", {{1000, 0}, {1000, 800}}));
     machine.mouse.moveTo({1990, 400});
   }
 

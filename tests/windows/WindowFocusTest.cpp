@@ -17,17 +17,6 @@ class WindowFocusTest : public WindowFixture {
   }
 };
 
-TEST_F(WindowFocusTest, ABorderlessWindowRefusesToBecomeKeyUnlessAllowed) {
-  Window window = plain(WindowKind::window, appkit::StyleMask::borderless);
-  window.makeKeyAndOrderFront();
-  EXPECT_TRUE(window.isVisible());
-  EXPECT_FALSE(window.isKeyWindow());
-  window.setCanBecomeKeyWindow(true);
-  window.makeKeyWindow();
-  EXPECT_TRUE(window.isKeyWindow());
-  EXPECT_TRUE(Application::keyWindow() == window);
-}
-
 TEST_F(WindowFocusTest, AWindowWithATitleBarBecomesKeyAndMainAPanelOnlyKey) {
   Window window = plain(WindowKind::window, appkit::StyleMask::titled);
   window.makeKeyAndOrderFront();

@@ -49,14 +49,6 @@ TEST_F(WindowListTest, AChildOfALowerLevelIsAboveItsParentNevertheless) {
   EXPECT_EQ(order(), "parent child");
 }
 
-TEST_F(WindowListTest, AFloatingPanelGetsTheFloatingLevelUntilAnotherIsSet) {
-  appkit::Window panel(appkit::WindowKind::panel, CGRectMake(0, 0, 10, 10), 0);
-  panel.setFloatingPanel(true);
-  EXPECT_EQ(panel.implementation()->level, 3);
-  panel.setLevel(appkit::WindowLevel::status);
-  EXPECT_EQ(panel.implementation()->level, 25);
-}
-
 TEST_F(WindowListTest, AnInactiveApplicationsWindowsAreOrderedBehindOthersUnlessForced) {
   auto system = makeWindow({0, 0}, "system");
   system.implementation()->owner = WindowOwner::system;

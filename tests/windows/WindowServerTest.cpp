@@ -9,12 +9,6 @@ using appkit::WindowKind;
 
 using WindowServerTest = WindowFixture;
 
-TEST_F(WindowServerTest, ATitleBarIsAddedAboveTheContent) {
-  const Window window(WindowKind::window, CGRectMake(10, 20, 200, 100), appkit::StyleMask::titled);
-  EXPECT_EQ(window.frame().size.height, 128);
-  EXPECT_EQ(window.frame().origin.y, 20);
-}
-
 TEST_F(WindowServerTest, ChildrenFollowTheirParentAndTheirOwnChildrenFollowToo) {
   Window parent = makeWindow({100, 100});
   Window child = makeWindow({150, 120});
@@ -49,24 +43,6 @@ TEST_F(WindowServerTest, ClosingAParentTakesItsChildrenOffTheScreen) {
   parent.addChildWindowAbove(child);
   parent.close();
   EXPECT_FALSE(child.isVisible());
-}
-
-TEST_F(WindowServerTest, TheCallbackOfClosingComesOnceAndMayDropEveryHandle) {
-  auto window = std::make_unique<Window>(makeWindow({0, 0}));
-  const std::weak_ptr<Window::Implementation> alive = window->implementation();
-  int calls = 0;
-  bool wasVisible = false;
-  window->onWillClose([&] {
-    ++calls;
-    wasVisible = window->isVisible();
-    window.reset();
-  });
-  window->orderFrontRegardless();
-  window->close();
-  EXPECT_EQ(calls, 1);
-  EXPECT_TRUE(wasVisible);
-  EXPECT_TRUE(alive.expired());
-  EXPECT_TRUE(server().windows().empty());
 }
 
 TEST_F(WindowServerTest, ClosingAgainFromWithinTheCallbackDoesNotCallItAgain) {

@@ -25,8 +25,8 @@ DESK = {
     "quartz": {"machine"},
     "windows": {"canvas", "machine"},
     "appkit": {"canvas", "machine", "quartz", "windows"},
-    "settings": {"machine", "windows"},
     "hand": {"machine", "windows"},
+    "settings": {"hand", "machine", "windows"},
     "application": {"machine", "settings", "windows"},
     "script": {"application", "hand", "machine", "quartz", "windows"},
     "explore": {"application", "canvas", "machine", "script", "windows"},
@@ -35,8 +35,9 @@ SHOWROOM = {
     "desktop": set(),
     "gallery": {"desktop"},
     "hardware": {"desktop"},
-    "tour": {"desktop"},
-    "window": {"desktop", "hardware"},
+    "settings": set(),
+    "tour": {"desktop", "settings"},
+    "window": {"desktop", "hardware", "settings"},
 }
 # Puts the parts together.
 MAIN_FILE = ("showroom", "Main.cpp")

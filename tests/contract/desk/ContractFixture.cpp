@@ -77,7 +77,7 @@ bool ContractFixture::holdModifiers(std::uint64_t flags) {
 
 bool ContractFixture::disableTaps(CGEventType reason) {
   desk::Machine& machine = platform_->scope.machine();
-  machine.eventTaps.disableAll(reason, machine.pointer.place());
+  machine.eventTaps.disableAll(reason, machine.pointer.location());
   return true;
 }
 
