@@ -16,6 +16,7 @@
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/host/Presenter.hpp"
 #include "Orvane/ui/host/ViewHost.hpp"
+#include "Orvane/windows/OrvaneWindow.hpp"
 #include "bench/KitPanel.hpp"
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
@@ -67,7 +68,9 @@ class MainPanel : public Subject {
   MainPanel(const MainPanel&) = delete;
   MainPanel& operator=(const MainPanel&) = delete;
 
-  [[nodiscard]] ui::Size size() const override { return {ContentView::width, ContentView::height}; }
+  [[nodiscard]] ui::Size size() const override {
+    return {OrvaneWindow::contentSize.width, OrvaneWindow::contentSize.height};
+  }
   [[nodiscard]] ui::View view() override {
     return ContentView{model_.get(), {[] {}, [] {}, [] {}}};
   }

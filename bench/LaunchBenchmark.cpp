@@ -6,7 +6,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "Orvane/panels/main/ContentView.hpp"
+#include "Orvane/windows/OrvaneWindow.hpp"
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/machine/MachineScope.hpp"
@@ -27,14 +27,15 @@ bool paintMainWindow(cairo_surface_t* surface) {
   }
   window->content->update();
   desk::CairoCanvas canvas(surface, displayScale, server.resources());
-  window->content->host().paint(canvas, {0, 0, ContentView::width, ContentView::height});
+  window->content->host().paint(
+      canvas, {0, 0, OrvaneWindow::contentSize.width, OrvaneWindow::contentSize.height});
   return true;
 }
 
 void launchToFirstFrame(benchmark::State& state) {
   const desk::SurfacePointer surface(cairo_image_surface_create(
-      CAIRO_FORMAT_ARGB32, static_cast<int>(ContentView::width * displayScale),
-      static_cast<int>(ContentView::height * displayScale)));
+      CAIRO_FORMAT_ARGB32, static_cast<int>(OrvaneWindow::contentSize.width * displayScale),
+      static_cast<int>(OrvaneWindow::contentSize.height * displayScale)));
   for (auto _ : state) {
     state.PauseTiming();
     std::optional<desk::MachineScope> scope(std::in_place);

@@ -36,7 +36,7 @@ RootBuilder mainPanel(OrvaneModel& model) {
 RootBuilder settingsPanel(OrvaneModel& model, std::function<void()> onClose) {
   return
       [&model, onClose = std::move(onClose)](const ui::Environment& /*environment*/) -> ui::View {
-        return OrvaneSettingsView{&model, onClose};
+        return OrvaneSettingsView{.model = &model, .onClose = onClose};
       };
 }
 

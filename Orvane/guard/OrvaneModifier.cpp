@@ -26,18 +26,4 @@ OrvaneModifier OrvaneModifier::fromRawValue(std::string_view rawValue) {
   return option;
 }
 
-std::string_view OrvaneModifier::shortcutText() const {
-  switch (value_) {
-    case control:
-      return "⌃ Control";
-    case shift:
-      return "⇧ Shift";
-    case command:
-      return "⌘ Command";
-    case option:
-      break;
-  }
-  return "⌥ Option";
-}
-
 }  // namespace orvane

@@ -23,9 +23,6 @@ class OrvaneModifier {
   /// Any other text gives `option`.
   [[nodiscard]] static OrvaneModifier fromRawValue(std::string_view rawValue);
 
-  /// The key's symbol and English name, the same in every language of the interface.
-  [[nodiscard]] std::string_view shortcutText() const;
-
   /// The bit in an event's flags that is set while the key is held.
   [[nodiscard]] constexpr CGEventFlags flagMask() const {
     switch (value_) {

@@ -22,10 +22,10 @@ class OrvaneAccessibilityPermission {
   /// accepts, or System Settings itself.
   static void openSystemSettings();
 
-  /// Whether further requests are dropped because the user was asked a moment ago.
+  /// Whether further requests are dropped because the user was asked within the last second.
   [[nodiscard]] static bool isChecking();
 
-  /// Asks the user; supplied by the owner of the windows. Without a prompt the user is not asked.
+  /// Asks the user. Without a prompt, a request is dropped.
   using Prompt = std::function<void(std::function<void()> onGranted)>;
   static void setPrompt(Prompt prompt);
 

@@ -15,7 +15,7 @@ struct OrvaneAccessibilityPermissionAlertView {
   std::function<void()> onOpenSettings;
   std::function<void()> onCancel;
 
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 
  private:
   [[nodiscard]] ui::View appIcon(const ui::Environment& environment) const;

@@ -16,8 +16,7 @@ using namespace ui;
 View OrvaneDraggableAppIconView::body(const Environment& environment) const {
   // Without an image there is nothing to drag.
   const bool hasImage = environment.hasImage("AppIcon");
-  // The whole view takes the press, even beside the image or without one, so that dragging it never
-  // moves the window.
+  // The clear rectangle takes presses beside the image, so that dragging never moves the window.
   return ZStack({Rectangle().fill(Color::clear()), Image("AppIcon").resizable(ContentMode::fit)})
       .dragSource([hasImage]() -> std::optional<DragItem> {
         const std::optional<std::string> bundle = appkit::Bundle::url();

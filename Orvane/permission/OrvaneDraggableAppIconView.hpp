@@ -7,7 +7,7 @@
 namespace orvane {
 
 struct OrvaneDraggableAppIconView {
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

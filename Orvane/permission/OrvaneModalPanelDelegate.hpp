@@ -1,5 +1,5 @@
-// Ends the modal session of the permission alert exactly once, whether by a button or by the
-// panel's close control.
+// Ends the modal session of the permission alert exactly once, by a button or by the panel's close
+// control.
 #pragma once
 
 #include "Orvane/platform/appkit/Application.hpp"

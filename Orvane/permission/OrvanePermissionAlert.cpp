@@ -23,7 +23,7 @@ namespace ModalResponse = appkit::ModalResponse;
 constexpr double guideDelaySeconds = 2.0;
 
 appkit::Window makeAlertPanel() {
-  const CGSize size = OrvanePermissionAlert::contentSize;
+  constexpr CGSize size = OrvanePermissionAlert::contentSize;
   appkit::Window panel(appkit::WindowKind::panel, CGRectMake(0, 0, size.width, size.height),
                        appkit::StyleMask::titled | appkit::StyleMask::closable);
   panel.setClassName("OrvaneAlertPanel");
@@ -35,9 +35,9 @@ appkit::Window makeAlertPanel() {
   return panel;
 }
 
-/// Ends the session unless it has ended, and closes the panel in any case. It holds the panel
-/// weakly, because the panel's content holds it.
-std::function<void(int response)> finishing(
+/// Returns a function that ends the session, unless it has ended, and closes the panel. The
+/// function refers to the panel weakly, because the panel's content owns the function.
+std::function<void(int response)> makeFinish(
     const appkit::Window& panel, const std::shared_ptr<OrvaneModalPanelDelegate>& delegate) {
   return [weakPanel = std::weak_ptr<appkit::Window::Implementation>(panel.implementation()),
           delegate](int response) {
@@ -60,7 +60,7 @@ void runAlert(const std::function<void()>& onGranted) {
   const auto delegate = std::make_shared<OrvaneModalPanelDelegate>();
   appkit::Window panel = makeAlertPanel();
   panel.onWillClose([delegate] { delegate->windowWillClose(); });
-  const auto finish = finishing(panel, delegate);
+  const auto finish = makeFinish(panel, delegate);
   panel.setContentView(
       appkit::HostingView([finish](const ui::Environment& /*environment*/) -> ui::View {
         return OrvaneAccessibilityPermissionAlertView{

@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "Orvane/permission/OrvaneAccessibilityPermissionAlertView.hpp"
 #include "Orvane/platform/Quartz.hpp"
 
 namespace orvane {
@@ -11,12 +12,12 @@ namespace orvane {
 class OrvanePermissionAlert {
  public:
   /// In points.
-  static constexpr CGSize contentSize{480, 372};
+  static constexpr CGSize contentSize{OrvaneAccessibilityPermissionAlertView::width, 372};
 
   OrvanePermissionAlert() = delete;
 
-  /// Shows the alert once the caller has returned. When the user agrees, opens the settings and,
-  /// two seconds later, the guide, which calls `onGranted`; otherwise does nothing more.
+  /// Shows the alert after the caller has returned. When the user agrees, it opens the settings
+  /// and, two seconds later, the guide, which calls `onGranted`, which may be null.
   static void show(std::function<void()> onGranted);
 };
 

@@ -1,4 +1,4 @@
-// The floating card that shows what to turn on in System Settings, and whether it has been.
+// The card that shows what to turn on in System Settings, and the progress.
 #include "Orvane/permission/OrvanePermissionGuideView.hpp"
 
 #include <string>
@@ -38,36 +38,36 @@ View checkMark() {
 }  // namespace
 
 View OrvanePermissionGuideView::closeControl() const {
-  const View cross =
+  const View closeButton =
       Button(onClose,
              Symbol("xmark.circle.fill").font(Font::title()).foreground(Color::secondary()))
           .style(PlainButtonStyle{})
           .outOfTabOrder()
           .keyboardShortcut(KeyboardShortcut::cancelAction())
           .accessibilityLabel(localized("Close", "关闭"));
-  return HStack(0, {Spacer(), cross}).padding(Edges{.top = 16, .trailing = 16});
+  return HStack(0, {Spacer(), closeButton}).padding(Edges{.top = 16, .trailing = 16});
 }
 
 View OrvanePermissionGuideView::iconArea() const {
-  // Both contents fill the same area, so that neither moves during the transition.
-  const auto filling = [](const View& content, const Transition& transition) {
+  // Both fill the same area, so that neither moves during the transition.
+  const auto filled = [](const View& content, const Transition& transition) {
     return content.frame({.height = 136, .maximumWidth = infinity}).transition(transition);
   };
   const bool isDone = state == PermissionGuideState::success;
-  return ZStack({when(!isDone, filling(draggableIcon(), Transition::opacity())),
+  return ZStack({when(!isDone, filled(draggableIcon(), Transition::opacity())),
                  when(isDone,
-                      filling(checkMark(), Transition::scale().combined(Transition::opacity())))})
+                      filled(checkMark(), Transition::scale().combined(Transition::opacity())))})
       .padding(Edges::vertical(10));
 }
 
 View OrvanePermissionGuideView::statusLine(bool isDark) const {
-  // The user has not chosen these colours, so they must be as readable on the window's background
-  // as other texts.
+  // Unlike the accent colour, these are not the user's choice, so they need the full contrast on
+  // the window's background.
   const auto readable = [isDark](const Color& color) {
     return color.textOn(isDark ? 0.04 : 0.8, 0, 4.5);
   };
-  // Each state has its own line, so that one fades into the other; a single line would be clipped
-  // while its text grows.
+  // Each state has its own line, so that one fades into the other. A single line would be clipped
+  // during the change.
   static constexpr double lineHeight = 34;
   const auto line = [this](PermissionGuideState shownIn, const std::string& text, const Font& font,
                            const Color& color) {

@@ -1,4 +1,4 @@
-// The floating card that shows what to turn on in System Settings, and whether it has been.
+// The card that shows what to turn on in System Settings, and the progress.
 #pragma once
 
 #include <functional>
@@ -16,7 +16,7 @@ struct OrvanePermissionGuideView {
   PermissionGuideState state = PermissionGuideState::checking;
   std::function<void()> onClose;
 
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 
  private:
   [[nodiscard]] ui::View closeControl() const;

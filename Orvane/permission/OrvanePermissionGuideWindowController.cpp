@@ -1,4 +1,4 @@
-// The floating guide that shows what to turn on, and polls once a second whether it has been.
+// The floating guide to System Settings, which polls for the permission once a second.
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 
 #include <algorithm>
@@ -21,11 +21,11 @@ using appkit::Screen;
 
 constexpr double pollSeconds = 1.0;
 constexpr double timeoutSeconds = 10.0;
-/// How long the success stays visible.
+/// From the detection of the permission to the guide's end.
 constexpr double closeAfterSuccessSeconds = 1.5;
-/// The guide's distance to the right of the screen's centre, and its minimum distance from the
-/// screen's edges, in points.
-constexpr double distanceFromMiddle = 320;
+/// In points: from the screen's centre to the guide's left edge, and the minimum distance from the
+/// screen's edges.
+constexpr double distanceFromCentre = 320;
 constexpr double screenMargin = 20;
 
 ProcessShared<OrvanePermissionGuideWindowController>& sharedController() {
@@ -34,14 +34,15 @@ ProcessShared<OrvanePermissionGuideWindowController>& sharedController() {
 }
 
 appkit::Window makeGuidePanel() {
-  const CGSize size = OrvanePermissionGuideWindowController::contentSize;
-  appkit::Window panel(appkit::WindowKind::panel, CGRectMake(0, 0, size.width, size.height),
-                       appkit::StyleMask::nonactivatingPanel);
+  appkit::Window panel(
+      appkit::WindowKind::panel,
+      CGRectMake(0, 0, OrvanePermissionGuideView::width, OrvanePermissionGuideView::height),
+      appkit::StyleMask::nonactivatingPanel);
   panel.setClassName("OrvaneGuidePanel");
   panel.setMovableByWindowBackground(true);
-  // By default a panel without a title bar refuses, and no key would reach its controls.
+  // A panel without a title bar cannot become key by default, and would receive no key events.
   panel.setCanBecomeKeyWindow(true);
-  // Becoming a floating panel changes the level too, so it comes first.
+  // Before setLevel, because it sets a level of its own.
   panel.setFloatingPanel(true);
   panel.setLevel(appkit::WindowLevel::status);
   panel.setHidesOnDeactivate(false);
@@ -56,7 +57,7 @@ appkit::Window makeGuidePanel() {
 }
 
 /// The screen under the pointer, else that of the key window, else the main one.
-std::optional<Screen> screenForTheGuide() {
+std::optional<Screen> screenForGuide() {
   const CGPoint pointer = Application::mouseLocation();
   const std::vector<Screen> screens = Screen::screens();
   const auto underPointer = std::ranges::find_if(
@@ -93,7 +94,9 @@ OrvanePermissionGuideWindowController::Snapshot OrvanePermissionGuideWindowContr
     return {};
   }
   const OrvanePermissionGuideWindowController& guide = shared();
-  return {guide.state_, guide.panel_.isVisible(), guide.checkTimer_.has_value()};
+  return {.state = guide.state_,
+          .isVisible = guide.panel_.isVisible(),
+          .isPolling = guide.checkTimer_.has_value()};
 }
 
 void OrvanePermissionGuideWindowController::show(std::function<void()> onGranted) {
@@ -108,23 +111,23 @@ void OrvanePermissionGuideWindowController::show(std::function<void()> onGranted
 
 void OrvanePermissionGuideWindowController::setState(PermissionGuideState state) {
   state_ = state;
-  // Even in the same state: the language of the texts may have changed.
+  // Unconditionally, because the language may have changed.
   if (auto view = panel_.contentView()) {
     view->setNeedsUpdate();
   }
 }
 
 void OrvanePermissionGuideWindowController::positionGuideWindow() {
-  const std::optional<Screen> screen = screenForTheGuide();
+  const std::optional<Screen> screen = screenForGuide();
   if (!screen) {
     panel_.center();
     return;
   }
   const CGRect visible = screen->visibleFrame();
   const CGSize size = panel_.frame().size;
-  // The upper clamp comes last: on a screen too small for the panel it wins.
+  // The upper limit is applied last, so it wins on a screen too small for the panel.
   const double x = std::min(
-      std::max(CGRectGetMidX(visible) + distanceFromMiddle, CGRectGetMinX(visible) + screenMargin),
+      std::max(CGRectGetMidX(visible) + distanceFromCentre, CGRectGetMinX(visible) + screenMargin),
       CGRectGetMaxX(visible) - size.width - screenMargin);
   const double y = std::min(
       std::max(CGRectGetMidY(visible) - size.height * 0.5, CGRectGetMinY(visible) + screenMargin),
@@ -150,16 +153,17 @@ void OrvanePermissionGuideWindowController::check() {
 void OrvanePermissionGuideWindowController::handleSuccess() {
   checkTimer_.reset();
   setState(PermissionGuideState::success);
-  // Close this showing only: the callback or a later request may show the guide again.
-  const auto closeThisShowing = [this, showing = showCount_] {
-    if (showing == showCount_) {
+  // The callback or a later request may show the guide again, which must then stay open.
+  const auto closeUnlessShownAgain = [this, shown = showCount_] {
+    if (shown == showCount_) {
       close();
     }
   };
   if (const auto granted = onGranted_) {
     granted();
   }
-  appkit::MainQueue::asyncAfter(closeAfterSuccessSeconds, lifetime_.whileAlive(closeThisShowing));
+  appkit::MainQueue::asyncAfter(closeAfterSuccessSeconds,
+                                lifetime_.whileAlive(closeUnlessShownAgain));
 }
 
 void OrvanePermissionGuideWindowController::close() {

@@ -1,4 +1,4 @@
-// The floating guide that shows what to turn on, and polls once a second whether it has been.
+// The floating guide to System Settings, which polls for the permission once a second.
 #pragma once
 
 #include <cstdint>
@@ -16,27 +16,25 @@ namespace orvane {
 /// Main thread only.
 class OrvanePermissionGuideWindowController {
  public:
-  /// The guide at one moment; without more said, one that has not been shown.
+  /// The guide at one moment. The defaults are those of a guide that was never shown.
   struct Snapshot {
     PermissionGuideState state = PermissionGuideState::checking;
     bool isVisible = false;
-    /// It looks for the permission.
+    /// Whether it polls for the permission.
     bool isPolling = false;
   };
-
-  /// In points.
-  static constexpr CGSize contentSize{360, 500};
 
   OrvanePermissionGuideWindowController();
 
   /// The process's only controller, created with its panel on first use.
-  static OrvanePermissionGuideWindowController& shared();
-  /// Of the process's only controller; creates none.
+  [[nodiscard]] static OrvanePermissionGuideWindowController& shared();
+  /// Does not create the controller.
   [[nodiscard]] static Snapshot snapshot();
 
-  /// Shows the guide, again if need be, and starts polling for the permission. `onGranted` replaces
-  /// an earlier callback and is called once, when the permission is detected; the guide closes
-  /// itself a second and a half later, unless it has been shown again by then.
+  /// Shows the guide and starts polling for the permission, from the beginning if it is already
+  /// shown. `onGranted`, which may be null, replaces an earlier callback and is called once, when
+  /// the permission is detected; the guide closes a second and a half later, unless it has been
+  /// shown again by then.
   void show(std::function<void()> onGranted);
   /// Closes the guide, stops polling and drops `onGranted`.
   void close();
@@ -54,7 +52,7 @@ class OrvanePermissionGuideWindowController {
   appkit::Window panel_;
   std::optional<appkit::Timer> checkTimer_;
   std::optional<CFAbsoluteTime> startTime_;
-  /// How often the guide has been shown; distinguishes this showing from the next.
+  /// The number of times the guide has been shown.
   std::uint64_t showCount_ = 0;
   std::function<void()> onGranted_;
   Lifetime lifetime_;

@@ -6,9 +6,9 @@ namespace orvane {
 enum class PermissionGuideState {
   /// Polling; the permission has not been detected yet.
   checking,
-  /// Detected; the guide is about to close itself.
+  /// Detected; the guide is about to close.
   success,
-  /// Not detected for a while; polling continues.
+  /// Not detected within ten seconds; polling continues.
   timeout,
 };
 

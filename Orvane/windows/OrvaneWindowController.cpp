@@ -39,18 +39,18 @@ OrvaneWindowController& OrvaneWindowController::shared() {
 
 void OrvaneWindowController::show(OrvaneModel& model) {
   Application::setActivationPolicy(appkit::ActivationPolicy::accessory);
-  const bool mustBePlaced = !window_ || !window_->isVisible();
+  const bool needsPlacement = !window_ || !window_->isVisible();
   if (!window_) {
     window_.emplace(model, contents_.mainPanel(model));
   }
   window_->onWillClose(lifetime_.whileAlive([this] { windowWillClose(); }));
-  if (mustBePlaced) {
-    placeOnMainScreen();
+  if (needsPlacement) {
+    centreOnMainScreen();
   }
   bringToFront(*window_);
 }
 
-void OrvaneWindowController::placeOnMainScreen() {
+void OrvaneWindowController::centreOnMainScreen() {
   if (const auto screen = appkit::Screen::mainScreen()) {
     window_->setFrameOrigin(originCentredIn(screen->visibleFrame(), OrvaneWindow::contentSize));
   }
@@ -107,16 +107,16 @@ void OrvaneWindowController::settingsWindowWillClose() {
     window_->removeChildWindow(*settingsWindow_);
   }
   settingsWindow_.reset();
-  noteClosed();
+  restoreActivationPolicy();
 }
 
 void OrvaneWindowController::windowWillClose() {
   closeSettingsWindow();
   window_.reset();
-  noteClosed();
+  restoreActivationPolicy();
 }
 
-void OrvaneWindowController::noteClosed() {
+void OrvaneWindowController::restoreActivationPolicy() {
   if (!window_ && !settingsWindow_) {
     Application::setActivationPolicy(appkit::ActivationPolicy::accessory);
   }

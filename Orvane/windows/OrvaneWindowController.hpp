@@ -17,8 +17,8 @@ namespace orvane {
 /// Main thread only.
 class OrvaneWindowController {
  public:
-  /// Builds what the windows show, so that this folder need not know the panels. Each function is
-  /// called once for each window created.
+  /// Builds the content of the windows, so that this folder does not depend on the panels. Each
+  /// function is called once for each window created.
   struct Contents {
     std::function<appkit::HostingView::RootBuilder(OrvaneModel& model)> mainPanel;
     std::function<appkit::HostingView::RootBuilder(OrvaneModel& model,
@@ -27,32 +27,34 @@ class OrvaneWindowController {
   };
 
   /// The process's only controller, created on first use.
-  static OrvaneWindowController& shared();
+  [[nodiscard]] static OrvaneWindowController& shared();
 
   /// Must be called before the first show.
   void setContents(Contents contents) { contents_ = std::move(contents); }
 
-  /// Brings the main panel to the front; one that is not visible is centred on the main screen.
+  /// Brings the main panel to the front, centred on the main screen unless it was visible.
   void show(OrvaneModel& model);
-  /// Brings the main panel and, centred on it, the settings panel to the front.
+  /// Brings the main panel to the front, and above it the settings panel, centred on it.
   void showSettings(OrvaneModel& model);
 
+  /// These do nothing while the panel does not exist.
   void closeWindow();
   void closeSettingsWindow();
   void miniaturizeWindow();
 
-  /// The panels while they exist.
+  /// The panels, while they exist.
   [[nodiscard]] const std::optional<OrvaneWindow>& window() const { return window_; }
   [[nodiscard]] const std::optional<OrvaneSettingsWindow>& settingsWindow() const {
     return settingsWindow_;
   }
 
  private:
-  void placeOnMainScreen();
+  void centreOnMainScreen();
   void placeSettings();
   void windowWillClose();
   void settingsWindowWillClose();
-  void noteClosed();
+  /// Once both panels are closed.
+  void restoreActivationPolicy();
 
   Contents contents_;
   std::optional<OrvaneWindow> window_;

@@ -1,5 +1,5 @@
 // The base of the application's two panels: a frameless window of fixed size whose content draws
-// all of its chrome.
+// its own chrome.
 #include "Orvane/windows/PanelWindow.hpp"
 
 #include <memory>
@@ -31,7 +31,7 @@ PanelWindow::PanelWindow(const PanelWindowAttributes& attributes, const OrvaneMo
   view.setFrame(CGRectMake(0, 0, attributes.size.width, attributes.size.height));
   view.setLayerCorners(attributes.cornerRadius, appkit::CornerCurve::continuous, true);
   view.setBackdrop(appkit::Backdrop::behindWindow);
-  // Content without its own close action dismisses the window.
+  // For content that has no close action of its own.
   view.onDismiss([weakWindow = std::weak_ptr(implementation())] {
     if (auto window = weakWindow.lock()) {
       appkit::Window(std::move(window)).close();

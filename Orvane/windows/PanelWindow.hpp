@@ -1,5 +1,5 @@
 // The base of the application's two panels: a frameless window of fixed size whose content draws
-// all of its chrome, rounded corners included.
+// its own chrome.
 #pragma once
 
 #include <cstdint>
@@ -22,7 +22,7 @@ struct PanelWindowAttributes {
   double cornerRadius = 0;
 };
 
-/// A handle to a window, and the subscription that redraws its content when the model changes.
+/// A handle to a window, and the subscription that updates its content when the model changes.
 class PanelWindow : public appkit::Window {
  protected:
   PanelWindow(const PanelWindowAttributes& attributes, const OrvaneModel& model,

@@ -1,5 +1,5 @@
-// The hosting view of the frameless panels: its content reaches the window's top edge, as there is
-// no title bar to avoid.
+// The hosting view of the frameless panels: its content extends to the window's top edge, because
+// there is no title bar to avoid.
 #pragma once
 
 #include <utility>

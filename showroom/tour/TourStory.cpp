@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "Orvane/panels/settings/ShortcutText.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
@@ -145,7 +146,7 @@ void tellOfTheModifier(TourStage& stage) {
   machine.advance(0.4);
   stage.check(stage.seen().isTemporarilyUnlocked && stage.isDockOn(right),
               "the held key lets the Dock come");
-  stage.tell("While " + std::string(stage.seen().temporaryUnlockModifier.shortcutText()) +
+  stage.tell("While " + std::string(shortcutText(stage.seen().temporaryUnlockModifier)) +
              " is held the pointer passes: the Dock may come to " + stage.dockPlace() + ".");
 
   machine.modifierKeys.releaseAll();

@@ -6,6 +6,7 @@
 
 #include "Orvane/panels/main/ContentView.hpp"
 #include "Orvane/ui/host/ViewHost.hpp"
+#include "Orvane/windows/OrvaneWindow.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "tests/support/ModelFixture.hpp"
@@ -18,7 +19,7 @@ class HoverDamageTest : public ModelFixture {
   HoverDamageTest() {
     launch();
     host = std::make_unique<ui::ViewHost>(ui::HostPlatform{&text, resources.imageSource(), {}, {}});
-    host->setSize({ContentView::width, ContentView::height});
+    host->setSize({OrvaneWindow::contentSize.width, OrvaneWindow::contentSize.height});
     host->setRoot([this](const ui::Environment&) -> ui::View {
       return ContentView{model.get(), {[] {}, [] {}, [] {}}};
     });

@@ -11,6 +11,7 @@
 
 #include "Orvane/panels/settings/OrvaneSettingsView.hpp"
 #include "Orvane/ui/host/ViewHost.hpp"
+#include "Orvane/windows/OrvaneSettingsWindow.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "tests/panels/PanelFixture.hpp"
 #include "tests/support/RecordingCanvas.hpp"
@@ -110,14 +111,15 @@ TEST_P(RoomInTheSettings, DoesForWiderTextAndTallerSymbols) {
                        return size;
                      }};
   ui::ViewHost host(std::move(platform));
-  host.setSize({OrvaneSettingsView::width, OrvaneSettingsView::height});
+  host.setSize({OrvaneSettingsWindow::contentSize.width, OrvaneSettingsWindow::contentSize.height});
   host.setRoot([this](const ui::Environment&) {
     return ui::View(OrvaneSettingsView{&model(), {}});
   });
   host.tick(0);
   host.tick(1);
   ui::RecordingCanvas canvas;
-  host.paint(canvas, {0, 0, OrvaneSettingsView::width, OrvaneSettingsView::height});
+  host.paint(canvas, {0, 0, OrvaneSettingsWindow::contentSize.width,
+                      OrvaneSettingsWindow::contentSize.height});
   expectAllInFull(host.semantics(), canvas.lines());
   // The cards have their margin, and the header its height.
   std::vector<ui::SemanticsNode> pieces;
@@ -134,7 +136,7 @@ TEST_P(RoomInTheSettings, DoesForWiderTextAndTallerSymbols) {
   const double headerHeight = close.center().y * 2;
   EXPECT_GE(frameOf(model().localized("Language", "语言")).y, headerHeight + margin);
   EXPECT_LE(frameOf(model().localized("Contact Support", "联系支持")).bottom(),
-            OrvaneSettingsView::height - margin);
+            OrvaneSettingsWindow::contentSize.height - margin);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, RoomInTheSettings,

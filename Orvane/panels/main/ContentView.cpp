@@ -1,5 +1,5 @@
-// The main window's content: the window's surface, its title bar and the entrance of the panels,
-// which are in ContentViewPanels.cpp.
+// The main window's surface and title bar, and the entrance of its panels. The panels themselves
+// are in ContentViewPanels.cpp.
 #include "Orvane/panels/main/ContentView.hpp"
 
 #include <memory>
@@ -13,6 +13,7 @@
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
+#include "Orvane/windows/OrvaneWindow.hpp"
 
 namespace orvane {
 
@@ -24,7 +25,6 @@ constexpr double titleBarHeight = 66;
 constexpr double clusterWidth = 150;
 constexpr double clusterPadding = 28;
 constexpr double trafficLightSpacing = 9;
-constexpr double windowCornerRadius = 24;
 constexpr double topHighlightHeight = 150;
 constexpr double entranceOffset = 10;
 constexpr double entranceSeconds = 0.32;
@@ -37,16 +37,16 @@ View ContentView::windowBackground(bool isDark) const {
                              .fill(OrvanePalette::windowTopHighlight(isDark))
                              .height(topHighlightHeight)
                              .clip(ShapeForm::rectangle());
-  return RoundedRectangle(windowCornerRadius)
+  return RoundedRectangle(OrvaneWindow::cornerRadius)
       .fill(OrvanePalette::windowGradient(isDark))
       .stroke(OrvanePalette::windowRim(isDark), 1)
       .overlay(highlight, Alignment::top())
-      .clip(ShapeForm::rounded(windowCornerRadius));
+      .clip(ShapeForm::rounded(OrvaneWindow::cornerRadius));
 }
 
 View ContentView::trafficLights(const Environment& environment) const {
   const State<bool> isHovered = environment.state("isTrafficLightsHovered", false);
-  // A frameless window has no title bar that would know these keys.
+  // Without a system title bar the window does not handle these keys.
   const View close = View(TrafficLightButton::close(
                               isHovered.value(), model->localized("Close", "关闭"), actions.close))
                          .keyboardShortcut(KeyboardShortcut::command("w"));
@@ -79,7 +79,7 @@ View ContentView::settingsButton() const {
   return Button(actions.showSettings,
                 Symbol("gearshape").font(Font::system(18, Weight::semibold)).frame(34, 34))
       .style(TitleBarIconButtonStyle{})
-      .focusRing(ShapeForm::rounded(10))
+      .focusRing(ShapeForm::rounded(TitleBarIconButtonStyle::cornerRadius))
       .tooltip(title)
       .accessibilityLabel(title);
 }
@@ -99,12 +99,12 @@ View ContentView::titleBar(const Environment& environment) const {
 
 View ContentView::body(const Environment& environment) const {
   const State<bool> hasAppeared = environment.state("hasAppeared", false);
-  // It ends with the view, whose state it is.
+  // As state of the view it ends with the view.
   const State<std::shared_ptr<appkit::Timer>> permissionTimer =
       environment.state("permissionTimer", std::shared_ptr<appkit::Timer>());
-  // Where one change brings several of these about, the innermost animation is the one that runs:
-  // what changes together with the status travels along the curve of the status. The entrance lies
-  // outside of all three, so that what is refreshed as it begins leaves it its own curve.
+  // When one change triggers several of these animations, the innermost runs: a selection or mode
+  // that changes together with the status follows the status's curve. The entrance is outside of
+  // all three and keeps its own curve, even if the refresh below triggers one of them.
   const View content =
       panels()
           .animation(Curve::easeInOut(0.22), model->status())
@@ -113,7 +113,7 @@ View ContentView::body(const Environment& environment) const {
           .opacity(hasAppeared.value() ? 1 : 0)
           .offset(0, hasAppeared.value() ? 0 : entranceOffset);
   return VStack(0, {titleBar(environment), Spacer(), content})
-      .frame(width, height)
+      .frame(OrvaneWindow::contentSize.width, OrvaneWindow::contentSize.height)
       .background(windowBackground(environment.isDark()))
       .onAppear([model = model, hasAppeared, permissionTimer] {
         model->refreshDisplays();

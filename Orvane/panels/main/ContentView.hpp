@@ -1,5 +1,5 @@
-// The whole content of the main window: its own title bar, the panel that pins the Dock to a
-// display, and the panel that prevents the Dock from popping up.
+// The content of the main window: its title bar, the panel that pins the Dock to a display, and the
+// panel that prevents the Dock from popping up.
 #pragma once
 
 #include <functional>
@@ -9,14 +9,10 @@
 
 namespace orvane {
 
-/// Reads the model whenever it is described and calls its operations; it holds no state but whether
-/// it has appeared and what the pointer is over.
+/// Shows the model and calls its operations. Its own state is whether it has appeared and whether
+/// the pointer is over the traffic lights.
 struct ContentView {
-  /// In points.
-  static constexpr double width = 700;
-  static constexpr double height = 516;
-
-  /// What the controls of the title bar do.
+  /// Of the controls in the title bar.
   struct Actions {
     std::function<void()> close;
     std::function<void()> minimise;
@@ -27,7 +23,7 @@ struct ContentView {
   OrvaneModel* model;
   Actions actions;
 
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 
  private:
   [[nodiscard]] ui::View windowBackground(bool isDark) const;

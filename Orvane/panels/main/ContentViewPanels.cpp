@@ -1,5 +1,5 @@
-// The two panels of the main window: pinning the Dock to a display, and preventing it from popping
-// up anywhere.
+// The two panels of the main window: one pins the Dock to a display, the other prevents it from
+// popping up.
 #include <algorithm>
 #include <iterator>
 #include <optional>
@@ -30,29 +30,29 @@ constexpr double panelSpacing = 10;
 constexpr Edges panelsPadding{.top = 15, .leading = 25, .bottom = 25, .trailing = 25};
 constexpr double pinPanelHeight = 269;
 constexpr double popUpPanelHeight = 121;
-/// What the heights of panels and rows leave over is divided evenly in the pin panel: 10.5 points
-/// above the icon and below the button, 10 above and below the cards, of which the picker brings 6.
+/// Distributes the free height of the pin panel evenly: 10.5 points above the icon and below the
+/// button, 10 above and below the cards, 6 of which are within the picker.
 constexpr double pinPanelRowSpacing = 4;
-/// As much as leaves the icon and the button of this panel the same 10.5 points.
+/// Leaves the same 10.5 points above the icon and below the button.
 constexpr double popUpPanelRowSpacing = 18;
 constexpr double headerHeight = 48;
 constexpr double pickerHeight = 154;
 constexpr double cardSpacing = 14;
-/// How far the picker reaches beyond its panel's content on both sides. Cards are cut where the
-/// panel ends, and a raised one at the side is not cut at all.
-constexpr double pickerReach = DockPanel::padding - 1;
+/// How far the picker extends beyond the panel's content on both sides, so that it clips cards only
+/// at the panel's edges.
+constexpr double pickerOverhang = DockPanel::padding - 1;
 constexpr double headerSpacing = 14;
 constexpr double titleLineHeight = 22;
 constexpr double descriptionLineHeight = 16;
 constexpr double titleToDescription = 2;
-/// A little less than there is, so that no single word of the hint stands in a line of its own.
+/// Less than available, so that no line of the hint consists of a single word.
 constexpr double descriptionWidth = 400;
 constexpr double buttonSpacing = 10;
 constexpr double dockSettingsWidth = 190;
 
-/// One symbol and its words replace another in the middle of their button, also while it changes
-/// its width.
-View labelled(const std::string& symbol, const std::string& text) {
+/// A button's label. Another symbol replaces it with a transition, centred even while the button's
+/// width changes.
+View fadingLabel(const std::string& symbol, const std::string& text) {
   return HStack(7, {Symbol(symbol), Text(text).lineLimit(1)})
       .fixedSize()
       .transition(Transition::fadeThrough())
@@ -63,41 +63,42 @@ View labelled(const std::string& symbol, const std::string& text) {
 struct HeaderTexts {
   std::string title;
   std::string description;
-  /// A hint and a description are two texts, of which one takes the place of the other.
+  /// A hint and a description have different identities, so that one fades into the other.
   bool isHint = false;
 };
 
-View header(const PanelIcon& icon, const HeaderTexts& texts, const StatusPill& pill) {
-  const View title = Text(texts.title)
+View header(const PanelIcon& icon, const HeaderTexts& content, const StatusPill& pill) {
+  const View title = Text(content.title)
                          .font(Font::system(18, Weight::bold))
                          .lineHeight(titleLineHeight)
                          .accessibilityRole(Role::heading);
-  const View description = Text(texts.description)
+  const View description = Text(content.description)
                                .font(Font::system(13))
                                .lineHeight(descriptionLineHeight)
                                .foreground(Color::secondary())
                                .fixedSizeVertical()
                                .transition(Transition::fadeThrough())
-                               .id(std::to_string(texts.isHint));
-  // However many lines the description has, the title stays: a second line reaches below the row.
-  const View words = VStack(titleToDescription, HorizontalAlignment::leading,
+                               .id(std::to_string(content.isHint));
+  // A second line of the description overflows the row instead of moving the title.
+  const View texts = VStack(titleToDescription, HorizontalAlignment::leading,
                             {title, description.frame({.height = descriptionLineHeight,
                                                        .maximumWidth = descriptionWidth,
                                                        .alignment = Alignment::topLeading()})});
-  // Read aloud, the pill says which mode it speaks of. Each state has a pill of its own.
+  // The label tells a screen reader which mode the pill is about. The identity makes one state fade
+  // into the other.
   const View status = View(pill)
-                          .accessibilityLabel(texts.title)
+                          .accessibilityLabel(content.title)
                           .accessibilityValue(pill.text)
                           .transition(Transition::fadeThrough())
                           .id(std::to_string(pill.isActive));
-  return HStack(headerSpacing, {icon, words.layoutPriority(1), Spacer(), status})
+  return HStack(headerSpacing, {icon, texts.layoutPriority(1), Spacer(), status})
       .height(headerHeight);
 }
 
-/// The rows are a little higher than what the padding leaves of the panel's height. They reach into
-/// the padding evenly above and below rather than lose some of their own height.
+/// The rows are slightly higher than the panel's content area: they overflow it evenly above and
+/// below instead of shrinking.
 View panel(double height, const View& rows) {
-  return DockPanel{rows.fixedSizeVertical().height(height - 2 * DockPanel::padding)};
+  return DockPanel{.content = rows.fixedSizeVertical().height(height - 2 * DockPanel::padding)};
 }
 
 }  // namespace
@@ -137,22 +138,22 @@ View ContentView::displayPicker() const {
   std::vector<std::string> order;
   std::ranges::transform(displays, std::back_inserter(order), identify);
   const View cards = HStack(cardSpacing, {forEach(displays, identify, card)});
-  // The row begins at the same height with and without cards: the first ones come where they stay.
-  constexpr double aboveCards = (pickerHeight - DisplayChoiceCard::height) / 2;
-  // Cards that travelled to other places would pass over one another.
-  return ScrollView(cards.padding(Edges::vertical(aboveCards))
+  // A fixed position, so that the first cards to appear do not move.
+  constexpr double cardMargin = (pickerHeight - DisplayChoiceCard::height) / 2;
+  // Reordered cards jump: animated, they would pass over one another.
+  return ScrollView(cards.padding(Edges::vertical(cardMargin))
                         .height(pickerHeight, Alignment::top())
                         .animation(std::nullopt, order),
-                    pickerReach)
+                    pickerOverhang)
       .height(pickerHeight)
-      .padding(Edges::horizontal(-pickerReach));
+      .padding(Edges::horizontal(-pickerOverhang));
 }
 
 View ContentView::pinButton() const {
   const bool isPinned = model->mode() == OrvaneMode::pinning;
   const View label = isPinned
-                         ? labelled("lock.open", model->localized("Unpin Dock", "解除固定 Dock"))
-                         : labelled("lock", model->localized("Pin Dock", "固定 Dock"));
+                         ? fadingLabel("lock.open", model->localized("Unpin Dock", "解除固定 Dock"))
+                         : fadingLabel("lock", model->localized("Pin Dock", "固定 Dock"));
   return Button([model = model] { model->toggleSelectedDisplayLock(); }, label)
       .style(PrimaryActionButtonStyle{.tint = isPinned ? Color::red() : Color::accent()})
       .focusRing(ShapeForm::rounded(PrimaryActionButtonStyle::cornerRadius))
@@ -184,29 +185,34 @@ View ContentView::popUpButtons() const {
   const bool isPreventing = model->mode() == OrvaneMode::preventing;
   const View toggleLabel =
       isPreventing
-          ? labelled("eye", model->localized("Allow Dock Pop-Up", "允许 Dock 弹出"))
-          : labelled("eye.slash", model->localized("Prevent Dock Pop-Up", "防止 Dock 弹出"));
+          ? fadingLabel("eye", model->localized("Allow Dock Pop-Up", "允许 Dock 弹出"))
+          : fadingLabel("eye.slash", model->localized("Prevent Dock Pop-Up", "防止 Dock 弹出"));
   const ShapeForm ring = ShapeForm::rounded(SecondaryActionButtonStyle::cornerRadius);
   const View toggle = Button([model = model] { model->toggleHideDockOnAllDisplays(); }, toggleLabel)
                           .style(SecondaryActionButtonStyle{})
                           .focusRing(ring);
   const View openSettings =
       Button([] { DockMouseGuard::openDesktopAndDockSettings(); },
-             labelled("gearshape", model->localized("Open Dock Settings", "打开 Dock 设置")))
+             fadingLabel("gearshape", model->localized("Open Dock Settings", "打开 Dock 设置")))
           .style(SecondaryActionButtonStyle{})
           .focusRing(ring)
           .width(dockSettingsWidth)
           .transition(Transition::move(Edge::trailing).combined(Transition::opacity()));
-  // What slides in comes from behind the panel's edge; the line around a button needs some room.
-  constexpr double lineRoom = 1;
-  const Edges toTheEdge{
-      .top = lineRoom, .leading = lineRoom, .bottom = lineRoom, .trailing = DockPanel::padding};
-  const Edges back{
-      .top = -lineRoom, .leading = -lineRoom, .bottom = -lineRoom, .trailing = -DockPanel::padding};
+  // The settings button slides in from the panel's edge, where the clip ends. On the other sides
+  // the clip leaves room for the outlines of the buttons.
+  constexpr double outlineRoom = 1;
+  const Edges clipMargin{.top = outlineRoom,
+                         .leading = outlineRoom,
+                         .bottom = outlineRoom,
+                         .trailing = DockPanel::padding};
+  const Edges undoMargin{.top = -outlineRoom,
+                         .leading = -outlineRoom,
+                         .bottom = -outlineRoom,
+                         .trailing = -DockPanel::padding};
   return HStack(buttonSpacing, {toggle, when(isPreventing, openSettings)})
-      .padding(toTheEdge)
+      .padding(clipMargin)
       .clip(ShapeForm::rectangle())
-      .padding(back);
+      .padding(undoMargin);
 }
 
 }  // namespace orvane

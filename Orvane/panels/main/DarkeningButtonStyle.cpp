@@ -1,4 +1,4 @@
-// The look of a button whose label is a surface of its own.
+// The style of a button whose label is its own surface.
 #include "Orvane/panels/main/DarkeningButtonStyle.hpp"
 
 #include "Orvane/ui/views/ShapeView.hpp"

@@ -1,4 +1,4 @@
-// The look of a button whose label is a surface of its own: it darkens while it is pressed.
+// The style of a button whose label is its own surface: it darkens while pressed.
 #pragma once
 
 #include "Orvane/ui/draw/ShapeForm.hpp"
@@ -7,13 +7,13 @@
 namespace orvane {
 
 struct DarkeningButtonStyle {
-  /// Of the label's surface.
+  /// The shape of the label's surface.
   ui::ShapeForm form;
-  /// The opacity of the black over it, from 0 to 1.
+  /// The opacity of the black laid over it, from 0 to 1.
   double shade;
 
-  ui::View body(const ui::ButtonConfiguration& configuration,
-                const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::ButtonConfiguration& configuration,
+                              const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

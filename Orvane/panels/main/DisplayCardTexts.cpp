@@ -1,4 +1,4 @@
-// The texts of the display cards that do not come from the display itself.
+// The texts of the display cards that the displays do not provide themselves.
 #include "Orvane/panels/main/DisplayCardTexts.hpp"
 
 #include <algorithm>
@@ -26,7 +26,7 @@ std::string roleLabel(const DisplaySnapshot& display, const std::vector<DisplayS
   }
   const auto main = std::ranges::find_if(displays, &DisplaySnapshot::isMain);
   if (main != displays.end()) {
-    // Upwards is positive in the coordinates of the frames.
+    // Frames are in window-system coordinates: y points upwards.
     const double dx = CGRectGetMidX(display.frame) - CGRectGetMidX(main->frame);
     const double dy = CGRectGetMidY(display.frame) - CGRectGetMidY(main->frame);
     if (std::abs(dx) < std::abs(dy)) {

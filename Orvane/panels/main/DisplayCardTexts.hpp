@@ -1,4 +1,4 @@
-// The texts of the display cards that do not come from the display itself.
+// The texts of the display cards that the displays do not provide themselves.
 #pragma once
 
 #include <cstddef>
@@ -10,12 +10,12 @@
 
 namespace orvane::DisplayCardTexts {
 
-/// The title of the card at `position`, counted from 0, when its display has no name. It is fixed
-/// by the position, not by the kind of the display.
+/// The title of the card at `position`, counted from 0, for a display without a name. It depends
+/// only on the position, not on the kind of display.
 [[nodiscard]] std::string fallbackLabel(std::size_t position, OrvaneLanguage language);
 
-/// Where `display` stands relative to the first main one among `displays`, by the centres of their
-/// frames.
+/// The role of `display` among `displays`: the main one, or its position relative to the first main
+/// one, measured between the centres of their frames. "External Display" when neither applies.
 [[nodiscard]] std::string roleLabel(const DisplaySnapshot& display,
                                     const std::vector<DisplaySnapshot>& displays,
                                     OrvaneLanguage language);

@@ -1,4 +1,4 @@
-// A card that shows one display and chooses it as the target.
+// A card that shows a display and selects it as the target.
 #include "Orvane/panels/main/DisplayChoiceCard.hpp"
 
 #include "Orvane/panels/main/DarkeningButtonStyle.hpp"
@@ -31,7 +31,7 @@ const std::string& DisplayChoiceCard::title() const {
 }
 
 View DisplayChoiceCard::content(bool isDark) const {
-  const Color chosen = OrvanePalette::accentText(isDark);
+  const Color highlight = OrvanePalette::accentText(isDark);
   const View image = Image(display.isBuiltIn ? "DisplayLaptop" : "DisplayMonitor")
                          .resizable(ContentMode::fit)
                          .frame(122, 70)
@@ -40,30 +40,31 @@ View DisplayChoiceCard::content(bool isDark) const {
                                   .y = imageShadowDrop});
   const View name = Text(title())
                         .font(Font::system(13, isSelected ? Weight::bold : Weight::medium))
-                        .foreground(isSelected ? chosen : Color::primary())
+                        .foreground(isSelected ? highlight : Color::primary())
                         .lineLimit(1)
                         .truncationMode(TruncationMode::middle);
   const View role = Text(roleLabel)
                         .font(Font::system(11, Weight::semibold))
-                        .foreground(isSelected ? chosen : Color::secondary())
+                        .foreground(isSelected ? highlight : Color::secondary())
                         .lineLimit(1);
-  // Whatever script the name is written in, all images and all baselines of a row are level.
-  const View words =
+  // Fixed line heights keep the images and baselines of a row level, whatever scripts the names
+  // use.
+  const View texts =
       VStack(titleToRole, {name.lineHeight(nameLineHeight), role.lineHeight(roleLineHeight)});
-  return VStack(imageToTitle, {image, words.textAlignment(TextAlignment::center)})
+  return VStack(imageToTitle, {image, texts.textAlignment(TextAlignment::center)})
       .padding(Edges::horizontal(sidePadding))
       .frame(width, height);
 }
 
 View DisplayChoiceCard::surface(const Environment& environment, bool isRaised) const {
   const bool isDark = environment.isDark();
-  const double raised = isDark ? 0.14 : 0.2;
+  const double raisedOpacity = isDark ? 0.14 : 0.2;
   const Color rim = OrvanePalette::outline(OrvanePalette::controlRim(isDark), environment);
-  const Color chosen =
+  const Color highlight =
       environment.appearance.increaseContrast ? OrvanePalette::accentText(isDark) : Color::accent();
-  const Color border = isSelected ? chosen : rim;
+  const Color border = isSelected ? highlight : rim;
   return RoundedRectangle(cornerRadius)
-      .fill(Color::white().opacity(isRaised ? raised : 0.075))
+      .fill(Color::white().opacity(isRaised ? raisedOpacity : 0.075))
       .strokeBorder(border, isSelected ? 1.3 : 0.8);
 }
 
@@ -86,8 +87,8 @@ View DisplayChoiceCard::body(const Environment& environment) const {
   return Button([environment,
                  action = action] { environment.animate(Curve::spring(0.24, 0.82), action); },
                 card)
-      .style(
-          DarkeningButtonStyle{ShapeForm::rounded(cornerRadius), environment.isDark() ? 0.2 : 0.08})
+      .style(DarkeningButtonStyle{.form = ShapeForm::rounded(cornerRadius),
+                                  .shade = environment.isDark() ? 0.2 : 0.08})
       .focusRing(ShapeForm::rounded(cornerRadius))
       .accessibilityRole(Role::radioButton)
       .accessibilityLabel(title())

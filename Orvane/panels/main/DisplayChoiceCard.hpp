@@ -1,4 +1,4 @@
-// A card that shows one display and chooses it as the target.
+// A card that shows a display and selects it as the target.
 #pragma once
 
 #include <functional>
@@ -16,14 +16,14 @@ struct DisplayChoiceCard {
   static constexpr double cornerRadius = 12;
 
   DisplaySnapshot display;
-  /// Shown when the display has no name.
+  /// The title of a display without a name.
   std::string fallbackLabel;
-  /// Where the display stands, relative to the main one.
+  /// The display's position relative to the main one.
   std::string roleLabel;
   bool isSelected = false;
   std::function<void()> action;
 
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 
  private:
   [[nodiscard]] const std::string& title() const;

@@ -1,4 +1,4 @@
-// The surface of a panel within the main window.
+// The surface of a panel in the main window.
 #include "Orvane/panels/main/DockPanel.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"

@@ -1,4 +1,4 @@
-// The surface of a panel within the main window.
+// The surface of a panel in the main window.
 #pragma once
 
 #include "Orvane/ui/views/View.hpp"
@@ -6,13 +6,13 @@
 namespace orvane {
 
 struct DockPanel {
-  /// Between the surface's edge and its content, in points.
+  /// In points; the padding is between the surface's edges and the content.
   static constexpr double padding = 20;
   static constexpr double cornerRadius = 12;
 
   ui::View content;
 
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

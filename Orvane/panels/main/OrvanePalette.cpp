@@ -1,4 +1,4 @@
-// The colours that give the main panel its look of glass.
+// The colours of the main panel.
 #include "Orvane/panels/main/OrvanePalette.hpp"
 
 namespace orvane::OrvanePalette {
@@ -25,7 +25,7 @@ Gradient windowGradient(bool isDark) {
                 : Gradient::linear({white(0.34), accent(0.055), white(0.12)});
 }
 
-// It ends in white that is clear. Color::clear() is black, and half of the way there would be grey.
+// Ends in transparent white: towards Color::clear(), which is black, it would turn grey.
 Gradient windowTopHighlight(bool isDark) {
   return isDark ? Gradient::linear({white(0.085), white(0.035), white(0)})
                 : Gradient::linear({white(0.28), white(0.12), white(0)});
@@ -36,8 +36,8 @@ Gradient panelOverlayGradient(bool isDark) {
                 : Gradient::linear({white(0.3), white(0.1)});
 }
 
-// The grounds are those of the chosen card where they are nearest to the text's own brightness:
-// over a white wallpaper in the dark, and over a black one by day.
+// The backgrounds are those of the selected card at their worst: over a white wallpaper in dark
+// mode, over a black one in light mode.
 Color accentText(bool isDark, double veil) {
   return Color::accent().textOn(isDark ? 0.078 : 0.81, veil);
 }

@@ -1,4 +1,4 @@
-// The tile with a symbol at the head of a panel.
+// The tile with a symbol in the header of a panel.
 #include "Orvane/panels/main/PanelIcon.hpp"
 
 #include "Orvane/ui/views/Image.hpp"
@@ -11,14 +11,13 @@ using namespace ui;
 namespace {
 
 constexpr double side = 48;
-/// A little under a quarter of the side, the proportion of the Mac's own icon tiles.
+/// Just under a quarter of the side, as on the Mac's icon tiles.
 constexpr double tileRadius = 11;
 
 }  // namespace
 
-// Light falls on the tile from above, as on the buttons. The tint's own gradient is more
-// transparent at its lower end, which over a light ground would be the lighter one: so its ground
-// is dark.
+// The tile is lit from above, as the buttons are. The tint's gradient is more transparent at its
+// lower end, which would look lighter over a light background; hence the dark fill below it.
 View PanelIcon::body(const Environment& /*environment*/) const {
   const Color light = Color::white();
   return Symbol(systemImage)

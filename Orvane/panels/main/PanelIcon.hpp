@@ -1,4 +1,4 @@
-// The tile with a symbol at the head of a panel.
+// The tile with a symbol in the header of a panel.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ struct PanelIcon {
   std::string systemImage;
   ui::Color tint;
 
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

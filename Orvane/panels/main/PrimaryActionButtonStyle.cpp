@@ -1,4 +1,4 @@
-// The look of a panel's one main button.
+// The style of a panel's primary button.
 #include "Orvane/panels/main/PrimaryActionButtonStyle.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"

@@ -1,4 +1,4 @@
-// The look of a panel's one main button.
+// The style of a panel's primary button.
 #pragma once
 
 #include "Orvane/ui/views/ButtonStyle.hpp"
@@ -12,8 +12,8 @@ struct PrimaryActionButtonStyle {
 
   ui::Color tint;
 
-  ui::View body(const ui::ButtonConfiguration& configuration,
-                const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::ButtonConfiguration& configuration,
+                              const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

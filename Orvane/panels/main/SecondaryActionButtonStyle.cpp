@@ -1,4 +1,4 @@
-// The look of the lesser buttons of a panel.
+// The style of a panel's secondary buttons.
 #include "Orvane/panels/main/SecondaryActionButtonStyle.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"

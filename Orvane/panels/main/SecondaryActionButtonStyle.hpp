@@ -1,4 +1,4 @@
-// The look of the lesser buttons of a panel.
+// The style of a panel's secondary buttons.
 #pragma once
 
 #include "Orvane/ui/views/ButtonStyle.hpp"
@@ -10,8 +10,8 @@ struct SecondaryActionButtonStyle {
   static constexpr double height = 34;
   static constexpr double cornerRadius = 8;
 
-  ui::View body(const ui::ButtonConfiguration& configuration,
-                const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::ButtonConfiguration& configuration,
+                              const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

@@ -1,4 +1,4 @@
-// A short word in a capsule that tells whether a mode is on.
+// A capsule with a word that says whether a mode is on.
 #include "Orvane/panels/main/StatusPill.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"

@@ -1,4 +1,4 @@
-// A short word in a capsule that tells whether a mode is on.
+// A capsule with a word that says whether a mode is on.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ struct StatusPill {
   std::string text;
   bool isActive = false;
 
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

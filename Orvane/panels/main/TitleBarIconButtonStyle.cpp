@@ -1,4 +1,4 @@
-// The look of the icon button in the window's own title bar.
+// The style of the icon button in the title bar.
 #include "Orvane/panels/main/TitleBarIconButtonStyle.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"
@@ -9,8 +9,6 @@ namespace orvane {
 using namespace ui;
 
 namespace {
-
-constexpr double buttonRadius = 10;
 
 double backgroundOpacity(bool isDark, bool isPressed) {
   if (isDark) {
@@ -27,7 +25,7 @@ View TitleBarIconButtonStyle::body(const ButtonConfiguration& configuration,
   return configuration.label
       .foreground(isDark ? Color::primary().opacity(0.84) : Color::rgb(0.16, 0.22, 0.34))
       .background(
-          RoundedRectangle(buttonRadius)
+          RoundedRectangle(cornerRadius)
               .castShadow(
                   {.color = Color::black().opacity(isDark ? 0.22 : 0.1), .radius = 5, .y = 2})
               .fill(Color::white().opacity(backgroundOpacity(isDark, configuration.isPressed)))

@@ -1,4 +1,4 @@
-// The look of the icon button in the window's own title bar.
+// The style of the icon button in the title bar.
 #pragma once
 
 #include "Orvane/ui/views/ButtonStyle.hpp"
@@ -6,8 +6,11 @@
 namespace orvane {
 
 struct TitleBarIconButtonStyle {
-  ui::View body(const ui::ButtonConfiguration& configuration,
-                const ui::Environment& environment) const;
+  /// In points.
+  static constexpr double cornerRadius = 10;
+
+  [[nodiscard]] ui::View body(const ui::ButtonConfiguration& configuration,
+                              const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

@@ -1,4 +1,4 @@
-// One of the round buttons at the leading end of the window's own title bar.
+// One of the round buttons at the leading end of the title bar.
 #include "Orvane/panels/main/TrafficLightButton.hpp"
 
 #include <utility>
@@ -57,7 +57,7 @@ View TrafficLightButton::body(const Environment& environment) const {
                   .fill(color)
                   .stroke(stroke.opacity(0.55), 0.7));
   return Button(action, light)
-      .style(DarkeningButtonStyle{ShapeForm::circle(), lightPressedShade})
+      .style(DarkeningButtonStyle{.form = ShapeForm::circle(), .shade = lightPressedShade})
       .outOfTabOrder()
       .accessibilityLabel(label)
       .scale(isHovered.value() ? 1.1 : 1)

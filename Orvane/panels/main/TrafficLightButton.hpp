@@ -1,4 +1,4 @@
-// One of the round buttons at the leading end of the window's own title bar.
+// One of the round buttons at the leading end of the title bar.
 #pragma once
 
 #include <functional>
@@ -14,9 +14,9 @@ struct TrafficLightButton {
   ui::Color hoverIconColor;
   /// The name of a system symbol.
   std::string hoverSystemImage;
-  /// Both lights of a window show their symbols together.
+  /// Both lights show their symbols while the pointer is over either.
   bool showsHoverIcon = false;
-  /// What the button does, for screen readers.
+  /// For screen readers.
   std::string label;
   std::function<void()> action;
 
@@ -25,7 +25,7 @@ struct TrafficLightButton {
   [[nodiscard]] static TrafficLightButton minimise(bool showsHoverIcon, std::string label,
                                                    std::function<void()> action);
 
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

@@ -1,4 +1,4 @@
-// What the caption says, and the way to the page where the user can do something about it.
+// The caption's message, and the button that opens the Login Items page.
 #include "Orvane/panels/settings/LoginItemCaption.hpp"
 
 #include <memory>
@@ -20,7 +20,7 @@ using namespace ui;
 namespace {
 
 constexpr double spacing = 6;
-/// The user may approve or remove the item in the System Settings while the caption is shown.
+/// The user may approve or remove the item in System Settings while the caption is shown.
 constexpr double refreshSeconds = 1.0;
 
 }  // namespace
@@ -31,7 +31,7 @@ bool LoginItemCaption::isNeeded() const {
 }
 
 std::string LoginItemCaption::message() const {
-  // What the user can do something about comes first.
+  // Approval comes first: it is the only problem that the user can solve on the spot.
   if (model->launchAtLoginRequiresApproval().value()) {
     return model->localized("Approve Orvane in Login Items", "请在“登录项”中允许 Orvane");
   }
@@ -43,7 +43,7 @@ std::string LoginItemCaption::message() const {
 }
 
 View LoginItemCaption::body(const Environment& environment) const {
-  // It ends with the view, whose state it is.
+  // As state of the view it ends with the view.
   const State<std::shared_ptr<appkit::Timer>> refreshTimer =
       environment.state("refreshTimer", std::shared_ptr<appkit::Timer>());
   const View text = Text(message())
@@ -55,13 +55,13 @@ View LoginItemCaption::body(const Environment& environment) const {
              Text(model->localized("Login Items…", "登录项…")).fixedSize())
           .style(SettingsSecondaryButtonStyle{})
           .focusRing(ShapeForm::rounded(SettingsSecondaryButtonStyle::cornerRadius));
-  const View mark = Symbol("exclamationmark.triangle.fill")
-                        .font(Font::system(12, Weight::semibold))
-                        .foreground(Color::orange());
-  // No page of the System Settings moves the application.
-  const bool hasPage =
+  const View warning = Symbol("exclamationmark.triangle.fill")
+                           .font(Font::system(12, Weight::semibold))
+                           .foreground(Color::orange());
+  // The Login Items page does not help when the application has to be moved.
+  const bool pageHelps =
       model->launchAtLoginRequiresApproval().value() || !model->isLaunchAtLoginMisplaced();
-  return HStack(spacing, {mark, text, when(hasPage, button)})
+  return HStack(spacing, {warning, text, when(pageHelps, button)})
       .onAppear([model = model, refreshTimer] {
         refreshTimer.set(std::make_shared<appkit::Timer>(
             appkit::Timer::repeating(refreshSeconds, appkit::RunLoopMode::common,

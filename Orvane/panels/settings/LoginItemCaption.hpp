@@ -1,5 +1,5 @@
-// A caption in the header of the settings, only while the login item has something to say: that its
-// registration failed, that the user has to approve it, or has to install the application first.
+// A caption in the header of the settings about a problem with the login item: its registration
+// failed, needs the user's approval, or needs the application to be installed first.
 #pragma once
 
 #include <string>
@@ -13,9 +13,9 @@ struct LoginItemCaption {
   /// Must outlive the view.
   OrvaneModel* model;
 
-  /// Whether there is something to say.
+  /// Whether there is a problem to report.
   [[nodiscard]] bool isNeeded() const;
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 
  private:
   [[nodiscard]] std::string message() const;

@@ -1,5 +1,5 @@
-// The content of the settings window: its surface and header, and the entrance of the cards, which
-// are in OrvaneSettingsViewCards.cpp.
+// The settings window's surface and header, and the entrance of its cards. The cards themselves are
+// in OrvaneSettingsViewCards.cpp.
 #include "Orvane/panels/settings/OrvaneSettingsView.hpp"
 
 #include "Orvane/panels/settings/LoginItemCaption.hpp"
@@ -10,6 +10,7 @@
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
+#include "Orvane/windows/OrvaneSettingsWindow.hpp"
 
 namespace orvane {
 
@@ -20,8 +21,8 @@ namespace {
 constexpr double tileSide = 30;
 constexpr double tileCornerRadius = 8;
 constexpr Edges headerPadding{.top = 8, .leading = 18, .bottom = 8, .trailing = 18};
-/// At least so much above and below the cards.
-constexpr double leastMargin = 10;
+/// Above and below the cards.
+constexpr double minimumMargin = 10;
 constexpr double entranceOffset = 10;
 constexpr double entranceSeconds = 0.24;
 
@@ -39,7 +40,7 @@ View headerTile() {
 
 }  // namespace
 
-std::function<void()> OrvaneSettingsView::closing(const Environment& environment) const {
+std::function<void()> OrvaneSettingsView::closeAction(const Environment& environment) const {
   return [onClose = onClose, environment] {
     if (onClose) {
       onClose();
@@ -49,8 +50,8 @@ std::function<void()> OrvaneSettingsView::closing(const Environment& environment
   };
 }
 
-View OrvaneSettingsView::closingByCommand(const Environment& environment) const {
-  return Button(closing(environment), Rectangle().frame(0, 0))
+View OrvaneSettingsView::hiddenCloseButton(const Environment& environment) const {
+  return Button(closeAction(environment), Rectangle().frame(0, 0))
       .keyboardShortcut(KeyboardShortcut::command("w"))
       .opacity(0)
       .hitTesting(false)
@@ -60,14 +61,14 @@ View OrvaneSettingsView::closingByCommand(const Environment& environment) const 
 View OrvaneSettingsView::header(const Environment& environment) const {
   const std::string closeTitle = model->localized("Close", "关闭");
   const View closeButton =
-      Button(closing(environment),
+      Button(closeAction(environment),
              Symbol("xmark").font(Font::system(12, Weight::bold)).frame(28, 28))
           .style(SettingsIconButtonStyle{})
           .outOfTabOrder()
           .keyboardShortcut(KeyboardShortcut::cancelAction())
           .tooltip(closeTitle)
           .accessibilityLabel(closeTitle);
-  const LoginItemCaption caption{model};
+  const LoginItemCaption caption{.model = model};
   return HStack(10, {headerTile(),
                      Text(model->localized("Settings", "设置"))
                          .font(Font::system(17, Weight::bold))
@@ -86,9 +87,9 @@ View OrvaneSettingsView::body(const Environment& environment) const {
   const View sections = cards()
                             .opacity(hasAppeared.value() ? 1 : 0)
                             .offset(0, hasAppeared.value() ? 0 : entranceOffset);
-  return VStack(0, {header(environment), Spacer(leastMargin), sections, Spacer(leastMargin)})
-      .frame(width, height)
-      .background(closingByCommand(environment))
+  return VStack(0, {header(environment), Spacer(minimumMargin), sections, Spacer(minimumMargin)})
+      .frame(OrvaneSettingsWindow::contentSize.width, OrvaneSettingsWindow::contentSize.height)
+      .background(hiddenCloseButton(environment))
       .background(Rectangle().fill(SettingsPalette::windowGradient(environment.isDark())))
       .onAppear([model = model, hasAppeared] {
         model->refreshLaunchAtLoginStatus();

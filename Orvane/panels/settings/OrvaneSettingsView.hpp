@@ -9,22 +9,17 @@
 namespace orvane {
 
 struct OrvaneSettingsView {
-  /// In points.
-  static constexpr double width = 420;
-  static constexpr double height = 476;
-
   /// Must outlive the view.
   OrvaneModel* model;
-  /// Unset: closing asks for the end of what the view is shown in.
+  /// When unset, closing dismisses the view's window.
   std::function<void()> onClose;
 
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 
  private:
-  /// What closes the panel.
-  [[nodiscard]] std::function<void()> closing(const ui::Environment& environment) const;
-  /// The close button has Escape; this is Command-W, for the keyboard alone.
-  [[nodiscard]] ui::View closingByCommand(const ui::Environment& environment) const;
+  [[nodiscard]] std::function<void()> closeAction(const ui::Environment& environment) const;
+  /// Handles Command-W; the visible close button handles Escape.
+  [[nodiscard]] ui::View hiddenCloseButton(const ui::Environment& environment) const;
   [[nodiscard]] ui::View header(const ui::Environment& environment) const;
   [[nodiscard]] ui::View cards() const;
   [[nodiscard]] ui::View languageCard() const;

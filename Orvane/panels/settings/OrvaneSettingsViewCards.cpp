@@ -10,6 +10,7 @@
 #include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/panels/settings/SettingsSecondaryButtonStyle.hpp"
 #include "Orvane/panels/settings/SettingsSection.hpp"
+#include "Orvane/panels/settings/ShortcutText.hpp"
 #include "Orvane/ui/views/Button.hpp"
 #include "Orvane/ui/views/Image.hpp"
 #include "Orvane/ui/views/Picker.hpp"
@@ -31,7 +32,7 @@ constexpr double labelToPicker = 8;
 constexpr double languagePickerWidth = 160;
 constexpr double shortcutPickerWidth = 150;
 
-/// Where a case stands among all cases; every case does.
+/// The index of `value` in `allCases`, which must contain it.
 template <typename Cases, typename Value>
 int indexIn(const Cases& allCases, Value value) {
   return static_cast<int>(std::ranges::find(allCases, value) - allCases.begin());
@@ -50,7 +51,7 @@ View statement(const std::string& text) {
       .fixedSizeVertical();
 }
 
-/// A picker and what it chooses.
+/// A picker after its label.
 View pickerRow(const std::string& label, const Picker& picker, double pickerWidth) {
   return HStack(
       0, {Text(label).fixedSizeVertical(), Spacer(labelToPicker), View(picker).width(pickerWidth)});
@@ -74,7 +75,7 @@ View OrvaneSettingsView::cards() const {
 
 View OrvaneSettingsView::languageCard() const {
   const std::string title = model->localized("Language", "语言");
-  // In the order of the cases; the name of English is the same in both languages, on purpose.
+  // In the order of the cases. English has the same name in both languages, intentionally.
   const std::vector<std::string> names = {model->localized("Follow System", "跟随系统"), "English",
                                           model->localized("Chinese", "中文")};
   const Picker picker{
@@ -95,7 +96,7 @@ View OrvaneSettingsView::shortcutCard() const {
   std::vector<std::string> names;
   names.reserve(OrvaneModifier::allCases.size());
   for (const OrvaneModifier modifier : OrvaneModifier::allCases) {
-    names.emplace_back(modifier.shortcutText());
+    names.emplace_back(shortcutText(modifier));
   }
   const Picker picker{
       .label = title,

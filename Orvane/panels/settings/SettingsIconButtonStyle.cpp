@@ -1,4 +1,4 @@
-// The look of the close button of the settings panel.
+// The style of the close button of the settings panel.
 #include "Orvane/panels/settings/SettingsIconButtonStyle.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"

@@ -1,4 +1,4 @@
-// The look of the close button of the settings panel.
+// The style of the close button of the settings panel.
 #pragma once
 
 #include "Orvane/ui/views/ButtonStyle.hpp"
@@ -6,8 +6,8 @@
 namespace orvane {
 
 struct SettingsIconButtonStyle {
-  ui::View body(const ui::ButtonConfiguration& configuration,
-                const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::ButtonConfiguration& configuration,
+                              const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

@@ -1,4 +1,4 @@
-// The colours of the settings panel, cooler and more blue than those of the main panel.
+// The colours of the settings panel, cooler and bluer than those of the main panel.
 #pragma once
 
 #include "Orvane/ui/draw/Color.hpp"
@@ -15,7 +15,7 @@ namespace orvane::SettingsPalette {
 [[nodiscard]] ui::Color windowBottom();
 [[nodiscard]] ui::Color buttonFill();
 
-/// Of the statements: fainter than the titles, and never below a contrast of 4.5 to 1.
+/// For paragraphs: fainter than titles, with a contrast of at least 4.5 to 1.
 [[nodiscard]] ui::Color statementText();
 
 [[nodiscard]] ui::Gradient windowGradient(bool isDark);

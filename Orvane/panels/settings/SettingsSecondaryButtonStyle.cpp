@@ -1,4 +1,4 @@
-// The look of the buttons within the cards of the settings panel.
+// The style of the buttons in the cards of the settings panel.
 #include "Orvane/panels/settings/SettingsSecondaryButtonStyle.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"
@@ -15,10 +15,9 @@ constexpr double height = 25;
 constexpr double buttonPadding = 11;
 constexpr double rimOpacityDark = 0.16;
 constexpr double rimOpacityLight = 0.18;
-/// As the close button has it.
 constexpr double pressedSeconds = 0.12;
 
-/// Laid over the fill while the button is held down.
+/// Lies over the fill while the button is pressed.
 Color pressedVeil(bool isDark) {
   return isDark ? Color::white().opacity(0.14) : SettingsPalette::blue().opacity(0.22);
 }

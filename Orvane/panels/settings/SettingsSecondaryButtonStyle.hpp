@@ -1,4 +1,4 @@
-// The look of the buttons within the cards of the settings panel.
+// The style of the buttons in the cards of the settings panel.
 #pragma once
 
 #include "Orvane/ui/views/ButtonStyle.hpp"
@@ -6,10 +6,11 @@
 namespace orvane {
 
 struct SettingsSecondaryButtonStyle {
+  /// In points.
   static constexpr double cornerRadius = 8;
 
-  ui::View body(const ui::ButtonConfiguration& configuration,
-                const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::ButtonConfiguration& configuration,
+                              const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

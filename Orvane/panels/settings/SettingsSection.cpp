@@ -1,4 +1,4 @@
-// One card of the settings panel.
+// A card of the settings panel.
 #include "Orvane/panels/settings/SettingsSection.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"
@@ -16,10 +16,10 @@ namespace {
 constexpr double cornerRadius = 10;
 constexpr double rowSpacing = 12;
 constexpr double headerSpacing = 8;
-/// The symbols differ in height; the row is as high as the title.
+/// The header is as high as its title; the symbols differ in height.
 constexpr double symbolWidth = 20;
 constexpr double titleHeight = 17;
-/// Four cards must fit into the panel, so there is little to give above and below.
+/// Small above and below, because four cards must fit into the panel.
 constexpr Edges cardPadding{.top = 7, .leading = 14, .bottom = 7, .trailing = 14};
 constexpr double hoverSeconds = 0.16;
 
@@ -60,16 +60,16 @@ View SettingsSection::body(const Environment& environment) const {
                                                  .font(Font::system(14, Weight::bold))
                                                  .lineHeight(titleHeight)
                                                  .accessibilityRole(Role::heading)});
-  const double radius = isHovered ? 12 : 8;
-  const double drop = isHovered ? 5 : 3;
+  const double shadowRadius = isHovered ? 12 : 8;
+  const double shadowOffset = isHovered ? 5 : 3;
   const View surface =
       RoundedRectangle(cornerRadius)
           .castShadow({.color = tint.opacity(tintShadowOpacity(isDark, isHovered)),
-                       .radius = radius,
-                       .y = drop})
+                       .radius = shadowRadius,
+                       .y = shadowOffset})
           .castShadow({.color = Color::black().opacity(blackShadowOpacity(isDark, isHovered)),
-                       .radius = radius,
-                       .y = drop})
+                       .radius = shadowRadius,
+                       .y = shadowOffset})
           .fill(Color::white().opacity(isDark ? 0.045 : 0.5))
           .fill(backgroundTint)
           .stroke(Color::white().opacity(isDark ? 0.22 : 0.38), 1)

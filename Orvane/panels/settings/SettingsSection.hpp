@@ -1,4 +1,4 @@
-// One card of the settings panel.
+// A card of the settings panel.
 #pragma once
 
 #include <string>
@@ -11,13 +11,13 @@ struct SettingsSection {
   /// The name of a system symbol.
   std::string systemImage;
   std::string title;
-  /// Of the symbol, the border and the shadow.
+  /// The colour of the symbol, the border and the shadow.
   ui::Color tint;
-  /// Of the card's surface.
+  /// The tint of the card's surface.
   ui::Color backgroundTint;
   ui::View content;
 
-  ui::View body(const ui::Environment& environment) const;
+  [[nodiscard]] ui::View body(const ui::Environment& environment) const;
 };
 
 }  // namespace orvane
