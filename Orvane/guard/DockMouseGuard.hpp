@@ -57,7 +57,6 @@ class DockMouseGuard {
 
   /// The guard is running when it holds an event tap.
   [[nodiscard]] bool isRunning() const { return static_cast<bool>(eventTap_); }
-  [[nodiscard]] CFMachPortRef eventTap() const { return eventTap_.get(); }
   /// Whether there are zones to guard but the system refused the last tap.
   [[nodiscard]] bool isTapRefused() const { return !eventTap_ && !cachedTriggerZones_.empty(); }
   [[nodiscard]] GuardSnapshot snapshot() const;

@@ -11,7 +11,7 @@ class TapWatchTest : public ModelFixture {
  protected:
   void watch() { tapWatch.emplace(*model); }
   [[nodiscard]] bool isTapEnabled() const {
-    return model->isGuardRunning() && CGEventTapIsEnabled(model->guardService().eventTap());
+    return model->isGuardRunning() && machine.eventTaps.isAnyEnabled();
   }
 
   /// The permission goes and the tap with it, but no notification comes.

@@ -24,18 +24,15 @@ constexpr std::array<Expected, 4> inOrder = {{
     {OrvaneModifier::command, "command", 0x100000, "⌘ Command"},
 }};
 
-TEST(OrvaneModifierTest, AllCasesComeInTheOrderInWhichTheyAreOffered) {
+TEST(OrvaneModifierTest, TheCasesComeInOrderWithTheirRawValuesMasksAndTexts) {
   ASSERT_EQ(OrvaneModifier::allCases.size(), inOrder.size());
   for (std::size_t index = 0; index < inOrder.size(); ++index) {
-    EXPECT_EQ(OrvaneModifier::allCases[index], inOrder[index].modifier);
-  }
-}
-
-TEST(OrvaneModifierTest, EachHasItsRawValueMaskAndText) {
-  for (const Expected& expected : inOrder) {
-    EXPECT_EQ(expected.modifier.rawValue(), expected.rawValue);
-    EXPECT_EQ(expected.modifier.flagMask(), expected.mask);
-    EXPECT_EQ(expected.modifier.shortcutText(), expected.shortcutText);
+    const OrvaneModifier modifier = OrvaneModifier::allCases[index];
+    const Expected& expected = inOrder[index];
+    EXPECT_EQ(modifier, expected.modifier);
+    EXPECT_EQ(modifier.rawValue(), expected.rawValue);
+    EXPECT_EQ(modifier.flagMask(), expected.mask);
+    EXPECT_EQ(modifier.shortcutText(), expected.shortcutText);
     EXPECT_EQ(OrvaneModifier::fromRawValue(expected.rawValue), expected.modifier);
   }
 }
