@@ -16,7 +16,6 @@ class RecentBlockTimestamps {
   static constexpr double windowSeconds = 2.0;
 
   [[nodiscard]] std::size_t size() const { return count_; }
-  [[nodiscard]] bool isEmpty() const { return count_ == 0; }
   /// `index` must be less than the size; the oldest timestamp is at 0.
   [[nodiscard]] double at(std::size_t index) const { return timestamps_[wrapped(oldest_ + index)]; }
 

@@ -11,14 +11,17 @@ namespace orvane::appkit {
 using desk::WindowServer;
 
 void Application::setDelegate(ApplicationDelegate delegate) {
+  desk::recordCall("Application.setDelegate");
   WindowServer::current().application.setDelegate(std::move(delegate));
 }
 
 void Application::setActivationPolicy(ActivationPolicy policy) {
+  desk::recordCall("Application.setActivationPolicy", {static_cast<std::int64_t>(policy)});
   desk::Machine::current().application.activationPolicy = policy;
 }
 
 void Application::activateIgnoringOtherApps() {
+  desk::recordCall("Application.activateIgnoringOtherApps");
   WindowServer::current().focus.activate();
 }
 
@@ -27,6 +30,7 @@ void Application::hide() {
 }
 
 void Application::terminate() {
+  desk::recordCall("Application.terminate");
   WindowServer::current().application.terminate();
 }
 
@@ -46,6 +50,7 @@ CGPoint Application::mouseLocation() {
 }
 
 void Application::runModal(const Window& window, std::function<void(int response)> ended) {
+  desk::recordCall("Application.runModal");
   WindowServer::current().modal.run(window.implementation(), std::move(ended));
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "desk/canvas/SymbolLibrary.hpp"
+#include "desk/machine/Machine.hpp"
 #include "desk/windows/Implementations.hpp"
 
 namespace orvane::appkit {
@@ -15,6 +16,7 @@ Image::Image(std::shared_ptr<Implementation> implementation)
 std::optional<Image> Image::systemSymbol(std::string_view name,
                                          std::string_view accessibilityDescription,
                                          double pointSize, SymbolWeight /*weight*/) {
+  desk::recordCall("Image.systemSymbol", {name, accessibilityDescription, pointSize});
   if (!desk::SymbolLibrary::contains(std::string(name))) {
     return std::nullopt;
   }
@@ -24,10 +26,12 @@ std::optional<Image> Image::systemSymbol(std::string_view name,
 }
 
 void Image::setTemplate(bool isTemplate) {
+  desk::recordCall("Image.setTemplate", {isTemplate});
   implementation_->isTemplate = isTemplate;
 }
 
 void Image::setSize(CGSize size) {
+  desk::recordCall("Image.setSize", {size.width, size.height});
   implementation_->size = size;
 }
 

@@ -6,6 +6,7 @@
 namespace orvane::appkit {
 
 LoginItem::Status LoginItem::status() {
+  desk::recordCall("LoginItem.status");
   return desk::Machine::current().loginItem.status;
 }
 

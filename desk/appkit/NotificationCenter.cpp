@@ -11,6 +11,7 @@ struct ObserverToken::Implementation {
 };
 
 ObserverToken NotificationCenter::addObserver(NotificationName name, std::function<void()> block) {
+  desk::recordCall("NotificationCenter.addObserver");
   return ObserverToken(
       std::make_shared<ObserverToken::Implementation>(ObserverToken::Implementation{
           desk::Machine::current().observers.add(name, std::move(block))}));

@@ -27,6 +27,7 @@ Screen::Screen(std::shared_ptr<const Implementation> implementation)
     : implementation_(std::move(implementation)) {}
 
 std::vector<Screen> Screen::screens() {
+  desk::recordCall("Screen.screens");
   const desk::Machine& machine = desk::Machine::current();
   std::vector<Screen> all;
   for (const desk::Display& display : machine.displays.all()) {

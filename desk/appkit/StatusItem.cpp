@@ -21,24 +21,30 @@ bool looksTheSame(const desk::SymbolImage* first, const desk::SymbolImage* secon
 
 }  // namespace
 
-StatusItem::StatusItem() : implementation_(std::make_unique<Implementation>()) {}
+StatusItem::StatusItem() : implementation_(std::make_unique<Implementation>()) {
+  desk::recordCall("StatusItem");
+}
 StatusItem::StatusItem(StatusItem&&) noexcept = default;
 StatusItem& StatusItem::operator=(StatusItem&&) noexcept = default;
 StatusItem::~StatusItem() = default;
 
 void StatusItem::setSquareLength() {
+  desk::recordCall("StatusItem.setSquareLength");
   implementation_->hasSquareLength = true;
 }
 
 void StatusItem::setImagePosition(ImagePosition position) {
+  desk::recordCall("StatusItem.setImagePosition", {static_cast<std::int64_t>(position)});
   implementation_->imagePosition = position;
 }
 
 void StatusItem::setImageScaling(ImageScaling scaling) {
+  desk::recordCall("StatusItem.setImageScaling", {static_cast<std::int64_t>(scaling)});
   implementation_->imageScaling = scaling;
 }
 
 void StatusItem::setImage(const std::optional<Image>& image) {
+  desk::recordCall("StatusItem.setImage", {image.has_value()});
   const auto before =
       std::exchange(implementation_->image, image ? image->implementation() : nullptr);
   // The same image does not need redrawing.
@@ -48,14 +54,17 @@ void StatusItem::setImage(const std::optional<Image>& image) {
 }
 
 void StatusItem::setAccessibilityValue(std::string_view value) {
+  desk::recordCall("StatusItem.setAccessibilityValue", {value});
   implementation_->accessibilityValue = value;
 }
 
 void StatusItem::setMenu(const Menu& menu) {
+  desk::recordCall("StatusItem.setMenu");
   implementation_->menu = menu.implementation();
 }
 
 void StatusItem::setAutosaveName(std::string_view name) {
+  desk::recordCall("StatusItem.setAutosaveName", {name});
   implementation_->autosaveName = name;
 }
 

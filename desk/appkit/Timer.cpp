@@ -12,6 +12,7 @@ struct Timer::Implementation {
 };
 
 Timer Timer::repeating(double intervalSeconds, RunLoopMode mode, std::function<void()> tick) {
+  desk::recordCall("Timer.repeating", {intervalSeconds, mode == RunLoopMode::common});
   const desk::RunLoop::ModeSet modes =
       mode == RunLoopMode::common
           ? desk::RunLoop::commonModes

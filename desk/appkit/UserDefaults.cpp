@@ -31,12 +31,14 @@ std::optional<bool> UserDefaults::boolean(std::string_view key) {
 }
 
 void UserDefaults::setString(std::string_view key, std::string_view value) {
+  desk::recordCall("UserDefaults.setString", {key, value});
   if (canWrite()) {
     desk::Machine::current().userDefaults.set(key, std::string(value));
   }
 }
 
 void UserDefaults::setBoolean(std::string_view key, bool value) {
+  desk::recordCall("UserDefaults.setBoolean", {key, value});
   if (canWrite()) {
     desk::Machine::current().userDefaults.set(key, value);
   }

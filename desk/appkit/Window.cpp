@@ -20,7 +20,9 @@ constexpr std::int64_t floatingLevel = 3;
 }  // namespace
 
 Window::Window(WindowKind kind, CGRect contentRect, std::uint64_t styleMask)
-    : implementation_(std::make_shared<Implementation>(kind, contentRect, styleMask)) {}
+    : implementation_(std::make_shared<Implementation>(kind, contentRect, styleMask)) {
+  desk::recordCall("Window");
+}
 
 Window::Window(std::shared_ptr<Implementation> implementation)
     : implementation_(std::move(implementation)) {}
@@ -166,10 +168,12 @@ void Window::miniaturize() {
 }
 
 void Window::deminiaturize() {
+  desk::recordCall("Window.deminiaturize", {implementation_->className});
   WindowServer::current().deminiaturize(implementation_);
 }
 
 void Window::makeKeyAndOrderFront() {
+  desk::recordCall("Window.makeKeyAndOrderFront", {implementation_->className});
   const std::shared_ptr<Implementation> kept = implementation_;
   WindowServer& server = WindowServer::current();
   server.deminiaturize(kept);
@@ -182,6 +186,7 @@ void Window::makeKeyWindow() {
 }
 
 void Window::orderFrontRegardless() {
+  desk::recordCall("Window.orderFrontRegardless", {implementation_->className});
   const std::shared_ptr<Implementation> kept = implementation_;
   WindowServer& server = WindowServer::current();
   server.deminiaturize(kept);
@@ -189,16 +194,21 @@ void Window::orderFrontRegardless() {
 }
 
 void Window::close() {
+  desk::recordCall("Window.close", {implementation_->className});
   // The callback may drop every handle, this one too.
   const std::shared_ptr<Implementation> kept = implementation_;
   WindowServer::current().close(kept);
 }
 
 void Window::addChildWindowAbove(const Window& child) {
+  desk::recordCall("Window.addChildWindowAbove",
+                   {implementation_->className, child.implementation_->className});
   WindowServer::current().addChild(implementation_, child.implementation_);
 }
 
 void Window::removeChildWindow(const Window& child) {
+  desk::recordCall("Window.removeChildWindow",
+                   {implementation_->className, child.implementation_->className});
   WindowServer::current().removeChild(implementation_, child.implementation_);
 }
 

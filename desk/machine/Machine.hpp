@@ -23,6 +23,7 @@
 #include "desk/machine/ObjectRegistry.hpp"
 #include "desk/machine/Observers.hpp"
 #include "desk/machine/Permission.hpp"
+#include "desk/machine/PlatformCalls.hpp"
 #include "desk/machine/Pointer.hpp"
 #include "desk/machine/Preferences.hpp"
 #include "desk/machine/Process.hpp"
@@ -60,6 +61,7 @@ class Machine {
   Faults faults;
   Clock clock;
   Counters counters;
+  PlatformCalls calls;
   ObjectRegistry objects{faults};
   RunLoop runLoop{clock, faults};
   Observers observers;

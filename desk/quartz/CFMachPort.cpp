@@ -14,6 +14,7 @@ void __CFMachPort::lastReferenceGone() {
 
 void CFMachPortInvalidate(CFMachPortRef port) {
   Machine& machine = Machine::current();
+  orvane::desk::recordCall("CFMachPortInvalidate");
   auto* const object = static_cast<__CFMachPort*>(
       machine.objects.find(port, ObjectKind::machPort, "CFMachPortInvalidate"));
   if (object == nullptr || !object->isValid) {

@@ -91,11 +91,14 @@ void removeSourcesOf(CFMachPortRef port) {
 }  // namespace orvane::desk
 
 CFRunLoopSourceRef CFMachPortCreateRunLoopSource(CFAllocatorRef, CFMachPortRef port, CFIndex) {
-  const auto* const object = portBehind(port, "CFMachPortCreateRunLoopSource");
-  if (object == nullptr || !object->isValid || Machine::current().runLoop.refusesSources()) {
+  constexpr const char* operation = "CFMachPortCreateRunLoopSource";
+  Machine& machine = Machine::current();
+  orvane::desk::recordCall(operation);
+  const auto* const object = portBehind(port, operation);
+  if (object == nullptr || !object->isValid || machine.runLoop.refusesSources()) {
     return nullptr;
   }
-  return Machine::current().objects.add(std::make_unique<__CFRunLoopSource>(port));
+  return machine.objects.add(std::make_unique<__CFRunLoopSource>(port));
 }
 
 CFRunLoopRef CFRunLoopGetCurrent() {
@@ -107,6 +110,7 @@ CFRunLoopRef CFRunLoopGetCurrent() {
 void CFRunLoopAddSource(CFRunLoopRef runLoop, CFRunLoopSourceRef source, CFRunLoopMode mode) {
   constexpr const char* operation = "CFRunLoopAddSource";
   Machine& machine = Machine::current();
+  orvane::desk::recordCall(operation);
   const auto* const object = sourceBehind(source, operation);
   const RunLoop::ModeSet modes = modesNamed(mode, operation);
   if (!isRunLoop(runLoop, operation) || object == nullptr || modes == 0) {
@@ -125,6 +129,7 @@ void CFRunLoopAddSource(CFRunLoopRef runLoop, CFRunLoopSourceRef source, CFRunLo
 void CFRunLoopRemoveSource(CFRunLoopRef runLoop, CFRunLoopSourceRef source, CFRunLoopMode mode) {
   constexpr const char* operation = "CFRunLoopRemoveSource";
   Machine& machine = Machine::current();
+  orvane::desk::recordCall(operation);
   const auto* const object = sourceBehind(source, operation);
   const RunLoop::ModeSet modes = modesNamed(mode, operation);
   if (!isRunLoop(runLoop, operation) || object == nullptr || modes == 0) {

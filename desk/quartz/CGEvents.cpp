@@ -24,6 +24,7 @@ CFMachPortRef CGEventTapCreate(CGEventTapLocation, CGEventTapPlacement place,
                                CGEventTapOptions options, CGEventMask eventsOfInterest,
                                CGEventTapCallBack callback, void* userInfo) {
   Machine& machine = Machine::current();
+  orvane::desk::recordCall("CGEventTapCreate");
   if (!machine.permission.isTrusted()) {
     return nullptr;
   }
@@ -32,6 +33,7 @@ CFMachPortRef CGEventTapCreate(CGEventTapLocation, CGEventTapPlacement place,
 }
 
 void CGEventTapEnable(CFMachPortRef tap, bool enable) {
+  orvane::desk::recordCall("CGEventTapEnable", {enable});
   if (EventTap* const found = tapOf(tap, "CGEventTapEnable")) {
     found->isEnabled = enable && found->canBeEnabled;
   }

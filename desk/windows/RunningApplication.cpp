@@ -19,15 +19,14 @@ void RunningApplication::finishLaunching() {
   }
 }
 
-void RunningApplication::reopen() {
+bool RunningApplication::reopen() {
   const auto windows = server_.windows();
   const bool hasVisible = std::any_of(windows.begin(), windows.end(), [&](const auto& window) {
     return window->owner == WindowOwner::application && server_.isVisible(*window);
   });
   server_.focus.activate();
-  if (const auto reopened = delegate_.shouldHandleReopen) {
-    reopened(hasVisible);
-  }
+  const auto reopened = delegate_.shouldHandleReopen;
+  return !reopened || reopened(hasVisible);
 }
 
 bool RunningApplication::performKeyEquivalent(const ui::KeyEvent& event) {

@@ -16,9 +16,9 @@ class RunningApplication {
 
   /// The system has started the application.
   void finishLaunching();
-  /// The user opens the running application again. It becomes active and, unless the delegate
-  /// answers no, nothing else happens: there is no document to make.
-  void reopen();
+  /// The user opens the running application again, which makes it active. Returns the delegate's
+  /// answer, which has no effect: there is no document to create.
+  bool reopen();
   /// Whether a key meant something to the application, whose window had no use for it.
   bool performKeyEquivalent(const ui::KeyEvent& event);
   /// The delegate is told, and the process ends as soon as what runs now has returned.

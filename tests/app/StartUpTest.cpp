@@ -1,13 +1,13 @@
-// The order of the start-up, of the menu and of its actions, as the platform sees it: every call,
-// and no other.
+// The application's calls of the platform interface, in their order: at launch, when the menu
+// opens, and for each action of the menu.
 #include "tests/app/AppFixture.hpp"
-#include "tests/app/SeamRecorder.hpp"
+#include "tests/support/CallRecorder.hpp"
 
 namespace orvane {
 namespace {
 
 /// Activation policy 1 is accessory; image position 1 is image-only, scaling 0 proportionally-down.
-const std::string untilTheModel = R"(Application.setDelegate
+const std::string statusItemCalls = R"(Application.setDelegate
 Application.setActivationPolicy 1
 StatusItem
 StatusItem.setAutosaveName "Orvane"
@@ -18,50 +18,60 @@ Menu.onWillOpen
 StatusItem.setMenu
 )";
 
-/// The model comes into being when its language is first observed.
-const std::string theModel = R"(AXIsProcessTrusted
+/// The model is created when its language is first observed.
+const std::string modelCalls = R"(AXIsProcessTrusted
 LoginItem.status
 LoginItem.status
 NotificationCenter.addObserver
 )";
 
-/// Nobody has listed the displays yet.
-const std::string theFirstMenu = R"(Menu.insertItem 0 "Open at Login"
-Menu.insertItem 1 -
+/// The displays have not been listed yet.
+const std::string firstMenuCalls = R"(Menu.insertItem 0 "Open at Login"
+Menu.insertItem 1 ""
 Menu.insertItem 2 "Prevent Dock Pop-Up"
 Menu.insertItem 3 "Pin Dock"
-Menu.insertItem 4 -
+Menu.insertItem 4 ""
 Menu.insertItem 5 "Choose Display"
 Menu.insertItem 6 "No displays detected"
-Menu.insertItem 7 -
+Menu.insertItem 7 ""
 Menu.insertItem 8 "Open Window"
 Menu.insertItem 9 "Settings"
 Menu.insertItem 10 "Quit"
 )";
 
-/// The second display is one more than the row that says there is none.
-std::string theMenuOfTwoDisplays(const std::string& callForStudio) {
+const std::string timerCall = "Timer.repeating 1 true\n";
+const std::string tapWatchCalls = timerCall + "NotificationCenter.addObserver\n";
+const std::string activateCall = "Application.activateIgnoringOtherApps\n";
+/// The model refreshes the displays, selects a display if it has none, and then asks for the
+/// permission.
+std::string refreshCalls(const std::string& select) {
+  return "Screen.screens\n" + select + "AXIsProcessTrusted\n";
+}
+
+/// The second display replaces none of the first menu's rows.
+std::string menuCalls(const std::string& callForSecondDisplay) {
   return R"calls(Menu.changeItem 0 "Open at Login"
 Menu.changeItem 2 "Prevent Dock Pop-Up"
 Menu.changeItem 3 "Pin Dock"
 Menu.changeItem 5 "Choose Display"
 Menu.changeItem 6 "Display (Main)"
-Menu.)calls" +
-         callForStudio + R"( 7 "Studio"
+)calls" + callForSecondDisplay +
+         R"( 7 "Studio"
 Menu.changeItem 9 "Open Window"
 Menu.changeItem 10 "Settings"
 Menu.changeItem 11 "Quit"
 )";
 }
 
-const std::string theTimer = "Timer.repeating 1 common\n";
-const std::string theWatch = "Timer.repeating 1 common\nNotificationCenter.addObserver\n";
-
-std::string theIcon(const std::string& name) {
-  return "Image.systemSymbol \"" + name +
-         "\" \"Orvane\" 16\nImage.setTemplate true\nImage.setSize 18 18\nStatusItem.setImage\n"
+std::string iconCalls(const std::string& symbol) {
+  return "Image.systemSymbol \"" + symbol +
+         "\" \"Orvane\" 16\nImage.setTemplate true\nImage.setSize 18 18\nStatusItem.setImage true\n"
          "StatusItem.setAccessibilityValue \"" +
-         (name == "lock.fill" ? "Locked" : "Unlocked") + "\"\n";
+         (symbol == "lock.fill" ? "Locked" : "Unlocked") + "\"\n";
+}
+
+std::string selectCall(char display) {
+  return "UserDefaults.setString \"selectedDisplayID\" \"" + desk::uuidNamed(display) + "\"\n";
 }
 
 class StartUpTest : public AppFixture {
@@ -71,40 +81,111 @@ class StartUpTest : public AppFixture {
     attachTwoDisplays();
   }
 
-  std::string launchRecorded() {
-    const SeamRecorder recorder;
+  std::string launchCalls() {
+    const desk::CallRecorder recorder(machine);
     application.launch();
     return recorder.text();
   }
+  /// The calls of a launch that makes these calls to restore the lock.
+  static std::string expectedLaunchCalls(const std::string& restoring, const std::string& symbol) {
+    return statusItemCalls + modelCalls + firstMenuCalls + iconCalls("lock.open") + timerCall +
+           restoring + iconCalls(symbol) + tapWatchCalls;
+  }
 };
 
-TEST_F(StartUpTest, WithNothingStoredNothingIsRestored) {
+TEST_F(StartUpTest, RestoresNothingWhenNothingIsStored) {
   machine.permission.setTrusted(true);
-  EXPECT_EQ(launchRecorded(), untilTheModel + theModel + theFirstMenu + theIcon("lock.open") +
-                                  theTimer + theIcon("lock.open") + theWatch);
+  EXPECT_EQ(launchCalls(), expectedLaunchCalls("", "lock.open"));
 }
 
-TEST_F(StartUpTest, AStoredLockIsRestoredBetweenTheTimerAndTheLastIcon) {
+TEST_F(StartUpTest, RestoresAStoredLockBeforeItUpdatesTheIcon) {
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(true);
-  const std::string restoring =
-      "UserDefaults.setString \"selectedDisplayID\" \"" + desk::uuidNamed('A') + R"("
+  const std::string restoring = refreshCalls(selectCall('A')) + R"(AXIsProcessTrusted
 AXIsProcessTrusted
-AXIsProcessTrusted
-AXIsProcessTrusted
+Screen.screens
 CGEventTapCreate
+CFMachPortCreateRunLoopSource
+CFRunLoopAddSource
+CGEventTapEnable true
 NotificationCenter.addObserver
 )";
-  EXPECT_EQ(launchRecorded(), untilTheModel + theModel + theFirstMenu + theIcon("lock.open") +
-                                  theTimer + restoring + theIcon("lock.fill") + theWatch);
+  EXPECT_EQ(launchCalls(), expectedLaunchCalls(restoring, "lock.fill"));
 }
 
-TEST_F(StartUpTest, AStoredLockWithoutPermissionLooksAndGivesUp) {
+TEST_F(StartUpTest, ChecksAndGivesUpAStoredLockWithoutThePermission) {
   store("isOrvaneEnabled", true);
-  const std::string looking = "UserDefaults.setString \"selectedDisplayID\" \"" +
-                              desk::uuidNamed('A') + "\"\nAXIsProcessTrusted\nAXIsProcessTrusted\n";
-  EXPECT_EQ(launchRecorded(), untilTheModel + theModel + theFirstMenu + theIcon("lock.open") +
-                                  theTimer + looking + theIcon("lock.open") + theWatch);
+  EXPECT_EQ(
+      launchCalls(),
+      expectedLaunchCalls(refreshCalls(selectCall('A')) + "AXIsProcessTrusted\n", "lock.open"));
+}
+
+TEST_F(StartUpTest, OpeningTheMenuRefreshesTheModelThenTheMenuThenTheIcon) {
+  application.launch();
+  const desk::CallRecorder recorder(machine);
+  ASSERT_TRUE(openMenu());
+  EXPECT_EQ(recorder.text(), refreshCalls(selectCall('A')) +
+                                 "LoginItem.status\nLoginItem.status\n" +
+                                 menuCalls("Menu.insertItem") + iconCalls("lock.open"));
+}
+
+TEST_F(StartUpTest, AnotherLanguageRebuildsTheMenuOnce) {
+  store("appLanguage", std::string("chinese"));
+  application.launch();
+  model().refreshDisplays();
+  const desk::CallRecorder recorder(machine);
+  model().setAppLanguage(OrvaneLanguage::english);
+  machine.runDue();
+  EXPECT_EQ(recorder.text(), "UserDefaults.setString \"appLanguage\" \"english\"\n" +
+                                 refreshCalls("") + menuCalls("Menu.insertItem") +
+                                 iconCalls("lock.open"));
+}
+
+TEST_F(StartUpTest, WhileNothingChangesItOnlyChecksThePermissionOnceASecond) {
+  machine.permission.setTrusted(true);
+  application.launch();
+  model().refreshDisplays();
+  for (const bool isPinned : {false, true}) {
+    if (isPinned) {
+      model().toggleSelectedDisplayLock();
+      machine.runDue();
+    }
+    const desk::CallRecorder recorder(machine);
+    const std::int64_t wakeUps = machine.runLoop.wakeUpCount();
+    machine.advance(3);
+    EXPECT_EQ(machine.runLoop.wakeUpCount() - wakeUps, 3);
+    EXPECT_EQ(recorder.text(), "AXIsProcessTrusted\nAXIsProcessTrusted\nAXIsProcessTrusted\n");
+  }
+}
+
+TEST_F(StartUpTest, ModelAndGuardListTheScreensOnceEach) {
+  machine.permission.setTrusted(true);
+  application.launch();
+  model().refreshDisplays();
+  const auto screenLists = [](const desk::CallRecorder& recorder) {
+    std::size_t count = 0;
+    const std::string& text = recorder.text();
+    for (std::size_t at = text.find("Screen.screens"); at != std::string::npos;
+         at = text.find("Screen.screens", at + 1)) {
+      ++count;
+    }
+    return count;
+  };
+  {
+    const desk::CallRecorder recorder(machine);
+    model().toggleSelectedDisplayLock();
+    EXPECT_EQ(screenLists(recorder), 2U);
+  }
+  const desk::CallRecorder recorder(machine);
+  desk::attach(machine, desk::monitorAbove());
+  machine.runDue();
+  EXPECT_EQ(screenLists(recorder), 3U) << "the guard, the model, and the guard's restart";
+}
+
+TEST_F(StartUpTest, ReopeningNeedsNothingMoreFromTheSystem) {
+  application.launch();
+  EXPECT_TRUE(server().application.reopen());
+  EXPECT_TRUE(desk::Surfaces(server()).isThere("main"));
 }
 
 class MenuActionCallsTest : public StartUpTest {
@@ -115,121 +196,46 @@ class MenuActionCallsTest : public StartUpTest {
     EXPECT_TRUE(openMenu());
   }
 
-  std::string pressRecorded(const std::string& title) {
-    const SeamRecorder recorder;
+  /// The calls when a row is chosen.
+  std::string callsOf(const std::string& title) {
+    const desk::CallRecorder recorder(machine);
     EXPECT_TRUE(press(title));
     return recorder.text();
   }
 
-  const std::string closing = "Menu.cancelTracking\n";
-  const std::string showing = R"(Application.setActivationPolicy 1
+  const std::string closeCall = "Menu.cancelTracking\n";
+  const std::string showMainCalls = R"(Application.setActivationPolicy 1
 Window
-OrvaneWindow.makeKeyAndOrderFront
-OrvaneWindow.orderFrontRegardless
-)";
-  const std::string showingSettings = R"(Window
-OrvaneWindow.addChildWindowAbove OrvaneSettingsWindow
-OrvaneSettingsWindow.makeKeyAndOrderFront
-OrvaneSettingsWindow.orderFrontRegardless
-)";
-  /// The main panel's, once it is drawn.
-  const std::string appearing = "AXIsProcessTrusted\nTimer.repeating 1 common\n";
-  const std::string activating = "Application.activateIgnoringOtherApps\n";
+Window.makeKeyAndOrderFront "OrvaneWindow"
+Window.orderFrontRegardless "OrvaneWindow"
+)" + activateCall;
+  const std::string showSettingsCalls = R"(Window
+Window.addChildWindowAbove "OrvaneWindow" "OrvaneSettingsWindow"
+Window.makeKeyAndOrderFront "OrvaneSettingsWindow"
+Window.orderFrontRegardless "OrvaneSettingsWindow"
+)" + activateCall;
+  /// Those of the main panel's view when it appears.
+  const std::string mainAppearsCalls = refreshCalls("") + timerCall;
 };
 
-TEST_F(MenuActionCallsTest, OpenWindowActivatesOnceMoreAfterTheWindowAndThenLooksToTheIcon) {
-  EXPECT_EQ(pressRecorded("Open Window"),
-            closing + showing + activating + activating + theIcon("lock.open") + appearing);
+TEST_F(MenuActionCallsTest, OpenWindowActivatesAfterTheWindowToo) {
+  EXPECT_EQ(callsOf("Open Window"),
+            closeCall + showMainCalls + activateCall + iconCalls("lock.open") + mainAppearsCalls);
 }
 
-TEST_F(MenuActionCallsTest, SettingsLeavesActivatingToTheWindow) {
-  EXPECT_EQ(pressRecorded("Settings"), closing + showing + activating + showingSettings +
-                                           activating + theIcon("lock.open") + appearing +
-                                           "LoginItem.status\nLoginItem.status\n");
+TEST_F(MenuActionCallsTest, SettingsShowsTheMainPanelFirst) {
+  EXPECT_EQ(callsOf("Settings"), closeCall + showMainCalls + showSettingsCalls +
+                                     iconCalls("lock.open") + mainAppearsCalls +
+                                     "LoginItem.status\nLoginItem.status\n");
 }
 
-TEST_F(MenuActionCallsTest, QuitClosesTheMenuAndEnds) {
-  EXPECT_EQ(pressRecorded("Quit"), closing + "Application.terminate\n");
+TEST_F(MenuActionCallsTest, QuitClosesTheMenuFirst) {
+  EXPECT_EQ(callsOf("Quit"), closeCall + "Application.terminate\n");
 }
 
-TEST_F(MenuActionCallsTest, ADisplayIsStoredAfterTheMenuHasClosedAndBeforeItIsBroughtUpToDate) {
-  const std::string calls = pressRecorded("Studio");
-  EXPECT_EQ(calls, closing + "UserDefaults.setString \"selectedDisplayID\" \"" +
-                       desk::uuidNamed('B') + "\"\n" + theMenuOfTwoDisplays("changeItem") +
-                       theIcon("lock.open"));
-}
-
-TEST_F(StartUpTest, OpeningTheMenuReadsDisplaysAndLoginItemThenBuildsItThenLooksToTheIcon) {
-  application.launch();
-  const SeamRecorder recorder;
-  ASSERT_TRUE(openMenu());
-  EXPECT_EQ(recorder.text(), "UserDefaults.setString \"selectedDisplayID\" \"" +
-                                 desk::uuidNamed('A') +
-                                 "\"\nAXIsProcessTrusted\nLoginItem.status\nLoginItem.status\n" +
-                                 theMenuOfTwoDisplays("insertItem") + theIcon("lock.open"));
-}
-
-TEST_F(StartUpTest, AnotherLanguageBuildsTheMenuOnceAndThenLooksToTheIcon) {
-  store("appLanguage", std::string("chinese"));
-  application.launch();
-  model().refreshDisplays();
-  const SeamRecorder recorder;
-  model().setAppLanguage(OrvaneLanguage::english);
-  machine.runDue();
-  EXPECT_EQ(recorder.text(),
-            "UserDefaults.setString \"appLanguage\" \"english\"\nAXIsProcessTrusted\n" +
-                theMenuOfTwoDisplays("insertItem") + theIcon("lock.open"));
-}
-
-TEST_F(StartUpTest, SecondsInWhichNothingChangesAskForThePermissionAndForNothingElse) {
-  machine.permission.setTrusted(true);
-  application.launch();
-  model().refreshDisplays();
-  for (const bool isPinned : {false, true}) {
-    if (isPinned) {
-      model().toggleSelectedDisplayLock();
-      machine.runDue();
-    }
-    const SeamRecorder recorder;
-    const std::int64_t wakeUps = machine.runLoop.wakeUpCount();
-    machine.advance(3);
-    EXPECT_EQ(machine.runLoop.wakeUpCount() - wakeUps, 3);
-    EXPECT_EQ(recorder.text(), "AXIsProcessTrusted\nAXIsProcessTrusted\nAXIsProcessTrusted\n");
-  }
-}
-
-TEST_F(StartUpTest, TheScreensAreListedOnceForTheModelAndOnceForTheGuard) {
-  machine.permission.setTrusted(true);
-  application.launch();
-  model().refreshDisplays();
-  {
-    const SeamRecorder recorder;
-    model().toggleSelectedDisplayLock();
-    EXPECT_EQ(SeamRecorder::screenLists(), 2);
-  }
-  const SeamRecorder recorder;
-  desk::attach(machine, desk::monitorAbove());
-  machine.runDue();
-  EXPECT_EQ(SeamRecorder::screenLists(), 3) << "the guard, the model, and the guard's restart";
-}
-
-TEST_F(StartUpTest, TheIconFollowsTheGuardAtOnce) {
-  machine.permission.setTrusted(true);
-  application.launch();
-  model().refreshDisplays();
-  const SeamRecorder recorder;
-  model().toggleSelectedDisplayLock();
-  machine.runDue();
-  EXPECT_TRUE(recorder.text().ends_with(theIcon("lock.fill"))) << recorder.text();
-}
-
-TEST_F(StartUpTest, OpenedAgainItAnswersThatTheSystemMayGoOn) {
-  application.launch();
-  const auto& reopened = SeamRecorder::delegate().shouldHandleReopen;
-  ASSERT_TRUE(reopened);
-  EXPECT_TRUE(reopened(false));
-  ASSERT_TRUE(desk::Surfaces(server()).isThere("main"));
-  EXPECT_TRUE(reopened(true));
+TEST_F(MenuActionCallsTest, ADisplayIsStoredBetweenTheClosingOfTheMenuAndItsUpdate) {
+  EXPECT_EQ(callsOf("Studio"),
+            closeCall + selectCall('B') + menuCalls("Menu.changeItem") + iconCalls("lock.open"));
 }
 
 }  // namespace

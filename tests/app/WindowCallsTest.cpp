@@ -1,10 +1,24 @@
-// What the two panels ask of the platform when they are brought back and when they go. Much of it
-// the simulated window server would do unasked, so only the calls themselves tell.
+// The calls that bring the two panels to the front and close them. The simulated window server does
+// part of it unasked, so only the calls show whether the application asks for it.
+#include <sstream>
+
 #include "tests/app/AppFixture.hpp"
-#include "tests/app/SeamRecorder.hpp"
+#include "tests/support/CallRecorder.hpp"
 
 namespace orvane {
 namespace {
+
+const std::string newWindow = "Window\n";
+const std::string mainToFront =
+    "Window.makeKeyAndOrderFront \"OrvaneWindow\"\nWindow.orderFrontRegardless \"OrvaneWindow\"\n";
+const std::string settingsToFront =
+    "Window.makeKeyAndOrderFront \"OrvaneSettingsWindow\"\n"
+    "Window.orderFrontRegardless \"OrvaneSettingsWindow\"\n";
+const std::string addSettings =
+    "Window.addChildWindowAbove \"OrvaneWindow\" \"OrvaneSettingsWindow\"\n";
+const std::string closeSettings =
+    "Window.close \"OrvaneSettingsWindow\"\n"
+    "Window.removeChildWindow \"OrvaneWindow\" \"OrvaneSettingsWindow\"\n";
 
 class WindowCallsTest : public AppFixture {
  protected:
@@ -14,64 +28,49 @@ class WindowCallsTest : public AppFixture {
     application.reopen();
   }
 
-  /// The calls on windows while the menu's row is chosen.
-  std::string callsOnWindows(const std::string& row) {
+  /// The calls on windows when a row of the menu is chosen.
+  std::string callsOfRow(const std::string& title) {
     EXPECT_TRUE(openMenu());
-    const SeamRecorder recorder;
-    EXPECT_TRUE(press(row));
-    return linesAboutWindows(recorder.text());
+    return callsOf(title, desk::Surfaces::menu);
   }
-  static std::string linesAboutWindows(const std::string& calls) {
-    std::string lines;
-    for (std::size_t begin = 0; begin < calls.size();) {
-      const std::size_t end = calls.find('\n', begin) + 1;
-      const std::string line = calls.substr(begin, end - begin);
-      lines += line.find("Window") != std::string::npos ? line : "";
-      begin = end;
+  std::string callsOf(const std::string& label, const std::string& surface) {
+    const desk::CallRecorder recorder(machine);
+    EXPECT_TRUE(press(label, surface));
+    std::string windowCalls;
+    std::istringstream calls(recorder.text());
+    for (std::string call; std::getline(calls, call);) {
+      windowCalls += call.starts_with("Window") ? call + "\n" : "";
     }
-    return lines;
+    return windowCalls;
   }
-
-  const std::string mainToFront =
-      "OrvaneWindow.makeKeyAndOrderFront\nOrvaneWindow.orderFrontRegardless\n";
-  const std::string settingsToFront =
-      "OrvaneSettingsWindow.makeKeyAndOrderFront\nOrvaneSettingsWindow.orderFrontRegardless\n";
 };
 
-TEST_F(WindowCallsTest, AMinimisedMainPanelIsTakenOutOfTheDockBeforeItComesToTheFront) {
+TEST_F(WindowCallsTest, AMinimisedMainPanelIsDeminiaturizedBeforeItComesToTheFront) {
   for (const bool isForSettings : {false, true}) {
     server().miniaturize(desk::Surfaces(server()).window("main"));
-    const std::string calls = callsOnWindows(isForSettings ? "Settings" : "Open Window");
-    EXPECT_TRUE(calls.starts_with("OrvaneWindow.deminiaturize\n" + mainToFront)) << calls;
+    const std::string calls = callsOfRow(isForSettings ? "Settings" : "Open Window");
+    EXPECT_TRUE(calls.starts_with("Window.deminiaturize \"OrvaneWindow\"\n" + mainToFront))
+        << calls;
   }
 }
 
 TEST_F(WindowCallsTest, AMainPanelThatIsNotMinimisedIsOnlyBroughtToTheFront) {
-  EXPECT_EQ(callsOnWindows("Open Window"), mainToFront);
+  EXPECT_EQ(callsOfRow("Open Window"), mainToFront);
 }
 
 TEST_F(WindowCallsTest, TheSettingsBecomeAChildOnceAndComeToTheFrontEachTime) {
-  EXPECT_EQ(callsOnWindows("Settings"),
-            mainToFront + "Window\nOrvaneWindow.addChildWindowAbove OrvaneSettingsWindow\n" +
-                settingsToFront);
-  EXPECT_EQ(callsOnWindows("Settings"), mainToFront + settingsToFront);
+  EXPECT_EQ(callsOfRow("Settings"), mainToFront + newWindow + addSettings + settingsToFront);
+  EXPECT_EQ(callsOfRow("Settings"), mainToFront + settingsToFront);
 }
 
-TEST_F(WindowCallsTest, SettingsThatCloseAreNoLongerAChild) {
-  ASSERT_EQ(callsOnWindows("Settings").empty(), false);
-  const SeamRecorder recorder;
-  ASSERT_TRUE(press("Close", "settings"));
-  EXPECT_EQ(linesAboutWindows(recorder.text()),
-            "OrvaneSettingsWindow.close\nOrvaneWindow.removeChildWindow OrvaneSettingsWindow\n");
+TEST_F(WindowCallsTest, ClosedSettingsAreNoLongerAChild) {
+  callsOfRow("Settings");
+  EXPECT_EQ(callsOf("Close", "settings"), closeSettings);
 }
 
-TEST_F(WindowCallsTest, AMainPanelThatClosesTakesTheSettingsAlong) {
-  ASSERT_EQ(callsOnWindows("Settings").empty(), false);
-  const SeamRecorder recorder;
-  ASSERT_TRUE(press("Close", "main"));
-  EXPECT_EQ(linesAboutWindows(recorder.text()),
-            "OrvaneWindow.close\nOrvaneSettingsWindow.close\n"
-            "OrvaneWindow.removeChildWindow OrvaneSettingsWindow\n");
+TEST_F(WindowCallsTest, TheMainPanelClosesTheSettingsToo) {
+  callsOfRow("Settings");
+  EXPECT_EQ(callsOf("Close", "main"), "Window.close \"OrvaneWindow\"\n" + closeSettings);
 }
 
 }  // namespace

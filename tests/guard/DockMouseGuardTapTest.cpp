@@ -1,116 +1,58 @@
-// The order of the calls that install and remove a tap, which matters in a real session but not in
-// the simulated one. The linker wraps these calls of the guard with the functions below.
+// The calls that install and remove a tap. Their order matters in a real session but not in the
+// simulated one.
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "Orvane/platform/Quartz.hpp"
 #include "tests/guard/GuardLifeFixture.hpp"
-
-#define REAL(name) asm("__real_" name)
-#define WRAPPED(name) asm("__wrap_" name)
+#include "tests/support/CallRecorder.hpp"
 
 namespace orvane {
-
 namespace {
 
-std::vector<std::string> calls;
-bool refusesSources = false;
-
-}  // namespace
-
-void enableReally(CFMachPortRef tap, bool enable) REAL("CGEventTapEnable");
-void enable(CFMachPortRef tap, bool enable) WRAPPED("CGEventTapEnable");
-void enable(CFMachPortRef tap, bool enable) {
-  calls.emplace_back(enable ? "enable" : "disable");
-  enableReally(tap, enable);
-}
-
-CFRunLoopSourceRef makeSourceReally(CFAllocatorRef allocator, CFMachPortRef port, CFIndex order)
-    REAL("CFMachPortCreateRunLoopSource");
-CFRunLoopSourceRef makeSource(CFAllocatorRef allocator, CFMachPortRef port, CFIndex order)
-    WRAPPED("CFMachPortCreateRunLoopSource");
-CFRunLoopSourceRef makeSource(CFAllocatorRef allocator, CFMachPortRef port, CFIndex order) {
-  calls.emplace_back("make source");
-  return refusesSources ? nullptr : makeSourceReally(allocator, port, order);
-}
-
-void addSourceReally(CFRunLoopRef runLoop, CFRunLoopSourceRef source, CFRunLoopMode mode)
-    REAL("CFRunLoopAddSource");
-void addSource(CFRunLoopRef runLoop, CFRunLoopSourceRef source, CFRunLoopMode mode)
-    WRAPPED("CFRunLoopAddSource");
-void addSource(CFRunLoopRef runLoop, CFRunLoopSourceRef source, CFRunLoopMode mode) {
-  calls.emplace_back("add source");
-  addSourceReally(runLoop, source, mode);
-}
-
-void removeSourceReally(CFRunLoopRef runLoop, CFRunLoopSourceRef source, CFRunLoopMode mode)
-    REAL("CFRunLoopRemoveSource");
-void removeSource(CFRunLoopRef runLoop, CFRunLoopSourceRef source, CFRunLoopMode mode)
-    WRAPPED("CFRunLoopRemoveSource");
-void removeSource(CFRunLoopRef runLoop, CFRunLoopSourceRef source, CFRunLoopMode mode) {
-  calls.emplace_back("remove source");
-  removeSourceReally(runLoop, source, mode);
-}
-
-void invalidateReally(CFMachPortRef port) REAL("CFMachPortInvalidate");
-void invalidate(CFMachPortRef port) WRAPPED("CFMachPortInvalidate");
-void invalidate(CFMachPortRef port) {
-  calls.emplace_back("invalidate");
-  invalidateReally(port);
-}
-
-namespace {
-
-using Calls = std::vector<std::string>;
+const std::string permissionCall = "AXIsProcessTrusted\n";
+const std::string installCalls =
+    "Screen.screens\nCGEventTapCreate\nCFMachPortCreateRunLoopSource\nCFRunLoopAddSource\n"
+    "CGEventTapEnable true\nNotificationCenter.addObserver\n";
+const std::string removeCalls =
+    "CGEventTapEnable false\nCFRunLoopRemoveSource\nCFMachPortInvalidate\n";
 
 class DockMouseGuardTapTest : public GuardLifeFixture {
  protected:
-  DockMouseGuardTapTest() {
-    calls.clear();
-    refusesSources = false;
+  template <typename Action>
+  std::string callsOf(Action action) {
+    const desk::CallRecorder recorder(machine);
+    action();
+    return recorder.text();
   }
 };
 
-const Calls putUp{"make source", "add source", "enable"};
-const Calls takenDown{"disable", "remove source", "invalidate"};
-
-TEST_F(DockMouseGuardTapTest, ATapIsServedBeforeItIsEnabled) {
-  startPinned();
-  EXPECT_EQ(calls, putUp);
+TEST_F(DockMouseGuardTapTest, ATapIsEnabledWhenItsSourceIsOnTheRunLoop) {
+  EXPECT_EQ(callsOf([&] { startPinned(); }), permissionCall + installCalls);
 }
 
-TEST_F(DockMouseGuardTapTest, ATapIsDisabledThenLeavesTheRunLoopThenIsInvalidated) {
+TEST_F(DockMouseGuardTapTest, ARestartRemovesTheOldTapFirst) {
   startPinned();
-  calls.clear();
-  guard->stop();
-  EXPECT_EQ(calls, takenDown);
-  calls.clear();
-  guard->stop();
-  EXPECT_EQ(calls, Calls{}) << "once";
+  EXPECT_EQ(callsOf([&] { startPinned(); }), permissionCall + removeCalls + installCalls);
 }
 
-TEST_F(DockMouseGuardTapTest, ARestartTakesTheOldTapDownFirst) {
+TEST_F(DockMouseGuardTapTest, ATapIsDisabledBeforeItsSourceIsRemovedAndThenInvalidatedOnce) {
   startPinned();
-  calls.clear();
-  startPinned();
-  Calls both = takenDown;
-  both.insert(both.end(), putUp.begin(), putUp.end());
-  EXPECT_EQ(calls, both);
+  EXPECT_EQ(callsOf([&] { guard->stop(); }), removeCalls);
+  EXPECT_EQ(callsOf([&] { guard->stop(); }), "");
 }
 
-TEST_F(DockMouseGuardTapTest, AGuardThatGoesTakesItsTapDown) {
+TEST_F(DockMouseGuardTapTest, ADestroyedGuardRemovesItsTap) {
   startPinned();
-  calls.clear();
-  guard.reset();
-  EXPECT_EQ(calls, takenDown);
+  EXPECT_EQ(callsOf([&] { guard.reset(); }), removeCalls);
 }
 
-TEST_F(DockMouseGuardTapTest, ATapThatCannotBeServedIsRemoved) {
-  refusesSources = true;
-  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  EXPECT_EQ(calls, (Calls{"make source", "disable", "invalidate"}));
+TEST_F(DockMouseGuardTapTest, ATapWithoutASourceIsRemoved) {
+  machine.runLoop.setRefusesSources(true);
+  EXPECT_EQ(callsOf([&] { guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false); }),
+            permissionCall +
+                "Screen.screens\nCGEventTapCreate\nCFMachPortCreateRunLoopSource\n"
+                "CGEventTapEnable false\nCFMachPortInvalidate\nNotificationCenter.addObserver\n");
   EXPECT_EQ(takeMessages(), Messages{tapWasRefused});
   EXPECT_FALSE(guard->isRunning());
   EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);

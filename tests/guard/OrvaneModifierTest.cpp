@@ -23,17 +23,14 @@ constexpr std::array<Expected, 4> inOrder = {{
     {OrvaneModifier::command, "command", 0x100000},
 }};
 
-TEST(OrvaneModifierTest, AllCasesComeInTheOrderInWhichTheyAreOffered) {
+TEST(OrvaneModifierTest, TheCasesComeInOrderWithTheirRawValuesAndMasks) {
   ASSERT_EQ(OrvaneModifier::allCases.size(), inOrder.size());
   for (std::size_t index = 0; index < inOrder.size(); ++index) {
-    EXPECT_EQ(OrvaneModifier::allCases[index], inOrder[index].modifier);
-  }
-}
-
-TEST(OrvaneModifierTest, EachHasItsRawValueAndMask) {
-  for (const Expected& expected : inOrder) {
-    EXPECT_EQ(expected.modifier.rawValue(), expected.rawValue);
-    EXPECT_EQ(expected.modifier.flagMask(), expected.mask);
+    const OrvaneModifier modifier = OrvaneModifier::allCases[index];
+    const Expected& expected = inOrder[index];
+    EXPECT_EQ(modifier, expected.modifier);
+    EXPECT_EQ(modifier.rawValue(), expected.rawValue);
+    EXPECT_EQ(modifier.flagMask(), expected.mask);
     EXPECT_EQ(OrvaneModifier::fromRawValue(expected.rawValue), expected.modifier);
   }
 }

@@ -15,47 +15,6 @@ namespace {
 static_assert(std::is_trivially_copyable_v<RecentBlockTimestamps>);
 static_assert(sizeof(RecentBlockTimestamps) >= 180 * sizeof(double));
 
-TEST(RecentBlockTimestampsTest, TheLimitsAre180BlocksIn2Seconds) {
-  EXPECT_EQ(RecentBlockTimestamps::runawayCount, 180U);
-  EXPECT_EQ(RecentBlockTimestamps::windowSeconds, 2.0);
-}
-
-TEST(RecentBlockTimestampsTest, ItBeginsEmpty) {
-  const RecentBlockTimestamps timestamps;
-  EXPECT_TRUE(timestamps.isEmpty());
-  EXPECT_EQ(timestamps.size(), 0U);
-  EXPECT_FALSE(timestamps.isRunaway());
-}
-
-TEST(RecentBlockTimestampsTest, ABlockExactlyTwoSecondsOldIsRemembered) {
-  RecentBlockTimestamps timestamps;
-  timestamps.record(1000);
-  timestamps.record(1002);
-  ASSERT_EQ(timestamps.size(), 2U);
-  EXPECT_EQ(timestamps.at(0), 1000);
-  EXPECT_EQ(timestamps.at(1), 1002);
-}
-
-TEST(RecentBlockTimestampsTest, AnOlderBlockIsForgotten) {
-  RecentBlockTimestamps timestamps;
-  timestamps.record(1000);
-  timestamps.record(1000.5);
-  timestamps.record(1002.25);
-  ASSERT_EQ(timestamps.size(), 2U);
-  EXPECT_EQ(timestamps.at(0), 1000.5);
-}
-
-TEST(RecentBlockTimestampsTest, The180thBlockIsRunawayAndThe179thIsNot) {
-  RecentBlockTimestamps timestamps;
-  for (int count = 1; count <= 179; ++count) {
-    timestamps.record(1000);
-    ASSERT_FALSE(timestamps.isRunaway()) << count;
-  }
-  timestamps.record(1000);
-  EXPECT_TRUE(timestamps.isRunaway());
-  EXPECT_EQ(timestamps.size(), 180U);
-}
-
 TEST(RecentBlockTimestampsTest, MoreThan180AreNeverKept) {
   RecentBlockTimestamps timestamps;
   for (int count = 0; count < 500; ++count) {
@@ -72,14 +31,14 @@ TEST(RecentBlockTimestampsTest, ClearingForgetsAll) {
     timestamps.record(1000);
   }
   timestamps.clear();
-  EXPECT_TRUE(timestamps.isEmpty());
+  EXPECT_EQ(timestamps.size(), 0U);
   EXPECT_FALSE(timestamps.isRunaway());
   timestamps.record(1000);
   EXPECT_EQ(timestamps.size(), 1U);
   EXPECT_EQ(timestamps.at(0), 1000);
 }
 
-RC_GTEST_PROP(RecentBlockTimestampsProperty, ItAgreesWithAListOfUnlimitedLength, ()) {
+RC_GTEST_PROP(RecentBlockTimestampsProperty, AgreesWithAnUnlimitedList, ()) {
   // In 1024ths of a second, so that differences are exact.
   const auto genStep = rc::gen::weightedOneOf<int>(
       {{150, rc::gen::inRange(0, 14)}, {1, rc::gen::element(512, 2047, 2048, 2049)}});
