@@ -20,9 +20,9 @@ double veiled(double groundLuminance, const Rgba& veil, double opacity);
 // for contrast.
 double requiredContrast(const Appearance& appearance);
 
-// The colour itself if it has the required contrast to the ground. Otherwise with as much black mixed
-// in as it takes on a light ground, or white on a dark one: the hue stays. Black or white where even
-// they do not reach it.
+// The colour itself if it has the required contrast to the ground. Otherwise with as much black
+// mixed in as it takes on a light ground, or white on a dark one: the hue stays. Black or white
+// where even they do not reach it.
 Rgba textOn(double groundLuminance, const Rgba& color, double required);
 
 // The fill of a button: with as much black mixed in as a white label takes, with this share of
