@@ -9,10 +9,12 @@ namespace orvane {
 
 /// The machine has no display and no permission, and the application does not run yet.
 class ApplicationFixture : public desk::HandFixture {
- protected:
-  ApplicationFixture() : HandFixture(Process::none) {}
+ public:
   /// What is left of the application is looked for when it has ended.
   ~ApplicationFixture() override { application.crash(); }
+
+ protected:
+  ApplicationFixture() : HandFixture(Process::none) {}
 
   [[nodiscard]] OrvaneModel& model() { return application.model(); }
 

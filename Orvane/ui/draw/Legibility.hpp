@@ -20,14 +20,14 @@ double veiled(double groundLuminance, const Rgba& veil, double opacity);
 // for contrast.
 double requiredContrast(const Appearance& appearance);
 
-// The colour itself if it has the contrast to the ground. Otherwise with as much black mixed in as
-// it takes on a light ground, or white on a dark one: the hue stays. Black or white where even they
-// do not reach it.
-Rgba textOn(double groundLuminance, const Rgba& color, double contrast);
+// The colour itself if it has the required contrast to the ground. Otherwise with as much black
+// mixed in as it takes on a light ground, or white on a dark one: the hue stays. Black or white
+// where even they do not reach it.
+Rgba textOn(double groundLuminance, const Rgba& color, double required);
 
 // The fill of a button: with as much black mixed in as a white label takes, with this share of
 // white (0 to 1) on top of the fill. A light colour stays, because its label is black.
-Rgba buttonFill(const Rgba& color, double contrast, double lightShare);
+Rgba buttonFill(const Rgba& color, double required, double lightShare);
 
 // The label on such a fill: black on a light colour, such as yellow, and white on any other.
 Rgba buttonLabel(const Rgba& color);
