@@ -119,7 +119,7 @@ View desktopAndDockPage(SystemSettings& settings) {
                                                                          settings.setDockAutoHides(
                                                                              !hides);
                                                                        }})}})
-           .padding(Edge::top, 20)});
+           .padding({.top = 20})});
   return titledPage(language.text("Desktop & Dock", "桌面与程序坞"), content);
 }
 

@@ -33,7 +33,7 @@ View SettingsSidebar::row(SettingsPage page, const std::string& title, const std
           .background(RoundedRectangle(radius).fill(isSelected ? Color::accent() : Color::clear()));
   return Button([settings = settings, page] { settings->goTo(page); }, label)
       .style(SettingsButtonStyle{})
-      .focusRing(ShapeForm::rounded(radius))
+      .focusRing(Shape::rounded(radius))
       .accessibilityLabel(title)
       .accessibilityRole(Role::radioButton)
       .accessibilitySelected(isSelected);

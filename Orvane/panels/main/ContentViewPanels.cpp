@@ -155,7 +155,7 @@ View ContentView::pinButton() const {
                          : labelled("lock", model->localized("Pin Dock", "固定 Dock"));
   return Button([model = model] { model->toggleSelectedDisplayLock(); }, label)
       .style(PrimaryActionButtonStyle{.tint = isPinned ? Color::red() : Color::accent()})
-      .focusRing(ShapeForm::rounded(PrimaryActionButtonStyle::cornerRadius))
+      .focusRing(Shape::rounded(PrimaryActionButtonStyle::cornerRadius))
       .disabled(!model->selectedDisplayID().value().has_value());
 }
 
@@ -186,7 +186,7 @@ View ContentView::popUpButtons() const {
       isPreventing
           ? labelled("eye", model->localized("Allow Dock Pop-Up", "允许 Dock 弹出"))
           : labelled("eye.slash", model->localized("Prevent Dock Pop-Up", "防止 Dock 弹出"));
-  const ShapeForm ring = ShapeForm::rounded(SecondaryActionButtonStyle::cornerRadius);
+  const Shape ring = Shape::rounded(SecondaryActionButtonStyle::cornerRadius);
   const View toggle = Button([model = model] { model->toggleHideDockOnAllDisplays(); }, toggleLabel)
                           .style(SecondaryActionButtonStyle{})
                           .focusRing(ring);
@@ -205,7 +205,7 @@ View ContentView::popUpButtons() const {
       .top = -lineRoom, .leading = -lineRoom, .bottom = -lineRoom, .trailing = -DockPanel::padding};
   return HStack(buttonSpacing, {toggle, when(isPreventing, openSettings)})
       .padding(toTheEdge)
-      .clip(ShapeForm::rectangle())
+      .clip(Shape::rectangle())
       .padding(back);
 }
 

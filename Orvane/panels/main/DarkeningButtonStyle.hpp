@@ -1,14 +1,14 @@
 // The look of a button whose label is a surface of its own: it darkens while it is pressed.
 #pragma once
 
-#include "Orvane/ui/draw/ShapeForm.hpp"
+#include "Orvane/ui/draw/Shape.hpp"
 #include "Orvane/ui/views/ButtonStyle.hpp"
 
 namespace orvane {
 
 struct DarkeningButtonStyle {
   /// Of the label's surface.
-  ui::ShapeForm form;
+  ui::Shape shape;
   /// The opacity of the black over it, from 0 to 1.
   double shade;
 

@@ -86,9 +86,8 @@ View DisplayChoiceCard::body(const Environment& environment) const {
   return Button([environment,
                  action = action] { environment.animate(Curve::spring(0.24, 0.82), action); },
                 card)
-      .style(
-          DarkeningButtonStyle{ShapeForm::rounded(cornerRadius), environment.isDark() ? 0.2 : 0.08})
-      .focusRing(ShapeForm::rounded(cornerRadius))
+      .style(DarkeningButtonStyle{Shape::rounded(cornerRadius), environment.isDark() ? 0.2 : 0.08})
+      .focusRing(Shape::rounded(cornerRadius))
       .accessibilityRole(Role::radioButton)
       .accessibilityLabel(title())
       .accessibilityValue(roleLabel)

@@ -20,8 +20,8 @@ namespace {
 constexpr double tileSide = 30;
 constexpr double tileCornerRadius = 8;
 constexpr Edges headerPadding{.top = 8, .leading = 18, .bottom = 8, .trailing = 18};
-/// At least so much above and below the cards.
-constexpr double leastMargin = 10;
+/// Above and below the cards.
+constexpr double minimumMargin = 10;
 constexpr double entranceOffset = 10;
 constexpr double entranceSeconds = 0.24;
 
@@ -86,7 +86,7 @@ View OrvaneSettingsView::body(const Environment& environment) const {
   const View sections = cards()
                             .opacity(hasAppeared.value() ? 1 : 0)
                             .offset(0, hasAppeared.value() ? 0 : entranceOffset);
-  return VStack(0, {header(environment), Spacer(leastMargin), sections, Spacer(leastMargin)})
+  return VStack(0, {header(environment), Spacer(minimumMargin), sections, Spacer(minimumMargin)})
       .frame(width, height)
       .background(closingByCommand(environment))
       .background(Rectangle().fill(SettingsPalette::windowGradient(environment.isDark())))
