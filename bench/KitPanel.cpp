@@ -52,7 +52,7 @@ View head(int revision) {
               Text("Revision " + std::to_string(revision)).foreground(Color::secondary())});
   const View pill = Text("Not Pinned")
                         .font(Font::headline())
-                        .padding(Edges::horizontal(13).vertical(8))
+                        .padding(Edges::symmetric(13, 8))
                         .background(Capsule().fill(Color::primary().opacity(0.06)));
   return HStack(14, {icon, words, Spacer(), pill});
 }

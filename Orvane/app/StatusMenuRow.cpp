@@ -47,17 +47,17 @@ View StatusMenuRow::content(bool isHovered) const {
           // The end says which of two displays of a kind it is, and which is the main one.
           .truncationMode(TruncationMode::middle)
           .frame({.height = 26, .maximumWidth = infinity, .alignment = Alignment::leading()})
-          .padding(Edge::leading, 8);
+          .padding({.leading = 8});
   const View toggle = isOn ? View(CompactMenuSwitch{*isOn})
                                  .opacity(isEnabled ? 1 : disabledOpacity)
-                                 .padding(Edge::leading, switchSpacing)
+                                 .padding({.leading = switchSpacing})
                            : View();
   return HStack(0, {iconBadge(), line, toggle})
       .padding(Edges{.leading = 14, .trailing = 8})
       .frame(rowWidth, rowHeight)
       .background(RoundedRectangle(6)
                       .fill(isHighlighted ? Color::primary().opacity(0.08) : Color::clear())
-                      .padding(Edges::horizontal(3).vertical(2)));
+                      .padding(Edges::symmetric(3, 2)));
 }
 
 View StatusMenuRow::body(const Environment& environment) const {
@@ -70,7 +70,7 @@ View StatusMenuRow::body(const Environment& environment) const {
                        },
                        content(isHovered.value()))
                        .style(BareButtonStyle{})
-                       .focusRing(ShapeForm::rounded(6))
+                       .focusRing(Shape::rounded(6))
                        .onHover([isHovered](bool isInside) { isHovered.set(isInside); })
                        .disabled(!isEnabled)
                        .accessibilityLabel(title);

@@ -68,7 +68,7 @@ View OrvaneAccessibilityPermissionAlertView::body(const Environment& environment
                       .keyboardShortcut(KeyboardShortcut::cancelAction()),
                   wideButton(localized("Open Privacy Settings", "打开隐私设置"), onOpenSettings)
                       .keyboardShortcut(KeyboardShortcut::defaultAction())})
-          .padding(Edge::top, 4);
+          .padding({.top = 4});
   return VStack(14, {appIcon(environment), title, paragraphs, buttons}).padding(24).width(width);
 }
 

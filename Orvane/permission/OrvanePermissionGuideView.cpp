@@ -24,7 +24,7 @@ View draggableIcon() {
                          .font(Font::system(24, Weight::semibold))
                          .foreground(Color::orange())
                          .height(30)
-                         .padding(Edge::bottom, 14);
+                         .padding({.bottom = 14});
   const View icon = View(OrvaneDraggableAppIconView{})
                         .frame(82, 82)
                         .shadow({.color = Color::black().opacity(0.33), .radius = 5});

@@ -238,9 +238,9 @@ void enlarge(const std::vector<std::uint8_t>& small, int factor, int smallWidth,
 /// the smaller picture is still blurred by at least four of its pixels, which hides that it is
 /// small.
 int factorOf(double sigma) {
-  constexpr double leastSmallSigma = 4.0;
+  constexpr double minimumSmallSigma = 4.0;
   int factor = 1;
-  while (sigma / (2.0 * factor) >= leastSmallSigma) {
+  while (sigma / (2.0 * factor) >= minimumSmallSigma) {
     factor *= 2;
   }
   return factor;

@@ -49,11 +49,13 @@ std::optional<std::vector<PixelRect>> clipRectangles(cairo_t* context) {
 
 /// The colour as cairo and pixman make a pixel of it.
 std::uint32_t pixelOf(const ui::Rgba& color) {
-  const auto part = [](double share) {
-    return static_cast<std::uint32_t>(std::clamp(share, 0.0, 1.0) * 65535 + 0.5) >> 8U;
+  const auto part = [](double fraction) {
+    return static_cast<std::uint32_t>(std::clamp(fraction, 0.0, 1.0) * 65535 + 0.5) >> 8U;
   };
   const double alpha = std::clamp(color.alpha, 0.0, 1.0);
-  const auto multiplied = [&](double share) { return part(std::clamp(share, 0.0, 1.0) * alpha); };
+  const auto multiplied = [&](double fraction) {
+    return part(std::clamp(fraction, 0.0, 1.0) * alpha);
+  };
   return part(alpha) << 24U | multiplied(color.red) << 16U | multiplied(color.green) << 8U |
          multiplied(color.blue);
 }
@@ -66,8 +68,9 @@ bool isRounded(const ui::Shape& shape) {
 PixelRect straightRows(const ui::Shape& shape, const ui::Transform& pixels, double lineWidth) {
   // A continuous corner begins at most at 1.4 of its radius (see Shape::path).
   constexpr double reach = 1.5;
-  const bool isEllipse = shape.kind == ui::Shape::Kind::ellipse;
-  const double corner = isEllipse ? shape.rect.height : reach * shape.effectiveRadius() + lineWidth;
+  const bool isCurved =
+      shape.kind == ui::Shape::Kind::ellipse || shape.kind == ui::Shape::Kind::circle;
+  const double corner = isCurved ? shape.rect.height : reach * shape.effectiveRadius() + lineWidth;
   const ui::Rect rect = pixels.apply(shape.rect.inset(ui::Edges::vertical(corner)));
   return {0, static_cast<int>(std::ceil(rect.y)) + 1, 1,
           static_cast<int>(std::floor(rect.bottom())) - 1};

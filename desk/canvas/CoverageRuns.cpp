@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::uint32_t opaque = 255;
 
-/// The product of two shares of 255, rounded. Where cairo fills with an opaque colour it rounds by
-/// a bias that is one less than pixman's.
+/// The product of two fractions of 255, rounded. Where cairo fills with an opaque colour it rounds
+/// by a bias that is one less than pixman's.
 template <std::uint32_t bias>
 constexpr std::uint32_t product(std::uint32_t first, std::uint32_t second) {
   const std::uint32_t sum = first * second + bias;
@@ -19,10 +19,10 @@ constexpr std::uint32_t product(std::uint32_t first, std::uint32_t second) {
 }
 
 template <std::uint32_t bias>
-std::uint32_t faded(std::uint32_t pixel, std::uint32_t share) {
+std::uint32_t faded(std::uint32_t pixel, std::uint32_t fraction) {
   std::uint32_t result = 0;
   for (unsigned shift = 0; shift < 32; shift += 8) {
-    result |= product<bias>((pixel >> shift) & 0xFFU, share) << shift;
+    result |= product<bias>((pixel >> shift) & 0xFFU, fraction) << shift;
   }
   return result;
 }

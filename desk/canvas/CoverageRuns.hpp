@@ -108,7 +108,7 @@ class CoverageCache {
     if (found != runs_.end()) {
       return found->second;
     }
-    if (runs_.size() >= most) {
+    if (runs_.size() >= capacity) {
       runs_.clear();
     }
     return runs_.emplace(key.bytes(), std::forward<Make>(make)()).first->second;
@@ -116,7 +116,7 @@ class CoverageCache {
 
  private:
   /// A panel has about fifty shapes, and each takes a few kilobytes.
-  static constexpr std::size_t most = 512;
+  static constexpr std::size_t capacity = 512;
 
   std::map<std::string, CoverageRuns> runs_;
 };

@@ -8,13 +8,13 @@ namespace orvane::desk {
 
 namespace {
 
-/// What a veil of this alpha, at most `whole`, leaves of what is below it, as a share of 2^16.
+/// What a veil of this alpha, at most `whole`, leaves of what is below it, as a fraction of 2^16.
 std::uint16_t restOf(std::uint16_t alpha) {
   return static_cast<std::uint16_t>(0xFFFFU - (alpha + (alpha >> 8U)));
 }
 
-std::uint16_t share(std::uint16_t part, std::uint16_t of) {
-  return static_cast<std::uint16_t>((static_cast<std::uint32_t>(part) * of) >> 16U);
+std::uint16_t productOf(std::uint16_t first, std::uint16_t second) {
+  return static_cast<std::uint16_t>((static_cast<std::uint32_t>(first) * second) >> 16U);
 }
 
 /// As many of 2^16 as a byte is of 255.
@@ -26,30 +26,31 @@ std::uint16_t widened(std::uint32_t byte) {
 void over(std::uint16_t* colors, const std::uint16_t* add, const std::uint16_t* rest,
           std::size_t count) {
   for (std::size_t index = 0; index < count; ++index) {
-    colors[index] = static_cast<std::uint16_t>(add[index] + share(colors[index], rest[index]));
+    colors[index] = static_cast<std::uint16_t>(add[index] + productOf(colors[index], rest[index]));
   }
 }
 
 /// One colour again and again, up to as often as is worth the room.
 class Repeated {
  public:
-  static constexpr std::size_t most = 32;
+  static constexpr std::size_t capacity = 32;
 
   Repeated(const DeepColor& color, std::size_t count) {
-    std::fill_n(pixels_.begin(), std::min(count, most), color);
+    std::fill_n(pixels_.begin(), std::min(count, capacity), color);
   }
   [[nodiscard]] const std::uint16_t* data() const { return pixels_.front().data(); }
 
  private:
-  std::array<DeepColor, most> pixels_;
+  std::array<DeepColor, capacity> pixels_;
 };
 
 void blend(std::uint16_t* pixels, std::size_t count, const DeepColor& color) {
   const std::uint16_t rest = restOf(color[3]);
   const Repeated add(color, count);
   const Repeated rests({rest, rest, rest, rest}, count);
-  for (; count > Repeated::most; count -= Repeated::most, pixels += 4 * Repeated::most) {
-    over(pixels, add.data(), rests.data(), 4 * Repeated::most);
+  for (; count > Repeated::capacity;
+       count -= Repeated::capacity, pixels += 4 * Repeated::capacity) {
+    over(pixels, add.data(), rests.data(), 4 * Repeated::capacity);
   }
   over(pixels, add.data(), rests.data(), 4 * count);
 }
@@ -60,7 +61,7 @@ DeepColor covered(const DeepColor& color, std::uint8_t coverage) {
   }
   DeepColor result;
   std::ranges::transform(color, result.begin(), [weight = widened(coverage)](std::uint16_t part) {
-    return share(part, weight);
+    return productOf(part, weight);
   });
   return result;
 }
@@ -71,20 +72,20 @@ void blendCovered(std::uint16_t* pixels, std::size_t count, const DeepColor& col
   const std::uint16_t alpha = static_cast<std::uint16_t>(0xFFFFU - restOf(color[3]));
   const Repeated colors(color, count);
   const Repeated alphas({alpha, alpha, alpha, alpha}, count);
-  std::array<std::uint16_t, 4 * Repeated::most> weights;
-  std::array<std::uint16_t, 4 * Repeated::most> rests;
+  std::array<std::uint16_t, 4 * Repeated::capacity> weights;
+  std::array<std::uint16_t, 4 * Repeated::capacity> rests;
   while (count > 0) {
-    const std::size_t length = std::min(count, Repeated::most);
+    const std::size_t length = std::min(count, Repeated::capacity);
     for (std::size_t pixel = 0; pixel < length; ++pixel) {
       std::fill_n(weights.begin() + static_cast<std::ptrdiff_t>(4 * pixel), 4,
                   widened(coverage[pixel]));
     }
     for (std::size_t index = 0; index < 4 * length; ++index) {
       rests[index] =
-          static_cast<std::uint16_t>(0xFFFFU - share(alphas.data()[index], weights[index]));
+          static_cast<std::uint16_t>(0xFFFFU - productOf(alphas.data()[index], weights[index]));
     }
     for (std::size_t index = 0; index < 4 * length; ++index) {
-      weights[index] = share(colors.data()[index], weights[index]);
+      weights[index] = productOf(colors.data()[index], weights[index]);
     }
     over(pixels, weights.data(), rests.data(), 4 * length);
     pixels += 4 * length;
@@ -168,7 +169,7 @@ void DeepSurface::paintPicture(cairo_surface_t* picture, int x, int y, const Pix
     const std::uint8_t* const bytes =
         rowOf<std::uint8_t>(picture, row - y) + static_cast<std::size_t>(area.left - x) * parts;
     for (std::size_t index = 0; index < count; ++index) {
-      add[index] = share(static_cast<std::uint16_t>(bytes[index] << 8U), weight);
+      add[index] = productOf(static_cast<std::uint16_t>(bytes[index] << 8U), weight);
     }
     for (std::size_t index = 0; index < count; index += parts) {
       std::fill_n(rests.data() + index, parts, restOf(add[index + 3]));
@@ -194,7 +195,7 @@ void DeepSurface::paintOver(cairo_surface_t* target, int x, int y) const {
         rowOf<std::uint8_t>(target, row) + static_cast<std::size_t>(area.left) * parts;
     for (std::size_t index = 0; index < count; ++index) {
       const auto below = static_cast<std::uint16_t>(bytes[index] << 8U);
-      const auto sum = static_cast<std::uint16_t>(own[index] + share(below, rests[index]));
+      const auto sum = static_cast<std::uint16_t>(own[index] + productOf(below, rests[index]));
       // Half a step more, for the nearest byte.
       bytes[index] = static_cast<std::uint8_t>((std::min<std::uint32_t>(sum, whole) + 128U) >> 8U);
     }

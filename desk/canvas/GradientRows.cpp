@@ -20,9 +20,9 @@ bool isOneColor(const ui::Paint& paint) {
   return paint.isSolid() || paint.start == paint.end;
 }
 
-ui::Rgba colorAt(const ui::Paint& paint, double share) {
+ui::Rgba colorAt(const ui::Paint& paint, double fraction) {
   const auto next = std::ranges::find_if(
-      paint.stops, [&](const ui::PaintStop& stop) { return stop.location > share; });
+      paint.stops, [&](const ui::PaintStop& stop) { return stop.location > fraction; });
   if (next == paint.stops.begin()) {
     return next->color;
   }
@@ -30,7 +30,7 @@ ui::Rgba colorAt(const ui::Paint& paint, double share) {
   if (next == paint.stops.end()) {
     return from.color;
   }
-  const double part = (share - from.location) / (next->location - from.location);
+  const double part = (fraction - from.location) / (next->location - from.location);
   return {std::lerp(from.color.red, next->color.red, part),
           std::lerp(from.color.green, next->color.green, part),
           std::lerp(from.color.blue, next->color.blue, part),

@@ -16,9 +16,9 @@ PatternPointer gradientOf(const ui::Paint& paint);
 /// everywhere.
 [[nodiscard]] bool isOneColor(const ui::Paint& paint);
 
-/// The colour at a share of the way from the start to the end of a gradient, not premultiplied. As
-/// cairo has it, red, green, blue and alpha each go straight from stop to stop.
-[[nodiscard]] ui::Rgba colorAt(const ui::Paint& paint, double share);
+/// The colour at a fraction of the way from the start to the end of a gradient, not premultiplied.
+/// As cairo has it, red, green, blue and alpha each go straight from stop to stop.
+[[nodiscard]] ui::Rgba colorAt(const ui::Paint& paint, double fraction);
 
 [[nodiscard]] bool runsDown(const ui::Paint& paint);
 

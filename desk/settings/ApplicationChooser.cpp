@@ -63,7 +63,7 @@ View ApplicationChooser::body(const Environment& environment) const {
                           .castShadow({.color = Color::black().opacity(0.3), .radius = 24, .y = 10})
                           .fill(Color::windowBackground())
                           .strokeBorder(rim, 0.5))
-          .padding(Edge::top, 70);
+          .padding({.top = 70});
   const View veil = Rectangle().fill(Color::black().opacity(environment.isDark() ? 0.35 : 0.15));
   return ZStack(Alignment::top(), {veil, card});
 }

@@ -29,7 +29,7 @@ View SettingsSwitch::body(const Environment& environment) const {
                            .animation(Curve::easeInOut(0.15), isOn);
   return Button(onToggle, drawing)
       .style(SettingsButtonStyle{})
-      .focusRing(ShapeForm::capsule())
+      .focusRing(Shape::capsule())
       .accessibilityRole(Role::toggle)
       .accessibilityLabel(label)
       .accessibilityValue(isOn ? "1" : "0");

@@ -34,7 +34,7 @@ void paintRow(desk::CairoCanvas& canvas, desk::WindowServer& server, const desk:
   if (row.view != nullptr) {
     if (isHighlighted) {
       // As rows highlight themselves under the pointer.
-      canvas.fill(ui::Shape::roundedRectangle(frame.inset(ui::Edges::horizontal(3).vertical(2)), 6),
+      canvas.fill(ui::Shape::roundedRectangle(frame.inset(ui::Edges::symmetric(3, 2)), 6),
                   ui::Paint::solid(ink(server.machine(), 0.08)));
     }
     paintView(canvas, server, *row.view, frame.origin());

@@ -31,7 +31,7 @@ Label labelled(const std::string& symbol, const std::string& english, const std:
 
 struct Styled {
   ui::ButtonStyle style;
-  ui::ShapeForm ring;
+  ui::Shape ring;
   /// In points; none for a button that is as wide as its label.
   std::optional<double> width;
 };
@@ -58,7 +58,7 @@ std::vector<GalleryItem> states(const Styled& styled, const Label& label) {
 }
 
 GallerySheet primarySheet() {
-  const ui::ShapeForm ring = ui::ShapeForm::rounded(PrimaryActionButtonStyle::cornerRadius);
+  const ui::Shape ring = ui::Shape::rounded(PrimaryActionButtonStyle::cornerRadius);
   const Styled pin{PrimaryActionButtonStyle{Color::accent()}, ring, 240};
   const Styled unpin{PrimaryActionButtonStyle{Color::red()}, ring, 240};
   const Label unpinLabel = labelled("lock.open", "Unpin Dock", "解除固定 Dock");
@@ -72,7 +72,7 @@ GallerySheet primarySheet() {
 }
 
 GallerySheet secondarySheet() {
-  const ui::ShapeForm ring = ui::ShapeForm::rounded(SecondaryActionButtonStyle::cornerRadius);
+  const ui::Shape ring = ui::Shape::rounded(SecondaryActionButtonStyle::cornerRadius);
   const Styled wide{SecondaryActionButtonStyle{}, ring, 240};
   const Styled narrow{SecondaryActionButtonStyle{}, ring, 190};
   std::vector<GalleryItem> items =
@@ -86,7 +86,7 @@ GallerySheet secondarySheet() {
 }
 
 GallerySheet titleBarSheet() {
-  const Styled styled{TitleBarIconButtonStyle{}, ui::ShapeForm::rounded(10), std::nullopt};
+  const Styled styled{TitleBarIconButtonStyle{}, ui::Shape::rounded(10), std::nullopt};
   return {.name = "title-bar-icon-button",
           .title = "TitleBarIconButtonStyle",
           .ground = GallerySheet::Ground::window,
@@ -98,8 +98,7 @@ GallerySheet titleBarSheet() {
 
 GallerySheet settingsSheet() {
   const Styled styled{SettingsSecondaryButtonStyle{},
-                      ui::ShapeForm::rounded(SettingsSecondaryButtonStyle::cornerRadius),
-                      std::nullopt};
+                      ui::Shape::rounded(SettingsSecondaryButtonStyle::cornerRadius), std::nullopt};
   return {.name = "settings-secondary-button",
           .title = "SettingsSecondaryButtonStyle",
           .ground = GallerySheet::Ground::settings,
@@ -107,7 +106,7 @@ GallerySheet settingsSheet() {
 }
 
 GallerySheet settingsIconSheet() {
-  const Styled styled{SettingsIconButtonStyle{}, ui::ShapeForm::circle(), std::nullopt};
+  const Styled styled{SettingsIconButtonStyle{}, ui::Shape::circle(), std::nullopt};
   return {.name = "settings-icon-button",
           .title = "SettingsIconButtonStyle",
           .ground = GallerySheet::Ground::settings,

@@ -90,8 +90,9 @@ void paintGround(desk::CairoCanvas& canvas, Ground ground, const ui::Rect& rect,
     return;
   }
   const WindowSurface surface{ground, rect.size()};
-  const Specimen specimen({{}, [surface](OrvaneLanguage) { return ui::View(surface); }},
-                          OrvaneLanguage::english, appearance, text, resources);
+  const Specimen specimen(
+      {.caption = "", .make = [surface](OrvaneLanguage) { return ui::View(surface); }},
+      OrvaneLanguage::english, appearance, text, resources);
   specimen.paint(canvas, {rect.x - Specimen::margin, rect.y - Specimen::margin});
 }
 

@@ -11,7 +11,7 @@ namespace {
 constexpr double betweenEvents = 10;
 
 ui::HostPlatform platform(ui::TextMeasurer& text, desk::DrawingResources& resources) {
-  return {&text, resources.imageSource(), {}, {}};
+  return {.text = &text, .images = resources.imageSource()};
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ void Specimen::use(Hand hand) {
       host_->pointerDown(middle);
       break;
     case Hand::tabbing:
-      host_->keyDown({ui::Key::tab, {}, {}});
+      host_->keyDown({.key = ui::Key::tab});
       break;
   }
   letTimePass();

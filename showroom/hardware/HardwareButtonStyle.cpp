@@ -14,7 +14,7 @@ View HardwareButtonStyle::body(const ButtonConfiguration& configuration,
                                             : Color::black().opacity(strength);
   return configuration.label.font(Font::system(11, Weight::medium))
       .foreground(Color::primary())
-      .padding(Edges::horizontal(9).vertical(3.5))
+      .padding(Edges::symmetric(9, 3.5))
       .background(RoundedRectangle(5).fill(ground))
       .opacity(configuration.isEnabled ? 1 : 0.4);
 }

@@ -34,7 +34,7 @@ View HardwareChoice::segment(std::size_t index, const Environment& environment) 
                           : View());
   return Button([choose = onChoose, index] { choose(index); }, label)
       .style(ui::BareButtonStyle{})
-      .focusRing(ShapeForm::rounded(4))
+      .focusRing(Shape::rounded(4))
       .accessibilityLabel(title + ": " + items[index])
       .accessibilityRole(Role::radioButton)
       .accessibilitySelected(isSelected);

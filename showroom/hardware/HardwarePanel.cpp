@@ -47,11 +47,11 @@ struct Group {
                   {Text(title)
                        .font(Font::system(11, Weight::semibold))
                        .foreground(quietColor())
-                       .padding(Edge::leading, 2)
+                       .padding({.leading = 2})
                        .accessibilityRole(Role::heading),
                    VStack(0, HorizontalAlignment::leading, lines)
                        .font(rowFont)
-                       .padding(Edges::horizontal(10).vertical(1))
+                       .padding(Edges::symmetric(10, 1))
                        .maximumWidth(infinity, Alignment::leading())
                        .background(RoundedRectangle(8).fill(plate).strokeBorder(rim, 0.5))});
   }
@@ -60,7 +60,7 @@ struct Group {
 View smallButton(const std::string& title, const std::string& label, std::function<void()> action) {
   return Button(std::move(action), Text(title).lineLimit(1))
       .style(HardwareButtonStyle{})
-      .focusRing(ShapeForm::rounded(5))
+      .focusRing(Shape::rounded(5))
       .accessibilityLabel(label);
 }
 

@@ -19,7 +19,7 @@ View HardwareSwitch::body(const Environment& /*environment*/) const {
   const View row = HStack(8, {Text(title).lineLimit(1), Spacer(), knob}).height(30);
   return Button([change = onChange, isOn = isOn] { change(!isOn); }, row)
       .style(ui::BareButtonStyle{})
-      .focusRing(ShapeForm::rounded(6))
+      .focusRing(Shape::rounded(6))
       .accessibilityLabel(title)
       .accessibilityRole(Role::toggle)
       .accessibilityValue(isOn ? "1" : "0");

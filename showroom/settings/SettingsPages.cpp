@@ -117,7 +117,7 @@ View makeDesktopAndDockPage(SystemSettings& settings) {
                                                                   settings.machine().preferences,
                                                                   Dock::autoHideKey, !hides);
                                                             }})}})
-           .padding(Edge::top, 20)});
+           .padding({.top = 20})});
   return titledPage(settings, language.text("Desktop & Dock", "桌面与程序坞"), content);
 }
 

@@ -40,7 +40,7 @@ View sidebarRow(SystemSettings& settings, const std::string& page, const std::st
           .background(RoundedRectangle(radius).fill(isSelected ? Color::accent() : Color::clear()));
   return Button([&settings, page] { settings.goTo(page); }, label)
       .style(SettingsButtonStyle{})
-      .focusRing(ShapeForm::rounded(radius))
+      .focusRing(Shape::rounded(radius))
       .accessibilityLabel(title)
       .accessibilityRole(Role::radioButton)
       .accessibilitySelected(isSelected);

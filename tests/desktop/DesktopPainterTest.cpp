@@ -196,23 +196,19 @@ TEST_F(DesktopPainterTest, KeepsTheMenuBarLegibleOnEveryWallpaper) {
   }
 }
 
-/// Paints a plain square on every display that holds it.
-class SquareLayer : public DesktopLayer {
- public:
-  explicit SquareLayer(const ui::Rect& square) : square_(square) {}
-  void paint(const DesktopScene&, const DisplayCanvas& display) override {
-    display.canvas.fill(ui::Shape::rectangle(square_), ui::Paint::solid({1, 0, 1, 1}));
-  }
-
- private:
-  ui::Rect square_;
-};
-
-TEST_F(DesktopPainterTest, PutsWindowsBelowTheDockAndMenusAboveTheMenuBar) {
+TEST_F(DesktopPainterTest, PutsWindowsBelowTheDockAndStatusWindowsAboveTheMenuBar) {
   const ui::Rect dock = shelf().shelf;
-  painter.addAboveWallpaper(std::make_unique<SquareLayer>(
-      ui::Rect{dock.x - 40, dock.y - 40, dock.width + 80, dock.height + 40}));
-  painter.addAboveMenuBar(std::make_unique<SquareLayer>(ui::Rect{780, 10, 60, 60}));
+  appkit::Window window{
+      appkit::WindowKind::window,
+      CGRectMake(dock.x - 40, 500 - dock.bottom(), dock.width + 80, dock.height + 40), 0};
+  appkit::Window status{appkit::WindowKind::panel, CGRectMake(780, 430, 60, 60), 0};
+  status.setLevel(appkit::WindowLevel::status);
+  for (appkit::Window* const shownWindow : {&window, &status}) {
+    shownWindow->setContentView(appkit::HostingView(
+        [](const ui::Environment&) { return ui::Rectangle().fill(ui::Color::rgb(1, 0, 1)); }));
+    shownWindow->orderFrontRegardless();
+  }
+  machine.runDue();
   const desk::SurfacePointer shown = picture();
   const desk::Pixel magenta{255, 0, 255, 255};
   EXPECT_EQ(

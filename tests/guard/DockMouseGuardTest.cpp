@@ -82,7 +82,7 @@ TEST_F(DockMouseGuardTest, WithoutPermissionARunningGuardKeepsItsEarlierSettings
   startPinned(OrvaneModifier::control);
   machine.permission.setTrusted(false);
   guard->start(desk::uuidNamed('B'), OrvaneModifier::shift, true);
-  EXPECT_NE(machine.eventTaps.find(1), nullptr) << "the first tap";
+  EXPECT_TRUE(guard->isRunning());
   EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor});
   EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
   EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::control);

@@ -1,4 +1,4 @@
-// Each call as one line: its name, its shape, its paint. Numbers have at most three decimals.
+// A call is one line: name, shape, paint. Numbers have at most three decimals.
 #include "tests/support/RecordingCanvas.hpp"
 
 #include <cmath>
@@ -9,7 +9,7 @@ namespace orvane::ui {
 namespace {
 
 std::string number(double value) {
-  // Adding zero turns a negative zero into a plain one.
+  // Adding zero makes a negative zero positive.
   const double rounded = std::round(value * 1000) / 1000 + 0.0;
   char buffer[64];
   std::snprintf(buffer, sizeof buffer, "%.10g", rounded);
@@ -30,6 +30,7 @@ std::string describe(const Shape& shape) {
              (shape.cornerStyle == CornerStyle::continuous ? " continuous)" : ")");
     case Shape::Kind::capsule:
       return "capsule(" + describe(shape.rect) + ")";
+    case Shape::Kind::circle:
     case Shape::Kind::ellipse:
       return "ellipse(" + describe(shape.rect) + ")";
   }

@@ -1,4 +1,4 @@
-// A canvas that writes every call as a line of text, for tests and for comparing drawings.
+// A canvas that records every call as a line of text.
 #pragma once
 
 #include <string>
@@ -12,13 +12,13 @@ class RecordingCanvas : public Canvas {
  public:
   explicit RecordingCanvas(double scaleFactor = 1) : scaleFactor_(scaleFactor) {}
 
-  const std::vector<std::string>& lines() const { return lines_; }
-  // All lines, each ended by a line feed; calls inside a save or a layer are indented.
-  std::string text() const;
-  // Saves and layers still open; 0 after a well-formed drawing.
-  int depth() const { return depth_; }
+  [[nodiscard]] const std::vector<std::string>& lines() const { return lines_; }
+  /// All lines, each with a line feed; calls within a save or a layer are indented.
+  [[nodiscard]] std::string text() const;
+  /// The number of open saves and layers; 0 after a balanced drawing.
+  [[nodiscard]] int depth() const { return depth_; }
 
-  double scaleFactor() const override { return scaleFactor_; }
+  [[nodiscard]] double scaleFactor() const override { return scaleFactor_; }
   void save() override;
   void restore() override;
   void transform(const Transform& transform) override;

@@ -53,8 +53,8 @@ TextLine makeLine(const std::vector<Character>& all, std::size_t from, std::size
   return line;
 }
 
-// Where the line that begins at `from` ends: the last place to break at that still fits, or else as
-// many characters as fit, but at least one.
+// The end of the line that begins at `from`: the last break that fits, or else as many characters
+// as fit, but at least one.
 std::size_t lineEnd(const std::vector<Character>& all, std::size_t from, double maximumWidth) {
   std::size_t breakAt = 0;
   double used = 0;
@@ -123,7 +123,8 @@ void breakParagraph(std::string_view text, const Font& font, double maximumWidth
 TextLayout SyntheticTextMeasurer::layout(const std::string& text, const Font& font,
                                          double maximumWidth, LineLimit limit) {
   const double allowed = maximumWidth > 0 ? maximumWidth : 0;
-  TextLayout layout{{}, font.size, font.size * 0.75, false};
+  TextLayout layout{
+      .lines = {}, .lineHeight = font.size, .ascent = font.size * 0.75, .isTruncated = false};
   std::string_view rest = text;
   while (true) {
     const std::size_t feed = rest.find('\n');

@@ -1,6 +1,6 @@
-// A font for layout tests that can be computed in the head: every character is half as wide as the
-// font's size (Chinese characters as wide as it), a line is as high as the size, and the baseline
-// lies three quarters down. Tracking is added to every character.
+// A font for layout tests with round numbers: a character is half as wide as the font's size, a
+// Chinese one as wide as the size, a line is as high as the size, and its ascent is three quarters
+// of it. Tracking is added to every character.
 #pragma once
 
 #include "Orvane/ui/draw/TextMeasurer.hpp"
@@ -9,8 +9,8 @@ namespace orvane::ui {
 
 class SyntheticTextMeasurer : public TextMeasurer {
  public:
-  TextLayout layout(const std::string& text, const Font& font, double maximumWidth,
-                    LineLimit limit) override;
+  [[nodiscard]] TextLayout layout(const std::string& text, const Font& font, double maximumWidth,
+                                  LineLimit limit) override;
 };
 
 }  // namespace orvane::ui

@@ -95,6 +95,14 @@ class ArrowsTest(RuleTest):
         self.assert_pairs([f"Orvane/{part}" for part in self.parts], "",
                           {(f"Orvane/{a}", f"Orvane/{b}") for a, b in self.may_include})
 
+    def test_every_pair_of_folders_of_the_view_kit(self):
+        folders = ["layout", "draw", "views", "host"]
+        allowed = {("draw", "layout"), ("views", "layout"), ("views", "draw"), ("views", "host"),
+                   ("host", "layout"), ("host", "draw"), ("host", "views")}
+        allowed |= {(folder, folder) for folder in folders}
+        self.assert_pairs([f"Orvane/ui/{folder}" for folder in folders], "",
+                          {(f"Orvane/ui/{a}", f"Orvane/ui/{b}") for a, b in allowed})
+
     def test_every_pair_of_parts_of_the_desk(self):
         parts = ["canvas", "symbols", "machine", "quartz", "windows", "appkit", "settings", "hand",
                  "application", "script", "explore"]
@@ -382,6 +390,50 @@ class UnfinishedTest(RuleTest):
 
     def test_ordinary_words(self):
         self.assert_passed({"desk/Dock.cpp": "// A todo list; a hacksaw; isDisabled_; XXXL\n"})
+
+
+class UnusedTest(RuleTest):
+    rule = "unused"
+    declaration = HEADER + "class Dock {\n public:\n  [[nodiscard]] std::vector<int> tiles() const;\n};\n"
+    definition = "std::vector<int> Dock::tiles() const {\n  return {};\n}\n"
+
+    def of(self, user, definition=definition, declaration=declaration):
+        return {"desk/Dock.hpp": declaration, "desk/Dock.cpp": TOP + definition,
+                "showroom/Show.cpp": TOP + user}
+
+    def test_a_function_that_is_called_or_passed_on(self):
+        for user in ("  return dock.tiles();", "  dock->tiles();", "  if (a && tiles()) {", "  !tiles();",
+                     "  a > tiles();", "  bind(&Dock::tiles);", "  Dock::tiles();"):
+            with self.subTest(user=user):
+                self.assert_passed(self.of(user + "\n"))
+
+    def test_a_function_that_is_only_defined(self):
+        for user in ("", "// dock.tiles()\n", "say(\"tiles\");\n", "Tiles& tiles();\n",
+                     "  Tiles tiles() const override {\n"):
+            with self.subTest(user=user):
+                self.assert_caught(self.of(user), ("desk/Dock.hpp", 6))
+
+    def test_a_use_in_a_test_does_not_count(self):
+        files = self.of("") | {"tests/DockTest.cpp": TOP + "  dock.tiles();\n"}
+        self.assert_caught(files, ("desk/Dock.hpp", 6))
+
+    def test_a_function_without_a_definition(self):
+        self.assert_caught(self.of("  dock.tiles();\n", definition=""), ("desk/Dock.hpp", 6))
+        for declaration in ("virtual int tiles() = 0;", "int tiles() { return 1; }",
+                            "int tiles() {\n    if (a) {\n      b();\n    }\n  }"):
+            with self.subTest(declaration=declaration):
+                header = HEADER + "struct Dock {\n  " + declaration + "\n};\n"
+                self.assert_passed(self.of("  dock.tiles();\n", "", header))
+
+    def test_members_and_calls_are_not_functions(self):
+        self.assert_passed({"desk/Dock.hpp": HEADER + "struct Dock {\n  std::function<void(int)> moved;\n"
+                            "  int size = of(1);\n  using Tile = int(*)(int);\n};\n"
+                            "inline void Dock::of() {\n  Tile tile(1);\n}\n"})
+
+    def test_constants(self):
+        header = HEADER + "inline constexpr double height = 20;\n"
+        self.assert_caught({"desk/Dock.hpp": header}, ("desk/Dock.hpp", 4))
+        self.assert_passed({"desk/Dock.hpp": header, "desk/Dock.cpp": TOP + "  return height;\n"})
 
 
 class AddressesTest(RuleTest):

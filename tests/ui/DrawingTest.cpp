@@ -1,4 +1,4 @@
-// What is drawn, as recorded; and how little is drawn again.
+// Recorded drawing calls, and the areas that are repainted.
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@
 namespace orvane::ui {
 namespace {
 
-// The drawing without the outermost save, clip and restore.
+// The drawing without the host's own save, clip and restore.
 std::string drawn(const View& view, Size size, double scaleFactor = 1) {
   TestHost test(size);
   test.show(view);
@@ -27,7 +27,7 @@ std::string drawn(const View& view, Size size, double scaleFactor = 1) {
   return result;
 }
 
-// A component as it is meant to be written.
+// A composite view.
 struct Pill {
   std::string text;
   bool isActive = false;
@@ -36,7 +36,7 @@ struct Pill {
     return Text(text)
         .font(Font::system(10, Weight::bold))
         .foreground(isActive ? Color::accent() : Color::secondary())
-        .padding(Edges::horizontal(13).vertical(8))
+        .padding(Edges::symmetric(13, 8))
         .background(Capsule()
                         .fill(Color::white().opacity(environment.isDark() ? 0.095 : 0.05))
                         .stroke(Color::white().opacity(0.5), 0.7));
@@ -50,8 +50,8 @@ TEST(DrawingTest, AComponentDrawsItsBackgroundThenItsText) {
             "text \"ok\" 10/700 rgba(0 0.478 1 1) at 13 16\n");
 }
 
-TEST(DrawingTest, WhatStandsStillStaysOnItsPixelsWhileOtherThingsChange) {
-  // The text stands at fractions of a point: on whole ones while nothing moves it.
+TEST(DrawingTest, AViewAtRestStaysSnappedWhileOthersMove) {
+  // The text is at fractions of a point, and snapped while nothing moves it.
   bool isChanged = false;
   double shift = 0;
   TestHost test({100, 50});
@@ -117,8 +117,8 @@ TEST(DrawingTest, OpacityAndShadowOfASubtreeAreLayers) {
             "end\n");
 }
 
-TEST(DrawingTest, ClipsAndScalesAreUndoneAfterTheirView) {
-  EXPECT_EQ(drawn(Rectangle().fill(Color::white()).frame(10, 10).clip(ShapeForm::circle()).scale(2),
+TEST(DrawingTest, ClipsAndScalesEndWithTheirView) {
+  EXPECT_EQ(drawn(Rectangle().fill(Color::white()).frame(10, 10).clip(Shape::circle()).scale(2),
                   {20, 20}),
             "save\n"
             "  transform scale 2 2 translate -10 -10\n"
@@ -160,7 +160,7 @@ TEST(DrawingTest, LinesOfTextAreAlignedInTheirFrame) {
       "text \"b\" 10/400 rgba(0 0 0 0.85) at 10 18\n");
 }
 
-TEST(DrawingTest, NumbersThatAreNoneCountAsZero) {
+TEST(DrawingTest, NumbersThatAreNotFiniteCountAsZero) {
   const View box = Rectangle().fill(Color::white()).frame(10, 10);
   EXPECT_EQ(drawn(box.offset(std::nan(""), infinity), {10, 10}),
             "fill rectangle(0 0 10 10) rgba(1 1 1 1)\n");
@@ -173,7 +173,7 @@ TEST(DrawingTest, SymbolsAndImagesAreDrawnByName) {
   EXPECT_EQ(drawn(Image("photo").resizable(), {12, 12}), "image photo (0 0 12 12)\n");
 }
 
-TEST(DrawingTest, InTheDarkAnImageIsReplacedByItsDarkTwin) {
+TEST(DrawingTest, InTheDarkAppearanceAnImageIsReplacedByItsDarkVariant) {
   TestHost test({12, 12});
   test.show(Image("photo").resizable());
   Appearance dark;
@@ -205,7 +205,7 @@ TEST_F(DirtyTest, TheFirstPresentationIsDirtyAndARedrawWithoutChangeIsNot) {
   EXPECT_TRUE(dirtyAfterUpdate().empty());
 }
 
-TEST_F(DirtyTest, OnlyWhatLooksDifferentIsRepainted) {
+TEST_F(DirtyTest, OnlyChangedViewsAreRepainted) {
   Color color = Color::white();
   test.show([&](const Environment&) -> View {
     return HStack(20, {box(Color::black()), box(color), box(Color::black())});
@@ -223,14 +223,14 @@ TEST_F(DirtyTest, OnlyWhatLooksDifferentIsRepainted) {
             "restore\n");
 }
 
-TEST_F(DirtyTest, WhatMovesIsRepaintedWhereItWasAndWhereItIs) {
+TEST_F(DirtyTest, AMovedViewIsRepaintedAtItsOldAndNewPlace) {
   double x = -40;
   test.show([&](const Environment&) { return box(Color::white()).offset(x, 0); });
   x = 40;
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{-1, -1, 22, 22}, {79, -1, 22, 22}}));
 }
 
-TEST_F(DirtyTest, WhatGoesIsRepaintedWhereItWas) {
+TEST_F(DirtyTest, ARemovedViewIsRepaintedWhereItWas) {
   bool isShown = true;
   test.show(
       [&](const Environment&) -> View { return ZStack({when(isShown, box(Color::white()))}); });
@@ -244,31 +244,31 @@ TEST_F(DirtyTest, ShadowsReachBeyondTheirViewAndClipsCutThem) {
     return box(Color::white()).shadow({Color::black(), radius, 0, 2});
   });
   radius = 2;
-  // The larger one decides: 1.5 radii and two points around, two further down.
+  // That of the larger one: 1.5 radii and two points around, two further down.
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{32, -6, 36, 36}}));
   test.show([&](const Environment&) {
-    return box(Color::white()).shadow({Color::black(), radius, 0, 2}).clip(ShapeForm::rectangle());
+    return box(Color::white()).shadow({Color::black(), radius, 0, 2}).clip(Shape::rectangle());
   });
   radius = 1;
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{40, 0, 20, 20}}));
 }
 
-TEST_F(DirtyTest, ClipsInsideOfOneAnotherCutTogether) {
+TEST_F(DirtyTest, NestedClipsIntersect) {
   Color color = Color::white();
   test.show([&](const Environment&) {
     return Rectangle()
         .fill(color)
         .frame(40, 20)
         .offset(10, 0)
-        .clip(ShapeForm::rectangle())
+        .clip(Shape::rectangle())
         .frame(20, 20)
-        .clip(ShapeForm::rectangle());
+        .clip(Shape::rectangle());
   });
   color = Color::red();
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{40, 0, 20, 20}}));
 }
 
-TEST_F(DirtyTest, WhatHasMovedAwayIsRepaintedWhenItIsGone) {
+TEST_F(DirtyTest, ALeavingViewIsRepaintedWhenItIsGone) {
   bool isShown = true;
   test.show([&](const Environment&) -> View {
     return ZStack({when(isShown, box(Color::white()).transition(Transition::scale(0.5)))})

@@ -1,5 +1,5 @@
-// What holds for every tree of views: sizes are numbers, children lie within their parents,
-// spacings add up exactly, and the same input gives the same output.
+// Properties of every view tree: sizes are numbers, children lie within their parents, spacings are
+// exact, and layout is deterministic.
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -43,7 +43,7 @@ View anyLeaf() {
   }
 }
 
-// Views that hold their content: no frame smaller than it, no offset, no layer, no scrolling.
+// Views that contain their content: no smaller frame, no offset, no layer, no scrolling.
 View anyView(int depth) {
   if (depth == 0) {
     return anyLeaf();
@@ -101,7 +101,7 @@ class LaidOut {
   std::uint64_t nodeCount_ = 0;
 };
 
-RC_GTEST_PROP(LayoutPropertyTest, EverySizeIsANumberAndEveryFrameIsFinite, ()) {
+RC_GTEST_PROP(LayoutPropertyTest, SizesAreNumbersAndFramesAreFinite, ()) {
   View view = anyView(4);
   if (*rc::gen::arbitrary<bool>()) {
     view = ScrollView(view).overlay(anyView(2)).offset(3, 4);
@@ -130,7 +130,7 @@ RC_GTEST_PROP(LayoutPropertyTest, ChildrenLieWithinTheirParent, ()) {
   });
 }
 
-RC_GTEST_PROP(LayoutPropertyTest, SpacingsAddUpExactly, ()) {
+RC_GTEST_PROP(LayoutPropertyTest, SpacingsAreExact, ()) {
   const LaidOut tree(anyView(4),
                      {double(*rc::gen::inRange(0, 400)), double(*rc::gen::inRange(0, 400))});
   visitNodes(*tree.root, [&](const Node& node) {
@@ -151,7 +151,7 @@ RC_GTEST_PROP(LayoutPropertyTest, SpacingsAddUpExactly, ()) {
   });
 }
 
-RC_GTEST_PROP(LayoutPropertyTest, TheSameInputGivesTheSameOutput, ()) {
+RC_GTEST_PROP(LayoutPropertyTest, LayoutIsDeterministic, ()) {
   const View view = anyView(4);
   const Proposal proposal{anyLength(), anyLength()};
   RC_ASSERT(LaidOut(view, proposal).frames() == LaidOut(view, proposal).frames());

@@ -31,7 +31,7 @@ TEST(LayoutTest, ARowPlacesItsChildrenSideBySideInTheMiddleOfTheHost) {
             "a(38.5 5 5 10) bb(51.5 5 10 10)");
 }
 
-TEST(LayoutTest, ARowOfItsOwnIdealWidthCutsNoText) {
+TEST(LayoutTest, ARowOfItsIdealWidthTruncatesNoText) {
   // Sizes and spacings whose sums are rounded.
   for (int step = 0; step < 200; ++step) {
     const double size = 9 + step * 0.07;
@@ -56,7 +56,7 @@ TEST(LayoutTest, AColumnAlignsItsChildrenAcross) {
             "a(10 0 5 10) bbb(0 12 15 10)");
 }
 
-// A measurer whose lines are taller for anything but Latin letters.
+// A measurer with taller lines for other scripts than Latin.
 class TallScript : public TextMeasurer {
  public:
   TextLayout layout(const std::string& text, const Font& font, double maximumWidth,
@@ -72,7 +72,7 @@ class TallScript : public TextMeasurer {
   SyntheticTextMeasurer latin_;
 };
 
-TEST(LayoutTest, LinesOfAFixedHeightHaveTheirBaselinesWhereLatinOnesHaveThem) {
+TEST(LayoutTest, LinesOfAFixedHeightHaveTheBaselinesOfLatinOnes) {
   const auto drawing = [](const std::string& text, const View& view) {
     TallScript measurer;
     HostPlatform platform;
@@ -102,7 +102,8 @@ TEST(LayoutTest, LinesOfAFixedHeightHaveTheirBaselinesWhereLatinOnesHaveThem) {
   EXPECT_EQ(baselines("a\nb"), (std::vector<std::string>{" at 0 10", " at 0 24"}));
   EXPECT_EQ(baselines("中\nb"), baselines("a\nb"));
   EXPECT_EQ(drawing("中", Text("中").lineHeight(0)), drawing("中", Text("中")));
-  EXPECT_NE(drawing("中", Text("中")), drawing("a", Text("a"))) << "else they follow their script";
+  EXPECT_NE(drawing("中", Text("中")), drawing("a", Text("a")))
+      << "without a height they depend on the script";
 }
 
 TEST(LayoutTest, SpacersPushTheirNeighboursApart) {
@@ -113,7 +114,7 @@ TEST(LayoutTest, SpacersPushTheirNeighboursApart) {
             "a(0 0 5 10) b(25 0 5 10)");
 }
 
-TEST(LayoutTest, AHeaderRowGivesWayWordByWord) {
+TEST(LayoutTest, AHeaderRowWrapsWordByWord) {
   // At every width: the rigid label keeps its room, then the text wraps, and at last both break.
   const View header = HStack(8, VerticalAlignment::top, {Text("aaaa bbbb"), Spacer(), Text("ok")});
   const View tall = header.frame({.maximumHeight = infinity, .alignment = Alignment::top()});
@@ -127,7 +128,7 @@ TEST(LayoutTest, AHeaderRowGivesWayWordByWord) {
   }
 }
 
-TEST(LayoutTest, EmptyViewsTakeNeitherRoomNorSpacing) {
+TEST(LayoutTest, EmptyViewsHaveNeitherSizeNorSpacing) {
   const View row = HStack(8, {Text("a"), when(false, Text("gone")), Text("b"), View().padding()});
   EXPECT_EQ(framesIn(row, 18, 10), "a(0 0 5 10) b(13 0 5 10)");
 }
@@ -143,10 +144,10 @@ TEST(LayoutTest, AGroupTakesPartInItsStackMemberByMember) {
 
 TEST(LayoutTest, PaddingSurroundsAndModifiersApplyInTheirOrder) {
   EXPECT_EQ(ideal(Text("a").padding()), (Size{37, 42}));
-  EXPECT_EQ(ideal(Text("a").padding(Edges::horizontal(13).vertical(8))), (Size{31, 26}));
+  EXPECT_EQ(ideal(Text("a").padding(Edges::symmetric(13, 8))), (Size{31, 26}));
   EXPECT_EQ(ideal(Text("a").padding(4).frame(50, 50)), (Size{50, 50}));
   EXPECT_EQ(ideal(Text("a").frame(50, 50).padding(4)), (Size{58, 58}));
-  EXPECT_EQ(framesIn(Text("a").padding(Edge::top, 6), 5, 16), "a(0 6 5 10)");
+  EXPECT_EQ(framesIn(Text("a").padding({.top = 6}), 5, 16), "a(0 6 5 10)");
 }
 
 TEST(LayoutTest, AFixedFrameAlignsItsContent) {
@@ -156,7 +157,7 @@ TEST(LayoutTest, AFixedFrameAlignsItsContent) {
   EXPECT_EQ(framesIn(Text("a").frame(25, 30), 25, 30), "a(10 10 5 10)");
 }
 
-TEST(LayoutTest, AFlexibleFrameGrowsToWhatItIsOfferedWithinItsBounds) {
+TEST(LayoutTest, AFlexibleFrameGrowsToItsProposalWithinItsBounds) {
   FrameBounds bounds;
   bounds.minimumWidth = 20;
   bounds.maximumWidth = 60;
@@ -173,7 +174,7 @@ TEST(LayoutTest, TwoStretchedLabelsShareTheWidthEqually) {
   EXPECT_EQ(framesIn(row, 110, 10), "a(22.5 0 5 10) bbbbbb(70 0 30 10)");
 }
 
-TEST(LayoutTest, TextIsCutWhereHeightIsShortUnlessItsHeightIsFixed) {
+TEST(LayoutTest, TextIsTruncatedToItsHeightUnlessItIsFixed) {
   TestHost cut({20, 15});
   cut.show(Text("aaaa bbbb cccc").font(Font::system(10)));
   EXPECT_NE(cut.drawing().find("text \"aaa…\""), std::string::npos);
@@ -186,7 +187,7 @@ TEST(LayoutTest, ALineLimitIsInherited) {
   EXPECT_EQ(framesIn(VStack(0, {Text("aaaa bbbb")}).lineLimit(1), 25, 40), "aaaa bbbb(0 15 25 10)");
 }
 
-TEST(LayoutTest, LayersAreOfferedTheSizeOfTheirViewAndDoNotChangeIt) {
+TEST(LayoutTest, LayersAreProposedTheSizeOfTheirViewAndDoNotChangeIt) {
   const View view = Text("content")
                         .overlay(Text("o"), Alignment::topTrailing())
                         .background(Text("b"), Alignment::leading());
@@ -225,7 +226,7 @@ TEST(LayoutTest, ImagesKeepTheirSizeUntilTheyAreMadeResizable) {
   EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{60, 30}));
 }
 
-TEST(LayoutTest, PrioritiesDecideWhoIsServedFirst) {
+TEST(LayoutTest, HigherPrioritiesAreServedFirst) {
   const View row = HStack(0, {Text("aa aa"), Text("bb bb").layoutPriority(1)});
   EXPECT_EQ(framesIn(row, 35, 20), "aa aa(0 0 10 20) bb bb(10 5 25 10)");
 }

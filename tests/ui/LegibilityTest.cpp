@@ -1,4 +1,4 @@
-// Colours are changed as little as reading takes, for any colour on any ground.
+// Legible colours, changed as little as necessary, for any colour on any background.
 #include <algorithm>
 #include <cmath>
 
@@ -35,7 +35,7 @@ double chromaOf(const Rgba& color) {
          std::min({color.red, color.green, color.blue});
 }
 
-// Figures that others publish for these pairs.
+// Published figures of these pairs.
 TEST(LegibilityTest, ContrastIsThatOfTheGuidelines) {
   EXPECT_NEAR(contrastOf(black, white), 21, 1e-9);
   EXPECT_NEAR(contrastOf({0.4666667, 0.4666667, 0.4666667, 1}, white), 4.48, 0.005);
@@ -62,7 +62,7 @@ RC_GTEST_PROP(LegibilityTest, ATextReachesTheContrastInItsOwnHue, ()) {
   }
 }
 
-RC_GTEST_PROP(LegibilityTest, ATextIsChangedNoFurtherThanItTakes, ()) {
+RC_GTEST_PROP(LegibilityTest, ATextIsChangedNoFurtherThanNecessary, ()) {
   const Rgba color = anyColor();
   const double ground = *rc::gen::element(0.07, 0.8);
   const Rgba text = legibility::textOn(ground, color, 3);
@@ -70,18 +70,18 @@ RC_GTEST_PROP(LegibilityTest, ATextIsChangedNoFurtherThanItTakes, ()) {
   RC_ASSERT(text == color || reached < 3.06);
 }
 
-TEST(LegibilityTest, WhatCanBeReadStaysAsItIs) {
+TEST(LegibilityTest, ALegibleColourStaysAsItIs) {
   EXPECT_EQ(legibility::textOn(1, blue, 3), blue);
   EXPECT_EQ(legibility::buttonFill(blue, 3, 0), blue);
 }
 
-TEST(LegibilityTest, AVeilMovesTheGroundTowardsItsColour) {
+TEST(LegibilityTest, AVeilMovesTheBackgroundTowardsItsColour) {
   EXPECT_NEAR(legibility::veiled(0.5, white, 0), 0.5, 1e-9);
   EXPECT_NEAR(legibility::veiled(0.5, blue, 1), legibility::relativeLuminance(blue), 1e-9);
   EXPECT_LT(legibility::veiled(0.5, black, 0.2), 0.5);
 }
 
-RC_GTEST_PROP(LegibilityTest, ALabelCanBeReadOnItsFillAlsoWhereTheFillIsLightened, ()) {
+RC_GTEST_PROP(LegibilityTest, ALabelIsLegibleOnItsFillAndWhereTheFillIsLightened, ()) {
   const Rgba color = anyColor();
   const double required = *rc::gen::element(3.0, 4.5);
   constexpr double light = 0.125;

@@ -1,4 +1,4 @@
-// The outlines of shapes: where they run, and how they bend.
+// The outlines of shapes and their curvature.
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -69,7 +69,7 @@ TEST(ShapeTest, AContinuousCornerHasNoJumpOfCurvature) {
     }
   }
   EXPECT_NEAR(all.front().curvature, 0, 1e-6);
-  // Nowhere tighter by a fifth than the circle of its radius.
+  // Everywhere less than a fifth tighter than the circle of its radius.
   EXPECT_GT(strongest, 1 / 20.0);
   EXPECT_LT(strongest, 1.2 / 20.0);
 }
@@ -95,8 +95,8 @@ TEST(ShapeTest, InsetKeepsCornersConcentric) {
   EXPECT_EQ(Shape::roundedRectangle({0, 0, 50, 50}, 1).inset(3).cornerRadius, 0);
 }
 
-TEST(ShapeTest, ACircleIsTheLargestInTheMiddle) {
-  EXPECT_EQ(Shape::circle({0, 0, 100, 40}).rect, (Rect{30, 0, 40, 40}));
+TEST(ShapeTest, ACircleIsTheLargestOneInTheMiddle) {
+  EXPECT_EQ(Shape::circle({0, 0, 100, 40}), Shape::ellipse({30, 0, 40, 40}));
 }
 
 TEST(ShapeTest, AnEmptyRectangleHasNoOutline) {

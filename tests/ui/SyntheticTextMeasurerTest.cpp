@@ -1,4 +1,4 @@
-// The font that can be computed in the head.
+// The synthetic font.
 #include <limits>
 
 #include <gtest/gtest.h>

@@ -164,7 +164,7 @@ TEST_F(FadeThroughTest, CombinesWithAMovement) {
 
 TEST_F(TransitionTest, WithoutACurveAChangeIsThereAtOnceInsideAnAnimation) {
   test.show([this](const Environment&) -> View {
-    const View text = Text("a").font(Font::system(10)).padding(Edge::leading, isShown ? 0 : 40);
+    const View text = Text("a").font(Font::system(10)).padding({.leading = isShown ? 0.0 : 40.0});
     return ZStack({text.animation(std::nullopt, isShown)})
         .frame(100, 50, Alignment::leading())
         .animation(Curve::linear(1), isShown);

@@ -1,4 +1,4 @@
-// Where lines are cut, with characters that are all one point wide.
+// Truncated lines, with characters that are all one point wide.
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -30,7 +30,7 @@ std::string cut(const std::string& line, TruncationMode mode, double width) {
   return truncatedLine(line, places, mode, width, widthOf);
 }
 
-TEST(TruncationTest, AtTheTailAsMuchOfTheBeginningStaysAsFits) {
+TEST(TruncationTest, AtTheTailAsMuchOfTheBeginningAsFitsIsKept) {
   EXPECT_EQ(cut("Studio Display", TruncationMode::tail, 10), "Studio Di…");
   // No blank before the ellipsis.
   EXPECT_EQ(cut("Studio Display", TruncationMode::tail, 8), "Studio…");
@@ -46,13 +46,13 @@ TEST(TruncationTest, InTheMiddleTheEndBeginsWithAWholeWordWhereThereIsRoom) {
   EXPECT_EQ(cut("Laboratory Display (Main)", TruncationMode::middle, 19), "Laborator…ay (Main)");
 }
 
-TEST(TruncationTest, InTheMiddleNoBracketIsCutInTwo) {
+TEST(TruncationTest, InTheMiddleNoBracketIsSplit) {
   EXPECT_EQ(cut("LaboratoryDisplay(2)(Main)", TruncationMode::middle, 14), "Laborat…(Main)");
   EXPECT_EQ(cut("LaboratoryDisplay(2)(Main)", TruncationMode::middle, 15), "Labor…(2)(Main)");
   EXPECT_EQ(cut("Laboratory（Conference2）", TruncationMode::middle, 12), "Laboratory（…");
 }
 
-TEST(TruncationTest, InTheMiddleBothEndsAreTheLinesAndAllFits) {
+TEST(TruncationTest, InTheMiddleBothEndsAreKeptAndTheResultFits) {
   const std::string line = "Laboratory Display (2) (Main)";
   for (int width = 0; width < 29; ++width) {
     const std::string text = cut(line, TruncationMode::middle, width);
@@ -65,7 +65,7 @@ TEST(TruncationTest, InTheMiddleBothEndsAreTheLinesAndAllFits) {
   }
 }
 
-TEST(TruncationTest, ALineThatFitsLosesItsEndToTheNextOne) {
+TEST(TruncationTest, ALineThatFitsEndsInAnEllipsisBeforeAnotherLine) {
   EXPECT_EQ(cut("Display", TruncationMode::middle, 20), "Display…");
   EXPECT_EQ(cut("", TruncationMode::middle, 20), "…");
 }

@@ -1,6 +1,6 @@
 """The project's rules, by name. A rule takes a Project and yields (file, line, text)."""
 
-from . import arrows, comments, conditions, formatting, listing, names, patterns, size
+from . import arrows, comments, conditions, formatting, listing, names, patterns, size, unused
 
 rules = {
     "arrows": arrows.check,
@@ -13,6 +13,7 @@ rules = {
     "opening-comment": comments.check,
     "formatting": formatting.check,
     "size": size.check,
+    "unused": unused.check,
     "unfinished": patterns.unfinished,
     "addresses": patterns.addresses,
 }

@@ -17,7 +17,14 @@ APPLICATION = {
     "app": {"base", "ui", "platform", "geometry", "guard", "permission", "model", "windows",
             "panels"},
 }
-# The same for the simulated Mac, and for what shows it.
+# The same for the folders of the view kit,
+KIT = {
+    "layout": set(),
+    "draw": {"layout"},
+    "views": {"draw", "host", "layout"},
+    "host": {"draw", "layout", "views"},
+}
+# for the simulated Mac, and for what shows it.
 DESK = {
     "canvas": set(),
     "symbols": set(),
@@ -41,7 +48,8 @@ SHOWROOM = {
 }
 # Puts the parts together.
 MAIN_FILE = ("showroom", "Main.cpp")
-ALLOWED = {"Orvane": APPLICATION, "desk": DESK, "showroom": SHOWROOM}
+ALLOWED = {("Orvane",): APPLICATION, ("Orvane", "ui"): KIT, ("desk",): DESK,
+           ("showroom",): SHOWROOM}
 FOR_EVERYONE = {"Orvane/model/OrvaneLanguage.hpp"}
 
 # For each top folder, the others that it may include.
@@ -84,13 +92,16 @@ def _forbidden(source, target, path):
         if target[0] not in TOPS[source[0]]:
             return f"{source[0]} may not include {path}"
         return None
-    parts = ALLOWED.get(source[0])
-    if parts is None or path in FOR_EVERYONE or source == MAIN_FILE:
+    if path in FOR_EVERYONE or source == MAIN_FILE:
         return None
-    here, there = source[1], target[1]
-    if here not in parts:
-        return f"{source[0]}/{here} is no known part; say in the arrows what it may include"
-    everyones = {"base"} if source[0] == "Orvane" and here != "base" else set()
-    if there not in parts[here] | {here} | everyones:
-        return f"{here} may not include {path}"
+    for above, parts in ALLOWED.items():
+        depth = len(above)
+        if not source[:depth] == tuple(target[:depth]) == above or len(source) < depth + 2:
+            continue
+        here, there = source[depth], target[depth]
+        if here not in parts:
+            return f"{'/'.join(source[:-1])} is no known part; say in the arrows what it may include"
+        everyones = {"base"} if above == ("Orvane",) and here != "base" else set()
+        if there not in parts[here] | {here} | everyones:
+            return f"{'/'.join((*above, here))} may not include {path}"
     return None

@@ -36,12 +36,12 @@ View ContentView::windowBackground(bool isDark) const {
   const View highlight = Rectangle()
                              .fill(OrvanePalette::windowTopHighlight(isDark))
                              .height(topHighlightHeight)
-                             .clip(ShapeForm::rectangle());
+                             .clip(Shape::rectangle());
   return RoundedRectangle(OrvaneWindow::cornerRadius)
       .fill(OrvanePalette::windowGradient(isDark))
       .stroke(OrvanePalette::windowRim(isDark), 1)
       .overlay(highlight, Alignment::top())
-      .clip(ShapeForm::rounded(OrvaneWindow::cornerRadius));
+      .clip(Shape::rounded(OrvaneWindow::cornerRadius));
 }
 
 View ContentView::trafficLights(const Environment& environment) const {
@@ -55,7 +55,7 @@ View ContentView::trafficLights(const Environment& environment) const {
                                         actions.minimise))
           .keyboardShortcut(KeyboardShortcut::command("m"));
   return HStack(trafficLightSpacing, {close, minimise})
-      .padding(Edge::leading, clusterPadding)
+      .padding({.leading = clusterPadding})
       .frame(clusterWidth, titleBarHeight, Alignment::leading())
       .onHover([isHovered](bool isInside) { isHovered.set(isInside); });
 }
@@ -65,7 +65,7 @@ View ContentView::appIcon(const Environment& environment) const {
     return Image("AppIcon")
         .resizable()
         .frame(22, 22)
-        .clip(ShapeForm::rounded(5))
+        .clip(Shape::rounded(5))
         .shadow({.color = Color::accent().opacity(0.22), .radius = 4, .y = 1});
   }
   return Symbol("dock.rectangle")
@@ -79,7 +79,7 @@ View ContentView::settingsButton() const {
   return Button(actions.showSettings,
                 Symbol("gearshape").font(Font::system(18, Weight::semibold)).frame(34, 34))
       .style(TitleBarIconButtonStyle{})
-      .focusRing(ShapeForm::rounded(TitleBarIconButtonStyle::cornerRadius))
+      .focusRing(Shape::rounded(TitleBarIconButtonStyle::cornerRadius))
       .tooltip(title)
       .accessibilityLabel(title);
 }
@@ -91,7 +91,7 @@ View ContentView::titleBar(const Environment& environment) const {
                                                           .accessibilityRole(Role::heading)});
   return HStack(0, {trafficLights(environment), Spacer(), title, Spacer(),
                     settingsButton()
-                        .padding(Edge::trailing, clusterPadding)
+                        .padding({.trailing = clusterPadding})
                         .frame({.width = clusterWidth, .alignment = Alignment::trailing()})})
       .maximumWidth()
       .height(titleBarHeight);

@@ -156,7 +156,7 @@ View ContentView::pinButton() const {
                          : fadingLabel("lock", model->localized("Pin Dock", "固定 Dock"));
   return Button([model = model] { model->toggleSelectedDisplayLock(); }, label)
       .style(PrimaryActionButtonStyle{.tint = isPinned ? Color::red() : Color::accent()})
-      .focusRing(ShapeForm::rounded(PrimaryActionButtonStyle::cornerRadius))
+      .focusRing(Shape::rounded(PrimaryActionButtonStyle::cornerRadius))
       .disabled(!model->selectedDisplayID().value().has_value());
 }
 
@@ -187,7 +187,7 @@ View ContentView::popUpButtons() const {
       isPreventing
           ? fadingLabel("eye", model->localized("Allow Dock Pop-Up", "允许 Dock 弹出"))
           : fadingLabel("eye.slash", model->localized("Prevent Dock Pop-Up", "防止 Dock 弹出"));
-  const ShapeForm ring = ShapeForm::rounded(SecondaryActionButtonStyle::cornerRadius);
+  const Shape ring = Shape::rounded(SecondaryActionButtonStyle::cornerRadius);
   const View toggle = Button([model = model] { model->toggleHideDockOnAllDisplays(); }, toggleLabel)
                           .style(SecondaryActionButtonStyle{})
                           .focusRing(ring);
@@ -211,7 +211,7 @@ View ContentView::popUpButtons() const {
                          .trailing = -DockPanel::padding};
   return HStack(buttonSpacing, {toggle, when(isPreventing, openSettings)})
       .padding(clipMargin)
-      .clip(ShapeForm::rectangle())
+      .clip(Shape::rectangle())
       .padding(undoMargin);
 }
 

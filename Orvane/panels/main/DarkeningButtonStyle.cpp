@@ -10,7 +10,7 @@ using namespace ui;
 View DarkeningButtonStyle::body(const ButtonConfiguration& configuration,
                                 const Environment& /*environment*/) const {
   return configuration.label.overlay(
-      when(configuration.isPressed, ShapeView(form).fill(Color::black().opacity(shade))));
+      when(configuration.isPressed, ShapeView(shape).fill(Color::black().opacity(shade))));
 }
 
 }  // namespace orvane

@@ -1,14 +1,14 @@
 // The style of a button whose label is its own surface: it darkens while pressed.
 #pragma once
 
-#include "Orvane/ui/draw/ShapeForm.hpp"
+#include "Orvane/ui/draw/Shape.hpp"
 #include "Orvane/ui/views/ButtonStyle.hpp"
 
 namespace orvane {
 
 struct DarkeningButtonStyle {
   /// The shape of the label's surface.
-  ui::ShapeForm form;
+  ui::Shape shape;
   /// The opacity of the black laid over it, from 0 to 1.
   double shade;
 

@@ -87,9 +87,9 @@ View DisplayChoiceCard::body(const Environment& environment) const {
   return Button([environment,
                  action = action] { environment.animate(Curve::spring(0.24, 0.82), action); },
                 card)
-      .style(DarkeningButtonStyle{.form = ShapeForm::rounded(cornerRadius),
+      .style(DarkeningButtonStyle{.shape = Shape::rounded(cornerRadius),
                                   .shade = environment.isDark() ? 0.2 : 0.08})
-      .focusRing(ShapeForm::rounded(cornerRadius))
+      .focusRing(Shape::rounded(cornerRadius))
       .accessibilityRole(Role::radioButton)
       .accessibilityLabel(title())
       .accessibilityValue(roleLabel)

@@ -32,7 +32,7 @@ View StatusPill::body(const Environment& environment) const {
                            : Color::secondary())
       .lineHeight(16)
       .fixedSize()
-      .padding(Edges::horizontal(13).vertical(8))
+      .padding(Edges::symmetric(13, 8))
       .background(
           Capsule()
               .fill(capsuleFill(isActive, isDark))

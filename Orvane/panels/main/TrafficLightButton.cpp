@@ -57,7 +57,7 @@ View TrafficLightButton::body(const Environment& environment) const {
                   .fill(color)
                   .stroke(stroke.opacity(0.55), 0.7));
   return Button(action, light)
-      .style(DarkeningButtonStyle{.form = ShapeForm::circle(), .shade = lightPressedShade})
+      .style(DarkeningButtonStyle{.shape = Shape::circle(), .shade = lightPressedShade})
       .outOfTabOrder()
       .accessibilityLabel(label)
       .scale(isHovered.value() ? 1.1 : 1)

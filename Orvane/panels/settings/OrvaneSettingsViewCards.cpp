@@ -41,7 +41,7 @@ int indexIn(const Cases& allCases, Value value) {
 View button(const std::string& symbol, const std::string& title, std::function<void()> action) {
   return Button(std::move(action), HStack(6, {Symbol(symbol), Text(title).fixedSize()}))
       .style(SettingsSecondaryButtonStyle{})
-      .focusRing(ShapeForm::rounded(SettingsSecondaryButtonStyle::cornerRadius));
+      .focusRing(Shape::rounded(SettingsSecondaryButtonStyle::cornerRadius));
 }
 
 View statement(const std::string& text) {

@@ -32,7 +32,7 @@ View SettingsSecondaryButtonStyle::body(const ButtonConfiguration& configuration
   const Color rim = isDark ? Color::white().opacity(rimOpacityDark)
                            : SettingsPalette::blue().opacity(rimOpacityLight);
   return configuration.label.font(Font::system(13, Weight::semibold))
-      .padding(Edges::horizontal(buttonPadding).vertical(0))
+      .padding(Edges::symmetric(buttonPadding, 0))
       .height(height)
       .background(RoundedRectangle(cornerRadius)
                       .fill(fill)

@@ -12,7 +12,7 @@
 namespace orvane::appkit {
 
 /// The values of NSApplicationActivationPolicy.
-enum class ActivationPolicy { regular = 0, accessory = 1, prohibited = 2 };
+enum class ActivationPolicy { regular = 0, accessory = 1 };
 
 /// The values of NSModalResponse for the buttons of an alert.
 namespace ModalResponse {

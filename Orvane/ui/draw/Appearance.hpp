@@ -1,11 +1,11 @@
-// What decides how a semantic colour looks at the moment of drawing, and the resolved colour.
+// The settings of the user that colours and motions depend on, and a resolved colour.
 #pragma once
 
 #include <optional>
 
 namespace orvane::ui {
 
-// Components from 0 to 1 in sRGB, not premultiplied.
+/// A colour in sRGB, not premultiplied; components from 0 to 1.
 struct Rgba {
   double red = 0;
   double green = 0;
@@ -17,7 +17,7 @@ struct Rgba {
 
 struct Appearance {
   bool dark = false;
-  // The user's accent colour; empty means the platform's own (blue).
+  /// The user's accent colour; none for the platform's default, blue.
   std::optional<Rgba> accent;
   bool increaseContrast = false;
   bool reduceTransparency = false;

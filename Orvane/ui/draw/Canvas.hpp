@@ -1,5 +1,4 @@
-// What the kit draws on. Coordinates are points, origin at the top left, y downwards; colours are
-// resolved. A platform implements this once; it holds no view and no appearance.
+// The surface that the kit draws on; each platform implements it once.
 #pragma once
 
 #include <optional>
@@ -13,6 +12,7 @@
 
 namespace orvane::ui {
 
+/// Coordinates are points, with the origin at the top left and y downwards. Colours are resolved.
 class Canvas {
  public:
   Canvas() = default;
@@ -20,39 +20,39 @@ class Canvas {
   Canvas& operator=(const Canvas&) = delete;
   virtual ~Canvas() = default;
 
-  // Device pixels per point (1, 2, ...), without the transforms made below.
-  virtual double scaleFactor() const = 0;
+  /// Device pixels per point (1, 2, ...), apart from the transforms below.
+  [[nodiscard]] virtual double scaleFactor() const = 0;
 
-  // Every save is followed by one restore, which takes back the transform and the clip.
+  /// Each save is followed by one restore, which restores the transform and the clip.
   virtual void save() = 0;
   virtual void restore() = 0;
-  // From now on coordinates are first changed by this, then by what was in force before.
+  /// Later coordinates are mapped by `transform` first, then by the current transform.
   virtual void transform(const Transform& transform) = 0;
-  // Nothing outside of the shape is painted from now on (in addition to earlier clips).
+  /// Intersects the clip with `shape`.
   virtual void clip(const Shape& shape) = 0;
 
   virtual void fill(const Shape& shape, const Paint& paint) = 0;
-  // A line centred on the outline. The kit has inset the shape where the line is to lie inside.
+  /// A line centred on the outline.
   virtual void stroke(const Shape& shape, const Paint& paint, double lineWidth) = 0;
-  // The shadow that the shape would cast if it were opaque, painted only outside of the shape, so
-  // that a translucent fill does not darken.
+  /// The shadow of the shape as if it were opaque, only outside of the shape, so that it does not
+  /// darken a translucent fill.
   virtual void shadow(const Shape& shape, const PaintShadow& shadow) = 0;
 
-  // What follows until endLayer is painted as one picture with this opacity (0 to 1); a shadow, if
-  // given, is cast by the alpha of that whole picture and painted beneath it, within the same
-  // opacity. The bounds hold everything that the layer paints, without its shadow.
+  /// Composites everything up to endLayer as one picture with `opacity` (0 to 1). A shadow is cast
+  /// by the alpha of that picture, beneath it, and has the same opacity. `bounds` contains
+  /// everything that the layer paints, without its shadow.
   virtual void beginLayer(const Rect& bounds, double opacity,
                           const std::optional<PaintShadow>& shadow) = 0;
   virtual void endLayer() = 0;
 
-  // One line of text without line breaks (UTF-8), its baseline starting at the point.
+  /// One line of UTF-8 text without line breaks; `baseline` is the start of its baseline.
   virtual void text(const std::string& line, const Font& font, const Rgba& color,
                     Point baseline) = 0;
-  // An image of the application's resources, stretched to the rectangle. An unknown name paints
-  // nothing.
+  /// An image of the application's resources, stretched to the rectangle. Paints nothing for an
+  /// unknown name.
   virtual void image(const std::string& name, const Rect& destination) = 0;
-  // A symbol in one colour at a size in points and a weight, centred in the rectangle, which has
-  // the size that ImageSource::symbolSize gave. An unknown name paints nothing.
+  /// A symbol in the font's size and weight, centred in the rectangle, whose size is that of
+  /// ImageSource::symbolSize. Paints nothing for an unknown name.
   virtual void symbol(const std::string& name, const Font& font, const Rgba& color,
                       const Rect& rect) = 0;
 };

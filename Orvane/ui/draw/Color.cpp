@@ -1,5 +1,5 @@
-// Resolving a semantic colour: the platform's answer first, then what its use asks for, then white
-// and opacity on top.
+// Resolving a colour: the platform's components, then the change that its use requires, then white
+// and opacity.
 #include "Orvane/ui/draw/Color.hpp"
 
 #include <algorithm>
@@ -10,13 +10,13 @@ namespace orvane::ui {
 
 namespace {
 
-// Clamps to 0...1; what is not a number becomes 0.
+// Clamped to 0...1; 0 for what is not a number.
 double unit(double value) {
   return value > 0 ? std::min(value, 1.0) : 0.0;
 }
 
-double mixWithWhite(double component, double share) {
-  return component + (1 - component) * share;
+double mixWithWhite(double component, double fraction) {
+  return component + (1 - component) * fraction;
 }
 
 }  // namespace
@@ -33,9 +33,9 @@ Color Color::opacity(double factor) const {
   return result;
 }
 
-Color Color::lighter(double share) const {
+Color Color::lighter(double fraction) const {
   Color result = *this;
-  result.whiteShare_ = mixWithWhite(whiteShare_, unit(share));
+  result.whiteFraction_ = mixWithWhite(whiteFraction_, unit(fraction));
   return result;
 }
 
@@ -45,9 +45,9 @@ Color Color::usedAs(Use use) const {
   return result;
 }
 
-Color Color::textOn(double groundLuminance, double veil, double minimumContrast) const {
+Color Color::textOn(double backgroundLuminance, double veil, double minimumContrast) const {
   Color result = usedAs(Use::text);
-  result.groundLuminance_ = unit(groundLuminance);
+  result.backgroundLuminance_ = unit(backgroundLuminance);
   result.veil_ = unit(veil);
   result.minimumContrast_ = minimumContrast;
   return result;
@@ -67,7 +67,7 @@ Rgba Color::forUse(const Rgba& base, const Appearance& appearance) const {
     case Use::any:
       return base;
     case Use::text:
-      return legibility::textOn(legibility::veiled(groundLuminance_, base, veil_), base,
+      return legibility::textOn(legibility::veiled(backgroundLuminance_, base, veil_), base,
                                 std::max(required, minimumContrast_));
     case Use::buttonFill:
       return legibility::buttonFill(base, required, gradientLight);
@@ -80,8 +80,8 @@ Rgba Color::forUse(const Rgba& base, const Appearance& appearance) const {
 Rgba Color::resolve(const Appearance& appearance, const ColorResolver& resolver) const {
   const Rgba base =
       forUse(name_ == SystemColor::fixed ? components_ : resolver(name_, appearance), appearance);
-  return {mixWithWhite(base.red, whiteShare_), mixWithWhite(base.green, whiteShare_),
-          mixWithWhite(base.blue, whiteShare_), base.alpha * opacity_};
+  return {mixWithWhite(base.red, whiteFraction_), mixWithWhite(base.green, whiteFraction_),
+          mixWithWhite(base.blue, whiteFraction_), base.alpha * opacity_};
 }
 
 }  // namespace orvane::ui

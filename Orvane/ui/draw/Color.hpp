@@ -1,5 +1,5 @@
-// A colour that stays semantic until it is drawn: a name or fixed components, what it is used for,
-// an opacity, and a share of white mixed in.
+// A semantic colour: a name or fixed components, its use, an opacity, and a fraction of white. It
+// is resolved for an appearance when it is drawn.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 namespace orvane::ui {
 
-// The names a platform must be able to resolve. `fixed` carries its own components.
+/// The names that a platform resolves. `fixed` stands for the colour's own components.
 enum class SystemColor {
   fixed,
   accent,
@@ -24,47 +24,47 @@ enum class SystemColor {
   gray
 };
 
-// Resolves a name for an appearance. It is asked whenever views are built; `fixed` is never asked.
+/// Resolves a name, never `fixed`, for an appearance. Called whenever views are built.
 using ColorResolver = std::function<Rgba(SystemColor, const Appearance&)>;
 
 class Color {
  public:
-  // The share of white at the top of Gradient::system: enough to be seen as light, not as another
-  // colour.
+  /// The fraction of white at the top of Gradient::system: visible as light, not as another colour.
   static constexpr double gradientLight = 0.125;
 
-  static Color accent() { return Color(SystemColor::accent); }
-  // The label colours, from strongest to faintest.
-  static Color primary() { return Color(SystemColor::primary); }
-  static Color secondary() { return Color(SystemColor::secondary); }
-  static Color tertiary() { return Color(SystemColor::tertiary); }
-  static Color windowBackground() { return Color(SystemColor::windowBackground); }
-  static Color red() { return Color(SystemColor::red); }
-  static Color green() { return Color(SystemColor::green); }
-  static Color orange() { return Color(SystemColor::orange); }
-  static Color blue() { return Color(SystemColor::blue); }
-  static Color gray() { return Color(SystemColor::gray); }
-  static Color white() { return rgb(1, 1, 1); }
-  static Color black() { return rgb(0, 0, 0); }
-  static Color clear() { return rgb(0, 0, 0, 0); }
-  // Components from 0 to 1; values outside are clamped.
-  static Color rgb(double red, double green, double blue, double alpha = 1);
+  [[nodiscard]] static Color accent() { return Color(SystemColor::accent); }
+  /// The label colours, from strongest to faintest.
+  [[nodiscard]] static Color primary() { return Color(SystemColor::primary); }
+  [[nodiscard]] static Color secondary() { return Color(SystemColor::secondary); }
+  [[nodiscard]] static Color tertiary() { return Color(SystemColor::tertiary); }
+  [[nodiscard]] static Color windowBackground() { return Color(SystemColor::windowBackground); }
+  [[nodiscard]] static Color red() { return Color(SystemColor::red); }
+  [[nodiscard]] static Color green() { return Color(SystemColor::green); }
+  [[nodiscard]] static Color orange() { return Color(SystemColor::orange); }
+  [[nodiscard]] static Color blue() { return Color(SystemColor::blue); }
+  [[nodiscard]] static Color gray() { return Color(SystemColor::gray); }
+  [[nodiscard]] static Color white() { return rgb(1, 1, 1); }
+  [[nodiscard]] static Color black() { return rgb(0, 0, 0); }
+  [[nodiscard]] static Color clear() { return rgb(0, 0, 0, 0); }
+  /// Components from 0 to 1 (clamped).
+  [[nodiscard]] static Color rgb(double red, double green, double blue, double alpha = 1);
 
-  // The same colour with its opacity multiplied by a factor from 0 to 1 (clamped).
-  Color opacity(double factor) const;
-  // The same colour with white mixed in: 0 changes nothing, 1 is white.
-  Color lighter(double share) const;
+  /// The colour with its opacity multiplied by a factor from 0 to 1 (clamped).
+  [[nodiscard]] Color opacity(double factor) const;
+  /// The colour with a fraction of white mixed in, from 0 (no change) to 1 (white).
+  [[nodiscard]] Color lighter(double fraction) const;
 
-  // The same hue as a text that can be read on a ground of this relative luminance (0 to 1), also
-  // under a veil of this colour in that opacity (0 to 1): as little darker or lighter as it takes.
-  // The contrast is 3 to 1 at least; 4.5 to 1 where the user asks for contrast.
-  Color textOn(double groundLuminance, double veil = 0, double minimumContrast = 3) const;
-  // The same hue as the fill of a button, as little darker as its label takes, and the colour of
-  // that label: white, or black on a light colour.
-  Color buttonFill() const;
-  Color buttonLabel() const;
+  /// A text colour of the same hue, changed as little as legibility requires on a background of
+  /// this relative luminance (0 to 1), and on one under a veil of this colour with the opacity
+  /// `veil` (0 to 1). The minimum contrast rises to 4.5 where the user asks for increased contrast.
+  [[nodiscard]] Color textOn(double backgroundLuminance, double veil = 0,
+                             double minimumContrast = 3) const;
+  /// A button's fill of the same hue, darkened as little as its label requires, and the colour of
+  /// the label: white, or black on a light colour.
+  [[nodiscard]] Color buttonFill() const;
+  [[nodiscard]] Color buttonLabel() const;
 
-  Rgba resolve(const Appearance& appearance, const ColorResolver& resolver) const;
+  [[nodiscard]] Rgba resolve(const Appearance& appearance, const ColorResolver& resolver) const;
 
   friend bool operator==(const Color&, const Color&) = default;
 
@@ -73,18 +73,18 @@ class Color {
 
   explicit Color(SystemColor name) : name_(name) {}
 
-  Color usedAs(Use use) const;
-  Rgba forUse(const Rgba& base, const Appearance& appearance) const;
+  [[nodiscard]] Color usedAs(Use use) const;
+  [[nodiscard]] Rgba forUse(const Rgba& base, const Appearance& appearance) const;
 
   SystemColor name_;
   Rgba components_;
   Use use_ = Use::any;
-  // Of a text.
-  double groundLuminance_ = 0;
+  /// Of a text.
+  double backgroundLuminance_ = 0;
   double veil_ = 0;
   double minimumContrast_ = 0;
   double opacity_ = 1;
-  double whiteShare_ = 0;
+  double whiteFraction_ = 0;
 };
 
 }  // namespace orvane::ui

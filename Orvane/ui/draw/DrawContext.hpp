@@ -1,4 +1,4 @@
-// What an element draws with: the canvas, the moment, and where its rectangle is on the canvas.
+// The arguments of an element's drawing function.
 #pragma once
 
 #include <cmath>
@@ -9,18 +9,20 @@ namespace orvane::ui {
 
 struct DrawContext {
   Canvas& canvas;
+  /// In seconds of the host's time.
   double now;
+  /// The element's rectangle on the canvas.
   Rect rect;
-  // False while the view moves or is scaled: then whole pixels would make it tremble.
+  /// False while the view moves or is scaled, when snapping would make it tremble.
   bool snapsToPixels;
 
-  double snapped(double position) const {
+  [[nodiscard]] double snapped(double position) const {
     const double scale = canvas.scaleFactor();
     return snapsToPixels && scale > 0 ? std::round(position * scale) / scale : position;
   }
-  Point snapped(Point point) const { return {snapped(point.x), snapped(point.y)}; }
-  // Both edges on whole pixels.
-  Rect snapped(const Rect& area) const {
+  [[nodiscard]] Point snapped(Point point) const { return {snapped(point.x), snapped(point.y)}; }
+  /// Both edges on whole pixels.
+  [[nodiscard]] Rect snapped(const Rect& area) const {
     return Rect::between(snapped(area.x), snapped(area.y), snapped(area.right()),
                          snapped(area.bottom()));
   }

@@ -1,10 +1,10 @@
-// Making gradients, and resolving them for a rectangle.
+// Making gradients.
 #include "Orvane/ui/draw/Fill.hpp"
 
 namespace orvane::ui {
 
 Gradient Gradient::linear(std::initializer_list<Color> colors, UnitPoint start, UnitPoint end) {
-  Gradient result{{}, start, end};
+  Gradient result{.start = start, .end = end};
   const double steps = colors.size() > 1 ? static_cast<double>(colors.size() - 1) : 1.0;
   double index = 0;
   for (const Color& color : colors) {
@@ -24,17 +24,6 @@ Gradient Gradient::opacity(double factor) const {
     stop.color = stop.color.opacity(factor);
   }
   return result;
-}
-
-Paint Fill::resolve(const Rect& rect, const Appearance& appearance,
-                    const ColorResolver& resolver) const {
-  Paint paint;
-  for (const GradientStop& stop : gradient_.stops) {
-    paint.stops.push_back({stop.color.resolve(appearance, resolver), stop.location});
-  }
-  paint.start = gradient_.start.in(rect);
-  paint.end = gradient_.end.in(rect);
-  return paint;
 }
 
 }  // namespace orvane::ui

@@ -1,4 +1,4 @@
-// The system font at a size in points and a weight, and how far apart its characters stand.
+// The system font in a size and a weight.
 #pragma once
 
 namespace orvane::ui {
@@ -16,25 +16,26 @@ enum class Weight {
 };
 
 struct Font {
+  /// In points.
   double size = 13;
   Weight weight = Weight::regular;
-  // In points, between one character and the next, in addition to what the face asks for.
+  /// Additional distance between characters, in points.
   double tracking = 0;
 
-  static constexpr Font system(double size, Weight weight = Weight::regular) {
+  [[nodiscard]] static constexpr Font system(double size, Weight weight = Weight::regular) {
     return {size, weight};
   }
-  // The text styles of the Mac, with its sizes.
-  static constexpr Font title() { return {22, Weight::regular}; }
-  static constexpr Font title2() { return {17, Weight::regular}; }
-  static constexpr Font title3() { return {15, Weight::regular}; }
-  static constexpr Font headline() { return {13, Weight::bold}; }
-  static constexpr Font body() { return {13, Weight::regular}; }
-  static constexpr Font callout() { return {12, Weight::regular}; }
-  static constexpr Font subheadline() { return {11, Weight::regular}; }
-  static constexpr Font caption() { return {10, Weight::regular}; }
+  /// The text styles of macOS, in its sizes.
+  [[nodiscard]] static constexpr Font title() { return system(22); }
+  [[nodiscard]] static constexpr Font title2() { return system(17); }
+  [[nodiscard]] static constexpr Font title3() { return system(15); }
+  [[nodiscard]] static constexpr Font headline() { return system(13, Weight::bold); }
+  [[nodiscard]] static constexpr Font body() { return system(13); }
+  [[nodiscard]] static constexpr Font callout() { return system(12); }
+  [[nodiscard]] static constexpr Font subheadline() { return system(11); }
+  [[nodiscard]] static constexpr Font caption() { return system(10); }
 
-  constexpr Font bold() const { return {size, Weight::bold, tracking}; }
+  [[nodiscard]] constexpr Font bold() const { return {size, Weight::bold, tracking}; }
 
   friend bool operator==(const Font&, const Font&) = default;
 };

@@ -1,4 +1,4 @@
-// Sizes of images and symbols by name; both functions are given by the platform.
+// The sizes of images and symbols, which the platform provides.
 #pragma once
 
 #include <functional>
@@ -10,17 +10,17 @@
 
 namespace orvane::ui {
 
+/// An unset function means that there are no images, or no symbols.
 struct ImageSource {
-  // The size in points of an image of the application's resources; empty when there is none. An
-  // unset function means that there are no images.
+  /// The size in points of an image of the application's resources; none for an unknown name.
   std::function<std::optional<Size>(const std::string& name)> imageSize;
-  // The size in points of a symbol drawn at the font's size and weight; empty when unknown.
+  /// The size in points of a symbol in the font's size and weight; none for an unknown name.
   std::function<std::optional<Size>(const std::string& name, const Font& font)> symbolSize;
 
-  std::optional<Size> image(const std::string& name) const {
+  [[nodiscard]] std::optional<Size> image(const std::string& name) const {
     return imageSize ? imageSize(name) : std::nullopt;
   }
-  std::optional<Size> symbol(const std::string& name, const Font& font) const {
+  [[nodiscard]] std::optional<Size> symbol(const std::string& name, const Font& font) const {
     return symbolSize ? symbolSize(name, font) : std::nullopt;
   }
 };

@@ -1,128 +1,112 @@
-// Fingerprints and areas of drawing calls.
+// The fingerprints and areas of drawing calls.
 #include "Orvane/ui/draw/InkProbe.hpp"
 
 #include <bit>
-#include <cmath>
 
 namespace orvane::ui {
 
-void mixInto(std::uint64_t& fingerprint, std::uint64_t value) {
-  // FNV-1a, 64 bits, byte by byte.
+namespace {
+
+// 64-bit FNV-1a.
+void mixByte(std::uint64_t& fingerprint, std::uint64_t byte) {
   constexpr std::uint64_t prime = 1099511628211ULL;
+  fingerprint = (fingerprint ^ byte) * prime;
+}
+
+}  // namespace
+
+void mixInto(std::uint64_t& fingerprint, std::uint64_t value) {
   for (int byte = 0; byte < 8; ++byte) {
-    fingerprint = (fingerprint ^ ((value >> (byte * 8)) & 0xFFU)) * prime;
+    mixByte(fingerprint, (value >> (byte * 8)) & 0xFFU);
   }
 }
 
 void mixInto(std::uint64_t& fingerprint, double value) {
+  // Minus zero becomes zero.
   mixInto(fingerprint, std::bit_cast<std::uint64_t>(value + 0.0));
 }
 
 void mixInto(std::uint64_t& fingerprint, const Rect& rect) {
-  mixInto(fingerprint, rect.x);
-  mixInto(fingerprint, rect.y);
-  mixInto(fingerprint, rect.width);
-  mixInto(fingerprint, rect.height);
+  for (const double value : {rect.x, rect.y, rect.width, rect.height}) {
+    mixInto(fingerprint, value);
+  }
+}
+
+void mixInto(std::uint64_t& fingerprint, Point point) {
+  mixInto(fingerprint, point.x);
+  mixInto(fingerprint, point.y);
+}
+
+void mixInto(std::uint64_t& fingerprint, const Rgba& color) {
+  for (const double value : {color.red, color.green, color.blue, color.alpha}) {
+    mixInto(fingerprint, value);
+  }
+}
+
+void mixInto(std::uint64_t& fingerprint, const std::string& text) {
+  mixInto(fingerprint, static_cast<std::uint64_t>(text.size()));
+  for (const char character : text) {
+    mixByte(fingerprint, static_cast<unsigned char>(character));
+  }
+}
+
+void mixInto(std::uint64_t& fingerprint, const Shape& shape) {
+  mixInto(fingerprint, static_cast<std::uint64_t>(shape.kind));
+  mixInto(fingerprint, static_cast<std::uint64_t>(shape.cornerStyle));
+  mixInto(fingerprint, shape.rect);
+  mixInto(fingerprint, shape.cornerRadius);
+}
+
+void mixInto(std::uint64_t& fingerprint, const Paint& paint) {
+  for (const PaintStop& stop : paint.stops) {
+    mixInto(fingerprint, stop.color);
+    mixInto(fingerprint, stop.location);
+  }
+  mixInto(fingerprint, paint.start);
+  mixInto(fingerprint, paint.end);
+}
+
+void mixInto(std::uint64_t& fingerprint, const Font& font) {
+  mixInto(fingerprint, font.size);
+  mixInto(fingerprint, static_cast<std::uint64_t>(font.weight));
 }
 
 void mixInto(std::uint64_t& fingerprint, const PaintShadow& shadow) {
-  mixInto(fingerprint, shadow.color.red);
-  mixInto(fingerprint, shadow.color.green);
-  mixInto(fingerprint, shadow.color.blue);
-  mixInto(fingerprint, shadow.color.alpha);
+  mixInto(fingerprint, shadow.color);
   mixInto(fingerprint, shadow.radius);
-  mixInto(fingerprint, shadow.offset.x);
-  mixInto(fingerprint, shadow.offset.y);
+  mixInto(fingerprint, shadow.offset);
 }
 
-Edges shadowReach(const PaintShadow& shadow) {
-  // Three standard deviations of the blur, and a pixel for its rounding.
-  const double reach = 1.5 * shadow.radius + 1;
-  return {std::max(0.0, reach - shadow.offset.y), std::max(0.0, reach - shadow.offset.x),
-          std::max(0.0, reach + shadow.offset.y), std::max(0.0, reach + shadow.offset.x)};
-}
-
-void InkProbe::mix(const std::string& text) {
-  mixInto(fingerprint_, static_cast<std::uint64_t>(text.size()));
-  for (const char character : text) {
-    constexpr std::uint64_t prime = 1099511628211ULL;
-    fingerprint_ = (fingerprint_ ^ static_cast<unsigned char>(character)) * prime;
-  }
-}
-
-void InkProbe::mix(const Rgba& color) {
-  mixInto(fingerprint_, color.red);
-  mixInto(fingerprint_, color.green);
-  mixInto(fingerprint_, color.blue);
-  mixInto(fingerprint_, color.alpha);
-}
-
-void InkProbe::mix(const Shape& shape) {
-  mixInto(fingerprint_, static_cast<std::uint64_t>(shape.kind));
-  mixInto(fingerprint_, static_cast<std::uint64_t>(shape.cornerStyle));
-  mixInto(fingerprint_, shape.rect);
-  mixInto(fingerprint_, shape.cornerRadius);
-}
-
-void InkProbe::mix(const Paint& paint) {
-  for (const PaintStop& stop : paint.stops) {
-    mix(stop.color);
-    mixInto(fingerprint_, stop.location);
-  }
-  mixInto(fingerprint_, paint.start.x);
-  mixInto(fingerprint_, paint.start.y);
-  mixInto(fingerprint_, paint.end.x);
-  mixInto(fingerprint_, paint.end.y);
-}
-
-void InkProbe::mix(const Font& font) {
-  mixInto(fingerprint_, font.size);
-  mixInto(fingerprint_, static_cast<std::uint64_t>(font.weight));
+template <typename... Arguments>
+void InkProbe::note(const Rect& area, const Arguments&... arguments) {
+  (mixInto(fingerprint_, arguments), ...);
+  ink_ = ink_.united(area);
 }
 
 void InkProbe::fill(const Shape& shape, const Paint& paint) {
-  mix(shape);
-  mix(paint);
-  cover(shape.rect);
+  note(shape.rect, shape, paint);
 }
 
 void InkProbe::stroke(const Shape& shape, const Paint& paint, double lineWidth) {
-  mix(shape);
-  mix(paint);
-  mixInto(fingerprint_, lineWidth);
-  cover(shape.rect.inset(-lineWidth / 2));
+  note(shape.rect.inset(-lineWidth / 2), shape, paint, lineWidth);
 }
 
 void InkProbe::shadow(const Shape& shape, const PaintShadow& shadow) {
-  mix(shape);
-  mixInto(fingerprint_, shadow);
-  const Edges reach = shadowReach(shadow);
-  cover(shape.rect.inset({-reach.top, -reach.leading, -reach.bottom, -reach.trailing}));
+  note(shape.rect.outset(shadow.reach()), shape, shadow);
 }
 
 void InkProbe::text(const std::string& line, const Font& font, const Rgba& color, Point baseline) {
-  mix(line);
-  mix(font);
-  mix(color);
-  mixInto(fingerprint_, baseline.x);
-  mixInto(fingerprint_, baseline.y);
-  // Glyphs may reach a little beyond their advance and their line.
-  cover(textFrame_.inset(-font.size / 4));
+  // Glyphs may extend a little beyond their advance and their line.
+  note(textFrame_.inset(-font.size / 4), line, font, color, baseline);
 }
 
 void InkProbe::image(const std::string& name, const Rect& destination) {
-  mix(name);
-  mixInto(fingerprint_, destination);
-  cover(destination);
+  note(destination, name, destination);
 }
 
 void InkProbe::symbol(const std::string& name, const Font& font, const Rgba& color,
                       const Rect& rect) {
-  mix(name);
-  mix(font);
-  mix(color);
-  mixInto(fingerprint_, rect);
-  cover(rect.inset(-font.size / 8));
+  note(rect.inset(-font.size / 8), name, font, color, rect);
 }
 
 }  // namespace orvane::ui

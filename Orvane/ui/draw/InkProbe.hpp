@@ -1,5 +1,5 @@
-// A canvas that paints nothing but notes what would be painted: a fingerprint, and the area it
-// would cover. The kit uses it to find out what has to be repainted.
+// A canvas that paints nothing but computes a fingerprint of the drawing calls and the area that
+// they would cover, from which the host finds what has to be repainted.
 #pragma once
 
 #include <cstdint>
@@ -9,26 +9,29 @@
 
 namespace orvane::ui {
 
-// Mixes a number into a fingerprint (the FNV-1a step over its bytes).
+inline constexpr std::uint64_t emptyFingerprint = 14695981039346656037ULL;
+
+/// Adds a value to a fingerprint.
 void mixInto(std::uint64_t& fingerprint, std::uint64_t value);
 void mixInto(std::uint64_t& fingerprint, double value);
+void mixInto(std::uint64_t& fingerprint, Point point);
 void mixInto(std::uint64_t& fingerprint, const Rect& rect);
+void mixInto(std::uint64_t& fingerprint, const Rgba& color);
+void mixInto(std::uint64_t& fingerprint, const std::string& text);
+void mixInto(std::uint64_t& fingerprint, const Font& font);
+void mixInto(std::uint64_t& fingerprint, const Shape& shape);
+void mixInto(std::uint64_t& fingerprint, const Paint& paint);
 void mixInto(std::uint64_t& fingerprint, const PaintShadow& shadow);
-
-// How far a shadow reaches beyond what casts it, on each side.
-Edges shadowReach(const PaintShadow& shadow);
-
-inline constexpr std::uint64_t emptyFingerprint = 14695981039346656037ULL;
 
 class InkProbe : public Canvas {
  public:
-  // Text is taken to cover the frame of its view, and a little around it.
+  /// Text counts as covering `textFrame`, the frame of its view, and a little around it.
   explicit InkProbe(const Rect& textFrame) : textFrame_(textFrame) {}
 
-  std::uint64_t fingerprint() const { return fingerprint_; }
-  const Rect& ink() const { return ink_; }
+  [[nodiscard]] std::uint64_t fingerprint() const { return fingerprint_; }
+  [[nodiscard]] const Rect& ink() const { return ink_; }
 
-  double scaleFactor() const override { return 1; }
+  [[nodiscard]] double scaleFactor() const override { return 1; }
   void save() override {}
   void restore() override {}
   void transform(const Transform&) override {}
@@ -44,12 +47,9 @@ class InkProbe : public Canvas {
               const Rect& rect) override;
 
  private:
-  void mix(const std::string& text);
-  void mix(const Rgba& color);
-  void mix(const Shape& shape);
-  void mix(const Paint& paint);
-  void mix(const Font& font);
-  void cover(const Rect& area) { ink_ = ink_.united(area); }
+  /// A call with these arguments that covers the area.
+  template <typename... Arguments>
+  void note(const Rect& area, const Arguments&... arguments);
 
   Rect textFrame_;
   Rect ink_;

@@ -19,17 +19,17 @@ double encodedComponent(double linear) {
   return linear <= 0.0031308 ? linear * 12.92 : 1.055 * std::pow(linear, 1 / 2.4) - 0.055;
 }
 
-Rgba blend(const Rgba& color, const Rgba& ink, double share) {
-  const auto between = [share](double from, double to) { return from + (to - from) * share; };
+Rgba blend(const Rgba& color, const Rgba& ink, double fraction) {
+  const auto between = [fraction](double from, double to) { return from + (to - from) * fraction; };
   return {between(color.red, ink.red), between(color.green, ink.green),
           between(color.blue, ink.blue), color.alpha};
 }
 
-// The colour with the smallest share of the ink that will do; the ink itself if none does. More ink
-// never does worse.
-template <typename WillDo>
-Rgba leastBlend(const Rgba& color, const Rgba& ink, WillDo willDo) {
-  if (willDo(color)) {
+// The colour with the smallest fraction of ink that suffices; the ink itself if none does. More ink
+// never suffices less.
+template <typename Suffices>
+Rgba minimumBlend(const Rgba& color, const Rgba& ink, Suffices suffices) {
+  if (suffices(color)) {
     return color;
   }
   double tooLittle = 0;
@@ -37,13 +37,13 @@ Rgba leastBlend(const Rgba& color, const Rgba& ink, WillDo willDo) {
   // Finer than a step of 8 bits.
   for (int step = 0; step < 10; ++step) {
     const double middle = (tooLittle + enough) / 2;
-    (willDo(blend(color, ink, middle)) ? enough : tooLittle) = middle;
+    (suffices(blend(color, ink, middle)) ? enough : tooLittle) = middle;
   }
   return blend(color, ink, enough);
 }
 
-// White on a colour as light as this could be read only after so much black that nobody would know
-// the colour again. Of the system's accent colours it is yellow alone.
+// Whether the black that a white label requires would make the colour unrecognisable. Among the
+// system's accent colours this is only yellow.
 bool isLight(const Rgba& color) {
   return contrast(1, relativeLuminance(color)) < 2;
 }
@@ -60,8 +60,8 @@ double contrast(double firstLuminance, double secondLuminance) {
   return (lighter + 0.05) / (darker + 0.05);
 }
 
-double veiled(double groundLuminance, const Rgba& veil, double opacity) {
-  const double grey = encodedComponent(groundLuminance);
+double veiled(double backgroundLuminance, const Rgba& veil, double opacity) {
+  const double grey = encodedComponent(backgroundLuminance);
   return relativeLuminance(blend({grey, grey, grey, 1}, veil, opacity));
 }
 
@@ -69,21 +69,22 @@ double requiredContrast(const Appearance& appearance) {
   return appearance.increaseContrast ? 4.5 : 3;
 }
 
-Rgba textOn(double groundLuminance, const Rgba& color, double required) {
-  const bool isGroundLight = contrast(0, groundLuminance) > contrast(1, groundLuminance);
-  return leastBlend(color, isGroundLight ? blackInk : whiteInk, [&](const Rgba& tried) {
+Rgba textOn(double backgroundLuminance, const Rgba& color, double required) {
+  const bool isBackgroundLight =
+      contrast(0, backgroundLuminance) > contrast(1, backgroundLuminance);
+  return minimumBlend(color, isBackgroundLight ? blackInk : whiteInk, [&](const Rgba& tried) {
     const double luminance = relativeLuminance(tried);
-    return (luminance < groundLuminance) == isGroundLight &&
-           contrast(luminance, groundLuminance) >= required;
+    return (luminance < backgroundLuminance) == isBackgroundLight &&
+           contrast(luminance, backgroundLuminance) >= required;
   });
 }
 
-Rgba buttonFill(const Rgba& color, double required, double lightShare) {
+Rgba buttonFill(const Rgba& color, double required, double whiteFraction) {
   if (isLight(color)) {
     return color;
   }
-  return leastBlend(color, blackInk, [&](const Rgba& tried) {
-    return contrast(1, relativeLuminance(blend(tried, whiteInk, lightShare))) >= required;
+  return minimumBlend(color, blackInk, [&](const Rgba& tried) {
+    return contrast(1, relativeLuminance(blend(tried, whiteInk, whiteFraction))) >= required;
   });
 }
 

@@ -1,9 +1,9 @@
-// How many lines a text may take, and where it is cut when they do not hold it.
+// The number of lines that a text may take, and where a text is truncated that needs more.
 #pragma once
 
 namespace orvane::ui {
 
-// Position of the ellipsis: at the end, or in the middle, which keeps the end readable.
+/// Position of the ellipsis: at the end, or in the middle, which keeps the end readable.
 enum class TruncationMode { tail, middle };
 
 struct LineLimit {
@@ -11,7 +11,7 @@ struct LineLimit {
   constexpr LineLimit(int count, TruncationMode mode = TruncationMode::tail)
       : lines(count), truncation(mode) {}
 
-  // 0 or less means any number.
+  /// 0 or less means any number.
   int lines;
   TruncationMode truncation;
 };

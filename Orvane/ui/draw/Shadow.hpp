@@ -1,12 +1,15 @@
 // A shadow: semantic, and resolved for a canvas.
 #pragma once
 
+#include <algorithm>
+
 #include "Orvane/ui/draw/Color.hpp"
+#include "Orvane/ui/layout/Edges.hpp"
 #include "Orvane/ui/layout/Point.hpp"
 
 namespace orvane::ui {
 
-// The blur is a Gaussian whose standard deviation is half the radius; the offset is in points.
+/// A Gaussian blur whose standard deviation is half the radius. Lengths are in points.
 struct Shadow {
   Color color = Color::black().opacity(0.33);
   double radius = 0;
@@ -20,6 +23,14 @@ struct PaintShadow {
   Rgba color;
   double radius = 0;
   Point offset;
+
+  /// The distances by which the shadow exceeds what casts it, in points.
+  [[nodiscard]] Edges reach() const {
+    // Three standard deviations, and a pixel for rounding.
+    const double blur = 1.5 * radius + 1;
+    return {std::max(0.0, blur - offset.y), std::max(0.0, blur - offset.x),
+            std::max(0.0, blur + offset.y), std::max(0.0, blur + offset.x)};
+  }
 
   friend bool operator==(const PaintShadow&, const PaintShadow&) = default;
 };

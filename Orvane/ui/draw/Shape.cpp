@@ -9,8 +9,8 @@ namespace orvane::ui {
 
 namespace {
 
-// One corner, as it bends from the incoming edge to the outgoing one. `corner` is the corner of the
-// rectangle, `along` points back along the incoming edge and `down` along the outgoing one.
+// A corner between the incoming and the outgoing edge. `corner` is the corner of the rectangle;
+// `along` is the direction back along the incoming edge, `down` that along the outgoing one.
 struct Corner {
   Point corner;
   Point along;
@@ -53,9 +53,10 @@ void continuousCorner(Path& path, const Corner& corner, double radius, double sm
 }
 
 void roundCorner(Path& path, const Corner& corner, double radius, double smoothing) {
-  // Below this share the bend is a circle to the eye, and the formula above divides by nearly zero.
-  constexpr double leastSmoothing = 0.01;
-  if (smoothing > leastSmoothing) {
+  // Below this fraction the bend is a circle to the eye, and the formula above divides by nearly
+  // zero.
+  constexpr double minimumSmoothing = 0.01;
+  if (smoothing > minimumSmoothing) {
     continuousCorner(path, corner, radius, smoothing);
     return;
   }
@@ -65,7 +66,7 @@ void roundCorner(Path& path, const Corner& corner, double radius, double smoothi
 
 Path ellipsePath(const Rect& rect) {
   // The usual four cubics of a circle: control length 4/3 tan(pi/8) of the radius.
-  const double share = 4.0 / 3.0 * std::tan(std::numbers::pi / 8);
+  const double control = 4.0 / 3.0 * std::tan(std::numbers::pi / 8);
   const Point center = rect.center();
   const double radiusX = rect.width / 2;
   const double radiusY = rect.height / 2;
@@ -74,20 +75,25 @@ Path ellipsePath(const Rect& rect) {
   };
   Path path;
   path.move(at(0, -1));
-  path.cubic(at(share, -1), at(1, -share), at(1, 0));
-  path.cubic(at(1, share), at(share, 1), at(0, 1));
-  path.cubic(at(-share, 1), at(-1, share), at(-1, 0));
-  path.cubic(at(-1, -share), at(-share, -1), at(0, -1));
+  path.cubic(at(control, -1), at(1, -control), at(1, 0));
+  path.cubic(at(1, control), at(control, 1), at(0, 1));
+  path.cubic(at(-control, 1), at(-1, control), at(-1, 0));
+  path.cubic(at(-1, -control), at(-control, -1), at(0, -1));
   path.close();
   return path;
 }
 
 }  // namespace
 
-Shape Shape::circle(const Rect& rect) {
-  const double side = std::min(rect.width, rect.height);
-  const Point center = rect.center();
-  return ellipse({center.x - side / 2, center.y - side / 2, side, side});
+Shape Shape::in(const Rect& other) const {
+  if (kind == Kind::circle) {
+    const double side = std::min(other.width, other.height);
+    const Point center = other.center();
+    return ellipse({center.x - side / 2, center.y - side / 2, side, side});
+  }
+  Shape result = *this;
+  result.rect = other;
+  return result;
 }
 
 Shape Shape::inset(double distance) const {
@@ -107,6 +113,7 @@ double Shape::effectiveRadius() const {
     case Kind::roundedRectangle:
       return std::clamp(cornerRadius, 0.0, limit);
     case Kind::capsule:
+    case Kind::circle:
     case Kind::ellipse:
       return limit;
   }
@@ -117,7 +124,7 @@ Path Shape::path() const {
   if (rect.isEmpty()) {
     return {};
   }
-  if (kind == Kind::ellipse) {
+  if (kind == Kind::circle || kind == Kind::ellipse) {
     return ellipsePath(rect);
   }
   Path path;

@@ -1,15 +1,16 @@
-// One table of light and dark values; components of the table are from 0 to 255.
+// The light and dark values of the names.
 #include "Orvane/ui/draw/StandardColors.hpp"
 
 namespace orvane::ui {
 
 namespace {
 
+// Components from 0 to 255.
 Rgba bytes(double red, double green, double blue) {
   return {red / 255, green / 255, blue / 255, 1};
 }
 
-// Labels are black on light and white on dark, each at its own strength.
+// Labels are black in the light appearance and white in the dark one.
 Rgba label(const Appearance& appearance, double lightAlpha, double darkAlpha,
            double contrastAlpha) {
   const double component = appearance.dark ? 1 : 0;
@@ -31,8 +32,8 @@ Rgba standardColor(SystemColor name, const Appearance& appearance) {
     case SystemColor::primary:
       return label(appearance, 0.85, 0.85, 1.0);
     case SystemColor::secondary:
-      // AppKit's are 0.5 and 0.55, and vibrancy strengthens them over glass. Without vibrancy they
-      // would not reach a contrast of 4.5 to 1, even black on pure white.
+      // AppKit's are 0.5 and 0.55, strengthened over glass by vibrancy. Without it they would not
+      // reach a contrast of 4.5 to 1, even black on pure white.
       return label(appearance, 0.6, 0.7, 0.8);
     case SystemColor::tertiary:
       return label(appearance, 0.26, 0.25, 0.45);

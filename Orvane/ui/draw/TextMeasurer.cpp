@@ -1,4 +1,4 @@
-// The sizes of a broken paragraph and of its lines.
+// The sizes of a paragraph and of its lines.
 #include "Orvane/ui/draw/TextMeasurer.hpp"
 
 #include <algorithm>
@@ -7,7 +7,7 @@
 namespace orvane::ui {
 
 double lineHeightFor(double ascent, double descent) {
-  // What adding has left over is no point of its own.
+  // A rounding error of the sum does not count as another point.
   constexpr double slack = 1.0e-6;
   return std::ceil(ascent + descent - slack);
 }

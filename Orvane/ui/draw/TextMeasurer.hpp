@@ -1,4 +1,4 @@
-// Measures and breaks text, apart from drawing it, so that layout can be tested without a canvas.
+// Measures text and breaks it into lines, apart from drawing it, so that layout needs no canvas.
 #pragma once
 
 #include <string>
@@ -11,27 +11,27 @@
 namespace orvane::ui {
 
 struct TextLine {
-  // What Canvas::text is given: without the line break, without trailing blanks that were broken
-  // at, with an ellipsis where the text was cut.
+  /// The argument of Canvas::text: without the line break and the blanks before it, with an
+  /// ellipsis where the text is truncated.
   std::string text;
   double width = 0;
 
   friend bool operator==(const TextLine&, const TextLine&) = default;
 };
 
-// From one line to the next are whole points, as in the system's own labels.
-double lineHeightFor(double ascent, double descent);
+/// The distance between baselines: a whole number of points, as in AppKit's labels.
+[[nodiscard]] double lineHeightFor(double ascent, double descent);
 
-// A broken paragraph. The baseline of line i is ascent + i * lineHeight below the top.
+/// A paragraph broken into lines. The baseline of line i is ascent + i * lineHeight below the top.
 struct TextLayout {
   std::vector<TextLine> lines;
   double lineHeight = 0;
   double ascent = 0;
-  // True when a line limit cut the text.
+  /// Whether the line limit cut the text.
   bool isTruncated = false;
 
-  // The widest line, and all lines' height.
-  Size size() const;
+  /// The width of the widest line, and the height of all lines.
+  [[nodiscard]] Size size() const;
 };
 
 class TextMeasurer {
@@ -41,14 +41,13 @@ class TextMeasurer {
   TextMeasurer& operator=(const TextMeasurer&) = delete;
   virtual ~TextMeasurer() = default;
 
-  // Breaks UTF-8 text at line feeds and, where a line is wider than the maximum width, between
-  // words (between characters where a word alone is too wide, and between Chinese characters). The
-  // width may be infinite: no breaking. A limit above 0 allows that many lines; the last one is
-  // then cut with "…" if more text follows or a single line is too wide. An empty text has one
-  // empty line. A width that is negative or not a number counts as 0; then every line holds at
-  // least one character.
-  virtual TextLayout layout(const std::string& text, const Font& font, double maximumWidth,
-                            LineLimit limit) = 0;
+  /// Breaks UTF-8 text at line feeds and, where a line exceeds the maximum width, between words
+  /// (between characters within a word that is too wide, and between Chinese characters). Text
+  /// beyond the limit, if it is above 0, is replaced by "…". An empty text has one empty line. The
+  /// width may be infinite. A width that is negative or not a number counts as 0; then every line
+  /// contains at least one character.
+  [[nodiscard]] virtual TextLayout layout(const std::string& text, const Font& font,
+                                          double maximumWidth, LineLimit limit) = 0;
 };
 
 }  // namespace orvane::ui

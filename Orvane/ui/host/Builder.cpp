@@ -161,13 +161,7 @@ void Builder::enter(Node& node, bool isMade) {
 }
 
 void Builder::remove(Node& parent, std::unique_ptr<Node> node) {
-  visitNodes(*node, [&](Node& gone) {
-    const auto* lifecycle = dynamic_cast<const LifecycleElement*>(gone.element.get());
-    if (lifecycle != nullptr && lifecycle->onDisappear()) {
-      afterLayout(lifecycle->onDisappear());
-    }
-    gone.isPressed = false;
-  });
+  visitNodes(*node, [](Node& gone) { gone.isPressed = false; });
   Node* const moved = transitionNode(*node);
   if (moved != nullptr && curve_) {
     moved->presence.set(0, curve_, settings_.now);

@@ -19,11 +19,4 @@ void HostLink::dismiss() const {
   }
 }
 
-void HostLink::announce(const std::string& text) const {
-  if (services != nullptr && services->announce) {
-    const auto speak = services->announce;
-    speak(text);
-  }
-}
-
 }  // namespace orvane::ui

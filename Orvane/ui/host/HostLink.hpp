@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <optional>
-#include <string>
 
 #include "Orvane/ui/host/HostServices.hpp"
 #include "Orvane/ui/views/Curve.hpp"
@@ -20,7 +19,6 @@ struct HostLink {
   void invalidate(const std::optional<Curve>& curve) const;
   void openMenu(MenuRequest request) const;
   void dismiss() const;
-  void announce(const std::string& text) const;
 };
 
 }  // namespace orvane::ui

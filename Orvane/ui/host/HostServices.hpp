@@ -38,8 +38,6 @@ struct HostServices {
   std::function<void(const DragRequest&)> beginDrag;
   // Closes what the host is shown in.
   std::function<void()> dismiss;
-  // Speaks the text to users of a screen reader.
-  std::function<void(const std::string&)> announce;
   // The semantics tree may have changed.
   std::function<void()> semanticsChanged;
 };

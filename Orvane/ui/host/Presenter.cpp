@@ -13,10 +13,6 @@ Edges scaled(const Edges& edges, const Transform& transform) {
           edges.bottom * transform.scaleY, edges.trailing * transform.scaleX};
 }
 
-Rect grown(const Rect& rect, const Edges& edges) {
-  return rect.inset({-edges.top, -edges.leading, -edges.bottom, -edges.trailing});
-}
-
 void mixTransform(std::uint64_t& fingerprint, const Transform& transform) {
   mixInto(fingerprint, transform.scaleX);
   mixInto(fingerprint, transform.scaleY);
@@ -76,14 +72,14 @@ Presenter::Inherited Presenter::through(const Node& node, const Inherited& outer
   inner.opacity = outer.opacity * effect.opacity;
   mixInto(inner.fingerprint, effect.opacity);
   if (effect.shadow) {
-    const Edges reach = scaled(shadowReach(*effect.shadow), node.toHost);
+    const Edges reach = scaled(effect.shadow->reach(), node.toHost);
     inner.reach = {inner.reach.top + reach.top, inner.reach.leading + reach.leading,
                    inner.reach.bottom + reach.bottom, inner.reach.trailing + reach.trailing};
     mixInto(inner.fingerprint, *effect.shadow);
   }
   if (effect.clip) {
     // What casts a shadow is cut first; the shadow reaches beyond the cut.
-    const Rect visible = grown(node.toHost.apply(effect.clip->rect), outer.reach);
+    const Rect visible = node.toHost.apply(effect.clip->rect).outset(outer.reach);
     inner.clip = outer.clip ? outer.clip->intersection(visible) : visible;
     mixInto(inner.fingerprint, *inner.clip);
     mixInto(inner.fingerprint, effect.clip->cornerRadius);
@@ -100,7 +96,7 @@ void Presenter::note(Node& node, const Inherited& inner) {
     node.element->draw(node, DrawContext{probe, now_, local, false});
     if (!probe.ink().isEmpty()) {
       // A point around it for the edges that fall between pixels.
-      ink = grown(inner.toHost.apply(probe.ink()).inset(-1), inner.reach);
+      ink = inner.toHost.apply(probe.ink()).inset(-1).outset(inner.reach);
       ink = inner.clip ? ink.intersection(*inner.clip) : ink;
       signature = probe.fingerprint();
       mixInto(signature, inner.fingerprint);

@@ -2,7 +2,6 @@
 #include "Orvane/ui/host/ViewHost.hpp"
 
 #include <algorithm>
-#include <cassert>
 
 #include "Orvane/ui/draw/StandardColors.hpp"
 #include "Orvane/ui/host/Builder.hpp"
@@ -61,10 +60,6 @@ void ViewHost::invalidate(const std::optional<Curve>& curve) {
     needsUpdate_ = true;
     requestRedraw();
   }
-}
-
-void ViewHost::animate(const Curve& curve, const std::function<void()>& change) {
-  rootEnvironment()->animate(curve, change);
 }
 
 void ViewHost::requestRedraw() {

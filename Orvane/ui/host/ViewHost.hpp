@@ -35,10 +35,10 @@ struct Tooltip {
 // What a host stands on. The text measurer must outlive it.
 struct HostPlatform {
   TextMeasurer* text = nullptr;
-  ImageSource images;
+  ImageSource images = {};
   // Unset: the standard colours.
-  ColorResolver colors;
-  HostServices services;
+  ColorResolver colors = {};
+  HostServices services = {};
 };
 
 // Main thread only. Handlers of views may do anything, also destroy the host; a member function
@@ -65,8 +65,6 @@ class ViewHost {
   // Something the views read has changed: they are built anew at the next update. With a curve,
   // what looks different then travels along it.
   void invalidate(const std::optional<Curve>& curve = std::nullopt);
-  // Runs the change and invalidates with the curve.
-  void animate(const Curve& curve, const std::function<void()>& change);
 
   // The size the root would like best, and the one it chooses for a proposal. Both bring the views
   // up to date first.

@@ -1,4 +1,4 @@
-// A place on a surface: points, origin at the top left, y downwards.
+// A point on a surface: origin at the top left, y downwards, in points.
 #pragma once
 
 namespace orvane::ui {

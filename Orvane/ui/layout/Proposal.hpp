@@ -1,4 +1,4 @@
-// The size a parent proposes to a child: per axis zero, finite, infinite or unspecified.
+// The size that a parent proposes to a child: on each axis zero, finite, infinite or unspecified.
 #pragma once
 
 #include <algorithm>
@@ -12,45 +12,48 @@ namespace orvane::ui {
 enum class Axis { horizontal, vertical };
 
 struct Proposal {
-  // Empty means: whatever the child would like best.
+  /// In points. Unspecified asks for the child's ideal length.
   std::optional<double> width;
   std::optional<double> height;
 
-  static Proposal of(Size size) { return {size.width, size.height}; }
+  [[nodiscard]] static Proposal of(Size size) { return {size.width, size.height}; }
+  [[nodiscard]] static Proposal oriented(Axis axis, std::optional<double> along,
+                                         std::optional<double> across) {
+    return axis == Axis::horizontal ? Proposal{along, across} : Proposal{across, along};
+  }
 
-  // What is negative or not a number counts as zero.
-  Proposal sanitized() const {
+  /// With zero for a length that is negative or not a number.
+  [[nodiscard]] Proposal sanitized() const {
     const auto clean = [](std::optional<double> length) {
       return length && !(*length > 0) ? std::optional<double>(0) : length;
     };
     return {clean(width), clean(height)};
   }
-  // Smaller by the edges, never below zero.
-  Proposal inset(const Edges& edges) const {
+  /// Smaller by the edges, but never negative.
+  [[nodiscard]] Proposal inset(const Edges& edges) const {
     const auto less = [](std::optional<double> length, double distance) {
       return length ? std::optional<double>(std::max(0.0, *length - distance)) : length;
     };
     return {less(width, edges.width()), less(height, edges.height())};
   }
 
-  std::optional<double> along(Axis axis) const { return axis == Axis::horizontal ? width : height; }
-  std::optional<double> across(Axis axis) const {
-    return axis == Axis::horizontal ? height : width;
+  [[nodiscard]] std::optional<double> along(Axis axis) const {
+    return axis == Axis::horizontal ? width : height;
   }
-  static Proposal oriented(Axis axis, std::optional<double> along, std::optional<double> across) {
-    return axis == Axis::horizontal ? Proposal{along, across} : Proposal{across, along};
+  [[nodiscard]] std::optional<double> across(Axis axis) const {
+    return axis == Axis::horizontal ? height : width;
   }
 
   friend bool operator==(const Proposal&, const Proposal&) = default;
 };
 
-inline double lengthAlong(Axis axis, Size size) {
+[[nodiscard]] inline double lengthAlong(Axis axis, Size size) {
   return axis == Axis::horizontal ? size.width : size.height;
 }
-inline double lengthAcross(Axis axis, Size size) {
+[[nodiscard]] inline double lengthAcross(Axis axis, Size size) {
   return axis == Axis::horizontal ? size.height : size.width;
 }
-inline Size orientedSize(Axis axis, double along, double across) {
+[[nodiscard]] inline Size orientedSize(Axis axis, double along, double across) {
   return axis == Axis::horizontal ? Size{along, across} : Size{across, along};
 }
 

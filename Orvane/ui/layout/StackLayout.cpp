@@ -1,4 +1,4 @@
-// Dividing a length among the children of a stack.
+// The division of a length among the children of a stack.
 #include "Orvane/ui/layout/StackLayout.hpp"
 
 #include <algorithm>
@@ -10,15 +10,15 @@ namespace orvane::ui {
 namespace {
 
 double flexibility(const StackItem& item) {
-  // Infinite minus infinite is no number; such a child is as flexible as any.
-  const double difference = item.most - item.least;
+  // Infinity minus infinity is not a number; such a child is fully flexible.
+  const double difference = item.maximum - item.minimum;
   return std::isnan(difference) ? HUGE_VAL : difference;
 }
 
 std::vector<std::size_t> servingOrder(const std::vector<StackItem>& items) {
   std::vector<std::size_t> order(items.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
-  // Ties are broken by place, so that the order does not depend on the sorting.
+  // Ties are broken by place, so that the order does not depend on the sorting algorithm.
   std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
     if (items[a].priority != items[b].priority) {
       return items[a].priority > items[b].priority;
@@ -32,18 +32,18 @@ std::vector<std::size_t> servingOrder(const std::vector<StackItem>& items) {
 
 }  // namespace
 
-std::vector<StackShare> divideStack(
+std::vector<StackSegment> divideStack(
     std::optional<double> available, double spacing, const std::vector<StackItem>& items,
     const std::function<double(std::size_t index, std::optional<double> offer)>& choose) {
-  std::vector<StackShare> shares(items.size());
+  std::vector<StackSegment> segments(items.size());
   if (items.empty()) {
-    return shares;
+    return segments;
   }
   if (!available || std::isinf(*available)) {
     for (std::size_t index = 0; index < items.size(); ++index) {
-      shares[index] = {available, choose(index, available)};
+      segments[index] = {available, choose(index, available)};
     }
-    return shares;
+    return segments;
   }
 
   double remaining = *available - spacing * static_cast<double>(items.size() - 1);
@@ -55,23 +55,23 @@ std::vector<StackShare> divideStack(
     }
     double reserved = 0;
     for (std::size_t index = begin; index < order.size(); ++index) {
-      reserved += items[order[index]].least;
+      reserved += items[order[index]].minimum;
     }
     double lowerReserved = 0;
     for (std::size_t index = end; index < order.size(); ++index) {
-      lowerReserved += items[order[index]].least;
+      lowerReserved += items[order[index]].minimum;
     }
     for (std::size_t index = begin; index < end; ++index) {
-      reserved -= items[order[index]].least;
-      const double share = (remaining - lowerReserved) / static_cast<double>(end - index);
-      const double offer = std::max(0.0, std::min(share, remaining - reserved));
+      reserved -= items[order[index]].minimum;
+      const double equalPart = (remaining - lowerReserved) / static_cast<double>(end - index);
+      const double offer = std::max(0.0, std::min(equalPart, remaining - reserved));
       const double length = choose(order[index], offer);
-      shares[order[index]] = {offer, length};
+      segments[order[index]] = {offer, length};
       remaining -= length;
     }
     begin = end;
   }
-  return shares;
+  return segments;
 }
 
 }  // namespace orvane::ui

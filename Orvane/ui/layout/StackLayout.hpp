@@ -1,4 +1,4 @@
-// The kernel of the stacks: divides a length among children, knowing nothing of views.
+// The division of a stack's length among its children, independent of views.
 #pragma once
 
 #include <cstddef>
@@ -8,28 +8,28 @@
 
 namespace orvane::ui {
 
-// What a child of a stack is known by before it is offered anything, along the stack's axis.
+/// A child of a stack, along the stack's axis.
 struct StackItem {
-  // The length it takes when offered zero, and when offered infinity.
-  double least = 0;
-  double most = 0;
-  // Higher priorities are served first; lower ones are kept their least length meanwhile.
+  /// The lengths that it chooses when it is offered zero and infinity.
+  double minimum = 0;
+  double maximum = 0;
+  /// Higher priorities are served first, while the minimums of the lower ones are kept free.
   double priority = 0;
 };
 
-struct StackShare {
-  // What the child was offered; empty when the stack itself was offered nothing definite.
+struct StackSegment {
+  /// The length that the child was offered; none when the stack's own length is unspecified.
   std::optional<double> offer;
-  // What it chose.
+  /// The length that it chose.
   double length = 0;
 };
 
-// Offers the available length, less the spacing between neighbours, to the children: by falling
-// priority, within a priority the least flexible first (ties in their order), each an equal share
-// of what is left for its priority, but never what others need for their least. `choose` returns
-// the length the child takes for an offer. The result has the order of the items. An unspecified or
-// infinite length is offered to every child as it is.
-std::vector<StackShare> divideStack(
+/// Divides `available`, less the spacing between neighbours, among the items. They are served by
+/// falling priority, and within a priority by rising flexibility (ties in their order). Each is
+/// offered an equal part of what is left for its priority, without the minimums of the others.
+/// `choose` returns the length that an item takes for an offer. The result has the order of the
+/// items. An unspecified or infinite length is offered to every item as it is.
+[[nodiscard]] std::vector<StackSegment> divideStack(
     std::optional<double> available, double spacing, const std::vector<StackItem>& items,
     const std::function<double(std::size_t index, std::optional<double> offer)>& choose);
 

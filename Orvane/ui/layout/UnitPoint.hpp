@@ -1,4 +1,4 @@
-// A place inside a rectangle as a share of its width and height; also the nine alignments.
+// A point in a rectangle as fractions of its width and height, and the alignments.
 #pragma once
 
 #include "Orvane/ui/layout/Rect.hpp"
@@ -9,26 +9,27 @@ struct UnitPoint {
   double x = 0.5;
   double y = 0.5;
 
-  static constexpr UnitPoint topLeading() { return {0, 0}; }
-  static constexpr UnitPoint top() { return {0.5, 0}; }
-  static constexpr UnitPoint topTrailing() { return {1, 0}; }
-  static constexpr UnitPoint leading() { return {0, 0.5}; }
-  static constexpr UnitPoint center() { return {0.5, 0.5}; }
-  static constexpr UnitPoint trailing() { return {1, 0.5}; }
-  static constexpr UnitPoint bottom() { return {0.5, 1}; }
-  static constexpr UnitPoint bottomTrailing() { return {1, 1}; }
+  [[nodiscard]] static constexpr UnitPoint topLeading() { return {0, 0}; }
+  [[nodiscard]] static constexpr UnitPoint top() { return {0.5, 0}; }
+  [[nodiscard]] static constexpr UnitPoint topTrailing() { return {1, 0}; }
+  [[nodiscard]] static constexpr UnitPoint leading() { return {0, 0.5}; }
+  [[nodiscard]] static constexpr UnitPoint center() { return {0.5, 0.5}; }
+  [[nodiscard]] static constexpr UnitPoint trailing() { return {1, 0.5}; }
+  [[nodiscard]] static constexpr UnitPoint bottom() { return {0.5, 1}; }
+  [[nodiscard]] static constexpr UnitPoint bottomTrailing() { return {1, 1}; }
 
-  // The point of the rectangle that this share names.
-  Point in(const Rect& rect) const { return {rect.x + rect.width * x, rect.y + rect.height * y}; }
-  // Where the top left corner of something goes so that it is aligned inside the container.
-  Point originOf(Size inner, Size container) const {
-    return {(container.width - inner.width) * x, (container.height - inner.height) * y};
+  [[nodiscard]] Point in(const Rect& rect) const {
+    return {rect.x + rect.width * x, rect.y + rect.height * y};
+  }
+  /// The top left corner of content with this alignment, in the container's coordinates.
+  [[nodiscard]] Point originOf(Size content, Size container) const {
+    return {(container.width - content.width) * x, (container.height - content.height) * y};
   }
 
   friend bool operator==(const UnitPoint&, const UnitPoint&) = default;
 };
 
-// How a view is placed in a frame that is larger or smaller than it.
+/// The position of a view in a frame that is larger or smaller than the view.
 using Alignment = UnitPoint;
 
 }  // namespace orvane::ui

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Orvane/ui/draw/Fill.hpp"
+#include "Orvane/ui/draw/Paint.hpp"
 #include "Orvane/ui/draw/Shadow.hpp"
 #include "Orvane/ui/views/Node.hpp"
 
@@ -58,13 +59,13 @@ class AttributeReader {
   double number() {
     return next_ < node_.attributes.size() ? node_.attributes[next_++].at(now_) : 0;
   }
-  // A spring may swing past its target; a share must not.
-  double share() { return std::clamp(number(), 0.0, 1.0); }
+  // From 0 to 1, even where a spring overshoots its target.
+  double fraction() { return std::clamp(number(), 0.0, 1.0); }
   Rgba color() {
-    const double red = share();
-    const double green = share();
-    const double blue = share();
-    return {red, green, blue, share()};
+    const double red = fraction();
+    const double green = fraction();
+    const double blue = fraction();
+    return {red, green, blue, fraction()};
   }
   // The fill that was written, for the rectangle it is painted in.
   Paint fill(const Fill& written, const Rect& rect) {
@@ -74,9 +75,9 @@ class AttributeReader {
     start.y = number();
     end.x = number();
     end.y = number();
-    Paint paint{{}, start.in(rect), end.in(rect)};
+    Paint paint{.start = start.in(rect), .end = end.in(rect)};
     for (std::size_t index = 0; index < written.gradient().stops.size(); ++index) {
-      const double location = share();
+      const double location = fraction();
       paint.stops.push_back({color(), location});
     }
     return paint;

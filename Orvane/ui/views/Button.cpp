@@ -16,7 +16,7 @@ class ButtonElement final : public Element {
   }
 
   void setStyle(const ButtonStyle& style) { style_ = style; }
-  void setFocusRing(const ShapeForm& form) { interaction_.focusShape = form; }
+  void setFocusRing(const Shape& shape) { interaction_.focusShape = shape; }
   void leaveTabOrder() { interaction_.isFocusable = false; }
 
   void build(Node& node, Builder& builder) const override {
@@ -76,9 +76,9 @@ Button Button::style(const ButtonStyle& style) const {
   return Button(std::move(changed));
 }
 
-Button Button::focusRing(const ShapeForm& form) const {
+Button Button::focusRing(const Shape& shape) const {
   auto changed = std::make_shared<ButtonElement>(*button_);
-  changed->setFocusRing(form);
+  changed->setFocusRing(shape);
   return Button(std::move(changed));
 }
 

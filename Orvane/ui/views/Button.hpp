@@ -25,7 +25,7 @@ class Button : public View {
   // Bordered, unless another style is given.
   Button style(const ButtonStyle& style) const;
   // The outline of the ring around it while it has the keyboard focus.
-  Button focusRing(const ShapeForm& form) const;
+  Button focusRing(const Shape& shape) const;
   // Passed over by Tab, as the buttons of a window are; a click, its shortcut and an accessibility
   // press still reach it.
   Button outOfTabOrder() const;

@@ -31,7 +31,7 @@ View BorderedButtonStyle::body(const ButtonConfiguration& configuration,
   const Color rim =
       environment.isDark() ? Color::white().opacity(0.1) : Color::black().opacity(0.06);
   return configuration.label.foreground(isFilled ? Color::accent().buttonLabel() : Color::primary())
-      .padding(Edges::horizontal(bezelPaddingAcross).vertical(bezelPaddingDown))
+      .padding(Edges::symmetric(bezelPaddingAcross, bezelPaddingDown))
       .background(
           RoundedRectangle(bezelRadius).fill(isFilled ? accent : neutral).strokeBorder(rim, 0.5))
       .opacity(configuration.isEnabled ? 1 : disabledOpacity);

@@ -80,11 +80,11 @@ Curve::Remainder Curve::remainder(double distance, std::optional<double> velocit
 
 Curve::Remainder Curve::bezierRemainder(double distance, std::optional<double> velocity,
                                         double elapsed) const {
-  const double share = elapsed / seconds_;
-  if (share >= 1) {
+  const double fraction = elapsed / seconds_;
+  if (fraction >= 1) {
     return {0, 0, true};
   }
-  const double s = parameterAt(x1_, x2_, share);
+  const double s = parameterAt(x1_, x2_, fraction);
   Remainder result;
   result.distance = distance * (1 - cubic(y1_, y2_, s));
   result.velocity = -distance * steepness(x1_, y1_, x2_, y2_, s) / seconds_;
@@ -93,8 +93,8 @@ Curve::Remainder Curve::bezierRemainder(double distance, std::optional<double> v
     // between the velocity on screen and the one the curve would start with, and fades out.
     const double own = -distance * steepness(x1_, y1_, x2_, y2_, 0) / seconds_;
     const double difference = *velocity - own;
-    result.distance += difference * elapsed * (1 - share) * (1 - share);
-    result.velocity += difference * (1 - share) * (1 - 3 * share);
+    result.distance += difference * elapsed * (1 - fraction) * (1 - fraction);
+    result.velocity += difference * (1 - fraction) * (1 - 3 * fraction);
   }
   return result;
 }

@@ -22,10 +22,4 @@ void Environment::dismiss() const {
   }
 }
 
-void Environment::announce(const std::string& text) const {
-  if (const auto target = link.lock()) {
-    target->announce(text);
-  }
-}
-
 }  // namespace orvane::ui

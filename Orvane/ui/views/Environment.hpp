@@ -2,12 +2,12 @@
 // host.
 #pragma once
 
-#include <cassert>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
+#include "Orvane/base/Require.hpp"
 #include "Orvane/ui/draw/Appearance.hpp"
 #include "Orvane/ui/draw/Color.hpp"
 #include "Orvane/ui/draw/Font.hpp"
@@ -29,7 +29,7 @@ struct Environment {
   // 0 means any number of lines.
   int lineLimit = 0;
   TruncationMode truncationMode = TruncationMode::tail;
-  // The share of its width by which a single line may be set closer before it is cut.
+  // The fraction of its width by which a single line may be set closer before it is cut.
   double tightening = 0;
   // In points; none for the height that the characters ask for.
   std::optional<double> lineHeight;
@@ -57,7 +57,7 @@ struct Environment {
       cell = std::make_shared<StateCell<T>>(std::move(initial), link);
     }
     auto typed = std::dynamic_pointer_cast<StateCell<T>>(cell);
-    assert(typed && "one name was used for state of two types");
+    require(typed != nullptr, "one name was used for state of two types");
     return State<T>(std::move(typed));
   }
 
@@ -70,7 +70,6 @@ struct Environment {
   void animate(const Curve& curve, const std::function<void()>& change) const;
   // Closes what the view is shown in.
   void dismiss() const;
-  void announce(const std::string& text) const;
 };
 
 }  // namespace orvane::ui

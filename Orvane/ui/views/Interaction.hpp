@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "Orvane/ui/draw/ShapeForm.hpp"
+#include "Orvane/ui/draw/Shape.hpp"
 #include "Orvane/ui/layout/Rect.hpp"
 
 namespace orvane::ui {
@@ -30,7 +30,7 @@ struct Interaction {
   std::function<std::optional<DragItem>()> drag;
   std::string tooltip;
   bool isFocusable = false;
-  ShapeForm focusShape = ShapeForm::rounded(6);
+  Shape focusShape = Shape::rounded(6);
 
   // True when a press on the view is taken by it and does not move the window.
   bool takesPress() const { return activate || drag; }

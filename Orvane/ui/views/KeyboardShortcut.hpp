@@ -18,24 +18,24 @@ struct KeyModifiers {
 
 struct KeyEvent {
   Key key = Key::character;
-  KeyModifiers modifiers;
+  KeyModifiers modifiers = {};
   // For Key::character: what the key types without its modifiers but Command, in UTF-8 and lower
   // case.
-  std::string characters;
+  std::string characters = {};
 };
 
 struct KeyboardShortcut {
   Key key = Key::character;
-  KeyModifiers modifiers;
-  std::string characters;
+  KeyModifiers modifiers = {};
+  std::string characters = {};
 
   // Return, which also makes a standard button prominent.
-  static KeyboardShortcut defaultAction() { return {Key::enter, {}, {}}; }
+  static KeyboardShortcut defaultAction() { return {.key = Key::enter}; }
   // Escape.
-  static KeyboardShortcut cancelAction() { return {Key::escape, {}, {}}; }
+  static KeyboardShortcut cancelAction() { return {.key = Key::escape}; }
   // Command and a character.
   static KeyboardShortcut command(std::string characters) {
-    return {Key::character, {false, false, false, true}, std::move(characters)};
+    return {Key::character, {.command = true}, std::move(characters)};
   }
 
   bool matches(const KeyEvent& event) const {

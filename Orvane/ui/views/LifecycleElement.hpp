@@ -1,4 +1,4 @@
-// Runs actions when a view has come and when it has gone.
+// Runs an action when a view has appeared.
 #pragma once
 
 #include <functional>
@@ -10,18 +10,14 @@ namespace orvane::ui {
 
 class LifecycleElement final : public WrapperElement {
  public:
-  LifecycleElement(View content, std::function<void()> onAppear, std::function<void()> onDisappear)
-      : WrapperElement(std::move(content)),
-        onAppear_(std::move(onAppear)),
-        onDisappear_(std::move(onDisappear)) {}
+  LifecycleElement(View content, std::function<void()> onAppear)
+      : WrapperElement(std::move(content)), onAppear_(std::move(onAppear)) {}
 
   const std::function<void()>& onAppear() const { return onAppear_; }
-  const std::function<void()>& onDisappear() const { return onDisappear_; }
   void build(Node& node, Builder& builder) const override;
 
  private:
   std::function<void()> onAppear_;
-  std::function<void()> onDisappear_;
 };
 
 }  // namespace orvane::ui

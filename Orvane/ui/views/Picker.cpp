@@ -25,7 +25,7 @@ struct PopUpButtonStyle {
                                                                : 0.55;
     return configuration.label.height(bezelHeight)
         .background(RoundedRectangle(bezelRadius)
-                        .castShadow({Color::black().opacity(0.12), 1, 0, 0.5})
+                        .castShadow({.color = Color::black().opacity(0.12), .radius = 1, .y = 0.5})
                         .fill(bezel)
                         .fill(Color::primary().opacity(configuration.isPressed ? 0.12 : 0))
                         .strokeBorder(Color::primary().opacity(rim), 1))
@@ -41,7 +41,7 @@ View Picker::body(const Environment& environment) const {
   const View arrows =
       Symbol("chevron.up.chevron.down").font(Font::system(9, Weight::semibold)).width(arrowsWidth);
   const View content = HStack(4, {Text(title).lineLimit(1), Spacer(), arrows})
-                           .padding(Edges{0, 8, 0, 3})
+                           .padding(Edges{.leading = 8, .trailing = 3})
                            .foreground(Color::primary());
   const auto open =
       [link = environment.link,
@@ -54,7 +54,7 @@ View Picker::body(const Environment& environment) const {
       };
   return Button(std::function<void(const Activation&)>(open), content)
       .style(PopUpButtonStyle{})
-      .focusRing(ShapeForm::rounded(bezelRadius))
+      .focusRing(Shape::rounded(bezelRadius))
       .accessibilityRole(Role::popUpButton)
       .accessibilityLabel(label)
       .accessibilityValue(title);

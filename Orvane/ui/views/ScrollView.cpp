@@ -99,7 +99,7 @@ const ScrollData* scrollData(const Node& node) {
 
 bool scrollTo(Node& area, double offset, const std::optional<Curve>& curve, double now) {
   AnimatedValue& shown = area.attributes.front();
-  const double target = std::clamp(offset, 0.0, scrollData(area)->most);
+  const double target = std::clamp(offset, 0.0, scrollData(area)->maximumOffset);
   const double before = shown.at(now);
   // A motion to the same place goes on.
   if (target != shown.target()) {
@@ -125,8 +125,8 @@ void scrollIntoView(Node& area, const Node& node, const std::optional<Curve>& cu
   const double room = std::max(0.0, (width - node.target().width) / 2);
   const double margin = std::min(scrollData(area)->margin, room);
   // Of what is too wide the beginning is shown.
-  const double least = leading + node.target().width + margin - width;
-  scrollTo(area, std::min(std::max(offsetOf(area), least), leading - margin), curve, now);
+  const double minimumOffset = leading + node.target().width + margin - width;
+  scrollTo(area, std::min(std::max(offsetOf(area), minimumOffset), leading - margin), curve, now);
 }
 
 }  // namespace orvane::ui

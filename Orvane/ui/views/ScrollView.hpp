@@ -8,8 +8,8 @@ namespace orvane::ui {
 
 // What the node of a scroll view keeps.
 struct ScrollData {
-  // How far the content can move towards the leading side, in points.
-  double most = 0;
+  // Of the content towards the leading side, in points.
+  double maximumOffset = 0;
   double margin = 0;
 };
 

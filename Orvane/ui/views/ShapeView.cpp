@@ -18,7 +18,7 @@ struct ShapeLayer {
 
 class ShapeElement final : public Element {
  public:
-  explicit ShapeElement(const ShapeForm& form) : form_(form) {}
+  explicit ShapeElement(const Shape& shape) : shape_(shape) {}
 
   void add(ShapeLayer layer) { layers_.push_back(std::move(layer)); }
   void cast(const Shadow& shadow) { shadows_.push_back(shadow); }
@@ -30,7 +30,7 @@ class ShapeElement final : public Element {
   }
 
   void attributes(const Node& node, AttributeWriter& writer) const override {
-    writer.number(form_.cornerRadius);
+    writer.number(shape_.cornerRadius);
     for (const Shadow& shadow : shadows_) {
       writer.shadow(shadow);
     }
@@ -46,9 +46,8 @@ class ShapeElement final : public Element {
       return;
     }
     AttributeReader reader(node, context.now);
-    ShapeForm form = form_;
-    form.cornerRadius = reader.number();
-    const Shape shape = form.in(rect);
+    Shape shape = shape_.in(rect);
+    shape.cornerRadius = reader.number();
     for (std::size_t index = 0; index < shadows_.size(); ++index) {
       const PaintShadow shadow = reader.shadow();
       if (shadow.color.alpha > 0) {
@@ -75,12 +74,12 @@ class ShapeElement final : public Element {
     return {{ShapeLayer::Kind::fill, node.environment->foreground, 0}};
   }
 
-  ShapeForm form_;
+  Shape shape_;
   std::vector<Shadow> shadows_;
   std::vector<ShapeLayer> layers_;
 };
 
-ShapeView::ShapeView(const ShapeForm& form) : ShapeView(std::make_shared<ShapeElement>(form)) {}
+ShapeView::ShapeView(const Shape& shape) : ShapeView(std::make_shared<ShapeElement>(shape)) {}
 
 ShapeView::ShapeView(std::shared_ptr<const ShapeElement> element)
     : View(element), shape_(std::move(element)) {}

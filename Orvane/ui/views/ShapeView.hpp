@@ -13,7 +13,7 @@ class ShapeElement;
 
 class ShapeView : public View {
  public:
-  explicit ShapeView(const ShapeForm& form);
+  explicit ShapeView(const Shape& shape);
 
   // A shape that is neither filled nor stroked is filled with the inherited colour.
   ShapeView fill(const Fill& fill) const;
@@ -32,23 +32,23 @@ class ShapeView : public View {
 
 class Rectangle : public ShapeView {
  public:
-  Rectangle() : ShapeView(ShapeForm::rectangle()) {}
+  Rectangle() : ShapeView(Shape::rectangle()) {}
 };
 
 class RoundedRectangle : public ShapeView {
  public:
   explicit RoundedRectangle(double cornerRadius, CornerStyle style = CornerStyle::continuous)
-      : ShapeView(ShapeForm::rounded(cornerRadius, style)) {}
+      : ShapeView(Shape::rounded(cornerRadius, style)) {}
 };
 
 class Capsule : public ShapeView {
  public:
-  Capsule() : ShapeView(ShapeForm::capsule()) {}
+  Capsule() : ShapeView(Shape::capsule()) {}
 };
 
 class Circle : public ShapeView {
  public:
-  Circle() : ShapeView(ShapeForm::circle()) {}
+  Circle() : ShapeView(Shape::circle()) {}
 };
 
 }  // namespace orvane::ui

@@ -15,7 +15,7 @@ namespace {
 
 class StackElement final : public Element {
  public:
-  // The alignment across the stack is a share: 0 at the leading or top side, 1 at the other.
+  // The alignment across the stack is a fraction: 0 at the leading or top side, 1 at the other.
   StackElement(Axis axis, double spacing, double alignment, std::vector<View> children)
       : axis_(axis), spacing_(spacing), alignment_(alignment), children_(std::move(children)) {}
 
@@ -27,37 +27,37 @@ class StackElement final : public Element {
   }
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
-    const std::vector<StackShare> shares = divide(node, proposal, pass);
-    double along = shares.empty() ? 0 : spacing_ * static_cast<double>(shares.size() - 1);
+    const std::vector<StackSegment> segments = divide(node, proposal, pass);
+    double along = segments.empty() ? 0 : spacing_ * static_cast<double>(segments.size() - 1);
     double across = 0;
-    for (std::size_t index = 0; index < shares.size(); ++index) {
-      const Size size = pass.measure(*node.children[index], offered(shares[index], proposal));
-      along += shares[index].length;
+    for (std::size_t index = 0; index < segments.size(); ++index) {
+      const Size size = pass.measure(*node.children[index], offered(segments[index], proposal));
+      along += segments[index].length;
       across = std::max(across, lengthAcross(axis_, size));
     }
     return orientedSize(axis_, along, across);
   }
 
   void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
-    const std::vector<StackShare> shares = divide(node, proposal, pass);
+    const std::vector<StackSegment> segments = divide(node, proposal, pass);
     double along = 0;
-    for (std::size_t index = 0; index < shares.size(); ++index) {
+    for (std::size_t index = 0; index < segments.size(); ++index) {
       Node& child = *node.children[index];
-      const Proposal offer = offered(shares[index], proposal);
+      const Proposal offer = offered(segments[index], proposal);
       const double room =
           lengthAcross(axis_, size) - lengthAcross(axis_, pass.measure(child, offer));
       const Size origin = orientedSize(axis_, along, room * alignment_);
       pass.place(child, {origin.width, origin.height}, offer);
-      along += shares[index].length + spacing_;
+      along += segments[index].length + spacing_;
     }
   }
 
  private:
-  Proposal offered(const StackShare& share, const Proposal& proposal) const {
-    return Proposal::oriented(axis_, share.offer, proposal.across(axis_));
+  Proposal offered(const StackSegment& segment, const Proposal& proposal) const {
+    return Proposal::oriented(axis_, segment.offer, proposal.across(axis_));
   }
 
-  std::vector<StackShare> divide(Node& node, const Proposal& proposal, LayoutPass& pass) const {
+  std::vector<StackSegment> divide(Node& node, const Proposal& proposal, LayoutPass& pass) const {
     const std::optional<double> across = proposal.across(axis_);
     const auto length = [&](std::size_t index, std::optional<double> offer) {
       const Proposal asked = Proposal::oriented(axis_, offer, across);
@@ -158,20 +158,22 @@ class DividerElement final : public Element {
   }
 };
 
-double share(HorizontalAlignment alignment) {
+double fraction(HorizontalAlignment alignment) {
   return static_cast<double>(alignment) / 2;
 }
-double share(VerticalAlignment alignment) {
+double fraction(VerticalAlignment alignment) {
   return static_cast<double>(alignment) / 2;
 }
 
 }  // namespace
 
 VStack::VStack(double spacing, HorizontalAlignment alignment, const std::vector<View>& children)
-    : View(std::make_shared<StackElement>(Axis::vertical, spacing, share(alignment), children)) {}
+    : View(std::make_shared<StackElement>(Axis::vertical, spacing, fraction(alignment), children)) {
+}
 
 HStack::HStack(double spacing, VerticalAlignment alignment, const std::vector<View>& children)
-    : View(std::make_shared<StackElement>(Axis::horizontal, spacing, share(alignment), children)) {}
+    : View(std::make_shared<StackElement>(Axis::horizontal, spacing, fraction(alignment),
+                                          children)) {}
 
 ZStack::ZStack(Alignment alignment, const std::vector<View>& children)
     : View(std::make_shared<DepthElement>(alignment, children)) {}

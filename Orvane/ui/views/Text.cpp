@@ -88,11 +88,11 @@ class TextElement final : public Element {
   void draw(const Node& node, const DrawContext& context) const override {
     const auto& [font, layout] = std::any_cast<const TextData&>(node.data).placed;
     const Rgba color = AttributeReader(node, context.now).color();
-    const double share = static_cast<double>(node.environment->textAlignment) / 2;
+    const double fraction = static_cast<double>(node.environment->textAlignment) / 2;
     double baseline = context.rect.y + layout.ascent;
     for (const TextLine& line : layout.lines) {
       if (!line.text.empty()) {
-        const double x = context.rect.x + (context.rect.width - line.width) * share;
+        const double x = context.rect.x + (context.rect.width - line.width) * fraction;
         context.canvas.text(line.text, font, color, context.snapped(Point{x, baseline}));
       }
       baseline += layout.lineHeight;
@@ -141,11 +141,11 @@ class TextElement final : public Element {
     }
     // A window being resized must not gather layouts without end. The number is larger than what
     // one pass asks for, and clearing happens before adding, so the result below stays valid.
-    constexpr std::size_t most = 24;
-    if (data.known.size() >= most) {
+    constexpr std::size_t capacity = 24;
+    if (data.known.size() >= capacity) {
       data.known.clear();
     }
-    data.known.reserve(most);
+    data.known.reserve(capacity);
     data.known.push_back({width, lineLimit, broken(data, width, lineLimit, pass.text())});
     BrokenText& added = data.known.back().broken;
     if (data.lineHeight) {

@@ -13,8 +13,8 @@ struct Transition {
   // width or height.
   double absentOpacity = 1;
   double absentScale = 1;
-  std::optional<Edge> moveEdge;
-  // The share of its way, less than 1, that the view covers before its opacity begins to change.
+  std::optional<Edge> moveEdge = std::nullopt;
+  // The fraction of its way, less than 1, that the view covers before its opacity begins to change.
   double opacityDelay = 0;
 
   static Transition opacity() { return {.absentOpacity = 0}; }

@@ -61,7 +61,6 @@ class View {
   // Layout. Lengths are points; alignments place the content in a frame larger or smaller than it.
   View padding(double distance = defaultPadding) const;
   View padding(const Edges& edges) const;
-  View padding(Edge edge, double distance) const;
   View frame(double width, double height, Alignment alignment = Alignment::center()) const;
   View frame(const FrameBounds& bounds) const;
   View width(double width, Alignment alignment = Alignment::center()) const;
@@ -84,16 +83,16 @@ class View {
   View scale(double factor, UnitPoint anchor = UnitPoint::center()) const;
   // The shadow cast by everything in the view as one picture.
   View shadow(const Shadow& shadow) const;
-  View clip(const ShapeForm& form) const;
+  View clip(const Shape& shape) const;
 
   // Inherited by everything below.
   View foreground(const Color& color) const;
   View font(const Font& font) const;
   View lineLimit(int lines) const;
   View truncationMode(TruncationMode mode) const;
-  // A text of one line that is too wide by no more than this share of its width moves its
-  // characters closer together instead of being cut. The share is AppKit's own.
-  View allowsTightening(double share = 0.05) const;
+  // A text of one line that is too wide by no more than this fraction of its width moves its
+  // characters closer together instead of being cut. The default is AppKit's.
+  View allowsTightening(double fraction = 0.05) const;
   // The lines of texts are so many points high, whatever script they are written in, and each has
   // its baseline where a Latin line in the middle of this height has it. Zero and less leave them
   // as they are.
@@ -128,9 +127,8 @@ class View {
   View transition(const Transition& transition) const;
   // The same identity means the same node, wherever the view stands among its siblings.
   View id(std::string id) const;
-  // After the layout in which the view came, and in which it went.
+  // After the layout in which the view came.
   View onAppear(std::function<void()> action) const;
-  View onDisappear(std::function<void()> action) const;
 
   // Semantics. They apply to the one element in the view, or make a group of several.
   View accessibilityLabel(std::string label) const;

@@ -91,11 +91,7 @@ View View::id(std::string id) const {
 }
 
 View View::onAppear(std::function<void()> action) const {
-  return modified<LifecycleElement>(*this, std::move(action), nullptr);
-}
-
-View View::onDisappear(std::function<void()> action) const {
-  return modified<LifecycleElement>(*this, nullptr, std::move(action));
+  return modified<LifecycleElement>(*this, std::move(action));
 }
 
 }  // namespace orvane::ui

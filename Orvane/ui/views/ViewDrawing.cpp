@@ -16,7 +16,7 @@ class OpacityElement final : public WrapperElement {
   void attributes(const Node&, AttributeWriter& writer) const override { writer.number(opacity_); }
   Effect effect(const Node& node, Size, double now) const override {
     Effect effect;
-    effect.opacity = AttributeReader(node, now).share();
+    effect.opacity = AttributeReader(node, now).fraction();
     return effect;
   }
 
@@ -85,17 +85,17 @@ class ShadowElement final : public WrapperElement {
 
 class ClipElement final : public WrapperElement {
  public:
-  ClipElement(View content, const ShapeForm& form)
-      : WrapperElement(std::move(content)), form_(form) {}
+  ClipElement(View content, const Shape& shape)
+      : WrapperElement(std::move(content)), shape_(shape) {}
 
   Effect effect(const Node&, Size size, double) const override {
     Effect effect;
-    effect.clip = form_.in({0, 0, size.width, size.height});
+    effect.clip = shape_.in({0, 0, size.width, size.height});
     return effect;
   }
 
  private:
-  ShapeForm form_;
+  Shape shape_;
 };
 
 class HitTestingElement final : public WrapperElement {
@@ -131,8 +131,8 @@ View View::shadow(const Shadow& shadow) const {
   return modified<ShadowElement>(*this, shadow);
 }
 
-View View::clip(const ShapeForm& form) const {
-  return modified<ClipElement>(*this, form);
+View View::clip(const Shape& shape) const {
+  return modified<ClipElement>(*this, shape);
 }
 
 View View::hitTesting(bool isAllowed) const {

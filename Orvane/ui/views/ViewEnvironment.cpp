@@ -49,8 +49,8 @@ View View::truncationMode(TruncationMode mode) const {
   return environment([mode](Environment& inherited) { inherited.truncationMode = mode; });
 }
 
-View View::allowsTightening(double share) const {
-  return environment([share](Environment& inherited) { inherited.tightening = share; });
+View View::allowsTightening(double fraction) const {
+  return environment([fraction](Environment& inherited) { inherited.tightening = fraction; });
 }
 
 View View::textAlignment(TextAlignment alignment) const {

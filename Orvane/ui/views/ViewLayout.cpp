@@ -56,9 +56,9 @@ struct FrameLength {
     if (!minimum && !maximum) {
       return content;
     }
-    const double least = minimum.value_or(std::min(content, maximum.value_or(infinity)));
-    const double most = std::max(least, maximum.value_or(content));
-    return std::clamp(proposed.value_or(content), least, most);
+    const double lower = minimum.value_or(std::min(content, maximum.value_or(infinity)));
+    const double upper = std::max(lower, maximum.value_or(content));
+    return std::clamp(proposed.value_or(content), lower, upper);
   }
 };
 
@@ -194,10 +194,6 @@ class LayersElement final : public WrapperElement {
 
 View View::padding(double distance) const {
   return padding(Edges::all(distance));
-}
-
-View View::padding(Edge edge, double distance) const {
-  return padding(Edges::only(edge, distance));
 }
 
 View View::padding(const Edges& edges) const {
