@@ -36,8 +36,9 @@ View page(const View& beforeTitle, const std::string& title, const View& content
 
 /// One of several choices: its row carries the check mark.
 View choiceRow(const std::string& title, bool isChosen, const std::function<void()>& choose) {
-  const View mark =
-      Symbol("checkmark").font(Font::system(12, Weight::semibold)).foreground(Color::accent());
+  const auto mark = [] {
+    return Symbol("checkmark").font(Font::system(12, Weight::semibold)).foreground(Color::accent());
+  };
   return Button(choose, SettingsGroup::row(title, when(isChosen, mark)))
       .style(SettingsButtonStyle{})
       .accessibilityLabel(title)

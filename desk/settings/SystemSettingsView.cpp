@@ -41,7 +41,8 @@ View SystemSettingsView::body(const Environment& environment) const {
   const View content =
       HStack(0, {SettingsSidebar{settings}, Rectangle().fill(edge).width(1), detail})
           .disabled(isChoosing);
-  return ZStack(Alignment::top(), {content, when(isChoosing, ApplicationChooser{settings})})
+  return ZStack(Alignment::top(),
+                {content, when(isChoosing, [&] { return ApplicationChooser{settings}; })})
       .frame(SystemSettings::width, SystemSettings::height);
 }
 

@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "Orvane/platform/appkit/Accessibility.hpp"
 #include "desk/machine/Machine.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -58,7 +57,6 @@ ui::HostPlatform HostedView::platform() {
       kept();
     }
   };
-  services.announce = appkit::Accessibility::announce;
   return {&server.text(), server.resources().imageSource(), {}, std::move(services)};
 }
 

@@ -8,7 +8,6 @@
 #include <optional>
 #include <utility>
 
-#include "Orvane/platform/appkit/Accessibility.hpp"
 #include "macos/appkit/KeyEquivalents.hpp"
 #include "macos/appkit/RunSoon.hpp"
 #include "macos/appkit/Strings.hpp"
@@ -78,7 +77,6 @@ ui::TextMeasurer& textMeasurer() {
     }
   };
   services.dismiss = [weakSelf] { [weakSelf dismiss]; };
-  services.announce = appkit::Accessibility::announce;
   services.semanticsChanged = [weakSelf] { [weakSelf semanticsDidChange]; };
   _host = std::make_unique<ui::ViewHost>(ui::HostPlatform{
       &textMeasurer(), appkit::systemImageSource(), appkit::systemColor, std::move(services)});

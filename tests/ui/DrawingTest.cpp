@@ -232,8 +232,9 @@ TEST_F(DirtyTest, WhatMovesIsRepaintedWhereItWasAndWhereItIs) {
 
 TEST_F(DirtyTest, WhatGoesIsRepaintedWhereItWas) {
   bool isShown = true;
-  test.show(
-      [&](const Environment&) -> View { return ZStack({when(isShown, box(Color::white()))}); });
+  test.show([&](const Environment&) -> View {
+    return ZStack({when(isShown, [&] { return box(Color::white()); })});
+  });
   isShown = false;
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{39, -1, 22, 22}}));
 }
@@ -271,7 +272,8 @@ TEST_F(DirtyTest, ClipsInsideOfOneAnotherCutTogether) {
 TEST_F(DirtyTest, WhatHasMovedAwayIsRepaintedWhenItIsGone) {
   bool isShown = true;
   test.show([&](const Environment&) -> View {
-    return ZStack({when(isShown, box(Color::white()).transition(Transition::scale(0.5)))})
+    return ZStack({when(isShown,
+                        [&] { return box(Color::white()).transition(Transition::scale(0.5)); })})
         .animation(Curve::linear(1), isShown);
   });
   isShown = false;

@@ -35,8 +35,7 @@ TEST(IdentityTest, StateOutlivesARedraw) {
   test.show(Counter{"a"});
   test.click({5, 5});
   EXPECT_EQ(labels(test), "a1 ");
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(labels(test), "a1 ");
 }
 
@@ -51,15 +50,12 @@ TEST(IdentityTest, StateFollowsItsItemWhenItemsMove) {
   test.click({15, 5});
   EXPECT_EQ(labels(test), "a0 b1 c0 ");
   names = {"b", "c", "a"};
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(labels(test), "b1 c0 a0 ");
   names = {"c", "a"};
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   names = {"b", "c", "a"};
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(labels(test), "b0 c0 a0 ") << "what was gone begins anew";
 }
 
@@ -67,13 +63,13 @@ TEST(IdentityTest, AConditionalSiblingDoesNotDisturbTheOthers) {
   bool isShown = false;
   TestHost test({30, 10});
   test.show([&](const Environment&) -> View {
-    return HStack(0, {when(isShown, Text("x").font(Font::system(10))), Counter{"a"}});
+    return HStack(0,
+                  {when(isShown, [] { return Text("x").font(Font::system(10)); }), Counter{"a"}});
   });
   test.click({15, 5});
   EXPECT_EQ(labels(test), "a1 ");
   isShown = true;
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(labels(test), "x a1 ");
 }
 
@@ -84,8 +80,7 @@ TEST(IdentityTest, AnotherIdOrKindIsAnotherNode) {
   test.click({5, 5});
   EXPECT_EQ(labels(test), "a1 ");
   id = "two";
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(labels(test), "a0 ");
 }
 
@@ -94,16 +89,15 @@ TEST(IdentityTest, AppearingAndDisappearingAreToldOnce) {
   std::string log;
   TestHost test;
   test.show([&](const Environment&) -> View {
-    return VStack(
-        {when(isShown, Text("a").onAppear([&] { log += "+"; }).onDisappear([&] { log += "-"; }))});
+    return VStack({when(isShown, [&] {
+      return Text("a").onAppear([&] { log += "+"; }).onDisappear([&] { log += "-"; });
+    })});
   });
   EXPECT_EQ(log, "+");
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(log, "+");
   isShown = false;
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(log, "+-");
 }
 

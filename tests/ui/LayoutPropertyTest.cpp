@@ -6,7 +6,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "Orvane/ui/draw/StandardColors.hpp"
-#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/views/ScrollView.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
@@ -79,8 +79,9 @@ class LaidOut {
   LaidOut(const View& view, const Proposal& proposal) {
     const auto environment = std::make_shared<Environment>();
     const ColorResolver resolver = standardColor;
-    Builder builder({0, &resolver, &nodeCount_, std::nullopt});
-    builder.root(root, view, environment);
+    Damage damage;
+    BuildPass pass({0, resolver, nodeCount_, damage, std::nullopt});
+    pass.root(root, view, environment);
     LayoutPass pass(text_, images_, 0);
     size = pass.measure(*root, proposal);
     pass.place(*root, {0, 0}, proposal);

@@ -190,13 +190,14 @@ View ContentView::popUpButtons() const {
   const View toggle = Button([model = model] { model->toggleHideDockOnAllDisplays(); }, toggleLabel)
                           .style(SecondaryActionButtonStyle{})
                           .focusRing(ring);
-  const View openSettings =
-      Button([] { DockMouseGuard::openDesktopAndDockSettings(); },
-             labelled("gearshape", model->localized("Open Dock Settings", "打开 Dock 设置")))
-          .style(SecondaryActionButtonStyle{})
-          .focusRing(ring)
-          .width(dockSettingsWidth)
-          .transition(Transition::move(Edge::trailing).combined(Transition::opacity()));
+  const auto openSettings = [&] {
+    return Button([] { DockMouseGuard::openDesktopAndDockSettings(); },
+                  labelled("gearshape", model->localized("Open Dock Settings", "打开 Dock 设置")))
+        .style(SecondaryActionButtonStyle{})
+        .focusRing(ring)
+        .width(dockSettingsWidth)
+        .transition(Transition::move(Edge::trailing).combined(Transition::opacity()));
+  };
   // What slides in comes from behind the panel's edge; the line around a button needs some room.
   constexpr double lineRoom = 1;
   const Edges toTheEdge{

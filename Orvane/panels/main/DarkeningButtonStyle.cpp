@@ -9,8 +9,9 @@ using namespace ui;
 
 View DarkeningButtonStyle::body(const ButtonConfiguration& configuration,
                                 const Environment& /*environment*/) const {
-  return configuration.label.overlay(
-      when(configuration.isPressed, ShapeView(form).fill(Color::black().opacity(shade))));
+  return configuration.label.overlay(when(configuration.isPressed, [&] {
+    return ShapeView(form).fill(Color::black().opacity(shade));
+  }));
 }
 
 }  // namespace orvane

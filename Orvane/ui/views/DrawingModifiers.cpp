@@ -2,32 +2,30 @@
 #include <algorithm>
 
 #include "Orvane/ui/views/Attributes.hpp"
-#include "Orvane/ui/views/WrapperElement.hpp"
+#include "Orvane/ui/views/Modifiers.hpp"
 
 namespace orvane::ui {
 
 namespace {
 
-class OpacityElement final : public WrapperElement {
+class OpacityElement final : public ModifierElement {
  public:
   OpacityElement(View content, double opacity)
-      : WrapperElement(std::move(content)), opacity_(std::clamp(opacity, 0.0, 1.0)) {}
+      : ModifierElement(std::move(content)), opacity_(std::clamp(opacity, 0.0, 1.0)) {}
 
   void attributes(const Node&, AttributeWriter& writer) const override { writer.number(opacity_); }
   Effect effect(const Node& node, Size, double now) const override {
-    Effect effect;
-    effect.opacity = AttributeReader(node, now).share();
-    return effect;
+    return {.opacity = AttributeReader(node, now).fraction()};
   }
 
  private:
   double opacity_;
 };
 
-class OffsetElement final : public WrapperElement {
+class OffsetElement final : public ModifierElement {
  public:
   OffsetElement(View content, Point distance)
-      : WrapperElement(std::move(content)), distance_(distance) {}
+      : ModifierElement(std::move(content)), distance_(distance) {}
 
   void attributes(const Node&, AttributeWriter& writer) const override {
     writer.number(distance_.x);
@@ -36,27 +34,23 @@ class OffsetElement final : public WrapperElement {
   Effect effect(const Node& node, Size, double now) const override {
     AttributeReader reader(node, now);
     const double x = reader.number();
-    Effect effect;
-    effect.transform = Transform::translation({x, reader.number()});
-    return effect;
+    return {.transform = Transform::translation({x, reader.number()})};
   }
 
  private:
   Point distance_;
 };
 
-class ScaleElement final : public WrapperElement {
+class ScaleElement final : public ModifierElement {
  public:
   ScaleElement(View content, double factor, UnitPoint anchor)
-      : WrapperElement(std::move(content)), factor_(factor), anchor_(anchor) {}
+      : ModifierElement(std::move(content)), factor_(factor), anchor_(anchor) {}
 
   void attributes(const Node&, AttributeWriter& writer) const override { writer.number(factor_); }
   Effect effect(const Node& node, Size size, double now) const override {
     const double factor = AttributeReader(node, now).number();
-    Effect effect;
-    effect.transform =
-        Transform::scale(factor, factor, anchor_.in({0, 0, size.width, size.height}));
-    return effect;
+    const Point anchor = anchor_.in({0, 0, size.width, size.height});
+    return {.transform = Transform::scale(factor, factor, anchor)};
   }
 
  private:
@@ -64,49 +58,41 @@ class ScaleElement final : public WrapperElement {
   UnitPoint anchor_;
 };
 
-class ShadowElement final : public WrapperElement {
+class ShadowElement final : public ModifierElement {
  public:
   ShadowElement(View content, const Shadow& shadow)
-      : WrapperElement(std::move(content)), shadow_(shadow) {}
+      : ModifierElement(std::move(content)), shadow_(shadow) {}
 
   void attributes(const Node&, AttributeWriter& writer) const override { writer.shadow(shadow_); }
   Effect effect(const Node& node, Size, double now) const override {
     const PaintShadow shadow = AttributeReader(node, now).shadow();
-    Effect effect;
-    if (shadow.color.alpha > 0) {
-      effect.shadow = shadow;
-    }
-    return effect;
+    return shadow.color.alpha > 0 ? Effect{.shadow = shadow} : Effect{};
   }
 
  private:
   Shadow shadow_;
 };
 
-class ClipElement final : public WrapperElement {
+class ClipElement final : public ModifierElement {
  public:
   ClipElement(View content, const ShapeForm& form)
-      : WrapperElement(std::move(content)), form_(form) {}
+      : ModifierElement(std::move(content)), form_(form) {}
 
   Effect effect(const Node&, Size size, double) const override {
-    Effect effect;
-    effect.clip = form_.in({0, 0, size.width, size.height});
-    return effect;
+    return {.clip = form_.in({0, 0, size.width, size.height})};
   }
 
  private:
   ShapeForm form_;
 };
 
-class HitTestingElement final : public WrapperElement {
+class HitTestingElement final : public ModifierElement {
  public:
   HitTestingElement(View content, bool isAllowed)
-      : WrapperElement(std::move(content)), isAllowed_(isAllowed) {}
+      : ModifierElement(std::move(content)), isAllowed_(isAllowed) {}
 
   Effect effect(const Node&, Size, double) const override {
-    Effect effect;
-    effect.allowsHitTesting = isAllowed_;
-    return effect;
+    return {.allowsHitTesting = isAllowed_};
   }
 
  private:
