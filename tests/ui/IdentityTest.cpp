@@ -84,21 +84,28 @@ TEST(IdentityTest, AnotherIdOrKindIsAnotherNode) {
   EXPECT_EQ(labels(test), "a0 ");
 }
 
-TEST(IdentityTest, AppearingAndDisappearingAreToldOnce) {
+TEST(IdentityTest, AViewAppearsOnceUntilItIsRemoved) {
   bool isShown = true;
-  std::string log;
+  int appearances = 0;
   TestHost test;
   test.show([&](const Environment&) -> View {
-    return VStack({when(isShown, [&] {
-      return Text("a").onAppear([&] { log += "+"; }).onDisappear([&] { log += "-"; });
-    })});
+    return VStack({when(isShown, [&] { return Text("a").onAppear([&] { ++appearances; }); })});
   });
-  EXPECT_EQ(log, "+");
+  EXPECT_EQ(appearances, 1);
   test.update();
-  EXPECT_EQ(log, "+");
+  EXPECT_EQ(appearances, 1);
   isShown = false;
   test.update();
-  EXPECT_EQ(log, "+-");
+  isShown = true;
+  test.update();
+  EXPECT_EQ(appearances, 2);
+}
+
+TEST(IdentityTest, AConditionThatDoesNotHoldMakesNoView) {
+  EXPECT_TRUE(when(false, []() -> View {
+                ADD_FAILURE() << "the content was made";
+                return Text("a");
+              }).isEmpty());
 }
 
 TEST(IdentityTest, StateSetAfterItsViewIsGoneDoesNothing) {
@@ -136,6 +143,34 @@ TEST(IdentityTest, AnEqualValueAsksForNothing) {
   kept->set(4);
   EXPECT_TRUE(test.host->needsUpdate());
   EXPECT_EQ(test.redrawRequests, before + 1);
+}
+
+TEST(StateDeathTest, StateIsOnlyAvailableInABody) {
+  testing::GTEST_FLAG(death_test_style) = "threadsafe";
+  TestHost test;
+  const auto useInRoot = [](const Environment& environment) {
+    return Text(std::to_string(*environment.state("n", 0)));
+  };
+  EXPECT_DEATH(test.show(useInRoot), "state\\(\\) is for the body of a view");
+  struct UseInHandler {
+    View body(const Environment& environment) const {
+      return Text("a").onAppear([environment] { environment.state("n", 0).set(1); });
+    }
+  };
+  EXPECT_DEATH(test.show(UseInHandler{}), "state\\(\\) is for the body of a view");
+}
+
+TEST(StateDeathTest, ANameHasOneType) {
+  testing::GTEST_FLAG(death_test_style) = "threadsafe";
+  struct TwoTypes {
+    View body(const Environment& environment) const {
+      environment.state("n", 0).set(1);
+      environment.state("n", false).set(true);
+      return Text("a");
+    }
+  };
+  TestHost test;
+  EXPECT_DEATH(test.show(TwoTypes{}), "one name is used for state of two types");
 }
 
 }  // namespace

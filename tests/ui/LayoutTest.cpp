@@ -222,8 +222,6 @@ TEST(LayoutTest, ImagesKeepTheirSizeUntilTheyAreMadeResizable) {
   EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{30, 30}));
   test.show(Image("photo").resizable(ContentMode::fit));
   EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{30, 15}));
-  test.show(Image("photo").resizable(ContentMode::fill));
-  EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{60, 30}));
 }
 
 TEST(LayoutTest, PrioritiesDecideWhoIsServedFirst) {

@@ -284,15 +284,5 @@ TEST_F(PointerInputTest, TheWindowMovesWhereNoViewTakesThePress) {
   EXPECT_FALSE(test.host->movesWindowAt(frame.center()));
 }
 
-TEST_F(PointerInputTest, TooltipsBelongToTheirView) {
-  test.host->setSize({100, 20});
-  test.show(Rectangle().frame(40, 20).tooltip("Settings"));
-  EXPECT_FALSE(test.host->tooltipAt({10, 10}));
-  const std::optional<Tooltip> tooltip = test.host->tooltipAt({50, 10});
-  ASSERT_TRUE(tooltip);
-  EXPECT_EQ(tooltip->text, "Settings");
-  EXPECT_EQ(tooltip->frame, (Rect{30, 0, 40, 20}));
-}
-
 }  // namespace
 }  // namespace orvane::ui

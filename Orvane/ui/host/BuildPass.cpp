@@ -161,7 +161,7 @@ void BuildPass::updateAttributes(Node& node) {
 
 void BuildPass::enter(Node& node, bool isMade) {
   if (!isMade) {
-    // It was leaving, and its handlers were called for that.
+    // It was leaving and comes back.
     visitNodes(node, [&](const Node& back) { callAfterLayout(back.interaction().appear); });
   }
   if (Node* transitioning = transitionNode(node)) {
@@ -173,9 +173,9 @@ void BuildPass::enter(Node& node, bool isMade) {
 }
 
 void BuildPass::remove(Node& parent, std::unique_ptr<Node> node) {
-  visitNodes(*node, [&](Node& gone) {
-    callAfterLayout(gone.interaction().disappear);
+  visitNodes(*node, [](Node& gone) {
     gone.isPressed = false;
+    gone.trace = {};
   });
   Node* const transitioning = transitionNode(*node);
   if (transitioning != nullptr && parent.curve) {

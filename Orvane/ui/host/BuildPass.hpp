@@ -52,7 +52,7 @@ class BuildPass {
     scrollTargets_.push_back({&node, curve});
   }
   [[nodiscard]] const std::vector<ScrollTarget>& scrollTargets() const { return scrollTargets_; }
-  /// The handlers of views that appeared and disappeared, to be called after layout.
+  /// The handlers of views that appeared, to be called after layout.
   [[nodiscard]] std::vector<std::function<void()>> takeActions() { return std::move(actions_); }
 
  private:

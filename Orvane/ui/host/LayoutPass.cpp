@@ -38,7 +38,7 @@ void LayoutPass::place(Node& node, Point origin, const Proposal& proposal) {
   const Size size{finite(chosen.width), finite(chosen.height)};
   const std::array<double, 4> targets{finite(origin.x), finite(origin.y), size.width, size.height};
   const auto differs = [&](std::size_t index) {
-    return node.geometry[index].target() != targets[index];
+    return !node.isNew && node.geometry[index].target() != targets[index];
   };
   node.trace.isMoved = differs(0) || differs(1);
   node.trace.isResized = differs(2) || differs(3);

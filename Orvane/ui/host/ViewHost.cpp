@@ -17,6 +17,12 @@
 
 namespace orvane::ui {
 
+void HostLink::invalidate(const std::optional<Curve>& curve) const {
+  if (isConnected()) {
+    host_->invalidate(curve);
+  }
+}
+
 ViewHost::ViewHost(HostPlatform platform)
     : text_(*platform.text),
       images_(std::move(platform.images)),
@@ -55,10 +61,6 @@ void ViewHost::invalidate(const std::optional<Curve>& curve) {
     needsUpdate_ = true;
     requestRedraw();
   }
-}
-
-void ViewHost::animate(const Curve& curve, const std::function<void()>& change) {
-  rootEnvironment()->animate(curve, change);
 }
 
 std::shared_ptr<const Environment> ViewHost::rootEnvironment() const {

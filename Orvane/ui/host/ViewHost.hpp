@@ -61,8 +61,6 @@ class ViewHost {
   /// Data that the views read has changed: the next update builds them again. With a curve, the
   /// resulting changes are animated along it.
   void invalidate(const std::optional<Curve>& curve = std::nullopt);
-  /// Runs the change and invalidates with the curve.
-  void animate(const Curve& curve, const std::function<void()>& change);
 
   /// The root's ideal size, and the size it chooses for a proposal. Both update the views first.
   [[nodiscard]] Size intrinsicSize() { return sizeThatFits({}); }

@@ -64,7 +64,7 @@ Curve Curve::spring(double responseSeconds, double dampingFraction) {
   Curve curve;
   curve.kind_ = Kind::spring;
   curve.seconds_ = responseSeconds;
-  curve.dampingFraction_ = std::max(dampingFraction, 0.05);
+  curve.dampingFraction_ = std::clamp(dampingFraction, 0.05, 1.0);
   return curve;
 }
 
@@ -103,15 +103,15 @@ Curve::Remainder Curve::bezierRemainder(double distance, std::optional<double> v
 Curve::Remainder Curve::springRemainder(double distance, double velocity, double elapsed) const {
   const double frequency = 2 * std::numbers::pi / seconds_;
   const double damping = dampingFraction_;
-  // Around 1 the other forms divide by almost zero.
-  constexpr double nearlyCritical = 1e-4;
+  // Close to 1 the other form divides by almost zero.
+  constexpr double almostCritical = 1 - 1e-4;
   Remainder result;
-  if (std::abs(damping - 1) < nearlyCritical) {
+  if (damping > almostCritical) {
     const double drift = velocity + frequency * distance;
     const double fade = std::exp(-frequency * elapsed);
     result.distance = (distance + drift * elapsed) * fade;
     result.velocity = (drift - frequency * (distance + drift * elapsed)) * fade;
-  } else if (damping < 1) {
+  } else {
     const double swing = frequency * std::sqrt(1 - damping * damping);
     const double decay = damping * frequency;
     const double fade = std::exp(-decay * elapsed);
@@ -121,16 +121,6 @@ Curve::Remainder Curve::springRemainder(double distance, double velocity, double
     result.distance = fade * (distance * c + sine * s);
     result.velocity =
         fade * (swing * (sine * c - distance * s) - decay * (distance * c + sine * s));
-  } else {
-    const double root = std::sqrt(damping * damping - 1);
-    const double slow = -frequency * (damping - root);
-    const double fast = -frequency * (damping + root);
-    const double ofFast = (velocity - slow * distance) / (fast - slow);
-    const double ofSlow = distance - ofFast;
-    const double fadeSlow = std::exp(slow * elapsed);
-    const double fadeFast = std::exp(fast * elapsed);
-    result.distance = ofSlow * fadeSlow + ofFast * fadeFast;
-    result.velocity = ofSlow * slow * fadeSlow + ofFast * fast * fadeFast;
   }
   // The energy of a damped spring only decreases, so the value stays within a thousandth of the
   // distance once its energy is that low.

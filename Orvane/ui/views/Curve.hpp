@@ -21,8 +21,8 @@ class Curve {
   static Curve easeOut(double seconds) { return bezier(seconds, 0, 0, 0.58, 1); }
   static Curve easeInOut(double seconds) { return bezier(seconds, 0.42, 0, 0.58, 1); }
   /// A mass of 1 on a spring of stiffness (2 pi / response)^2 with damping
-  /// 4 pi * dampingFraction / response. From a fraction of 1 it does not overshoot. Fractions below
-  /// 0.05 count as 0.05, so that every spring comes to rest.
+  /// 4 pi * dampingFraction / response. Fractions are limited to 0.05, so that every spring comes
+  /// to rest, and 1, with which it does not overshoot.
   static Curve spring(double responseSeconds, double dampingFraction);
 
   /// The motion that began `elapsed` seconds ago at `distance` (start minus target), with a

@@ -8,121 +8,108 @@ namespace orvane::ui {
 
 namespace {
 
-class OpacityElement final : public ModifierElement {
+// A modifier of one effect. `Values` writes the attributes and makes the effect from them.
+template <typename Values>
+class EffectElement final : public ModifierElement {
  public:
-  OpacityElement(View content, double opacity)
-      : ModifierElement(std::move(content)), opacity_(std::clamp(opacity, 0.0, 1.0)) {}
+  EffectElement(View content, const Values& values)
+      : ModifierElement(std::move(content)), values_(values) {}
 
-  void attributes(const Node&, AttributeWriter& writer) const override { writer.number(opacity_); }
-  Effect effect(const Node& node, Size, double now) const override {
-    return {.opacity = AttributeReader(node, now).fraction()};
+  void attributes(const Node&, AttributeWriter& writer) const override { values_.write(writer); }
+  [[nodiscard]] Effect effect(const Node& node, Size size, double now) const override {
+    AttributeReader reader(node, now);
+    return values_.effect(reader, Rect{0, 0, size.width, size.height});
   }
 
  private:
-  double opacity_;
+  Values values_;
 };
 
-class OffsetElement final : public ModifierElement {
- public:
-  OffsetElement(View content, Point distance)
-      : ModifierElement(std::move(content)), distance_(distance) {}
+struct Opacity {
+  double opacity;
 
-  void attributes(const Node&, AttributeWriter& writer) const override {
-    writer.number(distance_.x);
-    writer.number(distance_.y);
+  void write(AttributeWriter& writer) const { writer.number(std::clamp(opacity, 0.0, 1.0)); }
+  [[nodiscard]] Effect effect(AttributeReader& reader, const Rect&) const {
+    return {.opacity = reader.fraction()};
   }
-  Effect effect(const Node& node, Size, double now) const override {
-    AttributeReader reader(node, now);
+};
+
+struct Offset {
+  Point distance;
+
+  void write(AttributeWriter& writer) const {
+    writer.number(distance.x);
+    writer.number(distance.y);
+  }
+  [[nodiscard]] Effect effect(AttributeReader& reader, const Rect&) const {
     const double x = reader.number();
     return {.transform = Transform::translation({x, reader.number()})};
   }
-
- private:
-  Point distance_;
 };
 
-class ScaleElement final : public ModifierElement {
- public:
-  ScaleElement(View content, double factor, UnitPoint anchor)
-      : ModifierElement(std::move(content)), factor_(factor), anchor_(anchor) {}
+struct Scale {
+  double factor;
+  UnitPoint anchor;
 
-  void attributes(const Node&, AttributeWriter& writer) const override { writer.number(factor_); }
-  Effect effect(const Node& node, Size size, double now) const override {
-    const double factor = AttributeReader(node, now).number();
-    const Point anchor = anchor_.in({0, 0, size.width, size.height});
-    return {.transform = Transform::scale(factor, factor, anchor)};
+  void write(AttributeWriter& writer) const { writer.number(factor); }
+  [[nodiscard]] Effect effect(AttributeReader& reader, const Rect& bounds) const {
+    const double present = reader.number();
+    return {.transform = Transform::scale(present, present, anchor.in(bounds))};
   }
-
- private:
-  double factor_;
-  UnitPoint anchor_;
 };
 
-class ShadowElement final : public ModifierElement {
- public:
-  ShadowElement(View content, const Shadow& shadow)
-      : ModifierElement(std::move(content)), shadow_(shadow) {}
+struct CastShadow {
+  Shadow shadow;
 
-  void attributes(const Node&, AttributeWriter& writer) const override { writer.shadow(shadow_); }
-  Effect effect(const Node& node, Size, double now) const override {
-    const PaintShadow shadow = AttributeReader(node, now).shadow();
-    return shadow.color.alpha > 0 ? Effect{.shadow = shadow} : Effect{};
+  void write(AttributeWriter& writer) const { writer.shadow(shadow); }
+  [[nodiscard]] Effect effect(AttributeReader& reader, const Rect&) const {
+    const PaintShadow present = reader.shadow();
+    return present.color.alpha > 0 ? Effect{.shadow = present} : Effect{};
   }
-
- private:
-  Shadow shadow_;
 };
 
-class ClipElement final : public ModifierElement {
- public:
-  ClipElement(View content, const ShapeForm& form)
-      : ModifierElement(std::move(content)), form_(form) {}
+struct Clip {
+  ShapeForm form;
 
-  Effect effect(const Node&, Size size, double) const override {
-    return {.clip = form_.in({0, 0, size.width, size.height})};
+  void write(AttributeWriter&) const {}
+  [[nodiscard]] Effect effect(AttributeReader&, const Rect& bounds) const {
+    return {.clip = form.in(bounds)};
   }
-
- private:
-  ShapeForm form_;
 };
 
-class HitTestingElement final : public ModifierElement {
- public:
-  HitTestingElement(View content, bool isAllowed)
-      : ModifierElement(std::move(content)), isAllowed_(isAllowed) {}
+struct HitTesting {
+  bool isAllowed;
 
-  Effect effect(const Node&, Size, double) const override {
-    return {.allowsHitTesting = isAllowed_};
+  void write(AttributeWriter&) const {}
+  [[nodiscard]] Effect effect(AttributeReader&, const Rect&) const {
+    return {.allowsHitTesting = isAllowed};
   }
-
- private:
-  bool isAllowed_;
 };
 
 }  // namespace
 
 View View::opacity(double opacity) const {
-  return modified<OpacityElement>(*this, opacity);
+  return modified<EffectElement<Opacity>>(*this, Opacity{opacity});
 }
 
 View View::offset(double x, double y) const {
-  return modified<OffsetElement>(*this, Point{x, y});
+  return modified<EffectElement<Offset>>(*this, Offset{{x, y}});
 }
 
 View View::scale(double factor, UnitPoint anchor) const {
-  return modified<ScaleElement>(*this, factor, anchor);
+  return modified<EffectElement<Scale>>(*this, Scale{factor, anchor});
 }
 
 View View::shadow(const Shadow& shadow) const {
-  return modified<ShadowElement>(*this, shadow);
+  return modified<EffectElement<CastShadow>>(*this, CastShadow{shadow});
 }
 
 View View::clip(const ShapeForm& form) const {
-  return modified<ClipElement>(*this, form);
+  return modified<EffectElement<Clip>>(*this, Clip{form});
 }
 
 View View::hitTesting(bool isAllowed) const {
-  return modified<HitTestingElement>(*this, isAllowed);
+  return modified<EffectElement<HitTesting>>(*this, HitTesting{isAllowed});
 }
 
 }  // namespace orvane::ui

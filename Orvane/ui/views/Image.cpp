@@ -55,10 +55,8 @@ class ImageElement final : public Element {
     };
     const auto across = ratio(proposal.width, natural.width);
     const auto down = ratio(proposal.height, natural.height);
-    double factor = across.value_or(down.value_or(1));
-    if (across && down) {
-      factor = *mode_ == ContentMode::fit ? std::min(*across, *down) : std::max(*across, *down);
-    }
+    const double factor =
+        across && down ? std::min(*across, *down) : across.value_or(down.value_or(1));
     return {natural.width * factor, natural.height * factor};
   }
 

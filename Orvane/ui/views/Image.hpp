@@ -8,12 +8,10 @@
 namespace orvane::ui {
 
 enum class ContentMode {
-  // Any shape that is proposed.
+  /// To the proposed size.
   stretch,
-  // The largest size of its own proportions inside of what is proposed, or the smallest that covers
-  // it.
-  fit,
-  fill
+  /// To the largest size of the image's own proportions within the proposed size.
+  fit
 };
 
 /// In its own size; an unknown image has none and shows nothing. It is not in the semantics tree

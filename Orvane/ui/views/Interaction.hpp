@@ -29,9 +29,8 @@ struct Interaction {
   std::function<void(bool isInside)> hover = nullptr;
   /// Called when a drag begins; without an item there is no drag.
   std::function<std::optional<DragItem>()> drag = nullptr;
-  /// Called after the layout in which the view appeared or disappeared.
+  /// Called after the layout in which the view appeared.
   std::function<void()> appear = nullptr;
-  std::function<void()> disappear = nullptr;
   std::string tooltip = {};
   /// Whether Tab reaches the view, and the outline of its focus ring.
   bool isFocusable = false;

@@ -34,8 +34,4 @@ View View::onAppear(std::function<void()> action) const {
   return modified<InteractionElement>(*this, Interaction{.appear = std::move(action)});
 }
 
-View View::onDisappear(std::function<void()> action) const {
-  return modified<InteractionElement>(*this, Interaction{.disappear = std::move(action)});
-}
-
 }  // namespace orvane::ui

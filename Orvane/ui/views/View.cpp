@@ -1,7 +1,8 @@
-// The element of a composite view, and the parts of View that need no modifier.
+// Building the elements with one child: modifiers and composite views.
 #include "Orvane/ui/views/View.hpp"
 
 #include "Orvane/ui/host/BuildPass.hpp"
+#include "Orvane/ui/views/Modifiers.hpp"
 
 namespace orvane::ui {
 
@@ -9,6 +10,10 @@ View View::id(std::string id) const {
   View result = *this;
   result.id_ = std::move(id);
   return result;
+}
+
+void ModifierElement::build(Node& node, BuildPass& pass) const {
+  pass.children(node, {content_}, node.environment);
 }
 
 void ComponentElement::build(Node& node, BuildPass& pass) const {

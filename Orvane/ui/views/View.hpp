@@ -130,9 +130,8 @@ class [[nodiscard]] View {
   View transition(const Transition& transition) const;
   /// Views with the same id share a node, wherever they are among their siblings.
   View id(std::string id) const;
-  /// Called after the layout in which the view appeared, and in which it disappeared.
+  /// Called after the layout in which the view appeared.
   View onAppear(std::function<void()> action) const;
-  View onDisappear(std::function<void()> action) const;
 
   // Semantics. These change the one element in the view, or make a group of several.
   View accessibilityLabel(std::string label) const;
