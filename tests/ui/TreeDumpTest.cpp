@@ -69,6 +69,19 @@ TEST_F(TreeDumpTest, ShowsWhatEachPassDidLast) {
   EXPECT_EQ(test.host->dumpTree().find("damaged"), std::string::npos) << test.host->dumpTree();
 }
 
+TEST_F(TreeDumpTest, ShowsWhichNodesWereDrawn) {
+  test.host->takeDirtyRects();
+  row.opacity = 0.5;
+  test.update();
+  RecordingCanvas canvas;
+  for (const Rect& dirty : test.host->takeDirtyRects()) {
+    test.host->paint(canvas, dirty);
+  }
+  const std::string dump = test.host->dumpTree();
+  EXPECT_NE(dump.find("Text #7 (35 5 5 10) damaged drawn |"), std::string::npos) << dump;
+  EXPECT_NE(dump.find("Button #9 (50 5 15 10) |"), std::string::npos) << dump;
+}
+
 TEST_F(TreeDumpTest, ShowsTransitionsAndTheFocus) {
   test.press(Key::tab);
   EXPECT_NE(test.host->dumpTree().find("| button \"Pin\" focused\n"), std::string::npos);

@@ -19,7 +19,7 @@ void BuildPass::root(std::unique_ptr<Node>& node, const View& view,
   update(*node, Group({view}), environment);
 }
 
-std::vector<BuildPass::Description> BuildPass::describe(const std::vector<View>& views,
+std::vector<BuildPass::Description> BuildPass::describe(std::span<const View> views,
                                                         bool spreadsGroups) {
   std::vector<Description> result;
   int slot = 0;
@@ -44,12 +44,12 @@ std::vector<BuildPass::Description> BuildPass::describe(const std::vector<View>&
   return result;
 }
 
-void BuildPass::children(Node& node, const std::vector<View>& views,
+void BuildPass::children(Node& node, std::span<const View> views,
                          const std::shared_ptr<const Environment>& environment) {
   reconcile(node, describe(views, false), environment);
 }
 
-void BuildPass::members(Node& node, const std::vector<View>& views,
+void BuildPass::members(Node& node, std::span<const View> views,
                         const std::shared_ptr<const Environment>& environment) {
   reconcile(node, describe(views, true), environment);
 }
@@ -63,7 +63,7 @@ void BuildPass::body(Node& node, const std::function<View(const Environment&)>& 
   node.states->isBodyRunning = true;
   const View body = makeBody(own);
   node.states->isBodyRunning = false;
-  children(node, {body}, node.environment);
+  children(node, {&body, 1}, node.environment);
 }
 
 void BuildPass::reconcile(Node& node, const std::vector<Description>& wanted,

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "Orvane/ui/host/Damage.hpp"
@@ -39,10 +40,10 @@ class BuildPass {
 
   /// For Element::build. Makes the views the children of the node; empty views have no node.
   /// Changes in them follow the node's curve.
-  void children(Node& node, const std::vector<View>& views,
+  void children(Node& node, std::span<const View> views,
                 const std::shared_ptr<const Environment>& environment);
   /// The same for a container, in which the members of a group become children of the container.
-  void members(Node& node, const std::vector<View>& views,
+  void members(Node& node, std::span<const View> views,
                const std::shared_ptr<const Environment>& environment);
   /// Makes the result of the function the only child. Its environment has the node's state.
   void body(Node& node, const std::function<View(const Environment&)>& makeBody);
@@ -61,7 +62,7 @@ class BuildPass {
     const View* view;
   };
 
-  static std::vector<Description> describe(const std::vector<View>& views, bool spreadsGroups);
+  static std::vector<Description> describe(std::span<const View> views, bool spreadsGroups);
   void reconcile(Node& node, const std::vector<Description>& wanted,
                  const std::shared_ptr<const Environment>& environment);
   static std::unique_ptr<Node> take(std::vector<std::unique_ptr<Node>>& from,

@@ -1,12 +1,11 @@
-// The names of kinds come from the compiler, without namespaces and "Element".
+// The kind of a node is the name of its element's class, which the compiler knows.
 #include "Orvane/ui/host/TreeDump.hpp"
 
+#include <charconv>
 #include <cstdio>
-#include <cstdlib>
 #include <map>
+#include <string_view>
 #include <typeinfo>
-
-#include <cxxabi.h>
 
 #include "Orvane/ui/host/RetainedTree.hpp"
 #include "Orvane/ui/host/SemanticsPass.hpp"
@@ -18,17 +17,27 @@ namespace {
 
 using Elements = std::map<std::uint64_t, const SemanticsNode*>;
 
-// "orvane::ui::(anonymous namespace)::TextElement" is Text, and the element of a composite view,
-// "orvane::ui::ComponentElementOf<orvane::StatusPill>", is StatusPill.
+// The last identifier, without "Element": Text for the class TextElement, and StatusPill for
+// ComponentElementOf<StatusPill>. In a type's name (of the Itanium C++ ABI) each identifier follows
+// its length.
 std::string kindOf(const Element& element) {
-  int status = 0;
-  const std::unique_ptr<char, decltype(&std::free)> readable(
-      abi::__cxa_demangle(typeid(element).name(), nullptr, nullptr, &status), &std::free);
-  std::string name = readable ? readable.get() : typeid(element).name();
-  name = name.substr(0, name.find_last_not_of('>') + 1);
-  name = name.substr(name.find_last_of(":<") + 1);
-  const std::size_t suffix = name.rfind("Element");
-  return suffix == std::string::npos ? name : name.substr(0, suffix);
+  const std::string name = typeid(element).name();
+  const char* const end = name.data() + name.size();
+  std::string_view kind;
+  for (const char* at = name.data(); at < end;) {
+    std::size_t length = 0;
+    const auto [identifier, error] = std::from_chars(at, end, length);
+    if (error != std::errc{}) {
+      ++at;
+      continue;
+    }
+    if (length > 1) {
+      kind = std::string_view(identifier, length);
+    }
+    at = identifier + length;
+  }
+  constexpr std::string_view suffix = "Element";
+  return std::string(kind.substr(0, kind.size() - (kind.ends_with(suffix) ? suffix.size() : 0)));
 }
 
 void collectElements(const SemanticsNode& element, Elements& elements) {

@@ -14,7 +14,7 @@ class EnvironmentElement final : public ModifierElement {
   void build(Node& node, BuildPass& pass) const override {
     const auto changed = std::make_shared<Environment>(*node.environment);
     change_(*changed);
-    pass.children(node, {content()}, changed);
+    pass.children(node, {&content(), 1}, changed);
   }
 
  private:

@@ -1,5 +1,6 @@
 // The modifiers that change layout: padding, frames, fixed sizes, priorities, layers.
 #include <algorithm>
+#include <array>
 
 #include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
@@ -154,11 +155,8 @@ class LayersElement final : public ModifierElement {
 
   void build(Node& node, BuildPass& pass) const override {
     const View layer(std::make_shared<LayerElement>(layer_, alignment_));
-    if (isAbove_) {
-      pass.children(node, {content(), layer}, node.environment);
-    } else {
-      pass.children(node, {layer, content()}, node.environment);
-    }
+    const std::array<View, 2> children{isAbove_ ? content() : layer, isAbove_ ? layer : content()};
+    pass.children(node, children, node.environment);
   }
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {

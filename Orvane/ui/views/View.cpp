@@ -13,7 +13,7 @@ View View::id(std::string id) const {
 }
 
 void ModifierElement::build(Node& node, BuildPass& pass) const {
-  pass.children(node, {content_}, node.environment);
+  pass.children(node, {&content_, 1}, node.environment);
 }
 
 void ComponentElement::build(Node& node, BuildPass& pass) const {
