@@ -12,9 +12,9 @@
 #include "Orvane/model/OrvaneModel.hpp"
 #include "Orvane/panels/main/ContentView.hpp"
 #include "Orvane/ui/draw/StandardColors.hpp"
-#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
-#include "Orvane/ui/host/Presenter.hpp"
+#include "Orvane/ui/host/PresentPass.hpp"
 #include "Orvane/ui/host/ViewHost.hpp"
 #include "Orvane/windows/OrvaneWindow.hpp"
 #include "bench/KitPanel.hpp"
@@ -134,14 +134,17 @@ class BareTree {
         environment_(std::make_shared<ui::Environment>()) {}
 
   void build(Subject& subject) {
-    ui::Builder builder({now_, &colors_, &madeNodes_, std::nullopt});
-    builder.root(root_, subject.view(), environment_);
+    ui::BuildPass pass({now_, colors_, madeNodes_, damage_, std::nullopt});
+    pass.root(root_, subject.view(), environment_);
   }
   void layOut(const ui::Size& size) {
     ui::LayoutPass pass(text_, images_, now_);
     pass.placeAligned(*root_, size, ui::Alignment::center(), ui::Proposal::of(size));
   }
-  void present() { ui::Presenter(now_).present(*root_); }
+  void present() {
+    ui::PresentPass(now_, damage_).present(*root_);
+    damage_.take();
+  }
 
   [[nodiscard]] std::size_t nodes() {
     std::size_t count = 0;
@@ -155,6 +158,7 @@ class BareTree {
   ui::ColorResolver colors_ = ui::standardColor;
   std::shared_ptr<const ui::Environment> environment_;
   std::uint64_t madeNodes_ = 0;
+  ui::Damage damage_;
   std::unique_ptr<ui::Node> root_;
   double now_ = 0;
 };

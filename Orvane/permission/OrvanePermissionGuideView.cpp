@@ -54,9 +54,12 @@ View OrvanePermissionGuideView::iconArea() const {
     return content.frame({.height = 136, .maximumWidth = infinity}).transition(transition);
   };
   const bool isDone = state == PermissionGuideState::success;
-  return ZStack({when(!isDone, filled(draggableIcon(), Transition::opacity())),
+  return ZStack({when(!isDone, [&] { return filled(draggableIcon(), Transition::opacity()); }),
                  when(isDone,
-                      filled(checkMark(), Transition::scale().combined(Transition::opacity())))})
+                      [&] {
+                        return filled(checkMark(),
+                                      Transition::scale().combined(Transition::opacity()));
+                      })})
       .padding(Edges::vertical(10));
 }
 
@@ -71,12 +74,14 @@ View OrvanePermissionGuideView::statusLine(bool isDark) const {
   static constexpr double lineHeight = 34;
   const auto line = [this](PermissionGuideState shownIn, const std::string& text, const Font& font,
                            const Color& color) {
-    return when(state == shownIn, Text(text)
-                                      .font(font)
-                                      .foreground(color)
-                                      .textAlignment(TextAlignment::center)
-                                      .frame({.height = lineHeight, .maximumWidth = infinity})
-                                      .transition(Transition::fadeThrough()));
+    return when(state == shownIn, [&] {
+      return Text(text)
+          .font(font)
+          .foreground(color)
+          .textAlignment(TextAlignment::center)
+          .frame({.height = lineHeight, .maximumWidth = infinity})
+          .transition(Transition::fadeThrough());
+    });
   };
   return ZStack({line(PermissionGuideState::checking,
                       localized("Waiting for permission in System Settings",

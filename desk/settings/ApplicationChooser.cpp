@@ -56,7 +56,11 @@ View ApplicationChooser::body(const Environment& environment) const {
   const View card =
       VStack(14, HorizontalAlignment::leading,
              {Text(title).font(Font::headline()).accessibilityRole(Role::heading),
-              when(!isEmpty, SettingsGroup{rows, 42}), HStack(8, {Spacer(), cancel, open})})
+              when(!isEmpty,
+                   [&] {
+                     return SettingsGroup{rows, 42};
+                   }),
+              HStack(8, {Spacer(), cancel, open})})
           .padding(20)
           .width(320)
           .background(RoundedRectangle(10)

@@ -24,7 +24,8 @@ View SystemSettingsView::body(const Environment& environment) const {
           .background(Rectangle().fill(Color::windowBackground()));
   const View content =
       HStack(0, {sidebar, Rectangle().fill(edge).width(1), detail}).disabled(isChoosing);
-  return ZStack(Alignment::top(), {content, when(isChoosing, ApplicationChooser{settings})})
+  return ZStack(Alignment::top(),
+                {content, when(isChoosing, [&] { return ApplicationChooser{settings}; })})
       .frame(SystemSettings::width, SystemSettings::height);
 }
 

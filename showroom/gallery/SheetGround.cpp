@@ -52,9 +52,11 @@ struct WindowSurface {
     const ui::View window = outline.fill(OrvanePalette::windowGradient(isDark))
                                 .stroke(OrvanePalette::windowRim(isDark), 1)
                                 .frame(size.width, size.height);
-    const double inset = 2 * (panelInset + DockPanel::padding);
-    const ui::View content = ui::Rectangle().fill(ui::Color::clear()).height(size.height - inset);
-    const ui::View panel = ui::View(DockPanel{content}).width(size.width - 2 * panelInset);
+    const auto panel = [&] {
+      const double inset = 2 * (panelInset + DockPanel::padding);
+      const ui::View content = ui::Rectangle().fill(ui::Color::clear()).height(size.height - inset);
+      return ui::View(DockPanel{content}).width(size.width - 2 * panelInset);
+    };
     return ui::ZStack({window, ui::when(ground == Ground::panel, panel)});
   }
 };

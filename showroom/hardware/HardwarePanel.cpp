@@ -177,11 +177,10 @@ View HardwarePanel::figures() const {
 
 View HardwarePanel::words() const {
   const auto line = [](const std::string& text) {
-    return Text(text).font(smallFont).foreground(quietColor()).lineLimit(2);
+    return when(!text.empty(),
+                [&] { return Text(text).font(smallFont).foreground(quietColor()).lineLimit(2); });
   };
-  return VStack(6, HorizontalAlignment::leading,
-                {when(!content.message.empty(), line(content.message)),
-                 when(!content.hint.empty(), line(content.hint))})
+  return VStack(6, HorizontalAlignment::leading, {line(content.message), line(content.hint)})
       .padding(Edges::horizontal(2));
 }
 

@@ -14,8 +14,9 @@ using namespace ui;
 
 View HardwareSwitch::body(const Environment& /*environment*/) const {
   // On a plain plate the menu's track alone would hardly be seen while it is off.
-  const View knob = View(CompactMenuSwitch{isOn})
-                        .background(when(!isOn, Capsule().fill(Color::primary().opacity(0.16))));
+  const View knob = View(CompactMenuSwitch{isOn}).background(when(!isOn, [] {
+    return Capsule().fill(Color::primary().opacity(0.16));
+  }));
   const View row = HStack(8, {Text(title).lineLimit(1), Spacer(), knob}).height(30);
   return Button([change = onChange, isOn = isOn] { change(!isOn); }, row)
       .style(ui::BareButtonStyle{})

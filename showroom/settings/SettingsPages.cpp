@@ -47,8 +47,9 @@ View pageRow(const std::string& title, const std::string& value) {
 
 /// One of several choices; the chosen one has a check mark.
 View choiceRow(const std::string& title, bool isChosen, const std::function<void()>& choose) {
-  const View mark =
-      Symbol("checkmark").font(Font::system(12, Weight::semibold)).foreground(Color::accent());
+  const auto mark = [] {
+    return Symbol("checkmark").font(Font::system(12, Weight::semibold)).foreground(Color::accent());
+  };
   return Button(choose, pageRow(title, when(isChosen, mark)))
       .style(SettingsButtonStyle{})
       .accessibilityLabel(title)

@@ -12,10 +12,6 @@ namespace {
 class AnimationTest : public testing::Test {
  protected:
   double xOf(const std::string& label) { return test.element(label)->frame.x; }
-  void rebuild() {
-    test.host->invalidate();
-    test.host->layoutIfNeeded();
-  }
 
   TestHost test{{100, 10}};
   double position = 0;
@@ -25,7 +21,7 @@ TEST_F(AnimationTest, AnIdleTreeAsksForNoFrame) {
   test.show(Text("a").offset(position, 0).animation(Curve::linear(1), position));
   test.at(1);
   test.at(2);
-  rebuild();
+  test.update();
   EXPECT_FALSE(test.host->nextFrameWanted());
   EXPECT_EQ(test.frameRequests, 0);
 }
@@ -37,7 +33,7 @@ TEST_F(AnimationTest, AChangedValueAnimatesTheViewAndFramesEndWithIt) {
   test.at(10);
   const double start = xOf("a");
   position = 40;
-  rebuild();
+  test.update();
   EXPECT_EQ(xOf("a"), start);
   EXPECT_TRUE(test.host->nextFrameWanted());
   EXPECT_EQ(test.frameRequests, 1);
@@ -55,7 +51,7 @@ TEST_F(AnimationTest, AValueThatStaysTheSameAnimatesNothing) {
   });
   const double start = xOf("a");
   position = 40;
-  rebuild();
+  test.update();
   EXPECT_EQ(xOf("a"), start + 40);
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
@@ -70,7 +66,7 @@ TEST_F(AnimationTest, AnExplicitAnimationAppliesToEverythingThatChanges) {
   test.at(3.5);
   EXPECT_NEAR(xOf("a"), start + 5, 1e-9);
   position = 100;
-  rebuild();
+  test.update();
   EXPECT_EQ(xOf("a"), start + 100) << "the next update is not animated any more";
 }
 
@@ -79,14 +75,14 @@ TEST_F(AnimationTest, RetargetingContinuesFromWhatIsOnScreen) {
     return Text("a").offset(position, 0).animation(Curve::spring(0.5, 0.8), position);
   });
   position = 50;
-  rebuild();
+  test.update();
   constexpr double step = 1e-4;
   test.at(0.1 - step);
   const double before = xOf("a");
   test.at(0.1);
   const double there = xOf("a");
   position = -50;
-  rebuild();
+  test.update();
   EXPECT_NEAR(xOf("a"), there, 1e-9);
   test.at(0.1 + step);
   const double velocityBefore = (there - before) / step;
@@ -98,13 +94,14 @@ TEST_F(AnimationTest, RetargetingContinuesFromWhatIsOnScreen) {
 TEST_F(AnimationTest, PlacesInTheLayoutAnimateToo) {
   bool isAtEnd = false;
   test.show([&](const Environment&) -> View {
-    return HStack(0, {when(isAtEnd, Spacer()).id("before"), Text("a").font(Font::system(10)),
-                      when(!isAtEnd, Spacer()).id("after")})
+    return HStack(0, {when(isAtEnd, [] { return Spacer(); }).id("before"),
+                      Text("a").font(Font::system(10)),
+                      when(!isAtEnd, [] { return Spacer(); }).id("after")})
         .animation(Curve::linear(1), isAtEnd);
   });
   EXPECT_EQ(xOf("a"), 0);
   isAtEnd = true;
-  rebuild();
+  test.update();
   EXPECT_EQ(xOf("a"), 0);
   test.at(0.5);
   EXPECT_NEAR(xOf("a"), 47.5, 1e-9);
@@ -120,7 +117,7 @@ TEST_F(AnimationTest, ColoursTravelBetweenTheirResolvedValues) {
         .animation(Curve::linear(1), isRed);
   });
   isRed = true;
-  rebuild();
+  test.update();
   test.at(0.25);
   EXPECT_NE(test.drawing().find("rgba(0.25 0 0.75 1)"), std::string::npos) << test.drawing();
 }
@@ -131,7 +128,7 @@ TEST_F(AnimationTest, ReduceMotionJumpsToTheEnd) {
   });
   const double start = xOf("a");
   position = 40;
-  rebuild();
+  test.update();
   test.at(0.25);
   EXPECT_NEAR(xOf("a"), start + 10, 1e-9);
   Appearance appearance;
@@ -140,7 +137,7 @@ TEST_F(AnimationTest, ReduceMotionJumpsToTheEnd) {
   test.host->layoutIfNeeded();
   EXPECT_EQ(xOf("a"), start + 40) << "a motion under way ends";
   position = 0;
-  rebuild();
+  test.update();
   EXPECT_EQ(xOf("a"), start) << "and no new one begins";
   position = 20;
   test.host->invalidate(Curve::linear(1));
@@ -166,7 +163,7 @@ TEST_F(AnimationTest, AnEntranceRunsOnceWhenTheViewAppears) {
   EXPECT_NEAR(xOf("a"), start - 5, 1e-9);
   test.at(1.5);
   EXPECT_NEAR(xOf("a"), start - 10, 1e-9);
-  rebuild();
+  test.update();
   test.at(2);
   EXPECT_FALSE(test.host->nextFrameWanted());
 }

@@ -30,8 +30,8 @@ double integrated(double response, double damping, double x, double v, double un
   return x;
 }
 
-TEST(CurveTest, ASpringFollowsItsDifferentialEquationInAllThreeRegimes) {
-  for (const double damping : {0.3, 0.86, 1.0, 1.7}) {
+TEST(CurveTest, ASpringFollowsItsDifferentialEquationInBothRegimes) {
+  for (const double damping : {0.3, 0.86, 1.0}) {
     const Curve spring = Curve::spring(0.5, damping);
     for (const double time : {0.01, 0.05, 0.1, 0.2, 0.3}) {
       EXPECT_NEAR(spring.remainder(100, 40.0, time).distance,
@@ -41,11 +41,10 @@ TEST(CurveTest, ASpringFollowsItsDifferentialEquationInAllThreeRegimes) {
   }
 }
 
-TEST(CurveTest, TheThreeRegimesMeetAtTheCriticalDamping) {
+TEST(CurveTest, TheRegimesMeetAtTheCriticalDamping) {
   for (const double time : {0.02, 0.1, 0.25}) {
     const double critical = Curve::spring(0.4, 1).remainder(1, 0.0, time).distance;
     EXPECT_NEAR(Curve::spring(0.4, 0.9995).remainder(1, 0.0, time).distance, critical, 1e-3);
-    EXPECT_NEAR(Curve::spring(0.4, 1.0005).remainder(1, 0.0, time).distance, critical, 1e-3);
   }
 }
 
@@ -103,9 +102,8 @@ TEST(CurveTest, EaseOutMatchesItsBezierAtAKnownParameter) {
 
 TEST(CurveTest, VelocityIsTheSlopeOfTheDistance) {
   constexpr double step = 1e-6;
-  for (const Curve& curve :
-       {Curve::linear(1), Curve::easeOut(1), Curve::easeInOut(1), Curve::spring(0.5, 0.6),
-        Curve::spring(0.5, 1), Curve::spring(0.5, 1.5)}) {
+  for (const Curve& curve : {Curve::linear(1), Curve::easeOut(1), Curve::easeInOut(1),
+                             Curve::spring(0.5, 0.6), Curve::spring(0.5, 1)}) {
     for (const double time : {0.1, 0.33, 0.6}) {
       for (const std::optional<double> velocity : {std::optional<double>(), std::optional(25.0)}) {
         const double before = curve.remainder(10, velocity, time - step).distance;

@@ -98,7 +98,10 @@ TEST(DrawingTest, GradientsKeepAllTheirStops) {
 }
 
 TEST(DrawingTest, AShapeCastsItsOwnShadowBeneathItsFill) {
-  EXPECT_EQ(drawn(Rectangle().fill(Color::white()).castShadow({Color::black(), 8, 0, 3}), {40, 20}),
+  EXPECT_EQ(drawn(Rectangle()
+                      .fill(Color::white())
+                      .castShadow({.color = Color::black(), .radius = 8, .y = 3}),
+                  {40, 20}),
             "shadow rectangle(0 0 40 20) rgba(0 0 0 1) radius 8 offset 0 3\n"
             "fill rectangle(0 0 40 20) rgba(1 1 1 1)\n");
 }
@@ -232,8 +235,9 @@ TEST_F(DirtyTest, AMovedViewIsRepaintedAtItsOldAndNewPlace) {
 
 TEST_F(DirtyTest, ARemovedViewIsRepaintedWhereItWas) {
   bool isShown = true;
-  test.show(
-      [&](const Environment&) -> View { return ZStack({when(isShown, box(Color::white()))}); });
+  test.show([&](const Environment&) -> View {
+    return ZStack({when(isShown, [&] { return box(Color::white()); })});
+  });
   isShown = false;
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{39, -1, 22, 22}}));
 }
@@ -271,7 +275,8 @@ TEST_F(DirtyTest, NestedClipsIntersect) {
 TEST_F(DirtyTest, ALeavingViewIsRepaintedWhenItIsGone) {
   bool isShown = true;
   test.show([&](const Environment&) -> View {
-    return ZStack({when(isShown, box(Color::white()).transition(Transition::scale(0.5)))})
+    return ZStack({when(isShown,
+                        [&] { return box(Color::white()).transition(Transition::scale(0.5)); })})
         .animation(Curve::linear(1), isShown);
   });
   isShown = false;

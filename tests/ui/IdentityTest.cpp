@@ -35,8 +35,7 @@ TEST(IdentityTest, StateOutlivesARedraw) {
   test.show(Counter{"a"});
   test.click({5, 5});
   EXPECT_EQ(labels(test), "a1 ");
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(labels(test), "a1 ");
 }
 
@@ -51,15 +50,12 @@ TEST(IdentityTest, StateFollowsItsItemWhenItemsMove) {
   test.click({15, 5});
   EXPECT_EQ(labels(test), "a0 b1 c0 ");
   names = {"b", "c", "a"};
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(labels(test), "b1 c0 a0 ");
   names = {"c", "a"};
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   names = {"b", "c", "a"};
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(labels(test), "b0 c0 a0 ") << "what was gone begins anew";
 }
 
@@ -67,13 +63,13 @@ TEST(IdentityTest, AConditionalSiblingDoesNotDisturbTheOthers) {
   bool isShown = false;
   TestHost test({30, 10});
   test.show([&](const Environment&) -> View {
-    return HStack(0, {when(isShown, Text("x").font(Font::system(10))), Counter{"a"}});
+    return HStack(0,
+                  {when(isShown, [] { return Text("x").font(Font::system(10)); }), Counter{"a"}});
   });
   test.click({15, 5});
   EXPECT_EQ(labels(test), "a1 ");
   isShown = true;
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(labels(test), "x a1 ");
 }
 
@@ -84,26 +80,32 @@ TEST(IdentityTest, AnotherIdOrKindIsAnotherNode) {
   test.click({5, 5});
   EXPECT_EQ(labels(test), "a1 ");
   id = "two";
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(labels(test), "a0 ");
 }
 
-TEST(IdentityTest, AppearingIsReportedOnce) {
+TEST(IdentityTest, AViewAppearsOnceUntilItIsRemoved) {
   bool isShown = true;
-  std::string log;
+  int appearances = 0;
   TestHost test;
   test.show([&](const Environment&) -> View {
-    return VStack({when(isShown, Text("a").onAppear([&] { log += "+"; }))});
+    return VStack({when(isShown, [&] { return Text("a").onAppear([&] { ++appearances; }); })});
   });
-  EXPECT_EQ(log, "+");
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
-  EXPECT_EQ(log, "+");
+  EXPECT_EQ(appearances, 1);
+  test.update();
+  EXPECT_EQ(appearances, 1);
   isShown = false;
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
-  EXPECT_EQ(log, "+");
+  test.update();
+  isShown = true;
+  test.update();
+  EXPECT_EQ(appearances, 2);
+}
+
+TEST(IdentityTest, AConditionThatDoesNotHoldMakesNoView) {
+  EXPECT_TRUE(when(false, []() -> View {
+                ADD_FAILURE() << "the content was made";
+                return Text("a");
+              }).isEmpty());
 }
 
 TEST(IdentityTest, StateSetAfterItsViewIsGoneDoesNothing) {
@@ -141,6 +143,34 @@ TEST(IdentityTest, AnEqualValueAsksForNothing) {
   kept->set(4);
   EXPECT_TRUE(test.host->needsUpdate());
   EXPECT_EQ(test.redrawRequests, before + 1);
+}
+
+TEST(StateDeathTest, StateIsOnlyAvailableInABody) {
+  testing::GTEST_FLAG(death_test_style) = "threadsafe";
+  TestHost test;
+  const auto useInRoot = [](const Environment& environment) {
+    return Text(std::to_string(*environment.state("n", 0)));
+  };
+  EXPECT_DEATH(test.show(useInRoot), "state\\(\\) is for the body of a view");
+  struct UseInHandler {
+    View body(const Environment& environment) const {
+      return Text("a").onAppear([environment] { environment.state("n", 0).set(1); });
+    }
+  };
+  EXPECT_DEATH(test.show(UseInHandler{}), "state\\(\\) is for the body of a view");
+}
+
+TEST(StateDeathTest, ANameHasOneType) {
+  testing::GTEST_FLAG(death_test_style) = "threadsafe";
+  struct TwoTypes {
+    View body(const Environment& environment) const {
+      environment.state("n", 0).set(1);
+      environment.state("n", false).set(true);
+      return Text("a");
+    }
+  };
+  TestHost test;
+  EXPECT_DEATH(test.show(TwoTypes{}), "one name is used for state of two types");
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "Orvane/ui/draw/StandardColors.hpp"
-#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/views/ScrollView.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
@@ -79,16 +79,17 @@ class LaidOut {
   LaidOut(const View& view, const Proposal& proposal) {
     const auto environment = std::make_shared<Environment>();
     const ColorResolver resolver = standardColor;
-    Builder builder({0, &resolver, &nodeCount_, std::nullopt});
-    builder.root(root, view, environment);
-    LayoutPass pass(text_, images_, 0);
-    size = pass.measure(*root, proposal);
-    pass.place(*root, {0, 0}, proposal);
+    Damage damage;
+    BuildPass build({0, resolver, nodeCount_, damage, std::nullopt});
+    build.root(root, view, environment);
+    LayoutPass layout(text_, images_, 0);
+    size = layout.measure(*root, proposal);
+    layout.place(*root, {0, 0}, proposal);
   }
 
   std::vector<Rect> frames() const {
     std::vector<Rect> result;
-    visitNodes(*root, [&](const Node& node) { result.push_back(node.target()); });
+    visitNodes(*root, [&](const Node& node) { result.push_back(node.targetFrame()); });
     return result;
   }
 
@@ -120,9 +121,9 @@ RC_GTEST_PROP(LayoutPropertyTest, ChildrenLieWithinTheirParent, ()) {
                      {double(*rc::gen::inRange(0, 400)), double(*rc::gen::inRange(0, 400))});
   constexpr double rounding = 1e-6;
   visitNodes(*tree.root, [&](const Node& node) {
-    const Rect own = node.target();
+    const Rect own = node.targetFrame();
     for (const auto& child : node.children) {
-      const Rect frame = child->target();
+      const Rect frame = child->targetFrame();
       RC_ASSERT(frame.x >= -rounding && frame.y >= -rounding);
       RC_ASSERT(frame.right() <= own.width + rounding);
       RC_ASSERT(frame.bottom() <= own.height + rounding);
@@ -140,13 +141,13 @@ RC_GTEST_PROP(LayoutPropertyTest, SpacingsAreExact, ()) {
     }
     double end = -spacing;
     for (const auto& child : node.children) {
-      const Rect frame = child->target();
+      const Rect frame = child->targetFrame();
       const double start = *axis == Axis::horizontal ? frame.x : frame.y;
       RC_ASSERT(std::abs(start - (end + spacing)) < 1e-9);
       end = start + lengthAlong(*axis, frame.size());
     }
     if (!node.children.empty()) {
-      RC_ASSERT(std::abs(lengthAlong(*axis, node.target().size()) - end) < 1e-9);
+      RC_ASSERT(std::abs(lengthAlong(*axis, node.targetFrame().size()) - end) < 1e-9);
     }
   });
 }

@@ -128,8 +128,9 @@ TEST(LayoutTest, AHeaderRowWrapsWordByWord) {
   }
 }
 
-TEST(LayoutTest, EmptyViewsHaveNeitherSizeNorSpacing) {
-  const View row = HStack(8, {Text("a"), when(false, Text("gone")), Text("b"), View().padding()});
+TEST(LayoutTest, EmptyViewsTakeNeitherRoomNorSpacing) {
+  const View row =
+      HStack(8, {Text("a"), when(false, [] { return Text("gone"); }), Text("b"), View().padding()});
   EXPECT_EQ(framesIn(row, 18, 10), "a(0 0 5 10) b(13 0 5 10)");
 }
 
@@ -222,8 +223,6 @@ TEST(LayoutTest, ImagesKeepTheirSizeUntilTheyAreMadeResizable) {
   EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{30, 30}));
   test.show(Image("photo").resizable(ContentMode::fit));
   EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{30, 15}));
-  test.show(Image("photo").resizable(ContentMode::fill));
-  EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{60, 30}));
 }
 
 TEST(LayoutTest, HigherPrioritiesAreServedFirst) {

@@ -61,8 +61,7 @@ TEST_F(PickerTest, DescribesItselfWithLabelAndValue) {
 
 TEST_F(PickerTest, AnIndexOutsideOfTheItemsShowsAnEmptyTitle) {
   selected = 7;
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(test.element("Language")->value, "");
 }
 

@@ -35,8 +35,7 @@ class ScrollViewTest : public testing::Test {
 
   void want(const std::string& name) {
     wanted = name;
-    test.host->invalidate();
-    test.host->layoutIfNeeded();
+    test.update();
   }
   double left(const std::string& name) { return test.element(name)->frame.x; }
   double right(const std::string& name) { return test.element(name)->frame.right(); }
@@ -127,8 +126,7 @@ TEST_F(ScrollViewTest, TheWheelTakesOverWhereTheContentIsSeen) {
 TEST_F(ScrollViewTest, ContentThatShrinksScrollsBack) {
   test.host->scroll({50, 20}, 1000, 0);
   names = {"a", "b", "c"};
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(right("c"), 100 - margin);
 }
 

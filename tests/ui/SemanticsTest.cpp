@@ -66,8 +66,7 @@ TEST(SemanticsTest, APressRunsTheSameActionAsAClick) {
   EXPECT_TRUE(test.host->perform(id, SemanticsAction::press));
   EXPECT_EQ(presses, 1);
   isDisabled = true;
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   EXPECT_EQ(test.element("Pin")->id, id) << "the id stays while the view stays";
   EXPECT_FALSE(test.host->perform(id, SemanticsAction::press));
   EXPECT_EQ(presses, 1);

@@ -1,4 +1,4 @@
-// A host with the synthetic font and a platform that only takes notes.
+// A host with the synthetic font and a platform that records its requests.
 #pragma once
 
 #include <functional>
@@ -44,7 +44,13 @@ class TestHost {
     host->layoutIfNeeded();
   }
 
-  // Moves time to the moment, in seconds.
+  // Builds the views again.
+  void update() {
+    host->invalidate();
+    host->layoutIfNeeded();
+  }
+
+  // Moves the time to the moment, in seconds.
   void at(double seconds) { host->tick(seconds); }
 
   void click(Point point) {

@@ -13,14 +13,14 @@ class TransitionTest : public testing::Test {
  protected:
   void showWith(const Transition& transition) {
     test.show([this, transition](const Environment&) -> View {
-      return ZStack({when(isShown, Text("a").font(Font::system(10)).transition(transition))})
+      return ZStack({when(isShown,
+                          [&] { return Text("a").font(Font::system(10)).transition(transition); })})
           .animation(Curve::linear(1), isShown);
     });
   }
   void setShown(bool shown) {
     isShown = shown;
-    test.host->invalidate();
-    test.host->layoutIfNeeded();
+    test.update();
   }
   bool draws(const std::string& text) { return test.drawing().find(text) != std::string::npos; }
 
@@ -82,7 +82,7 @@ TEST_F(TransitionTest, ScaleAndMoveCombine) {
 
 TEST_F(TransitionTest, WithoutAnAnimationAViewComesAndGoesAtOnce) {
   test.show([&](const Environment&) -> View {
-    return ZStack({when(isShown, Text("a").transition(Transition::opacity()))});
+    return ZStack({when(isShown, [] { return Text("a").transition(Transition::opacity()); })});
   });
   setShown(false);
   EXPECT_FALSE(draws("text \"a\""));
@@ -176,7 +176,9 @@ TEST_F(TransitionTest, WithoutACurveAChangeIsThereAtOnceInsideAnAnimation) {
 
 TEST_F(TransitionTest, ALeavingLayerStaysWhereItWas) {
   test.show([&](const Environment&) -> View {
-    const View badge = Text("a").font(Font::system(10)).transition(Transition::opacity());
+    const auto badge = [] {
+      return Text("a").font(Font::system(10)).transition(Transition::opacity());
+    };
     return Spacer()
         .overlay(when(isShown, badge), Alignment::topTrailing())
         .animation(Curve::linear(1), isShown);
@@ -189,8 +191,10 @@ TEST_F(TransitionTest, ALeavingLayerStaysWhereItWas) {
 TEST_F(TransitionTest, ALeavingButtonTakesNoClick) {
   int clicks = 0;
   test.show([&](const Environment&) -> View {
-    return ZStack({when(isShown, Button("a", [&] { ++clicks; }).transition(Transition::opacity()))})
-        .animation(Curve::linear(1), isShown);
+    const auto button = [&] {
+      return Button("a", [&] { ++clicks; }).transition(Transition::opacity());
+    };
+    return ZStack({when(isShown, button)}).animation(Curve::linear(1), isShown);
   });
   test.click({50, 25});
   EXPECT_EQ(clicks, 1);

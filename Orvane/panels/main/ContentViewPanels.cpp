@@ -191,13 +191,15 @@ View ContentView::popUpButtons() const {
   const View toggle = Button([model = model] { model->toggleHideDockOnAllDisplays(); }, toggleLabel)
                           .style(SecondaryActionButtonStyle{})
                           .focusRing(ring);
-  const View openSettings =
-      Button([] { DockMouseGuard::openDesktopAndDockSettings(); },
-             fadingLabel("gearshape", model->localized("Open Dock Settings", "打开 Dock 设置")))
-          .style(SecondaryActionButtonStyle{})
-          .focusRing(ring)
-          .width(dockSettingsWidth)
-          .transition(Transition::move(Edge::trailing).combined(Transition::opacity()));
+  const auto openSettings = [&] {
+    return Button(
+               [] { DockMouseGuard::openDesktopAndDockSettings(); },
+               fadingLabel("gearshape", model->localized("Open Dock Settings", "打开 Dock 设置")))
+        .style(SecondaryActionButtonStyle{})
+        .focusRing(ring)
+        .width(dockSettingsWidth)
+        .transition(Transition::move(Edge::trailing).combined(Transition::opacity()));
+  };
   // The settings button slides in from the panel's edge, where the clip ends. On the other sides
   // the clip leaves room for the outlines of the buttons.
   constexpr double outlineRoom = 1;

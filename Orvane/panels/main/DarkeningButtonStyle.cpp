@@ -9,8 +9,9 @@ using namespace ui;
 
 View DarkeningButtonStyle::body(const ButtonConfiguration& configuration,
                                 const Environment& /*environment*/) const {
-  return configuration.label.overlay(
-      when(configuration.isPressed, ShapeView(shape).fill(Color::black().opacity(shade))));
+  return configuration.label.overlay(when(configuration.isPressed, [&] {
+    return ShapeView(shape).fill(Color::black().opacity(shade));
+  }));
 }
 
 }  // namespace orvane

@@ -81,9 +81,10 @@ View DisplayChoiceCard::checkBadge() const {
 View DisplayChoiceCard::body(const Environment& environment) const {
   const State<bool> isHovered = environment.state("isHovered", false);
   const bool isRaised = isSelected || isHovered.value();
-  const View card = content(environment.isDark())
-                        .background(surface(environment, isRaised))
-                        .overlay(when(isSelected, checkBadge()), Alignment::topTrailing());
+  const View card =
+      content(environment.isDark())
+          .background(surface(environment, isRaised))
+          .overlay(when(isSelected, [&] { return checkBadge(); }), Alignment::topTrailing());
   return Button([environment,
                  action = action] { environment.animate(Curve::spring(0.24, 0.82), action); },
                 card)

@@ -50,10 +50,12 @@ View LoginItemCaption::body(const Environment& environment) const {
                         .font(Font::caption())
                         .foreground(SettingsPalette::statementText())
                         .lineLimit(2);
-  const View button = Button([model = model] { model->openLoginItemsSettings(); },
-                             Text(model->localized("Login Items…", "登录项…")).fixedSize())
-                          .style(SettingsSecondaryButtonStyle{})
-                          .focusRing(Shape::rounded(SettingsSecondaryButtonStyle::cornerRadius));
+  const auto button = [&] {
+    return Button([model = model] { model->openLoginItemsSettings(); },
+                  Text(model->localized("Login Items…", "登录项…")).fixedSize())
+        .style(SettingsSecondaryButtonStyle{})
+        .focusRing(Shape::rounded(SettingsSecondaryButtonStyle::cornerRadius));
+  };
   const View warning = Symbol("exclamationmark.triangle.fill")
                            .font(Font::system(12, Weight::semibold))
                            .foreground(Color::orange());

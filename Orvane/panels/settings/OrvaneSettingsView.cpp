@@ -74,7 +74,7 @@ View OrvaneSettingsView::header(const Environment& environment) const {
                          .font(Font::system(17, Weight::bold))
                          .fixedSize()
                          .accessibilityRole(Role::heading),
-                     Spacer(), when(caption.isNeeded(), caption), closeButton})
+                     Spacer(), when(caption.isNeeded(), [&] { return caption; }), closeButton})
       .padding(headerPadding)
       .maximumWidth()
       .background(Rectangle().fill(SettingsPalette::headerGradient(environment.isDark())))

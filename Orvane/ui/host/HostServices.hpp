@@ -1,5 +1,4 @@
-// What the kit asks of the platform that shows it. Each function may be unset; then what it would
-// do is left out.
+// What the kit needs from the platform that shows it.
 #pragma once
 
 #include <functional>
@@ -10,35 +9,36 @@
 
 namespace orvane::ui {
 
-// A native pop-up menu with a check mark at the selected item.
+/// A native pop-up menu with a check mark at the selected item.
 struct MenuRequest {
   std::vector<std::string> items;
-  // From 0; -1 when no item is selected.
+  /// From 0; -1 when no item is selected.
   int selectedIndex = -1;
-  // The control that opens it, in the host's coordinates.
+  /// The control that opens it, in the host's coordinates.
   Rect anchor;
-  // Called with the index of the chosen item, at once or later; not called when nothing is chosen.
+  /// Called with the index of the chosen item, at once or later; not called without a choice.
   std::function<void(int)> onChoose;
 };
 
-// A drag of one file, offering only to copy it.
+/// A drag of one file, which offers only to copy it.
 struct DragRequest {
   std::string fileUrl;
-  // The image that follows the pointer, by name, and where it starts, in the host's coordinates.
+  /// The name of the image that follows the pointer, and its first frame in host coordinates.
   std::string imageName;
   Rect frame;
 };
 
+/// Each function may be unset; its effect is then left out.
 struct HostServices {
-  // The next update has something to do: call tick() soon and repaint what dirtyRects() returns.
+  /// Views or pixels are out of date: call tick() soon and repaint takeDirtyRects().
   std::function<void()> requestRedraw;
-  // From now on something moves: call tick() for every frame while nextFrameWanted() is true.
+  /// An animation has begun: call tick() for every frame while nextFrameWanted() is true.
   std::function<void()> requestFrames;
   std::function<void(const MenuRequest&)> openMenu;
   std::function<void(const DragRequest&)> beginDrag;
-  // Closes what the host is shown in.
+  /// Closes the window or panel that shows the host.
   std::function<void()> dismiss;
-  // The semantics tree may have changed.
+  /// The semantics tree may have changed.
   std::function<void()> semanticsChanged;
 };
 

@@ -1,4 +1,4 @@
-// Measuring with a small memory per node, and placing with animation.
+// Measuring, with a cache in each node, and placing along the curve of the update.
 #include "Orvane/ui/host/LayoutPass.hpp"
 
 #include <array>
@@ -8,7 +8,7 @@ namespace orvane::ui {
 
 namespace {
 
-// What is no number, and what is negative, becomes zero.
+// Negative lengths and those that are not numbers become zero.
 double clean(double length) {
   return length > 0 ? length : 0;
 }
@@ -21,9 +21,9 @@ double finite(double value) {
 
 Size LayoutPass::measure(Node& node, const Proposal& proposal) {
   const Proposal asked = proposal.sanitized();
-  for (const MeasuredSize& known : node.measured) {
-    if (known.proposal == asked) {
-      return known.size;
+  for (const MeasuredSize& cached : node.measured) {
+    if (cached.proposal == asked) {
+      return cached.size;
     }
   }
   const Size chosen = node.element->measure(node, asked, *this);
@@ -37,6 +37,11 @@ void LayoutPass::place(Node& node, Point origin, const Proposal& proposal) {
   const Size chosen = measure(node, asked);
   const Size size{finite(chosen.width), finite(chosen.height)};
   const std::array<double, 4> targets{finite(origin.x), finite(origin.y), size.width, size.height};
+  const auto differs = [&](std::size_t index) {
+    return !node.isNew && node.geometry[index].target() != targets[index];
+  };
+  node.trace.isMoved = differs(0) || differs(1);
+  node.trace.isResized = differs(2) || differs(3);
   for (std::size_t index = 0; index < targets.size(); ++index) {
     if (node.isNew) {
       node.geometry[index].jump(targets[index]);

@@ -1,4 +1,4 @@
-// One run of layout: remembers what was measured and moves nodes to where they are placed.
+// The layout pass: measures nodes and places them.
 #pragma once
 
 #include "Orvane/ui/draw/ImageSource.hpp"
@@ -8,22 +8,23 @@
 
 namespace orvane::ui {
 
+/// Sizes are kept in the nodes until the next build pass. Lengths are points.
 class LayoutPass {
  public:
   LayoutPass(TextMeasurer& text, const ImageSource& images, double now)
       : text_(text), images_(images), now_(now) {}
 
-  TextMeasurer& text() { return text_; }
-  const ImageSource& images() const { return images_; }
-  double now() const { return now_; }
+  [[nodiscard]] TextMeasurer& text() { return text_; }
+  [[nodiscard]] const ImageSource& images() const { return images_; }
+  [[nodiscard]] double now() const { return now_; }
 
-  // The size that the node chooses; never negative and always a number, but infinite if it was
-  // offered infinity and takes everything.
-  Size measure(Node& node, const Proposal& proposal);
-  // Gives the node the size it chooses for the proposal, with its top left corner at the origin in
-  // its parent. Coordinates that are not finite become zero.
+  /// The size that the node chooses: never negative, always a number, and infinite only for a node
+  /// that takes all of an infinite proposal.
+  [[nodiscard]] Size measure(Node& node, const Proposal& proposal);
+  /// Gives the node the size it chooses for the proposal, with its top left corner at the origin,
+  /// in the parent's coordinates. Coordinates that are not finite become zero.
   void place(Node& node, Point origin, const Proposal& proposal);
-  // The same, aligned inside a container of the parent's coordinates that starts at its origin.
+  /// The same, aligned in a container whose origin is that of the parent.
   void placeAligned(Node& node, Size container, Alignment alignment, const Proposal& proposal);
 
  private:

@@ -1,4 +1,4 @@
-// What a platform's view is given to show. By itself, so that to hold one needs no view.
+// The function that makes a host's root view. In a header of its own, which needs no view.
 #pragma once
 
 #include <functional>

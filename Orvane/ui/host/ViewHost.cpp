@@ -1,36 +1,37 @@
-// Updates: build, lay out, present; and painting.
+// The sequence of the passes: build and layout after a change, present for every frame.
 #include "Orvane/ui/host/ViewHost.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "Orvane/ui/draw/StandardColors.hpp"
-#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/BuildPass.hpp"
+#include "Orvane/ui/host/DrawPass.hpp"
+#include "Orvane/ui/host/HitTest.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
-#include "Orvane/ui/host/Painter.hpp"
-#include "Orvane/ui/host/Presenter.hpp"
-#include "Orvane/ui/views/ControlSemantics.hpp"
+#include "Orvane/ui/host/PresentPass.hpp"
+#include "Orvane/ui/host/SemanticsPass.hpp"
+#include "Orvane/ui/host/TreeDump.hpp"
+#include "Orvane/ui/views/Node.hpp"
+#include "Orvane/ui/views/ScrollView.hpp"
 
 namespace orvane::ui {
 
 void HostLink::invalidate(const std::optional<Curve>& curve) const {
-  if (host != nullptr) {
-    host->invalidate(curve);
+  if (isConnected()) {
+    host_->invalidate(curve);
   }
 }
 
 ViewHost::ViewHost(HostPlatform platform)
     : text_(*platform.text),
       images_(std::move(platform.images)),
-      colors_(platform.colors ? std::move(platform.colors) : ColorResolver(standardColor)),
-      services_(std::move(platform.services)),
-      link_(std::make_shared<HostLink>()) {
-  link_->host = this;
-  link_->services = &services_;
+      colors_(platform.colors ? std::move(platform.colors) : ColorResolver(standardColor)) {
+  tree_.link = std::make_shared<HostLink>(*this, std::move(platform.services));
 }
 
 ViewHost::~ViewHost() {
-  link_->host = nullptr;
-  link_->services = nullptr;
+  tree_.link->disconnect();
 }
 
 void ViewHost::setRoot(RootBuilder builder) {
@@ -62,39 +63,23 @@ void ViewHost::invalidate(const std::optional<Curve>& curve) {
   }
 }
 
-void ViewHost::requestRedraw() {
-  if (services_.requestRedraw) {
-    const auto request = services_.requestRedraw;
-    request();
-  }
-}
-
-bool ViewHost::call(const std::function<void()>& action) {
-  const std::weak_ptr<HostLink> alive = link_;
-  const std::function<void()> kept = action;
-  if (kept) {
-    kept();
-  }
-  return !alive.expired();
-}
-
 std::shared_ptr<const Environment> ViewHost::rootEnvironment() const {
   auto environment = std::make_shared<Environment>();
   environment->appearance = appearance_;
-  environment->link = link_;
+  environment->link = tree_.link;
   environment->images = &images_;
   return environment;
 }
 
 void ViewHost::tick(double seconds) {
-  now_ = std::max(now_, seconds);
+  tree_.now = std::max(tree_.now, seconds);
   if (needsUpdate_) {
     layoutIfNeeded();
   } else if (isMoving_) {
     present();
-    if (updateHover() && !isMoving_) {
-      // Elements are where they are presented.
-      call(services_.semanticsChanged);
+    // The frames of elements are announced once they have reached their targets.
+    if (pointer_.updateHover() && !isMoving_) {
+      reportSemanticsChange();
     }
   }
 }
@@ -103,16 +88,16 @@ void ViewHost::layoutIfNeeded() {
   if (!needsUpdate_ || isUpdating_) {
     return;
   }
-  // What appears may change what is shown, which may let more appear. Views that never come to rest
-  // would go on for ever; their later changes wait for the next tick.
-  constexpr int mostRounds = 8;
-  for (int round = 0; needsUpdate_ && round < mostRounds; ++round) {
+  // Handlers of views that appear may invalidate the host again. After this many rounds, further
+  // changes wait for the next tick.
+  constexpr int maximumRounds = 8;
+  for (int round = 0; needsUpdate_ && round < maximumRounds; ++round) {
     const std::vector<std::function<void()>> actions = rebuild();
-    if (!updateHover()) {
+    if (!pointer_.updateHover()) {
       return;
     }
     for (const std::function<void()>& action : actions) {
-      if (!call(action)) {
+      if (!tree_.call(action)) {
         return;
       }
     }
@@ -120,7 +105,7 @@ void ViewHost::layoutIfNeeded() {
   if (needsUpdate_) {
     requestRedraw();
   }
-  call(services_.semanticsChanged);
+  reportSemanticsChange();
 }
 
 std::vector<std::function<void()>> ViewHost::rebuild() {
@@ -128,104 +113,121 @@ std::vector<std::function<void()>> ViewHost::rebuild() {
   needsUpdate_ = false;
   const std::optional<Curve> curve = std::exchange(pendingCurve_, std::nullopt);
   const auto environment = rootEnvironment();
-  Builder builder({now_, &colors_, &nodeCount_, curve});
-  builder.root(root_, builder_ ? builder_(*environment) : View(), environment);
-  for (const Rect& area : builder.removedInk()) {
-    addDirty(area);
+  BuildPass build({tree_.now, colors_, nodeCount_, damage_, curve});
+  build.root(tree_.root, builder_ ? builder_(*environment) : View(), environment);
+  LayoutPass layout(text_, images_, tree_.now);
+  // A root of another size than the host is centred.
+  layout.placeAligned(*tree_.root, size_, Alignment::center(), Proposal::of(size_));
+  for (const BuildPass::ScrollTarget& target : build.scrollTargets()) {
+    scrollIntoView(*target.node, target.curve, tree_.now);
   }
-  LayoutPass pass(text_, images_, now_);
-  // A root that is smaller or larger than the host lies in its middle.
-  pass.placeAligned(*root_, size_, Alignment::center(), Proposal::of(size_));
-  for (const Builder::ScrollTarget& target : builder.scrollTargets()) {
-    scrollToVisible(*target.node, target.curve);
-  }
-  forgetDeadNodes();
+  pointer_.forgetDeadNodes();
+  focus_.forgetDeadNode();
   present();
   isUpdating_ = false;
-  return builder.takeActions();
+  return build.takeActions();
 }
 
 void ViewHost::present() {
-  Presenter presenter(now_);
-  presenter.present(*root_);
-  for (const Rect& area : presenter.dirty()) {
-    addDirty(area);
-  }
-  Rect ringArea;
-  if (const std::optional<FocusRing> ring = focusRing()) {
-    ringArea = ring->shape.rect.inset(-4);
-    ringArea = ring->clip ? ringArea.intersection(*ring->clip) : ringArea;
-  }
+  PresentPass pass(tree_.now, damage_);
+  pass.present(*tree_.root);
+  const Rect ringArea = focus_.ringArea();
   if (!(ringArea == presentedRing_)) {
-    addDirty(presentedRing_);
-    addDirty(ringArea);
+    damage_.add(presentedRing_);
+    damage_.add(ringArea);
     presentedRing_ = ringArea;
   }
-  const bool wasMoving = std::exchange(isMoving_, presenter.isMoving());
-  if (isMoving_ && !wasMoving && services_.requestFrames) {
-    const auto request = services_.requestFrames;
-    request();
+  const bool wasMoving = std::exchange(isMoving_, pass.isMoving());
+  if (isMoving_ && !wasMoving) {
+    tree_.link->call(&HostServices::requestFrames);
   }
 }
 
-void ViewHost::addDirty(const Rect& area) {
-  if (!area.isEmpty()) {
-    dirty_.push_back(area);
-  }
+void ViewHost::requestRedraw() const {
+  tree_.link->call(&HostServices::requestRedraw);
 }
 
-std::vector<Rect> ViewHost::takeDirtyRects() {
-  std::vector<Rect> joined;
-  for (Rect area : std::exchange(dirty_, {})) {
-    // Joining makes the area larger, so that it may then touch another one.
-    for (auto other = joined.begin(); other != joined.end();) {
-      if (area.intersects(*other)) {
-        area = area.united(*other);
-        joined.erase(other);
-        other = joined.begin();
-      } else {
-        ++other;
-      }
-    }
-    joined.push_back(area);
-  }
-  return joined;
+void ViewHost::reportSemanticsChange() const {
+  tree_.link->call(&HostServices::semanticsChanged);
 }
 
 void ViewHost::paint(Canvas& canvas, const Rect& dirty) const {
-  if (!root_) {
+  if (!tree_.root) {
     return;
   }
   canvas.save();
   canvas.clip(Shape::rectangle(dirty));
-  Painter(canvas, now_, dirty).paint(*root_);
-  if (const std::optional<FocusRing> ring = focusRing()) {
-    if (ring->clip) {
-      canvas.clip(Shape::rectangle(*ring->clip));
-    }
-    // Against the lightest ground in the dark and the darkest one by day.
-    const Color color = appearance_.increaseContrast
-                            ? Color::accent().textOn(appearance_.dark ? 0.08 : 0.8)
-                            : Color::accent().opacity(0.6);
-    canvas.stroke(ring->shape, Paint::solid(color.resolve(appearance_, colors_)), 3);
-  }
+  DrawPass(canvas, tree_.now, dirty).draw(*tree_.root);
+  focus_.drawRing(canvas, appearance_, colors_);
   canvas.restore();
 }
 
 Size ViewHost::sizeThatFits(const Proposal& proposal) {
-  const std::weak_ptr<HostLink> alive = link_;
+  const std::shared_ptr<HostLink> host = tree_.link;
   layoutIfNeeded();
-  if (alive.expired() || !root_) {
+  if (!host->isConnected() || !tree_.root) {
     return {};
   }
-  LayoutPass pass(text_, images_, now_);
-  return pass.measure(*root_, proposal);
+  return LayoutPass(text_, images_, tree_.now).measure(*tree_.root, proposal);
+}
+
+bool ViewHost::scroll(Point point, double horizontal, double vertical) {
+  if (!pointer_.scroll(point, horizontal != 0 ? horizontal : vertical)) {
+    return false;
+  }
+  present();
+  requestRedraw();
+  if (pointer_.updateHover()) {
+    reportSemanticsChange();
+  }
+  return true;
+}
+
+bool ViewHost::keyDown(const KeyEvent& event) {
+  const bool hasShift = event.modifiers == KeyModifiers{.shift = true};
+  if (event.key == Key::tab && (hasShift || event.modifiers == KeyModifiers{})) {
+    if (!focus_.move(!hasShift)) {
+      return false;
+    }
+    showFocus();
+    return true;
+  }
+  return tree_.activate(focus_.targetOf(event));
+}
+
+bool ViewHost::focus(std::uint64_t id) {
+  if (!focus_.set(id)) {
+    return false;
+  }
+  if (tree_.root) {
+    showFocus();
+  }
+  return true;
+}
+
+void ViewHost::showFocus() {
+  present();
+  requestRedraw();
+  reportSemanticsChange();
+}
+
+bool ViewHost::movesWindowAt(Point point) const {
+  return pressTarget(tree_, point) == nullptr;
 }
 
 SemanticsNode ViewHost::semantics() const {
-  SemanticsNode tree = root_ ? collectSemantics(*root_, now_, focusedId_) : SemanticsNode{};
+  SemanticsNode tree =
+      tree_.root ? semanticsTree(*tree_.root, tree_.now, focus_.id()) : SemanticsNode{};
   tree.frame = {0, 0, size_.width, size_.height};
   return tree;
+}
+
+bool ViewHost::perform(std::uint64_t id, SemanticsAction /*action*/) {
+  return tree_.activate(id);
+}
+
+std::string ViewHost::dumpTree() const {
+  return ui::dumpTree(tree_, focus_.id());
 }
 
 }  // namespace orvane::ui

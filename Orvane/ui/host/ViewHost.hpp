@@ -1,5 +1,5 @@
-// The one entry point for platforms: holds a tree of views and turns sizes, times and events into
-// layout, drawing and actions. Coordinates are points from the top left corner of the host.
+// The kit's entry point for platforms: owns a tree of views and runs the passes that turn sizes,
+// times and events into layout, drawing and calls of handlers.
 #pragma once
 
 #include <cstdint>
@@ -14,8 +14,13 @@
 #include "Orvane/ui/draw/Color.hpp"
 #include "Orvane/ui/draw/ImageSource.hpp"
 #include "Orvane/ui/draw/TextMeasurer.hpp"
+#include "Orvane/ui/host/Damage.hpp"
 #include "Orvane/ui/host/HostServices.hpp"
+#include "Orvane/ui/host/KeyboardFocus.hpp"
+#include "Orvane/ui/host/PointerInput.hpp"
+#include "Orvane/ui/host/RetainedTree.hpp"
 #include "Orvane/ui/host/RootBuilder.hpp"
+#include "Orvane/ui/host/Tooltip.hpp"
 #include "Orvane/ui/layout/Proposal.hpp"
 #include "Orvane/ui/views/Curve.hpp"
 #include "Orvane/ui/views/KeyboardShortcut.hpp"
@@ -23,29 +28,20 @@
 
 namespace orvane::ui {
 
-struct HostLink;
-struct Node;
-
-struct Tooltip {
-  std::string text;
-  // The view it belongs to, in the host's coordinates.
-  Rect frame;
-};
-
-// What a host stands on. The text measurer must outlive it.
+/// What a host needs. The text measurer must outlive it.
 struct HostPlatform {
   TextMeasurer* text = nullptr;
   ImageSource images = {};
-  // Unset: the standard colours.
+  /// Unset: the standard colours.
   ColorResolver colors = {};
   HostServices services = {};
 };
 
-// Main thread only. Handlers of views may do anything, also destroy the host; a member function
-// that is running then returns without touching it again.
-//
-// The time is what the platform passes to tick(), in seconds of any clock that never goes back.
-// Call tick() before passing an event on, so that what the event starts, starts now.
+/// Main thread only. Coordinates are points from the host's top left corner. Handlers of views may
+/// do anything, even destroy the host; a function that is running then returns without touching it.
+///
+/// The time is that of tick(), in seconds of any clock that never goes back. Call tick() before
+/// passing an event, so that animations that the event starts begin at its time.
 class ViewHost {
  public:
   using RootBuilder = ui::RootBuilder;
@@ -55,130 +51,98 @@ class ViewHost {
   ViewHost& operator=(const ViewHost&) = delete;
   ~ViewHost();
 
-  // What is shown. The builder is asked anew at every update.
+  /// The builder runs at every update.
   void setRoot(RootBuilder builder);
   void setSize(Size size);
-  Size size() const { return size_; }
+  [[nodiscard]] Size size() const { return size_; }
   void setAppearance(const Appearance& appearance);
-  const Appearance& appearance() const { return appearance_; }
+  [[nodiscard]] const Appearance& appearance() const { return appearance_; }
 
-  // Something the views read has changed: they are built anew at the next update. With a curve,
-  // what looks different then travels along it.
+  /// Data that the views read has changed: the next update builds them again. With a curve, the
+  /// resulting changes are animated along it.
   void invalidate(const std::optional<Curve>& curve = std::nullopt);
 
-  // The size the root would like best, and the one it chooses for a proposal. Both bring the views
-  // up to date first.
-  Size intrinsicSize() { return sizeThatFits({}); }
-  Size sizeThatFits(const Proposal& proposal);
+  /// The root's ideal size, and the size it chooses for a proposal. Both update the views first.
+  [[nodiscard]] Size intrinsicSize() { return sizeThatFits({}); }
+  [[nodiscard]] Size sizeThatFits(const Proposal& proposal);
 
-  // Sets the time, brings views and layout up to date, and samples animations. An earlier time than
-  // the one before counts as that one.
+  /// Sets the time, updates views and layout, and samples animations. The time never goes back: an
+  /// earlier one changes nothing.
   void tick(double seconds);
-  double time() const { return now_; }
-  // The same without a change of time.
+  [[nodiscard]] double time() const { return tree_.now; }
+  /// The same at the present time.
   void layoutIfNeeded();
-  bool needsUpdate() const { return needsUpdate_; }
-  // True while something moves. False from the tick on in which everything has arrived.
-  bool nextFrameWanted() const { return isMoving_; }
+  [[nodiscard]] bool needsUpdate() const { return needsUpdate_; }
+  /// Whether an animation is running. False from the tick on that presents its end.
+  [[nodiscard]] bool nextFrameWanted() const { return isMoving_; }
 
-  // What has to be repainted since the last call; overlapping areas are joined. They may reach
-  // beyond the host.
-  std::vector<Rect> takeDirtyRects();
-  // Paints as presented; only what lies in the rectangle is certain to be painted, and nothing
-  // outside.
+  /// What has to be repainted since the last call; overlapping areas are joined. They may reach
+  /// beyond the host.
+  std::vector<Rect> takeDirtyRects() { return damage_.take(); }
+  /// Paints what was presented last. Everything in the rectangle is painted, and nothing outside.
   void paint(Canvas& canvas, const Rect& dirty) const;
 
-  // Pointer events; a move is one without a pressed button, a drag one with it. Those that return a
-  // bool say whether a view took the event; a press that no view takes may move the window.
-  void pointerMoved(Point point);
-  void pointerExited();
-  bool pointerDown(Point point);
-  void pointerDragged(Point point);
-  bool pointerUp(Point point);
-  // Something took the pointer away: a pending press does nothing.
-  void pointerCancelled();
-  // Moves the content below the pointer by these distances (positive: towards the end). Where there
-  // is no horizontal distance, the vertical one scrolls, for wheels that turn only one way.
+  /// Pointer events; a drag is a movement with the button pressed. The result says whether a view
+  /// took the event. A press that no view takes may move the window.
+  void pointerMoved(Point point) { pointer_.move(point); }
+  void pointerExited() { pointer_.move(std::nullopt); }
+  bool pointerDown(Point point) { return pointer_.press(point); }
+  void pointerDragged(Point point) { pointer_.drag(point); }
+  bool pointerUp(Point point) { return pointer_.release(point); }
+  /// The platform took the pointer away: a pending press has no effect.
+  void pointerCancelled() { pointer_.cancelPress(); }
+  /// Moves the content below the pointer by these distances (positive: towards the end). Without a
+  /// horizontal distance the vertical one scrolls, for wheels with one direction.
   bool scroll(Point point, double horizontal, double vertical);
-  // Returns whether the key did anything here.
+  /// Whether the key had an effect here.
   bool keyDown(const KeyEvent& event);
 
-  // False over a view that takes presses itself.
-  bool movesWindowAt(Point point) const;
-  // What a view there says, else in full what is cut there: anywhere over a control whose text is.
-  std::optional<Tooltip> tooltipAt(Point point) const;
+  /// False over a view that takes presses.
+  [[nodiscard]] bool movesWindowAt(Point point) const;
+  [[nodiscard]] std::optional<Tooltip> tooltipAt(Point point) const {
+    return ui::tooltipAt(tree_, point);
+  }
 
-  SemanticsNode semantics() const;
-  // The same as a click on the control with this id. False when there is none or it is disabled.
+  [[nodiscard]] SemanticsNode semantics() const;
+  /// The same as a click on the control with this id. False when there is none or it is disabled.
   bool perform(std::uint64_t id, SemanticsAction action);
 
-  // The keyboard focus, as a semantics id; 0 when nothing has it. The ring is only visible when the
-  // focus came by the keyboard.
-  std::uint64_t focusedId() const { return focusedId_; }
-  // False when no enabled, focusable control has this id; 0 takes the focus away.
+  /// The id, in the semantics tree, of the control with the keyboard focus; 0 without one.
+  [[nodiscard]] std::uint64_t focusedId() const { return focus_.id(); }
+  /// False when no enabled, focusable control has this id; 0 takes the focus away. The focus ring
+  /// only shows after Tab.
   bool focus(std::uint64_t id);
 
- private:
-  using Hits = std::vector<const Node*>;
+  /// The retained tree as text, one line per node, for debuggers and failing tests; see docs/ui.md.
+  [[nodiscard]] std::string dumpTree() const;
 
-  std::shared_ptr<const Environment> rootEnvironment() const;
+ private:
+  [[nodiscard]] std::shared_ptr<const Environment> rootEnvironment() const;
+  /// Returns the handlers to call afterwards.
   std::vector<std::function<void()>> rebuild();
   void present();
-  void addDirty(const Rect& area);
-  void requestRedraw();
-  void forgetDeadNodes();
-  // Whether the host has survived the call.
-  bool call(const std::function<void()>& action);
-
-  // Views under the point as presented, topmost first.
-  Hits hitTest(Point point) const;
-  Node* topmostPressable(Point point) const;
-  std::optional<Tooltip> expansionTooltip(const Hits& hits) const;
-  bool updateHover();
-  void setPressed(Node& node, bool isPressed);
-  bool activate(std::uint64_t id);
-  void beginDrag(Node& node);
-
-  bool moveFocus(bool isForward);
-  bool activateShortcut(const KeyEvent& event);
-  void setFocus(std::uint64_t id, bool isVisible);
-  // Everything that scrolls around the node brings it into sight.
-  void scrollToVisible(const Node& node, const std::optional<Curve>& curve);
-  struct FocusRing {
-    Shape shape;
-    // What the scroll views around the control let be seen; none without one.
-    std::optional<Rect> clip;
-  };
-  std::optional<FocusRing> focusRing() const;
+  void requestRedraw() const;
+  void reportSemanticsChange() const;
+  void showFocus();
 
   TextMeasurer& text_;
   ImageSource images_;
   ColorResolver colors_;
-  HostServices services_;
   RootBuilder builder_;
   Appearance appearance_;
   Size size_;
-  double now_ = 0;
 
-  std::unique_ptr<Node> root_;
   std::uint64_t nodeCount_ = 0;
   bool needsUpdate_ = false;
   bool isUpdating_ = false;
   bool isMoving_ = false;
   std::optional<Curve> pendingCurve_;
-  std::vector<Rect> dirty_;
+  Damage damage_;
   Rect presentedRing_;
 
-  std::optional<Point> pointer_;
-  std::vector<std::uint64_t> hovered_;
-  std::uint64_t pressedId_ = 0;
-  Point pressPoint_;
-  bool isDragging_ = false;
-  std::uint64_t focusedId_ = 0;
-  bool isFocusVisible_ = false;
-
-  // Last, so that it ends first: from then on nobody reaches the host any more.
-  std::shared_ptr<HostLink> link_;
+  RetainedTree tree_;
+  PointerInput pointer_{tree_};
+  KeyboardFocus focus_{tree_};
 };
 
 }  // namespace orvane::ui

@@ -1,4 +1,4 @@
-// The value is its target plus what the motion has left.
+// The value is its target plus the remainder of the motion.
 #include "Orvane/ui/views/AnimatedValue.hpp"
 
 #include <cmath>
@@ -36,8 +36,8 @@ Curve::Remainder AnimatedValue::remainder(double now) const {
   if (!motion_) {
     return {0, 0, true};
   }
-  // The difference of two times carries their rounding. Without it the same motion looks the same
-  // at any hour, down to the last bit, and what was drawn for it once can be shown again.
+  // Removes the rounding error of the difference, so that an animation has exactly the same values
+  // at any time of day and cached drawings can be reused.
   constexpr double stepsPerSecond = 0x1p24;
   const double elapsed = std::floor((now - motion_->start) * stepsPerSecond + 0.5) / stepsPerSecond;
   return motion_->curve.remainder(motion_->distance, motion_->velocity, elapsed);

@@ -1,4 +1,4 @@
-// A number on its way to a target, sampled at absolute times in seconds.
+// A number that is animated to a target. Times are absolute, in seconds.
 #pragma once
 
 #include <memory>
@@ -12,19 +12,20 @@ class AnimatedValue {
  public:
   explicit AnimatedValue(double value = 0) : target_(value) {}
 
-  double target() const { return target_; }
+  [[nodiscard]] double target() const { return target_; }
 
-  // Is at the value from now on, without motion.
+  /// Takes the value at once.
   void jump(double value);
-  // Travels to a new target from where it is at `now`, with the velocity it has then; without a
-  // curve it jumps. The target it already has changes nothing: a motion under way goes on.
+  /// Moves to a new target along the curve, from the value and with the velocity it has at `now`;
+  /// without a curve it takes the target at once. The same target changes nothing: a running
+  /// animation goes on.
   void set(double target, const std::optional<Curve>& curve, double now);
-  // Forgets a motion that has arrived.
+  /// Ends an animation that has reached its target.
   void settle(double now);
 
-  double at(double now) const;
-  double velocityAt(double now) const;
-  bool isMoving(double now) const;
+  [[nodiscard]] double at(double now) const;
+  [[nodiscard]] double velocityAt(double now) const;
+  [[nodiscard]] bool isMoving(double now) const;
 
  private:
   struct Motion {

@@ -1,5 +1,5 @@
-// Animatable attributes of a node: written as plain numbers when a view is updated, read back as
-// they are at a moment. Writer and reader go through them in the same order.
+// The attributes of a node: numbers that can be animated. An element writes their targets in the
+// build pass, and reads their values at a time in the same order.
 #pragma once
 
 #include <algorithm>
@@ -18,7 +18,7 @@ class AttributeWriter {
   AttributeWriter(const Appearance& appearance, const ColorResolver& resolver)
       : appearance_(appearance), resolver_(resolver) {}
 
-  // What is not finite counts as zero, so that nothing is ever drawn nowhere.
+  /// Infinity and values that are not numbers count as zero.
   void number(double value) { values_.push_back(std::isfinite(value) ? value : 0); }
   void color(const Color& color) {
     const Rgba resolved = color.resolve(appearance_, resolver_);
@@ -44,7 +44,7 @@ class AttributeWriter {
     number(shadow.y);
   }
 
-  const std::vector<double>& values() const { return values_; }
+  [[nodiscard]] const std::vector<double>& values() const { return values_; }
 
  private:
   const Appearance& appearance_;
@@ -59,7 +59,7 @@ class AttributeReader {
   double number() {
     return next_ < node_.attributes.size() ? node_.attributes[next_++].at(now_) : 0;
   }
-  // From 0 to 1, even where a spring overshoots its target.
+  /// From 0 to 1, even while a spring overshoots.
   double fraction() { return std::clamp(number(), 0.0, 1.0); }
   Rgba color() {
     const double red = fraction();
@@ -67,7 +67,7 @@ class AttributeReader {
     const double blue = fraction();
     return {red, green, blue, fraction()};
   }
-  // The fill that was written, for the rectangle it is painted in.
+  /// The fill that was written, in the rectangle that it paints.
   Paint fill(const Fill& written, const Rect& rect) {
     UnitPoint start;
     UnitPoint end;

@@ -1,11 +1,30 @@
-// The button: its style makes its body, its node knows whether it is pressed.
+// The style makes the button's body; its node knows whether it is pressed.
 #include "Orvane/ui/views/Button.hpp"
 
-#include "Orvane/ui/host/Builder.hpp"
-#include "Orvane/ui/views/ControlSemantics.hpp"
+#include <utility>
+
+#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/views/Text.hpp"
 
 namespace orvane::ui {
+
+namespace {
+
+void append(const std::string& text, std::string& list) {
+  if (!text.empty()) {
+    list += (list.empty() ? "" : ", ") + text;
+  }
+}
+
+void appendTexts(const SemanticsNode& content, SemanticsNode& control) {
+  append(content.label, control.label);
+  append(content.cutText, control.cutText);
+  for (const SemanticsNode& child : content.children) {
+    appendTexts(child, control);
+  }
+}
+
+}  // namespace
 
 class ButtonElement final : public Element {
  public:
@@ -19,25 +38,32 @@ class ButtonElement final : public Element {
   void setFocusRing(const Shape& shape) { interaction_.focusShape = shape; }
   void leaveTabOrder() { interaction_.isFocusable = false; }
 
-  void build(Node& node, Builder& builder) const override {
-    if (!node.states) {
-      node.states = std::make_shared<StateStore>();
-    }
-    Environment own = *node.environment;
-    own.states = node.states;
-    ButtonConfiguration configuration;
-    configuration.label = label_;
-    configuration.isEnabled = own.isEnabled;
-    configuration.isPressed = node.isPressed && own.isEnabled;
-    configuration.isDefault = own.shortcut && own.shortcut->isDefault();
-    builder.children(node, {style_.body(configuration, own)}, node.environment);
+  void build(Node& node, BuildPass& pass) const override {
+    pass.body(node, [&](const Environment& environment) {
+      return style_.body({.label = label_,
+                          .isPressed = node.isPressed && environment.isEnabled,
+                          .isEnabled = environment.isEnabled,
+                          .isDefault = environment.shortcut && environment.shortcut->isDefault()},
+                         environment);
+    });
   }
 
-  const Interaction* interaction() const override { return &interaction_; }
+  [[nodiscard]] const Interaction& interaction() const override { return interaction_; }
 
-  std::vector<SemanticsNode> semantics(const Node& node,
-                                       std::vector<SemanticsNode> children) const override {
-    return {controlSemantics(node, Role::button, interaction_, children)};
+  // One element for the whole control, labelled with the texts in it.
+  [[nodiscard]] std::vector<SemanticsNode> semantics(
+      const Node& node, std::vector<SemanticsNode> contents) const override {
+    SemanticsNode control;
+    control.id = node.id;
+    control.role = Role::button;
+    control.isEnabled = node.environment->isEnabled;
+    control.isFocusable = interaction_.isFocusable;
+    control.frame = node.hostFrame();
+    control.actions = {SemanticsAction::press};
+    for (const SemanticsNode& content : contents) {
+      appendTexts(content, control);
+    }
+    return {std::move(control)};
   }
 
  private:
@@ -46,20 +72,14 @@ class ButtonElement final : public Element {
   ButtonStyle style_;
 };
 
-namespace {
-
-std::function<void(const Activation&)> ignoringActivation(std::function<void()> action) {
-  return [action = std::move(action)](const Activation&) {
-    if (action) {
-      action();
-    }
-  };
-}
-
-}  // namespace
-
 Button::Button(std::function<void()> action, const View& label)
-    : Button(ignoringActivation(std::move(action)), label) {}
+    : Button(
+          std::function<void(const Activation&)>([action = std::move(action)](const Activation&) {
+            if (action) {
+              action();
+            }
+          }),
+          label) {}
 
 Button::Button(const std::string& title, std::function<void()> action)
     : Button(std::move(action), Text(title)) {}

@@ -12,22 +12,22 @@ namespace orvane::ui {
 
 class ButtonElement;
 
-// The action runs on a click (pressed and released inside), on Space while it has the keyboard
-// focus, on its keyboard shortcut, and on an accessibility press; never while it is disabled. It
-// may destroy the button.
-class Button : public View {
+/// The action runs on a click (pressed and released inside), on Space while it has the keyboard
+/// focus, on its keyboard shortcut and on an accessibility press, but never while it is disabled.
+/// It may destroy the button.
+class [[nodiscard]] Button : public View {
  public:
   Button(std::function<void()> action, const View& label);
   Button(const std::string& title, std::function<void()> action);
-  // An action that wants to know where the control is.
+  /// With an action that depends on the frame of the control.
   Button(std::function<void(const Activation&)> action, const View& label);
 
-  // Bordered, unless another style is given.
+  /// BorderedButtonStyle by default.
   Button style(const ButtonStyle& style) const;
-  // The outline of the ring around it while it has the keyboard focus.
+  /// The outline of the focus ring.
   Button focusRing(const Shape& shape) const;
-  // Passed over by Tab, as the buttons of a window are; a click, its shortcut and an accessibility
-  // press still reach it.
+  /// Tab skips it, as it does a window's own buttons; clicks, its shortcut and accessibility
+  /// presses still reach it.
   Button outOfTabOrder() const;
 
  private:

@@ -7,7 +7,7 @@ namespace orvane::ui {
 
 namespace {
 
-// What the system's push buttons measure.
+// As in the system's push buttons, in points.
 constexpr double bezelRadius = 6;
 constexpr double bezelPaddingAcross = 12;
 constexpr double bezelPaddingDown = 5;

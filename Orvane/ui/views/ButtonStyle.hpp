@@ -1,4 +1,4 @@
-// How buttons look. A style is a plain struct with
+// How buttons look. A style is a struct with
 // `View body(const ButtonConfiguration&, const Environment&) const`.
 #pragma once
 
@@ -11,10 +11,10 @@ namespace orvane::ui {
 
 struct ButtonConfiguration {
   View label;
-  // The pointer holds the button down and is over it, or the keyboard is pressing it.
+  /// The pointer holds the button down and is over it.
   bool isPressed = false;
   bool isEnabled = true;
-  // Return activates it.
+  /// Return activates it.
   bool isDefault = false;
 };
 
@@ -41,19 +41,19 @@ class ButtonStyle {
   std::function<View(const ButtonConfiguration&, const Environment&)> body_;
 };
 
-// Nothing but the label, for one that shows by itself whatever is to be seen.
+/// Only the label, for labels that show the states of the button themselves.
 struct BareButtonStyle {
   View body(const ButtonConfiguration& configuration, const Environment&) const {
     return configuration.label;
   }
 };
 
-// Only the label, a little fainter while pressed or disabled.
+/// Only the label, fainter while pressed or disabled.
 struct PlainButtonStyle {
   View body(const ButtonConfiguration& configuration, const Environment& environment) const;
 };
 
-// The label on a bezel. The default button, and a prominent one, is filled with the accent colour.
+/// The label on a bezel, which has the accent colour in default and prominent buttons.
 struct BorderedButtonStyle {
   bool isProminent = false;
 

@@ -1,4 +1,4 @@
-// Closed forms: nothing is integrated step by step, so any moment can be asked for directly.
+// Closed forms, which give the state at any time without integration.
 #include "Orvane/ui/views/Curve.hpp"
 
 #include <algorithm>
@@ -24,8 +24,8 @@ double cubicBend(double a, double b, double s) {
   return 6 * (1 - s) * (b - 2 * a) + 6 * s * (1 - 2 * b + a);
 }
 
-// The parameter at which the x coordinate has a value from 0 to 1. X grows with the parameter, so
-// halving always finds it; 60 halvings exhaust the precision of a double.
+// The parameter at which the x coordinate has a value from 0 to 1, by bisection, since x grows with
+// the parameter. 60 steps exhaust the precision of a double.
 double parameterAt(double x1, double x2, double x) {
   double low = 0;
   double high = 1;
@@ -36,15 +36,15 @@ double parameterAt(double x1, double x2, double x) {
   return (low + high) / 2;
 }
 
-// The steepness of y over x. Where both stand still for a moment their second derivatives decide.
-double steepness(double x1, double y1, double x2, double y2, double s) {
-  constexpr double still = 1e-6;
+// dy/dx; where both derivatives vanish, the second ones decide.
+double slope(double x1, double y1, double x2, double y2, double s) {
+  constexpr double vanishing = 1e-6;
   const double slopeX = cubicSlope(x1, x2, s);
-  if (slopeX > still) {
+  if (slopeX > vanishing) {
     return cubicSlope(y1, y2, s) / slopeX;
   }
   const double bendX = cubicBend(x1, x2, s);
-  return std::abs(bendX) > still ? cubicBend(y1, y2, s) / bendX : 0;
+  return std::abs(bendX) > vanishing ? cubicBend(y1, y2, s) / bendX : 0;
 }
 
 }  // namespace
@@ -64,7 +64,7 @@ Curve Curve::spring(double responseSeconds, double dampingFraction) {
   Curve curve;
   curve.kind_ = Kind::spring;
   curve.seconds_ = responseSeconds;
-  curve.dampingFraction_ = std::max(dampingFraction, 0.05);
+  curve.dampingFraction_ = std::clamp(dampingFraction, 0.05, 1.0);
   return curve;
 }
 
@@ -87,11 +87,11 @@ Curve::Remainder Curve::bezierRemainder(double distance, std::optional<double> v
   const double s = parameterAt(x1_, x2_, fraction);
   Remainder result;
   result.distance = distance * (1 - cubic(y1_, y2_, s));
-  result.velocity = -distance * steepness(x1_, y1_, x2_, y2_, s) / seconds_;
+  result.velocity = -distance * slope(x1_, y1_, x2_, y2_, s) / seconds_;
   if (velocity) {
-    // t (1 - t/T)^2 starts with slope 1 and ends at zero with slope zero: it carries the difference
-    // between the velocity on screen and the one the curve would start with, and fades out.
-    const double own = -distance * steepness(x1_, y1_, x2_, y2_, 0) / seconds_;
+    // t (1 - t/T)^2 begins with slope 1 and ends at zero with slope 0. It adds the difference
+    // between the present velocity and the curve's initial one.
+    const double own = -distance * slope(x1_, y1_, x2_, y2_, 0) / seconds_;
     const double difference = *velocity - own;
     result.distance += difference * elapsed * (1 - fraction) * (1 - fraction);
     result.velocity += difference * (1 - fraction) * (1 - 3 * fraction);
@@ -103,15 +103,15 @@ Curve::Remainder Curve::bezierRemainder(double distance, std::optional<double> v
 Curve::Remainder Curve::springRemainder(double distance, double velocity, double elapsed) const {
   const double frequency = 2 * std::numbers::pi / seconds_;
   const double damping = dampingFraction_;
-  // Around 1 the two other forms divide by nearly zero.
-  constexpr double nearlyCritical = 1e-4;
+  // Close to 1 the other form divides by almost zero.
+  constexpr double almostCritical = 1 - 1e-4;
   Remainder result;
-  if (std::abs(damping - 1) < nearlyCritical) {
+  if (damping > almostCritical) {
     const double drift = velocity + frequency * distance;
     const double fade = std::exp(-frequency * elapsed);
     result.distance = (distance + drift * elapsed) * fade;
     result.velocity = (drift - frequency * (distance + drift * elapsed)) * fade;
-  } else if (damping < 1) {
+  } else {
     const double swing = frequency * std::sqrt(1 - damping * damping);
     const double decay = damping * frequency;
     const double fade = std::exp(-decay * elapsed);
@@ -121,19 +121,9 @@ Curve::Remainder Curve::springRemainder(double distance, double velocity, double
     result.distance = fade * (distance * c + sine * s);
     result.velocity =
         fade * (swing * (sine * c - distance * s) - decay * (distance * c + sine * s));
-  } else {
-    const double root = std::sqrt(damping * damping - 1);
-    const double slow = -frequency * (damping - root);
-    const double fast = -frequency * (damping + root);
-    const double ofFast = (velocity - slow * distance) / (fast - slow);
-    const double ofSlow = distance - ofFast;
-    const double fadeSlow = std::exp(slow * elapsed);
-    const double fadeFast = std::exp(fast * elapsed);
-    result.distance = ofSlow * fadeSlow + ofFast * fadeFast;
-    result.velocity = ofSlow * slow * fadeSlow + ofFast * fast * fadeFast;
   }
-  // The energy of a damped spring only falls, so once it is below a thousandth of the journey the
-  // value never leaves that neighbourhood again.
+  // The energy of a damped spring only decreases, so the value stays within a thousandth of the
+  // distance once its energy is that low.
   const double reach = std::hypot(result.distance, result.velocity / frequency);
   const double journey = std::abs(distance) + std::abs(velocity) / frequency;
   if (reach <= journey / 1000) {

@@ -1,4 +1,4 @@
-// How a value travels to its target over time: a timed cubic Bezier or a spring.
+// How a value approaches its target over time: a cubic Bezier with a duration, or a spring.
 #pragma once
 
 #include <optional>
@@ -7,28 +7,29 @@ namespace orvane::ui {
 
 class Curve {
  public:
-  // What is left of the way to the target at some moment.
+  /// The state of a motion at a time.
   struct Remainder {
-    // Value minus target.
+    /// Value minus target.
     double distance = 0;
-    // Change of the value per second.
+    /// Per second.
     double velocity = 0;
-    // True from the moment on when the value may be called arrived.
+    /// Whether the value has reached its target, up to the tolerance.
     bool isSettled = false;
   };
 
   static Curve linear(double seconds) { return bezier(seconds, 0, 0, 1, 1); }
   static Curve easeOut(double seconds) { return bezier(seconds, 0, 0, 0.58, 1); }
   static Curve easeInOut(double seconds) { return bezier(seconds, 0.42, 0, 0.58, 1); }
-  // A mass of 1 on a spring of stiffness (2 pi / response)^2 with damping
-  // 4 pi * dampingFraction / response. A fraction of 1 arrives without overshooting. Fractions
-  // below 0.05 count as 0.05, so that every spring comes to rest.
+  /// A mass of 1 on a spring of stiffness (2 pi / response)^2 with damping
+  /// 4 pi * dampingFraction / response. Fractions are limited to 0.05, so that every spring comes
+  /// to rest, and 1, with which it does not overshoot.
   static Curve spring(double responseSeconds, double dampingFraction);
 
-  // The motion that began `elapsed` seconds ago at `distance` (start minus target). A velocity is
-  // given when the value was already moving: a spring takes it over, and a Bezier is bent so that
-  // it starts with it and still arrives on time. A curve without duration arrives at once.
-  Remainder remainder(double distance, std::optional<double> velocity, double elapsed) const;
+  /// The motion that began `elapsed` seconds ago at `distance` (start minus target), with a
+  /// velocity if the value was moving already. A spring continues with the velocity; a Bezier is
+  /// adjusted to begin with it and still ends on time. Without a duration the motion ends at once.
+  [[nodiscard]] Remainder remainder(double distance, std::optional<double> velocity,
+                                    double elapsed) const;
 
   friend bool operator==(const Curve&, const Curve&) = default;
 
@@ -40,7 +41,7 @@ class Curve {
   Remainder springRemainder(double distance, double velocity, double elapsed) const;
 
   Kind kind_ = Kind::bezier;
-  // The duration of a Bezier, the response of a spring.
+  // The duration of a Bezier or the response of a spring.
   double seconds_ = 0;
   double dampingFraction_ = 1;
   double x1_ = 0;

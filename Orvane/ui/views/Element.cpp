@@ -1,14 +1,14 @@
-// What an element does unless its class says otherwise: it wraps its first child.
+// The defaults: an element wraps its first child.
 #include "Orvane/ui/views/Element.hpp"
 
-#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/views/Node.hpp"
 
 namespace orvane::ui {
 
-void Element::build(Node& node, Builder& builder) const {
-  builder.children(node, {}, node.environment);
+void Element::build(Node& node, BuildPass& pass) const {
+  pass.children(node, {}, node.environment);
 }
 
 Size Element::measure(Node& node, const Proposal& proposal, LayoutPass& pass) const {
@@ -29,8 +29,9 @@ Effect Element::effect(const Node&, Size, double) const {
 
 void Element::draw(const Node&, const DrawContext&) const {}
 
-const Interaction* Element::interaction() const {
-  return nullptr;
+const Interaction& Element::interaction() const {
+  static const Interaction none;
+  return none;
 }
 
 std::vector<SemanticsNode> Element::semantics(const Node&,
@@ -39,7 +40,7 @@ std::vector<SemanticsNode> Element::semantics(const Node&,
 }
 
 double Element::layoutPriority(const Node& node) const {
-  // Wrappers pass on what their only child says.
+  // Modifiers pass on the priority of their content.
   return node.children.size() == 1
              ? node.children.front()->element->layoutPriority(*node.children.front())
              : 0;

@@ -1,5 +1,5 @@
-// The immutable description behind a view: each kind of primitive view and of modifier is one class
-// derived from it. An element has no state; what must outlive a redraw is in its node.
+// The immutable description behind a view: one class for each kind of view and modifier. An element
+// has no state; what must survive an update is in its node.
 #pragma once
 
 #include <optional>
@@ -14,22 +14,23 @@
 namespace orvane::ui {
 
 class AttributeWriter;
-class Builder;
+class BuildPass;
 class LayoutPass;
 struct DrawContext;
 struct Node;
 struct Transition;
 
-// What a node does to itself and everything below it when it is presented. The shape and the
-// transform are in the node's own coordinates, whose origin is its top left corner.
+/// How a node and everything below it are presented. The clip and the transform are in the node's
+/// own coordinates, whose origin is its top left corner.
 struct Effect {
-  Transform transform;
+  Transform transform = {};
   double opacity = 1;
-  std::optional<Shape> clip;
-  std::optional<PaintShadow> shadow;
+  std::optional<Shape> clip = std::nullopt;
+  std::optional<PaintShadow> shadow = std::nullopt;
   bool allowsHitTesting = true;
 };
 
+/// Each pass calls its functions; docs/ui.md says what they may read and change.
 class Element {
  public:
   Element() = default;
@@ -37,29 +38,28 @@ class Element {
   Element& operator=(const Element&) = default;
   virtual ~Element() = default;
 
-  // Describes the node's children to the builder. By default there are none.
-  virtual void build(Node& node, Builder& builder) const;
+  /// Describes the node's children to the pass. None by default.
+  virtual void build(Node& node, BuildPass& pass) const;
 
-  // The size chosen for a proposal, and the placing of the children for the same proposal. By
-  // default a node is as large as its first child.
-  virtual Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const;
+  /// The size chosen for a proposal, and the placement of the children for the same proposal. By
+  /// default a node is as large as its first child.
+  [[nodiscard]] virtual Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const;
   virtual void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const;
 
-  // Writes the animatable numbers; the drawing functions below read them as they are at a moment.
+  /// Writes the numbers that can be animated; effect() and draw() read their values at a time.
   virtual void attributes(const Node& node, AttributeWriter& writer) const;
-  virtual Effect effect(const Node& node, Size size, double now) const;
-  // Draws what is the node's own, beneath its children.
+  [[nodiscard]] virtual Effect effect(const Node& node, Size size, double now) const;
+  /// Draws what belongs to the node itself, below its children.
   virtual void draw(const Node& node, const DrawContext& context) const;
 
-  // Empty (null) for a view without behaviour.
-  virtual const Interaction* interaction() const;
-  // What the node contributes to the semantics tree, given what its children do.
-  virtual std::vector<SemanticsNode> semantics(const Node& node,
-                                               std::vector<SemanticsNode> children) const;
+  [[nodiscard]] virtual const Interaction& interaction() const;
+  /// The node's part of the semantics tree, given that of its children.
+  [[nodiscard]] virtual std::vector<SemanticsNode> semantics(
+      const Node& node, std::vector<SemanticsNode> children) const;
 
-  virtual std::optional<Axis> stackAxis() const { return std::nullopt; }
-  virtual double layoutPriority(const Node& node) const;
-  virtual const Transition* transition() const { return nullptr; }
+  [[nodiscard]] virtual std::optional<Axis> stackAxis() const { return std::nullopt; }
+  [[nodiscard]] virtual double layoutPriority(const Node& node) const;
+  [[nodiscard]] virtual const Transition* transition() const { return nullptr; }
 };
 
 }  // namespace orvane::ui

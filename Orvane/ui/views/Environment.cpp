@@ -1,4 +1,4 @@
-// The ways from a view back to its host, each of which does nothing once the host is gone.
+// Calls of the host, without effect once it is destroyed.
 #include "Orvane/ui/views/Environment.hpp"
 
 namespace orvane::ui {
@@ -7,18 +7,17 @@ void Environment::animate(const Curve& curve, const std::function<void()>& chang
   // The change may destroy the view that holds this environment.
   const std::weak_ptr<HostLink> keptLink = link;
   const Curve keptCurve = curve;
-  if (change) {
-    const std::function<void()> keptChange = change;
+  if (const std::function<void()> keptChange = change) {
     keptChange();
   }
-  if (const auto target = keptLink.lock()) {
-    target->invalidate(keptCurve);
+  if (const auto host = keptLink.lock()) {
+    host->invalidate(keptCurve);
   }
 }
 
 void Environment::dismiss() const {
-  if (const auto target = link.lock()) {
-    target->dismiss();
+  if (const auto host = link.lock()) {
+    host->call(&HostServices::dismiss);
   }
 }
 

@@ -1,5 +1,5 @@
-// What flows down the tree of views: appearance, inherited text attributes, and the way back to the
-// host.
+// What views inherit from those around them: the appearance, attributes of text, the access to
+// state and host.
 #pragma once
 
 #include <functional>
@@ -26,49 +26,46 @@ struct Environment {
   Font font = Font::body();
   Color foreground = Color::primary();
   TextAlignment textAlignment = TextAlignment::leading;
-  // 0 means any number of lines.
+  /// 0 means any number of lines.
   int lineLimit = 0;
   TruncationMode truncationMode = TruncationMode::tail;
-  // The fraction of its width by which a single line may be set closer before it is cut.
+  /// The fraction of its width by which a single line may be tightened before it is truncated.
   double tightening = 0;
-  // In points; none for the height that the characters ask for.
+  /// In points; without one, the font's own.
   std::optional<double> lineHeight;
   bool isEnabled = true;
-  // Activates the first control below.
+  /// Activates the first control that inherits it.
   std::optional<KeyboardShortcut> shortcut;
 
-  // Set by the host.
+  /// Set by the host.
   std::weak_ptr<HostLink> link;
   const ImageSource* images = nullptr;
   std::weak_ptr<StateStore> states;
 
-  // State of the composite view whose body is being made, by a name that is unique in that view. It
-  // lives as long as the view keeps its place in the tree. Only within `body`; elsewhere the result
-  // belongs to nobody and redraws nothing.
+  /// State of the composite view whose body is running, with a name that is unique in that view. It
+  /// lives as long as the view keeps its identity. Outside of `body` the process ends: a handler
+  /// captures the State instead.
   template <typename T>
-  State<T> state(const std::string& name, T initial) const {
+  [[nodiscard]] State<T> state(const std::string& name, T initial) const {
     const auto store = states.lock();
-    if (!store) {
-      return State<T>(
-          std::make_shared<StateCell<T>>(std::move(initial), std::weak_ptr<HostLink>()));
+    require(store && store->isBodyRunning, "Environment::state() is for the body of a view");
+    std::any& slot = store->cells[name];
+    if (!slot.has_value()) {
+      slot = std::make_shared<StateCell<T>>(StateCell<T>{std::move(initial), link});
     }
-    std::shared_ptr<StateCellBase>& cell = store->cells[name];
-    if (!cell) {
-      cell = std::make_shared<StateCell<T>>(std::move(initial), link);
-    }
-    auto typed = std::dynamic_pointer_cast<StateCell<T>>(cell);
-    require(typed != nullptr, "one name was used for state of two types");
-    return State<T>(std::move(typed));
+    const auto* cell = std::any_cast<std::shared_ptr<StateCell<T>>>(&slot);
+    require(cell != nullptr, "one name is used for state of two types");
+    return State<T>(*cell);
   }
 
-  bool isDark() const { return appearance.dark; }
-  bool hasImage(const std::string& name) const {
+  [[nodiscard]] bool isDark() const { return appearance.dark; }
+  [[nodiscard]] bool hasImage(const std::string& name) const {
     return images != nullptr && images->image(name).has_value();
   }
 
-  // Runs the change; everything that looks different afterwards travels along the curve.
+  /// Runs the change and updates the host; the resulting changes are animated along the curve.
   void animate(const Curve& curve, const std::function<void()>& change) const;
-  // Closes what the view is shown in.
+  /// Closes the window or panel that shows the view.
   void dismiss() const;
 };
 

@@ -1,29 +1,31 @@
-// A group outside of a container.
+// Children on top of each other, for groups and ZStacks.
 #include "Orvane/ui/views/Group.hpp"
 
 #include <algorithm>
 
-#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 
 namespace orvane::ui {
 
-GroupElement::GroupElement(const std::vector<View>& members) {
+namespace {
+
+std::vector<View> flattened(const std::vector<View>& members) {
+  std::vector<View> result;
   for (const View& member : members) {
     const auto* inner = dynamic_cast<const GroupElement*>(member.element().get());
     if (inner != nullptr && member.explicitId().empty()) {
-      members_.insert(members_.end(), inner->members().begin(), inner->members().end());
+      result.insert(result.end(), inner->members().begin(), inner->members().end());
     } else {
-      members_.push_back(member);
+      result.push_back(member);
     }
   }
+  return result;
 }
 
-void GroupElement::build(Node& node, Builder& builder) const {
-  builder.children(node, members_, node.environment);
-}
+}  // namespace
 
-Size GroupElement::measure(Node& node, const Proposal& proposal, LayoutPass& pass) const {
+Size OverlaidElement::measure(Node& node, const Proposal& proposal, LayoutPass& pass) const {
   Size result;
   for (const auto& child : node.children) {
     const Size size = pass.measure(*child, proposal);
@@ -32,10 +34,18 @@ Size GroupElement::measure(Node& node, const Proposal& proposal, LayoutPass& pas
   return result;
 }
 
-void GroupElement::place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const {
+void OverlaidElement::place(Node& node, const Proposal& proposal, Size size,
+                            LayoutPass& pass) const {
   for (const auto& child : node.children) {
-    pass.placeAligned(*child, size, Alignment::center(), proposal);
+    pass.placeAligned(*child, size, alignment_, proposal);
   }
+}
+
+GroupElement::GroupElement(const std::vector<View>& members)
+    : OverlaidElement(Alignment::center(), flattened(members)) {}
+
+void GroupElement::build(Node& node, BuildPass& pass) const {
+  pass.children(node, members(), node.environment);
 }
 
 }  // namespace orvane::ui

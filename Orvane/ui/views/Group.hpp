@@ -1,5 +1,4 @@
-// Several views in one place of a container: they take part in its layout as if they stood there
-// one by one.
+// Several views in one place of a container, which lays them out one by one.
 #pragma once
 
 #include <vector>
@@ -8,30 +7,39 @@
 
 namespace orvane::ui {
 
-class GroupElement final : public Element {
+/// Lays out its children on top of each other, the first one lowest; as large as the largest.
+class OverlaidElement : public Element {
  public:
-  // Groups inside are spread out.
-  explicit GroupElement(const std::vector<View>& members);
+  OverlaidElement(Alignment alignment, std::vector<View> members)
+      : alignment_(alignment), members_(std::move(members)) {}
 
-  const std::vector<View>& members() const { return members_; }
-  void build(Node& node, Builder& builder) const override;
-  Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override;
+  [[nodiscard]] const std::vector<View>& members() const { return members_; }
+  [[nodiscard]] Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override;
   void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override;
 
  private:
+  Alignment alignment_;
   std::vector<View> members_;
 };
 
-// Outside of a stack, its members lie above one another.
-class Group : public View {
+class GroupElement final : public OverlaidElement {
+ public:
+  /// Groups without an id among the members are replaced by their members.
+  explicit GroupElement(const std::vector<View>& members);
+
+  void build(Node& node, BuildPass& pass) const override;
+};
+
+/// Outside of a stack, its members are laid out on top of each other.
+class [[nodiscard]] Group : public View {
  public:
   explicit Group(const std::vector<View>& members)
       : View(std::make_shared<GroupElement>(members)) {}
 };
 
-// One view per item, each with an identity of its own, so that it keeps its node when items come,
-// go and move. `identify` returns the item's id as a string; `make` its view and may take the
-// item's index as a second argument.
+/// One view per item, each with the item's id, so that it keeps its node when items are added,
+/// removed and moved. `identify` returns an item's id as a string; `make` returns its view and may
+/// take the item's index as a second argument.
 template <typename Items, typename Identify, typename Make>
 Group forEach(const Items& items, const Identify& identify, const Make& make) {
   std::vector<View> views;

@@ -1,4 +1,4 @@
-// Sizes and drawing of images and symbols.
+// Measuring and drawing of images and symbols.
 #include "Orvane/ui/views/Image.hpp"
 
 #include <algorithm>
@@ -47,7 +47,6 @@ class ImageElement final : public Element {
   }
 
   Size scaled(Size natural, const Proposal& proposal) const {
-    // A side that is not limited does not limit the scale.
     const auto ratio = [](std::optional<double> offered, double own) -> std::optional<double> {
       if (!offered || std::isinf(*offered) || own <= 0) {
         return std::nullopt;
@@ -56,10 +55,8 @@ class ImageElement final : public Element {
     };
     const auto across = ratio(proposal.width, natural.width);
     const auto down = ratio(proposal.height, natural.height);
-    double factor = across.value_or(down.value_or(1));
-    if (across && down) {
-      factor = *mode_ == ContentMode::fit ? std::min(*across, *down) : std::max(*across, *down);
-    }
+    const double factor =
+        across && down ? std::min(*across, *down) : across.value_or(down.value_or(1));
     return {natural.width * factor, natural.height * factor};
   }
 

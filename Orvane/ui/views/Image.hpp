@@ -1,4 +1,4 @@
-// Images of the application's resources and symbols, both by name.
+// Images of the application's resources, and symbols.
 #pragma once
 
 #include <string>
@@ -8,18 +8,16 @@
 namespace orvane::ui {
 
 enum class ContentMode {
-  // Any shape that is proposed.
+  /// To the proposed size.
   stretch,
-  // The largest size of its own proportions inside of what is proposed, or the smallest that covers
-  // it.
-  fit,
-  fill
+  /// To the largest size of the image's own proportions within the proposed size.
+  fit
 };
 
-// Without `resizable` an image keeps its own size. An unknown one has none and shows nothing. It is
-// decoration, hidden from the semantics tree, until it is given an accessibility label. In the dark
-// appearance an image NAME-dark, where there is one, takes the place of NAME in the same size.
-class Image : public View {
+/// In its own size; an unknown image has none and shows nothing. It is not in the semantics tree
+/// until it has an accessibility label. In the dark appearance the image NAME-dark, if there is
+/// one, replaces NAME in the same size.
+class [[nodiscard]] Image : public View {
  public:
   explicit Image(std::string name);
 
@@ -29,8 +27,9 @@ class Image : public View {
   std::string name_;
 };
 
-// A symbol in the inherited font's size and weight, in the inherited colour. Decoration as well.
-class Symbol : public View {
+/// A symbol in the size and weight of the inherited font and in the inherited colour. As an image,
+/// it is not in the semantics tree.
+class [[nodiscard]] Symbol : public View {
  public:
   explicit Symbol(std::string name);
 };

@@ -1,4 +1,4 @@
-// What a view does with the pointer and the keyboard.
+// The handlers of a view, and how it takes part in input.
 #pragma once
 
 #include <functional>
@@ -10,30 +10,34 @@
 
 namespace orvane::ui {
 
-// What a control learns when it is activated.
+/// The argument of a control's action.
 struct Activation {
-  // The control's rectangle as presented, in the host's coordinates.
+  /// The control's rectangle as presented, in host coordinates.
   Rect frame;
 };
 
-// A file to be dragged out of a view.
+/// A file that can be dragged out of a view.
 struct DragItem {
   std::string fileUrl;
   std::string imageName;
 };
 
+/// Unset functions have no effect.
 struct Interaction {
-  // Run by a click, by the keyboard and by an accessibility press alike.
-  std::function<void(const Activation&)> activate;
-  std::function<void(bool isInside)> hover;
-  // Asked when a drag begins; nothing begins when it returns nothing.
-  std::function<std::optional<DragItem>()> drag;
-  std::string tooltip;
+  /// Called by a click, by the keyboard and by an accessibility press.
+  std::function<void(const Activation&)> activate = nullptr;
+  std::function<void(bool isInside)> hover = nullptr;
+  /// Called when a drag begins; without an item there is no drag.
+  std::function<std::optional<DragItem>()> drag = nullptr;
+  /// Called after the layout in which the view appeared.
+  std::function<void()> appear = nullptr;
+  std::string tooltip = {};
+  /// Whether Tab reaches the view, and the outline of its focus ring.
   bool isFocusable = false;
   Shape focusShape = Shape::rounded(6);
 
-  // True when a press on the view is taken by it and does not move the window.
-  bool takesPress() const { return activate || drag; }
+  /// Whether a press on the view goes to it and does not move the window.
+  [[nodiscard]] bool takesPress() const { return activate || drag; }
 };
 
 }  // namespace orvane::ui

@@ -1,4 +1,4 @@
-// Keys, and the shortcuts that activate a button.
+// Key events, and the shortcuts that activate buttons.
 #pragma once
 
 #include <string>
@@ -19,8 +19,8 @@ struct KeyModifiers {
 struct KeyEvent {
   Key key = Key::character;
   KeyModifiers modifiers = {};
-  // For Key::character: what the key types without its modifiers but Command, in UTF-8 and lower
-  // case.
+  /// For Key::character: what the key types with Command but without other modifiers, in lower case
+  /// and UTF-8.
   std::string characters = {};
 };
 
@@ -29,20 +29,20 @@ struct KeyboardShortcut {
   KeyModifiers modifiers = {};
   std::string characters = {};
 
-  // Return, which also makes a standard button prominent.
+  /// Return, which also makes a standard button prominent.
   static KeyboardShortcut defaultAction() { return {.key = Key::enter}; }
-  // Escape.
+  /// Escape.
   static KeyboardShortcut cancelAction() { return {.key = Key::escape}; }
-  // Command and a character.
+  /// Command and a character.
   static KeyboardShortcut command(std::string characters) {
     return {Key::character, {.command = true}, std::move(characters)};
   }
 
-  bool matches(const KeyEvent& event) const {
+  [[nodiscard]] bool matches(const KeyEvent& event) const {
     return key == event.key && modifiers == event.modifiers &&
            (key != Key::character || characters == event.characters);
   }
-  bool isDefault() const { return key == Key::enter && modifiers == KeyModifiers{}; }
+  [[nodiscard]] bool isDefault() const { return key == Key::enter && modifiers == KeyModifiers{}; }
 };
 
 }  // namespace orvane::ui

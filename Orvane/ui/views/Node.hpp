@@ -1,5 +1,5 @@
-// A retained node: what of a view outlives a redraw. Nodes belong to the host; views never see
-// them.
+// A retained node: the part of a view that survives an update. Nodes belong to the host; elements
+// keep their data in them, and views never see them.
 #pragma once
 
 #include <any>
@@ -17,10 +17,10 @@
 
 namespace orvane::ui {
 
-// What a node is recognised by among its siblings: an explicit id, else its place.
+/// Identifies a node among its siblings: by an explicit id, otherwise by place.
 struct NodeKey {
   int slot = 0;
-  // The place inside a group that stands at the slot.
+  /// The place in the group at the slot; -1 without a group.
   int place = -1;
   std::string id;
 
@@ -32,6 +32,17 @@ struct MeasuredSize {
   Size size;
 };
 
+/// What each pass did with a node last, for dumpTree().
+struct PassTrace {
+  bool isMade = false;
+  bool hasNewAttributes = false;
+  bool isMoved = false;
+  bool isResized = false;
+  bool isDamaged = false;
+  /// Since the last presentation. Drawing changes nothing else in a node.
+  mutable bool isDrawn = false;
+};
+
 struct Node {
   Node(std::uint64_t number, Node* owner) : id(number), parent(owner) {}
 
@@ -41,55 +52,57 @@ struct Node {
   std::shared_ptr<const Element> element;
   std::shared_ptr<const Environment> environment;
   std::vector<std::unique_ptr<Node>> children;
-  // Removed children that are still on their way out; drawn above the children.
+  /// Removed children during their transition; drawn above the children.
   std::vector<std::unique_ptr<Node>> leaving;
 
-  // True until the first layout after the node was made.
+  /// True until the first layout.
   bool isNew = true;
-  // The animation of the update under way.
+  /// The animation of the last update.
   std::optional<Curve> curve;
 
   std::shared_ptr<StateStore> states;
-  // What the element's class keeps here for itself.
+  /// Belongs to the element's class.
   std::any data;
   bool isPressed = false;
 
   std::vector<MeasuredSize> measured;
-  // Place in the parent (x, y) and size (width, height), each on its way to where layout put it.
+  /// Origin (x, y) in the parent and size (width, height), whose targets layout sets.
   std::array<AnimatedValue, 4> geometry;
   std::vector<AnimatedValue> attributes;
-  // 1 while the node is there, 0 when it has gone; for nodes with a transition.
+  /// 1 for a present node, 0 for one that is gone; for nodes with a transition.
   AnimatedValue presence{1};
 
-  // As presented last: from the node's coordinates to the host's, its size, what it painted.
+  /// The last presentation: the transform to host coordinates, the size, and the painted area with
+  /// and without that of the nodes below.
   Transform toHost;
   Size size;
-  // Whether what it draws itself is on its way, in place or in size; and what is in it, in place.
-  bool isMoving = false;
-  bool movesContent = false;
   Rect ink;
   Rect inkWithDescendants;
-  std::uint64_t signature = 0;
+  /// Identifies what is painted and where.
+  std::uint64_t fingerprint = 0;
+  /// Whether the node's own drawing is moving or being resized, and whether its content moves.
+  bool isMoving = false;
+  bool movesContent = false;
 
-  Rect target() const {
+  PassTrace trace;
+
+  [[nodiscard]] const Interaction& interaction() const { return element->interaction(); }
+  [[nodiscard]] Rect targetFrame() const {
     return {geometry[0].target(), geometry[1].target(), geometry[2].target(), geometry[3].target()};
   }
-  Rect frameAt(double now) const {
+  [[nodiscard]] Rect frameAt(double now) const {
     return {geometry[0].at(now), geometry[1].at(now), std::max(0.0, geometry[2].at(now)),
             std::max(0.0, geometry[3].at(now))};
   }
-  // As presented, in the host's coordinates.
-  Rect hostFrame() const { return toHost.apply(Rect{0, 0, size.width, size.height}); }
+  /// As presented, in host coordinates.
+  [[nodiscard]] Rect hostFrame() const { return toHost.apply(Rect{0, 0, size.width, size.height}); }
 };
 
-// The node with the id in the tree below (the leaving ones left out), or null.
-Node* findNode(Node* root, std::uint64_t id);
+/// The node with a transition at the top of the subtree: the node itself, or the only child of an
+/// only child. Null when there is none.
+[[nodiscard]] Node* transitionNode(Node& node);
 
-// The node with a transition at the top of the subtree: the node itself, or the only child of an
-// only child. Null when there is none.
-Node* transitionNode(Node& node);
-
-// Calls the function for the node and everything below it, parents first, without leaving ones.
+/// Calls the function for the node and all below it except leaving ones, parents first.
 template <typename Visit>
 void visitNodes(Node& node, const Visit& visit) {
   visit(node);

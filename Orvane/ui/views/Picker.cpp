@@ -1,4 +1,4 @@
-// The pop-up button as a button whose action opens a menu.
+// A button whose action opens a menu.
 #include "Orvane/ui/views/Picker.hpp"
 
 #include "Orvane/ui/views/Button.hpp"
@@ -11,9 +11,9 @@ namespace orvane::ui {
 
 namespace {
 
-// What the system's pop-up buttons measure.
-constexpr double bezelHeight = 22;
-constexpr double bezelRadius = 5;
+// As in the system's pop-up buttons, in points.
+constexpr double popUpHeight = 22;
+constexpr double popUpRadius = 5;
 constexpr double arrowsWidth = 16;
 
 struct PopUpButtonStyle {
@@ -23,8 +23,8 @@ struct PopUpButtonStyle {
     const double rim = environment.appearance.increaseContrast ? 0.6
                        : environment.isDark()                  ? 0.35
                                                                : 0.55;
-    return configuration.label.height(bezelHeight)
-        .background(RoundedRectangle(bezelRadius)
+    return configuration.label.height(popUpHeight)
+        .background(RoundedRectangle(popUpRadius)
                         .castShadow({.color = Color::black().opacity(0.12), .radius = 1, .y = 0.5})
                         .fill(bezel)
                         .fill(Color::primary().opacity(configuration.isPressed ? 0.12 : 0))
@@ -49,12 +49,12 @@ View Picker::body(const Environment& environment) const {
         if (const auto host = link.lock()) {
           MenuRequest placed = request;
           placed.anchor = activation.frame;
-          host->openMenu(std::move(placed));
+          host->call(&HostServices::openMenu, placed);
         }
       };
   return Button(std::function<void(const Activation&)>(open), content)
       .style(PopUpButtonStyle{})
-      .focusRing(Shape::rounded(bezelRadius))
+      .focusRing(Shape::rounded(popUpRadius))
       .accessibilityRole(Role::popUpButton)
       .accessibilityLabel(label)
       .accessibilityValue(title);

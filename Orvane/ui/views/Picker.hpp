@@ -1,4 +1,4 @@
-// A pop-up button: shows the selected item and opens the platform's own menu to choose another.
+// A pop-up button: shows the selected item and opens a menu of the platform to choose another.
 #pragma once
 
 #include <functional>
@@ -10,12 +10,12 @@
 namespace orvane::ui {
 
 struct Picker {
-  // What it chooses, for screen readers; it is not shown.
+  /// Its accessibility label; not shown.
   std::string label;
   std::vector<std::string> items;
-  // From 0; an index outside of the items shows an empty title.
+  /// From 0; an index outside of the items shows an empty title.
   int selectedIndex = 0;
-  // Called with the index of an item that was chosen in the menu.
+  /// Called with the index of the item chosen in the menu.
   std::function<void(int)> onChoose;
 
   View body(const Environment& environment) const;

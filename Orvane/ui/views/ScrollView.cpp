@@ -1,26 +1,64 @@
-// Horizontal scrolling: the offset is the node's attribute and only moves what is presented.
+// The offset is an attribute of the node. It moves what is presented and does not change the
+// layout.
 #include "Orvane/ui/views/ScrollView.hpp"
 
 #include <algorithm>
 
-#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/views/Attributes.hpp"
-#include "Orvane/ui/views/WrapperElement.hpp"
+#include "Orvane/ui/views/Modifiers.hpp"
 
 namespace orvane::ui {
 
 namespace {
 
-// Where the content comes to rest.
+// The data of a scroll view's node.
+struct ScrollData {
+  double maximumOffset = 0;
+  double margin = 0;
+};
+
+// Null when the node is no scroll view.
+const ScrollData* scrollData(const Node& node) {
+  return std::any_cast<ScrollData>(&node.data);
+}
+
+// At the end of a running animation.
 double offsetOf(const Node& area) {
   return area.attributes.empty() ? 0 : area.attributes.front().target();
 }
 
-class ScrollElement final : public WrapperElement {
+// Along the curve or at once, within the limits. False when the presented offset is that already.
+bool scrollTo(Node& area, double offset, const std::optional<Curve>& curve, double now) {
+  AnimatedValue& shown = area.attributes.front();
+  const double target = std::clamp(offset, 0.0, scrollData(area)->maximumOffset);
+  const double before = shown.at(now);
+  // An animation to the same offset goes on.
+  if (target != shown.target()) {
+    shown.set(target, curve, now);
+  }
+  return target != before;
+}
+
+void scrollIntoView(Node& area, const Node& node, const std::optional<Curve>& curve, double now) {
+  // In layout coordinates, independent of running animations.
+  double leading = 0;
+  for (const Node* current = &node; current != &area; current = current->parent) {
+    leading += current->targetFrame().x - (isScrollView(*current) ? offsetOf(*current) : 0);
+  }
+  const double width = area.targetFrame().width;
+  const double room = std::max(0.0, (width - node.targetFrame().width) / 2);
+  const double margin = std::min(scrollData(area)->margin, room);
+  // The beginning of a view that is too wide is shown.
+  const double minimum = leading + node.targetFrame().width + margin - width;
+  scrollTo(area, std::min(std::max(offsetOf(area), minimum), leading - margin), curve, now);
+}
+
+class ScrollElement final : public ModifierElement {
  public:
   ScrollElement(const View& content, double margin)
-      : WrapperElement(content.padding(Edges::horizontal(margin))), margin_(margin) {}
+      : ModifierElement(content.padding(Edges::horizontal(margin))), margin_(margin) {}
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
     const Size content = Element::measure(node, freed(proposal), pass);
@@ -36,16 +74,14 @@ class ScrollElement final : public WrapperElement {
 
   double layoutPriority(const Node&) const override { return 0; }
 
-  // What the host has set stays.
+  // The present offset stays.
   void attributes(const Node& node, AttributeWriter& writer) const override {
     writer.number(offsetOf(node));
   }
 
   Effect effect(const Node& node, Size size, double now) const override {
-    Effect effect;
-    effect.clip = Shape::rectangle({0, 0, size.width, size.height});
-    effect.transform = Transform::translation({-AttributeReader(node, now).number(), 0});
-    return effect;
+    return {.transform = Transform::translation({-AttributeReader(node, now).number(), 0}),
+            .clip = Shape::rectangle({0, 0, size.width, size.height})};
   }
 
   std::vector<SemanticsNode> semantics(const Node& node,
@@ -65,22 +101,22 @@ class ScrollElement final : public WrapperElement {
   double margin_;
 };
 
-class ScrollTargetElement final : public WrapperElement {
+class ScrollTargetElement final : public ModifierElement {
  public:
   ScrollTargetElement(View content, std::optional<std::size_t> wantedPlace)
-      : WrapperElement(std::move(content)), wantedPlace_(wantedPlace) {}
+      : ModifierElement(std::move(content)), wantedPlace_(wantedPlace) {}
 
-  void build(Node& node, Builder& builder) const override {
+  void build(Node& node, BuildPass& pass) const override {
     const auto* const before = std::any_cast<std::optional<std::size_t>>(&node.data);
     if (wantedPlace_ && (before == nullptr || *before != wantedPlace_)) {
-      builder.scrollIntoView(node, node.isNew ? std::nullopt : node.curve);
+      pass.scrollIntoView(node, node.isNew ? std::nullopt : node.curve);
     }
     node.data = wantedPlace_;
-    WrapperElement::build(node, builder);
+    ModifierElement::build(node, pass);
   }
 
  private:
-  // None for a view that is not wanted.
+  // None for an unwanted view.
   std::optional<std::size_t> wantedPlace_;
 };
 
@@ -93,40 +129,26 @@ View View::scrollsIntoView(bool isWanted, std::size_t place) const {
   return modified<ScrollTargetElement>(*this, isWanted ? std::optional(place) : std::nullopt);
 }
 
-const ScrollData* scrollData(const Node& node) {
-  return std::any_cast<ScrollData>(&node.data);
+bool isScrollView(const Node& node) {
+  return scrollData(node) != nullptr;
 }
 
-bool scrollTo(Node& area, double offset, const std::optional<Curve>& curve, double now) {
-  AnimatedValue& shown = area.attributes.front();
-  const double target = std::clamp(offset, 0.0, scrollData(area)->maximumOffset);
-  const double before = shown.at(now);
-  // A motion to the same place goes on.
-  if (target != shown.target()) {
-    shown.set(target, curve, now);
+bool scrollBy(Node& node, double distance, double now) {
+  if (!isScrollView(node)) {
+    return false;
   }
-  return target != before;
-}
-
-bool scrollBy(Node& area, double distance, double now) {
-  AnimatedValue& shown = area.attributes.front();
+  AnimatedValue& shown = node.attributes.front();
   const double before = shown.at(now);
   shown.jump(before);
-  return scrollTo(area, before + distance, std::nullopt, now);
+  return scrollTo(node, before + distance, std::nullopt, now);
 }
 
-void scrollIntoView(Node& area, const Node& node, const std::optional<Curve>& curve, double now) {
-  // Where layout has put it, whatever still moves.
-  double leading = 0;
-  for (const Node* current = &node; current != &area; current = current->parent) {
-    leading += current->target().x - (scrollData(*current) != nullptr ? offsetOf(*current) : 0);
+void scrollIntoView(const Node& node, const std::optional<Curve>& curve, double now) {
+  for (Node* area = node.parent; area != nullptr; area = area->parent) {
+    if (isScrollView(*area)) {
+      scrollIntoView(*area, node, curve, now);
+    }
   }
-  const double width = area.target().width;
-  const double room = std::max(0.0, (width - node.target().width) / 2);
-  const double margin = std::min(scrollData(area)->margin, room);
-  // Of what is too wide the beginning is shown.
-  const double minimumOffset = leading + node.target().width + margin - width;
-  scrollTo(area, std::min(std::max(offsetOf(area), minimumOffset), leading - margin), curve, now);
 }
 
 }  // namespace orvane::ui

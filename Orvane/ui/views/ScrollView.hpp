@@ -1,4 +1,4 @@
-// A window onto content that may be wider than it: scrolls horizontally, without indicators.
+// A horizontally scrolling view without indicators.
 #pragma once
 
 #include "Orvane/ui/views/Node.hpp"
@@ -6,29 +6,22 @@
 
 namespace orvane::ui {
 
-// What the node of a scroll view keeps.
-struct ScrollData {
-  // Of the content towards the leading side, in points.
-  double maximumOffset = 0;
-  double margin = 0;
-};
-
-// Takes the width it is offered and the height of its content. The margin, in points, lies before
-// and after the content, and is kept on both sides of what is brought into sight.
-class ScrollView : public View {
+/// Takes the proposed width and the height of its content. The margin, in points, lies before and
+/// after the content, and on both sides of a view that is scrolled into view.
+class [[nodiscard]] ScrollView : public View {
  public:
   explicit ScrollView(const View& content, double margin = 0);
 };
 
-// Null when the node is no scroll view.
-const ScrollData* scrollData(const Node& node);
+/// Whether the node is that of a scroll view.
+[[nodiscard]] bool isScrollView(const Node& node);
 
-// Scrolls the content of a scroll view's node that far from its beginning, within the limits: along
-// the curve, or at once. False when it is there already.
-bool scrollTo(Node& area, double offset, const std::optional<Curve>& curve, double now);
-// The same by a distance from where the content is seen now.
-bool scrollBy(Node& area, double distance, double now);
-// The same as far as it takes to bring a node below it into sight.
-void scrollIntoView(Node& area, const Node& node, const std::optional<Curve>& curve, double now);
+/// Scrolls a scroll view's node at once, by a distance in points from what is presented, within its
+/// limits. False when it cannot move or is no scroll view.
+bool scrollBy(Node& node, double distance, double now);
+
+/// Scrolls all scroll views around the node as far as necessary to make it visible, along the curve
+/// or at once.
+void scrollIntoView(const Node& node, const std::optional<Curve>& curve, double now);
 
 }  // namespace orvane::ui

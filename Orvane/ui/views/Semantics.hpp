@@ -1,8 +1,7 @@
-// The tree of what a user of a screen reader, a test or a script can perceive and do.
+// The semantics tree: what users of a screen reader, tests and scripts can perceive and do.
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,36 +25,27 @@ enum class Role {
 enum class SemanticsAction { press };
 
 struct SemanticsNode {
-  // Stays the same while the view keeps its place; never used again for another one.
+  /// That of the node. It stays while the view keeps its identity, and is never reused.
   std::uint64_t id = 0;
   Role role = Role::group;
   std::string label;
   std::string value;
-  // In full, the texts in it of which not all is drawn; empty when nothing is cut. The host's
-  // tooltip over it says the same, unless a view there has one of its own.
+  /// The full texts in it that are drawn truncated, which the host also offers as its tooltip;
+  /// empty when none is.
   std::string cutText;
   bool isEnabled = true;
   bool isSelected = false;
   bool isFocusable = false;
   bool isFocused = false;
-  // As presented, in the host's coordinates.
+  /// As presented, in host coordinates.
   Rect frame;
   std::vector<SemanticsAction> actions;
   std::vector<SemanticsNode> children;
 
-  bool isControl() const { return !actions.empty(); }
+  [[nodiscard]] bool isControl() const { return !actions.empty(); }
 };
 
-// What a view changes about the element it describes; what is empty stays as it was.
-struct SemanticsChange {
-  std::optional<Role> role;
-  std::optional<std::string> label;
-  std::optional<std::string> value;
-  std::optional<bool> isSelected;
-  bool isHidden = false;
-};
-
-// A role's name in words, such as "button".
-const char* roleName(Role role);
+/// Such as "button".
+[[nodiscard]] const char* roleName(Role role);
 
 }  // namespace orvane::ui

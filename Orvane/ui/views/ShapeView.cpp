@@ -1,4 +1,4 @@
-// Shapes with their layers of paint; all their numbers and colours are animatable.
+// A shape with its fills and strokes, whose numbers and colours can all be animated.
 #include "Orvane/ui/views/ShapeView.hpp"
 
 #include <vector>
@@ -20,11 +20,10 @@ class ShapeElement final : public Element {
  public:
   explicit ShapeElement(const Shape& shape) : shape_(shape) {}
 
-  void add(ShapeLayer layer) { layers_.push_back(std::move(layer)); }
+  void add(const ShapeLayer& layer) { layers_.push_back(layer); }
   void cast(const Shadow& shadow) { shadows_.push_back(shadow); }
 
   Size measure(Node&, const Proposal& proposal, LayoutPass&) const override {
-    // Without an offer a shape must be seen somehow.
     constexpr double ideal = 10;
     return {proposal.width.value_or(ideal), proposal.height.value_or(ideal)};
   }
@@ -84,22 +83,22 @@ ShapeView::ShapeView(const Shape& shape) : ShapeView(std::make_shared<ShapeEleme
 ShapeView::ShapeView(std::shared_ptr<const ShapeElement> element)
     : View(element), shape_(std::move(element)) {}
 
-ShapeView ShapeView::fill(const Fill& fill) const {
+ShapeView ShapeView::adding(const ShapeLayer& layer) const {
   auto changed = std::make_shared<ShapeElement>(*shape_);
-  changed->add({ShapeLayer::Kind::fill, fill, 0});
+  changed->add(layer);
   return ShapeView(std::move(changed));
+}
+
+ShapeView ShapeView::fill(const Fill& fill) const {
+  return adding({ShapeLayer::Kind::fill, fill, 0});
 }
 
 ShapeView ShapeView::stroke(const Fill& fill, double lineWidth) const {
-  auto changed = std::make_shared<ShapeElement>(*shape_);
-  changed->add({ShapeLayer::Kind::stroke, fill, lineWidth});
-  return ShapeView(std::move(changed));
+  return adding({ShapeLayer::Kind::stroke, fill, lineWidth});
 }
 
 ShapeView ShapeView::strokeBorder(const Fill& fill, double lineWidth) const {
-  auto changed = std::make_shared<ShapeElement>(*shape_);
-  changed->add({ShapeLayer::Kind::strokeBorder, fill, lineWidth});
-  return ShapeView(std::move(changed));
+  return adding({ShapeLayer::Kind::strokeBorder, fill, lineWidth});
 }
 
 ShapeView ShapeView::castShadow(const Shadow& shadow) const {

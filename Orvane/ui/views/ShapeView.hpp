@@ -1,5 +1,4 @@
-// Shapes as views: they take the size they are offered, and are painted with fills and strokes one
-// above the other, in the order of the calls.
+// Shapes as views.
 #pragma once
 
 #include <memory>
@@ -10,43 +9,46 @@
 namespace orvane::ui {
 
 class ShapeElement;
+struct ShapeLayer;
 
-class ShapeView : public View {
+/// Takes the proposed size. Fills and strokes are painted in the order of the calls; without any,
+/// the shape is filled with the inherited colour.
+class [[nodiscard]] ShapeView : public View {
  public:
   explicit ShapeView(const Shape& shape);
 
-  // A shape that is neither filled nor stroked is filled with the inherited colour.
   ShapeView fill(const Fill& fill) const;
-  // A line centred on the outline, or all inside of it.
+  /// A line centred on the outline, or inside of it.
   ShapeView stroke(const Fill& fill, double lineWidth = 1) const;
   ShapeView strokeBorder(const Fill& fill, double lineWidth = 1) const;
-  // The shadow of the shape itself, as if it were opaque, only around it: under a translucent fill
-  // nothing darkens. (View::shadow is cast by what is really painted.)
+  /// The shadow that the opaque shape would cast, painted only around it, so that it does not
+  /// darken a translucent fill. (View::shadow is cast by what is painted.)
   ShapeView castShadow(const Shadow& shadow) const;
 
  private:
   explicit ShapeView(std::shared_ptr<const ShapeElement> element);
+  ShapeView adding(const ShapeLayer& layer) const;
 
   std::shared_ptr<const ShapeElement> shape_;
 };
 
-class Rectangle : public ShapeView {
+class [[nodiscard]] Rectangle : public ShapeView {
  public:
   Rectangle() : ShapeView(Shape::rectangle()) {}
 };
 
-class RoundedRectangle : public ShapeView {
+class [[nodiscard]] RoundedRectangle : public ShapeView {
  public:
   explicit RoundedRectangle(double cornerRadius, CornerStyle style = CornerStyle::continuous)
       : ShapeView(Shape::rounded(cornerRadius, style)) {}
 };
 
-class Capsule : public ShapeView {
+class [[nodiscard]] Capsule : public ShapeView {
  public:
   Capsule() : ShapeView(Shape::capsule()) {}
 };
 
-class Circle : public ShapeView {
+class [[nodiscard]] Circle : public ShapeView {
  public:
   Circle() : ShapeView(Shape::circle()) {}
 };

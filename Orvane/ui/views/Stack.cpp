@@ -1,13 +1,14 @@
-// The stacks on top of the kernel that divides lengths.
+// The stacks, spacers and dividers. StackLayout divides the lengths.
 #include "Orvane/ui/views/Stack.hpp"
 
 #include <algorithm>
 
 #include "Orvane/ui/draw/DrawContext.hpp"
-#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/layout/StackLayout.hpp"
 #include "Orvane/ui/views/Attributes.hpp"
+#include "Orvane/ui/views/Group.hpp"
 
 namespace orvane::ui {
 
@@ -15,15 +16,15 @@ namespace {
 
 class StackElement final : public Element {
  public:
-  // The alignment across the stack is a fraction: 0 at the leading or top side, 1 at the other.
+  // The alignment across the stack is a fraction: 0 is the leading or top side, 1 the other.
   StackElement(Axis axis, double spacing, double alignment, std::vector<View> children)
       : axis_(axis), spacing_(spacing), alignment_(alignment), children_(std::move(children)) {}
 
   std::optional<Axis> stackAxis() const override { return axis_; }
   double layoutPriority(const Node&) const override { return 0; }
 
-  void build(Node& node, Builder& builder) const override {
-    builder.members(node, children_, node.environment);
+  void build(Node& node, BuildPass& pass) const override {
+    pass.members(node, children_, node.environment);
   }
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
@@ -64,7 +65,7 @@ class StackElement final : public Element {
       return lengthAlong(axis_, pass.measure(*node.children[index], asked));
     };
     std::vector<StackItem> items(node.children.size());
-    // The extremes only matter where several children compete for a definite length.
+    // The extremes only matter to several children that compete for a finite length.
     const bool compete = items.size() > 1 && proposal.along(axis_).value_or(infinity) < infinity;
     for (std::size_t index = 0; compete && index < items.size(); ++index) {
       const Node& child = *node.children[index];
@@ -80,35 +81,15 @@ class StackElement final : public Element {
   std::vector<View> children_;
 };
 
-class DepthElement final : public Element {
+class ZStackElement final : public OverlaidElement {
  public:
-  DepthElement(Alignment alignment, std::vector<View> children)
-      : alignment_(alignment), children_(std::move(children)) {}
+  using OverlaidElement::OverlaidElement;
 
-  double layoutPriority(const Node&) const override { return 0; }
+  [[nodiscard]] double layoutPriority(const Node&) const override { return 0; }
 
-  void build(Node& node, Builder& builder) const override {
-    builder.members(node, children_, node.environment);
+  void build(Node& node, BuildPass& pass) const override {
+    pass.members(node, members(), node.environment);
   }
-
-  Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
-    Size result;
-    for (const auto& child : node.children) {
-      const Size size = pass.measure(*child, proposal);
-      result = {std::max(result.width, size.width), std::max(result.height, size.height)};
-    }
-    return result;
-  }
-
-  void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
-    for (const auto& child : node.children) {
-      pass.placeAligned(*child, size, alignment_, proposal);
-    }
-  }
-
- private:
-  Alignment alignment_;
-  std::vector<View> children_;
 };
 
 std::optional<Axis> axisAround(const Node& node) {
@@ -124,7 +105,7 @@ class SpacerElement final : public Element {
  public:
   explicit SpacerElement(double minimum) : minimum_(std::max(0.0, minimum)) {}
 
-  // Last in its stack: it takes only what nobody else wants.
+  // Served last, with what the others leave.
   double layoutPriority(const Node&) const override { return -infinity; }
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass&) const override {
@@ -158,10 +139,8 @@ class DividerElement final : public Element {
   }
 };
 
-double fraction(HorizontalAlignment alignment) {
-  return static_cast<double>(alignment) / 2;
-}
-double fraction(VerticalAlignment alignment) {
+template <typename AlignmentAcross>
+double fraction(AlignmentAcross alignment) {
   return static_cast<double>(alignment) / 2;
 }
 
@@ -176,7 +155,7 @@ HStack::HStack(double spacing, VerticalAlignment alignment, const std::vector<Vi
                                           children)) {}
 
 ZStack::ZStack(Alignment alignment, const std::vector<View>& children)
-    : View(std::make_shared<DepthElement>(alignment, children)) {}
+    : View(std::make_shared<ZStackElement>(alignment, children)) {}
 
 Spacer::Spacer(double minimum) : View(std::make_shared<SpacerElement>(minimum)) {}
 

@@ -1,4 +1,4 @@
-// Views in a row, in a column, or above one another.
+// Views in a column, in a row, or on top of each other.
 #pragma once
 
 #include <vector>
@@ -10,8 +10,8 @@ namespace orvane::ui {
 enum class HorizontalAlignment { leading, center, trailing };
 enum class VerticalAlignment { top, center, bottom };
 
-// A column. Children get the spacing between them, exactly, and are aligned across the column.
-class VStack : public View {
+/// A column, with exactly this spacing between the children.
+class [[nodiscard]] VStack : public View {
  public:
   explicit VStack(const std::vector<View>& children) : VStack(defaultSpacing, children) {}
   VStack(double spacing, const std::vector<View>& children)
@@ -19,8 +19,8 @@ class VStack : public View {
   VStack(double spacing, HorizontalAlignment alignment, const std::vector<View>& children);
 };
 
-// A row, from leading to trailing.
-class HStack : public View {
+/// A row, from leading to trailing.
+class [[nodiscard]] HStack : public View {
  public:
   explicit HStack(const std::vector<View>& children) : HStack(defaultSpacing, children) {}
   HStack(double spacing, const std::vector<View>& children)
@@ -28,21 +28,21 @@ class HStack : public View {
   HStack(double spacing, VerticalAlignment alignment, const std::vector<View>& children);
 };
 
-// Children above one another, the first one lowest; as large as the largest.
-class ZStack : public View {
+/// Children on top of each other, the first one lowest; as large as the largest.
+class [[nodiscard]] ZStack : public View {
  public:
   explicit ZStack(const std::vector<View>& children) : ZStack(Alignment::center(), children) {}
   ZStack(Alignment alignment, const std::vector<View>& children);
 };
 
-// Takes what room is left along its stack, at least the minimum.
-class Spacer : public View {
+/// Takes the remaining room along its stack, at least the minimum.
+class [[nodiscard]] Spacer : public View {
  public:
   explicit Spacer(double minimum = 0);
 };
 
-// A hairline across the stack it stands in, in the faintest label colour.
-class Divider : public View {
+/// A hairline across its stack, in the faintest label colour.
+class [[nodiscard]] Divider : public View {
  public:
   Divider();
 };

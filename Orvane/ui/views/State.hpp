@@ -1,7 +1,7 @@
-// State of a composite view: it lives in the retained node, and a handle to it may be kept by
-// handlers that outlive the node.
+// State of a composite view. It lives in the view's node; handlers may keep a handle to it.
 #pragma once
 
+#include <any>
 #include <map>
 #include <memory>
 #include <optional>
@@ -13,37 +13,30 @@
 
 namespace orvane::ui {
 
-class StateCellBase {
- public:
-  virtual ~StateCellBase() = default;
-};
-
 template <typename T>
-class StateCell : public StateCellBase {
- public:
-  StateCell(T initial, std::weak_ptr<HostLink> owner)
-      : value(std::move(initial)), link(std::move(owner)) {}
-
+struct StateCell {
   T value;
   std::weak_ptr<HostLink> link;
 };
 
-// All state of one node, by name.
-class StateStore {
- public:
-  std::map<std::string, std::shared_ptr<StateCellBase>> cells;
+/// The state of one node.
+struct StateStore {
+  /// By name; each value is a std::shared_ptr<StateCell<T>>.
+  std::map<std::string, std::any> cells;
+  bool isBodyRunning = false;
 };
 
+/// A handle to one value. It may outlive the node and the host.
 template <typename T>
 class State {
  public:
   explicit State(std::shared_ptr<StateCell<T>> cell) : cell_(std::move(cell)) {}
 
-  const T& value() const { return cell_->value; }
-  const T& operator*() const { return cell_->value; }
+  [[nodiscard]] const T& value() const { return cell_->value; }
+  [[nodiscard]] const T& operator*() const { return cell_->value; }
 
-  // Changes the value and asks the host for a new body; the changes that follow travel along the
-  // curve, if one is given. An equal value changes nothing, and a host that is gone hears nothing.
+  /// Changes the value and invalidates the host, if it still exists; changes that follow are
+  /// animated along the curve, if there is one. An equal value changes nothing.
   void set(T value, const std::optional<Curve>& curve = std::nullopt) const {
     if (cell_->value == value) {
       return;

@@ -1,10 +1,10 @@
-// Text remembers how it was broken, so that a redraw does not shape it anew.
+// The node keeps the lines of the text, so that an update does not shape it again.
 #include "Orvane/ui/views/Text.hpp"
 
 #include <cmath>
 
 #include "Orvane/ui/draw/DrawContext.hpp"
-#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/views/Attributes.hpp"
 
@@ -12,22 +12,22 @@ namespace orvane::ui {
 
 namespace {
 
-// In points. A stack of its own ideal width hands a text its ideal width back only up to rounding,
-// which must not cut the text.
+// In points. A text that gets its ideal width back from a stack, with a rounding error, must not be
+// truncated.
 constexpr double slack = 1.0e-6;
 
-// In steps of this tracking goes, in points, so that every platform's text engine keeps to it.
+// Tracking is a multiple of this, in points, which every platform's text engine represents exactly.
 constexpr double trackingStep = 1.0 / 64;
 
-// How a text is broken, and the font it is drawn in: its own, perhaps set closer.
+// The lines of a text, and the font they are drawn in: its own, perhaps with tighter tracking.
 struct BrokenText {
   Font font;
   TextLayout layout;
 };
 
-// What a text node keeps: how its present text was broken, and how it was placed.
+// A text node keeps the lines for each width it was proposed, and those it was placed with.
 struct TextData {
-  struct Known {
+  struct Entry {
     double width;
     int lineLimit;
     BrokenText broken;
@@ -38,7 +38,7 @@ struct TextData {
   TruncationMode truncation;
   double tightening;
   std::optional<double> lineHeight;
-  std::vector<Known> known;
+  std::vector<Entry> entries;
   BrokenText placed;
 
   bool isFor(const std::string& wanted, const Environment& inherited) const {
@@ -58,17 +58,17 @@ class TextElement final : public Element {
  public:
   explicit TextElement(std::string text) : text_(std::move(text)) {}
 
-  void build(Node& node, Builder&) const override {
+  void build(Node& node, BuildPass&) const override {
     const auto* data = std::any_cast<TextData>(&node.data);
     const Environment& inherited = *node.environment;
     if (data == nullptr || !data->isFor(text_, inherited)) {
-      node.data = TextData{text_,
-                           inherited.font,
-                           inherited.truncationMode,
-                           inherited.tightening,
-                           inherited.lineHeight,
-                           {},
-                           {}};
+      node.data = TextData{.text = text_,
+                           .font = inherited.font,
+                           .truncation = inherited.truncationMode,
+                           .tightening = inherited.tightening,
+                           .lineHeight = inherited.lineHeight,
+                           .entries = {},
+                           .placed = {}};
     }
   }
 
@@ -119,35 +119,35 @@ class TextElement final : public Element {
   const BrokenText& brokenFor(Node& node, const Proposal& proposal, LayoutPass& pass) const {
     const double width = proposal.width.value_or(infinity);
     const int limit = node.environment->lineLimit;
-    const BrokenText& free = known(node, width, limit, pass);
+    const BrokenText& natural = layoutFor(node, width, limit, pass);
     if (!proposal.height || std::isinf(*proposal.height)) {
-      return free;
+      return natural;
     }
-    // As many whole lines as fit, at least one; the small share forgives rounding.
-    const double lineHeight = free.layout.lineHeight;
+    // As many whole lines as fit, at least one, with a tolerance for rounding.
+    const double lineHeight = natural.layout.lineHeight;
     const double fitting = lineHeight > 0 ? *proposal.height / lineHeight + 0.001 : 1;
-    if (fitting >= static_cast<double>(free.layout.lines.size())) {
-      return free;
+    if (fitting >= static_cast<double>(natural.layout.lines.size())) {
+      return natural;
     }
-    return known(node, width, std::max(1, static_cast<int>(fitting)), pass);
+    return layoutFor(node, width, std::max(1, static_cast<int>(fitting)), pass);
   }
 
-  const BrokenText& known(Node& node, double width, int lineLimit, LayoutPass& pass) const {
+  const BrokenText& layoutFor(Node& node, double width, int lineLimit, LayoutPass& pass) const {
     auto& data = std::any_cast<TextData&>(node.data);
-    for (const TextData::Known& entry : data.known) {
+    for (const TextData::Entry& entry : data.entries) {
       if (entry.width == width && entry.lineLimit == lineLimit) {
         return entry.broken;
       }
     }
-    // A window being resized must not gather layouts without end. The number is larger than what
-    // one pass asks for, and clearing happens before adding, so the result below stays valid.
-    constexpr std::size_t capacity = 24;
-    if (data.known.size() >= capacity) {
-      data.known.clear();
+    // More than one layout pass asks for; while a window is resized, old entries are dropped.
+    // References to entries stay valid until then.
+    constexpr std::size_t maximumCount = 24;
+    if (data.entries.size() >= maximumCount) {
+      data.entries.clear();
     }
-    data.known.reserve(capacity);
-    data.known.push_back({width, lineLimit, broken(data, width, lineLimit, pass.text())});
-    BrokenText& added = data.known.back().broken;
+    data.entries.reserve(maximumCount);
+    data.entries.push_back({width, lineLimit, broken(data, width, lineLimit, pass.text())});
+    BrokenText& added = data.entries.back().broken;
     if (data.lineHeight) {
       setLineHeight(added.layout, *data.lineHeight, data.font, pass.text());
     }
@@ -163,19 +163,18 @@ class TextElement final : public Element {
     if (!natural.isTruncated || lineLimit != 1 || data.tightening <= 0) {
       return {data.font, std::move(natural)};
     }
-    // What a point of tracking takes is measured: how many characters a text has is the font's
-    // business.
-    Font closer = data.font;
-    closer.tracking -= 1;
+    // The effect of tracking is measured, since the number of glyphs depends on the font.
+    Font tighter = data.font;
+    tighter.tracking -= 1;
     const double fullWidth = layoutIn(data.font, infinity).size().width;
-    const double perPoint = fullWidth - layoutIn(closer, infinity).size().width;
+    const double perPoint = fullWidth - layoutIn(tighter, infinity).size().width;
     const double excess = fullWidth - width;
     if (excess <= fullWidth * data.tightening && perPoint > 0) {
-      closer.tracking =
+      tighter.tracking =
           data.font.tracking - std::ceil(excess / perPoint / trackingStep) * trackingStep;
-      TextLayout tight = layoutIn(closer, width);
+      TextLayout tight = layoutIn(tighter, width);
       if (!tight.isTruncated) {
-        return {closer, std::move(tight)};
+        return {tighter, std::move(tight)};
       }
     }
     return {data.font, std::move(natural)};

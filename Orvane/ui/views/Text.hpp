@@ -1,6 +1,4 @@
-// Text in the inherited font and colour. It wraps in the width it is offered, and is cut with an
-// ellipsis where it is offered too little height or its line limit ends it; then the host's tooltip
-// over it, or over the control that it is in, tells it in full.
+// Text in the inherited font and colour.
 #pragma once
 
 #include <string>
@@ -9,7 +7,10 @@
 
 namespace orvane::ui {
 
-class Text : public View {
+/// Wraps in the proposed width. With too little height, or too many lines for its line limit, it is
+/// truncated with an ellipsis; the host's tooltip over it, or over its control, is then the full
+/// text.
+class [[nodiscard]] Text : public View {
  public:
   explicit Text(std::string text);
 };

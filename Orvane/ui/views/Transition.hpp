@@ -1,4 +1,4 @@
-// How a view comes and goes: what it looks like when it is not there.
+// How a view appears and disappears: its effect while it is absent.
 #pragma once
 
 #include <algorithm>
@@ -9,24 +9,23 @@
 namespace orvane::ui {
 
 struct Transition {
-  // The absent view's opacity, its scale about its middle, and the edge it has moved off by its own
-  // width or height.
+  /// The absent view's opacity, its scale about its centre, and the edge beyond which it has moved
+  /// by its own width or height.
   double absentOpacity = 1;
   double absentScale = 1;
   std::optional<Edge> moveEdge = std::nullopt;
-  // The fraction of its way, less than 1, that the view covers before its opacity begins to change.
+  /// The opacity begins to change after this fraction of the transition, less than 1.
   double opacityDelay = 0;
 
   static Transition opacity() { return {.absentOpacity = 0}; }
-  // For views that replace one another in one place: the old one fades in the first half of the
-  // way, the new one in the second half, and both are never seen at once. Of three views or more
-  // this holds when each change begins after the one before has ended.
+  /// For views that replace each other in one place: the old one fades out in the first half, the
+  /// new one fades in in the second half, and the two are never visible at once. With more than two
+  /// views this holds if each change begins after the previous one has ended.
   static Transition fadeThrough() { return {.absentOpacity = 0, .opacityDelay = 0.5}; }
   static Transition scale(double from = 0) { return {.absentScale = from}; }
   static Transition move(Edge edge) { return {.moveEdge = edge}; }
 
-  // Both at once.
-  Transition combined(const Transition& other) const {
+  [[nodiscard]] Transition combined(const Transition& other) const {
     Transition result = *this;
     result.absentOpacity *= other.absentOpacity;
     result.absentScale *= other.absentScale;

@@ -15,11 +15,12 @@ namespace {
 // Shows its label with a mark while it is pressed; 40 by 20 points.
 struct MarkingStyle {
   View body(const ButtonConfiguration& configuration, const Environment&) const {
-    return ZStack({configuration.label, when(configuration.isPressed, Text("!"))}).frame(40, 20);
+    return ZStack({configuration.label, when(configuration.isPressed, [] { return Text("!"); })})
+        .frame(40, 20);
   }
 };
 
-class PointerTest : public testing::Test {
+class PointerInputTest : public testing::Test {
  protected:
   View button(const std::string& title) {
     return Button(title, [this, title] { log += title; }).style(MarkingStyle{});
@@ -29,16 +30,12 @@ class PointerTest : public testing::Test {
     return Button(title, [this, title] { log += title; }).style(BareButtonStyle{});
   }
   bool showsPress() { return test.drawing().find("\"!\"") != std::string::npos; }
-  void update() {
-    test.host->invalidate();
-    test.host->layoutIfNeeded();
-  }
 
   TestHost test{{40, 20}};
   std::string log;
 };
 
-TEST_F(PointerTest, AClickIsAPressAndAReleaseInside) {
+TEST_F(PointerInputTest, AClickIsAPressAndAReleaseInside) {
   test.show(button("a"));
   EXPECT_TRUE(test.host->pointerDown({20, 10}));
   test.host->layoutIfNeeded();
@@ -50,7 +47,7 @@ TEST_F(PointerTest, AClickIsAPressAndAReleaseInside) {
   EXPECT_EQ(log, "a");
 }
 
-TEST_F(PointerTest, DraggingOutCancelsAndDraggingBackArmsAgain) {
+TEST_F(PointerInputTest, DraggingOutCancelsAndDraggingBackArmsAgain) {
   test.show(button("a"));
   test.host->pointerDown({20, 10});
   test.host->pointerDragged({60, 10});
@@ -64,7 +61,7 @@ TEST_F(PointerTest, DraggingOutCancelsAndDraggingBackArmsAgain) {
   EXPECT_EQ(log, "");
 }
 
-TEST_F(PointerTest, ACancelledPressDoesNothing) {
+TEST_F(PointerInputTest, ACancelledPressDoesNothing) {
   test.show(button("a"));
   test.host->pointerDown({20, 10});
   test.host->pointerCancelled();
@@ -72,50 +69,50 @@ TEST_F(PointerTest, ACancelledPressDoesNothing) {
   EXPECT_EQ(log, "");
 }
 
-TEST_F(PointerTest, APressEndsWithItsNode) {
+TEST_F(PointerInputTest, APressEndsWithItsNode) {
   std::string id = "one";
   test.show([&](const Environment&) { return button("a").id(id); });
   test.host->pointerDown({20, 10});
   id = "two";
-  update();
+  test.update();
   EXPECT_FALSE(test.host->pointerUp({20, 10}));
   EXPECT_EQ(log, "");
   EXPECT_FALSE(showsPress());
 }
 
-TEST_F(PointerTest, APressEndsWhenItsControlIsDisabled) {
+TEST_F(PointerInputTest, APressEndsWhenItsControlIsDisabled) {
   bool isDisabled = false;
   test.show([&](const Environment&) { return button("a").disabled(isDisabled); });
   test.host->pointerDown({20, 10});
   isDisabled = true;
-  update();
+  test.update();
   test.host->pointerUp({20, 10});
   isDisabled = false;
-  update();
+  test.update();
   EXPECT_EQ(log, "");
   EXPECT_FALSE(showsPress());
 }
 
-TEST_F(PointerTest, DisabledSubtreesTakeThePressAndDoNothing) {
+TEST_F(PointerInputTest, DisabledSubtreesTakeThePressAndDoNothing) {
   test.show(ZStack({button("below"), VStack({button("a")}).disabled(true)}));
   EXPECT_TRUE(test.host->pointerDown({20, 10}));
   test.host->pointerUp({20, 10});
   EXPECT_EQ(log, "");
 }
 
-TEST_F(PointerTest, TheTopmostControlIsHit) {
+TEST_F(PointerInputTest, TheTopmostControlIsHit) {
   test.show(ZStack({button("a"), button("b")}));
   test.click({20, 10});
   EXPECT_EQ(log, "b");
 }
 
-TEST_F(PointerTest, WhatCannotBeSeenOrHitLetsThePointerThrough) {
+TEST_F(PointerInputTest, WhatCannotBeSeenOrHitLetsThePointerThrough) {
   test.show(ZStack({button("a"), button("b").hitTesting(false), button("c").opacity(0)}));
   test.click({20, 10});
   EXPECT_EQ(log, "a");
 }
 
-TEST_F(PointerTest, HitsFollowOffsetsAndScalesAsPresented) {
+TEST_F(PointerInputTest, HitsFollowOffsetsAndScalesAsPresented) {
   test.host->setSize({200, 100});
   test.show(button("a").scale(0.5).offset(50, 0));
   // The button's 40 by 20 points in the middle, halved and moved: 140 to 160, 45 to 55.
@@ -127,19 +124,19 @@ TEST_F(PointerTest, HitsFollowOffsetsAndScalesAsPresented) {
   EXPECT_EQ(log, "a");
 }
 
-TEST_F(PointerTest, HitsFollowAMotionUnderWay) {
+TEST_F(PointerInputTest, HitsFollowAMotionUnderWay) {
   test.host->setSize({200, 20});
   double x = -50;
   test.show(
       [&](const Environment&) { return button("a").offset(x, 0).animation(Curve::linear(1), x); });
   x = 50;
-  update();
+  test.update();
   test.at(0.5);
   test.click({100, 10});
   EXPECT_EQ(log, "a");
 }
 
-TEST_F(PointerTest, HoverIsToldOnceEachWay) {
+TEST_F(PointerInputTest, HoverIsToldOnceEachWay) {
   test.host->setSize({100, 20});
   test.show(Rectangle().frame(40, 20).onHover([this](bool inside) { log += inside ? "+" : "-"; }));
   test.host->pointerMoved({10, 10});
@@ -154,7 +151,7 @@ TEST_F(PointerTest, HoverIsToldOnceEachWay) {
   EXPECT_EQ(log, "+-+-");
 }
 
-TEST_F(PointerTest, HoverIsFoundAnewAfterLayoutThoughThePointerIsStill) {
+TEST_F(PointerInputTest, HoverIsFoundAnewAfterLayoutThoughThePointerIsStill) {
   test.host->setSize({100, 20});
   double x = 30;
   test.show([&](const Environment&) {
@@ -166,42 +163,42 @@ TEST_F(PointerTest, HoverIsFoundAnewAfterLayoutThoughThePointerIsStill) {
   test.host->pointerMoved({30, 10});
   EXPECT_EQ(log, "");
   x = -20;
-  update();
+  test.update();
   EXPECT_EQ(log, "+");
   x = 30;
-  update();
+  test.update();
   EXPECT_EQ(log, "+-");
 }
 
-TEST_F(PointerTest, AClusterAndTheControlInItHoverTogether) {
+TEST_F(PointerInputTest, AClusterAndTheControlInItHoverTogether) {
   test.show(HStack(0, {button("a").onHover([this](bool in) { log += in ? "i" : "o"; })})
                 .onHover([this](bool in) { log += in ? "I" : "O"; }));
   test.host->pointerMoved({20, 10});
   EXPECT_EQ(log, "iI");
 }
 
-TEST_F(PointerTest, AHandlerMayRemoveItsView) {
+TEST_F(PointerInputTest, AHandlerMayRemoveItsView) {
   bool isShown = true;
   test.show([&](const Environment&) -> View {
-    return ZStack({when(isShown, Button("a", [&] {
-                                   isShown = false;
-                                   test.host->invalidate();
-                                   test.host->layoutIfNeeded();
-                                   log += "gone";
-                                 }).style(MarkingStyle{}))});
+    const auto remove = [&] {
+      isShown = false;
+      test.update();
+      log += "gone";
+    };
+    return ZStack({when(isShown, [&] { return Button("a", remove).style(MarkingStyle{}); })});
   });
   test.click({20, 10});
   EXPECT_EQ(log, "gone");
   EXPECT_EQ(test.frames(), "");
 }
 
-TEST_F(PointerTest, AHandlerMayDestroyItsHost) {
+TEST_F(PointerInputTest, AHandlerMayDestroyItsHost) {
   test.show(Button("a", [this] { test.host.reset(); }).style(MarkingStyle{}));
   test.click({20, 10});
   EXPECT_FALSE(test.host);
 }
 
-TEST_F(PointerTest, AHoverOrAppearanceHandlerMayDestroyItsHost) {
+TEST_F(PointerInputTest, AHoverOrAppearanceHandlerMayDestroyItsHost) {
   test.show(button("a").onHover([this](bool) { test.host.reset(); }));
   test.host->pointerMoved({20, 10});
   EXPECT_FALSE(test.host);
@@ -213,7 +210,7 @@ TEST_F(PointerTest, AHoverOrAppearanceHandlerMayDestroyItsHost) {
   EXPECT_FALSE(other.host);
 }
 
-TEST_F(PointerTest, ScrollingStopsAtBothEnds) {
+TEST_F(PointerInputTest, ScrollingStopsAtBothEnds) {
   test.host->setSize({30, 10});
   test.show(
       ScrollView(HStack(0, {bareButton("aaaaaa"), bareButton("bbbbbb")})).font(Font::system(10)));
@@ -229,7 +226,7 @@ TEST_F(PointerTest, ScrollingStopsAtBothEnds) {
   EXPECT_FALSE(test.host->scroll({5, 50}, -5, 0)) << "not over the view";
 }
 
-TEST_F(PointerTest, WhatIsScrolledOutOfSightCannotBeHit) {
+TEST_F(PointerInputTest, WhatIsScrolledOutOfSightCannotBeHit) {
   test.host->setSize({60, 10});
   test.show(ScrollView(HStack(0, {Text("aaaaaa"), bareButton("bbbbbb")}))
                 .frame(30, 10, Alignment::leading())
@@ -239,19 +236,19 @@ TEST_F(PointerTest, WhatIsScrolledOutOfSightCannotBeHit) {
   EXPECT_EQ(log, "");
 }
 
-TEST_F(PointerTest, TheScrollOffsetOutlivesARedrawAndFollowsItsContent) {
+TEST_F(PointerInputTest, TheScrollOffsetOutlivesARedrawAndFollowsItsContent) {
   std::string text = "aaaaaaaaaaaa";
   test.host->setSize({30, 10});
   test.show([&](const Environment&) { return ScrollView(Text(text)).font(Font::system(10)); });
   test.host->scroll({5, 5}, 25, 0);
-  update();
+  test.update();
   EXPECT_EQ(test.element(text)->frame.x, -25);
   text = "aaaaaaaa";
-  update();
+  test.update();
   EXPECT_EQ(test.element(text)->frame.x, -10);
 }
 
-TEST_F(PointerTest, ADragBeginsAfterAFewPointsAndClicksNothing) {
+TEST_F(PointerInputTest, ADragBeginsAfterAFewPointsAndClicksNothing) {
   test.show(Rectangle().frame(40, 20).dragSource([] { return DragItem{"file:///app", "icon"}; }));
   EXPECT_FALSE(test.host->movesWindowAt({20, 10}));
   EXPECT_TRUE(test.host->pointerDown({20, 10}));
@@ -265,7 +262,7 @@ TEST_F(PointerTest, ADragBeginsAfterAFewPointsAndClicksNothing) {
   EXPECT_EQ(test.drags[0].frame, (Rect{0, 0, 40, 20}));
 }
 
-TEST_F(PointerTest, ADragSourceWithoutAnItemStartsNothing) {
+TEST_F(PointerInputTest, ADragSourceWithoutAnItemStartsNothing) {
   test.show(Rectangle().dragSource([this]() -> std::optional<DragItem> {
     log += "?";
     return std::nullopt;
@@ -278,23 +275,13 @@ TEST_F(PointerTest, ADragSourceWithoutAnItemStartsNothing) {
   EXPECT_TRUE(test.host->pointerUp({35, 10}));
 }
 
-TEST_F(PointerTest, TheWindowMovesWhereNoViewTakesThePress) {
+TEST_F(PointerInputTest, TheWindowMovesWhereNoViewTakesThePress) {
   test.host->setSize({100, 20});
   test.show(HStack(0, {Text("title"), button("a")}));
   EXPECT_TRUE(test.host->movesWindowAt({5, 10}));
   EXPECT_FALSE(test.host->pointerDown({5, 10}));
   const Rect frame = test.element("a")->frame;
   EXPECT_FALSE(test.host->movesWindowAt(frame.center()));
-}
-
-TEST_F(PointerTest, TooltipsBelongToTheirView) {
-  test.host->setSize({100, 20});
-  test.show(Rectangle().frame(40, 20).tooltip("Settings"));
-  EXPECT_FALSE(test.host->tooltipAt({10, 10}));
-  const std::optional<Tooltip> tooltip = test.host->tooltipAt({50, 10});
-  ASSERT_TRUE(tooltip);
-  EXPECT_EQ(tooltip->text, "Settings");
-  EXPECT_EQ(tooltip->frame, (Rect{30, 0, 40, 20}));
 }
 
 }  // namespace

@@ -1,20 +1,20 @@
-// The modifiers that change what is inherited by everything below.
-#include "Orvane/ui/host/Builder.hpp"
-#include "Orvane/ui/views/WrapperElement.hpp"
+// The modifiers that change the environment of a view.
+#include "Orvane/ui/host/BuildPass.hpp"
+#include "Orvane/ui/views/Modifiers.hpp"
 
 namespace orvane::ui {
 
 namespace {
 
-class EnvironmentElement final : public WrapperElement {
+class EnvironmentElement final : public ModifierElement {
  public:
   EnvironmentElement(View content, std::function<void(Environment&)> change)
-      : WrapperElement(std::move(content)), change_(std::move(change)) {}
+      : ModifierElement(std::move(content)), change_(std::move(change)) {}
 
-  void build(Node& node, Builder& builder) const override {
+  void build(Node& node, BuildPass& pass) const override {
     const auto changed = std::make_shared<Environment>(*node.environment);
     change_(*changed);
-    builder.children(node, {content()}, changed);
+    pass.children(node, {&content(), 1}, changed);
   }
 
  private:

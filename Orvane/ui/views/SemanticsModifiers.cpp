@@ -1,15 +1,24 @@
-// The modifiers that correct or complete what a view tells a screen reader.
+// The modifiers that change the elements of a view in the semantics tree.
+#include "Orvane/ui/views/Modifiers.hpp"
 #include "Orvane/ui/views/Node.hpp"
-#include "Orvane/ui/views/WrapperElement.hpp"
 
 namespace orvane::ui {
 
 namespace {
 
-class SemanticsElement final : public WrapperElement {
+// Unset members change nothing.
+struct SemanticsChange {
+  std::optional<Role> role = std::nullopt;
+  std::optional<std::string> label = std::nullopt;
+  std::optional<std::string> value = std::nullopt;
+  std::optional<bool> isSelected = std::nullopt;
+  bool isHidden = false;
+};
+
+class SemanticsElement final : public ModifierElement {
  public:
   SemanticsElement(View content, SemanticsChange change)
-      : WrapperElement(std::move(content)), change_(std::move(change)) {}
+      : ModifierElement(std::move(content)), change_(std::move(change)) {}
 
   std::vector<SemanticsNode> semantics(const Node& node,
                                        std::vector<SemanticsNode> children) const override {
@@ -39,33 +48,23 @@ class SemanticsElement final : public WrapperElement {
 }  // namespace
 
 View View::accessibilityLabel(std::string label) const {
-  SemanticsChange change;
-  change.label = std::move(label);
-  return modified<SemanticsElement>(*this, std::move(change));
+  return modified<SemanticsElement>(*this, SemanticsChange{.label = std::move(label)});
 }
 
 View View::accessibilityRole(Role role) const {
-  SemanticsChange change;
-  change.role = role;
-  return modified<SemanticsElement>(*this, std::move(change));
+  return modified<SemanticsElement>(*this, SemanticsChange{.role = role});
 }
 
 View View::accessibilityValue(std::string value) const {
-  SemanticsChange change;
-  change.value = std::move(value);
-  return modified<SemanticsElement>(*this, std::move(change));
+  return modified<SemanticsElement>(*this, SemanticsChange{.value = std::move(value)});
 }
 
 View View::accessibilitySelected(bool isSelected) const {
-  SemanticsChange change;
-  change.isSelected = isSelected;
-  return modified<SemanticsElement>(*this, std::move(change));
+  return modified<SemanticsElement>(*this, SemanticsChange{.isSelected = isSelected});
 }
 
 View View::accessibilityHidden(bool isHidden) const {
-  SemanticsChange change;
-  change.isHidden = isHidden;
-  return modified<SemanticsElement>(*this, std::move(change));
+  return modified<SemanticsElement>(*this, SemanticsChange{.isHidden = isHidden});
 }
 
 }  // namespace orvane::ui

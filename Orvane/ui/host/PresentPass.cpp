@@ -1,5 +1,5 @@
-// Comparing fingerprints of what each node paints, in place, with those of the presentation before.
-#include "Orvane/ui/host/Presenter.hpp"
+// A node is damaged when the fingerprint of its drawing, in place, differs from the previous one.
+#include "Orvane/ui/host/PresentPass.hpp"
 
 #include "Orvane/ui/draw/DrawContext.hpp"
 #include "Orvane/ui/draw/InkProbe.hpp"
@@ -30,13 +30,13 @@ bool isSizeMoving(const Node& node, double now) {
 
 }  // namespace
 
-void Presenter::present(Node& root) {
+void PresentPass::present(Node& root) {
   Inherited nothing;
   nothing.fingerprint = emptyFingerprint;
   visit(root, nothing);
 }
 
-void Presenter::visit(Node& node, const Inherited& outer) {
+void PresentPass::visit(Node& node, const Inherited& outer) {
   const bool isChanging = settle(node);
   isMoving_ = isMoving_ || isChanging;
 
@@ -46,7 +46,7 @@ void Presenter::visit(Node& node, const Inherited& outer) {
   const Inherited inner = through(node, outer, isChanging);
   node.movesContent = inner.isMoving;
   node.isMoving = inner.isMoving || isSizeMoving(node, now_);
-  note(node, inner);
+  updateInk(node, inner);
   node.inkWithDescendants = node.ink;
   for (const auto& child : node.children) {
     visit(*child, inner);
@@ -61,12 +61,12 @@ void Presenter::visit(Node& node, const Inherited& outer) {
   }
 }
 
-Presenter::Inherited Presenter::through(const Node& node, const Inherited& outer,
-                                        bool isChanging) const {
+PresentPass::Inherited PresentPass::through(const Node& node, const Inherited& outer,
+                                            bool isChanging) const {
   const Effect effect = node.element->effect(node, node.size, now_);
   Inherited inner = outer;
   inner.toHost = node.toHost.after(effect.transform);
-  // A change of opacity or of colour moves nothing, nor does one of size move what is inside.
+  // Neither a changing colour or opacity nor a changing size moves the content.
   inner.isMoving = outer.isMoving || isPlaceMoving(node, now_) ||
                    (isChanging && !(effect.transform == Transform{}));
   inner.opacity = outer.opacity * effect.opacity;
@@ -78,7 +78,7 @@ Presenter::Inherited Presenter::through(const Node& node, const Inherited& outer
     mixInto(inner.fingerprint, *effect.shadow);
   }
   if (effect.clip) {
-    // What casts a shadow is cut first; the shadow reaches beyond the cut.
+    // The ancestors' shadows extend beyond this clip.
     const Rect visible = node.toHost.apply(effect.clip->rect).outset(outer.reach);
     inner.clip = outer.clip ? outer.clip->intersection(visible) : visible;
     mixInto(inner.fingerprint, *inner.clip);
@@ -87,38 +87,36 @@ Presenter::Inherited Presenter::through(const Node& node, const Inherited& outer
   return inner;
 }
 
-void Presenter::note(Node& node, const Inherited& inner) {
+void PresentPass::updateInk(Node& node, const Inherited& inner) {
   const Rect local{0, 0, node.size.width, node.size.height};
   Rect ink;
-  std::uint64_t signature = 0;
+  std::uint64_t fingerprint = 0;
   if (inner.opacity > 0) {
     InkProbe probe(local);
     node.element->draw(node, DrawContext{probe, now_, local, false});
     if (!probe.ink().isEmpty()) {
-      // A point around it for the edges that fall between pixels.
+      // One point more, for edges between pixels.
       ink = inner.toHost.apply(probe.ink()).inset(-1).outset(inner.reach);
       ink = inner.clip ? ink.intersection(*inner.clip) : ink;
-      signature = probe.fingerprint();
-      mixInto(signature, inner.fingerprint);
-      mixTransform(signature, inner.toHost);
-      mixInto(signature, node.isMoving ? 1.0 : 0.0);
+      fingerprint = probe.fingerprint();
+      mixInto(fingerprint, inner.fingerprint);
+      mixTransform(fingerprint, inner.toHost);
+      mixInto(fingerprint, node.isMoving ? 1.0 : 0.0);
     }
   }
-  if (signature != node.signature) {
-    for (const Rect& area : {node.ink, ink}) {
-      if (!area.isEmpty()) {
-        dirty_.push_back(area);
-      }
-    }
+  node.trace.isDamaged = fingerprint != node.fingerprint;
+  node.trace.isDrawn = false;
+  if (node.trace.isDamaged) {
+    damage_.add(node.ink);
+    damage_.add(ink);
   }
-  node.signature = signature;
+  node.fingerprint = fingerprint;
   node.ink = ink;
 }
 
-bool Presenter::settle(Node& node) {
+bool PresentPass::settle(Node& node) {
   bool moves = false;
   const auto check = [&](AnimatedValue& value) {
-    // Whatever started the motion, those who want none see its end.
     if (node.environment->appearance.reduceMotion) {
       value.jump(value.target());
     }
@@ -135,12 +133,12 @@ bool Presenter::settle(Node& node) {
   return moves;
 }
 
-void Presenter::removeGone(Node& node) {
+void PresentPass::removeGone(Node& node) {
   std::erase_if(node.leaving, [&](const std::unique_ptr<Node>& child) {
-    Node* moved = transitionNode(*child);
-    const bool isGone = moved == nullptr || !moved->presence.isMoving(now_);
-    if (isGone && !child->inkWithDescendants.isEmpty()) {
-      dirty_.push_back(child->inkWithDescendants);
+    const Node* transitioning = transitionNode(*child);
+    const bool isGone = transitioning == nullptr || !transitioning->presence.isMoving(now_);
+    if (isGone) {
+      damage_.add(child->inkWithDescendants);
     }
     return isGone;
   });

@@ -1,24 +1,22 @@
 // The modifiers that change layout: padding, frames, fixed sizes, priorities, layers.
 #include <algorithm>
+#include <array>
 
-#include "Orvane/ui/host/Builder.hpp"
+#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
-#include "Orvane/ui/views/WrapperElement.hpp"
+#include "Orvane/ui/views/Modifiers.hpp"
 
 namespace orvane::ui {
 
 namespace {
 
-class PaddingElement final : public WrapperElement {
+class PaddingElement final : public ModifierElement {
  public:
   PaddingElement(View content, const Edges& edges)
-      : WrapperElement(std::move(content)), edges_(edges) {}
+      : ModifierElement(std::move(content)), edges_(edges) {}
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
-    if (node.children.empty()) {
-      return {edges_.width(), edges_.height()};
-    }
-    const Size inner = pass.measure(*node.children.front(), proposal.inset(edges_));
+    const Size inner = Element::measure(node, proposal.inset(edges_), pass);
     return {inner.width + edges_.width(), inner.height + edges_.height()};
   }
 
@@ -62,18 +60,16 @@ struct FrameLength {
   }
 };
 
-class FrameElement final : public WrapperElement {
+class FrameElement final : public ModifierElement {
  public:
   FrameElement(View content, const FrameBounds& bounds)
-      : WrapperElement(std::move(content)),
+      : ModifierElement(std::move(content)),
         width_{bounds.width, bounds.minimumWidth, bounds.maximumWidth},
         height_{bounds.height, bounds.minimumHeight, bounds.maximumHeight},
         alignment_(bounds.alignment) {}
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
-    const Size inner = node.children.empty()
-                           ? Size{}
-                           : pass.measure(*node.children.front(), innerProposal(proposal));
+    const Size inner = Element::measure(node, innerProposal(proposal), pass);
     return {width_.chosen(proposal.width, inner.width),
             height_.chosen(proposal.height, inner.height)};
   }
@@ -94,10 +90,10 @@ class FrameElement final : public WrapperElement {
   Alignment alignment_;
 };
 
-class FixedSizeElement final : public WrapperElement {
+class FixedSizeElement final : public ModifierElement {
  public:
   FixedSizeElement(View content, bool horizontal, bool vertical)
-      : WrapperElement(std::move(content)), horizontal_(horizontal), vertical_(vertical) {}
+      : ModifierElement(std::move(content)), horizontal_(horizontal), vertical_(vertical) {}
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
     return Element::measure(node, freed(proposal), pass);
@@ -117,10 +113,10 @@ class FixedSizeElement final : public WrapperElement {
   bool vertical_;
 };
 
-class PriorityElement final : public WrapperElement {
+class PriorityElement final : public ModifierElement {
  public:
   PriorityElement(View content, double priority)
-      : WrapperElement(std::move(content)), priority_(priority) {}
+      : ModifierElement(std::move(content)), priority_(priority) {}
 
   double layoutPriority(const Node&) const override { return priority_; }
 
@@ -128,12 +124,11 @@ class PriorityElement final : public WrapperElement {
   double priority_;
 };
 
-// Covers the whole view it belongs to and aligns its content in there, so that its place does not
-// change when the content comes and goes.
-class LayerElement final : public WrapperElement {
+// Covers the whole view and aligns its content in it. The node stays when the content is empty.
+class LayerElement final : public ModifierElement {
  public:
   LayerElement(View content, Alignment alignment)
-      : WrapperElement(std::move(content)), alignment_(alignment) {}
+      : ModifierElement(std::move(content)), alignment_(alignment) {}
 
   Size measure(Node&, const Proposal& proposal, LayoutPass&) const override {
     return {proposal.width.value_or(0), proposal.height.value_or(0)};
@@ -149,22 +144,19 @@ class LayerElement final : public WrapperElement {
   Alignment alignment_;
 };
 
-// A view with a layer beneath or above it. The view decides the size; the layer is proposed it.
-class LayersElement final : public WrapperElement {
+// A view with a layer below or above it. The view decides the size, which the layer is proposed.
+class LayersElement final : public ModifierElement {
  public:
   LayersElement(View content, View layer, bool isAbove, Alignment alignment)
-      : WrapperElement(std::move(content)),
+      : ModifierElement(std::move(content)),
         layer_(std::move(layer)),
         isAbove_(isAbove),
         alignment_(alignment) {}
 
-  void build(Node& node, Builder& builder) const override {
+  void build(Node& node, BuildPass& pass) const override {
     const View layer(std::make_shared<LayerElement>(layer_, alignment_));
-    if (isAbove_) {
-      builder.children(node, {content(), layer}, node.environment);
-    } else {
-      builder.children(node, {layer, content()}, node.environment);
-    }
+    const std::array<View, 2> children{isAbove_ ? content() : layer, isAbove_ ? layer : content()};
+    pass.children(node, children, node.environment);
   }
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {

@@ -1,11 +1,11 @@
-// Effects become layers, clips and transforms; a mere translation only moves the origin.
-#include "Orvane/ui/host/Painter.hpp"
+// Effects become layers, clips and transforms; a translation only moves the origin.
+#include "Orvane/ui/host/DrawPass.hpp"
 
 #include "Orvane/ui/draw/DrawContext.hpp"
 
 namespace orvane::ui {
 
-void Painter::visit(const Node& node, Point origin, bool snapsToPixels) {
+void DrawPass::visit(const Node& node, Point origin, bool snapsToPixels) {
   if (!node.inkWithDescendants.intersects(dirty_) || !node.toHost.isInvertible()) {
     return;
   }
@@ -40,6 +40,7 @@ void Painter::visit(const Node& node, Point origin, bool snapsToPixels) {
   }
 
   const bool snaps = snapsToPixels && !isScaled && !node.movesContent;
+  node.trace.isDrawn = true;
   node.element->draw(
       node, DrawContext{canvas_, now_, Rect::from(inner, frame.size()), snaps && !node.isMoving});
   for (const auto& child : node.children) {

@@ -1,0 +1,195 @@
+// Nodes are matched by explicit id, otherwise by kind and place among their siblings.
+#include "Orvane/ui/host/BuildPass.hpp"
+
+#include <typeinfo>
+#include <utility>
+
+#include "Orvane/ui/views/Attributes.hpp"
+#include "Orvane/ui/views/Group.hpp"
+
+namespace orvane::ui {
+
+void BuildPass::root(std::unique_ptr<Node>& node, const View& view,
+                     const std::shared_ptr<const Environment>& environment) {
+  if (!node) {
+    node = make(nullptr);
+    node->element = std::make_shared<GroupElement>(std::vector<View>{});
+  }
+  // The kit's own root stays, so that even the outermost view can appear and disappear.
+  update(*node, Group({view}), environment);
+}
+
+std::vector<BuildPass::Description> BuildPass::describe(std::span<const View> views,
+                                                        bool spreadsGroups) {
+  std::vector<Description> result;
+  int slot = 0;
+  for (const View& view : views) {
+    const auto* group =
+        spreadsGroups ? dynamic_cast<const GroupElement*>(view.element().get()) : nullptr;
+    if (group != nullptr) {
+      int place = 0;
+      for (const View& member : group->members()) {
+        if (!member.isEmpty()) {
+          const bool isNamed = !member.explicitId().empty();
+          result.push_back({{slot, isNamed ? -1 : place, member.explicitId()}, &member});
+        }
+        ++place;
+      }
+    } else if (!view.isEmpty()) {
+      const bool isNamed = !view.explicitId().empty();
+      result.push_back({{isNamed ? -1 : slot, -1, view.explicitId()}, &view});
+    }
+    ++slot;
+  }
+  return result;
+}
+
+void BuildPass::children(Node& node, std::span<const View> views,
+                         const std::shared_ptr<const Environment>& environment) {
+  reconcile(node, describe(views, false), environment);
+}
+
+void BuildPass::members(Node& node, std::span<const View> views,
+                        const std::shared_ptr<const Environment>& environment) {
+  reconcile(node, describe(views, true), environment);
+}
+
+void BuildPass::body(Node& node, const std::function<View(const Environment&)>& makeBody) {
+  if (!node.states) {
+    node.states = std::make_shared<StateStore>();
+  }
+  Environment own = *node.environment;
+  own.states = node.states;
+  node.states->isBodyRunning = true;
+  const View body = makeBody(own);
+  node.states->isBodyRunning = false;
+  children(node, {&body, 1}, node.environment);
+}
+
+void BuildPass::reconcile(Node& node, const std::vector<Description>& wanted,
+                          const std::shared_ptr<const Environment>& environment) {
+  std::vector<std::unique_ptr<Node>> old = std::move(node.children);
+  node.children.clear();
+  node.children.reserve(wanted.size());
+  const bool parentIsNew = node.isNew;
+  for (const Description& description : wanted) {
+    std::unique_ptr<Node> child = take(old, description, node.children.size());
+    const bool isEntering = !child;
+    if (!child) {
+      child = take(node.leaving, description, node.leaving.size());
+    }
+    const bool isMade = !child;
+    if (!child) {
+      child = make(&node);
+    }
+    child->key = description.key;
+    update(*child, *description.view, environment);
+    if (isEntering && !parentIsNew) {
+      enter(*child, isMade);
+    }
+    node.children.push_back(std::move(child));
+  }
+  for (std::unique_ptr<Node>& leftover : old) {
+    if (leftover) {
+      remove(node, std::move(leftover));
+    }
+  }
+}
+
+std::unique_ptr<Node> BuildPass::take(std::vector<std::unique_ptr<Node>>& from,
+                                      const Description& wanted, std::size_t hint) {
+  const Element& element = *wanted.view->element();
+  const auto matches = [&](const std::unique_ptr<Node>& node) {
+    if (!node || !(node->key == wanted.key)) {
+      return false;
+    }
+    const Element& held = *node->element;
+    return typeid(held) == typeid(element);
+  };
+  // Usually the node is where it was.
+  if (hint < from.size() && matches(from[hint])) {
+    return std::move(from[hint]);
+  }
+  for (auto candidate = from.begin(); candidate != from.end(); ++candidate) {
+    if (matches(*candidate)) {
+      std::unique_ptr<Node> node = std::move(*candidate);
+      from.erase(candidate);
+      return node;
+    }
+  }
+  return nullptr;
+}
+
+std::unique_ptr<Node> BuildPass::make(Node* parent) {
+  return std::make_unique<Node>(++context_.nodeCount, parent);
+}
+
+void BuildPass::update(Node& node, const View& view,
+                       const std::shared_ptr<const Environment>& environment) {
+  node.element = view.element();
+  node.environment = environment;
+  node.curve = node.parent != nullptr ? node.parent->curve : context_.curve;
+  node.measured.clear();
+  if (node.isNew) {
+    callAfterLayout(node.interaction().appear);
+  }
+  node.element->build(node, *this);
+  updateAttributes(node);
+}
+
+void BuildPass::updateAttributes(Node& node) {
+  AttributeWriter writer(node.environment->appearance, context_.colors);
+  node.element->attributes(node, writer);
+  const std::vector<double>& values = writer.values();
+  const bool isOtherKind = values.size() != node.attributes.size();
+  if (isOtherKind) {
+    node.attributes.resize(values.size());
+  }
+  bool hasChanged = isOtherKind;
+  for (std::size_t index = 0; index < values.size(); ++index) {
+    AnimatedValue& attribute = node.attributes[index];
+    hasChanged = hasChanged || attribute.target() != values[index];
+    if (node.isNew || isOtherKind) {
+      attribute.jump(values[index]);
+    } else {
+      attribute.set(values[index], node.curve, context_.now);
+    }
+  }
+  node.trace.isMade = node.isNew;
+  node.trace.hasNewAttributes = hasChanged;
+}
+
+void BuildPass::enter(Node& node, bool isMade) {
+  if (!isMade) {
+    // It was leaving and comes back.
+    visitNodes(node, [&](const Node& back) { callAfterLayout(back.interaction().appear); });
+  }
+  if (Node* transitioning = transitionNode(node)) {
+    if (isMade) {
+      transitioning->presence.jump(0);
+    }
+    transitioning->presence.set(1, node.parent->curve, context_.now);
+  }
+}
+
+void BuildPass::remove(Node& parent, std::unique_ptr<Node> node) {
+  visitNodes(*node, [](Node& gone) {
+    gone.isPressed = false;
+    gone.trace = {};
+  });
+  Node* const transitioning = transitionNode(*node);
+  if (transitioning != nullptr && parent.curve) {
+    transitioning->presence.set(0, parent.curve, context_.now);
+    parent.leaving.push_back(std::move(node));
+    return;
+  }
+  context_.damage.add(node->inkWithDescendants);
+}
+
+void BuildPass::callAfterLayout(const std::function<void()>& handler) {
+  if (handler) {
+    actions_.push_back(handler);
+  }
+}
+
+}  // namespace orvane::ui

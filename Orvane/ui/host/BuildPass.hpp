@@ -1,0 +1,82 @@
+// The build pass: matches views with retained nodes, makes the missing nodes, and removes those
+// whose view is gone.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "Orvane/ui/host/Damage.hpp"
+#include "Orvane/ui/views/Node.hpp"
+#include "Orvane/ui/views/View.hpp"
+
+namespace orvane::ui {
+
+class BuildPass {
+ public:
+  struct Context {
+    double now;
+    const ColorResolver& colors;
+    /// The number of nodes made so far, which makes ids unique.
+    std::uint64_t& nodeCount;
+    /// Receives what removed nodes had painted.
+    Damage& damage;
+    /// The animation of the whole update.
+    std::optional<Curve> curve;
+  };
+  struct ScrollTarget {
+    Node* node;
+    std::optional<Curve> curve;
+  };
+
+  explicit BuildPass(const Context& context) : context_(context) {}
+
+  /// Makes or updates the root of the tree.
+  void root(std::unique_ptr<Node>& node, const View& view,
+            const std::shared_ptr<const Environment>& environment);
+
+  /// For Element::build. Makes the views the children of the node; empty views have no node.
+  /// Changes in them follow the node's curve.
+  void children(Node& node, std::span<const View> views,
+                const std::shared_ptr<const Environment>& environment);
+  /// The same for a container, in which the members of a group become children of the container.
+  void members(Node& node, std::span<const View> views,
+               const std::shared_ptr<const Environment>& environment);
+  /// Makes the result of the function the only child. Its environment has the node's state.
+  void body(Node& node, const std::function<View(const Environment&)>& makeBody);
+
+  /// Scrolls the node into view after layout: along the curve, or at once.
+  void scrollIntoView(Node& node, const std::optional<Curve>& curve) {
+    scrollTargets_.push_back({&node, curve});
+  }
+  [[nodiscard]] const std::vector<ScrollTarget>& scrollTargets() const { return scrollTargets_; }
+  /// The handlers of views that appeared, to be called after layout.
+  [[nodiscard]] std::vector<std::function<void()>> takeActions() { return std::move(actions_); }
+
+ private:
+  struct Description {
+    NodeKey key;
+    const View* view;
+  };
+
+  static std::vector<Description> describe(std::span<const View> views, bool spreadsGroups);
+  void reconcile(Node& node, const std::vector<Description>& wanted,
+                 const std::shared_ptr<const Environment>& environment);
+  static std::unique_ptr<Node> take(std::vector<std::unique_ptr<Node>>& from,
+                                    const Description& wanted, std::size_t hint);
+  std::unique_ptr<Node> make(Node* parent);
+  void update(Node& node, const View& view, const std::shared_ptr<const Environment>& environment);
+  void updateAttributes(Node& node);
+  void enter(Node& node, bool isMade);
+  void remove(Node& parent, std::unique_ptr<Node> node);
+  void callAfterLayout(const std::function<void()>& handler);
+
+  Context context_;
+  std::vector<std::function<void()>> actions_;
+  std::vector<ScrollTarget> scrollTargets_;
+};
+
+}  // namespace orvane::ui

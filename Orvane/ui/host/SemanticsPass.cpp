@@ -1,0 +1,48 @@
+// Children before parents, so that an element can combine what is in it.
+#include "Orvane/ui/host/SemanticsPass.hpp"
+
+#include <utility>
+
+namespace orvane::ui {
+
+namespace {
+
+// In seconds; every animation is shorter.
+constexpr double longestAnimation = 3600;
+
+std::vector<SemanticsNode> collect(const Node& node, double end) {
+  // A view that fades out is gone already, and one that fades in is there.
+  if (node.element->effect(node, node.size, end).opacity <= 0) {
+    return {};
+  }
+  std::vector<SemanticsNode> children;
+  for (const auto& child : node.children) {
+    for (SemanticsNode& element : collect(*child, end)) {
+      children.push_back(std::move(element));
+    }
+  }
+  return node.element->semantics(node, std::move(children));
+}
+
+void markFocus(SemanticsNode& node, std::uint64_t focusedId) {
+  node.isFocused = focusedId != 0 && node.id == focusedId;
+  for (SemanticsNode& child : node.children) {
+    markFocus(child, focusedId);
+  }
+}
+
+}  // namespace
+
+std::vector<SemanticsNode> semanticsOf(const Node& node, double now) {
+  return collect(node, now + longestAnimation);
+}
+
+SemanticsNode semanticsTree(const Node& root, double now, std::uint64_t focusedId) {
+  SemanticsNode tree;
+  tree.id = root.id;
+  tree.children = semanticsOf(root, now);
+  markFocus(tree, focusedId);
+  return tree;
+}
+
+}  // namespace orvane::ui

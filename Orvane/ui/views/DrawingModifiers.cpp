@@ -1,0 +1,115 @@
+// The modifiers that change drawing and hit testing, but not layout.
+#include <algorithm>
+
+#include "Orvane/ui/views/Attributes.hpp"
+#include "Orvane/ui/views/Modifiers.hpp"
+
+namespace orvane::ui {
+
+namespace {
+
+// A modifier of one effect. `Values` writes the attributes and makes the effect from them.
+template <typename Values>
+class EffectElement final : public ModifierElement {
+ public:
+  EffectElement(View content, const Values& values)
+      : ModifierElement(std::move(content)), values_(values) {}
+
+  void attributes(const Node&, AttributeWriter& writer) const override { values_.write(writer); }
+  [[nodiscard]] Effect effect(const Node& node, Size size, double now) const override {
+    AttributeReader reader(node, now);
+    return values_.effect(reader, Rect{0, 0, size.width, size.height});
+  }
+
+ private:
+  Values values_;
+};
+
+struct Opacity {
+  double opacity;
+
+  void write(AttributeWriter& writer) const { writer.number(std::clamp(opacity, 0.0, 1.0)); }
+  [[nodiscard]] Effect effect(AttributeReader& reader, const Rect&) const {
+    return {.opacity = reader.fraction()};
+  }
+};
+
+struct Offset {
+  Point distance;
+
+  void write(AttributeWriter& writer) const {
+    writer.number(distance.x);
+    writer.number(distance.y);
+  }
+  [[nodiscard]] Effect effect(AttributeReader& reader, const Rect&) const {
+    const double x = reader.number();
+    return {.transform = Transform::translation({x, reader.number()})};
+  }
+};
+
+struct Scale {
+  double factor;
+  UnitPoint anchor;
+
+  void write(AttributeWriter& writer) const { writer.number(factor); }
+  [[nodiscard]] Effect effect(AttributeReader& reader, const Rect& bounds) const {
+    const double present = reader.number();
+    return {.transform = Transform::scale(present, present, anchor.in(bounds))};
+  }
+};
+
+struct CastShadow {
+  Shadow shadow;
+
+  void write(AttributeWriter& writer) const { writer.shadow(shadow); }
+  [[nodiscard]] Effect effect(AttributeReader& reader, const Rect&) const {
+    const PaintShadow present = reader.shadow();
+    return present.color.alpha > 0 ? Effect{.shadow = present} : Effect{};
+  }
+};
+
+struct Clip {
+  Shape shape;
+
+  void write(AttributeWriter&) const {}
+  [[nodiscard]] Effect effect(AttributeReader&, const Rect& bounds) const {
+    return {.clip = shape.in(bounds)};
+  }
+};
+
+struct HitTesting {
+  bool isAllowed;
+
+  void write(AttributeWriter&) const {}
+  [[nodiscard]] Effect effect(AttributeReader&, const Rect&) const {
+    return {.allowsHitTesting = isAllowed};
+  }
+};
+
+}  // namespace
+
+View View::opacity(double opacity) const {
+  return modified<EffectElement<Opacity>>(*this, Opacity{opacity});
+}
+
+View View::offset(double x, double y) const {
+  return modified<EffectElement<Offset>>(*this, Offset{{x, y}});
+}
+
+View View::scale(double factor, UnitPoint anchor) const {
+  return modified<EffectElement<Scale>>(*this, Scale{factor, anchor});
+}
+
+View View::shadow(const Shadow& shadow) const {
+  return modified<EffectElement<CastShadow>>(*this, CastShadow{shadow});
+}
+
+View View::clip(const Shape& shape) const {
+  return modified<EffectElement<Clip>>(*this, Clip{shape});
+}
+
+View View::hitTesting(bool isAllowed) const {
+  return modified<EffectElement<HitTesting>>(*this, HitTesting{isAllowed});
+}
+
+}  // namespace orvane::ui

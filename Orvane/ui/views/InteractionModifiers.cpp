@@ -1,0 +1,37 @@
+// The modifiers that give a view handlers or a tooltip.
+#include "Orvane/ui/views/Modifiers.hpp"
+
+namespace orvane::ui {
+
+namespace {
+
+class InteractionElement final : public ModifierElement {
+ public:
+  InteractionElement(View content, Interaction interaction)
+      : ModifierElement(std::move(content)), interaction_(std::move(interaction)) {}
+
+  [[nodiscard]] const Interaction& interaction() const override { return interaction_; }
+
+ private:
+  Interaction interaction_;
+};
+
+}  // namespace
+
+View View::onHover(std::function<void(bool isInside)> handler) const {
+  return modified<InteractionElement>(*this, Interaction{.hover = std::move(handler)});
+}
+
+View View::tooltip(std::string text) const {
+  return modified<InteractionElement>(*this, Interaction{.tooltip = std::move(text)});
+}
+
+View View::dragSource(std::function<std::optional<DragItem>()> item) const {
+  return modified<InteractionElement>(*this, Interaction{.drag = std::move(item)});
+}
+
+View View::onAppear(std::function<void()> action) const {
+  return modified<InteractionElement>(*this, Interaction{.appear = std::move(action)});
+}
+
+}  // namespace orvane::ui
