@@ -1,7 +1,5 @@
-// Sets each screen up as a canvas in global coordinates and lets the layers paint on it.
+// Paints the layers on each screen, through a canvas in global coordinates.
 #include "showroom/desktop/DesktopPainter.hpp"
-
-#include <utility>
 
 #include "showroom/desktop/DockLayer.hpp"
 #include "showroom/desktop/MenuBarLayer.hpp"
@@ -15,22 +13,14 @@
 namespace orvane::showroom {
 
 DesktopPainter::DesktopPainter(desk::DrawingResources& resources) : resources_(resources) {
-  backdrop_.push_back(std::make_unique<WallpaperLayer>());
-  windows_.push_back(std::make_unique<WindowLayer>(WindowLayer::Part::belowMenuBar));
-  system_.push_back(std::make_unique<DockLayer>());
-  system_.push_back(std::make_unique<MenuBarLayer>());
-  menus_.push_back(std::make_unique<WindowLayer>(WindowLayer::Part::aboveMenuBar));
-  menus_.push_back(std::make_unique<OpenMenuLayer>());
-  marks_.push_back(std::make_unique<ZoneLayer>());
-  marks_.push_back(std::make_unique<PointerLayer>());
-}
-
-void DesktopPainter::addAboveWallpaper(std::unique_ptr<DesktopLayer> layer) {
-  windows_.push_back(std::move(layer));
-}
-
-void DesktopPainter::addAboveMenuBar(std::unique_ptr<DesktopLayer> layer) {
-  menus_.push_back(std::move(layer));
+  layers_.push_back(std::make_unique<WallpaperLayer>());
+  layers_.push_back(std::make_unique<WindowLayer>(WindowLayer::Part::belowMenuBar));
+  layers_.push_back(std::make_unique<DockLayer>());
+  layers_.push_back(std::make_unique<MenuBarLayer>());
+  layers_.push_back(std::make_unique<WindowLayer>(WindowLayer::Part::aboveMenuBar));
+  layers_.push_back(std::make_unique<OpenMenuLayer>());
+  layers_.push_back(std::make_unique<ZoneLayer>());
+  layers_.push_back(std::make_unique<PointerLayer>());
 }
 
 void DesktopPainter::paint(cairo_surface_t* surface, const DesktopLayout& layout,
@@ -47,7 +37,7 @@ void DesktopPainter::paintScreen(cairo_surface_t* surface, const DesktopLayout& 
   const double scale = layout.scale();
   desk::CairoCanvas canvas(surface, scale, resources_);
   canvas.save();
-  // The clip is made of whole pixels, before the coordinates become global ones.
+  // The clip consists of whole pixels, so it is set before the canvas is transformed.
   cairo_t* const context = canvas.context();
   cairo_save(context);
   cairo_identity_matrix(context);
@@ -58,12 +48,10 @@ void DesktopPainter::paintScreen(cairo_surface_t* surface, const DesktopLayout& 
   canvas.transform(ui::Transform::translation(
       {screen.pixels.x / scale - screen.frame.x, screen.pixels.y / scale - screen.frame.y}));
   const DisplayCanvas display{canvas, resources_, glass_, index, screen.frame, screen.pixels};
-  for (const Layers* layers : {&backdrop_, &windows_, &system_, &menus_, &marks_}) {
-    for (const auto& layer : *layers) {
-      canvas.save();
-      layer->paint(scene, display);
-      canvas.restore();
-    }
+  for (const auto& layer : layers_) {
+    canvas.save();
+    layer->paint(scene, display);
+    canvas.restore();
   }
   canvas.restore();
 }

@@ -28,7 +28,7 @@ class DesktopPictureTest : public DesktopFixture {
 };
 
 TEST_F(DesktopPictureTest, AreWrittenAtTheScaleThatIsAskedFor) {
-  ASSERT_EQ(writeDesktopPicture(machine, application, file, 0.5), std::nullopt);
+  ASSERT_EQ(writePicture(machine, application, file, 0.5), std::nullopt);
   const desk::SurfacePointer read = desk::readPng(file);
   ASSERT_TRUE(read);
   EXPECT_EQ(cairo_image_surface_get_width(read.get()), 800);
@@ -36,21 +36,21 @@ TEST_F(DesktopPictureTest, AreWrittenAtTheScaleThatIsAskedFor) {
 }
 
 TEST_F(DesktopPictureTest, OfTheSameStateAreTheSameBytes) {
-  ASSERT_EQ(writeDesktopPicture(machine, application, file, 0.5), std::nullopt);
+  ASSERT_EQ(writePicture(machine, application, file, 0.5), std::nullopt);
   const std::string first = bytesOf(file);
-  ASSERT_EQ(writeDesktopPicture(machine, application, file, 0.5), std::nullopt);
+  ASSERT_EQ(writePicture(machine, application, file, 0.5), std::nullopt);
   EXPECT_EQ(first, bytesOf(file));
   EXPECT_GT(first.size(), 1000U);
 }
 
 TEST_F(DesktopPictureTest, AreRefusedWithAReason) {
-  EXPECT_NE(writeDesktopPicture(machine, application, "/nowhere/at/all.png", 0.5), std::nullopt);
+  EXPECT_NE(writePicture(machine, application, "/nowhere/at/all.png", 0.5), std::nullopt);
   for (const double scale : {0.0, -1.0, 1e9, std::numeric_limits<double>::quiet_NaN()}) {
-    EXPECT_NE(writeDesktopPicture(machine, application, file, scale), std::nullopt) << scale;
+    EXPECT_NE(writePicture(machine, application, file, scale), std::nullopt) << scale;
   }
   ASSERT_FALSE(machine.displays.detach(1));
   ASSERT_FALSE(machine.displays.detach(2));
-  EXPECT_EQ(writeDesktopPicture(machine, application, file, 1),
+  EXPECT_EQ(writePicture(machine, application, file, 1),
             "there is no display to make a picture of");
 }
 

@@ -2,8 +2,6 @@
 #include <vector>
 
 #include "desk/windows/WindowServer.hpp"
-#include "showroom/desktop/Glass.hpp"
-#include "showroom/desktop/MenuBarLayer.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
 namespace orvane::showroom {

@@ -7,7 +7,7 @@ namespace {
 class HardwareContentTest : public HardwareFixture {
  protected:
   [[nodiscard]] std::string figure(const std::string& label) const {
-    for (const HardwareFigure& candidate : content().figures) {
+    for (const HardwareCounter& candidate : content().counters) {
       if (candidate.label == label) {
         return candidate.value;
       }
