@@ -1,4 +1,4 @@
-// The picture of the desktop against the state of the machine, pixel by pixel where it matters.
+// The pixels of the desktop against the state of the machine.
 #include <cstdlib>
 
 #include "Orvane/platform/appkit/HostingView.hpp"
@@ -25,7 +25,7 @@ class DesktopPainterTest : public DesktopFixture {
     return DockShelf::make(dockFrame(), machine.dock.edge(), machine.dock.shownFraction(),
                            dockTileCount());
   }
-  /// The same desktop as if no Dock were there.
+  /// The same desktop without the Dock.
   desk::SurfacePointer pictureWithoutDock() {
     setAutoHide(true);
     machine.advance(1);
@@ -36,7 +36,7 @@ class DesktopPainterTest : public DesktopFixture {
   }
 };
 
-TEST_F(DesktopPainterTest, PaintsTheDockWhereTheMachineSaysItIsAndNowhereElse) {
+TEST_F(DesktopPainterTest, PaintsTheDockOnlyInTheMachinesFrame) {
   for (const char* const edge : {"bottom", "left", "right"}) {
     setEdge(edge);
     machine.advance(1);
@@ -67,7 +67,7 @@ TEST_F(DesktopPainterTest, PaintsTheDockOnTheDisplayItHasMovedTo) {
   EXPECT_GT(differences(before, after, now.movedBy({-800, 0})), 0.9 * now.width * now.height);
 }
 
-TEST_F(DesktopPainterTest, PaintsTheDockHalfWayWhileItSlides) {
+TEST_F(DesktopPainterTest, PaintsTheSlidingDockHalfWay) {
   const desk::SurfacePointer hidden = pictureWithoutDock();
   setAutoHide(true);
   machine.advance(1);
@@ -113,7 +113,7 @@ TEST_F(DesktopPainterTest, TheMenuClockShowsTheMachinesTime) {
   EXPECT_EQ(differences(before, after, {0, 24, 1600, 476}), 0);
 }
 
-TEST_F(DesktopPainterTest, MarksTheZonesThatAreInForceWhenAsked) {
+TEST_F(DesktopPainterTest, MarksTheZonesOnRequest) {
   application.model().toggleSelectedDisplayLock();
   machine.runDue();
   DesktopScene scene(machine, application);
@@ -133,7 +133,7 @@ TEST_F(DesktopPainterTest, MarksTheZonesThatAreInForceWhenAsked) {
   }
 }
 
-TEST_F(DesktopPainterTest, MarksWhatWasMovedBackUntilItIsForgotten) {
+TEST_F(DesktopPainterTest, MarksAMovementThatWasMovedBack) {
   DesktopScene scene(machine, application);
   const desk::SurfacePointer plain = picture(scene);
   scene.movedBack = MovedBack{{1200, 300}, {1200, 288}, 1};
@@ -144,7 +144,7 @@ TEST_F(DesktopPainterTest, MarksWhatWasMovedBackUntilItIsForgotten) {
   EXPECT_EQ(differences(plain, picture(scene)), 0);
 }
 
-TEST_F(DesktopPainterTest, PaintsThePointerWithItsTipAtItsPlace) {
+TEST_F(DesktopPainterTest, PaintsThePointerWithItsTipAtItsLocation) {
   const desk::SurfacePointer before = picture();
   machine.mouse.moveTo({1100, 200});
   const desk::SurfacePointer after = picture();
@@ -158,7 +158,7 @@ TEST_F(DesktopPainterTest, PaintsThePointerWithItsTipAtItsPlace) {
   EXPECT_GT(differences(before, picture(large), {1097, 222, 40, 20}), 50);
 }
 
-TEST_F(DesktopPainterTest, ChangesTheWallpaperAndTheAppearanceWhenTheUserDoes) {
+TEST_F(DesktopPainterTest, FollowsTheWallpaperAndTheAppearance) {
   const desk::SurfacePointer light = picture();
   machine.appearance.isDark = true;
   const desk::SurfacePointer dark = picture();
@@ -214,16 +214,16 @@ TEST_F(DesktopPainterTest, PutsWindowsBelowTheDockAndThoseOfMenuLevelAboveTheMen
   EXPECT_EQ(desk::pixelAt(shown.get(), 785, 15), magenta);
 }
 
-TEST_F(DesktopPainterTest, AsksForNoPictureOrSymbolThatIsNotThere) {
+TEST_F(DesktopPainterTest, UsesNoMissingImageOrSymbol) {
   (void)picture();
   EXPECT_TRUE(resources.missingNames.empty());
 }
 
-/// A window that is filled with the accent colour, and a pop-up menu of one item, by night.
+/// A window that is filled with the accent colour, and a pop-up menu with one item, in dark mode.
 class DesktopAccentTest : public DesktopFixture {
  protected:
-  static constexpr desk::Pixel blueByDay{0, 122, 255, 255};
-  static constexpr desk::Pixel blueByNight{10, 132, 255, 255};
+  static constexpr desk::Pixel lightBlue{0, 122, 255, 255};
+  static constexpr desk::Pixel darkBlue{10, 132, 255, 255};
 
   DesktopAccentTest() {
     machine.appearance.isDark = true;
@@ -239,7 +239,7 @@ class DesktopAccentTest : public DesktopFixture {
            std::abs(pixel.blue - wanted.blue) <= 1;
   }
   desk::Pixel pixelOfWindow() { return desk::pixelAt(picture().get(), 250, 250); }
-  /// Of the item that the pointer is over.
+  /// The colour of the highlighted item.
   desk::Pixel pixelOfItem() {
     desk::WindowServer& server = desk::WindowServer::current();
     ui::MenuRequest request;
@@ -253,7 +253,7 @@ class DesktopAccentTest : public DesktopFixture {
     machine.runDue();
     const desk::SurfacePointer shown = picture();
     server.menus.close();
-    // Beside the pointer's arrow, which hangs to the right.
+    // Left of the pointer's arrow.
     return desk::pixelAt(shown.get(), static_cast<int>(CGRectGetMaxX(frame)) - 15,
                          static_cast<int>(CGRectGetMidY(frame)));
   }
@@ -261,15 +261,15 @@ class DesktopAccentTest : public DesktopFixture {
   appkit::Window window{appkit::WindowKind::window, CGRectMake(200, 200, 100, 100), 0};
 };
 
-TEST_F(DesktopAccentTest, TheBlueOfTheDayCanBeChosenForTheNight) {
+TEST_F(DesktopAccentTest, TheLightAccentCanBeChosenInDarkMode) {
   machine.appearance.accent = desk::Appearance::Accent{0, 122, 255};
-  EXPECT_PRED2(isAbout, pixelOfWindow(), blueByDay);
-  EXPECT_PRED2(isAbout, pixelOfItem(), blueByDay);
+  EXPECT_PRED2(isAbout, pixelOfWindow(), lightBlue);
+  EXPECT_PRED2(isAbout, pixelOfItem(), lightBlue);
 }
 
-TEST_F(DesktopAccentTest, WithoutAChoiceItIsTheBlueOfTheNight) {
-  EXPECT_PRED2(isAbout, pixelOfWindow(), blueByNight);
-  EXPECT_PRED2(isAbout, pixelOfItem(), blueByNight);
+TEST_F(DesktopAccentTest, TheDefaultAccentIsThatOfDarkMode) {
+  EXPECT_PRED2(isAbout, pixelOfWindow(), darkBlue);
+  EXPECT_PRED2(isAbout, pixelOfItem(), darkBlue);
   machine.appearance.accent = desk::Appearance::Accent{200, 20, 60};
   EXPECT_PRED2(isAbout, pixelOfItem(), (desk::Pixel{200, 20, 60, 255}));
 }

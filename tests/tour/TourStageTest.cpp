@@ -1,4 +1,4 @@
-// The stage of the tour: its hand, and its honesty.
+// The stage of the tour: its actions, checks and output.
 #include <algorithm>
 #include <filesystem>
 #include <sstream>
@@ -31,7 +31,7 @@ class TourStageTest : public testing::Test {
   TourStage stage{folder, output, errors};
 };
 
-TEST_F(TourStageTest, TellsWithANumberAndAPicture) {
+TEST_F(TourStageTest, WritesANumberedCaptionAndAPicture) {
   stage.check(true, "nothing");
   stage.addStep("Once upon a time.");
   EXPECT_EQ(output.str(), "01  Once upon a time.\n");
@@ -39,7 +39,7 @@ TEST_F(TourStageTest, TellsWithANumberAndAPicture) {
   EXPECT_TRUE(stage.hasPassed());
 }
 
-TEST_F(TourStageTest, FallsSilentOnceAClaimDoesNotHold) {
+TEST_F(TourStageTest, StopsAfterAFailedCheck) {
   stage.addStep("True.");
   stage.check(stage.isDockOn(2), "the Dock is on the second display");
   stage.check(false, "and this neither");
@@ -53,7 +53,7 @@ TEST_F(TourStageTest, FallsSilentOnceAClaimDoesNotHold) {
   EXPECT_FALSE(std::filesystem::exists(folder / "02.png"));
 }
 
-TEST_F(TourStageTest, SaysWhenAPictureCannotBeWritten) {
+TEST_F(TourStageTest, ReportsAnUnwritablePicture) {
   std::filesystem::remove_all(folder);
   stage.addStep("Where?");
   EXPECT_TRUE(stage.failedToWrite());
@@ -61,7 +61,7 @@ TEST_F(TourStageTest, SaysWhenAPictureCannotBeWritten) {
   EXPECT_NE(errors.str().find("01.png"), std::string::npos);
 }
 
-TEST_F(TourStageTest, WalksBySmallMovementsThatTakeTime) {
+TEST_F(TourStageTest, MovesThePointerInSmallStepsThatTakeTime) {
   const std::int64_t movements = stage.machine().counters.hardwareMovements;
   stage.walkTo({1500, 300});
   EXPECT_NEAR(stage.machine().pointer.place().x, 1500, 1e-6);
@@ -70,16 +70,16 @@ TEST_F(TourStageTest, WalksBySmallMovementsThatTakeTime) {
   EXPECT_EQ(stage.machine().clock.now(), desk::Clock::nanosecondsPerSecond / 2);
 }
 
-TEST_F(TourStageTest, PressesAgainstTheEdgeSoThatTheDockFeelsIt) {
+TEST_F(TourStageTest, PressesAgainstTheEdgeSoThatTheDockMoves) {
   stage.pressLowerEdge(2, 1, 0);
   EXPECT_TRUE(stage.isDockOn(2));
   EXPECT_EQ(stage.dockPlace(), "Right Display");
   stage.moveAway(1);
-  EXPECT_TRUE(stage.isDockOn(2)) << "walking away fetches nothing";
+  EXPECT_TRUE(stage.isDockOn(2)) << "moving away does not move the Dock";
   EXPECT_EQ(stage.machine().dock.revealCount(2), 1);
 }
 
-TEST_F(TourStageTest, TheHandClicksWhatItIsToldTo) {
+TEST_F(TourStageTest, ClicksControlsAndMenuItems) {
   stage.machine().permission.setTrusted(true);
   stage.application().launch();
   stage.clickIcon(1);
@@ -95,7 +95,7 @@ TEST_F(TourStageTest, TheHandClicksWhatItIsToldTo) {
   EXPECT_TRUE(stage.hasPassed()) << errors.str();
 }
 
-TEST_F(TourStageTest, AControlThatIsNotThereEndsTheStory) {
+TEST_F(TourStageTest, AMissingControlIsAFailure) {
   stage.application().launch();
   stage.clickIcon(1);
   stage.click("Fly", desk::Surfaces::menu);
@@ -103,7 +103,7 @@ TEST_F(TourStageTest, AControlThatIsNotThereEndsTheStory) {
   EXPECT_NE(errors.str().find("\"Fly\" in menu"), std::string::npos);
 }
 
-TEST_F(TourStageTest, KeepsACloseUpOfASurfaceAtTwoPixelsPerPoint) {
+TEST_F(TourStageTest, WritesACloseUpAtTwoPixelsPerPoint) {
   stage.machine().permission.setTrusted(true);
   stage.application().launch();
   stage.application().reopen();
@@ -111,7 +111,7 @@ TEST_F(TourStageTest, KeepsACloseUpOfASurfaceAtTwoPixelsPerPoint) {
   stage.writeCloseUp("panel", "main");
   const desk::SurfacePointer picture = desk::readPng(folder / "panel.png");
   ASSERT_TRUE(picture);
-  // The panel of 700 by 516 points, and 28 around it, but nothing beyond the screen of 640 points.
+  // 700 by 516 points with a margin of 28, clipped to the screen's height of 640 points.
   EXPECT_EQ(cairo_image_surface_get_width(picture.get()), 2 * (700 + 56));
   const auto panel = desk::Surfaces(desk::WindowServer::current()).window("main");
   const double top = std::max(0.0, 640 - CGRectGetMaxY(panel->frame) - 28);
