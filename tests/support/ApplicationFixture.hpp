@@ -1,5 +1,5 @@
-// ApplicationFixture gives each test a machine on which the whole application can be launched, and
-// a hand that works it.
+// ApplicationFixture gives each test a machine for the whole application, and a hand that operates
+// it.
 #pragma once
 
 #include "desk/application/ApplicationHost.hpp"
@@ -11,12 +11,12 @@ namespace orvane {
 class ApplicationFixture : public desk::HandFixture {
  protected:
   ApplicationFixture() : HandFixture(Process::none) {}
-  /// What is left of the application is looked for when it has ended.
+  /// Ends the application before MachineFixture checks for leaks.
   ~ApplicationFixture() override { application.crash(); }
 
   [[nodiscard]] OrvaneModel& model() { return application.model(); }
 
-  /// The accessibility press of a control; false when there is none or it is disabled.
+  /// Presses a control as assistive programs do; false if it is missing or disabled.
   bool press(const std::string& label, const std::string& surface) {
     return !hand.press({label, surface});
   }

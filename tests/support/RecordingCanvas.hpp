@@ -1,4 +1,4 @@
-// A canvas that writes every call as a line of text, for tests and for comparing drawings.
+// RecordingCanvas records every call as a line of text.
 #pragma once
 
 #include <string>
