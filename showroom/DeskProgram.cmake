@@ -2,7 +2,7 @@
 find_package(CLI11 REQUIRED)
 
 add_executable(orvane-desk Main.cpp)
-# It reads the arguments and no more, and CLI11's templates are dear to optimise.
+# It only parses arguments, and CLI11's templates are slow to optimise.
 set_source_files_properties(Main.cpp PROPERTIES COMPILE_OPTIONS -O0)
 target_link_libraries(orvane-desk PRIVATE orvane_desk_explore orvane_desk_script orvane_showroom_gallery
                                           orvane_showroom_tour orvane_showroom_window CLI11::CLI11)

@@ -9,7 +9,6 @@
 #include "desk/explore/RunExplore.hpp"
 #include "desk/script/ScriptProgram.hpp"
 #include "showroom/desktop/DesktopPicture.hpp"
-#include "showroom/desktop/SurfacePicture.hpp"
 #include "showroom/gallery/RunGallery.hpp"
 #include "showroom/settings/SettingsPages.hpp"
 #include "showroom/tour/RunTour.hpp"
@@ -24,12 +23,8 @@ constexpr int usageErrorStatus = 2;
 
 script::Problem writePicture(const script::Session& session,
                              const script::PictureRequest& request) {
-  if (request.surface) {
-    return orvane::showroom::writeSurfacePicture(session.machine(), session.application(),
-                                                 *request.surface, request.file, request.scale);
-  }
-  return orvane::showroom::writeDesktopPicture(session.machine(), session.application(),
-                                               request.file, request.scale);
+  return orvane::showroom::writePicture(session.machine(), session.application(), request.file,
+                                        request.scale, request.surface);
 }
 
 int runScripts(const std::vector<std::string>& files) {

@@ -1,4 +1,4 @@
-// DesktopLayer paints one kind of thing on every display: wallpaper, windows, Dock, menu bar.
+// DesktopLayer paints one part of every display: wallpaper, windows, Dock, menu bar.
 #pragma once
 
 #include <cstddef>
@@ -11,12 +11,12 @@
 
 namespace orvane::showroom {
 
-/// One display while it is painted. The canvas is in global coordinates and clipped to the screen.
+/// The display that is being painted. The canvas is in global coordinates, clipped to the screen.
 struct DisplayCanvas {
   desk::CairoCanvas& canvas;
   desk::DrawingResources& resources;
   GlassCache& glass;
-  /// The display's place in the machine's list, and its frame in global coordinates.
+  /// The display's index in the machine's list, and its frame in global coordinates.
   std::size_t displayIndex;
   ui::Rect frame;
   /// The screen in pixels of the canvas's surface.
@@ -30,7 +30,7 @@ class DesktopLayer {
   DesktopLayer& operator=(const DesktopLayer&) = delete;
   virtual ~DesktopLayer() = default;
 
-  /// Called for one display after the other, with what lies below already painted.
+  /// Called for each display, after the layers below.
   virtual void paint(const DesktopScene& scene, const DisplayCanvas& display) = 0;
 };
 

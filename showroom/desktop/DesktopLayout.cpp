@@ -1,4 +1,4 @@
-// Monitors are moved apart by how many others stand left of and above them.
+// Each monitor is shifted in proportion to the number of monitors left of and above it.
 #include "showroom/desktop/DesktopLayout.hpp"
 
 #include <algorithm>
@@ -10,12 +10,12 @@ namespace orvane::showroom {
 
 namespace {
 
-/// Frames that overlap by less, in points, stand beside each other all the same.
+/// In points: frames that overlap by less still count as adjacent.
 constexpr double overlapTolerance = 2;
 
-/// For each frame the length of the longest chain of frames before it along one axis. Two frames
-/// that do not overlap along that axis get different lengths, so that moving each by its length
-/// never brings two of them together.
+/// For each frame the length of the longest chain of frames before it along one axis. Frames that
+/// do not overlap along the axis have different ranks, so shifts in proportion to the ranks keep
+/// them apart.
 std::vector<int> ranks(const std::vector<double>& starts, const std::vector<double>& ends) {
   std::vector<std::size_t> order(starts.size());
   for (std::size_t index = 0; index < order.size(); ++index) {
@@ -35,8 +35,8 @@ std::vector<int> ranks(const std::vector<double>& starts, const std::vector<doub
   return result;
 }
 
-/// The screens' places in points of the picture, origin at the top left of the layout.
-std::vector<ui::Rect> placesInPoints(const std::vector<CGRect>& frames, DesktopStyle style) {
+/// The screens' frames in points of the picture, origin at the top left of the layout.
+std::vector<ui::Rect> framesInPoints(const std::vector<CGRect>& frames, DesktopStyle style) {
   std::vector<ui::Rect> places;
   std::vector<double> lefts;
   std::vector<double> rights;
@@ -79,7 +79,7 @@ ui::Size sizeOf(const std::vector<ui::Rect>& places, DesktopStyle style) {
   }
   if (style == DesktopStyle::monitors && !places.empty()) {
     size.width += DesktopLayout::border + DesktopLayout::margin;
-    size.height += DesktopLayout::lowerBorder + DesktopLayout::footHeight + DesktopLayout::margin;
+    size.height += DesktopLayout::lowerBorder + DesktopLayout::standHeight + DesktopLayout::margin;
   }
   return size;
 }
@@ -93,12 +93,12 @@ int roundToPixel(double value) {
 DesktopLayout::DesktopLayout(const std::vector<CGRect>& frames, DesktopStyle style, double scale,
                              cairo_rectangle_int_t origin)
     : style_(style), scale_(scale) {
-  const std::vector<ui::Rect> places = placesInPoints(frames, style);
+  const std::vector<ui::Rect> places = framesInPoints(frames, style);
   const ui::Size size = sizeOf(places, style);
   pixels_ = {origin.x, origin.y, roundToPixel(size.width * scale),
              roundToPixel(size.height * scale)};
   for (std::size_t index = 0; index < places.size(); ++index) {
-    // Both edges are rounded, not the size, so that screens side by side leave no seam.
+    // Rounding edges, not sizes, leaves no seam between adjacent screens.
     const int left = roundToPixel(places[index].x * scale);
     const int top = roundToPixel(places[index].y * scale);
     const int right = roundToPixel(places[index].right() * scale);
@@ -125,7 +125,7 @@ DesktopLayout DesktopLayout::fitted(const std::vector<CGRect>& frames, DesktopSt
 }
 
 ui::Size DesktopLayout::sizeInPoints(const std::vector<CGRect>& frames, DesktopStyle style) {
-  return sizeOf(placesInPoints(frames, style), style);
+  return sizeOf(framesInPoints(frames, style), style);
 }
 
 std::optional<CGPoint> DesktopLayout::globalPoint(double pixelX, double pixelY) const {

@@ -1,5 +1,5 @@
-// Where each display of the desk falls in a picture. Every display keeps its own scale and place;
-// screens begin and end on whole pixels, so that nothing in them is blurred.
+// DesktopLayout maps displays to a picture. Screens begin and end on whole pixels, so that nothing
+// is blurred.
 #pragma once
 
 #include <cstddef>
@@ -15,8 +15,8 @@
 
 namespace orvane::showroom {
 
-/// `exact` shows just the screens, each at its place in global coordinates. `monitors` puts each
-/// screen into a monitor and moves the monitors apart, as they stand on a table.
+/// `exact` shows only the screens, in global coordinates. `monitors` draws a monitor around each
+/// screen and moves the monitors apart.
 enum class DesktopStyle { exact, monitors };
 
 /// One screen in the picture.
@@ -29,26 +29,26 @@ struct ScreenPlacement {
 
 class DesktopLayout {
  public:
-  /// The room around a screen in the `monitors` style, in points: the monitor's border, its lower
-  /// border, which carries the name, the gap between two monitors, the margin around all of them,
-  /// and the height of the feet below the lowest row.
+  /// In points, for the `monitors` style: the border of a monitor, its lower border with the name,
+  /// the gap between two monitors, the margin around all of them, and the height of the stands
+  /// below the lowest row.
   static constexpr double border = 10;
   static constexpr double lowerBorder = 26;
   static constexpr double gap = 14;
   static constexpr double margin = 40;
-  static constexpr double footHeight = 46;
+  static constexpr double standHeight = 46;
 
   /// Frames are in global coordinates, `scale` is in pixels per point, `origin` is the top left
   /// pixel of the layout in the picture.
   DesktopLayout(const std::vector<CGRect>& frames, DesktopStyle style, double scale,
                 cairo_rectangle_int_t origin = {});
 
-  /// The layout in the middle of an area of the picture, as large as it fits but with no more than
-  /// `maximumScale` pixels per point. Its pixels are the whole area.
+  /// The layout centred in an area of the picture, as large as fits but with at most `maximumScale`
+  /// pixels per point. pixels() is the whole area.
   [[nodiscard]] static DesktopLayout fitted(const std::vector<CGRect>& frames, DesktopStyle style,
                                             const cairo_rectangle_int_t& area, double maximumScale);
 
-  /// What the layout needs in points; empty without displays.
+  /// The size of the layout in points; empty without displays.
   [[nodiscard]] static ui::Size sizeInPoints(const std::vector<CGRect>& frames, DesktopStyle style);
 
   [[nodiscard]] DesktopStyle style() const { return style_; }
@@ -58,8 +58,7 @@ class DesktopLayout {
   /// In the order of the displays.
   [[nodiscard]] const std::vector<ScreenPlacement>& screens() const { return screens_; }
 
-  /// The place of a pixel in global coordinates, by the screen that shows it; none between the
-  /// screens.
+  /// The point that a pixel shows, in global coordinates; none between the screens.
   [[nodiscard]] std::optional<CGPoint> globalPoint(double pixelX, double pixelY) const;
   /// The pixel that shows a point of a screen, in pixels of the picture.
   [[nodiscard]] ui::Point pixel(std::size_t screenIndex, CGPoint globalPoint) const;

@@ -1,4 +1,4 @@
-// Sets each screen up as a canvas in global coordinates and lets the layers paint on it.
+// Paints the layers on each screen, through a canvas in global coordinates.
 #include "showroom/desktop/DesktopPainter.hpp"
 
 #include "showroom/desktop/DockLayer.hpp"
@@ -37,7 +37,7 @@ void DesktopPainter::paintScreen(cairo_surface_t* surface, const DesktopLayout& 
   const double scale = layout.scale();
   desk::CairoCanvas canvas(surface, scale, resources_);
   canvas.save();
-  // The clip is made of whole pixels, before the coordinates become global ones.
+  // The clip consists of whole pixels, so it is set before the canvas is transformed.
   cairo_t* const context = canvas.context();
   cairo_save(context);
   cairo_identity_matrix(context);

@@ -1,4 +1,4 @@
-// DesktopPainter draws the whole desk: every display with what is on its screen, layer by layer.
+// DesktopPainter draws every display of the desk, layer by layer.
 #pragma once
 
 #include <memory>
@@ -13,14 +13,14 @@
 
 namespace orvane::showroom {
 
-/// Keeps what is dear to draw, so one painter should serve for many pictures.
+/// Caches expensive drawings, so use one painter for many pictures.
 class DesktopPainter {
  public:
-  /// The resources have to outlive the painter.
+  /// The resources must outlive the painter.
   explicit DesktopPainter(desk::DrawingResources& resources);
 
-  /// Paints the layout's pixels of an ARGB32 image surface. The layout must have been made from
-  /// the displays that the machine has now.
+  /// Paints the layout's pixels of an ARGB32 image surface. The layout must be made from the
+  /// machine's present displays.
   void paint(cairo_surface_t* surface, const DesktopLayout& layout, const DesktopScene& scene);
 
  private:
@@ -29,7 +29,7 @@ class DesktopPainter {
 
   desk::DrawingResources& resources_;
   GlassCache glass_;
-  /// From the back to the front.
+  /// Back to front.
   std::vector<std::unique_ptr<DesktopLayer>> layers_;
 };
 

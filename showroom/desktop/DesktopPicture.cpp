@@ -1,15 +1,47 @@
-// Renders into a surface of its own and encodes that.
+// A picture of one surface is cropped from one of the desktop that shows only that surface.
 #include "showroom/desktop/DesktopPicture.hpp"
 
 #include <cmath>
 
 #include "desk/canvas/PngFile.hpp"
+#include "desk/windows/Surfaces.hpp"
+#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::showroom {
 
 namespace {
 
-constexpr double longestSideInPixels = 16384;
+constexpr double maximumSideInPixels = 16384;
+
+/// The frame of a window or of the open menu in global coordinates; none if it is not open.
+std::optional<CGRect> frameOf(desk::WindowServer& server, const std::string& surface) {
+  if (surface == desk::Surfaces::menu) {
+    server.menus.layOut();
+    return server.menus.isOpen() ? std::optional(server.menus.frame()) : std::nullopt;
+  }
+  const auto window = desk::Surfaces(server).window(surface);
+  return window != nullptr ? std::optional(server.machine().displays.flipped(window->frame))
+                           : std::nullopt;
+}
+
+desk::SurfacePointer cropped(cairo_surface_t* whole, ui::Point corner, ui::Size size) {
+  desk::SurfacePointer part(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
+                                                       static_cast<int>(std::ceil(size.width)),
+                                                       static_cast<int>(std::ceil(size.height))));
+  const desk::ContextPointer context(cairo_create(part.get()));
+  cairo_set_source_surface(context.get(), whole, -std::round(corner.x), -std::round(corner.y));
+  cairo_paint(context.get());
+  return part;
+}
+
+/// The part of the whole desktop's picture that a frame in global coordinates covers.
+desk::SurfacePointer cropped(cairo_surface_t* whole, const desk::Displays& displays,
+                             const CGRect& frame, double scale) {
+  const DesktopLayout layout(displays.globalFrames(), DesktopStyle::exact, scale);
+  const auto screen = displays.indexContaining({CGRectGetMidX(frame), CGRectGetMidY(frame)});
+  return cropped(whole, layout.pixel(screen.value_or(0), frame.origin),
+                 {frame.size.width * scale, frame.size.height * scale});
+}
 
 }  // namespace
 
@@ -17,10 +49,10 @@ desk::SurfacePointer renderDesktop(DesktopPainter& painter, const DesktopScene& 
                                    DesktopStyle style, double scale) {
   const auto& frames = scene.machine.displays.globalFrames();
   const ui::Size size = DesktopLayout::sizeInPoints(frames, style);
-  // Written so that a scale that is not a number is refused too.
+  // The negations also reject a scale that is not a number.
   const double longest = std::max(size.width, size.height) * scale;
   const double shortest = std::min(size.width, size.height) * scale;
-  if (!(longest <= longestSideInPixels) || !(shortest >= 1)) {
+  if (!(longest <= maximumSideInPixels) || !(shortest >= 1)) {
     return nullptr;
   }
   const DesktopLayout layout(frames, style, scale);
@@ -30,20 +62,32 @@ desk::SurfacePointer renderDesktop(DesktopPainter& painter, const DesktopScene& 
   return surface;
 }
 
-std::optional<std::string> writeDesktopPicture(const desk::Machine& machine,
-                                               const desk::ApplicationHost& application,
-                                               const std::filesystem::path& file, double scale) {
-  if (machine.displays.isEmpty()) {
+std::optional<std::string> writePicture(const desk::Machine& machine,
+                                        const desk::ApplicationHost& application,
+                                        const std::filesystem::path& file, double scale,
+                                        const std::optional<std::string>& surface) {
+  std::optional<CGRect> frame;
+  if (surface) {
+    desk::WindowServer* const server = desk::WindowServer::of(machine);
+    frame = server != nullptr ? frameOf(*server, *surface) : std::nullopt;
+    if (!frame) {
+      return "there is no surface \"" + *surface + "\"";
+    }
+  } else if (machine.displays.isEmpty()) {
     return "there is no display to make a picture of";
   }
   desk::DrawingResources resources;
   DesktopPainter painter(resources);
-  const desk::SurfacePointer surface =
-      renderDesktop(painter, DesktopScene(machine, application), DesktopStyle::exact, scale);
-  if (surface == nullptr) {
+  DesktopScene scene(machine, application);
+  scene.onlySurface = surface;
+  desk::SurfacePointer picture = renderDesktop(painter, scene, DesktopStyle::exact, scale);
+  if (picture == nullptr) {
     return "a picture at this scale would be too small or too large";
   }
-  if (!desk::writePng(surface.get(), file)) {
+  if (frame) {
+    picture = cropped(picture.get(), machine.displays, *frame, scale);
+  }
+  if (!desk::writePng(picture.get(), file)) {
     return "cannot write " + file.string();
   }
   return std::nullopt;

@@ -1,4 +1,4 @@
-// Pictures of the desktop as PNG files.
+// Pictures of the desktop, and of one window or menu on it.
 #pragma once
 
 #include <filesystem>
@@ -14,15 +14,17 @@
 
 namespace orvane::showroom {
 
-/// The whole desktop at `scale` pixels per point; null when there is no display or the picture
-/// would have more than 16384 pixels to a side.
+/// The whole desktop at `scale` pixels per point; null if the picture would be empty or have more
+/// than 16384 pixels to a side.
 desk::SurfacePointer renderDesktop(DesktopPainter& painter, const DesktopScene& scene,
                                    DesktopStyle style, double scale);
 
-/// Writes the screens as they are, each at its place in global coordinates. Returns what went
-/// wrong, none when the file was written. The same state of the machine gives the same bytes.
-std::optional<std::string> writeDesktopPicture(const desk::Machine& machine,
-                                               const desk::ApplicationHost& application,
-                                               const std::filesystem::path& file, double scale);
+/// Writes a PNG file of the screens in the `exact` style at `scale` pixels per point, or of one
+/// `surface`: a window or the open menu, with the wallpaper behind it but without other windows.
+/// Returns the problem; none if the file was written. Equal states of the machine give equal bytes.
+std::optional<std::string> writePicture(const desk::Machine& machine,
+                                        const desk::ApplicationHost& application,
+                                        const std::filesystem::path& file, double scale,
+                                        const std::optional<std::string>& surface = {});
 
 }  // namespace orvane::showroom

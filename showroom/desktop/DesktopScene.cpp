@@ -1,4 +1,4 @@
-// Reads from the application what its presence on the desktop is.
+// Reads the status item and the guard's snapshot.
 #include "showroom/desktop/DesktopScene.hpp"
 
 #include "desk/windows/WindowServer.hpp"

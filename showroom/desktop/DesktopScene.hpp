@@ -1,5 +1,5 @@
-// What is to be seen on the desktop at one moment: the machine, and what the machine alone does not
-// know, namely what the application shows and what the spectator wants to have marked.
+// DesktopScene is the input of the painter: the machine, the application's status icon and zones,
+// and the marks to draw.
 #pragma once
 
 #include <optional>
@@ -17,25 +17,25 @@ namespace orvane::showroom {
 struct MovedBack {
   CGPoint from{};
   CGPoint to{};
-  /// 1 when it has just happened, 0 when it is forgotten.
+  /// The opacity of the mark: 1 at first, fading to 0.
   double strength = 1;
 };
 
 struct DesktopScene {
   explicit DesktopScene(const desk::Machine& shownMachine) : machine(shownMachine) {}
-  /// With the application's status icon, if it runs, and the zones of its guard.
+  /// With the application's status icon and its guard's zones, if it runs.
   DesktopScene(const desk::Machine& shownMachine, const desk::ApplicationHost& application);
 
   const desk::Machine& machine;
-  /// The name of the application's symbol in the menu bar; none while it does not run.
+  /// The symbol of the status item; none while the application does not run.
   std::optional<std::string> statusSymbol;
-  /// The zones in force, in global coordinates; marked when `showsZones` is true.
+  /// In global coordinates; drawn if `showsZones`.
   std::vector<TriggerZone> zones;
   bool showsZones = false;
   std::optional<MovedBack> movedBack;
-  /// When set, of all windows and menus only this one is there, by its name.
+  /// If set, only this window or menu is painted, and no pointer.
   std::optional<std::string> onlySurface;
-  /// How much larger than on a Mac the pointer is drawn.
+  /// The pointer's size relative to that on a Mac.
   double pointerMagnification = 1;
 };
 

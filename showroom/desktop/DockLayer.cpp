@@ -1,23 +1,24 @@
-// A shelf of glass with tiles on it.
+// A glass shelf with tiles.
 #include "showroom/desktop/DockLayer.hpp"
 
 #include "showroom/desktop/DockShelf.hpp"
 #include "showroom/desktop/DockTileArt.hpp"
 #include "showroom/desktop/Glass.hpp"
 #include "showroom/desktop/MenuClock.hpp"
+#include "showroom/desktop/Rects.hpp"
 
 namespace orvane::showroom {
 
 namespace {
 
-constexpr double glassSigma = 18;
+constexpr double dockGlassSigma = 18;
 
 void paintShelf(desk::CairoCanvas& canvas, const DockShelf& dock,
                 const desk::Appearance& appearance, GlassCache& glass) {
   const bool isDark = appearance.isDark;
   const ui::Shape shape = ui::Shape::roundedRectangle(dock.shelf, dock.cornerRadius);
   canvas.shadow(shape, {{0, 0, 0, isDark ? 0.4 : 0.2}, 18, {0, 4}});
-  paintGlass(canvas, shape, glassSigma,
+  paintGlass(canvas, shape, dockGlassSigma,
              tintFor(appearance,
                      isDark ? ui::Rgba{0.13, 0.13, 0.16, 0.46} : ui::Rgba{0.97, 0.97, 0.99, 0.42}),
              glass);
@@ -25,7 +26,7 @@ void paintShelf(desk::CairoCanvas& canvas, const DockShelf& dock,
   canvas.stroke(shape.inset(0.5), ui::Paint::solid({1, 1, 1, isDark ? 0.16 : 0.42}), 1);
 }
 
-/// The dot lies between the tile and the edge of the shelf.
+/// The dot between the tile and the edge of the shelf that marks a running application.
 ui::Rect runningDot(const ui::Rect& tile, desk::DockEdge edge, double factor) {
   const double size = 3.2 * factor;
   const double distance = 3.6 * factor;
@@ -52,10 +53,8 @@ void DockLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
   if (dock.displayIndex() != display.displayIndex || shown <= 0) {
     return;
   }
-  const CGRect area = dock.frame();
   const DockShelf shelf =
-      DockShelf::make({area.origin.x, area.origin.y, area.size.width, area.size.height},
-                      dock.edge(), shown, dockTileCount());
+      DockShelf::make(rectOf(dock.frame()), dock.edge(), shown, dockTileCount());
   const bool isDark = scene.machine.appearance.isDark;
   desk::CairoCanvas& canvas = display.canvas;
   paintShelf(canvas, shelf, scene.machine.appearance, display.glass);

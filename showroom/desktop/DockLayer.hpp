@@ -1,4 +1,4 @@
-// DockLayer paints the Dock on the display that it lives on, wherever in its slide it is.
+// DockLayer paints the Dock on its display, also while it slides.
 #pragma once
 
 #include "showroom/desktop/DesktopLayer.hpp"

@@ -1,4 +1,4 @@
-// The shelf is laid out along a line first and then turned to its edge.
+// The shelf is laid out along a line and then rotated to its edge.
 #include "showroom/desktop/DockShelf.hpp"
 
 #include <algorithm>
@@ -15,7 +15,7 @@ constexpr double separatorRoom = 11;
 constexpr double edgeDistance = 5;
 constexpr double shelfCorner = 17;
 
-/// A rectangle by where it begins along the edge and how far from the edge it begins.
+/// A rectangle in coordinates along and away from the edge.
 struct Strip {
   double along;
   double away;
@@ -23,7 +23,7 @@ struct Strip {
   double depth;
 };
 
-ui::Rect turned(const Strip& strip, const ui::Rect& area, desk::DockEdge edge) {
+ui::Rect rotated(const Strip& strip, const ui::Rect& area, desk::DockEdge edge) {
   switch (edge) {
     case desk::DockEdge::bottom:
       return {area.x + strip.along, area.bottom() - strip.away - strip.depth, strip.length,
@@ -54,26 +54,26 @@ DockShelf DockShelf::make(const ui::Rect& area, desk::DockEdge edge, double show
   const double factor = result.factor;
   result.cornerRadius = shelfCorner * factor;
 
-  // The slide begins and ends gently.
+  // Smoothstep eases the slide at both ends.
   const double shown = std::clamp(shownFraction, 0.0, 1.0);
   const double hidden = 1 - shown * shown * (3 - 2 * shown);
   const double away = edgeDistance - hidden * depth;
   const double shelfDepth = (tileSize + 2 * shelfPadding) * factor;
   const double start = (room - needed * factor) / 2;
-  result.shelf = turned({start, away, needed * factor, shelfDepth}, area, edge);
+  result.shelf = rotated({start, away, needed * factor, shelfDepth}, area, edge);
 
   double along = start + shelfPadding * factor;
   for (std::size_t index = 0; index < tileCount; ++index) {
     if (index + 1 == tileCount) {
-      // A full point, unless the tiles have come too near for that.
+      // One point, or less if the tiles are too close.
       const double thickness = std::min(1.0, 4 * factor);
       const double middle = along + (separatorRoom - tileSpacing) / 2 * factor;
       result.separator =
-          turned({middle - thickness / 2, away + 11 * factor, thickness, shelfDepth - 22 * factor},
-                 area, edge);
+          rotated({middle - thickness / 2, away + 11 * factor, thickness, shelfDepth - 22 * factor},
+                  area, edge);
       along += separatorRoom * factor;
     }
-    result.tiles.push_back(turned(
+    result.tiles.push_back(rotated(
         {along, away + shelfPadding * factor, tileSize * factor, tileSize * factor}, area, edge));
     along += (tileSize + tileSpacing) * factor;
   }

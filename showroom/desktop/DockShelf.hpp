@@ -1,4 +1,4 @@
-// The Dock's shape: the shelf and its tiles, for any edge and any moment of its slide.
+// DockShelf is the geometry of the Dock: the shelf and its tiles, at any edge and stage of a slide.
 #pragma once
 
 #include <cstddef>
@@ -13,15 +13,15 @@ namespace orvane::showroom {
 struct DockShelf {
   ui::Rect shelf;
   double cornerRadius = 0;
-  /// The applications' tiles in order along the edge, then the bin.
+  /// The applications' tiles in order along the edge, then the bin's.
   std::vector<ui::Rect> tiles;
   /// The line between the applications and the bin.
   ui::Rect separator;
-  /// 1 when everything has its full size; less where the edge is too short for that.
+  /// The scale of all lengths; less than 1 if the edge is too short for the full size.
   double factor = 1;
 
-  /// `area` is the Dock's frame when it is all the way up; `shownFraction` runs from 0, out of
-  /// sight behind the edge, to 1.
+  /// `area` is the frame of the fully shown Dock; `shownFraction` runs from 0, hidden behind the
+  /// edge, to 1.
   static DockShelf make(const ui::Rect& area, desk::DockEdge edge, double shownFraction,
                         std::size_t tileCount);
 };

@@ -1,4 +1,4 @@
-// Every tile is a plate with a gentle gradient and one sign on it, in a square of 100 units.
+// Each tile is a plate with a gradient and a sign, in a square of 100 units.
 #include "showroom/desktop/DockTileArt.hpp"
 
 #include <array>
@@ -81,7 +81,7 @@ void paintPlate(desk::CairoCanvas& canvas, const ui::Rect& square, const Tile& t
   canvas.fill(
       plate,
       {{{tile.top, 0}, {tile.bottom, 1}}, {square.x, square.y}, {square.x, square.bottom()}});
-  // A light rim, as a plate has that is lit from above.
+  // The rim is lit from above.
   canvas.stroke(plate.inset(0.5),
                 {{{{1, 1, 1, 0.45}, 0}, {{1, 1, 1, 0.05}, 0.5}, {{0, 0, 0, 0.1}, 1}},
                  {square.x, square.y},
@@ -192,7 +192,7 @@ void paintCalendar(desk::CairoCanvas& canvas, const ui::Rect& square, int dayOfM
       cairo_fill(context);
     }
   }
-  // Digits of the pinned face are 0.62 em wide and 0.73 em high, near enough to centre them.
+  // Digits of the font are about 0.62 em wide and 0.73 em high.
   const std::string text = std::to_string(dayOfMonth);
   const ui::Font font = ui::Font::system(square.height * 0.5, ui::Weight::medium);
   const double width = font.size * 0.62 * static_cast<double>(text.size());

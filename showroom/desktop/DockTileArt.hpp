@@ -1,4 +1,4 @@
-// The tiles in the Dock: applications that exist on this desk only, each drawn by code.
+// The tiles of the Dock, drawn by code.
 #pragma once
 
 #include <cstddef>
@@ -8,14 +8,14 @@
 
 namespace orvane::showroom {
 
-/// How many tiles there are; the last one is the bin.
+/// The number of tiles; the last one is the bin.
 std::size_t dockTileCount();
 
-/// Whether the desk shows the application as running, by a dot beside its tile.
+/// Whether the tile has the dot of a running application.
 bool isDockTileRunning(std::size_t index);
 
-/// Paints one tile into the square; `dayOfMonth` is what the calendar shows. An index beyond the
-/// last one paints nothing.
+/// Paints one tile into the square; the calendar shows `dayOfMonth`. An index out of range paints
+/// nothing.
 void paintDockTile(desk::CairoCanvas& canvas, std::size_t index, const ui::Rect& square,
                    int dayOfMonth);
 

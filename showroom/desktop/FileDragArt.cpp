@@ -1,4 +1,4 @@
-// The image is the application's, so it comes from the window server's pictures.
+// The image belongs to the application, so it comes from the window server's resources.
 #include "showroom/desktop/FileDragArt.hpp"
 
 namespace orvane::showroom {
@@ -8,7 +8,7 @@ namespace {
 constexpr double imageOpacity = 0.7;
 constexpr ui::Rgba green{0.16, 0.76, 0.25, 1};
 
-/// A plus in a disc, right below the pointer's arrow.
+/// A plus in a disc below the pointer.
 void paintCopyMark(desk::CairoCanvas& canvas, const CGPoint& place) {
   constexpr double side = 17;
   constexpr double armLength = 9;
@@ -22,7 +22,6 @@ void paintCopyMark(desk::CairoCanvas& canvas, const CGPoint& place) {
   };
   canvas.shadow(ui::Shape::ellipse(disc), {{0, 0, 0, 0.3}, 3, {0, 1}});
   canvas.fill(ui::Shape::ellipse(disc), ui::Paint::solid(green));
-  // A plus has an arm each way.
   paintArm(armLength, armWidth);  // NOLINT(readability-suspicious-call-argument)
   paintArm(armWidth, armLength);
 }

@@ -1,4 +1,4 @@
-// How a file on its way from one window to another looks.
+// The image of a dragged file.
 #pragma once
 
 #include "desk/canvas/CairoCanvas.hpp"
@@ -6,8 +6,8 @@
 
 namespace orvane::showroom {
 
-/// Paints the image at the pointer, and the green mark of a copy where the file would be taken.
-/// There must be a drag; the canvas is in global coordinates.
+/// Paints the file's image at the pointer, with a green copy mark over a drop target. A file drag
+/// must be active; the canvas is in global coordinates.
 void paintFileDrag(desk::CairoCanvas& canvas, desk::WindowServer& server);
 
 }  // namespace orvane::showroom

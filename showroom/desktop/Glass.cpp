@@ -1,4 +1,4 @@
-// The blur is made on a copy of the pixels around the shape, so that nothing outside of it changes.
+// Blurs a copy of the pixels, so that nothing outside of the shape changes.
 #include "showroom/desktop/Glass.hpp"
 
 #include <algorithm>
@@ -11,8 +11,8 @@ namespace orvane::showroom {
 
 namespace {
 
-/// The pixels of the current clip that the rectangle touches, and `margin` more around them; cut
-/// to the clip, because what is beyond the screen is not behind the glass.
+/// The pixels of the rectangle with a margin, clipped to the screen, which is all that can be
+/// behind the glass.
 cairo_rectangle_int_t pixelsAround(cairo_t* context, const ui::Rect& rect, int margin) {
   double left = rect.x;
   double top = rect.y;

@@ -1,4 +1,4 @@
-// Glass: a blurred and tinted view of what is already painted behind a shape.
+// Glass: the blurred and tinted background of a shape.
 #pragma once
 
 #include "Orvane/ui/draw/Appearance.hpp"
@@ -9,13 +9,12 @@
 
 namespace orvane::showroom {
 
-/// Blurs what the canvas holds inside the shape by a standard deviation in points, and lays the
-/// tint over it; an opaque tint leaves nothing to blur. Not to be used within a layer of the
-/// canvas.
+/// Blurs what is already painted inside the shape, with a standard deviation in points, and fills
+/// the shape with the tint. Must not be called within a layer of the canvas.
 void paintGlass(desk::CairoCanvas& canvas, const ui::Shape& shape, double sigma,
                 const ui::Rgba& tint, GlassCache& cache);
 
-/// The tint, opaque when the user wants less transparency.
+/// The tint, opaque under Reduce transparency.
 [[nodiscard]] ui::Rgba tintFor(const desk::Appearance& appearance, ui::Rgba tint);
 
 }  // namespace orvane::showroom

@@ -1,4 +1,4 @@
-// The search ends at the first pixel that differs, so that only what is found costs anything.
+// A comparison ends at the first difference, so only a hit is expensive.
 #include "showroom/desktop/GlassCache.hpp"
 
 #include <algorithm>

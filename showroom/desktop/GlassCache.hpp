@@ -1,5 +1,4 @@
-// GlassCache keeps what was blurred behind glass, so that the same background is not blurred again
-// at every drawing.
+// GlassCache caches blurred backgrounds.
 #pragma once
 
 #include <cstddef>
@@ -11,16 +10,15 @@ namespace orvane::showroom {
 
 class GlassCache {
  public:
-  /// Keeps about so many bytes of pixels; beyond them what was not asked for the longest is
-  /// dropped.
+  /// Keeps about `byteLimit` bytes of pixels, and drops the least recently used.
   explicit GlassCache(std::size_t byteLimit = std::size_t{96} << 20U) : byteLimit_(byteLimit) {}
 
-  /// The picture, an RGB24 or ARGB32 image surface, blurred by a standard deviation in pixels as if
-  /// it went on beyond its edges. Pictures are compared pixel by pixel. The surface lives until the
-  /// next call.
+  /// The picture, an RGB24 or ARGB32 image surface, blurred with a standard deviation in pixels;
+  /// its edge pixels extend outwards. Pictures are compared by their pixels. The result lives until
+  /// the next call.
   cairo_surface_t* blurred(desk::SurfacePointer picture, double sigma);
 
-  /// How often something was blurred.
+  /// The number of blurs, which excludes cache hits.
   [[nodiscard]] long long blurCount() const { return blurCount_; }
   [[nodiscard]] std::size_t count() const { return kept_.size(); }
 
@@ -35,7 +33,7 @@ class GlassCache {
   std::size_t byteLimit_;
   std::size_t bytes_ = 0;
   long long blurCount_ = 0;
-  /// What was asked for last comes first.
+  /// Most recently used first.
   std::list<Kept> kept_;
 };
 

@@ -1,5 +1,4 @@
-// Places are counted from the right edge for what stands at the right, so that the clock's width
-// does not move the icons.
+// The items at the right are laid out from the right edge, so the clock's width does not move them.
 #include "showroom/desktop/MenuBarLayer.hpp"
 
 #include <array>
@@ -14,7 +13,8 @@ namespace orvane::showroom {
 
 namespace {
 
-constexpr double glassSigma = 16;
+constexpr double height = 24;
+constexpr double menuBarGlassSigma = 16;
 constexpr double sideMargin = 14;
 constexpr double baseline = 16.5;
 constexpr double titleSpacing = 20;
@@ -22,16 +22,21 @@ constexpr ui::Font font = ui::Font::system(13, ui::Weight::medium);
 
 constexpr std::array<const char*, 6> titles{"Desk", "File", "Edit", "View", "Window", "Help"};
 
-/// The desk's own mark: a screen with a shelf.
+/// The desk's logo: a screen with a shelf.
 void paintMark(desk::CairoCanvas& canvas, ui::Point at, const ui::Rgba& ink) {
   const ui::Rect screen{at.x, at.y - 11, 16, 12};
   canvas.stroke(ui::Shape::roundedRectangle(screen.inset(0.75), 3), ui::Paint::solid(ink), 1.5);
   canvas.fill(ui::Shape::roundedRectangle({at.x + 4, at.y - 3.75, 8, 2}, 1), ui::Paint::solid(ink));
 }
 
-/// The `position`-th icon from the right, beside the clock.
+/// The frame of an icon; `position` counts from the clock to the left.
 ui::Rect iconFrame(const ui::Rect& displayFrame, int position) {
   return rectOf(desk::StatusBar::place(rectOf(displayFrame), position));
+}
+
+/// The area of the status item, which is highlighted while its menu is open.
+ui::Rect statusItemFrame(const ui::Rect& displayFrame) {
+  return rectOf(desk::StatusBar::itemFrame(rectOf(displayFrame)));
 }
 
 /// Whether the menu under the status icon is open on this display.
@@ -43,16 +48,12 @@ bool isMenuOpen(const DesktopScene& scene, std::size_t displayIndex) {
 
 }  // namespace
 
-ui::Rect MenuBarLayer::statusItemFrame(const ui::Rect& displayFrame) {
-  return rectOf(desk::StatusBar::itemFrame(rectOf(displayFrame)));
-}
-
 void MenuBarLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
   const bool isDark = scene.machine.appearance.isDark;
   const ui::Rect& frame = display.frame;
   desk::CairoCanvas& canvas = display.canvas;
   const ui::Rect bar{frame.x, frame.y, frame.width, height};
-  paintGlass(canvas, ui::Shape::rectangle(bar), glassSigma,
+  paintGlass(canvas, ui::Shape::rectangle(bar), menuBarGlassSigma,
              tintFor(scene.machine.appearance,
                      isDark ? ui::Rgba{0.09, 0.09, 0.12, 0.7} : ui::Rgba{0.98, 0.98, 1, 0.66}),
              display.glass);

@@ -1,4 +1,4 @@
-// The calendar comes from the standard library; the machine's clock counts from 2001.
+// The machine's calendar counts seconds from 2001.
 #include "showroom/desktop/MenuClock.hpp"
 
 #include <array>
@@ -43,7 +43,7 @@ int menuClockDay(const desk::Clock& clock) {
 }
 
 std::int64_t nanosecondsToNextMinute(const desk::Clock& clock) {
-  // The calendar starts on a full minute, so the machine's own minutes are the calendar's.
+  // The calendar starts on a full minute.
   constexpr std::int64_t minute = 60 * desk::Clock::nanosecondsPerSecond;
   static_assert(desk::Clock::calendarSecondsAtStart % 60 == 0);
   return minute - clock.now() % minute;

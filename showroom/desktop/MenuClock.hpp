@@ -1,4 +1,4 @@
-// The machine's calendar as the menu bar shows it.
+// The clock of the menu bar.
 #pragma once
 
 #include <string>

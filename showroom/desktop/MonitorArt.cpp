@@ -1,4 +1,4 @@
-// The monitors are plain dark frames with the display's name on the lower border.
+// Monitors are dark frames with the display's name on the lower border.
 #include "showroom/desktop/MonitorArt.hpp"
 
 #include <algorithm>
@@ -26,11 +26,11 @@ ui::Rect monitorAround(const ui::Rect& screen) {
                            screen.bottom() + DesktopLayout::lowerBorder);
 }
 
-/// A monitor has a foot only where no other stands right below it.
+/// Whether there is room for a stand: no other monitor is directly below.
 bool hasRoomBelow(const DesktopLayout& layout, std::size_t index) {
   const auto& screens = layout.screens();
   const ui::Rect own = monitorAround(inPoints(screens[index].pixels, layout.scale()));
-  const ui::Rect below{own.x, own.bottom(), own.width, DesktopLayout::footHeight};
+  const ui::Rect below{own.x, own.bottom(), own.width, DesktopLayout::standHeight};
   for (std::size_t other = 0; other < screens.size(); ++other) {
     if (other != index &&
         monitorAround(inPoints(screens[other].pixels, layout.scale())).intersects(below)) {
@@ -51,27 +51,27 @@ void paintLaptopBase(desk::CairoCanvas& canvas, const ui::Rect& monitor, bool is
   canvas.fill(ui::Shape::roundedRectangle(notch, 2.5), ui::Paint::solid(bottom));
 }
 
-void paintFoot(desk::CairoCanvas& canvas, const ui::Rect& monitor, bool isDark) {
+void paintStand(desk::CairoCanvas& canvas, const ui::Rect& monitor, bool isDark) {
   const ui::Rect neck{monitor.center().x - 62, monitor.bottom() - 2, 124, 36};
-  const ui::Rect foot{monitor.center().x - 122, neck.bottom() - 1, 244, 8};
+  const ui::Rect stand{monitor.center().x - 122, neck.bottom() - 1, 244, 8};
   const ui::Rgba light = isDark ? ui::Rgba{0.34, 0.35, 0.38, 1} : ui::Rgba{0.8, 0.81, 0.84, 1};
   const ui::Rgba shade = isDark ? ui::Rgba{0.22, 0.23, 0.26, 1} : ui::Rgba{0.62, 0.64, 0.68, 1};
-  canvas.shadow(ui::Shape::roundedRectangle(foot, 4), {{0, 0, 0, 0.3}, 14, {0, 6}});
+  canvas.shadow(ui::Shape::roundedRectangle(stand, 4), {{0, 0, 0, 0.3}, 14, {0, 6}});
   canvas.fill(ui::Shape::rectangle(neck), vertical(shade, light, neck));
-  canvas.fill(ui::Shape::roundedRectangle(foot, 4), vertical(light, shade, foot));
+  canvas.fill(ui::Shape::roundedRectangle(stand, 4), vertical(light, shade, stand));
 }
 
 void paintMonitor(desk::CairoCanvas& canvas, const ui::Rect& screen, const desk::Display& display,
-                  bool hasFoot, bool isDark, desk::DrawingResources& resources) {
+                  bool hasStand, bool isDark, desk::DrawingResources& resources) {
   const ui::Rect monitor = monitorAround(screen);
   const ui::Shape shape = ui::Shape::roundedRectangle(monitor, monitorCorner);
-  if (hasFoot && !display.isBuiltIn) {
-    paintFoot(canvas, monitor, isDark);
+  if (hasStand && !display.isBuiltIn) {
+    paintStand(canvas, monitor, isDark);
   }
   canvas.shadow(shape, {{0, 0, 0, isDark ? 0.55 : 0.32}, 30, {0, 12}});
   canvas.fill(shape, vertical({0.13, 0.13, 0.15, 1}, {0.07, 0.07, 0.08, 1}, monitor));
   canvas.stroke(shape.inset(0.5), ui::Paint::solid({1, 1, 1, 0.14}), 1);
-  if (hasFoot && display.isBuiltIn) {
+  if (hasStand && display.isBuiltIn) {
     paintLaptopBase(canvas, monitor, isDark);
   }
   const ui::Font font = ui::Font::system(13, ui::Weight::medium);

@@ -1,5 +1,5 @@
-// What surrounds the screens: in the monitors style a table with a monitor or a laptop around each
-// screen, else nothing but a ground.
+// The surroundings of the screens: monitors and laptops in the `monitors` style, otherwise a plain
+// background.
 #pragma once
 
 #include <cairo.h>
@@ -10,7 +10,7 @@
 
 namespace orvane::showroom {
 
-/// Paints all of the layout's pixels; the screens themselves are painted over it afterwards.
+/// Paints all of the layout's pixels, before the screens are painted.
 void paintSurroundings(cairo_surface_t* surface, const DesktopLayout& layout,
                        const DesktopScene& scene, desk::DrawingResources& resources);
 

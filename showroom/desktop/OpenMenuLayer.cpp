@@ -1,4 +1,4 @@
-// The menu by the measures that it was laid out by.
+// Paints the menu with the metrics of its layout.
 #include "showroom/desktop/OpenMenuLayer.hpp"
 
 #include "Orvane/ui/draw/StandardColors.hpp"
@@ -15,6 +15,7 @@ namespace orvane::showroom {
 namespace {
 
 constexpr ui::PaintShadow menuShadow{{0, 0, 0, 0.28}, 20, {0, 6}};
+constexpr double menuGlassSigma = 16;
 constexpr double sideInset = 5;
 
 ui::Rgba ink(const desk::Machine& machine, double opacity) {
@@ -33,7 +34,7 @@ void paintRow(desk::CairoCanvas& canvas, desk::WindowServer& server, const desk:
       ui::Shape::roundedRectangle(frame.inset(ui::Edges::horizontal(sideInset)), 5);
   if (row.view != nullptr) {
     if (isHighlighted) {
-      // As rows highlight themselves under the pointer.
+      // The same highlight as that of a hovered row.
       canvas.fill(ui::Shape::roundedRectangle(frame.inset(ui::Edges::symmetric(3, 2)), 6),
                   ui::Paint::solid(ink(server.machine(), 0.08)));
     }
@@ -66,7 +67,7 @@ void paintMenu(desk::CairoCanvas& canvas, desk::WindowServer& server, GlassCache
   const ui::Shape shape =
       ui::Shape::roundedRectangle(rectOf(server.menus.frame()), desk::MenuMetrics::cornerRadius);
   canvas.shadow(shape, menuShadow);
-  paintGlass(canvas, shape, glassSigma, tintFor(server.machine().appearance, menuTint(isDark)),
+  paintGlass(canvas, shape, menuGlassSigma, tintFor(server.machine().appearance, menuTint(isDark)),
              glass);
   for (const desk::MenuRow& row : server.menus.rows()) {
     paintRow(canvas, server, row);

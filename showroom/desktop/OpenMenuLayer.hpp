@@ -1,5 +1,4 @@
-// OpenMenuLayer paints what lies above all windows for a moment: the open menu, the tooltip, and
-// what is being dragged.
+// OpenMenuLayer paints the open menu, the tooltip and a dragged file above all windows.
 #pragma once
 
 #include "showroom/desktop/DesktopLayer.hpp"

@@ -1,4 +1,4 @@
-// An arrow of the desk's own: a dark kite with a white border, its tip on the pointer's place.
+// A dark arrow with a white border, its tip at the pointer's location.
 #include "showroom/desktop/PointerLayer.hpp"
 
 #include <array>
@@ -7,7 +7,7 @@ namespace orvane::showroom {
 
 namespace {
 
-/// The outline in points, from the tip.
+/// In points, relative to the tip.
 constexpr std::array<ui::Point, 7> outline{
     {{0, 0}, {0, 16.2}, {3.8, 12.7}, {6.5, 18.6}, {9.2, 17.4}, {6.6, 11.7}, {11.7, 11.5}}};
 
@@ -30,7 +30,7 @@ void PointerLayer::paint(const DesktopScene& scene, const DisplayCanvas& display
   cairo_translate(context, place.x, place.y);
   cairo_scale(context, scene.pointerMagnification, scene.pointerMagnification);
   cairo_set_line_join(context, CAIRO_LINE_JOIN_ROUND);
-  // A soft shadow in three steps, as dark in the middle as a blurred one.
+  // Three strokes approximate a blurred shadow.
   for (const double width : {5.0, 3.6, 2.4}) {
     cairo_save(context);
     cairo_translate(context, 0.4, 1);

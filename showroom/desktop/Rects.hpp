@@ -1,4 +1,4 @@
-// Rectangles of the machine as the canvas takes them, and back.
+// Converts between CGRect and ui::Rect.
 #pragma once
 
 #include "Orvane/platform/Quartz.hpp"

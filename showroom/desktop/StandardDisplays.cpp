@@ -1,15 +1,15 @@
-// Small displays, so that a window that shows several of them shows their texts legibly.
+// The displays are small, so that texts are legible in a window that shows several of them.
 #include "showroom/desktop/StandardDisplays.hpp"
 
 #include <algorithm>
 #include <string>
 
-#include "Orvane/base/Require.hpp"
-
 namespace orvane::showroom {
 
+namespace {
+
+/// The built-in display, one to its right, one to its left and one above.
 desk::Display standardDisplay(std::size_t position) {
-  require(position < standardDisplayCount, "there are only so many standard displays");
   desk::Display display;
   display.number = static_cast<std::uint32_t>(position + 1);
   switch (position) {
@@ -38,18 +38,22 @@ desk::Display standardDisplay(std::size_t position) {
   return display;
 }
 
-std::uint32_t attachNextStandardDisplay(desk::Machine& machine) {
+}  // namespace
+
+std::optional<desk::Display> nextStandardDisplay(const desk::Machine& machine) {
+  const auto& attached = machine.displays.all();
   for (std::size_t position = 0; position < standardDisplayCount; ++position) {
-    const desk::Display display = standardDisplay(position);
-    const auto& attached = machine.displays.all();
-    const bool isAttached = std::any_of(attached.begin(), attached.end(), [&](const auto& other) {
-      return other.uuid == display.uuid;
-    });
-    if (!isAttached && !machine.displays.attach(display)) {
-      return display.number;
+    desk::Display display = standardDisplay(position);
+    if (std::ranges::find(attached, display.uuid, &desk::Display::uuid) == attached.end()) {
+      return display;
     }
   }
-  return 0;
+  return std::nullopt;
+}
+
+std::uint32_t attachNextStandardDisplay(desk::Machine& machine) {
+  const auto display = nextStandardDisplay(machine);
+  return display && !machine.displays.attach(*display) ? display->number : 0;
 }
 
 }  // namespace orvane::showroom

@@ -1,20 +1,21 @@
-// The displays that stand on the desk when nobody asked for others.
+// The displays that the window and the tour begin with.
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 
 #include "desk/machine/Display.hpp"
 #include "desk/machine/Machine.hpp"
 
 namespace orvane::showroom {
 
-/// How many there are.
 inline constexpr std::size_t standardDisplayCount = 4;
 
-/// The display at the position: a built-in one, one to its right, one to its left, one above.
-desk::Display standardDisplay(std::size_t position);
+/// The first standard display that is not attached; none if all are.
+[[nodiscard]] std::optional<desk::Display> nextStandardDisplay(const desk::Machine& machine);
 
-/// Attaches the first of them that is not attached, and returns its number; 0 when all are.
+/// Attaches the next standard display and returns its number; 0 if all are attached.
 std::uint32_t attachNextStandardDisplay(desk::Machine& machine);
 
 }  // namespace orvane::showroom

@@ -1,4 +1,4 @@
-// The landscape: a sky, a sun or a moon, and ridges that fade into the haze with their distance.
+// The landscape has a sky, a sun or moon, and ridges that fade with distance.
 #include "showroom/desktop/WallpaperArt.hpp"
 
 #include <algorithm>
@@ -13,8 +13,7 @@ namespace orvane::showroom {
 
 namespace {
 
-/// The landscape is drawn on a sheet of this size, of which a screen shows the largest part of its
-/// own proportions.
+/// The size of the landscape in units. It is scaled to cover the screen and cropped.
 constexpr double sheetWidth = 1600;
 constexpr double sheetHeight = 1000;
 
@@ -36,7 +35,7 @@ void addStop(cairo_pattern_t* pattern, double place, const Tone& tone, double al
                                     tone.blue / byteRange, alpha);
 }
 
-/// One range of hills: where its line runs, how it swings, and its colours from crest to foot.
+/// One range of hills: the height and waves of its outline, and its colours from crest to foot.
 struct Ridge {
   double height;
   double swing;
@@ -90,8 +89,8 @@ void paintSky(cairo_t* context, const Palette& palette) {
   cairo_paint(context);
 }
 
-/// Small deterministic numbers for scattered things, from 0 up to 1 (a linear congruential sequence
-/// with the constants of Numerical Recipes).
+/// Deterministic numbers in [0, 1): a linear congruential generator with the constants of Numerical
+/// Recipes.
 class Scatter {
  public:
   explicit Scatter(std::uint32_t seed) : state_(seed) {}
@@ -121,7 +120,7 @@ void paintStars(cairo_t* context) {
 void paintLight(cairo_t* context, const Palette& palette) {
   const desk::PatternPointer glow(cairo_pattern_create_radial(
       palette.lightX, palette.lightY, 0, palette.lightX, palette.lightY, palette.glowRadius));
-  // The squares of what is left to the rim, so that the glow ends without one.
+  // The opacity falls with the square of the distance to the rim, so that no edge is visible.
   addStop(glow.get(), 0, palette.light, 0.5);
   addStop(glow.get(), 0.15, palette.light, 0.36);
   addStop(glow.get(), 0.3, palette.light, 0.245);
@@ -136,7 +135,7 @@ void paintLight(cairo_t* context, const Palette& palette) {
   cairo_fill(context);
 }
 
-/// Three waves of unrelated lengths make a line that does not look repeated.
+/// The sum of three waves of unrelated lengths, so that no repetition is visible.
 double crestAt(const Ridge& ridge, double x) {
   const double turn = 2 * std::numbers::pi * x / sheetWidth;
   return ridge.height - ridge.swing * (0.62 * std::sin(turn * ridge.waves + ridge.phase) +
@@ -164,7 +163,7 @@ void paintRidge(cairo_t* context, const Ridge& ridge) {
 void paintLandscape(cairo_t* context, const Palette& palette, bool hasStars, double width,
                     double height) {
   const double scale = std::max(width / sheetWidth, height / sheetHeight);
-  // What does not fit is cut at both sides equally, and from the sky rather than from the ground.
+  // Cropped equally at both sides, and more from the sky than from the ground.
   cairo_translate(context, (width - sheetWidth * scale) / 2, (height - sheetHeight * scale) * 0.7);
   cairo_scale(context, scale, scale);
   paintSky(context, palette);
@@ -177,7 +176,7 @@ void paintLandscape(cairo_t* context, const Palette& palette, bool hasStars, dou
   }
 }
 
-/// Triangles in strong colours, so that what is legible here is legible anywhere.
+/// Triangles in strong colours, as a worst case for legibility.
 void paintBusy(cairo_t* context, double width, double height) {
   constexpr std::array<Tone, 8> tones{{{236, 64, 90},
                                        {250, 176, 40},

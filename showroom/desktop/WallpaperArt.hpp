@@ -1,5 +1,5 @@
-// The desk's wallpapers, drawn by code: an own landscape by day and by night, plain white and
-// black, and a busy pattern against which everything must stay legible.
+// The desk's wallpapers, drawn by code: a landscape by day and night, white, black, and a busy
+// pattern as a worst case for legibility.
 #pragma once
 
 #include <cairo.h>
@@ -8,8 +8,8 @@
 
 namespace orvane::showroom {
 
-/// Fills `width` by `height` units of the context from the origin. The same arguments give the same
-/// picture.
+/// Fills a rectangle of `width` by `height` units at the origin. Equal arguments give equal
+/// pictures.
 void paintWallpaper(cairo_t* context, desk::Appearance::Wallpaper wallpaper, bool isDark,
                     double width, double height);
 

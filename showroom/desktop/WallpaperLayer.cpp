@@ -1,4 +1,4 @@
-// A wallpaper is drawn once for each size and then copied pixel by pixel.
+// Each wallpaper is drawn once per size and then copied.
 #include "showroom/desktop/WallpaperLayer.hpp"
 
 #include "showroom/desktop/WallpaperArt.hpp"
@@ -7,7 +7,7 @@ namespace orvane::showroom {
 
 namespace {
 
-/// More than a desk has displays; while a window is resized, older sizes are dropped.
+/// More than the desk has displays. Resizing the window adds sizes until all are dropped.
 constexpr std::size_t keptLimit = 8;
 
 }  // namespace

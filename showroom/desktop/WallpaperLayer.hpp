@@ -1,4 +1,4 @@
-// WallpaperLayer paints the wallpaper that the user chose, and keeps what it painted.
+// WallpaperLayer paints the chosen wallpaper and caches it.
 #pragma once
 
 #include <map>
@@ -14,7 +14,7 @@ class WallpaperLayer : public DesktopLayer {
   void paint(const DesktopScene& scene, const DisplayCanvas& display) override;
 
  private:
-  /// The wallpaper, dark or not, width and height in pixels.
+  /// The wallpaper, whether it is dark, its width and height in pixels.
   using Key = std::tuple<desk::Appearance::Wallpaper, bool, int, int>;
   std::map<Key, desk::SurfacePointer> kept_;
 };

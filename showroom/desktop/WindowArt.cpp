@@ -1,4 +1,4 @@
-// How windows look: shadow, glass, background, title bar, content.
+// A window without a background is painted as a layer, so that its content casts the shadow.
 #include "showroom/desktop/WindowArt.hpp"
 
 #include <array>
@@ -20,7 +20,7 @@ ui::Shape placed(ui::Shape shape, ui::Point corner) {
   return shape;
 }
 
-/// Whether the window's silhouette is its outline, and not what its content happens to cover.
+/// Whether the window's silhouette is its outline, not that of its content.
 bool fillsItsOutline(const desk::DeskWindow& window) {
   return !window.hasClearBackground || (window.content != nullptr && window.content->hasBackdrop);
 }
@@ -31,7 +31,7 @@ ui::Rgba backgroundColor(const desk::WindowServer& server) {
   return ui::standardColor(ui::SystemColor::windowBackground, appearance);
 }
 
-/// The close button in red while its window is key, and the places of the two others.
+/// The close button, red in the key window, and the two disabled ones beside it.
 void paintTitleButtons(desk::CairoCanvas& canvas, const desk::WindowServer& server,
                        const desk::DeskWindow& window, ui::Point corner) {
   constexpr double spacing = 20;
@@ -81,7 +81,7 @@ void paintContent(desk::CairoCanvas& canvas, desk::WindowServer& server, desk::D
 }  // namespace
 
 ui::Rgba glassTint(bool isDark) {
-  // As thick as text on it needs: what is behind may be white in the dark, and black by day.
+  // Opaque enough for text over a white background in dark mode and a black one in light mode.
   return isDark ? ui::Rgba{0.06, 0.06, 0.075, 0.93} : ui::Rgba{0.97, 0.97, 0.98, 0.91};
 }
 
@@ -127,8 +127,8 @@ void paintWindow(desk::CairoCanvas& canvas, desk::WindowServer& server, desk::De
     canvas.shadow(outline, windowShadow);
   }
   if (window.content != nullptr && window.content->hasBackdrop) {
-    paintGlass(canvas, outline, glassSigma, tintFor(server.machine().appearance, glassTint(isDark)),
-               glass);
+    paintGlass(canvas, outline, windowGlassSigma,
+               tintFor(server.machine().appearance, glassTint(isDark)), glass);
   } else {
     canvas.fill(outline, ui::Paint::solid(backgroundColor(server)));
   }

@@ -1,4 +1,4 @@
-// How windows look: shadow, glass, background, title bar, content.
+// Paints windows: shadow, glass or background, title bar, content.
 #pragma once
 
 #include "desk/canvas/CairoCanvas.hpp"
@@ -8,25 +8,24 @@
 
 namespace orvane::showroom {
 
-/// How far a window's shadow reaches beyond its frame, in points.
+/// The reach of a window's shadow beyond its frame, in points.
 inline constexpr double windowShadowReach = 60;
 
-/// Paints a visible window where it is; the canvas is in global coordinates and holds what lies
-/// behind it.
+/// Paints a visible window on a canvas in global coordinates that already has what is behind it.
 void paintWindow(desk::CairoCanvas& canvas, desk::WindowServer& server, desk::DeskWindow& window,
                  GlassCache& glass);
 
-/// Paints an up-to-date view with its top left at a place in global coordinates, on whole pixels.
+/// Updates a view and paints it with its top left corner at `corner`, in global coordinates.
 void paintView(desk::CairoCanvas& canvas, desk::WindowServer& server, desk::HostedView& view,
                ui::Point corner);
 
-/// The thin veil over the blurred background that makes it glass.
+/// The tint of a window's glass.
 [[nodiscard]] ui::Rgba glassTint(bool isDark);
-/// Lighter than a window's glass in the dark: a menu stands out from what it lies on.
+/// The tint of a menu's glass; in dark mode lighter than a window's.
 [[nodiscard]] ui::Rgba menuTint(bool isDark);
-/// The edge of what lies above everything: a dark line around it, and in the dark, where that is
-/// lost on a dark wallpaper, a light one within.
+/// The edge of menus and tooltips: a dark line, and in dark mode a light line within it.
 void paintMenuEdge(desk::CairoCanvas& canvas, const ui::Shape& shape, bool isDark);
-inline constexpr double glassSigma = 24;
+/// The blur of a window's glass: a standard deviation in points.
+inline constexpr double windowGlassSigma = 24;
 
 }  // namespace orvane::showroom

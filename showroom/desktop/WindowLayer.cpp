@@ -1,4 +1,4 @@
-// Windows back to front; those that are nowhere near the display are left out.
+// Skips windows whose shadow does not reach the display.
 #include "showroom/desktop/WindowLayer.hpp"
 
 #include "desk/windows/Surfaces.hpp"

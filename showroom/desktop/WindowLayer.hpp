@@ -1,5 +1,4 @@
-// WindowLayer paints the windows of the window server: those below the Dock and the menu bar, or
-// those above.
+// WindowLayer paints the windows below the Dock and the menu bar, or those above.
 #pragma once
 
 #include "showroom/desktop/DesktopLayer.hpp"

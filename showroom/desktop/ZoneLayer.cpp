@@ -1,4 +1,4 @@
-// Zones are translucent, so that what they cover stays in sight.
+// Zones are translucent.
 #include "showroom/desktop/ZoneLayer.hpp"
 
 #include <algorithm>
@@ -17,7 +17,7 @@ void setRed(cairo_t* context, double alpha) {
   cairo_set_source_rgba(context, zoneRed.red, zoneRed.green, zoneRed.blue, alpha);
 }
 
-/// An arrow from the middle of the zone, as long as the nudge, with its head beyond the zone.
+/// An arrow from the middle of the zone in the direction of the nudge, 1.5 times as long.
 void addNudgeArrow(cairo_t* context, ui::Point from, const CGVector& nudge) {
   const double length = std::hypot(nudge.dx, nudge.dy);
   if (length <= 0) {
@@ -62,7 +62,7 @@ void paintZone(cairo_t* context, const TriggerZone& zone) {
   cairo_stroke(context);
 }
 
-/// A ripple around the place that the movement wanted, and the way back.
+/// A circle around the intended location, and a line to the actual one.
 void paintMovedBack(cairo_t* context, const MovedBack& movedBack) {
   const double strength = std::clamp(movedBack.strength, 0.0, 1.0);
   constexpr double fullTurn = 2 * std::numbers::pi;

@@ -1,5 +1,5 @@
-// ZoneLayer marks the guard's trigger zones, each with the direction in which it moves the pointer,
-// and the movement that was just moved back.
+// ZoneLayer marks the guard's trigger zones with the direction of their nudge, and the last
+// movement that was moved back.
 #pragma once
 
 #include "showroom/desktop/DesktopLayer.hpp"

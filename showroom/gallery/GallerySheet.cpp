@@ -1,4 +1,4 @@
-// The sheets of all parts of the application, put together.
+// Collects the sheets of all parts of the application.
 #include "showroom/gallery/GallerySheet.hpp"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// What the gallery shows: sheets, each with one kind of component in all its states.
+// The gallery's sheets, each with one kind of component in all its states.
 #pragma once
 
 #include <cstdint>
@@ -11,33 +11,32 @@
 
 namespace orvane::showroom {
 
-/// What somebody is doing with a component while its picture is taken.
-enum class Hand : std::uint8_t {
-  away,
-  /// The pointer rests on it.
-  over,
-  /// The pointer holds it down.
-  pressing,
-  /// It was reached with the Tab key.
-  tabbing,
+/// What the user does with a component in its picture.
+enum class Interaction : std::uint8_t {
+  none,
+  /// The pointer is over it.
+  hovered,
+  /// The pointer presses it.
+  pressed,
+  /// The Tab key has moved the focus to it.
+  focused,
 };
 
 struct GalleryItem {
   std::string caption;
-  /// The component with the texts of a language; asked anew whenever the component is redrawn.
+  /// Makes the component in a language; called at every rebuild.
   std::function<ui::View(OrvaneLanguage)> make = nullptr;
-  Hand hand = Hand::away;
-  /// Set for a whole panel, and then in place of `make`: brings the current machine into the item's
-  /// state and returns what makes the panel, on a model that it keeps. The texts are in the
-  /// language that is stored on the machine.
+  Interaction interaction = Interaction::none;
+  /// For a whole panel, in place of `make`: brings the current machine into the item's state and
+  /// returns a function that makes the panel and owns its model. The texts are in the machine's
+  /// stored language.
   std::function<std::function<ui::View()>()> stage = nullptr;
 };
 
 struct GallerySheet {
-  /// What the components lie on: the main window's surface, a panel on it, the settings' surface,
-  /// an open menu, or the plain background of a dialogue. A whole panel lies on nothing but the
-  /// desktop, in a window of its own.
-  enum class Ground : std::uint8_t {
+  /// The background of the components: the main window, a panel on it, the settings, an open menu
+  /// or a dialogue. The last two show a whole panel in its own window on the desktop.
+  enum class Background : std::uint8_t {
     window,
     panel,
     settings,
@@ -47,23 +46,21 @@ struct GallerySheet {
     settingsWindow
   };
 
-  /// Of the file, without its ending.
+  /// The file's name without suffix.
   std::string name;
   std::string title;
-  Ground ground = Ground::panel;
-  /// Whether the items differ between the languages.
+  Background background = Background::panel;
+  /// Whether the items have texts, and so differ between the languages.
   bool hasTexts = true;
   /// Items in a row.
   std::size_t columns = 8;
   std::vector<GalleryItem> items;
 };
 
-/// Every sheet, in the order in which they are written.
+/// All sheets, in the order in which they are written.
 [[nodiscard]] std::vector<GallerySheet> gallerySheets();
 
-/// The sheets of the main panel's parts, of both panels' buttons, of the settings' other parts, of
-/// the colours, of the menu's parts, of the permission's dialogues, and of whole panels; together
-/// they are all.
+/// The sheets by part of the application; gallerySheets() joins them.
 [[nodiscard]] std::vector<GallerySheet> mainPanelSheets();
 [[nodiscard]] std::vector<GallerySheet> buttonSheets();
 [[nodiscard]] std::vector<GallerySheet> settingsSheets();
@@ -72,7 +69,7 @@ struct GallerySheet {
 [[nodiscard]] std::vector<GallerySheet> dialogueSheets();
 [[nodiscard]] std::vector<GallerySheet> panelSheets();
 
-/// The sheet of that name; there must be one.
+/// The sheet with this name, which must exist.
 [[nodiscard]] GallerySheet gallerySheetNamed(const std::string& name);
 
 }  // namespace orvane::showroom

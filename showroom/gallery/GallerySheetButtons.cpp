@@ -1,4 +1,4 @@
-// The styles of the buttons of both panels.
+// The button styles of both panels.
 #include "Orvane/panels/main/PrimaryActionButtonStyle.hpp"
 #include "Orvane/panels/main/SecondaryActionButtonStyle.hpp"
 #include "Orvane/panels/main/TitleBarIconButtonStyle.hpp"
@@ -19,7 +19,7 @@ using ui::Font;
 using ui::View;
 using ui::Weight;
 
-/// Makes the label of a button in a language.
+/// Makes a button's label in a language.
 using Label = std::function<View(OrvaneLanguage)>;
 
 Label labelled(const std::string& symbol, const std::string& english, const std::string& chinese) {
@@ -32,12 +32,12 @@ Label labelled(const std::string& symbol, const std::string& english, const std:
 struct Styled {
   ui::ButtonStyle style;
   ui::Shape ring;
-  /// In points; none for a button that is as wide as its label.
+  /// In points; none if the label determines it.
   std::optional<double> width;
 };
 
 GalleryItem buttonItem(const std::string& caption, const Styled& styled, const Label& label,
-                       Hand hand = Hand::away, bool isDisabled = false) {
+                       Interaction interaction = Interaction::none, bool isDisabled = false) {
   return {caption,
           [=](OrvaneLanguage language) {
             const View button = ui::Button([] {}, label(language))
@@ -46,15 +46,16 @@ GalleryItem buttonItem(const std::string& caption, const Styled& styled, const L
                                     .disabled(isDisabled);
             return styled.width ? button.width(*styled.width) : button;
           },
-          hand};
+          interaction};
 }
 
-/// The five states that every button has.
+/// The five states of every button.
 std::vector<GalleryItem> states(const Styled& styled, const Label& label) {
-  return {buttonItem("normal", styled, label), buttonItem("hovered", styled, label, Hand::over),
-          buttonItem("pressed", styled, label, Hand::pressing),
-          buttonItem("focused", styled, label, Hand::tabbing),
-          buttonItem("disabled", styled, label, Hand::away, true)};
+  return {buttonItem("normal", styled, label),
+          buttonItem("hovered", styled, label, Interaction::hovered),
+          buttonItem("pressed", styled, label, Interaction::pressed),
+          buttonItem("focused", styled, label, Interaction::focused),
+          buttonItem("disabled", styled, label, Interaction::none, true)};
 }
 
 GallerySheet primarySheet() {
@@ -64,7 +65,7 @@ GallerySheet primarySheet() {
   const Label unpinLabel = labelled("lock.open", "Unpin Dock", "解除固定 Dock");
   std::vector<GalleryItem> items = states(pin, labelled("lock", "Pin Dock", "固定 Dock"));
   items.push_back(buttonItem("in red", unpin, unpinLabel));
-  items.push_back(buttonItem("in red, pressed", unpin, unpinLabel, Hand::pressing));
+  items.push_back(buttonItem("in red, pressed", unpin, unpinLabel, Interaction::pressed));
   return {.name = "primary-action-button",
           .title = "PrimaryActionButtonStyle",
           .columns = 7,
@@ -89,7 +90,7 @@ GallerySheet titleBarSheet() {
   const Styled styled{TitleBarIconButtonStyle{}, ui::Shape::rounded(10), std::nullopt};
   return {.name = "title-bar-icon-button",
           .title = "TitleBarIconButtonStyle",
-          .ground = GallerySheet::Ground::window,
+          .background = GallerySheet::Background::window,
           .hasTexts = false,
           .items = states(styled, [](OrvaneLanguage) {
             return ui::Symbol("gearshape").font(Font::system(18, Weight::semibold)).frame(34, 34);
@@ -101,7 +102,7 @@ GallerySheet settingsSheet() {
                       ui::Shape::rounded(SettingsSecondaryButtonStyle::cornerRadius), std::nullopt};
   return {.name = "settings-secondary-button",
           .title = "SettingsSecondaryButtonStyle",
-          .ground = GallerySheet::Ground::settings,
+          .background = GallerySheet::Background::settings,
           .items = states(styled, labelled("lock.shield", "Privacy Policy", "隐私政策"))};
 }
 
@@ -109,7 +110,7 @@ GallerySheet settingsIconSheet() {
   const Styled styled{SettingsIconButtonStyle{}, ui::Shape::circle(), std::nullopt};
   return {.name = "settings-icon-button",
           .title = "SettingsIconButtonStyle",
-          .ground = GallerySheet::Ground::settings,
+          .background = GallerySheet::Background::settings,
           .hasTexts = false,
           .items = states(styled, [](OrvaneLanguage) {
             return ui::Symbol("xmark").font(Font::system(12, Weight::bold)).frame(28, 28);

@@ -1,4 +1,4 @@
-// What asks for the permission, with its buttons.
+// The permission's alert and guide, and their buttons.
 #include "Orvane/permission/OrvaneAccessibilityPermissionAlertView.hpp"
 #include "Orvane/permission/OrvaneDraggableAppIconView.hpp"
 #include "Orvane/permission/OrvanePermissionGuideView.hpp"
@@ -15,7 +15,7 @@ using ui::View;
 GallerySheet alertSheet() {
   return {.name = "permission-alert",
           .title = "OrvaneAccessibilityPermissionAlertView",
-          .ground = GallerySheet::Ground::dialogue,
+          .background = GallerySheet::Background::dialogue,
           .columns = 1,
           .items = {{"the alert", [](OrvaneLanguage) {
                        return View(OrvaneAccessibilityPermissionAlertView{[] {}, [] {}});
@@ -30,7 +30,7 @@ GallerySheet guideSheet() {
   };
   return {.name = "permission-guide",
           .title = "OrvanePermissionGuideView",
-          .ground = GallerySheet::Ground::dialogue,
+          .background = GallerySheet::Background::dialogue,
           .columns = 3,
           .items = {item("looking", PermissionGuideState::checking),
                     item("not seen for a while", PermissionGuideState::timeout),
@@ -40,15 +40,15 @@ GallerySheet guideSheet() {
 GallerySheet draggableIconSheet() {
   return {.name = "draggable-app-icon",
           .title = "OrvaneDraggableAppIconView",
-          .ground = GallerySheet::Ground::dialogue,
+          .background = GallerySheet::Background::dialogue,
           .hasTexts = false,
           .items = {{"the icon", [](OrvaneLanguage) {
                        return View(OrvaneDraggableAppIconView{}).frame(82, 82);
                      }}}};
 }
 
-GalleryItem bezelItem(const std::string& caption, bool isDefault, Hand hand = Hand::away,
-                      bool isDisabled = false) {
+GalleryItem bezelItem(const std::string& caption, bool isDefault,
+                      Interaction interaction = Interaction::none, bool isDisabled = false) {
   return {
       caption,
       [=](OrvaneLanguage language) {
@@ -57,19 +57,20 @@ GalleryItem bezelItem(const std::string& caption, bool isDefault, Hand hand = Ha
                 .disabled(isDisabled);
         return isDefault ? button.keyboardShortcut(ui::KeyboardShortcut::defaultAction()) : button;
       },
-      hand};
+      interaction};
 }
 
 GallerySheet bezelSheet() {
-  return {.name = "bordered-button",
-          .title = "BorderedButtonStyle",
-          .ground = GallerySheet::Ground::dialogue,
-          .columns = 7,
-          .items = {bezelItem("normal", false), bezelItem("pressed", false, Hand::pressing),
-                    bezelItem("focused", false, Hand::tabbing),
-                    bezelItem("disabled", false, Hand::away, true), bezelItem("default", true),
-                    bezelItem("default, pressed", true, Hand::pressing),
-                    bezelItem("default, disabled", true, Hand::away, true)}};
+  return {
+      .name = "bordered-button",
+      .title = "BorderedButtonStyle",
+      .background = GallerySheet::Background::dialogue,
+      .columns = 7,
+      .items = {bezelItem("normal", false), bezelItem("pressed", false, Interaction::pressed),
+                bezelItem("focused", false, Interaction::focused),
+                bezelItem("disabled", false, Interaction::none, true), bezelItem("default", true),
+                bezelItem("default, pressed", true, Interaction::pressed),
+                bezelItem("default, disabled", true, Interaction::none, true)}};
 }
 
 }  // namespace

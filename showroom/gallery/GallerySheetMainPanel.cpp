@@ -1,4 +1,4 @@
-// The components that the main panel is built from.
+// The components of the main panel.
 #include <algorithm>
 #include <iterator>
 
@@ -43,25 +43,25 @@ DisplayChoiceCard card(OrvaneLanguage language, const CardTexts& name, bool isSe
 }
 
 GalleryItem cardItem(const std::string& caption, const CardTexts& name, bool isSelected,
-                     Hand hand = Hand::away, bool isDisabled = false) {
+                     Interaction interaction = Interaction::none, bool isDisabled = false) {
   return {caption,
           [name = &name, isSelected, isDisabled](OrvaneLanguage language) {
             return View(card(language, *name, isSelected)).disabled(isDisabled);
           },
-          hand};
+          interaction};
 }
 
 GallerySheet cardSheet() {
   static const CardTexts noName{"", ""};
   return {.name = "display-choice-card",
           .title = "DisplayChoiceCard",
-          .ground = GallerySheet::Ground::panel,
+          .background = GallerySheet::Background::panel,
           .items = {cardItem("normal", builtInName, false),
-                    cardItem("hovered", builtInName, false, Hand::over),
-                    cardItem("pressed", builtInName, false, Hand::pressing),
+                    cardItem("hovered", builtInName, false, Interaction::hovered),
+                    cardItem("pressed", builtInName, false, Interaction::pressed),
                     cardItem("selected", builtInName, true),
-                    cardItem("selected, hovered", builtInName, true, Hand::over),
-                    cardItem("focused", builtInName, false, Hand::tabbing),
+                    cardItem("selected, hovered", builtInName, true, Interaction::hovered),
+                    cardItem("focused", builtInName, false, Interaction::focused),
                     cardItem("long name, selected", longName, true),
                     cardItem("without a name", noName, false)}};
 }
@@ -97,19 +97,19 @@ GallerySheet iconSheet() {
 }
 
 GalleryItem lightItem(const std::string& caption, bool isClose, bool showsIcon,
-                      Hand hand = Hand::away) {
+                      Interaction interaction = Interaction::none) {
   return {(isClose ? "close, " : "minimise, ") + caption,
           [=](OrvaneLanguage) {
             return View(isClose ? TrafficLightButton::close(showsIcon, "Close", [] {})
                                 : TrafficLightButton::minimise(showsIcon, "Minimise", [] {}));
           },
-          hand};
+          interaction};
 }
 
 std::vector<GalleryItem> lightItems(bool isClose) {
   return {lightItem("normal", isClose, false), lightItem("cluster hovered", isClose, true),
-          lightItem("hovered", isClose, true, Hand::over),
-          lightItem("pressed", isClose, true, Hand::pressing)};
+          lightItem("hovered", isClose, true, Interaction::hovered),
+          lightItem("pressed", isClose, true, Interaction::pressed)};
 }
 
 GallerySheet lightSheet() {
@@ -117,7 +117,7 @@ GallerySheet lightSheet() {
   std::ranges::move(lightItems(false), std::back_inserter(items));
   return {.name = "traffic-light-button",
           .title = "TrafficLightButton",
-          .ground = GallerySheet::Ground::window,
+          .background = GallerySheet::Background::window,
           .hasTexts = false,
           .columns = 4,
           .items = std::move(items)};
@@ -140,7 +140,7 @@ GallerySheet panelSheet() {
   };
   return {.name = "dock-panel",
           .title = "DockPanel",
-          .ground = GallerySheet::Ground::window,
+          .background = GallerySheet::Background::window,
           .columns = 1,
           .items = {{"with the head of a panel", panel}}};
 }

@@ -23,7 +23,7 @@ struct RowState {
 };
 
 GalleryItem rowItem(const std::string& caption, const RowTexts& texts, const RowState& state,
-                    Hand hand = Hand::away) {
+                    Interaction interaction = Interaction::none) {
   return {caption,
           [=](OrvaneLanguage language) {
             return View(StatusMenuRow{.title = language.localized(texts.english, texts.chinese),
@@ -33,7 +33,7 @@ GalleryItem rowItem(const std::string& caption, const RowTexts& texts, const Row
                                       .isOn = state.isOn,
                                       .action = [] {}});
           },
-          hand};
+          interaction};
 }
 
 GallerySheet rowSheet() {
@@ -53,18 +53,18 @@ GallerySheet rowSheet() {
   return {
       .name = "status-menu-row",
       .title = "StatusMenuRow",
-      .ground = GallerySheet::Ground::menu,
+      .background = GallerySheet::Background::menu,
       .columns = 7,
       .items = {rowItem("switch, off", prevent, {.isOn = false}),
                 rowItem("switch, on", prevent, {.isOn = true}),
-                rowItem("switch, hovered", prevent, {.isOn = false}, Hand::over),
+                rowItem("switch, hovered", prevent, {.isOn = false}, Interaction::hovered),
                 rowItem("switch, disabled", pin, {.isEnabled = false, .isOn = false}),
-                rowItem("normal", open, {}), rowItem("hovered", open, {}, Hand::over),
+                rowItem("normal", open, {}), rowItem("hovered", open, {}, Interaction::hovered),
                 rowItem("display", display, {}),
                 rowItem("display, selected", display, {.isSelected = true}),
-                rowItem("selected, hovered", display, {.isSelected = true}, Hand::over),
+                rowItem("selected, hovered", display, {.isSelected = true}, Interaction::hovered),
                 rowItem("long name", longName, {}), rowItem("disabled", none, {.isEnabled = false}),
-                rowItem("focused", open, {}, Hand::tabbing), header}};
+                rowItem("focused", open, {}, Interaction::focused), header}};
 }
 
 GallerySheet switchSheet() {
@@ -73,7 +73,7 @@ GallerySheet switchSheet() {
   };
   return {.name = "compact-menu-switch",
           .title = "CompactMenuSwitch",
-          .ground = GallerySheet::Ground::menu,
+          .background = GallerySheet::Background::menu,
           .hasTexts = false,
           .items = {item("off", false), item("on", true)}};
 }

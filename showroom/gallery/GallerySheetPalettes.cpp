@@ -17,7 +17,7 @@ using ui::Color;
 using ui::Environment;
 using ui::View;
 
-/// A function of the palette, made visible.
+/// A function of the palette.
 using Swatch = std::function<ui::Fill(bool isDark)>;
 
 struct SwatchView {
@@ -41,7 +41,7 @@ GallerySheet mainPaletteSheet() {
   return {
       .name = "orvane-palette",
       .title = "OrvanePalette",
-      .ground = GallerySheet::Ground::menu,
+      .background = GallerySheet::Background::menu,
       .hasTexts = false,
       .items = {swatchItem("windowGradient", palette::windowGradient),
                 swatchItem("windowTopHighlight", palette::windowTopHighlight),
@@ -63,7 +63,7 @@ GallerySheet settingsPaletteSheet() {
   namespace palette = SettingsPalette;
   return {.name = "settings-palette",
           .title = "SettingsPalette",
-          .ground = GallerySheet::Ground::menu,
+          .background = GallerySheet::Background::menu,
           .hasTexts = false,
           .columns = 6,
           .items = {swatchItem("windowGradient", Swatch(palette::windowGradient)),

@@ -1,4 +1,4 @@
-// The two panels as they are in their windows, each on a model of its own.
+// Both panels as a whole, each with its own model.
 #include <utility>
 
 #include "Orvane/panels/main/ContentView.hpp"
@@ -50,7 +50,7 @@ GallerySheet mainPanelSheet(const std::string& name, const std::string& title, s
                             std::vector<GalleryItem> items) {
   return {.name = name,
           .title = title,
-          .ground = GallerySheet::Ground::mainWindow,
+          .background = GallerySheet::Background::mainWindow,
           .columns = columns,
           .items = std::move(items)};
 }
@@ -99,7 +99,7 @@ GallerySheet settingsPanelSheet() {
   return {
       .name = "settings-panel",
       .title = "OrvaneSettingsView",
-      .ground = GallerySheet::Ground::settingsWindow,
+      .background = GallerySheet::Background::settingsWindow,
       .columns = 4,
       .items = {settingsPanel("normal", {.displayNames = two}),
                 settingsPanel("the login item needs approval",

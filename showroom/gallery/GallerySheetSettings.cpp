@@ -1,4 +1,4 @@
-// The cards that the settings panel is built from, and what is chosen in them.
+// The cards and pickers of the settings panel.
 #include "Orvane/panels/settings/SettingsPalette.hpp"
 #include "Orvane/panels/settings/SettingsSection.hpp"
 #include "Orvane/ui/views/Picker.hpp"
@@ -14,7 +14,7 @@ using ui::Color;
 using ui::View;
 
 GalleryItem sectionItem(const std::string& caption, const std::string& symbol, const Color& tint,
-                        Hand hand = Hand::away) {
+                        Interaction interaction = Interaction::none) {
   return {caption,
           [=](OrvaneLanguage language) {
             const std::string title = language.localized("Language", "语言");
@@ -29,23 +29,23 @@ GalleryItem sectionItem(const std::string& caption, const std::string& symbol, c
                                  ui::Spacer(), picker.width(160)})})
                 .width(384);
           },
-          hand};
+          interaction};
 }
 
 GallerySheet sectionSheet() {
   return {.name = "settings-section",
           .title = "SettingsSection",
-          .ground = GallerySheet::Ground::settings,
+          .background = GallerySheet::Background::settings,
           .columns = 3,
           .items = {sectionItem("normal", "globe", SettingsPalette::blue()),
-                    sectionItem("hovered", "globe", SettingsPalette::blue(), Hand::over),
+                    sectionItem("hovered", "globe", SettingsPalette::blue(), Interaction::hovered),
                     sectionItem("indigo", "keyboard", SettingsPalette::indigo()),
                     sectionItem("mint", "hand.raised", SettingsPalette::mint()),
                     sectionItem("sky", "lifepreserver", SettingsPalette::sky())}};
 }
 
-GalleryItem pickerItem(const std::string& caption, int selectedIndex, Hand hand = Hand::away,
-                       bool isDisabled = false) {
+GalleryItem pickerItem(const std::string& caption, int selectedIndex,
+                       Interaction interaction = Interaction::none, bool isDisabled = false) {
   return {caption,
           [=](OrvaneLanguage language) {
             return View(ui::Picker{language.localized("Language", "语言"),
@@ -55,18 +55,18 @@ GalleryItem pickerItem(const std::string& caption, int selectedIndex, Hand hand 
                                    [](int) {}})
                 .disabled(isDisabled);
           },
-          hand};
+          interaction};
 }
 
 GallerySheet pickerSheet() {
-  return {
-      .name = "picker",
-      .title = "Picker",
-      .ground = GallerySheet::Ground::settings,
-      .columns = 5,
-      .items = {pickerItem("the first", 0), pickerItem("another", 1),
-                pickerItem("pressed", 0, Hand::pressing), pickerItem("focused", 0, Hand::tabbing),
-                pickerItem("disabled", 0, Hand::away, true)}};
+  return {.name = "picker",
+          .title = "Picker",
+          .background = GallerySheet::Background::settings,
+          .columns = 5,
+          .items = {pickerItem("the first", 0), pickerItem("another", 1),
+                    pickerItem("pressed", 0, Interaction::pressed),
+                    pickerItem("focused", 0, Interaction::focused),
+                    pickerItem("disabled", 0, Interaction::none, true)}};
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Every part of the machine that a panel shows is set, so that no stage depends on the one before.
+// Sets every part of the machine that a panel shows, so no stage depends on an earlier one.
 #include "showroom/gallery/PanelStage.hpp"
 
 #include <array>
@@ -21,29 +21,29 @@ constexpr std::array<CGRect, 8> displayFrames{{{{0, 0}, {1512, 982}},
                                                {{-3000, 0}, {1080, 1920}},
                                                {{0, 2062}, {1920, 1080}}}};
 
-void carriedOut(const desk::Displays::Problem& problem) {
-  require(!problem, "the gallery asked for displays that cannot be");
+void requireSuccess(const desk::Displays::Problem& problem) {
+  require(!problem, "the gallery's displays are invalid");
 }
 
-void plugDisplays(const std::vector<std::string>& names, desk::Displays& displays) {
-  require(names.size() <= displayFrames.size(), "the gallery has no place for so many displays");
-  carriedOut(displays.beginChanges());
+void attachDisplays(const std::vector<std::string>& names, desk::Displays& displays) {
+  require(names.size() <= displayFrames.size(), "the gallery has frames for fewer displays");
+  requireSuccess(displays.beginChanges());
   while (!displays.isEmpty()) {
-    carriedOut(displays.detach(displays.all().back().number));
+    requireSuccess(displays.detach(displays.all().back().number));
   }
-  for (std::size_t place = 0; place < names.size(); ++place) {
+  for (std::size_t index = 0; index < names.size(); ++index) {
     desk::Display display;
-    display.number = static_cast<std::uint32_t>(place + 1);
-    display.uuid = PanelStage::displayID(place);
-    display.name = names[place];
-    display.frame = displayFrames.at(place);
-    display.isBuiltIn = place == 0;
-    carriedOut(displays.attach(display, place == 0));
+    display.number = static_cast<std::uint32_t>(index + 1);
+    display.uuid = PanelStage::displayID(index);
+    display.name = names[index];
+    display.frame = displayFrames.at(index);
+    display.isBuiltIn = index == 0;
+    requireSuccess(displays.attach(display, index == 0));
   }
-  carriedOut(displays.endChanges());
+  requireSuccess(displays.endChanges());
 }
 
-void forgetSettings(desk::UserDefaultsStore& defaults) {
+void removeSettings(desk::UserDefaultsStore& defaults) {
   const desk::UserDefaultsStore::Values stored = defaults.values();
   for (const auto& [key, value] : stored) {
     if (key != OrvaneLanguage::defaultsKey) {
@@ -56,22 +56,22 @@ void forgetSettings(desk::UserDefaultsStore& defaults) {
 
 std::shared_ptr<OrvaneModel> PanelStage::model() const {
   desk::Machine& machine = desk::Machine::current();
-  plugDisplays(displayNames, machine.displays);
-  forgetSettings(machine.userDefaults);
+  attachDisplays(displayNames, machine.displays);
+  removeSettings(machine.userDefaults);
   machine.permission.setTrusted(isTrusted);
   machine.loginItem.status = loginItem;
   machine.loginItem.error = loginItemError;
   machine.bundle.isOnReadOnlyVolume = isOnDiskImage;
-  auto made = std::make_shared<OrvaneModel>();
-  made->refreshDisplays();
+  auto model = std::make_shared<OrvaneModel>();
+  model->refreshDisplays();
   if (use) {
-    use(*made);
+    use(*model);
   }
-  return made;
+  return model;
 }
 
-std::string PanelStage::displayID(std::size_t place) {
-  return "GALLERY-" + std::to_string(place + 1);
+std::string PanelStage::displayID(std::size_t index) {
+  return "GALLERY-" + std::to_string(index + 1);
 }
 
 }  // namespace orvane::showroom

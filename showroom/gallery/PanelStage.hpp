@@ -1,4 +1,4 @@
-// PanelStage is what a whole panel of the gallery shows: the Mac, and what was done to the model.
+// PanelStage is the state in which the gallery shows a whole panel.
 #pragma once
 
 #include <functional>
@@ -13,25 +13,25 @@
 namespace orvane::showroom {
 
 struct PanelStage {
-  /// At most eight. The first display is the built-in and main one, whose name is the product's;
-  /// the system knows none for a display with an empty one.
+  /// At most eight. The first display is built in and main, and the application names it. An empty
+  /// name means that the system knows none.
   std::vector<std::string> displayNames;
   bool isTrusted = true;
   appkit::LoginItem::Status loginItem = appkit::LoginItem::Status::notRegistered;
-  /// With it every change of the login item fails.
+  /// If set, every change of the login item fails with it.
   std::optional<std::string> loginItemError = std::nullopt;
-  /// The application runs from a disk image.
+  /// Whether the application runs from a disk image.
   bool isOnDiskImage = false;
-  /// What the user does, with the displays listed.
+  /// The user's actions on the model, after it has listed the displays.
   std::function<void(OrvaneModel& model)> use = nullptr;
 
-  /// Brings the current machine into this state and makes a model on it. Of the stored settings
-  /// only the language stays. Models that were made before learn of the new displays when the
-  /// machine next does what is due.
+  /// Brings the current machine into this state and makes a model on it. Removes all stored
+  /// settings except the language. Earlier models are notified of the new displays by the machine's
+  /// next due tasks.
   [[nodiscard]] std::shared_ptr<OrvaneModel> model() const;
 
-  /// The identifier of the display at the place, counted from 0.
-  [[nodiscard]] static std::string displayID(std::size_t place);
+  /// The identifier of the display at the index.
+  [[nodiscard]] static std::string displayID(std::size_t index);
 };
 
 }  // namespace orvane::showroom

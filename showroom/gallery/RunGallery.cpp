@@ -1,5 +1,4 @@
-// A machine is needed for the stored language, which some components read by themselves, and for
-// the models of whole panels.
+// The machine stores the language, which some components read, and carries the panels' models.
 #include "showroom/gallery/RunGallery.hpp"
 
 #include <array>
@@ -20,8 +19,7 @@ namespace {
 struct NamedAppearance {
   bool isDark;
   bool increasesContrast;
-  /// Of the file's name, before its type.
-  const char* ending;
+  const char* fileSuffix;
 };
 
 constexpr std::array<NamedAppearance, 4> appearances{{{false, false, "-light"},
@@ -32,10 +30,10 @@ constexpr std::array<NamedAppearance, 4> appearances{{{false, false, "-light"},
 }  // namespace
 
 int runGallery(const std::string& directory) {
-  constexpr int unwritable = 2;
+  constexpr int failureStatus = 2;
   if (const auto message = desk::missingFontsMessage()) {
     std::cerr << "orvane-desk: " << *message << '\n';
-    return unwritable;
+    return failureStatus;
   }
   std::error_code error;
   std::filesystem::create_directories(directory, error);
@@ -44,19 +42,19 @@ int runGallery(const std::string& directory) {
   desk::DrawingResources resources;
   desk::addApplicationImages(resources.images);
   for (const GallerySheet& sheet : gallerySheets()) {
-    for (const auto& [isDark, increasesContrast, ending] : appearances) {
-      const std::string name = sheet.name + ending + ".png";
+    for (const auto& [isDark, increasesContrast, fileSuffix] : appearances) {
+      const std::string name = sheet.name + fileSuffix + ".png";
       SheetStyle style;
       style.isDark = isDark;
       style.increasesContrast = increasesContrast;
       if (increasesContrast) {
-        // What matters then is the components' own; one wallpaper spares two thirds of the time.
+        // One wallpaper is enough to see the components, and takes a third of the time.
         style.wallpapers = {desk::Appearance::Wallpaper::busy};
       }
       const desk::SurfacePointer picture = paintSheet(sheet, style, scope.machine(), resources);
       if (!desk::writePng(picture.get(), std::filesystem::path(directory) / name)) {
         std::cerr << "orvane-desk: cannot write " << name << " in " << directory << '\n';
-        return unwritable;
+        return failureStatus;
       }
       std::cout << name << std::endl;
     }

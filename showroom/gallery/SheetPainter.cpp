@@ -1,5 +1,5 @@
-// Everything is laid out first, in points from the sheet's top left; then it is painted, because
-// glass needs to find behind it what it blurs.
+// Lays out everything first, in points from the sheet's top left corner, because glass must be
+// painted after its background.
 #include "showroom/gallery/SheetPainter.hpp"
 
 #include <algorithm>
@@ -12,7 +12,7 @@
 #include "showroom/desktop/Glass.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
 #include "showroom/desktop/WindowArt.hpp"
-#include "showroom/gallery/SheetGround.hpp"
+#include "showroom/gallery/SheetBackground.hpp"
 #include "showroom/gallery/Specimen.hpp"
 
 namespace orvane::showroom {
@@ -22,12 +22,12 @@ namespace {
 constexpr double sheetMargin = 24;
 constexpr double headHeight = 56;
 constexpr double bandTitleHeight = 26;
-/// Around the ground within its wallpaper, and around the components within their ground.
+/// The margins of the background on its wallpaper, and of the components on their background.
 constexpr double wallpaperBorder = 26;
-constexpr double groundPadding = 16;
+constexpr double backgroundPadding = 16;
 constexpr double captionHeight = 18;
 constexpr double rowSpacing = 10;
-constexpr double leastWidth = 360;
+constexpr double minimumWidth = 360;
 
 const char* nameOf(desk::Appearance::Wallpaper wallpaper) {
   switch (wallpaper) {
@@ -43,7 +43,7 @@ const char* nameOf(desk::Appearance::Wallpaper wallpaper) {
   return "over the desk's wallpaper";
 }
 
-/// The specimens of one language and the size of the cells that all of them fit into.
+/// The specimens of one language, and the size of a cell that fits all of them.
 struct Cells {
   std::vector<std::unique_ptr<Specimen>> specimens;
   ui::Size cell;
@@ -63,10 +63,10 @@ class SheetPainting {
     for (const OrvaneLanguage language : languages) {
       addCells(language, machine);
     }
-    if (sheet.ground == GallerySheet::Ground::dialogue) {
-      // Nothing shines through.
+    if (sheet.background == GallerySheet::Background::dialogue) {
+      // The background is opaque.
       wallpapers_.resize(1);
-    } else if (isWholeWindow(sheet.ground)) {
+    } else if (isWholeWindow(sheet.background)) {
       wallpapers_ = {desk::Appearance::Wallpaper::standard};
     }
     columns_ = std::min(sheet.columns, sheet.items.size());
@@ -113,18 +113,18 @@ class SheetPainting {
     return std::ceil(cells.cell.height) + captionHeight;
   }
 
-  [[nodiscard]] ui::Size groundSize() const {
-    double height = 2 * groundPadding - rowSpacing;
+  [[nodiscard]] ui::Size backgroundSize() const {
+    double height = 2 * backgroundPadding - rowSpacing;
     for (const Cells& cells : languages_) {
       height += static_cast<double>(rows_) * (rowHeight(cells) + rowSpacing);
     }
-    return {static_cast<double>(columns_) * cell_.width + 2 * groundPadding, height};
+    return {static_cast<double>(columns_) * cell_.width + 2 * backgroundPadding, height};
   }
 
   [[nodiscard]] ui::Size bandSize() const {
-    const ui::Size ground = groundSize();
-    return {std::max(ground.width + 2 * wallpaperBorder, leastWidth),
-            ground.height + 2 * wallpaperBorder};
+    const ui::Size background = backgroundSize();
+    return {std::max(background.width + 2 * wallpaperBorder, minimumWidth),
+            background.height + 2 * wallpaperBorder};
   }
 
   [[nodiscard]] ui::Size sheetSize() const {
@@ -158,18 +158,18 @@ class SheetPainting {
     canvas.clip(ui::Shape::rectangle(band));
     canvas.transform(ui::Transform::translation(band.origin()));
     paintWallpaper(canvas.context(), wallpaper, style_.isDark, band.width, band.height);
-    const ui::Rect ground = ui::Rect{0, 0, band.width, band.height}.inset(wallpaperBorder);
-    if (!isWholeWindow(sheet_.ground)) {
-      paintGround(canvas, sheet_.ground, ground, appearance_, text_, resources_);
+    const ui::Rect background = ui::Rect{0, 0, band.width, band.height}.inset(wallpaperBorder);
+    if (!isWholeWindow(sheet_.background)) {
+      paintBackground(canvas, sheet_.background, background, appearance_, text_, resources_);
     }
-    paintRows(canvas, ground);
+    paintRows(canvas, background);
     canvas.restore();
   }
 
-  void paintRows(desk::CairoCanvas& canvas, const ui::Rect& ground) {
-    double top = ground.y + groundPadding;
+  void paintRows(desk::CairoCanvas& canvas, const ui::Rect& background) {
+    double top = background.y + backgroundPadding;
     const double left =
-        std::round(ground.center().x - static_cast<double>(columns_) * cell_.width / 2);
+        std::round(background.center().x - static_cast<double>(columns_) * cell_.width / 2);
     for (const Cells& cells : languages_) {
       for (std::size_t index = 0; index < cells.specimens.size(); ++index) {
         const std::size_t column = index % columns_;
@@ -189,10 +189,10 @@ class SheetPainting {
     const ui::Point place{corner.x + std::round((cell_.width - size.width) / 2),
                           corner.y + std::round((cells.cell.height - size.height) / 2)};
     canvas.save();
-    if (isWholeWindow(sheet_.ground)) {
+    if (isWholeWindow(sheet_.background)) {
       const ui::Rect window = ui::Rect::from(place, size).inset(Specimen::margin);
-      paintGround(canvas, sheet_.ground, window, appearance_, text_, resources_);
-      canvas.clip(groundShape(sheet_.ground, window));
+      paintBackground(canvas, sheet_.background, window, appearance_, text_, resources_);
+      canvas.clip(backgroundShape(sheet_.background, window));
     }
     specimen.paint(canvas, place);
     canvas.restore();
@@ -200,8 +200,8 @@ class SheetPainting {
     const double width = resources_.shaper.measure(caption, captionFont).width;
     const ui::Point baseline{corner.x + (cell_.width - width) / 2,
                              corner.y + std::ceil(cells.cell.height) + 8};
-    if (isWholeWindow(sheet_.ground)) {
-      // The wallpaper lies around windows.
+    if (isWholeWindow(sheet_.background)) {
+      // The caption is on the wallpaper.
       canvas.fill(ui::Shape::capsule({baseline.x - 8, baseline.y - 11, width + 16, 16}), paper());
     }
     canvas.text(caption, captionFont, ink(0.6), baseline);

@@ -1,5 +1,5 @@
-// Paints the sheets of the gallery: the same components over several wallpapers, one row for each
-// language, with captions.
+// Paints a sheet of the gallery: the components over several wallpapers, in each language, with
+// captions.
 #pragma once
 
 #include <vector>
@@ -16,14 +16,14 @@ struct SheetStyle {
   bool increasesContrast = false;
   /// Pixels per point.
   double scale = 2;
-  /// Whole panels are shown over the desk's own alone.
+  /// Ignored for whole panels, which use the default wallpaper.
   std::vector<desk::Appearance::Wallpaper> wallpapers{desk::Appearance::Wallpaper::white,
                                                       desk::Appearance::Wallpaper::black,
                                                       desk::Appearance::Wallpaper::busy};
   std::vector<OrvaneLanguage> languages{OrvaneLanguage::english, OrvaneLanguage::chinese};
 };
 
-/// The whole sheet. The machine's stored language is another afterwards. Equal arguments give equal
+/// Paints the whole sheet, and changes the machine's stored language. Equal arguments give equal
 /// pixels.
 [[nodiscard]] desk::SurfacePointer paintSheet(const GallerySheet& sheet, const SheetStyle& style,
                                               desk::Machine& machine,

@@ -1,4 +1,4 @@
-// Time passes after every event, so that what it set in motion has arrived.
+// Advances time after every event, so that animations end.
 #include "showroom/gallery/Specimen.hpp"
 
 #include <utility>
@@ -8,7 +8,7 @@ namespace orvane::showroom {
 namespace {
 
 /// In seconds; longer than any animation.
-constexpr double betweenEvents = 10;
+constexpr double settlingTime = 10;
 
 ui::HostPlatform platform(ui::TextMeasurer& text, desk::DrawingResources& resources) {
   return {.text = &text, .images = resources.imageSource()};
@@ -26,41 +26,41 @@ Specimen::Specimen(const GalleryItem& item, OrvaneLanguage language,
   host_->setRoot([make](const ui::Environment&) { return make().padding(margin); });
   host_->setSize(host_->intrinsicSize());
   host_->tick(0);
-  use(item.hand);
+  use(item.interaction);
 }
 
 void Specimen::appear(const ui::Appearance& appearance) {
   host_->setAppearance(appearance);
-  letTimePass();
+  settle();
 }
 
-void Specimen::use(Hand hand) {
+void Specimen::use(Interaction interaction) {
   const ui::Point middle{size().width / 2, size().height / 2};
-  // A panel's model may have changed as the panel appeared.
+  // The appearing panel may have changed its model.
   host_->invalidate();
-  letTimePass();
-  switch (hand) {
-    case Hand::away:
+  settle();
+  switch (interaction) {
+    case Interaction::none:
       break;
-    case Hand::over:
+    case Interaction::hovered:
       host_->pointerMoved(middle);
       break;
-    case Hand::pressing:
+    case Interaction::pressed:
       host_->pointerMoved(middle);
-      letTimePass();
+      settle();
       host_->pointerDown(middle);
       break;
-    case Hand::tabbing:
+    case Interaction::focused:
       host_->keyDown({.key = ui::Key::tab});
       break;
   }
-  letTimePass();
+  settle();
 }
 
-void Specimen::letTimePass() {
-  // The first one starts what has changed, the second one ends it.
-  host_->tick(host_->time() + betweenEvents);
-  host_->tick(host_->time() + betweenEvents);
+void Specimen::settle() {
+  // The first tick starts animations, the second ends them.
+  host_->tick(host_->time() + settlingTime);
+  host_->tick(host_->time() + settlingTime);
 }
 
 void Specimen::paint(desk::CairoCanvas& canvas, ui::Point corner) const {

@@ -1,4 +1,4 @@
-// Each change goes to the machine's own part for it.
+// Forwards each change to the part of the machine that it concerns.
 #include "showroom/hardware/Hardware.hpp"
 
 #include <algorithm>
@@ -8,12 +8,7 @@
 namespace orvane::showroom {
 
 bool Hardware::canAttachDisplay() const {
-  for (std::size_t position = 0; position < standardDisplayCount; ++position) {
-    if (machine_.displays.find(standardDisplay(position).number) == nullptr) {
-      return true;
-    }
-  }
-  return false;
+  return nextStandardDisplay(machine_).has_value();
 }
 
 void Hardware::attachDisplay() {
@@ -22,18 +17,13 @@ void Hardware::attachDisplay() {
 }
 
 void Hardware::detachDisplay(std::uint32_t number) {
-  if (machine_.displays.find(number) != nullptr) {
-    // It is attached, so there is nothing to complain about.
-    (void)machine_.displays.detach(number);
-    machine_.runDue();
-  }
+  (void)machine_.displays.detach(number);
+  machine_.runDue();
 }
 
 void Hardware::makeMain(std::uint32_t number) {
-  if (machine_.displays.find(number) != nullptr) {
-    (void)machine_.displays.setMain(number);
-    machine_.runDue();
-  }
+  (void)machine_.displays.setMain(number);
+  machine_.runDue();
 }
 
 void Hardware::setEdge(desk::DockEdge edge) {

@@ -1,5 +1,5 @@
-// Hardware is what a person does to the Mac itself, and not to a program on it: plugs displays,
-// moves the Dock, grants the permission, starts and ends the application.
+// Hardware changes the simulated hardware and system: displays, Dock, permission, appearance,
+// language, and the application's process.
 #pragma once
 
 #include <cstddef>
@@ -13,14 +13,14 @@
 
 namespace orvane::showroom {
 
-/// A list of languages that the Mac can be set to, best first, with the region that goes with it.
+/// A choice of preferred languages, best first, and locale.
 struct LanguageList {
   const char* title;
   std::vector<std::string> preferred;
   const char* locale;
 };
 
-/// After each change the machine has done all that is due. Machine and application outlive it.
+/// Each change runs the machine's due tasks. Machine and application must outlive it.
 class Hardware {
  public:
   Hardware(desk::Machine& machine, desk::ApplicationHost& application)
@@ -31,9 +31,9 @@ class Hardware {
   [[nodiscard]] const desk::ApplicationHost& application() const { return application_; }
 
   [[nodiscard]] bool canAttachDisplay() const;
-  /// The next of the standard displays; nothing when all are attached.
+  /// Attaches the next standard display, if any is left.
   void attachDisplay();
-  /// Nothing for a display that is not there.
+  /// A number without a display is ignored, here and in makeMain().
   void detachDisplay(std::uint32_t number);
   void makeMain(std::uint32_t number);
 
@@ -44,9 +44,9 @@ class Hardware {
   void setDark(bool isDark);
   void setWallpaper(desk::Appearance::Wallpaper wallpaper);
   [[nodiscard]] static const std::vector<LanguageList>& languageLists();
-  /// The place in languageLists of what the Mac is set to; none when it is another list.
+  /// The index in languageLists() of the present setting; none if it is not among them.
   [[nodiscard]] std::optional<std::size_t> languageList() const;
-  /// Nothing for a place that is not in languageLists.
+  /// An index out of range is ignored.
   void setLanguageList(std::size_t index);
 
   [[nodiscard]] bool isRunning() const { return application_.isRunning(); }

@@ -1,4 +1,4 @@
-// The small push button of the hardware panel.
+// A translucent plate that darkens while pressed.
 #include "showroom/hardware/HardwareButtonStyle.hpp"
 
 #include "Orvane/ui/views/ShapeView.hpp"

@@ -1,4 +1,4 @@
-// A segmented control as the Mac has it: one plate, the chosen segment raised on it.
+// A segmented control whose selected segment is raised.
 #include "showroom/hardware/HardwareChoice.hpp"
 
 #include "Orvane/ui/views/Button.hpp"

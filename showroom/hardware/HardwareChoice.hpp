@@ -1,4 +1,4 @@
-// A row of the hardware panel with a few choices side by side, of which one holds.
+// A row of the hardware panel with a segmented control.
 #pragma once
 
 #include <cstddef>

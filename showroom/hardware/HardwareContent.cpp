@@ -77,12 +77,12 @@ HardwareContent HardwareContent::of(const Hardware& hardware, std::int64_t event
   content.languageList = hardware.languageList();
   content.isRunning = hardware.isRunning();
   content.showsZones = hardware.showsZones();
-  content.figures = {{"Dock on", dockText(machine)},
-                     {"Dock came up", revealsText(machine)},
-                     {"Orvane", statusText(application)},
-                     {"Moved back", blockedText(application)},
-                     {"Movements", std::to_string(machine.counters.hardwareMovements)},
-                     {"Events per second", std::to_string(eventsPerSecond)}};
+  content.counters = {{"Dock on", dockText(machine)},
+                      {"Dock came up", revealsText(machine)},
+                      {"Orvane", statusText(application)},
+                      {"Moved back", blockedText(application)},
+                      {"Movements", std::to_string(machine.counters.hardwareMovements)},
+                      {"Events per second", std::to_string(eventsPerSecond)}};
   if (!application.messages().empty()) {
     content.message = application.messages().back().text;
   }

@@ -1,4 +1,4 @@
-// What the hardware panel says, as plain values: equal contents look alike.
+// HardwareContent is the content of the hardware panel as plain values.
 #pragma once
 
 #include <cstddef>
@@ -20,10 +20,10 @@ struct HardwareDisplay {
   bool operator==(const HardwareDisplay&) const = default;
 };
 
-struct HardwareFigure {
+struct HardwareCounter {
   std::string label;
   std::string value;
-  bool operator==(const HardwareFigure&) const = default;
+  bool operator==(const HardwareCounter&) const = default;
 };
 
 struct HardwareContent {
@@ -37,14 +37,14 @@ struct HardwareContent {
   std::optional<std::size_t> languageList;
   bool isRunning = false;
   bool showsZones = false;
-  std::vector<HardwareFigure> figures;
-  /// The guard's last word; empty before its first.
+  std::vector<HardwareCounter> counters;
+  /// The guard's last message; empty before the first.
   std::string message;
-  /// What to do with mouse and keys.
+  /// How to capture or release the mouse.
   std::string hint;
   bool operator==(const HardwareContent&) const = default;
 
-  /// All but the hint.
+  /// Everything except the hint.
   [[nodiscard]] static HardwareContent of(const Hardware& hardware, std::int64_t eventsPerSecond);
 };
 

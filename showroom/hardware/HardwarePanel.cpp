@@ -1,4 +1,4 @@
-// Groups of rows, one below the other.
+// The panel is a column of groups of rows.
 #include "showroom/hardware/HardwarePanel.hpp"
 
 #include <utility>
@@ -21,12 +21,12 @@ constexpr double margin = 14;
 constexpr Font rowFont = Font::system(12);
 constexpr Font smallFont = Font::system(11);
 
-/// What is said by the way, faint but with more than 4.5 to 1 of contrast on both grounds.
-Color quietColor() {
+/// The colour of secondary text, with a contrast of more than 4.5 to 1 in both appearances.
+Color secondaryColor() {
   return Color::primary().opacity(0.75);
 }
 
-/// Rows on one plate, with hairlines between them, under a heading.
+/// A heading, and rows on a plate with hairlines between them.
 struct Group {
   std::string title;
   std::vector<View> rows;
@@ -46,7 +46,7 @@ struct Group {
     return VStack(5, HorizontalAlignment::leading,
                   {Text(title)
                        .font(Font::system(11, Weight::semibold))
-                       .foreground(quietColor())
+                       .foreground(secondaryColor())
                        .padding({.leading = 2})
                        .accessibilityRole(Role::heading),
                    VStack(0, HorizontalAlignment::leading, lines)
@@ -64,10 +64,10 @@ View smallButton(const std::string& title, const std::string& label, std::functi
       .accessibilityLabel(label);
 }
 
-View figureView(const HardwareFigure& figure) {
+View counterView(const HardwareCounter& counter) {
   return VStack(1, HorizontalAlignment::leading,
-                {Text(figure.label).font(smallFont).foreground(quietColor()).lineLimit(1),
-                 Text(figure.value).font(Font::system(13, Weight::semibold)).lineLimit(1)})
+                {Text(counter.label).font(smallFont).foreground(secondaryColor()).lineLimit(1),
+                 Text(counter.value).font(Font::system(13, Weight::semibold)).lineLimit(1)})
       .maximumWidth(infinity, Alignment::leading())
       .height(40);
 }
@@ -81,7 +81,7 @@ View HardwarePanel::displayRow(const HardwareDisplay& display) const {
                             {Text(display.name).lineLimit(1),
                              Text(display.isMain ? display.size + " · main" : display.size)
                                  .font(smallFont)
-                                 .foreground(quietColor())
+                                 .foreground(secondaryColor())
                                  .lineLimit(1)});
   return HStack(6, {names, Spacer(),
                     display.isMain ? View()
@@ -99,7 +99,7 @@ View HardwarePanel::displays() const {
     rows.push_back(displayRow(display));
   }
   rows.push_back(HStack(6, {Text(content.displays.empty() ? "No display is attached" : "")
-                                .foreground(quietColor())
+                                .foreground(secondaryColor())
                                 .lineLimit(1),
                             Spacer(),
                             smallButton("Attach a Display", "Attach a display",
@@ -166,19 +166,20 @@ View HardwarePanel::application() const {
                                [target](bool isOn) { target->setShowsZones(isOn); }}}};
 }
 
-View HardwarePanel::figures() const {
+View HardwarePanel::counters() const {
   std::vector<View> rows;
-  for (std::size_t index = 0; index + 1 < content.figures.size(); index += 2) {
-    rows.push_back(
-        HStack(8, {figureView(content.figures[index]), figureView(content.figures[index + 1])}));
+  for (std::size_t index = 0; index + 1 < content.counters.size(); index += 2) {
+    rows.push_back(HStack(
+        8, {counterView(content.counters[index]), counterView(content.counters[index + 1])}));
   }
   return Group{"Counters", rows};
 }
 
-View HardwarePanel::words() const {
+View HardwarePanel::messages() const {
   const auto line = [](const std::string& text) {
-    return when(!text.empty(),
-                [&] { return Text(text).font(smallFont).foreground(quietColor()).lineLimit(2); });
+    return when(!text.empty(), [&] {
+      return Text(text).font(smallFont).foreground(secondaryColor()).lineLimit(2);
+    });
   };
   return VStack(6, HorizontalAlignment::leading, {line(content.message), line(content.hint)})
       .padding(Edges::horizontal(2));
@@ -188,7 +189,7 @@ View HardwarePanel::body(const Environment& environment) const {
   const Color line =
       environment.isDark() ? Color::white().opacity(0.12) : Color::black().opacity(0.12);
   return VStack(9, HorizontalAlignment::leading,
-                {displays(), dock(), mac(), application(), figures(), words()})
+                {displays(), dock(), mac(), application(), counters(), messages()})
       .padding(margin)
       .frame({.maximumWidth = infinity,
               .maximumHeight = infinity,

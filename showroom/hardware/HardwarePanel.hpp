@@ -1,5 +1,5 @@
-// The hardware panel beside the desktop: everything about the Mac that a hand can change, and what
-// the desk counts.
+// HardwarePanel is the view beside the desktop: controls for the simulated hardware and system, and
+// the desk's counters.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@
 
 namespace orvane::showroom {
 
-/// Every control has a label. The hardware outlives the view.
+/// Every control has an accessibility label. The hardware must outlive the view.
 struct HardwarePanel {
   /// In points.
   static constexpr double width = 320;
@@ -26,8 +26,8 @@ struct HardwarePanel {
   [[nodiscard]] ui::View dock() const;
   [[nodiscard]] ui::View mac() const;
   [[nodiscard]] ui::View application() const;
-  [[nodiscard]] ui::View figures() const;
-  [[nodiscard]] ui::View words() const;
+  [[nodiscard]] ui::View counters() const;
+  [[nodiscard]] ui::View messages() const;
 };
 
 }  // namespace orvane::showroom

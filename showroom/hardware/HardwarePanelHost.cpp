@@ -1,4 +1,4 @@
-// Every event finds the panel at the present instant.
+// Updates the panel to the machine's present time before each event.
 #include "showroom/hardware/HardwarePanelHost.hpp"
 
 #include <algorithm>

@@ -1,5 +1,4 @@
-// HardwarePanelHost shows the hardware panel to whoever has pixels and a pointer, a window or a
-// test.
+// HardwarePanelHost hosts the hardware panel: painting, pointer and keyboard events, scrolling.
 #pragma once
 
 #include <cstdint>
@@ -13,34 +12,34 @@
 
 namespace orvane::showroom {
 
-/// Points are counted from the top left of what is seen of the panel; one that is higher than its
-/// place is scrolled. The hardware outlives it.
+/// Points are relative to the top left corner of the visible part. The hardware must outlive the
+/// host.
 class HardwarePanelHost {
  public:
   explicit HardwarePanelHost(Hardware& hardware);
   HardwarePanelHost(const HardwarePanelHost&) = delete;
   HardwarePanelHost& operator=(const HardwarePanelHost&) = delete;
 
-  /// How large its place is.
+  /// Sets the size of the visible part, in points.
   void setSize(ui::Size size);
-  /// Brings the panel to this content and the machine's present instant.
+  /// Shows this content at the machine's present time.
   void show(const HardwareContent& content);
   [[nodiscard]] const HardwareContent& content() const { return content_; }
-  /// How often it asked to be drawn anew, besides by another content.
+  /// The number of redraw requests other than new content.
   [[nodiscard]] std::int64_t changeCount() const { return changeCount_; }
 
-  /// Paints what was shown last, with the top left of its place there.
+  /// Paints the visible part with its top left corner at `corner`.
   void paint(desk::CairoCanvas& canvas, ui::Point corner);
 
   void pointerMoved(ui::Point point);
   void pointerExited();
   void pointerDown(ui::Point point);
   void pointerUp(ui::Point point);
-  /// Moves the content by this distance in points, towards its end when positive.
+  /// Scrolls by a distance in points, towards the end if positive, within the content.
   void scrollBy(double distance);
-  /// How far it is scrolled, in points.
+  /// The scroll offset in points.
   [[nodiscard]] double scrolled() const { return scrolled_; }
-  /// Whether the key did anything here.
+  /// Returns whether the panel handled the key.
   bool keyDown(const ui::KeyEvent& event);
 
   [[nodiscard]] ui::ViewHost& host() { return host_; }
@@ -52,7 +51,7 @@ class HardwarePanelHost {
   [[nodiscard]] ui::Point inContent(ui::Point point) const {
     return {point.x, point.y + scrolled_};
   }
-  /// The control with the keyboard comes into sight.
+  /// Scrolls to the focused control.
   void revealFocus();
 
   Hardware& hardware_;

@@ -1,4 +1,4 @@
-// A row of the hardware panel that switches something on and off.
+// Uses the menu's switch on a darker track.
 #include "showroom/hardware/HardwareSwitch.hpp"
 
 #include "Orvane/app/CompactMenuSwitch.hpp"
@@ -13,7 +13,7 @@ namespace orvane::showroom {
 using namespace ui;
 
 View HardwareSwitch::body(const Environment& /*environment*/) const {
-  // On a plain plate the menu's track alone would hardly be seen while it is off.
+  // The menu's track alone has too little contrast on the plate while it is off.
   const View knob = View(CompactMenuSwitch{isOn}).background(when(!isOn, [] {
     return Capsule().fill(Color::primary().opacity(0.16));
   }));

@@ -1,4 +1,4 @@
-// A row of the hardware panel that switches something on and off.
+// A row of the hardware panel with a switch.
 #pragma once
 
 #include <functional>
@@ -11,7 +11,7 @@ namespace orvane::showroom {
 struct HardwareSwitch {
   std::string title;
   bool isOn = false;
-  /// Called with what it is to become.
+  /// Receives the new state.
   std::function<void(bool)> onChange;
 
   ui::View body(const ui::Environment& environment) const;

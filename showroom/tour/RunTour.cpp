@@ -1,4 +1,4 @@
-// Opens the album, tells the story, and says how it ended.
+// Creates the directory and plays the tour into it.
 #include "showroom/tour/RunTour.hpp"
 
 #include <filesystem>
@@ -12,23 +12,23 @@
 namespace orvane::showroom {
 
 int runTour(const std::string& directory) {
-  constexpr int unwritable = 2;
+  constexpr int failureStatus = 2;
   if (const auto message = desk::missingFontsMessage()) {
     std::cerr << "orvane-desk: " << *message << '\n';
-    return unwritable;
+    return failureStatus;
   }
   std::error_code error;
   std::filesystem::create_directories(directory, error);
   if (!std::filesystem::is_directory(directory, error)) {
     std::cerr << "orvane-desk: cannot make the directory " << directory << '\n';
-    return unwritable;
+    return failureStatus;
   }
   TourStage stage(directory, std::cout, std::cerr);
-  tellTour(stage);
+  playTour(stage);
   if (stage.failedToWrite()) {
-    return unwritable;
+    return failureStatus;
   }
-  return stage.isTrue() ? 0 : 1;
+  return stage.hasPassed() ? 0 : 1;
 }
 
 }  // namespace orvane::showroom

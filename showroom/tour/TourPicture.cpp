@@ -1,4 +1,4 @@
-// The caption follows the appearance of the desk.
+// The caption has the appearance of the desk.
 #include "showroom/tour/TourPicture.hpp"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ constexpr int desktopHeight = 560;
 constexpr int captionHeight = 56;
 
 void paintCaption(desk::CairoCanvas& canvas, desk::DrawingResources& resources,
-                  const ui::Rect& rect, const std::string& number, const std::string& line,
+                  const ui::Rect& rect, const std::string& number, const std::string& caption,
                   bool isDark) {
   const ui::Rgba ground = isDark ? ui::Rgba{0.125, 0.13, 0.15, 1} : ui::Rgba{1, 1, 1, 1};
   const ui::Rgba ink = isDark ? ui::Rgba{1, 1, 1, 0.92} : ui::Rgba{0, 0, 0, 0.85};
@@ -30,29 +30,29 @@ void paintCaption(desk::CairoCanvas& canvas, desk::DrawingResources& resources,
   canvas.text(
       number, small, {1, 1, 1, 1},
       {badge.center().x - resources.shaper.measure(number, small).width / 2, badge.center().y + 5});
-  // A long line becomes smaller rather than shorter.
+  // A long caption is scaled down, not truncated.
   ui::Font font = ui::Font::system(18, ui::Weight::medium);
   const double room = rect.right() - 28 - badge.right() - 16;
-  font.size *= std::min(1.0, room / resources.shaper.measure(line, font).width);
-  canvas.text(line, font, ink, {badge.right() + 16, rect.center().y + font.size * 0.36});
+  font.size *= std::min(1.0, room / resources.shaper.measure(caption, font).width);
+  canvas.text(caption, font, ink, {badge.right() + 16, rect.center().y + font.size * 0.36});
 }
 
 }  // namespace
 
 desk::SurfacePointer renderTourPicture(DesktopPainter& painter, desk::DrawingResources& resources,
                                        const DesktopScene& scene, const std::string& number,
-                                       const std::string& line) {
+                                       const std::string& caption) {
   desk::SurfacePointer surface(
       cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, desktopHeight + captionHeight));
   const DesktopLayout layout =
       DesktopLayout::fitted(scene.machine.displays.globalFrames(), DesktopStyle::monitors,
                             {0, 0, width, desktopHeight}, 1);
   DesktopScene shown = scene;
-  // As large as on a screen that is shown in its own size.
+  // About as large as at full scale.
   shown.pointerMagnification = std::max(1.2 / layout.scale(), 1.0);
   painter.paint(surface.get(), layout, shown);
   desk::CairoCanvas canvas(surface.get(), 1, resources);
-  paintCaption(canvas, resources, {0, desktopHeight, width, captionHeight}, number, line,
+  paintCaption(canvas, resources, {0, desktopHeight, width, captionHeight}, number, caption,
                scene.machine.appearance.isDark);
   return surface;
 }
@@ -64,7 +64,7 @@ desk::SurfacePointer renderCloseUp(DesktopPainter& painter, const DesktopScene& 
   desk::SurfacePointer surface(cairo_image_surface_create(
       CAIRO_FORMAT_RGB24, pixels(area.size.width), pixels(area.size.height)));
   const std::vector<CGRect>& frames = scene.machine.displays.globalFrames();
-  // The layout begins at the leftmost and topmost of the displays.
+  // The origin of the layout is the top left corner of all displays.
   double left = 0;
   double top = 0;
   for (const CGRect& frame : frames) {

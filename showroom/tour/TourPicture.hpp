@@ -1,4 +1,4 @@
-// A picture of the tour: the desk on its table, and the step's line below it.
+// Pictures of the tour: the desk with a caption, and close-ups.
 #pragma once
 
 #include <string>
@@ -10,13 +10,12 @@
 
 namespace orvane::showroom {
 
-/// All pictures have the same size, whatever stands on the desk.
+/// The desk in the `monitors` style with a numbered caption; always of the same size.
 desk::SurfacePointer renderTourPicture(DesktopPainter& painter, desk::DrawingResources& resources,
                                        const DesktopScene& scene, const std::string& number,
-                                       const std::string& line);
+                                       const std::string& caption);
 
-/// What a rectangle of the desktop shows, in global coordinates, at two pixels per point and
-/// without a line.
+/// An area of the desktop, in global coordinates, at two pixels per point.
 desk::SurfacePointer renderCloseUp(DesktopPainter& painter, const DesktopScene& scene,
                                    const CGRect& area);
 

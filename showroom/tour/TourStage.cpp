@@ -1,10 +1,11 @@
-// Every movement is one that hardware could make.
+// The pointer moves only by hardware movements.
 #include "showroom/tour/TourStage.hpp"
 
 #include <algorithm>
 #include <ostream>
 #include <utility>
 
+#include "Orvane/base/Require.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
@@ -15,17 +16,17 @@ namespace orvane::showroom {
 
 namespace {
 
-/// A push that reaches beyond the edge from where the guard puts the pointer back to.
+/// In points; reaches the edge from the location to which the guard moves the pointer back.
 constexpr double pushLength = 24;
 
 }  // namespace
 
-TourStage::TourStage(std::filesystem::path directory, std::ostream& story, std::ostream& complaints)
+TourStage::TourStage(std::filesystem::path directory, std::ostream& output, std::ostream& errors)
     : directory_(std::move(directory)),
-      story_(story),
-      complaints_(complaints),
+      output_(output),
+      errors_(errors),
       application_(scope_.machine()) {
-  showroom::addSettingsPages(application_.systemSettings());
+  addSettingsPages(application_.systemSettings());
 }
 
 void TourStage::push(double dx, double dy) {
@@ -44,35 +45,34 @@ void TourStage::walkTo(CGPoint place) {
   const CGPoint start = machine().pointer.location();
   for (int movement = 1; movement <= movements; ++movement) {
     const CGPoint now = machine().pointer.location();
-    const double share = static_cast<double>(movement) / movements;
-    push(start.x + (place.x - start.x) * share - now.x,
-         start.y + (place.y - start.y) * share - now.y);
+    const double fraction = static_cast<double>(movement) / movements;
+    push(start.x + (place.x - start.x) * fraction - now.x,
+         start.y + (place.y - start.y) * fraction - now.y);
     machine().advance(pause);
   }
 }
 
 void TourStage::pressLowerEdge(std::uint32_t displayNumber, int times, double every) {
-  const auto& displays = machine().displays.all();
-  for (std::size_t index = 0; index < displays.size(); ++index) {
-    if (displays[index].number != displayNumber) {
-      continue;
+  const CGRect screen = screenOf(displayNumber);
+  constexpr double startAbove = 120;
+  walkTo({CGRectGetMidX(screen), CGRectGetMaxY(screen) - startAbove});
+  walkTo({CGRectGetMidX(screen), CGRectGetMaxY(screen) - pushLength});
+  for (int time = 0; time < times; ++time) {
+    if (time > 0) {
+      machine().advance(every);
     }
-    const CGRect frame = machine().displays.globalFrames()[index];
-    const double x = frame.origin.x + frame.size.width / 2;
-    const double bottom = frame.origin.y + frame.size.height;
-    constexpr double startAbove = 120;
-    walkTo({x, bottom - startAbove});
-    walkTo({x, bottom - pushLength});
-    for (int time = 0; time < times; ++time) {
-      if (time > 0) {
-        machine().advance(every);
-      }
-      push(0, pushLength);
-    }
+    push(0, pushLength);
   }
 }
 
-CGRect TourStage::onItsScreen(const CGRect& area) {
+CGRect TourStage::screenOf(std::uint32_t displayNumber) {
+  const auto& displays = machine().displays.all();
+  const auto found = std::ranges::find(displays, displayNumber, &desk::Display::number);
+  require(found != displays.end(), "the tour needs a display that is not attached");
+  return machine().displays.globalFrames()[static_cast<std::size_t>(found - displays.begin())];
+}
+
+CGRect TourStage::clippedToScreen(const CGRect& area) {
   const CGPoint middle{CGRectGetMidX(area), CGRectGetMidY(area)};
   const auto index = machine().displays.indexContaining(middle);
   if (!index) {
@@ -86,9 +86,9 @@ CGRect TourStage::onItsScreen(const CGRect& area) {
 }
 
 void TourStage::clickAt(CGPoint place) {
-  constexpr double shortly = 0.1;
+  constexpr double pause = 0.1;
   walkTo(place);
-  machine().advance(shortly);
+  machine().advance(pause);
   hand_.pressButton();
   hand_.releaseButton();
 }
@@ -113,13 +113,8 @@ void TourStage::pick(const std::string& label, const std::string& item,
 }
 
 void TourStage::clickIcon(std::uint32_t displayNumber) {
-  const auto& displays = machine().displays.all();
-  for (std::size_t index = 0; index < displays.size(); ++index) {
-    if (displays[index].number == displayNumber) {
-      const CGRect icon = desk::StatusBar::itemFrame(machine().displays.globalFrames()[index]);
-      clickAt({CGRectGetMidX(icon), CGRectGetMidY(icon)});
-    }
-  }
+  const CGRect icon = desk::StatusBar::itemFrame(screenOf(displayNumber));
+  clickAt({CGRectGetMidX(icon), CGRectGetMidY(icon)});
 }
 
 void TourStage::closeWindow(const std::string& surface) {
@@ -140,40 +135,35 @@ void TourStage::dropIcon() {
   const auto list = application_.systemSettings().listFrame();
   const std::optional<CGPoint> icon = hand_.iconPlace();
   check(icon && list && system != nullptr, "guide and list are there");
-  if (isOver()) {
+  if (hasFailed()) {
     return;
   }
   // Near the leading edge, where the guide does not cover the list.
-  constexpr double intoTheList = 40;
+  constexpr double listInset = 40;
   const CGPoint corner = server.originOf(*system->content).value_or(CGPoint{});
   walkTo(*icon);
   hand_.pressButton();
-  walkTo({corner.x + list->x + intoTheList, corner.y + list->y + list->height / 2});
+  walkTo({corner.x + list->x + listInset, corner.y + list->y + list->height / 2});
   hand_.releaseButton();
 }
 
 void TourStage::moveAway(std::uint32_t displayNumber) {
-  const auto& displays = machine().displays.all();
-  for (std::size_t index = 0; index < displays.size(); ++index) {
-    if (displays[index].number == displayNumber) {
-      const CGRect frame = machine().displays.globalFrames()[index];
-      constexpr double height = 0.45;
-      walkTo({frame.origin.x + frame.size.width / 2, frame.origin.y + frame.size.height * height});
-    }
-  }
+  const CGRect screen = screenOf(displayNumber);
+  constexpr double height = 0.45;
+  walkTo({CGRectGetMidX(screen), screen.origin.y + screen.size.height * height});
   machine().advance(1);
 }
 
 void TourStage::check(bool holds, const std::string& claim) {
-  if (!holds && isTrue_) {
-    isTrue_ = false;
-    complaints_ << "orvane-desk: step " << stepCount_ + 1 << " of the tour is not true: " << claim
-                << '\n';
+  if (!holds && hasPassed_) {
+    hasPassed_ = false;
+    errors_ << "orvane-desk: step " << stepCount_ + 1 << " of the tour is not true: " << claim
+            << '\n';
   }
 }
 
-void TourStage::tell(const std::string& line) {
-  if (isOver()) {
+void TourStage::addStep(const std::string& caption) {
+  if (hasFailed()) {
     return;
   }
   ++stepCount_;
@@ -185,15 +175,16 @@ void TourStage::tell(const std::string& line) {
   DesktopScene scene(machine(), application_);
   scene.showsZones = showsZones_;
   scene.movedBack = movedBack_;
-  const desk::SurfacePointer picture = renderTourPicture(painter_, resources_, scene, number, line);
+  const desk::SurfacePointer picture =
+      renderTourPicture(painter_, resources_, scene, number, caption);
   write(picture.get(), number);
   if (!failedToWrite_) {
-    story_ << number << "  " << line << std::endl;
+    output_ << number << "  " << caption << std::endl;
   }
 }
 
-void TourStage::keep(const std::string& name, const std::string& surface) {
-  if (isOver()) {
+void TourStage::writeCloseUp(const std::string& name, const std::string& surface) {
+  if (hasFailed()) {
     return;
   }
   constexpr double margin = 28;
@@ -204,14 +195,13 @@ void TourStage::keep(const std::string& name, const std::string& surface) {
     frame = window != nullptr ? machine().displays.flipped(window->frame) : CGRect{};
   }
   check(frame.size.width > 0, "there is a surface \"" + surface + "\"");
-  if (isOver()) {
+  if (hasFailed()) {
     return;
   }
-  ++keptCount_;
   const CGRect area = CGRectMake(frame.origin.x - margin, frame.origin.y - margin,
                                  frame.size.width + 2 * margin, frame.size.height + 2 * margin);
   const desk::SurfacePointer picture =
-      renderCloseUp(painter_, DesktopScene(machine(), application_), onItsScreen(area));
+      renderCloseUp(painter_, DesktopScene(machine(), application_), clippedToScreen(area));
   write(picture.get(), name);
 }
 
@@ -219,7 +209,7 @@ void TourStage::write(cairo_surface_t* picture, const std::string& fileName) {
   const std::filesystem::path file = directory_ / (fileName + ".png");
   if (!desk::writePng(picture, file)) {
     failedToWrite_ = true;
-    complaints_ << "orvane-desk: cannot write " << file.string() << '\n';
+    errors_ << "orvane-desk: cannot write " << file.string() << '\n';
   }
 }
 

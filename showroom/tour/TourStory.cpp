@@ -1,5 +1,5 @@
-// One chapter per function. Every number and name in a line is read from the machine, and what the
-// line claims is checked before it is told.
+// One function per chapter. Numbers and names in captions are read from the machine, and each
+// caption's claim is checked first.
 #include "showroom/tour/TourStory.hpp"
 
 #include <string>
@@ -30,14 +30,14 @@ std::int64_t reveals(TourStage& stage) {
 }
 
 std::size_t zoneCount(TourStage& stage) {
-  return stage.seen().guard.zones.size();
+  return stage.snapshot().guard.zones.size();
 }
 
 void setAutoHide(TourStage& stage, bool hides) {
   stage.machine().preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, hides);
 }
 
-/// Seconds from the machine's start at midnight to this hour of the day.
+/// Advances the machine, which starts at midnight, to this time of day.
 void waitUntil(TourStage& stage, int hour, int minute) {
   constexpr int minutesPerHour = 60;
   constexpr int secondsPerMinute = 60;
@@ -46,7 +46,7 @@ void waitUntil(TourStage& stage, int hour, int minute) {
                                        static_cast<double>(desk::Clock::nanosecondsPerSecond));
 }
 
-void tellOfTheUnguardedDock(TourStage& stage) {
+void showUnguardedDock(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   attachNextStandardDisplay(machine);
   attachNextStandardDisplay(machine);
@@ -54,12 +54,12 @@ void tellOfTheUnguardedDock(TourStage& stage) {
   stage.moveAway(right);
   stage.check(machine.displays.count() == 2, "there are two displays");
   stage.check(stage.isDockOn(builtIn) && machine.dock.isVisible(), "the Dock is on the first");
-  stage.tell("Two displays. The Dock lives on " + stage.dockPlace() + ".");
+  stage.addStep("Two displays. The Dock lives on " + stage.dockPlace() + ".");
 
   stage.pressLowerEdge(right, 3, 0.05);
   machine.advance(0.4);
   stage.check(stage.isDockOn(right) && reveals(stage) == 1, "the Dock followed the pointer");
-  stage.tell(
+  stage.addStep(
       "The pointer presses against the lower edge of the other display, and the Dock "
       "follows it to " +
       stage.dockPlace() + ".");
@@ -68,53 +68,54 @@ void tellOfTheUnguardedDock(TourStage& stage) {
   stage.pressLowerEdge(builtIn, 3, 0.05);
   machine.advance(0.4);
   stage.check(stage.isDockOn(builtIn) && reveals(stage) == 2, "the Dock followed it back");
-  stage.tell("A touch of the edge of " + stage.dockPlace() + " takes it back there: " +
-             counted(reveals(stage), "jump") + " that nobody asked for.");
+  stage.addStep("A touch of the edge of " + stage.dockPlace() + " takes it back there: " +
+                counted(reveals(stage), "jump") + " that nobody asked for.");
 }
 
-void tellOfTheMenu(TourStage& stage) {
+void showMenu(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.moveAway(builtIn);
   stage.application().launch();
   machine.advance(1);
-  stage.check(stage.application().isRunning() && !stage.seen().guard.isRunning,
+  stage.check(stage.application().isRunning() && !stage.snapshot().guard.isRunning,
               "Orvane runs and guards nothing");
   stage.check(desk::WindowServer::current().windows().empty(), "no window is open");
-  stage.tell(
+  stage.addStep(
       "Orvane is running: an open lock in the menu bar, no window, and nothing guarded yet.");
 
   stage.clickIcon(builtIn);
   stage.check(desk::WindowServer::current().menus.isStatusMenuOpen(), "the menu is open");
-  stage.keep("menu", desk::Surfaces::menu);
-  stage.tell("A click on the lock opens the menu: three switches, the displays, and little else.");
+  stage.writeCloseUp("menu", desk::Surfaces::menu);
+  stage.addStep(
+      "A click on the lock opens the menu: three switches, the displays, and little else.");
 }
 
-void tellOfThePermission(TourStage& stage) {
+void showPermission(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.click("Pin Dock", desk::Surfaces::menu);
   machine.advance(0.5);
   stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("alert"), "the alert is open");
-  stage.check(!stage.seen().guard.isRunning, "nothing is guarded without the permission");
-  stage.tell("Pin Dock: watching the pointer needs a permission, and Orvane says so first.");
+  stage.check(!stage.snapshot().guard.isRunning, "nothing is guarded without the permission");
+  stage.addStep("Pin Dock: watching the pointer needs a permission, and Orvane says so first.");
 
   stage.click("Open Privacy Settings", "alert");
   machine.advance(2.5);
   stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("system"),
               "the settings are open");
   stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("guide"), "the guide is there");
-  stage.tell("The System Settings open on the right page, and a small guide waits beside them.");
+  stage.addStep("The System Settings open on the right page, and a small guide waits beside them.");
 
   stage.dropIcon();
   machine.advance(1.4);
-  stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 1,
+  stage.check(stage.snapshot().guard.isRunning && zoneCount(stage) == 1,
               "the guard runs with one zone");
   const desk::Display* const target = machine.displays.find(builtIn);
-  stage.check(stage.seen().selectedDisplayID == target->uuid,
+  stage.check(stage.snapshot().selectedDisplayID == target->uuid,
               "the Dock's own display is the target");
   stage.check(desk::WindowServer::current().statusBar.item()->image->name == "lock.fill" &&
                   desk::Surfaces(desk::WindowServer::current()).isThere("guide"),
               "the lock is closed, and the guide says so");
-  stage.tell(
+  stage.addStep(
       "Its icon dropped onto the list is all it takes: the lock closes, the Dock belongs to " +
       target->name + ".");
   machine.advance(2);
@@ -122,32 +123,32 @@ void tellOfThePermission(TourStage& stage) {
   stage.check(desk::WindowServer::current().windows().empty(), "guide and settings are gone");
 }
 
-void tellOfPinning(TourStage& stage) {
+void showPinning(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.moveAway(builtIn);
   stage.showZones();
   const std::int64_t jumps = reveals(stage);
   stage.pressLowerEdge(right, 60, 0.05);
-  const std::int64_t blocked = stage.seen().guard.blockedCount;
+  const std::int64_t blocked = stage.snapshot().guard.blockedCount;
   stage.check(blocked == 60, "all sixty touches were moved back");
   stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the Dock stayed");
   machine.advance(0.1);
-  stage.tell("The same pressing again, 60 times: " +
-             counted(static_cast<std::int64_t>(zoneCount(stage)), "trigger zone") +
-             " moves the pointer back " + counted(blocked, "time") + ", and the Dock stays on " +
-             stage.dockPlace() + ".");
+  stage.addStep("The same pressing again, 60 times: " +
+                counted(static_cast<std::int64_t>(zoneCount(stage)), "trigger zone") +
+                " moves the pointer back " + counted(blocked, "time") + ", and the Dock stays on " +
+                stage.dockPlace() + ".");
 }
 
-void tellOfTheModifier(TourStage& stage) {
+void showModifier(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.moveAway(right);
   machine.modifierKeys.hold(kCGEventFlagMaskAlternate);
   stage.pressLowerEdge(right, 3, 0.05);
   machine.advance(0.4);
-  stage.check(stage.seen().isTemporarilyUnlocked && stage.isDockOn(right),
+  stage.check(stage.snapshot().isTemporarilyUnlocked && stage.isDockOn(right),
               "the held key lets the Dock come");
-  stage.tell("While " + std::string(shortcutText(stage.seen().temporaryUnlockModifier)) +
-             " is held the pointer passes: the Dock may come to " + stage.dockPlace() + ".");
+  stage.addStep("While " + std::string(shortcutText(stage.snapshot().temporaryUnlockModifier)) +
+                " is held the pointer passes: the Dock may come to " + stage.dockPlace() + ".");
 
   machine.modifierKeys.releaseAll();
   stage.moveAway(builtIn);
@@ -156,31 +157,32 @@ void tellOfTheModifier(TourStage& stage) {
   stage.moveAway(right);
   const std::int64_t jumps = reveals(stage);
   stage.pressLowerEdge(right, 20, 0.05);
-  stage.check(!stage.seen().isTemporarilyUnlocked, "the guard is locked again");
+  stage.check(!stage.snapshot().isTemporarilyUnlocked, "the guard is locked again");
   stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the Dock stays at home");
-  stage.tell("The key is released and the Dock taken home; from now on it stays on " +
-             stage.dockPlace() + " again.");
+  stage.addStep("The key is released and the Dock taken home; from now on it stays on " +
+                stage.dockPlace() + " again.");
 }
 
-void tellOfTheWindow(TourStage& stage) {
+void showWindow(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.clickIcon(builtIn);
   stage.click("Open Window", desk::Surfaces::menu);
   machine.advance(1);
   stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("main"), "the window is open");
-  stage.keep("main-panel", "main");
-  stage.tell("The window shows the same with more room: a card for each display, and what is on.");
+  stage.writeCloseUp("main-panel", "main");
+  stage.addStep(
+      "The window shows the same with more room: a card for each display, and what is on.");
 
   stage.click("Settings", "main");
   machine.advance(1);
   stage.moveAway(right);
-  stage.keep("settings-panel", "settings");
+  stage.writeCloseUp("settings-panel", "settings");
   stage.pick("Language", "Chinese", "settings");
   machine.advance(1);
-  stage.check(stage.seen().appLanguage == OrvaneLanguage::chinese, "the language is Chinese");
+  stage.check(stage.snapshot().appLanguage == OrvaneLanguage::chinese, "the language is Chinese");
   stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("settings"),
               "the settings are open");
-  stage.tell("In the settings: the language, here Chinese at once, and the key that unlocks.");
+  stage.addStep("In the settings: the language, here Chinese at once, and the key that unlocks.");
 
   stage.pick("语言", "跟随系统", "settings");
   stage.pressEscape();
@@ -188,7 +190,7 @@ void tellOfTheWindow(TourStage& stage) {
               "the settings are closed");
 }
 
-void tellOfPreventing(TourStage& stage) {
+void showPreventing(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.click("Unpin Dock", "main");
   stage.click("Close", "main");
@@ -198,45 +200,46 @@ void tellOfPreventing(TourStage& stage) {
   stage.pressLowerEdge(builtIn, 1, 0);
   machine.advance(0.14);
   const double shown = machine.dock.shownFraction();
-  stage.check(!stage.seen().guard.isRunning && shown > 0 && shown < 1, "the Dock slides in");
-  stage.tell("Unlocked again, and the Dock hides itself: one touch of the edge and it slides in.");
+  stage.check(!stage.snapshot().guard.isRunning && shown > 0 && shown < 1, "the Dock slides in");
+  stage.addStep(
+      "Unlocked again, and the Dock hides itself: one touch of the edge and it slides in.");
 
   stage.moveAway(builtIn);
   stage.clickIcon(builtIn);
   stage.click("Prevent Dock Pop-Up", desk::Surfaces::menu);
   stage.pressEscape();
   machine.advance(1);
-  stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 2, "two zones are guarded");
+  stage.check(stage.snapshot().guard.isRunning && zoneCount(stage) == 2, "two zones are guarded");
   stage.check(!machine.dock.isVisible(), "the Dock is hidden");
-  stage.tell("Prevent Dock Pop-Up: now every display has its trigger zone, " +
-             counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") + " in all.");
+  stage.addStep("Prevent Dock Pop-Up: now every display has its trigger zone, " +
+                counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") + " in all.");
 
   const std::int64_t jumps = reveals(stage);
-  const std::int64_t blocked = stage.seen().guard.blockedCount;
+  const std::int64_t blocked = stage.snapshot().guard.blockedCount;
   stage.pressLowerEdge(builtIn, 40, 0.05);
   stage.moveAway(builtIn);
   stage.pressLowerEdge(right, 40, 0.05);
-  const std::int64_t touches = stage.seen().guard.blockedCount - blocked;
+  const std::int64_t touches = stage.snapshot().guard.blockedCount - blocked;
   stage.check(touches == 80, "all eighty touches were moved back");
   stage.check(reveals(stage) == jumps && !machine.dock.isVisible(), "the Dock never came up");
-  stage.tell(std::to_string(touches) + " touches of both edges: the Dock comes up " +
-             counted(reveals(stage) - jumps, "time") + ".");
+  stage.addStep(std::to_string(touches) + " touches of both edges: the Dock comes up " +
+                counted(reveals(stage) - jumps, "time") + ".");
 }
 
-void tellOfTheShutOff(TourStage& stage) {
+void showShutOff(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.moveAway(right);
   machine.advance(3);
-  const std::int64_t blocked = stage.seen().guard.blockedCount;
+  const std::int64_t blocked = stage.snapshot().guard.blockedCount;
   stage.pressLowerEdge(right, 180, 0.01);
-  const std::int64_t touches = stage.seen().guard.blockedCount - blocked;
-  stage.check(touches == 180 && !stage.seen().guard.isRunning && zoneCount(stage) == 0,
+  const std::int64_t touches = stage.snapshot().guard.blockedCount - blocked;
+  stage.check(touches == 180 && !stage.snapshot().guard.isRunning && zoneCount(stage) == 0,
               "the guard has switched itself off");
-  stage.tell("Something presses " + counted(touches, "time") +
-             " within two seconds: Orvane never fights for the mouse, it switches itself off.");
+  stage.addStep("Something presses " + counted(touches, "time") +
+                " within two seconds: Orvane never fights for the mouse, it switches itself off.");
 }
 
-void tellOfPlugging(TourStage& stage) {
+void showPlugging(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   machine.appearance.isDark = true;
   waitUntil(stage, 20, 30);
@@ -244,9 +247,9 @@ void tellOfPlugging(TourStage& stage) {
   attachNextStandardDisplay(machine);
   machine.runDue();
   stage.check(machine.displays.count() == 3, "there are three displays");
-  stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 3, "three zones are guarded");
-  stage.tell("Evening. A third display is plugged in, and with it the guard is back: " +
-             counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") + ".");
+  stage.check(stage.snapshot().guard.isRunning && zoneCount(stage) == 3, "three zones are guarded");
+  stage.addStep("Evening. A third display is plugged in, and with it the guard is back: " +
+                counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") + ".");
 
   setAutoHide(stage, false);
   stage.clickIcon(builtIn);
@@ -255,9 +258,9 @@ void tellOfPlugging(TourStage& stage) {
   stage.click(stage.nameOf(left), "main");
   stage.click("Pin Dock", "main");
   machine.advance(1);
-  stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 2, "the Dock is pinned");
-  stage.tell("A click on its card and one on Pin Dock: the Dock belongs to " + stage.nameOf(left) +
-             " now.");
+  stage.check(stage.snapshot().guard.isRunning && zoneCount(stage) == 2, "the Dock is pinned");
+  stage.addStep("A click on its card and one on Pin Dock: the Dock belongs to " +
+                stage.nameOf(left) + " now.");
 
   stage.click("Close", "main");
   stage.moveAway(left);
@@ -270,26 +273,26 @@ void tellOfPlugging(TourStage& stage) {
   stage.moveAway(right);
   stage.pressLowerEdge(right, 40, 0.05);
   stage.check(stage.isDockOn(left) && reveals(stage) == jumps, "the Dock stayed");
-  stage.tell("One touch fetches it there; touching the edges of " + stage.nameOf(builtIn) +
-             " and " + stage.nameOf(right) + " changes nothing.");
+  stage.addStep("One touch fetches it there; touching the edges of " + stage.nameOf(builtIn) +
+                " and " + stage.nameOf(right) + " changes nothing.");
 }
 
-void tellOfUnplugging(TourStage& stage) {
+void showUnplugging(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.moveAway(builtIn);
   const std::string target = stage.nameOf(left);
   const std::int64_t jumps = reveals(stage);
   stage.check(!machine.displays.detach(left), "the display can be unplugged");
   machine.advance(0.5);
-  stage.check(!stage.seen().guard.isRunning && zoneCount(stage) == 0, "the guard pauses");
-  stage.check(stage.seen().status == OrvaneStatus::targetMissing, "the target is missing");
+  stage.check(!stage.snapshot().guard.isRunning && zoneCount(stage) == 0, "the guard pauses");
+  stage.check(stage.snapshot().status == OrvaneStatus::targetMissing, "the target is missing");
   stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the system moved the Dock");
-  stage.tell(target + " is unplugged. The system moves the Dock to " + stage.dockPlace() +
-             "; Orvane pauses and remembers.");
+  stage.addStep(target + " is unplugged. The system moves the Dock to " + stage.dockPlace() +
+                "; Orvane pauses and remembers.");
 
   attachNextStandardDisplay(machine);
   machine.advance(0.5);
-  stage.check(stage.seen().guard.isRunning && zoneCount(stage) == 2, "the guard is back");
+  stage.check(stage.snapshot().guard.isRunning && zoneCount(stage) == 2, "the guard is back");
   stage.moveAway(left);
   stage.pressLowerEdge(left, 3, 0.05);
   machine.advance(0.4);
@@ -297,7 +300,7 @@ void tellOfUnplugging(TourStage& stage) {
   const std::int64_t jumpsSince = reveals(stage);
   stage.pressLowerEdge(right, 40, 0.05);
   stage.check(stage.isDockOn(left) && reveals(stage) == jumpsSince, "the Dock is pinned again");
-  stage.tell(
+  stage.addStep(
       "Plugged in again: the guard is back by itself, and the Dock, fetched with one touch, "
       "stays on " +
       stage.dockPlace() + ".");
@@ -308,9 +311,9 @@ void tellOfUnplugging(TourStage& stage) {
   stage.application().launch();
   machine.advance(1);
   stage.pressLowerEdge(right, 40, 0.05);
-  stage.check(stage.seen().guard.isRunning, "the lock is restored");
+  stage.check(stage.snapshot().guard.isRunning, "the lock is restored");
   stage.check(stage.isDockOn(left) && reveals(stage) == jumpsSince, "the Dock stayed");
-  stage.tell(
+  stage.addStep(
       "Orvane is quit and launched again: the lock is restored, and the Dock is where it "
       "belongs, on " +
       stage.dockPlace() + ".");
@@ -318,17 +321,17 @@ void tellOfUnplugging(TourStage& stage) {
 
 }  // namespace
 
-void tellTour(TourStage& stage) {
-  tellOfTheUnguardedDock(stage);
-  tellOfTheMenu(stage);
-  tellOfThePermission(stage);
-  tellOfPinning(stage);
-  tellOfTheModifier(stage);
-  tellOfTheWindow(stage);
-  tellOfPreventing(stage);
-  tellOfTheShutOff(stage);
-  tellOfPlugging(stage);
-  tellOfUnplugging(stage);
+void playTour(TourStage& stage) {
+  showUnguardedDock(stage);
+  showMenu(stage);
+  showPermission(stage);
+  showPinning(stage);
+  showModifier(stage);
+  showWindow(stage);
+  showPreventing(stage);
+  showShutOff(stage);
+  showPlugging(stage);
+  showUnplugging(stage);
 }
 
 }  // namespace orvane::showroom

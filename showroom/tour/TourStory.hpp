@@ -1,11 +1,11 @@
-// The story that the tour tells.
+// The steps of the tour.
 #pragma once
 
 #include "showroom/tour/TourStage.hpp"
 
 namespace orvane::showroom {
 
-/// Plays all steps on the stage, whose machine must be new.
-void tellTour(TourStage& stage);
+/// Plays all steps on a stage with a new machine.
+void playTour(TourStage& stage);
 
 }  // namespace orvane::showroom

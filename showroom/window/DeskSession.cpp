@@ -1,4 +1,4 @@
-// Notes what the pointer does on its way to the machine.
+// Records pointer movements for the event rate and the mark.
 #include "showroom/window/DeskSession.hpp"
 
 #include <algorithm>
@@ -12,21 +12,21 @@ namespace orvane::showroom {
 
 namespace {
 
-/// From midnight, when the machine is switched on, to 10:08.
+/// From the machine's start at midnight to 10:08.
 constexpr double secondsToMorning = (10 * 60 + 8) * 60;
 
 }  // namespace
 
 DeskSession::DeskSession(std::size_t displayCount)
     : application_(scope_.machine()), hardware_(scope_.machine(), application_) {
-  showroom::addSettingsPages(application_.systemSettings());
-  const std::size_t wanted = std::clamp<std::size_t>(displayCount, 1, standardDisplayCount);
-  for (std::size_t position = 0; position < wanted; ++position) {
+  addSettingsPages(application_.systemSettings());
+  const std::size_t count = std::clamp<std::size_t>(displayCount, 1, standardDisplayCount);
+  for (std::size_t position = 0; position < count; ++position) {
     attachNextStandardDisplay(machine());
   }
   const CGRect first = machine().displays.globalFrames().front();
   machine().mouse.moveTo({first.size.width / 2, first.size.height / 2});
-  // The landscape is one by day, so the clock begins by day too.
+  // The wallpaper shows day, so the clock does, too.
   machine().advance(secondsToMorning);
   machine().permission.setTrusted(true);
   application_.launch();
@@ -39,7 +39,7 @@ void DeskSession::movePointerBy(double dx, double dy) {
     return;
   }
   desk.runDue();
-  rate_.note(desk.clock.now(), 1);
+  rate_.add(desk.clock.now());
   if (movement.outcome == desk::PointerMovement::Outcome::movedBack) {
     movedBack_ = MovedBack{movement.wanted, movement.reached, 1};
     movedBackAt_ = desk.clock.now();
@@ -75,9 +75,10 @@ std::int64_t DeskSession::nanosecondsToNextChange() const {
   const desk::Machine& desk = machine();
   const std::int64_t now = desk.clock.now();
   const double shown = desk.dock.shownFraction();
-  const bool slides = shown > 0 && shown < 1;
-  const bool begins = desk.dock.displayNumber() && shown != (desk.dock.isVisible() ? 1.0 : 0.0);
-  if (slides || begins || movedBack()) {
+  const bool isSliding = shown > 0 && shown < 1;
+  const bool startsSliding =
+      desk.dock.displayNumber() && shown != (desk.dock.isVisible() ? 1.0 : 0.0);
+  if (isSliding || startsSliding || movedBack()) {
     return 0;
   }
   std::int64_t next = nanosecondsToNextMinute(desk.clock);

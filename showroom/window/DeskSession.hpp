@@ -1,5 +1,5 @@
-// DeskSession is the desk that someone plays with: a machine, the application on it, and what the
-// spectator wants to have shown. It knows nothing of windows and no time but the machine's.
+// DeskSession is the interactive desk without its window: a machine, the application, the hardware
+// and the marks to draw. It knows only the machine's time.
 #pragma once
 
 #include <cstddef>
@@ -17,11 +17,11 @@ namespace orvane::showroom {
 
 class DeskSession {
  public:
-  /// How long a movement that was moved back stays marked.
+  /// How long a movement that was moved back is marked.
   static constexpr std::int64_t markNanoseconds = 450'000'000;
 
-  /// With so many of the standard displays (at least one), the permission granted and the
-  /// application running.
+  /// Attaches the standard displays up to `displayCount` (at least one), grants the permission and
+  /// launches the application.
   explicit DeskSession(std::size_t displayCount);
 
   [[nodiscard]] desk::Machine& machine() { return scope_.machine(); }
@@ -29,23 +29,22 @@ class DeskSession {
   [[nodiscard]] desk::ApplicationHost& application() { return application_; }
   [[nodiscard]] const desk::ApplicationHost& application() const { return application_; }
 
-  /// The hand moves the mouse by so many points.
+  /// Moves the mouse, in points.
   void movePointerBy(double dx, double dy);
-  /// The hand with the mouse button and the keys.
+  /// Operates the mouse button and the keys.
   [[nodiscard]] desk::Hand hand() { return desk::Hand(machine()); }
-  /// Lets the machine's time pass.
+  /// Advances the machine's time.
   void advance(std::int64_t nanoseconds);
 
   [[nodiscard]] Hardware& hardware() { return hardware_; }
   [[nodiscard]] const Hardware& hardware() const { return hardware_; }
-  /// What the hardware panel has to say. `isMouseHeld` says whether the window has captured the
-  /// mouse.
+  /// The content of the hardware panel. `isMouseHeld`: the window has captured the mouse.
   [[nodiscard]] HardwareContent hardwareContent(bool isMouseHeld) const;
 
   [[nodiscard]] DesktopScene scene() const;
   [[nodiscard]] std::int64_t eventsPerSecond() const;
   [[nodiscard]] std::optional<MovedBack> movedBack() const;
-  /// Nanoseconds until the picture changes if nobody touches anything; 0 while something moves.
+  /// Nanoseconds until the picture changes without input; 0 during an animation.
   [[nodiscard]] std::int64_t nanosecondsToNextChange() const;
 
   /// The number of the display under the pointer; 0 without a display.

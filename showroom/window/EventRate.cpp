@@ -1,32 +1,26 @@
-// Keeps the batches of the last second only.
+// Keeps the times of the last second only.
 #include "showroom/window/EventRate.hpp"
+
+#include <algorithm>
 
 #include "desk/machine/Clock.hpp"
 
 namespace orvane::showroom {
 
-void EventRate::note(std::int64_t moment, std::int64_t count) {
-  while (!batches_.empty() &&
-         batches_.front().moment <= moment - desk::Clock::nanosecondsPerSecond) {
-    batches_.pop_front();
+void EventRate::add(std::int64_t now) {
+  while (!times_.empty() && times_.front() <= now - desk::Clock::nanosecondsPerSecond) {
+    times_.pop_front();
   }
-  if (count > 0) {
-    batches_.push_back({moment, count});
-  }
+  times_.push_back(now);
 }
 
 std::int64_t EventRate::perSecond(std::int64_t now) const {
-  std::int64_t sum = 0;
-  for (const Batch& batch : batches_) {
-    if (batch.moment > now - desk::Clock::nanosecondsPerSecond) {
-      sum += batch.count;
-    }
-  }
-  return sum;
+  return std::ranges::count_if(
+      times_, [now](std::int64_t time) { return time > now - desk::Clock::nanosecondsPerSecond; });
 }
 
 std::int64_t EventRate::nextChangeAt() const {
-  return batches_.empty() ? -1 : batches_.back().moment + desk::Clock::nanosecondsPerSecond;
+  return times_.empty() ? -1 : times_.back() + desk::Clock::nanosecondsPerSecond;
 }
 
 }  // namespace orvane::showroom

@@ -1,4 +1,4 @@
-// How many events came in the last second of the machine's time.
+// EventRate counts the events of the last second of the machine's time.
 #pragma once
 
 #include <cstdint>
@@ -6,22 +6,18 @@
 
 namespace orvane::showroom {
 
+/// All times are nanoseconds of the machine's clock.
 class EventRate {
  public:
-  /// `count` events came at that moment, in nanoseconds of the machine's clock; moments do not go
-  /// back.
-  void note(std::int64_t moment, std::int64_t count);
-  /// The events of the second before `now`.
+  /// Adds an event; `now` must not decrease.
+  void add(std::int64_t now);
+  /// The number of events in the second before `now`.
   [[nodiscard]] std::int64_t perSecond(std::int64_t now) const;
-  /// When the rate changes next if nothing more comes; negative when it stays.
+  /// When the rate becomes zero without further events; negative if it is zero for good.
   [[nodiscard]] std::int64_t nextChangeAt() const;
 
  private:
-  struct Batch {
-    std::int64_t moment;
-    std::int64_t count;
-  };
-  std::deque<Batch> batches_;
+  std::deque<std::int64_t> times_;
 };
 
 }  // namespace orvane::showroom

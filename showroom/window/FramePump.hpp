@@ -1,5 +1,5 @@
-// FramePump turns the time of the computer into the machine's time, and says when to draw. It is
-// the only place in the project that reads a wall clock.
+// FramePump advances the machine with the computer's clock and schedules pictures. Nothing else in
+// Orvane/, desk/ and showroom/ reads a real clock.
 #pragma once
 
 #include <cstdint>
@@ -11,26 +11,26 @@ namespace orvane::showroom {
 
 class FramePump {
  public:
-  /// At most so many pictures a second, on a grid of that many moments while something changes.
+  /// Schedules pictures on a grid of `framesPerSecond` while something changes.
   explicit FramePump(int framesPerSecond);
 
-  /// Lets the machine's time pass by what has passed since the last call.
+  /// Advances the machine by the time since the last call.
   void advance(DeskSession& session);
-  /// Whether the next moment of the grid has come.
+  /// Whether the next time of the grid has come.
   [[nodiscard]] bool isTimeToDraw() const;
-  /// A picture is begun. One that comes within a frame of its moment keeps the grid, however long
-  /// it takes to draw; a later one begins a new grid.
+  /// To be called before drawing. A picture that starts less than a frame late keeps the grid; a
+  /// later one starts a new grid.
   void beginPicture();
-  /// The picture can be seen.
+  /// To be called when the picture is visible.
   void endPicture();
-  /// When each picture could be seen, in milliseconds since the pump began.
+  /// When each picture became visible, in milliseconds since the construction.
   [[nodiscard]] const std::vector<double>& shownMilliseconds() const { return shown_; }
-  /// For how many milliseconds there is nothing to do unless someone touches something.
-  /// `isOutdated` says whether a picture waits to be drawn.
+  /// The milliseconds until there is something to do without input. `isOutdated`: a picture is due
+  /// at the next time of the grid.
   [[nodiscard]] int millisecondsToWait(const DeskSession& session, bool isOutdated) const;
 
  private:
-  [[nodiscard]] static std::int64_t wallNanoseconds();
+  [[nodiscard]] static std::int64_t monotonicNanoseconds();
 
   std::int64_t frameNanoseconds_;
   std::int64_t last_;

@@ -1,4 +1,4 @@
-// SDL names a character's key by the character that it types without modifiers.
+// SDL identifies a character key by its character without modifiers.
 #include "showroom/window/KeyTranslation.hpp"
 
 #include <string>
@@ -45,7 +45,7 @@ std::optional<ui::KeyEvent> keyEventOf(const SDL_Keysym& keysym) {
   if (const auto key = keyOf(keysym.sym)) {
     return ui::KeyEvent{*key, modifiers, {}};
   }
-  // Printable ASCII; SDL gives letters in lower case.
+  // Printable ASCII; letters are lower case.
   if (keysym.sym > ' ' && keysym.sym < 127) {
     return ui::KeyEvent{ui::Key::character, modifiers,
                         std::string(1, static_cast<char>(keysym.sym))};

@@ -1,4 +1,4 @@
-// What a key of the computer is to the simulated Mac.
+// Translates the computer's keys into those of the simulated Mac.
 #pragma once
 
 #include <cstdint>
@@ -10,11 +10,11 @@
 
 namespace orvane::showroom {
 
-/// The key of an event of a pressed key; none for keys that the Mac's programs here have no use
-/// for, such as the modifiers themselves. Alt is Option, and the Super key is Command.
+/// The key event of a pressed key; none for keys without a use, such as the modifiers themselves.
+/// Alt is Option, and the Super key is Command.
 [[nodiscard]] std::optional<ui::KeyEvent> keyEventOf(const SDL_Keysym& keysym);
 
-/// The kCGEventFlagMask constants of the modifiers that are held, or-ed together.
+/// The kCGEventFlagMask bits of the held modifiers.
 [[nodiscard]] std::uint64_t modifierFlagsOf(SDL_Keymod state);
 
 }  // namespace orvane::showroom

@@ -1,4 +1,4 @@
-// Waits for input, lets time pass, and draws when there is something new to see.
+// The loop of the window: input, time, drawing.
 #include "showroom/window/RunWindow.hpp"
 
 #include <fstream>
@@ -19,12 +19,7 @@ namespace orvane::showroom {
 
 namespace {
 
-WindowLayout layoutOf(const SdlWindow& window) {
-  return {cairo_image_surface_get_width(window.surface()),
-          cairo_image_surface_get_height(window.surface()), window.pixelRatio()};
-}
-
-/// Until the window is closed; returns when it was drawn.
+/// Runs until the window is closed. Returns when it was drawn.
 WindowFrames run(DeskSession& session, SdlWindow& window, HardwarePanelHost& panel,
                  WindowPicture& picture) {
   const int framesPerSecond = window.framesPerSecond();
@@ -34,7 +29,7 @@ WindowFrames run(DeskSession& session, SdlWindow& window, HardwarePanelHost& pan
     const bool isOutdated = picture.isOutdated(session, window.isMouseHeld());
     if (isOutdated && pump.isTimeToDraw()) {
       pump.beginPicture();
-      picture.draw(window.surface(), layoutOf(window), session, window.isMouseHeld());
+      picture.draw(window.surface(), window.layout(), session, window.isMouseHeld());
       window.present();
       pump.endPicture();
     }
@@ -49,7 +44,7 @@ WindowFrames run(DeskSession& session, SdlWindow& window, HardwarePanelHost& pan
     }
     if (input.takeNeedsRedraw()) {
       window.updateSize();
-      picture.forget();
+      picture.invalidate();
     }
   }
   return {framesPerSecond, pump.shownMilliseconds()};
@@ -62,10 +57,10 @@ int runWindow(const WindowOptions& options) {
     std::cerr << "orvane-desk: " << *message << '\n';
     return 1;
   }
-  std::string complaint;
-  const auto window = SdlWindow::open(options.width, options.height, complaint);
+  std::string error;
+  const auto window = SdlWindow::open(options.width, options.height, error);
   if (!window) {
-    std::cerr << "orvane-desk: no window can be opened here: " << complaint << '\n';
+    std::cerr << "orvane-desk: no window can be opened here: " << error << '\n';
     return 1;
   }
   DeskSession session(options.displayCount);
@@ -74,7 +69,7 @@ int runWindow(const WindowOptions& options) {
   const WindowFrames frames = run(session, *window, panel, picture);
   if (options.dumpFile) {
     std::ofstream file(*options.dumpFile);
-    file << windowDump(session, layoutOf(*window), frames);
+    file << windowDump(session, window->layout(), frames);
     if (!file.flush()) {
       std::cerr << "orvane-desk: cannot write " << options.dumpFile->string() << '\n';
       return 1;

@@ -1,4 +1,4 @@
-// The desk in a window, for someone to play with.
+// The desk in an interactive window.
 #pragma once
 
 #include <cstddef>
@@ -8,17 +8,17 @@
 namespace orvane::showroom {
 
 struct WindowOptions {
-  /// How many displays stand on the desk at first: 1 to 4.
+  /// The number of displays at first, 1 to 4.
   std::size_t displayCount = 2;
-  /// The window's size in the computer's own points.
+  /// The window's size in the computer's points.
   int width = 1480;
   int height = 800;
-  /// Where to write what the session came to, as JSON, when the window is closed.
+  /// The file for the final state as JSON, written when the window is closed.
   std::optional<std::filesystem::path> dumpFile;
 };
 
-/// Shows the window until it is closed. Returns the exit status of the program: 0, or 1 after a
-/// message on the error stream when no window can be opened or the dump cannot be written.
+/// Shows the window until it is closed. Returns the exit status: 0, or 1 with a message on the
+/// error stream if no window can be opened or the dump cannot be written.
 int runWindow(const WindowOptions& options = {});
 
 }  // namespace orvane::showroom

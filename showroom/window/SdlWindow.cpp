@@ -1,15 +1,15 @@
-// Thin: what the window shows and does is decided elsewhere.
+// A thin layer over SDL, without decisions of its own.
 #include "showroom/window/SdlWindow.hpp"
 
 namespace orvane::showroom {
 
 namespace {
 
-constexpr int smallestWidth = 960;
-constexpr int smallestHeight = 640;
+constexpr int minimumWidth = 960;
+constexpr int minimumHeight = 640;
 
-/// Without a display SDL falls back on drivers that draw where nobody sees it. Whoever asks for one
-/// of them by name has a reason and may have it.
+/// Whether SDL has fallen back to a driver without a screen, and not because the environment asks
+/// for it.
 bool isInvisible(const char* driver) {
   const std::string name = driver == nullptr ? "" : driver;
   return SDL_getenv("SDL_VIDEODRIVER") == nullptr &&
@@ -18,32 +18,31 @@ bool isInvisible(const char* driver) {
 
 }  // namespace
 
-std::unique_ptr<SdlWindow> SdlWindow::open(int width, int height, std::string& complaint) {
+std::unique_ptr<SdlWindow> SdlWindow::open(int width, int height, std::string& error) {
   SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
   SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
-  // The pictures come from the processor, and go to the screen without a detour through OpenGL,
-  // which may be the processor's, too.
+  // Pictures are drawn by the processor; a detour through OpenGL, which may be software, is slower.
   SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   if (SDL_Init(SDL_INIT_VIDEO) != 0) {
-    complaint = SDL_GetError();
+    error = SDL_GetError();
     return nullptr;
   }
-  // From here on the destructor ends SDL again.
+  // The destructor shuts SDL down on every path from here.
   std::unique_ptr<SdlWindow> result(new SdlWindow);
   if (isInvisible(SDL_GetCurrentVideoDriver())) {
-    complaint = "there is no display";
+    error = "there is no display";
     return nullptr;
   }
   result->window_.reset(SDL_CreateWindow("Orvane desk", SDL_WINDOWPOS_CENTERED,
                                          SDL_WINDOWPOS_CENTERED, width, height,
                                          SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
   if (!result->window_) {
-    complaint = SDL_GetError();
+    error = SDL_GetError();
     return nullptr;
   }
-  SDL_SetWindowMinimumSize(result->window_.get(), smallestWidth, smallestHeight);
+  SDL_SetWindowMinimumSize(result->window_.get(), minimumWidth, minimumHeight);
   if (SDL_GetWindowSurface(result->window_.get()) == nullptr || !result->updateSize()) {
-    complaint = SDL_GetError();
+    error = SDL_GetError();
     return nullptr;
   }
   return result;
@@ -71,7 +70,7 @@ bool SdlWindow::updateSize() {
   pixelRatio_ = static_cast<double>(width) / pointWidth;
   picture_.reset();
   surface_.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-  // Both keep a pixel as one 32-bit number with alpha at the top; the picture has no transparency.
+  // Both formats store a pixel as a 32-bit number with alpha at the top; the picture is opaque.
   picture_.reset(SDL_CreateRGBSurfaceWithFormatFrom(
       cairo_image_surface_get_data(surface_.get()), width, height, 32,
       cairo_image_surface_get_stride(surface_.get()), SDL_PIXELFORMAT_XRGB8888));
@@ -80,19 +79,24 @@ bool SdlWindow::updateSize() {
 
 void SdlWindow::present() {
   cairo_surface_flush(surface_.get());
-  // The window's own surface is another one after each change of its size.
+  // The window's surface is replaced at each change of its size.
   if (SDL_Surface* const shown = SDL_GetWindowSurface(window_.get())) {
     SDL_BlitSurface(picture_.get(), nullptr, shown, nullptr);
     SDL_UpdateWindowSurface(window_.get());
   }
 }
 
+WindowLayout SdlWindow::layout() const {
+  return {cairo_image_surface_get_width(surface_.get()),
+          cairo_image_surface_get_height(surface_.get()), pixelRatio_};
+}
+
 int SdlWindow::framesPerSecond() const {
-  constexpr int usual = 60;
+  constexpr int fallback = 60;
   SDL_DisplayMode mode;
   const int display = SDL_GetWindowDisplayIndex(window_.get());
   if (display < 0 || SDL_GetCurrentDisplayMode(display, &mode) != 0 || mode.refresh_rate <= 0) {
-    return usual;
+    return fallback;
   }
   return mode.refresh_rate;
 }

@@ -1,4 +1,4 @@
-// SdlWindow is the real window: it shows pixels and holds the mouse.
+// SdlWindow is the real window: it shows pixels and captures the mouse.
 #pragma once
 
 #include <memory>
@@ -8,32 +8,33 @@
 #include <cairo.h>
 
 #include "desk/canvas/CairoPointers.hpp"
+#include "showroom/window/WindowLayout.hpp"
 
 namespace orvane::showroom {
 
 class SdlWindow {
  public:
-  /// Opens a window of that size in the computer's own points. Null when there is no display to
-  /// open it on; `complaint` then says why.
-  static std::unique_ptr<SdlWindow> open(int width, int height, std::string& complaint);
+  /// Opens a window of this size in the computer's points. Null if that is impossible; `error` then
+  /// says why.
+  static std::unique_ptr<SdlWindow> open(int width, int height, std::string& error);
   SdlWindow(const SdlWindow&) = delete;
   SdlWindow& operator=(const SdlWindow&) = delete;
   ~SdlWindow();
 
-  /// Looks up the size of the drawing area. True when it has changed; then there is a new surface.
+  /// Adopts the size of the drawing area. Returns whether it has changed, which replaces surface().
   bool updateSize();
-  /// An ARGB32 image surface of the drawing area's size.
+  /// An ARGB32 image surface with the size of the drawing area.
   [[nodiscard]] cairo_surface_t* surface() const { return surface_.get(); }
-  /// Shows what is on the surface.
+  /// Shows the content of the surface.
   void present();
 
-  /// Pixels per point.
-  [[nodiscard]] double pixelRatio() const { return pixelRatio_; }
+  /// How the drawing area is divided.
+  [[nodiscard]] WindowLayout layout() const;
   [[nodiscard]] int framesPerSecond() const;
 
-  /// While held, the mouse leaves the window no more and only its movements count.
+  /// Captures the mouse: it cannot leave the window and reports relative movements.
   void holdMouse(bool hold);
-  /// Whether the computer's own cursor is seen over the window.
+  /// Shows or hides the computer's cursor over the window.
   void showCursor(bool shows);
   [[nodiscard]] bool isMouseHeld() const { return isMouseHeld_; }
 
@@ -47,8 +48,9 @@ class SdlWindow {
 
   std::unique_ptr<SDL_Window, Release> window_;
   desk::SurfacePointer surface_;
-  /// The same pixels as SDL sees them.
+  /// The same pixels for SDL.
   std::unique_ptr<SDL_Surface, Release> picture_;
+  /// Pixels per point.
   double pixelRatio_ = 1;
   bool isMouseHeld_ = false;
 };

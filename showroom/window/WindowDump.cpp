@@ -1,4 +1,4 @@
-// The dump says with the machine's numbers what the window shows with pictures.
+// Values of the machine, the application and the window.
 #include "showroom/window/WindowDump.hpp"
 
 #include <nlohmann/json.hpp>

@@ -1,4 +1,4 @@
-// What a session came to, for machines to read.
+// The final state of a session in machine-readable form.
 #pragma once
 
 #include <string>
@@ -9,14 +9,14 @@
 
 namespace orvane::showroom {
 
-/// When the window was drawn: pictures a second at the most, and the milliseconds at which each one
-/// could be seen.
+/// When the window was drawn: the maximum of pictures per second, and when each became visible, in
+/// milliseconds.
 struct WindowFrames {
   int perSecond = 0;
   std::vector<double> shownMilliseconds;
 };
 
-/// A JSON object on several lines. Places in pixels are those of the window's drawing area.
+/// A JSON object. Pixels are those of the window's drawing area.
 std::string windowDump(const DeskSession& session, const WindowLayout& layout,
                        const WindowFrames& frames);
 

@@ -1,9 +1,7 @@
-// The keys' meaning is the application's business, that of the modifiers the Mac's.
+// Keys go to the panel or to the desk's windows, modifiers always to the machine.
 #include "showroom/window/WindowInput.hpp"
 
 #include <utility>
-
-#include <cairo.h>
 
 #include "showroom/window/KeyTranslation.hpp"
 
@@ -24,7 +22,7 @@ void WindowInput::handle(const SDL_Event& event) {
       mouseReleased(event.button);
       break;
     case SDL_MOUSEWHEEL:
-      wheelTurned(event.wheel);
+      wheelScrolled(event.wheel);
       break;
     case SDL_KEYDOWN:
       keyPressed(event.key);
@@ -44,18 +42,13 @@ bool WindowInput::takeNeedsRedraw() {
   return std::exchange(needsRedraw_, false);
 }
 
-WindowLayout WindowInput::layout() const {
-  return {cairo_image_surface_get_width(window_.surface()),
-          cairo_image_surface_get_height(window_.surface()), window_.pixelRatio()};
-}
-
 ui::Point WindowInput::panelPoint(int x, int y) const {
-  const WindowLayout now = layout();
+  const WindowLayout now = window_.layout();
   return {x - now.panel.x / now.pixelRatio, y - now.panel.y / now.pixelRatio};
 }
 
 bool WindowInput::isOverPanel(int x) const {
-  const WindowLayout now = layout();
+  const WindowLayout now = window_.layout();
   return !window_.isMouseHeld() && x * now.pixelRatio >= now.panel.x;
 }
 
@@ -70,14 +63,14 @@ void WindowInput::mouseMoved(const SDL_MouseMotionEvent& event) {
   if (!window_.isMouseHeld() && followCursor(event)) {
     return;
   }
-  const WindowLayout now = layout();
+  const WindowLayout now = window_.layout();
   const double pointsPerUnit =
       now.pixelRatio / now.desktopLayout(session_.machine().displays.globalFrames()).scale();
   session_.movePointerBy(event.xrel * pointsPerUnit, event.yrel * pointsPerUnit);
 }
 
 bool WindowInput::followCursor(const SDL_MouseMotionEvent& event) {
-  const WindowLayout now = layout();
+  const WindowLayout now = window_.layout();
   const DesktopLayout desktop = now.desktopLayout(session_.machine().displays.globalFrames());
   const auto place = desktop.globalPoint(event.x * now.pixelRatio, event.y * now.pixelRatio);
   if (!place) {
@@ -107,8 +100,8 @@ void WindowInput::mouseReleased(const SDL_MouseButtonEvent& event) {
   session_.hand().releaseButton();
 }
 
-void WindowInput::wheelTurned(const SDL_MouseWheelEvent& event) {
-  // A wheel counts in lines.
+void WindowInput::wheelScrolled(const SDL_MouseWheelEvent& event) {
+  // SDL reports lines.
   constexpr double pointsPerLine = 10;
   if (isPointerOverPanel_) {
     panel_.scrollBy(-event.y * pointsPerLine);
@@ -144,7 +137,7 @@ void WindowInput::windowChanged(const SDL_WindowEvent& event) {
       panel_.pointerExited();
       break;
     case SDL_WINDOWEVENT_FOCUS_LOST:
-      // Keys that are let go elsewhere would seem held for ever.
+      // Releases in other windows are not reported.
       window_.holdMouse(false);
       session_.machine().modifierKeys.releaseAll();
       break;

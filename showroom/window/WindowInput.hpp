@@ -1,5 +1,4 @@
-// WindowInput hands what comes from SDL to the desk and to the hardware panel: movements, keys,
-// clicks.
+// WindowInput dispatches SDL events to the desk and to the hardware panel.
 #pragma once
 
 #include <SDL.h>
@@ -7,13 +6,12 @@
 #include "showroom/hardware/HardwarePanelHost.hpp"
 #include "showroom/window/DeskSession.hpp"
 #include "showroom/window/SdlWindow.hpp"
-#include "showroom/window/WindowLayout.hpp"
 
 namespace orvane::showroom {
 
-/// The pointer follows the cursor over the screens, and presses on against an edge where the cursor
-/// leaves them. A click on the desktop acts there at once and lets the desk hold the mouse. Keys go
-/// to the side that was clicked last; Escape, where nobody else wants it, gives the mouse back.
+/// The pointer follows the cursor over the screens; where the cursor leaves them, it keeps moving
+/// against the edge. A click on the desktop acts immediately and captures the mouse. Keys go to the
+/// side that was clicked last; Escape releases the mouse unless a menu or window handles it.
 class WindowInput {
  public:
   WindowInput(DeskSession& session, SdlWindow& window, HardwarePanelHost& panel)
@@ -21,21 +19,20 @@ class WindowInput {
 
   void handle(const SDL_Event& event);
   [[nodiscard]] bool wantsToQuit() const { return wantsToQuit_; }
-  /// True once after the drawing area may have been damaged or changed its size.
+  /// Returns whether the drawing area may have been damaged or resized since the last call.
   [[nodiscard]] bool takeNeedsRedraw();
 
  private:
-  [[nodiscard]] WindowLayout layout() const;
-  /// Of a place in the window's points, that in the panel's.
+  /// Converts the window's points to the panel's.
   [[nodiscard]] ui::Point panelPoint(int x, int y) const;
-  /// Whether the computer's own cursor is over the panel.
+  /// Whether the computer's cursor is over the panel.
   [[nodiscard]] bool isOverPanel(int x) const;
   void mouseMoved(const SDL_MouseMotionEvent& event);
-  /// Brings the pointer below the computer's cursor; false when no screen is there.
+  /// Moves the pointer to the computer's cursor; false if no screen is there.
   bool followCursor(const SDL_MouseMotionEvent& event);
   void mousePressed(const SDL_MouseButtonEvent& event);
   void mouseReleased(const SDL_MouseButtonEvent& event);
-  void wheelTurned(const SDL_MouseWheelEvent& event);
+  void wheelScrolled(const SDL_MouseWheelEvent& event);
   void keyPressed(const SDL_KeyboardEvent& event);
   void windowChanged(const SDL_WindowEvent& event);
   void readModifiers();

@@ -1,4 +1,4 @@
-// The panel keeps its width; the desktop takes what is left.
+// The panel has a fixed width; the desktop has the rest.
 #include "showroom/window/WindowLayout.hpp"
 
 #include <algorithm>
@@ -10,10 +10,10 @@ namespace orvane::showroom {
 
 WindowLayout::WindowLayout(int width, int height, double windowPixelRatio)
     : pixelRatio(windowPixelRatio) {
-  const int beside =
+  const int panelWidth =
       std::min(width, static_cast<int>(std::lround(HardwarePanel::width * pixelRatio)));
-  desktop = {0, 0, width - beside, height};
-  panel = {width - beside, 0, beside, height};
+  desktop = {0, 0, width - panelWidth, height};
+  panel = {width - panelWidth, 0, panelWidth, height};
 }
 
 DesktopLayout WindowLayout::desktopLayout(const std::vector<CGRect>& frames) const {

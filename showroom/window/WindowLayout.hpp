@@ -1,5 +1,4 @@
-// How the desk's window is divided: the desktop at the left, the hardware panel at the
-// right.
+// WindowLayout divides the desk's window: desktop at the left, hardware panel at the right.
 #pragma once
 
 #include <vector>
@@ -11,15 +10,15 @@
 
 namespace orvane::showroom {
 
-/// All in pixels of the window's drawing area.
+/// In pixels of the window's drawing area.
 struct WindowLayout {
   cairo_rectangle_int_t desktop{};
   cairo_rectangle_int_t panel{};
-  /// Pixels per point of the window itself: 2 on a high-density display.
+  /// Pixels per point of the window, such as 2 on a high-density display.
   double pixelRatio = 1;
 
   WindowLayout(int width, int height, double windowPixelRatio);
-  /// The displays in the desktop's part.
+  /// The layout of the displays in the desktop's part.
   [[nodiscard]] DesktopLayout desktopLayout(const std::vector<CGRect>& frames) const;
 };
 

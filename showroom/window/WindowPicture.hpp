@@ -1,4 +1,4 @@
-// WindowPicture draws the window's content, and only when it differs from what was drawn last.
+// WindowPicture draws the window's content and knows when it is outdated.
 #pragma once
 
 #include <cstdint>
@@ -18,22 +18,20 @@ namespace orvane::showroom {
 
 class WindowPicture {
  public:
-  /// The panel outlives the picture.
+  /// The panel must outlive the picture.
   explicit WindowPicture(HardwarePanelHost& panel) : panel_(panel) {}
 
-  /// Whether the session would look different from what was drawn last; true before the first
-  /// drawing.
+  /// Whether the session looks different from the last drawing; true before the first.
   [[nodiscard]] bool isOutdated(const DeskSession& session, bool isMouseHeld) const;
-  /// The next question is answered with true: the drawing area has changed.
-  void forget() { drawn_.reset(); }
-  /// Draws on an ARGB32 image surface of the layout's size.
+  /// Makes the picture outdated, because the drawing area has changed.
+  void invalidate() { drawn_.reset(); }
+  /// Draws on an ARGB32 image surface with the layout's size.
   void draw(cairo_surface_t* surface, const WindowLayout& layout, const DeskSession& session,
             bool isMouseHeld);
-  [[nodiscard]] std::int64_t drawnCount() const { return drawnCount_; }
 
  private:
-  /// Everything that the picture depends on.
-  struct Looks {
+  /// Everything that the drawing depends on.
+  struct Inputs {
     HardwareContent panel;
     std::int64_t panelChanges = 0;
     std::string clock;
@@ -43,15 +41,14 @@ class WindowPicture {
     desk::Appearance::Wallpaper wallpaper{};
     std::optional<std::string> statusSymbol;
     long long windowChanges = 0;
-    bool operator==(const Looks&) const = default;
+    bool operator==(const Inputs&) const = default;
   };
-  [[nodiscard]] Looks looksOf(const DeskSession& session, bool isMouseHeld) const;
+  [[nodiscard]] Inputs inputsOf(const DeskSession& session, bool isMouseHeld) const;
 
   HardwarePanelHost& panel_;
   desk::DrawingResources resources_;
   DesktopPainter painter_{resources_};
-  std::optional<Looks> drawn_;
-  std::int64_t drawnCount_ = 0;
+  std::optional<Inputs> drawn_;
 };
 
 }  // namespace orvane::showroom

@@ -18,8 +18,7 @@ using ui::Shape;
 class PictureTest : public PixelFixture {
  protected:
   void expectPicture(const std::string& name) {
-    EXPECT_EQ(differenceFromKept(surface.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
-                                                    "tests/canvas/pictures" / (name + ".png")),
+    EXPECT_EQ(differenceFromKept(surface.get(), "tests/canvas/pictures/" + name + ".png"),
               std::nullopt);
   }
 };

@@ -1,5 +1,5 @@
-// A machine with two small displays side by side, the application on it, and pictures of them: one
-// pixel per point, so that places in global coordinates are pixels.
+// DesktopFixture gives each test two small displays side by side with the application, and pictures
+// of them at one pixel per point, so that global coordinates are pixels.
 #pragma once
 
 #include <algorithm>
@@ -34,7 +34,7 @@ class DesktopFixture : public ApplicationFixture {
     display.number = number;
     display.uuid = "UUID-" + std::to_string(number);
     display.name = "Display " + std::to_string(number);
-    // Both have the same height as the first, so the two coordinate systems differ by a sign only.
+    // With equal heights, the coordinate systems differ only by the sign of y.
     display.frame = CGRectMake(frame.x, -frame.y, frame.width, frame.height);
     EXPECT_FALSE(machine.displays.attach(display));
   }
@@ -51,7 +51,7 @@ class DesktopFixture : public ApplicationFixture {
   }
   desk::SurfacePointer picture() { return picture(DesktopScene(machine, application)); }
 
-  /// How many pixels in the rectangle differ by more than a trace.
+  /// The number of pixels in the rectangle that differ by more than 2 in a component.
   static int differences(const desk::SurfacePointer& first, const desk::SurfacePointer& second,
                          const ui::Rect& rect) {
     int count = 0;

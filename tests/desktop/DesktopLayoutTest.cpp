@@ -1,4 +1,4 @@
-// Where the screens fall in a picture.
+// The screens' frames in a picture.
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ ui::Rect toRect(const cairo_rectangle_int_t& pixels) {
           static_cast<double>(pixels.width), static_cast<double>(pixels.height)};
 }
 
-TEST(DesktopLayoutTest, ShowsExactPlacesFromTheTopLeftOfAllDisplays) {
+TEST(DesktopLayoutTest, PlacesScreensExactlyFromTheTopLeftOfAllDisplays) {
   const DesktopLayout layout(sideBySide, DesktopStyle::exact, 0.5);
   EXPECT_EQ(layout.pixels().width, 1072);
   EXPECT_EQ(layout.pixels().height, 350);
@@ -32,7 +32,7 @@ TEST(DesktopLayoutTest, LeavesNoSeamBetweenNeighboursAtAnyScale) {
   }
 }
 
-TEST(DesktopLayoutTest, PutsMonitorsApartByTheirBordersAndTheGap) {
+TEST(DesktopLayoutTest, SeparatesMonitorsByTheirBordersAndTheGap) {
   const DesktopLayout layout(sideBySide, DesktopStyle::monitors, 1);
   const cairo_rectangle_int_t& first = layout.screens()[0].pixels;
   EXPECT_EQ(layout.screens()[1].pixels.x - (first.x + first.width),
@@ -40,7 +40,7 @@ TEST(DesktopLayoutTest, PutsMonitorsApartByTheirBordersAndTheGap) {
   EXPECT_EQ(layout.screens()[1].pixels.y + 60, first.y);
 }
 
-TEST(DesktopLayoutTest, FitsIntoTheMiddleOfAnArea) {
+TEST(DesktopLayoutTest, FitsIntoAnArea) {
   const cairo_rectangle_int_t area{10, 20, 1000, 700};
   const DesktopLayout layout = DesktopLayout::fitted(sideBySide, DesktopStyle::monitors, area, 2);
   EXPECT_EQ(toRect(layout.pixels()), toRect(area));
@@ -58,14 +58,14 @@ TEST(DesktopLayoutTest, IsEmptyWithoutDisplays) {
   EXPECT_FALSE(layout.globalPoint(5, 5));
 }
 
-TEST(DesktopLayoutTest, KnowsNoPlaceBetweenTheScreens) {
+TEST(DesktopLayoutTest, HasNoPointBetweenTheScreens) {
   const DesktopLayout layout(sideBySide, DesktopStyle::monitors, 1);
   const cairo_rectangle_int_t& first = layout.screens()[0].pixels;
   EXPECT_TRUE(layout.globalPoint(first.x + first.width - 1, first.y));
   EXPECT_FALSE(layout.globalPoint(first.x + first.width, first.y));
 }
 
-/// Rows of displays that touch or not, anywhere, with fractional places.
+/// Rows of displays, adjacent or not, at fractional coordinates.
 std::vector<CGRect> arrangement() {
   std::vector<CGRect> frames;
   double y = *rc::gen::inRange(-2000, 2000) / 4.0;
@@ -86,7 +86,7 @@ std::vector<CGRect> arrangement() {
   return frames;
 }
 
-RC_GTEST_PROP(DesktopLayoutTest, KeepsMonitorsOfDisplaysThatDoNotOverlapApart, ()) {
+RC_GTEST_PROP(DesktopLayoutTest, SeparatesMonitorsOfDisplaysThatDoNotOverlap, ()) {
   const std::vector<CGRect> frames = arrangement();
   const double scale = *rc::gen::inRange(20, 200) / 100.0;
   const DesktopLayout layout(frames, DesktopStyle::monitors, scale);
@@ -100,7 +100,7 @@ RC_GTEST_PROP(DesktopLayoutTest, KeepsMonitorsOfDisplaysThatDoNotOverlapApart, (
   }
 }
 
-RC_GTEST_PROP(DesktopLayoutTest, TurnsPixelsIntoPlacesAndBack, ()) {
+RC_GTEST_PROP(DesktopLayoutTest, ConvertsPixelsToPointsAndBack, ()) {
   const std::vector<CGRect> frames = arrangement();
   const DesktopLayout layout(frames, DesktopStyle::monitors, 0.7, {30, 40, 0, 0});
   const auto index =

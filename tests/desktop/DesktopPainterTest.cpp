@@ -1,5 +1,5 @@
-// The picture of the desktop against the state of the machine, pixel by pixel where it matters.
-#include <cmath>
+// The pixels of the desktop against the state of the machine.
+#include <cstdlib>
 
 #include "Orvane/platform/appkit/HostingView.hpp"
 #include "Orvane/platform/appkit/Window.hpp"
@@ -8,8 +8,9 @@
 #include "showroom/desktop/DesktopPainter.hpp"
 #include "showroom/desktop/DockShelf.hpp"
 #include "showroom/desktop/DockTileArt.hpp"
-#include "showroom/desktop/MenuBarLayer.hpp"
+#include "showroom/desktop/Rects.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
+#include "tests/support/Contrast.hpp"
 
 namespace orvane::showroom {
 namespace {
@@ -24,7 +25,7 @@ class DesktopPainterTest : public DesktopFixture {
     return DockShelf::make(dockFrame(), machine.dock.edge(), machine.dock.shownFraction(),
                            dockTileCount());
   }
-  /// The same desktop as if no Dock were there.
+  /// The same desktop without the Dock.
   desk::SurfacePointer pictureWithoutDock() {
     setAutoHide(true);
     machine.advance(1);
@@ -35,7 +36,7 @@ class DesktopPainterTest : public DesktopFixture {
   }
 };
 
-TEST_F(DesktopPainterTest, PaintsTheDockWhereTheMachineSaysItIsAndNowhereElse) {
+TEST_F(DesktopPainterTest, PaintsTheDockOnlyInTheMachinesFrame) {
   for (const char* const edge : {"bottom", "left", "right"}) {
     setEdge(edge);
     machine.advance(1);
@@ -66,7 +67,7 @@ TEST_F(DesktopPainterTest, PaintsTheDockOnTheDisplayItHasMovedTo) {
   EXPECT_GT(differences(before, after, now.movedBy({-800, 0})), 0.9 * now.width * now.height);
 }
 
-TEST_F(DesktopPainterTest, PaintsTheDockHalfWayWhileItSlides) {
+TEST_F(DesktopPainterTest, PaintsTheSlidingDockHalfWay) {
   const desk::SurfacePointer hidden = pictureWithoutDock();
   setAutoHide(true);
   machine.advance(1);
@@ -93,7 +94,7 @@ TEST_F(DesktopPainterTest, ShowsTheLockOpenOrClosedInEveryMenuBarAndNoneWithoutT
   const desk::SurfacePointer none = picture();
   int inside = 0;
   for (const ui::Rect& frame : {firstFrame, secondFrame}) {
-    const ui::Rect icon = MenuBarLayer::statusItemFrame(frame);
+    const ui::Rect icon = rectOf(desk::StatusBar::itemFrame(rectOf(frame)));
     EXPECT_GT(differences(open, closed, icon), 10);
     EXPECT_GT(differences(open, none, icon), 10);
     EXPECT_GT(differences(closed, none, icon), 10);
@@ -112,7 +113,7 @@ TEST_F(DesktopPainterTest, TheMenuClockShowsTheMachinesTime) {
   EXPECT_EQ(differences(before, after, {0, 24, 1600, 476}), 0);
 }
 
-TEST_F(DesktopPainterTest, MarksTheZonesThatAreInForceWhenAsked) {
+TEST_F(DesktopPainterTest, MarksTheZonesOnRequest) {
   application.model().toggleSelectedDisplayLock();
   machine.runDue();
   DesktopScene scene(machine, application);
@@ -132,7 +133,7 @@ TEST_F(DesktopPainterTest, MarksTheZonesThatAreInForceWhenAsked) {
   }
 }
 
-TEST_F(DesktopPainterTest, MarksWhatWasMovedBackUntilItIsForgotten) {
+TEST_F(DesktopPainterTest, MarksAMovementThatWasMovedBack) {
   DesktopScene scene(machine, application);
   const desk::SurfacePointer plain = picture(scene);
   scene.movedBack = MovedBack{{1200, 300}, {1200, 288}, 1};
@@ -143,7 +144,7 @@ TEST_F(DesktopPainterTest, MarksWhatWasMovedBackUntilItIsForgotten) {
   EXPECT_EQ(differences(plain, picture(scene)), 0);
 }
 
-TEST_F(DesktopPainterTest, PaintsThePointerWithItsTipAtItsPlace) {
+TEST_F(DesktopPainterTest, PaintsThePointerWithItsTipAtItsLocation) {
   const desk::SurfacePointer before = picture();
   machine.mouse.moveTo({1100, 200});
   const desk::SurfacePointer after = picture();
@@ -157,7 +158,7 @@ TEST_F(DesktopPainterTest, PaintsThePointerWithItsTipAtItsPlace) {
   EXPECT_GT(differences(before, picture(large), {1097, 222, 40, 20}), 50);
 }
 
-TEST_F(DesktopPainterTest, ChangesTheWallpaperAndTheAppearanceWhenTheUserDoes) {
+TEST_F(DesktopPainterTest, FollowsTheWallpaperAndTheAppearance) {
   const desk::SurfacePointer light = picture();
   machine.appearance.isDark = true;
   const desk::SurfacePointer dark = picture();
@@ -177,37 +178,30 @@ TEST_F(DesktopPainterTest, KeepsTheMenuBarLegibleOnEveryWallpaper) {
       machine.appearance.isDark = isDark;
       machine.appearance.wallpaper = wallpaper;
       const desk::SurfacePointer shown = picture();
-      const auto linear = [](int component) {
-        const double value = component / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-      };
-      // The contrast of WCAG 2.1 between the text's colour and the bar behind the status icons.
       double worst = 21;
       for (int x = 400; x < 560; ++x) {
-        const desk::Pixel pixel = desk::pixelAt(shown.get(), x, 12);
-        const double luminance =
-            0.2126 * linear(pixel.red) + 0.7152 * linear(pixel.green) + 0.0722 * linear(pixel.blue);
+        // The luminance of the text.
         const double ink = isDark ? 0.83 : 0.02;
-        worst =
-            std::min(worst, (std::max(luminance, ink) + 0.05) / (std::min(luminance, ink) + 0.05));
+        worst = std::min(worst, contrast(luminance(orvane::pixelAt(shown.get(), x, 12)), ink));
       }
       EXPECT_GE(worst, 4.5) << isDark << " " << static_cast<int>(wallpaper);
     }
   }
 }
 
-TEST_F(DesktopPainterTest, PutsWindowsBelowTheDockAndStatusWindowsAboveTheMenuBar) {
+TEST_F(DesktopPainterTest, PutsWindowsBelowTheDockAndThoseOfMenuLevelAboveTheMenuBar) {
   const ui::Rect dock = shelf().shelf;
-  appkit::Window window{
-      appkit::WindowKind::window,
-      CGRectMake(dock.x - 40, 500 - dock.bottom(), dock.width + 80, dock.height + 40), 0};
-  appkit::Window status{appkit::WindowKind::panel, CGRectMake(780, 430, 60, 60), 0};
-  status.setLevel(appkit::WindowLevel::status);
-  for (appkit::Window* const shownWindow : {&window, &status}) {
-    shownWindow->setContentView(appkit::HostingView(
+  const auto square = [](const CGRect& frame, std::int64_t level) {
+    appkit::Window window(appkit::WindowKind::window, frame, 0);
+    window.setLevel(level);
+    window.setContentView(appkit::HostingView(
         [](const ui::Environment&) { return ui::Rectangle().fill(ui::Color::rgb(1, 0, 1)); }));
-    shownWindow->orderFrontRegardless();
-  }
+    window.orderFrontRegardless();
+    return window;
+  };
+  const appkit::Window below = square(CGRectMake(dock.x - 40, 0, dock.width + 80, 540 - dock.y),
+                                      appkit::WindowLevel::normal);
+  const appkit::Window above = square(CGRectMake(740, 430, 60, 60), appkit::WindowLevel::status);
   machine.runDue();
   const desk::SurfacePointer shown = picture();
   const desk::Pixel magenta{255, 0, 255, 255};
@@ -218,19 +212,18 @@ TEST_F(DesktopPainterTest, PutsWindowsBelowTheDockAndStatusWindowsAboveTheMenuBa
   EXPECT_NE(desk::pixelAt(shown.get(), static_cast<int>(tile.x), static_cast<int>(tile.y)),
             magenta);
   EXPECT_EQ(desk::pixelAt(shown.get(), 785, 15), magenta);
-  EXPECT_EQ(desk::pixelAt(shown.get(), 830, 15), magenta);
 }
 
-TEST_F(DesktopPainterTest, AsksForNoPictureOrSymbolThatIsNotThere) {
+TEST_F(DesktopPainterTest, UsesNoMissingImageOrSymbol) {
   (void)picture();
   EXPECT_TRUE(resources.missingNames.empty());
 }
 
-/// A window that is filled with the accent colour, and a pop-up menu of one item, by night.
+/// A window that is filled with the accent colour, and a pop-up menu with one item, in dark mode.
 class DesktopAccentTest : public DesktopFixture {
  protected:
-  static constexpr desk::Pixel blueByDay{0, 122, 255, 255};
-  static constexpr desk::Pixel blueByNight{10, 132, 255, 255};
+  static constexpr desk::Pixel lightBlue{0, 122, 255, 255};
+  static constexpr desk::Pixel darkBlue{10, 132, 255, 255};
 
   DesktopAccentTest() {
     machine.appearance.isDark = true;
@@ -246,7 +239,7 @@ class DesktopAccentTest : public DesktopFixture {
            std::abs(pixel.blue - wanted.blue) <= 1;
   }
   desk::Pixel pixelOfWindow() { return desk::pixelAt(picture().get(), 250, 250); }
-  /// Of the item that the pointer is over.
+  /// The colour of the highlighted item.
   desk::Pixel pixelOfItem() {
     desk::WindowServer& server = desk::WindowServer::current();
     ui::MenuRequest request;
@@ -260,7 +253,7 @@ class DesktopAccentTest : public DesktopFixture {
     machine.runDue();
     const desk::SurfacePointer shown = picture();
     server.menus.close();
-    // Beside the pointer's arrow, which hangs to the right.
+    // Left of the pointer's arrow.
     return desk::pixelAt(shown.get(), static_cast<int>(CGRectGetMaxX(frame)) - 15,
                          static_cast<int>(CGRectGetMidY(frame)));
   }
@@ -268,15 +261,15 @@ class DesktopAccentTest : public DesktopFixture {
   appkit::Window window{appkit::WindowKind::window, CGRectMake(200, 200, 100, 100), 0};
 };
 
-TEST_F(DesktopAccentTest, TheBlueOfTheDayCanBeChosenForTheNight) {
+TEST_F(DesktopAccentTest, TheLightAccentCanBeChosenInDarkMode) {
   machine.appearance.accent = desk::Appearance::Accent{0, 122, 255};
-  EXPECT_PRED2(isAbout, pixelOfWindow(), blueByDay);
-  EXPECT_PRED2(isAbout, pixelOfItem(), blueByDay);
+  EXPECT_PRED2(isAbout, pixelOfWindow(), lightBlue);
+  EXPECT_PRED2(isAbout, pixelOfItem(), lightBlue);
 }
 
-TEST_F(DesktopAccentTest, WithoutAChoiceItIsTheBlueOfTheNight) {
-  EXPECT_PRED2(isAbout, pixelOfWindow(), blueByNight);
-  EXPECT_PRED2(isAbout, pixelOfItem(), blueByNight);
+TEST_F(DesktopAccentTest, TheDefaultAccentIsThatOfDarkMode) {
+  EXPECT_PRED2(isAbout, pixelOfWindow(), darkBlue);
+  EXPECT_PRED2(isAbout, pixelOfItem(), darkBlue);
   machine.appearance.accent = desk::Appearance::Accent{200, 20, 60};
   EXPECT_PRED2(isAbout, pixelOfItem(), (desk::Pixel{200, 20, 60, 255}));
 }

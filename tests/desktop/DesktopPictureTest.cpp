@@ -1,5 +1,4 @@
-// Pictures of the desktop as files, and a few that are compared with their kept versions. To renew
-// those after a wanted change, run with ORVANE_RENEW_PICTURES=1 and look at what changed.
+// Pictures of the desktop as files, and comparisons with kept pictures.
 #include <filesystem>
 #include <limits>
 
@@ -21,40 +20,39 @@ class DesktopPictureTest : public DesktopFixture {
        testing::UnitTest::GetInstance()->current_test_info()->name() + ".png");
 
   static void expectPicture(const desk::SurfacePointer& shown, const std::string& name) {
-    EXPECT_EQ(desk::differenceFromKept(shown.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
-                                                        "tests/desktop/pictures" / (name + ".png")),
+    EXPECT_EQ(desk::differenceFromKept(shown.get(), "tests/desktop/pictures/" + name + ".png"),
               std::nullopt);
   }
 };
 
-TEST_F(DesktopPictureTest, AreWrittenAtTheScaleThatIsAskedFor) {
-  ASSERT_EQ(writeDesktopPicture(machine, application, file, 0.5), std::nullopt);
+TEST_F(DesktopPictureTest, HasTheRequestedScale) {
+  ASSERT_EQ(writePicture(machine, application, file, 0.5), std::nullopt);
   const desk::SurfacePointer read = desk::readPng(file);
   ASSERT_TRUE(read);
   EXPECT_EQ(cairo_image_surface_get_width(read.get()), 800);
   EXPECT_EQ(cairo_image_surface_get_height(read.get()), 250);
 }
 
-TEST_F(DesktopPictureTest, OfTheSameStateAreTheSameBytes) {
-  ASSERT_EQ(writeDesktopPicture(machine, application, file, 0.5), std::nullopt);
+TEST_F(DesktopPictureTest, OfTheSameStateHasTheSameBytes) {
+  ASSERT_EQ(writePicture(machine, application, file, 0.5), std::nullopt);
   const std::string first = bytesOf(file);
-  ASSERT_EQ(writeDesktopPicture(machine, application, file, 0.5), std::nullopt);
+  ASSERT_EQ(writePicture(machine, application, file, 0.5), std::nullopt);
   EXPECT_EQ(first, bytesOf(file));
   EXPECT_GT(first.size(), 1000U);
 }
 
-TEST_F(DesktopPictureTest, AreRefusedWithAReason) {
-  EXPECT_NE(writeDesktopPicture(machine, application, "/nowhere/at/all.png", 0.5), std::nullopt);
+TEST_F(DesktopPictureTest, IsRefusedWithAReason) {
+  EXPECT_NE(writePicture(machine, application, "/nowhere/at/all.png", 0.5), std::nullopt);
   for (const double scale : {0.0, -1.0, 1e9, std::numeric_limits<double>::quiet_NaN()}) {
-    EXPECT_NE(writeDesktopPicture(machine, application, file, scale), std::nullopt) << scale;
+    EXPECT_NE(writePicture(machine, application, file, scale), std::nullopt) << scale;
   }
   ASSERT_FALSE(machine.displays.detach(1));
   ASSERT_FALSE(machine.displays.detach(2));
-  EXPECT_EQ(writeDesktopPicture(machine, application, file, 1),
+  EXPECT_EQ(writePicture(machine, application, file, 1),
             "there is no display to make a picture of");
 }
 
-TEST_F(DesktopPictureTest, ByDayWithALockedDisplay) {
+TEST_F(DesktopPictureTest, LightWithALockedDisplay) {
   application.model().toggleSelectedDisplayLock();
   machine.advance(1);
   machine.mouse.moveTo({1200, 440});
@@ -64,7 +62,7 @@ TEST_F(DesktopPictureTest, ByDayWithALockedDisplay) {
   expectPicture(renderDesktop(painter, scene, DesktopStyle::monitors, 0.6), "day");
 }
 
-TEST_F(DesktopPictureTest, ByNightWithTheDockAtTheLeft) {
+TEST_F(DesktopPictureTest, DarkWithTheDockAtTheLeft) {
   machine.appearance.isDark = true;
   setEdge("left");
   machine.advance(1);

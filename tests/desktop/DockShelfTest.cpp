@@ -1,4 +1,4 @@
-// The Dock's shape at every edge and moment.
+// The Dock's geometry at every edge and stage.
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
@@ -11,13 +11,13 @@ constexpr std::size_t tileCount = 10;
 constexpr ui::Rect wide{200, 570, 600, 70};
 constexpr ui::Rect tall{0, 100, 70, 380};
 
-bool holds(const ui::Rect& outer, const ui::Rect& inner) {
+bool contains(const ui::Rect& outer, const ui::Rect& inner) {
   constexpr double tolerance = 1e-9;
   return inner.x >= outer.x - tolerance && inner.y >= outer.y - tolerance &&
          inner.right() <= outer.right() + tolerance && inner.bottom() <= outer.bottom() + tolerance;
 }
 
-TEST(DockShelfTest, StandsInTheMiddleOfItsEdgeWithAGapToIt) {
+TEST(DockShelfTest, IsCentredAtItsEdgeWithAGap) {
   const DockShelf dock = DockShelf::make(wide, desk::DockEdge::bottom, 1, tileCount);
   EXPECT_DOUBLE_EQ(dock.shelf.center().x, wide.center().x);
   EXPECT_DOUBLE_EQ(dock.shelf.bottom(), wide.bottom() - 5);
@@ -25,7 +25,7 @@ TEST(DockShelfTest, StandsInTheMiddleOfItsEdgeWithAGapToIt) {
   EXPECT_DOUBLE_EQ(dock.tiles.front().width, 46);
 }
 
-TEST(DockShelfTest, TurnsToTheSides) {
+TEST(DockShelfTest, IsRotatedToTheSides) {
   const DockShelf left = DockShelf::make(tall, desk::DockEdge::left, 1, tileCount);
   EXPECT_DOUBLE_EQ(left.shelf.x, tall.x + 5);
   EXPECT_DOUBLE_EQ(left.shelf.center().y, tall.center().y);
@@ -35,7 +35,7 @@ TEST(DockShelfTest, TurnsToTheSides) {
   EXPECT_DOUBLE_EQ(right.shelf.right(), tall.right() - 5);
 }
 
-TEST(DockShelfTest, IsOutOfSightWhenHiddenAndHalfWayInBetween) {
+TEST(DockShelfTest, SlidesBehindItsEdge) {
   const DockShelf hidden = DockShelf::make(wide, desk::DockEdge::bottom, 0, tileCount);
   EXPECT_GE(hidden.shelf.y, wide.bottom() + 5);
   const DockShelf shown = DockShelf::make(wide, desk::DockEdge::bottom, 1, tileCount);
@@ -47,12 +47,12 @@ TEST(DockShelfTest, IsOutOfSightWhenHiddenAndHalfWayInBetween) {
   EXPECT_GE(hiddenAtTheRight.shelf.x, tall.right());
 }
 
-TEST(DockShelfTest, HasNothingWhereThereIsNoRoom) {
+TEST(DockShelfTest, IsEmptyWithoutRoomOrTiles) {
   EXPECT_TRUE(DockShelf::make({}, desk::DockEdge::bottom, 1, tileCount).tiles.empty());
   EXPECT_TRUE(DockShelf::make(wide, desk::DockEdge::bottom, 1, 0).tiles.empty());
 }
 
-TEST(DockShelfTest, KeepsTheLineOffTheTilesOnAVeryShortEdge) {
+TEST(DockShelfTest, KeepsTheSeparatorOffTheTilesOnAShortEdge) {
   const DockShelf dock = DockShelf::make({0, 0, 40, 70}, desk::DockEdge::bottom, 1, 13);
   for (const ui::Rect& tile : dock.tiles) {
     EXPECT_FALSE(dock.separator.intersects(tile));
@@ -72,9 +72,9 @@ RC_GTEST_PROP(DockShelfTest, KeepsItsTilesApartAndOnTheShelfAtEveryEdge, ()) {
   RC_ASSERT(dock.factor > 0 && dock.factor <= 1);
   const bool isLevel = edge == desk::DockEdge::bottom;
   RC_ASSERT((isLevel ? dock.shelf.width : dock.shelf.height) <= room + 1e-9);
-  RC_ASSERT(holds(dock.shelf, dock.separator));
+  RC_ASSERT(contains(dock.shelf, dock.separator));
   for (std::size_t index = 0; index < count; ++index) {
-    RC_ASSERT(holds(dock.shelf, dock.tiles[index]));
+    RC_ASSERT(contains(dock.shelf, dock.tiles[index]));
     RC_ASSERT(!dock.separator.intersects(dock.tiles[index]));
     for (std::size_t other = 0; other < index; ++other) {
       RC_ASSERT(!dock.tiles[index].intersects(dock.tiles[other]));

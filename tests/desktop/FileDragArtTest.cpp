@@ -1,4 +1,4 @@
-// The picture of a file that is dragged out of the permission guide.
+// The image of a file that is dragged from the permission guide.
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "showroom/desktop/FileDragArt.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
@@ -9,7 +9,7 @@ namespace {
 class FileDragArtTest : public DesktopFixture {
  protected:
   FileDragArtTest() {
-    // Both windows fit beside each other on the two displays.
+    // The windows fit side by side on the two displays.
     OrvanePermissionGuideWindowController::shared().show(nullptr);
     machine.mouse.moveTo({1200, 250});
     application.systemSettings().open(desk::SettingsPage::accessibility);
@@ -30,7 +30,7 @@ class FileDragArtTest : public DesktopFixture {
     const ui::Rect list = application.systemSettings().listFrame().value_or(ui::Rect{});
     return {corner.x + list.x + 200, corner.y + list.y + 20};
   }
-  /// The middle of the mark's left arm, which is white, and above it the disc.
+  /// Points on the mark: its white left arm, and the disc above it.
   static ui::Point armAt(CGPoint place) { return {place.x + 17, place.y + 22}; }
   static ui::Point discAt(CGPoint place) { return {place.x + 16, place.y + 18}; }
   static desk::Pixel at(const desk::SurfacePointer& shown, ui::Point place) {
@@ -48,7 +48,7 @@ TEST_F(FileDragArtTest, TheImageFollowsThePointer) {
   EXPECT_GT(differences(picture(), during, image), image.width * image.height / 2);
 }
 
-TEST_F(FileDragArtTest, TheMarkOfACopyIsThereWhereTheFileWouldBeTaken) {
+TEST_F(FileDragArtTest, ADropTargetHasTheCopyMark) {
   beginDrag();
   const CGPoint place = listPlace();
   moveTo(place);
@@ -62,7 +62,7 @@ TEST_F(FileDragArtTest, TheMarkOfACopyIsThereWhereTheFileWouldBeTaken) {
   EXPECT_LT(disc.red, 120) << "the disc around it is not";
 }
 
-TEST_F(FileDragArtTest, ElsewhereThereIsNoMark) {
+TEST_F(FileDragArtTest, OtherPlacesHaveNoCopyMark) {
   beginDrag();
   const CGPoint place{700, 450};
   moveTo(place);

@@ -1,4 +1,4 @@
-// Glass is blurred once for what lies behind it.
+// Equal backgrounds are blurred once.
 #include <gtest/gtest.h>
 
 #include "desk/canvas/Blur.hpp"
@@ -18,7 +18,7 @@ desk::SurfacePointer picture(int x, int side = 20) {
   return surface;
 }
 
-TEST(GlassCacheTest, IsWhatABlurOfThePictureIs) {
+TEST(GlassCacheTest, ReturnsTheBlurredPicture) {
   GlassCache cache;
   const desk::SurfacePointer plain = picture(3);
   desk::blurSurface(plain.get(), 2, desk::BlurEdge::extended);
@@ -28,7 +28,7 @@ TEST(GlassCacheTest, IsWhatABlurOfThePictureIs) {
   EXPECT_EQ(cache.blurCount(), 1);
 }
 
-TEST(GlassCacheTest, AnotherPictureOrAnotherBlurIsAnother) {
+TEST(GlassCacheTest, DistinguishesPicturesAndBlurs) {
   GlassCache cache;
   const auto first = desk::encodePng(cache.blurred(picture(3), 2));
   EXPECT_NE(desk::encodePng(cache.blurred(picture(4), 2)), first);
@@ -39,8 +39,8 @@ TEST(GlassCacheTest, AnotherPictureOrAnotherBlurIsAnother) {
   EXPECT_EQ(cache.blurCount(), 4);
 }
 
-TEST(GlassCacheTest, BeyondTheLimitTheLongestUnusedGoes) {
-  // Room for two pictures of 20 by 20 and what was made of them.
+TEST(GlassCacheTest, DropsTheLeastRecentlyUsed) {
+  // Room for two pictures of 20 by 20 with their blurs.
   GlassCache cache(std::size_t{4} * 20 * 20 * 4);
   cache.blurred(picture(1), 2);
   cache.blurred(picture(2), 2);

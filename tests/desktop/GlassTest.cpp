@@ -1,9 +1,7 @@
-// Glass lets the wallpaper through, but not when the user wants less transparency.
+// Glass under Reduce transparency and Increase contrast.
 #include <vector>
 
 #include "desk/windows/WindowServer.hpp"
-#include "showroom/desktop/Glass.hpp"
-#include "showroom/desktop/MenuBarLayer.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
 namespace orvane::showroom {
@@ -11,7 +9,7 @@ namespace {
 
 class GlassTest : public DesktopFixture {
  protected:
-  /// Well inside of all that is made of glass: the menu bar, the Dock's shelf and the main panel.
+  /// Inner parts of the menu bar, the Dock's shelf and the main panel.
   std::vector<ui::Rect> glass() {
     const CGRect dock = machine.dock.frame();
     const auto window = desk::WindowServer::current().windows().back();
@@ -27,7 +25,7 @@ class GlassTest : public DesktopFixture {
   }
 };
 
-TEST_F(GlassTest, ShowsWhatIsBehindItUnlessTransparencyIsReduced) {
+TEST_F(GlassTest, ShowsItsBackgroundUnlessTransparencyIsReduced) {
   application.reopen();
   machine.advance(2);
   for (const bool isReduced : {false, true}) {

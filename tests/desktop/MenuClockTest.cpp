@@ -1,4 +1,4 @@
-// The calendar in the menu bar.
+// The clock of the menu bar.
 #include <gtest/gtest.h>
 
 #include "showroom/desktop/MenuClock.hpp"
@@ -26,14 +26,14 @@ TEST(MenuClockTest, ShowsFullMinutesOnly) {
   EXPECT_EQ(menuClockText(clockAt(day - 1)), "Thu 1 Jan  23:59");
 }
 
-TEST(MenuClockTest, GoesOnThroughMonthsAndTheYearsEnd) {
+TEST(MenuClockTest, ContinuesAcrossMonthsAndYears) {
   EXPECT_EQ(menuClockText(clockAt(31 * day)), "Sun 1 Feb  0:00");
   EXPECT_EQ(menuClockText(clockAt(364 * day + 9 * 3600 * second)), "Thu 31 Dec  9:00");
   EXPECT_EQ(menuClockText(clockAt(365 * day)), "Fri 1 Jan  0:00");
   EXPECT_EQ(menuClockDay(clockAt(58 * day)), 28);
 }
 
-TEST(MenuClockTest, SaysWhenItsTextChanges) {
+TEST(MenuClockTest, KnowsWhenItsTextChanges) {
   EXPECT_EQ(nanosecondsToNextMinute(desk::Clock()), 60 * second);
   const desk::Clock clock = clockAt(61 * second + 5);
   const std::int64_t wait = nanosecondsToNextMinute(clock);

@@ -1,7 +1,7 @@
-// The displays of a desk that nobody furnished.
+// The standard displays.
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/layout/Rect.hpp"
+#include "showroom/desktop/Rects.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
 #include "tests/support/MachineFixture.hpp"
 
@@ -10,7 +10,7 @@ namespace {
 
 class StandardDisplaysTest : public desk::MachineFixture {};
 
-TEST_F(StandardDisplaysTest, AreAttachedOneAfterTheOther) {
+TEST_F(StandardDisplaysTest, AreAttachedInTheirOrder) {
   for (std::uint32_t number = 1; number <= standardDisplayCount; ++number) {
     EXPECT_EQ(attachNextStandardDisplay(machine), number);
   }
@@ -18,7 +18,7 @@ TEST_F(StandardDisplaysTest, AreAttachedOneAfterTheOther) {
   EXPECT_EQ(machine.displays.count(), standardDisplayCount);
 }
 
-TEST_F(StandardDisplaysTest, ComeBackWhereTheyWereAfterTheyWereUnplugged) {
+TEST_F(StandardDisplaysTest, KeepTheirFramesWhenTheyAreAttachedAgain) {
   attachNextStandardDisplay(machine);
   attachNextStandardDisplay(machine);
   const CGRect before = machine.displays.find(1)->frame;
@@ -31,17 +31,14 @@ TEST_F(StandardDisplaysTest, DoNotOverlapAndTouchTheFirst) {
   while (attachNextStandardDisplay(machine) != 0) {
   }
   const auto& frames = machine.displays.globalFrames();
-  const auto rect = [&](std::size_t index) {
-    return ui::Rect{frames[index].origin.x, frames[index].origin.y, frames[index].size.width,
-                    frames[index].size.height};
-  };
   for (std::size_t index = 1; index < frames.size(); ++index) {
     for (std::size_t other = 0; other < index; ++other) {
-      EXPECT_FALSE(rect(index).intersects(rect(other))) << index << " and " << other;
+      EXPECT_FALSE(rectOf(frames[index]).intersects(rectOf(frames[other])))
+          << index << " and " << other;
     }
   }
-  EXPECT_TRUE(rect(0).inset(-1).intersects(rect(1)));
-  EXPECT_TRUE(rect(0).inset(-1).intersects(rect(2)));
+  EXPECT_TRUE(rectOf(frames[0]).inset(-1).intersects(rectOf(frames[1])));
+  EXPECT_TRUE(rectOf(frames[0]).inset(-1).intersects(rectOf(frames[2])));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The wallpapers, by what their pixels must be like.
+// Properties of the wallpapers' pixels.
 #include <set>
 #include <tuple>
 
@@ -31,12 +31,12 @@ double brightness(cairo_surface_t* surface) {
   return sum / width / height;
 }
 
-TEST(WallpaperArtTest, WhiteAndBlackAreThatAndNothingElse) {
+TEST(WallpaperArtTest, WhiteAndBlackAreUniform) {
   EXPECT_DOUBLE_EQ(brightness(drawn(desk::Appearance::Wallpaper::white, true, 60, 40).get()), 1);
   EXPECT_DOUBLE_EQ(brightness(drawn(desk::Appearance::Wallpaper::black, false, 60, 40).get()), 0);
 }
 
-TEST(WallpaperArtTest, CoversEveryProportionWithoutAHole) {
+TEST(WallpaperArtTest, CoversEveryAspectRatio) {
   for (const auto& [width, height] : {std::pair(300, 60), std::pair(60, 300), std::pair(97, 61)}) {
     for (const auto wallpaper :
          {desk::Appearance::Wallpaper::standard, desk::Appearance::Wallpaper::busy}) {
@@ -55,7 +55,7 @@ TEST(WallpaperArtTest, TheLandscapeIsBrightByDayAndDarkByNight) {
   EXPECT_LT(brightness(drawn(desk::Appearance::Wallpaper::standard, true, 160, 100).get()), 0.3);
 }
 
-TEST(WallpaperArtTest, TheBusyOneHasManyColoursNextToEachOther) {
+TEST(WallpaperArtTest, TheBusyOneHasManyAdjacentColours) {
   const desk::SurfacePointer surface = drawn(desk::Appearance::Wallpaper::busy, false, 240, 150);
   std::set<std::tuple<int, int, int>> colors;
   for (int x = 0; x < 240; ++x) {

@@ -14,7 +14,7 @@
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
-#include "showroom/gallery/SheetGround.hpp"
+#include "showroom/gallery/SheetBackground.hpp"
 #include "showroom/gallery/Specimen.hpp"
 #include "tests/panels/TextRun.hpp"
 #include "tests/support/Contrast.hpp"
@@ -131,7 +131,7 @@ class GalleryRulesTest : public desk::MachineFixture,
  protected:
   GalleryRulesTest() { desk::addApplicationImages(resources.images); }
 
-  void expectAll(const Specimen& specimen, Hand hand) {
+  void expectAll(const Specimen& specimen, Interaction interaction) {
     const ui::ViewHost& host = specimen.host();
     TextCollector collector(resources.shaper, 2);
     host.paint(collector, {0, 0, host.size().width, host.size().height});
@@ -144,7 +144,7 @@ class GalleryRulesTest : public desk::MachineFixture,
     expectNoTextsOverlap();
     expectTheBaselinesOfARowAreEqual();
     expectControlsAreLargeEnough();
-    expectTextsAreReadable(specimen, hand);
+    expectTextsAreReadable(specimen, interaction);
     textCount += runs.size();
   }
 
@@ -246,7 +246,7 @@ class GalleryRulesTest : public desk::MachineFixture,
     });
   }
 
-  void expectTextsAreReadable(const Specimen& specimen, Hand hand) {
+  void expectTextsAreReadable(const Specimen& specimen, Interaction interaction) {
     const ui::Size size = specimen.size();
     const ui::Appearance& appearance = specimen.host().appearance();
     const desk::SurfacePointer shown = blank(size);
@@ -263,7 +263,7 @@ class GalleryRulesTest : public desk::MachineFixture,
         const bool isOnAFill = isOnAColouredFill(run.color, behind.at(middle));
         // A press is over soon, and its fill is fainter by its style.
         const double wanted = !isOnAFill ? leastContrast(run, appearance)
-                              : appearance.increaseContrast && hand != Hand::pressing
+                              : appearance.increaseContrast && interaction != Interaction::pressed
                                   ? textContrast
                                   : largeTextContrast;
         const double reached =
@@ -348,9 +348,10 @@ class GalleryRulesTest : public desk::MachineFixture,
       desk::CairoCanvas canvas(kept.get(), 1, resources);
       paintWallpaper(canvas.context(), wallpaper, appearance.dark, size.width, size.height);
       // Beyond the specimen, so that no edge of the ground lies under it.
-      const double inset = isWholeWindow(sheet.ground) ? Specimen::margin : -Specimen::margin;
-      paintGround(canvas, sheet.ground, ui::Rect{0, 0, size.width, size.height}.inset(inset),
-                  appearance, text, resources);
+      const double inset = isWholeWindow(sheet.background) ? Specimen::margin : -Specimen::margin;
+      paintBackground(canvas, sheet.background,
+                      ui::Rect{0, 0, size.width, size.height}.inset(inset), appearance, text,
+                      resources);
       cairo_surface_flush(kept.get());
     }
     return kept.get();
@@ -378,7 +379,7 @@ TEST_P(GalleryRulesTest, HoldForEveryTextAndControl) {
           appearance.dark = isDark;
           appearance.increaseContrast = increasesContrast;
           specimen.appear(appearance);
-          expectAll(specimen, item.hand);
+          expectAll(specimen, item.interaction);
         }
       }
     }

@@ -59,9 +59,9 @@ TEST_F(GalleryTest, AHandThatPressesOrTabsIsSeen) {
   int seen = 0;
   for (const GallerySheet& sheet : gallerySheets()) {
     for (GalleryItem item : sheet.items) {
-      if (item.hand == Hand::pressing || item.hand == Hand::tabbing) {
+      if (item.interaction == Interaction::pressed || item.interaction == Interaction::focused) {
         const auto used = pictureOf(item);
-        item.hand = Hand::away;
+        item.interaction = Interaction::none;
         EXPECT_NE(used, pictureOf(item)) << sheet.name << ": " << item.caption;
         ++seen;
       }

@@ -7,15 +7,17 @@
 #include <gtest/gtest.h>
 
 #include "macos/canvas/QuartzCanvas.hpp"
+#include "tests/contract/ContractFixture.hpp"
 #include "tests/gnustep/shim/DrawingContext.hpp"
 
 namespace orvane {
 namespace {
 
 constexpr int side = 80;
+const ui::Paint black = ui::Paint::solid({0, 0, 0, 1});
 
 /// A white image with a canvas whose y points downwards.
-class Canvas : public testing::Test {
+class Canvas : public ContractFixture {
  protected:
   Canvas() {
     cairo_t* const cairo = cairo_create(surface_.get());
@@ -35,7 +37,7 @@ class Canvas : public testing::Test {
     return cairo_image_surface_get_data(surface_.get())[y * stride + 4 * x + 1];
   }
 
-  /// The number of pixels that are not white.
+  /// The smallest rectangle with all pixels that are not white; none if all are white.
   std::optional<ui::Rect> drawnArea() {
     std::optional<ui::Rect> area;
     for (int y = 0; y < side; ++y) {
@@ -55,14 +57,38 @@ class Canvas : public testing::Test {
   OrvaneShimContext* context_ = [[OrvaneShimContext alloc] initWithSurface:surface_.get()];
 };
 
-TEST_F(Canvas, NothingOfWhatCastsAShadowIsSeen) {
+TEST_F(Canvas, NothingIsDrawnForWhatIsEmptyOrUnknown) {
+  appkit::QuartzCanvas canvas(reference(), 1);
+  const auto empty = ui::Shape::rectangle({5, 5, 0, 0});
+  canvas.fill(empty, black);
+  canvas.stroke(empty, black, 2);
+  canvas.stroke(ui::Shape::rectangle({5, 5, 10, 10}), black, 0);
+  canvas.shadow(empty, {.color = {0, 0, 0, 1}, .radius = 4, .offset = {}});
+  canvas.text("\xFF", ui::Font::body(), {0, 0, 0, 1}, {5, 15});
+  canvas.symbol("no such symbol", ui::Font::body(), {0, 0, 0, 1}, {5, 5, 10, 10});
+  EXPECT_EQ(drawnArea(), std::nullopt);
+}
+
+TEST_F(Canvas, NothingIsDrawnInAnEmptyClip) {
+  appkit::QuartzCanvas canvas(reference(), 1);
+  const auto shape = ui::Shape::rectangle({5, 5, 10, 10});
+  canvas.save();
+  canvas.clip(ui::Shape::rectangle({5, 5, 0, 0}));
+  canvas.fill(shape, black);
+  canvas.restore();
+  EXPECT_EQ(drawnArea(), std::nullopt);
+  canvas.fill(shape, black);
+  EXPECT_EQ(drawnArea(), (ui::Rect{5, 5, 10, 10}));
+}
+
+TEST_F(Canvas, TheShapeThatCastsAShadowIsNotDrawn) {
   appkit::QuartzCanvas canvas(reference(), 1);
   const auto card = ui::Shape::roundedRectangle({20.4, 20.4, 39.3, 39.3}, 10);
   canvas.shadow(card, {.color = {1, 1, 1, 0.5}, .radius = 4, .offset = {0, 3}});
   EXPECT_EQ(drawnArea(), std::nullopt);
 }
 
-TEST_F(Canvas, AShadowFallsWhereItsOffsetSays) {
+TEST_F(Canvas, AShadowIsMovedByItsOffset) {
   appkit::QuartzCanvas canvas(reference(), 1);
   const auto card = ui::Shape::rectangle({10, 10, 20, 20});
   canvas.shadow(card, {.color = {0, 0, 0, 1}, .radius = 0, .offset = {25, 30}});
@@ -77,7 +103,7 @@ TEST_F(Canvas, TheOffsetOfAShadowIsScaledWithTheDrawing) {
   EXPECT_EQ(drawnArea(), (ui::Rect{38, 46, 20, 20}));
 }
 
-TEST_F(Canvas, AShadowIsCutByWhatCastsItAndByTheClip) {
+TEST_F(Canvas, AShadowIsCutByItsShapeAndByTheClip) {
   appkit::QuartzCanvas canvas(reference(), 1);
   canvas.clip(ui::Shape::rectangle({0, 0, 60, 32}));
   const auto card = ui::Shape::rectangle({10, 10, 20, 20});

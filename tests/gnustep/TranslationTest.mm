@@ -9,13 +9,11 @@
 #include "Orvane/ui/views/Stack.hpp"
 #include "macos/appkit/Strings.hpp"
 #include "macos/canvas/CoreTextMeasurer.hpp"
-#include "macos/canvas/QuartzCanvas.hpp"
 #include "macos/canvas/SystemColors.hpp"
 #include "macos/canvas/SystemFont.hpp"
 #include "macos/hosting/FileDrag.hpp"
 #include "macos/hosting/KeyTranslation.hpp"
 #include "tests/gnustep/MacHalfFixture.hpp"
-#include "tests/gnustep/shim/DrawingContext.hpp"
 #include "tests/gnustep/shim/World.hpp"
 
 namespace orvane {
@@ -30,7 +28,7 @@ class Translation : public MacHalfFixture {
   }
 };
 
-TEST_F(Translation, EveryKeyOfTheKitHasOneOfTheMac) {
+TEST_F(Translation, EveryKeyOfTheKitHasAMacKey) {
   const std::vector<std::pair<unichar, ui::Key>> keys{{NSTabCharacter, ui::Key::tab},
                                                       {NSBackTabCharacter, ui::Key::tab},
                                                       {NSCarriageReturnCharacter, ui::Key::enter},
@@ -57,7 +55,7 @@ TEST_F(Translation, EveryKeyOfTheKitHasOneOfTheMac) {
   EXPECT_TRUE(appkit::isRepeatedActivation(keyEvent(nil, @" ", 0, YES)));
 }
 
-TEST_F(Translation, WithCommandAKeyIsWhatALayoutOfAnotherScriptTypesThen) {
+TEST_F(Translation, WithCommandAKeyHasItsLatinCharacterOnOtherLayouts) {
   const auto russian = [](NSUInteger modifiers) {
     NSEvent* const event = [NSEvent keyEventWithType:NSKeyDown
                                             location:NSZeroPoint
@@ -75,7 +73,7 @@ TEST_F(Translation, WithCommandAKeyIsWhatALayoutOfAnotherScriptTypesThen) {
   EXPECT_EQ(russian(NSAlternateKeyMask)->characters, "ц");
 }
 
-TEST_F(Translation, ASystemColourIsThatOfTheAppearanceThatIsAskedFor) {
+TEST_F(Translation, ASystemColourIsThatOfTheRequestedAppearance) {
   const auto expectColor = [](ui::SystemColor name, bool isDark, int red, int green, int blue) {
     const ui::Rgba color = appkit::systemColor(name, looking(isDark));
     EXPECT_NEAR(color.red * 255, red, 1);
@@ -152,72 +150,6 @@ TEST_F(Translation, EveryRoleHasItsNameAndItsValue) {
   }
 }
 
-/// A canvas of 20 by 20 points.
-class CanvasOnMac : public ContractFixture {
- protected:
-  CanvasOnMac() {
-    // As a flipped view does.
-    CGContextRef const reference = (__bridge CGContextRef)context;
-    CGContextTranslateCTM(reference, 0, 20);
-    CGContextScaleCTM(reference, 1, -1);
-  }
-  ~CanvasOnMac() override { cairo_surface_destroy(surface); }
-
-  [[nodiscard]] std::uint32_t pixel(int x, int y) const {
-    cairo_surface_flush(surface);
-    const auto* const row =
-        cairo_image_surface_get_data(surface) + y * cairo_image_surface_get_stride(surface);
-    return reinterpret_cast<const std::uint32_t*>(row)[x];
-  }
-  [[nodiscard]] bool isEmpty() const {
-    for (int index = 0; index < 400; ++index) {
-      if (pixel(index % 20, index / 20) != 0) {
-        return false;
-      }
-    }
-    return true;
-  }
-
-  cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 20, 20);
-  OrvaneShimContext* context = [[OrvaneShimContext alloc] initWithSurface:surface];
-  const ui::Paint black = ui::Paint::solid({0, 0, 0, 1});
-};
-
-TEST_F(CanvasOnMac, NothingIsDrawnOfWhatIsEmptyOrUnknown) {
-  appkit::QuartzCanvas canvas((__bridge CGContextRef)context, 1);
-  const auto empty = ui::Shape::rectangle({5, 5, 0, 0});
-  const auto shape = ui::Shape::rectangle({5, 5, 10, 10});
-  canvas.fill(empty, black);
-  canvas.stroke(empty, black, 2);
-  canvas.stroke(shape, black, 0);
-  canvas.shadow(empty, {.color = {0, 0, 0, 1}, .radius = 4, .offset = {}});
-  canvas.text("\xFF", ui::Font::body(), {0, 0, 0, 1}, {5, 15});
-  canvas.symbol("no such symbol", ui::Font::body(), {0, 0, 0, 1}, {5, 5, 10, 10});
-  EXPECT_TRUE(isEmpty());
-}
-
-TEST_F(CanvasOnMac, NothingIsDrawnInAnEmptyClip) {
-  appkit::QuartzCanvas canvas((__bridge CGContextRef)context, 1);
-  const auto shape = ui::Shape::rectangle({5, 5, 10, 10});
-  canvas.save();
-  canvas.clip(ui::Shape::rectangle({5, 5, 0, 0}));
-  canvas.fill(shape, black);
-  canvas.restore();
-  EXPECT_TRUE(isEmpty());
-  canvas.fill(shape, black);
-  EXPECT_EQ(pixel(10, 10), 0xFF000000U);
-  EXPECT_EQ(pixel(2, 2), 0U);
-}
-
-TEST_F(CanvasOnMac, AShadowFallsDownwardsAndOutsideOfItsShape) {
-  appkit::QuartzCanvas canvas((__bridge CGContextRef)context, 1);
-  canvas.shadow(ui::Shape::rectangle({5, 5, 10, 6}),
-                {.color = {0, 0, 0, 1}, .radius = 0, .offset = {0, 4}});
-  EXPECT_EQ(pixel(10, 8), 0U);
-  EXPECT_EQ(pixel(10, 13), 0xFF000000U);
-  EXPECT_EQ(pixel(10, 2), 0U);
-}
-
 TEST_F(Translation, WhetherALinkWasOpenedIsReportedOnTheMainThread) {
   int answers = 0;
   gnustep::world().refusedLinkPrefix = "refused:";
@@ -233,7 +165,7 @@ TEST_F(Translation, WhetherALinkWasOpenedIsReportedOnTheMainThread) {
   }
 }
 
-TEST_F(Translation, ADragWithoutAFileBeginsNothing) {
+TEST_F(Translation, ADragWithoutAFileDoesNotBegin) {
   appkit::Window window = show([](const ui::Environment&) { return ui::View(); });
   click(nativeOf(window), 10, 10);
   appkit::beginFileDrag({.fileUrl = "\xFF", .imageName = "", .frame = {}}, hostOf(window));

@@ -1,4 +1,4 @@
-// What the panel says of the machine.
+// The values of the hardware panel.
 #include "tests/hardware/HardwareFixture.hpp"
 
 namespace orvane::showroom {
@@ -6,22 +6,14 @@ namespace {
 
 class HardwareContentTest : public HardwareFixture {
  protected:
-  [[nodiscard]] std::string figure(const std::string& label) const {
-    for (const HardwareFigure& candidate : content().figures) {
+  [[nodiscard]] std::string counter(const std::string& label) const {
+    for (const HardwareCounter& candidate : content().counters) {
       if (candidate.label == label) {
         return candidate.value;
       }
     }
-    ADD_FAILURE() << "no figure " << label;
+    ADD_FAILURE() << "no counter " << label;
     return {};
-  }
-  /// Presses so often against the lower edge of the display on the right.
-  void pressRightDisplay(int times) {
-    const CGPoint place = machine.pointer.location();
-    session.movePointerBy(1500 - place.x, 600 - place.y);
-    for (int time = 0; time < times; ++time) {
-      session.movePointerBy(0, 60);
-    }
   }
 };
 
@@ -35,44 +27,41 @@ TEST_F(HardwareContentTest, ListsTheDisplaysWithTheirSizes) {
   EXPECT_FALSE(displays[1].isMain);
 }
 
-TEST_F(HardwareContentTest, FollowsTheDockTheBlocksAndTheEvents) {
-  EXPECT_EQ(figure("Dock on"), "Built-in Display");
-  EXPECT_EQ(figure("Dock came up"), "0");
+TEST_F(HardwareContentTest, FollowsTheDockAndTheCounters) {
+  EXPECT_EQ(counter("Dock on"), "Built-in Display");
+  EXPECT_EQ(counter("Dock came up"), "0");
   pressRightDisplay(2);
-  EXPECT_EQ(figure("Dock on"), "Right Display");
-  EXPECT_EQ(figure("Dock came up"), "1");
-  EXPECT_EQ(figure("Moved back"), "0");
-  EXPECT_EQ(figure("Events per second"), "3");
-  EXPECT_EQ(figure("Movements"), std::to_string(machine.counters.hardwareMovements));
-  session.application().model().toggleSelectedDisplayLock();
-  machine.runDue();
+  EXPECT_EQ(counter("Dock on"), "Right Display");
+  EXPECT_EQ(counter("Dock came up"), "1");
+  EXPECT_EQ(counter("Moved back"), "0");
+  EXPECT_EQ(counter("Events per second"), "3");
+  EXPECT_EQ(counter("Movements"), std::to_string(machine.counters.hardwareMovements));
+  pinOrUnpin();
   session.movePointerBy(0, -100);
   pressRightDisplay(5);
-  EXPECT_EQ(figure("Moved back"), "5");
+  EXPECT_EQ(counter("Moved back"), "5");
 }
 
-TEST_F(HardwareContentTest, SaysHowOrvaneIsAndWhatTheGuardSaidLast) {
-  EXPECT_EQ(figure("Orvane"), "Unlocked");
+TEST_F(HardwareContentTest, ShowsTheStatusAndTheLastMessage) {
+  EXPECT_EQ(counter("Orvane"), "Unlocked");
   EXPECT_EQ(content().message, "");
-  session.application().model().refreshDisplays();
-  session.application().model().toggleSelectedDisplayLock();
-  machine.runDue();
-  EXPECT_EQ(figure("Orvane"), "Locked");
+  pinOrUnpin();
+  EXPECT_EQ(counter("Orvane"), "Locked");
   EXPECT_EQ(content().message, "Mouse guard started. Trigger zones: 1");
   machine.modifierKeys.hold(kCGEventFlagMaskAlternate);
   session.movePointerBy(1, 0);
-  EXPECT_EQ(figure("Orvane"), "Unlocked for now");
+  EXPECT_EQ(counter("Orvane"), "Unlocked for now");
   machine.modifierKeys.releaseAll();
   session.movePointerBy(1, 0);
   hardware.detachDisplay(1);
-  EXPECT_EQ(figure("Orvane"), "Display missing");
+  EXPECT_EQ(counter("Orvane"), "Display missing");
   hardware.setTrusted(false);
   session.application().model().refreshDisplays();
-  EXPECT_EQ(figure("Orvane"), "No permission");
+  EXPECT_EQ(counter("Orvane"), "No permission");
   hardware.crash();
-  EXPECT_EQ(figure("Orvane"), "Not running");
+  EXPECT_EQ(counter("Orvane"), "Not running");
   hardware.detachDisplay(2);
-  EXPECT_EQ(figure("Dock on"), "nowhere");
+  EXPECT_EQ(counter("Dock on"), "nowhere");
 }
 
 }  // namespace

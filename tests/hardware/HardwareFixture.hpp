@@ -1,18 +1,15 @@
-// A session of two displays, seen as hardware.
+// HardwareFixture is a session of two displays with the content of its hardware panel.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include "showroom/hardware/HardwareContent.hpp"
-#include "showroom/window/DeskSession.hpp"
+#include "tests/window/SessionFixture.hpp"
 
 namespace orvane::showroom {
 
-class HardwareFixture : public testing::Test {
+class HardwareFixture : public SessionFixture {
  protected:
   [[nodiscard]] HardwareContent content() const { return session.hardwareContent(false); }
 
-  DeskSession session{2};
   Hardware& hardware = session.hardware();
   desk::Machine& machine = session.machine();
 };

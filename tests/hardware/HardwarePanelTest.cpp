@@ -1,4 +1,4 @@
-// The hardware panel, worked without a window.
+// The hardware panel without its window.
 #include <set>
 
 #include "desk/hand/FindControl.hpp"
@@ -41,7 +41,7 @@ class HardwarePanelTest : public HardwareFixture {
   HardwarePanelHost panel{hardware};
 };
 
-TEST_F(HardwarePanelTest, EveryControlHasALabelOfItsOwn) {
+TEST_F(HardwarePanelTest, EveryControlHasAUniqueLabel) {
   hardware.attachDisplay();
   show();
   std::set<std::string> labels;
@@ -64,13 +64,13 @@ TEST_F(HardwarePanelTest, DisplaysAreAttachedDetachedAndMadeMain) {
   EXPECT_FALSE(control("Detach Built-in Display"));
 }
 
-TEST_F(HardwarePanelTest, NothingMoreCanBeAttachedWhenAllAreThere) {
+TEST_F(HardwarePanelTest, AtMostFourDisplaysCanBeAttached) {
   click("Attach a display");
   click("Attach a display");
   EXPECT_FALSE(control("Attach a display")->isEnabled);
 }
 
-TEST_F(HardwarePanelTest, WithoutAnyDisplayOneCanBeAttachedAgain) {
+TEST_F(HardwarePanelTest, TheLastDisplayCanBeDetachedAndOneAttachedAgain) {
   click("Detach Built-in Display");
   click("Detach Right Display");
   EXPECT_TRUE(machine.displays.isEmpty());
@@ -79,7 +79,7 @@ TEST_F(HardwarePanelTest, WithoutAnyDisplayOneCanBeAttachedAgain) {
   EXPECT_EQ(machine.displays.count(), 1U);
 }
 
-TEST_F(HardwarePanelTest, TheDockFollowsItsRows) {
+TEST_F(HardwarePanelTest, TheDockGroupSetsThePreferences) {
   click("Edge: Left");
   EXPECT_EQ(machine.dock.edge(), desk::DockEdge::left);
   EXPECT_TRUE(control("Edge: Left")->isSelected);
@@ -91,7 +91,7 @@ TEST_F(HardwarePanelTest, TheDockFollowsItsRows) {
   EXPECT_EQ(control("Hide the Dock automatically")->value, "1");
 }
 
-TEST_F(HardwarePanelTest, TheMacFollowsItsRows) {
+TEST_F(HardwarePanelTest, TheMacGroupSetsTheSystem) {
   EXPECT_EQ(control("Accessibility permission")->value, "1");
   click("Accessibility permission");
   EXPECT_FALSE(machine.permission.isTrusted());
@@ -106,7 +106,7 @@ TEST_F(HardwarePanelTest, TheMacFollowsItsRows) {
   EXPECT_TRUE(control("Language: 中文")->isSelected);
 }
 
-TEST_F(HardwarePanelTest, TheApplicationIsStartedAndEnded) {
+TEST_F(HardwarePanelTest, TheApplicationIsLaunchedAndEnded) {
   click("Open Orvane again");
   EXPECT_TRUE(hardware.isRunning());
   click("Crash Orvane");
@@ -118,13 +118,13 @@ TEST_F(HardwarePanelTest, TheApplicationIsStartedAndEnded) {
   EXPECT_FALSE(hardware.isRunning());
 }
 
-TEST_F(HardwarePanelTest, TheZonesAreShownOrNot) {
+TEST_F(HardwarePanelTest, TheZonesCanBeHidden) {
   EXPECT_TRUE(session.scene().showsZones);
   click("Show trigger zones");
   EXPECT_FALSE(session.scene().showsZones);
 }
 
-TEST_F(HardwarePanelTest, IsWorkedByTheKeyboardAlone) {
+TEST_F(HardwarePanelTest, CanBeOperatedWithTheKeyboard) {
   for (int time = 0; time < 100 && panel.host().focusedId() != control("Edge: Left")->id; ++time) {
     ASSERT_TRUE(panel.keyDown({ui::Key::tab, {}, {}}));
   }
@@ -133,14 +133,12 @@ TEST_F(HardwarePanelTest, IsWorkedByTheKeyboardAlone) {
   EXPECT_EQ(machine.dock.edge(), desk::DockEdge::left);
 }
 
-TEST_F(HardwarePanelTest, CutsNoTextInAnyState) {
+TEST_F(HardwarePanelTest, TruncatesNoTextInAnyState) {
   hardware.attachDisplay();
   hardware.attachDisplay();
   for (std::size_t language = 0; language < Hardware::languageLists().size(); ++language) {
     hardware.setLanguageList(language);
-    session.application().model().refreshDisplays();
-    session.application().model().toggleSelectedDisplayLock();
-    machine.runDue();
+    pinOrUnpin();
     show();
     EXPECT_EQ(drawing().find("\u2026"), std::string::npos) << drawing();
   }
@@ -149,14 +147,12 @@ TEST_F(HardwarePanelTest, CutsNoTextInAnyState) {
 TEST_F(HardwarePanelTest, FitsIntoTheUsualWindowWithAllDisplays) {
   hardware.attachDisplay();
   hardware.attachDisplay();
-  session.application().model().refreshDisplays();
-  session.application().model().toggleSelectedDisplayLock();
-  machine.runDue();
+  pinOrUnpin();
   show();
   EXPECT_LE(panel.host().sizeThatFits({HardwarePanel::width, std::nullopt}).height, 800);
 }
 
-TEST_F(HardwarePanelTest, ScrollsWhereItsPlaceIsTooLow) {
+TEST_F(HardwarePanelTest, ScrollsWhenItIsTooLow) {
   panel.setSize({HardwarePanel::width, 400});
   show();
   panel.scrollBy(-50);
@@ -174,7 +170,7 @@ TEST_F(HardwarePanelTest, ScrollsWhereItsPlaceIsTooLow) {
   EXPECT_DOUBLE_EQ(panel.scrolled(), 0);
 }
 
-TEST_F(HardwarePanelTest, TheKeyboardBringsWhatItReachesIntoSight) {
+TEST_F(HardwarePanelTest, ScrollsToTheFocusedControl) {
   panel.setSize({HardwarePanel::width, 300});
   show();
   const std::size_t count = controls().size();
@@ -189,7 +185,7 @@ TEST_F(HardwarePanelTest, TheKeyboardBringsWhatItReachesIntoSight) {
   }
 }
 
-TEST_F(HardwarePanelTest, AnEqualContentAsksForNoDrawing) {
+TEST_F(HardwarePanelTest, AnEqualContentRequestsNoRedraw) {
   const std::int64_t before = panel.changeCount();
   show();
   session.advance(desk::Clock::nanosecondsPerSecond);
@@ -200,7 +196,7 @@ TEST_F(HardwarePanelTest, AnEqualContentAsksForNoDrawing) {
 
 class HardwarePanelPictureTest : public desk::PixelFixture {};
 
-TEST_F(HardwarePanelPictureTest, FillsItsPlaceAndFollowsTheAppearance) {
+TEST_F(HardwarePanelPictureTest, FillsItsFrameAndFollowsTheAppearance) {
   DeskSession session{2};
   HardwarePanelHost panel{session.hardware()};
   panel.setSize({320, 800});

@@ -1,5 +1,4 @@
-// A few sheets of the gallery, small, against their kept versions. To renew those after a wanted
-// change, run with ORVANE_RENEW_PICTURES=1 and look at what changed.
+// Some sheets of the gallery against kept pictures.
 #include <algorithm>
 #include <filesystem>
 #include <string>
@@ -17,14 +16,14 @@ namespace {
 
 class ComponentPictureTest : public desk::MachineFixture {
  protected:
-  /// The items of a sheet with these captions, over one wallpaper, at one pixel to the point.
+  /// The items with these captions, over one wallpaper, at one pixel per point.
   void expectSheet(const std::string& name, const std::vector<std::string>& captions, bool isDark,
                    desk::Appearance::Wallpaper wallpaper) {
     GallerySheet sheet = gallerySheetNamed(name);
     std::erase_if(sheet.items, [&](const GalleryItem& item) {
       return std::ranges::find(captions, item.caption) == captions.end();
     });
-    ASSERT_EQ(sheet.items.size(), captions.size()) << "a caption is not there any more";
+    ASSERT_EQ(sheet.items.size(), captions.size()) << "a caption is missing";
     sheet.columns = std::min<std::size_t>(sheet.items.size(), 4);
     expectPainted(sheet, {.isDark = isDark, .scale = 1, .wallpapers = {wallpaper}}, name);
   }
@@ -45,8 +44,7 @@ class ComponentPictureTest : public desk::MachineFixture {
     desk::DrawingResources resources;
     desk::addApplicationImages(resources.images);
     const desk::SurfacePointer picture = paintSheet(sheet, style, machine, resources);
-    EXPECT_EQ(desk::differenceFromKept(picture.get(), std::filesystem::path(ORVANE_SOURCE_FOLDER) /
-                                                          "tests/pictures" / (fileName + ".png")),
+    EXPECT_EQ(desk::differenceFromKept(picture.get(), "tests/pictures/" + fileName + ".png"),
               std::nullopt);
   }
 };

@@ -1,4 +1,4 @@
-// The comparison of pictures can fail, and fails for no other reason than what is seen.
+// The comparison of pictures.
 #include <cstdlib>
 #include <filesystem>
 
@@ -26,7 +26,7 @@ SurfacePointer grey(int width, int height, double level, int x = -1, double pixe
 
 constexpr double step = 1.0 / 255;
 
-/// While it lives, kept pictures are compared even where they are being renewed.
+/// Disables the renewal of kept pictures during its lifetime.
 class NoRenewing {
  public:
   NoRenewing() { unsetenv(variable); }
@@ -47,7 +47,7 @@ TEST(KeptPictureTest, EqualPicturesDoNotDiffer) {
   EXPECT_EQ(pictureDifference(grey(4, 3, 0.5).get(), grey(4, 3, 0.5).get()), std::nullopt);
 }
 
-TEST(KeptPictureTest, OnePixelInOneColourIsADifference) {
+TEST(KeptPictureTest, OnePixelInOneComponentIsADifference) {
   const double level = 100 * step;
   const auto pixel = grey(4, 3, level, 2, 103 * step);
   EXPECT_EQ(pictureDifference(pixel.get(), grey(4, 3, level).get()),

@@ -1,5 +1,5 @@
-# Runs the program as a person in a terminal does, with scripts that fail in each way, and checks
-# exit status, standard output and standard error to the byte.
+# Runs the program with scripts that fail in each way, and checks exit status, standard output and
+# standard error exactly.
 # Run as: cmake -DPROGRAM=... -DFOLDER=... -P CheckProgram.cmake
 file(MAKE_DIRECTORY "${FOLDER}")
 
@@ -18,7 +18,7 @@ function(check status output errors)
      OR NOT real_errors STREQUAL errors)
     message(SEND_ERROR "${ARGN}: ended with ${real_status}, not ${status}\n"
                        "printed\n${real_output}instead of\n${output}"
-                       "complained\n${real_errors}instead of\n${errors}")
+                       "with the errors\n${real_errors}instead of\n${errors}")
   endif()
 endfunction()
 
@@ -32,7 +32,7 @@ check(1 "one\ntwo\n"
 set(input "echo one\nexpect clock.now 1\nfly\necho two\n")
 check(2 "one\n" "-:2: expected clock.now = 1, got 0\n-:3: unknown command \"fly\"\n" script -)
 
-# Each file has a machine of its own; the worst status counts.
+# Each file runs on its own machine; the highest status counts.
 file(WRITE "${FOLDER}/good.desk" "expect clock.now 0\nadvance 1.5\nshow clock\n")
 file(WRITE "${FOLDER}/bad.desk" "expect clock.now 7\n")
 file(WRITE "${FOLDER}/broken.desk" "\n\nadvance\n")

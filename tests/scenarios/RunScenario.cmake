@@ -1,12 +1,7 @@
-# Runs one scenario twice: every expectation must hold, nothing may be complained about, the output
-# must be that of the file NAME.out beside it (nothing without one), and both runs must agree.
-# With CURSOR the script begins by setting it so, and its lines are numbered from there.
+# Runs one scenario twice: every expectation must hold, nothing may be printed on the error stream,
+# and both runs must print the same, which is the content of NAME.out if this file exists.
+# With CURSOR, the script begins by setting the cursor, and its line numbers are one higher.
 # Run as: cmake -DPROGRAM=... -DSCENARIO=... [-DCURSOR=free -DFOLDER=...] -P RunScenario.cmake
-set(wanted "")
-string(REGEX REPLACE "\\.desk$" ".out" wanted_file "${SCENARIO}")
-if(EXISTS "${wanted_file}")
-  file(READ "${wanted_file}" wanted)
-endif()
 set(script "${SCENARIO}")
 if(DEFINED CURSOR)
   get_filename_component(name "${SCENARIO}" NAME)
@@ -18,12 +13,19 @@ foreach(turn first second)
   execute_process(
     COMMAND "${PROGRAM}" script "${script}"
     RESULT_VARIABLE status
-    OUTPUT_VARIABLE output
+    OUTPUT_VARIABLE ${turn}_output
     ERROR_VARIABLE errors)
   if(NOT status EQUAL 0 OR NOT errors STREQUAL "")
     message(FATAL_ERROR "the ${turn} run ended with ${status}\n${errors}")
   endif()
-  if(NOT output STREQUAL wanted)
-    message(FATAL_ERROR "the ${turn} run printed\n${output}instead of\n${wanted}")
+endforeach()
+set(expected "${first_output}")
+string(REGEX REPLACE "\\.desk$" ".out" expected_file "${SCENARIO}")
+if(EXISTS "${expected_file}")
+  file(READ "${expected_file}" expected)
+endif()
+foreach(turn first second)
+  if(NOT ${turn}_output STREQUAL expected)
+    message(FATAL_ERROR "the ${turn} run printed\n${${turn}_output}instead of\n${expected}")
   endif()
 endforeach()

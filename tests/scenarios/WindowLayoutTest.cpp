@@ -1,6 +1,5 @@
-// Where the texts of every window are, in both languages, against the kept list. A walk through the
-// real application is compared with the same list. To renew it after a wanted change, run with
-// ORVANE_RENEW_PICTURES=1 and look at what changed.
+// The positions of all texts in every window, in both languages, against a kept list, with which
+// the Mac half is compared, too. ORVANE_RENEW_PICTURES=1 renews it; review the changes.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -25,7 +24,7 @@ namespace {
 
 class WindowLayoutTest : public testing::Test {
  protected:
-  /// The screen on which the walk is made.
+  /// The screen of the Mac half's test.
   WindowLayoutTest() {
     attach(scope_.machine(), displayOf(1, "X screen", {{0, 0}, {1440, 900}}));
     application.launch();
@@ -71,7 +70,7 @@ class WindowLayoutTest : public testing::Test {
   ApplicationHost application{scope_.machine()};
 };
 
-TEST_F(WindowLayoutTest, EveryTextIsWhereItWas) {
+TEST_F(WindowLayoutTest, TextsKeepTheirPositions) {
   const std::string texts =
       textsOfWindows(OrvaneLanguage::english, "en") + textsOfWindows(OrvaneLanguage::chinese, "zh");
   const std::filesystem::path file(ORVANE_KEPT_LAYOUT);

@@ -73,7 +73,7 @@ TEST(EventPathSpeedTest, AMissOverFourZonesCostsAtMostTwiceTheBareLoopAndUnder25
   EXPECT_LT(filter, 25);
 }
 
-TEST(EventPathSpeedTest, TheSimulatedMacCarriesAMillionMovementsASecondThroughAGuardedEdge) {
+TEST(EventPathSpeedTest, TheSimulatedMacProcessesAMillionMovementsASecondAtAGuardedEdge) {
   GuardedDesk desk(2);
   desk.machine().mouse.moveTo(desk.placeOutsideZones());
   double distance = 3;
@@ -87,7 +87,7 @@ TEST(EventPathSpeedTest, TheSimulatedMacCarriesAMillionMovementsASecondThroughAG
   });
   RecordProperty("inTheOpenNanoseconds", std::to_string(inTheOpen));
   RecordProperty("againstTheEdgeNanoseconds", std::to_string(againstTheEdge));
-  EXPECT_GT(desk.guard().snapshot().blockedCount, 1'000'000) << "the edge was guarded all along";
+  EXPECT_GT(desk.guard().snapshot().blockedCount, 1'000'000) << "the edge was guarded throughout";
   EXPECT_EQ(desk.machine().dock.revealCount(3), 0);
   EXPECT_LT(inTheOpen, 1000);
   EXPECT_LT(againstTheEdge, 1000);

@@ -53,7 +53,7 @@ TEST_F(KitSpeed, FromAChangeToTheLayoutOfAPanelTakesLessThanHalfAMillisecond) {
     host.layoutIfNeeded();
   });
   RecordProperty("updateMilliseconds", std::to_string(update));
-  EXPECT_GE(revision - before, rounds * 20) << "the panel was described each time";
+  EXPECT_GE(revision - before, rounds * 20) << "the panel was rebuilt each time";
   EXPECT_LT(update, 0.5);
 }
 

@@ -1,5 +1,5 @@
-// ApplicationFixture gives each test a machine on which the whole application can be launched, and
-// a hand that works it.
+// ApplicationFixture gives each test a machine for the whole application, and a hand that operates
+// it.
 #pragma once
 
 #include "desk/application/ApplicationHost.hpp"
@@ -10,7 +10,7 @@ namespace orvane {
 /// The machine has no display and no permission, and the application does not run yet.
 class ApplicationFixture : public desk::HandFixture {
  public:
-  /// What is left of the application is looked for when it has ended.
+  /// Ends the application before MachineFixture checks for leaks.
   ~ApplicationFixture() override { application.crash(); }
 
  protected:
@@ -18,7 +18,7 @@ class ApplicationFixture : public desk::HandFixture {
 
   [[nodiscard]] OrvaneModel& model() { return application.model(); }
 
-  /// The accessibility press of a control; false when there is none or it is disabled.
+  /// Presses a control as assistive programs do; false if it is missing or disabled.
   bool press(const std::string& label, const std::string& surface) {
     return !hand.press({label, surface});
   }

@@ -1,4 +1,4 @@
-// Contrast as WCAG 2.1 defines it, for tests that measure what can be read.
+// Contrast as defined by WCAG 2.1.
 #pragma once
 
 #include <algorithm>
@@ -11,7 +11,7 @@
 
 namespace orvane {
 
-/// A component from 0 to 1 in sRGB as light.
+/// The linear light of an sRGB component from 0 to 1.
 inline double linear(double component) {
   return component <= 0.04045 ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
 }
@@ -26,8 +26,8 @@ inline double contrast(double first, double second) {
   return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
-/// A pixel of an ARGB32 or RGB24 surface as it is stored: premultiplied in the former, of no
-/// meaningful alpha in the latter. The surface must have been flushed.
+/// The stored pixel of an ARGB32 surface (premultiplied) or RGB24 surface (alpha is undefined). The
+/// surface must be flushed.
 inline ui::Rgba pixelAt(cairo_surface_t* surface, int x, int y) {
   const unsigned char* const row =
       cairo_image_surface_get_data(surface) + y * cairo_image_surface_get_stride(surface);

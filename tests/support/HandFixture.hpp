@@ -1,4 +1,4 @@
-// HandFixture gives each test a hand on its machine, and the window server that the hand works on.
+// HandFixture gives each test a hand on its machine and access to the open windows.
 #pragma once
 
 #include <memory>
@@ -24,11 +24,11 @@ class HandFixture : public MachineFixture {
   [[nodiscard]] static bool isOpen(const std::string& surface) {
     return Surfaces(server()).isThere(surface);
   }
-  /// What a screen reader finds there, nothing when it is not open.
+  /// The semantics tree of a surface; empty if it is not open.
   [[nodiscard]] static ui::SemanticsNode tree(const std::string& surface) {
     return Surfaces(server()).tree(surface).value_or(ui::SemanticsNode{});
   }
-  /// All that the window draws now, one line for each call.
+  /// The drawing calls of a window, one line each.
   [[nodiscard]] static std::vector<std::string> drawnLines(const std::string& surface) {
     const auto shown = window(surface);
     if (shown == nullptr || shown->content == nullptr) {
@@ -45,7 +45,7 @@ class HandFixture : public MachineFixture {
   void moveTo(CGPoint place) { hand.moveTo(place); }
   void release() { hand.releaseButton(); }
   void click(CGPoint place) { hand.click(place); }
-  /// Whether anybody did anything with the key.
+  /// Returns whether the key was handled.
   bool key(ui::Key name, bool shift = false) {
     return hand.key({name, {shift, false, false, false}, {}});
   }

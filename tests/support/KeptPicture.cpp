@@ -1,4 +1,4 @@
-// Compares every component of every pixel.
+// Compares all components of all pixels.
 #include "tests/support/KeptPicture.hpp"
 
 #include <algorithm>
@@ -64,7 +64,8 @@ std::optional<std::string> pictureDifference(cairo_surface_t* shown, cairo_surfa
 }
 
 std::optional<std::string> differenceFromKept(cairo_surface_t* shown,
-                                              const std::filesystem::path& file) {
+                                              const std::filesystem::path& name) {
+  const std::filesystem::path file = std::filesystem::path(ORVANE_SOURCE_FOLDER) / name;
   if (std::getenv("ORVANE_RENEW_PICTURES") != nullptr) {
     return writePng(shown, file) ? std::nullopt : std::optional("cannot write " + file.string());
   }

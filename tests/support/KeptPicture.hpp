@@ -1,5 +1,5 @@
-// Compares a picture with the reference picture in the project. With ORVANE_RENEW_PICTURES set in
-// the environment, writes new reference pictures instead; review what changed.
+// Compares pictures with reference pictures. With ORVANE_RENEW_PICTURES set in the environment,
+// writes new reference pictures instead; review the changes.
 #pragma once
 
 #include <filesystem>
@@ -15,9 +15,10 @@ namespace orvane::desk {
 [[nodiscard]] std::optional<std::string> pictureDifference(cairo_surface_t* shown,
                                                            cairo_surface_t* kept);
 
-/// The same for the kept file. When it differs or does not exist, the picture is written to the
-/// folder for temporary files, and the message names it.
+/// The same for a file, whose name may be relative to the project's root. If the pictures differ or
+/// the file does not exist, the picture is written to the folder for temporary files, which the
+/// message names.
 [[nodiscard]] std::optional<std::string> differenceFromKept(cairo_surface_t* shown,
-                                                            const std::filesystem::path& file);
+                                                            const std::filesystem::path& name);
 
 }  // namespace orvane::desk

@@ -1,5 +1,5 @@
-// MachineFixture gives each test its own machine, with a running process unless it wants none, and
-// checks at the end that no Core Foundation object was leaked or misused.
+// MachineFixture gives each test its own machine, by default with a running process, and checks at
+// the end that no Core Foundation object was leaked or misused.
 #pragma once
 
 #include <gtest/gtest.h>

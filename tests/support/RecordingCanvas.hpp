@@ -1,4 +1,4 @@
-// A canvas that records every call as a line of text.
+// RecordingCanvas records every call as a line of text.
 #pragma once
 
 #include <string>

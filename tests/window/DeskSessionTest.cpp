@@ -1,4 +1,4 @@
-// The desk that someone plays with, without a window around it.
+// The interactive desk without its window.
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
 #include "showroom/window/DeskSession.hpp"
@@ -9,7 +9,7 @@ namespace {
 
 class DeskSessionTest : public SessionFixture {};
 
-TEST_F(DeskSessionTest, BeginsWithDisplaysPermissionAndTheApplicationUnlocked) {
+TEST_F(DeskSessionTest, BeginsWithDisplaysAPermissionAndAnUnlockedApplication) {
   EXPECT_EQ(session.machine().displays.count(), 2U);
   EXPECT_TRUE(session.machine().permission.isTrusted());
   ASSERT_TRUE(session.application().isRunning());
@@ -17,23 +17,10 @@ TEST_F(DeskSessionTest, BeginsWithDisplaysPermissionAndTheApplicationUnlocked) {
   EXPECT_EQ(session.pointerDisplayNumber(), 1U);
 }
 
-TEST(DeskSessionSizeTest, HasAtLeastOneDisplayAndNoMoreThanThereAre) {
+TEST(DeskSessionSizeTest, HasBetweenOneAndFourDisplays) {
   EXPECT_EQ(DeskSession(0).machine().displays.count(), 1U);
   EXPECT_EQ(DeskSession(3).machine().displays.count(), 3U);
   EXPECT_EQ(DeskSession(99).machine().displays.count(), standardDisplayCount);
-}
-
-TEST_F(DeskSessionTest, LetsTheDockFollowThePointerUntilItIsPinned) {
-  pressRightDisplay(3);
-  EXPECT_EQ(dockDisplay(), 2U);
-  moveTo(500, 600);
-  session.movePointerBy(0, 60);
-  session.movePointerBy(0, 60);
-  ASSERT_EQ(dockDisplay(), 1U);
-  pinOrUnpin();
-  pressRightDisplay(30);
-  EXPECT_EQ(dockDisplay(), 1U);
-  EXPECT_EQ(session.application().snapshot().guard.blockedCount, 30);
 }
 
 TEST_F(DeskSessionTest, MarksAMovementThatWasMovedBackForAShortTime) {
@@ -63,18 +50,9 @@ TEST_F(DeskSessionTest, MarksWhereTheMovementOfAFreeCursorWasMovedBackTo) {
   EXPECT_DOUBLE_EQ(session.movedBack()->to.y, session.movedBack()->from.y - 12);
 }
 
-TEST_F(DeskSessionTest, CountsEventsPerSecond) {
-  for (int movement = 0; movement < 25; ++movement) {
-    session.movePointerBy(1, 0);
-  }
-  EXPECT_EQ(session.eventsPerSecond(), 25);
-  session.advance(second);
-  EXPECT_EQ(session.eventsPerSecond(), 0);
-}
-
-TEST_F(DeskSessionTest, ChangesByItselfOnlyWhileSomethingMovesOrSomethingIsDue) {
+TEST_F(DeskSessionTest, KnowsWhenThePictureNextChanges) {
   session.advance(2 * second);
-  // The application looks after its icon once a second.
+  // The application has a timer of one second.
   EXPECT_EQ(session.nanosecondsToNextChange(), second);
   session.application().terminate();
   const std::int64_t untilMinute = session.nanosecondsToNextChange();
@@ -91,7 +69,7 @@ TEST_F(DeskSessionTest, ChangesByItselfOnlyWhileSomethingMovesOrSomethingIsDue) 
 }
 
 TEST_F(DeskSessionTest, KeysGoToTheOpenMenuAndToTheKeyWindow) {
-  EXPECT_FALSE(session.hand().key({ui::Key::down, {}, {}})) << "nobody is there";
+  EXPECT_FALSE(session.hand().key({ui::Key::down, {}, {}})) << "there is no window";
   desk::WindowServer& server = desk::WindowServer::current();
   ASSERT_TRUE(server.menus.openStatusMenu(0));
   for (int time = 0; time < 3; ++time) {
@@ -101,26 +79,17 @@ TEST_F(DeskSessionTest, KeysGoToTheOpenMenuAndToTheKeyWindow) {
   EXPECT_TRUE(session.application().model().isGuardRunning());
   EXPECT_TRUE(session.hand().key({ui::Key::escape, {}, {}}));
   EXPECT_FALSE(server.menus.isOpen());
-  EXPECT_FALSE(session.hand().key({ui::Key::escape, {}, {}})) << "now it gives the mouse back";
+  EXPECT_FALSE(session.hand().key({ui::Key::escape, {}, {}})) << "nothing handles it any more";
   session.application().reopen();
   EXPECT_TRUE(session.hand().key({ui::Key::tab, {}, {}}));
 }
 
-TEST_F(DeskSessionTest, TheButtonOpensTheMenuUnderThePointer) {
-  const CGRect item = desk::StatusBar::itemFrame(session.machine().displays.globalFrames()[1]);
-  moveTo(CGRectGetMidX(item), CGRectGetMidY(item));
-  session.hand().pressButton();
-  session.hand().releaseButton();
-  EXPECT_TRUE(desk::WindowServer::current().menus.isStatusMenuOpen());
-  EXPECT_EQ(desk::WindowServer::current().menus.displayIndex(), 1U);
-}
-
-TEST_F(DeskSessionTest, SaysHowToGetTheMouseBackWhileItIsHeld) {
+TEST_F(DeskSessionTest, ExplainsHowToReleaseTheMouse) {
   EXPECT_NE(session.hardwareContent(true).hint.find("Escape"), std::string::npos);
   EXPECT_EQ(session.hardwareContent(false).hint.find("Escape"), std::string::npos);
 }
 
-TEST_F(DeskSessionTest, SurvivesMovementsWithoutAnyDisplay) {
+TEST_F(DeskSessionTest, SurvivesMovementsWithoutADisplay) {
   ASSERT_FALSE(session.machine().displays.detach(1));
   ASSERT_FALSE(session.machine().displays.detach(2));
   session.machine().runDue();

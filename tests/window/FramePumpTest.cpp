@@ -1,4 +1,4 @@
-// The pump's promises that do not depend on how fast the computer is.
+// Properties of the pump that do not depend on the computer's speed.
 #include <chrono>
 #include <thread>
 
@@ -10,7 +10,7 @@ namespace {
 
 class FramePumpTest : public SessionFixture {};
 
-TEST_F(FramePumpTest, NeverTakesTheMachineBackAndGivesItTime) {
+TEST_F(FramePumpTest, AdvancesTheMachineMonotonically) {
   FramePump pump(60);
   const std::int64_t before = session.machine().clock.now();
   std::int64_t last = before;
@@ -22,7 +22,7 @@ TEST_F(FramePumpTest, NeverTakesTheMachineBackAndGivesItTime) {
   EXPECT_GT(last, before);
 }
 
-TEST_F(FramePumpTest, DrawsTheFirstPictureAtOnceAndTheNextOneAFrameLater) {
+TEST_F(FramePumpTest, SchedulesTheFirstPictureImmediatelyAndTheNextOneAFrameLater) {
   // One picture a second, so that no computer is too slow for this test.
   FramePump pump(1);
   EXPECT_TRUE(pump.isTimeToDraw());
@@ -36,7 +36,7 @@ TEST_F(FramePumpTest, DrawsTheFirstPictureAtOnceAndTheNextOneAFrameLater) {
   EXPECT_LE(wait, 1000);
 }
 
-TEST_F(FramePumpTest, TheTimeThatAPictureTakesDoesNotDelayTheNextOne) {
+TEST_F(FramePumpTest, TheDrawingTimeDoesNotDelayTheNextPicture) {
   FramePump pump(2);
   pump.beginPicture();
   std::this_thread::sleep_for(std::chrono::milliseconds(200));
@@ -45,7 +45,7 @@ TEST_F(FramePumpTest, TheTimeThatAPictureTakesDoesNotDelayTheNextOne) {
   EXPECT_LE(pump.millisecondsToWait(session, true), 300);
 }
 
-TEST_F(FramePumpTest, APictureThatComesLateInItsFrameKeepsTheGrid) {
+TEST_F(FramePumpTest, APictureThatStartsLateInItsFrameKeepsTheGrid) {
   FramePump pump(4);
   std::this_thread::sleep_for(std::chrono::milliseconds(100));
   pump.beginPicture();

@@ -1,4 +1,4 @@
-// The computer's keys on the simulated Mac.
+// The translation of the computer's keys.
 #include <gtest/gtest.h>
 
 #include "Orvane/platform/Quartz.hpp"
@@ -14,7 +14,7 @@ SDL_Keysym pressed(SDL_Keycode code, int modifiers = KMOD_NONE) {
   return keysym;
 }
 
-TEST(KeyTranslationTest, KnowsTheKeysThatWorkMenusAndPanels) {
+TEST(KeyTranslationTest, TranslatesTheKeysForMenusAndPanels) {
   EXPECT_EQ(keyEventOf(pressed(SDLK_TAB))->key, ui::Key::tab);
   EXPECT_EQ(keyEventOf(pressed(SDLK_RETURN))->key, ui::Key::enter);
   EXPECT_EQ(keyEventOf(pressed(SDLK_KP_ENTER))->key, ui::Key::enter);
@@ -26,7 +26,7 @@ TEST(KeyTranslationTest, KnowsTheKeysThatWorkMenusAndPanels) {
   EXPECT_EQ(keyEventOf(pressed(SDLK_DOWN))->key, ui::Key::down);
 }
 
-TEST(KeyTranslationTest, ACharacterIsNamedByWhatItTypesAlone) {
+TEST(KeyTranslationTest, ACharacterKeyIgnoresItsModifiers) {
   const auto key = keyEventOf(pressed(SDLK_w, KMOD_RGUI));
   ASSERT_TRUE(key);
   EXPECT_EQ(key->key, ui::Key::character);
@@ -34,12 +34,12 @@ TEST(KeyTranslationTest, ACharacterIsNamedByWhatItTypesAlone) {
   EXPECT_EQ(key->modifiers, (ui::KeyModifiers{false, false, false, true}));
 }
 
-TEST(KeyTranslationTest, ModifiersAloneAndKeysOfNoUseAreNoKeys) {
+TEST(KeyTranslationTest, ModifiersAndUnusedKeysAreIgnored) {
   EXPECT_FALSE(keyEventOf(pressed(SDLK_LALT, KMOD_LALT)));
   EXPECT_FALSE(keyEventOf(pressed(SDLK_F5)));
 }
 
-TEST(KeyTranslationTest, TheFourModifiersAreTheMacsOwn) {
+TEST(KeyTranslationTest, TranslatesTheFourModifiers) {
   EXPECT_EQ(modifierFlagsOf(KMOD_NONE), 0U);
   EXPECT_EQ(modifierFlagsOf(KMOD_LALT), std::uint64_t{kCGEventFlagMaskAlternate});
   EXPECT_EQ(modifierFlagsOf(KMOD_RCTRL), std::uint64_t{kCGEventFlagMaskControl});

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-# Drives the real window under Xvfb with xdotool, as a hand on a real mouse and keyboard would, and
-# sees by the screen's pixels and by the dump on exit what came of it.
+# Drives the real window under Xvfb with xdotool's mouse and keyboard events, and checks the screen's
+# pixels and the dump on exit.
 import argparse
 import json
 import os
@@ -16,17 +16,16 @@ import unittest
 DESK = XVFB = XDOTOOL = ""
 SCREEN = (1600, 900)
 WINDOW = (1480, 800)
-# Where the tiles are on the shelf: the first one's middle, in points from the Dock's middle and
-# from the display's lower edge.
+# The middle of the Dock's first tile, in points from the Dock's middle and the display's lower edge.
 FIRST_TILE = (-239, 35)
 # The middle of the status item, in points from the display's upper right corner.
 STATUS_ITEM = (-206, 12)
-# Where the window stands on the screen.
+# The window's top left corner on the screen.
 CORNER = tuple((SCREEN[index] - WINDOW[index]) // 2 for index in (0, 1))
-# Places of the hardware panel's controls in the window, with two displays.
+# The hardware panel's controls in the window, with two displays.
 PANEL = {"attach": (1404, 127), "left": (1296, 188), "hide": (1439, 219), "dark": (1407, 309),
          "black": (1384, 340), "zones": (1439, 463)}
-# The colour in the upper part of the first tile, a blue that nothing else on the desk has.
+# The colour of the upper part of the first tile, unique on the desk.
 TILE_BLUE = (100, 176, 246)
 
 
@@ -49,7 +48,7 @@ class Screen:
         self.process.wait(10)
 
     def pixels(self):
-        """A function that gives the colour of a pixel of the screen as it is now."""
+        """A function from coordinates to the present colours of the screen."""
         data = (self.folder / "Xvfb_screen0").read_bytes()
         # The X window dump's header: 25 numbers of 32 bits, big-endian.
         header = struct.unpack(">25I", data[:100])
@@ -86,7 +85,6 @@ class RealWindow(unittest.TestCase):
         if display:
             environment["DISPLAY"] = display
         else:
-            # Whatever driver the computer has may try.
             environment.pop("SDL_VIDEODRIVER")
         return environment
 
@@ -97,7 +95,7 @@ class RealWindow(unittest.TestCase):
             env=self.environment(self.screen.name))
         self.wait_for(lambda: self.do("search", "--onlyvisible", "--name", "Orvane desk"),
                       "the window")
-        # The panel's ground at the window's lower right corner.
+        # The panel's background at the window's lower right corner.
         self.wait_for(lambda: min(self.screen.pixels()(1530, 840)) > 230, "the first picture")
         time.sleep(0.2)
 
@@ -107,7 +105,7 @@ class RealWindow(unittest.TestCase):
                 return
             self.assertIsNone(self.desk.poll(), "the desk has ended")
             time.sleep(0.1)
-        self.fail("waited in vain for " + what)
+        self.fail("timed out waiting for " + what)
 
     def do(self, *arguments):
         result = subprocess.run([XDOTOOL, *map(str, arguments)], capture_output=True, text=True,
@@ -138,10 +136,10 @@ class RealWindow(unittest.TestCase):
         self.click(CORNER[0] + PANEL[name][0], CORNER[1] + PANEL[name][1])
 
     def measure(self):
-        """Where the screens are in the window, by a session in which nothing is done."""
+        """Measures the screens in the window with a session without input."""
         self.start()
         self.layout = self.end()["window"]
-        # A screen without a history: nobody else has had its keyboard.
+        # A new screen, whose keyboard focus is untouched.
         self.screen.close()
         self.screen = Screen(self.path)
         self.addCleanup(self.screen.close)
@@ -152,7 +150,7 @@ class RealWindow(unittest.TestCase):
             time.sleep(0.15)
 
     def open_menu(self):
-        """Opens the menu of the status item on the first display. The mouse is held then."""
+        """Opens the status item's menu on the first display, which captures the mouse."""
         x, y, width, _ = self.layout["screens"][0]["pixels"]
         scale = self.layout["scale"]
         self.click(round(CORNER[0] + x + width + STATUS_ITEM[0] * scale),
@@ -160,7 +158,7 @@ class RealWindow(unittest.TestCase):
 
     @staticmethod
     def shows_dock(at, dump, display):
-        """Whether the first tile is to be seen where the Dock would be on that display."""
+        """Whether the Dock's first tile is visible on this display."""
         window = dump["window"]
         left, top = CORNER
         x, y, width, height = next(screen["pixels"] for screen in window["screens"]
@@ -185,7 +183,7 @@ class RealWindow(unittest.TestCase):
         self.move(0, 40, 15)
         time.sleep(0.8)
         taken_back = self.screen.pixels()
-        # It is pinned there from the menu, by the keyboard.
+        # Pin it there with the menu and the keyboard.
         self.keys("Escape")
         self.open_menu()
         self.keys("Down", "Down", "Down", "space", "Escape")
@@ -232,15 +230,15 @@ class RealWindow(unittest.TestCase):
         self.measure()
         self.start()
         self.open_menu()
-        # Preventing; the first Escape closes the menu, the second gives the mouse back.
+        # Prevent; the first Escape closes the menu, the second releases the mouse.
         self.keys("Down", "Down", "Return", "Escape", "Escape")
         for name in ("left", "hide", "zones", "dark", "black", "attach"):
             self.click_panel(name)
         dump = self.end()
         self.assertEqual([screen["display"] for screen in dump["window"]["screens"]], [1, 2, 3])
         self.assertTrue(dump["application"]["hidesDockOnAllDisplays"])
-        # At the left edge: the whole display on the left, and what of the right one is higher than
-        # the one in the middle.
+        # At the left edges: all of the left display, and the part of the right one that exceeds the
+        # middle one.
         self.assertEqual(dump["application"]["zones"], 2)
         self.assertEqual(dump["dock"]["edge"], "left")
         self.assertTrue(dump["dock"]["autohide"])
@@ -253,7 +251,7 @@ class RealWindow(unittest.TestCase):
         time.sleep(4)
         used = self.processor_seconds() - used
         dump = self.end()
-        # The first pictures, and one or two more if the minute ends meanwhile.
+        # The first pictures, and one or two more if a minute ends.
         self.assertLess(dump["drawnFrames"], 12)
         self.assertLess(used, 0.4)
 

@@ -1,4 +1,4 @@
-// A session of two displays, and what is often done in it.
+// SessionFixture gives each test a session with two displays.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,12 +11,12 @@ class SessionFixture : public testing::Test {
  protected:
   static constexpr std::int64_t second = desk::Clock::nanosecondsPerSecond;
 
-  /// Brings the pointer there by one movement of the hand.
+  /// Moves the pointer there with one movement.
   void moveTo(double x, double y) {
     const CGPoint place = session.machine().pointer.location();
     session.movePointerBy(x - place.x, y - place.y);
   }
-  /// Presses so often against the lower edge of the display on the right.
+  /// Presses `times` times against the lower edge of the right display.
   void pressRightDisplay(int times) {
     moveTo(1500, 600);
     for (int time = 0; time < times; ++time) {
@@ -25,15 +25,11 @@ class SessionFixture : public testing::Test {
     }
   }
 
-  /// Pins the Dock to the main display, or lets go of it, as the menu does.
+  /// Pins the Dock to the main display or unpins it, as the menu does.
   void pinOrUnpin() {
     session.application().model().refreshDisplays();
     session.application().model().toggleSelectedDisplayLock();
     session.machine().runDue();
-  }
-
-  [[nodiscard]] std::uint32_t dockDisplay() const {
-    return session.machine().dock.displayNumber().value_or(0);
   }
 
   DeskSession session{2};

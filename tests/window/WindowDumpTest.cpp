@@ -1,4 +1,4 @@
-// The dump of a session, as a program would read it.
+// The dump of a session, parsed as JSON.
 #include <nlohmann/json.hpp>
 
 #include "showroom/window/WindowDump.hpp"
@@ -14,7 +14,7 @@ class WindowDumpTest : public SessionFixture {
   }
 };
 
-TEST_F(WindowDumpTest, TellsWhereTheDockIsAndHowOftenItCameUp) {
+TEST_F(WindowDumpTest, HasTheDocksDisplayAndCounts) {
   EXPECT_EQ(dump()["dock"]["display"], 1);
   EXPECT_EQ(dump()["dock"]["reveals"], nlohmann::json::object());
   pressRightDisplay(2);
@@ -23,13 +23,13 @@ TEST_F(WindowDumpTest, TellsWhereTheDockIsAndHowOftenItCameUp) {
   EXPECT_EQ(dump()["pointer"]["display"], 2);
 }
 
-TEST_F(WindowDumpTest, TellsWhenTheWindowWasDrawn) {
+TEST_F(WindowDumpTest, HasTheFrames) {
   EXPECT_EQ(dump()["drawnFrames"], 2);
   EXPECT_EQ(dump()["framesPerSecond"], 60);
   EXPECT_EQ(dump()["shownMilliseconds"], (std::vector<double>{4, 20.5}));
 }
 
-TEST_F(WindowDumpTest, TellsWhatTheGuardDid) {
+TEST_F(WindowDumpTest, HasTheGuardsState) {
   EXPECT_EQ(dump()["application"]["guardRunning"], false);
   pinOrUnpin();
   pressRightDisplay(4);
@@ -39,14 +39,14 @@ TEST_F(WindowDumpTest, TellsWhatTheGuardDid) {
   EXPECT_EQ(application["blockedCount"], 4);
 }
 
-TEST_F(WindowDumpTest, TellsWhatIsOpen) {
+TEST_F(WindowDumpTest, HasTheOpenWindows) {
   EXPECT_EQ(dump()["application"]["windows"], nlohmann::json::array());
   session.application().reopen();
   session.advance(second);
   EXPECT_EQ(dump()["application"]["windows"], nlohmann::json::array({"main"}));
 }
 
-TEST_F(WindowDumpTest, TellsWhereTheScreensAreInTheWindow) {
+TEST_F(WindowDumpTest, HasTheScreensInPixels) {
   const nlohmann::json screens = dump()["window"]["screens"];
   ASSERT_EQ(screens.size(), 2U);
   EXPECT_LT(screens[0]["pixels"][0].get<int>() + screens[0]["pixels"][2].get<int>(),
@@ -54,7 +54,7 @@ TEST_F(WindowDumpTest, TellsWhereTheScreensAreInTheWindow) {
   EXPECT_LT(screens[1]["pixels"][0].get<int>() + screens[1]["pixels"][2].get<int>(), 1480);
 }
 
-TEST_F(WindowDumpTest, SaysSoWhenTheApplicationOrEveryDisplayIsGone) {
+TEST_F(WindowDumpTest, WorksWithoutApplicationAndDisplays) {
   session.application().crash();
   EXPECT_EQ(dump()["application"]["running"], false);
   ASSERT_FALSE(session.machine().displays.detach(1));

@@ -1,4 +1,4 @@
-// How the window is divided.
+// The division of the window.
 #include <gtest/gtest.h>
 
 #include "showroom/hardware/HardwarePanel.hpp"
@@ -7,7 +7,7 @@
 namespace orvane::showroom {
 namespace {
 
-TEST(WindowLayoutTest, GivesThePanelItsWidthAndTheDesktopTheRest) {
+TEST(WindowLayoutTest, ThePanelHasAFixedWidthAndTheDesktopTheRest) {
   for (const double ratio : {1.0, 1.5, 2.0}) {
     const WindowLayout layout(1400, 900, ratio);
     EXPECT_EQ(layout.panel.width, static_cast<int>(HardwarePanel::width * ratio));
@@ -18,7 +18,7 @@ TEST(WindowLayoutTest, GivesThePanelItsWidthAndTheDesktopTheRest) {
   }
 }
 
-TEST(WindowLayoutTest, ShowsDisplaysNoLargerThanTheyAre) {
+TEST(WindowLayoutTest, DoesNotEnlargeDisplays) {
   const std::vector<CGRect> frames{CGRectMake(0, 0, 640, 400)};
   EXPECT_DOUBLE_EQ(WindowLayout(3000, 2000, 1).desktopLayout(frames).scale(), 1);
   EXPECT_DOUBLE_EQ(WindowLayout(3000, 2000, 2).desktopLayout(frames).scale(), 2);

@@ -1,4 +1,4 @@
-// When the window is drawn anew, and when not.
+// When the window's picture is outdated.
 #include <functional>
 
 #include "desk/hand/FindControl.hpp"
@@ -26,10 +26,8 @@ TEST_F(WindowPictureTest, IsOutdatedBeforeTheFirstDrawingAndThenNot) {
   EXPECT_FALSE(isOutdated());
   session.advance(second);
   EXPECT_FALSE(isOutdated());
-  picture.forget();
+  picture.invalidate();
   EXPECT_TRUE(isOutdated());
-  draw();
-  EXPECT_EQ(picture.drawnCount(), 2);
 }
 
 TEST_F(WindowPictureTest, IsOutdatedByEveryMovement) {
@@ -76,7 +74,7 @@ TEST_F(WindowPictureTest, IsOutdatedByAPressOnAControlOfThePanel) {
   EXPECT_FALSE(session.hardware().showsZones());
 }
 
-TEST_F(WindowPictureTest, IsOutdatedByTheMinuteAndByHoldingTheMouse) {
+TEST_F(WindowPictureTest, IsOutdatedByTheMinuteAndByCapturingTheMouse) {
   draw();
   EXPECT_TRUE(picture.isOutdated(session, true));
   session.application().terminate();
@@ -85,20 +83,7 @@ TEST_F(WindowPictureTest, IsOutdatedByTheMinuteAndByHoldingTheMouse) {
   EXPECT_TRUE(isOutdated());
 }
 
-TEST_F(WindowPictureTest, IsNotOutdatedByAnApplicationThatOnlyLooksAfterItself) {
-  session.advance(second);
-  draw();
-  session.advance(5 * second);
-  EXPECT_FALSE(isOutdated());
-}
-
-TEST_F(WindowPictureTest, IsOutdatedByAWindowThatOpens) {
-  draw();
-  session.application().reopen();
-  EXPECT_TRUE(isOutdated());
-}
-
-TEST_F(WindowPictureTest, IsDrawnWheneverTheSessionSaysThatItChanges) {
+TEST_F(WindowPictureTest, IsOutdatedAtEveryStepOfAnAnimation) {
   session.hardware().setAutoHides(true);
   draw();
   ASSERT_EQ(session.nanosecondsToNextChange(), 0);

@@ -1,5 +1,5 @@
-// Glass and shadow come from the window server's own art, the surface from the main panel's parts.
-#include "showroom/gallery/SheetGround.hpp"
+// Uses the glass and shadow of windows, and the surfaces of the panels.
+#include "showroom/gallery/SheetBackground.hpp"
 
 #include "Orvane/panels/main/DockPanel.hpp"
 #include "Orvane/panels/main/OrvanePalette.hpp"
@@ -17,36 +17,36 @@ namespace orvane::showroom {
 
 namespace {
 
-constexpr ui::PaintShadow groundShadow{{0, 0, 0, 0.3}, 18, {0, 6}};
+constexpr ui::PaintShadow backgroundShadow{{0, 0, 0, 0.3}, 18, {0, 6}};
 constexpr double panelInset = 8;
 
-using Ground = GallerySheet::Ground;
+using Background = GallerySheet::Background;
 
-double cornerRadius(Ground ground) {
-  switch (ground) {
-    case Ground::window:
-    case Ground::panel:
-    case Ground::mainWindow:
+double cornerRadius(Background background) {
+  switch (background) {
+    case Background::window:
+    case Background::panel:
+    case Background::mainWindow:
       return OrvaneWindow::cornerRadius;
-    case Ground::settings:
-    case Ground::settingsWindow:
+    case Background::settings:
+    case Background::settingsWindow:
       return OrvaneSettingsWindow::cornerRadius;
-    case Ground::menu:
-    case Ground::dialogue:
+    case Background::menu:
+    case Background::dialogue:
       break;
   }
   return 10;
 }
 
-/// The surface of the settings or of the main window, and there perhaps a panel on it.
+/// The surface of the settings or the main window, if needed with a panel.
 struct WindowSurface {
-  Ground ground;
+  Background background;
   ui::Size size;
 
   ui::View body(const ui::Environment& environment) const {
     const bool isDark = environment.isDark();
-    const ui::RoundedRectangle outline(cornerRadius(ground));
-    if (ground == Ground::settings) {
+    const ui::RoundedRectangle outline(cornerRadius(background));
+    if (background == Background::settings) {
       return outline.fill(SettingsPalette::windowGradient(isDark)).frame(size.width, size.height);
     }
     const ui::View window = outline.fill(OrvanePalette::windowGradient(isDark))
@@ -57,41 +57,41 @@ struct WindowSurface {
       const ui::View content = ui::Rectangle().fill(ui::Color::clear()).height(size.height - inset);
       return ui::View(DockPanel{content}).width(size.width - 2 * panelInset);
     };
-    return ui::ZStack({window, ui::when(ground == Ground::panel, panel)});
+    return ui::ZStack({window, ui::when(background == Background::panel, panel)});
   }
 };
 
 }  // namespace
 
-bool isWholeWindow(Ground ground) {
-  return ground == Ground::mainWindow || ground == Ground::settingsWindow;
+bool isWholeWindow(Background background) {
+  return background == Background::mainWindow || background == Background::settingsWindow;
 }
 
-ui::Shape groundShape(Ground ground, const ui::Rect& rect) {
-  return ui::Shape::roundedRectangle(rect, cornerRadius(ground));
+ui::Shape backgroundShape(Background background, const ui::Rect& rect) {
+  return ui::Shape::roundedRectangle(rect, cornerRadius(background));
 }
 
-void paintGround(desk::CairoCanvas& canvas, Ground ground, const ui::Rect& rect,
-                 const ui::Appearance& appearance, ui::TextMeasurer& text,
-                 desk::DrawingResources& resources) {
-  const ui::Shape shape = groundShape(ground, rect);
-  canvas.shadow(shape, groundShadow);
-  if (ground == Ground::dialogue) {
+void paintBackground(desk::CairoCanvas& canvas, Background background, const ui::Rect& rect,
+                     const ui::Appearance& appearance, ui::TextMeasurer& text,
+                     desk::DrawingResources& resources) {
+  const ui::Shape shape = backgroundShape(background, rect);
+  canvas.shadow(shape, backgroundShadow);
+  if (background == Background::dialogue) {
     canvas.fill(shape,
                 ui::Paint::solid(ui::standardColor(ui::SystemColor::windowBackground, appearance)));
     return;
   }
   GlassCache glass;
-  const bool isMenu = ground == Ground::menu;
-  paintGlass(canvas, shape, glassSigma,
+  const bool isMenu = background == Background::menu;
+  paintGlass(canvas, shape, windowGlassSigma,
              isMenu ? menuTint(appearance.dark) : glassTint(appearance.dark), glass);
   if (isMenu) {
     paintMenuEdge(canvas, shape, appearance.dark);
   }
-  if (isMenu || isWholeWindow(ground)) {
+  if (isMenu || isWholeWindow(background)) {
     return;
   }
-  const WindowSurface surface{ground, rect.size()};
+  const WindowSurface surface{background, rect.size()};
   const Specimen specimen(
       {.caption = "", .make = [surface](OrvaneLanguage) { return ui::View(surface); }},
       OrvaneLanguage::english, appearance, text, resources);
