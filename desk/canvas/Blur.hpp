@@ -1,24 +1,23 @@
-// The soft blur behind shadows and glass: three box blurs, which together stay within four of 255
-// levels of a Gaussian and do not cost more when they reach further.
+// The blur of shadows and glass: three box blurs, which differ from a Gaussian by at most four of
+// 255 levels and whose cost does not depend on the radius.
 #pragma once
 
 #include <cairo.h>
 
 namespace orvane::desk {
 
-/// What a blur finds outside the picture: nothing, or the nearest pixel of its edge.
+/// The pixels outside of the picture: transparent, or equal to the nearest edge pixel.
 enum class BlurEdge { transparent, extended };
 
-/// How far in pixels a blur of that standard deviation carries a pixel.
+/// The distance in pixels within which a blur with that standard deviation has an effect.
 int blurReach(double sigma);
 
 /// Blurs an A8 or ARGB32 image surface in place. `sigma` is the standard deviation in pixels; a
 /// value that is not above zero, or a surface of another format, leaves the picture as it is.
 void blurSurface(cairo_surface_t* surface, double sigma, BlurEdge edge);
 
-/// Blurs the part of an ARGB32 or A8 image surface that the pixel rectangle covers, as glass does
-/// with what lies behind it. Pixels outside the rectangle stay as they are, but those near it
-/// take part in the blur. A rectangle that leaves the surface is cut to it.
+/// Blurs a pixel rectangle of an ARGB32 or A8 image surface. Pixels outside of the rectangle do not
+/// change, but those near it contribute. The rectangle is clipped to the surface.
 void blurRegion(cairo_surface_t* surface, const cairo_rectangle_int_t& region, double sigma);
 
 }  // namespace orvane::desk

@@ -167,7 +167,7 @@ Lines clickSomewhere(Scene& scene) {
   const std::string surface = anySurface(scene);
   const auto controls = Surfaces(WindowServer::current()).controls(surface);
   if (!controls.empty() && scene.lots.chance(600)) {
-    const CGRect& frame = scene.lots.oneOf(controls).frameInSight;
+    const CGRect& frame = scene.lots.oneOf(controls).visibleFrame;
     if (frame.size.width >= 1 && frame.size.height >= 1) {
       return {"click " +
               pointText({std::floor(CGRectGetMidX(frame)), std::floor(CGRectGetMidY(frame))})};
@@ -208,18 +208,18 @@ Lines dragWindow(Scene& scene) {
 Lines closeWindow(Scene& scene) {
   const Surfaces surfaces(WindowServer::current());
   // The two with a close button of the system.
-  if (surfaces.isThere("alert")) {
+  if (surfaces.isOpen("alert")) {
     return {"close alert"};
   }
-  if (surfaces.isThere("system")) {
+  if (surfaces.isOpen("system")) {
     return {"close system"};
   }
-  return surfaces.isThere("main") && scene.lots.chance(500) ? Lines{"minimise main"} : Lines{};
+  return surfaces.isOpen("main") && scene.lots.chance(500) ? Lines{"minimise main"} : Lines{};
 }
 
 Lines dropIcon(Scene& /*scene*/) {
   const Surfaces surfaces(WindowServer::current());
-  return surfaces.isThere("guide") && surfaces.isThere("system") ? Lines{"drop icon"} : Lines{};
+  return surfaces.isOpen("guide") && surfaces.isOpen("system") ? Lines{"drop icon"} : Lines{};
 }
 
 Lines doOperation(Scene& scene) {
@@ -254,7 +254,7 @@ Lines doOperation(Scene& scene) {
 
 Lines followGuide(Scene& scene) {
   const Surfaces surfaces(WindowServer::current());
-  if (surfaces.isThere("alert")) {
+  if (surfaces.isOpen("alert")) {
     if (scene.machine.eventTaps.isAnyEnabled() && scene.lots.chance(600)) {
       return runAway(scene);
     }
@@ -267,7 +267,7 @@ Lines followGuide(Scene& scene) {
     return {controlLine("press", "alert", controls, scene.lots.chance(800) ? openSettings : notNow),
             scene.lots.chance(700) ? "advance 2" : "advance 0.7"};
   }
-  if (!surfaces.isThere("guide")) {
+  if (!surfaces.isOpen("guide")) {
     return {};
   }
   constexpr std::array<const char*, 10> ways{"advance 10.5",

@@ -59,8 +59,8 @@ void Trial::complain(Violation violation) {
 void Trial::end() {
   safety_.reset();
   session_->end();
-  for (const std::string& mistake : session_->mistakes()) {
-    complain({"end", mistake});
+  for (const std::string& problem : session_->problems()) {
+    complain({"end", problem});
   }
 }
 

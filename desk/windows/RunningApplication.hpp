@@ -1,5 +1,4 @@
-// RunningApplication is what the system knows of the application object: its delegate, and how it
-// is started, opened again and quit.
+// RunningApplication is the application object: its delegate, launching, reopening and quitting.
 #pragma once
 
 #include "Orvane/platform/appkit/Application.hpp"
@@ -14,14 +13,14 @@ class RunningApplication {
 
   void setDelegate(appkit::ApplicationDelegate delegate);
 
-  /// The system has started the application.
+  /// Calls the delegate's didFinishLaunching.
   void finishLaunching();
-  /// The user opens the running application again. It becomes active and, unless the delegate
-  /// answers no, nothing else happens: there is no document to make.
+  /// The user opens the running application again: it becomes active, and the delegate is called.
+  /// Its answer has no effect, as there are no documents.
   void reopen();
-  /// Whether a key meant something to the application, whose window had no use for it.
+  /// Offers the delegate a key that no window has handled; whether it handled it.
   bool performKeyEquivalent(const ui::KeyEvent& event);
-  /// The delegate is told, and the process ends as soon as what runs now has returned.
+  /// Calls the delegate's willTerminate; the process ends after the current task or handler.
   void terminate();
   void processEnded();
 

@@ -105,7 +105,7 @@ void TourStage::click(const std::string& label, const std::string& surface) {
 void TourStage::pick(const std::string& label, const std::string& item,
                      const std::string& surface) {
   click(label, surface);
-  const std::optional<CGPoint> place = hand_.menuItemPlace(item);
+  const std::optional<CGPoint> place = hand_.menuItemCenter(item);
   check(place.has_value(), "there is an item \"" + item + "\" of " + label);
   if (place) {
     clickAt(*place);
@@ -138,7 +138,7 @@ void TourStage::dropIcon() {
   WindowServer& server = WindowServer::current();
   const auto system = Surfaces(server).window("system");
   const auto list = application_.systemSettings().listFrame();
-  const std::optional<CGPoint> icon = hand_.iconPlace();
+  const std::optional<CGPoint> icon = hand_.iconLocation();
   check(icon && list && system != nullptr, "guide and list are there");
   if (isOver()) {
     return;

@@ -92,14 +92,14 @@ void tellOfThePermission(TourStage& stage) {
   Machine& machine = stage.machine();
   stage.click("Pin Dock", Surfaces::menu);
   machine.advance(0.5);
-  stage.check(Surfaces(WindowServer::current()).isThere("alert"), "the alert is open");
+  stage.check(Surfaces(WindowServer::current()).isOpen("alert"), "the alert is open");
   stage.check(!stage.seen().guard.isRunning, "nothing is guarded without the permission");
   stage.tell("Pin Dock: watching the pointer needs a permission, and Orvane says so first.");
 
   stage.click("Open Privacy Settings", "alert");
   machine.advance(2.5);
-  stage.check(Surfaces(WindowServer::current()).isThere("system"), "the settings are open");
-  stage.check(Surfaces(WindowServer::current()).isThere("guide"), "the guide is there");
+  stage.check(Surfaces(WindowServer::current()).isOpen("system"), "the settings are open");
+  stage.check(Surfaces(WindowServer::current()).isOpen("guide"), "the guide is there");
   stage.tell("The System Settings open on the right page, and a small guide waits beside them.");
 
   stage.dropIcon();
@@ -110,7 +110,7 @@ void tellOfThePermission(TourStage& stage) {
   stage.check(stage.seen().selectedDisplayID == target->uuid,
               "the Dock's own display is the target");
   stage.check(WindowServer::current().statusBar.item()->image->name == "lock.fill" &&
-                  Surfaces(WindowServer::current()).isThere("guide"),
+                  Surfaces(WindowServer::current()).isOpen("guide"),
               "the lock is closed, and the guide says so");
   stage.tell(
       "Its icon dropped onto the list is all it takes: the lock closes, the Dock belongs to " +
@@ -165,7 +165,7 @@ void tellOfTheWindow(TourStage& stage) {
   stage.clickIcon(builtIn);
   stage.click("Open Window", Surfaces::menu);
   machine.advance(1);
-  stage.check(Surfaces(WindowServer::current()).isThere("main"), "the window is open");
+  stage.check(Surfaces(WindowServer::current()).isOpen("main"), "the window is open");
   stage.keep("main-panel", "main");
   stage.tell("The window shows the same with more room: a card for each display, and what is on.");
 
@@ -176,12 +176,12 @@ void tellOfTheWindow(TourStage& stage) {
   stage.pick("Language", "Chinese", "settings");
   machine.advance(1);
   stage.check(stage.seen().appLanguage == OrvaneLanguage::chinese, "the language is Chinese");
-  stage.check(Surfaces(WindowServer::current()).isThere("settings"), "the settings are open");
+  stage.check(Surfaces(WindowServer::current()).isOpen("settings"), "the settings are open");
   stage.tell("In the settings: the language, here Chinese at once, and the key that unlocks.");
 
   stage.pick("语言", "跟随系统", "settings");
   stage.pressEscape();
-  stage.check(!Surfaces(WindowServer::current()).isThere("settings"), "the settings are closed");
+  stage.check(!Surfaces(WindowServer::current()).isOpen("settings"), "the settings are closed");
 }
 
 void tellOfPreventing(TourStage& stage) {

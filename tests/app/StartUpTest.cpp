@@ -228,7 +228,7 @@ TEST_F(StartUpTest, OpenedAgainItAnswersThatTheSystemMayGoOn) {
   const auto& reopened = SeamRecorder::delegate().shouldHandleReopen;
   ASSERT_TRUE(reopened);
   EXPECT_TRUE(reopened(false));
-  ASSERT_TRUE(desk::Surfaces(server()).isThere("main"));
+  ASSERT_TRUE(desk::Surfaces(server()).isOpen("main"));
   EXPECT_TRUE(reopened(true));
 }
 

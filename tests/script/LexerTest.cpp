@@ -67,20 +67,20 @@ TEST(LexerTest, ComplainsAboutAnUnknownEscapeInItsWordOnly) {
   const LexedLine lexed = lexLine(R"(expect "\u4e2d\q" "fine")");
   ASSERT_FALSE(lexed.problem);
   ASSERT_EQ(lexed.words.size(), 3U);
-  EXPECT_EQ(lexed.words[1].problem, "an unknown escape at column 9");
+  EXPECT_EQ(lexed.words[1].problem, "unknown escape at column 9");
   EXPECT_FALSE(lexed.words[2].problem);
 }
 
 TEST(LexerTest, ComplainsAboutAQuoteLeftOpen) {
-  EXPECT_EQ(lexLine("é \"abc").problem, "a quote is opened at column 3 and not closed");
-  EXPECT_EQ(lexLine(R"("abc\")").problem, "a quote is opened at column 1 and not closed");
-  EXPECT_EQ(lexLine("\"abc\\").problem, "a quote is opened at column 1 and not closed");
+  EXPECT_EQ(lexLine("é \"abc").problem, "unterminated quote at column 3");
+  EXPECT_EQ(lexLine(R"("abc\")").problem, "unterminated quote at column 1");
+  EXPECT_EQ(lexLine("\"abc\\").problem, "unterminated quote at column 1");
 }
 
 TEST(LexerTest, ComplainsAboutControlCharacters) {
-  EXPECT_EQ(lexLine(std::string("ab\0c", 4)).problem, "a control character at column 3");
-  EXPECT_EQ(lexLine("a\x1B[0m").problem, "a control character at column 2");
-  EXPECT_EQ(lexLine("a\x7F").problem, "a control character at column 2");
+  EXPECT_EQ(lexLine(std::string("ab\0c", 4)).problem, "control character at column 3");
+  EXPECT_EQ(lexLine("a\x1B[0m").problem, "control character at column 2");
+  EXPECT_EQ(lexLine("a\x7F").problem, "control character at column 2");
 }
 
 TEST(LexerTest, ComplainsAboutMalformedUtf8) {

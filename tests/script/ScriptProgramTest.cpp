@@ -49,7 +49,7 @@ TEST(ScriptProgramTest, RunsOtherPeoplesCommands) {
                            return arguments.finish();
                          }});
   EXPECT_EQ(runScript("menu open\n", settings).output, "opened\n");
-  EXPECT_EQ(problemOf("menu burn\n", settings), "menu knows no command \"burn\", only close, open");
+  EXPECT_EQ(problemOf("menu burn\n", settings), "menu has no command \"burn\", only close, open");
 }
 
 TEST(ScriptProgramTest, TellsWhatWasLeftBehind) {

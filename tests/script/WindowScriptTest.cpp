@@ -95,8 +95,7 @@ TEST(WindowScriptTest, WhatAModalWindowKeepsBackIsSaidAndLeftAsItIs) {
        {R"(press "Settings" in main)", R"(pick "Language" "English" in main)", "close main",
         "minimise main", "drag main 30 0", R"(hover "Settings" in main)"}) {
     const std::string verb(command, std::string(command).find(' '));
-    EXPECT_EQ(problemOf(asked + command + "\n"),
-              verb + ": \"main\" is kept back by a modal window");
+    EXPECT_EQ(problemOf(asked + command + "\n"), verb + ": \"main\" is blocked by a modal window");
   }
   EXPECT_EQ(problemOf(asked + "press \"Settings\"\n"), "press: there is no control \"Settings\"");
   // The alert itself is operated, and what it kept back afterwards.

@@ -22,7 +22,7 @@ class HandFixture : public MachineFixture {
     return Surfaces(server()).window(surface);
   }
   [[nodiscard]] static bool isOpen(const std::string& surface) {
-    return Surfaces(server()).isThere(surface);
+    return Surfaces(server()).isOpen(surface);
   }
   /// What a screen reader finds there, nothing when it is not open.
   [[nodiscard]] static ui::SemanticsNode tree(const std::string& surface) {

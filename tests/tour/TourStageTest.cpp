@@ -89,7 +89,7 @@ TEST_F(TourStageTest, TheHandClicksWhatItIsToldTo) {
   stage.pick("Language", "Chinese", "settings");
   EXPECT_EQ(stage.seen().appLanguage, OrvaneLanguage::chinese);
   stage.pressEscape();
-  EXPECT_FALSE(Surfaces(WindowServer::current()).isThere("settings"));
+  EXPECT_FALSE(Surfaces(WindowServer::current()).isOpen("settings"));
   stage.click("固定 Dock", "main");
   EXPECT_TRUE(stage.seen().guard.isRunning);
   EXPECT_TRUE(stage.isTrue()) << complaints.str();

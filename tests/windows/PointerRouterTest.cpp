@@ -153,7 +153,7 @@ TEST_F(PointerRouterTest, AnIdleWindowHasNoTimerAndDrawsNothing) {
   EXPECT_EQ(machine.runLoop.timerFireCount() - before, 15);
   machine.advance(0.5);
   EXPECT_EQ(machine.runLoop.timerCount(), 0U);
-  EXPECT_EQ(view.implementation()->picture.drawnAreas(), 0);
+  EXPECT_EQ(view.implementation()->picture.drawnAreaCount(), 0);
   const long long changes = server().updates.changeCount();
   machine.advance(60);
   EXPECT_EQ(server().updates.changeCount(), changes);
