@@ -199,9 +199,7 @@ void RunLoop::runTask() {
   const Task task = std::move(tasks_.begin()->second);
   tasks_.erase(tasks_.begin());
   ++tasksRun_;
-  servesMainQueue_ = true;
   task();
-  servesMainQueue_ = false;
 }
 
 void RunLoop::fire(const std::shared_ptr<RunLoopTimer>& timer) {

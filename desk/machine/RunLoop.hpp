@@ -43,7 +43,6 @@ class RunLoop {
 
   /// Tasks that are not accepted are destroyed at once, because there is no process to run them.
   void setAcceptsTasks(bool accepts) { acceptsTasks_ = accepts; }
-  [[nodiscard]] bool acceptsTasks() const { return acceptsTasks_; }
 
   void async(Task task) { asyncAfter(0, std::move(task)); }
   void asyncAfter(std::int64_t delayNanoseconds, Task task);
@@ -58,8 +57,6 @@ class RunLoop {
   void holdMainQueue() { ++mainQueueHolds_; }
   void releaseMainQueue();
   [[nodiscard]] bool isMainQueueHeld() const { return mainQueueHolds_ > 0; }
-  /// Whether a task of the main queue is running right now.
-  [[nodiscard]] bool isServingMainQueue() const { return servesMainQueue_; }
   [[nodiscard]] std::size_t pendingTaskCount() const { return tasks_.size(); }
 
   /// The first tick comes after one interval, later ones on that grid. A timer that the mode kept
@@ -128,7 +125,6 @@ class RunLoop {
   bool acceptsTasks_ = true;
   bool refusesSources_ = false;
   bool serves_ = false;
-  bool servesMainQueue_ = false;
   std::int64_t timerFires_ = 0;
   std::int64_t tasksRun_ = 0;
   std::int64_t wakeUps_ = 0;

@@ -12,7 +12,7 @@ class FileDragArtTest : public DesktopFixture {
     // Both windows fit beside each other on the two displays.
     OrvanePermissionGuideWindowController::shared().show(nullptr);
     machine.mouse.moveTo({1200, 250});
-    application.systemSettings().open(SettingsPage::accessibility);
+    application.systemSettings().open(SystemSettings::accessibilityPage);
     machine.runDue();
   }
 

@@ -1,4 +1,4 @@
-// The routing of the pointer's movements, clicks and drags.
+// Routing of pointer movements, clicks and drags.
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {
@@ -21,7 +21,7 @@ TEST_F(PointerRouterTest, AClickReachesTheFrontmostWindowThere) {
   EXPECT_EQ(clicked, "front back ");
 }
 
-TEST_F(PointerRouterTest, NothingIsClickedWhereRoundedCornersLeaveNoWindow) {
+TEST_F(PointerRouterTest, RoundedCornersAreNotPartOfAWindow) {
   Window window = makeWindow({0, 0});
   appkit::HostingView view = hosting(wideButton("Button", [] {}));
   view.setLayerCorners(24, appkit::CornerCurve::continuous, true);
@@ -43,7 +43,7 @@ TEST_F(PointerRouterTest, AHandlerMayCloseItsWindowAndDropItsHandle) {
   EXPECT_TRUE(server().windows().empty());
 }
 
-TEST_F(PointerRouterTest, HoverFollowsThePointerAndWhatComesUnderIt) {
+TEST_F(PointerRouterTest, HoverFollowsThePointerAndTheWindowsUnderIt) {
   std::string heard;
   Window window = makeWindow({0, 0});
   window.setContentView(
