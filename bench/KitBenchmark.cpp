@@ -114,7 +114,7 @@ class Stage {
   }
   /// Draws what has changed, as a window does.
   void showFrame() { picture_.of(host_, scale, resources_); }
-  [[nodiscard]] long long areas() const { return picture_.drawnAreas(); }
+  [[nodiscard]] long long areas() const { return picture_.drawnAreaCount(); }
 
  private:
   desk::PangoTextMeasurer text_;

@@ -22,7 +22,7 @@ void ApplicationHost::launch() {
   machine_.process.start();
   OrvaneApp::install();
   WindowServer::current().application.finishLaunching();
-  // Not earlier, so that the model is created when it would be on a Mac. The guard's first messages
+  // Only now, so that the model is created at the same time as on a Mac. The guard's first messages
   // are still queued.
   listenToGuard();
   machine_.runDue();

@@ -21,29 +21,29 @@ struct GuardMessage {
 /// Belongs to one machine, which must outlive it.
 class ApplicationHost {
  public:
-  /// With the system's own programs, which run whether or not the application does.
+  /// Installs System Settings, which runs independently of the application.
   explicit ApplicationHost(Machine& machine);
   ApplicationHost(const ApplicationHost&) = delete;
   ApplicationHost& operator=(const ApplicationHost&) = delete;
 
-  /// Starts the application; does nothing when it is running.
+  /// Does nothing when the application is running.
   void launch();
   /// The user opens the running application again; does nothing when it is not running.
   void reopen();
-  /// Quits the application in order.
+  /// Quits the application.
   void terminate();
-  /// Ends the process without any notice.
+  /// Ends the process without notice.
   void crash();
 
   [[nodiscard]] SystemSettings& systemSettings() const { return systemSettings_; }
   [[nodiscard]] bool isRunning() const { return machine_.process.isRunning(); }
-  /// What the application is and shows; also while it does not run.
+  /// A default snapshot while it is not running.
   [[nodiscard]] OrvaneSnapshot snapshot() const;
-  /// To operate it; it must be running.
+  /// The application must be running.
   [[nodiscard]] OrvaneModel& model() const;
   /// Every message since the last launch.
   [[nodiscard]] const std::vector<GuardMessage>& messages() const { return messages_; }
-  /// When it was launched, by the machine's clock; 0 before the first launch.
+  /// The time of the last launch by the machine's clock; 0 before the first launch.
   [[nodiscard]] std::int64_t launchedAtNanoseconds() const { return launchedAt_; }
 
  private:

@@ -1,4 +1,4 @@
-// Many machines may live in one process, one after another; the images are the same for all.
+// Consecutive machines of a process share the decoded images.
 #include "desk/canvas/ApplicationImages.hpp"
 
 #include <string>

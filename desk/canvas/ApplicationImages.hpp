@@ -1,12 +1,11 @@
-// The images that the application finds in its bundle.
+// The images of the application's bundle.
 #pragma once
 
 #include "desk/canvas/ImageLibrary.hpp"
 
 namespace orvane::desk {
 
-/// Adds them all, in their sizes in points. They are decoded once in a process, however many
-/// libraries they are added to.
+/// Adds all of them, with their sizes in points. They are decoded once per process.
 void addApplicationImages(ImageLibrary& images);
 
 }  // namespace orvane::desk

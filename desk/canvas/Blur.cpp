@@ -1,5 +1,5 @@
-// Box blurs with a fractional width: whole pixels in the middle, a weighted pixel at each end, so
-// that the softness follows an animated radius without steps.
+// Box blurs of fractional width: whole pixels in the middle and a weighted pixel at each end, so
+// that the blur follows an animated radius without steps.
 #include "desk/canvas/Blur.hpp"
 
 #include <algorithm>
@@ -16,17 +16,17 @@ namespace {
 constexpr int passCount = 3;
 constexpr int weightBits = 24;
 
-/// One box: `reach` whole pixels to each side of the centre and one more of lesser weight.
+/// A box: `reach` whole pixels to each side of the centre, and one more of lesser weight.
 struct Box {
   int reach;
   std::uint32_t fullWeight;
   std::uint32_t endWeight;
 };
 
-/// The box whose variance, taken `passCount` times, is sigma squared. With weight one for
-/// |i| <= r and a for |i| = r + 1 the variance is
+/// The box whose variance times `passCount` is sigma squared. With weight 1 for |i| <= r and a for
+/// |i| = r + 1 the variance is
 ///   (r(r+1)(2r+1)/3 + 2a(r+1)^2) / (2r + 1 + 2a),
-/// which is solved for a; r is the largest reach whose plain box is not too wide.
+/// which is solved for a; r is the greatest reach for which a is not negative.
 Box makeBox(double sigma) {
   const double variance = sigma * sigma / passCount;
   const double length = std::sqrt(12.0 * variance + 1.0);
@@ -39,16 +39,15 @@ Box makeBox(double sigma) {
           static_cast<std::uint32_t>(std::floor(unit * end))};
 }
 
-/// The weights add up to at most one, so 255 times them and the half for rounding stay within 32
-/// bits.
+/// The weights add up to at most 1, so 255 times them plus a half for rounding fits into 32 bits.
 std::uint8_t weigh(const Box& box, std::uint32_t inner, std::uint32_t ends) {
   constexpr std::uint32_t half = std::uint32_t{1} << (weightBits - 1);
   return static_cast<std::uint8_t>((inner * box.fullWeight + ends * box.endWeight + half) >>
                                    weightBits);
 }
 
-/// Blurs `lineCount` parallel lines of `length` samples at once: the samples of one position lie
-/// side by side, which keeps the walk along memory for columns as well as for rows.
+/// Blurs `lineCount` parallel lines of `length` samples at once. Samples of one position are
+/// adjacent in memory, so that columns are read sequentially.
 struct Plane {
   std::uint8_t* data;
   std::ptrdiff_t step;  // from one position to the next
@@ -56,7 +55,7 @@ struct Plane {
   int lineCount;
 };
 
-/// The rows just before and just after the whole pixels of the box, and the first of those.
+/// The rows before and after the whole pixels of the box, and the first of those.
 struct Window {
   const std::uint8_t* before;
   const std::uint8_t* after;
@@ -69,8 +68,8 @@ void addRow(std::uint32_t* __restrict sums, const std::uint8_t* __restrict row, 
   }
 }
 
-/// Writes one row of the result and moves the sums on to the next. That nothing overlaps is said
-/// to the compiler, which can then take many lines at once.
+/// Writes one row of the result and advances the sums. The pointers are declared as not
+/// overlapping, so that the compiler can vectorise.
 void blurRow(const Box& box, const Window& window, std::uint32_t* __restrict sums,
              std::uint8_t* __restrict target, std::size_t count) {
   const std::uint8_t* __restrict before = window.before;
@@ -109,8 +108,7 @@ void blurPlane(const Plane& plane, const Box& box, BlurEdge edge) {
   }
 }
 
-/// Copies a picture with its rows and columns exchanged, in squares that stay in the processor's
-/// nearest cache.
+/// Transposes a picture in square tiles that fit into the first-level cache.
 template <typename Pixel>
 void transpose(const Pixel* from, std::ptrdiff_t fromStride, Pixel* to, std::ptrdiff_t toStride,
                int width, int height) {
@@ -164,8 +162,8 @@ void blurExactly(const Pixels& pixels, double sigma, BlurEdge edge) {
   }
 }
 
-/// The picture at a `factor`-th of its size with a border of one small pixel, every small pixel the
-/// mean of what it stands for.
+/// The picture reduced by `factor`, with a border of one pixel; every pixel is the mean of those
+/// that it replaces.
 std::vector<std::uint8_t> reduced(const Pixels& pixels, int factor, int smallWidth, int smallHeight,
                                   BlurEdge edge) {
   const auto [data, stride, width, height, pixelBytes] = pixels;
@@ -203,11 +201,11 @@ std::vector<std::uint8_t> reduced(const Pixels& pixels, int factor, int smallWid
   return small;
 }
 
-/// Fills the pixels from the small picture, linearly between the middles of its pixels.
+/// Fills the pixels from the reduced picture by linear interpolation between pixel centres.
 void enlarge(const std::vector<std::uint8_t>& small, int factor, int smallWidth,
              const Pixels& pixels) {
   const auto [data, stride, width, height, pixelBytes] = pixels;
-  // Distances are counted in half pixels, so that the middles of all pixels are whole numbers.
+  // Distances are in half pixels, so that pixel centres are whole numbers.
   const int span = 2 * factor;
   const std::ptrdiff_t smallStride = static_cast<std::ptrdiff_t>(smallWidth) * pixelBytes;
   for (int y = 0; y < height; ++y) {
@@ -234,9 +232,8 @@ void enlarge(const std::vector<std::uint8_t>& small, int factor, int smallWidth,
   }
 }
 
-/// How many times smaller the picture is on which a blur is made. A wide blur leaves no detail;
-/// the smaller picture is still blurred by at least four of its pixels, which hides that it is
-/// small.
+/// The factor by which the picture is reduced before blurring. A wide blur leaves no detail, and
+/// the reduced picture is still blurred by at least four of its pixels, which hides the reduction.
 int factorOf(double sigma) {
   constexpr double minimumSmallSigma = 4.0;
   int factor = 1;
@@ -255,15 +252,15 @@ void blurPixels(const Pixels& pixels, double sigma, BlurEdge edge) {
   const int smallWidth = (pixels.width + factor - 1) / factor + 2;
   const int smallHeight = (pixels.height + factor - 1) / factor + 2;
   std::vector<std::uint8_t> small = reduced(pixels, factor, smallWidth, smallHeight, edge);
-  // The ways there and back blur a little too (by a quarter of the factor's square, of at least
-  // sixteen); that makes up for the tails that are lost to rounding.
+  // Reducing and enlarging also blur slightly (a variance of a quarter of the squared factor),
+  // which compensates for the tails lost by rounding.
   blurExactly({small.data(), static_cast<std::ptrdiff_t>(smallWidth) * pixels.pixelBytes,
                smallWidth, smallHeight, pixels.pixelBytes},
               sigma / factor, edge);
   enlarge(small, factor, smallWidth, pixels);
 }
 
-/// Bytes of a pixel of a format that can be blurred, zero for any other.
+/// Bytes per pixel of a format that can be blurred, 0 for other formats.
 int pixelBytesOf(cairo_surface_t* surface) {
   if (cairo_surface_get_type(surface) != CAIRO_SURFACE_TYPE_IMAGE) {
     return 0;
@@ -285,8 +282,8 @@ int blurReach(double sigma) {
   if (!(sigma > 0)) {
     return 0;
   }
-  // The reach of one box is less than sigma (see makeBox), plus the weighted pixel at its end. On
-  // a smaller picture all this is as many times as large, and so are the ways there and back.
+  // The reach of a box is less than sigma (see makeBox) plus the weighted pixel at its end. For a
+  // reduced picture this, and the reach of reducing and enlarging, is multiplied by the factor.
   const int factor = factorOf(sigma);
   const int boxes = passCount * (static_cast<int>(std::ceil(sigma / factor)) + 1);
   return factor * (boxes + (factor > 1 ? 2 : 0));

@@ -1,15 +1,15 @@
-// The soft blur behind shadows and glass: three box blurs, which together stay within four of 255
-// levels of a Gaussian and do not cost more when they reach further.
+// The blur of shadows and glass: three box blurs, which differ from a Gaussian by at most four of
+// 255 levels and whose cost does not depend on the radius.
 #pragma once
 
 #include <cairo.h>
 
 namespace orvane::desk {
 
-/// What a blur finds outside the picture: nothing, or the nearest pixel of its edge.
+/// The pixels outside of the picture: transparent, or equal to the nearest edge pixel.
 enum class BlurEdge { transparent, extended };
 
-/// How far in pixels a blur of that standard deviation carries a pixel.
+/// The distance in pixels within which a blur with that standard deviation has an effect.
 int blurReach(double sigma);
 
 /// Blurs an A8 or ARGB32 image surface in place. `sigma` is the standard deviation in pixels; a

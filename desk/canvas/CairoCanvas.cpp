@@ -1,5 +1,5 @@
-// Text, symbols and shadows are masks that are shared between drawings. A layer is a surface of its
-// own whose pixels line up with those of the target.
+// Text, symbols and shadows are painted from cached masks. A layer is a separate surface, aligned
+// with the target's pixels.
 #include "desk/canvas/CairoCanvas.hpp"
 
 #include <algorithm>
@@ -49,19 +49,19 @@ void setColor(cairo_t* context, const ui::Rgba& color) {
   cairo_set_source_rgba(context, color.red, color.green, color.blue, color.alpha);
 }
 
-/// Splits a place in pixels into the pixel and the part of it, in steps of one `parts`-th.
+/// Splits a coordinate in pixels into the whole pixel and the fraction, in steps of 1/`parts`.
 void split(double place, double parts, int& pixel, double& phase) {
   const double steps = std::floor(place * parts + 0.5);
   pixel = static_cast<int>(std::floor(steps / parts));
   phase = steps / parts - pixel;
 }
 
-/// A place or distance in pixels, to one `parts`-th of a pixel.
+/// A coordinate or distance in pixels, rounded to 1/`parts`.
 double rounded(double place, double parts) {
   return std::floor(place * parts + 0.5) / parts;
 }
 
-/// Shadows are made for so many places within a pixel.
+/// The number of subpixel positions of shadow masks.
 constexpr double placeSteps = 64;
 
 ui::Shape inPixels(ui::Shape shape, const ui::Transform& pixels) {
@@ -88,7 +88,7 @@ MaskKey keyOf(MaskKind kind, const std::string& content, const ui::Font& font,
       .add(placement.phaseY);
 }
 
-/// The size of an image surface and its rows, one after the other.
+/// The size and the pixels of an image surface.
 std::string bytesOf(const SurfacePointer& surface) {
   cairo_surface_flush(surface.get());
   const int width = cairo_image_surface_get_width(surface.get());
@@ -129,8 +129,8 @@ ui::Transform CairoCanvas::pixelTransform() {
 
 void CairoCanvas::transform(const ui::Transform& transform) {
   const cairo_matrix_t matrix{transform.scaleX, 0, 0, transform.scaleY, transform.x, transform.y};
-  // A scale of zero would put the context into an error state for good; nothing could be seen
-  // through it, so the same is said with an empty clip.
+  // A scale of zero would put the context into a permanent error state; an empty clip has the same
+  // effect on the drawing.
   if (!transform.isInvertible()) {
     cairo_new_path(context());
     cairo_clip(context());
@@ -145,7 +145,7 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
     return;
   }
   const double sigma = sigmaInPixels(shadow, pixels);
-  // The mask is made near pixel zero and moved by whole pixels, so that equal shapes share it.
+  // The mask is made near the origin and moved by whole pixels, so that equal shapes share it.
   int pixelX = 0;
   int pixelY = 0;
   ui::Shape hole = inPixels(shape, pixels);
@@ -171,7 +171,7 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
     cutOut(made, hole);
     return made;
   });
-  // Within the shape there is nothing of its shadow, so that is not even read.
+  // The shadow is not drawn within the shape.
   const ui::Rect inner = hole.rect.inset(hole.effectiveRadius() + 1);
   if (inner.isEmpty() || !mask.surface) {
     paintMask(mask, pixelX, pixelY, shadow.color);
@@ -209,14 +209,14 @@ void CairoCanvas::beginLayer(const ui::Rect& bounds, double opacity,
   PixelBounds area{painted.x, painted.y, painted.right(), painted.bottom()};
   PixelBounds visible = clipBounds(outer);
   if (shadow) {
-    // What lies outside the clip may still cast its shadow into it.
+    // A shape outside of the clip may cast its shadow into it.
     const double reach = blurReach(sigmaInPixels(*shadow, pixels));
     const double across = reach + std::abs(shadow->offset.x * pixels.scaleX);
     const double down = reach + std::abs(shadow->offset.y * pixels.scaleY);
     area = area.grownBy(across, down);
     visible = visible.grownBy(across, down);
   }
-  // One pixel more, for soft edges on bounds that are not on the pixel grid.
+  // One more pixel for antialiased edges.
   area = area.grownBy(1, 1).cutTo(visible);
 
   Layer layer;
@@ -266,8 +266,8 @@ void CairoCanvas::paintLayerShadow(const Layer& layer, const ui::PaintShadow& sh
     blurSurface(alpha.surface.get(), sigma, BlurEdge::transparent);
     return std::move(alpha);
   });
-  // An opaque layer lies on its shadow; in a fainter one both are one picture that fades.
-  // On whole pixels, where nothing has to be resampled; what is blurred does not show it.
+  // An opaque layer is drawn over its shadow; a translucent one is composed with it first. Shadows
+  // are placed on whole pixels, which avoids resampling and is invisible after the blur.
   const int x = layer.x + static_cast<int>(std::lround(shadow.offset.x * pixels.scaleX));
   const int y = layer.y + static_cast<int>(std::lround(shadow.offset.y * pixels.scaleY));
   if (layer.opacity >= 1) {
@@ -294,7 +294,7 @@ bool CairoCanvas::isScaledByTransform() {
 PixelPlacement CairoCanvas::placementOf(ui::Point anchor) {
   const ui::Transform pixels = pixelTransform();
   const ui::Point place = pixels.apply(anchor);
-  // Masks are made for quarters of a pixel; what is being scaled moves smoothly instead.
+  // Masks have quarter-pixel positions, except during scaling, which must be smooth.
   const double steps = isScaledByTransform() ? 1024 : 4;
   PixelPlacement placement;
   placement.scaleX = pixels.scaleX;
@@ -333,7 +333,7 @@ void CairoCanvas::text(const std::string& line, const ui::Font& font, const ui::
                        ui::Point baseline) {
   PixelPlacement placement = placementOf(baseline);
   if (!isScaledByTransform()) {
-    // A baseline on a whole pixel keeps the feet of the letters sharp.
+    // A baseline on a whole pixel keeps horizontal edges sharp.
     placement.pixelY += placement.phaseY >= 0.5 ? 1 : 0;
     placement.phaseY = 0;
   }

@@ -17,10 +17,10 @@ namespace orvane::desk {
 
 class CairoCanvas : public ui::Canvas {
  public:
-  /// Draws on an ARGB32 image surface without a device scale of its own, `scaleFactor` pixels to
-  /// the point. The surface is referenced, the resources have to outlive the canvas.
+  /// Draws on an ARGB32 image surface without a device scale, with `scaleFactor` pixels per point.
+  /// The surface is referenced; the resources must outlive the canvas.
   CairoCanvas(cairo_surface_t* target, double scaleFactor, DrawingResources& resources);
-  /// The same on a picture of sixteen bits, which has to outlive the canvas. Layers have eight.
+  /// Draws on a picture of sixteen bits, which must outlive the canvas. Layers have eight bits.
   CairoCanvas(DeepSurface& target, double scaleFactor, DrawingResources& resources);
 
   double scaleFactor() const override { return scaleFactor_; }
@@ -44,13 +44,13 @@ class CairoCanvas : public ui::Canvas {
   void symbol(const std::string& name, const ui::Font& font, const ui::Rgba& color,
               const ui::Rect& rect) override;
 
-  /// Paints a picture of sixteen bits, its pixels as they are, with its top left at the pixel
-  /// nearest to that point. The target has eight.
+  /// Paints a picture of sixteen bits, unscaled, with its top left at the pixel nearest to that
+  /// point, on a target of eight bits.
   void picture(const DeepSurface& picture, ui::Point corner);
 
-  /// The context that is drawn on now, in points, for what the desk draws beside the view kit. A
-  /// clip of any other form than rectangles goes through the canvas. What is drawn on it is lost
-  /// outside of the layers of a picture of sixteen bits.
+  /// The current cairo context, in points, for drawing that the canvas does not support. Clips
+  /// other than rectangles must be set with the canvas. On a picture of sixteen bits it draws only
+  /// within layers.
   cairo_t* context() { return layers_.back().context.get(); }
 
  private:
@@ -58,50 +58,49 @@ class CairoCanvas : public ui::Canvas {
     ui::Shape shape;
     ui::Transform pixels;
   };
-  /// What a clip is made of besides rectangles of whole pixels, which cairo tells.
+  /// The part of a clip that is not a rectangle of whole pixels; cairo keeps those.
   struct Clip {
     std::vector<ClipShape> shapes;
-    /// They are more than one rounded rectangle on whole pixels.
+    /// More than one rounded rectangle on whole pixels.
     bool isTangled = false;
   };
   struct Layer {
     ContextPointer context;
     double opacity = 1;
     std::optional<ui::PaintShadow> shadow;
-    // Top left of the layer's surface in pixels of the target.
+    // The top left of the layer's surface, in pixels of the target.
     int x = 0;
     int y = 0;
-    // The clip of now, and below it those that will be restored.
+    // The current clip, on top of those to restore.
     std::vector<Clip> clips{1};
   };
 
   void noteClip(const ui::Shape& shape);
   /// A line width of zero fills the shape.
   void paintPath(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
-  /// The same, in one colour or a gradient that runs down, by the coverage. False, and nothing
-  /// painted, where that cannot be.
+  /// The same from cached coverage, for a solid colour or a vertical gradient. False, and nothing
+  /// painted, when that is impossible.
   bool paintCoverage(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
-  /// Of some rows of a shape within the clip, in pixels of the target.
+  /// For some rows of a shape within the clip, in pixels of the target.
   Mask coveredRows(const ui::Shape& shape, double lineWidth, const PixelRect& rows);
-  /// Of the rows from `top` up to `bottom`, in pixels of the target.
+  /// For the rows from `top` to `bottom` (exclusive), in pixels of the target.
   RowColors colorsOf(const ui::Paint& paint, int top, int bottom);
   Rows<DeepColor> deepColorsOf(const ui::Paint& paint, int top, int bottom);
-  /// The picture of sixteen bits, while it is that which is drawn on.
+  /// The picture of sixteen bits, if it is the current target; otherwise null.
   DeepSurface* deepTarget() { return layers_.size() == 1 ? deep_ : nullptr; }
-  /// Pixels that the clip leaves, or more.
+  /// The clip's bounds or more, in pixels.
   PixelRect clipExtents();
-  /// Takes out of a surface, with its top left pixel at that of the target, what the clip's shapes
-  /// leave out.
+  /// Clears the pixels of a surface, aligned with the target, that the clip's shapes exclude.
   void cutToClip(cairo_surface_t* picture, int x, int y);
-  /// Paints on the picture of sixteen bits what only cairo can paint, within bounds.
+  /// Paints on the picture of sixteen bits with cairo, through a layer, within bounds.
   void paintThroughLayer(const ui::Rect& bounds, const std::function<void()>& paint);
   /// From the current coordinates to pixels of the target.
   [[nodiscard]] ui::Transform pixelTransform();
-  /// Paints a mask in one colour; its anchor is a pixel of the target.
+  /// Paints a mask in a colour, with its anchor at a pixel of the target.
   void paintMask(const Mask& mask, int anchorX, int anchorY, const ui::Rgba& color);
   void paintLayerShadow(const Layer& layer, const ui::PaintShadow& shadow);
-  /// Where a point of the current coordinates falls. Unless something is being scaled, the phase
-  /// is taken in quarters of a pixel, so that masks can be shared.
+  /// The pixel and the phase of a point in the current coordinates. Unless the transform scales,
+  /// the phase is in quarters of a pixel, so that masks can be shared.
   PixelPlacement placementOf(ui::Point anchor);
   bool isScaledByTransform();
 

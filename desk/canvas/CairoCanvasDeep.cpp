@@ -1,5 +1,5 @@
-// Painting on a picture of sixteen bits, and showing it. Cairo has surfaces of eight bits only:
-// what it has to paint itself goes through a layer.
+// Painting on and showing a picture of sixteen bits. Cairo has only surfaces of eight bits: what it
+// must paint goes through a layer.
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -12,7 +12,7 @@ namespace orvane::desk {
 
 CairoCanvas::CairoCanvas(DeepSurface& target, double scaleFactor, DrawingResources& resources)
     : scaleFactor_(scaleFactor), resources_(resources), deep_(&target) {
-  // Nothing is drawn on this one; it knows the transform and the clip.
+  // This surface only carries the transform and the clip.
   const cairo_rectangle_t extents{0, 0, static_cast<double>(target.width()),
                                   static_cast<double>(target.height())};
   const SurfacePointer sheet(cairo_recording_surface_create(CAIRO_CONTENT_ALPHA, &extents));
@@ -74,7 +74,7 @@ void CairoCanvas::picture(const DeepSurface& picture, ui::Point corner) {
   if (area.isEmpty()) {
     return;
   }
-  // Over a copy of what is there, so that both are rounded together; the clip takes its part of it.
+  // Drawn over a copy of the target, so that both are rounded together; then clipped.
   const SurfacePointer part(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, area.right - area.left,
                                                        area.bottom - area.top));
   cairo_t* const target = context();

@@ -1,5 +1,4 @@
-// Filling and stroking. A shape is painted by its coverage, which is kept; what that cannot do is
-// left to cairo.
+// Filling and stroking. A shape is painted from cached coverage if possible, otherwise by cairo.
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -12,8 +11,8 @@ namespace orvane::desk {
 
 namespace {
 
-/// As cairo sees it, which takes places in steps of 1/256 pixel: at a scale such as 1.1 a whole
-/// pixel is not a whole number to the last bit.
+/// Whether cairo takes it for a whole number: it rounds coordinates to 1/256 pixel, and at scales
+/// such as 1.1 a whole pixel is not exactly a whole number.
 bool isWhole(double number) {
   return std::abs(number - std::round(number)) < 1.0 / 512;
 }
@@ -28,7 +27,7 @@ PixelRect pixelsOf(const ui::Rect& rect) {
           static_cast<int>(std::ceil(rect.right())), static_cast<int>(std::ceil(rect.bottom()))};
 }
 
-/// The rectangles of a clip that is made of whole pixels; none of any other.
+/// The rectangles of a clip of whole pixels; none for any other clip.
 std::optional<std::vector<PixelRect>> clipRectangles(cairo_t* context) {
   cairo_matrix_t matrix;
   cairo_get_matrix(context, &matrix);
@@ -47,7 +46,7 @@ std::optional<std::vector<PixelRect>> clipRectangles(cairo_t* context) {
   return rectangles;
 }
 
-/// The colour as cairo and pixman make a pixel of it.
+/// The colour converted to a pixel as cairo and pixman do it.
 std::uint32_t pixelOf(const ui::Rgba& color) {
   const auto part = [](double fraction) {
     return static_cast<std::uint32_t>(std::clamp(fraction, 0.0, 1.0) * 65535 + 0.5) >> 8U;
@@ -64,9 +63,9 @@ bool isRounded(const ui::Shape& shape) {
   return shape.kind == ui::Shape::Kind::roundedRectangle || shape.kind == ui::Shape::Kind::capsule;
 }
 
-/// The rows of pixels between the corners of a shape, where its sides run straight down.
+/// The rows of pixels between the corners of a shape, where its sides are vertical.
 PixelRect straightRows(const ui::Shape& shape, const ui::Transform& pixels, double lineWidth) {
-  // A continuous corner begins at most at 1.4 of its radius (see Shape::path).
+  // A continuous corner extends to at most 1.4 of its radius (see Shape::path).
   constexpr double reach = 1.5;
   const bool isCurved =
       shape.kind == ui::Shape::Kind::ellipse || shape.kind == ui::Shape::Kind::circle;
@@ -197,7 +196,7 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
        (clip.isTangled || cairo_image_surface_get_format(target) != CAIRO_FORMAT_ARGB32))) {
     return false;
   }
-  // Of a rectangle between pixels cairo computes the coverage by itself.
+  // Cairo computes the coverage of a rectangle between pixels differently.
   const bool isSharp = shape.kind == ui::Shape::Kind::rectangle || shape.effectiveRadius() == 0;
   if (deep == nullptr && isSharp &&
       (lineWidth > 0 || !isWhole(pixelTransform().apply(shape.rect)))) {
@@ -214,7 +213,7 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
   const ui::Rect area = pixels.apply(shape.rect.inset(-lineWidth));
   const PixelRect bounds = pixelsOf(area);
   PixelRect straight = clip.isTangled ? PixelRect{} : straightRows(shape, pixels, lineWidth);
-  // The coverage is that near pixel zero, moved by whole pixels, so that equal shapes share it.
+  // The coverage is made near the origin and moved by whole pixels, so that equal shapes share it.
   MaskKey key = MaskKey()
                     .add(shape.kind)
                     .add(shape.cornerStyle)
@@ -248,7 +247,7 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
     if (straight.isEmpty()) {
       add(bounds.top, bounds.bottom);
     } else {
-      // All the straight rows are alike.
+      // All rows between the corners are equal.
       add(bounds.top, straight.top + 1);
       made.repeatLast(straight.bottom - straight.top - 1);
       add(straight.bottom, bounds.bottom);

@@ -1,4 +1,4 @@
-// Gives back references to GObjects.
+// Releases references to GObjects.
 #include "desk/canvas/CairoPointers.hpp"
 
 #include <glib-object.h>

@@ -1,12 +1,11 @@
-// Owning pointers for the C objects of cairo, pango and librsvg, so that every reference the desk
-// takes is given back exactly once.
+// Owning pointers for the C objects of cairo, pango and librsvg.
 #pragma once
 
 #include <memory>
 
 #include <cairo.h>
 
-// Named only: their libraries' headers are large, and few sources call them.
+// Forward declarations, because the libraries' headers are large.
 using PangoContext = struct _PangoContext;
 using PangoFontMap = struct _PangoFontMap;
 using PangoLayout = struct _PangoLayout;

@@ -1,4 +1,4 @@
-// Blending follows pixman and cairo to the last bit, which tests/canvas compares.
+// Blending equals that of pixman and cairo bit by bit; tests/canvas compares them.
 #include "desk/canvas/CoverageRuns.hpp"
 
 #include <algorithm>
@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::uint32_t opaque = 255;
 
-/// The product of two fractions of 255, rounded. Where cairo fills with an opaque colour it rounds
-/// by a bias that is one less than pixman's.
+/// The product of two fractions of 255, rounded. For opaque fills cairo uses a bias one less than
+/// pixman's.
 template <std::uint32_t bias>
 constexpr std::uint32_t product(std::uint32_t first, std::uint32_t second) {
   const std::uint32_t sum = first * second + bias;
@@ -27,8 +27,7 @@ std::uint32_t faded(std::uint32_t pixel, std::uint32_t fraction) {
   return result;
 }
 
-/// Every pixel becomes `source` over what it was. Bytes are taken one by one, many at once, for the
-/// compiler.
+/// Composes `source` over every pixel, byte by byte, so that the compiler can vectorise.
 template <std::uint32_t bias>
 void blend(std::uint32_t* pixels, std::size_t count, std::uint32_t source) {
   const auto rest = static_cast<std::uint16_t>(opaque - (source >> 24U));

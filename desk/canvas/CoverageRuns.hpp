@@ -1,6 +1,6 @@
-// What a shape covers, as runs of equally covered pixels: made once by cairo and then painted in
-// any colour. A large shape is nearly all alike from row to row and within a row, so that little
-// has to be remembered and no mask of its size is read.
+// The coverage of a shape, as runs of equally covered pixels: computed once by cairo and then
+// painted in any colour. Most rows of a large shape are equal and have few runs, so this is smaller
+// and faster than a mask.
 #pragma once
 
 #include <algorithm>
@@ -17,7 +17,7 @@
 
 namespace orvane::desk {
 
-/// Pixels from `left`, `top` up to but not including `right`, `bottom`.
+/// Pixels from `left`, `top` to `right`, `bottom` (exclusive).
 struct PixelRect {
   int left = 0;
   int top = 0;
@@ -26,14 +26,14 @@ struct PixelRect {
 
   [[nodiscard]] bool isEmpty() const { return left >= right || top >= bottom; }
   [[nodiscard]] PixelRect cutTo(const PixelRect& other) const;
-  /// The smallest rectangle that holds both.
+  /// The union of both.
   [[nodiscard]] PixelRect joinedWith(const PixelRect& other) const;
   [[nodiscard]] PixelRect movedBy(int x, int y) const {
     return {left + x, top + y, right + x, bottom + y};
   }
 };
 
-/// One colour for all rows, or one for each row from `top` on.
+/// One colour for all rows, or one per row from `top`.
 template <typename Color>
 struct Rows {
   std::vector<Color> colors;
@@ -45,24 +45,24 @@ struct Rows {
   }
 };
 
-/// Premultiplied colours as they lie in an ARGB32 surface.
+/// Premultiplied colours in the format of an ARGB32 surface.
 using RowColors = Rows<std::uint32_t>;
 
 class CoverageRuns {
  public:
-  /// The rows of an A8 mask below those that are there already.
+  /// Appends the rows of an A8 mask.
   void add(const Mask& mask);
-  /// The last row so many times more.
+  /// Repeats the last row.
   void repeatLast(int times);
   void moveBy(int x, int y);
 
-  /// Paints over the pixels of an ARGB32 image surface, within a rectangle of it and with the pixel
-  /// that the mask was made for at `x`, `y`. The result is what cairo paints, bit by bit.
+  /// Paints over an ARGB32 image surface, within a rectangle, with the mask's origin at `x`, `y`.
+  /// The result equals that of cairo bit by bit.
   void paint(cairo_surface_t* target, int x, int y, const PixelRect& clip,
              const RowColors& colors) const;
 
-  /// Calls `paintRun(row, left, right, coverage)` for all that is covered within the rectangle,
-  /// with the pixel that the mask was made for at `x`, `y`.
+  /// Calls `paintRun(row, left, right, coverage)` for each run within the rectangle, with the
+  /// mask's origin at `x`, `y`.
   template <typename PaintRun>
   void visit(int x, int y, const PixelRect& area, const PaintRun& paintRun) const {
     for (const Band& band : bands_) {
@@ -87,7 +87,7 @@ class CoverageRuns {
 
     friend bool operator==(const Run&, const Run&) = default;
   };
-  /// Rows from `top` up to `bottom` that are all alike.
+  /// Equal rows from `top` to `bottom` (exclusive).
   struct Band {
     int top;
     int bottom;
@@ -97,11 +97,11 @@ class CoverageRuns {
   std::vector<Band> bands_;
 };
 
-/// Runs by everything that they depend on.
+/// A cache of runs by everything that they depend on.
 class CoverageCache {
  public:
-  /// The runs of the key, made by `make()` if there are none. The reference holds until the next
-  /// call.
+  /// The runs of the key, created by `make()` if there are none. The reference is valid until the
+  /// next call.
   template <typename Make>
   const CoverageRuns& get(const MaskKey& key, Make&& make) {
     const auto found = runs_.find(key.bytes());
@@ -115,7 +115,7 @@ class CoverageCache {
   }
 
  private:
-  /// A panel has about fifty shapes, and each takes a few kilobytes.
+  /// A panel has about fifty shapes of a few kilobytes each.
   static constexpr std::size_t capacity = 512;
 
   std::map<std::string, CoverageRuns> runs_;

@@ -1,4 +1,4 @@
-// The inner loops go through colours one by one, many at once for the compiler.
+// The inner loops process colour components separately, so that the compiler can vectorise.
 #include "desk/canvas/DeepSurface.hpp"
 
 #include <algorithm>
@@ -8,7 +8,7 @@ namespace orvane::desk {
 
 namespace {
 
-/// What a veil of this alpha, at most `whole`, leaves of what is below it, as a fraction of 2^16.
+/// The fraction, of 2^16, that a colour with this alpha (at most `whole`) leaves of what is below.
 std::uint16_t restOf(std::uint16_t alpha) {
   return static_cast<std::uint16_t>(0xFFFFU - (alpha + (alpha >> 8U)));
 }
@@ -17,12 +17,12 @@ std::uint16_t productOf(std::uint16_t first, std::uint16_t second) {
   return static_cast<std::uint16_t>((static_cast<std::uint32_t>(first) * second) >> 16U);
 }
 
-/// As many of 2^16 as a byte is of 255.
+/// Scales a byte to 2^16.
 std::uint16_t widened(std::uint32_t byte) {
   return static_cast<std::uint16_t>(byte * 257U);
 }
 
-/// Every colour becomes what is added to what is left of it.
+/// Composes the source over every component.
 void over(std::uint16_t* colors, const std::uint16_t* add, const std::uint16_t* rest,
           std::size_t count) {
   for (std::size_t index = 0; index < count; ++index) {
@@ -30,7 +30,7 @@ void over(std::uint16_t* colors, const std::uint16_t* add, const std::uint16_t* 
   }
 }
 
-/// One colour again and again, up to as often as is worth the room.
+/// A colour repeated up to the length of a block.
 class Repeated {
  public:
   static constexpr std::size_t capacity = 32;
@@ -66,7 +66,7 @@ DeepColor covered(const DeepColor& color, std::uint8_t coverage) {
   return result;
 }
 
-/// The same where each pixel is covered otherwise.
+/// The same with a coverage for each pixel.
 void blendCovered(std::uint16_t* pixels, std::size_t count, const DeepColor& color,
                   const std::uint8_t* coverage) {
   const std::uint16_t alpha = static_cast<std::uint16_t>(0xFFFFU - restOf(color[3]));
@@ -196,7 +196,7 @@ void DeepSurface::paintOver(cairo_surface_t* target, int x, int y) const {
     for (std::size_t index = 0; index < count; ++index) {
       const auto below = static_cast<std::uint16_t>(bytes[index] << 8U);
       const auto sum = static_cast<std::uint16_t>(own[index] + productOf(below, rests[index]));
-      // Half a step more, for the nearest byte.
+      // Rounds to the nearest byte.
       bytes[index] = static_cast<std::uint8_t>((std::min<std::uint32_t>(sum, whole) + 128U) >> 8U);
     }
   }

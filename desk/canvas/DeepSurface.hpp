@@ -1,6 +1,6 @@
-// A picture with sixteen bits to each colour, for what is painted as many thin veils one over
-// another. Rounded to eight bits after each of them, colour and alpha step at different rows, and
-// slow gradients are full of stripes; here they are rounded once, when the picture is shown.
+// A picture with sixteen bits per component, for many translucent layers. With eight bits, each
+// layer would be rounded: colour and alpha would step at different rows, and slow gradients would
+// show stripes. Here the result is rounded once, when the picture is shown.
 #pragma once
 
 #include <array>
@@ -21,7 +21,7 @@ using DeepColor = std::array<std::uint16_t, 4>;
 
 class DeepSurface {
  public:
-  /// As much as 255 in a byte, so that the upper byte is one.
+  /// The value of 255 in a byte; the upper byte of a value is then its rounding to eight bits.
   static constexpr std::uint32_t whole = 255U << 8U;
 
   [[nodiscard]] static DeepColor colorOf(const ui::Rgba& color);
@@ -34,16 +34,15 @@ class DeepSurface {
 
   void clear(const PixelRect& area);
 
-  /// These paint over what is there, within a rectangle of the picture. The runs were made for the
-  /// pixel that is at `x`, `y`; of a mask and of an ARGB32 image surface the top left pixel is
-  /// there.
+  /// These paint over the picture, within a rectangle. `x`, `y` is the position of the runs'
+  /// origin, or of the top left pixel of a mask or an ARGB32 image surface.
   void paint(const CoverageRuns& runs, int x, int y, const PixelRect& clip,
              const Rows<DeepColor>& colors);
   void paint(cairo_surface_t* mask, int x, int y, const PixelRect& clip,
              const Rows<DeepColor>& colors);
   void paintPicture(cairo_surface_t* picture, int x, int y, const PixelRect& clip, double opacity);
 
-  /// Paints it over an ARGB32 image surface, with its top left at `x`, `y` of that.
+  /// Paints it over an ARGB32 image surface, with its top left at `x`, `y`.
   void paintOver(cairo_surface_t* target, int x, int y) const;
 
  private:

@@ -1,4 +1,4 @@
-// The sizes of pictures and symbols as the view kit asks for them.
+// The sizes of pictures and symbols for the view kit.
 #include "desk/canvas/DrawingResources.hpp"
 
 namespace orvane::desk {

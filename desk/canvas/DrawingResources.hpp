@@ -1,4 +1,5 @@
-// What all canvases of a desk share: pictures, symbols, the text shaper, and the masks made so far.
+// The resources that all canvases of a desk share: pictures, symbols, the text shaper, cached
+// masks.
 #pragma once
 
 #include <set>
@@ -19,10 +20,10 @@ struct DrawingResources {
   TextShaper shaper;
   MaskCache masks{std::size_t{48} << 20U};
   CoverageCache coverage;
-  /// Names of images and symbols that were asked for in vain, for tests to be empty.
+  /// The unknown images and symbols that were drawn; tests expect none.
   std::set<std::string> missingNames;
 
-  /// The sizes of the pictures and symbols, for layout. It refers to this object, which has to
+  /// The sizes of the pictures and symbols, for layout. It refers to this object, which must
   /// outlive it.
   ui::ImageSource imageSource();
 };

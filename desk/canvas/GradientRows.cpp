@@ -1,4 +1,4 @@
-// The strip is drawn by cairo itself, so that its colours are those that cairo would have given.
+// Cairo draws the strip, so that its colours equal those of a cairo gradient.
 #include "desk/canvas/GradientRows.hpp"
 
 #include <algorithm>

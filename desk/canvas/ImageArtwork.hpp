@@ -1,4 +1,4 @@
-// The application's images as they are embedded in the program.
+// The application's images, embedded in the program.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Decodes pictures once and prepares them for the sizes at which they are shown.
+// Decodes pictures once, and caches them at the sizes at which they are shown.
 #include "desk/canvas/ImageLibrary.hpp"
 
 #include <algorithm>
@@ -12,14 +12,14 @@ namespace orvane::desk {
 namespace {
 
 constexpr std::uint8_t pngSignature[] = {0x89, 'P', 'N', 'G'};
-// A picture that is being scaled passes through many sizes; only some need to be remembered.
+// An animated scale produces many sizes, of which only some are cached.
 constexpr std::size_t mostPrepared = 64;
 
 SurfacePointer makePixels(int width, int height) {
   return SurfacePointer(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
 }
 
-/// Half the width and height, every pixel the mean of four.
+/// Halves width and height; every pixel is the mean of four.
 SurfacePointer halved(cairo_surface_t* source) {
   const int width = std::max(1, cairo_image_surface_get_width(source) / 2);
   const int height = std::max(1, cairo_image_surface_get_height(source) / 2);
@@ -96,7 +96,7 @@ cairo_surface_t* ImageLibrary::pixelsFor(const std::string& name, Picture& pictu
   if (picture.drawing) {
     made = makePixels(wanted.first, wanted.second);
     const ContextPointer context(cairo_create(made.get()));
-    // The drawing is stretched like any image, whatever its own proportions are.
+    // A drawing is stretched like any image.
     cairo_scale(context.get(), wanted.first / picture.size.width,
                 wanted.second / picture.size.height);
     const RsvgRectangle viewport{0, 0, picture.size.width, picture.size.height};
@@ -123,7 +123,7 @@ bool ImageLibrary::paint(cairo_t* context, const std::string& name, double x, do
   double deviceWidth = width;
   double deviceHeight = height;
   cairo_user_to_device_distance(context, &deviceWidth, &deviceHeight);
-  // A scaled rectangle whose edges fall on pixels must not become a pixel larger by rounding.
+  // Rounding must not enlarge a scaled rectangle whose edges are on pixels.
   constexpr double tolerance = 1.0e-6;
   const PixelSize wanted{
       std::max(1, static_cast<int>(std::ceil(std::abs(deviceWidth) - tolerance))),

@@ -1,4 +1,4 @@
-// Pictures by name, as PNG or SVG: the application's resources, and whatever else the desk shows.
+// Pictures by name, as PNG or SVG.
 #pragma once
 
 #include <cstdint>
@@ -18,37 +18,37 @@ namespace orvane::desk {
 
 class ImageLibrary {
  public:
-  /// Adds a picture, or replaces the one of that name. Bytes that begin like a PNG are read as
-  /// one, all others as SVG. False, and no change, when they cannot be read or the picture has no
-  /// size. The size in points is what is given, else the picture's own in pixels.
+  /// Adds a picture, or replaces the one with that name. Bytes with the signature of PNG are read
+  /// as PNG, others as SVG. False, and no change, when they cannot be read or the picture is empty.
+  /// Without a size in points, the size in pixels counts.
   bool add(const std::string& name, std::span<const std::uint8_t> bytes,
            std::optional<ui::Size> size = std::nullopt);
-  /// The same with a decoded picture, which must not be changed any more, and its size in points.
+  /// The same with a decoded picture, which must not change afterwards, and its size in points.
   bool addPixels(const std::string& name, SurfacePointer pixels, ui::Size size);
 
-  /// Forgets a picture; an unknown name changes nothing.
+  /// Removes a picture; does nothing for an unknown name.
   void remove(const std::string& name);
 
   /// The size in points; empty for an unknown name.
   std::optional<ui::Size> size(const std::string& name) const;
 
-  /// Paints the picture into the rectangle of the current user space, at the full resolution of
-  /// the target. False, and nothing painted, for an unknown name or an empty rectangle.
+  /// Paints the picture into a rectangle of the current user space, at the target's resolution.
+  /// False, and nothing painted, for an unknown name or an empty rectangle.
   bool paint(cairo_t* context, const std::string& name, double x, double y, double width,
              double height);
 
  private:
   struct Picture {
     ui::Size size;
-    // Exactly one of the two is there.
+    // Exactly one of the two is set.
     SurfacePointer pixels;
     ObjectPointer<RsvgHandle> drawing;
   };
   using PixelSize = std::pair<int, int>;
 
   bool keep(const std::string& name, Picture picture);
-  /// The picture at a size in pixels: a drawing is drawn for it and the result kept, pixels are
-  /// halved as often as that leaves them no smaller, which keeps a strong reduction smooth.
+  /// The picture for a size in pixels: a drawing is rendered at that size and cached; a bitmap is
+  /// halved as long as it is at least that large, which keeps a strong reduction smooth.
   cairo_surface_t* pixelsFor(const std::string& name, Picture& picture, PixelSize wanted);
 
   std::map<std::string, Picture> pictures_;

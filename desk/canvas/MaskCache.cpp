@@ -1,4 +1,4 @@
-// Counting what the masks weigh.
+// Accounts for the size of the masks.
 #include "desk/canvas/MaskCache.hpp"
 
 namespace orvane::desk {

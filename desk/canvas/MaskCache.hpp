@@ -1,5 +1,5 @@
-// Coverage pictures that cost time to make (a line of text, a symbol, a blurred shadow), kept by
-// everything their pixels depend on. They carry no colour, so an appearance may change under them.
+// A cache of coverage masks (a line of text, a symbol, a blurred shadow) by everything that their
+// pixels depend on. Masks have no colour, so a change of the appearance does not invalidate them.
 #pragma once
 
 #include <cstddef>
@@ -13,15 +13,15 @@
 
 namespace orvane::desk {
 
-/// An A8 surface and the place of its top left pixel relative to the pixel it was made for. A mask
-/// without a surface covers nothing.
+/// An A8 surface and the position of its top left pixel relative to the anchor. A mask without a
+/// surface covers nothing.
 struct Mask {
   SurfacePointer surface;
   int x = 0;
   int y = 0;
 };
 
-/// Everything the pixels of a mask depend on, as bytes to compare.
+/// Everything that the pixels of a mask depend on, as comparable bytes.
 class MaskKey {
  public:
   MaskKey& add(const std::string& text) {
@@ -44,12 +44,12 @@ class MaskKey {
 
 class MaskCache {
  public:
-  /// Keeps at most about `byteLimit` bytes of pixels. When a new mask would pass the limit, all
-  /// others are dropped: what is on screen is made again at the next drawing.
+  /// Keeps at most about `byteLimit` bytes of pixels. A mask that would exceed the limit evicts all
+  /// others.
   explicit MaskCache(std::size_t byteLimit) : byteLimit_(byteLimit) {}
 
-  /// The mask of the key, made by `make()` if there is none. The reference holds until the next
-  /// call.
+  /// The mask of the key, created by `make()` if there is none. The reference is valid until the
+  /// next call.
   template <typename Make>
   const Mask& get(const MaskKey& key, Make&& make) {
     const auto found = masks_.find(key.bytes());

@@ -1,5 +1,4 @@
-// Paragraph by paragraph: pango finds the breaks, each line is then measured alone, as it will be
-// drawn.
+// Pango breaks each paragraph into lines; each line is then measured separately, as it is drawn.
 #include "desk/canvas/PangoTextMeasurer.hpp"
 
 #include <algorithm>
@@ -13,7 +12,7 @@
 namespace orvane::desk {
 namespace {
 
-// Wider than any text; pango counts widths in 1024ths of a point in an int.
+// Wider than any text; pango represents widths as an int in 1/1024 of a point.
 constexpr double widestLine = 1.0e6;
 constexpr std::size_t mostAnswers = 4096;
 
@@ -24,8 +23,7 @@ std::string withoutTrailingBlanks(std::string line) {
   return line;
 }
 
-/// The byte offsets at which a text may be cut without tearing a character apart, from 0 to its
-/// length.
+/// The byte offsets between the characters of a text, from 0 to its length.
 std::vector<std::size_t> characterOffsets(const TextShaper& shaper, const std::string& text,
                                           const ui::Font& font) {
   const ObjectPointer<PangoLayout> shaped = shaper.layout(text, font);
@@ -63,7 +61,7 @@ ui::TextLayout PangoTextMeasurer::layout(const std::string& text, const ui::Font
 
 ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::Font& font,
                                             double maximumWidth, ui::LineLimit limit) const {
-  // The offsets of the breaks are taken from the text, so it has to be what pango sees.
+  // The offsets of breaks refer to the text that pango has seen.
   const std::string source = validText(text);
   ui::TextLayout layout;
   std::size_t from = 0;
@@ -89,7 +87,7 @@ ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::F
 void PangoTextMeasurer::breakParagraph(const std::string& paragraph, const ui::Font& font,
                                        double maximumWidth, ui::LineLimit limit,
                                        ui::TextLayout& layout) const {
-  // What fits on one line has no breaks to be found.
+  // Text that fits on one line has no breaks.
   if (shaper_.measure(paragraph, font).width <= maximumWidth) {
     addLine(paragraph, font, layout);
     return;
@@ -126,8 +124,8 @@ void PangoTextMeasurer::addLine(const std::string& line, const ui::Font& font,
                                 ui::TextLayout& layout) const {
   const LineMetrics metrics = shaper_.measure(line, font);
   layout.lines.push_back({line, metrics.width});
-  // All lines of a text share the metrics of the tallest, so that a line with Chinese characters
-  // does not stand closer to its neighbours than the others.
+  // All lines share the metrics of the tallest, so that lines with Chinese characters have the same
+  // distance as the others.
   const double descent =
       std::max(layout.lineHeight - layout.ascent, metrics.height - metrics.ascent);
   layout.ascent = std::max(layout.ascent, metrics.ascent);

@@ -1,4 +1,4 @@
-// Measures and breaks text in the pinned fonts, with pango's rules for where a line may break.
+// Measures and breaks text in the pinned fonts, with pango's rules for line breaks.
 #pragma once
 
 #include <map>
@@ -12,7 +12,7 @@ namespace orvane::desk {
 
 class PangoTextMeasurer : public ui::TextMeasurer {
  public:
-  // Layout asks for the same paragraph many times in one pass; the answers are kept.
+  // A cache, because a layout pass measures the same paragraph many times.
   ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
                         ui::LineLimit limit) override;
 

@@ -1,6 +1,6 @@
-// A configuration of our own, with fontconfig's usual folders and caches. It accepts only the
-// pinned families and carries no rules for hinting, emboldening or substitution. The machine's own
-// is not read: its rules take longer than the first picture of a panel.
+// A configuration with fontconfig's usual folders and caches that accepts only the pinned families
+// and has no rules for hinting, emboldening or substitution. The machine's configuration is not
+// read, which also saves time.
 #include "desk/canvas/PinnedFonts.hpp"
 
 #include <cstdio>
@@ -10,13 +10,13 @@
 #include <fontconfig/fontconfig.h>
 #include <pango/pangocairo.h>
 
-// Read by the leak checker of a sanitizer build, where there is one. fontconfig holds its patterns
-// by offsets instead of pointers, so the checker takes for lost what is still in use.
+// Read by the leak checker of a sanitizer build. fontconfig refers to its patterns by offsets
+// instead of pointers, so the checker takes them for leaks.
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() {
   return "leak:libfontconfig.so\n";
 }
-// It says nothing of what it did not complain about.
+// Prevents a report about suppressed leaks.
 extern "C" const char* __lsan_default_options();
 extern "C" const char* __lsan_default_options() {
   return "print_suppressions=0";
@@ -34,7 +34,7 @@ struct FontconfigRelease {
 template <typename Object>
 using FontconfigPointer = std::unique_ptr<Object, FontconfigRelease>;
 
-/// One face that has to be there: what fontconfig calls its weight and slant.
+/// A required face, with fontconfig's weight and slant.
 struct Face {
   const char* family;
   int weight;
@@ -59,7 +59,7 @@ const FcChar8* characters(const char* text) {
   return reinterpret_cast<const FcChar8*>(text);
 }
 
-/// Never looked at again, or fontconfig would read the machine's own after a change of a folder.
+/// Never rescanned, because fontconfig would then read the machine's configuration.
 constexpr const char* noRescan = "<config><rescan><int>0</int></rescan></config>";
 
 constexpr const char* fontFolders =
@@ -72,8 +72,7 @@ std::string acceptedFamily(const char* family) {
          "</string></patelt></pattern></acceptfont>";
 }
 
-/// Made at the first use; never given back, because fontconfig's and pango's own caches refer to it
-/// until the process ends.
+/// Created on first use and never destroyed, because caches of fontconfig and pango refer to it.
 FcConfig* configuration() {
   static FcConfig* const config = [] {
     const std::string xml =
@@ -123,8 +122,8 @@ PangoFontMap* pinnedFontMap() {
       std::fprintf(stderr, "%s\n", message->c_str());
       std::abort();
     }
-    // Before the map is made: its class has a thread load the current configuration, and that of
-    // the machine if there is none yet.
+    // Before the map is created: its class starts a thread that loads the current configuration, or
+    // the machine's if there is none yet.
     FcConfigSetCurrent(configuration());
     PangoFontMap* made = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
     pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(made), 72.0);

@@ -1,4 +1,4 @@
-// cairo's own PNG reader and writer behind byte buffers.
+// Byte buffers for cairo's PNG reader and writer.
 #include "desk/canvas/PngFile.hpp"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Pictures as PNG. The bytes depend on the pixels alone: no time, no text, no program name.
+// Pictures as PNG. The bytes depend only on the pixels.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@
 
 namespace orvane::desk {
 
-/// The PNG of an image surface; empty when the surface is broken or not an image.
+/// The PNG of an image surface; empty when the surface is in an error state or no image.
 std::vector<std::uint8_t> encodePng(cairo_surface_t* surface);
 
 /// The picture in a PNG; null when the bytes are not one.

@@ -1,4 +1,4 @@
-// Draws a shape with room around it and blurs it.
+// Draws a shape with a margin and blurs it.
 #include "desk/canvas/ShadowMask.hpp"
 
 #include <cmath>

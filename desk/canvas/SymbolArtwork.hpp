@@ -1,4 +1,4 @@
-// The drawings of desk/symbols as the build puts them into the library.
+// The drawings of desk/symbols, embedded in the library.
 #pragma once
 
 #include <span>
@@ -11,7 +11,7 @@ struct SymbolArtwork {
   std::string_view svg;
 };
 
-/// Every drawing the desk has, in ascending order of name.
+/// All drawings, ordered by name.
 std::span<const SymbolArtwork> symbolArtworks();
 
 }  // namespace orvane::desk

@@ -16,11 +16,10 @@ namespace {
 // The grid that desk/symbols/README.md describes.
 constexpr double unitsPerPointSize = 24.0;
 constexpr double regularStroke = 2.0;
-// Only the middle 28 of 32 units count for layout; the rest is room for heavy strokes.
+// Only the middle 28 of 32 units count for layout; the rest is for heavy strokes.
 constexpr double layoutUnits = 28.0;
 
-/// The stroke of an outline, in units of the grid. The steps were chosen by eye beside words of the
-/// system face in the same weight.
+/// The stroke of an outline, in units of the grid, chosen by eye next to text of the same weight.
 double strokeOf(ui::Weight weight) {
   switch (weight) {
     case ui::Weight::ultraLight:
@@ -62,14 +61,14 @@ const SymbolArtwork* artworkOf(const std::string& name) {
   return found != artworks.end() && found->name == name ? &*found : nullptr;
 }
 
-// Fine pixels across and down in one pixel. Masks are shared between quarters of a pixel.
+// Samples per pixel, horizontally and vertically. Masks have quarter-pixel positions.
 constexpr int finePixels = 4;
 
 int floorDivided(int value, int divisor) {
   return static_cast<int>(std::floor(static_cast<double>(value) / divisor));
 }
 
-/// The alpha of a picture, every pixel the mean of its fine pixels.
+/// The alpha of a picture; every pixel is the mean of its samples.
 SurfacePointer reducedAlpha(cairo_surface_t* picture, int width, int height) {
   cairo_surface_flush(picture);
   SurfacePointer result(cairo_image_surface_create(CAIRO_FORMAT_A8, width, height));
@@ -143,8 +142,8 @@ Mask SymbolLibrary::makeMask(const std::string& name, const ui::Font& font,
   }
   const double width = found->unitWidth * font.size / unitsPerPointSize * placement.scaleX;
   const double height = found->unitHeight * font.size / unitsPerPointSize * placement.scaleY;
-  // The drawing is made several times as large, on whole pixels of that size: librsvg would blur
-  // what it cuts holes into if it had to place it between pixels.
+  // The drawing is rendered enlarged, on whole pixels: librsvg would blur masked shapes between
+  // pixels.
   const int left = static_cast<int>(std::lround((placement.phaseX - width / 2.0) * finePixels));
   const int top = static_cast<int>(std::lround((placement.phaseY - height / 2.0) * finePixels));
   Mask mask;
@@ -152,7 +151,7 @@ Mask SymbolLibrary::makeMask(const std::string& name, const ui::Font& font,
   mask.y = floorDivided(top, finePixels);
   const int pixelWidth = static_cast<int>(std::ceil(width)) + 1;
   const int pixelHeight = static_cast<int>(std::ceil(height)) + 1;
-  // The holes need a surface with colours.
+  // Masked shapes need a surface with colours.
   const SurfacePointer picture(cairo_image_surface_create(
       CAIRO_FORMAT_ARGB32, pixelWidth * finePixels, pixelHeight * finePixels));
   const ContextPointer context(cairo_create(picture.get()));

@@ -1,4 +1,4 @@
-// The symbols of desk/symbols as coverage pictures: by name, size, weight and place in the pixel.
+// The symbols of desk/symbols as coverage masks, by name, size, weight and subpixel position.
 #pragma once
 
 #include <map>
@@ -16,15 +16,15 @@ namespace orvane::desk {
 
 class SymbolLibrary {
  public:
-  /// True when there is a drawing of that name.
+  /// Whether there is a drawing with that name.
   static bool contains(const std::string& name);
 
-  /// The size in points that a symbol takes in a layout, with the middle of a capital letter at
-  /// half its height; empty for an unknown name.
+  /// The layout size in points, with the middle of a capital letter at half the height; none for an
+  /// unknown name.
   std::optional<ui::Size> size(const std::string& name, const ui::Font& font);
 
-  /// The coverage of the symbol with its centre on the placement's anchor; without a surface for
-  /// an unknown name or a size that is not above zero.
+  /// The coverage of the symbol with its centre at the placement's anchor; without a surface for an
+  /// unknown name or a size that is not positive.
   Mask makeMask(const std::string& name, const ui::Font& font, const PixelPlacement& placement);
 
  private:
@@ -34,7 +34,7 @@ class SymbolLibrary {
     double unitHeight = 0;
   };
 
-  /// The parsed drawing with the strokes of the weight; null for an unknown name.
+  /// The parsed drawing with the stroke widths of the weight; null for an unknown name.
   const Drawing* drawing(const std::string& name, ui::Weight weight);
 
   std::map<std::pair<std::string, ui::Weight>, Drawing> drawings_;

@@ -1,5 +1,5 @@
-// Renders every symbol at the sizes and weights of the interface to PNG, to look at while drawing
-// them: orvane-symbol-sheet FOLDER
+// Renders every symbol at the sizes and weights of the interface to PNG, for work on the drawings:
+// orvane-symbol-sheet FOLDER
 #include <cstdio>
 #include <filesystem>
 #include <string>
@@ -49,7 +49,7 @@ void drawCell(ui::Canvas& canvas, desk::DrawingResources& resources, const Sheet
     const double middle = top + 38;
     canvas.symbol(name, font, ink, {x, middle - extent->height / 2, extent->width, extent->height});
     x += extent->width + 2;
-    // Words in the same font show whether the symbol sits on the line and is as dark as it.
+    // Text in the same font, to compare alignment and weight.
     if (size < 60) {
       const double baseline = middle + resources.shaper.measure("Hx", font).ascent -
                               resources.shaper.measure("Hx", font).height / 2;

@@ -1,5 +1,5 @@
-// Shaping with everything switched off that depends on a machine: hinting, hinted metrics, rounded
-// positions, subpixel colours, the language of the environment.
+// Shaping without anything that depends on the machine: hinting, hinted metrics, rounded positions,
+// subpixel colours, the language of the environment.
 #include "desk/canvas/TextShaper.hpp"
 
 #include <algorithm>
@@ -29,8 +29,8 @@ struct AttributesRelease {
   void operator()(PangoAttrList* attributes) const { pango_attr_list_unref(attributes); }
 };
 
-/// Says of every stretch of a text whether it is Chinese. pango would otherwise ask the
-/// environment, and a Japanese reader would be shown Japanese forms of the same characters.
+/// Marks the Chinese parts of a text. Otherwise pango would use the language of the environment,
+/// and show Japanese forms of the characters in a Japanese one.
 void addLanguages(PangoAttrList* attributes, const std::string& text) {
   constexpr gunichar firstChinese = 0x2E80;
   const char* place = text.c_str();
@@ -62,9 +62,8 @@ bool isChinese(const PangoItem* run) {
          chineseFontFamily;
 }
 
-/// Chinese text takes the room that it has on a Mac, where the face is PingFang SC with 1.06 of its
-/// size above the baseline and 0.34 below. The pinned face asks for 1.16 and 0.288, which would set
-/// its characters too low in everything that centres them.
+/// Chinese text has the metrics of the Mac's PingFang SC: 1.06 of the size above the baseline and
+/// 0.34 below. The pinned font has 1.16 and 0.288, with which centred characters would be too low.
 Reach reachOf(PangoGlyphItem* run, double size) {
   if (isChinese(run->item)) {
     return {1.06 * size, 0.34 * size};
@@ -111,7 +110,7 @@ ObjectPointer<PangoLayout> TextShaper::layout(const std::string& text, const ui:
   pango_layout_set_font_description(layout.get(), description.get());
   pango_layout_set_auto_dir(layout.get(), FALSE);
   pango_layout_set_single_paragraph_mode(layout.get(), TRUE);
-  // A word that is broken between characters gets no hyphen.
+  // No hyphen in a word that is broken between characters.
   const std::unique_ptr<PangoAttrList, AttributesRelease> attributes(pango_attr_list_new());
   pango_attr_list_insert(attributes.get(), pango_attr_insert_hyphens_new(FALSE));
   if (font.tracking != 0) {
@@ -170,7 +169,7 @@ Mask TextShaper::makeMask(const std::string& line, const ui::Font& font,
   if (ink.width <= 0 || ink.height <= 0) {
     return {};
   }
-  // One pixel to each side, because the ink is measured without its soft edge.
+  // One more pixel on each side for antialiased edges.
   Mask mask;
   mask.x = static_cast<int>(std::floor(placement.phaseX + points(ink.x) * placement.scaleX)) - 1;
   mask.y = static_cast<int>(std::floor(placement.phaseY + points(ink.y) * placement.scaleY)) - 1;
@@ -182,7 +181,7 @@ Mask TextShaper::makeMask(const std::string& line, const ui::Font& font,
   const ContextPointer context(cairo_create(mask.surface.get()));
   cairo_translate(context.get(), placement.phaseX - mask.x, placement.phaseY - mask.y);
   cairo_scale(context.get(), placement.scaleX, placement.scaleY);
-  // Outlines keep glyphs at fractions of a pixel; cairo's glyph pictures sit on whole pixels only.
+  // Outlines allow subpixel positions; cairo's cached glyphs do not.
   cairo_set_antialias(context.get(), CAIRO_ANTIALIAS_GOOD);
   pango_cairo_layout_line_path(context.get(), shapedLine);
   cairo_fill(context.get());

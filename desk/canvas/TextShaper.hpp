@@ -1,5 +1,4 @@
-// Turns one line of text into placed glyphs of the pinned fonts. Measuring and drawing both go
-// through here, so that what was measured is what is drawn.
+// Shapes a line of text into positioned glyphs of the pinned fonts, for both measuring and drawing.
 #pragma once
 
 #include <map>
@@ -20,23 +19,23 @@ struct LineMetrics {
   double height = 0;
 };
 
-/// The same text, with every byte that is no UTF-8 replaced by U+FFFD.
+/// The text with every invalid byte replaced by U+FFFD.
 std::string validText(const std::string& text);
 
 class TextShaper {
  public:
   TextShaper();
 
-  /// A pango layout of UTF-8 text without a width. A text that is not valid is mended first.
+  /// A pango layout without a width. Invalid UTF-8 is replaced first.
   ObjectPointer<PangoLayout> layout(const std::string& text, const ui::Font& font) const;
 
-  /// The advance width of a line without line breaks, and the height and ascent of the faces that
-  /// it uses, those of the Mac's own for Chinese. An empty line has the height of the system face.
-  /// Answers are kept: layout and the desktop ask for the same lines again and again.
+  /// The advance width of a line without line breaks, and the height and ascent of its fonts, with
+  /// the Mac's metrics for Chinese. An empty line has the height of the interface font. Results are
+  /// cached.
   LineMetrics measure(const std::string& line, const ui::Font& font) const;
 
-  /// The coverage of a line whose baseline starts on the placement's anchor; without a surface
-  /// when there is nothing to see.
+  /// The coverage of a line whose baseline starts at the placement's anchor; without a surface when
+  /// nothing is visible.
   Mask makeMask(const std::string& line, const ui::Font& font,
                 const PixelPlacement& placement) const;
 

@@ -59,7 +59,7 @@ void CheckedSession::report(Violation violation) {
 void CheckedSession::end() {
   checker_.reset();
   session_->end();
-  for (const std::string& mistake : session_->mistakes()) {
+  for (const std::string& mistake : session_->problems()) {
     report({"end", mistake});
   }
 }

@@ -169,7 +169,7 @@ Lines clickSomewhere(ActionContext& context) {
   const std::string surface = anySurface(context);
   const auto controls = Surfaces(WindowServer::current()).controls(surface);
   if (!controls.empty() && context.random.chance(600)) {
-    const CGRect& frame = context.random.oneOf(controls).frameInSight;
+    const CGRect& frame = context.random.oneOf(controls).visibleFrame;
     if (frame.size.width >= 1 && frame.size.height >= 1) {
       return {"click " +
               pointText({std::floor(CGRectGetMidX(frame)), std::floor(CGRectGetMidY(frame))})};
@@ -210,18 +210,18 @@ Lines dragWindow(ActionContext& context) {
 Lines closeWindow(ActionContext& context) {
   const Surfaces surfaces(WindowServer::current());
   // The windows with a close button of the system.
-  if (surfaces.isThere("alert")) {
+  if (surfaces.isOpen("alert")) {
     return {"close alert"};
   }
-  if (surfaces.isThere("system")) {
+  if (surfaces.isOpen("system")) {
     return {"close system"};
   }
-  return surfaces.isThere("main") && context.random.chance(500) ? Lines{"minimise main"} : Lines{};
+  return surfaces.isOpen("main") && context.random.chance(500) ? Lines{"minimise main"} : Lines{};
 }
 
 Lines dropIcon(ActionContext& /*context*/) {
   const Surfaces surfaces(WindowServer::current());
-  return surfaces.isThere("guide") && surfaces.isThere("system") ? Lines{"drop icon"} : Lines{};
+  return surfaces.isOpen("guide") && surfaces.isOpen("system") ? Lines{"drop icon"} : Lines{};
 }
 
 Lines doOperation(ActionContext& context) {
@@ -256,7 +256,7 @@ Lines doOperation(ActionContext& context) {
 
 Lines followGuide(ActionContext& context) {
   const Surfaces surfaces(WindowServer::current());
-  if (surfaces.isThere("alert")) {
+  if (surfaces.isOpen("alert")) {
     if (context.machine.eventTaps.isAnyEnabled() && context.random.chance(600)) {
       return runAway(context);
     }
@@ -270,7 +270,7 @@ Lines followGuide(ActionContext& context) {
         controlLine("press", "alert", controls, context.random.chance(800) ? openSettings : notNow),
         context.random.chance(700) ? "advance 2" : "advance 0.7"};
   }
-  if (!surfaces.isThere("guide")) {
+  if (!surfaces.isOpen("guide")) {
     return {};
   }
   constexpr std::array<const char*, 10> steps{"advance 10.5",

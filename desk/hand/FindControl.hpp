@@ -1,4 +1,4 @@
-// Finds elements and controls in a semantics tree.
+// Searches of a semantics tree.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace orvane::desk {
 
-/// All elements for which `isWanted` holds, in the order of reading: parents before their children.
+/// All elements for which `isWanted` is true, in reading order: parents before children.
 template <typename Predicate>
 [[nodiscard]] std::vector<ui::SemanticsNode> findElements(const ui::SemanticsNode& root,
                                                           const Predicate& isWanted) {

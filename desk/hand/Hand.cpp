@@ -1,5 +1,5 @@
-// Distinguishes a control that is disabled or blocked by a modal window from one that does not
-// exist.
+// A refusal distinguishes a control that is disabled or blocked by a modal window from one that
+// does not exist.
 #include "desk/hand/Hand.hpp"
 
 #include <algorithm>
@@ -27,7 +27,7 @@ Hand::FoundWindow Hand::findWindow(const std::string& surface) const {
     return {nullptr, "there is no surface " + inQuotes(surface)};
   }
   if (WindowServer::current().modal.blocks(*window)) {
-    return {nullptr, inQuotes(surface) + " is kept back by a modal window"};
+    return {nullptr, inQuotes(surface) + " is blocked by a modal window"};
   }
   return {std::move(window), std::nullopt};
 }
@@ -35,7 +35,7 @@ Hand::FoundWindow Hand::findWindow(const std::string& surface) const {
 Hand::FoundControl Hand::find(const ControlName& name) const {
   std::vector<std::string> places = surfaces().names();
   if (name.surface) {
-    const bool isOpenMenu = *name.surface == Surfaces::menu && surfaces().isThere(Surfaces::menu);
+    const bool isOpenMenu = *name.surface == Surfaces::menu && surfaces().isOpen(Surfaces::menu);
     FoundWindow found = isOpenMenu ? FoundWindow{} : findWindow(*name.surface);
     if (found.refusal) {
       return {std::nullopt, std::move(found.refusal)};
@@ -69,7 +69,7 @@ std::optional<SurfaceControl> Hand::control(const std::string& label,
   return found != controls.end() ? std::optional(std::move(*found)) : std::nullopt;
 }
 
-std::optional<CGPoint> Hand::menuItemPlace(const std::string& title) const {
+std::optional<CGPoint> Hand::menuItemCenter(const std::string& title) const {
   MenuTracker& menus = WindowServer::current().menus;
   menus.layOut();
   for (const MenuRow& row : menus.rows()) {
@@ -87,7 +87,7 @@ Hand::Refusal Hand::press(const ControlName& name) const {
   }
   const bool isDone = found.control->press();
   machine_.runDue();
-  return isDone ? std::nullopt : Refusal(inQuotes(name.label) + " did not take the press");
+  return isDone ? std::nullopt : Refusal(inQuotes(name.label) + " did not react to the press");
 }
 
 Hand::Refusal Hand::hover(const ControlName& name) const {
@@ -95,7 +95,7 @@ Hand::Refusal Hand::hover(const ControlName& name) const {
   if (!found.control) {
     return found.refusal;
   }
-  const CGRect& frame = found.control->frameInSight;
+  const CGRect& frame = found.control->visibleFrame;
   if (frame.size.width <= 0 || frame.size.height <= 0) {
     return inQuotes(name.label) + " is scrolled out of sight";
   }
@@ -142,7 +142,7 @@ Hand::Refusal Hand::openStatusMenu() const {
   }
   const bool isOpen = server.menus.openStatusMenu(machine_.pointer.displayIndex().value_or(0));
   machine_.runDue();
-  return isOpen ? std::nullopt : Refusal("a modal window keeps the menu back");
+  return isOpen ? std::nullopt : Refusal("a modal window blocks the menu");
 }
 
 Hand::Refusal Hand::close(const std::string& surface) const {
@@ -181,7 +181,7 @@ void Hand::releaseButton() const {
 }
 
 void Hand::click(CGPoint place) const {
-  // Somebody has to hear of it, also when nothing has been shown yet.
+  // The window server, which is created on first use, receives the click.
   WindowServer::current();
   moveTo(place);
   pressButton();
@@ -189,9 +189,9 @@ void Hand::click(CGPoint place) const {
 }
 
 bool Hand::key(const ui::KeyEvent& event) const {
-  const bool isTaken = WindowServer::current().keyDown(event);
+  const bool isHandled = WindowServer::current().keyDown(event);
   machine_.runDue();
-  return isTaken;
+  return isHandled;
 }
 
 }  // namespace orvane::desk

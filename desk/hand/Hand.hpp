@@ -1,5 +1,5 @@
-// Hand operates what the displays show, as a user does: it finds a control by its label and presses
-// it, hovers over it, picks from it; it drags, moves the mouse and types.
+// Hand operates the simulated Mac as a user does: it presses, hovers and picks controls by their
+// labels, drags, moves the mouse and types.
 #pragma once
 
 #include <cstdint>
@@ -17,30 +17,30 @@
 
 namespace orvane::desk {
 
-/// Which control is meant.
+/// Identifies a control.
 struct ControlName {
   std::string label;
-  /// Without one, the frontmost that has such a control.
+  /// None for the frontmost surface that has such a control.
   std::optional<std::string> surface = std::nullopt;
-  /// Which of several, from 1.
+  /// The position among equal controls, from 1.
   std::int64_t nth = 1;
   std::optional<ui::Role> role = std::nullopt;
 };
 
-/// For the current machine. Each action runs what is due at the present instant and leaves the
-/// machine at rest. Points are in global coordinates. Cheap to make; keeps nothing.
+/// Acts on the current machine. After each action the machine runs all tasks that are due. Points
+/// are in global coordinates. It has no state.
 class Hand {
  public:
-  /// Why something could not be done, for people; none when it was done.
+  /// Why an action was not possible, in words; none on success.
   using Refusal = std::optional<std::string>;
 
   struct FoundControl {
     std::optional<SurfaceControl> control;
-    /// Why there is none.
+    /// Why `control` is none.
     Refusal refusal;
   };
   struct FoundWindow {
-    /// Null when it cannot be operated.
+    /// Null when it is not open or blocked.
     std::shared_ptr<DeskWindow> window;
     Refusal refusal;
   };
@@ -48,23 +48,23 @@ class Hand {
   /// Not owned.
   explicit Hand(Machine& machine) : machine_(machine) {}
 
-  /// Only an enabled control that no modal window keeps back.
+  /// Finds an enabled control on a surface that no modal window blocks.
   [[nodiscard]] FoundControl find(const ControlName& name) const;
-  /// The frontmost visible window of that name, unless a modal window keeps it back.
+  /// The frontmost visible window with that name, unless a modal window blocks it.
   [[nodiscard]] FoundWindow findWindow(const std::string& surface) const;
-  /// The first control of a surface with that label, disabled or kept back as it may be.
+  /// The first control of a surface with that label, even if it is disabled or blocked.
   [[nodiscard]] std::optional<SurfaceControl> control(const std::string& label,
                                                       const std::string& surface) const;
-  /// The middle of the row with that title in the open menu; none when there is none.
-  [[nodiscard]] std::optional<CGPoint> menuItemPlace(const std::string& title) const;
+  /// The centre of the row with that title in the open menu; none without such a row.
+  [[nodiscard]] std::optional<CGPoint> menuItemCenter(const std::string& title) const;
 
-  /// The accessibility press, which needs no sight.
+  /// The accessibility press; the control need not be visible.
   Refusal press(const ControlName& name) const;
-  /// The pointer onto the middle of what is in sight of the control.
+  /// Moves the pointer to the centre of the visible part of the control.
   Refusal hover(const ControlName& name) const;
-  /// Presses a pop-up button and chooses the item of the menu that it opens.
+  /// Presses a pop-up button and chooses an item of its menu.
   Refusal pick(ControlName name, const std::string& item) const;
-  /// Chooses the item of the open menu.
+  /// Chooses an item of the open menu.
   Refusal choose(const std::string& item) const;
   /// Opens the status item's menu on the display under the pointer.
   Refusal openStatusMenu() const;
@@ -73,17 +73,17 @@ class Hand {
   Refusal minimise(const std::string& surface) const;
   /// Drags a window by its background.
   Refusal dragWindow(const std::string& surface, double dx, double dy) const;
-  /// Drags the permission guide's icon onto the list in the System Settings.
+  /// Drags the permission guide's icon onto the Accessibility list of System Settings.
   Refusal dropIcon() const;
-  /// Where the guide's icon can be taken; none without a guide.
-  [[nodiscard]] std::optional<CGPoint> iconPlace() const;
+  /// A point on the guide's icon; none without a guide.
+  [[nodiscard]] std::optional<CGPoint> iconLocation() const;
 
   void moveTo(CGPoint place) const;
   void pressButton() const;
   void releaseButton() const;
   /// Moves there and clicks.
   void click(CGPoint place) const;
-  /// To whatever has the keyboard. Whether anybody did anything with it.
+  /// Types a key. Whether the menu, a window or the application handled it.
   bool key(const ui::KeyEvent& event) const;
 
  private:

@@ -1,4 +1,4 @@
-// The hand's drags: a window by its background, the permission guide's icon into a list.
+// Dragging a window by its background, and the permission guide's icon onto a list.
 #include <algorithm>
 
 #include "desk/hand/Hand.hpp"
@@ -8,8 +8,9 @@ namespace orvane::desk {
 
 namespace {
 
-/// The first place in an area, looked for in steps from its top left, of which `isRight` is true.
-/// The area is in global coordinates, and so is the place.
+/// The first point for which `isRight` is true, searched for in steps from the area's top left.
+/// Area and result are in global coordinates; the second argument of `isRight` is from the top
+/// left.
 template <typename Predicate>
 std::optional<CGPoint> placeIn(const CGRect& area, double step, const Predicate& isRight) {
   for (double y = step; y < area.size.height; y += step) {
@@ -23,8 +24,8 @@ std::optional<CGPoint> placeIn(const CGRect& area, double step, const Predicate&
   return std::nullopt;
 }
 
-/// Whether a point of the guide's content belongs to its icon: the one thing there that neither
-/// moves the window nor is a control.
+/// Whether a point of the guide's content is on its icon, the only element that neither moves the
+/// window nor is a control.
 bool isIcon(const DeskWindow& guide, const std::vector<SurfaceControl>& controls, ui::Point point) {
   return !guide.content->host().movesWindowAt(point) &&
          std::ranges::none_of(controls, [&](const SurfaceControl& control) {
@@ -56,7 +57,7 @@ Hand::Refusal Hand::dragWindow(const std::string& surface, double dx, double dy)
                server.windowAt(point).get() == &window;
       });
   if (!place) {
-    return "\"" + surface + "\" has no background to be dragged by";
+    return "\"" + surface + "\" has no background to drag it by";
   }
   machine_.mouse.moveTo(*place);
   pressButton();
@@ -69,7 +70,7 @@ Hand::Refusal Hand::dragWindow(const std::string& surface, double dx, double dy)
                                          : std::nullopt;
 }
 
-std::optional<CGPoint> Hand::iconPlace() const {
+std::optional<CGPoint> Hand::iconLocation() const {
   WindowServer& server = WindowServer::current();
   const auto guide = Surfaces(server).window("guide");
   if (guide == nullptr || guide->content == nullptr) {
@@ -78,7 +79,7 @@ std::optional<CGPoint> Hand::iconPlace() const {
   const std::vector<SurfaceControl> controls = Surfaces(server).controls("guide");
   const CGPoint corner = server.topLeftOf(*guide);
   constexpr double step = 4;
-  // It stands in the middle of the width.
+  // It is centred horizontally.
   for (ui::Point point{guide->frame.size.width / 2, step}; point.y < guide->frame.size.height;
        point.y += step) {
     if (isIcon(*guide, controls, point)) {
@@ -93,7 +94,7 @@ Hand::Refusal Hand::dropIcon() const {
   const auto guide = Surfaces(server).window("guide");
   const auto system = Surfaces(server).window("system");
   if (guide == nullptr || system == nullptr || guide->content == nullptr || !system->dropTarget) {
-    return "it takes the surfaces \"guide\" and \"system\"";
+    return "the surfaces \"guide\" and \"system\" must be open";
   }
   constexpr double step = 4;
   const std::vector<SurfaceControl> controls = Surfaces(server).controls("guide");
@@ -106,17 +107,17 @@ Hand::Refusal Hand::dropIcon() const {
         return system->dropTarget->accepts(point) && server.windowAt(place) == system;
       });
   if (!from || !to) {
-    return from ? "the list cannot be reached" : "there is no icon to be dragged";
+    return from ? "the list is covered" : "there is no icon to drag";
   }
   moveTo(*from);
   pressButton();
   constexpr double firstDistance = 6;
   machine_.mouse.moveBy(firstDistance, firstDistance);
   machine_.runDue();
-  const bool isUnderWay = server.pointer.fileDrag().has_value();
+  const bool hasStarted = server.pointer.fileDrag().has_value();
   machine_.mouse.moveTo(*to);
   releaseButton();
-  return isUnderWay ? std::nullopt : Refusal("dragging the icon began nothing");
+  return hasStarted ? std::nullopt : Refusal("the icon did not start a drag");
 }
 
 }  // namespace orvane::desk

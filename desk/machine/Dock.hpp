@@ -73,6 +73,7 @@ class Dock {
   [[nodiscard]] CGRect frame() const;
   /// From 0, hidden, to 1, shown; in between while it slides.
   [[nodiscard]] double shownFraction() const;
+
   /// How often it appeared on each display, by the display's number at that time. Being there from
   /// the start does not count.
   [[nodiscard]] const std::map<std::uint32_t, std::int64_t>& reveals() const { return reveals_; }
@@ -107,7 +108,7 @@ class Dock {
   /// 0 when there is no display.
   std::uint64_t displayIdentity_ = 0;
   std::uint64_t mainIdentity_ = 0;
-  /// When it last began to slide in or out. For a slide that was reversed half way, the time at
+  /// The start of the last slide by the clock. For a slide that was reversed half way, the time at
   /// which a full slide would have begun.
   std::int64_t slideStartedAt_ = -slideNanoseconds;
   std::map<std::uint32_t, std::int64_t> reveals_;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* notRunning = "the application is not running";
 
-/// What is done to the application while it runs.
+/// An action that requires a running application.
 auto whileRunning(void (ApplicationHost::*action)()) {
   return [action](ScriptContext& context) -> Problem {
     if (!context.application().isRunning()) {
@@ -24,7 +24,7 @@ auto whileRunning(void (ApplicationHost::*action)()) {
   };
 }
 
-/// One of the cases of a type, by its raw value.
+/// A choice among the cases of an enumeration, by raw value.
 template <typename Type>
 Parameter<Type> oneOf() {
   std::vector<std::pair<std::string_view, Type>> values;
@@ -43,7 +43,7 @@ auto onModel(void (OrvaneModel::*operation)(Values...)) {
   };
 }
 
-/// By their names, with what each takes.
+/// By name, with their parameters.
 const CommandTable& operations() {
   using Model = OrvaneModel;
   static const CommandTable all = [] {

@@ -1,4 +1,4 @@
-// What a script can look at of the application.
+// The parts of the application that a script can inspect.
 #include <cmath>
 #include <optional>
 #include <string>
@@ -40,8 +40,8 @@ Json zones(const GuardSnapshot& guard) {
   return list;
 }
 
-/// Seconds between the launch and a moment of the calendar clock. That clock is a little coarser
-/// than a microsecond, so each end is brought to whole microseconds before they are compared.
+/// Seconds from the launch to a time of the calendar clock. That clock is slightly coarser than a
+/// microsecond, so both times are rounded to microseconds first.
 double secondsSinceLaunch(CFAbsoluteTime moment, std::int64_t launchedAtNanoseconds) {
   const double sinceStart = moment - static_cast<double>(Clock::calendarSecondsAtStart);
   const std::int64_t microseconds = std::llround(sinceStart * 1e6);
@@ -49,7 +49,7 @@ double secondsSinceLaunch(CFAbsoluteTime moment, std::int64_t launchedAtNanoseco
   return jsonSeconds((microseconds - launchMicroseconds) * 1000);
 }
 
-/// As the application sees them at this moment, whether it runs or not.
+/// As the application would list them now, whether it is running or not.
 Problem lookAtDisplays(ScriptContext&, const std::string&, Json& shown) {
   shown = Json::array();
   for (const DisplaySnapshot& display : DockMouseGuard::displays()) {
@@ -64,7 +64,7 @@ Problem lookAtDisplays(ScriptContext&, const std::string&, Json& shown) {
   return std::nullopt;
 }
 
-/// While the application does not run, what a new guard says.
+/// While the application is not running, the state of a new guard.
 Problem lookAtGuard(ScriptContext& context, const std::string&, Json& shown) {
   const GuardSnapshot guard = context.application().snapshot().guard;
   const EventTaps& taps = context.machine().eventTaps;

@@ -1,4 +1,4 @@
-// Arguments reads the words after a command's name, each as the type that the command declares.
+// Arguments parses the words after a command's name.
 #include "desk/script/Arguments.hpp"
 
 #include <algorithm>
@@ -13,12 +13,12 @@ namespace orvane::desk::script {
 
 namespace {
 
-/// A long text is shown by its beginning only.
+/// Long text is cut.
 std::string inQuotes(std::string_view text) {
   constexpr std::size_t shownBytes = 60;
   std::string shown(text);
   if (text.size() > shownBytes) {
-    // Cut before a character, not within one.
+    // Not within a character.
     std::size_t end = shownBytes;
     while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) {
       --end;

@@ -1,4 +1,4 @@
-// Arguments reads the words after a command's name, each as the type that the command declares.
+// Arguments parses the words after a command's name.
 #pragma once
 
 #include <array>
@@ -15,21 +15,21 @@
 
 namespace orvane::desk::script {
 
-/// Reading goes on after a mistake, with a value that means nothing: only the first mistake is
-/// kept, and a command asks `finish` once before it does anything. Positional words are read from
-/// left to right; options ("key=value") and flags may stand anywhere among them. `what` names the
-/// argument in a message.
+/// After an error, reading continues with meaningless values, and the first error is kept; a
+/// command calls `finish` before it has any effect. Positional words are read from left to right;
+/// options
+/// ("key=value") and flags may be anywhere among them. `what` names the argument in an error.
 class Arguments {
  public:
-  /// Lengths and places that a script may use, in points: far beyond any desktop, and far from
-  /// where doubles lose fractions.
+  /// The limit of lengths and coordinates, in points: far beyond any desktop, and small enough for
+  /// doubles to keep fractions.
   static constexpr double coordinateLimit = 1e9;
 
-  /// `line` is the whole line that the words stand in.
+  /// `line` is the line that contains the words.
   Arguments(std::span<const Word> words, std::string_view line)
       : words_(words), line_(line), isRead_(words.size(), false) {}
 
-  /// Whether all words have been read.
+  /// Whether no word is left.
   [[nodiscard]] bool isEmpty() const { return !next().has_value(); }
 
   std::string text(std::string_view what);
@@ -44,36 +44,36 @@ class Arguments {
   std::int64_t nanoseconds(std::string_view what, std::int64_t highest);
   /// "X,Y,W,H".
   std::array<double, 4> rectangle(std::string_view what);
-  /// The place of the word among the choices.
+  /// The index of the word in `choices`.
   std::size_t choice(std::string_view what, std::span<const std::string_view> choices);
 
-  /// The value of "key=value"; none when there is no such word.
+  /// The value of the word "key=value"; none without such a word.
   std::optional<std::string> option(std::string_view key);
   /// The same as a number from `lowest` to `highest`.
   std::optional<std::int64_t> integerOption(std::string_view key, std::int64_t lowest,
                                             std::int64_t highest);
-  /// The same as "X,Y,W,H"; it must be there.
+  /// The same as "X,Y,W,H"; required.
   std::array<double, 4> rectangleOption(std::string_view key);
-  /// Whether the bare word is there.
+  /// Whether there is such a word.
   bool flag(std::string_view word);
-  /// Reads the next word when it is this one.
+  /// Reads the next word if it is this one.
   bool keyword(std::string_view word);
 
-  /// What remains of the line, as it is written there, without a comment at its end.
+  /// The rest of the line as written, without a comment.
   std::string_view restAsWritten(std::string_view what);
-  /// What remains, words separated by one blank; may be empty.
+  /// The remaining words, separated by one blank each; may be empty.
   std::string restAsText();
 
-  /// For a mistake that only the command can see; kept when it is the first.
+  /// Reports an error that the command has found; kept if it is the first.
   void report(std::string problem);
-  /// The first mistake; a word that nobody read is one.
+  /// The first error. An unread word is an error.
   [[nodiscard]] Problem finish();
-  /// Whether there was a mistake so far.
+  /// Whether there was an error so far.
   [[nodiscard]] bool isWrong() const { return problem_.has_value(); }
 
  private:
   [[nodiscard]] std::optional<std::size_t> next() const;
-  /// Null, and a problem reported, when there is none.
+  /// Null, with a reported error, when there is none.
   const Word* take(std::string_view what);
   std::array<double, 4> parseRectangle(std::string_view what, std::string_view text);
   double checkedNumber(std::string_view what, std::string_view text);
@@ -97,7 +97,7 @@ template <typename Table>
   return list;
 }
 
-/// `text` cut at each comma; empty text gives no part.
+/// The parts of `text` between commas; none for an empty text.
 [[nodiscard]] std::vector<std::string> splitAtCommas(std::string_view text);
 
 }  // namespace orvane::desk::script

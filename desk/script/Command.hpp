@@ -15,16 +15,16 @@
 namespace orvane::desk::script {
 
 struct Command {
-  /// One word, or two when the first one begins a family, such as "display attach".
+  /// One word, or two for a command of a family, such as "display attach".
   std::string name;
-  /// The shape of its arguments, for people; empty when it has none.
+  /// The usage of its arguments, as shown in errors; empty without arguments.
   std::string usage;
-  /// Reads all arguments before it does anything; says what is wrong when it cannot be carried out.
-  /// What falls due at the same instant is served by whoever calls it.
+  /// Reads all arguments before it has any effect. Returns why it failed. The caller runs the tasks
+  /// that are due afterwards.
   std::function<Problem(ScriptContext&, Arguments&)> run;
 };
 
-/// Calls the action on the machine, or on the whole context when that is what it takes.
+/// Calls the action with the context or with its machine, depending on the parameter type.
 template <typename Action, typename... Values>
 Problem carryOut(const Action& action, ScriptContext& context, Values&&... values) {
   const auto call = [&] {
@@ -42,8 +42,8 @@ Problem carryOut(const Action& action, ScriptContext& context, Values&&... value
   }
 }
 
-/// A command with those parameters. The action gets the machine, or the context, and their values,
-/// none of them wrong; it returns nothing, or what is wrong when it cannot be carried out.
+/// A command with these parameters. The action is called with the machine or the context, and valid
+/// values; it returns nothing, or a Problem.
 template <typename... Values, typename Action>
 [[nodiscard]] Command makeCommand(std::string name, std::tuple<Parameter<Values>...> parameters,
                                   Action action) {
@@ -56,7 +56,7 @@ template <typename... Values, typename Action>
   return {std::move(name), std::move(usage),
           [parameters = std::move(parameters), action](ScriptContext& context,
                                                        Arguments& arguments) -> Problem {
-            // What stands in braces is read from left to right.
+            // Braces guarantee evaluation from left to right.
             auto values = std::apply(
                 [&](const auto&... parameter) {
                   return std::tuple<Values...>{parameter.read(context, arguments)...};

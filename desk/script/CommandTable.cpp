@@ -1,4 +1,4 @@
-// The commands of the script language, by their names. Whoever has commands to add adds them.
+// The commands of the script language, by name.
 #include "desk/script/CommandTable.hpp"
 
 #include "desk/script/Commands.hpp"
@@ -26,8 +26,10 @@ CommandTable::Found CommandTable::find(std::span<const Word> words) const {
   if (family.empty()) {
     return {nullptr, 0, "unknown command \"" + first + "\""};
   }
-  const std::string asked = words.size() > 1 ? " \"" + words[1].text + "\"" : " alone";
-  return {nullptr, 0, first + " knows no command" + asked + ", only " + family};
+  if (words.size() == 1) {
+    return {nullptr, 0, first + " must be followed by one of " + family};
+  }
+  return {nullptr, 0, first + " has no command \"" + words[1].text + "\", only " + family};
 }
 
 std::string CommandTable::familyOf(std::string_view word) const {

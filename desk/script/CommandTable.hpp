@@ -1,4 +1,4 @@
-// The commands of the script language, by their names. Whoever has commands to add adds them.
+// The commands of the script language, by name.
 #pragma once
 
 #include <cstddef>
@@ -20,28 +20,28 @@ class CommandTable {
   struct Found {
     /// Null when there is no such command.
     const Command* command = nullptr;
-    /// How many words its name has.
+    /// The number of words of its name.
     std::size_t nameWords = 0;
-    /// What is wrong when there is no such command.
+    /// Why there is no such command.
     Problem problem;
   };
 
-  /// A command of the same name is replaced.
+  /// Replaces a command with the same name.
   void add(Command command);
-  /// Its name, what it takes and what it does; see `makeCommand`.
+  /// Adds a command with this name, parameters and action; see `makeCommand`.
   template <typename Parameters, typename Action>
   void add(std::string name, Parameters parameters, Action action) {
     add(makeCommand(std::move(name), std::move(parameters), std::move(action)));
   }
-  /// The command that the words begin with; there must be at least one word.
+  /// The command at the beginning of the words, of which there must be at least one.
   [[nodiscard]] Found find(std::span<const Word> words) const;
 
-  /// All commands in the order of their names.
+  /// All commands, ordered by name.
   [[nodiscard]] const std::map<std::string, Command, std::less<>>& all() const { return commands_; }
 
  private:
-  /// The second words of the family that `word` begins, separated by commas; empty when it begins
-  /// none.
+  /// The second words of the family with the first word `word`, separated by commas; empty when
+  /// there is no such family.
   [[nodiscard]] std::string familyOf(std::string_view word) const;
 
   std::map<std::string, Command, std::less<>> commands_;

@@ -5,18 +5,18 @@
 
 namespace orvane::desk::script {
 
-/// A new machine, the passing of time, displays.
+/// Reset, time, displays.
 void addMachineCommands(CommandTable& table);
-/// What the user and the system have decided: Dock, permission, languages, defaults, login item,
-/// links, looks.
+/// Settings of the user and the system: Dock, permission, languages, defaults, login item, links,
+/// appearance.
 void addSystemCommands(CommandTable& table);
-/// Start, end and operate the application.
+/// Starting, ending and operating the application.
 void addApplicationCommands(CommandTable& table);
-/// Move the pointer, hold keys, send events.
+/// The pointer, held keys, events.
 void addPointerCommands(CommandTable& table);
-/// Operate windows, the menu and what is in them.
+/// Windows, the menu and their controls.
 void addSurfaceCommands(CommandTable& table);
-/// Look and compare: show, find, picture, echo, expect.
+/// Inspection: show, find, picture, echo, expect.
 void addLookingCommands(CommandTable& table);
 
 }  // namespace orvane::desk::script

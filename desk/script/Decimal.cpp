@@ -1,4 +1,4 @@
-// Numbers as a script writes them: decimal digits with an optional sign and an optional fraction.
+// Parsing and formatting of decimal numbers: digits with an optional sign and fraction.
 #include "desk/script/Decimal.hpp"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Numbers as a script writes them: decimal digits with an optional sign and an optional fraction.
+// Parsing and formatting of decimal numbers: digits with an optional sign and fraction.
 #pragma once
 
 #include <cstdint>
@@ -8,14 +8,14 @@
 
 namespace orvane::desk::script {
 
-/// Each returns none for any other text, and for a number that its type cannot hold.
+/// The parsers return none for any other text, and for a number out of the range of the type.
 [[nodiscard]] std::optional<double> parseDecimal(std::string_view text);
 /// Without a fraction.
 [[nodiscard]] std::optional<std::int64_t> parseInteger(std::string_view text);
-/// Seconds, as exact nanoseconds; further digits of the fraction are rounded to the nearest.
+/// Seconds as exact nanoseconds, rounded to the nearest.
 [[nodiscard]] std::optional<std::int64_t> parseNanoseconds(std::string_view seconds);
 
-/// Nanoseconds as seconds in decimal, exact and without idle zeros: "1000.05".
+/// Nanoseconds as decimal seconds, exact and without trailing zeros: "1000.05".
 [[nodiscard]] std::string secondsText(std::int64_t nanoseconds);
 
 }  // namespace orvane::desk::script

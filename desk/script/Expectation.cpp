@@ -1,4 +1,4 @@
-// Expectation is what a script expects to hold: a value at a path in something that can be shown.
+// Expectations of scripts: a path into the JSON of an inspectable, and the expected value.
 #include "desk/script/Expectation.hpp"
 
 #include <algorithm>
@@ -17,7 +17,7 @@ namespace {
 constexpr std::size_t deepestNesting = 100;
 constexpr std::string_view lengthStep = "#";
 
-/// How many brackets and braces are open at once at most, outside of texts.
+/// The greatest nesting depth of brackets and braces, outside of strings.
 std::size_t nestingDepth(std::string_view written) {
   std::size_t depth = 0;
   std::size_t deepest = 0;
@@ -38,7 +38,7 @@ std::size_t nestingDepth(std::string_view written) {
   return deepest;
 }
 
-/// Null when there is no such place.
+/// Null when there is no such value.
 const Json* step(const Json& value, const std::string& part) {
   if (value.is_object()) {
     const auto found = value.find(part);

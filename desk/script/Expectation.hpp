@@ -1,4 +1,4 @@
-// Expectation is what a script expects to hold: a value at a path in something that can be shown.
+// Expectations of scripts: a path into the JSON of an inspectable, and the expected value.
 #pragma once
 
 #include <optional>
@@ -12,26 +12,25 @@
 
 namespace orvane::desk::script {
 
-/// Reads `written` as JSON; none when it is not JSON, or nested deeper than 100 levels.
+/// Parses `written`; none when it is not JSON or has more than 100 levels.
 [[nodiscard]] std::optional<Json> parseJson(std::string_view written);
 
-/// "guard.zones.0.rect" cut at its dots; none when a part is empty.
+/// The parts of a path such as "guard.zones.0.rect"; none when a part is empty.
 [[nodiscard]] std::optional<std::vector<std::string>> parsePath(std::string_view path);
 
-/// What stands in `root` at `path`: a name is a key of an object, a whole number an index of an
-/// array, a negative one from its end, "#" at the end of the path the length of an array or object.
-/// None when there is no such place.
+/// The value in `root` at `path`. A name is a key of an object, a whole number an index of an array
+/// (a negative one from its end), and "#" at the end of the path the length of an array or object.
+/// None when there is no such value.
 [[nodiscard]] std::optional<Json> valueAt(const Json& root, const std::vector<std::string>& path);
 
-/// The same in what was seen of `inspectable`, where a key that its counting member does not hold
-/// is 0.
+/// The same in the JSON of `inspectable`, where a missing key of its counting member is 0.
 [[nodiscard]] std::optional<Json> valueAt(const Inspectable& inspectable, const Json& shown,
                                           const std::vector<std::string>& path);
 
-/// Whether both are the same value; the order of the keys of an object does not matter.
+/// Whether the values are equal; the order of keys does not matter.
 [[nodiscard]] bool isSameJson(const Json& first, const Json& second);
 
-/// The report on an expectation that failed.
+/// The message for a failed expectation.
 [[nodiscard]] std::string failureText(std::string_view path, const Json& expected,
                                       const std::optional<Json>& got);
 

@@ -1,4 +1,4 @@
-// The table of what scripts can inspect, by name; each group of commands adds its entries.
+// What scripts can inspect, by name.
 #include "desk/script/InspectableTable.hpp"
 
 #include <utility>

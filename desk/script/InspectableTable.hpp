@@ -1,4 +1,4 @@
-// The table of what scripts can inspect, by name; each group of commands adds its entries.
+// What scripts can inspect, by name.
 #pragma once
 
 #include <functional>
@@ -16,27 +16,26 @@ namespace orvane::desk::script {
 
 using Json = nlohmann::ordered_json;
 
-/// Something that a script can look at: `show` prints it, `expect` compares parts of it.
+/// `show` prints it, `expect` compares parts of it.
 struct Inspectable {
-  /// Puts what is to be seen into `shown`, keys in the order in which they are printed, or says why
-  /// there is nothing to see.
+  /// Writes its state to `shown`, with keys in the order of printing; returns why that is
+  /// impossible.
   using Look = std::function<Problem(ScriptContext&, const std::string& argument, Json& shown)>;
 
   std::string name;
-  /// What the word after the name stands for, such as "SURFACE"; empty when there is none. In an
-  /// expectation it is the first part of the path.
+  /// The name of the parameter after the name, such as "SURFACE"; empty for none. In an expectation
+  /// it is the first part of the path.
   std::string parameter = {};
   Look look;
-  /// A member that counts something by key: a key that it does not hold counts as 0. Empty when
-  /// there is none.
+  /// A member with counts by key, in which a missing key counts as 0; empty for none.
   std::string countingMember = {};
 };
 
 class InspectableTable {
  public:
-  /// An inspectable of the same name is replaced.
+  /// Replaces an inspectable with the same name.
   void add(Inspectable inspectable);
-  /// Null when there is none of this name.
+  /// Null when there is none with this name.
   [[nodiscard]] const Inspectable* find(std::string_view name) const;
   /// All names, separated by commas.
   [[nodiscard]] std::string names() const { return namesIn(inspectables_); }
@@ -45,7 +44,7 @@ class InspectableTable {
   std::map<std::string, Inspectable, std::less<>> inspectables_;
 };
 
-/// Everything that the desk can show.
+/// All of the desk's inspectables.
 [[nodiscard]] InspectableTable standardInspectables();
 
 }  // namespace orvane::desk::script

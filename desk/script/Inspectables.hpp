@@ -1,4 +1,4 @@
-// What a script can look at, in groups.
+// What a script can inspect, in groups.
 #pragma once
 
 #include "Orvane/model/OrvaneStatus.hpp"
@@ -6,14 +6,14 @@
 
 namespace orvane::desk::script {
 
-/// The status as scripts write it, such as "locked".
+/// The status in the script language, such as "locked".
 [[nodiscard]] const char* nameOf(OrvaneStatus status);
 
 /// The machine itself.
 void addMachineInspectables(InspectableTable& table);
-/// The application, as it is inside.
+/// The application's snapshot.
 void addApplicationInspectables(InspectableTable& table);
-/// What the window server shows.
+/// Windows, menus and announcements.
 void addWindowInspectables(InspectableTable& table);
 
 }  // namespace orvane::desk::script

@@ -1,4 +1,4 @@
-// The interpreter carries out a script line by line.
+// The interpreter executes a script line by line.
 #include "desk/script/Interpreter.hpp"
 
 #include <span>

@@ -1,4 +1,4 @@
-// The interpreter carries out a script line by line.
+// The interpreter executes a script line by line.
 #pragma once
 
 #include <string_view>
@@ -15,9 +15,8 @@ class Interpreter {
   Interpreter(const CommandTable& commands, ScriptContext& context)
       : commands_(commands), context_(context) {}
 
-  /// Carries out one line and then serves all that is due at the present instant, so that the
-  /// machine is at rest when it returns. An empty line does nothing. Says why the line could not be
-  /// carried out.
+  /// Executes one line and then all tasks that are due. An empty line does nothing. Returns why the
+  /// line failed.
   Problem run(std::string_view line);
 
  private:

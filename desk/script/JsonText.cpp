@@ -1,4 +1,4 @@
-// JSON as a script prints it.
+// JSON in the format that scripts print.
 #include "desk/script/JsonText.hpp"
 
 #include <array>
@@ -22,8 +22,8 @@ std::string numberText(double number) {
   if (number == 0) {
     return "0";
   }
-  // The smallest positive double has 1074 digits after its point, but at most 17 of its digits
-  // are significant; the greatest has 309 before it.
+  // The smallest positive double has 1074 digits after the point, of which at most 17 are
+  // significant; the greatest has 309 digits before it.
   std::array<char, 400> buffer{};
   const auto result =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed);

@@ -1,4 +1,4 @@
-// JSON as a script prints it.
+// JSON in the format that scripts print.
 #pragma once
 
 #include <cstdint>
@@ -10,9 +10,9 @@
 
 namespace orvane::desk::script {
 
-/// On one line, without blanks between its parts. A number is the shortest decimal that reads back
-/// as the same double, without an exponent and, when it is whole, without a fraction; one that is
-/// not finite is null. Malformed UTF-8 becomes the replacement character.
+/// On one line, without white space. A number is the shortest decimal that reads back as the same
+/// double, without an exponent; one that is not finite becomes null. Malformed UTF-8 becomes the
+/// replacement character.
 [[nodiscard]] std::string jsonText(const nlohmann::ordered_json& value);
 
 /// [x, y, w, h].

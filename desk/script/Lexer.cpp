@@ -21,7 +21,7 @@ bool isControl(char character) {
   return (byte < 0x20 && character != '\t') || byte == 0x7F;
 }
 
-/// Counted in characters.
+/// Columns count characters, from 1.
 std::string atColumn(std::string_view line, std::size_t place) {
   const auto begins = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; };
   return " at column " + std::to_string(std::ranges::count_if(line.substr(0, place), begins) + 1);
@@ -33,7 +33,7 @@ Problem problemWithBytes(std::string_view line) {
   }
   const auto control = std::ranges::find_if(line, isControl);
   if (control != line.end()) {
-    return "a control character" + atColumn(line, static_cast<std::size_t>(control - line.begin()));
+    return "control character" + atColumn(line, static_cast<std::size_t>(control - line.begin()));
   }
   return std::nullopt;
 }
@@ -45,7 +45,7 @@ class WordReader {
     word_.begin = begin;
   }
 
-  /// False when a quote is left open.
+  /// False for an unterminated quote.
   bool read() {
     while (place_ < line_.size() && !isBlank(line_[place_])) {
       if (line_[place_] != '"') {
@@ -79,7 +79,7 @@ class WordReader {
     return false;
   }
 
-  /// From the character after the backslash on.
+  /// Reads an escape, from the character after the backslash.
   void readEscape() {
     const char character = line_[place_];
     switch (character) {
@@ -95,7 +95,7 @@ class WordReader {
         break;
       default:
         if (!word_.problem) {
-          word_.problem = "an unknown escape" + atColumn(line_, place_ - 1);
+          word_.problem = "unknown escape" + atColumn(line_, place_ - 1);
         }
         return;
     }
@@ -124,7 +124,7 @@ LexedLine lexLine(std::string_view line) {
     }
     WordReader reader(line, place);
     if (!reader.read()) {
-      result.problem = "a quote is opened" + atColumn(line, reader.place()) + " and not closed";
+      result.problem = "unterminated quote" + atColumn(line, reader.place());
       return result;
     }
     place = reader.place();

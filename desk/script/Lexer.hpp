@@ -12,28 +12,26 @@ namespace orvane::desk::script {
 
 /// One word of a line.
 struct Word {
-  /// Without quotes, escapes replaced.
+  /// Without quotes and with escapes replaced.
   std::string text;
-  /// Where it stands in the line, in bytes; `end` is the place after it.
+  /// The byte range of the word in the line, without `end`.
   std::size_t begin = 0;
   std::size_t end = 0;
-  /// An escape that the language does not know. A word that is read in another way, as JSON is, may
-  /// have one.
+  /// An unknown escape. It is no error in a word that is parsed otherwise, as JSON is.
   Problem problem;
 };
 
 struct LexedLine {
-  /// Empty for an empty line and for one with nothing but a comment.
+  /// Empty for an empty line and a comment.
   std::vector<Word> words;
-  /// When there is one, the words are not to be used.
+  /// If there is one, `words` is invalid.
   Problem problem;
 };
 
-/// `line` is one line without its line break. Words are separated by blanks and tabulators; what
-/// stands in double quotes, anywhere in a word, may hold blanks and the escapes \" \\ \n \t. A "#"
-/// at the beginning of a word begins a comment. The line must be UTF-8 and hold no other control
-/// character; a null byte, an open quote and malformed UTF-8 are complained about with their
-/// column, counted in characters from 1.
+/// `line` is a line without its line break. Words are separated by blanks and tabs. Text in double
+/// quotes, anywhere in a word, may contain blanks and the escapes \" \\ \n \t. A "#" at the
+/// beginning of a word begins a comment. Other control characters, an unterminated quote and
+/// malformed UTF-8 are problems; their column counts characters from 1.
 [[nodiscard]] LexedLine lexLine(std::string_view line);
 
 }  // namespace orvane::desk::script

@@ -1,4 +1,4 @@
-// The commands that look and compare: show, find, picture, echo, expect.
+// The commands for inspection: show, find, picture, echo, expect.
 #include <optional>
 #include <string>
 #include <utility>
@@ -19,7 +19,7 @@ namespace {
 
 constexpr double greatestScale = 16;
 
-/// What to look at, and the word after it.
+/// An inspectable and its argument.
 struct Look {
   const Inspectable* inspectable = nullptr;
   std::string argument;
@@ -28,18 +28,17 @@ struct Look {
 struct Expected {
   std::string path;
   Look look;
-  /// Where the value stands in what is seen.
+  /// The path of the value within it.
   std::vector<std::string> place;
   std::optional<Json> value;
 };
 
-/// Null, and a problem reported, when there is none of that name.
+/// Null, with a reported problem, when there is none with that name.
 const Inspectable* findInspectable(const ScriptContext& context, const std::string& name,
                                    Arguments& arguments) {
   const Inspectable* const inspectable = context.inspectables.find(name);
   if (inspectable == nullptr) {
-    arguments.report("there is no \"" + name + "\" to look at, only " +
-                     context.inspectables.names());
+    arguments.report("there is no \"" + name + "\" to show, only " + context.inspectables.names());
   }
   return inspectable;
 }
@@ -58,7 +57,7 @@ Expected readExpected(ScriptContext& context, Arguments& arguments) {
   const std::string written(arguments.restAsWritten("VALUE"));
   expected.value = parseJson(written);
   if (!expected.value) {
-    arguments.report("VALUE is not JSON: " + written + " (a text stands in double quotes)");
+    arguments.report("VALUE is not JSON: " + written + " (text needs double quotes)");
   }
   std::optional<std::vector<std::string>> parts = parsePath(expected.path);
   if (!parts) {

@@ -1,4 +1,4 @@
-// The commands that concern the machine as a whole, and its displays.
+// The commands for the whole machine and its displays.
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -49,7 +49,7 @@ Parameter<CGRect> frame() {
           }};
 }
 
-/// Seconds, no more of them than the clock still runs.
+/// Seconds, within the limit of the clock.
 Parameter<std::int64_t> duration() {
   return {"S", [](ScriptContext& context, Arguments& arguments) {
             return arguments.nanoseconds(

@@ -1,4 +1,4 @@
-// What a script can look at of the machine itself.
+// The parts of the machine that a script can inspect.
 #include <optional>
 #include <string>
 #include <variant>

@@ -1,5 +1,4 @@
-// Rows are read as a person reads them: what they mean from the semantics of their views, their
-// symbol from what they draw.
+// Titles and states come from the semantics trees of the rows' views, symbols from their drawing.
 #include "desk/script/MenuSnapshot.hpp"
 
 #include <string>
@@ -16,7 +15,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// Notes the first symbol that is drawn.
+/// Records the first symbol that is drawn.
 class SymbolProbe : public ui::InkProbe {
  public:
   SymbolProbe() : InkProbe({}) {}

@@ -7,7 +7,7 @@
 
 namespace orvane::desk::script {
 
-/// Whether it is open, and its rows as they are, open or not.
+/// Whether it is open, and its rows, even while it is closed.
 [[nodiscard]] nlohmann::ordered_json statusMenuSnapshot(WindowServer& server);
 
 }  // namespace orvane::desk::script

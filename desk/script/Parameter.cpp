@@ -1,4 +1,4 @@
-// The parameters that several commands have.
+// The parameters of several commands.
 #include "desk/script/Parameter.hpp"
 
 namespace orvane::desk::script {

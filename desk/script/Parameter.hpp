@@ -1,5 +1,4 @@
-// Parameter is one argument of a command as the table of commands declares it: how it is written,
-// and how it is read.
+// Parameter declares an argument of a command: its usage text and its parser.
 #pragma once
 
 #include <cstdint>
@@ -18,9 +17,9 @@ namespace orvane::desk::script {
 
 template <typename Value>
 struct Parameter {
-  /// How it is written, for people: "X Y", "on|off".
+  /// The usage text, such as "X Y" or "on|off".
   std::string usage;
-  /// Takes it from the arguments, which keep the first problem.
+  /// Parses it; the arguments keep the first problem.
   std::function<Value(ScriptContext&, Arguments&)> read;
 };
 
@@ -30,13 +29,13 @@ template <typename... Values>
   return {std::move(parameters)...};
 }
 
-/// `name` stands for the argument in messages and, without a usage, in the usage.
+/// `name` names the argument in messages; it is also the usage text if that is empty.
 [[nodiscard]] Parameter<std::string> text(std::string name, std::string usage = {});
 [[nodiscard]] Parameter<double> coordinate(const std::string& name);
 [[nodiscard]] Parameter<std::uint32_t> displayNumber(const std::string& name);
 /// "X Y", in global coordinates.
 [[nodiscard]] Parameter<CGPoint> point();
-/// One of the words. `name` stands for it in messages; without one, the usage does.
+/// One of several words. `name` names the argument in messages; the usage does if it is empty.
 template <typename Value>
 [[nodiscard]] Parameter<Value> choice(const std::string& usage,
                                       std::vector<std::pair<std::string_view, Value>> values,
@@ -51,7 +50,7 @@ template <typename Value>
             return values[arguments.choice(name, words)].second;
           }};
 }
-/// Whether it is `yes` and not `no`.
+/// True for `yes`, false for `no`.
 [[nodiscard]] Parameter<bool> either(const std::string& usage, std::string_view no,
                                      std::string_view yes);
 [[nodiscard]] Parameter<bool> onOff();

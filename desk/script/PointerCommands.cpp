@@ -1,4 +1,4 @@
-// The commands that move the pointer, hold keys and send events.
+// The commands for the pointer, held keys and events.
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -25,7 +25,7 @@ struct Push {
   std::int64_t interval = 0;
 };
 
-/// Reads all words that remain as keys and returns their bits.
+/// Reads all remaining words as modifiers and returns their flags.
 Bits readModifiers(ScriptContext& /*context*/, Arguments& arguments) {
   constexpr std::array<OrvaneModifier, 4> keys = {OrvaneModifier::option, OrvaneModifier::control,
                                                   OrvaneModifier::shift, OrvaneModifier::command};
@@ -68,7 +68,7 @@ Push readPush(ScriptContext& context, Arguments& arguments) {
     const std::int64_t left = context.limits.clockNanoseconds - context.machine().clock.now();
     push.interval = arguments.nanoseconds("S", left);
     if (push.times > 1 && push.interval > left / (push.times - 1)) {
-      arguments.report("that would take longer than the clock runs");
+      arguments.report("that exceeds the limit of the clock");
     }
   }
   return push;

@@ -1,4 +1,4 @@
-// Problem is what is wrong with a script, in words for its author.
+// Problem is an error in a script, in words for its author.
 #pragma once
 
 #include <optional>
@@ -6,8 +6,7 @@
 
 namespace orvane::desk::script {
 
-/// None when nothing is wrong. Without a final full stop and without the place, which whoever knows
-/// file and line puts before it.
+/// None on success. Without a final full stop; the caller prepends file and line.
 using Problem = std::optional<std::string>;
 
 }  // namespace orvane::desk::script

@@ -1,4 +1,4 @@
-// ScriptContext is what a command has to work with.
+// ScriptContext is the environment of a command.
 #pragma once
 
 #include <cstdint>
@@ -15,11 +15,11 @@ namespace orvane::desk::script {
 
 class InspectableTable;
 
-/// How much one command may ask for.
+/// The limits of a single command.
 struct ScriptLimits {
-  /// How often one command may repeat itself.
+  /// The greatest number of repetitions.
   std::int64_t repetitions = 1'000'000'000;
-  /// How late it may become: about 95 years after the machine was switched on.
+  /// The latest time of the clock: about 95 years after the machine was switched on.
   std::int64_t clockNanoseconds = 3'000'000'000 * Clock::nanosecondsPerSecond;
   /// Whether a script may write files.
   bool allowsFiles = true;
@@ -27,26 +27,26 @@ struct ScriptLimits {
 
 struct PictureRequest {
   std::string file;
-  /// One window, menu or panel; the whole desktop when there is none.
+  /// A surface; none for the whole desktop.
   std::optional<std::string> surface;
   /// Pixels per point.
   double scale = 1;
 };
 
-/// Draws what is to be seen on a machine into a PNG file. Says what was wrong: a surface that is
-/// not there, a file that cannot be written.
+/// Writes a PNG file of the desktop or a surface. Returns why it failed: the surface is not open,
+/// or the file cannot be written.
 using PictureWriter = std::function<Problem(const Session& session, const PictureRequest& request)>;
 
 struct ScriptContext {
   Session& session;
-  /// What `show` knows to show.
+  /// The arguments of `show`.
   const InspectableTable& inspectables;
-  /// Where commands print.
+  /// The standard output of the script.
   std::ostream& output;
   ScriptLimits limits;
-  /// Empty when no pictures can be drawn.
+  /// Empty when pictures are not supported.
   PictureWriter pictureWriter;
-  /// Called with the text of an expectation that failed.
+  /// Called with the message of a failed expectation.
   std::function<void(const std::string& text)> expectationFailed;
 
   [[nodiscard]] Machine& machine() const { return session.machine(); }

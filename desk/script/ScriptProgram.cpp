@@ -1,4 +1,4 @@
-// ScriptProgram runs whole scripts: the program behind "orvane-desk script".
+// ScriptProgram runs scripts: the program behind "orvane-desk script".
 #include "desk/script/ScriptProgram.hpp"
 
 #include <algorithm>
@@ -19,7 +19,7 @@ namespace {
 constexpr const char* standardInput = "-";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/// Without what editors of other systems put at the beginning of a file and the ends of its lines.
+/// Without a byte-order mark and a carriage return, which other editors write.
 std::string_view cleaned(std::string_view line, std::int64_t lineNumber) {
   if (lineNumber == 1 && line.starts_with(byteOrderMark)) {
     line.remove_prefix(byteOrderMark.size());
@@ -51,7 +51,7 @@ ScriptProgram::Status ScriptProgram::runFile(const std::string& file) {
   if (file == standardInput) {
     return run(input_, file);
   }
-  // A directory can be opened like a file, and only reading from it fails.
+  // Opening a directory succeeds; only reading from it fails.
   std::error_code error;
   if (std::filesystem::is_directory(file, error)) {
     return reportUnreadable(file, "it is a directory");
@@ -98,12 +98,12 @@ ScriptProgram::Status ScriptProgram::run(std::istream& script, const std::string
     output_.flush();
   }
   if (script.bad()) {
-    report("the file cannot be read any further");
+    report("reading the file failed");
     status = broken;
   }
   session.end();
-  for (const std::string& mistake : session.mistakes()) {
-    report(mistake);
+  for (const std::string& problem : session.problems()) {
+    report(problem);
   }
   return status;
 }

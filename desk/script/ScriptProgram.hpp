@@ -1,4 +1,4 @@
-// ScriptProgram runs whole scripts: the program behind "orvane-desk script".
+// ScriptProgram runs scripts: the program behind "orvane-desk script".
 #pragma once
 
 #include <istream>
@@ -16,11 +16,11 @@ class ScriptProgram {
  public:
   /// The exit status of the program.
   enum Status {
-    /// Every expectation held.
+    /// All expectations held.
     held = 0,
-    /// An expectation failed; the script went on to its end.
+    /// An expectation failed; the script ran to its end.
     failed = 1,
-    /// The script could not be carried out; it stopped there.
+    /// A command failed; the script stopped there.
     broken = 2,
   };
 
@@ -33,14 +33,14 @@ class ScriptProgram {
     ScriptLimits limits;
   };
 
-  /// What scripts print goes to `output`, what is wrong to `errors`, one line each. `input` is the
-  /// file "-". All must outlive the program.
+  /// Scripts print to `output`; problems go to `errors`, one line each. `input` is the file "-".
+  /// All streams must outlive the program.
   ScriptProgram(Settings settings, std::istream& input, std::ostream& output, std::ostream& errors);
 
-  /// Each file begins with a machine of its own. The worst of their statuses; none is begun after
-  /// one that could not be carried out.
+  /// Runs each file on a new machine and returns the worst status; stops after a file with status
+  /// `broken`.
   Status runFiles(const std::vector<std::string>& files);
-  /// One script; `name` stands for its file in what is reported.
+  /// Runs one script; `name` is its file name in messages.
   Status run(std::istream& script, const std::string& name);
 
  private:

@@ -1,4 +1,4 @@
-// Session is the machine that a script works on, with the application on it.
+// Session is the machine of a script, with the application.
 #include "desk/script/Session.hpp"
 
 #include <utility>
@@ -26,10 +26,10 @@ void Session::end() {
   }
   const MachineEnd machineEnd = state_->scope.end();
   for (const std::string& object : machineEnd.leftObjects) {
-    mistakes_.push_back("not released: " + object);
+    problems_.push_back("not released: " + object);
   }
   for (const std::string& fault : machineEnd.faults) {
-    mistakes_.push_back("fault: " + fault);
+    problems_.push_back("fault: " + fault);
   }
   state_.reset();
 }

@@ -1,4 +1,4 @@
-// Session is the machine that a script works on, with the application on it.
+// Session is the machine of a script, with the application.
 #pragma once
 
 #include <functional>
@@ -11,7 +11,7 @@
 
 namespace orvane::desk::script {
 
-/// Only one at a time, since there is one current machine in a process.
+/// Only one at a time, as a process has one current machine.
 class Session {
  public:
   using Prepare = std::function<void(ApplicationHost&)>;
@@ -26,16 +26,16 @@ class Session {
   [[nodiscard]] Machine& machine() const { return state_->scope.machine(); }
   [[nodiscard]] ApplicationHost& application() const { return state_->application; }
 
-  /// A new machine takes the place of the old one, which ends with all that was on it.
+  /// Ends the machine and starts a new one.
   void reset();
-  /// Ends the machine for good; nothing else may be asked of the session afterwards.
+  /// Ends the machine; afterwards only `problems` may be called.
   void end();
 
-  /// What the application left behind or did wrong on the machines that have ended, one line each.
-  [[nodiscard]] const std::vector<std::string>& mistakes() const { return mistakes_; }
+  /// The leaked objects and faults of the machines that have ended, one line each.
+  [[nodiscard]] const std::vector<std::string>& problems() const { return problems_; }
 
  private:
-  /// The application belongs to its machine and goes before it.
+  /// The application is destroyed before its machine.
   struct State {
     MachineScope scope;
     ApplicationHost application{scope.machine()};
@@ -45,7 +45,7 @@ class Session {
 
   Prepare prepare_;
   std::unique_ptr<State> state_;
-  std::vector<std::string> mistakes_;
+  std::vector<std::string> problems_;
 };
 
 }  // namespace orvane::desk::script

@@ -1,4 +1,4 @@
-// The commands that operate windows, the menu and what is in them.
+// The commands for windows, the menu and their controls.
 #include <array>
 #include <optional>
 #include <string>
@@ -13,7 +13,7 @@ namespace orvane::desk::script {
 
 namespace {
 
-/// Nothing, or "in" and its name.
+/// Nothing, or "in SURFACE".
 Parameter<std::optional<std::string>> surface(const std::string& usage) {
   return {usage, [](ScriptContext&, Arguments& arguments) {
             return arguments.keyword("in") ? std::optional(arguments.text("SURFACE"))
@@ -21,7 +21,7 @@ Parameter<std::optional<std::string>> surface(const std::string& usage) {
           }};
 }
 
-/// Which of several, from 1.
+/// Nothing, or "nth N", from 1.
 Parameter<std::int64_t> nth() {
   return {"[nth N]", [](ScriptContext&, Arguments& arguments) {
             constexpr std::int64_t greatestCount = 1000;
@@ -29,7 +29,7 @@ Parameter<std::int64_t> nth() {
           }};
 }
 
-/// A command on the control of that label.
+/// A command on the control with a label.
 auto onControl(Hand::Refusal (Hand::*action)(const ControlName&) const) {
   return [action](Machine& machine, const std::string& label,
                   const std::optional<std::string>& place, std::int64_t number) {
@@ -37,7 +37,7 @@ auto onControl(Hand::Refusal (Hand::*action)(const ControlName&) const) {
   };
 }
 
-/// A command on the window of that name.
+/// A command on the window with a surface name.
 auto onWindow(Hand::Refusal (Hand::*action)(const std::string&) const) {
   return
       [action](Machine& machine, const std::string& name) { return (Hand(machine).*action)(name); };

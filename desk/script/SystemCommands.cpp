@@ -1,5 +1,5 @@
-// The commands that set what the user and the system have decided: Dock, permission, languages,
-// defaults, login item, links, looks.
+// The commands for settings of the user and the system: Dock, permission, languages, defaults,
+// login item, links, appearance.
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -42,7 +42,7 @@ NotificationDelivery readDelivery(ScriptContext& /*context*/, Arguments& argumen
 
 PropertyValue readPropertyValue(ScriptContext& /*context*/, Arguments& arguments) {
   constexpr std::array<std::string_view, 3> types = {"string", "bool", "number"};
-  // Each word for no stands before its word for yes.
+  // Words for false and true alternate.
   constexpr std::array<std::string_view, 8> noAndYes = {"false", "true", "off", "on",
                                                         "no",    "yes",  "0",   "1"};
   switch (arguments.choice("the type", types)) {

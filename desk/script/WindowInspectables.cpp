@@ -1,4 +1,4 @@
-// What a script can look at of the window server.
+// The parts of the window server that a script can inspect.
 #include <string>
 
 #include <nlohmann/json.hpp>
@@ -13,7 +13,7 @@ namespace orvane::desk::script {
 
 namespace {
 
-/// A width or height beyond this is none at all.
+/// A greater width or height means unlimited.
 constexpr double unlimited = 1e9;
 
 Json sizeOf(CGSize size) {

@@ -1,5 +1,4 @@
-// Orvane is read from the machine's permission every time, because scripts and the hardware panel
-// change it too.
+// Orvane's entry is not stored: scripts and the hardware panel change the permission, too.
 #include "desk/settings/AccessibilityList.hpp"
 
 #include <algorithm>
@@ -11,7 +10,7 @@ namespace orvane::desk {
 
 namespace {
 
-/// What is installed on this Mac and could want the permission.
+/// The installed applications that may need the permission.
 constexpr std::array<const char*, 4> installedApplications{
     AccessibilityList::orvane, "Pointer Lens", "Remote Help", "Text Macros"};
 

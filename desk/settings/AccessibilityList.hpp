@@ -1,5 +1,5 @@
-// AccessibilityList is the system's list of the applications that may control the computer, or that
-// have asked to.
+// AccessibilityList is the system's list of applications that have requested or been given the
+// permission to control the computer.
 #pragma once
 
 #include <map>
@@ -10,11 +10,10 @@
 
 namespace orvane::desk {
 
-/// Orvane's own entry is the machine's permission; the other applications exist on this Mac only as
-/// names.
+/// Orvane's entry is the machine's permission; the other applications are only names.
 class AccessibilityList {
  public:
-  /// Orvane, as it is called in the list.
+  /// Orvane's name in the list.
   static constexpr const char* orvane = "Orvane";
 
   struct Entry {
@@ -26,19 +25,19 @@ class AccessibilityList {
 
   explicit AccessibilityList(Permission& permission) : permission_(permission) {}
 
-  /// In the order of their names.
+  /// Ordered by name.
   [[nodiscard]] std::vector<Entry> entries() const;
-  /// The applications of this Mac that could be added, in the order of their names.
+  /// The installed applications that are not in the list, ordered by name.
   [[nodiscard]] std::vector<std::string> applicationsNotListed() const;
 
-  /// Nothing for an application that is not listed.
+  /// Does nothing for an application that is not listed.
   void setAllowed(const std::string& name, bool isAllowed);
-  /// Lists an application, if it is not listed, and allows it.
+  /// Adds an application, if it is not listed, and allows it.
   void add(const std::string& name);
-  /// Takes an application out of the list, and what it was allowed with it.
+  /// Removes an application and its permission.
   void remove(const std::string& name);
 
-  /// The name of the application whose bundle a file URL is; empty when it is no application.
+  /// The name of the application bundle at a file URL; empty when it is none.
   [[nodiscard]] static std::string applicationOf(const std::string& fileUrl);
 
  private:

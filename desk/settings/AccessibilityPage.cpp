@@ -1,4 +1,5 @@
-// Each application has a row to select it by and a switch; below them the list has its two buttons.
+// Each application has a row, which selects it, and a switch; the last row has the buttons Add and
+// Remove.
 #include "desk/settings/AccessibilityPage.hpp"
 
 #include <string>
@@ -24,11 +25,11 @@ using namespace ui;
 namespace {
 
 View smallButton(const std::string& symbol, const std::string& label,
-                 const std::function<void()>& action, bool isUseful) {
+                 const std::function<void()>& action, bool isEnabled) {
   return Button(action, Symbol(symbol).font(Font::system(11, Weight::semibold)).frame(26, 24))
-      .style(SettingsButtonStyle{.fadesWhenDisabled = !isUseful})
+      .style(SettingsButtonStyle{.fadesWhenDisabled = !isEnabled})
       .accessibilityLabel(label)
-      .disabled(!isUseful);
+      .disabled(!isEnabled);
 }
 
 }  // namespace

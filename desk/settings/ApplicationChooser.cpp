@@ -1,4 +1,4 @@
-// It lists what is installed and not in the list yet; Return opens, Escape cancels.
+// Return opens, Escape cancels.
 #include "desk/settings/ApplicationChooser.hpp"
 
 #include <vector>

@@ -1,4 +1,4 @@
-// Orvane brings its icon; the others, which exist as names only, get a plate with a symbol.
+// Orvane has its own icon; the other applications have a plate with a symbol.
 #include "desk/settings/ApplicationIcon.hpp"
 
 #include "Orvane/ui/views/Image.hpp"

@@ -1,4 +1,4 @@
-// The icon of an application in the lists of the System Settings.
+// The icon of an application in System Settings.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@ namespace orvane::desk {
 
 struct ApplicationIcon {
   std::string name;
-  /// In points.
+  /// Width and height, in points.
   double side = 24;
 
   ui::View body(const ui::Environment& environment) const;

@@ -1,4 +1,4 @@
-// The coloured plate with a white symbol before a row of the System Settings.
+// A coloured plate with a white symbol.
 #include "desk/settings/SettingsBadge.hpp"
 
 #include "Orvane/ui/views/Image.hpp"

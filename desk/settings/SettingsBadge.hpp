@@ -1,4 +1,4 @@
-// The coloured plate with a white symbol before a row of the System Settings.
+// A coloured plate with a white symbol.
 #pragma once
 
 #include <string>

@@ -1,12 +1,12 @@
-// A button of the System Settings that is drawn by its label alone.
+// The style of buttons in System Settings, which are drawn by their label.
 #pragma once
 
 #include "Orvane/ui/views/ButtonStyle.hpp"
 
 namespace orvane::desk {
 
-/// The label stays as it is while the button is pressed, as in the system's lists, and while a
-/// sheet keeps it back; only a button that has nothing to do fades.
+/// The label does not change while the button is pressed, nor while a sheet disables it, unless
+/// `fadesWhenDisabled`.
 struct SettingsButtonStyle {
   bool fadesWhenDisabled = false;
 

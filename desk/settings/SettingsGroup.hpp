@@ -1,4 +1,4 @@
-// A box of rows in the System Settings, with hairlines between them.
+// A box of rows with hairlines between them.
 #pragma once
 
 #include <vector>

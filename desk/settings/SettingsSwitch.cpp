@@ -1,4 +1,4 @@
-// The small switch at the end of a row of the System Settings.
+// The small switch at the end of a row of System Settings.
 #include "desk/settings/SettingsSwitch.hpp"
 
 #include "Orvane/ui/views/Button.hpp"
@@ -11,7 +11,7 @@ namespace orvane::desk {
 using namespace ui;
 
 View SettingsSwitch::body(const Environment& environment) const {
-  // What the system's small switch measures.
+  // The dimensions of the system's small switch.
   constexpr double width = 26;
   constexpr double height = 15;
   constexpr double rim = 1;

@@ -1,4 +1,4 @@
-// The small switch at the end of a row of the System Settings.
+// The small switch at the end of a row of System Settings.
 #pragma once
 
 #include <functional>
@@ -9,7 +9,7 @@
 namespace orvane::desk {
 
 struct SettingsSwitch {
-  /// For screen readers; it is not shown.
+  /// The accessibility label; it is not drawn.
   std::string label;
   bool isOn = false;
   std::function<void()> onToggle;

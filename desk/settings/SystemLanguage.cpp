@@ -1,4 +1,4 @@
-// An identifier such as "zh-Hans-CN" or "en_US" names its language before the first separator.
+// The language of an identifier such as "zh-Hans-CN" or "en_US" precedes the first separator.
 #include "desk/settings/SystemLanguage.hpp"
 
 namespace orvane::desk {

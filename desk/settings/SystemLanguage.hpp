@@ -1,4 +1,4 @@
-// SystemLanguage is the language that the system's own programs speak.
+// SystemLanguage is the language of the system's programs.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace orvane::desk {
 
-/// English or Chinese, whichever of the user's languages comes first; English when it is neither.
+/// The first of the user's preferred languages that is English or Chinese; otherwise English.
 class SystemLanguage {
  public:
   static SystemLanguage of(const LocaleSettings& locale);

@@ -1,4 +1,4 @@
-// The window is made when it is first opened, and kept from then on.
+// The window is created when it is first opened, and reused.
 #include "desk/settings/SystemSettings.hpp"
 
 #include <algorithm>
@@ -110,7 +110,7 @@ void SystemSettings::makeWindow() {
 }
 
 void SystemSettings::place() {
-  // Left of the middle, where a guide that stands at the right leaves it free.
+  // Left of the centre, so that the permission guide at the right does not cover it.
   constexpr double distanceFromMiddle = 70;
   const Displays& displays = server_.machine().displays;
   const auto index = server_.machine().pointer.displayIndex();
@@ -118,7 +118,7 @@ void SystemSettings::place() {
     return;
   }
   const CGRect area = displays.all()[index.value_or(0)].frame;
-  // Where the display is too small, the top with the close button stays in view.
+  // On a small display the top with the close button stays visible.
   const double x = std::max(area.origin.x, CGRectGetMidX(area) - width / 2 - distanceFromMiddle);
   const double free = area.size.height - Displays::menuBarHeight - height;
   const double y = area.origin.y + (free > 0 ? free / 2 : free);

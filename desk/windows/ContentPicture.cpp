@@ -1,4 +1,4 @@
-// Areas are widened to whole pixels, so that nothing of an older drawing is left at their edges.
+// Dirty areas are widened to whole pixels, so that no older pixels are left at their edges.
 #include "desk/windows/ContentPicture.hpp"
 
 #include <cmath>
@@ -35,7 +35,7 @@ void ContentPicture::draw(const ui::ViewHost& host, const ui::Rect& area,
   if (area.isEmpty()) {
     return;
   }
-  ++drawnAreas_;
+  ++drawnAreaCount_;
   const double left = std::floor(area.x * scale_);
   const double top = std::floor(area.y * scale_);
   const double right = std::ceil(area.right() * scale_);

@@ -1,4 +1,4 @@
-// ContentPicture keeps what a view has drawn, and draws again only what has changed since.
+// ContentPicture is a view's backing store: it redraws only dirty areas.
 #pragma once
 
 #include <optional>
@@ -12,12 +12,12 @@ namespace orvane::desk {
 
 class ContentPicture {
  public:
-  /// The drawing of an up-to-date host at `scale` pixels per point, on nothing; null when the host
-  /// has no size. Another scale or size than before draws everything anew.
+  /// The drawing of an up-to-date host at `scale` pixels per point, on a clear ground; null when
+  /// the host has no size. A change of scale or size redraws everything.
   const DeepSurface* of(ui::ViewHost& host, double scale, DrawingResources& resources);
 
-  /// How many areas were drawn so far.
-  [[nodiscard]] long long drawnAreas() const { return drawnAreas_; }
+  /// The number of areas drawn so far.
+  [[nodiscard]] long long drawnAreaCount() const { return drawnAreaCount_; }
 
  private:
   void draw(const ui::ViewHost& host, const ui::Rect& area, DrawingResources& resources);
@@ -25,7 +25,7 @@ class ContentPicture {
   std::optional<DeepSurface> surface_;
   ui::Size size_;
   double scale_ = 0;
-  long long drawnAreas_ = 0;
+  long long drawnAreaCount_ = 0;
 };
 
 }  // namespace orvane::desk

@@ -1,4 +1,4 @@
-// DeskMenu is a menu's content: its items, and who wants to know that it opens.
+// DeskMenu is a menu's content: its items and its open callback.
 #pragma once
 
 #include <functional>

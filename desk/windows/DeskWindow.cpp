@@ -10,7 +10,7 @@ namespace {
 
 using appkit::StyleMask::titled;
 
-/// What the corners of a window with a title bar are rounded by.
+/// The corner radius of a window with a title bar, in points.
 constexpr double titledCornerRadius = 10;
 constexpr double closeButtonSize = 12;
 constexpr double closeButtonMargin = 8;

@@ -1,4 +1,4 @@
-// DeskWindow is one window of the simulated window system, with everything it was ever told.
+// DeskWindow is one window of the simulated window system, with all its attributes.
 #pragma once
 
 #include <cstdint>
@@ -16,15 +16,15 @@
 
 namespace orvane::desk {
 
-/// Whose window it is: the application's, or one of the system's own programs.
+/// The application, or a program of the system.
 enum class WindowOwner : std::uint8_t { application, system };
 
-/// Frames are in window-system coordinates. The window server changes what has consequences; the
-/// rest may be set by anybody.
+/// Frames are in window-system coordinates. The window server changes frame, content, parent,
+/// children and the two flags at the end; the other attributes may be set directly.
 struct DeskWindow {
   /// The height of a title bar, in points.
   static constexpr double titleBarHeight = 28;
-  /// The same above content that reaches to the top of the window, as tall as with a toolbar.
+  /// The same with fullSizeContentView; as tall as with a toolbar.
   static constexpr double tallTitleBarHeight = 52;
   /// The value of NSWindowStyleMaskFullSizeContentView.
   static constexpr std::uint64_t fullSizeContentView = 1U << 15;
@@ -36,25 +36,26 @@ struct DeskWindow {
 
   [[nodiscard]] bool hasStyle(std::uint64_t style) const { return (styleMask & style) != 0; }
   [[nodiscard]] bool isPanel() const { return kind == appkit::WindowKind::panel; }
-  /// Whether a click leaves the application as active or inactive as it is.
+  /// Whether a click does not activate the application.
   [[nodiscard]] bool isNonactivating() const {
     return hasStyle(appkit::StyleMask::nonactivatingPanel);
   }
-  /// As told, else as AppKit decides: with a title bar only, and a panel never becomes main.
+  /// The attribute if it is set, otherwise AppKit's default: a title bar is needed, and a panel
+  /// never becomes main.
   [[nodiscard]] bool canBecomeKey() const;
   [[nodiscard]] bool canBecomeMain() const;
 
-  /// The frame without the title bar; all of it where the content reaches to the top.
+  /// The frame without the title bar; the whole frame with fullSizeContentView.
   [[nodiscard]] CGRect contentFrame() const;
-  /// From the top left of the content, as the content counts.
+  /// A point in window-system coordinates, from the content's top left.
   [[nodiscard]] ui::Point contentPoint(CGPoint place) const;
-  /// The outline that the corners cut out of the frame, from the frame's top left.
+  /// The frame with its rounded corners, from the frame's top left.
   [[nodiscard]] ui::Shape outline() const;
-  /// Whether the window is there at this place; the corners that are cut away are not.
+  /// Hit test: the rounded corners are respected.
   [[nodiscard]] bool contains(CGPoint place) const;
-  /// Also where content lies below the title bar.
+  /// Also where the title bar overlaps the content.
   [[nodiscard]] bool isInTitleBar(CGPoint place) const;
-  /// The place of the close button from the frame's top left; none without one.
+  /// The close button's frame, from the window's top left; none without one.
   [[nodiscard]] std::optional<ui::Rect> closeButton() const;
 
   const appkit::WindowKind kind;
@@ -82,7 +83,7 @@ struct DeskWindow {
 
   std::shared_ptr<HostedView> content;
   std::function<void()> willClose;
-  /// What takes files that are dropped on the window.
+  /// Accepts files dropped on the window.
   std::optional<DropTarget> dropTarget;
 
   std::weak_ptr<DeskWindow> parent;

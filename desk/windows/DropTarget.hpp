@@ -1,4 +1,4 @@
-// DropTarget takes files that are dragged onto a window.
+// DropTarget accepts files that are dropped on a window.
 #pragma once
 
 #include <functional>
@@ -8,13 +8,13 @@
 
 namespace orvane::desk {
 
-/// Points are from the top left of the window's content. Only copies are ever offered.
+/// Points are from the top left of the window's content. The only drag operation is copying.
 struct DropTarget {
   /// Whether a file may be dropped there.
   std::function<bool(ui::Point place)> accepts;
   std::function<void(ui::Point place, const std::string& fileUrl)> drop;
-  /// Told when a dragged file comes to where it may be dropped (true), and when it leaves. May be
-  /// unset.
+  /// Called when a dragged file enters the area in which it may be dropped (true), and when it
+  /// leaves it. May be unset.
   std::function<void(bool isOver)> hover = {};
 };
 

@@ -1,4 +1,4 @@
-// The services of a view's host on the simulated window system, and its frames.
+// The services of a view's host on the simulated window system, and its frame timer.
 #include "desk/windows/HostedView.hpp"
 
 #include <string>
@@ -52,7 +52,7 @@ ui::HostPlatform HostedView::platform() {
     WindowServer::current().pointer.beginFileDrag(request, *this);
   };
   services.dismiss = [this] {
-    // It may end this view.
+    // The callback may destroy this view.
     if (const std::function<void()> kept = dismiss) {
       kept();
     }
@@ -67,7 +67,7 @@ void HostedView::update() {
   }
   isUpdating_ = true;
   ui::Appearance appearance = appearanceOf(*machine);
-  // Frames come from the run loop of a process; a system's window that outlives it jumps to the
+  // Without a process there is no run loop that calls the frame timer, so animations jump to their
   // end.
   appearance.reduceMotion = appearance.reduceMotion || !machine->process.isRunning();
   host_.setAppearance(appearance);
@@ -76,7 +76,7 @@ void HostedView::update() {
   }
   host_.tick(machine->clock.mediaTime());
   isUpdating_ = false;
-  // Views that never come to rest go on with the next frame.
+  // An update may need another one.
   if (isOnScreen_ && (host_.needsUpdate() || host_.nextFrameWanted())) {
     startFrames();
   }

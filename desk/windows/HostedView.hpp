@@ -1,4 +1,4 @@
-// HostedView shows a tree of the view kit in a window or a menu of the simulated window system.
+// HostedView hosts views of the kit in a window or a menu row of the simulated window system.
 #pragma once
 
 #include <cstdint>
@@ -16,15 +16,14 @@ namespace orvane::desk {
 
 class Machine;
 
-/// Whoever calls a member that may run handlers of the views holds the view meanwhile. While it is
-/// on the screen it follows changes and asks for frames; otherwise it is brought up to date when
-/// somebody looks at it.
+/// The caller of a member that may run the views' handlers must hold a reference. On the screen the
+/// views update by themselves; otherwise only in `update`.
 class HostedView : public std::enable_shared_from_this<HostedView> {
  public:
   /// In frames per second.
   static constexpr int frameRate = 60;
 
-  /// How the user of the machine likes views to look.
+  /// The machine's appearance settings for views.
   [[nodiscard]] static ui::Appearance appearanceOf(const Machine& machine);
 
   /// There must be a machine.
@@ -36,28 +35,28 @@ class HostedView : public std::enable_shared_from_this<HostedView> {
   [[nodiscard]] ui::ViewHost& host() { return host_; }
   [[nodiscard]] const ui::ViewHost& host() const { return host_; }
 
-  /// Brings the views to the present instant and the machine's present appearance.
+  /// Updates the views to the machine's present time and appearance.
   void update();
 
-  /// In points, within the content of a window or at the top left of a menu's row.
+  /// In points, from the top left of the window's content or of the menu row.
   void setFrame(CGRect frame);
   [[nodiscard]] CGRect frame() const { return frame_; }
 
   void setOnScreen(bool isOnScreen);
   [[nodiscard]] bool isOnScreen() const { return isOnScreen_; }
-  /// Whether frames come, because something moves.
+  /// Whether the frame timer runs, for an animation.
   [[nodiscard]] bool hasFrames() const;
 
   bool respectsSafeArea = true;
   double cornerRadius = 0;
   ui::CornerStyle cornerStyle = ui::CornerStyle::circular;
   bool masksToBounds = false;
-  /// Whether the blurred picture of what is behind the window lies behind the views.
+  /// Whether the views are drawn over the blurred picture of what is behind the window.
   bool hasBackdrop = false;
   std::function<void()> dismiss;
-  /// Called before each update, for content that follows what nobody announces; it may invalidate.
+  /// Called before each update; it may invalidate. For content that depends on unannounced state.
   std::function<void()> willUpdate;
-  /// What it has drawn so far, for whoever shows it.
+  /// The backing store.
   ContentPicture picture;
 
  private:

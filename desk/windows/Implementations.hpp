@@ -1,4 +1,4 @@
-// What the handles of the AppKit face hold on the simulated Mac: objects of its window server.
+// The implementations behind the platform interface's AppKit handles: objects of the window server.
 #pragma once
 
 #include <memory>
@@ -24,7 +24,7 @@ struct HostingView::Implementation : desk::HostedView {
 struct Window::Implementation : desk::DeskWindow {
   Implementation(WindowKind windowKind, CGRect contentRect, std::uint64_t mask)
       : desk::DeskWindow(windowKind, contentRect, mask) {}
-  /// The handle that was given as the content, as long as it is the content.
+  /// The handle of the current content.
   std::optional<HostingView> contentHandle;
 };
 

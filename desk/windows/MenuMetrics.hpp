@@ -1,4 +1,4 @@
-// MenuMetrics are the measures of menus, in points: what is laid out by them is painted by them.
+// The dimensions of menus, in points, for layout and painting.
 #pragma once
 
 #include "Orvane/platform/appkit/Menu.hpp"
@@ -15,12 +15,12 @@ inline constexpr double cornerRadius = 8;
 inline constexpr double padding = 5;
 inline constexpr double rowHeight = 22;
 inline constexpr double separatorHeight = 11;
-/// Where a title begins, right of the room for a check mark.
+/// The leading edge of a title, after the space for a check mark.
 inline constexpr double titleInset = 24;
 inline constexpr double trailingInset = 16;
 inline constexpr double baseline = 15.5;
 
-/// `view` is the item's view; null when it has none.
+/// `view` is the item's view, or null.
 inline double heightOf(const appkit::MenuItem& item, const HostedView* view) {
   if (view != nullptr) {
     return view->frame().size.height;

@@ -1,4 +1,4 @@
-// Opening, closing and choosing. What a row looks like is the painter's business.
+// Opening, layout, choosing and closing. Rows are painted elsewhere.
 #include "desk/windows/MenuTracker.hpp"
 
 #include <algorithm>
@@ -74,7 +74,7 @@ void MenuTracker::openPopUp(const ui::MenuRequest& request, std::weak_ptr<Hosted
                         .displays.indexContaining({CGRectGetMidX(anchor_), CGRectGetMidY(anchor_)})
                         .value_or(0);
     open(menu);
-    // The keyboard goes on from what is chosen now.
+    // The arrow keys start at the current choice.
     if (request.selectedIndex >= 0 &&
         request.selectedIndex < static_cast<int>(request.items.size())) {
       highlight(static_cast<std::size_t>(request.selectedIndex));
@@ -86,7 +86,7 @@ void MenuTracker::open(Menu menu) {
   menu_ = std::move(menu);
   isStale_ = true;
   highlighted_.reset();
-  isLedByKeys_ = false;
+  isNavigatedByKeys_ = false;
   server_.tooltips.hide();
   server_.pointer.cancelPress();
   server_.machine().runLoop.enterMode(RunLoop::Mode::eventTracking);
@@ -226,8 +226,8 @@ bool MenuTracker::choose(std::size_t itemIndex) {
   return true;
 }
 
-std::optional<std::size_t> MenuTracker::reached() const {
-  if (highlighted_ || isLedByKeys_) {
+std::optional<std::size_t> MenuTracker::currentItem() const {
+  if (highlighted_ || isNavigatedByKeys_) {
     return highlighted_;
   }
   const MenuRow* const row = rowAt(server_.machine().pointer.location());
@@ -236,20 +236,20 @@ std::optional<std::size_t> MenuTracker::reached() const {
 }
 
 void MenuTracker::highlightByKey(std::size_t itemIndex) {
-  isLedByKeys_ = true;
+  isNavigatedByKeys_ = true;
   highlight(itemIndex);
   server_.updates.request();
 }
 
-void MenuTracker::pointerTakesOver() {
-  isLedByKeys_ = false;
+void MenuTracker::endKeyNavigation() {
+  isNavigatedByKeys_ = false;
 }
 
 void MenuTracker::moveHighlight(bool isDown) {
   const auto count = static_cast<std::ptrdiff_t>(menu_->items.size());
   const std::ptrdiff_t step = isDown ? 1 : -1;
   std::ptrdiff_t index = isDown ? -1 : count;
-  if (const auto from = reached()) {
+  if (const auto from = currentItem()) {
     index = static_cast<std::ptrdiff_t>(*from);
   }
   for (index += step; index >= 0 && index < count; index += step) {
@@ -262,7 +262,7 @@ void MenuTracker::moveHighlight(bool isDown) {
 
 void MenuTracker::selectByTyping(const std::string& characters) {
   const std::size_t count = menu_->items.size();
-  const auto from = reached();
+  const auto from = currentItem();
   for (std::size_t step = 0; step < count; ++step) {
     const std::size_t index = ((from ? *from + 1 : 0) + step) % count;
     const appkit::MenuItem& item = menu_->items[index];
@@ -288,7 +288,7 @@ void MenuTracker::keyDown(const ui::KeyEvent& event) {
       break;
     case ui::Key::enter:
     case ui::Key::space:
-      if (const auto chosen = reached()) {
+      if (const auto chosen = currentItem()) {
         choose(*chosen);
       }
       break;

@@ -1,5 +1,5 @@
-// MenuTracker shows one menu at a time and leads it until it is closed: the menu under the status
-// item, or the pop-up menu of a picker.
+// MenuTracker tracks the open menu, at most one at a time: the status item's menu or the pop-up
+// menu of a picker.
 #pragma once
 
 #include <cstddef>
@@ -27,51 +27,51 @@ struct MenuRow {
   std::shared_ptr<HostedView> view;
 };
 
-/// While a menu is open the run loop is in its event-tracking mode, and pointer and keys go to the
-/// menu only. Its items may be replaced, and it may be closed, from within an item's action.
+/// While a menu is open, the run loop is in its event-tracking mode, and pointer and key events go
+/// to the menu only. An item's action may replace the items and close the menu.
 class MenuTracker {
  public:
   using Menu = std::shared_ptr<DeskMenu>;
 
   explicit MenuTracker(WindowServer& server) : server_(server) {}
 
-  /// Opens the status item's menu under the item on that display, by its place in the list. False
-  /// when there is no item with a menu, or a modal session keeps it back.
+  /// Opens the status item's menu on the display with this index. False when there is no item with
+  /// a menu, or while a modal session runs.
   bool openStatusMenu(std::size_t displayIndex);
-  /// Opens a picker's menu, its selected item over the control, once the caller has returned.
+  /// Opens a picker's menu after the caller has returned, with the selected item over the control.
   void openPopUp(const ui::MenuRequest& request, std::weak_ptr<HostedView> view);
-  /// Closes the open menu without choosing anything.
+  /// Closes the open menu, if any, without choosing an item.
   void close();
 
   [[nodiscard]] bool isOpen() const { return menu_ != nullptr; }
   [[nodiscard]] bool isTracking(const DeskMenu& menu) const { return menu_.get() == &menu; }
   [[nodiscard]] bool isStatusMenuOpen() const { return isOpen() && isStatusMenu_; }
-  /// The display that a status menu is open on.
+  /// The index of the display on which the menu is open.
   [[nodiscard]] std::size_t displayIndex() const { return displayIndex_; }
   /// Null when none is open.
   [[nodiscard]] const DeskMenu* menu() const { return menu_.get(); }
   /// Empty when none is open; current after layOut.
   [[nodiscard]] const CGRect& frame() const { return frame_; }
   [[nodiscard]] const std::vector<MenuRow>& rows() const { return rows_; }
-  /// The item that the keyboard, or the pointer over an item without a view, has reached.
+  /// Highlighted with the keyboard, or by the pointer over an item without a view.
   [[nodiscard]] std::optional<std::size_t> highlighted() const { return highlighted_; }
 
-  /// True from a key that moved the highlight to the next movement of the pointer: meanwhile what
-  /// is under the pointer is not hovered over, so that no two rows look chosen.
-  [[nodiscard]] bool isLedByKeys() const { return isLedByKeys_; }
-  /// The pointer has moved or was pressed.
-  void pointerTakesOver();
+  /// True from a key that moved the highlight to the next pointer event. Meanwhile the row under
+  /// the pointer is not hovered, so that no two rows look highlighted.
+  [[nodiscard]] bool isNavigatedByKeys() const { return isNavigatedByKeys_; }
+  /// To be called when the pointer moves or its button is pressed.
+  void endKeyNavigation();
 
-  /// The items of a menu are others now.
+  /// To be called when the items of a menu have changed.
   void itemsChanged(const DeskMenu& menu);
-  /// Places the rows of the open menu if its items have changed.
+  /// Lays out the open menu if its items have changed.
   void layOut();
-  /// The row there; null when there is none.
+  /// The row at a point in global coordinates; null when there is none.
   [[nodiscard]] const MenuRow* rowAt(CGPoint place) const;
   void highlight(std::optional<std::size_t> itemIndex);
 
-  /// Chooses an item as the keyboard does: the menu closes first unless the item keeps it open.
-  /// False for an item that is a separator or disabled.
+  /// Closes the menu, unless the item keeps it open, and runs the item's action. False for a
+  /// separator and a disabled item.
   bool choose(std::size_t itemIndex);
   void keyDown(const ui::KeyEvent& event);
   void processEnded();
@@ -79,11 +79,11 @@ class MenuTracker {
  private:
   void open(Menu menu);
   void moveHighlight(bool isDown);
-  /// The next item, after the present one, whose title begins with these characters.
+  /// Highlights the next item whose title begins with these characters.
   void selectByTyping(const std::string& characters);
   void highlightByKey(std::size_t itemIndex);
-  /// What the keyboard would choose: the highlighted item, else the one under the pointer.
-  [[nodiscard]] std::optional<std::size_t> reached() const;
+  /// The item that Return chooses: the highlighted one, otherwise the one under the pointer.
+  [[nodiscard]] std::optional<std::size_t> currentItem() const;
   [[nodiscard]] double widthOf(const appkit::MenuItem& item) const;
   [[nodiscard]] CGPoint origin(double width, double height) const;
 
@@ -91,13 +91,13 @@ class MenuTracker {
   Menu menu_;
   bool isStatusMenu_ = false;
   std::size_t displayIndex_ = 0;
-  /// What the menu belongs to: the status item or the picker, in global coordinates.
+  /// The frame of the status item or picker, in global coordinates.
   CGRect anchor_{};
   bool isStale_ = false;
   CGRect frame_{};
   std::vector<MenuRow> rows_;
   std::optional<std::size_t> highlighted_;
-  bool isLedByKeys_ = false;
+  bool isNavigatedByKeys_ = false;
 };
 
 }  // namespace orvane::desk

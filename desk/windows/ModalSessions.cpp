@@ -1,5 +1,5 @@
-// A stopped session ends when the handler that stopped it has returned, as the loop of a real one
-// does.
+// A stopped session ends when the handler that stopped it has returned, as AppKit's nested event
+// loop does.
 #include "desk/windows/ModalSessions.hpp"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ void ModalSessions::run(const Window& window, std::function<void(int response)> 
   server_.pointer.cancelPress();
   server_.orderFront(window, true);
   server_.focus.makeKey(window);
-  server_.focus.reconsider();
+  server_.focus.revalidate();
 }
 
 void ModalSessions::stop(int response) {
@@ -42,7 +42,7 @@ void ModalSessions::finish() {
   RunLoop& runLoop = server_.machine().runLoop;
   runLoop.leaveMode();
   runLoop.releaseMainQueue();
-  server_.focus.reconsider();
+  server_.focus.revalidate();
   server_.updates.request();
   if (session.ended) {
     session.ended(session.response);
@@ -54,10 +54,7 @@ bool ModalSessions::isModal(const DeskWindow& window) const {
 }
 
 bool ModalSessions::blocks(const DeskWindow& window) const {
-  if (sessions_.empty() || window.owner == WindowOwner::system) {
-    return false;
-  }
-  if (isModal(window)) {
+  if (sessions_.empty() || window.owner == WindowOwner::system || isModal(window)) {
     return false;
   }
   const Window parent = window.parent.lock();
@@ -65,7 +62,7 @@ bool ModalSessions::blocks(const DeskWindow& window) const {
 }
 
 void ModalSessions::processEnded() {
-  // What the callbacks hold may ask for sessions while it is destroyed.
+  // Destroying a callback may ask about sessions.
   const auto sessions = std::exchange(sessions_, {});
 }
 

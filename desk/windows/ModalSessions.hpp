@@ -1,4 +1,4 @@
-// ModalSessions run windows modally: while one runs, the application's other windows hear nothing.
+// ModalSessions runs windows modally: the application's other windows receive no events meanwhile.
 #pragma once
 
 #include <functional>
@@ -11,28 +11,28 @@ namespace orvane::desk {
 
 class WindowServer;
 
-/// A session is a state of the run loop: its mode is that of modal panels, and the main queue is
-/// held, because the task that began the session has not returned. Sessions nest.
+/// During a session the run loop is in the mode of modal panels, and the main queue is held,
+/// because on a Mac the task that began the session has not returned. Sessions nest.
 class ModalSessions {
  public:
   using Window = std::shared_ptr<DeskWindow>;
 
   explicit ModalSessions(WindowServer& server) : server_(server) {}
 
-  /// Shows the window and makes it key. `ended` is called after whatever stopped the session has
-  /// returned.
+  /// Shows the window and makes it key. `ended` is called after the handler that stopped the
+  /// session has returned.
   void run(const Window& window, std::function<void(int response)> ended);
-  /// Stops the innermost session that has not been stopped; nothing without one.
+  /// Stops the innermost session that is not stopped yet; does nothing without one.
   void stop(int response);
   [[nodiscard]] bool isRunning() const { return !sessions_.empty(); }
-  /// The innermost session's; null without one.
+  /// The innermost session's window; null without one.
   [[nodiscard]] Window window() const {
     return sessions_.empty() ? nullptr : sessions_.back().window;
   }
-  /// Whether the innermost session is this window's.
+  /// Whether it is the innermost session's window.
   [[nodiscard]] bool isModal(const DeskWindow& window) const;
-  /// Whether the innermost session keeps events from the window: it is the application's, and
-  /// neither the session's window nor a child of it.
+  /// Whether the innermost session blocks the window's events: the window belongs to the
+  /// application and is neither the session's window nor a child of it.
   [[nodiscard]] bool blocks(const DeskWindow& window) const;
   void processEnded();
 

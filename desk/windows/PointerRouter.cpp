@@ -1,5 +1,5 @@
-// Every view is brought to the present instant before it hears of an event, so that what the event
-// starts, starts now.
+// A view is updated before it receives an event, so that an animation that the event starts begins
+// at the present time.
 #include "desk/windows/PointerRouter.hpp"
 
 #include <utility>
@@ -29,7 +29,7 @@ PointerRouter::~PointerRouter() {
 std::optional<PointerRouter::Target> PointerRouter::targetAt(CGPoint place) const {
   if (server_.menus.isOpen()) {
     const MenuRow* const row = server_.menus.rowAt(place);
-    if (row == nullptr || row->view == nullptr || server_.menus.isLedByKeys()) {
+    if (row == nullptr || row->view == nullptr || server_.menus.isNavigatedByKeys()) {
       return std::nullopt;
     }
     return Target{row->view, {place.x - row->frame.origin.x, place.y - row->frame.origin.y}};
@@ -65,7 +65,7 @@ void PointerRouter::refresh() {
 
 void PointerRouter::pointerMovedTo(CGPoint place) {
   if (fileDrag_) {
-    showDropAt(dropWindowAt(place));
+    setDropWindow(dropWindowAt(place));
     server_.updates.request();
     return;
   }
@@ -81,7 +81,7 @@ void PointerRouter::pointerMovedTo(CGPoint place) {
     return;
   }
   if (server_.menus.isOpen()) {
-    server_.menus.pointerTakesOver();
+    server_.menus.endKeyNavigation();
     server_.menus.layOut();
     const MenuRow* const row = server_.menus.rowAt(place);
     const bool isPlain = row != nullptr && row->view == nullptr;
@@ -110,7 +110,7 @@ void PointerRouter::buttonPressedAt(CGPoint place) {
 }
 
 void PointerRouter::pressInMenu(CGPoint place) {
-  server_.menus.pointerTakesOver();
+  server_.menus.endKeyNavigation();
   server_.menus.layOut();
   if (server_.menus.rowAt(place) == nullptr) {
     if (!CGRectContainsPoint(server_.menus.frame(), place)) {
@@ -187,7 +187,7 @@ void PointerRouter::wheelTurnedAt(CGPoint place, double horizontal, double verti
 }
 
 void PointerRouter::cancelPress() {
-  showDropAt(nullptr);
+  setDropWindow(nullptr);
   windowDrag_.reset();
   fileDrag_.reset();
   pressedCloseButton_.reset();
@@ -233,12 +233,12 @@ std::shared_ptr<DeskWindow> PointerRouter::dropWindowAt(CGPoint place) const {
   return window->dropTarget->accepts(point) ? window : nullptr;
 }
 
-void PointerRouter::showDropAt(const std::shared_ptr<DeskWindow>& window) {
-  const auto before = dropShownIn_.lock();
+void PointerRouter::setDropWindow(const std::shared_ptr<DeskWindow>& window) {
+  const auto before = dropWindow_.lock();
   if (before == window) {
     return;
   }
-  dropShownIn_ = window;
+  dropWindow_ = window;
   for (const auto& [changed, isOver] : {std::pair(before, false), std::pair(window, true)}) {
     if (changed != nullptr && changed->dropTarget && changed->dropTarget->hover) {
       changed->dropTarget->hover(isOver);
@@ -254,7 +254,7 @@ bool PointerRouter::canDropHere() const {
 void PointerRouter::drop(CGPoint place) {
   const auto window = canDropHere() ? dropWindowAt(place) : nullptr;
   const FileDrag drag = *std::exchange(fileDrag_, std::nullopt);
-  showDropAt(nullptr);
+  setDropWindow(nullptr);
   server_.updates.request();
   if (window != nullptr) {
     const ui::Point point = window->contentPoint(server_.machine().displays.flipped(place));

@@ -1,4 +1,4 @@
-// PointerRouter takes what the pointer does to the window, menu or status item that is under it.
+// PointerRouter sends pointer events to the window, menu or status item under the pointer.
 #pragma once
 
 #include <memory>
@@ -13,7 +13,7 @@ namespace orvane::desk {
 
 class WindowServer;
 
-/// A file on its way from a view to whatever takes it. It can only be copied.
+/// A file that is being dragged out of a view. The only operation is copying.
 struct FileDrag {
   /// The value of NSDragOperationCopy.
   static constexpr unsigned copyOperation = 1;
@@ -25,7 +25,7 @@ struct FileDrag {
   ui::Rect image;
 };
 
-/// Places are in global coordinates.
+/// Points named `place` are in global coordinates.
 class PointerRouter : public PointerListener {
  public:
   explicit PointerRouter(WindowServer& server);
@@ -36,14 +36,14 @@ class PointerRouter : public PointerListener {
   void buttonReleasedAt(CGPoint place) override;
   void wheelTurnedAt(CGPoint place, double horizontal, double vertical) override;
 
-  /// Something else may be under the pointer now.
+  /// To be called when something else may be under the pointer.
   void refresh();
-  /// Whatever was pressed or dragged is let go without an effect.
+  /// Cancels a press or drag without an effect.
   void cancelPress();
-  /// A view's drag source has been dragged far enough.
+  /// To be called when a view's drag source has been dragged beyond its threshold.
   void beginFileDrag(const ui::DragRequest& request, const HostedView& source);
   [[nodiscard]] const std::optional<FileDrag>& fileDrag() const { return fileDrag_; }
-  /// Whether the file would be taken where the pointer is now.
+  /// Whether the window under the pointer accepts the dragged file there.
   [[nodiscard]] bool canDropHere() const;
 
  private:
@@ -57,7 +57,7 @@ class PointerRouter : public PointerListener {
     CGPoint offset;
   };
 
-  /// The view that would hear of the pointer there; none when there is none or it is kept back.
+  /// Hit test: the view that receives events there; none if a modal session blocks it.
   [[nodiscard]] std::optional<Target> targetAt(CGPoint place) const;
   [[nodiscard]] std::shared_ptr<DeskWindow> dropWindowAt(CGPoint place) const;
   void hoverAt(CGPoint place);
@@ -67,9 +67,9 @@ class PointerRouter : public PointerListener {
   void beginWindowDrag(const std::shared_ptr<DeskWindow>& window, CGPoint place);
   void dragWindow(CGPoint place);
   void drop(CGPoint place);
-  /// Tells the window that it would take the file, and the one before that it would not. Null for
-  /// none.
-  void showDropAt(const std::shared_ptr<DeskWindow>& window);
+  /// The window whose drop target is under the drag; null for none. Calls the `hover` callbacks of
+  /// the old and the new one.
+  void setDropWindow(const std::shared_ptr<DeskWindow>& window);
 
   WindowServer& server_;
   std::weak_ptr<HostedView> hovered_;
@@ -77,7 +77,7 @@ class PointerRouter : public PointerListener {
   std::optional<WindowDrag> windowDrag_;
   std::optional<FileDrag> fileDrag_;
   std::weak_ptr<DeskWindow> pressedCloseButton_;
-  std::weak_ptr<DeskWindow> dropShownIn_;
+  std::weak_ptr<DeskWindow> dropWindow_;
 };
 
 }  // namespace orvane::desk

@@ -1,5 +1,4 @@
-// RunningApplication is what the system knows of the application object: its delegate, and how it
-// is started, opened again and quit.
+// RunningApplication is the application object: its delegate, launching, reopening and quitting.
 #pragma once
 
 #include "Orvane/platform/appkit/Application.hpp"
@@ -14,14 +13,14 @@ class RunningApplication {
 
   void setDelegate(appkit::ApplicationDelegate delegate);
 
-  /// The system has started the application.
+  /// Calls the delegate's didFinishLaunching.
   void finishLaunching();
   /// The user opens the running application again, which makes it active. Returns the delegate's
   /// answer, which has no effect: there is no document to create.
   bool reopen();
   /// Whether a key meant something to the application, whose window had no use for it.
   bool performKeyEquivalent(const ui::KeyEvent& event);
-  /// The delegate is told, and the process ends as soon as what runs now has returned.
+  /// Calls the delegate's willTerminate; the process ends after the current task or handler.
   void terminate();
   void processEnded();
 

@@ -1,4 +1,4 @@
-// Places are counted from the right edge, so that the clock's width does not move the icons.
+// Positions are counted from the right edge, so that the clock's width does not move the icons.
 #include "desk/windows/StatusBar.hpp"
 
 #include <algorithm>
@@ -9,10 +9,10 @@ namespace orvane::desk {
 
 namespace {
 
-/// The margin of the menu bar, the room for the clock's longest text, and that for one icon.
+/// The margin of the menu bar, and the widths for the clock's longest text and for an icon.
 constexpr double sideMargin = 14;
-constexpr double clockRoom = 112;
-constexpr double iconRoom = 32;
+constexpr double clockWidth = 112;
+constexpr double iconWidth = 32;
 constexpr int applicationPosition = 2;
 
 }  // namespace
@@ -48,8 +48,8 @@ const StatusBarItem* StatusBar::item() const {
 
 CGRect StatusBar::place(const CGRect& displayFrame, int position) {
   const double right = displayFrame.origin.x + displayFrame.size.width;
-  return CGRectMake(right - sideMargin - clockRoom - iconRoom * (position + 1),
-                    displayFrame.origin.y, iconRoom, Displays::menuBarHeight);
+  return CGRectMake(right - sideMargin - clockWidth - iconWidth * (position + 1),
+                    displayFrame.origin.y, iconWidth, Displays::menuBarHeight);
 }
 
 CGRect StatusBar::itemFrame(const CGRect& displayFrame) {
@@ -59,9 +59,9 @@ CGRect StatusBar::itemFrame(const CGRect& displayFrame) {
 std::optional<std::size_t> StatusBar::displayOfItemAt(CGPoint place) const {
   const Displays& displays = server_.machine().displays;
   const auto index = displays.indexContaining(place);
-  const bool isThere = index && item() != nullptr &&
-                       CGRectContainsPoint(itemFrame(displays.globalFrames()[*index]), place);
-  return isThere ? index : std::nullopt;
+  const bool isOnItem = index && item() != nullptr &&
+                        CGRectContainsPoint(itemFrame(displays.globalFrames()[*index]), place);
+  return isOnItem ? index : std::nullopt;
 }
 
 bool StatusBar::isInMenuBar(CGPoint place) const {

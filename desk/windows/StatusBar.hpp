@@ -1,4 +1,4 @@
-// StatusBar is the right-hand part of the menu bar, where the application's item stands.
+// StatusBar is the right-hand part of the menu bar, with the application's status item.
 #pragma once
 
 #include <memory>
@@ -15,7 +15,7 @@ namespace orvane::desk {
 
 class WindowServer;
 
-/// One item as the application has described it. It is in the bar while it lives.
+/// A status item. It is in the bar during its lifetime.
 struct StatusBarItem {
   StatusBarItem();
   StatusBarItem(const StatusBarItem&) = delete;
@@ -38,17 +38,17 @@ class StatusBar {
 
   void add(StatusBarItem& item);
   void remove(StatusBarItem& item);
-  /// The application's item; null when it has none. Of several, the first.
+  /// The application's first item; null when it has none.
   [[nodiscard]] const StatusBarItem* item() const;
 
-  /// The `position`-th place for an icon from the right, beside the clock, in the menu bar of a
-  /// display with this frame.
+  /// The frame of the icon at `position`, counted from 0 at the clock to the left, on a display
+  /// with this frame.
   [[nodiscard]] static CGRect place(const CGRect& displayFrame, int position);
-  /// Where the application's item is on a display with this frame: left of the system's own two.
+  /// The frame of the application's item, left of the system's two, on a display with this frame.
   [[nodiscard]] static CGRect itemFrame(const CGRect& displayFrame);
 
-  /// The display whose menu bar's item is there, by its place in the list; none when it is not on
-  /// the item, or there is no item.
+  /// The index of the display whose status item contains the point; none when there is no such
+  /// item.
   [[nodiscard]] std::optional<std::size_t> displayOfItemAt(CGPoint place) const;
   [[nodiscard]] bool isInMenuBar(CGPoint place) const;
   void processEnded() { items_.clear(); }

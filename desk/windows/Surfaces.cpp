@@ -28,7 +28,7 @@ CGRect globalRect(const ui::Rect& rect, CGPoint origin) {
   return CGRectMake(origin.x + rect.x, origin.y + rect.y, rect.width, rect.height);
 }
 
-/// `window` is what the scroll areas above the node let be seen.
+/// `window` is the intersection of the ancestor scroll areas.
 void collect(const ui::SemanticsNode& node, const std::shared_ptr<HostedView>& view, CGPoint origin,
              const ui::Rect& window, std::vector<SurfaceControl>& controls) {
   if (node.isControl()) {
@@ -57,7 +57,7 @@ void move(ui::SemanticsNode& node, ui::Point distance) {
   }
 }
 
-/// An item that shows its title.
+/// The node of an item without a view.
 ui::SemanticsNode plainNode(const MenuRow& row, const appkit::MenuItem& item) {
   ui::SemanticsNode node;
   node.role = ui::Role::button;
@@ -102,12 +102,12 @@ std::vector<std::string> Surfaces::names() const {
   return all;
 }
 
-bool Surfaces::isThere(const std::string& name) const {
+bool Surfaces::isOpen(const std::string& name) const {
   return name == menu ? server_.menus.isOpen() : window(name) != nullptr;
 }
 
 std::optional<ui::SemanticsNode> Surfaces::tree(const std::string& name) const {
-  if (!isThere(name)) {
+  if (!isOpen(name)) {
     return std::nullopt;
   }
   if (name == menu) {

@@ -1,5 +1,4 @@
-// Surfaces are what a spectator sees and can operate, by the names that scripts use: the windows
-// and the open menu.
+// Surfaces are the windows and the open menu, by the names that scripts use.
 #pragma once
 
 #include <functional>
@@ -16,14 +15,14 @@ namespace orvane::desk {
 
 class WindowServer;
 
-/// One control as a user of a screen reader finds it.
+/// A control of the semantics tree.
 struct SurfaceControl {
   ui::SemanticsNode node;
   /// In global coordinates.
   CGRect frame{};
-  /// The part of the frame that scrolling has left in sight, empty when there is none.
-  CGRect frameInSight{};
-  /// The accessibility press; false when it did nothing.
+  /// The part of the frame that is not clipped by scroll areas; may be empty.
+  CGRect visibleFrame{};
+  /// The accessibility press; false when it had no effect.
   std::function<bool()> press;
 };
 
@@ -34,18 +33,18 @@ class Surfaces {
 
   explicit Surfaces(WindowServer& server) : server_(server) {}
 
-  /// The name of a window; its class name when it has no other.
+  /// The name of a window; its class name if it has no surface name.
   [[nodiscard]] static std::string nameOf(const DeskWindow& window);
-  /// The frontmost visible window of that name; null when there is none.
+  /// The frontmost visible window with that name; null when there is none.
   [[nodiscard]] std::shared_ptr<DeskWindow> window(const std::string& name) const;
-  /// The names of what can be operated now, front to back.
+  /// The visible surfaces that no modal session blocks, front to back.
   [[nodiscard]] std::vector<std::string> names() const;
-  [[nodiscard]] bool isThere(const std::string& name) const;
+  [[nodiscard]] bool isOpen(const std::string& name) const;
 
-  /// What a screen reader finds on a surface, up to date, frames from its content's top left; none
-  /// when the surface is not there.
+  /// The up-to-date semantics tree, with frames from the surface's top left; none when the surface
+  /// is not open.
   [[nodiscard]] std::optional<ui::SemanticsNode> tree(const std::string& name) const;
-  /// All controls of a surface in the order of reading.
+  /// All controls of a surface in reading order; none when it is not open.
   [[nodiscard]] std::vector<SurfaceControl> controls(const std::string& name) const;
 
  private:

@@ -1,4 +1,4 @@
-// SymbolImage is a picture of a system symbol as the application has asked for it.
+// SymbolImage is an image of a system symbol, with the attributes that the application has set.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// A program of the system that shows windows, such as the System Settings. It runs whether or not
-// the application does.
+// A program of the system with windows, such as System Settings. It runs independently of the
+// application.
 #pragma once
 
 namespace orvane::desk {

@@ -1,4 +1,4 @@
-// There is a timer only while the pointer rests on something with a hint that is not shown yet.
+// A timer runs only while the pointer rests on a view whose tooltip is not visible yet.
 #include "desk/windows/Tooltips.hpp"
 
 #include "desk/windows/WindowServer.hpp"
@@ -28,16 +28,16 @@ void Tooltips::pointerIsOver(const std::shared_ptr<HostedView>& view, ui::Point 
   if (!tooltip) {
     return;
   }
-  rest_ = server_.machine().runLoop.addTimer(restNanoseconds, RunLoop::commonModes,
-                                             [this, text = tooltip->text, place] {
-                                               stopWaiting();
-                                               shown_ = Shown{text, place};
-                                               server_.updates.request();
-                                             });
+  timer_ = server_.machine().runLoop.addTimer(restNanoseconds, RunLoop::commonModes,
+                                              [this, text = tooltip->text, place] {
+                                                cancelTimer();
+                                                shown_ = Shown{text, place};
+                                                server_.updates.request();
+                                              });
 }
 
 void Tooltips::hide() {
-  stopWaiting();
+  cancelTimer();
   current_.reset();
   if (shown_) {
     shown_.reset();
@@ -45,10 +45,10 @@ void Tooltips::hide() {
   }
 }
 
-void Tooltips::stopWaiting() {
-  if (const auto rest = rest_) {
-    rest_ = nullptr;
-    server_.machine().runLoop.invalidateTimer(rest);
+void Tooltips::cancelTimer() {
+  if (const auto timer = timer_) {
+    timer_ = nullptr;
+    server_.machine().runLoop.invalidateTimer(timer);
   }
 }
 

@@ -1,4 +1,4 @@
-// Tooltips shows the hint of the view that the pointer rests on.
+// Shows the tooltip of the view on which the pointer rests.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ class WindowServer;
 
 class Tooltips {
  public:
-  /// How long the pointer has to rest.
+  /// The time that the pointer must rest.
   static constexpr std::int64_t restNanoseconds = 1'000'000'000;
 
   struct Shown {
@@ -27,18 +27,18 @@ class Tooltips {
   };
 
   explicit Tooltips(WindowServer& server) : server_(server) {}
-  ~Tooltips() { stopWaiting(); }
+  ~Tooltips() { cancelTimer(); }
 
-  /// The pointer is over this view's point, or over no view.
+  /// To be called when the pointer has moved: it is over this point of the view, or over no view.
   void pointerIsOver(const std::shared_ptr<HostedView>& view, ui::Point point, CGPoint place);
   void hide();
   [[nodiscard]] const std::optional<Shown>& shown() const { return shown_; }
 
  private:
-  void stopWaiting();
+  void cancelTimer();
 
   WindowServer& server_;
-  std::shared_ptr<RunLoopTimer> rest_;
+  std::shared_ptr<RunLoopTimer> timer_;
   std::optional<ui::Tooltip> current_;
   std::optional<Shown> shown_;
 };

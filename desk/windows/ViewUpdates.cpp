@@ -1,4 +1,4 @@
-// One update for all that changed during one event.
+// Changes during one event lead to one update.
 #include "desk/windows/ViewUpdates.hpp"
 
 #include <utility>

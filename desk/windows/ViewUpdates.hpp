@@ -1,5 +1,5 @@
-// ViewUpdates brings the views that have changed up to date once whatever changed them has
-// returned, as the window system lays out and draws at the end of an event.
+// ViewUpdates updates changed views after the current task or handler, as the window system does at
+// the end of an event.
 #pragma once
 
 #include <memory>
@@ -14,14 +14,14 @@ class ViewUpdates {
  public:
   explicit ViewUpdates(WindowServer& server) : server_(server) {}
 
-  /// The view has changed.
+  /// To be called when the view has changed.
   void request(std::weak_ptr<HostedView> view);
-  /// Windows or menus came, went or moved: what is under the pointer may be something else.
+  /// To be called when windows or menus have appeared, disappeared or moved.
   void request();
-  /// The process has ended, and with it what was asked for.
+  /// The process has ended, and with it the scheduled update.
   void processEnded();
 
-  /// How often something on the screen may have become different.
+  /// The number of requests, each of which may have changed the screen.
   [[nodiscard]] long long changeCount() const { return changeCount_; }
 
  private:

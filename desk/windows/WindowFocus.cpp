@@ -1,4 +1,4 @@
-// Who becomes key next, and what activation shows and hides.
+// The choice of the next key window, and the windows that activation shows and hides.
 #include "desk/windows/WindowFocus.hpp"
 
 #include <utility>
@@ -15,7 +15,7 @@ void WindowFocus::activate() {
     window->isHiddenByDeactivation = false;
   }
   server_.noteChange();
-  reconsider();
+  revalidate();
 }
 
 void WindowFocus::deactivate() {
@@ -36,7 +36,7 @@ void WindowFocus::hide() {
 
 void WindowFocus::hideForDeactivation() {
   for (const Window& window : server_.windows()) {
-    // A modal window stays: without it nobody could end the session.
+    // A modal window stays, because the user needs it to end the session.
     window->isHiddenByDeactivation = window->owner == WindowOwner::application &&
                                      window->hidesOnDeactivate && !server_.modal.isModal(*window);
   }
@@ -92,7 +92,7 @@ WindowFocus::Window WindowFocus::keyReceiver() const {
   return system != nullptr && !isActive_ && server_.isVisible(*system) ? system : nullptr;
 }
 
-void WindowFocus::reconsider() {
+void WindowFocus::revalidate() {
   const Window main = main_.lock();
   if (main != nullptr && !server_.isVisible(*main)) {
     main_.reset();

@@ -1,4 +1,4 @@
-// WindowFocus knows whether the application is active and which window is key and which is main.
+// WindowFocus: whether the application is active, the key window and the main window.
 #pragma once
 
 #include <memory>
@@ -9,8 +9,8 @@ namespace orvane::desk {
 
 class WindowServer;
 
-/// The key window gets the keys. That of an application that is not active is remembered until it
-/// becomes active; a panel that does not activate its application may be key nevertheless.
+/// The key window receives key events. An inactive application keeps its key window for the next
+/// activation; only a nonactivating panel is key while the application is inactive.
 class WindowFocus {
  public:
   using Window = std::shared_ptr<DeskWindow>;
@@ -21,21 +21,22 @@ class WindowFocus {
   void activate();
   /// Another program becomes active.
   void deactivate();
-  /// The same, and the application's windows are hidden until it is active again.
+  /// Deactivates, and hides the application's windows until it is active again.
   void hide();
 
-  /// Nothing for a window that cannot become key, is not on the screen, or is kept back by a modal
+  /// Does nothing for a window that cannot become key, is not visible, or is blocked by a modal
   /// session.
   void makeKey(const Window& window);
   /// A click on the window: its program becomes active, it goes to the front and becomes key.
   void clicked(const Window& window);
-  /// Its application's key window; null when there is none now.
+  /// The application's key window; null when there is none.
   [[nodiscard]] Window keyWindow() const;
   [[nodiscard]] Window mainWindow() const;
-  /// The window that keys go to, whosever it is; null when there is none.
+  /// The window that receives key events, also of a system program; null when there is none.
   [[nodiscard]] Window keyReceiver() const;
-  /// Some window has left the screen, or a modal session has begun or ended.
-  void reconsider();
+  /// To be called when a window has disappeared, or a modal session has begun or ended: chooses
+  /// another key window if necessary.
+  void revalidate();
   void processEnded();
 
  private:

@@ -1,5 +1,5 @@
-// The order is kept as a history of bringing to the front; levels and children are applied to it
-// when somebody asks.
+// The stored order is that of bringing to the front; `backToFront` sorts it by level and inserts
+// children.
 #include "desk/windows/WindowList.hpp"
 
 #include <algorithm>

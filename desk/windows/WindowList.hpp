@@ -1,4 +1,4 @@
-// WindowList is the order in which windows lie above each other.
+// WindowList is the z-order of windows.
 #pragma once
 
 #include <memory>
@@ -8,8 +8,8 @@
 
 namespace orvane::desk {
 
-/// A window of a higher level lies above all windows of lower ones. A child lies above its parent,
-/// whatever its own level, and the two go to the front together.
+/// A window of a higher level is above all windows of lower levels. A child is above its parent,
+/// whatever its own level, and comes to the front with it.
 class WindowList {
  public:
   using Window = std::shared_ptr<DeskWindow>;
@@ -17,19 +17,18 @@ class WindowList {
 
   /// Brings the window, its parents and its children in front of all others of their level.
   void bringToFront(const Window& window);
-  /// In front of all others of their level that have the same owner.
+  /// Brings them in front of the others of their level that have the same owner.
   void bringToFrontOfItsOwner(const Window& window);
   void remove(const Window& window);
   [[nodiscard]] bool contains(const DeskWindow& window) const;
 
   [[nodiscard]] Windows backToFront() const;
-  [[nodiscard]] bool isEmpty() const { return order_.empty(); }
 
  private:
-  /// Takes the windows out of the order that `isTaken` names, keeping their order.
+  /// Removes the window and its descendants, and returns them in their order.
   [[nodiscard]] Windows takeGroup(const DeskWindow& root);
 
-  /// The last brought to the front comes last, whatever its level.
+  /// Ordered by the time of bringing to the front, whatever the level.
   Windows order_;
 };
 

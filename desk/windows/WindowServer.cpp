@@ -14,8 +14,8 @@ namespace {
 
 using Window = WindowServer::Window;
 
-/// How much of the free height `center` leaves above a window: it stands a little above the middle.
-constexpr double centredShareAbove = 1.0 / 3;
+/// The fraction of the free height that `center` leaves above a window.
+constexpr double centredFractionAbove = 1.0 / 3;
 
 double overlapArea(const CGRect& first, const CGRect& second) {
   const double width = std::min(CGRectGetMaxX(first), CGRectGetMaxX(second)) -
@@ -34,7 +34,7 @@ WindowServer::WindowServer(Machine& machine) : machine_(machine) {
 
 WindowServer::~WindowServer() {
   machine_.observer = nullptr;
-  // Views that end later must not ask for a server that is no more.
+  // Views that are destroyed later must not use this server.
   for (const Window& window : windows()) {
     if (window->content != nullptr) {
       window->content->setOnScreen(false);
@@ -64,7 +64,7 @@ bool WindowServer::isVisible(const DeskWindow& window) const {
 
 Window WindowServer::windowAt(CGPoint globalPlace) const {
   const CGPoint place = machine_.displays.flipped(globalPlace);
-  // Nothing of an ordinary window can be reached behind the menu bar.
+  // The menu bar covers windows of ordinary levels.
   const bool isInMenuBar = statusBar.isInMenuBar(globalPlace);
   const auto all = windows();
   for (auto window = all.rbegin(); window != all.rend(); ++window) {
@@ -149,7 +149,7 @@ void WindowServer::orderOut(const Window& window) {
   if (kept->content != nullptr) {
     kept->content->setOnScreen(false);
   }
-  focus.reconsider();
+  focus.revalidate();
   noteChange();
 }
 
@@ -173,7 +173,7 @@ void WindowServer::miniaturize(const Window& window) {
   }
   window->isMiniaturized = true;
   noteChange();
-  focus.reconsider();
+  focus.revalidate();
 }
 
 void WindowServer::deminiaturize(const Window& window) {
@@ -209,7 +209,7 @@ void WindowServer::center(DeskWindow& window) {
   const CGSize size = window.frame.size;
   setOrigin(window, {std::floor(CGRectGetMidX(area) - size.width / 2),
                      std::floor(area.origin.y +
-                                (area.size.height - size.height) * (1 - centredShareAbove))});
+                                (area.size.height - size.height) * (1 - centredFractionAbove))});
 }
 
 void WindowServer::addChild(const Window& parent, const Window& child) {
@@ -282,7 +282,7 @@ bool WindowServer::keyDown(const ui::KeyEvent& event) {
 
 void WindowServer::displaysChanged() {
   menus.close();
-  // A window that was on a display that has gone comes to the main one.
+  // Windows of a detached display move to the main one.
   const Display* const main = machine_.displays.main();
   for (const Window& window : windows()) {
     if (main != nullptr && !displayIndexOf(*window) && window->parent.expired()) {
@@ -303,7 +303,7 @@ void WindowServer::processEnded() {
   menus.processEnded();
   statusBar.processEnded();
   focus.processEnded();
-  // What is still shown belonged to the process; nobody is told any more.
+  // The callbacks of the process's windows are not called any more.
   for (const Window& window : windows()) {
     if (window->owner == WindowOwner::application) {
       window->willClose = nullptr;

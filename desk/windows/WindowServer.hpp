@@ -1,5 +1,5 @@
-// The window server of the simulated Mac: its windows, who of them is key, menus, status items, and
-// where pointer and keys go. It stands on a machine and is made when it is first needed.
+// The window server of a machine: windows, focus, menus, status items, and the routing of pointer
+// and key events. It is created on first use.
 #pragma once
 
 #include <memory>
@@ -26,8 +26,8 @@
 
 namespace orvane::desk {
 
-/// Callbacks may do anything, also end the windows they came from; what is being worked on is held
-/// meanwhile.
+/// Callbacks may do anything, even close the window that they belong to: the server holds
+/// references to the objects it works on.
 class WindowServer : public MachineObserver {
  public:
   using Window = std::shared_ptr<DeskWindow>;
@@ -35,9 +35,9 @@ class WindowServer : public MachineObserver {
   explicit WindowServer(Machine& machine);
   ~WindowServer() override;
 
-  /// That of the current machine, made if there is none yet.
+  /// The current machine's; created if there is none yet.
   static WindowServer& current();
-  /// Null when nobody has needed one yet.
+  /// Null before the first use.
   static WindowServer* of(const Machine& machine);
 
   [[nodiscard]] Machine& machine() { return machine_; }
@@ -45,46 +45,46 @@ class WindowServer : public MachineObserver {
   [[nodiscard]] DrawingResources& resources() { return resources_; }
   [[nodiscard]] ui::TextMeasurer& text() { return text_; }
 
-  /// From now on the program lives as long as the server.
+  /// The program lives as long as the server.
   void install(std::unique_ptr<SystemProgram> program) { programs_.push_back(std::move(program)); }
 
-  /// The windows that are on the screen, miniaturised, or hidden for a while, back to front.
+  /// The windows that are visible, miniaturised or hidden by deactivation, back to front.
   [[nodiscard]] WindowList::Windows windows() const { return list_.backToFront(); }
   [[nodiscard]] bool isVisible(const DeskWindow& window) const;
-  /// The frontmost window there, in global coordinates; null when there is none.
+  /// The frontmost window at a point in global coordinates; null when there is none.
   [[nodiscard]] Window windowAt(CGPoint globalPlace) const;
-  /// The window whose content the view is; null when it is nobody's.
+  /// The window with this content; null when there is none.
   [[nodiscard]] Window windowShowing(const HostedView& view) const;
-  /// Where the view's top left is, in global coordinates; none when it is not on the screen.
+  /// The view's top left in global coordinates; none when it is not visible.
   [[nodiscard]] std::optional<CGPoint> originOf(const HostedView& view) const;
   /// The top left of a window's frame, in global coordinates.
   [[nodiscard]] CGPoint topLeftOf(const DeskWindow& window) const;
-  /// The display that most of the window is on, by its place in the list; none when it is on none.
+  /// The index of the display that shows most of the window; none when no display shows it.
   [[nodiscard]] std::optional<std::size_t> displayIndexOf(const DeskWindow& window) const;
 
-  /// Shows the window, in front of those of its level; while the application is not active, only
-  /// in front of its own, unless `regardless`.
+  /// Shows the window in front of the others of its level; while the application is inactive, only
+  /// in front of its own windows, unless `regardless`.
   void orderFront(const Window& window, bool regardless);
   /// Takes the window and its children off the screen.
   void orderOut(const Window& window);
-  /// Tells the window's owner first, once.
+  /// Calls the window's willClose first, once.
   void close(const Window& window);
-  /// As the close button does; nothing for a window without that style.
+  /// The action of the close button; does nothing without that style.
   void performClose(const Window& window);
-  /// Nothing for a window without that style.
+  /// Does nothing without that style.
   void miniaturize(const Window& window);
   void deminiaturize(const Window& window);
-  /// The children move with it.
+  /// Moves the children, too. Ignores an origin that is not finite.
   void setOrigin(DeskWindow& window, CGPoint origin);
-  /// In the middle of its screen, a little above the middle.
+  /// Centres it horizontally on its screen, and vertically with one third of the space above it.
   void center(DeskWindow& window);
   void addChild(const Window& parent, const Window& child);
   void removeChild(const Window& parent, const Window& child);
   void setContent(const Window& window, std::shared_ptr<HostedView> view);
-  /// Whether a window is on the screen may have changed.
+  /// To be called when the visibility of a window may have changed.
   void noteChange();
 
-  /// A key is pressed. Returns whether anybody did anything with it.
+  /// Sends a key press to the menu or the key window. Whether it was handled.
   bool keyDown(const ui::KeyEvent& event);
 
   void displaysChanged() override;
@@ -106,7 +106,7 @@ class WindowServer : public MachineObserver {
   MenuTracker menus{*this};
   Tooltips tooltips{*this};
   PointerRouter pointer{*this};
-  /// What was spoken to users of a screen reader.
+  /// The screen-reader announcements of the process, in order.
   std::vector<std::string> announcements;
 
  private:

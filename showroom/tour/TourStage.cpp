@@ -105,7 +105,7 @@ void TourStage::click(const std::string& label, const std::string& surface) {
 void TourStage::pick(const std::string& label, const std::string& item,
                      const std::string& surface) {
   click(label, surface);
-  const std::optional<CGPoint> place = hand_.menuItemPlace(item);
+  const std::optional<CGPoint> place = hand_.menuItemCenter(item);
   check(place.has_value(), "there is an item \"" + item + "\" of " + label);
   if (place) {
     clickAt(*place);
@@ -133,7 +133,7 @@ void TourStage::dropIcon() {
   desk::WindowServer& server = desk::WindowServer::current();
   const auto system = desk::Surfaces(server).window("system");
   const auto list = application_.systemSettings().listFrame();
-  const std::optional<CGPoint> icon = hand_.iconPlace();
+  const std::optional<CGPoint> icon = hand_.iconLocation();
   check(icon && list && system != nullptr, "guide and list are there");
   if (hasFailed()) {
     return;

@@ -94,15 +94,15 @@ void showPermission(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.click("Pin Dock", desk::Surfaces::menu);
   machine.advance(0.5);
-  stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("alert"), "the alert is open");
+  stage.check(desk::Surfaces(desk::WindowServer::current()).isOpen("alert"), "the alert is open");
   stage.check(!stage.snapshot().guard.isRunning, "nothing is guarded without the permission");
   stage.addStep("Pin Dock: watching the pointer needs a permission, and Orvane says so first.");
 
   stage.click("Open Privacy Settings", "alert");
   machine.advance(2.5);
-  stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("system"),
+  stage.check(desk::Surfaces(desk::WindowServer::current()).isOpen("system"),
               "the settings are open");
-  stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("guide"), "the guide is there");
+  stage.check(desk::Surfaces(desk::WindowServer::current()).isOpen("guide"), "the guide is there");
   stage.addStep("The System Settings open on the right page, and a small guide waits beside them.");
 
   stage.dropIcon();
@@ -113,7 +113,7 @@ void showPermission(TourStage& stage) {
   stage.check(stage.snapshot().selectedDisplayID == target->uuid,
               "the Dock's own display is the target");
   stage.check(desk::WindowServer::current().statusBar.item()->image->name == "lock.fill" &&
-                  desk::Surfaces(desk::WindowServer::current()).isThere("guide"),
+                  desk::Surfaces(desk::WindowServer::current()).isOpen("guide"),
               "the lock is closed, and the guide says so");
   stage.addStep(
       "Its icon dropped onto the list is all it takes: the lock closes, the Dock belongs to " +
@@ -168,7 +168,7 @@ void showWindow(TourStage& stage) {
   stage.clickIcon(builtIn);
   stage.click("Open Window", desk::Surfaces::menu);
   machine.advance(1);
-  stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("main"), "the window is open");
+  stage.check(desk::Surfaces(desk::WindowServer::current()).isOpen("main"), "the window is open");
   stage.writeCloseUp("main-panel", "main");
   stage.addStep(
       "The window shows the same with more room: a card for each display, and what is on.");
@@ -180,13 +180,13 @@ void showWindow(TourStage& stage) {
   stage.pick("Language", "Chinese", "settings");
   machine.advance(1);
   stage.check(stage.snapshot().appLanguage == OrvaneLanguage::chinese, "the language is Chinese");
-  stage.check(desk::Surfaces(desk::WindowServer::current()).isThere("settings"),
+  stage.check(desk::Surfaces(desk::WindowServer::current()).isOpen("settings"),
               "the settings are open");
   stage.addStep("In the settings: the language, here Chinese at once, and the key that unlocks.");
 
   stage.pick("语言", "跟随系统", "settings");
   stage.pressEscape();
-  stage.check(!desk::Surfaces(desk::WindowServer::current()).isThere("settings"),
+  stage.check(!desk::Surfaces(desk::WindowServer::current()).isOpen("settings"),
               "the settings are closed");
 }
 

@@ -225,9 +225,9 @@ TEST_F(AppDelegateMenuTest, WhatClosesTheMenuIsDoneWhenTheClickIsOver) {
   hand.pressButton();
   machine.mouse.releaseButton();
   EXPECT_FALSE(isOpen());
-  EXPECT_FALSE(desk::Surfaces(server()).isThere("main"));
+  EXPECT_FALSE(desk::Surfaces(server()).isOpen("main"));
   machine.runDue();
-  EXPECT_TRUE(desk::Surfaces(server()).isThere("main"));
+  EXPECT_TRUE(desk::Surfaces(server()).isOpen("main"));
 }
 
 TEST_F(AppDelegateMenuTest, SwitchesFlipInPlaceAndLeaveTheMenuOpen) {
@@ -306,8 +306,8 @@ TEST_F(AppDelegateMenuTest, OpenWindowClosesTheMenuShowsTheWindowAndActivates) {
   beginWithOpenMenu();
   ASSERT_TRUE(press("Open Window"));
   EXPECT_FALSE(isOpen());
-  EXPECT_TRUE(desk::Surfaces(server()).isThere("main"));
-  EXPECT_FALSE(desk::Surfaces(server()).isThere("settings"));
+  EXPECT_TRUE(desk::Surfaces(server()).isOpen("main"));
+  EXPECT_FALSE(desk::Surfaces(server()).isOpen("settings"));
   EXPECT_TRUE(server().focus.isActive());
 }
 
@@ -330,7 +330,7 @@ TEST_F(AppDelegateMenuTest, SettingsClosesTheMenuAndShowsTheSettings) {
   beginWithOpenMenu();
   ASSERT_TRUE(press("Settings"));
   EXPECT_FALSE(isOpen());
-  EXPECT_TRUE(desk::Surfaces(server()).isThere("settings"));
+  EXPECT_TRUE(desk::Surfaces(server()).isOpen("settings"));
 }
 
 TEST_F(AppDelegateMenuTest, ActionsBringTheIconUpToDate) {

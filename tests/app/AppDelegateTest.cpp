@@ -181,7 +181,7 @@ TEST_F(AppDelegateTest, TheSameLanguageAgainRebuildsNothing) {
 TEST_F(AppDelegateTest, OpeningItAgainBringsTheMainWindowForward) {
   begin();
   application.reopen();
-  ASSERT_TRUE(desk::Surfaces(server()).isThere("main"));
+  ASSERT_TRUE(desk::Surfaces(server()).isOpen("main"));
   const auto window = desk::Surfaces(server()).window("main");
   EXPECT_EQ(server().focus.keyWindow(), window);
   server().miniaturize(window);

@@ -60,7 +60,7 @@ class AppFixture : public ApplicationFixture {
   }
   /// The middle of an open menu's row, in global coordinates.
   [[nodiscard]] CGPoint middleOf(const std::string& title) {
-    const auto place = hand.menuItemPlace(title);
+    const auto place = hand.menuItemCenter(title);
     EXPECT_TRUE(place) << "no row " << title;
     return place.value_or(CGPoint{});
   }

@@ -185,7 +185,7 @@ TEST_F(StartUpTest, ModelAndGuardListTheScreensOnceEach) {
 TEST_F(StartUpTest, ReopeningNeedsNothingMoreFromTheSystem) {
   application.launch();
   EXPECT_TRUE(server().application.reopen());
-  EXPECT_TRUE(desk::Surfaces(server()).isThere("main"));
+  EXPECT_TRUE(desk::Surfaces(server()).isOpen("main"));
 }
 
 class MenuActionCallsTest : public StartUpTest {

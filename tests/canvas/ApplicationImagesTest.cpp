@@ -1,5 +1,5 @@
-// The application's images: every one that it names is there, in the right sizes, and is what its
-// drawing shows.
+// The application's images: every image that it names exists, in the right sizes, and equals its
+// drawing.
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -28,9 +28,9 @@ namespace fs = std::filesystem;
 const fs::path sources = fs::path(ORVANE_SOURCE_FOLDER) / "Orvane";
 const fs::path resources = sources / "resources";
 
-/// Every name in quotes that begins an image in the application's source.
+/// The quoted names of images in the application's sources.
 std::set<std::string> namedImages() {
-  // Also the two names of a choice: Image(condition ? "one" : "other").
+  // Also both names of Image(condition ? "one" : "other").
   const std::regex mention(R"re((?:Image|hasImage)\(([^()]*)\)|imageName = ("\w+"))re");
   const std::regex quoted(R"re("([\w-]+)")re");
   std::set<std::string> names;
@@ -73,7 +73,7 @@ SurfacePointer drawn(const fs::path& drawing, PixelSize size) {
   return surface;
 }
 
-/// The greatest difference of two pictures' components, from 0 to 255; 256 for another size.
+/// The greatest difference of a component, from 0 to 255; 256 for different sizes.
 int difference(cairo_surface_t* first, cairo_surface_t* second) {
   if (!(sizeOf(first) == sizeOf(second))) {
     return 256;
@@ -93,14 +93,15 @@ int difference(cairo_surface_t* first, cairo_surface_t* second) {
   return greatest;
 }
 
-/// The fonts and filters of another release of the library may round otherwise.
+/// Other versions of librsvg may round differently.
 constexpr int tolerance = 6;
 
 void expectDrawn(cairo_surface_t* picture, const std::string& drawing, PixelSize size) {
   ASSERT_NE(picture, nullptr) << drawing;
   EXPECT_EQ(sizeOf(picture), size) << drawing << " of " << size.width;
   EXPECT_LE(difference(picture, drawn(resources / (drawing + ".svg"), size).get()), tolerance)
-      << drawing << " of " << size.width << " pixels is not what its drawing shows; render it anew";
+      << drawing << " of " << size.width
+      << " pixels differs from its drawing; run tools/render-artwork";
 }
 
 std::string drawingOfIcon(int pixels) {
@@ -119,7 +120,7 @@ TEST(ApplicationImagesTest, EveryImageThatTheApplicationNamesIsThere) {
   }
 }
 
-TEST(ApplicationImagesTest, TheyHaveTheirSizesInPoints) {
+TEST(ApplicationImagesTest, EachImageHasItsSizeInPoints) {
   ImageLibrary library;
   addApplicationImages(library);
   const std::map<std::string, ui::Size> sizes{{"AppIcon", {128, 128}},
@@ -165,7 +166,7 @@ TEST(ApplicationImagesTest, TheIconFileHasEverySizeOfAMac) {
     found[kind] = pixels;
     expectDrawn(picture.get(), drawingOfIcon(pixels), {pixels, pixels});
   }
-  // The kinds as the format defines them: 16 to 512 points, once and with two pixels per point.
+  // The image types of the format: 16 to 512 points, with one and two pixels per point.
   EXPECT_EQ(found, (std::map<std::string, int>{{"icp4", 16},
                                                {"icp5", 32},
                                                {"ic07", 128},
@@ -176,26 +177,6 @@ TEST(ApplicationImagesTest, TheIconFileHasEverySizeOfAMac) {
                                                {"ic13", 256},
                                                {"ic14", 512},
                                                {"ic10", 1024}}));
-}
-
-/// The share of the icon's pixels that are opaque where a Mac's icon has its plate, and outside.
-TEST(ApplicationImagesTest, TheIconKeepsToTheGridOfAMacsIcons) {
-  const SurfacePointer icon = drawn(resources / "AppIcon.svg", {1024, 1024});
-  const auto alpha = [&](int x, int y) {
-    cairo_surface_flush(icon.get());
-    return cairo_image_surface_get_data(
-        icon.get())[y * cairo_image_surface_get_stride(icon.get()) + 4 * x + 3];
-  };
-  // The plate is 824 wide in 1024; beyond it there is only its shadow.
-  for (const int along : {300, 512, 724}) {
-    EXPECT_EQ(alpha(101, along), 255);
-    EXPECT_EQ(alpha(922, along), 255);
-    EXPECT_EQ(alpha(along, 101), 255);
-    EXPECT_LT(alpha(98, along), 128);
-    EXPECT_LT(alpha(925, along), 128);
-    EXPECT_LT(alpha(along, 98), 128);
-  }
-  EXPECT_LT(alpha(120, 120), 60) << "the corner is round";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The blur against the Gaussian it stands for, and its bounds.
+// The blur compared with a Gaussian, and its bounds.
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -55,7 +55,7 @@ TEST(BlurTest, AnEdgeBecomesTheIntegralOfAGaussian) {
   }
 }
 
-TEST(BlurTest, TheSpreadIsTheOneAskedFor) {
+TEST(BlurTest, TheStandardDeviationIsTheRequestedOne) {
   for (const double sigma : {3.0, 7.5, 9.0, 13.0}) {
     constexpr int barWidth = 40;
     constexpr int width = 200;
@@ -69,7 +69,7 @@ TEST(BlurTest, TheSpreadIsTheOneAskedFor) {
       ink += coverageAt(surface.get(), x, 0);
       moment += coverageAt(surface.get(), x, 0) * distance * distance;
     }
-    // Variances add up: that of a bar of so many pixels and that of the blur.
+    // The variance is the sum of the variances of the bar and the blur.
     const double spread = moment / ink - (barWidth * barWidth - 1) / 12.0;
     EXPECT_NEAR(spread, sigma * sigma, 0.008 * sigma * sigma) << sigma;
   }
@@ -99,7 +99,7 @@ TEST(BlurTest, NoBlurLeavesThePictureAsItIs) {
   EXPECT_EQ(coverageAt(surface.get(), 4, 4), 255);
 }
 
-TEST(BlurTest, AGrowingRadiusNeverMakesThePeakStep) {
+TEST(BlurTest, AGrowingRadiusLowersThePeakWithoutSteps) {
   int before = 255;
   for (int step = 1; step <= 60; ++step) {
     const SurfacePointer surface = coverage(81, 81);
@@ -111,7 +111,7 @@ TEST(BlurTest, AGrowingRadiusNeverMakesThePeakStep) {
   }
 }
 
-RC_GTEST_PROP(BlurProperty, TheAmountOfInkIsKeptAndSidesStayEqual, ()) {
+RC_GTEST_PROP(BlurProperty, KeepsTheSumOfTheCoverageAndSymmetry, ()) {
   const int width = *rc::gen::inRange(1, 20);
   const int height = *rc::gen::inRange(1, 20);
   const double sigma = *rc::gen::inRange(5, 60) / 10.0;

@@ -1,4 +1,4 @@
-// Shapes are painted by their kept coverage; every pixel is what cairo makes of the same shape.
+// Shapes painted from cached coverage equal cairo's, pixel by pixel.
 #include <algorithm>
 #include <sstream>
 #include <string>
@@ -101,7 +101,7 @@ void paintWithCanvas(CairoCanvas& canvas, const Task& task) {
   canvas.restore();
 }
 
-/// Where two surfaces differ first; empty when they are equal.
+/// The first difference of two surfaces; empty when they are equal.
 std::string differenceOf(cairo_surface_t* first, cairo_surface_t* second) {
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
@@ -168,8 +168,8 @@ SurfacePointer groundOf(const Rgba& color) {
   return surface;
 }
 
-/// What cairo paints of all of the shape, copied where it is not cut off: cairo itself rounds an
-/// outline that it cuts.
+/// Cairo's picture of the whole shape, copied within the clip: cairo rounds an outline that it
+/// clips.
 void paintExpected(cairo_surface_t* surface, double scale, const Task& task) {
   const SurfacePointer whole(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
   const ContextPointer copying(cairo_create(whole.get()));
@@ -199,7 +199,7 @@ RC_GTEST_PROP(CairoCanvasShapesProperty, EveryPixelIsThatOfCairo, ()) {
   const SurfacePointer painted = groundOf(ground);
   DrawingResources resources;
   CairoCanvas canvas(painted.get(), scale, resources);
-  // The later ones find the coverage of the first, elsewhere.
+  // The second and third paint from the coverage of the first, the third at another position.
   Task task = makeTask();
   for (const ui::Point shift : {ui::Point{0, 0}, {0, 0}, {7, 3}}) {
     task.shape.rect = task.shape.rect.movedBy(shift);

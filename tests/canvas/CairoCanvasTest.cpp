@@ -1,4 +1,4 @@
-// What lands on which pixel when the view kit draws on cairo.
+// The pixels of drawings with the canvas.
 #include <cstdlib>
 
 #include <gtest/gtest.h>
@@ -57,7 +57,7 @@ TEST_F(CairoCanvasTest, AGradientDownAScaledShapeIsTheSameInEveryColumnAndWithin
   const Shape shape = Shape::rectangle({3, 2, 14, 17});
   begin(20, 22, 2).transform(ui::Transform::scale(0.97, 0.97, {0, 0}));
   canvas->fill(shape, paint);
-  // The same gradient a hair off the vertical takes the other way through cairo.
+  // Slightly off the vertical, the gradient is drawn by cairo.
   const SurfacePointer whole = std::move(surface);
   paint.end.x += 1.0e-9;
   begin(20, 22, 2).transform(ui::Transform::scale(0.97, 0.97, {0, 0}));
@@ -85,7 +85,7 @@ TEST_F(CairoCanvasTest, AGradientWithoutLengthIsItsLastColor) {
   EXPECT_EQ(at(1, 1), fullRed);
 }
 
-TEST_F(CairoCanvasTest, AClipAndATransformEndWithTheirRestore) {
+TEST_F(CairoCanvasTest, RestoreEndsAClipAndATransform) {
   begin(20, 4).save();
   canvas->clip(Shape::rectangle({0, 0, 4, 4}));
   canvas->transform(Transform::translation({2, 0}));
@@ -98,7 +98,7 @@ TEST_F(CairoCanvasTest, AClipAndATransformEndWithTheirRestore) {
   EXPECT_EQ(at(10, 1), fullBlack);
 }
 
-TEST_F(CairoCanvasTest, AScaleOfZeroShowsNothingAndTheRestStillDraws) {
+TEST_F(CairoCanvasTest, AScaleOfZeroDrawsNothingUntilItIsRestored) {
   begin(8, 8).save();
   canvas->transform(Transform::scale(0, 0, {4, 4}));
   canvas->fill(Shape::rectangle({0, 0, 8, 8}), Paint::solid(red));
@@ -113,7 +113,7 @@ TEST_F(CairoCanvasTest, AScaleOfZeroShowsNothingAndTheRestStillDraws) {
   EXPECT_EQ(at(0, 0), fullRed);
 }
 
-TEST_F(CairoCanvasTest, AContinuousCornerLiesBetweenARoundOneOfItsReachAndTheSquare) {
+TEST_F(CairoCanvasTest, AContinuousCornerIsBetweenACircularOneAndTheSquare) {
   constexpr double radius = 40;
   const Rect square{0, 0, 200, 200};
   const auto coverage = [&](const Shape& shape) {
@@ -127,7 +127,7 @@ TEST_F(CairoCanvasTest, AContinuousCornerLiesBetweenARoundOneOfItsReachAndTheSqu
       coverage(Shape::roundedRectangle(square, radius * 1.6, ui::CornerStyle::circular));
   EXPECT_LT(smooth, 200 * 200);
   EXPECT_GT(smooth, reaching);
-  // It leaves the edge earlier than a circle of the radius, but only by little.
+  // It leaves the edge slightly earlier than a circle with the radius.
   EXPECT_LT(smooth, circular);
   EXPECT_GT(smooth, circular - 4 * 0.05 * radius * radius);
 }
@@ -188,7 +188,7 @@ TEST_F(CairoCanvasTest, GroupOpacityDoesNotAddUpWhereShapesOverlap) {
   EXPECT_NEAR(at(5, 1).alpha, 191, 1);
 }
 
-TEST_F(CairoCanvasTest, ALayerKeepsThePlaceTheTransformAndTheClipAroundIt) {
+TEST_F(CairoCanvasTest, ALayerKeepsTheTransformAndTheClip) {
   begin(40, 40, 2).save();
   canvas->clip(Shape::rectangle({0, 0, 20, 40}));
   canvas->transform(Transform::translation({10, 5}));
@@ -206,7 +206,7 @@ TEST_F(CairoCanvasTest, ALayerKeepsThePlaceTheTransformAndTheClipAroundIt) {
   EXPECT_EQ(at(30, 17), nothing);
 }
 
-TEST_F(CairoCanvasTest, TheShadowOfALayerIsCastByTheWholePictureWithinItsOpacity) {
+TEST_F(CairoCanvasTest, TheShadowOfALayerIsThatOfTheWholePictureAndFadesWithIt) {
   begin(40, 20).beginLayer({10, 4, 10, 4}, 0.5, ui::PaintShadow{red, 0, {0, 6}});
   canvas->fill(Shape::rectangle({10, 4, 6, 4}), Paint::solid(black));
   canvas->fill(Shape::rectangle({14, 4, 6, 4}), Paint::solid(black));
@@ -219,7 +219,7 @@ TEST_F(CairoCanvasTest, TheShadowOfALayerIsCastByTheWholePictureWithinItsOpacity
   EXPECT_EQ(at(21, 11), nothing);
 }
 
-TEST_F(CairoCanvasTest, ALayersShadowIsBlurredOnceForEachPictureAndFollowsIt) {
+TEST_F(CairoCanvasTest, ALayersShadowIsBlurredOnceForEachPicture) {
   const auto draw = [&](double width) {
     begin(40, 30).beginLayer({10, 8, 20, 10}, 1, ui::PaintShadow{red, 6, {0, 4}});
     canvas->fill(Shape::rectangle({10, 8, width, 10}), Paint::solid(white));
@@ -235,7 +235,7 @@ TEST_F(CairoCanvasTest, ALayersShadowIsBlurredOnceForEachPictureAndFollowsIt) {
   EXPECT_EQ(draw(12), first);
 }
 
-TEST_F(CairoCanvasTest, AShadowFallsIntoTheClipFromALayerOutsideOfIt) {
+TEST_F(CairoCanvasTest, ALayerOutsideOfTheClipCastsItsShadowIntoIt) {
   begin(30, 10).save();
   canvas->clip(Shape::rectangle({15, 0, 15, 10}));
   canvas->beginLayer({0, 0, 10, 10}, 1, ui::PaintShadow{red, 0, {15, 0}});
@@ -246,14 +246,14 @@ TEST_F(CairoCanvasTest, AShadowFallsIntoTheClipFromALayerOutsideOfIt) {
   EXPECT_EQ(at(5, 5), nothing);
 }
 
-TEST_F(CairoCanvasTest, TheDepthOfAShadowFollowsTheScale) {
+TEST_F(CairoCanvasTest, TheBlurOfAShadowFollowsTheScale) {
   begin(40, 40).shadow(Shape::rectangle({10, 10, 20, 20}), {black, 10, {}});
   const int once = at(5, 20).alpha;
   begin(40, 40, 2).shadow(Shape::rectangle({10, 10, 20, 20}), {black, 10, {}});
   EXPECT_NEAR((at(10, 40).alpha + at(11, 40).alpha) / 2.0, once, 2);
 }
 
-TEST_F(CairoCanvasTest, UnknownNamesPaintNothingAndAreRemembered) {
+TEST_F(CairoCanvasTest, UnknownNamesPaintNothingAndAreRecorded) {
   begin(20, 20).symbol("no.such.symbol", ui::Font::body(), black, {0, 0, 20, 20});
   canvas->image("NoSuchImage", {0, 0, 20, 20});
   EXPECT_EQ(ink(), 0);

@@ -1,4 +1,4 @@
-// A picture of sixteen bits is painted and shown as one of eight, but rounded once.
+// A picture of sixteen bits looks like one of eight bits, but is rounded once.
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -55,7 +55,7 @@ class DeepSurfaceTest : public PixelFixture {
     return target;
   }
 
-  /// The greatest difference of any colour of any pixel.
+  /// The greatest difference of a component.
   static int difference(const SurfacePointer& first, const SurfacePointer& second) {
     int most = 0;
     for (int y = 0; y < side; ++y) {
@@ -69,7 +69,7 @@ class DeepSurfaceTest : public PixelFixture {
     return most;
   }
 
-  /// Everything that a canvas can do, under every kind of clip.
+  /// Each kind of drawing under each kind of clip.
   static std::vector<std::pair<std::string, Drawing>> drawings() {
     const Shape card = Shape::roundedRectangle({8, 6, 40, 44}, 9);
     const Paint solid = Paint::solid({0.9, 0.3, 0.1, 0.6});
@@ -150,7 +150,7 @@ TEST_F(DeepSurfaceTest, ShowsWhatASurfaceOfEightBitsShows) {
       draw(direct);
       const DeepSurface deep = painted(draw);
       const SurfacePointer shown = shownOver(color, deep);
-      // Each side rounds where the other does not, at the round edge of a layer twice.
+      // The two round at different steps, twice at the round edge of a layer.
       EXPECT_LE(difference(expected, shown), 4) << name << " on " << color.red;
       if (color.alpha > 0) {
         EXPECT_GT(difference(ground(color), shown), 5) << name << " on " << color.red;
@@ -171,13 +171,13 @@ TEST_F(DeepSurfaceTest, APartIsPaintedAsInTheWhole) {
         canvas.restore();
       }
     });
-    // These go through a layer, where cairo rounds an outline that is cut.
+    // These are drawn through a layer, in which cairo rounds a clipped outline.
     const bool isRounded = name.starts_with("across") || name.starts_with("image");
     EXPECT_LE(difference(whole, shownOver(white, parts)), isRounded ? 2 : 0) << name;
   }
 }
 
-TEST_F(DeepSurfaceTest, ManyVeilsAreRoundedOnce) {
+TEST_F(DeepSurfaceTest, ManyTranslucentLayersAreRoundedOnce) {
   constexpr int veils = 60;
   constexpr Rgba light{1, 1, 1, 0.013};
   constexpr Rgba blue{0, 0.48, 1, 0.009};

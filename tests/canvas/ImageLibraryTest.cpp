@@ -1,4 +1,4 @@
-// Pictures by name: what can be read, and where their pixels go.
+// Pictures by name: reading and painting.
 #include <string>
 #include <vector>
 
@@ -71,7 +71,7 @@ TEST_F(ImageLibraryTest, ADrawingIsSharpAtEveryScale) {
   EXPECT_EQ(at(50, 66), nothing);
 }
 
-TEST_F(ImageLibraryTest, WhatCannotBeReadIsRefused) {
+TEST_F(ImageLibraryTest, UnreadablePicturesAreRefused) {
   EXPECT_FALSE(resources.images.add("broken", bytesOf("no picture")));
   EXPECT_FALSE(resources.images.add("broken", {}));
   std::vector<std::uint8_t> png = twoColors(8, 8);
@@ -80,7 +80,7 @@ TEST_F(ImageLibraryTest, WhatCannotBeReadIsRefused) {
   EXPECT_FALSE(resources.images.size("broken"));
 }
 
-TEST_F(ImageLibraryTest, AReplacedPictureIsShownAtOnceAndARemovedOneNoMore) {
+TEST_F(ImageLibraryTest, AReplacedPictureIsShownAtOnceAndARemovedOneIsNot) {
   ASSERT_TRUE(resources.images.add("two", twoColors(2, 2)));
   begin(4, 4).image("two", {0, 0, 4, 4});
   begin(2, 2).fill(ui::Shape::rectangle({0, 0, 2, 2}), ui::Paint::solid({0, 0, 1, 1}));

@@ -1,4 +1,4 @@
-// What the cache keeps, and what it forgets when it is full.
+// Lookup and eviction.
 #include <gtest/gtest.h>
 
 #include "desk/canvas/MaskCache.hpp"
@@ -35,7 +35,7 @@ TEST(MaskCacheTest, KeysDifferInEveryPart) {
             MaskKey().add(std::string("a")).add(std::string("bc")).bytes());
 }
 
-TEST(MaskCacheTest, WhatPassesTheLimitDropsTheOthers) {
+TEST(MaskCacheTest, AMaskBeyondTheLimitEvictsTheOthers) {
   MaskCache cache(200);
   for (int index = 0; index < 3; ++index) {
     cache.get(MaskKey().add(index), [] { return square(8); });

@@ -1,4 +1,4 @@
-// How text breaks and what its lines measure.
+// Line breaking and measuring.
 #include <cmath>
 #include <limits>
 #include <string>
@@ -39,7 +39,7 @@ TEST_F(PangoTextMeasurerTest, UnlimitedTextBreaksOnlyAtLineFeeds) {
   EXPECT_EQ(linesOf("", unlimited), Lines{""});
 }
 
-TEST_F(PangoTextMeasurerTest, WordsStayWholeAndLoseTheBlankTheyBreakAt) {
+TEST_F(PangoTextMeasurerTest, LinesBreakBetweenWordsWithoutTheBlank) {
   EXPECT_EQ(linesOf("Pin Dock", widthOf("Pin Dock")), Lines{"Pin Dock"});
   EXPECT_EQ(linesOf("Pin Dock", widthOf("Pin Dock") - 0.1), (Lines{"Pin", "Dock"}));
 }
@@ -88,7 +88,7 @@ TEST_F(PangoTextMeasurerTest, TheLinesOfATextShareOneHeight) {
   const ui::TextLayout latin = measurer.layout("Dock", font, unlimited, 0);
   // Inter Display's own ascent and descent are 0.9639 and 0.2451 of the size.
   EXPECT_NEAR(latin.ascent, 13 * 0.9639, 0.01);
-  // 13 times 1.21 is 15.73; lines are whole points apart.
+  // 13 times 1.21 is 15.73, rounded up to whole points.
   EXPECT_EQ(latin.lineHeight, 16);
   const ui::TextLayout mixed = measurer.layout("Dock\n固定", font, unlimited, 0);
   EXPECT_GT(mixed.lineHeight, latin.lineHeight);

@@ -1,5 +1,5 @@
-// A few pictures that are compared with their kept versions. To renew them after a wanted change,
-// run with ORVANE_RENEW_PICTURES=1 and look at what changed.
+// Reference pictures. After an intended change, renew them with ORVANE_RENEW_PICTURES=1 and look at
+// the changes.
 #include <filesystem>
 #include <string>
 

@@ -1,4 +1,4 @@
-// Which face a text gets, and that no other one ever takes its place.
+// The fonts of text, without any substitution.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -19,7 +19,7 @@
 namespace orvane::desk {
 namespace {
 
-/// The faces that pango chose for a line, in the order of the text, as "family weight".
+/// The faces that pango chose for a line, in order, as "family weight".
 std::vector<std::string> facesOf(const std::string& line, const ui::Font& font) {
   const TextShaper shaper;
   const ObjectPointer<PangoLayout> layout = shaper.layout(line, font);
@@ -38,7 +38,7 @@ std::vector<std::string> facesOf(const std::string& line, const ui::Font& font) 
   return faces;
 }
 
-TEST(PinnedFontsTest, LatinTextIsInterInTheWeightAskedFor) {
+TEST(PinnedFontsTest, LatinTextIsInterInTheRequestedWeight) {
   EXPECT_EQ(facesOf("Pin Dock", ui::Font::system(13)),
             std::vector<std::string>{"Inter Display 400"});
   EXPECT_EQ(facesOf("Pin Dock", ui::Font::system(13, ui::Weight::medium)),
@@ -60,7 +60,7 @@ TEST(PinnedFontsTest, TheKeysOfShortcutsAreInTheSystemFace) {
   EXPECT_EQ(facesOf("⌥⌃⇧⌘", ui::Font::body()), std::vector<std::string>{"Inter Display 400"});
 }
 
-TEST(PinnedFontsTest, ACharacterOfNoPinnedFontIsNotTakenFromAnother) {
+TEST(PinnedFontsTest, NoOtherFontIsUsedForAMissingCharacter) {
   for (const std::string& face : facesOf("a😀b", ui::Font::body())) {
     EXPECT_TRUE(face == "Inter Display 400" || face == "Noto Sans CJK SC 400") << face;
   }
@@ -75,7 +75,7 @@ TEST(PinnedFontsTest, TheFontMapKnowsNoOtherFamily) {
     names.insert(pango_font_family_get_name(families[index]));
   }
   g_free(families);
-  // pango always adds three generic names, which stand for the families that are there.
+  // pango adds generic names as aliases.
   for (const char* generic : {"Sans", "Serif", "Monospace", "System-ui"}) {
     names.erase(generic);
   }
@@ -86,11 +86,11 @@ TEST(PinnedFontsTest, ThisMachineHasTheFonts) {
   EXPECT_EQ(missingFontsMessage(), std::nullopt);
 }
 
-TEST(PinnedFontsDeathTest, AMachineWithoutTheFontsIsToldWhichPackagesToInstall) {
+TEST(PinnedFontsDeathTest, WithoutTheFontsTheMessageNamesTheirPackages) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   EXPECT_DEATH(
       {
-        // Where fontconfig looks for the folders of a system; there is nothing.
+        // fontconfig's root folder, which does not exist.
         setenv("FONTCONFIG_SYSROOT", "/nowhere", 1);
         pinnedFontMap();
       },
@@ -120,7 +120,7 @@ void drawChinese(const char* language, const std::filesystem::path& file) {
   std::exit(writePng(surface.get(), file) ? 0 : 1);
 }
 
-// pango reads the language of the environment once in a process, so each gets its own.
+// pango reads the language of the environment once per process, so each test case has its own.
 TEST(PinnedFontsDeathTest, TheLanguageOfTheEnvironmentDoesNotChangeCharacters) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   const std::filesystem::path folder = testing::TempDir();

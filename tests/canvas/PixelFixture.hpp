@@ -1,4 +1,4 @@
-// A small surface with a canvas on it, and the pixels that a test asks about.
+// PixelFixture gives each test a canvas on a small surface, and reads its pixels.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 namespace orvane::desk {
 
-/// A pixel as cairo keeps it: components from 0 to 255, multiplied by alpha.
+/// Premultiplied components from 0 to 255.
 struct Pixel {
   int red = 0;
   int green = 0;
@@ -50,7 +50,7 @@ class PixelFixture : public testing::Test {
   static constexpr Pixel fullRed{255, 0, 0, 255};
   static constexpr Pixel fullBlack{0, 0, 0, 255};
 
-  /// A clear surface of so many points; what was drawn before is gone.
+  /// Replaces the surface by a clear one of this size in points.
   CairoCanvas& begin(int width, int height, int scale = 1) {
     surface.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width * scale, height * scale));
     canvas = std::make_unique<CairoCanvas>(surface.get(), scale, resources);

@@ -1,4 +1,4 @@
-// Every symbol has a drawing that is whole, centred and of the same kind as the others.
+// Every symbol has a drawing that is complete, centred and consistent with the others.
 #include <algorithm>
 #include <filesystem>
 #include <set>
@@ -30,7 +30,7 @@ struct Ink {
   bool isCut = false;
 };
 
-// At 96 points a unit of the grid is four pixels, and the drawing is 128 pixels high.
+// At 96 points a grid unit is four pixels, and the drawing is 128 pixels high.
 constexpr double inspectionSize = 96;
 constexpr double pixelsPerUnit = 4;
 
@@ -46,7 +46,7 @@ Ink inkOf(const Mask& mask) {
         ink.top = std::min(ink.top, y);
         ink.bottom = std::max(ink.bottom, y + 1);
       }
-      // A full pixel at the border goes on beyond it; a soft one is an edge that ends there.
+      // An opaque pixel at the border means that the drawing is cut.
       if (value == 255 && (x == 0 || y == 0 || x == width - 1 || y == height - 1)) {
         ink.isCut = true;
       }
@@ -55,7 +55,7 @@ Ink inkOf(const Mask& mask) {
   return ink;
 }
 
-/// True for lower-case words with dots between them, which is how symbols are named.
+/// Whether the text consists of lower-case words with dots between them, like names of symbols.
 bool isSymbolName(std::string_view text) {
   char before = '.';
   for (const char character : text) {
@@ -70,8 +70,8 @@ bool isSymbolName(std::string_view text) {
   return before != '.' && text.front() >= 'a';
 }
 
-/// The literals of a source text that are named like a symbol. What views are identified by is
-/// none, nor are included files and comments.
+/// The string literals that look like names of symbols, except identities of views, included files
+/// and comments.
 std::set<std::string> symbolNamesIn(const std::string& source) {
   std::set<std::string> names;
   std::istringstream lines(source);
@@ -93,7 +93,7 @@ std::set<std::string> symbolNamesIn(const std::string& source) {
         break;
       }
       const std::string literal = line.substr(place + 1, end - place - 1);
-      // Identities of views and keys of shortcuts look like names, too.
+      // Identities of views and keys of shortcuts are no symbols.
       const auto follows = [&](const std::string& call) {
         return place >= call.size() && line.compare(place - call.size(), call.size(), call) == 0;
       };
@@ -122,7 +122,7 @@ TEST(SymbolLibraryTest, EveryNameInTheViewsHasADrawing) {
       }
     }
   }
-  // The icon of the menu bar at the least; otherwise the search has gone blind.
+  // The search must find at least the icons of the menu bar.
   EXPECT_TRUE(all.contains("lock.fill"));
   EXPECT_TRUE(all.contains("lock.open"));
 }
@@ -168,8 +168,8 @@ TEST(SymbolLibraryTest, EveryDrawingFitsItsGridInEveryWeight) {
 
 TEST(SymbolLibraryTest, AHeavierWeightHasMoreInk) {
   SymbolLibrary library;
-  // A heavier mark cut out of a disc, and a heavier rim in a picture with a gap, may take as much
-  // as they give; an outline may not.
+  // Only outlines: with a mark cut out of a disc, or with a gap, a heavier stroke may have less
+  // ink.
   for (const char* name : {"lock", "eye", "display", "gearshape", "xmark", "checkmark", "minus",
                            "power", "globe", "hand.raised", "doc.text", "envelope", "keyboard",
                            "macwindow", "lock.fill", "lifepreserver", "arrow.down"}) {

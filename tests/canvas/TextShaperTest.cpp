@@ -1,4 +1,4 @@
-// Text on pixels: where it stands, how wide it is, what colour it has.
+// Drawn text: position, width and colour.
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -15,7 +15,7 @@ namespace {
 
 class TextShaperTest : public PixelFixture {
  protected:
-  /// The first and last column with more than half of the strongest ink.
+  /// The first and last column with a pixel of more than half coverage.
   std::pair<int, int> inkedColumns() {
     std::pair<int, int> columns{-1, -1};
     for (int x = 0; x < width(); ++x) {
@@ -29,7 +29,7 @@ class TextShaperTest : public PixelFixture {
   }
 };
 
-TEST_F(TextShaperTest, TheDrawnLineEndsWhereItsMeasureSays) {
+TEST_F(TextShaperTest, TheDrawnLineHasItsMeasuredWidth) {
   for (const int scale : {1, 2, 4}) {
     const ui::Font font = ui::Font::system(26);
     begin(200, 40, scale).text("H", font, black, {10, 30});
@@ -49,7 +49,7 @@ TEST_F(TextShaperTest, TrackingIsMeasuredAndDrawnBetweenTheCharacters) {
   begin(200, 40, 4).text("HamburgH", font, black, {10, 30});
   const auto [naturalLeft, naturalRight] = inkedColumns();
   font.tracking = -0.5;
-  // Between eight characters are seven places.
+  // Eight characters have seven gaps.
   EXPECT_NEAR(resources.shaper.measure("HamburgH", font).width, natural - 3.5, 0.01);
   begin(200, 40, 4).text("HamburgH", font, black, {10, 30});
   const auto [left, right] = inkedColumns();
@@ -68,7 +68,7 @@ TEST_F(TextShaperTest, TheBaselineIsTheLowerEdgeOfAnH) {
   EXPECT_EQ(lowest, 29);
 }
 
-TEST_F(TextShaperTest, ABaselineBetweenPixelsIsDrawnOnTheNearest) {
+TEST_F(TextShaperTest, ABaselineIsRoundedToWholePixels) {
   begin(60, 40).text("HE", ui::Font::system(20), black, {10, 30});
   const std::vector<std::uint8_t> onPixel = encodePng(surface.get());
   for (const double baseline : {29.6, 30.3}) {
@@ -101,7 +101,7 @@ TEST_F(TextShaperTest, TranslucentTextHasItsOwnAlpha) {
   EXPECT_NEAR(strongest, 128, 1);
 }
 
-TEST_F(TextShaperTest, ScaledTextIsDrawnAnewAtItsSize) {
+TEST_F(TextShaperTest, ScaledTextIsDrawnAtItsSize) {
   const ui::Font font = ui::Font::system(20);
   begin(200, 60).text("Ham", font, black, {0, 40});
   const auto [left, right] = inkedColumns();
@@ -113,10 +113,10 @@ TEST_F(TextShaperTest, ScaledTextIsDrawnAnewAtItsSize) {
   EXPECT_NEAR(scaledRight - scaledLeft, 2 * (right - left), 3);
 }
 
-TEST_F(TextShaperTest, ChineseCharactersStandInTheMiddleOfTheirLine) {
+TEST_F(TextShaperTest, ChineseCharactersAreCenteredInTheirLine) {
   const double size = 50;
   const ui::Font font = ui::Font::system(size);
-  // A character with a frame all around.
+  // A character with a square outline.
   const std::string character = "\u56fd";
   const LineMetrics line = resources.shaper.measure(character, font);
   begin(60, 80).text(character, font, black, {5, line.ascent});
@@ -133,7 +133,7 @@ TEST_F(TextShaperTest, ChineseCharactersStandInTheMiddleOfTheirLine) {
   EXPECT_NEAR((top + bottom) / 2.0, line.height / 2, 0.03 * size);
 }
 
-TEST_F(TextShaperTest, ALineOfBothFacesHasTheGreaterReachOfEach) {
+TEST_F(TextShaperTest, AMixedLineHasTheGreaterAscentAndDescent) {
   const ui::Font font = ui::Font::system(20);
   const LineMetrics latin = resources.shaper.measure("Dock", font);
   const LineMetrics chinese = resources.shaper.measure("\u7a0b\u5e8f\u575e", font);

@@ -12,7 +12,7 @@ class FileDragArtTest : public DesktopFixture {
     // The windows fit side by side on the two displays.
     OrvanePermissionGuideWindowController::shared().show(nullptr);
     machine.mouse.moveTo({1200, 250});
-    application.systemSettings().open(desk::SettingsPage::accessibility);
+    application.systemSettings().open(desk::SystemSettings::accessibilityPage);
     machine.runDue();
   }
 

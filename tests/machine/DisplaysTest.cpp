@@ -1,4 +1,4 @@
-// The list of displays: valid requests, the main display, coordinates, and grouped changes.
+// The list of displays: valid requests, the main display, coordinates, and groups of changes.
 #include <cmath>
 #include <limits>
 
@@ -70,7 +70,7 @@ TEST_F(DisplaysTest, ARenumberedDisplayIsTheSameDisplay) {
   EXPECT_EQ(displays.main()->number, 9U);
 }
 
-TEST_F(DisplaysTest, ADisplayThatReturnsIsAnother) {
+TEST_F(DisplaysTest, AReattachedDisplayHasANewIdentity) {
   ASSERT_FALSE(displays.attach(display(1, {{0, 0}, {100, 50}})));
   const std::uint64_t identity = displays.find(1)->identity;
   ASSERT_FALSE(displays.detach(1));
@@ -78,7 +78,7 @@ TEST_F(DisplaysTest, ADisplayThatReturnsIsAnother) {
   EXPECT_NE(displays.find(1)->identity, identity);
 }
 
-TEST_F(DisplaysTest, TheHeightOfTheFirstDisplayTurnsCoordinatesRound) {
+TEST_F(DisplaysTest, TheHeightOfTheFirstDisplayFlipsCoordinates) {
   ASSERT_FALSE(displays.attach(display(1, {{0, 0}, {1000, 800}})));
   // Its top edge is 100 above that of the first, so it begins at y -100 in global coordinates.
   ASSERT_FALSE(displays.attach(display(2, {{1000, 300}, {500, 600}})));
@@ -100,7 +100,7 @@ TEST_F(DisplaysTest, ANewHeightOfTheFirstDisplayMovesTheOthers) {
   EXPECT_EQ(displays.globalFrames()[0].origin.y, 0);
 }
 
-TEST_F(DisplaysTest, ChangesMadeTogetherAreOneChange) {
+TEST_F(DisplaysTest, AGroupOfChangesIsOneChange) {
   ASSERT_FALSE(displays.attach(display(1, {{0, 0}, {100, 50}})));
   changes = 0;
   EXPECT_EQ(displays.beginChanges(), std::nullopt);
@@ -112,7 +112,7 @@ TEST_F(DisplaysTest, ChangesMadeTogetherAreOneChange) {
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(DisplaysTest, AnEmptyBatchIsNotAChange) {
+TEST_F(DisplaysTest, AnEmptyGroupIsNotAChange) {
   EXPECT_EQ(displays.beginChanges(), std::nullopt);
   EXPECT_EQ(displays.detach(5), "there is no display 5");
   EXPECT_EQ(displays.endChanges(), std::nullopt);

@@ -65,7 +65,7 @@ TEST_F(DockTest, TouchingTheEdgeOfAnotherDisplayWithoutPressureDoesNotSummonIt) 
   EXPECT_EQ(dock.displayNumber(), 2U);
 }
 
-TEST_F(DockTest, LivesAtTheLeftAndAtTheRight) {
+TEST_F(DockTest, AppearsAtTheLeftAndTheRightEdge) {
   attach(1, {{0, 0}, {1000, 800}});
   attach(2, {{0, 800}, {1000, 800}});
   setEdge(std::string("left"));
@@ -79,7 +79,7 @@ TEST_F(DockTest, LivesAtTheLeftAndAtTheRight) {
   EXPECT_TRUE(CGRectEqualToRect(dock.frame(), CGRectMake(930, 160, 70, 480)));
 }
 
-TEST_F(DockTest, WhateverElseIsStoredLeavesItAtTheBottom) {
+TEST_F(DockTest, AnyOtherStoredValueMeansTheBottom) {
   for (const PropertyValue& value :
        {PropertyValue(std::string("top")), PropertyValue(std::string("Left")), PropertyValue(7.0),
         PropertyValue(true)}) {
@@ -127,14 +127,14 @@ TEST_F(DockTest, AMirrorOfItsDisplayIsNotAnotherDisplay) {
   EXPECT_TRUE(dock.reveals().empty());
 }
 
-TEST_F(DockTest, ADisplayIsNotItsOwnNeighbourHoweverFlatItIs) {
+TEST_F(DockTest, AFlatDisplayIsNotItsOwnNeighbour) {
   attach(1, {{0, 0}, {1000, 800}});
   attach(2, {{1000, 0}, {1000, 2}});
   push({1500, 798.5}, 0, 60);
   EXPECT_EQ(dock.displayNumber(), 2U);
 }
 
-TEST_F(DockTest, SlidesInOnTheDisplayThatSummonsIt) {
+TEST_F(DockTest, SlidesInOnTheDisplayWhereItAppears) {
   attachPair();
   machine.advance(1);
   push({1500, 780}, 0, 60);
@@ -143,7 +143,7 @@ TEST_F(DockTest, SlidesInOnTheDisplayThatSummonsIt) {
   EXPECT_DOUBLE_EQ(dock.shownFraction(), 0.5);
 }
 
-TEST_F(DockTest, MovesToTheMainDisplayUncountedWhenItsOwnGoes) {
+TEST_F(DockTest, MovesToTheMainDisplayUncountedWhenItsOwnIsDetached) {
   attachPair();
   push({1500, 780}, 0, 60);
   ASSERT_FALSE(machine.displays.detach(2));
@@ -154,7 +154,7 @@ TEST_F(DockTest, MovesToTheMainDisplayUncountedWhenItsOwnGoes) {
   EXPECT_EQ(dock.displayNumber(), std::nullopt);
 }
 
-TEST_F(DockTest, OnTheMainDisplayItFollowsThatRole) {
+TEST_F(DockTest, OnTheMainDisplayItFollowsTheMainDisplay) {
   attachPair();
   ASSERT_FALSE(machine.displays.setMain(2));
   EXPECT_EQ(dock.displayNumber(), 2U);
@@ -171,7 +171,7 @@ TEST_F(DockTest, StaysOnADisplayWhoseNumberChanges) {
   EXPECT_EQ(dock.revealCount(2), 1);
 }
 
-TEST_F(DockTest, HiddenItComesUpWhenItsEdgeIsTouchedAndHidesWhenItsAreaIsLeft) {
+TEST_F(DockTest, AutoHiddenItAppearsAtItsEdgeAndHidesOutsideOfItsArea) {
   attachPair();
   machine.mouse.moveTo({500, 400});
   setAutoHide(true);
@@ -188,7 +188,7 @@ TEST_F(DockTest, HiddenItComesUpWhenItsEdgeIsTouchedAndHidesWhenItsAreaIsLeft) {
   EXPECT_EQ(dock.revealCount(1), 1);
 }
 
-TEST_F(DockTest, HiddenItStaysHiddenAtAnEdgeWithANeighbourBehind) {
+TEST_F(DockTest, AutoHiddenItStaysHiddenAtAnEdgeWithANeighbour) {
   attach(1, {{0, 0}, {1000, 800}}, true);
   attach(2, {{0, -800}, {1000, 800}});
   setAutoHide(true);
@@ -196,7 +196,7 @@ TEST_F(DockTest, HiddenItStaysHiddenAtAnEdgeWithANeighbourBehind) {
   EXPECT_FALSE(dock.isVisible());
 }
 
-TEST_F(DockTest, HiddenItComesUpOnAnotherDisplayThatIsPressed) {
+TEST_F(DockTest, AutoHiddenItAppearsOnAnotherDisplayThatIsPressed) {
   attachPair();
   machine.mouse.moveTo({500, 400});
   setAutoHide(true);
@@ -207,7 +207,7 @@ TEST_F(DockTest, HiddenItComesUpOnAnotherDisplayThatIsPressed) {
   EXPECT_EQ(dock.revealCount(1), 0);
 }
 
-TEST_F(DockTest, ItsPreferencesAreNoReasonToCount) {
+TEST_F(DockTest, AppearancesByPreferencesAreNotCounted) {
   attachPair();
   setAutoHide(true);
   setAutoHide(false);
@@ -216,7 +216,7 @@ TEST_F(DockTest, ItsPreferencesAreNoReasonToCount) {
   EXPECT_TRUE(dock.reveals().empty());
 }
 
-TEST_F(DockTest, SlidesInAndTurnsRoundWhereItIs) {
+TEST_F(DockTest, ASlideCanBeReversed) {
   attachPair();
   machine.mouse.moveTo({500, 400});
   setAutoHide(true);

@@ -46,7 +46,7 @@ class EventTapsTest : public testing::Test {
   using Log = std::vector<std::string>;
 };
 
-TEST_F(EventTapsTest, TapsAreAskedFromHeadToTail) {
+TEST_F(EventTapsTest, TapsAreCalledFromHeadToTail) {
   Action first = shift("first", 1);
   Action second = shift("second", 2);
   Action head = shift("head", 4);
@@ -59,7 +59,7 @@ TEST_F(EventTapsTest, TapsAreAskedFromHeadToTail) {
   EXPECT_EQ(taps.deliveryCount(), 3);
 }
 
-TEST_F(EventTapsTest, ATapHearsOnlyWhatItAskedFor) {
+TEST_F(EventTapsTest, ATapReceivesOnlyEventsOfItsMask) {
   Action action = shift("tap", 1);
   make(action, kCGTailAppendEventTap, CGEventMask{1} << 1U);
   EXPECT_TRUE(taps.deliver(event));
@@ -143,7 +143,7 @@ TEST_F(EventTapsTest, ATapMayEndItselfInItsCallback) {
   EXPECT_EQ(log, (Log{"once", "after", "after"}));
 }
 
-TEST_F(EventTapsTest, ATapMadeDuringADeliveryHearsOfTheNextEvent) {
+TEST_F(EventTapsTest, ATapCreatedDuringADeliveryReceivesTheNextEvent) {
   Action late = shift("late", 1);
   bool isMade = false;
   Action action = [&](CGEventType, CGEventRef seen) {
@@ -176,7 +176,7 @@ class Witness : public EventWitness {
   std::vector<bool> kept;
 };
 
-TEST_F(EventTapsTest, AWitnessSeesWhatGoesInAndWhatComesOut) {
+TEST_F(EventTapsTest, AWitnessSeesEventsBeforeAndAfterTheTaps) {
   Witness witness;
   taps.setWitness(&witness);
   taps.deliver(event);

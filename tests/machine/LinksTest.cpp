@@ -6,7 +6,7 @@
 namespace orvane::desk {
 namespace {
 
-TEST(LinksTest, KnowWhatFormsAURL) {
+TEST(LinksTest, KnowValidURLs) {
   for (const char* text :
        {"https://orvane.example/privacy", "mailto:support@orvane.example?subject=Orvane%20Support",
         "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility",
@@ -20,7 +20,7 @@ TEST(LinksTest, KnowWhatFormsAURL) {
   }
 }
 
-TEST(LinksTest, NoteWhatWasOpenedInOrder) {
+TEST(LinksTest, RecordRequestsInOrder) {
   Links links;
   EXPECT_TRUE(links.openURL("a:1"));
   EXPECT_TRUE(links.openFile("/System/Applications/System Settings.app"));
@@ -46,7 +46,7 @@ TEST(LinksTest, RefuseByPrefixUntilAllAreAcceptedAgain) {
   EXPECT_FALSE(links.opened()[2].wasAccepted);
 }
 
-TEST(LinksTest, AnythingButAURLOrAnAbsolutePathIsNeitherOpenedNorRecorded) {
+TEST(LinksTest, InvalidURLsAndRelativePathsAreNeitherOpenedNorRecorded) {
   Links links;
   EXPECT_FALSE(links.openURL("not a url"));
   EXPECT_FALSE(links.openFile("relative"));

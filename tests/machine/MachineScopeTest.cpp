@@ -6,15 +6,6 @@
 namespace orvane::desk {
 namespace {
 
-TEST(MachineScopeTest, MakesItsMachineTheCurrentOne) {
-  EXPECT_EQ(Machine::currentOrNull(), nullptr);
-  {
-    const MachineScope scope;
-    EXPECT_EQ(&Machine::current(), &scope.machine());
-  }
-  EXPECT_EQ(Machine::currentOrNull(), nullptr);
-}
-
 TEST(MachineScopeTest, ReportsLeakedObjects) {
   MachineScope scope;
   const CFStringRef text =

@@ -11,7 +11,7 @@
 namespace orvane::desk {
 namespace {
 
-/// What the tap of these tests has seen, and how it changes the event.
+/// The events that the test's tap has received, and how it changes them.
 struct TapScript {
   std::vector<__CGEvent> seen;
   double dy = 0;
@@ -58,7 +58,7 @@ TEST_F(MouseTest, AMovementBecomesAnEventAtTheClampedPositionWithTheHeldKeys) {
   EXPECT_EQ(script.seen[2].flags, 0U);
 }
 
-TEST_F(MouseTest, WhereTheLastTapLeavesTheEventIsWhereThePointerIs) {
+TEST_F(MouseTest, ThePointerIsWhereTheTapsLeaveTheEvent) {
   script.dy = -12;
   const PointerMovement movement = machine.mouse.moveTo({500, 900});
   EXPECT_EQ(machine.pointer.location().y, 787);
@@ -70,14 +70,14 @@ TEST_F(MouseTest, WhereTheLastTapLeavesTheEventIsWhereThePointerIs) {
   EXPECT_EQ(positions[0].y, 787);
 }
 
-TEST_F(MouseTest, AMovementThatNoTapChangesEndsWhereItWantedTo) {
+TEST_F(MouseTest, AMovementThatNoTapChangesPasses) {
   const PointerMovement movement = machine.mouse.moveTo({500, 900});
   EXPECT_EQ(movement.outcome, PointerMovement::Outcome::passed);
   EXPECT_EQ(movement.wanted.y, 799);
   EXPECT_EQ(movement.reached.y, 799);
 }
 
-TEST_F(MouseTest, AFreeCursorGoesWithTheHandAndOnlyWhatFollowsTheTapsSeesTheChangedEvent) {
+TEST_F(MouseTest, AFreeCursorIgnoresTheTapsAndTheDockSeesTheChangedEvent) {
   machine.mouse.setCursor(Mouse::Cursor::free);
   script.dy = -12;
   machine.mouse.moveTo({1500, 400});

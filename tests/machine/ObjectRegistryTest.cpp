@@ -1,4 +1,4 @@
-// Reference counting, and the recording of mistakes.
+// Reference counting, and recorded faults.
 #include <memory>
 #include <utility>
 
@@ -54,7 +54,7 @@ TEST_F(ObjectRegistryTest, EveryUseAfterTheEndIsAFaultWithTheCallersName) {
   EXPECT_EQ(ends, 1);
 }
 
-TEST_F(ObjectRegistryTest, NullAndStrangersAreFaults) {
+TEST_F(ObjectRegistryTest, NullAndUnknownObjectsAreFaults) {
   const int stranger = 0;
   registry.release(nullptr, "release");
   registry.retain(&stranger, "retain");

@@ -1,4 +1,4 @@
-// Notifications reach observers in order, even when observers are added and removed meanwhile.
+// Removal of observers during a notification.
 #include <functional>
 #include <string>
 #include <vector>
@@ -37,7 +37,7 @@ TEST_F(ObserversTest, AnObserverRemovedBeforeItsTurnIsSkipped) {
   EXPECT_EQ(log, (Log{"first", "third"}));
 }
 
-TEST_F(ObserversTest, AllAreGoneWithTheProcess) {
+TEST_F(ObserversTest, RemoveAllRemovesEvenDuringAPost) {
   add("a", [&] { observers.removeAll(); });
   add("b");
   observers.post(screenParameters);

@@ -62,7 +62,7 @@ CGPoint nearestBySearch(const CGRect& frame, int goalX, int goalY) {
   return best;
 }
 
-RC_GTEST_PROP(PointerProperty, EndsAtTheGoalOrNearestToItOnTheDisplayItCameFrom, ()) {
+RC_GTEST_PROP(PointerProperty, EndsAtTheGoalOrAtTheNearestPointOfItsDisplay, ()) {
   Displays displays;
   attachAll(displays, *genFrames());
   Pointer pointer(displays);
@@ -85,7 +85,7 @@ RC_GTEST_PROP(PointerProperty, EndsAtTheGoalOrNearestToItOnTheDisplayItCameFrom,
   }
 }
 
-RC_GTEST_PROP(PointerProperty, IsOnADisplayAfterEveryChangeAndMovesNoFartherThanItMust, ()) {
+RC_GTEST_PROP(PointerProperty, IsOnADisplayAfterEveryChangeAndMovesNoFartherThanNecessary, ()) {
   Displays displays;
   attachAll(displays, *genFrames());
   Pointer pointer(displays);

@@ -29,7 +29,7 @@ TEST_F(PointerTest, IsOnNoDisplayWhileThereIsNone) {
   expectPlace(0, 0);
 }
 
-TEST_F(PointerTest, GoesWhereADisplayIs) {
+TEST_F(PointerTest, MovesToAPointOnADisplay) {
   attach(1, {{0, 0}, {100, 50}});
   attach(2, {{100, 0}, {100, 50}});
   pointer.settle({150.25, 49.75});

@@ -55,7 +55,7 @@ TEST(PreferencesTest, TheApplicationSeesACopyUntilItSynchronises) {
   EXPECT_EQ(preferences.seen("dock", "other"), PropertyValue(true));
 }
 
-TEST(PreferencesTest, AnotherProcessSeesAfresh) {
+TEST(PreferencesTest, ANewProcessReadsStoredValues) {
   Preferences preferences;
   EXPECT_EQ(preferences.seen("dock", "edge"), std::nullopt);
   preferences.set({"dock"}, "edge", text("left"));

@@ -90,7 +90,7 @@ TEST_F(ProcessTest, ItsSharedObjectsEndWithItAndTheirLastPostsAreDropped) {
             (UserDefaultsStore::Values{{"kept", PropertyValue(true)}}));
 }
 
-TEST_F(ProcessTest, TheActivationPolicyIsANewProcessesOwn) {
+TEST_F(ProcessTest, ANewProcessHasTheDefaultActivationPolicy) {
   machine.process.start();
   appkit::Application::setActivationPolicy(appkit::ActivationPolicy::accessory);
   EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::accessory);
@@ -99,7 +99,7 @@ TEST_F(ProcessTest, TheActivationPolicyIsANewProcessesOwn) {
   EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::regular);
 }
 
-TEST_F(ProcessTest, StartingTwiceGoesOn) {
+TEST_F(ProcessTest, StartingTwiceHasNoEffect) {
   machine.process.start();
   int runs = 0;
   appkit::MainQueue::async([&runs] { ++runs; });

@@ -193,7 +193,7 @@ rc::Gen<Step> genStep() {
       rc::gen::inRange(0, 7), rc::gen::inRange(-2, 4));
 }
 
-RC_GTEST_PROP(RunLoopProperty, ServesWhatAPlainListWouldServeInTheSameOrder, ()) {
+RC_GTEST_PROP(RunLoopProperty, ServesTasksAndTimersInTheOrderOfTheListModel, ()) {
   const auto steps = *rc::gen::container<std::vector<Step>>(genStep());
   ListModel expected;
   RunLoopModel actual;

@@ -1,4 +1,4 @@
-// The run loop: order, modes, the held main queue, late timers, and the end of a process.
+// The run loop: nesting, modes, the held main queue, timers, and the end of a process.
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,7 +30,7 @@ class RunLoopTest : public testing::Test {
   using Log = std::vector<std::string>;
 };
 
-TEST_F(RunLoopTest, ATaskThatComesWhileAnotherRunsWaitsForItsEnd) {
+TEST_F(RunLoopTest, ATaskNeverRunsWithinAnother) {
   runLoop.async([this] {
     runLoop.async(note("inner"));
     runLoop.runDue();
@@ -111,7 +111,7 @@ TEST_F(RunLoopTest, ATimerMayInvalidateItselfInItsTick) {
   const auto held = std::make_shared<int>(0);
   timer = runLoop.addTimer(second, RunLoop::commonModes, [&, held] {
     runLoop.invalidateTimer(timer);
-    // The tick is still running, so what it holds must still exist.
+    // The callback is still running, so its captures must still exist.
     ++*held;
   });
   runLoop.advance(3 * second);
@@ -135,7 +135,7 @@ TEST_F(RunLoopTest, CountsAWakeUpForEachInstantWithSomethingToDo) {
   EXPECT_EQ(runLoop.wakeUpCount(), 3);
 }
 
-TEST_F(RunLoopTest, TimersOnTheSharedBeatFireTogetherAndInTheOrderInWhichTheyCame) {
+TEST_F(RunLoopTest, CoalescedTimersFireTogetherInTheOrderOfCreation) {
   const auto first = runLoop.addCoalescedTimer(second, RunLoop::commonModes, note("first"));
   runLoop.advance(300 * millisecond);
   const auto joined = runLoop.addCoalescedTimer(second, standardMode, note("joined"));
@@ -162,7 +162,7 @@ TEST_F(RunLoopTest, SweepingDestroysPendingTasksWithoutRunningThem) {
   EXPECT_EQ(*held, 0);
 }
 
-TEST_F(RunLoopTest, SweepingFromWithinATickLeavesTheTickWhole) {
+TEST_F(RunLoopTest, SweepingFromWithinATickKeepsTheRunningCallback) {
   const auto held = std::make_shared<int>(0);
   const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [this, held] {
     runLoop.sweep();
@@ -184,7 +184,7 @@ TEST_F(RunLoopTest, ATaskThatIsNotAcceptedIsDestroyed) {
   EXPECT_EQ(*held, 0);
 }
 
-TEST_F(RunLoopTest, AProcessThatNeverComesToRestIsAFaultAndNotAHang) {
+TEST_F(RunLoopTest, EndlessTasksAreAFaultAndNotAHang) {
   std::function<void()> again = [&] { runLoop.async(again); };
   runLoop.async(again);
   runLoop.runDue();
@@ -204,7 +204,7 @@ TEST_F(RunLoopTest, ASourceIsInTheModesItWasAddedToAndNotRemovedFrom) {
   EXPECT_TRUE(runLoop.sources().empty());
 }
 
-TEST_F(RunLoopTest, WhatFollowsComesBeforeAllThatIsDueInEveryModeAndWhileTheQueueIsHeld) {
+TEST_F(RunLoopTest, AfterCurrentComesBeforeDueTasksInEveryModeAndWhileTheQueueIsHeld) {
   std::string order;
   runLoop.async([&] {
     runLoop.async([&] { order += "task "; });

@@ -42,119 +42,119 @@ class ScreenParametersTest : public MachineFixture {
 
   void observe() {
     machine.observers.add(NotificationName::applicationDidChangeScreenParameters,
-                          [this] { ++heard_; });
+                          [this] { ++posted_; });
   }
   /// The number of notifications since the last call, after serving everything that is due.
-  int heardAtRest() {
+  int countPosted() {
     machine.runDue();
-    return std::exchange(heard_, 0);
+    return std::exchange(posted_, 0);
   }
-  [[nodiscard]] int heardSoFar() const { return heard_; }
+  [[nodiscard]] int postedSoFar() const { return posted_; }
 
   static constexpr CGPoint inTheOpen{900, 500};
   static constexpr CGPoint aboveTheDock{900, 1050};
   static constexpr CGPoint aboveTheOtherEdge{2800, 1050};
 
  private:
-  int heard_ = 0;
+  int posted_ = 0;
 };
 
-TEST_F(ScreenParametersTest, NewsMayComeLate) {
+TEST_F(ScreenParametersTest, NotificationsCanBeDelayed) {
   machine.notifications.delayNanoseconds = Clock::fromSeconds(0.5);
   setDockOrientation(machine, "left");
   machine.runLoop.enterMode(RunLoop::Mode::modalPanel);
   machine.runLoop.holdMainQueue();
   machine.advance(0.4);
-  EXPECT_EQ(heardAtRest(), 0);
+  EXPECT_EQ(countPosted(), 0);
   machine.advance(0.1);
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(countPosted(), 1);
   machine.advance(2);
-  EXPECT_EQ(heardAtRest(), 0);
+  EXPECT_EQ(countPosted(), 0);
   machine.runLoop.releaseMainQueue();
   machine.runLoop.leaveMode();
 }
 
-TEST_F(ScreenParametersTest, NewsMayComeTwice) {
+TEST_F(ScreenParametersTest, NotificationsCanBeDoubled) {
   machine.notifications.isDoubled = true;
   setDockOrientation(machine, "left");
-  EXPECT_EQ(heardAtRest(), 2);
+  EXPECT_EQ(countPosted(), 2);
 }
 
-TEST_F(ScreenParametersTest, ADockAtAnotherEdgeIsNews) {
+TEST_F(ScreenParametersTest, AnotherEdgeOfTheDockIsPosted) {
   setDockOrientation(machine, "left");
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(countPosted(), 1);
   setDockOrientation(machine, "right");
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(countPosted(), 1);
   setDockOrientation(machine, "diagonal");
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(countPosted(), 1);
 }
 
-TEST_F(ScreenParametersTest, SoIsItsHidingWhenTheDockHides) {
+TEST_F(ScreenParametersTest, SwitchingAutoHideIsPosted) {
   setAutoHide(machine, true);
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(countPosted(), 1);
   setAutoHide(machine, true);
-  EXPECT_EQ(heardAtRest(), 0);
+  EXPECT_EQ(countPosted(), 0);
   setAutoHide(machine, false);
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(countPosted(), 1);
 }
 
-TEST_F(ScreenParametersTest, ASlideIsOneWhenItBeginsAndNoneAfterwards) {
+TEST_F(ScreenParametersTest, ASlideIsPostedWhenItBegins) {
   setAutoHide(machine, true);
-  heardAtRest();
+  countPosted();
   machine.mouse.moveTo(aboveTheDock);
   machine.mouse.moveBy(0, 60);
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(countPosted(), 1);
   machine.advance(1);
-  EXPECT_EQ(heardAtRest(), 0);
+  EXPECT_EQ(countPosted(), 0);
   machine.mouse.moveTo(inTheOpen);
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(countPosted(), 1);
   machine.advance(1);
-  EXPECT_EQ(heardAtRest(), 0);
+  EXPECT_EQ(countPosted(), 0);
 }
 
-TEST_F(ScreenParametersTest, NothingIsAnnouncedDuringAMovement) {
+TEST_F(ScreenParametersTest, NothingIsPostedDuringAMovement) {
   machine.mouse.moveTo(aboveTheOtherEdge);
   machine.mouse.moveBy(0, 60);
-  EXPECT_EQ(heardSoFar(), 0);
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(postedSoFar(), 0);
+  EXPECT_EQ(countPosted(), 1);
 }
 
-TEST_F(ScreenParametersTest, ModalSessionsAndMenusDoNotKeepItBack) {
+TEST_F(ScreenParametersTest, ModalSessionsAndMenusDoNotDelayIt) {
   for (const RunLoop::Mode mode : {RunLoop::Mode::modalPanel, RunLoop::Mode::eventTracking}) {
     machine.runLoop.enterMode(mode);
     machine.runLoop.holdMainQueue();
     setDockOrientation(machine, mode == RunLoop::Mode::modalPanel ? "left" : "right");
-    EXPECT_EQ(heardAtRest(), 1);
+    EXPECT_EQ(countPosted(), 1);
     machine.runLoop.releaseMainQueue();
     machine.runLoop.leaveMode();
   }
 }
 
-TEST_F(ScreenParametersTest, AChangeThatIsUndoneAtOnceIsNotAnnounced) {
+TEST_F(ScreenParametersTest, AChangeThatIsUndoneAtOnceIsNotPosted) {
   setDockOrientation(machine, "left");
   setDockOrientation(machine, "bottom");
-  EXPECT_EQ(heardAtRest(), 0);
+  EXPECT_EQ(countPosted(), 0);
 }
 
 TEST_F(ScreenParametersTest, ADisplayChangeThatMovesTheDockIsPostedOnce) {
   ASSERT_EQ(machine.displays.renumber(2, 9), std::nullopt);
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(countPosted(), 1);
   ASSERT_EQ(machine.displays.setMain(9), std::nullopt);
-  EXPECT_EQ(heardAtRest(), 1) << "the Dock goes along";
+  EXPECT_EQ(countPosted(), 1) << "the Dock moves with it";
   setDockOrientation(machine, "left");
   detach(machine, 9);
-  EXPECT_EQ(heardAtRest(), 1) << "the one tells of the other, too";
+  EXPECT_EQ(countPosted(), 1) << "one notification for both changes";
 }
 
-TEST_F(ScreenParametersTest, ADockThatMovesWhileDisplaysChangeTogetherIsHeardOfAtTheEnd) {
+TEST_F(ScreenParametersTest, ADockThatMovesDuringAGroupOfChangesIsPostedAtItsEnd) {
   ASSERT_EQ(machine.displays.beginChanges(), std::nullopt);
   setDockOrientation(machine, "left");
-  EXPECT_EQ(heardAtRest(), 0);
+  EXPECT_EQ(countPosted(), 0);
   ASSERT_EQ(machine.displays.endChanges(), std::nullopt);
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(countPosted(), 1);
 }
 
-TEST_F(ScreenParametersTest, AChangeBeforeALaunchIsNotAnnounced) {
+TEST_F(ScreenParametersTest, AChangeBeforeALaunchIsNotPosted) {
   setDockOrientation(machine, "left");
   machine.process.end();
   setAutoHide(machine, true);
@@ -162,9 +162,9 @@ TEST_F(ScreenParametersTest, AChangeBeforeALaunchIsNotAnnounced) {
   observe();
   machine.mouse.moveTo(inTheOpen);
   setAutoHide(machine, true);
-  EXPECT_EQ(heardAtRest(), 0);
+  EXPECT_EQ(countPosted(), 0);
   setAutoHide(machine, false);
-  EXPECT_EQ(heardAtRest(), 1);
+  EXPECT_EQ(countPosted(), 1);
 }
 
 struct FrameStep {
@@ -191,7 +191,7 @@ void take(Machine& machine, const FrameStep& step) {
   }
 }
 
-RC_GTEST_PROP(ScreenParametersProperty, AreHeardOfExactlyWhenAVisibleFrameHasChanged, ()) {
+RC_GTEST_PROP(ScreenParametersProperty, ArePostedExactlyWhenAVisibleFrameHasChanged, ()) {
   MachineScope scope;
   Machine& machine = scope.machine();
   machine.process.start();

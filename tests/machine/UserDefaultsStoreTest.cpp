@@ -1,4 +1,4 @@
-// Stored user defaults and the counts of writes.
+// The counts of writes of user defaults.
 #include <gtest/gtest.h>
 
 #include "desk/machine/UserDefaultsStore.hpp"

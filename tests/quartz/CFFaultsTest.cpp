@@ -1,4 +1,4 @@
-// Mistakes with Core Foundation references are recorded as faults.
+// Errors with Core Foundation references are recorded as faults.
 #include <string>
 #include <vector>
 
@@ -18,7 +18,7 @@ class CFFaultsTest : public MachineFixture {
   }
 };
 
-TEST_F(CFFaultsTest, UsingAfterTheReleaseIsOne) {
+TEST_F(CFFaultsTest, UseAfterReleaseIsAFault) {
   const CFStringRef string = make("a");
   CFRelease(string);
   EXPECT_EQ(CFStringGetLength(string), 0);
@@ -27,7 +27,7 @@ TEST_F(CFFaultsTest, UsingAfterTheReleaseIsOne) {
                                           "CFGetTypeID: CFString \"a\" was already released"}));
 }
 
-TEST_F(CFFaultsTest, NullIsOne) {
+TEST_F(CFFaultsTest, NullIsAFault) {
   CFRelease(nullptr);
   CGEventTapEnable(nullptr, true);
   CFMachPortInvalidate(nullptr);
@@ -38,14 +38,14 @@ TEST_F(CFFaultsTest, NullIsOne) {
                                           "CGEventGetLocation: null instead of an event"}));
 }
 
-TEST_F(CFFaultsTest, AnObjectOfAnotherKindIsOne) {
+TEST_F(CFFaultsTest, AnObjectOfAnotherKindIsAFault) {
   EXPECT_EQ(
       CFPreferencesCopyAppValue(CFSTR("key"), reinterpret_cast<CFStringRef>(CFRunLoopGetCurrent())),
       nullptr);
   EXPECT_EQ(machine.faults.take(), (Texts{"CFPreferencesCopyAppValue: CFRunLoop is no CFString"}));
 }
 
-TEST_F(CFFaultsTest, AnUnknownModeIsOne) {
+TEST_F(CFFaultsTest, AnUnknownModeIsAFault) {
   machine.permission.setTrusted(true);
   const CFMachPortRef port = CGEventTapCreate(
       kCGSessionEventTap, kCGTailAppendEventTap, kCGEventTapOptionDefault, 0x20,

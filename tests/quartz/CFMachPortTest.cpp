@@ -1,4 +1,4 @@
-// Taps, ports, sources and the run loop: their ownership, and what ends with what.
+// Taps, ports, sources and the run loop: ownership and lifetimes.
 #include <gtest/gtest.h>
 
 #include "Orvane/base/CFRef.hpp"
@@ -60,7 +60,7 @@ TEST_F(CFMachPortTest, ASourceKeepsItsPortAndTheRunLoopKeepsTheSource) {
   EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
 }
 
-TEST_F(CFMachPortTest, ATapHearsOfEventsOnlyWhileASourceIsInTheRunLoop) {
+TEST_F(CFMachPortTest, ATapReceivesEventsOnlyWhileASourceIsInTheRunLoop) {
   const auto port = makeTap();
   EXPECT_EQ(deliver(), 0);
   const auto source = makeSource(port);

@@ -34,7 +34,7 @@ TEST_F(CFPreferencesTest, EachTypeOfValueHasItsOwnTypeID) {
   EXPECT_NE(number, boolean);
 }
 
-TEST_F(CFPreferencesTest, ANewObjectIsCopiedForEachQuestion) {
+TEST_F(CFPreferencesTest, EachCopyIsANewObject) {
   store(std::string("text"));
   const Value first = copy();
   const Value second = copy();

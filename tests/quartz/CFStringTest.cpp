@@ -9,7 +9,7 @@ namespace {
 
 using CFStringTest = MachineFixture;
 
-TEST_F(CFStringTest, AConstantIsOneObjectWhateverTheMachineAndNeverCounted) {
+TEST_F(CFStringTest, AConstantIsOneObjectForAllMachinesAndNotCounted) {
   const CFStringRef constant = CFSTR("orientation");
   EXPECT_EQ(constant, deskConstantString("orientation"));
   EXPECT_NE(constant, CFSTR("autohide"));

@@ -1,4 +1,4 @@
-// How a command's arguments are read and what is said about wrong ones.
+// Parsing of a command's arguments, and its problems.
 #include <array>
 #include <string>
 
@@ -10,7 +10,7 @@
 namespace orvane::desk::script {
 namespace {
 
-/// Keeps the words alive that the arguments look at.
+/// Owns the words to which the arguments refer.
 struct Line {
   explicit Line(std::string text) : text_(std::move(text)), lexed_(lexLine(text_)) {}
   Arguments arguments() const { return {lexed_.words, text_}; }
@@ -31,7 +31,7 @@ TEST(ArgumentsTest, ReadsOptionsAndFlagsWhereverTheyStand) {
   EXPECT_FALSE(arguments.finish());
 }
 
-TEST(ArgumentsTest, KeepsTheFirstMistake) {
+TEST(ArgumentsTest, KeepsTheFirstProblem) {
   const Line line("x y");
   Arguments arguments = line.arguments();
   EXPECT_EQ(arguments.number("X"), 0);
@@ -41,14 +41,14 @@ TEST(ArgumentsTest, KeepsTheFirstMistake) {
   EXPECT_EQ(arguments.finish(), "X must be a decimal number, not \"x\"");
 }
 
-TEST(ArgumentsTest, ComplainsAboutTheSecondOfTwoEqualOptions) {
+TEST(ArgumentsTest, ASecondEqualOptionIsAProblem) {
   const Line line("uuid=A uuid=B");
   Arguments arguments = line.arguments();
   EXPECT_EQ(arguments.option("uuid"), "A");
   EXPECT_EQ(arguments.finish(), "unexpected \"uuid=B\"");
 }
 
-TEST(ArgumentsTest, ComplainsAboutNumbersOutOfRange) {
+TEST(ArgumentsTest, NumbersOutOfRangeAreProblems) {
   const auto problem = [](const std::string& word, auto read) {
     const Line line(word);
     Arguments arguments = line.arguments();
@@ -74,7 +74,7 @@ TEST(ArgumentsTest, ComplainsAboutNumbersOutOfRange) {
   EXPECT_EQ(problem("soon", seconds), "S must be a decimal number of seconds, not \"soon\"");
 }
 
-TEST(ArgumentsTest, ShowsOnlyTheBeginningOfALongWord) {
+TEST(ArgumentsTest, CutsALongWordInAMessage) {
   const Line line("a" + std::string(40, 'b') + "显示器显示器显示器显示器");
   Arguments arguments = line.arguments();
   EXPECT_EQ(arguments.number("X"), 0);

@@ -1,4 +1,4 @@
-// What each command does to the machine, seen through a script.
+// The effects of commands, observed by scripts.
 #include <gtest/gtest.h>
 
 #include "tests/script/ScriptBench.hpp"
@@ -7,7 +7,7 @@
 namespace orvane::desk::script {
 namespace {
 
-/// Nothing when every expectation of the script holds.
+/// Empty when all expectations of the script hold.
 std::string failuresOf(const std::string& text) {
   return runScript(text).errors;
 }
@@ -41,7 +41,7 @@ TEST(CommandTest, DisplaysAreChangedAsAsked) {
             "");
 }
 
-TEST(CommandTest, ChangesMadeTogetherAreOneChange) {
+TEST(CommandTest, AGroupOfChangesIsOneChange) {
   EXPECT_EQ(failuresOf("display together\n" + twoDisplays +
                        "display main 2\nexpect counters.displayChanges 0\ndisplay done\n"
                        "expect counters.displayChanges 1\n"
@@ -82,7 +82,7 @@ TEST(CommandTest, TheLoginItemTakesEveryStateAndFails) {
       "");
 }
 
-TEST(CommandTest, LooksAreRemembered) {
+TEST(CommandTest, TheAppearanceIsSet) {
   ScriptBench bench;
   const Appearance& appearance = bench.session.machine().appearance;
   for (const char* const line : {"appearance dark", "accent 1,20,255", "wallpaper busy",
@@ -137,7 +137,7 @@ TEST(CommandTest, EveryCommandComesToRest) {
             "");
 }
 
-TEST(CommandTest, APictureIsAskedForAsItIsWritten) {
+TEST(CommandTest, APictureIsRequestedAsWritten) {
   std::vector<std::string> requests;
   ScriptProgram::Settings settings;
   settings.pictureWriter = [&requests](const Session&, const PictureRequest& request) -> Problem {

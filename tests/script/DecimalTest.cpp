@@ -1,4 +1,4 @@
-// How numbers are read and written.
+// Parsing and formatting of numbers.
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -50,7 +50,7 @@ TEST(DecimalTest, ReadsSecondsExactly) {
   EXPECT_FALSE(parseNanoseconds("9300000000"));
 }
 
-TEST(DecimalTest, WritesSecondsWithoutIdleZeros) {
+TEST(DecimalTest, WritesSecondsWithoutTrailingZeros) {
   EXPECT_EQ(secondsText(0), "0");
   EXPECT_EQ(secondsText(1'000'050'000'000), "1000.05");
   EXPECT_EQ(secondsText(1), "0.000000001");

@@ -1,4 +1,4 @@
-// What holds at a path, and what is said when it does not.
+// Values at paths, and the messages of failed expectations.
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
@@ -63,7 +63,7 @@ TEST(ExpectationTest, ReadsJsonDownToAHundredLevels) {
   EXPECT_FALSE(parseJson(std::string(5'000'000, '[')));
 }
 
-TEST(ExpectationTest, ComparesValuesAndNotTheirWriting) {
+TEST(ExpectationTest, ComparesValuesAndNotTheirSpelling) {
   EXPECT_TRUE(isSameJson(*parseJson("1"), *parseJson("1.0")));
   EXPECT_TRUE(isSameJson(*parseJson(R"({"a":1,"b":2})"), *parseJson(R"({"b":2,"a":1})")));
   EXPECT_FALSE(isSameJson(*parseJson("[1,2]"), *parseJson("[2,1]")));
@@ -87,7 +87,7 @@ TEST(ExpectationTest, ReportsEachFailureAndGoesOn) {
             "script.desk:5: expected guard.zones.0 = {\"rect\":[1,2.5]}, got nothing\n");
 }
 
-TEST(ExpectationTest, TakesACountThatIsNotThereForZero) {
+TEST(ExpectationTest, AMissingCountIsZero) {
   EXPECT_EQ(runScript("expect dock.reveals.2 0\n").status, ScriptProgram::held);
   EXPECT_EQ(runScript("expect dock.reveals.2 1\n").errors,
             "script.desk:1: expected dock.reveals.2 = 1, got 0\n");
@@ -103,7 +103,7 @@ TEST(ExpectationTest, ReadsTheValueAsItIsWritten) {
             "");
 }
 
-TEST(ExpectationTest, PassesTheFirstPartOfThePathToAThingWithAParameter) {
+TEST(ExpectationTest, PassesTheFirstPartOfThePathAsTheParameter) {
   ScriptProgram::Settings settings;
   settings.inspectables.add(
       {.name = "tree",

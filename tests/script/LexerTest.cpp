@@ -1,4 +1,4 @@
-// How a line becomes words.
+// Splitting of lines into words.
 #include <string>
 #include <vector>
 
@@ -50,11 +50,11 @@ TEST(LexerTest, ReplacesEscapesInQuotesOnly) {
   EXPECT_EQ(textsOf(R"(a\nb)"), (Texts{R"(a\nb)"}));
 }
 
-TEST(LexerTest, KeepsTheTextOfOtherScripts) {
+TEST(LexerTest, KeepsNonLatinText) {
   EXPECT_EQ(textsOf("echo \"显示器 é 🖥\""), (Texts{"echo", "显示器 é 🖥"}));
 }
 
-TEST(LexerTest, SaysWhereEachWordStands) {
+TEST(LexerTest, RecordsTheRangeOfEachWord) {
   const LexedLine lexed = lexLine(" expect  \"a b\"c # d");
   ASSERT_EQ(lexed.words.size(), 2U);
   EXPECT_EQ(lexed.words[0].begin, 1U);
@@ -63,27 +63,27 @@ TEST(LexerTest, SaysWhereEachWordStands) {
   EXPECT_EQ(lexed.words[1].end, 15U);
 }
 
-TEST(LexerTest, ComplainsAboutAnUnknownEscapeInItsWordOnly) {
+TEST(LexerTest, AnUnknownEscapeIsAProblemOfItsWord) {
   const LexedLine lexed = lexLine(R"(expect "\u4e2d\q" "fine")");
   ASSERT_FALSE(lexed.problem);
   ASSERT_EQ(lexed.words.size(), 3U);
-  EXPECT_EQ(lexed.words[1].problem, "an unknown escape at column 9");
+  EXPECT_EQ(lexed.words[1].problem, "unknown escape at column 9");
   EXPECT_FALSE(lexed.words[2].problem);
 }
 
-TEST(LexerTest, ComplainsAboutAQuoteLeftOpen) {
-  EXPECT_EQ(lexLine("é \"abc").problem, "a quote is opened at column 3 and not closed");
-  EXPECT_EQ(lexLine(R"("abc\")").problem, "a quote is opened at column 1 and not closed");
-  EXPECT_EQ(lexLine("\"abc\\").problem, "a quote is opened at column 1 and not closed");
+TEST(LexerTest, AnUnterminatedQuoteIsAProblem) {
+  EXPECT_EQ(lexLine("é \"abc").problem, "unterminated quote at column 3");
+  EXPECT_EQ(lexLine(R"("abc\")").problem, "unterminated quote at column 1");
+  EXPECT_EQ(lexLine("\"abc\\").problem, "unterminated quote at column 1");
 }
 
-TEST(LexerTest, ComplainsAboutControlCharacters) {
-  EXPECT_EQ(lexLine(std::string("ab\0c", 4)).problem, "a control character at column 3");
-  EXPECT_EQ(lexLine("a\x1B[0m").problem, "a control character at column 2");
-  EXPECT_EQ(lexLine("a\x7F").problem, "a control character at column 2");
+TEST(LexerTest, ControlCharactersAreAProblem) {
+  EXPECT_EQ(lexLine(std::string("ab\0c", 4)).problem, "control character at column 3");
+  EXPECT_EQ(lexLine("a\x1B[0m").problem, "control character at column 2");
+  EXPECT_EQ(lexLine("a\x7F").problem, "control character at column 2");
 }
 
-TEST(LexerTest, ComplainsAboutMalformedUtf8) {
+TEST(LexerTest, MalformedUtf8IsAProblem) {
   for (const char* const malformed :
        {"\x80", "\xC3", "\xC0\xAF", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8",
         "\xE4\xB8", "\xE4\xB8\x41", "\xFF"}) {

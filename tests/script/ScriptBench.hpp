@@ -1,5 +1,4 @@
-// ScriptBench is an interpreter of single lines on a machine of its own, for tests that look at the
-// machine between two lines.
+// ScriptBench runs single lines, for tests that inspect the machine between them.
 #pragma once
 
 #include <sstream>

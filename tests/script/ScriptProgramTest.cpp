@@ -1,4 +1,4 @@
-// Whole scripts: files, line ends, determinism, what the application leaves behind.
+// Scripts: line ends, added commands, leaked objects.
 #include <gtest/gtest.h>
 
 #include "Orvane/platform/Quartz.hpp"
@@ -8,7 +8,7 @@
 namespace orvane::desk::script {
 namespace {
 
-TEST(ScriptProgramTest, TakesAnEmptyScriptForOneThatHolds) {
+TEST(ScriptProgramTest, AnEmptyScriptHolds) {
   EXPECT_EQ(runScript("").status, ScriptProgram::held);
   EXPECT_EQ(runScript("\n# nothing\n\n").status, ScriptProgram::held);
 }
@@ -28,31 +28,17 @@ TEST(ScriptProgramTest, ReadsFilesOfOtherSystems) {
             ScriptProgram::broken);
 }
 
-TEST(ScriptProgramTest, GivesTheSameBytesForTheSameScript) {
-  const std::string script =
-      pinned +
-      "move 2800 900\npush 0 60 times 400 every 0.01\nshow guard\nshow messages\nshow model\n"
-      "display frame 2 1920,100,1280,800\nshow displays\nshow dock\nshow pointer\nshow clock\n"
-      "terminate\nlaunch\nshow counters\nshow defaults\nexpect clock.now 0\n";
-  const ScriptRun first = runScript(script);
-  const ScriptRun second = runScript(script);
-  EXPECT_EQ(first.status, ScriptProgram::failed);
-  EXPECT_EQ(first.output, second.output);
-  EXPECT_EQ(first.errors, second.errors);
-  EXPECT_NE(first.output, "");
-}
-
-TEST(ScriptProgramTest, RunsOtherPeoplesCommands) {
+TEST(ScriptProgramTest, RunsAddedCommands) {
   ScriptProgram::Settings settings;
   settings.commands.add({"menu open", "", [](ScriptContext& context, Arguments& arguments) {
                            context.output << "opened\n";
                            return arguments.finish();
                          }});
   EXPECT_EQ(runScript("menu open\n", settings).output, "opened\n");
-  EXPECT_EQ(problemOf("menu burn\n", settings), "menu knows no command \"burn\", only close, open");
+  EXPECT_EQ(problemOf("menu burn\n", settings), "menu has no command \"burn\", only close, open");
 }
 
-TEST(ScriptProgramTest, TellsWhatWasLeftBehind) {
+TEST(ScriptProgramTest, ReportsLeakedObjects) {
   ScriptProgram::Settings settings;
   settings.commands.add({"leak", "", [](ScriptContext&, Arguments& arguments) {
                            CFStringCreateWithCString(kCFAllocatorDefault, "lost",
@@ -62,17 +48,6 @@ TEST(ScriptProgramTest, TellsWhatWasLeftBehind) {
   const ScriptRun run = runScript("leak\n", settings);
   EXPECT_EQ(run.status, ScriptProgram::held);
   EXPECT_NE(run.errors.find("script.desk:1: not released: "), std::string::npos) << run.errors;
-}
-
-TEST(ScriptProgramTest, ReadsFilesOneAfterTheOther) {
-  std::istringstream input("echo from the input\nadvance 5\n");
-  std::ostringstream output;
-  std::ostringstream errors;
-  ScriptProgram program({}, input, output, errors);
-  EXPECT_EQ(program.runFiles({"-", "/no/such/file.desk", "-"}), ScriptProgram::broken);
-  EXPECT_EQ(output.str(), "from the input\n");
-  EXPECT_EQ(errors.str(),
-            "/no/such/file.desk:0: the file cannot be read: No such file or directory\n");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// ScriptRun runs a script's text in the test's own process and keeps all that came of it.
+// Runs a script in the test's process; ScriptRun is its result.
 #pragma once
 
 #include <sstream>
@@ -15,7 +15,7 @@ struct ScriptRun {
   std::string errors;
 };
 
-/// The script is called "script.desk".
+/// The file name in messages is "script.desk".
 inline ScriptRun runScript(const std::string& text, ScriptProgram::Settings settings = {}) {
   std::istringstream nothing;
   std::istringstream script(text);
@@ -26,7 +26,7 @@ inline ScriptRun runScript(const std::string& text, ScriptProgram::Settings sett
   return {status, output.str(), errors.str()};
 }
 
-/// What is wrong with the last line of a script, without its place; empty when nothing is.
+/// The problem of the last line, without file and line; empty on success.
 inline std::string problemOf(const std::string& text, ScriptProgram::Settings settings = {}) {
   const ScriptRun run = runScript(text, std::move(settings));
   const std::size_t place = run.errors.find(": ");
@@ -36,12 +36,12 @@ inline std::string problemOf(const std::string& text, ScriptProgram::Settings se
   return run.errors.substr(place + 2, run.errors.size() - place - 3);
 }
 
-/// Two displays side by side, both of 1920 by 1080 points, the left one the main one.
+/// Two displays of 1920 by 1080 points side by side; the left one is the main one.
 inline const std::string twoDisplays =
     "display attach 1 frame=0,0,1920,1080 uuid=AAAA name=\"Left\" main\n"
     "display attach 2 frame=1920,0,1920,1080 uuid=BBBB name=\"Right\"\n";
 
-/// The same, with the application running and the Dock pinned to the left one.
+/// The same, with the application running and the Dock pinned to the left display.
 inline const std::string pinned =
     twoDisplays + "trust on\nlaunch\ndo refreshDisplays\ndo toggleSelectedDisplayLock\n";
 

@@ -31,7 +31,7 @@ TEST(ShowTest, PrintsEveryStatus) {
       "");
 }
 
-TEST(ShowTest, PrintsTheDockWhereItCameUp) {
+TEST(ShowTest, PrintsTheDockAfterItHasAppeared) {
   EXPECT_EQ(
       outputOf(twoDisplays + "move 2800 900\npush 0 60 times 5\nshow dock\nshow pointer\n"),
       R"json({"edge":"bottom","autohide":false,"display":2,"visible":true,"reveals":{"2":1}})json"
@@ -45,7 +45,7 @@ TEST(ShowTest, FindsTheScreenOfAnIdentifier) {
             "{\"index\":1}\n{\"index\":0}\n{\"index\":null}\n{\"index\":null}\n{\"index\":1}\n");
 }
 
-TEST(ShowTest, PrintsWhatWasAnnouncedAndNothingThatCannotBeSpoken) {
+TEST(ShowTest, PrintsAnnouncementsExceptEmptyAndMalformedOnes) {
   ScriptBench bench;
   bench.session.application().launch();
   appkit::Accessibility::announce("");

@@ -1,4 +1,4 @@
-// Windows and menus as a script operates them and looks at them.
+// Windows and menus in scripts.
 #include <gtest/gtest.h>
 
 #include "tests/script/ScriptRun.hpp"
@@ -28,7 +28,7 @@ TEST(WindowScriptTest, AClickOnTheStatusItemOpensItsMenu) {
              "click 1714 12\nexpect menu.open true\nclick 500 500\nexpect menu.open false\n");
 }
 
-TEST(WindowScriptTest, WhatIsNotThereOrDisabledIsSaid) {
+TEST(WindowScriptTest, MissingControlsAndSurfacesAreProblems) {
   EXPECT_EQ(problemOf(running + "press \"Nothing\"\n"), "press: there is no control \"Nothing\"");
   EXPECT_EQ(problemOf(running + "press \"Nothing\" in main\n"),
             "press: there is no surface \"main\"");
@@ -40,7 +40,7 @@ TEST(WindowScriptTest, WhatIsNotThereOrDisabledIsSaid) {
   EXPECT_EQ(problemOf(running + "show tree main\n"), "show: there is no surface \"main\"");
 }
 
-TEST(WindowScriptTest, ADisabledControlIsSaidToBeSoAndNotPressed) {
+TEST(WindowScriptTest, ADisabledControlIsAProblem) {
   const std::string withoutDisplay = "launch\nreopen\nadvance 1\n";
   EXPECT_EQ(problemOf(withoutDisplay + "press \"Pin Dock\" in main\n"),
             "press: \"Pin Dock\" in main is disabled");
@@ -50,7 +50,7 @@ TEST(WindowScriptTest, ADisabledControlIsSaidToBeSoAndNotPressed) {
   EXPECT_EQ(run.output, "");
 }
 
-TEST(WindowScriptTest, OfControlsLabelledAlikeTheOneOfThatNumberIsPressed) {
+TEST(WindowScriptTest, NthSelectsAmongControlsWithTheSameLabel) {
   const std::string twins =
       "display attach 1 frame=0,0,1920,1080 uuid=AAAA name=\"Twin\" main\n"
       "display attach 2 frame=1920,0,1920,1080 uuid=BBBB name=\"Twin\"\n"
@@ -65,7 +65,7 @@ TEST(WindowScriptTest, OfControlsLabelledAlikeTheOneOfThatNumberIsPressed) {
             "press: there is no control \"Twin\" in main");
 }
 
-TEST(WindowScriptTest, ThePointerHoversOverWhatIsInSightOfAControlAndNotOverWhatIsScrolledAway) {
+TEST(WindowScriptTest, HoverMovesToTheVisiblePartOfAControl) {
   std::string row;
   for (const char* const number : {"1", "2", "3", "4", "5", "6"}) {
     row += std::string("display attach ") + number + " frame=" + number +
@@ -83,11 +83,11 @@ TEST(WindowScriptTest, ThePointerHoversOverWhatIsInSightOfAControlAndNotOverWhat
   expectHeld(row + "hover \"Card 1\" in main\nscroll 600 0\nhover \"Card 6\" in main\n");
   EXPECT_EQ(problemOf(row + "hover \"Card 1\" in main\nscroll 600 0\nhover \"Card 1\"\n"),
             "hover: \"Card 1\" is scrolled out of sight");
-  // An accessibility press needs no sight.
+  // An accessibility press does not require visibility.
   expectHeld(row + "press \"Card 6\" in main\nexpect model.selectedDisplayID \"U6\"\n");
 }
 
-TEST(WindowScriptTest, WhatAModalWindowKeepsBackIsSaidAndLeftAsItIs) {
+TEST(WindowScriptTest, AWindowThatAModalWindowBlocksIsAProblem) {
   const std::string asked = twoDisplays +
                             "launch\nreopen\nadvance 1\ndo toggleSelectedDisplayLock\n"
                             "expect windows.1.surface \"alert\"\n";
@@ -95,20 +95,19 @@ TEST(WindowScriptTest, WhatAModalWindowKeepsBackIsSaidAndLeftAsItIs) {
        {R"(press "Settings" in main)", R"(pick "Language" "English" in main)", "close main",
         "minimise main", "drag main 30 0", R"(hover "Settings" in main)"}) {
     const std::string verb(command, std::string(command).find(' '));
-    EXPECT_EQ(problemOf(asked + command + "\n"),
-              verb + ": \"main\" is kept back by a modal window");
+    EXPECT_EQ(problemOf(asked + command + "\n"), verb + ": \"main\" is blocked by a modal window");
   }
   EXPECT_EQ(problemOf(asked + "press \"Settings\"\n"), "press: there is no control \"Settings\"");
-  // The alert itself is operated, and what it kept back afterwards.
+  // The alert can be operated, and afterwards the window that it blocked.
   expectHeld(asked +
              "drag alert 20 0\nexpect windows.1.frame [740,460,480,400]\n"
              "close alert\nexpect windows.# 1\nclose main\nexpect windows.# 0\n");
 }
 
-TEST(WindowScriptTest, AWindowThatCannotBeMinimisedOrDoesNotMoveIsSaidToBeSo) {
+TEST(WindowScriptTest, AWindowThatCannotBeMinimisedOrMovedIsAProblem) {
   EXPECT_EQ(problemOf(running + "menu open\npress \"Settings\" in menu\nminimise settings\n"),
             "minimise: \"settings\" cannot be minimised");
-  // The press goes to the menu, which it closes.
+  // The press closes the menu.
   EXPECT_EQ(problemOf(running + "reopen\nmenu open\ndrag main 30 0\n"),
             "drag: \"main\" did not move");
   expectHeld(running + "reopen\ndrag main 0 0\ndrag main 0 1\ndrag main 1 0\n");

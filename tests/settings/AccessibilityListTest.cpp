@@ -1,4 +1,4 @@
-// Who is in the list of applications that may control the computer, and how they come and go.
+// The entries of the Accessibility list, and their changes.
 #include "Orvane/platform/Quartz.hpp"
 #include "desk/settings/AccessibilityList.hpp"
 #include "tests/support/MachineFixture.hpp"
@@ -19,38 +19,38 @@ class AccessibilityListTest : public MachineFixture {
   AccessibilityList list{machine.permission};
 };
 
-TEST_F(AccessibilityListTest, AskingForThePermissionBringsOrvaneIntoTheList) {
+TEST_F(AccessibilityListTest, RequestingThePermissionListsOrvane) {
   EXPECT_EQ(names(), "Remote Help on, Text Macros off");
   EXPECT_FALSE(AXIsProcessTrusted());
   EXPECT_EQ(names(), "Orvane off, Remote Help on, Text Macros off");
 }
 
-TEST_F(AccessibilityListTest, WhoIsTakenOutLosesThePermissionAndDoesNotComeBackByAsking) {
+TEST_F(AccessibilityListTest, ARemovedApplicationLosesThePermissionAndARequestDoesNotRelistIt) {
   list.add("Orvane");
   list.remove("Orvane");
   EXPECT_FALSE(AXIsProcessTrusted());
   EXPECT_EQ(names(), "Remote Help on, Text Macros off");
   list.setAllowed("Orvane", true);
-  EXPECT_FALSE(AXIsProcessTrusted()) << "who is not listed has no switch";
+  EXPECT_FALSE(AXIsProcessTrusted()) << "an unlisted application has no switch";
   list.add("Orvane");
   EXPECT_TRUE(AXIsProcessTrusted());
   EXPECT_EQ(names(), "Orvane on, Remote Help on, Text Macros off");
 }
 
-TEST_F(AccessibilityListTest, OtherApplicationsHaveSwitchesOfTheirOwn) {
+TEST_F(AccessibilityListTest, OtherApplicationsAreIndependent) {
   list.setAllowed("Text Macros", true);
   list.remove("Remote Help");
   EXPECT_EQ(names(), "Text Macros on");
   EXPECT_FALSE(AXIsProcessTrusted());
 }
 
-TEST_F(AccessibilityListTest, WhatIsNotListedCanBeAdded) {
+TEST_F(AccessibilityListTest, UnlistedApplicationsCanBeAdded) {
   EXPECT_EQ(list.applicationsNotListed(), (std::vector<std::string>{"Orvane", "Pointer Lens"}));
   list.add("Pointer Lens");
   EXPECT_EQ(list.applicationsNotListed(), std::vector<std::string>{"Orvane"});
 }
 
-TEST_F(AccessibilityListTest, AnApplicationIsKnownByItsBundle) {
+TEST_F(AccessibilityListTest, TheNameOfAnApplicationIsThatOfItsBundle) {
   EXPECT_EQ(AccessibilityList::applicationOf("file:///Applications/Orvane.app/"), "Orvane");
   EXPECT_EQ(AccessibilityList::applicationOf("file:///A/B.app"), "B");
   EXPECT_EQ(AccessibilityList::applicationOf("file:///A/B.txt"), "");

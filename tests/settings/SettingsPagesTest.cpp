@@ -57,7 +57,7 @@ TEST_F(SettingsPagesTest, TheApplicationOpensOnThePageItShowedLast) {
   EXPECT_EQ(settings.state().page, SystemSettings::accessibilityPage);
 }
 
-TEST_F(SettingsPagesTest, OnlyTheAccessibilityPageTakesDrops) {
+TEST_F(SettingsPagesTest, OnlyTheAccessibilityPageAcceptsDrops) {
   open("x-apple.systempreferences:com.apple.preference.dock");
   EXPECT_FALSE(settings.listFrame());
   open();

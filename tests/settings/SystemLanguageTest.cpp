@@ -1,4 +1,4 @@
-// The language of the system's own programs.
+// The language of the system's programs.
 #include <gtest/gtest.h>
 
 #include "desk/settings/SystemLanguage.hpp"

@@ -18,7 +18,7 @@ class SystemSettingsTest : public SystemSettingsFixture {
     machine.runDue();
     return source;
   }
-  /// Drags the file from there to a place on the list.
+  /// Drags the file from there onto the list.
   void dragToList() {
     press({20, 780});
     moveTo({30, 780});
@@ -42,7 +42,7 @@ TEST_F(SystemSettingsTest, OtherAndRefusedLinksOpenNothing) {
   EXPECT_EQ(window(), nullptr);
 }
 
-TEST_F(SystemSettingsTest, OpeningTakesTheActivityFromTheApplicationAndTheKeysWithIt) {
+TEST_F(SystemSettingsTest, OpeningItDeactivatesTheApplicationAndTakesTheKeyFocus) {
   appkit::Window own = makeWindow({0, 0}, "own");
   own.makeKeyAndOrderFront();
   appkit::Application::activateIgnoringOtherApps();
@@ -53,7 +53,7 @@ TEST_F(SystemSettingsTest, OpeningTakesTheActivityFromTheApplicationAndTheKeysWi
   EXPECT_EQ(window()->owner, WindowOwner::system);
 }
 
-TEST_F(SystemSettingsTest, ItOpensOnTheDisplayWithThePointerAndStaysWhereItIsPut) {
+TEST_F(SystemSettingsTest, ItOpensOnTheDisplayWithThePointerAndStaysWhereItIsDragged) {
   moveTo({1500, 400});
   open();
   const CGRect placed = window()->frame;
@@ -97,7 +97,7 @@ TEST_F(SystemSettingsTest, TheSwitchGrantsAndRevokes) {
   EXPECT_FALSE(AXIsProcessTrusted());
 }
 
-TEST_F(SystemSettingsTest, WhatOthersChangeIsShown) {
+TEST_F(SystemSettingsTest, ChangesByOthersAreShown) {
   open();
   EXPECT_EQ(valueOf("Orvane"), "not there");
   machine.permission.setTrusted(true);
@@ -106,7 +106,7 @@ TEST_F(SystemSettingsTest, WhatOthersChangeIsShown) {
   EXPECT_TRUE(control("移除"));
 }
 
-TEST_F(SystemSettingsTest, TheMinusTakesTheSelectedApplicationOut) {
+TEST_F(SystemSettingsTest, RemoveRemovesTheSelectedApplication) {
   machine.permission.setTrusted(true);
   open();
   EXPECT_FALSE(control("Remove")->node.isEnabled);
@@ -118,10 +118,10 @@ TEST_F(SystemSettingsTest, TheMinusTakesTheSelectedApplicationOut) {
   EXPECT_FALSE(control("Remove")->node.isEnabled);
 }
 
-TEST_F(SystemSettingsTest, ThePlusAddsAnApplicationAndAllowsIt) {
+TEST_F(SystemSettingsTest, AddAddsAnApplicationAndAllowsIt) {
   open();
   clickOn("Add");
-  EXPECT_FALSE(control("Text Macros")->node.isEnabled) << "the sheet keeps the page back";
+  EXPECT_FALSE(control("Text Macros")->node.isEnabled) << "the sheet disables the page";
   EXPECT_FALSE(control("Open")->node.isEnabled);
   clickOn("Orvane");
   clickOn("Open");
@@ -130,7 +130,7 @@ TEST_F(SystemSettingsTest, ThePlusAddsAnApplicationAndAllowsIt) {
   EXPECT_FALSE(control("Open"));
 }
 
-TEST_F(SystemSettingsTest, ThePlusIsCancelledByEscape) {
+TEST_F(SystemSettingsTest, EscapeCancelsAdd) {
   open();
   clickOn("Add");
   clickOn("Orvane");
@@ -178,10 +178,11 @@ TEST_F(SystemSettingsTest, ItOutlivesTheApplication) {
   ASSERT_NE(window(), nullptr);
   clickOn("Orvane");
   EXPECT_TRUE(machine.permission.isTrusted());
-  EXPECT_FALSE(window()->content->host().nextFrameWanted()) << "nobody would bring the frames";
+  EXPECT_FALSE(window()->content->host().nextFrameWanted())
+      << "without a process there is no frame timer";
 }
 
-TEST_F(SystemSettingsTest, WithoutADisplayItOpensAllTheSame) {
+TEST_F(SystemSettingsTest, ItOpensWithoutADisplay) {
   EXPECT_FALSE(machine.displays.detach(1));
   EXPECT_FALSE(machine.displays.detach(2));
   open();

@@ -22,7 +22,7 @@ class HandFixture : public MachineFixture {
     return Surfaces(server()).window(surface);
   }
   [[nodiscard]] static bool isOpen(const std::string& surface) {
-    return Surfaces(server()).isThere(surface);
+    return Surfaces(server()).isOpen(surface);
   }
   /// The semantics tree of a surface; empty if it is not open.
   [[nodiscard]] static ui::SemanticsNode tree(const std::string& surface) {

@@ -1,4 +1,4 @@
-// A file dragged out of a view and dropped on a window that takes it.
+// Dragging a file out of a view onto a window.
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {
@@ -12,7 +12,7 @@ class FileDragTest : public WindowFixture {
       return std::optional(ui::DragItem{"file:///A.app/", "icon"});
     })));
     source.orderFrontRegardless();
-    // The right half takes files.
+    // The right half accepts files.
     target.implementation()->dropTarget =
         DropTarget{[](ui::Point place) { return place.x > 100; },
                    [this](ui::Point, const std::string& url) { dropped.push_back(url); }};
@@ -25,7 +25,7 @@ class FileDragTest : public WindowFixture {
   std::vector<std::string> dropped;
 };
 
-TEST_F(FileDragTest, TheFileArrivesWhereItIsAccepted) {
+TEST_F(FileDragTest, AnAcceptedFileIsDropped) {
   press({100, 750});
   moveTo({110, 750});
   ASSERT_TRUE(server().pointer.fileDrag().has_value());
@@ -37,7 +37,7 @@ TEST_F(FileDragTest, TheFileArrivesWhereItIsAccepted) {
   EXPECT_FALSE(server().pointer.fileDrag().has_value());
 }
 
-TEST_F(FileDragTest, ElsewhereNothingHappens) {
+TEST_F(FileDragTest, AFileThatIsNotAcceptedIsNotDropped) {
   press({100, 750});
   moveTo({450, 750});
   EXPECT_FALSE(server().pointer.canDropHere());

@@ -1,4 +1,4 @@
-// The menu under the status item and the pop-up menus of pickers.
+// The status item's menu and the pop-up menus of pickers.
 #include "Orvane/platform/appkit/StatusItem.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
 #include "Orvane/ui/views/Picker.hpp"
@@ -118,7 +118,7 @@ TEST_F(MenuTrackerTest, AnActionMayCloseTheMenuFirst) {
   EXPECT_FALSE(isOpen());
 }
 
-TEST_F(MenuTrackerTest, WhatFollowsItsClosingComesWhenTheActionHasReturned) {
+TEST_F(MenuTrackerTest, TheCallbackOfCancellingIsCalledAfterTheAction) {
   int endings = 0;
   add(row("Row", [&] {
     menu.cancelTracking([&] {
@@ -187,7 +187,7 @@ TEST_F(MenuTrackerTest, TheKeyboardGoesOverEnabledItemsAndChooses) {
   EXPECT_FALSE(isOpen());
 }
 
-TEST_F(MenuTrackerTest, TheKeyboardGoesOnFromWhereThePointerIs) {
+TEST_F(MenuTrackerTest, TheArrowKeysStartAtThePointer) {
   for (const char* const title : {"First", "Second", "Third"}) {
     add(row(title, [] {}));
   }
@@ -228,7 +228,7 @@ TEST_F(MenuTrackerTest, TheKeyboardTakesTheHoverAwayUntilThePointerMovesAgain) {
   EXPECT_EQ(server().menus.highlighted(), std::nullopt);
 }
 
-TEST_F(MenuTrackerTest, TypingFindsTheNextItemThatBeginsSo) {
+TEST_F(MenuTrackerTest, TypingHighlightsTheNextItemThatBeginsWithIt) {
   for (const char* const title : {"Pear", "Apple", "plum"}) {
     add(plain(title, [] {}));
   }
@@ -248,7 +248,7 @@ TEST_F(MenuTrackerTest, TypingFindsTheNextItemThatBeginsSo) {
   type("x");
   EXPECT_EQ(server().menus.highlighted(), 0U);
   command("a");
-  EXPECT_EQ(server().menus.highlighted(), 0U) << "a shortcut is no typing";
+  EXPECT_EQ(server().menus.highlighted(), 0U) << "a shortcut is not typing";
 }
 
 TEST_F(MenuTrackerTest, AClickOnAPlainItemClosesAndThenRunsIt) {
@@ -259,7 +259,7 @@ TEST_F(MenuTrackerTest, AClickOnAPlainItemClosesAndThenRunsIt) {
   EXPECT_FALSE(wasOpen);
 }
 
-TEST_F(MenuTrackerTest, AModalSessionKeepsTheMenuBack) {
+TEST_F(MenuTrackerTest, AModalSessionBlocksTheMenu) {
   add(row("Row", [] {}));
   appkit::Window panel = makeWindow({0, 0});
   appkit::Application::runModal(panel, [](int) {});
@@ -283,7 +283,7 @@ TEST_F(MenuTrackerTest, APickerOpensItsMenuOverItselfAndReportsTheChoice) {
   EXPECT_FALSE(isOpen());
 }
 
-TEST_F(MenuTrackerTest, AnItemThatGoesTakesItsMenuAlong) {
+TEST_F(MenuTrackerTest, DestroyingTheItemClosesItsMenu) {
   {
     appkit::StatusItem moved = std::move(item);
     add(row("Row", [] {}));

@@ -97,7 +97,7 @@ TEST_F(ModalSessionsTest, OtherWindowsReceiveNothing) {
   EXPECT_EQ(otherClicks, 1);
 }
 
-TEST_F(ModalSessionsTest, AChildOfTheModalWindowIsServed) {
+TEST_F(ModalSessionsTest, AChildOfTheModalWindowReceivesEvents) {
   int clicks = 0;
   Window panel = makeWindow({0, 0});
   Window child = makeWindow({300, 0});

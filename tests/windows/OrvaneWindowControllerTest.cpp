@@ -1,4 +1,4 @@
-// The two panels: their attributes, their positions, and how they open and close together.
+// The two panels: attributes, positions, opening and closing.
 #include <functional>
 #include <memory>
 #include <string>
@@ -114,7 +114,7 @@ TEST_F(OrvaneWindowControllerTest, AClosedMainPanelIsMadeAnewAndCentred) {
   expectOrigin(*controller().window(), centred.x, centred.y);
 }
 
-TEST_F(OrvaneWindowControllerTest, ItIsBroughtToTheFrontAlsoOfAnInactiveApplication) {
+TEST_F(OrvaneWindowControllerTest, ShowingItActivatesTheApplication) {
   show();
   desk::SystemSettings::installOn(server()).open();
   ASSERT_EQ(order(), "OrvaneWindow SystemSettings");
@@ -133,7 +133,7 @@ TEST_F(OrvaneWindowControllerTest, TheSettingsAreAChildCentredOnTheMainPanel) {
   EXPECT_EQ(order(), "OrvaneWindow OrvaneSettingsWindow");
 }
 
-TEST_F(OrvaneWindowControllerTest, ShownTwiceTheSettingsAreOneChildAndCentredEachTime) {
+TEST_F(OrvaneWindowControllerTest, TheSettingsAreOneChildAndCentredEachTimeTheyAreShown) {
   showSettings();
   appkit::Window(*controller().window()).setFrameOrigin({40, 50});
   appkit::Window(*controller().settingsWindow()).setFrameOrigin({0, 0});
@@ -142,7 +142,7 @@ TEST_F(OrvaneWindowControllerTest, ShownTwiceTheSettingsAreOneChildAndCentredEac
   EXPECT_EQ(controller().window()->childWindows().size(), 1U);
 }
 
-TEST_F(OrvaneWindowControllerTest, AContentThatDismissesWhatItIsShownInClosesIt) {
+TEST_F(OrvaneWindowControllerTest, DismissingTheContentClosesTheWindow) {
   std::function<void()> dismiss;
   controller().setContents({
       [](OrvaneModel&) { return content(); },
@@ -180,7 +180,7 @@ TEST_F(OrvaneWindowControllerTest, TheLastOneToCloseSetsTheActivationPolicyAgain
   EXPECT_EQ(machine.application.activationPolicy, ActivationPolicy::accessory);
 }
 
-TEST_F(OrvaneWindowControllerTest, TheSettingsOwnCloseLeavesTheMainPanel) {
+TEST_F(OrvaneWindowControllerTest, ClosingTheSettingsLeavesTheMainPanel) {
   showSettings();
   ASSERT_TRUE(closeSettings);
   closeSettings();

@@ -1,4 +1,4 @@
-// The routing of the pointer's movements, clicks and drags.
+// Routing of pointer movements, clicks and drags.
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {
@@ -21,7 +21,7 @@ TEST_F(PointerRouterTest, AClickReachesTheFrontmostWindowThere) {
   EXPECT_EQ(clicked, "front back ");
 }
 
-TEST_F(PointerRouterTest, NothingIsClickedWhereRoundedCornersLeaveNoWindow) {
+TEST_F(PointerRouterTest, RoundedCornersAreNotPartOfAWindow) {
   Window window = makeWindow({0, 0});
   appkit::HostingView view = hosting(wideButton("Button", [] {}));
   view.setLayerCorners(24, appkit::CornerCurve::continuous, true);
@@ -43,7 +43,7 @@ TEST_F(PointerRouterTest, AHandlerMayCloseItsWindowAndDropItsHandle) {
   EXPECT_TRUE(server().windows().empty());
 }
 
-TEST_F(PointerRouterTest, HoverFollowsThePointerAndWhatComesUnderIt) {
+TEST_F(PointerRouterTest, HoverFollowsThePointerAndTheWindowsUnderIt) {
   std::string heard;
   Window window = makeWindow({0, 0});
   window.setContentView(
@@ -153,7 +153,7 @@ TEST_F(PointerRouterTest, AnIdleWindowHasNoTimerAndDrawsNothing) {
   EXPECT_EQ(machine.runLoop.timerFireCount() - before, 15);
   machine.advance(0.5);
   EXPECT_EQ(machine.runLoop.timerCount(), 0U);
-  EXPECT_EQ(view.implementation()->picture.drawnAreas(), 0);
+  EXPECT_EQ(view.implementation()->picture.drawnAreaCount(), 0);
   const long long changes = server().updates.changeCount();
   machine.advance(60);
   EXPECT_EQ(server().updates.changeCount(), changes);

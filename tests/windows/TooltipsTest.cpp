@@ -15,7 +15,7 @@ class TooltipsTest : public WindowFixture {
   appkit::Window window;
 };
 
-TEST_F(TooltipsTest, AHintComesAfterASecondOfRest) {
+TEST_F(TooltipsTest, ATooltipAppearsAfterASecondOfRest) {
   moveTo({50, 750});
   machine.advance(0.9);
   moveTo({60, 750});
@@ -27,7 +27,7 @@ TEST_F(TooltipsTest, AHintComesAfterASecondOfRest) {
   EXPECT_EQ(machine.runLoop.timerCount(), 0U);
 }
 
-TEST_F(TooltipsTest, ItStaysOverItsViewAndGoesWithThePointerOrAClick) {
+TEST_F(TooltipsTest, ItDisappearsWhenThePointerLeavesTheViewOrClicks) {
   moveTo({50, 750});
   machine.advance(1);
   moveTo({70, 750});

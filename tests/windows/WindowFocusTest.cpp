@@ -1,4 +1,4 @@
-// Which window is key, and what activation does.
+// The key window and activation.
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {
@@ -54,7 +54,7 @@ TEST_F(WindowFocusTest, AClickMakesAWindowKeyAndBringsItToTheFront) {
   EXPECT_EQ(order(), "second first");
 }
 
-TEST_F(WindowFocusTest, AClickOnTheDesktopTakesTheKeyUntilTheApplicationIsActiveAgain) {
+TEST_F(WindowFocusTest, AClickOnTheDesktopDeactivatesTheApplication) {
   Window window = makeWindow({0, 0});
   window.makeKeyAndOrderFront();
   click({900, 400});
@@ -101,7 +101,7 @@ TEST_F(WindowFocusTest, ANonactivatingPanelIsClickedWithoutActivatingItsApplicat
   EXPECT_TRUE(panel.isKeyWindow());
 }
 
-TEST_F(WindowFocusTest, AMiniaturisedWindowIsNotVisibleNorKeyAndItsChildrenGoWithIt) {
+TEST_F(WindowFocusTest, AMiniaturisedWindowAndItsChildrenAreNeitherVisibleNorKey) {
   Window window = makeWindow({0, 0}, "main", WindowKind::window, appkit::StyleMask::miniaturizable);
   Window child = makeWindow({0, 0}, "child");
   window.makeKeyAndOrderFront();

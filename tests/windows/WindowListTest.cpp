@@ -49,7 +49,7 @@ TEST_F(WindowListTest, AChildOfALowerLevelIsAboveItsParentNevertheless) {
   EXPECT_EQ(order(), "parent child");
 }
 
-TEST_F(WindowListTest, AnInactiveApplicationsWindowsAreOrderedBehindOthersUnlessForced) {
+TEST_F(WindowListTest, WindowsOfAnInactiveApplicationStayBehindOthersUnlessForced) {
   auto system = makeWindow({0, 0}, "system");
   system.implementation()->owner = WindowOwner::system;
   auto own = makeWindow({0, 0}, "own");

@@ -9,7 +9,7 @@ using appkit::WindowKind;
 
 using WindowServerTest = WindowFixture;
 
-TEST_F(WindowServerTest, ChildrenFollowTheirParentAndTheirOwnChildrenFollowToo) {
+TEST_F(WindowServerTest, ChildrenAndTheirChildrenFollowTheirParent) {
   Window parent = makeWindow({100, 100});
   Window child = makeWindow({150, 120});
   Window grandchild = makeWindow({160, 130});
@@ -65,7 +65,7 @@ TEST_F(WindowServerTest, AShownWindowOutlivesItsHandle) {
   EXPECT_EQ(order(), "kept");
 }
 
-TEST_F(WindowServerTest, TheScreenOfAWindowIsTheOneThatMostOfItIsOn) {
+TEST_F(WindowServerTest, TheScreenOfAWindowShowsMostOfIt) {
   Window window = makeWindow({950, 100});
   EXPECT_EQ(window.screen()->deviceNumber("NSScreenNumber"), 2);
   window.setFrameOrigin({850, 100});
@@ -74,7 +74,7 @@ TEST_F(WindowServerTest, TheScreenOfAWindowIsTheOneThatMostOfItIsOn) {
   EXPECT_FALSE(window.screen().has_value());
 }
 
-TEST_F(WindowServerTest, ACentredWindowIsInTheMiddleOfItsScreenAndALittleHigher) {
+TEST_F(WindowServerTest, ACentredWindowHasLessSpaceAboveThanBelow) {
   Window window = makeWindow({1100, 100});
   window.center();
   EXPECT_EQ(CGRectGetMidX(window.frame()), 1500);
@@ -85,14 +85,14 @@ TEST_F(WindowServerTest, ACentredWindowIsInTheMiddleOfItsScreenAndALittleHigher)
   EXPECT_GT(above, 0);
 }
 
-TEST_F(WindowServerTest, AWindowWhoseDisplayGoesComesToAnother) {
+TEST_F(WindowServerTest, AWindowOfADetachedDisplayMovesToAnother) {
   Window window = makeWindow({1500, 100});
   window.orderFrontRegardless();
   EXPECT_FALSE(machine.displays.detach(2));
   EXPECT_TRUE(window.screen().has_value());
 }
 
-TEST_F(WindowServerTest, TheEndOfTheProcessClosesItsWindowsSilentlyAndKeepsTheSystems) {
+TEST_F(WindowServerTest, TheEndOfTheProcessClosesItsWindowsWithoutCallbacks) {
   int calls = 0;
   Window window = makeWindow({0, 0}, "own");
   window.onWillClose([&] { ++calls; });
