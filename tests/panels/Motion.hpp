@@ -6,9 +6,9 @@
 
 namespace orvane::motion {
 
-/// How much of the way is done when a share of the time has passed; both run from 0 to 1.
+/// How much of the way is done when a fraction of the time has passed; both run from 0 to 1.
 struct Moment {
-  double share;
+  double fraction;
   double progress;
 };
 
@@ -24,7 +24,7 @@ inline Moment easeOut(double parameter) {
 inline Moment easeInOut(double parameter) {
   const double early = 3 * (1 - parameter) * (1 - parameter) * parameter;
   const Moment end = easeOut(parameter);
-  return {0.42 * early + end.share, end.progress};
+  return {0.42 * early + end.fraction, end.progress};
 }
 
 /// How much of its way a spring has done so many seconds after it began at rest. Its mass is 1, its

@@ -1,5 +1,5 @@
-// PanelFixture gives each test three displays with the whole application on them, opens the panels,
-// and reads off what they show.
+// PanelFixture gives each test three displays with the whole application on them, opens the panels
+// and reads what they show.
 #pragma once
 
 #include <algorithm>
@@ -15,8 +15,8 @@
 
 namespace orvane {
 
-/// The permission is there and nothing is guarded; no panel is open. The displays, all named: the
-/// built-in main one, one to its right and one above it.
+/// The permission is granted, the guard does not run, and no panel is open. The displays, all
+/// named: the built-in main one, one to its right and one above it.
 class PanelFixture : public ApplicationFixture {
  protected:
   static constexpr const char* mainPanel = "main";
@@ -47,7 +47,7 @@ class PanelFixture : public ApplicationFixture {
     machine.runDue();
   }
 
-  /// Opens the main panel and lets its entrance pass.
+  /// Opens the main panel and waits for the end of its entrance.
   void openMain() {
     application.reopen();
     machine.advance(1);
@@ -68,17 +68,23 @@ class PanelFixture : public ApplicationFixture {
     return desk::findElement(tree(surface),
                              [&](const ui::SemanticsNode& node) { return node.label == label; });
   }
+  [[nodiscard]] std::optional<ui::SemanticsNode> element(ui::Role role, const std::string& label,
+                                                         const std::string& surface = mainPanel) {
+    return desk::findElement(tree(surface), [&](const ui::SemanticsNode& node) {
+      return node.role == role && node.label == label;
+    });
+  }
   [[nodiscard]] std::vector<ui::SemanticsNode> withRole(ui::Role role, const std::string& surface) {
     return desk::findElements(tree(surface),
                               [role](const ui::SemanticsNode& node) { return node.role == role; });
   }
-  /// The frame of the element, or one that no element has.
+  /// Of the first element with the label; fails without one.
   [[nodiscard]] ui::Rect frameOf(const std::string& label, const std::string& surface = mainPanel) {
     const auto found = element(label, surface);
     EXPECT_TRUE(found) << "no \"" << label << "\" in " << surface;
     return found ? found->frame : ui::Rect{-1, -1, -1, -1};
   }
-  /// What the status pill of the panel with this title says.
+  /// The text of the status pill of the panel with this title.
   [[nodiscard]] std::string pill(const std::string& title) {
     for (const ui::SemanticsNode& node : withRole(ui::Role::staticText, mainPanel)) {
       if (node.label == title && !node.value.empty()) {
@@ -101,11 +107,11 @@ class PanelFixture : public ApplicationFixture {
     return !hand.pick({label, settingsPanel}, item);
   }
 
-  /// All that the panel draws now, one line for each call.
+  /// One line for each drawing call.
   [[nodiscard]] std::vector<std::string> drawing(const std::string& surface) {
     return drawnLines(surface);
   }
-  /// How many lines of the drawing have the part in them.
+  /// The number of lines of the drawing that contain `part`.
   [[nodiscard]] std::ptrdiff_t drawn(const std::string& part,
                                      const std::string& surface = mainPanel) {
     const std::vector<std::string> lines = drawing(surface);
@@ -113,8 +119,8 @@ class PanelFixture : public ApplicationFixture {
         lines, [&](const std::string& line) { return line.find(part) != std::string::npos; });
   }
 
-  /// How opaque the layers around it leave the first line of the drawing with the part in it; 0
-  /// when there is no such line.
+  /// The product of the opacities of the layers around the first line of the drawing that contains
+  /// `part`; 0 when no line does.
   [[nodiscard]] double opacityOf(const std::string& part, const std::string& surface = mainPanel) {
     const std::string mark = " opacity ";
     std::vector<std::pair<std::size_t, double>> layers;

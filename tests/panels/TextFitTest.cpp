@@ -113,7 +113,7 @@ TEST_P(RoomInTheSettings, DoesForWiderTextAndTallerSymbols) {
   ui::ViewHost host(std::move(platform));
   host.setSize({OrvaneSettingsWindow::contentSize.width, OrvaneSettingsWindow::contentSize.height});
   host.setRoot([this](const ui::Environment&) {
-    return ui::View(OrvaneSettingsView{&model(), {}});
+    return ui::View(OrvaneSettingsView{.model = &model(), .onClose = {}});
   });
   host.tick(0);
   host.tick(1);
