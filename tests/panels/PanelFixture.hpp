@@ -59,31 +59,27 @@ class PanelFixture : public ApplicationFixture {
     machine.advance(1);
   }
 
-  /// Every element of a panel, in the order of reading.
-  [[nodiscard]] std::vector<ui::SemanticsNode> elements(const std::string& surface) {
-    return desk::findElements(tree(surface), [](const ui::SemanticsNode&) { return true; });
+  // The main panel is the default surface.
+  [[nodiscard]] static std::optional<ui::SemanticsNode> element(
+      const std::string& label, const std::string& surface = mainPanel) {
+    return HandFixture::element(label, surface);
   }
-  [[nodiscard]] std::optional<ui::SemanticsNode> element(const std::string& label,
-                                                         const std::string& surface = mainPanel) {
-    return desk::findElement(tree(surface),
-                             [&](const ui::SemanticsNode& node) { return node.label == label; });
+  [[nodiscard]] static std::optional<ui::SemanticsNode> element(
+      ui::Role role, const std::string& label, const std::string& surface = mainPanel) {
+    return HandFixture::element(role, label, surface);
   }
-  [[nodiscard]] std::optional<ui::SemanticsNode> element(ui::Role role, const std::string& label,
-                                                         const std::string& surface = mainPanel) {
-    return desk::findElement(tree(surface), [&](const ui::SemanticsNode& node) {
-      return node.role == role && node.label == label;
-    });
+  [[nodiscard]] static ui::Rect frameOf(const std::string& label,
+                                        const std::string& surface = mainPanel) {
+    return HandFixture::frameOf(label, surface);
   }
-  [[nodiscard]] std::vector<ui::SemanticsNode> withRole(ui::Role role, const std::string& surface) {
-    return desk::findElements(tree(surface),
-                              [role](const ui::SemanticsNode& node) { return node.role == role; });
+  [[nodiscard]] static std::ptrdiff_t drawn(const std::string& part,
+                                            const std::string& surface = mainPanel) {
+    return HandFixture::drawn(part, surface);
   }
-  /// Of the first element with the label; fails without one.
-  [[nodiscard]] ui::Rect frameOf(const std::string& label, const std::string& surface = mainPanel) {
-    const auto found = element(label, surface);
-    EXPECT_TRUE(found) << "no \"" << label << "\" in " << surface;
-    return found ? found->frame : ui::Rect{-1, -1, -1, -1};
+  bool press(const std::string& label, const std::string& surface = mainPanel) {
+    return ApplicationFixture::press(label, surface);
   }
+
   /// The text of the status pill of the panel with this title.
   [[nodiscard]] std::string pill(const std::string& title) {
     for (const ui::SemanticsNode& node : withRole(ui::Role::staticText, mainPanel)) {
@@ -94,10 +90,6 @@ class PanelFixture : public ApplicationFixture {
     return "no pill";
   }
 
-  /// The accessibility press of an enabled control; false when there is none.
-  bool press(const std::string& label, const std::string& surface = mainPanel) {
-    return ApplicationFixture::press(label, surface);
-  }
   void hover(const std::string& label, const std::string& surface = mainPanel) {
     if (const auto control = hand.control(label, surface)) {
       moveTo({CGRectGetMidX(control->frame), CGRectGetMidY(control->frame)});
@@ -107,24 +99,12 @@ class PanelFixture : public ApplicationFixture {
     return !hand.pick({label, settingsPanel}, item);
   }
 
-  /// One line for each drawing call.
-  [[nodiscard]] std::vector<std::string> drawing(const std::string& surface) {
-    return drawnLines(surface);
-  }
-  /// The number of lines of the drawing that contain `part`.
-  [[nodiscard]] std::ptrdiff_t drawn(const std::string& part,
-                                     const std::string& surface = mainPanel) {
-    const std::vector<std::string> lines = drawing(surface);
-    return std::ranges::count_if(
-        lines, [&](const std::string& line) { return line.find(part) != std::string::npos; });
-  }
-
   /// The product of the opacities of the layers around the first line of the drawing that contains
   /// `part`; 0 when no line does.
   [[nodiscard]] double opacityOf(const std::string& part, const std::string& surface = mainPanel) {
     const std::string mark = " opacity ";
     std::vector<std::pair<std::size_t, double>> layers;
-    for (const std::string& line : drawing(surface)) {
+    for (const std::string& line : drawnLines(surface)) {
       const std::size_t depth = line.find_first_not_of(' ');
       while (!layers.empty() && layers.back().first >= depth) {
         layers.pop_back();

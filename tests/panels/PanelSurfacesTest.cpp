@@ -14,7 +14,7 @@ class PanelSurfacesTest : public PanelFixture {
  protected:
   /// Exactly one call ends like this.
   void expectDrawn(const std::string& surface, const std::string& call) {
-    const std::vector<std::string> lines = drawing(surface);
+    const std::vector<std::string> lines = drawnLines(surface);
     EXPECT_EQ(
         std::ranges::count_if(lines, [&](const std::string& line) { return line.ends_with(call); }),
         1)

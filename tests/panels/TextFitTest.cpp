@@ -75,7 +75,7 @@ TEST_P(TextFitTest, NothingIsCutAndNothingLeavesThePanel) {
   state.reach(model());
   machine.advance(2);
 
-  expectAllInFull(tree(state.surface), drawing(state.surface));
+  expectAllInFull(tree(state.surface), drawnLines(state.surface));
 }
 
 /// A Mac's fonts and symbols are not the desk's: its text 5 % wider, its symbols 20 % taller.

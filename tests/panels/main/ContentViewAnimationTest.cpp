@@ -45,7 +45,7 @@ class ContentViewAnimationTest : public PanelFixture {
   }
   /// The red at the lower end of the pin button's fill, which changes from blue to red.
   [[nodiscard]] double redness() {
-    for (const std::string& line : drawing(mainPanel)) {
+    for (const std::string& line : drawnLines(mainPanel)) {
       const std::string lowerEnd = ", 1 rgba(";
       const std::size_t place = line.find(lowerEnd);
       if (line.find(" 610 38 r8 continuous)") != std::string::npos && place != std::string::npos) {

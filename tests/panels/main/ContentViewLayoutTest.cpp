@@ -48,7 +48,7 @@ TEST_F(ContentViewLayoutTest, TheRowsOfThePanelsAreSpacedEvenly) {
   openMain();
   const auto shapeTops = [this](const std::string& size) {
     std::vector<double> tops;
-    for (const std::string& line : drawing(mainPanel)) {
+    for (const std::string& line : drawnLines(mainPanel)) {
       const std::size_t start = line.find("fill rounded(45 ");
       if (start != std::string::npos && line.find(" " + size + " r") != std::string::npos) {
         tops.push_back(std::stod(line.substr(start + 16)));
@@ -76,7 +76,7 @@ TEST_F(ContentViewLayoutTest, CardsAreLevelInEveryScript) {
   openMain();
   const auto levels = [this](const std::string& mark, const std::string& after) {
     std::vector<std::string> found;
-    for (const std::string& line : drawing(mainPanel)) {
+    for (const std::string& line : drawnLines(mainPanel)) {
       const std::size_t start = line.find(mark);
       if (start != std::string::npos) {
         // The y coordinate, which follows the x coordinate.
