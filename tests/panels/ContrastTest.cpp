@@ -41,9 +41,7 @@ class ContrastTest : public PanelFixture {
   desk::DrawingResources resources;
 
   ContrastTest() {
-    EXPECT_FALSE(machine.displays.detach(3));
-    EXPECT_FALSE(machine.displays.detach(2));
-    EXPECT_FALSE(machine.displays.setFrame(1, CGRectMake(0, 0, 720, 620)));
+    useSmallDisplay();
     attach(2, CGRectMake(720, 0, 80, 620), "Side", false);
     machine.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, true);
     machine.advance(2);

@@ -18,9 +18,7 @@ class OutlineContrastTest : public PanelFixture,
                             public testing::WithParamInterface<std::tuple<bool, Paper, double>> {
  protected:
   OutlineContrastTest() {
-    EXPECT_FALSE(machine.displays.detach(3));
-    EXPECT_FALSE(machine.displays.detach(2));
-    EXPECT_FALSE(machine.displays.setFrame(1, CGRectMake(0, 0, 720, 620)));
+    useSmallDisplay();
     machine.advance(2);
     machine.appearance.isDark = std::get<0>(GetParam());
     machine.appearance.wallpaper = std::get<1>(GetParam());

@@ -40,6 +40,12 @@ class PanelFixture : public ApplicationFixture {
     EXPECT_FALSE(machine.displays.attach(display, number == 1));
   }
 
+  /// Leaves a single display that is little larger than the main panel.
+  void useSmallDisplay() {
+    EXPECT_FALSE(machine.displays.detach(3));
+    EXPECT_FALSE(machine.displays.detach(2));
+    EXPECT_FALSE(machine.displays.setFrame(1, CGRectMake(0, 0, 720, 620)));
+  }
   void detachAll() {
     while (!machine.displays.isEmpty()) {
       EXPECT_FALSE(machine.displays.detach(machine.displays.all().back().number));

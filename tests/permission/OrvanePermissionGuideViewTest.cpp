@@ -1,7 +1,9 @@
 // The guide's texts in its three states, and the transitions between them. tests/pictures has the
 // look of each state.
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <map>
 #include <numbers>
 #include <regex>
 #include <string>
@@ -205,6 +207,42 @@ TEST_F(OrvanePermissionGuideViewTest, WithReducedMotionTheCheckMarkAppearsAtOnce
   machine.advance(1);
   EXPECT_FALSE(window("guide")->content->hasFrames());
   EXPECT_FALSE(isDrawn("arrow.down"));
+}
+
+/// Notes the smallest width that each text was given.
+class WidthRecorder : public ui::TextMeasurer {
+ public:
+  ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
+                        ui::LineLimit /*limit*/) override {
+    const auto [entry, isNew] = widths.try_emplace(text, maximumWidth);
+    entry->second = std::min(entry->second, maximumWidth);
+    return {{{text, 10}}, font.size, font.size, false};
+  }
+
+  std::map<std::string, double> widths;
+};
+
+TEST_F(OrvanePermissionGuideViewTest, InstructionAndStatusKeepTheirDistancesFromTheEdges) {
+  WidthRecorder recorder;
+  ui::HostPlatform platform;
+  platform.text = &recorder;
+  ui::ViewHost host(std::move(platform));
+  host.setSize({OrvanePermissionGuideView::width, OrvanePermissionGuideView::height});
+  for (const auto state : {PermissionGuideState::checking, PermissionGuideState::timeout,
+                           PermissionGuideState::success}) {
+    host.setRoot([state](const ui::Environment& /*environment*/) -> ui::View {
+      return OrvanePermissionGuideView{.state = state, .onClose = [] {}};
+    });
+    host.layoutIfNeeded();
+  }
+  for (const auto& [beginning, distance] : {std::pair{"In Privacy", 16},
+                                            {"Waiting", 22},
+                                            {"Permission not", 22},
+                                            {"Permission E", 22}}) {
+    const auto entry = recorder.widths.lower_bound(beginning);
+    ASSERT_TRUE(entry != recorder.widths.end() && entry->first.starts_with(beginning));
+    EXPECT_EQ(entry->second, 360 - 2 * distance) << beginning;
+  }
 }
 
 }  // namespace

@@ -77,12 +77,6 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, OnAScreenThatIsTooSmallTheUppe
   expectGuideOrigin(390 - 360 - 20, 520 - 24 - 500 - 20);
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ItMayBeginLeftOfANarrowScreen) {
-  haveDisplay(CGRectMake(100, 0, 300, 900));
-  show();
-  EXPECT_EQ(guide().panel().frame().origin.x, 100 + 300 - 360 - 20);
-}
-
 TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAnyway) {
   EXPECT_FALSE(machine.displays.detach(1));
   EXPECT_FALSE(machine.displays.detach(2));

@@ -41,7 +41,6 @@ class OrvaneWindowControllerTest : public desk::WindowFixture {
     controller().showSettings(model);
     machine.runDue();
   }
-  std::shared_ptr<desk::DeskWindow> shown(const std::string& surface) { return window(surface); }
   [[nodiscard]] static CGPoint originOf(const appkit::Window& window) {
     return window.frame().origin;
   }
@@ -49,14 +48,15 @@ class OrvaneWindowControllerTest : public desk::WindowFixture {
     EXPECT_EQ(originOf(window).x, x);
     EXPECT_EQ(originOf(window).y, y);
   }
-  void expectPanelAttributes(const desk::DeskWindow& window, double width, double height) {
+  static void expectSize(CGSize size, CGSize expected) {
+    EXPECT_EQ(size.width, expected.width);
+    EXPECT_EQ(size.height, expected.height);
+  }
+  static void expectPanelAttributes(const desk::DeskWindow& window, CGSize size) {
     EXPECT_FALSE(window.isPanel());
-    EXPECT_EQ(window.frame.size.width, width);
-    EXPECT_EQ(window.frame.size.height, height);
-    EXPECT_EQ(window.minSize.width, width);
-    EXPECT_EQ(window.minSize.height, height);
-    EXPECT_EQ(window.maxSize.width, width);
-    EXPECT_EQ(window.maxSize.height, height);
+    expectSize(window.frame.size, size);
+    expectSize(window.minSize, size);
+    expectSize(window.maxSize, size);
     EXPECT_EQ(window.collectionBehavior, 6U);
     EXPECT_EQ(window.level, 0);
     EXPECT_TRUE(window.isMovableByBackground);
@@ -67,8 +67,7 @@ class OrvaneWindowControllerTest : public desk::WindowFixture {
     EXPECT_TRUE(window.canBecomeKey());
     EXPECT_TRUE(window.canBecomeMain());
     ASSERT_NE(window.content, nullptr);
-    EXPECT_EQ(window.content->frame().size.width, width);
-    EXPECT_EQ(window.content->frame().size.height, height);
+    expectSize(window.content->frame().size, size);
     EXPECT_EQ(window.content->cornerStyle, ui::CornerStyle::continuous);
     EXPECT_TRUE(window.content->masksToBounds);
     EXPECT_FALSE(window.content->respectsSafeArea);
@@ -82,23 +81,23 @@ class OrvaneWindowControllerTest : public desk::WindowFixture {
 
 TEST_F(OrvaneWindowControllerTest, TheMainPanelHasItsAttributes) {
   show();
-  const auto window = shown("main");
-  ASSERT_NE(window, nullptr);
-  expectPanelAttributes(*window, 700, 516);
-  EXPECT_EQ(window->styleMask, 4U);
-  EXPECT_EQ(window->title, "Orvane");
-  EXPECT_EQ(window->content->cornerRadius, 24);
+  const auto panel = window("main");
+  ASSERT_NE(panel, nullptr);
+  expectPanelAttributes(*panel, {700, 516});
+  EXPECT_EQ(panel->styleMask, 4U);
+  EXPECT_EQ(panel->title, "Orvane");
+  EXPECT_EQ(panel->content->cornerRadius, 24);
   EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::accessory);
 }
 
 TEST_F(OrvaneWindowControllerTest, TheSettingsPanelHasItsAttributes) {
   showSettings();
-  const auto window = shown("settings");
-  ASSERT_NE(window, nullptr);
-  expectPanelAttributes(*window, 420, 476);
-  EXPECT_EQ(window->styleMask, 0U);
-  EXPECT_EQ(window->title, "Orvane Settings");
-  EXPECT_EQ(window->content->cornerRadius, 28);
+  const auto panel = window("settings");
+  ASSERT_NE(panel, nullptr);
+  expectPanelAttributes(*panel, {420, 476});
+  EXPECT_EQ(panel->styleMask, 0U);
+  EXPECT_EQ(panel->title, "Orvane Settings");
+  EXPECT_EQ(panel->content->cornerRadius, 28);
 }
 
 TEST_F(OrvaneWindowControllerTest, TheMainPanelIsCentredOnTheMainScreenKeyAndActive) {
@@ -109,7 +108,7 @@ TEST_F(OrvaneWindowControllerTest, TheMainPanelIsCentredOnTheMainScreenKeyAndAct
   EXPECT_TRUE(server().focus.isActive());
 }
 
-TEST_F(OrvaneWindowControllerTest, AVisibleMainPanelStaysWhereItWasPut) {
+TEST_F(OrvaneWindowControllerTest, AVisibleMainPanelStaysInPlace) {
   show();
   appkit::Window(*controller().window()).setFrameOrigin({11, 12});
   show();
@@ -117,7 +116,7 @@ TEST_F(OrvaneWindowControllerTest, AVisibleMainPanelStaysWhereItWasPut) {
   EXPECT_EQ(mainContents, 1);
 }
 
-TEST_F(OrvaneWindowControllerTest, AClosedMainPanelIsMadeAnewAndCentred) {
+TEST_F(OrvaneWindowControllerTest, AClosedMainPanelIsCreatedAgainAndCentred) {
   show();
   const CGPoint centred = originOf(*controller().window());
   const appkit::Window first = *controller().window();
@@ -131,7 +130,7 @@ TEST_F(OrvaneWindowControllerTest, AClosedMainPanelIsMadeAnewAndCentred) {
   expectOrigin(*controller().window(), centred.x, centred.y);
 }
 
-TEST_F(OrvaneWindowControllerTest, ItIsBroughtToTheFrontAlsoOfAnInactiveApplication) {
+TEST_F(OrvaneWindowControllerTest, ItComesToTheFrontEvenOfAnInactiveApplication) {
   show();
   desk::SystemSettings::installOn(server()).open();
   ASSERT_EQ(order(), "OrvaneWindow SystemSettings");
@@ -145,12 +144,12 @@ TEST_F(OrvaneWindowControllerTest, TheSettingsAreAChildCentredOnTheMainPanel) {
   showSettings();
   const CGPoint main = originOf(*controller().window());
   expectOrigin(*controller().settingsWindow(), main.x + 350 - 210, main.y + 258 - 238);
-  EXPECT_EQ(shown("settings")->parent.lock(), shown("main"));
+  EXPECT_EQ(window("settings")->parent.lock(), window("main"));
   EXPECT_TRUE(controller().settingsWindow()->isKeyWindow());
   EXPECT_EQ(order(), "OrvaneWindow OrvaneSettingsWindow");
 }
 
-TEST_F(OrvaneWindowControllerTest, ShownTwiceTheSettingsAreOneChildAndCentredEachTime) {
+TEST_F(OrvaneWindowControllerTest, ShownAgainTheSettingsAreCentredAndStillOneChild) {
   showSettings();
   appkit::Window(*controller().window()).setFrameOrigin({40, 50});
   appkit::Window(*controller().settingsWindow()).setFrameOrigin({0, 0});
@@ -159,15 +158,7 @@ TEST_F(OrvaneWindowControllerTest, ShownTwiceTheSettingsAreOneChildAndCentredEac
   EXPECT_EQ(controller().window()->childWindows().size(), 1U);
 }
 
-TEST_F(OrvaneWindowControllerTest, TheSettingsMoveWithTheMainPanel) {
-  showSettings();
-  const CGPoint before = originOf(*controller().settingsWindow());
-  const CGPoint main = originOf(*controller().window());
-  appkit::Window(*controller().window()).setFrameOrigin({main.x + 7, main.y - 9});
-  expectOrigin(*controller().settingsWindow(), before.x + 7, before.y - 9);
-}
-
-TEST_F(OrvaneWindowControllerTest, AContentThatDismissesWhatItIsShownInClosesIt) {
+TEST_F(OrvaneWindowControllerTest, ContentCanDismissItsWindow) {
   std::function<void()> dismiss;
   controller().setContents({
       [](OrvaneModel&) { return content(); },
@@ -195,7 +186,7 @@ TEST_F(OrvaneWindowControllerTest, ClosingTheMainPanelClosesBoth) {
   EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::accessory);
 }
 
-TEST_F(OrvaneWindowControllerTest, TheLastOneToCloseSetsTheActivationPolicyAgain) {
+TEST_F(OrvaneWindowControllerTest, TheLastPanelToCloseRestoresTheActivationPolicy) {
   using appkit::ActivationPolicy;
   showSettings();
   machine.application.activationPolicy = ActivationPolicy::regular;
@@ -205,7 +196,7 @@ TEST_F(OrvaneWindowControllerTest, TheLastOneToCloseSetsTheActivationPolicyAgain
   EXPECT_EQ(machine.application.activationPolicy, ActivationPolicy::accessory);
 }
 
-TEST_F(OrvaneWindowControllerTest, TheSettingsOwnCloseLeavesTheMainPanel) {
+TEST_F(OrvaneWindowControllerTest, ClosingTheSettingsLeavesTheMainPanel) {
   showSettings();
   ASSERT_TRUE(closeSettings);
   closeSettings();
@@ -218,30 +209,19 @@ TEST_F(OrvaneWindowControllerTest, TheSettingsOwnCloseLeavesTheMainPanel) {
   EXPECT_EQ(controller().window()->childWindows().size(), 1U);
 }
 
-TEST_F(OrvaneWindowControllerTest, AMinimisedMainPanelIsBroughtBack) {
-  for (const bool isForSettings : {false, true}) {
-    show();
-    controller().miniaturizeWindow();
-    EXPECT_TRUE(controller().window()->isMiniaturized());
-    EXPECT_FALSE(controller().window()->isVisible());
-    if (isForSettings) {
-      showSettings();
-      EXPECT_TRUE(controller().settingsWindow()->isVisible());
-    } else {
-      show();
-    }
-    EXPECT_FALSE(controller().window()->isMiniaturized());
-    EXPECT_TRUE(controller().window()->isVisible());
-  }
-}
-
-TEST_F(OrvaneWindowControllerTest, AMainPanelThatWasNotVisibleIsCentredAgain) {
+TEST_F(OrvaneWindowControllerTest, AMinimisedMainPanelIsRestoredInTheCentre) {
   show();
   const CGPoint centred = originOf(*controller().window());
-  appkit::Window(*controller().window()).setFrameOrigin({11, 12});
-  controller().miniaturizeWindow();
-  show();
-  expectOrigin(*controller().window(), centred.x, centred.y);
+  for (const bool isForSettings : {false, true}) {
+    appkit::Window(*controller().window()).setFrameOrigin({11, 12});
+    controller().miniaturizeWindow();
+    EXPECT_FALSE(controller().window()->isVisible());
+    isForSettings ? showSettings() : show();
+    EXPECT_EQ(controller().settingsWindow().has_value(), isForSettings);
+    EXPECT_FALSE(controller().window()->isMiniaturized());
+    EXPECT_TRUE(controller().window()->isVisible());
+    expectOrigin(*controller().window(), centred.x, centred.y);
+  }
 }
 
 TEST_F(OrvaneWindowControllerTest, ContentAtTheTopTouchesTheTopEdge) {
@@ -251,7 +231,7 @@ TEST_F(OrvaneWindowControllerTest, ContentAtTheTopTouchesTheTopEdge) {
     ASSERT_TRUE(tree);
     ASSERT_FALSE(tree->children.empty());
     EXPECT_EQ(tree->children.front().frame.y, 0);
-    EXPECT_EQ(shown(surface)->contentFrame().size.height, shown(surface)->frame.size.height);
+    EXPECT_EQ(window(surface)->contentFrame().size.height, window(surface)->frame.size.height);
   }
 }
 
@@ -263,7 +243,7 @@ TEST_F(OrvaneWindowControllerTest, WithoutAScreenTheMainPanelKeepsItsOrigin) {
   expectOrigin(*controller().window(), 0, 0);
 }
 
-TEST_F(OrvaneWindowControllerTest, AChangeOfTheModelRedrawsTheContent) {
+TEST_F(OrvaneWindowControllerTest, AChangeOfTheModelRebuildsTheContentWhileThePanelExists) {
   int builds = 0;
   controller().setContents({[&](OrvaneModel&) -> appkit::HostingView::RootBuilder {
                               return [&](const ui::Environment&) -> ui::View {

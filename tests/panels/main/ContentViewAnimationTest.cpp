@@ -135,16 +135,5 @@ TEST_F(ContentViewAnimationTest, TheSelectionChangesAlongASpringHoweverItIsMade)
   expectSelectionToMove();
 }
 
-TEST_F(ContentViewAnimationTest, AnOpenPanelAtRestDrawsNothing) {
-  openMain();
-  machine.advance(2);
-  window(mainPanel)->content->host().takeDirtyRects();
-  for (int second = 0; second < 10; ++second) {
-    machine.advance(1);
-    EXPECT_FALSE(hasFrames());
-  }
-  EXPECT_TRUE(window(mainPanel)->content->host().takeDirtyRects().empty());
-}
-
 }  // namespace
 }  // namespace orvane

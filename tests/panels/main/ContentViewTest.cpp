@@ -161,19 +161,6 @@ TEST_F(ContentViewTest, APressOnACardSelectsItsDisplay) {
   EXPECT_EQ(drawn("symbol checkmark "), 1);
 }
 
-TEST_F(ContentViewTest, AChangedPermissionIsNoticedWithinASecond) {
-  machine.permission.setTrusted(false);
-  openMain();
-  ASSERT_FALSE(model().hasAccessibilityPermission().value());
-  machine.permission.setTrusted(true);
-  machine.advance(0.99);
-  machine.advance(0.02);
-  EXPECT_TRUE(model().hasAccessibilityPermission().value());
-  machine.permission.setTrusted(false);
-  machine.advance(1.01);
-  EXPECT_FALSE(model().hasAccessibilityPermission().value());
-}
-
 TEST_F(ContentViewTest, ThePanelsTimerEndsWithThePanel) {
   const std::size_t timers = machine.runLoop.timerCount();
   openMain();
