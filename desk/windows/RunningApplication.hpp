@@ -18,7 +18,7 @@ class RunningApplication {
   /// The user opens the running application again, which makes it active. Returns the delegate's
   /// answer, which has no effect: there is no document to create.
   bool reopen();
-  /// Whether a key meant something to the application, whose window had no use for it.
+  /// Offers the delegate a key that no window has handled; whether it handled it.
   bool performKeyEquivalent(const ui::KeyEvent& event);
   /// Calls the delegate's willTerminate; the process ends after the current task or handler.
   void terminate();

@@ -1,5 +1,5 @@
-// What holds for every text and control that the application shows: all specimens of the gallery,
-// in both languages and appearances, with and without Increase Contrast, are held against it.
+// The rules for every text and control of the application, checked on all specimens of the gallery
+// in both languages and appearances, with and without Increase Contrast.
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -28,7 +28,7 @@ constexpr std::array wallpapers{desk::Appearance::Wallpaper::white,
                                 desk::Appearance::Wallpaper::black,
                                 desk::Appearance::Wallpaper::busy};
 
-/// Paints everything but texts.
+/// Paints everything except texts.
 class TextlessCanvas : public desk::CairoCanvas {
  public:
   using desk::CairoCanvas::CairoCanvas;
@@ -36,22 +36,22 @@ class TextlessCanvas : public desk::CairoCanvas {
             ui::Point /*baseline*/) override {}
 };
 
-/// The first colour, of any alpha, over the second one, which is opaque.
+/// `color`, of any alpha, over the opaque `ground`.
 ui::Rgba over(const ui::Rgba& color, const ui::Rgba& ground) {
-  const auto mixed = [share = color.alpha](double above, double below) {
-    return above * share + below * (1 - share);
+  const auto mixed = [alpha = color.alpha](double above, double below) {
+    return above * alpha + below * (1 - alpha);
   };
   return {mixed(color.red, ground.red), mixed(color.green, ground.green),
           mixed(color.blue, ground.blue), 1};
 }
 
-/// From 0 for greys to 1.
+/// From 0, for greys, to 1.
 double chroma(const ui::Rgba& color) {
   return std::max({color.red, color.green, color.blue}) -
          std::min({color.red, color.green, color.blue});
 }
 
-/// In degrees; of a colour with a chroma.
+/// In degrees; meaningless for greys.
 double hue(const ui::Rgba& color) {
   const double degrees = std::atan2(std::sqrt(3) * (color.green - color.blue),
                                     2 * color.red - color.green - color.blue) *
@@ -59,44 +59,45 @@ double hue(const ui::Rgba& color) {
   return degrees < 0 ? degrees + 360 : degrees;
 }
 
-bool isWrittenInTheAccentColour(const ui::Rgba& color, const ui::Appearance& appearance) {
+bool isAccentColored(const ui::Rgba& color, const ui::Appearance& appearance) {
   const ui::Rgba accent = ui::standardColor(ui::SystemColor::accent, appearance);
   return chroma(color) > 0.3 && std::abs(hue(color) - hue(accent)) < 8;
 }
 
-/// White or black on a button that is filled with the accent colour or with red.
-bool isOnAColouredFill(const ui::Rgba& color, const ui::Rgba& ground) {
+/// White or black on a fill in the accent colour or red.
+bool isOnColoredFill(const ui::Rgba& color, const ui::Rgba& ground) {
   return chroma(color) < 0.01 && color.alpha == 1 && chroma(ground) > 0.35;
 }
 
 constexpr double textContrast = 4.5;
 constexpr double largeTextContrast = 3;
 
-/// Of what is not on a coloured fill.
-double leastContrast(const TextRun& run, const ui::Appearance& appearance) {
+/// For text that is not on a coloured fill.
+double minimumContrast(const TextRun& run, const ui::Appearance& appearance) {
   const bool isLarge = run.font.size >= 18 && run.font.weight >= ui::Weight::bold;
-  // The accent is the user's choice; who wants more contrast gets it.
-  const bool isTheUsers = isWrittenInTheAccentColour(run.color, appearance);
-  return isLarge || (isTheUsers && !appearance.increaseContrast) ? largeTextContrast : textContrast;
+  // The accent colour is the user's choice, so full contrast needs Increase Contrast.
+  const bool isUsersColor = isAccentColored(run.color, appearance);
+  return isLarge || (isUsersColor && !appearance.increaseContrast) ? largeTextContrast
+                                                                   : textContrast;
 }
 
-/// How small a control may be on both sides, in points.
-double leastSide(const ui::SemanticsNode& control) {
+/// The minimum width and height of a control, in points.
+double minimumSide(const ui::SemanticsNode& control) {
   static const std::vector<std::string> lights{"Close", "Minimise", "关闭", "最小化"};
-  // The system's own traffic lights and pop-up buttons are no larger; in the case of the lights
-  // the other controls of that name are.
+  // Traffic lights and pop-up buttons are as large as the system's. Other controls have the labels
+  // of the lights, too, but are larger.
   constexpr double lightSide = 14;
-  constexpr double largestLight = 1.1 * lightSide;
+  constexpr double hoveredLightSide = 1.1 * lightSide;
   constexpr double popUpButtonHeight = 22;
   if (std::ranges::find(lights, control.label) != lights.end() &&
-      control.frame.width <= largestLight + 0.01) {
+      control.frame.width <= hoveredLightSide + 0.01) {
     return lightSide;
   }
   return control.role == ui::Role::popUpButton ? popUpButtonHeight : 24;
 }
 
-/// Whether all pieces of the line that an ellipsis leaves are in the text, in their order.
-bool isCutFrom(const std::string& line, const std::string& text) {
+/// Whether `line` is `text` with parts replaced by an ellipsis.
+bool isTruncationOf(const std::string& line, const std::string& text) {
   std::size_t from = 0;
   std::size_t start = 0;
   while (start <= line.size()) {
@@ -118,8 +119,8 @@ double sharedHeight(const TextRun& first, const TextRun& second) {
          std::max(first.frame.y, second.frame.y);
 }
 
-/// Two lines of one paragraph: one begins or ends below the other, in the same font.
-bool isNextLine(const TextRun& first, const TextRun& second) {
+/// Whether they are adjacent lines of a paragraph: one below the other, in the same font.
+bool areAdjacentLines(const TextRun& first, const TextRun& second) {
   const double distance = std::abs(first.baseline - second.baseline);
   const bool isBelow = first.frame.x < second.frame.right() && second.frame.x < first.frame.right();
   return isBelow && first.font == second.font && first.color == second.color && distance > 0 &&
@@ -131,7 +132,7 @@ class GalleryRulesTest : public desk::MachineFixture,
  protected:
   GalleryRulesTest() { desk::addApplicationImages(resources.images); }
 
-  void expectAll(const Specimen& specimen, Interaction interaction) {
+  void expectRulesToHold(const Specimen& specimen, Interaction interaction) {
     const ui::ViewHost& host = specimen.host();
     TextCollector collector(resources.shaper, 2);
     host.paint(collector, {0, 0, host.size().width, host.size().height});
@@ -139,10 +140,10 @@ class GalleryRulesTest : public desk::MachineFixture,
     std::erase_if(runs, [](const TextRun& run) { return run.visible.isEmpty(); });
     nodes.clear();
     collect(host.semantics());
-    expectNoTextIsCutWithoutATooltip(host);
-    expectNothingIsCutOff(host);
+    expectTruncatedTextsToHaveATooltip(host);
+    expectNothingIsClipped(host);
     expectNoTextsOverlap();
-    expectTheBaselinesOfARowAreEqual();
+    expectEqualBaselinesInARow();
     expectControlsAreLargeEnough();
     expectTextsAreReadable(specimen, interaction);
     textCount += runs.size();
@@ -161,24 +162,24 @@ class GalleryRulesTest : public desk::MachineFixture,
     }
   }
 
-  void expectNoTextIsCutWithoutATooltip(const ui::ViewHost& host) const {
+  void expectTruncatedTextsToHaveATooltip(const ui::ViewHost& host) const {
     for (const TextRun& run : runs) {
-      const bool isSaidLikeThis = std::ranges::any_of(nodes, [&](const ui::SemanticsNode& node) {
+      const bool isSoInSemantics = std::ranges::any_of(nodes, [&](const ui::SemanticsNode& node) {
         return node.label.find(run.line) != std::string::npos ||
                node.value.find(run.line) != std::string::npos;
       });
-      if (run.line.find(ellipsis) == std::string::npos || isSaidLikeThis) {
+      if (run.line.find(ellipsis) == std::string::npos || isSoInSemantics) {
         continue;
       }
       const auto tooltip = host.tooltipAt(run.visible.center());
-      EXPECT_TRUE(tooltip && isCutFrom(run.line, tooltip->text) &&
+      EXPECT_TRUE(tooltip && isTruncationOf(run.line, tooltip->text) &&
                   tooltip->text.find(ellipsis) == std::string::npos)
-          << "\"" << run.line << "\" is cut, and its tooltip is \""
+          << "\"" << run.line << "\" is truncated, and its tooltip is \""
           << (tooltip ? tooltip->text : "") << "\"";
     }
   }
 
-  /// Whether it is in an area that scrolls from side to side, in sight or not.
+  /// Whether it is within the height of a horizontal scroll area, visible or not.
   [[nodiscard]] bool canBeScrolledTo(const ui::Rect& frame) const {
     return std::ranges::any_of(nodes, [&](const ui::SemanticsNode& node) {
       return node.role == ui::Role::scrollArea && node.frame.y <= frame.y &&
@@ -186,18 +187,18 @@ class GalleryRulesTest : public desk::MachineFixture,
     });
   }
 
-  void expectNothingIsCutOff(const ui::ViewHost& host) const {
+  void expectNothingIsClipped(const ui::ViewHost& host) const {
     for (const TextRun& run : runs) {
       EXPECT_TRUE(run.visible == run.frame || canBeScrolledTo(run.frame))
-          << "\"" << run.line << "\" is cut off";
+          << "\"" << run.line << "\" is clipped";
     }
-    // What is hovered or chosen is a little larger.
+    // Hovered and selected controls are slightly larger.
     const ui::Rect bounds =
         ui::Rect{0, 0, host.size().width, host.size().height}.inset(Specimen::margin - 3);
     for (const ui::SemanticsNode& node : nodes) {
       EXPECT_TRUE(!node.children.empty() || node.label.empty() ||
                   bounds.united(node.frame) == bounds || canBeScrolledTo(node.frame))
-          << "\"" << node.label << "\" is outside of what it belongs to";
+          << "\"" << node.label << "\" is outside of its specimen";
     }
   }
 
@@ -210,20 +211,21 @@ class GalleryRulesTest : public desk::MachineFixture,
     }
   }
 
-  [[nodiscard]] bool isOneLine(const TextRun& run) const {
-    return std::ranges::none_of(runs, [&](const TextRun& other) { return isNextLine(run, other); });
+  [[nodiscard]] bool isSingleLine(const TextRun& run) const {
+    return std::ranges::none_of(runs,
+                                [&](const TextRun& other) { return areAdjacentLines(run, other); });
   }
 
-  /// Of a row are texts of one size that stand beside each other by more than half of their height.
-  void expectTheBaselinesOfARowAreEqual() const {
+  /// A row consists of texts of one size that share more than half of their height.
+  void expectEqualBaselinesInARow() const {
     for (auto first = runs.begin(); first != runs.end(); ++first) {
       for (auto second = first + 1; second != runs.end(); ++second) {
         if (first->font.size != second->font.size ||
-            sharedHeight(*first, *second) <= first->frame.height / 2 || !isOneLine(*first) ||
-            !isOneLine(*second)) {
+            sharedHeight(*first, *second) <= first->frame.height / 2 || !isSingleLine(*first) ||
+            !isSingleLine(*second)) {
           continue;
         }
-        // What is drawn larger, as a chosen card is, lies between the pixels.
+        // Scaled texts, as on a selected card, are not aligned to pixels.
         EXPECT_LT(std::abs(first->baseline - second->baseline),
                   first->scale == 1 && second->scale == 1 ? 0.01 : 1.0)
             << "\"" << first->line << "\" beside \"" << second->line << "\"";
@@ -234,7 +236,7 @@ class GalleryRulesTest : public desk::MachineFixture,
   void expectControlsAreLargeEnough() const {
     for (const ui::SemanticsNode& node : nodes) {
       if (node.isControl()) {
-        EXPECT_GE(std::min(node.frame.width, node.frame.height), leastSide(node) - 0.001)
+        EXPECT_GE(std::min(node.frame.width, node.frame.height), minimumSide(node) - 0.001)
             << "\"" << node.label << "\"";
       }
     }
@@ -260,21 +262,21 @@ class GalleryRulesTest : public desk::MachineFixture,
           continue;
         }
         const ui::Point middle = run.visible.center();
-        const bool isOnAFill = isOnAColouredFill(run.color, behind.at(middle));
-        // A press is over soon, and its fill is fainter by its style.
-        const double wanted = !isOnAFill ? leastContrast(run, appearance)
-                              : appearance.increaseContrast && interaction != Interaction::pressed
-                                  ? textContrast
-                                  : largeTextContrast;
+        const bool isOnAFill = isOnColoredFill(run.color, behind.at(middle));
+        // A press is short, and its style makes the fill fainter.
+        const double required = !isOnAFill ? minimumContrast(run, appearance)
+                                : appearance.increaseContrast && interaction != Interaction::pressed
+                                    ? textContrast
+                                    : largeTextContrast;
         const double reached =
-            isOnAFill ? contrastOnTheDarkestFill(run, behind) : contrastWhereverItLies(run, behind);
-        EXPECT_GE(reached, wanted)
+            isOnAFill ? contrastOnTheDarkestFill(run, behind) : minimumContrastOver(run, behind);
+        EXPECT_GE(reached, required)
             << "\"" << run.line << "\" on wallpaper " << static_cast<int>(wallpaper);
       }
     }
   }
 
-  /// What is to be seen where no text is, one pixel to the point.
+  /// The picture without its texts, one pixel per point.
   struct Behind {
     cairo_surface_t* shown;
     cairo_surface_t* ground;
@@ -299,22 +301,22 @@ class GalleryRulesTest : public desk::MachineFixture,
     return contrast(luminance(over(ink, behind)), luminance(behind));
   }
 
-  static double contrastWhereverItLies(const TextRun& run, const Behind& behind) {
-    double least = 21;
+  static double minimumContrastOver(const TextRun& run, const Behind& behind) {
+    double minimum = 21;
     ui::Rgba last{-1, 0, 0, 0};
     for (double y = run.visible.y; y < run.visible.bottom(); ++y) {
       for (double x = run.visible.x; x < run.visible.right(); ++x) {
         const ui::Rgba here = behind.at({x, y});
         if (!(here == last)) {
-          least = std::min(least, contrastOn(run, here));
+          minimum = std::min(minimum, contrastOn(run, here));
           last = here;
         }
       }
     }
-    return least;
+    return minimum;
   }
 
-  /// A fill may be lit from above; its darker end counts.
+  /// Fills may be gradients; the darker end counts.
   [[nodiscard]] double contrastOnTheDarkestFill(const TextRun& run, const Behind& behind) const {
     const ui::Point middle = run.visible.center();
     ui::Rgba darkest = behind.at(middle);
@@ -324,7 +326,7 @@ class GalleryRulesTest : public desk::MachineFixture,
       }
       for (double y = node.frame.y; y < node.frame.bottom(); ++y) {
         const ui::Rgba here = behind.at({middle.x, y});
-        if (isOnAColouredFill(run.color, here) && luminance(here) < luminance(darkest)) {
+        if (isOnColoredFill(run.color, here) && luminance(here) < luminance(darkest)) {
           darkest = here;
         }
       }
@@ -338,7 +340,7 @@ class GalleryRulesTest : public desk::MachineFixture,
                                    static_cast<int>(std::ceil(size.height))));
   }
 
-  /// What specimens of this size lie on. It is kept, because most of them have a size in common.
+  /// The background of specimens of this size, cached, because many have the same size.
   cairo_surface_t* groundOf(ui::Size size, const ui::Appearance& appearance,
                             desk::Appearance::Wallpaper wallpaper) {
     desk::SurfacePointer& kept =
@@ -347,7 +349,7 @@ class GalleryRulesTest : public desk::MachineFixture,
       kept = blank(size);
       desk::CairoCanvas canvas(kept.get(), 1, resources);
       paintWallpaper(canvas.context(), wallpaper, appearance.dark, size.width, size.height);
-      // Beyond the specimen, so that no edge of the ground lies under it.
+      // Larger than the specimen, so that its edges are outside.
       const double inset = isWholeWindow(sheet.background) ? Specimen::margin : -Specimen::margin;
       paintBackground(canvas, sheet.background,
                       ui::Rect{0, 0, size.width, size.height}.inset(inset), appearance, text,
@@ -379,7 +381,7 @@ TEST_P(GalleryRulesTest, HoldForEveryTextAndControl) {
           appearance.dark = isDark;
           appearance.increaseContrast = increasesContrast;
           specimen.appear(appearance);
-          expectAll(specimen, item.interaction);
+          expectRulesToHold(specimen, item.interaction);
         }
       }
     }
@@ -387,7 +389,7 @@ TEST_P(GalleryRulesTest, HoldForEveryTextAndControl) {
   EXPECT_EQ(textCount > 0, sheet.hasTexts);
 }
 
-std::vector<std::string> namesOfSheets() {
+std::vector<std::string> sheetNames() {
   std::vector<std::string> names;
   for (const GallerySheet& sheet : gallerySheets()) {
     names.push_back(sheet.name);
@@ -395,13 +397,13 @@ std::vector<std::string> namesOfSheets() {
   return names;
 }
 
-std::string nameOfTest(const testing::TestParamInfo<std::string>& info) {
+std::string testName(const testing::TestParamInfo<std::string>& info) {
   std::string name = info.param;
   std::ranges::replace(name, '-', '_');
   return name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Sheets, GalleryRulesTest, testing::ValuesIn(namesOfSheets()), nameOfTest);
+INSTANTIATE_TEST_SUITE_P(Sheets, GalleryRulesTest, testing::ValuesIn(sheetNames()), testName);
 
 }  // namespace
 }  // namespace orvane::showroom

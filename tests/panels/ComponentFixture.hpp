@@ -1,7 +1,6 @@
-// One component of a panel, drawn by the recording canvas with the synthetic font.
+// ComponentFixture draws a component of a panel on the recording canvas with the synthetic font.
 #pragma once
 
-#include <cstdio>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -16,44 +15,49 @@ class ComponentFixture : public testing::Test {
     test.host->setSize(size);
     test.show(view);
   }
-  void appear(bool isDark, bool isContrastIncreased = false) {
+  void appear(bool isDark, bool increasesContrast = false) {
     ui::Appearance appearance;
     appearance.dark = isDark;
-    appearance.increaseContrast = isContrastIncreased;
+    appearance.increaseContrast = increasesContrast;
     test.host->setAppearance(appearance);
     test.host->layoutIfNeeded();
   }
+  /// These move or press the pointer, or take it away, and wait for the end of all animations.
   void hover(ui::Point place) {
+    leave();
     test.host->pointerMoved(place);
     rest();
   }
   void hold(ui::Point place) {
-    test.host->pointerMoved(place);
+    hover(place);
     test.host->pointerDown(place);
     rest();
   }
+  void leave() {
+    test.host->pointerUp({-1, -1});
+    test.host->pointerExited();
+    rest();
+  }
   void rest() {
-    test.host->layoutIfNeeded();
     for (int frame = 0; frame < 3; ++frame) {
-      now_ += 10;
-      test.at(now_);
+      advance(10);
     }
   }
-  /// Lays out what has changed, and goes on from there by so many seconds.
+  /// Updates the layout and lets time pass.
   void advance(double seconds) {
     test.host->layoutIfNeeded();
     now_ += seconds;
     test.at(now_);
   }
-  /// As the recording canvas writes it: "0 0 48 48".
-  [[nodiscard]] static std::string numbers(const ui::Rect& rect) {
-    char text[128];
-    std::snprintf(text, sizeof text, "%g %g %g %g", rect.x, rect.y, rect.width, rect.height);
-    return text;
-  }
   [[nodiscard]] std::string drawing() const { return test.drawing(); }
   [[nodiscard]] bool draws(const std::string& part) const {
     return drawing().find(part) != std::string::npos;
+  }
+  /// The number after the last `mark` of the drawing; -1 without one.
+  [[nodiscard]] double lastNumberAfter(const std::string& mark) const {
+    const std::string text = drawing();
+    const std::size_t place = text.rfind(mark);
+    return place == std::string::npos ? -1 : std::stod(text.substr(place + mark.size()));
   }
 
   ui::TestHost test;

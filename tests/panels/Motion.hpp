@@ -1,4 +1,4 @@
-// The motions of the panels in closed form, worked out apart from the code that runs them.
+// The curves of the panels' animations in closed form, independent of the code under test.
 #pragma once
 
 #include <cmath>
@@ -6,9 +6,9 @@
 
 namespace orvane::motion {
 
-/// How much of the way is done when a share of the time has passed; both run from 0 to 1.
+/// The progress when a fraction of the time has passed, both from 0 to 1.
 struct Moment {
-  double share;
+  double fraction;
   double progress;
 };
 
@@ -24,11 +24,11 @@ inline Moment easeOut(double parameter) {
 inline Moment easeInOut(double parameter) {
   const double early = 3 * (1 - parameter) * (1 - parameter) * parameter;
   const Moment end = easeOut(parameter);
-  return {0.42 * early + end.share, end.progress};
+  return {0.42 * early + end.fraction, end.progress};
 }
 
-/// How much of its way a spring has done so many seconds after it began at rest. Its mass is 1, its
-/// stiffness (2 pi / response)^2, its damping 4 pi fraction / response; the fraction is below 1.
+/// The progress of a spring that began at rest. Its mass is 1, its stiffness (2 pi / response)^2,
+/// its damping 4 pi fraction / response; the fraction is below 1.
 inline double spring(double response, double fraction, double seconds) {
   const double stiffness = std::pow(2 * std::numbers::pi / response, 2);
   const double decay = 2 * std::numbers::pi * fraction / response;

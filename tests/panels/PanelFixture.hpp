@@ -1,5 +1,5 @@
-// PanelFixture gives each test three displays with the whole application on them, opens the panels,
-// and reads off what they show.
+// PanelFixture gives each test three displays with the whole application on them, opens the panels
+// and reads what they show.
 #pragma once
 
 #include <algorithm>
@@ -15,8 +15,8 @@
 
 namespace orvane {
 
-/// The permission is there and nothing is guarded; no panel is open. The displays, all named: the
-/// built-in main one, one to its right and one above it.
+/// The permission is granted, the guard does not run, and no panel is open. The displays, all
+/// named: the built-in main one, one to its right and one above it.
 class PanelFixture : public ApplicationFixture {
  protected:
   static constexpr const char* mainPanel = "main";
@@ -40,6 +40,12 @@ class PanelFixture : public ApplicationFixture {
     EXPECT_FALSE(machine.displays.attach(display, number == 1));
   }
 
+  /// Leaves a single display that is little larger than the main panel.
+  void useSmallDisplay() {
+    EXPECT_FALSE(machine.displays.detach(3));
+    EXPECT_FALSE(machine.displays.detach(2));
+    EXPECT_FALSE(machine.displays.setFrame(1, CGRectMake(0, 0, 720, 620)));
+  }
   void detachAll() {
     while (!machine.displays.isEmpty()) {
       EXPECT_FALSE(machine.displays.detach(machine.displays.all().back().number));
@@ -47,7 +53,7 @@ class PanelFixture : public ApplicationFixture {
     machine.runDue();
   }
 
-  /// Opens the main panel and lets its entrance pass.
+  /// Opens the main panel and waits for the end of its entrance.
   void openMain() {
     application.reopen();
     machine.advance(1);
@@ -59,26 +65,28 @@ class PanelFixture : public ApplicationFixture {
     machine.advance(1);
   }
 
-  /// Every element of a panel, in the order of reading.
-  [[nodiscard]] std::vector<ui::SemanticsNode> elements(const std::string& surface) {
-    return desk::findElements(tree(surface), [](const ui::SemanticsNode&) { return true; });
+  // The main panel is the default surface.
+  [[nodiscard]] static std::optional<ui::SemanticsNode> element(
+      const std::string& label, const std::string& surface = mainPanel) {
+    return HandFixture::element(label, surface);
   }
-  [[nodiscard]] std::optional<ui::SemanticsNode> element(const std::string& label,
-                                                         const std::string& surface = mainPanel) {
-    return desk::findElement(tree(surface),
-                             [&](const ui::SemanticsNode& node) { return node.label == label; });
+  [[nodiscard]] static std::optional<ui::SemanticsNode> element(
+      ui::Role role, const std::string& label, const std::string& surface = mainPanel) {
+    return HandFixture::element(role, label, surface);
   }
-  [[nodiscard]] std::vector<ui::SemanticsNode> withRole(ui::Role role, const std::string& surface) {
-    return desk::findElements(tree(surface),
-                              [role](const ui::SemanticsNode& node) { return node.role == role; });
+  [[nodiscard]] static ui::Rect frameOf(const std::string& label,
+                                        const std::string& surface = mainPanel) {
+    return HandFixture::frameOf(label, surface);
   }
-  /// The frame of the element, or one that no element has.
-  [[nodiscard]] ui::Rect frameOf(const std::string& label, const std::string& surface = mainPanel) {
-    const auto found = element(label, surface);
-    EXPECT_TRUE(found) << "no \"" << label << "\" in " << surface;
-    return found ? found->frame : ui::Rect{-1, -1, -1, -1};
+  [[nodiscard]] static std::ptrdiff_t drawn(const std::string& part,
+                                            const std::string& surface = mainPanel) {
+    return HandFixture::drawn(part, surface);
   }
-  /// What the status pill of the panel with this title says.
+  bool press(const std::string& label, const std::string& surface = mainPanel) {
+    return ApplicationFixture::press(label, surface);
+  }
+
+  /// The text of the status pill of the panel with this title.
   [[nodiscard]] std::string pill(const std::string& title) {
     for (const ui::SemanticsNode& node : withRole(ui::Role::staticText, mainPanel)) {
       if (node.label == title && !node.value.empty()) {
@@ -88,10 +96,6 @@ class PanelFixture : public ApplicationFixture {
     return "no pill";
   }
 
-  /// The accessibility press of an enabled control; false when there is none.
-  bool press(const std::string& label, const std::string& surface = mainPanel) {
-    return ApplicationFixture::press(label, surface);
-  }
   void hover(const std::string& label, const std::string& surface = mainPanel) {
     if (const auto control = hand.control(label, surface)) {
       moveTo({CGRectGetMidX(control->frame), CGRectGetMidY(control->frame)});
@@ -101,24 +105,12 @@ class PanelFixture : public ApplicationFixture {
     return !hand.pick({label, settingsPanel}, item);
   }
 
-  /// All that the panel draws now, one line for each call.
-  [[nodiscard]] std::vector<std::string> drawing(const std::string& surface) {
-    return drawnLines(surface);
-  }
-  /// How many lines of the drawing have the part in them.
-  [[nodiscard]] std::ptrdiff_t drawn(const std::string& part,
-                                     const std::string& surface = mainPanel) {
-    const std::vector<std::string> lines = drawing(surface);
-    return std::ranges::count_if(
-        lines, [&](const std::string& line) { return line.find(part) != std::string::npos; });
-  }
-
-  /// How opaque the layers around it leave the first line of the drawing with the part in it; 0
-  /// when there is no such line.
+  /// The product of the opacities of the layers around the first line of the drawing that contains
+  /// `part`; 0 when no line does.
   [[nodiscard]] double opacityOf(const std::string& part, const std::string& surface = mainPanel) {
     const std::string mark = " opacity ";
     std::vector<std::pair<std::size_t, double>> layers;
-    for (const std::string& line : drawing(surface)) {
+    for (const std::string& line : drawnLines(surface)) {
       const std::size_t depth = line.find_first_not_of(' ');
       while (!layers.empty() && layers.back().first >= depth) {
         layers.pop_back();

@@ -1,4 +1,4 @@
-// The fonts of the assembled panels, and the colours they are written in, as one table for each.
+// The font and colour of every text and symbol of the panels.
 #include <string>
 #include <vector>
 
@@ -10,7 +10,7 @@ namespace orvane {
 namespace {
 
 struct Written {
-  /// As the recording canvas begins its line.
+  /// The beginning of the line on the recording canvas.
   const char* text;
   /// Size and weight.
   const char* font;
@@ -20,17 +20,19 @@ struct Written {
 constexpr const char* primary = "0 0 0 0.85";
 constexpr const char* secondary = "0 0 0 0.6";
 constexpr const char* accent = "0 0.478 1 1";
-/// A little darker, to be read on a veil of itself.
+/// Darker, for contrast on a veil of the accent colour.
 constexpr const char* accentOnPill = "0 0.459 0.959 1";
 constexpr const char* white = "1 1 1 1";
-/// The primary colour at 0.82.
+/// The primary colour at an opacity of 0.82.
 constexpr const char* secondaryButton = "0 0 0 0.697";
-/// The primary colour at 0.72.
+/// The primary colour at an opacity of 0.72.
 constexpr const char* statement = "0 0 0 0.612";
 
 class PanelFontsTest : public PanelFixture {
  protected:
+  /// After the end of all animations.
   void expectWritten(const std::string& surface, const std::vector<Written>& table) {
+    machine.advance(1);
     for (const Written& line : table) {
       const std::string start = std::string(line.text) + " " + line.font + " rgba(" + line.color;
       EXPECT_EQ(drawn(start + ")", surface), 1) << start;
@@ -40,7 +42,6 @@ class PanelFontsTest : public PanelFixture {
 
 TEST_F(PanelFontsTest, TheMainPanelAtRest) {
   openMain();
-  machine.advance(1);
   expectWritten(mainPanel,
                 {{"text \"Orvane\"", "18/600", primary},
                  {"symbol gearshape", "18/600", "0.16 0.22 0.34 1"},
@@ -66,7 +67,6 @@ TEST_F(PanelFontsTest, TheMainPanelAtRest) {
 TEST_F(PanelFontsTest, TheMainPanelWhileItPrevents) {
   openMain();
   ASSERT_TRUE(press("Prevent Dock Pop-Up"));
-  machine.advance(1);
   expectWritten(mainPanel, {{"text \"the Dock”\"", "13/400", secondary},
                             {"text \"Enabled\"", "13/700", accentOnPill},
                             {"symbol eye", "13/700", secondaryButton},
@@ -78,7 +78,6 @@ TEST_F(PanelFontsTest, TheMainPanelWhileItPrevents) {
 TEST_F(PanelFontsTest, TheTrafficLightsUnderThePointer) {
   openMain();
   hover("Close");
-  machine.advance(1);
   expectWritten(mainPanel, {{"symbol xmark", "8.5/800", "0.38 0.04 0.04 1"},
                             {"symbol minus", "8.5/800", "0.56 0.34 0 1"}});
 }
@@ -91,7 +90,6 @@ TEST_F(PanelFontsTest, TheSymbolInPlaceOfTheApplicationsIcon) {
 
 TEST_F(PanelFontsTest, TheSettingsPanel) {
   openSettings();
-  machine.advance(1);
   expectWritten(settingsPanel, {{"symbol gearshape.fill", "18/600", white},
                                 {"text \"Settings\"", "17/700", primary},
                                 {"symbol xmark", "12/700", secondary},

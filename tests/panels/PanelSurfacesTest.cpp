@@ -1,4 +1,4 @@
-// The surfaces of the assembled panels: the windows' own, the settings' header and its cards.
+// The surfaces of the panels, as drawn in their windows: the only oracle of their palettes.
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -12,9 +12,9 @@ namespace {
 
 class PanelSurfacesTest : public PanelFixture {
  protected:
-  /// Exactly one call ends like this.
+  /// That exactly one line ends with `call`.
   void expectDrawn(const std::string& surface, const std::string& call) {
-    const std::vector<std::string> lines = drawing(surface);
+    const std::vector<std::string> lines = drawnLines(surface);
     EXPECT_EQ(
         std::ranges::count_if(lines, [&](const std::string& line) { return line.ends_with(call); }),
         1)
@@ -22,7 +22,7 @@ class PanelSurfacesTest : public PanelFixture {
   }
 };
 
-TEST_F(PanelSurfacesTest, TheMainWindowIsRoundAndRimmedAndLitFromAbove) {
+TEST_F(PanelSurfacesTest, TheMainWindowHasItsGradientRimAndHighlight) {
   const std::string form = "rounded(0 0 700 516 r24 continuous)";
   openMain();
   expectDrawn(mainPanel, "clip " + form);
@@ -43,13 +43,13 @@ TEST_F(PanelSurfacesTest, TheMainWindowIsRoundAndRimmedAndLitFromAbove) {
               "0.5 rgba(1 1 1 0.035), 1 rgba(1 1 1 0))");
 }
 
-TEST_F(PanelSurfacesTest, TheIconOfTheApplicationCastsAShadowInTheAccentColour) {
+TEST_F(PanelSurfacesTest, TheApplicationsIconHasAShadowInTheAccentColour) {
   openMain();
   expectDrawn(mainPanel, "shadow rgba(0 0.478 1 0.22) radius 4 offset 0 1");
   expectDrawn(mainPanel, " 22 22 22 r5 continuous)");
 }
 
-TEST_F(PanelSurfacesTest, TheImagesOfTheDisplaysAreOfOneSizeAndCastAFaintShadow) {
+TEST_F(PanelSurfacesTest, TheImagesOfTheDisplaysHaveOneSizeAndAFaintShadow) {
   openMain();
   EXPECT_EQ(drawn(" 122 70)"), 3);
   EXPECT_EQ(drawn(" opacity 1 shadow rgba(0 0 0 0.06) radius "), 3);
@@ -73,7 +73,7 @@ TEST_F(PanelSurfacesTest, TheSettingsWindowAndItsHeaderHaveTheirGradients) {
               "0.5 rgba(0.03 0.47 0.98 0.12), 1 rgba(0.02 0.62 0.64 0.08))");
 }
 
-TEST_F(PanelSurfacesTest, ADividerClosesTheHeaderOfTheSettings) {
+TEST_F(PanelSurfacesTest, TheHeaderOfTheSettingsEndsWithADivider) {
   openSettings();
   const std::string line = "fill rectangle(0 45 420 1) gradient(0 45.5 to 420 45.5, ";
   expectDrawn(settingsPanel, line + "0 rgba(1 1 1 0.72), 1 rgba(0.03 0.47 0.98 0.16))");
@@ -81,7 +81,7 @@ TEST_F(PanelSurfacesTest, ADividerClosesTheHeaderOfTheSettings) {
   expectDrawn(settingsPanel, line + "0 rgba(1 1 1 0.12), 1 rgba(0.03 0.47 0.98 0.22))");
 }
 
-TEST_F(PanelSurfacesTest, TheTileInTheHeaderOfTheSettingsRunsFromBlueToIndigo) {
+TEST_F(PanelSurfacesTest, TheTileInTheHeaderOfTheSettingsIsBlueToIndigo) {
   openSettings();
   const std::string tile = "(18 8 30 30 r8 continuous) ";
   expectDrawn(settingsPanel,

@@ -1,5 +1,5 @@
-// In both languages and in every state all texts of the panels are there in full: none is cut, none
-// leaves its panel, none lies on another.
+// In both languages and in every state, no text of the panels is truncated, leaves its panel or
+// overlaps another.
 #include <algorithm>
 #include <functional>
 #include <optional>
@@ -23,23 +23,23 @@ struct State {
   std::string name;
   std::string surface;
   OrvaneLanguage::Value language;
-  std::function<void(OrvaneModel&)> reach;
+  std::function<void(OrvaneModel&)> enter;
 };
 
 std::ostream& operator<<(std::ostream& stream, const State& state) {
   return stream << state.name;
 }
 
-/// What is read or pressed, without what lies in it. What is in the picker may be scrolled away.
-void collectPieces(const ui::SemanticsNode& node, std::vector<ui::SemanticsNode>& pieces) {
+/// The leaves of the tree, except in scroll areas, where they may be out of sight.
+void collectLeaves(const ui::SemanticsNode& node, std::vector<ui::SemanticsNode>& leaves) {
   if (node.role == ui::Role::scrollArea) {
     return;
   }
   if (node.children.empty()) {
-    pieces.push_back(node);
+    leaves.push_back(node);
   }
   for (const ui::SemanticsNode& child : node.children) {
-    collectPieces(child, pieces);
+    collectLeaves(child, leaves);
   }
 }
 
@@ -47,38 +47,38 @@ void expectAllInFull(const ui::SemanticsNode& root, const std::vector<std::strin
   for (const std::string& line : drawing) {
     EXPECT_EQ(line.find("…"), std::string::npos) << line;
   }
-  // Where the window's corners are round there is nothing to read, so the edges do as bounds.
+  // The rounded corners do not matter, as no text is near them.
   constexpr double margin = 8;
   const ui::Rect bounds = root.frame.inset(margin);
-  std::vector<ui::SemanticsNode> pieces;
-  collectPieces(root, pieces);
-  EXPECT_GT(pieces.size(), 10U);
-  for (std::size_t first = 0; first < pieces.size(); ++first) {
-    const ui::Rect& frame = pieces[first].frame;
+  std::vector<ui::SemanticsNode> leaves;
+  collectLeaves(root, leaves);
+  EXPECT_GT(leaves.size(), 10U);
+  for (std::size_t first = 0; first < leaves.size(); ++first) {
+    const ui::Rect& frame = leaves[first].frame;
     EXPECT_TRUE(frame.x >= bounds.x && frame.y >= bounds.y && frame.right() <= bounds.right() &&
                 frame.bottom() <= bounds.bottom())
-        << pieces[first].label << " at " << frame.x << " " << frame.y << " " << frame.width << " "
+        << leaves[first].label << " at " << frame.x << " " << frame.y << " " << frame.width << " "
         << frame.height;
-    for (std::size_t second = first + 1; second < pieces.size(); ++second) {
-      EXPECT_TRUE(frame.intersection(pieces[second].frame).isEmpty())
-          << pieces[first].label << " lies on " << pieces[second].label;
+    for (std::size_t second = first + 1; second < leaves.size(); ++second) {
+      EXPECT_TRUE(frame.intersection(leaves[second].frame).isEmpty())
+          << leaves[first].label << " overlaps " << leaves[second].label;
     }
   }
 }
 
 class TextFitTest : public PanelFixture, public testing::WithParamInterface<State> {};
 
-TEST_P(TextFitTest, NothingIsCutAndNothingLeavesThePanel) {
+TEST_P(TextFitTest, NoTextIsTruncatedOrLeavesThePanel) {
   const State& state = GetParam();
   openSettings();
   model().setAppLanguage(state.language);
-  state.reach(model());
+  state.enter(model());
   machine.advance(2);
 
-  expectAllInFull(tree(state.surface), drawing(state.surface));
+  expectAllInFull(tree(state.surface), drawnLines(state.surface));
 }
 
-/// A Mac's fonts and symbols are not the desk's: its text 5 % wider, its symbols 20 % taller.
+/// Text 5 % wider than on the desk, as with the fonts of a Mac, whose symbols are 20 % taller.
 class WiderText : public ui::TextMeasurer {
  public:
   ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
@@ -95,10 +95,10 @@ class WiderText : public ui::TextMeasurer {
   desk::PangoTextMeasurer measurer_;
 };
 
-class RoomInTheSettings : public PanelFixture,
-                          public testing::WithParamInterface<OrvaneLanguage::Value> {};
+class SettingsRoomTest : public PanelFixture,
+                         public testing::WithParamInterface<OrvaneLanguage::Value> {};
 
-TEST_P(RoomInTheSettings, DoesForWiderTextAndTallerSymbols) {
+TEST_P(SettingsRoomTest, SufficesForWiderTextAndTallerSymbols) {
   openSettings();
   model().setAppLanguage(GetParam());
   WiderText text;
@@ -113,7 +113,7 @@ TEST_P(RoomInTheSettings, DoesForWiderTextAndTallerSymbols) {
   ui::ViewHost host(std::move(platform));
   host.setSize({OrvaneSettingsWindow::contentSize.width, OrvaneSettingsWindow::contentSize.height});
   host.setRoot([this](const ui::Environment&) {
-    return ui::View(OrvaneSettingsView{&model(), {}});
+    return ui::View(OrvaneSettingsView{.model = &model(), .onClose = {}});
   });
   host.tick(0);
   host.tick(1);
@@ -121,15 +121,14 @@ TEST_P(RoomInTheSettings, DoesForWiderTextAndTallerSymbols) {
   host.paint(canvas, {0, 0, OrvaneSettingsWindow::contentSize.width,
                       OrvaneSettingsWindow::contentSize.height});
   expectAllInFull(host.semantics(), canvas.lines());
-  // The cards have their margin, and the header its height.
-  std::vector<ui::SemanticsNode> pieces;
-  collectPieces(host.semantics(), pieces);
+  std::vector<ui::SemanticsNode> leaves;
+  collectLeaves(host.semantics(), leaves);
   const auto frameOf = [&](const std::string& label) {
-    const auto found = std::ranges::find(pieces, label, &ui::SemanticsNode::label);
-    EXPECT_NE(found, pieces.end()) << label;
-    return found == pieces.end() ? ui::Rect{} : found->frame;
+    const auto found = std::ranges::find(leaves, label, &ui::SemanticsNode::label);
+    EXPECT_NE(found, leaves.end()) << label;
+    return found == leaves.end() ? ui::Rect{} : found->frame;
   };
-  // Above and below the cards are 10 points, and within them 6.
+  // 10 points around the cards and 6 in them.
   constexpr double margin = 10 + 6;
   const ui::Rect close = frameOf(model().localized("Close", "关闭"));
   EXPECT_GE(close.y, 6);
@@ -139,35 +138,35 @@ TEST_P(RoomInTheSettings, DoesForWiderTextAndTallerSymbols) {
             OrvaneSettingsWindow::contentSize.height - margin);
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, RoomInTheSettings,
+INSTANTIATE_TEST_SUITE_P(Languages, SettingsRoomTest,
                          testing::Values(OrvaneLanguage::english, OrvaneLanguage::chinese));
 
-void stay(OrvaneModel& /*model*/) {}
+void doNothing(OrvaneModel& /*model*/) {}
 void pin(OrvaneModel& model) {
   model.toggleSelectedDisplayLock();
 }
 void prevent(OrvaneModel& model) {
   model.toggleHideDockOnAllDisplays();
 }
-void askForALoginItemOnADiskImage(OrvaneModel& model) {
+void requestLoginItemOnDiskImage(OrvaneModel& model) {
   desk::Machine::current().bundle.isOnReadOnlyVolume = true;
   model.setLaunchAtLoginEnabled(true);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     States, TextFitTest,
-    testing::Values(State{"English, at rest", "main", OrvaneLanguage::english, stay},
+    testing::Values(State{"English, at rest", "main", OrvaneLanguage::english, doNothing},
                     State{"English, pinned", "main", OrvaneLanguage::english, pin},
                     State{"English, preventing", "main", OrvaneLanguage::english, prevent},
-                    State{"Chinese, at rest", "main", OrvaneLanguage::chinese, stay},
+                    State{"Chinese, at rest", "main", OrvaneLanguage::chinese, doNothing},
                     State{"Chinese, pinned", "main", OrvaneLanguage::chinese, pin},
                     State{"Chinese, preventing", "main", OrvaneLanguage::chinese, prevent},
-                    State{"English settings", "settings", OrvaneLanguage::english, stay},
-                    State{"Chinese settings", "settings", OrvaneLanguage::chinese, stay},
+                    State{"English settings", "settings", OrvaneLanguage::english, doNothing},
+                    State{"Chinese settings", "settings", OrvaneLanguage::chinese, doNothing},
                     State{"English settings on a disk image", "settings", OrvaneLanguage::english,
-                          askForALoginItemOnADiskImage},
+                          requestLoginItemOnDiskImage},
                     State{"Chinese settings on a disk image", "settings", OrvaneLanguage::chinese,
-                          askForALoginItemOnADiskImage}));
+                          requestLoginItemOnDiskImage}));
 
 }  // namespace
 }  // namespace orvane

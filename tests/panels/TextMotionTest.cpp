@@ -1,5 +1,5 @@
-// In every frame of every change of the panels, no text overlaps another, and what has the same
-// place before and after a change keeps it during the change.
+// In every frame of every animation of the panels, no text overlaps another, and texts and elements
+// that have the same place before and after it do not move during it.
 #include <algorithm>
 #include <cmath>
 #include <functional>
@@ -14,9 +14,9 @@
 namespace orvane {
 namespace {
 
-/// Two for each frame of the display.
+/// Half a frame of the display.
 constexpr double step = 1.0 / 120;
-/// Longer than any motion of the panels.
+/// Longer than any animation of the panels.
 constexpr int stepCount = 84;
 
 bool isSame(const ui::Rect& first, const ui::Rect& second) {
@@ -27,7 +27,7 @@ bool isSame(const ui::Rect& first, const ui::Rect& second) {
 }
 
 /// By more than half a point in both directions.
-bool lieOnOneAnother(const ui::Rect& first, const ui::Rect& second) {
+bool overlap(const ui::Rect& first, const ui::Rect& second) {
   const ui::Rect common = first.intersection(second);
   return common.width > 0.5 && common.height > 0.5;
 }
@@ -40,14 +40,14 @@ bool isSameText(const TextRun& first, const TextRun& second) {
 class TextMotionTest : public PanelFixture,
                        public testing::WithParamInterface<OrvaneLanguage::Value> {
  protected:
-  struct Sight {
+  struct Frame {
     std::vector<TextRun> texts;
     std::vector<ui::SemanticsNode> elements;
   };
 
   TextMotionTest() { model().setAppLanguage(GetParam()); }
 
-  [[nodiscard]] Sight look(const std::string& surface) {
+  [[nodiscard]] Frame capture(const std::string& surface) {
     const auto shown = window(surface);
     if (shown == nullptr) {
       ADD_FAILURE() << "no " << surface;
@@ -60,30 +60,30 @@ class TextMotionTest : public PanelFixture,
     return {collector.runs(), elements(surface)};
   }
 
-  static void expectApart(const Sight& sight) {
+  static void expectApart(const Frame& frame) {
     constexpr double invisible = 0.02;
-    std::vector<TextRun> visible = sight.texts;
+    std::vector<TextRun> visible = frame.texts;
     std::erase_if(visible, [](const TextRun& run) { return run.opacity <= invisible; });
     for (std::size_t first = 0; first < visible.size(); ++first) {
       for (std::size_t second = first + 1; second < visible.size(); ++second) {
-        EXPECT_FALSE(lieOnOneAnother(visible[first].frame, visible[second].frame))
+        EXPECT_FALSE(overlap(visible[first].frame, visible[second].frame))
             << "\"" << visible[first].line << "\", " << visible[first].opacity << ", on \""
             << visible[second].line << "\", " << visible[second].opacity;
       }
     }
-    for (std::size_t first = 0; first < sight.elements.size(); ++first) {
-      for (std::size_t second = first + 1; second < sight.elements.size(); ++second) {
-        const ui::SemanticsNode& one = sight.elements[first];
-        const ui::SemanticsNode& other = sight.elements[second];
+    for (std::size_t first = 0; first < frame.elements.size(); ++first) {
+      for (std::size_t second = first + 1; second < frame.elements.size(); ++second) {
+        const ui::SemanticsNode& one = frame.elements[first];
+        const ui::SemanticsNode& other = frame.elements[second];
         if (one.children.empty() && other.children.empty()) {
-          EXPECT_FALSE(lieOnOneAnother(one.frame, other.frame)) << one.label << " " << other.label;
+          EXPECT_FALSE(overlap(one.frame, other.frame)) << one.label << " " << other.label;
         }
       }
     }
   }
 
-  /// What is the same in the first and the last sight is so in the one between them.
-  static void expectAtRest(const Sight& first, const Sight& between, const Sight& last) {
+  /// That what is equal in the first and the last frame is equal in the one between them.
+  static void expectAtRest(const Frame& first, const Frame& between, const Frame& last) {
     for (const TextRun& run : first.texts) {
       const auto isThere = [&run](const TextRun& other) {
         return isSameText(run, other) && run.opacity == other.opacity;
@@ -102,39 +102,39 @@ class TextMotionTest : public PanelFixture,
     }
   }
 
-  /// What is seen before a change, and then in every frame of it.
-  [[nodiscard]] std::vector<Sight> watch(const std::string& surface,
+  /// The frame before a change and those of its animation.
+  [[nodiscard]] std::vector<Frame> watch(const std::string& surface,
                                          const std::function<void()>& change) {
-    std::vector<Sight> sights{look(surface)};
+    std::vector<Frame> frames{capture(surface)};
     change();
     machine.runDue();
-    sights.push_back(look(surface));
+    frames.push_back(capture(surface));
     for (int count = 0; count < stepCount; ++count) {
       machine.advance(step);
-      sights.push_back(look(surface));
+      frames.push_back(capture(surface));
     }
-    EXPECT_FALSE(window(surface)->content->hasFrames()) << "it has come to rest";
-    return sights;
+    EXPECT_FALSE(window(surface)->content->hasFrames()) << "the animation has ended";
+    return frames;
   }
 
   void follow(const std::string& surface, const std::string& name,
               const std::function<void()>& change) {
-    const std::vector<Sight> sights = watch(surface, change);
-    for (std::size_t index = 1; index < sights.size() && !HasFailure(); ++index) {
+    const std::vector<Frame> frames = watch(surface, change);
+    for (std::size_t index = 1; index < frames.size() && !HasFailure(); ++index) {
       SCOPED_TRACE(name + ", frame " + std::to_string(index - 1));
-      expectApart(sights[index]);
-      expectAtRest(sights.front(), sights[index], sights.back());
+      expectApart(frames[index]);
+      expectAtRest(frames.front(), frames[index], frames.back());
     }
   }
   void follow(const std::string& name, const std::function<void()>& change) {
     follow(mainPanel, name, change);
   }
-  /// For what turns round on its way and so is not at rest, although it ends as it began.
-  void followTurns(const std::string& name, const std::function<void()>& change) {
-    const std::vector<Sight> sights = watch(mainPanel, change);
-    for (std::size_t index = 1; index < sights.size() && !HasFailure(); ++index) {
+  /// For changes that are reversed: they end as they began, but do move.
+  void followReversal(const std::string& name, const std::function<void()>& change) {
+    const std::vector<Frame> frames = watch(mainPanel, change);
+    for (std::size_t index = 1; index < frames.size() && !HasFailure(); ++index) {
       SCOPED_TRACE(name + ", frame " + std::to_string(index - 1));
-      expectApart(sights[index]);
+      expectApart(frames[index]);
     }
   }
 
@@ -156,23 +156,23 @@ TEST_P(TextMotionTest, OfTheModesInEveryOrder) {
   followModes();
 }
 
-TEST_P(TextMotionTest, OfModesThatChangeBackOnTheirWay) {
+TEST_P(TextMotionTest, OfModesThatAreReversedDuringTheirAnimation) {
   openMain();
   for (const double moment : {0.03, 0.07, 0.1, 0.11, 0.12, 0.16, 0.21}) {
     SCOPED_TRACE(moment);
-    followTurns("pin and back", [&] {
+    followReversal("pin and back", [&] {
       pin();
       machine.advance(moment);
       pin();
     });
-    followTurns("prevent and back", [&] {
+    followReversal("prevent and back", [&] {
       prevent();
       machine.advance(moment);
       prevent();
     });
     pin();
     machine.advance(1);
-    followTurns("from pinned to prevented and back", [&] {
+    followReversal("from pinned to prevented and back", [&] {
       prevent();
       machine.advance(moment);
       pin();
@@ -186,15 +186,15 @@ TEST_P(TextMotionTest, OfModesThatChangeBackOnTheirWay) {
   }
 }
 
-TEST_P(TextMotionTest, WithReducedMotionEverythingIsThereAtOnce) {
+TEST_P(TextMotionTest, WithReducedMotionEveryChangeIsImmediate) {
   machine.appearance.reducesMotion = true;
   openMain();
   followModes();
   pin();
   machine.runDue();
-  const Sight start = look(mainPanel);
+  const Frame start = capture(mainPanel);
   machine.advance(1);
-  const Sight end = look(mainPanel);
+  const Frame end = capture(mainPanel);
   EXPECT_TRUE(std::ranges::equal(start.texts, end.texts, isSameText));
 }
 
@@ -238,7 +238,7 @@ TEST_P(TextMotionTest, OfDisplaysThatComeAndGo) {
   model().selectDisplay("DISPLAY-3");
   pin();
   machine.advance(1);
-  // With the status that follows the target something is always animated.
+  // Pinned, the status follows the displays, so that each change is animated.
   for (const std::uint32_t number : {2U, 3U, 8U, 1U}) {
     go(number);
   }

@@ -1,4 +1,4 @@
-// TextRun is one line of text as a panel draws it, with its place on the panel.
+// TextRun is a line of text as drawn, with its place on the panel.
 #pragma once
 
 #include <string>
@@ -16,17 +16,17 @@ struct TextRun {
   /// In points from the panel's top left corner, from the top of its capitals to below its
   /// baseline.
   ui::Rect frame;
-  /// What no clip cuts off of the frame.
+  /// The frame within all clips.
   ui::Rect visible;
   /// In points from the panel's top.
   double baseline = 0;
-  /// How many times its font's height it is drawn.
+  /// The vertical scale of its font.
   double scale = 1;
-  /// Less than 1 in a layer that is faded, as a disabled control is.
+  /// The product of the opacities of the layers around it.
   double opacity = 1;
 };
 
-/// A canvas that draws nothing and keeps the texts.
+/// A canvas that only collects texts.
 class TextCollector : public ui::Canvas {
  public:
   explicit TextCollector(desk::TextShaper& shaper, double scaleFactor = 1)

@@ -1,4 +1,4 @@
-// Checking for the permission, asking for it at most once a second, and the links to its settings.
+// The check for the permission, the prompt at most once a second, and the links to the settings.
 #include <functional>
 #include <string>
 #include <vector>
@@ -66,7 +66,7 @@ TEST_F(OrvaneAccessibilityPermissionTest, WithoutThePermissionTheUserIsAsked) {
   EXPECT_TRUE(OrvaneAccessibilityPermission::isChecking());
   EXPECT_EQ(granted, "");
   prompts[0]();
-  EXPECT_EQ(granted, "a") << "the callback is the one given to the check that asked";
+  EXPECT_EQ(granted, "a") << "the callback of the check";
 }
 
 TEST_F(OrvaneAccessibilityPermissionTest, TwoChecksWithinASecondAskOnce) {
@@ -82,7 +82,7 @@ TEST_F(OrvaneAccessibilityPermissionTest, TwoChecksWithinASecondAskOnce) {
   EXPECT_EQ(granted, "a") << "the second callback was dropped";
 }
 
-TEST_F(OrvaneAccessibilityPermissionTest, AfterASecondItIsAskedAgain) {
+TEST_F(OrvaneAccessibilityPermissionTest, AfterASecondTheUserIsAskedAgain) {
   check('a');
   machine.advance(1.0);
   EXPECT_FALSE(OrvaneAccessibilityPermission::isChecking());
@@ -99,7 +99,7 @@ TEST_F(OrvaneAccessibilityPermissionTest, ADroppedRequestDoesNotProlongTheSecond
   EXPECT_FALSE(OrvaneAccessibilityPermission::isChecking());
 }
 
-TEST_F(OrvaneAccessibilityPermissionTest, AGrantedPermissionIsSeenWhileAskingIsUnderWay) {
+TEST_F(OrvaneAccessibilityPermissionTest, AGrantedPermissionIsNoticedAfterAPrompt) {
   check('a');
   machine.permission.setTrusted(true);
   check('b');
@@ -129,7 +129,7 @@ TEST_F(OrvaneAccessibilityPermissionTest, TheSettingsOpenByTheNewPane) {
   EXPECT_EQ(openedLinks(), std::vector<std::string>{newPane});
 }
 
-TEST_F(OrvaneAccessibilityPermissionTest, RefusedLinksGiveWayInOrder) {
+TEST_F(OrvaneAccessibilityPermissionTest, RefusedLinksFallBackInOrder) {
   const std::string refused = " refused";
   machine.links.refuse("x-apple.systempreferences:com.apple.settings");
   OrvaneAccessibilityPermission::openSystemSettings();
@@ -145,7 +145,7 @@ TEST_F(OrvaneAccessibilityPermissionTest, RefusedLinksGiveWayInOrder) {
       (std::vector<std::string>{newPane + refused, olderPane + refused, olderPaneWithoutAnchor}));
 }
 
-TEST_F(OrvaneAccessibilityPermissionTest, WhenEveryLinkIsRefusedTheSettingsThemselvesAreOpened) {
+TEST_F(OrvaneAccessibilityPermissionTest, WhenEveryLinkIsRefusedSystemSettingsItselfOpens) {
   const std::string refused = " refused";
   machine.links.refuse("x-apple.systempreferences:");
   OrvaneAccessibilityPermission::openSystemSettings();

@@ -1,4 +1,4 @@
-// The icon that the user can drag into the system's list.
+// The icon that the user can drag into the list of the system's settings.
 #include "Orvane/permission/OrvaneDraggableAppIconView.hpp"
 #include "tests/permission/PermissionFlow.hpp"
 
@@ -7,34 +7,20 @@ namespace {
 
 class OrvaneDraggableAppIconViewTest : public PermissionFlow {
  protected:
-  /// A point on the icon, in global coordinates.
-  CGPoint iconPlace() {
+  /// Opens the guide, presses the icon and moves the pointer.
+  void dragIcon(double distance) {
+    openGuide();
+    const auto icon = element(ui::Role::image, "Orvane", "guide");
+    ASSERT_TRUE(icon);
     const CGPoint corner = server().topLeftOf(*window("guide"));
-    for (const ui::SemanticsNode& child : children("guide")) {
-      if (child.role == ui::Role::image) {
-        return {corner.x + child.frame.x + 5, corner.y + child.frame.y + 5};
-      }
-    }
-    ADD_FAILURE() << "there is no icon";
-    return corner;
+    const CGPoint start{corner.x + icon->frame.x + 5, corner.y + icon->frame.y + 5};
+    pressAt(start);
+    moveTo({start.x + distance, start.y + distance});
   }
 };
 
-TEST_F(OrvaneDraggableAppIconViewTest, PressingItAndMovingDoesNotMoveThePanel) {
-  openGuide();
-  const CGRect before = window("guide")->frame;
-  const CGPoint place = iconPlace();
-  pressAt(place);
-  moveTo({place.x + 60, place.y + 60});
-  release();
-  EXPECT_TRUE(CGRectEqualToRect(window("guide")->frame, before));
-}
-
-TEST_F(OrvaneDraggableAppIconViewTest, TheDragCarriesTheBundleAndOffersOnlyToCopy) {
-  openGuide();
-  const CGPoint place = iconPlace();
-  pressAt(place);
-  moveTo({place.x + 10, place.y + 10});
+TEST_F(OrvaneDraggableAppIconViewTest, TheDragCarriesTheBundleAndAllowsOnlyACopy) {
+  dragIcon(10);
   const auto& drag = server().pointer.fileDrag();
   ASSERT_TRUE(drag);
   EXPECT_EQ(drag->fileUrl, "file:///Applications/Orvane.app/");
@@ -44,14 +30,11 @@ TEST_F(OrvaneDraggableAppIconViewTest, TheDragCarriesTheBundleAndOffersOnlyToCop
   EXPECT_DOUBLE_EQ(drag->image.height, 82);
   release();
   EXPECT_FALSE(server().pointer.fileDrag());
-  EXPECT_FALSE(machine.permission.isTrusted()) << "it was dropped on nothing that takes it";
+  EXPECT_FALSE(machine.permission.isTrusted()) << "it was not dropped on the list";
 }
 
 TEST_F(OrvaneDraggableAppIconViewTest, DroppedOnTheListItGrantsThePermission) {
-  openGuide();
-  const CGPoint place = iconPlace();
-  pressAt(place);
-  moveTo({place.x + 10, place.y + 10});
+  dragIcon(10);
   const CGPoint corner = server().topLeftOf(*window("system"));
   const ui::Rect list = systemSettings.listFrame().value_or(ui::Rect{});
   moveTo({corner.x + list.x + 50, corner.y + list.y + 20});
@@ -61,16 +44,19 @@ TEST_F(OrvaneDraggableAppIconViewTest, DroppedOnTheListItGrantsThePermission) {
   EXPECT_EQ(granted, "a");
 }
 
-TEST_F(OrvaneDraggableAppIconViewTest, WithoutAnImageDraggingItStartsNothingAndMovesNothing) {
-  server().resources().images.remove("AppIcon");
-  openGuide();
-  const CGRect before = window("guide")->frame;
-  const CGPoint place = iconPlace();
-  pressAt(place);
-  moveTo({place.x + 60, place.y + 60});
-  EXPECT_FALSE(server().pointer.fileDrag());
-  release();
-  EXPECT_TRUE(CGRectEqualToRect(window("guide")->frame, before));
+TEST_F(OrvaneDraggableAppIconViewTest, DraggingDoesNotMoveThePanelEvenWithoutAnImageToDrag) {
+  for (const bool hasImage : {true, false}) {
+    if (!hasImage) {
+      server().resources().images.remove("AppIcon");
+    }
+    dragIcon(60);
+    EXPECT_EQ(server().pointer.fileDrag().has_value(), hasImage);
+    release();
+    expectGuideOrigin(1280, 313);
+    guide().close();
+    moveTo({20, 200});
+    machine.advance(1);
+  }
 }
 
 }  // namespace

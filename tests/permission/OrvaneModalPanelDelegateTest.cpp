@@ -1,4 +1,4 @@
-// The modal session ends once, whatever ends it.
+// The modal session ends exactly once.
 #include <vector>
 
 #include "Orvane/permission/OrvaneModalPanelDelegate.hpp"
@@ -9,7 +9,7 @@ namespace {
 
 class OrvaneModalPanelDelegateTest : public PermissionFlow {
  protected:
-  /// An outer session around the one that the delegate may end, to detect a second stop.
+  /// Two nested sessions: a second stop would end the outer one.
   void runTwoSessions() {
     for (appkit::Window* const panel : {&outer, &inner}) {
       appkit::Application::runModal(*panel,
@@ -29,7 +29,7 @@ TEST_F(OrvaneModalPanelDelegateTest, TheFirstResponseStopsTheSession) {
   delegate.stopModalOnce(1001);
   delegate.windowWillClose();
   machine.runDue();
-  EXPECT_EQ(responses, std::vector<int>{1000}) << "the outer session goes on";
+  EXPECT_EQ(responses, std::vector<int>{1000}) << "the outer session continues";
 }
 
 TEST_F(OrvaneModalPanelDelegateTest, ClosingThePanelIsDeclining) {

@@ -1,4 +1,4 @@
-// The alert: its panel, its modal session, and what follows each answer.
+// The alert: its panel, its modal session, and the effect of each answer.
 #include "Orvane/permission/OrvanePermissionAlert.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
 #include "tests/permission/PermissionFlow.hpp"
@@ -16,27 +16,7 @@ class OrvanePermissionAlertTest : public PermissionFlow {
     }
     return count;
   }
-  /// Asserts that the alert is closed and has no further effect.
-  void expectDeclined() {
-    EXPECT_EQ(alertCount(), 0U);
-    EXPECT_FALSE(server().modal.isRunning());
-    EXPECT_FALSE(machine.runLoop.isMainQueueHeld());
-    EXPECT_EQ(machine.runLoop.mode(), desk::RunLoop::Mode::standard);
-    machine.permission.setTrusted(true);
-    machine.advance(30);
-    EXPECT_EQ(openedCount(), 0U);
-    EXPECT_FALSE(isGuideVisible());
-    EXPECT_EQ(granted, "");
-  }
 };
-
-TEST_F(OrvanePermissionAlertTest, WithThePermissionNothingIsShown) {
-  machine.permission.setTrusted(true);
-  OrvaneAccessibilityPermission::check([this] { granted += 'a'; });
-  EXPECT_EQ(granted, "a") << "the callback is called before the check returns";
-  machine.advance(5);
-  EXPECT_TRUE(server().windows().empty());
-}
 
 TEST_F(OrvanePermissionAlertTest, TheAlertIsShownAfterTheCallerHasReturned) {
   OrvaneAccessibilityPermission::check(nullptr);
@@ -64,46 +44,46 @@ TEST_F(OrvanePermissionAlertTest, ThePanelIsAModalAlertsPanel) {
   EXPECT_EQ(CGRectGetMidX(panel->frame), 960) << "centred";
 }
 
-TEST_F(OrvanePermissionAlertTest, WhileItIsShownTheMainQueueDeliversNothing) {
+TEST_F(OrvanePermissionAlertTest, WhileItIsShownTheMainQueueIsHeld) {
   check('a');
   bool taskRan = false;
   appkit::MainQueue::async([&] { taskRan = true; });
   machine.advance(10);
   EXPECT_FALSE(taskRan);
-  EXPECT_TRUE(OrvaneAccessibilityPermission::isChecking()) << "the second ends on the main queue";
+  EXPECT_TRUE(OrvaneAccessibilityPermission::isChecking())
+      << "the second's end waits for the main queue";
   press("Not Now", "alert");
   EXPECT_TRUE(taskRan);
   EXPECT_FALSE(OrvaneAccessibilityPermission::isChecking());
 }
 
-TEST_F(OrvanePermissionAlertTest, TwoChecksWithinASecondShowOneAlertAndTheSecondIsForgotten) {
-  check('a');
-  check('b');
-  EXPECT_EQ(alertCount(), 1U);
-  press("Open Privacy Settings", "alert");
-  machine.permission.setTrusted(true);
-  machine.advance(10);
-  EXPECT_EQ(alertCount(), 0U);
-  EXPECT_EQ(granted, "a");
+TEST_F(OrvanePermissionAlertTest, NotNowEscapeAndTheCloseButtonEndTheFlow) {
+  for (int way = 0; way < 3; ++way) {
+    machine.permission.setTrusted(false);
+    check('a');
+    ASSERT_EQ(alertCount(), 1U);
+    if (way == 0) {
+      press("Not Now", "alert");
+    } else if (way == 1) {
+      key(ui::Key::escape);
+    } else {
+      const CGPoint corner = server().topLeftOf(*window("alert"));
+      const ui::Rect button = window("alert")->closeButton().value();
+      click({corner.x + button.x + 6, corner.y + button.y + 6});
+    }
+    EXPECT_EQ(alertCount(), 0U);
+    EXPECT_FALSE(server().modal.isRunning());
+    EXPECT_FALSE(machine.runLoop.isMainQueueHeld());
+    EXPECT_EQ(machine.runLoop.mode(), desk::RunLoop::Mode::standard);
+    machine.permission.setTrusted(true);
+    machine.advance(30);
+    EXPECT_EQ(openedCount(), 0U);
+    EXPECT_FALSE(isGuideVisible());
+    EXPECT_EQ(granted, "");
+  }
 }
 
-TEST_F(OrvanePermissionAlertTest, NotNowEndsTheFlow) {
-  check('a');
-  press("Not Now", "alert");
-  expectDeclined();
-}
-
-TEST_F(OrvanePermissionAlertTest, TheCloseButtonIsNotNow) {
-  check('a');
-  const CGPoint corner = server().topLeftOf(*window("alert"));
-  const auto button = window("alert")->closeButton();
-  ASSERT_TRUE(button);
-  pressAt({corner.x + button->x + 6, corner.y + button->y + 6});
-  release();
-  expectDeclined();
-}
-
-TEST_F(OrvanePermissionAlertTest, WhatItEndedWithTheAlertHasNeitherDelegateNorContent) {
+TEST_F(OrvanePermissionAlertTest, TheClosedPanelHasNeitherDelegateNorContent) {
   for (const char* const button : {"Not Now", "Open Privacy Settings"}) {
     check('a');
     const auto panel = window("alert");
@@ -116,19 +96,14 @@ TEST_F(OrvanePermissionAlertTest, WhatItEndedWithTheAlertHasNeitherDelegateNorCo
   }
 }
 
-TEST_F(OrvanePermissionAlertTest, ASessionThatSomebodyElseStopsLeavesNeitherDelegateNorContent) {
+TEST_F(OrvanePermissionAlertTest,
+       ThePanelOfASessionStoppedFromOutsideHasNeitherDelegateNorContent) {
   check('a');
   const auto panel = window("alert");
   appkit::Application::stopModal(1001);
   machine.runDue();
-  EXPECT_FALSE(panel->willClose) << "closing the panel now would stop a session that is over";
+  EXPECT_FALSE(panel->willClose) << "closing the panel now would stop another session";
   EXPECT_EQ(panel->content, nullptr);
-}
-
-TEST_F(OrvanePermissionAlertTest, EscapeIsNotNow) {
-  check('a');
-  key(ui::Key::escape);
-  expectDeclined();
 }
 
 TEST_F(OrvanePermissionAlertTest, ReturnOpensTheSettings) {
@@ -138,8 +113,7 @@ TEST_F(OrvanePermissionAlertTest, ReturnOpensTheSettings) {
   EXPECT_EQ(openedCount(), 1U);
 }
 
-TEST_F(OrvanePermissionAlertTest,
-       OpeningTheSettingsTakesTheFirstAcceptedLinkAndTheGuideTwoSeconds) {
+TEST_F(OrvanePermissionAlertTest, TheSettingsOpenByTheFirstAcceptedLinkAndTheGuideTwoSecondsLater) {
   machine.links.refuse("x-apple.systempreferences:com.apple.settings");
   check('a');
   press("Open Privacy Settings", "alert");
@@ -152,18 +126,7 @@ TEST_F(OrvanePermissionAlertTest,
   EXPECT_TRUE(isGuideVisible());
   machine.permission.setTrusted(true);
   machine.advance(1);
-  EXPECT_EQ(granted, "a") << "the callback is the one given to the check that raised the alert";
-}
-
-TEST_F(OrvanePermissionAlertTest, ThePermissionGrantedBeforeTheGuideIsSeenAtItsFirstTick) {
-  check('a');
-  press("Open Privacy Settings", "alert");
-  machine.permission.setTrusted(true);
-  machine.advance(2);
-  EXPECT_TRUE(isGuideVisible());
-  EXPECT_EQ(granted, "");
-  machine.advance(1);
-  EXPECT_EQ(granted, "a");
+  EXPECT_EQ(granted, "a") << "the callback of the check";
 }
 
 TEST_F(OrvanePermissionAlertTest, TheEndOfTheProcessEndsTheAlertSilently) {
@@ -174,7 +137,7 @@ TEST_F(OrvanePermissionAlertTest, TheEndOfTheProcessEndsTheAlertSilently) {
   EXPECT_EQ(granted, "");
 }
 
-TEST_F(OrvanePermissionAlertTest, TheFlowCanBeWalkedWithTheMouseAlone) {
+TEST_F(OrvanePermissionAlertTest, TheMouseAloneSufficesForTheFlow) {
   const auto click = [this](const std::string& label, const std::string& surface) {
     const auto control = hand.control(label, surface);
     ASSERT_TRUE(control) << label;

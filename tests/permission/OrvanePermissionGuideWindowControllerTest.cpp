@@ -1,4 +1,4 @@
-// The guide: its panel, its position, how it polls for the permission, and how it closes.
+// The guide: its panel, its position, its polling and its end.
 #include <memory>
 
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
@@ -15,10 +15,6 @@ class OrvanePermissionGuideWindowControllerTest : public PermissionFlow {
     guide().show([this, name] { granted += name; });
     machine.runDue();
   }
-  void expectOrigin(double x, double y) {
-    EXPECT_EQ(guide().panel().frame().origin.x, x);
-    EXPECT_EQ(guide().panel().frame().origin.y, y);
-  }
   /// Replaces the displays by a single one with that frame.
   void haveDisplay(CGRect frame) {
     desk::attach(machine, desk::displayOf(9, "Only", frame));
@@ -29,8 +25,7 @@ class OrvanePermissionGuideWindowControllerTest : public PermissionFlow {
   void grant() { machine.permission.setTrusted(true); }
 };
 
-TEST_F(OrvanePermissionGuideWindowControllerTest,
-       ThePanelFloatsAboveAllAndDoesNotActivateTheApplication) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ThePanelFloatsAndDoesNotActivateTheApplication) {
   show();
   const auto panel = window("guide");
   ASSERT_NE(panel, nullptr);
@@ -49,11 +44,11 @@ TEST_F(OrvanePermissionGuideWindowControllerTest,
   EXPECT_FALSE(server().focus.isActive());
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsMadeOncePlacedAndNotShown) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsCreatedOnceAndNotShown) {
   guide();
-  expectOrigin(1280, 313);
+  expectGuideOrigin(1280, 313);
   EXPECT_FALSE(isGuideVisible());
-  EXPECT_FALSE(guide().snapshot().isPolling);
+  EXPECT_FALSE(isPolling());
   const appkit::Window panel = guide().panel();
   show();
   guide().close();
@@ -61,13 +56,12 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsMadeOncePlacedAndNotShown)
   EXPECT_TRUE(guide().panel() == panel);
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest,
-       ItStandsRightOfTheMiddleOfTheScreenWithThePointer) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsRightOfTheCentreOfTheScreenWithThePointer) {
   show();
-  expectOrigin(1280, 313);
+  expectGuideOrigin(1280, 313);
   moveTo({2500, 300});
   show();
-  expectOrigin(3200, 278);
+  expectGuideOrigin(3200, 278);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, OnANarrowerScreenItKeepsItsDistanceFromTheEdge) {
@@ -76,17 +70,11 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, OnANarrowerScreenItKeepsItsDis
   EXPECT_EQ(guide().panel().frame().origin.x, 1300 - 360 - 20);
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, OnAScreenTooSmallForItTheUpperLimitWins) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, OnAScreenThatIsTooSmallTheUpperLimitWins) {
   haveDisplay(CGRectMake(0, 0, 390, 520));
   desk::Dock::store(machine.preferences, desk::Dock::autoHideKey, true);
   show();
-  expectOrigin(390 - 360 - 20, 520 - 24 - 500 - 20);
-}
-
-TEST_F(OrvanePermissionGuideWindowControllerTest, ThePlaceMayLieLeftOfAScreenThatIsNarrowerThanIt) {
-  haveDisplay(CGRectMake(100, 0, 300, 900));
-  show();
-  EXPECT_EQ(guide().panel().frame().origin.x, 100 + 300 - 360 - 20);
+  expectGuideOrigin(390 - 360 - 20, 520 - 24 - 500 - 20);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAnyway) {
@@ -94,10 +82,10 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAnyway)
   EXPECT_FALSE(machine.displays.detach(2));
   show();
   EXPECT_TRUE(isGuideVisible());
-  EXPECT_TRUE(guide().snapshot().isPolling);
+  EXPECT_TRUE(isPolling());
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ItLooksOnceASecondFromTheFirstSecondOn) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ItPollsOnceASecond) {
   show();
   grant();
   machine.advance(0.999);
@@ -105,21 +93,22 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItLooksOnceASecondFromTheFirst
   machine.advance(0.001);
   EXPECT_EQ(state(), State::success);
   EXPECT_EQ(granted, "a");
-  EXPECT_FALSE(guide().snapshot().isPolling);
+  EXPECT_FALSE(isPolling());
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, MoreThanTenSecondsAreATimeOutAndItGoesOnLooking) {
+TEST_F(OrvanePermissionGuideWindowControllerTest,
+       AfterMoreThanTenSecondsItShowsATimeoutAndContinues) {
   show();
   machine.advance(10.999);
-  EXPECT_EQ(state(), State::checking) << "ten seconds are not more than ten";
+  EXPECT_EQ(state(), State::checking) << "the poll at exactly ten seconds";
   machine.advance(0.001);
   EXPECT_EQ(state(), State::timeout);
   machine.advance(100);
   EXPECT_EQ(state(), State::timeout);
-  EXPECT_TRUE(guide().snapshot().isPolling);
+  EXPECT_TRUE(isPolling());
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, AGrantAfterTheTimeOutIsASuccessAndCallsBackOnce) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, AGrantAfterTheTimeoutCallsBackOnce) {
   show();
   machine.advance(30);
   grant();
@@ -129,7 +118,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, AGrantAfterTheTimeOutIsASucces
   EXPECT_EQ(granted, "a");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, TheSuccessIsShownForASecondAndAHalf) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, TheSuccessIsVisibleForASecondAndAHalf) {
   show();
   grant();
   machine.advance(1);
@@ -152,7 +141,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, AnOldSuccessDoesNotCloseTheGui
   machine.advance(0.5);
   // A second and a half after the first success.
   EXPECT_TRUE(isGuideVisible());
-  EXPECT_TRUE(guide().snapshot().isPolling);
+  EXPECT_TRUE(isPolling());
   machine.advance(0.5);
   EXPECT_EQ(granted, "ab") << "the second request is answered, too";
   machine.advance(1.499);
@@ -161,42 +150,11 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, AnOldSuccessDoesNotCloseTheGui
   EXPECT_FALSE(isGuideVisible());
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, EachSuccessIsShownForItsOwnSecondAndAHalf) {
-  show();
-  grant();
-  machine.advance(1);
-  machine.advance(0.25);
-  show('b');
-  machine.advance(1);
-  ASSERT_EQ(granted, "ab");
-  machine.advance(0.25);
-  EXPECT_TRUE(isGuideVisible()) << "this is when the first success ends";
-  machine.advance(1.249);
-  EXPECT_TRUE(isGuideVisible());
-  machine.advance(0.001);
-  EXPECT_FALSE(isGuideVisible());
-}
-
-TEST_F(OrvanePermissionGuideWindowControllerTest, AClosedSuccessDoesNotCloseTheNextShowing) {
-  show();
-  grant();
-  machine.advance(1);
-  press("Done", "guide");
-  machine.permission.setTrusted(false);
-  show('b');
-  machine.advance(5);
-  EXPECT_TRUE(isGuideVisible());
-  grant();
-  machine.advance(1);
-  EXPECT_EQ(granted, "ab");
-}
-
-TEST_F(OrvanePermissionGuideWindowControllerTest,
-       WhenTheCallbackIsCalledTheSuccessIsThereAndLookingHasEnded) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, TheCallbackSeesTheSuccessAndTheEndOfPolling) {
   guide().show([this] {
     granted += 'a';
     EXPECT_EQ(state(), State::success);
-    EXPECT_FALSE(guide().snapshot().isPolling);
+    EXPECT_FALSE(isPolling());
     EXPECT_TRUE(isGuideVisible());
   });
   grant();
@@ -204,7 +162,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest,
   EXPECT_EQ(granted, "a");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ACallbackThatShowsTheGuideAgainIsNotOvertaken) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ACallbackMayShowTheGuideAgain) {
   guide().show([this] {
     granted += 'a';
     show('b');
@@ -213,7 +171,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ACallbackThatShowsTheGuideAgai
   machine.advance(1);
   EXPECT_EQ(granted, "a");
   EXPECT_EQ(state(), State::checking);
-  EXPECT_TRUE(guide().snapshot().isPolling);
+  EXPECT_TRUE(isPolling());
   machine.permission.setTrusted(false);
   machine.advance(1.5);
   EXPECT_TRUE(isGuideVisible()) << "the first success does not close it";
@@ -222,13 +180,13 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ACallbackThatShowsTheGuideAgai
   EXPECT_EQ(granted, "ab");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsLookingAndForgetsTheCallback) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsPollingAndDropsTheCallback) {
   show();
   machine.advance(3);
   const std::size_t timers = machine.runLoop.timerCount();
   guide().close();
   EXPECT_EQ(machine.runLoop.timerCount(), timers - 1);
-  EXPECT_FALSE(guide().snapshot().isPolling);
+  EXPECT_FALSE(isPolling());
   EXPECT_FALSE(isGuideVisible());
   grant();
   machine.advance(30);
@@ -243,7 +201,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingReleasesWhatTheCallback
   EXPECT_EQ(held.use_count(), 1);
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ShownAgainItBeginsAFreshTenSeconds) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ShownAgainItRestartsTheTenSeconds) {
   show();
   machine.advance(20);
   EXPECT_EQ(state(), State::timeout);
@@ -260,7 +218,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ShownAgainItBeginsAFreshTenSec
   EXPECT_EQ(granted, "b");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ShownOverItselfItHasOneTimerAndTheLaterCallback) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ShownWhileVisibleItReplacesTimerAndCallback) {
   show();
   machine.runDue();
   const std::size_t timers = machine.runLoop.timerCount();
@@ -274,7 +232,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ShownOverItselfItHasOneTimerAn
   EXPECT_EQ(granted, "b");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutACallbackItEndsAnyway) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutACallbackItClosesToo) {
   guide().show(nullptr);
   grant();
   machine.advance(2.5);
@@ -292,7 +250,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, TheCallbackMayCloseTheGuide) {
   EXPECT_FALSE(isGuideVisible());
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, WhileAMenuIsOpenItDoesNotLook) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, WhileAMenuIsOpenItDoesNotPoll) {
   show();
   grant();
   machine.runLoop.enterMode(desk::RunLoop::Mode::eventTracking);
@@ -303,22 +261,22 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, WhileAMenuIsOpenItDoesNotLook)
   EXPECT_EQ(granted, "a");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ItsBackgroundMovesItAndItsTwoButtonsCloseIt) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ItsBackgroundMovesItAndBothButtonsCloseIt) {
   for (const char* const button : {"Close", "Done"}) {
     show();
     const CGPoint corner = server().topLeftOf(*window("guide"));
     pressAt({corner.x + 10, corner.y + 10});
     moveTo({corner.x + 40, corner.y + 30});
     release();
-    expectOrigin(1310, 293);
+    expectGuideOrigin(1310, 293);
     press(button, "guide");
     EXPECT_FALSE(isGuideVisible());
-    EXPECT_FALSE(guide().snapshot().isPolling);
+    EXPECT_FALSE(isPolling());
     moveTo({20, 200});
   }
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, TheProcessTakesItsTimersWithIt) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ItsTimerEndsWithTheProcess) {
   show();
   machine.process.end();
   EXPECT_EQ(machine.runLoop.timerCount(), 0U);

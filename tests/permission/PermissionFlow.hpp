@@ -32,35 +32,28 @@ class PermissionFlow : public desk::HandFixture {
   [[nodiscard]] bool isGuideVisible() const {
     return OrvanePermissionGuideWindowController::snapshot().isVisible;
   }
-  PermissionGuideState state() { return guide().snapshot().state; }
+  [[nodiscard]] bool isPolling() const {
+    return OrvanePermissionGuideWindowController::snapshot().isPolling;
+  }
+  [[nodiscard]] PermissionGuideState state() const {
+    return OrvanePermissionGuideWindowController::snapshot().state;
+  }
 
   /// A check whose callback appends `name` to `granted`.
   void check(char name) {
     OrvaneAccessibilityPermission::check([this, name] { granted += name; });
     machine.runDue();
   }
-  /// A check, the user's consent, and the guide that follows.
+  /// A check, the user's consent, and then the guide.
   void openGuide(char name = 'a') {
     check(name);
     press("Open Privacy Settings", "alert");
     machine.advance(2);
   }
 
-  /// The top-level semantics elements of the surface.
-  std::vector<ui::SemanticsNode> children(const std::string& surface) {
-    return tree(surface).children;
-  }
   /// The semantics tree as text, one element per line.
-  std::string elements(const std::string& surface) {
+  std::string description(const std::string& surface) {
     return isOpen(surface) ? ui::semanticsText(tree(surface)) : "";
-  }
-  /// The recorded drawing calls, one per line.
-  std::string drawing(const std::string& surface) {
-    std::string text;
-    for (const std::string& line : drawnLines(surface)) {
-      text += line + "\n";
-    }
-    return text;
   }
   void press(const std::string& label, const std::string& surface) {
     EXPECT_EQ(hand.press({label, surface}), std::nullopt);
@@ -69,6 +62,11 @@ class PermissionFlow : public desk::HandFixture {
   void pressAt(CGPoint place) {
     hand.moveTo(place);
     hand.pressButton();
+  }
+
+  void expectGuideOrigin(double x, double y) {
+    EXPECT_EQ(guide().panel().frame().origin.x, x);
+    EXPECT_EQ(guide().panel().frame().origin.y, y);
   }
 
   std::string granted;

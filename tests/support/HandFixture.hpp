@@ -1,7 +1,10 @@
 // HandFixture gives each test a hand on its machine and access to the open windows.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,11 +27,39 @@ class HandFixture : public MachineFixture {
   [[nodiscard]] static bool isOpen(const std::string& surface) {
     return Surfaces(server()).isOpen(surface);
   }
-  /// The semantics tree of a surface; empty if it is not open.
+  /// The semantics tree of the surface, empty when it is not open.
   [[nodiscard]] static ui::SemanticsNode tree(const std::string& surface) {
     return Surfaces(server()).tree(surface).value_or(ui::SemanticsNode{});
   }
-  /// The drawing calls of a window, one line each.
+  /// All elements of the surface, in reading order.
+  [[nodiscard]] static std::vector<ui::SemanticsNode> elements(const std::string& surface) {
+    return findElements(tree(surface), [](const ui::SemanticsNode&) { return true; });
+  }
+  [[nodiscard]] static std::vector<ui::SemanticsNode> withRole(ui::Role role,
+                                                               const std::string& surface) {
+    return findElements(tree(surface),
+                        [role](const ui::SemanticsNode& node) { return node.role == role; });
+  }
+  [[nodiscard]] static std::optional<ui::SemanticsNode> element(const std::string& label,
+                                                                const std::string& surface) {
+    return findElement(tree(surface),
+                       [&](const ui::SemanticsNode& node) { return node.label == label; });
+  }
+  [[nodiscard]] static std::optional<ui::SemanticsNode> element(ui::Role role,
+                                                                const std::string& label,
+                                                                const std::string& surface) {
+    return findElement(tree(surface), [&](const ui::SemanticsNode& node) {
+      return node.role == role && node.label == label;
+    });
+  }
+  /// Of the first element with the label; fails without one.
+  [[nodiscard]] static ui::Rect frameOf(const std::string& label, const std::string& surface) {
+    const auto found = element(label, surface);
+    EXPECT_TRUE(found) << "no \"" << label << "\" in " << surface;
+    return found ? found->frame : ui::Rect{-1, -1, -1, -1};
+  }
+
+  /// One line for each drawing call of the window.
   [[nodiscard]] static std::vector<std::string> drawnLines(const std::string& surface) {
     const auto shown = window(surface);
     if (shown == nullptr || shown->content == nullptr) {
@@ -40,12 +71,18 @@ class HandFixture : public MachineFixture {
     shown->content->host().paint(canvas, {0, 0, size.width, size.height});
     return canvas.lines();
   }
+  /// The number of drawn lines that contain `part`.
+  [[nodiscard]] static std::ptrdiff_t drawn(const std::string& part, const std::string& surface) {
+    const std::vector<std::string> lines = drawnLines(surface);
+    return std::ranges::count_if(
+        lines, [&](const std::string& line) { return line.find(part) != std::string::npos; });
+  }
 
   /// In global coordinates.
   void moveTo(CGPoint place) { hand.moveTo(place); }
   void release() { hand.releaseButton(); }
   void click(CGPoint place) { hand.click(place); }
-  /// Returns whether the key was handled.
+  /// Whether the key was handled.
   bool key(ui::Key name, bool shift = false) {
     return hand.key({name, {shift, false, false, false}, {}});
   }

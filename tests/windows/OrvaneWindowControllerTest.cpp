@@ -41,7 +41,6 @@ class OrvaneWindowControllerTest : public desk::WindowFixture {
     controller().showSettings(model);
     machine.runDue();
   }
-  std::shared_ptr<desk::DeskWindow> shown(const std::string& surface) { return window(surface); }
   [[nodiscard]] static CGPoint originOf(const appkit::Window& window) {
     return window.frame().origin;
   }
@@ -49,15 +48,24 @@ class OrvaneWindowControllerTest : public desk::WindowFixture {
     EXPECT_EQ(originOf(window).x, x);
     EXPECT_EQ(originOf(window).y, y);
   }
-  /// Those that the script everything-shown.desk does not print.
-  void expectPanelAttributes(const desk::DeskWindow& window, double width, double height) {
+  static void expectSize(CGSize size, CGSize expected) {
+    EXPECT_EQ(size.width, expected.width);
+    EXPECT_EQ(size.height, expected.height);
+  }
+  static void expectPanelAttributes(const desk::DeskWindow& window, CGSize size) {
+    EXPECT_FALSE(window.isPanel());
+    expectSize(window.frame.size, size);
+    expectSize(window.minSize, size);
+    expectSize(window.maxSize, size);
+    EXPECT_EQ(window.collectionBehavior, 6U);
+    EXPECT_EQ(window.level, 0);
+    EXPECT_TRUE(window.isMovableByBackground);
     EXPECT_FALSE(window.isReleasedWhenClosed);
     EXPECT_TRUE(window.hasClearBackground);
     EXPECT_TRUE(window.canBecomeKey());
     EXPECT_TRUE(window.canBecomeMain());
     ASSERT_NE(window.content, nullptr);
-    EXPECT_EQ(window.content->frame().size.width, width);
-    EXPECT_EQ(window.content->frame().size.height, height);
+    expectSize(window.content->frame().size, size);
     EXPECT_EQ(window.content->cornerStyle, ui::CornerStyle::continuous);
     EXPECT_TRUE(window.content->masksToBounds);
     EXPECT_FALSE(window.content->respectsSafeArea);
@@ -71,17 +79,23 @@ class OrvaneWindowControllerTest : public desk::WindowFixture {
 
 TEST_F(OrvaneWindowControllerTest, TheMainPanelHasItsAttributes) {
   show();
-  const auto window = shown("main");
-  ASSERT_NE(window, nullptr);
-  expectPanelAttributes(*window, 700, 516);
+  const auto panel = window("main");
+  ASSERT_NE(panel, nullptr);
+  expectPanelAttributes(*panel, {700, 516});
+  EXPECT_EQ(panel->styleMask, 4U);
+  EXPECT_EQ(panel->title, "Orvane");
+  EXPECT_EQ(panel->content->cornerRadius, 24);
   EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::accessory);
 }
 
 TEST_F(OrvaneWindowControllerTest, TheSettingsPanelHasItsAttributes) {
   showSettings();
-  const auto window = shown("settings");
-  ASSERT_NE(window, nullptr);
-  expectPanelAttributes(*window, 420, 476);
+  const auto panel = window("settings");
+  ASSERT_NE(panel, nullptr);
+  expectPanelAttributes(*panel, {420, 476});
+  EXPECT_EQ(panel->styleMask, 0U);
+  EXPECT_EQ(panel->title, "Orvane Settings");
+  EXPECT_EQ(panel->content->cornerRadius, 28);
 }
 
 TEST_F(OrvaneWindowControllerTest, TheMainPanelIsCentredOnTheMainScreenKeyAndActive) {
@@ -92,7 +106,7 @@ TEST_F(OrvaneWindowControllerTest, TheMainPanelIsCentredOnTheMainScreenKeyAndAct
   EXPECT_TRUE(server().focus.isActive());
 }
 
-TEST_F(OrvaneWindowControllerTest, AVisibleMainPanelStaysWhereItWasPut) {
+TEST_F(OrvaneWindowControllerTest, AVisibleMainPanelStaysInPlace) {
   show();
   appkit::Window(*controller().window()).setFrameOrigin({11, 12});
   show();
@@ -100,7 +114,7 @@ TEST_F(OrvaneWindowControllerTest, AVisibleMainPanelStaysWhereItWasPut) {
   EXPECT_EQ(mainContents, 1);
 }
 
-TEST_F(OrvaneWindowControllerTest, AClosedMainPanelIsMadeAnewAndCentred) {
+TEST_F(OrvaneWindowControllerTest, AClosedMainPanelIsCreatedAgainAndCentred) {
   show();
   const CGPoint centred = originOf(*controller().window());
   const appkit::Window first = *controller().window();
@@ -114,7 +128,7 @@ TEST_F(OrvaneWindowControllerTest, AClosedMainPanelIsMadeAnewAndCentred) {
   expectOrigin(*controller().window(), centred.x, centred.y);
 }
 
-TEST_F(OrvaneWindowControllerTest, ShowingItActivatesTheApplication) {
+TEST_F(OrvaneWindowControllerTest, ItComesToTheFrontEvenOfAnInactiveApplication) {
   show();
   desk::SystemSettings::installOn(server()).open();
   ASSERT_EQ(order(), "OrvaneWindow SystemSettings");
@@ -128,12 +142,12 @@ TEST_F(OrvaneWindowControllerTest, TheSettingsAreAChildCentredOnTheMainPanel) {
   showSettings();
   const CGPoint main = originOf(*controller().window());
   expectOrigin(*controller().settingsWindow(), main.x + 350 - 210, main.y + 258 - 238);
-  EXPECT_EQ(shown("settings")->parent.lock(), shown("main"));
+  EXPECT_EQ(window("settings")->parent.lock(), window("main"));
   EXPECT_TRUE(controller().settingsWindow()->isKeyWindow());
   EXPECT_EQ(order(), "OrvaneWindow OrvaneSettingsWindow");
 }
 
-TEST_F(OrvaneWindowControllerTest, TheSettingsAreOneChildAndCentredEachTimeTheyAreShown) {
+TEST_F(OrvaneWindowControllerTest, ShownAgainTheSettingsAreCentredAndStillOneChild) {
   showSettings();
   appkit::Window(*controller().window()).setFrameOrigin({40, 50});
   appkit::Window(*controller().settingsWindow()).setFrameOrigin({0, 0});
@@ -142,7 +156,7 @@ TEST_F(OrvaneWindowControllerTest, TheSettingsAreOneChildAndCentredEachTimeTheyA
   EXPECT_EQ(controller().window()->childWindows().size(), 1U);
 }
 
-TEST_F(OrvaneWindowControllerTest, DismissingTheContentClosesTheWindow) {
+TEST_F(OrvaneWindowControllerTest, ContentCanDismissItsWindow) {
   std::function<void()> dismiss;
   controller().setContents({
       [](OrvaneModel&) { return content(); },
@@ -170,7 +184,7 @@ TEST_F(OrvaneWindowControllerTest, ClosingTheMainPanelClosesBoth) {
   EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::accessory);
 }
 
-TEST_F(OrvaneWindowControllerTest, TheLastOneToCloseSetsTheActivationPolicyAgain) {
+TEST_F(OrvaneWindowControllerTest, TheLastPanelToCloseRestoresTheActivationPolicy) {
   using appkit::ActivationPolicy;
   showSettings();
   machine.application.activationPolicy = ActivationPolicy::regular;
@@ -193,30 +207,19 @@ TEST_F(OrvaneWindowControllerTest, ClosingTheSettingsLeavesTheMainPanel) {
   EXPECT_EQ(controller().window()->childWindows().size(), 1U);
 }
 
-TEST_F(OrvaneWindowControllerTest, AMinimisedMainPanelIsBroughtBack) {
-  for (const bool isForSettings : {false, true}) {
-    show();
-    controller().miniaturizeWindow();
-    EXPECT_TRUE(controller().window()->isMiniaturized());
-    EXPECT_FALSE(controller().window()->isVisible());
-    if (isForSettings) {
-      showSettings();
-      EXPECT_TRUE(controller().settingsWindow()->isVisible());
-    } else {
-      show();
-    }
-    EXPECT_FALSE(controller().window()->isMiniaturized());
-    EXPECT_TRUE(controller().window()->isVisible());
-  }
-}
-
-TEST_F(OrvaneWindowControllerTest, AMainPanelThatWasNotVisibleIsCentredAgain) {
+TEST_F(OrvaneWindowControllerTest, AMinimisedMainPanelIsRestoredInTheCentre) {
   show();
   const CGPoint centred = originOf(*controller().window());
-  appkit::Window(*controller().window()).setFrameOrigin({11, 12});
-  controller().miniaturizeWindow();
-  show();
-  expectOrigin(*controller().window(), centred.x, centred.y);
+  for (const bool isForSettings : {false, true}) {
+    appkit::Window(*controller().window()).setFrameOrigin({11, 12});
+    controller().miniaturizeWindow();
+    EXPECT_FALSE(controller().window()->isVisible());
+    isForSettings ? showSettings() : show();
+    EXPECT_EQ(controller().settingsWindow().has_value(), isForSettings);
+    EXPECT_FALSE(controller().window()->isMiniaturized());
+    EXPECT_TRUE(controller().window()->isVisible());
+    expectOrigin(*controller().window(), centred.x, centred.y);
+  }
 }
 
 TEST_F(OrvaneWindowControllerTest, ContentAtTheTopTouchesTheTopEdge) {
@@ -226,7 +229,7 @@ TEST_F(OrvaneWindowControllerTest, ContentAtTheTopTouchesTheTopEdge) {
     ASSERT_TRUE(tree);
     ASSERT_FALSE(tree->children.empty());
     EXPECT_EQ(tree->children.front().frame.y, 0);
-    EXPECT_EQ(shown(surface)->contentFrame().size.height, shown(surface)->frame.size.height);
+    EXPECT_EQ(window(surface)->contentFrame().size.height, window(surface)->frame.size.height);
   }
 }
 
@@ -238,7 +241,7 @@ TEST_F(OrvaneWindowControllerTest, WithoutAScreenTheMainPanelKeepsItsOrigin) {
   expectOrigin(*controller().window(), 0, 0);
 }
 
-TEST_F(OrvaneWindowControllerTest, AChangeOfTheModelRedrawsTheContent) {
+TEST_F(OrvaneWindowControllerTest, AChangeOfTheModelRebuildsTheContentWhileThePanelExists) {
   int builds = 0;
   controller().setContents({[&](OrvaneModel&) -> appkit::HostingView::RootBuilder {
                               return [&](const ui::Environment&) -> ui::View {

@@ -1,4 +1,4 @@
-// Where everything of the main panel stands, in points from its top left corner.
+// The layout of the main panel, in points from its top left corner.
 #include <string>
 #include <utility>
 #include <vector>
@@ -13,19 +13,14 @@ namespace {
 class ContentViewLayoutTest : public PanelFixture {
  protected:
   [[nodiscard]] ui::Rect button(const std::string& label) {
-    for (const ui::SemanticsNode& node : withRole(ui::Role::button, mainPanel)) {
-      if (node.label == label) {
-        return node.frame;
-      }
-    }
-    ADD_FAILURE() << "no button " << label;
-    return {};
+    const auto found = element(ui::Role::button, label);
+    EXPECT_TRUE(found) << "no button " << label;
+    return found ? found->frame : ui::Rect{};
   }
 };
 
 TEST_F(ContentViewLayoutTest, TheTitleBarHasItsControlsAtTheEndsAndItsTitleInTheMiddle) {
   openMain();
-  EXPECT_EQ(tree(mainPanel).frame, (ui::Rect{0, 0, 700, 516}));
   EXPECT_EQ(button("Close"), (ui::Rect{28, 26, 14, 14}));
   EXPECT_EQ(button("Minimise"), (ui::Rect{51, 26, 14, 14}));
   EXPECT_EQ(button("Settings"), (ui::Rect{638, 16, 34, 34}));
@@ -35,48 +30,24 @@ TEST_F(ContentViewLayoutTest, TheTitleBarHasItsControlsAtTheEndsAndItsTitleInThe
   EXPECT_NEAR((title.x - 31 + title.right()) / 2, 350, 0.1);
 }
 
-TEST_F(ContentViewLayoutTest, TheControlsOfThePanelsHaveTheirSizes) {
+TEST_F(ContentViewLayoutTest, PanelsAndTheirControlsHaveTheirFrames) {
   openMain();
-  const ui::Rect pin = button("Pin Dock");
-  EXPECT_EQ(pin.x, 45);
-  EXPECT_EQ(pin.width, 610);
-  EXPECT_EQ(pin.height, 38);
-  EXPECT_EQ(button("Prevent Dock Pop-Up").height, 34);
-  EXPECT_EQ(button("Prevent Dock Pop-Up").width, 610);
-  const auto cards = withRole(ui::Role::radioButton, mainPanel);
-  ASSERT_EQ(cards.size(), 3U);
-  EXPECT_EQ(cards[1].frame.width, 176);
-  EXPECT_EQ(cards[1].frame.height, 142);
-  // The chosen card is raised by its scale of 1.012, around its middle, and begins where the other
-  // rows begin.
-  EXPECT_NEAR(cards[0].frame.width, 176 * 1.012, 1e-6);
-  EXPECT_NEAR(cards[0].frame.center().x, 45 + 88, 1e-6);
-  EXPECT_EQ(withRole(ui::Role::scrollArea, mainPanel).at(0).frame.height, 154);
+  EXPECT_EQ(drawn("stroke rounded(25 91 650 269 r12"), 1);
+  EXPECT_EQ(drawn("stroke rounded(25 370 650 121 r12"), 1);
+  EXPECT_EQ(button("Pin Dock"), (ui::Rect{45, 311.5, 610, 38}));
+  EXPECT_EQ(button("Prevent Dock Pop-Up"), (ui::Rect{45, 446.5, 610, 34}));
+  EXPECT_EQ(withRole(ui::Role::scrollArea, mainPanel).at(0).frame, (ui::Rect{26, 153.5, 648, 154}));
+  EXPECT_EQ(frameOf("DELL"), (ui::Rect{235, 159.5, 176, 142}));
+  // The selected card is scaled around its centre.
+  EXPECT_NEAR(frameOf("Display").width, 176 * 1.012, 1e-6);
+  EXPECT_NEAR(frameOf("Display").center().x, 45 + 88, 1e-6);
 }
 
-TEST_F(ContentViewLayoutTest, ACardThatIsChosenAndUnderThePointerIsNoLargerThanAChosenOne) {
-  openMain();
-  hover("Display");
-  machine.advance(1);
-  const auto cards = withRole(ui::Role::radioButton, mainPanel);
-  EXPECT_NEAR(cards.at(0).frame.width, 176 * 1.012, 1e-6);
-  hover("DELL");
-  machine.advance(1);
-  EXPECT_NEAR(withRole(ui::Role::radioButton, mainPanel).at(1).frame.width, 176 * 1.012, 1e-6);
-}
-
-TEST_F(ContentViewLayoutTest, ThePanelsAreStackedWithTheirHeights) {
-  openMain();
-  // Surfaces are drawn once for their fill, once for what lies over it.
-  EXPECT_GE(drawn("(25 91 650 269 r12"), 2);
-  EXPECT_GE(drawn("(25 370 650 121 r12"), 2);
-}
-
-TEST_F(ContentViewLayoutTest, WhatTheRowsLeaveOfThePanelsIsDividedEvenly) {
+TEST_F(ContentViewLayoutTest, TheRowsOfThePanelsAreSpacedEvenly) {
   openMain();
   const auto shapeTops = [this](const std::string& size) {
     std::vector<double> tops;
-    for (const std::string& line : drawing(mainPanel)) {
+    for (const std::string& line : drawnLines(mainPanel)) {
       const std::size_t start = line.find("fill rounded(45 ");
       if (start != std::string::npos && line.find(" " + size + " r") != std::string::npos) {
         tops.push_back(std::stod(line.substr(start + 16)));
@@ -99,15 +70,15 @@ TEST_F(ContentViewLayoutTest, WhatTheRowsLeaveOfThePanelsIsDividedEvenly) {
   EXPECT_EQ(icons.back() - 370, icons.front() - 91);
 }
 
-TEST_F(ContentViewLayoutTest, CardsStandLevelWhateverScriptTheirNamesAreIn) {
+TEST_F(ContentViewLayoutTest, CardsAreLevelInEveryScript) {
   attach(4, CGRectMake(3360, 0, 1920, 1080), "左侧显示器", false);
   openMain();
   const auto levels = [this](const std::string& mark, const std::string& after) {
     std::vector<std::string> found;
-    for (const std::string& line : drawing(mainPanel)) {
+    for (const std::string& line : drawnLines(mainPanel)) {
       const std::size_t start = line.find(mark);
       if (start != std::string::npos) {
-        // What follows a horizontal place.
+        // The y coordinate, which follows the x coordinate.
         const std::size_t place = line.find(' ', line.find(after, start) + after.size());
         found.push_back(line.substr(place, line.find(' ', place + 1) - place));
       }
@@ -117,7 +88,7 @@ TEST_F(ContentViewLayoutTest, CardsStandLevelWhateverScriptTheirNamesAreIn) {
   for (const OrvaneLanguage::Value language : {OrvaneLanguage::english, OrvaneLanguage::chinese}) {
     model().setAppLanguage(language);
     machine.runDue();
-    // The chosen card is drawn in its own scale; the three others are a monitor each.
+    // The selected card is scaled; the three others show a monitor each.
     const std::vector<std::string> images = levels("image DisplayMonitor ", "(");
     const std::vector<std::string> names = levels(" 13/500 ", " at ");
     const std::vector<std::string> roles = levels(" 11/600 rgba(0 0 0", " at ");
@@ -127,7 +98,7 @@ TEST_F(ContentViewLayoutTest, CardsStandLevelWhateverScriptTheirNamesAreIn) {
   }
 }
 
-TEST_F(ContentViewLayoutTest, BothLightsShowTheirSymbolsWhereverInTheirClusterThePointerIs) {
+TEST_F(ContentViewLayoutTest, BothLightsShowTheirSymbolsWhileThePointerIsInTheirCluster) {
   openMain();
   const CGPoint corner = server().topLeftOf(*window(mainPanel));
   const auto symbolsWithPointerAt = [&](double x, double y) {
@@ -144,7 +115,7 @@ TEST_F(ContentViewLayoutTest, BothLightsShowTheirSymbolsWhereverInTheirClusterTh
   EXPECT_EQ(symbolsWithPointerAt(100, 67), 0);
 }
 
-TEST_F(ContentViewLayoutTest, NothingMovesWhenTheHintTakesTheDescriptionsPlace) {
+TEST_F(ContentViewLayoutTest, NothingMovesWhenTheHintReplacesTheDescription) {
   openMain();
   const ui::Rect toggle = button("Prevent Dock Pop-Up");
   const ui::Rect pin = button("Pin Dock");
@@ -159,13 +130,10 @@ TEST_F(ContentViewLayoutTest, NothingMovesWhenTheHintTakesTheDescriptionsPlace) 
   EXPECT_EQ(allow.width, 410);
 }
 
-TEST_F(ContentViewLayoutTest, MoreCardsThanFitCanBeScrolledTo) {
+TEST_F(ContentViewLayoutTest, CardsThatDoNotFitCanBeScrolledTo) {
   attach(4, CGRectMake(3360, 0, 1920, 1080), "HP", false);
   openMain();
   const ui::Rect area = withRole(ui::Role::scrollArea, mainPanel).at(0).frame;
-  // Cards are cut just inside of the panel's own edges.
-  EXPECT_EQ(area.x, 26);
-  EXPECT_EQ(area.right(), 674);
   EXPECT_GT(frameOf("HP").right(), area.right());
   const CGPoint corner = server().topLeftOf(*window(mainPanel));
   machine.mouse.moveTo({corner.x + 300, corner.y + 240});

@@ -1,5 +1,6 @@
-// The main panel says what the model says, and its controls call the model.
+// The main panel shows the state of the model, and its controls call the model.
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -16,14 +17,8 @@ const std::string hint =
 
 class ContentViewTest : public PanelFixture {
  protected:
-  /// The button of the pop-up panel, which has the same title as the panel.
   [[nodiscard]] bool hasButton(const std::string& label) {
-    for (const ui::SemanticsNode& node : withRole(ui::Role::button, mainPanel)) {
-      if (node.label == label) {
-        return true;
-      }
-    }
-    return false;
+    return element(ui::Role::button, label).has_value();
   }
   [[nodiscard]] std::vector<std::string> cards() {
     std::vector<std::string> found;
@@ -34,7 +29,7 @@ class ContentViewTest : public PanelFixture {
   }
 };
 
-TEST_F(ContentViewTest, AtRestNothingIsPinnedAndNothingPrevented) {
+TEST_F(ContentViewTest, WithoutAModeNothingIsPinnedOrPrevented) {
   openMain();
   EXPECT_EQ(pill(pinTitle), "Not Pinned");
   EXPECT_EQ(pill(preventTitle), "Off");
@@ -43,9 +38,6 @@ TEST_F(ContentViewTest, AtRestNothingIsPinnedAndNothingPrevented) {
   EXPECT_TRUE(hasButton("Pin Dock"));
   EXPECT_TRUE(hasButton("Prevent Dock Pop-Up"));
   EXPECT_FALSE(hasButton("Open Dock Settings"));
-  EXPECT_EQ(drawn("symbol lock "), 2) << "the panel's icon and the button's";
-  EXPECT_EQ(drawn("symbol eye.slash "), 2);
-  EXPECT_EQ(drawn("symbol gearshape "), 1);
 }
 
 TEST_F(ContentViewTest, ThePinButtonPinsAndUnpins) {
@@ -58,12 +50,10 @@ TEST_F(ContentViewTest, ThePinButtonPinsAndUnpins) {
   EXPECT_EQ(pill(preventTitle), "Off");
   EXPECT_FALSE(hasButton("Pin Dock"));
   EXPECT_EQ(drawn("symbol lock.open "), 1);
-  EXPECT_GT(drawn("rgba(1 0.231"), 0) << "the button is red";
   ASSERT_TRUE(press("Unpin Dock"));
   machine.advance(1);
   EXPECT_FALSE(model().isGuardRunning());
   EXPECT_EQ(pill(pinTitle), "Not Pinned");
-  EXPECT_EQ(drawn("rgba(1 0.231"), 0);
 }
 
 TEST_F(ContentViewTest, ThePreventButtonPreventsAndAllows) {
@@ -76,7 +66,6 @@ TEST_F(ContentViewTest, ThePreventButtonPreventsAndAllows) {
   EXPECT_EQ(pill(preventTitle), "Enabled");
   EXPECT_TRUE(element(hint));
   EXPECT_FALSE(element("Prevents screen edges from bringing up the Dock"));
-  EXPECT_EQ(drawn("symbol eye "), 1);
   ASSERT_TRUE(press("Open Dock Settings"));
   ASSERT_EQ(machine.links.opened().size(), 1U);
   EXPECT_EQ(machine.links.opened().front().url,
@@ -88,56 +77,27 @@ TEST_F(ContentViewTest, ThePreventButtonPreventsAndAllows) {
   EXPECT_FALSE(hasButton("Open Dock Settings"));
 }
 
-TEST_F(ContentViewTest, APillIsWrittenInTheAccentColourExactlyWhileItsModeIsOn) {
-  const std::string accent = "13/700 rgba(0 0.459 0.959 1) ";
-  const std::string secondary = "13/700 rgba(0 0 0 0.6) ";
-  openMain();
-  EXPECT_EQ(drawn("text \"Not Pinned\" " + secondary), 1);
-  EXPECT_EQ(drawn("text \"Off\" " + secondary), 1);
-  ASSERT_TRUE(press("Pin Dock"));
-  machine.advance(1);
-  EXPECT_EQ(drawn("text \"Pinned\" " + accent), 1);
-  EXPECT_EQ(drawn("text \"Off\" " + secondary), 1);
-  ASSERT_TRUE(press("Prevent Dock Pop-Up"));
-  machine.advance(1);
-  EXPECT_EQ(drawn("text \"Not Pinned\" " + secondary), 1);
-  EXPECT_EQ(drawn("text \"Enabled\" " + accent), 1);
-}
-
-TEST_F(ContentViewTest, TheIconOfThePopUpPanelIsGrayUntilItPrevents) {
+TEST_F(ContentViewTest, IconAndPinButtonHaveTheColourOfTheMode) {
   const std::string accentTile = "0 rgba(0 0.478 1 0.98), 1 rgba(0 0.478 1 0.78)";
   const std::string grayTile = "0 rgba(0.557 0.557 0.576 0.98), 1 rgba(0.557 0.557 0.576 0.78)";
+  const std::string blueButton = ", 1 rgba(0 0.478 1 1))";
+  const std::string redButton = ", 1 rgba(1 0.231 0.188 1))";
+  const auto expectDrawn = [this](const std::vector<std::pair<std::string, int>>& counts) {
+    for (const auto& [part, count] : counts) {
+      EXPECT_EQ(drawn(part), count) << part;
+    }
+  };
   openMain();
-  EXPECT_EQ(drawn(accentTile), 1) << "the pin panel's icon";
-  EXPECT_EQ(drawn(grayTile), 1);
+  expectDrawn({{accentTile, 1}, {grayTile, 1}, {blueButton, 1}, {redButton, 0}});
   ASSERT_TRUE(press("Pin Dock"));
   machine.advance(1);
-  EXPECT_EQ(drawn(grayTile), 1) << "pinning does not prevent";
+  expectDrawn({{accentTile, 1}, {grayTile, 1}, {blueButton, 0}, {redButton, 1}});
   ASSERT_TRUE(press("Prevent Dock Pop-Up"));
   machine.advance(1);
-  EXPECT_EQ(drawn(accentTile), 2);
-  EXPECT_EQ(drawn(grayTile), 0);
-  EXPECT_EQ(drawn("symbol eye.slash 24/700 "), 1);
+  expectDrawn({{accentTile, 2}, {grayTile, 0}, {blueButton, 1}, {redButton, 0}});
 }
 
-TEST_F(ContentViewTest, ThePinButtonHasTheAccentColourUntilItPinsAndIsRedThen) {
-  // The lower end of the gradient is the colour itself.
-  const std::string blue = ", 1 rgba(0 0.478 1 1))";
-  const std::string red = ", 1 rgba(1 0.231 0.188 1))";
-  openMain();
-  EXPECT_EQ(drawn(" 610 38 r8 continuous) gradient("), 1);
-  EXPECT_EQ(drawn(blue), 1);
-  ASSERT_TRUE(press("Pin Dock"));
-  machine.advance(1);
-  EXPECT_EQ(drawn(blue), 0);
-  EXPECT_EQ(drawn(red), 1);
-  ASSERT_TRUE(press("Prevent Dock Pop-Up"));
-  machine.advance(1);
-  EXPECT_EQ(drawn(blue), 1) << "the guard runs, and pins nothing";
-  EXPECT_EQ(drawn(red), 0);
-}
-
-TEST_F(ContentViewTest, AStoredPreventModeShowsNothingWhileTheGuardDoesNotRun) {
+TEST_F(ContentViewTest, AStoredPreventModeIsNotShownWhileTheGuardDoesNotRun) {
   model().setHidesDockOnAllDisplays(true);
   ASSERT_FALSE(model().isGuardRunning());
   openMain();
@@ -147,8 +107,6 @@ TEST_F(ContentViewTest, AStoredPreventModeShowsNothingWhileTheGuardDoesNotRun) {
   EXPECT_FALSE(element(hint));
   EXPECT_TRUE(hasButton("Prevent Dock Pop-Up"));
   EXPECT_FALSE(hasButton("Open Dock Settings"));
-  // The system's gray, 142 142 147, in the icon's gradient.
-  EXPECT_GT(drawn("rgba(0.557 0.557 0.576"), 0);
 }
 
 TEST_F(ContentViewTest, WithoutDisplaysThePickerIsAnEmptyRow) {
@@ -193,7 +151,7 @@ TEST_F(ContentViewTest, ThereIsACardForEachDisplayInTheModelsOrder) {
   EXPECT_EQ(cards().size(), 4U);
 }
 
-TEST_F(ContentViewTest, APressOnACardChoosesItsDisplay) {
+TEST_F(ContentViewTest, APressOnACardSelectsItsDisplay) {
   openMain();
   ASSERT_TRUE(press("LG"));
   machine.advance(1);
@@ -201,25 +159,6 @@ TEST_F(ContentViewTest, APressOnACardChoosesItsDisplay) {
   EXPECT_EQ(cards(), (std::vector<std::string>{"Display/Main Display", "DELL/Right Display",
                                                "LG/Upper Display/selected"}));
   EXPECT_EQ(drawn("symbol checkmark "), 1);
-}
-
-TEST_F(ContentViewTest, OpeningThePanelRefreshesTheDisplays) {
-  EXPECT_TRUE(model().displays().value().empty());
-  application.reopen();
-  EXPECT_EQ(model().displays().value().size(), 3U);
-}
-
-TEST_F(ContentViewTest, APermissionGrantedMeanwhileIsNoticedWithinASecond) {
-  machine.permission.setTrusted(false);
-  openMain();
-  ASSERT_FALSE(model().hasAccessibilityPermission().value());
-  machine.permission.setTrusted(true);
-  machine.advance(0.99);
-  machine.advance(0.02);
-  EXPECT_TRUE(model().hasAccessibilityPermission().value());
-  machine.permission.setTrusted(false);
-  machine.advance(1.01);
-  EXPECT_FALSE(model().hasAccessibilityPermission().value());
 }
 
 TEST_F(ContentViewTest, ThePanelsTimerEndsWithThePanel) {
@@ -245,18 +184,6 @@ TEST_F(ContentViewTest, TheTitleBarClosesMinimisesAndOpensTheSettings) {
   EXPECT_TRUE(application.isRunning());
 }
 
-TEST_F(ContentViewTest, BothTrafficLightsShowTheirSymbolsTogether) {
-  openMain();
-  EXPECT_EQ(drawn("symbol xmark ") + drawn("symbol minus "), 0);
-  hover("Minimise");
-  machine.advance(0.5);
-  EXPECT_EQ(drawn("symbol xmark "), 1);
-  EXPECT_EQ(drawn("symbol minus "), 1);
-  hover("Pin Dock");
-  machine.advance(0.5);
-  EXPECT_EQ(drawn("symbol xmark ") + drawn("symbol minus "), 0);
-}
-
 TEST_F(ContentViewTest, TheSettingsButtonHasATooltip) {
   openMain();
   hover("Settings");
@@ -265,7 +192,7 @@ TEST_F(ContentViewTest, TheSettingsButtonHasATooltip) {
   EXPECT_EQ(server().tooltips.shown()->text, "Settings");
 }
 
-TEST_F(ContentViewTest, ALanguageThatChangesRedrawsEveryTextAtOnce) {
+TEST_F(ContentViewTest, AChangedLanguageChangesEveryText) {
   openMain();
   ASSERT_TRUE(press("Prevent Dock Pop-Up"));
   machine.advance(1);
@@ -291,28 +218,11 @@ TEST_F(ContentViewTest, ALanguageThatChangesRedrawsEveryTextAtOnce) {
   EXPECT_FALSE(element("解除固定 Dock"));
 }
 
-TEST_F(ContentViewTest, AnotherAppearanceRecoloursThePanelAndItsImages) {
+TEST_F(ContentViewTest, AnotherAppearanceChangesTheImages) {
   openMain();
-  const auto day = drawing(mainPanel);
   machine.appearance.isDark = true;
-  const auto night = drawing(mainPanel);
-  EXPECT_NE(day, night);
   EXPECT_EQ(drawn("image DisplayLaptop-dark "), 1);
   EXPECT_EQ(drawn("image DisplayMonitor-dark "), 2);
-  machine.appearance.isDark = false;
-  EXPECT_EQ(drawing(mainPanel), day);
-}
-
-TEST_F(ContentViewTest, TheIconOfTheApplicationStandsBesideItsName) {
-  openMain();
-  EXPECT_EQ(drawn("image AppIcon "), 1);
-  EXPECT_EQ(drawn("symbol dock.rectangle "), 0);
-}
-
-TEST_F(ContentViewTest, WithoutAnIconASymbolStandsInItsPlace) {
-  server().resources().images.remove("AppIcon");
-  openMain();
-  EXPECT_EQ(drawn("symbol dock.rectangle "), 1);
 }
 
 }  // namespace
