@@ -6,7 +6,7 @@ namespace {
 
 using CFTypeContract = ContractFixture;
 
-TEST_F(CFTypeContract, AnObjectLivesAsLongAsAnybodyKeepsIt) {
+TEST_F(CFTypeContract, AnObjectLivesUntilItsLastRelease) {
   // Too long for a tagged pointer, which would not be counted.
   const CFStringRef string = CFStringCreateWithCString(
       kCFAllocatorDefault, "a text of more than a few characters", kCFStringEncodingUTF8);

@@ -51,7 +51,7 @@ TEST_F(WindowServerTest, ClosingAParentTakesItsChildrenOffTheScreen) {
   EXPECT_FALSE(child.isVisible());
 }
 
-TEST_F(WindowServerTest, TheCallbackOfClosingComesOnceAndMayDropEveryHandle) {
+TEST_F(WindowServerTest, TheCloseCallbackComesOnceAndMayDropEveryHandle) {
   auto window = std::make_unique<Window>(makeWindow({0, 0}));
   const std::weak_ptr<Window::Implementation> alive = window->implementation();
   int calls = 0;
