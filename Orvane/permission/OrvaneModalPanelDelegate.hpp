@@ -19,8 +19,6 @@ class OrvaneModalPanelDelegate {
   /// Closing the panel counts as declining.
   void windowWillClose() { stopModalOnce(appkit::ModalResponse::alertSecondButton); }
 
-  [[nodiscard]] bool didStopModal() const { return didStopModal_; }
-
  private:
   bool didStopModal_ = false;
 };

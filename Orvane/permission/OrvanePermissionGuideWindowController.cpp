@@ -93,7 +93,10 @@ OrvanePermissionGuideWindowController::Snapshot OrvanePermissionGuideWindowContr
     return {};
   }
   const OrvanePermissionGuideWindowController& guide = shared();
-  return {guide.state_, guide.panel_.isVisible(), guide.checkTimer_.has_value()};
+  return {.state = guide.state_,
+          .isVisible = guide.panel_.isVisible(),
+          .isPolling = guide.checkTimer_.has_value(),
+          .frame = guide.panel_.frame()};
 }
 
 void OrvanePermissionGuideWindowController::show(std::function<void()> onGranted) {

@@ -118,8 +118,8 @@ Moment Moment::of(const Machine& machine, const ApplicationHost& application) {
   moment.status = moment.snapshot.status;
   moment.isGuidePolling = moment.snapshot.guide.isPolling;
   moment.guideState = moment.snapshot.guide.state;
-  moment.isTapRefused = model.guardService().isTapRefused();
-  moment.isDoubted = model.isPermissionDoubted();
+  moment.isTapRefused = model.guardService().wasTapRefused();
+  moment.isDoubted = model.isPermissionStale();
   moment.isRestoreBlocked = model.isRestoreBlocked();
   moment.messageCount = application.messages().size();
   if (!application.messages().empty()) {

@@ -16,8 +16,8 @@ class OrvanePermissionGuideWindowControllerTest : public PermissionFlow {
     machine.runDue();
   }
   void expectOrigin(double x, double y) {
-    EXPECT_EQ(guide().panel().frame().origin.x, x);
-    EXPECT_EQ(guide().panel().frame().origin.y, y);
+    EXPECT_EQ(guide().snapshot().frame.origin.x, x);
+    EXPECT_EQ(guide().snapshot().frame.origin.y, y);
   }
   /// Replaces the displays by a single one with that frame.
   void haveDisplay(CGRect frame) {
@@ -54,11 +54,11 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsMadeOncePlacedAndNotShown)
   expectOrigin(1280, 313);
   EXPECT_FALSE(isGuideVisible());
   EXPECT_FALSE(guide().snapshot().isPolling);
-  const appkit::Window panel = guide().panel();
   show();
+  const auto panel = window("guide");
   guide().close();
   show();
-  EXPECT_TRUE(guide().panel() == panel);
+  EXPECT_EQ(window("guide"), panel);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest,
@@ -73,7 +73,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest,
 TEST_F(OrvanePermissionGuideWindowControllerTest, OnANarrowerScreenItKeepsItsDistanceFromTheEdge) {
   haveDisplay(CGRectMake(0, 0, 1300, 900));
   show();
-  EXPECT_EQ(guide().panel().frame().origin.x, 1300 - 360 - 20);
+  EXPECT_EQ(guide().snapshot().frame.origin.x, 1300 - 360 - 20);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, OnAScreenTooSmallForItTheUpperLimitWins) {
@@ -86,7 +86,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, OnAScreenTooSmallForItTheUpper
 TEST_F(OrvanePermissionGuideWindowControllerTest, ThePlaceMayLieLeftOfAScreenThatIsNarrowerThanIt) {
   haveDisplay(CGRectMake(100, 0, 300, 900));
   show();
-  EXPECT_EQ(guide().panel().frame().origin.x, 100 + 300 - 360 - 20);
+  EXPECT_EQ(guide().snapshot().frame.origin.x, 100 + 300 - 360 - 20);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAnyway) {

@@ -62,8 +62,8 @@ class PermissionGuidePlaceTest : public PermissionFlow {
     machine.runDue();
   }
   void expectOrigin(double x, double y) {
-    EXPECT_EQ(guide().panel().frame().origin.x, x);
-    EXPECT_EQ(guide().panel().frame().origin.y, y);
+    EXPECT_EQ(guide().snapshot().frame.origin.x, x);
+    EXPECT_EQ(guide().snapshot().frame.origin.y, y);
   }
 
  private:
