@@ -1,5 +1,5 @@
-// The application's delegate: start-up and end, and the status item with its icon. The menu is in
-// AppDelegateMenu.cpp.
+// The application's delegate: launch and termination, and the status item with its icon. The menu
+// is in AppDelegateMenu.cpp.
 #include "Orvane/app/AppDelegate.hpp"
 
 #include "Orvane/app/OrvaneAppState.hpp"
@@ -34,8 +34,8 @@ void AppDelegate::setupStatusItem() {
 }
 
 void AppDelegate::observeModelChanges() {
-  // The change is announced before the displays have their names in the new language, so the menu
-  // is built once the caller has returned.
+  // The signal comes before the displays have their names in the new language, so the menu is
+  // rebuilt after the caller has returned.
   const std::function<void()> rebuild = lifetime_.whileAlive([this] { rebuildMenuAndIcon(); });
   modelCancellable_ = OrvaneAppState::model().appLanguage().observe(
       [rebuild] { appkit::MainQueue::async(rebuild); });
@@ -46,7 +46,6 @@ void AppDelegate::observeModelChanges() {
 void AppDelegate::refreshStatusItemTimerFired() {
   OrvaneModel& model = OrvaneAppState::model();
   announcer_.update(model);
-  // Most of the time there is nothing to draw.
   if (shownMode_ == model.mode()) {
     return;
   }
@@ -86,8 +85,8 @@ bool AppDelegate::performKeyEquivalent(const ui::KeyEvent& event) {
     quitFromStatusMenu();
     return true;
   }
-  // The alert wants an answer first. Hidden, it could not be brought back: nothing in the Dock
-  // stands for the application.
+  // An alert must be answered first. Once hidden, it could not be shown again, because the
+  // application has no icon in the Dock.
   if (appkit::Application::modalWindow()) {
     return false;
   }

@@ -1,5 +1,4 @@
-// The application's delegate: start-up and end, the status item with its icon, and the menu under
-// it.
+// The application's delegate: launch and termination, the status item with its icon and its menu.
 #pragma once
 
 #include <functional>
@@ -31,13 +30,13 @@ class AppDelegate {
   void applicationDidFinishLaunching();
   /// The user has opened the running application again.
   bool applicationShouldHandleReopen(bool hasVisibleWindows);
-  /// The guard is left alone: its tap ends with the process, and the stored wish brings it back at
+  /// Leaves the guard running: its tap ends with the process, and the stored setting restarts it at
   /// the next launch.
   void applicationWillTerminate();
 
   void menuWillOpen();
 
-  /// A key that the window it went to has no use for. Whether it meant something to the
+  /// Handles a key that the key window did not. Returns whether it was a command of the
   /// application.
   bool performKeyEquivalent(const ui::KeyEvent& event);
 
@@ -60,7 +59,7 @@ class AppDelegate {
   void addDisplayChooser(std::vector<StatusMenuEntry>& entries);
   void addActions(std::vector<StatusMenuEntry>& entries);
   void rebuildMenuAndIcon();
-  /// Closes the menu, and runs the action when it has closed.
+  /// An action that closes the menu and then runs `action`.
   [[nodiscard]] std::function<void()> closingTheMenu(std::function<void()> action);
 
   std::optional<appkit::StatusItem> statusItem_;

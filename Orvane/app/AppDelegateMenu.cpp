@@ -1,5 +1,5 @@
-// The menu under the status item: a compact control panel, brought in step with the model whenever
-// it opens, after each action taken in it, and when the guard or the language changes.
+// The status item's menu: a compact control panel, updated from the model whenever it opens, after
+// each of its actions, and when the guard or the language changes.
 #include <string>
 #include <utility>
 #include <vector>

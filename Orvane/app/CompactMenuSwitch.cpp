@@ -1,4 +1,4 @@
-// A small switch that only shows a state; the row that it stands in does the switching.
+// A small switch that only shows a state; its row handles the clicks.
 #include "Orvane/app/CompactMenuSwitch.hpp"
 
 #include "Orvane/panels/main/OrvanePalette.hpp"
@@ -22,7 +22,7 @@ View CompactMenuSwitch::body(const Environment& environment) const {
                         .castShadow({.color = Color::black().opacity(0.14), .radius = 1, .y = 0.5})
                         .frame(15, 15)
                         .padding(1.5);
-  // The faint track of a switch that is off would be lost without an outline: this one has a
+  // The track of a switch that is off is too faint to see without an outline; the outline has a
   // contrast of at least 3 to 1 with the menu.
   const Color rim = OrvanePalette::outline(
       isOn ? Color::clear() : Color::primary().opacity(offRimOpacity), environment);

@@ -1,4 +1,4 @@
-// A small switch that only shows a state; the row that it stands in does the switching.
+// A small switch that only shows a state; its row handles the clicks.
 #pragma once
 
 #include "Orvane/ui/views/View.hpp"

@@ -1,4 +1,4 @@
-// The entry of the application: it puts the parts together that do not know each other.
+// The application's entry point: connects the parts that do not know each other.
 #include "Orvane/app/OrvaneApp.hpp"
 
 #include <utility>

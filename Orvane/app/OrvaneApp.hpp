@@ -1,5 +1,5 @@
-// The entry of the application: it puts the parts together that do not know each other, and owns
-// them for the life of the process, the same on every platform.
+// The application's entry point on every platform: connects the parts that do not know each other,
+// and owns them for the life of the process.
 #pragma once
 
 #include <optional>
@@ -14,8 +14,8 @@ namespace orvane {
 /// Main thread only.
 class OrvaneApp {
  public:
-  /// To be called once in a process, before the platform says that the application has launched.
-  /// No window is made; all are opened on demand.
+  /// To be called once per process, before the platform reports that the application has launched.
+  /// Creates no window; each is created on demand.
   static void install();
 
  private:
@@ -26,8 +26,8 @@ class OrvaneApp {
   AppDelegate delegate_;
   std::optional<TapWatch> tapWatch_;
   Subscription guardChanges_;
-  /// While the guard runs: every movement of the pointer waits for this process, and the system
-  /// would slow down one without a window.
+  /// Present while the guard runs: the system slows down a process without windows, and every
+  /// movement of the pointer waits for this one.
   std::optional<appkit::Activity> activity_;
 };
 

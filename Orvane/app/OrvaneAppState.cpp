@@ -1,4 +1,4 @@
-// Holds what exists once in the process: the model.
+// Holds the process's only model.
 #include "Orvane/app/OrvaneAppState.hpp"
 
 #include "Orvane/base/ProcessShared.hpp"

@@ -1,4 +1,4 @@
-// Holds what exists once in the process: the model.
+// Holds the process's only model.
 #pragma once
 
 #include "Orvane/model/OrvaneModel.hpp"
@@ -9,7 +9,7 @@ class OrvaneAppState {
  public:
   OrvaneAppState() = delete;
 
-  /// The one model, created when it is first asked for. Main thread only.
+  /// Created on first use. Main thread only.
   static OrvaneModel& model();
 };
 

@@ -1,4 +1,4 @@
-// Asks each part of the application once.
+// Reads each part of the application once.
 #include "Orvane/app/OrvaneSnapshot.hpp"
 
 #include "Orvane/app/OrvaneAppState.hpp"

@@ -16,14 +16,14 @@
 
 namespace orvane {
 
-/// A plain value. Without more said, that of an application that does not run.
+/// A plain value; by default that of an application that does not run.
 struct OrvaneSnapshot {
   GuardSnapshot guard = {};
   OrvaneMode mode = OrvaneMode::off;
   OrvaneStatus status = OrvaneStatus::unlocked;
 
   std::optional<std::string> selectedDisplayID = std::nullopt;
-  /// None when it is not attached.
+  /// None when that display is not attached.
   std::optional<DisplaySnapshot> selectedDisplay = std::nullopt;
   bool hasAccessibilityPermission = false;
   bool isTemporarilyUnlocked = false;
@@ -43,7 +43,7 @@ struct OrvaneSnapshot {
   bool asksForPermission = false;
   OrvanePermissionGuideWindowController::Snapshot guide = {};
 
-  /// Of the application, which must be running. Main thread only.
+  /// The state of the running application. Main thread only.
   [[nodiscard]] static OrvaneSnapshot current();
 };
 

@@ -1,4 +1,4 @@
-// Which items of the menu stay, and what each is made of.
+// Updates the menu's items, keeping those whose entries are of the same kind.
 #include "Orvane/app/StatusMenu.hpp"
 
 #include <algorithm>
@@ -57,7 +57,7 @@ void StatusMenu::show(const std::vector<StatusMenuEntry>& entries) {
   const auto isSameKind = [](const Shown& shown, const StatusMenuEntry& entry) {
     return shown.entry->index() == entry.index();
   };
-  // Displays come and go in the middle; what is above and below them stays.
+  // Displays come and go in the middle; the entries above and below them stay.
   const std::size_t common = std::min(shown_.size(), entries.size());
   const std::size_t above = static_cast<std::size_t>(
       std::distance(entries.begin(), std::ranges::mismatch(shown_, entries, isSameKind).in2));

@@ -1,4 +1,4 @@
-// The menu under the status item as a list of entries.
+// The status item's menu as a list of entries.
 #pragma once
 
 #include <cstddef>
@@ -25,21 +25,21 @@ class StatusMenu {
   /// In points.
   explicit StatusMenu(double headerWidth) : headerWidth_(headerWidth) {}
 
-  /// Shows these entries and no others. An item stays, with its view, where the entry is of the
-  /// same kind as before: a row may ask for this from within its own click, while the menu is open.
+  /// Replaces the entries. An item keeps its view if its entry is of the same kind as before, so a
+  /// row may call this from its own click handler, while the menu is open.
   void show(const std::vector<StatusMenuEntry>& entries);
 
   [[nodiscard]] appkit::Menu& menu() { return menu_; }
 
  private:
   struct Shown {
-    /// What the view reads.
+    /// Read by the view.
     std::shared_ptr<StatusMenuEntry> entry;
     std::optional<appkit::HostingView> view;
   };
 
   [[nodiscard]] CGSize sizeOf(const StatusMenuEntry& entry) const;
-  /// None for a separator, which the menu draws.
+  /// None for a separator, which the menu itself draws.
   [[nodiscard]] std::optional<appkit::HostingView> viewOf(
       const std::shared_ptr<StatusMenuEntry>& entry) const;
   void insert(std::size_t index, const StatusMenuEntry& entry);

@@ -1,4 +1,4 @@
-// One row of the status menu: an icon badge, a title, and a switch where the row has one.
+// A row of the status menu: an icon badge, a title, and an optional switch.
 #include "Orvane/app/StatusMenuRow.hpp"
 
 #include "Orvane/app/CompactMenuSwitch.hpp"
@@ -15,8 +15,8 @@ using namespace ui;
 namespace {
 
 constexpr double disabledOpacity = 0.45;
-/// Beside a switch are 117 points, and "Prevent Dock Pop-Up" is not to be cut: so much room is
-/// there for a face in which it takes up to 127.
+/// A title beside a switch has 117 points. Tightened by this, "Prevent Dock Pop-Up" fits uncut in a
+/// font in which it is up to 127 points wide.
 constexpr double titleTightening = 0.08;
 constexpr double switchSpacing = 3;
 
@@ -36,7 +36,7 @@ View StatusMenuRow::iconBadge() const {
 }
 
 View StatusMenuRow::content(bool isHovered) const {
-  // Rows with a switch never show a highlight, on purpose.
+  // Rows with a switch show no highlight, on purpose.
   const bool isHighlighted = isHovered && !isOn;
   const View line =
       Text(title)
@@ -44,7 +44,7 @@ View StatusMenuRow::content(bool isHovered) const {
           .foreground(isEnabled ? Color::primary() : Color::secondary().opacity(disabledOpacity))
           .lineLimit(1)
           .allowsTightening(titleTightening)
-          // The end says which of two displays of a kind it is, and which is the main one.
+          // The end of the title distinguishes two displays of a kind and marks the main one.
           .truncationMode(TruncationMode::middle)
           .frame({.height = 26, .maximumWidth = infinity, .alignment = Alignment::leading()})
           .padding({.leading = 8});

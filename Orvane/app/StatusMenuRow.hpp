@@ -1,4 +1,4 @@
-// One row of the status menu: an icon badge, a title, and a switch where the row has one.
+// A row of the status menu: an icon badge, a title, and an optional switch.
 #pragma once
 
 #include <functional>
@@ -19,7 +19,7 @@ struct StatusMenuRow {
   bool isSelected = false;
   /// A disabled row is dimmed and ignores clicks.
   bool isEnabled = true;
-  /// None: the row has no switch.
+  /// The state of the row's switch; none without a switch.
   std::optional<bool> isOn = std::nullopt;
   /// In points.
   double rowWidth = 208;

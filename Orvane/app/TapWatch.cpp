@@ -1,4 +1,4 @@
-// What each look finds, and what follows.
+// The checks and their effects.
 #include "Orvane/app/TapWatch.hpp"
 
 #include <utility>
@@ -9,7 +9,7 @@ TapWatch::TapWatch(OrvaneModel& model)
     : model_(model),
       wasMissing_(!model.hasAccessibilityPermission().value()),
       timer_(appkit::Timer::repeating(intervalSeconds, appkit::RunLoopMode::common,
-                                      [this] { look(); })),
+                                      [this] { check(); })),
       permissionObserver_(appkit::NotificationCenter::addObserver(
           appkit::NotificationName::accessibilityPermissionsDidChange,
           [this] { permissionsChanged(); })) {}
@@ -19,25 +19,25 @@ TapWatch::~TapWatch() {
 }
 
 void TapWatch::permissionsChanged() {
-  if (model_.isPermissionDoubted() || model_.guardService().isTapRefused()) {
-    // The system may grant now what it refused before.
-    model_.believePermission();
+  if (model_.isPermissionStale() || model_.guardService().wasTapRefused()) {
+    // The system may no longer refuse the tap.
+    model_.clearStalePermission();
     wasMissing_ = true;
   }
-  look();
+  check();
 }
 
-void TapWatch::look() {
+void TapWatch::check() {
   if (!model_.refreshPermission()) {
     wasMissing_ = true;
-    model_.believePermission();
+    model_.clearStalePermission();
     if (model_.isGuardRunning()) {
-      // Now, not by the main queue: it stands still in a modal session, and so would the pointer.
+      // Not on the main queue, which is suspended in a modal session: the pointer would freeze.
       model_.suspendGuard();
     }
     return;
   }
-  if (model_.isPermissionDoubted()) {
+  if (model_.isPermissionStale()) {
     return;
   }
   if (const bool isBack = std::exchange(wasMissing_, false); model_.isGuardRunning()) {
@@ -49,22 +49,22 @@ void TapWatch::look() {
 
 void TapWatch::resumeGuard() {
   model_.resumeGuard();
-  if (model_.guardService().isTapRefused()) {
+  if (model_.guardService().wasTapRefused()) {
     giveUp();
   }
 }
 
 void TapWatch::reviveTap() {
   model_.reviveGuard();
-  if (model_.guardService().isTapRefused()) {
+  if (model_.guardService().wasTapRefused()) {
     giveUp();
   }
 }
 
 void TapWatch::giveUp() {
-  // A guard that went on waiting for the displays would ask for a tap at each change of them.
+  // A guard that waits for the displays would request a tap at each change of them.
   model_.suspendGuard();
-  model_.doubtPermission();
+  model_.markPermissionStale();
   wasMissing_ = true;
 }
 

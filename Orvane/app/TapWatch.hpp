@@ -1,6 +1,6 @@
-// TapWatch keeps the guard's event tap and the Accessibility permission together. The window server
-// waits for an active tap with every movement of the pointer, so a tap without the permission must
-// not stay; and a guard that the user wants must come back with the permission.
+// TapWatch synchronises the guard's event tap with the Accessibility permission. The window server
+// waits for an active tap at every movement of the pointer, so a tap without the permission must be
+// removed; and when the permission returns, so must a guard that the user wants.
 #pragma once
 
 #include "Orvane/model/OrvaneModel.hpp"
@@ -12,11 +12,11 @@ namespace orvane {
 /// Main thread only.
 class TapWatch {
  public:
-  /// A tap outlives its permission by no more than this.
+  /// The longest time that a tap outlives its permission.
   static constexpr double intervalSeconds = 1.0;
 
-  /// Looks once in every interval from now on, also while a menu is open or a modal session runs,
-  /// and whenever the system announces a change of the permissions. `model` must live at each look.
+  /// Starts checking once per interval, also while a menu is open or a modal session runs, and at
+  /// each notification of changed permissions. `model` must outlive the watch.
   explicit TapWatch(OrvaneModel& model);
   TapWatch(const TapWatch&) = delete;
   TapWatch& operator=(const TapWatch&) = delete;
@@ -24,14 +24,14 @@ class TapWatch {
 
  private:
   void permissionsChanged();
-  void look();
+  void check();
   void resumeGuard();
   void reviveTap();
-  /// The system refuses the tap although it says that the permission is there.
+  /// Called when the system refuses the tap although it reports the permission as granted.
   void giveUp();
 
   OrvaneModel& model_;
-  /// The permission was missing, or doubted, at the last look or at launch.
+  /// The permission was missing or stale at the last check, or at launch.
   bool wasMissing_;
   appkit::Timer timer_;
   appkit::ObserverToken permissionObserver_;

@@ -57,8 +57,8 @@ class DockMouseGuard {
 
   /// The guard is running when it holds an event tap.
   [[nodiscard]] bool isRunning() const { return static_cast<bool>(eventTap_); }
-  /// Whether there are zones to guard but the system refused the last tap.
-  [[nodiscard]] bool isTapRefused() const { return !eventTap_ && !cachedTriggerZones_.empty(); }
+  /// Whether the guard has zones but no tap, because the system refused the last one.
+  [[nodiscard]] bool wasTapRefused() const { return !eventTap_ && !cachedTriggerZones_.empty(); }
   /// Whether these are the settings of the last successful start. A start without the permission
   /// leaves a running guard with the settings that it had.
   [[nodiscard]] bool isSetTo(const std::string& targetDisplayID, OrvaneModifier modifier,

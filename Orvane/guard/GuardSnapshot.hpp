@@ -1,4 +1,4 @@
-// GuardSnapshot is what a guard is and does at one moment.
+// GuardSnapshot is the state of a guard at one moment.
 #pragma once
 
 #include <cstddef>
@@ -11,9 +11,9 @@
 
 namespace orvane {
 
-/// Without more said, that of a new guard.
+/// By default that of a new guard.
 struct GuardSnapshot {
-  /// It holds an event tap.
+  /// The guard holds an event tap.
   bool isRunning = false;
   bool isObservingScreens = false;
   /// In global display coordinates, in the order in which they are tried.

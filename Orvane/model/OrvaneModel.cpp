@@ -33,7 +33,7 @@ OrvaneModel::OrvaneModel()
       launchAtLoginRequiresApproval_(LoginItem::status() == LoginItem::Status::requiresApproval,
                                      &changes_),
       launchAtLoginErrorMessage_(std::nullopt, &changes_),
-      isLaunchAtLoginMisplaced_(false, &changes_) {
+      wasLaunchAtLoginBlocked_(false, &changes_) {
   installGuardCallbacks();
   observeScreenChanges();
 }
@@ -156,12 +156,12 @@ void OrvaneModel::setAppLanguage(OrvaneLanguage language) {
 
 bool OrvaneModel::refreshPermission() {
   const bool isTrusted = AXIsProcessTrusted() != 0;
-  hasAccessibilityPermission_.set(isTrusted && !isPermissionDoubted_);
+  hasAccessibilityPermission_.set(isTrusted && !isPermissionStale_);
   return isTrusted;
 }
 
-void OrvaneModel::doubtPermission() {
-  isPermissionDoubted_ = true;
+void OrvaneModel::markPermissionStale() {
+  isPermissionStale_ = true;
   hasAccessibilityPermission_.set(false);
 }
 
@@ -176,16 +176,16 @@ void OrvaneModel::refreshLaunchAtLoginStatus() {
 
 void OrvaneModel::setLaunchAtLoginEnabled(bool enabled) {
   wantsLaunchAtLogin_ = enabled;
-  isLaunchAtLoginMisplaced_.set(enabled && !OrvaneLoginItem::isInPermanentLocation());
+  wasLaunchAtLoginBlocked_.set(enabled && !OrvaneLoginItem::isInPermanentLocation());
   launchAtLoginErrorMessage_.set(
-      isLaunchAtLoginMisplaced_.value() ? std::nullopt : OrvaneLoginItem::setEnabled(enabled));
+      wasLaunchAtLoginBlocked_.value() ? std::nullopt : OrvaneLoginItem::setEnabled(enabled));
   refreshLaunchAtLoginStatus();
 }
 
 void OrvaneModel::openAccessibilitySettings() {
   constexpr double recheckSeconds = 1.0;
   OrvaneAccessibilityPermission::openSystemSettings();
-  believePermission();
+  clearStalePermission();
   refreshPermission();
   appkit::MainQueue::asyncAfter(recheckSeconds,
                                 lifetime_.whileAlive([this] { refreshPermission(); }));

@@ -97,15 +97,15 @@ class OrvaneModel {
   void setTemporaryUnlockModifier(OrvaneModifier modifier);
   /// Stores the choice and re-reads the displays, whose names depend on it.
   void setAppLanguage(OrvaneLanguage language);
-  /// Asks the system whether the permission is granted, and returns its answer. A doubted
-  /// permission counts as missing nevertheless.
+  /// Asks the system whether the permission is granted, and returns its answer. A stale permission
+  /// counts as missing all the same.
   bool refreshPermission();
   /// To be called when the system reports the permission as granted and yet refuses the tap, as it
   /// does after the application was removed from its list. The permission then counts as missing
-  /// until the user requests it or the guard, or until `believePermission` and the next refresh.
-  void doubtPermission();
-  void believePermission() { isPermissionDoubted_ = false; }
-  [[nodiscard]] bool isPermissionDoubted() const { return isPermissionDoubted_; }
+  /// until the user requests it or the guard, or until the refresh after `clearStalePermission`.
+  void markPermissionStale();
+  void clearStalePermission() { isPermissionStale_ = false; }
+  [[nodiscard]] bool isPermissionStale() const { return isPermissionStale_; }
 
   void refreshDisplays();
   void selectDisplay(const std::string& id);
@@ -117,7 +117,7 @@ class OrvaneModel {
   /// To be called once at launch: restarts the guard if it was on when the application quit and can
   /// start.
   void restoreLockIfNeeded();
-  /// Stops the guard but keeps the stored wish that it run.
+  /// Stops the guard; the stored setting still says that the user wants it on.
   void suspendGuard();
   /// Starts the guard if the user wants it on and it is not running. A guard whose target is not
   /// attached waits for it.
@@ -132,9 +132,9 @@ class OrvaneModel {
   void refreshLaunchAtLoginStatus();
   /// Registers nothing while the application is in a temporary location.
   void setLaunchAtLoginEnabled(bool enabled);
-  /// Whether the user requested the login item from a temporary location, and it does not exist.
-  [[nodiscard]] bool isLaunchAtLoginMisplaced() const {
-    return isLaunchAtLoginMisplaced_.value() && !launchAtLoginEnabled_.value();
+  /// Whether the user requested the login item from a temporary location and it does not exist.
+  [[nodiscard]] bool isLaunchAtLoginBlocked() const {
+    return wasLaunchAtLoginBlocked_.value() && !launchAtLoginEnabled_.value();
   }
   /// Whether the last change failed and the login item still differs from the user's request.
   [[nodiscard]] bool isLaunchAtLoginFailing() const {
@@ -178,7 +178,7 @@ class OrvaneModel {
   Published<std::optional<bool>> lastRestoreSucceeded_;
   Published<CFAbsoluteTime> lastCheckedAt_;
   bool isRestoreBlocked_ = false;
-  bool isPermissionDoubted_ = false;
+  bool isPermissionStale_ = false;
   bool wantsLaunchAtLogin_ = false;
   /// User actions on the guard, including permission requests, are numbered. The last one
   /// determines the guard's state.
@@ -192,7 +192,7 @@ class OrvaneModel {
   Published<bool> launchAtLoginEnabled_;
   Published<bool> launchAtLoginRequiresApproval_;
   Published<std::optional<std::string>> launchAtLoginErrorMessage_;
-  Published<bool> isLaunchAtLoginMisplaced_;
+  Published<bool> wasLaunchAtLoginBlocked_;
   DockMouseGuard guardService_;
   std::optional<appkit::ObserverToken> screenObserver_;
   Lifetime lifetime_;

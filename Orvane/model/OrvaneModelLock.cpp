@@ -52,7 +52,7 @@ void OrvaneModel::toggleLock() {
     noteChecked();
     return;
   }
-  believePermission();
+  clearStalePermission();
   refreshDisplays();
   // The target need not be attached: the guard then waits for it, and the status reports that.
   const auto start = [this] {
@@ -91,7 +91,7 @@ void OrvaneModel::toggleHideDockOnAllDisplays() {
     return;
   }
   if (!hidesDockOnAllDisplays_.value()) {
-    believePermission();
+    clearStalePermission();
     refreshDisplays();
     if (!hasAccessibilityPermission_.value()) {
       requestAccessibilityForAllDisplayGuard();
@@ -120,7 +120,7 @@ void OrvaneModel::requestPermission(std::function<void(std::uint64_t request)> s
         if (request < lastUserAction_) {
           return;
         }
-        believePermission();
+        clearStalePermission();
         refreshDisplays();
         start(request);
         // The start counts as old as its request, so that a later request still supersedes it.

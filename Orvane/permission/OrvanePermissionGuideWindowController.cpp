@@ -96,7 +96,8 @@ OrvanePermissionGuideWindowController::Snapshot OrvanePermissionGuideWindowContr
   const OrvanePermissionGuideWindowController& guide = shared();
   return {.state = guide.state_,
           .isVisible = guide.panel_.isVisible(),
-          .isPolling = guide.checkTimer_.has_value()};
+          .isPolling = guide.checkTimer_.has_value(),
+          .frame = guide.panel_.frame()};
 }
 
 void OrvanePermissionGuideWindowController::show(std::function<void()> onGranted) {

@@ -16,12 +16,14 @@ namespace orvane {
 /// Main thread only.
 class OrvanePermissionGuideWindowController {
  public:
-  /// The guide at one moment. The defaults are those of a guide that was never shown.
+  /// The state of the guide at one moment; by default that of a guide that was never shown.
   struct Snapshot {
     PermissionGuideState state = PermissionGuideState::checking;
     bool isVisible = false;
-    /// Whether it polls for the permission.
+    /// It checks for the permission once a second.
     bool isPolling = false;
+    /// The panel's, in window-system coordinates.
+    CGRect frame{};
   };
 
   OrvanePermissionGuideWindowController();
@@ -38,8 +40,6 @@ class OrvanePermissionGuideWindowController {
   void show(std::function<void()> onGranted);
   /// Closes the guide, stops polling and drops `onGranted`.
   void close();
-
-  [[nodiscard]] const appkit::Window& panel() const { return panel_; }
 
  private:
   void setState(PermissionGuideState state);

@@ -22,9 +22,9 @@ void ApplicationHost::launch() {
   machine_.process.start();
   OrvaneApp::install();
   WindowServer::current().application.finishLaunching();
-  // Only now, so that the model is created at the same time as on a Mac. The guard's first messages
-  // are still queued.
-  listenToGuard();
+  // After the launch, which creates the model, and before the main queue delivers the guard's first
+  // messages.
+  recordGuardMessages();
   machine_.runDue();
 }
 
@@ -55,7 +55,7 @@ OrvaneModel& ApplicationHost::model() const {
   return OrvaneAppState::model();
 }
 
-void ApplicationHost::listenToGuard() {
+void ApplicationHost::recordGuardMessages() {
   DockMouseGuard& guard = model().guardService();
   guard.onEvent = [this, toOwner = std::move(guard.onEvent)](const std::string& message) {
     messages_.push_back({machine_.clock.now(), message});

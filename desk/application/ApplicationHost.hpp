@@ -47,7 +47,8 @@ class ApplicationHost {
   [[nodiscard]] std::int64_t launchedAtNanoseconds() const { return launchedAt_; }
 
  private:
-  void listenToGuard();
+  /// Wraps the callback through which the model receives the guard's messages.
+  void recordGuardMessages();
 
   Machine& machine_;
   SystemSettings& systemSettings_;

@@ -118,8 +118,8 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
   observation.status = observation.snapshot.status;
   observation.isGuidePolling = observation.snapshot.guide.isPolling;
   observation.guideState = observation.snapshot.guide.state;
-  observation.isTapRefused = model.guardService().isTapRefused();
-  observation.isDoubted = model.isPermissionDoubted();
+  observation.isTapRefused = model.guardService().wasTapRefused();
+  observation.isDoubted = model.isPermissionStale();
   observation.isRestoreBlocked = model.isRestoreBlocked();
   observation.messageCount = application.messages().size();
   if (!application.messages().empty()) {

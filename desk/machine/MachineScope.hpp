@@ -12,10 +12,10 @@ namespace orvane::desk {
 /// What was found wrong when a machine was switched off.
 struct MachineEnd {
   /// Leaked Core Foundation objects, one line each.
-  std::vector<std::string> leftObjects;
+  std::vector<std::string> leakedObjects;
   std::vector<std::string> faults;
 
-  [[nodiscard]] bool isClean() const { return leftObjects.empty() && faults.empty(); }
+  [[nodiscard]] bool isClean() const { return leakedObjects.empty() && faults.empty(); }
 };
 
 /// Only one at a time.

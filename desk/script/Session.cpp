@@ -25,7 +25,7 @@ void Session::end() {
     return;
   }
   const MachineEnd machineEnd = state_->scope.end();
-  for (const std::string& object : machineEnd.leftObjects) {
+  for (const std::string& object : machineEnd.leakedObjects) {
     problems_.push_back("not released: " + object);
   }
   for (const std::string& fault : machineEnd.faults) {

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "Orvane/base/RunningCopy.hpp"
+#include "macos/handover/RunningCopy.hpp"
 
 /// Receives the requests of later copies; lives as long as the process.
 @interface OrvaneHandoverObserver : NSObject

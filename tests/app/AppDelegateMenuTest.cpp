@@ -1,11 +1,9 @@
-// The menu under the status item: its rows, what they do, and what of it stays open.
-#include <map>
+// The status item's menu: its rows and their actions.
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "tests/app/AppFixture.hpp"
-#include "tests/support/RecordingCanvas.hpp"
 
 namespace orvane {
 namespace {
@@ -19,7 +17,7 @@ class AppDelegateMenuTest : public AppFixture {
     ASSERT_TRUE(openMenu());
   }
   [[nodiscard]] bool isOpen() { return server().menus.isStatusMenuOpen(); }
-  /// Those of all rows, from above.
+  /// Of all rows, from top to bottom.
   [[nodiscard]] std::vector<std::shared_ptr<desk::HostedView>> views() {
     std::vector<std::shared_ptr<desk::HostedView>> all;
     server().menus.layOut();
@@ -30,38 +28,9 @@ class AppDelegateMenuTest : public AppFixture {
     }
     return all;
   }
-  /// The grey of a row's highlight, if the row shows one.
-  [[nodiscard]] bool isHighlighted(const std::string& title) {
-    for (const desk::MenuRow& shown : server().menus.rows()) {
-      if (server().menus.menu()->items[shown.itemIndex].title == title) {
-        ui::RecordingCanvas canvas;
-        shown.view->update();
-        shown.view->host().paint(canvas, {0, 0, 208, 30});
-        // A rounded rectangle of radius 6, three points from the sides and two from above.
-        return canvas.text().find("3 2 202 26") != std::string::npos &&
-               canvas.text() != idleDrawing(title);
-      }
-    }
-    return false;
-  }
-  void rememberIdleDrawings() {
-    for (const desk::MenuRow& shown : server().menus.rows()) {
-      if (shown.view != nullptr) {
-        ui::RecordingCanvas canvas;
-        shown.view->update();
-        shown.view->host().paint(canvas, {0, 0, 208, 30});
-        idle_[server().menus.menu()->items[shown.itemIndex].title] = canvas.text();
-      }
-    }
-  }
-
- private:
-  [[nodiscard]] std::string idleDrawing(const std::string& title) { return idle_[title]; }
-
-  std::map<std::string, std::string> idle_;
 };
 
-TEST_F(AppDelegateMenuTest, ShowsSwitchesDisplaysAndActionsInTheirOrder) {
+TEST_F(AppDelegateMenuTest, ShowsSwitchesThenDisplaysThenActions) {
   beginWithOpenMenu();
   EXPECT_EQ(menuText(),
             "power | Open at Login | off\n-\neye.slash | Prevent Dock Pop-Up | off\n"
@@ -89,7 +58,7 @@ TEST_F(AppDelegateMenuTest, HasRowsOf208By30PointsAndAHeaderOf208By26) {
   EXPECT_EQ(views, 9);
 }
 
-TEST_F(AppDelegateMenuTest, ItsItemsSayWhatIsOnAndWhatIsChosen) {
+TEST_F(AppDelegateMenuTest, ItsItemsAreOnForSwitchesThatAreOnAndForTheChosenDisplay) {
   const auto itemsThatAreOn = [] {
     std::vector<std::string> titles;
     for (const appkit::MenuItem& item : server().menus.menu()->items) {
@@ -106,7 +75,7 @@ TEST_F(AppDelegateMenuTest, ItsItemsSayWhatIsOnAndWhatIsChosen) {
 }
 
 TEST_F(AppDelegateMenuTest, WithoutATargetPinningIsDisabledAndPreventingWorks) {
-  // Nothing has listed the displays before the menu is opened for the first time.
+  // The displays are first listed when the menu opens.
   begin();
   EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | off | disabled");
   EXPECT_FALSE(pressRow("Pin Dock"));
@@ -117,7 +86,7 @@ TEST_F(AppDelegateMenuTest, WithoutATargetPinningIsDisabledAndPreventingWorks) {
   EXPECT_EQ(icon(), "lock.fill");
 }
 
-TEST_F(AppDelegateMenuTest, WithoutDisplaysOneDisabledRowStandsForThem) {
+TEST_F(AppDelegateMenuTest, WithoutDisplaysADisabledRowSaysSo) {
   machine.permission.setTrusted(true);
   application.launch();
   EXPECT_EQ(menuText(),
@@ -127,14 +96,14 @@ TEST_F(AppDelegateMenuTest, WithoutDisplaysOneDisabledRowStandsForThem) {
             "macwindow | Open Window\ngearshape | Settings\npower | Quit\n");
 }
 
-TEST_F(AppDelegateMenuTest, TheRowWithoutDisplaysIsChineseToo) {
+TEST_F(AppDelegateMenuTest, WithoutDisplaysTheRowIsChineseInChinese) {
   store("appLanguage", std::string("chinese"));
   application.launch();
   EXPECT_EQ(row("未检测到显示器"),
             "display.trianglebadge.exclamationmark | 未检测到显示器 | disabled");
 }
 
-TEST_F(AppDelegateMenuTest, OpeningReadsDisplaysPermissionAndLoginItemAnew) {
+TEST_F(AppDelegateMenuTest, OpeningRefreshesDisplaysPermissionAndLoginItem) {
   begin();
   desk::attach(machine, desk::monitorAbove());
   machine.loginItem.status = appkit::LoginItem::Status::enabled;
@@ -145,19 +114,11 @@ TEST_F(AppDelegateMenuTest, OpeningReadsDisplaysPermissionAndLoginItemAnew) {
   EXPECT_FALSE(model().hasAccessibilityPermission().value());
 }
 
-TEST_F(AppDelegateMenuTest, OpeningMarksAStoredAliasByItsDisplay) {
-  store("selectedDisplayID", std::string("2"));
-  begin();
-  ASSERT_TRUE(openMenu());
-  EXPECT_EQ(row("Studio"), "display | Studio | selected");
-  EXPECT_EQ(row("Display (Main)"), "display | Display (Main)");
-}
-
-TEST_F(AppDelegateMenuTest, AnAliasThatIsChosenWhileTheMenuIsOpenMarksNoRowUntilItOpensAgain) {
+TEST_F(AppDelegateMenuTest, AnAliasChosenWhileTheMenuIsOpenMarksNoRowUntilItReopens) {
   beginWithOpenMenu();
   ASSERT_EQ(row("Display (Main)"), "display | Display (Main) | selected");
   model().selectDisplay("2");
-  // A switch builds the menu anew and lists no displays.
+  // A switch rebuilds the menu without listing the displays.
   ASSERT_TRUE(press("Open at Login"));
   ASSERT_EQ(model().selectedDisplayID().value(), "2");
   ASSERT_EQ(model().selectedDisplay()->name, "Studio");
@@ -167,34 +128,17 @@ TEST_F(AppDelegateMenuTest, AnAliasThatIsChosenWhileTheMenuIsOpenMarksNoRowUntil
   EXPECT_EQ(row("Studio"), "display | Studio | selected");
 }
 
-TEST_F(AppDelegateMenuTest, OpeningBringsTheIconUpToDate) {
-  begin();
-  model().refreshDisplays();
-  model().toggleSelectedDisplayLock();
-  ASSERT_EQ(icon(), "lock.open");
-  ASSERT_TRUE(openMenu());
-  EXPECT_EQ(icon(), "lock.fill");
-}
-
-TEST_F(AppDelegateMenuTest, TheIconFollowsTheGuardAtOnceWhileTheMenuIsOpen) {
-  beginWithOpenMenu();
-  ASSERT_TRUE(press("Pin Dock"));
-  letBlockingRunAway();
-  ASSERT_FALSE(model().isGuardRunning());
-  EXPECT_TRUE(isOpen());
-  EXPECT_EQ(icon(), "lock.open");
-}
-
-TEST_F(AppDelegateMenuTest, AnOpenMenuShowsThatTheGuardHasStoppedByItself) {
+TEST_F(AppDelegateMenuTest, AnOpenMenuShowsThatTheGuardHasShutItselfOff) {
   beginWithOpenMenu();
   ASSERT_TRUE(press("Pin Dock"));
   ASSERT_EQ(row("Pin Dock"), "lock | Pin Dock | on");
   letBlockingRunAway();
   ASSERT_TRUE(isOpen());
   EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | off");
+  EXPECT_EQ(icon(), "lock.open");
 }
 
-TEST_F(AppDelegateMenuTest, ARowStaysWhereItIsThroughItsOwnClick) {
+TEST_F(AppDelegateMenuTest, ARowKeepsItsViewDuringItsOwnClick) {
   beginWithOpenMenu();
   const auto before = views();
   ASSERT_TRUE(press("Pin Dock"));
@@ -202,7 +146,7 @@ TEST_F(AppDelegateMenuTest, ARowStaysWhereItIsThroughItsOwnClick) {
   EXPECT_EQ(views(), before);
 }
 
-TEST_F(AppDelegateMenuTest, ADisplayMoreOrLessLeavesTheOtherRowsWhereTheyAre) {
+TEST_F(AppDelegateMenuTest, AddingOrRemovingADisplayKeepsTheOtherRows) {
   beginWithOpenMenu();
   const auto two = views();
   desk::attach(machine, desk::monitorAbove());
@@ -219,7 +163,7 @@ TEST_F(AppDelegateMenuTest, ADisplayMoreOrLessLeavesTheOtherRowsWhereTheyAre) {
   EXPECT_EQ(row("Studio"), "no row Studio");
 }
 
-TEST_F(AppDelegateMenuTest, WhatClosesTheMenuIsDoneWhenTheClickIsOver) {
+TEST_F(AppDelegateMenuTest, AnActionRunsAfterTheMenuHasClosed) {
   beginWithOpenMenu();
   moveTo(middleOf("Open Window"));
   hand.pressButton();
@@ -230,7 +174,7 @@ TEST_F(AppDelegateMenuTest, WhatClosesTheMenuIsDoneWhenTheClickIsOver) {
   EXPECT_TRUE(desk::Surfaces(server()).isOpen("main"));
 }
 
-TEST_F(AppDelegateMenuTest, SwitchesFlipInPlaceAndLeaveTheMenuOpen) {
+TEST_F(AppDelegateMenuTest, SwitchesLeaveTheMenuOpen) {
   beginWithOpenMenu();
   ASSERT_TRUE(press("Pin Dock"));
   EXPECT_TRUE(isOpen());
@@ -244,7 +188,7 @@ TEST_F(AppDelegateMenuTest, SwitchesFlipInPlaceAndLeaveTheMenuOpen) {
   EXPECT_EQ(icon(), "lock.open");
 }
 
-TEST_F(AppDelegateMenuTest, OpenAtLoginIsSwitchedOffAgainFromTheMenu) {
+TEST_F(AppDelegateMenuTest, OpenAtLoginCanBeTurnedOff) {
   machine.loginItem.status = appkit::LoginItem::Status::enabled;
   beginWithOpenMenu();
   ASSERT_EQ(row("Open at Login"), "power | Open at Login | on");
@@ -278,7 +222,7 @@ TEST_F(AppDelegateMenuTest, ALoginItemThatCannotBeRegisteredStaysOff) {
   EXPECT_EQ(model().launchAtLoginErrorMessage().value(), "Not today");
 }
 
-TEST_F(AppDelegateMenuTest, ChoosingADisplayWhilePinnedMovesMarkAndGuardAtOnce) {
+TEST_F(AppDelegateMenuTest, ChoosingADisplayWhilePinnedRestartsTheGuardAtOnce) {
   beginWithOpenMenu();
   ASSERT_TRUE(press("Pin Dock"));
   ASSERT_DOUBLE_EQ(application.snapshot().guard.zones.at(0).rect.origin.x, 1920);
@@ -302,16 +246,7 @@ TEST_F(AppDelegateMenuTest, ASwitchWaitsForThePermissionAndTheGuard) {
   EXPECT_EQ(icon(), "lock.open");
 }
 
-TEST_F(AppDelegateMenuTest, OpenWindowClosesTheMenuShowsTheWindowAndActivates) {
-  beginWithOpenMenu();
-  ASSERT_TRUE(press("Open Window"));
-  EXPECT_FALSE(isOpen());
-  EXPECT_TRUE(desk::Surfaces(server()).isOpen("main"));
-  EXPECT_FALSE(desk::Surfaces(server()).isOpen("settings"));
-  EXPECT_TRUE(server().focus.isActive());
-}
-
-TEST_F(AppDelegateMenuTest, WindowsComeInFrontOfThoseOfOtherApplications) {
+TEST_F(AppDelegateMenuTest, WindowsOpenInFrontOfOtherApplications) {
   begin();
   application.systemSettings().open();
   ASSERT_FALSE(server().focus.isActive());
@@ -326,19 +261,12 @@ TEST_F(AppDelegateMenuTest, WindowsComeInFrontOfThoseOfOtherApplications) {
   EXPECT_EQ(server().windows().front()->className, "SystemSettings");
 }
 
-TEST_F(AppDelegateMenuTest, SettingsClosesTheMenuAndShowsTheSettings) {
-  beginWithOpenMenu();
-  ASSERT_TRUE(press("Settings"));
-  EXPECT_FALSE(isOpen());
-  EXPECT_TRUE(desk::Surfaces(server()).isOpen("settings"));
-}
-
-TEST_F(AppDelegateMenuTest, ActionsBringTheIconUpToDate) {
+TEST_F(AppDelegateMenuTest, ActionsUpdateTheIcon) {
   for (const char* const title : {"Open Window", "Settings"}) {
     begin();
     ASSERT_TRUE(openMenu());
     ASSERT_TRUE(press("Pin Dock"));
-    // Stopped by somebody else; no time passes in which the timer could tell the icon.
+    // Not through the menu; the timer has no time to update the icon.
     model().toggleLock();
     EXPECT_EQ(icon(), "lock.fill");
     ASSERT_TRUE(press(title));
@@ -349,44 +277,7 @@ TEST_F(AppDelegateMenuTest, ActionsBringTheIconUpToDate) {
   }
 }
 
-TEST_F(AppDelegateMenuTest, QuitClosesTheMenuAndEndsTheApplication) {
-  beginWithOpenMenu();
-  ASSERT_TRUE(press("Quit"));
-  EXPECT_FALSE(server().menus.isOpen());
-  EXPECT_FALSE(application.isRunning());
-}
-
-TEST_F(AppDelegateMenuTest, TheMainDisplayIsMarkedInTheLanguageOfTheMenu) {
-  store("appLanguage", std::string("chinese"));
-  beginWithOpenMenu();
-  EXPECT_EQ(row("内建显示器 （主要）"), "display | 内建显示器 （主要） | selected");
-}
-
-TEST_F(AppDelegateMenuTest, HoveringHighlightsDisplaysAndActionsButNoSwitch) {
-  beginWithOpenMenu();
-  moveTo({600, 600});
-  rememberIdleDrawings();
-  for (const char* const title : {"Display (Main)", "Studio", "Open Window", "Settings", "Quit"}) {
-    moveTo(middleOf(title));
-    EXPECT_TRUE(isHighlighted(title)) << title;
-    moveTo({600, 600});
-    EXPECT_FALSE(isHighlighted(title)) << title;
-  }
-  for (const char* const title : {"Open at Login", "Prevent Dock Pop-Up", "Pin Dock"}) {
-    moveTo(middleOf(title));
-    EXPECT_FALSE(isHighlighted(title)) << title;
-  }
-}
-
-TEST_F(AppDelegateMenuTest, AClickAnywhereOnARowRunsIt) {
-  beginWithOpenMenu();
-  for (const double x : {4.0, 204.0}) {
-    click({server().menus.frame().origin.x + x, middleOf("Pin Dock").y});
-    EXPECT_EQ(row("Pin Dock"), x < 100 ? "lock | Pin Dock | on" : "lock | Pin Dock | off");
-  }
-}
-
-TEST_F(AppDelegateMenuTest, ArrowsReturnAndSpaceWorkOnRowsAndPassOverDisabledOnes) {
+TEST_F(AppDelegateMenuTest, ArrowsReturnAndSpaceOperateTheRows) {
   beginWithOpenMenu();
   key(ui::Key::down);
   key(ui::Key::down);
@@ -402,7 +293,7 @@ TEST_F(AppDelegateMenuTest, ArrowsReturnAndSpaceWorkOnRowsAndPassOverDisabledOne
   EXPECT_EQ(row("Studio"), "display | Studio | selected");
 }
 
-TEST_F(AppDelegateMenuTest, EscapeAndAClickOutsideCloseItAndChangeNothing) {
+TEST_F(AppDelegateMenuTest, EscapeAndAClickOutsideOnlyCloseIt) {
   beginWithOpenMenu();
   key(ui::Key::down);
   key(ui::Key::escape);
@@ -413,7 +304,7 @@ TEST_F(AppDelegateMenuTest, EscapeAndAClickOutsideCloseItAndChangeNothing) {
   EXPECT_FALSE(model().isGuardRunning());
 }
 
-TEST_F(AppDelegateMenuTest, RowsThatAreKeptOutliveTheApplicationWithoutHarm) {
+TEST_F(AppDelegateMenuTest, ActionsOfRetainedItemsDoNothingAfterTheApplicationsEnd) {
   begin();
   model().refreshDisplays();
   std::vector<std::function<void()>> actions;

@@ -1,7 +1,4 @@
-// The application from its launch to its end, by its icon, its windows and what it stores.
-#include <limits>
-
-#include "Orvane/app/OrvaneAppState.hpp"
+// The application from launch to termination: its icon, its windows and its settings.
 #include "Orvane/permission/OrvanePermissionAlert.hpp"
 #include "tests/app/AppFixture.hpp"
 
@@ -10,46 +7,18 @@ namespace {
 
 using AppDelegateTest = AppFixture;
 
-TEST_F(AppDelegateTest, AFirstLaunchShowsAnOpenLockAndStoresNothing) {
+TEST_F(AppDelegateTest, TheFirstLaunchShowsAnOpenLockAndStoresNothing) {
   attachTwoDisplays();
   application.launch();
   EXPECT_EQ(machine.application.activationPolicy, appkit::ActivationPolicy::accessory);
   EXPECT_EQ(icon(), "lock.open");
   EXPECT_TRUE(server().windows().empty());
   EXPECT_TRUE(machine.userDefaults.values().empty());
-  EXPECT_EQ(machine.runLoop.timerCount(), 2U) << "the icon's, and the watch's";
+  EXPECT_EQ(machine.runLoop.timerCount(), 2U) << "of the icon and of the tap watch";
   EXPECT_FALSE(server().focus.isActive());
 }
 
-TEST_F(AppDelegateTest, TheStatusItemIsASquareWithAnImageOnlyThatMayShrink) {
-  begin();
-  const desk::StatusBarItem* const item = server().statusBar.item();
-  ASSERT_NE(item, nullptr);
-  EXPECT_TRUE(item->hasSquareLength);
-  EXPECT_EQ(item->imagePosition, appkit::ImagePosition::imageOnly);
-  EXPECT_EQ(item->imageScaling, appkit::ImageScaling::proportionallyDown);
-  EXPECT_EQ(item->autosaveName, "Orvane");
-  ASSERT_NE(item->menu, nullptr);
-  EXPECT_TRUE(item->menu->willOpen);
-}
-
-TEST_F(AppDelegateTest, TheIconIsATemplateOfEighteenPointsThatVoiceOverCallsOrvane) {
-  begin();
-  for (const char* const name : {"lock.open", "lock.fill"}) {
-    const desk::SymbolImage& image = *server().statusBar.item()->image;
-    EXPECT_EQ(image.name, name);
-    EXPECT_EQ(image.accessibilityDescription, "Orvane");
-    EXPECT_DOUBLE_EQ(image.pointSize, 16);
-    EXPECT_TRUE(image.isTemplate);
-    EXPECT_DOUBLE_EQ(image.size.width, 18);
-    EXPECT_DOUBLE_EQ(image.size.height, 18);
-    model().refreshDisplays();
-    model().toggleSelectedDisplayLock();
-    machine.advance(1);
-  }
-}
-
-TEST_F(AppDelegateTest, VoiceOverSaysWhetherTheLockIsClosed) {
+TEST_F(AppDelegateTest, VoiceOverReadsTheStateOfTheLock) {
   store("appLanguage", std::string("english"));
   begin();
   const std::string& value = server().statusBar.item()->accessibilityValue;
@@ -66,16 +35,7 @@ TEST_F(AppDelegateTest, VoiceOverSaysWhetherTheLockIsClosed) {
   EXPECT_EQ(value, "未锁定");
 }
 
-TEST_F(AppDelegateTest, AStoredLockIsRestoredAndItsIconClosedBeforeTheFirstTick) {
-  store("isOrvaneEnabled", true);
-  begin();
-  EXPECT_TRUE(model().isGuardRunning());
-  EXPECT_EQ(icon(), "lock.fill");
-  EXPECT_EQ(machine.runLoop.timerFireCount(), 0);
-  EXPECT_EQ(machine.userDefaults.writeCount("isOrvaneEnabled"), 1) << "the test's own write";
-}
-
-TEST_F(AppDelegateTest, WithoutPermissionALaunchAsksForNothingAndOpensNoWindow) {
+TEST_F(AppDelegateTest, WithoutThePermissionALaunchOpensNoWindow) {
   store("isOrvaneEnabled", true);
   attachTwoDisplays();
   application.launch();
@@ -84,10 +44,10 @@ TEST_F(AppDelegateTest, WithoutPermissionALaunchAsksForNothingAndOpensNoWindow) 
   EXPECT_TRUE(server().windows().empty());
   EXPECT_FALSE(server().modal.isRunning());
   EXPECT_TRUE(machine.links.opened().empty());
-  EXPECT_TRUE(OrvaneSettings::isOrvaneEnabled()) << "the wish stays for the next launch";
+  EXPECT_TRUE(OrvaneSettings::isOrvaneEnabled()) << "for the next launch";
 }
 
-TEST_F(AppDelegateTest, AStoredLockWaitsForItsDisplay) {
+TEST_F(AppDelegateTest, AStoredLockDoesNotStartWithoutItsDisplay) {
   store("isOrvaneEnabled", true);
   store("selectedDisplayID", std::string("somewhere else"));
   begin();
@@ -123,14 +83,6 @@ TEST_F(AppDelegateTest, TheIconFollowsTheGuardWithinASecondWhileAnAlertIsUp) {
   EXPECT_EQ(icon(), "lock.open");
 }
 
-TEST_F(AppDelegateTest, TheSameIconAgainChangesNothingOnTheScreen) {
-  begin();
-  machine.advance(3);
-  const long long before = server().updates.changeCount();
-  machine.advance(10);
-  EXPECT_EQ(server().updates.changeCount(), before);
-}
-
 TEST_F(AppDelegateTest, AnotherLanguageRebuildsTheMenuWithTheDisplaysNewNames) {
   store("appLanguage", std::string("english"));
   begin();
@@ -146,29 +98,6 @@ TEST_F(AppDelegateTest, AnotherLanguageRebuildsTheMenuWithTheDisplaysNewNames) {
             "macwindow | 打开窗口\ngearshape | 设置\npower | 退出\n");
 }
 
-TEST_F(AppDelegateTest, AnotherLanguageBringsTheIconUpToDate) {
-  store("appLanguage", std::string("english"));
-  begin();
-  model().refreshDisplays();
-  model().toggleSelectedDisplayLock();
-  model().setAppLanguage(OrvaneLanguage::chinese);
-  ASSERT_EQ(icon(), "lock.open");
-  machine.runDue();
-  EXPECT_EQ(icon(), "lock.fill");
-}
-
-TEST_F(AppDelegateTest, TheLanguageChosenInTheSettingsWindowRebuildsTheMenuAtOnce) {
-  store("appLanguage", std::string("english"));
-  begin();
-  ASSERT_TRUE(openMenu());
-  ASSERT_TRUE(press("Settings"));
-  ASSERT_TRUE(press("Language", "settings"));
-  ASSERT_TRUE(server().menus.isOpen());
-  ASSERT_TRUE(press("Chinese"));
-  EXPECT_EQ(row("固定 Dock"), "lock | 固定 Dock | off");
-  EXPECT_EQ(row("Pin Dock"), "no row Pin Dock");
-}
-
 TEST_F(AppDelegateTest, TheSameLanguageAgainRebuildsNothing) {
   store("appLanguage", std::string("english"));
   begin();
@@ -178,7 +107,7 @@ TEST_F(AppDelegateTest, TheSameLanguageAgainRebuildsNothing) {
   EXPECT_EQ(machine.runLoop.pendingTaskCount(), 1U);
 }
 
-TEST_F(AppDelegateTest, OpeningItAgainBringsTheMainWindowForward) {
+TEST_F(AppDelegateTest, ReopeningBringsTheMainWindowToTheFront) {
   begin();
   application.reopen();
   ASSERT_TRUE(desk::Surfaces(server()).isOpen("main"));
@@ -189,12 +118,7 @@ TEST_F(AppDelegateTest, OpeningItAgainBringsTheMainWindowForward) {
   EXPECT_EQ(desk::Surfaces(server()).window("main"), window);
 }
 
-TEST_F(AppDelegateTest, TheOneModelIsSharedByEveryone) {
-  begin();
-  EXPECT_EQ(&OrvaneAppState::model(), &model());
-}
-
-TEST_F(AppDelegateTest, QuittingLeavesTheWishForTheNextLaunch) {
+TEST_F(AppDelegateTest, QuittingKeepsTheLockForTheNextLaunch) {
   begin();
   model().refreshDisplays();
   model().toggleSelectedDisplayLock();
@@ -208,7 +132,7 @@ TEST_F(AppDelegateTest, QuittingLeavesTheWishForTheNextLaunch) {
   EXPECT_EQ(icon(), "lock.fill");
 }
 
-TEST_F(AppDelegateTest, AnAlertThatWaitsForItsAnswerDoesNotKeepItFromQuitting) {
+TEST_F(AppDelegateTest, AnOpenAlertDoesNotPreventQuitting) {
   begin();
   OrvanePermissionAlert::show(nullptr);
   machine.runDue();
@@ -219,11 +143,11 @@ TEST_F(AppDelegateTest, AnAlertThatWaitsForItsAnswerDoesNotKeepItFromQuitting) {
   EXPECT_TRUE(machine.links.opened().empty());
 }
 
-TEST_F(AppDelegateTest, BetweenItsFarewellAndItsEndItNeitherTicksNorRebuilds) {
+TEST_F(AppDelegateTest, AfterWillTerminateItHasNoTimersAndRebuildsNothing) {
   store("appLanguage", std::string("english"));
   begin();
   model().setAppLanguage(OrvaneLanguage::chinese);
-  ASSERT_EQ(machine.runLoop.pendingTaskCount(), 1U) << "the menu is to be rebuilt";
+  ASSERT_EQ(machine.runLoop.pendingTaskCount(), 1U) << "the task that rebuilds the menu";
   machine.runDue();
   ASSERT_EQ(machine.runLoop.timerCount(), 2U);
   // The process ends only when the run loop goes on.
@@ -236,7 +160,7 @@ TEST_F(AppDelegateTest, BetweenItsFarewellAndItsEndItNeitherTicksNorRebuilds) {
   EXPECT_FALSE(application.isRunning());
 }
 
-TEST_F(AppDelegateTest, ACrashWhileLockedLeavesTheWishToo) {
+TEST_F(AppDelegateTest, ACrashKeepsTheLockForTheNextLaunch) {
   begin();
   model().refreshDisplays();
   model().toggleHideDockOnAllDisplays();

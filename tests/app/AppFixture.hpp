@@ -1,5 +1,5 @@
-// AppFixture adds to ApplicationFixture the menu: a hand on it, and words for what it and its icon
-// show.
+// AppFixture adds the status item to ApplicationFixture: it operates its menu, and describes the
+// menu and the icon as text.
 #pragma once
 
 #include <string>
@@ -22,7 +22,7 @@ class AppFixture : public ApplicationFixture {
     desk::attach(machine, desk::monitorAtTheRight());
     machine.runDue();
   }
-  /// Two displays, the permission, and the application running.
+  /// Attaches two displays, grants the permission and launches the application.
   void begin() {
     attachTwoDisplays();
     machine.permission.setTrusted(true);
@@ -37,11 +37,11 @@ class AppFixture : public ApplicationFixture {
     machine.runDue();
     return isOpen;
   }
-  /// The accessibility press of a control by its label; false when there is none or it is disabled.
+  /// Presses a control by its label; false if there is none or it is disabled.
   bool press(const std::string& label, const std::string& surface = desk::Surfaces::menu) {
     return ApplicationFixture::press(label, surface);
   }
-  /// The same for a row of a menu that need not be open.
+  /// Presses a row of the menu, open or not.
   bool pressRow(const std::string& title) {
     const auto menu = server().statusBar.item()->menu;
     for (const appkit::MenuItem& item : menu->items) {
@@ -64,8 +64,7 @@ class AppFixture : public ApplicationFixture {
     EXPECT_TRUE(place) << "no row " << title;
     return place.value_or(CGPoint{});
   }
-  /// Blocked moves at one instant on the display at the right, more than the guard lets happen
-  /// before it shuts itself off.
+  /// Blocks so many movements on the display at the right that the guard shuts itself off.
   void letBlockingRunAway() {
     for (int count = 0; count < 200; ++count) {
       machine.mouse.post({2800, 1075}, 0);
@@ -73,7 +72,7 @@ class AppFixture : public ApplicationFixture {
     machine.runDue();
   }
 
-  /// The menu in words, one row in each line: its symbol, its title, what distinguishes it.
+  /// The menu as text, one line per row: its symbol, its title, its state.
   [[nodiscard]] std::string menuText() {
     std::string text;
     const auto snapshot = desk::script::statusMenuSnapshot(server());

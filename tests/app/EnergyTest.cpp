@@ -1,4 +1,4 @@
-// What the application costs while nothing happens.
+// The application's wake-ups, tasks and redraws while nothing happens.
 #include "tests/app/AppFixture.hpp"
 
 namespace orvane {
@@ -15,11 +15,11 @@ class EnergyTest : public AppFixture {
     bool operator==(const Cost&) const = default;
   };
   /// One wake-up a second, and nothing is drawn.
-  static constexpr Cost nothingButTheClock{secondsPerHour, 0, 0};
+  static constexpr Cost timerOnly{secondsPerHour, 0, 0};
 
-  /// What one hour costs in which nobody touches anything.
+  /// The cost of one hour without input.
   Cost idleHour() {
-    // What was begun comes to an end first.
+    // Pending work finishes first.
     machine.advance(5);
     const Cost before = now();
     machine.advance(static_cast<double>(secondsPerHour));
@@ -34,53 +34,39 @@ class EnergyTest : public AppFixture {
   }
 };
 
-TEST_F(EnergyTest, UnlockedItWakesOnceASecondAndDrawsNothing) {
+TEST_F(EnergyTest, AnIdleApplicationWakesOnceASecondAndDrawsNothing) {
   begin();
-  EXPECT_EQ(idleHour(), nothingButTheClock);
+  EXPECT_EQ(idleHour(), timerOnly);
 }
 
-TEST_F(EnergyTest, LockedItCostsNothingMore) {
+TEST_F(EnergyTest, ARunningGuardCostsNoMore) {
   store("isOrvaneEnabled", true);
   begin();
   ASSERT_TRUE(model().isGuardRunning());
-  EXPECT_EQ(idleHour(), nothingButTheClock);
+  EXPECT_EQ(idleHour(), timerOnly);
 }
 
-TEST_F(EnergyTest, AMenuThatWasOpenLeavesNothingBehind) {
+TEST_F(EnergyTest, AClosedMenuAndClosedWindowsCostNoMore) {
   begin();
   ASSERT_TRUE(openMenu());
   moveTo(middleOf("Quit"));
   ASSERT_TRUE(press("Pin Dock"));
-  server().menus.close();
-  EXPECT_EQ(idleHour(), nothingButTheClock);
-}
-
-TEST_F(EnergyTest, WindowsThatWereOpenLeaveNothingBehind) {
-  begin();
-  ASSERT_TRUE(openMenu());
   ASSERT_TRUE(press("Settings"));
   machine.advance(2);
   server().close(desk::Surfaces(server()).window("main"));
-  EXPECT_EQ(idleHour(), nothingButTheClock);
+  EXPECT_EQ(idleHour(), timerOnly);
 }
 
-TEST_F(EnergyTest, AnOpenPanelCostsNothingMoreWheneverItWasOpened) {
-  begin();
-  machine.advance(0.37);
-  application.reopen();
-  EXPECT_EQ(idleHour(), nothingButTheClock);
-}
-
-TEST_F(EnergyTest, OpenSettingsCostNothingMoreEvenWhileTheirCaptionIsShown) {
+TEST_F(EnergyTest, OpenSettingsWithACaptionCostNoMore) {
   machine.loginItem.status = appkit::LoginItem::Status::requiresApproval;
   begin();
   machine.advance(0.61);
   ASSERT_TRUE(openMenu());
   ASSERT_TRUE(press("Settings"));
-  EXPECT_EQ(idleHour(), nothingButTheClock);
+  EXPECT_EQ(idleHour(), timerOnly);
 }
 
-TEST_F(EnergyTest, PushingAgainstAnEdgeDrawsNothingInAnOpenPanel) {
+TEST_F(EnergyTest, BlockedMovementsDrawNothingInAnOpenPanel) {
   begin();
   application.reopen();
   model().toggleSelectedDisplayLock();
@@ -94,7 +80,7 @@ TEST_F(EnergyTest, PushingAgainstAnEdgeDrawsNothingInAnOpenPanel) {
   EXPECT_EQ(server().updates.changeCount() - before, 0);
 }
 
-TEST_F(EnergyTest, AnActivityLastsAsLongAsTheGuardRuns) {
+TEST_F(EnergyTest, TheActivityLastsAsLongAsTheGuardRuns) {
   begin();
   EXPECT_EQ(machine.application.activityCount, 0);
   model().toggleSelectedDisplayLock();

@@ -1,4 +1,4 @@
-// The keys that mean the same in every application, in whichever of its windows they are pressed.
+// The key equivalents, in each of the application's windows.
 #include <string>
 
 #include "Orvane/permission/OrvanePermissionAlert.hpp"
@@ -50,7 +50,7 @@ TEST_F(KeyEquivalentsTest, CommandQQuitsFromThePanels) {
 
 TEST_F(KeyEquivalentsTest, CommandQQuitsFromTheGuide) {
   showGuide();
-  ASSERT_FALSE(server().focus.isActive()) << "it takes keys without activating the application";
+  ASSERT_FALSE(server().focus.isActive()) << "it becomes key without activating the application";
   EXPECT_TRUE(command("q"));
   EXPECT_FALSE(application.isRunning());
 }
@@ -60,13 +60,13 @@ TEST_F(KeyEquivalentsTest, CommandHHidesUntilTheApplicationIsOpenedAgain) {
   EXPECT_TRUE(command("h"));
   EXPECT_FALSE(server().focus.isActive());
   EXPECT_FALSE(isOpen("main"));
-  EXPECT_FALSE(command("q")) << "there is no window that keys go to";
+  EXPECT_FALSE(command("q")) << "there is no key window";
   application.reopen();
   EXPECT_TRUE(isOpen("main"));
   EXPECT_TRUE(server().focus.isActive());
 }
 
-TEST_F(KeyEquivalentsTest, AnAlertCanBeQuitButNotPassedOver) {
+TEST_F(KeyEquivalentsTest, AnAlertAcceptsOnlyCommandQ) {
   application.reopen();
   showAlert();
   EXPECT_FALSE(command(","));
@@ -77,7 +77,7 @@ TEST_F(KeyEquivalentsTest, AnAlertCanBeQuitButNotPassedOver) {
   EXPECT_FALSE(application.isRunning());
 }
 
-TEST_F(KeyEquivalentsTest, OtherKeysMeanNothing) {
+TEST_F(KeyEquivalentsTest, OtherKeysAreNotHandled) {
   application.reopen();
   EXPECT_FALSE(command("n"));
   EXPECT_FALSE(hand.key({ui::Key::character, {}, "q"}));

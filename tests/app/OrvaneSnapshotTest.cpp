@@ -1,4 +1,4 @@
-// What the application says of itself at one moment.
+// The application's snapshot of itself.
 #include "Orvane/app/OrvaneSnapshot.hpp"
 #include "tests/app/AppFixture.hpp"
 
@@ -10,7 +10,7 @@ class OrvaneSnapshotTest : public AppFixture {
   [[nodiscard]] OrvaneSnapshot now() const { return application.snapshot(); }
 };
 
-TEST_F(OrvaneSnapshotTest, SaysOfAnApplicationThatDoesNotRunThatNothingIsGuardedOrShown) {
+TEST_F(OrvaneSnapshotTest, IsEmptyWhileTheApplicationDoesNotRun) {
   begin();
   model().toggleSelectedDisplayLock();
   application.reopen();
@@ -22,7 +22,7 @@ TEST_F(OrvaneSnapshotTest, SaysOfAnApplicationThatDoesNotRunThatNothingIsGuarded
   EXPECT_EQ(now().selectedDisplayID, std::nullopt);
 }
 
-TEST_F(OrvaneSnapshotTest, SaysWhatIsGuardedAndForWhichDisplay) {
+TEST_F(OrvaneSnapshotTest, ReportsTheGuardAndTheSelectedDisplay) {
   begin();
   model().selectDisplay(desk::uuidNamed('B'));
   EXPECT_EQ(now().mode, OrvaneMode::off);
@@ -41,7 +41,7 @@ TEST_F(OrvaneSnapshotTest, SaysWhatIsGuardedAndForWhichDisplay) {
   EXPECT_EQ(now().selectedDisplayID, desk::uuidNamed('B'));
 }
 
-TEST_F(OrvaneSnapshotTest, SaysWhichWindowsAreShown) {
+TEST_F(OrvaneSnapshotTest, ReportsTheVisibleWindows) {
   begin();
   EXPECT_FALSE(now().showsMainPanel);
   application.reopen();
@@ -54,7 +54,7 @@ TEST_F(OrvaneSnapshotTest, SaysWhichWindowsAreShown) {
   EXPECT_FALSE(now().showsSettings);
 }
 
-TEST_F(OrvaneSnapshotTest, SaysHowFarTheRequestForThePermissionIs) {
+TEST_F(OrvaneSnapshotTest, ReportsTheStateOfThePermissionRequest) {
   attachTwoDisplays();
   application.launch();
   EXPECT_FALSE(now().asksForPermission);

@@ -1,4 +1,4 @@
-// A row of the status menu as it is drawn, with the synthetic font.
+// The drawing of the status menu's rows, with the synthetic font.
 #include <gtest/gtest.h>
 
 #include "Orvane/app/CompactMenuSwitch.hpp"
@@ -82,7 +82,7 @@ TEST_F(StatusMenuRowTest, ShowsAFaintHighlightUnderThePointerUnlessItHasASwitch)
   EXPECT_TRUE(draws("fill rounded(3 2 202 26 r6 continuous) rgba(0 0 0 0)\n")) << drawing();
 }
 
-TEST_F(StatusMenuRowTest, SetsALongTitleCloserBesideASwitchAndCutsOnlyWhatIsFarTooLong) {
+TEST_F(StatusMenuRowTest, TightensALongTitleBeforeItTruncatesIt) {
   // From 46 to 163 there are 117 points, for 18 characters of 6.5 points.
   show(StatusMenuRow{.title = "123456789012345678", .systemImage = "lock", .isOn = false});
   EXPECT_TRUE(draws("text \"123456789012345678\" 13/500")) << drawing();
@@ -111,7 +111,7 @@ TEST_F(StatusMenuRowTest, ASwitchIsACapsuleWithAKnobAtOneEnd) {
   EXPECT_TRUE(test.host->semantics().children.empty());
 }
 
-TEST_F(StatusMenuRowTest, ASwitchThatIsOffHasAnOutlineAndAClearerOneWhereContrastIsAskedFor) {
+TEST_F(StatusMenuRowTest, ASwitchThatIsOffHasAnOutlineThatFollowsIncreasedContrast) {
   show(CompactMenuSwitch{false}, {34, 18});
   EXPECT_TRUE(draws("rgba(0 0 0 0.425) width 1\n")) << drawing();
   EXPECT_FALSE(draws("rgba(0 0 0 0.6)")) << drawing();

@@ -1,5 +1,4 @@
-// The titles of the menu in the desk's own face: one size for all, and nothing cut but what has to
-// be.
+// The titles of the menu in the desk's font: all of one size, and truncated only where necessary.
 #include <algorithm>
 #include <string>
 #include <tuple>
@@ -44,7 +43,7 @@ class StatusMenuTextTest : public AppFixture, public testing::WithParamInterface
   }
 };
 
-TEST_P(StatusMenuTextTest, AllTitlesHaveOneSizeAndOnlyNamesOfDisplaysAreCut) {
+TEST_P(StatusMenuTextTest, AllTitlesHaveOneSizeAndOnlyDisplayNamesAreTruncated) {
   beginWithOpenMenu();
   const std::string mainSuffix = model().localized("(Main)", "（主要）");
   int cutTitles = 0;
@@ -76,7 +75,7 @@ TEST_P(StatusMenuTextTest, AllTitlesHaveOneSizeAndOnlyNamesOfDisplaysAreCut) {
   EXPECT_EQ(cutTitles, 3);
 }
 
-TEST_P(StatusMenuTextTest, TheWholeNameComesAsAHintAndGoesWithTheMenu) {
+TEST_P(StatusMenuTextTest, TheTooltipShowsTheFullNameAndClosesWithTheMenu) {
   beginWithOpenMenu();
   const std::string title = desk::script::statusMenuSnapshot(server())["rows"][6]["title"];
   moveTo(middleOf(title));

@@ -1,4 +1,4 @@
-// The watch over the event tap: no tap without its permission, and none that stays off.
+// The tap watch: no tap without the permission, and none that stays disabled.
 #include <optional>
 
 #include "Orvane/app/TapWatch.hpp"
@@ -14,8 +14,8 @@ class TapWatchTest : public ModelFixture {
     return model->isGuardRunning() && machine.eventTaps.isAnyEnabled();
   }
 
-  /// The permission goes and the tap with it, but no notification comes.
-  void takeThePermissionQuietly() {
+  /// Revokes the permission, and with it the tap, without a notification.
+  void revokeSilently() {
     machine.permission.onChange(nullptr);
     machine.permission.setTrusted(false);
     machine.eventTaps.killAll();
@@ -24,30 +24,19 @@ class TapWatchTest : public ModelFixture {
   std::optional<TapWatch> tapWatch;
 };
 
-TEST_F(TapWatchTest, TheStatusSaysThatThePermissionIsMissingThoughNoPanelIsOpen) {
-  launchPinned();
-  watch();
-  machine.permission.setTrusted(false);
-  machine.advance(TapWatch::intervalSeconds);
-  EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
-  machine.permission.setTrusted(true);
-  machine.advance(TapWatch::intervalSeconds);
-  EXPECT_EQ(model->status(), OrvaneStatus::locked);
-}
-
-TEST_F(TapWatchTest, TheTapGoesEvenWhileTheMainQueueStandsStill) {
+TEST_F(TapWatchTest, TheTapIsRemovedEvenWhileTheMainQueueIsSuspended) {
   launchPinned();
   watch();
   machine.runLoop.enterMode(desk::RunLoop::Mode::modalPanel);
   machine.runLoop.holdMainQueue();
-  takeThePermissionQuietly();
+  revokeSilently();
   machine.advance(TapWatch::intervalSeconds);
   EXPECT_FALSE(model->isGuardRunning());
   machine.runLoop.releaseMainQueue();
   machine.runLoop.leaveMode();
 }
 
-TEST_F(TapWatchTest, AnEndedUnlockIsReportedWhenTheTapIsTakenDown) {
+TEST_F(TapWatchTest, RemovingTheTapEndsATemporaryUnlock) {
   launchPinned();
   watch();
   moveHolding(kCGEventFlagMaskAlternate);
@@ -57,19 +46,19 @@ TEST_F(TapWatchTest, AnEndedUnlockIsReportedWhenTheTapIsTakenDown) {
   EXPECT_FALSE(model->isTemporarilyUnlocked().value());
 }
 
-TEST_F(TapWatchTest, TheGuardThatItStoppedComesBackWithThePermission) {
+TEST_F(TapWatchTest, AStoppedGuardResumesWithThePermission) {
   launchPreventing();
   watch();
   machine.permission.setTrusted(false);
   machine.advance(2);
-  EXPECT_EQ(stored("isOrvaneEnabled"), Value(true)) << "the wish is the user's";
+  EXPECT_EQ(stored("isOrvaneEnabled"), Value(true)) << "the user still wants it";
   machine.permission.setTrusted(true);
   machine.advance(TapWatch::intervalSeconds);
   EXPECT_TRUE(isTapEnabled());
   EXPECT_TRUE(model->guardService().snapshot().blocksAllDisplays);
 }
 
-TEST_F(TapWatchTest, ATargetUnpluggedWithoutThePermissionIsAwaited) {
+TEST_F(TapWatchTest, AResumedGuardWaitsForItsTarget) {
   launchPinned();
   watch();
   machine.permission.setTrusted(false);
@@ -83,17 +72,7 @@ TEST_F(TapWatchTest, ATargetUnpluggedWithoutThePermissionIsAwaited) {
   EXPECT_TRUE(isTapEnabled());
 }
 
-TEST_F(TapWatchTest, AGuardThatNobodyWantedDoesNotComeBack) {
-  launch();
-  watch();
-  machine.permission.setTrusted(false);
-  machine.advance(2);
-  machine.permission.setTrusted(true);
-  machine.advance(2);
-  EXPECT_FALSE(model->isGuardRunning());
-}
-
-TEST_F(TapWatchTest, AGuardWithdrawnWithoutThePermissionDoesNotComeBack) {
+TEST_F(TapWatchTest, AGuardTurnedOffInTheMeantimeIsNotStarted) {
   launchPinned();
   watch();
   machine.permission.setTrusted(false);
@@ -104,21 +83,21 @@ TEST_F(TapWatchTest, AGuardWithdrawnWithoutThePermissionDoesNotComeBack) {
   EXPECT_FALSE(model->isGuardRunning());
 }
 
-TEST_F(TapWatchTest, ItLooksAtOnceWhenThePermissionsChange) {
+TEST_F(TapWatchTest, ANotificationOfChangedPermissionsIsHandledAtOnce) {
   launchPinned();
   watch();
   machine.permission.setTrusted(false);
-  EXPECT_FALSE(model->isGuardRunning()) << "before any task of the main queue";
+  EXPECT_FALSE(model->isGuardRunning()) << "before any main-queue task";
   EXPECT_FALSE(model->hasAccessibilityPermission().value());
   EXPECT_EQ(stored("isOrvaneEnabled"), Value(true));
   machine.permission.setTrusted(true);
   EXPECT_TRUE(isTapEnabled());
 }
 
-TEST_F(TapWatchTest, WithoutTheNotificationTheClockFindsTheSame) {
+TEST_F(TapWatchTest, WithoutANotificationTheTimerDetectsTheChange) {
   launchPinned();
   watch();
-  takeThePermissionQuietly();
+  revokeSilently();
   machine.advance(0.999);
   EXPECT_TRUE(model->isGuardRunning());
   machine.advance(0.001);
@@ -128,14 +107,14 @@ TEST_F(TapWatchTest, WithoutTheNotificationTheClockFindsTheSame) {
   EXPECT_TRUE(isTapEnabled());
 }
 
-TEST_F(TapWatchTest, ALockThatCouldNotBeRestoredAtLaunchComesWithThePermission) {
+TEST_F(TapWatchTest, ALockThatWasNotRestoredForWantOfThePermissionStartsWithIt) {
   store("isOrvaneEnabled", true);
   store("selectedDisplayID", "gone");
   machine.permission.setTrusted(false);
   launch();
   watch();
   machine.permission.setTrusted(true);
-  EXPECT_FALSE(model->isGuardRunning()) << "its display is away";
+  EXPECT_FALSE(model->isGuardRunning()) << "its display is detached";
   EXPECT_TRUE(model->guardService().snapshot().isObservingScreens);
   desk::Display display = desk::monitorAbove();
   display.uuid = "gone";
@@ -144,7 +123,7 @@ TEST_F(TapWatchTest, ALockThatCouldNotBeRestoredAtLaunchComesWithThePermission) 
   EXPECT_TRUE(isTapEnabled());
 }
 
-TEST_F(TapWatchTest, ALockRevokedWhileItsDisplayWasAwayComesBack) {
+TEST_F(TapWatchTest, ALockRevokedWhileItsDisplayWasDetachedResumes) {
   launchPinned();
   watch();
   desk::detach(machine, 1);
@@ -158,7 +137,7 @@ TEST_F(TapWatchTest, ALockRevokedWhileItsDisplayWasAwayComesBack) {
   EXPECT_TRUE(isTapEnabled());
 }
 
-TEST_F(TapWatchTest, ALockThatCouldNotBeRestoredForWantOfItsDisplayAloneIsNotStarted) {
+TEST_F(TapWatchTest, ALockThatWasNotRestoredForWantOfItsDisplayIsNotStarted) {
   store("isOrvaneEnabled", true);
   store("selectedDisplayID", "gone");
   launch();
@@ -167,11 +146,11 @@ TEST_F(TapWatchTest, ALockThatCouldNotBeRestoredForWantOfItsDisplayAloneIsNotSta
   display.uuid = "gone";
   desk::attach(machine, display);
   machine.advance(5);
-  EXPECT_FALSE(model->isGuardRunning()) << "it waits for the next launch";
+  EXPECT_FALSE(model->isGuardRunning()) << "before the next launch";
   EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
 }
 
-TEST_F(TapWatchTest, ATapThatTheSystemDisabledWithoutAWordIsEnabled) {
+TEST_F(TapWatchTest, ASilentlyDisabledTapIsEnabled) {
   launchPinned();
   watch();
   machine.eventTaps.disableAllSilently(false);
@@ -180,7 +159,7 @@ TEST_F(TapWatchTest, ATapThatTheSystemDisabledWithoutAWordIsEnabled) {
   EXPECT_TRUE(hasTap(1)) << "the same tap";
 }
 
-TEST_F(TapWatchTest, ATapThatStaysDisabledIsReplacedAtTheNextLook) {
+TEST_F(TapWatchTest, ATapThatStaysDisabledIsReplacedAtTheNextCheck) {
   launchPinned();
   watch();
   machine.eventTaps.disableAllSilently(true);
@@ -192,7 +171,7 @@ TEST_F(TapWatchTest, ATapThatStaysDisabledIsReplacedAtTheNextLook) {
   EXPECT_TRUE(isTapEnabled());
 }
 
-TEST_F(TapWatchTest, OneDisabledNowAndThenIsEnabledEachTime) {
+TEST_F(TapWatchTest, ATapDisabledOccasionallyIsEnabledEachTime) {
   launchPinned();
   watch();
   for (int count = 0; count < 5; ++count) {
@@ -203,10 +182,10 @@ TEST_F(TapWatchTest, OneDisabledNowAndThenIsEnabledEachTime) {
   EXPECT_TRUE(isTapEnabled());
 }
 
-/// As after the application was removed from the list of permissions.
-class DoubtedPermissionTest : public TapWatchTest {
+/// The permission after the application was removed from the system's list.
+class StalePermissionTest : public TapWatchTest {
  protected:
-  DoubtedPermissionTest() {
+  StalePermissionTest() {
     launchPinned();
     watch();
     machine.eventTaps.setRefusesCreation(true);
@@ -215,7 +194,7 @@ class DoubtedPermissionTest : public TapWatchTest {
   }
 };
 
-TEST_F(DoubtedPermissionTest, CountsAsMissing) {
+TEST_F(StalePermissionTest, CountsAsMissing) {
   EXPECT_FALSE(model->isGuardRunning());
   EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
@@ -227,19 +206,19 @@ TEST_F(DoubtedPermissionTest, CountsAsMissing) {
   EXPECT_FALSE(model->isGuardRunning());
 }
 
-TEST_F(DoubtedPermissionTest, EndsWithTheNextChangeOfThePermissions) {
+TEST_F(StalePermissionTest, EndsWithTheNextChangeOfThePermissions) {
   machine.eventTaps.setRefusesCreation(false);
   machine.observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
   EXPECT_TRUE(isTapEnabled());
   EXPECT_EQ(model->status(), OrvaneStatus::locked);
 }
 
-TEST_F(DoubtedPermissionTest, StaysWhenTheChangeWasAnotherApplications) {
+TEST_F(StalePermissionTest, StaysWhenAnotherApplicationsPermissionChanged) {
   machine.observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
 }
 
-TEST_F(DoubtedPermissionTest, EndsWhenThePermissionReallyWentAndCame) {
+TEST_F(StalePermissionTest, EndsWhenThePermissionIsRevokedAndGranted) {
   machine.eventTaps.setRefusesCreation(false);
   machine.permission.onChange(nullptr);
   machine.permission.setTrusted(false);
@@ -249,13 +228,13 @@ TEST_F(DoubtedPermissionTest, EndsWhenThePermissionReallyWentAndCame) {
   EXPECT_EQ(model->status(), OrvaneStatus::locked);
 }
 
-TEST_F(DoubtedPermissionTest, EndsWhenTheUserAsksForTheGuard) {
+TEST_F(StalePermissionTest, EndsWhenTheUserStartsTheGuard) {
   machine.eventTaps.setRefusesCreation(false);
   model->toggleSelectedDisplayLock();
   EXPECT_EQ(model->status(), OrvaneStatus::locked);
 }
 
-TEST_F(DoubtedPermissionTest, EndsWithThePermissionsPageAndTheGuardComesBack) {
+TEST_F(StalePermissionTest, EndsWhenTheUserOpensThePermissionsPage) {
   machine.eventTaps.setRefusesCreation(false);
   model->openAccessibilitySettings();
   EXPECT_TRUE(model->hasAccessibilityPermission().value());
@@ -263,14 +242,14 @@ TEST_F(DoubtedPermissionTest, EndsWithThePermissionsPageAndTheGuardComesBack) {
   EXPECT_EQ(model->status(), OrvaneStatus::locked);
 }
 
-TEST_F(DoubtedPermissionTest, ReturnsWhenTheTapIsRefusedOnceMore) {
+TEST_F(StalePermissionTest, ReturnsWhenTheTapIsRefusedAgain) {
   model->toggleSelectedDisplayLock();
   EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
   machine.advance(1);
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
 }
 
-TEST_F(DoubtedPermissionTest, IsNotEndedByAChangeOfTheDisplays) {
+TEST_F(StalePermissionTest, SurvivesAChangeOfTheDisplays) {
   machine.eventTaps.setRefusesCreation(false);
   desk::attach(machine, desk::monitorAbove());
   machine.advance(5);
@@ -278,14 +257,7 @@ TEST_F(DoubtedPermissionTest, IsNotEndedByAChangeOfTheDisplays) {
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
 }
 
-TEST_F(DoubtedPermissionTest, EndsWithTheNextLaunch) {
-  machine.eventTaps.setRefusesCreation(false);
-  tapWatch.reset();
-  relaunch();
-  EXPECT_EQ(model->status(), OrvaneStatus::locked);
-}
-
-TEST_F(TapWatchTest, ATapThatKeepsDyingIsGivenUp) {
+TEST_F(TapWatchTest, ATapThatIsRepeatedlyDisabledIsGivenUp) {
   launchPinned();
   watch();
   for (int count = 0; count < 5; ++count) {
@@ -297,7 +269,7 @@ TEST_F(TapWatchTest, ATapThatKeepsDyingIsGivenUp) {
   EXPECT_TRUE(model->hasAccessibilityPermission().value());
 }
 
-TEST_F(TapWatchTest, ATapRefusedToTheUserIsNoDoubt) {
+TEST_F(TapWatchTest, ATapRefusedAtAUserActionMakesNoPermissionStale) {
   launch();
   watch();
   machine.eventTaps.setRefusesCreation(true);
@@ -306,24 +278,24 @@ TEST_F(TapWatchTest, ATapRefusedToTheUserIsNoDoubt) {
   EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
 }
 
-TEST_F(TapWatchTest, AGuardThatSwitchedItselfOffStaysOff) {
+TEST_F(TapWatchTest, AGuardThatShutItselfOffStaysOff) {
   launchPinned();
   watch();
-  // The shut-off's clean-up waits for the main queue, which stands still; the watch goes on.
+  // The shut-off's clean-up waits for the main queue, which is suspended, unlike the watch.
   machine.runLoop.enterMode(desk::RunLoop::Mode::modalPanel);
   machine.runLoop.holdMainQueue();
   for (int move = 0; move < 200; ++move) {
     machine.mouse.post({2500, 1079}, 0);
   }
   machine.advance(1);
-  EXPECT_FALSE(model->isGuardRunning()) << "the look finishes what the main queue cannot";
+  EXPECT_FALSE(model->isGuardRunning()) << "the check completes the shut-off";
   machine.runLoop.releaseMainQueue();
   machine.runLoop.leaveMode();
   machine.advance(5);
   EXPECT_FALSE(model->isGuardRunning());
 }
 
-TEST_F(TapWatchTest, NothingIsLeftWhenTheWatchEnds) {
+TEST_F(TapWatchTest, ADestroyedWatchDoesNothing) {
   launchPinned();
   watch();
   tapWatch.reset();

@@ -7,7 +7,7 @@ namespace {
 
 using AccessibilityTrustContract = ContractFixture;
 
-TEST_F(AccessibilityTrustContract, ThePermissionIsReadAfreshEachTime) {
+TEST_F(AccessibilityTrustContract, ThePermissionIsReadAtEachCall) {
   ORVANE_ARRANGE(setTrusted(false));
   EXPECT_FALSE(AXIsProcessTrusted());
   ORVANE_ARRANGE(setTrusted(true));

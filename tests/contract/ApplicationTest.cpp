@@ -21,12 +21,12 @@ TEST_F(ApplicationContract, StoppingAModalSessionThatDoesNotRunDoesNothing) {
   letTimePass(0);
 }
 
-TEST_F(ApplicationContract, WithoutAWindowThereIsNoKeyWindowAndNoModalOne) {
+TEST_F(ApplicationContract, WithoutAWindowThereIsNoKeyOrModalWindow) {
   EXPECT_FALSE(appkit::Application::keyWindow().has_value());
   EXPECT_FALSE(appkit::Application::modalWindow().has_value());
 }
 
-TEST_F(ApplicationContract, ThePointersPositionCountsUpwards) {
+TEST_F(ApplicationContract, TheMouseLocationIsInWindowSystemCoordinates) {
   ORVANE_ARRANGE(arrangeTwoDisplays());
   ORVANE_ARRANGE(movePointer(CGPointMake(1200, 100)));
   const CGPoint place = appkit::Application::mouseLocation();

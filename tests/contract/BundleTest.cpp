@@ -15,11 +15,11 @@ TEST_F(BundleContract, ItsLocationIsAFileURL) {
   EXPECT_TRUE(url->starts_with("file:///")) << *url;
 }
 
-TEST_F(BundleContract, WhereItWasBuiltOrInstalledCanBeWrittenTo) {
+TEST_F(BundleContract, ItsVolumeIsWritable) {
   EXPECT_FALSE(Bundle::isOnReadOnlyVolume());
 }
 
-TEST_F(BundleContract, ADiskImageCannotBeWrittenTo) {
+TEST_F(BundleContract, AReadOnlyVolumeIsRecognised) {
   ORVANE_ARRANGE(makeVolumeReadOnly());
   EXPECT_TRUE(Bundle::isOnReadOnlyVolume());
 }

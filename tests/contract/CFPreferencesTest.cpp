@@ -34,7 +34,7 @@ TEST_F(CFPreferencesContract, AValueThatWasNeverStoredIsNull) {
                                            kCFPreferencesCurrentUser, kCFPreferencesCurrentHost)));
 }
 
-TEST_F(CFPreferencesContract, AStoredTextIsAStringWithThatText) {
+TEST_F(CFPreferencesContract, AStoredStringIsAStringWithItsText) {
   ORVANE_ARRANGE(storePreference(program, "key", "left"));
   CFPreferencesAppSynchronize(CFSTR("app.orvane.contract"));
   const Value value = copyValue();
@@ -60,7 +60,7 @@ TEST_F(CFPreferencesContract, AChangeByAnotherProgramIsSeenAfterSynchronising) {
   EXPECT_EQ(text(copyValue()), "right");
 }
 
-TEST_F(CFPreferencesContract, TheApplicationsValueIsFoundWhateverTheDomain) {
+TEST_F(CFPreferencesContract, TheSearchListFindsTheApplicationsValue) {
   ORVANE_ARRANGE(storePreference(program, "key", "left"));
   CFPreferencesAppSynchronize(CFSTR("app.orvane.contract"));
   EXPECT_EQ(

@@ -16,7 +16,7 @@ class CFStringContract : public ContractFixture {
   }
 };
 
-TEST_F(CFStringContract, TextGoesInAndComesOutTheSame) {
+TEST_F(CFStringContract, TextSurvivesTheRoundTrip) {
   for (const char* text : {"", "left", "\xE5\xB7\xA6\xE8\xBE\xB9", "\xF0\x9F\x96\xA5 display"}) {
     const auto string = make(text);
     ASSERT_TRUE(string);
@@ -35,7 +35,7 @@ TEST_F(CFStringContract, TheLengthCountsUtf16Units) {
   EXPECT_EQ(CFStringGetLength(make("\xF0\x9F\x96\xA5").get()), 2);
 }
 
-TEST_F(CFStringContract, ABufferMustHoldTheTerminatingZeroToo) {
+TEST_F(CFStringContract, ABufferNeedsRoomForTheTerminatingZero) {
   const auto string = make("left");
   char buffer[5];
   EXPECT_FALSE(CFStringGetCString(string.get(), buffer, 4, kCFStringEncodingUTF8));
@@ -47,7 +47,7 @@ TEST_F(CFStringContract, InvalidUtf8MakesNoString) {
   EXPECT_FALSE(make("\xE5\xB7"));
 }
 
-TEST_F(CFStringContract, AConstantStringIsAString) {
+TEST_F(CFStringContract, ACFSTRIsAString) {
   EXPECT_EQ(CFGetTypeID(CFSTR("orientation")), CFStringGetTypeID());
   EXPECT_EQ(CFStringGetLength(CFSTR("orientation")), 11);
 }

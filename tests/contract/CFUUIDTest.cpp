@@ -10,7 +10,7 @@ namespace {
 
 using CFUUIDContract = ContractFixture;
 
-TEST_F(CFUUIDContract, ItsTextIsTheSameEachTime) {
+TEST_F(CFUUIDContract, ItsStringIsTheSameEachTime) {
   ORVANE_ARRANGE(arrangeTwoDisplays());
   for (int time = 0; time < 2; ++time) {
     const auto uuid = CFRef<CFUUIDRef>::owning(CGDisplayCreateUUIDFromDisplayID(1));

@@ -21,7 +21,7 @@ TEST_F(CGDisplaysContract, ADisplayWithoutAUUIDHasNone) {
   EXPECT_FALSE(CFRef<CFUUIDRef>::owning(CGDisplayCreateUUIDFromDisplayID(2)));
 }
 
-TEST_F(CGDisplaysContract, ANumberWithoutADisplayIsNotSpecial) {
+TEST_F(CGDisplaysContract, AnUnknownDisplayIsNeitherMainNorBuiltInAndHasNoUUID) {
   constexpr CGDirectDisplayID noDisplay = 0x7FFF1234;
   EXPECT_FALSE(CGDisplayIsMain(noDisplay));
   EXPECT_FALSE(CGDisplayIsBuiltin(noDisplay));

@@ -67,7 +67,7 @@ TEST_F(CGEventTapContract, WithoutThePermissionThereIsNoTap) {
   EXPECT_FALSE(makeTap());
 }
 
-TEST_F(CGEventTapContract, ATapCanBeMadeEnabledAndTakenDownAgainAndAgain) {
+TEST_F(CGEventTapContract, ATapCanBeCreatedAndRemovedRepeatedly) {
   ORVANE_ARRANGE(setTrusted(true));
   for (int time = 0; time < 3; ++time) {
     ASSERT_TRUE(beginTap());
@@ -78,7 +78,7 @@ TEST_F(CGEventTapContract, ATapCanBeMadeEnabledAndTakenDownAgainAndAgain) {
   }
 }
 
-TEST_F(CGEventTapContract, AMovementIsAnEventWithItsPositionAndTheHeldKeys) {
+TEST_F(CGEventTapContract, AMovementHasItsLocationAndTheHeldModifiers) {
   ORVANE_ARRANGE(setTrusted(true));
   ORVANE_ARRANGE(arrangeTwoDisplays());
   ASSERT_TRUE(beginTap());
@@ -93,7 +93,7 @@ TEST_F(CGEventTapContract, AMovementIsAnEventWithItsPositionAndTheHeldKeys) {
   EXPECT_FALSE(seen[0].flags & kCGEventFlagMaskCommand);
 }
 
-TEST_F(CGEventTapContract, WhereTheCallbackPutsTheEventTheNextMovementBegins) {
+TEST_F(CGEventTapContract, TheNextMovementBeginsWhereTheCallbackMovedTheEvent) {
   ORVANE_ARRANGE(setTrusted(true));
   ORVANE_ARRANGE(arrangeTwoDisplays());
   ASSERT_TRUE(beginTap());
@@ -107,7 +107,7 @@ TEST_F(CGEventTapContract, WhereTheCallbackPutsTheEventTheNextMovementBegins) {
   EXPECT_EQ(seen[1].location.y, 790);
 }
 
-TEST_F(CGEventTapContract, TheCursorRestsWhereTheCallbackPutsTheEvent) {
+TEST_F(CGEventTapContract, TheCursorStaysWhereTheCallbackMovedTheEvent) {
   // The real displays of a Mac suffice: the origin of the first is (0, 0).
   (void)arrangeTwoDisplays();
   ORVANE_ARRANGE(setTrusted(true));

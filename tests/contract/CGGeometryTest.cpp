@@ -8,7 +8,7 @@ namespace {
 
 using CGGeometryContract = ContractFixture;
 
-TEST_F(CGGeometryContract, EdgesAndMiddlesAreWhereTheyAre) {
+TEST_F(CGGeometryContract, EdgesCentresAndSizesAreComputed) {
   const CGRect rect = CGRectMake(10, -20, 100, 50);
   EXPECT_EQ(CGRectGetMinX(rect), 10);
   EXPECT_EQ(CGRectGetMidX(rect), 60);
@@ -20,7 +20,7 @@ TEST_F(CGGeometryContract, EdgesAndMiddlesAreWhereTheyAre) {
   EXPECT_EQ(CGRectGetHeight(rect), 50);
 }
 
-TEST_F(CGGeometryContract, ANegativeSizeIsTakenAsTheRectangleItCovers) {
+TEST_F(CGGeometryContract, ANegativeSizeIsNormalised) {
   const CGRect rect = CGRectMake(110, 30, -100, -50);
   EXPECT_EQ(CGRectGetMinX(rect), 10);
   EXPECT_EQ(CGRectGetMaxX(rect), 110);
@@ -50,7 +50,7 @@ TEST_F(CGGeometryContract, AnEmptyOrNullRectangleContainsNothing) {
   EXPECT_FALSE(CGRectContainsPoint(CGRectMake(infinity, infinity, 0, 0), CGPointMake(5, 5)));
 }
 
-TEST_F(CGGeometryContract, EqualMeansEveryNumber) {
+TEST_F(CGGeometryContract, RectanglesAreEqualWhenAllFourNumbersAre) {
   const CGRect rect = CGRectMake(1, 2, 3, 4);
   EXPECT_TRUE(CGRectEqualToRect(rect, CGRectMake(1, 2, 3, 4)));
   EXPECT_FALSE(CGRectEqualToRect(rect, CGRectMake(1.0000001, 2, 3, 4)));

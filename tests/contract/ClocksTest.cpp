@@ -6,7 +6,7 @@ namespace {
 
 using ClocksContract = ContractFixture;
 
-TEST_F(ClocksContract, TheMediaClockGoesOnWithTimeAndNeverBack) {
+TEST_F(ClocksContract, TheMediaClockAdvancesAndNeverGoesBack) {
   const double before = CACurrentMediaTime();
   letTimePass(0.05);
   const double after = CACurrentMediaTime();

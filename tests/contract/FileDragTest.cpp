@@ -28,7 +28,7 @@ class FileDragContract : public ContractFixture {
   }
 };
 
-TEST_F(FileDragContract, ADraggedSourceOffersItsFileToBeCopiedOnly) {
+TEST_F(FileDragContract, ADraggedFileCanOnlyBeCopied) {
   ORVANE_ARRANGE(arrangeTwoDisplays());
   Window window = showSource(ui::DragItem{"file:///Applications/A.app/", "AppIcon"});
   ORVANE_ARRANGE(dragPointer({150, 650}, {180, 650}));

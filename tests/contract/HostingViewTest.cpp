@@ -15,7 +15,7 @@ TEST_F(HostingViewContract, ItsFittingSizeIsThatOfItsContent) {
   EXPECT_EQ(view.fittingSize().height, 20);
 }
 
-TEST_F(HostingViewContract, AfterAChangeItIsDescribedAnew) {
+TEST_F(HostingViewContract, ItsContentIsRebuiltOnlyWhenItNeedsAnUpdate) {
   double width = 30;
   HostingView view([&](const ui::Environment&) { return ui::Rectangle().frame(width, 20); });
   EXPECT_EQ(view.fittingSize().width, 30);
@@ -32,7 +32,7 @@ TEST_F(HostingViewContract, ItAvoidsATitleBarUnlessConfigured) {
   EXPECT_FALSE(view.respectsSafeArea());
 }
 
-TEST_F(HostingViewContract, ItHasTheFrameThatItWasGiven) {
+TEST_F(HostingViewContract, ItKeepsItsFrame) {
   HostingView view([](const ui::Environment&) { return ui::View(); });
   view.setFrame(CGRectMake(1, 2, 30, 40));
   EXPECT_TRUE(CGRectEqualToRect(view.frame(), CGRectMake(1, 2, 30, 40)));

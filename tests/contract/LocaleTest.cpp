@@ -13,7 +13,7 @@ TEST_F(LocaleContract, ThereIsAlwaysALanguageAndALocale) {
   EXPECT_FALSE(appkit::Locale::currentIdentifier().empty());
 }
 
-TEST_F(LocaleContract, LanguagesAreReadAfreshInTheOrderOfPreference) {
+TEST_F(LocaleContract, LanguagesAreReadAtEachCallInOrderOfPreference) {
   ORVANE_ARRANGE(setLocale({"fr-FR", "zh-Hant-TW"}, "zh_TW"));
   EXPECT_EQ(appkit::Locale::preferredLanguages(),
             (std::vector<std::string>{"fr-FR", "zh-Hant-TW"}));

@@ -9,7 +9,7 @@ namespace {
 using appkit::LoginItem;
 using LoginItemContract = ContractFixture;
 
-TEST_F(LoginItemContract, TheStatusCanAlwaysBeRead) {
+TEST_F(LoginItemContract, TheStatusIsAlwaysReadable) {
   const int status = static_cast<int>(LoginItem::status());
   EXPECT_GE(status, 0);
   EXPECT_LE(status, 3);
@@ -23,7 +23,7 @@ TEST_F(LoginItemContract, RegisteringAndUnregisteringShowInTheStatus) {
   EXPECT_EQ(LoginItem::status(), LoginItem::Status::notRegistered);
 }
 
-TEST_F(LoginItemContract, AFailureHasThePlatformsTextAndChangesNoStatus) {
+TEST_F(LoginItemContract, AFailureReturnsThePlatformsErrorAndKeepsTheStatus) {
   ORVANE_ARRANGE(failLoginItem("Operation not permitted"));
   const LoginItem::Status before = LoginItem::status();
   EXPECT_EQ(LoginItem::registerApplication(), "Operation not permitted");

@@ -16,7 +16,7 @@ appkit::MenuItem itemWith(std::function<void()> action) {
   return item;
 }
 
-TEST_F(MenuContract, AMenuThatIsNotOpenCanBeFilledChangedEmptiedAndCancelled) {
+TEST_F(MenuContract, AClosedMenuCanBeChangedAndCancelled) {
   appkit::Menu menu;
   menu.onWillOpen([] { FAIL() << "the menu was not opened"; });
   menu.insertItem(0, itemWith([] {}));
@@ -31,7 +31,7 @@ TEST_F(MenuContract, AMenuThatIsNotOpenCanBeFilledChangedEmptiedAndCancelled) {
   letTimePass(0);
 }
 
-TEST_F(MenuContract, WhatFollowsItsClosingComesAfterTheCall) {
+TEST_F(MenuContract, TheCallbackOfCancellingComesAfterTheCall) {
   appkit::Menu menu;
   int endings = 0;
   menu.cancelTracking([&] { ++endings; });
@@ -40,7 +40,7 @@ TEST_F(MenuContract, WhatFollowsItsClosingComesAfterTheCall) {
   EXPECT_EQ(endings, 1);
 }
 
-TEST_F(MenuContract, AnItemThatChangesOrIsRemovedReleasesItsAction) {
+TEST_F(MenuContract, AChangedOrRemovedItemReleasesItsAction) {
   appkit::Menu menu;
   auto first = std::make_shared<int>(1);
   auto second = std::make_shared<int>(2);
@@ -56,7 +56,7 @@ TEST_F(MenuContract, AnItemThatChangesOrIsRemovedReleasesItsAction) {
   EXPECT_TRUE(watchSecond.expired());
 }
 
-TEST_F(MenuContract, AStatusItemTakesAnImageAndAMenuAndCanLoseTheImage) {
+TEST_F(MenuContract, AStatusItemTakesAMenuAndAnOptionalImage) {
   appkit::StatusItem item;
   item.setAutosaveName("OrvaneContract");
   item.setSquareLength();
@@ -74,7 +74,7 @@ TEST_F(MenuContract, AStatusItemTakesAnImageAndAMenuAndCanLoseTheImage) {
   letTimePass(0);
 }
 
-TEST_F(MenuContract, ThereIsNoImageOfAnUnknownSymbol) {
+TEST_F(MenuContract, AnUnknownSymbolHasNoImage) {
   EXPECT_FALSE(
       appkit::Image::systemSymbol("no.such.symbol.at.all", "", 16, appkit::SymbolWeight::regular)
           .has_value());

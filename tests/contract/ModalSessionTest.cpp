@@ -44,12 +44,7 @@ class ModalSessionContract : public ContractFixture {
   std::vector<int> responses;
 };
 
-TEST_F(ModalSessionContract, TheResponsesAreThoseOfAnAlertsButtons) {
-  EXPECT_EQ(ModalResponse::alertFirstButton, 1000);
-  EXPECT_EQ(ModalResponse::alertSecondButton, 1001);
-}
-
-TEST_F(ModalSessionContract, TheWindowIsShownAndStaysUntilItIsClosed) {
+TEST_F(ModalSessionContract, TheWindowStaysOpenAfterTheSession) {
   Window panel = makePanel();
   bool wasVisible = false;
   run(panel, [&] {
@@ -63,7 +58,7 @@ TEST_F(ModalSessionContract, TheWindowIsShownAndStaysUntilItIsClosed) {
   EXPECT_FALSE(panel.isVisible());
 }
 
-TEST_F(ModalSessionContract, ThePanelMayBeClosedRightAfterTheSessionWasStopped) {
+TEST_F(ModalSessionContract, ThePanelMayCloseRightAfterTheSession) {
   Window panel = makePanel();
   int closings = 0;
   panel.onWillClose([&] { ++closings; });
@@ -76,14 +71,14 @@ TEST_F(ModalSessionContract, ThePanelMayBeClosedRightAfterTheSessionWasStopped) 
   EXPECT_FALSE(panel.isVisible());
 }
 
-TEST_F(ModalSessionContract, TheCallbackOfClosingMayStopTheSession) {
+TEST_F(ModalSessionContract, TheCloseCallbackMayStopTheSession) {
   Window panel = makePanel();
   panel.onWillClose([] { Application::stopModal(ModalResponse::alertSecondButton); });
   run(panel, [&] { panel.close(); });
   EXPECT_EQ(responses, std::vector<int>{1001});
 }
 
-TEST_F(ModalSessionContract, TimersOfTheStandardModeWaitForItsEnd) {
+TEST_F(ModalSessionContract, StandardTimersWaitForTheEndOfTheSession) {
   Window panel = makePanel();
   int ticks = 0;
   int ticksWithin = -1;
@@ -105,7 +100,7 @@ TEST_F(ModalSessionContract, TimersOfTheStandardModeWaitForItsEnd) {
   panel.close();
 }
 
-TEST_F(ModalSessionContract, TheContentMayBeTakenOutWhenItHasEnded) {
+TEST_F(ModalSessionContract, TheContentViewMayBeRemovedAfterTheSession) {
   Window panel = makePanel();
   const auto held = std::make_shared<int>(0);
   panel.setContentView(appkit::HostingView([held](const ui::Environment&) { return ui::View(); }));

@@ -41,7 +41,7 @@ TEST_F(NotificationCenterContract, ARemovedObserverIsNotNotifiedAndMayBeRemovedT
   EXPECT_EQ(log, "");
 }
 
-TEST_F(NotificationCenterContract, AnObserverMayReplaceItselfDuringANotification) {
+TEST_F(NotificationCenterContract, AnObserverMayReplaceItself) {
   std::optional<ObserverToken> token;
   token = observe([this, &token] {
     log += "old ";

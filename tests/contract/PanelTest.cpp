@@ -51,7 +51,7 @@ TEST_F(PanelContract, LevelsAreKept) {
   EXPECT_EQ(attributesOf(window).level, 0);
 }
 
-TEST_F(PanelContract, BecomingAFloatingPanelChangesTheLevelAndALaterLevelCounts) {
+TEST_F(PanelContract, AFloatingPanelHasTheFloatingLevelUntilAnotherIsSet) {
   Window panel = make(WindowKind::panel, StyleMask::nonactivatingPanel);
   panel.setFloatingPanel(true);
   EXPECT_TRUE(attributesOf(panel).isFloatingPanel);
@@ -60,7 +60,7 @@ TEST_F(PanelContract, BecomingAFloatingPanelChangesTheLevelAndALaterLevelCounts)
   EXPECT_EQ(attributesOf(panel).level, 25);
 }
 
-TEST_F(PanelContract, CollectionBehavioursAreKeptAsTheyAre) {
+TEST_F(PanelContract, CollectionBehavioursAreKept) {
   Window panel = make(WindowKind::panel, StyleMask::nonactivatingPanel);
   panel.setCollectionBehavior(
       CollectionBehavior::moveToActiveSpace | CollectionBehavior::stationary |

@@ -50,7 +50,7 @@ TEST_F(ScreenContract, AnEntryThatIsMissingOrOfAnotherTypeIsAbsent) {
   EXPECT_EQ(screen.deviceString("NSScreenNumber"), std::nullopt);
 }
 
-TEST_F(ScreenContract, AScreenKeepsDescribingWhatItWas) {
+TEST_F(ScreenContract, AScreenIsASnapshot) {
   ORVANE_ARRANGE(arrangeTwoDisplays());
   const auto before = Screen::screens();
   ORVANE_ARRANGE(changeDisplays());

@@ -21,7 +21,7 @@ class TimerContract : public ContractFixture {
   int ticks = 0;
 };
 
-TEST_F(TimerContract, FiresFirstAfterOneIntervalAndThenAgainAndAgain) {
+TEST_F(TimerContract, FiresAfterEachInterval) {
   const Timer timer = counting(0.1);
   EXPECT_TRUE(timer.isValid());
   letTimePass(0.05);
@@ -47,14 +47,14 @@ TEST_F(TimerContract, ADestroyedTimerFiresNoMore) {
   EXPECT_EQ(ticks, 0);
 }
 
-TEST_F(TimerContract, AMovedTimerGoesOn) {
+TEST_F(TimerContract, AMovedTimerStillFires) {
   Timer timer = counting(0.05);
   const Timer moved = std::move(timer);
   letTimePass(0.08);
   EXPECT_EQ(ticks, 1);
 }
 
-TEST_F(TimerContract, AnAssignedTimerReplacesTheOldOne) {
+TEST_F(TimerContract, AssigningATimerInvalidatesTheOldOne) {
   int others = 0;
   Timer timer = counting(0.05);
   timer = Timer::repeating(0.05, RunLoopMode::standard, [&others] { ++others; });

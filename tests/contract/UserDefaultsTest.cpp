@@ -20,14 +20,14 @@ TEST_F(UserDefaultsContract, AMissingValueIsAbsent) {
   EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
 }
 
-TEST_F(UserDefaultsContract, AWrittenTextIsReadBackAtOnce) {
+TEST_F(UserDefaultsContract, AStoredStringIsReadBackAtOnce) {
   UserDefaults::setString(key, "\xE5\xB7\xA6 left");
   EXPECT_EQ(UserDefaults::string(key), "\xE5\xB7\xA6 left");
   UserDefaults::setString(key, "");
   EXPECT_EQ(UserDefaults::string(key), "");
 }
 
-TEST_F(UserDefaultsContract, AWrittenTruthIsReadBackAtOnce) {
+TEST_F(UserDefaultsContract, AStoredBooleanIsReadBackAtOnce) {
   UserDefaults::setBoolean(key, true);
   EXPECT_EQ(UserDefaults::boolean(key), true);
   UserDefaults::setBoolean(key, false);

@@ -39,14 +39,14 @@ TEST_F(WindowContract, ATitleBarComesOnTopOfTheContent) {
   EXPECT_GT(window.frame().size.height, 100);
 }
 
-TEST_F(WindowContract, HandlesAreEqualWhenTheyNameTheSameWindow) {
+TEST_F(WindowContract, HandlesOfTheSameWindowAreEqual) {
   const Window window = borderless();
   const Window copy = window;
   EXPECT_TRUE(copy == window);
   EXPECT_FALSE(borderless() == window);
 }
 
-TEST_F(WindowContract, TheOriginMovesAWindowAndItsChildren) {
+TEST_F(WindowContract, ItsChildrenMoveWithAWindow) {
   haveDisplays();
   Window parent = borderless();
   Window child = borderless();
@@ -63,7 +63,7 @@ TEST_F(WindowContract, TheOriginMovesAWindowAndItsChildren) {
   parent.close();
 }
 
-TEST_F(WindowContract, TheCallbackOfClosingComesOnceAndMayDropEveryHandle) {
+TEST_F(WindowContract, TheCloseCallbackComesOnceAndMayDropEveryHandle) {
   haveDisplays();
   auto window = std::make_unique<Window>(borderless());
   int calls = 0;
@@ -95,7 +95,7 @@ TEST_F(WindowContract, ABorderlessWindowDoesNotBecomeKeyUnlessAllowed) {
   window.close();
 }
 
-TEST_F(WindowContract, TheContentFillsTheWindowAndCanBeTakenOut) {
+TEST_F(WindowContract, TheContentViewFillsTheWindowAndCanBeRemoved) {
   Window window = borderless();
   const appkit::HostingView view([](const ui::Environment&) { return ui::View(); });
   EXPECT_FALSE(window.contentView().has_value());

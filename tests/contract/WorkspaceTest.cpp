@@ -40,7 +40,7 @@ TEST_F(WorkspaceContract, AnInvalidURLIsNotOpened) {
   EXPECT_EQ(answersInTime(3), (std::vector<bool>{false, false, false}));
 }
 
-TEST_F(WorkspaceContract, ARefusedLinkIsReportedAndAnotherIsOpened) {
+TEST_F(WorkspaceContract, ARefusedLinkIsReported) {
   ORVANE_ARRANGE(canOpenLinks());
   ORVANE_ARRANGE(refuseLinks("x-apple.systempreferences:com.apple.settings"));
   Workspace::openURL("x-apple.systempreferences:com.apple.settings.Privacy", answer());
@@ -56,7 +56,7 @@ TEST_F(WorkspaceContract, TheCallbackIsOptional) {
   letTimePass(0.05);
 }
 
-TEST_F(WorkspaceContract, EncodesWhatAQueryMayNotHold) {
+TEST_F(WorkspaceContract, EncodesTheCharactersThatAQueryMayNotContain) {
   EXPECT_EQ(Workspace::percentEncodedForQuery("Orvane Support"), "Orvane%20Support");
   EXPECT_EQ(Workspace::percentEncodedForQuery(""), "");
   EXPECT_EQ(Workspace::percentEncodedForQuery("aZ09-._~!$&'()*+,;=:@/?"),

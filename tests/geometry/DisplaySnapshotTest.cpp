@@ -17,10 +17,6 @@ using desk::attach;
 
 class DisplaySnapshotTest : public desk::MachineFixture {};
 
-TEST_F(DisplaySnapshotTest, WithoutScreensTheListIsEmpty) {
-  EXPECT_TRUE(DisplaySnapshot::ofAllScreens().empty());
-}
-
 TEST_F(DisplaySnapshotTest, ASnapshotHasEveryField) {
   attach(machine, desk::laptop());
   attach(machine, desk::displayOf(7, " Studio ", {{1920, 100}, {2560, 1440}}), true);

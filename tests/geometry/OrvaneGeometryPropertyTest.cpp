@@ -58,7 +58,7 @@ bool isGuarded(CGPoint point, const CGRect& frame, DockPosition edge,
          });
 }
 
-RC_GTEST_PROP(OrvaneGeometryProperty, ExposedStretchesAgreeWithLookingAtEveryCellOfTheEdge, ()) {
+RC_GTEST_PROP(OrvaneGeometryProperty, ExposedStretchesAgreeWithExaminingEveryCellOfTheEdge, ()) {
   const Arrangement arrangement = *genArrangement();
   const DockPosition edge = *genGuardedEdge();
   for (const CGRect& frame : arrangement.frames) {
@@ -121,39 +121,6 @@ RC_GTEST_PROP(OrvaneGeometryProperty, LockingOneDisplayBlocksAllTheOthers, ()) {
   RC_ASSERT(calculateTriggerZones(arrangement.frames, locked, edge) ==
             (isLocking ? calculateTriggerZones(arrangement.frames, others, edge)
                        : std::vector<TriggerZone>{}));
-}
-
-RC_GTEST_PROP(OrvaneGeometryProperty, ADeskTurnedOverGivesTurnedZones, ()) {
-  const Arrangement arrangement = *genArrangement();
-  const std::vector<CGRect>& frames = arrangement.frames;
-  const auto swapped = [](const CGRect& rect) {
-    return CGRect{{rect.origin.y, rect.origin.x}, {rect.size.height, rect.size.width}};
-  };
-  std::vector<CGRect> swappedFrames;
-  std::ranges::transform(frames, std::back_inserter(swappedFrames), swapped);
-  std::vector<TriggerZone> expected =
-      calculateTriggerZones(frames, everyIndex(arrangement), DockPosition::bottom);
-  for (TriggerZone& zone : expected) {
-    zone = {swapped(zone.rect), {zone.nudgeVector.dy, zone.nudgeVector.dx}};
-  }
-  RC_ASSERT(calculateTriggerZones(swappedFrames, everyIndex(arrangement), DockPosition::right) ==
-            expected);
-}
-
-RC_GTEST_PROP(OrvaneGeometryProperty, ADeskInTheMirrorGivesMirroredZones, ()) {
-  const Arrangement arrangement = *genArrangement();
-  const auto reflected = [](const CGRect& rect) {
-    return CGRect{{-(rect.origin.x + rect.size.width), rect.origin.y}, rect.size};
-  };
-  std::vector<CGRect> reflectedFrames;
-  std::ranges::transform(arrangement.frames, std::back_inserter(reflectedFrames), reflected);
-  std::vector<TriggerZone> expected =
-      calculateTriggerZones(arrangement.frames, everyIndex(arrangement), DockPosition::left);
-  for (TriggerZone& zone : expected) {
-    zone = {reflected(zone.rect), {-zone.nudgeVector.dx, zone.nudgeVector.dy}};
-  }
-  RC_ASSERT(calculateTriggerZones(reflectedFrames, everyIndex(arrangement), DockPosition::right) ==
-            expected);
 }
 
 }  // namespace

@@ -36,28 +36,10 @@ class OrvaneScreenTest : public desk::MachineFixture {
   }
 };
 
-TEST_F(OrvaneScreenTest, TheDisplayIDIsTheScreenNumber) {
-  attach(machine, desk::laptop());
-  EXPECT_EQ(orvaneDisplayID(screen()), 1U);
-}
-
-TEST_F(OrvaneScreenTest, TheGreatestNumberIsKept) {
+TEST_F(OrvaneScreenTest, TheDisplayIDIsTheScreenNumberEvenIfItIsTheGreatest) {
   attach(machine, desk::displayOf(4294967295, "Far", {{0, 0}, {100, 100}}));
   EXPECT_EQ(orvaneDisplayID(screen()), 4294967295U);
   EXPECT_TRUE(orvaneMatchingIdentifiers(screen()).contains("4294967295"));
-}
-
-TEST_F(OrvaneScreenTest, AScreenWithoutANumberHasNoDisplayID) {
-  desk::Display display = desk::laptop();
-  display.hasNumberInDescription = false;
-  attach(machine, display);
-  EXPECT_EQ(orvaneDisplayID(screen()), std::nullopt);
-}
-
-TEST_F(OrvaneScreenTest, TheLegacyIdentifierKeepsItsFormExactly) {
-  attach(machine, desk::displayOf(1, "Any", {{0, 0}, {1512, 982}}));
-  EXPECT_EQ(orvaneLegacyIdentifier(screen()),
-            "Optional(1)-1512.0-982.0-Optional(8)-Optional(\"NSCalibratedRGBColorSpace\")");
 }
 
 TEST_F(OrvaneScreenTest, TheLegacyIdentifierShowsDepthAndColourSpace) {
@@ -77,17 +59,7 @@ TEST_F(OrvaneScreenTest, TheLegacyIdentifierHasNilForAMissingDepthAndColourSpace
   EXPECT_EQ(orvaneLegacyIdentifier(screen()), "Optional(1)-1920.0-1080.0-nil-nil");
 }
 
-TEST_F(OrvaneScreenTest, WithoutANumberTheLegacyIdentifierBeginsWithNil) {
-  desk::Display display = desk::laptop();
-  display.hasNumberInDescription = false;
-  attach(machine, display);
-  EXPECT_EQ(orvaneLegacyIdentifier(screen()), std::string("nil-1920.0-1080.0-") + colorSpaceEnding);
-  EXPECT_EQ(orvanePrimaryIdentifier(screen()), orvaneLegacyIdentifier(screen()));
-  EXPECT_EQ(orvaneMatchingIdentifiers(screen()),
-            (std::set<std::string>{orvaneLegacyIdentifier(screen())}));
-}
-
-TEST_F(OrvaneScreenTest, SizesAreWrittenWithAsFewDecimalsAsReadBackExactly) {
+TEST_F(OrvaneScreenTest, SizesHaveTheFewestDecimalsThatAreExact) {
   attach(machine, desk::displayOf(1, "Any", {{0, 0}, {0.1, 1366.0625}}));
   EXPECT_EQ(orvaneLegacyIdentifier(screen()),
             std::string("Optional(1)-0.1-1366.0625-") + colorSpaceEnding);
@@ -103,32 +75,6 @@ TEST_F(OrvaneScreenTest, WithoutAUUIDThePrimaryIdentifierIsTheLegacyOne) {
   display.uuid.reset();
   attach(machine, display);
   EXPECT_EQ(orvanePrimaryIdentifier(screen()), orvaneLegacyIdentifier(screen()));
-  EXPECT_EQ(orvaneMatchingIdentifiers(screen()),
-            (std::set<std::string>{orvaneLegacyIdentifier(screen()), "1"}));
-}
-
-TEST_F(OrvaneScreenTest, TheMatchingIdentifiersAreUUIDLegacyAndNumber) {
-  attach(machine, desk::laptop());
-  EXPECT_EQ(orvaneMatchingIdentifiers(screen()),
-            (std::set<std::string>{desk::uuidNamed('A'), orvaneLegacyIdentifier(screen()), "1"}));
-}
-
-TEST_F(OrvaneScreenTest, AStoredNumberFindsTheDisplayWithThatNumber) {
-  attach(machine, desk::laptop());
-  attach(machine, desk::monitorAtTheRight());
-  const auto found = screenNamed("2");
-  ASSERT_TRUE(found);
-  EXPECT_EQ(orvaneDisplayID(*found), 2U);
-}
-
-TEST_F(OrvaneScreenTest, AStoredUUIDFindsTheDisplayAfterItsNumberChanged) {
-  attach(machine, desk::laptop());
-  attach(machine, desk::monitorAtTheRight());
-  EXPECT_EQ(machine.displays.renumber(2, 9), std::nullopt);
-  const auto found = screenNamed(desk::uuidNamed('B'));
-  ASSERT_TRUE(found);
-  EXPECT_EQ(orvaneDisplayID(*found), 9U);
-  EXPECT_FALSE(screenNamed("2"));
 }
 
 TEST_F(OrvaneScreenTest, IdentifiersAreComparedExactly) {
@@ -142,27 +88,7 @@ TEST_F(OrvaneScreenTest, IdentifiersAreComparedExactly) {
   EXPECT_FALSE(screenNamed(""));
 }
 
-TEST_F(OrvaneScreenTest, WithoutScreensNothingIsFound) {
-  EXPECT_FALSE(screenNamed("1"));
-}
-
-TEST_F(OrvaneScreenTest, OfTwoIdenticalScreensTheFirstIsFound) {
-  // Without numbers in their descriptions the two share their legacy identifier.
-  desk::Display twin = desk::displayOf(5, "Left twin", {{0, 0}, {1920, 1080}});
-  twin.hasNumberInDescription = false;
-  attach(machine, twin);
-  twin.number = 6;
-  twin.name = "Right twin";
-  twin.frame.origin.x = 1920;
-  attach(machine, twin);
-  const std::string shared = orvaneLegacyIdentifier(screen(0));
-  EXPECT_EQ(shared, orvaneLegacyIdentifier(screen(1)));
-  const auto found = screenNamed(shared);
-  ASSERT_TRUE(found);
-  EXPECT_EQ(found->localizedName(), "Left twin");
-}
-
-TEST_F(OrvaneScreenTest, GlobalCoordinatesHangFromTheTopOfTheFirstScreen) {
+TEST_F(OrvaneScreenTest, GlobalCoordinatesBeginAtTheTopLeftOfTheFirstScreen) {
   attach(machine, desk::displayOf(1, "First", {{0, 0}, {1512, 982}}));
   attach(machine, desk::displayOf(2, "Higher", {{1512, 200}, {1920, 1080}}));
   attach(machine, desk::displayOf(3, "Below", {{-300, -1440}, {2560, 1440}}));

@@ -77,7 +77,7 @@ TEST_F(DockMouseGuardAllocationTest, ATapThatTheSystemDisabledAllocatesNothing) 
   EXPECT_EQ(takenFor(4, kCGEventTapDisabledByTimeout, inTheZone), 0U);
 }
 
-TEST_F(DockMouseGuardAllocationTest, OnlyWhatIsReportedTakesMemoryAtMostOnceASecond) {
+TEST_F(DockMouseGuardAllocationTest, AReportAllocatesAtMostOnceASecond) {
   int reports = 0;
   for (int count = 0; count < 1'000; ++count) {
     machine.clock.moveTo(machine.clock.now() + 20'000'000);

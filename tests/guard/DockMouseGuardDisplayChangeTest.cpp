@@ -27,7 +27,7 @@ TEST_F(DockMouseGuardDisplayChangeTest, PinningWithoutATargetGivesNoZones) {
   expectWaiting();
 }
 
-TEST_F(DockMouseGuardDisplayChangeTest, AnAbsentTargetGivesNoZonesUntilItComes) {
+TEST_F(DockMouseGuardDisplayChangeTest, ADetachedTargetGivesNoZonesUntilItIsAttached) {
   guard->start(desk::uuidNamed('C'), OrvaneModifier::option, false);
   EXPECT_EQ(takeMessages(), Messages{noZones});
   expectWaiting();
@@ -125,7 +125,7 @@ TEST_F(DockMouseGuardDisplayChangeTest, AChangeOfTheDocksEdgeUpdatesTheZonesAtOn
             (Zones{{{{3828, 0}, {12, 1080}}, {-12, 0}}, {{{1908, -1080}, {12, 1080}}, {-12, 0}}}));
 }
 
-TEST_F(DockMouseGuardDisplayChangeTest, AfterAShutOffTheGuardIsBackAsSoonAsTheDockMoves) {
+TEST_F(DockMouseGuardDisplayChangeTest, AfterAShutOffAMoveOfTheDockRestartsTheGuard) {
   startPinned();
   for (const bool isByEdge : {true, false}) {
     block(180);
@@ -148,7 +148,7 @@ TEST_F(DockMouseGuardDisplayChangeTest, AfterAShutOffTheGuardIsBackAsSoonAsTheDo
   }
 }
 
-TEST_F(DockMouseGuardDisplayChangeTest, LosingAllZonesPausesInSilence) {
+TEST_F(DockMouseGuardDisplayChangeTest, LosingAllZonesPausesSilently) {
   startPinned();
   desk::detach(machine, 2);
   EXPECT_EQ(takeMessages(), Messages{});

@@ -25,12 +25,6 @@ TEST_F(DockMouseGuardTest, StartingGuardsEveryDisplayButTheTarget) {
   EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
-TEST_F(DockMouseGuardTest, BlockingAllDisplaysGuardsEachOfThem) {
-  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
-  EXPECT_EQ(guard->snapshot().zones, (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
-  EXPECT_EQ(takeMessages(), Messages{"Mouse guard started. Trigger zones: 2"});
-}
-
 TEST_F(DockMouseGuardTest, BlockingAllDisplaysGuardsASingleOneAndNeedsNoTarget) {
   desk::detach(machine, 2);
   guard->start("", OrvaneModifier::option, true);
@@ -100,7 +94,7 @@ TEST_F(DockMouseGuardTest, WhenThePermissionReturnsAStartReplacesTheDeadTap) {
   EXPECT_EQ(outcomeOf(inTheZone), (CGPoint{2500, 1063}));
 }
 
-TEST_F(DockMouseGuardTest, ADockAtNoEdgeGivesNoZones) {
+TEST_F(DockMouseGuardTest, AnUnusableDockEdgeGivesNoZones) {
   for (const char* const edge : {"top", "middle"}) {
     desk::setDockOrientation(machine, edge);
     guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
@@ -109,20 +103,13 @@ TEST_F(DockMouseGuardTest, ADockAtNoEdgeGivesNoZones) {
   }
 }
 
-TEST_F(DockMouseGuardTest, TwoStartsInARowLeaveOneTapAndOneObserver) {
+TEST_F(DockMouseGuardTest, ARestartLeavesOneTapAndOneObserver) {
   startPinned();
   guard->start(desk::uuidNamed('B'), OrvaneModifier::shift, false);
   expectGuarding();
   EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheLaptop});
   EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::shift);
   EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
-}
-
-TEST_F(DockMouseGuardTest, ARestartWithoutZonesRemovesTheTap) {
-  startPinned();
-  guard->start("", OrvaneModifier::option, false);
-  EXPECT_EQ(takeMessages(), Messages{noZones});
-  expectWaiting();
 }
 
 TEST_F(DockMouseGuardTest, StoppingLeavesTheGuardIdle) {
@@ -200,16 +187,6 @@ std::vector<std::string> openedLinks(const desk::Machine& machine) {
   return urls;
 }
 
-TEST_F(DockMouseGuardTest, ARefusedSettingsLinkGivesWayToTheNext) {
-  machine.links.refuse("x-apple.systempreferences:com.apple.Desktop");
-  DockMouseGuard::openDesktopAndDockSettings();
-  EXPECT_EQ(openedLinks(machine).size(), 1U) << "the answer comes later";
-  machine.runDue();
-  EXPECT_EQ(openedLinks(machine),
-            (Messages{"x-apple.systempreferences:com.apple.Desktop-Settings.extension refused",
-                      "x-apple.systempreferences:com.apple.preference.dock"}));
-}
-
 TEST_F(DockMouseGuardTest, WhenEveryLinkIsRefusedTheSettingsThemselvesAreOpened) {
   machine.links.refuse("x-apple.systempreferences:");
   DockMouseGuard::openDesktopAndDockSettings();
@@ -279,14 +256,12 @@ TEST_F(RunningAnnouncementTest, AShutOffIsAnnounced) {
   EXPECT_EQ(announced(), std::vector{false});
 }
 
-// Starts that end without a tap.
-
-TEST_F(DockMouseGuardTest, AStartWithoutZonesEndsATemporaryUnlock) {
+TEST_F(DockMouseGuardTest, ARestartWithoutZonesRemovesTheTapAndEndsATemporaryUnlock) {
   startPinned();
   outcomeOf(outsideEveryZone, kCGEventFlagMaskAlternate);
   guard->start("", OrvaneModifier::option, false);
-  machine.runDue();
-  ASSERT_FALSE(guard->isRunning());
+  EXPECT_EQ(takeMessages(), Messages{noZones});
+  expectWaiting();
   EXPECT_EQ(unlocks, (Unlocks{true, false}));
 }
 

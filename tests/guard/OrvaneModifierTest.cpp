@@ -35,13 +35,13 @@ TEST(OrvaneModifierTest, TheCasesComeInOrderWithTheirRawValuesAndMasks) {
   }
 }
 
-TEST(OrvaneModifierTest, AnyOtherTextReadsAsOption) {
+TEST(OrvaneModifierTest, OtherTextIsReadAsOption) {
   for (const std::string_view text : {"", "Option", "CONTROL", " shift", "cmd", "control\n"}) {
     EXPECT_EQ(OrvaneModifier::fromRawValue(text), OrvaneModifier::option) << text;
   }
 }
 
-TEST(OrvaneModifierTest, AKeyIsHeldWhenItsBitIsSetWhateverElseIs) {
+TEST(OrvaneModifierTest, AKeyIsHeldWhenItsBitIsSet) {
   for (std::uint64_t flags = 0; flags <= 0x1F0000; flags += 0x10000) {
     for (const Expected& expected : inOrder) {
       EXPECT_EQ(expected.modifier.isHeld(static_cast<CGEventFlags>(flags)),

@@ -13,8 +13,8 @@ TEST(MachineScopeTest, ReportsLeakedObjects) {
   Machine::current().objects.retain(text, "test");
   const MachineEnd end = scope.end();
   EXPECT_FALSE(end.isClean());
-  ASSERT_EQ(end.leftObjects.size(), 1U);
-  EXPECT_EQ(end.leftObjects[0], "CFString \"left behind\", references: 2");
+  ASSERT_EQ(end.leakedObjects.size(), 1U);
+  EXPECT_EQ(end.leakedObjects[0], "CFString \"left behind\", references: 2");
   EXPECT_TRUE(end.faults.empty());
 }
 

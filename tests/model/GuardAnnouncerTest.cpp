@@ -1,4 +1,4 @@
-// What is announced of the guard to users of a screen reader, and when.
+// The announcements of the guard's state to screen readers.
 #include <string>
 #include <vector>
 
@@ -32,12 +32,6 @@ class GuardAnnouncerTest : public ModelFixture {
 TEST_F(GuardAnnouncerTest, AnOrdinaryLaunchIsNotAnnounced) {
   launch();
   EXPECT_EQ(announced(), Announcements());
-}
-
-TEST_F(GuardAnnouncerTest, ARestoredLockIsAnnounced) {
-  store("isOrvaneEnabled", true);
-  launch();
-  EXPECT_EQ(announced(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
 }
 
 TEST_F(GuardAnnouncerTest, StartingStoppingAndAChangeOfModeAreAnnouncedOnce) {
@@ -89,7 +83,7 @@ TEST_F(GuardAnnouncerTest, ARevokedPermissionAndItsReturnAreAnnounced) {
   EXPECT_EQ(announced(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
 }
 
-TEST_F(GuardAnnouncerTest, AGuardThatStopsWithItsPermissionIsAnnouncedOnceAsBlocked) {
+TEST_F(GuardAnnouncerTest, AGuardThatStopsWithoutThePermissionIsAnnouncedOnce) {
   launchPinned();
   announced();
   machine.permission.setTrusted(false);
@@ -102,7 +96,7 @@ TEST_F(GuardAnnouncerTest, AGuardThatStopsWithItsPermissionIsAnnouncedOnceAsBloc
   EXPECT_EQ(announced(), Announcements());
 }
 
-TEST_F(GuardAnnouncerTest, ALockThatStartedLateIsNotBlockedWhenThePermissionIsRevoked) {
+TEST_F(GuardAnnouncerTest, ALockThatHasRunSinceTheLaunchNoLongerCountsAsBlocked) {
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(false);
   launch();

@@ -13,19 +13,13 @@ using Status = appkit::LoginItem::Status;
 
 class OrvaneLoginItemTest : public desk::MachineFixture {};
 
-TEST_F(OrvaneLoginItemTest, EnablingRegistersUnlessItIsEnabled) {
+TEST_F(OrvaneLoginItemTest, RegistersAndUnregistersUnlessThatChangesNothing) {
   for (const Status status :
        {Status::notRegistered, Status::requiresApproval, Status::notFound, Status::enabled}) {
     machine.loginItem = {.status = status, .error = std::nullopt};
     EXPECT_EQ(OrvaneLoginItem::setEnabled(true), std::nullopt);
     EXPECT_EQ(machine.loginItem.registrationCount, status == Status::enabled ? 0 : 1);
     EXPECT_EQ(machine.loginItem.unregistrationCount, 0);
-  }
-}
-
-TEST_F(OrvaneLoginItemTest, DisablingUnregistersUnlessItIsNotRegistered) {
-  for (const Status status :
-       {Status::notRegistered, Status::requiresApproval, Status::notFound, Status::enabled}) {
     machine.loginItem = {.status = status, .error = std::nullopt};
     EXPECT_EQ(OrvaneLoginItem::setEnabled(false), std::nullopt);
     EXPECT_EQ(machine.loginItem.registrationCount, 0);
@@ -45,12 +39,12 @@ TEST_F(OrvaneLoginItemTest, ADiskImageAndATranslocatedPathAreNotPermanent) {
   EXPECT_TRUE(OrvaneLoginItem::isInPermanentLocation());
 }
 
-TEST_F(OrvaneLoginItemTest, ThePlatformsErrorIsPassedOutUnchanged) {
+TEST_F(OrvaneLoginItemTest, ThePlatformsErrorIsReturnedUnchanged) {
   machine.loginItem.error = "Operation not permitted";
   EXPECT_EQ(OrvaneLoginItem::setEnabled(true), "Operation not permitted");
   machine.loginItem.status = Status::enabled;
   EXPECT_EQ(OrvaneLoginItem::setEnabled(false), "Operation not permitted");
-  EXPECT_EQ(OrvaneLoginItem::setEnabled(true), std::nullopt) << "nothing was asked for";
+  EXPECT_EQ(OrvaneLoginItem::setEnabled(true), std::nullopt) << "it is already registered";
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ TEST_F(OrvaneModelLoginItemTest, SwitchingLaunchAtLoginRegistersAndUnregisters) 
   EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt);
 }
 
-TEST_F(OrvaneModelLoginItemTest, AFailedRegistrationKeepsThePlatformsTextUntilASuccess) {
+TEST_F(OrvaneModelLoginItemTest, AFailedRegistrationShowsThePlatformsErrorUntilASuccess) {
   launch();
   machine.loginItem.error = "Operation not permitted";
   machine.loginItem.status = Status::requiresApproval;
@@ -44,7 +44,7 @@ TEST_F(OrvaneModelLoginItemTest, AFailedRegistrationKeepsThePlatformsTextUntilAS
   machine.loginItem.error.reset();
   model->setLaunchAtLoginEnabled(true);
   EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt);
-  EXPECT_FALSE(model->launchAtLoginEnabled().value()) << "it is the user who approves";
+  EXPECT_FALSE(model->launchAtLoginEnabled().value()) << "the user has to approve";
   EXPECT_TRUE(model->launchAtLoginRequiresApproval().value());
 }
 
@@ -56,15 +56,15 @@ TEST_F(OrvaneModelLoginItemTest, NothingIsRegisteredFromATemporaryLocation) {
   model->setLaunchAtLoginEnabled(true);
   EXPECT_EQ(announcements, 1);
   EXPECT_EQ(machine.loginItem.registrationCount, 0);
-  EXPECT_TRUE(model->isLaunchAtLoginMisplaced());
+  EXPECT_TRUE(model->isLaunchAtLoginBlocked());
   EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt) << "nothing has failed";
   // The installed copy may have registered itself, and can be unregistered from any location.
   machine.loginItem.status = Status::enabled;
   model->refreshLaunchAtLoginStatus();
-  EXPECT_FALSE(model->isLaunchAtLoginMisplaced());
+  EXPECT_FALSE(model->isLaunchAtLoginBlocked());
   model->setLaunchAtLoginEnabled(false);
   EXPECT_EQ(machine.loginItem.unregistrationCount, 1);
-  EXPECT_FALSE(model->isLaunchAtLoginMisplaced()) << "the user no longer asks for it";
+  EXPECT_FALSE(model->isLaunchAtLoginBlocked()) << "the user no longer asks for it";
   machine.bundle.isOnReadOnlyVolume = false;
   model->setLaunchAtLoginEnabled(true);
   EXPECT_TRUE(model->launchAtLoginEnabled().value());

@@ -27,7 +27,7 @@ TEST_F(OrvaneSettingsTest, NothingStoredReadsAsTheDefaults) {
   EXPECT_TRUE(stored().empty()) << "reading writes nothing";
 }
 
-TEST_F(OrvaneSettingsTest, EachSettingIsStoredUnderItsKeyInItsForm) {
+TEST_F(OrvaneSettingsTest, EachSettingHasItsKeyAndFormat) {
   OrvaneSettings::setSelectedDisplayID("an id");
   OrvaneSettings::setOrvaneEnabled(true);
   OrvaneSettings::setHidesDockOnAllDisplays(true);

@@ -1,4 +1,4 @@
-// The model's state in one value: which condition takes precedence.
+// The model's status: which condition takes precedence.
 #include <functional>
 
 #include <gtest/gtest.h>
@@ -10,17 +10,6 @@ namespace orvane {
 namespace {
 
 class OrvaneStatusTest : public ModelFixture {};
-
-TEST_F(OrvaneStatusTest, TheCasesKeepTheirOrder) {
-  EXPECT_EQ(static_cast<int>(OrvaneStatus::unlocked), 0);
-  EXPECT_EQ(static_cast<int>(OrvaneStatus::locked), 1);
-  EXPECT_EQ(static_cast<int>(OrvaneStatus::temporarilyUnlocked), 2);
-  EXPECT_EQ(static_cast<int>(OrvaneStatus::needsCheck), 3);
-  EXPECT_EQ(static_cast<int>(OrvaneStatus::targetMissing), 4);
-  EXPECT_EQ(static_cast<int>(OrvaneStatus::permissionRequired), 5);
-  EXPECT_NE(std::hash<OrvaneStatus>{}(OrvaneStatus::locked),
-            std::hash<OrvaneStatus>{}(OrvaneStatus::unlocked));
-}
 
 TEST_F(OrvaneStatusTest, AStoppedGuardIsUnlockedAndARunningOneLocked) {
   launch().refreshDisplays();
@@ -75,14 +64,14 @@ TEST_F(OrvaneStatusTest, ATargetIsMissingUntilTheDisplaysHaveBeenListed) {
 TEST_F(OrvaneStatusTest, AnUnknownEdgeComesBeforeARunningGuard) {
   launchPinned();
   desk::setDockOrientation(machine, "sideways");
-  EXPECT_EQ(model->status(), OrvaneStatus::needsCheck) << "the edge is read afresh each time";
+  EXPECT_EQ(model->status(), OrvaneStatus::needsCheck) << "the edge is read at each call";
   moveHolding(kCGEventFlagMaskAlternate);
   EXPECT_EQ(model->status(), OrvaneStatus::needsCheck);
   desk::setDockOrientation(machine, "left");
   EXPECT_EQ(model->status(), OrvaneStatus::temporarilyUnlocked);
 }
 
-TEST_F(OrvaneStatusTest, TheHeldModifierUnlocksForAWhile) {
+TEST_F(OrvaneStatusTest, AHeldModifierUnlocksTemporarily) {
   launchPinned();
   EXPECT_EQ(model->status(), OrvaneStatus::locked);
   moveHolding(kCGEventFlagMaskAlternate);

@@ -49,11 +49,11 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsCreatedOnceAndNotShown) {
   expectGuideOrigin(1280, 313);
   EXPECT_FALSE(isGuideVisible());
   EXPECT_FALSE(isPolling());
-  const appkit::Window panel = guide().panel();
   show();
+  const auto panel = window("guide");
   guide().close();
   show();
-  EXPECT_TRUE(guide().panel() == panel);
+  EXPECT_EQ(window("guide"), panel);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsRightOfTheCentreOfTheScreenWithThePointer) {
@@ -67,7 +67,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsRightOfTheCentreOfTheScree
 TEST_F(OrvanePermissionGuideWindowControllerTest, OnANarrowerScreenItKeepsItsDistanceFromTheEdge) {
   haveDisplay(CGRectMake(0, 0, 1300, 900));
   show();
-  EXPECT_EQ(guide().panel().frame().origin.x, 1300 - 360 - 20);
+  EXPECT_EQ(guide().snapshot().frame.origin.x, 1300 - 360 - 20);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, OnAScreenThatIsTooSmallTheUpperLimitWins) {

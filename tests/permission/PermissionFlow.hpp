@@ -65,8 +65,8 @@ class PermissionFlow : public desk::HandFixture {
   }
 
   void expectGuideOrigin(double x, double y) {
-    EXPECT_EQ(guide().panel().frame().origin.x, x);
-    EXPECT_EQ(guide().panel().frame().origin.y, y);
+    EXPECT_EQ(guide().snapshot().frame.origin.x, x);
+    EXPECT_EQ(guide().snapshot().frame.origin.y, y);
   }
 
   std::string granted;

@@ -244,8 +244,8 @@ std::size_t PermissionSwarm::calledBack() const {
 
 std::optional<std::string> PermissionSwarm::end() {
   const desk::MachineEnd end = scope_.end();
-  if (!end.leftObjects.empty()) {
-    return "not released: " + end.leftObjects.front();
+  if (!end.leakedObjects.empty()) {
+    return "not released: " + end.leakedObjects.front();
   }
   if (!end.faults.empty()) {
     return "fault: " + end.faults.front();

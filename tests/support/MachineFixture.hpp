@@ -14,7 +14,7 @@ class MachineFixture : public testing::Test {
  public:
   ~MachineFixture() override {
     const MachineEnd end = scope_.end();
-    for (const std::string& object : end.leftObjects) {
+    for (const std::string& object : end.leakedObjects) {
       ADD_FAILURE() << "not released: " << object;
     }
     for (const std::string& fault : end.faults) {

@@ -9,7 +9,7 @@ EXCEPTIONS = {
     "desk/canvas/CairoPointers.hpp": "owners of a library's objects, one name for each kind",
 }
 # The headers that any folder of a platform may implement.
-SEAM_HEADERS = "Orvane/platform/appkit"
+PLATFORM_HEADERS = "Orvane/platform/appkit"
 # Folders that implement functions declared by the platform or its compiler, one group per file.
 FOREIGN_FOLDERS = {"desk/quartz", "macos/quartz", "macos/runtime"}
 ENTRY_POINTS = {"main", "Main"}
@@ -78,7 +78,7 @@ def _check_source(project, file):
         return
     if re.search(r"^int main\(", file.code(), re.MULTILINE):
         return
-    folders = {folder} if file.top == "Orvane" else {folder, SEAM_HEADERS}
+    folders = {folder} if file.top == "Orvane" else {folder, PLATFORM_HEADERS}
     owners = [other.path.stem for other in project.cpp
               if other.path.suffix == ".hpp" and str(other.path.parent) in folders]
     if not any(stem.startswith(owner) or stem.endswith(owner) for owner in owners):

@@ -26,7 +26,7 @@ constexpr double refreshSeconds = 1.0;
 }  // namespace
 
 bool LoginItemCaption::isNeeded() const {
-  return model->launchAtLoginRequiresApproval().value() || model->isLaunchAtLoginMisplaced() ||
+  return model->launchAtLoginRequiresApproval().value() || model->isLaunchAtLoginBlocked() ||
          model->isLaunchAtLoginFailing();
 }
 
@@ -35,7 +35,7 @@ std::string LoginItemCaption::message() const {
   if (model->launchAtLoginRequiresApproval().value()) {
     return model->localized("Approve Orvane in Login Items", "请在“登录项”中允许 Orvane");
   }
-  if (model->isLaunchAtLoginMisplaced()) {
+  if (model->isLaunchAtLoginBlocked()) {
     return model->localized("To open at login, move Orvane to Applications",
                             "要开机自动运行，请先将 Orvane 移到“应用程序”文件夹");
   }
@@ -61,7 +61,7 @@ View LoginItemCaption::body(const Environment& environment) const {
                            .foreground(Color::orange());
   // The Login Items page does not help when the application has to be moved.
   const bool pageHelps =
-      model->launchAtLoginRequiresApproval().value() || !model->isLaunchAtLoginMisplaced();
+      model->launchAtLoginRequiresApproval().value() || !model->isLaunchAtLoginBlocked();
   return HStack(spacing, {warning, text, when(pageHelps, button)})
       .onAppear([model = model, refreshTimer] {
         refreshTimer.set(std::make_shared<appkit::Timer>(

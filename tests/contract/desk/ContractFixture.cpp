@@ -17,7 +17,7 @@ ContractFixture::ContractFixture() : platform_(std::make_unique<Platform>()) {
 
 ContractFixture::~ContractFixture() {
   const desk::MachineEnd end = platform_->scope.end();
-  for (const std::string& object : end.leftObjects) {
+  for (const std::string& object : end.leakedObjects) {
     ADD_FAILURE() << "not released: " << object;
   }
   for (const std::string& fault : end.faults) {

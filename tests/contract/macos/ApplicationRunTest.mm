@@ -11,7 +11,7 @@ TEST(ApplicationRun, ThereIsAnApplication) {
   EXPECT_NE(NSApp, nil);
 }
 
-TEST(ApplicationRun, WhatWasAutoreleasedGoesWhenTimePassesAndWhenTheTestEnds) {
+TEST(ApplicationRun, AutoreleasedObjectsAreReleasedAfterEachServeAndTest) {
   __weak NSObject* first = nil;
   __weak NSObject* second = nil;
   {

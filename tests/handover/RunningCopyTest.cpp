@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/base/RunningCopy.hpp"
+#include "macos/handover/RunningCopy.hpp"
 
 namespace orvane {
 namespace {

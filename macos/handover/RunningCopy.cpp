@@ -1,5 +1,5 @@
 // Which of several running copies of one program stays.
-#include "Orvane/base/RunningCopy.hpp"
+#include "macos/handover/RunningCopy.hpp"
 
 #include <algorithm>
 #include <tuple>
