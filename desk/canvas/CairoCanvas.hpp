@@ -81,6 +81,8 @@ class CairoCanvas : public ui::Canvas {
   /// The same, in one colour or a gradient that runs down, by the coverage. False, and nothing
   /// painted, where that cannot be.
   bool paintCoverage(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
+  /// The coverage of a shape within the clip, relative to the top left pixel of its bounds.
+  const CoverageRuns& coverageOf(const ui::Shape& shape, double lineWidth);
   /// Of some rows of a shape within the clip, in pixels of the target.
   Mask coveredRows(const ui::Shape& shape, double lineWidth, const PixelRect& rows);
   /// Of the rows from `top` up to `bottom`, in pixels of the target.
