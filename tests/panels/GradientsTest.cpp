@@ -19,7 +19,6 @@ namespace orvane {
 namespace {
 
 using desk::Appearance;
-using ui::Rgba;
 
 constexpr double scale = 2;
 
