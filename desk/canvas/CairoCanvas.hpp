@@ -82,7 +82,7 @@ class CairoCanvas : public ui::Canvas {
   /// painted, where that cannot be.
   bool paintCoverage(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
   /// The coverage of a shape within the clip, relative to the top left pixel of its bounds.
-  const CoverageRuns& coverageOf(const ui::Shape& shape, double lineWidth);
+  const CoverageRuns& coverageRunsOf(const ui::Shape& shape, double lineWidth);
   /// Of some rows of a shape within the clip, in pixels of the target.
   Mask coveredRows(const ui::Shape& shape, double lineWidth, const PixelRect& rows);
   /// Of the rows from `top` up to `bottom`, in pixels of the target.

@@ -184,7 +184,7 @@ Mask CairoCanvas::coveredRows(const ui::Shape& shape, double lineWidth, const Pi
   return mask;
 }
 
-const CoverageRuns& CairoCanvas::coverageOf(const ui::Shape& shape, double lineWidth) {
+const CoverageRuns& CairoCanvas::coverageRunsOf(const ui::Shape& shape, double lineWidth) {
   const Clip& clip = layers_.back().clips.back();
   const ui::Transform pixels = pixelTransform();
   const ui::Rect area = pixels.apply(shape.rect.inset(-lineWidth));
@@ -258,7 +258,7 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
     return false;
   }
   const PixelRect bounds = pixelsOf(pixelTransform().apply(shape.rect.inset(-lineWidth)));
-  const CoverageRuns& runs = coverageOf(shape, lineWidth);
+  const CoverageRuns& runs = coverageRunsOf(shape, lineWidth);
   PixelRect painted;
   for (PixelRect& part : *parts) {
     part = part.cutTo(bounds);
