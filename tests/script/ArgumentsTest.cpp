@@ -11,10 +11,12 @@ namespace orvane::desk::script {
 namespace {
 
 /// Keeps the words alive that the arguments look at.
-struct Line {
+class Line {
+ public:
   explicit Line(std::string text) : text_(std::move(text)), lexed_(lexLine(text_)) {}
   Arguments arguments() const { return {lexed_.words, text_}; }
 
+ private:
   std::string text_;
   LexedLine lexed_;
 };
