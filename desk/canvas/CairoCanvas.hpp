@@ -81,6 +81,8 @@ class CairoCanvas : public ui::Canvas {
   /// The same from cached coverage, for a solid colour or a vertical gradient. False, and nothing
   /// painted, when that is impossible.
   bool paintCoverage(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
+  /// The coverage of a shape within the clip, relative to the top left pixel of its bounds.
+  const CoverageRuns& coverageRunsOf(const ui::Shape& shape, double lineWidth);
   /// For some rows of a shape within the clip, in pixels of the target.
   Mask coveredRows(const ui::Shape& shape, double lineWidth, const PixelRect& rows);
   /// For the rows from `top` to `bottom` (exclusive), in pixels of the target.

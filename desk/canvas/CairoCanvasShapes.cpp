@@ -186,29 +186,8 @@ Mask CairoCanvas::coveredRows(const ui::Shape& shape, double lineWidth, const Pi
   return mask;
 }
 
-bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, double lineWidth) {
-  const Layer& layer = layers_.back();
-  const Clip& clip = layer.clips.back();
-  DeepSurface* const deep = deepTarget();
-  cairo_surface_t* const target = cairo_get_target(context());
-  if (shape.rect.isEmpty() ||
-      (deep == nullptr &&
-       (clip.isTangled || cairo_image_surface_get_format(target) != CAIRO_FORMAT_ARGB32))) {
-    return false;
-  }
-  // Cairo computes the coverage of a rectangle between pixels differently.
-  const bool isSharp = shape.kind == ui::Shape::Kind::rectangle || shape.effectiveRadius() == 0;
-  if (deep == nullptr && isSharp &&
-      (lineWidth > 0 || !isWhole(pixelTransform().apply(shape.rect)))) {
-    return false;
-  }
-  std::optional<std::vector<PixelRect>> parts = clipRectangles(context());
-  if (!parts && !clip.shapes.empty()) {
-    parts = {clipExtents()};
-  }
-  if (!parts) {
-    return false;
-  }
+const CoverageRuns& CairoCanvas::coverageRunsOf(const ui::Shape& shape, double lineWidth) {
+  const Clip& clip = layers_.back().clips.back();
   const ui::Transform pixels = pixelTransform();
   const ui::Rect area = pixels.apply(shape.rect.inset(-lineWidth));
   const PixelRect bounds = pixelsOf(area);
@@ -239,7 +218,7 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
         .add(rect.width)
         .add(rect.height);
   }
-  const CoverageRuns& runs = resources_.coverage.get(key, [&] {
+  return resources_.coverage.get(key, [&] {
     CoverageRuns made;
     const auto add = [&](int top, int bottom) {
       made.add(coveredRows(shape, lineWidth, {bounds.left, top, bounds.right, bottom}));
@@ -255,6 +234,33 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
     made.moveBy(-bounds.left, -bounds.top);
     return made;
   });
+}
+
+bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, double lineWidth) {
+  const Layer& layer = layers_.back();
+  const Clip& clip = layer.clips.back();
+  DeepSurface* const deep = deepTarget();
+  cairo_surface_t* const target = cairo_get_target(context());
+  if (shape.rect.isEmpty() ||
+      (deep == nullptr &&
+       (clip.isTangled || cairo_image_surface_get_format(target) != CAIRO_FORMAT_ARGB32))) {
+    return false;
+  }
+  // Cairo computes the coverage of a rectangle between pixels differently.
+  const bool isSharp = shape.kind == ui::Shape::Kind::rectangle || shape.effectiveRadius() == 0;
+  if (deep == nullptr && isSharp &&
+      (lineWidth > 0 || !isWhole(pixelTransform().apply(shape.rect)))) {
+    return false;
+  }
+  std::optional<std::vector<PixelRect>> parts = clipRectangles(context());
+  if (!parts && !clip.shapes.empty()) {
+    parts = {clipExtents()};
+  }
+  if (!parts) {
+    return false;
+  }
+  const PixelRect bounds = pixelsOf(pixelTransform().apply(shape.rect.inset(-lineWidth)));
+  const CoverageRuns& runs = coverageRunsOf(shape, lineWidth);
   PixelRect painted;
   for (PixelRect& part : *parts) {
     part = part.cutTo(bounds);

@@ -69,11 +69,11 @@ class DeepSurfaceTest : public PixelFixture {
     return most;
   }
 
-  /// Each kind of drawing under each kind of clip.
-  static std::vector<std::pair<std::string, Drawing>> drawings() {
+  /// Each kind of drawing.
+  static std::vector<std::pair<std::string, Drawing>> plainDrawings() {
     const Shape card = Shape::roundedRectangle({8, 6, 40, 44}, 9);
     const Paint solid = Paint::solid({0.9, 0.3, 0.1, 0.6});
-    const std::vector<std::pair<std::string, Drawing>> plain{
+    std::vector<std::pair<std::string, Drawing>> plain{
         {"solid", [=](CairoCanvas& canvas) { canvas.fill(card, solid); }},
         {"down",
          [=](CairoCanvas& canvas) {
@@ -119,6 +119,11 @@ class DeepSurfaceTest : public PixelFixture {
            canvas.fill(card.inset(8), solid);
            canvas.endLayer();
          }}};
+    return plain;
+  }
+
+  /// The same, under every kind of clip.
+  static std::vector<std::pair<std::string, Drawing>> drawings() {
     const Shape round = Shape::roundedRectangle({4, 4, 40, 34}, 12);
     const std::vector<std::pair<std::string, std::vector<Shape>>> clips{
         {"", {}},
@@ -127,7 +132,7 @@ class DeepSurfaceTest : public PixelFixture {
         {" in two clips", {round, Shape::ellipse({2, 2, 50, 44})}}};
     std::vector<std::pair<std::string, Drawing>> all;
     for (const auto& [kind, shapes] : clips) {
-      for (const auto& [name, draw] : plain) {
+      for (const auto& [name, draw] : plainDrawings()) {
         all.emplace_back(name + kind, [shapes = shapes, draw = draw](CairoCanvas& canvas) {
           canvas.save();
           for (const Shape& shape : shapes) {

@@ -27,7 +27,7 @@ class ModalSessionContract : public ContractFixture {
   }
 
   /// Runs the session from a main-queue task, and calls `within` once during the session.
-  void run(const Window& panel, std::function<void()> within) {
+  void run(const Window& panel, const std::function<void()>& within) {
     bool isDone = false;
     const Timer timer = Timer::repeating(0.05, RunLoopMode::common, [&] {
       if (!isDone) {

@@ -27,9 +27,9 @@ class Model {
   void togglePin();
   void togglePrevent();
   void restore();
-  void setPrevents(bool prevents);
-  void setModifier(const std::string& modifier);
-  void setLanguage(const std::string& language);
+  void setPrevents(bool newPrevents);
+  void setModifier(const std::string& newModifier);
+  void setLanguage(const std::string& newLanguage);
   void openAccessibilitySettings();
 
   /// The user grants the permission for the request.

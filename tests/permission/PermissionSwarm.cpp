@@ -74,6 +74,22 @@ void PermissionSwarm::wait(unsigned how) {
   machine_.advance(seconds[how % seconds.size()]);
 }
 
+void PermissionSwarm::closeSettings() {
+  if (const auto window = desk::Surfaces(server_).window("system")) {
+    server_.close(window);
+  }
+}
+
+void PermissionSwarm::quitAndLaunch(unsigned how) {
+  if (how % 2 == 0) {
+    application_.terminate();
+  } else {
+    application_.crash();
+  }
+  machine_.runDue();
+  launch();
+}
+
 void PermissionSwarm::dropIcon() {
   const auto guide = desk::Surfaces(server_).window("guide");
   const auto settings = desk::Surfaces(server_).window("system");
@@ -101,6 +117,15 @@ void PermissionSwarm::changeDisplays() {
 }
 
 void PermissionSwarm::take(const SwarmStep& step) {
+  act(step);
+  machine_.runDue();
+  if (!application_.isRunning()) {
+    // A click may have hit "Quit".
+    launch();
+  }
+}
+
+void PermissionSwarm::act(const SwarmStep& step) {
   OrvaneModel& model = application_.model();
   switch (step.action) {
     case SwarmAction::check:
@@ -144,9 +169,7 @@ void PermissionSwarm::take(const SwarmStep& step) {
       model.openAccessibilitySettings();
       break;
     case SwarmAction::closeSettings:
-      if (const auto window = desk::Surfaces(server_).window("system")) {
-        server_.close(window);
-      }
+      closeSettings();
       break;
     case SwarmAction::click:
       hand_.click({(step.how * 37) % 1920 + 0.0, (step.how * 91) % 1080 + 0.0});
@@ -158,19 +181,8 @@ void PermissionSwarm::take(const SwarmStep& step) {
       OrvaneWindowController::shared().showSettings(model);
       break;
     case SwarmAction::quitAndLaunch:
-      if (step.how % 2 == 0) {
-        application_.terminate();
-      } else {
-        application_.crash();
-      }
-      machine_.runDue();
-      launch();
+      quitAndLaunch(step.how);
       break;
-  }
-  machine_.runDue();
-  if (!application_.isRunning()) {
-    // A click may have hit "Quit".
-    launch();
   }
 }
 

@@ -62,7 +62,10 @@ class PermissionSwarm {
   void check();
   void answerAlert(unsigned how);
   void closeGuide(unsigned how);
+  void act(const SwarmStep& step);
   void wait(unsigned how);
+  void closeSettings();
+  void quitAndLaunch(unsigned how);
   void dropIcon();
   void changeDisplays();
   bool press(const std::string& surface, const std::string& label);

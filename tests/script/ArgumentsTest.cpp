@@ -11,10 +11,12 @@ namespace orvane::desk::script {
 namespace {
 
 /// Owns the words to which the arguments refer.
-struct Line {
+class Line {
+ public:
   explicit Line(std::string text) : text_(std::move(text)), lexed_(lexLine(text_)) {}
   Arguments arguments() const { return {lexed_.words, text_}; }
 
+ private:
   std::string text_;
   LexedLine lexed_;
 };

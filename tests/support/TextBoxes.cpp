@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <limits>
+#include <utility>
 #include <vector>
 
 #include "tests/support/RecordingCanvas.hpp"
@@ -13,8 +14,10 @@ namespace {
 
 class TextCanvas : public ui::RecordingCanvas {
  public:
-  TextCanvas(const std::string& name, ui::Point origin, ui::TextMeasurer& measurer)
-      : name_(name), transforms_{ui::Transform::translation(origin)}, measurer_(measurer) {}
+  TextCanvas(std::string name, ui::Point origin, ui::TextMeasurer& measurer)
+      : name_(std::move(name)),
+        transforms_{ui::Transform::translation(origin)},
+        measurer_(measurer) {}
 
   [[nodiscard]] const std::string& boxes() const { return boxes_; }
 

@@ -20,7 +20,7 @@ class MenuTrackerTest : public WindowFixture {
     made.action = std::move(action);
     return made;
   }
-  MenuItem row(const std::string& title, std::function<void()> action) {
+  MenuItem row(const std::string& title, const std::function<void()>& action) {
     MenuItem made = plain(title, action);
     appkit::HostingView view = hosting(wideButton(title, action));
     view.setFrame(CGRectMake(0, 0, 200, 30));

@@ -1,0 +1,146 @@
+"""Builds mutants in a copy of the tree and runs the tests on them."""
+
+import hashlib
+import json
+import os
+import resource
+import shutil
+import signal
+import subprocess
+import sys
+import time
+
+# The folders of tests/ whose programs say something about a folder of Orvane/, the quickest first.
+TESTS = {
+    "app": ["app", "model"],
+    "base": ["base"],
+    "geometry": ["geometry", "guard"],
+    "guard": ["guard", "model"],
+    "model": ["model", "app"],
+    "panels": ["panels", "gallery"],
+    "permission": ["permission", "model"],
+    "ui": ["ui", "panels"],
+    "windows": ["windows", "panels", "permission"],
+}
+# Properties try the same cases for every mutant. Without ccache, which would keep every mutant, the
+# build precompiles headers.
+ENVIRONMENT = {**os.environ, "RC_PARAMS": "seed=20260101 max_success=100", "CCACHE_DISABLE": "1"}
+MEMORY_LIMIT = 4 << 30
+
+
+def limit_memory():
+    resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
+
+
+def passes(program, seconds):
+    """Whether a test program ends without a failure in the time; a hang counts as a failure."""
+    with subprocess.Popen([program, "--gtest_fail_fast", "--gtest_brief=1"], stdout=subprocess.DEVNULL,
+                          stderr=subprocess.DEVNULL, cwd=program.parent, env=ENVIRONMENT,
+                          start_new_session=True, preexec_fn=limit_memory) as process:
+        try:
+            return process.wait(timeout=seconds) == 0
+        except subprocess.TimeoutExpired:
+            os.killpg(process.pid, signal.SIGKILL)
+            return False
+
+
+class Workshop:
+    """A copy of the tree with its build, and the verdicts that are known."""
+
+    def __init__(self, root, work):
+        self.tree = work / "tree"
+        self.build = work / "build"
+        self.copy(root)
+        self.verdicts = work / "verdicts" / f"{self.digest()}.txt"
+        self.verdicts.parent.mkdir(parents=True, exist_ok=True)
+        self.known = {}
+        if self.verdicts.exists():
+            for line in self.verdicts.read_text(encoding="utf-8").splitlines():
+                verdict, mutant = line.split("\t", 1)
+                self.known[mutant] = verdict
+        self.programs = {}
+        # Seconds for each program.
+        self.limits = {}
+        # The object of each source, relative to the build, and its contents without a fault.
+        self.objects = {}
+
+    def copy(self, root):
+        """Brings the copy up to date; files that are equal keep their time, so little is rebuilt."""
+        listing = subprocess.run(["git", "-C", root, "ls-files", "-z", "--cached", "--others",
+                                  "--exclude-standard"], check=True, capture_output=True, text=True).stdout
+        self.files = sorted(name for name in listing.split("\0") if name and (root / name).is_file())
+        for name in self.files:
+            source, target = root / name, self.tree / name
+            if not target.exists() or target.read_bytes() != source.read_bytes():
+                target.parent.mkdir(parents=True, exist_ok=True)
+                shutil.copyfile(source, target)
+                shutil.copymode(source, target)
+        for path in {path for path in self.tree.rglob("*") if path.is_file()} - {
+                self.tree / name for name in self.files}:
+            path.unlink()
+
+    def digest(self):
+        """A name for the contents of all files."""
+        digest = hashlib.sha256()
+        for name in self.files:
+            digest.update(name.encode() + b"\0" + (self.tree / name).read_bytes() + b"\0")
+        return digest.hexdigest()[:12]
+
+    def prepare(self, folder):
+        """Builds what the mutants of a folder need and measures the tests; ends the program if they fail."""
+        if not (self.build / "build.ninja").exists():
+            # Without debug information, the same code is the same object.
+            subprocess.run(["cmake", "--preset", "desk", "-B", self.build, "-DCMAKE_CXX_FLAGS=-w",
+                            "-DCMAKE_CXX_FLAGS_DEBUG=-O1", "-DORVANE_WARNINGS_AS_ERRORS=OFF"],
+                           cwd=self.tree, check=True, stdout=subprocess.DEVNULL, env=ENVIRONMENT)
+        subprocess.run(["ninja", "-C", self.build, "--quiet", "build.ninja"], check=True)
+        listing = subprocess.run(["ninja", "-C", self.build, "-t", "targets", "all"], check=True,
+                                 capture_output=True, text=True).stdout
+        executables = sorted(line.split(":")[0] for line in listing.splitlines()
+                             if ": CXX_EXECUTABLE_LINKER" in line)
+        self.programs[folder] = [name for test in TESTS[folder] for name in executables
+                                 if name.startswith(f"tests/{test}/")]
+        self.make(*self.programs[folder], check=True)
+        for command in json.loads((self.build / "compile_commands.json").read_text(encoding="utf-8")):
+            source, words = command["file"], command["command"].split()
+            if source.startswith(f"{self.tree}/Orvane/{folder}/"):
+                target = words[words.index("-o") + 1]
+                self.objects[source] = target, (self.build / target).read_bytes()
+        for program in self.programs[folder]:
+            started = time.monotonic()
+            if not passes(self.build / program, 600):
+                sys.exit(f"{program} fails without a fault")
+            self.limits[program] = 5 + 10 * (time.monotonic() - started)
+
+    def make(self, *targets, check=False):
+        """Whether the targets build."""
+        return subprocess.run(["ninja", "-C", self.build, "--quiet", *targets], check=check,
+                              stdout=None if check else subprocess.DEVNULL, env=ENVIRONMENT).returncode == 0
+
+    def try_mutant(self, folder, mutant):
+        """One of "killed", "survived", "same" (the compiler makes the same code of it) and "invalid"."""
+        if str(mutant) not in self.known:
+            verdict = self.verdict(folder, mutant)
+            self.known[str(mutant)] = verdict
+            with self.verdicts.open("a", encoding="utf-8") as file:
+                file.write(f"{verdict}\t{mutant}\n")
+        return self.known[str(mutant)]
+
+    def verdict(self, folder, mutant):
+        source = self.tree / mutant.file
+        target, code = self.objects[str(source)]
+        original = source.read_text(encoding="utf-8")
+        try:
+            source.write_text(mutant.applied(original), encoding="utf-8")
+            if not self.make(target):
+                return "invalid"
+            if (self.build / target).read_bytes() == code:
+                return "same"
+            for program in self.programs[folder]:
+                # What compiles but cannot be linked is noticed, too.
+                if not self.make(program) or not passes(self.build / program, self.limits[program]):
+                    return "killed"
+            return "survived"
+        finally:
+            # The next mutant builds what this leaves behind.
+            source.write_text(original, encoding="utf-8")
