@@ -1,4 +1,5 @@
-// The invariants of the guard, the model and the machine; SurfaceInvariants.cpp has the others.
+// The invariants of the guard, the model and the machine; those of surfaces are in
+// InvariantCheckerSurfaces.cpp.
 #include "desk/explore/InvariantChecker.hpp"
 
 #include <algorithm>

@@ -27,8 +27,9 @@ std::string decimal(std::int64_t thousandths) {
   std::string fraction = std::to_string(magnitude % 1000);
   fraction.insert(0, 3 - fraction.size(), '0');
   fraction.erase(fraction.find_last_not_of('0') + 1);
-  return (thousandths < 0 ? "-" : "") + std::to_string(magnitude / 1000) +
-         (fraction.empty() ? "" : "." + fraction);
+  std::string text = thousandths < 0 ? "-" : "";
+  text += std::to_string(magnitude / 1000);
+  return fraction.empty() ? text : text + "." + fraction;
 }
 
 std::string decimal(double number) {
