@@ -69,6 +69,7 @@ void mixInto(std::uint64_t& fingerprint, const Paint& paint) {
 void mixInto(std::uint64_t& fingerprint, const Font& font) {
   mixInto(fingerprint, font.size);
   mixInto(fingerprint, static_cast<std::uint64_t>(font.weight));
+  mixInto(fingerprint, font.tracking);
 }
 
 void mixInto(std::uint64_t& fingerprint, const PaintShadow& shadow) {
