@@ -17,7 +17,7 @@ class KeyboardFocusTest : public testing::Test {
     return Button(title, [this, title] { log += title; });
   }
   std::string focused() {
-    for (const std::string label : {"a", "b", "c"}) {
+    for (const char* const label : {"a", "b", "c"}) {
       const auto element = test.element(label);
       if (element && element->isFocused) {
         return label;
