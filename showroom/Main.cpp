@@ -37,6 +37,16 @@ int runScripts(const std::vector<std::string>& files) {
   return program.runFiles(files);
 }
 
+void addOptions(orvane::desk::explore::ExploreOptions& options, CLI::App& explorer) {
+  explorer.add_option("--seed", options.seed, "The seed of the first day");
+  explorer.add_option("--days", options.days, "The number of days")->check(CLI::NonNegativeNumber);
+  explorer.add_option("--steps", options.steps, "The steps of a day")
+      ->check(CLI::NonNegativeNumber);
+  explorer.add_flag("--shrink", options.shrinks, "Reduce the first failing day to a short script");
+  explorer.add_flag("--all-paths", options.needsAllPaths, "Fail if a rare state was not reached");
+  explorer.add_option("FILE", options.scripts, "Scripts to check instead");
+}
+
 }  // namespace
 
 // An exception ends the program with its message.
@@ -72,13 +82,7 @@ int main(int argumentCount, char** arguments) {  // NOLINT(bugprone-exception-es
   CLI::App* const explorer =
       program.add_subcommand("explore", "Run random days with faults and check each step");
   orvane::desk::explore::ExploreOptions explore;
-  explorer->add_option("--seed", explore.seed, "The seed of the first day");
-  explorer->add_option("--days", explore.days, "The number of days")->check(CLI::NonNegativeNumber);
-  explorer->add_option("--steps", explore.steps, "The steps of a day")
-      ->check(CLI::NonNegativeNumber);
-  explorer->add_flag("--shrink", explore.shrinks, "Reduce the first failing day to a short script");
-  explorer->add_flag("--all-paths", explore.needsAllPaths, "Fail if a rare state was not reached");
-  explorer->add_option("FILE", explore.scripts, "Scripts to check instead");
+  addOptions(explore, *explorer);
 
   program.require_subcommand(0, 1);
   try {

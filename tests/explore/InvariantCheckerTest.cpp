@@ -10,22 +10,22 @@ namespace {
 class InvariantCheckerTest : public testing::Test {
  protected:
   void pin() {
-    session_.runAll({"display attach 1 frame=0,0,1440,900 uuid=LEFT main",
-                     "display attach 2 frame=1440,0,1920,1080 uuid=RIGHT", "trust on", "launch",
-                     "do toggleSelectedDisplayLock", "advance 2"});
+    session.runAll({"display attach 1 frame=0,0,1440,900 uuid=LEFT main",
+                    "display attach 2 frame=1440,0,1920,1080 uuid=RIGHT", "trust on", "launch",
+                    "do toggleSelectedDisplayLock", "advance 2"});
   }
   /// Empty without a violation.
   [[nodiscard]] std::string violatedInvariant() const {
-    return session_.violation() ? session_.violation()->invariant : "";
+    return session.violation() ? session.violation()->invariant : "";
   }
   void addTap(CGEventTapCallBack callback) {
-    EventTaps& taps = session_.machine().eventTaps;
+    EventTaps& taps = session.machine().eventTaps;
     const auto identity = taps.create(kCGHeadInsertEventTap, kCGEventTapOptionDefault,
                                       ~CGEventMask{0}, callback, nullptr);
     taps.find(*identity)->sourceModes = RunLoop::commonModes;
   }
 
-  CheckedSession session_;
+  CheckedSession session;
 };
 
 CGEventRef drop(CGEventTapProxy, CGEventType, CGEventRef, void*) {
@@ -40,89 +40,89 @@ CGEventRef nudge(CGEventTapProxy, CGEventType, CGEventRef event, void*) {
 
 TEST_F(InvariantCheckerTest, AcceptsAPinnedDock) {
   pin();
-  session_.runAll({"move 2000 880", "push 0 30 times 30", "hold option", "push 0 30", "release"});
-  session_.end();
+  session.runAll({"move 2000 880", "push 0 30 times 30", "hold option", "push 0 30", "release"});
+  session.end();
   EXPECT_EQ(violatedInvariant(), "");
-  EXPECT_GT(session_.eventCount(), 30);
+  EXPECT_GT(session.eventCount(), 30);
 }
 
 TEST_F(InvariantCheckerTest, DetectsADroppedEvent) {
   pin();
   addTap(drop);
-  session_.run("move 100 100");
+  session.run("move 100 100");
   EXPECT_EQ(violatedInvariant(), "filter");
 }
 
 TEST_F(InvariantCheckerTest, DetectsAnEventMovedWithoutNeed) {
   pin();
   addTap(nudge);
-  session_.run("move 100 100");
+  session.run("move 100 100");
   EXPECT_EQ(violatedInvariant(), "filter");
 }
 
 TEST_F(InvariantCheckerTest, DetectsAGuardThatDoesNotMoveEvents) {
   pin();
   // The tap is enabled but receives no events.
-  EventTaps& taps = session_.machine().eventTaps;
+  EventTaps& taps = session.machine().eventTaps;
   for (std::uint64_t identity = 1; identity < 10; ++identity) {
     if (EventTap* const tap = taps.find(identity)) {
       tap->eventsOfInterest = 0;
     }
   }
-  session_.run("move 2000 899");
+  session.run("move 2000 899");
   EXPECT_EQ(violatedInvariant(), "filter");
 }
 
 TEST_F(InvariantCheckerTest, DetectsASecondTap) {
   pin();
   addTap([](CGEventTapProxy, CGEventType, CGEventRef event, void*) { return event; });
-  session_.run("advance 0.1");
+  session.run("advance 0.1");
   EXPECT_EQ(violatedInvariant(), "taps");
 }
 
 TEST_F(InvariantCheckerTest, DetectsALeakedObject) {
   pin();
   CFStringCreateWithCString(kCFAllocatorDefault, "left", kCFStringEncodingUTF8);
-  session_.run("advance 0.1");
+  session.run("advance 0.1");
   EXPECT_EQ(violatedInvariant(), "objects");
 }
 
 TEST_F(InvariantCheckerTest, DetectsAnUnknownStoredKey) {
   pin();
-  session_.machine().userDefaults.set("windowFrame", 1.0);
-  session_.run("advance 0.1");
+  session.machine().userDefaults.set("windowFrame", 1.0);
+  session.run("advance 0.1");
   EXPECT_EQ(violatedInvariant(), "keys");
 }
 
 TEST_F(InvariantCheckerTest, DetectsAGuardThatRunsWithTheLockOff) {
   pin();
-  session_.machine().userDefaults.set("isOrvaneEnabled", false);
-  session_.run("advance 0.1");
+  session.machine().userDefaults.set("isOrvaneEnabled", false);
+  session.run("advance 0.1");
   EXPECT_EQ(violatedInvariant(), "guard");
 }
 
 TEST_F(InvariantCheckerTest, DetectsAModelThatDiffersFromTheStoredValue) {
   pin();
-  session_.machine().userDefaults.set("temporaryUnlockModifier", std::string("shift"));
-  session_.run("move 100 100");
+  session.machine().userDefaults.set("temporaryUnlockModifier", std::string("shift"));
+  session.run("move 100 100");
   EXPECT_NE(violatedInvariant(), "");
 }
 
 TEST_F(InvariantCheckerTest, DetectsTextsInTheWrongLanguage) {
   pin();
-  session_.runAll({"menu open", "press \"Open Window\" in menu"});
+  session.runAll({"menu open", "press \"Open Window\" in menu"});
   ASSERT_EQ(violatedInvariant(), "");
   // As if the choice had been stored but not applied to the windows.
-  session_.application().model().setAppLanguage(OrvaneLanguage::chinese);
-  session_.machine().userDefaults.set("appLanguage", std::string("english"));
-  session_.run("advance 0.1");
+  session.application().model().setAppLanguage(OrvaneLanguage::chinese);
+  session.machine().userDefaults.set("appLanguage", std::string("english"));
+  session.run("advance 0.1");
   EXPECT_NE(violatedInvariant(), "");
 }
 
 TEST_F(InvariantCheckerTest, DetectsFaultsAtTheEnd) {
   pin();
-  session_.machine().faults.record("a double release");
-  session_.end();
+  session.machine().faults.record("a double release");
+  session.end();
   EXPECT_EQ(violatedInvariant(), "end");
 }
 

@@ -4,8 +4,6 @@
 namespace orvane::desk {
 namespace {
 
-using appkit::Workspace;
-
 class SystemSettingsTest : public SystemSettingsFixture {
  protected:
   /// A window at the left, from which a file can be dragged.

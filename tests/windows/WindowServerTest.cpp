@@ -5,7 +5,6 @@ namespace orvane::desk {
 namespace {
 
 using appkit::Window;
-using appkit::WindowKind;
 
 using WindowServerTest = WindowFixture;
 
