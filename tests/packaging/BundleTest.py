@@ -13,6 +13,7 @@ import unittest
 
 sys.dont_write_bytecode = True
 
+import IconTest  # noqa: E402
 import mach_o  # noqa: E402
 import property_lists  # noqa: E402
 import source_rules  # noqa: E402
@@ -49,18 +50,6 @@ def import_findings(program):
         if any(source_rules.FORBIDDEN_MESSAGES.match(part) for part in selector.split(":")):
             findings.append(f"{program.cpu}: the message {selector}")
     return findings
-
-
-def icon_types(data):
-    """The image types in an .icns file."""
-    if data[:4] != b"icns" or struct.unpack_from(">I", data, 4)[0] != len(data):
-        raise ValueError("not an .icns file")
-    position, kinds = 8, set()
-    while position < len(data):
-        kind, size = struct.unpack_from(">4sI", data, position)
-        kinds.add(kind.decode())
-        position += size
-    return kinds
 
 
 def files_in(folder):
@@ -145,7 +134,7 @@ class TheBundle(unittest.TestCase):
             self.assertEqual(bool(mode & stat.S_IXUSR), name == "Contents/MacOS/Orvane", name)
 
     def test_the_icon_has_every_size(self):
-        kinds = icon_types((BUNDLE / "Contents" / "Resources" / "AppIcon.icns").read_bytes())
+        kinds = set(IconTest.pictures((BUNDLE / "Contents" / "Resources" / "AppIcon.icns").read_bytes()))
         small = {"icp4", "ic04", "icp5", "ic05"}
         self.assertTrue(kinds & small)
         # 128, 256, 512 and 1024 pixels, and the @2x sizes.

@@ -4,7 +4,6 @@ stubs record their calls."""
 import os
 import pathlib
 import plistlib
-import shutil
 import stat
 import subprocess
 import sys
@@ -57,15 +56,6 @@ class PackageFixture(unittest.TestCase):
             environment["PATH"] = f"{path}:{environment['PATH']}"
         return subprocess.run([str(TOOL), "--bundle", str(self.bundle), "--output", str(self.output), *options],
                               env=environment, capture_output=True, text=True, check=False)
-
-
-@unittest.skipUnless(shutil.which("shellcheck"), "there is no shellcheck")
-class TheScript(unittest.TestCase):
-    """Static checks of the script."""
-
-    def test_shellcheck_finds_nothing(self):
-        result = subprocess.run(["shellcheck", "-x", str(TOOL)], cwd=ROOT, capture_output=True, text=True, check=False)
-        self.assertEqual((result.returncode, result.stdout), (0, ""))
 
 
 class OnLinux(PackageFixture):
