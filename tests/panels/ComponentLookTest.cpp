@@ -25,13 +25,11 @@
 namespace orvane {
 namespace {
 
-enum class Appearance { light, dark, highContrast, darkHighContrast };
-enum class Pointer { away, over, pressing };
-using enum Appearance;
-using enum Pointer;
-
 class ComponentLookTest : public ComponentFixture {
  protected:
+  enum Appearance { light, dark, highContrast, darkHighContrast };
+  enum Pointer { away, over, pressing };
+
   struct Look {
     Appearance appearance;
     Pointer pointer;
