@@ -42,6 +42,7 @@ Menu.insertItem 10 "Quit"
 const std::string timerCall = "Timer.repeating 1 true\n";
 const std::string tapWatchCalls = timerCall + "NotificationCenter.addObserver\n";
 const std::string activateCall = "Application.activateIgnoringOtherApps\n";
+
 /// The model refreshes the displays, selects a display if it has none, and then asks for the
 /// permission.
 std::string refreshCalls(const std::string& select) {
