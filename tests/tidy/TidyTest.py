@@ -108,7 +108,8 @@ class ArrowsTest(RuleTest):
                  "application", "script", "explore"]
         allowed = {("quartz", "machine"), ("windows", "canvas"), ("windows", "machine"),
                    ("appkit", "canvas"), ("appkit", "machine"), ("appkit", "quartz"),
-                   ("appkit", "windows"), ("settings", "machine"), ("settings", "windows"),
+                   ("appkit", "windows"), ("settings", "hand"), ("settings", "machine"),
+                   ("settings", "windows"),
                    ("hand", "machine"), ("hand", "windows"), ("application", "machine"),
                    ("application", "settings"), ("application", "windows"),
                    ("script", "application"), ("script", "hand"), ("script", "machine"),
@@ -119,9 +120,10 @@ class ArrowsTest(RuleTest):
                           {(f"desk/{a}", f"desk/{b}") for a, b in allowed})
 
     def test_every_pair_of_parts_of_the_showroom(self):
-        parts = ["desktop", "gallery", "hardware", "tour", "window"]
+        parts = ["desktop", "gallery", "hardware", "settings", "tour", "window"]
         allowed = {("gallery", "desktop"), ("hardware", "desktop"), ("tour", "desktop"),
-                   ("window", "desktop"), ("window", "hardware")} | {(part, part) for part in parts}
+                   ("tour", "settings"), ("window", "desktop"), ("window", "hardware"),
+                   ("window", "settings")} | {(part, part) for part in parts}
         self.assert_pairs([f"showroom/{part}" for part in parts], "",
                           {(f"showroom/{a}", f"showroom/{b}") for a, b in allowed})
 

@@ -80,15 +80,6 @@ TEST_F(MenuTrackerTest, TheWillOpenCallbackMayFillTheMenu) {
   EXPECT_EQ(Surfaces(server()).controls("menu").front().node.label, "Fresh");
 }
 
-TEST_F(MenuTrackerTest, AClickInARowsViewRunsItAndLeavesTheMenuOpen) {
-  int runs = 0;
-  add(row("Row", [&] { ++runs; }));
-  clickItem();
-  click(middleOfRow(0));
-  EXPECT_EQ(runs, 1);
-  EXPECT_TRUE(isOpen());
-}
-
 TEST_F(MenuTrackerTest, ItemsMayBeReplacedByTheActionOfOneOfThem) {
   int runs = 0;
   std::function<void()> action = [&] {
@@ -104,50 +95,6 @@ TEST_F(MenuTrackerTest, ItemsMayBeReplacedByTheActionOfOneOfThem) {
   click(middleOfRow(1));
   EXPECT_EQ(runs, 2);
   EXPECT_TRUE(isOpen());
-}
-
-TEST_F(MenuTrackerTest, AnActionMayCloseTheMenuFirst) {
-  bool wasOpen = true;
-  add(row("Row", [&] {
-    menu.cancelTracking();
-    wasOpen = isOpen();
-  }));
-  clickItem();
-  click(middleOfRow(0));
-  EXPECT_FALSE(wasOpen);
-  EXPECT_FALSE(isOpen());
-}
-
-TEST_F(MenuTrackerTest, TheCallbackOfCancellingIsCalledAfterTheAction) {
-  int endings = 0;
-  add(row("Row", [&] {
-    menu.cancelTracking([&] {
-      ++endings;
-      EXPECT_FALSE(isOpen());
-      EXPECT_EQ(machine.runLoop.mode(), RunLoop::Mode::standard);
-    });
-    EXPECT_EQ(endings, 0);
-  }));
-  clickItem();
-  click(middleOfRow(0));
-  EXPECT_EQ(endings, 1);
-}
-
-TEST_F(MenuTrackerTest, AnItemThatChangesKeepsItsViewAndTheMenuOpen) {
-  MenuItem changing = row("Before", [] {});
-  add(changing);
-  add(row("Last", [] {}));
-  clickItem();
-  const auto view = server().menus.rows().front().view;
-  changing.title = "After";
-  changing.isEnabled = false;
-  menu.changeItem(0, changing);
-  machine.runDue();
-  ASSERT_TRUE(isOpen());
-  EXPECT_EQ(server().menus.rows().front().view, view);
-  EXPECT_TRUE(view->isOnScreen());
-  EXPECT_EQ(server().menus.menu()->items.front().title, "After");
-  EXPECT_FALSE(server().menus.choose(0));
 }
 
 TEST_F(MenuTrackerTest, AClickOutsideClosesTheMenuAndIsConsumed) {
