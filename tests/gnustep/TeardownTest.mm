@@ -147,12 +147,15 @@ TEST_F(Teardown, NoMenuOpensOverAWindowThatIsClosedAndKept) {
 }
 
 TEST_F(Teardown, AnAnimationDoesNotKeepItsView) {
-  showAndWatch([](const ui::Environment& environment) -> ui::View {
-    const auto isWide = environment.state("isWide", false);
-    return ui::Rectangle().frame(isWide.value() ? 180 : 20, 20).onAppear([isWide] {
-      isWide.set(true, ui::Curve::easeOut(5));
-    });
-  });
+  struct Widening {
+    ui::View body(const ui::Environment& environment) const {
+      const auto isWide = environment.state("isWide", false);
+      return ui::Rectangle().frame(isWide.value() ? 180 : 20, 20).onAppear([isWide] {
+        isWide.set(true, ui::Curve::easeOut(5));
+      });
+    }
+  };
+  showAndWatch([](const ui::Environment&) -> ui::View { return Widening{}; });
   letTimePass(0.2);
   endEverything();
   expectNothingLeft();

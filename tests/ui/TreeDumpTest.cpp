@@ -69,7 +69,8 @@ TEST_F(TreeDumpTest, ShowsWhatEachPassDidLast) {
   EXPECT_EQ(test.host->dumpTree().find("damaged"), std::string::npos) << test.host->dumpTree();
 }
 
-TEST_F(TreeDumpTest, ShowsWhichNodesWereDrawn) {
+TEST_F(TreeDumpTest, ShowsWhichNodesWereDrawnSinceThePresentation) {
+  test.drawing();
   test.host->takeDirtyRects();
   row.opacity = 0.5;
   test.update();
