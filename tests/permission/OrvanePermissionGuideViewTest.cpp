@@ -241,7 +241,7 @@ TEST_F(OrvanePermissionGuideViewTest, InstructionAndStatusKeepTheirDistancesFrom
                                             {"Permission E", 22}}) {
     const auto entry = recorder.widths.lower_bound(beginning);
     ASSERT_TRUE(entry != recorder.widths.end() && entry->first.starts_with(beginning));
-    EXPECT_EQ(entry->second, 360 - 2 * distance) << beginning;
+    EXPECT_NEAR(entry->second, 360 - 2 * distance, 1e-6) << beginning;
   }
 }
 
