@@ -46,8 +46,10 @@ TEST_F(PictureTest, AllSymbols) {
   begin(320, 200, 2).fill(Shape::rectangle({0, 0, 320, 200}), Paint::solid({0.2, 0.2, 0.2, 1}));
   int index = 0;
   for (const SymbolArtwork& artwork : symbolArtworks()) {
+    const int row = index / 8;
+    const int column = index % 8;
     canvas->symbol(std::string(artwork.name), {20, ui::Weight::medium}, white,
-                   {8.0 + 38 * (index % 8), 4.0 + 38 * (index / 8), 38, 38});
+                   {8.0 + 38 * column, 4.0 + 38 * row, 38, 38});
     ++index;
   }
   expectPicture("symbols");

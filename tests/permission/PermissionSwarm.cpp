@@ -18,7 +18,8 @@ PermissionSwarm::PermissionSwarm()
   desk::attach(machine_, desk::monitorAtTheRight());
   launch();
   machine_.advance(10);
-  timersAtRest_ = machine_.runLoop.timerCount();
+  // Those of a launched application at rest.
+  timersAtRest_ = machine_.runLoop.timerCount();  // NOLINT(*-prefer-member-initializer)
 }
 
 void PermissionSwarm::launch() {
@@ -236,7 +237,7 @@ std::optional<std::string> PermissionSwarm::problemAtTheEnd() {
   machine_.mouse.moveTo({700, 500});
   machine_.runDue();
   machine_.advance(10);
-  if (const auto found = problem()) {
+  if (auto found = problem()) {
     return found;
   }
   if (server_.modal.isRunning() || !server_.windows().empty()) {

@@ -119,8 +119,8 @@ class [[nodiscard]] View {
   template <typename Value>
   View animation(const std::optional<Curve>& curve, Value value) const {
     return animationOn(curve, std::move(value), [](const std::any& a, const std::any& b) {
-      const Value* first = std::any_cast<Value>(&a);
-      const Value* second = std::any_cast<Value>(&b);
+      const auto* first = std::any_cast<Value>(&a);
+      const auto* second = std::any_cast<Value>(&b);
       return first != nullptr && second != nullptr && *first == *second;
     });
   }
