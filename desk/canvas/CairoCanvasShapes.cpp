@@ -49,7 +49,8 @@ std::optional<std::vector<PixelRect>> clipRectangles(cairo_t* context) {
 /// The colour converted to a pixel as cairo and pixman do it.
 std::uint32_t pixelOf(const ui::Rgba& color) {
   const auto part = [](double fraction) {
-    return static_cast<std::uint32_t>(std::clamp(fraction, 0.0, 1.0) * 65535 + 0.5) >> 8U;
+    return static_cast<std::uint32_t>(std::floor(std::clamp(fraction, 0.0, 1.0) * 65535 + 0.5)) >>
+           8U;
   };
   const double alpha = std::clamp(color.alpha, 0.0, 1.0);
   const auto multiplied = [&](double fraction) {

@@ -69,7 +69,7 @@ DeepColor covered(const DeepColor& color, std::uint8_t coverage) {
 /// The same with a coverage for each pixel.
 void blendCovered(std::uint16_t* pixels, std::size_t count, const DeepColor& color,
                   const std::uint8_t* coverage) {
-  const std::uint16_t alpha = static_cast<std::uint16_t>(0xFFFFU - restOf(color[3]));
+  const auto alpha = static_cast<std::uint16_t>(0xFFFFU - restOf(color[3]));
   const Repeated colors(color, count);
   const Repeated alphas({alpha, alpha, alpha, alpha}, count);
   std::array<std::uint16_t, 4 * Repeated::capacity> weights;

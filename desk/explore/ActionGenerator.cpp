@@ -128,8 +128,9 @@ Lines refuseSources(ActionContext& context) {
 
 template <std::size_t count>
 Lines disableTap(ActionContext& context, const char* how, const std::array<int, count>& times) {
-  return Lines(static_cast<std::size_t>(context.random.oneOf(times)),
-               std::string("tap disabled ") + how);
+  Lines lines(static_cast<std::size_t>(context.random.oneOf(times)),
+              std::string("tap disabled ") + how);
+  return lines;
 }
 
 Lines timeOutTap(ActionContext& context) {
@@ -290,7 +291,7 @@ Lines ActionGenerator::next(Machine& machine, const ApplicationHost& application
   }
   for (std::size_t index = 0; index < faultKinds.size(); ++index) {
     if (random_.chance(faultPermilles_[index])) {
-      const Lines lines = faultKinds[index].lines(context);
+      Lines lines = faultKinds[index].lines(context);
       faultCounts_[index] += lines.empty() ? 0 : 1;
       if (!lines.empty()) {
         return lines;

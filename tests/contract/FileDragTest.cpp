@@ -15,7 +15,7 @@ class FileDragContract : public ContractFixture {
  protected:
   /// Shows a window of 200 by 100 points at (100, 100), movable by its background; its content is
   /// the drag source of `item`.
-  static Window showSource(std::optional<ui::DragItem> item) {
+  static Window showSource(const std::optional<ui::DragItem>& item) {
     Window window(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
                   appkit::StyleMask::nonactivatingPanel);
     window.setMovableByWindowBackground(true);

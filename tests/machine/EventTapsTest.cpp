@@ -31,7 +31,7 @@ class EventTapsTest : public testing::Test {
   /// Logs its name and adds `dx` to the event's location.
   Action shift(std::string name, double dx) {
     return [this, name = std::move(name), dx](CGEventType, CGEventRef seen) {
-      log.push_back(name);
+      log.emplace_back(name);
       seen->location.x += dx;
       return seen;
     };
@@ -83,7 +83,7 @@ TEST_F(EventTapsTest, ATapWithoutASourceInTheModeLetsEventsPass) {
 
 TEST_F(EventTapsTest, AListenOnlyTapCanNeitherChangeNorDropTheEvent) {
   Action action = [this](CGEventType, CGEventRef seen) -> CGEventRef {
-    log.push_back("heard");
+    log.emplace_back("heard");
     seen->location.x = 99;
     return nullptr;
   };
@@ -131,7 +131,7 @@ TEST_F(EventTapsTest, TheSystemDisablesATapBeforeItNotifiesIt) {
 TEST_F(EventTapsTest, ATapMayEndItselfInItsCallback) {
   std::uint64_t identity = 0;
   Action action = [&](CGEventType, CGEventRef seen) {
-    log.push_back("once");
+    log.emplace_back("once");
     taps.remove(identity);
     return seen;
   };
@@ -147,7 +147,7 @@ TEST_F(EventTapsTest, ATapCreatedDuringADeliveryReceivesTheNextEvent) {
   Action late = shift("late", 1);
   bool isMade = false;
   Action action = [&](CGEventType, CGEventRef seen) {
-    log.push_back("maker");
+    log.emplace_back("maker");
     if (!isMade) {
       isMade = true;
       make(late, kCGHeadInsertEventTap);
