@@ -177,18 +177,18 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
     paintMask(mask, pixelX, pixelY, shadow.color);
     return;
   }
-  const double left = std::ceil(inner.x) + pixelX;
-  const double top = std::ceil(inner.y) + pixelY;
-  const double right = std::max(left, std::floor(inner.right()) + pixelX);
-  const double bottom = std::max(top, std::floor(inner.bottom()) + pixelY);
+  const double innerLeft = std::ceil(inner.x) + pixelX;
+  const double innerTop = std::ceil(inner.y) + pixelY;
+  const double innerRight = std::max(innerLeft, std::floor(inner.right()) + pixelX);
+  const double innerBottom = std::max(innerTop, std::floor(inner.bottom()) + pixelY);
   const double outerLeft = mask.x + pixelX;
   const double outerTop = mask.y + pixelY;
   const double outerRight = outerLeft + cairo_image_surface_get_width(mask.surface.get());
   const double outerBottom = outerTop + cairo_image_surface_get_height(mask.surface.get());
-  for (const ui::Rect& part : {ui::Rect::between(outerLeft, outerTop, outerRight, top),
-                               ui::Rect::between(outerLeft, top, left, bottom),
-                               ui::Rect::between(right, top, outerRight, bottom),
-                               ui::Rect::between(outerLeft, bottom, outerRight, outerBottom)}) {
+  for (const ui::Rect& part : {ui::Rect::between(outerLeft, outerTop, outerRight, innerTop),
+                               ui::Rect::between(outerLeft, innerTop, innerLeft, innerBottom),
+                               ui::Rect::between(innerRight, innerTop, outerRight, innerBottom),
+                               ui::Rect::between(outerLeft, innerBottom, outerRight, outerBottom)}) {
     cairo_save(context());
     const cairo_matrix_t matrix = matrixOf(context());
     cairo_identity_matrix(context());

@@ -22,8 +22,8 @@ namespace ModalResponse = appkit::ModalResponse;
 class ModalSessionContract : public ContractFixture {
  protected:
   static Window makePanel() {
-    return Window(appkit::WindowKind::panel, CGRectMake(0, 0, 100, 100),
-                  appkit::StyleMask::titled | appkit::StyleMask::closable);
+    return {appkit::WindowKind::panel, CGRectMake(0, 0, 100, 100),
+            appkit::StyleMask::titled | appkit::StyleMask::closable};
   }
 
   /// Runs the session from a main-queue task, and calls `within` once during the session.

@@ -18,7 +18,7 @@ class WindowContract : public ContractFixture {
   void haveDisplays() { std::ignore = arrangeTwoDisplays(); }
 
   static Window borderless(WindowKind kind = WindowKind::window) {
-    return Window(kind, CGRectMake(100, 100, 200, 100), appkit::StyleMask::borderless);
+    return {kind, CGRectMake(100, 100, 200, 100), appkit::StyleMask::borderless};
   }
 };
 

@@ -21,7 +21,7 @@ class TextCanvas : public ui::RecordingCanvas {
 
   [[nodiscard]] const std::string& boxes() const { return boxes_; }
 
-  void save() override { transforms_.push_back(ui::Transform(transforms_.back())); }
+  void save() override { transforms_.emplace_back(transforms_.back()); }
   void restore() override { transforms_.pop_back(); }
   void transform(const ui::Transform& inner) override {
     ui::Transform& outer = transforms_.back();

@@ -13,7 +13,7 @@ class WindowFocusTest : public WindowFixture {
   WindowFocusTest() { Application::activateIgnoringOtherApps(); }
 
   static Window plain(WindowKind kind, std::uint64_t styleMask) {
-    return Window(kind, CGRectMake(10, 10, 200, 100), styleMask);
+    return {kind, CGRectMake(10, 10, 200, 100), styleMask};
   }
 };
 
