@@ -185,10 +185,11 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
   const double outerTop = mask.y + pixelY;
   const double outerRight = outerLeft + cairo_image_surface_get_width(mask.surface.get());
   const double outerBottom = outerTop + cairo_image_surface_get_height(mask.surface.get());
-  for (const ui::Rect& part : {ui::Rect::between(outerLeft, outerTop, outerRight, innerTop),
-                               ui::Rect::between(outerLeft, innerTop, innerLeft, innerBottom),
-                               ui::Rect::between(innerRight, innerTop, outerRight, innerBottom),
-                               ui::Rect::between(outerLeft, innerBottom, outerRight, outerBottom)}) {
+  for (const ui::Rect& part :
+       {ui::Rect::between(outerLeft, outerTop, outerRight, innerTop),
+        ui::Rect::between(outerLeft, innerTop, innerLeft, innerBottom),
+        ui::Rect::between(innerRight, innerTop, outerRight, innerBottom),
+        ui::Rect::between(outerLeft, innerBottom, outerRight, outerBottom)}) {
     cairo_save(context());
     const cairo_matrix_t matrix = matrixOf(context());
     cairo_identity_matrix(context());

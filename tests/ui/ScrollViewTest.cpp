@@ -29,7 +29,7 @@ class ScrollViewTest : public testing::Test {
                             .scrollsIntoView(name == wanted, cards.size())
                             .id(name));
       }
-      return ScrollView(HStack(10, std::move(cards)).animation(Curve::linear(1), wanted), margin);
+      return ScrollView(HStack(10, cards).animation(Curve::linear(1), wanted), margin);
     });
   }
 

@@ -56,7 +56,7 @@ class ContentViewAnimationTest : public PanelFixture {
   }
   /// That the first card shrinks as the second grows, along the spring of the selection.
   void expectSelectionToMove() {
-    followSpring([this](double progress) {
+    followSpring([](double progress) {
       EXPECT_NEAR(frameOf("Display").width, 176 * (1 + 0.012 * (1 - progress)), 1e-6);
       EXPECT_NEAR(frameOf("DELL").width, 176 * (1 + 0.012 * progress), 1e-6);
       EXPECT_EQ(drawn("symbol checkmark "), 2) << "one appears, the other disappears";

@@ -45,7 +45,7 @@ TEST_F(ContentViewLayoutTest, PanelsAndTheirControlsHaveTheirFrames) {
 
 TEST_F(ContentViewLayoutTest, TheRowsOfThePanelsAreSpacedEvenly) {
   openMain();
-  const auto shapeTops = [this](const std::string& size) {
+  const auto shapeTops = [](const std::string& size) {
     std::vector<double> tops;
     for (const std::string& line : drawnLines(mainPanel)) {
       const std::size_t start = line.find("fill rounded(45 ");
@@ -73,7 +73,7 @@ TEST_F(ContentViewLayoutTest, TheRowsOfThePanelsAreSpacedEvenly) {
 TEST_F(ContentViewLayoutTest, CardsAreLevelInEveryScript) {
   attach(4, CGRectMake(3360, 0, 1920, 1080), "左侧显示器", false);
   openMain();
-  const auto levels = [this](const std::string& mark, const std::string& after) {
+  const auto levels = [](const std::string& mark, const std::string& after) {
     std::vector<std::string> found;
     for (const std::string& line : drawnLines(mainPanel)) {
       const std::size_t start = line.find(mark);

@@ -82,7 +82,7 @@ TEST_F(ContentViewTest, IconAndPinButtonHaveTheColourOfTheMode) {
   const std::string grayTile = "0 rgba(0.557 0.557 0.576 0.98), 1 rgba(0.557 0.557 0.576 0.78)";
   const std::string blueButton = ", 1 rgba(0 0.478 1 1))";
   const std::string redButton = ", 1 rgba(1 0.231 0.188 1))";
-  const auto expectDrawn = [this](const std::vector<std::pair<std::string, int>>& counts) {
+  const auto expectDrawn = [](const std::vector<std::pair<std::string, int>>& counts) {
     for (const auto& [part, count] : counts) {
       EXPECT_EQ(drawn(part), count) << part;
     }
