@@ -136,9 +136,9 @@ class GalleryRulesTest : public desk::MachineFixture,
     const ui::ViewHost& host = specimen.host();
     TextCollector collector(resources.shaper, 2);
     host.paint(collector, {0, 0, host.size().width, host.size().height});
-    runs = collector.runs();
-    std::erase_if(runs, [](const TextRun& run) { return run.visible.isEmpty(); });
-    nodes.clear();
+    runs_ = collector.runs();
+    std::erase_if(runs_, [](const TextRun& run) { return run.visible.isEmpty(); });
+    nodes_.clear();
     collect(host.semantics());
     expectTruncatedTextsToHaveATooltip(host);
     expectNothingIsClipped(host);
@@ -146,7 +146,7 @@ class GalleryRulesTest : public desk::MachineFixture,
     expectEqualBaselinesInARow();
     expectControlsAreLargeEnough();
     expectTextsAreReadable(specimen, interaction);
-    textCount += runs.size();
+    textCount += runs_.size();
   }
 
   GallerySheet sheet = gallerySheetNamed(GetParam());
@@ -156,15 +156,15 @@ class GalleryRulesTest : public desk::MachineFixture,
 
  private:
   void collect(const ui::SemanticsNode& node) {
-    nodes.push_back(node);
+    nodes_.push_back(node);
     for (const ui::SemanticsNode& child : node.children) {
       collect(child);
     }
   }
 
   void expectTruncatedTextsToHaveATooltip(const ui::ViewHost& host) const {
-    for (const TextRun& run : runs) {
-      const bool isSoInSemantics = std::ranges::any_of(nodes, [&](const ui::SemanticsNode& node) {
+    for (const TextRun& run : runs_) {
+      const bool isSoInSemantics = std::ranges::any_of(nodes_, [&](const ui::SemanticsNode& node) {
         return node.label.find(run.line) != std::string::npos ||
                node.value.find(run.line) != std::string::npos;
       });
@@ -181,21 +181,21 @@ class GalleryRulesTest : public desk::MachineFixture,
 
   /// Whether it is within the height of a horizontal scroll area, visible or not.
   [[nodiscard]] bool canBeScrolledTo(const ui::Rect& frame) const {
-    return std::ranges::any_of(nodes, [&](const ui::SemanticsNode& node) {
+    return std::ranges::any_of(nodes_, [&](const ui::SemanticsNode& node) {
       return node.role == ui::Role::scrollArea && node.frame.y <= frame.y &&
              frame.bottom() <= node.frame.bottom();
     });
   }
 
   void expectNothingIsClipped(const ui::ViewHost& host) const {
-    for (const TextRun& run : runs) {
+    for (const TextRun& run : runs_) {
       EXPECT_TRUE(run.visible == run.frame || canBeScrolledTo(run.frame))
           << "\"" << run.line << "\" is clipped";
     }
     // Hovered and selected controls are slightly larger.
     const ui::Rect bounds =
         ui::Rect{0, 0, host.size().width, host.size().height}.inset(Specimen::margin - 3);
-    for (const ui::SemanticsNode& node : nodes) {
+    for (const ui::SemanticsNode& node : nodes_) {
       EXPECT_TRUE(!node.children.empty() || node.label.empty() ||
                   bounds.united(node.frame) == bounds || canBeScrolledTo(node.frame))
           << "\"" << node.label << "\" is outside of its specimen";
@@ -203,8 +203,8 @@ class GalleryRulesTest : public desk::MachineFixture,
   }
 
   void expectNoTextsOverlap() const {
-    for (auto first = runs.begin(); first != runs.end(); ++first) {
-      for (auto second = first + 1; second != runs.end(); ++second) {
+    for (auto first = runs_.begin(); first != runs_.end(); ++first) {
+      for (auto second = first + 1; second != runs_.end(); ++second) {
         EXPECT_TRUE(first->visible.intersection(second->visible).isEmpty())
             << "\"" << first->line << "\" lies on \"" << second->line << "\"";
       }
@@ -212,14 +212,14 @@ class GalleryRulesTest : public desk::MachineFixture,
   }
 
   [[nodiscard]] bool isSingleLine(const TextRun& run) const {
-    return std::ranges::none_of(runs,
+    return std::ranges::none_of(runs_,
                                 [&](const TextRun& other) { return areAdjacentLines(run, other); });
   }
 
   /// A row consists of texts of one size that share more than half of their height.
   void expectEqualBaselinesInARow() const {
-    for (auto first = runs.begin(); first != runs.end(); ++first) {
-      for (auto second = first + 1; second != runs.end(); ++second) {
+    for (auto first = runs_.begin(); first != runs_.end(); ++first) {
+      for (auto second = first + 1; second != runs_.end(); ++second) {
         if (first->font.size != second->font.size ||
             sharedHeight(*first, *second) <= first->frame.height / 2 || !isSingleLine(*first) ||
             !isSingleLine(*second)) {
@@ -234,7 +234,7 @@ class GalleryRulesTest : public desk::MachineFixture,
   }
 
   void expectControlsAreLargeEnough() const {
-    for (const ui::SemanticsNode& node : nodes) {
+    for (const ui::SemanticsNode& node : nodes_) {
       if (node.isControl()) {
         EXPECT_GE(std::min(node.frame.width, node.frame.height), minimumSide(node) - 0.001)
             << "\"" << node.label << "\"";
@@ -243,7 +243,7 @@ class GalleryRulesTest : public desk::MachineFixture,
   }
 
   [[nodiscard]] bool isDisabled(const TextRun& run) const {
-    return std::ranges::any_of(nodes, [&](const ui::SemanticsNode& node) {
+    return std::ranges::any_of(nodes_, [&](const ui::SemanticsNode& node) {
       return !node.isEnabled && node.frame.contains(run.visible.center());
     });
   }
@@ -257,7 +257,7 @@ class GalleryRulesTest : public desk::MachineFixture,
     cairo_surface_flush(shown.get());
     for (const desk::Appearance::Wallpaper wallpaper : wallpapers) {
       const Behind behind{shown.get(), groundOf(size, appearance, wallpaper)};
-      for (const TextRun& run : runs) {
+      for (const TextRun& run : runs_) {
         if (isDisabled(run)) {
           continue;
         }
@@ -320,7 +320,7 @@ class GalleryRulesTest : public desk::MachineFixture,
   [[nodiscard]] double contrastOnTheDarkestFill(const TextRun& run, const Behind& behind) const {
     const ui::Point middle = run.visible.center();
     ui::Rgba darkest = behind.at(middle);
-    for (const ui::SemanticsNode& node : nodes) {
+    for (const ui::SemanticsNode& node : nodes_) {
       if (!node.isControl() || !node.frame.contains(middle)) {
         continue;
       }
@@ -343,8 +343,8 @@ class GalleryRulesTest : public desk::MachineFixture,
   /// The background of specimens of this size, cached, because many have the same size.
   cairo_surface_t* groundOf(ui::Size size, const ui::Appearance& appearance,
                             desk::Appearance::Wallpaper wallpaper) {
-    desk::SurfacePointer& kept =
-        grounds[{size.width, size.height, appearance.dark, appearance.increaseContrast, wallpaper}];
+    desk::SurfacePointer& kept = grounds_[{size.width, size.height, appearance.dark,
+                                           appearance.increaseContrast, wallpaper}];
     if (kept == nullptr) {
       kept = blank(size);
       desk::CairoCanvas canvas(kept.get(), 1, resources);
@@ -359,11 +359,11 @@ class GalleryRulesTest : public desk::MachineFixture,
     return kept.get();
   }
 
-  std::vector<TextRun> runs;
-  std::vector<ui::SemanticsNode> nodes;
+  std::vector<TextRun> runs_;
+  std::vector<ui::SemanticsNode> nodes_;
   std::map<std::tuple<double, double, bool, bool, desk::Appearance::Wallpaper>,
            desk::SurfacePointer>
-      grounds;
+      grounds_;
 };
 
 TEST_P(GalleryRulesTest, HoldForEveryTextAndControl) {
