@@ -55,8 +55,8 @@ void DockMouseGuard::start(const std::string& targetDisplayID, OrvaneModifier mo
 
 bool DockMouseGuard::isSetTo(const std::string& targetDisplayID, OrvaneModifier modifier,
                              bool blocksAllDisplays) const {
-  return lockedDisplayIdentifier_ == targetDisplayID && overrideModifier_ == modifier &&
-         blocksAllDisplays_ == blocksAllDisplays;
+  return overrideModifier_ == modifier && blocksAllDisplays_ == blocksAllDisplays &&
+         (blocksAllDisplays || lockedDisplayIdentifier_ == targetDisplayID);
 }
 
 GuardSnapshot DockMouseGuard::snapshot() const {

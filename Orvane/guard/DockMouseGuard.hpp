@@ -59,8 +59,8 @@ class DockMouseGuard {
   [[nodiscard]] bool isRunning() const { return static_cast<bool>(eventTap_); }
   /// Whether the guard has zones but no tap, because the system refused the last one.
   [[nodiscard]] bool wasTapRefused() const { return !eventTap_ && !cachedTriggerZones_.empty(); }
-  /// Whether these are the settings of the last successful start. A start without the permission
-  /// leaves a running guard with the settings that it had.
+  /// Whether the guard guards with these settings. A start without the permission leaves a running
+  /// guard with those that it had. A guard that blocks all displays has no target.
   [[nodiscard]] bool isSetTo(const std::string& targetDisplayID, OrvaneModifier modifier,
                              bool blocksAllDisplays) const;
   [[nodiscard]] GuardSnapshot snapshot() const;

@@ -145,7 +145,7 @@ void OrvaneModel::restartGuardIfRunning() {
     startGuard();
     return;
   }
-  // The user's wish stays stored, so that the next launch restores the lock if the display is
+  // The setting stays stored, so that the next launch restores the lock if the display is
   // attached then.
   suspendGuard();
 }

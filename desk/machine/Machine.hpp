@@ -82,7 +82,7 @@ class Machine {
   Dock dock{displays, clock};
   Mouse mouse{displays, pointer, eventTaps, dock, modifierKeys, counters};
   Process process{*this};
-  /// Made by WindowServer::current; null until somebody needs windows. Last, because it uses all
+  /// Made by WindowServer::current; null until first used. Last, because it uses all
   /// the others.
   std::shared_ptr<WindowServer> windowServer;
   /// The window server, while there is one.

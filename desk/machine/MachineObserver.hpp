@@ -13,7 +13,7 @@ class MachineObserver {
   MachineObserver& operator=(const MachineObserver&) = delete;
   virtual ~MachineObserver() = default;
 
-  /// Before the application hears of it.
+  /// Called before the application is notified.
   virtual void displaysChanged() = 0;
   /// The process and its shared objects are gone.
   virtual void processEnded() = 0;

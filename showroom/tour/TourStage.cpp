@@ -126,7 +126,7 @@ void TourStage::closeWindow(const std::string& surface) {
 }
 
 void TourStage::pressEscape() {
-  hand_.key({ui::Key::escape, {}, {}});
+  hand_.key({.key = ui::Key::escape});
 }
 
 void TourStage::dropIcon() {

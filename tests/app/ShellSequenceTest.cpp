@@ -1,5 +1,5 @@
-// Random afternoons: displays come and go, the permission too, the application is launched, quit
-// and crashed, and whatever has a control is pressed. The icon and the menu never lie.
+// Random sequences of changes of displays and of the permission, launches, ends and presses of
+// controls; the icon and the menu always show the state of the guard.
 #include <algorithm>
 #include <array>
 #include <string>

@@ -93,7 +93,7 @@ TEST(SignalTest, AnObserverCancelledDuringANotificationIsSkipped) {
   EXPECT_EQ(count, 0);
 }
 
-TEST(SignalTest, AnObserverThatComesDuringANotificationHearsOfTheNext) {
+TEST(SignalTest, AnObserverAddedDuringANotificationIsNotifiedFromTheNextOn) {
   Signal signal;
   int count = 0;
   Subscription late;

@@ -66,7 +66,7 @@ TEST(PinnedFontsTest, NoOtherFontIsUsedForAMissingCharacter) {
   }
 }
 
-TEST(PinnedFontsTest, TheFontMapKnowsNoOtherFamily) {
+TEST(PinnedFontsTest, TheFontMapHasOnlyThePinnedFamilies) {
   PangoFontFamily** families = nullptr;
   int count = 0;
   pango_font_map_list_families(pinnedFontMap(), &families, &count);

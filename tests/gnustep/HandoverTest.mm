@@ -62,7 +62,7 @@ TEST_F(HandoverOnMac, ACopyStartedByHandRemainsWhenItRuns) {
   EXPECT_FALSE(handOverToRunningCopy());
 }
 
-TEST_F(HandoverOnMac, ACopyComesForwardAsTheSystemHasItSinceItAsks) {
+TEST_F(HandoverOnMac, TheRunningCopyIsActivatedByTheNewOne) {
   appkit::Application::activateIgnoringOtherApps();
   EXPECT_EQ(world().activations, 1);
 }

@@ -194,7 +194,7 @@ TEST_F(HostView, APointerThatLeavesHoversOverNothing) {
   window.close();
 }
 
-TEST_F(HostView, WhatItDoesNotTakeGoesOn) {
+TEST_F(HostView, UnhandledEventsGoToTheNextResponder) {
   Window window = showTwoButtons();
   OrvaneHostView* const view = hostOf(window);
   OrvaneNextResponder* const next = [[OrvaneNextResponder alloc] init];

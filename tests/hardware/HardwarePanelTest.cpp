@@ -126,10 +126,10 @@ TEST_F(HardwarePanelTest, TheZonesCanBeHidden) {
 
 TEST_F(HardwarePanelTest, CanBeOperatedWithTheKeyboard) {
   for (int time = 0; time < 100 && panel.host().focusedId() != control("Edge: Left")->id; ++time) {
-    ASSERT_TRUE(panel.keyDown({ui::Key::tab, {}, {}}));
+    ASSERT_TRUE(panel.keyDown({.key = ui::Key::tab}));
   }
   ASSERT_EQ(panel.host().focusedId(), control("Edge: Left")->id);
-  EXPECT_TRUE(panel.keyDown({ui::Key::space, {}, {}}));
+  EXPECT_TRUE(panel.keyDown({.key = ui::Key::space}));
   EXPECT_EQ(machine.dock.edge(), desk::DockEdge::left);
 }
 
@@ -175,7 +175,7 @@ TEST_F(HardwarePanelTest, ScrollsToTheFocusedControl) {
   show();
   const std::size_t count = controls().size();
   for (std::size_t time = 0; time < 2 * count; ++time) {
-    panel.keyDown({ui::Key::tab, {}, {}});
+    panel.keyDown({.key = ui::Key::tab});
     for (const ui::SemanticsNode& found : controls()) {
       if (found.isFocused) {
         EXPECT_GE(found.frame.y, panel.scrolled()) << found.label;

@@ -58,7 +58,7 @@ void PermissionSwarm::answerAlert(unsigned how) {
       break;
     case 2:
       server_.focus.clicked(alert);
-      hand_.key({ui::Key::escape, {}, {}});
+      hand_.key({.key = ui::Key::escape});
       break;
     default:
       press("alert", "Open Privacy Settings");

@@ -56,7 +56,7 @@ TEST(IdentityTest, StateFollowsItsItemWhenItemsMove) {
   test.update();
   names = {"b", "c", "a"};
   test.update();
-  EXPECT_EQ(labels(test), "b0 c0 a0 ") << "what was gone begins anew";
+  EXPECT_EQ(labels(test), "b0 c0 a0 ") << "a returning view has new state";
 }
 
 TEST(IdentityTest, AConditionalSiblingDoesNotDisturbTheOthers) {

@@ -32,7 +32,7 @@ TEST_F(PickerTest, ShowsTheSelectedItem) {
   EXPECT_EQ(test.drawing().find("English"), std::string::npos);
 }
 
-TEST_F(PickerTest, AClickOpensTheMenuAtTheControlAndAChoiceIsToldOnce) {
+TEST_F(PickerTest, AClickOpensTheMenuAtTheControlAndAChoiceIsReportedOnce) {
   test.click({100, 11});
   ASSERT_EQ(test.menus.size(), 1U);
   EXPECT_EQ(test.menus[0].items, (std::vector<std::string>{"System", "English"}));

@@ -136,7 +136,7 @@ TEST_F(PointerInputTest, HitsFollowAMotionUnderWay) {
   EXPECT_EQ(log, "a");
 }
 
-TEST_F(PointerInputTest, HoverIsToldOnceEachWay) {
+TEST_F(PointerInputTest, HoverIsReportedOnceEachWay) {
   test.host->setSize({100, 20});
   test.show(Rectangle().frame(40, 20).onHover([this](bool inside) { log += inside ? "+" : "-"; }));
   test.host->pointerMoved({10, 10});

@@ -1,4 +1,4 @@
-// Bringing things into sight: what is wanted, what has the keyboard, and the margin around both.
+// Scrolling wanted and focused views into view, with a margin.
 #include <string>
 #include <vector>
 
@@ -71,7 +71,7 @@ TEST_F(ScrollViewTest, WhatIsWantedStaysInSightWhenOthersBeforeItGo) {
   EXPECT_EQ(left("d"), margin);
 }
 
-TEST_F(ScrollViewTest, WhatBecomesWantedTravelsIntoSight) {
+TEST_F(ScrollViewTest, AViewThatBecomesWantedIsScrolledIntoView) {
   test.at(10);
   want("d");
   EXPECT_EQ(left("a"), margin);
@@ -97,7 +97,7 @@ TEST_F(ScrollViewTest, ItJumpsWhereMotionIsReduced) {
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
 
-TEST_F(ScrollViewTest, WhatStaysWantedLeavesTheUserAlone) {
+TEST_F(ScrollViewTest, AViewThatStaysWantedDoesNotScrollAgain) {
   test.host->scroll({50, 20}, 1000, 0);
   const double place = left("e");
   want("a");

@@ -79,7 +79,7 @@ TEST(SemanticsTest, FramesAreThoseOnScreen) {
   EXPECT_EQ(test.element("box")->frame, (Rect{15, 0, 80, 40}));
 }
 
-TEST(SemanticsTest, AChangeIsToldAlsoWhenNothingIsRebuilt) {
+TEST(SemanticsTest, AScrollIsReportedWithoutARebuild) {
   TestHost test({30, 10});
   const auto changesOf = [&](const std::function<void()>& change) {
     const int before = test.semanticsChanges;
@@ -104,7 +104,7 @@ TEST(SemanticsTest, AChangeIsToldAlsoWhenNothingIsRebuilt) {
   EXPECT_EQ(changesOf([&] { test.at(4); }), 0);
 }
 
-TEST(SemanticsTest, AViewCanDismissItsHostAndSpeak) {
+TEST(SemanticsTest, AViewCanDismissItsHost) {
   TestHost test;
   test.show([](const Environment& environment) {
     return Button("Close", [environment] { environment.dismiss(); });

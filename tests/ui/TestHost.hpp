@@ -15,7 +15,7 @@ namespace orvane::ui {
 class TestHost {
  public:
   // Symbols are squares of the font's size; there are the images "photo" and "icon" of 40 by 20
-  // points, the first one with a twin for the dark.
+  // points, the first one with a dark variant.
   explicit TestHost(Size size = {200, 100}) {
     HostPlatform platform;
     platform.text = &text_;

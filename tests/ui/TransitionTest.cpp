@@ -40,7 +40,7 @@ TEST_F(TransitionTest, AViewFadesOutAndIsThenGone) {
   setShown(false);
   test.at(0.25);
   EXPECT_TRUE(draws("opacity 0.75"));
-  EXPECT_FALSE(test.element("a")) << "nobody can press what is leaving";
+  EXPECT_FALSE(test.element("a")) << "leaving views take no input";
   test.at(1);
   EXPECT_FALSE(draws("text \"a\""));
   EXPECT_FALSE(test.host->nextFrameWanted());

@@ -69,19 +69,19 @@ TEST_F(DeskSessionTest, KnowsWhenThePictureNextChanges) {
 }
 
 TEST_F(DeskSessionTest, KeysGoToTheOpenMenuAndToTheKeyWindow) {
-  EXPECT_FALSE(session.hand().key({ui::Key::down, {}, {}})) << "there is no window";
+  EXPECT_FALSE(session.hand().key({.key = ui::Key::down})) << "there is no window";
   desk::WindowServer& server = desk::WindowServer::current();
   ASSERT_TRUE(server.menus.openStatusMenu(0));
   for (int time = 0; time < 3; ++time) {
-    EXPECT_TRUE(session.hand().key({ui::Key::down, {}, {}}));
+    EXPECT_TRUE(session.hand().key({.key = ui::Key::down}));
   }
-  EXPECT_TRUE(session.hand().key({ui::Key::space, {}, {}}));
+  EXPECT_TRUE(session.hand().key({.key = ui::Key::space}));
   EXPECT_TRUE(session.application().model().isGuardRunning());
-  EXPECT_TRUE(session.hand().key({ui::Key::escape, {}, {}}));
+  EXPECT_TRUE(session.hand().key({.key = ui::Key::escape}));
   EXPECT_FALSE(server.menus.isOpen());
-  EXPECT_FALSE(session.hand().key({ui::Key::escape, {}, {}})) << "nothing handles it any more";
+  EXPECT_FALSE(session.hand().key({.key = ui::Key::escape})) << "nothing handles it any more";
   session.application().reopen();
-  EXPECT_TRUE(session.hand().key({ui::Key::tab, {}, {}}));
+  EXPECT_TRUE(session.hand().key({.key = ui::Key::tab}));
 }
 
 TEST_F(DeskSessionTest, ExplainsHowToReleaseTheMouse) {

@@ -27,7 +27,7 @@ std::string kindOf(const Element& element) {
   for (const char* at = name.data(); at < end;) {
     std::size_t length = 0;
     const auto [identifier, error] = std::from_chars(at, end, length);
-    if (error != std::errc{}) {
+    if (error != std::errc{} || length > static_cast<std::size_t>(end - identifier)) {
       ++at;
       continue;
     }

@@ -143,14 +143,14 @@ TEST_F(OrvaneSettingsViewTest, ClosingDismissesTheViewUnlessItHasAnAction) {
   });
   host.tick(0);
   host.tick(1);
-  host.keyDown({ui::Key::escape, {}, {}});
+  host.keyDown({.key = ui::Key::escape});
   EXPECT_EQ(dismissals, 1);
   int closings = 0;
   host.setRoot([this, &closings](const ui::Environment&) {
     return ui::View(OrvaneSettingsView{.model = &model(), .onClose = [&closings] { ++closings; }});
   });
   host.tick(2);
-  host.keyDown({ui::Key::escape, {}, {}});
+  host.keyDown({.key = ui::Key::escape});
   EXPECT_EQ(closings, 1);
   EXPECT_EQ(dismissals, 1);
 }
