@@ -177,12 +177,17 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
     paintMask(mask, pixelX, pixelY, shadow.color);
     return;
   }
-  const double innerLeft = std::ceil(inner.x) + pixelX;
-  const double innerTop = std::ceil(inner.y) + pixelY;
-  const double innerRight = std::max(innerLeft, std::floor(inner.right()) + pixelX);
-  const double innerBottom = std::max(innerTop, std::floor(inner.bottom()) + pixelY);
-  const double outerLeft = mask.x + pixelX;
-  const double outerTop = mask.y + pixelY;
+  paintMaskAround(mask, pixelX, pixelY, inner, shadow.color);
+}
+
+void CairoCanvas::paintMaskAround(const Mask& mask, int anchorX, int anchorY, const ui::Rect& inner,
+                                  const ui::Rgba& color) {
+  const double innerLeft = std::ceil(inner.x) + anchorX;
+  const double innerTop = std::ceil(inner.y) + anchorY;
+  const double innerRight = std::max(innerLeft, std::floor(inner.right()) + anchorX);
+  const double innerBottom = std::max(innerTop, std::floor(inner.bottom()) + anchorY);
+  const double outerLeft = mask.x + anchorX;
+  const double outerTop = mask.y + anchorY;
   const double outerRight = outerLeft + cairo_image_surface_get_width(mask.surface.get());
   const double outerBottom = outerTop + cairo_image_surface_get_height(mask.surface.get());
   for (const ui::Rect& part :
@@ -197,7 +202,7 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
     cairo_rectangle(context(), part.x, part.y, part.width, part.height);
     cairo_clip(context());
     cairo_set_matrix(context(), &matrix);
-    paintMask(mask, pixelX, pixelY, shadow.color);
+    paintMask(mask, anchorX, anchorY, color);
     cairo_restore(context());
   }
 }

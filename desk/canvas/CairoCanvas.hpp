@@ -100,6 +100,9 @@ class CairoCanvas : public ui::Canvas {
   [[nodiscard]] ui::Transform pixelTransform();
   /// Paints a mask in a colour, with its anchor at a pixel of the target.
   void paintMask(const Mask& mask, int anchorX, int anchorY, const ui::Rgba& color);
+  /// The same except within a rectangle relative to the anchor.
+  void paintMaskAround(const Mask& mask, int anchorX, int anchorY, const ui::Rect& inner,
+                       const ui::Rgba& color);
   void paintLayerShadow(const Layer& layer, const ui::PaintShadow& shadow);
   /// The pixel and the phase of a point in the current coordinates. Unless the transform scales,
   /// the phase is in quarters of a pixel, so that masks can be shared.

@@ -72,12 +72,13 @@ class Walk {
   Walk& operator=(const Walk&) = delete;
 
   void begin() {
-    constexpr double secondsPerStep = 0.8;
     timer_.emplace(appkit::Timer::repeating(secondsPerStep, appkit::RunLoopMode::common,
                                             [this] { nextStep(); }));
   }
 
  private:
+  static constexpr double secondsPerStep = 0.8;
+
   static OrvaneModel& model() { return OrvaneAppState::model(); }
   static OrvaneWindowController& windows() { return OrvaneWindowController::shared(); }
   static OrvanePermissionGuideWindowController& guide() {
@@ -135,8 +136,13 @@ class Walk {
   }
 
   void nextStep() {
+    // After a late step on a busy machine, the timer fires too early for the animations.
+    if (CFAbsoluteTimeGetCurrent() - steppedAt_ < 0.9 * secondsPerStep) {
+      return;
+    }
     if (next_ < steps_.size()) {
       steps_[next_++]();
+      steppedAt_ = CFAbsoluteTimeGetCurrent();
       return;
     }
     std::printf("%ld pictures, %ld failures\n", static_cast<long>(pictures_.pictureCount),
@@ -148,6 +154,7 @@ class Walk {
   NSMenu* openMenu_ = nil;
   std::vector<std::function<void()>> steps_;
   std::size_t next_ = 0;
+  CFAbsoluteTime steppedAt_ = 0;
   std::optional<appkit::Timer> timer_;
 };
 

@@ -127,7 +127,7 @@ class [[nodiscard]] View {
   /// How the view appears and disappears during an animation. It must be the view that is added or
   /// removed, or its only content.
   View transition(const Transition& transition) const;
-  /// Views with the same id share a node, wherever they are among their siblings.
+  /// The view keeps its node when its place among its siblings changes.
   View id(std::string id) const;
   /// Called after the layout in which the view appeared.
   View onAppear(std::function<void()> action) const;
