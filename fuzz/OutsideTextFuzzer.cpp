@@ -52,7 +52,7 @@ void readOrientation(Machine& machine, const std::string& text) {
   DockPosition expected = DockPosition::bottom;
   // Invalid UTF-8 reads as no value, and CFStringGetCString ends a text at its first NUL.
   if (Utf8::isValid(text)) {
-    const auto edge = edges.find(text.c_str());
+    const auto edge = edges.find(text.substr(0, text.find('\0')));
     expected = edge != edges.end() ? edge->second : DockPosition::unknown;
   }
   require(DockUtils::getDockPosition() == expected, "an edge is named exactly");
