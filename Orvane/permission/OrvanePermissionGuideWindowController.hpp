@@ -16,7 +16,7 @@ namespace orvane {
 /// Main thread only.
 class OrvanePermissionGuideWindowController {
  public:
-  /// The state of the guide at one moment; by default that of a guide that was never shown.
+  /// The state of the guide at one moment. The defaults describe a guide that was never shown.
   struct Snapshot {
     PermissionGuideState state = PermissionGuideState::checking;
     bool isVisible = false;

@@ -1,4 +1,4 @@
-// ModalSessions runs windows modally: the application's other windows receive no events meanwhile.
+// ModalSessions runs windows modally: only the modal window of the application receives events.
 #pragma once
 
 #include <functional>
