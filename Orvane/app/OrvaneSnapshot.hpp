@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "Orvane/geometry/DisplaySnapshot.hpp"
 #include "Orvane/guard/GuardSnapshot.hpp"
@@ -22,10 +23,15 @@ struct OrvaneSnapshot {
   OrvaneMode mode = OrvaneMode::off;
   OrvaneStatus status = OrvaneStatus::unlocked;
 
+  std::vector<DisplaySnapshot> displays = {};
   std::optional<std::string> selectedDisplayID = std::nullopt;
   /// None when that display is not attached.
   std::optional<DisplaySnapshot> selectedDisplay = std::nullopt;
   bool hasAccessibilityPermission = false;
+  /// The system refused a tap although the process is trusted.
+  bool isPermissionStale = false;
+  /// The lock could not be restored at launch, because the permission was missing.
+  bool isRestoreBlocked = false;
   bool isTemporarilyUnlocked = false;
   std::optional<bool> lastRestoreSucceeded = std::nullopt;
   /// Seconds by the calendar clock.
@@ -36,6 +42,8 @@ struct OrvaneSnapshot {
   bool hidesDockOnAllDisplays = false;
   bool launchAtLoginEnabled = false;
   bool launchAtLoginRequiresApproval = false;
+  bool isLaunchAtLoginBlocked = false;
+  bool isLaunchAtLoginFailing = false;
   std::optional<std::string> launchAtLoginErrorMessage = std::nullopt;
 
   bool showsMainPanel = false;

@@ -47,6 +47,28 @@ Lines changePermission(ActionContext& context) {
   return {context.machine.permission.isTrusted() ? "trust off" : "trust on"};
 }
 
+/// The permission is away for the moment of a choice, and the application is notified too late.
+Lines chooseWithoutPermission(ActionContext& context) {
+  constexpr std::array<const char*, 6> choices{
+      "do temporaryUnlockModifier shift",  "do temporaryUnlockModifier command",
+      "do temporaryUnlockModifier option", "do toggleSelectedDisplayLock",
+      "do toggleHideDockOnAllDisplays",    "do toggleLock"};
+  const bool isPossible = context.isRunning && context.machine.permission.isTrusted() &&
+                          context.machine.runLoop.mode() == RunLoop::Mode::standard;
+  return isPossible ? Lines{"notifications late 1.5",      "trust off",
+                            context.random.oneOf(choices), "trust on",
+                            "notifications prompt",        "advance 2.5"}
+                    : Lines{};
+}
+
+/// The user looks at the login item after the system has changed it.
+Lines changeLoginItem(ActionContext& context) {
+  constexpr std::array<const char*, 4> states{"requiresApproval", "enabled", "notFound",
+                                              "notRegistered"};
+  return {std::string("login status ") + context.random.oneOf(states),
+          context.machine.runLoop.mode() == RunLoop::Mode::standard ? "menu open" : "advance 1"};
+}
+
 Lines grantPermission(ActionContext& /*context*/) {
   return {"trust on"};
 }
@@ -97,6 +119,8 @@ constexpr std::array actions{
     Action{1, changeLocale},
     Action{1, changeAppearance},
     Action{4, changePermission},
+    Action{1, chooseWithoutPermission},
+    Action{1, changeLoginItem},
     Action{3, movePointer},
     Action{9, pressAgainstEdge},
     Action{1, runAway},

@@ -254,6 +254,21 @@ Lines doOperation(ActionContext& context) {
   return {std::string("do ") + context.random.oneOf(operations)};
 }
 
+namespace {
+
+/// While the guide is open, the user no longer needs it, or requests the permission again and
+/// grants it before the guide appears a second time.
+Lines requestAgain(ActionContext& context) {
+  constexpr const char* pin = "do toggleSelectedDisplayLock";
+  if (context.random.chance(500)) {
+    return {"trust on", pin, pin, "advance 2"};
+  }
+  return {pin,         "key return",  "advance 0.7", "trust on",
+          "advance 1", "advance 0.5", "advance 0.5", "advance 0.5"};
+}
+
+}  // namespace
+
 Lines followGuide(ActionContext& context) {
   const Surfaces surfaces(WindowServer::current());
   if (surfaces.isOpen("alert")) {
@@ -272,6 +287,9 @@ Lines followGuide(ActionContext& context) {
   }
   if (!surfaces.isOpen("guide")) {
     return {};
+  }
+  if (areWindowsFree() && context.random.chance(250)) {
+    return requestAgain(context);
   }
   constexpr std::array<const char*, 10> steps{"advance 10.5",
                                               "advance 1",

@@ -6,7 +6,7 @@
 namespace orvane::desk::explore {
 
 CheckedSession::CheckedSession()
-    : checker_(std::make_unique<InvariantChecker>(session_->machine(), session_->application())),
+    : checker_(std::make_unique<InvariantChecker>(session_->machine())),
       context_{.session = *session_,
                .inspectables = inspectables_,
                .output = output_,
@@ -21,18 +21,13 @@ void CheckedSession::run(const std::string& line) {
     return;
   }
   lines_.push_back(line);
-  checker_->begin();
+  checker_->beginStep();
   const bool hasRun = !interpreter_.run(line);
   const Observation before =
       std::exchange(observation_, Observation::of(session_->machine(), session_->application()));
-  violation_ = checker_->check(line, before, observation_);
-  rarePaths_.note({.line = line,
-                   .before = before,
-                   .after = observation_,
-                   .filter = checker_->filter().step(),
-                   .isStale = checker_->isStale(),
-                   .machine = session_->machine(),
-                   .application = session_->application()});
+  const Step step = checker_->endStep(line, hasRun, before, observation_);
+  violation_ = checker_->check(step);
+  rarePaths_.note(step);
   fingerprint_.add(std::string_view(line));
   fingerprint_.add(hasRun);
   fingerprint_.add(std::string_view(output_.view()));
@@ -41,7 +36,7 @@ void CheckedSession::run(const std::string& line) {
   fingerprint_.add(place.x);
   fingerprint_.add(place.y);
   observation_.addTo(fingerprint_);
-  events_ = checker_->filter().eventCount();
+  events_ = checker_->eventCount();
 }
 
 void CheckedSession::runAll(const std::vector<std::string>& lines) {

@@ -155,6 +155,11 @@ void checkLiveness(CheckedSession& session, FinalMode finalMode) {
   if (!session.violation() && !session.observation().isGuardRunning) {
     session.report({liveness, "the guard is not running", "guard.running true"});
   }
+  const bool prevents = session.observation().stored.prevents;
+  if (!session.violation() && prevents != (finalMode == FinalMode::prevent)) {
+    session.report({liveness, "the guard runs in the other mode",
+                    std::string("guard.blocksAllDisplays ") + (prevents ? "false" : "true")});
+  }
   if (!session.violation()) {
     pressAgainstForbiddenEdges(session);
   }

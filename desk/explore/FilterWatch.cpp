@@ -31,20 +31,21 @@ void FilterWatch::resetConfigurations() {
 }
 
 void FilterWatch::willDeliver(const __CGEvent& event) {
-  const bool isRunning = application_.isRunning() && application_.model().isGuardRunning();
   const Stored stored = Stored::of(machine_.userDefaults);
   goal_ = stored.goal();
-  isGuarded_ = isRunning && event.type == kCGEventMouseMoved && machine_.eventTaps.isAnyEnabled();
+  isTapEnabled_ = machine_.eventTaps.isAnyEnabled();
+  isGuarded_ = isTapEnabled_ && event.type == kCGEventMouseMoved;
   const std::uint64_t mask = stored.unlockMask();
   isUnlocked_ = (static_cast<std::uint64_t>(event.flags) & mask) == mask;
-  const bool isDisabled = machine_.eventTaps.aliveCount() > 0 && !machine_.eventTaps.isAnyEnabled();
-  step_.hasMetDisabledTap = step_.hasMetDisabledTap || (isRunning && isDisabled);
+  const bool isDisabled = machine_.eventTaps.aliveCount() > 0 && !isTapEnabled_;
+  step_.hasMetDisabledTap = step_.hasMetDisabledTap || isDisabled;
   step_.hasFreeMovement = step_.hasFreeMovement || !isGuarded_ || isUnlocked_;
   step_.hasUnlockedMovement = step_.hasUnlockedMovement || (isGuarded_ && isUnlocked_);
 }
 
 void FilterWatch::didDeliver(const __CGEvent& before, const __CGEvent& after, bool isKept) {
   ++events_;
+  step_.hasShutOff = step_.hasShutOff || (isTapEnabled_ && !machine_.eventTaps.isAnyEnabled());
   step_.hasMovedBack = step_.hasMovedBack || !isSame(before.location, after.location);
   if (!step_.violation) {
     if (auto text = problem(before, after, isKept)) {

@@ -6,17 +6,16 @@
 #include <string>
 #include <vector>
 
-#include "desk/application/ApplicationHost.hpp"
 #include "desk/explore/DisplayConfiguration.hpp"
 #include "desk/explore/Violation.hpp"
 #include "desk/machine/EventWitness.hpp"
+#include "desk/machine/Machine.hpp"
 
 namespace orvane::desk::explore {
 
 class FilterWatch : public EventWitness {
  public:
-  FilterWatch(Machine& machine, const ApplicationHost& application)
-      : machine_(machine), application_(application) {}
+  explicit FilterWatch(Machine& machine) : machine_(machine) {}
 
   void willDeliver(const __CGEvent& event) override;
   void didDeliver(const __CGEvent& before, const __CGEvent& after, bool isKept) override;
@@ -37,6 +36,8 @@ class FilterWatch : public EventWitness {
     bool hasMetDisabledTap = false;
     bool hasMovedBack = false;
     bool hasUnlockedMovement = false;
+    /// The guard disabled its tap in the filter.
+    bool hasShutOff = false;
     std::optional<Violation> violation;
   };
   void beginStep() { step_ = {}; }
@@ -48,8 +49,8 @@ class FilterWatch : public EventWitness {
                                                    bool isKept) const;
 
   Machine& machine_;
-  const ApplicationHost& application_;
   std::vector<DisplayConfiguration> configurations_;
+  bool isTapEnabled_ = false;
   bool isGuarded_ = false;
   bool isUnlocked_ = false;
   GuardGoal goal_;

@@ -15,26 +15,13 @@ namespace {
 constexpr std::array<std::string_view, 5> storedKeys{"selectedDisplayID", "isOrvaneEnabled",
                                                      "hidesDockOnAllDisplays",
                                                      "temporaryUnlockModifier", "appLanguage"};
-/// The commands that stand for a user who operates the application.
-constexpr std::array<std::string_view, 9> userCommands{"press", "pick",  "key",  "click", "do",
-                                                       "drop",  "hover", "drag", "menu"};
-
-std::string_view firstWord(std::string_view line) {
-  return line.substr(0, line.find(' '));
-}
-
-bool isUserCommand(std::string_view line) {
-  return std::ranges::find(userCommands, firstWord(line)) != userCommands.end();
-}
-
 std::string yesNo(bool value) {
   return value ? "true" : "false";
 }
 
 }  // namespace
 
-InvariantChecker::InvariantChecker(Machine& machine, const ApplicationHost& application)
-    : machine_(machine), application_(application), filter_(machine, application) {
+InvariantChecker::InvariantChecker(Machine& machine) : machine_(machine), filter_(machine) {
   machine_.eventTaps.setWitness(&filter_);
   filter_.resetConfigurations();
 }
@@ -59,14 +46,15 @@ void InvariantChecker::observeScreens() {
   });
 }
 
-void InvariantChecker::begin() {
+void InvariantChecker::beginStep() {
   filter_.beginStep();
+  abandonedPortsBefore_ = machine_.counters.abandonedPorts;
   wasStale_ = isStale();
   revealsBefore_ = machine_.dock.reveals();
 }
 
-void InvariantChecker::track(const std::string& line, const Observation& before,
-                             const Observation& after) {
+Step InvariantChecker::endStep(const std::string& line, bool hasRun, const Observation& before,
+                               const Observation& after) {
   if (firstWord(line) == "defaults") {
     for (const auto& [key, value] : machine_.userDefaults.values()) {
       if (std::ranges::find(storedKeys, key) == storedKeys.end()) {
@@ -96,17 +84,22 @@ void InvariantChecker::track(const std::string& line, const Observation& before,
   if (isLaunch) {
     filter_.resetConfigurations();
     observeScreens();
-    hasAsked_ = false;
     hasListed_ = false;
   } else {
     filter_.addConfiguration();
   }
-  hasAsked_ = hasAsked_ || after.shows("alert") || after.isGuideOpen;
+  return {.line = line,
+          .hasRun = hasRun,
+          .before = before,
+          .after = after,
+          .filter = filter_.step(),
+          .isStale = isStale(),
+          .machine = machine_};
 }
 
-std::optional<Violation> InvariantChecker::check(const std::string& line, const Observation& before,
-                                                 const Observation& after) {
-  track(line, before, after);
+std::optional<Violation> InvariantChecker::check(const Step& step) {
+  const Observation& before = step.before;
+  const Observation& after = step.after;
   if (filter_.step().violation) {
     return filter_.step().violation;
   }
@@ -128,12 +121,12 @@ std::optional<Violation> InvariantChecker::check(const std::string& line, const 
   check([&] { return checkGuard(before, after); });
   check([&] { return checkModel(after); });
   check([&] { return checkStatus(after); });
-  check([&] { return checkStoredChoices(line, before, after); });
   check([&] { return checkIcon(after); });
   check([&] { return checkMenu(after); });
   check([&] { return checkMainPanel(after); });
   check([&] { return checkSettings(after); });
   check([&] { return checkTexts(after); });
+  check([&] { return effects_.check(step, DisplayConfiguration::of(machine_)); });
   return found;
 }
 
@@ -143,6 +136,9 @@ InvariantChecker::Check InvariantChecker::checkMachine(const Observation& after)
   }
   if (machine_.counters.droppedEvents > 0) {
     return Violation{"filter", "an event was dropped", "counters.droppedEvents 0"};
+  }
+  if (after.isLaunched && machine_.counters.abandonedPorts > abandonedPortsBefore_) {
+    return Violation{"objects", "a port was released without being invalidated"};
   }
   if (after.tapCount > 1 || (after.tapCount > 0 && !after.isLaunched)) {
     return Violation{"taps", "there are " + std::to_string(after.tapCount) + " taps alive",
@@ -204,7 +200,7 @@ InvariantChecker::Check InvariantChecker::checkPermission(const Observation& aft
                      "the guard still has its tap a second after the permission was revoked",
                      "guard.running false"};
   }
-  const bool expected = after.isTrusted && !after.isDoubted;
+  const bool expected = after.isTrusted && !after.snapshot.isPermissionStale;
   if (isOverdue("permission", after.hasPermission != expected, after.now)) {
     return Violation{"permission", "hasAccessibilityPermission is " + yesNo(after.hasPermission),
                      "model.hasAccessibilityPermission " + yesNo(expected)};
@@ -220,6 +216,10 @@ InvariantChecker::Check InvariantChecker::checkGuard(const Observation& before,
                        "guard.isTemporarilyUnlocked false"};
     }
     return std::nullopt;
+  }
+  if (filter_.step().hasShutOff && !after.isTapEnabled && !after.isQueueHeld) {
+    return Violation{"guard", "it counts as running after it shut itself off",
+                     "guard.running false"};
   }
   if (!after.stored.wants) {
     return Violation{"guard", "it runs although the lock is off", "guard.running false"};
@@ -288,9 +288,8 @@ InvariantChecker::Check InvariantChecker::checkStatus(const Observation& after) 
   if (!isSettled) {
     return std::nullopt;
   }
-  const OrvaneModel& model = application_.model();
   const DisplayConfiguration& configuration = filter_.configurations().front();
-  const std::vector<DisplaySnapshot>& listed = model.displays().value();
+  const std::vector<DisplaySnapshot>& listed = after.snapshot.displays;
   const bool isSame = std::ranges::equal(
       listed, configuration.screens,
       [](const DisplaySnapshot& display, const DisplayConfiguration::Screen& screen) {
@@ -315,37 +314,6 @@ InvariantChecker::Check InvariantChecker::checkStatus(const Observation& after) 
   if (after.status != expected) {
     return Violation{"status", std::string("it is ") + script::nameOf(after.status),
                      std::string("model.status \"") + script::nameOf(expected) + "\""};
-  }
-  return std::nullopt;
-}
-
-InvariantChecker::Check InvariantChecker::checkStoredChoices(const std::string& line,
-                                                             const Observation& before,
-                                                             const Observation& after) const {
-  const Stored& was = before.stored;
-  const Stored& is = after.stored;
-  if (firstWord(line) == "defaults" || isUserCommand(line) || !before.isLaunched) {
-    return std::nullopt;
-  }
-  if (was.language != is.language || was.modifier != is.modifier) {
-    return Violation{"choice", "the language or unlock key was stored without a user action"};
-  }
-  if (!hasAsked_ && (was.wants != is.wants || was.prevents != is.prevents)) {
-    return Violation{"choice", "the lock or mode was stored without a user action",
-                     "defaults.isOrvaneEnabled " + yesNo(was.wants)};
-  }
-  if (was.selected && was.selected != is.selected) {
-    // A display that was stored by an alias may be stored again by its preferred identifier.
-    const bool isAlias =
-        is.selected &&
-        std::ranges::any_of(filter_.configurations(),
-                            [&](const DisplayConfiguration& configuration) {
-                              const auto* const screen = configuration.named(*was.selected);
-                              return screen != nullptr && screen->isNamed(*is.selected);
-                            });
-    if (!isAlias) {
-      return Violation{"choice", "the target was stored without a user action"};
-    }
   }
   return std::nullopt;
 }

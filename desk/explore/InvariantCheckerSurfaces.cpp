@@ -9,6 +9,11 @@ namespace orvane::desk::explore {
 
 namespace {
 
+/// In nanoseconds: the guide times out after 10 s and closes 1.5 s after its success; it polls once
+/// a second.
+constexpr std::int64_t guideTimeout = 11 * Clock::nanosecondsPerSecond;
+constexpr std::int64_t guideSuccess = 2 * Clock::nanosecondsPerSecond;
+
 const ui::SemanticsNode* findLabel(const ui::SemanticsNode& tree, const std::string& label,
                                    bool mustBeControl) {
   for (const ui::SemanticsNode* const element : elementsOf(tree)) {
@@ -33,6 +38,22 @@ std::string shortcutOf(const std::string& modifier) {
     return "⇧ Shift";
   }
   return modifier == "command" ? "⌘ Command" : "⌥ Option";
+}
+
+/// Whether the panel marks as chosen exactly the displays with the identifier of the target.
+bool marksTarget(const ui::SemanticsNode& panel, const Observation& after) {
+  std::vector<const ui::SemanticsNode*> cards;
+  for (const ui::SemanticsNode* const element : elementsOf(panel)) {
+    if (element->role == ui::Role::radioButton) {
+      cards.push_back(element);
+    }
+  }
+  const std::optional<std::string>& target = after.snapshot.selectedDisplayID;
+  return std::ranges::equal(cards, after.snapshot.displays,
+                            [&](const ui::SemanticsNode* card, const DisplaySnapshot& display) {
+                              return card->isSelected == (target == display.id) &&
+                                     (display.name.empty() || card->label == display.name);
+                            });
 }
 
 }  // namespace
@@ -87,8 +108,12 @@ InvariantChecker::Check InvariantChecker::checkMainPanel(const Observation& afte
            hasButton(prevents ? words.allow : words.prevent) &&
            !hasButton(prevents ? words.prevent : words.allow);
   });
-  return isExpected ? std::nullopt
-                    : Check(Violation{"panel", "its buttons do not match the guard"});
+  if (!isExpected) {
+    return Violation{"panel", "its buttons do not match the guard"};
+  }
+  return marksTarget(panel->second, after)
+             ? std::nullopt
+             : Check(Violation{"panel", "its cards do not match the displays"});
 }
 
 InvariantChecker::Check InvariantChecker::checkSettings(const Observation& after) const {
@@ -105,6 +130,24 @@ InvariantChecker::Check InvariantChecker::checkSettings(const Observation& after
   });
   if (!hasLanguage || !hasPopUpWith(panel->second, shortcutOf(after.stored.modifier))) {
     return Violation{"settings", "they do not show the stored choice"};
+  }
+  const OrvaneSnapshot& model = after.snapshot;
+  const bool hasCaption = std::ranges::any_of(languages_, [&](Language language) {
+    const Labels& words = labelsIn(language);
+    const auto shows = [&](const std::string& text) {
+      return findLabel(panel->second, text, false) != nullptr;
+    };
+    if (model.launchAtLoginRequiresApproval) {
+      return shows(words.approve);
+    }
+    if (model.isLaunchAtLoginBlocked) {
+      return shows(words.moveToApplications);
+    }
+    return model.isLaunchAtLoginFailing ? shows(*model.launchAtLoginErrorMessage)
+                                        : !shows(words.approve) && !shows(words.moveToApplications);
+  });
+  if (!hasCaption) {
+    return Violation{"settings", "their caption does not match the login item"};
   }
   return std::nullopt;
 }
@@ -135,7 +178,7 @@ InvariantChecker::Check InvariantChecker::checkWindows(const Observation& after)
   return std::nullopt;
 }
 
-InvariantChecker::Check InvariantChecker::checkModes(const Observation& after) const {
+InvariantChecker::Check InvariantChecker::checkModes(const Observation& after) {
   if (after.isModal != after.shows("alert")) {
     return Violation{"modes", "the modal session does not match the alert"};
   }
@@ -152,6 +195,14 @@ InvariantChecker::Check InvariantChecker::checkModes(const Observation& after) c
   }
   if (after.isGuideOpen && !after.isGuidePolling && !hasSucceeded) {
     return Violation{"guide", "it is open but does not poll", "guide.polling true"};
+  }
+  const bool isChecking = after.isGuideOpen && after.guideState == PermissionGuideState::checking;
+  if (isOverdue("time-out", isChecking && isStandard, after.now, guideTimeout)) {
+    return Violation{"guide", "it does not time out", "guide.state \"timeout\""};
+  }
+  if (isOverdue("success", after.isGuideOpen && hasSucceeded && !after.isQueueHeld, after.now,
+                guideSuccess)) {
+    return Violation{"guide", "it stays open after its success", "guide.visible false"};
   }
   const int activities = machine_.application.activityCount;
   const bool isActive = after.isLaunched && after.isGuardRunning;

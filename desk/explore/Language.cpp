@@ -101,26 +101,36 @@ bool isWrittenIn(Language language, std::string text, const std::set<std::string
 }
 
 const Labels& labelsIn(Language language) {
-  static constexpr Labels english{.pin = "Pin Dock",
-                                  .unpin = "Unpin Dock",
-                                  .prevent = "Prevent Dock Pop-Up",
-                                  .allow = "Allow Dock Pop-Up",
-                                  .notNow = "Not Now",
-                                  .followSystem = "Follow System",
-                                  .english = "English",
-                                  .chinese = "Chinese",
-                                  .locked = "Locked",
-                                  .unlocked = "Unlocked"};
-  static constexpr Labels chinese{.pin = "固定 Dock",
-                                  .unpin = "解除固定 Dock",
-                                  .prevent = "防止 Dock 弹出",
-                                  .allow = "允许 Dock 弹出",
-                                  .notNow = "取消",
-                                  .followSystem = "跟随系统",
-                                  .english = "English",
-                                  .chinese = "中文",
-                                  .locked = "已锁定",
-                                  .unlocked = "未锁定"};
+  static constexpr Labels english{
+      .pin = "Pin Dock",
+      .unpin = "Unpin Dock",
+      .prevent = "Prevent Dock Pop-Up",
+      .allow = "Allow Dock Pop-Up",
+      .notNow = "Not Now",
+      .openWindow = "Open Window",
+      .settings = "Settings",
+      .followSystem = "Follow System",
+      .english = "English",
+      .chinese = "Chinese",
+      .locked = "Locked",
+      .unlocked = "Unlocked",
+      .approve = "Approve Orvane in Login Items",
+      .moveToApplications = "To open at login, move Orvane to Applications"};
+  static constexpr Labels chinese{
+      .pin = "固定 Dock",
+      .unpin = "解除固定 Dock",
+      .prevent = "防止 Dock 弹出",
+      .allow = "允许 Dock 弹出",
+      .notNow = "取消",
+      .openWindow = "打开窗口",
+      .settings = "设置",
+      .followSystem = "跟随系统",
+      .english = "English",
+      .chinese = "中文",
+      .locked = "已锁定",
+      .unlocked = "未锁定",
+      .approve = "请在“登录项”中允许 Orvane",
+      .moveToApplications = "要开机自动运行，请先将 Orvane 移到“应用程序”文件夹"};
   return language == Language::english ? english : chinese;
 }
 

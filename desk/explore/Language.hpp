@@ -26,11 +26,15 @@ struct Labels {
   const char* prevent;
   const char* allow;
   const char* notNow;
+  const char* openWindow;
+  const char* settings;
   const char* followSystem;
   const char* english;
   const char* chinese;
   const char* locked;
   const char* unlocked;
+  const char* approve;
+  const char* moveToApplications;
 };
 
 [[nodiscard]] const Labels& labelsIn(Language language);

@@ -107,7 +107,6 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
   if (!observation.isLaunched) {
     return observation;
   }
-  const OrvaneModel& model = application.model();
   observation.snapshot = application.snapshot();
   const GuardSnapshot& guard = observation.snapshot.guard;
   observation.isGuardRunning = guard.isRunning;
@@ -118,9 +117,6 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
   observation.status = observation.snapshot.status;
   observation.isGuidePolling = observation.snapshot.guide.isPolling;
   observation.guideState = observation.snapshot.guide.state;
-  observation.isTapRefused = model.guardService().wasTapRefused();
-  observation.isDoubted = model.isPermissionStale();
-  observation.isRestoreBlocked = model.isRestoreBlocked();
   observation.messageCount = application.messages().size();
   if (!application.messages().empty()) {
     observation.lastMessage = application.messages().back().text;
@@ -131,10 +127,10 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
 void Observation::addTo(Fingerprint& fingerprint) const {
   fingerprint.add(now);
   for (const bool flag :
-       {isLaunched,       isTrusted,          isModal,         isQueueHeld,      isMenuOpen,
-        isStatusMenuOpen, isChangingTogether, isTapEnabled,    isGuardRunning,   isGuardWaiting,
-        isTapRefused,     isDoubted,          isUnlocked,      isRestoreBlocked, hasPermission,
-        isGuideOpen,      isGuidePolling,     isMainMinimised, stored.wants,     stored.prevents}) {
+       {isLaunched, isTrusted, isModal, isQueueHeld, isMenuOpen, isStatusMenuOpen,
+        isChangingTogether, isTapEnabled, isGuardRunning, isGuardWaiting, isUnlocked, hasPermission,
+        isGuideOpen, isGuidePolling, isMainMinimised, stored.wants, stored.prevents,
+        snapshot.isPermissionStale, snapshot.isRestoreBlocked}) {
     fingerprint.add(flag);
   }
   fingerprint.add(static_cast<std::uint64_t>(displayCount));

@@ -51,10 +51,7 @@ struct Observation {
   bool isGuardRunning = false;
   /// The guard has no tap but observes the displays.
   bool isGuardWaiting = false;
-  bool isTapRefused = false;
-  bool isDoubted = false;
   bool isUnlocked = false;
-  bool isRestoreBlocked = false;
   bool hasPermission = false;
   OrvaneStatus status = OrvaneStatus::unlocked;
   std::int64_t blockedCount = 0;

@@ -11,8 +11,6 @@ namespace orvane::desk::explore {
 
 namespace {
 
-using Step = RarePaths::Step;
-
 struct Path {
   const char* name;
   bool (*isReached)(const Step& step);
@@ -34,14 +32,6 @@ bool starts(const Step& step) {
 /// The guard removes its tap but still observes the displays.
 bool pauses(const Step& step) {
   return step.before.isGuardRunning && !step.after.isGuardRunning && step.after.isGuardWaiting;
-}
-
-bool isLaunch(const Step& step) {
-  return !step.before.isLaunched && step.after.isLaunched;
-}
-
-bool isEnd(const Step& step) {
-  return step.before.isLaunched && !step.after.isLaunched;
 }
 
 bool startsWith(const Step& step, std::string_view prefix) {
@@ -88,15 +78,16 @@ constexpr Path paths[]{
      }},
     {"the tap is refused",
      [](const Step& step) {
-       return step.machine.eventTaps.refusesCreation() && step.after.isDoubted;
+       return step.machine.eventTaps.refusesCreation() && step.after.snapshot.isPermissionStale;
      }},
     {"the source of the tap is refused",
      [](const Step& step) {
-       return step.machine.runLoop.refusesSources() && step.after.isDoubted;
+       return step.machine.runLoop.refusesSources() && step.after.snapshot.isPermissionStale;
      }},
-    {"a doubted permission is trusted again",
+    {"a stale permission is trusted again",
      [](const Step& step) {
-       return step.before.isDoubted && step.after.isLaunched && !step.after.isDoubted;
+       return step.before.snapshot.isPermissionStale && step.after.isLaunched &&
+              !step.after.snapshot.isPermissionStale;
      }},
     {"the permission is granted during the alert",
      [](const Step& step) { return isGranted(step) && step.after.isModal; }},
@@ -147,23 +138,23 @@ constexpr Path paths[]{
        return step.after.stored.selected && step.after.stored.selected->starts_with("nil-");
      }},
     {"the lock is restored at launch",
-     [](const Step& step) { return isLaunch(step) && step.after.isGuardRunning; }},
+     [](const Step& step) { return step.isLaunch() && step.after.isGuardRunning; }},
     {"the restore waits for the permission",
-     [](const Step& step) { return isLaunch(step) && step.after.isRestoreBlocked; }},
+     [](const Step& step) { return step.isLaunch() && step.after.snapshot.isRestoreBlocked; }},
     {"a waiting restore succeeds",
-     [](const Step& step) { return step.before.isRestoreBlocked && starts(step); }},
+     [](const Step& step) { return step.before.snapshot.isRestoreBlocked && starts(step); }},
     {"a crash while the guard runs",
      [](const Step& step) {
-       return isEnd(step) && startsWith(step, "crash") && step.before.isGuardRunning;
+       return step.isEnd() && startsWith(step, "crash") && step.before.isGuardRunning;
      }},
     {"the application ends during the alert",
-     [](const Step& step) { return isEnd(step) && step.before.isModal; }},
+     [](const Step& step) { return step.isEnd() && step.before.isModal; }},
     {"the application ends with the menu open",
-     [](const Step& step) { return isEnd(step) && step.before.isStatusMenuOpen; }},
+     [](const Step& step) { return step.isEnd() && step.before.isStatusMenuOpen; }},
     {"the user quits with the menu",
-     [](const Step& step) { return isEnd(step) && startsWith(step, "press"); }},
+     [](const Step& step) { return step.isEnd() && startsWith(step, "press"); }},
     {"the user quits with the keyboard",
-     [](const Step& step) { return isEnd(step) && startsWith(step, "key"); }},
+     [](const Step& step) { return step.isEnd() && startsWith(step, "key"); }},
     {"a minimised window is restored",
      [](const Step& step) {
        return step.before.isMainMinimised && step.after.isLaunched && !step.after.isMainMinimised &&
@@ -190,12 +181,11 @@ constexpr Path paths[]{
      }},
     {"the login item fails",
      [](const Step& step) {
-       return step.after.isLaunched && step.application.model().isLaunchAtLoginFailing();
+       return step.after.isLaunched && step.after.snapshot.isLaunchAtLoginFailing;
      }},
     {"the login item waits for approval",
      [](const Step& step) {
-       return step.after.isLaunched &&
-              step.application.model().launchAtLoginRequiresApproval().value();
+       return step.after.isLaunched && step.after.snapshot.launchAtLoginRequiresApproval;
      }},
     {"the Dock's edge is invalid",
      [](const Step& step) {

@@ -6,25 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "desk/explore/FilterWatch.hpp"
-#include "desk/explore/Observation.hpp"
+#include "desk/explore/Step.hpp"
 
 namespace orvane::desk::explore {
 
 class RarePaths {
  public:
-  /// One script line with the observations before and after it.
-  struct Step {
-    const std::string& line;
-    const Observation& before;
-    const Observation& after;
-    const FilterWatch::Step& filter;
-    /// See InvariantChecker::isStale().
-    bool isStale;
-    const Machine& machine;
-    const ApplicationHost& application;
-  };
-
   RarePaths();
 
   void note(const Step& step);

@@ -1,4 +1,4 @@
-// Counts of pointer events since the machine was switched on.
+// Counts of pointer events, and of mistakes with them, since the machine was switched on.
 #pragma once
 
 #include <cstdint>
@@ -12,6 +12,8 @@ struct Counters {
   std::int64_t relocatedEvents = 0;
   /// Events that a tap dropped.
   std::int64_t droppedEvents = 0;
+  /// Ports of taps that were released without being invalidated.
+  std::int64_t abandonedPorts = 0;
 };
 
 }  // namespace orvane::desk

@@ -8,8 +8,10 @@ using orvane::desk::Machine;
 using orvane::desk::ObjectKind;
 
 void __CFMachPort::lastReferenceGone() {
+  Machine& machine = Machine::current();
+  machine.counters.abandonedPorts += isValid ? 1 : 0;
   isValid = false;
-  Machine::current().eventTaps.remove(tapIdentity);
+  machine.eventTaps.remove(tapIdentity);
 }
 
 void CFMachPortInvalidate(CFMachPortRef port) {

@@ -1,0 +1,252 @@
+// Each check compares the observations before and after a step.
+#include "desk/explore/EffectChecker.hpp"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "desk/explore/Language.hpp"
+#include "desk/explore/Lines.hpp"
+
+namespace orvane::desk::explore {
+
+namespace {
+
+/// Requests for the permission within this time after an alert are dropped.
+constexpr std::int64_t alertInterval = Clock::nanosecondsPerSecond;
+/// The application looks at the permission once a second.
+constexpr std::int64_t permissionInterval = Clock::nanosecondsPerSecond;
+/// The guide closes this long after its success.
+constexpr std::int64_t guideSuccess = 3 * Clock::nanosecondsPerSecond / 2;
+
+/// Whether the step is a press of a control with this label, in either language.
+bool presses(const Step& step, const char* Labels::*label, std::string_view surface) {
+  return std::ranges::any_of(
+      std::array{Language::english, Language::chinese}, [&](Language language) {
+        const std::string control = quoted(labelsIn(language).*label);
+        return step.line == "press " + control + " in " + std::string(surface);
+      });
+}
+
+bool pressesPin(const Step& step) {
+  return step.hasRun &&
+         (step.line == "do toggleSelectedDisplayLock" || presses(step, &Labels::pin, "menu") ||
+          presses(step, &Labels::pin, "main") || presses(step, &Labels::unpin, "main"));
+}
+
+bool pressesPrevent(const Step& step) {
+  return step.hasRun &&
+         (step.line == "do toggleHideDockOnAllDisplays" ||
+          presses(step, &Labels::prevent, "menu") || presses(step, &Labels::prevent, "main") ||
+          presses(step, &Labels::allow, "main"));
+}
+
+/// Whether a guard can start: the lock has displays to guard, and the system refuses nothing.
+bool canRun(const Step& step, const DisplayConfiguration& configuration) {
+  const Observation& now = step.after;
+  return now.isTrusted && !now.snapshot.isPermissionStale && !step.isStale &&
+         !step.machine.eventTaps.refusesCreation() && !step.machine.runLoop.refusesSources() &&
+         configuration.edge && !configuration.forbiddenEdgePoints(now.stored.goal()).empty();
+}
+
+Violation missingGuard(const char* text) {
+  return {"effect", text, "guard.running true"};
+}
+
+}  // namespace
+
+void EffectChecker::track(const Step& step) {
+  if (step.isLaunch()) {
+    *this = {};
+  }
+  const Observation& before = step.before;
+  const Observation& after = step.after;
+  const bool hasSwitchedOff = before.stored.wants && !after.stored.wants && step.isUserAction();
+  hasAsked_ = (hasAsked_ && !hasSwitchedOff) || after.shows("alert");
+  if (!after.isTrusted) {
+    permissionMissingSince_ = permissionMissingSince_.value_or(after.now);
+    permissionReturnedAt_.reset();
+  } else if (permissionMissingSince_) {
+    if (after.now - *permissionMissingSince_ > permissionInterval) {
+      permissionReturnedAt_ = after.now;
+    }
+    permissionMissingSince_.reset();
+  }
+}
+
+std::optional<Violation> EffectChecker::check(const Step& step,
+                                              const DisplayConfiguration& configuration) {
+  track(step);
+  Check found = checkLaunch(step, configuration);
+  const auto check = [&found](auto&& next) {
+    if (!found) {
+      found = next();
+    }
+  };
+  check([&] { return checkReturnOfPermission(step, configuration); });
+  check([&] { return checkAlert(step); });
+  if (!step.isWithinRun()) {
+    return found;
+  }
+  check([&] { return checkPinSwitch(step); });
+  check([&] { return checkPreventSwitch(step); });
+  check([&] { return checkStoredChoices(step, configuration); });
+  check([&] { return checkWindows(step); });
+  check([&] { return checkGuide(step); });
+  check([&] { return checkMenu(step, configuration); });
+  return found;
+}
+
+EffectChecker::Check EffectChecker::checkLaunch(const Step& step,
+                                                const DisplayConfiguration& configuration) const {
+  if (step.isLaunch() && step.after.stored.wants && canRun(step, configuration) &&
+      !step.after.isGuardRunning) {
+    return missingGuard("the launch did not restore the lock");
+  }
+  return std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkReturnOfPermission(
+    const Step& step, const DisplayConfiguration& configuration) {
+  if (!step.after.isLaunched || step.after.isGuardRunning || !step.after.stored.wants ||
+      !canRun(step, configuration)) {
+    permissionReturnedAt_.reset();
+  }
+  if (permissionReturnedAt_ && step.after.now - *permissionReturnedAt_ > permissionInterval) {
+    return missingGuard("the lock did not come back with the permission");
+  }
+  return std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkAlert(const Step& step) {
+  if (step.before.isModal || !step.after.isModal) {
+    return std::nullopt;
+  }
+  const bool isTooSoon = lastAlertAt_ && step.after.now - *lastAlertAt_ < alertInterval;
+  lastAlertAt_ = step.after.now;
+  return isTooSoon ? Check(Violation{"alert", "it appeared twice within a second"}) : std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkPinSwitch(const Step& step) const {
+  if (!pressesPin(step)) {
+    return std::nullopt;
+  }
+  const Observation& before = step.before;
+  const Stored& stored = step.after.stored;
+  if (before.isGuardRunning && !before.stored.prevents) {
+    return stored.wants ? Check(Violation{"effect", "the Dock is still pinned"}) : std::nullopt;
+  }
+  if (stored.prevents) {
+    return Violation{"effect", "pinning did not end the mode that prevents",
+                     "defaults.hidesDockOnAllDisplays false"};
+  }
+  if (before.isTrusted && before.hasPermission && stored.selected && !stored.wants) {
+    return Violation{"effect", "the Dock is not pinned", "defaults.isOrvaneEnabled true"};
+  }
+  return std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkPreventSwitch(const Step& step) const {
+  if (!pressesPrevent(step)) {
+    return std::nullopt;
+  }
+  const Observation& before = step.before;
+  const Stored& stored = step.after.stored;
+  if (before.isGuardRunning && before.stored.prevents) {
+    return stored.wants || stored.prevents
+               ? Check(Violation{"effect", "the Dock is still prevented from popping up"})
+               : std::nullopt;
+  }
+  if (before.isTrusted && before.hasPermission && !(stored.wants && stored.prevents)) {
+    return Violation{"effect", "the Dock is not prevented from popping up",
+                     "defaults.hidesDockOnAllDisplays true"};
+  }
+  return std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkStoredChoices(
+    const Step& step, const DisplayConfiguration& configuration) const {
+  const Stored& was = step.before.stored;
+  const Stored& is = step.after.stored;
+  if (firstWord(step.line) == "defaults" || step.isUserAction()) {
+    return std::nullopt;
+  }
+  if (was.language != is.language || was.modifier != is.modifier) {
+    return Violation{"choice", "the language or unlock key was stored without a user action"};
+  }
+  if (!hasAsked_ && (was.wants != is.wants || was.prevents != is.prevents)) {
+    return Violation{"choice", "the lock or mode was stored without a user action",
+                     "defaults.isOrvaneEnabled " + std::string(was.wants ? "true" : "false")};
+  }
+  if (was.selected && was.selected != is.selected) {
+    // A display that was stored by an alias may be stored again by its preferred identifier.
+    const auto* const screen = configuration.named(*was.selected);
+    const bool isAlias = is.selected && screen != nullptr && screen->isNamed(*is.selected);
+    if (!isAlias && !step.isStale) {
+      return Violation{"choice", "the target was stored without a user action"};
+    }
+  }
+  return std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkWindows(const Step& step) const {
+  if (!step.hasRun || step.after.isModal) {
+    return std::nullopt;
+  }
+  if ((step.line == "reopen" || presses(step, &Labels::openWindow, "menu")) &&
+      !step.after.shows("main")) {
+    return Violation{"effect", "the panel did not open"};
+  }
+  if ((presses(step, &Labels::settings, "menu") || presses(step, &Labels::settings, "main")) &&
+      !step.after.shows("settings")) {
+    return Violation{"effect", "the settings did not open"};
+  }
+  return std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkGuide(const Step& step) const {
+  const bool hasClosed = step.before.isGuideOpen && !step.after.isGuideOpen;
+  const bool mayHaveSucceeded =
+      step.after.isTrusted && step.after.now - step.before.now >= guideSuccess;
+  const bool mayClose = step.before.guideState == PermissionGuideState::success ||
+                        mayHaveSucceeded || step.isUserAction();
+  return hasClosed && !mayClose ? Check(Violation{"guide", "it closed before its success"})
+                                : std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkMenu(const Step& step,
+                                              const DisplayConfiguration& configuration) const {
+  const OrvaneSnapshot& model = step.after.snapshot;
+  const auto menu = step.after.trees.find("menu");
+  const bool hasOpened = step.line == "menu open" && step.after.isStatusMenuOpen &&
+                         !step.before.isStatusMenuOpen && menu != step.after.trees.end();
+  if (!hasOpened) {
+    return std::nullopt;
+  }
+  const appkit::LoginItem::Status login = step.machine.loginItem.status;
+  if (model.launchAtLoginEnabled != (login == appkit::LoginItem::Status::enabled) ||
+      model.launchAtLoginRequiresApproval !=
+          (login == appkit::LoginItem::Status::requiresApproval)) {
+    return Violation{"login", "the login item's status was not read"};
+  }
+  constexpr std::size_t switches = 3;
+  std::vector<const ui::SemanticsNode*> rows;
+  for (const ui::SemanticsNode* const element : elementsOf(menu->second)) {
+    if (element->isControl()) {
+      rows.push_back(element);
+    }
+  }
+  const std::optional<std::string>& target = step.after.stored.selected;
+  const auto* const chosen = target ? configuration.named(*target) : nullptr;
+  for (std::size_t index = 0; index < configuration.screens.size(); ++index) {
+    // Displays may share a UUID; the guard then spares the first of them.
+    const bool isChosen =
+        chosen != nullptr && chosen->names.front() == configuration.screens[index].names.front();
+    if (switches + index >= rows.size() || rows[switches + index]->isSelected != isChosen) {
+      return Violation{"menu", "it does not mark the chosen display"};
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace orvane::desk::explore

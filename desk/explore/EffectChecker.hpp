@@ -1,0 +1,47 @@
+// EffectChecker checks that what users do has its effect, and that only they change what they
+// chose: the switches, the windows, the permission's alert and guide, and the lock after a launch
+// or after a return of the permission. It shares no code with the application.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "desk/explore/DisplayConfiguration.hpp"
+#include "desk/explore/Step.hpp"
+#include "desk/explore/Violation.hpp"
+
+namespace orvane::desk::explore {
+
+class EffectChecker {
+ public:
+  /// `configuration` is that of the machine after the step.
+  [[nodiscard]] std::optional<Violation> check(const Step& step,
+                                               const DisplayConfiguration& configuration);
+
+ private:
+  using Check = std::optional<Violation>;
+
+  void track(const Step& step);
+
+  [[nodiscard]] Check checkLaunch(const Step& step,
+                                  const DisplayConfiguration& configuration) const;
+  [[nodiscard]] Check checkReturnOfPermission(const Step& step,
+                                              const DisplayConfiguration& configuration);
+  [[nodiscard]] Check checkPinSwitch(const Step& step) const;
+  [[nodiscard]] Check checkPreventSwitch(const Step& step) const;
+  [[nodiscard]] Check checkWindows(const Step& step) const;
+  [[nodiscard]] Check checkStoredChoices(const Step& step,
+                                         const DisplayConfiguration& configuration) const;
+  [[nodiscard]] Check checkAlert(const Step& step);
+  [[nodiscard]] Check checkGuide(const Step& step) const;
+  [[nodiscard]] Check checkMenu(const Step& step, const DisplayConfiguration& configuration) const;
+
+  /// A request for the permission is open that the user made after the last choice.
+  bool hasAsked_ = false;
+  /// All in nanoseconds by the machine's clock.
+  std::optional<std::int64_t> lastAlertAt_;
+  std::optional<std::int64_t> permissionMissingSince_;
+  std::optional<std::int64_t> permissionReturnedAt_;
+};
+
+}  // namespace orvane::desk::explore
