@@ -322,6 +322,12 @@ Lines ActionGenerator::next(Machine& machine, const ApplicationHost& application
       }
     }
   }
+  // Most users finish what they have begun.
+  if (weights_.back() > 0 && random_.chance(250)) {
+    if (Lines lines = followGuide(context); !lines.empty()) {
+      return lines;
+    }
+  }
   const std::size_t sum = std::accumulate(weights_.begin(), weights_.end(), std::size_t{0});
   std::size_t remaining = random_.below(sum);
   std::size_t index = 0;
