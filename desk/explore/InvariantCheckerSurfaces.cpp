@@ -9,9 +9,9 @@ namespace orvane::desk::explore {
 
 namespace {
 
-/// In nanoseconds: the guide times out after 10 s and closes 1.5 s after its success; it polls once
-/// a second.
-constexpr std::int64_t guideTimeout = 11 * Clock::nanosecondsPerSecond;
+/// In nanoseconds: the guide appears, or starts anew, 2 s after an alert, times out after 10 s,
+/// closes 1.5 s after its success, and polls once a second.
+constexpr std::int64_t guideTimeout = 13 * Clock::nanosecondsPerSecond;
 constexpr std::int64_t guideSuccess = 2 * Clock::nanosecondsPerSecond;
 
 const ui::SemanticsNode* findLabel(const ui::SemanticsNode& tree, const std::string& label,
