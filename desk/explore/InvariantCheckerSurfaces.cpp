@@ -10,9 +10,10 @@ namespace orvane::desk::explore {
 namespace {
 
 /// In nanoseconds: the guide appears, or starts anew, 2 s after an alert, times out after 10 s,
-/// closes 1.5 s after its success, and polls once a second.
+/// closes 1.5 s after its success, and polls once a second. If it starts anew during its success,
+/// it succeeds a second time.
 constexpr std::int64_t guideTimeout = 13 * Clock::nanosecondsPerSecond;
-constexpr std::int64_t guideSuccess = 2 * Clock::nanosecondsPerSecond;
+constexpr std::int64_t guideSuccess = 4 * Clock::nanosecondsPerSecond;
 
 const ui::SemanticsNode* findLabel(const ui::SemanticsNode& tree, const std::string& label,
                                    bool mustBeControl) {
