@@ -110,6 +110,20 @@ constexpr Path paths[]{
      [](const Step& step) {
        return isRevoked(step) && step.before.isStatusMenuOpen && step.before.isGuardRunning;
      }},
+    {"the guide starts anew during its success",
+     [](const Step& step) {
+       return isGuideIn(step.before, PermissionGuideState::success) &&
+              isGuideIn(step.after, PermissionGuideState::checking);
+     }},
+    {"the user switches off while the guide polls",
+     [](const Step& step) {
+       return step.before.isGuidePolling && step.before.stored.wants && !step.after.stored.wants;
+     }},
+    {"the unlock key changes while the guard has yet to notice the lost permission",
+     [](const Step& step) {
+       return step.before.isGuardRunning && !step.before.isTrusted && step.after.isLaunched &&
+              step.before.stored.modifier != step.after.stored.modifier;
+     }},
     {"the guard starts while the guide is open",
      [](const Step& step) { return starts(step) && step.after.isGuideOpen; }},
     {"the guard restarts when the permission is granted again",
