@@ -12,13 +12,13 @@ import time
 
 # The folders of tests/ whose programs say something about a folder of Orvane/, the quickest first.
 TESTS = {
-    "app": ["app", "model"],
+    "app": ["app", "model", "pictures"],
     "base": ["base"],
     "geometry": ["geometry", "guard"],
-    "guard": ["guard", "model"],
+    "guard": ["guard", "model", "app"],
     "model": ["model", "app"],
     "panels": ["panels", "gallery"],
-    "permission": ["permission", "model"],
+    "permission": ["permission", "model", "pictures"],
     "ui": ["ui", "panels"],
     "windows": ["windows", "app"],
 }
