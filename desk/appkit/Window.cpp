@@ -72,6 +72,7 @@ void Window::setOpaque(bool isOpaque) {
 }
 
 void Window::setHasShadow(bool hasShadow) {
+  desk::recordCall("Window.setHasShadow", {implementation_->className, hasShadow});
   implementation_->hasShadow = hasShadow;
 }
 

@@ -207,10 +207,12 @@ class MenuActionCallsTest : public StartUpTest {
   const std::string closeCall = "Menu.cancelTracking\n";
   const std::string showMainCalls = R"(Application.setActivationPolicy 1
 Window
+Window.setHasShadow "OrvaneWindow" true
 Window.makeKeyAndOrderFront "OrvaneWindow"
 Window.orderFrontRegardless "OrvaneWindow"
 )" + activateCall;
   const std::string showSettingsCalls = R"(Window
+Window.setHasShadow "OrvaneSettingsWindow" true
 Window.addChildWindowAbove "OrvaneWindow" "OrvaneSettingsWindow"
 Window.makeKeyAndOrderFront "OrvaneSettingsWindow"
 Window.orderFrontRegardless "OrvaneSettingsWindow"

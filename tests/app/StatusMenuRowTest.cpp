@@ -29,6 +29,7 @@ TEST_F(StatusMenuRowTest, HasABadgeATitleAndASwitchAtTheTrailingEnd) {
   EXPECT_TRUE(draws("symbol lock 13/500 rgba(0 0 0 0.6) (20 9 13 13)\n")) << drawing();
   EXPECT_TRUE(draws("text \"Pin\" 13/500 rgba(0 0 0 0.85) at 46 18\n")) << drawing();
   EXPECT_TRUE(draws("fill capsule(166 6 34 18) rgba(0 0.478 1 1)\n")) << drawing();
+  EXPECT_FALSE(draws("opacity")) << drawing();
   const auto row = test.element("Pin");
   ASSERT_TRUE(row);
   EXPECT_EQ(row->role, ui::Role::toggle);
@@ -80,6 +81,12 @@ TEST_F(StatusMenuRowTest, ShowsAFaintHighlightUnderThePointerUnlessItHasASwitch)
   test.host->pointerMoved({100, 15});
   test.host->layoutIfNeeded();
   EXPECT_TRUE(draws("fill rounded(3 2 202 26 r6 continuous) rgba(0 0 0 0)\n")) << drawing();
+}
+
+TEST_F(StatusMenuRowTest, ShowsARoundedRingWithTheFocus) {
+  show(StatusMenuRow{.title = "Quit", .systemImage = "power"});
+  test.press(ui::Key::tab);
+  EXPECT_TRUE(draws("stroke rounded(-2 -2 212 34 r8 continuous)")) << drawing();
 }
 
 TEST_F(StatusMenuRowTest, TightensALongTitleBeforeItTruncatesIt) {

@@ -1,5 +1,6 @@
-// The calls that bring the two panels to the front and close them. The simulated window server does
-// part of it unasked, so only the calls show whether the application asks for it.
+// The calls that create the two panels, bring them to the front and close them. The simulated
+// window server does part of it unasked, so only the calls show whether the application asks for
+// it.
 #include <sstream>
 
 #include "tests/app/AppFixture.hpp"
@@ -8,7 +9,7 @@
 namespace orvane {
 namespace {
 
-const std::string newWindow = "Window\n";
+const std::string newSettings = "Window\nWindow.setHasShadow \"OrvaneSettingsWindow\" true\n";
 const std::string mainToFront =
     "Window.makeKeyAndOrderFront \"OrvaneWindow\"\nWindow.orderFrontRegardless \"OrvaneWindow\"\n";
 const std::string settingsToFront =
@@ -59,7 +60,7 @@ TEST_F(WindowCallsTest, AMainPanelThatIsNotMinimisedIsOnlyBroughtToTheFront) {
 }
 
 TEST_F(WindowCallsTest, TheSettingsBecomeAChildOnceAndComeToTheFrontEachTime) {
-  EXPECT_EQ(callsOfRow("Settings"), mainToFront + newWindow + addSettings + settingsToFront);
+  EXPECT_EQ(callsOfRow("Settings"), mainToFront + newSettings + addSettings + settingsToFront);
   EXPECT_EQ(callsOfRow("Settings"), mainToFront + settingsToFront);
 }
 

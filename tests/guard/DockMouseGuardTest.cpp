@@ -29,6 +29,7 @@ TEST_F(DockMouseGuardTest, BlockingAllDisplaysGuardsASingleOneAndNeedsNoTarget) 
   desk::detach(machine, 2);
   guard->start("", OrvaneModifier::option, true);
   EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheLaptop});
+  EXPECT_TRUE(guard->isSetTo(desk::uuidNamed('A'), OrvaneModifier::option, true)) << "any target";
   EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
 }
 
@@ -76,6 +77,10 @@ TEST_F(DockMouseGuardTest, WithoutPermissionARunningGuardKeepsItsEarlierSettings
   startPinned(OrvaneModifier::control);
   machine.permission.setTrusted(false);
   guard->start(desk::uuidNamed('B'), OrvaneModifier::shift, true);
+  EXPECT_TRUE(guard->isSetTo(desk::uuidNamed('A'), OrvaneModifier::control, false));
+  EXPECT_FALSE(guard->isSetTo(desk::uuidNamed('B'), OrvaneModifier::control, false));
+  EXPECT_FALSE(guard->isSetTo(desk::uuidNamed('A'), OrvaneModifier::shift, false));
+  EXPECT_FALSE(guard->isSetTo(desk::uuidNamed('A'), OrvaneModifier::control, true));
   EXPECT_TRUE(guard->isRunning());
   EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor});
   EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));

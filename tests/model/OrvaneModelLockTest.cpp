@@ -233,6 +233,19 @@ TEST_F(OrvaneModelLockTest, APinThatWasSwitchedOffAgainIsNotStartedByItsGrant) {
   EXPECT_EQ(stored("isOrvaneEnabled"), Value(false));
 }
 
+TEST_F(OrvaneModelLockTest, ALockThatResumedAndWasSwitchedOffIsNotReplacedByAnEarlierRequest) {
+  store("isOrvaneEnabled", true);
+  store("selectedDisplayID", desk::uuidNamed('A'));
+  machine.permission.setTrusted(false);
+  launch().toggleHideDockOnAllDisplays();
+  machine.permission.setTrusted(true);
+  model->resumeGuard();
+  ASSERT_TRUE(isPinned());
+  model->toggleLock();
+  prompts.at(0)();
+  EXPECT_FALSE(model->isGuardRunning());
+}
+
 TEST_F(OrvaneModelLockTest, AGrantForPreventWritesTheModeEvenWhenItIsChosenAlready) {
   machine.permission.setTrusted(false);
   launch().toggleHideDockOnAllDisplays();

@@ -34,6 +34,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ThePanelFloatsAndDoesNotActiva
   EXPECT_EQ(panel->level, 25);
   EXPECT_TRUE(panel->isFloatingPanel);
   EXPECT_FALSE(panel->hidesOnDeactivate);
+  EXPECT_FALSE(panel->isReleasedWhenClosed);
   EXPECT_EQ(panel->collectionBehavior, 0x20112U);
   EXPECT_TRUE(panel->isMovableByBackground);
   EXPECT_TRUE(panel->hasClearBackground);
@@ -41,6 +42,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ThePanelFloatsAndDoesNotActiva
   EXPECT_TRUE(panel->hasShadow);
   EXPECT_EQ(panel->frame.size.width, 360);
   EXPECT_EQ(panel->frame.size.height, 500);
+  EXPECT_EQ(server().focus.keyReceiver(), panel);
   EXPECT_FALSE(server().focus.isActive());
 }
 

@@ -61,6 +61,7 @@ class OrvaneWindowControllerTest : public desk::WindowFixture {
     EXPECT_EQ(window.level, 0);
     EXPECT_TRUE(window.isMovableByBackground);
     EXPECT_FALSE(window.isReleasedWhenClosed);
+    EXPECT_FALSE(window.isOpaque);
     EXPECT_TRUE(window.hasClearBackground);
     EXPECT_TRUE(window.canBecomeKey());
     EXPECT_TRUE(window.canBecomeMain());
@@ -202,9 +203,17 @@ TEST_F(OrvaneWindowControllerTest, ClosingTheSettingsLeavesTheMainPanel) {
   ASSERT_TRUE(controller().window());
   EXPECT_TRUE(controller().window()->isVisible());
   EXPECT_TRUE(controller().window()->childWindows().empty());
-  closeSettings();
   showSettings();
   EXPECT_EQ(controller().window()->childWindows().size(), 1U);
+}
+
+TEST_F(OrvaneWindowControllerTest, WithoutAPanelNothingIsClosedOrMinimised) {
+  showSettings();
+  controller().closeWindow();
+  controller().closeWindow();
+  closeSettings();
+  controller().miniaturizeWindow();
+  EXPECT_TRUE(server().windows().empty());
 }
 
 TEST_F(OrvaneWindowControllerTest, AMinimisedMainPanelIsRestoredInTheCentre) {

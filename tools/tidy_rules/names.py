@@ -44,14 +44,13 @@ def _check_header(file):
         yield file, 1, "no #pragma once"
     code = file.code()
     types = list(_TYPE.finditer(code))
-    # Image::Implementation is ImageImplementation, and reference::Guard is ReferenceGuard.
+    # Image::Implementation is in ImageImplementation.hpp.
     declared = {(match["name"] or match["alias"]).replace("::", "") for match in types}
     spaces = {match["path"].split("::")[-1] for match in _NAMESPACE.finditer(code)}
-    names = declared | spaces | {space.capitalize() + name for space in spaces for name in declared}
     # A family is named after what its members share: HStack and VStack in Stack.hpp.
     stems = {file.path.stem, file.path.stem.removesuffix("s")}
     if not declared or any(name.startswith(stem) or name.endswith(stem)
-                           for name in names for stem in stems):
+                           for name in declared | spaces for stem in stems):
         return
     # A header of functions, with the plain values that they take and return, is named after its
     # subject; it must not declare a class.
