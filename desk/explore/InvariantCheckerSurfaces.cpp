@@ -12,7 +12,7 @@ namespace {
 const ui::SemanticsNode* findLabel(const ui::SemanticsNode& tree, const std::string& label,
                                    bool mustBeControl) {
   for (const ui::SemanticsNode* const element : elementsOf(tree)) {
-    if (element->label == label && (element->isControl() || !mustBeControl)) {
+    if (element->label == label && (element->isControl || !mustBeControl)) {
       return element;
     }
   }

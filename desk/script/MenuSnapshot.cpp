@@ -51,7 +51,7 @@ Json rowSnapshot(const appkit::MenuItem& item) {
     return shown;
   }
   const auto control =
-      findElement(tree, [](const ui::SemanticsNode& node) { return node.isControl(); });
+      findElement(tree, [](const ui::SemanticsNode& node) { return node.isControl; });
   shown["kind"] = "row";
   shown["title"] = control ? control->label : item.title;
   shown["symbol"] = probe.first.empty() ? Json(nullptr) : Json(probe.first);

@@ -50,8 +50,7 @@ class AppFixture : public ApplicationFixture {
         view.implementation()->update();
         ui::ViewHost& host = view.implementation()->host();
         const auto controls = desk::findControls(host.semantics());
-        const bool isDone =
-            !controls.empty() && host.perform(controls.front().id, ui::SemanticsAction::press);
+        const bool isDone = !controls.empty() && host.press(controls.front().id);
         machine.runDue();
         return isDone;
       }

@@ -235,7 +235,7 @@ class GalleryRulesTest : public desk::MachineFixture,
 
   void expectControlsAreLargeEnough() const {
     for (const ui::SemanticsNode& node : nodes_) {
-      if (node.isControl()) {
+      if (node.isControl) {
         EXPECT_GE(std::min(node.frame.width, node.frame.height), minimumSide(node) - 0.001)
             << "\"" << node.label << "\"";
       }
@@ -321,7 +321,7 @@ class GalleryRulesTest : public desk::MachineFixture,
     const ui::Point middle = run.visible.center();
     ui::Rgba darkest = behind.at(middle);
     for (const ui::SemanticsNode& node : nodes_) {
-      if (!node.isControl() || !node.frame.contains(middle)) {
+      if (!node.isControl || !node.frame.contains(middle)) {
         continue;
       }
       for (double y = node.frame.y; y < node.frame.bottom(); ++y) {
