@@ -9,6 +9,9 @@ namespace orvane::desk::script {
 /// The status in the script language, such as "locked".
 [[nodiscard]] const char* nameOf(OrvaneStatus status);
 
+[[nodiscard]] Json dockOf(const Machine& machine);
+[[nodiscard]] Json pointerOf(const Machine& machine);
+
 /// The machine itself.
 void addMachineInspectables(InspectableTable& table);
 /// The application's snapshot.

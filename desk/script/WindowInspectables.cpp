@@ -3,6 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "desk/hand/InQuotes.hpp"
 #include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
 #include "desk/script/MenuSnapshot.hpp"
@@ -78,7 +79,7 @@ Json treeSnapshot(const ui::SemanticsNode& node) {
 Problem lookAtTree(ScriptContext&, const std::string& surface, Json& shown) {
   const auto tree = Surfaces(WindowServer::current()).tree(surface);
   if (!tree) {
-    return "there is no surface \"" + surface + "\"";
+    return "there is no surface " + inQuotes(surface);
   }
   shown = treeSnapshot(*tree);
   return std::nullopt;

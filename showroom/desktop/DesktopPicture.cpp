@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "desk/canvas/PngFile.hpp"
+#include "desk/hand/InQuotes.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -71,7 +72,7 @@ std::optional<std::string> writePicture(const desk::Machine& machine,
     desk::WindowServer* const server = desk::WindowServer::of(machine);
     frame = server != nullptr ? frameOf(*server, *surface) : std::nullopt;
     if (!frame) {
-      return "there is no surface \"" + *surface + "\"";
+      return "there is no surface " + desk::inQuotes(*surface);
     }
   } else if (machine.displays.isEmpty()) {
     return "there is no display to make a picture of";

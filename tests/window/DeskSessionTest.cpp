@@ -14,7 +14,7 @@ TEST_F(DeskSessionTest, BeginsWithDisplaysAPermissionAndAnUnlockedApplication) {
   EXPECT_TRUE(session.machine().permission.isTrusted());
   ASSERT_TRUE(session.application().isRunning());
   EXPECT_FALSE(session.application().model().isGuardRunning());
-  EXPECT_EQ(session.pointerDisplayNumber(), 1U);
+  EXPECT_EQ(session.machine().pointer.displayIndex(), 0U);
 }
 
 TEST(DeskSessionSizeTest, HasBetweenOneAndFourDisplays) {
@@ -94,7 +94,7 @@ TEST_F(DeskSessionTest, SurvivesMovementsWithoutADisplay) {
   ASSERT_FALSE(session.machine().displays.detach(2));
   session.machine().runDue();
   session.movePointerBy(10, 10);
-  EXPECT_EQ(session.pointerDisplayNumber(), 0U);
+  EXPECT_EQ(session.machine().pointer.displayIndex(), std::nullopt);
   EXPECT_GT(session.nanosecondsToNextChange(), 0);
 }
 
