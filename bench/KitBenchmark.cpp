@@ -72,7 +72,8 @@ class MainPanel : public Subject {
     return {OrvaneWindow::contentSize.width, OrvaneWindow::contentSize.height};
   }
   [[nodiscard]] ui::View view() override {
-    return ContentView{model_.get(), {[] {}, [] {}, [] {}}};
+    return ContentView{.model = model_.get(),
+                       .actions = {.close = [] {}, .minimise = [] {}, .showSettings = [] {}}};
   }
   [[nodiscard]] ui::Point hoverPlace() const override { return {320, 230}; }
 
@@ -85,7 +86,7 @@ class MainPanel : public Subject {
 class Stage {
  public:
   explicit Stage(Subject& subject)
-      : host_(ui::HostPlatform{&text_, resources_.imageSource(), {}, {}}),
+      : host_(ui::HostPlatform{.text = &text_, .images = resources_.imageSource()}),
         surface_(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
                                             static_cast<int>(subject.size().width * scale),
                                             static_cast<int>(subject.size().height * scale))) {

@@ -46,7 +46,7 @@ int main() {
   const char* const started = std::getenv("PANEL_STARTED_MS");
   desk::PangoTextMeasurer text;
   desk::DrawingResources resources;
-  ui::ViewHost host(ui::HostPlatform{&text, resources.imageSource(), {}, {}});
+  ui::ViewHost host(ui::HostPlatform{.text = &text, .images = resources.imageSource()});
   const desk::SurfacePointer surface(cairo_image_surface_create(
       CAIRO_FORMAT_ARGB32, static_cast<int>(bench::KitPanel::width * scale),
       static_cast<int>(bench::KitPanel::height * scale)));

@@ -31,9 +31,9 @@ struct Task {
 };
 
 rc::Gen<Shape> genShape(double step) {
-  const auto length = [step](int least, int most) {
+  const auto length = [step](int minimum, int maximum) {
     return rc::gen::map(
-        rc::gen::inRange(static_cast<int>(least / step), static_cast<int>(most / step)),
+        rc::gen::inRange(static_cast<int>(minimum / step), static_cast<int>(maximum / step)),
         [step](int steps) { return steps * step; });
   };
   return rc::gen::apply(
@@ -48,12 +48,13 @@ rc::Gen<Shape> genShape(double step) {
 }
 
 rc::Gen<Rgba> genColor() {
-  const auto share = rc::gen::map(rc::gen::inRange(0, 101), [](int part) { return part / 100.0; });
+  const auto fraction =
+      rc::gen::map(rc::gen::inRange(0, 101), [](int percent) { return percent / 100.0; });
   return rc::gen::apply(
       [](double red, double green, double blue, double alpha) {
         return Rgba{red, green, blue, alpha};
       },
-      share, share, share, rc::gen::oneOf(share, rc::gen::just(1.0)));
+      fraction, fraction, fraction, rc::gen::oneOf(fraction, rc::gen::just(1.0)));
 }
 
 void paintWithCairo(cairo_t* context, const Task& task) {

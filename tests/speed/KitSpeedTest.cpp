@@ -42,7 +42,7 @@ class KitSpeed : public testing::Test {
 
   desk::PangoTextMeasurer text;
   desk::DrawingResources resources;
-  ui::ViewHost host{ui::HostPlatform{&text, resources.imageSource(), {}, {}}};
+  ui::ViewHost host{ui::HostPlatform{.text = &text, .images = resources.imageSource()}};
   int revision = 0;
 };
 
