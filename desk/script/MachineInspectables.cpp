@@ -58,13 +58,6 @@ Json countersOf(const Machine& machine) {
           {"liveObjects", machine.objects.liveCount()}};
 }
 
-Inspectable::Look lookAt(Json (*snapshot)(const Machine&)) {
-  return [snapshot](ScriptContext& context, const std::string&, Json& shown) -> Problem {
-    shown = snapshot(context.machine());
-    return std::nullopt;
-  };
-}
-
 }  // namespace
 
 Json dockOf(const Machine& machine) {
@@ -88,13 +81,13 @@ Json pointerOf(const Machine& machine) {
 }
 
 void addMachineInspectables(InspectableTable& table) {
-  table.add({.name = "dock", .look = lookAt(dockOf), .countingMember = "reveals"});
-  table.add({.name = "pointer", .look = lookAt(pointerOf)});
-  table.add({.name = "opened", .look = lookAt(openedOf)});
-  table.add({.name = "clock", .look = lookAt(clockOf)});
-  table.add({.name = "defaults", .look = lookAt(defaultsOf)});
-  table.add({.name = "faults", .look = lookAt(faultsOf)});
-  table.add({.name = "counters", .look = lookAt(countersOf)});
+  table.add("dock", dockOf, "reveals");
+  table.add("pointer", pointerOf);
+  table.add("opened", openedOf);
+  table.add("clock", clockOf);
+  table.add("defaults", defaultsOf);
+  table.add("faults", faultsOf);
+  table.add("counters", countersOf);
 }
 
 }  // namespace orvane::desk::script

@@ -8,7 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Orvane/model/OrvaneSettings.hpp"
-#include "desk/script/MenuSnapshot.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/windows/Implementations.hpp"
 #include "tests/support/ApplicationFixture.hpp"
 #include "tests/support/TestDisplays.hpp"
@@ -74,7 +74,7 @@ class AppFixture : public ApplicationFixture {
   /// The menu as text, one line per row: its symbol, its title, its state.
   [[nodiscard]] std::string menuText() {
     std::string text;
-    const auto snapshot = desk::script::statusMenuSnapshot(server());
+    const auto snapshot = desk::script::statusMenuSnapshot();
     for (const auto& row : snapshot["rows"]) {
       text += rowText(row) + "\n";
     }
@@ -82,7 +82,7 @@ class AppFixture : public ApplicationFixture {
   }
   /// The line of one row.
   [[nodiscard]] std::string row(const std::string& title) {
-    const auto snapshot = desk::script::statusMenuSnapshot(server());
+    const auto snapshot = desk::script::statusMenuSnapshot();
     for (const auto& shown : snapshot["rows"]) {
       if (shown.value("title", "") == title) {
         return rowText(shown);

@@ -11,7 +11,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "desk/machine/MachineScope.hpp"
-#include "desk/script/MenuSnapshot.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/hardware/Hardware.hpp"
@@ -91,10 +91,10 @@ class Afternoon {
     while (server.menus.isOpen()) {
       server.menus.close();
     }
-    return server.menus.openStatusMenu(0) ? menuLie(server) : "";
+    return server.menus.openStatusMenu(0) ? menuLie() : "";
   }
 
-  bool endsCleanly() { return scope_.end().isClean(); }
+  bool endsCleanly() { return scope_.end().empty(); }
 
  private:
   [[nodiscard]] desk::Machine& machine() { return scope_.machine(); }
@@ -156,9 +156,9 @@ class Afternoon {
   }
 
   /// The menu has just been opened.
-  std::string menuLie(desk::WindowServer& server) {
+  std::string menuLie() {
     const OrvaneModel& model = application_.model();
-    const auto snapshot = desk::script::statusMenuSnapshot(server);
+    const auto snapshot = desk::script::statusMenuSnapshot();
     const auto& rows = snapshot["rows"];
     const bool isLocked = model.isGuardRunning();
     const bool isPreventing = model.hidesDockOnAllDisplays().value();

@@ -376,7 +376,7 @@ std::string SequenceRunner::expected() {
 
 bool SequenceRunner::endsCleanly() {
   reference_.reset();
-  return scope_.end().isClean();
+  return scope_.end().empty();
 }
 
 }  // namespace orvane::reference

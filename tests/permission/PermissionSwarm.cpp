@@ -256,14 +256,8 @@ std::size_t PermissionSwarm::calledBack() const {
 }
 
 std::optional<std::string> PermissionSwarm::end() {
-  const desk::MachineEnd end = scope_.end();
-  if (!end.leakedObjects.empty()) {
-    return "not released: " + end.leakedObjects.front();
-  }
-  if (!end.faults.empty()) {
-    return "fault: " + end.faults.front();
-  }
-  return std::nullopt;
+  const std::vector<std::string> problems = scope_.end();
+  return problems.empty() ? std::nullopt : std::optional(problems.front());
 }
 
 }  // namespace orvane
