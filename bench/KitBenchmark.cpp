@@ -20,6 +20,7 @@
 #include "bench/KitPanel.hpp"
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/ContentPicture.hpp"
@@ -87,9 +88,7 @@ class Stage {
  public:
   explicit Stage(Subject& subject)
       : host_(ui::HostPlatform{.text = &text_, .images = resources_.imageSource()}),
-        surface_(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
-                                            static_cast<int>(subject.size().width * scale),
-                                            static_cast<int>(subject.size().height * scale))) {
+        surface_(desk::imageSurface(subject.size(), scale)) {
     addApplicationImages(resources_.images);
     host_.setSize(subject.size());
     host_.setRoot([&subject](const ui::Environment&) { return subject.view(); });

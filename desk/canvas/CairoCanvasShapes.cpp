@@ -5,6 +5,7 @@
 
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/GradientRows.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/ShadowMask.hpp"
 
 namespace orvane::desk {
@@ -168,8 +169,7 @@ RowColors CairoCanvas::colorsOf(const ui::Paint& paint, int top, int bottom) {
 }
 
 Mask CairoCanvas::coveredRows(const ui::Shape& shape, double lineWidth, const PixelRect& rows) {
-  Mask mask{SurfacePointer(cairo_image_surface_create(CAIRO_FORMAT_A8, rows.right - rows.left,
-                                                      rows.bottom - rows.top)),
+  Mask mask{imageSurface(rows.right - rows.left, rows.bottom - rows.top, CAIRO_FORMAT_A8),
             rows.left, rows.top};
   const ContextPointer drawing(cairo_create(mask.surface.get()));
   const auto place = [&](const ui::Transform& pixels) {

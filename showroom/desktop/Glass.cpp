@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "desk/canvas/Blur.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 
 namespace orvane::showroom {
 
@@ -43,13 +44,8 @@ void paintGlass(desk::CairoCanvas& canvas, const ui::Shape& shape, double sigma,
   const cairo_rectangle_int_t pixels =
       pixelsAround(context, shape.rect, desk::blurReach(sigmaInPixels));
   if (tint.alpha < 1 && pixels.width > 0 && pixels.height > 0) {
-    desk::SurfacePointer copy(
-        cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels.width, pixels.height));
-    {
-      const desk::ContextPointer copying(cairo_create(copy.get()));
-      cairo_set_source_surface(copying.get(), cairo_get_target(context), -pixels.x, -pixels.y);
-      cairo_paint(copying.get());
-    }
+    desk::SurfacePointer copy = desk::partOf(cairo_get_target(context), pixels.x, pixels.y,
+                                             pixels.width, pixels.height, CAIRO_FORMAT_RGB24);
     cairo_surface_t* const blurred = cache.blurred(std::move(copy), sigmaInPixels);
     canvas.save();
     canvas.clip(shape);

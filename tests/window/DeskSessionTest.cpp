@@ -2,6 +2,7 @@
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
 #include "showroom/window/DeskSession.hpp"
+#include "tests/support/TestDisplays.hpp"
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::showroom {
@@ -58,7 +59,7 @@ TEST_F(DeskSessionTest, KnowsWhenThePictureNextChanges) {
   const std::int64_t untilMinute = session.nanosecondsToNextChange();
   EXPECT_GT(untilMinute, 50 * second);
   EXPECT_LE(untilMinute, 60 * second);
-  session.machine().preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, true);
+  desk::setDockAutoHide(session.machine(), true);
   EXPECT_EQ(session.nanosecondsToNextChange(), 0);
   session.advance(desk::Dock::slideNanoseconds / 2);
   EXPECT_EQ(session.nanosecondsToNextChange(), 0);
