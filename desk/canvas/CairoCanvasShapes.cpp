@@ -103,6 +103,13 @@ PixelRect CairoCanvas::clipExtents() {
   return pixelsOf(ui::Rect::between(left, top, right, bottom));
 }
 
+PixelRect CairoCanvas::visiblePixels(const ui::Rect& rect, int margin) {
+  const PixelRect pixels = pixelsOf(pixelTransform().apply(rect));
+  return PixelRect{pixels.left - margin, pixels.top - margin, pixels.right + margin,
+                   pixels.bottom + margin}
+      .cutTo(clipExtents());
+}
+
 void CairoCanvas::clip(const ui::Shape& shape) {
   noteClip(shape);
   cairo_new_path(context());
