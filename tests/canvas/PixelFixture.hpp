@@ -43,6 +43,19 @@ class PixelFixture : public testing::Test {
     return sum;
   }
 
+  /// The bounds of the pixels that are more than half covered.
+  ui::Rect inkBounds() {
+    ui::Rect bounds;
+    for (int y = 0; y < height(); ++y) {
+      for (int x = 0; x < width(); ++x) {
+        if (at(x, y).alpha > 127) {
+          bounds = bounds.united({1.0 * x, 1.0 * y, 1, 1});
+        }
+      }
+    }
+    return bounds;
+  }
+
   DrawingResources resources;
   SurfacePointer surface;
   std::unique_ptr<CairoCanvas> canvas;
