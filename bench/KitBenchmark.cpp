@@ -20,6 +20,7 @@
 #include "bench/KitPanel.hpp"
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/ContentPicture.hpp"
@@ -72,7 +73,8 @@ class MainPanel : public Subject {
     return {OrvaneWindow::contentSize.width, OrvaneWindow::contentSize.height};
   }
   [[nodiscard]] ui::View view() override {
-    return ContentView{model_.get(), {[] {}, [] {}, [] {}}};
+    return ContentView{.model = model_.get(),
+                       .actions = {.close = [] {}, .minimise = [] {}, .showSettings = [] {}}};
   }
   [[nodiscard]] ui::Point hoverPlace() const override { return {320, 230}; }
 
@@ -85,10 +87,8 @@ class MainPanel : public Subject {
 class Stage {
  public:
   explicit Stage(Subject& subject)
-      : host_(ui::HostPlatform{&text_, resources_.imageSource(), {}, {}}),
-        surface_(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
-                                            static_cast<int>(subject.size().width * scale),
-                                            static_cast<int>(subject.size().height * scale))) {
+      : host_(ui::HostPlatform{.text = &text_, .images = resources_.imageSource()}),
+        surface_(desk::imageSurface(subject.size(), scale)) {
     addApplicationImages(resources_.images);
     host_.setSize(subject.size());
     host_.setRoot([&subject](const ui::Environment&) { return subject.view(); });

@@ -9,6 +9,7 @@
 #include "Orvane/windows/OrvaneWindow.hpp"
 #include "desk/application/ApplicationHost.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
@@ -33,9 +34,8 @@ bool paintMainWindow(cairo_surface_t* surface) {
 }
 
 void launchToFirstFrame(benchmark::State& state) {
-  const desk::SurfacePointer surface(cairo_image_surface_create(
-      CAIRO_FORMAT_ARGB32, static_cast<int>(OrvaneWindow::contentSize.width * displayScale),
-      static_cast<int>(OrvaneWindow::contentSize.height * displayScale)));
+  const desk::SurfacePointer surface = desk::imageSurface(
+      {OrvaneWindow::contentSize.width, OrvaneWindow::contentSize.height}, displayScale);
   for (auto _ : state) {
     state.PauseTiming();
     std::optional<desk::MachineScope> scope(std::in_place);

@@ -10,6 +10,7 @@
 #include "Orvane/ui/host/ViewHost.hpp"
 #include "bench/KitPanel.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 
 namespace {
@@ -46,10 +47,9 @@ int main() {
   const char* const started = std::getenv("PANEL_STARTED_MS");
   desk::PangoTextMeasurer text;
   desk::DrawingResources resources;
-  ui::ViewHost host(ui::HostPlatform{&text, resources.imageSource(), {}, {}});
-  const desk::SurfacePointer surface(cairo_image_surface_create(
-      CAIRO_FORMAT_ARGB32, static_cast<int>(bench::KitPanel::width * scale),
-      static_cast<int>(bench::KitPanel::height * scale)));
+  ui::ViewHost host(ui::HostPlatform{.text = &text, .images = resources.imageSource()});
+  const desk::SurfacePointer surface =
+      desk::imageSurface({bench::KitPanel::width, bench::KitPanel::height}, scale);
   host.setSize({bench::KitPanel::width, bench::KitPanel::height});
   host.setRoot([](const ui::Environment&) { return ui::View(bench::KitPanel{1}); });
   const auto paint = [&] {

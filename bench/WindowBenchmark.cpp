@@ -6,6 +6,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/window/WindowPicture.hpp"
@@ -23,8 +24,7 @@ void windowFrame(benchmark::State& state) {
   session.advance(2 * desk::Clock::nanosecondsPerSecond);
   showroom::HardwarePanelHost panel(session.hardware());
   showroom::WindowPicture picture(panel);
-  const desk::SurfacePointer surface(
-      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  const desk::SurfacePointer surface = desk::imageSurface(width, height);
   const showroom::WindowLayout layout(width, height, 1);
   desk::WindowServer& server = desk::WindowServer::current();
   const auto window = desk::Surfaces(server).window("main");

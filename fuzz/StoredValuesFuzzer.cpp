@@ -95,6 +95,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     useApplication(data, machine, application.model());
     application.terminate();
   }
-  orvane::require(scope.end().isClean(), "the application left something behind");
+  orvane::require(scope.end().empty(), "the application left something behind");
   return 0;
 }

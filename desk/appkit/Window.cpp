@@ -144,6 +144,7 @@ void Window::setFrameOrigin(CGPoint origin) {
 }
 
 void Window::center() {
+  desk::recordCall("Window.center", {implementation_->className});
   WindowServer::current().center(*implementation_);
 }
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "desk/canvas/Blur.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/ShadowMask.hpp"
 
 namespace orvane::desk {
@@ -232,7 +233,7 @@ void CairoCanvas::beginLayer(const ui::Rect& bounds, double opacity,
   layer.y = static_cast<int>(std::floor(area.top));
   const int width = std::max(0, static_cast<int>(std::ceil(area.right)) - layer.x);
   const int height = std::max(0, static_cast<int>(std::ceil(area.bottom)) - layer.y);
-  const SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  const SurfacePointer surface = imageSurface(width, height);
   cairo_surface_set_device_offset(surface.get(), -layer.x, -layer.y);
   layer.context.reset(cairo_create(surface.get()));
   const cairo_matrix_t matrix = matrixOf(outer);

@@ -48,6 +48,9 @@ class CairoCanvas : public ui::Canvas {
   /// point, on a target of eight bits.
   void picture(const DeepSurface& picture, ui::Point corner);
 
+  /// The pixels of a rectangle and a margin around it, within the clip.
+  [[nodiscard]] PixelRect visiblePixels(const ui::Rect& rect, int margin);
+
   /// The current cairo context, in points, for drawing that the canvas does not support. Clips
   /// other than rectangles must be set with the canvas. On a picture of sixteen bits it draws only
   /// within layers.

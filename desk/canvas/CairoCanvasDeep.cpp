@@ -6,6 +6,7 @@
 
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/GradientRows.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/ShadowMask.hpp"
 
 namespace orvane::desk {
@@ -41,9 +42,9 @@ void CairoCanvas::cutToClip(cairo_surface_t* picture, int x, int y) {
   if (shapes.empty()) {
     return;
   }
-  const SurfacePointer inside(cairo_image_surface_create(CAIRO_FORMAT_A8,
-                                                         cairo_image_surface_get_width(picture),
-                                                         cairo_image_surface_get_height(picture)));
+  const SurfacePointer inside =
+      imageSurface(cairo_image_surface_get_width(picture), cairo_image_surface_get_height(picture),
+                   CAIRO_FORMAT_A8);
   const ContextPointer filling(cairo_create(inside.get()));
   for (const auto& [outline, pixels] : shapes) {
     const cairo_matrix_t matrix{pixels.scaleX, 0, 0, pixels.scaleY, pixels.x - x, pixels.y - y};
@@ -75,14 +76,9 @@ void CairoCanvas::picture(const DeepSurface& picture, ui::Point corner) {
     return;
   }
   // Drawn over a copy of the target, so that both are rounded together; then clipped.
-  const SurfacePointer part(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, area.right - area.left,
-                                                       area.bottom - area.top));
   cairo_t* const target = context();
-  {
-    const ContextPointer copying(cairo_create(part.get()));
-    cairo_set_source_surface(copying.get(), cairo_get_target(target), -area.left, -area.top);
-    cairo_paint(copying.get());
-  }
+  const SurfacePointer part = partOf(cairo_get_target(target), area.left, area.top,
+                                     area.right - area.left, area.bottom - area.top);
   picture.paintOver(part.get(), left - area.left, top - area.top);
   cairo_save(target);
   cairo_identity_matrix(target);

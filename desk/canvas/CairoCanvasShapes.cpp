@@ -5,6 +5,7 @@
 
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/GradientRows.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/ShadowMask.hpp"
 
 namespace orvane::desk {
@@ -102,6 +103,13 @@ PixelRect CairoCanvas::clipExtents() {
   return pixelsOf(ui::Rect::between(left, top, right, bottom));
 }
 
+PixelRect CairoCanvas::visiblePixels(const ui::Rect& rect, int margin) {
+  const PixelRect pixels = pixelsOf(pixelTransform().apply(rect));
+  return PixelRect{pixels.left - margin, pixels.top - margin, pixels.right + margin,
+                   pixels.bottom + margin}
+      .cutTo(clipExtents());
+}
+
 void CairoCanvas::clip(const ui::Shape& shape) {
   noteClip(shape);
   cairo_new_path(context());
@@ -168,8 +176,7 @@ RowColors CairoCanvas::colorsOf(const ui::Paint& paint, int top, int bottom) {
 }
 
 Mask CairoCanvas::coveredRows(const ui::Shape& shape, double lineWidth, const PixelRect& rows) {
-  Mask mask{SurfacePointer(cairo_image_surface_create(CAIRO_FORMAT_A8, rows.right - rows.left,
-                                                      rows.bottom - rows.top)),
+  Mask mask{imageSurface(rows.right - rows.left, rows.bottom - rows.top, CAIRO_FORMAT_A8),
             rows.left, rows.top};
   const ContextPointer drawing(cairo_create(mask.surface.get()));
   const auto place = [&](const ui::Transform& pixels) {

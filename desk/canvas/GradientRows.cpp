@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desk/canvas/ImageSurface.hpp"
+
 namespace orvane::desk {
 
 PatternPointer gradientOf(const ui::Paint& paint) {
@@ -43,7 +45,7 @@ bool runsDown(const ui::Paint& paint) {
 
 SurfacePointer gradientRows(const ui::Paint& paint, const cairo_matrix_t& matrix, int top,
                             int height) {
-  SurfacePointer strip(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1, height));
+  SurfacePointer strip = imageSurface(1, height);
   const ContextPointer drawing(cairo_create(strip.get()));
   cairo_translate(drawing.get(), 0, -top);
   cairo_transform(drawing.get(), &matrix);

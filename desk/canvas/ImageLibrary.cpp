@@ -6,6 +6,7 @@
 
 #include <librsvg/rsvg.h>
 
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PngFile.hpp"
 
 namespace orvane::desk {
@@ -15,15 +16,11 @@ constexpr std::uint8_t pngSignature[] = {0x89, 'P', 'N', 'G'};
 // An animated scale produces many sizes, of which only some are cached.
 constexpr std::size_t mostPrepared = 64;
 
-SurfacePointer makePixels(int width, int height) {
-  return SurfacePointer(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-}
-
 /// Halves width and height; every pixel is the mean of four.
 SurfacePointer halved(cairo_surface_t* source) {
   const int width = std::max(1, cairo_image_surface_get_width(source) / 2);
   const int height = std::max(1, cairo_image_surface_get_height(source) / 2);
-  SurfacePointer result = makePixels(width, height);
+  SurfacePointer result = imageSurface(width, height);
   const ContextPointer context(cairo_create(result.get()));
   cairo_scale(context.get(), 0.5, 0.5);
   cairo_set_source_surface(context.get(), source, 0, 0);
@@ -94,7 +91,7 @@ cairo_surface_t* ImageLibrary::pixelsFor(const std::string& name, Picture& pictu
   }
   SurfacePointer made;
   if (picture.drawing) {
-    made = makePixels(wanted.first, wanted.second);
+    made = imageSurface(wanted.first, wanted.second);
     const ContextPointer context(cairo_create(made.get()));
     // A drawing is stretched like any image.
     cairo_scale(context.get(), wanted.first / picture.size.width,

@@ -16,13 +16,6 @@ namespace {
 constexpr double widestLine = 1.0e6;
 constexpr std::size_t mostAnswers = 4096;
 
-std::string withoutTrailingBlanks(std::string line) {
-  while (!line.empty() && line.back() == ' ') {
-    line.pop_back();
-  }
-  return line;
-}
-
 /// The byte offsets between the characters of a text, from 0 to its length.
 std::vector<std::size_t> characterOffsets(const TextShaper& shaper, const std::string& text,
                                           const ui::Font& font) {
@@ -108,7 +101,7 @@ void PangoTextMeasurer::breakParagraph(const std::string& paragraph, const ui::F
     }
     const auto length = static_cast<std::size_t>(pango_layout_line_get_length(line));
     const std::string part = paragraph.substr(start, length);
-    addLine(index + 1 < count ? withoutTrailingBlanks(part) : part, font, layout);
+    addLine(index + 1 < count ? ui::withoutTrailingBlanks(part) : part, font, layout);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "desk/canvas/Blur.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 
 namespace orvane::desk {
 
@@ -38,7 +39,7 @@ Mask makeShadowMask(const ui::Shape& shape, double sigma) {
   mask.y = static_cast<int>(std::floor(shape.rect.y)) - reach;
   const int width = static_cast<int>(std::ceil(shape.rect.right())) + reach - mask.x;
   const int height = static_cast<int>(std::ceil(shape.rect.bottom())) + reach - mask.y;
-  mask.surface.reset(cairo_image_surface_create(CAIRO_FORMAT_A8, width, height));
+  mask.surface = imageSurface(width, height, CAIRO_FORMAT_A8);
   const ContextPointer context(cairo_create(mask.surface.get()));
   cairo_translate(context.get(), -mask.x, -mask.y);
   appendShape(context.get(), shape);
@@ -59,13 +60,8 @@ void cutOut(Mask& mask, const ui::Shape& shape) {
 }
 
 SurfacePointer coverageOf(cairo_surface_t* picture, int x, int y) {
-  SurfacePointer alpha(cairo_image_surface_create(CAIRO_FORMAT_A8,
-                                                  cairo_image_surface_get_width(picture),
-                                                  cairo_image_surface_get_height(picture)));
-  const ContextPointer copy(cairo_create(alpha.get()));
-  cairo_set_source_surface(copy.get(), picture, -x, -y);
-  cairo_paint(copy.get());
-  return alpha;
+  return partOf(picture, x, y, cairo_image_surface_get_width(picture),
+                cairo_image_surface_get_height(picture), CAIRO_FORMAT_A8);
 }
 
 }  // namespace orvane::desk

@@ -8,6 +8,7 @@
 
 #include <librsvg/rsvg.h>
 
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/SymbolArtwork.hpp"
 
 namespace orvane::desk {
@@ -71,7 +72,7 @@ int floorDivided(int value, int divisor) {
 /// The alpha of a picture; every pixel is the mean of its samples.
 SurfacePointer reducedAlpha(cairo_surface_t* picture, int width, int height) {
   cairo_surface_flush(picture);
-  SurfacePointer result(cairo_image_surface_create(CAIRO_FORMAT_A8, width, height));
+  SurfacePointer result = imageSurface(width, height, CAIRO_FORMAT_A8);
   const unsigned char* fine = cairo_image_surface_get_data(picture);
   const int fineStride = cairo_image_surface_get_stride(picture);
   unsigned char* target = cairo_image_surface_get_data(result.get());
@@ -152,8 +153,7 @@ Mask SymbolLibrary::makeMask(const std::string& name, const ui::Font& font,
   const int pixelWidth = static_cast<int>(std::ceil(width)) + 1;
   const int pixelHeight = static_cast<int>(std::ceil(height)) + 1;
   // Masked shapes need a surface with colours.
-  const SurfacePointer picture(cairo_image_surface_create(
-      CAIRO_FORMAT_ARGB32, pixelWidth * finePixels, pixelHeight * finePixels));
+  const SurfacePointer picture = imageSurface(pixelWidth * finePixels, pixelHeight * finePixels);
   const ContextPointer context(cairo_create(picture.get()));
   const RsvgRectangle viewport{static_cast<double>(left - mask.x * finePixels),
                                static_cast<double>(top - mask.y * finePixels), width * finePixels,

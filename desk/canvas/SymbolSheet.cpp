@@ -5,6 +5,7 @@
 #include <string>
 
 #include "desk/canvas/CairoCanvas.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PinnedFonts.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "desk/canvas/SymbolArtwork.hpp"
@@ -65,9 +66,7 @@ bool drawSheet(const Sheet& sheet, const std::filesystem::path& folder) {
   const int rowCount = (static_cast<int>(artworks.size()) + columnCount - 1) / columnCount;
   const double width = columnWidth * columnCount + 20;
   const double height = rowHeight * rowCount + 20;
-  const desk::SurfacePointer surface(
-      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(width) * sheet.scale,
-                                 static_cast<int>(height) * sheet.scale));
+  const desk::SurfacePointer surface = desk::imageSurface({width, height}, sheet.scale);
   desk::DrawingResources resources;
   desk::CairoCanvas canvas(surface.get(), sheet.scale, resources);
   const double gray = (sheet.isDark ? 50.0 : 236.0) / 255.0;

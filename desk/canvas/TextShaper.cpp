@@ -8,6 +8,7 @@
 
 #include <pango/pangocairo.h>
 
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PinnedFonts.hpp"
 
 namespace orvane::desk {
@@ -177,7 +178,7 @@ Mask TextShaper::makeMask(const std::string& line, const ui::Font& font,
   const double bottom = placement.phaseY + points(ink.y + ink.height) * placement.scaleY;
   const int width = static_cast<int>(std::ceil(right)) + 1 - mask.x;
   const int height = static_cast<int>(std::ceil(bottom)) + 1 - mask.y;
-  mask.surface.reset(cairo_image_surface_create(CAIRO_FORMAT_A8, width, height));
+  mask.surface = imageSurface(width, height, CAIRO_FORMAT_A8);
   const ContextPointer context(cairo_create(mask.surface.get()));
   cairo_translate(context.get(), placement.phaseX - mask.x, placement.phaseY - mask.y);
   cairo_scale(context.get(), placement.scaleX, placement.scaleY);

@@ -18,7 +18,7 @@ constexpr std::int64_t guideSuccess = 4 * Clock::nanosecondsPerSecond;
 const ui::SemanticsNode* findLabel(const ui::SemanticsNode& tree, const std::string& label,
                                    bool mustBeControl) {
   for (const ui::SemanticsNode* const element : elementsOf(tree)) {
-    if (element->label == label && (element->isControl() || !mustBeControl)) {
+    if (element->label == label && (element->isControl || !mustBeControl)) {
       return element;
     }
   }

@@ -41,17 +41,23 @@ template <typename Predicate>
   return std::nullopt;
 }
 
+/// The first element with that label; none when there is none.
+[[nodiscard]] inline std::optional<ui::SemanticsNode> findLabel(const ui::SemanticsNode& root,
+                                                                std::string_view label) {
+  return findElement(root, [label](const ui::SemanticsNode& node) { return node.label == label; });
+}
+
 /// The first control with that label, enabled or not; none when there is none.
 [[nodiscard]] inline std::optional<ui::SemanticsNode> findControl(const ui::SemanticsNode& root,
                                                                   std::string_view label) {
   return findElement(root, [label](const ui::SemanticsNode& node) {
-    return node.isControl() && node.label == label;
+    return node.isControl && node.label == label;
   });
 }
 
 /// All controls, enabled or not.
 [[nodiscard]] inline std::vector<ui::SemanticsNode> findControls(const ui::SemanticsNode& root) {
-  return findElements(root, [](const ui::SemanticsNode& node) { return node.isControl(); });
+  return findElements(root, [](const ui::SemanticsNode& node) { return node.isControl; });
 }
 
 }  // namespace orvane::desk

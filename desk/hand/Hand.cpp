@@ -5,15 +5,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "desk/hand/InQuotes.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
 
 namespace {
-
-std::string inQuotes(const std::string& text) {
-  return "\"" + text + "\"";
-}
 
 Surfaces surfaces() {
   return Surfaces(WindowServer::current());

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "desk/hand/Hand.hpp"
+#include "desk/hand/InQuotes.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk {
@@ -57,7 +58,7 @@ Hand::Refusal Hand::dragWindow(const std::string& surface, double dx, double dy)
                server.windowAt(point).get() == &window;
       });
   if (!place) {
-    return "\"" + surface + "\" has no background to drag it by";
+    return inQuotes(surface) + " has no background to drag it by";
   }
   machine_.mouse.moveTo(*place);
   pressButton();
@@ -66,7 +67,7 @@ Hand::Refusal Hand::dragWindow(const std::string& surface, double dx, double dy)
   const CGPoint after = window.frame.origin;
   releaseButton();
   const bool isStill = before.x == after.x && before.y == after.y;
-  return (dx != 0 || dy != 0) && isStill ? Refusal("\"" + surface + "\" did not move")
+  return (dx != 0 || dy != 0) && isStill ? Refusal(inQuotes(surface) + " did not move")
                                          : std::nullopt;
 }
 

@@ -1,6 +1,7 @@
 // Display is one attached display.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -27,6 +28,12 @@ struct Display {
   /// Assigned by Displays on attachment and never reused: identifies the display even when its
   /// number changes.
   std::uint64_t identity = 0;
+
+  /// In points, such as "1440 × 900".
+  [[nodiscard]] std::string sizeText() const {
+    return std::to_string(std::lround(frame.size.width)) + " × " +
+           std::to_string(std::lround(frame.size.height));
+  }
 };
 
 }  // namespace orvane::desk

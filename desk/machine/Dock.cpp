@@ -12,6 +12,21 @@ namespace {
 /// The fraction of the edge that the drawn Dock covers.
 constexpr double drawnFraction = 0.6;
 
+/// The part of a display's frame at an edge, in global coordinates.
+CGRect stripAt(DockEdge edge, const CGRect& frame, double depth) {
+  switch (edge) {
+    case DockEdge::bottom:
+      return CGRectMake(frame.origin.x, frame.origin.y + frame.size.height - depth,
+                        frame.size.width, depth);
+    case DockEdge::left:
+      return CGRectMake(frame.origin.x, frame.origin.y, depth, frame.size.height);
+    case DockEdge::right:
+      return CGRectMake(frame.origin.x + frame.size.width - depth, frame.origin.y, depth,
+                        frame.size.height);
+  }
+  return frame;
+}
+
 bool isBetween(double value, double low, double high) {
   return value >= low && value < high;
 }
@@ -119,20 +134,8 @@ bool Dock::isInArea(CGPoint place) const {
     return false;
   }
   const CGRect& frame = displays_.globalFrames()[*index];
-  const double right = frame.origin.x + frame.size.width;
-  const double bottom = frame.origin.y + frame.size.height;
-  if (!isBetween(place.x, frame.origin.x, right) || !isBetween(place.y, frame.origin.y, bottom)) {
-    return false;
-  }
-  switch (edge_) {
-    case DockEdge::bottom:
-      return place.y >= bottom - depth;
-    case DockEdge::left:
-      return place.x < frame.origin.x + depth;
-    case DockEdge::right:
-      return place.x >= right - depth;
-  }
-  return false;
+  return CGRectContainsPoint(frame, place) &&
+         CGRectContainsPoint(stripAt(edge_, frame, depth), place);
 }
 
 void Dock::countReveal() {
@@ -170,20 +173,13 @@ CGRect Dock::frame() const {
   if (!index) {
     return {};
   }
-  const CGRect& frame = displays_.globalFrames()[*index];
-  const double width = frame.size.width * drawnFraction;
-  const double height = frame.size.height * drawnFraction;
-  const double x = frame.origin.x + (frame.size.width - width) / 2;
-  const double y = frame.origin.y + (frame.size.height - height) / 2;
-  switch (edge_) {
-    case DockEdge::bottom:
-      return CGRectMake(x, frame.origin.y + frame.size.height - depth, width, depth);
-    case DockEdge::left:
-      return CGRectMake(frame.origin.x, y, depth, height);
-    case DockEdge::right:
-      return CGRectMake(frame.origin.x + frame.size.width - depth, y, depth, height);
-  }
-  return {};
+  CGRect frame = stripAt(edge_, displays_.globalFrames()[*index], depth);
+  double& start = edge_ == DockEdge::bottom ? frame.origin.x : frame.origin.y;
+  double& length = edge_ == DockEdge::bottom ? frame.size.width : frame.size.height;
+  const double drawn = length * drawnFraction;
+  start += (length - drawn) / 2;
+  length = drawn;
+  return frame;
 }
 
 double Dock::shownFraction() const {

@@ -11,11 +11,17 @@ MachineScope::~MachineScope() {
   }
 }
 
-MachineEnd MachineScope::end() {
+std::vector<std::string> MachineScope::end() {
   machine_->process.end();
-  MachineEnd result{machine_->objects.liveDescriptions(), machine_->faults.take()};
+  std::vector<std::string> problems;
+  for (const std::string& object : machine_->objects.liveDescriptions()) {
+    problems.push_back("not released: " + object);
+  }
+  for (const std::string& fault : machine_->faults.take()) {
+    problems.push_back("fault: " + fault);
+  }
   machine_.reset();
-  return result;
+  return problems;
 }
 
 }  // namespace orvane::desk

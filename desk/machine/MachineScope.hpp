@@ -9,15 +9,6 @@
 
 namespace orvane::desk {
 
-/// What was found wrong when a machine was switched off.
-struct MachineEnd {
-  /// Leaked Core Foundation objects, one line each.
-  std::vector<std::string> leakedObjects;
-  std::vector<std::string> faults;
-
-  [[nodiscard]] bool isClean() const { return leakedObjects.empty() && faults.empty(); }
-};
-
 /// Only one at a time.
 class MachineScope {
  public:
@@ -30,8 +21,9 @@ class MachineScope {
   [[nodiscard]] Machine& machine() const { return *machine_; }
   Machine* operator->() const { return machine_.get(); }
 
-  /// Ends the process, if one is running, and the machine, and returns what was found wrong.
-  MachineEnd end();
+  /// Ends the process, if one is running, and the machine. Returns the leaked Core Foundation
+  /// objects and the faults, one line each.
+  std::vector<std::string> end();
 
  private:
   std::unique_ptr<Machine> machine_;

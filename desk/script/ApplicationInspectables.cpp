@@ -50,8 +50,8 @@ double secondsSinceLaunch(CFAbsoluteTime moment, std::int64_t launchedAtNanoseco
 }
 
 /// As the application would list them now, whether it is running or not.
-Problem lookAtDisplays(ScriptContext&, const std::string&, Json& shown) {
-  shown = Json::array();
+Json displaysOfGuard() {
+  Json shown = Json::array();
   for (const DisplaySnapshot& display : DockMouseGuard::displays()) {
     shown.push_back(Json{{"id", display.id},
                          {"matchingIdentifiers", display.matchingIdentifiers},
@@ -61,34 +61,33 @@ Problem lookAtDisplays(ScriptContext&, const std::string&, Json& shown) {
                          {"isMain", display.isMain},
                          {"isBuiltIn", display.isBuiltIn}});
   }
-  return std::nullopt;
+  return shown;
 }
 
 /// While the application is not running, the state of a new guard.
-Problem lookAtGuard(ScriptContext& context, const std::string&, Json& shown) {
+Json guardOf(const ScriptContext& context) {
   const GuardSnapshot guard = context.application().snapshot().guard;
   const EventTaps& taps = context.machine().eventTaps;
-  shown = {{"running", guard.isRunning},
-           {"zones", zones(guard)},
-           {"blockedCount", guard.blockedCount},
-           {"isTemporarilyUnlocked", guard.isTemporarilyUnlocked},
-           {"blocksAllDisplays", guard.blocksAllDisplays},
-           {"lockedDisplayIdentifier", guard.lockedDisplayIdentifier},
-           {"overrideModifier", guard.overrideModifier.rawValue()},
-           {"observing", guard.isObservingScreens},
-           {"taps", taps.aliveCount()},
-           {"tapEnabled", taps.isAnyEnabled()}};
-  return std::nullopt;
+  return {{"running", guard.isRunning},
+          {"zones", zones(guard)},
+          {"blockedCount", guard.blockedCount},
+          {"isTemporarilyUnlocked", guard.isTemporarilyUnlocked},
+          {"blocksAllDisplays", guard.blocksAllDisplays},
+          {"lockedDisplayIdentifier", guard.lockedDisplayIdentifier},
+          {"overrideModifier", guard.overrideModifier.rawValue()},
+          {"observing", guard.isObservingScreens},
+          {"taps", taps.aliveCount()},
+          {"tapEnabled", taps.isAnyEnabled()}};
 }
 
-Problem lookAtMessages(ScriptContext& context, const std::string&, Json& shown) {
+Json messagesOf(const ScriptContext& context) {
   constexpr std::int64_t mediaStart = Clock::mediaSecondsAtStart * Clock::nanosecondsPerSecond;
-  shown = Json::array();
+  Json shown = Json::array();
   for (const GuardMessage& message : context.application().messages()) {
     shown.push_back(
         Json{{"at", jsonSeconds(message.atNanoseconds + mediaStart)}, {"text", message.text}});
   }
-  return std::nullopt;
+  return shown;
 }
 
 Problem lookAtModel(ScriptContext& context, const std::string&, Json& shown) {
@@ -113,11 +112,10 @@ Problem lookAtModel(ScriptContext& context, const std::string&, Json& shown) {
   return std::nullopt;
 }
 
-Problem lookAtGuide(ScriptContext& context, const std::string&, Json& shown) {
+Json guideOf(const ScriptContext& context) {
   const auto guide = context.application().snapshot().guide;
-  shown = {
+  return {
       {"state", nameOf(guide.state)}, {"visible", guide.isVisible}, {"polling", guide.isPolling}};
-  return std::nullopt;
 }
 
 }  // namespace
@@ -141,10 +139,10 @@ const char* nameOf(OrvaneStatus status) {
 }
 
 void addApplicationInspectables(InspectableTable& table) {
-  table.add({.name = "displays", .look = lookAtDisplays});
-  table.add({.name = "guard", .look = lookAtGuard});
-  table.add({.name = "guide", .look = lookAtGuide});
-  table.add({.name = "messages", .look = lookAtMessages});
+  table.add("displays", displaysOfGuard);
+  table.add("guard", guardOf);
+  table.add("guide", guideOf);
+  table.add("messages", messagesOf);
   table.add({.name = "model", .look = lookAtModel});
 }
 

@@ -7,14 +7,15 @@
 #include <limits>
 #include <utility>
 
+#include "desk/hand/InQuotes.hpp"
 #include "desk/script/Decimal.hpp"
 
 namespace orvane::desk::script {
 
 namespace {
 
-/// Long text is cut.
-std::string inQuotes(std::string_view text) {
+/// In quotes; long text is cut.
+std::string excerpt(std::string_view text) {
   constexpr std::size_t shownBytes = 60;
   std::string shown(text);
   if (text.size() > shownBytes) {
@@ -25,7 +26,7 @@ std::string inQuotes(std::string_view text) {
     }
     shown = std::string(text.substr(0, end)) + "...";
   }
-  return "\"" + shown + "\"";
+  return inQuotes(shown);
 }
 
 std::string joined(std::span<const std::string_view> choices) {
@@ -74,7 +75,7 @@ double Arguments::number(std::string_view what) {
 double Arguments::checkedNumber(std::string_view what, std::string_view text) {
   const std::optional<double> value = parseDecimal(text);
   if (!value) {
-    report(std::string(what) + " must be a decimal number, not " + inQuotes(text));
+    report(std::string(what) + " must be a decimal number, not " + excerpt(text));
   }
   return value.value_or(0);
 }
@@ -87,7 +88,7 @@ double Arguments::coordinate(std::string_view what) {
 double Arguments::checkedCoordinate(std::string_view what, std::string_view text) {
   const double value = checkedNumber(what, text);
   if (std::abs(value) > coordinateLimit) {
-    report(std::string(what) + " is too large: " + inQuotes(text));
+    report(std::string(what) + " is too large: " + excerpt(text));
   }
   return value;
 }
@@ -109,7 +110,7 @@ std::int64_t Arguments::checkedInteger(std::string_view what, std::string_view t
     return *value;
   }
   report(std::string(what) + " must be a whole number from " + std::to_string(lowest) + " to " +
-         std::to_string(highest) + ", not " + inQuotes(text));
+         std::to_string(highest) + ", not " + excerpt(text));
   return lowest;
 }
 
@@ -119,13 +120,13 @@ std::int64_t Arguments::nanoseconds(std::string_view what, std::int64_t highest)
     return 0;
   }
   if (!parseDecimal(word->text)) {
-    report(std::string(what) + " must be a decimal number of seconds, not " + inQuotes(word->text));
+    report(std::string(what) + " must be a decimal number of seconds, not " + excerpt(word->text));
     return 0;
   }
   const std::optional<std::int64_t> value = parseNanoseconds(word->text);
   if (!value || *value < 0 || *value > highest) {
     report(std::string(what) + " must be from 0 to " + secondsText(highest) + " seconds, not " +
-           inQuotes(word->text));
+           excerpt(word->text));
     return 0;
   }
   return *value;
@@ -140,7 +141,7 @@ std::array<double, 4> Arguments::parseRectangle(std::string_view what, std::stri
   const std::vector<std::string> parts = splitAtCommas(text);
   std::array<double, 4> numbers{};
   if (parts.size() != numbers.size()) {
-    report(std::string(what) + " must be X,Y,W,H, not " + inQuotes(text));
+    report(std::string(what) + " must be X,Y,W,H, not " + excerpt(text));
     return numbers;
   }
   std::ranges::transform(parts, numbers.begin(),
@@ -156,7 +157,7 @@ std::size_t Arguments::choice(std::string_view what, std::span<const std::string
   const auto found = std::ranges::find(choices, word->text);
   if (found == choices.end()) {
     report(std::string(what) + " must be one of " + joined(choices) + ", not " +
-           inQuotes(word->text));
+           excerpt(word->text));
     return 0;
   }
   return static_cast<std::size_t>(std::distance(choices.begin(), found));
@@ -241,7 +242,7 @@ void Arguments::report(std::string problem) {
 
 Problem Arguments::finish() {
   if (const std::optional<std::size_t> place = next()) {
-    report("unexpected " + inQuotes(words_[*place].text));
+    report("unexpected " + excerpt(words_[*place].text));
   }
   return problem_;
 }

@@ -1,6 +1,7 @@
 // The commands of the script language, by name.
 #include "desk/script/CommandTable.hpp"
 
+#include "desk/hand/InQuotes.hpp"
 #include "desk/script/Commands.hpp"
 
 namespace orvane::desk::script {
@@ -24,7 +25,7 @@ CommandTable::Found CommandTable::find(std::span<const Word> words) const {
   }
   const std::string family = familyOf(first);
   if (family.empty()) {
-    return {nullptr, 0, "unknown command \"" + first + "\""};
+    return {nullptr, 0, "unknown command " + inQuotes(first)};
   }
   if (words.size() == 1) {
     return {nullptr, 0, first + " must be followed by one of " + family};

@@ -5,6 +5,8 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 
 #include <nlohmann/json_fwd.hpp>
 
@@ -35,6 +37,23 @@ class InspectableTable {
  public:
   /// Replaces an inspectable with the same name.
   void add(Inspectable inspectable);
+  /// Adds one without a parameter whose state can always be read. `snapshot` takes the machine, the
+  /// context or nothing, and returns JSON.
+  template <typename Snapshot>
+  void add(std::string name, Snapshot snapshot, std::string countingMember = {}) {
+    add({.name = std::move(name),
+         .look = [snapshot](ScriptContext& context, const std::string&, Json& shown) -> Problem {
+           if constexpr (std::is_invocable_v<Snapshot>) {
+             shown = snapshot();
+           } else if constexpr (std::is_invocable_v<Snapshot, Machine&>) {
+             shown = snapshot(context.machine());
+           } else {
+             shown = snapshot(context);
+           }
+           return std::nullopt;
+         },
+         .countingMember = std::move(countingMember)});
+  }
   /// Null when there is none with this name.
   [[nodiscard]] const Inspectable* find(std::string_view name) const;
   /// All names, separated by commas.

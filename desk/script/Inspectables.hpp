@@ -9,6 +9,11 @@ namespace orvane::desk::script {
 /// The status in the script language, such as "locked".
 [[nodiscard]] const char* nameOf(OrvaneStatus status);
 
+/// The status item's menu: whether it is open, and its rows, even while it is closed.
+[[nodiscard]] Json statusMenuSnapshot();
+[[nodiscard]] Json dockOf(const Machine& machine);
+[[nodiscard]] Json pointerOf(const Machine& machine);
+
 /// The machine itself.
 void addMachineInspectables(InspectableTable& table);
 /// The application's snapshot.

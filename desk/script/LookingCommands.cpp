@@ -8,6 +8,7 @@
 
 #include "Orvane/geometry/OrvaneScreen.hpp"
 #include "Orvane/platform/appkit/Screen.hpp"
+#include "desk/hand/InQuotes.hpp"
 #include "desk/script/Commands.hpp"
 #include "desk/script/Expectation.hpp"
 #include "desk/script/InspectableTable.hpp"
@@ -61,7 +62,7 @@ Expected readExpected(ScriptContext& context, Arguments& arguments) {
   }
   std::optional<std::vector<std::string>> parts = parsePath(expected.path);
   if (!parts) {
-    arguments.report("\"" + expected.path + "\" is not a path");
+    arguments.report(inQuotes(expected.path) + " is not a path");
     return expected;
   }
   expected.look.inspectable = findInspectable(context, parts->front(), arguments);

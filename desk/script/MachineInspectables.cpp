@@ -16,26 +16,6 @@ Json numberOrNull(const std::optional<std::uint32_t>& number) {
   return number ? Json(*number) : Json(nullptr);
 }
 
-Json dockOf(const Machine& machine) {
-  Json reveals = Json::object();
-  for (const auto& [number, count] : machine.dock.reveals()) {
-    reveals[std::to_string(number)] = count;
-  }
-  return {{"edge", nameOf(machine.dock.edge())},
-          {"autohide", machine.dock.autoHides()},
-          {"display", numberOrNull(machine.dock.displayNumber())},
-          {"visible", machine.dock.isVisible()},
-          {"reveals", reveals}};
-}
-
-Json pointerOf(const Machine& machine) {
-  const CGPoint place = machine.pointer.location();
-  const std::optional<std::size_t> index = machine.pointer.displayIndex();
-  return {{"x", place.x},
-          {"y", place.y},
-          {"display", index ? Json(machine.displays.all()[*index].number) : Json(nullptr)}};
-}
-
 Json openedOf(const Machine& machine) {
   Json list = Json::array();
   for (const Links::Opened& link : machine.links.opened()) {
@@ -78,23 +58,36 @@ Json countersOf(const Machine& machine) {
           {"liveObjects", machine.objects.liveCount()}};
 }
 
-Inspectable::Look lookAt(Json (*snapshot)(const Machine&)) {
-  return [snapshot](ScriptContext& context, const std::string&, Json& shown) -> Problem {
-    shown = snapshot(context.machine());
-    return std::nullopt;
-  };
-}
-
 }  // namespace
 
+Json dockOf(const Machine& machine) {
+  Json reveals = Json::object();
+  for (const auto& [number, count] : machine.dock.reveals()) {
+    reveals[std::to_string(number)] = count;
+  }
+  return {{"edge", nameOf(machine.dock.edge())},
+          {"autohide", machine.dock.autoHides()},
+          {"display", numberOrNull(machine.dock.displayNumber())},
+          {"visible", machine.dock.isVisible()},
+          {"reveals", reveals}};
+}
+
+Json pointerOf(const Machine& machine) {
+  const CGPoint place = machine.pointer.location();
+  const std::optional<std::size_t> index = machine.pointer.displayIndex();
+  return {{"x", place.x},
+          {"y", place.y},
+          {"display", index ? Json(machine.displays.all()[*index].number) : Json(nullptr)}};
+}
+
 void addMachineInspectables(InspectableTable& table) {
-  table.add({.name = "dock", .look = lookAt(dockOf), .countingMember = "reveals"});
-  table.add({.name = "pointer", .look = lookAt(pointerOf)});
-  table.add({.name = "opened", .look = lookAt(openedOf)});
-  table.add({.name = "clock", .look = lookAt(clockOf)});
-  table.add({.name = "defaults", .look = lookAt(defaultsOf)});
-  table.add({.name = "faults", .look = lookAt(faultsOf)});
-  table.add({.name = "counters", .look = lookAt(countersOf)});
+  table.add("dock", dockOf, "reveals");
+  table.add("pointer", pointerOf);
+  table.add("opened", openedOf);
+  table.add("clock", clockOf);
+  table.add("defaults", defaultsOf);
+  table.add("faults", faultsOf);
+  table.add("counters", countersOf);
 }
 
 }  // namespace orvane::desk::script

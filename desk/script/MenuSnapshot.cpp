@@ -1,19 +1,17 @@
 // Titles and states come from the semantics trees of the rows' views, symbols from their drawing.
-#include "desk/script/MenuSnapshot.hpp"
-
 #include <string>
 
 #include <nlohmann/json.hpp>
 
 #include "Orvane/ui/draw/InkProbe.hpp"
 #include "desk/hand/FindControl.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/windows/MenuMetrics.hpp"
+#include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk::script {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 /// Records the first symbol that is drawn.
 class SymbolProbe : public ui::InkProbe {
@@ -51,7 +49,7 @@ Json rowSnapshot(const appkit::MenuItem& item) {
     return shown;
   }
   const auto control =
-      findElement(tree, [](const ui::SemanticsNode& node) { return node.isControl(); });
+      findElement(tree, [](const ui::SemanticsNode& node) { return node.isControl; });
   shown["kind"] = "row";
   shown["title"] = control ? control->label : item.title;
   shown["symbol"] = probe.first.empty() ? Json(nullptr) : Json(probe.first);
@@ -65,7 +63,8 @@ Json rowSnapshot(const appkit::MenuItem& item) {
 
 }  // namespace
 
-Json statusMenuSnapshot(WindowServer& server) {
+Json statusMenuSnapshot() {
+  const WindowServer& server = WindowServer::current();
   Json shown;
   shown["open"] = server.menus.isStatusMenuOpen();
   shown["rows"] = Json::array();

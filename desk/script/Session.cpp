@@ -1,6 +1,8 @@
 // Session is the machine of a script, with the application.
 #include "desk/script/Session.hpp"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace orvane::desk::script {
@@ -24,13 +26,7 @@ void Session::end() {
   if (state_ == nullptr) {
     return;
   }
-  const MachineEnd machineEnd = state_->scope.end();
-  for (const std::string& object : machineEnd.leakedObjects) {
-    problems_.push_back("not released: " + object);
-  }
-  for (const std::string& fault : machineEnd.faults) {
-    problems_.push_back("fault: " + fault);
-  }
+  std::ranges::move(state_->scope.end(), std::back_inserter(problems_));
   state_.reset();
 }
 

@@ -3,9 +3,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "desk/hand/InQuotes.hpp"
 #include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
-#include "desk/script/MenuSnapshot.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -25,37 +25,35 @@ Json sizeOf(CGSize size) {
 
 Json windowSnapshot(const WindowServer& server, const DeskWindow& window) {
   const auto parent = window.parent.lock();
-  Json shown;
-  shown["surface"] = Surfaces::nameOf(window);
-  shown["class"] = window.className;
-  shown["title"] = window.title;
-  shown["frame"] = jsonRectangle(window.frame);
-  shown["styleMask"] = window.styleMask;
-  shown["level"] = window.level;
-  shown["collectionBehavior"] = window.collectionBehavior;
-  shown["visible"] = server.isVisible(window);
-  shown["key"] = server.focus.keyReceiver().get() == &window;
-  shown["miniaturised"] = window.isMiniaturized;
-  shown["parent"] = parent != nullptr ? Json(Surfaces::nameOf(*parent)) : Json(nullptr);
-  shown["opaque"] = window.isOpaque;
-  shown["hasShadow"] = window.hasShadow;
-  shown["movableByBackground"] = window.isMovableByBackground;
-  shown["minSize"] = sizeOf(window.minSize);
-  shown["maxSize"] = sizeOf(window.maxSize);
-  shown["cornerRadius"] = window.content != nullptr ? window.content->cornerRadius : 0;
-  shown["main"] = server.focus.mainWindow().get() == &window;
-  shown["modal"] = server.modal.isModal(window);
-  shown["panel"] = window.isPanel();
-  return shown;
+  return {{"surface", Surfaces::nameOf(window)},
+          {"class", window.className},
+          {"title", window.title},
+          {"frame", jsonRectangle(window.frame)},
+          {"styleMask", window.styleMask},
+          {"level", window.level},
+          {"collectionBehavior", window.collectionBehavior},
+          {"visible", server.isVisible(window)},
+          {"key", server.focus.keyReceiver().get() == &window},
+          {"miniaturised", window.isMiniaturized},
+          {"parent", parent != nullptr ? Json(Surfaces::nameOf(*parent)) : Json(nullptr)},
+          {"opaque", window.isOpaque},
+          {"hasShadow", window.hasShadow},
+          {"movableByBackground", window.isMovableByBackground},
+          {"minSize", sizeOf(window.minSize)},
+          {"maxSize", sizeOf(window.maxSize)},
+          {"cornerRadius", window.content != nullptr ? window.content->cornerRadius : 0},
+          {"main", server.focus.mainWindow().get() == &window},
+          {"modal", server.modal.isModal(window)},
+          {"panel", window.isPanel()}};
 }
 
-Problem lookAtWindows(ScriptContext&, const std::string&, Json& shown) {
-  shown = Json::array();
+Json windowsSnapshot() {
+  Json shown = Json::array();
   const WindowServer& server = WindowServer::current();
   for (const auto& window : server.windows()) {
     shown.push_back(windowSnapshot(server, *window));
   }
-  return std::nullopt;
+  return shown;
 }
 
 Json treeSnapshot(const ui::SemanticsNode& node) {
@@ -78,54 +76,47 @@ Json treeSnapshot(const ui::SemanticsNode& node) {
 Problem lookAtTree(ScriptContext&, const std::string& surface, Json& shown) {
   const auto tree = Surfaces(WindowServer::current()).tree(surface);
   if (!tree) {
-    return "there is no surface \"" + surface + "\"";
+    return "there is no surface " + inQuotes(surface);
   }
   shown = treeSnapshot(*tree);
   return std::nullopt;
 }
 
-Problem lookAtMenu(ScriptContext&, const std::string&, Json& shown) {
-  shown = statusMenuSnapshot(WindowServer::current());
-  return std::nullopt;
-}
-
-Problem lookAtIcon(ScriptContext&, const std::string&, Json& shown) {
+Json iconSnapshot() {
   const StatusBarItem* const item = WindowServer::current().statusBar.item();
   const SymbolImage* const image = item != nullptr ? item->image.get() : nullptr;
-  for (const char* const key :
-       {"symbol", "accessibilityDescription", "template", "size", "pointSize"}) {
-    shown[key] = nullptr;
+  if (image == nullptr) {
+    return {{"symbol", nullptr},
+            {"accessibilityDescription", nullptr},
+            {"template", nullptr},
+            {"size", nullptr},
+            {"pointSize", nullptr}};
   }
-  if (image != nullptr) {
-    shown["symbol"] = image->name;
-    shown["accessibilityDescription"] = image->accessibilityDescription;
-    shown["template"] = image->isTemplate;
-    shown["size"] = {image->size.width, image->size.height};
-    shown["pointSize"] = image->pointSize;
-  }
-  return std::nullopt;
+  return {{"symbol", image->name},
+          {"accessibilityDescription", image->accessibilityDescription},
+          {"template", image->isTemplate},
+          {"size", {image->size.width, image->size.height}},
+          {"pointSize", image->pointSize}};
 }
 
-Problem lookAtTooltip(ScriptContext&, const std::string&, Json& shown) {
+Json tooltipSnapshot() {
   const auto& tooltip = WindowServer::current().tooltips.shown();
-  shown["text"] = tooltip ? Json(tooltip->text) : Json(nullptr);
-  return std::nullopt;
+  return {{"text", tooltip ? Json(tooltip->text) : Json(nullptr)}};
 }
 
-Problem lookAtAnnouncements(ScriptContext&, const std::string&, Json& shown) {
-  shown = WindowServer::current().announcements;
-  return std::nullopt;
+Json announcementsSnapshot() {
+  return WindowServer::current().announcements;
 }
 
 }  // namespace
 
 void addWindowInspectables(InspectableTable& table) {
-  table.add({.name = "windows", .look = lookAtWindows});
+  table.add("windows", windowsSnapshot);
   table.add({.name = "tree", .parameter = "SURFACE", .look = lookAtTree});
-  table.add({.name = "menu", .look = lookAtMenu});
-  table.add({.name = "icon", .look = lookAtIcon});
-  table.add({.name = "announcements", .look = lookAtAnnouncements});
-  table.add({.name = "tooltip", .look = lookAtTooltip});
+  table.add("menu", statusMenuSnapshot);
+  table.add("icon", iconSnapshot);
+  table.add("announcements", announcementsSnapshot);
+  table.add("tooltip", tooltipSnapshot);
 }
 
 }  // namespace orvane::desk::script

@@ -31,11 +31,11 @@ CGRect globalRect(const ui::Rect& rect, CGPoint origin) {
 /// `window` is the intersection of the ancestor scroll areas.
 void collect(const ui::SemanticsNode& node, const std::shared_ptr<HostedView>& view, CGPoint origin,
              const ui::Rect& window, std::vector<SurfaceControl>& controls) {
-  if (node.isControl()) {
+  if (node.isControl) {
     controls.push_back({node, globalRect(node.frame, origin),
                         globalRect(node.frame.intersection(window), origin), [view, id = node.id] {
                           view->update();
-                          return view->host().perform(id, ui::SemanticsAction::press);
+                          return view->host().press(id);
                         }});
   }
   const bool scrolls = node.role == ui::Role::scrollArea;
@@ -65,7 +65,7 @@ ui::SemanticsNode plainNode(const MenuRow& row, const appkit::MenuItem& item) {
   node.isEnabled = item.isEnabled;
   node.frame = {row.frame.origin.x, row.frame.origin.y, row.frame.size.width,
                 row.frame.size.height};
-  node.actions = {ui::SemanticsAction::press};
+  node.isControl = true;
   return node;
 }
 

@@ -76,13 +76,6 @@ void paintPath(CGContextRef context, const ui::Paint& paint) {
       kCGGradientDrawsBeforeStartLocation | kCGGradientDrawsAfterEndLocation);
 }
 
-/// The blur fades to nothing within one and a half radii, three standard deviations.
-CGRect withShadow(CGRect bounds, const ui::PaintShadow& shadow) {
-  const double reach = shadow.radius * 1.5 + 1;
-  const CGRect cast = CGRectOffset(bounds, shadow.offset.x, shadow.offset.y);
-  return CGRectUnion(bounds, CGRectInset(cast, -reach, -reach));
-}
-
 void drawImage(CGContextRef context, NSImage* image, CGRect rect) {
   CGContextSaveGState(context);
   [NSGraphicsContext saveGraphicsState];
@@ -184,8 +177,7 @@ void QuartzCanvas::setShadow(const ui::PaintShadow& shadow) {
 
 void QuartzCanvas::beginLayer(const ui::Rect& bounds, double opacity,
                               const std::optional<ui::PaintShadow>& shadow) {
-  const CGRect content = rectFrom(bounds);
-  const CGRect extent = shadow ? withShadow(content, *shadow) : content;
+  const CGRect extent = rectFrom(shadow ? bounds.outset(shadow->reach()) : bounds);
   int layers = 0;
   CGContextSaveGState(context_);
   if (opacity < 1) {

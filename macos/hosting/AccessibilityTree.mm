@@ -81,8 +81,6 @@ NSAccessibilityRole roleFrom(ui::Role role) {
       return NSAccessibilityRadioButtonRole;
     case ui::Role::popUpButton:
       return NSAccessibilityPopUpButtonRole;
-    case ui::Role::link:
-      return NSAccessibilityLinkRole;
     case ui::Role::scrollArea:
       return NSAccessibilityScrollAreaRole;
   }
@@ -131,7 +129,7 @@ void describe(OrvaneAccessibilityElement* element, const ui::SemanticsNode& node
   element->_canBeFocused = node.isFocusable && node.isEnabled;
   element->_frameInView =
       NSMakeRect(node.frame.x, node.frame.y, node.frame.width, node.frame.height);
-  element->_canBePressed = node.isControl() && node.isEnabled;
+  element->_canBePressed = node.isControl && node.isEnabled;
 }
 
 }  // namespace

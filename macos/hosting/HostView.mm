@@ -407,7 +407,7 @@ ui::TextMeasurer& textMeasurer() {
 
 - (void)press:(std::uint64_t)identifier {
   [self update];
-  _host->perform(identifier, ui::SemanticsAction::press);
+  _host->press(identifier);
 }
 
 // The keyboard focus follows the VoiceOver cursor, if the user has set that.

@@ -3,7 +3,9 @@
 
 #include <cmath>
 
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PngFile.hpp"
+#include "desk/hand/InQuotes.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -24,23 +26,16 @@ std::optional<CGRect> frameOf(desk::WindowServer& server, const std::string& sur
                            : std::nullopt;
 }
 
-desk::SurfacePointer cropped(cairo_surface_t* whole, ui::Point corner, ui::Size size) {
-  desk::SurfacePointer part(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
-                                                       static_cast<int>(std::ceil(size.width)),
-                                                       static_cast<int>(std::ceil(size.height))));
-  const desk::ContextPointer context(cairo_create(part.get()));
-  cairo_set_source_surface(context.get(), whole, -std::round(corner.x), -std::round(corner.y));
-  cairo_paint(context.get());
-  return part;
-}
-
 /// The part of the whole desktop's picture that a frame in global coordinates covers.
 desk::SurfacePointer cropped(cairo_surface_t* whole, const desk::Displays& displays,
                              const CGRect& frame, double scale) {
   const DesktopLayout layout(displays.globalFrames(), DesktopStyle::exact, scale);
   const auto screen = displays.indexContaining({CGRectGetMidX(frame), CGRectGetMidY(frame)});
-  return cropped(whole, layout.pixel(screen.value_or(0), frame.origin),
-                 {frame.size.width * scale, frame.size.height * scale});
+  const ui::Point corner = layout.pixel(screen.value_or(0), frame.origin);
+  return desk::partOf(whole, static_cast<int>(std::round(corner.x)),
+                      static_cast<int>(std::round(corner.y)),
+                      static_cast<int>(std::ceil(frame.size.width * scale)),
+                      static_cast<int>(std::ceil(frame.size.height * scale)));
 }
 
 }  // namespace
@@ -56,8 +51,7 @@ desk::SurfacePointer renderDesktop(DesktopPainter& painter, const DesktopScene& 
     return nullptr;
   }
   const DesktopLayout layout(frames, style, scale);
-  desk::SurfacePointer surface(cairo_image_surface_create(
-      CAIRO_FORMAT_ARGB32, layout.pixels().width, layout.pixels().height));
+  desk::SurfacePointer surface = desk::imageSurface(layout.pixels().width, layout.pixels().height);
   painter.paint(surface.get(), layout, scene);
   return surface;
 }
@@ -71,7 +65,7 @@ std::optional<std::string> writePicture(const desk::Machine& machine,
     desk::WindowServer* const server = desk::WindowServer::of(machine);
     frame = server != nullptr ? frameOf(*server, *surface) : std::nullopt;
     if (!frame) {
-      return "there is no surface \"" + *surface + "\"";
+      return "there is no surface " + desk::inQuotes(*surface);
     }
   } else if (machine.displays.isEmpty()) {
     return "there is no display to make a picture of";

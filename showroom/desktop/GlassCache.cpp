@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "desk/canvas/Blur.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 
 namespace orvane::showroom {
 
@@ -24,16 +25,6 @@ bool areEqual(cairo_surface_t* first, cairo_surface_t* second) {
                      bytesOf(first)) == 0;
 }
 
-desk::SurfacePointer copyOf(cairo_surface_t* picture) {
-  desk::SurfacePointer copy(cairo_image_surface_create(cairo_image_surface_get_format(picture),
-                                                       cairo_image_surface_get_width(picture),
-                                                       cairo_image_surface_get_height(picture)));
-  std::memcpy(cairo_image_surface_get_data(copy.get()), cairo_image_surface_get_data(picture),
-              bytesOf(picture));
-  cairo_surface_mark_dirty(copy.get());
-  return copy;
-}
-
 }  // namespace
 
 cairo_surface_t* GlassCache::blurred(desk::SurfacePointer picture, double sigma) {
@@ -46,7 +37,9 @@ cairo_surface_t* GlassCache::blurred(desk::SurfacePointer picture, double sigma)
     return kept_.front().blurred.get();
   }
   ++blurCount_;
-  desk::SurfacePointer copy = copyOf(picture.get());
+  desk::SurfacePointer copy = desk::partOf(
+      picture.get(), 0, 0, cairo_image_surface_get_width(picture.get()),
+      cairo_image_surface_get_height(picture.get()), cairo_image_surface_get_format(picture.get()));
   desk::blurSurface(copy.get(), sigma, desk::BlurEdge::extended);
   const std::size_t bytes = 2 * bytesOf(picture.get());
   kept_.push_front({std::move(picture), sigma, std::move(copy), bytes});

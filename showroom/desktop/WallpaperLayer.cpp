@@ -1,6 +1,7 @@
 // Each wallpaper is drawn once per size and then copied.
 #include "showroom/desktop/WallpaperLayer.hpp"
 
+#include "desk/canvas/ImageSurface.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
 
 namespace orvane::showroom {
@@ -20,8 +21,8 @@ void WallpaperLayer::paint(const DesktopScene& scene, const DisplayCanvas& displ
     if (kept_.size() >= keptLimit) {
       kept_.clear();
     }
-    desk::SurfacePointer surface(cairo_image_surface_create(
-        CAIRO_FORMAT_RGB24, display.pixels.width, display.pixels.height));
+    desk::SurfacePointer surface =
+        desk::imageSurface(display.pixels.width, display.pixels.height, CAIRO_FORMAT_RGB24);
     const desk::ContextPointer context(cairo_create(surface.get()));
     paintWallpaper(context.get(), appearance.wallpaper, appearance.isDark, display.pixels.width,
                    display.pixels.height);

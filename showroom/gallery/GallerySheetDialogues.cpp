@@ -18,14 +18,15 @@ GallerySheet alertSheet() {
           .background = GallerySheet::Background::dialogue,
           .columns = 1,
           .items = {{"the alert", [](OrvaneLanguage) {
-                       return View(OrvaneAccessibilityPermissionAlertView{[] {}, [] {}});
+                       return View(OrvaneAccessibilityPermissionAlertView{.onOpenSettings = [] {},
+                                                                          .onCancel = [] {}});
                      }}}};
 }
 
 GallerySheet guideSheet() {
   const auto item = [](const std::string& caption, PermissionGuideState state) {
     return GalleryItem{caption, [state](OrvaneLanguage) {
-                         return View(OrvanePermissionGuideView{state, [] {}});
+                         return View(OrvanePermissionGuideView{.state = state, .onClose = [] {}});
                        }};
   };
   return {.name = "permission-guide",

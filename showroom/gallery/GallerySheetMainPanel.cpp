@@ -68,9 +68,10 @@ GallerySheet cardSheet() {
 
 GalleryItem pillItem(const std::string& caption, const std::string& english,
                      const std::string& chinese, bool isActive) {
-  return {caption, [=](OrvaneLanguage language) {
-            return View(StatusPill{language.localized(english, chinese), isActive});
-          }};
+  return {
+      caption, [=](OrvaneLanguage language) {
+        return View(StatusPill{.text = language.localized(english, chinese), .isActive = isActive});
+      }};
 }
 
 GallerySheet pillSheet() {
@@ -83,7 +84,8 @@ GallerySheet pillSheet() {
 }
 
 GalleryItem iconItem(const std::string& caption, const std::string& symbol, const Color& tint) {
-  return {caption, [=](OrvaneLanguage) { return View(PanelIcon{symbol, tint}); }};
+  return {caption,
+          [=](OrvaneLanguage) { return View(PanelIcon{.systemImage = symbol, .tint = tint}); }};
 }
 
 GallerySheet iconSheet() {
@@ -133,9 +135,10 @@ GallerySheet panelSheet() {
                                                 "Dock 固定在选中的显示器"))
                         .font(Font::system(13))
                         .foreground(Color::secondary())});
-    return View(DockPanel{ui::HStack(
-                    14, {PanelIcon{"lock", Color::accent()}, words.layoutPriority(1), ui::Spacer(),
-                         StatusPill{language.localized("Pinned", "已固定"), true}})})
+    return View(DockPanel{ui::HStack(14, {PanelIcon{.systemImage = "lock", .tint = Color::accent()},
+                                          words.layoutPriority(1), ui::Spacer(),
+                                          StatusPill{.text = language.localized("Pinned", "已固定"),
+                                                     .isActive = true}})})
         .width(560);
   };
   return {.name = "dock-panel",

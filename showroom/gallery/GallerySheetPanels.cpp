@@ -16,7 +16,9 @@ using Names = std::vector<std::string>;
 GalleryItem mainPanel(const std::string& caption, const PanelStage& stage) {
   return {.caption = caption, .stage = [stage] {
             return [model = stage.model()] {
-              return ui::View(ContentView{model.get(), {[] {}, [] {}, [] {}}});
+              return ui::View(ContentView{
+                  .model = model.get(),
+                  .actions = {.close = [] {}, .minimise = [] {}, .showSettings = [] {}}});
             };
           }};
 }
@@ -24,7 +26,7 @@ GalleryItem mainPanel(const std::string& caption, const PanelStage& stage) {
 GalleryItem settingsPanel(const std::string& caption, const PanelStage& stage) {
   return {.caption = caption, .stage = [stage] {
             return [model = stage.model()] {
-              return ui::View(OrvaneSettingsView{model.get(), [] {}});
+              return ui::View(OrvaneSettingsView{.model = model.get(), .onClose = [] {}});
             };
           }};
 }

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "Orvane/ui/draw/StandardColors.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/desktop/Glass.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
@@ -75,9 +76,7 @@ class SheetPainting {
 
   desk::SurfacePointer painted() {
     const ui::Size size = sheetSize();
-    desk::SurfacePointer surface(cairo_image_surface_create(
-        CAIRO_FORMAT_ARGB32, static_cast<int>(std::ceil(size.width * style_.scale)),
-        static_cast<int>(std::ceil(size.height * style_.scale))));
+    desk::SurfacePointer surface = desk::imageSurface(size, style_.scale);
     desk::CairoCanvas canvas(surface.get(), style_.scale, resources_);
     canvas.fill(ui::Shape::rectangle({0, 0, size.width, size.height}), paper());
     paintHead(canvas);

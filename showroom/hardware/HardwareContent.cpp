@@ -1,22 +1,15 @@
 // Reads the panel's values from the machine and the application.
 #include "showroom/hardware/HardwareContent.hpp"
 
-#include <cmath>
-
 namespace orvane::showroom {
 
 namespace {
-
-std::string sizeText(const CGRect& frame) {
-  return std::to_string(std::lround(frame.size.width)) + " × " +
-         std::to_string(std::lround(frame.size.height));
-}
 
 std::vector<HardwareDisplay> displaysOf(const desk::Machine& machine) {
   std::vector<HardwareDisplay> displays;
   const desk::Display* const main = machine.displays.main();
   for (const desk::Display& display : machine.displays.all()) {
-    displays.push_back({display.number, display.name, sizeText(display.frame),
+    displays.push_back({display.number, display.name, display.sizeText(),
                         main != nullptr && main->number == display.number});
   }
   return displays;

@@ -1,7 +1,6 @@
 // Each page shows the state of the simulated Mac.
 #include "showroom/settings/SettingsPages.hpp"
 
-#include <cmath>
 #include <string>
 #include <vector>
 
@@ -61,11 +60,6 @@ View caption(const std::string& text) {
   return Text(text).font(Font::headline()).padding(Edges{.leading = 2, .bottom = 8});
 }
 
-std::string sizeText(const CGRect& frame) {
-  return std::to_string(std::lround(frame.size.width)) + " × " +
-         std::to_string(std::lround(frame.size.height));
-}
-
 View makeGeneralPage(SystemSettings& settings) {
   const SystemLanguage language = settings.language();
   const bool isDark = settings.machine().appearance.isDark;
@@ -87,7 +81,7 @@ View makeDisplaysPage(SystemSettings& settings) {
     const std::string number = std::to_string(display.number);
     const std::string name =
         display.name.empty() ? language.text("Display ", "显示器 ") + number : display.name;
-    rows.push_back(pageRow(name, sizeText(display.frame)));
+    rows.push_back(pageRow(name, display.sizeText()));
   }
   if (rows.empty()) {
     rows.push_back(pageRow(language.text("No display is attached", "未连接显示器"), ""));

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <vector>
 
+#include "desk/canvas/ImageSurface.hpp"
 #include "showroom/desktop/DesktopLayout.hpp"
 
 namespace orvane::showroom {
@@ -42,8 +43,7 @@ void paintCaption(desk::CairoCanvas& canvas, desk::DrawingResources& resources,
 desk::SurfacePointer renderTourPicture(DesktopPainter& painter, desk::DrawingResources& resources,
                                        const DesktopScene& scene, const std::string& number,
                                        const std::string& caption) {
-  desk::SurfacePointer surface(
-      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, desktopHeight + captionHeight));
+  desk::SurfacePointer surface = desk::imageSurface(width, desktopHeight + captionHeight);
   const DesktopLayout layout =
       DesktopLayout::fitted(scene.machine.displays.globalFrames(), DesktopStyle::monitors,
                             {0, 0, width, desktopHeight}, 1);
@@ -61,8 +61,8 @@ desk::SurfacePointer renderCloseUp(DesktopPainter& painter, const DesktopScene& 
                                    const CGRect& area) {
   constexpr double scale = 2;
   const auto pixels = [](double points) { return static_cast<int>(std::lround(points * scale)); };
-  desk::SurfacePointer surface(cairo_image_surface_create(
-      CAIRO_FORMAT_RGB24, pixels(area.size.width), pixels(area.size.height)));
+  desk::SurfacePointer surface =
+      desk::imageSurface(pixels(area.size.width), pixels(area.size.height), CAIRO_FORMAT_RGB24);
   const std::vector<CGRect>& frames = scene.machine.displays.globalFrames();
   // The origin of the layout is the top left corner of all displays.
   double left = 0;

@@ -7,6 +7,7 @@
 
 #include "Orvane/base/Require.hpp"
 #include "desk/canvas/PngFile.hpp"
+#include "desk/hand/InQuotes.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/settings/SettingsPages.hpp"
@@ -194,7 +195,7 @@ void TourStage::writeCloseUp(const std::string& name, const std::string& surface
   if (surface != desk::Surfaces::menu) {
     frame = window != nullptr ? machine().displays.flipped(window->frame) : CGRect{};
   }
-  check(frame.size.width > 0, "there is a surface \"" + surface + "\"");
+  check(frame.size.width > 0, "there is a surface " + desk::inQuotes(surface));
   if (hasFailed()) {
     return;
   }

@@ -99,9 +99,4 @@ HardwareContent DeskSession::hardwareContent(bool isMouseHeld) const {
   return content;
 }
 
-std::uint32_t DeskSession::pointerDisplayNumber() const {
-  const auto index = machine().pointer.displayIndex();
-  return index ? machine().displays.all()[*index].number : 0;
-}
-
 }  // namespace orvane::showroom

@@ -47,9 +47,6 @@ class DeskSession {
   /// Nanoseconds until the picture changes without input; 0 during an animation.
   [[nodiscard]] std::int64_t nanosecondsToNextChange() const;
 
-  /// The number of the display under the pointer; 0 without a display.
-  [[nodiscard]] std::uint32_t pointerDisplayNumber() const;
-
  private:
   desk::MachineScope scope_;
   desk::ApplicationHost application_;

@@ -1,6 +1,7 @@
 // A thin layer over SDL, without decisions of its own.
 #include "showroom/window/SdlWindow.hpp"
 
+#include "desk/canvas/ImageSurface.hpp"
 namespace orvane::showroom {
 
 namespace {
@@ -69,7 +70,7 @@ bool SdlWindow::updateSize() {
   }
   pixelRatio_ = static_cast<double>(width) / pointWidth;
   picture_.reset();
-  surface_.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  surface_ = desk::imageSurface(width, height);
   // Both formats store a pixel as a 32-bit number with alpha at the top; the picture is opaque.
   picture_.reset(SDL_CreateRGBSurfaceWithFormatFrom(
       cairo_image_surface_get_data(surface_.get()), width, height, 32,

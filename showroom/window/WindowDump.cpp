@@ -3,6 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "desk/script/Inspectables.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -10,21 +11,7 @@ namespace orvane::showroom {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-Json dockOf(const desk::Machine& machine) {
-  Json reveals = Json::object();
-  for (const auto& [number, count] : machine.dock.reveals()) {
-    reveals[std::to_string(number)] = count;
-  }
-  const auto number = machine.dock.displayNumber();
-  return {{"edge", nameOf(machine.dock.edge())},
-          {"autohide", machine.dock.autoHides()},
-          {"display", number ? Json(*number) : Json(nullptr)},
-          {"visible", machine.dock.isVisible()},
-          {"shownFraction", machine.dock.shownFraction()},
-          {"reveals", reveals}};
-}
+using desk::script::Json;
 
 Json screensOf(const desk::Machine& machine, const DesktopLayout& layout) {
   Json screens = Json::array();
@@ -59,22 +46,19 @@ std::string windowDump(const DeskSession& session, const WindowLayout& layout,
                        const WindowFrames& frames) {
   const desk::Machine& machine = session.machine();
   const DesktopLayout desktop = layout.desktopLayout(machine.displays.globalFrames());
-  const CGPoint pointer = machine.pointer.location();
-  const Json dump{
-      {"dock", dockOf(machine)},
-      {"application", applicationOf(session)},
-      {"pointer",
-       {{"x", pointer.x}, {"y", pointer.y}, {"display", session.pointerDisplayNumber()}}},
-      {"events", machine.counters.hardwareMovements},
-      {"modifiers", static_cast<std::uint64_t>(machine.modifierKeys.flags())},
-      {"seconds", static_cast<double>(machine.clock.now()) / 1e9},
-      {"drawnFrames", frames.shownMilliseconds.size()},
-      {"framesPerSecond", frames.perSecond},
-      {"shownMilliseconds", frames.shownMilliseconds},
-      {"window",
-       {{"scale", desktop.scale()},
-        {"pixelRatio", layout.pixelRatio},
-        {"screens", screensOf(machine, desktop)}}}};
+  const Json dump{{"dock", desk::script::dockOf(machine)},
+                  {"application", applicationOf(session)},
+                  {"pointer", desk::script::pointerOf(machine)},
+                  {"events", machine.counters.hardwareMovements},
+                  {"modifiers", static_cast<std::uint64_t>(machine.modifierKeys.flags())},
+                  {"seconds", static_cast<double>(machine.clock.now()) / 1e9},
+                  {"drawnFrames", frames.shownMilliseconds.size()},
+                  {"framesPerSecond", frames.perSecond},
+                  {"shownMilliseconds", frames.shownMilliseconds},
+                  {"window",
+                   {{"scale", desktop.scale()},
+                    {"pixelRatio", layout.pixelRatio},
+                    {"screens", screensOf(machine, desktop)}}}};
   constexpr int indentation = 2;
   return dump.dump(indentation) + "\n";
 }

@@ -8,7 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Orvane/model/OrvaneSettings.hpp"
-#include "desk/script/MenuSnapshot.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/windows/Implementations.hpp"
 #include "tests/support/ApplicationFixture.hpp"
 #include "tests/support/TestDisplays.hpp"
@@ -50,8 +50,7 @@ class AppFixture : public ApplicationFixture {
         view.implementation()->update();
         ui::ViewHost& host = view.implementation()->host();
         const auto controls = desk::findControls(host.semantics());
-        const bool isDone =
-            !controls.empty() && host.perform(controls.front().id, ui::SemanticsAction::press);
+        const bool isDone = !controls.empty() && host.press(controls.front().id);
         machine.runDue();
         return isDone;
       }
@@ -75,7 +74,7 @@ class AppFixture : public ApplicationFixture {
   /// The menu as text, one line per row: its symbol, its title, its state.
   [[nodiscard]] std::string menuText() {
     std::string text;
-    const auto snapshot = desk::script::statusMenuSnapshot(server());
+    const auto snapshot = desk::script::statusMenuSnapshot();
     for (const auto& row : snapshot["rows"]) {
       text += rowText(row) + "\n";
     }
@@ -83,7 +82,7 @@ class AppFixture : public ApplicationFixture {
   }
   /// The line of one row.
   [[nodiscard]] std::string row(const std::string& title) {
-    const auto snapshot = desk::script::statusMenuSnapshot(server());
+    const auto snapshot = desk::script::statusMenuSnapshot();
     for (const auto& shown : snapshot["rows"]) {
       if (shown.value("title", "") == title) {
         return rowText(shown);

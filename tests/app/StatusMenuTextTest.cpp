@@ -77,7 +77,7 @@ TEST_P(StatusMenuTextTest, AllTitlesHaveOneSizeAndOnlyDisplayNamesAreTruncated) 
 
 TEST_P(StatusMenuTextTest, TheTooltipShowsTheFullNameAndClosesWithTheMenu) {
   beginWithOpenMenu();
-  const std::string title = desk::script::statusMenuSnapshot(server())["rows"][6]["title"];
+  const std::string title = desk::script::statusMenuSnapshot()["rows"][6]["title"];
   moveTo(middleOf(title));
   machine.advance(1);
   ASSERT_TRUE(server().tooltips.shown());

@@ -1,9 +1,7 @@
 // The application's images: every image that it names exists, in the right sizes, and equals its
 // drawing.
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <regex>
@@ -17,8 +15,10 @@
 
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/ImageArtwork.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "tests/support/BytesOf.hpp"
+#include "tests/support/KeptPicture.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -64,7 +64,7 @@ PixelSize sizeOf(cairo_surface_t* surface) {
 
 SurfacePointer drawn(const fs::path& drawing, PixelSize size) {
   const ObjectPointer<RsvgHandle> handle(rsvg_handle_new_from_file(drawing.c_str(), nullptr));
-  SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, size.width, size.height));
+  SurfacePointer surface = imageSurface(size.width, size.height);
   if (handle) {
     const ContextPointer context(cairo_create(surface.get()));
     const RsvgRectangle viewport{0, 0, 1.0 * size.width, 1.0 * size.height};
@@ -73,33 +73,15 @@ SurfacePointer drawn(const fs::path& drawing, PixelSize size) {
   return surface;
 }
 
-/// The greatest difference of a component, from 0 to 255; 256 for different sizes.
-int difference(cairo_surface_t* first, cairo_surface_t* second) {
-  if (!(sizeOf(first) == sizeOf(second))) {
-    return 256;
-  }
-  cairo_surface_flush(first);
-  cairo_surface_flush(second);
-  int greatest = 0;
-  const auto [width, height] = sizeOf(first);
-  for (int y = 0; y < height; ++y) {
-    const auto row = [y](cairo_surface_t* surface) {
-      return cairo_image_surface_get_data(surface) + y * cairo_image_surface_get_stride(surface);
-    };
-    for (int x = 0; x < 4 * width; ++x) {
-      greatest = std::max(greatest, std::abs(row(first)[x] - row(second)[x]));
-    }
-  }
-  return greatest;
-}
-
 /// Other versions of librsvg may round differently.
 constexpr int tolerance = 6;
 
 void expectDrawn(cairo_surface_t* picture, const std::string& drawing, PixelSize size) {
   ASSERT_NE(picture, nullptr) << drawing;
   EXPECT_EQ(sizeOf(picture), size) << drawing << " of " << size.width;
-  EXPECT_LE(difference(picture, drawn(resources / (drawing + ".svg"), size).get()), tolerance)
+  EXPECT_EQ(
+      pictureDifference(picture, drawn(resources / (drawing + ".svg"), size).get(), tolerance),
+      std::nullopt)
       << drawing << " of " << size.width
       << " pixels differs from its drawing; run tools/render-artwork";
 }

@@ -7,14 +7,14 @@
 #include <rapidcheck/gtest.h>
 
 #include "desk/canvas/Blur.hpp"
-#include "desk/canvas/CairoPointers.hpp"
-#include "tests/canvas/PixelFixture.hpp"
+#include "desk/canvas/ImageSurface.hpp"
+#include "tests/support/Pixels.hpp"
 
 namespace orvane::desk {
 namespace {
 
 SurfacePointer coverage(int width, int height) {
-  return SurfacePointer(cairo_image_surface_create(CAIRO_FORMAT_A8, width, height));
+  return imageSurface(width, height, CAIRO_FORMAT_A8);
 }
 
 void fillCoverage(cairo_surface_t* surface, int left, int top, int right, int bottom, int value) {

@@ -8,8 +8,10 @@
 
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/GradientRows.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/ShadowMask.hpp"
-#include "tests/canvas/PixelFixture.hpp"
+#include "tests/support/KeptPicture.hpp"
+#include "tests/support/Pixels.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -31,9 +33,9 @@ struct Task {
 };
 
 rc::Gen<Shape> genShape(double step) {
-  const auto length = [step](int least, int most) {
+  const auto length = [step](int minimum, int maximum) {
     return rc::gen::map(
-        rc::gen::inRange(static_cast<int>(least / step), static_cast<int>(most / step)),
+        rc::gen::inRange(static_cast<int>(minimum / step), static_cast<int>(maximum / step)),
         [step](int steps) { return steps * step; });
   };
   return rc::gen::apply(
@@ -48,12 +50,13 @@ rc::Gen<Shape> genShape(double step) {
 }
 
 rc::Gen<Rgba> genColor() {
-  const auto share = rc::gen::map(rc::gen::inRange(0, 101), [](int part) { return part / 100.0; });
+  const auto fraction =
+      rc::gen::map(rc::gen::inRange(0, 101), [](int percent) { return percent / 100.0; });
   return rc::gen::apply(
       [](double red, double green, double blue, double alpha) {
         return Rgba{red, green, blue, alpha};
       },
-      share, share, share, rc::gen::oneOf(share, rc::gen::just(1.0)));
+      fraction, fraction, fraction, rc::gen::oneOf(fraction, rc::gen::just(1.0)));
 }
 
 void paintWithCairo(cairo_t* context, const Task& task) {
@@ -101,21 +104,6 @@ void paintWithCanvas(CairoCanvas& canvas, const Task& task) {
   canvas.restore();
 }
 
-/// The first difference of two surfaces; empty when they are equal.
-std::string differenceOf(cairo_surface_t* first, cairo_surface_t* second) {
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < width; ++x) {
-      const Pixel one = pixelAt(first, x, y);
-      const Pixel other = pixelAt(second, x, y);
-      if (!(one == other)) {
-        return testing::PrintToString(one) + " and " + testing::PrintToString(other) + " at " +
-               std::to_string(x) + ", " + std::to_string(y);
-      }
-    }
-  }
-  return {};
-}
-
 std::string text(const Shape& shape) {
   std::ostringstream stream;
   stream << static_cast<int>(shape.kind) << " " << static_cast<int>(shape.cornerStyle) << " "
@@ -160,21 +148,10 @@ Task makeTask() {
   return task;
 }
 
-SurfacePointer groundOf(const Rgba& color) {
-  SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-  const ContextPointer context(cairo_create(surface.get()));
-  cairo_set_source_rgba(context.get(), color.red, color.green, color.blue, color.alpha);
-  cairo_paint(context.get());
-  return surface;
-}
-
 /// Cairo's picture of the whole shape, copied within the clip: cairo rounds an outline that it
 /// clips.
 void paintExpected(cairo_surface_t* surface, double scale, const Task& task) {
-  const SurfacePointer whole(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-  const ContextPointer copying(cairo_create(whole.get()));
-  cairo_set_source_surface(copying.get(), surface, 0, 0);
-  cairo_paint(copying.get());
+  const SurfacePointer whole = partOf(surface, 0, 0, width, height);
   const ContextPointer painting(cairo_create(whole.get()));
   cairo_scale(painting.get(), scale, scale);
   paintWithCairo(painting.get(), task);
@@ -195,8 +172,8 @@ RC_GTEST_PROP(CairoCanvasShapesProperty, EveryPixelIsThatOfCairo, ()) {
   // On a clear surface cairo replaces instead of blending, which rounds differently.
   Rgba ground = *genColor();
   ground.alpha = std::max(ground.alpha, 0.05);
-  const SurfacePointer expected = groundOf(ground);
-  const SurfacePointer painted = groundOf(ground);
+  const SurfacePointer expected = filledSurface(width, height, ground);
+  const SurfacePointer painted = filledSurface(width, height, ground);
   DrawingResources resources;
   CairoCanvas canvas(painted.get(), scale, resources);
   // The second and third paint from the coverage of the first, the third at another position.
@@ -205,9 +182,8 @@ RC_GTEST_PROP(CairoCanvasShapesProperty, EveryPixelIsThatOfCairo, ()) {
     task.shape.rect = task.shape.rect.movedBy(shift);
     paintExpected(expected.get(), scale, task);
     paintWithCanvas(canvas, task);
-    const std::string difference = differenceOf(painted.get(), expected.get());
-    if (!difference.empty()) {
-      RC_FAIL(text(task, scale) + ": " + difference);
+    if (const auto difference = pictureDifference(painted.get(), expected.get(), 0)) {
+      RC_FAIL(text(task, scale) + ": " + *difference);
     }
   }
 }

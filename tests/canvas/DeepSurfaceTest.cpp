@@ -1,7 +1,5 @@
 // A picture of sixteen bits looks like one of eight bits, but is rounded once.
 #include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <functional>
 #include <string>
 #include <utility>
@@ -12,6 +10,7 @@
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/DeepSurface.hpp"
 #include "tests/canvas/PixelFixture.hpp"
+#include "tests/support/KeptPicture.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -34,13 +33,7 @@ class DeepSurfaceTest : public PixelFixture {
  protected:
   DeepSurfaceTest() { addApplicationImages(resources.images); }
 
-  static SurfacePointer ground(const Rgba& color) {
-    SurfacePointer made(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, side, side));
-    const ContextPointer context(cairo_create(made.get()));
-    cairo_set_source_rgba(context.get(), color.red, color.green, color.blue, color.alpha);
-    cairo_paint(context.get());
-    return made;
-  }
+  static SurfacePointer ground(const Rgba& color) { return filledSurface(side, side, color); }
 
   DeepSurface painted(const Drawing& draw) {
     DeepSurface deep(side, side);
@@ -53,20 +46,6 @@ class DeepSurfaceTest : public PixelFixture {
     SurfacePointer target = ground(color);
     CairoCanvas(target.get(), scale, resources).picture(deep, {0, 0});
     return target;
-  }
-
-  /// The greatest difference of a component.
-  static int difference(const SurfacePointer& first, const SurfacePointer& second) {
-    int most = 0;
-    for (int y = 0; y < side; ++y) {
-      for (int x = 0; x < side; ++x) {
-        const Pixel one = pixelAt(first.get(), x, y);
-        const Pixel other = pixelAt(second.get(), x, y);
-        most = std::max({most, std::abs(one.red - other.red), std::abs(one.green - other.green),
-                         std::abs(one.blue - other.blue), std::abs(one.alpha - other.alpha)});
-      }
-    }
-    return most;
   }
 
   /// Each kind of drawing.
@@ -156,9 +135,11 @@ TEST_F(DeepSurfaceTest, ShowsWhatASurfaceOfEightBitsShows) {
       const DeepSurface deep = painted(draw);
       const SurfacePointer shown = shownOver(color, deep);
       // The two round at different steps, twice at the round edge of a layer.
-      EXPECT_LE(difference(expected, shown), 4) << name << " on " << color.red;
+      EXPECT_EQ(pictureDifference(shown.get(), expected.get(), 4), std::nullopt)
+          << name << " on " << color.red;
       if (color.alpha > 0) {
-        EXPECT_GT(difference(ground(color), shown), 5) << name << " on " << color.red;
+        EXPECT_NE(pictureDifference(shown.get(), ground(color).get(), 5), std::nullopt)
+            << name << " on " << color.red;
       }
     }
   }
@@ -178,7 +159,9 @@ TEST_F(DeepSurfaceTest, APartIsPaintedAsInTheWhole) {
     });
     // These are drawn through a layer, in which cairo rounds a clipped outline.
     const bool isRounded = name.starts_with("across") || name.starts_with("image");
-    EXPECT_LE(difference(whole, shownOver(white, parts)), isRounded ? 2 : 0) << name;
+    EXPECT_EQ(pictureDifference(shownOver(white, parts).get(), whole.get(), isRounded ? 2 : 0),
+              std::nullopt)
+        << name;
   }
 }
 

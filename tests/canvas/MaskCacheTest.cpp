@@ -1,13 +1,14 @@
 // Lookup and eviction.
 #include <gtest/gtest.h>
 
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/MaskCache.hpp"
 
 namespace orvane::desk {
 namespace {
 
 Mask square(int side) {
-  return {SurfacePointer(cairo_image_surface_create(CAIRO_FORMAT_A8, side, side)), side, 0};
+  return {imageSurface(side, side, CAIRO_FORMAT_A8), side, 0};
 }
 
 TEST(MaskCacheTest, AMaskIsMadeOnce) {

@@ -11,6 +11,7 @@
 
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/DrawingResources.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PinnedFonts.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "desk/canvas/TextShaper.hpp"
@@ -114,7 +115,7 @@ void drawChinese(const char* language, const std::filesystem::path& file) {
   setenv("PANGO_LANGUAGE", language, 1);
   setenv("LANG", language, 1);
   DrawingResources resources;
-  const SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 200, 50));
+  const SurfacePointer surface = imageSurface(200, 50);
   CairoCanvas canvas(surface.get(), 1, resources);
   canvas.text("直角骨设置", ui::Font::system(36), {0, 0, 0, 1}, {5, 40});
   std::exit(writePng(surface.get(), file) ? 0 : 1);

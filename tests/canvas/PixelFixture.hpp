@@ -1,45 +1,15 @@
 // PixelFixture gives each test a canvas on a small surface, and reads its pixels.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 
-#include <cairo.h>
 #include <gtest/gtest.h>
 
 #include "desk/canvas/CairoCanvas.hpp"
-#include "desk/canvas/CairoPointers.hpp"
+#include "desk/canvas/ImageSurface.hpp"
+#include "tests/support/Pixels.hpp"
 
 namespace orvane::desk {
-
-/// Premultiplied components from 0 to 255.
-struct Pixel {
-  int red = 0;
-  int green = 0;
-  int blue = 0;
-  int alpha = 0;
-
-  friend bool operator==(const Pixel&, const Pixel&) = default;
-};
-
-inline void PrintTo(const Pixel& pixel, std::ostream* stream) {
-  *stream << "(" << pixel.red << " " << pixel.green << " " << pixel.blue << " / " << pixel.alpha
-          << ")";
-}
-
-inline Pixel pixelAt(cairo_surface_t* surface, int x, int y) {
-  cairo_surface_flush(surface);
-  const unsigned char* row =
-      cairo_image_surface_get_data(surface) + y * cairo_image_surface_get_stride(surface);
-  const std::uint32_t value = reinterpret_cast<const std::uint32_t*>(row)[x];
-  return {static_cast<int>(value >> 16U & 0xFFU), static_cast<int>(value >> 8U & 0xFFU),
-          static_cast<int>(value & 0xFFU), static_cast<int>(value >> 24U & 0xFFU)};
-}
-
-inline int coverageAt(cairo_surface_t* surface, int x, int y) {
-  cairo_surface_flush(surface);
-  return cairo_image_surface_get_data(surface)[y * cairo_image_surface_get_stride(surface) + x];
-}
 
 class PixelFixture : public testing::Test {
  protected:
@@ -52,7 +22,7 @@ class PixelFixture : public testing::Test {
 
   /// Replaces the surface by a clear one of this size in points.
   CairoCanvas& begin(int width, int height, int scale = 1) {
-    surface.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width * scale, height * scale));
+    surface = imageSurface(width * scale, height * scale);
     canvas = std::make_unique<CairoCanvas>(surface.get(), scale, resources);
     return *canvas;
   }
@@ -71,6 +41,19 @@ class PixelFixture : public testing::Test {
       }
     }
     return sum;
+  }
+
+  /// The bounds of the pixels that are more than half covered.
+  ui::Rect inkBounds() {
+    ui::Rect bounds;
+    for (int y = 0; y < height(); ++y) {
+      for (int x = 0; x < width(); ++x) {
+        if (at(x, y).alpha > 127) {
+          bounds = bounds.united({1.0 * x, 1.0 * y, 1, 1});
+        }
+      }
+    }
+    return bounds;
   }
 
   DrawingResources resources;

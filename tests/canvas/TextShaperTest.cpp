@@ -1,7 +1,6 @@
 // Drawn text: position, width and colour.
 #include <algorithm>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -13,33 +12,19 @@
 namespace orvane::desk {
 namespace {
 
-class TextShaperTest : public PixelFixture {
- protected:
-  /// The first and last column with a pixel of more than half coverage.
-  std::pair<int, int> inkedColumns() {
-    std::pair<int, int> columns{-1, -1};
-    for (int x = 0; x < width(); ++x) {
-      for (int y = 0; y < height(); ++y) {
-        if (at(x, y).alpha > 127) {
-          columns = {columns.first < 0 ? x : columns.first, x};
-        }
-      }
-    }
-    return columns;
-  }
-};
+using TextShaperTest = PixelFixture;
 
 TEST_F(TextShaperTest, TheDrawnLineHasItsMeasuredWidth) {
   for (const int scale : {1, 2, 4}) {
     const ui::Font font = ui::Font::system(26);
     begin(200, 40, scale).text("H", font, black, {10, 30});
-    const auto [left, letterEnd] = inkedColumns();
+    const ui::Rect inkOfLetter = inkBounds();
     begin(200, 40, scale).text("HamburgH", font, black, {10, 30});
-    const auto [sameLeft, lineEnd] = inkedColumns();
-    EXPECT_EQ(left, sameLeft);
+    const ui::Rect inkOfLine = inkBounds();
+    EXPECT_EQ(inkOfLetter.x, inkOfLine.x);
     const double letter = resources.shaper.measure("H", font).width;
     const double line = resources.shaper.measure("HamburgH", font).width;
-    EXPECT_NEAR(lineEnd - letterEnd, (line - letter) * scale, 1.01) << scale;
+    EXPECT_NEAR(inkOfLine.right() - inkOfLetter.right(), (line - letter) * scale, 1.01) << scale;
   }
 }
 
@@ -47,25 +32,18 @@ TEST_F(TextShaperTest, TrackingIsMeasuredAndDrawnBetweenTheCharacters) {
   ui::Font font = ui::Font::system(26);
   const double natural = resources.shaper.measure("HamburgH", font).width;
   begin(200, 40, 4).text("HamburgH", font, black, {10, 30});
-  const auto [naturalLeft, naturalRight] = inkedColumns();
+  const ui::Rect inkOfNatural = inkBounds();
   font.tracking = -0.5;
   // Eight characters have seven gaps.
   EXPECT_NEAR(resources.shaper.measure("HamburgH", font).width, natural - 3.5, 0.01);
   begin(200, 40, 4).text("HamburgH", font, black, {10, 30});
-  const auto [left, right] = inkedColumns();
-  EXPECT_EQ(left, naturalLeft);
-  EXPECT_NEAR(right, naturalRight - 3.5 * 4, 1.01);
+  EXPECT_EQ(inkBounds().x, inkOfNatural.x);
+  EXPECT_NEAR(inkBounds().right(), inkOfNatural.right() - 3.5 * 4, 1.01);
 }
 
 TEST_F(TextShaperTest, TheBaselineIsTheLowerEdgeOfAnH) {
   begin(40, 40).text("H", ui::Font::system(20, ui::Weight::bold), black, {10, 30});
-  int lowest = 0;
-  for (int y = 0; y < 40; ++y) {
-    for (int x = 0; x < 40; ++x) {
-      lowest = at(x, y).alpha > 127 ? y : lowest;
-    }
-  }
-  EXPECT_EQ(lowest, 29);
+  EXPECT_EQ(inkBounds().bottom(), 30);
 }
 
 TEST_F(TextShaperTest, ABaselineIsRoundedToWholePixels) {
@@ -104,13 +82,12 @@ TEST_F(TextShaperTest, TranslucentTextHasItsOwnAlpha) {
 TEST_F(TextShaperTest, ScaledTextIsDrawnAtItsSize) {
   const ui::Font font = ui::Font::system(20);
   begin(200, 60).text("Ham", font, black, {0, 40});
-  const auto [left, right] = inkedColumns();
+  const ui::Rect natural = inkBounds();
   begin(200, 60).save();
   canvas->transform(ui::Transform::scale(2, 2, {0, 40}));
   canvas->text("Ham", font, black, {0, 40});
   canvas->restore();
-  const auto [scaledLeft, scaledRight] = inkedColumns();
-  EXPECT_NEAR(scaledRight - scaledLeft, 2 * (right - left), 3);
+  EXPECT_NEAR(inkBounds().width, 2 * natural.width, 3);
 }
 
 TEST_F(TextShaperTest, ChineseCharactersAreCenteredInTheirLine) {
@@ -120,17 +97,7 @@ TEST_F(TextShaperTest, ChineseCharactersAreCenteredInTheirLine) {
   const std::string character = "\u56fd";
   const LineMetrics line = resources.shaper.measure(character, font);
   begin(60, 80).text(character, font, black, {5, line.ascent});
-  int top = 80;
-  int bottom = 0;
-  for (int y = 0; y < 80; ++y) {
-    for (int x = 0; x < 60; ++x) {
-      if (at(x, y).alpha > 127) {
-        top = std::min(top, y);
-        bottom = std::max(bottom, y + 1);
-      }
-    }
-  }
-  EXPECT_NEAR((top + bottom) / 2.0, line.height / 2, 0.03 * size);
+  EXPECT_NEAR(inkBounds().center().y, line.height / 2, 0.03 * size);
 }
 
 TEST_F(TextShaperTest, AMixedLineHasTheGreaterAscentAndDescent) {

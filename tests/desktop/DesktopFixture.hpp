@@ -2,16 +2,15 @@
 // of them at one pixel per point, so that global coordinates are pixels.
 #pragma once
 
-#include <algorithm>
-#include <cstdlib>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/layout/Rect.hpp"
 #include "showroom/desktop/DesktopPicture.hpp"
-#include "tests/canvas/PixelFixture.hpp"
 #include "tests/support/ApplicationFixture.hpp"
+#include "tests/support/Pixels.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane::showroom {
 
@@ -30,21 +29,13 @@ class DesktopFixture : public ApplicationFixture {
   }
 
   void attach(std::uint32_t number, const ui::Rect& frame) {
-    desk::Display display;
-    display.number = number;
-    display.uuid = "UUID-" + std::to_string(number);
-    display.name = "Display " + std::to_string(number);
     // With equal heights, the coordinate systems differ only by the sign of y.
-    display.frame = CGRectMake(frame.x, -frame.y, frame.width, frame.height);
-    EXPECT_FALSE(machine.displays.attach(display));
+    desk::attach(machine, desk::displayOf(number, "Display " + std::to_string(number),
+                                          {{frame.x, -frame.y}, {frame.width, frame.height}}));
   }
 
-  void setEdge(const std::string& edge) {
-    machine.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::orientationKey, edge);
-  }
-  void setAutoHide(bool hides) {
-    machine.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, hides);
-  }
+  void setEdge(const std::string& edge) { desk::setDockOrientation(machine, edge); }
+  void setAutoHide(bool hides) { desk::setDockAutoHide(machine, hides); }
 
   desk::SurfacePointer picture(const DesktopScene& scene) {
     return renderDesktop(painter, scene, DesktopStyle::exact, 1);
@@ -57,10 +48,8 @@ class DesktopFixture : public ApplicationFixture {
     int count = 0;
     for (int y = static_cast<int>(rect.y); y < static_cast<int>(rect.bottom()); ++y) {
       for (int x = static_cast<int>(rect.x); x < static_cast<int>(rect.right()); ++x) {
-        const desk::Pixel a = desk::pixelAt(first.get(), x, y);
-        const desk::Pixel b = desk::pixelAt(second.get(), x, y);
-        const int difference = std::max(
-            {std::abs(a.red - b.red), std::abs(a.green - b.green), std::abs(a.blue - b.blue)});
+        const int difference = desk::greatestDifference(desk::pixelAt(first.get(), x, y),
+                                                        desk::pixelAt(second.get(), x, y));
         count += difference > 2 ? 1 : 0;
       }
     }

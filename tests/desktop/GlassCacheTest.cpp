@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "desk/canvas/Blur.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "showroom/desktop/GlassCache.hpp"
 
@@ -10,7 +11,7 @@ namespace {
 
 /// A light square at `x` on black.
 desk::SurfacePointer picture(int x, int side = 20) {
-  desk::SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, side, 20));
+  desk::SurfacePointer surface = desk::imageSurface(side, 20, CAIRO_FORMAT_RGB24);
   const desk::ContextPointer context(cairo_create(surface.get()));
   cairo_set_source_rgb(context.get(), 1, 0.5, 0.25);
   cairo_rectangle(context.get(), x, 4, 6, 6);

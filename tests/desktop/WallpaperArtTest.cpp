@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "desk/canvas/ImageSurface.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 
@@ -12,7 +13,7 @@ namespace {
 
 desk::SurfacePointer drawn(desk::Appearance::Wallpaper wallpaper, bool isDark, int width,
                            int height) {
-  desk::SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  desk::SurfacePointer surface = desk::imageSurface(width, height);
   const desk::ContextPointer context(cairo_create(surface.get()));
   paintWallpaper(context.get(), wallpaper, isDark, width, height);
   return surface;

@@ -12,6 +12,7 @@
 
 #include "Orvane/ui/draw/StandardColors.hpp"
 #include "desk/canvas/ApplicationImages.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
 #include "showroom/gallery/SheetBackground.hpp"
@@ -235,7 +236,7 @@ class GalleryRulesTest : public desk::MachineFixture,
 
   void expectControlsAreLargeEnough() const {
     for (const ui::SemanticsNode& node : nodes_) {
-      if (node.isControl()) {
+      if (node.isControl) {
         EXPECT_GE(std::min(node.frame.width, node.frame.height), minimumSide(node) - 0.001)
             << "\"" << node.label << "\"";
       }
@@ -251,7 +252,7 @@ class GalleryRulesTest : public desk::MachineFixture,
   void expectTextsAreReadable(const Specimen& specimen, Interaction interaction) {
     const ui::Size size = specimen.size();
     const ui::Appearance& appearance = specimen.host().appearance();
-    const desk::SurfacePointer shown = blank(size);
+    const desk::SurfacePointer shown = desk::imageSurface(size);
     TextlessCanvas canvas(shown.get(), 1, resources);
     specimen.paint(canvas, {0, 0});
     cairo_surface_flush(shown.get());
@@ -321,7 +322,7 @@ class GalleryRulesTest : public desk::MachineFixture,
     const ui::Point middle = run.visible.center();
     ui::Rgba darkest = behind.at(middle);
     for (const ui::SemanticsNode& node : nodes_) {
-      if (!node.isControl() || !node.frame.contains(middle)) {
+      if (!node.isControl || !node.frame.contains(middle)) {
         continue;
       }
       for (double y = node.frame.y; y < node.frame.bottom(); ++y) {
@@ -334,19 +335,13 @@ class GalleryRulesTest : public desk::MachineFixture,
     return contrastOn(run, darkest);
   }
 
-  static desk::SurfacePointer blank(ui::Size size) {
-    return desk::SurfacePointer(
-        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(std::ceil(size.width)),
-                                   static_cast<int>(std::ceil(size.height))));
-  }
-
   /// The background of specimens of this size, cached, because many have the same size.
   cairo_surface_t* groundOf(ui::Size size, const ui::Appearance& appearance,
                             desk::Appearance::Wallpaper wallpaper) {
     desk::SurfacePointer& kept = grounds_[{size.width, size.height, appearance.dark,
                                            appearance.increaseContrast, wallpaper}];
     if (kept == nullptr) {
-      kept = blank(size);
+      kept = desk::imageSurface(size);
       desk::CairoCanvas canvas(kept.get(), 1, resources);
       paintWallpaper(canvas.context(), wallpaper, appearance.dark, size.width, size.height);
       // Larger than the specimen, so that its edges are outside.

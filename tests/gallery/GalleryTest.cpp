@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "desk/canvas/ApplicationImages.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
@@ -28,9 +29,7 @@ class GalleryTest : public desk::MachineFixture {
     ui::Appearance appearance;
     appearance.dark = isDark;
     const Specimen specimen(item, language, appearance, text, resources);
-    const desk::SurfacePointer surface(
-        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(specimen.size().width) + 1,
-                                   static_cast<int>(specimen.size().height) + 1));
+    const desk::SurfacePointer surface = desk::imageSurface(specimen.size());
     desk::CairoCanvas canvas(surface.get(), 1, resources);
     specimen.paint(canvas, {0, 0});
     return desk::encodePng(surface.get());

@@ -171,7 +171,7 @@ RC_GTEST_PROP(OrvaneScreenProperty, AnIdentifierFindsTheFirstDisplayThatItNames,
       RC_ASSERT(found->frame().size.width == 100.0 + expected->size);
     }
   }
-  RC_ASSERT(scope.end().isClean());
+  RC_ASSERT(scope.end().empty());
 }
 
 }  // namespace

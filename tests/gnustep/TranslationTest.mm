@@ -128,7 +128,6 @@ TEST_F(Translation, EveryRoleHasItsNameAndItsValue) {
       {ui::Role::toggle, NSAccessibilityCheckBoxRole},
       {ui::Role::radioButton, NSAccessibilityRadioButtonRole},
       {ui::Role::popUpButton, NSAccessibilityPopUpButtonRole},
-      {ui::Role::link, NSAccessibilityLinkRole},
       {ui::Role::scrollArea, NSAccessibilityScrollAreaRole}};
   for (const auto& [role, name] : roles) {
     appkit::Window window = show([shown = role](const ui::Environment&) -> ui::View {

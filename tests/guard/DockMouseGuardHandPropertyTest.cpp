@@ -85,7 +85,7 @@ void moveWhileGuarded(Cursor cursor, bool blocksAllDisplays) {
   desk::Machine& machine = scope.machine();
   setUp(machine, cursor);
   if (blocksAllDisplays) {
-    desk::Dock::store(machine.preferences, desk::Dock::autoHideKey, true);
+    desk::setDockAutoHide(machine, true);
   }
   DockMouseGuard guard;
   guard.start("1", OrvaneModifier::option, blocksAllDisplays);

@@ -82,7 +82,7 @@ RC_GTEST_PROP(DockMouseGuardProperty, EventsLeaveTheZoneThatMovedThemAndOthersAr
   }
   RC_ASSERT(guard->snapshot().blockedCount == blocked);
   guard.reset();
-  RC_ASSERT(scope.end().isClean());
+  RC_ASSERT(scope.end().empty());
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ class DockTest : public MachineFixture {
     attach(2, {{1000, 0}, {1000, 800}});
   }
   void setEdge(PropertyValue value) { setDockOrientation(machine, std::move(value)); }
-  void setAutoHide(bool hides) { Dock::store(machine.preferences, Dock::autoHideKey, hides); }
+  void setAutoHide(bool hides) { setDockAutoHide(machine, hides); }
   /// A movement from a point well inside the display.
   void push(CGPoint from, double dx, double dy) {
     machine.mouse.moveTo(from);

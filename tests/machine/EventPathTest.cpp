@@ -26,7 +26,7 @@ TEST(EventPathTest, AllocatesNothing) {
   const auto tap = machine.eventTaps.create(kCGTailAppendEventTap, kCGEventTapOptionDefault,
                                             CGEventMask{1} << kCGEventMouseMoved, pushUp, nullptr);
   machine.eventTaps.find(*tap)->sourceModes = RunLoop::commonModes;
-  Dock::store(machine.preferences, Dock::autoHideKey, true);
+  setDockAutoHide(machine, true);
   // The first reveal on a display creates its counter; later ones allocate nothing.
   machine.modifierKeys.hold(kCGEventFlagMaskShift);
   for (const double x : {500.0, 1500.0, 2500.0}) {

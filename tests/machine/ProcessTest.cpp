@@ -64,7 +64,7 @@ TEST_F(ProcessTest, TapsEndWithItAndTheRunLoopReleasesTheirSources) {
   EXPECT_TRUE(machine.runLoop.sources().empty());
   EXPECT_EQ(machine.objects.referenceCount(port), 1);
   CFRelease(port);
-  EXPECT_TRUE(scope.end().isClean());
+  EXPECT_TRUE(scope.end().empty());
 }
 
 /// A shared object whose destructor makes requests that must have no effect.

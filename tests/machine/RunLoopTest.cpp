@@ -84,16 +84,6 @@ TEST_F(RunLoopTest, AHeldMainQueueDeliversNothingWhileTimersGoOn) {
   EXPECT_EQ(log, (Log{"opens the session@0", "timer@1000", "waiting@1000", "delayed@1000"}));
 }
 
-TEST_F(RunLoopTest, HoldsNestAndOneReleaseTooManyDoesNothing) {
-  runLoop.releaseMainQueue();
-  runLoop.holdMainQueue();
-  runLoop.holdMainQueue();
-  runLoop.releaseMainQueue();
-  EXPECT_TRUE(runLoop.isMainQueueHeld());
-  runLoop.releaseMainQueue();
-  EXPECT_FALSE(runLoop.isMainQueueHeld());
-}
-
 TEST_F(RunLoopTest, AnInvalidatedTimerStopsAndReleasesItsCallback) {
   auto held = std::make_shared<int>(0);
   const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [held] { ++*held; });

@@ -19,10 +19,6 @@ namespace {
 
 using appkit::NotificationName;
 
-void setAutoHide(Machine& machine, bool hides) {
-  Dock::store(machine.preferences, Dock::autoHideKey, hides);
-}
-
 std::vector<CGRect> visibleFrames() {
   std::vector<CGRect> frames;
   for (const appkit::Screen& screen : appkit::Screen::screens()) {
@@ -90,16 +86,16 @@ TEST_F(ScreenParametersTest, AnotherEdgeOfTheDockIsPosted) {
 }
 
 TEST_F(ScreenParametersTest, SwitchingAutoHideIsPosted) {
-  setAutoHide(machine, true);
+  setDockAutoHide(machine, true);
   EXPECT_EQ(countPosted(), 1);
-  setAutoHide(machine, true);
+  setDockAutoHide(machine, true);
   EXPECT_EQ(countPosted(), 0);
-  setAutoHide(machine, false);
+  setDockAutoHide(machine, false);
   EXPECT_EQ(countPosted(), 1);
 }
 
 TEST_F(ScreenParametersTest, ASlideIsPostedWhenItBegins) {
-  setAutoHide(machine, true);
+  setDockAutoHide(machine, true);
   countPosted();
   machine.mouse.moveTo(aboveTheDock);
   machine.mouse.moveBy(0, 60);
@@ -157,13 +153,13 @@ TEST_F(ScreenParametersTest, ADockThatMovesDuringAGroupOfChangesIsPostedAtItsEnd
 TEST_F(ScreenParametersTest, AChangeBeforeALaunchIsNotPosted) {
   setDockOrientation(machine, "left");
   machine.process.end();
-  setAutoHide(machine, true);
+  setDockAutoHide(machine, true);
   machine.process.start();
   observe();
   machine.mouse.moveTo(inTheOpen);
-  setAutoHide(machine, true);
+  setDockAutoHide(machine, true);
   EXPECT_EQ(countPosted(), 0);
-  setAutoHide(machine, false);
+  setDockAutoHide(machine, false);
   EXPECT_EQ(countPosted(), 1);
 }
 
@@ -185,7 +181,7 @@ void take(Machine& machine, const FrameStep& step) {
     case 0:
       return setDockOrientation(machine, edges.at(static_cast<std::size_t>(step.choice)));
     case 1:
-      return setAutoHide(machine, step.choice > 2);
+      return setDockAutoHide(machine, step.choice > 2);
     default:
       machine.mouse.moveTo({static_cast<double>(step.x), static_cast<double>(step.y)});
   }

@@ -76,7 +76,7 @@ class CardSelectionTest : public ComponentFixture {
       return ui::View(card);
     });
     // Not with the pointer, which would raise the card.
-    test.host->perform(test.element("Studio")->id, ui::SemanticsAction::press);
+    test.host->press(test.element("Studio")->id);
     advance(0);
   }
 

@@ -12,6 +12,7 @@
 #include "tests/panels/PanelFixture.hpp"
 #include "tests/panels/TextRun.hpp"
 #include "tests/support/Contrast.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane {
 namespace {
@@ -43,7 +44,7 @@ class ContrastTest : public PanelFixture {
   ContrastTest() {
     useSmallDisplay();
     attach(2, CGRectMake(720, 0, 80, 620), "Side", false);
-    desk::Dock::store(machine.preferences, desk::Dock::autoHideKey, true);
+    desk::setDockAutoHide(machine, true);
     machine.advance(2);
   }
 

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "desk/canvas/ImageSurface.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
 #include "showroom/desktop/WindowArt.hpp"
 #include "tests/canvas/PixelFixture.hpp"
@@ -45,9 +46,7 @@ class GradientsTest : public PanelFixture {
   desk::SurfacePointer picture(const std::string& surface, Appearance::Wallpaper wallpaper) {
     const auto shown = window(surface);
     const CGSize size = shown->frame.size;
-    desk::SurfacePointer made(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
-                                                         static_cast<int>(size.width * scale),
-                                                         static_cast<int>(size.height * scale)));
+    desk::SurfacePointer made = desk::imageSurface({size.width, size.height}, scale);
     desk::CairoCanvas canvas(made.get(), scale, server().resources());
     showroom::paintWallpaper(canvas.context(), wallpaper, machine.appearance.isDark, size.width,
                              size.height);

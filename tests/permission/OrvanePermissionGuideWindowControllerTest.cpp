@@ -74,7 +74,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, OnANarrowerScreenItKeepsItsDis
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, OnAScreenThatIsTooSmallTheUpperLimitWins) {
   haveDisplay(CGRectMake(0, 0, 390, 520));
-  desk::Dock::store(machine.preferences, desk::Dock::autoHideKey, true);
+  desk::setDockAutoHide(machine, true);
   show();
   expectGuideOrigin(390 - 360 - 20, 520 - 24 - 500 - 20);
 }

@@ -1,35 +1,16 @@
-// The guide's screen when the pointer is on none. The linker wraps Screen::mainScreen with a
-// function of this file (see CMakeLists.txt), to distinguish the key window's screen from the main
-// one, and for the last fallback, which needs a system without a main screen.
+// The guide's screen when the pointer is on none.
 #include <algorithm>
-#include <cmath>
-#include <functional>
 #include <optional>
 
 #include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/platform/appkit/Screen.hpp"
 #include "tests/permission/PermissionFlow.hpp"
+#include "tests/support/CallRecorder.hpp"
 
 namespace orvane {
 namespace {
 
 using appkit::Screen;
-using MainScreen = std::function<std::optional<Screen>()>;
-
-MainScreen& standIn() {
-  static MainScreen function;
-  return function;
-}
-
-}  // namespace
-
-std::optional<Screen> realMainScreen() asm("__real__ZN6orvane6appkit6Screen10mainScreenEv");
-std::optional<Screen> wrappedMainScreen() asm("__wrap__ZN6orvane6appkit6Screen10mainScreenEv");
-std::optional<Screen> wrappedMainScreen() {
-  return standIn() ? standIn()() : realMainScreen();
-}
-
-namespace {
 
 class PermissionGuidePlaceTest : public PermissionFlow {
  protected:
@@ -42,10 +23,9 @@ class PermissionGuidePlaceTest : public PermissionFlow {
       return CGRectContainsPoint(screen.frame(), pointer);
     }));
   }
-  ~PermissionGuidePlaceTest() override { standIn() = nullptr; }
 
-  static void haveMainScreen(std::size_t index) {
-    standIn() = [index] { return std::optional(Screen::screens().at(index)); };
+  void makeMainDisplay(std::uint32_t number) {
+    EXPECT_EQ(machine.displays.setMain(number), std::nullopt);
   }
   /// A window of the application with its lower left corner there, which becomes key.
   void haveKeyWindow(CGPoint corner) {
@@ -61,56 +41,49 @@ class PermissionGuidePlaceTest : public PermissionFlow {
     guide().show(nullptr);
     machine.runDue();
   }
+  void expectGuideOn(std::uint32_t number) {
+    EXPECT_TRUE(
+        CGRectContainsPoint(machine.displays.find(number)->frame, guide().snapshot().frame.origin));
+  }
 
  private:
   std::optional<appkit::Window> window_;
 };
 
-// The Dock takes 70 points of the first screen, so its centre is 35 points higher.
-constexpr double onFirstX = 1280;
-constexpr double onFirstY = 313;
-constexpr double onSecondX = 3200;
-constexpr double onSecondY = 278;
-
 TEST_F(PermissionGuidePlaceTest, WithThePointerOnNoScreenItIsOnTheKeyWindowsScreen) {
-  haveMainScreen(0);
   haveKeyWindow({2500, 400});
   show();
-  expectGuideOrigin(onSecondX, onSecondY);
+  expectGuideOn(2);
 }
 
 TEST_F(PermissionGuidePlaceTest, TheScreenUnderThePointerPrecedesTheKeyWindowsScreen) {
-  haveMainScreen(1);
   haveKeyWindow({2500, 400});
   moveTo({20, 200});
   show();
-  expectGuideOrigin(onFirstX, onFirstY);
+  expectGuideOn(1);
 }
 
 TEST_F(PermissionGuidePlaceTest, WithoutAKeyWindowItIsOnTheMainScreen) {
-  haveMainScreen(1);
+  makeMainDisplay(2);
   ASSERT_FALSE(appkit::Application::keyWindow());
   show();
-  expectGuideOrigin(onSecondX, onSecondY);
+  expectGuideOn(2);
 }
 
 TEST_F(PermissionGuidePlaceTest, WithAKeyWindowOnNoScreenItIsOnTheMainScreen) {
-  haveMainScreen(1);
+  makeMainDisplay(2);
   haveKeyWindow({-5000, -5000});
   show();
-  expectGuideOrigin(onSecondX, onSecondY);
+  expectGuideOn(2);
 }
 
 TEST_F(PermissionGuidePlaceTest, WithoutAnyScreenItIsCentred) {
+  openGuide();
+  detach(machine, 1);
+  detach(machine, 2);
+  const desk::CallRecorder calls(machine);
   show();
-  expectGuideOrigin(onFirstX, onFirstY);
-  guide().close();
-  standIn() = [] { return std::optional<Screen>(); };
-  show();
-  // A centred panel has two thirds of the free height below it.
-  const CGRect visible = Screen::screens().at(0).visibleFrame();
-  expectGuideOrigin(std::floor(CGRectGetMidX(visible) - 360.0 / 2),
-                    std::floor(visible.origin.y + (visible.size.height - 500) * 2 / 3));
+  EXPECT_NE(calls.text().find("Window.center \"OrvaneGuidePanel\""), std::string::npos);
 }
 
 }  // namespace

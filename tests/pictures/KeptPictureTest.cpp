@@ -4,19 +4,17 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/canvas/CairoPointers.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "tests/support/KeptPicture.hpp"
+#include "tests/support/Pixels.hpp"
 
 namespace orvane::desk {
 namespace {
 
 SurfacePointer grey(int width, int height, double level, int x = -1, double pixelLevel = 0) {
-  SurfacePointer surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-  const ContextPointer context(cairo_create(surface.get()));
-  cairo_set_source_rgb(context.get(), level, level, level);
-  cairo_paint(context.get());
+  SurfacePointer surface = filledSurface(width, height, {level, level, level, 1});
   if (x >= 0) {
+    const ContextPointer context(cairo_create(surface.get()));
     cairo_set_source_rgb(context.get(), level, level, pixelLevel);
     cairo_rectangle(context.get(), x, 1, 1, 1);
     cairo_fill(context.get());

@@ -10,6 +10,7 @@
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
 #include "showroom/desktop/WindowArt.hpp"
@@ -46,8 +47,7 @@ class WindowPictureTest : public desk::MachineFixture {
   }
 
   void expectWindows(const std::string& name, desk::Appearance::Wallpaper wallpaper) {
-    const desk::SurfacePointer surface(
-        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+    const desk::SurfacePointer surface = desk::imageSurface(width, height);
     desk::WindowServer& server = desk::WindowServer::current();
     GlassCache glass;
     desk::CairoCanvas canvas(surface.get(), 1, server.resources());

@@ -120,15 +120,5 @@ TEST_F(CFMachPortTest, TheLossOfThePermissionKillsTheTapForGood) {
   removeSource(nextSource);
 }
 
-TEST_F(CFMachPortTest, ATapIsRefusedWithoutPermissionAndWhenRefusalIsOn) {
-  machine.permission.setTrusted(false);
-  EXPECT_FALSE(makeTap());
-  machine.permission.setTrusted(true);
-  machine.eventTaps.setRefusesCreation(true);
-  EXPECT_FALSE(makeTap());
-  machine.eventTaps.setRefusesCreation(false);
-  EXPECT_TRUE(makeTap());
-}
-
 }  // namespace
 }  // namespace orvane::desk

@@ -19,20 +19,7 @@ class CFPreferencesTest : public MachineFixture {
     machine.preferences.set({"program", Preferences::User::current, host}, "key", std::move(value));
     CFPreferencesAppSynchronize(CFSTR("program"));
   }
-  CFTypeID typeOfStored(PropertyValue value) {
-    store(std::move(value));
-    return CFGetTypeID(copy().get());
-  }
 };
-
-TEST_F(CFPreferencesTest, EachTypeOfValueHasItsOwnTypeID) {
-  EXPECT_EQ(typeOfStored(std::string("text")), CFStringGetTypeID());
-  const CFTypeID number = typeOfStored(1.0);
-  const CFTypeID boolean = typeOfStored(true);
-  EXPECT_NE(number, CFStringGetTypeID());
-  EXPECT_NE(boolean, CFStringGetTypeID());
-  EXPECT_NE(number, boolean);
-}
 
 TEST_F(CFPreferencesTest, EachCopyIsANewObject) {
   store(std::string("text"));

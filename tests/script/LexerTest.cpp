@@ -83,14 +83,5 @@ TEST(LexerTest, ControlCharactersAreAProblem) {
   EXPECT_EQ(lexLine("a\x7F").problem, "control character at column 2");
 }
 
-TEST(LexerTest, MalformedUtf8IsAProblem) {
-  for (const char* const malformed :
-       {"\x80", "\xC3", "\xC0\xAF", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8",
-        "\xE4\xB8", "\xE4\xB8\x41", "\xFF"}) {
-    EXPECT_EQ(lexLine("é" + std::string(malformed)).problem, "malformed UTF-8 at column 2");
-  }
-  EXPECT_FALSE(lexLine("\xED\x9F\xBF \xEE\x80\x80 \xF4\x8F\xBF\xBF \xE0\xA0\x80").problem);
-}
-
 }  // namespace
 }  // namespace orvane::desk::script

@@ -10,6 +10,7 @@
 #include "Orvane/ui/host/ViewHost.hpp"
 #include "bench/KitPanel.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
+#include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 
 namespace orvane::bench {
@@ -42,7 +43,7 @@ class KitSpeed : public testing::Test {
 
   desk::PangoTextMeasurer text;
   desk::DrawingResources resources;
-  ui::ViewHost host{ui::HostPlatform{&text, resources.imageSource(), {}, {}}};
+  ui::ViewHost host{ui::HostPlatform{.text = &text, .images = resources.imageSource()}};
   int revision = 0;
 };
 
@@ -59,9 +60,8 @@ TEST_F(KitSpeed, FromAChangeToTheLayoutOfAPanelTakesLessThanHalfAMillisecond) {
 
 TEST_F(KitSpeed, PaintingAllOfAPanelAtTwoPixelsToThePointTakesLessThanEightMilliseconds) {
   constexpr double scale = 2;
-  const desk::SurfacePointer surface(
-      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(KitPanel::width * scale),
-                                 static_cast<int>(KitPanel::height * scale)));
+  const desk::SurfacePointer surface =
+      desk::imageSurface({KitPanel::width, KitPanel::height}, scale);
   const double paint = quickestMilliseconds(2, [&] {
     desk::CairoCanvas canvas(surface.get(), scale, resources);
     host.paint(canvas, {0, 0, KitPanel::width, KitPanel::height});

@@ -3,11 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 
-#include <cairo.h>
-
-#include "Orvane/ui/draw/Appearance.hpp"
+#include "tests/support/Pixels.hpp"
 
 namespace orvane {
 
@@ -26,16 +23,10 @@ inline double contrast(double first, double second) {
   return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
-/// The stored pixel of an ARGB32 surface (premultiplied) or RGB24 surface (alpha is undefined). The
-/// surface must be flushed.
+/// The stored pixel of an ARGB32 surface (premultiplied) or RGB24 surface (alpha is undefined).
 inline ui::Rgba pixelAt(cairo_surface_t* surface, int x, int y) {
-  const unsigned char* const row =
-      cairo_image_surface_get_data(surface) + y * cairo_image_surface_get_stride(surface);
-  const std::uint32_t value = reinterpret_cast<const std::uint32_t*>(row)[x];
-  const auto component = [value](unsigned shift) {
-    return static_cast<double>(value >> shift & 0xFFU) / 255;
-  };
-  return {component(16), component(8), component(0), component(24)};
+  const desk::Pixel pixel = desk::pixelAt(surface, x, y);
+  return {pixel.red / 255.0, pixel.green / 255.0, pixel.blue / 255.0, pixel.alpha / 255.0};
 }
 
 }  // namespace orvane

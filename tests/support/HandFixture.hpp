@@ -42,8 +42,7 @@ class HandFixture : public MachineFixture {
   }
   [[nodiscard]] static std::optional<ui::SemanticsNode> element(const std::string& label,
                                                                 const std::string& surface) {
-    return findElement(tree(surface),
-                       [&](const ui::SemanticsNode& node) { return node.label == label; });
+    return findLabel(tree(surface), label);
   }
   [[nodiscard]] static std::optional<ui::SemanticsNode> element(ui::Role role,
                                                                 const std::string& label,

@@ -2,33 +2,16 @@
 #include "tests/support/KeptPicture.hpp"
 
 #include <algorithm>
-#include <cstdint>
 #include <cstdlib>
 
 #include <gtest/gtest.h>
 
 #include "desk/canvas/PngFile.hpp"
+#include "tests/support/Pixels.hpp"
 
 namespace orvane::desk {
 
 namespace {
-
-constexpr int tolerance = 2;
-
-const std::uint32_t* rowOf(cairo_surface_t* surface, int y) {
-  return reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(surface) +
-                                                y * cairo_image_surface_get_stride(surface));
-}
-
-int worstComponent(std::uint32_t first, std::uint32_t second) {
-  int worst = 0;
-  for (const unsigned shift : {0U, 8U, 16U, 24U}) {
-    const int a = static_cast<int>(first >> shift & 0xFFU);
-    const int b = static_cast<int>(second >> shift & 0xFFU);
-    worst = std::max(worst, std::abs(a - b));
-  }
-  return worst;
-}
 
 std::string sizeOf(cairo_surface_t* surface) {
   return std::to_string(cairo_image_surface_get_width(surface)) + " by " +
@@ -37,18 +20,17 @@ std::string sizeOf(cairo_surface_t* surface) {
 
 }  // namespace
 
-std::optional<std::string> pictureDifference(cairo_surface_t* shown, cairo_surface_t* kept) {
+std::optional<std::string> pictureDifference(cairo_surface_t* shown, cairo_surface_t* kept,
+                                             int tolerance) {
   if (sizeOf(shown) != sizeOf(kept)) {
     return "it has " + sizeOf(shown) + " pixels instead of " + sizeOf(kept);
   }
-  cairo_surface_flush(shown);
-  cairo_surface_flush(kept);
   int different = 0;
   int worst = 0;
   std::string first;
   for (int y = 0; y < cairo_image_surface_get_height(shown); ++y) {
     for (int x = 0; x < cairo_image_surface_get_width(shown); ++x) {
-      const int distance = worstComponent(rowOf(shown, y)[x], rowOf(kept, y)[x]);
+      const int distance = greatestDifference(pixelAt(shown, x, y), pixelAt(kept, x, y));
       if (distance > tolerance) {
         ++different;
         first = first.empty() ? std::to_string(x) + ", " + std::to_string(y) : first;

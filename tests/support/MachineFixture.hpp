@@ -13,12 +13,8 @@ namespace orvane::desk {
 class MachineFixture : public testing::Test {
  public:
   ~MachineFixture() override {
-    const MachineEnd end = scope_.end();
-    for (const std::string& object : end.leakedObjects) {
-      ADD_FAILURE() << "not released: " << object;
-    }
-    for (const std::string& fault : end.faults) {
-      ADD_FAILURE() << "fault: " << fault;
+    for (const std::string& problem : scope_.end()) {
+      ADD_FAILURE() << problem;
     }
   }
 

@@ -66,5 +66,8 @@ inline Preferences::Domain dockDomain() {
 inline void setDockOrientation(Machine& machine, PropertyValue value) {
   Dock::store(machine.preferences, Dock::orientationKey, std::move(value));
 }
+inline void setDockAutoHide(Machine& machine, bool hides) {
+  Dock::store(machine.preferences, Dock::autoHideKey, hides);
+}
 
 }  // namespace orvane::desk

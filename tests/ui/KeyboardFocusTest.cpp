@@ -69,7 +69,7 @@ TEST_F(KeyboardFocusTest, TabPassesOverWhatIsOutOfItsOrder) {
   EXPECT_FALSE(element->isFocusable);
   EXPECT_FALSE(test.host->focus(element->id));
   EXPECT_TRUE(test.host->keyDown({Key::character, {false, false, false, true}, "w"}));
-  EXPECT_TRUE(test.host->perform(element->id, SemanticsAction::press));
+  EXPECT_TRUE(test.host->press(element->id));
   EXPECT_EQ(log, "aa");
 }
 

@@ -48,7 +48,7 @@ TEST_F(PickerTest, TheKeyboardAndAPressOpenItToo) {
   test.press(Key::tab);
   test.press(Key::space);
   EXPECT_EQ(test.menus.size(), 1U);
-  test.host->perform(test.element("Language")->id, SemanticsAction::press);
+  test.host->press(test.element("Language")->id);
   EXPECT_EQ(test.menus.size(), 2U);
 }
 

@@ -63,14 +63,14 @@ TEST(SemanticsTest, APressRunsTheSameActionAsAClick) {
   test.show(
       [&](const Environment&) { return Button("Pin", [&] { ++presses; }).disabled(isDisabled); });
   const std::uint64_t id = test.element("Pin")->id;
-  EXPECT_TRUE(test.host->perform(id, SemanticsAction::press));
+  EXPECT_TRUE(test.host->press(id));
   EXPECT_EQ(presses, 1);
   isDisabled = true;
   test.update();
   EXPECT_EQ(test.element("Pin")->id, id) << "the id stays while the view stays";
-  EXPECT_FALSE(test.host->perform(id, SemanticsAction::press));
+  EXPECT_FALSE(test.host->press(id));
   EXPECT_EQ(presses, 1);
-  EXPECT_FALSE(test.host->perform(999, SemanticsAction::press));
+  EXPECT_FALSE(test.host->press(999));
 }
 
 TEST(SemanticsTest, FramesAreThoseOnScreen) {
@@ -109,7 +109,7 @@ TEST(SemanticsTest, AViewCanDismissItsHost) {
   test.show([](const Environment& environment) {
     return Button("Close", [environment] { environment.dismiss(); });
   });
-  test.host->perform(test.element("Close")->id, SemanticsAction::press);
+  test.host->press(test.element("Close")->id);
   EXPECT_EQ(test.dismissals, 1);
 }
 

@@ -2,6 +2,7 @@
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
 #include "showroom/window/DeskSession.hpp"
+#include "tests/support/TestDisplays.hpp"
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::showroom {
@@ -14,7 +15,7 @@ TEST_F(DeskSessionTest, BeginsWithDisplaysAPermissionAndAnUnlockedApplication) {
   EXPECT_TRUE(session.machine().permission.isTrusted());
   ASSERT_TRUE(session.application().isRunning());
   EXPECT_FALSE(session.application().model().isGuardRunning());
-  EXPECT_EQ(session.pointerDisplayNumber(), 1U);
+  EXPECT_EQ(session.machine().pointer.displayIndex(), 0U);
 }
 
 TEST(DeskSessionSizeTest, HasBetweenOneAndFourDisplays) {
@@ -58,7 +59,7 @@ TEST_F(DeskSessionTest, KnowsWhenThePictureNextChanges) {
   const std::int64_t untilMinute = session.nanosecondsToNextChange();
   EXPECT_GT(untilMinute, 50 * second);
   EXPECT_LE(untilMinute, 60 * second);
-  session.machine().preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, true);
+  desk::setDockAutoHide(session.machine(), true);
   EXPECT_EQ(session.nanosecondsToNextChange(), 0);
   session.advance(desk::Dock::slideNanoseconds / 2);
   EXPECT_EQ(session.nanosecondsToNextChange(), 0);
@@ -94,7 +95,7 @@ TEST_F(DeskSessionTest, SurvivesMovementsWithoutADisplay) {
   ASSERT_FALSE(session.machine().displays.detach(2));
   session.machine().runDue();
   session.movePointerBy(10, 10);
-  EXPECT_EQ(session.pointerDisplayNumber(), 0U);
+  EXPECT_EQ(session.machine().pointer.displayIndex(), std::nullopt);
   EXPECT_GT(session.nanosecondsToNextChange(), 0);
 }
 

@@ -3,6 +3,7 @@
 #include <thread>
 
 #include "showroom/window/FramePump.hpp"
+#include "tests/support/TestDisplays.hpp"
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::showroom {
@@ -58,7 +59,7 @@ TEST_F(FramePumpTest, SleepsWhileNothingChanges) {
   FramePump pump(60);
   pump.beginPicture();
   EXPECT_GT(pump.millisecondsToWait(session, false), 10'000);
-  session.machine().preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, true);
+  desk::setDockAutoHide(session.machine(), true);
   EXPECT_LE(pump.millisecondsToWait(session, false), 17);
 }
 

@@ -3,6 +3,7 @@
 
 #include "desk/hand/FindControl.hpp"
 #include "showroom/window/WindowPicture.hpp"
+#include "tests/support/Pixels.hpp"
 #include "tests/window/SessionFixture.hpp"
 
 namespace orvane::showroom {
@@ -15,7 +16,7 @@ class WindowPictureTest : public SessionFixture {
   [[nodiscard]] bool isOutdated() const { return picture.isOutdated(session, false); }
 
   WindowLayout layout{1000, 560, 1};
-  desk::SurfacePointer surface{cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1000, 560)};
+  desk::SurfacePointer surface = desk::imageSurface(1000, 560);
   HardwarePanelHost panel{session.hardware()};
   WindowPicture picture{panel};
 };
@@ -99,12 +100,9 @@ TEST_F(WindowPictureTest, IsOutdatedAtEveryStepOfAnAnimation) {
 
 TEST_F(WindowPictureTest, CoversTheWholeWindow) {
   draw();
-  cairo_surface_flush(surface.get());
-  const unsigned char* const data = cairo_image_surface_get_data(surface.get());
-  const int stride = cairo_image_surface_get_stride(surface.get());
   for (int y = 0; y < 560; y += 5) {
     for (int x = 0; x < 1000; x += 5) {
-      ASSERT_EQ(data[y * stride + x * 4 + 3], 255) << x << " " << y;
+      ASSERT_EQ(desk::pixelAt(surface.get(), x, y).alpha, 255) << x << " " << y;
     }
   }
 }

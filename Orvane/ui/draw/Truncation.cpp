@@ -15,11 +15,6 @@ constexpr const char* ellipsis = "…";
 constexpr double endFraction = 1.0 / 2;
 constexpr double maximumEndFraction = 2.0 / 3;
 
-std::string withoutTrailingBlanks(std::string text) {
-  text.erase(text.find_last_not_of(' ') + 1);
-  return text;
-}
-
 struct Brackets {
   std::size_t begin;
   std::size_t end;
@@ -76,6 +71,11 @@ std::string truncatedLine(const std::string& line, const std::vector<std::size_t
   const auto tooLong = std::ranges::partition_point(
       places, [&](std::size_t place) { return widthOf(lineTo(place)) <= maximumWidth; });
   return lineTo(tooLong == places.begin() ? 0 : *std::prev(tooLong));
+}
+
+std::string withoutTrailingBlanks(std::string text) {
+  text.erase(text.find_last_not_of(' ') + 1);
+  return text;
 }
 
 }  // namespace orvane::ui

@@ -20,4 +20,6 @@ namespace orvane::ui {
                                         double maximumWidth,
                                         const std::function<double(const std::string&)>& widthOf);
 
+[[nodiscard]] std::string withoutTrailingBlanks(std::string text);
+
 }  // namespace orvane::ui

@@ -222,7 +222,7 @@ SemanticsNode ViewHost::semantics() const {
   return tree;
 }
 
-bool ViewHost::perform(std::uint64_t id, SemanticsAction /*action*/) {
+bool ViewHost::press(std::uint64_t id) {
   return tree_.activate(id);
 }
 

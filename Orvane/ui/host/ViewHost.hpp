@@ -105,7 +105,7 @@ class ViewHost {
 
   [[nodiscard]] SemanticsNode semantics() const;
   /// The same as a click on the control with this id. False when there is none or it is disabled.
-  bool perform(std::uint64_t id, SemanticsAction action);
+  bool press(std::uint64_t id);
 
   /// The id, in the semantics tree, of the control with the keyboard focus; 0 without one.
   [[nodiscard]] std::uint64_t focusedId() const { return focus_.id(); }

@@ -59,7 +59,7 @@ class ButtonElement final : public Element {
     control.isEnabled = node.environment->isEnabled;
     control.isFocusable = interaction_.isFocusable;
     control.frame = node.hostFrame();
-    control.actions = {SemanticsAction::press};
+    control.isControl = true;
     for (const SemanticsNode& content : contents) {
       appendTexts(content, control);
     }

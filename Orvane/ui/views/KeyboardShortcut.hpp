@@ -30,11 +30,11 @@ struct KeyboardShortcut {
   std::string characters = {};
 
   /// Return, which also makes a standard button prominent.
-  static KeyboardShortcut defaultAction() { return {.key = Key::enter}; }
+  [[nodiscard]] static KeyboardShortcut defaultAction() { return {.key = Key::enter}; }
   /// Escape.
-  static KeyboardShortcut cancelAction() { return {.key = Key::escape}; }
+  [[nodiscard]] static KeyboardShortcut cancelAction() { return {.key = Key::escape}; }
   /// Command and a character.
-  static KeyboardShortcut command(std::string characters) {
+  [[nodiscard]] static KeyboardShortcut command(std::string characters) {
     return {Key::character, {.command = true}, std::move(characters)};
   }
 

@@ -21,8 +21,6 @@ const char* roleName(Role role) {
       return "radio button";
     case Role::popUpButton:
       return "pop-up button";
-    case Role::link:
-      return "link";
     case Role::scrollArea:
       return "scroll area";
   }

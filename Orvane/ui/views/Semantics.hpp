@@ -18,11 +18,8 @@ enum class Role {
   toggle,
   radioButton,
   popUpButton,
-  link,
   scrollArea
 };
-
-enum class SemanticsAction { press };
 
 struct SemanticsNode {
   /// That of the node. It stays while the view keeps its identity, and is never reused.
@@ -33,16 +30,15 @@ struct SemanticsNode {
   /// The full texts in it that are drawn truncated, which the host also offers as its tooltip;
   /// empty when none is.
   std::string cutText;
+  /// Whether it can be pressed while it is enabled.
+  bool isControl = false;
   bool isEnabled = true;
   bool isSelected = false;
   bool isFocusable = false;
   bool isFocused = false;
   /// As presented, in host coordinates.
   Rect frame;
-  std::vector<SemanticsAction> actions;
   std::vector<SemanticsNode> children;
-
-  [[nodiscard]] bool isControl() const { return !actions.empty(); }
 };
 
 /// Such as "button".

@@ -16,12 +16,8 @@ ContractFixture::ContractFixture() : platform_(std::make_unique<Platform>()) {
 }
 
 ContractFixture::~ContractFixture() {
-  const desk::MachineEnd end = platform_->scope.end();
-  for (const std::string& object : end.leakedObjects) {
-    ADD_FAILURE() << "not released: " << object;
-  }
-  for (const std::string& fault : end.faults) {
-    ADD_FAILURE() << "fault: " << fault;
+  for (const std::string& problem : platform_->scope.end()) {
+    ADD_FAILURE() << problem;
   }
 }
 

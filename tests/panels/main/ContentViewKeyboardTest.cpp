@@ -45,7 +45,7 @@ TEST_F(ContentViewKeyboardTest, TabReachesEveryControlOfTheMainPanelExceptTheTra
   // A screen reader finds the traffic lights, too, and first.
   std::vector<std::string> controls;
   for (const ui::SemanticsNode& node : elements(mainPanel)) {
-    if (node.isControl()) {
+    if (node.isControl) {
       controls.push_back(node.label);
     }
   }
@@ -125,7 +125,7 @@ TEST_F(ContentViewKeyboardTest, TheHiddenCloseButtonIsNoElement) {
   int closes = 0;
   for (const ui::SemanticsNode& node : elements(settingsPanel)) {
     closes += node.label == "Close" ? 1 : 0;
-    EXPECT_FALSE(node.isControl() && node.label.empty());
+    EXPECT_FALSE(node.isControl && node.label.empty());
   }
   EXPECT_EQ(closes, 1);
 }

@@ -166,7 +166,7 @@ TEST_F(OrvaneSettingsViewTest, ACardIsScaledUnderThePointer) {
   EXPECT_NEAR(frameOf("Privacy Policy", settingsPanel).width, before, 1e-6);
 }
 
-TEST_F(OrvaneSettingsViewTest, TheHeaderReportsAMisplacedApplicationAndAnApproval) {
+TEST_F(OrvaneSettingsViewTest, TheHeaderAsksForAMoveToApplicationsOrForApproval) {
   const std::string english = "To open at login, move Orvane to Applications";
   const std::string chinese = "要开机自动运行，请先将 Orvane 移到“应用程序”文件夹";
   machine.bundle.isOnReadOnlyVolume = true;

@@ -1,0 +1,13 @@
+// Quoted text in messages.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orvane::desk {
+
+[[nodiscard]] inline std::string inQuotes(std::string_view text) {
+  return '"' + std::string(text) + '"';
+}
+
+}  // namespace orvane::desk
