@@ -33,6 +33,7 @@ OrvaneModel::OrvaneModel()
       launchAtLoginRequiresApproval_(LoginItem::status() == LoginItem::Status::requiresApproval,
                                      &changes_),
       launchAtLoginErrorMessage_(std::nullopt, &changes_),
+      wantsLaunchAtLogin_(false, &changes_),
       wasLaunchAtLoginBlocked_(false, &changes_) {
   installGuardCallbacks();
   observeScreenChanges();
@@ -175,7 +176,7 @@ void OrvaneModel::refreshLaunchAtLoginStatus() {
 }
 
 void OrvaneModel::setLaunchAtLoginEnabled(bool enabled) {
-  wantsLaunchAtLogin_ = enabled;
+  wantsLaunchAtLogin_.set(enabled);
   wasLaunchAtLoginBlocked_.set(enabled && !OrvaneLoginItem::isInPermanentLocation());
   launchAtLoginErrorMessage_.set(
       wasLaunchAtLoginBlocked_.value() ? std::nullopt : OrvaneLoginItem::setEnabled(enabled));

@@ -139,7 +139,7 @@ class OrvaneModel {
   /// Whether the last change failed and the login item still differs from the user's request.
   [[nodiscard]] bool isLaunchAtLoginFailing() const {
     return launchAtLoginErrorMessage_.value() &&
-           launchAtLoginEnabled_.value() != wantsLaunchAtLogin_;
+           launchAtLoginEnabled_.value() != wantsLaunchAtLogin_.value();
   }
 
   void openAccessibilitySettings();
@@ -179,7 +179,6 @@ class OrvaneModel {
   Published<CFAbsoluteTime> lastCheckedAt_;
   bool isRestoreBlocked_ = false;
   bool isPermissionStale_ = false;
-  bool wantsLaunchAtLogin_ = false;
   /// User actions on the guard, including permission requests, are numbered. The last one
   /// determines the guard's state.
   std::uint64_t userActionCount_ = 0;
@@ -192,6 +191,7 @@ class OrvaneModel {
   Published<bool> launchAtLoginEnabled_;
   Published<bool> launchAtLoginRequiresApproval_;
   Published<std::optional<std::string>> launchAtLoginErrorMessage_;
+  Published<bool> wantsLaunchAtLogin_;
   Published<bool> wasLaunchAtLoginBlocked_;
   DockMouseGuard guardService_;
   std::optional<appkit::ObserverToken> screenObserver_;

@@ -7,6 +7,7 @@
 
 #include "desk/explore/Language.hpp"
 #include "desk/explore/Lines.hpp"
+#include "desk/hand/FindControl.hpp"
 
 namespace orvane::desk::explore {
 
@@ -230,19 +231,14 @@ EffectChecker::Check EffectChecker::checkMenu(const Step& step,
     return Violation{"login", "the login item's status was not read"};
   }
   constexpr std::size_t switches = 3;
-  std::vector<const ui::SemanticsNode*> rows;
-  for (const ui::SemanticsNode* const element : elementsOf(menu->second)) {
-    if (element->isControl()) {
-      rows.push_back(element);
-    }
-  }
+  const std::vector<ui::SemanticsNode> rows = findControls(menu->second);
   const std::optional<std::string>& target = step.after.stored.selected;
   const auto* const chosen = target ? configuration.named(*target) : nullptr;
   for (std::size_t index = 0; index < configuration.screens.size(); ++index) {
     // Displays may share a UUID; the guard then spares the first of them.
     const bool isChosen =
         chosen != nullptr && chosen->names.front() == configuration.screens[index].names.front();
-    if (switches + index >= rows.size() || rows[switches + index]->isSelected != isChosen) {
+    if (switches + index >= rows.size() || rows[switches + index].isSelected != isChosen) {
       return Violation{"menu", "it does not mark the chosen display"};
     }
   }

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "desk/explore/InvariantChecker.hpp"
+#include "desk/hand/FindControl.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk::explore {
@@ -15,20 +16,12 @@ namespace {
 constexpr std::int64_t guideTimeout = 13 * Clock::nanosecondsPerSecond;
 constexpr std::int64_t guideSuccess = 4 * Clock::nanosecondsPerSecond;
 
-const ui::SemanticsNode* findLabel(const ui::SemanticsNode& tree, const std::string& label,
-                                   bool mustBeControl) {
-  for (const ui::SemanticsNode* const element : elementsOf(tree)) {
-    if (element->label == label && (element->isControl || !mustBeControl)) {
-      return element;
-    }
-  }
-  return nullptr;
-}
-
 bool hasPopUpWith(const ui::SemanticsNode& tree, const std::string& value) {
-  return std::ranges::any_of(elementsOf(tree), [&](const ui::SemanticsNode* element) {
-    return element->role == ui::Role::popUpButton && element->value == value;
-  });
+  return findElement(tree,
+                     [&](const ui::SemanticsNode& node) {
+                       return node.role == ui::Role::popUpButton && node.value == value;
+                     })
+      .has_value();
 }
 
 std::string shortcutOf(const std::string& modifier) {
@@ -43,17 +36,13 @@ std::string shortcutOf(const std::string& modifier) {
 
 /// Whether the panel marks as chosen exactly the displays with the identifier of the target.
 bool marksTarget(const ui::SemanticsNode& panel, const Observation& after) {
-  std::vector<const ui::SemanticsNode*> cards;
-  for (const ui::SemanticsNode* const element : elementsOf(panel)) {
-    if (element->role == ui::Role::radioButton) {
-      cards.push_back(element);
-    }
-  }
+  const std::vector<ui::SemanticsNode> cards = findElements(
+      panel, [](const ui::SemanticsNode& node) { return node.role == ui::Role::radioButton; });
   const std::optional<std::string>& target = after.snapshot.selectedDisplayID;
   return std::ranges::equal(cards, after.snapshot.displays,
-                            [&](const ui::SemanticsNode* card, const DisplaySnapshot& display) {
-                              return card->isSelected == (target == display.id) &&
-                                     (display.name.empty() || card->label == display.name);
+                            [&](const ui::SemanticsNode& card, const DisplaySnapshot& display) {
+                              return card.isSelected == (target == display.id) &&
+                                     (display.name.empty() || card.label == display.name);
                             });
 }
 
@@ -78,14 +67,14 @@ InvariantChecker::Check InvariantChecker::checkMenu(const Observation& after) {
   const auto menu = after.trees.find("menu");
   const bool pins = after.isGuardRunning && !after.stored.prevents;
   const bool prevents = after.isGuardRunning && after.stored.prevents;
-  const bool isExpected =
-      !after.isStatusMenuOpen || menu == after.trees.end() ||
-      std::ranges::any_of(languages_, [&](Language language) {
-        const auto* const pin = findLabel(menu->second, labelsIn(language).pin, false);
-        const auto* const prevent = findLabel(menu->second, labelsIn(language).prevent, false);
-        return pin != nullptr && prevent != nullptr && pin->value == (pins ? "1" : "0") &&
-               prevent->value == (prevents ? "1" : "0");
-      });
+  const bool isExpected = !after.isStatusMenuOpen || menu == after.trees.end() ||
+                          std::ranges::any_of(languages_, [&](Language language) {
+                            const auto pin = findLabel(menu->second, labelsIn(language).pin);
+                            const auto prevent =
+                                findLabel(menu->second, labelsIn(language).prevent);
+                            return pin && prevent && pin->value == (pins ? "1" : "0") &&
+                                   prevent->value == (prevents ? "1" : "0");
+                          });
   if (isOverdue("menu", !isExpected, after.now)) {
     return Violation{"menu", "its switches do not match the guard"};
   }
@@ -102,7 +91,7 @@ InvariantChecker::Check InvariantChecker::checkMainPanel(const Observation& afte
   const bool isExpected = std::ranges::any_of(languages_, [&](Language language) {
     const Labels& words = labelsIn(language);
     const auto hasButton = [&](const char* label) {
-      return findLabel(panel->second, label, true) != nullptr;
+      return findControl(panel->second, label).has_value();
     };
     return hasButton(pins ? words.unpin : words.pin) &&
            !hasButton(pins ? words.pin : words.unpin) &&
@@ -136,7 +125,7 @@ InvariantChecker::Check InvariantChecker::checkSettings(const Observation& after
   const bool hasCaption = std::ranges::any_of(languages_, [&](Language language) {
     const Labels& words = labelsIn(language);
     const auto shows = [&](const std::string& text) {
-      return findLabel(panel->second, text, false) != nullptr;
+      return findLabel(panel->second, text).has_value();
     };
     if (model.launchAtLoginRequiresApproval) {
       return shows(words.approve);

@@ -114,7 +114,7 @@ class ArrowsTest(RuleTest):
                    ("application", "settings"), ("application", "windows"),
                    ("script", "application"), ("script", "hand"), ("script", "machine"),
                    ("script", "quartz"), ("script", "windows"), ("explore", "application"),
-                   ("explore", "canvas"), ("explore", "machine"), ("explore", "script"),
+                   ("explore", "canvas"), ("explore", "hand"), ("explore", "machine"), ("explore", "script"),
                    ("explore", "windows")} | {(part, part) for part in parts}
         self.assert_pairs([f"desk/{part}" for part in parts], "",
                           {(f"desk/{a}", f"desk/{b}") for a, b in allowed})

@@ -36,7 +36,7 @@ DESK = {
     "settings": {"hand", "machine", "windows"},
     "application": {"machine", "settings", "windows"},
     "script": {"application", "hand", "machine", "quartz", "windows"},
-    "explore": {"application", "canvas", "machine", "script", "windows"},
+    "explore": {"application", "canvas", "hand", "machine", "script", "windows"},
 }
 SHOWROOM = {
     "desktop": set(),
