@@ -165,9 +165,13 @@ void addSystemCommands(CommandTable& table) {
                                        {"notFound", LoginStatus::notFound}},
                                       "the status")),
             [](Machine& machine, LoginStatus status) { machine.loginItem.status = status; });
-  table.add("login error", takes(text("\"TEXT\"|none")), [](Machine& machine, std::string error) {
-    machine.loginItem.error = error == "none" ? std::nullopt : std::optional(std::move(error));
-  });
+  table.add("login error", takes(text("\"TEXT\"|none")),
+            [](Machine& machine, const std::string& error) {
+              machine.loginItem.error.reset();
+              if (error != "none") {
+                machine.loginItem.error = error;
+              }
+            });
   table.add("links refuse", takes(text("PREFIX")),
             [](Machine& machine, std::string prefix) { machine.links.refuse(std::move(prefix)); });
   table.add("links accept", takes(), [](Machine& machine) { machine.links.acceptAll(); });
