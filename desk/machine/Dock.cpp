@@ -193,4 +193,12 @@ std::int64_t Dock::revealCount(std::uint32_t displayNumber) const {
   return count == reveals_.end() ? 0 : count->second;
 }
 
+std::int64_t Dock::revealCount() const {
+  std::int64_t sum = 0;
+  for (const auto& [number, count] : reveals_) {
+    sum += count;
+  }
+  return sum;
+}
+
 }  // namespace orvane::desk

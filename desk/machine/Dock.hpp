@@ -78,6 +78,8 @@ class Dock {
   /// the start does not count.
   [[nodiscard]] const std::map<std::uint32_t, std::int64_t>& reveals() const { return reveals_; }
   [[nodiscard]] std::int64_t revealCount(std::uint32_t displayNumber) const;
+  /// On all displays together.
+  [[nodiscard]] std::int64_t revealCount() const;
 
  private:
   [[nodiscard]] bool isAtEdge(CGPoint place, const CGRect& frame) const {

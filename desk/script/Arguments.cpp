@@ -47,29 +47,23 @@ std::optional<std::size_t> Arguments::next() const {
              : std::nullopt;
 }
 
-const Word* Arguments::take(std::string_view what) {
+std::string Arguments::text(std::string_view what) {
   const std::optional<std::size_t> place = next();
   if (!place) {
     report(std::string(what) + " is missing");
-    return nullptr;
+    return {};
   }
   isRead_[*place] = true;
   const Word& word = words_[*place];
   if (word.problem) {
     report(*word.problem);
-    return nullptr;
+    return {};
   }
-  return &word;
-}
-
-std::string Arguments::text(std::string_view what) {
-  const Word* const word = take(what);
-  return word != nullptr ? word->text : std::string();
+  return word.text;
 }
 
 double Arguments::number(std::string_view what) {
-  const Word* const word = take(what);
-  return word != nullptr ? checkedNumber(what, word->text) : 0;
+  return checkedNumber(what, text(what));
 }
 
 double Arguments::checkedNumber(std::string_view what, std::string_view text) {
@@ -81,8 +75,7 @@ double Arguments::checkedNumber(std::string_view what, std::string_view text) {
 }
 
 double Arguments::coordinate(std::string_view what) {
-  const Word* const word = take(what);
-  return word != nullptr ? checkedCoordinate(what, word->text) : 0;
+  return checkedCoordinate(what, text(what));
 }
 
 double Arguments::checkedCoordinate(std::string_view what, std::string_view text) {
@@ -99,8 +92,7 @@ std::uint32_t Arguments::displayNumber(std::string_view what) {
 }
 
 std::int64_t Arguments::integer(std::string_view what, std::int64_t lowest, std::int64_t highest) {
-  const Word* const word = take(what);
-  return word != nullptr ? checkedInteger(what, word->text, lowest, highest) : lowest;
+  return checkedInteger(what, text(what), lowest, highest);
 }
 
 std::int64_t Arguments::checkedInteger(std::string_view what, std::string_view text,
@@ -115,26 +107,22 @@ std::int64_t Arguments::checkedInteger(std::string_view what, std::string_view t
 }
 
 std::int64_t Arguments::nanoseconds(std::string_view what, std::int64_t highest) {
-  const Word* const word = take(what);
-  if (word == nullptr) {
+  const std::string word = text(what);
+  if (!parseDecimal(word)) {
+    report(std::string(what) + " must be a decimal number of seconds, not " + excerpt(word));
     return 0;
   }
-  if (!parseDecimal(word->text)) {
-    report(std::string(what) + " must be a decimal number of seconds, not " + excerpt(word->text));
-    return 0;
-  }
-  const std::optional<std::int64_t> value = parseNanoseconds(word->text);
+  const std::optional<std::int64_t> value = parseNanoseconds(word);
   if (!value || *value < 0 || *value > highest) {
     report(std::string(what) + " must be from 0 to " + secondsText(highest) + " seconds, not " +
-           excerpt(word->text));
+           excerpt(word));
     return 0;
   }
   return *value;
 }
 
 std::array<double, 4> Arguments::rectangle(std::string_view what) {
-  const Word* const word = take(what);
-  return word != nullptr ? parseRectangle(what, word->text) : std::array<double, 4>{};
+  return parseRectangle(what, text(what));
 }
 
 std::array<double, 4> Arguments::parseRectangle(std::string_view what, std::string_view text) {
@@ -150,14 +138,10 @@ std::array<double, 4> Arguments::parseRectangle(std::string_view what, std::stri
 }
 
 std::size_t Arguments::choice(std::string_view what, std::span<const std::string_view> choices) {
-  const Word* const word = take(what);
-  if (word == nullptr) {
-    return 0;
-  }
-  const auto found = std::ranges::find(choices, word->text);
+  const std::string word = text(what);
+  const auto found = std::ranges::find(choices, word);
   if (found == choices.end()) {
-    report(std::string(what) + " must be one of " + joined(choices) + ", not " +
-           excerpt(word->text));
+    report(std::string(what) + " must be one of " + joined(choices) + ", not " + excerpt(word));
     return 0;
   }
   return static_cast<std::size_t>(std::distance(choices.begin(), found));

@@ -17,8 +17,8 @@ namespace orvane::desk::script {
 
 /// After an error, reading continues with meaningless values, and the first error is kept; a
 /// command calls `finish` before it has any effect. Positional words are read from left to right;
-/// options
-/// ("key=value") and flags may be anywhere among them. `what` names the argument in an error.
+/// options ("key=value") and flags may be anywhere among them. `what` names the argument in an
+/// error.
 class Arguments {
  public:
   /// The limit of lengths and coordinates, in points: far beyond any desktop, and small enough for
@@ -73,8 +73,6 @@ class Arguments {
 
  private:
   [[nodiscard]] std::optional<std::size_t> next() const;
-  /// Null, with a reported error, when there is none.
-  const Word* take(std::string_view what);
   std::array<double, 4> parseRectangle(std::string_view what, std::string_view text);
   double checkedNumber(std::string_view what, std::string_view text);
   double checkedCoordinate(std::string_view what, std::string_view text);

@@ -37,8 +37,7 @@ std::string textText(const Json& text) {
 std::string arrayText(const Json& array) {
   std::string text = "[";
   for (const Json& element : array) {
-    text += text.size() > 1 ? "," : "";
-    text += jsonText(element);
+    text += (text.size() > 1 ? "," : "") + jsonText(element);
   }
   return text + "]";
 }
@@ -47,9 +46,7 @@ std::string objectText(const Json& object) {
   std::string text = "{";
   for (const auto& [key, value] : object.items()) {
     text += text.size() > 1 ? "," : "";
-    text += textText(key);
-    text += ":";
-    text += jsonText(value);
+    text += textText(key) + ":" + jsonText(value);
   }
   return text + "}";
 }

@@ -1,27 +1,10 @@
 // Paints the layers on each screen, through a canvas in global coordinates.
 #include "showroom/desktop/DesktopPainter.hpp"
 
-#include "showroom/desktop/DockLayer.hpp"
-#include "showroom/desktop/MenuBarLayer.hpp"
+#include "showroom/desktop/DesktopLayers.hpp"
 #include "showroom/desktop/MonitorArt.hpp"
-#include "showroom/desktop/OpenMenuLayer.hpp"
-#include "showroom/desktop/PointerLayer.hpp"
-#include "showroom/desktop/WallpaperLayer.hpp"
-#include "showroom/desktop/WindowLayer.hpp"
-#include "showroom/desktop/ZoneLayer.hpp"
 
 namespace orvane::showroom {
-
-DesktopPainter::DesktopPainter(desk::DrawingResources& resources) : resources_(resources) {
-  layers_.push_back(std::make_unique<WallpaperLayer>());
-  layers_.push_back(std::make_unique<WindowLayer>(WindowLayer::Part::belowMenuBar));
-  layers_.push_back(std::make_unique<DockLayer>());
-  layers_.push_back(std::make_unique<MenuBarLayer>());
-  layers_.push_back(std::make_unique<WindowLayer>(WindowLayer::Part::aboveMenuBar));
-  layers_.push_back(std::make_unique<OpenMenuLayer>());
-  layers_.push_back(std::make_unique<ZoneLayer>());
-  layers_.push_back(std::make_unique<PointerLayer>());
-}
 
 void DesktopPainter::paint(cairo_surface_t* surface, const DesktopLayout& layout,
                            const DesktopScene& scene) {
@@ -47,10 +30,14 @@ void DesktopPainter::paintScreen(cairo_surface_t* surface, const DesktopLayout& 
   cairo_clip(context);
   canvas.transform(ui::Transform::translation(
       {screen.pixels.x / scale - screen.frame.x, screen.pixels.y / scale - screen.frame.y}));
-  const DisplayCanvas display{canvas, resources_, glass_, index, screen.frame, screen.pixels};
-  for (const auto& layer : layers_) {
+  const DisplayCanvas display{canvas, resources_,   glass_,       wallpapers_,
+                              index,  screen.frame, screen.pixels};
+  // Back to front.
+  for (const auto paintLayer :
+       {paintWallpaperLayer, paintWindowLayer, paintDockLayer, paintMenuBarLayer,
+        paintHighWindowLayer, paintOpenMenuLayer, paintZoneLayer, paintPointerLayer}) {
     canvas.save();
-    layer->paint(scene, display);
+    paintLayer(scene, display);
     canvas.restore();
   }
   canvas.restore();

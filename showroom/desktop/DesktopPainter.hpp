@@ -1,13 +1,10 @@
 // DesktopPainter draws every display of the desk, layer by layer.
 #pragma once
 
-#include <memory>
-#include <vector>
-
 #include <cairo.h>
 
 #include "desk/canvas/DrawingResources.hpp"
-#include "showroom/desktop/DesktopLayer.hpp"
+#include "showroom/desktop/DesktopLayers.hpp"
 #include "showroom/desktop/DesktopLayout.hpp"
 #include "showroom/desktop/DesktopScene.hpp"
 
@@ -17,7 +14,7 @@ namespace orvane::showroom {
 class DesktopPainter {
  public:
   /// The resources must outlive the painter.
-  explicit DesktopPainter(desk::DrawingResources& resources);
+  explicit DesktopPainter(desk::DrawingResources& resources) : resources_(resources) {}
 
   /// Paints the layout's pixels of an ARGB32 image surface. The layout must be made from the
   /// machine's present displays.
@@ -29,8 +26,7 @@ class DesktopPainter {
 
   desk::DrawingResources& resources_;
   GlassCache glass_;
-  /// Back to front.
-  std::vector<std::unique_ptr<DesktopLayer>> layers_;
+  WallpaperCache wallpapers_;
 };
 
 }  // namespace orvane::showroom

@@ -27,13 +27,12 @@ void Hardware::makeMain(std::uint32_t number) {
 }
 
 void Hardware::setEdge(desk::DockEdge edge) {
-  machine_.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::orientationKey,
-                           std::string(nameOf(edge)));
+  desk::Dock::store(machine_.preferences, desk::Dock::orientationKey, std::string(nameOf(edge)));
   machine_.runDue();
 }
 
 void Hardware::setAutoHides(bool hides) {
-  machine_.preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, hides);
+  desk::Dock::store(machine_.preferences, desk::Dock::autoHideKey, hides);
   machine_.runDue();
 }
 

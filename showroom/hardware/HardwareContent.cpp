@@ -42,18 +42,6 @@ std::string statusText(const desk::ApplicationHost& application) {
   return {};
 }
 
-std::string revealsText(const desk::Machine& machine) {
-  std::int64_t sum = 0;
-  for (const auto& [number, count] : machine.dock.reveals()) {
-    sum += count;
-  }
-  return std::to_string(sum);
-}
-
-std::string blockedText(const desk::ApplicationHost& application) {
-  return std::to_string(application.snapshot().guard.blockedCount);
-}
-
 }  // namespace
 
 HardwareContent HardwareContent::of(const Hardware& hardware, std::int64_t eventsPerSecond) {
@@ -71,9 +59,9 @@ HardwareContent HardwareContent::of(const Hardware& hardware, std::int64_t event
   content.isRunning = hardware.isRunning();
   content.showsZones = hardware.showsZones();
   content.counters = {{"Dock on", dockText(machine)},
-                      {"Dock came up", revealsText(machine)},
+                      {"Dock came up", std::to_string(machine.dock.revealCount())},
                       {"Orvane", statusText(application)},
-                      {"Moved back", blockedText(application)},
+                      {"Moved back", std::to_string(application.snapshot().guard.blockedCount)},
                       {"Movements", std::to_string(machine.counters.hardwareMovements)},
                       {"Events per second", std::to_string(eventsPerSecond)}};
   if (!application.messages().empty()) {

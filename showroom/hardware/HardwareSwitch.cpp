@@ -6,7 +6,6 @@
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
-#include "showroom/hardware/HardwareButtonStyle.hpp"
 
 namespace orvane::showroom {
 

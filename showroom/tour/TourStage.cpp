@@ -227,4 +227,8 @@ bool TourStage::isDockOn(std::uint32_t displayNumber) {
   return machine().dock.displayNumber() == displayNumber;
 }
 
+bool TourStage::isOpen(const std::string& surface) {
+  return desk::Surfaces(desk::WindowServer::current()).isOpen(surface);
+}
+
 }  // namespace orvane::showroom

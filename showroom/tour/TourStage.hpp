@@ -58,6 +58,7 @@ class TourStage {
   /// The name of the Dock's display.
   [[nodiscard]] std::string dockPlace();
   [[nodiscard]] bool isDockOn(std::uint32_t displayNumber);
+  [[nodiscard]] bool isOpen(const std::string& surface);
 
   [[nodiscard]] bool hasPassed() const { return hasPassed_; }
   [[nodiscard]] bool failedToWrite() const { return failedToWrite_; }

@@ -21,20 +21,12 @@ std::string counted(std::int64_t count, const std::string& thing) {
   return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
 }
 
-std::int64_t reveals(TourStage& stage) {
-  std::int64_t sum = 0;
-  for (const auto& [number, count] : stage.machine().dock.reveals()) {
-    sum += count;
-  }
-  return sum;
-}
-
-std::size_t zoneCount(TourStage& stage) {
-  return stage.snapshot().guard.zones.size();
+std::int64_t zoneCount(TourStage& stage) {
+  return static_cast<std::int64_t>(stage.snapshot().guard.zones.size());
 }
 
 void setAutoHide(TourStage& stage, bool hides) {
-  stage.machine().preferences.set({desk::Dock::preferencesDomain}, desk::Dock::autoHideKey, hides);
+  desk::Dock::store(stage.machine().preferences, desk::Dock::autoHideKey, hides);
 }
 
 /// Advances the machine, which starts at midnight, to this time of day.
@@ -58,7 +50,8 @@ void showUnguardedDock(TourStage& stage) {
 
   stage.pressLowerEdge(right, 3, 0.05);
   machine.advance(0.4);
-  stage.check(stage.isDockOn(right) && reveals(stage) == 1, "the Dock followed the pointer");
+  stage.check(stage.isDockOn(right) && machine.dock.revealCount() == 1,
+              "the Dock followed the pointer");
   stage.addStep(
       "The pointer presses against the lower edge of the other display, and the Dock "
       "follows it to " +
@@ -67,9 +60,10 @@ void showUnguardedDock(TourStage& stage) {
   stage.moveAway(builtIn);
   stage.pressLowerEdge(builtIn, 3, 0.05);
   machine.advance(0.4);
-  stage.check(stage.isDockOn(builtIn) && reveals(stage) == 2, "the Dock followed it back");
+  stage.check(stage.isDockOn(builtIn) && machine.dock.revealCount() == 2,
+              "the Dock followed it back");
   stage.addStep("A touch of the edge of " + stage.dockPlace() + " takes it back there: " +
-                counted(reveals(stage), "jump") + " that nobody asked for.");
+                counted(machine.dock.revealCount(), "jump") + " that nobody asked for.");
 }
 
 void showMenu(TourStage& stage) {
@@ -94,15 +88,14 @@ void showPermission(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.click("Pin Dock", desk::Surfaces::menu);
   machine.advance(0.5);
-  stage.check(desk::Surfaces(desk::WindowServer::current()).isOpen("alert"), "the alert is open");
+  stage.check(stage.isOpen("alert"), "the alert is open");
   stage.check(!stage.snapshot().guard.isRunning, "nothing is guarded without the permission");
   stage.addStep("Pin Dock: watching the pointer needs a permission, and Orvane says so first.");
 
   stage.click("Open Privacy Settings", "alert");
   machine.advance(2.5);
-  stage.check(desk::Surfaces(desk::WindowServer::current()).isOpen("system"),
-              "the settings are open");
-  stage.check(desk::Surfaces(desk::WindowServer::current()).isOpen("guide"), "the guide is there");
+  stage.check(stage.isOpen("system"), "the settings are open");
+  stage.check(stage.isOpen("guide"), "the guide is there");
   stage.addStep("The System Settings open on the right page, and a small guide waits beside them.");
 
   stage.dropIcon();
@@ -113,7 +106,7 @@ void showPermission(TourStage& stage) {
   stage.check(stage.snapshot().selectedDisplayID == target->uuid,
               "the Dock's own display is the target");
   stage.check(desk::WindowServer::current().statusBar.item()->image->name == "lock.fill" &&
-                  desk::Surfaces(desk::WindowServer::current()).isOpen("guide"),
+                  stage.isOpen("guide"),
               "the lock is closed, and the guide says so");
   stage.addStep(
       "Its icon dropped onto the list is all it takes: the lock closes, the Dock belongs to " +
@@ -127,14 +120,13 @@ void showPinning(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.moveAway(builtIn);
   stage.showZones();
-  const std::int64_t jumps = reveals(stage);
+  const std::int64_t jumps = machine.dock.revealCount();
   stage.pressLowerEdge(right, 60, 0.05);
   const std::int64_t blocked = stage.snapshot().guard.blockedCount;
   stage.check(blocked == 60, "all sixty touches were moved back");
-  stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the Dock stayed");
+  stage.check(stage.isDockOn(builtIn) && machine.dock.revealCount() == jumps, "the Dock stayed");
   machine.advance(0.1);
-  stage.addStep("The same pressing again, 60 times: " +
-                counted(static_cast<std::int64_t>(zoneCount(stage)), "trigger zone") +
+  stage.addStep("The same pressing again, 60 times: " + counted(zoneCount(stage), "trigger zone") +
                 " moves the pointer back " + counted(blocked, "time") + ", and the Dock stays on " +
                 stage.dockPlace() + ".");
 }
@@ -155,10 +147,11 @@ void showModifier(TourStage& stage) {
   stage.pressLowerEdge(builtIn, 3, 0.05);
   machine.advance(0.4);
   stage.moveAway(right);
-  const std::int64_t jumps = reveals(stage);
+  const std::int64_t jumps = machine.dock.revealCount();
   stage.pressLowerEdge(right, 20, 0.05);
   stage.check(!stage.snapshot().isTemporarilyUnlocked, "the guard is locked again");
-  stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the Dock stays at home");
+  stage.check(stage.isDockOn(builtIn) && machine.dock.revealCount() == jumps,
+              "the Dock stays at home");
   stage.addStep("The key is released and the Dock taken home; from now on it stays on " +
                 stage.dockPlace() + " again.");
 }
@@ -168,7 +161,7 @@ void showWindow(TourStage& stage) {
   stage.clickIcon(builtIn);
   stage.click("Open Window", desk::Surfaces::menu);
   machine.advance(1);
-  stage.check(desk::Surfaces(desk::WindowServer::current()).isOpen("main"), "the window is open");
+  stage.check(stage.isOpen("main"), "the window is open");
   stage.writeCloseUp("main-panel", "main");
   stage.addStep(
       "The window shows the same with more room: a card for each display, and what is on.");
@@ -180,14 +173,12 @@ void showWindow(TourStage& stage) {
   stage.pick("Language", "Chinese", "settings");
   machine.advance(1);
   stage.check(stage.snapshot().appLanguage == OrvaneLanguage::chinese, "the language is Chinese");
-  stage.check(desk::Surfaces(desk::WindowServer::current()).isOpen("settings"),
-              "the settings are open");
+  stage.check(stage.isOpen("settings"), "the settings are open");
   stage.addStep("In the settings: the language, here Chinese at once, and the key that unlocks.");
 
   stage.pick("语言", "跟随系统", "settings");
   stage.pressEscape();
-  stage.check(!desk::Surfaces(desk::WindowServer::current()).isOpen("settings"),
-              "the settings are closed");
+  stage.check(!stage.isOpen("settings"), "the settings are closed");
 }
 
 void showPreventing(TourStage& stage) {
@@ -212,18 +203,19 @@ void showPreventing(TourStage& stage) {
   stage.check(stage.snapshot().guard.isRunning && zoneCount(stage) == 2, "two zones are guarded");
   stage.check(!machine.dock.isVisible(), "the Dock is hidden");
   stage.addStep("Prevent Dock Pop-Up: now every display has its trigger zone, " +
-                counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") + " in all.");
+                counted(zoneCount(stage), "zone") + " in all.");
 
-  const std::int64_t jumps = reveals(stage);
+  const std::int64_t jumps = machine.dock.revealCount();
   const std::int64_t blocked = stage.snapshot().guard.blockedCount;
   stage.pressLowerEdge(builtIn, 40, 0.05);
   stage.moveAway(builtIn);
   stage.pressLowerEdge(right, 40, 0.05);
   const std::int64_t touches = stage.snapshot().guard.blockedCount - blocked;
   stage.check(touches == 80, "all eighty touches were moved back");
-  stage.check(reveals(stage) == jumps && !machine.dock.isVisible(), "the Dock never came up");
+  stage.check(machine.dock.revealCount() == jumps && !machine.dock.isVisible(),
+              "the Dock never came up");
   stage.addStep(std::to_string(touches) + " touches of both edges: the Dock comes up " +
-                counted(reveals(stage) - jumps, "time") + ".");
+                counted(machine.dock.revealCount() - jumps, "time") + ".");
 }
 
 void showShutOff(TourStage& stage) {
@@ -249,7 +241,7 @@ void showPlugging(TourStage& stage) {
   stage.check(machine.displays.count() == 3, "there are three displays");
   stage.check(stage.snapshot().guard.isRunning && zoneCount(stage) == 3, "three zones are guarded");
   stage.addStep("Evening. A third display is plugged in, and with it the guard is back: " +
-                counted(static_cast<std::int64_t>(zoneCount(stage)), "zone") + ".");
+                counted(zoneCount(stage), "zone") + ".");
 
   setAutoHide(stage, false);
   stage.clickIcon(builtIn);
@@ -267,12 +259,12 @@ void showPlugging(TourStage& stage) {
   stage.pressLowerEdge(left, 3, 0.05);
   machine.advance(0.4);
   stage.check(stage.isDockOn(left) && zoneCount(stage) == 2, "the Dock is on the third display");
-  const std::int64_t jumps = reveals(stage);
+  const std::int64_t jumps = machine.dock.revealCount();
   stage.moveAway(builtIn);
   stage.pressLowerEdge(builtIn, 40, 0.05);
   stage.moveAway(right);
   stage.pressLowerEdge(right, 40, 0.05);
-  stage.check(stage.isDockOn(left) && reveals(stage) == jumps, "the Dock stayed");
+  stage.check(stage.isDockOn(left) && machine.dock.revealCount() == jumps, "the Dock stayed");
   stage.addStep("One touch fetches it there; touching the edges of " + stage.nameOf(builtIn) +
                 " and " + stage.nameOf(right) + " changes nothing.");
 }
@@ -281,12 +273,13 @@ void showUnplugging(TourStage& stage) {
   desk::Machine& machine = stage.machine();
   stage.moveAway(builtIn);
   const std::string target = stage.nameOf(left);
-  const std::int64_t jumps = reveals(stage);
+  const std::int64_t jumps = machine.dock.revealCount();
   stage.check(!machine.displays.detach(left), "the display can be unplugged");
   machine.advance(0.5);
   stage.check(!stage.snapshot().guard.isRunning && zoneCount(stage) == 0, "the guard pauses");
   stage.check(stage.snapshot().status == OrvaneStatus::targetMissing, "the target is missing");
-  stage.check(stage.isDockOn(builtIn) && reveals(stage) == jumps, "the system moved the Dock");
+  stage.check(stage.isDockOn(builtIn) && machine.dock.revealCount() == jumps,
+              "the system moved the Dock");
   stage.addStep(target + " is unplugged. The system moves the Dock to " + stage.dockPlace() +
                 "; Orvane pauses and remembers.");
 
@@ -297,9 +290,10 @@ void showUnplugging(TourStage& stage) {
   stage.pressLowerEdge(left, 3, 0.05);
   machine.advance(0.4);
   stage.moveAway(right);
-  const std::int64_t jumpsSince = reveals(stage);
+  const std::int64_t jumpsSince = machine.dock.revealCount();
   stage.pressLowerEdge(right, 40, 0.05);
-  stage.check(stage.isDockOn(left) && reveals(stage) == jumpsSince, "the Dock is pinned again");
+  stage.check(stage.isDockOn(left) && machine.dock.revealCount() == jumpsSince,
+              "the Dock is pinned again");
   stage.addStep(
       "Plugged in again: the guard is back by itself, and the Dock, fetched with one touch, "
       "stays on " +
@@ -312,7 +306,7 @@ void showUnplugging(TourStage& stage) {
   machine.advance(1);
   stage.pressLowerEdge(right, 40, 0.05);
   stage.check(stage.snapshot().guard.isRunning, "the lock is restored");
-  stage.check(stage.isDockOn(left) && reveals(stage) == jumpsSince, "the Dock stayed");
+  stage.check(stage.isDockOn(left) && machine.dock.revealCount() == jumpsSince, "the Dock stayed");
   stage.addStep(
       "Orvane is quit and launched again: the lock is restored, and the Dock is where it "
       "belongs, on " +

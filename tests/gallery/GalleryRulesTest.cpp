@@ -14,6 +14,7 @@
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
+#include "desk/hand/FindControl.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
 #include "showroom/gallery/SheetBackground.hpp"
 #include "showroom/gallery/Specimen.hpp"
@@ -139,8 +140,7 @@ class GalleryRulesTest : public desk::MachineFixture,
     host.paint(collector, {0, 0, host.size().width, host.size().height});
     runs_ = collector.runs();
     std::erase_if(runs_, [](const TextRun& run) { return run.visible.isEmpty(); });
-    nodes_.clear();
-    collect(host.semantics());
+    nodes_ = desk::findElements(host.semantics(), [](const ui::SemanticsNode&) { return true; });
     expectTruncatedTextsToHaveATooltip(host);
     expectNothingIsClipped(host);
     expectNoTextsOverlap();
@@ -156,13 +156,6 @@ class GalleryRulesTest : public desk::MachineFixture,
   std::size_t textCount = 0;
 
  private:
-  void collect(const ui::SemanticsNode& node) {
-    nodes_.push_back(node);
-    for (const ui::SemanticsNode& child : node.children) {
-      collect(child);
-    }
-  }
-
   void expectTruncatedTextsToHaveATooltip(const ui::ViewHost& host) const {
     for (const TextRun& run : runs_) {
       const bool isSoInSemantics = std::ranges::any_of(nodes_, [&](const ui::SemanticsNode& node) {

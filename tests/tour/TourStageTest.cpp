@@ -89,7 +89,7 @@ TEST_F(TourStageTest, ClicksControlsAndMenuItems) {
   stage.pick("Language", "Chinese", "settings");
   EXPECT_EQ(stage.snapshot().appLanguage, OrvaneLanguage::chinese);
   stage.pressEscape();
-  EXPECT_FALSE(desk::Surfaces(desk::WindowServer::current()).isOpen("settings"));
+  EXPECT_FALSE(stage.isOpen("settings"));
   stage.click("固定 Dock", "main");
   EXPECT_TRUE(stage.snapshot().guard.isRunning);
   EXPECT_TRUE(stage.hasPassed()) << errors.str();

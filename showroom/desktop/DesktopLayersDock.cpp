@@ -1,6 +1,5 @@
 // A glass shelf with tiles.
-#include "showroom/desktop/DockLayer.hpp"
-
+#include "showroom/desktop/DesktopLayers.hpp"
 #include "showroom/desktop/DockShelf.hpp"
 #include "showroom/desktop/DockTileArt.hpp"
 #include "showroom/desktop/Glass.hpp"
@@ -47,7 +46,7 @@ ui::Rect runningDot(const ui::Rect& tile, desk::DockEdge edge, double factor) {
 
 }  // namespace
 
-void DockLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+void paintDockLayer(const DesktopScene& scene, const DisplayCanvas& display) {
   const desk::Dock& dock = scene.machine.dock;
   const double shown = dock.shownFraction();
   if (dock.displayIndex() != display.displayIndex || shown <= 0) {

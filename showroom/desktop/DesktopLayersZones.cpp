@@ -1,10 +1,9 @@
 // Zones are translucent.
-#include "showroom/desktop/ZoneLayer.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
+#include "showroom/desktop/DesktopLayers.hpp"
 #include "showroom/desktop/Rects.hpp"
 
 namespace orvane::showroom {
@@ -91,7 +90,7 @@ void paintMovedBack(cairo_t* context, const MovedBack& movedBack) {
 
 }  // namespace
 
-void ZoneLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+void paintZoneLayer(const DesktopScene& scene, const DisplayCanvas& display) {
   cairo_t* const context = display.canvas.context();
   if (scene.showsZones) {
     for (const TriggerZone& zone : scene.zones) {

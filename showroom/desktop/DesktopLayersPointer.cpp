@@ -1,7 +1,7 @@
 // A dark arrow with a white border, its tip at the pointer's location.
-#include "showroom/desktop/PointerLayer.hpp"
-
 #include <array>
+
+#include "showroom/desktop/DesktopLayers.hpp"
 
 namespace orvane::showroom {
 
@@ -21,7 +21,7 @@ void addArrow(cairo_t* context) {
 
 }  // namespace
 
-void PointerLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+void paintPointerLayer(const DesktopScene& scene, const DisplayCanvas& display) {
   if (scene.onlySurface) {
     return;
   }

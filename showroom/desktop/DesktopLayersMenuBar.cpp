@@ -1,10 +1,9 @@
 // The items at the right are laid out from the right edge, so the clock's width does not move them.
-#include "showroom/desktop/MenuBarLayer.hpp"
-
 #include <array>
 #include <string>
 
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/DesktopLayers.hpp"
 #include "showroom/desktop/Glass.hpp"
 #include "showroom/desktop/MenuClock.hpp"
 #include "showroom/desktop/Rects.hpp"
@@ -48,7 +47,7 @@ bool isMenuOpen(const DesktopScene& scene, std::size_t displayIndex) {
 
 }  // namespace
 
-void MenuBarLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+void paintMenuBarLayer(const DesktopScene& scene, const DisplayCanvas& display) {
   const bool isDark = scene.machine.appearance.isDark;
   const ui::Rect& frame = display.frame;
   desk::CairoCanvas& canvas = display.canvas;

@@ -1,10 +1,9 @@
 // Paints the menu with the metrics of its layout.
-#include "showroom/desktop/OpenMenuLayer.hpp"
-
 #include "Orvane/ui/draw/StandardColors.hpp"
 #include "desk/windows/MenuMetrics.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/DesktopLayers.hpp"
 #include "showroom/desktop/FileDragArt.hpp"
 #include "showroom/desktop/Glass.hpp"
 #include "showroom/desktop/Rects.hpp"
@@ -92,7 +91,7 @@ void paintTooltip(desk::CairoCanvas& canvas, desk::WindowServer& server, const u
 
 }  // namespace
 
-void OpenMenuLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+void paintOpenMenuLayer(const DesktopScene& scene, const DisplayCanvas& display) {
   desk::WindowServer* const server = desk::WindowServer::of(scene.machine);
   if (server == nullptr) {
     return;

@@ -1,13 +1,14 @@
 // Skips windows whose shadow does not reach the display.
-#include "showroom/desktop/WindowLayer.hpp"
-
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/DesktopLayers.hpp"
 #include "showroom/desktop/WindowArt.hpp"
 
 namespace orvane::showroom {
 
-void WindowLayer::paint(const DesktopScene& scene, const DisplayCanvas& display) {
+namespace {
+
+void paintWindows(const DesktopScene& scene, const DisplayCanvas& display, bool areAboveMenuBar) {
   desk::WindowServer* const server = desk::WindowServer::of(scene.machine);
   if (server == nullptr) {
     return;
@@ -16,7 +17,7 @@ void WindowLayer::paint(const DesktopScene& scene, const DisplayCanvas& display)
     const bool isAbove = window->level >= appkit::WindowLevel::status;
     const bool isWanted =
         !scene.onlySurface || *scene.onlySurface == desk::Surfaces::nameOf(*window);
-    if (!server->isVisible(*window) || !isWanted || isAbove != (part_ == Part::aboveMenuBar)) {
+    if (!server->isVisible(*window) || !isWanted || isAbove != areAboveMenuBar) {
       continue;
     }
     const CGPoint corner = server->topLeftOf(*window);
@@ -27,6 +28,16 @@ void WindowLayer::paint(const DesktopScene& scene, const DisplayCanvas& display)
       display.canvas.restore();
     }
   }
+}
+
+}  // namespace
+
+void paintWindowLayer(const DesktopScene& scene, const DisplayCanvas& display) {
+  paintWindows(scene, display, false);
+}
+
+void paintHighWindowLayer(const DesktopScene& scene, const DisplayCanvas& display) {
+  paintWindows(scene, display, true);
 }
 
 }  // namespace orvane::showroom
