@@ -232,15 +232,23 @@ InvariantChecker::Check InvariantChecker::checkGuard(const Observation& before,
   if (untrustedAt_ && after.now - *untrustedAt_ <= Clock::nanosecondsPerSecond) {
     return std::nullopt;
   }
-  const GuardSnapshot& guard = after.snapshot.guard;
-  const GuardGoal goal = after.stored.goal();
+  Check problem = checkGuardSettings(after.snapshot.guard, after.stored);
+  // In a modal session the model learns of new displays later, so a guard that has waited for them
+  // starts with the settings of its stop.
+  const bool isExcused = problem && after.isQueueHeld;
+  return isOverdue("guard settings", isExcused, after.now) || !isExcused ? problem : std::nullopt;
+}
+
+InvariantChecker::Check InvariantChecker::checkGuardSettings(const GuardSnapshot& guard,
+                                                             const Stored& stored) const {
+  const GuardGoal goal = stored.goal();
   if (guard.blocksAllDisplays != goal.prevents) {
     return Violation{"guard", "it runs in the wrong mode",
                      "guard.blocksAllDisplays " + yesNo(goal.prevents)};
   }
-  if (static_cast<std::uint64_t>(guard.overrideModifier.flagMask()) != after.stored.unlockMask()) {
+  if (static_cast<std::uint64_t>(guard.overrideModifier.flagMask()) != stored.unlockMask()) {
     return Violation{"guard", "it has the wrong unlock key",
-                     "guard.overrideModifier \"" + after.stored.modifier + "\""};
+                     "guard.overrideModifier \"" + stored.modifier + "\""};
   }
   std::optional<std::string> problem;
   for (const DisplayConfiguration& configuration : filter_.configurations()) {

@@ -48,6 +48,7 @@ class InvariantChecker {
   [[nodiscard]] Check checkObjects(const Observation& after) const;
   [[nodiscard]] Check checkDock(const Observation& before, const Observation& after) const;
   [[nodiscard]] Check checkGuard(const Observation& before, const Observation& after);
+  [[nodiscard]] Check checkGuardSettings(const GuardSnapshot& guard, const Stored& stored) const;
   [[nodiscard]] Check checkPermission(const Observation& after);
   [[nodiscard]] Check checkModel(const Observation& after) const;
   [[nodiscard]] Check checkStatus(const Observation& after) const;

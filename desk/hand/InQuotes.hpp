@@ -7,7 +7,10 @@
 namespace orvane::desk {
 
 [[nodiscard]] inline std::string inQuotes(std::string_view text) {
-  return '"' + std::string(text) + '"';
+  std::string quoted = "\"";
+  quoted += text;
+  quoted += '"';
+  return quoted;
 }
 
 }  // namespace orvane::desk

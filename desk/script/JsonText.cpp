@@ -37,7 +37,8 @@ std::string textText(const Json& text) {
 std::string arrayText(const Json& array) {
   std::string text = "[";
   for (const Json& element : array) {
-    text += (text.size() > 1 ? "," : "") + jsonText(element);
+    text += text.size() > 1 ? "," : "";
+    text += jsonText(element);
   }
   return text + "]";
 }
