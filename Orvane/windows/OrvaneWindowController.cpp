@@ -69,13 +69,6 @@ void OrvaneWindowController::showSettings(OrvaneModel& model) {
 }
 
 void OrvaneWindowController::placeSettings() {
-  if (!window_) {
-    if (const auto screen = appkit::Screen::mainScreen()) {
-      settingsWindow_->setFrameOrigin(
-          originCentredIn(screen->visibleFrame(), OrvaneSettingsWindow::contentSize));
-    }
-    return;
-  }
   settingsWindow_->setFrameOrigin(originCentredIn(window_->frame(), settingsWindow_->frame().size));
   const std::vector<appkit::Window> children = window_->childWindows();
   if (std::ranges::find(children, static_cast<const appkit::Window&>(*settingsWindow_)) ==

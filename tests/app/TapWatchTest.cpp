@@ -130,6 +130,7 @@ TEST_F(TapWatchTest, ALockRevokedWhileItsDisplayWasDetachedResumes) {
   machine.runDue();
   ASSERT_FALSE(model->isGuardRunning());
   machine.permission.setTrusted(false);
+  EXPECT_TRUE(model->guardService().snapshot().isObservingScreens) << "there is no tap to remove";
   desk::attach(machine, desk::laptop());
   machine.runDue();
   ASSERT_FALSE(model->isGuardRunning());

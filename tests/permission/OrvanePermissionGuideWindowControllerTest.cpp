@@ -83,6 +83,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAnyway)
   EXPECT_FALSE(machine.displays.detach(1));
   EXPECT_FALSE(machine.displays.detach(2));
   show();
+  expectGuideOrigin(0, 0);
   EXPECT_TRUE(isGuideVisible());
   EXPECT_TRUE(isPolling());
 }
