@@ -100,19 +100,12 @@ void OrvaneWindowController::settingsWindowWillClose() {
     window_->removeChildWindow(*settingsWindow_);
   }
   settingsWindow_.reset();
-  restoreActivationPolicy();
 }
 
 void OrvaneWindowController::windowWillClose() {
   closeSettingsWindow();
   window_.reset();
-  restoreActivationPolicy();
-}
-
-void OrvaneWindowController::restoreActivationPolicy() {
-  if (!window_ && !settingsWindow_) {
-    Application::setActivationPolicy(appkit::ActivationPolicy::accessory);
-  }
+  Application::setActivationPolicy(appkit::ActivationPolicy::accessory);
 }
 
 }  // namespace orvane
