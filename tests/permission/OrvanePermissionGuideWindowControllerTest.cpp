@@ -47,6 +47,8 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ThePanelFloatsAndDoesNotActiva
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsCreatedOnceAndNotShown) {
+  EXPECT_EQ(OrvanePermissionGuideWindowController::snapshot().frame.size.width, 0)
+      << "a snapshot does not create it";
   guide();
   expectGuideOrigin(1280, 313);
   EXPECT_FALSE(isGuideVisible());
