@@ -277,6 +277,9 @@ TEST_F(TapWatchTest, ATapRefusedAtAUserActionMakesNoPermissionStale) {
   model->toggleSelectedDisplayLock();
   machine.advance(5);
   EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
+  machine.eventTaps.setRefusesCreation(false);
+  machine.observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
+  EXPECT_TRUE(isTapEnabled());
 }
 
 TEST_F(TapWatchTest, AGuardThatShutItselfOffStaysOff) {
