@@ -69,13 +69,6 @@ void OrvaneWindowController::showSettings(OrvaneModel& model) {
 }
 
 void OrvaneWindowController::placeSettings() {
-  if (!window_) {
-    if (const auto screen = appkit::Screen::mainScreen()) {
-      settingsWindow_->setFrameOrigin(
-          originCentredIn(screen->visibleFrame(), OrvaneSettingsWindow::contentSize));
-    }
-    return;
-  }
   settingsWindow_->setFrameOrigin(originCentredIn(window_->frame(), settingsWindow_->frame().size));
   const std::vector<appkit::Window> children = window_->childWindows();
   if (std::ranges::find(children, static_cast<const appkit::Window&>(*settingsWindow_)) ==
@@ -107,19 +100,12 @@ void OrvaneWindowController::settingsWindowWillClose() {
     window_->removeChildWindow(*settingsWindow_);
   }
   settingsWindow_.reset();
-  restoreActivationPolicy();
 }
 
 void OrvaneWindowController::windowWillClose() {
   closeSettingsWindow();
   window_.reset();
-  restoreActivationPolicy();
-}
-
-void OrvaneWindowController::restoreActivationPolicy() {
-  if (!window_ && !settingsWindow_) {
-    Application::setActivationPolicy(appkit::ActivationPolicy::accessory);
-  }
+  Application::setActivationPolicy(appkit::ActivationPolicy::accessory);
 }
 
 }  // namespace orvane

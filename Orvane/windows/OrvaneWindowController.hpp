@@ -53,8 +53,6 @@ class OrvaneWindowController {
   void placeSettings();
   void windowWillClose();
   void settingsWindowWillClose();
-  /// Once both panels are closed.
-  void restoreActivationPolicy();
 
   Contents contents_;
   std::optional<OrvaneWindow> window_;

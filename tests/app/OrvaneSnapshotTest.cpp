@@ -49,6 +49,9 @@ TEST_F(OrvaneSnapshotTest, ReportsTheVisibleWindows) {
   EXPECT_FALSE(now().showsSettings);
   command(",");
   EXPECT_TRUE(now().showsSettings);
+  server().miniaturize(desk::Surfaces(server()).window("main"));
+  EXPECT_FALSE(now().showsMainPanel);
+  application.reopen();
   EXPECT_EQ(hand.close("main"), std::nullopt);
   EXPECT_FALSE(now().showsMainPanel);
   EXPECT_FALSE(now().showsSettings);

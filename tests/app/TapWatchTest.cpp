@@ -130,6 +130,7 @@ TEST_F(TapWatchTest, ALockRevokedWhileItsDisplayWasDetachedResumes) {
   machine.runDue();
   ASSERT_FALSE(model->isGuardRunning());
   machine.permission.setTrusted(false);
+  EXPECT_TRUE(model->guardService().snapshot().isObservingScreens) << "there is no tap to remove";
   desk::attach(machine, desk::laptop());
   machine.runDue();
   ASSERT_FALSE(model->isGuardRunning());
@@ -276,6 +277,9 @@ TEST_F(TapWatchTest, ATapRefusedAtAUserActionMakesNoPermissionStale) {
   model->toggleSelectedDisplayLock();
   machine.advance(5);
   EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
+  machine.eventTaps.setRefusesCreation(false);
+  machine.observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
+  EXPECT_TRUE(isTapEnabled());
 }
 
 TEST_F(TapWatchTest, AGuardThatShutItselfOffStaysOff) {

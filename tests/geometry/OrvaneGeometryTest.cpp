@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <limits>
 #include <set>
+#include <span>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -35,6 +36,14 @@ TEST(OrvaneGeometryTest, AMirrorIsNotANeighbour) {
   EXPECT_EQ(exposedIntervals(flat, bottom, Frames{flat, flat}), (Intervals{{0, 100}}));
 }
 
+TEST(OrvaneGeometryTest, ANeighbourAlongHalfAPointCoversNothing) {
+  const auto exposedBeside = [](double shared) {
+    return exposedIntervals(displayA, bottom, Frames{displayA, {{shared - 100, 1080}, {100, 100}}});
+  };
+  EXPECT_EQ(exposedBeside(0.5), (Intervals{{0, 1920}}));
+  EXPECT_EQ(exposedBeside(0.5625), (Intervals{{0.5625, 1920}}));
+}
+
 TEST(OrvaneGeometryTest, EachMirroredDisplayGetsItsZone) {
   const Zones zones = calculateTriggerZones(Frames{displayA, displayA}, Indices{0, 1}, bottom);
   ASSERT_EQ(zones.size(), 2U);
@@ -60,7 +69,9 @@ TEST(OrvaneGeometryTest, IndicesWithoutADisplayAreIgnored) {
   const Frames frames{displayA, {{1920, 0}, {1920, 1080}}};
   EXPECT_EQ(calculateTriggerZones(frames, std::numeric_limits<std::size_t>::max(), bottom),
             Zones{});
-  EXPECT_EQ(calculateTriggerZones(frames, Indices{1, 2, 77}, bottom),
+  Frames more = frames;
+  more.push_back({{0, 2000}, {100, 100}});
+  EXPECT_EQ(calculateTriggerZones(std::span(more).first(2), Indices{1, 2, 77}, bottom),
             calculateTriggerZones(frames, Indices{1}, bottom));
 }
 

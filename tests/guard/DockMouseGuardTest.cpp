@@ -279,5 +279,16 @@ TEST_F(DockMouseGuardTest, AStartWhoseTapIsRefusedEndsATemporaryUnlock) {
   EXPECT_EQ(unlocks, (Unlocks{true, false}));
 }
 
+TEST_F(DockMouseGuardTest, ARefusedReplacementOfATapEndsATemporaryUnlock) {
+  startPinned();
+  outcomeOf(outsideEveryZone, kCGEventFlagMaskAlternate);
+  machine.eventTaps.disableAllSilently(true);
+  guard->reviveTap();
+  machine.eventTaps.setRefusesCreation(true);
+  guard->reviveTap();
+  machine.runDue();
+  EXPECT_EQ(unlocks, (Unlocks{true, false}));
+}
+
 }  // namespace
 }  // namespace orvane

@@ -80,9 +80,10 @@ class VerdictTest(unittest.TestCase):
                                      ' "configurePresets": [{"name": "desk", "generator": "Ninja"}]}',
                 "CMakeLists.txt": "cmake_minimum_required(VERSION 3.25)\nproject(P LANGUAGES CXX)\n"
                                   "set(CMAKE_EXPORT_COMPILE_COMMANDS ON)\nset(CMAKE_BUILD_TYPE Debug)\n"
-                                  "add_executable(orvane-desk Orvane/guard/a.cpp desk.cpp)\n"
+                                  "add_library(a STATIC Orvane/guard/a.cpp)\nlink_libraries(a)\n"
+                                  "add_executable(orvane-desk desk.cpp)\n"
                                   "set(CMAKE_RUNTIME_OUTPUT_DIRECTORY tests/guard)\n"
-                                  "add_executable(t Orvane/guard/a.cpp tests/guard/t.cpp)\n",
+                                  "add_executable(t tests/guard/t.cpp)\n",
                 "Orvane/guard/a.cpp": "int f(int a) {\n  int s = 0;\n  while (a != 0) {\n    s += a--;\n  }\n"
                                       "  if (s > 9) {\n    s = 9;\n  }\n  return s;\n}\n",
                 "desk.cpp": "int f(int);\nint main() { return f(5) == 9 ? 0 : 1; }\n",

@@ -47,6 +47,8 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ThePanelFloatsAndDoesNotActiva
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, ItIsCreatedOnceAndNotShown) {
+  EXPECT_EQ(OrvanePermissionGuideWindowController::snapshot().frame.size.width, 0)
+      << "a snapshot does not create it";
   guide();
   expectGuideOrigin(1280, 313);
   EXPECT_FALSE(isGuideVisible());
@@ -83,6 +85,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAnyway)
   EXPECT_FALSE(machine.displays.detach(1));
   EXPECT_FALSE(machine.displays.detach(2));
   show();
+  expectGuideOrigin(0, 0);
   EXPECT_TRUE(isGuideVisible());
   EXPECT_TRUE(isPolling());
 }

@@ -208,11 +208,12 @@ TEST_F(OrvaneWindowControllerTest, ClosingTheSettingsLeavesTheMainPanel) {
 }
 
 TEST_F(OrvaneWindowControllerTest, WithoutAPanelNothingIsClosedOrMinimised) {
+  controller().miniaturizeWindow();
+  controller().closeWindow();
   showSettings();
   controller().closeWindow();
   controller().closeWindow();
   closeSettings();
-  controller().miniaturizeWindow();
   EXPECT_TRUE(server().windows().empty());
 }
 

@@ -4,6 +4,7 @@ import hashlib
 import json
 import os
 import resource
+import shlex
 import shutil
 import signal
 import subprocess
@@ -32,7 +33,10 @@ WALL_LIMIT_SECONDS = 3600
 EXPLORED = {"app", "geometry", "guard", "model", "permission", "windows"}
 DESK = "orvane-desk"
 DAYS = 200
+EXPLORE_ARGUMENTS = ("explore", "--seed", "1", "--days", str(DAYS))
 TEST_ARGUMENTS = ("--gtest_fail_fast", "--gtest_brief=1")
+# The fastest linker that is here.
+LINKER = ["-fuse-ld=lld"] if shutil.which("ld.lld") else []
 
 
 def limit_resources(seconds):
@@ -47,9 +51,8 @@ def processor_seconds():
     return usage.ru_utime + usage.ru_stime
 
 
-def passes(program, seconds):
-    """Whether a test program, or the explorer, succeeds in so much processor time; a hang is a failure."""
-    arguments = ("explore", "--seed", "1", "--days", str(DAYS)) if program.name == DESK else TEST_ARGUMENTS
+def passes(program, arguments, seconds):
+    """Whether a program succeeds in so much processor time; a hang is a failure."""
     with subprocess.Popen([program, *arguments], stdout=subprocess.DEVNULL,
                           stderr=subprocess.DEVNULL, cwd=program.parent, env=ENVIRONMENT,
                           start_new_session=True, preexec_fn=lambda: limit_resources(seconds)) as process:
@@ -77,8 +80,12 @@ class Workshop:
         self.programs = {}
         # Seconds of processor time for each program.
         self.limits = {}
-        # The object of each source, relative to the build, and its contents without a fault.
+        # The command that compiles each source into the mutant's object, and the contents of the
+        # object without a fault.
         self.objects = {}
+        # The command that links each program with the mutant's object.
+        self.links = {}
+        self.mutant = self.build / "mutant.o"
 
     def copy(self, root):
         """Brings the copy up to date; files that are equal keep their time, so little is rebuilt."""
@@ -118,22 +125,36 @@ class Workshop:
                                  if name.startswith(f"tests/{test}/")]
         if folder in EXPLORED:
             self.programs[folder].append(DESK)
-        self.make(*self.programs[folder], check=True)
+        subprocess.run(["ninja", "-C", self.build, "--quiet", *self.programs[folder]], check=True,
+                       env=ENVIRONMENT)
         for command in json.loads((self.build / "compile_commands.json").read_text(encoding="utf-8")):
-            source, words = command["file"], command["command"].split()
+            source, words = command["file"], shlex.split(command["command"])
             if source.startswith(f"{self.tree}/Orvane/{folder}/"):
-                target = words[words.index("-o") + 1]
-                self.objects[source] = target, (self.build / target).read_bytes()
+                target = words.index("-o") + 1
+                code = (self.build / words[target]).read_bytes()
+                self.objects[source] = [*words[:target], str(self.mutant), *words[target + 1:]], code
         for program in self.programs[folder]:
+            self.links[program] = self.link_command(program)
             before = processor_seconds()
-            if not passes(self.build / program, WALL_LIMIT_SECONDS):
+            if not self.succeeds(program, self.build / program, WALL_LIMIT_SECONDS):
                 sys.exit(f"{program} fails without a fault")
             self.limits[program] = 5 + int(10 * (processor_seconds() - before))
 
-    def make(self, *targets, check=False):
-        """Whether the targets build."""
-        return subprocess.run(["ninja", "-C", self.build, "--quiet", *targets], check=check,
-                              stdout=None if check else subprocess.DEVNULL, env=ENVIRONMENT).returncode == 0
+    def link_command(self, program):
+        """The command that links a program as a mutant. The linker prefers the object to the same one
+        in the library, which it then does not need."""
+        listing = subprocess.run(["ninja", "-C", self.build, "-t", "commands", program], check=True,
+                                 capture_output=True, text=True).stdout
+        words = shlex.split(listing.splitlines()[-1].removeprefix(": && ").removesuffix(" && :"))
+        target = words.index("-o") + 1
+        return [*words[:target], f"{program}.mutant", str(self.mutant), *words[target + 1:], *LINKER]
+
+    def succeeds(self, name, program, seconds):
+        return passes(program, EXPLORE_ARGUMENTS if name == DESK else TEST_ARGUMENTS, seconds)
+
+    def runs(self, command):
+        return subprocess.run(command, cwd=self.build, stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL, env=ENVIRONMENT, check=False).returncode == 0
 
     def try_mutant(self, folder, mutant):
         """One of "killed", "explored" (only the explorer kills it), "survived", "same" (the compiler
@@ -147,19 +168,21 @@ class Workshop:
 
     def verdict(self, folder, mutant):
         source = self.tree / mutant.file
-        target, code = self.objects[str(source)]
-        original = source.read_text(encoding="utf-8")
+        compile_command, code = self.objects[str(source)]
+        original, status = source.read_text(encoding="utf-8"), source.stat()
         try:
             source.write_text(mutant.applied(original), encoding="utf-8")
-            if not self.make(target):
+            if not self.runs(compile_command):
                 return "invalid"
-            if (self.build / target).read_bytes() == code:
-                return "same"
-            for program in self.programs[folder]:
-                # What compiles but cannot be linked is noticed, too.
-                if not self.make(program) or not passes(self.build / program, self.limits[program]):
-                    return "explored" if program == DESK else "killed"
-            return "survived"
         finally:
-            # The next mutant builds what this leaves behind.
             source.write_text(original, encoding="utf-8")
+            # With its time, so that the next build has nothing to do.
+            os.utime(source, ns=(status.st_atime_ns, status.st_mtime_ns))
+        if self.mutant.read_bytes() == code:
+            return "same"
+        for name in self.programs[folder]:
+            # A program that does not need the object may lack what the object needs.
+            is_linked = self.runs(self.links[name])
+            if is_linked and not self.succeeds(name, self.build / f"{name}.mutant", self.limits[name]):
+                return "explored" if name == DESK else "killed"
+        return "survived"
