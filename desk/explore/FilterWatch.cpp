@@ -3,14 +3,18 @@
 
 #include <algorithm>
 
-#include "desk/explore/Observation.hpp"
-
 namespace orvane::desk::explore {
 
 namespace {
 
 std::string textOf(CGPoint place) {
   return std::to_string(place.x) + ", " + std::to_string(place.y);
+}
+
+/// Whether the event has the unlock key.
+bool unlocks(const Stored& stored, const __CGEvent& event) {
+  const std::uint64_t mask = stored.unlockMask();
+  return (static_cast<std::uint64_t>(event.flags) & mask) == mask;
 }
 
 bool isSame(CGPoint first, CGPoint second) {
@@ -30,17 +34,26 @@ void FilterWatch::resetConfigurations() {
   configurations_ = {DisplayConfiguration::of(machine_)};
 }
 
+void FilterWatch::beginStep() {
+  step_ = {};
+  if (!machine_.runLoop.isMainQueueHeld()) {
+    settings_.clear();
+  }
+  settings_.push_back(Stored::of(machine_.userDefaults));
+}
+
 void FilterWatch::willDeliver(const __CGEvent& event) {
-  const Stored stored = Stored::of(machine_.userDefaults);
-  goal_ = stored.goal();
   isTapEnabled_ = machine_.eventTaps.isAnyEnabled();
   isGuarded_ = isTapEnabled_ && event.type == kCGEventMouseMoved;
-  const std::uint64_t mask = stored.unlockMask();
-  isUnlocked_ = (static_cast<std::uint64_t>(event.flags) & mask) == mask;
+  if (!machine_.runLoop.isMainQueueHeld()) {
+    settings_.clear();
+  }
+  settings_.push_back(Stored::of(machine_.userDefaults));
+  const bool isUnlocked = unlocks(settings_.back(), event);
   const bool isDisabled = machine_.eventTaps.aliveCount() > 0 && !isTapEnabled_;
   step_.hasMetDisabledTap = step_.hasMetDisabledTap || isDisabled;
-  step_.hasFreeMovement = step_.hasFreeMovement || !isGuarded_ || isUnlocked_;
-  step_.hasUnlockedMovement = step_.hasUnlockedMovement || (isGuarded_ && isUnlocked_);
+  step_.hasFreeMovement = step_.hasFreeMovement || !isGuarded_ || isUnlocked;
+  step_.hasUnlockedMovement = step_.hasUnlockedMovement || (isGuarded_ && isUnlocked);
 }
 
 void FilterWatch::didDeliver(const __CGEvent& before, const __CGEvent& after, bool isKept) {
@@ -62,18 +75,21 @@ std::optional<std::string> FilterWatch::problem(const __CGEvent& before, const _
   if (after.type != before.type || after.flags != before.flags) {
     return "an event was changed in more than its location";
   }
-  if (!isGuarded_ || isUnlocked_) {
-    return isSame(before.location, after.location)
-               ? std::nullopt
-               : std::optional("an event that must pass was moved from " + textOf(before.location));
+  const bool isFine = std::ranges::any_of(
+      settings_, [&](const Stored& stored) { return isExpected(before, after, stored); });
+  return isFine ? std::nullopt
+                : std::optional("an event at " + textOf(before.location) + " was moved to " +
+                                textOf(after.location));
+}
+
+bool FilterWatch::isExpected(const __CGEvent& before, const __CGEvent& after,
+                             const Stored& stored) const {
+  if (!isGuarded_ || unlocks(stored, before)) {
+    return isSame(before.location, after.location);
   }
-  const bool isExpected =
-      std::ranges::any_of(configurations_, [&](const DisplayConfiguration& configuration) {
-        return isSame(configuration.filtered(before.location, goal_), after.location);
-      });
-  return isExpected ? std::nullopt
-                    : std::optional("an event at " + textOf(before.location) + " was moved to " +
-                                    textOf(after.location));
+  return std::ranges::any_of(configurations_, [&](const DisplayConfiguration& configuration) {
+    return isSame(configuration.filtered(before.location, stored.goal()), after.location);
+  });
 }
 
 }  // namespace orvane::desk::explore

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desk/explore/DisplayConfiguration.hpp"
+#include "desk/explore/Stored.hpp"
 #include "desk/explore/Violation.hpp"
 #include "desk/machine/EventWitness.hpp"
 #include "desk/machine/Machine.hpp"
@@ -40,20 +41,24 @@ class FilterWatch : public EventWitness {
     bool hasShutOff = false;
     std::optional<Violation> violation;
   };
-  void beginStep() { step_ = {}; }
+  void beginStep();
   [[nodiscard]] const Step& step() const { return step_; }
   [[nodiscard]] std::int64_t eventCount() const { return events_; }
 
  private:
   [[nodiscard]] std::optional<std::string> problem(const __CGEvent& before, const __CGEvent& after,
                                                    bool isKept) const;
+  /// Whether the filter may return the event so, with these stored settings.
+  [[nodiscard]] bool isExpected(const __CGEvent& before, const __CGEvent& after,
+                                const Stored& stored) const;
 
   Machine& machine_;
   std::vector<DisplayConfiguration> configurations_;
   bool isTapEnabled_ = false;
   bool isGuarded_ = false;
-  bool isUnlocked_ = false;
-  GuardGoal goal_;
+  /// The settings before the steps of a modal session, in which a guard that has waited for a
+  /// display starts with those of its stop; then those of now.
+  std::vector<Stored> settings_;
   Step step_;
   std::int64_t events_ = 0;
 };

@@ -12,25 +12,10 @@
 #include "Orvane/permission/PermissionGuideState.hpp"
 #include "Orvane/ui/views/Semantics.hpp"
 #include "desk/application/ApplicationHost.hpp"
-#include "desk/explore/DisplayConfiguration.hpp"
 #include "desk/explore/Fingerprint.hpp"
+#include "desk/explore/Stored.hpp"
 
 namespace orvane::desk::explore {
-
-/// The stored settings, parsed without the application's code.
-struct Stored {
-  std::optional<std::string> selected;
-  bool wants = false;
-  bool prevents = false;
-  std::string modifier;
-  std::string language;
-
-  [[nodiscard]] static Stored of(const UserDefaultsStore& defaults);
-  [[nodiscard]] GuardGoal goal() const { return {prevents, selected.value_or("")}; }
-  /// The flags of the unlock key.
-  [[nodiscard]] std::uint64_t unlockMask() const;
-  bool operator==(const Stored&) const = default;
-};
 
 struct Observation {
   std::int64_t now = 0;
