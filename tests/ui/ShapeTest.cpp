@@ -46,11 +46,16 @@ std::vector<Sample> samples(const Path& path) {
   return result;
 }
 
-TEST(ShapeTest, ACircularCornerIsACircle) {
-  const Shape shape = Shape::roundedRectangle({0, 0, 100, 60}, 20, CornerStyle::circular);
-  for (const Sample& sample : samples(shape.path())) {
-    const Point center{sample.point.x < 50 ? 20.0 : 80.0, sample.point.y < 30 ? 20.0 : 40.0};
-    EXPECT_NEAR(std::hypot(sample.point.x - center.x, sample.point.y - center.y), 20, 0.01);
+TEST(ShapeTest, CirclesAndCircularCornersAreRound) {
+  const Rect rect{0, 0, 100, 40};
+  for (const Shape& shape : {Shape::roundedRectangle(rect, 20, CornerStyle::circular),
+                             Shape::capsule(rect), Shape::circle(rect)}) {
+    const Rect centers = shape.rect.inset(20);
+    for (const auto& [point, curvature] : samples(shape.path())) {
+      EXPECT_NEAR(std::hypot(point.x - std::clamp(point.x, centers.x, centers.right()),
+                             point.y - std::clamp(point.y, centers.y, centers.bottom())),
+                  20, 0.01);
+    }
   }
 }
 
@@ -74,7 +79,7 @@ TEST(ShapeTest, AContinuousCornerHasNoJumpOfCurvature) {
   EXPECT_LT(strongest, 1.2 / 20.0);
 }
 
-RC_GTEST_PROP(ShapeTest, OutlinesStayInsideTheirRectangle, ()) {
+RC_GTEST_PROP(ShapeTest, OutlinesStayInsideTheirRectangleAndEndWhereTheyBegin, ()) {
   const Rect rect{double(*rc::gen::inRange(-50, 50)), double(*rc::gen::inRange(-50, 50)),
                   double(*rc::gen::inRange(1, 300)), double(*rc::gen::inRange(1, 300))};
   const double radius = *rc::gen::inRange(0, 200);
@@ -82,7 +87,13 @@ RC_GTEST_PROP(ShapeTest, OutlinesStayInsideTheirRectangle, ()) {
       *rc::gen::element(Shape::rectangle(rect), Shape::roundedRectangle(rect, radius),
                         Shape::roundedRectangle(rect, radius, CornerStyle::circular),
                         Shape::capsule(rect), Shape::ellipse(rect), Shape::circle(rect));
-  for (const Sample& sample : samples(shape.path())) {
+  const Path path = shape.path();
+  const std::vector<Sample> all = samples(path);
+  if (!all.empty()) {
+    const Point first = path.elements().front().to;
+    RC_ASSERT(std::hypot(all.back().point.x - first.x, all.back().point.y - first.y) < 1e-9);
+  }
+  for (const Sample& sample : all) {
     RC_ASSERT(std::isfinite(sample.point.x) && std::isfinite(sample.point.y));
     RC_ASSERT(rect.inset(-1e-6).contains(sample.point));
   }

@@ -48,6 +48,7 @@ TEST(TruncationTest, InTheMiddleTheEndBeginsWithAWholeWordWhereThereIsRoom) {
 
 TEST(TruncationTest, InTheMiddleNoBracketIsSplit) {
   EXPECT_EQ(cut("LaboratoryDisplay(2)(Main)", TruncationMode::middle, 14), "Laborat…(Main)");
+  EXPECT_EQ(cut("LaboratoryDisplay(2)(Main)", TruncationMode::middle, 11), "Labo…(Main)");
   EXPECT_EQ(cut("LaboratoryDisplay(2)(Main)", TruncationMode::middle, 15), "Labor…(2)(Main)");
   EXPECT_EQ(cut("Laboratory（Conference2）", TruncationMode::middle, 12), "Laboratory（…");
 }

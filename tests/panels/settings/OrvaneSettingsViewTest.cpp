@@ -2,6 +2,7 @@
 // texts and links.
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -10,7 +11,9 @@
 #include "Orvane/platform/appkit/HostingView.hpp"
 #include "Orvane/ui/host/ViewHost.hpp"
 #include "Orvane/windows/OrvaneSettingsWindow.hpp"
+#include "desk/canvas/PangoTextMeasurer.hpp"
 #include "tests/panels/PanelFixture.hpp"
+#include "tests/support/RecordingCanvas.hpp"
 #include "tests/support/SyntheticTextMeasurer.hpp"
 
 namespace orvane {
@@ -34,6 +37,18 @@ class OrvaneSettingsViewTest : public PanelFixture {
       machine.runDue();
     }
     return titles;
+  }
+  /// The view without a window and without an action for closing, after its entrance.
+  std::unique_ptr<ui::ViewHost> hosted(ui::HostPlatform platform) {
+    auto host = std::make_unique<ui::ViewHost>(std::move(platform));
+    host->setSize(
+        {OrvaneSettingsWindow::contentSize.width, OrvaneSettingsWindow::contentSize.height});
+    host->setRoot([this](const ui::Environment&) {
+      return ui::View(OrvaneSettingsView{.model = &model(), .onClose = {}});
+    });
+    host->tick(0);
+    host->tick(1);
+    return host;
   }
 };
 
@@ -68,26 +83,66 @@ TEST_F(OrvaneSettingsViewTest, TheShortcutPickerIsBoundBothWays) {
 TEST_F(OrvaneSettingsViewTest, ClosingDismissesTheViewUnlessItHasAnAction) {
   ui::SyntheticTextMeasurer text;
   int dismissals = 0;
+  int closings = 0;
   ui::HostPlatform platform;
   platform.text = &text;
   platform.services.dismiss = [&dismissals] { ++dismissals; };
-  ui::ViewHost host(std::move(platform));
-  host.setSize({OrvaneSettingsWindow::contentSize.width, OrvaneSettingsWindow::contentSize.height});
-  host.setRoot([this](const ui::Environment&) {
-    return ui::View(OrvaneSettingsView{.model = &model(), .onClose = {}});
-  });
-  host.tick(0);
-  host.tick(1);
-  host.keyDown({.key = ui::Key::escape});
+  const auto host = hosted(std::move(platform));
+  host->keyDown({.key = ui::Key::escape});
   EXPECT_EQ(dismissals, 1);
-  int closings = 0;
-  host.setRoot([this, &closings](const ui::Environment&) {
+  host->setRoot([this, &closings](const ui::Environment&) {
     return ui::View(OrvaneSettingsView{.model = &model(), .onClose = [&closings] { ++closings; }});
   });
-  host.tick(2);
-  host.keyDown({.key = ui::Key::escape});
+  host->tick(2);
+  host->keyDown({.key = ui::Key::escape});
   EXPECT_EQ(closings, 1);
   EXPECT_EQ(dismissals, 1);
+}
+
+/// Text 5 % wider than on the desk, as with the fonts of a Mac, whose symbols are 20 % taller.
+class WiderText : public ui::TextMeasurer {
+ public:
+  ui::TextLayout layout(const std::string& text, const ui::Font& font, double maximumWidth,
+                        ui::LineLimit limit) override {
+    ui::TextLayout layout = measurer_.layout(text, font, maximumWidth / factor, limit);
+    for (ui::TextLine& line : layout.lines) {
+      line.width *= factor;
+    }
+    return layout;
+  }
+
+ private:
+  static constexpr double factor = 1.05;
+  desk::PangoTextMeasurer measurer_;
+};
+
+TEST_F(OrvaneSettingsViewTest, HasRoomForWiderTextAndTallerSymbols) {
+  const ui::ImageSource images = server().resources().imageSource();
+  const auto tallerSymbol = [&](const std::string& name, const ui::Font& font) {
+    std::optional<ui::Size> size = images.symbolSize(name, font);
+    size->height *= 1.2;
+    return size;
+  };
+  WiderText text;
+  for (const OrvaneLanguage::Value language : {OrvaneLanguage::english, OrvaneLanguage::chinese}) {
+    model().setAppLanguage(language);
+    const auto host = hosted({&text, {images.imageSize, tallerSymbol}, nullptr, {}});
+    ui::RecordingCanvas canvas;
+    host->paint(canvas, {0, 0, host->size().width, host->size().height});
+    EXPECT_EQ(canvas.text().find("…"), std::string::npos);
+    const std::vector<ui::SemanticsNode> elements = host->semantics().children;
+    for (auto first = elements.begin(); first != elements.end(); ++first) {
+      for (auto second = first + 1; second != elements.end(); ++second) {
+        EXPECT_TRUE(first->frame.intersection(second->frame).isEmpty())
+            << first->label << " overlaps " << second->label;
+      }
+    }
+    // 6 points above the close button, and 10 points around the cards and 6 in them.
+    const ui::Rect close = elements.at(1).frame;
+    EXPECT_GE(close.y, 6);
+    EXPECT_GE(elements.at(2).frame.y, close.center().y * 2 + 10 + 6);
+    EXPECT_LE(elements.back().frame.bottom(), host->size().height - 10 - 6);
+  }
 }
 
 TEST_F(OrvaneSettingsViewTest, TheHeaderReportsAMisplacedApplicationAndAnApproval) {
