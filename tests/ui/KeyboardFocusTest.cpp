@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/views/Button.hpp"
-#include "Orvane/ui/views/ScrollView.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
@@ -155,20 +154,6 @@ TEST_F(KeyboardFocusTest, TheFocusEndsWithItsNode) {
   EXPECT_EQ(test.host->focusedId(), 0U);
   EXPECT_FALSE(test.press(Key::space));
   EXPECT_EQ(log, "");
-}
-
-TEST_F(KeyboardFocusTest, TheFocusScrollsItsControlIntoView) {
-  test.host->setSize({50, 40});
-  const auto card = [this](const std::string& title) {
-    return Button([this, title] { log += title; }, Text(title).frame(40, 20))
-        .style(PlainButtonStyle{});
-  };
-  test.show(ScrollView(HStack(0, {card("a"), card("b"), card("c")})));
-  test.press(Key::tab);
-  test.press(Key::tab);
-  EXPECT_EQ(test.element("b")->frame.right(), 50);
-  test.press(Key::tab, true);
-  EXPECT_EQ(test.element("a")->frame.x, 0);
 }
 
 TEST_F(KeyboardFocusTest, AKeyMayDestroyTheHost) {

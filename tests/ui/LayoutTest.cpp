@@ -170,11 +170,6 @@ TEST(LayoutTest, AFlexibleFrameGrowsToItsProposalWithinItsBounds) {
   EXPECT_EQ(ideal(Text("a").maximumWidth()), (Size{5, 10}));
 }
 
-TEST(LayoutTest, TwoStretchedLabelsShareTheWidthEqually) {
-  const View row = HStack(10, {Text("a").maximumWidth(), Text("bbbbbb").maximumWidth()});
-  EXPECT_EQ(framesIn(row, 110, 10), "a(22.5 0 5 10) bbbbbb(70 0 30 10)");
-}
-
 TEST(LayoutTest, TextIsTruncatedToItsHeightUnlessItIsFixed) {
   TestHost cut({20, 15});
   cut.show(Text("aaaa bbbb cccc").font(Font::system(10)));

@@ -193,7 +193,12 @@ TEST_F(PointerInputTest, AHandlerMayRemoveItsView) {
 }
 
 TEST_F(PointerInputTest, AHandlerMayDestroyItsHost) {
-  test.show(Button("a", [this] { test.host.reset(); }).style(MarkingStyle{}));
+  test.show([this](const Environment& environment) {
+    const auto destroy = [this, environment] {
+      environment.animate(Curve::linear(1), [this] { test.host.reset(); });
+    };
+    return Button("a", destroy).style(MarkingStyle{});
+  });
   test.click({20, 10});
   EXPECT_FALSE(test.host);
 }
@@ -255,6 +260,7 @@ TEST_F(PointerInputTest, ADragBeginsAfterAFewPointsAndClicksNothing) {
   test.host->pointerDragged({22.9, 10});
   EXPECT_TRUE(test.drags.empty());
   test.host->pointerDragged({23, 10});
+  EXPECT_EQ(test.drags.size(), 1U);
   test.host->pointerDragged({30, 10});
   ASSERT_EQ(test.drags.size(), 1U);
   EXPECT_EQ(test.drags[0].fileUrl, "file:///app");

@@ -123,13 +123,6 @@ TEST_F(ScrollViewTest, TheWheelTakesOverWhereTheContentIsSeen) {
   EXPECT_NEAR(left("e"), seen + 5, 1e-9);
 }
 
-TEST_F(ScrollViewTest, ContentThatShrinksScrollsBack) {
-  test.host->scroll({50, 20}, 1000, 0);
-  names = {"a", "b", "c"};
-  test.update();
-  EXPECT_EQ(right("c"), 100 - margin);
-}
-
 TEST_F(ScrollViewTest, TheKeyboardKeepsTheMarginToo) {
   test.press(Key::tab);
   test.press(Key::tab);

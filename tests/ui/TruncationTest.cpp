@@ -42,6 +42,7 @@ TEST(TruncationTest, InTheMiddleTheEndBeginsWithAWholeWordWhereThereIsRoom) {
   EXPECT_EQ(cut("Studio Display (Main)", TruncationMode::middle, 15), "Studio D…(Main)");
   EXPECT_EQ(cut("Laboratory Display (Main)", TruncationMode::middle, 23),
             "Laborato…Display (Main)");
+  EXPECT_EQ(cut("Laboratory AB CDEFG", TruncationMode::middle, 13), "Laborat…CDEFG");
   // "Display (Main)" would leave too little for the beginning.
   EXPECT_EQ(cut("Laboratory Display (Main)", TruncationMode::middle, 19), "Laborator…ay (Main)");
 }

@@ -15,8 +15,8 @@ namespace {
 
 // The data of a scroll view's node.
 struct ScrollData {
-  double maximumOffset = 0;
-  double margin = 0;
+  double maximumOffset;
+  double margin;
 };
 
 // Null when the node is no scroll view.

@@ -39,6 +39,9 @@ TEST_F(ContentViewLayoutTest, PanelsAndTheirControlsHaveTheirFrames) {
   EXPECT_EQ(drawn("shadow rounded(45 381 48 48 r11"), 1);
   EXPECT_EQ(button("Pin Dock"), (ui::Rect{45, 311.5, 610, 38}));
   EXPECT_EQ(button("Prevent Dock Pop-Up"), (ui::Rect{45, 446.5, 610, 34}));
+  EXPECT_EQ(element(ui::Role::heading, "Pin Dock to a Display")->frame.origin(),
+            (ui::Point{107, 105.5}));
+  EXPECT_EQ(frameOf("Dock stays on the selected display").origin(), (ui::Point{107, 129.5}));
   EXPECT_EQ(withRole(ui::Role::scrollArea, mainPanel).at(0).frame, (ui::Rect{26, 153.5, 648, 154}));
   EXPECT_EQ(frameOf("DELL"), (ui::Rect{235, 159.5, 176, 142}));
   // The selected card is scaled around its centre.

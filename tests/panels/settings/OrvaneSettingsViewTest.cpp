@@ -145,7 +145,7 @@ TEST_F(OrvaneSettingsViewTest, HasRoomForWiderTextAndTallerSymbols) {
   }
 }
 
-TEST_F(OrvaneSettingsViewTest, TheHeaderReportsAMisplacedApplicationAndAnApproval) {
+TEST_F(OrvaneSettingsViewTest, TheHeaderReportsWhyTheLoginItemFails) {
   const std::string english = "To open at login, move Orvane to Applications";
   const std::string chinese = "要开机自动运行，请先将 Orvane 移到“应用程序”文件夹";
   machine.bundle.isOnReadOnlyVolume = true;
@@ -160,13 +160,21 @@ TEST_F(OrvaneSettingsViewTest, TheHeaderReportsAMisplacedApplicationAndAnApprova
   EXPECT_TRUE(element(chinese, settingsPanel));
   // The user can approve the item of an installed copy.
   machine.loginItem.status = appkit::LoginItem::Status::requiresApproval;
-  machine.advance(1);
+  machine.advance(0.9);
+  EXPECT_TRUE(element(chinese, settingsPanel));
+  machine.advance(0.1);
   EXPECT_FALSE(element(chinese, settingsPanel));
   EXPECT_TRUE(element("登录项…", settingsPanel));
   machine.loginItem.status = appkit::LoginItem::Status::notRegistered;
   model().setLaunchAtLoginEnabled(false);
   machine.runDue();
   EXPECT_FALSE(element(chinese, settingsPanel));
+  machine.bundle.isOnReadOnlyVolume = false;
+  machine.loginItem.error = "No.";
+  model().setLaunchAtLoginEnabled(true);
+  machine.runDue();
+  EXPECT_TRUE(element("No.", settingsPanel));
+  EXPECT_TRUE(element("登录项…", settingsPanel));
 }
 
 TEST_F(OrvaneSettingsViewTest, CardsAndControlsHaveTheirPlaces) {
@@ -176,6 +184,7 @@ TEST_F(OrvaneSettingsViewTest, CardsAndControlsHaveTheirPlaces) {
   EXPECT_EQ(close.height, 28);
   const auto pickers = withRole(ui::Role::popUpButton, settingsPanel);
   EXPECT_EQ(pickers.at(0).frame.width, 160);
+  EXPECT_EQ(pickers.at(0).frame.right(), close.right() - 14);
   EXPECT_EQ(pickers.at(1).frame.width, 150);
   // The card begins at 18, its content at 14 from there; the header has the same margin.
   EXPECT_EQ(frameOf("Use Orvane in", settingsPanel).x, 18 + 14);
