@@ -246,6 +246,11 @@ TEST_F(DirtyTest, ShadowsReachBeyondTheirViewAndClipsCutThem) {
   });
   radius = 1;
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{40, 0, 20, 20}}));
+  test.show([&](const Environment&) {
+    return box(Color::white()).shadow({Color::black(), radius, 0, 2}).scale(2);
+  });
+  radius = 4;
+  EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{15, -21, 70, 70}}));
 }
 
 TEST_F(DirtyTest, NestedClipsIntersect) {

@@ -40,6 +40,8 @@ TEST_F(KeyboardFocusTest, TabWalksInReadingOrderAndRoundAgain) {
   EXPECT_EQ(walk, "abca");
   test.press(Key::tab, true);
   EXPECT_EQ(focused(), "c");
+  test.update();
+  EXPECT_EQ(focused(), "c");
 }
 
 TEST_F(KeyboardFocusTest, ShiftTabBeginsAtTheEnd) {

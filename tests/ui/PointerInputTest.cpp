@@ -175,6 +175,12 @@ TEST_F(PointerInputTest, AClusterAndTheControlInItHoverTogether) {
                 .onHover([this](bool in) { log += in ? "I" : "O"; }));
   test.host->pointerMoved({20, 10});
   EXPECT_EQ(log, "iI");
+  test.host->pointerDown({20, 10});
+  test.host->pointerDragged({60, 10});
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(log, "iI") << "as long as the button is pressed";
+  test.host->pointerUp({60, 10});
+  EXPECT_EQ(log, "iIoO");
 }
 
 TEST_F(PointerInputTest, AHandlerMayRemoveItsView) {

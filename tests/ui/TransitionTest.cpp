@@ -80,6 +80,22 @@ TEST_F(TransitionTest, ScaleAndMoveCombine) {
   EXPECT_EQ(test.element("a")->frame, (Rect{47.5 + 2.5 - 1.875 + 2.5, 20 + 5 - 3.75, 3.75, 7.5}));
 }
 
+TEST_F(TransitionTest, AViewMovesInFromItsEdge) {
+  const std::vector<std::pair<Edge, Point>> halfWay{{Edge::top, {47.5, 15}},
+                                                    {Edge::leading, {45, 20}},
+                                                    {Edge::bottom, {47.5, 25}},
+                                                    {Edge::trailing, {50, 20}}};
+  double now = 0;
+  for (const auto& [edge, place] : halfWay) {
+    isShown = false;
+    showWith(Transition::move(edge));
+    test.at(now += 10);
+    setShown(true);
+    test.at(now += 0.5);
+    EXPECT_EQ(test.element("a")->frame.origin(), place);
+  }
+}
+
 TEST_F(TransitionTest, WithoutAnAnimationAViewComesAndGoesAtOnce) {
   test.show([&](const Environment&) -> View {
     return ZStack({when(isShown, [] { return Text("a").transition(Transition::opacity()); })});
