@@ -94,8 +94,12 @@ TEST(CurveTest, ABezierArrivesOnTimeWhateverItsVelocityWas) {
 }
 
 TEST(CurveTest, ACurveWithoutDurationArrivesAtOnce) {
-  EXPECT_TRUE(Curve::easeOut(0).remainder(5, std::nullopt, 0).isSettled);
-  EXPECT_TRUE(Curve::spring(-1, 1).remainder(5, std::nullopt, 0).isSettled);
+  for (const Curve& curve : {Curve::easeOut(0), Curve::spring(-1, 1)}) {
+    const auto [distance, velocity, isSettled] = curve.remainder(5, std::nullopt, 0);
+    EXPECT_EQ(distance, 0);
+    EXPECT_EQ(velocity, 0);
+    EXPECT_TRUE(isSettled);
+  }
 }
 
 }  // namespace

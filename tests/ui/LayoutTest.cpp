@@ -27,8 +27,12 @@ Size ideal(const View& view) {
 }
 
 TEST(LayoutTest, ARowPlacesItsChildrenSideBySideInTheMiddleOfTheHost) {
-  EXPECT_EQ(framesIn(HStack(8, {Text("a"), Text("bb")}), 100, 20),
-            "a(38.5 5 5 10) bb(51.5 5 10 10)");
+  TestHost test({100, 20});
+  test.show(HStack(8, {Text("a"), Text("bb")}).font(Font::system(10)));
+  EXPECT_EQ(test.frames(), "a(38.5 5 5 10) bb(51.5 5 10 10)");
+  test.host->setSize({23, 20});
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(test.frames(), "a(0 5 5 10) bb(13 5 10 10)");
 }
 
 TEST(LayoutTest, ARowOfItsIdealWidthTruncatesNoText) {
