@@ -123,6 +123,13 @@ TEST_F(ScrollViewTest, TheWheelTakesOverWhereTheContentIsSeen) {
   EXPECT_NEAR(left("e"), seen + 5, 1e-9);
 }
 
+TEST_F(ScrollViewTest, TheWheelReachesTheEndOfAMotionAtOnce) {
+  want("e");
+  test.at(0.5);
+  EXPECT_TRUE(test.host->scroll({50, 20}, 1000, 0));
+  EXPECT_EQ(right("e"), 100 - margin);
+}
+
 TEST_F(ScrollViewTest, TheKeyboardKeepsTheMarginToo) {
   test.press(Key::tab);
   test.press(Key::tab);

@@ -13,8 +13,11 @@ class TransitionTest : public testing::Test {
  protected:
   void showWith(const Transition& transition) {
     test.show([this, transition](const Environment&) -> View {
-      return ZStack({when(isShown,
-                          [&] { return Text("a").font(Font::system(10)).transition(transition); })})
+      return ZStack(
+                 {when(isShown,
+                       [&] {
+                         return Text("a").font(Font::system(10)).transition(transition).padding(0);
+                       })})
           .animation(Curve::linear(1), isShown);
     });
   }
