@@ -1,4 +1,5 @@
-// The paint of each component of the panels in its states, and its layout.
+// The paint of each component of the panels and of the kit's controls in its states, and its
+// layout.
 #include <algorithm>
 #include <regex>
 #include <sstream>
@@ -18,6 +19,7 @@
 #include "Orvane/panels/settings/SettingsSection.hpp"
 #include "Orvane/ui/views/Button.hpp"
 #include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/Picker.hpp"
 #include "Orvane/ui/views/Text.hpp"
 #include "tests/panels/ComponentFixture.hpp"
 #include "tests/support/Contrast.hpp"
@@ -297,6 +299,55 @@ TEST_F(ComponentLookTest, OfASettingsCard) {
             texts("1 1 1 1")}});
 }
 
+TEST_F(ComponentLookTest, OfAPicker) {
+  const std::string shadow = "shadow rgba(0 0 0 0.12) radius 1 offset 0 0.5; ";
+  const auto texts = [](const std::string& color) {
+    return "; text 13/400 rgba(" + color + "); symbol 9/600 rgba(" + color + ")";
+  };
+  const std::string fill = shadow + "fill rgba(1 1 1 0.95); fill rgba(0 0 0 ";
+  const std::string ink = "); stroke rgba(0 0 0 0.468) width 1" + texts("0 0 0 0.85");
+  expectLooks(
+      ui::Picker{"Language", {"English"}, 0, {}}, {160, 22},
+      {{light, away, fill + "0" + ink},
+       {light, pressing, fill + "0.102" + ink},
+       {dark, away,
+        shadow + "fill rgba(1 1 1 0.16); fill rgba(1 1 1 0); stroke rgba(1 1 1 0.298) width 1" +
+            texts("1 1 1 0.85")},
+       {highContrast, away, fill + "0); stroke rgba(0 0 0 0.6) width 1" + texts("0 0 0 1")}});
+}
+
+TEST_F(ComponentLookTest, OfABorderedButton) {
+  const std::string rim = "; stroke rgba(0 0 0 0.06) width 0.5; text 13/400 rgba(";
+  const std::string darkRim = "; stroke rgba(1 1 1 0.1) width 0.5; text 13/400 rgba(";
+  expectLooks(textButton(ui::BorderedButtonStyle{}), {37, 23},
+              {{light, away, "fill rgba(0 0 0 0.09)" + rim + "0 0 0 0.85)"},
+               {light, pressing, "fill rgba(0 0 0 0.16)" + rim + "0 0 0 0.85)"},
+               {dark, away, "fill rgba(1 1 1 0.2)" + darkRim + "1 1 1 0.85)"},
+               {dark, pressing, "fill rgba(1 1 1 0.26)" + darkRim + "1 1 1 0.85)"}});
+  const ui::View prominent = textButton(ui::BorderedButtonStyle{.isProminent = true});
+  expectLooks(prominent, {37, 23},
+              {{light, away, "fill rgba(0 0.478 1 1)" + rim + "1 1 1 1)"},
+               {light, pressing, "fill rgba(0 0.478 1 0.8)" + rim + "1 1 1 1)"}});
+  expectLooks(prominent.disabled(true), {37, 23},
+              {{light, away, "fill rgba(0 0 0 0.09)" + rim + "0 0 0 0.85)"}});
+}
+
+TEST_F(ComponentLookTest, ADisabledControlIsFainter) {
+  const auto opacityOf = [this](const ui::View& view) {
+    show(view.disabled(true), {200, 60});
+    return lastNumberAfter(" opacity ");
+  };
+  EXPECT_EQ(opacityOf(textButton(PrimaryActionButtonStyle{.tint = ui::Color::red()})), 0.5);
+  EXPECT_EQ(opacityOf(textButton(SecondaryActionButtonStyle{})), 0.5);
+  EXPECT_EQ(opacityOf(symbolButton("gearshape", 34, TitleBarIconButtonStyle{})), 0.5);
+  EXPECT_EQ(opacityOf(textButton(ui::BorderedButtonStyle{})), 0.45);
+  EXPECT_EQ(opacityOf(textButton(ui::PlainButtonStyle{})), 0.45);
+  EXPECT_EQ(opacityOf(ui::Picker{"Language", {"English"}, 0, {}}), 0.45);
+  show(textButton(ui::PlainButtonStyle{}), {200, 60});
+  hold({100, 30});
+  EXPECT_EQ(lastNumberAfter(" opacity "), 0.7);
+}
+
 // A character of the synthetic font is half as wide as the font's size.
 TEST_F(ComponentLookTest, LayoutOfEachComponent) {
   const auto expectCalls = [this](const ui::View& view, ui::Size size,
@@ -312,6 +363,10 @@ TEST_F(ComponentLookTest, LayoutOfEachComponent) {
               {"fill rounded(0 13 200 34 r8 continuous)", "stroke rounded(0 13 200 34 r8 "});
   expectCalls(textButton(SettingsSecondaryButtonStyle{}), {35, 25},
               {"fill rounded(0 0 35 25 r8 continuous)", " at 11 16\n"});
+  expectCalls(textButton(ui::BorderedButtonStyle{}), {37, 23},
+              {"fill rounded(0 0 37 23 r6 continuous)", " at 12 15\n"});
+  expectCalls(ui::Picker{"Language", {"English"}, 0, {}}, {160, 22},
+              {"fill rounded(0 0 160 22 r5 continuous)", " at 8 14\n", " (145 7 9 9)\n"});
   expectCalls(DockPanel{.content = ui::Text("12345").fixedSize()}, {300, 101},
               {"fill rounded(0 24 300 53 r12 continuous)", " at 134 54\n"});
   expectCalls(PanelIcon{.systemImage = "lock", .tint = ui::Color::red()}, {60, 60},

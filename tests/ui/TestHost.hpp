@@ -14,8 +14,8 @@ namespace orvane::ui {
 
 class TestHost {
  public:
-  // Symbols are squares of the font's size; there are the images "photo" and "icon" of 40 by 20
-  // points, the first one with a dark variant.
+  // Symbols, except "unknown", are squares of the font's size; there are the images "photo" and
+  // "icon" of 40 by 20 points, the first one with a dark variant.
   explicit TestHost(Size size = {200, 100}) {
     HostPlatform platform;
     platform.text = &text_;
@@ -23,8 +23,8 @@ class TestHost {
       const bool isThere = name == "photo" || name == "photo-dark" || name == "icon";
       return isThere ? std::optional<Size>({40, 20}) : std::nullopt;
     };
-    platform.images.symbolSize = [](const std::string&, const Font& font) {
-      return std::optional<Size>({font.size, font.size});
+    platform.images.symbolSize = [](const std::string& name, const Font& font) {
+      return name == "unknown" ? std::nullopt : std::optional<Size>({font.size, font.size});
     };
     platform.services.requestRedraw = [this] { ++redrawRequests; };
     platform.services.requestFrames = [this] { ++frameRequests; };

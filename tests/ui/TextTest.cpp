@@ -48,12 +48,23 @@ TEST_F(TextTest, SeveralLinesAreNotTightened) {
 }
 
 TEST_F(TextTest, FollowsChangesOfItsEnvironment) {
-  test.show(line(40));
-  EXPECT_TRUE(draws("\"abcdefg…\"")) << test.drawing();
-  test.show(line(40).truncationMode(TruncationMode::middle));
-  EXPECT_TRUE(draws("\"abcd…hij\"")) << test.drawing();
-  test.show(line(48).allowsTightening());
+  TruncationMode mode = TruncationMode::tail;
+  double tightening = 0;
+  double height = 0;
+  test.show([&](const Environment&) {
+    return line(46).truncationMode(mode).allowsTightening(tightening).lineHeight(height);
+  });
+  EXPECT_TRUE(draws("\"abcdefgh…\"")) << test.drawing();
+  mode = TruncationMode::middle;
+  test.update();
+  EXPECT_TRUE(draws("\"abcd…ghij\"")) << test.drawing();
+  tightening = 0.1;
+  test.update();
   EXPECT_FALSE(draws("…")) << test.drawing();
+  EXPECT_EQ(test.element(whole)->frame.height, 10);
+  height = 1;
+  test.update();
+  EXPECT_EQ(test.element(whole)->frame.height, 1);
 }
 
 }  // namespace

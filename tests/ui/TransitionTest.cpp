@@ -13,8 +13,11 @@ class TransitionTest : public testing::Test {
  protected:
   void showWith(const Transition& transition) {
     test.show([this, transition](const Environment&) -> View {
-      return ZStack({when(isShown,
-                          [&] { return Text("a").font(Font::system(10)).transition(transition); })})
+      return ZStack(
+                 {when(isShown,
+                       [&] {
+                         return Text("a").font(Font::system(10)).transition(transition).padding(0);
+                       })})
           .animation(Curve::linear(1), isShown);
     });
   }
@@ -78,6 +81,22 @@ TEST_F(TransitionTest, ScaleAndMoveCombine) {
   // Half way: three quarters of the size, and half of its width of 5 to the right. The 5 by 10 text
   // stands at 0, 0 in its own transition node; its middle at 2.5, 5 stays the middle of the scale.
   EXPECT_EQ(test.element("a")->frame, (Rect{47.5 + 2.5 - 1.875 + 2.5, 20 + 5 - 3.75, 3.75, 7.5}));
+}
+
+TEST_F(TransitionTest, AViewMovesInFromItsEdge) {
+  const std::vector<std::pair<Edge, Point>> halfWay{{Edge::top, {47.5, 15}},
+                                                    {Edge::leading, {45, 20}},
+                                                    {Edge::bottom, {47.5, 25}},
+                                                    {Edge::trailing, {50, 20}}};
+  double now = 0;
+  for (const auto& [edge, place] : halfWay) {
+    isShown = false;
+    showWith(Transition::move(edge));
+    test.at(now += 10);
+    setShown(true);
+    test.at(now += 0.5);
+    EXPECT_EQ(test.element("a")->frame.origin(), place);
+  }
 }
 
 TEST_F(TransitionTest, WithoutAnAnimationAViewComesAndGoesAtOnce) {

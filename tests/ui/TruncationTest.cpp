@@ -42,12 +42,14 @@ TEST(TruncationTest, InTheMiddleTheEndBeginsWithAWholeWordWhereThereIsRoom) {
   EXPECT_EQ(cut("Studio Display (Main)", TruncationMode::middle, 15), "Studio D…(Main)");
   EXPECT_EQ(cut("Laboratory Display (Main)", TruncationMode::middle, 23),
             "Laborato…Display (Main)");
+  EXPECT_EQ(cut("Laboratory AB CDEFG", TruncationMode::middle, 13), "Laborat…CDEFG");
   // "Display (Main)" would leave too little for the beginning.
   EXPECT_EQ(cut("Laboratory Display (Main)", TruncationMode::middle, 19), "Laborator…ay (Main)");
 }
 
 TEST(TruncationTest, InTheMiddleNoBracketIsSplit) {
   EXPECT_EQ(cut("LaboratoryDisplay(2)(Main)", TruncationMode::middle, 14), "Laborat…(Main)");
+  EXPECT_EQ(cut("LaboratoryDisplay(2)(Main)", TruncationMode::middle, 11), "Labo…(Main)");
   EXPECT_EQ(cut("LaboratoryDisplay(2)(Main)", TruncationMode::middle, 15), "Labor…(2)(Main)");
   EXPECT_EQ(cut("Laboratory（Conference2）", TruncationMode::middle, 12), "Laboratory（…");
 }

@@ -20,10 +20,6 @@ double cubicSlope(double a, double b, double s) {
   return 3 * rest * rest * a + 6 * rest * s * (b - a) + 3 * s * s * (1 - b);
 }
 
-double cubicBend(double a, double b, double s) {
-  return 6 * (1 - s) * (b - 2 * a) + 6 * s * (1 - 2 * b + a);
-}
-
 // The parameter at which the x coordinate has a value from 0 to 1, by bisection, since x grows with
 // the parameter. 60 steps exhaust the precision of a double.
 double parameterAt(double x1, double x2, double x) {
@@ -36,15 +32,15 @@ double parameterAt(double x1, double x2, double x) {
   return (low + high) / 2;
 }
 
-// dy/dx; where both derivatives vanish, the second ones decide.
+// dy/dx. Both derivatives can only vanish at the beginning, where the second ones, 6 (b - 2a),
+// decide.
 double slope(double x1, double y1, double x2, double y2, double s) {
   constexpr double vanishing = 1e-6;
   const double slopeX = cubicSlope(x1, x2, s);
   if (slopeX > vanishing) {
     return cubicSlope(y1, y2, s) / slopeX;
   }
-  const double bendX = cubicBend(x1, x2, s);
-  return std::abs(bendX) > vanishing ? cubicBend(y1, y2, s) / bendX : 0;
+  return (y2 - 2 * y1) / (x2 - 2 * x1);
 }
 
 }  // namespace

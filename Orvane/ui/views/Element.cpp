@@ -1,15 +1,12 @@
 // The defaults: an element wraps its first child.
 #include "Orvane/ui/views/Element.hpp"
 
-#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/views/Node.hpp"
 
 namespace orvane::ui {
 
-void Element::build(Node& node, BuildPass& pass) const {
-  pass.children(node, {}, node.environment);
-}
+void Element::build(Node&, BuildPass&) const {}
 
 Size Element::measure(Node& node, const Proposal& proposal, LayoutPass& pass) const {
   return node.children.empty() ? Size{} : pass.measure(*node.children.front(), proposal);

@@ -15,8 +15,8 @@ namespace {
 
 // The data of a scroll view's node.
 struct ScrollData {
-  double maximumOffset = 0;
-  double margin = 0;
+  double maximumOffset;
+  double margin;
 };
 
 // Null when the node is no scroll view.
@@ -35,9 +35,7 @@ bool scrollTo(Node& area, double offset, const std::optional<Curve>& curve, doub
   const double target = std::clamp(offset, 0.0, scrollData(area)->maximumOffset);
   const double before = shown.at(now);
   // An animation to the same offset goes on.
-  if (target != shown.target()) {
-    shown.set(target, curve, now);
-  }
+  shown.set(target, curve, now);
   return target != before;
 }
 

@@ -33,42 +33,38 @@ class ContentViewKeyboardTest : public PanelFixture {
     }
     return order;
   }
+  [[nodiscard]] std::vector<std::string> controls(const std::string& surface) {
+    std::vector<std::string> labels;
+    for (const ui::SemanticsNode& node : elements(surface)) {
+      if (node.isControl()) {
+        labels.push_back(node.label);
+      }
+    }
+    return labels;
+  }
 };
 
-TEST_F(ContentViewKeyboardTest, TabReachesEveryControlOfTheMainPanelExceptTheTrafficLights) {
+TEST_F(ContentViewKeyboardTest, TabReachesEveryControlExceptTheWindowButtons) {
+  using Names = std::vector<std::string>;
   openMain();
   press("Prevent Dock Pop-Up");
   machine.advance(1);
-  const std::vector<std::string> order = tabOrder(mainPanel);
-  EXPECT_EQ(order, (std::vector<std::string>{"Settings", "Display", "DELL", "LG", "Pin Dock",
-                                             "Allow Dock Pop-Up", "Open Dock Settings"}));
-  // A screen reader finds the traffic lights, too, and first.
-  std::vector<std::string> controls;
-  for (const ui::SemanticsNode& node : elements(mainPanel)) {
-    if (node.isControl) {
-      controls.push_back(node.label);
-    }
-  }
-  std::vector<std::string> all{"Close", "Minimise"};
-  all.insert(all.end(), order.begin(), order.end());
-  EXPECT_EQ(controls, all);
-}
+  const Names main{"Settings",          "Display",           "DELL", "LG", "Pin Dock",
+                   "Allow Dock Pop-Up", "Open Dock Settings"};
+  EXPECT_EQ(tabOrder(mainPanel), main);
+  // A screen reader finds the window's buttons, too, and first.
+  Names all{"Close", "Minimise"};
+  all.insert(all.end(), main.begin(), main.end());
+  EXPECT_EQ(controls(mainPanel), all);
 
-TEST_F(ContentViewKeyboardTest, TabReachesEveryControlOfTheSettingsExceptTheCloseButton) {
   openSettings();
-  EXPECT_EQ(tabOrder(settingsPanel),
-            (std::vector<std::string>{"Language", "Temporary Unlock Shortcut", "Privacy Policy",
-                                      "Accessibility Settings", "Contact Support"}));
-}
-
-TEST_F(ContentViewKeyboardTest, SpaceOnACardSelectsItsDisplay) {
-  openMain();
-  for (int times = 0; times < 3; ++times) {
-    key(ui::Key::tab);
-  }
-  ASSERT_EQ(focused(mainPanel), "DELL");
-  key(ui::Key::space);
-  EXPECT_EQ(model().selectedDisplayID().value(), "DISPLAY-2");
+  const Names settings{"Language", "Temporary Unlock Shortcut", "Privacy Policy",
+                       "Accessibility Settings", "Contact Support"};
+  EXPECT_EQ(tabOrder(settingsPanel), settings);
+  // The hidden button for Command-W is none of them.
+  all = {"Close"};
+  all.insert(all.end(), settings.begin(), settings.end());
+  EXPECT_EQ(controls(settingsPanel), all);
 }
 
 TEST_F(ContentViewKeyboardTest, TheSelectedAndTheFocusedCardScrollIntoView) {
@@ -91,43 +87,6 @@ TEST_F(ContentViewKeyboardTest, TheSelectedAndTheFocusedCardScrollIntoView) {
   }
   ASSERT_EQ(focused(mainPanel), "4");
   EXPECT_NEAR(frameOf("4").right(), row.right() - 19, 2);
-}
-
-TEST_F(ContentViewKeyboardTest, EscapeClosesTheSettingsAndOnlyThem) {
-  openSettings();
-  key(ui::Key::escape);
-  EXPECT_FALSE(isOpen(settingsPanel));
-  EXPECT_TRUE(isOpen(mainPanel));
-  key(ui::Key::escape);
-  EXPECT_TRUE(isOpen(mainPanel));
-}
-
-TEST_F(ContentViewKeyboardTest, CommandWClosesTheFrontPanel) {
-  openSettings();
-  command("w");
-  EXPECT_FALSE(isOpen(settingsPanel));
-  ASSERT_TRUE(isOpen(mainPanel));
-  command("w");
-  EXPECT_FALSE(isOpen(mainPanel));
-  EXPECT_TRUE(application.isRunning());
-}
-
-TEST_F(ContentViewKeyboardTest, CommandMMinimisesTheMainPanel) {
-  openMain();
-  command("m");
-  EXPECT_FALSE(isOpen(mainPanel));
-  application.reopen();
-  EXPECT_TRUE(isOpen(mainPanel));
-}
-
-TEST_F(ContentViewKeyboardTest, TheHiddenCloseButtonIsNoElement) {
-  openSettings();
-  int closes = 0;
-  for (const ui::SemanticsNode& node : elements(settingsPanel)) {
-    closes += node.label == "Close" ? 1 : 0;
-    EXPECT_FALSE(node.isControl && node.label.empty());
-  }
-  EXPECT_EQ(closes, 1);
 }
 
 }  // namespace

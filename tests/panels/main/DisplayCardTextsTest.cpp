@@ -60,6 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
         Arrangement{"a tie, right and up", {{800, 800}, {1000, 800}}, "Right Display"},
         Arrangement{"a tie, left and down", {{-800, -800}, {1000, 800}}, "Left Display"},
         Arrangement{"half a point decides", {{800, 800.5}, {1000, 800}}, "Upper Display"},
+        Arrangement{"half a point to the right", {{0.5, 0}, {1000, 800}}, "Right Display"},
         Arrangement{"mirrored", {{0, 0}, {1000, 800}}, "External Display"},
         Arrangement{"the same centre, smaller", {{250, 200}, {500, 400}}, "External Display"},
         Arrangement{"origins say left, centres right", {{-100, 0}, {3000, 800}}, "Right Display"},
