@@ -295,7 +295,7 @@ TEST_F(PointerInputTest, AHostWithoutAViewIgnoresAllInput) {
   EXPECT_FALSE(test.host->tooltipAt({20, 10}));
   EXPECT_FALSE(test.host->keyDown({.key = Key::tab}));
   EXPECT_FALSE(test.host->keyDown({.key = Key::enter}));
-  EXPECT_FALSE(test.host->perform(1, SemanticsAction::press));
+  EXPECT_FALSE(test.host->press(1));
   EXPECT_TRUE(test.host->focus(0));
   EXPECT_EQ(test.drawing() + test.host->dumpTree() + test.frames(), "");
 }

@@ -36,7 +36,7 @@ class ContentViewKeyboardTest : public PanelFixture {
   [[nodiscard]] std::vector<std::string> controls(const std::string& surface) {
     std::vector<std::string> labels;
     for (const ui::SemanticsNode& node : elements(surface)) {
-      if (node.isControl()) {
+      if (node.isControl) {
         labels.push_back(node.label);
       }
     }
