@@ -54,7 +54,7 @@ TEST_F(OrvaneModelLoginItemTest, NothingIsRegisteredFromATemporaryLocation) {
   int announcements = 0;
   const Subscription subscription = model->changes().observe([&] { ++announcements; });
   model->setLaunchAtLoginEnabled(true);
-  EXPECT_EQ(announcements, 1);
+  EXPECT_EQ(announcements, 2) << "the user's wish, and that it is blocked";
   EXPECT_EQ(machine.loginItem.registrationCount, 0);
   EXPECT_TRUE(model->isLaunchAtLoginBlocked());
   EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt) << "nothing has failed";

@@ -258,7 +258,8 @@ TEST_F(OrvaneModelTest, EachPublishedPropertyIsAnnounced) {
   machine.loginItem.status = Status::requiresApproval;
   EXPECT_EQ(announcementsOf([&] { model->refreshLaunchAtLoginStatus(); }), 2) << "both properties";
   machine.loginItem.error = "no";
-  EXPECT_EQ(announcementsOf([&] { model->setLaunchAtLoginEnabled(true); }), 1) << "the error";
+  EXPECT_EQ(announcementsOf([&] { model->setLaunchAtLoginEnabled(true); }), 2)
+      << "the user's wish and the error";
 }
 
 TEST_F(OrvaneModelTest, ALanguageIsAnnouncedWithTheNamesOfTheDisplays) {
