@@ -90,7 +90,7 @@ Lines damageStoredValue(ActionContext& context) {
   return {context.random.oneOf(damages)};
 }
 
-Lines endAndLaunch(ActionContext& context) {
+Lines endOrReopen(ActionContext& context) {
   constexpr std::array<const char*, 3> ends{"terminate", "terminate", "reopen"};
   return {context.random.oneOf(ends)};
 }
@@ -138,7 +138,7 @@ constexpr std::array actions{
     Action{2, closeWindow},
     Action{2, dropIcon},
     Action{4, doOperation},
-    Action{1, endAndLaunch},
+    Action{1, endOrReopen},
     Action{12, followGuide},
 };
 
@@ -265,9 +265,9 @@ constexpr std::array faultKinds{
 
 ActionGenerator::ActionGenerator(Random& random)
     : random_(random), faultCounts_(faultKinds.size()) {
-  for (const Action& habit : actions) {
+  for (const Action& action : actions) {
     constexpr std::array<std::size_t, 4> factors{0, 1, 1, 4};
-    weights_.push_back(habit.weight * random_.oneOf(factors));
+    weights_.push_back(action.weight * random_.oneOf(factors));
   }
   // Time advances every day.
   weights_[0] = std::max(weights_[0], actions[0].weight);

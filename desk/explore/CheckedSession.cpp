@@ -12,7 +12,10 @@ CheckedSession::CheckedSession()
                .output = output_,
                .limits = {.allowsFiles = false},
                .pictureWriter = {},
-               .expectationFailed = [](const std::string&) {}},
+               .expectationFailed =
+                   [this](const std::string& text) {
+                     report({"expectation", text});
+                   }},
       interpreter_(commands_, context_),
       observation_(Observation::of(session_->machine(), session_->application())) {}
 
@@ -22,14 +25,16 @@ void CheckedSession::run(const std::string& line) {
   }
   lines_.push_back(line);
   checker_->beginStep();
-  const bool hasRun = !interpreter_.run(line);
+  problem_ = interpreter_.run(line);
   const Observation before =
       std::exchange(observation_, Observation::of(session_->machine(), session_->application()));
-  const Step step = checker_->endStep(line, hasRun, before, observation_);
-  violation_ = checker_->check(step);
+  const Step step = checker_->endStep(line, !problem_, before, observation_);
+  if (auto violation = checker_->check(step)) {
+    report(std::move(*violation));
+  }
   rarePaths_.note(step);
   fingerprint_.add(std::string_view(line));
-  fingerprint_.add(hasRun);
+  fingerprint_.add(!problem_);
   fingerprint_.add(std::string_view(output_.view()));
   output_.str({});
   const CGPoint place = session_->machine().pointer.location();
@@ -54,8 +59,8 @@ void CheckedSession::report(Violation violation) {
 void CheckedSession::end() {
   checker_.reset();
   session_->end();
-  for (const std::string& mistake : session_->problems()) {
-    report({"end", mistake});
+  for (const std::string& problem : session_->problems()) {
+    report({"end", problem});
   }
 }
 

@@ -27,6 +27,8 @@ class CheckedSession {
   /// A line that fails, such as a press of a missing control, has no effect. After a violation no
   /// line has.
   void run(const std::string& line);
+  /// Why the last line failed.
+  [[nodiscard]] const script::Problem& problem() const { return problem_; }
   void runAll(const std::vector<std::string>& lines);
   /// Ends the machine; anything that the application leaves behind is a violation.
   void end();
@@ -46,8 +48,9 @@ class CheckedSession {
   std::unique_ptr<script::Session> session_ = std::make_unique<script::Session>();
   std::unique_ptr<InvariantChecker> checker_;
   script::CommandTable commands_ = script::standardCommands();
-  script::InspectableTable inspectables_;
+  script::InspectableTable inspectables_ = script::standardInspectables();
   std::ostringstream output_;
+  script::Problem problem_;
   script::ScriptContext context_;
   script::Interpreter interpreter_;
   Observation observation_;

@@ -118,8 +118,13 @@ void pressAgainstForbiddenEdges(CheckedSession& session) {
     session.run("move " + decimal(place.x) + " " + decimal(place.y));
     // Slow enough not to count as a runaway.
     session.run("push " + push + " times 200 every 0.02");
-    if (!session.violation() && session.machine().dock.reveals() != reveals) {
-      session.report({liveness, "the Dock appeared on a forbidden display"});
+    for (const auto& [number, count] : session.machine().dock.reveals()) {
+      const auto known = reveals.find(number);
+      const std::int64_t before = known == reveals.end() ? 0 : known->second;
+      if (!session.violation() && count != before) {
+        session.report({liveness, "the Dock appeared on a forbidden display",
+                        "dock.reveals." + std::to_string(number) + " " + std::to_string(before)});
+      }
     }
   }
   if (!session.violation() && !session.observation().isGuardRunning) {

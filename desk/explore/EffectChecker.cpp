@@ -17,8 +17,10 @@ namespace {
 constexpr std::int64_t alertInterval = Clock::nanosecondsPerSecond;
 /// The application looks at the permission once a second.
 constexpr std::int64_t permissionInterval = Clock::nanosecondsPerSecond;
+/// The guide appears 2 s after the alert.
+constexpr std::int64_t guideDelay = 3 * Clock::nanosecondsPerSecond;
 /// The guide closes this long after its success.
-constexpr std::int64_t guideSuccess = 3 * Clock::nanosecondsPerSecond / 2;
+constexpr std::int64_t guideClosing = 3 * Clock::nanosecondsPerSecond / 2;
 
 /// Whether the step is a press of a control with this label, in either language.
 bool presses(const Step& step, const char* Labels::*label, std::string_view surface) {
@@ -63,7 +65,13 @@ void EffectChecker::track(const Step& step) {
   const Observation& before = step.before;
   const Observation& after = step.after;
   const bool hasSwitchedOff = before.stored.wants && !after.stored.wants && step.isUserAction();
-  hasAsked_ = (hasAsked_ && !hasSwitchedOff) || after.shows("alert");
+  const bool isAsking = before.shows("alert") || after.shows("alert");
+  if (isAsking || (askedAt_ && (before.isGuideOpen || after.isGuideOpen))) {
+    askedAt_ = after.now;
+  }
+  if (hasSwitchedOff && !isAsking) {
+    askedAt_.reset();
+  }
   if (!after.isTrusted) {
     permissionMissingSince_ = permissionMissingSince_.value_or(after.now);
     permissionReturnedAt_.reset();
@@ -175,7 +183,8 @@ EffectChecker::Check EffectChecker::checkStoredChoices(
   if (was.language != is.language || was.modifier != is.modifier) {
     return Violation{"choice", "the language or unlock key was stored without a user action"};
   }
-  if (!hasAsked_ && (was.wants != is.wants || was.prevents != is.prevents)) {
+  const bool mayBeGranted = askedAt_ && step.before.now - *askedAt_ <= guideDelay;
+  if (!mayBeGranted && (was.wants != is.wants || was.prevents != is.prevents)) {
     return Violation{"choice", "the lock or mode was stored without a user action",
                      "defaults.isOrvaneEnabled " + std::string(was.wants ? "true" : "false")};
   }
@@ -208,7 +217,7 @@ EffectChecker::Check EffectChecker::checkWindows(const Step& step) const {
 EffectChecker::Check EffectChecker::checkGuide(const Step& step) const {
   const bool hasClosed = step.before.isGuideOpen && !step.after.isGuideOpen;
   const bool mayHaveSucceeded =
-      step.after.isTrusted && step.after.now - step.before.now >= guideSuccess;
+      step.after.isTrusted && step.after.now - step.before.now >= guideClosing;
   const bool mayClose = step.before.guideState == PermissionGuideState::success ||
                         mayHaveSucceeded || step.isUserAction();
   return hasClosed && !mayClose ? Check(Violation{"guide", "it closed before its success"})

@@ -36,9 +36,9 @@ class EffectChecker {
   [[nodiscard]] Check checkGuide(const Step& step) const;
   [[nodiscard]] Check checkMenu(const Step& step, const DisplayConfiguration& configuration) const;
 
-  /// A request for the permission is open that the user made after the last choice.
-  bool hasAsked_ = false;
-  /// All in nanoseconds by the machine's clock.
+  /// All in nanoseconds by the machine's clock. The last time at which the alert or the guide was
+  /// open for a request that the user made after the last choice.
+  std::optional<std::int64_t> askedAt_;
   std::optional<std::int64_t> lastAlertAt_;
   std::optional<std::int64_t> permissionMissingSince_;
   std::optional<std::int64_t> permissionReturnedAt_;

@@ -53,7 +53,6 @@ void FilterWatch::willDeliver(const __CGEvent& event) {
   const bool isDisabled = machine_.eventTaps.aliveCount() > 0 && !isTapEnabled_;
   step_.hasMetDisabledTap = step_.hasMetDisabledTap || isDisabled;
   step_.hasFreeMovement = step_.hasFreeMovement || !isGuarded_ || isUnlocked;
-  step_.hasUnlockedMovement = step_.hasUnlockedMovement || (isGuarded_ && isUnlocked);
 }
 
 void FilterWatch::didDeliver(const __CGEvent& before, const __CGEvent& after, bool isKept) {

@@ -36,7 +36,6 @@ class FilterWatch : public EventWitness {
     /// An event arrived while the guard's tap was disabled.
     bool hasMetDisabledTap = false;
     bool hasMovedBack = false;
-    bool hasUnlockedMovement = false;
     /// The guard disabled its tap in the filter.
     bool hasShutOff = false;
     std::optional<Violation> violation;

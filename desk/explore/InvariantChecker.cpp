@@ -210,6 +210,11 @@ InvariantChecker::Check InvariantChecker::checkPermission(const Observation& aft
 
 InvariantChecker::Check InvariantChecker::checkGuard(const Observation& before,
                                                      const Observation& after) {
+  // A start without the permission changes nothing; the next look at the permission, within a
+  // second, ends the guard or restarts it with the settings of now.
+  if (!after.isTrusted || !before.isTrusted) {
+    untrustedAt_ = after.now;
+  }
   if (!after.isGuardRunning) {
     if (after.isUnlocked) {
       return Violation{"guard", "it is temporarily unlocked but not running",
@@ -223,11 +228,6 @@ InvariantChecker::Check InvariantChecker::checkGuard(const Observation& before,
   }
   if (!after.stored.wants) {
     return Violation{"guard", "it runs although the lock is off", "guard.running false"};
-  }
-  // A start without the permission changes nothing; the next look at the permission, within a
-  // second, ends the guard or restarts it with the settings of now.
-  if (!after.isTrusted || !before.isTrusted) {
-    untrustedAt_ = after.now;
   }
   if (untrustedAt_ && after.now - *untrustedAt_ <= Clock::nanosecondsPerSecond) {
     return std::nullopt;

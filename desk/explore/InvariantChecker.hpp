@@ -70,7 +70,7 @@ class InvariantChecker {
   FilterWatch filter_;
   EffectChecker effects_;
   std::map<std::string, std::int64_t> wrongSince_;
-  /// When the guard last ran without the permission, in nanoseconds.
+  /// When the permission was last seen missing, in nanoseconds.
   std::optional<std::int64_t> untrustedAt_;
   /// Texts in any language: names of displays, messages of the system.
   std::set<std::string> names_;

@@ -25,10 +25,12 @@ constexpr int successStatus = 0;
 constexpr int violationStatus = 1;
 constexpr int unreadableStatus = 2;
 
-/// The command that repeats the running day, printed if it aborts. A signal handler reads it.
+/// The command that repeats the running day, printed if it crashes. A signal handler reads it.
 std::array<char, 256> abortMessage{};
 
-void writeAbortMessage(int /*signal*/) {
+void writeAbortMessage(int signal) {
+  // Then it ends the program.
+  std::signal(signal, SIG_DFL);
   std::size_t length = 0;
   while (length < abortMessage.size() && abortMessage[length] != '\0') {
     ++length;
@@ -123,12 +125,21 @@ int checkScript(const std::string& file, std::ostream& errors) {
   std::ifstream script(file);
   CheckedSession session;
   std::string line;
-  while (std::getline(script, line)) {
+  while (!session.problem() && !session.violation() && std::getline(script, line)) {
+    if (firstWord(line) == "reset") {
+      errors << file << ':' << session.lines().size() + 1
+             << ": the explorer checks one machine, without \"reset\"" << std::endl;
+      return unreadableStatus;
+    }
     session.run(line);
   }
   const auto count = session.lines().size();
   session.end();
-  if (!script.eof()) {
+  if (session.problem()) {
+    errors << file << ':' << count << ": " << *session.problem() << std::endl;
+    return unreadableStatus;
+  }
+  if (!session.violation() && !script.eof()) {
     errors << file << ":0: the file cannot be read" << std::endl;
     return unreadableStatus;
   }
@@ -154,7 +165,9 @@ int runExplore(const ExploreOptions& options, std::ostream& output, std::ostream
   if (!options.scripts.empty()) {
     return worst;
   }
-  std::signal(SIGABRT, writeAbortMessage);
+  for (const int signal : {SIGABRT, SIGBUS, SIGFPE, SIGSEGV}) {
+    std::signal(signal, writeAbortMessage);
+  }
   Totals totals;
   for (std::int64_t index = 0; index < options.days && worst == successStatus; ++index) {
     Day day;

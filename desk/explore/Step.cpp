@@ -11,8 +11,8 @@ std::string_view firstWord(std::string_view line) {
 }
 
 bool Step::isUserAction() const {
-  constexpr std::array<std::string_view, 10> commands{"press", "pick",  "key",  "click", "do",
-                                                      "drop",  "hover", "drag", "menu",  "close"};
+  constexpr std::array<std::string_view, 8> commands{"press", "pick", "key",  "click",
+                                                     "do",    "drop", "menu", "close"};
   return std::ranges::find(commands, firstWord(line)) != commands.end();
 }
 

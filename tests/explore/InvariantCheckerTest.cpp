@@ -102,21 +102,22 @@ TEST_F(InvariantCheckerTest, DetectsAGuardThatRunsWithTheLockOff) {
 }
 
 TEST_F(InvariantCheckerTest, DetectsAModelThatDiffersFromTheStoredValue) {
-  pin();
+  session.runAll({"display attach 1 frame=0,0,1440,900", "launch"});
   session.machine().userDefaults.set("temporaryUnlockModifier", std::string("shift"));
   session.run("move 100 100");
-  EXPECT_NE(violatedInvariant(), "");
+  EXPECT_EQ(violatedInvariant(), "stored");
 }
 
 TEST_F(InvariantCheckerTest, DetectsTextsInTheWrongLanguage) {
   pin();
-  session.runAll({"menu open", "press \"Open Window\" in menu"});
+  session.runAll({"menu open", "press \"Settings\" in menu"});
   ASSERT_EQ(violatedInvariant(), "");
-  // As if the choice had been stored but not applied to the windows.
-  session.application().model().setAppLanguage(OrvaneLanguage::chinese);
-  session.machine().userDefaults.set("appLanguage", std::string("english"));
+  // As if a text of the application were in Chinese.
+  session.machine().loginItem.error = "失败";
+  session.application().model().setLaunchAtLoginEnabled(true);
+  session.machine().loginItem.error.reset();
   session.run("advance 0.1");
-  EXPECT_NE(violatedInvariant(), "");
+  EXPECT_EQ(violatedInvariant(), "texts");
 }
 
 TEST_F(InvariantCheckerTest, DetectsFaultsAtTheEnd) {
