@@ -12,7 +12,7 @@ enum class OrvaneStatus {
   temporarilyUnlocked,
   /// The Dock's screen edge cannot be used for guarding.
   needsCheck,
-  /// The display to which the Dock is to be pinned is not attached.
+  /// The display to which the Dock is pinned is not attached.
   targetMissing,
   /// The Accessibility permission is missing.
   permissionRequired,

@@ -11,7 +11,7 @@ namespace orvane::appkit {
 namespace {
 
 /// Whether the application is quitting. Removing an item, as its destruction does, makes the system
-/// forget the position that the user chose; when the process ends, the item disappears by itself
+/// forget the position that the user chose; when the process ends, the item disappears with it
 /// and its position is kept.
 bool& isQuitting() {
   static bool quitting = false;

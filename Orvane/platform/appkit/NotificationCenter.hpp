@@ -16,7 +16,7 @@ enum class NotificationName {
   accessibilityPermissionsDidChange,
 };
 
-/// A registration. It does not end by itself: pass it to removeObserver.
+/// A registration, which lasts until it is passed to removeObserver.
 class ObserverToken {
  public:
   struct Implementation;
