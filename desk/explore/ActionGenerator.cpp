@@ -129,6 +129,7 @@ constexpr std::array actions{
     Action{1, changeCursor},
     Action{5, operateMenu},
     Action{20, pressControl},
+    Action{3, pickItem},
     Action{2, hoverControl},
     Action{3, clickSomewhere},
     Action{4, typeKey},

@@ -61,6 +61,7 @@ struct ActionContext {
 
 [[nodiscard]] Lines operateMenu(ActionContext& context);
 [[nodiscard]] Lines pressControl(ActionContext& context);
+[[nodiscard]] Lines pickItem(ActionContext& context);
 [[nodiscard]] Lines hoverControl(ActionContext& context);
 [[nodiscard]] Lines clickSomewhere(ActionContext& context);
 [[nodiscard]] Lines typeKey(ActionContext& context);

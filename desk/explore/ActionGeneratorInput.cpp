@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "desk/explore/ActionGenerator.hpp"
+#include "desk/explore/Language.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk::explore {
@@ -159,6 +160,28 @@ Lines pressControl(ActionContext& context) {
   return context.isRunning && areWindowsFree() && context.random.chance(250)
              ? Lines{"menu open"}
              : controlAction(context, "press");
+}
+
+Lines pickItem(ActionContext& context) {
+  constexpr std::array<const char*, 3> choices{"system", "english", "chinese"};
+  constexpr std::array<const char*, 4> keys{"option", "control", "shift", "command"};
+  const Surfaces surfaces(WindowServer::current());
+  if (!surfaces.isOpen("settings")) {
+    return {};
+  }
+  for (const SurfaceControl& control : surfaces.controls("settings")) {
+    for (const Language language : {Language::english, Language::chinese}) {
+      const std::string pick = "pick " + quoted(control.node.label) + " ";
+      if (control.node.label == labelsIn(language).language && context.random.chance(500)) {
+        return {pick + quoted(languageItem(context.random.oneOf(choices), language)) +
+                " in settings"};
+      }
+      if (control.node.label == labelsIn(language).unlockShortcut) {
+        return {pick + quoted(shortcutItem(context.random.oneOf(keys))) + " in settings"};
+      }
+    }
+  }
+  return {};
 }
 
 Lines hoverControl(ActionContext& context) {

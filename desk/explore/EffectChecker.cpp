@@ -1,12 +1,10 @@
-// Each check compares the observations before and after a step.
+// The lock, the permission and the menu. EffectCheckerControls.cpp has the other controls.
 #include "desk/explore/EffectChecker.hpp"
 
 #include <algorithm>
-#include <array>
-#include <string_view>
 
 #include "desk/explore/Language.hpp"
-#include "desk/explore/Lines.hpp"
+#include "desk/explore/Presses.hpp"
 #include "desk/hand/FindControl.hpp"
 
 namespace orvane::desk::explore {
@@ -22,15 +20,6 @@ constexpr std::int64_t guideDelay = 3 * Clock::nanosecondsPerSecond;
 /// The guide closes this long after its success.
 constexpr std::int64_t guideClosing = 3 * Clock::nanosecondsPerSecond / 2;
 
-/// Whether the step is a press of a control with this label, in either language.
-bool presses(const Step& step, const char* Labels::*label, std::string_view surface) {
-  return std::ranges::any_of(
-      std::array{Language::english, Language::chinese}, [&](Language language) {
-        const std::string control = quoted(labelsIn(language).*label);
-        return step.line == "press " + control + " in " + std::string(surface);
-      });
-}
-
 bool pressesPin(const Step& step) {
   return step.hasRun &&
          (step.line == "do toggleSelectedDisplayLock" || presses(step, &Labels::pin, "menu") ||
@@ -44,19 +33,17 @@ bool pressesPrevent(const Step& step) {
           presses(step, &Labels::allow, "main"));
 }
 
-/// Whether a guard can start: the lock has displays to guard, and the system refuses nothing.
-bool canRun(const Step& step, const DisplayConfiguration& configuration) {
-  const Observation& now = step.after;
-  return now.isTrusted && !now.snapshot.isPermissionStale && !step.isStale &&
-         !step.machine.eventTaps.refusesCreation() && !step.machine.runLoop.refusesSources() &&
-         configuration.edge && !configuration.forbiddenEdgePoints(now.stored.goal()).empty();
-}
-
 Violation missingGuard(const char* text) {
   return {"effect", text, "guard.running true"};
 }
 
 }  // namespace
+
+bool EffectChecker::canRun(const Step& step, const DisplayConfiguration& configuration) const {
+  const Observation& now = step.after;
+  return now.isTrusted && !mayBeStale_ && !step.isStale && configuration.edge &&
+         !configuration.forbiddenEdgePoints(now.stored.goal()).empty();
+}
 
 void EffectChecker::track(const Step& step) {
   if (step.isLaunch()) {
@@ -72,6 +59,9 @@ void EffectChecker::track(const Step& step) {
   if (hasSwitchedOff && !isAsking) {
     askedAt_.reset();
   }
+  const bool isRefusing =
+      step.machine.eventTaps.refusesCreation() || step.machine.runLoop.refusesSources();
+  mayBeStale_ = isRefusing || (mayBeStale_ && after.snapshot.isPermissionStale);
   if (!after.isTrusted) {
     permissionMissingSince_ = permissionMissingSince_.value_or(after.now);
     permissionReturnedAt_.reset();
@@ -94,13 +84,19 @@ std::optional<Violation> EffectChecker::check(const Step& step,
   };
   check([&] { return checkReturnOfPermission(step, configuration); });
   check([&] { return checkAlert(step); });
+  check([&] { return checkWindows(step); });
   if (!step.isWithinRun()) {
     return found;
   }
   check([&] { return checkPinSwitch(step); });
   check([&] { return checkPreventSwitch(step); });
   check([&] { return checkStoredChoices(step, configuration); });
-  check([&] { return checkWindows(step); });
+  check([&] { return checkStop(step, configuration); });
+  check([&] { return checkRequest(step); });
+  check([&] { return checkLinks(step); });
+  check([&] { return checkPickers(step); });
+  check([&] { return checkLoginSwitch(step); });
+  check([&] { return checkCards(step, configuration); });
   check([&] { return checkGuide(step); });
   check([&] { return checkMenu(step, configuration); });
   return found;
@@ -125,6 +121,35 @@ EffectChecker::Check EffectChecker::checkReturnOfPermission(
     return missingGuard("the lock did not come back with the permission");
   }
   return std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkStop(const Step& step,
+                                              const DisplayConfiguration& configuration) const {
+  const bool hasStopped =
+      step.before.isGuardRunning && !step.after.isGuardRunning && !step.after.isGuardWaiting;
+  return hasStopped && step.after.stored.wants && canRun(step, configuration)
+             ? Check(missingGuard("the guard stopped although the lock is on"))
+             : std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkRequest(const Step& step) {
+  const Observation& before = step.before;
+  const Observation& after = step.after;
+  const bool canAsk = !before.isTrusted && !before.isModal && !before.isGuardRunning &&
+                      before.stored.selected && step.hasRun &&
+                      (!lastAlertAt_ || before.now - *lastAlertAt_ >= alertInterval);
+  if (canAsk && (pressesPin(step) || pressesPrevent(step)) && !after.isModal) {
+    return Violation{"effect", "a lock without the permission did not request it"};
+  }
+  if (step.hasRun && presses(step, &Labels::openPrivacySettings, "alert")) {
+    guideIsDueSince_ = after.now;
+  }
+  if (after.isGuideOpen || after.isQueueHeld || after.isTrusted) {
+    guideIsDueSince_.reset();
+  }
+  return guideIsDueSince_ && after.now - *guideIsDueSince_ > guideDelay
+             ? Check(Violation{"guide", "it did not appear after the alert", "guide.visible true"})
+             : std::nullopt;
 }
 
 EffectChecker::Check EffectChecker::checkAlert(const Step& step) {
@@ -195,21 +220,6 @@ EffectChecker::Check EffectChecker::checkStoredChoices(
     if (!isAlias && !step.isStale) {
       return Violation{"choice", "the target was stored without a user action"};
     }
-  }
-  return std::nullopt;
-}
-
-EffectChecker::Check EffectChecker::checkWindows(const Step& step) const {
-  if (!step.hasRun || step.after.isModal) {
-    return std::nullopt;
-  }
-  if ((step.line == "reopen" || presses(step, &Labels::openWindow, "menu")) &&
-      !step.after.shows("main")) {
-    return Violation{"effect", "the panel did not open"};
-  }
-  if ((presses(step, &Labels::settings, "menu") || presses(step, &Labels::settings, "main")) &&
-      !step.after.shows("settings")) {
-    return Violation{"effect", "the settings did not open"};
   }
   return std::nullopt;
 }

@@ -23,13 +23,22 @@ class EffectChecker {
 
   void track(const Step& step);
 
+  /// Whether a guard can start: the lock has displays to guard, and the system refuses nothing.
+  [[nodiscard]] bool canRun(const Step& step, const DisplayConfiguration& configuration) const;
+
   [[nodiscard]] Check checkLaunch(const Step& step,
                                   const DisplayConfiguration& configuration) const;
   [[nodiscard]] Check checkReturnOfPermission(const Step& step,
                                               const DisplayConfiguration& configuration);
   [[nodiscard]] Check checkPinSwitch(const Step& step) const;
   [[nodiscard]] Check checkPreventSwitch(const Step& step) const;
+  [[nodiscard]] Check checkStop(const Step& step, const DisplayConfiguration& configuration) const;
+  [[nodiscard]] Check checkRequest(const Step& step);
   [[nodiscard]] Check checkWindows(const Step& step) const;
+  [[nodiscard]] Check checkLinks(const Step& step) const;
+  [[nodiscard]] Check checkPickers(const Step& step) const;
+  [[nodiscard]] Check checkLoginSwitch(const Step& step) const;
+  [[nodiscard]] Check checkCards(const Step& step, const DisplayConfiguration& configuration) const;
   [[nodiscard]] Check checkStoredChoices(const Step& step,
                                          const DisplayConfiguration& configuration) const;
   [[nodiscard]] Check checkAlert(const Step& step);
@@ -40,6 +49,10 @@ class EffectChecker {
   /// open for a request that the user made after the last choice.
   std::optional<std::int64_t> askedAt_;
   std::optional<std::int64_t> lastAlertAt_;
+  /// The system has refused a tap or its source since the permission was last good.
+  bool mayBeStale_ = false;
+  /// When the user chose to open System Settings, until the guide appears.
+  std::optional<std::int64_t> guideIsDueSince_;
   std::optional<std::int64_t> permissionMissingSince_;
   std::optional<std::int64_t> permissionReturnedAt_;
 };

@@ -77,7 +77,7 @@ Step InvariantChecker::endStep(const std::string& line, bool hasRun, const Obser
     languages_.clear();
   }
   languages_.insert(language);
-  if (!after.shows("alert") && !after.shows("guide")) {
+  if (!after.shows("alert") && !after.isGuideOpen) {
     dialogueLanguages_.clear();
   }
   dialogueLanguages_.insert(languages_.begin(), languages_.end());

@@ -24,16 +24,6 @@ bool hasPopUpWith(const ui::SemanticsNode& tree, const std::string& value) {
       .has_value();
 }
 
-std::string shortcutOf(const std::string& modifier) {
-  if (modifier == "control") {
-    return "⌃ Control";
-  }
-  if (modifier == "shift") {
-    return "⇧ Shift";
-  }
-  return modifier == "command" ? "⌘ Command" : "⌥ Option";
-}
-
 /// Whether the panel marks as chosen exactly the displays with the identifier of the target.
 bool marksTarget(const ui::SemanticsNode& panel, const Observation& after) {
   const std::vector<ui::SemanticsNode> cards = findElements(
@@ -97,13 +87,22 @@ InvariantChecker::Check InvariantChecker::checkMainPanel(const Observation& afte
     const auto hasButton = [&](const char* label) {
       return findControl(panel->second, label).has_value();
     };
+    const auto hasValue = [&](std::string_view value) {
+      return findElement(panel->second,
+                         [&](const ui::SemanticsNode& node) {
+                           return node.role == ui::Role::staticText && node.value == value;
+                         })
+          .has_value();
+    };
     return hasButton(pins ? words.unpin : words.pin) &&
            !hasButton(pins ? words.pin : words.unpin) &&
            hasButton(prevents ? words.allow : words.prevent) &&
-           !hasButton(prevents ? words.prevent : words.allow);
+           !hasButton(prevents ? words.prevent : words.allow) &&
+           hasValue(pins ? words.pinned : words.notPinned) &&
+           hasValue(prevents ? words.enabled : words.off);
   });
   if (!isExpected) {
-    return Violation{"panel", "its buttons do not match the guard"};
+    return Violation{"panel", "its buttons and pills do not match the guard"};
   }
   return marksTarget(panel->second, after)
              ? std::nullopt
@@ -116,13 +115,9 @@ InvariantChecker::Check InvariantChecker::checkSettings(const Observation& after
     return std::nullopt;
   }
   const bool hasLanguage = std::ranges::any_of(languages_, [&](Language language) {
-    const Labels& words = labelsIn(language);
-    const std::string& choice = after.stored.language;
-    return hasPopUpWith(panel->second, choice == "english"   ? words.english
-                                       : choice == "chinese" ? words.chinese
-                                                             : words.followSystem);
+    return hasPopUpWith(panel->second, languageItem(after.stored.language, language));
   });
-  if (!hasLanguage || !hasPopUpWith(panel->second, shortcutOf(after.stored.modifier))) {
+  if (!hasLanguage || !hasPopUpWith(panel->second, shortcutItem(after.stored.modifier))) {
     return Violation{"settings", "they do not show the stored choice"};
   }
   const OrvaneSnapshot& model = after.snapshot;

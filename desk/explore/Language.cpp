@@ -109,11 +109,25 @@ const Labels& labelsIn(Language language) {
       .notNow = "Not Now",
       .openWindow = "Open Window",
       .settings = "Settings",
+      .close = "Close",
+      .quit = "Quit",
+      .openAtLogin = "Open at Login",
+      .openPrivacySettings = "Open Privacy Settings",
+      .openDockSettings = "Open Dock Settings",
+      .privacyPolicy = "Privacy Policy",
+      .accessibilitySettings = "Accessibility Settings",
+      .contactSupport = "Contact Support",
+      .language = "Language",
+      .unlockShortcut = "Temporary Unlock Shortcut",
       .followSystem = "Follow System",
       .english = "English",
       .chinese = "Chinese",
       .locked = "Locked",
       .unlocked = "Unlocked",
+      .pinned = "Pinned",
+      .notPinned = "Not Pinned",
+      .enabled = "Enabled",
+      .off = "Off",
       .approve = "Approve Orvane in Login Items",
       .moveToApplications = "To open at login, move Orvane to Applications"};
   static constexpr Labels chinese{
@@ -124,14 +138,46 @@ const Labels& labelsIn(Language language) {
       .notNow = "取消",
       .openWindow = "打开窗口",
       .settings = "设置",
+      .close = "关闭",
+      .quit = "退出",
+      .openAtLogin = "开机自动运行",
+      .openPrivacySettings = "打开隐私设置",
+      .openDockSettings = "打开 Dock 设置",
+      .privacyPolicy = "隐私政策",
+      .accessibilitySettings = "辅助功能设置",
+      .contactSupport = "联系支持",
+      .language = "语言",
+      .unlockShortcut = "临时解锁快捷键",
       .followSystem = "跟随系统",
       .english = "English",
       .chinese = "中文",
       .locked = "已锁定",
       .unlocked = "未锁定",
+      .pinned = "已固定",
+      .notPinned = "未固定",
+      .enabled = "已启用",
+      .off = "未启用",
       .approve = "请在“登录项”中允许 Orvane",
       .moveToApplications = "要开机自动运行，请先将 Orvane 移到“应用程序”文件夹"};
   return language == Language::english ? english : chinese;
+}
+
+std::string languageItem(std::string_view choice, Language language) {
+  const Labels& words = labelsIn(language);
+  if (choice == "english") {
+    return words.english;
+  }
+  return choice == "chinese" ? words.chinese : words.followSystem;
+}
+
+std::string shortcutItem(std::string_view modifier) {
+  if (modifier == "control") {
+    return "⌃ Control";
+  }
+  if (modifier == "shift") {
+    return "⇧ Shift";
+  }
+  return modifier == "command" ? "⌘ Command" : "⌥ Option";
 }
 
 }  // namespace orvane::desk::explore

@@ -28,15 +28,34 @@ struct Labels {
   const char* notNow;
   const char* openWindow;
   const char* settings;
+  const char* close;
+  const char* quit;
+  const char* openAtLogin;
+  const char* openPrivacySettings;
+  const char* openDockSettings;
+  const char* privacyPolicy;
+  const char* accessibilitySettings;
+  const char* contactSupport;
+  const char* language;
+  const char* unlockShortcut;
   const char* followSystem;
   const char* english;
   const char* chinese;
   const char* locked;
   const char* unlocked;
+  const char* pinned;
+  const char* notPinned;
+  const char* enabled;
+  const char* off;
   const char* approve;
   const char* moveToApplications;
 };
 
 [[nodiscard]] const Labels& labelsIn(Language language);
+
+/// The item of a stored language in the settings' pop-up button.
+[[nodiscard]] std::string languageItem(std::string_view choice, Language language);
+/// The item of a stored unlock key in the settings' pop-up button.
+[[nodiscard]] std::string shortcutItem(std::string_view modifier);
 
 }  // namespace orvane::desk::explore

@@ -55,6 +55,7 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
   observation.isChangingTogether = machine.displays.isChanging();
   observation.displayCount = machine.displays.count();
   observation.tapCount = machine.eventTaps.aliveCount();
+  observation.linkCount = machine.links.opened().size();
   observation.isTapEnabled = machine.eventTaps.isAnyEnabled();
   observation.stored = Stored::of(machine.userDefaults);
   addWindows(observation, server);

@@ -28,6 +28,8 @@ struct Observation {
   bool isChangingTogether = false;
   std::size_t displayCount = 0;
   std::size_t tapCount = 0;
+  /// How many links were opened since the machine was switched on.
+  std::size_t linkCount = 0;
   bool isTapEnabled = false;
   Stored stored;
 
