@@ -37,7 +37,8 @@ class Screen:
         self.folder = folder
         self.process = subprocess.Popen(
             [XVFB, "-displayfd", str(write_end), "-screen", "0", "%dx%dx24" % SCREEN,
-             "-fbdir", str(folder), "-nolisten", "tcp"],
+             # By default it resets, and refuses connections, whenever its only client leaves.
+             "-fbdir", str(folder), "-nolisten", "tcp", "-noreset"],
             pass_fds=[write_end], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
