@@ -1,5 +1,5 @@
 // With any values in the user defaults and the Dock's preferences, of any type, the application
-// starts, reads each value or its default, works, and quits without a leak.
+// starts, works, and quits without a leak.
 #include <array>
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,6 @@
 // Actions on displays, including swapped numbers, shared UUIDs and missing numbers.
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <iterator>
 #include <optional>
 

@@ -2,9 +2,7 @@
 // determines, and a liveness check at its end.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>

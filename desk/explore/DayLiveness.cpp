@@ -1,7 +1,4 @@
 // The liveness check: once all faults have ended, one switch must start a guard that works.
-#include <algorithm>
-#include <array>
-
 #include "desk/explore/Day.hpp"
 #include "desk/windows/WindowServer.hpp"
 

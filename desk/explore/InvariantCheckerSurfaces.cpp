@@ -1,6 +1,5 @@
 // The invariants of the icon, the menu, the panels, the windows and the texts.
 #include <algorithm>
-#include <array>
 
 #include "desk/explore/InvariantChecker.hpp"
 #include "desk/hand/FindControl.hpp"

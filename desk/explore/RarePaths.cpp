@@ -67,7 +67,7 @@ constexpr Path paths[]{
      [](const Step& step) {
        return pauses(step) && step.after.blockedCount >= step.before.blockedCount + 100;
      }},
-    {"a change of displays restarts the guard after a shut-off",
+    {"a change of displays starts the guard",
      [](const Step& step) { return starts(step) && changesDisplays(step); }},
     {"the system disables the tap too often",
      [](const Step& step) { return pauses(step) && startsWith(step, "tap disabled"); }},
@@ -210,7 +210,7 @@ constexpr Path paths[]{
        return startsWith(step, "dock edge") && step.before.isGuardRunning &&
               step.after.isGuardRunning;
      }},
-    {"the request to prevent overtakes the request to pin",
+    {"a request to prevent starts the guard while the guide is open",
      [](const Step& step) {
        return step.before.isGuideOpen && !step.before.stored.prevents &&
               step.after.stored.prevents && starts(step);

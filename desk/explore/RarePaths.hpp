@@ -1,7 +1,6 @@
 // RarePaths counts how often rare states were reached, which shows what the random days cover.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
