@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
-#include <utility>
 
 #include <nlohmann/json_fwd.hpp>
 
@@ -40,8 +39,8 @@ class InspectableTable {
   /// Adds one without a parameter whose state can always be read. `snapshot` takes the machine, the
   /// context or nothing, and returns JSON.
   template <typename Snapshot>
-  void add(std::string name, Snapshot snapshot, std::string countingMember = {}) {
-    add({.name = std::move(name),
+  void add(const std::string& name, Snapshot snapshot, const std::string& countingMember = {}) {
+    add({.name = name,
          .look = [snapshot](ScriptContext& context, const std::string&, Json& shown) -> Problem {
            if constexpr (std::is_invocable_v<Snapshot>) {
              shown = snapshot();
@@ -52,7 +51,7 @@ class InspectableTable {
            }
            return std::nullopt;
          },
-         .countingMember = std::move(countingMember)});
+         .countingMember = countingMember});
   }
   /// Null when there is none with this name.
   [[nodiscard]] const Inspectable* find(std::string_view name) const;
