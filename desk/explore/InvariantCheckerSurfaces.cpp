@@ -13,7 +13,7 @@ namespace {
 /// closes 1.5 s after its success, and polls once a second. If it starts anew during its success,
 /// it succeeds a second time.
 constexpr std::int64_t guideTimeout = 13 * Clock::nanosecondsPerSecond;
-constexpr std::int64_t guideSuccess = 4 * Clock::nanosecondsPerSecond;
+constexpr std::int64_t guideSuccess = 5 * Clock::nanosecondsPerSecond;
 
 bool hasPopUpWith(const ui::SemanticsNode& tree, const std::string& value) {
   return findElement(tree,
