@@ -68,16 +68,14 @@ void answerAlerts(CheckedSession& session) {
   }
 }
 
-/// The menu lists the displays after its three switches.
 void chooseFirstDisplay(CheckedSession& session) {
-  constexpr std::size_t switches = 3;
   session.run("menu open");
   const auto controls = Surfaces(WindowServer::current()).controls(Surfaces::menu);
-  if (controls.size() <= switches) {
+  if (controls.size() <= menuSwitches) {
     session.report({liveness, "the menu lists no display"});
     return;
   }
-  session.run(controlLine("press", Surfaces::menu, controls, switches));
+  session.run(controlLine("press", Surfaces::menu, controls, menuSwitches));
 }
 
 void switchOnLock(CheckedSession& session, FinalMode finalMode) {

@@ -76,30 +76,21 @@ void EffectChecker::track(const Step& step) {
 std::optional<Violation> EffectChecker::check(const Step& step,
                                               const DisplayConfiguration& configuration) {
   track(step);
-  Check found = checkLaunch(step, configuration);
-  const auto check = [&found](auto&& next) {
-    if (!found) {
-      found = next();
-    }
-  };
-  check([&] { return checkReturnOfPermission(step, configuration); });
-  check([&] { return checkAlert(step); });
-  check([&] { return checkWindows(step); });
-  if (!step.isWithinRun()) {
+  if (Check found = firstOf([&] { return checkLaunch(step, configuration); },
+                            [&] { return checkReturnOfPermission(step, configuration); },
+                            [&] { return checkAlert(step); }, [&] { return checkWindows(step); })) {
     return found;
   }
-  check([&] { return checkPinSwitch(step); });
-  check([&] { return checkPreventSwitch(step); });
-  check([&] { return checkStoredChoices(step, configuration); });
-  check([&] { return checkStop(step, configuration); });
-  check([&] { return checkRequest(step); });
-  check([&] { return checkLinks(step); });
-  check([&] { return checkPickers(step); });
-  check([&] { return checkLoginSwitch(step); });
-  check([&] { return checkCards(step, configuration); });
-  check([&] { return checkGuide(step); });
-  check([&] { return checkMenu(step, configuration); });
-  return found;
+  if (!step.isWithinRun()) {
+    return std::nullopt;
+  }
+  return firstOf([&] { return checkPinSwitch(step); }, [&] { return checkPreventSwitch(step); },
+                 [&] { return checkStoredChoices(step, configuration); },
+                 [&] { return checkStop(step, configuration); }, [&] { return checkRequest(step); },
+                 [&] { return checkLinks(step); }, [&] { return checkPickers(step); },
+                 [&] { return checkLoginSwitch(step); },
+                 [&] { return checkCards(step, configuration); }, [&] { return checkGuide(step); },
+                 [&] { return checkMenu(step, configuration); });
 }
 
 EffectChecker::Check EffectChecker::checkLaunch(const Step& step,
@@ -249,7 +240,6 @@ EffectChecker::Check EffectChecker::checkMenu(const Step& step,
           (login == appkit::LoginItem::Status::requiresApproval)) {
     return Violation{"login", "the login item's status was not read"};
   }
-  constexpr std::size_t switches = 3;
   const std::vector<ui::SemanticsNode> rows = findControls(menu->second);
   const std::optional<std::string>& target = step.after.stored.selected;
   const auto* const chosen = target ? configuration.named(*target) : nullptr;
@@ -257,7 +247,7 @@ EffectChecker::Check EffectChecker::checkMenu(const Step& step,
     // Displays may share a UUID; the guard then spares the first of them.
     const bool isChosen =
         chosen != nullptr && chosen->names.front() == configuration.screens[index].names.front();
-    if (switches + index >= rows.size() || rows[switches + index].isSelected != isChosen) {
+    if (menuSwitches + index >= rows.size() || rows[menuSwitches + index].isSelected != isChosen) {
       return Violation{"menu", "it does not mark the chosen display"};
     }
   }

@@ -45,12 +45,12 @@ class EffectChecker {
   [[nodiscard]] Check checkGuide(const Step& step) const;
   [[nodiscard]] Check checkMenu(const Step& step, const DisplayConfiguration& configuration) const;
 
+  /// The system has refused a tap or its source since the permission was last good.
+  bool mayBeStale_ = false;
   /// All in nanoseconds by the machine's clock. The last time at which the alert or the guide was
   /// open for a request that the user made after the last choice.
   std::optional<std::int64_t> askedAt_;
   std::optional<std::int64_t> lastAlertAt_;
-  /// The system has refused a tap or its source since the permission was last good.
-  bool mayBeStale_ = false;
   /// When the user chose to open System Settings, until the guide appears.
   std::optional<std::int64_t> guideIsDueSince_;
   std::optional<std::int64_t> permissionMissingSince_;

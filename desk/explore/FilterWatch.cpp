@@ -2,6 +2,7 @@
 #include "desk/explore/FilterWatch.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane::desk::explore {
 
@@ -36,19 +37,22 @@ void FilterWatch::resetConfigurations() {
 
 void FilterWatch::beginStep() {
   step_ = {};
+  noteSettings();
+}
+
+void FilterWatch::noteSettings() {
+  Stored present = Stored::of(machine_.userDefaults);
   if (!machine_.runLoop.isMainQueueHeld()) {
     settings_.clear();
   }
-  settings_.push_back(Stored::of(machine_.userDefaults));
+  std::erase(settings_, present);
+  settings_.push_back(std::move(present));
 }
 
 void FilterWatch::willDeliver(const __CGEvent& event) {
   isTapEnabled_ = machine_.eventTaps.isAnyEnabled();
   isGuarded_ = isTapEnabled_ && event.type == kCGEventMouseMoved;
-  if (!machine_.runLoop.isMainQueueHeld()) {
-    settings_.clear();
-  }
-  settings_.push_back(Stored::of(machine_.userDefaults));
+  noteSettings();
   const bool isUnlocked = unlocks(settings_.back(), event);
   const bool isDisabled = machine_.eventTaps.aliveCount() > 0 && !isTapEnabled_;
   step_.hasMetDisabledTap = step_.hasMetDisabledTap || isDisabled;

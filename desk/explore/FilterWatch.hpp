@@ -45,6 +45,7 @@ class FilterWatch : public EventWitness {
   [[nodiscard]] std::int64_t eventCount() const { return events_; }
 
  private:
+  void noteSettings();
   [[nodiscard]] std::optional<std::string> problem(const __CGEvent& before, const __CGEvent& after,
                                                    bool isKept) const;
   /// Whether the filter may return the event so, with these stored settings.
@@ -56,7 +57,7 @@ class FilterWatch : public EventWitness {
   bool isTapEnabled_ = false;
   bool isGuarded_ = false;
   /// The settings before the steps of a modal session, in which a guard that has waited for a
-  /// display starts with those of its stop; then those of now.
+  /// display starts with those of its stop; then those of now. Each once.
   std::vector<Stored> settings_;
   Step step_;
   std::int64_t events_ = 0;

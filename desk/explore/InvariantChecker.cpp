@@ -103,31 +103,21 @@ std::optional<Violation> InvariantChecker::check(const Step& step) {
   if (filter_.step().violation) {
     return filter_.step().violation;
   }
-  std::optional<Violation> found = checkMachine(after);
-  const auto check = [&found](auto&& next) {
-    if (!found) {
-      found = next();
-    }
-  };
-  check([&] { return checkObjects(after); });
-  check([&] { return checkKeys(); });
-  check([&] { return checkModes(after); });
-  check([&] { return checkWindows(after); });
-  if (!after.isLaunched) {
+  if (Check found =
+          firstOf([&] { return checkMachine(after); }, [&] { return checkObjects(after); },
+                  [&] { return checkKeys(); }, [&] { return checkModes(after); },
+                  [&] { return checkWindows(after); })) {
     return found;
   }
-  check([&] { return checkDock(before, after); });
-  check([&] { return checkPermission(after); });
-  check([&] { return checkGuard(before, after); });
-  check([&] { return checkModel(after); });
-  check([&] { return checkStatus(after); });
-  check([&] { return checkIcon(after); });
-  check([&] { return checkMenu(after); });
-  check([&] { return checkMainPanel(after); });
-  check([&] { return checkSettings(after); });
-  check([&] { return checkTexts(after); });
-  check([&] { return effects_.check(step, DisplayConfiguration::of(machine_)); });
-  return found;
+  if (!after.isLaunched) {
+    return std::nullopt;
+  }
+  return firstOf([&] { return checkDock(before, after); }, [&] { return checkPermission(after); },
+                 [&] { return checkGuard(before, after); }, [&] { return checkModel(after); },
+                 [&] { return checkStatus(after); }, [&] { return checkIcon(after); },
+                 [&] { return checkMenu(after); }, [&] { return checkMainPanel(after); },
+                 [&] { return checkSettings(after); }, [&] { return checkTexts(after); },
+                 [&] { return effects_.check(step, DisplayConfiguration::of(machine_)); });
 }
 
 InvariantChecker::Check InvariantChecker::checkMachine(const Observation& after) const {

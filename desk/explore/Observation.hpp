@@ -59,6 +59,9 @@ struct Observation {
   void addTo(Fingerprint& fingerprint) const;
 };
 
+/// The menu lists the displays after this number of switches.
+constexpr std::size_t menuSwitches = 3;
+
 /// Every node of the tree, parents before their children.
 [[nodiscard]] std::vector<const ui::SemanticsNode*> elementsOf(const ui::SemanticsNode& root);
 

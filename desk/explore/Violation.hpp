@@ -1,6 +1,7 @@
 // Violation describes an invariant that did not hold.
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace orvane::desk::explore {
@@ -13,5 +14,13 @@ struct Violation {
   /// What a script would expect instead, as `THING.PATH VALUE`; empty if a script cannot.
   std::string expectation = {};
 };
+
+/// The violation that the first failing check returns; the checks after it are not made.
+template <typename... Checks>
+[[nodiscard]] std::optional<Violation> firstOf(const Checks&... checks) {
+  std::optional<Violation> found;
+  static_cast<void>(((found = checks()).has_value() || ...));
+  return found;
+}
 
 }  // namespace orvane::desk::explore
