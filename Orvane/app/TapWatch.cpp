@@ -40,6 +40,7 @@ void TapWatch::check() {
   if (model_.isPermissionStale()) {
     return;
   }
+  model_.followDock();
   if (const bool isBack = std::exchange(wasMissing_, false); model_.isGuardRunning()) {
     reviveTap();
   } else if (isBack) {

@@ -1,6 +1,7 @@
 // TapWatch synchronises the guard's event tap with the Accessibility permission. The window server
 // waits for an active tap at every movement of the pointer, so a tap without the permission must be
-// removed; and when the permission returns, so must a guard that the user wants.
+// removed; and when the permission returns, so must a guard that the user wants. The same check has
+// the guard follow a hidden Dock to another edge.
 #pragma once
 
 #include "Orvane/model/OrvaneModel.hpp"

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "Orvane/base/Require.hpp"
-#include "Orvane/geometry/DockUtils.hpp"
 #include "Orvane/geometry/OrvaneGeometry.hpp"
 #include "Orvane/geometry/OrvaneScreen.hpp"
 #include "Orvane/guard/DockMouseGuardMessages.hpp"
@@ -105,7 +104,19 @@ void DockMouseGuard::reviveTap() {
   announceRunning();
 }
 
+void DockMouseGuard::followDock() {
+  if (!screenObserver_) {
+    return;
+  }
+  const DockPosition present = DockUtils::getDockPosition();
+  const bool isKnown = present != DockPosition::top && present != DockPosition::unknown;
+  if (isKnown && present != dockPosition_) {
+    handleScreenConfigChanged();
+  }
+}
+
 void DockMouseGuard::refreshTriggerZones(std::span<const appkit::Screen> screens) {
+  dockPosition_ = DockUtils::getDockPosition();
   cachedTriggerZones_ = currentTriggerZones(screens);
 }
 
@@ -115,14 +126,12 @@ std::vector<TriggerZone> DockMouseGuard::currentTriggerZones(
   for (const appkit::Screen& screen : screens) {
     frames.push_back(OrvaneScreen::orvaneCGFrame(screen, screens));
   }
-  const DockPosition dockPosition = DockUtils::getDockPosition();
-
   if (blocksAllDisplays_) {
     std::set<std::size_t> everyIndex;
     for (std::size_t index = 0; index < frames.size(); ++index) {
       everyIndex.insert(index);
     }
-    return OrvaneGeometry::calculateTriggerZones(frames, everyIndex, dockPosition);
+    return OrvaneGeometry::calculateTriggerZones(frames, everyIndex, dockPosition_);
   }
   if (lockedDisplayIdentifier_.empty()) {
     return {};
@@ -131,7 +140,7 @@ std::vector<TriggerZone> DockMouseGuard::currentTriggerZones(
   if (!lockedIndex) {
     return {};
   }
-  return OrvaneGeometry::calculateTriggerZones(frames, *lockedIndex, dockPosition);
+  return OrvaneGeometry::calculateTriggerZones(frames, *lockedIndex, dockPosition_);
 }
 
 void DockMouseGuard::setupEventTap() {

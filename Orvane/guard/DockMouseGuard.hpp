@@ -15,6 +15,7 @@
 #include "Orvane/base/CFRef.hpp"
 #include "Orvane/base/Lifetime.hpp"
 #include "Orvane/geometry/DisplaySnapshot.hpp"
+#include "Orvane/geometry/DockUtils.hpp"
 #include "Orvane/geometry/TriggerZone.hpp"
 #include "Orvane/guard/GuardSnapshot.hpp"
 #include "Orvane/guard/OrvaneModifier.hpp"
@@ -43,6 +44,9 @@ class DockMouseGuard {
   /// disabled enables it; if the next call finds it disabled again, it replaces the tap. Also
   /// completes a pending shut-off.
   void reviveTap();
+  /// To be called periodically: follows the Dock to another edge, because the system posts no
+  /// notification when a hidden Dock moves. Ignores an unknown edge. Does nothing after `stop`.
+  void followDock();
 
   /// The filter: called for every event that the tap delivers. Returns the same event, with its
   /// location changed if it was in a zone. It runs for every pointer movement of the session, so it
@@ -117,6 +121,8 @@ class DockMouseGuard {
   bool wasRevived_ = false;
   bool lastAnnouncedRunning_ = false;
   std::vector<TriggerZone> cachedTriggerZones_;
+  /// The Dock's edge when the zones were last computed.
+  DockPosition dockPosition_ = DockPosition::unknown;
   std::optional<appkit::ObserverToken> screenObserver_;
   std::string lockedDisplayIdentifier_;
   OrvaneModifier overrideModifier_ = OrvaneModifier::option;

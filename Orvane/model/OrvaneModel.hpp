@@ -125,6 +125,9 @@ class OrvaneModel {
   /// To be called periodically while the guard runs and the permission is granted. Restarts a guard
   /// that missed a change of the settings while the permission was away; else revives its tap.
   void reviveGuard();
+  /// To be called periodically while the permission is granted: a guard that runs or waits follows
+  /// the Dock to another edge.
+  void followDock() { guardService_.followDock(); }
   /// Whether the guard could not be restored at launch because the permission was missing; false
   /// again once it starts.
   [[nodiscard]] bool isRestoreBlocked() const { return isRestoreBlocked_; }
