@@ -24,7 +24,7 @@ void CheckedSession::run(const std::string& line) {
     return;
   }
   lines_.push_back(line);
-  checker_->beginStep();
+  checker_->beginStep(line);
   problem_ = interpreter_.run(line);
   const Observation before =
       std::exchange(observation_, Observation::of(session_->machine(), session_->application()));

@@ -90,6 +90,13 @@ std::vector<std::string> namesOf(const Display& display) {
   return names;
 }
 
+std::string withoutBlanks(const std::string& text) {
+  constexpr const char* blanks = " \t\n";
+  const std::size_t begin = text.find_first_not_of(blanks);
+  return begin == std::string::npos ? ""
+                                    : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+}
+
 std::optional<DockEdge> edgeOf(const Machine& machine) {
   const auto value = machine.preferences.stored("com.apple.dock", "orientation");
   const auto* const text = value ? std::get_if<std::string>(&*value) : nullptr;
@@ -128,7 +135,9 @@ DisplayConfiguration DisplayConfiguration::of(const Machine& machine) {
     const CGRect& frame = display.frame;
     configuration.screens.push_back(
         {frame.origin.x, mainHeight - frame.origin.y - frame.size.height, frame.size.width,
-         frame.size.height, display.number, namesOf(display)});
+         frame.size.height, display.number, namesOf(display), withoutBlanks(display.name),
+         display.hasNumberInDescription, display.isBuiltIn && display.hasNumberInDescription,
+         display.hasNumberInDescription && &display == machine.displays.main()});
   }
   return configuration;
 }

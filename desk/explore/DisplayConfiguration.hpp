@@ -32,6 +32,12 @@ struct DisplayConfiguration {
     std::uint32_t number = 0;
     /// Every identifier that a stored choice may have for the display, the preferred one first.
     std::vector<std::string> names;
+    /// The name that the system gives it, without blanks around it; empty if it gives none.
+    std::string title;
+    /// Whether the system says its number.
+    bool hasNumber = true;
+    bool isBuiltIn = false;
+    bool isMain = false;
 
     [[nodiscard]] bool isNamed(const std::string& name) const;
     [[nodiscard]] bool hasFrameOf(const Screen& other) const;

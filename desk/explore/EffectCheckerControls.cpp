@@ -107,7 +107,7 @@ EffectChecker::Check EffectChecker::checkCards(const Step& step,
   for (std::size_t index = 0; index < std::min(cards.size(), configuration.screens.size());
        ++index) {
     const std::string& label = cards[index].label;
-    const bool isPressed = step.line == "press " + quoted(label) + " in main" &&
+    const bool isPressed = step.operation == "press " + quoted(label) + " in main" &&
                            findControl(panel->second, label)->id == cards[index].id;
     if (isPressed && step.after.stored.selected != configuration.screens[index].names.front()) {
       return Violation{"effect", "the card of another display was chosen"};

@@ -25,18 +25,31 @@ bool isSame(CGPoint first, CGPoint second) {
 }  // namespace
 
 void FilterWatch::addConfiguration() {
+  const std::int64_t now = machine_.clock.now();
   DisplayConfiguration present = DisplayConfiguration::of(machine_);
-  if (std::ranges::find(configurations_, present) == configurations_.end()) {
-    configurations_.push_back(std::move(present));
+  if (present != present_ || machine_.displays.isChanging()) {
+    // The guard looks at the Dock's edge once a second.
+    staleUntil_ = std::max(
+        staleUntil_, now + Clock::nanosecondsPerSecond + machine_.notifications.delayNanoseconds);
+    present_ = std::move(present);
+  }
+  // The guard keeps its zones at an unknown edge.
+  if (now > staleUntil_ && present_.edge) {
+    configurations_ = {present_};
+  } else if (std::ranges::find(configurations_, present_) == configurations_.end()) {
+    configurations_.push_back(present_);
   }
 }
 
 void FilterWatch::resetConfigurations() {
-  configurations_ = {DisplayConfiguration::of(machine_)};
+  present_ = DisplayConfiguration::of(machine_);
+  configurations_ = {present_};
+  staleUntil_ = 0;
 }
 
 void FilterWatch::beginStep() {
   step_ = {};
+  runaway_.beginStep();
   noteSettings();
 }
 
@@ -61,12 +74,20 @@ void FilterWatch::willDeliver(const __CGEvent& event) {
 
 void FilterWatch::didDeliver(const __CGEvent& before, const __CGEvent& after, bool isKept) {
   ++events_;
-  step_.hasShutOff = step_.hasShutOff || (isTapEnabled_ && !machine_.eventTaps.isAnyEnabled());
-  step_.hasMovedBack = step_.hasMovedBack || !isSame(before.location, after.location);
+  const bool hasShutOff = isTapEnabled_ && !machine_.eventTaps.isAnyEnabled();
+  const bool hasMovedBack = !isSame(before.location, after.location);
+  step_.hasShutOff = step_.hasShutOff || hasShutOff;
+  step_.hasMovedBack = step_.hasMovedBack || hasMovedBack;
+  std::optional<Violation> found;
+  if (auto text = problem(before, after, isKept)) {
+    found = Violation{"filter", std::move(*text)};
+  } else if (hasMovedBack) {
+    found = runaway_.noteBlock(machine_.clock.now(), hasShutOff);
+  } else if (hasShutOff) {
+    found = Violation{"filter", "the guard shut itself off without a block"};
+  }
   if (!step_.violation) {
-    if (auto text = problem(before, after, isKept)) {
-      step_.violation = Violation{"filter", std::move(*text)};
-    }
+    step_.violation = std::move(found);
   }
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desk/explore/DisplayConfiguration.hpp"
+#include "desk/explore/RunawayWatch.hpp"
 #include "desk/explore/Stored.hpp"
 #include "desk/explore/Violation.hpp"
 #include "desk/machine/EventWitness.hpp"
@@ -21,7 +22,8 @@ class FilterWatch : public EventWitness {
   void willDeliver(const __CGEvent& event) override;
   void didDeliver(const __CGEvent& before, const __CGEvent& after, bool isKept) override;
 
-  /// The guard may act on the present displays and Dock, or still on earlier ones.
+  /// To be called after each step. The guard may act on the present displays and Dock, or still on
+  /// earlier ones until the system notifies it or it looks at the Dock's edge.
   void addConfiguration();
   /// The application has just been notified: only the present configuration counts.
   void resetConfigurations();
@@ -53,12 +55,17 @@ class FilterWatch : public EventWitness {
                                 const Stored& stored) const;
 
   Machine& machine_;
+  /// The present one, unless the guard may act on others.
   std::vector<DisplayConfiguration> configurations_;
+  DisplayConfiguration present_;
+  /// Until when the guard may act on earlier configurations, in nanoseconds.
+  std::int64_t staleUntil_ = 0;
   bool isTapEnabled_ = false;
   bool isGuarded_ = false;
   /// The settings before the steps of a modal session, in which a guard that has waited for a
   /// display starts with those of its stop; then those of now. Each once.
   std::vector<Stored> settings_;
+  RunawayWatch runaway_;
   Step step_;
   std::int64_t events_ = 0;
 };

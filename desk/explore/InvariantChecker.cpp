@@ -15,6 +15,27 @@ namespace {
 constexpr std::array<std::string_view, 5> storedKeys{"selectedDisplayID", "isOrvaneEnabled",
                                                      "hidesDockOnAllDisplays",
                                                      "temporaryUnlockModifier", "appLanguage"};
+
+/// Whether the name is the screen's title, or in any language the one that it gets without a title.
+bool hasTitle(const std::string& name, const DisplayConfiguration::Screen& screen) {
+  if (screen.isBuiltIn) {
+    return name == "Display" || name == "内建显示器" || name == "內建顯示器";
+  }
+  if (!screen.title.empty()) {
+    return name == screen.title;
+  }
+  const std::string number = std::to_string(screen.number);
+  return name == "Display " + number || name == "显示器 " + number || name == "顯示器 " + number ||
+         (!screen.hasNumber &&
+          (name == "Unknown Display" || name == "未知显示器" || name == "未知顯示器"));
+}
+
+bool isListedAs(const DisplaySnapshot& display, const DisplayConfiguration::Screen& screen) {
+  return display.id == screen.names.front() && display.cgFrame.origin.x == screen.x &&
+         display.cgFrame.origin.y == screen.y && display.isBuiltIn == screen.isBuiltIn &&
+         display.isMain == screen.isMain && hasTitle(display.name, screen);
+}
+
 std::string yesNo(bool value) {
   return value ? "true" : "false";
 }
@@ -46,7 +67,8 @@ void InvariantChecker::observeScreens() {
   });
 }
 
-void InvariantChecker::beginStep() {
+void InvariantChecker::beginStep(const std::string& line) {
+  operation_ = operations_.operationOf(line);
   filter_.beginStep();
   abandonedPortsBefore_ = machine_.counters.abandonedPorts;
   wasStale_ = isStale();
@@ -88,7 +110,12 @@ Step InvariantChecker::endStep(const std::string& line, bool hasRun, const Obser
   } else {
     filter_.addConfiguration();
   }
+  if (!Operations::hasReachedTarget(line)) {
+    operation_ = line;
+  }
+  operations_.note(after);
   return {.line = line,
+          .operation = operation_,
           .hasRun = hasRun,
           .before = before,
           .after = after,
@@ -113,10 +140,12 @@ std::optional<Violation> InvariantChecker::check(const Step& step) {
     return std::nullopt;
   }
   return firstOf([&] { return checkDock(before, after); }, [&] { return checkPermission(after); },
-                 [&] { return checkGuard(before, after); }, [&] { return checkModel(after); },
+                 [&] { return checkGuard(before, after); }, [&] { return disabling_.check(step); },
+                 [&] { return checkModel(after); }, [&] { return checkTimers(after); },
                  [&] { return checkStatus(after); }, [&] { return checkIcon(after); },
-                 [&] { return checkMenu(after); }, [&] { return checkMainPanel(after); },
-                 [&] { return checkSettings(after); }, [&] { return checkTexts(after); },
+                 [&] { return checkAnnouncement(after); }, [&] { return checkMenu(after); },
+                 [&] { return checkMainPanel(after); }, [&] { return checkSettings(after); },
+                 [&] { return checkTexts(after); },
                  [&] { return effects_.check(step, DisplayConfiguration::of(machine_)); });
 }
 
@@ -158,6 +187,20 @@ InvariantChecker::Check InvariantChecker::checkKeys() const {
     if (std::ranges::find(storedKeys, key) == storedKeys.end() && !scriptKeys_.contains(key)) {
       return Violation{"keys", "\"" + key + "\" was stored"};
     }
+  }
+  return std::nullopt;
+}
+
+InvariantChecker::Check InvariantChecker::checkTimers(const Observation& after) {
+  // The status icon and the tap watch have one each, so have an open panel and a guide that polls.
+  const std::size_t expected = 2U + static_cast<std::size_t>(after.isMainOpen) +
+                               static_cast<std::size_t>(after.isGuidePolling);
+  const std::size_t count = machine_.runLoop.timerCount();
+  // The machine uses a timer for each late notification.
+  lateUntil_ = std::max(lateUntil_, after.now + machine_.notifications.delayNanoseconds);
+  if (isOverdue("timers", count > expected && after.now > lateUntil_, after.now)) {
+    return Violation{
+        "timers", std::to_string(count) + " timers are running, not " + std::to_string(expected)};
   }
   return std::nullopt;
 }
@@ -288,12 +331,7 @@ InvariantChecker::Check InvariantChecker::checkStatus(const Observation& after) 
   }
   const DisplayConfiguration& configuration = filter_.configurations().front();
   const std::vector<DisplaySnapshot>& listed = after.snapshot.displays;
-  const bool isSame = std::ranges::equal(
-      listed, configuration.screens,
-      [](const DisplaySnapshot& display, const DisplayConfiguration::Screen& screen) {
-        return display.id == screen.names.front() && display.cgFrame.origin.x == screen.x &&
-               display.cgFrame.origin.y == screen.y;
-      });
+  const bool isSame = std::ranges::equal(listed, configuration.screens, isListedAs);
   if (!isSame && (hasListed_ || !listed.empty())) {
     return Violation{"displays", "the model does not list the attached displays"};
   }

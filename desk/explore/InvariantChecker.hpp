@@ -10,10 +10,12 @@
 #include <string_view>
 #include <vector>
 
+#include "desk/explore/DisablingWatch.hpp"
 #include "desk/explore/EffectChecker.hpp"
 #include "desk/explore/FilterWatch.hpp"
 #include "desk/explore/Language.hpp"
 #include "desk/explore/Observation.hpp"
+#include "desk/explore/Operations.hpp"
 #include "desk/explore/Step.hpp"
 #include "desk/explore/Violation.hpp"
 
@@ -27,7 +29,7 @@ class InvariantChecker {
   ~InvariantChecker();
 
   /// To be called before a line runs.
-  void beginStep();
+  void beginStep(const std::string& line);
   /// To be called after the line, with the observations before and after it. The step refers to
   /// them.
   [[nodiscard]] Step endStep(const std::string& line, bool hasRun, const Observation& before,
@@ -52,8 +54,10 @@ class InvariantChecker {
   [[nodiscard]] Check checkModel(const Observation& after) const;
   [[nodiscard]] Check checkStatus(const Observation& after) const;
   [[nodiscard]] Check checkKeys() const;
+  [[nodiscard]] Check checkTimers(const Observation& after);
 
   [[nodiscard]] Check checkIcon(const Observation& after);
+  [[nodiscard]] Check checkAnnouncement(const Observation& after);
   [[nodiscard]] Check checkMenu(const Observation& after);
   [[nodiscard]] Check checkMainPanel(const Observation& after) const;
   [[nodiscard]] Check checkSettings(const Observation& after) const;
@@ -67,7 +71,11 @@ class InvariantChecker {
 
   Machine& machine_;
   FilterWatch filter_;
+  DisablingWatch disabling_;
   EffectChecker effects_;
+  Operations operations_;
+  /// The press that the running line amounts to, or the line.
+  std::string operation_;
   std::map<std::string, std::int64_t> wrongSince_;
   /// When the permission was last seen missing, in nanoseconds.
   std::optional<std::int64_t> untrustedAt_;
@@ -82,6 +90,8 @@ class InvariantChecker {
   std::map<std::uint32_t, std::int64_t> revealsBefore_;
   std::int64_t abandonedPortsBefore_ = 0;
   bool wasStale_ = false;
+  /// Until when a late notification may be on its way, in nanoseconds.
+  std::int64_t lateUntil_ = 0;
   /// Stored keys that the script itself has set.
   std::set<std::string> scriptKeys_;
 };

@@ -31,7 +31,7 @@ bool marksTarget(const ui::SemanticsNode& panel, const Observation& after) {
   return std::ranges::equal(cards, after.snapshot.displays,
                             [&](const ui::SemanticsNode& card, const DisplaySnapshot& display) {
                               return card.isSelected == (target == display.id) &&
-                                     (display.name.empty() || card.label == display.name);
+                                     card.label == display.name;
                             });
 }
 
@@ -52,6 +52,21 @@ InvariantChecker::Check InvariantChecker::checkIcon(const Observation& after) {
   });
   if (isOverdue("icon's value", !isExpected && !after.isQueueHeld, after.now)) {
     return Violation{"icon", "its accessibility value is \"" + after.iconValue + "\""};
+  }
+  return std::nullopt;
+}
+
+InvariantChecker::Check InvariantChecker::checkAnnouncement(const Observation& after) {
+  const auto says = [&](std::string_view text) {
+    return after.lastAnnouncement.find(text) != std::string::npos;
+  };
+  const bool pins = says("is pinned to") || says("已固定到");
+  const bool prevents = says("is kept from popping up") || says("已防止");
+  const bool isExpected = pins == (after.isGuardRunning && !after.stored.prevents) &&
+                          prevents == (after.isGuardRunning && after.stored.prevents);
+  // The application looks once a second, and the guard may stop and start in between.
+  if (isOverdue("announcement", !isExpected, after.now, 2 * Clock::nanosecondsPerSecond)) {
+    return Violation{"announcement", "the last one was \"" + after.lastAnnouncement + "\""};
   }
   return std::nullopt;
 }

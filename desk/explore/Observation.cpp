@@ -23,6 +23,7 @@ void addWindows(Observation& observation, WindowServer& server) {
   }
   for (const auto& window : server.windows()) {
     if (window->className == "OrvaneWindow") {
+      observation.isMainOpen = true;
       observation.isMainMinimised = window->isMiniaturized;
     }
     observation.isGuideOpen = observation.isGuideOpen || window->className == "OrvaneGuidePanel";
@@ -76,6 +77,9 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
   if (!application.messages().empty()) {
     observation.lastMessage = application.messages().back().text;
   }
+  if (!server.announcements.empty()) {
+    observation.lastAnnouncement = server.announcements.back();
+  }
   return observation;
 }
 
@@ -95,7 +99,7 @@ void Observation::addTo(Fingerprint& fingerprint) const {
   fingerprint.add(static_cast<std::uint64_t>(guideState));
   fingerprint.add(static_cast<std::uint64_t>(messageCount));
   for (const std::string& text : {stored.selected.value_or(""), stored.modifier, stored.language,
-                                  icon, iconValue, lastMessage}) {
+                                  icon, iconValue, lastMessage, lastAnnouncement}) {
     fingerprint.add(std::string_view(text));
   }
   for (const auto& [name, tree] : trees) {

@@ -48,9 +48,13 @@ struct Observation {
   bool isGuideOpen = false;
   bool isGuidePolling = false;
   PermissionGuideState guideState = PermissionGuideState::checking;
+  /// True also while it is minimised or hidden.
+  bool isMainOpen = false;
   bool isMainMinimised = false;
   std::size_t messageCount = 0;
   std::string lastMessage;
+  /// To screen readers, since the launch.
+  std::string lastAnnouncement;
   /// The semantics trees of the application's visible surfaces, by name.
   std::map<std::string, ui::SemanticsNode> trees;
 

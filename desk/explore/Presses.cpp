@@ -1,4 +1,4 @@
-// Compares the step's line with the lines of both languages.
+// Compares the step's operation with the lines of both languages.
 #include "desk/explore/Presses.hpp"
 
 #include <algorithm>
@@ -17,14 +17,14 @@ constexpr std::array languages{Language::english, Language::chinese};
 
 bool presses(const Step& step, const char* Labels::*label, std::string_view surface) {
   return std::ranges::any_of(languages, [&](Language language) {
-    return step.line ==
+    return step.operation ==
            "press " + quoted(labelsIn(language).*label) + " in " + std::string(surface);
   });
 }
 
 bool picks(const Step& step, const char* Labels::*label, std::string_view item) {
   return std::ranges::any_of(languages, [&](Language language) {
-    return step.line ==
+    return step.operation ==
            "pick " + quoted(labelsIn(language).*label) + " " + quoted(item) + " in settings";
   });
 }

@@ -219,11 +219,13 @@ constexpr Path paths[]{
 
 }  // namespace
 
-RarePaths::RarePaths() : counts_(std::size(paths)) {}
+RarePaths::RarePaths() : counts_(std::size(paths)), isIn_(std::size(paths)) {}
 
 void RarePaths::note(const Step& step) {
   for (std::size_t index = 0; index < counts_.size(); ++index) {
-    counts_[index] += paths[index].isReached(step) ? 1 : 0;
+    const bool wasIn = isIn_[index];
+    isIn_[index] = paths[index].isReached(step);
+    counts_[index] += isIn_[index] && !wasIn ? 1 : 0;
   }
 }
 

@@ -17,11 +17,13 @@ class RarePaths {
   void add(const RarePaths& other);
 
   [[nodiscard]] static std::vector<std::string> names();
-  /// In the order of names().
+  /// How often each was entered, in the order of names().
   [[nodiscard]] const std::vector<std::int64_t>& counts() const { return counts_; }
 
  private:
   std::vector<std::int64_t> counts_;
+  /// Whether the last step was in the state.
+  std::vector<bool> isIn_;
 };
 
 }  // namespace orvane::desk::explore

@@ -10,6 +10,8 @@ namespace orvane::desk::explore {
 
 struct Step {
   const std::string& line;
+  /// The line, or the press that it amounts to if it is a click or a key.
+  const std::string& operation;
   /// The line had no error.
   bool hasRun;
   const Observation& before;
