@@ -31,9 +31,9 @@ struct DisplayConfiguration {
     double height = 0;
     std::uint32_t number = 0;
     /// Every identifier that a stored choice may have for the display, the preferred one first.
-    std::vector<std::string> names;
+    std::vector<std::string> names = {};
     /// The name that the system gives it, without blanks around it; empty if it gives none.
-    std::string title;
+    std::string title = {};
     /// Whether the system says its number.
     bool hasNumber = true;
     bool isBuiltIn = false;

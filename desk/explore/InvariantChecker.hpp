@@ -54,7 +54,7 @@ class InvariantChecker {
   [[nodiscard]] Check checkModel(const Observation& after) const;
   [[nodiscard]] Check checkStatus(const Observation& after) const;
   [[nodiscard]] Check checkKeys() const;
-  [[nodiscard]] Check checkTimers(const Observation& after);
+  [[nodiscard]] Check checkTimers(const Observation& after) const;
 
   [[nodiscard]] Check checkIcon(const Observation& after);
   [[nodiscard]] Check checkAnnouncement(const Observation& after);
@@ -90,8 +90,6 @@ class InvariantChecker {
   std::map<std::uint32_t, std::int64_t> revealsBefore_;
   std::int64_t abandonedPortsBefore_ = 0;
   bool wasStale_ = false;
-  /// Until when a late notification may be on its way, in nanoseconds.
-  std::int64_t lateUntil_ = 0;
   /// Stored keys that the script itself has set.
   std::set<std::string> scriptKeys_;
 };

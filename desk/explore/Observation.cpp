@@ -26,6 +26,8 @@ void addWindows(Observation& observation, WindowServer& server) {
       observation.isMainOpen = true;
       observation.isMainMinimised = window->isMiniaturized;
     }
+    observation.isSettingsOpen =
+        observation.isSettingsOpen || window->className == "OrvaneSettingsWindow";
     observation.isGuideOpen = observation.isGuideOpen || window->className == "OrvaneGuidePanel";
   }
   if (const StatusBarItem* const item = server.statusBar.item()) {

@@ -48,8 +48,9 @@ struct Observation {
   bool isGuideOpen = false;
   bool isGuidePolling = false;
   PermissionGuideState guideState = PermissionGuideState::checking;
-  /// True also while it is minimised or hidden.
+  // True also while they are minimised or hidden.
   bool isMainOpen = false;
+  bool isSettingsOpen = false;
   bool isMainMinimised = false;
   std::size_t messageCount = 0;
   std::string lastMessage;

@@ -97,6 +97,11 @@ std::size_t RunLoop::timerCount() const {
   return timers_.size();
 }
 
+std::size_t RunLoop::coalescedTimerCount() const {
+  return static_cast<std::size_t>(std::count_if(
+      timers_.begin(), timers_.end(), [](const auto& timer) { return timer->isCoalesced; }));
+}
+
 bool RunLoop::addSource(const void* source, ModeSet modes) {
   for (auto& [known, knownModes] : sources_) {
     if (known == source) {

@@ -70,6 +70,8 @@ class RunLoop {
   /// The tick is not called again, and is destroyed as soon as it is not running.
   void invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer);
   [[nodiscard]] std::size_t timerCount() const;
+  /// Those of the application; animations and the machine use others.
+  [[nodiscard]] std::size_t coalescedTimerCount() const;
 
   /// While refused, no source can be created for a port.
   void setRefusesSources(bool refuses) { refusesSources_ = refuses; }

@@ -1,0 +1,118 @@
+// Each test describes a step of a faulty application, and the step of a correct one.
+#include <string>
+
+#include "desk/explore/EffectChecker.hpp"
+#include "tests/explore/StepFixture.hpp"
+
+namespace orvane::desk::explore {
+namespace {
+
+class EffectCheckerTest : public StepFixture {
+ protected:
+  EffectCheckerTest() {
+    for (Observation* const observation : {&before, &after}) {
+      observation->stored.selected = "LEFT";
+    }
+  }
+  [[nodiscard]] std::string violationOf(const std::string& text) {
+    const auto violation = checker.check(step(text), sideBySide());
+    return violation ? violation->text : "";
+  }
+  [[nodiscard]] static DisplayConfiguration sideBySide() {
+    DisplayConfiguration configuration;
+    configuration.edge = DockEdge::bottom;
+    for (const auto& [x, name] : {std::pair(0.0, "LEFT"), std::pair(1000.0, "RIGHT")}) {
+      DisplayConfiguration::Screen screen;
+      screen.x = x;
+      screen.width = 1000;
+      screen.height = 800;
+      screen.names = {name};
+      configuration.screens.push_back(std::move(screen));
+    }
+    return configuration;
+  }
+
+  EffectChecker checker;
+};
+
+TEST_F(EffectCheckerTest, ALaunchRestoresTheLock) {
+  before.isLaunched = false;
+  before.stored.wants = after.stored.wants = true;
+  EXPECT_EQ(violationOf("launch"), "the launch did not restore the lock");
+  after.isGuardRunning = true;
+  EXPECT_EQ(violationOf("launch"), "");
+}
+
+TEST_F(EffectCheckerTest, PinningAndUnpinningAreStored) {
+  const std::string pin = "press \"Pin Dock\" in menu";
+  EXPECT_EQ(violationOf(pin), "the Dock is not pinned");
+  after.stored.wants = after.isGuardRunning = true;
+  EXPECT_EQ(violationOf(pin), "");
+  before = after;
+  EXPECT_EQ(violationOf("press \"解除固定 Dock\" in main"), "the Dock is still pinned");
+}
+
+TEST_F(EffectCheckerTest, PreventingIsStored) {
+  after.stored.wants = after.isGuardRunning = true;
+  EXPECT_NE(violationOf("press \"Prevent Dock Pop-Up\" in main"), "");
+  after.stored.prevents = true;
+  EXPECT_EQ(violationOf("press \"Prevent Dock Pop-Up\" in main"), "");
+}
+
+TEST_F(EffectCheckerTest, TheGuardDoesNotStopWhileTheLockIsOn) {
+  before.stored.wants = after.stored.wants = true;
+  before.isGuardRunning = true;
+  EXPECT_EQ(violationOf("advance 1"), "the guard stopped although the lock is on");
+  after.isGuardWaiting = true;
+  EXPECT_EQ(violationOf("advance 1"), "");
+}
+
+TEST_F(EffectCheckerTest, OnlyUsersChangeTheirChoices) {
+  after.stored.modifier = "shift";
+  EXPECT_NE(violationOf("advance 1"), "");
+  EXPECT_EQ(violationOf("do temporaryUnlockModifier shift"), "");
+}
+
+TEST_F(EffectCheckerTest, ALockWithoutThePermissionRequestsIt) {
+  before.isTrusted = after.isTrusted = false;
+  EXPECT_EQ(violationOf("do toggleSelectedDisplayLock"),
+            "a lock without the permission did not request it");
+  after.isModal = true;
+  EXPECT_EQ(violationOf("do toggleSelectedDisplayLock"), "");
+}
+
+TEST_F(EffectCheckerTest, TheLockComesBackWithThePermission) {
+  before.stored.wants = after.stored.wants = true;
+  after.isTrusted = false;
+  EXPECT_EQ(violationOf("trust off"), "");
+  machine().advance(2);
+  before.isTrusted = false;
+  after.isTrusted = true;
+  EXPECT_EQ(violationOf("trust on"), "") << "the application looks once a second";
+  machine().advance(1.1);
+  before.isTrusted = true;
+  EXPECT_EQ(violationOf("advance 1.1"), "the lock did not come back with the permission");
+}
+
+TEST_F(EffectCheckerTest, NoSecondAlertAppearsWithinASecond) {
+  const auto open = [&] {
+    after.isModal = true;
+    return violationOf("advance 0");
+  };
+  EXPECT_EQ(open(), "");
+  machine().advance(0.9);
+  EXPECT_EQ(open(), "it appeared twice within a second");
+  machine().advance(1);
+  EXPECT_EQ(open(), "");
+}
+
+TEST_F(EffectCheckerTest, AClosedPanelAndSettingsThatOpenAreSeen) {
+  before.trees["main"] = after.trees["main"] = {};
+  EXPECT_EQ(violationOf("press \"Settings\" in main"), "the settings did not open");
+  EXPECT_EQ(violationOf("press \"Close\" in main"), "main did not close");
+  after.trees.erase("main");
+  EXPECT_EQ(violationOf("press \"Close\" in main"), "");
+}
+
+}  // namespace
+}  // namespace orvane::desk::explore
