@@ -18,8 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   std::istringstream script(std::string(reinterpret_cast<const char*>(bytes), size));
   ScriptProgram::Settings settings;
   // An input must not run for long and must not write files.
-  settings.limits = {.repetitions = 500,
-                     .clockNanoseconds = 600 * orvane::desk::Clock::nanosecondsPerSecond,
+  settings.limits = {.repetitions = 50,
+                     .clockNanoseconds = 20 * orvane::desk::Clock::nanosecondsPerSecond,
                      .allowsFiles = false};
   ScriptProgram program(std::move(settings), noInput, output, errors);
   const ScriptProgram::Status status = program.run(script, "script");
