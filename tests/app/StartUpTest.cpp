@@ -1,7 +1,6 @@
 // The application's calls of the platform interface, in their order: at launch, when the menu
 // opens, and for each action of the menu.
 #include "tests/app/AppFixture.hpp"
-#include "tests/support/CallRecorder.hpp"
 
 namespace orvane {
 namespace {
@@ -49,6 +48,20 @@ std::string refreshCalls(const std::string& select) {
   return "Screen.screens\n" + select + "AXIsProcessTrusted\n";
 }
 
+const std::string removeTapCalls =
+    "CGEventTapEnable false\nCFRunLoopRemoveSource\nCFMachPortInvalidate\n";
+
+/// A restarted guard first removes its tap.
+std::string startGuardCalls(const std::string& removal) {
+  return "AXIsProcessTrusted\n" + removal + R"(Screen.screens
+CGEventTapCreate
+CFMachPortCreateRunLoopSource
+CFRunLoopAddSource
+CGEventTapEnable true
+NotificationCenter.addObserver
+)";
+}
+
 /// The second display replaces none of the first menu's rows.
 std::string menuCalls(const std::string& callForSecondDisplay) {
   return R"calls(Menu.changeItem 0 "Open at Login"
@@ -78,14 +91,12 @@ std::string selectCall(char display) {
 class StartUpTest : public AppFixture {
  protected:
   StartUpTest() {
-    store("appLanguage", std::string("english"));
+    store("appLanguage", "english");
     attachTwoDisplays();
   }
 
   std::string launchCalls() {
-    const desk::CallRecorder recorder(machine);
-    application.launch();
-    return recorder.text();
+    return callsOf([this] { application.launch(); });
   }
   /// The calls of a launch that makes these calls to restore the lock.
   static std::string expectedLaunchCalls(const std::string& restoring, const std::string& symbol) {
@@ -102,16 +113,9 @@ TEST_F(StartUpTest, RestoresNothingWhenNothingIsStored) {
 TEST_F(StartUpTest, RestoresAStoredLockBeforeItUpdatesTheIcon) {
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(true);
-  const std::string restoring = refreshCalls(selectCall('A')) + R"(AXIsProcessTrusted
-AXIsProcessTrusted
-Screen.screens
-CGEventTapCreate
-CFMachPortCreateRunLoopSource
-CFRunLoopAddSource
-CGEventTapEnable true
-NotificationCenter.addObserver
-)";
-  EXPECT_EQ(launchCalls(), expectedLaunchCalls(restoring, "lock.fill"));
+  EXPECT_EQ(launchCalls(), expectedLaunchCalls(refreshCalls(selectCall('A')) +
+                                                   "AXIsProcessTrusted\n" + startGuardCalls(""),
+                                               "lock.fill"));
 }
 
 TEST_F(StartUpTest, ChecksAndGivesUpAStoredLockWithoutThePermission) {
@@ -123,23 +127,21 @@ TEST_F(StartUpTest, ChecksAndGivesUpAStoredLockWithoutThePermission) {
 
 TEST_F(StartUpTest, OpeningTheMenuRefreshesTheModelThenTheMenuThenTheIcon) {
   application.launch();
-  const desk::CallRecorder recorder(machine);
-  ASSERT_TRUE(openMenu());
-  EXPECT_EQ(recorder.text(), refreshCalls(selectCall('A')) +
-                                 "LoginItem.status\nLoginItem.status\n" +
-                                 menuCalls("Menu.insertItem") + iconCalls("lock.open"));
+  EXPECT_EQ(callsOf([this] { EXPECT_TRUE(openMenu()); }),
+            refreshCalls(selectCall('A')) + "LoginItem.status\nLoginItem.status\n" +
+                menuCalls("Menu.insertItem") + iconCalls("lock.open"));
 }
 
 TEST_F(StartUpTest, AnotherLanguageRebuildsTheMenuOnce) {
-  store("appLanguage", std::string("chinese"));
+  store("appLanguage", "chinese");
   application.launch();
   model().refreshDisplays();
-  const desk::CallRecorder recorder(machine);
-  model().setAppLanguage(OrvaneLanguage::english);
-  machine.runDue();
-  EXPECT_EQ(recorder.text(), "UserDefaults.setString \"appLanguage\" \"english\"\n" +
-                                 refreshCalls("") + menuCalls("Menu.insertItem") +
-                                 iconCalls("lock.open"));
+  const std::string calls = callsOf([this] {
+    model().setAppLanguage(OrvaneLanguage::english);
+    machine.runDue();
+  });
+  EXPECT_EQ(calls, "UserDefaults.setString \"appLanguage\" \"english\"\n" + refreshCalls("") +
+                       menuCalls("Menu.insertItem") + iconCalls("lock.open"));
 }
 
 TEST_F(StartUpTest, WhileNothingChangesItOnlyChecksThePermissionOnceASecond) {
@@ -151,42 +153,22 @@ TEST_F(StartUpTest, WhileNothingChangesItOnlyChecksThePermissionOnceASecond) {
       model().toggleSelectedDisplayLock();
       machine.runDue();
     }
-    const desk::CallRecorder recorder(machine);
     const std::int64_t wakeUps = machine.runLoop.wakeUpCount();
-    machine.advance(3);
+    EXPECT_EQ(callsOf([this] { machine.advance(3); }),
+              "AXIsProcessTrusted\nAXIsProcessTrusted\nAXIsProcessTrusted\n");
     EXPECT_EQ(machine.runLoop.wakeUpCount() - wakeUps, 3);
-    EXPECT_EQ(recorder.text(), "AXIsProcessTrusted\nAXIsProcessTrusted\nAXIsProcessTrusted\n");
   }
 }
 
-TEST_F(StartUpTest, ModelAndGuardListTheScreensOnceEach) {
+TEST_F(StartUpTest, ADisplayChangeListsTheScreensOnceForEachOfGuardModelAndRestart) {
+  store("isOrvaneEnabled", true);
   machine.permission.setTrusted(true);
   application.launch();
-  model().refreshDisplays();
-  const auto screenLists = [](const desk::CallRecorder& recorder) {
-    std::size_t count = 0;
-    const std::string& text = recorder.text();
-    for (std::size_t at = text.find("Screen.screens"); at != std::string::npos;
-         at = text.find("Screen.screens", at + 1)) {
-      ++count;
-    }
-    return count;
-  };
-  {
-    const desk::CallRecorder recorder(machine);
-    model().toggleSelectedDisplayLock();
-    EXPECT_EQ(screenLists(recorder), 2U);
-  }
-  const desk::CallRecorder recorder(machine);
-  desk::attach(machine, desk::monitorAbove());
-  machine.runDue();
-  EXPECT_EQ(screenLists(recorder), 3U) << "the guard, the model, and the guard's restart";
-}
-
-TEST_F(StartUpTest, ReopeningNeedsNothingMoreFromTheSystem) {
-  application.launch();
-  EXPECT_TRUE(server().application.reopen());
-  EXPECT_TRUE(desk::Surfaces(server()).isOpen("main"));
+  const std::string calls = callsOf([this] {
+    desk::attach(machine, desk::monitorAbove());
+    machine.runDue();
+  });
+  EXPECT_EQ(calls, "Screen.screens\n" + refreshCalls("") + startGuardCalls(removeTapCalls));
 }
 
 class MenuActionCallsTest : public StartUpTest {
@@ -197,11 +179,8 @@ class MenuActionCallsTest : public StartUpTest {
     EXPECT_TRUE(openMenu());
   }
 
-  /// The calls when a row is chosen.
-  std::string callsOf(const std::string& title) {
-    const desk::CallRecorder recorder(machine);
-    EXPECT_TRUE(press(title));
-    return recorder.text();
+  std::string callsOfRow(const std::string& title) {
+    return callsOf([&] { EXPECT_TRUE(press(title)); });
   }
 
   const std::string closeCall = "Menu.cancelTracking\n";
@@ -222,22 +201,22 @@ Window.orderFrontRegardless "OrvaneSettingsWindow"
 };
 
 TEST_F(MenuActionCallsTest, OpenWindowActivatesAfterTheWindowToo) {
-  EXPECT_EQ(callsOf("Open Window"),
+  EXPECT_EQ(callsOfRow("Open Window"),
             closeCall + showMainCalls + activateCall + iconCalls("lock.open") + mainAppearsCalls);
 }
 
 TEST_F(MenuActionCallsTest, SettingsShowsTheMainPanelFirst) {
-  EXPECT_EQ(callsOf("Settings"), closeCall + showMainCalls + showSettingsCalls +
-                                     iconCalls("lock.open") + mainAppearsCalls +
-                                     "LoginItem.status\nLoginItem.status\n");
+  EXPECT_EQ(callsOfRow("Settings"), closeCall + showMainCalls + showSettingsCalls +
+                                        iconCalls("lock.open") + mainAppearsCalls +
+                                        "LoginItem.status\nLoginItem.status\n");
 }
 
 TEST_F(MenuActionCallsTest, QuitClosesTheMenuFirst) {
-  EXPECT_EQ(callsOf("Quit"), closeCall + "Application.terminate\n");
+  EXPECT_EQ(callsOfRow("Quit"), closeCall + "Application.terminate\n");
 }
 
 TEST_F(MenuActionCallsTest, ADisplayIsStoredBetweenTheClosingOfTheMenuAndItsUpdate) {
-  EXPECT_EQ(callsOf("Studio"),
+  EXPECT_EQ(callsOfRow("Studio"),
             closeCall + selectCall('B') + menuCalls("Menu.changeItem") + iconCalls("lock.open"));
 }
 

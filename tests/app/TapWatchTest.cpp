@@ -1,5 +1,7 @@
 // The tap watch: no tap without the permission, and none that stays disabled.
+#include <functional>
 #include <optional>
+#include <vector>
 
 #include "Orvane/app/TapWatch.hpp"
 #include "tests/support/ModelFixture.hpp"
@@ -36,16 +38,6 @@ TEST_F(TapWatchTest, TheTapIsRemovedEvenWhileTheMainQueueIsSuspended) {
   machine.runLoop.leaveMode();
 }
 
-TEST_F(TapWatchTest, RemovingTheTapEndsATemporaryUnlock) {
-  launchPinned();
-  watch();
-  moveHolding(kCGEventFlagMaskAlternate);
-  ASSERT_TRUE(model->isTemporarilyUnlocked().value());
-  machine.permission.setTrusted(false);
-  machine.advance(TapWatch::intervalSeconds);
-  EXPECT_FALSE(model->isTemporarilyUnlocked().value());
-}
-
 TEST_F(TapWatchTest, AStoppedGuardResumesWithThePermission) {
   launchPreventing();
   watch();
@@ -56,31 +48,6 @@ TEST_F(TapWatchTest, AStoppedGuardResumesWithThePermission) {
   machine.advance(TapWatch::intervalSeconds);
   EXPECT_TRUE(isTapEnabled());
   EXPECT_TRUE(model->guardService().snapshot().blocksAllDisplays);
-}
-
-TEST_F(TapWatchTest, AResumedGuardWaitsForItsTarget) {
-  launchPinned();
-  watch();
-  machine.permission.setTrusted(false);
-  machine.advance(2);
-  desk::detach(machine, 1);
-  machine.permission.setTrusted(true);
-  machine.advance(2);
-  ASSERT_FALSE(model->isGuardRunning());
-  desk::attach(machine, desk::laptop());
-  machine.runDue();
-  EXPECT_TRUE(isTapEnabled());
-}
-
-TEST_F(TapWatchTest, AGuardTurnedOffInTheMeantimeIsNotStarted) {
-  launchPinned();
-  watch();
-  machine.permission.setTrusted(false);
-  machine.advance(2);
-  store("isOrvaneEnabled", false);
-  machine.permission.setTrusted(true);
-  machine.advance(2);
-  EXPECT_FALSE(model->isGuardRunning());
 }
 
 TEST_F(TapWatchTest, ANotificationOfChangedPermissionsIsHandledAtOnce) {
@@ -107,59 +74,6 @@ TEST_F(TapWatchTest, WithoutANotificationTheTimerDetectsTheChange) {
   EXPECT_TRUE(isTapEnabled());
 }
 
-TEST_F(TapWatchTest, ALockThatWasNotRestoredForWantOfThePermissionStartsWithIt) {
-  store("isOrvaneEnabled", true);
-  store("selectedDisplayID", "gone");
-  machine.permission.setTrusted(false);
-  launch();
-  watch();
-  machine.permission.setTrusted(true);
-  EXPECT_FALSE(model->isGuardRunning()) << "its display is detached";
-  EXPECT_TRUE(model->guardService().snapshot().isObservingScreens);
-  desk::Display display = desk::monitorAbove();
-  display.uuid = "gone";
-  desk::attach(machine, display);
-  machine.runDue();
-  EXPECT_TRUE(isTapEnabled());
-}
-
-TEST_F(TapWatchTest, ALockRevokedWhileItsDisplayWasDetachedResumes) {
-  launchPinned();
-  watch();
-  desk::detach(machine, 1);
-  machine.runDue();
-  ASSERT_FALSE(model->isGuardRunning());
-  machine.permission.setTrusted(false);
-  EXPECT_TRUE(model->guardService().snapshot().isObservingScreens) << "there is no tap to remove";
-  desk::attach(machine, desk::laptop());
-  machine.runDue();
-  ASSERT_FALSE(model->isGuardRunning());
-  machine.permission.setTrusted(true);
-  EXPECT_TRUE(isTapEnabled());
-}
-
-TEST_F(TapWatchTest, ALockThatWasNotRestoredForWantOfItsDisplayIsNotStarted) {
-  store("isOrvaneEnabled", true);
-  store("selectedDisplayID", "gone");
-  launch();
-  watch();
-  desk::Display display = desk::monitorAbove();
-  display.uuid = "gone";
-  desk::attach(machine, display);
-  machine.advance(5);
-  EXPECT_FALSE(model->isGuardRunning()) << "before the next launch";
-  EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
-}
-
-TEST_F(TapWatchTest, ASilentlyDisabledTapIsEnabled) {
-  launchPinned();
-  watch();
-  machine.eventTaps.disableAllSilently(false);
-  machine.advance(TapWatch::intervalSeconds);
-  EXPECT_TRUE(isTapEnabled());
-  EXPECT_TRUE(hasTap(1)) << "the same tap";
-}
-
 TEST_F(TapWatchTest, ATapThatStaysDisabledIsReplacedAtTheNextCheck) {
   launchPinned();
   watch();
@@ -179,7 +93,7 @@ TEST_F(TapWatchTest, ATapDisabledOccasionallyIsEnabledEachTime) {
     machine.eventTaps.disableAllSilently(false);
     machine.advance(2 * TapWatch::intervalSeconds);
   }
-  EXPECT_TRUE(hasTap(1));
+  EXPECT_TRUE(hasTap(1)) << "the same tap";
   EXPECT_TRUE(isTapEnabled());
 }
 
@@ -189,72 +103,56 @@ class StalePermissionTest : public TapWatchTest {
   StalePermissionTest() {
     launchPinned();
     watch();
+    becomeStale();
+  }
+  /// The system disables the tap for good and refuses another.
+  void becomeStale() {
     machine.eventTaps.setRefusesCreation(true);
     machine.eventTaps.disableAllSilently(true);
     machine.advance(2 * TapWatch::intervalSeconds);
+    ASSERT_EQ(model->status(), OrvaneStatus::permissionRequired);
+  }
+  void postPermissionChange() {
+    machine.observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
   }
 };
 
 TEST_F(StalePermissionTest, CountsAsMissing) {
   EXPECT_FALSE(model->isGuardRunning());
-  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
-  EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
   EXPECT_EQ(stored("isOrvaneEnabled"), Value(true));
+  postPermissionChange();
+  EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired) << "the tap is still refused";
   machine.eventTaps.setRefusesCreation(false);
-  model->refreshDisplays();
+  desk::attach(machine, desk::monitorAbove());
   machine.advance(60);
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
   EXPECT_FALSE(model->isGuardRunning());
 }
 
-TEST_F(StalePermissionTest, EndsWithTheNextChangeOfThePermissions) {
-  machine.eventTaps.setRefusesCreation(false);
-  machine.observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
-  EXPECT_TRUE(isTapEnabled());
-  EXPECT_EQ(model->status(), OrvaneStatus::locked);
-}
-
-TEST_F(StalePermissionTest, StaysWhenAnotherApplicationsPermissionChanged) {
-  machine.observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
-  EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
-}
-
-TEST_F(StalePermissionTest, EndsWhenThePermissionIsRevokedAndGranted) {
-  machine.eventTaps.setRefusesCreation(false);
-  machine.permission.onChange(nullptr);
-  machine.permission.setTrusted(false);
-  machine.advance(1);
-  machine.permission.setTrusted(true);
-  machine.advance(1);
-  EXPECT_EQ(model->status(), OrvaneStatus::locked);
-}
-
-TEST_F(StalePermissionTest, EndsWhenTheUserStartsTheGuard) {
-  machine.eventTaps.setRefusesCreation(false);
-  model->toggleSelectedDisplayLock();
-  EXPECT_EQ(model->status(), OrvaneStatus::locked);
-}
-
-TEST_F(StalePermissionTest, EndsWhenTheUserOpensThePermissionsPage) {
-  machine.eventTaps.setRefusesCreation(false);
-  model->openAccessibilitySettings();
-  EXPECT_TRUE(model->hasAccessibilityPermission().value());
-  machine.advance(1);
-  EXPECT_EQ(model->status(), OrvaneStatus::locked);
+TEST_F(StalePermissionTest, EndsWithAChangeOfThePermissionsOrAnActionOfTheUser) {
+  const std::vector<std::function<void()>> actions{
+      [this] { postPermissionChange(); },
+      [this] {
+        machine.permission.setTrusted(false);
+        machine.permission.setTrusted(true);
+      },
+      [this] { model->toggleSelectedDisplayLock(); },
+      [this] { model->openAccessibilitySettings(); },
+  };
+  for (const auto& action : actions) {
+    machine.eventTaps.setRefusesCreation(false);
+    action();
+    EXPECT_TRUE(model->hasAccessibilityPermission().value());
+    machine.advance(TapWatch::intervalSeconds);
+    EXPECT_EQ(model->status(), OrvaneStatus::locked);
+    becomeStale();
+  }
 }
 
 TEST_F(StalePermissionTest, ReturnsWhenTheTapIsRefusedAgain) {
   model->toggleSelectedDisplayLock();
   EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
   machine.advance(1);
-  EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
-}
-
-TEST_F(StalePermissionTest, SurvivesAChangeOfTheDisplays) {
-  machine.eventTaps.setRefusesCreation(false);
-  desk::attach(machine, desk::monitorAbove());
-  machine.advance(5);
-  EXPECT_FALSE(model->isGuardRunning());
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
 }
 

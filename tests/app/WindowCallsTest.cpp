@@ -4,7 +4,6 @@
 #include <sstream>
 
 #include "tests/app/AppFixture.hpp"
-#include "tests/support/CallRecorder.hpp"
 
 namespace orvane {
 namespace {
@@ -24,7 +23,6 @@ const std::string closeSettings =
 class WindowCallsTest : public AppFixture {
  protected:
   WindowCallsTest() {
-    store("appLanguage", std::string("english"));
     begin();
     application.reopen();
   }
@@ -35,10 +33,8 @@ class WindowCallsTest : public AppFixture {
     return callsOf(title, desk::Surfaces::menu);
   }
   std::string callsOf(const std::string& label, const std::string& surface) {
-    const desk::CallRecorder recorder(machine);
-    EXPECT_TRUE(press(label, surface));
+    std::istringstream calls(AppFixture::callsOf([&] { EXPECT_TRUE(press(label, surface)); }));
     std::string windowCalls;
-    std::istringstream calls(recorder.text());
     for (std::string call; std::getline(calls, call);) {
       windowCalls += call.starts_with("Window") ? call + "\n" : "";
     }
@@ -53,10 +49,6 @@ TEST_F(WindowCallsTest, AMinimisedMainPanelIsDeminiaturizedBeforeItComesToTheFro
     EXPECT_TRUE(calls.starts_with("Window.deminiaturize \"OrvaneWindow\"\n" + mainToFront))
         << calls;
   }
-}
-
-TEST_F(WindowCallsTest, AMainPanelThatIsNotMinimisedIsOnlyBroughtToTheFront) {
-  EXPECT_EQ(callsOfRow("Open Window"), mainToFront);
 }
 
 TEST_F(WindowCallsTest, TheSettingsBecomeAChildOnceAndComeToTheFrontEachTime) {

@@ -13,6 +13,9 @@ namespace {
 
 using Announcements = std::vector<std::string>;
 
+const char* const permissionIsMissing =
+    "The Accessibility permission is missing; the Dock is not guarded";
+
 class GuardAnnouncerTest : public ModelFixture {
  protected:
   GuardAnnouncerTest() { store("appLanguage", "english"); }
@@ -56,8 +59,7 @@ TEST_F(GuardAnnouncerTest, AMissingPermissionIsAnnouncedWhenTheGuardIsRequested)
   launch();
   EXPECT_EQ(announced(), Announcements()) << "nothing was requested";
   model->toggleSelectedDisplayLock();
-  EXPECT_EQ(announced(),
-            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
+  EXPECT_EQ(announced(), Announcements{permissionIsMissing});
   // The request expires; nothing has stopped.
   machine.advance(2);
   EXPECT_EQ(announced(), Announcements());
@@ -67,8 +69,7 @@ TEST_F(GuardAnnouncerTest, AMissingPermissionIsAnnouncedWhenTheLastLockCannotBeR
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(false);
   launch();
-  EXPECT_EQ(announced(),
-            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
+  EXPECT_EQ(announced(), Announcements{permissionIsMissing});
 }
 
 TEST_F(GuardAnnouncerTest, ARevokedPermissionAndItsReturnAreAnnounced) {
@@ -76,8 +77,7 @@ TEST_F(GuardAnnouncerTest, ARevokedPermissionAndItsReturnAreAnnounced) {
   announced();
   machine.permission.setTrusted(false);
   model->refreshPermission();
-  EXPECT_EQ(announced(),
-            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
+  EXPECT_EQ(announced(), Announcements{permissionIsMissing});
   machine.permission.setTrusted(true);
   model->refreshPermission();
   EXPECT_EQ(announced(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
@@ -89,8 +89,7 @@ TEST_F(GuardAnnouncerTest, AGuardThatStopsWithoutThePermissionIsAnnouncedOnce) {
   machine.permission.setTrusted(false);
   model->guardService().stop();
   model->refreshPermission();
-  EXPECT_EQ(announced(),
-            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
+  EXPECT_EQ(announced(), Announcements{permissionIsMissing});
   machine.permission.setTrusted(true);
   model->refreshPermission();
   EXPECT_EQ(announced(), Announcements());

@@ -1,5 +1,4 @@
 // The choice between the two languages.
-#include <array>
 #include <regex>
 #include <string>
 #include <vector>
@@ -16,19 +15,6 @@ namespace {
 
 using Identifiers = std::vector<std::string>;
 
-OrvaneLanguage preferred(const Identifiers& identifiers, std::string_view fallback) {
-  return OrvaneLanguage::systemPreferred(identifiers, fallback);
-}
-
-TEST(OrvaneLanguageTest, TheCasesKeepTheirOrderAndRawValues) {
-  EXPECT_EQ(OrvaneLanguage::allCases,
-            (std::array{OrvaneLanguage::system, OrvaneLanguage::english, OrvaneLanguage::chinese}));
-  EXPECT_EQ(OrvaneLanguage(OrvaneLanguage::system).rawValue(), "system");
-  EXPECT_EQ(OrvaneLanguage(OrvaneLanguage::english).rawValue(), "english");
-  EXPECT_EQ(OrvaneLanguage(OrvaneLanguage::chinese).rawValue(), "chinese");
-  EXPECT_EQ(OrvaneLanguage::defaultsKey, "appLanguage");
-}
-
 TEST(OrvaneLanguageTest, RawValuesAreReadBackAndOtherTextIsSystem) {
   for (const OrvaneLanguage language : OrvaneLanguage::allCases) {
     EXPECT_EQ(OrvaneLanguage::fromRawValue(language.rawValue()), language);
@@ -38,11 +24,7 @@ TEST(OrvaneLanguageTest, RawValuesAreReadBackAndOtherTextIsSystem) {
   }
 }
 
-TEST(OrvaneLanguageTest, TheFirstThatNamesEitherLanguageDecides) {
-  EXPECT_EQ(preferred({"fr-FR", "zh-Hans-CN", "en"}, "en_US"), OrvaneLanguage::chinese);
-}
-
-class OrvaneLanguageOnAMachineTest : public desk::MachineFixture {};
+using OrvaneLanguageOnAMachineTest = desk::MachineFixture;
 
 TEST_F(OrvaneLanguageOnAMachineTest, EachLanguageGivesItsOwnText) {
   machine.locale.preferredLanguages = {"zh-Hans"};
@@ -60,18 +42,6 @@ TEST_F(OrvaneLanguageOnAMachineTest, TheSystemsLanguageIsReadAtEachCall) {
   EXPECT_EQ(language.localized("Quit", "退出"), "Quit");
   machine.locale.preferredLanguages = {"zh-Hant-HK", "en-GB"};
   EXPECT_EQ(language.localized("Quit", "退出"), "退出");
-}
-
-TEST_F(OrvaneLanguageOnAMachineTest, TheStoredSettingIsReadAtEachCall) {
-  EXPECT_EQ(OrvaneLanguage::stored(), OrvaneLanguage::system);
-  machine.userDefaults.set("appLanguage", "chinese");
-  EXPECT_EQ(OrvaneLanguage::stored(), OrvaneLanguage::chinese);
-  machine.userDefaults.set("appLanguage", "english");
-  EXPECT_EQ(OrvaneLanguage::stored(), OrvaneLanguage::english);
-  machine.userDefaults.set("appLanguage", "latin");
-  EXPECT_EQ(OrvaneLanguage::stored(), OrvaneLanguage::system);
-  machine.userDefaults.set("appLanguage", 1.0);
-  EXPECT_EQ(OrvaneLanguage::stored(), OrvaneLanguage::system);
 }
 
 RC_GTEST_PROP(OrvaneLanguageProperty, TheSystemsLanguageAgreesWithRegularExpressions, ()) {
@@ -92,7 +62,7 @@ RC_GTEST_PROP(OrvaneLanguageProperty, TheSystemsLanguageAgreesWithRegularExpress
       break;
     }
   }
-  RC_ASSERT(preferred(identifiers, fallback) == expected);
+  RC_ASSERT(OrvaneLanguage::systemPreferred(identifiers, fallback) == expected);
 }
 
 }  // namespace

@@ -33,17 +33,6 @@ TEST_F(OrvaneDraggableAppIconViewTest, TheDragCarriesTheBundleAndAllowsOnlyACopy
   EXPECT_FALSE(machine.permission.isTrusted()) << "it was not dropped on the list";
 }
 
-TEST_F(OrvaneDraggableAppIconViewTest, DroppedOnTheListItGrantsThePermission) {
-  dragIcon(10);
-  const CGPoint corner = server().topLeftOf(*window("system"));
-  const ui::Rect list = systemSettings.listFrame().value_or(ui::Rect{});
-  moveTo({corner.x + list.x + 50, corner.y + list.y + 20});
-  release();
-  EXPECT_TRUE(machine.permission.isTrusted());
-  machine.advance(1);
-  EXPECT_EQ(granted, "a");
-}
-
 TEST_F(OrvaneDraggableAppIconViewTest, DraggingDoesNotMoveThePanelEvenWithoutAnImageToDrag) {
   for (const bool hasImage : {true, false}) {
     if (!hasImage) {
