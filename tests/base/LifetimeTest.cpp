@@ -51,14 +51,5 @@ TEST(LifetimeTest, ACallbackMayEndItsOwner) {
   EXPECT_EQ(count, 1);
 }
 
-TEST(LifetimeTest, ANewOwnerDoesNotWakeOldCallbacks) {
-  auto lifetime = std::make_unique<Lifetime>();
-  int count = 0;
-  const std::function<void()> callback = lifetime->whileAlive([&] { ++count; });
-  lifetime = std::make_unique<Lifetime>();
-  callback();
-  EXPECT_EQ(count, 0);
-}
-
 }  // namespace
 }  // namespace orvane

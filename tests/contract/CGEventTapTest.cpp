@@ -1,4 +1,5 @@
-// Contract tests for event taps, their ports and their run-loop sources.
+// Contract tests for the Accessibility permission and for event taps, their ports and their
+// run-loop sources.
 #include <vector>
 
 #include "Orvane/base/CFRef.hpp"
@@ -62,9 +63,14 @@ class CGEventTapContract : public ContractFixture {
   double dy = 0;
 };
 
-TEST_F(CGEventTapContract, WithoutThePermissionThereIsNoTap) {
+TEST_F(CGEventTapContract, ThePermissionIsReadAtEachCallAndWithoutItThereIsNoTap) {
   ORVANE_ARRANGE(setTrusted(false));
+  EXPECT_FALSE(AXIsProcessTrusted());
   EXPECT_FALSE(makeTap());
+  ORVANE_ARRANGE(setTrusted(true));
+  EXPECT_TRUE(AXIsProcessTrusted());
+  ORVANE_ARRANGE(setTrusted(false));
+  EXPECT_FALSE(AXIsProcessTrusted());
 }
 
 TEST_F(CGEventTapContract, ATapCanBeCreatedAndRemovedRepeatedly) {

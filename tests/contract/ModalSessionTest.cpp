@@ -44,6 +44,23 @@ class ModalSessionContract : public ContractFixture {
   std::vector<int> responses;
 };
 
+TEST_F(ModalSessionContract, TheSessionHoldsTheMainQueue) {
+  Window panel = makePanel();
+  bool taskRan = false;
+  bool taskRanWithin = true;
+  // The session starts before the inner task.
+  MainQueue::async([&] { MainQueue::async([&] { taskRan = true; }); });
+  run(panel, [&] {
+    taskRanWithin = taskRan;
+    EXPECT_EQ(Application::modalWindow(), panel);
+    Application::stopModal(ModalResponse::alertSecondButton);
+  });
+  EXPECT_EQ(responses, std::vector<int>{1001});
+  EXPECT_FALSE(taskRanWithin);
+  EXPECT_TRUE(taskRan);
+  panel.close();
+}
+
 TEST_F(ModalSessionContract, TheWindowStaysOpenAfterTheSession) {
   Window panel = makePanel();
   bool wasVisible = false;

@@ -6,22 +6,13 @@
 #include <rapidcheck/gtest.h>
 
 #include "Orvane/geometry/EdgeInterval.hpp"
-#include "tests/support/EdgeOracle.hpp"
+#include "tests/geometry/EdgeOracle.hpp"
 #include "tests/support/GeometryPrinting.hpp"
 
 namespace orvane {
 namespace {
 
 using Intervals = std::vector<EdgeInterval>;
-
-TEST(EdgeIntervalTest, SmallGapsAreClosedOneAfterAnother) {
-  EXPECT_EQ(EdgeInterval::merge({{0, 1}, {1.5, 2}, {2.5, 3}}), (Intervals{{0, 3}}));
-}
-
-TEST(EdgeIntervalTest, PiecesOfMoreThanHalfAPointAreLeft) {
-  EXPECT_EQ(EdgeInterval::subtract({0, 200}, {{0.5, 100}, {100.6, 150}}),
-            (Intervals{{100, 100.6}, {150, 200}}));
-}
 
 // Properties on a grid of sixteenths of a point, where sums are exact.
 

@@ -9,8 +9,8 @@
 #include <rapidcheck/gtest.h>
 
 #include "Orvane/geometry/OrvaneGeometry.hpp"
-#include "tests/support/ArrangementGenerator.hpp"
-#include "tests/support/EdgeOracle.hpp"
+#include "tests/geometry/ArrangementGenerator.hpp"
+#include "tests/geometry/EdgeOracle.hpp"
 #include "tests/support/GeometryPrinting.hpp"
 
 namespace orvane {

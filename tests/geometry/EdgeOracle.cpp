@@ -1,5 +1,5 @@
 // A slow, obviously correct computation of where a display's Dock edge is exposed.
-#include "tests/support/EdgeOracle.hpp"
+#include "tests/geometry/EdgeOracle.hpp"
 
 #include <algorithm>
 
