@@ -31,7 +31,7 @@ class ProcessSharedTest : public testing::Test {
   ~ProcessSharedTest() override { ProcessLifetime::end(); }
 };
 
-TEST_F(ProcessSharedTest, TheObjectIsMadeWhenItIsFirstAskedFor) {
+TEST_F(ProcessSharedTest, TheObjectIsCreatedOnFirstUse) {
   ProcessShared<Witness<'a'>> shared;
   EXPECT_FALSE(shared.exists());
   shared.get().value = 5;

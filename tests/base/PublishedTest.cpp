@@ -1,4 +1,4 @@
-// What a Published value announces, when, and in which order.
+// The notifications of a Published value.
 #include <string>
 
 #include <gtest/gtest.h>

@@ -13,7 +13,7 @@ TEST(RequireDeathTest, AFalseConditionEndsTheProcessWithItsMessage) {
 }
 
 TEST(RequireTest, ATrueConditionHasNoEffect) {
-  require(true, "never said");
+  require(true, "it holds");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// What observers may do during a notification, and how long a registration lasts.
+// Notification and registration of observers.
 #include <memory>
 #include <optional>
 #include <string>
@@ -116,7 +116,7 @@ TEST(SignalTest, AnObserverMayDestroyTheSignal) {
   EXPECT_EQ(count, 1);
 }
 
-TEST(SignalTest, ANotificationWithinANotificationReachesEveryone) {
+TEST(SignalTest, ANotificationWithinANotificationReachesAllObservers) {
   Signal signal;
   std::string log;
   bool again = true;

@@ -99,20 +99,6 @@ TEST_F(CGEventTapContract, AMovementHasItsLocationAndTheHeldModifiers) {
   EXPECT_FALSE(seen[0].flags & kCGEventFlagMaskCommand);
 }
 
-TEST_F(CGEventTapContract, TheNextMovementBeginsWhereTheCallbackMovedTheEvent) {
-  ORVANE_ARRANGE(setTrusted(true));
-  ORVANE_ARRANGE(arrangeTwoDisplays());
-  ASSERT_TRUE(beginTap());
-  dy = -12;
-  ORVANE_ARRANGE(movePointer(CGPointMake(300, 799)));
-  dy = 0;
-  // The pointer is at (300, 787), not at the edge, so this movement is possible.
-  ORVANE_ARRANGE(movePointer(CGPointMake(300, 790)));
-  ASSERT_EQ(seen.size(), 2U);
-  EXPECT_EQ(seen[0].location.y, 799);
-  EXPECT_EQ(seen[1].location.y, 790);
-}
-
 TEST_F(CGEventTapContract, TheCursorStaysWhereTheCallbackMovedTheEvent) {
   // The real displays of a Mac suffice: the origin of the first is (0, 0).
   (void)arrangeTwoDisplays();
@@ -129,7 +115,7 @@ TEST_F(CGEventTapContract, TheCursorStaysWhereTheCallbackMovedTheEvent) {
   }
 }
 
-TEST_F(CGEventTapContract, ADisabledTapReceivesNothing) {
+TEST_F(CGEventTapContract, ATapThatIsDisabledRemovedOrInvalidReceivesNothing) {
   ORVANE_ARRANGE(setTrusted(true));
   ORVANE_ARRANGE(arrangeTwoDisplays());
   ASSERT_TRUE(beginTap());
@@ -139,18 +125,12 @@ TEST_F(CGEventTapContract, ADisabledTapReceivesNothing) {
   CGEventTapEnable(port.get(), true);
   ORVANE_ARRANGE(movePointer(CGPointMake(310, 200)));
   EXPECT_EQ(seen.size(), 1U);
-}
-
-TEST_F(CGEventTapContract, ARemovedSourceOrAnInvalidPortReceivesNothing) {
-  ORVANE_ARRANGE(setTrusted(true));
-  ORVANE_ARRANGE(arrangeTwoDisplays());
-  ASSERT_TRUE(beginTap());
   CFRunLoopRemoveSource(CFRunLoopGetCurrent(), source.get(), kCFRunLoopCommonModes);
   ORVANE_ARRANGE(movePointer(CGPointMake(300, 200)));
-  EXPECT_TRUE(seen.empty());
+  EXPECT_EQ(seen.size(), 1U);
   CFMachPortInvalidate(port.get());
   ORVANE_ARRANGE(movePointer(CGPointMake(310, 200)));
-  EXPECT_TRUE(seen.empty());
+  EXPECT_EQ(seen.size(), 1U);
 }
 
 TEST_F(CGEventTapContract, ATapThatTheSystemDisablesIsNotifiedAndCanBeEnabledAgain) {

@@ -88,7 +88,7 @@ TEST_F(OrvaneModelLockTest, TheSwitchStartsPreventModeThatIsChosenButStopped) {
   EXPECT_TRUE(isPreventing());
 }
 
-TEST_F(OrvaneModelLockTest, PinWithPreventChosenButStoppedClearsPrevent) {
+TEST_F(OrvaneModelLockTest, PinningClearsPreventModeThatIsChosenButStopped) {
   store("hidesDockOnAllDisplays", true);
   launch().toggleSelectedDisplayLock();
   EXPECT_TRUE(isPinned());

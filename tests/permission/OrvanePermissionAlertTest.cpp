@@ -14,7 +14,7 @@ TEST_F(OrvanePermissionAlertTest, TheAlertIsShownAfterTheCallerHasReturned) {
   EXPECT_TRUE(isOpen("alert"));
 }
 
-TEST_F(OrvanePermissionAlertTest, ThePanelIsAModalAlertsPanel) {
+TEST_F(OrvanePermissionAlertTest, ThePanelHasTheAttributesOfAnAlert) {
   check('a');
   const auto panel = window("alert");
   ASSERT_NE(panel, nullptr);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstring>
 #include <map>
 #include <numbers>
 #include <regex>
@@ -177,22 +178,19 @@ TEST_F(OrvanePermissionGuideViewTest, TheCheckMarkGrowsInPlaceAlongACriticallyDa
 TEST_F(OrvanePermissionGuideViewTest, TheIconFadesInPlace) {
   openGuide();
   const auto placeOfIcon = [this] {
+    ui::Point place{-1, -1};
     const std::string calls = drawing();
-    const std::size_t start = calls.find("image AppIcon (");
-    return calls.substr(start, calls.find(')', start) - start);
+    const char* const call = std::strstr(calls.c_str(), "image AppIcon (");
+    EXPECT_TRUE(call != nullptr &&
+                std::sscanf(call, "image AppIcon (%lf %lf", &place.x, &place.y) == 2);
+    return place;
   };
-  const std::string before = placeOfIcon();
+  const ui::Point before = placeOfIcon();
   machine.permission.setTrusted(true);
   machine.advance(1.25);
-  double x = 0;
-  double y = 0;
-  double xBefore = 0;
-  double yBefore = 0;
-  ASSERT_EQ(std::sscanf(before.c_str(), "image AppIcon (%lf %lf", &xBefore, &yBefore), 2);
-  ASSERT_EQ(std::sscanf(placeOfIcon().c_str(), "image AppIcon (%lf %lf", &x, &y), 2);
   // At rest it is aligned to whole pixels.
-  EXPECT_NEAR(x, xBefore, 0.5);
-  EXPECT_NEAR(y, yBefore, 0.5);
+  EXPECT_NEAR(placeOfIcon().x, before.x, 0.5);
+  EXPECT_NEAR(placeOfIcon().y, before.y, 0.5);
 }
 
 TEST_F(OrvanePermissionGuideViewTest, WithReducedMotionTheCheckMarkAppearsAtOnce) {

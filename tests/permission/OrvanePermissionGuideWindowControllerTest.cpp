@@ -186,7 +186,7 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsPollingAndDropsThe
   EXPECT_EQ(granted, "");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingReleasesWhatTheCallbackHolds) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingReleasesTheCallback) {
   const auto held = std::make_shared<int>(0);
   guide().show([held] { ++*held; });
   EXPECT_EQ(held.use_count(), 2);
