@@ -48,7 +48,7 @@ TEST_F(AppDelegateMenuTest, HasRowsOf208By30PointsAndAHeaderOf208By26) {
       const double height = item.title == "Choose Display" ? 26 : 30;
       EXPECT_DOUBLE_EQ(shown.frame.size.width, 208);
       EXPECT_DOUBLE_EQ(shown.frame.size.height, height);
-      // The menu is as wide as its widest row: each one must have asked for that itself.
+      // The menu is as wide as its widest row, so the width of each view counts.
       EXPECT_DOUBLE_EQ(shown.view->frame().size.width, 208) << item.title;
       EXPECT_DOUBLE_EQ(shown.view->frame().size.height, height) << item.title;
       EXPECT_FALSE(item.title.empty());

@@ -55,7 +55,7 @@ TEST_F(AppDelegateTest, AfterWillTerminateItHasNoTimersAndRebuildsNothing) {
   ASSERT_EQ(machine.runLoop.pendingTaskCount(), 1U) << "the task that rebuilds the menu";
   machine.runDue();
   ASSERT_EQ(machine.runLoop.timerCount(), 2U);
-  // The process ends only when the run loop goes on.
+  // The process ends with the next turn of the run loop.
   server().application.terminate();
   ASSERT_TRUE(application.isRunning());
   EXPECT_EQ(machine.runLoop.timerCount(), 0U);

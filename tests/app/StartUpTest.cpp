@@ -1,5 +1,8 @@
 // The application's calls of the platform interface, in their order: at launch, when the menu
-// opens, and for each action of the menu.
+// opens, for each action of the menu, and on windows that are already open.
+#include <sstream>
+#include <string>
+
 #include "tests/app/AppFixture.hpp"
 
 namespace orvane {
@@ -41,6 +44,20 @@ Menu.insertItem 10 "Quit"
 const std::string timerCall = "Timer.repeating 1 true\n";
 const std::string tapWatchCalls = timerCall + "NotificationCenter.addObserver\n";
 const std::string activateCall = "Application.activateIgnoringOtherApps\n";
+
+const std::string mainToFront = R"(Window.makeKeyAndOrderFront "OrvaneWindow"
+Window.orderFrontRegardless "OrvaneWindow"
+)";
+const std::string newSettings = R"(Window
+Window.setHasShadow "OrvaneSettingsWindow" true
+Window.addChildWindowAbove "OrvaneWindow" "OrvaneSettingsWindow"
+)";
+const std::string settingsToFront = R"(Window.makeKeyAndOrderFront "OrvaneSettingsWindow"
+Window.orderFrontRegardless "OrvaneSettingsWindow"
+)";
+const std::string closeSettings = R"(Window.close "OrvaneSettingsWindow"
+Window.removeChildWindow "OrvaneWindow" "OrvaneSettingsWindow"
+)";
 
 /// The model refreshes the displays, selects a display if it has none, and then asks for the
 /// permission.
@@ -160,7 +177,7 @@ TEST_F(StartUpTest, WhileNothingChangesItOnlyChecksThePermissionOnceASecond) {
   }
 }
 
-TEST_F(StartUpTest, ADisplayChangeListsTheScreensOnceForEachOfGuardModelAndRestart) {
+TEST_F(StartUpTest, ADisplayChangeListsTheScreensForGuardModelAndRestartOnly) {
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(true);
   application.launch();
@@ -184,18 +201,10 @@ class MenuActionCallsTest : public StartUpTest {
   }
 
   const std::string closeCall = "Menu.cancelTracking\n";
-  const std::string showMainCalls = R"(Application.setActivationPolicy 1
-Window
-Window.setHasShadow "OrvaneWindow" true
-Window.makeKeyAndOrderFront "OrvaneWindow"
-Window.orderFrontRegardless "OrvaneWindow"
-)" + activateCall;
-  const std::string showSettingsCalls = R"(Window
-Window.setHasShadow "OrvaneSettingsWindow" true
-Window.addChildWindowAbove "OrvaneWindow" "OrvaneSettingsWindow"
-Window.makeKeyAndOrderFront "OrvaneSettingsWindow"
-Window.orderFrontRegardless "OrvaneSettingsWindow"
-)" + activateCall;
+  const std::string showMainCalls =
+      "Application.setActivationPolicy 1\nWindow\nWindow.setHasShadow \"OrvaneWindow\" true\n" +
+      mainToFront + activateCall;
+  const std::string showSettingsCalls = newSettings + settingsToFront + activateCall;
   /// Those of the main panel's view when it appears.
   const std::string mainAppearsCalls = refreshCalls("") + timerCall;
 };
@@ -218,6 +227,54 @@ TEST_F(MenuActionCallsTest, QuitClosesTheMenuFirst) {
 TEST_F(MenuActionCallsTest, ADisplayIsStoredBetweenTheClosingOfTheMenuAndItsUpdate) {
   EXPECT_EQ(callsOfRow("Studio"),
             closeCall + selectCall('B') + menuCalls("Menu.changeItem") + iconCalls("lock.open"));
+}
+
+/// The simulated window server brings windows to the front without some of these calls, so the test
+/// compares the calls.
+class WindowCallsTest : public AppFixture {
+ protected:
+  WindowCallsTest() {
+    begin();
+    application.reopen();
+  }
+
+  /// The calls on windows when a row of the menu is chosen.
+  std::string callsOfRow(const std::string& title) {
+    EXPECT_TRUE(openMenu());
+    return callsOf(title, desk::Surfaces::menu);
+  }
+  std::string callsOf(const std::string& label, const std::string& surface) {
+    std::istringstream calls(AppFixture::callsOf([&] { EXPECT_TRUE(press(label, surface)); }));
+    std::string windowCalls;
+    for (std::string call; std::getline(calls, call);) {
+      windowCalls += call.starts_with("Window") ? call + "\n" : "";
+    }
+    return windowCalls;
+  }
+};
+
+TEST_F(WindowCallsTest, AMinimisedMainPanelIsDeminiaturizedBeforeItComesToTheFront) {
+  for (const bool isForSettings : {false, true}) {
+    server().miniaturize(desk::Surfaces(server()).window("main"));
+    const std::string calls = callsOfRow(isForSettings ? "Settings" : "Open Window");
+    EXPECT_TRUE(calls.starts_with("Window.deminiaturize \"OrvaneWindow\"\n" + mainToFront))
+        << calls;
+  }
+}
+
+TEST_F(WindowCallsTest, TheSettingsBecomeAChildOnceAndComeToTheFrontEachTime) {
+  EXPECT_EQ(callsOfRow("Settings"), mainToFront + newSettings + settingsToFront);
+  EXPECT_EQ(callsOfRow("Settings"), mainToFront + settingsToFront);
+}
+
+TEST_F(WindowCallsTest, ClosedSettingsAreNoLongerAChild) {
+  callsOfRow("Settings");
+  EXPECT_EQ(callsOf("Close", "settings"), closeSettings);
+}
+
+TEST_F(WindowCallsTest, TheMainPanelClosesTheSettingsToo) {
+  callsOfRow("Settings");
+  EXPECT_EQ(callsOf("Close", "main"), "Window.close \"OrvaneWindow\"\n" + closeSettings);
 }
 
 }  // namespace

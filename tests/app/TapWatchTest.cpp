@@ -12,6 +12,10 @@ namespace {
 class TapWatchTest : public ModelFixture {
  protected:
   void watch() { tapWatch.emplace(*model); }
+  void watchPinned() {
+    launchPinned();
+    watch();
+  }
   [[nodiscard]] bool isTapEnabled() const {
     return model->isGuardRunning() && machine.eventTaps.isAnyEnabled();
   }
@@ -27,8 +31,7 @@ class TapWatchTest : public ModelFixture {
 };
 
 TEST_F(TapWatchTest, TheTapIsRemovedEvenWhileTheMainQueueIsSuspended) {
-  launchPinned();
-  watch();
+  watchPinned();
   machine.runLoop.enterMode(desk::RunLoop::Mode::modalPanel);
   machine.runLoop.holdMainQueue();
   revokeSilently();
@@ -51,8 +54,7 @@ TEST_F(TapWatchTest, AStoppedGuardResumesWithThePermission) {
 }
 
 TEST_F(TapWatchTest, ANotificationOfChangedPermissionsIsHandledAtOnce) {
-  launchPinned();
-  watch();
+  watchPinned();
   machine.permission.setTrusted(false);
   EXPECT_FALSE(model->isGuardRunning()) << "before any main-queue task";
   EXPECT_FALSE(model->hasAccessibilityPermission().value());
@@ -62,8 +64,7 @@ TEST_F(TapWatchTest, ANotificationOfChangedPermissionsIsHandledAtOnce) {
 }
 
 TEST_F(TapWatchTest, WithoutANotificationTheTimerDetectsTheChange) {
-  launchPinned();
-  watch();
+  watchPinned();
   revokeSilently();
   machine.advance(0.999);
   EXPECT_TRUE(model->isGuardRunning());
@@ -75,8 +76,7 @@ TEST_F(TapWatchTest, WithoutANotificationTheTimerDetectsTheChange) {
 }
 
 TEST_F(TapWatchTest, ATapThatStaysDisabledIsReplacedAtTheNextCheck) {
-  launchPinned();
-  watch();
+  watchPinned();
   machine.eventTaps.disableAllSilently(true);
   machine.advance(TapWatch::intervalSeconds);
   ASSERT_TRUE(hasTap(1));
@@ -87,8 +87,7 @@ TEST_F(TapWatchTest, ATapThatStaysDisabledIsReplacedAtTheNextCheck) {
 }
 
 TEST_F(TapWatchTest, ATapDisabledOccasionallyIsEnabledEachTime) {
-  launchPinned();
-  watch();
+  watchPinned();
   for (int count = 0; count < 5; ++count) {
     machine.eventTaps.disableAllSilently(false);
     machine.advance(2 * TapWatch::intervalSeconds);
@@ -101,8 +100,7 @@ TEST_F(TapWatchTest, ATapDisabledOccasionallyIsEnabledEachTime) {
 class StalePermissionTest : public TapWatchTest {
  protected:
   StalePermissionTest() {
-    launchPinned();
-    watch();
+    watchPinned();
     becomeStale();
   }
   /// The system disables the tap for good and refuses another.
@@ -132,12 +130,16 @@ TEST_F(StalePermissionTest, CountsAsMissing) {
 TEST_F(StalePermissionTest, EndsWithAChangeOfThePermissionsOrAnActionOfTheUser) {
   const std::vector<std::function<void()>> actions{
       [this] { postPermissionChange(); },
-      [this] {
-        machine.permission.setTrusted(false);
-        machine.permission.setTrusted(true);
-      },
       [this] { model->toggleSelectedDisplayLock(); },
       [this] { model->openAccessibilitySettings(); },
+      [this] {
+        // Revoked and granted without a notification.
+        machine.permission.onChange(nullptr);
+        machine.permission.setTrusted(false);
+        machine.advance(TapWatch::intervalSeconds);
+        machine.permission.setTrusted(true);
+        machine.advance(TapWatch::intervalSeconds);
+      },
   };
   for (const auto& action : actions) {
     machine.eventTaps.setRefusesCreation(false);
@@ -157,8 +159,7 @@ TEST_F(StalePermissionTest, ReturnsWhenTheTapIsRefusedAgain) {
 }
 
 TEST_F(TapWatchTest, ATapThatIsRepeatedlyDisabledIsGivenUp) {
-  launchPinned();
-  watch();
+  watchPinned();
   for (int count = 0; count < 5; ++count) {
     EXPECT_TRUE(model->isGuardRunning());
     machine.eventTaps.disableAllSilently(true);
@@ -181,8 +182,7 @@ TEST_F(TapWatchTest, ATapRefusedAtAUserActionMakesNoPermissionStale) {
 }
 
 TEST_F(TapWatchTest, AGuardThatShutItselfOffStaysOff) {
-  launchPinned();
-  watch();
+  watchPinned();
   // The shut-off's clean-up waits for the main queue, which is suspended, unlike the watch.
   machine.runLoop.enterMode(desk::RunLoop::Mode::modalPanel);
   machine.runLoop.holdMainQueue();
@@ -198,8 +198,7 @@ TEST_F(TapWatchTest, AGuardThatShutItselfOffStaysOff) {
 }
 
 TEST_F(TapWatchTest, ADestroyedWatchDoesNothing) {
-  launchPinned();
-  watch();
+  watchPinned();
   tapWatch.reset();
   machine.permission.setTrusted(false);
   machine.advance(3);

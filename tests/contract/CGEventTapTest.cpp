@@ -85,8 +85,7 @@ TEST_F(CGEventTapContract, ATapCanBeCreatedAndRemovedRepeatedly) {
 }
 
 TEST_F(CGEventTapContract, AMovementHasItsLocationAndTheHeldModifiers) {
-  ORVANE_ARRANGE(setTrusted(true));
-  ORVANE_ARRANGE(arrangeTwoDisplays());
+  ORVANE_ARRANGE(setTrusted(true) && arrangeTwoDisplays());
   ASSERT_TRUE(beginTap());
   ORVANE_ARRANGE(holdModifiers(kCGEventFlagMaskAlternate | kCGEventFlagMaskShift));
   ORVANE_ARRANGE(movePointer(CGPointMake(300, 200)));
@@ -116,8 +115,7 @@ TEST_F(CGEventTapContract, TheCursorStaysWhereTheCallbackMovedTheEvent) {
 }
 
 TEST_F(CGEventTapContract, ATapThatIsDisabledRemovedOrInvalidReceivesNothing) {
-  ORVANE_ARRANGE(setTrusted(true));
-  ORVANE_ARRANGE(arrangeTwoDisplays());
+  ORVANE_ARRANGE(setTrusted(true) && arrangeTwoDisplays());
   ASSERT_TRUE(beginTap());
   CGEventTapEnable(port.get(), false);
   ORVANE_ARRANGE(movePointer(CGPointMake(300, 200)));
@@ -134,8 +132,7 @@ TEST_F(CGEventTapContract, ATapThatIsDisabledRemovedOrInvalidReceivesNothing) {
 }
 
 TEST_F(CGEventTapContract, ATapThatTheSystemDisablesIsNotifiedAndCanBeEnabledAgain) {
-  ORVANE_ARRANGE(setTrusted(true));
-  ORVANE_ARRANGE(arrangeTwoDisplays());
+  ORVANE_ARRANGE(setTrusted(true) && arrangeTwoDisplays());
   for (const CGEventType reason : {kCGEventTapDisabledByTimeout, kCGEventTapDisabledByUserInput}) {
     ASSERT_TRUE(beginTap());
     seen.clear();

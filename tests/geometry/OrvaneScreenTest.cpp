@@ -71,18 +71,6 @@ TEST_F(OrvaneScreenTest, IdentifiersAreComparedExactly) {
   EXPECT_FALSE(screenNamed(""));
 }
 
-TEST_F(OrvaneScreenTest, GlobalCoordinatesBeginAtTheTopLeftOfTheFirstScreen) {
-  attach(machine, desk::displayOf(1, "First", {{0, 0}, {1512, 982}}));
-  attach(machine, desk::displayOf(2, "Higher", {{1512, 200}, {1920, 1080}}));
-  attach(machine, desk::displayOf(3, "Below", {{-300, -1440}, {2560, 1440}}));
-  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(0), appkit::Screen::screens()),
-                                {{0, 0}, {1512, 982}}));
-  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(1), appkit::Screen::screens()),
-                                {{1512, -298}, {1920, 1080}}));
-  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(2), appkit::Screen::screens()),
-                                {{-300, 982}, {2560, 1440}}));
-}
-
 TEST_F(OrvaneScreenTest, WithoutAnyScreenInTheListAFrameIsUnchanged) {
   attach(machine, desk::displayOf(1, "Gone soon", {{3, 5}, {1512, 982}}));
   const appkit::Screen kept = screen();

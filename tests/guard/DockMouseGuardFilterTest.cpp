@@ -30,6 +30,14 @@ TEST_F(DockMouseGuardFilterTest, WhileTheModifierIsHeldAMovePassesAndIsReportedO
   EXPECT_EQ(unlocks, (Unlocks{true, false}));
 }
 
+TEST_F(DockMouseGuardFilterTest, AMovementIntoTheZonesOfMirroredDisplaysIsBlockedOnce) {
+  ASSERT_EQ(machine.displays.setFrame(2, desk::laptop().frame), std::nullopt);
+  startPreventing();
+  ASSERT_EQ(guard->snapshot().zones, (Zones{zoneOfTheLaptop, zoneOfTheLaptop}));
+  EXPECT_EQ(outcomeOf({500, 1075}), (CGPoint{500, 1063}));
+  EXPECT_EQ(guard->snapshot().blockedCount, 1);
+}
+
 TEST_F(DockMouseGuardFilterTest, AQuickPressAndReleaseIsReportedInOrder) {
   startPinned();
   outcomeOf(outsideEveryZone, optionKey);

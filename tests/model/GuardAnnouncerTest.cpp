@@ -37,21 +37,16 @@ TEST_F(GuardAnnouncerTest, AnOrdinaryLaunchIsNotAnnounced) {
   EXPECT_EQ(announced(), Announcements());
 }
 
-TEST_F(GuardAnnouncerTest, StartingStoppingAndAChangeOfModeAreAnnouncedOnce) {
+TEST_F(GuardAnnouncerTest, StartingStoppingAndChangesOfTargetAndModeAreAnnouncedOnce) {
   launchPinned();
   EXPECT_EQ(announced(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
+  model->selectDisplay(model->displays().value().at(1).id);
+  EXPECT_EQ(announced(),
+            Announcements{"The Dock is pinned to " + model->displays().value().at(1).name});
   model->toggleHideDockOnAllDisplays();
   EXPECT_EQ(announced(), Announcements{"The Dock is kept from popping up"});
   model->toggleHideDockOnAllDisplays();
   EXPECT_EQ(announced(), Announcements{"The Dock is no longer guarded"});
-}
-
-TEST_F(GuardAnnouncerTest, AnotherTargetIsAnnouncedByName) {
-  launchPinned();
-  announced();
-  model->selectDisplay(model->displays().value().at(1).id);
-  EXPECT_EQ(announced(),
-            Announcements{"The Dock is pinned to " + model->displays().value().at(1).name});
 }
 
 TEST_F(GuardAnnouncerTest, AMissingPermissionIsAnnouncedWhenTheGuardIsRequested) {

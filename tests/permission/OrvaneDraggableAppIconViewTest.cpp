@@ -10,12 +10,10 @@ class OrvaneDraggableAppIconViewTest : public PermissionFlow {
   /// Opens the guide, presses the icon and moves the pointer.
   void dragIcon(double distance) {
     openGuide();
-    const auto icon = element(ui::Role::image, "Orvane", "guide");
-    ASSERT_TRUE(icon);
-    const CGPoint corner = server().topLeftOf(*window("guide"));
-    const CGPoint start{corner.x + icon->frame.x + 5, corner.y + icon->frame.y + 5};
-    pressAt(start);
-    moveTo({start.x + distance, start.y + distance});
+    const auto start = hand.iconLocation();
+    ASSERT_TRUE(start);
+    pressAt(*start);
+    moveTo({start->x + distance, start->y + distance});
   }
 };
 

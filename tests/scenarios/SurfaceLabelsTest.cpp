@@ -1,6 +1,4 @@
 // Every control of every window and menu has an accessibility label, in both languages.
-#include <algorithm>
-#include <memory>
 #include <set>
 #include <string>
 

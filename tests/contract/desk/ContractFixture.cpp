@@ -1,6 +1,7 @@
 // The contract fixture on the simulated Mac, which provides every precondition.
 #include "tests/contract/ContractFixture.hpp"
 
+#include "desk/hand/Hand.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/Implementations.hpp"
 #include "desk/windows/WindowServer.hpp"
@@ -138,19 +139,15 @@ ContractFixture::WindowAttributes ContractFixture::attributesOf(const appkit::Wi
 }
 
 bool ContractFixture::dragPointer(CGPoint from, CGPoint to) {
-  desk::Machine& machine = platform_->scope.machine();
-  machine.mouse.moveTo(from);
-  machine.runDue();
-  machine.mouse.pressButton();
-  machine.runDue();
-  machine.mouse.moveTo(to);
-  machine.runDue();
+  const desk::Hand hand(platform_->scope.machine());
+  hand.moveTo(from);
+  hand.pressButton();
+  hand.moveTo(to);
   return true;
 }
 
 void ContractFixture::releasePointer() {
-  platform_->scope->mouse.releaseButton();
-  platform_->scope->runDue();
+  desk::Hand(platform_->scope.machine()).releaseButton();
 }
 
 std::optional<ContractFixture::DraggedFile> ContractFixture::draggedFile() const {
