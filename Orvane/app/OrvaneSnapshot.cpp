@@ -2,14 +2,11 @@
 #include "Orvane/app/OrvaneSnapshot.hpp"
 
 #include "Orvane/app/OrvaneAppState.hpp"
-#include "Orvane/permission/OrvaneAccessibilityPermission.hpp"
-#include "Orvane/windows/OrvaneWindowController.hpp"
 
 namespace orvane {
 
 OrvaneSnapshot OrvaneSnapshot::current() {
   OrvaneModel& model = OrvaneAppState::model();
-  const OrvaneWindowController& windows = OrvaneWindowController::shared();
   return {.guard = model.guardService().snapshot(),
           .mode = model.mode(),
           .status = model.status(),
@@ -30,9 +27,6 @@ OrvaneSnapshot OrvaneSnapshot::current() {
           .isLaunchAtLoginBlocked = model.isLaunchAtLoginBlocked(),
           .isLaunchAtLoginFailing = model.isLaunchAtLoginFailing(),
           .launchAtLoginErrorMessage = model.launchAtLoginErrorMessage().value(),
-          .showsMainPanel = windows.window() && windows.window()->isVisible(),
-          .showsSettings = windows.settingsWindow() && windows.settingsWindow()->isVisible(),
-          .asksForPermission = OrvaneAccessibilityPermission::isChecking(),
           .guide = OrvanePermissionGuideWindowController::snapshot()};
 }
 

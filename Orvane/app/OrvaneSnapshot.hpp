@@ -46,9 +46,6 @@ struct OrvaneSnapshot {
   bool isLaunchAtLoginFailing = false;
   std::optional<std::string> launchAtLoginErrorMessage = std::nullopt;
 
-  bool showsMainPanel = false;
-  bool showsSettings = false;
-  bool asksForPermission = false;
   OrvanePermissionGuideWindowController::Snapshot guide = {};
 
   /// The state of the running application. Main thread only.

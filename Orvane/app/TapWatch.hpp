@@ -1,6 +1,6 @@
 // TapWatch synchronises the guard's event tap with the Accessibility permission. The window server
 // waits for an active tap at every movement of the pointer, so a tap without the permission must be
-// removed; and when the permission returns, so must a guard that the user wants. The same check has
+// removed. When the permission returns, a guard that the user wants must resume. The same check has
 // the guard follow a hidden Dock to another edge.
 #pragma once
 

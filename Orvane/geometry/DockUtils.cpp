@@ -1,4 +1,4 @@
-// Reads the Dock's own preferences: on which screen edge it lives.
+// Reads the Dock's screen edge from its preferences.
 #include "Orvane/geometry/DockUtils.hpp"
 
 #include <optional>
@@ -16,7 +16,7 @@ CFStringRef dockPreferencesID() {
 CFRef<CFPropertyListRef> readDockPreference(CFStringRef key) {
   using Value = CFRef<CFPropertyListRef>;
   const CFStringRef domain = dockPreferencesID();
-  // Otherwise a value that the Dock has just changed is not seen.
+  // Without this, a change by the Dock is not seen.
   CFPreferencesAppSynchronize(domain);
   for (const CFStringRef host : {kCFPreferencesAnyHost, kCFPreferencesCurrentHost}) {
     Value value =

@@ -1,4 +1,4 @@
-// Reads the Dock's own preferences: on which screen edge it lives.
+// Reads the Dock's screen edge from its preferences.
 #pragma once
 
 #include "Orvane/base/CFRef.hpp"

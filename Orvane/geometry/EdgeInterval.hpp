@@ -19,7 +19,7 @@ struct EdgeInterval {
   /// The intervals in ascending order, with overlapping and nearly touching ones merged.
   [[nodiscard]] static std::vector<EdgeInterval> merge(std::vector<EdgeInterval> intervals);
 
-  /// What is left of `whole` without `removed`, in ascending order; pieces of at most
+  /// The parts of `whole` outside of `removed`, in ascending order; parts of at most
   /// `minimumLength` are dropped.
   [[nodiscard]] static std::vector<EdgeInterval> subtract(EdgeInterval whole,
                                                           std::vector<EdgeInterval> removed);

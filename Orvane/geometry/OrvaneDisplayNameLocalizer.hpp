@@ -21,7 +21,8 @@ enum class DisplayNameLanguage { simplifiedChinese, traditionalChinese, english 
 /// A name made from the display's number.
 [[nodiscard]] std::string fallbackDisplayName(std::optional<std::uint32_t> displayID);
 
-/// Which Chinese the current locale writes; simplified unless it says traditional.
+/// The Chinese script of the current locale; simplified unless the locale names the traditional
+/// one.
 [[nodiscard]] DisplayNameLanguage currentChineseLanguage();
 
 /// The first language that the user's preferred languages, then the current locale name; English

@@ -87,7 +87,7 @@ class DockMouseGuard {
   /// Records that the system has disabled the tap. True when that reaches the limit.
   [[nodiscard]] bool recordDisabling();
   /// Disables the tap at once and has the main queue remove it. Only a display change or the next
-  /// start brings the guard back.
+  /// start resumes the guard.
   void shutOff();
   void finishShutOff();
 

@@ -1,5 +1,5 @@
-// GuardAnnouncer announces to screen readers what the menu-bar icon shows to everyone else: that
-// the guard has started, has stopped, or cannot start without the permission.
+// GuardAnnouncer announces to screen readers the state that the menu-bar icon shows: the guard has
+// started, has stopped, or cannot start without the permission.
 #pragma once
 
 #include <string>

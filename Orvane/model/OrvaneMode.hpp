@@ -1,4 +1,4 @@
-// What the running guard does.
+// The mode of the guard.
 #pragma once
 
 namespace orvane {

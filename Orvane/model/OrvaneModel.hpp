@@ -23,7 +23,8 @@
 
 namespace orvane {
 
-/// Main thread only. Whether the guard is running is never stored, but asked of the guard.
+/// Main thread only. The model does not store whether the guard is running; isGuardRunning() asks
+/// the guard.
 class OrvaneModel {
  public:
   /// Reads the settings and starts observing the system; neither lists displays nor starts the
@@ -117,7 +118,7 @@ class OrvaneModel {
   /// To be called once at launch: restarts the guard if it was on when the application quit and can
   /// start.
   void restoreLockIfNeeded();
-  /// Stops the guard; the stored setting still says that the user wants it on.
+  /// Stops the guard; the stored setting that the user wants it on stays.
   void suspendGuard();
   /// Starts the guard if the user wants it on and it is not running. A guard whose target is not
   /// attached waits for it.

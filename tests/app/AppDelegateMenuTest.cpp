@@ -11,13 +11,11 @@ namespace {
 
 class AppDelegateMenuTest : public AppFixture {
  protected:
-  AppDelegateMenuTest() { store("appLanguage", std::string("english")); }
-
   void beginWithOpenMenu() {
     begin();
     ASSERT_TRUE(openMenu());
   }
-  [[nodiscard]] bool isOpen() { return server().menus.isStatusMenuOpen(); }
+  [[nodiscard]] static bool isOpen() { return server().menus.isStatusMenuOpen(); }
   /// Of all rows, from top to bottom.
   [[nodiscard]] std::vector<std::shared_ptr<desk::HostedView>> views() {
     std::vector<std::shared_ptr<desk::HostedView>> all;
@@ -50,7 +48,7 @@ TEST_F(AppDelegateMenuTest, HasRowsOf208By30PointsAndAHeaderOf208By26) {
       const double height = item.title == "Choose Display" ? 26 : 30;
       EXPECT_DOUBLE_EQ(shown.frame.size.width, 208);
       EXPECT_DOUBLE_EQ(shown.frame.size.height, height);
-      // The menu is as wide as its widest row: each one must have asked for that itself.
+      // The menu is as wide as its widest row, so the width of each view counts.
       EXPECT_DOUBLE_EQ(shown.view->frame().size.width, 208) << item.title;
       EXPECT_DOUBLE_EQ(shown.view->frame().size.height, height) << item.title;
       EXPECT_FALSE(item.title.empty());
@@ -77,18 +75,6 @@ TEST_F(AppDelegateMenuTest, ItsItemsAreOnForSwitchesThatAreOnAndForTheChosenDisp
       << "at once";
 }
 
-TEST_F(AppDelegateMenuTest, WithoutATargetPinningIsDisabledAndPreventingWorks) {
-  // The displays are first listed when the menu opens.
-  begin();
-  EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | off | disabled");
-  EXPECT_FALSE(pressRow("Pin Dock"));
-  EXPECT_FALSE(model().isGuardRunning());
-  EXPECT_TRUE(pressRow("Prevent Dock Pop-Up"));
-  EXPECT_TRUE(model().isGuardRunning());
-  EXPECT_EQ(row("Prevent Dock Pop-Up"), "eye.slash | Prevent Dock Pop-Up | on");
-  EXPECT_EQ(icon(), "lock.fill");
-}
-
 TEST_F(AppDelegateMenuTest, WithoutDisplaysADisabledRowSaysSo) {
   machine.permission.setTrusted(true);
   application.launch();
@@ -97,24 +83,6 @@ TEST_F(AppDelegateMenuTest, WithoutDisplaysADisabledRowSaysSo) {
             "lock | Pin Dock | off | disabled\n-\n# Choose Display\n"
             "display.trianglebadge.exclamationmark | No displays detected | disabled\n-\n"
             "macwindow | Open Window\ngearshape | Settings\npower | Quit\n");
-}
-
-TEST_F(AppDelegateMenuTest, WithoutDisplaysTheRowIsChineseInChinese) {
-  store("appLanguage", std::string("chinese"));
-  application.launch();
-  EXPECT_EQ(row("未检测到显示器"),
-            "display.trianglebadge.exclamationmark | 未检测到显示器 | disabled");
-}
-
-TEST_F(AppDelegateMenuTest, OpeningRefreshesDisplaysPermissionAndLoginItem) {
-  begin();
-  desk::attach(machine, desk::monitorAbove());
-  machine.loginItem.status = appkit::LoginItem::Status::enabled;
-  machine.permission.setTrusted(false);
-  ASSERT_TRUE(openMenu());
-  EXPECT_EQ(row("Open at Login"), "power | Open at Login | on");
-  EXPECT_EQ(row("Wall"), "display | Wall");
-  EXPECT_FALSE(model().hasAccessibilityPermission().value());
 }
 
 TEST_F(AppDelegateMenuTest, AnAliasChosenWhileTheMenuIsOpenMarksNoRowUntilItReopens) {
@@ -129,24 +97,6 @@ TEST_F(AppDelegateMenuTest, AnAliasChosenWhileTheMenuIsOpenMarksNoRowUntilItReop
   EXPECT_EQ(row("Studio"), "display | Studio");
   ASSERT_TRUE(openMenu());
   EXPECT_EQ(row("Studio"), "display | Studio | selected");
-}
-
-TEST_F(AppDelegateMenuTest, AnOpenMenuShowsThatTheGuardHasShutItselfOff) {
-  beginWithOpenMenu();
-  ASSERT_TRUE(press("Pin Dock"));
-  ASSERT_EQ(row("Pin Dock"), "lock | Pin Dock | on");
-  letBlockingRunAway();
-  ASSERT_TRUE(isOpen());
-  EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | off");
-  EXPECT_EQ(icon(), "lock.open");
-}
-
-TEST_F(AppDelegateMenuTest, ARowKeepsItsViewDuringItsOwnClick) {
-  beginWithOpenMenu();
-  const auto before = views();
-  ASSERT_TRUE(press("Pin Dock"));
-  ASSERT_EQ(row("Pin Dock"), "lock | Pin Dock | on");
-  EXPECT_EQ(views(), before);
 }
 
 TEST_F(AppDelegateMenuTest, AddingOrRemovingADisplayKeepsTheOtherRows) {
@@ -172,57 +122,27 @@ TEST_F(AppDelegateMenuTest, AnActionRunsAfterTheMenuHasClosed) {
   hand.pressButton();
   machine.mouse.releaseButton();
   EXPECT_FALSE(isOpen());
-  EXPECT_FALSE(desk::Surfaces(server()).isOpen("main"));
+  EXPECT_FALSE(AppFixture::isOpen("main"));
   machine.runDue();
-  EXPECT_TRUE(desk::Surfaces(server()).isOpen("main"));
+  EXPECT_TRUE(AppFixture::isOpen("main"));
 }
 
-TEST_F(AppDelegateMenuTest, SwitchesLeaveTheMenuOpen) {
+TEST_F(AppDelegateMenuTest, SwitchesLeaveTheMenuOpenAndItsViewsInPlace) {
   beginWithOpenMenu();
+  const auto before = views();
   ASSERT_TRUE(press("Pin Dock"));
   EXPECT_TRUE(isOpen());
   EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | on");
   EXPECT_EQ(icon(), "lock.fill");
+  EXPECT_EQ(views(), before);
   ASSERT_TRUE(press("Open at Login"));
   EXPECT_TRUE(isOpen());
   EXPECT_EQ(row("Open at Login"), "power | Open at Login | on");
+  ASSERT_TRUE(press("Open at Login"));
+  EXPECT_EQ(row("Open at Login"), "power | Open at Login | off");
   ASSERT_TRUE(press("Pin Dock"));
   EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | off");
   EXPECT_EQ(icon(), "lock.open");
-}
-
-TEST_F(AppDelegateMenuTest, OpenAtLoginCanBeTurnedOff) {
-  machine.loginItem.status = appkit::LoginItem::Status::enabled;
-  beginWithOpenMenu();
-  ASSERT_EQ(row("Open at Login"), "power | Open at Login | on");
-  ASSERT_TRUE(press("Open at Login"));
-  EXPECT_EQ(machine.loginItem.status, appkit::LoginItem::Status::notRegistered);
-  EXPECT_EQ(row("Open at Login"), "power | Open at Login | off");
-  ASSERT_TRUE(press("Open at Login"));
-  EXPECT_EQ(machine.loginItem.status, appkit::LoginItem::Status::enabled);
-}
-
-TEST_F(AppDelegateMenuTest, PinningAndPreventingExcludeEachOther) {
-  beginWithOpenMenu();
-  for (int round = 0; round < 2; ++round) {
-    ASSERT_TRUE(press("Pin Dock"));
-    EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | on");
-    EXPECT_EQ(row("Prevent Dock Pop-Up"), "eye.slash | Prevent Dock Pop-Up | off");
-    EXPECT_EQ(application.snapshot().guard.zones.size(), 1U);
-    ASSERT_TRUE(press("Prevent Dock Pop-Up"));
-    EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | off");
-    EXPECT_EQ(row("Prevent Dock Pop-Up"), "eye.slash | Prevent Dock Pop-Up | on");
-    EXPECT_EQ(application.snapshot().guard.zones.size(), 2U);
-    EXPECT_EQ(icon(), "lock.fill");
-  }
-}
-
-TEST_F(AppDelegateMenuTest, ALoginItemThatCannotBeRegisteredStaysOff) {
-  machine.loginItem.error = "Not today";
-  beginWithOpenMenu();
-  ASSERT_TRUE(press("Open at Login"));
-  EXPECT_EQ(row("Open at Login"), "power | Open at Login | off");
-  EXPECT_EQ(model().launchAtLoginErrorMessage().value(), "Not today");
 }
 
 TEST_F(AppDelegateMenuTest, ChoosingADisplayWhilePinnedRestartsTheGuardAtOnce) {
@@ -235,49 +155,6 @@ TEST_F(AppDelegateMenuTest, ChoosingADisplayWhilePinnedRestartsTheGuardAtOnce) {
   EXPECT_EQ(row("Display (Main)"), "display | Display (Main)");
   ASSERT_EQ(application.snapshot().guard.zones.size(), 1U);
   EXPECT_DOUBLE_EQ(application.snapshot().guard.zones[0].rect.origin.x, 0);
-}
-
-TEST_F(AppDelegateMenuTest, ASwitchWaitsForThePermissionAndTheGuard) {
-  attachTwoDisplays();
-  application.launch();
-  model().refreshDisplays();
-  model().setAppLanguage(OrvaneLanguage::system);
-  machine.runDue();
-  EXPECT_TRUE(pressRow("Pin Dock"));
-  EXPECT_TRUE(server().modal.isRunning());
-  EXPECT_EQ(row("Pin Dock"), "lock | Pin Dock | off");
-  EXPECT_EQ(icon(), "lock.open");
-}
-
-TEST_F(AppDelegateMenuTest, WindowsOpenInFrontOfOtherApplications) {
-  begin();
-  application.systemSettings().open();
-  ASSERT_FALSE(server().focus.isActive());
-  ASSERT_TRUE(openMenu());
-  ASSERT_TRUE(press("Open Window"));
-  EXPECT_EQ(server().windows().back()->className, "OrvaneWindow");
-  application.systemSettings().open();
-  ASSERT_EQ(server().windows().back()->className, "SystemSettings");
-  ASSERT_TRUE(openMenu());
-  ASSERT_TRUE(press("Settings"));
-  EXPECT_EQ(server().windows().back()->className, "OrvaneSettingsWindow");
-  EXPECT_EQ(server().windows().front()->className, "SystemSettings");
-}
-
-TEST_F(AppDelegateMenuTest, ActionsUpdateTheIcon) {
-  for (const char* const title : {"Open Window", "Settings"}) {
-    begin();
-    ASSERT_TRUE(openMenu());
-    ASSERT_TRUE(press("Pin Dock"));
-    // Not through the menu; the timer has no time to update the icon.
-    model().toggleLock();
-    EXPECT_EQ(icon(), "lock.fill");
-    ASSERT_TRUE(press(title));
-    EXPECT_EQ(icon(), "lock.open") << title;
-    application.crash();
-    desk::detach(machine, 1);
-    desk::detach(machine, 2);
-  }
 }
 
 TEST_F(AppDelegateMenuTest, ArrowsReturnAndSpaceOperateTheRows) {
@@ -294,17 +171,6 @@ TEST_F(AppDelegateMenuTest, ArrowsReturnAndSpaceOperateTheRows) {
   key(ui::Key::enter);
   EXPECT_FALSE(isOpen());
   EXPECT_EQ(row("Studio"), "display | Studio | selected");
-}
-
-TEST_F(AppDelegateMenuTest, EscapeAndAClickOutsideOnlyCloseIt) {
-  beginWithOpenMenu();
-  key(ui::Key::down);
-  key(ui::Key::escape);
-  EXPECT_FALSE(isOpen());
-  ASSERT_TRUE(openMenu());
-  click({600, 600});
-  EXPECT_FALSE(isOpen());
-  EXPECT_FALSE(model().isGuardRunning());
 }
 
 TEST_F(AppDelegateMenuTest, ActionsOfRetainedItemsDoNothingAfterTheApplicationsEnd) {

@@ -18,54 +18,6 @@ TEST_F(AppDelegateTest, TheFirstLaunchShowsAnOpenLockAndStoresNothing) {
   EXPECT_FALSE(server().focus.isActive());
 }
 
-TEST_F(AppDelegateTest, VoiceOverReadsTheStateOfTheLock) {
-  store("appLanguage", std::string("english"));
-  begin();
-  const std::string& value = server().statusBar.item()->accessibilityValue;
-  EXPECT_EQ(value, "Unlocked");
-  model().refreshDisplays();
-  model().toggleSelectedDisplayLock();
-  machine.runDue();
-  EXPECT_EQ(value, "Locked");
-  model().setAppLanguage(OrvaneLanguage::chinese);
-  machine.runDue();
-  EXPECT_EQ(value, "已锁定");
-  model().toggleSelectedDisplayLock();
-  machine.runDue();
-  EXPECT_EQ(value, "未锁定");
-}
-
-TEST_F(AppDelegateTest, WithoutThePermissionALaunchOpensNoWindow) {
-  store("isOrvaneEnabled", true);
-  attachTwoDisplays();
-  application.launch();
-  machine.advance(10);
-  EXPECT_EQ(icon(), "lock.open");
-  EXPECT_TRUE(server().windows().empty());
-  EXPECT_FALSE(server().modal.isRunning());
-  EXPECT_TRUE(machine.links.opened().empty());
-  EXPECT_TRUE(OrvaneSettings::isOrvaneEnabled()) << "for the next launch";
-}
-
-TEST_F(AppDelegateTest, AStoredLockDoesNotStartWithoutItsDisplay) {
-  store("isOrvaneEnabled", true);
-  store("selectedDisplayID", std::string("somewhere else"));
-  begin();
-  EXPECT_FALSE(model().isGuardRunning());
-  EXPECT_EQ(icon(), "lock.open");
-}
-
-TEST_F(AppDelegateTest, TheIconFollowsTheGuardAtOnce) {
-  begin();
-  model().refreshDisplays();
-  model().toggleSelectedDisplayLock();
-  machine.runDue();
-  EXPECT_EQ(icon(), "lock.fill");
-  desk::detach(machine, 1);
-  machine.runDue();
-  EXPECT_EQ(icon(), "lock.open");
-}
-
 TEST_F(AppDelegateTest, TheIconFollowsTheGuardWithinASecondWhileAnAlertIsUp) {
   begin();
   model().refreshDisplays();
@@ -84,7 +36,6 @@ TEST_F(AppDelegateTest, TheIconFollowsTheGuardWithinASecondWhileAnAlertIsUp) {
 }
 
 TEST_F(AppDelegateTest, AnotherLanguageRebuildsTheMenuWithTheDisplaysNewNames) {
-  store("appLanguage", std::string("english"));
   begin();
   ASSERT_TRUE(openMenu());
   EXPECT_EQ(row("Display (Main)"), "display | Display (Main) | selected");
@@ -98,59 +49,13 @@ TEST_F(AppDelegateTest, AnotherLanguageRebuildsTheMenuWithTheDisplaysNewNames) {
             "macwindow | 打开窗口\ngearshape | 设置\npower | 退出\n");
 }
 
-TEST_F(AppDelegateTest, TheSameLanguageAgainRebuildsNothing) {
-  store("appLanguage", std::string("english"));
-  begin();
-  model().setAppLanguage(OrvaneLanguage::english);
-  EXPECT_EQ(machine.runLoop.pendingTaskCount(), 0U);
-  model().setAppLanguage(OrvaneLanguage::system);
-  EXPECT_EQ(machine.runLoop.pendingTaskCount(), 1U);
-}
-
-TEST_F(AppDelegateTest, ReopeningBringsTheMainWindowToTheFront) {
-  begin();
-  application.reopen();
-  ASSERT_TRUE(desk::Surfaces(server()).isOpen("main"));
-  const auto window = desk::Surfaces(server()).window("main");
-  EXPECT_EQ(server().focus.keyWindow(), window);
-  server().miniaturize(window);
-  application.reopen();
-  EXPECT_EQ(desk::Surfaces(server()).window("main"), window);
-}
-
-TEST_F(AppDelegateTest, QuittingKeepsTheLockForTheNextLaunch) {
-  begin();
-  model().refreshDisplays();
-  model().toggleSelectedDisplayLock();
-  application.terminate();
-  EXPECT_FALSE(application.isRunning());
-  EXPECT_EQ(machine.runLoop.timerCount(), 0U);
-  EXPECT_EQ(server().statusBar.item(), nullptr);
-  EXPECT_EQ(machine.userDefaults.value("isOrvaneEnabled"), desk::PropertyValue(true));
-  application.launch();
-  EXPECT_TRUE(model().isGuardRunning());
-  EXPECT_EQ(icon(), "lock.fill");
-}
-
-TEST_F(AppDelegateTest, AnOpenAlertDoesNotPreventQuitting) {
-  begin();
-  OrvanePermissionAlert::show(nullptr);
-  machine.runDue();
-  ASSERT_TRUE(server().modal.isRunning());
-  application.terminate();
-  EXPECT_FALSE(application.isRunning());
-  EXPECT_FALSE(server().modal.isRunning());
-  EXPECT_TRUE(machine.links.opened().empty());
-}
-
 TEST_F(AppDelegateTest, AfterWillTerminateItHasNoTimersAndRebuildsNothing) {
-  store("appLanguage", std::string("english"));
   begin();
   model().setAppLanguage(OrvaneLanguage::chinese);
   ASSERT_EQ(machine.runLoop.pendingTaskCount(), 1U) << "the task that rebuilds the menu";
   machine.runDue();
   ASSERT_EQ(machine.runLoop.timerCount(), 2U);
-  // The process ends only when the run loop goes on.
+  // The process ends with the next turn of the run loop.
   server().application.terminate();
   ASSERT_TRUE(application.isRunning());
   EXPECT_EQ(machine.runLoop.timerCount(), 0U);
@@ -158,18 +63,6 @@ TEST_F(AppDelegateTest, AfterWillTerminateItHasNoTimersAndRebuildsNothing) {
   EXPECT_EQ(machine.runLoop.pendingTaskCount(), 0U);
   machine.runDue();
   EXPECT_FALSE(application.isRunning());
-}
-
-TEST_F(AppDelegateTest, ACrashKeepsTheLockForTheNextLaunch) {
-  begin();
-  model().refreshDisplays();
-  model().toggleHideDockOnAllDisplays();
-  application.crash();
-  machine.advance(5);
-  application.launch();
-  EXPECT_TRUE(model().isGuardRunning());
-  EXPECT_EQ(icon(), "lock.fill");
-  EXPECT_EQ(application.snapshot().guard.zones.size(), 2U);
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "Orvane/model/OrvaneSettings.hpp"
 #include "desk/script/Inspectables.hpp"
 #include "desk/windows/Implementations.hpp"
 #include "tests/support/ApplicationFixture.hpp"
@@ -28,9 +27,6 @@ class AppFixture : public ApplicationFixture {
     machine.permission.setTrusted(true);
     application.launch();
   }
-  void store(const char* key, desk::PropertyValue value) {
-    machine.userDefaults.set(key, std::move(value));
-  }
 
   [[nodiscard]] bool openMenu() {
     const bool isOpen = server().menus.openStatusMenu(0);
@@ -41,34 +37,11 @@ class AppFixture : public ApplicationFixture {
   bool press(const std::string& label, const std::string& surface = desk::Surfaces::menu) {
     return ApplicationFixture::press(label, surface);
   }
-  /// Presses a row of the menu, open or not.
-  bool pressRow(const std::string& title) {
-    const auto menu = server().statusBar.item()->menu;
-    for (const appkit::MenuItem& item : menu->items) {
-      if (item.title == title && item.view) {
-        const appkit::HostingView view = *item.view;
-        view.implementation()->update();
-        ui::ViewHost& host = view.implementation()->host();
-        const auto controls = desk::findControls(host.semantics());
-        const bool isDone = !controls.empty() && host.press(controls.front().id);
-        machine.runDue();
-        return isDone;
-      }
-    }
-    return false;
-  }
   /// The middle of an open menu's row, in global coordinates.
   [[nodiscard]] CGPoint middleOf(const std::string& title) {
     const auto place = hand.menuItemCenter(title);
     EXPECT_TRUE(place) << "no row " << title;
     return place.value_or(CGPoint{});
-  }
-  /// Blocks so many movements on the display at the right that the guard shuts itself off.
-  void letBlockingRunAway() {
-    for (int count = 0; count < 200; ++count) {
-      machine.mouse.post({2800, 1075}, 0);
-    }
-    machine.runDue();
   }
 
   /// The menu as text, one line per row: its symbol, its title, its state.

@@ -39,21 +39,15 @@ TEST_F(EnergyTest, AnIdleApplicationWakesOnceASecondAndDrawsNothing) {
   EXPECT_EQ(idleHour(), timerOnly);
 }
 
-TEST_F(EnergyTest, ARunningGuardCostsNoMore) {
-  store("isOrvaneEnabled", true);
-  begin();
-  ASSERT_TRUE(model().isGuardRunning());
-  EXPECT_EQ(idleHour(), timerOnly);
-}
-
-TEST_F(EnergyTest, AClosedMenuAndClosedWindowsCostNoMore) {
+TEST_F(EnergyTest, ARunningGuardAClosedMenuAndClosedWindowsCostNoMore) {
   begin();
   ASSERT_TRUE(openMenu());
   moveTo(middleOf("Quit"));
   ASSERT_TRUE(press("Pin Dock"));
   ASSERT_TRUE(press("Settings"));
   machine.advance(2);
-  server().close(desk::Surfaces(server()).window("main"));
+  EXPECT_EQ(hand.close("main"), std::nullopt);
+  ASSERT_TRUE(model().isGuardRunning());
   EXPECT_EQ(idleHour(), timerOnly);
 }
 
@@ -78,20 +72,6 @@ TEST_F(EnergyTest, BlockedMovementsDrawNothingInAnOpenPanel) {
   }
   EXPECT_EQ(application.snapshot().guard.blockedCount, 10);
   EXPECT_EQ(server().updates.changeCount() - before, 0);
-}
-
-TEST_F(EnergyTest, TheActivityLastsAsLongAsTheGuardRuns) {
-  begin();
-  EXPECT_EQ(machine.application.activityCount, 0);
-  model().toggleSelectedDisplayLock();
-  machine.runDue();
-  EXPECT_EQ(machine.application.activityCount, 1);
-  machine.permission.setTrusted(false);
-  machine.runDue();
-  EXPECT_EQ(machine.application.activityCount, 0);
-  machine.permission.setTrusted(true);
-  machine.runDue();
-  EXPECT_EQ(machine.application.activityCount, 1);
 }
 
 }  // namespace

@@ -11,21 +11,6 @@ namespace {
 class KeyEquivalentsTest : public AppFixture {
  protected:
   KeyEquivalentsTest() { begin(); }
-
-  void showSettings() {
-    application.reopen();
-    ASSERT_TRUE(command(","));
-  }
-  void showAlert() {
-    OrvanePermissionAlert::show(nullptr);
-    machine.runDue();
-    ASSERT_TRUE(isOpen("alert"));
-  }
-  void showGuide() {
-    OrvanePermissionGuideWindowController::shared().show(nullptr);
-    machine.runDue();
-    ASSERT_TRUE(isOpen("guide"));
-  }
 };
 
 TEST_F(KeyEquivalentsTest, CommandCommaOpensTheSettings) {
@@ -43,13 +28,16 @@ TEST_F(KeyEquivalentsTest, CommandQQuitsFromThePanels) {
   EXPECT_TRUE(command("q"));
   EXPECT_FALSE(application.isRunning());
   application.launch();
-  showSettings();
+  application.reopen();
+  ASSERT_TRUE(command(","));
   EXPECT_TRUE(command("q"));
   EXPECT_FALSE(application.isRunning());
 }
 
 TEST_F(KeyEquivalentsTest, CommandQQuitsFromTheGuide) {
-  showGuide();
+  OrvanePermissionGuideWindowController::shared().show(nullptr);
+  machine.runDue();
+  ASSERT_TRUE(isOpen("guide"));
   ASSERT_FALSE(server().focus.isActive()) << "it becomes key without activating the application";
   EXPECT_TRUE(command("q"));
   EXPECT_FALSE(application.isRunning());
@@ -68,7 +56,9 @@ TEST_F(KeyEquivalentsTest, CommandHHidesUntilTheApplicationIsOpenedAgain) {
 
 TEST_F(KeyEquivalentsTest, AnAlertAcceptsOnlyCommandQ) {
   application.reopen();
-  showAlert();
+  OrvanePermissionAlert::show(nullptr);
+  machine.runDue();
+  ASSERT_TRUE(isOpen("alert"));
   EXPECT_FALSE(command(","));
   EXPECT_FALSE(command("h"));
   EXPECT_TRUE(isOpen("alert"));

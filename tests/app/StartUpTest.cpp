@@ -1,7 +1,9 @@
 // The application's calls of the platform interface, in their order: at launch, when the menu
-// opens, and for each action of the menu.
+// opens, for each action of the menu, and on windows that are already open.
+#include <sstream>
+#include <string>
+
 #include "tests/app/AppFixture.hpp"
-#include "tests/support/CallRecorder.hpp"
 
 namespace orvane {
 namespace {
@@ -43,10 +45,38 @@ const std::string timerCall = "Timer.repeating 1 true\n";
 const std::string tapWatchCalls = timerCall + "NotificationCenter.addObserver\n";
 const std::string activateCall = "Application.activateIgnoringOtherApps\n";
 
+const std::string mainToFront = R"(Window.makeKeyAndOrderFront "OrvaneWindow"
+Window.orderFrontRegardless "OrvaneWindow"
+)";
+const std::string newSettings = R"(Window
+Window.setHasShadow "OrvaneSettingsWindow" true
+Window.addChildWindowAbove "OrvaneWindow" "OrvaneSettingsWindow"
+)";
+const std::string settingsToFront = R"(Window.makeKeyAndOrderFront "OrvaneSettingsWindow"
+Window.orderFrontRegardless "OrvaneSettingsWindow"
+)";
+const std::string closeSettings = R"(Window.close "OrvaneSettingsWindow"
+Window.removeChildWindow "OrvaneWindow" "OrvaneSettingsWindow"
+)";
+
 /// The model refreshes the displays, selects a display if it has none, and then asks for the
 /// permission.
 std::string refreshCalls(const std::string& select) {
   return "Screen.screens\n" + select + "AXIsProcessTrusted\n";
+}
+
+const std::string removeTapCalls =
+    "CGEventTapEnable false\nCFRunLoopRemoveSource\nCFMachPortInvalidate\n";
+
+/// A restarted guard first removes its tap.
+std::string startGuardCalls(const std::string& removal) {
+  return "AXIsProcessTrusted\n" + removal + R"(Screen.screens
+CGEventTapCreate
+CFMachPortCreateRunLoopSource
+CFRunLoopAddSource
+CGEventTapEnable true
+NotificationCenter.addObserver
+)";
 }
 
 /// The second display replaces none of the first menu's rows.
@@ -78,14 +108,12 @@ std::string selectCall(char display) {
 class StartUpTest : public AppFixture {
  protected:
   StartUpTest() {
-    store("appLanguage", std::string("english"));
+    store("appLanguage", "english");
     attachTwoDisplays();
   }
 
   std::string launchCalls() {
-    const desk::CallRecorder recorder(machine);
-    application.launch();
-    return recorder.text();
+    return callsOf([this] { application.launch(); });
   }
   /// The calls of a launch that makes these calls to restore the lock.
   static std::string expectedLaunchCalls(const std::string& restoring, const std::string& symbol) {
@@ -102,16 +130,9 @@ TEST_F(StartUpTest, RestoresNothingWhenNothingIsStored) {
 TEST_F(StartUpTest, RestoresAStoredLockBeforeItUpdatesTheIcon) {
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(true);
-  const std::string restoring = refreshCalls(selectCall('A')) + R"(AXIsProcessTrusted
-AXIsProcessTrusted
-Screen.screens
-CGEventTapCreate
-CFMachPortCreateRunLoopSource
-CFRunLoopAddSource
-CGEventTapEnable true
-NotificationCenter.addObserver
-)";
-  EXPECT_EQ(launchCalls(), expectedLaunchCalls(restoring, "lock.fill"));
+  EXPECT_EQ(launchCalls(), expectedLaunchCalls(refreshCalls(selectCall('A')) +
+                                                   "AXIsProcessTrusted\n" + startGuardCalls(""),
+                                               "lock.fill"));
 }
 
 TEST_F(StartUpTest, ChecksAndGivesUpAStoredLockWithoutThePermission) {
@@ -123,23 +144,21 @@ TEST_F(StartUpTest, ChecksAndGivesUpAStoredLockWithoutThePermission) {
 
 TEST_F(StartUpTest, OpeningTheMenuRefreshesTheModelThenTheMenuThenTheIcon) {
   application.launch();
-  const desk::CallRecorder recorder(machine);
-  ASSERT_TRUE(openMenu());
-  EXPECT_EQ(recorder.text(), refreshCalls(selectCall('A')) +
-                                 "LoginItem.status\nLoginItem.status\n" +
-                                 menuCalls("Menu.insertItem") + iconCalls("lock.open"));
+  EXPECT_EQ(callsOf([this] { EXPECT_TRUE(openMenu()); }),
+            refreshCalls(selectCall('A')) + "LoginItem.status\nLoginItem.status\n" +
+                menuCalls("Menu.insertItem") + iconCalls("lock.open"));
 }
 
 TEST_F(StartUpTest, AnotherLanguageRebuildsTheMenuOnce) {
-  store("appLanguage", std::string("chinese"));
+  store("appLanguage", "chinese");
   application.launch();
   model().refreshDisplays();
-  const desk::CallRecorder recorder(machine);
-  model().setAppLanguage(OrvaneLanguage::english);
-  machine.runDue();
-  EXPECT_EQ(recorder.text(), "UserDefaults.setString \"appLanguage\" \"english\"\n" +
-                                 refreshCalls("") + menuCalls("Menu.insertItem") +
-                                 iconCalls("lock.open"));
+  const std::string calls = callsOf([this] {
+    model().setAppLanguage(OrvaneLanguage::english);
+    machine.runDue();
+  });
+  EXPECT_EQ(calls, "UserDefaults.setString \"appLanguage\" \"english\"\n" + refreshCalls("") +
+                       menuCalls("Menu.insertItem") + iconCalls("lock.open"));
 }
 
 TEST_F(StartUpTest, WhileNothingChangesItOnlyChecksThePermissionOnceASecond) {
@@ -151,42 +170,22 @@ TEST_F(StartUpTest, WhileNothingChangesItOnlyChecksThePermissionOnceASecond) {
       model().toggleSelectedDisplayLock();
       machine.runDue();
     }
-    const desk::CallRecorder recorder(machine);
     const std::int64_t wakeUps = machine.runLoop.wakeUpCount();
-    machine.advance(3);
+    EXPECT_EQ(callsOf([this] { machine.advance(3); }),
+              "AXIsProcessTrusted\nAXIsProcessTrusted\nAXIsProcessTrusted\n");
     EXPECT_EQ(machine.runLoop.wakeUpCount() - wakeUps, 3);
-    EXPECT_EQ(recorder.text(), "AXIsProcessTrusted\nAXIsProcessTrusted\nAXIsProcessTrusted\n");
   }
 }
 
-TEST_F(StartUpTest, ModelAndGuardListTheScreensOnceEach) {
+TEST_F(StartUpTest, ADisplayChangeListsTheScreensForGuardModelAndRestartOnly) {
+  store("isOrvaneEnabled", true);
   machine.permission.setTrusted(true);
   application.launch();
-  model().refreshDisplays();
-  const auto screenLists = [](const desk::CallRecorder& recorder) {
-    std::size_t count = 0;
-    const std::string& text = recorder.text();
-    for (std::size_t at = text.find("Screen.screens"); at != std::string::npos;
-         at = text.find("Screen.screens", at + 1)) {
-      ++count;
-    }
-    return count;
-  };
-  {
-    const desk::CallRecorder recorder(machine);
-    model().toggleSelectedDisplayLock();
-    EXPECT_EQ(screenLists(recorder), 2U);
-  }
-  const desk::CallRecorder recorder(machine);
-  desk::attach(machine, desk::monitorAbove());
-  machine.runDue();
-  EXPECT_EQ(screenLists(recorder), 3U) << "the guard, the model, and the guard's restart";
-}
-
-TEST_F(StartUpTest, ReopeningNeedsNothingMoreFromTheSystem) {
-  application.launch();
-  EXPECT_TRUE(server().application.reopen());
-  EXPECT_TRUE(desk::Surfaces(server()).isOpen("main"));
+  const std::string calls = callsOf([this] {
+    desk::attach(machine, desk::monitorAbove());
+    machine.runDue();
+  });
+  EXPECT_EQ(calls, "Screen.screens\n" + refreshCalls("") + startGuardCalls(removeTapCalls));
 }
 
 class MenuActionCallsTest : public StartUpTest {
@@ -197,48 +196,85 @@ class MenuActionCallsTest : public StartUpTest {
     EXPECT_TRUE(openMenu());
   }
 
-  /// The calls when a row is chosen.
-  std::string callsOf(const std::string& title) {
-    const desk::CallRecorder recorder(machine);
-    EXPECT_TRUE(press(title));
-    return recorder.text();
+  std::string callsOfRow(const std::string& title) {
+    return callsOf([&] { EXPECT_TRUE(press(title)); });
   }
 
   const std::string closeCall = "Menu.cancelTracking\n";
-  const std::string showMainCalls = R"(Application.setActivationPolicy 1
-Window
-Window.setHasShadow "OrvaneWindow" true
-Window.makeKeyAndOrderFront "OrvaneWindow"
-Window.orderFrontRegardless "OrvaneWindow"
-)" + activateCall;
-  const std::string showSettingsCalls = R"(Window
-Window.setHasShadow "OrvaneSettingsWindow" true
-Window.addChildWindowAbove "OrvaneWindow" "OrvaneSettingsWindow"
-Window.makeKeyAndOrderFront "OrvaneSettingsWindow"
-Window.orderFrontRegardless "OrvaneSettingsWindow"
-)" + activateCall;
+  const std::string showMainCalls =
+      "Application.setActivationPolicy 1\nWindow\nWindow.setHasShadow \"OrvaneWindow\" true\n" +
+      mainToFront + activateCall;
+  const std::string showSettingsCalls = newSettings + settingsToFront + activateCall;
   /// Those of the main panel's view when it appears.
   const std::string mainAppearsCalls = refreshCalls("") + timerCall;
 };
 
 TEST_F(MenuActionCallsTest, OpenWindowActivatesAfterTheWindowToo) {
-  EXPECT_EQ(callsOf("Open Window"),
+  EXPECT_EQ(callsOfRow("Open Window"),
             closeCall + showMainCalls + activateCall + iconCalls("lock.open") + mainAppearsCalls);
 }
 
 TEST_F(MenuActionCallsTest, SettingsShowsTheMainPanelFirst) {
-  EXPECT_EQ(callsOf("Settings"), closeCall + showMainCalls + showSettingsCalls +
-                                     iconCalls("lock.open") + mainAppearsCalls +
-                                     "LoginItem.status\nLoginItem.status\n");
+  EXPECT_EQ(callsOfRow("Settings"), closeCall + showMainCalls + showSettingsCalls +
+                                        iconCalls("lock.open") + mainAppearsCalls +
+                                        "LoginItem.status\nLoginItem.status\n");
 }
 
 TEST_F(MenuActionCallsTest, QuitClosesTheMenuFirst) {
-  EXPECT_EQ(callsOf("Quit"), closeCall + "Application.terminate\n");
+  EXPECT_EQ(callsOfRow("Quit"), closeCall + "Application.terminate\n");
 }
 
 TEST_F(MenuActionCallsTest, ADisplayIsStoredBetweenTheClosingOfTheMenuAndItsUpdate) {
-  EXPECT_EQ(callsOf("Studio"),
+  EXPECT_EQ(callsOfRow("Studio"),
             closeCall + selectCall('B') + menuCalls("Menu.changeItem") + iconCalls("lock.open"));
+}
+
+/// The simulated window server brings windows to the front without some of these calls, so the test
+/// compares the calls.
+class WindowCallsTest : public AppFixture {
+ protected:
+  WindowCallsTest() {
+    begin();
+    application.reopen();
+  }
+
+  /// The calls on windows when a row of the menu is chosen.
+  std::string callsOfRow(const std::string& title) {
+    EXPECT_TRUE(openMenu());
+    return callsOf(title, desk::Surfaces::menu);
+  }
+  std::string callsOf(const std::string& label, const std::string& surface) {
+    std::istringstream calls(AppFixture::callsOf([&] { EXPECT_TRUE(press(label, surface)); }));
+    std::string windowCalls;
+    for (std::string call; std::getline(calls, call);) {
+      windowCalls += call.starts_with("Window") ? call + "\n" : "";
+    }
+    return windowCalls;
+  }
+};
+
+TEST_F(WindowCallsTest, AMinimisedMainPanelIsDeminiaturizedBeforeItComesToTheFront) {
+  for (const bool isForSettings : {false, true}) {
+    server().miniaturize(desk::Surfaces(server()).window("main"));
+    const std::string calls = callsOfRow(isForSettings ? "Settings" : "Open Window");
+    EXPECT_TRUE(calls.starts_with("Window.deminiaturize \"OrvaneWindow\"\n" + mainToFront))
+        << calls;
+  }
+}
+
+TEST_F(WindowCallsTest, TheSettingsBecomeAChildOnceAndComeToTheFrontEachTime) {
+  EXPECT_EQ(callsOfRow("Settings"), mainToFront + newSettings + settingsToFront);
+  EXPECT_EQ(callsOfRow("Settings"), mainToFront + settingsToFront);
+}
+
+TEST_F(WindowCallsTest, ClosedSettingsAreNoLongerAChild) {
+  callsOfRow("Settings");
+  EXPECT_EQ(callsOf("Close", "settings"), closeSettings);
+}
+
+TEST_F(WindowCallsTest, TheMainPanelClosesTheSettingsToo) {
+  callsOfRow("Settings");
+  EXPECT_EQ(callsOf("Close", "main"), "Window.close \"OrvaneWindow\"\n" + closeSettings);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 // The tap watch: no tap without the permission, and none that stays disabled.
+#include <functional>
 #include <optional>
+#include <vector>
 
 #include "Orvane/app/TapWatch.hpp"
 #include "tests/support/ModelFixture.hpp"
@@ -10,6 +12,10 @@ namespace {
 class TapWatchTest : public ModelFixture {
  protected:
   void watch() { tapWatch.emplace(*model); }
+  void watchPinned() {
+    launchPinned();
+    watch();
+  }
   [[nodiscard]] bool isTapEnabled() const {
     return model->isGuardRunning() && machine.eventTaps.isAnyEnabled();
   }
@@ -25,8 +31,7 @@ class TapWatchTest : public ModelFixture {
 };
 
 TEST_F(TapWatchTest, TheTapIsRemovedEvenWhileTheMainQueueIsSuspended) {
-  launchPinned();
-  watch();
+  watchPinned();
   machine.runLoop.enterMode(desk::RunLoop::Mode::modalPanel);
   machine.runLoop.holdMainQueue();
   revokeSilently();
@@ -34,16 +39,6 @@ TEST_F(TapWatchTest, TheTapIsRemovedEvenWhileTheMainQueueIsSuspended) {
   EXPECT_FALSE(model->isGuardRunning());
   machine.runLoop.releaseMainQueue();
   machine.runLoop.leaveMode();
-}
-
-TEST_F(TapWatchTest, RemovingTheTapEndsATemporaryUnlock) {
-  launchPinned();
-  watch();
-  moveHolding(kCGEventFlagMaskAlternate);
-  ASSERT_TRUE(model->isTemporarilyUnlocked().value());
-  machine.permission.setTrusted(false);
-  machine.advance(TapWatch::intervalSeconds);
-  EXPECT_FALSE(model->isTemporarilyUnlocked().value());
 }
 
 TEST_F(TapWatchTest, AStoppedGuardResumesWithThePermission) {
@@ -58,34 +53,8 @@ TEST_F(TapWatchTest, AStoppedGuardResumesWithThePermission) {
   EXPECT_TRUE(model->guardService().snapshot().blocksAllDisplays);
 }
 
-TEST_F(TapWatchTest, AResumedGuardWaitsForItsTarget) {
-  launchPinned();
-  watch();
-  machine.permission.setTrusted(false);
-  machine.advance(2);
-  desk::detach(machine, 1);
-  machine.permission.setTrusted(true);
-  machine.advance(2);
-  ASSERT_FALSE(model->isGuardRunning());
-  desk::attach(machine, desk::laptop());
-  machine.runDue();
-  EXPECT_TRUE(isTapEnabled());
-}
-
-TEST_F(TapWatchTest, AGuardTurnedOffInTheMeantimeIsNotStarted) {
-  launchPinned();
-  watch();
-  machine.permission.setTrusted(false);
-  machine.advance(2);
-  store("isOrvaneEnabled", false);
-  machine.permission.setTrusted(true);
-  machine.advance(2);
-  EXPECT_FALSE(model->isGuardRunning());
-}
-
 TEST_F(TapWatchTest, ANotificationOfChangedPermissionsIsHandledAtOnce) {
-  launchPinned();
-  watch();
+  watchPinned();
   machine.permission.setTrusted(false);
   EXPECT_FALSE(model->isGuardRunning()) << "before any main-queue task";
   EXPECT_FALSE(model->hasAccessibilityPermission().value());
@@ -95,8 +64,7 @@ TEST_F(TapWatchTest, ANotificationOfChangedPermissionsIsHandledAtOnce) {
 }
 
 TEST_F(TapWatchTest, WithoutANotificationTheTimerDetectsTheChange) {
-  launchPinned();
-  watch();
+  watchPinned();
   revokeSilently();
   machine.advance(0.999);
   EXPECT_TRUE(model->isGuardRunning());
@@ -107,62 +75,8 @@ TEST_F(TapWatchTest, WithoutANotificationTheTimerDetectsTheChange) {
   EXPECT_TRUE(isTapEnabled());
 }
 
-TEST_F(TapWatchTest, ALockThatWasNotRestoredForWantOfThePermissionStartsWithIt) {
-  store("isOrvaneEnabled", true);
-  store("selectedDisplayID", "gone");
-  machine.permission.setTrusted(false);
-  launch();
-  watch();
-  machine.permission.setTrusted(true);
-  EXPECT_FALSE(model->isGuardRunning()) << "its display is detached";
-  EXPECT_TRUE(model->guardService().snapshot().isObservingScreens);
-  desk::Display display = desk::monitorAbove();
-  display.uuid = "gone";
-  desk::attach(machine, display);
-  machine.runDue();
-  EXPECT_TRUE(isTapEnabled());
-}
-
-TEST_F(TapWatchTest, ALockRevokedWhileItsDisplayWasDetachedResumes) {
-  launchPinned();
-  watch();
-  desk::detach(machine, 1);
-  machine.runDue();
-  ASSERT_FALSE(model->isGuardRunning());
-  machine.permission.setTrusted(false);
-  EXPECT_TRUE(model->guardService().snapshot().isObservingScreens) << "there is no tap to remove";
-  desk::attach(machine, desk::laptop());
-  machine.runDue();
-  ASSERT_FALSE(model->isGuardRunning());
-  machine.permission.setTrusted(true);
-  EXPECT_TRUE(isTapEnabled());
-}
-
-TEST_F(TapWatchTest, ALockThatWasNotRestoredForWantOfItsDisplayIsNotStarted) {
-  store("isOrvaneEnabled", true);
-  store("selectedDisplayID", "gone");
-  launch();
-  watch();
-  desk::Display display = desk::monitorAbove();
-  display.uuid = "gone";
-  desk::attach(machine, display);
-  machine.advance(5);
-  EXPECT_FALSE(model->isGuardRunning()) << "before the next launch";
-  EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
-}
-
-TEST_F(TapWatchTest, ASilentlyDisabledTapIsEnabled) {
-  launchPinned();
-  watch();
-  machine.eventTaps.disableAllSilently(false);
-  machine.advance(TapWatch::intervalSeconds);
-  EXPECT_TRUE(isTapEnabled());
-  EXPECT_TRUE(hasTap(1)) << "the same tap";
-}
-
 TEST_F(TapWatchTest, ATapThatStaysDisabledIsReplacedAtTheNextCheck) {
-  launchPinned();
-  watch();
+  watchPinned();
   machine.eventTaps.disableAllSilently(true);
   machine.advance(TapWatch::intervalSeconds);
   ASSERT_TRUE(hasTap(1));
@@ -173,13 +87,12 @@ TEST_F(TapWatchTest, ATapThatStaysDisabledIsReplacedAtTheNextCheck) {
 }
 
 TEST_F(TapWatchTest, ATapDisabledOccasionallyIsEnabledEachTime) {
-  launchPinned();
-  watch();
+  watchPinned();
   for (int count = 0; count < 5; ++count) {
     machine.eventTaps.disableAllSilently(false);
     machine.advance(2 * TapWatch::intervalSeconds);
   }
-  EXPECT_TRUE(hasTap(1));
+  EXPECT_TRUE(hasTap(1)) << "the same tap";
   EXPECT_TRUE(isTapEnabled());
 }
 
@@ -187,60 +100,55 @@ TEST_F(TapWatchTest, ATapDisabledOccasionallyIsEnabledEachTime) {
 class StalePermissionTest : public TapWatchTest {
  protected:
   StalePermissionTest() {
-    launchPinned();
-    watch();
+    watchPinned();
+    becomeStale();
+  }
+  /// The system disables the tap for good and refuses another.
+  void becomeStale() {
     machine.eventTaps.setRefusesCreation(true);
     machine.eventTaps.disableAllSilently(true);
     machine.advance(2 * TapWatch::intervalSeconds);
+    ASSERT_EQ(model->status(), OrvaneStatus::permissionRequired);
+  }
+  void postPermissionChange() {
+    machine.observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
   }
 };
 
 TEST_F(StalePermissionTest, CountsAsMissing) {
   EXPECT_FALSE(model->isGuardRunning());
-  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
-  EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
   EXPECT_EQ(stored("isOrvaneEnabled"), Value(true));
+  postPermissionChange();
+  EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired) << "the tap is still refused";
   machine.eventTaps.setRefusesCreation(false);
-  model->refreshDisplays();
+  desk::attach(machine, desk::monitorAbove());
   machine.advance(60);
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
   EXPECT_FALSE(model->isGuardRunning());
 }
 
-TEST_F(StalePermissionTest, EndsWithTheNextChangeOfThePermissions) {
-  machine.eventTaps.setRefusesCreation(false);
-  machine.observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
-  EXPECT_TRUE(isTapEnabled());
-  EXPECT_EQ(model->status(), OrvaneStatus::locked);
-}
-
-TEST_F(StalePermissionTest, StaysWhenAnotherApplicationsPermissionChanged) {
-  machine.observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
-  EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
-}
-
-TEST_F(StalePermissionTest, EndsWhenThePermissionIsRevokedAndGranted) {
-  machine.eventTaps.setRefusesCreation(false);
-  machine.permission.onChange(nullptr);
-  machine.permission.setTrusted(false);
-  machine.advance(1);
-  machine.permission.setTrusted(true);
-  machine.advance(1);
-  EXPECT_EQ(model->status(), OrvaneStatus::locked);
-}
-
-TEST_F(StalePermissionTest, EndsWhenTheUserStartsTheGuard) {
-  machine.eventTaps.setRefusesCreation(false);
-  model->toggleSelectedDisplayLock();
-  EXPECT_EQ(model->status(), OrvaneStatus::locked);
-}
-
-TEST_F(StalePermissionTest, EndsWhenTheUserOpensThePermissionsPage) {
-  machine.eventTaps.setRefusesCreation(false);
-  model->openAccessibilitySettings();
-  EXPECT_TRUE(model->hasAccessibilityPermission().value());
-  machine.advance(1);
-  EXPECT_EQ(model->status(), OrvaneStatus::locked);
+TEST_F(StalePermissionTest, EndsWithAChangeOfThePermissionsOrAnActionOfTheUser) {
+  const std::vector<std::function<void()>> actions{
+      [this] { postPermissionChange(); },
+      [this] { model->toggleSelectedDisplayLock(); },
+      [this] { model->openAccessibilitySettings(); },
+      [this] {
+        // Revoked and granted without a notification.
+        machine.permission.onChange(nullptr);
+        machine.permission.setTrusted(false);
+        machine.advance(TapWatch::intervalSeconds);
+        machine.permission.setTrusted(true);
+        machine.advance(TapWatch::intervalSeconds);
+      },
+  };
+  for (const auto& action : actions) {
+    machine.eventTaps.setRefusesCreation(false);
+    action();
+    EXPECT_TRUE(model->hasAccessibilityPermission().value());
+    machine.advance(TapWatch::intervalSeconds);
+    EXPECT_EQ(model->status(), OrvaneStatus::locked);
+    becomeStale();
+  }
 }
 
 TEST_F(StalePermissionTest, ReturnsWhenTheTapIsRefusedAgain) {
@@ -250,17 +158,8 @@ TEST_F(StalePermissionTest, ReturnsWhenTheTapIsRefusedAgain) {
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
 }
 
-TEST_F(StalePermissionTest, SurvivesAChangeOfTheDisplays) {
-  machine.eventTaps.setRefusesCreation(false);
-  desk::attach(machine, desk::monitorAbove());
-  machine.advance(5);
-  EXPECT_FALSE(model->isGuardRunning());
-  EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
-}
-
 TEST_F(TapWatchTest, ATapThatIsRepeatedlyDisabledIsGivenUp) {
-  launchPinned();
-  watch();
+  watchPinned();
   for (int count = 0; count < 5; ++count) {
     EXPECT_TRUE(model->isGuardRunning());
     machine.eventTaps.disableAllSilently(true);
@@ -283,8 +182,7 @@ TEST_F(TapWatchTest, ATapRefusedAtAUserActionMakesNoPermissionStale) {
 }
 
 TEST_F(TapWatchTest, AGuardThatShutItselfOffStaysOff) {
-  launchPinned();
-  watch();
+  watchPinned();
   // The shut-off's clean-up waits for the main queue, which is suspended, unlike the watch.
   machine.runLoop.enterMode(desk::RunLoop::Mode::modalPanel);
   machine.runLoop.holdMainQueue();
@@ -300,8 +198,7 @@ TEST_F(TapWatchTest, AGuardThatShutItselfOffStaysOff) {
 }
 
 TEST_F(TapWatchTest, ADestroyedWatchDoesNothing) {
-  launchPinned();
-  watch();
+  watchPinned();
   tapWatch.reset();
   machine.permission.setTrusted(false);
   machine.advance(3);

@@ -42,15 +42,7 @@ TEST_F(CFRefTest, AnEmptyOneHoldsNullAndReleasesNothing) {
   EXPECT_FALSE(refused);
 }
 
-TEST_F(CFRefTest, ResettingReleasesOnce) {
-  Text text = made("a");
-  text.reset();
-  EXPECT_FALSE(text);
-  EXPECT_EQ(liveCount(), 0U);
-  text.reset();
-}
-
-TEST_F(CFRefTest, MovingHandsTheObjectOver) {
+TEST_F(CFRefTest, MovingTransfersTheObject) {
   Text first = made("a");
   const CFStringRef object = first.get();
   Text second = std::move(first);
@@ -59,14 +51,17 @@ TEST_F(CFRefTest, MovingHandsTheObjectOver) {
   EXPECT_EQ(machine.objects.referenceCount(object), 1);
 }
 
-TEST_F(CFRefTest, TakingAnotherObjectReleasesTheFirst) {
+TEST_F(CFRefTest, AssigningReleasesTheFirstObject) {
   Text text = made("a");
   text = made("b");
   EXPECT_EQ(liveCount(), 1U);
   EXPECT_EQ(textOf(text.get()), "b");
+  text.reset();
+  EXPECT_FALSE(text);
+  EXPECT_EQ(liveCount(), 0U);
 }
 
-TEST_F(CFRefTest, MovingOntoItselfKeepsTheObject) {
+TEST_F(CFRefTest, SelfMoveKeepsTheObject) {
   Text text = made("a");
   Text& same = text;
   text = std::move(same);

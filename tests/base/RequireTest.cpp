@@ -12,9 +12,5 @@ TEST(RequireDeathTest, AFalseConditionEndsTheProcessWithItsMessage) {
                "Orvane: a guard has one event tap at a time");
 }
 
-TEST(RequireTest, ATrueConditionHasNoEffect) {
-  require(true, "never said");
-}
-
 }  // namespace
 }  // namespace orvane

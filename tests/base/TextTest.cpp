@@ -9,7 +9,7 @@
 namespace orvane {
 namespace {
 
-TEST(TextTest, BlanksAndLineBreaksGoFromBothEndsOnly) {
+TEST(TextTest, BlanksAndLineBreaksAreTrimmedAtBothEndsOnly) {
   EXPECT_EQ(trimmed(" \t\r\n\v\fStudio  Display\n \t"), "Studio  Display");
   EXPECT_EQ(trimmed("plain"), "plain");
   EXPECT_EQ(trimmed(""), "");

@@ -1,5 +1,6 @@
 // Contract tests for reading another program's preferences.
 #include "Orvane/base/CFRef.hpp"
+#include "Orvane/platform/CFText.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
 
@@ -11,61 +12,40 @@ using Value = CFRef<CFPropertyListRef>;
 class CFPreferencesContract : public ContractFixture {
  protected:
   static constexpr const char* program = "app.orvane.contract";
+  const CFStringRef domain = CFSTR("app.orvane.contract");
 
-  static Value copyValue() {
-    return Value::owning(CFPreferencesCopyValue(CFSTR("key"), CFSTR("app.orvane.contract"),
-                                                kCFPreferencesCurrentUser, kCFPreferencesAnyHost));
+  [[nodiscard]] Value copyValue(CFStringRef host = kCFPreferencesAnyHost) const {
+    return Value::owning(
+        CFPreferencesCopyValue(CFSTR("key"), domain, kCFPreferencesCurrentUser, host));
   }
-  static std::string text(const Value& value) {
-    char buffer[64] = "";
-    CFStringGetCString(static_cast<CFStringRef>(value.get()), buffer, sizeof buffer,
-                       kCFStringEncodingUTF8);
-    return buffer;
+  /// Along the application's search list.
+  [[nodiscard]] Value copyAppValue() const {
+    return Value::owning(CFPreferencesCopyAppValue(CFSTR("key"), domain));
   }
 };
 
 TEST_F(CFPreferencesContract, AValueThatWasNeverStoredIsNull) {
-  CFPreferencesAppSynchronize(CFSTR("app.orvane.contract"));
+  CFPreferencesAppSynchronize(domain);
   EXPECT_FALSE(copyValue());
-  EXPECT_FALSE(
-      Value::owning(CFPreferencesCopyAppValue(CFSTR("key"), CFSTR("app.orvane.contract"))));
-  EXPECT_FALSE(
-      Value::owning(CFPreferencesCopyValue(CFSTR("key"), CFSTR("app.orvane.contract"),
-                                           kCFPreferencesCurrentUser, kCFPreferencesCurrentHost)));
+  EXPECT_FALSE(copyValue(kCFPreferencesCurrentHost));
+  EXPECT_FALSE(copyAppValue());
 }
 
-TEST_F(CFPreferencesContract, AStoredStringIsAStringWithItsText) {
-  ORVANE_ARRANGE(storePreference(program, "key", "left"));
-  CFPreferencesAppSynchronize(CFSTR("app.orvane.contract"));
-  const Value value = copyValue();
-  ASSERT_TRUE(value);
-  EXPECT_EQ(CFGetTypeID(value.get()), CFStringGetTypeID());
-  EXPECT_EQ(text(value), "left");
+TEST_F(CFPreferencesContract, AStringOfAnotherProgramIsSeenAfterSynchronising) {
+  for (const char* const text : {"left", "right"}) {
+    ORVANE_ARRANGE(storePreference(program, "key", text));
+    CFPreferencesAppSynchronize(domain);
+    EXPECT_EQ(textOf(copyValue().get()), text);
+    EXPECT_EQ(textOf(copyAppValue().get()), text);
+  }
 }
 
 TEST_F(CFPreferencesContract, AStoredNumberIsNotAString) {
   ORVANE_ARRANGE(storePreference(program, "key", 3.0));
-  CFPreferencesAppSynchronize(CFSTR("app.orvane.contract"));
+  CFPreferencesAppSynchronize(domain);
   const Value value = copyValue();
   ASSERT_TRUE(value);
   EXPECT_NE(CFGetTypeID(value.get()), CFStringGetTypeID());
-}
-
-TEST_F(CFPreferencesContract, AChangeByAnotherProgramIsSeenAfterSynchronising) {
-  ORVANE_ARRANGE(storePreference(program, "key", "left"));
-  CFPreferencesAppSynchronize(CFSTR("app.orvane.contract"));
-  EXPECT_EQ(text(copyValue()), "left");
-  ORVANE_ARRANGE(storePreference(program, "key", "right"));
-  CFPreferencesAppSynchronize(CFSTR("app.orvane.contract"));
-  EXPECT_EQ(text(copyValue()), "right");
-}
-
-TEST_F(CFPreferencesContract, TheSearchListFindsTheApplicationsValue) {
-  ORVANE_ARRANGE(storePreference(program, "key", "left"));
-  CFPreferencesAppSynchronize(CFSTR("app.orvane.contract"));
-  EXPECT_EQ(
-      text(Value::owning(CFPreferencesCopyAppValue(CFSTR("key"), CFSTR("app.orvane.contract")))),
-      "left");
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // Contract tests for Core Graphics' display functions.
 #include "Orvane/base/CFRef.hpp"
+#include "Orvane/platform/CFText.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
 
@@ -16,9 +17,16 @@ TEST_F(CGDisplaysContract, ReportsTheMainAndTheBuiltInDisplay) {
   EXPECT_FALSE(CGDisplayIsBuiltin(2));
 }
 
-TEST_F(CGDisplaysContract, ADisplayWithoutAUUIDHasNone) {
+TEST_F(CGDisplaysContract, TheUUIDOfADisplayIsTheSameEachTime) {
   ORVANE_ARRANGE(arrangeTwoDisplays());
-  EXPECT_FALSE(CFRef<CFUUIDRef>::owning(CGDisplayCreateUUIDFromDisplayID(2)));
+  for (int time = 0; time < 2; ++time) {
+    const auto uuid = CFRef<CFUUIDRef>::owning(CGDisplayCreateUUIDFromDisplayID(1));
+    ASSERT_TRUE(uuid);
+    const auto string =
+        CFRef<CFStringRef>::owning(CFUUIDCreateString(kCFAllocatorDefault, uuid.get()));
+    EXPECT_EQ(textOf(string.get()), leftUUID);
+  }
+  EXPECT_FALSE(CFRef<CFUUIDRef>::owning(CGDisplayCreateUUIDFromDisplayID(2))) << "it has none";
 }
 
 TEST_F(CGDisplaysContract, AnUnknownDisplayIsNeitherMainNorBuiltInAndHasNoUUID) {

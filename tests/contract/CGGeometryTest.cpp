@@ -8,29 +8,20 @@ namespace {
 
 using CGGeometryContract = ContractFixture;
 
-TEST_F(CGGeometryContract, EdgesCentresAndSizesAreComputed) {
-  const CGRect rect = CGRectMake(10, -20, 100, 50);
-  EXPECT_EQ(CGRectGetMinX(rect), 10);
-  EXPECT_EQ(CGRectGetMidX(rect), 60);
-  EXPECT_EQ(CGRectGetMaxX(rect), 110);
-  EXPECT_EQ(CGRectGetMinY(rect), -20);
-  EXPECT_EQ(CGRectGetMidY(rect), 5);
-  EXPECT_EQ(CGRectGetMaxY(rect), 30);
-  EXPECT_EQ(CGRectGetWidth(rect), 100);
-  EXPECT_EQ(CGRectGetHeight(rect), 50);
-}
-
-TEST_F(CGGeometryContract, ANegativeSizeIsNormalised) {
-  const CGRect rect = CGRectMake(110, 30, -100, -50);
-  EXPECT_EQ(CGRectGetMinX(rect), 10);
-  EXPECT_EQ(CGRectGetMaxX(rect), 110);
-  EXPECT_EQ(CGRectGetMinY(rect), -20);
-  EXPECT_EQ(CGRectGetMaxY(rect), 30);
-  EXPECT_EQ(CGRectGetWidth(rect), 100);
-  EXPECT_EQ(CGRectGetHeight(rect), 50);
-  EXPECT_TRUE(CGRectEqualToRect(rect, CGRectMake(10, -20, 100, 50)));
-  EXPECT_TRUE(CGRectContainsPoint(rect, CGPointMake(10, -20)));
-  EXPECT_FALSE(CGRectContainsPoint(rect, CGPointMake(110, 30)));
+TEST_F(CGGeometryContract, EdgesCentresAndSizesAreComputedAlsoOfANegativeSize) {
+  for (const CGRect& rect : {CGRectMake(10, -20, 100, 50), CGRectMake(110, 30, -100, -50)}) {
+    EXPECT_EQ(CGRectGetMinX(rect), 10);
+    EXPECT_EQ(CGRectGetMidX(rect), 60);
+    EXPECT_EQ(CGRectGetMaxX(rect), 110);
+    EXPECT_EQ(CGRectGetMinY(rect), -20);
+    EXPECT_EQ(CGRectGetMidY(rect), 5);
+    EXPECT_EQ(CGRectGetMaxY(rect), 30);
+    EXPECT_EQ(CGRectGetWidth(rect), 100);
+    EXPECT_EQ(CGRectGetHeight(rect), 50);
+    EXPECT_TRUE(CGRectEqualToRect(rect, CGRectMake(10, -20, 100, 50)));
+    EXPECT_TRUE(CGRectContainsPoint(rect, CGPointMake(10, -20)));
+    EXPECT_FALSE(CGRectContainsPoint(rect, CGPointMake(110, 30)));
+  }
 }
 
 TEST_F(CGGeometryContract, TheNearEdgesAreInsideTheFarOnesAreNot) {

@@ -25,15 +25,11 @@ TEST_F(HostingViewContract, ItsContentIsRebuiltOnlyWhenItNeedsAnUpdate) {
   EXPECT_EQ(view.fittingSize().width, 50);
 }
 
-TEST_F(HostingViewContract, ItAvoidsATitleBarUnlessConfigured) {
+TEST_F(HostingViewContract, ItAvoidsATitleBarUnlessConfiguredAndKeepsItsFrame) {
   HostingView view([](const ui::Environment&) { return ui::View(); });
   EXPECT_TRUE(view.respectsSafeArea());
   view.setRespectsSafeArea(false);
   EXPECT_FALSE(view.respectsSafeArea());
-}
-
-TEST_F(HostingViewContract, ItKeepsItsFrame) {
-  HostingView view([](const ui::Environment&) { return ui::View(); });
   view.setFrame(CGRectMake(1, 2, 30, 40));
   EXPECT_TRUE(CGRectEqualToRect(view.frame(), CGRectMake(1, 2, 30, 40)));
 }

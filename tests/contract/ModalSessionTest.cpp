@@ -44,15 +44,21 @@ class ModalSessionContract : public ContractFixture {
   std::vector<int> responses;
 };
 
-TEST_F(ModalSessionContract, TheWindowStaysOpenAfterTheSession) {
+TEST_F(ModalSessionContract, TheSessionHoldsTheMainQueueAndItsWindowStaysOpen) {
   Window panel = makePanel();
-  bool wasVisible = false;
+  bool taskRan = false;
+  bool taskRanWithin = true;
+  // The session starts before the inner task.
+  MainQueue::async([&] { MainQueue::async([&] { taskRan = true; }); });
   run(panel, [&] {
-    wasVisible = panel.isVisible();
+    taskRanWithin = taskRan;
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_EQ(Application::modalWindow(), panel);
     Application::stopModal(ModalResponse::alertFirstButton);
   });
-  EXPECT_TRUE(wasVisible);
   EXPECT_EQ(responses, std::vector<int>{1000});
+  EXPECT_FALSE(taskRanWithin);
+  EXPECT_TRUE(taskRan);
   EXPECT_TRUE(panel.isVisible()) << "stopping the session does not close it";
   panel.close();
   EXPECT_FALSE(panel.isVisible());

@@ -26,29 +26,16 @@ TEST_F(PanelContract, TheStyleMaskIsTheOneItWasMadeWith) {
   EXPECT_EQ(make(WindowKind::panel, StyleMask::nonactivatingPanel).styleMask(), 128U);
 }
 
-TEST_F(PanelContract, ANewWindowIsAnOrdinaryOne) {
+TEST_F(PanelContract, ANewWindowIsOrdinaryAndANewPanelHidesWithItsApplication) {
   const WindowAttributes window = attributesOf(make(WindowKind::window, StyleMask::borderless));
   EXPECT_EQ(window.level, 0);
   EXPECT_EQ(window.collectionBehavior, 0U);
   EXPECT_FALSE(window.hidesOnDeactivate);
   EXPECT_TRUE(window.isOpaque);
-}
-
-TEST_F(PanelContract, ANewPanelHidesWhenItsApplicationIsNotActive) {
   const WindowAttributes panel = attributesOf(make(WindowKind::panel, StyleMask::titled));
   EXPECT_TRUE(panel.hidesOnDeactivate);
   EXPECT_FALSE(panel.isFloatingPanel);
   EXPECT_EQ(panel.level, 0);
-}
-
-TEST_F(PanelContract, LevelsAreKept) {
-  Window window = make(WindowKind::panel, StyleMask::titled);
-  window.setLevel(WindowLevel::modalPanel);
-  EXPECT_EQ(attributesOf(window).level, 8);
-  window.setLevel(WindowLevel::status);
-  EXPECT_EQ(attributesOf(window).level, 25);
-  window.setLevel(WindowLevel::normal);
-  EXPECT_EQ(attributesOf(window).level, 0);
 }
 
 TEST_F(PanelContract, AFloatingPanelHasTheFloatingLevelUntilAnotherIsSet) {
@@ -58,6 +45,10 @@ TEST_F(PanelContract, AFloatingPanelHasTheFloatingLevelUntilAnotherIsSet) {
   EXPECT_EQ(attributesOf(panel).level, 3);
   panel.setLevel(WindowLevel::status);
   EXPECT_EQ(attributesOf(panel).level, 25);
+  panel.setLevel(WindowLevel::modalPanel);
+  EXPECT_EQ(attributesOf(panel).level, 8);
+  panel.setLevel(WindowLevel::normal);
+  EXPECT_EQ(attributesOf(panel).level, 0);
 }
 
 TEST_F(PanelContract, CollectionBehavioursAreKept) {

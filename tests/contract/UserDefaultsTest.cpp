@@ -15,23 +15,20 @@ class UserDefaultsContract : public ContractFixture {
   ~UserDefaultsContract() override { UserDefaults::remove(key); }
 };
 
-TEST_F(UserDefaultsContract, AMissingValueIsAbsent) {
+TEST_F(UserDefaultsContract, AStoredValueIsReadBackAtOnceUntilItIsRemoved) {
   EXPECT_EQ(UserDefaults::string(key), std::nullopt);
   EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
-}
-
-TEST_F(UserDefaultsContract, AStoredStringIsReadBackAtOnce) {
-  UserDefaults::setString(key, "\xE5\xB7\xA6 left");
-  EXPECT_EQ(UserDefaults::string(key), "\xE5\xB7\xA6 left");
-  UserDefaults::setString(key, "");
-  EXPECT_EQ(UserDefaults::string(key), "");
-}
-
-TEST_F(UserDefaultsContract, AStoredBooleanIsReadBackAtOnce) {
-  UserDefaults::setBoolean(key, true);
-  EXPECT_EQ(UserDefaults::boolean(key), true);
-  UserDefaults::setBoolean(key, false);
-  EXPECT_EQ(UserDefaults::boolean(key), false);
+  for (const char* const text : {"\xE5\xB7\xA6 left", ""}) {
+    UserDefaults::setString(key, text);
+    EXPECT_EQ(UserDefaults::string(key), text);
+  }
+  for (const bool value : {true, false}) {
+    UserDefaults::setBoolean(key, value);
+    EXPECT_EQ(UserDefaults::boolean(key), value);
+  }
+  UserDefaults::remove(key);
+  UserDefaults::remove(key);
+  EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
 }
 
 TEST_F(UserDefaultsContract, AValueOfAnotherTypeIsAbsent) {
@@ -42,13 +39,6 @@ TEST_F(UserDefaultsContract, AValueOfAnotherTypeIsAbsent) {
   ORVANE_ARRANGE(storeNumberInUserDefaults(key, 1));
   EXPECT_EQ(UserDefaults::string(key), std::nullopt);
   EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
-}
-
-TEST_F(UserDefaultsContract, ARemovedValueIsGone) {
-  UserDefaults::setString(key, "left");
-  UserDefaults::remove(key);
-  UserDefaults::remove(key);
-  EXPECT_EQ(UserDefaults::string(key), std::nullopt);
 }
 
 }  // namespace

@@ -37,17 +37,6 @@ TEST_F(DisplaySnapshotTest, ASnapshotHasEveryField) {
   EXPECT_TRUE(displays[1].isMain);
 }
 
-TEST_F(DisplaySnapshotTest, TheListHasTheSystemsOrder) {
-  attach(machine, desk::displayOf(30, "c", {{0, 0}, {100, 100}}));
-  attach(machine, desk::displayOf(10, "a", {{-100, 0}, {100, 100}}));
-  attach(machine, desk::displayOf(20, "b", {{100, 0}, {100, 100}}), true);
-  std::string names;
-  for (const DisplaySnapshot& display : DisplaySnapshot::ofAllScreens()) {
-    names += display.name;
-  }
-  EXPECT_EQ(names, "cab");
-}
-
 TEST_F(DisplaySnapshotTest, AScreenWithoutANumberHasNoRoles) {
   desk::Display display = desk::laptop();
   display.hasNumberInDescription = false;

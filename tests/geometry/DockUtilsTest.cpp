@@ -1,5 +1,4 @@
 // Reading the Dock's edge from its preferences.
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -14,7 +13,6 @@ namespace orvane {
 namespace {
 
 using desk::Preferences;
-using desk::setDockOrientation;
 
 class DockUtilsTest : public desk::MachineFixture {
  protected:
@@ -29,44 +27,22 @@ TEST_F(DockUtilsTest, TheDomainIsThatOfTheDockAndAlwaysTheSameObject) {
   EXPECT_EQ(DockUtils::dockPreferencesID(), DockUtils::dockPreferencesID());
 }
 
-TEST_F(DockUtilsTest, AMissingOrientationIsTheBottom) {
+TEST_F(DockUtilsTest, TheOrientationIsReadAtEachCallAndIsTheBottomUnlessItIsText) {
   EXPECT_FALSE(DockUtils::readDockPreference(CFSTR("orientation")));
   EXPECT_EQ(DockUtils::getDockPosition(), DockPosition::bottom);
-}
-
-TEST_F(DockUtilsTest, EachEdgeHasItsName) {
-  const std::vector<std::pair<std::string, DockPosition>> edges = {
-      {"top", DockPosition::top},
-      {"left", DockPosition::left},
-      {"right", DockPosition::right},
-      {"bottom", DockPosition::bottom}};
-  for (const auto& [name, position] : edges) {
-    setDockOrientation(machine, name);
-    EXPECT_EQ(DockUtils::getDockPosition(), position) << name;
+  const std::vector<std::pair<desk::PropertyValue, DockPosition>> values = {
+      {"top", DockPosition::top},        {"left", DockPosition::left},
+      {"right", DockPosition::right},    {"bottom", DockPosition::bottom},
+      {"", DockPosition::unknown},       {"Bottom", DockPosition::unknown},
+      {" left", DockPosition::unknown},  {"right ", DockPosition::unknown},
+      {"middle", DockPosition::unknown}, {"下", DockPosition::unknown},
+      {2.0, DockPosition::bottom},       {"left", DockPosition::left},
+      {true, DockPosition::bottom},
+  };
+  for (const auto& [value, position] : values) {
+    desk::setDockOrientation(machine, value);
+    EXPECT_EQ(DockUtils::getDockPosition(), position) << testing::PrintToString(value);
   }
-}
-
-TEST_F(DockUtilsTest, OtherTextIsUnknown) {
-  for (const char* const text : {"", "Bottom", "LEFT", " left", "right ", "middle", "下"}) {
-    setDockOrientation(machine, std::string(text));
-    EXPECT_EQ(DockUtils::getDockPosition(), DockPosition::unknown) << text;
-  }
-}
-
-TEST_F(DockUtilsTest, AValueThatIsNotAStringMeansTheBottom) {
-  setDockOrientation(machine, 2.0);
-  EXPECT_EQ(DockUtils::getDockPosition(), DockPosition::bottom);
-  setDockOrientation(machine, true);
-  EXPECT_EQ(DockUtils::getDockPosition(), DockPosition::bottom);
-}
-
-TEST_F(DockUtilsTest, AChangeIsSeenAtOnce) {
-  setDockOrientation(machine, "left");
-  EXPECT_EQ(DockUtils::getDockPosition(), DockPosition::left);
-  setDockOrientation(machine, "right");
-  EXPECT_EQ(DockUtils::getDockPosition(), DockPosition::right);
-  machine.preferences.remove(desk::dockDomain(), "orientation");
-  EXPECT_EQ(DockUtils::getDockPosition(), DockPosition::bottom);
 }
 
 TEST_F(DockUtilsTest, AnyHostComesBeforeThisHostAndTheSearchListLast) {

@@ -36,20 +36,6 @@ TEST(OrvaneGeometryTest, AMirrorIsNotANeighbour) {
   EXPECT_EQ(exposedIntervals(flat, bottom, Frames{flat, flat}), (Intervals{{0, 100}}));
 }
 
-TEST(OrvaneGeometryTest, ANeighbourAlongHalfAPointCoversNothing) {
-  const auto exposedBeside = [](double shared) {
-    return exposedIntervals(displayA, bottom, Frames{displayA, {{shared - 100, 1080}, {100, 100}}});
-  };
-  EXPECT_EQ(exposedBeside(0.5), (Intervals{{0, 1920}}));
-  EXPECT_EQ(exposedBeside(0.5625), (Intervals{{0.5625, 1920}}));
-}
-
-TEST(OrvaneGeometryTest, EachMirroredDisplayGetsItsZone) {
-  const Zones zones = calculateTriggerZones(Frames{displayA, displayA}, Indices{0, 1}, bottom);
-  ASSERT_EQ(zones.size(), 2U);
-  EXPECT_EQ(zones[0], zones[1]);
-}
-
 TEST(OrvaneGeometryTest, TopAndUnknownGiveNoZones) {
   const Frames frames{displayA, {{1920, 0}, {1920, 1080}}};
   for (const DockPosition position : {DockPosition::top, DockPosition::unknown}) {

@@ -42,39 +42,22 @@ TEST_F(OrvaneScreenTest, TheDisplayIDIsTheScreenNumberEvenIfItIsTheGreatest) {
   EXPECT_TRUE(orvaneMatchingIdentifiers(screen()).contains("4294967295"));
 }
 
-TEST_F(OrvaneScreenTest, TheLegacyIdentifierShowsDepthAndColourSpace) {
-  desk::Display display = desk::displayOf(77, "Any", {{5, 7}, {2560.5, 1440.25}});
-  display.bitsPerSample = 10;
-  display.colorSpace = "NSDeviceRGBColorSpace";
-  attach(machine, display);
-  EXPECT_EQ(orvaneLegacyIdentifier(screen()),
+TEST_F(OrvaneScreenTest, TheLegacyIdentifierShowsSizeDepthAndColourSpace) {
+  desk::Display deep = desk::displayOf(77, "Any", {{5, 7}, {2560.5, 1440.25}});
+  deep.bitsPerSample = 10;
+  deep.colorSpace = "NSDeviceRGBColorSpace";
+  attach(machine, deep);
+  desk::Display unknown = desk::laptop();
+  unknown.bitsPerSample = std::nullopt;
+  unknown.colorSpace = std::nullopt;
+  attach(machine, unknown);
+  attach(machine, desk::displayOf(3, "Any", {{0, 0}, {0.1, 1366.0625}}));
+  EXPECT_EQ(orvaneLegacyIdentifier(screen(0)),
             "Optional(77)-2560.5-1440.25-Optional(10)-Optional(\"NSDeviceRGBColorSpace\")");
-}
-
-TEST_F(OrvaneScreenTest, TheLegacyIdentifierHasNilForAMissingDepthAndColourSpace) {
-  desk::Display display = desk::laptop();
-  display.bitsPerSample = std::nullopt;
-  display.colorSpace = std::nullopt;
-  attach(machine, display);
-  EXPECT_EQ(orvaneLegacyIdentifier(screen()), "Optional(1)-1920.0-1080.0-nil-nil");
-}
-
-TEST_F(OrvaneScreenTest, SizesHaveTheFewestDecimalsThatAreExact) {
-  attach(machine, desk::displayOf(1, "Any", {{0, 0}, {0.1, 1366.0625}}));
-  EXPECT_EQ(orvaneLegacyIdentifier(screen()),
-            std::string("Optional(1)-0.1-1366.0625-") + colorSpaceEnding);
-}
-
-TEST_F(OrvaneScreenTest, ThePrimaryIdentifierIsTheUUID) {
-  attach(machine, desk::laptop());
-  EXPECT_EQ(orvanePrimaryIdentifier(screen()), desk::uuidNamed('A'));
-}
-
-TEST_F(OrvaneScreenTest, WithoutAUUIDThePrimaryIdentifierIsTheLegacyOne) {
-  desk::Display display = desk::laptop();
-  display.uuid.reset();
-  attach(machine, display);
-  EXPECT_EQ(orvanePrimaryIdentifier(screen()), orvaneLegacyIdentifier(screen()));
+  EXPECT_EQ(orvaneLegacyIdentifier(screen(1)), "Optional(1)-1920.0-1080.0-nil-nil");
+  EXPECT_EQ(orvaneLegacyIdentifier(screen(2)),
+            std::string("Optional(3)-0.1-1366.0625-") + colorSpaceEnding)
+      << "the fewest decimals that are exact";
 }
 
 TEST_F(OrvaneScreenTest, IdentifiersAreComparedExactly) {
@@ -86,18 +69,6 @@ TEST_F(OrvaneScreenTest, IdentifiersAreComparedExactly) {
   EXPECT_FALSE(screenNamed(" 1"));
   EXPECT_FALSE(screenNamed("01"));
   EXPECT_FALSE(screenNamed(""));
-}
-
-TEST_F(OrvaneScreenTest, GlobalCoordinatesBeginAtTheTopLeftOfTheFirstScreen) {
-  attach(machine, desk::displayOf(1, "First", {{0, 0}, {1512, 982}}));
-  attach(machine, desk::displayOf(2, "Higher", {{1512, 200}, {1920, 1080}}));
-  attach(machine, desk::displayOf(3, "Below", {{-300, -1440}, {2560, 1440}}));
-  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(0), appkit::Screen::screens()),
-                                {{0, 0}, {1512, 982}}));
-  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(1), appkit::Screen::screens()),
-                                {{1512, -298}, {1920, 1080}}));
-  EXPECT_TRUE(CGRectEqualToRect(orvaneCGFrame(screen(2), appkit::Screen::screens()),
-                                {{-300, 982}, {2560, 1440}}));
 }
 
 TEST_F(OrvaneScreenTest, WithoutAnyScreenInTheListAFrameIsUnchanged) {

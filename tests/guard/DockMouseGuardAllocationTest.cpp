@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "desk/machine/Event.hpp"
+#include "tests/guard/GuardFixture.hpp"
 #include "tests/support/AllocationCounter.hpp"
-#include "tests/support/GuardFixture.hpp"
 
 namespace orvane {
 namespace {
@@ -66,37 +66,15 @@ TEST_F(DockMouseGuardAllocationTest, AHitThatDiscardsOldBlocksAllocatesNothing) 
 }
 
 TEST_F(DockMouseGuardAllocationTest, AHeldModifierAllocatesNothing) {
-  outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
+  outcomeOf(inTheZone, optionKey);
   machine.runDue();
-  EXPECT_EQ(takenFor(10'000, kCGEventMouseMoved, inTheZone, kCGEventFlagMaskAlternate), 0U);
-  EXPECT_EQ(takenFor(10'000, kCGEventMouseMoved, outsideEveryZone, kCGEventFlagMaskAlternate), 0U);
+  EXPECT_EQ(takenFor(10'000, kCGEventMouseMoved, inTheZone, optionKey), 0U);
+  EXPECT_EQ(takenFor(10'000, kCGEventMouseMoved, outsideEveryZone, optionKey), 0U);
 }
 
 TEST_F(DockMouseGuardAllocationTest, ATapThatTheSystemDisabledAllocatesNothing) {
   // The fifth within ten seconds posts a task to the main queue.
   EXPECT_EQ(takenFor(4, kCGEventTapDisabledByTimeout, inTheZone), 0U);
-}
-
-TEST_F(DockMouseGuardAllocationTest, AReportAllocatesAtMostOnceASecond) {
-  int reports = 0;
-  for (int count = 0; count < 1'000; ++count) {
-    machine.clock.moveTo(machine.clock.now() + 20'000'000);
-    const AllocationCounter counter;
-    __CGEvent event{kCGEventMouseMoved, CGEventFlags{}, inTheZone};
-    guard->eventTapCallback(event.type, &event);
-    reports += counter.count() > 0 ? 1 : 0;
-  }
-  EXPECT_EQ(reports, 20) << "a thousand blocks in twenty seconds";
-}
-
-TEST_F(DockMouseGuardAllocationTest, ThePathThroughPointerTapAndDockAllocatesNothing) {
-  machine.mouse.moveTo({2500, 500});
-  machine.runDue();
-  const AllocationCounter counter;
-  for (int count = 0; count < 10'000; ++count) {
-    machine.mouse.moveBy(count % 2 == 0 ? 3 : -3, 0);
-  }
-  EXPECT_EQ(counter.count(), 0U);
 }
 
 }  // namespace

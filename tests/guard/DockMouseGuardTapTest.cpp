@@ -2,10 +2,7 @@
 // simulated one.
 #include <string>
 
-#include <gtest/gtest.h>
-
-#include "tests/guard/GuardLifeFixture.hpp"
-#include "tests/support/CallRecorder.hpp"
+#include "tests/guard/GuardFixture.hpp"
 
 namespace orvane {
 namespace {
@@ -17,15 +14,7 @@ const std::string installCalls =
 const std::string removeCalls =
     "CGEventTapEnable false\nCFRunLoopRemoveSource\nCFMachPortInvalidate\n";
 
-class DockMouseGuardTapTest : public GuardLifeFixture {
- protected:
-  template <typename Action>
-  std::string callsOf(Action action) {
-    const desk::CallRecorder recorder(machine);
-    action();
-    return recorder.text();
-  }
-};
+using DockMouseGuardTapTest = GuardFixture;
 
 TEST_F(DockMouseGuardTapTest, ATapIsEnabledWhenItsSourceIsOnTheRunLoop) {
   EXPECT_EQ(callsOf([&] { startPinned(); }), permissionCall + installCalls);

@@ -1,18 +1,16 @@
 // The guard's life cycle: starting, stopping, and its messages to its owner.
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include <gtest/gtest.h>
-
-#include "Orvane/guard/DockMouseGuard.hpp"
 #include "desk/machine/RunLoop.hpp"
-#include "tests/guard/GuardLifeFixture.hpp"
+#include "tests/guard/GuardFixture.hpp"
 
 namespace orvane {
 namespace {
 
-class DockMouseGuardTest : public GuardLifeFixture {};
+using DockMouseGuardTest = GuardFixture;
 
 TEST_F(DockMouseGuardTest, StartingGuardsEveryDisplayButTheTarget) {
   guard->start(desk::uuidNamed('A'), OrvaneModifier::control, false);
@@ -68,8 +66,6 @@ TEST_F(DockMouseGuardTest, WithoutPermissionAStartOnlyReportsIt) {
   guard->start(desk::uuidNamed('A'), OrvaneModifier::command, true);
   expectIdle();
   EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, "");
-  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::option);
-  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
   EXPECT_EQ(takeMessages(), Messages{notTrusted});
 }
 
@@ -83,9 +79,6 @@ TEST_F(DockMouseGuardTest, WithoutPermissionARunningGuardKeepsItsEarlierSettings
   EXPECT_FALSE(guard->isSetTo(desk::uuidNamed('A'), OrvaneModifier::control, true));
   EXPECT_TRUE(guard->isRunning());
   EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor});
-  EXPECT_EQ(guard->snapshot().lockedDisplayIdentifier, desk::uuidNamed('A'));
-  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::control);
-  EXPECT_FALSE(guard->snapshot().blocksAllDisplays);
   EXPECT_EQ(takeMessages(), Messages{notTrusted});
 }
 
@@ -96,25 +89,7 @@ TEST_F(DockMouseGuardTest, WhenThePermissionReturnsAStartReplacesTheDeadTap) {
   machine.permission.setTrusted(true);
   startPinned();
   expectGuarding();
-  EXPECT_EQ(outcomeOf(inTheZone), (CGPoint{2500, 1063}));
-}
-
-TEST_F(DockMouseGuardTest, AnUnusableDockEdgeGivesNoZones) {
-  for (const char* const edge : {"top", "middle"}) {
-    desk::setDockOrientation(machine, edge);
-    guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
-    EXPECT_EQ(takeMessages(), Messages{noZones}) << edge;
-    expectWaiting();
-  }
-}
-
-TEST_F(DockMouseGuardTest, ARestartLeavesOneTapAndOneObserver) {
-  startPinned();
-  guard->start(desk::uuidNamed('B'), OrvaneModifier::shift, false);
-  expectGuarding();
-  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheLaptop});
-  EXPECT_EQ(guard->snapshot().overrideModifier, OrvaneModifier::shift);
-  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
+  EXPECT_EQ(outcomeOf(inTheZone), movedBack);
 }
 
 TEST_F(DockMouseGuardTest, StoppingLeavesTheGuardIdle) {
@@ -149,23 +124,51 @@ TEST_F(DockMouseGuardTest, ARestartWithoutStoppingRemembersTheLastReport) {
   EXPECT_EQ(takeMessages(), Messages{});
 }
 
-TEST_F(DockMouseGuardTest, StoppingWhileUnlockedReportsTheEndOnce) {
-  startPinned();
-  outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
-  machine.runDue();
-  guard->stop();
-  EXPECT_FALSE(guard->snapshot().isTemporarilyUnlocked);
-  guard->stop();
-  machine.runDue();
-  EXPECT_EQ(unlocks, (Unlocks{true, false}));
-}
-
 TEST_F(DockMouseGuardTest, ARestartWhileUnlockedReportsNothing) {
   startPinned();
-  outcomeOf(inTheZone, kCGEventFlagMaskAlternate);
+  outcomeOf(inTheZone, optionKey);
   startPinned();
   EXPECT_TRUE(guard->snapshot().isTemporarilyUnlocked);
   EXPECT_EQ(unlocks, Unlocks{true});
+}
+
+TEST_F(DockMouseGuardTest, ATemporaryUnlockEndsWithTheTap) {
+  const auto startAgain = [this] {
+    guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  };
+  const std::vector<std::pair<const char*, std::function<void()>>> endings{
+      {"stopped", [this] { guard->stop(); }},
+      {"restarted without zones", [this] { guard->start("", OrvaneModifier::option, false); }},
+      {"restarted while taps are refused",
+       [&] {
+         machine.eventTaps.setRefusesCreation(true);
+         startAgain();
+       }},
+      {"replaced while taps are refused",
+       [this] {
+         machine.eventTaps.disableAllSilently(true);
+         guard->reviveTap();
+         machine.eventTaps.setRefusesCreation(true);
+         guard->reviveTap();
+       }},
+      {"disabled too often",
+       [this] {
+         for (int count = 0; count < 5; ++count) {
+           disableTap();
+         }
+       }},
+      {"left without its target", [this] { desk::detach(machine, 1); }},
+  };
+  for (const auto& [name, end] : endings) {
+    machine.eventTaps.setRefusesCreation(false);
+    startPinned();
+    unlocks.clear();
+    outcomeOf(outsideEveryZone, optionKey);
+    end();
+    machine.runDue();
+    EXPECT_EQ(unlocks, (Unlocks{true, false})) << name;
+    EXPECT_FALSE(guard->isRunning()) << name;
+  }
 }
 
 TEST_F(DockMouseGuardTest, DestroyingAGuardStopsItFirst) {
@@ -174,120 +177,53 @@ TEST_F(DockMouseGuardTest, DestroyingAGuardStopsItFirst) {
   EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
   EXPECT_EQ(machine.observers.count(), 0U);
   EXPECT_EQ(machine.runLoop.sources().size(), 0U);
-  EXPECT_EQ(portCount(), 0U);
   desk::detach(machine, 1);
-  machine.runDue();
-  EXPECT_EQ(messages, Messages{});
+  EXPECT_EQ(takeMessages(), Messages{});
 }
 
-TEST_F(DockMouseGuardTest, ItsDisplaysAreThoseOfAllScreens) {
-  EXPECT_EQ(DockMouseGuard::displays(), DisplaySnapshot::ofAllScreens());
-}
-
-std::vector<std::string> openedLinks(const desk::Machine& machine) {
-  std::vector<std::string> urls;
-  for (const desk::Links::Opened& opened : machine.links.opened()) {
-    urls.push_back(opened.url + (opened.wasAccepted ? "" : " refused"));
-  }
-  return urls;
+TEST_F(DockMouseGuardTest, TheOwnerHearsOnTheMainQueueWhetherTheGuardRuns) {
+  using Announced = std::vector<bool>;
+  Announced running;
+  guard->onRunningChanged = [&](bool isRunning) { running.push_back(isRunning); };
+  const auto announced = [&] {
+    machine.runDue();
+    return std::exchange(running, {});
+  };
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  EXPECT_EQ(running, Announced{});
+  EXPECT_EQ(announced(), Announced{true});
+  startPinned();
+  EXPECT_EQ(announced(), Announced{}) << "a restart is no change";
+  desk::detach(machine, 1);
+  EXPECT_EQ(announced(), Announced{false});
+  desk::attach(machine, desk::laptop());
+  EXPECT_EQ(announced(), Announced{true});
+  block(180);
+  EXPECT_EQ(announced(), Announced{false});
+  machine.eventTaps.setRefusesCreation(true);
+  startPinned();
+  EXPECT_EQ(announced(), Announced{}) << "it does not run";
+  machine.eventTaps.setRefusesCreation(false);
+  startPinned();
+  EXPECT_EQ(announced(), Announced{true});
+  machine.eventTaps.setRefusesCreation(true);
+  startPinned();
+  EXPECT_EQ(announced(), Announced{false});
+  machine.eventTaps.setRefusesCreation(false);
+  startPinned();
+  announced();
+  guard->stop();
+  EXPECT_EQ(announced(), Announced{false});
 }
 
 TEST_F(DockMouseGuardTest, WhenEveryLinkIsRefusedTheSettingsThemselvesAreOpened) {
   machine.links.refuse("x-apple.systempreferences:");
   DockMouseGuard::openDesktopAndDockSettings();
   machine.runDue();
-  EXPECT_EQ(openedLinks(machine),
+  EXPECT_EQ(openedLinks(),
             (Messages{"x-apple.systempreferences:com.apple.Desktop-Settings.extension refused",
                       "x-apple.systempreferences:com.apple.preference.dock refused",
                       "file:///System/Applications/System%20Settings.app"}));
-}
-
-// The announcement of whether the guard runs.
-
-class RunningAnnouncementTest : public GuardLifeFixture {
- protected:
-  RunningAnnouncementTest() {
-    guard->onRunningChanged = [this](bool isRunning) { running.push_back(isRunning); };
-  }
-  std::vector<bool> announced() {
-    machine.runDue();
-    return std::exchange(running, {});
-  }
-
-  std::vector<bool> running;
-};
-
-TEST_F(RunningAnnouncementTest, StartAndStopAreAnnouncedOnTheMainQueue) {
-  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  EXPECT_TRUE(running.empty());
-  EXPECT_EQ(announced(), std::vector{true});
-  guard->stop();
-  EXPECT_TRUE(running.empty());
-  EXPECT_EQ(announced(), std::vector{false});
-}
-
-TEST_F(RunningAnnouncementTest, ARestartIsNotAChange) {
-  startPinned();
-  announced();
-  guard->start("", OrvaneModifier::option, true);
-  EXPECT_EQ(announced(), std::vector<bool>());
-}
-
-TEST_F(RunningAnnouncementTest, AStartWithoutATapIsNotAChangeUnlessTheGuardRan) {
-  machine.eventTaps.setRefusesCreation(true);
-  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  EXPECT_EQ(announced(), std::vector<bool>());
-  machine.eventTaps.setRefusesCreation(false);
-  startPinned();
-  announced();
-  machine.eventTaps.setRefusesCreation(true);
-  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  EXPECT_EQ(announced(), std::vector{false});
-}
-
-TEST_F(RunningAnnouncementTest, APauseForTheDisplaysIsAnnounced) {
-  startPinned();
-  announced();
-  desk::detach(machine, 1);
-  EXPECT_EQ(announced(), std::vector{false});
-  desk::attach(machine, desk::laptop());
-  EXPECT_EQ(announced(), std::vector{true});
-}
-
-TEST_F(RunningAnnouncementTest, AShutOffIsAnnounced) {
-  startPinned();
-  announced();
-  block(180);
-  EXPECT_EQ(announced(), std::vector{false});
-}
-
-TEST_F(DockMouseGuardTest, ARestartWithoutZonesRemovesTheTapAndEndsATemporaryUnlock) {
-  startPinned();
-  outcomeOf(outsideEveryZone, kCGEventFlagMaskAlternate);
-  guard->start("", OrvaneModifier::option, false);
-  EXPECT_EQ(takeMessages(), Messages{noZones});
-  expectWaiting();
-  EXPECT_EQ(unlocks, (Unlocks{true, false}));
-}
-
-TEST_F(DockMouseGuardTest, AStartWhoseTapIsRefusedEndsATemporaryUnlock) {
-  startPinned();
-  outcomeOf(outsideEveryZone, kCGEventFlagMaskAlternate);
-  machine.eventTaps.setRefusesCreation(true);
-  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
-  machine.runDue();
-  EXPECT_EQ(unlocks, (Unlocks{true, false}));
-}
-
-TEST_F(DockMouseGuardTest, ARefusedReplacementOfATapEndsATemporaryUnlock) {
-  startPinned();
-  outcomeOf(outsideEveryZone, kCGEventFlagMaskAlternate);
-  machine.eventTaps.disableAllSilently(true);
-  guard->reviveTap();
-  machine.eventTaps.setRefusesCreation(true);
-  guard->reviveTap();
-  machine.runDue();
-  EXPECT_EQ(unlocks, (Unlocks{true, false}));
 }
 
 }  // namespace

@@ -21,29 +21,19 @@ TEST(RunningCopyTest, ASingleCopyRemains) {
   EXPECT_EQ(copyThatStays(std::vector{unknown}), unknown);
 }
 
-TEST(RunningCopyTest, TheFirstLaunchedRemainsWhateverItsNumber) {
-  EXPECT_EQ(copyThatStays(std::vector{late, early}), early);
-}
-
-TEST(RunningCopyTest, ACopyWithAnUnknownLaunchTimeGivesWay) {
-  EXPECT_EQ(copyThatStays(std::vector{unknown, late}), late);
-}
-
 TEST(RunningCopyTest, ACopyThatIsAlreadyRunningRemainsHoweverItWasLaunched) {
   constexpr RunningCopy running{300, true, std::nullopt};
   EXPECT_EQ(copyThatStays(std::vector{early, late, unknown, running}), running);
   EXPECT_EQ(copyThatStays(std::vector{early, running}), running);
 }
 
-TEST(RunningCopyTest, OfEqualCopiesTheLowestNumberRemains) {
-  EXPECT_EQ(copyThatStays(std::vector{RunningCopy{7, false, 100.0}, RunningCopy{5, false, 100.0}}),
-            (RunningCopy{5, false, 100.0}));
+TEST(RunningCopyTest, OfCopiesWithUnknownLaunchTimesTheLowestNumberRemains) {
   EXPECT_EQ(copyThatStays(std::vector{RunningCopy{7, false, std::nullopt},
                                       RunningCopy{5, false, std::nullopt}}),
             (RunningCopy{5, false, std::nullopt}));
 }
 
-TEST(RunningCopyTest, AllCopiesAgreeInWhateverOrderTheySeeEachOther) {
+TEST(RunningCopyTest, InAnyOrderTheFirstLaunchedOrElseTheLowestNumberRemains) {
   std::vector<RunningCopy> copies = {
       early, late, unknown, {50, false, std::nullopt}, {60, false, 100.0}};
   const auto byNumber = [](const RunningCopy& first, const RunningCopy& second) {

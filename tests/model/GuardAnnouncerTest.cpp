@@ -13,6 +13,9 @@ namespace {
 
 using Announcements = std::vector<std::string>;
 
+const char* const permissionIsMissing =
+    "The Accessibility permission is missing; the Dock is not guarded";
+
 class GuardAnnouncerTest : public ModelFixture {
  protected:
   GuardAnnouncerTest() { store("appLanguage", "english"); }
@@ -34,21 +37,16 @@ TEST_F(GuardAnnouncerTest, AnOrdinaryLaunchIsNotAnnounced) {
   EXPECT_EQ(announced(), Announcements());
 }
 
-TEST_F(GuardAnnouncerTest, StartingStoppingAndAChangeOfModeAreAnnouncedOnce) {
+TEST_F(GuardAnnouncerTest, StartingStoppingAndChangesOfTargetAndModeAreAnnouncedOnce) {
   launchPinned();
   EXPECT_EQ(announced(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
+  model->selectDisplay(model->displays().value().at(1).id);
+  EXPECT_EQ(announced(),
+            Announcements{"The Dock is pinned to " + model->displays().value().at(1).name});
   model->toggleHideDockOnAllDisplays();
   EXPECT_EQ(announced(), Announcements{"The Dock is kept from popping up"});
   model->toggleHideDockOnAllDisplays();
   EXPECT_EQ(announced(), Announcements{"The Dock is no longer guarded"});
-}
-
-TEST_F(GuardAnnouncerTest, AnotherTargetIsAnnouncedByName) {
-  launchPinned();
-  announced();
-  model->selectDisplay(model->displays().value().at(1).id);
-  EXPECT_EQ(announced(),
-            Announcements{"The Dock is pinned to " + model->displays().value().at(1).name});
 }
 
 TEST_F(GuardAnnouncerTest, AMissingPermissionIsAnnouncedWhenTheGuardIsRequested) {
@@ -56,8 +54,7 @@ TEST_F(GuardAnnouncerTest, AMissingPermissionIsAnnouncedWhenTheGuardIsRequested)
   launch();
   EXPECT_EQ(announced(), Announcements()) << "nothing was requested";
   model->toggleSelectedDisplayLock();
-  EXPECT_EQ(announced(),
-            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
+  EXPECT_EQ(announced(), Announcements{permissionIsMissing});
   // The request expires; nothing has stopped.
   machine.advance(2);
   EXPECT_EQ(announced(), Announcements());
@@ -67,8 +64,7 @@ TEST_F(GuardAnnouncerTest, AMissingPermissionIsAnnouncedWhenTheLastLockCannotBeR
   store("isOrvaneEnabled", true);
   machine.permission.setTrusted(false);
   launch();
-  EXPECT_EQ(announced(),
-            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
+  EXPECT_EQ(announced(), Announcements{permissionIsMissing});
 }
 
 TEST_F(GuardAnnouncerTest, ARevokedPermissionAndItsReturnAreAnnounced) {
@@ -76,8 +72,7 @@ TEST_F(GuardAnnouncerTest, ARevokedPermissionAndItsReturnAreAnnounced) {
   announced();
   machine.permission.setTrusted(false);
   model->refreshPermission();
-  EXPECT_EQ(announced(),
-            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
+  EXPECT_EQ(announced(), Announcements{permissionIsMissing});
   machine.permission.setTrusted(true);
   model->refreshPermission();
   EXPECT_EQ(announced(), Announcements{"The Dock is pinned to " + model->selectedDisplay()->name});
@@ -89,8 +84,7 @@ TEST_F(GuardAnnouncerTest, AGuardThatStopsWithoutThePermissionIsAnnouncedOnce) {
   machine.permission.setTrusted(false);
   model->guardService().stop();
   model->refreshPermission();
-  EXPECT_EQ(announced(),
-            Announcements{"The Accessibility permission is missing; the Dock is not guarded"});
+  EXPECT_EQ(announced(), Announcements{permissionIsMissing});
   machine.permission.setTrusted(true);
   model->refreshPermission();
   EXPECT_EQ(announced(), Announcements());

@@ -1,11 +1,9 @@
 // OrvaneModel's state: creation, displays and target, setters, links, destruction.
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "Orvane/model/OrvaneModel.hpp"
-#include "Orvane/model/OrvaneProduct.hpp"
 #include "tests/support/ModelFixture.hpp"
 
 namespace orvane {
@@ -19,13 +17,6 @@ class OrvaneModelTest : public ModelFixture {
   [[nodiscard]] const std::optional<std::string>& selected() const {
     return model->selectedDisplayID().value();
   }
-  [[nodiscard]] std::vector<std::string> openedLinks() const {
-    std::vector<std::string> urls;
-    for (const desk::Links::Opened& opened : machine.links.opened()) {
-      urls.push_back(opened.url);
-    }
-    return urls;
-  }
   /// The number of change notifications during the action.
   template <typename Action>
   int announcementsOf(Action action) {
@@ -35,26 +26,6 @@ class OrvaneModelTest : public ModelFixture {
     return count;
   }
 };
-
-TEST_F(OrvaneModelTest, AtTheFirstLaunchNothingIsChosen) {
-  machine.permission.setTrusted(false);
-  EXPECT_EQ(writesOf([&] { launch(); }), Writes{}) << "creation writes nothing";
-  EXPECT_TRUE(model->displays().value().empty()) << "nor does it list displays";
-  EXPECT_EQ(selected(), std::nullopt);
-  EXPECT_FALSE(model->hasAccessibilityPermission().value());
-  EXPECT_FALSE(model->isTemporarilyUnlocked().value());
-  EXPECT_EQ(model->lastRestoreSucceeded().value(), std::nullopt);
-  EXPECT_EQ(model->lastCheckedAt().value(), now());
-  EXPECT_EQ(model->appLanguage().value(), OrvaneLanguage::system);
-  EXPECT_EQ(model->temporaryUnlockModifier().value(), OrvaneModifier::option);
-  EXPECT_FALSE(model->hidesDockOnAllDisplays().value());
-  EXPECT_FALSE(model->launchAtLoginEnabled().value());
-  EXPECT_FALSE(model->launchAtLoginRequiresApproval().value());
-  EXPECT_EQ(model->launchAtLoginErrorMessage().value(), std::nullopt);
-  EXPECT_FALSE(model->isGuardRunning());
-  EXPECT_EQ(model->selectedDisplay(), std::nullopt);
-  EXPECT_EQ(machine.observers.count(), 1U) << "the model observes the screens";
-}
 
 TEST_F(OrvaneModelTest, StoredChoicesAreReadAtCreation) {
   store("selectedDisplayID", "an id");
@@ -93,49 +64,9 @@ TEST_F(OrvaneModelTest, WithoutAMainDisplayTheFirstIsSelected) {
   EXPECT_EQ(selected(), model->displays().value().at(0).id);
 }
 
-TEST_F(OrvaneModelTest, WithoutDisplaysNothingIsSelectedAndTheKeyRemoved) {
-  desk::detach(machine, 1);
-  desk::detach(machine, 2);
-  launch();
-  EXPECT_EQ(writesOf([&] { model->refreshDisplays(); }), (Writes{{"selectedDisplayID", 1}}));
-  EXPECT_EQ(selected(), std::nullopt);
-  EXPECT_EQ(stored("selectedDisplayID"), std::nullopt);
-}
-
-TEST_F(OrvaneModelTest, AnAliasIsRewrittenToTheDisplaysID) {
-  for (const std::string& alias :
-       {std::string("2"),
-        std::string(
-            "Optional(2)-1920.0-1080.0-Optional(8)-Optional(\"NSCalibratedRGBColorSpace\")")}) {
-    store("selectedDisplayID", alias);
-    launch();
-    EXPECT_EQ(writesOf([&] { model->refreshDisplays(); }), (Writes{{"selectedDisplayID", 1}}));
-    EXPECT_EQ(selected(), desk::uuidNamed('B'));
-    EXPECT_EQ(stored("selectedDisplayID"), Value(desk::uuidNamed('B')));
-  }
-}
-
-TEST_F(OrvaneModelTest, ATargetThatIsNotAttachedIsKept) {
-  store("selectedDisplayID", "unplugged");
-  launch();
-  EXPECT_EQ(writesOf([&] { model->refreshDisplays(); }), Writes{});
-  EXPECT_EQ(selected(), "unplugged");
-  EXPECT_EQ(model->selectedDisplay(), std::nullopt);
-}
-
 TEST_F(OrvaneModelTest, ACanonicalTargetIsNotWrittenAgain) {
   launch().refreshDisplays();
   EXPECT_EQ(writesOf([&] { model->refreshDisplays(); }), Writes{});
-}
-
-TEST_F(OrvaneModelTest, ARefreshReadsPermissionAndTime) {
-  launch();
-  machine.permission.setTrusted(false);
-  machine.advance(5);
-  EXPECT_NE(model->lastCheckedAt().value(), now());
-  model->refreshDisplays();
-  EXPECT_FALSE(model->hasAccessibilityPermission().value());
-  EXPECT_EQ(model->lastCheckedAt().value(), now());
 }
 
 TEST_F(OrvaneModelTest, SelectingTheCurrentDisplayDoesNothing) {
@@ -147,22 +78,6 @@ TEST_F(OrvaneModelTest, SelectingTheCurrentDisplayDoesNothing) {
             }),
             0);
   EXPECT_TRUE(hasTap(1)) << "nothing restarts";
-}
-
-TEST_F(OrvaneModelTest, SelectingAnotherDisplayStoresItAndRestartsPinning) {
-  launchPinned();
-  EXPECT_EQ(writesOf([&] { model->selectDisplay(desk::uuidNamed('B')); }),
-            (Writes{{"selectedDisplayID", 1}}));
-  EXPECT_EQ(stored("selectedDisplayID"), Value(desk::uuidNamed('B')));
-  EXPECT_EQ(model->guardService().snapshot().lockedDisplayIdentifier, desk::uuidNamed('B'));
-  EXPECT_TRUE(model->isGuardRunning());
-  EXPECT_FALSE(hasTap(1));
-}
-
-TEST_F(OrvaneModelTest, SelectingWhileTheGuardIsOffStartsNothing) {
-  launch().selectDisplay("2");
-  EXPECT_EQ(selected(), "2") << "an alias stays until the next refresh";
-  EXPECT_FALSE(model->isGuardRunning());
 }
 
 TEST_F(OrvaneModelTest, InPreventModeASelectionDoesNotTouchTheGuard) {
@@ -260,18 +175,13 @@ TEST_F(OrvaneModelTest, EachPublishedPropertyIsAnnounced) {
   machine.loginItem.error = "no";
   EXPECT_EQ(announcementsOf([&] { model->setLaunchAtLoginEnabled(true); }), 2)
       << "the user's wish and the error";
-}
-
-TEST_F(OrvaneModelTest, ALanguageIsAnnouncedWithTheNamesOfTheDisplays) {
-  launch();
-  model->refreshDisplays();
-  EXPECT_EQ(announcementsOf([&] { model->setAppLanguage(OrvaneLanguage::chinese); }), 2);
-}
-
-TEST_F(OrvaneModelTest, AnUnlockIsAnnounced) {
-  launchPinned();
-  EXPECT_EQ(announcementsOf([&] { moveHolding(kCGEventFlagMaskAlternate); }), 1);
-  EXPECT_EQ(announcementsOf([&] { moveHolding(0); }), 1);
+  EXPECT_EQ(announcementsOf([&] { model->setAppLanguage(OrvaneLanguage::chinese); }), 2)
+      << "the language and the names of the displays";
+  machine.permission.setTrusted(true);
+  model->refreshPermission();
+  model->toggleLock();
+  machine.runDue();
+  EXPECT_EQ(announcementsOf([&] { moveHolding(kCGEventFlagMaskShift); }), 1) << "the unlock";
 }
 
 TEST_F(OrvaneModelTest, AShutOffOfTheGuardIsAnnounced) {
@@ -289,56 +199,20 @@ TEST_F(OrvaneModelTest, AShutOffOfTheGuardIsAnnounced) {
   EXPECT_EQ(guardChanges, 1);
 }
 
-TEST_F(OrvaneModelTest, AGuardThatPausesForItsTargetIsAnnouncedWithTheDisplays) {
-  launchPinned();
-  bool sawItPaused = false;
-  const Subscription subscription =
-      model->changes().observe([&] { sawItPaused = !model->isGuardRunning(); });
-  desk::detach(machine, 1);
-  machine.runDue();
-  EXPECT_TRUE(sawItPaused);
-}
-
-TEST_F(OrvaneModelTest, TheGuardsMessagesUpdateTheTimeOfTheLastCheck) {
-  launchPinned();
-  machine.advance(5);
-  machine.mouse.post({2500, 1075}, 0);
-  EXPECT_NE(model->lastCheckedAt().value(), now());
-  machine.runDue();
-  EXPECT_EQ(model->lastCheckedAt().value(), now());
-}
-
-TEST_F(OrvaneModelTest, OpeningTheAccessibilitySettingsChecksAgainAfterASecond) {
-  machine.permission.setTrusted(false);
-  launch().openAccessibilitySettings();
-  EXPECT_EQ(openedLinks(),
-            std::vector<std::string>{"x-apple.systempreferences:com.apple.settings.PrivacySecurity"
-                                     ".extension?Privacy_Accessibility"});
-  machine.permission.setTrusted(true);
-  machine.advance(0.999);
-  EXPECT_FALSE(model->hasAccessibilityPermission().value());
-  machine.advance(0.001);
-  EXPECT_TRUE(model->hasAccessibilityPermission().value());
-  machine.permission.setTrusted(false);
-  machine.advance(60);
-  EXPECT_TRUE(model->hasAccessibilityPermission().value()) << "once only";
-}
-
-TEST_F(OrvaneModelTest, OpeningTheAccessibilitySettingsChecksAtOnce) {
+TEST_F(OrvaneModelTest, OpeningTheAccessibilitySettingsChecksAtOnceAndAgainAfterASecond) {
   machine.permission.setTrusted(false);
   launch();
   machine.permission.setTrusted(true);
   model->openAccessibilitySettings();
   EXPECT_TRUE(model->hasAccessibilityPermission().value());
-}
-
-TEST_F(OrvaneModelTest, TheSupportMailHasASubjectAndThePrivacyPolicyIsAWebPage) {
-  launch().openSupportEmail();
-  model->openPrivacyPolicy();
-  EXPECT_EQ(openedLinks(),
-            (std::vector<std::string>{"mailto:" + std::string(OrvaneProduct::supportAddress) +
-                                          "?subject=Orvane%20Support",
-                                      std::string(OrvaneProduct::privacyPolicyURL)}));
+  machine.permission.setTrusted(false);
+  machine.advance(0.999);
+  EXPECT_TRUE(model->hasAccessibilityPermission().value());
+  machine.advance(0.001);
+  EXPECT_FALSE(model->hasAccessibilityPermission().value());
+  machine.permission.setTrusted(true);
+  machine.advance(60);
+  EXPECT_FALSE(model->hasAccessibilityPermission().value()) << "once only";
 }
 
 TEST_F(OrvaneModelTest, ADestroyedModelStopsObservingAndGuarding) {

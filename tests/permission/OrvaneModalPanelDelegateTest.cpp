@@ -32,7 +32,7 @@ TEST_F(OrvaneModalPanelDelegateTest, TheFirstResponseStopsTheSession) {
   EXPECT_EQ(responses, std::vector<int>{1000}) << "the outer session continues";
 }
 
-TEST_F(OrvaneModalPanelDelegateTest, ClosingThePanelIsDeclining) {
+TEST_F(OrvaneModalPanelDelegateTest, ClosingThePanelDeclines) {
   runTwoSessions();
   delegate.windowWillClose();
   delegate.stopModalOnce(1000);

@@ -1,7 +1,10 @@
 // The guide: its panel, its position, its polling and its end.
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
+#include "Orvane/platform/appkit/Application.hpp"
 #include "tests/permission/PermissionFlow.hpp"
 
 namespace orvane {
@@ -82,23 +85,13 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, OnAScreenThatIsTooSmallTheUppe
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutAScreenItIsShownAnyway) {
-  EXPECT_FALSE(machine.displays.detach(1));
-  EXPECT_FALSE(machine.displays.detach(2));
-  show();
+  desk::detach(machine, 1);
+  desk::detach(machine, 2);
+  const std::string calls = callsOf([this] { show(); });
+  EXPECT_NE(calls.find("Window.center \"OrvaneGuidePanel\""), std::string::npos);
   expectGuideOrigin(0, 0);
   EXPECT_TRUE(isGuideVisible());
   EXPECT_TRUE(isPolling());
-}
-
-TEST_F(OrvanePermissionGuideWindowControllerTest, ItPollsOnceASecond) {
-  show();
-  grant();
-  machine.advance(0.999);
-  EXPECT_EQ(state(), State::checking);
-  machine.advance(0.001);
-  EXPECT_EQ(state(), State::success);
-  EXPECT_EQ(granted, "a");
-  EXPECT_FALSE(isPolling());
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest,
@@ -110,23 +103,22 @@ TEST_F(OrvanePermissionGuideWindowControllerTest,
   EXPECT_EQ(state(), State::timeout);
   machine.advance(100);
   EXPECT_EQ(state(), State::timeout);
-  EXPECT_TRUE(isPolling());
-}
-
-TEST_F(OrvanePermissionGuideWindowControllerTest, AGrantAfterTheTimeoutCallsBackOnce) {
-  show();
-  machine.advance(30);
   grant();
   machine.advance(1);
   EXPECT_EQ(state(), State::success);
   machine.advance(30);
-  EXPECT_EQ(granted, "a");
+  EXPECT_EQ(granted, "a") << "once";
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, TheSuccessIsVisibleForASecondAndAHalf) {
+TEST_F(OrvanePermissionGuideWindowControllerTest,
+       ItPollsOnceASecondAndShowsItsSuccessForASecondAndAHalf) {
   show();
   grant();
-  machine.advance(1);
+  machine.advance(0.999);
+  EXPECT_EQ(state(), State::checking);
+  machine.advance(0.001);
+  EXPECT_EQ(state(), State::success);
+  EXPECT_FALSE(isPolling());
   machine.advance(1.499);
   EXPECT_TRUE(isGuideVisible());
   machine.advance(0.001);
@@ -155,18 +147,6 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, AnOldSuccessDoesNotCloseTheGui
   EXPECT_FALSE(isGuideVisible());
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, TheCallbackSeesTheSuccessAndTheEndOfPolling) {
-  guide().show([this] {
-    granted += 'a';
-    EXPECT_EQ(state(), State::success);
-    EXPECT_FALSE(isPolling());
-    EXPECT_TRUE(isGuideVisible());
-  });
-  grant();
-  machine.advance(1);
-  EXPECT_EQ(granted, "a");
-}
-
 TEST_F(OrvanePermissionGuideWindowControllerTest, ACallbackMayShowTheGuideAgain) {
   guide().show([this] {
     granted += 'a';
@@ -185,8 +165,9 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ACallbackMayShowTheGuideAgain)
   EXPECT_EQ(granted, "ab");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsPollingAndDropsTheCallback) {
-  show();
+TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsPollingAndReleasesTheCallback) {
+  const auto calls = std::make_shared<int>(0);
+  guide().show([calls] { ++*calls; });
   machine.advance(3);
   const std::size_t timers = machine.runLoop.timerCount();
   guide().close();
@@ -195,32 +176,8 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingStopsPollingAndDropsThe
   EXPECT_FALSE(isGuideVisible());
   grant();
   machine.advance(30);
-  EXPECT_EQ(granted, "");
-}
-
-TEST_F(OrvanePermissionGuideWindowControllerTest, ClosingReleasesWhatTheCallbackHolds) {
-  const auto held = std::make_shared<int>(0);
-  guide().show([held] { ++*held; });
-  EXPECT_EQ(held.use_count(), 2);
-  guide().close();
-  EXPECT_EQ(held.use_count(), 1);
-}
-
-TEST_F(OrvanePermissionGuideWindowControllerTest, ShownAgainItRestartsTheTenSeconds) {
-  show();
-  machine.advance(20);
-  EXPECT_EQ(state(), State::timeout);
-  guide().close();
-  machine.advance(5);
-  show('b');
-  EXPECT_EQ(state(), State::checking);
-  machine.advance(10);
-  EXPECT_EQ(state(), State::checking);
-  machine.advance(1);
-  EXPECT_EQ(state(), State::timeout);
-  grant();
-  machine.advance(1);
-  EXPECT_EQ(granted, "b");
+  EXPECT_EQ(*calls, 0);
+  EXPECT_EQ(calls.use_count(), 1);
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, ShownWhileVisibleItReplacesTimerAndCallback) {
@@ -237,33 +194,18 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ShownWhileVisibleItReplacesTim
   EXPECT_EQ(granted, "b");
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, WithoutACallbackItClosesToo) {
-  guide().show(nullptr);
-  grant();
-  machine.advance(2.5);
-  EXPECT_FALSE(isGuideVisible());
-}
-
-TEST_F(OrvanePermissionGuideWindowControllerTest, TheCallbackMayCloseTheGuide) {
+TEST_F(OrvanePermissionGuideWindowControllerTest, TheCallbackSeesTheSuccessAndMayCloseTheGuide) {
   guide().show([this] {
     granted += 'a';
+    EXPECT_EQ(state(), State::success);
+    EXPECT_FALSE(isPolling());
+    EXPECT_TRUE(isGuideVisible());
     guide().close();
   });
   grant();
   machine.advance(5);
   EXPECT_EQ(granted, "a");
   EXPECT_FALSE(isGuideVisible());
-}
-
-TEST_F(OrvanePermissionGuideWindowControllerTest, WhileAMenuIsOpenItDoesNotPoll) {
-  show();
-  grant();
-  machine.runLoop.enterMode(desk::RunLoop::Mode::eventTracking);
-  machine.advance(5);
-  EXPECT_EQ(granted, "");
-  machine.runLoop.leaveMode();
-  machine.runDue();
-  EXPECT_EQ(granted, "a");
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, ItsBackgroundMovesItAndBothButtonsCloseIt) {
@@ -281,13 +223,54 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItsBackgroundMovesItAndBothBut
   }
 }
 
-TEST_F(OrvanePermissionGuideWindowControllerTest, ItsTimerEndsWithTheProcess) {
+/// The pointer is on no screen.
+class PermissionGuidePlaceTest : public OrvanePermissionGuideWindowControllerTest {
+ protected:
+  PermissionGuidePlaceTest() {
+    // In window-system coordinates the uppermost position is on the screen's far edge and so
+    // outside of it.
+    moveTo({20, 0});
+    EXPECT_EQ(appkit::Application::mouseLocation().y, 1080);
+  }
+
+  /// A window of the application with its lower left corner there, which becomes key.
+  void haveKeyWindow(CGPoint corner) {
+    window_.emplace(appkit::WindowKind::window, CGRectMake(corner.x, corner.y, 300, 200),
+                    appkit::StyleMask::titled);
+    window_->setReleasedWhenClosed(false);
+    appkit::Application::activateIgnoringOtherApps();
+    window_->makeKeyAndOrderFront();
+    machine.runDue();
+    ASSERT_TRUE(appkit::Application::keyWindow());
+  }
+  void expectGuideOn(std::uint32_t number) {
+    EXPECT_TRUE(
+        CGRectContainsPoint(machine.displays.find(number)->frame, guide().snapshot().frame.origin));
+  }
+
+ private:
+  std::optional<appkit::Window> window_;
+};
+
+TEST_F(PermissionGuidePlaceTest, TheScreenUnderThePointerPrecedesThatOfTheKeyWindow) {
+  haveKeyWindow({2500, 400});
   show();
-  machine.process.end();
-  EXPECT_EQ(machine.runLoop.timerCount(), 0U);
-  grant();
-  machine.advance(30);
-  EXPECT_EQ(granted, "");
+  expectGuideOn(2);
+  moveTo({20, 200});
+  show();
+  expectGuideOn(1);
+}
+
+TEST_F(PermissionGuidePlaceTest, WithoutAKeyWindowOnAScreenItIsOnTheMainScreen) {
+  EXPECT_EQ(machine.displays.setMain(2), std::nullopt);
+  ASSERT_FALSE(appkit::Application::keyWindow());
+  show();
+  expectGuideOn(2);
+  guide().close();
+  EXPECT_EQ(machine.displays.setMain(1), std::nullopt);
+  haveKeyWindow({-5000, -5000});
+  show();
+  expectGuideOn(1);
 }
 
 }  // namespace

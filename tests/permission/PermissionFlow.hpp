@@ -51,10 +51,8 @@ class PermissionFlow : public desk::HandFixture {
     machine.advance(2);
   }
 
-  /// The semantics tree as text, one element per line.
-  std::string description(const std::string& surface) {
-    return isOpen(surface) ? ui::semanticsText(tree(surface)) : "";
-  }
+  /// The guide's semantics tree, one element per line.
+  static std::string description() { return ui::semanticsText(tree("guide")); }
   void press(const std::string& label, const std::string& surface) {
     EXPECT_EQ(hand.press({label, surface}), std::nullopt);
   }

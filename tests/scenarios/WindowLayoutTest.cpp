@@ -11,10 +11,7 @@
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/windows/OrvaneWindowController.hpp"
-#include "desk/application/ApplicationHost.hpp"
-#include "desk/machine/MachineScope.hpp"
-#include "desk/windows/Surfaces.hpp"
-#include "desk/windows/WindowServer.hpp"
+#include "tests/support/ApplicationFixture.hpp"
 #include "tests/support/BytesOf.hpp"
 #include "tests/support/TestDisplays.hpp"
 #include "tests/support/TextBoxes.hpp"
@@ -22,27 +19,25 @@
 namespace orvane::desk {
 namespace {
 
-class WindowLayoutTest : public testing::Test {
+class WindowLayoutTest : public ApplicationFixture {
  protected:
   /// The screen of the Mac half's test.
   WindowLayoutTest() {
-    attach(scope_.machine(), displayOf(1, "X screen", {{0, 0}, {1440, 900}}));
+    attach(machine, displayOf(1, "X screen", {{0, 0}, {1440, 900}}));
     application.launch();
   }
-  ~WindowLayoutTest() override { application.crash(); }
 
   [[nodiscard]] std::string textsOf(const std::string& surface, const std::string& language) {
-    scope_.machine().advance(2);
-    WindowServer& server = WindowServer::current();
-    const auto window = Surfaces(server).window(surface);
-    if (window == nullptr) {
+    machine.advance(2);
+    const auto shown = window(surface);
+    if (shown == nullptr) {
       ADD_FAILURE() << surface << " is not open";
       return "";
     }
-    window->content->update();
-    const CGPoint place = window->content->frame().origin;
-    return textBoxes(language + "-" + surface, window->content->host(), {place.x, place.y},
-                     server.text());
+    shown->content->update();
+    const CGPoint place = shown->content->frame().origin;
+    return textBoxes(language + "-" + surface, shown->content->host(), {place.x, place.y},
+                     server().text());
   }
 
   [[nodiscard]] std::string textsOfWindows(OrvaneLanguage spoken, const std::string& language) {
@@ -62,12 +57,6 @@ class WindowLayoutTest : public testing::Test {
     OrvanePermissionGuideWindowController::shared().close();
     return texts;
   }
-
- private:
-  MachineScope scope_;
-
- protected:
-  ApplicationHost application{scope_.machine()};
 };
 
 TEST_F(WindowLayoutTest, TextsKeepTheirPositions) {

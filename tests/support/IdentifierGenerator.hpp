@@ -1,7 +1,9 @@
-// Random language and locale identifiers, most of them nearly valid.
+// Random language and locale identifiers, most of them nearly valid, and whether they name a
+// language.
 #pragma once
 
 #include <numeric>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -24,6 +26,16 @@ inline rc::Gen<std::string> genIdentifier() {
         return std::accumulate(rest.begin(), rest.end(), before + name) + after;
       },
       blank, language, tail, blank);
+}
+
+/// Whether the identifier names the language, by a regular expression.
+inline bool namesChinese(const std::string& identifier) {
+  static const std::regex pattern(R"(\s*zh(?:\s*|[-_][\s\S]*))", std::regex::icase);
+  return std::regex_match(identifier, pattern);
+}
+inline bool namesEnglish(const std::string& identifier) {
+  static const std::regex pattern(R"(\s*en(?:\s*|[-_][\s\S]*))", std::regex::icase);
+  return std::regex_match(identifier, pattern);
 }
 
 inline rc::Gen<std::vector<std::string>> genIdentifiers() {

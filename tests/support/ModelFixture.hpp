@@ -1,6 +1,7 @@
 // ModelFixture gives each test a trusted machine with two displays and the application's model.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -28,7 +29,8 @@ class ModelFixture : public desk::MachineFixture {
     desk::attach(machine, desk::laptop());
     desk::attach(machine, desk::monitorAtTheRight());
     machine.permission.setTrusted(true);
-    notePrompts();
+    OrvaneAccessibilityPermission::setPrompt(
+        [this](std::function<void()> onGranted) { prompts.push_back(std::move(onGranted)); });
   }
 
   /// Creates the model as the application does at launch.
@@ -37,17 +39,6 @@ class ModelFixture : public desk::MachineFixture {
     model->restoreLockIfNeeded();
     machine.runDue();
     return *model;
-  }
-  /// Ends the process, and begins the next one.
-  OrvaneModel& relaunch() {
-    quit();
-    machine.process.start();
-    notePrompts();
-    return launch();
-  }
-  void quit() {
-    model.reset();
-    machine.process.end();
   }
   /// Launches and pins the Dock to the laptop.
   OrvaneModel& launchPinned() {
@@ -64,22 +55,22 @@ class ModelFixture : public desk::MachineFixture {
   [[nodiscard]] std::optional<Value> stored(std::string_view key) const {
     return machine.userDefaults.value(key);
   }
-  void store(std::string_view key, Value value) { machine.userDefaults.set(key, std::move(value)); }
 
   /// The keys that the action wrote or removed, with counts.
   template <typename Action>
   Writes writesOf(Action action) {
-    const Writes before = writeCounts();
-    action();
-    Writes during;
-    for (const auto& [key, count] : writeCounts()) {
-      const auto earlier = before.find(key);
-      const std::int64_t added = count - (earlier == before.end() ? 0 : earlier->second);
-      if (added > 0) {
-        during.emplace(key, added);
-      }
+    constexpr std::array keys{"selectedDisplayID", "isOrvaneEnabled", "hidesDockOnAllDisplays",
+                              "temporaryUnlockModifier", "appLanguage"};
+    Writes writes;
+    for (const char* const key : keys) {
+      writes[key] = -machine.userDefaults.writeCount(key);
     }
-    return during;
+    action();
+    for (const char* const key : keys) {
+      writes[key] += machine.userDefaults.writeCount(key);
+    }
+    std::erase_if(writes, [](const auto& write) { return write.second == 0; });
+    return writes;
   }
 
   /// Holds the modifier and moves the pointer, so that the guard notices.
@@ -95,25 +86,6 @@ class ModelFixture : public desk::MachineFixture {
 
   std::vector<std::function<void()>> prompts;
   std::unique_ptr<OrvaneModel> model;
-
- private:
-  void notePrompts() {
-    OrvaneAccessibilityPermission::setPrompt(
-        [this](std::function<void()> onGranted) { prompts.push_back(std::move(onGranted)); });
-  }
-  [[nodiscard]] Writes writeCounts() const {
-    Writes counts;
-    for (const char* const key : {"selectedDisplayID", "isOrvaneEnabled", "hidesDockOnAllDisplays",
-                                  "temporaryUnlockModifier", "appLanguage"}) {
-      counts.emplace(key, machine.userDefaults.writeCount(key));
-    }
-    std::int64_t known = 0;
-    for (const auto& [key, count] : counts) {
-      known += count;
-    }
-    counts.emplace("any other key", machine.userDefaults.writeCount() - known);
-    return counts;
-  }
 };
 
 }  // namespace orvane

@@ -56,13 +56,6 @@ inline void detach(Machine& machine, std::uint32_t number) {
   EXPECT_EQ(machine.displays.detach(number), std::nullopt);
 }
 
-/// The Dock's preference domain.
-inline Preferences::Domain dockDomain() {
-  return {.application = Dock::preferencesDomain,
-          .user = Preferences::User::current,
-          .host = Preferences::Host::any};
-}
-
 inline void setDockOrientation(Machine& machine, PropertyValue value) {
   Dock::store(machine.preferences, Dock::orientationKey, std::move(value));
 }

@@ -12,10 +12,10 @@ namespace orvane::appkit {
 /// How the corners of a view's layer are drawn.
 enum class CornerCurve { circular, continuous };
 
-/// What is drawn behind a view's content.
+/// The background of a view.
 enum class Backdrop {
   none,
-  /// A blurred image of whatever is behind the window.
+  /// A blurred image of the desktop and windows behind the window.
   behindWindow,
 };
 

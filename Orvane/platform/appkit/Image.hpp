@@ -20,7 +20,7 @@ class Image {
                                                          std::string_view accessibilityDescription,
                                                          double pointSize, SymbolWeight weight);
 
-  /// A template image is tinted by whatever shows it.
+  /// A template image is tinted by the control that shows it.
   void setTemplate(bool isTemplate);
   void setSize(CGSize size);
 

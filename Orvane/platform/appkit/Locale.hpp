@@ -1,4 +1,4 @@
-// The user's languages and region, read afresh at each call; NSLocale on a Mac.
+// The user's languages and region, read at each call; NSLocale on a Mac.
 #pragma once
 
 #include <string>

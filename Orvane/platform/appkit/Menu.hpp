@@ -14,7 +14,7 @@ namespace orvane::appkit {
 
 /// The description of one menu item.
 struct MenuItem {
-  /// What VoiceOver reads and type selection finds; not drawn when there is a view.
+  /// For VoiceOver and type selection; not drawn when there is a view.
   std::string title;
   bool isSeparator = false;
   bool isEnabled = true;

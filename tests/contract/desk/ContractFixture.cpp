@@ -1,9 +1,11 @@
 // The contract fixture on the simulated Mac, which provides every precondition.
 #include "tests/contract/ContractFixture.hpp"
 
+#include "desk/hand/Hand.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/Implementations.hpp"
 #include "desk/windows/WindowServer.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane {
 
@@ -34,26 +36,20 @@ bool ContractFixture::letTimePassWithMenuOpen(double seconds) {
 }
 
 bool ContractFixture::arrangeTwoDisplays() {
-  desk::Display left;
-  left.number = 1;
+  desk::Display left = desk::displayOf(1, "Left", CGRectMake(0, 0, 1000, 800));
   left.uuid = leftUUID;
-  left.name = "Left";
-  left.frame = CGRectMake(0, 0, 1000, 800);
   left.isBuiltIn = true;
-  desk::Display right;
-  right.number = 2;
-  right.name = "Right";
-  right.frame = CGRectMake(1000, 0, 1000, 800);
-  desk::Displays& displays = platform_->scope->displays;
-  return !displays.attach(left, true) && !displays.attach(right);
+  desk::attach(platform_->scope.machine(), left, true);
+  desk::attach(platform_->scope.machine(),
+               desk::displayOf(2, "Right", CGRectMake(1000, 0, 1000, 800)));
+  return true;
 }
 
 bool ContractFixture::changeDisplays() {
-  desk::Display display;
-  display.number = 99;
-  display.frame = CGRectMake(-500, 0, 500, 500);
   desk::Displays& displays = platform_->scope->displays;
-  return displays.find(99) == nullptr ? !displays.attach(display) : !displays.detach(99);
+  return displays.find(99) == nullptr
+             ? !displays.attach(desk::displayOf(99, "", CGRectMake(-500, 0, 500, 500)))
+             : !displays.detach(99);
 }
 
 bool ContractFixture::setTrusted(bool isTrusted) {
@@ -143,19 +139,15 @@ ContractFixture::WindowAttributes ContractFixture::attributesOf(const appkit::Wi
 }
 
 bool ContractFixture::dragPointer(CGPoint from, CGPoint to) {
-  desk::Machine& machine = platform_->scope.machine();
-  machine.mouse.moveTo(from);
-  machine.runDue();
-  machine.mouse.pressButton();
-  machine.runDue();
-  machine.mouse.moveTo(to);
-  machine.runDue();
+  const desk::Hand hand(platform_->scope.machine());
+  hand.moveTo(from);
+  hand.pressButton();
+  hand.moveTo(to);
   return true;
 }
 
 void ContractFixture::releasePointer() {
-  platform_->scope->mouse.releaseButton();
-  platform_->scope->runDue();
+  desk::Hand(platform_->scope.machine()).releaseButton();
 }
 
 std::optional<ContractFixture::DraggedFile> ContractFixture::draggedFile() const {

@@ -6,11 +6,6 @@
 namespace orvane {
 namespace {
 
-TEST(ApplicationRun, ThereIsAnApplication) {
-  const ApplicationRun run;
-  EXPECT_NE(NSApp, nil);
-}
-
 TEST(ApplicationRun, AutoreleasedObjectsAreReleasedAfterEachServeAndTest) {
   __weak NSObject* first = nil;
   __weak NSObject* second = nil;

@@ -1,5 +1,5 @@
 // A slow, obviously correct computation of where a display's Dock edge is exposed.
-#include "tests/support/EdgeOracle.hpp"
+#include "tests/geometry/EdgeOracle.hpp"
 
 #include <algorithm>
 
@@ -54,13 +54,13 @@ bool hasNeighbourBehind(const CGRect& frame, DockPosition edge, double along,
   });
 }
 
-std::vector<Stretch> exposedStretches(const CGRect& frame, DockPosition edge,
-                                      std::span<const CGRect> allFrames, double cell) {
+std::vector<EdgeInterval> exposedStretches(const CGRect& frame, DockPosition edge,
+                                           std::span<const CGRect> allFrames, double cell) {
   const CGRect own = turned(frame, edge);
-  std::vector<Stretch> stretches = stretchesWhere(own.origin.x, farX(own), cell, [&](double along) {
-    return !hasNeighbourBehind(frame, edge, along, allFrames);
-  });
-  std::erase_if(stretches, [](const Stretch& stretch) {
+  std::vector<EdgeInterval> stretches = stretchesWhere(
+      own.origin.x, farX(own), cell,
+      [&](double along) { return !hasNeighbourBehind(frame, edge, along, allFrames); });
+  std::erase_if(stretches, [](const EdgeInterval& stretch) {
     return stretch.end - stretch.start <= shortestThatCounts;
   });
   return stretches;

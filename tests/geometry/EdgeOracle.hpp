@@ -6,22 +6,16 @@
 #include <vector>
 
 #include "Orvane/geometry/DockPosition.hpp"
+#include "Orvane/geometry/EdgeInterval.hpp"
 #include "Orvane/platform/Quartz.hpp"
 
 namespace orvane::oracle {
 
-/// A stretch of a line, in points.
-struct Stretch {
-  double start;
-  double end;
-  bool operator==(const Stretch&) const = default;
-};
-
 /// The longest stretches of [from, to] in which `holds` is true for the middle of every cell.
 /// `holds` may change only at multiples of `cell`.
 template <typename Predicate>
-std::vector<Stretch> stretchesWhere(double from, double to, double cell, Predicate holds) {
-  std::vector<Stretch> found;
+std::vector<EdgeInterval> stretchesWhere(double from, double to, double cell, Predicate holds) {
+  std::vector<EdgeInterval> found;
   bool inside = false;
   for (long index = 0; from + static_cast<double>(index) * cell < to; ++index) {
     const double start = from + static_cast<double>(index) * cell;
@@ -44,7 +38,8 @@ std::vector<Stretch> stretchesWhere(double from, double to, double cell, Predica
 
 /// The stretches of the Dock edge, longer than half a point, without a neighbour behind them. All
 /// frames must lie on multiples of `cell`, in global coordinates.
-[[nodiscard]] std::vector<Stretch> exposedStretches(const CGRect& frame, DockPosition edge,
-                                                    std::span<const CGRect> allFrames, double cell);
+[[nodiscard]] std::vector<EdgeInterval> exposedStretches(const CGRect& frame, DockPosition edge,
+                                                         std::span<const CGRect> allFrames,
+                                                         double cell);
 
 }  // namespace orvane::oracle
