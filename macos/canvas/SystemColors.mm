@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "Orvane/ui/draw/StandardColors.hpp"
+#include "Orvane/ui/draw/Color.hpp"
 
 namespace orvane::appkit {
 namespace {

@@ -135,9 +135,9 @@ using SurfaceLabelsCheckTest = SurfaceLabelsTest;
 TEST_F(SurfaceLabelsCheckTest, FindsAControlWithoutALabel) {
   machine.process.start();
   const appkit::HostingView view([](const ui::Environment&) -> ui::View {
-    return ui::VStack({ui::Button([] {}, ui::Text("Labelled")),
-                       ui::Button([] {}, ui::Symbol("gearshape")),
-                       ui::Button([] {}, ui::Symbol("gearshape")).accessibilityLabel("  ")});
+    return ui::VStack(
+        8, {ui::Button([] {}, ui::Text("Labelled")), ui::Button([] {}, ui::Symbol("gearshape")),
+            ui::Button([] {}, ui::Symbol("gearshape")).accessibilityLabel("  ")});
   });
   appkit::Window window(appkit::WindowKind::window, CGRectMake(10, 10, 200, 100), 0);
   window.setClassName("OrvaneWindow");

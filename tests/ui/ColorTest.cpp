@@ -6,7 +6,6 @@
 
 #include "Orvane/ui/draw/Color.hpp"
 #include "Orvane/ui/draw/Fill.hpp"
-#include "Orvane/ui/draw/StandardColors.hpp"
 
 namespace orvane::ui {
 namespace {
@@ -64,7 +63,7 @@ TEST(ColorTest, FixedColoursDoNotAskThePlatform) {
 }
 
 TEST(ColorTest, AGradientSpacesItsColoursEvenlyFromTopToBottom) {
-  const Gradient gradient = Gradient::linear({Color::white(), Color::black(), Color::white()});
+  const Fill gradient = Fill::gradient({Color::white(), Color::black(), Color::white()});
   ASSERT_EQ(gradient.stops.size(), 3U);
   EXPECT_EQ(gradient.stops[1].location, 0.5);
   EXPECT_EQ(gradient.stops[2].location, 1);

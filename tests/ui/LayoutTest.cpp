@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/views/Group.hpp"
 #include "Orvane/ui/views/Image.hpp"
 #include "Orvane/ui/views/ScrollView.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
@@ -46,7 +45,7 @@ TEST(LayoutTest, ARowOfItsIdealWidthTruncatesNoText) {
     test.show(row.padding(3.3));
     test.host->setSize(test.host->intrinsicSize());
     test.host->layoutIfNeeded();
-    EXPECT_EQ(test.drawing().find("…"), std::string::npos) << size;
+    EXPECT_FALSE(test.draws("…")) << size;
   }
 }
 
@@ -138,15 +137,6 @@ TEST(LayoutTest, EmptyViewsTakeNeitherRoomNorSpacing) {
   EXPECT_EQ(framesIn(row, 18, 10), "a(0 0 5 10) b(13 0 5 10)");
 }
 
-TEST(LayoutTest, AGroupTakesPartInItsStackMemberByMember) {
-  const std::vector<std::string> names{"x", "y"};
-  const View items = forEach(
-      names, [](const std::string& name) { return name; },
-      [](const std::string& name) { return Text(name); });
-  EXPECT_EQ(framesIn(HStack(5, {Text("a"), items, Text("b")}), 35, 10),
-            "a(0 0 5 10) x(10 0 5 10) y(20 0 5 10) b(30 0 5 10)");
-}
-
 TEST(LayoutTest, PaddingSurroundsAndModifiersApplyInTheirOrder) {
   EXPECT_EQ(ideal(Text("a").padding()), (Size{37, 42}));
   EXPECT_EQ(ideal(Text("a").padding(Edges::symmetric(13, 8))), (Size{31, 26}));
@@ -162,22 +152,18 @@ TEST(LayoutTest, AFixedFrameAlignsItsContent) {
   EXPECT_EQ(framesIn(Text("a").frame(25, 30), 25, 30), "a(10 10 5 10)");
 }
 
-TEST(LayoutTest, AFlexibleFrameGrowsToItsProposalWithinItsBounds) {
-  FrameBounds bounds;
-  bounds.minimumWidth = 20;
-  bounds.maximumWidth = 60;
-  bounds.alignment = Alignment::leading();
-  const View view = HStack(0, {Text("a").frame(bounds), Text("b"), Spacer()});
+TEST(LayoutTest, AFlexibleFrameGrowsToItsProposalUpToItsMaximum) {
+  const View view =
+      HStack(0, {Text("a").maximumWidth(60, Alignment::leading()), Text("b"), Spacer()});
   EXPECT_EQ(framesIn(view, 100, 10), "a(0 0 5 10) b(60 0 5 10)");
   EXPECT_EQ(framesIn(view, 50, 10), "a(0 0 5 10) b(45 0 5 10)");
-  EXPECT_EQ(framesIn(view, 25, 10), "a(0 0 5 10) b(20 0 5 10)");
   EXPECT_EQ(ideal(Text("a").maximumWidth()), (Size{5, 10}));
 }
 
 TEST(LayoutTest, TextIsTruncatedToItsHeightUnlessItIsFixed) {
   TestHost cut({20, 15});
   cut.show(Text("aaaa bbbb cccc").font(Font::system(10)));
-  EXPECT_NE(cut.drawing().find("text \"aaa…\""), std::string::npos);
+  EXPECT_TRUE(cut.draws("text \"aaa…\""));
   EXPECT_EQ(cut.frames(), "aaaa bbbb cccc(0 2.5 20 10)");
   EXPECT_EQ(framesIn(Text("aaaa bbbb cccc").fixedSizeVertical(), 20, 15),
             "aaaa bbbb cccc(0 -7.5 20 30)");
@@ -198,13 +184,6 @@ TEST(LayoutTest, LayersAreProposedTheSizeOfTheirViewAndDoNotChangeIt) {
 TEST(LayoutTest, DepthStacksAreAsLargeAsTheirLargest) {
   EXPECT_EQ(framesIn(ZStack(Alignment::bottomTrailing(), {Text("aaa"), Text("b\nb")}), 15, 20),
             "aaa(0 10 15 10) b\nb(10 0 5 20)");
-}
-
-TEST(LayoutTest, ADividerRunsAcrossItsStack) {
-  const View column = VStack(4, {Text("a"), Divider(), Text("b")});
-  EXPECT_EQ(framesIn(column, 50, 29), "a(22.5 0 5 10) b(22.5 19 5 10)");
-  EXPECT_EQ(framesIn(HStack(4, {Text("a"), Divider(), Text("b")}), 19, 30),
-            "a(0 10 5 10) b(14 10 5 10)");
 }
 
 TEST(LayoutTest, AScrollViewTakesItsWidthAndTheHeightOfItsContent) {

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/views/Button.hpp"
-#include "Orvane/ui/views/Group.hpp"
 #include "Orvane/ui/views/ScrollView.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
@@ -14,7 +13,7 @@ namespace {
 
 // Shows its label with a mark while it is pressed; 40 by 20 points.
 struct MarkingStyle {
-  View body(const ButtonConfiguration& configuration, const Environment&) const {
+  View operator()(const ButtonConfiguration& configuration, const Environment&) const {
     return ZStack({configuration.label, when(configuration.isPressed, [] { return Text("!"); })})
         .frame(40, 20);
   }
@@ -29,7 +28,7 @@ class PointerInputTest : public testing::Test {
   View bareButton(const std::string& title) {
     return Button(title, [this, title] { log += title; }).style(BareButtonStyle{});
   }
-  bool showsPress() { return test.drawing().find("\"!\"") != std::string::npos; }
+  bool showsPress() { return test.draws("\"!\""); }
 
   TestHost test{{40, 20}};
   std::string log;
@@ -94,7 +93,7 @@ TEST_F(PointerInputTest, APressEndsWhenItsControlIsDisabled) {
 }
 
 TEST_F(PointerInputTest, DisabledSubtreesTakeThePressAndDoNothing) {
-  test.show(ZStack({button("below"), VStack({button("a")}).disabled(true)}));
+  test.show(ZStack({button("below"), VStack(8, {button("a")}).disabled(true)}));
   EXPECT_TRUE(test.host->pointerDown({20, 10}));
   test.host->pointerUp({20, 10});
   EXPECT_EQ(log, "");

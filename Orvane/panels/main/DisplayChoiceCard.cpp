@@ -75,7 +75,7 @@ View DisplayChoiceCard::checkBadge() const {
       .frame(20, 20)
       .background(Circle().fill(Color::accent()))
       .padding(8)
-      .transition(Transition::scale(0.82).combined(Transition::opacity()));
+      .transition({.absentOpacity = 0, .absentScale = 0.82});
 }
 
 View DisplayChoiceCard::body(const Environment& environment) const {

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <utility>
 
-#include "Orvane/ui/host/HitTest.hpp"
 #include "Orvane/ui/views/ScrollView.hpp"
 
 namespace orvane::ui {
@@ -33,7 +32,7 @@ bool PointerInput::updateHover() {
   }
   std::vector<std::uint64_t> inside;
   if (point_) {
-    for (const Node* node : hitTest(tree_, *point_)) {
+    for (const Node* node : tree_.hitTest(*point_)) {
       if (node->interaction().hover) {
         inside.push_back(node->id);
       }
@@ -71,7 +70,7 @@ void PointerInput::setPressed(Node& node, bool isPressed) const {
 bool PointerInput::press(Point point) {
   point_ = point;
   cancelPress();
-  Node* node = pressTarget(tree_, point);
+  Node* node = tree_.pressTarget(point);
   if (node == nullptr) {
     return false;
   }
@@ -99,7 +98,7 @@ void PointerInput::drag(Point point) {
     }
     return;
   }
-  setPressed(*node, isEnabled && covers(*node, point));
+  setPressed(*node, isEnabled && node->covers(point));
 }
 
 void PointerInput::beginDrag(const Node& node) {
@@ -118,7 +117,7 @@ void PointerInput::beginDrag(const Node& node) {
 bool PointerInput::release(Point point) {
   point_ = point;
   Node* node = tree_.find(pressedId_);
-  const bool isClick = node != nullptr && !isDragging_ && covers(*node, point);
+  const bool isClick = node != nullptr && !isDragging_ && node->covers(point);
   const std::uint64_t id = std::exchange(pressedId_, 0);
   if (node != nullptr) {
     setPressed(*node, false);
@@ -140,7 +139,7 @@ void PointerInput::cancelPress() {
 }
 
 bool PointerInput::scroll(Point point, double distance) {
-  for (Node* node : hitTest(tree_, point)) {
+  for (Node* node : tree_.hitTest(point)) {
     if (scrollBy(*node, distance, tree_.now)) {
       point_ = point;
       return true;

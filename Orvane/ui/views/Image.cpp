@@ -47,17 +47,9 @@ class ImageElement final : public Element {
   }
 
   Size scaled(Size natural, const Proposal& proposal) const {
-    const auto ratio = [](std::optional<double> offered, double own) -> std::optional<double> {
-      if (!offered || std::isinf(*offered) || own <= 0) {
-        return std::nullopt;
-      }
-      return *offered / own;
-    };
-    const auto across = ratio(proposal.width, natural.width);
-    const auto down = ratio(proposal.height, natural.height);
-    const double factor =
-        across && down ? std::min(*across, *down) : across.value_or(down.value_or(1));
-    return {natural.width * factor, natural.height * factor};
+    const double factor = std::min(proposal.width.value_or(infinity) / natural.width,
+                                   proposal.height.value_or(infinity) / natural.height);
+    return std::isfinite(factor) ? Size{natural.width * factor, natural.height * factor} : natural;
   }
 
   std::string name_;
@@ -69,7 +61,7 @@ class SymbolElement final : public Element {
   explicit SymbolElement(std::string name) : name_(std::move(name)) {}
 
   Size measure(Node& node, const Proposal&, LayoutPass& pass) const override {
-    return pass.images().symbol(name_, node.environment->font).value_or(Size{});
+    return pass.images().symbol(name_, node.environment->text.font).value_or(Size{});
   }
 
   void attributes(const Node& node, AttributeWriter& writer) const override {
@@ -81,7 +73,8 @@ class SymbolElement final : public Element {
       return;
     }
     const Point origin = context.snapped(context.rect.origin());
-    context.canvas.symbol(name_, node.environment->font, AttributeReader(node, context.now).color(),
+    context.canvas.symbol(name_, node.environment->text.font,
+                          AttributeReader(node, context.now).color(),
                           Rect::from(origin, context.rect.size()));
   }
 

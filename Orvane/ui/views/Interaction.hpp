@@ -10,12 +10,6 @@
 
 namespace orvane::ui {
 
-/// The argument of a control's action.
-struct Activation {
-  /// The control's rectangle as presented, in host coordinates.
-  Rect frame;
-};
-
 /// A file that can be dragged out of a view.
 struct DragItem {
   std::string fileUrl;
@@ -24,8 +18,9 @@ struct DragItem {
 
 /// Unset functions have no effect.
 struct Interaction {
-  /// Called by a click, by the keyboard and by an accessibility press.
-  std::function<void(const Activation&)> activate = nullptr;
+  /// Called by a click, by the keyboard and by an accessibility press, with the control's rectangle
+  /// as presented, in host coordinates.
+  std::function<void(const Rect& frame)> activate = nullptr;
   std::function<void(bool isInside)> hover = nullptr;
   /// Called when a drag begins; without an item there is no drag.
   std::function<std::optional<DragItem>()> drag = nullptr;

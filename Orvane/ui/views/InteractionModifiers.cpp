@@ -5,15 +5,11 @@ namespace orvane::ui {
 
 namespace {
 
-class InteractionElement final : public ModifierElement {
+class InteractionElement final : public ModifierElement<Interaction> {
  public:
-  InteractionElement(View content, Interaction interaction)
-      : ModifierElement(std::move(content)), interaction_(std::move(interaction)) {}
+  using ModifierElement::ModifierElement;
 
-  [[nodiscard]] const Interaction& interaction() const override { return interaction_; }
-
- private:
-  Interaction interaction_;
+  [[nodiscard]] const Interaction& interaction() const override { return value(); }
 };
 
 }  // namespace

@@ -13,7 +13,6 @@ enum class VerticalAlignment { top, center, bottom };
 /// A column, with exactly this spacing between the children.
 class [[nodiscard]] VStack : public View {
  public:
-  explicit VStack(const std::vector<View>& children) : VStack(defaultSpacing, children) {}
   VStack(double spacing, const std::vector<View>& children)
       : VStack(spacing, HorizontalAlignment::center, children) {}
   VStack(double spacing, HorizontalAlignment alignment, const std::vector<View>& children);
@@ -22,7 +21,6 @@ class [[nodiscard]] VStack : public View {
 /// A row, from leading to trailing.
 class [[nodiscard]] HStack : public View {
  public:
-  explicit HStack(const std::vector<View>& children) : HStack(defaultSpacing, children) {}
   HStack(double spacing, const std::vector<View>& children)
       : HStack(spacing, VerticalAlignment::center, children) {}
   HStack(double spacing, VerticalAlignment alignment, const std::vector<View>& children);
@@ -39,12 +37,6 @@ class [[nodiscard]] ZStack : public View {
 class [[nodiscard]] Spacer : public View {
  public:
   explicit Spacer(double minimum = 0);
-};
-
-/// A hairline across its stack, in the faintest label colour.
-class [[nodiscard]] Divider : public View {
- public:
-  Divider();
 };
 
 }  // namespace orvane::ui
