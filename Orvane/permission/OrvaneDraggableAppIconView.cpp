@@ -17,7 +17,7 @@ View OrvaneDraggableAppIconView::body(const Environment& environment) const {
   // Without an image there is nothing to drag.
   const bool hasImage = environment.hasImage("AppIcon");
   // The clear rectangle takes presses beside the image, so that dragging never moves the window.
-  return ZStack({Rectangle().fill(Color::clear()), Image("AppIcon").resizable(ContentMode::fit)})
+  return ZStack({Rectangle().fill(Color::clear()), Image("AppIcon").resizable()})
       .dragSource([hasImage]() -> std::optional<DragItem> {
         const std::optional<std::string> bundle = appkit::Bundle::url();
         if (!hasImage || !bundle) {

@@ -58,7 +58,6 @@ ui::Appearance appearanceFrom(NSAppearance* appearance) {
   NSWorkspace* const workspace = NSWorkspace.sharedWorkspace;
   return {isDark(appearance), std::nullopt,
           static_cast<bool>(workspace.accessibilityDisplayShouldIncreaseContrast),
-          static_cast<bool>(workspace.accessibilityDisplayShouldReduceTransparency),
           static_cast<bool>(workspace.accessibilityDisplayShouldReduceMotion)};
 }
 

@@ -10,8 +10,8 @@
 namespace orvane::ui {
 namespace {
 
-constexpr Appearance dark{true, {}, false, false, false};
-constexpr Appearance highContrast{false, {}, true, false, false};
+constexpr Appearance dark{true, {}, false, false};
+constexpr Appearance highContrast{false, {}, true, false};
 
 Rgba resolved(const Color& color, const Appearance& appearance = {}) {
   return color.resolve(appearance, standardColor);
@@ -44,7 +44,7 @@ TEST(ColorTest, SystemColoursFollowTheAppearance) {
 TEST(ColorTest, TheAccentIsTheUsersChoiceOrBlue) {
   EXPECT_EQ(resolved(Color::accent(), dark), (Rgba{10 / 255.0, 132 / 255.0, 1, 1}));
   const Rgba chosen{0.5, 0.25, 0, 1};
-  EXPECT_EQ(resolved(Color::accent(), {false, chosen, false, false, false}), chosen);
+  EXPECT_EQ(resolved(Color::accent(), {false, chosen, false, false}), chosen);
 }
 
 TEST(ColorTest, OpacitiesMultiply) {

@@ -156,7 +156,7 @@ TEST(DrawingTest, SymbolsAndImagesAreDrawnByName) {
   EXPECT_EQ(drawn(Symbol("lock").font(Font::system(8, Weight::bold)).foreground(Color::white()),
                   {20, 20}),
             "symbol lock 8/700 rgba(1 1 1 1) (6 6 8 8)\n");
-  EXPECT_EQ(drawn(Image("photo").resizable(), {12, 12}), "image photo (0 0 12 12)\n");
+  EXPECT_EQ(drawn(Image("photo").resizable(), {12, 12}), "image photo (0 3 12 6)\n");
   EXPECT_EQ(drawn(HStack(8, {Symbol("unknown"), Image("unknown")}), {12, 12}), "");
 }
 
@@ -164,10 +164,10 @@ TEST(DrawingTest, InTheDarkAppearanceAnImageIsReplacedByItsDarkVariant) {
   TestHost test({12, 12});
   test.show(Image("photo").resizable());
   test.appear({.dark = true});
-  EXPECT_TRUE(test.draws("image photo-dark (0 0 12 12)\n"));
+  EXPECT_TRUE(test.draws("image photo-dark (0 3 12 6)\n"));
   EXPECT_FALSE(test.host->takeDirtyRects().empty());
   test.show(Image("icon").resizable());
-  EXPECT_TRUE(test.draws("image icon (0 0 12 12)\n"));
+  EXPECT_TRUE(test.draws("image icon (0 3 12 6)\n"));
 }
 
 class DirtyTest : public testing::Test {

@@ -139,9 +139,9 @@ TEST_F(KeyboardFocusTest, TheRingIsSeenOnlyWhenTheFocusCameByTheKeyboard) {
   EXPECT_EQ(ring(), "rgba(0 0.478 1 0.6) width 3\nrestore\n");
   EXPECT_EQ(test.host->takeDirtyRects(), (std::vector<Rect>{{124, 34, 52, 32}}));
   // 4.5 to 1 on luminances of 0.8 and 0.08.
-  test.host->setAppearance({false, {}, true, false, false});
+  test.host->setAppearance({false, {}, true, false});
   EXPECT_EQ(ring(), "rgba(0 0.394 0.824 1) width 3\nrestore\n");
-  test.host->setAppearance({true, {}, true, false, false});
+  test.host->setAppearance({true, {}, true, false});
   EXPECT_EQ(ring(), "rgba(0.557 0.778 1 1) width 3\nrestore\n");
 }
 

@@ -119,26 +119,26 @@ TEST(LayoutTest, SpacersPushTheirNeighboursApart) {
 
 TEST(LayoutTest, AHeaderRowWrapsWordByWord) {
   // At every width: the rigid label keeps its room, then the text wraps, and at last both break.
-  const View header = HStack(8, VerticalAlignment::top, {Text("aaaa bbbb"), Spacer(), Text("ok")});
+  const View header = HStack(8, {Text("aaaa bbbb"), Spacer(), Text("ok")});
   const View tall = header.frame({.maximumHeight = infinity, .alignment = Alignment::top()});
   const std::vector<std::pair<double, std::string>> expected{
       {100, "aaaa bbbb(0 0 45 10) ok(90 0 10 10)"}, {80, "aaaa bbbb(0 0 45 10) ok(70 0 10 10)"},
-      {71, "aaaa bbbb(0 0 45 10) ok(61 0 10 10)"},  {70, "aaaa bbbb(0 0 20 20) ok(60 0 10 10)"},
-      {60, "aaaa bbbb(0 0 20 20) ok(50 0 10 10)"},  {46, "aaaa bbbb(0 0 20 20) ok(36 0 10 10)"},
-      {45, "aaaa bbbb(0 0 15 40) ok(35 0 10 10)"}};
+      {71, "aaaa bbbb(0 0 45 10) ok(61 0 10 10)"},  {70, "aaaa bbbb(0 0 20 20) ok(60 5 10 10)"},
+      {60, "aaaa bbbb(0 0 20 20) ok(50 5 10 10)"},  {46, "aaaa bbbb(0 0 20 20) ok(36 5 10 10)"},
+      {45, "aaaa bbbb(0 0 15 40) ok(35 15 10 10)"}};
   for (const auto& [width, frames] : expected) {
     EXPECT_EQ(framesIn(tall, width, 100), frames) << width;
   }
 }
 
 TEST(LayoutTest, EmptyViewsTakeNeitherRoomNorSpacing) {
-  const View row =
-      HStack(8, {Text("a"), when(false, [] { return Text("gone"); }), Text("b"), View().padding()});
+  const View row = HStack(
+      8, {Text("a"), when(false, [] { return Text("gone"); }), Text("b"), View().padding(16)});
   EXPECT_EQ(framesIn(row, 18, 10), "a(0 0 5 10) b(13 0 5 10)");
 }
 
 TEST(LayoutTest, PaddingSurroundsAndModifiersApplyInTheirOrder) {
-  EXPECT_EQ(ideal(Text("a").padding()), (Size{37, 42}));
+  EXPECT_EQ(ideal(Text("a").padding(16)), (Size{37, 42}));
   EXPECT_EQ(ideal(Text("a").padding(Edges::symmetric(13, 8))), (Size{31, 26}));
   EXPECT_EQ(ideal(Text("a").padding(4).frame(50, 50)), (Size{50, 50}));
   EXPECT_EQ(ideal(Text("a").frame(50, 50).padding(4)), (Size{58, 58}));
@@ -198,9 +198,9 @@ TEST(LayoutTest, ImagesKeepTheirSizeUntilTheyAreMadeResizable) {
   EXPECT_EQ(ideal(Image("unknown")), (Size{0, 0}));
   TestHost test({30, 30});
   test.show(Image("photo").resizable());
-  EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{30, 30}));
-  test.show(Image("photo").resizable(ContentMode::fit));
   EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{30, 15}));
+  EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 10})), (Size{20, 10}));
+  EXPECT_EQ(ideal(Image("photo").resizable()), (Size{40, 20}));
 }
 
 TEST(LayoutTest, HigherPrioritiesAreServedFirst) {

@@ -33,7 +33,7 @@ const std::string& DisplayChoiceCard::title() const {
 View DisplayChoiceCard::content(bool isDark) const {
   const Color highlight = OrvanePalette::accentText(isDark);
   const View image = Image(display.isBuiltIn ? "DisplayLaptop" : "DisplayMonitor")
-                         .resizable(ContentMode::fit)
+                         .resizable()
                          .frame(122, 70)
                          .shadow({.color = Color::black().opacity(0.06),
                                   .radius = imageShadowRadius,

@@ -54,7 +54,6 @@ View OrvaneSettingsView::hiddenCloseButton(const Environment& environment) const
   return Button(closeAction(environment), Rectangle().frame(0, 0))
       .keyboardShortcut(KeyboardShortcut::command("w"))
       .opacity(0)
-      .hitTesting(false)
       .accessibilityHidden();
 }
 

@@ -20,7 +20,6 @@ struct Appearance {
   /// The user's accent colour; none for the platform's default, blue.
   std::optional<Rgba> accent = std::nullopt;
   bool increaseContrast = false;
-  bool reduceTransparency = false;
   bool reduceMotion = false;
 
   friend bool operator==(const Appearance&, const Appearance&) = default;

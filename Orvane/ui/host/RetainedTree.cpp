@@ -30,7 +30,7 @@ void collectHits(Node& node, Point point, double now, std::vector<Node*>& hits) 
   }
   const Effect effect = node.element->effect(node, now);
   const bool isCut = effect.clip && !effect.clip->rect.contains(node.toHost.inverse().apply(point));
-  if (effect.opacity <= 0 || !effect.allowsHitTesting || isCut) {
+  if (effect.opacity <= 0 || isCut) {
     return;
   }
   for (auto child = node.children.rbegin(); child != node.children.rend(); ++child) {

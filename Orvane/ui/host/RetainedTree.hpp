@@ -30,8 +30,8 @@ struct RetainedTree {
 
   /// The node with the id, or null. Leaving nodes are not found.
   [[nodiscard]] Node* find(std::uint64_t id) const;
-  /// The nodes at the point, as presented, topmost first. Invisible nodes, nodes without hit
-  /// testing and all below them are left out.
+  /// The nodes at the point, as presented, topmost first. Invisible nodes and all below them are
+  /// left out.
   [[nodiscard]] std::vector<Node*> hitTest(Point point) const;
   /// The topmost node at the point that takes presses, or null.
   [[nodiscard]] Node* pressTarget(Point point) const;

@@ -1,4 +1,4 @@
-// The modifiers that change drawing and hit testing, but not layout.
+// The modifiers that change drawing, but not layout.
 #include <algorithm>
 
 #include "Orvane/ui/views/Attributes.hpp"
@@ -74,15 +74,6 @@ struct Clip {
   }
 };
 
-struct HitTesting {
-  bool isAllowed;
-
-  void write(AttributeWriter&) const {}
-  [[nodiscard]] Effect effect(AttributeReader&, const Rect&) const {
-    return {.allowsHitTesting = isAllowed};
-  }
-};
-
 }  // namespace
 
 View View::opacity(double opacity) const {
@@ -103,10 +94,6 @@ View View::shadow(const Shadow& shadow) const {
 
 View View::clip(const Shape& shape) const {
   return modified<EffectElement<Clip>>(*this, Clip{shape});
-}
-
-View View::hitTesting(bool isAllowed) const {
-  return modified<EffectElement<HitTesting>>(*this, HitTesting{isAllowed});
 }
 
 }  // namespace orvane::ui

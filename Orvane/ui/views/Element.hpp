@@ -27,7 +27,6 @@ struct Effect {
   double opacity = 1;
   std::optional<Shape> clip = std::nullopt;
   std::optional<PaintShadow> shadow = std::nullopt;
-  bool allowsHitTesting = true;
 };
 
 /// Each pass calls its functions; docs/ui.md says what they may read and change.

@@ -16,21 +16,18 @@ constexpr const char* darkSuffix = "-dark";
 
 class ImageElement final : public Element {
  public:
-  ImageElement(std::string name, std::optional<ContentMode> mode)
-      : name_(std::move(name)), mode_(mode) {}
+  ImageElement(std::string name, bool isResizable)
+      : name_(std::move(name)), isResizable_(isResizable) {}
 
   Size measure(Node&, const Proposal& proposal, LayoutPass& pass) const override {
     const std::optional<Size> natural = pass.images().image(name_);
-    if (!natural) {
-      return {};
+    if (!natural || !isResizable_) {
+      return natural.value_or(Size{});
     }
-    if (!mode_) {
-      return *natural;
-    }
-    if (*mode_ == ContentMode::stretch) {
-      return {proposal.width.value_or(natural->width), proposal.height.value_or(natural->height)};
-    }
-    return scaled(*natural, proposal);
+    const double factor = std::min(proposal.width.value_or(infinity) / natural->width,
+                                   proposal.height.value_or(infinity) / natural->height);
+    return std::isfinite(factor) ? Size{natural->width * factor, natural->height * factor}
+                                 : *natural;
   }
 
   void draw(const Node& node, const DrawContext& context) const override {
@@ -46,14 +43,8 @@ class ImageElement final : public Element {
     return environment.isDark() && environment.hasImage(dark) ? dark : name_;
   }
 
-  Size scaled(Size natural, const Proposal& proposal) const {
-    const double factor = std::min(proposal.width.value_or(infinity) / natural.width,
-                                   proposal.height.value_or(infinity) / natural.height);
-    return std::isfinite(factor) ? Size{natural.width * factor, natural.height * factor} : natural;
-  }
-
   std::string name_;
-  std::optional<ContentMode> mode_;
+  bool isResizable_;
 };
 
 class SymbolElement final : public Element {
@@ -85,10 +76,10 @@ class SymbolElement final : public Element {
 }  // namespace
 
 Image::Image(std::string name)
-    : View(std::make_shared<ImageElement>(name, std::nullopt)), name_(std::move(name)) {}
+    : View(std::make_shared<ImageElement>(name, false)), name_(std::move(name)) {}
 
-View Image::resizable(ContentMode mode) const {
-  return View(std::make_shared<ImageElement>(name_, mode));
+View Image::resizable() const {
+  return View(std::make_shared<ImageElement>(name_, true));
 }
 
 Symbol::Symbol(std::string name) : View(std::make_shared<SymbolElement>(std::move(name))) {}

@@ -133,20 +133,14 @@ class SpacerElement final : public Element {
   double minimum_;
 };
 
-template <typename AlignmentAcross>
-double fraction(AlignmentAcross alignment) {
-  return static_cast<double>(alignment) / 2;
-}
-
 }  // namespace
 
 VStack::VStack(double spacing, HorizontalAlignment alignment, const std::vector<View>& children)
-    : View(std::make_shared<StackElement>(Axis::vertical, spacing, fraction(alignment), children)) {
-}
+    : View(std::make_shared<StackElement>(Axis::vertical, spacing,
+                                          static_cast<double>(alignment) / 2, children)) {}
 
-HStack::HStack(double spacing, VerticalAlignment alignment, const std::vector<View>& children)
-    : View(std::make_shared<StackElement>(Axis::horizontal, spacing, fraction(alignment),
-                                          children)) {}
+HStack::HStack(double spacing, const std::vector<View>& children)
+    : View(std::make_shared<StackElement>(Axis::horizontal, spacing, 0.5, children)) {}
 
 ZStack::ZStack(Alignment alignment, const std::vector<View>& children)
     : View(std::make_shared<ZStackElement>(alignment, children)) {}

@@ -8,7 +8,6 @@
 namespace orvane::ui {
 
 enum class HorizontalAlignment { leading, center, trailing };
-enum class VerticalAlignment { top, center, bottom };
 
 /// A column, with exactly this spacing between the children.
 class [[nodiscard]] VStack : public View {
@@ -18,12 +17,10 @@ class [[nodiscard]] VStack : public View {
   VStack(double spacing, HorizontalAlignment alignment, const std::vector<View>& children);
 };
 
-/// A row, from leading to trailing.
+/// A row, from leading to trailing, with its children in the middle of its height.
 class [[nodiscard]] HStack : public View {
  public:
-  HStack(double spacing, const std::vector<View>& children)
-      : HStack(spacing, VerticalAlignment::center, children) {}
-  HStack(double spacing, VerticalAlignment alignment, const std::vector<View>& children);
+  HStack(double spacing, const std::vector<View>& children);
 };
 
 /// Children on top of each other, the first one lowest; as large as the largest.

@@ -54,7 +54,7 @@ class [[nodiscard]] View {
   [[nodiscard]] const std::string& explicitId() const { return id_; }
 
   // Layout. Lengths are points; an alignment places content in a frame of another size.
-  View padding(double distance = defaultPadding) const;
+  View padding(double distance) const;
   View padding(const Edges& edges) const;
   View frame(double width, double height, Alignment alignment = Alignment::center()) const;
   View frame(const FrameBounds& bounds) const;
@@ -102,8 +102,6 @@ class [[nodiscard]] View {
   View tooltip(std::string text) const;
   View keyboardShortcut(KeyboardShortcut shortcut) const;
   View dragSource(std::function<std::optional<DragItem>()> item) const;
-  /// Without hit testing, the pointer passes through the view and everything in it.
-  View hitTesting(bool isAllowed) const;
   /// Scrolls the surrounding scroll views to the view when it appears or becomes wanted, and when a
   /// wanted view gets another place among its siblings: at once if it appears, otherwise along the
   /// curve of the update.
