@@ -48,7 +48,7 @@ View anyView(int depth) {
   if (depth == 0) {
     return anyLeaf();
   }
-  switch (*rc::gen::inRange(0, 8)) {
+  switch (*rc::gen::inRange(0, 7)) {
     case 0:
       return HStack(spacing, anyChildren(depth));
     case 1:
@@ -62,8 +62,6 @@ View anyView(int depth) {
     case 5:
       return *rc::gen::arbitrary<bool>() ? anyView(depth - 1).fixedSize()
                                          : anyView(depth - 1).fixedSizeVertical();
-    case 6:
-      return anyView(depth - 1).layoutPriority(*rc::gen::inRange(-1, 3));
     default:
       return anyLeaf();
   }

@@ -203,10 +203,5 @@ TEST(LayoutTest, ImagesKeepTheirSizeUntilTheyAreMadeResizable) {
   EXPECT_EQ(ideal(Image("photo").resizable()), (Size{40, 20}));
 }
 
-TEST(LayoutTest, HigherPrioritiesAreServedFirst) {
-  const View row = HStack(0, {Text("aa aa"), Text("bb bb").layoutPriority(1)});
-  EXPECT_EQ(framesIn(row, 35, 20), "aa aa(0 0 10 20) bb bb(10 5 25 10)");
-}
-
 }  // namespace
 }  // namespace orvane::ui

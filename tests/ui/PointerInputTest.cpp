@@ -259,7 +259,9 @@ TEST_F(PointerInputTest, TheScrollOffsetOutlivesARedrawAndFollowsItsContent) {
 }
 
 TEST_F(PointerInputTest, ADragBeginsAfterAFewPointsAndClicksNothing) {
-  test.show(Rectangle().frame(40, 20).dragSource([] { return DragItem{"file:///app", "icon"}; }));
+  test.show(Rectangle().frame(40, 20).dragSource([] {
+    return DragRequest{"file:///app", "icon"};
+  }));
   EXPECT_FALSE(test.host->movesWindowAt({20, 10}));
   EXPECT_TRUE(test.host->pointerDown({20, 10}));
   test.host->pointerDragged({22.9, 10});
@@ -274,7 +276,7 @@ TEST_F(PointerInputTest, ADragBeginsAfterAFewPointsAndClicksNothing) {
 }
 
 TEST_F(PointerInputTest, ADragSourceWithoutAnItemStartsNothing) {
-  test.show(Rectangle().dragSource([this]() -> std::optional<DragItem> {
+  test.show(Rectangle().dragSource([this]() -> std::optional<DragRequest> {
     log += "?";
     return std::nullopt;
   }));

@@ -90,8 +90,7 @@ View header(const PanelIcon& icon, const HeaderTexts& content, const StatusPill&
                           .accessibilityValue(pill.text)
                           .transition(Transition::fadeThrough())
                           .id(std::to_string(pill.isActive));
-  return HStack(headerSpacing, {icon, texts.layoutPriority(1), Spacer(), status})
-      .height(headerHeight);
+  return HStack(headerSpacing, {icon, texts, Spacer(), status}).height(headerHeight);
 }
 
 /// The rows are slightly higher than the panel's content area: they overflow it evenly above and

@@ -35,7 +35,7 @@ struct DragRequest {
   std::string fileUrl;
   /// The name of the image that follows the pointer, and its first frame in host coordinates.
   std::string imageName;
-  Rect frame;
+  Rect frame = {};
 };
 
 /// Each function may be unset; its effect is then left out.

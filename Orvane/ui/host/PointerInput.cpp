@@ -104,9 +104,10 @@ void PointerInput::drag(Point point) {
 void PointerInput::beginDrag(const Node& node) {
   const std::shared_ptr<HostLink> host = tree_.link;
   const Rect frame = node.hostFrame();
-  const auto makeItem = node.interaction().drag;
-  if (const std::optional<DragItem> item = makeItem()) {
-    host->call(&HostServices::beginDrag, DragRequest{item->fileUrl, item->imageName, frame});
+  const auto makeRequest = node.interaction().drag;
+  if (std::optional<DragRequest> request = makeRequest()) {
+    request->frame = frame;
+    host->call(&HostServices::beginDrag, *request);
     // The platform's drag consumes the release of the button.
     if (host->isConnected()) {
       pressedId_ = 0;

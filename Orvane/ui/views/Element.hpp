@@ -57,6 +57,7 @@ class Element {
       const Node& node, std::vector<SemanticsNode> children) const;
 
   [[nodiscard]] virtual std::optional<Axis> stackAxis() const { return std::nullopt; }
+  /// Stacks serve children of a higher priority first. Only spacers have a lower one than 0.
   [[nodiscard]] virtual double layoutPriority(const Node& node) const;
   [[nodiscard]] virtual const Transition* transition() const { return nullptr; }
 };

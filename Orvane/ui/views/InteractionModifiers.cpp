@@ -22,8 +22,8 @@ View View::tooltip(std::string text) const {
   return modified<InteractionElement>(*this, Interaction{.tooltip = std::move(text)});
 }
 
-View View::dragSource(std::function<std::optional<DragItem>()> item) const {
-  return modified<InteractionElement>(*this, Interaction{.drag = std::move(item)});
+View View::dragSource(std::function<std::optional<DragRequest>()> request) const {
+  return modified<InteractionElement>(*this, Interaction{.drag = std::move(request)});
 }
 
 View View::onAppear(std::function<void()> action) const {

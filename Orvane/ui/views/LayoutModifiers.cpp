@@ -1,4 +1,4 @@
-// The modifiers that change layout: padding, frames, fixed sizes, priorities, layers.
+// The modifiers that change layout: padding, frames, fixed sizes, layers.
 #include <algorithm>
 #include <array>
 
@@ -129,13 +129,6 @@ View layered(const View& view, const View& layer, bool isAbove, Alignment alignm
   return modified<LayersElement>(view, Layering{whole, isAbove});
 }
 
-class PriorityElement final : public ModifierElement<double> {
- public:
-  using ModifierElement::ModifierElement;
-
-  double layoutPriority(const Node&) const override { return value(); }
-};
-
 }  // namespace
 
 View View::padding(double distance) const {
@@ -172,10 +165,6 @@ View View::fixedSize() const {
 
 View View::fixedSizeVertical() const {
   return modified<LayoutElement<FixedSize>>(*this, FixedSize{.isHorizontal = false});
-}
-
-View View::layoutPriority(double priority) const {
-  return modified<PriorityElement>(*this, priority);
 }
 
 View View::background(const View& background, Alignment alignment) const {

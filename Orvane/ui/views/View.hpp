@@ -66,8 +66,6 @@ class [[nodiscard]] View {
   /// is never truncated.
   View fixedSize() const;
   View fixedSizeVertical() const;
-  /// Stacks serve children of a higher priority first; 0 by default.
-  View layoutPriority(double priority) const;
 
   // Layers. Each is proposed the size of the view and does not change it.
   View background(const View& background, Alignment alignment = Alignment::center()) const;
@@ -101,7 +99,8 @@ class [[nodiscard]] View {
   View onHover(std::function<void(bool isInside)> handler) const;
   View tooltip(std::string text) const;
   View keyboardShortcut(KeyboardShortcut shortcut) const;
-  View dragSource(std::function<std::optional<DragItem>()> item) const;
+  /// Called when a drag begins; without a request there is no drag. The host sets the frame.
+  View dragSource(std::function<std::optional<DragRequest>()> request) const;
   /// Scrolls the surrounding scroll views to the view when it appears or becomes wanted, and when a
   /// wanted view gets another place among its siblings: at once if it appears, otherwise along the
   /// curve of the update.
