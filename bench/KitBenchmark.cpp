@@ -11,7 +11,7 @@
 
 #include "Orvane/model/OrvaneModel.hpp"
 #include "Orvane/panels/main/ContentView.hpp"
-#include "Orvane/ui/draw/StandardColors.hpp"
+#include "Orvane/ui/draw/Color.hpp"
 #include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/host/PresentPass.hpp"

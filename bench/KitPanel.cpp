@@ -20,7 +20,7 @@ constexpr int cardRows = 1;
 constexpr int settingRows = 6;
 
 struct PlainStyle {
-  View body(const ButtonConfiguration& configuration, const Environment&) const {
+  View operator()(const ButtonConfiguration& configuration, const Environment&) const {
     return configuration.label;
   }
 };
@@ -45,7 +45,7 @@ struct Card {
 };
 
 View head(int revision) {
-  const View icon = RoundedRectangle(11).fill(Gradient::system(Color::accent())).frame(48, 48);
+  const View icon = RoundedRectangle(11).fill(Fill::systemGradient(Color::accent())).frame(48, 48);
   const View words =
       VStack(3, HorizontalAlignment::leading,
              {Text("Pin to a Display").font(Font::system(18, Weight::bold)),
@@ -63,7 +63,7 @@ View settingRow(int number) {
   const View knob = Circle().fill(Color::white()).frame(15, 15).padding(1.5);
   const View toggle =
       ZStack(isOn ? Alignment::trailing() : Alignment::leading(), {track, knob}).frame(34, 18);
-  return HStack({Text("Setting " + std::to_string(number)), Spacer(), toggle}).height(24);
+  return HStack(8, {Text("Setting " + std::to_string(number)), Spacer(), toggle}).height(24);
 }
 
 View button(const std::string& title) {

@@ -17,13 +17,13 @@ View OrvaneDraggableAppIconView::body(const Environment& environment) const {
   // Without an image there is nothing to drag.
   const bool hasImage = environment.hasImage("AppIcon");
   // The clear rectangle takes presses beside the image, so that dragging never moves the window.
-  return ZStack({Rectangle().fill(Color::clear()), Image("AppIcon").resizable(ContentMode::fit)})
-      .dragSource([hasImage]() -> std::optional<DragItem> {
+  return ZStack({Rectangle().fill(Color::clear()), Image("AppIcon").resizable()})
+      .dragSource([hasImage]() -> std::optional<DragRequest> {
         const std::optional<std::string> bundle = appkit::Bundle::url();
         if (!hasImage || !bundle) {
           return std::nullopt;
         }
-        return DragItem{.fileUrl = *bundle, .imageName = "AppIcon"};
+        return DragRequest{.fileUrl = *bundle, .imageName = "AppIcon"};
       })
       .accessibilityLabel("Orvane")
       .accessibilityRole(Role::image);

@@ -56,10 +56,7 @@ View OrvanePermissionGuideView::iconArea() const {
   const bool isDone = state == PermissionGuideState::success;
   return ZStack({when(!isDone, [&] { return filled(draggableIcon(), Transition::opacity()); }),
                  when(isDone,
-                      [&] {
-                        return filled(checkMark(),
-                                      Transition::scale().combined(Transition::opacity()));
-                      })})
+                      [&] { return filled(checkMark(), {.absentOpacity = 0, .absentScale = 0}); })})
       .padding(Edges::vertical(10));
 }
 
@@ -103,7 +100,6 @@ View OrvanePermissionGuideView::doneButton() const {
                          .maximumWidth()
                          .padding(Edges::vertical(10));
   return Button(onClose, label)
-      .style(BorderedButtonStyle{.isProminent = true})
       .keyboardShortcut(KeyboardShortcut::defaultAction())
       .padding(Edges{.leading = 40, .bottom = 20, .trailing = 40});
 }

@@ -3,7 +3,7 @@
 
 #include <cairo.h>
 
-#include "Orvane/ui/draw/Paint.hpp"
+#include "Orvane/ui/draw/Fill.hpp"
 #include "Orvane/ui/layout/Rect.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 

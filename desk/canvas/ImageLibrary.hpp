@@ -11,7 +11,7 @@
 
 #include <cairo.h>
 
-#include "Orvane/ui/layout/Size.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 
 namespace orvane::desk {

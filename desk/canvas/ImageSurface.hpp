@@ -1,7 +1,7 @@
 // Cairo's surfaces in memory.
 #pragma once
 
-#include "Orvane/ui/layout/Size.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 
 namespace orvane::desk {

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "Orvane/ui/draw/Font.hpp"
-#include "Orvane/ui/layout/Size.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 #include "desk/canvas/MaskCache.hpp"
 #include "desk/canvas/PixelPlacement.hpp"

@@ -13,7 +13,7 @@ View SettingsBadge::body(const Environment& /*environment*/) const {
       .font(Font::system(side * 0.6, Weight::medium))
       .foreground(Color::white())
       .frame(side, side)
-      .background(RoundedRectangle(side * 0.25).fill(Gradient::system(color)))
+      .background(RoundedRectangle(side * 0.25).fill(Fill::systemGradient(color)))
       .accessibilityHidden();
 }
 

@@ -1,7 +1,7 @@
 // The style of buttons in System Settings, which are drawn by their label.
 #pragma once
 
-#include "Orvane/ui/views/ButtonStyle.hpp"
+#include "Orvane/ui/views/Button.hpp"
 
 namespace orvane::desk {
 
@@ -10,8 +10,8 @@ namespace orvane::desk {
 struct SettingsButtonStyle {
   bool fadesWhenDisabled = false;
 
-  ui::View body(const ui::ButtonConfiguration& configuration,
-                const ui::Environment& /*environment*/) const {
+  ui::View operator()(const ui::ButtonConfiguration& configuration,
+                      const ui::Environment& /*environment*/) const {
     constexpr double disabledOpacity = 0.35;
     const bool isFaded = fadesWhenDisabled && !configuration.isEnabled;
     return configuration.label.opacity(isFaded ? disabledOpacity : 1);

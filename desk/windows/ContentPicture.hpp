@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "Orvane/ui/host/ViewHost.hpp"
-#include "Orvane/ui/layout/Size.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "desk/canvas/DeepSurface.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 

@@ -10,7 +10,7 @@
 
 #include "Orvane/platform/appkit/Window.hpp"
 #include "Orvane/ui/draw/Shape.hpp"
-#include "Orvane/ui/layout/Point.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "desk/windows/DropTarget.hpp"
 #include "desk/windows/HostedView.hpp"
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "Orvane/ui/layout/Point.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 
 namespace orvane::desk {
 

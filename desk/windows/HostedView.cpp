@@ -14,7 +14,6 @@ ui::Appearance HostedView::appearanceOf(const Machine& machine) {
   ui::Appearance appearance;
   appearance.dark = chosen.isDark;
   appearance.reduceMotion = chosen.reducesMotion;
-  appearance.reduceTransparency = chosen.reducesTransparency;
   appearance.increaseContrast = chosen.increasesContrast;
   if (chosen.accent) {
     appearance.accent = ui::Rgba{chosen.accent->red / 255.0, chosen.accent->green / 255.0,

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "Orvane/ui/draw/StandardColors.hpp"
+#include "Orvane/ui/draw/Color.hpp"
 
 namespace orvane::appkit {
 namespace {
@@ -58,7 +58,6 @@ ui::Appearance appearanceFrom(NSAppearance* appearance) {
   NSWorkspace* const workspace = NSWorkspace.sharedWorkspace;
   return {isDark(appearance), std::nullopt,
           static_cast<bool>(workspace.accessibilityDisplayShouldIncreaseContrast),
-          static_cast<bool>(workspace.accessibilityDisplayShouldReduceTransparency),
           static_cast<bool>(workspace.accessibilityDisplayShouldReduceMotion)};
 }
 

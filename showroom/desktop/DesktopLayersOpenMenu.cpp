@@ -1,5 +1,5 @@
 // Paints the menu with the metrics of its layout.
-#include "Orvane/ui/draw/StandardColors.hpp"
+#include "Orvane/ui/draw/Color.hpp"
 #include "desk/windows/MenuMetrics.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"

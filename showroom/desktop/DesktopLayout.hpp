@@ -9,9 +9,7 @@
 #include <cairo.h>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/layout/Point.hpp"
 #include "Orvane/ui/layout/Rect.hpp"
-#include "Orvane/ui/layout/Size.hpp"
 
 namespace orvane::showroom {
 

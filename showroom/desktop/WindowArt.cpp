@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-#include "Orvane/ui/draw/StandardColors.hpp"
+#include "Orvane/ui/draw/Color.hpp"
 #include "showroom/desktop/Glass.hpp"
 
 namespace orvane::showroom {

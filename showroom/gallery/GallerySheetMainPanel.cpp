@@ -136,7 +136,7 @@ GallerySheet panelSheet() {
                         .font(Font::system(13))
                         .foreground(Color::secondary())});
     return View(DockPanel{ui::HStack(14, {PanelIcon{.systemImage = "lock", .tint = Color::accent()},
-                                          words.layoutPriority(1), ui::Spacer(),
+                                          words, ui::Spacer(),
                                           StatusPill{.text = language.localized("Pinned", "已固定"),
                                                      .isActive = true}})})
         .width(560);

@@ -15,21 +15,22 @@ using ui::View;
 
 GalleryItem sectionItem(const std::string& caption, const std::string& symbol, const Color& tint,
                         Interaction interaction = Interaction::none) {
-  return {caption,
-          [=](OrvaneLanguage language) {
-            const std::string title = language.localized("Language", "语言");
-            const View picker = ui::Picker{title, {"English"}, 0, [](int) {}};
-            return View(SettingsSection{
-                            .systemImage = symbol,
-                            .title = title,
-                            .tint = tint,
-                            .backgroundTint = tint.opacity(0.05),
-                            .content = ui::HStack(
-                                {ui::Text(language.localized("Use Orvane in", "Orvane 使用语言")),
-                                 ui::Spacer(), picker.width(160)})})
-                .width(384);
-          },
-          interaction};
+  return {
+      caption,
+      [=](OrvaneLanguage language) {
+        const std::string title = language.localized("Language", "语言");
+        const View picker = ui::Picker{title, {"English"}, 0, [](int) {}};
+        return View(SettingsSection{
+                        .systemImage = symbol,
+                        .title = title,
+                        .tint = tint,
+                        .backgroundTint = tint.opacity(0.05),
+                        .content = ui::HStack(
+                            8, {ui::Text(language.localized("Use Orvane in", "Orvane 使用语言")),
+                                ui::Spacer(), picker.width(160)})})
+            .width(384);
+      },
+      interaction};
 }
 
 GallerySheet sectionSheet() {

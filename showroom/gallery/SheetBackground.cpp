@@ -4,7 +4,7 @@
 #include "Orvane/panels/main/DockPanel.hpp"
 #include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/settings/SettingsPalette.hpp"
-#include "Orvane/ui/draw/StandardColors.hpp"
+#include "Orvane/ui/draw/Color.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/windows/OrvaneSettingsWindow.hpp"

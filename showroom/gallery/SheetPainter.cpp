@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "Orvane/ui/draw/StandardColors.hpp"
+#include "Orvane/ui/draw/Color.hpp"
 #include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/desktop/Glass.hpp"

@@ -7,8 +7,8 @@ namespace orvane::showroom {
 
 using namespace ui;
 
-View HardwareButtonStyle::body(const ButtonConfiguration& configuration,
-                               const Environment& environment) const {
+View HardwareButtonStyle::operator()(const ButtonConfiguration& configuration,
+                                     const Environment& environment) const {
   const double strength = configuration.isPressed ? 0.2 : 0.09;
   const Color ground = environment.isDark() ? Color::white().opacity(strength + 0.05)
                                             : Color::black().opacity(strength);

@@ -1,13 +1,13 @@
 // The small push button of the hardware panel.
 #pragma once
 
-#include "Orvane/ui/views/ButtonStyle.hpp"
+#include "Orvane/ui/views/Button.hpp"
 
 namespace orvane::showroom {
 
 struct HardwareButtonStyle {
-  ui::View body(const ui::ButtonConfiguration& configuration,
-                const ui::Environment& environment) const;
+  ui::View operator()(const ui::ButtonConfiguration& configuration,
+                      const ui::Environment& environment) const;
 };
 
 }  // namespace orvane::showroom

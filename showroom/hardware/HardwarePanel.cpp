@@ -35,7 +35,7 @@ struct Group {
     std::vector<View> lines;
     for (const View& row : rows) {
       if (!lines.empty()) {
-        lines.emplace_back(Divider());
+        lines.push_back(Rectangle().fill(Color::tertiary().opacity(0.5)).height(1));
       }
       lines.push_back(row);
     }

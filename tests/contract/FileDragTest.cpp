@@ -15,7 +15,7 @@ class FileDragContract : public ContractFixture {
  protected:
   /// Shows a window of 200 by 100 points at (100, 100), movable by its background; its content is
   /// the drag source of `item`.
-  static Window showSource(const std::optional<ui::DragItem>& item) {
+  static Window showSource(const std::optional<ui::DragRequest>& item) {
     Window window(appkit::WindowKind::panel, CGRectMake(100, 100, 200, 100),
                   appkit::StyleMask::nonactivatingPanel);
     window.setMovableByWindowBackground(true);
@@ -30,7 +30,7 @@ class FileDragContract : public ContractFixture {
 
 TEST_F(FileDragContract, ADraggedFileCanOnlyBeCopied) {
   ORVANE_ARRANGE(arrangeTwoDisplays());
-  Window window = showSource(ui::DragItem{"file:///Applications/A.app/", "AppIcon"});
+  Window window = showSource(ui::DragRequest{"file:///Applications/A.app/", "AppIcon"});
   ORVANE_ARRANGE(dragPointer({150, 650}, {180, 650}));
   const std::optional<DraggedFile> file = draggedFile();
   ASSERT_TRUE(file);
@@ -45,7 +45,7 @@ TEST_F(FileDragContract, PressingASourceDoesNotMoveItsWindow) {
   ORVANE_ARRANGE(arrangeTwoDisplays());
   for (const bool hasItem : {true, false}) {
     Window window =
-        showSource(hasItem ? std::optional(ui::DragItem{"file:///A.app/", ""}) : std::nullopt);
+        showSource(hasItem ? std::optional(ui::DragRequest{"file:///A.app/", ""}) : std::nullopt);
     ORVANE_ARRANGE(dragPointer({150, 650}, {180, 600}));
     EXPECT_EQ(draggedFile().has_value(), hasItem);
     releasePointer();

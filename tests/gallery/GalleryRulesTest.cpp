@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/draw/StandardColors.hpp"
+#include "Orvane/ui/draw/Color.hpp"
 #include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"

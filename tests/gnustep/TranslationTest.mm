@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "Orvane/platform/appkit/Workspace.hpp"
-#include "Orvane/ui/draw/StandardColors.hpp"
+#include "Orvane/ui/draw/Color.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "macos/appkit/Strings.hpp"

@@ -16,11 +16,7 @@ class ComponentFixture : public testing::Test {
     test.show(view);
   }
   void appear(bool isDark, bool increasesContrast = false) {
-    ui::Appearance appearance;
-    appearance.dark = isDark;
-    appearance.increaseContrast = increasesContrast;
-    test.host->setAppearance(appearance);
-    test.host->layoutIfNeeded();
+    test.appear({.dark = isDark, .increaseContrast = increasesContrast});
   }
   /// These move or press the pointer, or take it away, and wait for the end of all animations.
   void hover(ui::Point place) {
@@ -50,9 +46,7 @@ class ComponentFixture : public testing::Test {
     test.at(now_);
   }
   [[nodiscard]] std::string drawing() const { return test.drawing(); }
-  [[nodiscard]] bool draws(const std::string& part) const {
-    return drawing().find(part) != std::string::npos;
-  }
+  [[nodiscard]] bool draws(const std::string& part) const { return test.draws(part); }
   /// The number after the last `mark` of the drawing; -1 without one.
   [[nodiscard]] double lastNumberAfter(const std::string& mark) const {
     const std::string text = drawing();

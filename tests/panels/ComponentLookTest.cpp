@@ -324,11 +324,12 @@ TEST_F(ComponentLookTest, OfABorderedButton) {
                {light, pressing, "fill rgba(0 0 0 0.16)" + rim + "0 0 0 0.85)"},
                {dark, away, "fill rgba(1 1 1 0.2)" + darkRim + "1 1 1 0.85)"},
                {dark, pressing, "fill rgba(1 1 1 0.26)" + darkRim + "1 1 1 0.85)"}});
-  const ui::View prominent = textButton(ui::BorderedButtonStyle{.isProminent = true});
-  expectLooks(prominent, {37, 23},
+  const ui::View standard =
+      textButton(ui::BorderedButtonStyle{}).keyboardShortcut(ui::KeyboardShortcut::defaultAction());
+  expectLooks(standard, {37, 23},
               {{light, away, "fill rgba(0 0.478 1 1)" + rim + "1 1 1 1)"},
                {light, pressing, "fill rgba(0 0.478 1 0.8)" + rim + "1 1 1 1)"}});
-  expectLooks(prominent.disabled(true), {37, 23},
+  expectLooks(standard.disabled(true), {37, 23},
               {{light, away, "fill rgba(0 0 0 0.09)" + rim + "0 0 0 0.85)"}});
 }
 

@@ -10,7 +10,7 @@ class SystemSettingsTest : public SystemSettingsFixture {
   appkit::Window makeDragSource(const std::string& fileUrl) {
     appkit::Window source = makeWindow({0, 0}, "source");
     source.setContentView(hosting(ui::Rectangle().dragSource([fileUrl] {
-      return std::optional(ui::DragItem{fileUrl, "icon"});
+      return std::optional(ui::DragRequest{fileUrl, "icon"});
     })));
     source.orderFrontRegardless();
     machine.runDue();

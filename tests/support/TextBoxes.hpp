@@ -5,7 +5,7 @@
 
 #include "Orvane/ui/draw/TextMeasurer.hpp"
 #include "Orvane/ui/host/ViewHost.hpp"
-#include "Orvane/ui/layout/Point.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 
 namespace orvane {
 

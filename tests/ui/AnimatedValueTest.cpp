@@ -23,25 +23,6 @@ Curve anyCurve() {
   }
 }
 
-TEST(AnimatedValueTest, WithoutACurveItJumps) {
-  AnimatedValue value(3);
-  value.set(8, std::nullopt, 1);
-  EXPECT_EQ(value.at(1), 8);
-  EXPECT_FALSE(value.isMoving(1));
-}
-
-TEST(AnimatedValueTest, TravelsFromWhereItWasToItsTarget) {
-  AnimatedValue value(0);
-  value.set(10, Curve::linear(2), 5);
-  EXPECT_EQ(value.at(5), 0);
-  EXPECT_NEAR(value.at(6), 5, 1e-9);
-  EXPECT_TRUE(value.isMoving(6.99));
-  EXPECT_FALSE(value.isMoving(7));
-  EXPECT_EQ(value.at(7), 10);
-  EXPECT_EQ(value.velocityAt(7), 0);
-  EXPECT_EQ(value.at(100), 10);
-}
-
 TEST(AnimatedValueTest, TheSameTargetLetsAMotionGoOn) {
   AnimatedValue value(0);
   value.set(10, Curve::linear(2), 0);

@@ -6,13 +6,12 @@
 
 #include "Orvane/ui/draw/Color.hpp"
 #include "Orvane/ui/draw/Fill.hpp"
-#include "Orvane/ui/draw/StandardColors.hpp"
 
 namespace orvane::ui {
 namespace {
 
-constexpr Appearance dark{true, {}, false, false, false};
-constexpr Appearance highContrast{false, {}, true, false, false};
+constexpr Appearance dark{true, {}, false, false};
+constexpr Appearance highContrast{false, {}, true, false};
 
 Rgba resolved(const Color& color, const Appearance& appearance = {}) {
   return color.resolve(appearance, standardColor);
@@ -45,7 +44,7 @@ TEST(ColorTest, SystemColoursFollowTheAppearance) {
 TEST(ColorTest, TheAccentIsTheUsersChoiceOrBlue) {
   EXPECT_EQ(resolved(Color::accent(), dark), (Rgba{10 / 255.0, 132 / 255.0, 1, 1}));
   const Rgba chosen{0.5, 0.25, 0, 1};
-  EXPECT_EQ(resolved(Color::accent(), {false, chosen, false, false, false}), chosen);
+  EXPECT_EQ(resolved(Color::accent(), {false, chosen, false, false}), chosen);
 }
 
 TEST(ColorTest, OpacitiesMultiply) {
@@ -64,7 +63,7 @@ TEST(ColorTest, FixedColoursDoNotAskThePlatform) {
 }
 
 TEST(ColorTest, AGradientSpacesItsColoursEvenlyFromTopToBottom) {
-  const Gradient gradient = Gradient::linear({Color::white(), Color::black(), Color::white()});
+  const Fill gradient = Fill::gradient({Color::white(), Color::black(), Color::white()});
   ASSERT_EQ(gradient.stops.size(), 3U);
   EXPECT_EQ(gradient.stops[1].location, 0.5);
   EXPECT_EQ(gradient.stops[2].location, 1);

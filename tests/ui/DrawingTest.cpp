@@ -66,21 +66,16 @@ TEST(DrawingTest, AViewAtRestStaysSnappedWhileOthersMove) {
         .animation(Curve::linear(1), isChanged)
         .animation(Curve::linear(1), shift);
   });
-  const auto draws = [&test](const std::string& part) {
-    return test.drawing().find(part) != std::string::npos;
-  };
-  EXPECT_TRUE(draws(" at 0 8\n")) << test.drawing();
+  EXPECT_TRUE(test.draws(" at 0 8\n")) << test.drawing();
   isChanged = true;
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   test.at(0.5);
-  EXPECT_TRUE(draws(" at 0 8\n")) << test.drawing();
+  EXPECT_TRUE(test.draws(" at 0 8\n")) << test.drawing();
   test.at(1);
   shift = 10;
-  test.host->invalidate();
-  test.host->layoutIfNeeded();
+  test.update();
   test.at(1.5);
-  EXPECT_TRUE(draws(" at 5.3 7.8\n")) << test.drawing();
+  EXPECT_TRUE(test.draws(" at 5.3 7.8\n")) << test.drawing();
 }
 
 TEST(DrawingTest, BorderStrokesRunInsideTheirShape) {
@@ -89,12 +84,11 @@ TEST(DrawingTest, BorderStrokesRunInsideTheirShape) {
 }
 
 TEST(DrawingTest, GradientsKeepAllTheirStops) {
-  EXPECT_EQ(
-      drawn(Rectangle().fill(Gradient::linear({Color::white(), Color::clear(), Color::black()},
-                                              UnitPoint::leading(), UnitPoint::trailing())),
-            {40, 20}),
-      "fill rectangle(0 0 40 20) gradient(0 10 to 40 10, 0 rgba(1 1 1 1), 0.5 rgba(0 0 0 0), "
-      "1 rgba(0 0 0 1))\n");
+  EXPECT_EQ(drawn(Rectangle().fill(Fill::gradient({Color::white(), Color::clear(), Color::black()},
+                                                  UnitPoint::leading(), UnitPoint::trailing())),
+                  {40, 20}),
+            "fill rectangle(0 0 40 20) gradient(0 10 to 40 10, 0 rgba(1 1 1 1), 0.5 rgba(0 0 0 0), "
+            "1 rgba(0 0 0 1))\n");
 }
 
 TEST(DrawingTest, AShapeCastsItsOwnShadowBeneathItsFill) {
@@ -162,30 +156,25 @@ TEST(DrawingTest, SymbolsAndImagesAreDrawnByName) {
   EXPECT_EQ(drawn(Symbol("lock").font(Font::system(8, Weight::bold)).foreground(Color::white()),
                   {20, 20}),
             "symbol lock 8/700 rgba(1 1 1 1) (6 6 8 8)\n");
-  EXPECT_EQ(drawn(Image("photo").resizable(), {12, 12}), "image photo (0 0 12 12)\n");
-  EXPECT_EQ(drawn(HStack({Symbol("unknown"), Image("unknown")}), {12, 12}), "");
-  EXPECT_EQ(drawn(Divider(), {12, 1}), "fill rectangle(0 0 12 1) rgba(0 0 0 0.13)\n");
+  EXPECT_EQ(drawn(Image("photo").resizable(), {12, 12}), "image photo (0 3 12 6)\n");
+  EXPECT_EQ(drawn(HStack(8, {Symbol("unknown"), Image("unknown")}), {12, 12}), "");
 }
 
 TEST(DrawingTest, InTheDarkAppearanceAnImageIsReplacedByItsDarkVariant) {
   TestHost test({12, 12});
   test.show(Image("photo").resizable());
-  Appearance dark;
-  dark.dark = true;
-  test.host->setAppearance(dark);
-  test.host->layoutIfNeeded();
-  EXPECT_NE(test.drawing().find("image photo-dark (0 0 12 12)\n"), std::string::npos);
+  test.appear({.dark = true});
+  EXPECT_TRUE(test.draws("image photo-dark (0 3 12 6)\n"));
   EXPECT_FALSE(test.host->takeDirtyRects().empty());
   test.show(Image("icon").resizable());
-  EXPECT_NE(test.drawing().find("image icon (0 0 12 12)\n"), std::string::npos);
+  EXPECT_TRUE(test.draws("image icon (0 3 12 6)\n"));
 }
 
 class DirtyTest : public testing::Test {
  protected:
   std::vector<Rect> dirtyAfterUpdate() {
     test.host->takeDirtyRects();
-    test.host->invalidate();
-    test.host->layoutIfNeeded();
+    test.update();
     return test.host->takeDirtyRects();
   }
   static View box(const Color& color) { return Rectangle().fill(color).frame(20, 20); }
@@ -272,7 +261,7 @@ TEST_F(DirtyTest, ALeavingViewIsRepaintedWhenItIsGone) {
   bool isShown = true;
   test.show([&](const Environment&) -> View {
     return ZStack({when(isShown,
-                        [&] { return box(Color::white()).transition(Transition::scale(0.5)); })})
+                        [&] { return box(Color::white()).transition({.absentScale = 0.5}); })})
         .animation(Curve::linear(1), isShown);
   });
   isShown = false;
@@ -281,7 +270,7 @@ TEST_F(DirtyTest, ALeavingViewIsRepaintedWhenItIsGone) {
   test.host->takeDirtyRects();
   test.at(1);
   EXPECT_FALSE(test.host->takeDirtyRects().empty());
-  EXPECT_EQ(test.drawing().find("fill"), std::string::npos);
+  EXPECT_FALSE(test.draws("fill"));
 }
 
 TEST_F(DirtyTest, ALayersOpacityRepaintsEverythingInIt) {

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/views/Button.hpp"
-#include "Orvane/ui/views/Group.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
 #include "tests/ui/TestHost.hpp"
@@ -16,8 +15,8 @@ struct Counter {
 
   View body(const Environment& environment) const {
     const State<int> count = environment.state<int>("count", 0);
-    return Button([count] { count.set(*count + 1); },
-                  Text(name + std::to_string(*count)).font(Font::system(10)))
+    return Button([count] { count.set(count.value() + 1); },
+                  Text(name + std::to_string(count.value())).font(Font::system(10)))
         .style(BareButtonStyle{});
   }
 };
@@ -43,9 +42,9 @@ TEST(IdentityTest, StateFollowsItsItemWhenItemsMove) {
   std::vector<std::string> names{"a", "b", "c"};
   TestHost test({30, 10});
   test.show([&](const Environment&) -> View {
-    return HStack(0, {forEach(
+    return HStack(0, forEach(
                          names, [](const std::string& name) { return name; },
-                         [](const std::string& name) { return Counter{name}; })});
+                         [](const std::string& name, std::size_t) { return Counter{name}; }));
   });
   test.click({15, 5});
   EXPECT_EQ(labels(test), "a0 b1 c0 ");
@@ -89,7 +88,7 @@ TEST(IdentityTest, AViewAppearsOnceUntilItIsRemoved) {
   int appearances = 0;
   TestHost test;
   test.show([&](const Environment&) -> View {
-    return VStack({when(isShown, [&] { return Text("a").onAppear([&] { ++appearances; }); })});
+    return VStack(8, {when(isShown, [&] { return Text("a").onAppear([&] { ++appearances; }); })});
   });
   EXPECT_EQ(appearances, 1);
   test.update();
@@ -127,7 +126,7 @@ TEST(IdentityTest, OnlyAnotherValueOfALivingViewsStateAsksForARedraw) {
   EXPECT_EQ(test.redrawRequests, before + 1);
   test.host.reset();
   kept->set(5);
-  EXPECT_EQ(**kept, 5);
+  EXPECT_EQ(kept->value(), 5);
   EXPECT_EQ(test.redrawRequests, before + 1);
 }
 
@@ -135,7 +134,7 @@ TEST(StateDeathTest, StateIsOnlyAvailableInABody) {
   testing::GTEST_FLAG(death_test_style) = "threadsafe";
   TestHost test;
   const auto useInRoot = [](const Environment& environment) {
-    return Text(std::to_string(*environment.state("n", 0)));
+    return Text(std::to_string(environment.state("n", 0).value()));
   };
   EXPECT_DEATH(test.show(useInRoot), "state\\(\\) is for the body of a view");
   struct UseInHandler {

@@ -30,7 +30,7 @@ class KeyboardFocusTest : public testing::Test {
 };
 
 TEST_F(KeyboardFocusTest, TabWalksInReadingOrderAndRoundAgain) {
-  test.show(VStack({HStack({button("a"), button("b")}), button("c")}));
+  test.show(VStack(8, {HStack(8, {button("a"), button("b")}), button("c")}));
   EXPECT_EQ(focused(), "");
   std::string walk;
   for (int step = 0; step < 4; ++step) {
@@ -45,22 +45,22 @@ TEST_F(KeyboardFocusTest, TabWalksInReadingOrderAndRoundAgain) {
 }
 
 TEST_F(KeyboardFocusTest, ShiftTabBeginsAtTheEnd) {
-  test.show(HStack({button("a"), button("b")}));
+  test.show(HStack(8, {button("a"), button("b")}));
   test.press(Key::tab, true);
   EXPECT_EQ(focused(), "b");
 }
 
 TEST_F(KeyboardFocusTest, DisabledAndInvisibleControlsAreSkipped) {
-  test.show(HStack({button("a").disabled(true), button("b").opacity(0), button("c")}));
+  test.show(HStack(8, {button("a").disabled(true), button("b").opacity(0), button("c")}));
   test.press(Key::tab);
   EXPECT_EQ(focused(), "c");
 }
 
 TEST_F(KeyboardFocusTest, TabPassesOverWhatIsOutOfItsOrder) {
-  test.show(HStack({Button("a", [this] { log += "a"; })
-                        .outOfTabOrder()
-                        .keyboardShortcut(KeyboardShortcut::command("w")),
-                    button("b")}));
+  test.show(HStack(8, {Button("a", [this] { log += "a"; })
+                           .outOfTabOrder()
+                           .keyboardShortcut(KeyboardShortcut::command("w")),
+                       button("b")}));
   test.press(Key::tab);
   EXPECT_EQ(focused(), "b");
   test.press(Key::tab);
@@ -80,7 +80,7 @@ TEST_F(KeyboardFocusTest, WithoutControlsTabIsNotHandled) {
 }
 
 TEST_F(KeyboardFocusTest, SpaceActivatesTheFocus) {
-  test.show(HStack({button("a"), button("b")}));
+  test.show(HStack(8, {button("a"), button("b")}));
   EXPECT_FALSE(test.press(Key::space));
   test.press(Key::tab);
   test.press(Key::tab);
@@ -89,8 +89,9 @@ TEST_F(KeyboardFocusTest, SpaceActivatesTheFocus) {
 }
 
 TEST_F(KeyboardFocusTest, ReturnAndEscapeReachTheirButtonsWhateverHasTheFocus) {
-  test.show(HStack({button("a").keyboardShortcut(KeyboardShortcut::cancelAction()),
-                    button("b").keyboardShortcut(KeyboardShortcut::defaultAction()), button("c")}));
+  test.show(
+      HStack(8, {button("a").keyboardShortcut(KeyboardShortcut::cancelAction()),
+                 button("b").keyboardShortcut(KeyboardShortcut::defaultAction()), button("c")}));
   test.press(Key::tab);
   EXPECT_TRUE(test.press(Key::enter));
   EXPECT_EQ(log, "b");
@@ -99,7 +100,7 @@ TEST_F(KeyboardFocusTest, ReturnAndEscapeReachTheirButtonsWhateverHasTheFocus) {
 }
 
 TEST_F(KeyboardFocusTest, WithoutADefaultButtonReturnActivatesTheFocus) {
-  test.show(HStack({button("a"), button("b")}));
+  test.show(HStack(8, {button("a"), button("b")}));
   EXPECT_FALSE(test.press(Key::enter));
   test.press(Key::tab);
   EXPECT_TRUE(test.press(Key::enter));
@@ -138,16 +139,16 @@ TEST_F(KeyboardFocusTest, TheRingIsSeenOnlyWhenTheFocusCameByTheKeyboard) {
   EXPECT_EQ(ring(), "rgba(0 0.478 1 0.6) width 3\nrestore\n");
   EXPECT_EQ(test.host->takeDirtyRects(), (std::vector<Rect>{{124, 34, 52, 32}}));
   // 4.5 to 1 on luminances of 0.8 and 0.08.
-  test.host->setAppearance({false, {}, true, false, false});
+  test.host->setAppearance({false, {}, true, false});
   EXPECT_EQ(ring(), "rgba(0 0.394 0.824 1) width 3\nrestore\n");
-  test.host->setAppearance({true, {}, true, false, false});
+  test.host->setAppearance({true, {}, true, false});
   EXPECT_EQ(ring(), "rgba(0.557 0.778 1 1) width 3\nrestore\n");
 }
 
 TEST_F(KeyboardFocusTest, TheFocusEndsWithItsNode) {
   bool isShown = true;
   test.show([&](const Environment&) -> View {
-    return HStack({when(isShown, [&] { return button("a"); }), button("b")});
+    return HStack(8, {when(isShown, [&] { return button("a"); }), button("b")});
   });
   test.press(Key::tab);
   EXPECT_NE(test.host->focusedId(), 0U);

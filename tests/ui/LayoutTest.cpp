@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvane/ui/views/Group.hpp"
 #include "Orvane/ui/views/Image.hpp"
 #include "Orvane/ui/views/ScrollView.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
@@ -46,7 +45,7 @@ TEST(LayoutTest, ARowOfItsIdealWidthTruncatesNoText) {
     test.show(row.padding(3.3));
     test.host->setSize(test.host->intrinsicSize());
     test.host->layoutIfNeeded();
-    EXPECT_EQ(test.drawing().find("…"), std::string::npos) << size;
+    EXPECT_FALSE(test.draws("…")) << size;
   }
 }
 
@@ -120,35 +119,26 @@ TEST(LayoutTest, SpacersPushTheirNeighboursApart) {
 
 TEST(LayoutTest, AHeaderRowWrapsWordByWord) {
   // At every width: the rigid label keeps its room, then the text wraps, and at last both break.
-  const View header = HStack(8, VerticalAlignment::top, {Text("aaaa bbbb"), Spacer(), Text("ok")});
+  const View header = HStack(8, {Text("aaaa bbbb"), Spacer(), Text("ok")});
   const View tall = header.frame({.maximumHeight = infinity, .alignment = Alignment::top()});
   const std::vector<std::pair<double, std::string>> expected{
       {100, "aaaa bbbb(0 0 45 10) ok(90 0 10 10)"}, {80, "aaaa bbbb(0 0 45 10) ok(70 0 10 10)"},
-      {71, "aaaa bbbb(0 0 45 10) ok(61 0 10 10)"},  {70, "aaaa bbbb(0 0 20 20) ok(60 0 10 10)"},
-      {60, "aaaa bbbb(0 0 20 20) ok(50 0 10 10)"},  {46, "aaaa bbbb(0 0 20 20) ok(36 0 10 10)"},
-      {45, "aaaa bbbb(0 0 15 40) ok(35 0 10 10)"}};
+      {71, "aaaa bbbb(0 0 45 10) ok(61 0 10 10)"},  {70, "aaaa bbbb(0 0 20 20) ok(60 5 10 10)"},
+      {60, "aaaa bbbb(0 0 20 20) ok(50 5 10 10)"},  {46, "aaaa bbbb(0 0 20 20) ok(36 5 10 10)"},
+      {45, "aaaa bbbb(0 0 15 40) ok(35 15 10 10)"}};
   for (const auto& [width, frames] : expected) {
     EXPECT_EQ(framesIn(tall, width, 100), frames) << width;
   }
 }
 
 TEST(LayoutTest, EmptyViewsTakeNeitherRoomNorSpacing) {
-  const View row =
-      HStack(8, {Text("a"), when(false, [] { return Text("gone"); }), Text("b"), View().padding()});
+  const View row = HStack(
+      8, {Text("a"), when(false, [] { return Text("gone"); }), Text("b"), View().padding(16)});
   EXPECT_EQ(framesIn(row, 18, 10), "a(0 0 5 10) b(13 0 5 10)");
 }
 
-TEST(LayoutTest, AGroupTakesPartInItsStackMemberByMember) {
-  const std::vector<std::string> names{"x", "y"};
-  const View items = forEach(
-      names, [](const std::string& name) { return name; },
-      [](const std::string& name) { return Text(name); });
-  EXPECT_EQ(framesIn(HStack(5, {Text("a"), items, Text("b")}), 35, 10),
-            "a(0 0 5 10) x(10 0 5 10) y(20 0 5 10) b(30 0 5 10)");
-}
-
 TEST(LayoutTest, PaddingSurroundsAndModifiersApplyInTheirOrder) {
-  EXPECT_EQ(ideal(Text("a").padding()), (Size{37, 42}));
+  EXPECT_EQ(ideal(Text("a").padding(16)), (Size{37, 42}));
   EXPECT_EQ(ideal(Text("a").padding(Edges::symmetric(13, 8))), (Size{31, 26}));
   EXPECT_EQ(ideal(Text("a").padding(4).frame(50, 50)), (Size{50, 50}));
   EXPECT_EQ(ideal(Text("a").frame(50, 50).padding(4)), (Size{58, 58}));
@@ -162,22 +152,18 @@ TEST(LayoutTest, AFixedFrameAlignsItsContent) {
   EXPECT_EQ(framesIn(Text("a").frame(25, 30), 25, 30), "a(10 10 5 10)");
 }
 
-TEST(LayoutTest, AFlexibleFrameGrowsToItsProposalWithinItsBounds) {
-  FrameBounds bounds;
-  bounds.minimumWidth = 20;
-  bounds.maximumWidth = 60;
-  bounds.alignment = Alignment::leading();
-  const View view = HStack(0, {Text("a").frame(bounds), Text("b"), Spacer()});
+TEST(LayoutTest, AFlexibleFrameGrowsToItsProposalUpToItsMaximum) {
+  const View view =
+      HStack(0, {Text("a").maximumWidth(60, Alignment::leading()), Text("b"), Spacer()});
   EXPECT_EQ(framesIn(view, 100, 10), "a(0 0 5 10) b(60 0 5 10)");
   EXPECT_EQ(framesIn(view, 50, 10), "a(0 0 5 10) b(45 0 5 10)");
-  EXPECT_EQ(framesIn(view, 25, 10), "a(0 0 5 10) b(20 0 5 10)");
   EXPECT_EQ(ideal(Text("a").maximumWidth()), (Size{5, 10}));
 }
 
 TEST(LayoutTest, TextIsTruncatedToItsHeightUnlessItIsFixed) {
   TestHost cut({20, 15});
   cut.show(Text("aaaa bbbb cccc").font(Font::system(10)));
-  EXPECT_NE(cut.drawing().find("text \"aaa…\""), std::string::npos);
+  EXPECT_TRUE(cut.draws("text \"aaa…\""));
   EXPECT_EQ(cut.frames(), "aaaa bbbb cccc(0 2.5 20 10)");
   EXPECT_EQ(framesIn(Text("aaaa bbbb cccc").fixedSizeVertical(), 20, 15),
             "aaaa bbbb cccc(0 -7.5 20 30)");
@@ -200,13 +186,6 @@ TEST(LayoutTest, DepthStacksAreAsLargeAsTheirLargest) {
             "aaa(0 10 15 10) b\nb(10 0 5 20)");
 }
 
-TEST(LayoutTest, ADividerRunsAcrossItsStack) {
-  const View column = VStack(4, {Text("a"), Divider(), Text("b")});
-  EXPECT_EQ(framesIn(column, 50, 29), "a(22.5 0 5 10) b(22.5 19 5 10)");
-  EXPECT_EQ(framesIn(HStack(4, {Text("a"), Divider(), Text("b")}), 19, 30),
-            "a(0 10 5 10) b(14 10 5 10)");
-}
-
 TEST(LayoutTest, AScrollViewTakesItsWidthAndTheHeightOfItsContent) {
   const View row = ScrollView(HStack(5, {Text("aaaa"), Text("bbbb")}));
   EXPECT_EQ(framesIn(VStack(0, {row, Text("c")}), 30, 20),
@@ -219,14 +198,9 @@ TEST(LayoutTest, ImagesKeepTheirSizeUntilTheyAreMadeResizable) {
   EXPECT_EQ(ideal(Image("unknown")), (Size{0, 0}));
   TestHost test({30, 30});
   test.show(Image("photo").resizable());
-  EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{30, 30}));
-  test.show(Image("photo").resizable(ContentMode::fit));
   EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 30})), (Size{30, 15}));
-}
-
-TEST(LayoutTest, HigherPrioritiesAreServedFirst) {
-  const View row = HStack(0, {Text("aa aa"), Text("bb bb").layoutPriority(1)});
-  EXPECT_EQ(framesIn(row, 35, 20), "aa aa(0 0 10 20) bb bb(10 5 25 10)");
+  EXPECT_EQ(test.host->sizeThatFits(Proposal::of({30, 10})), (Size{20, 10}));
+  EXPECT_EQ(ideal(Image("photo").resizable()), (Size{40, 20}));
 }
 
 }  // namespace

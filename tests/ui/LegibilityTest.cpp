@@ -43,13 +43,6 @@ TEST(LegibilityTest, ContrastIsThatOfTheGuidelines) {
   EXPECT_NEAR(contrastOf({0, 0, 1, 1}, white), 8.59, 0.005);
 }
 
-TEST(LegibilityTest, MoreIsRequiredWhereTheUserAsksForContrast) {
-  Appearance appearance;
-  EXPECT_EQ(legibility::requiredContrast(appearance), 3);
-  appearance.increaseContrast = true;
-  EXPECT_EQ(legibility::requiredContrast(appearance), 4.5);
-}
-
 RC_GTEST_PROP(LegibilityTest, ATextReachesTheContrastInItsOwnHue, ()) {
   const Rgba color = anyColor();
   const double level = *rc::gen::inRange(0, 101) / 100.0;

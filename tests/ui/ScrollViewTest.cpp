@@ -89,9 +89,7 @@ TEST_F(ScrollViewTest, AViewThatBecomesWantedIsScrolledIntoView) {
 }
 
 TEST_F(ScrollViewTest, ItJumpsWhereMotionIsReduced) {
-  Appearance appearance;
-  appearance.reduceMotion = true;
-  test.host->setAppearance(appearance);
+  test.appear({.reduceMotion = true});
   want("d");
   EXPECT_EQ(right("d"), 100 - margin);
   EXPECT_FALSE(test.host->nextFrameWanted());

@@ -22,29 +22,30 @@ std::string described(const View& view) {
 }
 
 TEST(SemanticsTest, TextsAndButtonsAreElementsAndDecorationIsNot) {
-  EXPECT_EQ(described(VStack({Text("Title"), Symbol("lock"), Image("photo"), Capsule(),
-                              Button([] {}, HStack({Symbol("lock"), Text("Pin"), Text("Dock")}))})),
-            "group\n"
-            "  text \"Title\"\n"
-            "  button \"Pin, Dock\"\n");
+  EXPECT_EQ(
+      described(VStack(8, {Text("Title"), Symbol("lock"), Image("photo"), Capsule(),
+                           Button([] {}, HStack(8, {Symbol("lock"), Text("Pin"), Text("Dock")}))})),
+      "group\n"
+      "  text \"Title\"\n"
+      "  button \"Pin, Dock\"\n");
 }
 
 TEST(SemanticsTest, ModifiersCompleteWhatAViewSays) {
-  EXPECT_EQ(
-      described(HStack({Button([] {}, Symbol("xmark")).accessibilityLabel("Close"),
-                        Button("Card", [] {}).accessibilitySelected(true),
-                        Symbol("lock").accessibilityLabel("Locked").accessibilityRole(Role::image),
-                        Text("secret").accessibilityHidden(),
-                        HStack({Text("a"), Text("b")}).accessibilityLabel("Both"),
-                        Button("Pin", [] {}).accessibilityValue("on").disabled(true)})),
-      "group\n"
-      "  button \"Close\"\n"
-      "  button \"Card\" selected\n"
-      "  image \"Locked\"\n"
-      "  group \"Both\"\n"
-      "    text \"a\"\n"
-      "    text \"b\"\n"
-      "  button \"Pin\" = \"on\" disabled\n");
+  EXPECT_EQ(described(HStack(
+                8, {Button([] {}, Symbol("xmark")).accessibilityLabel("Close"),
+                    Button("Card", [] {}).accessibilitySelected(true),
+                    Symbol("lock").accessibilityLabel("Locked").accessibilityRole(Role::image),
+                    Text("secret").accessibilityHidden(),
+                    HStack(8, {Text("a"), Text("b")}).accessibilityLabel("Both"),
+                    Button("Pin", [] {}).accessibilityValue("on").disabled(true)})),
+            "group\n"
+            "  button \"Close\"\n"
+            "  button \"Card\" selected\n"
+            "  image \"Locked\"\n"
+            "  group \"Both\"\n"
+            "    text \"a\"\n"
+            "    text \"b\"\n"
+            "  button \"Pin\" = \"on\" disabled\n");
 }
 
 TEST(SemanticsTest, AScrollAreaHoldsItsContent) {
@@ -52,7 +53,7 @@ TEST(SemanticsTest, AScrollAreaHoldsItsContent) {
 }
 
 TEST(SemanticsTest, WhatHasFadedOutIsNotThere) {
-  EXPECT_EQ(described(VStack({Text("a").opacity(0), Text("b").opacity(0.1)})),
+  EXPECT_EQ(described(VStack(8, {Text("a").opacity(0), Text("b").opacity(0.1)})),
             "group\n  text \"b\"\n");
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Orvane/ui/host/ViewHost.hpp"
+#include "Orvane/ui/views/Text.hpp"
 #include "desk/hand/FindControl.hpp"
 #include "tests/support/RecordingCanvas.hpp"
 #include "tests/support/SyntheticTextMeasurer.hpp"
@@ -50,6 +51,11 @@ class TestHost {
     host->layoutIfNeeded();
   }
 
+  void appear(const Appearance& appearance) {
+    host->setAppearance(appearance);
+    host->layoutIfNeeded();
+  }
+
   // Moves the time to the moment, in seconds.
   void at(double seconds) { host->tick(seconds); }
 
@@ -89,6 +95,7 @@ class TestHost {
     host->paint(canvas, {0, 0, host->size().width, host->size().height});
     return canvas.text();
   }
+  bool draws(const std::string& part) const { return drawing().find(part) != std::string::npos; }
   // The element with the label, searched in the order of the tree.
   std::optional<SemanticsNode> element(const std::string& label) const {
     return desk::findElement(host->semantics(),
@@ -112,5 +119,10 @@ class TestHost {
 
   SyntheticTextMeasurer text_;
 };
+
+// A text of one line, 50 points wide, in a frame of this width.
+inline View lineOfTenCharacters(double width) {
+  return Text("abcdefghij").font(Font::system(10)).lineLimit(1).frame({.width = width});
+}
 
 }  // namespace orvane::ui

@@ -7,35 +7,27 @@
 namespace orvane::ui {
 namespace {
 
-const std::string whole = "abcdefghij";
-
-// Ten characters of the synthetic font are 50 points wide at size 10.
-View line(double width) {
-  return Text(whole).font(Font::system(10)).lineLimit(1).frame({.width = width});
-}
-
 class TextTest : public testing::Test {
  protected:
-  bool draws(const std::string& part) const {
-    return test.drawing().find(part) != std::string::npos;
-  }
+  double widthOfLine() { return test.element("abcdefghij")->frame.width; }
+  double heightOfLine() { return test.element("abcdefghij")->frame.height; }
 
   TestHost test;
 };
 
 TEST_F(TextTest, IsTightenedAsFarAsNecessaryAndAllowed) {
-  test.show(line(50).allowsTightening());
-  EXPECT_TRUE(draws("text \"abcdefghij\" 10/400 ")) << test.drawing();
+  test.show(lineOfTenCharacters(50).allowsTightening());
+  EXPECT_TRUE(test.draws("text \"abcdefghij\" 10/400 ")) << test.drawing();
   // A fifth of a point for each character, in steps of a 64th of a point.
-  test.show(line(48).allowsTightening());
-  EXPECT_TRUE(draws("text \"abcdefghij\" 10/400/-0.203 ")) << test.drawing();
-  EXPECT_LE(test.element(whole)->frame.width, 48);
-  test.show(line(47).allowsTightening());
-  EXPECT_TRUE(draws("text \"abcdefgh…\" 10/400 ")) << test.drawing();
-  test.show(line(47).allowsTightening(0.06));
-  EXPECT_TRUE(draws("text \"abcdefghij\" 10/400/-0.313 ")) << test.drawing();
-  test.show(line(48));
-  EXPECT_TRUE(draws("…")) << test.drawing();
+  test.show(lineOfTenCharacters(48).allowsTightening());
+  EXPECT_TRUE(test.draws("text \"abcdefghij\" 10/400/-0.203 ")) << test.drawing();
+  EXPECT_LE(widthOfLine(), 48);
+  test.show(lineOfTenCharacters(47).allowsTightening());
+  EXPECT_TRUE(test.draws("text \"abcdefgh…\" 10/400 ")) << test.drawing();
+  test.show(lineOfTenCharacters(47).allowsTightening(0.06));
+  EXPECT_TRUE(test.draws("text \"abcdefghij\" 10/400/-0.313 ")) << test.drawing();
+  test.show(lineOfTenCharacters(48));
+  EXPECT_TRUE(test.draws("…")) << test.drawing();
 }
 
 TEST_F(TextTest, SeveralLinesAreNotTightened) {
@@ -44,7 +36,7 @@ TEST_F(TextTest, SeveralLinesAreNotTightened) {
                 .lineLimit(2)
                 .allowsTightening()
                 .frame({.width = 48}));
-  EXPECT_FALSE(draws("/-0")) << test.drawing();
+  EXPECT_FALSE(test.draws("/-0")) << test.drawing();
 }
 
 TEST_F(TextTest, FollowsChangesOfItsEnvironment) {
@@ -52,19 +44,22 @@ TEST_F(TextTest, FollowsChangesOfItsEnvironment) {
   double tightening = 0;
   double height = 0;
   test.show([&](const Environment&) {
-    return line(46).truncationMode(mode).allowsTightening(tightening).lineHeight(height);
+    return lineOfTenCharacters(46)
+        .truncationMode(mode)
+        .allowsTightening(tightening)
+        .lineHeight(height);
   });
-  EXPECT_TRUE(draws("\"abcdefgh…\"")) << test.drawing();
+  EXPECT_TRUE(test.draws("\"abcdefgh…\"")) << test.drawing();
   mode = TruncationMode::middle;
   test.update();
-  EXPECT_TRUE(draws("\"abcd…ghij\"")) << test.drawing();
+  EXPECT_TRUE(test.draws("\"abcd…ghij\"")) << test.drawing();
   tightening = 0.1;
   test.update();
-  EXPECT_FALSE(draws("…")) << test.drawing();
-  EXPECT_EQ(test.element(whole)->frame.height, 10);
+  EXPECT_FALSE(test.draws("…")) << test.drawing();
+  EXPECT_EQ(heightOfLine(), 10);
   height = 1;
   test.update();
-  EXPECT_EQ(test.element(whole)->frame.height, 1);
+  EXPECT_EQ(heightOfLine(), 1);
 }
 
 }  // namespace

@@ -12,11 +12,6 @@ namespace {
 
 const std::string fullText = "abcdefghij";
 
-// Ten characters of the synthetic font are 50 points wide at size 10.
-View truncatedLine(double width) {
-  return Text(fullText).font(Font::system(10)).lineLimit(1).frame({.width = width});
-}
-
 class TooltipTest : public testing::Test {
  protected:
   // In the middle of the host, where the views are.
@@ -38,22 +33,22 @@ TEST_F(TooltipTest, BelongsToItsView) {
 }
 
 TEST_F(TooltipTest, IsTheFullTextOfATruncatedText) {
-  test.show(truncatedLine(50));
+  test.show(lineOfTenCharacters(50));
   EXPECT_EQ(tooltip(), "");
   EXPECT_EQ(test.element(fullText)->cutText, "");
-  test.show(truncatedLine(40));
+  test.show(lineOfTenCharacters(40));
   EXPECT_EQ(tooltip(), fullText);
   EXPECT_EQ(test.element(fullText)->cutText, fullText);
   EXPECT_FALSE(test.host->tooltipAt({10, 10}));
 }
 
 TEST_F(TooltipTest, OfAViewReplacesTheFullTextInIt) {
-  test.show(truncatedLine(40).tooltip("A name"));
+  test.show(lineOfTenCharacters(40).tooltip("A name"));
   EXPECT_EQ(tooltip(), "A name");
 }
 
 TEST_F(TooltipTest, OfAControlIsTheFullTextOfATextInIt) {
-  test.show(Button([] {}, VStack(0, {Text("short"), truncatedLine(40)}).frame(120, 80))
+  test.show(Button([] {}, VStack(0, {Text("short"), lineOfTenCharacters(40)}).frame(120, 80))
                 .style(BareButtonStyle{})
                 .accessibilityLabel("A card"));
   EXPECT_EQ(tooltip(), fullText);
@@ -63,7 +58,7 @@ TEST_F(TooltipTest, OfAControlIsTheFullTextOfATextInIt) {
 }
 
 TEST_F(TooltipTest, IsAbsentBesideATruncatedText) {
-  test.show(HStack(0, {truncatedLine(40), Spacer(), Text("more")}).frame(200, 100));
+  test.show(HStack(0, {lineOfTenCharacters(40), Spacer(), Text("more")}).frame(200, 100));
   EXPECT_FALSE(test.host->tooltipAt({100, 50}));
   EXPECT_TRUE(test.host->tooltipAt({20, 50}));
 }

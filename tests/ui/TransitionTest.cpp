@@ -25,27 +25,19 @@ class TransitionTest : public testing::Test {
     isShown = shown;
     test.update();
   }
-  bool draws(const std::string& text) { return test.drawing().find(text) != std::string::npos; }
 
   TestHost test{{100, 50}};
   bool isShown = true;
 };
 
-TEST_F(TransitionTest, TheFirstPresentationComesWithoutOne) {
-  showWith(Transition::opacity());
-  EXPECT_FALSE(test.host->nextFrameWanted());
-  EXPECT_FALSE(draws("layer"));
-  EXPECT_TRUE(draws("text \"a\""));
-}
-
 TEST_F(TransitionTest, AViewFadesOutAndIsThenGone) {
   showWith(Transition::opacity());
   setShown(false);
   test.at(0.25);
-  EXPECT_TRUE(draws("opacity 0.75"));
+  EXPECT_TRUE(test.draws("opacity 0.75"));
   EXPECT_FALSE(test.element("a")) << "leaving views take no input";
   test.at(1);
-  EXPECT_FALSE(draws("text \"a\""));
+  EXPECT_FALSE(test.draws("text \"a\""));
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
 
@@ -53,11 +45,11 @@ TEST_F(TransitionTest, AViewFadesIn) {
   isShown = false;
   showWith(Transition::opacity());
   setShown(true);
-  EXPECT_FALSE(draws("text \"a\""));
+  EXPECT_FALSE(test.draws("text \"a\""));
   test.at(0.25);
-  EXPECT_TRUE(draws("opacity 0.25"));
+  EXPECT_TRUE(test.draws("opacity 0.25"));
   test.at(1);
-  EXPECT_FALSE(draws("layer"));
+  EXPECT_FALSE(test.draws("layer"));
 }
 
 TEST_F(TransitionTest, AViewThatComesBackTurnsRoundWhereItIs) {
@@ -65,17 +57,17 @@ TEST_F(TransitionTest, AViewThatComesBackTurnsRoundWhereItIs) {
   setShown(false);
   test.at(0.25);
   setShown(true);
-  EXPECT_TRUE(draws("opacity 0.75"));
+  EXPECT_TRUE(test.draws("opacity 0.75"));
   const std::string drawing = test.drawing();
   EXPECT_EQ(drawing.find("text \"a\""), drawing.rfind("text \"a\"")) << "it is one view, not two";
   test.at(2);
-  EXPECT_TRUE(draws("text \"a\""));
-  EXPECT_FALSE(draws("layer"));
+  EXPECT_TRUE(test.draws("text \"a\""));
+  EXPECT_FALSE(test.draws("layer"));
 }
 
 TEST_F(TransitionTest, ScaleAndMoveCombine) {
   isShown = false;
-  showWith(Transition::move(Edge::trailing).combined(Transition::scale(0.5)));
+  showWith({.absentScale = 0.5, .absentOffset = 1});
   setShown(true);
   test.at(0.5);
   // Half way: three quarters of the size, and half of its width of 5 to the right. The 5 by 10 text
@@ -83,41 +75,23 @@ TEST_F(TransitionTest, ScaleAndMoveCombine) {
   EXPECT_EQ(test.element("a")->frame, (Rect{47.5 + 2.5 - 1.875 + 2.5, 20 + 5 - 3.75, 3.75, 7.5}));
 }
 
-TEST_F(TransitionTest, AViewMovesInFromItsEdge) {
-  const std::vector<std::pair<Edge, Point>> halfWay{{Edge::top, {47.5, 15}},
-                                                    {Edge::leading, {45, 20}},
-                                                    {Edge::bottom, {47.5, 25}},
-                                                    {Edge::trailing, {50, 20}}};
-  double now = 0;
-  for (const auto& [edge, place] : halfWay) {
-    isShown = false;
-    showWith(Transition::move(edge));
-    test.at(now += 10);
-    setShown(true);
-    test.at(now += 0.5);
-    EXPECT_EQ(test.element("a")->frame.origin(), place);
-  }
-}
-
 TEST_F(TransitionTest, WithoutAnAnimationAViewComesAndGoesAtOnce) {
   test.show([&](const Environment&) -> View {
     return ZStack({when(isShown, [] { return Text("a").transition(Transition::opacity()); })});
   });
   setShown(false);
-  EXPECT_FALSE(draws("text \"a\""));
+  EXPECT_FALSE(test.draws("text \"a\""));
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
 
 TEST_F(TransitionTest, WithReducedMotionAViewIsThereOrGoneAtOnce) {
-  Appearance appearance;
-  appearance.reduceMotion = true;
-  test.host->setAppearance(appearance);
+  test.appear({.reduceMotion = true});
   showWith(Transition::opacity());
   setShown(false);
-  EXPECT_FALSE(draws("text \"a\""));
+  EXPECT_FALSE(test.draws("text \"a\""));
   setShown(true);
-  EXPECT_TRUE(draws("text \"a\""));
-  EXPECT_FALSE(draws("layer"));
+  EXPECT_TRUE(test.draws("text \"a\""));
+  EXPECT_FALSE(test.draws("layer"));
   EXPECT_FALSE(test.host->nextFrameWanted());
 }
 
@@ -137,18 +111,18 @@ TEST_F(FadeThroughTest, TheOldViewIsGoneBeforeTheNewOneComes) {
   showTexts(Curve::linear(1));
   setShown(false);
   test.at(0.125);
-  EXPECT_TRUE(draws("opacity 0.75"));
-  EXPECT_TRUE(draws("text \"on\""));
-  EXPECT_FALSE(draws("text \"off\""));
+  EXPECT_TRUE(test.draws("opacity 0.75"));
+  EXPECT_TRUE(test.draws("text \"on\""));
+  EXPECT_FALSE(test.draws("text \"off\""));
   test.at(0.5);
-  EXPECT_FALSE(draws("text"));
+  EXPECT_FALSE(test.draws("text"));
   test.at(0.875);
-  EXPECT_TRUE(draws("opacity 0.75"));
-  EXPECT_FALSE(draws("text \"on\""));
-  EXPECT_TRUE(draws("text \"off\""));
+  EXPECT_TRUE(test.draws("opacity 0.75"));
+  EXPECT_FALSE(test.draws("text \"on\""));
+  EXPECT_TRUE(test.draws("text \"off\""));
   test.at(1);
-  EXPECT_FALSE(draws("layer"));
-  EXPECT_TRUE(draws("text \"off\""));
+  EXPECT_FALSE(test.draws("layer"));
+  EXPECT_TRUE(test.draws("text \"off\""));
 }
 
 TEST_F(FadeThroughTest, ViewsThatTurnRoundAnywhereAreNeverSeenAtOnce) {
@@ -163,22 +137,11 @@ TEST_F(FadeThroughTest, ViewsThatTurnRoundAnywhereAreNeverSeenAtOnce) {
       setShown(true);
       for (int frame = 0; frame < 100; ++frame) {
         test.at(now += 0.02);
-        EXPECT_FALSE(draws("text \"on\"") && draws("text \"off\"")) << test.drawing();
+        EXPECT_FALSE(test.draws("text \"on\"") && test.draws("text \"off\"")) << test.drawing();
       }
-      EXPECT_TRUE(draws("text \"on\""));
+      EXPECT_TRUE(test.draws("text \"on\""));
     }
   }
-}
-
-TEST_F(FadeThroughTest, CombinesWithAMovement) {
-  isShown = false;
-  showWith(Transition::move(Edge::trailing).combined(Transition::fadeThrough()));
-  setShown(true);
-  test.at(0.25);
-  EXPECT_FALSE(draws("text \"a\""));
-  test.at(0.75);
-  EXPECT_TRUE(draws("opacity 0.5"));
-  EXPECT_EQ(test.element("a")->frame.x, 47.5 + 5 * 0.25);
 }
 
 TEST_F(TransitionTest, WithoutACurveAChangeIsThereAtOnceInsideAnAnimation) {
@@ -204,7 +167,7 @@ TEST_F(TransitionTest, ALeavingLayerStaysWhereItWas) {
   });
   setShown(false);
   test.at(0.5);
-  EXPECT_TRUE(draws("at 95 8")) << test.drawing();
+  EXPECT_TRUE(test.draws("at 95 8")) << test.drawing();
 }
 
 TEST_F(TransitionTest, ALeavingButtonTakesNoClick) {

@@ -38,7 +38,7 @@ class TreeDumpTest : public testing::Test {
 TEST_F(TreeDumpTest, ListsNodesWithTheirFramesAndElements) {
   test.drawing();
   EXPECT_EQ(test.host->dumpTree(),
-            "Group #1 (35 5 30 10) made drawn\n"
+            "Root #1 (35 5 30 10) made drawn\n"
             "  Row #2 (35 5 30 10) made drawn\n"
             "    Animation #3 (35 5 30 10) made drawn\n"
             "      Environment #4 (35 5 30 10) made drawn\n"
@@ -55,7 +55,7 @@ TEST_F(TreeDumpTest, ShowsWhatEachPassDidLast) {
   row.spacing = 20;
   test.update();
   EXPECT_EQ(test.host->dumpTree(),
-            "Group #1 (30 5 40 10) moved resized\n"
+            "Root #1 (30 5 40 10) moved resized\n"
             "  Row #2 (30 5 40 10) resized\n"
             "    Animation #3 (30 5 40 10) resized\n"
             "      Environment #4 (30 5 40 10) resized\n"
@@ -91,7 +91,7 @@ TEST_F(TreeDumpTest, ShowsTransitionsAndTheFocus) {
   test.at(0.5);
   // The text moves to the middle, half of the 12.5 points by now; the button fades out.
   EXPECT_EQ(test.host->dumpTree(),
-            "Group #1 (47.5 5 5 10) moved resized\n"
+            "Root #1 (47.5 5 5 10) moved resized\n"
             "  Row #2 (47.5 5 5 10) resized\n"
             "    Animation #3 (47.5 5 17.5 10) resized animating\n"
             "      Environment #4 (47.5 5 17.5 10) resized animating\n"

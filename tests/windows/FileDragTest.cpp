@@ -9,7 +9,7 @@ class FileDragTest : public WindowFixture {
   FileDragTest() : source(makeWindow({0, 0}, "source")), target(makeWindow({400, 0}, "target")) {
     source.setMovableByWindowBackground(true);
     source.setContentView(hosting(ui::Rectangle().dragSource([] {
-      return std::optional(ui::DragItem{"file:///A.app/", "icon"});
+      return std::optional(ui::DragRequest{"file:///A.app/", "icon"});
     })));
     source.orderFrontRegardless();
     // The right half accepts files.

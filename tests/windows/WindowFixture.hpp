@@ -65,7 +65,8 @@ class WindowFixture : public HandFixture {
 
  private:
   struct PlainStyle {
-    ui::View body(const ui::ButtonConfiguration& configuration, const ui::Environment&) const {
+    ui::View operator()(const ui::ButtonConfiguration& configuration,
+                        const ui::Environment&) const {
       return configuration.label;
     }
   };

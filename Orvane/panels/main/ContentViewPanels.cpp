@@ -14,7 +14,6 @@
 #include "Orvane/panels/main/SecondaryActionButtonStyle.hpp"
 #include "Orvane/panels/main/StatusPill.hpp"
 #include "Orvane/ui/views/Button.hpp"
-#include "Orvane/ui/views/Group.hpp"
 #include "Orvane/ui/views/Image.hpp"
 #include "Orvane/ui/views/ScrollView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
@@ -91,8 +90,7 @@ View header(const PanelIcon& icon, const HeaderTexts& content, const StatusPill&
                           .accessibilityValue(pill.text)
                           .transition(Transition::fadeThrough())
                           .id(std::to_string(pill.isActive));
-  return HStack(headerSpacing, {icon, texts.layoutPriority(1), Spacer(), status})
-      .height(headerHeight);
+  return HStack(headerSpacing, {icon, texts, Spacer(), status}).height(headerHeight);
 }
 
 /// The rows are slightly higher than the panel's content area: they overflow it evenly above and
@@ -137,7 +135,7 @@ View ContentView::displayPicker() const {
   const auto identify = [](const DisplaySnapshot& display) { return display.id; };
   std::vector<std::string> order;
   std::ranges::transform(displays, std::back_inserter(order), identify);
-  const View cards = HStack(cardSpacing, {forEach(displays, identify, card)});
+  const View cards = HStack(cardSpacing, forEach(displays, identify, card));
   // A fixed position, so that the first cards to appear do not move.
   constexpr double cardMargin = (pickerHeight - DisplayChoiceCard::height) / 2;
   // Reordered cards jump: animated, they would pass over one another.
@@ -198,7 +196,7 @@ View ContentView::popUpButtons() const {
         .style(SecondaryActionButtonStyle{})
         .focusRing(ring)
         .width(dockSettingsWidth)
-        .transition(Transition::move(Edge::trailing).combined(Transition::opacity()));
+        .transition({.absentOpacity = 0, .absentOffset = 1});
   };
   // The settings button slides in from the panel's edge, where the clip ends. On the other sides
   // the clip leaves room for the outlines of the buttons.

@@ -7,8 +7,8 @@ namespace orvane {
 
 using namespace ui;
 
-View DarkeningButtonStyle::body(const ButtonConfiguration& configuration,
-                                const Environment& /*environment*/) const {
+View DarkeningButtonStyle::operator()(const ButtonConfiguration& configuration,
+                                      const Environment& /*environment*/) const {
   return configuration.label.overlay(when(configuration.isPressed, [&] {
     return ShapeView(shape).fill(Color::black().opacity(shade));
   }));

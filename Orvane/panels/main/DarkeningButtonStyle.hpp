@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Orvane/ui/draw/Shape.hpp"
-#include "Orvane/ui/views/ButtonStyle.hpp"
+#include "Orvane/ui/views/Button.hpp"
 
 namespace orvane {
 
@@ -12,8 +12,8 @@ struct DarkeningButtonStyle {
   /// The opacity of the black laid over it, from 0 to 1.
   double shade;
 
-  [[nodiscard]] ui::View body(const ui::ButtonConfiguration& configuration,
-                              const ui::Environment& environment) const;
+  [[nodiscard]] ui::View operator()(const ui::ButtonConfiguration& configuration,
+                                    const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

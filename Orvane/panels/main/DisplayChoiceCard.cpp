@@ -33,7 +33,7 @@ const std::string& DisplayChoiceCard::title() const {
 View DisplayChoiceCard::content(bool isDark) const {
   const Color highlight = OrvanePalette::accentText(isDark);
   const View image = Image(display.isBuiltIn ? "DisplayLaptop" : "DisplayMonitor")
-                         .resizable(ContentMode::fit)
+                         .resizable()
                          .frame(122, 70)
                          .shadow({.color = Color::black().opacity(0.06),
                                   .radius = imageShadowRadius,
@@ -75,7 +75,7 @@ View DisplayChoiceCard::checkBadge() const {
       .frame(20, 20)
       .background(Circle().fill(Color::accent()))
       .padding(8)
-      .transition(Transition::scale(0.82).combined(Transition::opacity()));
+      .transition({.absentOpacity = 0, .absentScale = 0.82});
 }
 
 View DisplayChoiceCard::body(const Environment& environment) const {

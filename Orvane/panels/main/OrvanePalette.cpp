@@ -4,7 +4,7 @@
 namespace orvane::OrvanePalette {
 
 using ui::Color;
-using ui::Gradient;
+using ui::Fill;
 
 namespace {
 
@@ -20,20 +20,20 @@ Color accent(double opacity) {
 
 }  // namespace
 
-Gradient windowGradient(bool isDark) {
-  return isDark ? Gradient::linear({white(0.07), accent(0.05), black(0.16)})
-                : Gradient::linear({white(0.34), accent(0.055), white(0.12)});
+Fill windowGradient(bool isDark) {
+  return isDark ? Fill::gradient({white(0.07), accent(0.05), black(0.16)})
+                : Fill::gradient({white(0.34), accent(0.055), white(0.12)});
 }
 
 // Ends in transparent white: towards Color::clear(), which is black, it would turn grey.
-Gradient windowTopHighlight(bool isDark) {
-  return isDark ? Gradient::linear({white(0.085), white(0.035), white(0)})
-                : Gradient::linear({white(0.28), white(0.12), white(0)});
+Fill windowTopHighlight(bool isDark) {
+  return isDark ? Fill::gradient({white(0.085), white(0.035), white(0)})
+                : Fill::gradient({white(0.28), white(0.12), white(0)});
 }
 
-Gradient panelOverlayGradient(bool isDark) {
-  return isDark ? Gradient::linear({white(0.1), accent(0.055), black(0.08)})
-                : Gradient::linear({white(0.3), white(0.1)});
+Fill panelOverlayGradient(bool isDark) {
+  return isDark ? Fill::gradient({white(0.1), accent(0.055), black(0.08)})
+                : Fill::gradient({white(0.3), white(0.1)});
 }
 
 // The backgrounds are those of the selected card at their worst: over a white wallpaper in dark

@@ -8,11 +8,11 @@
 namespace orvane::OrvanePalette {
 
 /// The window's surface, from top to bottom.
-[[nodiscard]] ui::Gradient windowGradient(bool isDark);
+[[nodiscard]] ui::Fill windowGradient(bool isDark);
 /// The highlight at the top of the window.
-[[nodiscard]] ui::Gradient windowTopHighlight(bool isDark);
+[[nodiscard]] ui::Fill windowTopHighlight(bool isDark);
 /// Lies over the fill of a panel.
-[[nodiscard]] ui::Gradient panelOverlayGradient(bool isDark);
+[[nodiscard]] ui::Fill panelOverlayGradient(bool isDark);
 /// The accent colour for text on a panel, adjusted for contrast. Between the panel and the text may
 /// be a veil of the accent colour; `veil` is its opacity.
 [[nodiscard]] ui::Color accentText(bool isDark, double veil = 0);

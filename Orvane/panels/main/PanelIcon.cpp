@@ -27,8 +27,8 @@ View PanelIcon::body(const Environment& /*environment*/) const {
       .background(RoundedRectangle(tileRadius)
                       .castShadow({.color = tint.opacity(0.24), .radius = 7, .y = 3})
                       .fill(Color::black().opacity(0.7))
-                      .fill(Gradient::linear({tint.opacity(0.98), tint.opacity(0.78)}))
-                      .fill(Gradient::linear({light.opacity(0.08), light.opacity(0)})));
+                      .fill(Fill::gradient({tint.opacity(0.98), tint.opacity(0.78)}))
+                      .fill(Fill::gradient({light.opacity(0.08), light.opacity(0)})));
 }
 
 }  // namespace orvane

@@ -8,9 +8,9 @@ namespace orvane {
 
 using namespace ui;
 
-View PrimaryActionButtonStyle::body(const ButtonConfiguration& configuration,
-                                    const Environment& /*environment*/) const {
-  const Fill fill = Gradient::system(tint.buttonFill());
+View PrimaryActionButtonStyle::operator()(const ButtonConfiguration& configuration,
+                                          const Environment& /*environment*/) const {
+  const Fill fill = Fill::systemGradient(tint.buttonFill());
   return configuration.label.font(Font::system(15, Weight::semibold))
       .foreground(tint.buttonLabel())
       .maximumWidth()

@@ -1,7 +1,7 @@
 // The style of a panel's primary button.
 #pragma once
 
-#include "Orvane/ui/views/ButtonStyle.hpp"
+#include "Orvane/ui/views/Button.hpp"
 
 namespace orvane {
 
@@ -12,8 +12,8 @@ struct PrimaryActionButtonStyle {
 
   ui::Color tint;
 
-  [[nodiscard]] ui::View body(const ui::ButtonConfiguration& configuration,
-                              const ui::Environment& environment) const;
+  [[nodiscard]] ui::View operator()(const ui::ButtonConfiguration& configuration,
+                                    const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

@@ -8,8 +8,8 @@ namespace orvane {
 
 using namespace ui;
 
-View SecondaryActionButtonStyle::body(const ButtonConfiguration& configuration,
-                                      const Environment& environment) const {
+View SecondaryActionButtonStyle::operator()(const ButtonConfiguration& configuration,
+                                            const Environment& environment) const {
   const bool isDark = environment.isDark();
   return configuration.label.font(Font::system(13, Weight::bold))
       .foreground(Color::primary().opacity(0.82))

@@ -1,7 +1,7 @@
 // The style of a panel's secondary buttons.
 #pragma once
 
-#include "Orvane/ui/views/ButtonStyle.hpp"
+#include "Orvane/ui/views/Button.hpp"
 
 namespace orvane {
 
@@ -10,8 +10,8 @@ struct SecondaryActionButtonStyle {
   static constexpr double height = 34;
   static constexpr double cornerRadius = 8;
 
-  [[nodiscard]] ui::View body(const ui::ButtonConfiguration& configuration,
-                              const ui::Environment& environment) const;
+  [[nodiscard]] ui::View operator()(const ui::ButtonConfiguration& configuration,
+                                    const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

@@ -19,8 +19,8 @@ double backgroundOpacity(bool isDark, bool isPressed) {
 
 }  // namespace
 
-View TitleBarIconButtonStyle::body(const ButtonConfiguration& configuration,
-                                   const Environment& environment) const {
+View TitleBarIconButtonStyle::operator()(const ButtonConfiguration& configuration,
+                                         const Environment& environment) const {
   const bool isDark = environment.isDark();
   return configuration.label
       .foreground(isDark ? Color::primary().opacity(0.84) : Color::rgb(0.16, 0.22, 0.34))

@@ -1,7 +1,7 @@
 // The style of the icon button in the title bar.
 #pragma once
 
-#include "Orvane/ui/views/ButtonStyle.hpp"
+#include "Orvane/ui/views/Button.hpp"
 
 namespace orvane {
 
@@ -9,8 +9,8 @@ struct TitleBarIconButtonStyle {
   /// In points.
   static constexpr double cornerRadius = 10;
 
-  [[nodiscard]] ui::View body(const ui::ButtonConfiguration& configuration,
-                              const ui::Environment& environment) const;
+  [[nodiscard]] ui::View operator()(const ui::ButtonConfiguration& configuration,
+                                    const ui::Environment& environment) const;
 };
 
 }  // namespace orvane

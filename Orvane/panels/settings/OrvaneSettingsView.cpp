@@ -34,8 +34,8 @@ View headerTile() {
       .background(
           RoundedRectangle(tileCornerRadius)
               .castShadow({.color = SettingsPalette::blue().opacity(0.25), .radius = 5, .y = 2})
-              .fill(Gradient::linear({SettingsPalette::blue(), SettingsPalette::indigo()},
-                                     UnitPoint::topLeading(), UnitPoint::bottomTrailing())));
+              .fill(Fill::gradient({SettingsPalette::blue(), SettingsPalette::indigo()},
+                                   UnitPoint::topLeading(), UnitPoint::bottomTrailing())));
 }
 
 }  // namespace
@@ -54,7 +54,6 @@ View OrvaneSettingsView::hiddenCloseButton(const Environment& environment) const
   return Button(closeAction(environment), Rectangle().frame(0, 0))
       .keyboardShortcut(KeyboardShortcut::command("w"))
       .opacity(0)
-      .hitTesting(false)
       .accessibilityHidden();
 }
 

@@ -9,8 +9,8 @@ namespace orvane {
 
 using namespace ui;
 
-View SettingsIconButtonStyle::body(const ButtonConfiguration& configuration,
-                                   const Environment& environment) const {
+View SettingsIconButtonStyle::operator()(const ButtonConfiguration& configuration,
+                                         const Environment& environment) const {
   const bool isPressed = configuration.isPressed;
   return configuration.label.foreground(isPressed ? SettingsPalette::indigo() : Color::secondary())
       .background(Circle()

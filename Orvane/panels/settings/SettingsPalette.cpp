@@ -4,7 +4,7 @@
 namespace orvane::SettingsPalette {
 
 using ui::Color;
-using ui::Gradient;
+using ui::Fill;
 using ui::UnitPoint;
 
 Color blue() {
@@ -36,21 +36,21 @@ Color statementText() {
   return Color::primary().opacity(0.72);
 }
 
-Gradient windowGradient(bool isDark) {
-  return isDark ? Gradient::linear({Color::rgb(0.055, 0.075, 0.095).opacity(0.98),
-                                    Color::rgb(0.03, 0.07, 0.1).opacity(0.94),
-                                    Color::rgb(0.02, 0.05, 0.055).opacity(0.94)})
-                : Gradient::linear({windowTop().opacity(0.82), windowMid().opacity(0.7),
-                                    windowBottom().opacity(0.78)});
+Fill windowGradient(bool isDark) {
+  return isDark ? Fill::gradient({Color::rgb(0.055, 0.075, 0.095).opacity(0.98),
+                                  Color::rgb(0.03, 0.07, 0.1).opacity(0.94),
+                                  Color::rgb(0.02, 0.05, 0.055).opacity(0.94)})
+                : Fill::gradient({windowTop().opacity(0.82), windowMid().opacity(0.7),
+                                  windowBottom().opacity(0.78)});
 }
 
-Gradient headerGradient(bool isDark) {
-  return Gradient::linear({Color::white().opacity(isDark ? 0.075 : 0.58),
-                           blue().opacity(isDark ? 0.12 : 0.1), mint().opacity(0.08)});
+Fill headerGradient(bool isDark) {
+  return Fill::gradient({Color::white().opacity(isDark ? 0.075 : 0.58),
+                         blue().opacity(isDark ? 0.12 : 0.1), mint().opacity(0.08)});
 }
 
-Gradient dividerGradient(bool isDark) {
-  return Gradient::linear(
+Fill dividerGradient(bool isDark) {
+  return Fill::gradient(
       {Color::white().opacity(isDark ? 0.12 : 0.72), blue().opacity(isDark ? 0.22 : 0.16)},
       UnitPoint::leading(), UnitPoint::trailing());
 }

@@ -18,8 +18,8 @@ namespace orvane::SettingsPalette {
 /// For paragraphs: fainter than titles, with a contrast of at least 4.5 to 1.
 [[nodiscard]] ui::Color statementText();
 
-[[nodiscard]] ui::Gradient windowGradient(bool isDark);
-[[nodiscard]] ui::Gradient headerGradient(bool isDark);
-[[nodiscard]] ui::Gradient dividerGradient(bool isDark);
+[[nodiscard]] ui::Fill windowGradient(bool isDark);
+[[nodiscard]] ui::Fill headerGradient(bool isDark);
+[[nodiscard]] ui::Fill dividerGradient(bool isDark);
 
 }  // namespace orvane::SettingsPalette

@@ -24,8 +24,8 @@ Color pressedVeil(bool isDark) {
 
 }  // namespace
 
-View SettingsSecondaryButtonStyle::body(const ButtonConfiguration& configuration,
-                                        const Environment& environment) const {
+View SettingsSecondaryButtonStyle::operator()(const ButtonConfiguration& configuration,
+                                              const Environment& environment) const {
   const bool isDark = environment.isDark();
   const Color fill =
       isDark ? Color::white().opacity(0.1) : SettingsPalette::buttonFill().opacity(0.9);

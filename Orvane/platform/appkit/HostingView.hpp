@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "Orvane/platform/Quartz.hpp"
-#include "Orvane/ui/host/RootBuilder.hpp"
+#include "Orvane/ui/host/HostServices.hpp"
 
 namespace orvane::appkit {
 

@@ -18,9 +18,8 @@ struct Rgba {
 struct Appearance {
   bool dark = false;
   /// The user's accent colour; none for the platform's default, blue.
-  std::optional<Rgba> accent;
+  std::optional<Rgba> accent = std::nullopt;
   bool increaseContrast = false;
-  bool reduceTransparency = false;
   bool reduceMotion = false;
 
   friend bool operator==(const Appearance&, const Appearance&) = default;

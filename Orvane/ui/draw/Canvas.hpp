@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "Orvane/ui/draw/Fill.hpp"
 #include "Orvane/ui/draw/Font.hpp"
-#include "Orvane/ui/draw/Paint.hpp"
 #include "Orvane/ui/draw/Shadow.hpp"
 #include "Orvane/ui/draw/Shape.hpp"
 #include "Orvane/ui/draw/Transform.hpp"

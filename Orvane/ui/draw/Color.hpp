@@ -27,9 +27,14 @@ enum class SystemColor {
 /// Resolves a name, never `fixed`, for an appearance. Called whenever views are built.
 using ColorResolver = std::function<Rgba(SystemColor, const Appearance&)>;
 
+/// The ColorResolver of a platform without semantic colours of its own. Increased contrast
+/// strengthens the label colours.
+[[nodiscard]] Rgba standardColor(SystemColor name, const Appearance& appearance);
+
 class Color {
  public:
-  /// The fraction of white at the top of Gradient::system: visible as light, not as another colour.
+  /// The fraction of white at the top of Fill::systemGradient: visible as light, not as another
+  /// colour.
   static constexpr double gradientLight = 0.125;
 
   [[nodiscard]] static Color accent() { return Color(SystemColor::accent); }
@@ -65,8 +70,6 @@ class Color {
   [[nodiscard]] Color buttonLabel() const;
 
   [[nodiscard]] Rgba resolve(const Appearance& appearance, const ColorResolver& resolver) const;
-
-  friend bool operator==(const Color&, const Color&) = default;
 
  private:
   enum class Use : std::uint8_t { any, text, buttonFill, buttonLabel };

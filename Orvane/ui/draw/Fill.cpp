@@ -3,8 +3,10 @@
 
 namespace orvane::ui {
 
-Gradient Gradient::linear(std::initializer_list<Color> colors, UnitPoint start, UnitPoint end) {
-  Gradient result{.start = start, .end = end};
+Fill Fill::gradient(std::initializer_list<Color> colors, UnitPoint start, UnitPoint end) {
+  Fill result;
+  result.start = start;
+  result.end = end;
   const double steps = colors.size() > 1 ? static_cast<double>(colors.size() - 1) : 1.0;
   double index = 0;
   for (const Color& color : colors) {
@@ -14,13 +16,13 @@ Gradient Gradient::linear(std::initializer_list<Color> colors, UnitPoint start, 
   return result;
 }
 
-Gradient Gradient::system(const Color& color) {
-  return linear({color.lighter(Color::gradientLight), color});
+Fill Fill::systemGradient(const Color& color) {
+  return gradient({color.lighter(Color::gradientLight), color});
 }
 
-Gradient Gradient::opacity(double factor) const {
-  Gradient result = *this;
-  for (GradientStop& stop : result.stops) {
+Fill Fill::opacity(double factor) const {
+  Fill result = *this;
+  for (FillStop& stop : result.stops) {
     stop.color = stop.color.opacity(factor);
   }
   return result;

@@ -1,54 +1,58 @@
-// The fill of a shape: one colour or a linear gradient, semantic until it is drawn.
+// The fill of a shape, one colour or a linear gradient: semantic, and resolved for a canvas.
 #pragma once
 
 #include <initializer_list>
-#include <utility>
 #include <vector>
 
 #include "Orvane/ui/draw/Color.hpp"
-#include "Orvane/ui/layout/UnitPoint.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 
 namespace orvane::ui {
 
-struct GradientStop {
+struct FillStop {
   Color color;
   /// From 0 (start) to 1 (end).
   double location = 0;
-
-  friend bool operator==(const GradientStop&, const GradientStop&) = default;
 };
 
 /// A linear gradient between two points of the rectangle that it fills, with any number of stops.
-struct Gradient {
-  std::vector<GradientStop> stops = {};
+struct Fill {
+  std::vector<FillStop> stops;
   UnitPoint start = UnitPoint::top();
   UnitPoint end = UnitPoint::bottom();
 
+  /// One colour: a single stop.
+  Fill(const Color& color) : stops{{color, 0}} {}  // NOLINT: meant to convert
   /// Evenly spaced colours.
-  [[nodiscard]] static Gradient linear(std::initializer_list<Color> colors,
-                                       UnitPoint start = UnitPoint::top(),
-                                       UnitPoint end = UnitPoint::bottom());
+  [[nodiscard]] static Fill gradient(std::initializer_list<Color> colors,
+                                     UnitPoint start = UnitPoint::top(),
+                                     UnitPoint end = UnitPoint::bottom());
   /// The system's gradient of one colour, slightly lighter at the top.
-  [[nodiscard]] static Gradient system(const Color& color);
+  [[nodiscard]] static Fill systemGradient(const Color& color);
 
-  [[nodiscard]] Gradient opacity(double factor) const;
-
-  friend bool operator==(const Gradient&, const Gradient&) = default;
-};
-
-class Fill {
- public:
-  /// A single stop.
-  Fill(const Color& color) : gradient_{.stops = {{color, 0}}} {}  // NOLINT: meant to convert
-  Fill(Gradient gradient) : gradient_(std::move(gradient)) {}     // NOLINT: meant to convert
-
-  [[nodiscard]] const Gradient& gradient() const { return gradient_; }
-  [[nodiscard]] Fill opacity(double factor) const { return {gradient_.opacity(factor)}; }
-
-  friend bool operator==(const Fill&, const Fill&) = default;
+  [[nodiscard]] Fill opacity(double factor) const;
 
  private:
-  Gradient gradient_;
+  Fill() = default;
+};
+
+struct PaintStop {
+  Rgba color;
+  /// From 0 (start) to 1 (end), not decreasing from stop to stop.
+  double location = 0;
+};
+
+/// A resolved fill.
+struct Paint {
+  /// Without stops nothing is painted; a single stop is a solid colour.
+  std::vector<PaintStop> stops = {};
+  /// In the coordinates of the painted shape; ignored for a solid colour. The first colour
+  /// continues before the start, the last one after the end.
+  Point start = {};
+  Point end = {};
+
+  [[nodiscard]] static Paint solid(const Rgba& color) { return {.stops = {{color, 0}}}; }
+  [[nodiscard]] bool isSolid() const { return stops.size() == 1; }
 };
 
 }  // namespace orvane::ui

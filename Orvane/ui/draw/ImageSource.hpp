@@ -6,7 +6,7 @@
 #include <string>
 
 #include "Orvane/ui/draw/Font.hpp"
-#include "Orvane/ui/layout/Size.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 
 namespace orvane::ui {
 

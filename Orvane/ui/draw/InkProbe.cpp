@@ -26,21 +26,22 @@ void mixInto(std::uint64_t& fingerprint, double value) {
   mixInto(fingerprint, std::bit_cast<std::uint64_t>(value + 0.0));
 }
 
-void mixInto(std::uint64_t& fingerprint, const Rect& rect) {
-  for (const double value : {rect.x, rect.y, rect.width, rect.height}) {
+void mixInto(std::uint64_t& fingerprint, std::initializer_list<double> values) {
+  for (const double value : values) {
     mixInto(fingerprint, value);
   }
 }
 
 void mixInto(std::uint64_t& fingerprint, Point point) {
-  mixInto(fingerprint, point.x);
-  mixInto(fingerprint, point.y);
+  mixInto(fingerprint, {point.x, point.y});
+}
+
+void mixInto(std::uint64_t& fingerprint, const Rect& rect) {
+  mixInto(fingerprint, {rect.x, rect.y, rect.width, rect.height});
 }
 
 void mixInto(std::uint64_t& fingerprint, const Rgba& color) {
-  for (const double value : {color.red, color.green, color.blue, color.alpha}) {
-    mixInto(fingerprint, value);
-  }
+  mixInto(fingerprint, {color.red, color.green, color.blue, color.alpha});
 }
 
 void mixInto(std::uint64_t& fingerprint, const std::string& text) {
@@ -50,11 +51,14 @@ void mixInto(std::uint64_t& fingerprint, const std::string& text) {
   }
 }
 
+void mixInto(std::uint64_t& fingerprint, const Font& font) {
+  mixInto(fingerprint, {font.size, static_cast<double>(font.weight), font.tracking});
+}
+
 void mixInto(std::uint64_t& fingerprint, const Shape& shape) {
-  mixInto(fingerprint, static_cast<std::uint64_t>(shape.kind));
-  mixInto(fingerprint, static_cast<std::uint64_t>(shape.cornerStyle));
+  mixInto(fingerprint, {static_cast<double>(shape.kind), static_cast<double>(shape.cornerStyle),
+                        shape.cornerRadius});
   mixInto(fingerprint, shape.rect);
-  mixInto(fingerprint, shape.cornerRadius);
 }
 
 void mixInto(std::uint64_t& fingerprint, const Paint& paint) {
@@ -66,16 +70,9 @@ void mixInto(std::uint64_t& fingerprint, const Paint& paint) {
   mixInto(fingerprint, paint.end);
 }
 
-void mixInto(std::uint64_t& fingerprint, const Font& font) {
-  mixInto(fingerprint, font.size);
-  mixInto(fingerprint, static_cast<std::uint64_t>(font.weight));
-  mixInto(fingerprint, font.tracking);
-}
-
 void mixInto(std::uint64_t& fingerprint, const PaintShadow& shadow) {
   mixInto(fingerprint, shadow.color);
-  mixInto(fingerprint, shadow.radius);
-  mixInto(fingerprint, shadow.offset);
+  mixInto(fingerprint, {shadow.radius, shadow.offset.x, shadow.offset.y});
 }
 
 template <typename... Arguments>

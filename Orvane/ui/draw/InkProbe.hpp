@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 
 #include "Orvane/ui/draw/Canvas.hpp"
@@ -11,9 +12,10 @@ namespace orvane::ui {
 
 inline constexpr std::uint64_t emptyFingerprint = 14695981039346656037ULL;
 
-/// Adds a value to a fingerprint.
+/// Adds values to a fingerprint.
 void mixInto(std::uint64_t& fingerprint, std::uint64_t value);
 void mixInto(std::uint64_t& fingerprint, double value);
+void mixInto(std::uint64_t& fingerprint, std::initializer_list<double> values);
 void mixInto(std::uint64_t& fingerprint, Point point);
 void mixInto(std::uint64_t& fingerprint, const Rect& rect);
 void mixInto(std::uint64_t& fingerprint, const Rgba& color);

@@ -4,8 +4,7 @@
 #include <algorithm>
 
 #include "Orvane/ui/draw/Color.hpp"
-#include "Orvane/ui/layout/Edges.hpp"
-#include "Orvane/ui/layout/Point.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 
 namespace orvane::ui {
 
@@ -15,8 +14,6 @@ struct Shadow {
   double radius = 0;
   double x = 0;
   double y = 0;
-
-  friend bool operator==(const Shadow&, const Shadow&) = default;
 };
 
 struct PaintShadow {
@@ -31,8 +28,6 @@ struct PaintShadow {
     return {std::max(0.0, blur - offset.y), std::max(0.0, blur - offset.x),
             std::max(0.0, blur + offset.y), std::max(0.0, blur + offset.x)};
   }
-
-  friend bool operator==(const PaintShadow&, const PaintShadow&) = default;
 };
 
 }  // namespace orvane::ui

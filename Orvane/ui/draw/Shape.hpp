@@ -1,10 +1,38 @@
 // The few outlines that the kit draws, clips to and marks the focus with.
 #pragma once
 
-#include "Orvane/ui/draw/Path.hpp"
+#include <vector>
+
 #include "Orvane/ui/layout/Rect.hpp"
 
 namespace orvane::ui {
+
+struct PathElement {
+  enum class Kind { move, line, cubic, close };
+
+  Kind kind = Kind::move;
+  /// The end of the element; ignored for `close`.
+  Point to = {};
+  /// The control points of a cubic; ignored otherwise.
+  Point control1 = {};
+  Point control2 = {};
+};
+
+/// An outline of lines and cubic Bezier curves, for canvases to trace.
+class Path {
+ public:
+  void move(Point to) { elements_.push_back({.kind = PathElement::Kind::move, .to = to}); }
+  void line(Point to) { elements_.push_back({.kind = PathElement::Kind::line, .to = to}); }
+  void cubic(Point control1, Point control2, Point to) {
+    elements_.push_back({PathElement::Kind::cubic, to, control1, control2});
+  }
+  void close() { elements_.push_back({.kind = PathElement::Kind::close}); }
+
+  [[nodiscard]] const std::vector<PathElement>& elements() const { return elements_; }
+
+ private:
+  std::vector<PathElement> elements_;
+};
 
 /// Circular corners are quarter circles; continuous ones bend in without a jump of curvature.
 enum class CornerStyle { circular, continuous };
@@ -21,9 +49,8 @@ struct Shape {
   CornerStyle cornerStyle = CornerStyle::circular;
 
   [[nodiscard]] static Shape rectangle(const Rect& rect = {}) { return {.rect = rect}; }
-  [[nodiscard]] static Shape rounded(double cornerRadius,
-                                     CornerStyle style = CornerStyle::continuous) {
-    return roundedRectangle({}, cornerRadius, style);
+  [[nodiscard]] static Shape rounded(double cornerRadius) {
+    return roundedRectangle({}, cornerRadius);
   }
   [[nodiscard]] static Shape roundedRectangle(const Rect& rect, double cornerRadius,
                                               CornerStyle style = CornerStyle::continuous) {

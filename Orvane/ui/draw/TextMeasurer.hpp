@@ -1,12 +1,14 @@
 // Measures text and breaks it into lines, apart from drawing it, so that layout needs no canvas.
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
 #include "Orvane/ui/draw/Font.hpp"
-#include "Orvane/ui/draw/LineLimit.hpp"
-#include "Orvane/ui/layout/Size.hpp"
+#include "Orvane/ui/draw/Truncation.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 
 namespace orvane::ui {
 
@@ -15,12 +17,14 @@ struct TextLine {
   /// ellipsis where the text is truncated.
   std::string text;
   double width = 0;
-
-  friend bool operator==(const TextLine&, const TextLine&) = default;
 };
 
 /// The distance between baselines: a whole number of points, as in AppKit's labels.
-[[nodiscard]] double lineHeightFor(double ascent, double descent);
+[[nodiscard]] inline double lineHeightFor(double ascent, double descent) {
+  // A rounding error of the sum does not count as another point.
+  constexpr double slack = 1.0e-6;
+  return std::ceil(ascent + descent - slack);
+}
 
 /// A paragraph broken into lines. The baseline of line i is ascent + i * lineHeight below the top.
 struct TextLayout {
@@ -31,7 +35,13 @@ struct TextLayout {
   bool isTruncated = false;
 
   /// The width of the widest line, and the height of all lines.
-  [[nodiscard]] Size size() const;
+  [[nodiscard]] Size size() const {
+    Size result{0, lineHeight * static_cast<double>(lines.size())};
+    for (const TextLine& line : lines) {
+      result.width = std::max(result.width, line.width);
+    }
+    return result;
+  }
 };
 
 class TextMeasurer {

@@ -1,4 +1,4 @@
-// Shortens a line that is too wide, with the same result on every platform.
+// Limits of a text, and shortening a line that is too wide, with the same result on every platform.
 #pragma once
 
 #include <cstddef>
@@ -6,9 +6,21 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/ui/draw/LineLimit.hpp"
-
 namespace orvane::ui {
+
+/// Position of the ellipsis: at the end, or in the middle, which keeps the end readable.
+enum class TruncationMode { tail, middle };
+
+/// The number of lines that a text may take, and where it is truncated if it needs more.
+struct LineLimit {
+  // NOLINTNEXTLINE: a number is a limit
+  constexpr LineLimit(int count, TruncationMode mode = TruncationMode::tail)
+      : lines(count), truncation(mode) {}
+
+  /// 0 or less means any number.
+  int lines;
+  TruncationMode truncation;
+};
 
 /// The line with "…" in place of what exceeds the width, in points; only the ellipsis where no
 /// character fits, even if it is too wide itself. `places` are the byte offsets between characters

@@ -5,85 +5,56 @@
 #include <utility>
 
 #include "Orvane/ui/views/Attributes.hpp"
-#include "Orvane/ui/views/Group.hpp"
 
 namespace orvane::ui {
+
+namespace {
+
+// The kit's own root stays, so that even the outermost view can appear and disappear.
+class RootElement final : public Element {
+ public:
+  explicit RootElement(View view) : view_(std::move(view)) {}
+
+  void build(Node& node, BuildPass& pass) const override { pass.children(node, {&view_, 1}); }
+
+ private:
+  View view_;
+};
+
+}  // namespace
 
 void BuildPass::root(std::unique_ptr<Node>& node, const View& view,
                      const std::shared_ptr<const Environment>& environment) {
   if (!node) {
     node = make(nullptr);
-    node->element = std::make_shared<GroupElement>(std::vector<View>{});
   }
-  // The kit's own root stays, so that even the outermost view can appear and disappear.
-  update(*node, Group({view}), environment);
+  update(*node, View(std::make_shared<RootElement>(view)), environment);
 }
 
-std::vector<BuildPass::Description> BuildPass::describe(std::span<const View> views,
-                                                        bool spreadsGroups) {
-  std::vector<Description> result;
-  int slot = 0;
-  for (const View& view : views) {
-    const auto* group =
-        spreadsGroups ? dynamic_cast<const GroupElement*>(view.element().get()) : nullptr;
-    if (group != nullptr) {
-      int place = 0;
-      for (const View& member : group->members()) {
-        if (!member.isEmpty()) {
-          const bool isNamed = !member.explicitId().empty();
-          result.push_back({{slot, isNamed ? -1 : place, member.explicitId()}, &member});
-        }
-        ++place;
-      }
-    } else if (!view.isEmpty()) {
-      const bool isNamed = !view.explicitId().empty();
-      result.push_back({{isNamed ? -1 : slot, -1, view.explicitId()}, &view});
-    }
-    ++slot;
-  }
-  return result;
-}
-
-void BuildPass::children(Node& node, std::span<const View> views,
-                         const std::shared_ptr<const Environment>& environment) {
-  reconcile(node, describe(views, false), environment);
-}
-
-void BuildPass::members(Node& node, std::span<const View> views,
-                        const std::shared_ptr<const Environment>& environment) {
-  reconcile(node, describe(views, true), environment);
-}
-
-void BuildPass::body(Node& node, const std::function<View(const Environment&)>& makeBody) {
-  if (!node.states) {
-    node.states = std::make_shared<StateStore>();
-  }
-  Environment own = *node.environment;
-  own.states = node.states;
-  node.states->isBodyRunning = true;
-  const View body = makeBody(own);
-  node.states->isBodyRunning = false;
-  children(node, {&body, 1}, node.environment);
-}
-
-void BuildPass::reconcile(Node& node, const std::vector<Description>& wanted,
-                          const std::shared_ptr<const Environment>& environment) {
+void BuildPass::children(Node& node, std::span<const View> views) {
   std::vector<std::unique_ptr<Node>> old = std::move(node.children);
   node.children.clear();
-  node.children.reserve(wanted.size());
+  node.children.reserve(views.size());
   const bool parentIsNew = node.isNew;
-  for (const Description& description : wanted) {
-    std::unique_ptr<Node> child = take(old, description, node.children.size());
+  int slot = 0;
+  for (const View& view : views) {
+    const bool isNamed = !view.explicitId().empty();
+    const NodeKey key{isNamed ? -1 : slot, view.explicitId()};
+    ++slot;
+    if (view.isEmpty()) {
+      continue;
+    }
+    std::unique_ptr<Node> child = take(old, key, *view.element(), node.children.size());
     const bool isEntering = !child;
     if (!child) {
-      child = take(node.leaving, description, node.leaving.size());
+      child = take(node.leaving, key, *view.element(), node.leaving.size());
     }
     const bool isMade = !child;
     if (!child) {
       child = make(&node);
     }
-    child->key = description.key;
-    update(*child, *description.view, environment);
+    child->key = key;
+    update(*child, view, node.environment);
     if (isEntering && !parentIsNew) {
       enter(*child, isMade);
     }
@@ -96,11 +67,22 @@ void BuildPass::reconcile(Node& node, const std::vector<Description>& wanted,
   }
 }
 
-std::unique_ptr<Node> BuildPass::take(std::vector<std::unique_ptr<Node>>& from,
-                                      const Description& wanted, std::size_t hint) {
-  const Element& element = *wanted.view->element();
+void BuildPass::body(Node& node, const std::function<View(const Environment&)>& makeBody) {
+  if (!node.states) {
+    node.states = std::make_shared<StateStore>();
+  }
+  Environment own = *node.environment;
+  own.states = node.states;
+  node.states->isBodyRunning = true;
+  const View body = makeBody(own);
+  node.states->isBodyRunning = false;
+  children(node, {&body, 1});
+}
+
+std::unique_ptr<Node> BuildPass::take(std::vector<std::unique_ptr<Node>>& from, const NodeKey& key,
+                                      const Element& element, std::size_t hint) {
   const auto matches = [&](const std::unique_ptr<Node>& node) {
-    if (!node || !(node->key == wanted.key)) {
+    if (!node || !(node->key == key)) {
       return false;
     }
     const Element& held = *node->element;

@@ -38,13 +38,9 @@ class BuildPass {
   void root(std::unique_ptr<Node>& node, const View& view,
             const std::shared_ptr<const Environment>& environment);
 
-  /// For Element::build. Makes the views the children of the node; empty views have no node.
-  /// Changes in them follow the node's curve.
-  void children(Node& node, std::span<const View> views,
-                const std::shared_ptr<const Environment>& environment);
-  /// The same for a container, in which the members of a group become children of the container.
-  void members(Node& node, std::span<const View> views,
-               const std::shared_ptr<const Environment>& environment);
+  /// For Element::build. Makes the views the children of the node; empty views have no node. They
+  /// inherit the node's environment, and changes in them follow the node's curve.
+  void children(Node& node, std::span<const View> views);
   /// Makes the result of the function the only child. Its environment has the node's state.
   void body(Node& node, const std::function<View(const Environment&)>& makeBody);
 
@@ -57,16 +53,8 @@ class BuildPass {
   [[nodiscard]] std::vector<std::function<void()>> takeActions() { return std::move(actions_); }
 
  private:
-  struct Description {
-    NodeKey key;
-    const View* view;
-  };
-
-  static std::vector<Description> describe(std::span<const View> views, bool spreadsGroups);
-  void reconcile(Node& node, const std::vector<Description>& wanted,
-                 const std::shared_ptr<const Environment>& environment);
-  static std::unique_ptr<Node> take(std::vector<std::unique_ptr<Node>>& from,
-                                    const Description& wanted, std::size_t hint);
+  static std::unique_ptr<Node> take(std::vector<std::unique_ptr<Node>>& from, const NodeKey& key,
+                                    const Element& element, std::size_t hint);
   std::unique_ptr<Node> make(Node* parent);
   void update(Node& node, const View& view, const std::shared_ptr<const Environment>& environment);
   void updateAttributes(Node& node);

@@ -10,7 +10,7 @@ void DrawPass::visit(const Node& node, Point origin, bool snapsToPixels) {
     return;
   }
   const Rect frame = node.frameAt(now_);
-  const Effect effect = node.element->effect(node, frame.size(), now_);
+  const Effect effect = node.element->effect(node, now_);
   if (effect.opacity <= 0) {
     return;
   }

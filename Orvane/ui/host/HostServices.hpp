@@ -1,13 +1,23 @@
-// What the kit needs from the platform that shows it.
+// What connects a host with the platform, the application and the views that it shows.
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Orvane/ui/layout/Rect.hpp"
+#include "Orvane/ui/views/Curve.hpp"
 
 namespace orvane::ui {
+
+class View;
+class ViewHost;
+struct Environment;
+
+/// Makes a host's root view.
+using RootBuilder = std::function<View(const Environment&)>;
 
 /// A native pop-up menu with a check mark at the selected item.
 struct MenuRequest {
@@ -25,7 +35,7 @@ struct DragRequest {
   std::string fileUrl;
   /// The name of the image that follows the pointer, and its first frame in host coordinates.
   std::string imageName;
-  Rect frame;
+  Rect frame = {};
 };
 
 /// Each function may be unset; its effect is then left out.
@@ -40,6 +50,34 @@ struct HostServices {
   std::function<void()> dismiss;
   /// The semantics tree may have changed.
   std::function<void()> semanticsChanged;
+};
+
+/// The connection of views, their values and their handlers to the host that shows them. The host
+/// owns it, all others hold it weakly. Once the host is destroyed, its functions do
+/// nothing.
+class HostLink {
+ public:
+  HostLink(ViewHost& host, HostServices services) : host_(&host), services_(std::move(services)) {}
+
+  [[nodiscard]] bool isConnected() const { return host_ != nullptr; }
+  void disconnect() { host_ = nullptr; }
+
+  /// As ViewHost::invalidate.
+  void invalidate(const std::optional<Curve>& curve = std::nullopt) const;
+
+  /// Calls a service of the platform, if it is set. The call may destroy the host.
+  template <typename... Parameters, typename... Arguments>
+  void call(std::function<void(Parameters...)> HostServices::*service,
+            const Arguments&... arguments) const {
+    if (isConnected() && services_.*service) {
+      const std::function<void(Parameters...)> kept = services_.*service;
+      kept(arguments...);
+    }
+  }
+
+ private:
+  ViewHost* host_;
+  HostServices services_;
 };
 
 }  // namespace orvane::ui

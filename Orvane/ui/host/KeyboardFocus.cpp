@@ -22,7 +22,7 @@ bool canTakeFocus(const Node& node) {
 
 bool isVisible(const Node& node, double now) {
   for (const Node* current = &node; current != nullptr; current = current->parent) {
-    if (current->element->effect(*current, current->size, now).opacity <= 0) {
+    if (current->element->effect(*current, now).opacity <= 0) {
       return false;
     }
   }

@@ -3,7 +3,7 @@
 
 #include "Orvane/ui/draw/ImageSource.hpp"
 #include "Orvane/ui/draw/TextMeasurer.hpp"
-#include "Orvane/ui/layout/UnitPoint.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "Orvane/ui/views/Node.hpp"
 
 namespace orvane::ui {

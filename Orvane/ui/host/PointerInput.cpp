@@ -5,7 +5,6 @@
 #include <cmath>
 #include <utility>
 
-#include "Orvane/ui/host/HitTest.hpp"
 #include "Orvane/ui/views/ScrollView.hpp"
 
 namespace orvane::ui {
@@ -33,7 +32,7 @@ bool PointerInput::updateHover() {
   }
   std::vector<std::uint64_t> inside;
   if (point_) {
-    for (const Node* node : hitTest(tree_, *point_)) {
+    for (const Node* node : tree_.hitTest(*point_)) {
       if (node->interaction().hover) {
         inside.push_back(node->id);
       }
@@ -71,7 +70,7 @@ void PointerInput::setPressed(Node& node, bool isPressed) const {
 bool PointerInput::press(Point point) {
   point_ = point;
   cancelPress();
-  Node* node = pressTarget(tree_, point);
+  Node* node = tree_.pressTarget(point);
   if (node == nullptr) {
     return false;
   }
@@ -99,15 +98,16 @@ void PointerInput::drag(Point point) {
     }
     return;
   }
-  setPressed(*node, isEnabled && covers(*node, point));
+  setPressed(*node, isEnabled && node->covers(point));
 }
 
 void PointerInput::beginDrag(const Node& node) {
   const std::shared_ptr<HostLink> host = tree_.link;
   const Rect frame = node.hostFrame();
-  const auto makeItem = node.interaction().drag;
-  if (const std::optional<DragItem> item = makeItem()) {
-    host->call(&HostServices::beginDrag, DragRequest{item->fileUrl, item->imageName, frame});
+  const auto makeRequest = node.interaction().drag;
+  if (std::optional<DragRequest> request = makeRequest()) {
+    request->frame = frame;
+    host->call(&HostServices::beginDrag, *request);
     // The platform's drag consumes the release of the button.
     if (host->isConnected()) {
       pressedId_ = 0;
@@ -118,7 +118,7 @@ void PointerInput::beginDrag(const Node& node) {
 bool PointerInput::release(Point point) {
   point_ = point;
   Node* node = tree_.find(pressedId_);
-  const bool isClick = node != nullptr && !isDragging_ && covers(*node, point);
+  const bool isClick = node != nullptr && !isDragging_ && node->covers(point);
   const std::uint64_t id = std::exchange(pressedId_, 0);
   if (node != nullptr) {
     setPressed(*node, false);
@@ -140,7 +140,7 @@ void PointerInput::cancelPress() {
 }
 
 bool PointerInput::scroll(Point point, double distance) {
-  for (Node* node : hitTest(tree_, point)) {
+  for (Node* node : tree_.hitTest(point)) {
     if (scrollBy(*node, distance, tree_.now)) {
       point_ = point;
       return true;

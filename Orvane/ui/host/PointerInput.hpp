@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "Orvane/ui/host/RetainedTree.hpp"
-#include "Orvane/ui/layout/Point.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 
 namespace orvane::ui {
 

@@ -13,13 +13,6 @@ Edges scaled(const Edges& edges, const Transform& transform) {
           edges.bottom * transform.scaleY, edges.trailing * transform.scaleX};
 }
 
-void mixTransform(std::uint64_t& fingerprint, const Transform& transform) {
-  mixInto(fingerprint, transform.scaleX);
-  mixInto(fingerprint, transform.scaleY);
-  mixInto(fingerprint, transform.x);
-  mixInto(fingerprint, transform.y);
-}
-
 bool isPlaceMoving(const Node& node, double now) {
   return node.geometry[0].isMoving(now) || node.geometry[1].isMoving(now);
 }
@@ -63,7 +56,7 @@ void PresentPass::visit(Node& node, const Inherited& outer) {
 
 PresentPass::Inherited PresentPass::through(const Node& node, const Inherited& outer,
                                             bool isChanging) const {
-  const Effect effect = node.element->effect(node, node.size, now_);
+  const Effect effect = node.element->effect(node, now_);
   Inherited inner = outer;
   inner.toHost = node.toHost.after(effect.transform);
   // Neither a changing colour or opacity nor a changing size moves the content.
@@ -100,8 +93,9 @@ void PresentPass::updateInk(Node& node, const Inherited& inner) {
       ink = inner.clip ? ink.intersection(*inner.clip) : ink;
       fingerprint = probe.fingerprint();
       mixInto(fingerprint, inner.fingerprint);
-      mixTransform(fingerprint, inner.toHost);
-      mixInto(fingerprint, node.isMoving ? 1.0 : 0.0);
+      const Transform& place = inner.toHost;
+      mixInto(fingerprint,
+              {place.scaleX, place.scaleY, place.x, place.y, node.isMoving ? 1.0 : 0.0});
     }
   }
   node.trace.isDamaged = fingerprint != node.fingerprint;

@@ -12,7 +12,7 @@ constexpr double longestAnimation = 3600;
 
 std::vector<SemanticsNode> collect(const Node& node, double end) {
   // A view that fades out is gone already, and one that fades in is there.
-  if (node.element->effect(node, node.size, end).opacity <= 0) {
+  if (node.element->effect(node, end).opacity <= 0) {
     return {};
   }
   std::vector<SemanticsNode> children;

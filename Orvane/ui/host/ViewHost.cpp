@@ -4,10 +4,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "Orvane/ui/draw/StandardColors.hpp"
+#include "Orvane/ui/draw/Color.hpp"
 #include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/DrawPass.hpp"
-#include "Orvane/ui/host/HitTest.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/host/PresentPass.hpp"
 #include "Orvane/ui/host/SemanticsPass.hpp"
@@ -212,7 +211,7 @@ void ViewHost::showFocus() {
 }
 
 bool ViewHost::movesWindowAt(Point point) const {
-  return pressTarget(tree_, point) == nullptr;
+  return tree_.pressTarget(point) == nullptr;
 }
 
 SemanticsNode ViewHost::semantics() const {

@@ -19,8 +19,6 @@
 #include "Orvane/ui/host/KeyboardFocus.hpp"
 #include "Orvane/ui/host/PointerInput.hpp"
 #include "Orvane/ui/host/RetainedTree.hpp"
-#include "Orvane/ui/host/RootBuilder.hpp"
-#include "Orvane/ui/host/Tooltip.hpp"
 #include "Orvane/ui/layout/Proposal.hpp"
 #include "Orvane/ui/views/Curve.hpp"
 #include "Orvane/ui/views/KeyboardShortcut.hpp"
@@ -100,7 +98,7 @@ class ViewHost {
   /// False over a view that takes presses.
   [[nodiscard]] bool movesWindowAt(Point point) const;
   [[nodiscard]] std::optional<Tooltip> tooltipAt(Point point) const {
-    return ui::tooltipAt(tree_, point);
+    return tree_.tooltipAt(point);
   }
 
   [[nodiscard]] SemanticsNode semantics() const;

@@ -4,8 +4,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "Orvane/ui/layout/Edges.hpp"
-#include "Orvane/ui/layout/Size.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 
 namespace orvane::ui {
 
@@ -17,10 +16,6 @@ struct Proposal {
   std::optional<double> height;
 
   [[nodiscard]] static Proposal of(Size size) { return {size.width, size.height}; }
-  [[nodiscard]] static Proposal oriented(Axis axis, std::optional<double> along,
-                                         std::optional<double> across) {
-    return axis == Axis::horizontal ? Proposal{along, across} : Proposal{across, along};
-  }
 
   /// With zero for a length that is negative or not a number.
   [[nodiscard]] Proposal sanitized() const {
@@ -37,24 +32,14 @@ struct Proposal {
     return {less(width, edges.width()), less(height, edges.height())};
   }
 
-  [[nodiscard]] std::optional<double> along(Axis axis) const {
-    return axis == Axis::horizontal ? width : height;
-  }
-  [[nodiscard]] std::optional<double> across(Axis axis) const {
-    return axis == Axis::horizontal ? height : width;
-  }
-
   friend bool operator==(const Proposal&, const Proposal&) = default;
 };
 
-[[nodiscard]] inline double lengthAlong(Axis axis, Size size) {
-  return axis == Axis::horizontal ? size.width : size.height;
-}
-[[nodiscard]] inline double lengthAcross(Axis axis, Size size) {
-  return axis == Axis::horizontal ? size.height : size.width;
-}
-[[nodiscard]] inline Size orientedSize(Axis axis, double along, double across) {
-  return axis == Axis::horizontal ? Size{along, across} : Size{across, along};
+/// Exchanges width and height if the axis is vertical, so that the width is the length along the
+/// axis. The same again restores them.
+template <typename Lengths>
+[[nodiscard]] Lengths turned(Axis axis, const Lengths& lengths) {
+  return axis == Axis::horizontal ? lengths : Lengths{lengths.height, lengths.width};
 }
 
 }  // namespace orvane::ui

@@ -1,14 +1,46 @@
-// A rectangle in points: its top left corner and its size, which is never negative.
+// Rectangles, and the points, sizes, edges and alignments that describe them. Lengths are points;
+// the origin is at the top left, y downwards.
 #pragma once
 
 #include <algorithm>
 
-#include "Orvane/ui/layout/Edges.hpp"
-#include "Orvane/ui/layout/Point.hpp"
-#include "Orvane/ui/layout/Size.hpp"
-
 namespace orvane::ui {
 
+struct Point {
+  double x = 0;
+  double y = 0;
+
+  friend bool operator==(const Point&, const Point&) = default;
+  friend Point operator+(Point a, Point b) { return {a.x + b.x, a.y + b.y}; }
+  friend Point operator-(Point a, Point b) { return {a.x - b.x, a.y - b.y}; }
+};
+
+struct Size {
+  double width = 0;
+  double height = 0;
+
+  friend bool operator==(const Size&, const Size&) = default;
+};
+
+/// Distances from the four edges of a rectangle; leading is the left edge.
+struct Edges {
+  double top = 0;
+  double leading = 0;
+  double bottom = 0;
+  double trailing = 0;
+
+  [[nodiscard]] static Edges all(double distance) { return symmetric(distance, distance); }
+  [[nodiscard]] static Edges horizontal(double distance) { return symmetric(distance, 0); }
+  [[nodiscard]] static Edges vertical(double distance) { return symmetric(0, distance); }
+  [[nodiscard]] static Edges symmetric(double horizontal, double vertical) {
+    return {vertical, horizontal, vertical, horizontal};
+  }
+
+  [[nodiscard]] double width() const { return leading + trailing; }
+  [[nodiscard]] double height() const { return top + bottom; }
+};
+
+/// A top left corner and a size, which is never negative.
 struct Rect {
   double x = 0;
   double y = 0;
@@ -68,5 +100,31 @@ struct Rect {
 
   friend bool operator==(const Rect&, const Rect&) = default;
 };
+
+/// A point in a rectangle as fractions of its width and height.
+struct UnitPoint {
+  double x = 0.5;
+  double y = 0.5;
+
+  [[nodiscard]] static constexpr UnitPoint topLeading() { return {0, 0}; }
+  [[nodiscard]] static constexpr UnitPoint top() { return {0.5, 0}; }
+  [[nodiscard]] static constexpr UnitPoint topTrailing() { return {1, 0}; }
+  [[nodiscard]] static constexpr UnitPoint leading() { return {0, 0.5}; }
+  [[nodiscard]] static constexpr UnitPoint center() { return {0.5, 0.5}; }
+  [[nodiscard]] static constexpr UnitPoint trailing() { return {1, 0.5}; }
+  [[nodiscard]] static constexpr UnitPoint bottom() { return {0.5, 1}; }
+  [[nodiscard]] static constexpr UnitPoint bottomTrailing() { return {1, 1}; }
+
+  [[nodiscard]] Point in(const Rect& rect) const {
+    return {rect.x + rect.width * x, rect.y + rect.height * y};
+  }
+  /// The top left corner of content with this alignment, in the container's coordinates.
+  [[nodiscard]] Point originOf(Size content, Size container) const {
+    return {(container.width - content.width) * x, (container.height - content.height) * y};
+  }
+};
+
+/// The position of a view in a frame that is larger or smaller than the view.
+using Alignment = UnitPoint;
 
 }  // namespace orvane::ui

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "Orvane/ui/draw/Fill.hpp"
-#include "Orvane/ui/draw/Paint.hpp"
 #include "Orvane/ui/draw/Shadow.hpp"
 #include "Orvane/ui/views/Node.hpp"
 
@@ -27,12 +26,10 @@ class AttributeWriter {
     }
   }
   void fill(const Fill& fill) {
-    const Gradient& gradient = fill.gradient();
-    for (const double value :
-         {gradient.start.x, gradient.start.y, gradient.end.x, gradient.end.y}) {
+    for (const double value : {fill.start.x, fill.start.y, fill.end.x, fill.end.y}) {
       number(value);
     }
-    for (const GradientStop& stop : gradient.stops) {
+    for (const FillStop& stop : fill.stops) {
       number(stop.location);
       color(stop.color);
     }
@@ -76,7 +73,7 @@ class AttributeReader {
     end.x = number();
     end.y = number();
     Paint paint{.start = start.in(rect), .end = end.in(rect)};
-    for (std::size_t index = 0; index < written.gradient().stops.size(); ++index) {
+    for (std::size_t index = 0; index < written.stops.size(); ++index) {
       const double location = fraction();
       paint.stops.push_back({color(), location});
     }

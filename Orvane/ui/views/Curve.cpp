@@ -45,25 +45,6 @@ double slope(double x1, double y1, double x2, double y2, double s) {
 
 }  // namespace
 
-Curve Curve::bezier(double seconds, double x1, double y1, double x2, double y2) {
-  Curve curve;
-  curve.kind_ = Kind::bezier;
-  curve.seconds_ = seconds;
-  curve.x1_ = x1;
-  curve.y1_ = y1;
-  curve.x2_ = x2;
-  curve.y2_ = y2;
-  return curve;
-}
-
-Curve Curve::spring(double responseSeconds, double dampingFraction) {
-  Curve curve;
-  curve.kind_ = Kind::spring;
-  curve.seconds_ = responseSeconds;
-  curve.dampingFraction_ = std::clamp(dampingFraction, 0.05, 1.0);
-  return curve;
-}
-
 Curve::Remainder Curve::remainder(double distance, std::optional<double> velocity,
                                   double elapsed) const {
   if (!(seconds_ > 0)) {

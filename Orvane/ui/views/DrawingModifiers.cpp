@@ -1,4 +1,4 @@
-// The modifiers that change drawing and hit testing, but not layout.
+// The modifiers that change drawing, but not layout.
 #include <algorithm>
 
 #include "Orvane/ui/views/Attributes.hpp"
@@ -10,19 +10,17 @@ namespace {
 
 // A modifier of one effect. `Values` writes the attributes and makes the effect from them.
 template <typename Values>
-class EffectElement final : public ModifierElement {
+class EffectElement final : public ModifierElement<Values> {
  public:
-  EffectElement(View content, const Values& values)
-      : ModifierElement(std::move(content)), values_(values) {}
+  using ModifierElement<Values>::ModifierElement;
 
-  void attributes(const Node&, AttributeWriter& writer) const override { values_.write(writer); }
-  [[nodiscard]] Effect effect(const Node& node, Size size, double now) const override {
-    AttributeReader reader(node, now);
-    return values_.effect(reader, Rect{0, 0, size.width, size.height});
+  void attributes(const Node&, AttributeWriter& writer) const override {
+    this->value().write(writer);
   }
-
- private:
-  Values values_;
+  [[nodiscard]] Effect effect(const Node& node, double now) const override {
+    AttributeReader reader(node, now);
+    return this->value().effect(reader, Rect{0, 0, node.size.width, node.size.height});
+  }
 };
 
 struct Opacity {
@@ -49,12 +47,11 @@ struct Offset {
 
 struct Scale {
   double factor;
-  UnitPoint anchor;
 
   void write(AttributeWriter& writer) const { writer.number(factor); }
   [[nodiscard]] Effect effect(AttributeReader& reader, const Rect& bounds) const {
     const double present = reader.number();
-    return {.transform = Transform::scale(present, present, anchor.in(bounds))};
+    return {.transform = Transform::scale(present, present, bounds.center())};
   }
 };
 
@@ -77,15 +74,6 @@ struct Clip {
   }
 };
 
-struct HitTesting {
-  bool isAllowed;
-
-  void write(AttributeWriter&) const {}
-  [[nodiscard]] Effect effect(AttributeReader&, const Rect&) const {
-    return {.allowsHitTesting = isAllowed};
-  }
-};
-
 }  // namespace
 
 View View::opacity(double opacity) const {
@@ -96,8 +84,8 @@ View View::offset(double x, double y) const {
   return modified<EffectElement<Offset>>(*this, Offset{{x, y}});
 }
 
-View View::scale(double factor, UnitPoint anchor) const {
-  return modified<EffectElement<Scale>>(*this, Scale{factor, anchor});
+View View::scale(double factor) const {
+  return modified<EffectElement<Scale>>(*this, Scale{factor});
 }
 
 View View::shadow(const Shadow& shadow) const {
@@ -106,10 +94,6 @@ View View::shadow(const Shadow& shadow) const {
 
 View View::clip(const Shape& shape) const {
   return modified<EffectElement<Clip>>(*this, Clip{shape});
-}
-
-View View::hitTesting(bool isAllowed) const {
-  return modified<EffectElement<HitTesting>>(*this, HitTesting{isAllowed});
 }
 
 }  // namespace orvane::ui

@@ -6,8 +6,6 @@
 
 namespace orvane::ui {
 
-void Element::build(Node&, BuildPass&) const {}
-
 Size Element::measure(Node& node, const Proposal& proposal, LayoutPass& pass) const {
   return node.children.empty() ? Size{} : pass.measure(*node.children.front(), proposal);
 }
@@ -17,14 +15,6 @@ void Element::place(Node& node, const Proposal& proposal, Size, LayoutPass& pass
     pass.place(*node.children.front(), {0, 0}, proposal);
   }
 }
-
-void Element::attributes(const Node&, AttributeWriter&) const {}
-
-Effect Element::effect(const Node&, Size, double) const {
-  return {};
-}
-
-void Element::draw(const Node&, const DrawContext&) const {}
 
 const Interaction& Element::interaction() const {
   static const Interaction none;

@@ -27,7 +27,6 @@ struct Effect {
   double opacity = 1;
   std::optional<Shape> clip = std::nullopt;
   std::optional<PaintShadow> shadow = std::nullopt;
-  bool allowsHitTesting = true;
 };
 
 /// Each pass calls its functions; docs/ui.md says what they may read and change.
@@ -39,7 +38,7 @@ class Element {
   virtual ~Element() = default;
 
   /// Describes the node's children to the pass. None by default.
-  virtual void build(Node& node, BuildPass& pass) const;
+  virtual void build(Node&, BuildPass&) const {}
 
   /// The size chosen for a proposal, and the placement of the children for the same proposal. By
   /// default a node is as large as its first child.
@@ -47,10 +46,10 @@ class Element {
   virtual void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const;
 
   /// Writes the numbers that can be animated; effect() and draw() read their values at a time.
-  virtual void attributes(const Node& node, AttributeWriter& writer) const;
-  [[nodiscard]] virtual Effect effect(const Node& node, Size size, double now) const;
+  virtual void attributes(const Node&, AttributeWriter&) const {}
+  [[nodiscard]] virtual Effect effect(const Node&, double /*now*/) const { return {}; }
   /// Draws what belongs to the node itself, below its children.
-  virtual void draw(const Node& node, const DrawContext& context) const;
+  virtual void draw(const Node&, const DrawContext&) const {}
 
   [[nodiscard]] virtual const Interaction& interaction() const;
   /// The node's part of the semantics tree, given that of its children.
@@ -58,6 +57,7 @@ class Element {
       const Node& node, std::vector<SemanticsNode> children) const;
 
   [[nodiscard]] virtual std::optional<Axis> stackAxis() const { return std::nullopt; }
+  /// Stacks serve children of a higher priority first. Only spacers have a lower one than 0.
   [[nodiscard]] virtual double layoutPriority(const Node& node) const;
   [[nodiscard]] virtual const Transition* transition() const { return nullptr; }
 };

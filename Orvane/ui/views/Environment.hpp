@@ -12,8 +12,8 @@
 #include "Orvane/ui/draw/Color.hpp"
 #include "Orvane/ui/draw/Font.hpp"
 #include "Orvane/ui/draw/ImageSource.hpp"
-#include "Orvane/ui/draw/LineLimit.hpp"
-#include "Orvane/ui/host/HostLink.hpp"
+#include "Orvane/ui/draw/Truncation.hpp"
+#include "Orvane/ui/host/HostServices.hpp"
 #include "Orvane/ui/views/KeyboardShortcut.hpp"
 #include "Orvane/ui/views/State.hpp"
 
@@ -21,11 +21,10 @@ namespace orvane::ui {
 
 enum class TextAlignment { leading, center, trailing };
 
-struct Environment {
-  Appearance appearance;
+/// How the lines of a text are made.
+struct TextStyle {
   Font font = Font::body();
-  Color foreground = Color::primary();
-  TextAlignment textAlignment = TextAlignment::leading;
+  TextAlignment alignment = TextAlignment::leading;
   /// 0 means any number of lines.
   int lineLimit = 0;
   TruncationMode truncationMode = TruncationMode::tail;
@@ -33,6 +32,14 @@ struct Environment {
   double tightening = 0;
   /// In points; without one, the font's own.
   std::optional<double> lineHeight;
+
+  friend bool operator==(const TextStyle&, const TextStyle&) = default;
+};
+
+struct Environment {
+  Appearance appearance;
+  Color foreground = Color::primary();
+  TextStyle text;
   bool isEnabled = true;
   /// Activates the first control that inherits it.
   std::optional<KeyboardShortcut> shortcut;

@@ -16,21 +16,18 @@ constexpr const char* darkSuffix = "-dark";
 
 class ImageElement final : public Element {
  public:
-  ImageElement(std::string name, std::optional<ContentMode> mode)
-      : name_(std::move(name)), mode_(mode) {}
+  ImageElement(std::string name, bool isResizable)
+      : name_(std::move(name)), isResizable_(isResizable) {}
 
   Size measure(Node&, const Proposal& proposal, LayoutPass& pass) const override {
     const std::optional<Size> natural = pass.images().image(name_);
-    if (!natural) {
-      return {};
+    if (!natural || !isResizable_) {
+      return natural.value_or(Size{});
     }
-    if (!mode_) {
-      return *natural;
-    }
-    if (*mode_ == ContentMode::stretch) {
-      return {proposal.width.value_or(natural->width), proposal.height.value_or(natural->height)};
-    }
-    return scaled(*natural, proposal);
+    const double factor = std::min(proposal.width.value_or(infinity) / natural->width,
+                                   proposal.height.value_or(infinity) / natural->height);
+    return std::isfinite(factor) ? Size{natural->width * factor, natural->height * factor}
+                                 : *natural;
   }
 
   void draw(const Node& node, const DrawContext& context) const override {
@@ -46,22 +43,8 @@ class ImageElement final : public Element {
     return environment.isDark() && environment.hasImage(dark) ? dark : name_;
   }
 
-  Size scaled(Size natural, const Proposal& proposal) const {
-    const auto ratio = [](std::optional<double> offered, double own) -> std::optional<double> {
-      if (!offered || std::isinf(*offered) || own <= 0) {
-        return std::nullopt;
-      }
-      return *offered / own;
-    };
-    const auto across = ratio(proposal.width, natural.width);
-    const auto down = ratio(proposal.height, natural.height);
-    const double factor =
-        across && down ? std::min(*across, *down) : across.value_or(down.value_or(1));
-    return {natural.width * factor, natural.height * factor};
-  }
-
   std::string name_;
-  std::optional<ContentMode> mode_;
+  bool isResizable_;
 };
 
 class SymbolElement final : public Element {
@@ -69,7 +52,7 @@ class SymbolElement final : public Element {
   explicit SymbolElement(std::string name) : name_(std::move(name)) {}
 
   Size measure(Node& node, const Proposal&, LayoutPass& pass) const override {
-    return pass.images().symbol(name_, node.environment->font).value_or(Size{});
+    return pass.images().symbol(name_, node.environment->text.font).value_or(Size{});
   }
 
   void attributes(const Node& node, AttributeWriter& writer) const override {
@@ -81,7 +64,8 @@ class SymbolElement final : public Element {
       return;
     }
     const Point origin = context.snapped(context.rect.origin());
-    context.canvas.symbol(name_, node.environment->font, AttributeReader(node, context.now).color(),
+    context.canvas.symbol(name_, node.environment->text.font,
+                          AttributeReader(node, context.now).color(),
                           Rect::from(origin, context.rect.size()));
   }
 
@@ -92,10 +76,10 @@ class SymbolElement final : public Element {
 }  // namespace
 
 Image::Image(std::string name)
-    : View(std::make_shared<ImageElement>(name, std::nullopt)), name_(std::move(name)) {}
+    : View(std::make_shared<ImageElement>(name, false)), name_(std::move(name)) {}
 
-View Image::resizable(ContentMode mode) const {
-  return View(std::make_shared<ImageElement>(name_, mode));
+View Image::resizable() const {
+  return View(std::make_shared<ImageElement>(name_, true));
 }
 
 Symbol::Symbol(std::string name) : View(std::make_shared<SymbolElement>(std::move(name))) {}

@@ -7,13 +7,6 @@
 
 namespace orvane::ui {
 
-enum class ContentMode {
-  /// To the proposed size.
-  stretch,
-  /// To the largest size of the image's own proportions within the proposed size.
-  fit
-};
-
 /// In its own size; an unknown image has none and shows nothing. It is not in the semantics tree
 /// until it has an accessibility label. In the dark appearance the image NAME-dark, if there is
 /// one, replaces NAME in the same size.
@@ -21,7 +14,8 @@ class [[nodiscard]] Image : public View {
  public:
   explicit Image(std::string name);
 
-  View resizable(ContentMode mode = ContentMode::stretch) const;
+  /// In the largest size of its own proportions within the proposed size.
+  View resizable() const;
 
  private:
   std::string name_;

@@ -6,29 +6,18 @@
 #include <string>
 
 #include "Orvane/ui/draw/Shape.hpp"
-#include "Orvane/ui/layout/Rect.hpp"
+#include "Orvane/ui/host/HostServices.hpp"
 
 namespace orvane::ui {
 
-/// The argument of a control's action.
-struct Activation {
-  /// The control's rectangle as presented, in host coordinates.
-  Rect frame;
-};
-
-/// A file that can be dragged out of a view.
-struct DragItem {
-  std::string fileUrl;
-  std::string imageName;
-};
-
 /// Unset functions have no effect.
 struct Interaction {
-  /// Called by a click, by the keyboard and by an accessibility press.
-  std::function<void(const Activation&)> activate = nullptr;
+  /// Called by a click, by the keyboard and by an accessibility press, with the control's rectangle
+  /// as presented, in host coordinates.
+  std::function<void(const Rect& frame)> activate = nullptr;
   std::function<void(bool isInside)> hover = nullptr;
-  /// Called when a drag begins; without an item there is no drag.
-  std::function<std::optional<DragItem>()> drag = nullptr;
+  /// Called when a drag begins; without a request there is no drag. The host sets the frame.
+  std::function<std::optional<DragRequest>()> drag = nullptr;
   /// Called after the layout in which the view appeared.
   std::function<void()> appear = nullptr;
   std::string tooltip = {};

@@ -5,15 +5,11 @@ namespace orvane::ui {
 
 namespace {
 
-class InteractionElement final : public ModifierElement {
+class InteractionElement final : public ModifierElement<Interaction> {
  public:
-  InteractionElement(View content, Interaction interaction)
-      : ModifierElement(std::move(content)), interaction_(std::move(interaction)) {}
+  using ModifierElement::ModifierElement;
 
-  [[nodiscard]] const Interaction& interaction() const override { return interaction_; }
-
- private:
-  Interaction interaction_;
+  [[nodiscard]] const Interaction& interaction() const override { return value(); }
 };
 
 }  // namespace
@@ -26,8 +22,8 @@ View View::tooltip(std::string text) const {
   return modified<InteractionElement>(*this, Interaction{.tooltip = std::move(text)});
 }
 
-View View::dragSource(std::function<std::optional<DragItem>()> item) const {
-  return modified<InteractionElement>(*this, Interaction{.drag = std::move(item)});
+View View::dragSource(std::function<std::optional<DragRequest>()> request) const {
+  return modified<InteractionElement>(*this, Interaction{.drag = std::move(request)});
 }
 
 View View::onAppear(std::function<void()> action) const {

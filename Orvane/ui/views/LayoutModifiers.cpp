@@ -1,8 +1,7 @@
-// The modifiers that change layout: padding, frames, fixed sizes, priorities, layers.
+// The modifiers that change layout: padding, frames, fixed sizes, layers.
 #include <algorithm>
 #include <array>
 
-#include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/views/Modifiers.hpp"
 
@@ -10,153 +9,102 @@ namespace orvane::ui {
 
 namespace {
 
-class PaddingElement final : public ModifierElement {
+// A modifier that lays out its content by a rule: what it offers to the content, its own size with
+// the content's, and the origin of the content in it.
+template <typename Rule>
+class LayoutElement final : public ModifierElement<Rule> {
  public:
-  PaddingElement(View content, const Edges& edges)
-      : ModifierElement(std::move(content)), edges_(edges) {}
+  using ModifierElement<Rule>::ModifierElement;
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
-    const Size inner = Element::measure(node, proposal.inset(edges_), pass);
-    return {inner.width + edges_.width(), inner.height + edges_.height()};
+    const Proposal offer = this->value().offer(proposal);
+    return this->value().size(proposal, this->Element::measure(node, offer, pass));
   }
 
-  void place(Node& node, const Proposal& proposal, Size, LayoutPass& pass) const override {
+  void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
     if (!node.children.empty()) {
-      pass.place(*node.children.front(), {edges_.leading, edges_.top}, proposal.inset(edges_));
+      Node& content = *node.children.front();
+      const Proposal offer = this->value().offer(proposal);
+      pass.place(content, this->value().origin(pass.measure(content, offer), size), offer);
     }
   }
-
- private:
-  Edges edges_;
 };
 
-// One direction of a frame.
-struct FrameLength {
-  std::optional<double> fixed;
-  std::optional<double> minimum;
-  std::optional<double> maximum;
+struct Padding {
+  Edges edges;
 
-  std::optional<double> offer(std::optional<double> proposed) const {
+  Proposal offer(const Proposal& proposal) const { return proposal.inset(edges); }
+  Size size(const Proposal&, Size content) const {
+    return {content.width + edges.width(), content.height + edges.height()};
+  }
+  Point origin(Size, Size) const { return {edges.leading, edges.top}; }
+};
+
+struct Frame {
+  FrameBounds bounds;
+
+  Proposal offer(const Proposal& proposal) const {
+    return {offered(proposal.width, bounds.width, bounds.maximumWidth),
+            offered(proposal.height, bounds.height, bounds.maximumHeight)};
+  }
+  Size size(const Proposal& proposal, Size content) const {
+    return {chosen(proposal.width, bounds.width, bounds.maximumWidth, content.width),
+            chosen(proposal.height, bounds.height, bounds.maximumHeight, content.height)};
+  }
+  Point origin(Size content, Size own) const { return bounds.alignment.originOf(content, own); }
+
+ private:
+  using Length = std::optional<double>;
+
+  static Length offered(Length proposed, Length fixed, Length maximum) {
     if (fixed) {
       return fixed;
     }
-    if (!proposed) {
-      return std::nullopt;
-    }
-    return std::max(minimum.value_or(0), std::min(*proposed, maximum.value_or(infinity)));
+    return proposed && maximum ? std::min(*proposed, *maximum) : proposed;
   }
 
-  // Without a bound on a side, the content is the bound on that side.
-  double chosen(std::optional<double> proposed, double content) const {
-    if (fixed) {
-      return *fixed;
+  static double chosen(Length proposed, Length fixed, Length maximum, double content) {
+    if (fixed || !maximum) {
+      return fixed.value_or(content);
     }
-    if (!minimum && !maximum) {
-      return content;
-    }
-    const double lower = minimum.value_or(std::min(content, maximum.value_or(infinity)));
-    const double upper = std::max(lower, maximum.value_or(content));
-    return std::clamp(proposed.value_or(content), lower, upper);
+    return std::clamp(proposed.value_or(content), std::min(content, *maximum), *maximum);
   }
 };
 
-class FrameElement final : public ModifierElement {
- public:
-  FrameElement(View content, const FrameBounds& bounds)
-      : ModifierElement(std::move(content)),
-        width_{bounds.width, bounds.minimumWidth, bounds.maximumWidth},
-        height_{bounds.height, bounds.minimumHeight, bounds.maximumHeight},
-        alignment_(bounds.alignment) {}
+struct FixedSize {
+  bool isHorizontal;
 
-  Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
-    const Size inner = Element::measure(node, innerProposal(proposal), pass);
-    return {width_.chosen(proposal.width, inner.width),
-            height_.chosen(proposal.height, inner.height)};
+  Proposal offer(const Proposal& proposal) const {
+    return {isHorizontal ? std::nullopt : proposal.width, std::nullopt};
   }
-
-  void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
-    if (!node.children.empty()) {
-      pass.placeAligned(*node.children.front(), size, alignment_, innerProposal(proposal));
-    }
-  }
-
- private:
-  Proposal innerProposal(const Proposal& proposal) const {
-    return {width_.offer(proposal.width), height_.offer(proposal.height)};
-  }
-
-  FrameLength width_;
-  FrameLength height_;
-  Alignment alignment_;
+  Size size(const Proposal&, Size content) const { return content; }
+  Point origin(Size, Size) const { return {}; }
 };
 
-class FixedSizeElement final : public ModifierElement {
- public:
-  FixedSizeElement(View content, bool horizontal, bool vertical)
-      : ModifierElement(std::move(content)), horizontal_(horizontal), vertical_(vertical) {}
+// Covers the whole view. The node stays when the content is empty.
+struct Layer {
+  Alignment alignment;
 
-  Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
-    return Element::measure(node, freed(proposal), pass);
-  }
-
-  void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
-    Element::place(node, freed(proposal), size, pass);
-  }
-
- private:
-  Proposal freed(const Proposal& proposal) const {
-    return {horizontal_ ? std::nullopt : proposal.width,
-            vertical_ ? std::nullopt : proposal.height};
-  }
-
-  bool horizontal_;
-  bool vertical_;
-};
-
-class PriorityElement final : public ModifierElement {
- public:
-  PriorityElement(View content, double priority)
-      : ModifierElement(std::move(content)), priority_(priority) {}
-
-  double layoutPriority(const Node&) const override { return priority_; }
-
- private:
-  double priority_;
-};
-
-// Covers the whole view and aligns its content in it. The node stays when the content is empty.
-class LayerElement final : public ModifierElement {
- public:
-  LayerElement(View content, Alignment alignment)
-      : ModifierElement(std::move(content)), alignment_(alignment) {}
-
-  Size measure(Node&, const Proposal& proposal, LayoutPass&) const override {
+  Proposal offer(const Proposal& proposal) const { return proposal; }
+  Size size(const Proposal& proposal, Size) const {
     return {proposal.width.value_or(0), proposal.height.value_or(0)};
   }
+  Point origin(Size content, Size own) const { return alignment.originOf(content, own); }
+};
 
-  void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
-    if (!node.children.empty()) {
-      pass.placeAligned(*node.children.front(), size, alignment_, proposal);
-    }
-  }
-
- private:
-  Alignment alignment_;
+struct Layering {
+  View layer;
+  bool isAbove;
 };
 
 // A view with a layer below or above it. The view decides the size, which the layer is proposed.
-class LayersElement final : public ModifierElement {
+class LayersElement final : public ModifierElement<Layering> {
  public:
-  LayersElement(View content, View layer, bool isAbove, Alignment alignment)
-      : ModifierElement(std::move(content)),
-        layer_(std::move(layer)),
-        isAbove_(isAbove),
-        alignment_(alignment) {}
+  using ModifierElement::ModifierElement;
 
   void build(Node& node, BuildPass& pass) const override {
-    const View layer(std::make_shared<LayerElement>(layer_, alignment_));
-    const std::array<View, 2> children{isAbove_ ? content() : layer, isAbove_ ? layer : content()};
-    pass.children(node, children, node.environment);
+    const auto& [layer, isAbove] = value();
+    pass.children(node, std::array{isAbove ? content() : layer, isAbove ? layer : content()});
   }
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
@@ -165,22 +113,21 @@ class LayersElement final : public ModifierElement {
 
   void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
     pass.place(primary(node), {0, 0}, proposal);
-    Node& layer = *node.children[isAbove_ ? 1 : 0];
-    pass.place(layer, {0, 0}, Proposal::of(size));
+    pass.place(*node.children[value().isAbove ? 1 : 0], {0, 0}, Proposal::of(size));
   }
 
   double layoutPriority(const Node& node) const override {
-    const Node& content = *node.children[isAbove_ ? 0 : 1];
-    return content.element->layoutPriority(content);
+    return primary(node).element->layoutPriority(primary(node));
   }
 
  private:
-  Node& primary(Node& node) const { return *node.children[isAbove_ ? 0 : 1]; }
-
-  View layer_;
-  bool isAbove_;
-  Alignment alignment_;
+  Node& primary(const Node& node) const { return *node.children[value().isAbove ? 0 : 1]; }
 };
+
+View layered(const View& view, const View& layer, bool isAbove, Alignment alignment) {
+  const View whole(std::make_shared<LayoutElement<Layer>>(layer, Layer{alignment}));
+  return modified<LayersElement>(view, Layering{whole, isAbove});
+}
 
 }  // namespace
 
@@ -189,7 +136,7 @@ View View::padding(double distance) const {
 }
 
 View View::padding(const Edges& edges) const {
-  return modified<PaddingElement>(*this, edges);
+  return modified<LayoutElement<Padding>>(*this, Padding{edges});
 }
 
 View View::frame(double width, double height, Alignment alignment) const {
@@ -197,7 +144,7 @@ View View::frame(double width, double height, Alignment alignment) const {
 }
 
 View View::frame(const FrameBounds& bounds) const {
-  return modified<FrameElement>(*this, bounds);
+  return modified<LayoutElement<Frame>>(*this, Frame{bounds});
 }
 
 View View::width(double width, Alignment alignment) const {
@@ -212,20 +159,20 @@ View View::maximumWidth(double maximum, Alignment alignment) const {
   return frame({.maximumWidth = maximum, .alignment = alignment});
 }
 
-View View::fixedSize(bool horizontal, bool vertical) const {
-  return modified<FixedSizeElement>(*this, horizontal, vertical);
+View View::fixedSize() const {
+  return modified<LayoutElement<FixedSize>>(*this, FixedSize{.isHorizontal = true});
 }
 
-View View::layoutPriority(double priority) const {
-  return modified<PriorityElement>(*this, priority);
+View View::fixedSizeVertical() const {
+  return modified<LayoutElement<FixedSize>>(*this, FixedSize{.isHorizontal = false});
 }
 
 View View::background(const View& background, Alignment alignment) const {
-  return modified<LayersElement>(*this, background, false, alignment);
+  return layered(*this, background, false, alignment);
 }
 
 View View::overlay(const View& overlay, Alignment alignment) const {
-  return modified<LayersElement>(*this, overlay, true, alignment);
+  return layered(*this, overlay, true, alignment);
 }
 
 }  // namespace orvane::ui

@@ -20,8 +20,6 @@ namespace orvane::ui {
 /// Identifies a node among its siblings: by an explicit id, otherwise by place.
 struct NodeKey {
   int slot = 0;
-  /// The place in the group at the slot; -1 without a group.
-  int place = -1;
   std::string id;
 
   friend bool operator==(const NodeKey&, const NodeKey&) = default;
@@ -50,6 +48,7 @@ struct Node {
   Node* parent;
   NodeKey key;
   std::shared_ptr<const Element> element;
+  /// What the views below inherit.
   std::shared_ptr<const Environment> environment;
   std::vector<std::unique_ptr<Node>> children;
   /// Removed children during their transition; drawn above the children.
@@ -96,6 +95,10 @@ struct Node {
   }
   /// As presented, in host coordinates.
   [[nodiscard]] Rect hostFrame() const { return toHost.apply(Rect{0, 0, size.width, size.height}); }
+  /// Whether the point (host coordinates) is in the node's rectangle, as presented.
+  [[nodiscard]] bool covers(Point point) const;
+  /// An element of the semantics tree for this node, without a label.
+  [[nodiscard]] SemanticsNode semantics(Role role) const;
 };
 
 /// The node with a transition at the top of the subtree: the node itself, or the only child of an

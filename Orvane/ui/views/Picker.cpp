@@ -17,7 +17,7 @@ constexpr double popUpRadius = 5;
 constexpr double arrowsWidth = 16;
 
 struct PopUpButtonStyle {
-  View body(const ButtonConfiguration& configuration, const Environment& environment) const {
+  View operator()(const ButtonConfiguration& configuration, const Environment& environment) const {
     const Color bezel = Color::white().opacity(environment.isDark() ? 0.16 : 0.95);
     // At least 3 to 1 against what the button lies on.
     const double rim = environment.appearance.increaseContrast ? 0.6
@@ -43,16 +43,15 @@ View Picker::body(const Environment& environment) const {
   const View content = HStack(4, {Text(title).lineLimit(1), Spacer(), arrows})
                            .padding(Edges{.leading = 8, .trailing = 3})
                            .foreground(Color::primary());
-  const auto open =
-      [link = environment.link,
-       request = MenuRequest{items, selectedIndex, {}, onChoose}](const Activation& activation) {
-        if (const auto host = link.lock()) {
-          MenuRequest placed = request;
-          placed.anchor = activation.frame;
-          host->call(&HostServices::openMenu, placed);
-        }
-      };
-  return Button(std::function<void(const Activation&)>(open), content)
+  const auto open = [link = environment.link,
+                     request = MenuRequest{items, selectedIndex, {}, onChoose}](const Rect& frame) {
+    if (const auto host = link.lock()) {
+      MenuRequest placed = request;
+      placed.anchor = frame;
+      host->call(&HostServices::openMenu, placed);
+    }
+  };
+  return Button(std::function<void(const Rect&)>(open), content)
       .style(PopUpButtonStyle{})
       .focusRing(Shape::rounded(popUpRadius))
       .accessibilityRole(Role::popUpButton)

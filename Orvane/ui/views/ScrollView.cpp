@@ -53,10 +53,10 @@ void scrollIntoView(Node& area, const Node& node, const std::optional<Curve>& cu
   scrollTo(area, std::min(std::max(offsetOf(area), minimum), leading - margin), curve, now);
 }
 
-class ScrollElement final : public ModifierElement {
+// The value is the margin.
+class ScrollElement final : public ModifierElement<double> {
  public:
-  ScrollElement(const View& content, double margin)
-      : ModifierElement(content.padding(Edges::horizontal(margin))), margin_(margin) {}
+  using ModifierElement::ModifierElement;
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
     const Size content = Element::measure(node, freed(proposal), pass);
@@ -65,7 +65,7 @@ class ScrollElement final : public ModifierElement {
 
   void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
     const Size content = Element::measure(node, freed(proposal), pass);
-    node.data = ScrollData{std::max(0.0, content.width - size.width), margin_};
+    node.data = ScrollData{std::max(0.0, content.width - size.width), value()};
     scrollTo(node, offsetOf(node), node.curve, pass.now());
     Element::place(node, freed(proposal), size, pass);
   }
@@ -77,54 +77,46 @@ class ScrollElement final : public ModifierElement {
     writer.number(offsetOf(node));
   }
 
-  Effect effect(const Node& node, Size size, double now) const override {
+  Effect effect(const Node& node, double now) const override {
     return {.transform = Transform::translation({-AttributeReader(node, now).number(), 0}),
-            .clip = Shape::rectangle({0, 0, size.width, size.height})};
+            .clip = Shape::rectangle({0, 0, node.size.width, node.size.height})};
   }
 
   std::vector<SemanticsNode> semantics(const Node& node,
                                        std::vector<SemanticsNode> children) const override {
-    SemanticsNode area;
-    area.id = node.id;
-    area.role = Role::scrollArea;
-    area.frame = node.hostFrame();
-    area.isEnabled = node.environment->isEnabled;
+    SemanticsNode area = node.semantics(Role::scrollArea);
     area.children = std::move(children);
     return {std::move(area)};
   }
 
  private:
   static Proposal freed(const Proposal& proposal) { return {std::nullopt, proposal.height}; }
-
-  double margin_;
 };
 
-class ScrollTargetElement final : public ModifierElement {
+// None for a view that is not wanted.
+using WantedPlace = std::optional<std::size_t>;
+
+class ScrollTargetElement final : public ModifierElement<WantedPlace> {
  public:
-  ScrollTargetElement(View content, std::optional<std::size_t> wantedPlace)
-      : ModifierElement(std::move(content)), wantedPlace_(wantedPlace) {}
+  using ModifierElement::ModifierElement;
 
   void build(Node& node, BuildPass& pass) const override {
-    const auto* const before = std::any_cast<std::optional<std::size_t>>(&node.data);
-    if (wantedPlace_ && (before == nullptr || *before != wantedPlace_)) {
+    const auto* const before = std::any_cast<WantedPlace>(&node.data);
+    if (value() && (before == nullptr || *before != value())) {
       pass.scrollIntoView(node, node.isNew ? std::nullopt : node.curve);
     }
-    node.data = wantedPlace_;
+    node.data = value();
     ModifierElement::build(node, pass);
   }
-
- private:
-  // None for an unwanted view.
-  std::optional<std::size_t> wantedPlace_;
 };
 
 }  // namespace
 
 ScrollView::ScrollView(const View& content, double margin)
-    : View(std::make_shared<ScrollElement>(content, margin)) {}
+    : View(std::make_shared<ScrollElement>(content.padding(Edges::horizontal(margin)), margin)) {}
 
 View View::scrollsIntoView(bool isWanted, std::size_t place) const {
-  return modified<ScrollTargetElement>(*this, isWanted ? std::optional(place) : std::nullopt);
+  return modified<ScrollTargetElement>(*this, isWanted ? WantedPlace(place) : std::nullopt);
 }
 
 bool isScrollView(const Node& node) {

@@ -20,9 +20,6 @@ class ShapeElement final : public Element {
  public:
   explicit ShapeElement(const Shape& shape) : shape_(shape) {}
 
-  void add(const ShapeLayer& layer) { layers_.push_back(layer); }
-  void cast(const Shadow& shadow) { shadows_.push_back(shadow); }
-
   Size measure(Node&, const Proposal& proposal, LayoutPass&) const override {
     constexpr double ideal = 10;
     return {proposal.width.value_or(ideal), proposal.height.value_or(ideal)};
@@ -66,6 +63,8 @@ class ShapeElement final : public Element {
   }
 
  private:
+  friend class ShapeView;
+
   std::vector<ShapeLayer> layersOf(const Node& node) const {
     if (!layers_.empty()) {
       return layers_;
@@ -78,15 +77,17 @@ class ShapeElement final : public Element {
   std::vector<ShapeLayer> layers_;
 };
 
-ShapeView::ShapeView(const Shape& shape) : ShapeView(std::make_shared<ShapeElement>(shape)) {}
+ShapeView::ShapeView(const Shape& shape) : View(std::make_shared<ShapeElement>(shape)) {}
 
-ShapeView::ShapeView(std::shared_ptr<const ShapeElement> element)
-    : View(element), shape_(std::move(element)) {}
+template <typename Change>
+ShapeView ShapeView::changed(const Change& change) const {
+  auto copy = std::make_shared<ShapeElement>(static_cast<const ShapeElement&>(*element()));
+  change(*copy);
+  return ShapeView(View(std::move(copy)));
+}
 
 ShapeView ShapeView::adding(const ShapeLayer& layer) const {
-  auto changed = std::make_shared<ShapeElement>(*shape_);
-  changed->add(layer);
-  return ShapeView(std::move(changed));
+  return changed([&](ShapeElement& shape) { shape.layers_.push_back(layer); });
 }
 
 ShapeView ShapeView::fill(const Fill& fill) const {
@@ -102,9 +103,7 @@ ShapeView ShapeView::strokeBorder(const Fill& fill, double lineWidth) const {
 }
 
 ShapeView ShapeView::castShadow(const Shadow& shadow) const {
-  auto changed = std::make_shared<ShapeElement>(*shape_);
-  changed->cast(shadow);
-  return ShapeView(std::move(changed));
+  return changed([&](ShapeElement& shape) { shape.shadows_.push_back(shadow); });
 }
 
 }  // namespace orvane::ui

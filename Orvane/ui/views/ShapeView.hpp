@@ -1,8 +1,6 @@
 // Shapes as views.
 #pragma once
 
-#include <memory>
-
 #include "Orvane/ui/draw/Fill.hpp"
 #include "Orvane/ui/views/View.hpp"
 
@@ -26,10 +24,11 @@ class [[nodiscard]] ShapeView : public View {
   ShapeView castShadow(const Shadow& shadow) const;
 
  private:
-  explicit ShapeView(std::shared_ptr<const ShapeElement> element);
+  explicit ShapeView(const View& view) : View(view) {}
+  /// A copy whose element is changed by the function.
+  template <typename Change>
+  ShapeView changed(const Change& change) const;
   ShapeView adding(const ShapeLayer& layer) const;
-
-  std::shared_ptr<const ShapeElement> shape_;
 };
 
 class [[nodiscard]] Rectangle : public ShapeView {
@@ -39,8 +38,7 @@ class [[nodiscard]] Rectangle : public ShapeView {
 
 class [[nodiscard]] RoundedRectangle : public ShapeView {
  public:
-  explicit RoundedRectangle(double cornerRadius, CornerStyle style = CornerStyle::continuous)
-      : ShapeView(Shape::rounded(cornerRadius, style)) {}
+  explicit RoundedRectangle(double cornerRadius) : ShapeView(Shape::rounded(cornerRadius)) {}
 };
 
 class [[nodiscard]] Capsule : public ShapeView {

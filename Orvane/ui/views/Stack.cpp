@@ -1,19 +1,17 @@
-// The stacks, spacers and dividers. StackLayout divides the lengths.
+// The stacks and spacers. StackLayout divides the lengths.
 #include "Orvane/ui/views/Stack.hpp"
 
 #include <algorithm>
 
-#include "Orvane/ui/draw/DrawContext.hpp"
 #include "Orvane/ui/host/BuildPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/layout/StackLayout.hpp"
-#include "Orvane/ui/views/Attributes.hpp"
-#include "Orvane/ui/views/Group.hpp"
 
 namespace orvane::ui {
 
 namespace {
 
+// It calculates with sizes and proposals turned along its axis.
 class StackElement final : public Element {
  public:
   // The alignment across the stack is a fraction: 0 is the leading or top side, 1 the other.
@@ -23,20 +21,17 @@ class StackElement final : public Element {
   std::optional<Axis> stackAxis() const override { return axis_; }
   double layoutPriority(const Node&) const override { return 0; }
 
-  void build(Node& node, BuildPass& pass) const override {
-    pass.members(node, children_, node.environment);
-  }
+  void build(Node& node, BuildPass& pass) const override { pass.children(node, children_); }
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
     const std::vector<StackSegment> segments = divide(node, proposal, pass);
-    double along = segments.empty() ? 0 : spacing_ * static_cast<double>(segments.size() - 1);
-    double across = 0;
+    Size own{segments.empty() ? 0 : spacing_ * static_cast<double>(segments.size() - 1), 0};
     for (std::size_t index = 0; index < segments.size(); ++index) {
-      const Size size = pass.measure(*node.children[index], offered(segments[index], proposal));
-      along += segments[index].length;
-      across = std::max(across, lengthAcross(axis_, size));
+      const Proposal offer = offered(segments[index].offer, proposal);
+      const Size child = turned(axis_, pass.measure(*node.children[index], offer));
+      own = {own.width + segments[index].length, std::max(own.height, child.height)};
     }
-    return orientedSize(axis_, along, across);
+    return turned(axis_, own);
   }
 
   void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
@@ -44,35 +39,34 @@ class StackElement final : public Element {
     double along = 0;
     for (std::size_t index = 0; index < segments.size(); ++index) {
       Node& child = *node.children[index];
-      const Proposal offer = offered(segments[index], proposal);
+      const Proposal offer = offered(segments[index].offer, proposal);
       const double room =
-          lengthAcross(axis_, size) - lengthAcross(axis_, pass.measure(child, offer));
-      const Size origin = orientedSize(axis_, along, room * alignment_);
+          turned(axis_, size).height - turned(axis_, pass.measure(child, offer)).height;
+      const Size origin = turned(axis_, Size{along, room * alignment_});
       pass.place(child, {origin.width, origin.height}, offer);
       along += segments[index].length + spacing_;
     }
   }
 
  private:
-  Proposal offered(const StackSegment& segment, const Proposal& proposal) const {
-    return Proposal::oriented(axis_, segment.offer, proposal.across(axis_));
+  Proposal offered(std::optional<double> length, const Proposal& proposal) const {
+    return turned(axis_, Proposal{length, turned(axis_, proposal).height});
   }
 
   std::vector<StackSegment> divide(Node& node, const Proposal& proposal, LayoutPass& pass) const {
-    const std::optional<double> across = proposal.across(axis_);
     const auto length = [&](std::size_t index, std::optional<double> offer) {
-      const Proposal asked = Proposal::oriented(axis_, offer, across);
-      return lengthAlong(axis_, pass.measure(*node.children[index], asked));
+      return turned(axis_, pass.measure(*node.children[index], offered(offer, proposal))).width;
     };
+    const std::optional<double> available = turned(axis_, proposal).width;
     std::vector<StackItem> items(node.children.size());
     // The extremes only matter to several children that compete for a finite length.
-    const bool compete = items.size() > 1 && proposal.along(axis_).value_or(infinity) < infinity;
+    const bool compete = items.size() > 1 && available.value_or(infinity) < infinity;
     for (std::size_t index = 0; compete && index < items.size(); ++index) {
       const Node& child = *node.children[index];
       items[index] = {length(index, 0), length(index, infinity),
                       child.element->layoutPriority(child)};
     }
-    return divideStack(proposal.along(axis_), spacing_, items, length);
+    return divideStack(available, spacing_, items, length);
   }
 
   Axis axis_;
@@ -81,15 +75,33 @@ class StackElement final : public Element {
   std::vector<View> children_;
 };
 
-class ZStackElement final : public OverlaidElement {
+class ZStackElement final : public Element {
  public:
-  using OverlaidElement::OverlaidElement;
+  ZStackElement(Alignment alignment, std::vector<View> children)
+      : alignment_(alignment), children_(std::move(children)) {}
 
-  [[nodiscard]] double layoutPriority(const Node&) const override { return 0; }
+  double layoutPriority(const Node&) const override { return 0; }
 
-  void build(Node& node, BuildPass& pass) const override {
-    pass.members(node, members(), node.environment);
+  void build(Node& node, BuildPass& pass) const override { pass.children(node, children_); }
+
+  Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
+    Size result;
+    for (const auto& child : node.children) {
+      const Size size = pass.measure(*child, proposal);
+      result = {std::max(result.width, size.width), std::max(result.height, size.height)};
+    }
+    return result;
   }
+
+  void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
+    for (const auto& child : node.children) {
+      pass.placeAligned(*child, size, alignment_, proposal);
+    }
+  }
+
+ private:
+  Alignment alignment_;
+  std::vector<View> children_;
 };
 
 std::optional<Axis> axisAround(const Node& node) {
@@ -121,44 +133,18 @@ class SpacerElement final : public Element {
   double minimum_;
 };
 
-class DividerElement final : public Element {
- public:
-  Size measure(Node& node, const Proposal& proposal, LayoutPass&) const override {
-    constexpr double ideal = 10;
-    return axisAround(node) == Axis::horizontal ? Size{1, proposal.height.value_or(ideal)}
-                                                : Size{proposal.width.value_or(ideal), 1};
-  }
-
-  void attributes(const Node&, AttributeWriter& writer) const override {
-    writer.color(Color::tertiary().opacity(0.5));
-  }
-
-  void draw(const Node& node, const DrawContext& context) const override {
-    context.canvas.fill(Shape::rectangle(context.snapped(context.rect)),
-                        Paint::solid(AttributeReader(node, context.now).color()));
-  }
-};
-
-template <typename AlignmentAcross>
-double fraction(AlignmentAcross alignment) {
-  return static_cast<double>(alignment) / 2;
-}
-
 }  // namespace
 
 VStack::VStack(double spacing, HorizontalAlignment alignment, const std::vector<View>& children)
-    : View(std::make_shared<StackElement>(Axis::vertical, spacing, fraction(alignment), children)) {
-}
+    : View(std::make_shared<StackElement>(Axis::vertical, spacing,
+                                          static_cast<double>(alignment) / 2, children)) {}
 
-HStack::HStack(double spacing, VerticalAlignment alignment, const std::vector<View>& children)
-    : View(std::make_shared<StackElement>(Axis::horizontal, spacing, fraction(alignment),
-                                          children)) {}
+HStack::HStack(double spacing, const std::vector<View>& children)
+    : View(std::make_shared<StackElement>(Axis::horizontal, spacing, 0.5, children)) {}
 
 ZStack::ZStack(Alignment alignment, const std::vector<View>& children)
     : View(std::make_shared<ZStackElement>(alignment, children)) {}
 
 Spacer::Spacer(double minimum) : View(std::make_shared<SpacerElement>(minimum)) {}
-
-Divider::Divider() : View(std::make_shared<DividerElement>()) {}
 
 }  // namespace orvane::ui

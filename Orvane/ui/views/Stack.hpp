@@ -8,24 +8,19 @@
 namespace orvane::ui {
 
 enum class HorizontalAlignment { leading, center, trailing };
-enum class VerticalAlignment { top, center, bottom };
 
 /// A column, with exactly this spacing between the children.
 class [[nodiscard]] VStack : public View {
  public:
-  explicit VStack(const std::vector<View>& children) : VStack(defaultSpacing, children) {}
   VStack(double spacing, const std::vector<View>& children)
       : VStack(spacing, HorizontalAlignment::center, children) {}
   VStack(double spacing, HorizontalAlignment alignment, const std::vector<View>& children);
 };
 
-/// A row, from leading to trailing.
+/// A row, from leading to trailing, with its children in the middle of its height.
 class [[nodiscard]] HStack : public View {
  public:
-  explicit HStack(const std::vector<View>& children) : HStack(defaultSpacing, children) {}
-  HStack(double spacing, const std::vector<View>& children)
-      : HStack(spacing, VerticalAlignment::center, children) {}
-  HStack(double spacing, VerticalAlignment alignment, const std::vector<View>& children);
+  HStack(double spacing, const std::vector<View>& children);
 };
 
 /// Children on top of each other, the first one lowest; as large as the largest.
@@ -39,12 +34,6 @@ class [[nodiscard]] ZStack : public View {
 class [[nodiscard]] Spacer : public View {
  public:
   explicit Spacer(double minimum = 0);
-};
-
-/// A hairline across its stack, in the faintest label colour.
-class [[nodiscard]] Divider : public View {
- public:
-  Divider();
 };
 
 }  // namespace orvane::ui

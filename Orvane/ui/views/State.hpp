@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-#include "Orvane/ui/host/HostLink.hpp"
+#include "Orvane/ui/host/HostServices.hpp"
 #include "Orvane/ui/views/Curve.hpp"
 
 namespace orvane::ui {
@@ -33,7 +33,6 @@ class State {
   explicit State(std::shared_ptr<StateCell<T>> cell) : cell_(std::move(cell)) {}
 
   [[nodiscard]] const T& value() const { return cell_->value; }
-  [[nodiscard]] const T& operator*() const { return cell_->value; }
 
   /// Changes the value and invalidates the host, if it still exists; changes that follow are
   /// animated along the curve, if there is one. An equal value changes nothing.

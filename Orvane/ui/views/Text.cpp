@@ -34,17 +34,9 @@ struct TextData {
   };
 
   std::string text;
-  Font font;
-  TruncationMode truncation;
-  double tightening;
-  std::optional<double> lineHeight;
-  std::vector<Entry> entries;
-  BrokenText placed;
-
-  bool isFor(const std::string& wanted, const Environment& inherited) const {
-    return text == wanted && font == inherited.font && truncation == inherited.truncationMode &&
-           tightening == inherited.tightening && lineHeight == inherited.lineHeight;
-  }
+  TextStyle style;
+  std::vector<Entry> entries = {};
+  BrokenText placed = {};
 };
 
 void setLineHeight(TextLayout& layout, double lineHeight, const Font& font,
@@ -60,15 +52,9 @@ class TextElement final : public Element {
 
   void build(Node& node, BuildPass&) const override {
     const auto* data = std::any_cast<TextData>(&node.data);
-    const Environment& inherited = *node.environment;
-    if (data == nullptr || !data->isFor(text_, inherited)) {
-      node.data = TextData{.text = text_,
-                           .font = inherited.font,
-                           .truncation = inherited.truncationMode,
-                           .tightening = inherited.tightening,
-                           .lineHeight = inherited.lineHeight,
-                           .entries = {},
-                           .placed = {}};
+    const TextStyle& style = node.environment->text;
+    if (data == nullptr || data->text != text_ || data->style != style) {
+      node.data = TextData{.text = text_, .style = style};
     }
   }
 
@@ -88,7 +74,7 @@ class TextElement final : public Element {
   void draw(const Node& node, const DrawContext& context) const override {
     const auto& [font, layout] = std::any_cast<const TextData&>(node.data).placed;
     const Rgba color = AttributeReader(node, context.now).color();
-    const double fraction = static_cast<double>(node.environment->textAlignment) / 2;
+    const double fraction = static_cast<double>(node.environment->text.alignment) / 2;
     double baseline = context.rect.y + layout.ascent;
     for (const TextLine& line : layout.lines) {
       if (!line.text.empty()) {
@@ -104,21 +90,17 @@ class TextElement final : public Element {
     if (text_.empty()) {
       return {};
     }
-    SemanticsNode element;
-    element.id = node.id;
-    element.role = Role::staticText;
+    SemanticsNode element = node.semantics(Role::staticText);
     element.label = text_;
     element.cutText =
         std::any_cast<const TextData&>(node.data).placed.layout.isTruncated ? text_ : "";
-    element.isEnabled = node.environment->isEnabled;
-    element.frame = node.hostFrame();
     return {std::move(element)};
   }
 
  private:
   const BrokenText& brokenFor(Node& node, const Proposal& proposal, LayoutPass& pass) const {
     const double width = proposal.width.value_or(infinity);
-    const int limit = node.environment->lineLimit;
+    const int limit = node.environment->text.lineLimit;
     const BrokenText& natural = layoutFor(node, width, limit, pass);
     if (!proposal.height || std::isinf(*proposal.height)) {
       return natural;
@@ -146,38 +128,38 @@ class TextElement final : public Element {
       data.entries.clear();
     }
     data.entries.reserve(maximumCount);
-    data.entries.push_back({width, lineLimit, broken(data, width, lineLimit, pass.text())});
+    data.entries.push_back({width, lineLimit, broken(data.style, width, lineLimit, pass.text())});
     BrokenText& added = data.entries.back().broken;
-    if (data.lineHeight) {
-      setLineHeight(added.layout, *data.lineHeight, data.font, pass.text());
+    if (data.style.lineHeight) {
+      setLineHeight(added.layout, *data.style.lineHeight, data.style.font, pass.text());
     }
     return added;
   }
 
-  BrokenText broken(const TextData& data, double width, int lineLimit,
+  BrokenText broken(const TextStyle& style, double width, int lineLimit,
                     TextMeasurer& measurer) const {
     const auto layoutIn = [&](const Font& font, double room) {
-      return measurer.layout(text_, font, room + slack, {lineLimit, data.truncation});
+      return measurer.layout(text_, font, room + slack, {lineLimit, style.truncationMode});
     };
-    TextLayout natural = layoutIn(data.font, width);
-    if (!natural.isTruncated || lineLimit != 1 || data.tightening <= 0) {
-      return {data.font, std::move(natural)};
+    TextLayout natural = layoutIn(style.font, width);
+    if (!natural.isTruncated || lineLimit != 1 || style.tightening <= 0) {
+      return {style.font, std::move(natural)};
     }
     // The effect of tracking is measured, since the number of glyphs depends on the font.
-    Font tighter = data.font;
+    Font tighter = style.font;
     tighter.tracking -= 1;
-    const double fullWidth = layoutIn(data.font, infinity).size().width;
+    const double fullWidth = layoutIn(style.font, infinity).size().width;
     const double perPoint = fullWidth - layoutIn(tighter, infinity).size().width;
     const double excess = fullWidth - width;
-    if (excess <= fullWidth * data.tightening && perPoint > 0) {
+    if (excess <= fullWidth * style.tightening && perPoint > 0) {
       tighter.tracking =
-          data.font.tracking - std::ceil(excess / perPoint / trackingStep) * trackingStep;
+          style.font.tracking - std::ceil(excess / perPoint / trackingStep) * trackingStep;
       TextLayout tight = layoutIn(tighter, width);
       if (!tight.isTruncated) {
         return {tighter, std::move(tight)};
       }
     }
-    return {data.font, std::move(natural)};
+    return {style.font, std::move(natural)};
   }
 
   std::string text_;

@@ -14,8 +14,7 @@
 
 #include "Orvane/ui/draw/Color.hpp"
 #include "Orvane/ui/draw/Font.hpp"
-#include "Orvane/ui/layout/Edges.hpp"
-#include "Orvane/ui/layout/UnitPoint.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
 #include "Orvane/ui/views/Element.hpp"
 #include "Orvane/ui/views/Environment.hpp"
 #include "Orvane/ui/views/Transition.hpp"
@@ -26,21 +25,18 @@ class View;
 
 inline constexpr double infinity = std::numeric_limits<double>::infinity();
 inline constexpr double defaultPadding = 16;
-inline constexpr double defaultSpacing = 8;
 
 template <typename T>
 concept CompositeView = requires(const T& component, const Environment& environment) {
   { component.body(environment) } -> std::convertible_to<View>;
 };
 
-/// A flexible frame. A width or height fixes that side. Otherwise the frame follows its content
-/// within the bounds; with a maximum, which may be infinity, it grows to the proposal.
+/// A flexible frame. A width or height fixes that side. Otherwise the frame follows its content;
+/// with a maximum, which may be infinity, it grows to the proposal.
 struct FrameBounds {
   std::optional<double> width = std::nullopt;
   std::optional<double> height = std::nullopt;
-  std::optional<double> minimumWidth = std::nullopt;
   std::optional<double> maximumWidth = std::nullopt;
-  std::optional<double> minimumHeight = std::nullopt;
   std::optional<double> maximumHeight = std::nullopt;
   Alignment alignment = Alignment::center();
 };
@@ -58,7 +54,7 @@ class [[nodiscard]] View {
   [[nodiscard]] const std::string& explicitId() const { return id_; }
 
   // Layout. Lengths are points; an alignment places content in a frame of another size.
-  View padding(double distance = defaultPadding) const;
+  View padding(double distance) const;
   View padding(const Edges& edges) const;
   View frame(double width, double height, Alignment alignment = Alignment::center()) const;
   View frame(const FrameBounds& bounds) const;
@@ -66,12 +62,10 @@ class [[nodiscard]] View {
   View height(double height, Alignment alignment = Alignment::center()) const;
   /// Grows to the proposed width, at most to the maximum.
   View maximumWidth(double maximum = infinity, Alignment alignment = Alignment::center()) const;
-  /// Takes its ideal size in these directions, whatever is proposed: a text wraps and is never
-  /// truncated.
-  View fixedSize(bool horizontal = true, bool vertical = true) const;
-  View fixedSizeVertical() const { return fixedSize(false, true); }
-  /// Stacks serve children of a higher priority first; 0 by default.
-  View layoutPriority(double priority) const;
+  /// Takes its ideal size, or its ideal height for the proposed width, whatever is proposed: a text
+  /// is never truncated.
+  View fixedSize() const;
+  View fixedSizeVertical() const;
 
   // Layers. Each is proposed the size of the view and does not change it.
   View background(const View& background, Alignment alignment = Alignment::center()) const;
@@ -80,7 +74,8 @@ class [[nodiscard]] View {
   // Drawing. These do not change the layout.
   View opacity(double opacity) const;
   View offset(double x, double y) const;
-  View scale(double factor, UnitPoint anchor = UnitPoint::center()) const;
+  /// About the centre.
+  View scale(double factor) const;
   /// The view casts the shadow as one picture.
   View shadow(const Shadow& shadow) const;
   View clip(const Shape& shape) const;
@@ -98,16 +93,14 @@ class [[nodiscard]] View {
   View lineHeight(double points) const;
   View textAlignment(TextAlignment alignment) const;
   View disabled(bool isDisabled) const;
-  View environment(std::function<void(Environment&)> change) const;
 
   // Input. Handlers may destroy the view, and even its host.
   /// Called when the pointer enters (true) and leaves (false), for disabled views, too.
   View onHover(std::function<void(bool isInside)> handler) const;
   View tooltip(std::string text) const;
   View keyboardShortcut(KeyboardShortcut shortcut) const;
-  View dragSource(std::function<std::optional<DragItem>()> item) const;
-  /// Without hit testing, the pointer passes through the view and everything in it.
-  View hitTesting(bool isAllowed) const;
+  /// Called when a drag begins; without a request there is no drag. The host sets the frame.
+  View dragSource(std::function<std::optional<DragRequest>()> request) const;
   /// Scrolls the surrounding scroll views to the view when it appears or becomes wanted, and when a
   /// wanted view gets another place among its siblings: at once if it appears, otherwise along the
   /// curve of the update.
@@ -137,7 +130,7 @@ class [[nodiscard]] View {
   View accessibilityRole(Role role) const;
   View accessibilityValue(std::string value) const;
   View accessibilitySelected(bool isSelected) const;
-  View accessibilityHidden(bool isHidden = true) const;
+  View accessibilityHidden() const;
 
  private:
   View animationOn(const std::optional<Curve>& curve, std::any value,
@@ -153,6 +146,18 @@ template <typename Content>
 requires std::is_invocable_r_v<View, const Content&> View when(bool condition,
                                                                const Content& content) {
   return condition ? View(content()) : View();
+}
+
+/// One view per item, each with the item's id, so that it keeps its node when items are added,
+/// removed and moved. `identify` returns an item's id as a string; `make` returns the view of an
+/// item and its index.
+template <typename Items, typename Identify, typename Make>
+std::vector<View> forEach(const Items& items, const Identify& identify, const Make& make) {
+  std::vector<View> views;
+  for (const auto& item : items) {
+    views.push_back(View(make(item, views.size())).id(identify(item)));
+  }
+  return views;
 }
 
 /// The element of a composite view.

@@ -73,9 +73,6 @@ NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification =
 - (BOOL)accessibilityDisplayShouldIncreaseContrast {
   return world().increasesContrast;
 }
-- (BOOL)accessibilityDisplayShouldReduceTransparency {
-  return world().reducesTransparency;
-}
 - (BOOL)accessibilityDisplayShouldReduceMotion {
   return world().reducesMotion;
 }

@@ -49,7 +49,6 @@ struct World {
   bool isTrusted = false;
   bool isVoiceOverOn = false;
   bool increasesContrast = false;
-  bool reducesTransparency = false;
   bool reducesMotion = false;
 
   /// By "application/key"; the application sees the values of its last synchronisation.

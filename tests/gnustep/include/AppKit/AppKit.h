@@ -166,7 +166,6 @@ NSRect NSAccessibilityFrameInView(NSView* view, NSRect frame);
 
 @interface NSWorkspace (OrvaneShim)
 @property(readonly) BOOL accessibilityDisplayShouldIncreaseContrast;
-@property(readonly) BOOL accessibilityDisplayShouldReduceTransparency;
 @property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
 @property(readonly, getter=isVoiceOverEnabled) BOOL voiceOverEnabled;
 - (void)openURL:(NSURL*)url
