@@ -111,6 +111,8 @@ void DockMouseGuard::followDock() {
   const DockPosition present = DockUtils::getDockPosition();
   const bool isKnown = present != DockPosition::top && present != DockPosition::unknown;
   if (isKnown && present != dockPosition_) {
+    // Also when the target is missing, so that the zones are not computed.
+    dockPosition_ = present;
     handleScreenConfigChanged();
   }
 }

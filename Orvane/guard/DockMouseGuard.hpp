@@ -121,7 +121,7 @@ class DockMouseGuard {
   bool wasRevived_ = false;
   bool lastAnnouncedRunning_ = false;
   std::vector<TriggerZone> cachedTriggerZones_;
-  /// The Dock's edge when the zones were last computed.
+  /// The Dock's edge that was last followed.
   DockPosition dockPosition_ = DockPosition::unknown;
   std::optional<appkit::ObserverToken> screenObserver_;
   std::string lockedDisplayIdentifier_;
