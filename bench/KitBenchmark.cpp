@@ -18,7 +18,6 @@
 #include "Orvane/ui/host/ViewHost.hpp"
 #include "Orvane/windows/OrvaneWindow.hpp"
 #include "bench/KitPanel.hpp"
-#include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
@@ -89,7 +88,6 @@ class Stage {
   explicit Stage(Subject& subject)
       : host_(ui::HostPlatform{.text = &text_, .images = resources_.imageSource()}),
         surface_(desk::imageSurface(subject.size(), scale)) {
-    addApplicationImages(resources_.images);
     host_.setSize(subject.size());
     host_.setRoot([&subject](const ui::Environment&) { return subject.view(); });
     rest();

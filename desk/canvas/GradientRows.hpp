@@ -4,7 +4,6 @@
 #include <cairo.h>
 
 #include "Orvane/ui/draw/Paint.hpp"
-#include "Orvane/ui/layout/Rect.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 
 namespace orvane::desk {
@@ -25,9 +24,5 @@ PatternPointer gradientOf(const ui::Paint& paint);
 /// the matrix.
 SurfacePointer gradientRows(const ui::Paint& paint, const cairo_matrix_t& matrix, int top,
                             int height);
-
-/// Sets a vertical gradient as the context's source within `area`, in device pixels: a column of
-/// pixels, which cairo repeats horizontally.
-void setGradientRows(cairo_t* context, const ui::Paint& paint, const ui::Rect& area);
 
 }  // namespace orvane::desk

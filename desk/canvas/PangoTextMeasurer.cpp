@@ -14,7 +14,6 @@ namespace {
 
 // Wider than any text; pango represents widths as an int in 1/1024 of a point.
 constexpr double widestLine = 1.0e6;
-constexpr std::size_t mostAnswers = 4096;
 
 /// The byte offsets between the characters of a text, from 0 to its length.
 std::vector<std::size_t> characterOffsets(const TextShaper& shaper, const std::string& text,
@@ -40,16 +39,9 @@ std::vector<std::size_t> characterOffsets(const TextShaper& shaper, const std::s
 ui::TextLayout PangoTextMeasurer::layout(const std::string& text, const ui::Font& font,
                                          double maximumWidth, ui::LineLimit limit) {
   const double allowed = maximumWidth > 0 ? std::min(maximumWidth, widestLine) : 0.0;
-  const Question question(text, font.size, font.weight, font.tracking, allowed,
-                          std::max(limit.lines, 0), limit.truncation);
-  const auto found = answers_.find(question);
-  if (found != answers_.end()) {
-    return found->second;
-  }
-  if (answers_.size() >= mostAnswers) {
-    answers_.clear();
-  }
-  return answers_.emplace(question, breakText(text, font, allowed, limit)).first->second;
+  return layouts_.get(cacheKey(text, font.size, font.weight, font.tracking, allowed,
+                               std::max(limit.lines, 0), limit.truncation),
+                      [&] { return breakText(text, font, allowed, limit); });
 }
 
 ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::Font& font,

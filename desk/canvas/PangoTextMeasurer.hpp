@@ -1,9 +1,7 @@
 // Measures and breaks text in the pinned fonts, with pango's rules for line breaks.
 #pragma once
 
-#include <map>
 #include <string>
-#include <tuple>
 
 #include "Orvane/ui/draw/TextMeasurer.hpp"
 #include "desk/canvas/TextShaper.hpp"
@@ -17,9 +15,6 @@ class PangoTextMeasurer : public ui::TextMeasurer {
                         ui::LineLimit limit) override;
 
  private:
-  using Question =
-      std::tuple<std::string, double, ui::Weight, double, double, int, ui::TruncationMode>;
-
   ui::TextLayout breakText(const std::string& text, const ui::Font& font, double maximumWidth,
                            ui::LineLimit limit) const;
   void breakParagraph(const std::string& paragraph, const ui::Font& font, double maximumWidth,
@@ -29,7 +24,7 @@ class PangoTextMeasurer : public ui::TextMeasurer {
   void addLine(const std::string& line, const ui::Font& font, ui::TextLayout& layout) const;
 
   TextShaper shaper_;
-  std::map<Question, ui::TextLayout> answers_;
+  Cache<ui::TextLayout> layouts_{4096};
 };
 
 }  // namespace orvane::desk

@@ -8,8 +8,8 @@
 
 #include <librsvg/rsvg.h>
 
+#include "desk/canvas/Artwork.hpp"
 #include "desk/canvas/ImageSurface.hpp"
-#include "desk/canvas/SymbolArtwork.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -56,9 +56,9 @@ std::string styleSheetOf(ui::Weight weight) {
   return sheet;
 }
 
-const SymbolArtwork* artworkOf(const std::string& name) {
+const Artwork* artworkOf(const std::string& name) {
   const auto artworks = symbolArtworks();
-  const auto found = std::ranges::lower_bound(artworks, name, {}, &SymbolArtwork::name);
+  const auto found = std::ranges::lower_bound(artworks, name, {}, &Artwork::name);
   return found != artworks.end() && found->name == name ? &*found : nullptr;
 }
 
@@ -109,12 +109,12 @@ const SymbolLibrary::Drawing* SymbolLibrary::drawing(const std::string& name, ui
   if (found != drawings_.end()) {
     return &found->second;
   }
-  const SymbolArtwork* artwork = artworkOf(name);
+  const Artwork* artwork = artworkOf(name);
   if (artwork == nullptr) {
     return nullptr;
   }
   ObjectPointer<RsvgHandle> handle(
-      rsvg_handle_new_from_data(bytesOf(artwork->svg.data()), artwork->svg.size(), nullptr));
+      rsvg_handle_new_from_data(bytesOf(artwork->bytes.data()), artwork->bytes.size(), nullptr));
   Drawing drawing;
   if (!handle || rsvg_handle_get_intrinsic_size_in_pixels(handle.get(), &drawing.unitWidth,
                                                           &drawing.unitHeight) == FALSE) {

@@ -1,14 +1,10 @@
 // Shapes a line of text into positioned glyphs of the pinned fonts, for both measuring and drawing.
 #pragma once
 
-#include <map>
 #include <string>
-#include <tuple>
 
 #include "Orvane/ui/draw/Font.hpp"
-#include "desk/canvas/CairoPointers.hpp"
-#include "desk/canvas/MaskCache.hpp"
-#include "desk/canvas/PixelPlacement.hpp"
+#include "desk/canvas/Mask.hpp"
 
 namespace orvane::desk {
 
@@ -40,12 +36,10 @@ class TextShaper {
                 const PixelPlacement& placement) const;
 
  private:
-  using Question = std::tuple<std::string, double, ui::Weight, double>;
-
   LineMetrics measured(const std::string& line, const ui::Font& font) const;
 
   ObjectPointer<PangoContext> context_;
-  mutable std::map<Question, LineMetrics> measured_;
+  mutable Cache<LineMetrics> measured_{4096};
 };
 
 }  // namespace orvane::desk

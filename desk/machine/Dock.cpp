@@ -182,6 +182,19 @@ CGRect Dock::frame() const {
   return frame;
 }
 
+CGRect Dock::visibleFrameOf(const Display& display) const {
+  CGRect visible = display.frame;
+  visible.size.height -= Displays::menuBarHeight;
+  if (!isVisible_ || displayNumber() != display.number) {
+    return visible;
+  }
+  (edge_ == DockEdge::bottom ? visible.size.height : visible.size.width) -= depth;
+  if (edge_ != DockEdge::right) {
+    (edge_ == DockEdge::bottom ? visible.origin.y : visible.origin.x) += depth;
+  }
+  return visible;
+}
+
 double Dock::shownFraction() const {
   const auto elapsed = static_cast<double>(clock_.now() - slideStartedAt_);
   const double slid = std::min(elapsed / static_cast<double>(slideNanoseconds), 1.0);

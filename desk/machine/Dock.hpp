@@ -71,6 +71,9 @@ class Dock {
   [[nodiscard]] bool isVisible() const { return isVisible_; }
   /// Where it is drawn when fully shown, in global coordinates; empty when there is no display.
   [[nodiscard]] CGRect frame() const;
+  /// The part of a display that the menu bar and the shown Dock leave to windows, in window-system
+  /// coordinates. As on a Mac, it changes at once when the Dock begins to slide.
+  [[nodiscard]] CGRect visibleFrameOf(const Display& display) const;
   /// From 0, hidden, to 1, shown; in between while it slides.
   [[nodiscard]] double shownFraction() const;
 

@@ -1,10 +1,8 @@
 // The text of a universally unique identifier.
-#include "desk/quartz/CFUUID.hpp"
-
 #include <memory>
 
 #include "desk/machine/Machine.hpp"
-#include "desk/quartz/CFString.hpp"
+#include "desk/quartz/CFObjects.hpp"
 
 using orvane::desk::Machine;
 using orvane::desk::ObjectKind;

@@ -2,7 +2,7 @@
 #include <memory>
 
 #include "desk/machine/Machine.hpp"
-#include "desk/quartz/CFUUID.hpp"
+#include "desk/quartz/CFObjects.hpp"
 
 using orvane::desk::Display;
 using orvane::desk::Machine;

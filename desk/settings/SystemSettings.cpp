@@ -36,10 +36,9 @@ SystemSettings::~SystemSettings() {
 }
 
 SystemSettings& SystemSettings::installOn(WindowServer& server) {
-  auto program = std::make_unique<SystemSettings>(server);
-  SystemSettings& installed = *program;
-  server.install(std::move(program));
-  return installed;
+  const auto program = std::make_shared<SystemSettings>(server);
+  server.install(program);
+  return *program;
 }
 
 void SystemSettings::extend(std::vector<SettingsPage> pages, SettingsPage::MakeView makeSidebar) {

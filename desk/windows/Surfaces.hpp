@@ -26,6 +26,16 @@ struct SurfaceControl {
   std::function<bool()> press;
 };
 
+/// A window's content, or a row of the menu.
+struct SurfacePart {
+  /// Up to date, with frames from the part's top left.
+  ui::SemanticsNode tree;
+  /// In global coordinates.
+  CGPoint origin{};
+  /// The accessibility press of a node.
+  std::function<bool(std::uint64_t id)> press;
+};
+
 class Surfaces {
  public:
   /// The name of the open menu.
@@ -48,8 +58,8 @@ class Surfaces {
   [[nodiscard]] std::vector<SurfaceControl> controls(const std::string& name) const;
 
  private:
-  [[nodiscard]] ui::SemanticsNode menuTree() const;
-  [[nodiscard]] std::vector<SurfaceControl> menuControls() const;
+  /// Empty when the surface is not open.
+  [[nodiscard]] std::vector<SurfacePart> parts(const std::string& name) const;
 
   WindowServer& server_;
 };

@@ -18,7 +18,6 @@
 #include "desk/windows/PointerRouter.hpp"
 #include "desk/windows/RunningApplication.hpp"
 #include "desk/windows/StatusBar.hpp"
-#include "desk/windows/SystemProgram.hpp"
 #include "desk/windows/Tooltips.hpp"
 #include "desk/windows/ViewUpdates.hpp"
 #include "desk/windows/WindowFocus.hpp"
@@ -32,7 +31,7 @@ class WindowServer : public MachineObserver {
  public:
   using Window = std::shared_ptr<DeskWindow>;
 
-  explicit WindowServer(Machine& machine);
+  explicit WindowServer(Machine& machine) : machine_(machine) {}
   ~WindowServer() override;
 
   /// The current machine's; created if there is none yet.
@@ -45,8 +44,8 @@ class WindowServer : public MachineObserver {
   [[nodiscard]] DrawingResources& resources() { return resources_; }
   [[nodiscard]] ui::TextMeasurer& text() { return text_; }
 
-  /// The program lives as long as the server.
-  void install(std::unique_ptr<SystemProgram> program) { programs_.push_back(std::move(program)); }
+  /// Installs a program of the system, which lives as long as the server.
+  void install(std::shared_ptr<void> program) { programs_.push_back(std::move(program)); }
 
   /// The windows that are visible, miniaturised or hidden by deactivation, back to front.
   [[nodiscard]] WindowList::Windows windows() const { return list_.backToFront(); }
@@ -110,7 +109,7 @@ class WindowServer : public MachineObserver {
   std::vector<std::string> announcements;
 
  private:
-  std::vector<std::unique_ptr<SystemProgram>> programs_;
+  std::vector<std::shared_ptr<void>> programs_;
 };
 
 }  // namespace orvane::desk

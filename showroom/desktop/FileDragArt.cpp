@@ -1,4 +1,4 @@
-// The image belongs to the application, so it comes from the window server's resources.
+// A translucent image, and a mark beside the pointer.
 #include "showroom/desktop/FileDragArt.hpp"
 
 namespace orvane::showroom {
@@ -33,8 +33,7 @@ void paintFileDrag(desk::CairoCanvas& canvas, desk::WindowServer& server) {
   const CGPoint place = server.machine().pointer.location();
   const ui::Rect image = drag.image.movedBy({place.x, place.y});
   canvas.beginLayer(image, imageOpacity, std::nullopt);
-  server.resources().images.paint(canvas.context(), drag.imageName, image.x, image.y, image.width,
-                                  image.height);
+  canvas.image(drag.imageName, image);
   canvas.endLayer();
   if (server.pointer.canDropHere()) {
     paintCopyMark(canvas, place);

@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/draw/StandardColors.hpp"
-#include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/hand/FindControl.hpp"
@@ -150,8 +149,6 @@ bool areAdjacentLines(const TextRun& first, const TextRun& second) {
 class GalleryRulesTest : public desk::MachineFixture,
                          public testing::WithParamInterface<std::string> {
  protected:
-  GalleryRulesTest() { desk::addApplicationImages(resources.images); }
-
   void expectRulesToHold(const Specimen& specimen, Interaction interaction) {
     const ui::ViewHost& host = specimen.host();
     TextCollector collector(resources.shaper, 2);

@@ -7,10 +7,8 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PangoTextMeasurer.hpp"
-#include "desk/canvas/PngFile.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 #include "showroom/gallery/SheetPainter.hpp"
 #include "showroom/gallery/Specimen.hpp"
@@ -21,10 +19,7 @@ namespace {
 
 class GalleryTest : public desk::MachineFixture {
  protected:
-  GalleryTest() { desk::addApplicationImages(resources.images); }
-
-  std::vector<std::uint8_t> pictureOf(const GalleryItem& item, OrvaneLanguage language,
-                                      bool isDark = false) {
+  std::string pictureOf(const GalleryItem& item, OrvaneLanguage language, bool isDark = false) {
     machine.userDefaults.set(OrvaneLanguage::defaultsKey, std::string(language.rawValue()));
     ui::Appearance appearance;
     appearance.dark = isDark;
@@ -32,9 +27,9 @@ class GalleryTest : public desk::MachineFixture {
     const desk::SurfacePointer surface = desk::imageSurface(specimen.size());
     desk::CairoCanvas canvas(surface.get(), 1, resources);
     specimen.paint(canvas, {0, 0});
-    return desk::encodePng(surface.get());
+    return desk::contentOf(surface.get());
   }
-  std::vector<std::uint8_t> pictureOf(const GalleryItem& item) {
+  std::string pictureOf(const GalleryItem& item) {
     return pictureOf(item, OrvaneLanguage::english);
   }
 
@@ -111,10 +106,9 @@ TEST_F(GalleryTest, TheDarkAppearanceDiffers) {
 TEST_F(GalleryTest, ASheetIsReproducibleAndMissesNoImage) {
   for (const GallerySheet& sheet : gallerySheets()) {
     const SheetStyle style{.isDark = true, .scale = 0.25};
-    const auto first = desk::encodePng(paintSheet(sheet, style, machine, resources).get());
+    const auto first = desk::contentOf(paintSheet(sheet, style, machine, resources).get());
     desk::DrawingResources fresh;
-    desk::addApplicationImages(fresh.images);
-    EXPECT_EQ(first, desk::encodePng(paintSheet(sheet, style, machine, fresh).get())) << sheet.name;
+    EXPECT_EQ(first, desk::contentOf(paintSheet(sheet, style, machine, fresh).get())) << sheet.name;
   }
   EXPECT_EQ(resources.missingNames, std::set<std::string>());
 }
