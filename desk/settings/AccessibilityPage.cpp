@@ -10,13 +10,9 @@
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
-#include "desk/settings/ApplicationIcon.hpp"
-#include "desk/settings/SettingsButtonStyle.hpp"
-#include "desk/settings/SettingsGroup.hpp"
-#include "desk/settings/SettingsSwitch.hpp"
+#include "desk/settings/SettingsControls.hpp"
 #include "desk/settings/SystemSettings.hpp"
 #include "desk/settings/SystemSettingsView.hpp"
-#include "desk/settings/TitledPage.hpp"
 
 namespace orvane::desk {
 
@@ -38,7 +34,7 @@ View AccessibilityPage::row(const AccessibilityList::Entry& entry) const {
   constexpr double rowHeight = 40;
   const bool isSelected = settings->state().selected == entry.name;
   const View label =
-      HStack(8, {ApplicationIcon{entry.name, 28}, Text(entry.name).lineLimit(1), Spacer()})
+      HStack(8, {applicationIcon(entry.name, 28), Text(entry.name).lineLimit(1), Spacer()})
           .padding(Edges{.leading = 10})
           .height(rowHeight);
   const View selecting =
@@ -47,11 +43,9 @@ View AccessibilityPage::row(const AccessibilityList::Entry& entry) const {
           .accessibilityRole(Role::radioButton)
           .accessibilityLabel(settings->language().text("Select ", "选择 ") + entry.name)
           .accessibilitySelected(isSelected);
-  const View allowing = View(SettingsSwitch{entry.name, entry.isAllowed,
-                                            [settings = settings, entry] {
-                                              settings->setAllowed(entry.name, !entry.isAllowed);
-                                            }})
-                            .padding(Edges::horizontal(10));
+  const View allowing = settingsSwitch(entry.name, entry.isAllowed, [settings = settings, entry] {
+                          settings->setAllowed(entry.name, !entry.isAllowed);
+                        }).padding(Edges::horizontal(10));
   const View highlight =
       Rectangle().fill(isSelected ? Color::primary().opacity(0.1) : Color::clear());
   return HStack(0, {selecting, allowing}).background(highlight).id(entry.name);
@@ -84,7 +78,7 @@ View AccessibilityPage::body(const Environment& environment) const {
       Text(language.text("Allow the applications below to control your computer.",
                          "允许以下应用程序控制你的电脑。"))
           .padding(Edges{.leading = 2, .bottom = 10});
-  const View list = View(SettingsGroup{rows, 46, settings->state().isDragOver})
+  const View list = settingsGroup(rows, 46, settings->state().isDragOver)
                         .accessibilityLabel(SystemSettingsView::listLabel(language));
   return titledPage(*settings, language.text("Accessibility", "辅助功能"),
                     VStack(0, HorizontalAlignment::leading, {explanation, list}));

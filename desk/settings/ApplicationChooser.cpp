@@ -7,9 +7,7 @@
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
-#include "desk/settings/ApplicationIcon.hpp"
-#include "desk/settings/SettingsButtonStyle.hpp"
-#include "desk/settings/SettingsGroup.hpp"
+#include "desk/settings/SettingsControls.hpp"
 #include "desk/settings/SystemSettings.hpp"
 
 namespace orvane::desk {
@@ -19,7 +17,7 @@ using namespace ui;
 View ApplicationChooser::row(const std::string& name) const {
   const bool isChosen = settings->state().chosen == name;
   const View label =
-      HStack(8, {ApplicationIcon{name, 24},
+      HStack(8, {applicationIcon(name, 24),
                  Text(name).foreground(isChosen ? Color::white() : Color::primary()).lineLimit(1),
                  Spacer()})
           .padding(Edges::horizontal(10))
@@ -56,10 +54,7 @@ View ApplicationChooser::body(const Environment& environment) const {
   const View card =
       VStack(14, HorizontalAlignment::leading,
              {Text(title).font(Font::headline()).accessibilityRole(Role::heading),
-              when(!isEmpty,
-                   [&] {
-                     return SettingsGroup{rows, 42};
-                   }),
+              when(!isEmpty, [&] { return settingsGroup(rows, 42); }),
               HStack(8, {Spacer(), cancel, open})})
           .padding(20)
           .width(320)

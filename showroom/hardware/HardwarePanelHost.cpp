@@ -26,12 +26,12 @@ ui::HostPlatform HardwarePanelHost::platform() {
 
 void HardwarePanelHost::update() {
   ui::Appearance appearance;
-  appearance.dark = hardware_.machine().appearance.isDark;
+  appearance.dark = hardware_.machine.appearance.isDark;
   host_.setAppearance(appearance);
   const double wanted = host_.sizeThatFits({size_.width, std::nullopt}).height;
   host_.setSize({size_.width, std::max(size_.height, wanted)});
   scrolled_ = std::clamp(scrolled_, 0.0, host_.size().height - size_.height);
-  host_.tick(hardware_.machine().clock.mediaTime());
+  host_.tick(hardware_.machine.clock.mediaTime());
 }
 
 void HardwarePanelHost::show(const HardwareContent& content) {
