@@ -3,8 +3,9 @@
 
 #include <set>
 #include <string>
+#include <utility>
 
-#include "Orvane/ui/draw/ImageSource.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "desk/canvas/CoverageRuns.hpp"
 #include "desk/canvas/ImageLibrary.hpp"
 #include "desk/canvas/Mask.hpp"
@@ -23,12 +24,14 @@ struct DrawingResources {
   /// The unknown images and symbols that were drawn; tests expect none.
   std::set<std::string> missingNames;
 
-  /// The sizes of the images and symbols, for layout. It refers to this object, which must outlive
-  /// it.
-  ui::ImageSource imageSource() {
-    return {
-        [this](const std::string& name) { return images.size(name); },
-        [this](const std::string& name, const ui::Font& font) { return symbols.size(name, font); }};
+  /// What a host of views needs. It refers to this object, which must outlive it.
+  ui::HostPlatform hostPlatform(ui::HostServices services = {}) {
+    return {.text = &shaper,
+            .images = {[this](const std::string& name) { return images.size(name); },
+                       [this](const std::string& name, const ui::Font& font) {
+                         return symbols.size(name, font);
+                       }},
+            .services = std::move(services)};
   }
 };
 

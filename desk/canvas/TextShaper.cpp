@@ -89,7 +89,7 @@ TextShaper::TextShaper() : context_(pango_font_map_create_context(pinnedFontMap(
   pango_context_set_language(context_.get(), pango_language_from_string("en"));
 }
 
-ObjectPointer<PangoLayout> TextShaper::layout(const std::string& text, const ui::Font& font) const {
+ObjectPointer<PangoLayout> TextShaper::shape(const std::string& text, const ui::Font& font) const {
   static const std::string families = std::string(systemFontFamily) + "," + chineseFontFamily;
   const DescriptionPointer description(pango_font_description_new());
   pango_font_description_set_family_static(description.get(), families.c_str());
@@ -125,7 +125,7 @@ LineMetrics TextShaper::measure(const std::string& line, const ui::Font& font) c
 }
 
 LineMetrics TextShaper::measured(const std::string& line, const ui::Font& font) const {
-  const ObjectPointer<PangoLayout> shaped = layout(line, font);
+  const ObjectPointer<PangoLayout> shaped = shape(line, font);
   PangoLayoutLine* shapedLine = pango_layout_get_line_readonly(shaped.get(), 0);
   PangoRectangle logical;
   pango_layout_line_get_extents(shapedLine, nullptr, &logical);
@@ -146,7 +146,7 @@ Mask TextShaper::makeMask(const std::string& line, const ui::Font& font,
   if (!(font.size > 0)) {
     return {};
   }
-  const ObjectPointer<PangoLayout> shaped = layout(line, font);
+  const ObjectPointer<PangoLayout> shaped = shape(line, font);
   PangoLayoutLine* shapedLine = pango_layout_get_line_readonly(shaped.get(), 0);
   PangoRectangle ink;
   pango_layout_line_get_extents(shapedLine, &ink, nullptr);

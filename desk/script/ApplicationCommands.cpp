@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "Orvane/guard/DockMouseGuard.hpp"
-#include "desk/script/Commands.hpp"
+#include "desk/script/CommandTable.hpp"
 
 namespace orvane::desk::script {
 

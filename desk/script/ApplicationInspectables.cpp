@@ -7,7 +7,7 @@
 
 #include "Orvane/geometry/DisplaySnapshot.hpp"
 #include "Orvane/guard/DockMouseGuard.hpp"
-#include "desk/script/Inspectables.hpp"
+#include "desk/script/InspectableTable.hpp"
 #include "desk/script/JsonText.hpp"
 
 namespace orvane::desk::script {
@@ -143,7 +143,7 @@ void addApplicationInspectables(InspectableTable& table) {
   table.add("guard", guardOf);
   table.add("guide", guideOf);
   table.add("messages", messagesOf);
-  table.add({.name = "model", .look = lookAtModel});
+  table.add("model", Inspectable{.parameter = {}, .look = lookAtModel});
 }
 
 }  // namespace orvane::desk::script

@@ -2,7 +2,6 @@
 #include "desk/script/CommandTable.hpp"
 
 #include "desk/hand/InQuotes.hpp"
-#include "desk/script/Commands.hpp"
 
 namespace orvane::desk::script {
 

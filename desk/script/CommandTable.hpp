@@ -50,4 +50,20 @@ class CommandTable {
 /// Every command that the desk has.
 [[nodiscard]] CommandTable standardCommands();
 
+// The commands in groups.
+
+/// Reset, time, displays.
+void addMachineCommands(CommandTable& table);
+/// Settings of the user and the system: Dock, permission, languages, defaults, login item, links,
+/// appearance.
+void addSystemCommands(CommandTable& table);
+/// Starting, ending and operating the application.
+void addApplicationCommands(CommandTable& table);
+/// The pointer, held keys, events.
+void addPointerCommands(CommandTable& table);
+/// Windows, the menu and their controls.
+void addSurfaceCommands(CommandTable& table);
+/// Inspection: show, find, picture, echo, expect.
+void addLookingCommands(CommandTable& table);
+
 }  // namespace orvane::desk::script

@@ -4,7 +4,7 @@
 #include <optional>
 #include <utility>
 
-#include "desk/script/Commands.hpp"
+#include "desk/script/CommandTable.hpp"
 
 namespace orvane::desk::script {
 

@@ -5,7 +5,7 @@
 
 #include "Orvane/ui/draw/InkProbe.hpp"
 #include "desk/hand/FindControl.hpp"
-#include "desk/script/Inspectables.hpp"
+#include "desk/script/InspectableTable.hpp"
 #include "desk/windows/MenuMetrics.hpp"
 #include "desk/windows/WindowServer.hpp"
 

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "desk/script/Commands.hpp"
+#include "desk/script/CommandTable.hpp"
 
 namespace orvane::desk::script {
 

@@ -4,7 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "desk/hand/InQuotes.hpp"
-#include "desk/script/Inspectables.hpp"
+#include "desk/script/InspectableTable.hpp"
 #include "desk/script/JsonText.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
@@ -112,7 +112,7 @@ Json announcementsSnapshot() {
 
 void addWindowInspectables(InspectableTable& table) {
   table.add("windows", windowsSnapshot);
-  table.add({.name = "tree", .parameter = "SURFACE", .look = lookAtTree});
+  table.add("tree", Inspectable{.parameter = "SURFACE", .look = lookAtTree});
   table.add("menu", statusMenuSnapshot);
   table.add("icon", iconSnapshot);
   table.add("announcements", announcementsSnapshot);

@@ -129,8 +129,8 @@ double MenuTracker::widthOf(const appkit::MenuItem& item) const {
   if (item.isSeparator) {
     return 0;
   }
-  const ui::TextLayout title = server_.text().layout(item.title, MenuMetrics::font, 1e6, 1);
-  return title.size().width + MenuMetrics::titleInset + MenuMetrics::trailingInset;
+  const double width = server_.resources().shaper.measure(item.title, MenuMetrics::font).width;
+  return width + MenuMetrics::titleInset + MenuMetrics::trailingInset;
 }
 
 CGPoint MenuTracker::origin(double width, double height) const {

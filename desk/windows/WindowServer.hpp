@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "desk/canvas/DrawingResources.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/machine/Machine.hpp"
 #include "desk/machine/MachineObserver.hpp"
 #include "desk/windows/DeskWindow.hpp"
@@ -42,7 +41,6 @@ class WindowServer : public MachineObserver {
   [[nodiscard]] Machine& machine() { return machine_; }
   [[nodiscard]] const Machine& machine() const { return machine_; }
   [[nodiscard]] DrawingResources& resources() { return resources_; }
-  [[nodiscard]] ui::TextMeasurer& text() { return text_; }
 
   /// Installs a program of the system, which lives as long as the server.
   void install(std::shared_ptr<void> program) { programs_.push_back(std::move(program)); }
@@ -93,7 +91,6 @@ class WindowServer : public MachineObserver {
  private:
   Machine& machine_;
   DrawingResources resources_;
-  PangoTextMeasurer text_;
   WindowList list_;
 
  public:

@@ -21,7 +21,7 @@ void HardwarePanelHost::setSize(ui::Size size) {
 ui::HostPlatform HardwarePanelHost::platform() {
   ui::HostServices services;
   services.requestRedraw = [this] { ++changeCount_; };
-  return {&text_, resources_.imageSource(), {}, std::move(services)};
+  return resources_.hostPlatform(std::move(services));
 }
 
 void HardwarePanelHost::update() {

@@ -7,7 +7,6 @@
 #include "Orvane/ui/host/ViewHost.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/DrawingResources.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/hardware/HardwarePanel.hpp"
 
 namespace orvane::showroom {
@@ -57,7 +56,6 @@ class HardwarePanelHost {
   Hardware& hardware_;
   HardwareContent content_;
   desk::DrawingResources resources_;
-  desk::PangoTextMeasurer text_;
   std::int64_t changeCount_ = 0;
   ui::Size size_;
   double scrolled_ = 0;

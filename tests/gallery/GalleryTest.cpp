@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include "desk/canvas/ImageSurface.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 #include "showroom/gallery/SheetPainter.hpp"
 #include "showroom/gallery/Specimen.hpp"
@@ -23,7 +22,7 @@ class GalleryTest : public desk::MachineFixture {
     machine.userDefaults.set(OrvaneLanguage::defaultsKey, std::string(language.rawValue()));
     ui::Appearance appearance;
     appearance.dark = isDark;
-    const Specimen specimen(item, language, appearance, text, resources);
+    const Specimen specimen(item, language, appearance, resources);
     const desk::SurfacePointer surface = desk::imageSurface(specimen.size());
     desk::CairoCanvas canvas(surface.get(), 1, resources);
     specimen.paint(canvas, {0, 0});
@@ -37,7 +36,6 @@ class GalleryTest : public desk::MachineFixture {
     return *std::ranges::find(sheet.items, caption, &GalleryItem::caption);
   }
 
-  desk::PangoTextMeasurer text;
   desk::DrawingResources resources;
 };
 

@@ -42,7 +42,7 @@ class WindowLayoutTest : public testing::Test {
     window->content->update();
     const CGPoint place = window->content->frame().origin;
     return textBoxes(language + "-" + surface, window->content->host(), {place.x, place.y},
-                     server.text());
+                     server.resources().shaper);
   }
 
   [[nodiscard]] std::string textsOfWindows(OrvaneLanguage spoken, const std::string& language) {
