@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk::explore {

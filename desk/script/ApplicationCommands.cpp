@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "Orvane/guard/DockMouseGuard.hpp"
-#include "desk/script/CommandTable.hpp"
+#include "desk/script/Commands.hpp"
 
 namespace orvane::desk::script {
 

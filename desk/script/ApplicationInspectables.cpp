@@ -7,7 +7,7 @@
 
 #include "Orvane/geometry/DisplaySnapshot.hpp"
 #include "Orvane/guard/DockMouseGuard.hpp"
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
 
 namespace orvane::desk::script {

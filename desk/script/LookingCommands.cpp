@@ -9,9 +9,9 @@
 #include "Orvane/geometry/OrvaneScreen.hpp"
 #include "Orvane/platform/appkit/Screen.hpp"
 #include "desk/hand/InQuotes.hpp"
-#include "desk/script/CommandTable.hpp"
+#include "desk/script/Commands.hpp"
 #include "desk/script/Expectation.hpp"
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
 
 namespace orvane::desk::script {

@@ -4,7 +4,7 @@
 #include <optional>
 #include <utility>
 
-#include "desk/script/CommandTable.hpp"
+#include "desk/script/Commands.hpp"
 
 namespace orvane::desk::script {
 

@@ -5,7 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
 
 namespace orvane::desk::script {

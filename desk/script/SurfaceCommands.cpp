@@ -6,7 +6,7 @@
 
 #include "Orvane/ui/views/KeyboardShortcut.hpp"
 #include "desk/hand/Hand.hpp"
-#include "desk/script/CommandTable.hpp"
+#include "desk/script/Commands.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk::script {

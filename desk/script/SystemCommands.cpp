@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "desk/script/CommandTable.hpp"
+#include "desk/script/Commands.hpp"
 
 namespace orvane::desk::script {
 

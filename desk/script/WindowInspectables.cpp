@@ -4,7 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "desk/hand/InQuotes.hpp"
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"

@@ -27,7 +27,7 @@ SystemSettings::SystemSettings(WindowServer& server)
               {"x-apple.systempreferences:com.apple.settings.PrivacySecurity.extension"
                "?Privacy_Accessibility",
                "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility"},
-              [](SystemSettings& settings) -> ui::View { return AccessibilityPage{&settings}; }}} {
+              makeAccessibilityPage}} {
   server.machine().links.onOpened([this](const Links::Opened& link) { linkOpened(link); });
 }
 
@@ -213,11 +213,11 @@ std::optional<ui::Rect> SystemSettings::listFrame() const {
     return std::nullopt;
   }
   view_->update();
-  const auto list = findElement(
-      view_->host().semantics(),
-      [label = SystemSettingsView::listLabel(language())](const ui::SemanticsNode& node) {
-        return node.role == ui::Role::group && node.label == label;
-      });
+  const auto list =
+      findElement(view_->host().semantics(),
+                  [label = accessibilityListLabel(language())](const ui::SemanticsNode& node) {
+                    return node.role == ui::Role::group && node.label == label;
+                  });
   return list ? std::optional(list->frame) : std::nullopt;
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desk/windows/Implementations.hpp"
 #include "desk/windows/MenuMetrics.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -23,10 +24,6 @@ bool beginsWith(const std::string& title, const std::string& start) {
   return start.size() <= title.size() &&
          std::equal(start.begin(), start.end(), title.begin(),
                     [&](char first, char second) { return lower(first) == lower(second); });
-}
-
-std::shared_ptr<HostedView> viewOf(const appkit::MenuItem& item) {
-  return item.view ? hostedView(*item.view) : nullptr;
 }
 
 }  // namespace

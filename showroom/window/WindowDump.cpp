@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
 

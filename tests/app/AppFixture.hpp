@@ -8,7 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Orvane/model/OrvaneSettings.hpp"
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/windows/Implementations.hpp"
 #include "tests/support/ApplicationFixture.hpp"
 #include "tests/support/TestDisplays.hpp"

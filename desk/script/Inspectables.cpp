@@ -1,5 +1,5 @@
 // What scripts can inspect, by name.
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 
 namespace orvane::desk::script {
 

@@ -1,5 +1,5 @@
 // The commands of the script language, by name.
-#include "desk/script/CommandTable.hpp"
+#include "desk/script/Commands.hpp"
 
 #include "desk/hand/InQuotes.hpp"
 
