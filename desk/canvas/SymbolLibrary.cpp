@@ -2,6 +2,7 @@
 #include "desk/canvas/SymbolLibrary.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -20,33 +21,12 @@ constexpr double regularStroke = 2.0;
 // Only the middle 28 of 32 units count for layout; the rest is for heavy strokes.
 constexpr double layoutUnits = 28.0;
 
-/// The stroke of an outline, in units of the grid, chosen by eye next to text of the same weight.
-double strokeOf(ui::Weight weight) {
-  switch (weight) {
-    case ui::Weight::ultraLight:
-      return 0.9;
-    case ui::Weight::thin:
-      return 1.2;
-    case ui::Weight::light:
-      return 1.6;
-    case ui::Weight::regular:
-      return regularStroke;
-    case ui::Weight::medium:
-      return 2.3;
-    case ui::Weight::semibold:
-      return 2.65;
-    case ui::Weight::bold:
-      return 3.0;
-    case ui::Weight::heavy:
-      return 3.4;
-    case ui::Weight::black:
-      return 3.8;
-  }
-  return regularStroke;
-}
+/// The stroke of an outline, in units of the grid, from ultralight to black; chosen by eye next to
+/// text of the same weight.
+constexpr std::array<double, 9> strokes{0.9, 1.2, 1.6, regularStroke, 2.3, 2.65, 3.0, 3.4, 3.8};
 
 std::string styleSheetOf(ui::Weight weight) {
-  const double stroke = strokeOf(weight);
+  const double stroke = strokes.at(static_cast<std::size_t>(weight) / 100 - 1);
   const double growth = stroke - regularStroke;
   char sheet[256];
   std::snprintf(sheet, sizeof sheet,

@@ -100,6 +100,15 @@ bool Surfaces::isOpen(const std::string& name) const {
   return name == menu ? server_.menus.isOpen() : window(name) != nullptr;
 }
 
+std::optional<CGRect> Surfaces::frame(const std::string& name) const {
+  if (!isOpen(name)) {
+    return std::nullopt;
+  }
+  server_.menus.layOut();
+  return name == menu ? server_.menus.frame()
+                      : server_.machine().displays.flipped(window(name)->frame);
+}
+
 std::vector<SurfacePart> Surfaces::parts(const std::string& name) const {
   std::vector<SurfacePart> all;
   if (name == menu) {

@@ -50,6 +50,8 @@ class Surfaces {
   /// The visible surfaces that no modal session blocks, front to back.
   [[nodiscard]] std::vector<std::string> names() const;
   [[nodiscard]] bool isOpen(const std::string& name) const;
+  /// In global coordinates; none when the surface is not open.
+  [[nodiscard]] std::optional<CGRect> frame(const std::string& name) const;
 
   /// The up-to-date semantics tree, with frames from the surface's top left; none when the surface
   /// is not open.
