@@ -106,20 +106,15 @@ PixelRect CairoCanvas::visiblePixels(const ui::Rect& rect, int margin) {
 }
 
 void CairoCanvas::clip(const ui::Shape& shape) {
-  noteClip(shape);
+  const bool isOnPixels = isWhole(pixelTransform().apply(shape.rect));
+  if (shape.kind != ui::Shape::Kind::rectangle || !isOnPixels) {
+    Clip& clip = layers_.back().clips.back();
+    clip.isTangled = !clip.shapes.empty() || !isRounded(shape) || !isOnPixels;
+    clip.shapes.push_back({shape, pixelTransform()});
+  }
   cairo_new_path(context());
   appendShape(context(), shape);
   cairo_clip(context());
-}
-
-void CairoCanvas::noteClip(const ui::Shape& shape) {
-  Clip& clip = layers_.back().clips.back();
-  const bool isOnPixels = isWhole(pixelTransform().apply(shape.rect));
-  if (shape.kind == ui::Shape::Kind::rectangle && isOnPixels) {
-    return;
-  }
-  clip.isTangled = !clip.shapes.empty() || !isRounded(shape) || !isOnPixels;
-  clip.shapes.push_back({shape, pixelTransform()});
 }
 
 void CairoCanvas::fill(const ui::Shape& shape, const ui::Paint& paint) {
@@ -247,15 +242,11 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
     return false;
   }
   const PixelRect bounds = PixelRect::around(pixelTransform().apply(shape.rect.inset(-lineWidth)));
-  const CoverageRuns& runs = coverageRunsOf(shape, lineWidth);
-  PixelRect painted;
-  for (PixelRect& part : *parts) {
-    part = part.cutTo(bounds);
-    painted = painted.isEmpty() ? part : painted.joinedWith(part);
-  }
+  const PixelRect painted = bounds.cutTo(clipExtents());
   if (painted.isEmpty()) {
     return true;
   }
+  const CoverageRuns& runs = coverageRunsOf(shape, lineWidth);
   if (deep != nullptr) {
     const Rows<DeepColor> colors = deepColorsOf(paint, painted.top, painted.bottom);
     for (const PixelRect& part : *parts) {

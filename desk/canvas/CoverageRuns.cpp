@@ -75,11 +75,6 @@ PixelRect PixelRect::cutTo(const PixelRect& other) const {
           std::min(bottom, other.bottom)};
 }
 
-PixelRect PixelRect::joinedWith(const PixelRect& other) const {
-  return {std::min(left, other.left), std::min(top, other.top), std::max(right, other.right),
-          std::max(bottom, other.bottom)};
-}
-
 void CoverageRuns::add(const Mask& mask) {
   cairo_surface_flush(mask.surface.get());
   const int width = cairo_image_surface_get_width(mask.surface.get());

@@ -26,8 +26,6 @@ struct PixelRect {
   [[nodiscard]] static PixelRect around(const ui::Rect& pixels);
   [[nodiscard]] bool isEmpty() const { return left >= right || top >= bottom; }
   [[nodiscard]] PixelRect cutTo(const PixelRect& other) const;
-  /// The union of both.
-  [[nodiscard]] PixelRect joinedWith(const PixelRect& other) const;
   [[nodiscard]] PixelRect movedBy(int x, int y) const {
     return {left + x, top + y, right + x, bottom + y};
   }

@@ -93,10 +93,6 @@ void RunLoop::invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer) {
   }
 }
 
-std::size_t RunLoop::timerCount() const {
-  return timers_.size();
-}
-
 bool RunLoop::addSource(const void* source, ModeSet modes) {
   for (auto& [known, knownModes] : sources_) {
     if (known == source) {

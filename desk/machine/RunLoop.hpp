@@ -69,7 +69,7 @@ class RunLoop {
                                                   Task tick);
   /// The tick is not called again, and is destroyed as soon as it is not running.
   void invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer);
-  [[nodiscard]] std::size_t timerCount() const;
+  [[nodiscard]] std::size_t timerCount() const { return timers_.size(); }
 
   /// While refused, no source can be created for a port.
   void setRefusesSources(bool refuses) { refusesSources_ = refuses; }

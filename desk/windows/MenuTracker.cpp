@@ -238,10 +238,6 @@ void MenuTracker::highlightByKey(std::size_t itemIndex) {
   server_.updates.request();
 }
 
-void MenuTracker::endKeyNavigation() {
-  isNavigatedByKeys_ = false;
-}
-
 void MenuTracker::moveHighlight(bool isDown) {
   const auto count = static_cast<std::ptrdiff_t>(menu_->items.size());
   const std::ptrdiff_t step = isDown ? 1 : -1;

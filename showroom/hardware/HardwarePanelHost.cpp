@@ -14,10 +14,6 @@ HardwarePanelHost::HardwarePanelHost(Hardware& hardware) : hardware_(hardware), 
   });
 }
 
-void HardwarePanelHost::setSize(ui::Size size) {
-  size_ = size;
-}
-
 ui::HostPlatform HardwarePanelHost::platform() {
   ui::HostServices services;
   services.requestRedraw = [this] { ++changeCount_; };
@@ -53,10 +49,6 @@ void HardwarePanelHost::paint(desk::CairoCanvas& canvas, ui::Point corner) {
 void HardwarePanelHost::pointerMoved(ui::Point point) {
   update();
   host_.pointerMoved(inContent(point));
-}
-
-void HardwarePanelHost::pointerExited() {
-  host_.pointerExited();
 }
 
 void HardwarePanelHost::pointerDown(ui::Point point) {

@@ -20,7 +20,7 @@ class HardwarePanelHost {
   HardwarePanelHost& operator=(const HardwarePanelHost&) = delete;
 
   /// Sets the size of the visible part, in points.
-  void setSize(ui::Size size);
+  void setSize(ui::Size size) { size_ = size; }
   /// Shows this content at the machine's present time.
   void show(const HardwareContent& content);
   [[nodiscard]] const HardwareContent& content() const { return content_; }
@@ -31,7 +31,7 @@ class HardwarePanelHost {
   void paint(desk::CairoCanvas& canvas, ui::Point corner);
 
   void pointerMoved(ui::Point point);
-  void pointerExited();
+  void pointerExited() { host_.pointerExited(); }
   void pointerDown(ui::Point point);
   void pointerUp(ui::Point point);
   /// Scrolls by a distance in points, towards the end if positive, within the content.
