@@ -18,10 +18,8 @@
 #include "Orvane/ui/host/ViewHost.hpp"
 #include "Orvane/windows/OrvaneWindow.hpp"
 #include "bench/KitPanel.hpp"
-#include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/ImageSurface.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/windows/ContentPicture.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
@@ -87,9 +85,7 @@ class MainPanel : public Subject {
 class Stage {
  public:
   explicit Stage(Subject& subject)
-      : host_(ui::HostPlatform{.text = &text_, .images = resources_.imageSource()}),
-        surface_(desk::imageSurface(subject.size(), scale)) {
-    addApplicationImages(resources_.images);
+      : host_(resources_.hostPlatform()), surface_(desk::imageSurface(subject.size(), scale)) {
     host_.setSize(subject.size());
     host_.setRoot([&subject](const ui::Environment&) { return subject.view(); });
     rest();
@@ -117,7 +113,6 @@ class Stage {
   [[nodiscard]] long long areas() const { return picture_.drawnAreaCount(); }
 
  private:
-  desk::PangoTextMeasurer text_;
   desk::DrawingResources resources_;
   ui::ViewHost host_;
   desk::SurfacePointer surface_;
@@ -128,9 +123,9 @@ class Stage {
 /// The retained tree without a host, so that each pass can be timed separately.
 class BareTree {
  public:
-  BareTree(ui::TextMeasurer& text, desk::DrawingResources& resources)
-      : text_(text),
-        images_(resources.imageSource()),
+  explicit BareTree(desk::DrawingResources& resources)
+      : text_(resources.shaper),
+        images_(resources.hostPlatform().images),
         environment_(std::make_shared<ui::Environment>()) {}
 
   void build(Subject& subject) {
@@ -186,8 +181,7 @@ template <typename Panel>
 void kitStages(benchmark::State& state) {
   Panel subject;
   desk::DrawingResources resources;
-  desk::PangoTextMeasurer text;
-  BareTree tree(text, resources);
+  BareTree tree(resources);
   double build = 0;
   double layout = 0;
   double present = 0;
@@ -240,14 +234,13 @@ void kitMemory(benchmark::State& state) {
   constexpr std::size_t trees = 32;
   Panel subject;
   desk::DrawingResources resources;
-  desk::PangoTextMeasurer text;
   double bytesPerNode = 0;
   for (auto _ : state) {
     std::vector<std::unique_ptr<BareTree>> all;
     std::size_t nodes = 0;
     // The first tree fills the shared caches.
     for (std::size_t tree = 0; tree <= trees; ++tree) {
-      all.push_back(std::make_unique<BareTree>(text, resources));
+      all.push_back(std::make_unique<BareTree>(resources));
     }
     const auto grow = [&](std::size_t index) {
       all[index]->build(subject);

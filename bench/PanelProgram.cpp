@@ -11,7 +11,6 @@
 #include "bench/KitPanel.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/ImageSurface.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
 
 namespace {
 
@@ -45,9 +44,8 @@ long residentMemory() {
 
 int main() {
   const char* const started = std::getenv("PANEL_STARTED_MS");
-  desk::PangoTextMeasurer text;
   desk::DrawingResources resources;
-  ui::ViewHost host(ui::HostPlatform{.text = &text, .images = resources.imageSource()});
+  ui::ViewHost host(resources.hostPlatform());
   const desk::SurfacePointer surface =
       desk::imageSurface({bench::KitPanel::width, bench::KitPanel::height}, scale);
   host.setSize({bench::KitPanel::width, bench::KitPanel::height});

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "desk/windows/Implementations.hpp"
-#include "desk/windows/MenuMetrics.hpp"
 
 namespace orvane::appkit {
 
@@ -53,11 +52,3 @@ void HostingView::onDismiss(std::function<void()> dismiss) {
 }
 
 }  // namespace orvane::appkit
-
-namespace orvane::desk {
-
-std::shared_ptr<HostedView> hostedView(const appkit::HostingView& view) {
-  return view.implementation();
-}
-
-}  // namespace orvane::desk

@@ -5,7 +5,6 @@
 
 #include "desk/machine/Machine.hpp"
 #include "desk/machine/MachineObserver.hpp"
-#include "desk/machine/VisibleFrame.hpp"
 
 namespace orvane::appkit {
 
@@ -18,7 +17,7 @@ namespace {
 
 Screen screenOf(const desk::Machine& machine, const desk::Display& display) {
   return Screen(std::make_shared<const Screen::Implementation>(
-      Screen::Implementation{display, desk::visibleFrameOf(display, machine.dock)}));
+      Screen::Implementation{display, machine.dock.visibleFrameOf(display)}));
 }
 
 }  // namespace
@@ -38,8 +37,8 @@ std::vector<Screen> Screen::screens() {
 
 std::optional<Screen> Screen::mainScreen() {
   const desk::Machine& machine = desk::Machine::current();
-  if (machine.observer != nullptr) {
-    if (const auto index = machine.observer->keyDisplayIndex()) {
+  if (machine.windowServer != nullptr) {
+    if (const auto index = machine.windowServer->keyDisplayIndex()) {
       return screenOf(machine, machine.displays.all()[*index]);
     }
   }

@@ -32,21 +32,7 @@ std::optional<std::string> Workspace::percentEncodedForQuery(std::string_view te
     return std::nullopt;
   }
   // NSCharacterSet.URLQueryAllowedCharacterSet: the query of RFC 3986, section 3.4.
-  constexpr std::string_view allowed =
-      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789!$&'()*+,-./:;=?@_~";
-  constexpr std::string_view hexDigits = "0123456789ABCDEF";
-  std::string encoded;
-  for (const char character : text) {
-    if (allowed.find(character) != std::string_view::npos) {
-      encoded += character;
-    } else {
-      const auto byte = static_cast<unsigned char>(character);
-      encoded += '%';
-      encoded += hexDigits[byte >> 4U];
-      encoded += hexDigits[byte & 15U];
-    }
-  }
-  return encoded;
+  return desk::Links::percentEncoded(text, "!$&'()*+,/:;=?@");
 }
 
 }  // namespace orvane::appkit

@@ -22,9 +22,13 @@ void ApplicationHost::launch() {
   machine_.process.start();
   OrvaneApp::install();
   WindowServer::current().application.finishLaunching();
-  // After the launch, which creates the model, and before the main queue delivers the guard's first
-  // messages.
-  recordGuardMessages();
+  // The callback through which the model receives the guard's messages is wrapped after the launch,
+  // which creates the model, and before the main queue delivers the first message.
+  DockMouseGuard& guard = model().guardService();
+  guard.onEvent = [this, toOwner = std::move(guard.onEvent)](const std::string& message) {
+    messages_.push_back({machine_.clock.now(), message});
+    toOwner(message);
+  };
   machine_.runDue();
 }
 
@@ -53,14 +57,6 @@ OrvaneSnapshot ApplicationHost::snapshot() const {
 OrvaneModel& ApplicationHost::model() const {
   require(isRunning(), "the application is not running");
   return OrvaneAppState::model();
-}
-
-void ApplicationHost::recordGuardMessages() {
-  DockMouseGuard& guard = model().guardService();
-  guard.onEvent = [this, toOwner = std::move(guard.onEvent)](const std::string& message) {
-    messages_.push_back({machine_.clock.now(), message});
-    toOwner(message);
-  };
 }
 
 }  // namespace orvane::desk

@@ -47,9 +47,6 @@ class ApplicationHost {
   [[nodiscard]] std::int64_t launchedAtNanoseconds() const { return launchedAt_; }
 
  private:
-  /// Wraps the callback through which the model receives the guard's messages.
-  void recordGuardMessages();
-
   Machine& machine_;
   SystemSettings& systemSettings_;
   std::vector<GuardMessage> messages_;

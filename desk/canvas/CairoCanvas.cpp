@@ -15,35 +15,10 @@ namespace {
 
 enum class MaskKind { text, symbol, shadow, layerShadow };
 
-/// Pixels from `left`, `top` up to but not including `right`, `bottom`.
-struct PixelBounds {
-  double left = 0;
-  double top = 0;
-  double right = 0;
-  double bottom = 0;
-
-  PixelBounds grownBy(double horizontal, double vertical) const {
-    return {left - horizontal, top - vertical, right + horizontal, bottom + vertical};
-  }
-  PixelBounds cutTo(const PixelBounds& other) const {
-    return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
-            std::min(bottom, other.bottom)};
-  }
-};
-
 cairo_matrix_t matrixOf(cairo_t* context) {
   cairo_matrix_t matrix;
   cairo_get_matrix(context, &matrix);
   return matrix;
-}
-
-PixelBounds clipBounds(cairo_t* context) {
-  PixelBounds bounds;
-  cairo_save(context);
-  cairo_identity_matrix(context);
-  cairo_clip_extents(context, &bounds.left, &bounds.top, &bounds.right, &bounds.bottom);
-  cairo_restore(context);
-  return bounds;
 }
 
 void setColor(cairo_t* context, const ui::Rgba& color) {
@@ -75,32 +50,10 @@ double sigmaInPixels(const ui::PaintShadow& shadow, const ui::Transform& pixels)
   return std::max(shadow.radius, 0.0) / 2.0 * std::sqrt(std::abs(pixels.scaleX * pixels.scaleY));
 }
 
-MaskKey keyOf(MaskKind kind, const std::string& content, const ui::Font& font,
-              const PixelPlacement& placement) {
-  return MaskKey()
-      .add(kind)
-      .add(content)
-      .add(font.size)
-      .add(font.weight)
-      .add(font.tracking)
-      .add(placement.scaleX)
-      .add(placement.scaleY)
-      .add(placement.phaseX)
-      .add(placement.phaseY);
-}
-
-/// The size and the pixels of an image surface.
-std::string bytesOf(const SurfacePointer& surface) {
-  cairo_surface_flush(surface.get());
-  const int width = cairo_image_surface_get_width(surface.get());
-  const int height = cairo_image_surface_get_height(surface.get());
-  const int stride = cairo_image_surface_get_stride(surface.get());
-  const auto* data = reinterpret_cast<const char*>(cairo_image_surface_get_data(surface.get()));
-  std::string bytes = std::to_string(width) + " ";
-  if (data != nullptr) {
-    bytes.append(data, static_cast<std::size_t>(stride) * static_cast<std::size_t>(height));
-  }
-  return bytes;
+std::string keyOf(MaskKind kind, const std::string& content, const ui::Font& font,
+                  const PixelPlacement& placement) {
+  return cacheKey(kind, content, font.size, font.weight, font.tracking, placement.scaleX,
+                  placement.scaleY, placement.phaseX, placement.phaseY);
 }
 
 }  // namespace
@@ -155,18 +108,9 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
   ui::Shape cast = hole;
   cast.rect = cast.rect.movedBy({rounded(shadow.offset.x * pixels.scaleX, placeSteps),
                                  rounded(shadow.offset.y * pixels.scaleY, placeSteps)});
-  const MaskKey key = MaskKey()
-                          .add(MaskKind::shadow)
-                          .add(hole.kind)
-                          .add(hole.cornerStyle)
-                          .add(hole.cornerRadius)
-                          .add(hole.rect.x)
-                          .add(hole.rect.y)
-                          .add(hole.rect.width)
-                          .add(hole.rect.height)
-                          .add(cast.rect.x)
-                          .add(cast.rect.y)
-                          .add(sigma);
+  const std::string key =
+      cacheKey(MaskKind::shadow, hole.kind, hole.cornerStyle, hole.cornerRadius, hole.rect.x,
+               hole.rect.y, hole.rect.width, hole.rect.height, cast.rect.x, cast.rect.y, sigma);
   const Mask& mask = resources_.masks.get(key, [&] {
     Mask made = makeShadowMask(cast, sigma);
     cutOut(made, hole);
@@ -212,28 +156,28 @@ void CairoCanvas::beginLayer(const ui::Rect& bounds, double opacity,
                              const std::optional<ui::PaintShadow>& shadow) {
   cairo_t* outer = context();
   const ui::Transform pixels = pixelTransform();
-  const ui::Rect painted = pixels.apply(bounds);
-  PixelBounds area{painted.x, painted.y, painted.right(), painted.bottom()};
-  PixelBounds visible = clipBounds(outer);
+  const PixelRect clip = clipExtents();
+  ui::Rect area = pixels.apply(bounds);
+  ui::Rect visible = ui::Rect::between(clip.left, clip.top, clip.right, clip.bottom);
   if (shadow) {
     // A shape outside of the clip may cast its shadow into it.
     const double reach = blurReach(sigmaInPixels(*shadow, pixels));
-    const double across = reach + std::abs(shadow->offset.x * pixels.scaleX);
-    const double down = reach + std::abs(shadow->offset.y * pixels.scaleY);
-    area = area.grownBy(across, down);
-    visible = visible.grownBy(across, down);
+    const ui::Edges grown =
+        ui::Edges::symmetric(reach + std::abs(shadow->offset.x * pixels.scaleX),
+                             reach + std::abs(shadow->offset.y * pixels.scaleY));
+    area = area.outset(grown);
+    visible = visible.outset(grown);
   }
   // One more pixel for antialiased edges.
-  area = area.grownBy(1, 1).cutTo(visible);
+  const PixelRect covered = PixelRect::around(area.inset(-1).intersection(visible));
 
   Layer layer;
   layer.opacity = std::clamp(opacity, 0.0, 1.0);
   layer.shadow = shadow;
-  layer.x = static_cast<int>(std::floor(area.left));
-  layer.y = static_cast<int>(std::floor(area.top));
-  const int width = std::max(0, static_cast<int>(std::ceil(area.right)) - layer.x);
-  const int height = std::max(0, static_cast<int>(std::ceil(area.bottom)) - layer.y);
-  const SurfacePointer surface = imageSurface(width, height);
+  layer.x = covered.left;
+  layer.y = covered.top;
+  const SurfacePointer surface =
+      imageSurface(covered.right - covered.left, covered.bottom - covered.top);
   cairo_surface_set_device_offset(surface.get(), -layer.x, -layer.y);
   layer.context.reset(cairo_create(surface.get()));
   const cairo_matrix_t matrix = matrixOf(outer);
@@ -268,7 +212,7 @@ void CairoCanvas::paintLayerShadow(const Layer& layer, const ui::PaintShadow& sh
   const ui::Transform pixels = pixelTransform();
   Mask alpha{coverageOf(cairo_get_target(layer.context.get()), layer.x, layer.y)};
   const double sigma = sigmaInPixels(shadow, pixels);
-  const MaskKey key = MaskKey().add(MaskKind::layerShadow).add(sigma).add(bytesOf(alpha.surface));
+  const std::string key = cacheKey(MaskKind::layerShadow, sigma, contentOf(alpha.surface.get()));
   const Mask& mask = resources_.masks.get(key, [&] {
     blurSurface(alpha.surface.get(), sigma, BlurEdge::transparent);
     return std::move(alpha);
@@ -355,10 +299,7 @@ void CairoCanvas::image(const std::string& name, const ui::Rect& destination) {
     resources_.missingNames.insert(name);
     return;
   }
-  const auto paint = [&] {
-    resources_.images.paint(context(), name, destination.x, destination.y, destination.width,
-                            destination.height);
-  };
+  const auto paint = [&] { resources_.images.paint(context(), name, destination); };
   if (deepTarget() != nullptr) {
     paintThroughLayer(destination, paint);
   } else {

@@ -78,7 +78,6 @@ class CairoCanvas : public ui::Canvas {
     std::vector<Clip> clips{1};
   };
 
-  void noteClip(const ui::Shape& shape);
   /// A line width of zero fills the shape.
   void paintPath(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
   /// The same from cached coverage, for a solid colour or a vertical gradient. False, and nothing

@@ -23,11 +23,6 @@ bool isWhole(const ui::Rect& pixels) {
          isWhole(pixels.bottom());
 }
 
-PixelRect pixelsOf(const ui::Rect& rect) {
-  return {static_cast<int>(std::floor(rect.x)), static_cast<int>(std::floor(rect.y)),
-          static_cast<int>(std::ceil(rect.right())), static_cast<int>(std::ceil(rect.bottom()))};
-}
-
 /// The rectangles of a clip of whole pixels; none for any other clip.
 std::optional<std::vector<PixelRect>> clipRectangles(cairo_t* context) {
   cairo_matrix_t matrix;
@@ -40,7 +35,7 @@ std::optional<std::vector<PixelRect>> clipRectangles(cairo_t* context) {
     rectangles.emplace();
     for (int index = 0; index < list->num_rectangles; ++index) {
       const cairo_rectangle_t& found = list->rectangles[index];
-      rectangles->push_back(pixelsOf({found.x, found.y, found.width, found.height}));
+      rectangles->push_back(PixelRect::around({found.x, found.y, found.width, found.height}));
     }
   }
   cairo_rectangle_list_destroy(list);
@@ -100,31 +95,26 @@ PixelRect CairoCanvas::clipExtents() {
   cairo_identity_matrix(context());
   cairo_clip_extents(context(), &left, &top, &right, &bottom);
   cairo_set_matrix(context(), &matrix);
-  return pixelsOf(ui::Rect::between(left, top, right, bottom));
+  return PixelRect::around(ui::Rect::between(left, top, right, bottom));
 }
 
 PixelRect CairoCanvas::visiblePixels(const ui::Rect& rect, int margin) {
-  const PixelRect pixels = pixelsOf(pixelTransform().apply(rect));
+  const PixelRect pixels = PixelRect::around(pixelTransform().apply(rect));
   return PixelRect{pixels.left - margin, pixels.top - margin, pixels.right + margin,
                    pixels.bottom + margin}
       .cutTo(clipExtents());
 }
 
 void CairoCanvas::clip(const ui::Shape& shape) {
-  noteClip(shape);
+  const bool isOnPixels = isWhole(pixelTransform().apply(shape.rect));
+  if (shape.kind != ui::Shape::Kind::rectangle || !isOnPixels) {
+    Clip& clip = layers_.back().clips.back();
+    clip.isTangled = !clip.shapes.empty() || !isRounded(shape) || !isOnPixels;
+    clip.shapes.push_back({shape, pixelTransform()});
+  }
   cairo_new_path(context());
   appendShape(context(), shape);
   cairo_clip(context());
-}
-
-void CairoCanvas::noteClip(const ui::Shape& shape) {
-  Clip& clip = layers_.back().clips.back();
-  const bool isOnPixels = isWhole(pixelTransform().apply(shape.rect));
-  if (shape.kind == ui::Shape::Kind::rectangle && isOnPixels) {
-    return;
-  }
-  clip.isTangled = !clip.shapes.empty() || !isRounded(shape) || !isOnPixels;
-  clip.shapes.push_back({shape, pixelTransform()});
 }
 
 void CairoCanvas::fill(const ui::Shape& shape, const ui::Paint& paint) {
@@ -154,8 +144,6 @@ void CairoCanvas::paintPath(const ui::Shape& shape, const ui::Paint& paint, doub
   if (isOneColor(paint)) {
     const ui::Rgba& color = paint.stops.back().color;
     cairo_set_source_rgba(context(), color.red, color.green, color.blue, color.alpha);
-  } else if (runsDown(paint) && !(lineWidth > 0)) {
-    setGradientRows(context(), paint, pixelTransform().apply(shape.rect));
   } else {
     cairo_set_source(context(), gradientOf(paint).get());
   }
@@ -198,33 +186,19 @@ const CoverageRuns& CairoCanvas::coverageRunsOf(const ui::Shape& shape, double l
   const Clip& clip = layers_.back().clips.back();
   const ui::Transform pixels = pixelTransform();
   const ui::Rect area = pixels.apply(shape.rect.inset(-lineWidth));
-  const PixelRect bounds = pixelsOf(area);
+  const PixelRect bounds = PixelRect::around(area);
   PixelRect straight = clip.isTangled ? PixelRect{} : straightRows(shape, pixels, lineWidth);
   // The coverage is made near the origin and moved by whole pixels, so that equal shapes share it.
-  MaskKey key = MaskKey()
-                    .add(shape.kind)
-                    .add(shape.cornerStyle)
-                    .add(shape.cornerRadius)
-                    .add(shape.rect.width)
-                    .add(shape.rect.height)
-                    .add(pixels.scaleX)
-                    .add(pixels.scaleY)
-                    .add(area.x - bounds.left)
-                    .add(area.y - bounds.top)
-                    .add(lineWidth);
+  std::string key = cacheKey(shape.kind, shape.cornerStyle, shape.cornerRadius, shape.rect.width,
+                             shape.rect.height, pixels.scaleX, pixels.scaleY, area.x - bounds.left,
+                             area.y - bounds.top, lineWidth);
   for (const auto& [outline, toPixels] : clip.shapes) {
     const PixelRect rows = straightRows(outline, toPixels, 0);
     straight = straight.cutTo({0, rows.top, 1, rows.bottom});
     const ui::Rect rect = toPixels.apply(outline.rect);
-    key.add(outline.kind)
-        .add(toPixels.scaleX)
-        .add(toPixels.scaleY)
-        .add(outline.cornerStyle)
-        .add(outline.cornerRadius)
-        .add(rect.x - bounds.left)
-        .add(rect.y - bounds.top)
-        .add(rect.width)
-        .add(rect.height);
+    key += cacheKey(outline.kind, toPixels.scaleX, toPixels.scaleY, outline.cornerStyle,
+                    outline.cornerRadius, rect.x - bounds.left, rect.y - bounds.top, rect.width,
+                    rect.height);
   }
   return resources_.coverage.get(key, [&] {
     CoverageRuns made;
@@ -267,16 +241,12 @@ bool CairoCanvas::paintCoverage(const ui::Shape& shape, const ui::Paint& paint, 
   if (!parts) {
     return false;
   }
-  const PixelRect bounds = pixelsOf(pixelTransform().apply(shape.rect.inset(-lineWidth)));
-  const CoverageRuns& runs = coverageRunsOf(shape, lineWidth);
-  PixelRect painted;
-  for (PixelRect& part : *parts) {
-    part = part.cutTo(bounds);
-    painted = painted.isEmpty() ? part : painted.joinedWith(part);
-  }
+  const PixelRect bounds = PixelRect::around(pixelTransform().apply(shape.rect.inset(-lineWidth)));
+  const PixelRect painted = bounds.cutTo(clipExtents());
   if (painted.isEmpty()) {
     return true;
   }
+  const CoverageRuns& runs = coverageRunsOf(shape, lineWidth);
   if (deep != nullptr) {
     const Rows<DeepColor> colors = deepColorsOf(paint, painted.top, painted.bottom);
     for (const PixelRect& part : *parts) {

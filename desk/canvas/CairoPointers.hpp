@@ -10,27 +10,27 @@ using PangoContext = struct _PangoContext;
 using PangoFontMap = struct _PangoFontMap;
 using PangoLayout = struct _PangoLayout;
 using RsvgHandle = struct _RsvgHandle;
+extern "C" void g_object_unref(void* object);
 
 namespace orvane::desk {
 
-struct CairoRelease {
-  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
-  void operator()(cairo_t* context) const { cairo_destroy(context); }
-  void operator()(cairo_pattern_t* pattern) const { cairo_pattern_destroy(pattern); }
-  void operator()(cairo_font_options_t* options) const { cairo_font_options_destroy(options); }
+/// Destroys an object with a function of its library.
+template <auto destroy>
+struct Release {
+  template <typename Object>
+  void operator()(Object* object) const {
+    destroy(object);
+  }
 };
 
-struct ObjectRelease {
-  void operator()(void* object) const;
-};
-
-using SurfacePointer = std::unique_ptr<cairo_surface_t, CairoRelease>;
-using ContextPointer = std::unique_ptr<cairo_t, CairoRelease>;
-using PatternPointer = std::unique_ptr<cairo_pattern_t, CairoRelease>;
-using FontOptionsPointer = std::unique_ptr<cairo_font_options_t, CairoRelease>;
+using SurfacePointer = std::unique_ptr<cairo_surface_t, Release<cairo_surface_destroy>>;
+using ContextPointer = std::unique_ptr<cairo_t, Release<cairo_destroy>>;
+using PatternPointer = std::unique_ptr<cairo_pattern_t, Release<cairo_pattern_destroy>>;
+using FontOptionsPointer =
+    std::unique_ptr<cairo_font_options_t, Release<cairo_font_options_destroy>>;
 
 /// Owns one reference to a GObject of type `Object`.
 template <typename Object>
-using ObjectPointer = std::unique_ptr<Object, ObjectRelease>;
+using ObjectPointer = std::unique_ptr<Object, Release<g_object_unref>>;
 
 }  // namespace orvane::desk

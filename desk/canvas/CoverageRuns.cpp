@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <utility>
 
 namespace orvane::desk {
 
@@ -62,14 +64,15 @@ void paintRun(std::uint32_t* pixels, std::size_t count, std::uint32_t color, std
 
 }  // namespace
 
+PixelRect PixelRect::around(const ui::Rect& pixels) {
+  return {static_cast<int>(std::floor(pixels.x)), static_cast<int>(std::floor(pixels.y)),
+          static_cast<int>(std::ceil(pixels.right())),
+          static_cast<int>(std::ceil(pixels.bottom()))};
+}
+
 PixelRect PixelRect::cutTo(const PixelRect& other) const {
   return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
           std::min(bottom, other.bottom)};
-}
-
-PixelRect PixelRect::joinedWith(const PixelRect& other) const {
-  return {std::min(left, other.left), std::min(top, other.top), std::max(right, other.right),
-          std::max(bottom, other.bottom)};
 }
 
 void CoverageRuns::add(const Mask& mask) {

@@ -6,14 +6,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <map>
-#include <string>
-#include <utility>
 #include <vector>
 
 #include <cairo.h>
 
-#include "desk/canvas/MaskCache.hpp"
+#include "Orvane/ui/layout/Rect.hpp"
+#include "desk/canvas/Mask.hpp"
 
 namespace orvane::desk {
 
@@ -24,10 +22,10 @@ struct PixelRect {
   int right = 0;
   int bottom = 0;
 
+  /// The pixels that a rectangle touches.
+  [[nodiscard]] static PixelRect around(const ui::Rect& pixels);
   [[nodiscard]] bool isEmpty() const { return left >= right || top >= bottom; }
   [[nodiscard]] PixelRect cutTo(const PixelRect& other) const;
-  /// The union of both.
-  [[nodiscard]] PixelRect joinedWith(const PixelRect& other) const;
   [[nodiscard]] PixelRect movedBy(int x, int y) const {
     return {left + x, top + y, right + x, bottom + y};
   }
@@ -95,30 +93,6 @@ class CoverageRuns {
   };
 
   std::vector<Band> bands_;
-};
-
-/// A cache of runs by everything that they depend on.
-class CoverageCache {
- public:
-  /// The runs of the key, created by `make()` if there are none. The reference is valid until the
-  /// next call.
-  template <typename Make>
-  const CoverageRuns& get(const MaskKey& key, Make&& make) {
-    const auto found = runs_.find(key.bytes());
-    if (found != runs_.end()) {
-      return found->second;
-    }
-    if (runs_.size() >= capacity) {
-      runs_.clear();
-    }
-    return runs_.emplace(key.bytes(), std::forward<Make>(make)()).first->second;
-  }
-
- private:
-  /// A panel has about fifty shapes of a few kilobytes each.
-  static constexpr std::size_t capacity = 512;
-
-  std::map<std::string, CoverageRuns> runs_;
 };
 
 }  // namespace orvane::desk

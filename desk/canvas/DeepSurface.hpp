@@ -12,7 +12,6 @@
 
 #include "Orvane/ui/draw/Appearance.hpp"
 #include "desk/canvas/CoverageRuns.hpp"
-#include "desk/canvas/MaskCache.hpp"
 
 namespace orvane::desk {
 

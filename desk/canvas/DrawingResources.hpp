@@ -1,14 +1,14 @@
-// The resources that all canvases of a desk share: pictures, symbols, the text shaper, cached
-// masks.
+// The resources that all canvases of a desk share: images, symbols, the text shaper, cached masks.
 #pragma once
 
 #include <set>
 #include <string>
+#include <utility>
 
-#include "Orvane/ui/draw/ImageSource.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "desk/canvas/CoverageRuns.hpp"
 #include "desk/canvas/ImageLibrary.hpp"
-#include "desk/canvas/MaskCache.hpp"
+#include "desk/canvas/Mask.hpp"
 #include "desk/canvas/SymbolLibrary.hpp"
 #include "desk/canvas/TextShaper.hpp"
 
@@ -18,14 +18,21 @@ struct DrawingResources {
   ImageLibrary images;
   SymbolLibrary symbols;
   TextShaper shaper;
-  MaskCache masks{std::size_t{48} << 20U};
-  CoverageCache coverage;
+  Cache<Mask> masks{std::size_t{48} << 20U};
+  /// A panel has about fifty shapes of a few kilobytes each.
+  Cache<CoverageRuns> coverage{512};
   /// The unknown images and symbols that were drawn; tests expect none.
   std::set<std::string> missingNames;
 
-  /// The sizes of the pictures and symbols, for layout. It refers to this object, which must
-  /// outlive it.
-  ui::ImageSource imageSource();
+  /// What a host of views needs. It refers to this object, which must outlive it.
+  ui::HostPlatform hostPlatform(ui::HostServices services = {}) {
+    return {.text = &shaper,
+            .images = {[this](const std::string& name) { return images.size(name); },
+                       [this](const std::string& name, const ui::Font& font) {
+                         return symbols.size(name, font);
+                       }},
+            .services = std::move(services)};
+  }
 };
 
 }  // namespace orvane::desk

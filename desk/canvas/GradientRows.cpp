@@ -54,21 +54,4 @@ SurfacePointer gradientRows(const ui::Paint& paint, const cairo_matrix_t& matrix
   return strip;
 }
 
-void setGradientRows(cairo_t* context, const ui::Paint& paint, const ui::Rect& area) {
-  cairo_matrix_t matrix;
-  cairo_get_matrix(context, &matrix);
-  cairo_identity_matrix(context);
-  double clipTop = 0;
-  double clipBottom = 0;
-  double across = 0;
-  cairo_clip_extents(context, &across, &clipTop, &across, &clipBottom);
-  const int top = static_cast<int>(std::floor(std::max(area.y - 1, clipTop)));
-  const int bottom = static_cast<int>(std::ceil(std::min(area.bottom() + 1, clipBottom)));
-  const SurfacePointer strip = gradientRows(paint, matrix, top, std::max(1, bottom - top));
-  cairo_set_source_surface(context, strip.get(), 0, top);
-  cairo_set_matrix(context, &matrix);
-  cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_REPEAT);
-  cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
-}
-
 }  // namespace orvane::desk

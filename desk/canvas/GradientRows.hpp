@@ -26,8 +26,4 @@ PatternPointer gradientOf(const ui::Paint& paint);
 SurfacePointer gradientRows(const ui::Paint& paint, const cairo_matrix_t& matrix, int top,
                             int height);
 
-/// Sets a vertical gradient as the context's source within `area`, in device pixels: a column of
-/// pixels, which cairo repeats horizontally.
-void setGradientRows(cairo_t* context, const ui::Paint& paint, const ui::Rect& area);
-
 }  // namespace orvane::desk

@@ -23,4 +23,14 @@ SurfacePointer partOf(cairo_surface_t* picture, int x, int y, int width, int hei
   return part;
 }
 
+std::string contentOf(cairo_surface_t* picture) {
+  cairo_surface_flush(picture);
+  std::string content = std::to_string(cairo_image_surface_get_width(picture)) + " ";
+  if (const auto* data = reinterpret_cast<const char*>(cairo_image_surface_get_data(picture))) {
+    content.append(data, static_cast<std::size_t>(cairo_image_surface_get_stride(picture)) *
+                             static_cast<std::size_t>(cairo_image_surface_get_height(picture)));
+  }
+  return content;
+}
+
 }  // namespace orvane::desk

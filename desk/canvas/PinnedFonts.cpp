@@ -10,6 +10,8 @@
 #include <fontconfig/fontconfig.h>
 #include <pango/pangocairo.h>
 
+#include "desk/canvas/CairoPointers.hpp"
+
 // Read by the leak checker of a sanitizer build. fontconfig refers to its patterns by offsets
 // instead of pointers, so the checker takes them for leaks.
 extern "C" const char* __lsan_default_suppressions();
@@ -24,15 +26,6 @@ extern "C" const char* __lsan_default_options() {
 
 namespace orvane::desk {
 namespace {
-
-struct FontconfigRelease {
-  void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
-  void operator()(FcObjectSet* objects) const { FcObjectSetDestroy(objects); }
-  void operator()(FcFontSet* fonts) const { FcFontSetDestroy(fonts); }
-};
-
-template <typename Object>
-using FontconfigPointer = std::unique_ptr<Object, FontconfigRelease>;
 
 /// A required face, with fontconfig's weight and slant.
 struct Face {
@@ -88,13 +81,13 @@ FcConfig* configuration() {
 }
 
 bool isInstalled(const Face& face) {
-  const FontconfigPointer<FcPattern> pattern(FcPatternCreate());
+  const std::unique_ptr<FcPattern, Release<FcPatternDestroy>> pattern(FcPatternCreate());
   FcPatternAddString(pattern.get(), FC_FAMILY, characters(face.family));
   FcPatternAddInteger(pattern.get(), FC_WEIGHT, face.weight);
   FcPatternAddInteger(pattern.get(), FC_SLANT, face.slant);
-  const FontconfigPointer<FcObjectSet> objects(
+  const std::unique_ptr<FcObjectSet, Release<FcObjectSetDestroy>> objects(
       FcObjectSetBuild(FC_FILE, static_cast<const char*>(nullptr)));
-  const FontconfigPointer<FcFontSet> fonts(
+  const std::unique_ptr<FcFontSet, Release<FcFontSetDestroy>> fonts(
       FcFontList(configuration(), pattern.get(), objects.get()));
   return fonts != nullptr && fonts->nfont > 0;
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Orvane/ui/draw/Shape.hpp"
-#include "desk/canvas/MaskCache.hpp"
+#include "desk/canvas/Mask.hpp"
 
 namespace orvane::desk {
 

@@ -2,14 +2,15 @@
 #include "desk/canvas/SymbolLibrary.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 
 #include <librsvg/rsvg.h>
 
+#include "desk/canvas/Artwork.hpp"
 #include "desk/canvas/ImageSurface.hpp"
-#include "desk/canvas/SymbolArtwork.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -20,33 +21,12 @@ constexpr double regularStroke = 2.0;
 // Only the middle 28 of 32 units count for layout; the rest is for heavy strokes.
 constexpr double layoutUnits = 28.0;
 
-/// The stroke of an outline, in units of the grid, chosen by eye next to text of the same weight.
-double strokeOf(ui::Weight weight) {
-  switch (weight) {
-    case ui::Weight::ultraLight:
-      return 0.9;
-    case ui::Weight::thin:
-      return 1.2;
-    case ui::Weight::light:
-      return 1.6;
-    case ui::Weight::regular:
-      return regularStroke;
-    case ui::Weight::medium:
-      return 2.3;
-    case ui::Weight::semibold:
-      return 2.65;
-    case ui::Weight::bold:
-      return 3.0;
-    case ui::Weight::heavy:
-      return 3.4;
-    case ui::Weight::black:
-      return 3.8;
-  }
-  return regularStroke;
-}
+/// The stroke of an outline, in units of the grid, from ultralight to black; chosen by eye next to
+/// text of the same weight.
+constexpr std::array<double, 9> strokes{0.9, 1.2, 1.6, regularStroke, 2.3, 2.65, 3.0, 3.4, 3.8};
 
 std::string styleSheetOf(ui::Weight weight) {
-  const double stroke = strokeOf(weight);
+  const double stroke = strokes.at(static_cast<std::size_t>(weight) / 100 - 1);
   const double growth = stroke - regularStroke;
   char sheet[256];
   std::snprintf(sheet, sizeof sheet,
@@ -56,9 +36,9 @@ std::string styleSheetOf(ui::Weight weight) {
   return sheet;
 }
 
-const SymbolArtwork* artworkOf(const std::string& name) {
+const Artwork* artworkOf(const std::string& name) {
   const auto artworks = symbolArtworks();
-  const auto found = std::ranges::lower_bound(artworks, name, {}, &SymbolArtwork::name);
+  const auto found = std::ranges::lower_bound(artworks, name, {}, &Artwork::name);
   return found != artworks.end() && found->name == name ? &*found : nullptr;
 }
 
@@ -109,12 +89,12 @@ const SymbolLibrary::Drawing* SymbolLibrary::drawing(const std::string& name, ui
   if (found != drawings_.end()) {
     return &found->second;
   }
-  const SymbolArtwork* artwork = artworkOf(name);
+  const Artwork* artwork = artworkOf(name);
   if (artwork == nullptr) {
     return nullptr;
   }
   ObjectPointer<RsvgHandle> handle(
-      rsvg_handle_new_from_data(bytesOf(artwork->svg.data()), artwork->svg.size(), nullptr));
+      rsvg_handle_new_from_data(bytesOf(artwork->bytes.data()), artwork->bytes.size(), nullptr));
   Drawing drawing;
   if (!handle || rsvg_handle_get_intrinsic_size_in_pixels(handle.get(), &drawing.unitWidth,
                                                           &drawing.unitHeight) == FALSE) {

@@ -8,9 +8,7 @@
 
 #include "Orvane/ui/draw/Font.hpp"
 #include "Orvane/ui/layout/Rect.hpp"
-#include "desk/canvas/CairoPointers.hpp"
-#include "desk/canvas/MaskCache.hpp"
-#include "desk/canvas/PixelPlacement.hpp"
+#include "desk/canvas/Mask.hpp"
 
 namespace orvane::desk {
 

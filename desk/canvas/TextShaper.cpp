@@ -14,21 +14,12 @@
 namespace orvane::desk {
 namespace {
 
-constexpr std::size_t mostMeasured = 4096;
-
 double points(int pangoUnits) {
   return static_cast<double>(pangoUnits) / PANGO_SCALE;
 }
 
-struct DescriptionRelease {
-  void operator()(PangoFontDescription* description) const {
-    pango_font_description_free(description);
-  }
-};
-
-struct AttributesRelease {
-  void operator()(PangoAttrList* attributes) const { pango_attr_list_unref(attributes); }
-};
+using DescriptionPointer =
+    std::unique_ptr<PangoFontDescription, Release<pango_font_description_free>>;
 
 /// Marks the Chinese parts of a text. Otherwise pango would use the language of the environment,
 /// and show Japanese forms of the characters in a Japanese one.
@@ -57,8 +48,7 @@ struct Reach {
 };
 
 bool isChinese(const PangoItem* run) {
-  const std::unique_ptr<PangoFontDescription, DescriptionRelease> description(
-      pango_font_describe(run->analysis.font));
+  const DescriptionPointer description(pango_font_describe(run->analysis.font));
   return std::string_view(pango_font_description_get_family(description.get())) ==
          chineseFontFamily;
 }
@@ -99,10 +89,9 @@ TextShaper::TextShaper() : context_(pango_font_map_create_context(pinnedFontMap(
   pango_context_set_language(context_.get(), pango_language_from_string("en"));
 }
 
-ObjectPointer<PangoLayout> TextShaper::layout(const std::string& text, const ui::Font& font) const {
+ObjectPointer<PangoLayout> TextShaper::shape(const std::string& text, const ui::Font& font) const {
   static const std::string families = std::string(systemFontFamily) + "," + chineseFontFamily;
-  const std::unique_ptr<PangoFontDescription, DescriptionRelease> description(
-      pango_font_description_new());
+  const DescriptionPointer description(pango_font_description_new());
   pango_font_description_set_family_static(description.get(), families.c_str());
   pango_font_description_set_absolute_size(description.get(),
                                            std::max(font.size, 0.0) * PANGO_SCALE);
@@ -112,7 +101,8 @@ ObjectPointer<PangoLayout> TextShaper::layout(const std::string& text, const ui:
   pango_layout_set_auto_dir(layout.get(), FALSE);
   pango_layout_set_single_paragraph_mode(layout.get(), TRUE);
   // No hyphen in a word that is broken between characters.
-  const std::unique_ptr<PangoAttrList, AttributesRelease> attributes(pango_attr_list_new());
+  const std::unique_ptr<PangoAttrList, Release<pango_attr_list_unref>> attributes(
+      pango_attr_list_new());
   pango_attr_list_insert(attributes.get(), pango_attr_insert_hyphens_new(FALSE));
   if (font.tracking != 0) {
     pango_attr_list_insert(
@@ -130,19 +120,12 @@ LineMetrics TextShaper::measure(const std::string& line, const ui::Font& font) c
   if (!(font.size > 0)) {
     return {};
   }
-  const Question question(line, font.size, font.weight, font.tracking);
-  const auto found = measured_.find(question);
-  if (found != measured_.end()) {
-    return found->second;
-  }
-  if (measured_.size() >= mostMeasured) {
-    measured_.clear();
-  }
-  return measured_.emplace(question, measured(line, font)).first->second;
+  return measured_.get(cacheKey(line, font.size, font.weight, font.tracking),
+                       [&] { return measured(line, font); });
 }
 
 LineMetrics TextShaper::measured(const std::string& line, const ui::Font& font) const {
-  const ObjectPointer<PangoLayout> shaped = layout(line, font);
+  const ObjectPointer<PangoLayout> shaped = shape(line, font);
   PangoLayoutLine* shapedLine = pango_layout_get_line_readonly(shaped.get(), 0);
   PangoRectangle logical;
   pango_layout_line_get_extents(shapedLine, nullptr, &logical);
@@ -163,7 +146,7 @@ Mask TextShaper::makeMask(const std::string& line, const ui::Font& font,
   if (!(font.size > 0)) {
     return {};
   }
-  const ObjectPointer<PangoLayout> shaped = layout(line, font);
+  const ObjectPointer<PangoLayout> shaped = shape(line, font);
   PangoLayoutLine* shapedLine = pango_layout_get_line_readonly(shaped.get(), 0);
   PangoRectangle ink;
   pango_layout_line_get_extents(shapedLine, &ink, nullptr);

@@ -12,7 +12,7 @@
 #include "desk/explore/InvariantChecker.hpp"
 #include "desk/explore/Observation.hpp"
 #include "desk/explore/RarePaths.hpp"
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/Interpreter.hpp"
 
 namespace orvane::desk::explore {

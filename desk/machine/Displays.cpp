@@ -47,9 +47,7 @@ Displays::Problem Displays::attach(Display display, bool asMain) {
 }
 
 Displays::Problem Displays::detach(std::uint32_t number) {
-  const auto gone = std::find_if(displays_.begin(), displays_.end(), [number](const auto& display) {
-    return display.number == number;
-  });
+  const auto gone = std::ranges::find(displays_, number, &Display::number);
   if (gone == displays_.end()) {
     return unknown(number);
   }
@@ -118,9 +116,7 @@ Displays::Problem Displays::endChanges() {
 }
 
 const Display* Displays::find(std::uint32_t number) const {
-  const auto found =
-      std::find_if(displays_.begin(), displays_.end(),
-                   [number](const auto& display) { return display.number == number; });
+  const auto found = std::ranges::find(displays_, number, &Display::number);
   return found == displays_.end() ? nullptr : &*found;
 }
 
@@ -129,21 +125,18 @@ Display* Displays::findMutable(std::uint32_t number) {
 }
 
 const Display* Displays::main() const {
-  for (const Display& display : displays_) {
-    if (display.identity == mainIdentity_) {
-      return &display;
-    }
+  const auto main = std::ranges::find(displays_, mainIdentity_, &Display::identity);
+  if (main != displays_.end()) {
+    return &*main;
   }
   return displays_.empty() ? nullptr : &displays_.front();
 }
 
 std::optional<std::size_t> Displays::indexOf(std::uint64_t identity) const {
-  for (std::size_t index = 0; index < displays_.size(); ++index) {
-    if (displays_[index].identity == identity) {
-      return index;
-    }
-  }
-  return std::nullopt;
+  const auto found = std::ranges::find(displays_, identity, &Display::identity);
+  return found == displays_.end()
+             ? std::nullopt
+             : std::optional(static_cast<std::size_t>(found - displays_.begin()));
 }
 
 std::optional<std::size_t> Displays::search(CGPoint globalPoint) const {

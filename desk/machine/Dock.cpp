@@ -12,21 +12,6 @@ namespace {
 /// The fraction of the edge that the drawn Dock covers.
 constexpr double drawnFraction = 0.6;
 
-/// The part of a display's frame at an edge, in global coordinates.
-CGRect stripAt(DockEdge edge, const CGRect& frame, double depth) {
-  switch (edge) {
-    case DockEdge::bottom:
-      return CGRectMake(frame.origin.x, frame.origin.y + frame.size.height - depth,
-                        frame.size.width, depth);
-    case DockEdge::left:
-      return CGRectMake(frame.origin.x, frame.origin.y, depth, frame.size.height);
-    case DockEdge::right:
-      return CGRectMake(frame.origin.x + frame.size.width - depth, frame.origin.y, depth,
-                        frame.size.height);
-  }
-  return frame;
-}
-
 bool isBetween(double value, double low, double high) {
   return value >= low && value < high;
 }
@@ -80,7 +65,7 @@ void Dock::pressed(CGPoint goal, CGPoint place, std::size_t displayIndex) {
     }
     return;
   }
-  if (isBeyondEdge(goal, frame) && !hasNeighbourBehind(place, displayIndex)) {
+  if (isAtEdge(goal, frame, 0) && !hasNeighbourBehind(place, displayIndex)) {
     displayIdentity_ = displays_.all()[displayIndex].identity;
     isVisible_ = false;
     slideStartedAt_ = clock_.now() - slideNanoseconds;
@@ -89,18 +74,6 @@ void Dock::pressed(CGPoint goal, CGPoint place, std::size_t displayIndex) {
   } else if (hidesWhenLeft_) {
     setVisible(false);
   }
-}
-
-bool Dock::isBeyondEdge(CGPoint goal, const CGRect& frame) const {
-  switch (edge_) {
-    case DockEdge::bottom:
-      return goal.y >= frame.origin.y + frame.size.height;
-    case DockEdge::left:
-      return goal.x < frame.origin.x;
-    case DockEdge::right:
-      return goal.x >= frame.origin.x + frame.size.width;
-  }
-  return false;
 }
 
 bool Dock::hasNeighbourBehind(CGPoint place, std::size_t displayIndex) const {
@@ -134,8 +107,7 @@ bool Dock::isInArea(CGPoint place) const {
     return false;
   }
   const CGRect& frame = displays_.globalFrames()[*index];
-  return CGRectContainsPoint(frame, place) &&
-         CGRectContainsPoint(stripAt(edge_, frame, depth), place);
+  return CGRectContainsPoint(frame, place) && isAtEdge(place, frame, depth);
 }
 
 void Dock::countReveal() {
@@ -173,13 +145,32 @@ CGRect Dock::frame() const {
   if (!index) {
     return {};
   }
-  CGRect frame = stripAt(edge_, displays_.globalFrames()[*index], depth);
-  double& start = edge_ == DockEdge::bottom ? frame.origin.x : frame.origin.y;
-  double& length = edge_ == DockEdge::bottom ? frame.size.width : frame.size.height;
+  CGRect frame = displays_.globalFrames()[*index];
+  const bool isLevel = edge_ == DockEdge::bottom;
+  double& start = isLevel ? frame.origin.x : frame.origin.y;
+  double& length = isLevel ? frame.size.width : frame.size.height;
   const double drawn = length * drawnFraction;
   start += (length - drawn) / 2;
   length = drawn;
+  double& thickness = isLevel ? frame.size.height : frame.size.width;
+  if (edge_ != DockEdge::left) {
+    (isLevel ? frame.origin.y : frame.origin.x) += thickness - depth;
+  }
+  thickness = depth;
   return frame;
+}
+
+CGRect Dock::visibleFrameOf(const Display& display) const {
+  CGRect visible = display.frame;
+  visible.size.height -= Displays::menuBarHeight;
+  if (!isVisible_ || displayNumber() != display.number) {
+    return visible;
+  }
+  (edge_ == DockEdge::bottom ? visible.size.height : visible.size.width) -= depth;
+  if (edge_ != DockEdge::right) {
+    (edge_ == DockEdge::bottom ? visible.origin.y : visible.origin.x) += depth;
+  }
+  return visible;
 }
 
 double Dock::shownFraction() const {

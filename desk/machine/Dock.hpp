@@ -57,7 +57,7 @@ class Dock {
   /// The pointer was moved towards `goal` and, clamped and filtered, ended at `place` on the
   /// display at `displayIndex`. Global coordinates.
   void pointerMoved(CGPoint goal, CGPoint place, std::size_t displayIndex) {
-    if (isAtEdge(place, displays_.globalFrames()[displayIndex])) {
+    if (isAtEdge(place, displays_.globalFrames()[displayIndex], touchDepth)) {
       pressed(goal, place, displayIndex);
     } else if (hidesWhenLeft_ && !isInArea(place)) {
       setVisible(false);
@@ -71,6 +71,9 @@ class Dock {
   [[nodiscard]] bool isVisible() const { return isVisible_; }
   /// Where it is drawn when fully shown, in global coordinates; empty when there is no display.
   [[nodiscard]] CGRect frame() const;
+  /// The part of a display that the menu bar and the shown Dock leave to windows, in window-system
+  /// coordinates. As on a Mac, it changes at once when the Dock begins to slide.
+  [[nodiscard]] CGRect visibleFrameOf(const Display& display) const;
   /// From 0, hidden, to 1, shown; in between while it slides.
   [[nodiscard]] double shownFraction() const;
 
@@ -82,19 +85,19 @@ class Dock {
   [[nodiscard]] std::int64_t revealCount() const;
 
  private:
-  [[nodiscard]] bool isAtEdge(CGPoint place, const CGRect& frame) const {
+  /// Whether a place is less than `reach` points from the edge, or beyond it.
+  [[nodiscard]] bool isAtEdge(CGPoint place, const CGRect& frame, double reach) const {
     switch (edge_) {
       case DockEdge::bottom:
-        return place.y >= frame.origin.y + frame.size.height - touchDepth;
+        return place.y >= frame.origin.y + frame.size.height - reach;
       case DockEdge::left:
-        return place.x < frame.origin.x + touchDepth;
+        return place.x < frame.origin.x + reach;
       case DockEdge::right:
-        return place.x >= frame.origin.x + frame.size.width - touchDepth;
+        return place.x >= frame.origin.x + frame.size.width - reach;
     }
     return false;
   }
   void pressed(CGPoint goal, CGPoint place, std::size_t displayIndex);
-  [[nodiscard]] bool isBeyondEdge(CGPoint goal, const CGRect& frame) const;
   [[nodiscard]] bool hasNeighbourBehind(CGPoint place, std::size_t displayIndex) const;
   [[nodiscard]] bool isInArea(CGPoint place) const;
   void countReveal();

@@ -2,7 +2,6 @@
 #include "desk/machine/EventTaps.hpp"
 
 #include <algorithm>
-#include <utility>
 
 namespace orvane::desk {
 
@@ -13,46 +12,30 @@ std::optional<std::uint64_t> EventTaps::create(CGEventTapPlacement placement,
   if (refusesCreation_ || callback == nullptr) {
     return std::nullopt;
   }
-  auto tap =
-      std::make_unique<EventTap>(EventTap{eventsOfInterest, callback, userInfo,
-                                          options == kCGEventTapOptionListenOnly, nextIdentity_++});
-  const std::uint64_t identity = tap->identity;
-  arrivals_.emplace_back(placement, std::move(tap));
-  needsTidying_ = true;
-  tidy();
-  return identity;
+  const EventTap tap{eventsOfInterest, callback, userInfo, options == kCGEventTapOptionListenOnly,
+                     nextIdentity_++};
+  taps_.insert(placement == kCGHeadInsertEventTap ? taps_.begin() : taps_.end(), tap);
+  return tap.identity;
 }
 
 EventTap* EventTaps::find(std::uint64_t identity) {
-  for (const auto& tap : order_) {
-    if (tap->identity == identity && tap->isAlive) {
-      return tap.get();
-    }
-  }
-  for (const auto& [placement, tap] : arrivals_) {
-    if (tap->identity == identity && tap->isAlive) {
-      return tap.get();
-    }
-  }
-  return nullptr;
+  const auto found = std::ranges::find(taps_, identity, &EventTap::identity);
+  return found != taps_.end() && found->isAlive ? &*found : nullptr;
 }
 
 void EventTaps::remove(std::uint64_t identity) {
   if (EventTap* const tap = find(identity)) {
     tap->isAlive = false;
-    needsTidying_ = true;
+    hasDeadTaps_ = true;
     tidy();
   }
 }
 
 void EventTaps::killAll() {
-  for (const auto& tap : order_) {
-    tap->isAlive = false;
+  for (EventTap& tap : taps_) {
+    tap.isAlive = false;
   }
-  for (const auto& [placement, tap] : arrivals_) {
-    tap->isAlive = false;
-  }
-  needsTidying_ = true;
+  hasDeadTaps_ = true;
   tidy();
 }
 
@@ -72,10 +55,11 @@ bool EventTaps::deliverInOrder(__CGEvent& event) {
   ++deliveriesUnderWay_;
   // Ordinary event types are bit numbers of the mask; greater ones are notices to a tap.
   const CGEventMask bit = event.type < 64 ? CGEventMask{1} << event.type : 0;
+  const std::uint64_t firstNew = nextIdentity_;
   bool isKept = true;
-  for (const auto& tap : order_) {
-    if (tap->isEnabled && tap->isAlive && (tap->eventsOfInterest & bit) != 0 &&
-        runLoop_.isIn(tap->sourceModes) && !call(*tap, event)) {
+  for (EventTap& tap : taps_) {
+    if (tap.isEnabled && tap.isAlive && tap.identity < firstNew &&
+        (tap.eventsOfInterest & bit) != 0 && runLoop_.isIn(tap.sourceModes) && !call(tap, event)) {
       isKept = false;
       break;
     }
@@ -104,17 +88,18 @@ bool EventTaps::call(EventTap& tap, __CGEvent& event) {
 
 int EventTaps::disableAll(CGEventType reason, CGPoint location) {
   ++deliveriesUnderWay_;
+  const std::uint64_t firstNew = nextIdentity_;
   int disabled = 0;
-  for (const auto& tap : order_) {
-    if (!tap->isEnabled || !tap->isAlive) {
+  for (EventTap& tap : taps_) {
+    if (!tap.isEnabled || !tap.isAlive || tap.identity >= firstNew) {
       continue;
     }
-    tap->isEnabled = false;
+    tap.isEnabled = false;
     ++disabled;
-    if (runLoop_.isIn(tap->sourceModes)) {
+    if (runLoop_.isIn(tap.sourceModes)) {
       __CGEvent event{reason, CGEventFlags{}, location};
       // The event is only a notice, so the callback's result is ignored.
-      static_cast<void>(call(*tap, event));
+      static_cast<void>(call(tap, event));
     }
   }
   --deliveriesUnderWay_;
@@ -123,38 +108,26 @@ int EventTaps::disableAll(CGEventType reason, CGPoint location) {
 }
 
 void EventTaps::disableAllSilently(bool forGood) {
-  for (const auto& tap : order_) {
-    tap->isEnabled = false;
-    tap->canBeEnabled = tap->canBeEnabled && !forGood;
+  for (EventTap& tap : taps_) {
+    tap.isEnabled = false;
+    tap.canBeEnabled = tap.canBeEnabled && !forGood;
   }
 }
 
 std::size_t EventTaps::aliveCount() const {
-  const auto isAlive = [](const auto& tap) { return tap->isAlive; };
-  return static_cast<std::size_t>(
-      std::count_if(order_.begin(), order_.end(), isAlive) +
-      std::count_if(arrivals_.begin(), arrivals_.end(),
-                    [&](const auto& arrival) { return isAlive(arrival.second); }));
+  return static_cast<std::size_t>(std::ranges::count(taps_, true, &EventTap::isAlive));
 }
 
 bool EventTaps::isAnyEnabled() const {
-  const auto isEnabled = [](const auto& tap) { return tap->isAlive && tap->isEnabled; };
-  return std::any_of(order_.begin(), order_.end(), isEnabled) ||
-         std::any_of(arrivals_.begin(), arrivals_.end(),
-                     [&](const auto& arrival) { return isEnabled(arrival.second); });
+  return std::ranges::any_of(taps_,
+                             [](const EventTap& tap) { return tap.isAlive && tap.isEnabled; });
 }
 
 void EventTaps::tidy() {
-  // The list must not change while an event passes through it.
-  if (!needsTidying_ || deliveriesUnderWay_ > 0) {
-    return;
+  if (hasDeadTaps_ && deliveriesUnderWay_ == 0) {
+    hasDeadTaps_ = false;
+    std::erase_if(taps_, [](const EventTap& tap) { return !tap.isAlive; });
   }
-  needsTidying_ = false;
-  for (auto& [placement, tap] : std::exchange(arrivals_, {})) {
-    order_.insert(placement == kCGHeadInsertEventTap ? order_.begin() : order_.end(),
-                  std::move(tap));
-  }
-  std::erase_if(order_, [](const auto& tap) { return !tap->isAlive; });
 }
 
 }  // namespace orvane::desk

@@ -3,9 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <list>
 #include <optional>
-#include <vector>
 
 #include "Orvane/platform/Quartz.hpp"
 #include "desk/machine/Event.hpp"
@@ -39,7 +38,7 @@ class EventTaps {
 
   /// Passes the event through the taps in order. False when one of them dropped it.
   bool deliver(__CGEvent& event) {
-    if (order_.empty() && witness_ == nullptr) {
+    if (taps_.empty() && witness_ == nullptr) {
       return true;
     }
     return deliverToTaps(event);
@@ -65,19 +64,18 @@ class EventTaps {
   bool deliverBeforeWitness(__CGEvent& event);
   bool deliverInOrder(__CGEvent& event);
   [[nodiscard]] bool call(EventTap& tap, __CGEvent& event);
+  /// Removes the dead taps, unless an event passes through them.
   void tidy();
 
   const RunLoop& runLoop_;
   EventWitness* witness_ = nullptr;
-  /// In the order of delivery.
-  std::vector<std::unique_ptr<EventTap>> order_;
-  /// Created during a delivery; inserted at the head or the tail after it.
-  std::vector<std::pair<CGEventTapPlacement, std::unique_ptr<EventTap>>> arrivals_;
+  /// In the order of delivery; a list, because taps are created during one.
+  std::list<EventTap> taps_;
   std::uint64_t nextIdentity_ = 1;
   std::int64_t deliveries_ = 0;
   int deliveriesUnderWay_ = 0;
   bool refusesCreation_ = false;
-  bool needsTidying_ = false;
+  bool hasDeadTaps_ = false;
 };
 
 }  // namespace orvane::desk

@@ -65,22 +65,25 @@ bool Links::formsURL(std::string_view text) {
   return true;
 }
 
-std::string Links::fileURL(std::string_view absolutePath) {
+std::string Links::percentEncoded(std::string_view text, std::string_view allowed) {
   constexpr std::string_view hexDigits = "0123456789ABCDEF";
-  std::string url = "file://";
-  for (const char character : absolutePath) {
-    const auto byte = static_cast<unsigned char>(character);
-    // The characters that a URL's path may contain unescaped: RFC 3986, section 3.3.
-    if (isUnreserved(character) ||
-        std::string_view("/:@!$&'()*+,=").find(character) != std::string_view::npos) {
-      url += character;
+  std::string encoded;
+  for (const char character : text) {
+    if (isUnreserved(character) || allowed.find(character) != std::string_view::npos) {
+      encoded += character;
     } else {
-      url += '%';
-      url += hexDigits[byte >> 4U];
-      url += hexDigits[byte & 15U];
+      const auto byte = static_cast<unsigned char>(character);
+      encoded += '%';
+      encoded += hexDigits[byte >> 4U];
+      encoded += hexDigits[byte & 15U];
     }
   }
-  return url;
+  return encoded;
+}
+
+std::string Links::fileURL(std::string_view absolutePath) {
+  // RFC 3986, section 3.3.
+  return "file://" + percentEncoded(absolutePath, "/:@!$&'()*+,=");
 }
 
 bool Links::openURL(std::string_view url) {

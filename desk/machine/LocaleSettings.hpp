@@ -9,6 +9,8 @@ namespace orvane::desk {
 struct LocaleSettings {
   std::vector<std::string> preferredLanguages{"en-US"};
   std::string currentIdentifier = "en_US";
+
+  bool operator==(const LocaleSettings&) const = default;
 };
 
 }  // namespace orvane::desk

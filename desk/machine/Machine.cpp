@@ -8,7 +8,6 @@
 
 #include "desk/machine/MachineObserver.hpp"
 #include "desk/machine/MachineScope.hpp"
-#include "desk/machine/VisibleFrame.hpp"
 
 namespace orvane::desk {
 
@@ -60,8 +59,8 @@ void Machine::permissionChanged() {
 void Machine::displaysChanged() {
   pointer.displaysChanged();
   dock.displaysChanged(pointer.location());
-  if (observer != nullptr) {
-    observer->displaysChanged();
+  if (windowServer != nullptr) {
+    windowServer->displaysChanged();
   }
   postScreenParameters();
 }
@@ -113,14 +112,14 @@ void Machine::postNow(appkit::NotificationName name, bool twice) {
 bool Machine::haveVisibleFramesChanged() const {
   return !std::ranges::equal(displays.all(), knownVisibleFrames_,
                              [this](const Display& display, const CGRect& known) {
-                               return CGRectEqualToRect(visibleFrameOf(display, dock), known);
+                               return CGRectEqualToRect(dock.visibleFrameOf(display), known);
                              });
 }
 
 void Machine::noteVisibleFrames() {
   knownVisibleFrames_.clear();
   for (const Display& display : displays.all()) {
-    knownVisibleFrames_.push_back(visibleFrameOf(display, dock));
+    knownVisibleFrames_.push_back(dock.visibleFrameOf(display));
   }
 }
 

@@ -33,7 +33,6 @@
 namespace orvane::desk {
 
 class MachineObserver;
-class WindowServer;
 
 /// Created by a MachineScope. It starts with no display, no process, no permission, an empty disk,
 /// and the Dock shown at the bottom.
@@ -84,9 +83,7 @@ class Machine {
   Process process{*this};
   /// Made by WindowServer::current; null until first used. Last, because it uses all
   /// the others.
-  std::shared_ptr<WindowServer> windowServer;
-  /// The window server, while there is one.
-  MachineObserver* observer = nullptr;
+  std::unique_ptr<MachineObserver> windowServer;
 
  private:
   void displaysChanged();

@@ -12,9 +12,26 @@
 #include "desk/machine/ModifierKeys.hpp"
 #include "desk/machine/Pointer.hpp"
 #include "desk/machine/PointerListener.hpp"
-#include "desk/machine/PointerMovement.hpp"
 
 namespace orvane::desk {
+
+/// The result of one movement of the mouse, in global coordinates.
+struct PointerMovement {
+  enum class Outcome : std::uint8_t {
+    /// There was no display, or the goal was not finite.
+    none,
+    passed,
+    /// A tap changed the event's location.
+    movedBack,
+    /// A tap dropped the event.
+    dropped,
+  };
+
+  Outcome outcome = Outcome::none;
+  /// Where the movement would have ended on the displays, and where it ended after the taps.
+  CGPoint wanted{};
+  CGPoint reached{};
+};
 
 /// Points are in global coordinates. A movement is complete when the call returns; what the
 /// application posted to its main queue meanwhile is served when the run loop next runs.

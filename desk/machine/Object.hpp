@@ -19,7 +19,25 @@ enum class ObjectKind : std::uint8_t {
 };
 
 /// The name of the kind's reference type without "Ref", such as "CFString".
-[[nodiscard]] const char* nameOf(ObjectKind kind);
+[[nodiscard]] constexpr const char* nameOf(ObjectKind kind) {
+  switch (kind) {
+    case ObjectKind::string:
+      return "CFString";
+    case ObjectKind::number:
+      return "CFNumber";
+    case ObjectKind::boolean:
+      return "CFBoolean";
+    case ObjectKind::uuid:
+      return "CFUUID";
+    case ObjectKind::machPort:
+      return "CFMachPort";
+    case ObjectKind::runLoop:
+      return "CFRunLoop";
+    case ObjectKind::runLoopSource:
+      return "CFRunLoopSource";
+  }
+  return "CFType";
+}
 
 /// A Core Foundation reference points at an Object, which is the first and only base of every
 /// concrete one, so that the reference and the Object have one address.

@@ -15,11 +15,6 @@ void ObjectRegistry::addConstant(Object& object) {
   constants().emplace(&object, &object);
 }
 
-void ObjectRegistry::adopt(std::unique_ptr<Object> object) {
-  Object* const reference = object.get();
-  live_.emplace(reference, Entry{std::move(object), reference, created_++});
-}
-
 void ObjectRegistry::retain(const void* reference, const char* operation) {
   if (const auto entry = live_.find(reference); entry != live_.end()) {
     ++entry->second.object->references_;
@@ -39,7 +34,7 @@ void ObjectRegistry::release(const void* reference, const char* operation) {
   if (--entry->second.object->references_ > 0) {
     return;
   }
-  std::unique_ptr<Object> released = std::move(entry->second.owned);
+  std::unique_ptr<Object> released = std::move(entry->second.object);
   live_.erase(entry);
   released->lastReferenceGone();
   quarantine_.push_back(std::move(released));
@@ -50,7 +45,7 @@ void ObjectRegistry::release(const void* reference, const char* operation) {
 
 Object* ObjectRegistry::find(const void* reference, const char* operation) {
   if (const auto entry = live_.find(reference); entry != live_.end()) {
-    return entry->second.object;
+    return entry->second.object.get();
   }
   if (const auto constant = constants().find(reference); constant != constants().end()) {
     return constant->second;
@@ -84,7 +79,7 @@ std::vector<std::string> ObjectRegistry::liveDescriptions() const {
   // The map is ordered by addresses, which differ from run to run; the order of creation does not.
   std::map<std::size_t, const Object*> byAge;
   for (const auto& [reference, entry] : live_) {
-    byAge.emplace(entry.order, entry.object);
+    byAge.emplace(entry.order, entry.object.get());
   }
   std::vector<std::string> descriptions;
   descriptions.reserve(byAge.size());

@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "desk/machine/Faults.hpp"
@@ -24,7 +25,7 @@ class ObjectRegistry {
   template <typename T>
   T* add(std::unique_ptr<T> object) {
     T* const reference = object.get();
-    adopt(std::move(object));
+    live_.emplace(reference, Entry{std::move(object), created_++});
     return reference;
   }
 
@@ -55,13 +56,11 @@ class ObjectRegistry {
   static constexpr std::size_t quarantineLimit = 1024;
 
   struct Entry {
-    std::unique_ptr<Object> owned;
-    Object* object;
+    std::unique_ptr<Object> object;
     std::size_t order;
   };
 
   [[nodiscard]] static std::map<const void*, Object*>& constants();
-  void adopt(std::unique_ptr<Object> object);
   void recordMissing(const void* reference, const char* operation);
 
   Faults& faults_;

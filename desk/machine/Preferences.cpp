@@ -6,6 +6,19 @@
 
 namespace orvane::desk {
 
+namespace {
+
+std::array<Preferences::Domain, 4> domainsOf(const std::string& application) {
+  using User = Preferences::User;
+  using Host = Preferences::Host;
+  return {{{application, User::current, Host::current},
+           {application, User::current, Host::any},
+           {application, User::any, Host::current},
+           {application, User::any, Host::any}}};
+}
+
+}  // namespace
+
 void Preferences::set(const Domain& domain, const std::string& key, PropertyValue value) {
   values_[domain].insert_or_assign(key, std::move(value));
   if (changed_) {
@@ -22,39 +35,21 @@ void Preferences::remove(const Domain& domain, const std::string& key) {
   }
 }
 
-std::optional<PropertyValue> Preferences::lookUp(const Values& values, const Domain& domain,
+std::optional<PropertyValue> Preferences::lookUp(const Values& values,
+                                                 std::span<const Domain> domains,
                                                  const std::string& key) {
-  const auto keys = values.find(domain);
-  if (keys == values.end()) {
-    return std::nullopt;
-  }
-  const auto value = keys->second.find(key);
-  return value == keys->second.end() ? std::nullopt : std::optional(value->second);
-}
-
-std::optional<PropertyValue> Preferences::search(const Values& values,
-                                                 const std::string& application,
-                                                 const std::string& key) {
-  const std::array<Domain, 4> order{Domain{application, User::current, Host::current},
-                                    Domain{application, User::current, Host::any},
-                                    Domain{application, User::any, Host::current},
-                                    Domain{application, User::any, Host::any}};
-  for (const Domain& domain : order) {
-    if (auto value = lookUp(values, domain, key)) {
-      return value;
+  for (const Domain& domain : domains) {
+    const auto keys = values.find(domain);
+    if (keys != values.end() && keys->second.contains(key)) {
+      return keys->second.at(key);
     }
   }
   return std::nullopt;
 }
 
-std::optional<PropertyValue> Preferences::stored(const Domain& domain,
-                                                 const std::string& key) const {
-  return lookUp(values_, domain, key);
-}
-
 std::optional<PropertyValue> Preferences::stored(const std::string& application,
                                                  const std::string& key) const {
-  return search(values_, application, key);
+  return lookUp(values_, domainsOf(application), key);
 }
 
 const Preferences::Values& Preferences::copyFor(const std::string& application) {
@@ -72,12 +67,12 @@ const Preferences::Values& Preferences::copyFor(const std::string& application) 
 }
 
 std::optional<PropertyValue> Preferences::seen(const Domain& domain, const std::string& key) {
-  return lookUp(copyFor(domain.application), domain, key);
+  return lookUp(copyFor(domain.application), {&domain, 1}, key);
 }
 
 std::optional<PropertyValue> Preferences::seen(const std::string& application,
                                                const std::string& key) {
-  return search(copyFor(application), application, key);
+  return lookUp(copyFor(application), domainsOf(application), key);
 }
 
 }  // namespace orvane::desk

@@ -6,9 +6,8 @@
 #include <functional>
 #include <map>
 #include <optional>
-#include <set>
+#include <span>
 #include <string>
-#include <string_view>
 
 #include "desk/machine/PropertyValue.hpp"
 
@@ -29,9 +28,6 @@ class Preferences {
 
   void set(const Domain& domain, const std::string& key, PropertyValue value);
   void remove(const Domain& domain, const std::string& key);
-  /// What is stored; none when there is no value.
-  [[nodiscard]] std::optional<PropertyValue> stored(const Domain& domain,
-                                                    const std::string& key) const;
   /// The stored value of the first domain of the application that has one, from the current user
   /// and host to any user and host.
   [[nodiscard]] std::optional<PropertyValue> stored(const std::string& application,
@@ -53,11 +49,9 @@ class Preferences {
  private:
   using Values = std::map<Domain, std::map<std::string, PropertyValue>>;
 
+  /// The value of the first domain that has one.
   [[nodiscard]] static std::optional<PropertyValue> lookUp(const Values& values,
-                                                           const Domain& domain,
-                                                           const std::string& key);
-  [[nodiscard]] static std::optional<PropertyValue> search(const Values& values,
-                                                           const std::string& application,
+                                                           std::span<const Domain> domains,
                                                            const std::string& key);
   const Values& copyFor(const std::string& application);
 

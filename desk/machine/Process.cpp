@@ -25,8 +25,8 @@ void Process::end() {
   machine_.runLoop.setAcceptsTasks(false);
   machine_.runLoop.sweep();
   ProcessLifetime::end();
-  if (machine_.observer != nullptr) {
-    machine_.observer->processEnded();
+  if (machine_.windowServer != nullptr) {
+    machine_.windowServer->processEnded();
   }
   machine_.observers.removeAll();
   machine_.eventTaps.killAll();

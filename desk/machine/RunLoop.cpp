@@ -93,10 +93,6 @@ void RunLoop::invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer) {
   }
 }
 
-std::size_t RunLoop::timerCount() const {
-  return timers_.size();
-}
-
 std::size_t RunLoop::coalescedTimerCount() const {
   return static_cast<std::size_t>(std::count_if(
       timers_.begin(), timers_.end(), [](const auto& timer) { return timer->isCoalesced; }));

@@ -69,7 +69,7 @@ class RunLoop {
                                                   Task tick);
   /// The tick is not called again, and is destroyed as soon as it is not running.
   void invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer);
-  [[nodiscard]] std::size_t timerCount() const;
+  [[nodiscard]] std::size_t timerCount() const { return timers_.size(); }
   /// Those of the application; animations and the machine use others.
   [[nodiscard]] std::size_t coalescedTimerCount() const;
 

@@ -7,14 +7,14 @@ namespace orvane::desk {
 
 void UserDefaultsStore::set(std::string_view key, PropertyValue value) {
   values_.insert_or_assign(std::string(key), std::move(value));
-  countWrite(key);
+  ++writeCounts_[std::string(key)];
 }
 
 void UserDefaultsStore::remove(std::string_view key) {
   if (const auto value = values_.find(key); value != values_.end()) {
     values_.erase(value);
   }
-  countWrite(key);
+  ++writeCounts_[std::string(key)];
 }
 
 std::optional<PropertyValue> UserDefaultsStore::value(std::string_view key) const {
@@ -27,9 +27,12 @@ std::int64_t UserDefaultsStore::writeCount(std::string_view key) const {
   return count == writeCounts_.end() ? 0 : count->second;
 }
 
-void UserDefaultsStore::countWrite(std::string_view key) {
-  ++writeCount_;
-  ++writeCounts_[std::string(key)];
+std::int64_t UserDefaultsStore::writeCount() const {
+  std::int64_t sum = 0;
+  for (const auto& [key, count] : writeCounts_) {
+    sum += count;
+  }
+  return sum;
 }
 
 }  // namespace orvane::desk

@@ -25,14 +25,11 @@ class UserDefaultsStore {
 
   /// How often the key was set or removed.
   [[nodiscard]] std::int64_t writeCount(std::string_view key) const;
-  [[nodiscard]] std::int64_t writeCount() const { return writeCount_; }
+  [[nodiscard]] std::int64_t writeCount() const;
 
  private:
-  void countWrite(std::string_view key);
-
   Values values_;
   std::map<std::string, std::int64_t, std::less<>> writeCounts_;
-  std::int64_t writeCount_ = 0;
 };
 
 }  // namespace orvane::desk

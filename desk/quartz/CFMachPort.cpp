@@ -1,11 +1,17 @@
 // The ports of event taps, and their invalidation.
-#include "desk/quartz/CFMachPort.hpp"
-
 #include "desk/machine/Machine.hpp"
-#include "desk/quartz/CFRunLoop.hpp"
+#include "desk/quartz/CFObjects.hpp"
 
 using orvane::desk::Machine;
-using orvane::desk::ObjectKind;
+
+namespace orvane::desk {
+
+__CFMachPort* portBehind(CFMachPortRef port, const char* operation) {
+  return static_cast<__CFMachPort*>(
+      Machine::current().objects.find(port, ObjectKind::machPort, operation));
+}
+
+}  // namespace orvane::desk
 
 void __CFMachPort::lastReferenceGone() {
   Machine& machine = Machine::current();
@@ -17,8 +23,7 @@ void __CFMachPort::lastReferenceGone() {
 void CFMachPortInvalidate(CFMachPortRef port) {
   Machine& machine = Machine::current();
   orvane::desk::recordCall("CFMachPortInvalidate");
-  auto* const object = static_cast<__CFMachPort*>(
-      machine.objects.find(port, ObjectKind::machPort, "CFMachPortInvalidate"));
+  auto* const object = orvane::desk::portBehind(port, "CFMachPortInvalidate");
   if (object == nullptr || !object->isValid) {
     return;
   }

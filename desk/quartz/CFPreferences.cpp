@@ -4,9 +4,7 @@
 #include <string>
 
 #include "desk/machine/Machine.hpp"
-#include "desk/quartz/CFBoolean.hpp"
-#include "desk/quartz/CFNumber.hpp"
-#include "desk/quartz/CFString.hpp"
+#include "desk/quartz/CFObjects.hpp"
 #include "desk/quartz/Utf8.hpp"
 
 using orvane::desk::Machine;

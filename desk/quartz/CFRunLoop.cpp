@@ -1,16 +1,13 @@
 // Run-loop sources: their ownership, and when an event tap receives events. The run loop retains a
 // source that is in one of its modes, and a source retains its port.
-#include "desk/quartz/CFRunLoop.hpp"
-
 #include <memory>
 
 #include "desk/machine/Machine.hpp"
-#include "desk/quartz/CFMachPort.hpp"
-#include "desk/quartz/CFRunLoopSource.hpp"
-#include "desk/quartz/CFString.hpp"
+#include "desk/quartz/CFObjects.hpp"
 
 using orvane::desk::Machine;
 using orvane::desk::ObjectKind;
+using orvane::desk::portBehind;
 using orvane::desk::RunLoop;
 using orvane::desk::textOf;
 
@@ -37,11 +34,6 @@ RunLoop::ModeSet modesNamed(CFRunLoopMode mode, const char* operation) {
 __CFRunLoopSource* sourceBehind(const void* source, const char* operation) {
   return static_cast<__CFRunLoopSource*>(
       Machine::current().objects.find(source, ObjectKind::runLoopSource, operation));
-}
-
-__CFMachPort* portBehind(CFMachPortRef port, const char* operation) {
-  return static_cast<__CFMachPort*>(
-      Machine::current().objects.find(port, ObjectKind::machPort, operation));
 }
 
 /// A tap receives events in the modes in which any of its port's sources is in the run loop.

@@ -1,12 +1,11 @@
 // Strings: UTF-8 in, UTF-8 out.
-#include "desk/quartz/CFString.hpp"
-
 #include <cstring>
 #include <map>
 #include <memory>
 #include <string_view>
 
 #include "desk/machine/Machine.hpp"
+#include "desk/quartz/CFObjects.hpp"
 #include "desk/quartz/Utf8.hpp"
 
 using orvane::desk::Machine;
@@ -43,7 +42,7 @@ CFStringRef CFStringCreateWithCString(CFAllocatorRef, const char* text, CFString
 
 CFIndex CFStringGetLength(CFStringRef string) {
   const std::string* const text = textOf(string, "CFStringGetLength");
-  return text == nullptr ? 0 : static_cast<CFIndex>(Utf8::lengthInUtf16(*text).value_or(0));
+  return text == nullptr ? 0 : static_cast<CFIndex>(Utf8::lengthInUtf16(*text));
 }
 
 CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding encoding) {

@@ -1,21 +1,27 @@
 // Event taps and the events that they see.
 #include <memory>
+#include <string>
 
 #include "desk/machine/Event.hpp"
 #include "desk/machine/Machine.hpp"
-#include "desk/quartz/CFMachPort.hpp"
+#include "desk/quartz/CFObjects.hpp"
 
 using orvane::desk::EventTap;
 using orvane::desk::Machine;
-using orvane::desk::ObjectKind;
 
 namespace {
 
 EventTap* tapOf(CFMachPortRef port, const char* operation) {
-  Machine& machine = Machine::current();
-  const auto* const object =
-      static_cast<const __CFMachPort*>(machine.objects.find(port, ObjectKind::machPort, operation));
-  return object == nullptr ? nullptr : machine.eventTaps.find(object->tapIdentity);
+  const auto* const object = orvane::desk::portBehind(port, operation);
+  return object == nullptr ? nullptr : Machine::current().eventTaps.find(object->tapIdentity);
+}
+
+/// False, and a recorded fault, for null.
+bool isEvent(CGEventRef event, const char* operation) {
+  if (event == nullptr) {
+    Machine::current().faults.record(std::string(operation) + ": null instead of an event");
+  }
+  return event != nullptr;
 }
 
 }  // namespace
@@ -45,25 +51,15 @@ bool CGEventTapIsEnabled(CFMachPortRef tap) {
 }
 
 CGEventFlags CGEventGetFlags(CGEventRef event) {
-  if (event == nullptr) {
-    Machine::current().faults.record("CGEventGetFlags: null instead of an event");
-    return CGEventFlags{};
-  }
-  return event->flags;
+  return isEvent(event, "CGEventGetFlags") ? event->flags : CGEventFlags{};
 }
 
 CGPoint CGEventGetLocation(CGEventRef event) {
-  if (event == nullptr) {
-    Machine::current().faults.record("CGEventGetLocation: null instead of an event");
-    return {};
-  }
-  return event->location;
+  return isEvent(event, "CGEventGetLocation") ? event->location : CGPoint{};
 }
 
 void CGEventSetLocation(CGEventRef event, CGPoint location) {
-  if (event == nullptr) {
-    Machine::current().faults.record("CGEventSetLocation: null instead of an event");
-    return;
+  if (isEvent(event, "CGEventSetLocation")) {
+    event->location = location;
   }
-  event->location = location;
 }

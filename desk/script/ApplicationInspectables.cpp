@@ -143,7 +143,7 @@ void addApplicationInspectables(InspectableTable& table) {
   table.add("guard", guardOf);
   table.add("guide", guideOf);
   table.add("messages", messagesOf);
-  table.add({.name = "model", .look = lookAtModel});
+  table.add("model", Inspectable{.parameter = {}, .look = lookAtModel});
 }
 
 }  // namespace orvane::desk::script

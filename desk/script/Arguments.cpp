@@ -2,6 +2,7 @@
 #include "desk/script/Arguments.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <iterator>
 #include <limits>
@@ -62,26 +63,20 @@ std::string Arguments::text(std::string_view what) {
   return word.text;
 }
 
-double Arguments::number(std::string_view what) {
-  return checkedNumber(what, text(what));
-}
-
-double Arguments::checkedNumber(std::string_view what, std::string_view text) {
-  const std::optional<double> value = parseDecimal(text);
+double Arguments::number(std::string_view what, const Given& given) {
+  const std::string word = given ? *given : text(what);
+  const std::optional<double> value = parseDecimal(word);
   if (!value) {
-    report(std::string(what) + " must be a decimal number, not " + excerpt(text));
+    report(std::string(what) + " must be a decimal number, not " + excerpt(word));
   }
   return value.value_or(0);
 }
 
-double Arguments::coordinate(std::string_view what) {
-  return checkedCoordinate(what, text(what));
-}
-
-double Arguments::checkedCoordinate(std::string_view what, std::string_view text) {
-  const double value = checkedNumber(what, text);
+double Arguments::coordinate(std::string_view what, const Given& given) {
+  const std::string word = given ? *given : text(what);
+  const double value = number(what, word);
   if (std::abs(value) > coordinateLimit) {
-    report(std::string(what) + " is too large: " + excerpt(text));
+    report(std::string(what) + " is too large: " + excerpt(word));
   }
   return value;
 }
@@ -91,18 +86,15 @@ std::uint32_t Arguments::displayNumber(std::string_view what) {
   return static_cast<std::uint32_t>(integer(what, 0, highest));
 }
 
-std::int64_t Arguments::integer(std::string_view what, std::int64_t lowest, std::int64_t highest) {
-  return checkedInteger(what, text(what), lowest, highest);
-}
-
-std::int64_t Arguments::checkedInteger(std::string_view what, std::string_view text,
-                                       std::int64_t lowest, std::int64_t highest) {
-  const std::optional<std::int64_t> value = parseInteger(text);
+std::int64_t Arguments::integer(std::string_view what, std::int64_t lowest, std::int64_t highest,
+                                const Given& given) {
+  const std::string word = given ? *given : text(what);
+  const std::optional<std::int64_t> value = parseInteger(word);
   if (value && *value >= lowest && *value <= highest) {
     return *value;
   }
   report(std::string(what) + " must be a whole number from " + std::to_string(lowest) + " to " +
-         std::to_string(highest) + ", not " + excerpt(text));
+         std::to_string(highest) + ", not " + excerpt(word));
   return lowest;
 }
 
@@ -121,20 +113,17 @@ std::int64_t Arguments::nanoseconds(std::string_view what, std::int64_t highest)
   return *value;
 }
 
-std::array<double, 4> Arguments::rectangle(std::string_view what) {
-  return parseRectangle(what, text(what));
-}
-
-std::array<double, 4> Arguments::parseRectangle(std::string_view what, std::string_view text) {
-  const std::vector<std::string> parts = splitAtCommas(text);
+CGRect Arguments::rectangle(std::string_view what, const Given& given) {
+  const std::string word = given ? *given : text(what);
+  const std::vector<std::string> parts = splitAtCommas(word);
   std::array<double, 4> numbers{};
   if (parts.size() != numbers.size()) {
-    report(std::string(what) + " must be X,Y,W,H, not " + excerpt(text));
-    return numbers;
+    report(std::string(what) + " must be X,Y,W,H, not " + excerpt(word));
+    return {};
   }
   std::ranges::transform(parts, numbers.begin(),
-                         [&](const std::string& part) { return checkedCoordinate(what, part); });
-  return numbers;
+                         [&](const std::string& part) { return coordinate(what, part); });
+  return CGRectMake(numbers[0], numbers[1], numbers[2], numbers[3]);
 }
 
 std::size_t Arguments::choice(std::string_view what, std::span<const std::string_view> choices) {
@@ -160,21 +149,6 @@ std::optional<std::string> Arguments::option(std::string_view key) {
     }
   }
   return std::nullopt;
-}
-
-std::optional<std::int64_t> Arguments::integerOption(std::string_view key, std::int64_t lowest,
-                                                     std::int64_t highest) {
-  const std::optional<std::string> value = option(key);
-  return value ? std::optional(checkedInteger(key, *value, lowest, highest)) : std::nullopt;
-}
-
-std::array<double, 4> Arguments::rectangleOption(std::string_view key) {
-  const std::optional<std::string> value = option(key);
-  if (!value) {
-    report(std::string(key) + "=X,Y,W,H is missing");
-    return {};
-  }
-  return parseRectangle(key, *value);
 }
 
 bool Arguments::flag(std::string_view word) {

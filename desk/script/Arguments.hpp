@@ -1,7 +1,6 @@
 // Arguments parses the words after a command's name.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -10,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Orvane/platform/Quartz.hpp"
 #include "desk/script/Lexer.hpp"
 #include "desk/script/Problem.hpp"
 
@@ -32,28 +32,27 @@ class Arguments {
   /// Whether no word is left.
   [[nodiscard]] bool isEmpty() const { return !next().has_value(); }
 
+  /// A text that was read from an option, to be parsed in place of the next word.
+  using Given = std::optional<std::string>;
+
   std::string text(std::string_view what);
   /// Finite.
-  double number(std::string_view what);
+  double number(std::string_view what, const Given& given = {});
   /// Finite and at most coordinateLimit in magnitude.
-  double coordinate(std::string_view what);
+  double coordinate(std::string_view what, const Given& given = {});
   std::uint32_t displayNumber(std::string_view what);
   /// From `lowest` to `highest`.
-  std::int64_t integer(std::string_view what, std::int64_t lowest, std::int64_t highest);
+  std::int64_t integer(std::string_view what, std::int64_t lowest, std::int64_t highest,
+                       const Given& given = {});
   /// Seconds, not negative, as exact nanoseconds.
   std::int64_t nanoseconds(std::string_view what, std::int64_t highest);
   /// "X,Y,W,H".
-  std::array<double, 4> rectangle(std::string_view what);
+  CGRect rectangle(std::string_view what, const Given& given = {});
   /// The index of the word in `choices`.
   std::size_t choice(std::string_view what, std::span<const std::string_view> choices);
 
   /// The value of the word "key=value"; none without such a word.
   std::optional<std::string> option(std::string_view key);
-  /// The same as a number from `lowest` to `highest`.
-  std::optional<std::int64_t> integerOption(std::string_view key, std::int64_t lowest,
-                                            std::int64_t highest);
-  /// The same as "X,Y,W,H"; required.
-  std::array<double, 4> rectangleOption(std::string_view key);
   /// Whether there is such a word.
   bool flag(std::string_view word);
   /// Reads the next word if it is this one.
@@ -73,11 +72,6 @@ class Arguments {
 
  private:
   [[nodiscard]] std::optional<std::size_t> next() const;
-  std::array<double, 4> parseRectangle(std::string_view what, std::string_view text);
-  double checkedNumber(std::string_view what, std::string_view text);
-  double checkedCoordinate(std::string_view what, std::string_view text);
-  std::int64_t checkedInteger(std::string_view what, std::string_view text, std::int64_t lowest,
-                              std::int64_t highest);
 
   std::span<const Word> words_;
   std::string_view line_;

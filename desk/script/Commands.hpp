@@ -1,9 +1,56 @@
-// The commands of the script language, in groups.
+// The commands of the script language, by name.
 #pragma once
 
-#include "desk/script/CommandTable.hpp"
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "desk/script/Command.hpp"
+#include "desk/script/Lexer.hpp"
 
 namespace orvane::desk::script {
+
+class CommandTable {
+ public:
+  struct Found {
+    /// Null when there is no such command.
+    const Command* command = nullptr;
+    /// The number of words of its name.
+    std::size_t nameWords = 0;
+    /// Why there is no such command.
+    Problem problem;
+  };
+
+  /// Replaces a command with the same name.
+  void add(Command command);
+  /// Adds a command with this name, parameters and action; see `makeCommand`.
+  template <typename Parameters, typename Action>
+  void add(std::string name, Parameters parameters, Action action) {
+    add(makeCommand(std::move(name), std::move(parameters), std::move(action)));
+  }
+  /// The command at the beginning of the words, of which there must be at least one.
+  [[nodiscard]] Found find(std::span<const Word> words) const;
+
+  /// All commands, ordered by name.
+  [[nodiscard]] const std::map<std::string, Command, std::less<>>& all() const { return commands_; }
+
+ private:
+  /// The second words of the family with the first word `word`, separated by commas; empty when
+  /// there is no such family.
+  [[nodiscard]] std::string familyOf(std::string_view word) const;
+
+  std::map<std::string, Command, std::less<>> commands_;
+};
+
+/// Every command that the desk has.
+[[nodiscard]] CommandTable standardCommands();
+
+// The commands in groups.
 
 /// Reset, time, displays.
 void addMachineCommands(CommandTable& table);

@@ -8,7 +8,7 @@
 
 #include <nlohmann/json_fwd.hpp>
 
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 
 namespace orvane::desk::script {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "desk/script/CommandTable.hpp"
+#include "desk/script/Commands.hpp"
 #include "desk/script/Problem.hpp"
 #include "desk/script/ScriptContext.hpp"
 

@@ -11,7 +11,7 @@
 #include "desk/hand/InQuotes.hpp"
 #include "desk/script/Commands.hpp"
 #include "desk/script/Expectation.hpp"
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
 
 namespace orvane::desk::script {

@@ -1,5 +1,4 @@
 // The commands for the whole machine and its displays.
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <utility>
@@ -17,17 +16,17 @@ struct NewDisplay {
   bool isMain = false;
 };
 
-CGRect rectOf(const std::array<double, 4>& numbers) {
-  return CGRectMake(numbers[0], numbers[1], numbers[2], numbers[3]);
-}
-
 NewDisplay readDisplay(ScriptContext& /*context*/, Arguments& arguments) {
   Display display;
-  display.frame = rectOf(arguments.rectangleOption("frame"));
+  if (const auto frame = arguments.option("frame")) {
+    display.frame = arguments.rectangle("frame", frame);
+  } else {
+    arguments.report("frame=X,Y,W,H is missing");
+  }
   display.uuid = arguments.option("uuid");
   display.name = arguments.option("name").value_or("");
-  if (const auto bits = arguments.integerOption("bits", 0, mostBitsPerSample)) {
-    display.bitsPerSample = static_cast<int>(*bits);
+  if (const auto bits = arguments.option("bits")) {
+    display.bitsPerSample = static_cast<int>(arguments.integer("bits", 0, mostBitsPerSample, bits));
   }
   if (std::optional<std::string> colorSpace = arguments.option("colorspace")) {
     display.colorSpace = std::move(colorSpace);
@@ -44,9 +43,7 @@ NewDisplay readDisplay(ScriptContext& /*context*/, Arguments& arguments) {
 
 Parameter<CGRect> frame() {
   const std::string name = "X,Y,W,H";
-  return {name, [name](ScriptContext&, Arguments& arguments) {
-            return rectOf(arguments.rectangle(name));
-          }};
+  return {name, [name](ScriptContext&, Arguments& arguments) { return arguments.rectangle(name); }};
 }
 
 /// Seconds, within the limit of the clock.

@@ -6,7 +6,7 @@
 #include "Orvane/ui/draw/InkProbe.hpp"
 #include "desk/hand/FindControl.hpp"
 #include "desk/script/Inspectables.hpp"
-#include "desk/windows/MenuMetrics.hpp"
+#include "desk/windows/Implementations.hpp"
 #include "desk/windows/WindowServer.hpp"
 
 namespace orvane::desk::script {
@@ -33,7 +33,7 @@ Json rowSnapshot(const appkit::MenuItem& item) {
     shown["kind"] = "separator";
     return shown;
   }
-  const auto view = item.view ? hostedView(*item.view) : nullptr;
+  const auto view = viewOf(item);
   ui::SemanticsNode tree;
   SymbolProbe probe;
   if (view != nullptr) {

@@ -8,7 +8,7 @@
 
 #include "Orvane/guard/OrvaneModifier.hpp"
 #include "desk/script/Commands.hpp"
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/JsonText.hpp"
 
 namespace orvane::desk::script {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "desk/script/CommandTable.hpp"
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Commands.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/ScriptContext.hpp"
 
 namespace orvane::desk::script {

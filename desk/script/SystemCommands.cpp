@@ -57,8 +57,8 @@ PropertyValue readPropertyValue(ScriptContext& /*context*/, Arguments& arguments
 
 Appearance::Accent readAccent(ScriptContext& /*context*/, Arguments& arguments) {
   const std::vector<std::string> parts = splitAtCommas(arguments.text("R,G,B"));
-  std::vector<Word> words;
-  std::ranges::transform(parts, std::back_inserter(words), [](const std::string& part) {
+  std::vector<Word> words(parts.size());
+  std::ranges::transform(parts, words.begin(), [](const std::string& part) {
     return Word{.text = part, .begin = 0, .end = 0, .problem = {}};
   });
   Arguments numbers(words, {});

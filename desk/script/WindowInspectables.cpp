@@ -112,7 +112,7 @@ Json announcementsSnapshot() {
 
 void addWindowInspectables(InspectableTable& table) {
   table.add("windows", windowsSnapshot);
-  table.add({.name = "tree", .parameter = "SURFACE", .look = lookAtTree});
+  table.add("tree", Inspectable{.parameter = "SURFACE", .look = lookAtTree});
   table.add("menu", statusMenuSnapshot);
   table.add("icon", iconSnapshot);
   table.add("announcements", announcementsSnapshot);

@@ -10,13 +10,8 @@
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
-#include "desk/settings/ApplicationIcon.hpp"
-#include "desk/settings/SettingsButtonStyle.hpp"
-#include "desk/settings/SettingsGroup.hpp"
-#include "desk/settings/SettingsSwitch.hpp"
+#include "desk/settings/SettingsControls.hpp"
 #include "desk/settings/SystemSettings.hpp"
-#include "desk/settings/SystemSettingsView.hpp"
-#include "desk/settings/TitledPage.hpp"
 
 namespace orvane::desk {
 
@@ -32,61 +27,63 @@ View smallButton(const std::string& symbol, const std::string& label,
       .disabled(!isEnabled);
 }
 
-}  // namespace
-
-View AccessibilityPage::row(const AccessibilityList::Entry& entry) const {
+View row(SystemSettings& settings, const AccessibilityList::Entry& entry) {
   constexpr double rowHeight = 40;
-  const bool isSelected = settings->state().selected == entry.name;
+  const bool isSelected = settings.state().selected == entry.name;
   const View label =
-      HStack(8, {ApplicationIcon{entry.name, 28}, Text(entry.name).lineLimit(1), Spacer()})
+      HStack(8, {applicationIcon(entry.name, 28), Text(entry.name).lineLimit(1), Spacer()})
           .padding(Edges{.leading = 10})
           .height(rowHeight);
   const View selecting =
-      Button([settings = settings, name = entry.name] { settings->select(name); }, label)
+      Button([&settings, name = entry.name] { settings.select(name); }, label)
           .style(SettingsButtonStyle{})
           .accessibilityRole(Role::radioButton)
-          .accessibilityLabel(settings->language().text("Select ", "选择 ") + entry.name)
+          .accessibilityLabel(settings.language().text("Select ", "选择 ") + entry.name)
           .accessibilitySelected(isSelected);
-  const View allowing = View(SettingsSwitch{entry.name, entry.isAllowed,
-                                            [settings = settings, entry] {
-                                              settings->setAllowed(entry.name, !entry.isAllowed);
-                                            }})
-                            .padding(Edges::horizontal(10));
+  const View allowing = settingsSwitch(entry.name, entry.isAllowed, [&settings, entry] {
+                          settings.setAllowed(entry.name, !entry.isAllowed);
+                        }).padding(Edges::horizontal(10));
   const View highlight =
       Rectangle().fill(isSelected ? Color::primary().opacity(0.1) : Color::clear());
   return HStack(0, {selecting, allowing}).background(highlight).id(entry.name);
 }
 
-View AccessibilityPage::buttons(const Environment& /*environment*/) const {
-  const SystemLanguage language = settings->language();
-  const bool hasSelection = !settings->state().selected.empty();
+View buttons(SystemSettings& settings) {
+  const SystemLanguage language = settings.language();
+  const bool hasSelection = !settings.state().selected.empty();
   const View line = Rectangle().fill(Color::tertiary()).frame(1, 14).accessibilityHidden();
   return HStack(0, {smallButton(
                         "plus", language.text("Add", "添加"),
-                        [settings = settings] { settings->beginChoosing(); }, true),
+                        [&settings] { settings.beginChoosing(); }, true),
                     line,
                     smallButton(
                         "minus", language.text("Remove", "移除"),
-                        [settings = settings] { settings->removeSelected(); }, hasSelection),
+                        [&settings] { settings.removeSelected(); }, hasSelection),
                     Spacer()})
       .padding(Edges::horizontal(4))
       .height(28);
 }
 
-View AccessibilityPage::body(const Environment& environment) const {
-  const SystemLanguage language = settings->language();
+}  // namespace
+
+std::string accessibilityListLabel(const SystemLanguage& language) {
+  return language.text("Applications", "应用程序");
+}
+
+View makeAccessibilityPage(SystemSettings& settings) {
+  const SystemLanguage language = settings.language();
   std::vector<View> rows;
-  for (const AccessibilityList::Entry& entry : settings->applications().entries()) {
-    rows.push_back(row(entry));
+  for (const AccessibilityList::Entry& entry : settings.applications().entries()) {
+    rows.push_back(row(settings, entry));
   }
-  rows.push_back(buttons(environment));
+  rows.push_back(buttons(settings));
   const View explanation =
       Text(language.text("Allow the applications below to control your computer.",
                          "允许以下应用程序控制你的电脑。"))
           .padding(Edges{.leading = 2, .bottom = 10});
-  const View list = View(SettingsGroup{rows, 46, settings->state().isDragOver})
-                        .accessibilityLabel(SystemSettingsView::listLabel(language));
-  return titledPage(*settings, language.text("Accessibility", "辅助功能"),
+  const View list = settingsGroup(rows, 46, settings.state().isDragOver)
+                        .accessibilityLabel(accessibilityListLabel(language));
+  return titledPage(settings, language.text("Accessibility", "辅助功能"),
                     VStack(0, HorizontalAlignment::leading, {explanation, list}));
 }
 

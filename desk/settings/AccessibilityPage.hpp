@@ -1,21 +1,18 @@
 // The page with the applications that may control the computer.
 #pragma once
 
+#include <string>
+
 #include "Orvane/ui/views/View.hpp"
-#include "desk/settings/AccessibilityList.hpp"
+#include "desk/settings/SystemLanguage.hpp"
 
 namespace orvane::desk {
 
 class SystemSettings;
 
-struct AccessibilityPage {
-  SystemSettings* settings;
+[[nodiscard]] ui::View makeAccessibilityPage(SystemSettings& settings);
 
-  ui::View body(const ui::Environment& environment) const;
-
- private:
-  [[nodiscard]] ui::View row(const AccessibilityList::Entry& entry) const;
-  [[nodiscard]] ui::View buttons(const ui::Environment& environment) const;
-};
+/// The accessibility label of the list of applications.
+[[nodiscard]] std::string accessibilityListLabel(const SystemLanguage& language);
 
 }  // namespace orvane::desk

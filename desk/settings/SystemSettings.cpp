@@ -27,7 +27,7 @@ SystemSettings::SystemSettings(WindowServer& server)
               {"x-apple.systempreferences:com.apple.settings.PrivacySecurity.extension"
                "?Privacy_Accessibility",
                "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility"},
-              [](SystemSettings& settings) -> ui::View { return AccessibilityPage{&settings}; }}} {
+              makeAccessibilityPage}} {
   server.machine().links.onOpened([this](const Links::Opened& link) { linkOpened(link); });
 }
 
@@ -36,10 +36,9 @@ SystemSettings::~SystemSettings() {
 }
 
 SystemSettings& SystemSettings::installOn(WindowServer& server) {
-  auto program = std::make_unique<SystemSettings>(server);
-  SystemSettings& installed = *program;
-  server.install(std::move(program));
-  return installed;
+  const auto program = std::make_shared<SystemSettings>(server);
+  server.install(program);
+  return *program;
 }
 
 void SystemSettings::extend(std::vector<SettingsPage> pages, SettingsPage::MakeView makeSidebar) {
@@ -214,11 +213,11 @@ std::optional<ui::Rect> SystemSettings::listFrame() const {
     return std::nullopt;
   }
   view_->update();
-  const auto list = findElement(
-      view_->host().semantics(),
-      [label = SystemSettingsView::listLabel(language())](const ui::SemanticsNode& node) {
-        return node.role == ui::Role::group && node.label == label;
-      });
+  const auto list =
+      findElement(view_->host().semantics(),
+                  [label = accessibilityListLabel(language())](const ui::SemanticsNode& node) {
+                    return node.role == ui::Role::group && node.label == label;
+                  });
   return list ? std::optional(list->frame) : std::nullopt;
 }
 

@@ -13,7 +13,6 @@
 #include "desk/settings/AccessibilityList.hpp"
 #include "desk/settings/SettingsPage.hpp"
 #include "desk/settings/SystemLanguage.hpp"
-#include "desk/windows/SystemProgram.hpp"
 
 namespace orvane::desk {
 
@@ -24,7 +23,7 @@ struct DeskWindow;
 
 /// A separate program: it outlives the application's process. It has the Accessibility page;
 /// `extend` adds more. The window is rebuilt when the machine has changed.
-class SystemSettings : public SystemProgram {
+class SystemSettings {
  public:
   /// The window's size in points.
   static constexpr double width = 715;
@@ -49,7 +48,9 @@ class SystemSettings : public SystemProgram {
 
   /// Use installOn.
   explicit SystemSettings(WindowServer& server);
-  ~SystemSettings() override;
+  SystemSettings(const SystemSettings&) = delete;
+  SystemSettings& operator=(const SystemSettings&) = delete;
+  ~SystemSettings();
 
   /// To be called once for each server. The window opens when a link to one of its pages is opened.
   static SystemSettings& installOn(WindowServer& server);

@@ -32,7 +32,6 @@ HostedView::~HostedView() {
 }
 
 ui::HostPlatform HostedView::platform() {
-  WindowServer& server = WindowServer::current();
   ui::HostServices services;
   services.requestRedraw = [this] {
     if (isOnScreen_ && !isUpdating_) {
@@ -56,7 +55,7 @@ ui::HostPlatform HostedView::platform() {
       kept();
     }
   };
-  return {&server.text(), server.resources().imageSource(), {}, std::move(services)};
+  return WindowServer::current().resources().hostPlatform(std::move(services));
 }
 
 void HostedView::update() {

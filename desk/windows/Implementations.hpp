@@ -45,4 +45,9 @@ namespace orvane::desk {
   return appkit::Window(std::static_pointer_cast<appkit::Window::Implementation>(window));
 }
 
+/// The view of a menu item; null without one.
+[[nodiscard]] inline std::shared_ptr<HostedView> viewOf(const appkit::MenuItem& item) {
+  return item.view ? item.view->implementation() : nullptr;
+}
+
 }  // namespace orvane::desk

@@ -30,7 +30,4 @@ inline double heightOf(const appkit::MenuItem& item, const HostedView* view) {
 
 }  // namespace MenuMetrics
 
-/// The view behind a handle.
-[[nodiscard]] std::shared_ptr<HostedView> hostedView(const appkit::HostingView& view);
-
 }  // namespace orvane::desk

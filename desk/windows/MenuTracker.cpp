@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desk/windows/Implementations.hpp"
 #include "desk/windows/MenuMetrics.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -23,10 +24,6 @@ bool beginsWith(const std::string& title, const std::string& start) {
   return start.size() <= title.size() &&
          std::equal(start.begin(), start.end(), title.begin(),
                     [&](char first, char second) { return lower(first) == lower(second); });
-}
-
-std::shared_ptr<HostedView> viewOf(const appkit::MenuItem& item) {
-  return item.view ? hostedView(*item.view) : nullptr;
 }
 
 }  // namespace
@@ -129,8 +126,8 @@ double MenuTracker::widthOf(const appkit::MenuItem& item) const {
   if (item.isSeparator) {
     return 0;
   }
-  const ui::TextLayout title = server_.text().layout(item.title, MenuMetrics::font, 1e6, 1);
-  return title.size().width + MenuMetrics::titleInset + MenuMetrics::trailingInset;
+  const double width = server_.resources().shaper.measure(item.title, MenuMetrics::font).width;
+  return width + MenuMetrics::titleInset + MenuMetrics::trailingInset;
 }
 
 CGPoint MenuTracker::origin(double width, double height) const {
@@ -239,10 +236,6 @@ void MenuTracker::highlightByKey(std::size_t itemIndex) {
   isNavigatedByKeys_ = true;
   highlight(itemIndex);
   server_.updates.request();
-}
-
-void MenuTracker::endKeyNavigation() {
-  isNavigatedByKeys_ = false;
 }
 
 void MenuTracker::moveHighlight(bool isDown) {

@@ -60,7 +60,7 @@ class MenuTracker {
   /// the pointer is not hovered, so that no two rows look highlighted.
   [[nodiscard]] bool isNavigatedByKeys() const { return isNavigatedByKeys_; }
   /// To be called when the pointer moves or its button is pressed.
-  void endKeyNavigation();
+  void endKeyNavigation() { isNavigatedByKeys_ = false; }
 
   /// To be called when the items of a menu have changed.
   void itemsChanged(const DeskMenu& menu);

@@ -19,35 +19,20 @@ constexpr std::array<std::pair<const char*, const char*>, 5> namesByClass{{
     {"SystemSettings", "system"},
 }};
 
-ui::SemanticsNode currentTree(HostedView& view) {
-  view.update();
-  return view.host().semantics();
-}
-
-CGRect globalRect(const ui::Rect& rect, CGPoint origin) {
-  return CGRectMake(origin.x + rect.x, origin.y + rect.y, rect.width, rect.height);
-}
-
 /// `window` is the intersection of the ancestor scroll areas.
-void collect(const ui::SemanticsNode& node, const std::shared_ptr<HostedView>& view, CGPoint origin,
-             const ui::Rect& window, std::vector<SurfaceControl>& controls) {
+void collect(const ui::SemanticsNode& node, const SurfacePart& part, const ui::Rect& window,
+             std::vector<SurfaceControl>& controls) {
+  const auto global = [&](const ui::Rect& rect) {
+    return CGRectMake(part.origin.x + rect.x, part.origin.y + rect.y, rect.width, rect.height);
+  };
   if (node.isControl) {
-    controls.push_back({node, globalRect(node.frame, origin),
-                        globalRect(node.frame.intersection(window), origin), [view, id = node.id] {
-                          view->update();
-                          return view->host().press(id);
-                        }});
+    controls.push_back({node, global(node.frame), global(node.frame.intersection(window)),
+                        [press = part.press, id = node.id] { return press(id); }});
   }
   const bool scrolls = node.role == ui::Role::scrollArea;
   for (const ui::SemanticsNode& child : node.children) {
-    collect(child, view, origin, scrolls ? window.intersection(node.frame) : window, controls);
+    collect(child, part, scrolls ? window.intersection(node.frame) : window, controls);
   }
-}
-
-void collectAll(const std::shared_ptr<HostedView>& view, CGPoint origin,
-                std::vector<SurfaceControl>& controls) {
-  const ui::SemanticsNode root = currentTree(*view);
-  collect(root, view, origin, root.frame, controls);
 }
 
 void move(ui::SemanticsNode& node, ui::Point distance) {
@@ -57,16 +42,25 @@ void move(ui::SemanticsNode& node, ui::Point distance) {
   }
 }
 
-/// The node of an item without a view.
-ui::SemanticsNode plainNode(const MenuRow& row, const appkit::MenuItem& item) {
+SurfacePart viewPart(const std::shared_ptr<HostedView>& view, CGPoint origin) {
+  view->update();
+  return {view->host().semantics(), origin, [view](std::uint64_t id) {
+            view->update();
+            return view->host().press(id);
+          }};
+}
+
+/// An item without a view.
+SurfacePart plainPart(const MenuRow& row, MenuTracker& menus) {
+  const appkit::MenuItem& item = menus.menu()->items[row.itemIndex];
   ui::SemanticsNode node;
   node.role = ui::Role::button;
   node.label = item.title;
   node.isEnabled = item.isEnabled;
-  node.frame = {row.frame.origin.x, row.frame.origin.y, row.frame.size.width,
-                row.frame.size.height};
+  node.frame = {0, 0, row.frame.size.width, row.frame.size.height};
   node.isControl = true;
-  return node;
+  return {node, row.frame.origin,
+          [&menus, index = row.itemIndex](std::uint64_t) { return menus.choose(index); }};
 }
 
 }  // namespace
@@ -106,62 +100,57 @@ bool Surfaces::isOpen(const std::string& name) const {
   return name == menu ? server_.menus.isOpen() : window(name) != nullptr;
 }
 
-std::optional<ui::SemanticsNode> Surfaces::tree(const std::string& name) const {
+std::optional<CGRect> Surfaces::frame(const std::string& name) const {
   if (!isOpen(name)) {
     return std::nullopt;
   }
+  server_.menus.layOut();
+  return name == menu ? server_.menus.frame()
+                      : server_.machine().displays.flipped(window(name)->frame);
+}
+
+std::vector<SurfacePart> Surfaces::parts(const std::string& name) const {
+  std::vector<SurfacePart> all;
   if (name == menu) {
-    return menuTree();
-  }
-  const auto view = window(name)->content;
-  return view != nullptr ? currentTree(*view) : ui::SemanticsNode{};
-}
-
-ui::SemanticsNode Surfaces::menuTree() const {
-  server_.menus.layOut();
-  const CGRect& frame = server_.menus.frame();
-  ui::SemanticsNode root;
-  root.frame = {0, 0, frame.size.width, frame.size.height};
-  for (const MenuRow& row : server_.menus.rows()) {
-    const appkit::MenuItem& item = server_.menus.menu()->items[row.itemIndex];
-    if (row.view != nullptr) {
-      ui::SemanticsNode node = currentTree(*row.view);
-      move(node, {row.frame.origin.x - frame.origin.x, row.frame.origin.y - frame.origin.y});
-      root.children.push_back(std::move(node));
-    } else if (!item.isSeparator) {
-      root.children.push_back(plainNode(row, item));
-      move(root.children.back(), {-frame.origin.x, -frame.origin.y});
+    server_.menus.layOut();
+    for (const MenuRow& row : server_.menus.rows()) {
+      if (row.view != nullptr) {
+        all.push_back(viewPart(row.view, row.frame.origin));
+      } else if (!server_.menus.menu()->items[row.itemIndex].isSeparator) {
+        all.push_back(plainPart(row, server_.menus));
+      }
     }
+    return all;
   }
-  return root;
-}
-
-std::vector<SurfaceControl> Surfaces::menuControls() const {
-  server_.menus.layOut();
-  std::vector<SurfaceControl> all;
-  for (const MenuRow& row : server_.menus.rows()) {
-    const appkit::MenuItem& item = server_.menus.menu()->items[row.itemIndex];
-    if (row.view != nullptr) {
-      collectAll(row.view, row.frame.origin, all);
-    } else if (!item.isSeparator) {
-      all.push_back(
-          {plainNode(row, item), row.frame, row.frame,
-           [&server = server_, index = row.itemIndex] { return server.menus.choose(index); }});
-    }
+  const auto shown = window(name);
+  if (const auto view = shown != nullptr ? shown->content : nullptr) {
+    all.push_back(viewPart(view, server_.originOf(*view).value_or(CGPoint{})));
   }
   return all;
 }
 
+std::optional<ui::SemanticsNode> Surfaces::tree(const std::string& name) const {
+  if (!isOpen(name)) {
+    return std::nullopt;
+  }
+  std::vector<SurfacePart> all = parts(name);
+  if (name != menu) {
+    return all.empty() ? ui::SemanticsNode{} : std::move(all.front().tree);
+  }
+  const CGRect& frame = server_.menus.frame();
+  ui::SemanticsNode root;
+  root.frame = {0, 0, frame.size.width, frame.size.height};
+  for (SurfacePart& part : all) {
+    move(part.tree, {part.origin.x - frame.origin.x, part.origin.y - frame.origin.y});
+    root.children.push_back(std::move(part.tree));
+  }
+  return root;
+}
+
 std::vector<SurfaceControl> Surfaces::controls(const std::string& name) const {
   std::vector<SurfaceControl> all;
-  if (name == menu) {
-    return server_.menus.isOpen() ? menuControls() : all;
-  }
-  const auto shown = window(name);
-  if (shown != nullptr && shown->content != nullptr) {
-    const auto view = shown->content;
-    const auto origin = server_.originOf(*view);
-    collectAll(view, origin.value_or(CGPoint{}), all);
+  for (const SurfacePart& part : parts(name)) {
+    collect(part.tree, part, part.tree.frame, all);
   }
   return all;
 }

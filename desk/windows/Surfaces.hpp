@@ -26,6 +26,16 @@ struct SurfaceControl {
   std::function<bool()> press;
 };
 
+/// A window's content, or a row of the menu.
+struct SurfacePart {
+  /// Up to date, with frames from the part's top left.
+  ui::SemanticsNode tree;
+  /// In global coordinates.
+  CGPoint origin{};
+  /// The accessibility press of a node.
+  std::function<bool(std::uint64_t id)> press;
+};
+
 class Surfaces {
  public:
   /// The name of the open menu.
@@ -40,6 +50,8 @@ class Surfaces {
   /// The visible surfaces that no modal session blocks, front to back.
   [[nodiscard]] std::vector<std::string> names() const;
   [[nodiscard]] bool isOpen(const std::string& name) const;
+  /// In global coordinates; none when the surface is not open.
+  [[nodiscard]] std::optional<CGRect> frame(const std::string& name) const;
 
   /// The up-to-date semantics tree, with frames from the surface's top left; none when the surface
   /// is not open.
@@ -48,8 +60,8 @@ class Surfaces {
   [[nodiscard]] std::vector<SurfaceControl> controls(const std::string& name) const;
 
  private:
-  [[nodiscard]] ui::SemanticsNode menuTree() const;
-  [[nodiscard]] std::vector<SurfaceControl> menuControls() const;
+  /// Empty when the surface is not open.
+  [[nodiscard]] std::vector<SurfacePart> parts(const std::string& name) const;
 
   WindowServer& server_;
 };

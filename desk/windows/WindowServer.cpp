@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "Orvane/platform/appkit/Screen.hpp"
-#include "desk/canvas/ApplicationImages.hpp"
 
 namespace orvane::desk {
 
@@ -27,13 +26,7 @@ double overlapArea(const CGRect& first, const CGRect& second) {
 
 }  // namespace
 
-WindowServer::WindowServer(Machine& machine) : machine_(machine) {
-  addApplicationImages(resources_.images);
-  machine.observer = this;
-}
-
 WindowServer::~WindowServer() {
-  machine_.observer = nullptr;
   // Views that are destroyed later must not use this server.
   for (const Window& window : windows()) {
     if (window->content != nullptr) {
@@ -45,13 +38,13 @@ WindowServer::~WindowServer() {
 WindowServer& WindowServer::current() {
   Machine& machine = Machine::current();
   if (machine.windowServer == nullptr) {
-    machine.windowServer = std::make_shared<WindowServer>(machine);
+    machine.windowServer = std::make_unique<WindowServer>(machine);
   }
-  return *machine.windowServer;
+  return *of(machine);
 }
 
 WindowServer* WindowServer::of(const Machine& machine) {
-  return machine.windowServer.get();
+  return static_cast<WindowServer*>(machine.windowServer.get());
 }
 
 bool WindowServer::isVisible(const DeskWindow& window) const {

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "desk/canvas/DrawingResources.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/machine/Machine.hpp"
 #include "desk/machine/MachineObserver.hpp"
 #include "desk/windows/DeskWindow.hpp"
@@ -18,7 +17,6 @@
 #include "desk/windows/PointerRouter.hpp"
 #include "desk/windows/RunningApplication.hpp"
 #include "desk/windows/StatusBar.hpp"
-#include "desk/windows/SystemProgram.hpp"
 #include "desk/windows/Tooltips.hpp"
 #include "desk/windows/ViewUpdates.hpp"
 #include "desk/windows/WindowFocus.hpp"
@@ -32,7 +30,7 @@ class WindowServer : public MachineObserver {
  public:
   using Window = std::shared_ptr<DeskWindow>;
 
-  explicit WindowServer(Machine& machine);
+  explicit WindowServer(Machine& machine) : machine_(machine) {}
   ~WindowServer() override;
 
   /// The current machine's; created if there is none yet.
@@ -43,10 +41,9 @@ class WindowServer : public MachineObserver {
   [[nodiscard]] Machine& machine() { return machine_; }
   [[nodiscard]] const Machine& machine() const { return machine_; }
   [[nodiscard]] DrawingResources& resources() { return resources_; }
-  [[nodiscard]] ui::TextMeasurer& text() { return text_; }
 
-  /// The program lives as long as the server.
-  void install(std::unique_ptr<SystemProgram> program) { programs_.push_back(std::move(program)); }
+  /// Installs a program of the system, which lives as long as the server.
+  void install(std::shared_ptr<void> program) { programs_.push_back(std::move(program)); }
 
   /// The windows that are visible, miniaturised or hidden by deactivation, back to front.
   [[nodiscard]] WindowList::Windows windows() const { return list_.backToFront(); }
@@ -94,7 +91,6 @@ class WindowServer : public MachineObserver {
  private:
   Machine& machine_;
   DrawingResources resources_;
-  PangoTextMeasurer text_;
   WindowList list_;
 
  public:
@@ -110,7 +106,7 @@ class WindowServer : public MachineObserver {
   std::vector<std::string> announcements;
 
  private:
-  std::vector<std::unique_ptr<SystemProgram>> programs_;
+  std::vector<std::shared_ptr<void>> programs_;
 };
 
 }  // namespace orvane::desk

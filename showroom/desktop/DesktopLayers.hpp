@@ -2,28 +2,22 @@
 #pragma once
 
 #include <cstddef>
-#include <map>
-#include <tuple>
 
 #include "Orvane/ui/layout/Rect.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 #include "desk/canvas/DrawingResources.hpp"
 #include "showroom/desktop/DesktopScene.hpp"
-#include "showroom/desktop/GlassCache.hpp"
+#include "showroom/desktop/Glass.hpp"
 
 namespace orvane::showroom {
-
-/// By the wallpaper, whether it is dark, and its width and height in pixels.
-using WallpaperCache =
-    std::map<std::tuple<desk::Appearance::Wallpaper, bool, int, int>, desk::SurfacePointer>;
 
 /// The display that is being painted. The canvas is in global coordinates, clipped to the screen.
 struct DisplayCanvas {
   desk::CairoCanvas& canvas;
   desk::DrawingResources& resources;
   GlassCache& glass;
-  WallpaperCache& wallpapers;
+  desk::Cache<desk::SurfacePointer>& wallpapers;
   /// The display's index in the machine's list, and its frame in global coordinates.
   std::size_t displayIndex;
   ui::Rect frame;

@@ -26,7 +26,8 @@ class DesktopPainter {
 
   desk::DrawingResources& resources_;
   GlassCache glass_;
-  WallpaperCache wallpapers_;
+  /// Resizing the window adds sizes until all are dropped.
+  desk::Cache<desk::SurfacePointer> wallpapers_{std::size_t{64} << 20U};
 };
 
 }  // namespace orvane::showroom

@@ -15,17 +15,6 @@ namespace {
 
 constexpr double maximumSideInPixels = 16384;
 
-/// The frame of a window or of the open menu in global coordinates; none if it is not open.
-std::optional<CGRect> frameOf(desk::WindowServer& server, const std::string& surface) {
-  if (surface == desk::Surfaces::menu) {
-    server.menus.layOut();
-    return server.menus.isOpen() ? std::optional(server.menus.frame()) : std::nullopt;
-  }
-  const auto window = desk::Surfaces(server).window(surface);
-  return window != nullptr ? std::optional(server.machine().displays.flipped(window->frame))
-                           : std::nullopt;
-}
-
 /// The part of the whole desktop's picture that a frame in global coordinates covers.
 desk::SurfacePointer cropped(cairo_surface_t* whole, const desk::Displays& displays,
                              const CGRect& frame, double scale) {
@@ -63,7 +52,7 @@ std::optional<std::string> writePicture(const desk::Machine& machine,
   std::optional<CGRect> frame;
   if (surface) {
     desk::WindowServer* const server = desk::WindowServer::of(machine);
-    frame = server != nullptr ? frameOf(*server, *surface) : std::nullopt;
+    frame = server != nullptr ? desk::Surfaces(*server).frame(*surface) : std::nullopt;
     if (!frame) {
       return "there is no surface " + desk::inQuotes(*surface);
     }

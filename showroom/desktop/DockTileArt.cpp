@@ -42,23 +42,15 @@ const std::array<Tile, 10> tiles{{
 
 constexpr double unit = 100;
 
-/// A context in which the square has 100 units on each side.
-class UnitSquare {
- public:
-  UnitSquare(desk::CairoCanvas& canvas, const ui::Rect& square) : context_(canvas.context()) {
-    cairo_save(context_);
-    cairo_translate(context_, square.x, square.y);
-    cairo_scale(context_, square.width / unit, square.height / unit);
-    cairo_new_path(context_);
-  }
-  UnitSquare(const UnitSquare&) = delete;
-  UnitSquare& operator=(const UnitSquare&) = delete;
-  ~UnitSquare() { cairo_restore(context_); }
-  [[nodiscard]] cairo_t* context() const { return context_; }
-
- private:
-  cairo_t* context_;
-};
+/// Paints in a context in which the square has 100 units on each side.
+template <typename Paint>
+void paintInUnits(desk::CairoCanvas& canvas, const ui::Rect& square, const Paint& paint) {
+  canvas.save();
+  canvas.transform({square.width / unit, square.height / unit, square.x, square.y});
+  cairo_new_path(canvas.context());
+  paint(canvas.context());
+  canvas.restore();
+}
 
 void setColor(cairo_t* context, const ui::Rgba& color) {
   cairo_set_source_rgba(context, color.red, color.green, color.blue, color.alpha);
@@ -178,9 +170,7 @@ void paintBin(cairo_t* context) {
 }
 
 void paintCalendar(desk::CairoCanvas& canvas, const ui::Rect& square, int dayOfMonth) {
-  {
-    const UnitSquare units(canvas, square);
-    cairo_t* const context = units.context();
+  paintInUnits(canvas, square, [](cairo_t* context) {
     addRoundedRectangle(context, 0, 0, unit, unit, 23.5);
     cairo_clip(context);
     setColor(context, tone(255, 122, 74));
@@ -191,7 +181,7 @@ void paintCalendar(desk::CairoCanvas& canvas, const ui::Rect& square, int dayOfM
       cairo_arc(context, x, 13.5, 4, 0, 2 * std::numbers::pi);
       cairo_fill(context);
     }
-  }
+  });
   // Digits of the font are about 0.62 em wide and 0.73 em high.
   const std::string text = std::to_string(dayOfMonth);
   const ui::Font font = ui::Font::system(square.height * 0.5, ui::Weight::medium);
@@ -219,30 +209,22 @@ void paintDockTile(desk::CairoCanvas& canvas, std::size_t index, const ui::Rect&
   if (tile.sign != Sign::bin) {
     paintPlate(canvas, square, tile);
   }
-  if (tile.sign == Sign::symbol) {
-    canvas.symbol(tile.symbol, ui::Font::system(square.width * 0.5, ui::Weight::medium), white,
-                  square);
-    return;
-  }
-  if (tile.sign == Sign::calendar) {
-    paintCalendar(canvas, square, dayOfMonth);
-    return;
-  }
-  const UnitSquare units(canvas, square);
   switch (tile.sign) {
-    case Sign::folder:
-      return paintFolder(units.context());
-    case Sign::landscape:
-      return paintLandscape(units.context());
-    case Sign::bars:
-      return paintBars(units.context());
-    case Sign::prompt:
-      return paintPrompt(units.context());
-    case Sign::bin:
-      return paintBin(units.context());
     case Sign::symbol:
+      return canvas.symbol(tile.symbol, ui::Font::system(square.width * 0.5, ui::Weight::medium),
+                           white, square);
     case Sign::calendar:
-      return;
+      return paintCalendar(canvas, square, dayOfMonth);
+    case Sign::folder:
+      return paintInUnits(canvas, square, paintFolder);
+    case Sign::landscape:
+      return paintInUnits(canvas, square, paintLandscape);
+    case Sign::bars:
+      return paintInUnits(canvas, square, paintBars);
+    case Sign::prompt:
+      return paintInUnits(canvas, square, paintPrompt);
+    case Sign::bin:
+      return paintInUnits(canvas, square, paintBin);
   }
 }
 

@@ -18,11 +18,15 @@ void paintGlass(desk::CairoCanvas& canvas, const ui::Shape& shape, double sigma,
     desk::SurfacePointer copy =
         desk::partOf(cairo_get_target(context), pixels.left, pixels.top, pixels.right - pixels.left,
                      pixels.bottom - pixels.top, CAIRO_FORMAT_RGB24);
-    cairo_surface_t* const blurred = cache.blurred(std::move(copy), sigmaInPixels);
+    const desk::SurfacePointer& blurred =
+        cache.get(desk::cacheKey(sigmaInPixels, desk::contentOf(copy.get())), [&] {
+          desk::blurSurface(copy.get(), sigmaInPixels, desk::BlurEdge::extended);
+          return std::move(copy);
+        });
     canvas.save();
     canvas.clip(shape);
     cairo_identity_matrix(context);
-    cairo_set_source_surface(context, blurred, pixels.left, pixels.top);
+    cairo_set_source_surface(context, blurred.get(), pixels.left, pixels.top);
     cairo_paint(context);
     canvas.restore();
   }

@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "Orvane/ui/draw/Color.hpp"
-#include "showroom/desktop/Glass.hpp"
 
 namespace orvane::showroom {
 

@@ -4,7 +4,7 @@
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/windows/DeskWindow.hpp"
 #include "desk/windows/WindowServer.hpp"
-#include "showroom/desktop/GlassCache.hpp"
+#include "showroom/desktop/Glass.hpp"
 
 namespace orvane::showroom {
 

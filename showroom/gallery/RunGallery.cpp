@@ -6,7 +6,6 @@
 #include <iostream>
 #include <system_error>
 
-#include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/PinnedFonts.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "desk/machine/MachineScope.hpp"
@@ -40,7 +39,6 @@ int runGallery(const std::string& directory) {
   const desk::MachineScope scope;
   scope.machine().process.start();
   desk::DrawingResources resources;
-  desk::addApplicationImages(resources.images);
   for (const GallerySheet& sheet : gallerySheets()) {
     for (const auto& [isDark, increasesContrast, fileSuffix] : appearances) {
       const std::string name = sheet.name + fileSuffix + ".png";

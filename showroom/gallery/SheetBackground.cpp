@@ -72,8 +72,7 @@ ui::Shape backgroundShape(Background background, const ui::Rect& rect) {
 }
 
 void paintBackground(desk::CairoCanvas& canvas, Background background, const ui::Rect& rect,
-                     const ui::Appearance& appearance, ui::TextMeasurer& text,
-                     desk::DrawingResources& resources) {
+                     const ui::Appearance& appearance, desk::DrawingResources& resources) {
   const ui::Shape shape = backgroundShape(background, rect);
   canvas.shadow(shape, backgroundShadow);
   if (background == Background::dialogue) {
@@ -94,7 +93,7 @@ void paintBackground(desk::CairoCanvas& canvas, Background background, const ui:
   const WindowSurface surface{background, rect.size()};
   const Specimen specimen(
       {.caption = "", .make = [surface](OrvaneLanguage) { return ui::View(surface); }},
-      OrvaneLanguage::english, appearance, text, resources);
+      OrvaneLanguage::english, appearance, resources);
   specimen.paint(canvas, {rect.x - Specimen::margin, rect.y - Specimen::margin});
 }
 

@@ -3,7 +3,6 @@
 
 #include "Orvane/ui/draw/Appearance.hpp"
 #include "Orvane/ui/draw/Shape.hpp"
-#include "Orvane/ui/draw/TextMeasurer.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 
@@ -18,7 +17,7 @@ namespace orvane::showroom {
 /// Paints the background of the window or menu that has the components, over the wallpaper; for a
 /// whole window only its glass.
 void paintBackground(desk::CairoCanvas& canvas, GallerySheet::Background background,
-                     const ui::Rect& rect, const ui::Appearance& appearance, ui::TextMeasurer& text,
+                     const ui::Rect& rect, const ui::Appearance& appearance,
                      desk::DrawingResources& resources);
 
 }  // namespace orvane::showroom

@@ -9,7 +9,6 @@
 
 #include "Orvane/ui/draw/Color.hpp"
 #include "desk/canvas/ImageSurface.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/desktop/Glass.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
 #include "showroom/desktop/WindowArt.hpp"
@@ -97,7 +96,7 @@ class SheetPainting {
     Cells cells;
     for (const GalleryItem& item : sheet_.items) {
       cells.specimens.push_back(
-          std::make_unique<Specimen>(item, language, appearance_, text_, resources_));
+          std::make_unique<Specimen>(item, language, appearance_, resources_));
       const ui::Size size = cells.specimens.back()->size();
       const double captionWidth =
           resources_.shaper.measure(item.caption, captionFont).width + 2 * Specimen::margin;
@@ -159,7 +158,7 @@ class SheetPainting {
     paintWallpaper(canvas.context(), wallpaper, style_.isDark, band.width, band.height);
     const ui::Rect background = ui::Rect{0, 0, band.width, band.height}.inset(wallpaperBorder);
     if (!isWholeWindow(sheet_.background)) {
-      paintBackground(canvas, sheet_.background, background, appearance_, text_, resources_);
+      paintBackground(canvas, sheet_.background, background, appearance_, resources_);
     }
     paintRows(canvas, background);
     canvas.restore();
@@ -190,7 +189,7 @@ class SheetPainting {
     canvas.save();
     if (isWholeWindow(sheet_.background)) {
       const ui::Rect window = ui::Rect::from(place, size).inset(Specimen::margin);
-      paintBackground(canvas, sheet_.background, window, appearance_, text_, resources_);
+      paintBackground(canvas, sheet_.background, window, appearance_, resources_);
       canvas.clip(backgroundShape(sheet_.background, window));
     }
     specimen.paint(canvas, place);
@@ -213,7 +212,6 @@ class SheetPainting {
   ui::Appearance appearance_;
   std::vector<desk::Appearance::Wallpaper> wallpapers_ = style_.wallpapers;
   desk::DrawingResources& resources_;
-  desk::PangoTextMeasurer text_;
   std::vector<Cells> languages_;
   ui::Size cell_;
   std::size_t columns_ = 1;

@@ -10,16 +10,11 @@ namespace {
 /// In seconds; longer than any animation.
 constexpr double settlingTime = 10;
 
-ui::HostPlatform platform(ui::TextMeasurer& text, desk::DrawingResources& resources) {
-  return {.text = &text, .images = resources.imageSource()};
-}
-
 }  // namespace
 
 Specimen::Specimen(const GalleryItem& item, OrvaneLanguage language,
-                   const ui::Appearance& appearance, ui::TextMeasurer& text,
-                   desk::DrawingResources& resources)
-    : host_(std::make_unique<ui::ViewHost>(platform(text, resources))) {
+                   const ui::Appearance& appearance, desk::DrawingResources& resources)
+    : host_(std::make_unique<ui::ViewHost>(resources.hostPlatform())) {
   host_->setAppearance(appearance);
   const std::function<ui::View()> make =
       item.stage ? item.stage() : [make = item.make, language] { return make(language); };

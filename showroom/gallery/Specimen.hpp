@@ -15,11 +15,11 @@ class Specimen {
   /// The margin for shadows and focus rings, in points.
   static constexpr double margin = 14;
 
-  /// Measurer and resources must outlive the specimen. Texts that follow the stored setting have
+  /// The resources must outlive the specimen. Texts that follow the stored setting have
   /// the language that is stored on the current machine. A whole panel's model lives on that
   /// machine as long as the specimen.
   Specimen(const GalleryItem& item, OrvaneLanguage language, const ui::Appearance& appearance,
-           ui::TextMeasurer& text, desk::DrawingResources& resources);
+           desk::DrawingResources& resources);
 
   /// Changes the appearance and ends the animations.
   void appear(const ui::Appearance& appearance);

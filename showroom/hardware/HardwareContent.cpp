@@ -1,6 +1,10 @@
 // Reads the panel's values from the machine and the application.
 #include "showroom/hardware/HardwareContent.hpp"
 
+#include <algorithm>
+
+#include "showroom/desktop/StandardDisplays.hpp"
+
 namespace orvane::showroom {
 
 namespace {
@@ -42,22 +46,39 @@ std::string statusText(const desk::ApplicationHost& application) {
   return {};
 }
 
+std::optional<std::size_t> languagesOf(const desk::Machine& machine) {
+  const auto& all = hardwareLanguages();
+  const auto found = std::ranges::find(all, machine.locale, &HardwareLanguages::locale);
+  return found == all.end() ? std::nullopt
+                            : std::optional(static_cast<std::size_t>(found - all.begin()));
+}
+
 }  // namespace
 
+const std::vector<HardwareLanguages>& hardwareLanguages() {
+  static const std::vector<HardwareLanguages> all{
+      {"English", {{"en-US"}, "en_US"}},
+      {"中文", {{"zh-Hans-CN"}, "zh_CN"}},
+      {"fr, zh", {{"fr-FR", "zh-Hans-CN"}, "fr_FR"}},
+      {"Deutsch", {{"de-DE"}, "de_DE"}},
+  };
+  return all;
+}
+
 HardwareContent HardwareContent::of(const Hardware& hardware, std::int64_t eventsPerSecond) {
-  const desk::Machine& machine = hardware.machine();
-  const desk::ApplicationHost& application = hardware.application();
+  const desk::Machine& machine = hardware.machine;
+  const desk::ApplicationHost& application = hardware.application;
   HardwareContent content;
   content.displays = displaysOf(machine);
-  content.canAttachDisplay = hardware.canAttachDisplay();
+  content.canAttachDisplay = nextStandardDisplay(machine).has_value();
   content.edge = machine.dock.edge();
   content.autoHides = machine.dock.autoHides();
   content.isTrusted = machine.permission.isTrusted();
   content.isDark = machine.appearance.isDark;
   content.wallpaper = machine.appearance.wallpaper;
-  content.languageList = hardware.languageList();
-  content.isRunning = hardware.isRunning();
-  content.showsZones = hardware.showsZones();
+  content.languages = languagesOf(machine);
+  content.isRunning = application.isRunning();
+  content.showsZones = hardware.showsZones;
   content.counters = {{"Dock on", dockText(machine)},
                       {"Dock came up", std::to_string(machine.dock.revealCount())},
                       {"Orvane", statusText(application)},

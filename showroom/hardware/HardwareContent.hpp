@@ -26,6 +26,13 @@ struct HardwareCounter {
   bool operator==(const HardwareCounter&) const = default;
 };
 
+/// A choice of preferred languages and locale.
+struct HardwareLanguages {
+  const char* title;
+  desk::LocaleSettings locale;
+};
+[[nodiscard]] const std::vector<HardwareLanguages>& hardwareLanguages();
+
 struct HardwareContent {
   std::vector<HardwareDisplay> displays;
   bool canAttachDisplay = false;
@@ -34,7 +41,8 @@ struct HardwareContent {
   bool isTrusted = false;
   bool isDark = false;
   desk::Appearance::Wallpaper wallpaper = desk::Appearance::Wallpaper::standard;
-  std::optional<std::size_t> languageList;
+  /// The index in hardwareLanguages(); none if the present setting is not among them.
+  std::optional<std::size_t> languages;
   bool isRunning = false;
   bool showsZones = false;
   std::vector<HardwareCounter> counters;

@@ -1,19 +1,21 @@
 // The panel is a column of groups of rows.
 #include "showroom/hardware/HardwarePanel.hpp"
 
-#include <utility>
+#include <algorithm>
+#include <array>
 
-#include "Orvane/ui/views/Button.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
-#include "showroom/hardware/HardwareButtonStyle.hpp"
-#include "showroom/hardware/HardwareChoice.hpp"
-#include "showroom/hardware/HardwareSwitch.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
+#include "showroom/hardware/HardwareControls.hpp"
 
 namespace orvane::showroom {
 
 using namespace ui;
+using desk::Dock;
+using desk::DockEdge;
+using desk::Machine;
 
 namespace {
 
@@ -57,11 +59,12 @@ struct Group {
   }
 };
 
-View smallButton(const std::string& title, const std::string& label, std::function<void()> action) {
-  return Button(std::move(action), Text(title).lineLimit(1))
-      .style(HardwareButtonStyle{})
-      .focusRing(Shape::rounded(5))
-      .accessibilityLabel(label);
+/// A handler that changes the machine; it passes on the value that it receives.
+template <typename Change>
+auto changing(Hardware* hardware, const Change& change) {
+  return [hardware, change](const auto&... value) {
+    hardware->change([&](Machine& machine) { change(machine, value...); });
+  };
 }
 
 View counterView(const HardwareCounter& counter) {
@@ -75,7 +78,6 @@ View counterView(const HardwareCounter& counter) {
 }  // namespace
 
 View HardwarePanel::displayRow(const HardwareDisplay& display) const {
-  Hardware* const target = hardware;
   const std::uint32_t number = display.number;
   const View names = VStack(1, HorizontalAlignment::leading,
                             {Text(display.name).lineLimit(1),
@@ -83,12 +85,19 @@ View HardwarePanel::displayRow(const HardwareDisplay& display) const {
                                  .font(smallFont)
                                  .foreground(secondaryColor())
                                  .lineLimit(1)});
-  return HStack(6, {names, Spacer(),
-                    display.isMain ? View()
-                                   : smallButton("Make Main", "Make " + display.name + " main",
-                                                 [target, number] { target->makeMain(number); }),
-                    smallButton("Detach", "Detach " + display.name,
-                                [target, number] { target->detachDisplay(number); })})
+  return HStack(6,
+                {names, Spacer(),
+                 display.isMain ? View()
+                                : hardwareButton("Make Main", "Make " + display.name + " main",
+                                                 changing(hardware,
+                                                          [number](Machine& machine) {
+                                                            (void)machine.displays.setMain(number);
+                                                          })),
+                 hardwareButton("Detach", "Detach " + display.name,
+                                changing(hardware,
+                                         [number](Machine& machine) {
+                                           (void)machine.displays.detach(number);
+                                         }))})
       .height(38)
       .id("display " + std::to_string(number));
 }
@@ -102,8 +111,8 @@ View HardwarePanel::displays() const {
                                 .foreground(secondaryColor())
                                 .lineLimit(1),
                             Spacer(),
-                            smallButton("Attach a Display", "Attach a display",
-                                        [target = hardware] { target->attachDisplay(); })
+                            hardwareButton("Attach a Display", "Attach a display",
+                                           changing(hardware, attachNextStandardDisplay))
                                 .disabled(!content.canAttachDisplay)})
                      .height(32)
                      .id("attach"));
@@ -111,59 +120,66 @@ View HardwarePanel::displays() const {
 }
 
 View HardwarePanel::dock() const {
-  Hardware* const target = hardware;
+  constexpr std::array edges{DockEdge::left, DockEdge::bottom, DockEdge::right};
+  const auto setEdge = [edges](Machine& machine, std::size_t index) {
+    Dock::store(machine.preferences, Dock::orientationKey, std::string(nameOf(edges.at(index))));
+  };
+  const auto setAutoHides = [](Machine& machine, bool hides) {
+    Dock::store(machine.preferences, Dock::autoHideKey, hides);
+  };
+  const auto place = std::ranges::find(edges, content.edge) - edges.begin();
   return Group{"Dock",
-               {HardwareChoice{"Edge",
-                               {"Left", "Bottom", "Right"},
-                               content.edge == desk::DockEdge::left     ? 0U
-                               : content.edge == desk::DockEdge::bottom ? 1U
-                                                                        : 2U,
-                               [target](std::size_t index) {
-                                 target->setEdge(index == 0   ? desk::DockEdge::left
-                                                 : index == 1 ? desk::DockEdge::bottom
-                                                              : desk::DockEdge::right);
-                               }},
-                HardwareSwitch{"Hide the Dock automatically", content.autoHides,
-                               [target](bool isOn) { target->setAutoHides(isOn); }}}};
+               {hardwareChoice("Edge", {"Left", "Bottom", "Right"}, static_cast<std::size_t>(place),
+                               changing(hardware, setEdge)),
+                hardwareSwitch("Hide the Dock automatically", content.autoHides,
+                               changing(hardware, setAutoHides))}};
 }
 
 View HardwarePanel::mac() const {
-  Hardware* const target = hardware;
   std::vector<std::string> languages;
-  for (const LanguageList& list : Hardware::languageLists()) {
-    languages.emplace_back(list.title);
+  for (const HardwareLanguages& choice : hardwareLanguages()) {
+    languages.emplace_back(choice.title);
   }
+  const auto setTrusted = [](Machine& machine, bool isOn) { machine.permission.setTrusted(isOn); };
+  const auto setDark = [](Machine& machine, std::size_t index) {
+    machine.appearance.isDark = index == 1;
+  };
+  const auto setWallpaper = [](Machine& machine, std::size_t index) {
+    machine.appearance.wallpaper = static_cast<desk::Appearance::Wallpaper>(index);
+  };
+  const auto setLanguages = [](Machine& machine, std::size_t index) {
+    machine.locale = hardwareLanguages()[index].locale;
+  };
   return Group{
       "Mac",
-      {HardwareSwitch{"Accessibility permission", content.isTrusted,
-                      [target](bool isOn) { target->setTrusted(isOn); }},
-       HardwareChoice{"Appearance",
-                      {"Light", "Dark"},
-                      content.isDark ? 1U : 0U,
-                      [target](std::size_t index) { target->setDark(index == 1); }},
-       HardwareChoice{"Wallpaper",
-                      {"Default", "White", "Black", "Busy"},
+      {hardwareSwitch("Accessibility permission", content.isTrusted,
+                      changing(hardware, setTrusted)),
+       hardwareChoice("Appearance", {"Light", "Dark"}, content.isDark ? 1U : 0U,
+                      changing(hardware, setDark)),
+       hardwareChoice("Wallpaper", {"Default", "White", "Black", "Busy"},
                       static_cast<std::size_t>(content.wallpaper),
-                      [target](std::size_t index) {
-                        target->setWallpaper(static_cast<desk::Appearance::Wallpaper>(index));
-                      }},
-       HardwareChoice{"Language", languages, content.languageList,
-                      [target](std::size_t index) { target->setLanguageList(index); }}}};
+                      changing(hardware, setWallpaper)),
+       hardwareChoice("Language", languages, content.languages, changing(hardware, setLanguages))}};
 }
 
 View HardwarePanel::application() const {
-  Hardware* const target = hardware;
+  const auto button = [&](const char* title, const std::string& label,
+                          void (desk::ApplicationHost::*act)()) {
+    return hardwareButton(title, label, changing(hardware, [target = hardware, act](Machine&) {
+                            (target->application.*act)();
+                          }));
+  };
+  using desk::ApplicationHost;
   const View buttons =
       content.isRunning
-          ? View(HStack(
-                6, {smallButton("Quit", "Quit Orvane", [target] { target->terminate(); }),
-                    smallButton("Open Again", "Open Orvane again", [target] { target->reopen(); }),
-                    smallButton("Crash", "Crash Orvane", [target] { target->crash(); })}))
-          : smallButton("Launch", "Launch Orvane", [target] { target->launch(); });
+          ? View(HStack(6, {button("Quit", "Quit Orvane", &ApplicationHost::terminate),
+                            button("Open Again", "Open Orvane again", &ApplicationHost::reopen),
+                            button("Crash", "Crash Orvane", &ApplicationHost::crash)}))
+          : button("Launch", "Launch Orvane", &ApplicationHost::launch);
   return Group{"Orvane",
                {HStack(6, {Text("Process"), Spacer(), buttons}).height(32),
-                HardwareSwitch{"Show trigger zones", content.showsZones,
-                               [target](bool isOn) { target->setShowsZones(isOn); }}}};
+                hardwareSwitch("Show trigger zones", content.showsZones,
+                               [target = hardware](bool isOn) { target->showsZones = isOn; })}};
 }
 
 View HardwarePanel::counters() const {

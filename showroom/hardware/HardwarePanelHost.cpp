@@ -14,24 +14,20 @@ HardwarePanelHost::HardwarePanelHost(Hardware& hardware) : hardware_(hardware), 
   });
 }
 
-void HardwarePanelHost::setSize(ui::Size size) {
-  size_ = size;
-}
-
 ui::HostPlatform HardwarePanelHost::platform() {
   ui::HostServices services;
   services.requestRedraw = [this] { ++changeCount_; };
-  return {&text_, resources_.imageSource(), {}, std::move(services)};
+  return resources_.hostPlatform(std::move(services));
 }
 
 void HardwarePanelHost::update() {
   ui::Appearance appearance;
-  appearance.dark = hardware_.machine().appearance.isDark;
+  appearance.dark = hardware_.machine.appearance.isDark;
   host_.setAppearance(appearance);
   const double wanted = host_.sizeThatFits({size_.width, std::nullopt}).height;
   host_.setSize({size_.width, std::max(size_.height, wanted)});
   scrolled_ = std::clamp(scrolled_, 0.0, host_.size().height - size_.height);
-  host_.tick(hardware_.machine().clock.mediaTime());
+  host_.tick(hardware_.machine.clock.mediaTime());
 }
 
 void HardwarePanelHost::show(const HardwareContent& content) {
@@ -53,10 +49,6 @@ void HardwarePanelHost::paint(desk::CairoCanvas& canvas, ui::Point corner) {
 void HardwarePanelHost::pointerMoved(ui::Point point) {
   update();
   host_.pointerMoved(inContent(point));
-}
-
-void HardwarePanelHost::pointerExited() {
-  host_.pointerExited();
 }
 
 void HardwarePanelHost::pointerDown(ui::Point point) {

@@ -7,7 +7,6 @@
 #include "Orvane/ui/host/ViewHost.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/DrawingResources.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
 #include "showroom/hardware/HardwarePanel.hpp"
 
 namespace orvane::showroom {
@@ -21,7 +20,7 @@ class HardwarePanelHost {
   HardwarePanelHost& operator=(const HardwarePanelHost&) = delete;
 
   /// Sets the size of the visible part, in points.
-  void setSize(ui::Size size);
+  void setSize(ui::Size size) { size_ = size; }
   /// Shows this content at the machine's present time.
   void show(const HardwareContent& content);
   [[nodiscard]] const HardwareContent& content() const { return content_; }
@@ -32,7 +31,7 @@ class HardwarePanelHost {
   void paint(desk::CairoCanvas& canvas, ui::Point corner);
 
   void pointerMoved(ui::Point point);
-  void pointerExited();
+  void pointerExited() { host_.pointerExited(); }
   void pointerDown(ui::Point point);
   void pointerUp(ui::Point point);
   /// Scrolls by a distance in points, towards the end if positive, within the content.
@@ -57,7 +56,6 @@ class HardwarePanelHost {
   Hardware& hardware_;
   HardwareContent content_;
   desk::DrawingResources resources_;
-  desk::PangoTextMeasurer text_;
   std::int64_t changeCount_ = 0;
   ui::Size size_;
   double scrolled_ = 0;

@@ -6,26 +6,25 @@
 
 #include "Orvane/ui/views/Button.hpp"
 #include "Orvane/ui/views/Image.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Stack.hpp"
 #include "Orvane/ui/views/Text.hpp"
 #include "desk/machine/Machine.hpp"
-#include "desk/settings/SettingsBadge.hpp"
-#include "desk/settings/SettingsButtonStyle.hpp"
-#include "desk/settings/SettingsGroup.hpp"
-#include "desk/settings/SettingsSwitch.hpp"
-#include "desk/settings/TitledPage.hpp"
-#include "showroom/settings/SettingsSidebar.hpp"
+#include "desk/settings/SettingsControls.hpp"
+#include "desk/windows/DeskWindow.hpp"
 
 namespace orvane::showroom {
 
 using namespace ui;
+using desk::DeskWindow;
 using desk::Display;
 using desk::Dock;
 using desk::DockEdge;
-using desk::SettingsBadge;
+using desk::settingsBadge;
 using desk::SettingsButtonStyle;
-using desk::SettingsGroup;
-using desk::SettingsSwitch;
+using desk::settingsGroup;
+using desk::SettingsPage;
+using desk::settingsSwitch;
 using desk::SystemLanguage;
 using desk::SystemSettings;
 using desk::titledPage;
@@ -68,10 +67,10 @@ View makeGeneralPage(SystemSettings& settings) {
   };
   return titledPage(
       settings, text("General", "通用"),
-      SettingsGroup{{pageRow(text("Name", "名称"), text("Simulated Mac", "模拟的 Mac")),
+      settingsGroup({pageRow(text("Name", "名称"), text("Simulated Mac", "模拟的 Mac")),
                      pageRow(text("Language", "语言"), text("English", "简体中文")),
                      pageRow(text("Appearance", "外观"),
-                             isDark ? text("Dark", "深色") : text("Light", "浅色"))}});
+                             isDark ? text("Dark", "深色") : text("Light", "浅色"))}));
 }
 
 View makeDisplaysPage(SystemSettings& settings) {
@@ -86,7 +85,7 @@ View makeDisplaysPage(SystemSettings& settings) {
   if (rows.empty()) {
     rows.push_back(pageRow(language.text("No display is attached", "未连接显示器"), ""));
   }
-  return titledPage(settings, language.text("Displays", "显示器"), SettingsGroup{rows});
+  return titledPage(settings, language.text("Displays", "显示器"), settingsGroup(rows));
 }
 
 View makeDesktopAndDockPage(SystemSettings& settings) {
@@ -103,15 +102,15 @@ View makeDesktopAndDockPage(SystemSettings& settings) {
   const View content = VStack(
       0, HorizontalAlignment::leading,
       {caption(language.text("Position on screen", "在屏幕上的位置")),
-       SettingsGroup{{choice(DockEdge::left, "Left", "左侧"),
+       settingsGroup({choice(DockEdge::left, "Left", "左侧"),
                       choice(DockEdge::bottom, "Bottom", "底部"),
-                      choice(DockEdge::right, "Right", "右侧")}},
-       View(SettingsGroup{{pageRow(autoHide, SettingsSwitch{autoHide, hides,
+                      choice(DockEdge::right, "Right", "右侧")}),
+       View(settingsGroup({pageRow(autoHide, settingsSwitch(autoHide, hides,
                                                             [&settings, hides] {
                                                               Dock::store(
                                                                   settings.machine().preferences,
                                                                   Dock::autoHideKey, !hides);
-                                                            }})}})
+                                                            }))}))
            .padding({.top = 20})});
   return titledPage(settings, language.text("Desktop & Dock", "桌面与程序坞"), content);
 }
@@ -122,7 +121,7 @@ View makePrivacyPage(SystemSettings& settings) {
   const View chevron = Symbol("chevron.right")
                            .font(Font::system(11, Weight::semibold))
                            .foreground(Color::tertiary());
-  const View label = HStack(8, {SettingsBadge{"accessibility", Color::blue(), 22},
+  const View label = HStack(8, {settingsBadge("accessibility", Color::blue(), 22),
                                 Text(accessibility).lineLimit(1), Spacer(), chevron})
                          .padding(Edges::horizontal(10))
                          .height(40);
@@ -130,7 +129,49 @@ View makePrivacyPage(SystemSettings& settings) {
                        .style(SettingsButtonStyle{})
                        .accessibilityLabel(accessibility);
   return titledPage(settings, language.text("Privacy & Security", "隐私与安全性"),
-                    SettingsGroup{{row}});
+                    settingsGroup({row}));
+}
+
+View sidebarRow(SystemSettings& settings, const std::string& page, const std::string& title,
+                const std::string& symbol, const Color& color) {
+  // A page with a parent is shown as its parent.
+  const SettingsPage* const parent = settings.parentPage();
+  const bool isSelected = page == (parent != nullptr ? parent->name : settings.state().page);
+  constexpr double rowHeight = 28;
+  constexpr double radius = 5;
+  const View label =
+      HStack(7,
+             {settingsBadge(symbol, color),
+              Text(title).foreground(isSelected ? Color::white() : Color::primary()).lineLimit(1),
+              Spacer()})
+          .padding(Edges::horizontal(8))
+          .height(rowHeight)
+          .background(RoundedRectangle(radius).fill(isSelected ? Color::accent() : Color::clear()));
+  return Button([&settings, page] { settings.goTo(page); }, label)
+      .style(SettingsButtonStyle{})
+      .focusRing(Shape::rounded(radius))
+      .accessibilityLabel(title)
+      .accessibilityRole(Role::radioButton)
+      .accessibilitySelected(isSelected);
+}
+
+/// The rows stay clear of the window's buttons above them.
+View makeSidebar(SystemSettings& settings) {
+  const SystemLanguage language = settings.language();
+  const View gap = Rectangle().fill(Color::clear()).height(12);
+  return VStack(0, {sidebarRow(settings, generalPage, language.text("General", "通用"),
+                               "gearshape.fill", Color::gray()),
+                    gap,
+                    sidebarRow(settings, desktopAndDockPage,
+                               language.text("Desktop & Dock", "桌面与程序坞"), "dock.rectangle",
+                               Color::black()),
+                    sidebarRow(settings, displaysPage, language.text("Displays", "显示器"),
+                               "display", Color::blue()),
+                    gap,
+                    sidebarRow(settings, SystemSettings::privacyPage,
+                               language.text("Privacy & Security", "隐私与安全性"), "hand.raised",
+                               Color::blue())})
+      .padding(Edges{.top = DeskWindow::tallTitleBarHeight + 4, .leading = 10, .trailing = 10});
 }
 
 }  // namespace
@@ -150,7 +191,7 @@ void addSettingsPages(SystemSettings& settings) {
                     "",
                     {"x-apple.systempreferences:com.apple.preference.security"},
                     makePrivacyPage}},
-                  settingsSidebar);
+                  makeSidebar);
   settings.goTo(generalPage);
 }
 

@@ -189,18 +189,13 @@ void TourStage::writeCloseUp(const std::string& name, const std::string& surface
     return;
   }
   constexpr double margin = 28;
-  desk::WindowServer& server = desk::WindowServer::current();
-  const auto window = desk::Surfaces(server).window(surface);
-  CGRect frame = server.menus.frame();
-  if (surface != desk::Surfaces::menu) {
-    frame = window != nullptr ? machine().displays.flipped(window->frame) : CGRect{};
-  }
-  check(frame.size.width > 0, "there is a surface " + desk::inQuotes(surface));
+  const auto frame = desk::Surfaces(desk::WindowServer::current()).frame(surface);
+  check(frame.has_value(), "there is a surface " + desk::inQuotes(surface));
   if (hasFailed()) {
     return;
   }
-  const CGRect area = CGRectMake(frame.origin.x - margin, frame.origin.y - margin,
-                                 frame.size.width + 2 * margin, frame.size.height + 2 * margin);
+  const CGRect area = CGRectMake(frame->origin.x - margin, frame->origin.y - margin,
+                                 frame->size.width + 2 * margin, frame->size.height + 2 * margin);
   const desk::SurfacePointer picture =
       renderCloseUp(painter_, DesktopScene(machine(), application_), clippedToScreen(area));
   write(picture.get(), name);

@@ -18,7 +18,7 @@ constexpr double secondsToMorning = (10 * 60 + 8) * 60;
 }  // namespace
 
 DeskSession::DeskSession(std::size_t displayCount)
-    : application_(scope_.machine()), hardware_(scope_.machine(), application_) {
+    : application_(scope_.machine()), hardware_{scope_.machine(), application_} {
   addSettingsPages(application_.systemSettings());
   const std::size_t count = std::clamp<std::size_t>(displayCount, 1, standardDisplayCount);
   for (std::size_t position = 0; position < count; ++position) {
@@ -62,7 +62,7 @@ std::optional<MovedBack> DeskSession::movedBack() const {
 
 DesktopScene DeskSession::scene() const {
   DesktopScene scene(machine(), application_);
-  scene.showsZones = hardware_.showsZones();
+  scene.showsZones = hardware_.showsZones;
   scene.movedBack = movedBack();
   return scene;
 }

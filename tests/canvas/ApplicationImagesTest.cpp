@@ -6,15 +6,14 @@
 #include <map>
 #include <regex>
 #include <set>
-#include <span>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 #include <librsvg/rsvg.h>
 
-#include "desk/canvas/ApplicationImages.hpp"
-#include "desk/canvas/ImageArtwork.hpp"
+#include "desk/canvas/Artwork.hpp"
+#include "desk/canvas/ImageLibrary.hpp"
 #include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PngFile.hpp"
 #include "tests/support/BytesOf.hpp"
@@ -93,8 +92,7 @@ std::string drawingOfIcon(int pixels) {
 TEST(ApplicationImagesTest, EveryImageThatTheApplicationNamesIsThere) {
   const std::set<std::string> names = namedImages();
   EXPECT_EQ(names, (std::set<std::string>{"AppIcon", "DisplayLaptop", "DisplayMonitor"}));
-  ImageLibrary library;
-  addApplicationImages(library);
+  const ImageLibrary library;
   for (const std::string& name : names) {
     EXPECT_TRUE(library.size(name)) << name;
     EXPECT_TRUE(fs::exists(resources / "rendered" / (name + ".png"))) << name;
@@ -103,8 +101,7 @@ TEST(ApplicationImagesTest, EveryImageThatTheApplicationNamesIsThere) {
 }
 
 TEST(ApplicationImagesTest, EachImageHasItsSizeInPoints) {
-  ImageLibrary library;
-  addApplicationImages(library);
+  const ImageLibrary library;
   const std::map<std::string, ui::Size> sizes{{"AppIcon", {128, 128}},
                                               {"DisplayLaptop", {122, 70}},
                                               {"DisplayLaptop-dark", {122, 70}},
@@ -117,12 +114,12 @@ TEST(ApplicationImagesTest, EachImageHasItsSizeInPoints) {
 }
 
 TEST(ApplicationImagesTest, RenderedFilesAreWhatTheirDrawingsShowAtBothScales) {
-  for (const ImageArtwork& artwork : imageArtworks()) {
-    const std::string name = artwork.name;
+  for (const Artwork& artwork : imageArtworks()) {
+    const std::string name(artwork.name);
     const PixelSize once = name == "AppIcon" ? PixelSize{128, 128} : PixelSize{122, 70};
     const SurfacePointer single = readPng(resources / "rendered" / (name + ".png"));
     expectDrawn(single.get(), name, once);
-    expectDrawn(decodePng(artwork.png).get(), name, {2 * once.width, 2 * once.height});
+    expectDrawn(decodePng(artwork.bytes).get(), name, {2 * once.width, 2 * once.height});
   }
 }
 
@@ -141,8 +138,7 @@ TEST(ApplicationImagesTest, TheIconFileHasEverySizeOfAMac) {
   for (std::size_t at = 8; at < file.size(); at += number(at + 4)) {
     const std::string kind = file.substr(at, 4);
     const std::string png = file.substr(at + 8, number(at + 4) - 8);
-    const SurfacePointer picture =
-        decodePng(std::span(reinterpret_cast<const std::uint8_t*>(png.data()), png.size()));
+    const SurfacePointer picture = decodePng(png);
     ASSERT_TRUE(picture) << kind;
     const int pixels = sizeOf(picture.get()).width;
     found[kind] = pixels;

@@ -72,11 +72,7 @@ void paintWithCairo(cairo_t* context, const Task& task) {
     const Rgba& color = task.paint.stops.front().color;
     cairo_set_source_rgba(context, color.red, color.green, color.blue, color.alpha);
   } else {
-    cairo_matrix_t matrix;
-    cairo_get_matrix(context, &matrix);
-    setGradientRows(
-        context, task.paint,
-        ui::Transform{matrix.xx, matrix.yy, matrix.x0, matrix.y0}.apply(task.shape.rect));
+    cairo_set_source(context, gradientOf(task.paint).get());
   }
   cairo_new_path(context);
   appendShape(context, task.shape);

@@ -224,7 +224,7 @@ TEST_F(CairoCanvasTest, ALayersShadowIsBlurredOnceForEachPicture) {
     begin(40, 30).beginLayer({10, 8, 20, 10}, 1, ui::PaintShadow{red, 6, {0, 4}});
     canvas->fill(Shape::rectangle({10, 8, width, 10}), Paint::solid(white));
     canvas->endLayer();
-    return encodePng(surface.get());
+    return contentOf(surface.get());
   };
   const auto first = draw(12);
   const std::size_t masks = resources.masks.count();

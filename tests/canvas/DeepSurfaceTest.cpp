@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/DeepSurface.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/support/KeptPicture.hpp"
@@ -31,8 +30,6 @@ Paint veil(ui::Point start, ui::Point end) {
 
 class DeepSurfaceTest : public PixelFixture {
  protected:
-  DeepSurfaceTest() { addApplicationImages(resources.images); }
-
   static SurfacePointer ground(const Rgba& color) { return filledSurface(side, side, color); }
 
   DeepSurface painted(const Drawing& draw) {

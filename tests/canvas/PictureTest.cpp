@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/canvas/SymbolArtwork.hpp"
+#include "desk/canvas/Artwork.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/support/KeptPicture.hpp"
 
@@ -45,7 +45,7 @@ TEST_F(PictureTest, ACardWithShadowGradientSymbolAndBothScripts) {
 TEST_F(PictureTest, AllSymbols) {
   begin(320, 200, 2).fill(Shape::rectangle({0, 0, 320, 200}), Paint::solid({0.2, 0.2, 0.2, 1}));
   int index = 0;
-  for (const SymbolArtwork& artwork : symbolArtworks()) {
+  for (const Artwork& artwork : symbolArtworks()) {
     const int row = index / 8;
     const int column = index % 8;
     canvas->symbol(std::string(artwork.name), {20, ui::Weight::medium}, white,

@@ -23,7 +23,7 @@ namespace {
 /// The faces that pango chose for a line, in order, as "family weight".
 std::vector<std::string> facesOf(const std::string& line, const ui::Font& font) {
   const TextShaper shaper;
-  const ObjectPointer<PangoLayout> layout = shaper.layout(line, font);
+  const ObjectPointer<PangoLayout> layout = shaper.shape(line, font);
   std::vector<std::string> faces;
   const PangoLayoutLine* shaped = pango_layout_get_line_readonly(layout.get(), 0);
   for (const GSList* run = shaped->runs; run != nullptr; run = run->next) {

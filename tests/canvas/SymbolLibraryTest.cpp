@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/canvas/SymbolArtwork.hpp"
+#include "desk/canvas/Artwork.hpp"
 #include "desk/canvas/SymbolLibrary.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/support/BytesOf.hpp"
@@ -146,16 +146,16 @@ TEST(SymbolLibraryTest, EveryDrawingInTheFolderIsEmbedded) {
   }
   std::ranges::sort(files);
   std::vector<std::string> embedded;
-  for (const SymbolArtwork& artwork : symbolArtworks()) {
+  for (const Artwork& artwork : symbolArtworks()) {
     embedded.emplace_back(artwork.name);
-    EXPECT_EQ(artwork.svg, bytesOf(sourceFolder / "desk/symbols" / (embedded.back() + ".svg")));
+    EXPECT_EQ(artwork.bytes, bytesOf(sourceFolder / "desk/symbols" / (embedded.back() + ".svg")));
   }
   EXPECT_EQ(embedded, files);
 }
 
 TEST(SymbolLibraryTest, EveryDrawingFitsItsGridInEveryWeight) {
   SymbolLibrary library;
-  for (const SymbolArtwork& artwork : symbolArtworks()) {
+  for (const Artwork& artwork : symbolArtworks()) {
     for (const ui::Weight weight : weights) {
       const Mask mask = library.makeMask(std::string(artwork.name), {inspectionSize, weight}, {});
       ASSERT_TRUE(mask.surface) << artwork.name;
@@ -184,7 +184,7 @@ TEST(SymbolLibraryTest, AHeavierWeightHasMoreInk) {
 
 TEST(SymbolLibraryTest, EverySymbolIsCenteredOnTheMiddleOfACapital) {
   SymbolLibrary library;
-  for (const SymbolArtwork& artwork : symbolArtworks()) {
+  for (const Artwork& artwork : symbolArtworks()) {
     const Ink ink = inkOf(
         library.makeMask(std::string(artwork.name), {inspectionSize, ui::Weight::regular}, {}));
     const double middle = (ink.top + ink.bottom) / 2.0 / pixelsPerUnit;

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/Glass.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
 namespace orvane::showroom {
@@ -40,6 +41,25 @@ TEST_F(GlassTest, ShowsItsBackgroundUnlessTransparencyIsReduced) {
       }
     }
   }
+}
+
+TEST(GlassCacheTest, EqualBackgroundsAreBlurredOnce) {
+  desk::DrawingResources resources;
+  GlassCache cache;
+  const auto paint = [&](int width, int place, double sigma) {
+    const desk::SurfacePointer surface = desk::filledSurface(width, 20, {0, 0, 0, 1});
+    desk::CairoCanvas canvas(surface.get(), 1, resources);
+    canvas.fill(ui::Shape::rectangle({1.0 * place, 4, 6, 6}), ui::Paint::solid({1, 1, 1, 1}));
+    paintGlass(canvas, ui::Shape::rectangle({0, 0, 1.0 * width, 20}), sigma, {0, 0, 0, 0.1}, cache);
+    return desk::contentOf(surface.get());
+  };
+  const std::string first = paint(20, 3, 2);
+  EXPECT_EQ(paint(20, 3, 2), first);
+  EXPECT_EQ(cache.count(), 1U);
+  EXPECT_NE(paint(20, 4, 2), first);
+  EXPECT_NE(paint(20, 3, 3), first);
+  paint(21, 3, 2);
+  EXPECT_EQ(cache.count(), 4U);
 }
 
 TEST_F(GlassTest, WithIncreasedContrastTheLabelsAreStronger) {

@@ -12,9 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/draw/Color.hpp"
-#include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/ImageSurface.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
 #include "desk/hand/FindControl.hpp"
 #include "showroom/desktop/WallpaperArt.hpp"
 #include "showroom/gallery/SheetBackground.hpp"
@@ -150,8 +148,6 @@ bool areAdjacentLines(const TextRun& first, const TextRun& second) {
 class GalleryRulesTest : public desk::MachineFixture,
                          public testing::WithParamInterface<std::string> {
  protected:
-  GalleryRulesTest() { desk::addApplicationImages(resources.images); }
-
   void expectRulesToHold(const Specimen& specimen, Interaction interaction) {
     const ui::ViewHost& host = specimen.host();
     TextCollector collector(resources.shaper, 2);
@@ -169,7 +165,6 @@ class GalleryRulesTest : public desk::MachineFixture,
   }
 
   GallerySheet sheet = gallerySheetNamed(GetParam());
-  desk::PangoTextMeasurer text;
   desk::DrawingResources resources;
   std::size_t textCount = 0;
 
@@ -359,8 +354,7 @@ class GalleryRulesTest : public desk::MachineFixture,
       // Larger than the specimen, so that its edges are outside.
       const double inset = isWholeWindow(sheet.background) ? Specimen::margin : -Specimen::margin;
       paintBackground(canvas, sheet.background,
-                      ui::Rect{0, 0, size.width, size.height}.inset(inset), appearance, text,
-                      resources);
+                      ui::Rect{0, 0, size.width, size.height}.inset(inset), appearance, resources);
       cairo_surface_flush(kept.get());
     }
     return kept.get();
@@ -382,7 +376,7 @@ TEST_P(GalleryRulesTest, HoldForEveryTextAndControl) {
       const bool hasAccents =
           !isWholeWindow(sheet.background) && item.interaction != Interaction::pressed;
       const std::size_t accentCount = hasAccents ? accents.size() : 1;
-      Specimen specimen(item, language, {}, text, resources);
+      Specimen specimen(item, language, {}, resources);
       for (std::size_t index = 0; index < 4 * accentCount && !HasFailure(); ++index) {
         const bool isDark = index % 2 == 1;
         const bool increasesContrast = index / 2 % 2 == 1;

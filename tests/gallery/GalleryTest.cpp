@@ -5,10 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/canvas/ApplicationImages.hpp"
 #include "desk/canvas/ImageSurface.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
-#include "desk/canvas/PngFile.hpp"
 #include "showroom/gallery/GallerySheet.hpp"
 #include "showroom/gallery/SheetPainter.hpp"
 #include "showroom/gallery/Specimen.hpp"
@@ -19,19 +16,24 @@ namespace {
 
 class GalleryTest : public desk::MachineFixture {
  protected:
-  GalleryTest() { desk::addApplicationImages(resources.images); }
-
-  std::vector<std::uint8_t> pictureOf(const GalleryItem& item,
-                                      OrvaneLanguage language = OrvaneLanguage::english) {
+  std::string pictureOf(const GalleryItem& item, OrvaneLanguage language, bool isDark = false) {
     machine.userDefaults.set(OrvaneLanguage::defaultsKey, std::string(language.rawValue()));
-    const Specimen specimen(item, language, {}, text, resources);
+    ui::Appearance appearance;
+    appearance.dark = isDark;
+    const Specimen specimen(item, language, appearance, resources);
     const desk::SurfacePointer surface = desk::imageSurface(specimen.size());
     desk::CairoCanvas canvas(surface.get(), 1, resources);
     specimen.paint(canvas, {0, 0});
-    return desk::encodePng(surface.get());
+    return desk::contentOf(surface.get());
+  }
+  std::string pictureOf(const GalleryItem& item) {
+    return pictureOf(item, OrvaneLanguage::english);
   }
 
-  desk::PangoTextMeasurer text;
+  static const GalleryItem& item(const GallerySheet& sheet, const std::string& caption) {
+    return *std::ranges::find(sheet.items, caption, &GalleryItem::caption);
+  }
+
   desk::DrawingResources resources;
 };
 
@@ -69,10 +71,9 @@ TEST_F(GalleryTest, TheLanguagesDifferExactlyOnSheetsWithTexts) {
 TEST_F(GalleryTest, ASheetIsReproducibleAndMissesNoImage) {
   for (const GallerySheet& sheet : gallerySheets()) {
     const SheetStyle style{.isDark = true, .scale = 0.25};
-    const auto first = desk::encodePng(paintSheet(sheet, style, machine, resources).get());
+    const auto first = desk::contentOf(paintSheet(sheet, style, machine, resources).get());
     desk::DrawingResources fresh;
-    desk::addApplicationImages(fresh.images);
-    EXPECT_EQ(first, desk::encodePng(paintSheet(sheet, style, machine, fresh).get())) << sheet.name;
+    EXPECT_EQ(first, desk::contentOf(paintSheet(sheet, style, machine, fresh).get())) << sheet.name;
   }
   EXPECT_EQ(resources.missingNames, std::set<std::string>());
 }

@@ -53,14 +53,15 @@ TEST_F(HardwareContentTest, ShowsTheStatusAndTheLastMessage) {
   EXPECT_EQ(counter("Orvane"), "Unlocked for now");
   machine.modifierKeys.releaseAll();
   session.movePointerBy(1, 0);
-  hardware.detachDisplay(1);
+  ASSERT_FALSE(machine.displays.detach(1));
+  machine.runDue();
   EXPECT_EQ(counter("Orvane"), "Display missing");
-  hardware.setTrusted(false);
+  machine.permission.setTrusted(false);
   session.application().model().refreshDisplays();
   EXPECT_EQ(counter("Orvane"), "No permission");
-  hardware.crash();
+  session.application().crash();
   EXPECT_EQ(counter("Orvane"), "Not running");
-  hardware.detachDisplay(2);
+  ASSERT_FALSE(machine.displays.detach(2));
   EXPECT_EQ(counter("Dock on"), "nowhere");
 }
 

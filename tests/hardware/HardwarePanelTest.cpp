@@ -2,6 +2,8 @@
 #include <set>
 
 #include "desk/hand/FindControl.hpp"
+#include "desk/windows/WindowServer.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
 #include "showroom/hardware/HardwarePanelHost.hpp"
 #include "tests/canvas/PixelFixture.hpp"
 #include "tests/hardware/HardwareFixture.hpp"
@@ -42,7 +44,7 @@ class HardwarePanelTest : public HardwareFixture {
 };
 
 TEST_F(HardwarePanelTest, EveryControlHasAUniqueLabel) {
-  hardware.attachDisplay();
+  attachNextStandardDisplay(machine);
   show();
   std::set<std::string> labels;
   for (const ui::SemanticsNode& found : controls()) {
@@ -106,16 +108,31 @@ TEST_F(HardwarePanelTest, TheMacGroupSetsTheSystem) {
   EXPECT_TRUE(control("Language: 中文")->isSelected);
 }
 
+TEST_F(HardwarePanelTest, TheLanguagesDetermineTheApplicationsLanguage) {
+  const std::vector<std::string> expected{"Quit", "退出", "退出", "Quit"};
+  ASSERT_EQ(hardwareLanguages().size(), expected.size());
+  for (std::size_t index = 0; index < expected.size(); ++index) {
+    click(std::string("Language: ") + hardwareLanguages()[index].title);
+    EXPECT_EQ(content().languages, index);
+    desk::WindowServer& server = desk::WindowServer::current();
+    ASSERT_TRUE(server.menus.openStatusMenu(0));
+    EXPECT_EQ(server.menus.menu()->items.back().title, expected[index]);
+    server.menus.close();
+  }
+  machine.locale.preferredLanguages = {"it-IT"};
+  EXPECT_EQ(content().languages, std::nullopt);
+}
+
 TEST_F(HardwarePanelTest, TheApplicationIsLaunchedAndEnded) {
   click("Open Orvane again");
-  EXPECT_TRUE(hardware.isRunning());
+  EXPECT_TRUE(session.application().isRunning());
   click("Crash Orvane");
-  EXPECT_FALSE(hardware.isRunning());
+  EXPECT_FALSE(session.application().isRunning());
   EXPECT_FALSE(control("Quit Orvane"));
   click("Launch Orvane");
-  EXPECT_TRUE(hardware.isRunning());
+  EXPECT_TRUE(session.application().isRunning());
   click("Quit Orvane");
-  EXPECT_FALSE(hardware.isRunning());
+  EXPECT_FALSE(session.application().isRunning());
 }
 
 TEST_F(HardwarePanelTest, TheZonesCanBeHidden) {
@@ -134,10 +151,10 @@ TEST_F(HardwarePanelTest, CanBeOperatedWithTheKeyboard) {
 }
 
 TEST_F(HardwarePanelTest, TruncatesNoTextInAnyState) {
-  hardware.attachDisplay();
-  hardware.attachDisplay();
-  for (std::size_t language = 0; language < Hardware::languageLists().size(); ++language) {
-    hardware.setLanguageList(language);
+  attachNextStandardDisplay(machine);
+  attachNextStandardDisplay(machine);
+  for (const HardwareLanguages& languages : hardwareLanguages()) {
+    machine.locale = languages.locale;
     pinOrUnpin();
     show();
     EXPECT_EQ(drawing().find("\u2026"), std::string::npos) << drawing();
@@ -145,8 +162,8 @@ TEST_F(HardwarePanelTest, TruncatesNoTextInAnyState) {
 }
 
 TEST_F(HardwarePanelTest, FitsIntoTheUsualWindowWithAllDisplays) {
-  hardware.attachDisplay();
-  hardware.attachDisplay();
+  attachNextStandardDisplay(machine);
+  attachNextStandardDisplay(machine);
   pinOrUnpin();
   show();
   EXPECT_LE(panel.host().sizeThatFits({HardwarePanel::width, std::nullopt}).height, 800);
@@ -201,7 +218,7 @@ TEST_F(HardwarePanelPictureTest, FillsItsFrameAndFollowsTheAppearance) {
   HardwarePanelHost panel{session.hardware()};
   panel.setSize({320, 800});
   for (const bool isDark : {false, true}) {
-    session.hardware().setDark(isDark);
+    session.machine().appearance.isDark = isDark;
     panel.show(session.hardwareContent(false));
     begin(340, 800);
     panel.paint(*canvas, {20, 0});

@@ -143,15 +143,17 @@ TEST_F(EventTapsTest, ATapMayEndItselfInItsCallback) {
   EXPECT_EQ(log, (Log{"once", "after", "after"}));
 }
 
-TEST_F(EventTapsTest, ATapCreatedDuringADeliveryReceivesTheNextEvent) {
-  Action late = shift("late", 1);
+TEST_F(EventTapsTest, TapsCreatedDuringADeliveryReceiveTheNextEvent) {
+  Action first = shift("first", 1);
+  Action last = shift("last", 1);
   bool isMade = false;
   Action action = [&](CGEventType, CGEventRef seen) {
     log.emplace_back("maker");
     if (!isMade) {
       isMade = true;
-      make(late, kCGHeadInsertEventTap);
-      EXPECT_EQ(taps.aliveCount(), 2U);
+      make(first, kCGHeadInsertEventTap);
+      make(last, kCGTailAppendEventTap);
+      EXPECT_EQ(taps.aliveCount(), 3U);
     }
     return seen;
   };
@@ -159,7 +161,7 @@ TEST_F(EventTapsTest, ATapCreatedDuringADeliveryReceivesTheNextEvent) {
   taps.deliver(event);
   EXPECT_EQ(log, (Log{"maker"}));
   taps.deliver(event);
-  EXPECT_EQ(log, (Log{"maker", "late", "maker"}));
+  EXPECT_EQ(log, (Log{"maker", "first", "maker", "last"}));
 }
 
 class Witness : public EventWitness {

@@ -18,11 +18,11 @@ TEST(PreferencesTest, KeepOneValueForEachDomain) {
   Preferences preferences;
   preferences.set({"dock"}, "edge", text("left"));
   preferences.set({"dock", User::current, Host::current}, "edge", 3.0);
-  EXPECT_EQ(preferences.stored(Domain{"dock"}, "edge"), text("left"));
-  EXPECT_EQ(preferences.stored(Domain{"dock", User::current, Host::current}, "edge"),
+  EXPECT_EQ(preferences.seen(Domain{"dock"}, "edge"), text("left"));
+  EXPECT_EQ(preferences.seen(Domain{"dock", User::current, Host::current}, "edge"),
             PropertyValue(3.0));
-  EXPECT_EQ(preferences.stored(Domain{"dock", User::any, Host::any}, "edge"), std::nullopt);
-  EXPECT_EQ(preferences.stored(Domain{"finder"}, "edge"), std::nullopt);
+  EXPECT_EQ(preferences.seen(Domain{"dock", User::any, Host::any}, "edge"), std::nullopt);
+  EXPECT_EQ(preferences.seen(Domain{"finder"}, "edge"), std::nullopt);
 }
 
 TEST(PreferencesTest, AreSearchedFromTheNearestDomainToTheFarthest) {

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include "desk/canvas/ApplicationImages.hpp"
 #include "showroom/gallery/SheetPainter.hpp"
 #include "tests/support/KeptPicture.hpp"
 #include "tests/support/MachineFixture.hpp"
@@ -42,7 +41,6 @@ class ComponentPictureTest : public desk::MachineFixture {
   void expectPainted(const GallerySheet& sheet, const SheetStyle& style,
                      const std::string& fileName) {
     desk::DrawingResources resources;
-    desk::addApplicationImages(resources.images);
     const desk::SurfacePointer picture = paintSheet(sheet, style, machine, resources);
     EXPECT_EQ(desk::differenceFromKept(picture.get(), "tests/pictures/" + fileName + ".png"),
               std::nullopt);

@@ -2,8 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/base/CFRef.hpp"
-#include "desk/quartz/CFMachPort.hpp"
-#include "desk/quartz/CFRunLoopSource.hpp"
+#include "desk/quartz/CFObjects.hpp"
 #include "tests/support/MachineFixture.hpp"
 
 namespace orvane::desk {

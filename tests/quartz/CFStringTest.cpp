@@ -1,7 +1,7 @@
 // The desk's strings: constants and reference counting.
 #include <gtest/gtest.h>
 
-#include "desk/quartz/CFString.hpp"
+#include "desk/quartz/CFObjects.hpp"
 #include "tests/support/MachineFixture.hpp"
 
 namespace orvane::desk {

@@ -37,7 +37,7 @@ class WindowLayoutTest : public ApplicationFixture {
     shown->content->update();
     const CGPoint place = shown->content->frame().origin;
     return textBoxes(language + "-" + surface, shown->content->host(), {place.x, place.y},
-                     server().text());
+                     server().resources().shaper);
   }
 
   [[nodiscard]] std::string textsOfWindows(OrvaneLanguage spoken, const std::string& language) {

@@ -1,5 +1,4 @@
 // Parsing of a command's arguments, and its problems.
-#include <array>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -26,7 +25,8 @@ TEST(ArgumentsTest, ReadsOptionsAndFlagsWhereverTheyStand) {
   Arguments arguments = line.arguments();
   EXPECT_EQ(arguments.option("name"), "a=b");
   EXPECT_FALSE(arguments.option("nam"));
-  EXPECT_EQ(arguments.rectangleOption("frame"), (std::array<double, 4>{0, -1.5, 1920, 1080}));
+  const CGRect frame = arguments.rectangle("frame", arguments.option("frame"));
+  EXPECT_TRUE(CGRectEqualToRect(frame, CGRectMake(0, -1.5, 1920, 1080)));
   EXPECT_TRUE(arguments.flag("main"));
   EXPECT_FALSE(arguments.flag("main"));
   EXPECT_EQ(arguments.integer("N", 0, 9), 3);

@@ -106,13 +106,12 @@ TEST(ExpectationTest, ReadsTheValueAsItIsWritten) {
 TEST(ExpectationTest, PassesTheFirstPartOfThePathAsTheParameter) {
   ScriptProgram::Settings settings;
   settings.inspectables.add(
-      {.name = "tree",
-       .parameter = "SURFACE",
-       .look = [](ScriptContext&, const std::string& surface, Json& shown) -> Problem {
-         shown = {{"role", surface}};
-         return surface == "none" ? Problem("there is no surface") : std::nullopt;
-       },
-       .countingMember = {}});
+      "tree", {.parameter = "SURFACE",
+               .look = [](ScriptContext&, const std::string& surface, Json& shown) -> Problem {
+                 shown = {{"role", surface}};
+                 return surface == "none" ? Problem("there is no surface") : std::nullopt;
+               },
+               .countingMember = {}});
   const ScriptRun run = runScript("show tree main\nexpect tree.main.role \"main\"\n", settings);
   EXPECT_EQ(run.output, "{\"role\":\"main\"}\n");
   EXPECT_EQ(run.errors, "");

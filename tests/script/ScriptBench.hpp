@@ -3,7 +3,7 @@
 
 #include <sstream>
 
-#include "desk/script/InspectableTable.hpp"
+#include "desk/script/Inspectables.hpp"
 #include "desk/script/Interpreter.hpp"
 
 namespace orvane::desk::script {

@@ -11,7 +11,6 @@
 #include "bench/KitPanel.hpp"
 #include "desk/canvas/CairoCanvas.hpp"
 #include "desk/canvas/ImageSurface.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
 
 namespace orvane::bench {
 namespace {
@@ -41,9 +40,8 @@ class KitSpeed : public testing::Test {
     host.layoutIfNeeded();
   }
 
-  desk::PangoTextMeasurer text;
   desk::DrawingResources resources;
-  ui::ViewHost host{ui::HostPlatform{.text = &text, .images = resources.imageSource()}};
+  ui::ViewHost host{resources.hostPlatform()};
   int revision = 0;
 };
 

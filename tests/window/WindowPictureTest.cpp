@@ -2,6 +2,7 @@
 #include <functional>
 
 #include "desk/hand/FindControl.hpp"
+#include "showroom/desktop/StandardDisplays.hpp"
 #include "showroom/window/WindowPicture.hpp"
 #include "tests/support/Pixels.hpp"
 #include "tests/window/SessionFixture.hpp"
@@ -14,6 +15,10 @@ class WindowPictureTest : public SessionFixture {
   WindowPictureTest() { session.advance(2 * second); }
   void draw() { picture.draw(surface.get(), layout, session, false); }
   [[nodiscard]] bool isOutdated() const { return picture.isOutdated(session, false); }
+
+  void setDock(const char* key, const desk::PropertyValue& value) {
+    desk::Dock::store(session.machine().preferences, key, value);
+  }
 
   WindowLayout layout{1000, 560, 1};
   desk::SurfacePointer surface = desk::imageSurface(1000, 560);
@@ -38,26 +43,28 @@ TEST_F(WindowPictureTest, IsOutdatedByEveryMovement) {
 }
 
 TEST_F(WindowPictureTest, IsOutdatedByEveryChangeOfTheHardware) {
-  Hardware& hardware = session.hardware();
+  desk::Machine& machine = session.machine();
+  desk::ApplicationHost& application = session.application();
   const std::vector<std::function<void()>> changes{
-      [&] { hardware.attachDisplay(); },
-      [&] { hardware.makeMain(2); },
-      [&] { hardware.detachDisplay(1); },
-      [&] { hardware.setEdge(desk::DockEdge::left); },
-      [&] { hardware.setAutoHides(true); },
-      [&] { hardware.setTrusted(false); },
-      [&] { hardware.setDark(true); },
-      [&] { hardware.setWallpaper(desk::Appearance::Wallpaper::busy); },
-      [&] { hardware.setLanguageList(1); },
-      [&] { hardware.setShowsZones(false); },
-      [&] { hardware.reopen(); },
-      [&] { hardware.crash(); },
-      [&] { hardware.launch(); },
+      [&] { attachNextStandardDisplay(machine); },
+      [&] { ASSERT_FALSE(machine.displays.setMain(2)); },
+      [&] { ASSERT_FALSE(machine.displays.detach(1)); },
+      [&] { setDock(desk::Dock::orientationKey, std::string("left")); },
+      [&] { setDock(desk::Dock::autoHideKey, true); },
+      [&] { machine.permission.setTrusted(false); },
+      [&] { machine.appearance.isDark = true; },
+      [&] { machine.appearance.wallpaper = desk::Appearance::Wallpaper::busy; },
+      [&] { machine.locale = hardwareLanguages()[1].locale; },
+      [&] { session.hardware().showsZones = false; },
+      [&] { application.reopen(); },
+      [&] { application.crash(); },
+      [&] { application.launch(); },
   };
   for (std::size_t index = 0; index < changes.size(); ++index) {
     draw();
     ASSERT_FALSE(isOutdated()) << index;
     changes[index]();
+    machine.runDue();
     EXPECT_TRUE(isOutdated()) << index;
     session.advance(2 * second);
   }
@@ -72,7 +79,7 @@ TEST_F(WindowPictureTest, IsOutdatedByAPressOnAControlOfThePanel) {
   panel.pointerDown(control->frame.center());
   panel.pointerUp(control->frame.center());
   EXPECT_TRUE(isOutdated());
-  EXPECT_FALSE(session.hardware().showsZones());
+  EXPECT_FALSE(session.hardware().showsZones);
 }
 
 TEST_F(WindowPictureTest, IsOutdatedByTheMinuteAndByCapturingTheMouse) {
@@ -85,7 +92,7 @@ TEST_F(WindowPictureTest, IsOutdatedByTheMinuteAndByCapturingTheMouse) {
 }
 
 TEST_F(WindowPictureTest, IsOutdatedAtEveryStepOfAnAnimation) {
-  session.hardware().setAutoHides(true);
+  setDock(desk::Dock::autoHideKey, true);
   draw();
   ASSERT_EQ(session.nanosecondsToNextChange(), 0);
   int pictures = 0;

@@ -19,7 +19,6 @@ EXCEPTIONS = {
     "desk/machine/PlatformCalls.hpp: stopRecording": "tests check the order of calls",
     "desk/machine/RunLoop.hpp: pendingTaskCount": "tests observe what waits by it",
     "desk/machine/RunLoop.hpp: wakeUpCount": "tests limit the wake-ups",
-    "showroom/desktop/GlassCache.hpp: blurCount": "tests limit the drawing",
     "showroom/gallery/GallerySheet.hpp: gallerySheetNamed": "tests choose sheets by name",
     "showroom/gallery/Specimen.hpp: appear": "tests show a specimen in every appearance",
     "showroom/hardware/HardwarePanelHost.hpp: scrolled": "tests observe the scroll position by it",

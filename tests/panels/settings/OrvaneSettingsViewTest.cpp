@@ -11,7 +11,7 @@
 #include "Orvane/platform/appkit/HostingView.hpp"
 #include "Orvane/ui/host/ViewHost.hpp"
 #include "Orvane/windows/OrvaneSettingsWindow.hpp"
-#include "desk/canvas/PangoTextMeasurer.hpp"
+#include "desk/canvas/TextShaper.hpp"
 #include "tests/panels/PanelFixture.hpp"
 #include "tests/support/RecordingCanvas.hpp"
 #include "tests/support/SyntheticTextMeasurer.hpp"
@@ -113,11 +113,11 @@ class WiderText : public ui::TextMeasurer {
 
  private:
   static constexpr double factor = 1.05;
-  desk::PangoTextMeasurer measurer_;
+  desk::TextShaper measurer_;
 };
 
 TEST_F(OrvaneSettingsViewTest, HasRoomForWiderTextAndTallerSymbols) {
-  const ui::ImageSource images = server().resources().imageSource();
+  const ui::ImageSource images = server().resources().hostPlatform().images;
   const auto tallerSymbol = [&](const std::string& name, const ui::Font& font) {
     std::optional<ui::Size> size = images.symbolSize(name, font);
     size->height *= 1.2;

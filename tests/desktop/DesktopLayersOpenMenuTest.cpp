@@ -1,14 +1,13 @@
 // The image of a file that is dragged from the permission guide.
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
-#include "showroom/desktop/FileDragArt.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
 
 namespace orvane::showroom {
 namespace {
 
-class FileDragArtTest : public DesktopFixture {
+class DesktopLayersOpenMenuTest : public DesktopFixture {
  protected:
-  FileDragArtTest() {
+  DesktopLayersOpenMenuTest() {
     // The windows fit side by side on the two displays.
     OrvanePermissionGuideWindowController::shared().show(nullptr);
     machine.mouse.moveTo({1200, 250});
@@ -38,7 +37,7 @@ class FileDragArtTest : public DesktopFixture {
   }
 };
 
-TEST_F(FileDragArtTest, TheImageFollowsThePointer) {
+TEST_F(DesktopLayersOpenMenuTest, TheImageFollowsThePointer) {
   beginDrag();
   const CGPoint place{700, 450};
   moveTo(place);
@@ -48,7 +47,7 @@ TEST_F(FileDragArtTest, TheImageFollowsThePointer) {
   EXPECT_GT(differences(picture(), during, image), image.width * image.height / 2);
 }
 
-TEST_F(FileDragArtTest, ADropTargetHasTheCopyMark) {
+TEST_F(DesktopLayersOpenMenuTest, ADropTargetHasTheCopyMark) {
   beginDrag();
   const CGPoint place = listPlace();
   moveTo(place);
@@ -62,7 +61,7 @@ TEST_F(FileDragArtTest, ADropTargetHasTheCopyMark) {
   EXPECT_LT(disc.red, 120) << "the disc around it is not";
 }
 
-TEST_F(FileDragArtTest, OtherPlacesHaveNoCopyMark) {
+TEST_F(DesktopLayersOpenMenuTest, OtherPlacesHaveNoCopyMark) {
   beginDrag();
   const CGPoint place{700, 450};
   moveTo(place);

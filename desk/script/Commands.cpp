@@ -1,8 +1,7 @@
 // The commands of the script language, by name.
-#include "desk/script/CommandTable.hpp"
+#include "desk/script/Commands.hpp"
 
 #include "desk/hand/InQuotes.hpp"
-#include "desk/script/Commands.hpp"
 
 namespace orvane::desk::script {
 

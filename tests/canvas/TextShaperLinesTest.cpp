@@ -7,14 +7,14 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "desk/canvas/PangoTextMeasurer.hpp"
+#include "desk/canvas/TextShaper.hpp"
 
 namespace orvane::desk {
 namespace {
 
 constexpr double unlimited = std::numeric_limits<double>::infinity();
 
-class PangoTextMeasurerTest : public testing::Test {
+class TextShaperLinesTest : public testing::Test {
  protected:
   std::vector<std::string> linesOf(const std::string& text, double width, int limit = 0) {
     std::vector<std::string> lines;
@@ -28,35 +28,35 @@ class PangoTextMeasurerTest : public testing::Test {
   }
 
   const ui::Font font = ui::Font::body();
-  PangoTextMeasurer measurer;
+  TextShaper measurer;
 };
 
 using Lines = std::vector<std::string>;
 
-TEST_F(PangoTextMeasurerTest, UnlimitedTextBreaksOnlyAtLineFeeds) {
+TEST_F(TextShaperLinesTest, UnlimitedTextBreaksOnlyAtLineFeeds) {
   EXPECT_EQ(linesOf("Pin Dock to a Display", unlimited), Lines{"Pin Dock to a Display"});
   EXPECT_EQ(linesOf("a\n\nb\n", unlimited), (Lines{"a", "", "b", ""}));
   EXPECT_EQ(linesOf("", unlimited), Lines{""});
 }
 
-TEST_F(PangoTextMeasurerTest, LinesBreakBetweenWordsWithoutTheBlank) {
+TEST_F(TextShaperLinesTest, LinesBreakBetweenWordsWithoutTheBlank) {
   EXPECT_EQ(linesOf("Pin Dock", widthOf("Pin Dock")), Lines{"Pin Dock"});
   EXPECT_EQ(linesOf("Pin Dock", widthOf("Pin Dock") - 0.1), (Lines{"Pin", "Dock"}));
 }
 
-TEST_F(PangoTextMeasurerTest, AWordThatIsTooWideBreaksBetweenCharacters) {
+TEST_F(TextShaperLinesTest, AWordThatIsTooWideBreaksBetweenCharacters) {
   EXPECT_EQ(linesOf("mmmmm", widthOf("mm") + 0.1), (Lines{"mm", "mm", "m"}));
   for (const double width : {0.0, -5.0, std::nan("")}) {
     EXPECT_EQ(linesOf("abc", width), (Lines{"a", "b", "c"})) << width;
   }
 }
 
-TEST_F(PangoTextMeasurerTest, ChineseBreaksBetweenCharactersButNotBeforeAFullStop) {
+TEST_F(TextShaperLinesTest, ChineseBreaksBetweenCharactersButNotBeforeAFullStop) {
   EXPECT_EQ(linesOf("固定到显示器", widthOf("固定到")), (Lines{"固定到", "显示器"}));
   EXPECT_EQ(linesOf("固定到。", widthOf("固定到")), (Lines{"固定", "到。"}));
 }
 
-TEST_F(PangoTextMeasurerTest, ALineLimitEndsInAnEllipsis) {
+TEST_F(TextShaperLinesTest, ALineLimitEndsInAnEllipsis) {
   const ui::TextLayout cut =
       measurer.layout("Pin Dock to a Display", font, widthOf("Pin Dock…"), 1);
   EXPECT_EQ(cut.lines.size(), 1U);
@@ -69,7 +69,7 @@ TEST_F(PangoTextMeasurerTest, ALineLimitEndsInAnEllipsis) {
   EXPECT_EQ(linesOf("Pin", 0, 1), Lines{"…"});
 }
 
-TEST_F(PangoTextMeasurerTest, ALineCutInTheMiddleKeepsItsEnd) {
+TEST_F(TextShaperLinesTest, ALineCutInTheMiddleKeepsItsEnd) {
   const auto cut = [&](const std::string& text, double width) {
     return measurer.layout(text, font, width, {1, ui::TruncationMode::middle}).lines.at(0);
   };
@@ -84,7 +84,7 @@ TEST_F(PangoTextMeasurerTest, ALineCutInTheMiddleKeepsItsEnd) {
   EXPECT_EQ(linesOf("Pin\nDock", unlimited, 1), Lines{"Pin…"});
 }
 
-TEST_F(PangoTextMeasurerTest, TheLinesOfATextShareOneHeight) {
+TEST_F(TextShaperLinesTest, TheLinesOfATextShareOneHeight) {
   const ui::TextLayout latin = measurer.layout("Dock", font, unlimited, 0);
   // Inter Display's own ascent and descent are 0.9639 and 0.2451 of the size.
   EXPECT_NEAR(latin.ascent, 13 * 0.9639, 0.01);
@@ -96,14 +96,14 @@ TEST_F(PangoTextMeasurerTest, TheLinesOfATextShareOneHeight) {
   EXPECT_EQ(measurer.layout("", font, unlimited, 0).lineHeight, latin.lineHeight);
 }
 
-TEST_F(PangoTextMeasurerTest, WidthsAreProportionalToTheSize) {
+TEST_F(TextShaperLinesTest, WidthsAreProportionalToTheSize) {
   const double once = measurer.layout("Hamburg", ui::Font::system(10), unlimited, 0).lines[0].width;
   const double thrice =
       measurer.layout("Hamburg", ui::Font::system(30), unlimited, 0).lines[0].width;
   EXPECT_NEAR(thrice, 3 * once, 0.05);
 }
 
-RC_GTEST_FIXTURE_PROP(PangoTextMeasurerTest, NoLineIsWiderThanAllowedAndNoWordIsLost, ()) {
+RC_GTEST_FIXTURE_PROP(TextShaperLinesTest, NoLineIsWiderThanAllowedAndNoWordIsLost, ()) {
   const auto words = *rc::gen::nonEmpty(rc::gen::container<std::vector<std::string>>(
       rc::gen::element<std::string>("Pin", "Dock", "to", "a", "Display", "固定", "显示器", "，")));
   const double width = *rc::gen::inRange(60, 400);

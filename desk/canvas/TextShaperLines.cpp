@@ -1,6 +1,4 @@
 // Pango breaks each paragraph into lines; each line is then measured separately, as it is drawn.
-#include "desk/canvas/PangoTextMeasurer.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -8,18 +6,18 @@
 #include <pango/pango.h>
 
 #include "Orvane/ui/draw/Truncation.hpp"
+#include "desk/canvas/TextShaper.hpp"
 
 namespace orvane::desk {
 namespace {
 
 // Wider than any text; pango represents widths as an int in 1/1024 of a point.
 constexpr double widestLine = 1.0e6;
-constexpr std::size_t mostAnswers = 4096;
 
 /// The byte offsets between the characters of a text, from 0 to its length.
 std::vector<std::size_t> characterOffsets(const TextShaper& shaper, const std::string& text,
                                           const ui::Font& font) {
-  const ObjectPointer<PangoLayout> shaped = shaper.layout(text, font);
+  const ObjectPointer<PangoLayout> shaped = shaper.shape(text, font);
   int count = 0;
   const PangoLogAttr* attributes = pango_layout_get_log_attrs_readonly(shaped.get(), &count);
   std::vector<std::size_t> offsets;
@@ -37,23 +35,16 @@ std::vector<std::size_t> characterOffsets(const TextShaper& shaper, const std::s
 
 }  // namespace
 
-ui::TextLayout PangoTextMeasurer::layout(const std::string& text, const ui::Font& font,
-                                         double maximumWidth, ui::LineLimit limit) {
+ui::TextLayout TextShaper::layout(const std::string& text, const ui::Font& font,
+                                  double maximumWidth, ui::LineLimit limit) {
   const double allowed = maximumWidth > 0 ? std::min(maximumWidth, widestLine) : 0.0;
-  const Question question(text, font.size, font.weight, font.tracking, allowed,
-                          std::max(limit.lines, 0), limit.truncation);
-  const auto found = answers_.find(question);
-  if (found != answers_.end()) {
-    return found->second;
-  }
-  if (answers_.size() >= mostAnswers) {
-    answers_.clear();
-  }
-  return answers_.emplace(question, breakText(text, font, allowed, limit)).first->second;
+  return layouts_.get(cacheKey(text, font.size, font.weight, font.tracking, allowed,
+                               std::max(limit.lines, 0), limit.truncation),
+                      [&] { return breakText(text, font, allowed, limit); });
 }
 
-ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::Font& font,
-                                            double maximumWidth, ui::LineLimit limit) const {
+ui::TextLayout TextShaper::breakText(const std::string& text, const ui::Font& font,
+                                     double maximumWidth, ui::LineLimit limit) const {
   // The offsets of breaks refer to the text that pango has seen.
   const std::string source = validText(text);
   ui::TextLayout layout;
@@ -77,15 +68,15 @@ ui::TextLayout PangoTextMeasurer::breakText(const std::string& text, const ui::F
   }
 }
 
-void PangoTextMeasurer::breakParagraph(const std::string& paragraph, const ui::Font& font,
-                                       double maximumWidth, ui::LineLimit limit,
-                                       ui::TextLayout& layout) const {
+void TextShaper::breakParagraph(const std::string& paragraph, const ui::Font& font,
+                                double maximumWidth, ui::LineLimit limit,
+                                ui::TextLayout& layout) const {
   // Text that fits on one line has no breaks.
-  if (shaper_.measure(paragraph, font).width <= maximumWidth) {
+  if (measure(paragraph, font).width <= maximumWidth) {
     addLine(paragraph, font, layout);
     return;
   }
-  const ObjectPointer<PangoLayout> shaped = shaper_.layout(paragraph, font);
+  const ObjectPointer<PangoLayout> shaped = shape(paragraph, font);
   pango_layout_set_wrap(shaped.get(), PANGO_WRAP_WORD_CHAR);
   pango_layout_set_width(shaped.get(), static_cast<int>(std::ceil(maximumWidth * PANGO_SCALE)));
   const int count = pango_layout_get_line_count(shaped.get());
@@ -94,7 +85,7 @@ void PangoTextMeasurer::breakParagraph(const std::string& paragraph, const ui::F
     const auto start = static_cast<std::size_t>(pango_layout_line_get_start_index(line));
     const bool isLast = limit.lines > 0 && static_cast<int>(layout.lines.size()) + 1 == limit.lines;
     const std::string rest = paragraph.substr(start);
-    if (isLast && (index + 1 < count || shaper_.measure(rest, font).width > maximumWidth)) {
+    if (isLast && (index + 1 < count || measure(rest, font).width > maximumWidth)) {
       addLine(cutLine(rest, font, maximumWidth, limit.truncation).text, font, layout);
       layout.isTruncated = true;
       return;
@@ -105,17 +96,17 @@ void PangoTextMeasurer::breakParagraph(const std::string& paragraph, const ui::F
   }
 }
 
-ui::TextLine PangoTextMeasurer::cutLine(const std::string& rest, const ui::Font& font,
-                                        double maximumWidth, ui::TruncationMode mode) const {
-  const auto widthOf = [&](const std::string& part) { return shaper_.measure(part, font).width; };
+ui::TextLine TextShaper::cutLine(const std::string& rest, const ui::Font& font, double maximumWidth,
+                                 ui::TruncationMode mode) const {
+  const auto widthOf = [&](const std::string& part) { return measure(part, font).width; };
   const std::string line =
-      ui::truncatedLine(rest, characterOffsets(shaper_, rest, font), mode, maximumWidth, widthOf);
+      ui::truncatedLine(rest, characterOffsets(*this, rest, font), mode, maximumWidth, widthOf);
   return {line, widthOf(line)};
 }
 
-void PangoTextMeasurer::addLine(const std::string& line, const ui::Font& font,
-                                ui::TextLayout& layout) const {
-  const LineMetrics metrics = shaper_.measure(line, font);
+void TextShaper::addLine(const std::string& line, const ui::Font& font,
+                         ui::TextLayout& layout) const {
+  const LineMetrics metrics = measure(line, font);
   layout.lines.push_back({line, metrics.width});
   // All lines share the metrics of the tallest, so that lines with Chinese characters have the same
   // distance as the others.
