@@ -306,6 +306,11 @@ Lines ActionGenerator::beginning() {
     lines.emplace_back("dock autohide on");
   }
   lines.emplace_back("launch");
+  if (random_.chance(400)) {
+    lines.emplace_back("trust on");
+    lines.emplace_back(random_.chance(700) ? "do toggleSelectedDisplayLock"
+                                           : "do toggleHideDockOnAllDisplays");
+  }
   return lines;
 }
 

@@ -32,6 +32,10 @@ std::optional<Violation> DisablingWatch::check(const Step& step) {
   }
   forgetOlderThan(possible_, window + replacement + rounding, after.now);
   forgetOlderThan(certain_, window - rounding, after.now);
+  if (before.isTrusted && !after.isTrusted) {
+    // The permission ends the tap, too.
+    possible_.push_back(after.now);
+  }
   const bool isDisabled = after.isLaunched && after.isGuardRunning && !after.isTapEnabled;
   if (!step.line.starts_with("tap disabled ")) {
     disabledSince_ = isDisabled && after.isTrusted ? disabledSince_.value_or(after.now)

@@ -33,6 +33,10 @@ bool pressesPrevent(const Step& step) {
           presses(step, &Labels::allow, "main"));
 }
 
+bool isRefusing(const Machine& machine) {
+  return machine.eventTaps.refusesCreation() || machine.runLoop.refusesSources();
+}
+
 Violation missingGuard(const char* text) {
   return {"effect", text, "guard.running true"};
 }
@@ -59,9 +63,7 @@ void EffectChecker::track(const Step& step) {
   if (hasSwitchedOff && !isAsking) {
     askedAt_.reset();
   }
-  const bool isRefusing =
-      step.machine.eventTaps.refusesCreation() || step.machine.runLoop.refusesSources();
-  mayBeStale_ = isRefusing || (mayBeStale_ && after.snapshot.isPermissionStale);
+  mayBeStale_ = isRefusing(step.machine) || (mayBeStale_ && after.snapshot.isPermissionStale);
   if (!after.isTrusted) {
     permissionMissingSince_ = permissionMissingSince_.value_or(after.now);
     permissionReturnedAt_.reset();
@@ -78,6 +80,7 @@ std::optional<Violation> EffectChecker::check(const Step& step,
   track(step);
   if (Check found = firstOf([&] { return checkLaunch(step, configuration); },
                             [&] { return checkReturnOfPermission(step, configuration); },
+                            [&] { return checkWait(step, configuration); },
                             [&] { return checkAlert(step); }, [&] { return checkWindows(step); })) {
     return found;
   }
@@ -112,6 +115,29 @@ EffectChecker::Check EffectChecker::checkReturnOfPermission(
     return missingGuard("the lock did not come back with the permission");
   }
   return std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkWait(const Step& step,
+                                              const DisplayConfiguration& configuration) {
+  const Observation& after = step.after;
+  const GuardSnapshot& guard = after.snapshot.guard;
+  const GuardGoal goal{guard.blocksAllDisplays, guard.lockedDisplayIdentifier};
+  const bool hasEdges = configuration.edge && !configuration.forbiddenEdgePoints(goal).empty();
+  const bool canStart = hasEdges && after.isTrusted && !mayBeStale_ && !step.isStale;
+  // A guard that pauses although its edges stay has shut itself off, or was refused a tap.
+  const bool hasPaused = step.before.isGuardRunning && after.isGuardWaiting && hasEdges;
+  if (!after.isGuardWaiting || step.wasNotified) {
+    mayWait_ = false;
+  }
+  mayWait_ = mayWait_ || hasPaused || (isRefusing(step.machine) && after.isGuardWaiting);
+  if (!after.isGuardWaiting || !canStart || mayWait_ || after.isChangingTogether) {
+    canStartSince_.reset();
+    return std::nullopt;
+  }
+  canStartSince_ = canStartSince_.value_or(after.now);
+  return after.now - *canStartSince_ > permissionInterval
+             ? Check(missingGuard("the guard waits although it can start"))
+             : std::nullopt;
 }
 
 EffectChecker::Check EffectChecker::checkStop(const Step& step,
@@ -149,6 +175,9 @@ EffectChecker::Check EffectChecker::checkAlert(const Step& step) {
   }
   const bool isTooSoon = lastAlertAt_ && step.after.now - *lastAlertAt_ < alertInterval;
   lastAlertAt_ = step.after.now;
+  if (!step.isUserAction()) {
+    return Violation{"alert", "it appeared without a request"};
+  }
   return isTooSoon ? Check(Violation{"alert", "it appeared twice within a second"}) : std::nullopt;
 }
 
@@ -249,6 +278,12 @@ EffectChecker::Check EffectChecker::checkMenu(const Step& step,
         chosen != nullptr && chosen->names.front() == configuration.screens[index].names.front();
     if (menuSwitches + index >= rows.size() || rows[menuSwitches + index].isSelected != isChosen) {
       return Violation{"menu", "it does not mark the chosen display"};
+    }
+    const std::string& title = rows[menuSwitches + index].label;
+    const bool isMain =
+        title.find("(Main)") != std::string::npos || title.find("（主要）") != std::string::npos;
+    if (isMain != configuration.screens[index].isMain) {
+      return Violation{"menu", "it marks another display as the main one"};
     }
   }
   return std::nullopt;

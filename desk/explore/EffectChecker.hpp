@@ -30,6 +30,7 @@ class EffectChecker {
                                   const DisplayConfiguration& configuration) const;
   [[nodiscard]] Check checkReturnOfPermission(const Step& step,
                                               const DisplayConfiguration& configuration);
+  [[nodiscard]] Check checkWait(const Step& step, const DisplayConfiguration& configuration);
   [[nodiscard]] Check checkPinSwitch(const Step& step) const;
   [[nodiscard]] Check checkPreventSwitch(const Step& step) const;
   [[nodiscard]] Check checkStop(const Step& step, const DisplayConfiguration& configuration) const;
@@ -47,12 +48,15 @@ class EffectChecker {
 
   /// The system has refused a tap or its source since the permission was last good.
   bool mayBeStale_ = false;
+  /// The waiting guard has shut itself off, or was refused a tap, since it was last notified.
+  bool mayWait_ = false;
   /// All in nanoseconds by the machine's clock. The last time at which the alert or the guide was
   /// open for a request that the user made after the last choice.
   std::optional<std::int64_t> askedAt_;
   std::optional<std::int64_t> lastAlertAt_;
   /// When the user chose to open System Settings, until the guide appears.
   std::optional<std::int64_t> guideIsDueSince_;
+  std::optional<std::int64_t> canStartSince_;
   std::optional<std::int64_t> permissionMissingSince_;
   std::optional<std::int64_t> permissionReturnedAt_;
 };

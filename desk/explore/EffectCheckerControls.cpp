@@ -1,6 +1,7 @@
 // Windows, links, pop-up buttons, the login item and the display cards.
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <vector>
 
 #include "desk/explore/EffectChecker.hpp"
@@ -9,6 +10,23 @@
 #include "desk/hand/FindControl.hpp"
 
 namespace orvane::desk::explore {
+
+namespace {
+
+/// The panel's cards, or the menu's rows from the first display on.
+std::vector<ui::SemanticsNode> displayChoices(const ui::SemanticsNode& tree,
+                                              std::string_view surface) {
+  if (surface == "main") {
+    return findElements(
+        tree, [](const ui::SemanticsNode& node) { return node.role == ui::Role::radioButton; });
+  }
+  std::vector<ui::SemanticsNode> rows = findControls(tree);
+  rows.erase(rows.begin(),
+             rows.begin() + static_cast<std::ptrdiff_t>(std::min(menuSwitches, rows.size())));
+  return rows;
+}
+
+}  // namespace
 
 EffectChecker::Check EffectChecker::checkWindows(const Step& step) const {
   const Observation& after = step.after;
@@ -20,9 +38,16 @@ EffectChecker::Check EffectChecker::checkWindows(const Step& step) const {
       !after.shows("main")) {
     return Violation{"effect", "the panel did not open"};
   }
-  if ((presses(step, &Labels::settings, "menu") || presses(step, &Labels::settings, "main")) &&
-      !after.shows("settings")) {
-    return Violation{"effect", "the settings did not open"};
+  if (presses(step, &Labels::settings, "menu") || presses(step, &Labels::settings, "main")) {
+    if (!after.shows("settings")) {
+      return Violation{"effect", "the settings did not open"};
+    }
+    if (after.keySurface != "settings") {
+      return Violation{"effect", "the settings did not become key"};
+    }
+  }
+  if (presses(step, &Labels::minimise, "main") && after.isLaunched && !after.isMainMinimised) {
+    return Violation{"effect", "the panel was not minimised"};
   }
   for (const char* const surface : {"main", "settings", "guide"}) {
     if (presses(step, &Labels::close, surface) && after.shows(surface)) {
@@ -50,6 +75,10 @@ EffectChecker::Check EffectChecker::checkLinks(const Step& step) const {
       Link{&Labels::openPrivacySettings, "alert", "Privacy_Accessibility"},
   };
   const std::vector<Links::Opened>& opened = step.machine.links.opened();
+  const bool mayOpen = step.isUserAction() && !presses(step, &Labels::notNow, "alert");
+  if (!mayOpen && opened.size() > step.before.linkCount) {
+    return Violation{"effect", "a link was opened without need"};
+  }
   for (const Link& link : links) {
     const bool isExpected = step.hasRun && presses(step, link.label, link.surface);
     if (isExpected && (opened.size() <= step.before.linkCount ||
@@ -97,20 +126,22 @@ EffectChecker::Check EffectChecker::checkLoginSwitch(const Step& step) const {
 
 EffectChecker::Check EffectChecker::checkCards(const Step& step,
                                                const DisplayConfiguration& configuration) const {
-  const auto panel = step.before.trees.find("main");
-  if (!step.hasRun || step.isStale || panel == step.before.trees.end()) {
-    return std::nullopt;
-  }
-  const std::vector<ui::SemanticsNode> cards = findElements(
-      panel->second,
-      [](const ui::SemanticsNode& node) { return node.role == ui::Role::radioButton; });
-  for (std::size_t index = 0; index < std::min(cards.size(), configuration.screens.size());
-       ++index) {
-    const std::string& label = cards[index].label;
-    const bool isPressed = step.operation == "press " + quoted(label) + " in main" &&
-                           findControl(panel->second, label)->id == cards[index].id;
-    if (isPressed && step.after.stored.selected != configuration.screens[index].names.front()) {
-      return Violation{"effect", "the card of another display was chosen"};
+  for (const char* const surface : {"main", "menu"}) {
+    const auto tree = step.before.trees.find(surface);
+    const bool isShown = tree != step.before.trees.end() &&
+                         (surface == std::string_view("main") || step.before.isStatusMenuOpen);
+    if (!step.hasRun || step.isStale || !isShown) {
+      continue;
+    }
+    const std::vector<ui::SemanticsNode> choices = displayChoices(tree->second, surface);
+    for (std::size_t index = 0; index < std::min(choices.size(), configuration.screens.size());
+         ++index) {
+      const std::string& label = choices[index].label;
+      const bool isPressed = step.operation == "press " + quoted(label) + " in " + surface &&
+                             findControl(tree->second, label)->frame == choices[index].frame;
+      if (isPressed && step.after.stored.selected != configuration.screens[index].names.front()) {
+        return Violation{"effect", "another display was chosen than the pressed one"};
+      }
     }
   }
   return std::nullopt;

@@ -64,11 +64,13 @@ void InvariantChecker::observeScreens() {
   machine_.observers.add(appkit::NotificationName::applicationDidChangeScreenParameters, [this] {
     filter_.resetConfigurations();
     hasListed_ = true;
+    wasNotified_ = true;
   });
 }
 
 void InvariantChecker::beginStep(const std::string& line) {
   operation_ = operations_.operationOf(line);
+  wasNotified_ = false;
   filter_.beginStep();
   abandonedPortsBefore_ = machine_.counters.abandonedPorts;
   wasStale_ = isStale();
@@ -110,7 +112,8 @@ Step InvariantChecker::endStep(const std::string& line, bool hasRun, const Obser
   } else {
     filter_.addConfiguration();
   }
-  if (!Operations::hasReachedTarget(line)) {
+  // A click that makes the Dock slide away has two effects.
+  if (!Operations::hasReachedTarget(line) || wasNotified_) {
     operation_ = line;
   }
   operations_.note(after);
@@ -121,6 +124,7 @@ Step InvariantChecker::endStep(const std::string& line, bool hasRun, const Obser
           .after = after,
           .filter = filter_.step(),
           .isStale = isStale(),
+          .wasNotified = wasNotified_,
           .machine = machine_};
 }
 
@@ -143,7 +147,7 @@ std::optional<Violation> InvariantChecker::check(const Step& step) {
                  [&] { return checkGuard(before, after); }, [&] { return disabling_.check(step); },
                  [&] { return checkModel(after); }, [&] { return checkTimers(after); },
                  [&] { return checkStatus(after); }, [&] { return checkIcon(after); },
-                 [&] { return checkAnnouncement(after); }, [&] { return checkMenu(after); },
+                 [&] { return checkAnnouncement(before, after); }, [&] { return checkMenu(after); },
                  [&] { return checkMainPanel(after); }, [&] { return checkSettings(after); },
                  [&] { return checkTexts(after); },
                  [&] { return effects_.check(step, DisplayConfiguration::of(machine_)); });

@@ -57,7 +57,7 @@ class InvariantChecker {
   [[nodiscard]] Check checkTimers(const Observation& after) const;
 
   [[nodiscard]] Check checkIcon(const Observation& after);
-  [[nodiscard]] Check checkAnnouncement(const Observation& after);
+  [[nodiscard]] Check checkAnnouncement(const Observation& before, const Observation& after);
   [[nodiscard]] Check checkMenu(const Observation& after);
   [[nodiscard]] Check checkMainPanel(const Observation& after) const;
   [[nodiscard]] Check checkSettings(const Observation& after) const;
@@ -65,6 +65,9 @@ class InvariantChecker {
   [[nodiscard]] Check checkModes(const Observation& after);
   [[nodiscard]] Check checkTexts(const Observation& after) const;
 
+  /// Whether the text is in the language; any text is, while there are several.
+  [[nodiscard]] bool isInLanguage(const std::set<Language>& languages,
+                                  const std::string& text) const;
   /// Whether the condition `name` has been wrong for longer than `limit` nanoseconds.
   [[nodiscard]] bool isOverdue(const std::string& name, bool isWrong, std::int64_t now,
                                std::int64_t limit = Clock::nanosecondsPerSecond);
@@ -87,6 +90,10 @@ class InvariantChecker {
   std::set<Language> dialogueLanguages_;
   /// The application has been notified of its displays since its launch.
   bool hasListed_ = false;
+  /// The application was notified of its displays in this step.
+  bool wasNotified_ = false;
+  /// The target at the last announcement.
+  std::optional<std::string> announcedTarget_;
   std::map<std::uint32_t, std::int64_t> revealsBefore_;
   std::int64_t abandonedPortsBefore_ = 0;
   bool wasStale_ = false;

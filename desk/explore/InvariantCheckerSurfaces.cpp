@@ -56,7 +56,8 @@ InvariantChecker::Check InvariantChecker::checkIcon(const Observation& after) {
   return std::nullopt;
 }
 
-InvariantChecker::Check InvariantChecker::checkAnnouncement(const Observation& after) {
+InvariantChecker::Check InvariantChecker::checkAnnouncement(const Observation& before,
+                                                            const Observation& after) {
   const auto says = [&](std::string_view text) {
     return after.lastAnnouncement.find(text) != std::string::npos;
   };
@@ -68,7 +69,26 @@ InvariantChecker::Check InvariantChecker::checkAnnouncement(const Observation& a
   if (isOverdue("announcement", !isExpected, after.now, 2 * Clock::nanosecondsPerSecond)) {
     return Violation{"announcement", "the last one was \"" + after.lastAnnouncement + "\""};
   }
-  return std::nullopt;
+  if (after.announcementCount <= before.announcementCount) {
+    return std::nullopt;
+  }
+  if (!isInLanguage(languages_, after.lastAnnouncement)) {
+    return Violation{"texts", "\"" + after.lastAnnouncement + "\" was announced"};
+  }
+  const auto target = std::ranges::find_if(
+      after.snapshot.displays,
+      [&](const DisplaySnapshot& display) { return display.id == after.stored.selected; });
+  if (pins && target != after.snapshot.displays.end() && !says(target->name)) {
+    return Violation{"announcement", "it names another display than " + target->name};
+  }
+  // The end of a missing permission is not announced, so the next one is announced in the same
+  // words.
+  const bool isRepeated = (pins || prevents) &&
+                          after.announcementCount == before.announcementCount + 1 &&
+                          after.lastAnnouncement == before.lastAnnouncement &&
+                          announcedTarget_ == after.stored.selected;
+  announcedTarget_ = after.stored.selected;
+  return isRepeated ? Check(Violation{"announcement", "it was repeated"}) : std::nullopt;
 }
 
 InvariantChecker::Check InvariantChecker::checkMenu(const Observation& after) {
@@ -215,16 +235,19 @@ InvariantChecker::Check InvariantChecker::checkModes(const Observation& after) {
   return std::nullopt;
 }
 
+bool InvariantChecker::isInLanguage(const std::set<Language>& languages,
+                                    const std::string& text) const {
+  // A name in the earlier language may stand beside a word in the present one.
+  return languages.size() > 1 || isWrittenIn(*languages.begin(), text, names_);
+}
+
 InvariantChecker::Check InvariantChecker::checkTexts(const Observation& after) const {
   for (const auto& [surface, tree] : after.trees) {
     const bool isDialogue = surface == "alert" || surface == "guide";
     const std::set<Language>& languages = isDialogue ? dialogueLanguages_ : languages_;
-    if (languages.size() > 1) {
-      continue;
-    }
     for (const ui::SemanticsNode* const element : elementsOf(tree)) {
       for (const std::string* const text : {&element->label, &element->value}) {
-        if (!isWrittenIn(*languages.begin(), *text, names_)) {
+        if (!isInLanguage(languages, *text)) {
           return Violation{"texts", "\"" + *text + "\" in " + surface};
         }
       }

@@ -29,6 +29,7 @@ struct Labels {
   const char* openWindow;
   const char* settings;
   const char* close;
+  const char* minimise;
   const char* quit;
   const char* openAtLogin;
   const char* openPrivacySettings;

@@ -30,6 +30,9 @@ void addWindows(Observation& observation, WindowServer& server) {
         observation.isSettingsOpen || window->className == "OrvaneSettingsWindow";
     observation.isGuideOpen = observation.isGuideOpen || window->className == "OrvaneGuidePanel";
   }
+  if (const auto key = server.focus.keyWindow()) {
+    observation.keySurface = Surfaces::nameOf(*key);
+  }
   if (const StatusBarItem* const item = server.statusBar.item()) {
     observation.icon = item->image != nullptr ? item->image->name : "";
     observation.iconValue = item->accessibilityValue;
@@ -82,6 +85,7 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
   if (!server.announcements.empty()) {
     observation.lastAnnouncement = server.announcements.back();
   }
+  observation.announcementCount = server.announcements.size();
   return observation;
 }
 

@@ -52,10 +52,13 @@ struct Observation {
   bool isMainOpen = false;
   bool isSettingsOpen = false;
   bool isMainMinimised = false;
+  /// The surface of the key window; empty without one.
+  std::string keySurface;
   std::size_t messageCount = 0;
   std::string lastMessage;
   /// To screen readers, since the launch.
   std::string lastAnnouncement;
+  std::size_t announcementCount = 0;
   /// The semantics trees of the application's visible surfaces, by name.
   std::map<std::string, ui::SemanticsNode> trees;
 

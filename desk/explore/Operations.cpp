@@ -7,6 +7,7 @@
 #include <sstream>
 #include <utility>
 
+#include "desk/explore/Language.hpp"
 #include "desk/explore/Lines.hpp"
 #include "desk/windows/WindowServer.hpp"
 
@@ -56,10 +57,43 @@ std::string pressIn(const std::string& surface, const std::string& line, Predica
                                                static_cast<std::size_t>(found - controls.begin()));
 }
 
+/// The press that a shortcut stands for, with English labels; the line if it is none.
+std::string pressByShortcut(const std::string& line, std::uint64_t modifiers) {
+  const std::string surface = surfaceForKeys();
+  const bool isPlain = modifiers == 0;
+  const bool isCommand = modifiers == kCGEventFlagMaskCommand;
+  const Labels& labels = labelsIn(Language::english);
+  const auto press = [&](const char* label, const std::string& place) {
+    return "press " + quoted(label) + " in " + place;
+  };
+  if (surface == "alert") {
+    return isPlain && line == "key return"   ? press(labels.openPrivacySettings, surface)
+           : isPlain && line == "key escape" ? press(labels.notNow, surface)
+                                             : line;
+  }
+  if (surface != "main" && surface != "settings" && surface != "guide") {
+    return line;
+  }
+  const bool isCancelled = isPlain && line == "key escape" && surface != "main";
+  if (isCancelled || (isCommand && line == "key w" && surface != "guide")) {
+    return press(labels.close, surface);
+  }
+  if (isCommand && line == "key m") {
+    return surface == "main" ? press(labels.minimise, surface) : line;
+  }
+  if (isCommand && line == "key ,") {
+    return press(labels.settings, Surfaces::menu);
+  }
+  return isCommand && line == "key q" ? press(labels.quit, Surfaces::menu) : line;
+}
+
 }  // namespace
 
 std::string Operations::operationOf(const std::string& line) const {
   const Machine& machine = WindowServer::current().machine();
+  if (line.starts_with("key ") && line != "key space") {
+    return pressByShortcut(line, machine.modifierKeys.flags());
+  }
   if (machine.modifierKeys.flags() != 0 || machine.mouse.isButtonPressed()) {
     return line;
   }

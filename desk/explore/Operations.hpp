@@ -12,8 +12,9 @@ namespace orvane::desk::explore {
 
 class Operations {
  public:
-  /// The line that presses the same control, if `line` clicks into its middle or types a space
-  /// while it has the keyboard focus; else `line`. To be called before the line runs.
+  /// The line that presses the same control, if `line` clicks into its middle, types a space while
+  /// it has the keyboard focus, or types its shortcut; else `line`. To be called before the line
+  /// runs.
   [[nodiscard]] std::string operationOf(const std::string& line) const;
   /// Whether the pointer is where `line` clicks; true for other lines. The guard or a held cursor
   /// may have kept it from there.

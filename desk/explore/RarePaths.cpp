@@ -34,6 +34,14 @@ bool pauses(const Step& step) {
   return step.before.isGuardRunning && !step.after.isGuardRunning && step.after.isGuardWaiting;
 }
 
+/// The guard runs and moves its zones to another edge.
+bool turns(const Step& step) {
+  const auto& before = step.before.snapshot.guard;
+  const auto& after = step.after.snapshot.guard;
+  return before.isRunning && after.isRunning &&
+         before.zones.front().nudgeVector.dx != after.zones.front().nudgeVector.dx;
+}
+
 bool startsWith(const Step& step, std::string_view prefix) {
   return std::string_view(step.line).starts_with(prefix);
 }
@@ -57,7 +65,7 @@ constexpr Path paths[]{
     {"the permission is revoked while unlocked",
      [](const Step& step) { return isRevoked(step) && step.before.isUnlocked; }},
     {"an event arrives between shut-off and clean-up",
-     [](const Step& step) { return step.filter.hasMetDisabledTap && step.filter.hasMovedBack; }},
+     [](const Step& step) { return step.filter.hasMetDisabledTap && step.filter.hasShutOff; }},
     {"a shut-off waits for the alert to close",
      [](const Step& step) {
        return step.after.isGuardRunning && !step.after.isTapEnabled && step.after.isQueueHeld &&
@@ -206,10 +214,9 @@ constexpr Path paths[]{
        return step.after.isLaunched && step.after.status == OrvaneStatus::needsCheck;
      }},
     {"the Dock moves while the guard runs",
-     [](const Step& step) {
-       return startsWith(step, "dock edge") && step.before.isGuardRunning &&
-              step.after.isGuardRunning;
-     }},
+     [](const Step& step) { return startsWith(step, "dock edge") && turns(step); }},
+    {"the guard follows a hidden Dock",
+     [](const Step& step) { return startsWith(step, "advance") && turns(step); }},
     {"a request to prevent starts the guard while the guide is open",
      [](const Step& step) {
        return step.before.isGuideOpen && !step.before.stored.prevents &&

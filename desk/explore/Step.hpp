@@ -19,6 +19,8 @@ struct Step {
   const FilterWatch::Step& filter;
   /// Displays or Dock have changed and the application may not have been notified.
   bool isStale;
+  /// The application was notified of its displays in this step.
+  bool wasNotified;
   const Machine& machine;
 
   [[nodiscard]] bool isLaunch() const { return !before.isLaunched && after.isLaunched; }

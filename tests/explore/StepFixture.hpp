@@ -24,7 +24,7 @@ class StepFixture : public testing::Test {
   [[nodiscard]] Step step(const std::string& text) {
     line = text;
     after.now = machine().clock.now();
-    return {line, line, true, before, after, filter, false, machine()};
+    return {line, line, true, before, after, filter, false, false, machine()};
   }
   [[nodiscard]] Machine& machine() const { return scope.machine(); }
 
