@@ -2,6 +2,7 @@
 #include "desk/explore/EffectChecker.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "desk/explore/Language.hpp"
 #include "desk/explore/Presses.hpp"
@@ -90,8 +91,8 @@ std::optional<Violation> EffectChecker::check(const Step& step,
   return firstOf([&] { return checkPinSwitch(step); }, [&] { return checkPreventSwitch(step); },
                  [&] { return checkStoredChoices(step, configuration); },
                  [&] { return checkStop(step, configuration); }, [&] { return checkRequest(step); },
-                 [&] { return checkLinks(step); }, [&] { return checkPickers(step); },
-                 [&] { return checkLoginSwitch(step); },
+                 [&] { return checkGrant(step); }, [&] { return checkLinks(step); },
+                 [&] { return checkPickers(step); }, [&] { return checkLoginSwitch(step); },
                  [&] { return checkCards(step, configuration); }, [&] { return checkGuide(step); },
                  [&] { return checkMenu(step, configuration); });
 }
@@ -167,6 +168,26 @@ EffectChecker::Check EffectChecker::checkRequest(const Step& step) {
   return guideIsDueSince_ && after.now - *guideIsDueSince_ > guideDelay
              ? Check(Violation{"guide", "it did not appear after the alert", "guide.visible true"})
              : std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkGrant(const Step& step) {
+  const Observation& before = step.before;
+  const Observation& after = step.after;
+  const bool isRequest = pressesPin(step) || pressesPrevent(step);
+  const bool leadsOn = presses(step, &Labels::openPrivacySettings, "alert") ||
+                       step.operation.ends_with(" in system") || step.line == "drop icon";
+  if (isRequest && !before.isModal && after.isModal && before.stored.selected) {
+    isRequested_ = true;
+  } else if (step.isUserAction() && !leadsOn) {
+    isRequested_ = false;
+  }
+  const bool hasSucceeded = before.guideState != PermissionGuideState::success &&
+                            after.guideState == PermissionGuideState::success;
+  if (!hasSucceeded || !std::exchange(isRequested_, false) || after.stored.wants) {
+    return std::nullopt;
+  }
+  return Violation{"effect", "the granted permission did not switch on the requested lock",
+                   "defaults.isOrvaneEnabled true"};
 }
 
 EffectChecker::Check EffectChecker::checkAlert(const Step& step) {

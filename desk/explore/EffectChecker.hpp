@@ -42,12 +42,15 @@ class EffectChecker {
   [[nodiscard]] Check checkCards(const Step& step, const DisplayConfiguration& configuration) const;
   [[nodiscard]] Check checkStoredChoices(const Step& step,
                                          const DisplayConfiguration& configuration) const;
+  [[nodiscard]] Check checkGrant(const Step& step);
   [[nodiscard]] Check checkAlert(const Step& step);
   [[nodiscard]] Check checkGuide(const Step& step) const;
   [[nodiscard]] Check checkMenu(const Step& step, const DisplayConfiguration& configuration) const;
 
   /// The system has refused a tap or its source since the permission was last good.
   bool mayBeStale_ = false;
+  /// The user has requested a lock without the permission, and done nothing since but grant it.
+  bool isRequested_ = false;
   /// The waiting guard has shut itself off, or was refused a tap, since it was last notified.
   bool mayWait_ = false;
   /// All in nanoseconds by the machine's clock. The last time at which the alert or the guide was

@@ -145,11 +145,11 @@ std::optional<Violation> InvariantChecker::check(const Step& step) {
   }
   return firstOf([&] { return checkDock(before, after); }, [&] { return checkPermission(after); },
                  [&] { return checkGuard(before, after); }, [&] { return disabling_.check(step); },
-                 [&] { return checkModel(after); }, [&] { return checkTimers(after); },
-                 [&] { return checkStatus(after); }, [&] { return checkIcon(after); },
-                 [&] { return checkAnnouncement(before, after); }, [&] { return checkMenu(after); },
-                 [&] { return checkMainPanel(after); }, [&] { return checkSettings(after); },
-                 [&] { return checkTexts(after); },
+                 [&] { return checkModel(after); }, [&] { return checkMessages(step); },
+                 [&] { return checkTimers(after); }, [&] { return checkStatus(after); },
+                 [&] { return checkIcon(after); }, [&] { return checkAnnouncement(before, after); },
+                 [&] { return checkMenu(after); }, [&] { return checkMainPanel(after); },
+                 [&] { return checkSettings(after); }, [&] { return checkTexts(after); },
                  [&] { return effects_.check(step, DisplayConfiguration::of(machine_)); });
 }
 
@@ -207,6 +207,27 @@ InvariantChecker::Check InvariantChecker::checkTimers(const Observation& after) 
                                    std::to_string(expected)};
   }
   return std::nullopt;
+}
+
+InvariantChecker::Check InvariantChecker::checkMessages(const Step& step) {
+  const Observation& before = step.before;
+  const Observation& after = step.after;
+  const bool isQuiet = step.line.starts_with("advance") && step.isWithinRun() &&
+                       before.stored == after.stored && before.isTrusted == after.isTrusted &&
+                       before.isGuardRunning == after.isGuardRunning &&
+                       before.isTapEnabled == after.isTapEnabled && !wasStale_ && !isStale() &&
+                       !before.isQueueHeld && !after.isQueueHeld && !step.wasNotified &&
+                       before.snapshot.isPermissionStale == after.snapshot.isPermissionStale &&
+                       after.isTapEnabled == after.isGuardRunning;
+  if (!isQuiet) {
+    quietSince_ = after.now;
+    return std::nullopt;
+  }
+  // The application looks at the permission, the tap and the Dock once a second.
+  const bool isSettled = before.now - quietSince_ > 2 * Clock::nanosecondsPerSecond;
+  return isSettled && after.messageCount != before.messageCount
+             ? Check(Violation{"messages", "\"" + after.lastMessage + "\" without a reason"})
+             : std::nullopt;
 }
 
 InvariantChecker::Check InvariantChecker::checkDock(const Observation& before,

@@ -51,6 +51,7 @@ class InvariantChecker {
   [[nodiscard]] Check checkGuard(const Observation& before, const Observation& after);
   [[nodiscard]] Check checkGuardSettings(const GuardSnapshot& guard, const Stored& stored) const;
   [[nodiscard]] Check checkPermission(const Observation& after);
+  [[nodiscard]] Check checkMessages(const Step& step);
   [[nodiscard]] Check checkModel(const Observation& after) const;
   [[nodiscard]] Check checkStatus(const Observation& after) const;
   [[nodiscard]] Check checkKeys() const;
@@ -80,6 +81,8 @@ class InvariantChecker {
   /// The press that the running line amounts to, or the line.
   std::string operation_;
   std::map<std::string, std::int64_t> wrongSince_;
+  /// Since when the state of the guard and its surroundings have been the same, in nanoseconds.
+  std::int64_t quietSince_ = 0;
   /// When the permission was last seen missing, in nanoseconds.
   std::optional<std::int64_t> untrustedAt_;
   /// Texts in any language: names of displays, messages of the system.
