@@ -10,6 +10,7 @@ using PangoContext = struct _PangoContext;
 using PangoFontMap = struct _PangoFontMap;
 using PangoLayout = struct _PangoLayout;
 using RsvgHandle = struct _RsvgHandle;
+// NOLINTNEXTLINE(readability-identifier-naming): GLib's own name
 extern "C" void g_object_unref(void* object);
 
 namespace orvane::desk {

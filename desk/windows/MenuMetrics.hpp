@@ -5,9 +5,7 @@
 #include "Orvane/ui/draw/Font.hpp"
 #include "desk/windows/HostedView.hpp"
 
-namespace orvane::desk {
-
-namespace MenuMetrics {
+namespace orvane::desk::MenuMetrics {
 
 inline constexpr ui::Font font = ui::Font::system(13);
 inline constexpr double cornerRadius = 8;
@@ -28,6 +26,4 @@ inline double heightOf(const appkit::MenuItem& item, const HostedView* view) {
   return item.isSeparator ? separatorHeight : rowHeight;
 }
 
-}  // namespace MenuMetrics
-
-}  // namespace orvane::desk
+}  // namespace orvane::desk::MenuMetrics

@@ -41,6 +41,7 @@ TEST_F(ImageLibraryTest, AnImageIsStretchedToItsRectangle) {
 TEST_F(ImageLibraryTest, AStrongReductionKeepsTheMeanOfThePixels) {
   const SurfacePointer whole = icon();
   constexpr int side = 256;
+  constexpr double count = side * side;
   Pixel sum;
   for (int y = 0; y < side; ++y) {
     for (int x = 0; x < side; ++x) {
@@ -50,8 +51,8 @@ TEST_F(ImageLibraryTest, AStrongReductionKeepsTheMeanOfThePixels) {
     }
   }
   begin(1, 1).image("AppIcon", {0, 0, 1, 1});
-  EXPECT_NEAR(at(0, 0).red, sum.red / side / side, 4);
-  EXPECT_NEAR(at(0, 0).alpha, sum.alpha / side / side, 4);
+  EXPECT_NEAR(at(0, 0).red, sum.red / count, 4);
+  EXPECT_NEAR(at(0, 0).alpha, sum.alpha / count, 4);
 }
 
 TEST_F(ImageLibraryTest, ARemovedImageIsNotShown) {
