@@ -27,7 +27,8 @@ void forgetOlderThan(std::deque<std::int64_t>& times, std::int64_t age, std::int
 std::optional<Violation> DisablingWatch::check(const Step& step) {
   const Observation& before = step.before;
   const Observation& after = step.after;
-  if (!step.isWithinRun() || !before.isGuardRunning) {
+  // A guard that has shut itself off and is back by now has forgotten them, too.
+  if (!step.isWithinRun() || !before.isGuardRunning || step.filter.hasShutOff) {
     certain_.clear();
   }
   forgetOlderThan(possible_, window + replacement + rounding, after.now);

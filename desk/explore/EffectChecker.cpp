@@ -126,7 +126,8 @@ EffectChecker::Check EffectChecker::checkWait(const Step& step,
   const bool hasEdges = configuration.edge && !configuration.forbiddenEdgePoints(goal).empty();
   const bool canStart = hasEdges && after.isTrusted && !mayBeStale_ && !step.isStale;
   // A guard that pauses although its edges stay has shut itself off, or was refused a tap.
-  const bool hasPaused = step.before.isGuardRunning && after.isGuardWaiting && hasEdges;
+  const bool hasPaused =
+      step.filter.hasShutOff || (step.before.isGuardRunning && after.isGuardWaiting && hasEdges);
   if (!after.isGuardWaiting || step.wasNotified) {
     mayWait_ = false;
   }
@@ -176,10 +177,15 @@ EffectChecker::Check EffectChecker::checkGrant(const Step& step) {
   const bool isRequest = pressesPin(step) || pressesPrevent(step);
   const bool leadsOn = presses(step, &Labels::openPrivacySettings, "alert") ||
                        step.operation.ends_with(" in system") || step.line == "drop icon";
-  if (isRequest && !before.isModal && after.isModal && before.stored.selected) {
+  // An earlier request may have a guide that is open or due, and succeeds first.
+  const bool isFirst = !lastDialogueAt_ || before.now - *lastDialogueAt_ > guideDelay;
+  if (isRequest && isFirst && !before.isModal && after.isModal && before.stored.selected) {
     isRequested_ = true;
   } else if (step.isUserAction() && !leadsOn) {
     isRequested_ = false;
+  }
+  if (before.isModal || after.isModal || before.isGuideOpen || after.isGuideOpen) {
+    lastDialogueAt_ = after.now;
   }
   const bool hasSucceeded = before.guideState != PermissionGuideState::success &&
                             after.guideState == PermissionGuideState::success;

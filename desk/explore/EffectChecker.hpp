@@ -57,6 +57,8 @@ class EffectChecker {
   /// open for a request that the user made after the last choice.
   std::optional<std::int64_t> askedAt_;
   std::optional<std::int64_t> lastAlertAt_;
+  /// The last time at which the alert or the guide was open.
+  std::optional<std::int64_t> lastDialogueAt_;
   /// When the user chose to open System Settings, until the guide appears.
   std::optional<std::int64_t> guideIsDueSince_;
   std::optional<std::int64_t> canStartSince_;

@@ -212,13 +212,13 @@ InvariantChecker::Check InvariantChecker::checkTimers(const Observation& after) 
 InvariantChecker::Check InvariantChecker::checkMessages(const Step& step) {
   const Observation& before = step.before;
   const Observation& after = step.after;
-  const bool isQuiet = step.line.starts_with("advance") && step.isWithinRun() &&
-                       before.stored == after.stored && before.isTrusted == after.isTrusted &&
-                       before.isGuardRunning == after.isGuardRunning &&
-                       before.isTapEnabled == after.isTapEnabled && !wasStale_ && !isStale() &&
-                       !before.isQueueHeld && !after.isQueueHeld && !step.wasNotified &&
-                       before.snapshot.isPermissionStale == after.snapshot.isPermissionStale &&
-                       after.isTapEnabled == after.isGuardRunning;
+  const bool isQuiet =
+      step.line.starts_with("advance") && step.isWithinRun() && before.stored == after.stored &&
+      before.isTrusted == after.isTrusted && before.isGuardRunning == after.isGuardRunning &&
+      before.isTapEnabled == after.isTapEnabled && !wasStale_ && !isStale() &&
+      !before.isQueueHeld && !after.isQueueHeld && !before.isGuideOpen && !step.wasNotified &&
+      before.snapshot.isPermissionStale == after.snapshot.isPermissionStale &&
+      after.isTapEnabled == after.isGuardRunning;
   if (!isQuiet) {
     quietSince_ = after.now;
     return std::nullopt;
