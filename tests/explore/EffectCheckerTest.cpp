@@ -97,7 +97,7 @@ TEST_F(EffectCheckerTest, TheLockComesBackWithThePermission) {
 TEST_F(EffectCheckerTest, NoSecondAlertAppearsWithinASecond) {
   const auto open = [&] {
     after.isModal = true;
-    return violationOf("advance 0");
+    return violationOf("click 1 1");
   };
   EXPECT_EQ(open(), "");
   machine().advance(0.9);

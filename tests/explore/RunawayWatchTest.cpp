@@ -26,10 +26,10 @@ TEST(RunawayWatch, RequiresAShutOffWithTheBlockNumber180) {
 }
 
 TEST(RunawayWatch, AcceptsAShutOffOnlyThen) {
-  RunawayWatch first;
-  EXPECT_FALSE(isViolated(first, 180, second / 100, true));
-  RunawayWatch second;
-  EXPECT_TRUE(isViolated(second, 179, 1000, true));
+  RunawayWatch inTime;
+  EXPECT_FALSE(isViolated(inTime, 180, second / 100, true));
+  RunawayWatch early;
+  EXPECT_TRUE(isViolated(early, 179, 1000, true));
 }
 
 TEST(RunawayWatch, ForgetsBlocksAfterTwoSeconds) {
