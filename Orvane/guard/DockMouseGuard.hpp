@@ -86,8 +86,8 @@ class DockMouseGuard {
   void handleDisabledTap();
   /// Records that the system has disabled the tap. True when that reaches the limit.
   [[nodiscard]] bool recordDisabling();
-  /// Disables the tap at once and has the main queue remove it. Only a display change or the next
-  /// start resumes the guard.
+  /// Disables the tap at once and has the main queue remove it. Only a change of the displays or of
+  /// the Dock's edge, or the next start, resumes the guard.
   void shutOff();
   void finishShutOff();
 
