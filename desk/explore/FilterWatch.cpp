@@ -55,6 +55,10 @@ void FilterWatch::beginStep() {
 
 void FilterWatch::noteSettings() {
   Stored present = Stored::of(machine_.userDefaults);
+  if (settings_.empty() || !(settings_.back() == present)) {
+    // A guard that is switched to another mode is stopped, and forgets its blocks.
+    runaway_.beginStep();
+  }
   if (!machine_.runLoop.isMainQueueHeld()) {
     settings_.clear();
   }
