@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "Orvane/base/Require.hpp"
+#include "Orvane/geometry/DockUtils.hpp"
 #include "Orvane/geometry/OrvaneGeometry.hpp"
 #include "Orvane/geometry/OrvaneScreen.hpp"
 #include "Orvane/guard/DockMouseGuardMessages.hpp"

@@ -15,7 +15,7 @@
 #include "Orvane/base/CFRef.hpp"
 #include "Orvane/base/Lifetime.hpp"
 #include "Orvane/geometry/DisplaySnapshot.hpp"
-#include "Orvane/geometry/DockUtils.hpp"
+#include "Orvane/geometry/DockPosition.hpp"
 #include "Orvane/geometry/TriggerZone.hpp"
 #include "Orvane/guard/GuardSnapshot.hpp"
 #include "Orvane/guard/OrvaneModifier.hpp"

@@ -2,7 +2,6 @@
 #include "desk/explore/DisablingWatch.hpp"
 
 #include <cstddef>
-#include <string_view>
 
 namespace orvane::desk::explore {
 

@@ -62,9 +62,9 @@ class [[nodiscard]] View {
   View height(double height, Alignment alignment = Alignment::center()) const;
   /// Grows to the proposed width, at most to the maximum.
   View maximumWidth(double maximum = infinity, Alignment alignment = Alignment::center()) const;
-  /// Takes its ideal size, or its ideal height for the proposed width, whatever is proposed: a text
-  /// is never truncated.
+  /// Ignores the proposal and takes the ideal size, so a text is never truncated.
   View fixedSize() const;
+  /// Ignores the proposed height and takes the ideal height for the proposed width.
   View fixedSizeVertical() const;
 
   // Layers. Each is proposed the size of the view and does not change it.
