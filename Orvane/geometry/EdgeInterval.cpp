@@ -29,9 +29,7 @@ std::vector<EdgeInterval> EdgeInterval::subtract(EdgeInterval whole,
     }
   };
   for (const EdgeInterval& gap : merge(std::move(removed))) {
-    if (cursor < gap.start) {
-      keepUpTo(std::min(gap.start, whole.end));
-    }
+    keepUpTo(std::min(gap.start, whole.end));
     cursor = std::max(cursor, gap.end);
   }
   keepUpTo(whole.end);

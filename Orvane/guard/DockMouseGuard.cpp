@@ -112,8 +112,6 @@ void DockMouseGuard::followDock() {
   const DockPosition present = DockUtils::getDockPosition();
   const bool isKnown = present != DockPosition::top && present != DockPosition::unknown;
   if (isKnown && present != dockPosition_) {
-    // Also when the target is missing, so that the zones are not computed.
-    dockPosition_ = present;
     handleScreenConfigChanged();
   }
 }
@@ -135,9 +133,6 @@ std::vector<TriggerZone> DockMouseGuard::currentTriggerZones(
       everyIndex.insert(index);
     }
     return OrvaneGeometry::calculateTriggerZones(frames, everyIndex, dockPosition_);
-  }
-  if (lockedDisplayIdentifier_.empty()) {
-    return {};
   }
   const auto lockedIndex = OrvaneScreen::orvaneFindScreen(lockedDisplayIdentifier_, screens);
   if (!lockedIndex) {
@@ -176,16 +171,13 @@ void DockMouseGuard::setupEventTap() {
 void DockMouseGuard::removeEventTap() {
   if (eventTap_) {
     CGEventTapEnable(eventTap_.get(), false);
-    if (runLoopSource_) {
-      CFRunLoopRemoveSource(CFRunLoopGetCurrent(), runLoopSource_.get(), kCFRunLoopCommonModes);
-    }
+    CFRunLoopRemoveSource(CFRunLoopGetCurrent(), runLoopSource_.get(), kCFRunLoopCommonModes);
     // A port that is not invalidated slows down the whole system.
     CFMachPortInvalidate(eventTap_.get());
   }
   runLoopSource_.reset();
   eventTap_.reset();
   isShutOff_ = false;
-  wasRevived_ = false;
 }
 
 void DockMouseGuard::observeScreenChanges() {
@@ -210,16 +202,13 @@ void DockMouseGuard::handleScreenConfigChanged() {
 }
 
 void DockMouseGuard::updateForScreens(std::span<const appkit::Screen> screens) {
-  if (!blocksAllDisplays_ && !lockedDisplayIdentifier_.empty() &&
-      !OrvaneScreen::orvaneFindScreen(lockedDisplayIdentifier_, screens)) {
-    cachedTriggerZones_.clear();
-    pause();
-    emit(DockMouseGuardMessages::targetUnavailable());
-    return;
-  }
   refreshTriggerZones(screens);
   if (cachedTriggerZones_.empty()) {
     pause();
+    if (!blocksAllDisplays_ && !lockedDisplayIdentifier_.empty() &&
+        !OrvaneScreen::orvaneFindScreen(lockedDisplayIdentifier_, screens)) {
+      emit(DockMouseGuardMessages::targetUnavailable());
+    }
     return;
   }
   if (!eventTap_) {

@@ -36,6 +36,13 @@ TEST(OrvaneGeometryTest, AMirrorIsNotANeighbour) {
   EXPECT_EQ(exposedIntervals(flat, bottom, Frames{flat, flat}), (Intervals{{0, 100}}));
 }
 
+TEST(OrvaneGeometryTest, ANeighbourAlongHalfAPointIsIgnored) {
+  const CGRect half{{1919.5, 1080}, {800, 600}};
+  EXPECT_EQ(exposedIntervals(displayA, bottom, Frames{displayA, half}), (Intervals{{0, 1920}}));
+  const CGRect more{{1919.25, 1080}, {800, 600}};
+  EXPECT_EQ(exposedIntervals(displayA, bottom, Frames{displayA, more}), (Intervals{{0, 1919.25}}));
+}
+
 TEST(OrvaneGeometryTest, TopAndUnknownGiveNoZones) {
   const Frames frames{displayA, {{1920, 0}, {1920, 1080}}};
   for (const DockPosition position : {DockPosition::top, DockPosition::unknown}) {
