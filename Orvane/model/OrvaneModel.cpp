@@ -134,7 +134,6 @@ void OrvaneModel::setSelectedDisplayID(std::optional<std::string> id) {
 }
 
 void OrvaneModel::setHidesDockOnAllDisplays(bool hides) {
-  modeRequest_ = 0;
   hidesDockOnAllDisplays_.set(hides);
   OrvaneSettings::setHidesDockOnAllDisplays(hides);
   if (hasAccessibilityPermission_.value()) {

@@ -167,9 +167,9 @@ class OrvaneModel {
   void stopActiveLockIfNeeded();
   void restartGuardIfRunning();
   void requestAccessibilityForAllDisplayGuard();
-  /// Requests the permission and then calls `start` with the number of this request, unless a later
-  /// user action has started or stopped the guard by then.
-  void requestPermission(std::function<void(std::uint64_t request)> start);
+  /// Requests the permission and then calls `start`, unless a later user action has started or
+  /// stopped the guard by then.
+  void requestPermission(std::function<void()> start);
   void setSelectedDisplayID(std::optional<std::string> id);
   void noteChecked();
 
@@ -187,8 +187,6 @@ class OrvaneModel {
   /// determines the guard's state.
   std::uint64_t userActionCount_ = 0;
   std::uint64_t lastUserAction_ = 0;
-  /// The request that chose the present mode; 0 when the user chose it directly.
-  std::uint64_t modeRequest_ = 0;
   Published<OrvaneLanguage> appLanguage_;
   Published<OrvaneModifier> temporaryUnlockModifier_;
   Published<bool> hidesDockOnAllDisplays_;

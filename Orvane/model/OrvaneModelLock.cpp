@@ -63,10 +63,10 @@ void OrvaneModel::toggleLock() {
   if (hasAccessibilityPermission_.value()) {
     start();
   } else {
-    requestPermission([this, start](std::uint64_t request) {
-      // An earlier request has set its mode since this request was made.
-      if (modeRequest_ != 0 && modeRequest_ < request) {
-        setHidesDockOnAllDisplays(false);
+    requestPermission([this, start, prevents = hidesDockOnAllDisplays_.value()] {
+      // An earlier request may have changed the mode in the meantime.
+      if (hidesDockOnAllDisplays_.value() != prevents) {
+        setHidesDockOnAllDisplays(prevents);
       }
       start();
     });
@@ -106,15 +106,14 @@ void OrvaneModel::toggleHideDockOnAllDisplays() {
 }
 
 void OrvaneModel::requestAccessibilityForAllDisplayGuard() {
-  requestPermission([this](std::uint64_t request) {
+  requestPermission([this] {
     stopActiveLockIfNeeded();
     setHidesDockOnAllDisplays(true);
-    modeRequest_ = request;
     toggleLock();
   });
 }
 
-void OrvaneModel::requestPermission(std::function<void(std::uint64_t request)> start) {
+void OrvaneModel::requestPermission(std::function<void()> start) {
   OrvaneAccessibilityPermission::check(
       lifetime_.whileAlive([this, start = std::move(start), request = ++userActionCount_] {
         if (request < lastUserAction_) {
@@ -122,7 +121,7 @@ void OrvaneModel::requestPermission(std::function<void(std::uint64_t request)> s
         }
         clearStalePermission();
         refreshDisplays();
-        start(request);
+        start();
         // The start counts as old as its request, so that a later request still supersedes it.
         lastUserAction_ = request;
       }));

@@ -79,6 +79,9 @@ void EffectChecker::track(const Step& step) {
 std::optional<Violation> EffectChecker::check(const Step& step,
                                               const DisplayConfiguration& configuration) {
   track(step);
+  if (step.after.snapshot.isPermissionStale && !mayBeStale_) {
+    return Violation{"permission", "it counts as stale although the system refused no tap"};
+  }
   if (Check found = firstOf([&] { return checkLaunch(step, configuration); },
                             [&] { return checkReturnOfPermission(step, configuration); },
                             [&] { return checkWait(step, configuration); },
@@ -108,7 +111,9 @@ EffectChecker::Check EffectChecker::checkLaunch(const Step& step,
 
 EffectChecker::Check EffectChecker::checkReturnOfPermission(
     const Step& step, const DisplayConfiguration& configuration) {
-  if (!step.after.isLaunched || step.after.isGuardRunning || !step.after.stored.wants ||
+  // A guard that shuts itself off in the step has come back.
+  const bool isBack = step.after.isGuardRunning || step.filter.hasShutOff;
+  if (!step.after.isLaunched || isBack || !step.after.stored.wants ||
       !canRun(step, configuration)) {
     permissionReturnedAt_.reset();
   }
@@ -180,20 +185,24 @@ EffectChecker::Check EffectChecker::checkGrant(const Step& step) {
   // An earlier request may have a guide that is open or due, and succeeds first.
   const bool isFirst = !lastDialogueAt_ || before.now - *lastDialogueAt_ > guideDelay;
   if (isRequest && isFirst && !before.isModal && after.isModal && before.stored.selected) {
-    isRequested_ = true;
+    requestedPrevention_ = pressesPrevent(step);
   } else if (step.isUserAction() && !leadsOn) {
-    isRequested_ = false;
+    requestedPrevention_.reset();
   }
   if (before.isModal || after.isModal || before.isGuideOpen || after.isGuideOpen) {
     lastDialogueAt_ = after.now;
   }
   const bool hasSucceeded = before.guideState != PermissionGuideState::success &&
                             after.guideState == PermissionGuideState::success;
-  if (!hasSucceeded || !std::exchange(isRequested_, false) || after.stored.wants) {
+  if (!hasSucceeded) {
+    return std::nullopt;
+  }
+  const std::optional<bool> prevents = std::exchange(requestedPrevention_, std::nullopt);
+  if (!prevents || (after.stored.wants && after.stored.prevents == *prevents)) {
     return std::nullopt;
   }
   return Violation{"effect", "the granted permission did not switch on the requested lock",
-                   "defaults.isOrvaneEnabled true"};
+                   "model.hidesDockOnAllDisplays " + std::string(*prevents ? "true" : "false")};
 }
 
 EffectChecker::Check EffectChecker::checkAlert(const Step& step) {

@@ -49,8 +49,9 @@ class EffectChecker {
 
   /// The system has refused a tap or its source since the permission was last good.
   bool mayBeStale_ = false;
-  /// The user has requested a lock without the permission, and done nothing since but grant it.
-  bool isRequested_ = false;
+  /// The user has requested a lock without the permission, and done nothing since but grant it:
+  /// whether it is to prevent.
+  std::optional<bool> requestedPrevention_;
   /// The waiting guard has shut itself off, or was refused a tap, since it was last notified.
   bool mayWait_ = false;
   /// All in nanoseconds by the machine's clock. The last time at which the alert or the guide was

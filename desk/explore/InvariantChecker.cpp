@@ -112,8 +112,10 @@ Step InvariantChecker::endStep(const std::string& line, bool hasRun, const Obser
   } else {
     filter_.addConfiguration();
   }
-  // A click that makes the Dock slide away has two effects.
-  if (!Operations::hasReachedTarget(line) || wasNotified_) {
+  // A click that makes the Dock slide away has two effects. One that updates a panel to another
+  // language may move the control away from the pointer.
+  const bool mayMoveControls = languages_.size() > 1 && firstWord(line) == "click";
+  if (!Operations::hasReachedTarget(line) || wasNotified_ || mayMoveControls) {
     operation_ = line;
   }
   operations_.note(after);

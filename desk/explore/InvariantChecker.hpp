@@ -95,6 +95,8 @@ class InvariantChecker {
   bool hasListed_ = false;
   /// The application was notified of its displays in this step.
   bool wasNotified_ = false;
+  /// A guard whose lock was announced has lost the permission, which is yet to be announced.
+  bool isLossUnannounced_ = false;
   /// The target at the last announcement.
   std::optional<std::string> announcedTarget_;
   std::map<std::uint32_t, std::int64_t> revealsBefore_;

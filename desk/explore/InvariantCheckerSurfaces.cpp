@@ -15,6 +15,21 @@ namespace {
 constexpr std::int64_t guideTimeout = 13 * Clock::nanosecondsPerSecond;
 constexpr std::int64_t guideSuccess = 5 * Clock::nanosecondsPerSecond;
 
+/// The application looks for something to announce once a second.
+constexpr std::int64_t announcementDelay = 2 * Clock::nanosecondsPerSecond;
+
+bool contains(const std::string& text, std::string_view part) {
+  return text.find(part) != std::string::npos;
+}
+
+bool announcesPin(const std::string& text) {
+  return contains(text, "is pinned to") || contains(text, "已固定到");
+}
+
+bool announcesPrevention(const std::string& text) {
+  return contains(text, "is kept from popping up") || contains(text, "已防止");
+}
+
 bool hasPopUpWith(const ui::SemanticsNode& tree, const std::string& value) {
   return findElement(tree,
                      [&](const ui::SemanticsNode& node) {
@@ -58,37 +73,47 @@ InvariantChecker::Check InvariantChecker::checkIcon(const Observation& after) {
 
 InvariantChecker::Check InvariantChecker::checkAnnouncement(const Observation& before,
                                                             const Observation& after) {
-  const auto says = [&](std::string_view text) {
-    return after.lastAnnouncement.find(text) != std::string::npos;
-  };
-  const bool pins = says("is pinned to") || says("已固定到");
-  const bool prevents = says("is kept from popping up") || says("已防止");
+  const std::string& said = after.lastAnnouncement;
+  const bool pins = announcesPin(said);
+  const bool prevents = announcesPrevention(said);
   const bool isExpected = pins == (after.isGuardRunning && !after.stored.prevents) &&
                           prevents == (after.isGuardRunning && after.stored.prevents);
   // The application looks once a second, and the guard may stop and start in between.
-  if (isOverdue("announcement", !isExpected, after.now, 2 * Clock::nanosecondsPerSecond)) {
-    return Violation{"announcement", "the last one was \"" + after.lastAnnouncement + "\""};
+  if (isOverdue("announcement", !isExpected, after.now, announcementDelay)) {
+    return Violation{"announcement", "the last one was \"" + said + "\""};
+  }
+  if (!before.isLaunched || after.isTrusted || !after.stored.wants) {
+    isLossUnannounced_ = false;
+  } else if (before.isTrusted && before.isGuardRunning) {
+    isLossUnannounced_ =
+        announcesPin(before.lastAnnouncement) || announcesPrevention(before.lastAnnouncement);
+  }
+  isLossUnannounced_ = isLossUnannounced_ && !contains(said, "permission is missing") &&
+                       !contains(said, "缺少辅助功能权限");
+  if (isOverdue("lost permission", isLossUnannounced_, after.now, announcementDelay)) {
+    return Violation{"announcement", "the loss of the permission was not announced"};
   }
   if (after.announcementCount <= before.announcementCount) {
     return std::nullopt;
   }
-  if (!isInLanguage(languages_, after.lastAnnouncement)) {
-    return Violation{"texts", "\"" + after.lastAnnouncement + "\" was announced"};
+  if (!isInLanguage(languages_, said)) {
+    return Violation{"texts", "\"" + said + "\" was announced"};
   }
   const auto target = std::ranges::find_if(
       after.snapshot.displays,
       [&](const DisplaySnapshot& display) { return display.id == after.stored.selected; });
-  // Tasks that a modal session has held back run before the displays are listed anew.
-  if (pins && !before.isQueueHeld && target != after.snapshot.displays.end() &&
-      !says(target->name)) {
+  // Tasks that a modal session has held back run before the displays are listed anew. The pin may
+  // be announced before the step chooses a target, which then is announced in the next second.
+  const bool mayNameAnother = before.isQueueHeld || before.stored.selected != after.stored.selected;
+  if (pins && !mayNameAnother && target != after.snapshot.displays.end() &&
+      !contains(said, target->name)) {
     return Violation{"announcement", "it names another display than " + target->name};
   }
   // The end of a missing permission is not announced, so the next one is announced in the same
   // words.
-  const bool isRepeated = (pins || prevents) &&
-                          after.announcementCount == before.announcementCount + 1 &&
-                          after.lastAnnouncement == before.lastAnnouncement &&
-                          announcedTarget_ == after.stored.selected;
+  const bool isRepeated =
+      (pins || prevents) && after.announcementCount == before.announcementCount + 1 &&
+      said == before.lastAnnouncement && announcedTarget_ == after.stored.selected;
   announcedTarget_ = after.stored.selected;
   return isRepeated ? Check(Violation{"announcement", "it was repeated"}) : std::nullopt;
 }

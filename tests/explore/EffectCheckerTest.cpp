@@ -81,6 +81,24 @@ TEST_F(EffectCheckerTest, ALockWithoutThePermissionRequestsIt) {
   EXPECT_EQ(violationOf("do toggleSelectedDisplayLock"), "");
 }
 
+TEST_F(EffectCheckerTest, AGrantSwitchesOnTheRequestedMode) {
+  before.isTrusted = after.isTrusted = false;
+  after.isModal = true;
+  EXPECT_EQ(violationOf("press \"Prevent Dock Pop-Up\" in menu"), "");
+  before.isModal = after.isModal = false;
+  before.guideState = PermissionGuideState::checking;
+  after.guideState = PermissionGuideState::success;
+  after.isTrusted = true;
+  before.stored.wants = after.stored.wants = true;
+  machine().advance(1);
+  const EffectChecker requested = checker;
+  EXPECT_EQ(violationOf("advance 1"),
+            "the granted permission did not switch on the requested lock");
+  checker = requested;
+  before.stored.prevents = after.stored.prevents = true;
+  EXPECT_EQ(violationOf("advance 1"), "");
+}
+
 TEST_F(EffectCheckerTest, TheLockComesBackWithThePermission) {
   before.stored.wants = after.stored.wants = true;
   after.isTrusted = false;
@@ -92,6 +110,13 @@ TEST_F(EffectCheckerTest, TheLockComesBackWithThePermission) {
   machine().advance(1.1);
   before.isTrusted = true;
   EXPECT_EQ(violationOf("advance 1.1"), "the lock did not come back with the permission");
+}
+
+TEST_F(EffectCheckerTest, OnlyARefusedTapMakesThePermissionStale) {
+  after.snapshot.isPermissionStale = true;
+  EXPECT_NE(violationOf("advance 1"), "");
+  machine().eventTaps.setRefusesCreation(true);
+  EXPECT_EQ(violationOf("advance 1"), "");
 }
 
 TEST_F(EffectCheckerTest, NoSecondAlertAppearsWithinASecond) {

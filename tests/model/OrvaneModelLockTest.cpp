@@ -149,6 +149,28 @@ TEST_F(OrvaneModelLockTest, AGrantForPreventWritesTheModeEvenWhenItIsChosenAlrea
   EXPECT_TRUE(isPreventing());
 }
 
+TEST_F(OrvaneModelLockTest, AGrantStartsTheModeThatWasRequested) {
+  machine.permission.setTrusted(false);
+  launch().toggleHideDockOnAllDisplays();
+  machine.advance(2);
+  model->toggleSelectedDisplayLock();
+  machine.advance(2);
+  machine.permission.setTrusted(true);
+  prompts.at(0)();
+  EXPECT_TRUE(isPreventing());
+  prompts.at(1)();
+  EXPECT_TRUE(isPinned()) << "the later request counts";
+
+  model->toggleHideDockOnAllDisplays();
+  machine.permission.setTrusted(false);
+  model->suspendGuard();
+  model->toggleHideDockOnAllDisplays();
+  machine.advance(2);
+  machine.permission.setTrusted(true);
+  prompts.at(2)();
+  EXPECT_TRUE(isPreventing()) << "the mode had been chosen before";
+}
+
 // The displays change.
 
 TEST_F(OrvaneModelLockTest, AChangeRestartsAGuardThatRuns) {
