@@ -77,6 +77,25 @@ void InvariantChecker::beginStep(const std::string& line) {
   revealsBefore_ = machine_.dock.reveals();
 }
 
+void InvariantChecker::noteLanguages(const Observation& before, const Observation& after) {
+  const Language language = languageFor(after.stored.language, machine_.locale);
+  const bool isChosen = before.stored.language != after.stored.language;
+  if (isChosen || !before.isLaunched || !after.isLaunched) {
+    languages_.clear();
+  }
+  languages_.insert(language);
+  std::map<std::string, std::set<Language>> present;
+  for (const auto& [surface, tree] : after.trees) {
+    // The alert and the guide need not follow a choice while they are open.
+    const bool follows = isChosen && surface != "alert" && surface != "guide";
+    if (before.trees.contains(surface) && !follows) {
+      present[surface] = surfaceLanguages_[surface];
+    }
+    present[surface].insert(language);
+  }
+  surfaceLanguages_ = std::move(present);
+}
+
 Step InvariantChecker::endStep(const std::string& line, bool hasRun, const Observation& before,
                                const Observation& after) {
   if (firstWord(line) == "defaults") {
@@ -96,15 +115,7 @@ Step InvariantChecker::endStep(const std::string& line, bool hasRun, const Obser
   if (!after.isLaunched) {
     wrongSince_.clear();
   }
-  const Language language = languageFor(after.stored.language, machine_.locale);
-  if (isLaunch || before.stored.language != after.stored.language || !after.isLaunched) {
-    languages_.clear();
-  }
-  languages_.insert(language);
-  if (!after.shows("alert") && !after.isGuideOpen) {
-    dialogueLanguages_.clear();
-  }
-  dialogueLanguages_.insert(languages_.begin(), languages_.end());
+  noteLanguages(before, after);
   if (isLaunch) {
     filter_.resetConfigurations();
     observeScreens();

@@ -45,6 +45,8 @@ class InvariantChecker {
   [[nodiscard]] bool isStale() const { return filter_.configurations().size() > 1; }
   void observeScreens();
 
+  void noteLanguages(const Observation& before, const Observation& after);
+
   [[nodiscard]] Check checkMachine(const Observation& after) const;
   [[nodiscard]] Check checkObjects(const Observation& after) const;
   [[nodiscard]] Check checkDock(const Observation& before, const Observation& after) const;
@@ -89,8 +91,8 @@ class InvariantChecker {
   std::set<std::string> names_;
   /// The languages that the application may show at present.
   std::set<Language> languages_;
-  /// The same for the alert and the guide, which need not follow a change while they are open.
-  std::set<Language> dialogueLanguages_;
+  /// The same for each surface. One that opens is in the present language.
+  std::map<std::string, std::set<Language>> surfaceLanguages_;
   /// The application has been notified of its displays since its launch.
   bool hasListed_ = false;
   /// The application was notified of its displays in this step.

@@ -270,8 +270,7 @@ bool InvariantChecker::isInLanguage(const std::set<Language>& languages,
 
 InvariantChecker::Check InvariantChecker::checkTexts(const Observation& after) const {
   for (const auto& [surface, tree] : after.trees) {
-    const bool isDialogue = surface == "alert" || surface == "guide";
-    const std::set<Language>& languages = isDialogue ? dialogueLanguages_ : languages_;
+    const std::set<Language>& languages = surfaceLanguages_.at(surface);
     for (const ui::SemanticsNode* const element : elementsOf(tree)) {
       for (const std::string* const text : {&element->label, &element->value}) {
         if (!isInLanguage(languages, *text)) {
