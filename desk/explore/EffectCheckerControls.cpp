@@ -6,6 +6,7 @@
 
 #include "desk/explore/EffectChecker.hpp"
 #include "desk/explore/Lines.hpp"
+#include "desk/explore/Operations.hpp"
 #include "desk/explore/Presses.hpp"
 #include "desk/hand/FindControl.hpp"
 
@@ -50,8 +51,9 @@ EffectChecker::Check EffectChecker::checkWindows(const Step& step) const {
     return Violation{"effect", "the panel was not minimised"};
   }
   for (const char* const surface : {"main", "settings", "guide"}) {
-    if (presses(step, &Labels::close, surface) && after.shows(surface)) {
-      return Violation{"effect", std::string(surface) + " did not close"};
+    const bool isClosed = presses(step, &Labels::close, surface);
+    if ((isClosed || step.operation == hidingOperation) && after.shows(surface)) {
+      return Violation{"effect", std::string(surface) + " is still shown"};
     }
   }
   if (presses(step, &Labels::quit, "menu") && after.isLaunched) {

@@ -57,7 +57,7 @@ std::string pressIn(const std::string& surface, const std::string& line, Predica
                                                static_cast<std::size_t>(found - controls.begin()));
 }
 
-/// The press that a shortcut stands for, with English labels; the line if it is none.
+/// The operation that a shortcut stands for, with English labels; the line if it is none.
 std::string pressByShortcut(const std::string& line, std::uint64_t modifiers) {
   const std::string surface = surfaceForKeys();
   const bool isPlain = modifiers == 0;
@@ -80,6 +80,9 @@ std::string pressByShortcut(const std::string& line, std::uint64_t modifiers) {
   }
   if (isCommand && line == "key m") {
     return surface == "main" ? press(labels.minimise, surface) : line;
+  }
+  if (isCommand && line == "key h") {
+    return hidingOperation;
   }
   if (isCommand && line == "key ,") {
     return press(labels.settings, Surfaces::menu);

@@ -10,6 +10,9 @@
 
 namespace orvane::desk::explore {
 
+/// The operation of the shortcut that hides the application; no control does that.
+constexpr const char* hidingOperation = "hide";
+
 class Operations {
  public:
   /// The line that presses the same control, if `line` clicks into its middle, types a space while
