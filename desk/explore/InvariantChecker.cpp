@@ -84,16 +84,26 @@ void InvariantChecker::noteLanguages(const Observation& before, const Observatio
     languages_.clear();
   }
   languages_.insert(language);
-  std::map<std::string, std::set<Language>> present;
-  for (const auto& [surface, tree] : after.trees) {
+  std::erase_if(surfaceLanguages_, [&](const auto& entry) {
+    const std::string& surface = entry.first;
+    // A panel that is minimised or hidden stays open.
+    const bool isOpen = after.trees.contains(surface) || (surface == "main" && after.isMainOpen) ||
+                        (surface == "settings" && after.isSettingsOpen) ||
+                        (surface == "guide" && after.isGuideOpen);
     // The alert and the guide need not follow a choice while they are open.
     const bool follows = isChosen && surface != "alert" && surface != "guide";
-    if (before.trees.contains(surface) && !follows) {
-      present[surface] = surfaceLanguages_[surface];
-    }
-    present[surface].insert(language);
+    return !isOpen || follows;
+  });
+  for (const auto& [surface, tree] : after.trees) {
+    surfaceLanguages_[surface];
   }
-  surfaceLanguages_ = std::move(present);
+  for (auto& [surface, languages] : surfaceLanguages_) {
+    languages.insert(language);
+  }
+  if (after.isMenuOpen && !after.isStatusMenuOpen) {
+    // A pop-up button's menu is in the language of its panel.
+    surfaceLanguages_["menu"] = languages_;
+  }
 }
 
 Step InvariantChecker::endStep(const std::string& line, bool hasRun, const Observation& before,

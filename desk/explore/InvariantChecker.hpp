@@ -91,7 +91,7 @@ class InvariantChecker {
   std::set<std::string> names_;
   /// The languages that the application may show at present.
   std::set<Language> languages_;
-  /// The same for each surface. One that opens is in the present language.
+  /// The same for each surface that is open. One that opens is in the present language.
   std::map<std::string, std::set<Language>> surfaceLanguages_;
   /// The application has been notified of its displays since its launch.
   bool hasListed_ = false;

@@ -86,7 +86,8 @@ class VerdictTest(unittest.TestCase):
                                   "add_executable(t tests/guard/t.cpp)\n",
                 "Orvane/guard/a.cpp": "int f(int a) {\n  int s = 0;\n  while (a != 0) {\n    s += a--;\n  }\n"
                                       "  if (s > 9) {\n    s = 9;\n  }\n  return s;\n}\n",
-                "desk.cpp": "int f(int);\nint main() { return f(5) == 9 ? 0 : 1; }\n",
+                "desk.cpp": "int f(int);\nint main(int, char** words) {\n"
+                            "  return *words[1] == 's' || f(5) == 9 ? 0 : 1;\n}\n",
                 "tests/guard/t.cpp": "int f(int);\nint main() { return f(3) == 6 ? 0 : 1; }\n",
             }
             for name, text in files.items():

@@ -17,9 +17,9 @@ TESTS = {
     "geometry": ["geometry", "guard"],
     "guard": ["guard", "model", "app"],
     "model": ["model", "app"],
-    "panels": ["panels", "gallery"],
+    "panels": ["panels", "gallery", "pictures"],
     "permission": ["permission", "model", "pictures"],
-    "ui": ["ui", "panels"],
+    "ui": ["ui", "panels", "pictures"],
     "windows": ["windows", "app"],
 }
 # Properties try the same cases for every mutant. Without ccache, which would keep every mutant, the
@@ -28,8 +28,8 @@ ENVIRONMENT = {**os.environ, "RC_PARAMS": "seed=20260101 max_success=100", "CCAC
 MEMORY_LIMIT = 4 << 30
 # A program that waits for ever uses no processor time.
 WALL_LIMIT_SECONDS = 3600
-# The explorer then tries what survives in the folders whose behaviour its invariants cover. The
-# days have fixed seeds and take about 10 seconds.
+# The scenarios try what survives, and then the explorer, in the folders whose behaviour its
+# invariants cover. The days have fixed seeds and take about 10 seconds.
 EXPLORED = {"app", "geometry", "guard", "model", "permission", "windows"}
 DESK = "orvane-desk"
 DAYS = 200
@@ -123,8 +123,7 @@ class Workshop:
                              if ": CXX_EXECUTABLE_LINKER" in line)
         self.programs[folder] = [name for test in TESTS[folder] for name in executables
                                  if name.startswith(f"tests/{test}/")]
-        if folder in EXPLORED:
-            self.programs[folder].append(DESK)
+        self.programs[folder].append(DESK)
         subprocess.run(["ninja", "-C", self.build, "--quiet", *self.programs[folder]], check=True,
                        env=ENVIRONMENT)
         for command in json.loads((self.build / "compile_commands.json").read_text(encoding="utf-8")):
@@ -135,10 +134,11 @@ class Workshop:
                 self.objects[source] = [*words[:target], str(self.mutant), *words[target + 1:]], code
         for program in self.programs[folder]:
             self.links[program] = self.link_command(program)
-            before = processor_seconds()
-            if not self.succeeds(program, self.build / program, WALL_LIMIT_SECONDS):
-                sys.exit(f"{program} fails without a fault")
-            self.limits[program] = 5 + int(10 * (processor_seconds() - before))
+            for arguments in self.arguments(folder, program):
+                before = processor_seconds()
+                if not passes(self.build / program, arguments, WALL_LIMIT_SECONDS):
+                    sys.exit(f"{program} {arguments[0]} fails without a fault")
+                self.limits[program, arguments] = 5 + int(10 * (processor_seconds() - before))
 
     def link_command(self, program):
         """The command that links a program as a mutant. The linker prefers the object to the same one
@@ -149,8 +149,12 @@ class Workshop:
         target = words.index("-o") + 1
         return [*words[:target], f"{program}.mutant", str(self.mutant), *words[target + 1:], *LINKER]
 
-    def succeeds(self, name, program, seconds):
-        return passes(program, EXPLORE_ARGUMENTS if name == DESK else TEST_ARGUMENTS, seconds)
+    def arguments(self, folder, program):
+        """The arguments of each run of a program."""
+        if program != DESK:
+            return [TEST_ARGUMENTS]
+        scenarios = ("script", *sorted(map(str, self.tree.glob("tests/scenarios/*.desk"))))
+        return [scenarios, EXPLORE_ARGUMENTS] if folder in EXPLORED else [scenarios]
 
     def runs(self, command):
         return subprocess.run(command, cwd=self.build, stdout=subprocess.DEVNULL,
@@ -182,7 +186,10 @@ class Workshop:
             return "same"
         for name in self.programs[folder]:
             # A program that does not need the object may lack what the object needs.
-            is_linked = self.runs(self.links[name])
-            if is_linked and not self.succeeds(name, self.build / f"{name}.mutant", self.limits[name]):
-                return "explored" if name == DESK else "killed"
+            if not self.runs(self.links[name]):
+                continue
+            for arguments in self.arguments(folder, name):
+                limit = self.limits[name, arguments]
+                if not passes(self.build / f"{name}.mutant", arguments, limit):
+                    return "explored" if arguments == EXPLORE_ARGUMENTS else "killed"
         return "survived"
