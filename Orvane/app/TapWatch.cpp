@@ -43,7 +43,7 @@ void TapWatch::check() {
   model_.followDock();
   if (const bool isBack = std::exchange(wasMissing_, false); model_.isGuardRunning()) {
     reviveTap();
-  } else if (isBack) {
+  } else if (isBack || model_.guardService().wasTapRefused()) {
     resumeGuard();
   }
 }

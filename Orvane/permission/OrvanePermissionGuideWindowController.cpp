@@ -78,8 +78,8 @@ std::optional<Screen> screenForGuide() {
 OrvanePermissionGuideWindowController::OrvanePermissionGuideWindowController()
     : panel_(makeGuidePanel()) {
   appkit::HostingView view([this](const ui::Environment& /*environment*/) -> ui::View {
-    return OrvanePermissionGuideView{.state = state_,
-                                     .onClose = lifetime_.whileAlive([this] { close(); })};
+    return OrvanePermissionGuideView{
+        .state = state_, .onClose = lifetime_.whileAlive([this] { closeForTheUser(); })};
   });
   panel_.setContentView(view);
   positionGuideWindow();
@@ -165,6 +165,16 @@ void OrvanePermissionGuideWindowController::handleSuccess() {
   }
   appkit::MainQueue::asyncAfter(closeAfterSuccessSeconds,
                                 lifetime_.whileAlive(closeUnlessShownAgain));
+}
+
+void OrvanePermissionGuideWindowController::closeForTheUser() {
+  const auto shown = showCount_;
+  if (checkTimer_ && AXIsProcessTrusted()) {
+    handleSuccess();
+  }
+  if (shown == showCount_) {
+    close();
+  }
 }
 
 void OrvanePermissionGuideWindowController::close() {

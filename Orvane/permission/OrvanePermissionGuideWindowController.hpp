@@ -47,6 +47,8 @@ class OrvanePermissionGuideWindowController {
   void startChecking();
   void check();
   void handleSuccess();
+  /// A permission that was granted since the last poll counts.
+  void closeForTheUser();
 
   PermissionGuideState state_ = PermissionGuideState::checking;
   appkit::Window panel_;

@@ -169,16 +169,19 @@ TEST_F(TapWatchTest, ATapThatIsRepeatedlyDisabledIsGivenUp) {
   EXPECT_TRUE(model->hasAccessibilityPermission().value());
 }
 
-TEST_F(TapWatchTest, ATapRefusedAtAUserActionMakesNoPermissionStale) {
+TEST_F(TapWatchTest, ATapRefusedAtAUserActionIsRequestedOnceMore) {
   launch();
   watch();
-  machine.eventTaps.setRefusesCreation(true);
-  model->toggleSelectedDisplayLock();
-  machine.advance(5);
-  EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
-  machine.eventTaps.setRefusesCreation(false);
-  machine.observers.post(appkit::NotificationName::accessibilityPermissionsDidChange);
-  EXPECT_TRUE(isTapEnabled());
+  for (const bool isRefusedAgain : {false, true}) {
+    machine.eventTaps.setRefusesCreation(true);
+    model->toggleSelectedDisplayLock();
+    EXPECT_EQ(model->status(), OrvaneStatus::unlocked);
+    machine.eventTaps.setRefusesCreation(isRefusedAgain);
+    machine.advance(TapWatch::intervalSeconds);
+    EXPECT_EQ(model->status(),
+              isRefusedAgain ? OrvaneStatus::permissionRequired : OrvaneStatus::locked);
+    model->suspendGuard();
+  }
 }
 
 TEST_F(TapWatchTest, AGuardThatShutItselfOffStaysOff) {

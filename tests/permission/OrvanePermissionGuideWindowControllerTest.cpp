@@ -223,6 +223,17 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItsBackgroundMovesItAndBothBut
   }
 }
 
+TEST_F(OrvanePermissionGuideWindowControllerTest, ClosedBeforeItPollsAgainItStillNoticesTheGrant) {
+  show("a");
+  press("Done", "guide");
+  EXPECT_EQ(granted, "") << "closed without the permission";
+  show("b");
+  grant();
+  press("Done", "guide");
+  EXPECT_EQ(granted, "b");
+  EXPECT_FALSE(isGuideVisible());
+}
+
 /// The pointer is on no screen.
 class PermissionGuidePlaceTest : public OrvanePermissionGuideWindowControllerTest {
  protected:
