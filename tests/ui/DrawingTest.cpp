@@ -118,7 +118,7 @@ TEST(DrawingTest, ClipsAndScalesEndWithTheirView) {
   EXPECT_EQ(drawn(Rectangle().fill(Color::white()).frame(10, 10).clip(Shape::circle()).scale(2),
                   {20, 20}),
             "save\n"
-            "  transform scale 2 2 translate -10 -10\n"
+            "  transform scale 2 translate -10 -10\n"
             "  save\n"
             "    clip ellipse(5 5 10 10)\n"
             "    fill rectangle(5 5 10 10) rgba(1 1 1 1)\n"

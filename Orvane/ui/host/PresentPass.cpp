@@ -8,11 +8,6 @@ namespace orvane::ui {
 
 namespace {
 
-Edges scaled(const Edges& edges, const Transform& transform) {
-  return {edges.top * transform.scaleY, edges.leading * transform.scaleX,
-          edges.bottom * transform.scaleY, edges.trailing * transform.scaleX};
-}
-
 bool isPlaceMoving(const Node& node, double now) {
   return node.geometry[0].isMoving(now) || node.geometry[1].isMoving(now);
 }
@@ -65,9 +60,12 @@ PresentPass::Inherited PresentPass::through(const Node& node, const Inherited& o
   inner.opacity = outer.opacity * effect.opacity;
   mixInto(inner.fingerprint, effect.opacity);
   if (effect.shadow) {
-    const Edges reach = scaled(effect.shadow->reach(), node.toHost);
-    inner.reach = {inner.reach.top + reach.top, inner.reach.leading + reach.leading,
-                   inner.reach.bottom + reach.bottom, inner.reach.trailing + reach.trailing};
+    const Edges reach = effect.shadow->reach();
+    const double scale = node.toHost.scale;
+    inner.reach.top += reach.top * scale;
+    inner.reach.leading += reach.leading * scale;
+    inner.reach.bottom += reach.bottom * scale;
+    inner.reach.trailing += reach.trailing * scale;
     mixInto(inner.fingerprint, *effect.shadow);
   }
   if (effect.clip) {
@@ -94,8 +92,7 @@ void PresentPass::updateInk(Node& node, const Inherited& inner) {
       fingerprint = probe.fingerprint();
       mixInto(fingerprint, inner.fingerprint);
       const Transform& place = inner.toHost;
-      mixInto(fingerprint,
-              {place.scaleX, place.scaleY, place.x, place.y, node.isMoving ? 1.0 : 0.0});
+      mixInto(fingerprint, {place.scale, place.x, place.y, node.isMoving ? 1.0 : 0.0});
     }
   }
   node.trace.isDamaged = fingerprint != node.fingerprint;

@@ -41,9 +41,8 @@ class TransitionElement final : public ModifierElement<Transition> {
     const double fading = std::max(0.0, presence - delay) / (1 - delay);
     const Point center{node.size.width / 2, node.size.height / 2};
     const Point movement{node.size.width * absent.absentOffset * absence, 0};
-    return {
-        .transform = Transform::translation(movement).after(Transform::scale(scale, scale, center)),
-        .opacity = std::clamp(fading + absent.absentOpacity * (1 - fading), 0.0, 1.0)};
+    return {.transform = Transform::translation(movement).after(Transform::scaling(scale, center)),
+            .opacity = std::clamp(fading + absent.absentOpacity * (1 - fading), 0.0, 1.0)};
   }
 };
 

@@ -50,8 +50,7 @@ struct Scale {
 
   void write(AttributeWriter& writer) const { writer.number(factor); }
   [[nodiscard]] Effect effect(AttributeReader& reader, const Rect& bounds) const {
-    const double present = reader.number();
-    return {.transform = Transform::scale(present, present, bounds.center())};
+    return {.transform = Transform::scaling(reader.number(), bounds.center())};
   }
 };
 
