@@ -29,7 +29,7 @@ class TextCanvas : public ui::RecordingCanvas {
   void text(const std::string& line, const ui::Font& font, const ui::Rgba& /*color*/,
             ui::Point baseline) override {
     const ui::TextLayout layout =
-        measurer_.layout(line, font, std::numeric_limits<double>::infinity(), 0);
+        measurer_.layout(line, font, std::numeric_limits<double>::infinity(), {});
     const ui::Transform& now = transforms_.back();
     const ui::Point place = now.apply(ui::Point{baseline.x, baseline.y - layout.ascent});
     char box[128];

@@ -140,10 +140,10 @@ TEST(DrawingTest, EdgesSnapToWholePixelsOnlyWhenPainting) {
 }
 
 TEST(DrawingTest, LinesOfTextAreAlignedInTheirFrame) {
-  EXPECT_EQ(
-      drawn(Text("aaa b").font(Font::system(10)).textAlignment(TextAlignment::trailing), {15, 20}),
-      "text \"aaa\" 10/400 rgba(0 0 0 0.85) at 0 8\n"
-      "text \"b\" 10/400 rgba(0 0 0 0.85) at 10 18\n");
+  EXPECT_EQ(drawn(Text("aaa b").font(Font::system(10)).textAlignment(HorizontalAlignment::trailing),
+                  {15, 20}),
+            "text \"aaa\" 10/400 rgba(0 0 0 0.85) at 0 8\n"
+            "text \"b\" 10/400 rgba(0 0 0 0.85) at 10 18\n");
 }
 
 TEST(DrawingTest, NumbersThatAreNotFiniteCountAsZero) {

@@ -54,7 +54,7 @@ View View::allowsTightening(double fraction) const {
                  [fraction](Environment& inherited) { inherited.text.tightening = fraction; });
 }
 
-View View::textAlignment(TextAlignment alignment) const {
+View View::textAlignment(HorizontalAlignment alignment) const {
   return changed(*this,
                  [alignment](Environment& inherited) { inherited.text.alignment = alignment; });
 }

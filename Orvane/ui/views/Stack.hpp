@@ -7,8 +7,6 @@
 
 namespace orvane::ui {
 
-enum class HorizontalAlignment { leading, center, trailing };
-
 /// A column, with exactly this spacing between the children.
 class [[nodiscard]] VStack : public View {
  public:

@@ -41,7 +41,7 @@ struct TextData {
 
 void setLineHeight(TextLayout& layout, double lineHeight, const Font& font,
                    TextMeasurer& measurer) {
-  const TextLayout latin = measurer.layout("x", font, infinity, 1);
+  const TextLayout latin = measurer.layout("x", font, infinity, {1});
   layout.ascent = latin.ascent + (lineHeight - latin.lineHeight) / 2;
   layout.lineHeight = lineHeight;
 }

@@ -91,7 +91,7 @@ class [[nodiscard]] View {
   /// Lines of text have this height in points, in every script, and the baseline that a Latin line
   /// centred in this height has. Zero and less restore the font's own height.
   View lineHeight(double points) const;
-  View textAlignment(TextAlignment alignment) const;
+  View textAlignment(HorizontalAlignment alignment) const;
   View disabled(bool isDisabled) const;
 
   // Input. Handlers may destroy the view, and even its host.
