@@ -133,7 +133,7 @@ class BareTree {
     pass.root(root_, subject.view(), environment_);
   }
   void layOut(const ui::Size& size) {
-    ui::LayoutPass pass(text_, images_, now_);
+    ui::LayoutPass pass{text_, images_, now_};
     pass.placeAligned(*root_, size, ui::Alignment::center(), ui::Proposal::of(size));
   }
   void present() {

@@ -18,7 +18,7 @@ namespace {
 using Elements = std::map<std::uint64_t, const SemanticsNode*>;
 
 // The last identifier, without "Element": Text for the class TextElement, and StatusPill for
-// ComponentElementOf<StatusPill>. In a type's name (of the Itanium C++ ABI) each identifier follows
+// ComponentElement<StatusPill>. In a type's name (of the Itanium C++ ABI) each identifier follows
 // its length.
 std::string kindOf(const Element& element) {
   const std::string name = typeid(element).name();

@@ -114,11 +114,11 @@ std::vector<std::function<void()>> ViewHost::rebuild() {
   const auto environment = rootEnvironment();
   BuildPass build({tree_.now, colors_, nodeCount_, damage_, curve});
   build.root(tree_.root, builder_ ? builder_(*environment) : View(), environment);
-  LayoutPass layout(text_, images_, tree_.now);
+  LayoutPass layout{text_, images_, tree_.now};
   // A root of another size than the host is centred.
   layout.placeAligned(*tree_.root, size_, Alignment::center(), Proposal::of(size_));
-  for (const BuildPass::ScrollTarget& target : build.scrollTargets()) {
-    scrollIntoView(*target.node, target.curve, tree_.now);
+  for (const auto& [node, scrollCurve] : build.scrollTargets()) {
+    scrollIntoView(*node, scrollCurve, tree_.now);
   }
   pointer_.forgetDeadNodes();
   focus_.forgetDeadNode();
@@ -167,7 +167,7 @@ Size ViewHost::sizeThatFits(const Proposal& proposal) {
   if (!host->isConnected() || !tree_.root) {
     return {};
   }
-  return LayoutPass(text_, images_, tree_.now).measure(*tree_.root, proposal);
+  return LayoutPass{text_, images_, tree_.now}.measure(*tree_.root, proposal);
 }
 
 bool ViewHost::scroll(Point point, double horizontal, double vertical) {
