@@ -137,7 +137,7 @@ class BareTree {
     pass.placeAligned(*root_, size, ui::Alignment::center(), ui::Proposal::of(size));
   }
   void present() {
-    ui::PresentPass(now_, damage_).present(*root_);
+    ui::present(*root_, now_, damage_);
     damage_.take();
   }
 

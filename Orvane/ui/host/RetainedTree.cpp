@@ -11,18 +11,6 @@ namespace orvane::ui {
 
 namespace {
 
-Node* findBelow(Node& node, std::uint64_t id) {
-  if (node.id == id) {
-    return &node;
-  }
-  for (const auto& child : node.children) {
-    if (Node* found = findBelow(*child, id)) {
-      return found;
-    }
-  }
-  return nullptr;
-}
-
 // Children in reverse order before their parent.
 void collectHits(Node& node, Point point, double now, std::vector<Node*>& hits) {
   if (!node.toHost.isInvertible()) {
@@ -60,7 +48,11 @@ std::optional<Tooltip> fullText(const std::vector<Node*>& hits, double now) {
 }  // namespace
 
 Node* RetainedTree::find(std::uint64_t id) const {
-  return root && id != 0 ? findBelow(*root, id) : nullptr;
+  Node* found = nullptr;
+  if (root && id != 0) {
+    visitNodes(*root, [&](Node& node) { found = node.id == id ? &node : found; });
+  }
+  return found;
 }
 
 std::vector<Node*> RetainedTree::hitTest(Point point) const {

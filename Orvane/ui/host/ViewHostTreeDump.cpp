@@ -1,14 +1,12 @@
-// The kind of a node is the name of its element's class, which the compiler knows.
-#include "Orvane/ui/host/TreeDump.hpp"
-
+// The retained tree as text. The kind of a node is the name of its element's class, which the
+// compiler knows.
 #include <charconv>
 #include <cstdio>
 #include <map>
 #include <string_view>
 #include <typeinfo>
 
-#include "Orvane/ui/host/RetainedTree.hpp"
-#include "Orvane/ui/host/SemanticsPass.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "Orvane/ui/views/Node.hpp"
 
 namespace orvane::ui {
@@ -92,15 +90,15 @@ void dump(const Node& node, std::size_t depth, const char* state, const Elements
 
 }  // namespace
 
-std::string dumpTree(const RetainedTree& tree, std::uint64_t focusedId) {
+std::string ViewHost::dumpTree() const {
   std::string text;
-  if (tree.root) {
-    const SemanticsNode semantics = semanticsTree(*tree.root, tree.now, focusedId);
+  if (tree_.root) {
+    const SemanticsNode tree = semantics();
     Elements elements;
-    for (const SemanticsNode& child : semantics.children) {
+    for (const SemanticsNode& child : tree.children) {
       collectElements(child, elements);
     }
-    dump(*tree.root, 0, "", elements, text);
+    dump(*tree_.root, 0, "", elements, text);
   }
   return text;
 }
