@@ -11,20 +11,33 @@ namespace orvane::ui {
 
 namespace {
 
+Node* findBelow(Node& node, std::uint64_t id) {
+  if (node.id == id) {
+    return &node;
+  }
+  for (const auto& child : node.children) {
+    if (Node* found = findBelow(*child, id)) {
+      return found;
+    }
+  }
+  return nullptr;
+}
+
 // Children in reverse order before their parent.
 void collectHits(Node& node, Point point, double now, std::vector<Node*>& hits) {
   if (!node.toHost.isInvertible()) {
     return;
   }
   const Effect effect = node.element->effect(node, now);
-  const bool isCut = effect.clip && !effect.clip->rect.contains(node.toHost.inverse().apply(point));
+  const Point local = node.toHost.inverse().apply(point);
+  const bool isCut = effect.clip && !effect.clip->rect.contains(local);
   if (effect.opacity <= 0 || isCut) {
     return;
   }
   for (auto child = node.children.rbegin(); child != node.children.rend(); ++child) {
     collectHits(**child, point, now, hits);
   }
-  if (node.covers(point)) {
+  if (node.bounds().contains(local)) {
     hits.push_back(&node);
   }
 }
@@ -48,11 +61,7 @@ std::optional<Tooltip> fullText(const std::vector<Node*>& hits, double now) {
 }  // namespace
 
 Node* RetainedTree::find(std::uint64_t id) const {
-  Node* found = nullptr;
-  if (root && id != 0) {
-    visitNodes(*root, [&](Node& node) { found = node.id == id ? &node : found; });
-  }
-  return found;
+  return root && id != 0 ? findBelow(*root, id) : nullptr;
 }
 
 std::vector<Node*> RetainedTree::hitTest(Point point) const {

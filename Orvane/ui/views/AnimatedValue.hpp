@@ -23,8 +23,10 @@ class AnimatedValue {
   /// Ends an animation that has reached its target.
   void settle(double now);
 
-  [[nodiscard]] double at(double now) const { return target_ + remainder(now).distance; }
-  [[nodiscard]] bool isMoving(double now) const { return !remainder(now).isSettled; }
+  [[nodiscard]] double at(double now) const {
+    return motion_ ? target_ + remainder(now).distance : target_;
+  }
+  [[nodiscard]] bool isMoving(double now) const { return motion_ && !remainder(now).isSettled; }
   /// What is left of the motion to the target.
   [[nodiscard]] Curve::Remainder remainder(double now) const;
 
