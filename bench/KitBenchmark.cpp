@@ -133,11 +133,11 @@ class BareTree {
     pass.root(root_, subject.view(), environment_);
   }
   void layOut(const ui::Size& size) {
-    ui::LayoutPass pass(text_, images_, now_);
+    ui::LayoutPass pass{text_, images_, now_};
     pass.placeAligned(*root_, size, ui::Alignment::center(), ui::Proposal::of(size));
   }
   void present() {
-    ui::PresentPass(now_, damage_).present(*root_);
+    ui::present(*root_, now_, damage_);
     damage_.take();
   }
 

@@ -23,7 +23,7 @@ View paragraph(const std::string& text) {
   return Text(text)
       .font(Font::subheadline())
       .foreground(Color::secondary())
-      .textAlignment(TextAlignment::center)
+      .textAlignment(HorizontalAlignment::center)
       .fixedSizeVertical();
 }
 
@@ -47,7 +47,7 @@ View OrvaneAccessibilityPermissionAlertView::body(const Environment& environment
   const View title =
       Text(localized("Enable macOS Accessibility Permission", "需要开启 macOS“辅助功能”权限"))
           .font(Font::headline())
-          .textAlignment(TextAlignment::center)
+          .textAlignment(HorizontalAlignment::center)
           .fixedSizeVertical()
           .accessibilityRole(Role::heading);
   const View paragraphs = VStack(

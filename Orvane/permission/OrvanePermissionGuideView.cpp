@@ -75,7 +75,7 @@ View OrvanePermissionGuideView::statusLine(bool isDark) const {
       return Text(text)
           .font(font)
           .foreground(color)
-          .textAlignment(TextAlignment::center)
+          .textAlignment(HorizontalAlignment::center)
           .frame({.height = lineHeight, .maximumWidth = infinity})
           .transition(Transition::fadeThrough());
     });
@@ -116,7 +116,7 @@ View OrvanePermissionGuideView::body(const Environment& environment) const {
                      "Orvane，可点“+”添加应用，或将下方图标拖入列表。"))
           .font(Font::body())
           .foreground(Color::secondary())
-          .textAlignment(TextAlignment::center)
+          .textAlignment(HorizontalAlignment::center)
           .fixedSizeVertical()
           .padding(Edges::horizontal(defaultPadding));
   const View card = VStack(22, {closeControl(), title, instruction, iconArea(),

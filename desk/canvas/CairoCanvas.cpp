@@ -42,18 +42,18 @@ constexpr double placeSteps = 64;
 
 ui::Shape inPixels(ui::Shape shape, const ui::Transform& pixels) {
   shape.rect = pixels.apply(shape.rect);
-  shape.cornerRadius *= std::min(std::abs(pixels.scaleX), std::abs(pixels.scaleY));
+  shape.cornerRadius *= std::abs(pixels.scale);
   return shape;
 }
 
 double sigmaInPixels(const ui::PaintShadow& shadow, const ui::Transform& pixels) {
-  return std::max(shadow.radius, 0.0) / 2.0 * std::sqrt(std::abs(pixels.scaleX * pixels.scaleY));
+  return std::max(shadow.radius, 0.0) / 2.0 * std::abs(pixels.scale);
 }
 
 std::string keyOf(MaskKind kind, const std::string& content, const ui::Font& font,
                   const PixelPlacement& placement) {
-  return cacheKey(kind, content, font.size, font.weight, font.tracking, placement.scaleX,
-                  placement.scaleY, placement.phaseX, placement.phaseY);
+  return cacheKey(kind, content, font.size, font.weight, font.tracking, placement.scale,
+                  placement.phaseX, placement.phaseY);
 }
 
 }  // namespace
@@ -78,11 +78,11 @@ void CairoCanvas::restore() {
 
 ui::Transform CairoCanvas::pixelTransform() {
   const cairo_matrix_t matrix = matrixOf(context());
-  return {matrix.xx, matrix.yy, matrix.x0, matrix.y0};
+  return {matrix.xx, matrix.x0, matrix.y0};
 }
 
 void CairoCanvas::transform(const ui::Transform& transform) {
-  const cairo_matrix_t matrix{transform.scaleX, 0, 0, transform.scaleY, transform.x, transform.y};
+  const cairo_matrix_t matrix{transform.scale, 0, 0, transform.scale, transform.x, transform.y};
   // A scale of zero would put the context into a permanent error state; an empty clip has the same
   // effect on the drawing.
   if (!transform.isInvertible()) {
@@ -106,8 +106,8 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
   split(hole.rect.x, placeSteps, pixelX, hole.rect.x);
   split(hole.rect.y, placeSteps, pixelY, hole.rect.y);
   ui::Shape cast = hole;
-  cast.rect = cast.rect.movedBy({rounded(shadow.offset.x * pixels.scaleX, placeSteps),
-                                 rounded(shadow.offset.y * pixels.scaleY, placeSteps)});
+  cast.rect = cast.rect.movedBy({rounded(shadow.offset.x * pixels.scale, placeSteps),
+                                 rounded(shadow.offset.y * pixels.scale, placeSteps)});
   const std::string key =
       cacheKey(MaskKind::shadow, hole.kind, hole.cornerStyle, hole.cornerRadius, hole.rect.x,
                hole.rect.y, hole.rect.width, hole.rect.height, cast.rect.x, cast.rect.y, sigma);
@@ -162,9 +162,8 @@ void CairoCanvas::beginLayer(const ui::Rect& bounds, double opacity,
   if (shadow) {
     // A shape outside of the clip may cast its shadow into it.
     const double reach = blurReach(sigmaInPixels(*shadow, pixels));
-    const ui::Edges grown =
-        ui::Edges::symmetric(reach + std::abs(shadow->offset.x * pixels.scaleX),
-                             reach + std::abs(shadow->offset.y * pixels.scaleY));
+    const ui::Edges grown = ui::Edges::symmetric(reach + std::abs(shadow->offset.x * pixels.scale),
+                                                 reach + std::abs(shadow->offset.y * pixels.scale));
     area = area.outset(grown);
     visible = visible.outset(grown);
   }
@@ -219,8 +218,8 @@ void CairoCanvas::paintLayerShadow(const Layer& layer, const ui::PaintShadow& sh
   });
   // An opaque layer is drawn over its shadow; a translucent one is composed with it first. Shadows
   // are placed on whole pixels, which avoids resampling and is invisible after the blur.
-  const int x = layer.x + static_cast<int>(std::lround(shadow.offset.x * pixels.scaleX));
-  const int y = layer.y + static_cast<int>(std::lround(shadow.offset.y * pixels.scaleY));
+  const int x = layer.x + static_cast<int>(std::lround(shadow.offset.x * pixels.scale));
+  const int y = layer.y + static_cast<int>(std::lround(shadow.offset.y * pixels.scale));
   if (layer.opacity >= 1) {
     paintMask(mask, x, y, shadow.color);
     return;
@@ -236,10 +235,8 @@ void CairoCanvas::paintLayerShadow(const Layer& layer, const ui::PaintShadow& sh
 }
 
 bool CairoCanvas::isScaledByTransform() {
-  const cairo_matrix_t matrix = matrixOf(context());
   constexpr double tolerance = 1.0e-9;
-  return std::abs(matrix.xx - scaleFactor_) > tolerance ||
-         std::abs(matrix.yy - scaleFactor_) > tolerance;
+  return std::abs(pixelTransform().scale - scaleFactor_) > tolerance;
 }
 
 PixelPlacement CairoCanvas::placementOf(ui::Point anchor) {
@@ -248,8 +245,7 @@ PixelPlacement CairoCanvas::placementOf(ui::Point anchor) {
   // Masks have quarter-pixel positions, except during scaling, which must be smooth.
   const double steps = isScaledByTransform() ? 1024 : 4;
   PixelPlacement placement;
-  placement.scaleX = pixels.scaleX;
-  placement.scaleY = pixels.scaleY;
+  placement.scale = pixels.scale;
   split(place.x, steps, placement.pixelX, placement.phaseX);
   split(place.y, steps, placement.pixelY, placement.phaseY);
   return placement;

@@ -30,7 +30,7 @@ Rows<DeepColor> CairoCanvas::deepColorsOf(const ui::Paint& paint, int top, int b
   const ui::Transform pixels = pixelTransform();
   Rows<DeepColor> rows{{}, top, false};
   for (int row = top; row < bottom; ++row) {
-    const double y = (row + 0.5 - pixels.y) / pixels.scaleY;
+    const double y = (row + 0.5 - pixels.y) / pixels.scale;
     rows.colors.push_back(
         DeepSurface::colorOf(colorAt(paint, (y - paint.start.y) / (paint.end.y - paint.start.y))));
   }
@@ -47,7 +47,7 @@ void CairoCanvas::cutToClip(cairo_surface_t* picture, int x, int y) {
                    CAIRO_FORMAT_A8);
   const ContextPointer filling(cairo_create(inside.get()));
   for (const auto& [outline, pixels] : shapes) {
-    const cairo_matrix_t matrix{pixels.scaleX, 0, 0, pixels.scaleY, pixels.x - x, pixels.y - y};
+    const cairo_matrix_t matrix{pixels.scale, 0, 0, pixels.scale, pixels.x - x, pixels.y - y};
     cairo_set_matrix(filling.get(), &matrix);
     appendShape(filling.get(), outline);
     cairo_clip(filling.get());

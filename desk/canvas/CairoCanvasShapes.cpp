@@ -168,7 +168,7 @@ Mask CairoCanvas::coveredRows(const ui::Shape& shape, double lineWidth, const Pi
             rows.left, rows.top};
   const ContextPointer drawing(cairo_create(mask.surface.get()));
   const auto place = [&](const ui::Transform& pixels) {
-    const cairo_matrix_t matrix{pixels.scaleX,      0, 0, pixels.scaleY, pixels.x - rows.left,
+    const cairo_matrix_t matrix{pixels.scale,       0, 0, pixels.scale, pixels.x - rows.left,
                                 pixels.y - rows.top};
     cairo_set_matrix(drawing.get(), &matrix);
   };
@@ -190,15 +190,14 @@ const CoverageRuns& CairoCanvas::coverageRunsOf(const ui::Shape& shape, double l
   PixelRect straight = clip.isTangled ? PixelRect{} : straightRows(shape, pixels, lineWidth);
   // The coverage is made near the origin and moved by whole pixels, so that equal shapes share it.
   std::string key = cacheKey(shape.kind, shape.cornerStyle, shape.cornerRadius, shape.rect.width,
-                             shape.rect.height, pixels.scaleX, pixels.scaleY, area.x - bounds.left,
+                             shape.rect.height, pixels.scale, area.x - bounds.left,
                              area.y - bounds.top, lineWidth);
   for (const auto& [outline, toPixels] : clip.shapes) {
     const PixelRect rows = straightRows(outline, toPixels, 0);
     straight = straight.cutTo({0, rows.top, 1, rows.bottom});
     const ui::Rect rect = toPixels.apply(outline.rect);
-    key += cacheKey(outline.kind, toPixels.scaleX, toPixels.scaleY, outline.cornerStyle,
-                    outline.cornerRadius, rect.x - bounds.left, rect.y - bounds.top, rect.width,
-                    rect.height);
+    key += cacheKey(outline.kind, toPixels.scale, outline.cornerStyle, outline.cornerRadius,
+                    rect.x - bounds.left, rect.y - bounds.top, rect.width, rect.height);
   }
   return resources_.coverage.get(key, [&] {
     CoverageRuns made;

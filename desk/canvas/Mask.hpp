@@ -21,9 +21,8 @@ struct Mask {
 
 /// The position of a mask's anchor: the start of a text's baseline, the centre of a symbol.
 struct PixelPlacement {
-  /// Pixels per point, horizontally and vertically.
-  double scaleX = 1;
-  double scaleY = 1;
+  /// Pixels per point.
+  double scale = 1;
   /// The pixel that contains the anchor, and the fraction, from 0 to 1 (exclusive).
   int pixelX = 0;
   int pixelY = 0;

@@ -121,8 +121,8 @@ Mask SymbolLibrary::makeMask(const std::string& name, const ui::Font& font,
   if (found == nullptr || !(font.size > 0)) {
     return {};
   }
-  const double width = found->unitWidth * font.size / unitsPerPointSize * placement.scaleX;
-  const double height = found->unitHeight * font.size / unitsPerPointSize * placement.scaleY;
+  const double width = found->unitWidth * font.size / unitsPerPointSize * placement.scale;
+  const double height = found->unitHeight * font.size / unitsPerPointSize * placement.scale;
   // The drawing is rendered enlarged, on whole pixels: librsvg would blur masked shapes between
   // pixels.
   const int left = static_cast<int>(std::lround((placement.phaseX - width / 2.0) * finePixels));

@@ -155,16 +155,16 @@ Mask TextShaper::makeMask(const std::string& line, const ui::Font& font,
   }
   // One more pixel on each side for antialiased edges.
   Mask mask;
-  mask.x = static_cast<int>(std::floor(placement.phaseX + points(ink.x) * placement.scaleX)) - 1;
-  mask.y = static_cast<int>(std::floor(placement.phaseY + points(ink.y) * placement.scaleY)) - 1;
-  const double right = placement.phaseX + points(ink.x + ink.width) * placement.scaleX;
-  const double bottom = placement.phaseY + points(ink.y + ink.height) * placement.scaleY;
+  mask.x = static_cast<int>(std::floor(placement.phaseX + points(ink.x) * placement.scale)) - 1;
+  mask.y = static_cast<int>(std::floor(placement.phaseY + points(ink.y) * placement.scale)) - 1;
+  const double right = placement.phaseX + points(ink.x + ink.width) * placement.scale;
+  const double bottom = placement.phaseY + points(ink.y + ink.height) * placement.scale;
   const int width = static_cast<int>(std::ceil(right)) + 1 - mask.x;
   const int height = static_cast<int>(std::ceil(bottom)) + 1 - mask.y;
   mask.surface = imageSurface(width, height, CAIRO_FORMAT_A8);
   const ContextPointer context(cairo_create(mask.surface.get()));
   cairo_translate(context.get(), placement.phaseX - mask.x, placement.phaseY - mask.y);
-  cairo_scale(context.get(), placement.scaleX, placement.scaleY);
+  cairo_scale(context.get(), placement.scale, placement.scale);
   // Outlines allow subpixel positions; cairo's cached glyphs do not.
   cairo_set_antialias(context.get(), CAIRO_ANTIALIAS_GOOD);
   pango_cairo_layout_line_path(context.get(), shapedLine);

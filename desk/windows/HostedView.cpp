@@ -22,7 +22,7 @@ ui::Appearance HostedView::appearanceOf(const Machine& machine) {
   return appearance;
 }
 
-HostedView::HostedView(ui::ViewHost::RootBuilder buildRoot) : host_(platform()) {
+HostedView::HostedView(ui::RootBuilder buildRoot) : host_(platform()) {
   host_.setAppearance(appearanceOf(Machine::current()));
   host_.setRoot(std::move(buildRoot));
 }

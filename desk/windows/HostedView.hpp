@@ -27,7 +27,7 @@ class HostedView : public std::enable_shared_from_this<HostedView> {
   [[nodiscard]] static ui::Appearance appearanceOf(const Machine& machine);
 
   /// There must be a machine.
-  explicit HostedView(ui::ViewHost::RootBuilder buildRoot);
+  explicit HostedView(ui::RootBuilder buildRoot);
   HostedView(const HostedView&) = delete;
   HostedView& operator=(const HostedView&) = delete;
   virtual ~HostedView();

@@ -104,7 +104,7 @@ void QuartzCanvas::restore() {
 }
 
 void QuartzCanvas::transform(const ui::Transform& transform) {
-  CGContextConcatCTM(context_, CGAffineTransformMake(transform.scaleX, 0, 0, transform.scaleY,
+  CGContextConcatCTM(context_, CGAffineTransformMake(transform.scale, 0, 0, transform.scale,
                                                      transform.x, transform.y));
 }
 

@@ -11,7 +11,7 @@
 /// Its coordinates are the kit's: points, origin at the top left.
 @interface OrvaneHostView : NSView <NSViewToolTipOwner>
 
-- (nonnull instancetype)initWithRoot:(orvane::ui::ViewHost::RootBuilder)buildRoot;
+- (nonnull instancetype)initWithRoot:(orvane::ui::RootBuilder)buildRoot;
 
 - (orvane::ui::ViewHost&)host;
 

@@ -53,7 +53,7 @@ ui::TextMeasurer& textMeasurer() {
   std::unique_ptr<ui::ViewHost> _host;
 }
 
-- (instancetype)initWithRoot:(ui::ViewHost::RootBuilder)buildRoot {
+- (instancetype)initWithRoot:(ui::RootBuilder)buildRoot {
   self = [super initWithFrame:NSZeroRect];
   if (self == nil) {
     return nil;

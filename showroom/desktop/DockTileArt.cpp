@@ -46,7 +46,7 @@ constexpr double unit = 100;
 template <typename Paint>
 void paintInUnits(desk::CairoCanvas& canvas, const ui::Rect& square, const Paint& paint) {
   canvas.save();
-  canvas.transform({square.width / unit, square.height / unit, square.x, square.y});
+  canvas.transform({square.width / unit, square.x, square.y});
   cairo_new_path(canvas.context());
   paint(canvas.context());
   canvas.restore();

@@ -55,12 +55,12 @@ TEST_F(CairoCanvasTest, AGradientDownAScaledShapeIsTheSameInEveryColumnAndWithin
   paint.start = {7, 2};
   paint.end = {7, 19};
   const Shape shape = Shape::rectangle({3, 2, 14, 17});
-  begin(20, 22, 2).transform(ui::Transform::scale(0.97, 0.97, {0, 0}));
+  begin(20, 22, 2).transform(ui::Transform::scaling(0.97, {0, 0}));
   canvas->fill(shape, paint);
   // Slightly off the vertical, the gradient is drawn by cairo.
   const SurfacePointer whole = std::move(surface);
   paint.end.x += 1.0e-9;
-  begin(20, 22, 2).transform(ui::Transform::scale(0.97, 0.97, {0, 0}));
+  begin(20, 22, 2).transform(ui::Transform::scaling(0.97, {0, 0}));
   canvas->fill(shape, paint);
   for (int y = 0; y < height(); ++y) {
     for (int x = 0; x < width(); ++x) {
@@ -71,7 +71,7 @@ TEST_F(CairoCanvasTest, AGradientDownAScaledShapeIsTheSameInEveryColumnAndWithin
     }
   }
   paint.end.x = 7;
-  begin(20, 22, 2).transform(ui::Transform::scale(0.97, 0.97, {0, 0}));
+  begin(20, 22, 2).transform(ui::Transform::scaling(0.97, {0, 0}));
   canvas->clip(Shape::rectangle({0, 9, 20, 5}));
   canvas->fill(shape, paint);
   EXPECT_EQ(at(20, 22), pixelAt(whole.get(), 20, 22));
@@ -100,7 +100,7 @@ TEST_F(CairoCanvasTest, RestoreEndsAClipAndATransform) {
 
 TEST_F(CairoCanvasTest, AScaleOfZeroDrawsNothingUntilItIsRestored) {
   begin(8, 8).save();
-  canvas->transform(Transform::scale(0, 0, {4, 4}));
+  canvas->transform(Transform::scaling(0, {4, 4}));
   canvas->fill(Shape::rectangle({0, 0, 8, 8}), Paint::solid(red));
   canvas->text("x", ui::Font::body(), black, {0, 4});
   canvas->symbol("lock", ui::Font::body(), black, {0, 0, 8, 8});

@@ -84,7 +84,7 @@ TEST_F(TextShaperTest, ScaledTextIsDrawnAtItsSize) {
   begin(200, 60).text("Ham", font, black, {0, 40});
   const ui::Rect natural = inkBounds();
   begin(200, 60).save();
-  canvas->transform(ui::Transform::scale(2, 2, {0, 40}));
+  canvas->transform(ui::Transform::scaling(2, {0, 40}));
   canvas->text("Ham", font, black, {0, 40});
   canvas->restore();
   EXPECT_NEAR(inkBounds().width, 2 * natural.width, 3);

@@ -97,7 +97,7 @@ TEST_F(Canvas, AShadowIsMovedByItsOffset) {
 
 TEST_F(Canvas, TheOffsetOfAShadowIsScaledWithTheDrawing) {
   appkit::QuartzCanvas canvas(reference(), 1);
-  canvas.transform({.scaleX = 2, .scaleY = 2, .x = 4, .y = 6});
+  canvas.transform({.scale = 2, .x = 4, .y = 6});
   const auto card = ui::Shape::rectangle({5, 5, 10, 10});
   canvas.shadow(card, {.color = {0, 0, 0, 1}, .radius = 0, .offset = {12, 15}});
   EXPECT_EQ(drawnArea(), (ui::Rect{38, 46, 20, 20}));

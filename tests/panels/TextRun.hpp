@@ -62,7 +62,7 @@ class TextCollector : public ui::Canvas {
                          shaper_.measure(line, font).width, (capitals + below) * font.size};
     const ui::Rect frame = state_.transform.apply(local);
     runs_.push_back({line, font, color, frame, frame.intersection(state_.clip),
-                     state_.transform.apply(baseline).y, state_.transform.scaleY, state_.opacity});
+                     state_.transform.apply(baseline).y, state_.transform.scale, state_.opacity});
   }
   void image(const std::string&, const ui::Rect&) override {}
   void symbol(const std::string&, const ui::Font&, const ui::Rgba&, const ui::Rect&) override {}

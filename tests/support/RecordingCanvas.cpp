@@ -89,8 +89,8 @@ void RecordingCanvas::restore() {
 }
 
 void RecordingCanvas::transform(const Transform& transform) {
-  write("transform scale " + number(transform.scaleX) + " " + number(transform.scaleY) +
-        " translate " + number(transform.x) + " " + number(transform.y));
+  write("transform scale " + number(transform.scale) + " translate " + number(transform.x) + " " +
+        number(transform.y));
 }
 
 void RecordingCanvas::clip(const Shape& shape) {

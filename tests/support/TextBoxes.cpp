@@ -24,19 +24,17 @@ class TextCanvas : public ui::RecordingCanvas {
   void save() override { transforms_.emplace_back(transforms_.back()); }
   void restore() override { transforms_.pop_back(); }
   void transform(const ui::Transform& inner) override {
-    ui::Transform& outer = transforms_.back();
-    const ui::Point moved = outer.apply(ui::Point{inner.x, inner.y});
-    outer = {outer.scaleX * inner.scaleX, outer.scaleY * inner.scaleY, moved.x, moved.y};
+    transforms_.back() = transforms_.back().after(inner);
   }
   void text(const std::string& line, const ui::Font& font, const ui::Rgba& /*color*/,
             ui::Point baseline) override {
     const ui::TextLayout layout =
-        measurer_.layout(line, font, std::numeric_limits<double>::infinity(), 0);
+        measurer_.layout(line, font, std::numeric_limits<double>::infinity(), {});
     const ui::Transform& now = transforms_.back();
     const ui::Point place = now.apply(ui::Point{baseline.x, baseline.y - layout.ascent});
     char box[128];
     std::snprintf(box, sizeof(box), "\t%.1f\t%.1f\t%.1f\t%.1f\n", place.x, place.y,
-                  layout.size().width * now.scaleX, layout.size().height * now.scaleY);
+                  layout.size().width * now.scale, layout.size().height * now.scale);
     boxes_ += name_ + "\t" + line + box;
   }
 

@@ -39,11 +39,12 @@ RC_GTEST_PROP(AnimatedValueTest, RetargetingKeepsPositionAndVelocity, ()) {
   RC_PRE(value.isMoving(moment) && second != first);
 
   const double position = value.at(moment);
-  const double velocity = value.velocityAt(moment);
+  const double velocity = value.remainder(moment).velocity;
   value.set(second, anyCurve(), moment);
 
   RC_ASSERT(std::abs(value.at(moment) - position) < 1e-9);
-  RC_ASSERT(std::abs(value.velocityAt(moment) - velocity) < 1e-4 * (1 + std::abs(velocity)));
+  RC_ASSERT(std::abs(value.remainder(moment).velocity - velocity) <
+            1e-4 * (1 + std::abs(velocity)));
   RC_ASSERT(value.at(moment + 1000) == second);
 }
 

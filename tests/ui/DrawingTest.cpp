@@ -118,7 +118,7 @@ TEST(DrawingTest, ClipsAndScalesEndWithTheirView) {
   EXPECT_EQ(drawn(Rectangle().fill(Color::white()).frame(10, 10).clip(Shape::circle()).scale(2),
                   {20, 20}),
             "save\n"
-            "  transform scale 2 2 translate -10 -10\n"
+            "  transform scale 2 translate -10 -10\n"
             "  save\n"
             "    clip ellipse(5 5 10 10)\n"
             "    fill rectangle(5 5 10 10) rgba(1 1 1 1)\n"
@@ -140,10 +140,10 @@ TEST(DrawingTest, EdgesSnapToWholePixelsOnlyWhenPainting) {
 }
 
 TEST(DrawingTest, LinesOfTextAreAlignedInTheirFrame) {
-  EXPECT_EQ(
-      drawn(Text("aaa b").font(Font::system(10)).textAlignment(TextAlignment::trailing), {15, 20}),
-      "text \"aaa\" 10/400 rgba(0 0 0 0.85) at 0 8\n"
-      "text \"b\" 10/400 rgba(0 0 0 0.85) at 10 18\n");
+  EXPECT_EQ(drawn(Text("aaa b").font(Font::system(10)).textAlignment(HorizontalAlignment::trailing),
+                  {15, 20}),
+            "text \"aaa\" 10/400 rgba(0 0 0 0.85) at 0 8\n"
+            "text \"b\" 10/400 rgba(0 0 0 0.85) at 10 18\n");
 }
 
 TEST(DrawingTest, NumbersThatAreNotFiniteCountAsZero) {

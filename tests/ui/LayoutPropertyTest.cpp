@@ -81,7 +81,7 @@ class LaidOut {
     Damage damage;
     BuildPass build({0, resolver, nodeCount_, damage, std::nullopt});
     build.root(root, view, environment);
-    LayoutPass layout(text_, images_, 0);
+    LayoutPass layout{text_, images_, 0};
     size = layout.measure(*root, proposal);
     layout.place(*root, {0, 0}, proposal);
   }

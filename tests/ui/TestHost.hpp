@@ -40,7 +40,7 @@ class TestHost {
   void show(const View& view) {
     show([view](const Environment&) { return view; });
   }
-  void show(ViewHost::RootBuilder builder) {
+  void show(RootBuilder builder) {
     host->setRoot(std::move(builder));
     host->layoutIfNeeded();
   }

@@ -51,7 +51,7 @@ View DisplayChoiceCard::content(bool isDark) const {
   // use.
   const View texts =
       VStack(titleToRole, {name.lineHeight(nameLineHeight), role.lineHeight(roleLineHeight)});
-  return VStack(imageToTitle, {image, texts.textAlignment(TextAlignment::center)})
+  return VStack(imageToTitle, {image, texts.textAlignment(HorizontalAlignment::center)})
       .padding(Edges::horizontal(sidePadding))
       .frame(width, height);
 }

@@ -1,6 +1,7 @@
 // The fill of a shape, one colour or a linear gradient: semantic, and resolved for a canvas.
 #pragma once
 
+#include <algorithm>
 #include <initializer_list>
 #include <vector>
 
@@ -26,11 +27,28 @@ struct Fill {
   /// Evenly spaced colours.
   [[nodiscard]] static Fill gradient(std::initializer_list<Color> colors,
                                      UnitPoint start = UnitPoint::top(),
-                                     UnitPoint end = UnitPoint::bottom());
+                                     UnitPoint end = UnitPoint::bottom()) {
+    Fill result;
+    result.start = start;
+    result.end = end;
+    const double steps = std::max(1.0, static_cast<double>(colors.size()) - 1);
+    for (const Color& color : colors) {
+      result.stops.push_back({color, static_cast<double>(result.stops.size()) / steps});
+    }
+    return result;
+  }
   /// The system's gradient of one colour, slightly lighter at the top.
-  [[nodiscard]] static Fill systemGradient(const Color& color);
+  [[nodiscard]] static Fill systemGradient(const Color& color) {
+    return gradient({color.lighter(Color::gradientLight), color});
+  }
 
-  [[nodiscard]] Fill opacity(double factor) const;
+  [[nodiscard]] Fill opacity(double factor) const {
+    Fill result = *this;
+    for (FillStop& stop : result.stops) {
+      stop.color = stop.color.opacity(factor);
+    }
+    return result;
+  }
 
  private:
   Fill() = default;

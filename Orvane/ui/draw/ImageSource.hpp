@@ -10,19 +10,17 @@
 
 namespace orvane::ui {
 
-/// An unset function means that there are no images, or no symbols.
+/// Without images and symbols by default.
 struct ImageSource {
-  /// The size in points of an image of the application's resources; none for an unknown name.
-  std::function<std::optional<Size>(const std::string& name)> imageSize;
-  /// The size in points of a symbol in the font's size and weight; none for an unknown name.
-  std::function<std::optional<Size>(const std::string& name, const Font& font)> symbolSize;
+  using OptionalSize = std::optional<Size>;
 
-  [[nodiscard]] std::optional<Size> image(const std::string& name) const {
-    return imageSize ? imageSize(name) : std::nullopt;
-  }
-  [[nodiscard]] std::optional<Size> symbol(const std::string& name, const Font& font) const {
-    return symbolSize ? symbolSize(name, font) : std::nullopt;
-  }
+  /// The size in points of an image of the application's resources; none for an unknown name.
+  std::function<OptionalSize(const std::string& name)> imageSize = [](const std::string&) {
+    return OptionalSize();
+  };
+  /// The size in points of a symbol in the font's size and weight; none for an unknown name.
+  std::function<OptionalSize(const std::string& name, const Font& font)> symbolSize =
+      [](const std::string&, const Font&) { return OptionalSize(); };
 };
 
 }  // namespace orvane::ui

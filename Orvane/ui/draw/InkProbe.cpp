@@ -13,6 +13,40 @@ void mixByte(std::uint64_t& fingerprint, std::uint64_t byte) {
   fingerprint = (fingerprint ^ byte) * prime;
 }
 
+void mixInto(std::uint64_t& fingerprint, Point point) {
+  ui::mixInto(fingerprint, {point.x, point.y});
+}
+
+void mixInto(std::uint64_t& fingerprint, const Rgba& color) {
+  ui::mixInto(fingerprint, {color.red, color.green, color.blue, color.alpha});
+}
+
+void mixInto(std::uint64_t& fingerprint, const std::string& text) {
+  ui::mixInto(fingerprint, static_cast<std::uint64_t>(text.size()));
+  for (const char character : text) {
+    mixByte(fingerprint, static_cast<unsigned char>(character));
+  }
+}
+
+void mixInto(std::uint64_t& fingerprint, const Font& font) {
+  ui::mixInto(fingerprint, {font.size, static_cast<double>(font.weight), font.tracking});
+}
+
+void mixInto(std::uint64_t& fingerprint, const Shape& shape) {
+  ui::mixInto(fingerprint, {static_cast<double>(shape.kind), static_cast<double>(shape.cornerStyle),
+                            shape.cornerRadius});
+  ui::mixInto(fingerprint, shape.rect);
+}
+
+void mixInto(std::uint64_t& fingerprint, const Paint& paint) {
+  for (const PaintStop& stop : paint.stops) {
+    mixInto(fingerprint, stop.color);
+    ui::mixInto(fingerprint, stop.location);
+  }
+  mixInto(fingerprint, paint.start);
+  mixInto(fingerprint, paint.end);
+}
+
 }  // namespace
 
 void mixInto(std::uint64_t& fingerprint, std::uint64_t value) {
@@ -32,42 +66,8 @@ void mixInto(std::uint64_t& fingerprint, std::initializer_list<double> values) {
   }
 }
 
-void mixInto(std::uint64_t& fingerprint, Point point) {
-  mixInto(fingerprint, {point.x, point.y});
-}
-
 void mixInto(std::uint64_t& fingerprint, const Rect& rect) {
   mixInto(fingerprint, {rect.x, rect.y, rect.width, rect.height});
-}
-
-void mixInto(std::uint64_t& fingerprint, const Rgba& color) {
-  mixInto(fingerprint, {color.red, color.green, color.blue, color.alpha});
-}
-
-void mixInto(std::uint64_t& fingerprint, const std::string& text) {
-  mixInto(fingerprint, static_cast<std::uint64_t>(text.size()));
-  for (const char character : text) {
-    mixByte(fingerprint, static_cast<unsigned char>(character));
-  }
-}
-
-void mixInto(std::uint64_t& fingerprint, const Font& font) {
-  mixInto(fingerprint, {font.size, static_cast<double>(font.weight), font.tracking});
-}
-
-void mixInto(std::uint64_t& fingerprint, const Shape& shape) {
-  mixInto(fingerprint, {static_cast<double>(shape.kind), static_cast<double>(shape.cornerStyle),
-                        shape.cornerRadius});
-  mixInto(fingerprint, shape.rect);
-}
-
-void mixInto(std::uint64_t& fingerprint, const Paint& paint) {
-  for (const PaintStop& stop : paint.stops) {
-    mixInto(fingerprint, stop.color);
-    mixInto(fingerprint, stop.location);
-  }
-  mixInto(fingerprint, paint.start);
-  mixInto(fingerprint, paint.end);
 }
 
 void mixInto(std::uint64_t& fingerprint, const PaintShadow& shadow) {

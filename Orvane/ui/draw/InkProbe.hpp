@@ -16,13 +16,7 @@ inline constexpr std::uint64_t emptyFingerprint = 14695981039346656037ULL;
 void mixInto(std::uint64_t& fingerprint, std::uint64_t value);
 void mixInto(std::uint64_t& fingerprint, double value);
 void mixInto(std::uint64_t& fingerprint, std::initializer_list<double> values);
-void mixInto(std::uint64_t& fingerprint, Point point);
 void mixInto(std::uint64_t& fingerprint, const Rect& rect);
-void mixInto(std::uint64_t& fingerprint, const Rgba& color);
-void mixInto(std::uint64_t& fingerprint, const std::string& text);
-void mixInto(std::uint64_t& fingerprint, const Font& font);
-void mixInto(std::uint64_t& fingerprint, const Shape& shape);
-void mixInto(std::uint64_t& fingerprint, const Paint& paint);
 void mixInto(std::uint64_t& fingerprint, const PaintShadow& shadow);
 
 class InkProbe : public Canvas {

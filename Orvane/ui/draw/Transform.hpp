@@ -1,4 +1,4 @@
-// A scale and a translation: a point p becomes (p.x * scaleX + x, p.y * scaleY + y).
+// A scale and a translation: a point p becomes (p.x * scale + x, p.y * scale + y).
 #pragma once
 
 #include "Orvane/ui/layout/Rect.hpp"
@@ -6,8 +6,7 @@
 namespace orvane::ui {
 
 struct Transform {
-  double scaleX = 1;
-  double scaleY = 1;
+  double scale = 1;
   double x = 0;
   double y = 0;
 
@@ -15,12 +14,12 @@ struct Transform {
     return {.x = distance.x, .y = distance.y};
   }
   /// Scales about a fixed point.
-  [[nodiscard]] static Transform scale(double factorX, double factorY, Point about) {
-    return {factorX, factorY, about.x - factorX * about.x, about.y - factorY * about.y};
+  [[nodiscard]] static Transform scaling(double factor, Point about) {
+    return {factor, about.x - factor * about.x, about.y - factor * about.y};
   }
 
   [[nodiscard]] Point apply(Point point) const {
-    return {point.x * scaleX + x, point.y * scaleY + y};
+    return {point.x * scale + x, point.y * scale + y};
   }
   [[nodiscard]] Rect apply(const Rect& rect) const {
     const Point a = apply(rect.origin());
@@ -30,16 +29,13 @@ struct Transform {
   }
   /// The transform that applies `inner` first and then this one.
   [[nodiscard]] Transform after(const Transform& inner) const {
-    return {scaleX * inner.scaleX, scaleY * inner.scaleY, scaleX * inner.x + x,
-            scaleY * inner.y + y};
+    return {scale * inner.scale, scale * inner.x + x, scale * inner.y + y};
   }
-  /// False when a scale is zero: then nothing is visible or hit through it.
-  [[nodiscard]] bool isInvertible() const { return scaleX != 0 && scaleY != 0; }
+  /// False when the scale is zero: then nothing is visible or hit through it.
+  [[nodiscard]] bool isInvertible() const { return scale != 0; }
   /// Only for an invertible transform.
-  [[nodiscard]] Transform inverse() const {
-    return {1 / scaleX, 1 / scaleY, -x / scaleX, -y / scaleY};
-  }
-  [[nodiscard]] bool isTranslation() const { return scaleX == 1 && scaleY == 1; }
+  [[nodiscard]] Transform inverse() const { return {1 / scale, -x / scale, -y / scale}; }
+  [[nodiscard]] bool isTranslation() const { return scale == 1; }
 
   friend bool operator==(const Transform&, const Transform&) = default;
 };

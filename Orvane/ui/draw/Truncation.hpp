@@ -13,13 +13,9 @@ enum class TruncationMode { tail, middle };
 
 /// The number of lines that a text may take, and where it is truncated if it needs more.
 struct LineLimit {
-  // NOLINTNEXTLINE: a number is a limit
-  constexpr LineLimit(int count, TruncationMode mode = TruncationMode::tail)
-      : lines(count), truncation(mode) {}
-
   /// 0 or less means any number.
-  int lines;
-  TruncationMode truncation;
+  int lines = 0;
+  TruncationMode truncation = TruncationMode::tail;
 };
 
 /// The line with "…" in place of what exceeds the width, in points; only the ellipsis where no

@@ -3,32 +3,26 @@
 
 #include <typeinfo>
 #include <utility>
+#include <variant>
 
 #include "Orvane/ui/views/Attributes.hpp"
+#include "Orvane/ui/views/Modifiers.hpp"
 
 namespace orvane::ui {
 
 namespace {
 
 // The kit's own root stays, so that even the outermost view can appear and disappear.
-class RootElement final : public Element {
- public:
-  explicit RootElement(View view) : view_(std::move(view)) {}
-
-  void build(Node& node, BuildPass& pass) const override { pass.children(node, {&view_, 1}); }
-
- private:
-  View view_;
-};
+struct RootElement final : ModifierElement<std::monostate> {};
 
 }  // namespace
 
 void BuildPass::root(std::unique_ptr<Node>& node, const View& view,
                      const std::shared_ptr<const Environment>& environment) {
   if (!node) {
-    node = make(nullptr);
+    node = std::make_unique<Node>(++context_.nodeCount, nullptr);
   }
-  update(*node, View(std::make_shared<RootElement>(view)), environment);
+  update(*node, wrapped<RootElement>(view, std::monostate()), environment);
 }
 
 void BuildPass::children(Node& node, std::span<const View> views) {
@@ -51,7 +45,7 @@ void BuildPass::children(Node& node, std::span<const View> views) {
     }
     const bool isMade = !child;
     if (!child) {
-      child = make(&node);
+      child = std::make_unique<Node>(++context_.nodeCount, &node);
     }
     child->key = key;
     update(*child, view, node.environment);
@@ -67,7 +61,8 @@ void BuildPass::children(Node& node, std::span<const View> views) {
   }
 }
 
-void BuildPass::body(Node& node, const std::function<View(const Environment&)>& makeBody) {
+void buildBody(Node& node, BuildPass& pass,
+               const std::function<View(const Environment&)>& makeBody) {
   if (!node.states) {
     node.states = std::make_shared<StateStore>();
   }
@@ -76,7 +71,7 @@ void BuildPass::body(Node& node, const std::function<View(const Environment&)>& 
   node.states->isBodyRunning = true;
   const View body = makeBody(own);
   node.states->isBodyRunning = false;
-  children(node, {&body, 1});
+  pass.children(node, {&body, 1});
 }
 
 std::unique_ptr<Node> BuildPass::take(std::vector<std::unique_ptr<Node>>& from, const NodeKey& key,
@@ -102,10 +97,6 @@ std::unique_ptr<Node> BuildPass::take(std::vector<std::unique_ptr<Node>>& from, 
   return nullptr;
 }
 
-std::unique_ptr<Node> BuildPass::make(Node* parent) {
-  return std::make_unique<Node>(++context_.nodeCount, parent);
-}
-
 void BuildPass::update(Node& node, const View& view,
                        const std::shared_ptr<const Environment>& environment) {
   node.element = view.element();
@@ -120,9 +111,9 @@ void BuildPass::update(Node& node, const View& view,
 }
 
 void BuildPass::updateAttributes(Node& node) {
-  AttributeWriter writer(node.environment->appearance, context_.colors);
+  AttributeWriter writer{node.environment->appearance, context_.colors};
   node.element->attributes(node, writer);
-  const std::vector<double>& values = writer.values();
+  const std::vector<double>& values = writer.values;
   const bool isOtherKind = values.size() != node.attributes.size();
   if (isOtherKind) {
     node.attributes.resize(values.size());

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "Orvane/ui/host/Damage.hpp"
@@ -27,10 +28,7 @@ class BuildPass {
     /// The animation of the whole update.
     std::optional<Curve> curve;
   };
-  struct ScrollTarget {
-    Node* node;
-    std::optional<Curve> curve;
-  };
+  using ScrollTarget = std::pair<const Node*, std::optional<Curve>>;
 
   explicit BuildPass(const Context& context) : context_(context) {}
 
@@ -41,12 +39,10 @@ class BuildPass {
   /// For Element::build. Makes the views the children of the node; empty views have no node. They
   /// inherit the node's environment, and changes in them follow the node's curve.
   void children(Node& node, std::span<const View> views);
-  /// Makes the result of the function the only child. Its environment has the node's state.
-  void body(Node& node, const std::function<View(const Environment&)>& makeBody);
 
   /// Scrolls the node into view after layout: along the curve, or at once.
-  void scrollIntoView(Node& node, const std::optional<Curve>& curve) {
-    scrollTargets_.push_back({&node, curve});
+  void scrollIntoView(const Node& node, const std::optional<Curve>& curve) {
+    scrollTargets_.emplace_back(&node, curve);
   }
   [[nodiscard]] const std::vector<ScrollTarget>& scrollTargets() const { return scrollTargets_; }
   /// The handlers of views that appeared, to be called after layout.
@@ -55,7 +51,6 @@ class BuildPass {
  private:
   static std::unique_ptr<Node> take(std::vector<std::unique_ptr<Node>>& from, const NodeKey& key,
                                     const Element& element, std::size_t hint);
-  std::unique_ptr<Node> make(Node* parent);
   void update(Node& node, const View& view, const std::shared_ptr<const Environment>& environment);
   void updateAttributes(Node& node);
   void enter(Node& node, bool isMade);

@@ -8,11 +8,6 @@ namespace orvane::ui {
 
 namespace {
 
-// Negative lengths and those that are not numbers become zero.
-double clean(double length) {
-  return length > 0 ? length : 0;
-}
-
 double finite(double value) {
   return std::isfinite(value) ? value : 0;
 }
@@ -21,14 +16,15 @@ double finite(double value) {
 
 Size LayoutPass::measure(Node& node, const Proposal& proposal) {
   const Proposal asked = proposal.sanitized();
-  for (const MeasuredSize& cached : node.measured) {
-    if (cached.proposal == asked) {
-      return cached.size;
+  for (const auto& [cachedProposal, cachedSize] : node.measured) {
+    if (cachedProposal == asked) {
+      return cachedSize;
     }
   }
   const Size chosen = node.element->measure(node, asked, *this);
-  const Size size{clean(chosen.width), clean(chosen.height)};
-  node.measured.push_back({asked, size});
+  // With zero for a length that is not a number.
+  const Size size{std::max(0.0, chosen.width), std::max(0.0, chosen.height)};
+  node.measured.emplace_back(asked, size);
   return size;
 }
 
@@ -46,7 +42,7 @@ void LayoutPass::place(Node& node, Point origin, const Proposal& proposal) {
     if (node.isNew) {
       node.geometry[index].jump(targets[index]);
     } else {
-      node.geometry[index].set(targets[index], node.curve, now_);
+      node.geometry[index].set(targets[index], node.curve, now);
     }
   }
   node.isNew = false;

@@ -9,14 +9,10 @@
 namespace orvane::ui {
 
 /// Sizes are kept in the nodes until the next build pass. Lengths are points.
-class LayoutPass {
- public:
-  LayoutPass(TextMeasurer& text, const ImageSource& images, double now)
-      : text_(text), images_(images), now_(now) {}
-
-  [[nodiscard]] TextMeasurer& text() { return text_; }
-  [[nodiscard]] const ImageSource& images() const { return images_; }
-  [[nodiscard]] double now() const { return now_; }
+struct LayoutPass {
+  TextMeasurer& text;
+  const ImageSource& images;
+  double now;
 
   /// The size that the node chooses: never negative, always a number, and infinite only for a node
   /// that takes all of an infinite proposal.
@@ -26,11 +22,6 @@ class LayoutPass {
   void place(Node& node, Point origin, const Proposal& proposal);
   /// The same, aligned in a container whose origin is that of the parent.
   void placeAligned(Node& node, Size container, Alignment alignment, const Proposal& proposal);
-
- private:
-  TextMeasurer& text_;
-  const ImageSource& images_;
-  double now_;
 };
 
 }  // namespace orvane::ui

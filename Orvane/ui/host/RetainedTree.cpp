@@ -29,14 +29,15 @@ void collectHits(Node& node, Point point, double now, std::vector<Node*>& hits) 
     return;
   }
   const Effect effect = node.element->effect(node, now);
-  const bool isCut = effect.clip && !effect.clip->rect.contains(node.toHost.inverse().apply(point));
+  const Point local = node.toHost.inverse().apply(point);
+  const bool isCut = effect.clip && !effect.clip->rect.contains(local);
   if (effect.opacity <= 0 || isCut) {
     return;
   }
   for (auto child = node.children.rbegin(); child != node.children.rend(); ++child) {
     collectHits(**child, point, now, hits);
   }
-  if (node.covers(point)) {
+  if (node.bounds().contains(local)) {
     hits.push_back(&node);
   }
 }

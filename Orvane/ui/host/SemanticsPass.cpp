@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "Orvane/ui/host/ViewHost.hpp"
+
 namespace orvane::ui {
 
 namespace {
@@ -37,11 +39,13 @@ std::vector<SemanticsNode> semanticsOf(const Node& node, double now) {
   return collect(node, now + longestAnimation);
 }
 
-SemanticsNode semanticsTree(const Node& root, double now, std::uint64_t focusedId) {
-  SemanticsNode tree;
-  tree.id = root.id;
-  tree.children = semanticsOf(root, now);
-  markFocus(tree, focusedId);
+SemanticsNode ViewHost::semantics() const {
+  SemanticsNode tree{.frame = {0, 0, size_.width, size_.height}};
+  if (tree_.root) {
+    tree.id = tree_.root->id;
+    tree.children = semanticsOf(*tree_.root, tree_.now);
+    markFocus(tree, focus_.id());
+  }
   return tree;
 }
 

@@ -4,13 +4,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "Orvane/ui/draw/Color.hpp"
 #include "Orvane/ui/host/BuildPass.hpp"
-#include "Orvane/ui/host/DrawPass.hpp"
 #include "Orvane/ui/host/LayoutPass.hpp"
 #include "Orvane/ui/host/PresentPass.hpp"
-#include "Orvane/ui/host/SemanticsPass.hpp"
-#include "Orvane/ui/host/TreeDump.hpp"
 #include "Orvane/ui/views/Node.hpp"
 #include "Orvane/ui/views/ScrollView.hpp"
 
@@ -58,16 +54,8 @@ void ViewHost::invalidate(const std::optional<Curve>& curve) {
   }
   if (!needsUpdate_) {
     needsUpdate_ = true;
-    requestRedraw();
+    tree_.link->call(&HostServices::requestRedraw);
   }
-}
-
-std::shared_ptr<const Environment> ViewHost::rootEnvironment() const {
-  auto environment = std::make_shared<Environment>();
-  environment->appearance = appearance_;
-  environment->link = tree_.link;
-  environment->images = &images_;
-  return environment;
 }
 
 void ViewHost::tick(double seconds) {
@@ -102,7 +90,7 @@ void ViewHost::layoutIfNeeded() {
     }
   }
   if (needsUpdate_) {
-    requestRedraw();
+    tree_.link->call(&HostServices::requestRedraw);
   }
   reportSemanticsChange();
 }
@@ -111,14 +99,17 @@ std::vector<std::function<void()>> ViewHost::rebuild() {
   isUpdating_ = true;
   needsUpdate_ = false;
   const std::optional<Curve> curve = std::exchange(pendingCurve_, std::nullopt);
-  const auto environment = rootEnvironment();
+  const auto environment = std::make_shared<Environment>();
+  environment->appearance = appearance_;
+  environment->link = tree_.link;
+  environment->images = &images_;
   BuildPass build({tree_.now, colors_, nodeCount_, damage_, curve});
   build.root(tree_.root, builder_ ? builder_(*environment) : View(), environment);
-  LayoutPass layout(text_, images_, tree_.now);
+  LayoutPass layout{text_, images_, tree_.now};
   // A root of another size than the host is centred.
   layout.placeAligned(*tree_.root, size_, Alignment::center(), Proposal::of(size_));
-  for (const BuildPass::ScrollTarget& target : build.scrollTargets()) {
-    scrollIntoView(*target.node, target.curve, tree_.now);
+  for (const auto& [node, scrollCurve] : build.scrollTargets()) {
+    scrollIntoView(*node, scrollCurve, tree_.now);
   }
   pointer_.forgetDeadNodes();
   focus_.forgetDeadNode();
@@ -128,37 +119,16 @@ std::vector<std::function<void()>> ViewHost::rebuild() {
 }
 
 void ViewHost::present() {
-  PresentPass pass(tree_.now, damage_);
-  pass.present(*tree_.root);
+  const bool wasMoving = std::exchange(isMoving_, ui::present(*tree_.root, tree_.now, damage_));
   const Rect ringArea = focus_.ringArea();
   if (!(ringArea == presentedRing_)) {
     damage_.add(presentedRing_);
     damage_.add(ringArea);
     presentedRing_ = ringArea;
   }
-  const bool wasMoving = std::exchange(isMoving_, pass.isMoving());
   if (isMoving_ && !wasMoving) {
     tree_.link->call(&HostServices::requestFrames);
   }
-}
-
-void ViewHost::requestRedraw() const {
-  tree_.link->call(&HostServices::requestRedraw);
-}
-
-void ViewHost::reportSemanticsChange() const {
-  tree_.link->call(&HostServices::semanticsChanged);
-}
-
-void ViewHost::paint(Canvas& canvas, const Rect& dirty) const {
-  if (!tree_.root) {
-    return;
-  }
-  canvas.save();
-  canvas.clip(Shape::rectangle(dirty));
-  DrawPass(canvas, tree_.now, dirty).draw(*tree_.root);
-  focus_.drawRing(canvas, appearance_, colors_);
-  canvas.restore();
 }
 
 Size ViewHost::sizeThatFits(const Proposal& proposal) {
@@ -167,7 +137,7 @@ Size ViewHost::sizeThatFits(const Proposal& proposal) {
   if (!host->isConnected() || !tree_.root) {
     return {};
   }
-  return LayoutPass(text_, images_, tree_.now).measure(*tree_.root, proposal);
+  return LayoutPass{text_, images_, tree_.now}.measure(*tree_.root, proposal);
 }
 
 bool ViewHost::scroll(Point point, double horizontal, double vertical) {
@@ -175,7 +145,7 @@ bool ViewHost::scroll(Point point, double horizontal, double vertical) {
     return false;
   }
   present();
-  requestRedraw();
+  tree_.link->call(&HostServices::requestRedraw);
   if (pointer_.updateHover()) {
     reportSemanticsChange();
   }
@@ -206,27 +176,8 @@ bool ViewHost::focus(std::uint64_t id) {
 
 void ViewHost::showFocus() {
   present();
-  requestRedraw();
+  tree_.link->call(&HostServices::requestRedraw);
   reportSemanticsChange();
-}
-
-bool ViewHost::movesWindowAt(Point point) const {
-  return tree_.pressTarget(point) == nullptr;
-}
-
-SemanticsNode ViewHost::semantics() const {
-  SemanticsNode tree =
-      tree_.root ? semanticsTree(*tree_.root, tree_.now, focus_.id()) : SemanticsNode{};
-  tree.frame = {0, 0, size_.width, size_.height};
-  return tree;
-}
-
-bool ViewHost::press(std::uint64_t id) {
-  return tree_.activate(id);
-}
-
-std::string ViewHost::dumpTree() const {
-  return ui::dumpTree(tree_, focus_.id());
 }
 
 }  // namespace orvane::ui

@@ -42,8 +42,6 @@ struct HostPlatform {
 /// passing an event, so that animations that the event starts begin at its time.
 class ViewHost {
  public:
-  using RootBuilder = ui::RootBuilder;
-
   explicit ViewHost(HostPlatform platform);
   ViewHost(const ViewHost&) = delete;
   ViewHost& operator=(const ViewHost&) = delete;
@@ -96,14 +94,17 @@ class ViewHost {
   bool keyDown(const KeyEvent& event);
 
   /// False over a view that takes presses.
-  [[nodiscard]] bool movesWindowAt(Point point) const;
+  [[nodiscard]] bool movesWindowAt(Point point) const {
+    return tree_.pressTarget(point) == nullptr;
+  }
   [[nodiscard]] std::optional<Tooltip> tooltipAt(Point point) const {
     return tree_.tooltipAt(point);
   }
 
+  /// The root is a group that covers the host.
   [[nodiscard]] SemanticsNode semantics() const;
   /// The same as a click on the control with this id. False when there is none or it is disabled.
-  bool press(std::uint64_t id);
+  bool press(std::uint64_t id) { return tree_.activate(id); }
 
   /// The id, in the semantics tree, of the control with the keyboard focus; 0 without one.
   [[nodiscard]] std::uint64_t focusedId() const { return focus_.id(); }
@@ -111,16 +112,16 @@ class ViewHost {
   /// only shows after Tab.
   bool focus(std::uint64_t id);
 
-  /// The retained tree as text, one line per node, for debuggers and failing tests; see docs/ui.md.
+  /// The retained tree as text, for debuggers and failing tests: one line per node, indented by
+  /// depth, with its kind, id and frame as presented (x, y, width and height), what each pass did
+  /// with it last, and its element in the semantics tree. docs/ui.md explains the words.
   [[nodiscard]] std::string dumpTree() const;
 
  private:
-  [[nodiscard]] std::shared_ptr<const Environment> rootEnvironment() const;
   /// Returns the handlers to call afterwards.
   std::vector<std::function<void()>> rebuild();
   void present();
-  void requestRedraw() const;
-  void reportSemanticsChange() const;
+  void reportSemanticsChange() const { tree_.link->call(&HostServices::semanticsChanged); }
   void showFocus();
 
   TextMeasurer& text_;

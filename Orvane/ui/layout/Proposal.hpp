@@ -20,7 +20,7 @@ struct Proposal {
   /// With zero for a length that is negative or not a number.
   [[nodiscard]] Proposal sanitized() const {
     const auto clean = [](std::optional<double> length) {
-      return length && !(*length > 0) ? std::optional<double>(0) : length;
+      return length ? std::optional<double>(std::max(0.0, *length)) : length;
     };
     return {clean(width), clean(height)};
   }

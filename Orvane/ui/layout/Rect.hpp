@@ -127,4 +127,7 @@ struct UnitPoint {
 /// The position of a view in a frame that is larger or smaller than the view.
 using Alignment = UnitPoint;
 
+/// The position of a view in a column, or of a line in its text.
+enum class HorizontalAlignment { leading, center, trailing };
+
 }  // namespace orvane::ui

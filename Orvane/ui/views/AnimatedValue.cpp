@@ -18,12 +18,11 @@ void AnimatedValue::set(double target, const std::optional<Curve>& curve, double
     jump(target);
     return;
   }
-  const bool wasMoving = isMoving(now);
-  const double distance = at(now) - target;
-  const std::optional<double> velocity =
-      wasMoving ? std::optional<double>(velocityAt(now)) : std::nullopt;
-  target_ = target;
+  const Curve::Remainder before = remainder(now);
+  const double distance = target_ + before.distance - target;
+  const auto velocity = before.isSettled ? std::nullopt : std::optional(before.velocity);
   motion_ = std::make_unique<Motion>(Motion{distance, velocity, now, *curve});
+  target_ = target;
 }
 
 void AnimatedValue::settle(double now) {
@@ -41,18 +40,6 @@ Curve::Remainder AnimatedValue::remainder(double now) const {
   constexpr double stepsPerSecond = 0x1p24;
   const double elapsed = std::floor((now - motion_->start) * stepsPerSecond + 0.5) / stepsPerSecond;
   return motion_->curve.remainder(motion_->distance, motion_->velocity, elapsed);
-}
-
-double AnimatedValue::at(double now) const {
-  return target_ + remainder(now).distance;
-}
-
-double AnimatedValue::velocityAt(double now) const {
-  return remainder(now).velocity;
-}
-
-bool AnimatedValue::isMoving(double now) const {
-  return !remainder(now).isSettled;
 }
 
 }  // namespace orvane::ui

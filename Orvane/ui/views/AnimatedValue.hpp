@@ -23,9 +23,12 @@ class AnimatedValue {
   /// Ends an animation that has reached its target.
   void settle(double now);
 
-  [[nodiscard]] double at(double now) const;
-  [[nodiscard]] double velocityAt(double now) const;
-  [[nodiscard]] bool isMoving(double now) const;
+  [[nodiscard]] double at(double now) const {
+    return motion_ ? target_ + remainder(now).distance : target_;
+  }
+  [[nodiscard]] bool isMoving(double now) const { return motion_ && !remainder(now).isSettled; }
+  /// What is left of the motion to the target.
+  [[nodiscard]] Curve::Remainder remainder(double now) const;
 
  private:
   struct Motion {
@@ -34,8 +37,6 @@ class AnimatedValue {
     double start;
     Curve curve;
   };
-
-  Curve::Remainder remainder(double now) const;
 
   double target_;
   std::unique_ptr<Motion> motion_;

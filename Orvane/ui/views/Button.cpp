@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "Orvane/ui/host/BuildPass.hpp"
+#include "Orvane/ui/views/Modifiers.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/Text.hpp"
 
@@ -31,47 +31,36 @@ void appendTexts(const SemanticsNode& content, SemanticsNode& control) {
   }
 }
 
-}  // namespace
-
-class ButtonElement final : public Element {
- public:
-  ButtonElement(std::function<void(const Rect&)> action, View label)
-      : label_(std::move(label)), style_(BorderedButtonStyle{}) {
-    interaction_.activate = std::move(action);
-    interaction_.isFocusable = true;
-  }
+// The value is how it takes part in input.
+struct ButtonElement final : ModifierElement<Interaction> {
+  ButtonStyle style = BorderedButtonStyle{};
 
   void build(Node& node, BuildPass& pass) const override {
-    pass.body(node, [&](const Environment& environment) {
-      return style_({.label = label_,
-                     .isPressed = node.isPressed && environment.isEnabled,
-                     .isEnabled = environment.isEnabled,
-                     .isDefault = environment.shortcut && environment.shortcut->isDefault()},
-                    environment);
+    buildBody(node, pass, [&](const Environment& environment) {
+      return style({.label = content,
+                    .isPressed = node.isPressed && environment.isEnabled,
+                    .isEnabled = environment.isEnabled,
+                    .isDefault = environment.shortcut && environment.shortcut->isDefault()},
+                   environment);
     });
   }
 
-  [[nodiscard]] const Interaction& interaction() const override { return interaction_; }
+  [[nodiscard]] const Interaction& interaction() const override { return value; }
 
   // One element for the whole control, labelled with the texts in it.
   [[nodiscard]] std::vector<SemanticsNode> semantics(
       const Node& node, std::vector<SemanticsNode> contents) const override {
     SemanticsNode control = node.semantics(Role::button);
-    control.isFocusable = interaction_.isFocusable;
+    control.isFocusable = value.isFocusable;
     control.isControl = true;
     for (const SemanticsNode& content : contents) {
       appendTexts(content, control);
     }
     return {std::move(control)};
   }
-
- private:
-  friend class Button;
-
-  Interaction interaction_;
-  View label_;
-  ButtonStyle style_;
 };
+
+}  // namespace
 
 Button::Button(std::function<void()> action, const View& label)
     : Button(std::function<void(const Rect&)>([action = std::move(action)](const Rect&) {
@@ -85,25 +74,21 @@ Button::Button(const std::string& title, std::function<void()> action)
     : Button(std::move(action), Text(title)) {}
 
 Button::Button(std::function<void(const Rect&)> action, const View& label)
-    : View(std::make_shared<ButtonElement>(std::move(action), label)) {}
-
-template <typename Change>
-Button Button::changed(const Change& change) const {
-  auto copy = std::make_shared<ButtonElement>(static_cast<const ButtonElement&>(*element()));
-  change(*copy);
-  return Button(View(std::move(copy)));
-}
+    : View(wrapped<ButtonElement>(
+          label, Interaction{.activate = std::move(action), .isFocusable = true})) {}
 
 Button Button::style(const ButtonStyle& style) const {
-  return changed([&](ButtonElement& button) { button.style_ = style; });
+  return Button(altered<ButtonElement>(*this, [&](auto& button) { button.style = style; }));
 }
 
 Button Button::focusRing(const Shape& shape) const {
-  return changed([&](ButtonElement& button) { button.interaction_.focusShape = shape; });
+  return Button(
+      altered<ButtonElement>(*this, [&](auto& button) { button.value.focusShape = shape; }));
 }
 
 Button Button::outOfTabOrder() const {
-  return changed([](ButtonElement& button) { button.interaction_.isFocusable = false; });
+  return Button(
+      altered<ButtonElement>(*this, [](auto& button) { button.value.isFocusable = false; }));
 }
 
 View PlainButtonStyle::operator()(const ButtonConfiguration& configuration,

@@ -57,9 +57,6 @@ class [[nodiscard]] Button : public View {
 
  private:
   explicit Button(const View& view) : View(view) {}
-  /// A copy whose element is changed by the function.
-  template <typename Change>
-  Button changed(const Change& change) const;
 };
 
 }  // namespace orvane::ui

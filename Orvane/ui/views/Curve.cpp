@@ -34,41 +34,29 @@ double parameterAt(double x1, double x2, double x) {
 
 // dy/dx. Both derivatives can only vanish at the beginning, where the second ones, 6 (b - 2a),
 // decide.
-double slope(double x1, double y1, double x2, double y2, double s) {
+double slope(Point control1, Point control2, double s) {
   constexpr double vanishing = 1e-6;
-  const double slopeX = cubicSlope(x1, x2, s);
+  const double slopeX = cubicSlope(control1.x, control2.x, s);
   if (slopeX > vanishing) {
-    return cubicSlope(y1, y2, s) / slopeX;
+    return cubicSlope(control1.y, control2.y, s) / slopeX;
   }
-  return (y2 - 2 * y1) / (x2 - 2 * x1);
+  return (control2.y - 2 * control1.y) / (control2.x - 2 * control1.x);
 }
 
-}  // namespace
-
-Curve::Remainder Curve::remainder(double distance, std::optional<double> velocity,
-                                  double elapsed) const {
-  if (!(seconds_ > 0)) {
-    return {0, 0, true};
-  }
-  const double time = std::max(elapsed, 0.0);
-  return kind_ == Kind::spring ? springRemainder(distance, velocity.value_or(0), time)
-                               : bezierRemainder(distance, velocity, time);
-}
-
-Curve::Remainder Curve::bezierRemainder(double distance, std::optional<double> velocity,
-                                        double elapsed) const {
-  const double fraction = elapsed / seconds_;
+Curve::Remainder bezierRemainder(const Curve& curve, double distance,
+                                 std::optional<double> velocity, double elapsed) {
+  const double fraction = elapsed / curve.seconds;
   if (fraction >= 1) {
     return {0, 0, true};
   }
-  const double s = parameterAt(x1_, x2_, fraction);
-  Remainder result;
-  result.distance = distance * (1 - cubic(y1_, y2_, s));
-  result.velocity = -distance * slope(x1_, y1_, x2_, y2_, s) / seconds_;
+  const double s = parameterAt(curve.control1.x, curve.control2.x, fraction);
+  Curve::Remainder result;
+  result.distance = distance * (1 - cubic(curve.control1.y, curve.control2.y, s));
+  result.velocity = -distance * slope(curve.control1, curve.control2, s) / curve.seconds;
   if (velocity) {
     // t (1 - t/T)^2 begins with slope 1 and ends at zero with slope 0. It adds the difference
     // between the present velocity and the curve's initial one.
-    const double own = -distance * slope(x1_, y1_, x2_, y2_, 0) / seconds_;
+    const double own = -distance * slope(curve.control1, curve.control2, 0) / curve.seconds;
     const double difference = *velocity - own;
     result.distance += difference * elapsed * (1 - fraction) * (1 - fraction);
     result.velocity += difference * (1 - fraction) * (1 - 3 * fraction);
@@ -77,12 +65,12 @@ Curve::Remainder Curve::bezierRemainder(double distance, std::optional<double> v
 }
 
 // x'' + 2 z w x' + w^2 x = 0 with w = 2 pi / response and z the damping fraction.
-Curve::Remainder Curve::springRemainder(double distance, double velocity, double elapsed) const {
-  const double frequency = 2 * std::numbers::pi / seconds_;
-  const double damping = dampingFraction_;
+Curve::Remainder springRemainder(double response, double damping, double distance, double velocity,
+                                 double elapsed) {
+  const double frequency = 2 * std::numbers::pi / response;
   // Close to 1 the other form divides by almost zero.
   constexpr double almostCritical = 1 - 1e-4;
-  Remainder result;
+  Curve::Remainder result;
   if (damping > almostCritical) {
     const double drift = velocity + frequency * distance;
     const double fade = std::exp(-frequency * elapsed);
@@ -107,6 +95,19 @@ Curve::Remainder Curve::springRemainder(double distance, double velocity, double
     return {0, 0, true};
   }
   return result;
+}
+
+}  // namespace
+
+Curve::Remainder Curve::remainder(double distance, std::optional<double> velocity,
+                                  double elapsed) const {
+  if (!(seconds > 0)) {
+    return {0, 0, true};
+  }
+  const double time = std::max(elapsed, 0.0);
+  return dampingFraction
+             ? springRemainder(seconds, *dampingFraction, distance, velocity.value_or(0), time)
+             : bezierRemainder(*this, distance, velocity, time);
 }
 
 }  // namespace orvane::ui

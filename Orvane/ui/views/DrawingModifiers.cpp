@@ -10,23 +10,20 @@ namespace {
 
 // A modifier of one effect. `Values` writes the attributes and makes the effect from them.
 template <typename Values>
-class EffectElement final : public ModifierElement<Values> {
- public:
-  using ModifierElement<Values>::ModifierElement;
-
+struct EffectElement final : ModifierElement<Values> {
   void attributes(const Node&, AttributeWriter& writer) const override {
-    this->value().write(writer);
+    this->value.write(writer);
   }
   [[nodiscard]] Effect effect(const Node& node, double now) const override {
-    AttributeReader reader(node, now);
-    return this->value().effect(reader, Rect{0, 0, node.size.width, node.size.height});
+    AttributeReader reader{node, now};
+    return this->value.effect(reader, node.bounds());
   }
 };
 
 struct Opacity {
   double opacity;
 
-  void write(AttributeWriter& writer) const { writer.number(std::clamp(opacity, 0.0, 1.0)); }
+  void write(AttributeWriter& writer) const { writer.numbers({std::clamp(opacity, 0.0, 1.0)}); }
   [[nodiscard]] Effect effect(AttributeReader& reader, const Rect&) const {
     return {.opacity = reader.fraction()};
   }
@@ -35,23 +32,18 @@ struct Opacity {
 struct Offset {
   Point distance;
 
-  void write(AttributeWriter& writer) const {
-    writer.number(distance.x);
-    writer.number(distance.y);
-  }
+  void write(AttributeWriter& writer) const { writer.numbers({distance.x, distance.y}); }
   [[nodiscard]] Effect effect(AttributeReader& reader, const Rect&) const {
-    const double x = reader.number();
-    return {.transform = Transform::translation({x, reader.number()})};
+    return {.transform = Transform::translation({reader.number(), reader.number()})};
   }
 };
 
 struct Scale {
   double factor;
 
-  void write(AttributeWriter& writer) const { writer.number(factor); }
+  void write(AttributeWriter& writer) const { writer.numbers({factor}); }
   [[nodiscard]] Effect effect(AttributeReader& reader, const Rect& bounds) const {
-    const double present = reader.number();
-    return {.transform = Transform::scale(present, present, bounds.center())};
+    return {.transform = Transform::scaling(reader.number(), bounds.center())};
   }
 };
 

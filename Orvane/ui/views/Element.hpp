@@ -13,10 +13,10 @@
 
 namespace orvane::ui {
 
-class AttributeWriter;
 class BuildPass;
-class LayoutPass;
+struct AttributeWriter;
 struct DrawContext;
+struct LayoutPass;
 struct Node;
 struct Transition;
 

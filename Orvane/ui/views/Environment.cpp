@@ -9,13 +9,10 @@ namespace {
 
 using Change = std::function<void(Environment&)>;
 
-class EnvironmentElement final : public ModifierElement<Change> {
- public:
-  using ModifierElement::ModifierElement;
-
+struct EnvironmentElement final : ModifierElement<Change> {
   void build(Node& node, BuildPass& pass) const override {
     const auto changed = std::make_shared<Environment>(*node.environment);
-    value()(*changed);
+    value(*changed);
     node.environment = changed;
     ModifierElement::build(node, pass);
   }
@@ -54,7 +51,7 @@ View View::allowsTightening(double fraction) const {
                  [fraction](Environment& inherited) { inherited.text.tightening = fraction; });
 }
 
-View View::textAlignment(TextAlignment alignment) const {
+View View::textAlignment(HorizontalAlignment alignment) const {
   return changed(*this,
                  [alignment](Environment& inherited) { inherited.text.alignment = alignment; });
 }

@@ -19,12 +19,10 @@
 
 namespace orvane::ui {
 
-enum class TextAlignment { leading, center, trailing };
-
 /// How the lines of a text are made.
 struct TextStyle {
   Font font = Font::body();
-  TextAlignment alignment = TextAlignment::leading;
+  HorizontalAlignment alignment = HorizontalAlignment::leading;
   /// 0 means any number of lines.
   int lineLimit = 0;
   TruncationMode truncationMode = TruncationMode::tail;
@@ -67,7 +65,7 @@ struct Environment {
 
   [[nodiscard]] bool isDark() const { return appearance.dark; }
   [[nodiscard]] bool hasImage(const std::string& name) const {
-    return images != nullptr && images->image(name).has_value();
+    return images != nullptr && images->imageSize(name).has_value();
   }
 
   /// Runs the change and updates the host; the resulting changes are animated along the curve.

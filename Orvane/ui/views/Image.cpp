@@ -20,7 +20,7 @@ class ImageElement final : public Element {
       : name_(std::move(name)), isResizable_(isResizable) {}
 
   Size measure(Node&, const Proposal& proposal, LayoutPass& pass) const override {
-    const std::optional<Size> natural = pass.images().image(name_);
+    const std::optional<Size> natural = pass.images.imageSize(name_);
     if (!natural || !isResizable_) {
       return natural.value_or(Size{});
     }
@@ -52,7 +52,7 @@ class SymbolElement final : public Element {
   explicit SymbolElement(std::string name) : name_(std::move(name)) {}
 
   Size measure(Node& node, const Proposal&, LayoutPass& pass) const override {
-    return pass.images().symbol(name_, node.environment->text.font).value_or(Size{});
+    return pass.images.symbolSize(name_, node.environment->text.font).value_or(Size{});
   }
 
   void attributes(const Node& node, AttributeWriter& writer) const override {
@@ -65,7 +65,7 @@ class SymbolElement final : public Element {
     }
     const Point origin = context.snapped(context.rect.origin());
     context.canvas.symbol(name_, node.environment->text.font,
-                          AttributeReader(node, context.now).color(),
+                          AttributeReader{node, context.now}.color(),
                           Rect::from(origin, context.rect.size()));
   }
 

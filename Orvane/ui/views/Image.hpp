@@ -23,8 +23,7 @@ class [[nodiscard]] Image : public View {
 
 /// A symbol in the size and weight of the inherited font and in the inherited colour. As an image,
 /// it is not in the semantics tree.
-class [[nodiscard]] Symbol : public View {
- public:
+struct [[nodiscard]] Symbol : View {
   explicit Symbol(std::string name);
 };
 

@@ -5,11 +5,8 @@ namespace orvane::ui {
 
 namespace {
 
-class InteractionElement final : public ModifierElement<Interaction> {
- public:
-  using ModifierElement::ModifierElement;
-
-  [[nodiscard]] const Interaction& interaction() const override { return value(); }
+struct InteractionElement final : ModifierElement<Interaction> {
+  [[nodiscard]] const Interaction& interaction() const override { return value; }
 };
 
 }  // namespace

@@ -12,20 +12,17 @@ namespace {
 // A modifier that lays out its content by a rule: what it offers to the content, its own size with
 // the content's, and the origin of the content in it.
 template <typename Rule>
-class LayoutElement final : public ModifierElement<Rule> {
- public:
-  using ModifierElement<Rule>::ModifierElement;
-
+struct LayoutElement final : ModifierElement<Rule> {
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
-    const Proposal offer = this->value().offer(proposal);
-    return this->value().size(proposal, this->Element::measure(node, offer, pass));
+    const Proposal offer = this->value.offer(proposal);
+    return this->value.size(proposal, this->Element::measure(node, offer, pass));
   }
 
   void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
     if (!node.children.empty()) {
       Node& content = *node.children.front();
-      const Proposal offer = this->value().offer(proposal);
-      pass.place(content, this->value().origin(pass.measure(content, offer), size), offer);
+      const Proposal offer = this->value.offer(proposal);
+      pass.place(content, this->value.origin(pass.measure(content, offer), size), offer);
     }
   }
 };
@@ -98,13 +95,10 @@ struct Layering {
 };
 
 // A view with a layer below or above it. The view decides the size, which the layer is proposed.
-class LayersElement final : public ModifierElement<Layering> {
- public:
-  using ModifierElement::ModifierElement;
-
+struct LayersElement final : ModifierElement<Layering> {
   void build(Node& node, BuildPass& pass) const override {
-    const auto& [layer, isAbove] = value();
-    pass.children(node, std::array{isAbove ? content() : layer, isAbove ? layer : content()});
+    const auto& [layer, isAbove] = value;
+    pass.children(node, std::array{isAbove ? content : layer, isAbove ? layer : content});
   }
 
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
@@ -113,7 +107,7 @@ class LayersElement final : public ModifierElement<Layering> {
 
   void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
     pass.place(primary(node), {0, 0}, proposal);
-    pass.place(*node.children[value().isAbove ? 1 : 0], {0, 0}, Proposal::of(size));
+    pass.place(*node.children[value.isAbove ? 1 : 0], {0, 0}, Proposal::of(size));
   }
 
   double layoutPriority(const Node& node) const override {
@@ -121,11 +115,11 @@ class LayersElement final : public ModifierElement<Layering> {
   }
 
  private:
-  Node& primary(const Node& node) const { return *node.children[value().isAbove ? 0 : 1]; }
+  Node& primary(const Node& node) const { return *node.children[value.isAbove ? 0 : 1]; }
 };
 
 View layered(const View& view, const View& layer, bool isAbove, Alignment alignment) {
-  const View whole(std::make_shared<LayoutElement<Layer>>(layer, Layer{alignment}));
+  const View whole = wrapped<LayoutElement<Layer>>(layer, Layer{alignment});
   return modified<LayersElement>(view, Layering{whole, isAbove});
 }
 

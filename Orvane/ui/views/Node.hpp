@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Orvane/ui/views/AnimatedValue.hpp"
@@ -18,17 +19,7 @@
 namespace orvane::ui {
 
 /// Identifies a node among its siblings: by an explicit id, otherwise by place.
-struct NodeKey {
-  int slot = 0;
-  std::string id;
-
-  friend bool operator==(const NodeKey&, const NodeKey&) = default;
-};
-
-struct MeasuredSize {
-  Proposal proposal;
-  Size size;
-};
+using NodeKey = std::pair<int, std::string>;
 
 /// What each pass did with a node last, for dumpTree().
 struct PassTrace {
@@ -64,7 +55,7 @@ struct Node {
   std::any data;
   bool isPressed = false;
 
-  std::vector<MeasuredSize> measured;
+  std::vector<std::pair<Proposal, Size>> measured;
   /// Origin (x, y) in the parent and size (width, height), whose targets layout sets.
   std::array<AnimatedValue, 4> geometry;
   std::vector<AnimatedValue> attributes;
@@ -93,17 +84,27 @@ struct Node {
     return {geometry[0].at(now), geometry[1].at(now), std::max(0.0, geometry[2].at(now)),
             std::max(0.0, geometry[3].at(now))};
   }
-  /// As presented, in host coordinates.
-  [[nodiscard]] Rect hostFrame() const { return toHost.apply(Rect{0, 0, size.width, size.height}); }
+  /// As presented, in the node's own coordinates and in those of the host.
+  [[nodiscard]] Rect bounds() const { return Rect::from({0, 0}, size); }
+  [[nodiscard]] Rect hostFrame() const { return toHost.apply(bounds()); }
   /// Whether the point (host coordinates) is in the node's rectangle, as presented.
-  [[nodiscard]] bool covers(Point point) const;
+  [[nodiscard]] bool covers(Point point) const {
+    return toHost.isInvertible() && bounds().contains(toHost.inverse().apply(point));
+  }
   /// An element of the semantics tree for this node, without a label.
-  [[nodiscard]] SemanticsNode semantics(Role role) const;
+  [[nodiscard]] SemanticsNode semantics(Role role) const {
+    return {.id = id, .role = role, .isEnabled = environment->isEnabled, .frame = hostFrame()};
+  }
 };
 
 /// The node with a transition at the top of the subtree: the node itself, or the only child of an
 /// only child. Null when there is none.
-[[nodiscard]] Node* transitionNode(Node& node);
+[[nodiscard]] inline Node* transitionNode(Node& node) {
+  if (node.element->transition() != nullptr) {
+    return &node;
+  }
+  return node.children.size() == 1 ? transitionNode(*node.children.front()) : nullptr;
+}
 
 /// Calls the function for the node and all below it except leaving ones, parents first.
 template <typename Visit>

@@ -54,10 +54,7 @@ void scrollIntoView(Node& area, const Node& node, const std::optional<Curve>& cu
 }
 
 // The value is the margin.
-class ScrollElement final : public ModifierElement<double> {
- public:
-  using ModifierElement::ModifierElement;
-
+struct ScrollElement final : ModifierElement<double> {
   Size measure(Node& node, const Proposal& proposal, LayoutPass& pass) const override {
     const Size content = Element::measure(node, freed(proposal), pass);
     return {proposal.width.value_or(content.width), content.height};
@@ -65,8 +62,8 @@ class ScrollElement final : public ModifierElement<double> {
 
   void place(Node& node, const Proposal& proposal, Size size, LayoutPass& pass) const override {
     const Size content = Element::measure(node, freed(proposal), pass);
-    node.data = ScrollData{std::max(0.0, content.width - size.width), value()};
-    scrollTo(node, offsetOf(node), node.curve, pass.now());
+    node.data = ScrollData{std::max(0.0, content.width - size.width), value};
+    scrollTo(node, offsetOf(node), node.curve, pass.now);
     Element::place(node, freed(proposal), size, pass);
   }
 
@@ -74,12 +71,12 @@ class ScrollElement final : public ModifierElement<double> {
 
   // The present offset stays.
   void attributes(const Node& node, AttributeWriter& writer) const override {
-    writer.number(offsetOf(node));
+    writer.numbers({offsetOf(node)});
   }
 
   Effect effect(const Node& node, double now) const override {
-    return {.transform = Transform::translation({-AttributeReader(node, now).number(), 0}),
-            .clip = Shape::rectangle({0, 0, node.size.width, node.size.height})};
+    return {.transform = Transform::translation({-AttributeReader{node, now}.number(), 0}),
+            .clip = Shape::rectangle(node.bounds())};
   }
 
   std::vector<SemanticsNode> semantics(const Node& node,
@@ -96,16 +93,13 @@ class ScrollElement final : public ModifierElement<double> {
 // None for a view that is not wanted.
 using WantedPlace = std::optional<std::size_t>;
 
-class ScrollTargetElement final : public ModifierElement<WantedPlace> {
- public:
-  using ModifierElement::ModifierElement;
-
+struct ScrollTargetElement final : ModifierElement<WantedPlace> {
   void build(Node& node, BuildPass& pass) const override {
     const auto* const before = std::any_cast<WantedPlace>(&node.data);
-    if (value() && (before == nullptr || *before != value())) {
+    if (value && (before == nullptr || *before != value)) {
       pass.scrollIntoView(node, node.isNew ? std::nullopt : node.curve);
     }
-    node.data = value();
+    node.data = value;
     ModifierElement::build(node, pass);
   }
 };
@@ -113,7 +107,7 @@ class ScrollTargetElement final : public ModifierElement<WantedPlace> {
 }  // namespace
 
 ScrollView::ScrollView(const View& content, double margin)
-    : View(std::make_shared<ScrollElement>(content.padding(Edges::horizontal(margin)), margin)) {}
+    : View(wrapped<ScrollElement>(content.padding(Edges::horizontal(margin)), margin)) {}
 
 View View::scrollsIntoView(bool isWanted, std::size_t place) const {
   return modified<ScrollTargetElement>(*this, isWanted ? WantedPlace(place) : std::nullopt);

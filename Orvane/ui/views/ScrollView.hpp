@@ -8,8 +8,7 @@ namespace orvane::ui {
 
 /// Takes the proposed width and the height of its content. The margin, in points, lies before and
 /// after the content, and on both sides of a view that is scrolled into view.
-class [[nodiscard]] ScrollView : public View {
- public:
+struct [[nodiscard]] ScrollView : View {
   explicit ScrollView(const View& content, double margin = 0);
 };
 

@@ -2,6 +2,8 @@
 // roles.
 #include "Orvane/ui/views/Semantics.hpp"
 
+#include <array>
+
 #include "Orvane/ui/views/Modifiers.hpp"
 
 namespace orvane::ui {
@@ -17,13 +19,10 @@ struct SemanticsChange {
   bool isHidden = false;
 };
 
-class SemanticsElement final : public ModifierElement<SemanticsChange> {
- public:
-  using ModifierElement::ModifierElement;
-
+struct SemanticsElement final : ModifierElement<SemanticsChange> {
   std::vector<SemanticsNode> semantics(const Node& node,
                                        std::vector<SemanticsNode> children) const override {
-    if (value().isHidden) {
+    if (value.isHidden) {
       return {};
     }
     SemanticsNode element;
@@ -33,10 +32,10 @@ class SemanticsElement final : public ModifierElement<SemanticsChange> {
       element = node.semantics(Role::group);
       element.children = std::move(children);
     }
-    element.role = value().role.value_or(element.role);
-    element.label = value().label.value_or(element.label);
-    element.value = value().value.value_or(element.value);
-    element.isSelected = value().isSelected.value_or(element.isSelected);
+    element.role = value.role.value_or(element.role);
+    element.label = value.label.value_or(element.label);
+    element.value = value.value.value_or(element.value);
+    element.isSelected = value.isSelected.value_or(element.isSelected);
     return {std::move(element)};
   }
 };
@@ -64,27 +63,10 @@ View View::accessibilityHidden() const {
 }
 
 const char* roleName(Role role) {
-  switch (role) {
-    case Role::group:
-      return "group";
-    case Role::staticText:
-      return "text";
-    case Role::heading:
-      return "heading";
-    case Role::image:
-      return "image";
-    case Role::button:
-      return "button";
-    case Role::toggle:
-      return "toggle";
-    case Role::radioButton:
-      return "radio button";
-    case Role::popUpButton:
-      return "pop-up button";
-    case Role::scrollArea:
-      return "scroll area";
-  }
-  return "";
+  // In the order of the enumeration.
+  constexpr std::array names{"group",  "text",         "heading",       "image",      "button",
+                             "toggle", "radio button", "pop-up button", "scroll area"};
+  return names.at(static_cast<std::size_t>(role));
 }
 
 }  // namespace orvane::ui

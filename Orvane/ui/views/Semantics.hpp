@@ -25,11 +25,11 @@ struct SemanticsNode {
   /// That of the node. It stays while the view keeps its identity, and is never reused.
   std::uint64_t id = 0;
   Role role = Role::group;
-  std::string label;
-  std::string value;
+  std::string label = {};
+  std::string value = {};
   /// The full texts in it that are drawn truncated, which the host also offers as its tooltip;
   /// empty when none is.
-  std::string cutText;
+  std::string cutText = {};
   /// Whether it can be pressed while it is enabled.
   bool isControl = false;
   bool isEnabled = true;
@@ -37,8 +37,8 @@ struct SemanticsNode {
   bool isFocusable = false;
   bool isFocused = false;
   /// As presented, in host coordinates.
-  Rect frame;
-  std::vector<SemanticsNode> children;
+  Rect frame = {};
+  std::vector<SemanticsNode> children = {};
 };
 
 /// Such as "button".

@@ -5,8 +5,11 @@
 
 #include "Orvane/ui/draw/DrawContext.hpp"
 #include "Orvane/ui/views/Attributes.hpp"
+#include "Orvane/ui/views/Modifiers.hpp"
 
 namespace orvane::ui {
+
+namespace {
 
 struct ShapeLayer {
   enum class Kind { fill, stroke, strokeBorder };
@@ -16,9 +19,10 @@ struct ShapeLayer {
   double lineWidth;
 };
 
-class ShapeElement final : public Element {
- public:
-  explicit ShapeElement(const Shape& shape) : shape_(shape) {}
+struct ShapeElement final : Element {
+  Shape shape;
+  std::vector<Shadow> shadows;
+  std::vector<ShapeLayer> layers;
 
   Size measure(Node&, const Proposal& proposal, LayoutPass&) const override {
     constexpr double ideal = 10;
@@ -26,13 +30,13 @@ class ShapeElement final : public Element {
   }
 
   void attributes(const Node& node, AttributeWriter& writer) const override {
-    writer.number(shape_.cornerRadius);
-    for (const Shadow& shadow : shadows_) {
+    writer.numbers({shape.cornerRadius});
+    for (const Shadow& shadow : shadows) {
       writer.shadow(shadow);
     }
     for (const ShapeLayer& layer : layersOf(node)) {
       writer.fill(layer.fill);
-      writer.number(layer.lineWidth);
+      writer.numbers({layer.lineWidth});
     }
   }
 
@@ -41,69 +45,64 @@ class ShapeElement final : public Element {
     if (rect.isEmpty()) {
       return;
     }
-    AttributeReader reader(node, context.now);
-    Shape shape = shape_.in(rect);
-    shape.cornerRadius = reader.number();
-    for (std::size_t index = 0; index < shadows_.size(); ++index) {
+    AttributeReader reader{node, context.now};
+    Shape drawn = shape.in(rect);
+    drawn.cornerRadius = reader.number();
+    for (std::size_t index = 0; index < shadows.size(); ++index) {
       const PaintShadow shadow = reader.shadow();
       if (shadow.color.alpha > 0) {
-        context.canvas.shadow(shape, shadow);
+        context.canvas.shadow(drawn, shadow);
       }
     }
     for (const ShapeLayer& layer : layersOf(node)) {
-      const Paint paint = reader.fill(layer.fill, shape.rect);
+      const Paint paint = reader.fill(layer.fill, drawn.rect);
       const double lineWidth = reader.number();
       if (layer.kind == ShapeLayer::Kind::fill) {
-        context.canvas.fill(shape, paint);
+        context.canvas.fill(drawn, paint);
       } else if (lineWidth > 0) {
         const bool isInside = layer.kind == ShapeLayer::Kind::strokeBorder;
-        context.canvas.stroke(isInside ? shape.inset(lineWidth / 2) : shape, paint, lineWidth);
+        context.canvas.stroke(isInside ? drawn.inset(lineWidth / 2) : drawn, paint, lineWidth);
       }
     }
   }
 
- private:
-  friend class ShapeView;
-
   std::vector<ShapeLayer> layersOf(const Node& node) const {
-    if (!layers_.empty()) {
-      return layers_;
+    if (!layers.empty()) {
+      return layers;
     }
     return {{ShapeLayer::Kind::fill, node.environment->foreground, 0}};
   }
-
-  Shape shape_;
-  std::vector<Shadow> shadows_;
-  std::vector<ShapeLayer> layers_;
 };
 
-ShapeView::ShapeView(const Shape& shape) : View(std::make_shared<ShapeElement>(shape)) {}
-
-template <typename Change>
-ShapeView ShapeView::changed(const Change& change) const {
-  auto copy = std::make_shared<ShapeElement>(static_cast<const ShapeElement&>(*element()));
-  change(*copy);
-  return ShapeView(View(std::move(copy)));
+View viewOf(const Shape& shape) {
+  const auto element = std::make_shared<ShapeElement>();
+  element->shape = shape;
+  return View(element);
 }
 
-ShapeView ShapeView::adding(const ShapeLayer& layer) const {
-  return changed([&](ShapeElement& shape) { shape.layers_.push_back(layer); });
+View adding(const View& view, const ShapeLayer& layer) {
+  return altered<ShapeElement>(view, [&](auto& element) { element.layers.push_back(layer); });
 }
+
+}  // namespace
+
+ShapeView::ShapeView(const Shape& shape) : View(viewOf(shape)) {}
 
 ShapeView ShapeView::fill(const Fill& fill) const {
-  return adding({ShapeLayer::Kind::fill, fill, 0});
+  return ShapeView(adding(*this, {ShapeLayer::Kind::fill, fill, 0}));
 }
 
 ShapeView ShapeView::stroke(const Fill& fill, double lineWidth) const {
-  return adding({ShapeLayer::Kind::stroke, fill, lineWidth});
+  return ShapeView(adding(*this, {ShapeLayer::Kind::stroke, fill, lineWidth}));
 }
 
 ShapeView ShapeView::strokeBorder(const Fill& fill, double lineWidth) const {
-  return adding({ShapeLayer::Kind::strokeBorder, fill, lineWidth});
+  return ShapeView(adding(*this, {ShapeLayer::Kind::strokeBorder, fill, lineWidth}));
 }
 
 ShapeView ShapeView::castShadow(const Shadow& shadow) const {
-  return changed([&](ShapeElement& shape) { shape.shadows_.push_back(shadow); });
+  return ShapeView(
+      altered<ShapeElement>(*this, [&](auto& element) { element.shadows.push_back(shadow); }));
 }
 
 }  // namespace orvane::ui

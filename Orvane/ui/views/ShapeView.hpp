@@ -6,9 +6,6 @@
 
 namespace orvane::ui {
 
-class ShapeElement;
-struct ShapeLayer;
-
 /// Takes the proposed size. Fills and strokes are painted in the order of the calls; without any,
 /// the shape is filled with the inherited colour.
 class [[nodiscard]] ShapeView : public View {
@@ -25,29 +22,21 @@ class [[nodiscard]] ShapeView : public View {
 
  private:
   explicit ShapeView(const View& view) : View(view) {}
-  /// A copy whose element is changed by the function.
-  template <typename Change>
-  ShapeView changed(const Change& change) const;
-  ShapeView adding(const ShapeLayer& layer) const;
 };
 
-class [[nodiscard]] Rectangle : public ShapeView {
- public:
+struct [[nodiscard]] Rectangle : ShapeView {
   Rectangle() : ShapeView(Shape::rectangle()) {}
 };
 
-class [[nodiscard]] RoundedRectangle : public ShapeView {
- public:
+struct [[nodiscard]] RoundedRectangle : ShapeView {
   explicit RoundedRectangle(double cornerRadius) : ShapeView(Shape::rounded(cornerRadius)) {}
 };
 
-class [[nodiscard]] Capsule : public ShapeView {
- public:
+struct [[nodiscard]] Capsule : ShapeView {
   Capsule() : ShapeView(Shape::capsule()) {}
 };
 
-class [[nodiscard]] Circle : public ShapeView {
- public:
+struct [[nodiscard]] Circle : ShapeView {
   Circle() : ShapeView(Shape::circle()) {}
 };
 

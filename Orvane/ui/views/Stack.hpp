@@ -7,32 +7,26 @@
 
 namespace orvane::ui {
 
-enum class HorizontalAlignment { leading, center, trailing };
-
 /// A column, with exactly this spacing between the children.
-class [[nodiscard]] VStack : public View {
- public:
+struct [[nodiscard]] VStack : View {
   VStack(double spacing, const std::vector<View>& children)
       : VStack(spacing, HorizontalAlignment::center, children) {}
   VStack(double spacing, HorizontalAlignment alignment, const std::vector<View>& children);
 };
 
 /// A row, from leading to trailing, with its children in the middle of its height.
-class [[nodiscard]] HStack : public View {
- public:
+struct [[nodiscard]] HStack : View {
   HStack(double spacing, const std::vector<View>& children);
 };
 
 /// Children on top of each other, the first one lowest; as large as the largest.
-class [[nodiscard]] ZStack : public View {
- public:
+struct [[nodiscard]] ZStack : View {
   explicit ZStack(const std::vector<View>& children) : ZStack(Alignment::center(), children) {}
   ZStack(Alignment alignment, const std::vector<View>& children);
 };
 
 /// Takes the remaining room along its stack, at least the minimum.
-class [[nodiscard]] Spacer : public View {
- public:
+struct [[nodiscard]] Spacer : View {
   explicit Spacer(double minimum = 0);
 };
 

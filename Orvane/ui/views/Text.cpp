@@ -2,6 +2,7 @@
 #include "Orvane/ui/views/Text.hpp"
 
 #include <cmath>
+#include <map>
 
 #include "Orvane/ui/draw/DrawContext.hpp"
 #include "Orvane/ui/host/BuildPass.hpp"
@@ -27,21 +28,16 @@ struct BrokenText {
 
 // A text node keeps the lines for each width it was proposed, and those it was placed with.
 struct TextData {
-  struct Entry {
-    double width;
-    int lineLimit;
-    BrokenText broken;
-  };
-
   std::string text;
   TextStyle style;
-  std::vector<Entry> entries = {};
+  /// By width and line limit.
+  std::map<std::pair<double, int>, BrokenText> entries = {};
   BrokenText placed = {};
 };
 
 void setLineHeight(TextLayout& layout, double lineHeight, const Font& font,
                    TextMeasurer& measurer) {
-  const TextLayout latin = measurer.layout("x", font, infinity, 1);
+  const TextLayout latin = measurer.layout("x", font, infinity, {1});
   layout.ascent = latin.ascent + (lineHeight - latin.lineHeight) / 2;
   layout.lineHeight = lineHeight;
 }
@@ -73,7 +69,7 @@ class TextElement final : public Element {
 
   void draw(const Node& node, const DrawContext& context) const override {
     const auto& [font, layout] = std::any_cast<const TextData&>(node.data).placed;
-    const Rgba color = AttributeReader(node, context.now).color();
+    const Rgba color = AttributeReader{node, context.now}.color();
     const double fraction = static_cast<double>(node.environment->text.alignment) / 2;
     double baseline = context.rect.y + layout.ascent;
     for (const TextLine& line : layout.lines) {
@@ -116,22 +112,18 @@ class TextElement final : public Element {
 
   const BrokenText& layoutFor(Node& node, double width, int lineLimit, LayoutPass& pass) const {
     auto& data = std::any_cast<TextData&>(node.data);
-    for (const TextData::Entry& entry : data.entries) {
-      if (entry.width == width && entry.lineLimit == lineLimit) {
-        return entry.broken;
-      }
+    const std::pair key(width, lineLimit);
+    if (const auto kept = data.entries.find(key); kept != data.entries.end()) {
+      return kept->second;
     }
     // More than one layout pass asks for; while a window is resized, old entries are dropped.
-    // References to entries stay valid until then.
     constexpr std::size_t maximumCount = 24;
     if (data.entries.size() >= maximumCount) {
       data.entries.clear();
     }
-    data.entries.reserve(maximumCount);
-    data.entries.push_back({width, lineLimit, broken(data.style, width, lineLimit, pass.text())});
-    BrokenText& added = data.entries.back().broken;
+    BrokenText& added = data.entries[key] = broken(data.style, width, lineLimit, pass.text);
     if (data.style.lineHeight) {
-      setLineHeight(added.layout, *data.style.lineHeight, data.style.font, pass.text());
+      setLineHeight(added.layout, *data.style.lineHeight, data.style.font, pass.text);
     }
     return added;
   }

@@ -10,8 +10,7 @@ namespace orvane::ui {
 /// Wraps in the proposed width. With too little height, or too many lines for its line limit, it is
 /// truncated with an ellipsis; the host's tooltip over it, or over its control, is then the full
 /// text.
-class [[nodiscard]] Text : public View {
- public:
+struct [[nodiscard]] Text : View {
   explicit Text(std::string text);
 };
 

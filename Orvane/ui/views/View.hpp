@@ -91,7 +91,7 @@ class [[nodiscard]] View {
   /// Lines of text have this height in points, in every script, and the baseline that a Latin line
   /// centred in this height has. Zero and less restore the font's own height.
   View lineHeight(double points) const;
-  View textAlignment(TextAlignment alignment) const;
+  View textAlignment(HorizontalAlignment alignment) const;
   View disabled(bool isDisabled) const;
 
   // Input. Handlers may destroy the view, and even its host.
@@ -160,28 +160,26 @@ std::vector<View> forEach(const Items& items, const Identify& identify, const Ma
   return views;
 }
 
-/// The element of a composite view.
-class ComponentElement : public Element {
- public:
-  void build(Node& node, BuildPass& pass) const override;
-
- private:
-  virtual View body(const Environment& environment) const = 0;
-};
+/// For Element::build: makes the result of the function the only child of the node. The environment
+/// that the function gets has the node's state.
+void buildBody(Node& node, BuildPass& pass,
+               const std::function<View(const Environment&)>& makeBody);
 
 template <typename Component>
-class ComponentElementOf final : public ComponentElement {
+class ComponentElement final : public Element {
  public:
-  explicit ComponentElementOf(Component component) : component_(std::move(component)) {}
+  explicit ComponentElement(Component component) : component_(std::move(component)) {}
+
+  void build(Node& node, BuildPass& pass) const override {
+    buildBody(node, pass, [this](const Environment& own) { return component_.body(own); });
+  }
 
  private:
-  View body(const Environment& environment) const override { return component_.body(environment); }
-
   Component component_;
 };
 
 template <CompositeView Component>
 View::View(Component component)
-    : element_(std::make_shared<ComponentElementOf<Component>>(std::move(component))) {}
+    : element_(std::make_shared<ComponentElement<Component>>(std::move(component))) {}
 
 }  // namespace orvane::ui

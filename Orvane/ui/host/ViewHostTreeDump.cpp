@@ -1,14 +1,12 @@
-// The kind of a node is the name of its element's class, which the compiler knows.
-#include "Orvane/ui/host/TreeDump.hpp"
-
+// The retained tree as text. The kind of a node is the name of its element's class, which the
+// compiler knows.
 #include <charconv>
 #include <cstdio>
 #include <map>
 #include <string_view>
 #include <typeinfo>
 
-#include "Orvane/ui/host/RetainedTree.hpp"
-#include "Orvane/ui/host/SemanticsPass.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 #include "Orvane/ui/views/Node.hpp"
 
 namespace orvane::ui {
@@ -18,7 +16,7 @@ namespace {
 using Elements = std::map<std::uint64_t, const SemanticsNode*>;
 
 // The last identifier, without "Element": Text for the class TextElement, and StatusPill for
-// ComponentElementOf<StatusPill>. In a type's name (of the Itanium C++ ABI) each identifier follows
+// ComponentElement<StatusPill>. In a type's name (of the Itanium C++ ABI) each identifier follows
 // its length.
 std::string kindOf(const Element& element) {
   const std::string name = typeid(element).name();
@@ -92,15 +90,15 @@ void dump(const Node& node, std::size_t depth, const char* state, const Elements
 
 }  // namespace
 
-std::string dumpTree(const RetainedTree& tree, std::uint64_t focusedId) {
+std::string ViewHost::dumpTree() const {
   std::string text;
-  if (tree.root) {
-    const SemanticsNode semantics = semanticsTree(*tree.root, tree.now, focusedId);
+  if (tree_.root) {
+    const SemanticsNode tree = semantics();
     Elements elements;
-    for (const SemanticsNode& child : semantics.children) {
+    for (const SemanticsNode& child : tree.children) {
       collectElements(child, elements);
     }
-    dump(*tree.root, 0, "", elements, text);
+    dump(*tree_.root, 0, "", elements, text);
   }
   return text;
 }
