@@ -17,18 +17,6 @@ using ui::Transform;
 
 class CairoCanvasTest : public PixelFixture {};
 
-TEST_F(CairoCanvasTest, AFilledRectangleCoversExactlyItsPixelsAtEveryScale) {
-  for (const int scale : {1, 2, 3}) {
-    begin(10, 8, scale).fill(Shape::rectangle({2, 3, 5, 4}), Paint::solid(red));
-    for (int y = 0; y < height(); ++y) {
-      for (int x = 0; x < width(); ++x) {
-        const bool inside = x >= 2 * scale && x < 7 * scale && y >= 3 * scale && y < 7 * scale;
-        ASSERT_EQ(at(x, y), inside ? fullRed : nothing) << x << "," << y << " at " << scale;
-      }
-    }
-  }
-}
-
 TEST_F(CairoCanvasTest, AnEmptyPaintPaintsNothing) {
   begin(4, 4).fill(Shape::rectangle({0, 0, 4, 4}), Paint{});
   canvas->stroke(Shape::rectangle({1, 1, 2, 2}), Paint{}, 1);
@@ -111,25 +99,6 @@ TEST_F(CairoCanvasTest, AScaleOfZeroDrawsNothingUntilItIsRestored) {
   EXPECT_EQ(ink(), 0);
   canvas->fill(Shape::rectangle({0, 0, 1, 1}), Paint::solid(red));
   EXPECT_EQ(at(0, 0), fullRed);
-}
-
-TEST_F(CairoCanvasTest, AContinuousCornerIsBetweenACircularOneAndTheSquare) {
-  constexpr double radius = 40;
-  const Rect square{0, 0, 200, 200};
-  const auto coverage = [&](const Shape& shape) {
-    begin(200, 200).fill(shape, Paint::solid(black));
-    return ink();
-  };
-  const double smooth = coverage(Shape::roundedRectangle(square, radius));
-  const double circular =
-      coverage(Shape::roundedRectangle(square, radius, ui::CornerStyle::circular));
-  const double reaching =
-      coverage(Shape::roundedRectangle(square, radius * 1.6, ui::CornerStyle::circular));
-  EXPECT_LT(smooth, 200 * 200);
-  EXPECT_GT(smooth, reaching);
-  // It leaves the edge slightly earlier than a circle with the radius.
-  EXPECT_LT(smooth, circular);
-  EXPECT_GT(smooth, circular - 4 * 0.05 * radius * radius);
 }
 
 TEST_F(CairoCanvasTest, AShadowIsSymmetricAndLeavesItsShapeClear) {

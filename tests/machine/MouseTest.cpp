@@ -70,30 +70,6 @@ TEST_F(MouseTest, ThePointerIsWhereTheTapsLeaveTheEvent) {
   EXPECT_EQ(positions[0].y, 787);
 }
 
-TEST_F(MouseTest, AMovementThatNoTapChangesPasses) {
-  const PointerMovement movement = machine.mouse.moveTo({500, 900});
-  EXPECT_EQ(movement.outcome, PointerMovement::Outcome::passed);
-  EXPECT_EQ(movement.wanted.y, 799);
-  EXPECT_EQ(movement.reached.y, 799);
-}
-
-TEST_F(MouseTest, AFreeCursorIgnoresTheTapsAndTheDockSeesTheChangedEvent) {
-  machine.mouse.setCursor(Mouse::Cursor::free);
-  script.dy = -12;
-  machine.mouse.moveTo({1500, 400});
-  const PointerMovement movement = machine.mouse.moveBy(0, 900);
-  EXPECT_EQ(machine.pointer.location().y, 799);
-  EXPECT_EQ(movement.outcome, PointerMovement::Outcome::movedBack);
-  EXPECT_EQ(movement.wanted.y, 799);
-  EXPECT_EQ(movement.reached.y, 787);
-  ASSERT_EQ(positions.size(), 2U);
-  EXPECT_EQ(positions[1].y, 787);
-  EXPECT_EQ(machine.dock.displayNumber(), 1U);
-  // It is still at the edge: the next movement starts there.
-  machine.mouse.moveBy(5, 0);
-  EXPECT_EQ(script.seen.back().location.y, 799);
-}
-
 TEST_F(MouseTest, AFreeCursorMovesEvenIfATapDropsItsMovements) {
   machine.mouse.setCursor(Mouse::Cursor::free);
   machine.mouse.moveTo({1500, 400});
@@ -130,16 +106,6 @@ TEST_F(MouseTest, ADroppedMovementMovesNothing) {
   EXPECT_EQ(machine.dock.displayNumber(), 1U);
   EXPECT_EQ(machine.counters.droppedEvents, 1);
   EXPECT_EQ(positions.size(), 1U);
-}
-
-TEST_F(MouseTest, TheDockSeesThePositionAfterTheTaps) {
-  machine.mouse.moveTo({1500, 400});
-  script.dy = -12;
-  machine.mouse.moveBy(0, 900);
-  EXPECT_EQ(machine.dock.displayNumber(), 1U);
-  script.dy = 0;
-  machine.mouse.moveBy(0, 900);
-  EXPECT_EQ(machine.dock.displayNumber(), 2U);
 }
 
 TEST_F(MouseTest, ANonFiniteMovementIsIgnored) {

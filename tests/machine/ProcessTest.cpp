@@ -1,4 +1,4 @@
-// The start and the end of a process: what ends with it and what survives.
+// The start and the end of a machine and of a process: what ends with it and what survives.
 #include <memory>
 #include <optional>
 
@@ -119,6 +119,47 @@ TEST_F(ProcessTest, MayEndFromWithinATask) {
   machine.runDue();
   EXPECT_EQ(*held, 1);
   EXPECT_FALSE(machine.process.isRunning());
+}
+
+TEST(MachineScopeTest, ReportsLeakedObjects) {
+  MachineScope scope;
+  const CFStringRef text =
+      CFStringCreateWithCString(kCFAllocatorDefault, "left behind", kCFStringEncodingUTF8);
+  Machine::current().objects.retain(text, "test");
+  EXPECT_EQ(scope.end(),
+            std::vector<std::string>{"not released: CFString \"left behind\", references: 2"});
+}
+
+TEST(MachineScopeTest, ReportsFaults) {
+  MachineScope scope;
+  const CFStringRef text =
+      CFStringCreateWithCString(kCFAllocatorDefault, "twice", kCFStringEncodingUTF8);
+  CFRelease(text);
+  CFRelease(text);
+  EXPECT_EQ(scope.end(),
+            std::vector<std::string>{"fault: CFRelease: CFString \"twice\" was already released"});
+}
+
+TEST(MachineScopeTest, ANewMachineStartsAfresh) {
+  {
+    MachineScope scope;
+    scope->userDefaults.set("key", true);
+    scope->permission.setTrusted(true);
+    scope->advance(5);
+  }
+  const MachineScope scope;
+  EXPECT_TRUE(scope->userDefaults.values().empty());
+  EXPECT_FALSE(scope->permission.isTrusted());
+  EXPECT_EQ(scope->clock.now(), 0);
+}
+
+TEST(MachineScopeDeathTest, ASecondMachineAtATimeIsRefused) {
+  const MachineScope scope;
+  EXPECT_DEATH(MachineScope(), "switched on already");
+}
+
+TEST(MachineScopeDeathTest, WithoutAMachineThePlatformIsUnavailable) {
+  EXPECT_DEATH(Machine::current(), "no machine is switched on");
 }
 
 }  // namespace

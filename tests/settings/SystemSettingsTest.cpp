@@ -1,4 +1,7 @@
-// The window of System Settings, its Accessibility page, and the links that open it.
+// The window of System Settings, its Accessibility page, the links that open it, and its language.
+#include <gtest/gtest.h>
+
+#include "desk/settings/SystemLanguage.hpp"
 #include "tests/settings/SystemSettingsFixture.hpp"
 
 namespace orvane::desk {
@@ -185,6 +188,21 @@ TEST_F(SystemSettingsTest, ItOpensWithoutADisplay) {
   EXPECT_FALSE(machine.displays.detach(2));
   open();
   EXPECT_NE(window(), nullptr);
+}
+
+bool isChinese(std::vector<std::string> preferred) {
+  return SystemLanguage::of({std::move(preferred), "en_US"}).isChinese();
+}
+
+TEST(SystemLanguageTest, TheFirstOfTheTwoLanguagesCounts) {
+  EXPECT_TRUE(isChinese({"zh-Hans-CN", "en-US"}));
+  EXPECT_FALSE(isChinese({"en-US", "zh-Hans-CN"}));
+  EXPECT_TRUE(isChinese({"fr-FR", "zh_TW"}));
+}
+
+TEST(SystemLanguageTest, WithoutEitherItIsEnglish) {
+  EXPECT_FALSE(isChinese({}));
+  EXPECT_FALSE(isChinese({"fr-FR", "zhx"}));
 }
 
 }  // namespace

@@ -77,19 +77,6 @@ TEST_F(WindowFocusTest, APanelHidesWhileTheApplicationIsInactiveUnlessConfigured
   EXPECT_TRUE(hiding.isVisible());
 }
 
-TEST_F(WindowFocusTest, AHiddenApplicationShowsNothingUntilItIsActiveAgain) {
-  appkit::Application::activateIgnoringOtherApps();
-  appkit::Window window = makeWindow({0, 0});
-  window.makeKeyAndOrderFront();
-  appkit::Application::hide();
-  EXPECT_FALSE(server().focus.isActive());
-  EXPECT_FALSE(window.isVisible());
-  EXPECT_FALSE(window.isKeyWindow());
-  appkit::Application::activateIgnoringOtherApps();
-  EXPECT_TRUE(window.isVisible());
-  EXPECT_TRUE(window.isKeyWindow());
-}
-
 TEST_F(WindowFocusTest, ANonactivatingPanelIsClickedWithoutActivatingItsApplication) {
   click({900, 400});
   Window panel =

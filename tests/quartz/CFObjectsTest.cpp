@@ -1,9 +1,12 @@
-// Errors with Core Foundation references are recorded as faults.
+// The desk's Core Foundation objects: constants, copies of preferences, and errors with references,
+// which are recorded as faults.
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "Orvane/base/CFRef.hpp"
+#include "desk/quartz/CFObjects.hpp"
 #include "tests/support/MachineFixture.hpp"
 
 namespace orvane::desk {
@@ -55,6 +58,52 @@ TEST_F(CFFaultsTest, AnUnknownModeIsAFault) {
   EXPECT_EQ(machine.faults.take(), (Texts{"CFRunLoopAddSource: unknown mode mine"}));
   CFRelease(source);
   CFRelease(port);
+}
+
+using Value = CFRef<CFPropertyListRef>;
+
+class CFPreferencesTest : public MachineFixture {
+ protected:
+  static Value copy(CFStringRef host = kCFPreferencesAnyHost) {
+    return Value::owning(
+        CFPreferencesCopyValue(CFSTR("key"), CFSTR("program"), kCFPreferencesCurrentUser, host));
+  }
+  void store(PropertyValue value, Preferences::Host host = Preferences::Host::any) {
+    machine.preferences.set({"program", Preferences::User::current, host}, "key", std::move(value));
+    CFPreferencesAppSynchronize(CFSTR("program"));
+  }
+};
+
+TEST_F(CFPreferencesTest, EachCopyIsANewObject) {
+  store(std::string("text"));
+  const Value first = copy();
+  const Value second = copy();
+  EXPECT_NE(first.get(), second.get());
+  EXPECT_EQ(machine.objects.liveCount(), 2U);
+}
+
+TEST_F(CFPreferencesTest, HostsAreDistinguished) {
+  store(std::string("text"), Preferences::Host::current);
+  EXPECT_FALSE(copy());
+  EXPECT_TRUE(copy(kCFPreferencesCurrentHost));
+  EXPECT_TRUE(Value::owning(CFPreferencesCopyAppValue(CFSTR("key"), CFSTR("program"))));
+}
+
+TEST_F(CFPreferencesTest, TextThatIsNotUtf8IsNotAValue) {
+  store(std::string("\xFF"));
+  EXPECT_FALSE(copy());
+}
+
+using CFStringTest = MachineFixture;
+
+TEST_F(CFStringTest, AConstantIsOneObjectForAllMachinesAndNotCounted) {
+  const CFStringRef constant = CFSTR("orientation");
+  EXPECT_EQ(constant, deskConstantString("orientation"));
+  EXPECT_NE(constant, CFSTR("autohide"));
+  CFRelease(constant);
+  CFRelease(constant);
+  EXPECT_EQ(*textOf(constant, "test"), "orientation");
+  EXPECT_EQ(machine.objects.liveCount(), 0U);
 }
 
 }  // namespace
