@@ -17,6 +17,18 @@ using ui::Transform;
 
 class CairoCanvasTest : public PixelFixture {};
 
+TEST_F(CairoCanvasTest, AFilledRectangleCoversExactlyItsPixelsAtEveryScale) {
+  for (const int scale : {1, 2, 3}) {
+    begin(10, 8, scale).fill(Shape::rectangle({2, 3, 5, 4}), Paint::solid(red));
+    for (int y = 0; y < height(); ++y) {
+      for (int x = 0; x < width(); ++x) {
+        const bool inside = x >= 2 * scale && x < 7 * scale && y >= 3 * scale && y < 7 * scale;
+        ASSERT_EQ(at(x, y), inside ? fullRed : nothing) << x << "," << y << " at " << scale;
+      }
+    }
+  }
+}
+
 TEST_F(CairoCanvasTest, AnEmptyPaintPaintsNothing) {
   begin(4, 4).fill(Shape::rectangle({0, 0, 4, 4}), Paint{});
   canvas->stroke(Shape::rectangle({1, 1, 2, 2}), Paint{}, 1);

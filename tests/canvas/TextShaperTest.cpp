@@ -130,13 +130,13 @@ class TextShaperLinesTest : public testing::Test {
  protected:
   std::vector<std::string> linesOf(const std::string& text, double width, int limit = 0) {
     std::vector<std::string> lines;
-    for (const ui::TextLine& line : measurer.layout(text, font, width, limit).lines) {
+    for (const ui::TextLine& line : measurer.layout(text, font, width, {limit}).lines) {
       lines.push_back(line.text);
     }
     return lines;
   }
   double widthOf(const std::string& line) {
-    return measurer.layout(line, font, unlimited, 0).lines[0].width;
+    return measurer.layout(line, font, unlimited, {0}).lines[0].width;
   }
 
   const ui::Font font = ui::Font::body();
@@ -170,14 +170,14 @@ TEST_F(TextShaperLinesTest, ChineseBreaksBetweenCharactersButNotBeforeAFullStop)
 
 TEST_F(TextShaperLinesTest, ALineLimitEndsInAnEllipsis) {
   const ui::TextLayout cut =
-      measurer.layout("Pin Dock to a Display", font, widthOf("Pin Dock…"), 1);
+      measurer.layout("Pin Dock to a Display", font, widthOf("Pin Dock…"), {1});
   EXPECT_EQ(cut.lines.size(), 1U);
   EXPECT_EQ(cut.lines[0].text, "Pin Dock…");
   EXPECT_TRUE(cut.isTruncated);
   EXPECT_EQ(linesOf("固定到显示器", widthOf("固定…"), 1), Lines{"固定…"});
   EXPECT_EQ(linesOf("a\nb\nc", unlimited, 2), (Lines{"a", "b…"}));
   EXPECT_EQ(linesOf("a\nb", unlimited, 2), (Lines{"a", "b"}));
-  EXPECT_FALSE(measurer.layout("Pin Dock", font, widthOf("Pin Dock"), 1).isTruncated);
+  EXPECT_FALSE(measurer.layout("Pin Dock", font, widthOf("Pin Dock"), {1}).isTruncated);
   EXPECT_EQ(linesOf("Pin", 0, 1), Lines{"…"});
 }
 
@@ -197,21 +197,22 @@ TEST_F(TextShaperLinesTest, ALineCutInTheMiddleKeepsItsEnd) {
 }
 
 TEST_F(TextShaperLinesTest, TheLinesOfATextShareOneHeight) {
-  const ui::TextLayout latin = measurer.layout("Dock", font, unlimited, 0);
+  const ui::TextLayout latin = measurer.layout("Dock", font, unlimited, {0});
   // Inter Display's own ascent and descent are 0.9639 and 0.2451 of the size.
   EXPECT_NEAR(latin.ascent, 13 * 0.9639, 0.01);
   // 13 times 1.21 is 15.73, rounded up to whole points.
   EXPECT_EQ(latin.lineHeight, 16);
-  const ui::TextLayout mixed = measurer.layout("Dock\n固定", font, unlimited, 0);
+  const ui::TextLayout mixed = measurer.layout("Dock\n固定", font, unlimited, {0});
   EXPECT_GT(mixed.lineHeight, latin.lineHeight);
   EXPECT_DOUBLE_EQ(mixed.size().height, 2 * mixed.lineHeight);
-  EXPECT_EQ(measurer.layout("", font, unlimited, 0).lineHeight, latin.lineHeight);
+  EXPECT_EQ(measurer.layout("", font, unlimited, {0}).lineHeight, latin.lineHeight);
 }
 
 TEST_F(TextShaperLinesTest, WidthsAreProportionalToTheSize) {
-  const double once = measurer.layout("Hamburg", ui::Font::system(10), unlimited, 0).lines[0].width;
+  const double once =
+      measurer.layout("Hamburg", ui::Font::system(10), unlimited, {0}).lines[0].width;
   const double thrice =
-      measurer.layout("Hamburg", ui::Font::system(30), unlimited, 0).lines[0].width;
+      measurer.layout("Hamburg", ui::Font::system(30), unlimited, {0}).lines[0].width;
   EXPECT_NEAR(thrice, 3 * once, 0.05);
 }
 
@@ -224,7 +225,7 @@ RC_GTEST_FIXTURE_PROP(TextShaperLinesTest, NoLineIsWiderThanAllowedAndNoWordIsLo
     text += (text.empty() ? "" : " ") + word;
   }
   std::string joined;
-  for (const ui::TextLine& line : measurer.layout(text, font, width, 0).lines) {
+  for (const ui::TextLine& line : measurer.layout(text, font, width, {0}).lines) {
     RC_ASSERT(line.width <= width + 0.01);
     joined += line.text;
   }

@@ -19,32 +19,6 @@ std::string outputOf(const std::string& text) {
   return run.output;
 }
 
-TEST(ShowTest, PrintsEveryStatus) {
-  EXPECT_EQ(
-      runScript(twoDisplays + "launch\nexpect model.status \"permissionRequired\"\ntrust on\n"
-                              "do refreshDisplays\nexpect model.status \"unlocked\"\n"
-                              "do toggleSelectedDisplayLock\nexpect model.status \"locked\"\n"
-                              "hold option\nmove 5 5\nexpect model.status \"temporarilyUnlocked\"\n"
-                              "dock edge top\nexpect model.status \"needsCheck\"\n"
-                              "display detach 1\nexpect model.status \"targetMissing\"\n")
-          .errors,
-      "");
-}
-
-TEST(ShowTest, PrintsTheDockAfterItHasAppeared) {
-  EXPECT_EQ(
-      outputOf(twoDisplays + "move 2800 900\npush 0 60 times 5\nshow dock\nshow pointer\n"),
-      R"json({"edge":"bottom","autohide":false,"display":2,"visible":true,"reveals":{"2":1}})json"
-      "\n{\"x\":2800,\"y\":1079,\"display\":2}\n");
-}
-
-TEST(ShowTest, FindsTheScreenOfAnIdentifier) {
-  EXPECT_EQ(outputOf(twoDisplays + "find \"BBBB\"\nfind 1\nfind \"bbbb\"\nfind \"\"\n"
-                                   "find \"Optional(2)-1920.0-1080.0-Optional(8)-"
-                                   "Optional(\\\"NSCalibratedRGBColorSpace\\\")\"\n"),
-            "{\"index\":1}\n{\"index\":0}\n{\"index\":null}\n{\"index\":null}\n{\"index\":1}\n");
-}
-
 TEST(ShowTest, PrintsAnnouncementsExceptEmptyAndMalformedOnes) {
   ScriptBench bench;
   bench.session.application().launch();

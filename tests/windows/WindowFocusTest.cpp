@@ -88,21 +88,6 @@ TEST_F(WindowFocusTest, ANonactivatingPanelIsClickedWithoutActivatingItsApplicat
   EXPECT_TRUE(panel.isKeyWindow());
 }
 
-TEST_F(WindowFocusTest, AMiniaturisedWindowAndItsChildrenAreNeitherVisibleNorKey) {
-  Window window = makeWindow({0, 0}, "main", WindowKind::window, appkit::StyleMask::miniaturizable);
-  Window child = makeWindow({0, 0}, "child");
-  window.makeKeyAndOrderFront();
-  window.addChildWindowAbove(child);
-  window.miniaturize();
-  EXPECT_TRUE(window.isMiniaturized());
-  EXPECT_FALSE(window.isVisible());
-  EXPECT_FALSE(child.isVisible());
-  EXPECT_FALSE(Application::keyWindow().has_value());
-  window.deminiaturize();
-  EXPECT_TRUE(window.isKeyWindow());
-  EXPECT_TRUE(child.isVisible());
-}
-
 TEST_F(WindowFocusTest, AWindowWithoutThatStyleIsNotMiniaturised) {
   Window window = makeWindow({0, 0});
   window.makeKeyAndOrderFront();

@@ -120,16 +120,6 @@ TEST_F(WindowServerTest, TerminatingNotifiesTheDelegateOnceAndThenEndsTheProcess
 
 using WindowListTest = WindowFixture;
 
-TEST_F(WindowListTest, TheLastOneShownIsInFront) {
-  auto first = makeWindow({0, 0}, "first");
-  auto second = makeWindow({0, 0}, "second");
-  first.orderFrontRegardless();
-  second.orderFrontRegardless();
-  EXPECT_EQ(order(), "first second");
-  first.orderFrontRegardless();
-  EXPECT_EQ(order(), "second first");
-}
-
 TEST_F(WindowListTest, AHigherLevelStaysAboveALowerOne) {
   auto high = makeWindow({0, 0}, "high");
   auto low = makeWindow({0, 0}, "low");
