@@ -59,13 +59,16 @@ TEST_F(StatusMenuRowTest, RunsItsActionWhereverItIsClicked) {
 TEST_F(StatusMenuRowTest, ShowsAFaintHighlightUnderThePointerUnlessItHasASwitch) {
   show(StatusMenuRow{.title = "Quit", .systemImage = "power"});
   EXPECT_TRUE(draws("fill rounded(3 2 202 26 r6 continuous) rgba(0 0 0 0)\n")) << drawing();
-  hover({100, 15});
+  test.host->pointerMoved({100, 15});
+  advance(0);
   // The primary colour is black at 0.85, and of that 0.08.
   EXPECT_TRUE(draws("fill rounded(3 2 202 26 r6 continuous) rgba(0 0 0 0.068)\n")) << drawing();
-  leave();
+  test.host->pointerExited();
+  advance(0);
   EXPECT_TRUE(draws("fill rounded(3 2 202 26 r6 continuous) rgba(0 0 0 0)\n")) << drawing();
   show(StatusMenuRow{.title = "Pin", .systemImage = "lock", .isOn = false});
-  hover({100, 15});
+  test.host->pointerMoved({100, 15});
+  advance(0);
   EXPECT_TRUE(draws("fill rounded(3 2 202 26 r6 continuous) rgba(0 0 0 0)\n")) << drawing();
 }
 

@@ -1,5 +1,5 @@
 // Contract tests for the application object and what belongs to an application: its announcements,
-// its bundle, its languages and its registration as a login item.
+// its bundle, its languages, its registration as a login item and its user defaults.
 #include <string>
 
 #include "Orvane/platform/appkit/Accessibility.hpp"
@@ -8,6 +8,7 @@
 #include "Orvane/platform/appkit/Locale.hpp"
 #include "Orvane/platform/appkit/LoginItem.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
+#include "Orvane/platform/appkit/UserDefaults.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
 
@@ -106,6 +107,41 @@ TEST_F(LoginItemContract, AFailureReturnsThePlatformsErrorAndKeepsTheStatus) {
   const LoginItem::Status before = LoginItem::status();
   EXPECT_EQ(LoginItem::registerApplication(), "Operation not permitted");
   EXPECT_EQ(LoginItem::status(), before);
+}
+
+using appkit::UserDefaults;
+
+class UserDefaultsContract : public ContractFixture {
+ protected:
+  static constexpr const char* key = "contract.key";
+  UserDefaultsContract() { UserDefaults::remove(key); }
+  ~UserDefaultsContract() override { UserDefaults::remove(key); }
+};
+
+TEST_F(UserDefaultsContract, AStoredValueIsReadBackAtOnceUntilItIsRemoved) {
+  EXPECT_EQ(UserDefaults::string(key), std::nullopt);
+  EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
+  for (const char* const text : {"\xE5\xB7\xA6 left", ""}) {
+    UserDefaults::setString(key, text);
+    EXPECT_EQ(UserDefaults::string(key), text);
+  }
+  for (const bool value : {true, false}) {
+    UserDefaults::setBoolean(key, value);
+    EXPECT_EQ(UserDefaults::boolean(key), value);
+  }
+  UserDefaults::remove(key);
+  UserDefaults::remove(key);
+  EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
+}
+
+TEST_F(UserDefaultsContract, AValueOfAnotherTypeIsAbsent) {
+  UserDefaults::setString(key, "true");
+  EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
+  UserDefaults::setBoolean(key, true);
+  EXPECT_EQ(UserDefaults::string(key), std::nullopt);
+  ORVANE_ARRANGE(storeNumberInUserDefaults(key, 1));
+  EXPECT_EQ(UserDefaults::string(key), std::nullopt);
+  EXPECT_EQ(UserDefaults::boolean(key), std::nullopt);
 }
 
 }  // namespace

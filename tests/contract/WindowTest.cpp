@@ -3,7 +3,9 @@
 #include <memory>
 #include <tuple>
 
+#include "Orvane/platform/appkit/HostingView.hpp"
 #include "Orvane/platform/appkit/Window.hpp"
+#include "Orvane/ui/views/ShapeView.hpp"
 #include "Orvane/ui/views/View.hpp"
 #include "tests/contract/ContractFixture.hpp"
 
@@ -201,6 +203,34 @@ TEST_F(PanelContract, TheOtherAttributesAreKept) {
   attributes = attributesOf(panel);
   EXPECT_TRUE(attributes.hasShadow);
   EXPECT_FALSE(attributes.becomesKeyOnlyIfNeeded);
+}
+
+using appkit::HostingView;
+using HostingViewContract = ContractFixture;
+
+TEST_F(HostingViewContract, ItsFittingSizeIsThatOfItsContent) {
+  const HostingView view([](const ui::Environment&) { return ui::Rectangle().frame(30, 20); });
+  EXPECT_EQ(view.fittingSize().width, 30);
+  EXPECT_EQ(view.fittingSize().height, 20);
+}
+
+TEST_F(HostingViewContract, ItsContentIsRebuiltOnlyWhenItNeedsAnUpdate) {
+  double width = 30;
+  HostingView view([&](const ui::Environment&) { return ui::Rectangle().frame(width, 20); });
+  EXPECT_EQ(view.fittingSize().width, 30);
+  width = 50;
+  EXPECT_EQ(view.fittingSize().width, 30);
+  view.setNeedsUpdate();
+  EXPECT_EQ(view.fittingSize().width, 50);
+}
+
+TEST_F(HostingViewContract, ItAvoidsATitleBarUnlessConfiguredAndKeepsItsFrame) {
+  HostingView view([](const ui::Environment&) { return ui::View(); });
+  EXPECT_TRUE(view.respectsSafeArea());
+  view.setRespectsSafeArea(false);
+  EXPECT_FALSE(view.respectsSafeArea());
+  view.setFrame(CGRectMake(1, 2, 30, 40));
+  EXPECT_TRUE(CGRectEqualToRect(view.frame(), CGRectMake(1, 2, 30, 40)));
 }
 
 }  // namespace

@@ -175,15 +175,6 @@ TEST_F(DockTest, AutoHiddenItAppearsOnAnotherDisplayThatIsPressed) {
   EXPECT_EQ(dock.revealCount(1), 0);
 }
 
-TEST_F(DockTest, AppearancesByPreferencesAreNotCounted) {
-  attachPair();
-  setAutoHide(true);
-  setAutoHide(false);
-  setEdge(std::string("left"));
-  EXPECT_TRUE(dock.isVisible());
-  EXPECT_TRUE(dock.reveals().empty());
-}
-
 TEST_F(DockTest, ASlideCanBeReversed) {
   attachPair();
   machine.mouse.moveTo({500, 400});

@@ -1,8 +1,10 @@
 // The run loop: nesting, modes, the held main queue, timers, and the end of a process; its order
 // for random requests, compared with a plain list that is searched at every time step.
+#include <algorithm>
 #include <memory>
 #include <ostream>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -235,10 +237,9 @@ class ListModel {
         add(name, true, false, now_ + step.amount, 0, step.childDelay);
         break;
       case Step::Kind::standardTimer:
-        add(name, false, true, now_ + step.amount + 1, step.amount + 1, -1);
-        break;
       case Step::Kind::commonTimer:
-        add(name, false, false, now_ + step.amount + 1, step.amount + 1, -1);
+        add(name, false, step.kind == Step::Kind::standardTimer, now_ + step.amount + 1,
+            step.amount + 1, -1);
         break;
       case Step::Kind::advance:
         rest();
@@ -280,30 +281,24 @@ class ListModel {
 
   void rest() {
     while (true) {
-      std::size_t first = items_.size();
-      for (std::size_t index = 0; index < items_.size(); ++index) {
-        if (isServed(items_[index]) &&
-            (first == items_.size() || items_[index].due < items_[first].due ||
-             (items_[index].due == items_[first].due &&
-              items_[index].arrival < items_[first].arrival))) {
-          first = index;
-        }
-      }
-      if (first == items_.size()) {
+      const auto first = std::ranges::min_element(items_, {}, [this](const Item& item) {
+        return std::tuple(!isServed(item), item.due, item.arrival);
+      });
+      if (first == items_.end() || !isServed(*first)) {
         return;
       }
-      const Item served = items_[first];
+      const Item served = *first;
       records.emplace_back(now_, served.name);
       if (served.isTask) {
-        items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(first));
+        items_.erase(first);
         if (served.child >= 0) {
           add(served.name + 1000, true, false, now_ + served.child, 0, -1);
         }
       } else {
-        while (items_[first].due <= now_) {
-          items_[first].due += served.interval;
+        while (first->due <= now_) {
+          first->due += served.interval;
         }
-        items_[first].arrival = arrivals_++;
+        first->arrival = arrivals_++;
       }
     }
   }

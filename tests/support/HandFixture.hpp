@@ -81,6 +81,10 @@ class HandFixture : public MachineFixture {
 
   /// In global coordinates.
   void moveTo(CGPoint place) { hand.moveTo(place); }
+  void pressAt(CGPoint place) {
+    hand.moveTo(place);
+    hand.pressButton();
+  }
   void release() { hand.releaseButton(); }
   void click(CGPoint place) { hand.click(place); }
   /// Whether the key was handled.

@@ -69,12 +69,12 @@ TEST_F(PointerRouterTest, ABackgroundMovesItsWindowAndAControlDoesNot) {
   window.setContentView(
       hosting(ui::HStack(0, {ui::Rectangle(), wideButton("Button", [&] { ++clicks; })})));
   window.orderFrontRegardless();
-  press({50, 750});
+  pressAt({50, 750});
   moveTo({80, 730});
   release();
   EXPECT_EQ(window.frame().origin.x, 30);
   EXPECT_EQ(window.frame().origin.y, 20);
-  press({190, 730});
+  pressAt({190, 730});
   moveTo({195, 735});
   release();
   EXPECT_EQ(window.frame().origin.x, 30);
@@ -84,14 +84,14 @@ TEST_F(PointerRouterTest, ABackgroundMovesItsWindowAndAControlDoesNot) {
 TEST_F(PointerRouterTest, AWindowThatIsNotMovableStaysAndATitleBarAlwaysMoves) {
   Window fixed = makeWindow({0, 0});
   fixed.orderFrontRegardless();
-  press({50, 750});
+  pressAt({50, 750});
   moveTo({80, 750});
   release();
   EXPECT_EQ(fixed.frame().origin.x, 0);
   Window titled(appkit::WindowKind::window, CGRectMake(300, 0, 200, 100),
                 appkit::StyleMask::titled);
   titled.orderFrontRegardless();
-  press({400, 680});
+  pressAt({400, 680});
   moveTo({410, 680});
   release();
   EXPECT_EQ(titled.frame().origin.x, 310);
@@ -103,7 +103,7 @@ TEST_F(PointerRouterTest, TheCloseButtonClosesWhenItIsReleasedThere) {
                 appkit::StyleMask::titled | appkit::StyleMask::closable);
   window.onWillClose([&] { ++closings; });
   window.orderFrontRegardless();
-  press({314, 686});
+  pressAt({314, 686});
   moveTo({400, 750});
   release();
   EXPECT_TRUE(window.isVisible());
@@ -127,7 +127,7 @@ TEST_F(PointerRouterTest, MovementsWithTheButtonDownAreNoMouseMovedEvents) {
   created->sourceModes = RunLoop::commonModes;
   moveTo({500, 500});
   EXPECT_EQ(moves, 1);
-  press({500, 500});
+  pressAt({500, 500});
   const int before = moves;
   moveTo({510, 500});
   EXPECT_EQ(moves, before);
