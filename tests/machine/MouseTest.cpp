@@ -70,14 +70,18 @@ TEST_F(MouseTest, ThePointerIsWhereTheTapsLeaveTheEvent) {
   EXPECT_EQ(positions[0].y, 787);
 }
 
-TEST_F(MouseTest, AFreeCursorMovesEvenIfATapDropsItsMovements) {
+TEST_F(MouseTest, AFreeCursorMovesEvenIfATapMovesBackOrDropsItsMovements) {
   machine.mouse.setCursor(Mouse::Cursor::free);
   machine.mouse.moveTo({1500, 400});
-  script.drops = true;
+  script.dy = -12;
   machine.mouse.moveBy(0, 900);
   EXPECT_EQ(machine.pointer.location().y, 799);
+  EXPECT_EQ(positions.back().y, 787) << "the others see the changed event";
+  script.drops = true;
+  machine.mouse.moveBy(-5, 0);
+  EXPECT_EQ(machine.pointer.location().x, 1495);
   EXPECT_EQ(machine.dock.displayNumber(), 1U);
-  EXPECT_EQ(positions.size(), 1U);
+  EXPECT_EQ(positions.size(), 2U);
 }
 
 TEST_F(MouseTest, APositionOffAllDisplaysIsClampedAgain) {
