@@ -155,14 +155,14 @@ RC_GTEST_PROP(LayoutPropertyTest, SpacingsAreExact, ()) {
 }
 
 // Of items that choose what they are offered, within their bounds.
-std::vector<double> divided(std::optional<double> available, double spacing,
+std::vector<double> divided(std::optional<double> available, double gap,
                             const std::vector<StackItem>& items) {
   std::vector<double> lengths;
   const auto choose = [&](std::size_t index, std::optional<double> offer) {
     return std::clamp(offer.value_or(items[index].minimum), items[index].minimum,
                       items[index].maximum);
   };
-  for (const StackSegment& segment : divideStack(available, spacing, items, choose)) {
+  for (const StackSegment& segment : divideStack(available, gap, items, choose)) {
     lengths.push_back(segment.length);
   }
   return lengths;
@@ -213,16 +213,16 @@ RC_GTEST_PROP(StackLayoutTest, LengthsAreFiniteAndFillTheStackExactlyWhenAnItemI
     minimum += low;
     isFlexible = isFlexible || grows;
   }
-  const double spacing = *rc::gen::inRange(0, 12);
+  const double gap = *rc::gen::inRange(0, 12);
   const double available = *rc::gen::inRange(0, 600);
-  const std::vector<double> lengths = divided(available, spacing, items);
-  double sum = spacing * static_cast<double>(count - 1);
+  const std::vector<double> lengths = divided(available, gap, items);
+  double sum = gap * static_cast<double>(count - 1);
   for (std::size_t index = 0; index < count; ++index) {
     RC_ASSERT(std::isfinite(lengths[index]));
     RC_ASSERT(lengths[index] >= items[index].minimum && lengths[index] <= items[index].maximum);
     sum += lengths[index];
   }
-  if (available >= minimum + spacing * static_cast<double>(count - 1)) {
+  if (available >= minimum + gap * static_cast<double>(count - 1)) {
     RC_ASSERT(sum <= available + 1e-6);
     RC_ASSERT(!isFlexible || std::abs(sum - available) < 1e-6);
   }

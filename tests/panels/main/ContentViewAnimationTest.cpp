@@ -152,8 +152,8 @@ class HoverDamageTest : public PanelFixture {
     const CGPoint corner = server().topLeftOf(*window(mainPanel));
     moveTo({corner.x + point.x, corner.y + point.y});
     ui::Rect damage;
-    for (int frame = 0; frame <= 30; ++frame) {
-      machine.advance(1.0 / 60);
+    for (int count = 0; count <= 30; ++count) {
+      machine.advance(frame);
       for (const ui::Rect& rect : host().takeDirtyRects()) {
         damage = damage.united(rect);
       }
