@@ -1,26 +1,15 @@
 // The drawing of the status menu's rows, with the synthetic font.
-#include <gtest/gtest.h>
-
 #include "Orvane/app/CompactMenuSwitch.hpp"
 #include "Orvane/app/StatusMenuRow.hpp"
 #include "Orvane/app/StatusMenuSectionHeader.hpp"
-#include "tests/ui/TestHost.hpp"
+#include "tests/panels/ComponentFixture.hpp"
 
 namespace orvane {
 namespace {
 
-class StatusMenuRowTest : public testing::Test {
+class StatusMenuRowTest : public ComponentFixture {
  protected:
-  void show(const ui::View& view, ui::Size size = {208, 30}) {
-    test.host->setSize(size);
-    test.show(view);
-  }
-  [[nodiscard]] std::string drawing() const { return test.drawing(); }
-  [[nodiscard]] bool draws(const std::string& part) const {
-    return drawing().find(part) != std::string::npos;
-  }
-
-  ui::TestHost test;
+  void show(const ui::View& view, ui::Size size = {208, 30}) { ComponentFixture::show(view, size); }
 };
 
 TEST_F(StatusMenuRowTest, HasABadgeATitleAndASwitchAtTheTrailingEnd) {
@@ -71,15 +60,15 @@ TEST_F(StatusMenuRowTest, ShowsAFaintHighlightUnderThePointerUnlessItHasASwitch)
   show(StatusMenuRow{.title = "Quit", .systemImage = "power"});
   EXPECT_TRUE(draws("fill rounded(3 2 202 26 r6 continuous) rgba(0 0 0 0)\n")) << drawing();
   test.host->pointerMoved({100, 15});
-  test.host->layoutIfNeeded();
+  advance(0);
   // The primary colour is black at 0.85, and of that 0.08.
   EXPECT_TRUE(draws("fill rounded(3 2 202 26 r6 continuous) rgba(0 0 0 0.068)\n")) << drawing();
   test.host->pointerExited();
-  test.host->layoutIfNeeded();
+  advance(0);
   EXPECT_TRUE(draws("fill rounded(3 2 202 26 r6 continuous) rgba(0 0 0 0)\n")) << drawing();
   show(StatusMenuRow{.title = "Pin", .systemImage = "lock", .isOn = false});
   test.host->pointerMoved({100, 15});
-  test.host->layoutIfNeeded();
+  advance(0);
   EXPECT_TRUE(draws("fill rounded(3 2 202 26 r6 continuous) rgba(0 0 0 0)\n")) << drawing();
 }
 
@@ -122,10 +111,7 @@ TEST_F(StatusMenuRowTest, ASwitchThatIsOffHasAnOutlineThatFollowsIncreasedContra
   show(CompactMenuSwitch{false}, {34, 18});
   EXPECT_TRUE(draws("rgba(0 0 0 0.425) width 1\n")) << drawing();
   EXPECT_FALSE(draws("rgba(0 0 0 0.6)")) << drawing();
-  ui::Appearance appearance;
-  appearance.increaseContrast = true;
-  test.host->setAppearance(appearance);
-  test.host->layoutIfNeeded();
+  appear(false, true);
   EXPECT_TRUE(draws("rgba(0 0 0 0.6)")) << drawing();
 }
 

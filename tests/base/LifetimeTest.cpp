@@ -1,4 +1,5 @@
-// Callbacks into an object run while it exists and do nothing afterwards.
+// Callbacks into an object run while it exists and do nothing afterwards. A violated requirement
+// ends the process, even in release builds.
 #include <functional>
 #include <memory>
 #include <string>
@@ -6,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/base/Lifetime.hpp"
+#include "Orvane/base/Require.hpp"
 
 namespace orvane {
 namespace {
@@ -44,6 +46,12 @@ TEST(LifetimeTest, ACallbackMayEndItsOwner) {
   callback();
   callback();
   EXPECT_EQ(count, 1);
+}
+
+TEST(RequireDeathTest, AFalseConditionEndsTheProcessWithItsMessage) {
+  testing::GTEST_FLAG(death_test_style) = "threadsafe";
+  EXPECT_DEATH(require(false, "a guard has one event tap at a time"),
+               "Orvane: a guard has one event tap at a time");
 }
 
 }  // namespace

@@ -1,11 +1,9 @@
-// The application's images: every image that it names exists, in the right sizes, and equals its
-// drawing.
+// The application's images: each has the right sizes, equals its drawing, and can be painted at any
+// size.
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <map>
-#include <regex>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -16,6 +14,7 @@
 #include "desk/canvas/ImageLibrary.hpp"
 #include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/PngFile.hpp"
+#include "tests/canvas/PixelFixture.hpp"
 #include "tests/support/BytesOf.hpp"
 #include "tests/support/KeptPicture.hpp"
 
@@ -24,31 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path sources = fs::path(ORVANE_SOURCE_FOLDER) / "Orvane";
-const fs::path resources = sources / "resources";
-
-/// The quoted names of images in the application's sources.
-std::set<std::string> namedImages() {
-  // Also both names of Image(condition ? "one" : "other").
-  const std::regex mention(R"re((?:Image|hasImage)\(([^()]*)\)|imageName = ("\w+"))re");
-  const std::regex quoted(R"re("([\w-]+)")re");
-  std::set<std::string> names;
-  for (const auto& entry : fs::recursive_directory_iterator(sources)) {
-    if (entry.path().extension() != ".cpp") {
-      continue;
-    }
-    const std::string text = bytesOf(entry.path());
-    for (std::sregex_iterator match(text.begin(), text.end(), mention), end; match != end;
-         ++match) {
-      const std::string arguments = match->str();
-      for (std::sregex_iterator name(arguments.begin(), arguments.end(), quoted); name != end;
-           ++name) {
-        names.insert((*name)[1]);
-      }
-    }
-  }
-  return names;
-}
+const fs::path resources = fs::path(ORVANE_SOURCE_FOLDER) / "Orvane/resources";
 
 struct PixelSize {
   int width = 0;
@@ -87,17 +62,6 @@ void expectDrawn(cairo_surface_t* picture, const std::string& drawing, PixelSize
 
 std::string drawingOfIcon(int pixels) {
   return pixels <= 32 ? "AppIcon-small" : "AppIcon";
-}
-
-TEST(ApplicationImagesTest, EveryImageThatTheApplicationNamesIsThere) {
-  const std::set<std::string> names = namedImages();
-  EXPECT_EQ(names, (std::set<std::string>{"AppIcon", "DisplayLaptop", "DisplayMonitor"}));
-  const ImageLibrary library;
-  for (const std::string& name : names) {
-    EXPECT_TRUE(library.size(name)) << name;
-    EXPECT_TRUE(fs::exists(resources / "rendered" / (name + ".png"))) << name;
-    EXPECT_TRUE(fs::exists(resources / "rendered" / (name + "@2x.png"))) << name;
-  }
 }
 
 TEST(ApplicationImagesTest, EachImageHasItsSizeInPoints) {
@@ -155,6 +119,58 @@ TEST(ApplicationImagesTest, TheIconFileHasEverySizeOfAMac) {
                                                {"ic13", 256},
                                                {"ic14", 512},
                                                {"ic10", 1024}}));
+}
+
+class ImageLibraryTest : public PixelFixture {
+ protected:
+  static SurfacePointer icon() {
+    for (const Artwork& artwork : imageArtworks()) {
+      if (artwork.name == "AppIcon") {
+        return decodePng(artwork.bytes);
+      }
+    }
+    return nullptr;
+  }
+};
+
+TEST_F(ImageLibraryTest, AtTwoPixelsToThePointAnImageIsShownPixelByPixel) {
+  begin(128, 128, 2).image("AppIcon", {0, 0, 128, 128});
+  EXPECT_EQ(contentOf(surface.get()), contentOf(icon().get()));
+}
+
+TEST_F(ImageLibraryTest, AnImageIsStretchedToItsRectangle) {
+  begin(60, 60).image("AppIcon", {10, 20, 40, 20});
+  EXPECT_EQ(at(9, 30), nothing);
+  EXPECT_EQ(at(30, 19), nothing);
+  EXPECT_EQ(at(30, 41), nothing);
+  EXPECT_GT(at(30, 30).alpha, 250);
+  EXPECT_GT(at(16, 30).alpha, 250);
+  begin(60, 60).image("AppIcon", {10, 20, 40, 0});
+  EXPECT_EQ(ink(), 0);
+}
+
+TEST_F(ImageLibraryTest, AStrongReductionKeepsTheMeanOfThePixels) {
+  const SurfacePointer whole = icon();
+  constexpr int side = 256;
+  constexpr double count = side * side;
+  Pixel sum;
+  for (int y = 0; y < side; ++y) {
+    for (int x = 0; x < side; ++x) {
+      const Pixel pixel = pixelAt(whole.get(), x, y);
+      sum.red += pixel.red;
+      sum.alpha += pixel.alpha;
+    }
+  }
+  begin(1, 1).image("AppIcon", {0, 0, 1, 1});
+  EXPECT_NEAR(at(0, 0).red, sum.red / count, 4);
+  EXPECT_NEAR(at(0, 0).alpha, sum.alpha / count, 4);
+}
+
+TEST_F(ImageLibraryTest, ARemovedImageIsNotShown) {
+  resources.images.remove("AppIcon");
+  EXPECT_FALSE(resources.images.size("AppIcon"));
+  begin(4, 4).image("AppIcon", {0, 0, 4, 4});
+  EXPECT_EQ(ink(), 0);
 }
 
 }  // namespace

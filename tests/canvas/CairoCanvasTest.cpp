@@ -113,25 +113,6 @@ TEST_F(CairoCanvasTest, AScaleOfZeroDrawsNothingUntilItIsRestored) {
   EXPECT_EQ(at(0, 0), fullRed);
 }
 
-TEST_F(CairoCanvasTest, AContinuousCornerIsBetweenACircularOneAndTheSquare) {
-  constexpr double radius = 40;
-  const Rect square{0, 0, 200, 200};
-  const auto coverage = [&](const Shape& shape) {
-    begin(200, 200).fill(shape, Paint::solid(black));
-    return ink();
-  };
-  const double smooth = coverage(Shape::roundedRectangle(square, radius));
-  const double circular =
-      coverage(Shape::roundedRectangle(square, radius, ui::CornerStyle::circular));
-  const double reaching =
-      coverage(Shape::roundedRectangle(square, radius * 1.6, ui::CornerStyle::circular));
-  EXPECT_LT(smooth, 200 * 200);
-  EXPECT_GT(smooth, reaching);
-  // It leaves the edge slightly earlier than a circle with the radius.
-  EXPECT_LT(smooth, circular);
-  EXPECT_GT(smooth, circular - 4 * 0.05 * radius * radius);
-}
-
 TEST_F(CairoCanvasTest, AShadowIsSymmetricAndLeavesItsShapeClear) {
   begin(60, 60).shadow(Shape::roundedRectangle({20, 20, 20, 20}, 5), {{0, 0, 0, 0.5}, 8, {}});
   for (int y = 0; y < 60; ++y) {

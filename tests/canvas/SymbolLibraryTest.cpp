@@ -1,10 +1,7 @@
 // Every symbol has a drawing that is complete, centred and consistent with the others.
 #include <algorithm>
 #include <filesystem>
-#include <set>
-#include <sstream>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -53,88 +50,6 @@ Ink inkOf(const Mask& mask) {
     }
   }
   return ink;
-}
-
-/// Whether the text consists of lower-case words with dots between them, like names of symbols.
-bool isSymbolName(std::string_view text) {
-  char before = '.';
-  for (const char character : text) {
-    const bool isLetter = character >= 'a' && character <= 'z';
-    const bool isDigit = character >= '0' && character <= '9';
-    if (!isLetter && (before == '.' ? !isDigit : !isDigit && character != '.')) {
-      return false;
-    }
-    before = character;
-  }
-  // The first word is never a number.
-  return before != '.' && text.front() >= 'a';
-}
-
-/// The string literals that look like names of symbols, except identities of views, included files
-/// and comments.
-std::set<std::string> symbolNamesIn(const std::string& source) {
-  std::set<std::string> names;
-  std::istringstream lines(source);
-  for (std::string line; std::getline(lines, line);) {
-    if (line.starts_with("#include")) {
-      continue;
-    }
-    std::size_t place = 0;
-    while ((place = line.find_first_of("\"/", place)) != std::string::npos) {
-      if (line[place] == '/') {
-        if (line.compare(place, 2, "//") == 0) {
-          break;
-        }
-        ++place;
-        continue;
-      }
-      const std::size_t end = line.find('"', place + 1);
-      if (end == std::string::npos) {
-        break;
-      }
-      const std::string literal = line.substr(place + 1, end - place - 1);
-      // Identities of views and keys of shortcuts are no symbols.
-      const auto follows = [&](const std::string& call) {
-        return place >= call.size() && line.compare(place - call.size(), call.size(), call) == 0;
-      };
-      const bool isIdentity = follows("id(") || follows("ommand(");
-      if (isSymbolName(literal) && !isIdentity) {
-        names.insert(literal);
-      }
-      place = end + 1;
-    }
-  }
-  return names;
-}
-
-TEST(SymbolLibraryTest, EveryNameInTheViewsHasADrawing) {
-  std::set<std::string> all;
-  for (const char* folder : {"app", "panels", "permission"}) {
-    for (const auto& entry :
-         std::filesystem::recursive_directory_iterator(sourceFolder / "Orvane" / folder)) {
-      const std::string extension = entry.path().extension().string();
-      if (extension != ".cpp" && extension != ".hpp") {
-        continue;
-      }
-      for (const std::string& name : symbolNamesIn(bytesOf(entry.path()))) {
-        EXPECT_TRUE(SymbolLibrary::contains(name)) << name << " in " << entry.path();
-        all.insert(name);
-      }
-    }
-  }
-  // The search must find at least the icons of the menu bar.
-  EXPECT_TRUE(all.contains("lock.fill"));
-  EXPECT_TRUE(all.contains("lock.open"));
-}
-
-TEST(SymbolLibraryTest, TheSearchForNamesFindsThem) {
-  EXPECT_EQ(
-      symbolNamesIn("#include \"lock.shield\"\n"
-                    "x = 6 / 2;  // Symbol(\"comment\")\n"
-                    "row.symbol = isOn ? \"lock.open\" : \"lock\"; key = \"appLanguage\";\n"
-                    "{ \"eye.slash\", \"Open Window\", \"1\" } Symbol(\"power\").id(\"icon\");\n"
-                    "battery = \"battery.100\"; none = \"\"; odd = \"a.\";"),
-      (std::set<std::string>{"battery.100", "eye.slash", "lock", "lock.open", "power"}));
 }
 
 TEST(SymbolLibraryTest, EveryDrawingInTheFolderIsEmbedded) {

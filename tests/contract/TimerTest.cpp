@@ -1,7 +1,9 @@
-// Contract tests for timers.
+// Contract tests for timers, the main queue, and the media and calendar clocks.
 #include <optional>
+#include <string>
 #include <utility>
 
+#include "Orvane/platform/appkit/MainQueue.hpp"
 #include "Orvane/platform/appkit/Timer.hpp"
 #include "tests/contract/Arrange.hpp"
 #include "tests/contract/ContractFixture.hpp"
@@ -79,6 +81,50 @@ TEST_F(TimerContract, WhileAMenuIsOpenOnlyCommonTimersFire) {
   EXPECT_EQ(ticks, 0);
   letTimePass(0.01);
   EXPECT_EQ(ticks, 1);
+}
+
+using appkit::MainQueue;
+using MainQueueContract = ContractFixture;
+
+TEST_F(MainQueueContract, TasksRunInOrderAndNeverNested) {
+  std::string log;
+  MainQueue::async([&log] {
+    log += "a(";
+    MainQueue::async([&log] { log += "c"; });
+    log += ")";
+  });
+  MainQueue::async([&log] { log += "b"; });
+  letTimePass(0.05);
+  EXPECT_EQ(log, "a()bc");
+}
+
+TEST_F(MainQueueContract, ADelayedTaskDoesNotRunEarly) {
+  std::string log;
+  MainQueue::asyncAfter(0.2, [&log] { log += "late"; });
+  MainQueue::asyncAfter(0.05, [&log] { log += "early "; });
+  letTimePass(0.1);
+  EXPECT_EQ(log, "early ");
+  letTimePass(0.2);
+  EXPECT_EQ(log, "early late");
+}
+
+using ClocksContract = ContractFixture;
+
+TEST_F(ClocksContract, TheMediaClockAdvancesAndNeverGoesBack) {
+  const double before = CACurrentMediaTime();
+  letTimePass(0.05);
+  const double after = CACurrentMediaTime();
+  EXPECT_GE(after - before, 0.049);
+  EXPECT_GE(CACurrentMediaTime(), after);
+}
+
+TEST_F(ClocksContract, TheCalendarClockCountsSecondsSinceTheYear2001) {
+  // The years 2026 to 2200: a clock with another epoch or unit is far outside.
+  const double before = CFAbsoluteTimeGetCurrent();
+  EXPECT_GE(before, 788'918'400);
+  EXPECT_LT(before, 6'280'000'000);
+  letTimePass(0.05);
+  EXPECT_GE(CFAbsoluteTimeGetCurrent() - before, 0.049);
 }
 
 }  // namespace

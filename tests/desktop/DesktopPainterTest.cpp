@@ -1,6 +1,8 @@
-// The pixels of the desktop against the state of the machine.
+// The pixels of the desktop against the state of the machine, and the image of a file that is
+// dragged from the permission guide.
 #include <cstdlib>
 
+#include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "Orvane/platform/appkit/HostingView.hpp"
 #include "Orvane/platform/appkit/Window.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
@@ -35,23 +37,6 @@ class DesktopPainterTest : public DesktopFixture {
     return result;
   }
 };
-
-TEST_F(DesktopPainterTest, PaintsTheDockOnlyInTheMachinesFrame) {
-  for (const char* const edge : {"bottom", "left", "right"}) {
-    setEdge(edge);
-    machine.advance(1);
-    const desk::SurfacePointer with = picture();
-    const desk::SurfacePointer without = pictureWithoutDock();
-    const ui::Rect shelfRect = shelf().shelf;
-    const double area = shelfRect.width * shelfRect.height;
-    EXPECT_GT(differences(with, without, shelfRect), 0.9 * area) << edge;
-    // The shadow of the shelf reaches a little beyond it.
-    EXPECT_EQ(differences(with, without),
-              differences(with, without, shelfRect.inset(-30).intersection({0, 0, 1600, 500})))
-        << edge;
-    EXPECT_EQ(differences(with, without, secondFrame), 0) << edge;
-  }
-}
 
 TEST_F(DesktopPainterTest, PaintsTheDockOnTheDisplayItHasMovedTo) {
   const desk::SurfacePointer before = picture();
@@ -113,61 +98,11 @@ TEST_F(DesktopPainterTest, TheMenuClockShowsTheMachinesTime) {
   EXPECT_EQ(differences(before, after, {0, 24, 1600, 476}), 0);
 }
 
-TEST_F(DesktopPainterTest, MarksTheZonesOnRequest) {
-  application.model().toggleSelectedDisplayLock();
-  machine.runDue();
+TEST_F(DesktopPainterTest, PaintsThePointerInTheRequestedSize) {
   DesktopScene scene(machine, application);
-  ASSERT_EQ(scene.zones.size(), 1U);
-  const desk::SurfacePointer plain = picture(scene);
-  scene.showsZones = true;
-  const desk::SurfacePointer marked = picture(scene);
-  const ui::Rect zone{800, 488, 800, 12};
-  EXPECT_EQ(differences(plain, marked, zone), 800 * 12);
-  // Only the arrows reach beyond the zone, by half a nudge, a line and its ends.
-  EXPECT_GT(differences(plain, marked, {800, 474, 800, 14}), 0);
-  EXPECT_EQ(differences(plain, marked), differences(plain, marked, {800, 474, 800, 26}));
-  for (const int x : {805, 1200, 1595}) {
-    const desk::Pixel before = desk::pixelAt(plain.get(), x, 494);
-    const desk::Pixel after = desk::pixelAt(marked.get(), x, 494);
-    EXPECT_GT(after.red - before.red, after.blue - before.blue + 40) << x;
-  }
-}
-
-TEST_F(DesktopPainterTest, MarksAMovementThatWasMovedBack) {
-  DesktopScene scene(machine, application);
-  const desk::SurfacePointer plain = picture(scene);
-  scene.movedBack = MovedBack{{1200, 300}, {1200, 288}, 1};
-  const desk::SurfacePointer marked = picture(scene);
-  EXPECT_GT(differences(plain, marked, {1170, 270, 60, 60}), 100);
-  EXPECT_EQ(differences(plain, marked, firstFrame), 0);
-  scene.movedBack->strength = 0;
-  EXPECT_EQ(differences(plain, picture(scene)), 0);
-}
-
-TEST_F(DesktopPainterTest, PaintsThePointerWithItsTipAtItsLocation) {
-  const desk::SurfacePointer before = picture();
-  machine.mouse.moveTo({1100, 200});
-  const desk::SurfacePointer after = picture();
-  EXPECT_GT(differences(before, after, {1097, 197, 16, 24}), 100);
-  EXPECT_EQ(differences(before, after), differences(before, after, {1094, 194, 22, 30}) +
-                                            differences(before, after, {394, 244, 22, 30}));
-  // Inside the arrow, a little below the tip, it is dark.
-  EXPECT_LT(desk::pixelAt(after.get(), 1102, 206).green, 60);
-  DesktopScene large(machine, application);
-  large.pointerMagnification = 2;
-  EXPECT_GT(differences(before, picture(large), {1097, 222, 40, 20}), 50);
-}
-
-TEST_F(DesktopPainterTest, FollowsTheWallpaperAndTheAppearance) {
-  const desk::SurfacePointer light = picture();
-  machine.appearance.isDark = true;
-  const desk::SurfacePointer dark = picture();
-  EXPECT_GT(desk::pixelAt(light.get(), 400, 4).green, 150);
-  EXPECT_LT(desk::pixelAt(dark.get(), 400, 4).green, 60);
-  machine.appearance.wallpaper = desk::Appearance::Wallpaper::white;
-  EXPECT_EQ(desk::pixelAt(picture().get(), 100, 200), (desk::Pixel{255, 255, 255, 255}));
-  machine.appearance.wallpaper = desk::Appearance::Wallpaper::black;
-  EXPECT_EQ(desk::pixelAt(picture().get(), 100, 200), (desk::Pixel{0, 0, 0, 255}));
+  const desk::SurfacePointer normal = picture(scene);
+  scene.pointerMagnification = 2;
+  EXPECT_GT(differences(normal, picture(scene), {397, 272, 40, 20}), 50);
 }
 
 TEST_F(DesktopPainterTest, KeepsTheMenuBarLegibleOnEveryWallpaper) {
@@ -222,9 +157,6 @@ TEST_F(DesktopPainterTest, UsesNoMissingImageOrSymbol) {
 /// A window that is filled with the accent colour, and a pop-up menu with one item, in dark mode.
 class DesktopAccentTest : public DesktopFixture {
  protected:
-  static constexpr desk::Pixel lightBlue{0, 122, 255, 255};
-  static constexpr desk::Pixel darkBlue{10, 132, 255, 255};
-
   DesktopAccentTest() {
     machine.appearance.isDark = true;
     window.setContentView(appkit::HostingView(
@@ -261,17 +193,78 @@ class DesktopAccentTest : public DesktopFixture {
   appkit::Window window{appkit::WindowKind::window, CGRectMake(200, 200, 100, 100), 0};
 };
 
-TEST_F(DesktopAccentTest, TheLightAccentCanBeChosenInDarkMode) {
+TEST_F(DesktopAccentTest, IsThatOfDarkModeUnlessOneIsChosen) {
+  EXPECT_PRED2(isAbout, pixelOfWindow(), (desk::Pixel{10, 132, 255, 255}));
+  EXPECT_PRED2(isAbout, pixelOfItem(), (desk::Pixel{10, 132, 255, 255}));
+  // The blue of light mode.
   machine.appearance.accent = desk::Appearance::Accent{0, 122, 255};
-  EXPECT_PRED2(isAbout, pixelOfWindow(), lightBlue);
-  EXPECT_PRED2(isAbout, pixelOfItem(), lightBlue);
+  EXPECT_PRED2(isAbout, pixelOfWindow(), (desk::Pixel{0, 122, 255, 255}));
+  EXPECT_PRED2(isAbout, pixelOfItem(), (desk::Pixel{0, 122, 255, 255}));
 }
 
-TEST_F(DesktopAccentTest, TheDefaultAccentIsThatOfDarkMode) {
-  EXPECT_PRED2(isAbout, pixelOfWindow(), darkBlue);
-  EXPECT_PRED2(isAbout, pixelOfItem(), darkBlue);
-  machine.appearance.accent = desk::Appearance::Accent{200, 20, 60};
-  EXPECT_PRED2(isAbout, pixelOfItem(), (desk::Pixel{200, 20, 60, 255}));
+class DesktopLayersOpenMenuTest : public DesktopFixture {
+ protected:
+  DesktopLayersOpenMenuTest() {
+    // The windows fit side by side on the two displays.
+    OrvanePermissionGuideWindowController::shared().show(nullptr);
+    machine.mouse.moveTo({1200, 250});
+    application.systemSettings().open(desk::SystemSettings::accessibilityPage);
+    machine.runDue();
+  }
+
+  void beginDrag() {
+    const CGPoint corner = server().topLeftOf(*window("guide"));
+    moveTo({corner.x + 180, corner.y + 290});
+    hand.pressButton();
+    machine.mouse.moveBy(8, 8);
+    machine.runDue();
+    ASSERT_TRUE(server().pointer.fileDrag());
+  }
+  /// On the list of applications.
+  CGPoint listPlace() {
+    const CGPoint corner = server().topLeftOf(*window("system"));
+    const ui::Rect list = application.systemSettings().listFrame().value_or(ui::Rect{});
+    return {corner.x + list.x + 200, corner.y + list.y + 20};
+  }
+  /// Points on the mark: its white left arm, and the disc above it.
+  static ui::Point armAt(CGPoint place) { return {place.x + 17, place.y + 22}; }
+  static ui::Point discAt(CGPoint place) { return {place.x + 16, place.y + 18}; }
+  static desk::Pixel at(const desk::SurfacePointer& shown, ui::Point place) {
+    return desk::pixelAt(shown.get(), static_cast<int>(place.x), static_cast<int>(place.y));
+  }
+};
+
+TEST_F(DesktopLayersOpenMenuTest, TheImageFollowsThePointer) {
+  beginDrag();
+  const CGPoint place{700, 450};
+  moveTo(place);
+  const ui::Rect image = server().pointer.fileDrag()->image.movedBy({place.x, place.y});
+  const desk::SurfacePointer during = picture();
+  release();
+  EXPECT_GT(differences(picture(), during, image), image.width * image.height / 2);
+}
+
+TEST_F(DesktopLayersOpenMenuTest, ADropTargetHasTheCopyMark) {
+  beginDrag();
+  const CGPoint place = listPlace();
+  moveTo(place);
+  ASSERT_TRUE(server().pointer.canDropHere());
+  const desk::SurfacePointer over = picture();
+  const desk::Pixel disc = at(over, discAt(place));
+  EXPECT_GT(disc.green, disc.red + 60);
+  EXPECT_GT(disc.green, disc.blue + 60);
+  const desk::Pixel arm = at(over, armAt(place));
+  EXPECT_GT(arm.red, 180) << "the plus is white";
+  EXPECT_LT(disc.red, 120) << "the disc around it is not";
+}
+
+TEST_F(DesktopLayersOpenMenuTest, OtherPlacesHaveNoCopyMark) {
+  beginDrag();
+  const CGPoint place{700, 450};
+  moveTo(place);
+  EXPECT_FALSE(server().pointer.canDropHere());
+  const desk::Pixel disc = at(picture(), discAt(place));
+  EXPECT_FALSE(disc.green > disc.red + 60 && disc.green > disc.blue + 60);
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include "showroom/desktop/DesktopPicture.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
 #include "tests/desktop/DesktopFixture.hpp"
-#include "tests/support/BytesOf.hpp"
 #include "tests/support/KeptPicture.hpp"
 
 namespace orvane::showroom {
@@ -31,14 +30,6 @@ TEST_F(DesktopPictureTest, HasTheRequestedScale) {
   ASSERT_TRUE(read);
   EXPECT_EQ(cairo_image_surface_get_width(read.get()), 800);
   EXPECT_EQ(cairo_image_surface_get_height(read.get()), 250);
-}
-
-TEST_F(DesktopPictureTest, OfTheSameStateHasTheSameBytes) {
-  ASSERT_EQ(writePicture(machine, application, file, 0.5), std::nullopt);
-  const std::string first = bytesOf(file);
-  ASSERT_EQ(writePicture(machine, application, file, 0.5), std::nullopt);
-  EXPECT_EQ(first, bytesOf(file));
-  EXPECT_GT(first.size(), 1000U);
 }
 
 TEST_F(DesktopPictureTest, IsRefusedWithAReason) {

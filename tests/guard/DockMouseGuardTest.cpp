@@ -1,11 +1,16 @@
-// The guard's life cycle: starting, stopping, and its messages to its owner.
+// The guard's life cycle: starting, stopping, its calls of the platform, display changes, and its
+// messages to its owner.
 #include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include <gtest/gtest.h>
+
+#include "Orvane/guard/DockMouseGuardMessages.hpp"
 #include "desk/machine/RunLoop.hpp"
 #include "tests/guard/GuardFixture.hpp"
+#include "tests/support/MachineFixture.hpp"
 
 namespace orvane {
 namespace {
@@ -224,6 +229,190 @@ TEST_F(DockMouseGuardTest, WhenEveryLinkIsRefusedTheSettingsThemselvesAreOpened)
             (Messages{"x-apple.systempreferences:com.apple.Desktop-Settings.extension refused",
                       "x-apple.systempreferences:com.apple.preference.dock refused",
                       "file:///System/Applications/System%20Settings.app"}));
+}
+
+const std::string permissionCall = "AXIsProcessTrusted\n";
+const std::string installCalls =
+    "Screen.screens\nCGEventTapCreate\nCFMachPortCreateRunLoopSource\nCFRunLoopAddSource\n"
+    "CGEventTapEnable true\nNotificationCenter.addObserver\n";
+const std::string removeCalls =
+    "CGEventTapEnable false\nCFRunLoopRemoveSource\nCFMachPortInvalidate\n";
+
+using DockMouseGuardTapTest = GuardFixture;
+
+TEST_F(DockMouseGuardTapTest, ATapIsEnabledWhenItsSourceIsOnTheRunLoop) {
+  EXPECT_EQ(callsOf([&] { startPinned(); }), permissionCall + installCalls);
+}
+
+TEST_F(DockMouseGuardTapTest, ARestartRemovesTheOldTapFirst) {
+  startPinned();
+  EXPECT_EQ(callsOf([&] { startPinned(); }), permissionCall + removeCalls + installCalls);
+}
+
+TEST_F(DockMouseGuardTapTest, ATapIsDisabledBeforeItsSourceIsRemovedAndThenInvalidatedOnce) {
+  startPinned();
+  EXPECT_EQ(callsOf([&] { guard->stop(); }), removeCalls);
+  EXPECT_EQ(callsOf([&] { guard->stop(); }), "");
+}
+
+TEST_F(DockMouseGuardTapTest, ADestroyedGuardRemovesItsTap) {
+  startPinned();
+  EXPECT_EQ(callsOf([&] { guard.reset(); }), removeCalls);
+}
+
+TEST_F(DockMouseGuardTapTest, ATapWithoutASourceIsRemoved) {
+  machine.runLoop.setRefusesSources(true);
+  EXPECT_EQ(callsOf([&] { guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false); }),
+            permissionCall +
+                "Screen.screens\nCGEventTapCreate\nCFMachPortCreateRunLoopSource\n"
+                "CGEventTapEnable false\nCFMachPortInvalidate\nNotificationCenter.addObserver\n");
+  EXPECT_EQ(takeMessages(), Messages{tapWasRefused});
+  EXPECT_FALSE(guard->isRunning());
+  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
+}
+
+TEST_F(DockMouseGuardTapTest, AStartBeforeTheCleanUpOfAShutOffKeepsItsTap) {
+  startPreventing();
+  machine.runLoop.holdMainQueue();
+  block(180);
+  ASSERT_FALSE(machine.eventTaps.isAnyEnabled());
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  machine.runLoop.releaseMainQueue();
+  machine.runDue();
+  expectGuarding();
+  EXPECT_EQ(guard->snapshot().recentBlockCount, 0U) << "the next block is the first again";
+}
+
+TEST_F(DockMouseGuardTapTest, ANoticeFromTheSystemDoesNotEnableATapThatIsShutOff) {
+  startPreventing();
+  machine.runLoop.holdMainQueue();
+  block(180);
+  guard->eventTapCallback(kCGEventTapDisabledByUserInput, nullptr);
+  EXPECT_FALSE(machine.eventTaps.isAnyEnabled());
+  machine.runLoop.releaseMainQueue();
+  machine.runDue();
+  expectWaiting();
+}
+
+TEST_F(DockMouseGuardTapTest, AChangeOfTheDisplaysBeforeTheCleanUpOfAShutOffEndsIt) {
+  startPreventing();
+  machine.runLoop.holdMainQueue();
+  block(180);
+  desk::attach(machine, desk::displayOf(3, "Third", {{3840, 0}, {1000, 1000}}));
+  EXPECT_TRUE(machine.eventTaps.isAnyEnabled());
+  block();
+  machine.runLoop.releaseMainQueue();
+  machine.runDue();
+  expectGuarding();
+}
+
+using DockMouseGuardDisplayChangeTest = GuardFixture;
+
+TEST_F(DockMouseGuardDisplayChangeTest, AStartWithoutZonesReportsItAndWaitsForTheDisplaysToChange) {
+  desk::detach(machine, 2);
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  EXPECT_EQ(takeMessages(), Messages{noZones});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAtTheRight());
+  expectGuarding();
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, PinningWithoutATargetGivesNoZones) {
+  guard->start("", OrvaneModifier::option, false);
+  EXPECT_EQ(takeMessages(), Messages{noZones});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(takeMessages(), Messages{}) << "there is no target that could be unavailable";
+  expectWaiting();
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, ADetachedTargetGivesNoZonesUntilItIsAttached) {
+  guard->start(desk::uuidNamed('C'), OrvaneModifier::option, false);
+  EXPECT_EQ(takeMessages(), Messages{noZones});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(guard->snapshot().zones, (Zones{zoneOfTheLaptop, zoneOfTheMonitor}));
+  EXPECT_EQ(takeMessages(), Messages{"Mouse guard started. Trigger zones: 2"});
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, ATapThatIsRefusedIsTriedAgainWhenTheDisplaysChange) {
+  machine.eventTaps.setRefusesCreation(true);
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, false);
+  EXPECT_EQ(takeMessages(), Messages{tapWasRefused});
+  EXPECT_FALSE(guard->isRunning());
+  EXPECT_TRUE(guard->snapshot().isObservingScreens);
+  EXPECT_EQ(guard->snapshot().zones, Zones{zoneOfTheMonitor}) << "the zones stay";
+  EXPECT_EQ(machine.runLoop.sources().size(), 0U);
+
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(takeMessages(), Messages{tapWasRefused});
+  machine.eventTaps.setRefusesCreation(false);
+  desk::detach(machine, 3);
+  expectGuarding();
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, UnpluggingTheTargetPausesAndPluggingItInResumes) {
+  startPinned();
+  desk::detach(machine, 1);
+  expectWaiting();
+  EXPECT_EQ(takeMessages(), Messages{targetGone});
+  desk::attach(machine, desk::monitorAbove());
+  EXPECT_EQ(takeMessages(), Messages{targetGone}) << "each change is reported";
+  desk::attach(machine, desk::laptop());
+  expectGuarding();
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, AnInstalledTapIsKeptAndSeesTheNewZones) {
+  startPinned();
+  ASSERT_EQ(machine.displays.setFrame(2, {{1920, 0}, {1000, 600}}), std::nullopt);
+  EXPECT_NE(machine.eventTaps.find(1), nullptr) << "the first tap";
+  EXPECT_EQ(guard->snapshot().zones, (Zones{{{{1920, 1068}, {1000, 12}}, {0, -12}}}));
+  EXPECT_EQ(outcomeOf(inTheZone), movedBack);
+  EXPECT_EQ(outcomeOf({3000, 1075}), (CGPoint{3000, 1075}));
+  desk::setDockOrientation(machine, "right");
+  EXPECT_EQ(takeMessages(), Messages{"Blocked Dock trigger 1 times"}) << "no second start";
+  EXPECT_EQ(guard->snapshot().zones, (Zones{{{{2908, 480}, {12, 600}}, {-12, 0}}}));
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, LosingAllZonesPausesSilently) {
+  startPinned();
+  desk::detach(machine, 2);
+  EXPECT_EQ(takeMessages(), Messages{});
+  expectWaiting();
+  desk::attach(machine, desk::monitorAtTheRight());
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
+}
+
+TEST_F(DockMouseGuardDisplayChangeTest, WhenAllDisplaysAreBlockedUnpluggingOneOnlyChangesTheZones) {
+  guard->start(desk::uuidNamed('A'), OrvaneModifier::option, true);
+  takeMessages();
+  desk::detach(machine, 1);
+  expectGuarding();
+  EXPECT_EQ(guard->snapshot().zones.size(), 1U);
+  EXPECT_EQ(takeMessages(), Messages{});
+  desk::detach(machine, 2);
+  EXPECT_EQ(takeMessages(), Messages{});
+  expectWaiting();
+  desk::attach(machine, desk::laptop());
+  expectGuarding();
+  EXPECT_EQ(takeMessages(), Messages{startedWithOneZone});
+}
+
+using namespace DockMouseGuardMessages;
+
+using DockMouseGuardMessagesTest = desk::MachineFixture;
+
+TEST_F(DockMouseGuardMessagesTest, AreChineseInChinese) {
+  store("appLanguage", "chinese");
+  EXPECT_EQ(permissionMissing(), "尚未开启辅助功能权限，Dock 锁定未启动");
+  EXPECT_EQ(noTriggerZones(), "没有可用触发区。请检查目标显示器、Dock 位置和显示器排列");
+  EXPECT_EQ(tapRefused(), "无法创建 CGEventTap。请确认已开启辅助功能权限");
+  EXPECT_EQ(started(3), "鼠标守卫已启动，触发区数量：3");
+  EXPECT_EQ(targetUnavailable(), "目标显示器不存在，鼠标守卫已暂停");
+  EXPECT_EQ(blocked(42), "已阻止第 42 次 Dock 触发");
 }
 
 }  // namespace

@@ -1,18 +1,19 @@
-// The hardware panel without its window.
+// The hardware panel without its window, and its values.
 #include <set>
 
 #include "desk/hand/FindControl.hpp"
 #include "desk/windows/WindowServer.hpp"
 #include "showroom/desktop/StandardDisplays.hpp"
+#include "showroom/hardware/HardwareContent.hpp"
 #include "showroom/hardware/HardwarePanelHost.hpp"
 #include "tests/canvas/PixelFixture.hpp"
-#include "tests/hardware/HardwareFixture.hpp"
 #include "tests/support/RecordingCanvas.hpp"
+#include "tests/window/SessionFixture.hpp"
 
 namespace orvane::showroom {
 namespace {
 
-class HardwarePanelTest : public HardwareFixture {
+class HardwarePanelTest : public SessionFixture {
  protected:
   HardwarePanelTest() {
     panel.setSize({HardwarePanel::width, 800});
@@ -40,7 +41,19 @@ class HardwarePanelTest : public HardwareFixture {
     return canvas.text();
   }
 
-  HardwarePanelHost panel{hardware};
+  [[nodiscard]] HardwareContent content() const { return session.hardwareContent(false); }
+  [[nodiscard]] std::string counter(const std::string& label) const {
+    for (const HardwareCounter& candidate : content().counters) {
+      if (candidate.label == label) {
+        return candidate.value;
+      }
+    }
+    ADD_FAILURE() << "no counter " << label;
+    return {};
+  }
+
+  desk::Machine& machine = session.machine();
+  HardwarePanelHost panel{session.hardware()};
 };
 
 TEST_F(HardwarePanelTest, EveryControlHasAUniqueLabel) {
@@ -135,12 +148,6 @@ TEST_F(HardwarePanelTest, TheApplicationIsLaunchedAndEnded) {
   EXPECT_FALSE(session.application().isRunning());
 }
 
-TEST_F(HardwarePanelTest, TheZonesCanBeHidden) {
-  EXPECT_TRUE(session.scene().showsZones);
-  click("Show trigger zones");
-  EXPECT_FALSE(session.scene().showsZones);
-}
-
 TEST_F(HardwarePanelTest, CanBeOperatedWithTheKeyboard) {
   for (int time = 0; time < 100 && panel.host().focusedId() != control("Edge: Left")->id; ++time) {
     ASSERT_TRUE(panel.keyDown({.key = ui::Key::tab}));
@@ -150,7 +157,7 @@ TEST_F(HardwarePanelTest, CanBeOperatedWithTheKeyboard) {
   EXPECT_EQ(machine.dock.edge(), desk::DockEdge::left);
 }
 
-TEST_F(HardwarePanelTest, TruncatesNoTextInAnyState) {
+TEST_F(HardwarePanelTest, TruncatesNoTextAndFitsIntoTheUsualWindowInAnyState) {
   attachNextStandardDisplay(machine);
   attachNextStandardDisplay(machine);
   for (const HardwareLanguages& languages : hardwareLanguages()) {
@@ -158,15 +165,8 @@ TEST_F(HardwarePanelTest, TruncatesNoTextInAnyState) {
     pinOrUnpin();
     show();
     EXPECT_EQ(drawing().find("\u2026"), std::string::npos) << drawing();
+    EXPECT_LE(panel.host().sizeThatFits({HardwarePanel::width, std::nullopt}).height, 800);
   }
-}
-
-TEST_F(HardwarePanelTest, FitsIntoTheUsualWindowWithAllDisplays) {
-  attachNextStandardDisplay(machine);
-  attachNextStandardDisplay(machine);
-  pinOrUnpin();
-  show();
-  EXPECT_LE(panel.host().sizeThatFits({HardwarePanel::width, std::nullopt}).height, 800);
 }
 
 TEST_F(HardwarePanelTest, ScrollsWhenItIsTooLow) {
@@ -229,6 +229,54 @@ TEST_F(HardwarePanelPictureTest, FillsItsFrameAndFollowsTheAppearance) {
     }
     EXPECT_EQ(at(25, 790).red > 128, !isDark);
   }
+}
+
+TEST_F(HardwarePanelTest, ListsTheDisplaysWithTheirSizes) {
+  const std::vector<HardwareDisplay> displays = content().displays;
+  ASSERT_EQ(displays.size(), 2U);
+  EXPECT_EQ(displays[0].name, "Built-in Display");
+  EXPECT_EQ(displays[0].size, "1024 × 640");
+  EXPECT_TRUE(displays[0].isMain);
+  EXPECT_EQ(displays[1].number, 2U);
+  EXPECT_FALSE(displays[1].isMain);
+}
+
+TEST_F(HardwarePanelTest, FollowsTheDockAndTheCounters) {
+  EXPECT_EQ(counter("Dock on"), "Built-in Display");
+  EXPECT_EQ(counter("Dock came up"), "0");
+  pressRightDisplay(2);
+  EXPECT_EQ(counter("Dock on"), "Right Display");
+  EXPECT_EQ(counter("Dock came up"), "1");
+  EXPECT_EQ(counter("Moved back"), "0");
+  EXPECT_EQ(counter("Events per second"), "3");
+  EXPECT_EQ(counter("Movements"), std::to_string(machine.counters.hardwareMovements));
+  pinOrUnpin();
+  session.movePointerBy(0, -100);
+  pressRightDisplay(5);
+  EXPECT_EQ(counter("Moved back"), "5");
+}
+
+TEST_F(HardwarePanelTest, ShowsTheStatusAndTheLastMessage) {
+  EXPECT_EQ(counter("Orvane"), "Unlocked");
+  EXPECT_EQ(content().message, "");
+  pinOrUnpin();
+  EXPECT_EQ(counter("Orvane"), "Locked");
+  EXPECT_EQ(content().message, "Mouse guard started. Trigger zones: 1");
+  machine.modifierKeys.hold(kCGEventFlagMaskAlternate);
+  session.movePointerBy(1, 0);
+  EXPECT_EQ(counter("Orvane"), "Unlocked for now");
+  machine.modifierKeys.releaseAll();
+  session.movePointerBy(1, 0);
+  ASSERT_FALSE(machine.displays.detach(1));
+  machine.runDue();
+  EXPECT_EQ(counter("Orvane"), "Display missing");
+  machine.permission.setTrusted(false);
+  session.application().model().refreshDisplays();
+  EXPECT_EQ(counter("Orvane"), "No permission");
+  session.application().crash();
+  EXPECT_EQ(counter("Orvane"), "Not running");
+  ASSERT_FALSE(machine.displays.detach(2));
+  EXPECT_EQ(counter("Dock on"), "nowhere");
 }
 
 }  // namespace

@@ -100,25 +100,6 @@ TEST_F(DisplaysTest, ANewHeightOfTheFirstDisplayMovesTheOthers) {
   EXPECT_EQ(displays.globalFrames()[0].origin.y, 0);
 }
 
-TEST_F(DisplaysTest, AGroupOfChangesIsOneChange) {
-  ASSERT_FALSE(displays.attach(display(1, {{0, 0}, {100, 50}})));
-  changes = 0;
-  EXPECT_EQ(displays.beginChanges(), std::nullopt);
-  EXPECT_NE(displays.beginChanges(), std::nullopt);
-  ASSERT_FALSE(displays.attach(display(2, {{100, 0}, {100, 50}})));
-  ASSERT_FALSE(displays.renumber(1, 4));
-  EXPECT_EQ(changes, 0);
-  EXPECT_EQ(displays.endChanges(), std::nullopt);
-  EXPECT_EQ(changes, 1);
-}
-
-TEST_F(DisplaysTest, AnEmptyGroupIsNotAChange) {
-  EXPECT_EQ(displays.beginChanges(), std::nullopt);
-  EXPECT_EQ(displays.detach(5), "there is no display 5");
-  EXPECT_EQ(displays.endChanges(), std::nullopt);
-  EXPECT_EQ(changes, 0);
-}
-
 TEST_F(DisplaysTest, TheDisplayUnderAPointIsThePreferredOneIfItContainsIt) {
   ASSERT_FALSE(displays.attach(display(1, {{0, 0}, {100, 50}})));
   ASSERT_FALSE(displays.attach(display(2, {{0, 0}, {100, 50}})));

@@ -30,12 +30,6 @@ class DockTest : public MachineFixture {
   Dock& dock = machine.dock;
 };
 
-TEST_F(DockTest, IsNowhereWithoutADisplay) {
-  EXPECT_EQ(dock.displayNumber(), std::nullopt);
-  EXPECT_FALSE(dock.isVisible());
-  EXPECT_EQ(dock.frame().size.width, 0);
-}
-
 TEST_F(DockTest, BelongsToTheMainDisplayBeforeItFirstAppears) {
   attachPair();
   EXPECT_EQ(dock.displayNumber(), 1U);
@@ -43,18 +37,6 @@ TEST_F(DockTest, BelongsToTheMainDisplayBeforeItFirstAppears) {
   EXPECT_EQ(dock.shownFraction(), 1);
   EXPECT_TRUE(dock.reveals().empty());
   EXPECT_TRUE(CGRectEqualToRect(dock.frame(), CGRectMake(200, 730, 600, 70)));
-}
-
-TEST_F(DockTest, FollowsThePointerThatPressesAgainstItsEdgeOfAnotherDisplay) {
-  attachPair();
-  push({1500, 780}, 0, 60);
-  EXPECT_EQ(dock.displayNumber(), 2U);
-  EXPECT_EQ(dock.revealCount(2), 1);
-  push({1500, 780}, 0, 60);
-  EXPECT_EQ(dock.revealCount(2), 1);
-  push({500, 780}, 0, 60);
-  EXPECT_EQ(dock.displayNumber(), 1U);
-  EXPECT_EQ(dock.revealCount(1), 1);
 }
 
 TEST_F(DockTest, TouchingTheEdgeOfAnotherDisplayWithoutPressureDoesNotSummonIt) {
@@ -77,20 +59,6 @@ TEST_F(DockTest, AppearsAtTheLeftAndTheRightEdge) {
   push({500, 400}, 600, 0);
   EXPECT_EQ(dock.displayNumber(), 1U);
   EXPECT_TRUE(CGRectEqualToRect(dock.frame(), CGRectMake(930, 160, 70, 480)));
-}
-
-TEST_F(DockTest, AnyOtherStoredValueMeansTheBottom) {
-  for (const PropertyValue& value :
-       {PropertyValue(std::string("top")), PropertyValue(std::string("Left")), PropertyValue(7.0),
-        PropertyValue(true)}) {
-    setEdge(std::string("left"));
-    ASSERT_EQ(dock.edge(), DockEdge::left);
-    setEdge(value);
-    EXPECT_EQ(dock.edge(), DockEdge::bottom);
-  }
-  setEdge(std::string("left"));
-  machine.preferences.remove({Dock::preferencesDomain}, Dock::orientationKey);
-  EXPECT_EQ(dock.edge(), DockEdge::bottom);
 }
 
 TEST_F(DockTest, ANeighbourBehindTheEdgeKeepsItAway) {
@@ -205,15 +173,6 @@ TEST_F(DockTest, AutoHiddenItAppearsOnAnotherDisplayThatIsPressed) {
   EXPECT_TRUE(dock.isVisible());
   EXPECT_EQ(dock.revealCount(2), 1);
   EXPECT_EQ(dock.revealCount(1), 0);
-}
-
-TEST_F(DockTest, AppearancesByPreferencesAreNotCounted) {
-  attachPair();
-  setAutoHide(true);
-  setAutoHide(false);
-  setEdge(std::string("left"));
-  EXPECT_TRUE(dock.isVisible());
-  EXPECT_TRUE(dock.reveals().empty());
 }
 
 TEST_F(DockTest, ASlideCanBeReversed) {

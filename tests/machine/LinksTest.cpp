@@ -31,21 +31,6 @@ TEST(LinksTest, RecordRequestsInOrder) {
   EXPECT_TRUE(links.opened()[1].isFile);
 }
 
-TEST(LinksTest, RefuseByPrefixUntilAllAreAcceptedAgain) {
-  Links links;
-  links.refuse("a:x");
-  EXPECT_FALSE(links.openURL("a:xyz"));
-  EXPECT_TRUE(links.openURL("a:y"));
-  links.refuse("file:");
-  EXPECT_FALSE(links.openFile("/f"));
-  links.acceptAll();
-  EXPECT_TRUE(links.openURL("a:xyz"));
-  ASSERT_EQ(links.opened().size(), 4U);
-  EXPECT_FALSE(links.opened()[0].wasAccepted);
-  EXPECT_TRUE(links.opened()[1].wasAccepted);
-  EXPECT_FALSE(links.opened()[2].wasAccepted);
-}
-
 TEST(LinksTest, InvalidURLsAndRelativePathsAreNeitherOpenedNorRecorded) {
   Links links;
   EXPECT_FALSE(links.openURL("not a url"));

@@ -1,6 +1,5 @@
-// The start and the end of a process: what ends with it and what survives.
+// The start and the end of a machine and of a process: what ends with it and what survives.
 #include <memory>
-#include <optional>
 
 #include <gtest/gtest.h>
 
@@ -8,7 +7,6 @@
 #include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/platform/appkit/MainQueue.hpp"
 #include "Orvane/platform/appkit/NotificationCenter.hpp"
-#include "Orvane/platform/appkit/Timer.hpp"
 #include "Orvane/platform/appkit/UserDefaults.hpp"
 #include "desk/machine/MachineScope.hpp"
 #include "desk/machine/Process.hpp"
@@ -16,10 +14,6 @@
 
 namespace orvane::desk {
 namespace {
-
-CGEventRef pass(CGEventTapProxy, CGEventType, CGEventRef event, void*) {
-  return event;
-}
 
 class ProcessTest : public testing::Test {
  protected:
@@ -48,23 +42,6 @@ TEST_F(ProcessTest, ObserversEndWithItAndAProcessThatDoesNotRunReceivesNothing) 
   attach(machine, laptop());
   EXPECT_EQ(heard, 1);
   appkit::NotificationCenter::removeObserver(token);
-}
-
-TEST_F(ProcessTest, TapsEndWithItAndTheRunLoopReleasesTheirSources) {
-  machine.process.start();
-  machine.permission.setTrusted(true);
-  const CFMachPortRef port =
-      CGEventTapCreate(kCGSessionEventTap, kCGTailAppendEventTap, kCGEventTapOptionDefault,
-                       CGEventMask{1} << kCGEventMouseMoved, pass, nullptr);
-  const CFRunLoopSourceRef source = CFMachPortCreateRunLoopSource(kCFAllocatorDefault, port, 0);
-  CFRunLoopAddSource(CFRunLoopGetCurrent(), source, kCFRunLoopCommonModes);
-  CFRelease(source);
-  machine.process.end();
-  EXPECT_EQ(machine.eventTaps.aliveCount(), 0U);
-  EXPECT_TRUE(machine.runLoop.sources().empty());
-  EXPECT_EQ(machine.objects.referenceCount(port), 1);
-  CFRelease(port);
-  EXPECT_TRUE(scope.end().empty());
 }
 
 /// A shared object whose destructor makes requests that must have no effect.
@@ -119,6 +96,34 @@ TEST_F(ProcessTest, MayEndFromWithinATask) {
   machine.runDue();
   EXPECT_EQ(*held, 1);
   EXPECT_FALSE(machine.process.isRunning());
+}
+
+TEST(MachineScopeTest, ReportsLeakedObjects) {
+  MachineScope scope;
+  const CFStringRef text =
+      CFStringCreateWithCString(kCFAllocatorDefault, "left behind", kCFStringEncodingUTF8);
+  Machine::current().objects.retain(text, "test");
+  EXPECT_EQ(scope.end(),
+            std::vector<std::string>{"not released: CFString \"left behind\", references: 2"});
+}
+
+TEST(MachineScopeTest, ReportsFaults) {
+  MachineScope scope;
+  const CFStringRef text =
+      CFStringCreateWithCString(kCFAllocatorDefault, "twice", kCFStringEncodingUTF8);
+  CFRelease(text);
+  CFRelease(text);
+  EXPECT_EQ(scope.end(),
+            std::vector<std::string>{"fault: CFRelease: CFString \"twice\" was already released"});
+}
+
+TEST(MachineScopeDeathTest, ASecondMachineAtATimeIsRefused) {
+  const MachineScope scope;
+  EXPECT_DEATH(MachineScope(), "switched on already");
+}
+
+TEST(MachineScopeDeathTest, WithoutAMachineThePlatformIsUnavailable) {
+  EXPECT_DEATH(Machine::current(), "no machine is switched on");
 }
 
 }  // namespace

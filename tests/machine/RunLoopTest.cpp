@@ -1,9 +1,15 @@
-// The run loop: nesting, modes, the held main queue, timers, and the end of a process.
+// The run loop: nesting, modes, the held main queue, timers, and the end of a process; its order
+// for random requests, compared with a plain list that is searched at every time step.
+#include <algorithm>
 #include <memory>
+#include <ostream>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
 
 #include "desk/machine/RunLoop.hpp"
 
@@ -69,21 +75,6 @@ TEST_F(RunLoopTest, ModesNest) {
   EXPECT_EQ(runLoop.mode(), RunLoop::Mode::standard);
 }
 
-TEST_F(RunLoopTest, AHeldMainQueueDeliversNothingWhileTimersGoOn) {
-  const auto timer = runLoop.addTimer(second, RunLoop::commonModes, note("timer"));
-  runLoop.async([this] {
-    note("opens the session")();
-    runLoop.holdMainQueue();
-  });
-  runLoop.async(note("waiting"));
-  runLoop.asyncAfter(500 * millisecond, note("delayed"));
-  runLoop.advance(second);
-  EXPECT_EQ(log, (Log{"opens the session@0", "timer@1000"}));
-  runLoop.releaseMainQueue();
-  runLoop.runDue();
-  EXPECT_EQ(log, (Log{"opens the session@0", "timer@1000", "waiting@1000", "delayed@1000"}));
-}
-
 TEST_F(RunLoopTest, AnInvalidatedTimerStopsAndReleasesItsCallback) {
   auto held = std::make_shared<int>(0);
   const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [held] { ++*held; });
@@ -114,15 +105,6 @@ TEST_F(RunLoopTest, AnIntervalOfZeroBecomesATenthOfAMillisecond) {
   const auto timer = runLoop.addTimer(0, RunLoop::commonModes, [&] { ++ticks; });
   runLoop.advance(millisecond);
   EXPECT_EQ(ticks, 10);
-}
-
-TEST_F(RunLoopTest, CountsAWakeUpForEachInstantWithSomethingToDo) {
-  const auto timer = runLoop.addTimer(second, RunLoop::commonModes, [] {});
-  runLoop.asyncAfter(2 * second, [] {});
-  runLoop.advance(3 * second);
-  EXPECT_EQ(runLoop.taskCount(), 1);
-  EXPECT_EQ(runLoop.timerFireCount(), 3);
-  EXPECT_EQ(runLoop.wakeUpCount(), 3);
 }
 
 TEST_F(RunLoopTest, CoalescedTimersFireTogetherInTheOrderOfCreation) {
@@ -211,6 +193,189 @@ TEST_F(RunLoopTest, AfterCurrentComesBeforeDueTasksInEveryModeAndWhileTheQueueIs
   runLoop.runDue();
   EXPECT_EQ(order, "first follower task ");
   EXPECT_EQ(runLoop.taskCount() - before, 2);
+}
+
+struct Step {
+  enum class Kind {
+    task,
+    standardTimer,
+    commonTimer,
+    advance,
+    enterMode,
+    leaveMode,
+    hold,
+    release
+  };
+  Kind kind;
+  /// The delay, the interval or the elapsed time.
+  int amount;
+  /// When not negative, the task posts another one with this delay.
+  int childDelay;
+};
+
+std::ostream& operator<<(std::ostream& out, const Step& step) {
+  constexpr const char* names[] = {"task",  "standardTimer", "commonTimer", "advance",
+                                   "enter", "leave",         "hold",        "release"};
+  return out << names[static_cast<int>(step.kind)] << " " << step.amount << " " << step.childDelay;
+}
+
+using Record = std::pair<std::int64_t, int>;
+
+/// The simplest possible model of the run loop: time advances unit by unit, and each time the whole
+/// list is searched for the item that has waited longest.
+class ListModel {
+ public:
+  std::vector<Record> records;
+
+  void add(int name, bool isTask, bool isStandard, std::int64_t due, int interval, int child) {
+    items_.push_back({name, isTask, isStandard, due, arrivals_++, interval, child});
+  }
+
+  void perform(const Step& step, int name) {
+    switch (step.kind) {
+      case Step::Kind::task:
+        add(name, true, false, now_ + step.amount, 0, step.childDelay);
+        break;
+      case Step::Kind::standardTimer:
+      case Step::Kind::commonTimer:
+        add(name, false, step.kind == Step::Kind::standardTimer, now_ + step.amount + 1,
+            step.amount + 1, -1);
+        break;
+      case Step::Kind::advance:
+        rest();
+        for (int unit = 0; unit < step.amount; ++unit) {
+          ++now_;
+          rest();
+        }
+        break;
+      case Step::Kind::enterMode:
+        ++modes_;
+        break;
+      case Step::Kind::leaveMode:
+        modes_ = modes_ > 0 ? modes_ - 1 : 0;
+        break;
+      case Step::Kind::hold:
+        ++holds_;
+        break;
+      case Step::Kind::release:
+        holds_ = holds_ > 0 ? holds_ - 1 : 0;
+        break;
+    }
+    rest();
+  }
+
+ private:
+  struct Item {
+    int name;
+    bool isTask;
+    bool isStandard;
+    std::int64_t due;
+    int arrival;
+    int interval;
+    int child;
+  };
+
+  [[nodiscard]] bool isServed(const Item& item) const {
+    return item.due <= now_ && !(item.isTask && holds_ > 0) && !(item.isStandard && modes_ > 0);
+  }
+
+  void rest() {
+    while (true) {
+      const auto first = std::ranges::min_element(items_, {}, [this](const Item& item) {
+        return std::tuple(!isServed(item), item.due, item.arrival);
+      });
+      if (first == items_.end() || !isServed(*first)) {
+        return;
+      }
+      const Item served = *first;
+      records.emplace_back(now_, served.name);
+      if (served.isTask) {
+        items_.erase(first);
+        if (served.child >= 0) {
+          add(served.name + 1000, true, false, now_ + served.child, 0, -1);
+        }
+      } else {
+        while (first->due <= now_) {
+          first->due += served.interval;
+        }
+        first->arrival = arrivals_++;
+      }
+    }
+  }
+
+  std::vector<Item> items_;
+  std::int64_t now_ = 0;
+  int arrivals_ = 0;
+  int modes_ = 0;
+  int holds_ = 0;
+};
+
+class RunLoopModel {
+ public:
+  std::vector<Record> records;
+
+  void perform(const Step& step, int name) {
+    switch (step.kind) {
+      case Step::Kind::task:
+        runLoop_.asyncAfter(step.amount, [this, name, child = step.childDelay] {
+          records.emplace_back(clock_.now(), name);
+          if (child >= 0) {
+            runLoop_.asyncAfter(child,
+                                [this, name] { records.emplace_back(clock_.now(), name + 1000); });
+          }
+        });
+        break;
+      case Step::Kind::standardTimer:
+      case Step::Kind::commonTimer:
+        runLoop_.addTimer(step.amount + 1,
+                          step.kind == Step::Kind::commonTimer
+                              ? RunLoop::commonModes
+                              : static_cast<RunLoop::ModeSet>(RunLoop::Mode::standard),
+                          [this, name] { records.emplace_back(clock_.now(), name); });
+        break;
+      case Step::Kind::advance:
+        runLoop_.advance(step.amount);
+        break;
+      case Step::Kind::enterMode:
+        runLoop_.enterMode(RunLoop::Mode::eventTracking);
+        break;
+      case Step::Kind::leaveMode:
+        runLoop_.leaveMode();
+        break;
+      case Step::Kind::hold:
+        runLoop_.holdMainQueue();
+        break;
+      case Step::Kind::release:
+        runLoop_.releaseMainQueue();
+        break;
+    }
+    runLoop_.runDue();
+  }
+
+ private:
+  Clock clock_;
+  Faults faults_;
+  RunLoop runLoop_{clock_, faults_};
+};
+
+rc::Gen<Step> genStep() {
+  using Kind = Step::Kind;
+  return rc::gen::construct<Step>(
+      rc::gen::element(Kind::task, Kind::task, Kind::standardTimer, Kind::commonTimer,
+                       Kind::advance, Kind::advance, Kind::advance, Kind::enterMode,
+                       Kind::leaveMode, Kind::hold, Kind::release),
+      rc::gen::inRange(0, 7), rc::gen::inRange(-2, 4));
+}
+
+RC_GTEST_PROP(RunLoopProperty, ServesTasksAndTimersInTheOrderOfTheListModel, ()) {
+  const auto steps = *rc::gen::container<std::vector<Step>>(genStep());
+  ListModel expected;
+  RunLoopModel actual;
+  for (std::size_t index = 0; index < steps.size(); ++index) {
+    expected.perform(steps[index], static_cast<int>(index));
+    actual.perform(steps[index], static_cast<int>(index));
+  }
+  RC_ASSERT(actual.records == expected.records);
 }
 
 }  // namespace

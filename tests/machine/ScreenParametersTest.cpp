@@ -1,6 +1,7 @@
 // When the screen-parameters notification is posted: after display changes, and when the Dock
-// changes a visible frame.
+// changes a visible frame; and the removal of observers during a notification.
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -11,6 +12,7 @@
 
 #include "Orvane/platform/appkit/NotificationCenter.hpp"
 #include "Orvane/platform/appkit/Screen.hpp"
+#include "desk/machine/Observers.hpp"
 #include "tests/support/MachineFixture.hpp"
 #include "tests/support/TestDisplays.hpp"
 
@@ -48,7 +50,6 @@ class ScreenParametersTest : public MachineFixture {
   [[nodiscard]] int postedSoFar() const { return posted_; }
 
   static constexpr CGPoint inTheOpen{900, 500};
-  static constexpr CGPoint aboveTheDock{900, 1050};
   static constexpr CGPoint aboveTheOtherEdge{2800, 1050};
 
  private:
@@ -74,38 +75,6 @@ TEST_F(ScreenParametersTest, NotificationsCanBeDoubled) {
   machine.notifications.isDoubled = true;
   setDockOrientation(machine, "left");
   EXPECT_EQ(countPosted(), 2);
-}
-
-TEST_F(ScreenParametersTest, AnotherEdgeOfTheDockIsPosted) {
-  setDockOrientation(machine, "left");
-  EXPECT_EQ(countPosted(), 1);
-  setDockOrientation(machine, "right");
-  EXPECT_EQ(countPosted(), 1);
-  setDockOrientation(machine, "diagonal");
-  EXPECT_EQ(countPosted(), 1);
-}
-
-TEST_F(ScreenParametersTest, SwitchingAutoHideIsPosted) {
-  setDockAutoHide(machine, true);
-  EXPECT_EQ(countPosted(), 1);
-  setDockAutoHide(machine, true);
-  EXPECT_EQ(countPosted(), 0);
-  setDockAutoHide(machine, false);
-  EXPECT_EQ(countPosted(), 1);
-}
-
-TEST_F(ScreenParametersTest, ASlideIsPostedWhenItBegins) {
-  setDockAutoHide(machine, true);
-  countPosted();
-  machine.mouse.moveTo(aboveTheDock);
-  machine.mouse.moveBy(0, 60);
-  EXPECT_EQ(countPosted(), 1);
-  machine.advance(1);
-  EXPECT_EQ(countPosted(), 0);
-  machine.mouse.moveTo(inTheOpen);
-  EXPECT_EQ(countPosted(), 1);
-  machine.advance(1);
-  EXPECT_EQ(countPosted(), 0);
 }
 
 TEST_F(ScreenParametersTest, NothingIsPostedDuringAMovement) {
@@ -182,6 +151,8 @@ void take(Machine& machine, const FrameStep& step) {
       return setDockOrientation(machine, edges.at(static_cast<std::size_t>(step.choice)));
     case 1:
       return setDockAutoHide(machine, step.choice > 2);
+    case 2:
+      return machine.advance(0.1 * step.choice);
     default:
       machine.mouse.moveTo({static_cast<double>(step.x), static_cast<double>(step.y)});
   }
@@ -198,7 +169,7 @@ RC_GTEST_PROP(ScreenParametersProperty, ArePostedExactlyWhenAVisibleFrameHasChan
   machine.observers.add(NotificationName::applicationDidChangeScreenParameters,
                         [&heard] { ++heard; });
   const auto steps = *rc::gen::container<std::vector<FrameStep>>(
-      rc::gen::construct<FrameStep>(rc::gen::element(0, 1, 2, 2, 2, 2), rc::gen::inRange(0, 5),
+      rc::gen::construct<FrameStep>(rc::gen::element(0, 1, 2, 3, 3, 3, 3), rc::gen::inRange(0, 5),
                                     rc::gen::inRange(-100, 400), rc::gen::inRange(-200, 200)));
   for (const FrameStep& step : steps) {
     const std::vector<CGRect> before = visibleFrames();
@@ -211,6 +182,41 @@ RC_GTEST_PROP(ScreenParametersProperty, ArePostedExactlyWhenAVisibleFrameHasChan
     }
     RC_ASSERT(std::exchange(heard, 0) == (isSame ? 0 : 1));
   }
+}
+
+constexpr auto screenParameters = appkit::NotificationName::applicationDidChangeScreenParameters;
+
+class ObserversTest : public testing::Test {
+ protected:
+  std::shared_ptr<Observers::Observer> add(std::string name, std::function<void()> also = {}) {
+    return observers.add(screenParameters, [this, name = std::move(name), also = std::move(also)] {
+      log.push_back(name);
+      if (also) {
+        also();
+      }
+    });
+  }
+
+  Observers observers;
+  std::vector<std::string> log;
+  using Log = std::vector<std::string>;
+};
+
+TEST_F(ObserversTest, AnObserverRemovedBeforeItsTurnIsSkipped) {
+  std::shared_ptr<Observers::Observer> second;
+  add("first", [&] { observers.remove(second); });
+  second = add("second");
+  add("third");
+  observers.post(screenParameters);
+  EXPECT_EQ(log, (Log{"first", "third"}));
+}
+
+TEST_F(ObserversTest, RemoveAllRemovesEvenDuringAPost) {
+  add("a", [&] { observers.removeAll(); });
+  add("b");
+  observers.post(screenParameters);
+  observers.post(screenParameters);
+  EXPECT_EQ(log, (Log{"a"}));
 }
 
 }  // namespace

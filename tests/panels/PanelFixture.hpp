@@ -3,7 +3,6 @@
 #pragma once
 
 #include <algorithm>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,6 +11,7 @@
 
 #include "Orvane/ui/views/Semantics.hpp"
 #include "tests/support/ApplicationFixture.hpp"
+#include "tests/support/TestDisplays.hpp"
 
 namespace orvane {
 
@@ -31,24 +31,21 @@ class PanelFixture : public ApplicationFixture {
   }
 
   void attach(std::uint32_t number, CGRect frame, const std::string& name, bool isBuiltIn) {
-    desk::Display display;
-    display.number = number;
+    desk::Display display = desk::displayOf(number, name, frame);
     display.uuid = "DISPLAY-" + std::to_string(number);
-    display.frame = frame;
-    display.name = name;
     display.isBuiltIn = isBuiltIn;
-    EXPECT_FALSE(machine.displays.attach(display, number == 1));
+    desk::attach(machine, display, number == 1);
   }
 
   /// Leaves a single display that is little larger than the main panel.
   void useSmallDisplay() {
-    EXPECT_FALSE(machine.displays.detach(3));
-    EXPECT_FALSE(machine.displays.detach(2));
+    desk::detach(machine, 3);
+    desk::detach(machine, 2);
     EXPECT_FALSE(machine.displays.setFrame(1, CGRectMake(0, 0, 720, 620)));
   }
   void detachAll() {
     while (!machine.displays.isEmpty()) {
-      EXPECT_FALSE(machine.displays.detach(machine.displays.all().back().number));
+      desk::detach(machine, machine.displays.all().back().number);
     }
     machine.runDue();
   }
@@ -63,27 +60,6 @@ class PanelFixture : public ApplicationFixture {
     openMain();
     press("Settings");
     machine.advance(1);
-  }
-
-  // The main panel is the default surface.
-  [[nodiscard]] static std::optional<ui::SemanticsNode> element(
-      const std::string& label, const std::string& surface = mainPanel) {
-    return HandFixture::element(label, surface);
-  }
-  [[nodiscard]] static std::optional<ui::SemanticsNode> element(
-      ui::Role role, const std::string& label, const std::string& surface = mainPanel) {
-    return HandFixture::element(role, label, surface);
-  }
-  [[nodiscard]] static ui::Rect frameOf(const std::string& label,
-                                        const std::string& surface = mainPanel) {
-    return HandFixture::frameOf(label, surface);
-  }
-  [[nodiscard]] static std::ptrdiff_t drawn(const std::string& part,
-                                            const std::string& surface = mainPanel) {
-    return HandFixture::drawn(part, surface);
-  }
-  bool press(const std::string& label, const std::string& surface = mainPanel) {
-    return ApplicationFixture::press(label, surface);
   }
 
   /// The text of the status pill of the panel with this title.

@@ -1,11 +1,14 @@
 // TextRun is a line of text as drawn, with its place on the panel.
 #pragma once
 
+#include <cstdio>
+#include <limits>
 #include <string>
 #include <vector>
 
 #include "Orvane/ui/draw/Canvas.hpp"
-#include "desk/canvas/TextShaper.hpp"
+#include "Orvane/ui/draw/TextMeasurer.hpp"
+#include "Orvane/ui/host/ViewHost.hpp"
 
 namespace orvane {
 
@@ -26,11 +29,16 @@ struct TextRun {
   double opacity = 1;
 };
 
+inline ui::TextLayout wholeLine(const std::string& line, const ui::Font& font,
+                                ui::TextMeasurer& measurer) {
+  return measurer.layout(line, font, std::numeric_limits<double>::infinity(), {0});
+}
+
 /// A canvas that only collects texts.
 class TextCollector : public ui::Canvas {
  public:
-  explicit TextCollector(desk::TextShaper& shaper, double scaleFactor = 1)
-      : shaper_(shaper), scaleFactor_(scaleFactor) {}
+  explicit TextCollector(ui::TextMeasurer& measurer, double scaleFactor = 1)
+      : measurer_(measurer), scaleFactor_(scaleFactor) {}
 
   [[nodiscard]] const std::vector<TextRun>& runs() const { return runs_; }
 
@@ -59,7 +67,8 @@ class TextCollector : public ui::Canvas {
     constexpr double capitals = 0.75;
     constexpr double below = 0.2;
     const ui::Rect local{baseline.x, baseline.y - capitals * font.size,
-                         shaper_.measure(line, font).width, (capitals + below) * font.size};
+                         wholeLine(line, font, measurer_).size().width,
+                         (capitals + below) * font.size};
     const ui::Rect frame = state_.transform.apply(local);
     runs_.push_back({line, font, color, frame, frame.intersection(state_.clip),
                      state_.transform.apply(baseline).y, state_.transform.scale, state_.opacity});
@@ -74,11 +83,30 @@ class TextCollector : public ui::Canvas {
     double opacity = 1;
   };
 
-  desk::TextShaper& shaper_;
+  ui::TextMeasurer& measurer_;
   double scaleFactor_;
   State state_;
   std::vector<State> states_;
   std::vector<TextRun> runs_;
 };
+
+/// One line for each line of text that the host draws: the name, the text and its box (left, top,
+/// width, height, in points to a tenth), separated by tabs; to compare the layout of a view on two
+/// platforms. `origin` is the host's position.
+inline std::string textBoxes(const std::string& name, const ui::ViewHost& host, ui::Point origin,
+                             ui::TextMeasurer& measurer) {
+  TextCollector collector(measurer);
+  host.paint(collector, {0, 0, host.size().width, host.size().height});
+  std::string boxes;
+  for (const TextRun& run : collector.runs()) {
+    const ui::TextLayout layout = wholeLine(run.line, run.font, measurer);
+    char box[128];
+    std::snprintf(box, sizeof(box), "\t%.1f\t%.1f\t%.1f\t%.1f\n", origin.x + run.frame.x,
+                  origin.y + run.baseline - layout.ascent * run.scale, run.frame.width,
+                  layout.size().height * run.scale);
+    boxes += name + "\t" + run.line + box;
+  }
+  return boxes;
+}
 
 }  // namespace orvane

@@ -1,4 +1,7 @@
-// The alert: its panel, its modal session, and the effect of each answer.
+// The alert: its panel, its modal session, which ends exactly once, and the effect of each answer.
+#include <vector>
+
+#include "Orvane/permission/OrvaneModalPanelDelegate.hpp"
 #include "Orvane/permission/OrvanePermissionAlert.hpp"
 #include "tests/permission/PermissionFlow.hpp"
 
@@ -80,6 +83,39 @@ TEST_F(OrvanePermissionAlertTest, WithoutAnIconASymbolOfTheSameSizeReplacesIt) {
   check('a');
   EXPECT_EQ(drawn("symbol dock.rectangle 44/600 rgba(0.2 0.4 0.8 1) (", "alert"), 1);
   EXPECT_EQ(frameOf("Not Now", "alert"), button);
+}
+
+class OrvaneModalPanelDelegateTest : public PermissionFlow {
+ protected:
+  /// Two nested sessions: a second stop would end the outer one.
+  void runTwoSessions() {
+    for (appkit::Window* const panel : {&outer, &inner}) {
+      appkit::Application::runModal(*panel,
+                                    [this](int response) { responses.push_back(response); });
+    }
+  }
+
+  appkit::Window outer{appkit::WindowKind::panel, CGRectMake(0, 0, 50, 50), 1};
+  appkit::Window inner{appkit::WindowKind::panel, CGRectMake(0, 0, 50, 50), 1};
+  std::vector<int> responses;
+  OrvaneModalPanelDelegate delegate;
+};
+
+TEST_F(OrvaneModalPanelDelegateTest, TheFirstResponseStopsTheSession) {
+  runTwoSessions();
+  delegate.stopModalOnce(1000);
+  delegate.stopModalOnce(1001);
+  delegate.windowWillClose();
+  machine.runDue();
+  EXPECT_EQ(responses, std::vector<int>{1000}) << "the outer session continues";
+}
+
+TEST_F(OrvaneModalPanelDelegateTest, ClosingThePanelDeclines) {
+  runTwoSessions();
+  delegate.windowWillClose();
+  delegate.stopModalOnce(1000);
+  machine.runDue();
+  EXPECT_EQ(responses, std::vector<int>{1001});
 }
 
 }  // namespace

@@ -56,11 +56,6 @@ class PermissionFlow : public desk::HandFixture {
   void press(const std::string& label, const std::string& surface) {
     EXPECT_EQ(hand.press({label, surface}), std::nullopt);
   }
-  /// In global coordinates.
-  void pressAt(CGPoint place) {
-    hand.moveTo(place);
-    hand.pressButton();
-  }
 
   void expectGuideOrigin(double x, double y) {
     EXPECT_EQ(guide().snapshot().frame.origin.x, x);

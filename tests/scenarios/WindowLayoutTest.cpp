@@ -11,10 +11,10 @@
 #include "Orvane/permission/OrvanePermissionGuideWindowController.hpp"
 #include "Orvane/platform/appkit/Application.hpp"
 #include "Orvane/windows/OrvaneWindowController.hpp"
+#include "tests/panels/TextRun.hpp"
 #include "tests/support/ApplicationFixture.hpp"
 #include "tests/support/BytesOf.hpp"
 #include "tests/support/TestDisplays.hpp"
-#include "tests/support/TextBoxes.hpp"
 
 namespace orvane::desk {
 namespace {

@@ -1,57 +1,45 @@
-// Splitting of lines into words.
+// Splitting of lines into words, and of words at commas.
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "desk/script/Arguments.hpp"
 #include "desk/script/Lexer.hpp"
 
 namespace orvane::desk::script {
 namespace {
 
-std::vector<std::string> textsOf(std::string_view line) {
-  const LexedLine lexed = lexLine(line);
-  EXPECT_FALSE(lexed.problem) << *lexed.problem;
-  std::vector<std::string> texts;
-  for (const Word& word : lexed.words) {
-    EXPECT_FALSE(word.problem) << *word.problem;
-    texts.push_back(word.text);
-  }
-  return texts;
-}
-
 using Texts = std::vector<std::string>;
 
-TEST(LexerTest, SeparatesWordsByBlanksAndTabulators) {
-  EXPECT_EQ(textsOf("  move\t100   900 "), (Texts{"move", "100", "900"}));
-}
-
-TEST(LexerTest, FindsNoWordInEmptyLinesAndComments) {
-  EXPECT_EQ(textsOf(""), Texts{});
-  EXPECT_EQ(textsOf(" \t "), Texts{});
-  EXPECT_EQ(textsOf("# reset"), Texts{});
-  EXPECT_EQ(textsOf("   #reset"), Texts{});
-}
-
-TEST(LexerTest, BeginsACommentOnlyAtTheBeginningOfAWord) {
-  EXPECT_EQ(textsOf("expect guard.zones.# 1   # one zone"),
-            (Texts{"expect", "guard.zones.#", "1"}));
-  EXPECT_EQ(textsOf("echo \"# no comment\" a#b #c"), (Texts{"echo", "# no comment", "a#b"}));
-}
-
-TEST(LexerTest, KeepsBlanksInQuotes) {
-  EXPECT_EQ(textsOf("press \"Pin Dock\" in menu"), (Texts{"press", "Pin Dock", "in", "menu"}));
-  EXPECT_EQ(textsOf("name=\"Left one\" main"), (Texts{"name=Left one", "main"}));
-  EXPECT_EQ(textsOf("echo \"\""), (Texts{"echo", ""}));
-}
-
-TEST(LexerTest, ReplacesEscapesInQuotesOnly) {
-  EXPECT_EQ(textsOf(R"("a\"b" "c\\d" "e\nf" "g\th")"), (Texts{"a\"b", "c\\d", "e\nf", "g\th"}));
-  EXPECT_EQ(textsOf(R"(a\nb)"), (Texts{R"(a\nb)"}));
-}
-
-TEST(LexerTest, KeepsNonLatinText) {
-  EXPECT_EQ(textsOf("echo \"显示器 é 🖥\""), (Texts{"echo", "显示器 é 🖥"}));
+TEST(LexerTest, FindsTheWordsOfALine) {
+  const std::vector<std::pair<std::string, Texts>> lines{
+      {"  move\t100   900 ", {"move", "100", "900"}},
+      {"", {}},
+      {" \t ", {}},
+      // A comment begins only at the beginning of a word.
+      {"# reset", {}},
+      {"   #reset", {}},
+      {"expect guard.zones.# 1   # one zone", {"expect", "guard.zones.#", "1"}},
+      {"echo \"# no comment\" a#b #c", {"echo", "# no comment", "a#b"}},
+      {"press \"Pin Dock\" in menu", {"press", "Pin Dock", "in", "menu"}},
+      {"name=\"Left one\" main", {"name=Left one", "main"}},
+      {"echo \"\"", {"echo", ""}},
+      // Escapes are replaced in quotes only.
+      {R"("a\"b" "c\\d" "e\nf" "g\th")", {"a\"b", "c\\d", "e\nf", "g\th"}},
+      {R"(a\nb)", {R"(a\nb)"}},
+      {"echo \"显示器 é 🖥\"", {"echo", "显示器 é 🖥"}}};
+  for (const auto& [line, expected] : lines) {
+    const LexedLine lexed = lexLine(line);
+    EXPECT_FALSE(lexed.problem) << line;
+    Texts texts;
+    for (const Word& word : lexed.words) {
+      EXPECT_FALSE(word.problem) << line;
+      texts.push_back(word.text);
+    }
+    EXPECT_EQ(texts, expected) << line;
+  }
 }
 
 TEST(LexerTest, RecordsTheRangeOfEachWord) {
@@ -71,16 +59,18 @@ TEST(LexerTest, AnUnknownEscapeIsAProblemOfItsWord) {
   EXPECT_FALSE(lexed.words[2].problem);
 }
 
-TEST(LexerTest, AnUnterminatedQuoteIsAProblem) {
+TEST(LexerTest, UnterminatedQuotesAndControlCharactersAreProblems) {
   EXPECT_EQ(lexLine("é \"abc").problem, "unterminated quote at column 3");
   EXPECT_EQ(lexLine(R"("abc\")").problem, "unterminated quote at column 1");
   EXPECT_EQ(lexLine("\"abc\\").problem, "unterminated quote at column 1");
-}
-
-TEST(LexerTest, ControlCharactersAreAProblem) {
   EXPECT_EQ(lexLine(std::string("ab\0c", 4)).problem, "control character at column 3");
   EXPECT_EQ(lexLine("a\x1B[0m").problem, "control character at column 2");
   EXPECT_EQ(lexLine("a\x7F").problem, "control character at column 2");
+}
+
+TEST(LexerTest, CutsAtEveryComma) {
+  EXPECT_EQ(splitAtCommas(""), Texts{});
+  EXPECT_EQ(splitAtCommas(",a,"), (Texts{"", "a", ""}));
 }
 
 }  // namespace

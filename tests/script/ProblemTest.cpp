@@ -48,7 +48,10 @@ TEST(ProblemTest, NamesProblemsWithWords) {
 
 TEST(ProblemTest, NamesProblemsWithNumbers) {
   expectProblems({{"move nan 1", "move: X must be a decimal number, not \"nan\""},
-                  {"move 99999999999 1", "move: X is too large"},
+                  {"move x y", "move: X must be a decimal number, not \"x\""},
+                  {"move 1000000000.5 1", "move: X is too large: \"1000000000.5\""},
+                  {"move 1000000000 y", "move: Y must be a decimal number"},
+                  {"push 1 1 times 99999999999999999999", "push: N must be a whole number"},
                   {"push 1 1 times -1", "push: N must be a whole number from 0"},
                   {"push 1 1 times 1.5", "push: N must be a whole number from 0"},
                   {"push 1 1 times", "push: N is missing"},
@@ -56,7 +59,15 @@ TEST(ProblemTest, NamesProblemsWithNumbers) {
                   {"push 1 1 times 1000000000 every 1000", "push: that exceeds the limit"},
                   {"push 1 1 3", "push: unexpected \"3\""},
                   {"advance -1", "advance: S must be from 0 to 3000000000 seconds"},
+                  {"advance 3000000000.000000001", "advance: S must be from 0 to 3000000000"},
+                  {"advance 3000000000 x", "advance: unexpected \"x\""},
                   {"advance 1e3", "advance: S must be a decimal number of seconds"}});
+}
+
+TEST(ProblemTest, CutsALongWord) {
+  const std::string kept = "a" + std::string(40, 'b') + "显示器显示器";
+  EXPECT_EQ(problemOf("move " + kept + "显示器显示器 1\n"),
+            "move: X must be a decimal number, not \"" + kept + "...\" (move X Y)");
 }
 
 TEST(ProblemTest, NamesProblemsWithDisplays) {
@@ -70,11 +81,15 @@ TEST(ProblemTest, NamesProblemsWithDisplays) {
        {"display attach 1 frame=0,0,1,1 uuid=", "display attach: uuid must not be empty"},
        {"display attach 1 frame=0,0,1,1 bits=9999", "display attach: bits must be"},
        {"display attach 1 frame=0,0,1,1 size=3", "display attach: unexpected \"size=3\""},
+       {"display attach 1 frame=0,0,1,1 uuid=A uuid=B", "display attach: unexpected \"uuid=B\""},
+       {"display attach 4294967296 frame=0,0,1,1", "display attach: N must be a whole number"},
+       {"display detach 4294967295", "display detach: there is no display 4294967295"},
        {"display detach 1", "display detach: there is no display 1"},
        {"display frame 1 0,0,1,1", "display frame: there is no display 1"},
        {"display renumber 1 2", "display renumber: there is no display 1"},
        {"display main 7", "display main: there is no display 7"},
-       {"display done", "display done: no group of changes is open"}});
+       {"display done", "display done: no group of changes is open"},
+       {"display together\ndisplay together", "display together: "}});
 }
 
 TEST(ProblemTest, NamesProblemsWithTheSystem) {
@@ -90,6 +105,7 @@ TEST(ProblemTest, NamesProblemsWithTheSystem) {
                   {"defaults set a string", "defaults set: VALUE is missing"},
                   {"login error", "login error: \"TEXT\"|none is missing"},
                   {"accent 1,2", "accent: B is missing"},
+                  {"accent 1,2,", "accent: B must be a whole number from 0 to 255, not \"\""},
                   {"accent 1,2,3,4", "accent: unexpected \"4\""},
                   {"accent 1,2,256", "accent: B must be a whole number from 0 to 255"},
                   {"wallpaper green", "wallpaper: the wallpaper must be one of"}});

@@ -23,11 +23,6 @@ TEST(WindowScriptTest, AnItemOfAPopUpButtonIsPicked) {
             "pick: there is no item \"Klingon\"");
 }
 
-TEST(WindowScriptTest, AClickOnTheStatusItemOpensItsMenu) {
-  expectHeld(running +
-             "click 1714 12\nexpect menu.open true\nclick 500 500\nexpect menu.open false\n");
-}
-
 TEST(WindowScriptTest, MissingControlsAndSurfacesAreProblems) {
   EXPECT_EQ(problemOf(running + "press \"Nothing\"\n"), "press: there is no control \"Nothing\"");
   EXPECT_EQ(problemOf(running + "press \"Nothing\" in main\n"),

@@ -1,5 +1,12 @@
-// The window of System Settings, its Accessibility page, and the links that open it.
+// The window of System Settings, its Accessibility page with the list of applications, the links
+// that open it, and its language.
+#include <gtest/gtest.h>
+
+#include "Orvane/platform/Quartz.hpp"
+#include "desk/settings/AccessibilityList.hpp"
+#include "desk/settings/SystemLanguage.hpp"
 #include "tests/settings/SystemSettingsFixture.hpp"
+#include "tests/support/MachineFixture.hpp"
 
 namespace orvane::desk {
 namespace {
@@ -18,7 +25,7 @@ class SystemSettingsTest : public SystemSettingsFixture {
   }
   /// Drags the file from there onto the list.
   void dragToList() {
-    press({20, 780});
+    pressAt({20, 780});
     moveTo({30, 780});
     const CGPoint corner = server().topLeftOf(*window());
     const ui::Rect list = settings.listFrame().value_or(ui::Rect{});
@@ -59,7 +66,7 @@ TEST_F(SystemSettingsTest, ItOpensOnTheDisplayWithThePointerAndStaysWhereItIsDra
   EXPECT_LE(CGRectGetMaxX(placed), 2000);
   // By its title bar, beside the buttons.
   const CGPoint corner = server().topLeftOf(*window());
-  press({corner.x + 120, corner.y + 10});
+  pressAt({corner.x + 120, corner.y + 10});
   moveTo({corner.x + 150, corner.y + 30});
   release();
   open();
@@ -185,6 +192,73 @@ TEST_F(SystemSettingsTest, ItOpensWithoutADisplay) {
   EXPECT_FALSE(machine.displays.detach(2));
   open();
   EXPECT_NE(window(), nullptr);
+}
+
+bool isChinese(std::vector<std::string> preferred) {
+  return SystemLanguage::of({std::move(preferred), "en_US"}).isChinese();
+}
+
+TEST(SystemLanguageTest, TheFirstOfTheTwoLanguagesCounts) {
+  EXPECT_TRUE(isChinese({"zh-Hans-CN", "en-US"}));
+  EXPECT_FALSE(isChinese({"en-US", "zh-Hans-CN"}));
+  EXPECT_TRUE(isChinese({"fr-FR", "zh_TW"}));
+}
+
+TEST(SystemLanguageTest, WithoutEitherItIsEnglish) {
+  EXPECT_FALSE(isChinese({}));
+  EXPECT_FALSE(isChinese({"fr-FR", "zhx"}));
+}
+
+class AccessibilityListTest : public MachineFixture {
+ protected:
+  [[nodiscard]] std::string names() const {
+    std::string all;
+    for (const AccessibilityList::Entry& entry : list.entries()) {
+      all += (all.empty() ? "" : ", ") + entry.name + (entry.isAllowed ? " on" : " off");
+    }
+    return all;
+  }
+
+  AccessibilityList list{machine.permission};
+};
+
+TEST_F(AccessibilityListTest, RequestingThePermissionListsOrvane) {
+  EXPECT_EQ(names(), "Remote Help on, Text Macros off");
+  EXPECT_FALSE(AXIsProcessTrusted());
+  EXPECT_EQ(names(), "Orvane off, Remote Help on, Text Macros off");
+}
+
+TEST_F(AccessibilityListTest, ARemovedApplicationLosesThePermissionAndARequestDoesNotRelistIt) {
+  list.add("Orvane");
+  list.remove("Orvane");
+  EXPECT_FALSE(AXIsProcessTrusted());
+  EXPECT_EQ(names(), "Remote Help on, Text Macros off");
+  list.setAllowed("Orvane", true);
+  EXPECT_FALSE(AXIsProcessTrusted()) << "an unlisted application has no switch";
+  list.add("Orvane");
+  EXPECT_TRUE(AXIsProcessTrusted());
+  EXPECT_EQ(names(), "Orvane on, Remote Help on, Text Macros off");
+}
+
+TEST_F(AccessibilityListTest, OtherApplicationsAreIndependent) {
+  list.setAllowed("Text Macros", true);
+  list.remove("Remote Help");
+  EXPECT_EQ(names(), "Text Macros on");
+  EXPECT_FALSE(AXIsProcessTrusted());
+}
+
+TEST_F(AccessibilityListTest, UnlistedApplicationsCanBeAdded) {
+  EXPECT_EQ(list.applicationsNotListed(), (std::vector<std::string>{"Orvane", "Pointer Lens"}));
+  list.add("Pointer Lens");
+  EXPECT_EQ(list.applicationsNotListed(), std::vector<std::string>{"Orvane"});
+}
+
+TEST_F(AccessibilityListTest, TheNameOfAnApplicationIsThatOfItsBundle) {
+  EXPECT_EQ(AccessibilityList::applicationOf("file:///Applications/Orvane.app/"), "Orvane");
+  EXPECT_EQ(AccessibilityList::applicationOf("file:///A/B.app"), "B");
+  EXPECT_EQ(AccessibilityList::applicationOf("file:///A/B.txt"), "");
+  EXPECT_EQ(AccessibilityList::applicationOf("https://example.org/B.app"), "");
+  EXPECT_EQ(AccessibilityList::applicationOf(""), "");
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ class ApplicationFixture : public desk::HandFixture {
   [[nodiscard]] OrvaneModel& model() { return application.model(); }
 
   /// Presses a control as assistive programs do; false if it is missing or disabled.
-  bool press(const std::string& label, const std::string& surface) {
+  bool press(const std::string& label, const std::string& surface = "main") {
     return !hand.press({label, surface});
   }
 

@@ -16,6 +16,7 @@
 
 namespace orvane::desk {
 
+/// The surface is the main panel where none is named.
 class HandFixture : public MachineFixture {
  protected:
   using MachineFixture::MachineFixture;
@@ -35,31 +36,31 @@ class HandFixture : public MachineFixture {
   [[nodiscard]] static std::vector<ui::SemanticsNode> elements(const std::string& surface) {
     return findElements(tree(surface), [](const ui::SemanticsNode&) { return true; });
   }
-  [[nodiscard]] static std::vector<ui::SemanticsNode> withRole(ui::Role role,
-                                                               const std::string& surface) {
+  [[nodiscard]] static std::vector<ui::SemanticsNode> withRole(
+      ui::Role role, const std::string& surface = "main") {
     return findElements(tree(surface),
                         [role](const ui::SemanticsNode& node) { return node.role == role; });
   }
-  [[nodiscard]] static std::optional<ui::SemanticsNode> element(const std::string& label,
-                                                                const std::string& surface) {
+  [[nodiscard]] static std::optional<ui::SemanticsNode> element(
+      const std::string& label, const std::string& surface = "main") {
     return findLabel(tree(surface), label);
   }
-  [[nodiscard]] static std::optional<ui::SemanticsNode> element(ui::Role role,
-                                                                const std::string& label,
-                                                                const std::string& surface) {
+  [[nodiscard]] static std::optional<ui::SemanticsNode> element(
+      ui::Role role, const std::string& label, const std::string& surface = "main") {
     return findElement(tree(surface), [&](const ui::SemanticsNode& node) {
       return node.role == role && node.label == label;
     });
   }
   /// Of the first element with the label; fails without one.
-  [[nodiscard]] static ui::Rect frameOf(const std::string& label, const std::string& surface) {
+  [[nodiscard]] static ui::Rect frameOf(const std::string& label,
+                                        const std::string& surface = "main") {
     const auto found = element(label, surface);
     EXPECT_TRUE(found) << "no \"" << label << "\" in " << surface;
     return found ? found->frame : ui::Rect{-1, -1, -1, -1};
   }
 
   /// One line for each drawing call of the window.
-  [[nodiscard]] static std::vector<std::string> drawnLines(const std::string& surface) {
+  [[nodiscard]] static std::vector<std::string> drawnLines(const std::string& surface = "main") {
     const auto shown = window(surface);
     if (shown == nullptr || shown->content == nullptr) {
       return {};
@@ -71,7 +72,8 @@ class HandFixture : public MachineFixture {
     return canvas.lines();
   }
   /// The number of drawn lines that contain `part`.
-  [[nodiscard]] static std::ptrdiff_t drawn(const std::string& part, const std::string& surface) {
+  [[nodiscard]] static std::ptrdiff_t drawn(const std::string& part,
+                                            const std::string& surface = "main") {
     const std::vector<std::string> lines = drawnLines(surface);
     return std::ranges::count_if(
         lines, [&](const std::string& line) { return line.find(part) != std::string::npos; });
@@ -79,6 +81,10 @@ class HandFixture : public MachineFixture {
 
   /// In global coordinates.
   void moveTo(CGPoint place) { hand.moveTo(place); }
+  void pressAt(CGPoint place) {
+    hand.moveTo(place);
+    hand.pressButton();
+  }
   void release() { hand.releaseButton(); }
   void click(CGPoint place) { hand.click(place); }
   /// Whether the key was handled.

@@ -1,7 +1,11 @@
 // Greedy line breaking over characters of known widths.
 #include "tests/support/SyntheticTextMeasurer.hpp"
 
+#include <algorithm>
+#include <numeric>
+#include <span>
 #include <string_view>
+#include <vector>
 
 #include "Orvane/ui/draw/Truncation.hpp"
 
@@ -36,49 +40,40 @@ std::vector<Character> characters(std::string_view text, const Font& font) {
   return result;
 }
 
-double width(const std::vector<Character>& all, std::size_t from, std::size_t to) {
-  double result = 0;
-  for (std::size_t index = from; index < to; ++index) {
-    result += all[index].width;
-  }
-  return result;
+using Characters = std::span<const Character>;
+
+double width(Characters line) {
+  return std::accumulate(line.begin(), line.end(), 0.0, [](double sum, const Character& character) {
+    return sum + character.width;
+  });
 }
 
-TextLine makeLine(const std::vector<Character>& all, std::size_t from, std::size_t to) {
-  TextLine line;
-  for (std::size_t index = from; index < to; ++index) {
-    line.text += all[index].bytes;
+TextLine makeLine(Characters line) {
+  std::string text;
+  for (const Character& character : line) {
+    text += character.bytes;
   }
-  line.width = width(all, from, to);
-  return line;
+  return {text, width(line)};
 }
 
-// The end of the line that begins at `from`: the last break that fits, or else as many characters
-// as fit, but at least one.
-std::size_t lineEnd(const std::vector<Character>& all, std::size_t from, double maximumWidth) {
+// The length of the first line: up to the last break that fits, or else as many characters as fit,
+// but at least one.
+std::size_t lengthOfLine(Characters all, double maximumWidth) {
   std::size_t breakAt = 0;
   double used = 0;
-  for (std::size_t index = from; index < all.size(); ++index) {
-    const Character& character = all[index];
-    const bool mayBreakBefore = index > from && (character.isBlank() || character.isWide ||
-                                                 all[index - 1].isBlank() || all[index - 1].isWide);
-    if (mayBreakBefore) {
+  for (std::size_t index = 0; index < all.size(); ++index) {
+    const auto mayBreakAt = [](const Character& character) {
+      return character.isBlank() || character.isWide;
+    };
+    if (index > 0 && (mayBreakAt(all[index]) || mayBreakAt(all[index - 1]))) {
       breakAt = index;
     }
-    used += character.width;
-    if (used > maximumWidth && !character.isBlank()) {
-      if (breakAt > from) {
-        return breakAt;
-      }
-      return index > from ? index : from + 1;
+    used += all[index].width;
+    if (used > maximumWidth && !all[index].isBlank()) {
+      return std::max<std::size_t>(breakAt > 0 ? breakAt : index, 1);
     }
   }
   return all.size();
-}
-
-double widthOf(const std::string& text, const Font& font) {
-  const std::vector<Character> all = characters(text, font);
-  return width(all, 0, all.size());
 }
 
 TextLine truncated(const std::string& text, const Font& font, double maximumWidth,
@@ -87,35 +82,33 @@ TextLine truncated(const std::string& text, const Font& font, double maximumWidt
   for (const Character& character : characters(text, font)) {
     places.push_back(places.back() + character.bytes.size());
   }
-  const std::string line =
-      truncatedLine(text, places, mode, maximumWidth,
-                    [&font](const std::string& part) { return widthOf(part, font); });
-  return {line, widthOf(line, font)};
+  const auto widthOf = [&font](const std::string& part) { return width(characters(part, font)); };
+  const std::string line = truncatedLine(text, places, mode, maximumWidth, widthOf);
+  return {line, widthOf(line)};
 }
 
 void breakParagraph(std::string_view text, const Font& font, double maximumWidth, LineLimit limit,
                     TextLayout& layout) {
   const std::vector<Character> all = characters(text, font);
-  std::size_t from = 0;
+  Characters rest = all;
   do {
     const bool isLast = limit.lines > 0 && static_cast<int>(layout.lines.size()) + 1 == limit.lines;
-    if (isLast && width(all, from, all.size()) > maximumWidth) {
-      layout.lines.push_back(
-          truncated(makeLine(all, from, all.size()).text, font, maximumWidth, limit.truncation));
+    if (isLast && width(rest) > maximumWidth) {
+      layout.lines.push_back(truncated(makeLine(rest).text, font, maximumWidth, limit.truncation));
       layout.isTruncated = true;
       return;
     }
-    const std::size_t end = lineEnd(all, from, maximumWidth);
-    std::size_t trimmed = end;
-    while (end < all.size() && trimmed > from && all[trimmed - 1].isBlank()) {
-      --trimmed;
+    const std::size_t length = lengthOfLine(rest, maximumWidth);
+    Characters line = rest.first(length);
+    rest = rest.subspan(length);
+    while (!rest.empty() && !line.empty() && line.back().isBlank()) {
+      line = line.first(line.size() - 1);
     }
-    layout.lines.push_back(makeLine(all, from, trimmed));
-    from = end;
-    while (from < all.size() && all[from].isBlank()) {
-      ++from;
+    layout.lines.push_back(makeLine(line));
+    while (!rest.empty() && rest.front().isBlank()) {
+      rest = rest.subspan(1);
     }
-  } while (from < all.size());
+  } while (!rest.empty());
 }
 
 }  // namespace

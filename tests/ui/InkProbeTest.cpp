@@ -1,4 +1,5 @@
-// The fingerprint by which a changed drawing is repainted, and the area that is.
+// The fingerprint by which a changed drawing is repainted, the area that is, and the collecting of
+// damaged areas.
 #include <set>
 #include <string>
 #include <vector>
@@ -6,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "Orvane/ui/draw/InkProbe.hpp"
+#include "Orvane/ui/host/Damage.hpp"
 
 namespace orvane::ui {
 namespace {
@@ -98,6 +100,25 @@ TEST(InkProbeTest, InkExceedsTheShapeByLinesShadowsAndGlyphs) {
   EXPECT_EQ(probe.ink(), (Rect{3, 0, 22, 22}));
   probe.text("line", Font::system(8), color, place);
   EXPECT_EQ(probe.ink(), (Rect{-2, -2, 44, 24}));
+}
+
+TEST(DamageTest, OverlappingAreasAreJoinedTransitively) {
+  Damage damage;
+  damage.add({0, 0, 10, 10});
+  damage.add({30, 0, 10, 10});
+  damage.add({100, 0, 10, 10});
+  // Overlaps only the first; the two together overlap the second.
+  damage.add({5, 5, 30, 30});
+  EXPECT_EQ(damage.take(), (std::vector<Rect>{{100, 0, 10, 10}, {0, 0, 40, 35}}));
+}
+
+TEST(DamageTest, IsTakenOnceAndHasNoEmptyAreas) {
+  Damage damage;
+  damage.add({5, 5, 0, 10});
+  EXPECT_TRUE(damage.take().empty());
+  damage.add({5, 5, 1, 1});
+  EXPECT_EQ(damage.take().size(), 1U);
+  EXPECT_TRUE(damage.take().empty());
 }
 
 }  // namespace

@@ -9,7 +9,7 @@
 #include "macos/appkit/Strings.hpp"
 #include "macos/canvas/CoreTextMeasurer.hpp"
 #include "macos/hosting/HostingContainer.hpp"
-#include "tests/support/TextBoxes.hpp"
+#include "tests/panels/TextRun.hpp"
 
 namespace {
 

@@ -69,22 +69,6 @@ TEST_F(DeskSessionTest, KnowsWhenThePictureNextChanges) {
   EXPECT_EQ(session.nanosecondsToNextChange(), second);
 }
 
-TEST_F(DeskSessionTest, KeysGoToTheOpenMenuAndToTheKeyWindow) {
-  EXPECT_FALSE(session.hand().key({.key = ui::Key::down})) << "there is no window";
-  desk::WindowServer& server = desk::WindowServer::current();
-  ASSERT_TRUE(server.menus.openStatusMenu(0));
-  for (int time = 0; time < 3; ++time) {
-    EXPECT_TRUE(session.hand().key({.key = ui::Key::down}));
-  }
-  EXPECT_TRUE(session.hand().key({.key = ui::Key::space}));
-  EXPECT_TRUE(session.application().model().isGuardRunning());
-  EXPECT_TRUE(session.hand().key({.key = ui::Key::escape}));
-  EXPECT_FALSE(server.menus.isOpen());
-  EXPECT_FALSE(session.hand().key({.key = ui::Key::escape})) << "nothing handles it any more";
-  session.application().reopen();
-  EXPECT_TRUE(session.hand().key({.key = ui::Key::tab}));
-}
-
 TEST_F(DeskSessionTest, ExplainsHowToReleaseTheMouse) {
   EXPECT_NE(session.hardwareContent(true).hint.find("Escape"), std::string::npos);
   EXPECT_EQ(session.hardwareContent(false).hint.find("Escape"), std::string::npos);

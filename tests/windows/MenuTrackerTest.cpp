@@ -67,19 +67,6 @@ TEST_F(MenuTrackerTest, ItOpensOnTheDisplayThatWasClicked) {
   EXPECT_LE(CGRectGetMaxX(server().menus.frame()), 2000);
 }
 
-TEST_F(MenuTrackerTest, TheWillOpenCallbackMayFillTheMenu) {
-  int openings = 0;
-  menu.onWillOpen([&] {
-    ++openings;
-    clear();
-    add(row("Fresh", [] {}));
-  });
-  clickItem();
-  EXPECT_EQ(openings, 1);
-  ASSERT_EQ(server().menus.rows().size(), 1U);
-  EXPECT_EQ(Surfaces(server()).controls("menu").front().node.label, "Fresh");
-}
-
 TEST_F(MenuTrackerTest, ItemsMayBeReplacedByTheActionOfOneOfThem) {
   int runs = 0;
   std::function<void()> action = [&] {

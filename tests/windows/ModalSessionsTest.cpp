@@ -1,6 +1,5 @@
 // Modal sessions: what they block, and when they end.
 #include "Orvane/platform/appkit/MainQueue.hpp"
-#include "Orvane/platform/appkit/Timer.hpp"
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {
@@ -22,36 +21,6 @@ class ModalSessionsTest : public WindowFixture {
 
   std::vector<int> responses;
 };
-
-TEST_F(ModalSessionsTest, TheWindowIsShownAndKey) {
-  Application::activateIgnoringOtherApps();
-  Window panel = makeWindow({0, 0});
-  run(panel);
-  EXPECT_TRUE(panel.isVisible());
-  EXPECT_TRUE(panel.isKeyWindow());
-  EXPECT_EQ(machine.runLoop.mode(), RunLoop::Mode::modalPanel);
-}
-
-TEST_F(ModalSessionsTest, TheMainQueueIsHeldWhileTimersOfTheCommonModesGoOn) {
-  Window panel = makeWindow({0, 0});
-  run(panel);
-  bool taskRan = false;
-  MainQueue::async([&] { taskRan = true; });
-  int commonTicks = 0;
-  int standardTicks = 0;
-  const auto common =
-      appkit::Timer::repeating(1, appkit::RunLoopMode::common, [&] { ++commonTicks; });
-  const auto standard =
-      appkit::Timer::repeating(1, appkit::RunLoopMode::standard, [&] { ++standardTicks; });
-  machine.advance(3);
-  EXPECT_FALSE(taskRan);
-  EXPECT_EQ(commonTicks, 3);
-  EXPECT_EQ(standardTicks, 0);
-  Application::stopModal(7);
-  machine.runDue();
-  EXPECT_TRUE(taskRan);
-  EXPECT_EQ(standardTicks, 1);
-}
 
 TEST_F(ModalSessionsTest, TheSessionEndsWhenTheHandlerThatStopsItHasReturned) {
   Window panel = makeWindow({0, 0});

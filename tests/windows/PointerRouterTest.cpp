@@ -1,4 +1,4 @@
-// Routing of pointer movements, clicks and drags.
+// Routing of pointer movements, clicks and drags, and the tooltips of a pointer at rest.
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {
@@ -69,12 +69,12 @@ TEST_F(PointerRouterTest, ABackgroundMovesItsWindowAndAControlDoesNot) {
   window.setContentView(
       hosting(ui::HStack(0, {ui::Rectangle(), wideButton("Button", [&] { ++clicks; })})));
   window.orderFrontRegardless();
-  press({50, 750});
+  pressAt({50, 750});
   moveTo({80, 730});
   release();
   EXPECT_EQ(window.frame().origin.x, 30);
   EXPECT_EQ(window.frame().origin.y, 20);
-  press({190, 730});
+  pressAt({190, 730});
   moveTo({195, 735});
   release();
   EXPECT_EQ(window.frame().origin.x, 30);
@@ -84,14 +84,14 @@ TEST_F(PointerRouterTest, ABackgroundMovesItsWindowAndAControlDoesNot) {
 TEST_F(PointerRouterTest, AWindowThatIsNotMovableStaysAndATitleBarAlwaysMoves) {
   Window fixed = makeWindow({0, 0});
   fixed.orderFrontRegardless();
-  press({50, 750});
+  pressAt({50, 750});
   moveTo({80, 750});
   release();
   EXPECT_EQ(fixed.frame().origin.x, 0);
   Window titled(appkit::WindowKind::window, CGRectMake(300, 0, 200, 100),
                 appkit::StyleMask::titled);
   titled.orderFrontRegardless();
-  press({400, 680});
+  pressAt({400, 680});
   moveTo({410, 680});
   release();
   EXPECT_EQ(titled.frame().origin.x, 310);
@@ -103,7 +103,7 @@ TEST_F(PointerRouterTest, TheCloseButtonClosesWhenItIsReleasedThere) {
                 appkit::StyleMask::titled | appkit::StyleMask::closable);
   window.onWillClose([&] { ++closings; });
   window.orderFrontRegardless();
-  press({314, 686});
+  pressAt({314, 686});
   moveTo({400, 750});
   release();
   EXPECT_TRUE(window.isVisible());
@@ -127,7 +127,7 @@ TEST_F(PointerRouterTest, MovementsWithTheButtonDownAreNoMouseMovedEvents) {
   created->sourceModes = RunLoop::commonModes;
   moveTo({500, 500});
   EXPECT_EQ(moves, 1);
-  press({500, 500});
+  pressAt({500, 500});
   const int before = moves;
   moveTo({510, 500});
   EXPECT_EQ(moves, before);
@@ -157,6 +157,44 @@ TEST_F(PointerRouterTest, AnIdleWindowHasNoTimerAndDrawsNothing) {
   const long long changes = server().updates.changeCount();
   machine.advance(60);
   EXPECT_EQ(server().updates.changeCount(), changes);
+}
+
+class TooltipsTest : public WindowFixture {
+ protected:
+  TooltipsTest() : window(makeWindow({0, 0})) {
+    window.setContentView(hosting(ui::Rectangle().tooltip("What it does")));
+    window.orderFrontRegardless();
+  }
+  [[nodiscard]] bool isShown() { return server().tooltips.shown().has_value(); }
+
+  appkit::Window window;
+};
+
+TEST_F(TooltipsTest, ATooltipAppearsAfterASecondOfRest) {
+  moveTo({50, 750});
+  machine.advance(0.9);
+  moveTo({60, 750});
+  machine.advance(0.9);
+  EXPECT_FALSE(isShown());
+  machine.advance(0.1);
+  ASSERT_TRUE(isShown());
+  EXPECT_EQ(server().tooltips.shown()->text, "What it does");
+  EXPECT_EQ(machine.runLoop.timerCount(), 0U);
+}
+
+TEST_F(TooltipsTest, ItDisappearsWhenThePointerLeavesTheViewOrClicks) {
+  moveTo({50, 750});
+  machine.advance(1);
+  moveTo({70, 750});
+  EXPECT_TRUE(isShown());
+  moveTo({700, 400});
+  EXPECT_FALSE(isShown());
+  EXPECT_EQ(machine.runLoop.timerCount(), 0U);
+  moveTo({50, 750});
+  machine.advance(1);
+  EXPECT_TRUE(isShown());
+  click({50, 750});
+  EXPECT_FALSE(isShown());
 }
 
 }  // namespace

@@ -58,11 +58,6 @@ class WindowFixture : public HandFixture {
     return names;
   }
 
-  void press(CGPoint place) {
-    hand.moveTo(place);
-    hand.pressButton();
-  }
-
  private:
   struct PlainStyle {
     ui::View operator()(const ui::ButtonConfiguration& configuration,

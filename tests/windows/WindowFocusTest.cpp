@@ -77,19 +77,6 @@ TEST_F(WindowFocusTest, APanelHidesWhileTheApplicationIsInactiveUnlessConfigured
   EXPECT_TRUE(hiding.isVisible());
 }
 
-TEST_F(WindowFocusTest, AHiddenApplicationShowsNothingUntilItIsActiveAgain) {
-  appkit::Application::activateIgnoringOtherApps();
-  appkit::Window window = makeWindow({0, 0});
-  window.makeKeyAndOrderFront();
-  appkit::Application::hide();
-  EXPECT_FALSE(server().focus.isActive());
-  EXPECT_FALSE(window.isVisible());
-  EXPECT_FALSE(window.isKeyWindow());
-  appkit::Application::activateIgnoringOtherApps();
-  EXPECT_TRUE(window.isVisible());
-  EXPECT_TRUE(window.isKeyWindow());
-}
-
 TEST_F(WindowFocusTest, ANonactivatingPanelIsClickedWithoutActivatingItsApplication) {
   click({900, 400});
   Window panel =
@@ -99,21 +86,6 @@ TEST_F(WindowFocusTest, ANonactivatingPanelIsClickedWithoutActivatingItsApplicat
   click({50, 750});
   EXPECT_FALSE(server().focus.isActive());
   EXPECT_TRUE(panel.isKeyWindow());
-}
-
-TEST_F(WindowFocusTest, AMiniaturisedWindowAndItsChildrenAreNeitherVisibleNorKey) {
-  Window window = makeWindow({0, 0}, "main", WindowKind::window, appkit::StyleMask::miniaturizable);
-  Window child = makeWindow({0, 0}, "child");
-  window.makeKeyAndOrderFront();
-  window.addChildWindowAbove(child);
-  window.miniaturize();
-  EXPECT_TRUE(window.isMiniaturized());
-  EXPECT_FALSE(window.isVisible());
-  EXPECT_FALSE(child.isVisible());
-  EXPECT_FALSE(Application::keyWindow().has_value());
-  window.deminiaturize();
-  EXPECT_TRUE(window.isKeyWindow());
-  EXPECT_TRUE(child.isVisible());
 }
 
 TEST_F(WindowFocusTest, AWindowWithoutThatStyleIsNotMiniaturised) {

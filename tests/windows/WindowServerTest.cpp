@@ -1,4 +1,4 @@
-// Placing, moving and closing windows, and the end of a process or a display.
+// Placing, ordering, moving and closing windows, and the end of a process or a display.
 #include "tests/windows/WindowFixture.hpp"
 
 namespace orvane::desk {
@@ -116,6 +116,52 @@ TEST_F(WindowServerTest, TerminatingNotifiesTheDelegateOnceAndThenEndsTheProcess
   machine.runDue();
   EXPECT_EQ(calls, 1);
   EXPECT_FALSE(machine.process.isRunning());
+}
+
+using WindowListTest = WindowFixture;
+
+TEST_F(WindowListTest, AHigherLevelStaysAboveALowerOne) {
+  auto high = makeWindow({0, 0}, "high");
+  auto low = makeWindow({0, 0}, "low");
+  high.setLevel(appkit::WindowLevel::status);
+  high.orderFrontRegardless();
+  low.orderFrontRegardless();
+  EXPECT_EQ(order(), "low high");
+  high.setLevel(appkit::WindowLevel::normal);
+  EXPECT_EQ(order(), "high low");
+}
+
+TEST_F(WindowListTest, AChildStaysAboveItsParentAndComesToTheFrontWithIt) {
+  auto parent = makeWindow({0, 0}, "parent");
+  auto child = makeWindow({0, 0}, "child");
+  auto other = makeWindow({0, 0}, "other");
+  parent.orderFrontRegardless();
+  parent.addChildWindowAbove(child);
+  EXPECT_TRUE(child.isVisible());
+  other.orderFrontRegardless();
+  EXPECT_EQ(order(), "parent child other");
+  parent.orderFrontRegardless();
+  EXPECT_EQ(order(), "other parent child");
+}
+
+TEST_F(WindowListTest, AChildOfALowerLevelIsAboveItsParentNevertheless) {
+  auto parent = makeWindow({0, 0}, "parent");
+  auto child = makeWindow({0, 0}, "child");
+  parent.setLevel(appkit::WindowLevel::status);
+  parent.orderFrontRegardless();
+  parent.addChildWindowAbove(child);
+  EXPECT_EQ(order(), "parent child");
+}
+
+TEST_F(WindowListTest, WindowsOfAnInactiveApplicationStayBehindOthersUnlessForced) {
+  auto system = makeWindow({0, 0}, "system");
+  system.implementation()->owner = WindowOwner::system;
+  auto own = makeWindow({0, 0}, "own");
+  system.orderFrontRegardless();
+  own.makeKeyAndOrderFront();
+  EXPECT_EQ(order(), "own system");
+  own.orderFrontRegardless();
+  EXPECT_EQ(order(), "system own");
 }
 
 }  // namespace

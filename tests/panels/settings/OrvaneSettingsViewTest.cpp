@@ -154,6 +154,7 @@ TEST_F(OrvaneSettingsViewTest, TheHeaderReportsWhyTheLoginItemFails) {
   model().setLaunchAtLoginEnabled(true);
   machine.runDue();
   EXPECT_TRUE(element(english, settingsPanel));
+  EXPECT_EQ(drawn("symbol exclamationmark.triangle.fill ", settingsPanel), 1);
   EXPECT_FALSE(element("Login Items…", settingsPanel)) << "it would not help";
   model().setAppLanguage(OrvaneLanguage::chinese);
   machine.runDue();
