@@ -224,10 +224,10 @@ TEST_F(OrvanePermissionGuideWindowControllerTest, ItsBackgroundMovesItAndBothBut
 }
 
 TEST_F(OrvanePermissionGuideWindowControllerTest, ClosedBeforeItPollsAgainItStillNoticesTheGrant) {
-  show("a");
+  show('a');
   press("Done", "guide");
   EXPECT_EQ(granted, "") << "closed without the permission";
-  show("b");
+  show('b');
   grant();
   press("Done", "guide");
   EXPECT_EQ(granted, "b");
