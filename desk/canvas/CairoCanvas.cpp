@@ -262,13 +262,13 @@ void CairoCanvas::paintMask(const Mask& mask, int anchorX, int anchorY, const ui
   const int x = anchorX + mask.x;
   const int y = anchorY + mask.y;
   if (DeepSurface* const deep = deepTarget()) {
-    const Rows<DeepColor> colors{{DeepSurface::colorOf(color)}, 0, true};
-    if (layers_.back().clips.back().shapes.empty()) {
-      deep->paint(mask.surface.get(), x, y, clipExtents(), colors);
+    const RowColors colors{{DeepSurface::colorOf(color)}};
+    if (layers_.back().clips.back().empty()) {
+      deep->paintMask(mask.surface.get(), x, y, clipExtents(), colors);
     } else {
       const SurfacePointer cut = coverageOf(mask.surface.get(), 0, 0);
       cutToClip(cut.get(), x, y);
-      deep->paint(cut.get(), x, y, clipExtents(), colors);
+      deep->paintMask(cut.get(), x, y, clipExtents(), colors);
     }
     return;
   }

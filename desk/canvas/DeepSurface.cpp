@@ -94,11 +94,9 @@ void blendCovered(std::uint16_t* pixels, std::size_t count, const DeepColor& col
   }
 }
 
-template <typename Value>
-Value* rowOf(cairo_surface_t* surface, int y) {
-  return reinterpret_cast<Value*>(cairo_image_surface_get_data(surface) +
-                                  static_cast<std::ptrdiff_t>(y) *
-                                      cairo_image_surface_get_stride(surface));
+std::uint8_t* rowOf(cairo_surface_t* surface, int y) {
+  return cairo_image_surface_get_data(surface) +
+         static_cast<std::ptrdiff_t>(y) * cairo_image_surface_get_stride(surface);
 }
 
 PixelRect boundsOf(cairo_surface_t* surface, int x, int y) {
@@ -133,49 +131,65 @@ void DeepSurface::clear(const PixelRect& area) {
   }
 }
 
-void DeepSurface::paint(const CoverageRuns& runs, int x, int y, const PixelRect& clip,
-                        const Rows<DeepColor>& colors) {
-  runs.visit(x, y, clip.cutTo(bounds()), [&](int row, int left, int right, std::uint8_t coverage) {
-    blend(pixels_.data() + indexOf(left, row), static_cast<std::size_t>(right - left),
-          covered(colors.at(row), coverage));
-  });
+template <typename PaintRow>
+void DeepSurface::paintRows(cairo_surface_t* surface, int x, int y, const PixelRect& clip,
+                            int pixelBytes, const PaintRow& paintRow) {
+  const PixelRect area = clip.cutTo(bounds()).cutTo(boundsOf(surface, x, y));
+  if (area.isEmpty()) {
+    return;
+  }
+  cairo_surface_flush(surface);
+  for (int row = area.top; row < area.bottom; ++row) {
+    const std::uint8_t* const bytes = rowOf(surface, row - y) + (area.left - x) * pixelBytes;
+    paintRow(row, pixels_.data() + indexOf(area.left, row), bytes,
+             static_cast<std::size_t>(area.right - area.left));
+  }
 }
 
-void DeepSurface::paint(cairo_surface_t* mask, int x, int y, const PixelRect& clip,
-                        const Rows<DeepColor>& colors) {
-  const PixelRect area = clip.cutTo(bounds()).cutTo(boundsOf(mask, x, y));
-  cairo_surface_flush(mask);
-  for (int row = area.top; row < area.bottom && area.left < area.right; ++row) {
-    const DeepColor& color = colors.at(row);
-    const std::uint8_t* const coverage = rowOf<std::uint8_t>(mask, row - y) - x;
-    blendCovered(pixels_.data() + indexOf(area.left, row),
-                 static_cast<std::size_t>(area.right - area.left), color, coverage + area.left);
-  }
+void DeepSurface::paintShape(cairo_surface_t* mask, int x, int y, const PixelRect& clip,
+                             const RowColors& colors) {
+  paintRows(mask, x, y, clip, 1,
+            [&](int row, std::uint16_t* pixels, const std::uint8_t* coverage, std::size_t count) {
+              for (std::size_t start = 0; start < count;) {
+                const std::uint8_t value = coverage[start];
+                std::size_t end = start + 1;
+                while (end < count && coverage[end] == value) {
+                  ++end;
+                }
+                if (value != 0) {
+                  blend(pixels + parts * start, end - start, covered(colors.at(row), value));
+                }
+                start = end;
+              }
+            });
+}
+
+void DeepSurface::paintMask(cairo_surface_t* mask, int x, int y, const PixelRect& clip,
+                            const RowColors& colors) {
+  paintRows(mask, x, y, clip, 1,
+            [&](int row, std::uint16_t* pixels, const std::uint8_t* coverage, std::size_t count) {
+              blendCovered(pixels, count, colors.at(row), coverage);
+            });
 }
 
 void DeepSurface::paintPicture(cairo_surface_t* picture, int x, int y, const PixelRect& clip,
                                double opacity) {
-  const PixelRect area = clip.cutTo(bounds()).cutTo(boundsOf(picture, x, y));
-  if (area.isEmpty()) {
-    return;
-  }
   const auto weight =
       static_cast<std::uint16_t>(std::lround(std::clamp(opacity, 0.0, 1.0) * 0xFFFF));
-  const auto count = static_cast<std::size_t>(area.right - area.left) * parts;
-  std::vector<std::uint16_t> add(count);
-  std::vector<std::uint16_t> rests(count);
-  cairo_surface_flush(picture);
-  for (int row = area.top; row < area.bottom; ++row) {
-    const std::uint8_t* const bytes =
-        rowOf<std::uint8_t>(picture, row - y) + static_cast<std::size_t>(area.left - x) * parts;
-    for (std::size_t index = 0; index < count; ++index) {
-      add[index] = productOf(static_cast<std::uint16_t>(bytes[index] << 8U), weight);
-    }
-    for (std::size_t index = 0; index < count; index += parts) {
-      std::fill_n(rests.data() + index, parts, restOf(add[index + 3]));
-    }
-    over(pixels_.data() + indexOf(area.left, row), add.data(), rests.data(), count);
-  }
+  std::vector<std::uint16_t> add;
+  std::vector<std::uint16_t> rests;
+  paintRows(picture, x, y, clip, parts,
+            [&](int, std::uint16_t* pixels, const std::uint8_t* bytes, std::size_t count) {
+              add.resize(parts * count);
+              rests.resize(parts * count);
+              for (std::size_t index = 0; index < add.size(); ++index) {
+                add[index] = productOf(static_cast<std::uint16_t>(bytes[index] << 8U), weight);
+              }
+              for (std::size_t index = 0; index < add.size(); index += parts) {
+                std::fill_n(rests.data() + index, parts, restOf(add[index + 3]));
+              }
+              over(pixels, add.data(), rests.data(), add.size());
+            });
 }
 
 void DeepSurface::paintOver(cairo_surface_t* target, int x, int y) const {
@@ -191,8 +205,7 @@ void DeepSurface::paintOver(cairo_surface_t* target, int x, int y) const {
     for (std::size_t index = 0; index < count; index += parts) {
       std::fill_n(rests.data() + index, parts, restOf(own[index + 3]));
     }
-    std::uint8_t* const bytes =
-        rowOf<std::uint8_t>(target, row) + static_cast<std::size_t>(area.left) * parts;
+    std::uint8_t* const bytes = rowOf(target, row) + static_cast<std::size_t>(area.left) * parts;
     for (std::size_t index = 0; index < count; ++index) {
       const auto below = static_cast<std::uint16_t>(bytes[index] << 8U);
       const auto sum = static_cast<std::uint16_t>(own[index] + productOf(below, rests[index]));
