@@ -98,29 +98,32 @@ void setLanguages(Machine& machine, const Languages& languages) {
   machine.locale.currentIdentifier = languages.current.value_or(machine.locale.currentIdentifier);
 }
 
+/// Sets a part of the appearance.
+template <typename Value, typename Member>
+auto setsLook(Member Appearance::*member) {
+  return [member](Machine& machine, Value value) { machine.appearance.*member = value; };
+}
+
 void addLooks(CommandTable& table) {
+  using Accent = Appearance::Accent;
   table.add("appearance", takes(either("light|dark", "light", "dark")),
-            [](Machine& machine, bool isDark) { machine.appearance.isDark = isDark; });
-  table.add(
-      "accent", takes(Parameter<Appearance::Accent>{"R,G,B", readAccent}),
-      [](Machine& machine, Appearance::Accent accent) { machine.appearance.accent = accent; });
-  table.add(
-      "wallpaper",
-      takes(choice<Wallpaper>("white|black|busy|default",
-                              {{"default", Wallpaper::standard},
-                               {"white", Wallpaper::white},
-                               {"black", Wallpaper::black},
-                               {"busy", Wallpaper::busy}},
-                              "the wallpaper")),
-      [](Machine& machine, Wallpaper wallpaper) { machine.appearance.wallpaper = wallpaper; });
+            setsLook<bool>(&Appearance::isDark));
+  table.add("accent", takes(Parameter<Accent>{"R,G,B", readAccent}),
+            setsLook<Accent>(&Appearance::accent));
+  table.add("wallpaper",
+            takes(choice<Wallpaper>("white|black|busy|default",
+                                    {{"default", Wallpaper::standard},
+                                     {"white", Wallpaper::white},
+                                     {"black", Wallpaper::black},
+                                     {"busy", Wallpaper::busy}},
+                                    "the wallpaper")),
+            setsLook<Wallpaper>(&Appearance::wallpaper));
   table.add("motion", takes(either("reduced|full", "full", "reduced")),
-            [](Machine& machine, bool reduces) { machine.appearance.reducesMotion = reduces; });
-  table.add(
-      "transparency", takes(either("reduced|full", "full", "reduced")),
-      [](Machine& machine, bool reduces) { machine.appearance.reducesTransparency = reduces; });
-  table.add(
-      "contrast", takes(either("increased|normal", "normal", "increased")),
-      [](Machine& machine, bool increases) { machine.appearance.increasesContrast = increases; });
+            setsLook<bool>(&Appearance::reducesMotion));
+  table.add("transparency", takes(either("reduced|full", "full", "reduced")),
+            setsLook<bool>(&Appearance::reducesTransparency));
+  table.add("contrast", takes(either("increased|normal", "normal", "increased")),
+            setsLook<bool>(&Appearance::increasesContrast));
 }
 
 }  // namespace
