@@ -1,11 +1,13 @@
 // Expectations of scripts: a path into the JSON of an inspectable, and the expected value.
 #include "desk/script/Expectation.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
 #include <nlohmann/json.hpp>
 
+#include "desk/script/Arguments.hpp"
 #include "desk/script/Decimal.hpp"
 #include "desk/script/JsonText.hpp"
 
@@ -48,18 +50,9 @@ std::optional<Json> parseJson(std::string_view written) {
 }
 
 std::optional<std::vector<std::string>> parsePath(std::string_view path) {
-  std::vector<std::string> parts;
-  while (true) {
-    const std::size_t dot = path.find('.');
-    parts.emplace_back(path.substr(0, dot));
-    if (parts.back().empty()) {
-      return std::nullopt;
-    }
-    if (dot == std::string_view::npos) {
-      return parts;
-    }
-    path.remove_prefix(dot + 1);
-  }
+  std::vector<std::string> parts = split(path, '.');
+  const bool isPath = !parts.empty() && std::ranges::find(parts, "") == parts.end();
+  return isPath ? std::optional(std::move(parts)) : std::nullopt;
 }
 
 std::optional<Json> valueAt(const Json& root, const std::vector<std::string>& path) {

@@ -56,7 +56,7 @@ PropertyValue readPropertyValue(ScriptContext& /*context*/, Arguments& arguments
 }
 
 Appearance::Accent readAccent(ScriptContext& /*context*/, Arguments& arguments) {
-  const std::vector<std::string> parts = splitAtCommas(arguments.text("R,G,B"));
+  const std::vector<std::string> parts = split(arguments.text("R,G,B"), ',');
   std::vector<Word> words(parts.size());
   std::ranges::transform(parts, words.begin(), [](const std::string& part) {
     return Word{.text = part, .begin = 0, .end = 0, .problem = {}};
@@ -93,7 +93,7 @@ void disableTap(Machine& machine, Disabling how) {
 
 void setLanguages(Machine& machine, const Languages& languages) {
   if (languages.preferred) {
-    machine.locale.preferredLanguages = splitAtCommas(*languages.preferred);
+    machine.locale.preferredLanguages = split(*languages.preferred, ',');
   }
   machine.locale.currentIdentifier = languages.current.value_or(machine.locale.currentIdentifier);
 }

@@ -85,9 +85,9 @@ TEST(ArgumentsTest, CutsALongWordInAMessage) {
 }
 
 TEST(ArgumentsTest, CutsAtEveryComma) {
-  EXPECT_EQ(splitAtCommas(""), std::vector<std::string>{});
-  EXPECT_EQ(splitAtCommas("a"), std::vector<std::string>{"a"});
-  EXPECT_EQ(splitAtCommas(",a,"), (std::vector<std::string>{"", "a", ""}));
+  EXPECT_EQ(split("", ','), std::vector<std::string>{});
+  EXPECT_EQ(split("a", ','), std::vector<std::string>{"a"});
+  EXPECT_EQ(split(",a,", ','), (std::vector<std::string>{"", "a", ""}));
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ TEST(CommandTest, TheAppearanceIsSet) {
   const Appearance& appearance = bench.session.machine().appearance;
   for (const char* const line : {"appearance dark", "accent 1,20,255", "wallpaper busy",
                                  "motion reduced", "transparency reduced", "contrast increased"}) {
-    EXPECT_EQ(bench.interpreter.run(line), std::nullopt);
+    EXPECT_EQ(bench.run(line), std::nullopt);
   }
   EXPECT_TRUE(appearance.isDark);
   EXPECT_EQ(appearance.accent, (Appearance::Accent{1, 20, 255}));
@@ -22,7 +22,7 @@ TEST(CommandTest, TheAppearanceIsSet) {
   EXPECT_TRUE(appearance.increasesContrast);
   for (const char* const line : {"appearance light", "wallpaper default", "motion full",
                                  "transparency full", "contrast normal"}) {
-    EXPECT_EQ(bench.interpreter.run(line), std::nullopt);
+    EXPECT_EQ(bench.run(line), std::nullopt);
   }
   EXPECT_FALSE(appearance.isDark);
   EXPECT_EQ(appearance.wallpaper, Appearance::Wallpaper::standard);

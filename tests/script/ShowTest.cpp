@@ -53,7 +53,7 @@ TEST(ShowTest, PrintsAnnouncementsExceptEmptyAndMalformedOnes) {
   appkit::Accessibility::announce("not \xC3 UTF-8");
   appkit::Accessibility::announce("\xED\xA0\x80");
   appkit::Accessibility::announce("Bureau \xC3\xA9");
-  EXPECT_EQ(bench.interpreter.run("show announcements"), std::nullopt);
+  EXPECT_EQ(bench.run("show announcements"), std::nullopt);
   EXPECT_EQ(bench.output.str(), "[\"first\",\"Bureau \xC3\xA9\"]\n");
 }
 
