@@ -19,7 +19,6 @@ namespace {
 
 using desk::Machine;
 using desk::script::Arguments;
-using desk::script::displayNumber;
 using desk::script::Parameter;
 using desk::script::ScriptContext;
 using desk::script::takes;
@@ -30,21 +29,6 @@ constexpr double pushLength = 24;
 
 CGPoint middleOf(const CGRect& area) {
   return {CGRectGetMidX(area), CGRectGetMidY(area)};
-}
-
-/// In global coordinates; none when there is no such display.
-std::optional<CGRect> screenOf(const Machine& machine, std::uint32_t number) {
-  const auto& displays = machine.displays.all();
-  const auto found = std::ranges::find(displays, number, &desk::Display::number);
-  return found == displays.end()
-             ? std::nullopt
-             : std::optional(
-                   machine.displays
-                       .globalFrames()[static_cast<std::size_t>(found - displays.begin())]);
-}
-
-std::string noDisplay(std::uint32_t number) {
-  return "there is no display " + std::to_string(number);
 }
 
 /// The part of an area on the screen that contains its middle.
@@ -58,6 +42,21 @@ CGRect clippedToScreen(const desk::Displays& displays, const CGRect& area) {
   const double top = std::max(area.origin.y, screen.origin.y);
   return CGRectMake(left, top, std::min(CGRectGetMaxX(area), CGRectGetMaxX(screen)) - left,
                     std::min(CGRectGetMaxY(area), CGRectGetMaxY(screen)) - top);
+}
+
+/// The number of a display; its frame in global coordinates.
+Parameter<CGRect> screen() {
+  return {"N", [](ScriptContext& context, Arguments& arguments) {
+            const std::uint32_t number = arguments.displayNumber("N");
+            const desk::Displays& displays = context.machine().displays;
+            const auto& all = displays.all();
+            const auto found = std::ranges::find(all, number, &desk::Display::number);
+            if (found == all.end()) {
+              arguments.report("there is no display " + std::to_string(number));
+              return CGRect{};
+            }
+            return displays.globalFrames()[static_cast<std::size_t>(found - all.begin())];
+          }};
 }
 
 /// "HH:MM", in seconds since midnight.
@@ -92,21 +91,17 @@ void TourStage::addCommands(desk::script::CommandTable& table) {
                                   static_cast<double>(desk::Clock::nanosecondsPerSecond));
   });
   table.add("walk", takes(desk::script::point()), bound(&TourStage::walk));
-  table.add("rest", takes(displayNumber("N")), bound(&TourStage::rest));
-  table.add("touch", takes(displayNumber("N"), times(), desk::script::coordinate("S")),
+  table.add("rest", takes(screen()), bound(&TourStage::rest));
+  table.add("touch", takes(screen(), times(), desk::script::coordinate("S")),
             bound(&TourStage::touchEdge));
   table.add("button down", takes(), [](Machine& machine) { desk::Hand(machine).pressButton(); });
   table.add("button up", takes(), [](Machine& machine) { desk::Hand(machine).releaseButton(); });
   table.add("click control", takes(text("\"LABEL\""), text("SURFACE")),
             bound(&TourStage::clickControl));
   table.add("click item", takes(text("\"ITEM\"")), bound(&TourStage::clickItem));
-  table.add("click icon", takes(displayNumber("N")), bound(&TourStage::clickIcon));
+  table.add("click icon", takes(screen()), bound(&TourStage::clickIcon));
   table.add("mark zones", takes(), [this](Machine&) { showsZones_ = true; });
-  table.add(
-      "caption",
-      takes(Parameter<std::string>{
-          "TEXT", [](ScriptContext&, Arguments& arguments) { return arguments.restAsText(); }}),
-      bound(&TourStage::addStep));
+  table.add("caption", takes(desk::script::restOfLine("TEXT")), bound(&TourStage::addStep));
   table.add("close-up", takes(text("NAME"), text("SURFACE")), bound(&TourStage::writeCloseUp));
 }
 
@@ -132,32 +127,22 @@ void TourStage::walk(Machine& machine, CGPoint place) {
   }
 }
 
-TourStage::Problem TourStage::rest(Machine& machine, std::uint32_t displayNumber) {
-  const auto screen = screenOf(machine, displayNumber);
-  if (!screen) {
-    return noDisplay(displayNumber);
-  }
+void TourStage::rest(Machine& machine, const CGRect& screen) {
   constexpr double height = 0.45;
-  walk(machine, {CGRectGetMidX(*screen), screen->origin.y + screen->size.height * height});
+  walk(machine, {CGRectGetMidX(screen), screen.origin.y + screen.size.height * height});
   machine.advance(1);
-  return std::nullopt;
 }
 
-TourStage::Problem TourStage::touchEdge(Machine& machine, std::uint32_t displayNumber,
-                                        std::int64_t times, double every) {
-  const auto screen = screenOf(machine, displayNumber);
-  if (!screen) {
-    return noDisplay(displayNumber);
-  }
+void TourStage::touchEdge(Machine& machine, const CGRect& screen, std::int64_t times,
+                          double every) {
   constexpr double startAbove = 120;
   for (const double above : {startAbove, pushLength}) {
-    walk(machine, {CGRectGetMidX(*screen), CGRectGetMaxY(*screen) - above});
+    walk(machine, {CGRectGetMidX(screen), CGRectGetMaxY(screen) - above});
   }
   for (std::int64_t time = 0; time < times; ++time) {
     machine.advance(time > 0 ? every : 0);
     push(machine, 0, pushLength);
   }
-  return std::nullopt;
 }
 
 void TourStage::clickAt(Machine& machine, CGPoint place) {
@@ -186,13 +171,8 @@ TourStage::Problem TourStage::clickItem(Machine& machine, const std::string& ite
   return std::nullopt;
 }
 
-TourStage::Problem TourStage::clickIcon(Machine& machine, std::uint32_t displayNumber) {
-  const auto screen = screenOf(machine, displayNumber);
-  if (!screen) {
-    return noDisplay(displayNumber);
-  }
-  clickAt(machine, middleOf(desk::StatusBar::itemFrame(*screen)));
-  return std::nullopt;
+void TourStage::clickIcon(Machine& machine, const CGRect& screen) {
+  clickAt(machine, middleOf(desk::StatusBar::itemFrame(screen)));
 }
 
 TourStage::Problem TourStage::addStep(Context& context, const std::string& caption) {

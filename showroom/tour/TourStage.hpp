@@ -43,13 +43,12 @@ class TourStage {
   void push(desk::Machine& machine, double dx, double dy);
   void walk(desk::Machine& machine, CGPoint place);
   void clickAt(desk::Machine& machine, CGPoint place);
-  Problem rest(desk::Machine& machine, std::uint32_t displayNumber);
-  Problem touchEdge(desk::Machine& machine, std::uint32_t displayNumber, std::int64_t times,
-                    double every);
+  void rest(desk::Machine& machine, const CGRect& screen);
+  void touchEdge(desk::Machine& machine, const CGRect& screen, std::int64_t times, double every);
   Problem clickControl(desk::Machine& machine, const std::string& label,
                        const std::string& surface);
   Problem clickItem(desk::Machine& machine, const std::string& item);
-  Problem clickIcon(desk::Machine& machine, std::uint32_t displayNumber);
+  void clickIcon(desk::Machine& machine, const CGRect& screen);
   Problem addStep(Context& context, const std::string& caption);
   Problem writeCloseUp(Context& context, const std::string& name, const std::string& surface);
   Problem write(cairo_surface_t* picture, const std::string& name) const;
