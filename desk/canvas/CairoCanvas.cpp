@@ -111,11 +111,7 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
   const std::string key =
       cacheKey(MaskKind::shadow, hole.kind, hole.cornerStyle, hole.cornerRadius, hole.rect.x,
                hole.rect.y, hole.rect.width, hole.rect.height, cast.rect.x, cast.rect.y, sigma);
-  const Mask& mask = resources_.masks.get(key, [&] {
-    Mask made = makeShadowMask(cast, sigma);
-    cutOut(made, hole);
-    return made;
-  });
+  const Mask& mask = resources_.masks.get(key, [&] { return makeShadowMask(cast, sigma, hole); });
   // The shadow is not drawn within the shape.
   const ui::Rect inner = hole.rect.inset(hole.effectiveRadius() + 1);
   if (inner.isEmpty() || !mask.surface) {
