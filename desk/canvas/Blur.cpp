@@ -46,84 +46,6 @@ std::uint8_t weigh(const Box& box, std::uint32_t inner, std::uint32_t ends) {
                                    weightBits);
 }
 
-/// Blurs `lineCount` parallel lines of `length` samples at once. Samples of one position are
-/// adjacent in memory, so that columns are read sequentially.
-struct Plane {
-  std::uint8_t* data;
-  std::ptrdiff_t step;  // from one position to the next
-  int length;
-  int lineCount;
-};
-
-/// The rows before and after the whole pixels of the box, and the first of those.
-struct Window {
-  const std::uint8_t* before;
-  const std::uint8_t* after;
-  const std::uint8_t* leaving;
-};
-
-void addRow(std::uint32_t* __restrict sums, const std::uint8_t* __restrict row, std::size_t count) {
-  for (std::size_t line = 0; line < count; ++line) {
-    sums[line] += row[line];
-  }
-}
-
-/// Writes one row of the result and advances the sums. The pointers are declared as not
-/// overlapping, so that the compiler can vectorise.
-void blurRow(const Box& box, const Window& window, std::uint32_t* __restrict sums,
-             std::uint8_t* __restrict target, std::size_t count) {
-  const std::uint8_t* __restrict before = window.before;
-  const std::uint8_t* __restrict after = window.after;
-  const std::uint8_t* __restrict leaving = window.leaving;
-  const Box weights = box;
-  for (std::size_t line = 0; line < count; ++line) {
-    const std::uint32_t sum = sums[line];
-    const std::uint32_t entering = after[line];
-    target[line] = weigh(weights, sum, before[line] + entering);
-    sums[line] = sum + entering - leaving[line];
-  }
-}
-
-void blurPlane(const Plane& plane, const Box& box, BlurEdge edge) {
-  const auto lines = static_cast<std::size_t>(plane.lineCount);
-  const int pad = box.reach + 1;
-  const int paddedLength = plane.length + 2 * pad;
-  std::vector<std::uint8_t> source(lines * static_cast<std::size_t>(paddedLength), 0);
-  const auto rowOf = [&](int position) {
-    return source.data() + lines * static_cast<std::size_t>(position + pad);
-  };
-  for (int position = -pad; position < plane.length + pad; ++position) {
-    const int nearest = std::clamp(position, 0, plane.length - 1);
-    if (nearest == position || edge == BlurEdge::extended) {
-      std::copy_n(plane.data + nearest * plane.step, lines, rowOf(position));
-    }
-  }
-  std::vector<std::uint32_t> sums(lines, 0);
-  for (int position = -box.reach; position <= box.reach; ++position) {
-    addRow(sums.data(), rowOf(position), lines);
-  }
-  for (int position = 0; position < plane.length; ++position) {
-    const Window window{rowOf(position - pad), rowOf(position + pad), rowOf(position - box.reach)};
-    blurRow(box, window, sums.data(), plane.data + position * plane.step, lines);
-  }
-}
-
-/// Transposes a picture in square tiles that fit into the first-level cache.
-template <typename Pixel>
-void transpose(const Pixel* from, std::ptrdiff_t fromStride, Pixel* to, std::ptrdiff_t toStride,
-               int width, int height) {
-  constexpr int side = 16;
-  for (int top = 0; top < height; top += side) {
-    for (int left = 0; left < width; left += side) {
-      for (int x = left; x < std::min(left + side, width); ++x) {
-        for (int y = top; y < std::min(top + side, height); ++y) {
-          to[x * toStride + y] = from[y * fromStride + x];
-        }
-      }
-    }
-  }
-}
-
 /// Pixels in memory, `pixelBytes` bytes each.
 struct Pixels {
   std::uint8_t* data;
@@ -133,32 +55,43 @@ struct Pixels {
   int pixelBytes;
 };
 
-/// Rows are blurred as the columns of the transposed picture.
-template <typename Pixel>
-void blurRows(const Pixels& pixels, const Box& box, BlurEdge edge) {
-  const auto [data, stride, width, height, pixelBytes] = pixels;
-  auto* const own = reinterpret_cast<Pixel*>(data);
-  const std::ptrdiff_t ownStride = stride / pixelBytes;
-  std::vector<Pixel> turned(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-  transpose(own, ownStride, turned.data(), height, width, height);
+/// Blurs a line of samples that are `step` bytes apart. `padded` has room for the line and its
+/// surroundings.
+void blurLine(std::uint8_t* line, std::ptrdiff_t step, int length, const Box& box, BlurEdge edge,
+              std::uint8_t* padded) {
+  const int pad = box.reach + 1;
+  std::uint8_t* const inside = padded + pad;
   for (int pass = 0; pass < passCount; ++pass) {
-    blurPlane({reinterpret_cast<std::uint8_t*>(turned.data()),
-               static_cast<std::ptrdiff_t>(height) * pixelBytes, width, height * pixelBytes},
-              box, edge);
+    const bool isExtended = edge == BlurEdge::extended;
+    std::fill_n(padded, pad, isExtended ? line[0] : std::uint8_t{0});
+    std::fill_n(inside + length, pad, isExtended ? line[(length - 1) * step] : std::uint8_t{0});
+    for (int position = 0; position < length; ++position) {
+      inside[position] = line[position * step];
+    }
+    std::uint32_t sum = 0;
+    for (int position = -box.reach; position <= box.reach; ++position) {
+      sum += inside[position];
+    }
+    for (int position = 0; position < length; ++position) {
+      const std::uint32_t entering = inside[position + pad];
+      line[position * step] = weigh(box, sum, inside[position - pad] + entering);
+      sum += entering - inside[position - box.reach];
+    }
   }
-  transpose(turned.data(), height, own, ownStride, height, width);
 }
 
 void blurExactly(const Pixels& pixels, double sigma, BlurEdge edge) {
+  const auto [data, stride, width, height, pixelBytes] = pixels;
   const Box box = makeBox(sigma);
-  for (int pass = 0; pass < passCount; ++pass) {
-    blurPlane({pixels.data, pixels.stride, pixels.height, pixels.width * pixels.pixelBytes}, box,
-              edge);
+  std::vector<std::uint8_t> padded(
+      static_cast<std::size_t>(std::max(width, height) + 2 * (box.reach + 1)));
+  for (int x = 0; x < width * pixelBytes; ++x) {
+    blurLine(data + x, stride, height, box, edge, padded.data());
   }
-  if (pixels.pixelBytes == 1) {
-    blurRows<std::uint8_t>(pixels, box, edge);
-  } else {
-    blurRows<std::uint32_t>(pixels, box, edge);
+  for (int y = 0; y < height; ++y) {
+    for (int byte = 0; byte < pixelBytes; ++byte) {
+      blurLine(data + y * stride + byte, pixelBytes, width, box, edge, padded.data());
+    }
   }
 }
 

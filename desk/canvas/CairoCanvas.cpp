@@ -111,11 +111,7 @@ void CairoCanvas::shadow(const ui::Shape& shape, const ui::PaintShadow& shadow) 
   const std::string key =
       cacheKey(MaskKind::shadow, hole.kind, hole.cornerStyle, hole.cornerRadius, hole.rect.x,
                hole.rect.y, hole.rect.width, hole.rect.height, cast.rect.x, cast.rect.y, sigma);
-  const Mask& mask = resources_.masks.get(key, [&] {
-    Mask made = makeShadowMask(cast, sigma);
-    cutOut(made, hole);
-    return made;
-  });
+  const Mask& mask = resources_.masks.get(key, [&] { return makeShadowMask(cast, sigma, hole); });
   // The shadow is not drawn within the shape.
   const ui::Rect inner = hole.rect.inset(hole.effectiveRadius() + 1);
   if (inner.isEmpty() || !mask.surface) {
@@ -258,13 +254,13 @@ void CairoCanvas::paintMask(const Mask& mask, int anchorX, int anchorY, const ui
   const int x = anchorX + mask.x;
   const int y = anchorY + mask.y;
   if (DeepSurface* const deep = deepTarget()) {
-    const Rows<DeepColor> colors{{DeepSurface::colorOf(color)}, 0, true};
-    if (layers_.back().clips.back().shapes.empty()) {
-      deep->paint(mask.surface.get(), x, y, clipExtents(), colors);
+    const RowColors colors{{DeepSurface::colorOf(color)}};
+    if (layers_.back().clips.back().empty()) {
+      deep->paintMask(mask.surface.get(), x, y, clipExtents(), colors);
     } else {
       const SurfacePointer cut = coverageOf(mask.surface.get(), 0, 0);
       cutToClip(cut.get(), x, y);
-      deep->paint(cut.get(), x, y, clipExtents(), colors);
+      deep->paintMask(cut.get(), x, y, clipExtents(), colors);
     }
     return;
   }

@@ -62,11 +62,7 @@ class CairoCanvas : public ui::Canvas {
     ui::Transform pixels;
   };
   /// The part of a clip that is not a rectangle of whole pixels; cairo keeps those.
-  struct Clip {
-    std::vector<ClipShape> shapes;
-    /// More than one rounded rectangle on whole pixels.
-    bool isTangled = false;
-  };
+  using Clip = std::vector<ClipShape>;
   struct Layer {
     ContextPointer context;
     double opacity = 1;
@@ -79,17 +75,15 @@ class CairoCanvas : public ui::Canvas {
   };
 
   /// A line width of zero fills the shape.
+  void paintShape(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
+  /// Paints it with cairo, on a target of eight bits.
   void paintPath(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
-  /// The same from cached coverage, for a solid colour or a vertical gradient. False, and nothing
-  /// painted, when that is impossible.
-  bool paintCoverage(const ui::Shape& shape, const ui::Paint& paint, double lineWidth);
-  /// The coverage of a shape within the clip, relative to the top left pixel of its bounds.
-  const CoverageRuns& coverageRunsOf(const ui::Shape& shape, double lineWidth);
-  /// For some rows of a shape within the clip, in pixels of the target.
-  Mask coveredRows(const ui::Shape& shape, double lineWidth, const PixelRect& rows);
+  /// The coverage of a shape within the clip, in the pixels of `bounds`.
+  SurfacePointer makeShapeMask(const ui::Shape& shape, double lineWidth, const PixelRect& bounds);
+  /// The same, cached for all shapes that differ only by whole pixels.
+  cairo_surface_t* shapeMask(const ui::Shape& shape, double lineWidth, const PixelRect& bounds);
   /// For the rows from `top` to `bottom` (exclusive), in pixels of the target.
   RowColors colorsOf(const ui::Paint& paint, int top, int bottom);
-  Rows<DeepColor> deepColorsOf(const ui::Paint& paint, int top, int bottom);
   /// The picture of sixteen bits, if it is the current target; otherwise null.
   DeepSurface* deepTarget() { return layers_.size() == 1 ? deep_ : nullptr; }
   /// The clip's bounds or more, in pixels.

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "desk/canvas/CairoCanvas.hpp"
-#include "desk/canvas/GradientRows.hpp"
+#include "desk/canvas/Gradients.hpp"
 #include "desk/canvas/ImageSurface.hpp"
 #include "desk/canvas/ShadowMask.hpp"
 
@@ -23,12 +23,12 @@ CairoCanvas::CairoCanvas(DeepSurface& target, double scaleFactor, DrawingResourc
   layers_.push_back(std::move(base));
 }
 
-Rows<DeepColor> CairoCanvas::deepColorsOf(const ui::Paint& paint, int top, int bottom) {
+RowColors CairoCanvas::colorsOf(const ui::Paint& paint, int top, int bottom) {
   if (isOneColor(paint)) {
-    return {{DeepSurface::colorOf(paint.stops.back().color)}, 0, true};
+    return {{DeepSurface::colorOf(paint.stops.back().color)}};
   }
   const ui::Transform pixels = pixelTransform();
-  Rows<DeepColor> rows{{}, top, false};
+  RowColors rows{{}, top};
   for (int row = top; row < bottom; ++row) {
     const double y = (row + 0.5 - pixels.y) / pixels.scale;
     rows.colors.push_back(
@@ -38,7 +38,7 @@ Rows<DeepColor> CairoCanvas::deepColorsOf(const ui::Paint& paint, int top, int b
 }
 
 void CairoCanvas::cutToClip(cairo_surface_t* picture, int x, int y) {
-  const std::vector<ClipShape>& shapes = layers_.back().clips.back().shapes;
+  const Clip& shapes = layers_.back().clips.back();
   if (shapes.empty()) {
     return;
   }

@@ -1,4 +1,4 @@
-// The inner loops process colour components separately, so that the compiler can vectorise.
+// The inner loops process the components of a colour alike, so that the compiler can vectorise.
 #include "desk/canvas/DeepSurface.hpp"
 
 #include <algorithm>
@@ -22,37 +22,14 @@ std::uint16_t widened(std::uint32_t byte) {
   return static_cast<std::uint16_t>(byte * 257U);
 }
 
-/// Composes the source over every component.
-void over(std::uint16_t* colors, const std::uint16_t* add, const std::uint16_t* rest,
-          std::size_t count) {
-  for (std::size_t index = 0; index < count; ++index) {
-    colors[index] = static_cast<std::uint16_t>(add[index] + productOf(colors[index], rest[index]));
-  }
-}
-
-/// A colour repeated up to the length of a block.
-class Repeated {
- public:
-  static constexpr std::size_t capacity = 32;
-
-  Repeated(const DeepColor& color, std::size_t count) {
-    std::fill_n(pixels_.begin(), std::min(count, capacity), color);
-  }
-  [[nodiscard]] const std::uint16_t* data() const { return pixels_.front().data(); }
-
- private:
-  std::array<DeepColor, capacity> pixels_;
-};
-
+/// Composes a colour over `count` pixels.
 void blend(std::uint16_t* pixels, std::size_t count, const DeepColor& color) {
   const std::uint16_t rest = restOf(color[3]);
-  const Repeated add(color, count);
-  const Repeated rests({rest, rest, rest, rest}, count);
-  for (; count > Repeated::capacity;
-       count -= Repeated::capacity, pixels += 4 * Repeated::capacity) {
-    over(pixels, add.data(), rests.data(), 4 * Repeated::capacity);
+  for (std::size_t pixel = 0; pixel < count; ++pixel, pixels += 4) {
+    for (std::size_t part = 0; part < 4; ++part) {
+      pixels[part] = static_cast<std::uint16_t>(color[part] + productOf(pixels[part], rest));
+    }
   }
-  over(pixels, add.data(), rests.data(), 4 * count);
 }
 
 DeepColor covered(const DeepColor& color, std::uint8_t coverage) {
@@ -70,35 +47,19 @@ DeepColor covered(const DeepColor& color, std::uint8_t coverage) {
 void blendCovered(std::uint16_t* pixels, std::size_t count, const DeepColor& color,
                   const std::uint8_t* coverage) {
   const auto alpha = static_cast<std::uint16_t>(0xFFFFU - restOf(color[3]));
-  const Repeated colors(color, count);
-  const Repeated alphas({alpha, alpha, alpha, alpha}, count);
-  std::array<std::uint16_t, 4 * Repeated::capacity> weights;
-  std::array<std::uint16_t, 4 * Repeated::capacity> rests;
-  while (count > 0) {
-    const std::size_t length = std::min(count, Repeated::capacity);
-    for (std::size_t pixel = 0; pixel < length; ++pixel) {
-      std::fill_n(weights.begin() + static_cast<std::ptrdiff_t>(4 * pixel), 4,
-                  widened(coverage[pixel]));
+  for (std::size_t pixel = 0; pixel < count; ++pixel, pixels += 4) {
+    const std::uint16_t weight = widened(coverage[pixel]);
+    const auto rest = static_cast<std::uint16_t>(0xFFFFU - productOf(alpha, weight));
+    for (std::size_t part = 0; part < 4; ++part) {
+      pixels[part] = static_cast<std::uint16_t>(productOf(color[part], weight) +
+                                                productOf(pixels[part], rest));
     }
-    for (std::size_t index = 0; index < 4 * length; ++index) {
-      rests[index] =
-          static_cast<std::uint16_t>(0xFFFFU - productOf(alphas.data()[index], weights[index]));
-    }
-    for (std::size_t index = 0; index < 4 * length; ++index) {
-      weights[index] = productOf(colors.data()[index], weights[index]);
-    }
-    over(pixels, weights.data(), rests.data(), 4 * length);
-    pixels += 4 * length;
-    coverage += length;
-    count -= length;
   }
 }
 
-template <typename Value>
-Value* rowOf(cairo_surface_t* surface, int y) {
-  return reinterpret_cast<Value*>(cairo_image_surface_get_data(surface) +
-                                  static_cast<std::ptrdiff_t>(y) *
-                                      cairo_image_surface_get_stride(surface));
+std::uint8_t* rowOf(cairo_surface_t* surface, int y) {
+  return cairo_image_surface_get_data(surface) +
+         static_cast<std::ptrdiff_t>(y) * cairo_image_surface_get_stride(surface);
 }
 
 PixelRect boundsOf(cairo_surface_t* surface, int x, int y) {
@@ -133,49 +94,64 @@ void DeepSurface::clear(const PixelRect& area) {
   }
 }
 
-void DeepSurface::paint(const CoverageRuns& runs, int x, int y, const PixelRect& clip,
-                        const Rows<DeepColor>& colors) {
-  runs.visit(x, y, clip.cutTo(bounds()), [&](int row, int left, int right, std::uint8_t coverage) {
-    blend(pixels_.data() + indexOf(left, row), static_cast<std::size_t>(right - left),
-          covered(colors.at(row), coverage));
-  });
+template <typename PaintRow>
+void DeepSurface::paintRows(cairo_surface_t* surface, int x, int y, const PixelRect& clip,
+                            int pixelBytes, const PaintRow& paintRow) {
+  const PixelRect area = clip.cutTo(bounds()).cutTo(boundsOf(surface, x, y));
+  if (area.isEmpty()) {
+    return;
+  }
+  cairo_surface_flush(surface);
+  for (int row = area.top; row < area.bottom; ++row) {
+    const std::uint8_t* const bytes = rowOf(surface, row - y) + (area.left - x) * pixelBytes;
+    paintRow(row, pixels_.data() + indexOf(area.left, row), bytes,
+             static_cast<std::size_t>(area.right - area.left));
+  }
 }
 
-void DeepSurface::paint(cairo_surface_t* mask, int x, int y, const PixelRect& clip,
-                        const Rows<DeepColor>& colors) {
-  const PixelRect area = clip.cutTo(bounds()).cutTo(boundsOf(mask, x, y));
-  cairo_surface_flush(mask);
-  for (int row = area.top; row < area.bottom && area.left < area.right; ++row) {
-    const DeepColor& color = colors.at(row);
-    const std::uint8_t* const coverage = rowOf<std::uint8_t>(mask, row - y) - x;
-    blendCovered(pixels_.data() + indexOf(area.left, row),
-                 static_cast<std::size_t>(area.right - area.left), color, coverage + area.left);
-  }
+void DeepSurface::paintShape(cairo_surface_t* mask, int x, int y, const PixelRect& clip,
+                             const RowColors& colors) {
+  paintRows(mask, x, y, clip, 1,
+            [&](int row, std::uint16_t* pixels, const std::uint8_t* coverage, std::size_t count) {
+              for (std::size_t start = 0; start < count;) {
+                const std::uint8_t value = coverage[start];
+                std::size_t end = start + 1;
+                while (end < count && coverage[end] == value) {
+                  ++end;
+                }
+                if (value != 0) {
+                  blend(pixels + parts * start, end - start, covered(colors.at(row), value));
+                }
+                start = end;
+              }
+            });
+}
+
+void DeepSurface::paintMask(cairo_surface_t* mask, int x, int y, const PixelRect& clip,
+                            const RowColors& colors) {
+  paintRows(mask, x, y, clip, 1,
+            [&](int row, std::uint16_t* pixels, const std::uint8_t* coverage, std::size_t count) {
+              blendCovered(pixels, count, colors.at(row), coverage);
+            });
 }
 
 void DeepSurface::paintPicture(cairo_surface_t* picture, int x, int y, const PixelRect& clip,
                                double opacity) {
-  const PixelRect area = clip.cutTo(bounds()).cutTo(boundsOf(picture, x, y));
-  if (area.isEmpty()) {
-    return;
-  }
   const auto weight =
       static_cast<std::uint16_t>(std::lround(std::clamp(opacity, 0.0, 1.0) * 0xFFFF));
-  const auto count = static_cast<std::size_t>(area.right - area.left) * parts;
-  std::vector<std::uint16_t> add(count);
-  std::vector<std::uint16_t> rests(count);
-  cairo_surface_flush(picture);
-  for (int row = area.top; row < area.bottom; ++row) {
-    const std::uint8_t* const bytes =
-        rowOf<std::uint8_t>(picture, row - y) + static_cast<std::size_t>(area.left - x) * parts;
-    for (std::size_t index = 0; index < count; ++index) {
-      add[index] = productOf(static_cast<std::uint16_t>(bytes[index] << 8U), weight);
-    }
-    for (std::size_t index = 0; index < count; index += parts) {
-      std::fill_n(rests.data() + index, parts, restOf(add[index + 3]));
-    }
-    over(pixels_.data() + indexOf(area.left, row), add.data(), rests.data(), count);
-  }
+  const auto faded = [weight](std::uint8_t byte) {
+    return productOf(static_cast<std::uint16_t>(byte << 8U), weight);
+  };
+  paintRows(picture, x, y, clip, parts,
+            [&](int, std::uint16_t* pixels, const std::uint8_t* bytes, std::size_t count) {
+              for (; count > 0; --count, pixels += parts, bytes += parts) {
+                const std::uint16_t rest = restOf(faded(bytes[3]));
+                for (std::size_t part = 0; part < parts; ++part) {
+                  pixels[part] = static_cast<std::uint16_t>(faded(bytes[part]) +
+                                                            productOf(pixels[part], rest));
+                }
+              }
+            });
 }
 
 void DeepSurface::paintOver(cairo_surface_t* target, int x, int y) const {
@@ -184,20 +160,17 @@ void DeepSurface::paintOver(cairo_surface_t* target, int x, int y) const {
     return;
   }
   cairo_surface_flush(target);
-  const auto count = static_cast<std::size_t>(area.right - area.left) * parts;
-  std::vector<std::uint16_t> rests(count);
   for (int row = area.top; row < area.bottom; ++row) {
-    const std::uint16_t* const own = pixels_.data() + indexOf(area.left - x, row - y);
-    for (std::size_t index = 0; index < count; index += parts) {
-      std::fill_n(rests.data() + index, parts, restOf(own[index + 3]));
-    }
-    std::uint8_t* const bytes =
-        rowOf<std::uint8_t>(target, row) + static_cast<std::size_t>(area.left) * parts;
-    for (std::size_t index = 0; index < count; ++index) {
-      const auto below = static_cast<std::uint16_t>(bytes[index] << 8U);
-      const auto sum = static_cast<std::uint16_t>(own[index] + productOf(below, rests[index]));
-      // Rounds to the nearest byte.
-      bytes[index] = static_cast<std::uint8_t>((std::min<std::uint32_t>(sum, whole) + 128U) >> 8U);
+    const std::uint16_t* own = pixels_.data() + indexOf(area.left - x, row - y);
+    std::uint8_t* bytes = rowOf(target, row) + static_cast<std::size_t>(area.left) * parts;
+    for (int column = area.left; column < area.right; ++column, own += parts, bytes += parts) {
+      const std::uint16_t rest = restOf(own[3]);
+      for (std::size_t part = 0; part < parts; ++part) {
+        const auto below = static_cast<std::uint16_t>(bytes[part] << 8U);
+        const std::uint32_t sum = static_cast<std::uint16_t>(own[part] + productOf(below, rest));
+        // Rounds to the nearest byte.
+        bytes[part] = static_cast<std::uint8_t>((std::min(sum, whole) + 128U) >> 8U);
+      }
     }
   }
   cairo_surface_mark_dirty(target);

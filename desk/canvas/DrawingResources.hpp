@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "Orvane/ui/host/ViewHost.hpp"
-#include "desk/canvas/CoverageRuns.hpp"
 #include "desk/canvas/ImageLibrary.hpp"
 #include "desk/canvas/Mask.hpp"
 #include "desk/canvas/SymbolLibrary.hpp"
@@ -19,8 +18,8 @@ struct DrawingResources {
   SymbolLibrary symbols;
   TextShaper shaper;
   Cache<Mask> masks{std::size_t{48} << 20U};
-  /// A panel has about fifty shapes of a few kilobytes each.
-  Cache<CoverageRuns> coverage{512};
+  /// The coverage of shapes. The largest of a panel have a few megabytes.
+  Cache<SurfacePointer> shapes{std::size_t{64} << 20U};
   /// The unknown images and symbols that were drawn; tests expect none.
   std::set<std::string> missingNames;
 

@@ -1,4 +1,4 @@
-// Draws a shape with a margin and blurs it.
+// Draws a shape with a margin, blurs it and cuts the hole.
 #include "desk/canvas/ShadowMask.hpp"
 
 #include <cmath>
@@ -29,7 +29,7 @@ void appendShape(cairo_t* context, const ui::Shape& shape) {
   }
 }
 
-Mask makeShadowMask(const ui::Shape& shape, double sigma) {
+Mask makeShadowMask(const ui::Shape& shape, double sigma, const ui::Shape& hole) {
   if (shape.rect.isEmpty()) {
     return {};
   }
@@ -45,18 +45,10 @@ Mask makeShadowMask(const ui::Shape& shape, double sigma) {
   appendShape(context.get(), shape);
   cairo_fill(context.get());
   blurSurface(mask.surface.get(), sigma, BlurEdge::transparent);
-  return mask;
-}
-
-void cutOut(Mask& mask, const ui::Shape& shape) {
-  if (!mask.surface) {
-    return;
-  }
-  const ContextPointer context(cairo_create(mask.surface.get()));
-  cairo_translate(context.get(), -mask.x, -mask.y);
   cairo_set_operator(context.get(), CAIRO_OPERATOR_DEST_OUT);
-  appendShape(context.get(), shape);
+  appendShape(context.get(), hole);
   cairo_fill(context.get());
+  return mask;
 }
 
 SurfacePointer coverageOf(cairo_surface_t* picture, int x, int y) {

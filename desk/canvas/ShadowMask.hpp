@@ -9,12 +9,9 @@ namespace orvane::desk {
 /// Adds the outline of a shape to the path of a context, in its current coordinates.
 void appendShape(cairo_t* context, const ui::Shape& shape);
 
-/// A shape blurred with a standard deviation, both in pixels. The mask's anchor is the origin. An
-/// empty shape has a mask without a surface.
-Mask makeShadowMask(const ui::Shape& shape, double sigma);
-
-/// Removes a shape, in pixels, from the coverage of a mask.
-void cutOut(Mask& mask, const ui::Shape& shape);
+/// A shape blurred with a standard deviation, without another shape, all in pixels. The mask's
+/// anchor is the origin. An empty shape has a mask without a surface.
+Mask makeShadowMask(const ui::Shape& shape, double sigma, const ui::Shape& hole);
 
 /// The alpha of an ARGB32 image surface, as an A8 surface of the same size; `x` and `y` are the
 /// position of its top left pixel.

@@ -16,7 +16,6 @@ CheckedSession::CheckedSession()
                    [this](const std::string& text) {
                      report({"expectation", text});
                    }},
-      interpreter_(commands_, context_),
       observation_(Observation::of(session_->machine(), session_->application())) {}
 
 void CheckedSession::run(const std::string& line) {
@@ -25,7 +24,7 @@ void CheckedSession::run(const std::string& line) {
   }
   lines_.push_back(line);
   checker_->beginStep(line);
-  problem_ = interpreter_.run(line);
+  problem_ = commands_.run(line, context_);
   const Observation before =
       std::exchange(observation_, Observation::of(session_->machine(), session_->application()));
   const Step step = checker_->endStep(line, !problem_, before, observation_);

@@ -12,8 +12,8 @@
 #include "desk/explore/InvariantChecker.hpp"
 #include "desk/explore/Observation.hpp"
 #include "desk/explore/RarePaths.hpp"
+#include "desk/script/Commands.hpp"
 #include "desk/script/Inspectables.hpp"
-#include "desk/script/Interpreter.hpp"
 
 namespace orvane::desk::explore {
 
@@ -52,7 +52,6 @@ class CheckedSession {
   std::ostringstream output_;
   script::Problem problem_;
   script::ScriptContext context_;
-  script::Interpreter interpreter_;
   Observation observation_;
   std::vector<std::string> lines_;
   std::optional<Violation> violation_;

@@ -75,8 +75,6 @@ class Hand {
   Refusal dragWindow(const std::string& surface, double dx, double dy) const;
   /// Drags the permission guide's icon onto the Accessibility list of System Settings.
   Refusal dropIcon() const;
-  /// A point on the guide's icon; none without a guide.
-  [[nodiscard]] std::optional<CGPoint> iconLocation() const;
 
   void moveTo(CGPoint place) const;
   void pressButton() const;

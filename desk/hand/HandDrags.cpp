@@ -71,25 +71,6 @@ Hand::Refusal Hand::dragWindow(const std::string& surface, double dx, double dy)
                                          : std::nullopt;
 }
 
-std::optional<CGPoint> Hand::iconLocation() const {
-  WindowServer& server = WindowServer::current();
-  const auto guide = Surfaces(server).window("guide");
-  if (guide == nullptr || guide->content == nullptr) {
-    return std::nullopt;
-  }
-  const std::vector<SurfaceControl> controls = Surfaces(server).controls("guide");
-  const CGPoint corner = server.topLeftOf(*guide);
-  constexpr double step = 4;
-  // It is centred horizontally.
-  for (ui::Point point{guide->frame.size.width / 2, step}; point.y < guide->frame.size.height;
-       point.y += step) {
-    if (isIcon(*guide, controls, point)) {
-      return CGPoint{corner.x + point.x, corner.y + point.y + step};
-    }
-  }
-  return std::nullopt;
-}
-
 Hand::Refusal Hand::dropIcon() const {
   WindowServer& server = WindowServer::current();
   const auto guide = Surfaces(server).window("guide");

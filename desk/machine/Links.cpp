@@ -3,26 +3,15 @@
 
 #include <algorithm>
 
+#include <glib.h>
+
 namespace orvane::desk {
 
 namespace {
 
-bool isLetter(char character) {
-  return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
-}
-
-bool isDigit(char character) {
-  return character >= '0' && character <= '9';
-}
-
-bool isHexDigit(char character) {
-  return isDigit(character) || (character >= 'a' && character <= 'f') ||
-         (character >= 'A' && character <= 'F');
-}
-
 /// RFC 3986, section 2.3.
 bool isUnreserved(char character) {
-  return isLetter(character) || isDigit(character) ||
+  return g_ascii_isalnum(character) ||
          std::string_view("-._~").find(character) != std::string_view::npos;
 }
 
@@ -32,10 +21,10 @@ bool isReserved(char character) {
 }
 
 bool isScheme(std::string_view text) {
-  return !text.empty() && isLetter(text.front()) &&
+  return !text.empty() && g_ascii_isalpha(text.front()) &&
          std::all_of(text.begin(), text.end(), [](char character) {
-           return isLetter(character) || isDigit(character) || character == '+' ||
-                  character == '-' || character == '.';
+           return g_ascii_isalnum(character) || character == '+' || character == '-' ||
+                  character == '.';
          });
 }
 
@@ -53,8 +42,8 @@ bool Links::formsURL(std::string_view text) {
   for (std::size_t index = 0; index < rest.size(); ++index) {
     const char character = rest[index];
     if (character == '%') {
-      if (index + 2 >= rest.size() || !isHexDigit(rest[index + 1]) ||
-          !isHexDigit(rest[index + 2])) {
+      if (index + 2 >= rest.size() || !g_ascii_isxdigit(rest[index + 1]) ||
+          !g_ascii_isxdigit(rest[index + 2])) {
         return false;
       }
       index += 2;
@@ -65,19 +54,11 @@ bool Links::formsURL(std::string_view text) {
   return true;
 }
 
-std::string Links::percentEncoded(std::string_view text, std::string_view allowed) {
-  constexpr std::string_view hexDigits = "0123456789ABCDEF";
-  std::string encoded;
-  for (const char character : text) {
-    if (isUnreserved(character) || allowed.find(character) != std::string_view::npos) {
-      encoded += character;
-    } else {
-      const auto byte = static_cast<unsigned char>(character);
-      encoded += '%';
-      encoded += hexDigits[byte >> 4U];
-      encoded += hexDigits[byte & 15U];
-    }
-  }
+std::string Links::percentEncoded(std::string_view text, const char* allowed) {
+  gchar* const escaped =
+      g_uri_escape_bytes(reinterpret_cast<const guint8*>(text.data()), text.size(), allowed);
+  std::string encoded(escaped == nullptr ? "" : escaped);
+  g_free(escaped);
   return encoded;
 }
 

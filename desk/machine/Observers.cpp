@@ -1,7 +1,6 @@
 // Posting to observers that may be added and removed meanwhile.
 #include "desk/machine/Observers.hpp"
 
-#include <algorithm>
 #include <utility>
 
 namespace orvane::desk {
@@ -15,10 +14,7 @@ std::shared_ptr<Observers::Observer> Observers::add(appkit::NotificationName nam
 
 void Observers::remove(const std::shared_ptr<Observer>& observer) {
   observer->isRegistered = false;
-  const auto registered = std::find(observers_.begin(), observers_.end(), observer);
-  if (registered != observers_.end()) {
-    observers_.erase(registered);
-  }
+  std::erase(observers_, observer);
 }
 
 void Observers::post(appkit::NotificationName name) {

@@ -83,10 +83,7 @@ void RunLoop::invalidateTimer(const std::shared_ptr<RunLoopTimer>& timer) {
     return;
   }
   timer->isValid = false;
-  const auto registered = std::find(timers_.begin(), timers_.end(), timer);
-  if (registered != timers_.end()) {
-    timers_.erase(registered);
-  }
+  std::erase(timers_, timer);
   if (timer != firing_) {
     // Destroying what the tick holds may access the run loop again.
     const Task tick = std::exchange(timer->tick, nullptr);

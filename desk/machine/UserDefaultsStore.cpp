@@ -11,9 +11,7 @@ void UserDefaultsStore::set(std::string_view key, PropertyValue value) {
 }
 
 void UserDefaultsStore::remove(std::string_view key) {
-  if (const auto value = values_.find(key); value != values_.end()) {
-    values_.erase(value);
-  }
+  values_.erase(std::string(key));
   ++writeCounts_[std::string(key)];
 }
 

@@ -115,7 +115,7 @@ std::int64_t Arguments::nanoseconds(std::string_view what, std::int64_t highest)
 
 CGRect Arguments::rectangle(std::string_view what, const Given& given) {
   const std::string word = given ? *given : text(what);
-  const std::vector<std::string> parts = splitAtCommas(word);
+  const std::vector<std::string> parts = split(word, ',');
   std::array<double, 4> numbers{};
   if (parts.size() != numbers.size()) {
     report(std::string(what) + " must be X,Y,W,H, not " + excerpt(word));
@@ -205,19 +205,19 @@ Problem Arguments::finish() {
   return problem_;
 }
 
-std::vector<std::string> splitAtCommas(std::string_view text) {
+std::vector<std::string> split(std::string_view text, char separator) {
   std::vector<std::string> parts;
   if (text.empty()) {
     return parts;
   }
   std::size_t begin = 0;
   while (true) {
-    const std::size_t comma = text.find(',', begin);
-    parts.emplace_back(text.substr(begin, comma - begin));
-    if (comma == std::string_view::npos) {
+    const std::size_t end = text.find(separator, begin);
+    parts.emplace_back(text.substr(begin, end - begin));
+    if (end == std::string_view::npos) {
       return parts;
     }
-    begin = comma + 1;
+    begin = end + 1;
   }
 }
 

@@ -89,7 +89,7 @@ template <typename Table>
   return list;
 }
 
-/// The parts of `text` between commas; none for an empty text.
-[[nodiscard]] std::vector<std::string> splitAtCommas(std::string_view text);
+/// The parts of `text` between separators; none for an empty text.
+[[nodiscard]] std::vector<std::string> split(std::string_view text, char separator);
 
 }  // namespace orvane::desk::script

@@ -1,5 +1,7 @@
-// The commands of the script language, by name.
+// Finds the command of a line by its first words and executes it.
 #include "desk/script/Commands.hpp"
+
+#include <algorithm>
 
 #include "desk/hand/InQuotes.hpp"
 
@@ -10,26 +12,41 @@ void CommandTable::add(Command command) {
   commands_.insert_or_assign(std::move(name), std::move(command));
 }
 
-CommandTable::Found CommandTable::find(std::span<const Word> words) const {
+Problem CommandTable::run(std::string_view line, ScriptContext& context) const {
+  const LexedLine lexed = lexLine(line);
+  if (lexed.problem || lexed.words.empty()) {
+    return lexed.problem;
+  }
+  const std::span<const Word> words(lexed.words);
+  std::size_t nameWords = std::min<std::size_t>(words.size(), 2);
+  auto found = commands_.find(words.front().text + (nameWords == 2 ? " " + words[1].text : ""));
+  if (found == commands_.end()) {
+    nameWords = 1;
+    found = commands_.find(words.front().text);
+  }
+  if (found == commands_.end()) {
+    return problemWith(words);
+  }
+  const Command& command = found->second;
+  Arguments arguments(words.subspan(nameWords), line);
+  if (const Problem problem = command.run(context, arguments)) {
+    const bool explains = arguments.isWrong() && !command.usage.empty();
+    return command.name + ": " + *problem +
+           (explains ? " (" + command.name + " " + command.usage + ")" : "");
+  }
+  context.machine().runDue();
+  return std::nullopt;
+}
+
+Problem CommandTable::problemWith(std::span<const Word> words) const {
   const std::string& first = words.front().text;
-  if (words.size() > 1) {
-    const auto found = commands_.find(first + " " + words[1].text);
-    if (found != commands_.end()) {
-      return {&found->second, 2, std::nullopt};
-    }
-  }
-  const auto found = commands_.find(first);
-  if (found != commands_.end()) {
-    return {&found->second, 1, std::nullopt};
-  }
   const std::string family = familyOf(first);
   if (family.empty()) {
-    return {nullptr, 0, "unknown command " + inQuotes(first)};
+    return "unknown command " + inQuotes(first);
   }
-  if (words.size() == 1) {
-    return {nullptr, 0, first + " must be followed by one of " + family};
-  }
-  return {nullptr, 0, first + " has no command \"" + words[1].text + "\", only " + family};
+  return words.size() == 1
+             ? first + " must be followed by one of " + family
+             : first + " has no command " + inQuotes(words[1].text) + ", only " + family;
 }
 
 std::string CommandTable::familyOf(std::string_view word) const {

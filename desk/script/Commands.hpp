@@ -1,7 +1,6 @@
 // The commands of the script language, by name.
 #pragma once
 
-#include <cstddef>
 #include <functional>
 #include <map>
 #include <span>
@@ -17,15 +16,6 @@ namespace orvane::desk::script {
 
 class CommandTable {
  public:
-  struct Found {
-    /// Null when there is no such command.
-    const Command* command = nullptr;
-    /// The number of words of its name.
-    std::size_t nameWords = 0;
-    /// Why there is no such command.
-    Problem problem;
-  };
-
   /// Replaces a command with the same name.
   void add(Command command);
   /// Adds a command with this name, parameters and action; see `makeCommand`.
@@ -33,13 +23,16 @@ class CommandTable {
   void add(std::string name, Parameters parameters, Action action) {
     add(makeCommand(std::move(name), std::move(parameters), std::move(action)));
   }
-  /// The command at the beginning of the words, of which there must be at least one.
-  [[nodiscard]] Found find(std::span<const Word> words) const;
+  /// Executes a line of a script and then all tasks that are due. An empty line does nothing.
+  /// Returns why the line failed.
+  [[nodiscard]] Problem run(std::string_view line, ScriptContext& context) const;
 
   /// All commands, ordered by name.
   [[nodiscard]] const std::map<std::string, Command, std::less<>>& all() const { return commands_; }
 
  private:
+  /// Why no command begins with these words.
+  [[nodiscard]] Problem problemWith(std::span<const Word> words) const;
   /// The second words of the family with the first word `word`, separated by commas; empty when
   /// there is no such family.
   [[nodiscard]] std::string familyOf(std::string_view word) const;

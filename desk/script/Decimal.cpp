@@ -25,7 +25,7 @@ bool areDigits(std::string_view text) {
          std::ranges::all_of(text, [](char digit) { return digit >= '0' && digit <= '9'; });
 }
 
-std::optional<Parts> split(std::string_view text) {
+std::optional<Parts> partsOf(std::string_view text) {
   Parts parts;
   if (text.starts_with('-') || text.starts_with('+')) {
     parts.isNegative = text.front() == '-';
@@ -62,7 +62,7 @@ std::int64_t fractionNanoseconds(std::string_view fraction) {
 }  // namespace
 
 std::optional<double> parseDecimal(std::string_view text) {
-  if (!split(text)) {
+  if (!partsOf(text)) {
     return std::nullopt;
   }
   if (text.starts_with('+')) {
@@ -78,7 +78,7 @@ std::optional<double> parseDecimal(std::string_view text) {
 }
 
 std::optional<std::int64_t> parseInteger(std::string_view text) {
-  const std::optional<Parts> parts = split(text);
+  const std::optional<Parts> parts = partsOf(text);
   if (!parts || !parts->fraction.empty()) {
     return std::nullopt;
   }
@@ -87,7 +87,7 @@ std::optional<std::int64_t> parseInteger(std::string_view text) {
 }
 
 std::optional<std::int64_t> parseNanoseconds(std::string_view seconds) {
-  const std::optional<Parts> parts = split(seconds);
+  const std::optional<Parts> parts = partsOf(seconds);
   const std::optional<std::int64_t> whole = parts ? integerOf(parts->whole) : std::nullopt;
   constexpr std::int64_t wholeLimit =
       std::numeric_limits<std::int64_t>::max() / nanosecondsPerSecond - 1;

@@ -7,6 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "desk/script/Arguments.hpp"
 #include "desk/script/Decimal.hpp"
 #include "desk/script/JsonText.hpp"
 
@@ -14,29 +15,8 @@ namespace orvane::desk::script {
 
 namespace {
 
-constexpr std::size_t deepestNesting = 100;
+constexpr int deepestNesting = 100;
 constexpr std::string_view lengthStep = "#";
-
-/// The greatest nesting depth of brackets and braces, outside of strings.
-std::size_t nestingDepth(std::string_view written) {
-  std::size_t depth = 0;
-  std::size_t deepest = 0;
-  bool isInText = false;
-  for (std::size_t index = 0; index < written.size(); ++index) {
-    const char character = written[index];
-    if (isInText) {
-      index += character == '\\' ? 1 : 0;
-      isInText = character != '"';
-    } else if (character == '"') {
-      isInText = true;
-    } else if (character == '[' || character == '{') {
-      deepest = std::max(deepest, ++depth);
-    } else if ((character == ']' || character == '}') && depth > 0) {
-      --depth;
-    }
-  }
-  return deepest;
-}
 
 /// Null when there is no such value.
 const Json* step(const Json& value, const std::string& part) {
@@ -58,26 +38,21 @@ const Json* step(const Json& value, const std::string& part) {
 }  // namespace
 
 std::optional<Json> parseJson(std::string_view written) {
-  if (nestingDepth(written) > deepestNesting) {
-    return std::nullopt;
-  }
-  Json value = Json::parse(written, nullptr, /*allow_exceptions=*/false);
-  return value.is_discarded() ? std::nullopt : std::optional(std::move(value));
+  bool isTooDeep = false;
+  const auto note = [&isTooDeep](int depth, Json::parse_event_t event, const Json&) {
+    const bool opens =
+        event == Json::parse_event_t::array_start || event == Json::parse_event_t::object_start;
+    isTooDeep = isTooDeep || (opens && depth >= deepestNesting);
+    return !isTooDeep;
+  };
+  Json value = Json::parse(written, note, /*allow_exceptions=*/false);
+  return isTooDeep || value.is_discarded() ? std::nullopt : std::optional(std::move(value));
 }
 
 std::optional<std::vector<std::string>> parsePath(std::string_view path) {
-  std::vector<std::string> parts;
-  while (true) {
-    const std::size_t dot = path.find('.');
-    parts.emplace_back(path.substr(0, dot));
-    if (parts.back().empty()) {
-      return std::nullopt;
-    }
-    if (dot == std::string_view::npos) {
-      return parts;
-    }
-    path.remove_prefix(dot + 1);
-  }
+  std::vector<std::string> parts = split(path, '.');
+  const bool isPath = !parts.empty() && std::ranges::find(parts, "") == parts.end();
+  return isPath ? std::optional(std::move(parts)) : std::nullopt;
 }
 
 std::optional<Json> valueAt(const Json& root, const std::vector<std::string>& path) {

@@ -34,37 +34,21 @@ std::string textText(const Json& text) {
   return text.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-std::string arrayText(const Json& array) {
-  std::string text = "[";
-  for (const Json& element : array) {
-    text += text.size() > 1 ? "," : "";
-    text += jsonText(element);
-  }
-  return text + "]";
-}
-
-std::string objectText(const Json& object) {
-  std::string text = "{";
-  for (const auto& [key, value] : object.items()) {
-    text += text.size() > 1 ? "," : "";
-    text += textText(key) + ":" + jsonText(value);
-  }
-  return text + "}";
-}
-
 }  // namespace
 
 std::string jsonText(const Json& value) {
-  if (value.is_object()) {
-    return objectText(value);
-  }
-  if (value.is_array()) {
-    return arrayText(value);
-  }
   if (value.is_number_float()) {
     return numberText(value.get<double>());
   }
-  return textText(value);
+  if (!value.is_structured()) {
+    return textText(value);
+  }
+  std::string text;
+  for (const auto& [key, element] : value.items()) {
+    text += text.empty() ? "" : ",";
+    text += (value.is_object() ? textText(key) + ":" : "") + jsonText(element);
+  }
+  return value.is_object() ? "{" + text + "}" : "[" + text + "]";
 }
 
 Json jsonRectangle(const CGRect& rect) {

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <string>
-#include <utility>
 
 #include "desk/quartz/Utf8.hpp"
 
@@ -38,74 +38,33 @@ Problem problemWithBytes(std::string_view line) {
   return std::nullopt;
 }
 
-/// Reads one word from its first character on.
-class WordReader {
- public:
-  WordReader(std::string_view line, std::size_t begin) : line_(line), place_(begin) {
-    word_.begin = begin;
-  }
-
-  /// False for an unterminated quote.
-  bool read() {
-    while (place_ < line_.size() && !isBlank(line_[place_])) {
-      if (line_[place_] != '"') {
-        word_.text += line_[place_++];
-      } else if (!readQuoted()) {
-        return false;
+/// Reads the word at `place` and moves `place` to its end. False for an unterminated quote, to
+/// which it then moves.
+bool readWord(std::string_view line, std::size_t& place, Word& word) {
+  constexpr std::string_view escapes = R"("\nt)";
+  constexpr std::string_view replacements = "\"\\\n\t";
+  word.begin = place;
+  std::optional<std::size_t> quote;
+  for (; place < line.size() && (quote || !isBlank(line[place])); ++place) {
+    const char character = line[place];
+    if (character == '"') {
+      quote = quote ? std::nullopt : std::optional(place);
+    } else if (!quote || character != '\\') {
+      word.text += character;
+    } else if (place + 1 < line.size()) {
+      const std::size_t escape = escapes.find(line[place + 1]);
+      if (escape != std::string_view::npos) {
+        word.text += replacements[escape];
+        ++place;
+      } else if (!word.problem) {
+        word.problem = "unknown escape" + atColumn(line, place);
       }
     }
-    word_.end = place_;
-    return true;
   }
-
-  [[nodiscard]] std::size_t place() const { return place_; }
-  Word take() { return std::move(word_); }
-
- private:
-  bool readQuoted() {
-    const std::size_t quote = place_++;
-    while (place_ < line_.size()) {
-      const char character = line_[place_++];
-      if (character == '"') {
-        return true;
-      }
-      if (character != '\\') {
-        word_.text += character;
-      } else if (place_ < line_.size()) {
-        readEscape();
-      }
-    }
-    place_ = quote;
-    return false;
-  }
-
-  /// Reads an escape, from the character after the backslash.
-  void readEscape() {
-    const char character = line_[place_];
-    switch (character) {
-      case '"':
-      case '\\':
-        word_.text += character;
-        break;
-      case 'n':
-        word_.text += '\n';
-        break;
-      case 't':
-        word_.text += '\t';
-        break;
-      default:
-        if (!word_.problem) {
-          word_.problem = "unknown escape" + atColumn(line_, place_ - 1);
-        }
-        return;
-    }
-    ++place_;
-  }
-
-  std::string_view line_;
-  std::size_t place_;
-  Word word_;
-};
+  word.end = place;
+  place = quote.value_or(place);
+  return !quote;
+}
 
 }  // namespace
 
@@ -122,13 +81,10 @@ LexedLine lexLine(std::string_view line) {
     if (place == line.size() || line[place] == '#') {
       return result;
     }
-    WordReader reader(line, place);
-    if (!reader.read()) {
-      result.problem = "unterminated quote" + atColumn(line, reader.place());
+    if (!readWord(line, place, result.words.emplace_back())) {
+      result.problem = "unterminated quote" + atColumn(line, place);
       return result;
     }
-    place = reader.place();
-    result.words.push_back(reader.take());
   }
 }
 

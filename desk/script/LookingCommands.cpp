@@ -143,9 +143,7 @@ void addLookingCommands(CommandTable& table) {
             takes(Parameter<PictureRequest>{"FILE [SURFACE] [scale S]", readPictureRequest}),
             picture);
   table.add(
-      "echo",
-      takes(Parameter<std::string>{
-          "TEXT", [](ScriptContext&, Arguments& arguments) { return arguments.restAsText(); }}),
+      "echo", takes(restOfLine("TEXT")),
       [](ScriptContext& context, const std::string& words) { context.output << words << '\n'; });
 }
 

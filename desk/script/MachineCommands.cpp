@@ -54,6 +54,14 @@ Parameter<std::int64_t> duration() {
           }};
 }
 
+/// An operation on the displays.
+template <typename... Values>
+auto onDisplays(Displays::Problem (Displays::*operation)(Values...)) {
+  return [operation](Machine& machine, const Values&... values) {
+    return (machine.displays.*operation)(values...);
+  };
+}
+
 }  // namespace
 
 void addMachineCommands(CommandTable& table) {
@@ -69,23 +77,13 @@ void addMachineCommands(CommandTable& table) {
             [](Machine& machine, NewDisplay added) {
               return machine.displays.attach(std::move(added.display), added.isMain);
             });
-  table.add("display detach", takes(displayNumber("N")),
-            [](Machine& machine, std::uint32_t number) { return machine.displays.detach(number); });
-  table.add("display frame", takes(displayNumber("N"), frame()),
-            [](Machine& machine, std::uint32_t number, const CGRect& rect) {
-              return machine.displays.setFrame(number, rect);
-            });
+  table.add("display detach", takes(displayNumber("N")), onDisplays(&Displays::detach));
+  table.add("display frame", takes(displayNumber("N"), frame()), onDisplays(&Displays::setFrame));
   table.add("display renumber", takes(displayNumber("N"), displayNumber("M")),
-            [](Machine& machine, std::uint32_t number, std::uint32_t newNumber) {
-              return machine.displays.renumber(number, newNumber);
-            });
-  table.add("display main", takes(displayNumber("N")), [](Machine& machine, std::uint32_t number) {
-    return machine.displays.setMain(number);
-  });
-  table.add("display together", takes(),
-            [](Machine& machine) { return machine.displays.beginChanges(); });
-  table.add("display done", takes(),
-            [](Machine& machine) { return machine.displays.endChanges(); });
+            onDisplays(&Displays::renumber));
+  table.add("display main", takes(displayNumber("N")), onDisplays(&Displays::setMain));
+  table.add("display together", takes(), onDisplays(&Displays::beginChanges));
+  table.add("display done", takes(), onDisplays(&Displays::endChanges));
 }
 
 }  // namespace orvane::desk::script

@@ -10,6 +10,10 @@ Parameter<std::string> text(std::string name, std::string usage) {
           }};
 }
 
+Parameter<std::string> restOfLine(const std::string& usage) {
+  return {usage, [](ScriptContext&, Arguments& arguments) { return arguments.restAsText(); }};
+}
+
 Parameter<double> coordinate(const std::string& name) {
   return {name,
           [name](ScriptContext&, Arguments& arguments) { return arguments.coordinate(name); }};

@@ -31,6 +31,8 @@ template <typename... Values>
 
 /// `name` names the argument in messages; it is also the usage text if that is empty.
 [[nodiscard]] Parameter<std::string> text(std::string name, std::string usage = {});
+/// All remaining words, separated by blanks; may be empty.
+[[nodiscard]] Parameter<std::string> restOfLine(const std::string& usage);
 [[nodiscard]] Parameter<double> coordinate(const std::string& name);
 [[nodiscard]] Parameter<std::uint32_t> displayNumber(const std::string& name);
 /// "X Y", in global coordinates.

@@ -10,8 +10,6 @@
 #include <system_error>
 #include <utility>
 
-#include "desk/script/Interpreter.hpp"
-
 namespace orvane::desk::script {
 
 namespace {
@@ -87,11 +85,10 @@ ScriptProgram::Status ScriptProgram::run(std::istream& script, const std::string
                           status = failed;
                           report(text);
                         }};
-  Interpreter interpreter(settings_.commands, context);
   std::string line;
   while (status != broken && std::getline(script, line)) {
     ++lineNumber;
-    if (const Problem problem = interpreter.run(cleaned(line, lineNumber))) {
+    if (const Problem problem = settings_.commands.run(cleaned(line, lineNumber), context)) {
       report(*problem);
       status = broken;
     }

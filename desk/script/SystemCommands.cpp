@@ -56,7 +56,7 @@ PropertyValue readPropertyValue(ScriptContext& /*context*/, Arguments& arguments
 }
 
 Appearance::Accent readAccent(ScriptContext& /*context*/, Arguments& arguments) {
-  const std::vector<std::string> parts = splitAtCommas(arguments.text("R,G,B"));
+  const std::vector<std::string> parts = split(arguments.text("R,G,B"), ',');
   std::vector<Word> words(parts.size());
   std::ranges::transform(parts, words.begin(), [](const std::string& part) {
     return Word{.text = part, .begin = 0, .end = 0, .problem = {}};
@@ -93,34 +93,37 @@ void disableTap(Machine& machine, Disabling how) {
 
 void setLanguages(Machine& machine, const Languages& languages) {
   if (languages.preferred) {
-    machine.locale.preferredLanguages = splitAtCommas(*languages.preferred);
+    machine.locale.preferredLanguages = split(*languages.preferred, ',');
   }
   machine.locale.currentIdentifier = languages.current.value_or(machine.locale.currentIdentifier);
 }
 
+/// Sets a part of the appearance.
+template <typename Value, typename Member>
+auto setsLook(Member Appearance::*member) {
+  return [member](Machine& machine, Value value) { machine.appearance.*member = value; };
+}
+
 void addLooks(CommandTable& table) {
+  using Accent = Appearance::Accent;
   table.add("appearance", takes(either("light|dark", "light", "dark")),
-            [](Machine& machine, bool isDark) { machine.appearance.isDark = isDark; });
-  table.add(
-      "accent", takes(Parameter<Appearance::Accent>{"R,G,B", readAccent}),
-      [](Machine& machine, Appearance::Accent accent) { machine.appearance.accent = accent; });
-  table.add(
-      "wallpaper",
-      takes(choice<Wallpaper>("white|black|busy|default",
-                              {{"default", Wallpaper::standard},
-                               {"white", Wallpaper::white},
-                               {"black", Wallpaper::black},
-                               {"busy", Wallpaper::busy}},
-                              "the wallpaper")),
-      [](Machine& machine, Wallpaper wallpaper) { machine.appearance.wallpaper = wallpaper; });
+            setsLook<bool>(&Appearance::isDark));
+  table.add("accent", takes(Parameter<Accent>{"R,G,B", readAccent}),
+            setsLook<Accent>(&Appearance::accent));
+  table.add("wallpaper",
+            takes(choice<Wallpaper>("white|black|busy|default",
+                                    {{"default", Wallpaper::standard},
+                                     {"white", Wallpaper::white},
+                                     {"black", Wallpaper::black},
+                                     {"busy", Wallpaper::busy}},
+                                    "the wallpaper")),
+            setsLook<Wallpaper>(&Appearance::wallpaper));
   table.add("motion", takes(either("reduced|full", "full", "reduced")),
-            [](Machine& machine, bool reduces) { machine.appearance.reducesMotion = reduces; });
-  table.add(
-      "transparency", takes(either("reduced|full", "full", "reduced")),
-      [](Machine& machine, bool reduces) { machine.appearance.reducesTransparency = reduces; });
-  table.add(
-      "contrast", takes(either("increased|normal", "normal", "increased")),
-      [](Machine& machine, bool increases) { machine.appearance.increasesContrast = increases; });
+            setsLook<bool>(&Appearance::reducesMotion));
+  table.add("transparency", takes(either("reduced|full", "full", "reduced")),
+            setsLook<bool>(&Appearance::reducesTransparency));
+  table.add("contrast", takes(either("increased|normal", "normal", "increased")),
+            setsLook<bool>(&Appearance::increasesContrast));
 }
 
 }  // namespace

@@ -3,8 +3,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <string_view>
+#include <filesystem>
 
 namespace orvane::desk {
 
@@ -69,21 +68,13 @@ void AccessibilityList::remove(const std::string& name) {
 }
 
 std::string AccessibilityList::applicationOf(const std::string& fileUrl) {
-  constexpr std::string_view scheme = "file:";
-  constexpr std::string_view suffix = ".app";
-  std::string_view path = fileUrl;
-  if (!path.starts_with(scheme)) {
-    return {};
+  std::filesystem::path path = fileUrl;
+  if (!path.has_filename()) {
+    path = path.parent_path();
   }
-  while (path.ends_with('/')) {
-    path.remove_suffix(1);
-  }
-  if (!path.ends_with(suffix)) {
-    return {};
-  }
-  path.remove_suffix(suffix.size());
-  const std::size_t slash = path.rfind('/');
-  return slash == std::string_view::npos ? std::string() : std::string(path.substr(slash + 1));
+  const bool isBundle =
+      fileUrl.starts_with("file:") && path.has_parent_path() && path.extension() == ".app";
+  return isBundle ? path.stem().string() : std::string();
 }
 
 }  // namespace orvane::desk

@@ -21,8 +21,12 @@ namespace {
 
 View smallButton(const std::string& symbol, const std::string& label,
                  const std::function<void()>& action, bool isEnabled) {
-  return Button(action, Symbol(symbol).font(Font::system(11, Weight::semibold)).frame(26, 24))
-      .style(SettingsButtonStyle{.fadesWhenDisabled = !isEnabled})
+  const View drawing = Symbol(symbol)
+                           .font(Font::system(11, Weight::semibold))
+                           .frame(26, 24)
+                           .opacity(isEnabled ? 1 : 0.35);
+  return Button(action, drawing)
+      .style(BareButtonStyle{})
       .accessibilityLabel(label)
       .disabled(!isEnabled);
 }
@@ -36,7 +40,7 @@ View row(SystemSettings& settings, const AccessibilityList::Entry& entry) {
           .height(rowHeight);
   const View selecting =
       Button([&settings, name = entry.name] { settings.select(name); }, label)
-          .style(SettingsButtonStyle{})
+          .style(BareButtonStyle{})
           .accessibilityRole(Role::radioButton)
           .accessibilityLabel(settings.language().text("Select ", "选择 ") + entry.name)
           .accessibilitySelected(isSelected);

@@ -28,7 +28,7 @@ View backButton(SystemSettings& settings) {
   }
   const View chevron = Symbol("chevron.left").font(Font::system(15, Weight::medium)).frame(20, 24);
   return Button([&settings, name = parent->name] { settings.goTo(name); }, chevron)
-      .style(SettingsButtonStyle{})
+      .style(BareButtonStyle{})
       .accessibilityLabel(settings.language().text("Back", "返回"));
 }
 
@@ -84,7 +84,7 @@ struct SettingsSwitch {
                              .frame(width, height)
                              .animation(Curve::easeInOut(0.15), isOn);
     return Button(onToggle, drawing)
-        .style(SettingsButtonStyle{})
+        .style(BareButtonStyle{})
         .focusRing(Shape::capsule())
         .accessibilityRole(Role::toggle)
         .accessibilityLabel(label)

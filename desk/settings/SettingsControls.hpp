@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "Orvane/ui/views/Button.hpp"
 #include "Orvane/ui/views/View.hpp"
 
 namespace orvane::desk {
@@ -32,18 +31,5 @@ class SystemSettings;
 
 /// The icon of an application; `side` is in points.
 [[nodiscard]] ui::View applicationIcon(const std::string& name, double side);
-
-/// The style of buttons that are drawn by their label. The label does not change while the button
-/// is pressed, nor while a sheet disables it, unless `fadesWhenDisabled`.
-struct SettingsButtonStyle {
-  bool fadesWhenDisabled = false;
-
-  ui::View operator()(const ui::ButtonConfiguration& configuration,
-                      const ui::Environment& /*environment*/) const {
-    constexpr double disabledOpacity = 0.35;
-    const bool isFaded = fadesWhenDisabled && !configuration.isEnabled;
-    return configuration.label.opacity(isFaded ? disabledOpacity : 1);
-  }
-};
 
 }  // namespace orvane::desk

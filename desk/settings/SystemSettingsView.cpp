@@ -71,7 +71,7 @@ struct ApplicationChooser {
             .background(
                 RoundedRectangle(5).fill(isChosen ? Color::accent() : Color::clear()).padding(2));
     return Button([settings = settings, name] { settings->choose(name); }, label)
-        .style(SettingsButtonStyle{})
+        .style(BareButtonStyle{})
         .accessibilityLabel(name)
         .accessibilityRole(Role::radioButton)
         .accessibilitySelected(isChosen);

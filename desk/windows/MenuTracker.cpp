@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <glib.h>
+
 #include "desk/windows/Implementations.hpp"
 #include "desk/windows/MenuMetrics.hpp"
 #include "desk/windows/WindowServer.hpp"
@@ -18,12 +20,7 @@ bool canBeChosen(const appkit::MenuItem& item) {
 
 /// Compared without regard to the case of ASCII letters.
 bool beginsWith(const std::string& title, const std::string& start) {
-  const auto lower = [](char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-  };
-  return start.size() <= title.size() &&
-         std::equal(start.begin(), start.end(), title.begin(),
-                    [&](char first, char second) { return lower(first) == lower(second); });
+  return g_ascii_strncasecmp(title.c_str(), start.c_str(), start.size()) == 0;
 }
 
 }  // namespace

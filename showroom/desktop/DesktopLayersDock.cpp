@@ -25,25 +25,6 @@ void paintShelf(desk::CairoCanvas& canvas, const DockShelf& dock,
   canvas.stroke(shape.inset(0.5), ui::Paint::solid({1, 1, 1, isDark ? 0.16 : 0.42}), 1);
 }
 
-/// The dot between the tile and the edge of the shelf that marks a running application.
-ui::Rect runningDot(const ui::Rect& tile, desk::DockEdge edge, double factor) {
-  const double size = 3.2 * factor;
-  const double distance = 3.6 * factor;
-  ui::Point center = tile.center();
-  switch (edge) {
-    case desk::DockEdge::bottom:
-      center.y = tile.bottom() + distance;
-      break;
-    case desk::DockEdge::left:
-      center.x = tile.x - distance;
-      break;
-    case desk::DockEdge::right:
-      center.x = tile.right() + distance;
-      break;
-  }
-  return {center.x - size / 2, center.y - size / 2, size, size};
-}
-
 }  // namespace
 
 void paintDockLayer(const DesktopScene& scene, const DisplayCanvas& display) {
@@ -62,8 +43,7 @@ void paintDockLayer(const DesktopScene& scene, const DisplayCanvas& display) {
   for (std::size_t index = 0; index < shelf.tiles.size(); ++index) {
     paintDockTile(canvas, index, shelf.tiles[index], day);
     if (isDockTileRunning(index)) {
-      canvas.fill(ui::Shape::circle(runningDot(shelf.tiles[index], dock.edge(), shelf.factor)),
-                  ui::Paint::solid(ink));
+      canvas.fill(ui::Shape::circle(shelf.dots[index]), ui::Paint::solid(ink));
     }
   }
   canvas.fill(ui::Shape::rectangle(shelf.separator),

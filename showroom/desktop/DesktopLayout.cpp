@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <numeric>
 
 #include "showroom/desktop/Rects.hpp"
 
@@ -16,18 +18,18 @@ constexpr double overlapTolerance = 2;
 /// For each frame the length of the longest chain of frames before it along one axis. Frames that
 /// do not overlap along the axis have different ranks, so shifts in proportion to the ranks keep
 /// them apart.
-std::vector<int> ranks(const std::vector<double>& starts, const std::vector<double>& ends) {
-  std::vector<std::size_t> order(starts.size());
-  for (std::size_t index = 0; index < order.size(); ++index) {
-    order[index] = index;
-  }
-  std::stable_sort(order.begin(), order.end(), [&](std::size_t first, std::size_t second) {
-    return starts[first] < starts[second];
-  });
-  std::vector<int> result(starts.size(), 0);
+template <typename Start, typename End>
+std::vector<int> ranks(const std::vector<ui::Rect>& frames, const Start& start, const End& end) {
+  std::vector<std::size_t> order(frames.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::ranges::stable_sort(order, {},
+                           [&](std::size_t index) { return std::invoke(start, frames[index]); });
+  std::vector<int> result(frames.size(), 0);
   for (const std::size_t index : order) {
+    const double place = std::invoke(start, frames[index]);
     for (const std::size_t other : order) {
-      if (starts[other] < starts[index] && ends[other] <= starts[index] + overlapTolerance) {
+      if (std::invoke(start, frames[other]) < place &&
+          std::invoke(end, frames[other]) <= place + overlapTolerance) {
         result[index] = std::max(result[index], result[other] + 1);
       }
     }
@@ -38,27 +40,18 @@ std::vector<int> ranks(const std::vector<double>& starts, const std::vector<doub
 /// The screens' frames in points of the picture, origin at the top left of the layout.
 std::vector<ui::Rect> framesInPoints(const std::vector<CGRect>& frames, DesktopStyle style) {
   std::vector<ui::Rect> places;
-  std::vector<double> lefts;
-  std::vector<double> rights;
-  std::vector<double> tops;
-  std::vector<double> bottoms;
   ui::Rect bounds;
   for (const CGRect& frame : frames) {
-    const ui::Rect rect = rectOf(frame);
-    places.push_back(rect);
-    lefts.push_back(rect.x);
-    rights.push_back(rect.right());
-    tops.push_back(rect.y);
-    bottoms.push_back(rect.bottom());
-    bounds = bounds.united(rect);
+    places.push_back(rectOf(frame));
+    bounds = bounds.united(places.back());
   }
   ui::Point shift{-bounds.x, -bounds.y};
   if (style == DesktopStyle::monitors) {
     shift.x += DesktopLayout::margin + DesktopLayout::border;
     shift.y += DesktopLayout::margin + DesktopLayout::border;
   }
-  const std::vector<int> columns = ranks(lefts, rights);
-  const std::vector<int> rows = ranks(tops, bottoms);
+  const std::vector<int> columns = ranks(places, &ui::Rect::x, &ui::Rect::right);
+  const std::vector<int> rows = ranks(places, &ui::Rect::y, &ui::Rect::bottom);
   for (std::size_t index = 0; index < places.size(); ++index) {
     ui::Point distance = shift;
     if (style == DesktopStyle::monitors) {

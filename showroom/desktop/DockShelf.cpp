@@ -14,6 +14,9 @@ constexpr double shelfPadding = 7;
 constexpr double separatorRoom = 11;
 constexpr double edgeDistance = 5;
 constexpr double shelfCorner = 17;
+constexpr double dotSize = 3.2;
+/// From the tile to the middle of the dot.
+constexpr double dotDistance = 3.6;
 
 /// A rectangle in coordinates along and away from the edge.
 struct Strip {
@@ -75,6 +78,10 @@ DockShelf DockShelf::make(const ui::Rect& area, desk::DockEdge edge, double show
     }
     result.tiles.push_back(rotated(
         {along, away + shelfPadding * factor, tileSize * factor, tileSize * factor}, area, edge));
+    result.dots.push_back(rotated({along + (tileSize - dotSize) / 2 * factor,
+                                   away + (shelfPadding - dotDistance - dotSize / 2) * factor,
+                                   dotSize * factor, dotSize * factor},
+                                  area, edge));
     along += (tileSize + tileSpacing) * factor;
   }
   return result;

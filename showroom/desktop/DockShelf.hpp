@@ -15,6 +15,8 @@ struct DockShelf {
   double cornerRadius = 0;
   /// The applications' tiles in order along the edge, then the bin's.
   std::vector<ui::Rect> tiles;
+  /// For each tile, the dot between it and the edge that marks a running application.
+  std::vector<ui::Rect> dots;
   /// The line between the applications and the bin.
   ui::Rect separator;
   /// The scale of all lengths; less than 1 if the edge is too short for the full size.

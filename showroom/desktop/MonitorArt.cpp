@@ -31,13 +31,10 @@ bool hasRoomBelow(const DesktopLayout& layout, std::size_t index) {
   const auto& screens = layout.screens();
   const ui::Rect own = monitorAround(inPoints(screens[index].pixels, layout.scale()));
   const ui::Rect below{own.x, own.bottom(), own.width, DesktopLayout::standHeight};
-  for (std::size_t other = 0; other < screens.size(); ++other) {
-    if (other != index &&
-        monitorAround(inPoints(screens[other].pixels, layout.scale())).intersects(below)) {
-      return false;
-    }
-  }
-  return true;
+  return std::ranges::none_of(screens, [&](const ScreenPlacement& other) {
+    return &other != &screens[index] &&
+           monitorAround(inPoints(other.pixels, layout.scale())).intersects(below);
+  });
 }
 
 void paintLaptopBase(desk::CairoCanvas& canvas, const ui::Rect& monitor, bool isDark) {

@@ -21,7 +21,6 @@ using desk::Display;
 using desk::Dock;
 using desk::DockEdge;
 using desk::settingsBadge;
-using desk::SettingsButtonStyle;
 using desk::settingsGroup;
 using desk::SettingsPage;
 using desk::settingsSwitch;
@@ -49,7 +48,7 @@ View choiceRow(const std::string& title, bool isChosen, const std::function<void
     return Symbol("checkmark").font(Font::system(12, Weight::semibold)).foreground(Color::accent());
   };
   return Button(choose, pageRow(title, when(isChosen, mark)))
-      .style(SettingsButtonStyle{})
+      .style(BareButtonStyle{})
       .accessibilityLabel(title)
       .accessibilityRole(Role::radioButton)
       .accessibilitySelected(isChosen);
@@ -126,7 +125,7 @@ View makePrivacyPage(SystemSettings& settings) {
                          .padding(Edges::horizontal(10))
                          .height(40);
   const View row = Button([&settings] { settings.goTo(SystemSettings::accessibilityPage); }, label)
-                       .style(SettingsButtonStyle{})
+                       .style(BareButtonStyle{})
                        .accessibilityLabel(accessibility);
   return titledPage(settings, language.text("Privacy & Security", "隐私与安全性"),
                     settingsGroup({row}));
@@ -148,7 +147,7 @@ View sidebarRow(SystemSettings& settings, const std::string& page, const std::st
           .height(rowHeight)
           .background(RoundedRectangle(radius).fill(isSelected ? Color::accent() : Color::clear()));
   return Button([&settings, page] { settings.goTo(page); }, label)
-      .style(SettingsButtonStyle{})
+      .style(BareButtonStyle{})
       .focusRing(Shape::rounded(radius))
       .accessibilityLabel(title)
       .accessibilityRole(Role::radioButton)

@@ -1,229 +1,214 @@
-// The pointer moves only by hardware movements.
+// Each action runs what is due after every event, as time passes during a walk.
 #include "showroom/tour/TourStage.hpp"
 
 #include <algorithm>
 #include <ostream>
+#include <type_traits>
 #include <utility>
 
-#include "Orvane/base/Require.hpp"
 #include "desk/canvas/PngFile.hpp"
+#include "desk/hand/Hand.hpp"
 #include "desk/hand/InQuotes.hpp"
 #include "desk/windows/Surfaces.hpp"
 #include "desk/windows/WindowServer.hpp"
-#include "showroom/settings/SettingsPages.hpp"
 #include "showroom/tour/TourPicture.hpp"
 
 namespace orvane::showroom {
 
 namespace {
 
+using desk::Machine;
+using desk::script::Arguments;
+using desk::script::Parameter;
+using desk::script::ScriptContext;
+using desk::script::takes;
+using desk::script::text;
+
 /// In points; reaches the edge from the location to which the guard moves the pointer back.
 constexpr double pushLength = 24;
 
-}  // namespace
-
-TourStage::TourStage(std::filesystem::path directory, std::ostream& output, std::ostream& errors)
-    : directory_(std::move(directory)),
-      output_(output),
-      errors_(errors),
-      application_(scope_.machine()) {
-  addSettingsPages(application_.systemSettings());
+CGPoint middleOf(const CGRect& area) {
+  return {CGRectGetMidX(area), CGRectGetMidY(area)};
 }
 
-void TourStage::push(double dx, double dy) {
-  desk::Machine& desk = machine();
-  const desk::PointerMovement movement = desk.mouse.moveBy(dx, dy);
-  desk.runDue();
-  movedBack_.reset();
-  if (movement.outcome == desk::PointerMovement::Outcome::movedBack) {
-    movedBack_ = MovedBack{movement.wanted, movement.reached, 1};
-  }
-}
-
-void TourStage::walkTo(CGPoint place) {
-  constexpr int movements = 25;
-  constexpr double pause = 0.02;
-  const CGPoint start = machine().pointer.location();
-  for (int movement = 1; movement <= movements; ++movement) {
-    const CGPoint now = machine().pointer.location();
-    const double fraction = static_cast<double>(movement) / movements;
-    push(start.x + (place.x - start.x) * fraction - now.x,
-         start.y + (place.y - start.y) * fraction - now.y);
-    machine().advance(pause);
-  }
-}
-
-void TourStage::pressLowerEdge(std::uint32_t displayNumber, int times, double every) {
-  const CGRect screen = screenOf(displayNumber);
-  constexpr double startAbove = 120;
-  walkTo({CGRectGetMidX(screen), CGRectGetMaxY(screen) - startAbove});
-  walkTo({CGRectGetMidX(screen), CGRectGetMaxY(screen) - pushLength});
-  for (int time = 0; time < times; ++time) {
-    if (time > 0) {
-      machine().advance(every);
-    }
-    push(0, pushLength);
-  }
-}
-
-CGRect TourStage::screenOf(std::uint32_t displayNumber) {
-  const auto& displays = machine().displays.all();
-  const auto found = std::ranges::find(displays, displayNumber, &desk::Display::number);
-  require(found != displays.end(), "the tour needs a display that is not attached");
-  return machine().displays.globalFrames()[static_cast<std::size_t>(found - displays.begin())];
-}
-
-CGRect TourStage::clippedToScreen(const CGRect& area) {
-  const CGPoint middle{CGRectGetMidX(area), CGRectGetMidY(area)};
-  const auto index = machine().displays.indexContaining(middle);
+/// The part of an area on the screen that contains its middle.
+CGRect clippedToScreen(const desk::Displays& displays, const CGRect& area) {
+  const auto index = displays.indexContaining(middleOf(area));
   if (!index) {
     return area;
   }
-  const CGRect screen = machine().displays.globalFrames()[*index];
+  const CGRect screen = displays.globalFrames()[*index];
   const double left = std::max(area.origin.x, screen.origin.x);
   const double top = std::max(area.origin.y, screen.origin.y);
   return CGRectMake(left, top, std::min(CGRectGetMaxX(area), CGRectGetMaxX(screen)) - left,
                     std::min(CGRectGetMaxY(area), CGRectGetMaxY(screen)) - top);
 }
 
-void TourStage::clickAt(CGPoint place) {
-  constexpr double pause = 0.1;
-  walkTo(place);
-  machine().advance(pause);
-  hand_.pressButton();
-  hand_.releaseButton();
+/// The number of a display; its frame in global coordinates.
+Parameter<CGRect> screen() {
+  return {"N", [](ScriptContext& context, Arguments& arguments) {
+            const std::uint32_t number = arguments.displayNumber("N");
+            const desk::Displays& displays = context.machine().displays;
+            const auto& all = displays.all();
+            const auto found = std::ranges::find(all, number, &desk::Display::number);
+            if (found == all.end()) {
+              arguments.report("there is no display " + std::to_string(number));
+              return CGRect{};
+            }
+            return displays.globalFrames()[static_cast<std::size_t>(found - all.begin())];
+          }};
 }
 
-void TourStage::click(const std::string& label, const std::string& surface) {
-  const desk::Hand::FoundControl found = hand_.find({label, surface});
-  check(found.control.has_value(), "there is a control \"" + label + "\" in " + surface);
-  if (found.control) {
-    const CGRect& frame = found.control->frame;
-    clickAt({CGRectGetMidX(frame), CGRectGetMidY(frame)});
+/// "HH:MM", in seconds since midnight.
+Parameter<double> timeOfDay() {
+  return {"HH:MM", [](ScriptContext&, Arguments& arguments) {
+            const std::string time = arguments.text("HH:MM");
+            const std::size_t colon = std::min(time.find(':'), time.size() - 1);
+            const auto hours = arguments.integer("the hour", 0, 23, time.substr(0, colon));
+            const auto minutes = arguments.integer("the minute", 0, 59, time.substr(colon + 1));
+            return static_cast<double>((hours * 60 + minutes) * 60);
+          }};
+}
+
+Parameter<std::int64_t> times() {
+  return {"TIMES", [](ScriptContext& context, Arguments& arguments) {
+            return arguments.integer("TIMES", 1, context.limits.repetitions);
+          }};
+}
+
+}  // namespace
+
+void TourStage::addCommands(desk::script::CommandTable& table) {
+  // A member function as an action.
+  const auto bound = [this]<typename Result, typename On, typename... Values>(
+                         Result (TourStage::*action)(On&, Values...)) {
+    return [this, action](On& on, const std::decay_t<Values>&... values) {
+      return (this->*action)(on, values...);
+    };
+  };
+  table.add("wait until", takes(timeOfDay()), [](Machine& machine, double seconds) {
+    machine.advance(seconds - static_cast<double>(machine.clock.now()) /
+                                  static_cast<double>(desk::Clock::nanosecondsPerSecond));
+  });
+  table.add("walk", takes(desk::script::point()), bound(&TourStage::walk));
+  table.add("rest", takes(screen()), bound(&TourStage::rest));
+  table.add("touch", takes(screen(), times(), desk::script::coordinate("S")),
+            bound(&TourStage::touchEdge));
+  table.add("button down", takes(), [](Machine& machine) { desk::Hand(machine).pressButton(); });
+  table.add("button up", takes(), [](Machine& machine) { desk::Hand(machine).releaseButton(); });
+  table.add("click control", takes(text("\"LABEL\""), text("SURFACE")),
+            bound(&TourStage::clickControl));
+  table.add("click item", takes(text("\"ITEM\"")), bound(&TourStage::clickItem));
+  table.add("click icon", takes(screen()), bound(&TourStage::clickIcon));
+  table.add("mark zones", takes(), [this](Machine&) { showsZones_ = true; });
+  table.add("caption", takes(desk::script::restOfLine("TEXT")), bound(&TourStage::addStep));
+  table.add("close-up", takes(text("NAME"), text("SURFACE")), bound(&TourStage::writeCloseUp));
+}
+
+void TourStage::push(Machine& machine, double dx, double dy) {
+  const desk::PointerMovement movement = machine.mouse.moveBy(dx, dy);
+  machine.runDue();
+  movedBack_.reset();
+  if (movement.outcome == desk::PointerMovement::Outcome::movedBack) {
+    movedBack_ = MovedBack{movement.wanted, movement.reached, 1};
   }
 }
 
-void TourStage::pick(const std::string& label, const std::string& item,
-                     const std::string& surface) {
-  click(label, surface);
-  const std::optional<CGPoint> place = hand_.menuItemCenter(item);
-  check(place.has_value(), "there is an item \"" + item + "\" of " + label);
-  if (place) {
-    clickAt(*place);
+void TourStage::walk(Machine& machine, CGPoint place) {
+  constexpr int movements = 25;
+  constexpr double pause = 0.02;
+  const CGPoint start = machine.pointer.location();
+  for (int movement = 1; movement <= movements; ++movement) {
+    const CGPoint now = machine.pointer.location();
+    const double fraction = static_cast<double>(movement) / movements;
+    push(machine, start.x + (place.x - start.x) * fraction - now.x,
+         start.y + (place.y - start.y) * fraction - now.y);
+    machine.advance(pause);
   }
 }
 
-void TourStage::clickIcon(std::uint32_t displayNumber) {
-  const CGRect icon = desk::StatusBar::itemFrame(screenOf(displayNumber));
-  clickAt({CGRectGetMidX(icon), CGRectGetMidY(icon)});
-}
-
-void TourStage::closeWindow(const std::string& surface) {
-  desk::WindowServer& server = desk::WindowServer::current();
-  if (const auto window = desk::Surfaces(server).window(surface)) {
-    server.performClose(window);
-    machine().runDue();
-  }
-}
-
-void TourStage::pressEscape() {
-  hand_.key({.key = ui::Key::escape});
-}
-
-void TourStage::dropIcon() {
-  desk::WindowServer& server = desk::WindowServer::current();
-  const auto system = desk::Surfaces(server).window("system");
-  const auto list = application_.systemSettings().listFrame();
-  const std::optional<CGPoint> icon = hand_.iconLocation();
-  check(icon && list && system != nullptr, "guide and list are there");
-  if (hasFailed()) {
-    return;
-  }
-  // Near the leading edge, where the guide does not cover the list.
-  constexpr double listInset = 40;
-  const CGPoint corner = server.originOf(*system->content).value_or(CGPoint{});
-  walkTo(*icon);
-  hand_.pressButton();
-  walkTo({corner.x + list->x + listInset, corner.y + list->y + list->height / 2});
-  hand_.releaseButton();
-}
-
-void TourStage::moveAway(std::uint32_t displayNumber) {
-  const CGRect screen = screenOf(displayNumber);
+void TourStage::rest(Machine& machine, const CGRect& screen) {
   constexpr double height = 0.45;
-  walkTo({CGRectGetMidX(screen), screen.origin.y + screen.size.height * height});
-  machine().advance(1);
+  walk(machine, {CGRectGetMidX(screen), screen.origin.y + screen.size.height * height});
+  machine.advance(1);
 }
 
-void TourStage::check(bool holds, const std::string& claim) {
-  if (!holds && hasPassed_) {
-    hasPassed_ = false;
-    errors_ << "orvane-desk: step " << stepCount_ + 1 << " of the tour is not true: " << claim
-            << '\n';
+void TourStage::touchEdge(Machine& machine, const CGRect& screen, std::int64_t times,
+                          double every) {
+  constexpr double startAbove = 120;
+  for (const double above : {startAbove, pushLength}) {
+    walk(machine, {CGRectGetMidX(screen), CGRectGetMaxY(screen) - above});
+  }
+  for (std::int64_t time = 0; time < times; ++time) {
+    machine.advance(time > 0 ? every : 0);
+    push(machine, 0, pushLength);
   }
 }
 
-void TourStage::addStep(const std::string& caption) {
-  if (hasFailed()) {
-    return;
+void TourStage::clickAt(Machine& machine, CGPoint place) {
+  constexpr double pause = 0.1;
+  walk(machine, place);
+  machine.advance(pause);
+  desk::Hand(machine).pressButton();
+  desk::Hand(machine).releaseButton();
+}
+
+TourStage::Problem TourStage::clickControl(Machine& machine, const std::string& label,
+                                           const std::string& surface) {
+  const desk::Hand::FoundControl found = desk::Hand(machine).find({label, surface});
+  if (found.control) {
+    clickAt(machine, middleOf(found.control->frame));
   }
+  return found.refusal;
+}
+
+TourStage::Problem TourStage::clickItem(Machine& machine, const std::string& item) {
+  const auto place = desk::Hand(machine).menuItemCenter(item);
+  if (!place) {
+    return "there is no item " + desk::inQuotes(item);
+  }
+  clickAt(machine, *place);
+  return std::nullopt;
+}
+
+void TourStage::clickIcon(Machine& machine, const CGRect& screen) {
+  clickAt(machine, middleOf(desk::StatusBar::itemFrame(screen)));
+}
+
+TourStage::Problem TourStage::addStep(Context& context, const std::string& caption) {
   ++stepCount_;
   constexpr int twoDigits = 10;
-  std::string number = std::to_string(stepCount_);
-  if (stepCount_ < twoDigits) {
-    number.insert(number.begin(), '0');
-  }
-  DesktopScene scene(machine(), application_);
+  const std::string number = (stepCount_ < twoDigits ? "0" : "") + std::to_string(stepCount_);
+  DesktopScene scene(context.machine(), context.application());
   scene.showsZones = showsZones_;
   scene.movedBack = movedBack_;
   const desk::SurfacePointer picture =
       renderTourPicture(painter_, resources_, scene, number, caption);
-  write(picture.get(), number);
-  if (!failedToWrite_) {
-    output_ << number << "  " << caption << std::endl;
+  Problem problem = write(picture.get(), number);
+  if (!problem) {
+    context.output << number << "  " << caption << std::endl;
   }
+  return problem;
 }
 
-void TourStage::writeCloseUp(const std::string& name, const std::string& surface) {
-  if (hasFailed()) {
-    return;
-  }
+TourStage::Problem TourStage::writeCloseUp(Context& context, const std::string& name,
+                                           const std::string& surface) {
   constexpr double margin = 28;
   const auto frame = desk::Surfaces(desk::WindowServer::current()).frame(surface);
-  check(frame.has_value(), "there is a surface " + desk::inQuotes(surface));
-  if (hasFailed()) {
-    return;
+  if (!frame) {
+    return "there is no surface " + desk::inQuotes(surface);
   }
   const CGRect area = CGRectMake(frame->origin.x - margin, frame->origin.y - margin,
                                  frame->size.width + 2 * margin, frame->size.height + 2 * margin);
   const desk::SurfacePointer picture =
-      renderCloseUp(painter_, DesktopScene(machine(), application_), clippedToScreen(area));
-  write(picture.get(), name);
+      renderCloseUp(painter_, DesktopScene(context.machine(), context.application()),
+                    clippedToScreen(context.machine().displays, area));
+  return write(picture.get(), name);
 }
 
-void TourStage::write(cairo_surface_t* picture, const std::string& fileName) {
-  const std::filesystem::path file = directory_ / (fileName + ".png");
-  if (!desk::writePng(picture, file)) {
-    failedToWrite_ = true;
-    errors_ << "orvane-desk: cannot write " << file.string() << '\n';
-  }
-}
-
-std::string TourStage::nameOf(std::uint32_t displayNumber) {
-  const desk::Display* const display = machine().displays.find(displayNumber);
-  return display == nullptr ? "no display" : display->name;
-}
-
-std::string TourStage::dockPlace() {
-  return nameOf(machine().dock.displayNumber().value_or(0));
-}
-
-bool TourStage::isDockOn(std::uint32_t displayNumber) {
-  return machine().dock.displayNumber() == displayNumber;
-}
-
-bool TourStage::isOpen(const std::string& surface) {
-  return desk::Surfaces(desk::WindowServer::current()).isOpen(surface);
+TourStage::Problem TourStage::write(cairo_surface_t* picture, const std::string& name) const {
+  const std::filesystem::path file = directory_ / (name + ".png");
+  return desk::writePng(picture, file) ? std::nullopt : Problem("cannot write " + file.string());
 }
 
 }  // namespace orvane::showroom

@@ -1,11 +1,11 @@
-// The steps of the tour.
+// The script of the tour, tour.desk.
 #pragma once
 
-#include "showroom/tour/TourStage.hpp"
+#include <string_view>
 
 namespace orvane::showroom {
 
-/// Plays all steps on a stage with a new machine.
-void playTour(TourStage& stage);
+/// In the desk's script language, with the commands of TourStage.
+[[nodiscard]] std::string_view tourStory();
 
 }  // namespace orvane::showroom

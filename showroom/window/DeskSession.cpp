@@ -14,6 +14,7 @@ namespace {
 
 /// From the machine's start at midnight to 10:08.
 constexpr double secondsToMorning = (10 * 60 + 8) * 60;
+constexpr std::int64_t second = desk::Clock::nanosecondsPerSecond;
 
 }  // namespace
 
@@ -39,7 +40,10 @@ void DeskSession::movePointerBy(double dx, double dy) {
     return;
   }
   desk.runDue();
-  rate_.add(desk.clock.now());
+  while (!movedAt_.empty() && movedAt_.front() <= desk.clock.now() - second) {
+    movedAt_.pop_front();
+  }
+  movedAt_.push_back(desk.clock.now());
   if (movement.outcome == desk::PointerMovement::Outcome::movedBack) {
     movedBack_ = MovedBack{movement.wanted, movement.reached, 1};
     movedBackAt_ = desk.clock.now();
@@ -68,7 +72,8 @@ DesktopScene DeskSession::scene() const {
 }
 
 std::int64_t DeskSession::eventsPerSecond() const {
-  return rate_.perSecond(machine().clock.now());
+  return std::ranges::count_if(
+      movedAt_, [end = machine().clock.now() - second](std::int64_t time) { return time > end; });
 }
 
 std::int64_t DeskSession::nanosecondsToNextChange() const {
@@ -86,7 +91,7 @@ std::int64_t DeskSession::nanosecondsToNextChange() const {
     next = std::min(next, std::max<std::int64_t>(*due - now, 0));
   }
   if (eventsPerSecond() > 0) {
-    next = std::min(next, std::max<std::int64_t>(rate_.nextChangeAt() - now, 0));
+    next = std::min(next, std::max<std::int64_t>(movedAt_.back() + second - now, 0));
   }
   return next;
 }

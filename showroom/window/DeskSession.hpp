@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <optional>
 
 #include "desk/application/ApplicationHost.hpp"
@@ -11,7 +12,6 @@
 #include "desk/machine/MachineScope.hpp"
 #include "showroom/desktop/DesktopScene.hpp"
 #include "showroom/hardware/HardwareContent.hpp"
-#include "showroom/window/EventRate.hpp"
 
 namespace orvane::showroom {
 
@@ -42,6 +42,7 @@ class DeskSession {
   [[nodiscard]] HardwareContent hardwareContent(bool isMouseHeld) const;
 
   [[nodiscard]] DesktopScene scene() const;
+  /// The number of movements in the last second.
   [[nodiscard]] std::int64_t eventsPerSecond() const;
   [[nodiscard]] std::optional<MovedBack> movedBack() const;
   /// Nanoseconds until the picture changes without input; 0 during an animation.
@@ -51,7 +52,8 @@ class DeskSession {
   desk::MachineScope scope_;
   desk::ApplicationHost application_;
   Hardware hardware_;
-  EventRate rate_;
+  /// The times of the last second's movements.
+  std::deque<std::int64_t> movedAt_;
   std::optional<MovedBack> movedBack_;
   std::int64_t movedBackAt_ = 0;
 };

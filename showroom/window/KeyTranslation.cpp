@@ -1,7 +1,9 @@
 // SDL identifies a character key by its character without modifiers.
 #include "showroom/window/KeyTranslation.hpp"
 
+#include <array>
 #include <string>
+#include <utility>
 
 #include "Orvane/platform/Quartz.hpp"
 
@@ -14,36 +16,24 @@ ui::KeyModifiers modifiersOf(std::uint16_t state) {
           (state & KMOD_GUI) != 0};
 }
 
-std::optional<ui::Key> keyOf(SDL_Keycode code) {
-  switch (code) {
-    case SDLK_TAB:
-      return ui::Key::tab;
-    case SDLK_RETURN:
-    case SDLK_KP_ENTER:
-      return ui::Key::enter;
-    case SDLK_SPACE:
-      return ui::Key::space;
-    case SDLK_ESCAPE:
-      return ui::Key::escape;
-    case SDLK_LEFT:
-      return ui::Key::left;
-    case SDLK_RIGHT:
-      return ui::Key::right;
-    case SDLK_UP:
-      return ui::Key::up;
-    case SDLK_DOWN:
-      return ui::Key::down;
-    default:
-      return std::nullopt;
-  }
-}
+constexpr std::array<std::pair<SDL_Keycode, ui::Key>, 9> keys{{{SDLK_TAB, ui::Key::tab},
+                                                               {SDLK_RETURN, ui::Key::enter},
+                                                               {SDLK_KP_ENTER, ui::Key::enter},
+                                                               {SDLK_SPACE, ui::Key::space},
+                                                               {SDLK_ESCAPE, ui::Key::escape},
+                                                               {SDLK_LEFT, ui::Key::left},
+                                                               {SDLK_RIGHT, ui::Key::right},
+                                                               {SDLK_UP, ui::Key::up},
+                                                               {SDLK_DOWN, ui::Key::down}}};
 
 }  // namespace
 
 std::optional<ui::KeyEvent> keyEventOf(const SDL_Keysym& keysym) {
   const ui::KeyModifiers modifiers = modifiersOf(keysym.mod);
-  if (const auto key = keyOf(keysym.sym)) {
-    return ui::KeyEvent{*key, modifiers, {}};
+  for (const auto& [code, key] : keys) {
+    if (code == keysym.sym) {
+      return ui::KeyEvent{key, modifiers, {}};
+    }
   }
   // Printable ASCII; letters are lower case.
   if (keysym.sym > ' ' && keysym.sym < 127) {

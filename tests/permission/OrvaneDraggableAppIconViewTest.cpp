@@ -10,10 +10,12 @@ class OrvaneDraggableAppIconViewTest : public PermissionFlow {
   /// Opens the guide, presses the icon and moves the pointer.
   void dragIcon(double distance) {
     openGuide();
-    const auto start = hand.iconLocation();
-    ASSERT_TRUE(start);
-    pressAt(*start);
-    moveTo({start->x + distance, start->y + distance});
+    const auto guideFrame = desk::Surfaces(server()).frame("guide");
+    ASSERT_TRUE(guideFrame);
+    constexpr double iconBelowTop = 270;
+    const CGPoint start{CGRectGetMidX(*guideFrame), guideFrame->origin.y + iconBelowTop};
+    pressAt(start);
+    moveTo({start.x + distance, start.y + distance});
   }
 };
 

@@ -69,8 +69,8 @@ TEST(LexerTest, UnterminatedQuotesAndControlCharactersAreProblems) {
 }
 
 TEST(LexerTest, CutsAtEveryComma) {
-  EXPECT_EQ(splitAtCommas(""), Texts{});
-  EXPECT_EQ(splitAtCommas(",a,"), (Texts{"", "a", ""}));
+  EXPECT_EQ(split("", ','), Texts{});
+  EXPECT_EQ(split(",a,", ','), (Texts{"", "a", ""}));
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "desk/script/Interpreter.hpp"
 #include "desk/script/Problem.hpp"
 #include "tests/script/ScriptBench.hpp"
 #include "tests/script/ScriptRun.hpp"
@@ -150,7 +149,7 @@ TEST(ProblemTest, ChangesNothingWhenTheArgumentsAreWrong) {
   for (const char* const line :
        {"display attach 1 frame=0,0,9,9 color=red", "trust on please", "dock edge left now",
         "defaults set a string b c", "advance 1 2", "launch now", "accent 1,2,300"}) {
-    EXPECT_NE(bench.interpreter.run(line), std::nullopt) << line;
+    EXPECT_NE(bench.run(line), std::nullopt) << line;
   }
   const Machine& machine = bench.session.machine();
   EXPECT_TRUE(machine.displays.isEmpty());
@@ -194,9 +193,8 @@ RC_GTEST_PROP(ProblemTest, NonsenseCausesOnlyProblems, ()) {
                         .limits = settings.limits,
                         .pictureWriter = {},
                         .expectationFailed = [&](const std::string&) { ++failures; }};
-  Interpreter interpreter(settings.commands, context);
   for (const std::string& one : *rc::gen::container<std::vector<std::string>>(line)) {
-    const Problem problem = interpreter.run(one);
+    const Problem problem = settings.commands.run(one, context);
     RC_ASSERT(!problem || !problem->empty());
   }
   RC_ASSERT(session.machine().faults.count() == 0U);

@@ -3,8 +3,8 @@
 
 #include <sstream>
 
+#include "desk/script/Commands.hpp"
 #include "desk/script/Inspectables.hpp"
-#include "desk/script/Interpreter.hpp"
 
 namespace orvane::desk::script {
 
@@ -19,7 +19,8 @@ struct ScriptBench {
                         .limits = {},
                         .pictureWriter = {},
                         .expectationFailed = {}};
-  Interpreter interpreter{commands, context};
+
+  Problem run(std::string_view line) { return commands.run(line, context); }
 };
 
 }  // namespace orvane::desk::script

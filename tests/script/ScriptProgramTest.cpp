@@ -63,7 +63,7 @@ TEST(CommandTest, TheAppearanceIsSet) {
   const Appearance& appearance = bench.session.machine().appearance;
   for (const char* const line : {"appearance dark", "accent 1,20,255", "wallpaper busy",
                                  "motion reduced", "transparency reduced", "contrast increased"}) {
-    EXPECT_EQ(bench.interpreter.run(line), std::nullopt);
+    EXPECT_EQ(bench.run(line), std::nullopt);
   }
   EXPECT_TRUE(appearance.isDark);
   EXPECT_EQ(appearance.accent, (Appearance::Accent{1, 20, 255}));
@@ -73,7 +73,7 @@ TEST(CommandTest, TheAppearanceIsSet) {
   EXPECT_TRUE(appearance.increasesContrast);
   for (const char* const line : {"appearance light", "wallpaper default", "motion full",
                                  "transparency full", "contrast normal"}) {
-    EXPECT_EQ(bench.interpreter.run(line), std::nullopt);
+    EXPECT_EQ(bench.run(line), std::nullopt);
   }
   EXPECT_FALSE(appearance.isDark);
   EXPECT_EQ(appearance.wallpaper, Appearance::Wallpaper::standard);
@@ -116,7 +116,7 @@ TEST(ShowTest, PrintsAnnouncementsExceptEmptyAndMalformedOnes) {
   appkit::Accessibility::announce("not \xC3 UTF-8");
   appkit::Accessibility::announce("\xED\xA0\x80");
   appkit::Accessibility::announce("Bureau \xC3\xA9");
-  EXPECT_EQ(bench.interpreter.run("show announcements"), std::nullopt);
+  EXPECT_EQ(bench.run("show announcements"), std::nullopt);
   EXPECT_EQ(bench.output.str(), "[\"first\",\"Bureau \xC3\xA9\"]\n");
 }
 

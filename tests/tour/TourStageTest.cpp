@@ -1,124 +1,110 @@
-// The stage of the tour: its actions, checks and output.
-#include <algorithm>
+// The commands of the tour, in scripts on two displays.
 #include <filesystem>
 #include <sstream>
 
 #include <gtest/gtest.h>
 
 #include "desk/canvas/PngFile.hpp"
-#include "desk/windows/Surfaces.hpp"
-#include "desk/windows/WindowServer.hpp"
-#include "showroom/desktop/StandardDisplays.hpp"
+#include "desk/script/ScriptProgram.hpp"
 #include "showroom/tour/TourStage.hpp"
 
 namespace orvane::showroom {
 namespace {
 
+using desk::script::ScriptProgram;
+
 class TourStageTest : public testing::Test {
  protected:
-  TourStageTest() {
-    std::filesystem::create_directories(folder);
-    attachNextStandardDisplay(stage.machine());
-    attachNextStandardDisplay(stage.machine());
-  }
+  TourStageTest() { std::filesystem::create_directories(folder); }
   ~TourStageTest() override { std::filesystem::remove_all(folder); }
+
+  ScriptProgram::Status run(const std::string& script) {
+    TourStage stage(folder);
+    ScriptProgram::Settings settings;
+    stage.addCommands(settings.commands);
+    std::istringstream none;
+    std::istringstream lines(
+        "display attach 1 frame=0,0,1024,640 uuid=A name=Built-in builtin\n"
+        "display attach 2 frame=1024,0,1120,700 uuid=B name=Right\n" +
+        script);
+    return ScriptProgram(std::move(settings), none, output, errors).run(lines, "tour");
+  }
+  void expectHolds(const std::string& script) {
+    EXPECT_EQ(run(script), ScriptProgram::held) << errors.str();
+  }
 
   std::filesystem::path folder = std::filesystem::path(testing::TempDir()) /
                                  (std::string("orvane-stage-") +
                                   testing::UnitTest::GetInstance()->current_test_info()->name());
   std::ostringstream output;
   std::ostringstream errors;
-  TourStage stage{folder, output, errors};
 };
 
-TEST_F(TourStageTest, WritesANumberedCaptionAndAPicture) {
-  stage.check(true, "nothing");
-  stage.addStep("Once upon a time.");
-  EXPECT_EQ(output.str(), "01  Once upon a time.\n");
+TEST_F(TourStageTest, WritesNumberedCaptionsAndPictures) {
+  expectHolds("caption Once upon a time.\ncaption The end.");
+  EXPECT_EQ(output.str(), "01  Once upon a time.\n02  The end.\n");
   EXPECT_TRUE(std::filesystem::exists(folder / "01.png"));
-  EXPECT_TRUE(stage.hasPassed());
+  EXPECT_TRUE(std::filesystem::exists(folder / "02.png"));
 }
 
-TEST_F(TourStageTest, StopsAfterAFailedCheck) {
-  stage.addStep("True.");
-  stage.check(stage.isDockOn(2), "the Dock is on the second display");
-  stage.check(false, "and this neither");
-  stage.addStep("Not true.");
-  stage.check(true, "later claims change nothing");
-  stage.addStep("True again.");
-  EXPECT_FALSE(stage.hasPassed());
-  EXPECT_EQ(output.str(), "01  True.\n");
-  EXPECT_EQ(errors.str(),
-            "orvane-desk: step 2 of the tour is not true: the Dock is on the second display\n");
-  EXPECT_FALSE(std::filesystem::exists(folder / "02.png"));
-}
-
-TEST_F(TourStageTest, ReportsAnUnwritablePicture) {
+TEST_F(TourStageTest, StopsAtAnUnwritablePicture) {
   std::filesystem::remove_all(folder);
-  stage.addStep("Where?");
-  EXPECT_TRUE(stage.failedToWrite());
+  EXPECT_EQ(run("caption Where?"), ScriptProgram::broken);
   EXPECT_EQ(output.str(), "");
   EXPECT_NE(errors.str().find("01.png"), std::string::npos);
 }
 
-TEST_F(TourStageTest, MovesThePointerInSmallStepsThatTakeTime) {
-  const std::int64_t movements = stage.machine().counters.hardwareMovements;
-  stage.walkTo({1500, 300});
-  EXPECT_NEAR(stage.machine().pointer.location().x, 1500, 1e-6);
-  EXPECT_NEAR(stage.machine().pointer.location().y, 300, 1e-6);
-  EXPECT_EQ(stage.machine().counters.hardwareMovements - movements, 25);
-  EXPECT_EQ(stage.machine().clock.now(), desk::Clock::nanosecondsPerSecond / 2);
+TEST_F(TourStageTest, WalksInSmallStepsThatTakeTime) {
+  expectHolds(R"(
+walk 1500 300
+expect pointer {"x":1500,"y":300,"display":2}
+expect counters.hardwareMovements 25
+expect clock.now 0.5
+wait until 10:08
+expect clock.now 36480)");
+  EXPECT_EQ(run("wait until 1008"), ScriptProgram::broken);
 }
 
 TEST_F(TourStageTest, PressesAgainstTheEdgeSoThatTheDockMoves) {
-  stage.pressLowerEdge(2, 1, 0);
-  EXPECT_TRUE(stage.isDockOn(2));
-  EXPECT_EQ(stage.dockPlace(), "Right Display");
-  stage.moveAway(1);
-  EXPECT_TRUE(stage.isDockOn(2)) << "moving away does not move the Dock";
-  EXPECT_EQ(stage.machine().dock.revealCount(2), 1);
+  expectHolds(R"(
+touch 2 1 0
+expect dock.display 2
+rest 1
+expect pointer.display 1
+expect dock.reveals {"2":1})");
+  EXPECT_EQ(run("touch 3 1 0"), ScriptProgram::broken);
 }
 
 TEST_F(TourStageTest, ClicksControlsAndMenuItems) {
-  stage.machine().permission.setTrusted(true);
-  stage.application().launch();
-  stage.clickIcon(1);
-  ASSERT_TRUE(desk::WindowServer::current().menus.isStatusMenuOpen());
-  stage.click("Settings", desk::Surfaces::menu);
-  stage.machine().advance(1);
-  stage.pick("Language", "Chinese", "settings");
-  EXPECT_EQ(stage.snapshot().appLanguage, OrvaneLanguage::chinese);
-  stage.pressEscape();
-  EXPECT_FALSE(stage.isOpen("settings"));
-  stage.click("固定 Dock", "main");
-  EXPECT_TRUE(stage.snapshot().guard.isRunning);
-  EXPECT_TRUE(stage.hasPassed()) << errors.str();
+  expectHolds(R"(
+trust on
+launch
+click icon 1
+expect menu.open true
+click control "Settings" menu
+advance 1
+click control "Language" settings
+click item "Chinese"
+expect model.appLanguage "chinese"
+key escape
+expect windows.# 1
+click control "固定 Dock" main
+expect guard.running true)");
 }
 
-TEST_F(TourStageTest, AMissingControlIsAFailure) {
-  stage.application().launch();
-  stage.clickIcon(1);
-  stage.click("Fly", desk::Surfaces::menu);
-  EXPECT_FALSE(stage.hasPassed());
+TEST_F(TourStageTest, StopsAtAMissingControl) {
+  EXPECT_EQ(run("launch\nclick icon 1\nclick control \"Fly\" menu"), ScriptProgram::broken);
   EXPECT_NE(errors.str().find("\"Fly\" in menu"), std::string::npos);
 }
 
 TEST_F(TourStageTest, WritesACloseUpAtTwoPixelsPerPoint) {
-  stage.machine().permission.setTrusted(true);
-  stage.application().launch();
-  stage.application().reopen();
-  stage.machine().advance(1);
-  stage.writeCloseUp("panel", "main");
+  expectHolds("trust on\nlaunch\nreopen\nadvance 1\nclose-up panel main");
   const desk::SurfacePointer picture = desk::readPng(folder / "panel.png");
   ASSERT_TRUE(picture);
-  // 700 by 516 points with a margin of 28, clipped to the screen's height of 640 points.
+  // 700 by 516 points with a margin of 28, within the screen.
   EXPECT_EQ(cairo_image_surface_get_width(picture.get()), 2 * (700 + 56));
-  const auto panel = desk::Surfaces(desk::WindowServer::current()).window("main");
-  const double top = std::max(0.0, 640 - CGRectGetMaxY(panel->frame) - 28);
-  const double bottom = std::min(640.0, 640 - panel->frame.origin.y + 28);
-  EXPECT_EQ(cairo_image_surface_get_height(picture.get()), 2 * static_cast<int>(bottom - top));
-  stage.writeCloseUp("nothing", "settings");
-  EXPECT_FALSE(stage.hasPassed());
+  EXPECT_EQ(cairo_image_surface_get_height(picture.get()), 2 * (516 + 56));
+  EXPECT_EQ(run("close-up nothing settings"), ScriptProgram::broken);
   EXPECT_FALSE(std::filesystem::exists(folder / "nothing.png"));
 }
 

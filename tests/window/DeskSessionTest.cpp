@@ -83,5 +83,19 @@ TEST_F(DeskSessionTest, SurvivesMovementsWithoutADisplay) {
   EXPECT_GT(session.nanosecondsToNextChange(), 0);
 }
 
+TEST_F(DeskSessionTest, CountsTheMovementsOfTheLastSecond) {
+  EXPECT_EQ(session.eventsPerSecond(), 0);
+  session.movePointerBy(1, 0);
+  session.movePointerBy(1, 0);
+  session.advance(second / 2);
+  session.movePointerBy(1, 0);
+  session.advance(second / 2 - 1);
+  EXPECT_EQ(session.eventsPerSecond(), 3);
+  session.advance(1);
+  EXPECT_EQ(session.eventsPerSecond(), 1);
+  session.advance(second / 2);
+  EXPECT_EQ(session.eventsPerSecond(), 0);
+}
+
 }  // namespace
 }  // namespace orvane::showroom

@@ -1,11 +1,9 @@
-// Properties of the frame pump that do not depend on the computer's speed, and events per second.
+// Properties of the frame pump that do not depend on the computer's speed.
 #include <chrono>
 #include <thread>
 
 #include <gtest/gtest.h>
 
-#include "desk/machine/Clock.hpp"
-#include "showroom/window/EventRate.hpp"
 #include "showroom/window/FramePump.hpp"
 #include "tests/support/TestDisplays.hpp"
 #include "tests/window/SessionFixture.hpp"
@@ -65,21 +63,6 @@ TEST_F(FramePumpTest, SleepsWhileNothingChanges) {
   EXPECT_GT(pump.millisecondsToWait(session, false), 10'000);
   desk::setDockAutoHide(session.machine(), true);
   EXPECT_LE(pump.millisecondsToWait(session, false), 17);
-}
-
-constexpr std::int64_t second = desk::Clock::nanosecondsPerSecond;
-
-TEST(EventRateTest, CountsTheLastSecondOnly) {
-  EventRate rate;
-  EXPECT_EQ(rate.perSecond(5 * second), 0);
-  EXPECT_LT(rate.nextChangeAt(), 0);
-  rate.add(0);
-  rate.add(0);
-  rate.add(second / 2);
-  EXPECT_EQ(rate.perSecond(second - 1), 3);
-  EXPECT_EQ(rate.perSecond(second), 1);
-  EXPECT_EQ(rate.nextChangeAt(), second / 2 + second);
-  EXPECT_EQ(rate.perSecond(rate.nextChangeAt()), 0);
 }
 
 }  // namespace

@@ -23,7 +23,6 @@ EXCEPTIONS = {
     "showroom/gallery/GallerySheet.hpp: gallerySheetNamed": "tests choose sheets by name",
     "showroom/gallery/Specimen.hpp: appear": "tests show a specimen in every appearance",
     "showroom/hardware/HardwarePanelHost.hpp: scrolled": "tests observe the scroll position by it",
-    "showroom/tour/TourStage.hpp: keptCount": "tests observe the kept pictures by it",
     "showroom/window/WindowPicture.hpp: drawnCount": "tests limit the drawing",
 }
 

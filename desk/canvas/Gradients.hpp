@@ -1,10 +1,9 @@
-// Gradients as cairo sources; a vertical gradient is computed once for all columns.
+// Gradients, as cairo sources and colour by colour.
 #pragma once
 
 #include <cairo.h>
 
 #include "Orvane/ui/draw/Fill.hpp"
-#include "Orvane/ui/layout/Rect.hpp"
 #include "desk/canvas/CairoPointers.hpp"
 
 namespace orvane::desk {
@@ -19,11 +18,7 @@ PatternPointer gradientOf(const ui::Paint& paint);
 /// interpolated linearly between stops.
 [[nodiscard]] ui::Rgba colorAt(const ui::Paint& paint, double fraction);
 
+/// A vertical gradient.
 [[nodiscard]] bool runsDown(const ui::Paint& paint);
-
-/// The `height` rows of a vertical gradient, one pixel wide, from row `top` of the device space of
-/// the matrix.
-SurfacePointer gradientRows(const ui::Paint& paint, const cairo_matrix_t& matrix, int top,
-                            int height);
 
 }  // namespace orvane::desk

@@ -1,10 +1,8 @@
-// Cairo draws the strip, so that its colours equal those of a cairo gradient.
-#include "desk/canvas/GradientRows.hpp"
+// Colours and patterns of gradients.
+#include "desk/canvas/Gradients.hpp"
 
 #include <algorithm>
 #include <cmath>
-
-#include "desk/canvas/ImageSurface.hpp"
 
 namespace orvane::desk {
 
@@ -41,17 +39,6 @@ ui::Rgba colorAt(const ui::Paint& paint, double fraction) {
 
 bool runsDown(const ui::Paint& paint) {
   return !paint.isSolid() && paint.start.x == paint.end.x && paint.start.y != paint.end.y;
-}
-
-SurfacePointer gradientRows(const ui::Paint& paint, const cairo_matrix_t& matrix, int top,
-                            int height) {
-  SurfacePointer strip = imageSurface(1, height);
-  const ContextPointer drawing(cairo_create(strip.get()));
-  cairo_translate(drawing.get(), 0, -top);
-  cairo_transform(drawing.get(), &matrix);
-  cairo_set_source(drawing.get(), gradientOf(paint).get());
-  cairo_paint(drawing.get());
-  return strip;
 }
 
 }  // namespace orvane::desk
