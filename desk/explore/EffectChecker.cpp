@@ -38,6 +38,26 @@ bool isRefusing(const Machine& machine) {
   return machine.eventTaps.refusesCreation() || machine.runLoop.refusesSources();
 }
 
+/// What the user may have chosen in a step.
+struct Choices {
+  bool hasLock;
+  bool hasTarget;
+  /// The language or the unlock key.
+  bool hasSettings;
+};
+
+Choices choicesOf(const Step& step) {
+  const std::string_view command = firstWord(step.operation);
+  if (command == "defaults" || command == "click" || command == "key") {
+    // It writes the values itself, or nobody knows which control it operates.
+    return {true, true, true};
+  }
+  const bool isInPopUpMenu = step.operation.ends_with(" in menu") && !step.before.isStatusMenuOpen;
+  return {.hasLock = pressesPin(step) || pressesPrevent(step) || step.line == "do toggleLock",
+          .hasTarget = step.isUserAction(),
+          .hasSettings = isInPopUpMenu || command == "pick" || command == "do"};
+}
+
 Violation missingGuard(const char* text) {
   return {"effect", text, "guard.running true"};
 }
@@ -79,12 +99,11 @@ void EffectChecker::track(const Step& step) {
 std::optional<Violation> EffectChecker::check(const Step& step,
                                               const DisplayConfiguration& configuration) {
   track(step);
-  if (step.after.snapshot.isPermissionStale && !mayBeStale_) {
-    return Violation{"permission", "it counts as stale although the system refused no tap"};
-  }
-  if (Check found = firstOf([&] { return checkLaunch(step, configuration); },
+  if (Check found = firstOf([&] { return checkStaleness(step); },
+                            [&] { return checkLaunch(step, configuration); },
                             [&] { return checkReturnOfPermission(step, configuration); },
                             [&] { return checkWait(step, configuration); },
+                            [&] { return checkStoredChoices(step, configuration); },
                             [&] { return checkAlert(step); }, [&] { return checkWindows(step); })) {
     return found;
   }
@@ -92,12 +111,25 @@ std::optional<Violation> EffectChecker::check(const Step& step,
     return std::nullopt;
   }
   return firstOf([&] { return checkPinSwitch(step); }, [&] { return checkPreventSwitch(step); },
-                 [&] { return checkStoredChoices(step, configuration); },
                  [&] { return checkStop(step, configuration); }, [&] { return checkRequest(step); },
                  [&] { return checkGrant(step); }, [&] { return checkLinks(step); },
                  [&] { return checkPickers(step); }, [&] { return checkLoginSwitch(step); },
                  [&] { return checkCards(step, configuration); }, [&] { return checkGuide(step); },
                  [&] { return checkMenu(step, configuration); });
+}
+
+EffectChecker::Check EffectChecker::checkStaleness(const Step& step) const {
+  if (!step.after.snapshot.isPermissionStale) {
+    return std::nullopt;
+  }
+  if (!mayBeStale_) {
+    return Violation{"permission", "it counts as stale although the system refused no tap"};
+  }
+  const bool isRetried = step.hasRun && (pressesPin(step) || pressesPrevent(step) ||
+                                         presses(step, &Labels::accessibilitySettings, "settings"));
+  return isRetried && step.after.isTrusted && !isRefusing(step.machine)
+             ? Check(Violation{"permission", "it is stale after the user's next attempt"})
+             : std::nullopt;
 }
 
 EffectChecker::Check EffectChecker::checkLaunch(const Step& step,
@@ -131,12 +163,17 @@ EffectChecker::Check EffectChecker::checkWait(const Step& step,
   const bool hasEdges = configuration.edge && !configuration.forbiddenEdgePoints(goal).empty();
   const bool canStart = hasEdges && after.isTrusted && !mayBeStale_ && !step.isStale;
   // A guard that pauses although its edges stay has shut itself off, or was refused a tap.
-  const bool hasPaused =
-      step.filter.hasShutOff || (step.before.isGuardRunning && after.isGuardWaiting && hasEdges);
-  if (!after.isGuardWaiting || step.wasNotified) {
-    mayWait_ = false;
+  const bool hasPaused = step.before.isGuardRunning && after.isGuardWaiting && hasEdges;
+  const bool mayEnd = !after.isLaunched || step.wasNotified || step.isUserAction() ||
+                      step.before.isTrusted != after.isTrusted || restEdge_ != configuration.edge;
+  if (mustRest_ && !mayEnd && after.isGuardRunning && after.isTapEnabled) {
+    return Violation{"guard", "it runs again after it shut itself off", "guard.running false"};
   }
-  mayWait_ = mayWait_ || hasPaused || (isRefusing(step.machine) && after.isGuardWaiting);
+  const bool hasShutOff = step.filter.hasShutOff || (hasPaused && !isRefusing(step.machine));
+  // The Dock may come up when the guard lets go, which changes the displays' visible frames.
+  mustRest_ = (mustRest_ && !mayEnd) || (hasShutOff && !step.wasNotified);
+  restEdge_ = configuration.edge;
+  mayWait_ = (mayWait_ && after.isGuardWaiting && !step.wasNotified) || hasShutOff;
   if (!after.isGuardWaiting || !canStart || mayWait_ || after.isChangingTogether) {
     canStartSince_.reset();
     return std::nullopt;
@@ -180,7 +217,11 @@ EffectChecker::Check EffectChecker::checkGrant(const Step& step) {
   const Observation& before = step.before;
   const Observation& after = step.after;
   const bool isRequest = pressesPin(step) || pressesPrevent(step);
-  const bool leadsOn = presses(step, &Labels::openPrivacySettings, "alert") ||
+  // A guide that the user closes looks at the permission once more.
+  const bool isLastLook =
+      before.isTrusted && before.isGuideOpen && step.hasRun &&
+      (presses(step, &Labels::close, "guide") || presses(step, &Labels::done, "guide"));
+  const bool leadsOn = isLastLook || presses(step, &Labels::openPrivacySettings, "alert") ||
                        step.operation.ends_with(" in system") || step.line == "drop icon";
   // An earlier request may have a guide that is open or due, and succeeds first.
   const bool isFirst = !lastDialogueAt_ || before.now - *lastDialogueAt_ > guideDelay;
@@ -194,7 +235,7 @@ EffectChecker::Check EffectChecker::checkGrant(const Step& step) {
   }
   const bool hasSucceeded = before.guideState != PermissionGuideState::success &&
                             after.guideState == PermissionGuideState::success;
-  if (!hasSucceeded) {
+  if (!hasSucceeded && !isLastLook) {
     return std::nullopt;
   }
   const std::optional<bool> prevents = std::exchange(requestedPrevention_, std::nullopt);
@@ -258,18 +299,16 @@ EffectChecker::Check EffectChecker::checkStoredChoices(
     const Step& step, const DisplayConfiguration& configuration) const {
   const Stored& was = step.before.stored;
   const Stored& is = step.after.stored;
-  if (firstWord(step.line) == "defaults" || step.isUserAction()) {
-    return std::nullopt;
-  }
-  if (was.language != is.language || was.modifier != is.modifier) {
+  const Choices chosen = choicesOf(step);
+  if (!chosen.hasSettings && (was.language != is.language || was.modifier != is.modifier)) {
     return Violation{"choice", "the language or unlock key was stored without a user action"};
   }
   const bool mayBeGranted = askedAt_ && step.before.now - *askedAt_ <= guideDelay;
-  if (!mayBeGranted && (was.wants != is.wants || was.prevents != is.prevents)) {
+  if (!chosen.hasLock && !mayBeGranted && (was.wants != is.wants || was.prevents != is.prevents)) {
     return Violation{"choice", "the lock or mode was stored without a user action",
                      "defaults.isOrvaneEnabled " + std::string(was.wants ? "true" : "false")};
   }
-  if (was.selected && was.selected != is.selected) {
+  if (!chosen.hasTarget && was.selected && was.selected != is.selected) {
     // A display that was stored by an alias may be stored again by its preferred identifier.
     const auto* const screen = configuration.named(*was.selected);
     const bool isAlias = is.selected && screen != nullptr && screen->isNamed(*is.selected);

@@ -17,6 +17,10 @@ class EffectChecker {
   /// `configuration` is that of the machine after the step.
   [[nodiscard]] std::optional<Violation> check(const Step& step,
                                                const DisplayConfiguration& configuration);
+  /// Whether the step stores what the user did not choose in it. A part of `check`, and all that
+  /// there is to check when the application ends.
+  [[nodiscard]] std::optional<Violation> checkStoredChoices(
+      const Step& step, const DisplayConfiguration& configuration) const;
 
  private:
   using Check = std::optional<Violation>;
@@ -26,6 +30,7 @@ class EffectChecker {
   /// Whether a guard can start: the lock has displays to guard, and the system refuses nothing.
   [[nodiscard]] bool canRun(const Step& step, const DisplayConfiguration& configuration) const;
 
+  [[nodiscard]] Check checkStaleness(const Step& step) const;
   [[nodiscard]] Check checkLaunch(const Step& step,
                                   const DisplayConfiguration& configuration) const;
   [[nodiscard]] Check checkReturnOfPermission(const Step& step,
@@ -40,8 +45,6 @@ class EffectChecker {
   [[nodiscard]] Check checkPickers(const Step& step) const;
   [[nodiscard]] Check checkLoginSwitch(const Step& step) const;
   [[nodiscard]] Check checkCards(const Step& step, const DisplayConfiguration& configuration) const;
-  [[nodiscard]] Check checkStoredChoices(const Step& step,
-                                         const DisplayConfiguration& configuration) const;
   [[nodiscard]] Check checkGrant(const Step& step);
   [[nodiscard]] Check checkAlert(const Step& step);
   [[nodiscard]] Check checkGuide(const Step& step) const;
@@ -52,8 +55,12 @@ class EffectChecker {
   /// The user has requested a lock without the permission, and done nothing since but grant it:
   /// whether it is to prevent.
   std::optional<bool> requestedPrevention_;
-  /// The waiting guard has shut itself off, or was refused a tap, since it was last notified.
+  /// The guard has shut itself off, and nothing has happened since that may start it again.
+  bool mustRest_ = false;
+  /// The waiting guard has shut itself off since it was last notified.
   bool mayWait_ = false;
+  /// The Dock's edge at the last step.
+  std::optional<DockEdge> restEdge_;
   /// All in nanoseconds by the machine's clock. The last time at which the alert or the guide was
   /// open for a request that the user made after the last choice.
   std::optional<std::int64_t> askedAt_;

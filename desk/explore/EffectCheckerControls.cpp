@@ -51,7 +51,9 @@ EffectChecker::Check EffectChecker::checkWindows(const Step& step) const {
     return Violation{"effect", "the panel was not minimised"};
   }
   for (const char* const surface : {"main", "settings", "guide"}) {
-    const bool isClosed = presses(step, &Labels::close, surface);
+    const bool isClosed =
+        presses(step, &Labels::close, surface) ||
+        (surface == std::string_view("guide") && presses(step, &Labels::done, surface));
     if ((isClosed || step.operation == hidingOperation) && after.shows(surface)) {
       return Violation{"effect", std::string(surface) + " is still shown"};
     }

@@ -163,8 +163,9 @@ std::optional<Violation> InvariantChecker::check(const Step& step) {
                   [&] { return checkWindows(after); })) {
     return found;
   }
+  const DisplayConfiguration configuration = DisplayConfiguration::of(machine_);
   if (!after.isLaunched) {
-    return std::nullopt;
+    return step.isEnd() ? effects_.checkStoredChoices(step, configuration) : std::nullopt;
   }
   return firstOf([&] { return checkDock(before, after); }, [&] { return checkPermission(after); },
                  [&] { return checkGuard(before, after); }, [&] { return disabling_.check(step); },
@@ -173,7 +174,7 @@ std::optional<Violation> InvariantChecker::check(const Step& step) {
                  [&] { return checkIcon(after); }, [&] { return checkAnnouncement(before, after); },
                  [&] { return checkMenu(after); }, [&] { return checkMainPanel(after); },
                  [&] { return checkSettings(after); }, [&] { return checkTexts(after); },
-                 [&] { return effects_.check(step, DisplayConfiguration::of(machine_)); });
+                 [&] { return effects_.check(step, configuration); });
 }
 
 InvariantChecker::Check InvariantChecker::checkMachine(const Observation& after) const {
@@ -235,6 +236,13 @@ InvariantChecker::Check InvariantChecker::checkTimers(const Observation& after) 
 InvariantChecker::Check InvariantChecker::checkMessages(const Step& step) {
   const Observation& before = step.before;
   const Observation& after = step.after;
+  // The guard's clock counts seconds as floating-point numbers.
+  constexpr std::int64_t rounding = 1000;
+  const bool isPrompt = !before.isQueueHeld && !after.isQueueHeld;
+  if (isPrompt && after.messageCount > before.messageCount && after.reportInterval &&
+      *after.reportInterval < Clock::nanosecondsPerSecond - rounding) {
+    return Violation{"messages", "blocks were reported twice within a second"};
+  }
   const bool isQuiet =
       step.line.starts_with("advance") && step.isWithinRun() && before.stored == after.stored &&
       before.isTrusted == after.isTrusted && before.isGuardRunning == after.isGuardRunning &&

@@ -29,6 +29,7 @@ struct Labels {
   const char* openWindow;
   const char* settings;
   const char* close;
+  const char* done;
   const char* minimise;
   const char* quit;
   const char* openAtLogin;

@@ -1,6 +1,7 @@
 // Reads the machine, the application's snapshot and the semantics trees.
 #include "desk/explore/Observation.hpp"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -13,6 +14,10 @@ namespace {
 
 constexpr std::array<const char*, 5> applicationSurfaces{"menu", "main", "settings", "alert",
                                                          "guide"};
+
+bool reportsBlocks(const GuardMessage& message) {
+  return message.text.starts_with("Blocked Dock trigger") || message.text.starts_with("已阻止第");
+}
 
 void addWindows(Observation& observation, WindowServer& server) {
   const Surfaces surfaces(server);
@@ -78,9 +83,14 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
   observation.status = observation.snapshot.status;
   observation.isGuidePolling = observation.snapshot.guide.isPolling;
   observation.guideState = observation.snapshot.guide.state;
-  observation.messageCount = application.messages().size();
-  if (!application.messages().empty()) {
-    observation.lastMessage = application.messages().back().text;
+  const std::vector<GuardMessage>& messages = application.messages();
+  observation.messageCount = messages.size();
+  if (!messages.empty()) {
+    observation.lastMessage = messages.back().text;
+  }
+  if (messages.size() > 1 && std::all_of(messages.end() - 2, messages.end(), reportsBlocks)) {
+    observation.reportInterval =
+        messages.back().atNanoseconds - (messages.end() - 2)->atNanoseconds;
   }
   if (!server.announcements.empty()) {
     observation.lastAnnouncement = server.announcements.back();

@@ -56,6 +56,8 @@ struct Observation {
   std::string keySurface;
   std::size_t messageCount = 0;
   std::string lastMessage;
+  /// Between the last two messages, in nanoseconds, if both report blocks.
+  std::optional<std::int64_t> reportInterval;
   /// To screen readers, since the launch.
   std::string lastAnnouncement;
   std::size_t announcementCount = 0;

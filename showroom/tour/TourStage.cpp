@@ -177,8 +177,8 @@ void TourStage::clickIcon(Machine& machine, const CGRect& screen) {
 
 TourStage::Problem TourStage::addStep(Context& context, const std::string& caption) {
   ++stepCount_;
-  constexpr int twoDigits = 10;
-  const std::string number = (stepCount_ < twoDigits ? "0" : "") + std::to_string(stepCount_);
+  constexpr int hundred = 100;
+  const std::string number = std::to_string(hundred + stepCount_).substr(1);
   DesktopScene scene(context.machine(), context.application());
   scene.showsZones = showsZones_;
   scene.movedBack = movedBack_;

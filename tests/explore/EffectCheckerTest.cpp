@@ -71,6 +71,21 @@ TEST_F(EffectCheckerTest, OnlyUsersChangeTheirChoices) {
   after.stored.modifier = "shift";
   EXPECT_NE(violationOf("advance 1"), "");
   EXPECT_EQ(violationOf("do temporaryUnlockModifier shift"), "");
+  after.stored = before.stored;
+  after.stored.prevents = true;
+  EXPECT_EQ(violationOf("press \"Left\" in main"),
+            "the lock or mode was stored without a user action");
+  EXPECT_EQ(violationOf("do toggleLock"), "");
+}
+
+TEST_F(EffectCheckerTest, AGuardThatShutItselfOffRests) {
+  before.stored.wants = after.stored.wants = true;
+  after.isGuardWaiting = true;
+  filter.hasShutOff = true;
+  EXPECT_EQ(violationOf("push 0 1 times 200"), "");
+  filter.hasShutOff = false;
+  after.isGuardRunning = after.isTapEnabled = true;
+  EXPECT_EQ(violationOf("advance 1"), "it runs again after it shut itself off");
 }
 
 TEST_F(EffectCheckerTest, ALockWithoutThePermissionRequestsIt) {

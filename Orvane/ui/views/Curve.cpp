@@ -32,15 +32,15 @@ double parameterAt(double x1, double x2, double x) {
   return (low + high) / 2;
 }
 
-// dy/dx. Both derivatives can only vanish at the beginning, where the second ones, 6 (b - 2a),
-// decide.
+// dy/dx. Both derivatives can only vanish at the beginning, with the first control point there. The
+// second ones, six times the second control point, decide then.
 double slope(Point control1, Point control2, double s) {
   constexpr double vanishing = 1e-6;
   const double slopeX = cubicSlope(control1.x, control2.x, s);
   if (slopeX > vanishing) {
     return cubicSlope(control1.y, control2.y, s) / slopeX;
   }
-  return (control2.y - 2 * control1.y) / (control2.x - 2 * control1.x);
+  return control2.y / control2.x;
 }
 
 Curve::Remainder bezierRemainder(const Curve& curve, double distance,
