@@ -19,6 +19,7 @@ void addWindows(Observation& observation, WindowServer& server) {
   for (const char* const name : applicationSurfaces) {
     if (auto tree = surfaces.tree(name)) {
       observation.trees.emplace(name, std::move(*tree));
+      observation.frames.emplace(name, surfaces.frame(name).value_or(CGRect{}));
     }
   }
   for (const auto& window : server.windows()) {
@@ -60,6 +61,7 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
   observation.isStatusMenuOpen = server.menus.isStatusMenuOpen();
   observation.isChangingTogether = machine.displays.isChanging();
   observation.displayCount = machine.displays.count();
+  observation.pointer = machine.pointer.location();
   observation.tapCount = machine.eventTaps.aliveCount();
   observation.linkCount = machine.links.opened().size();
   observation.isTapEnabled = machine.eventTaps.isAnyEnabled();
