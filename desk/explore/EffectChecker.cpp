@@ -58,6 +58,14 @@ Choices choicesOf(const Step& step) {
           .hasSettings = isInPopUpMenu || command == "pick" || command == "do"};
 }
 
+std::size_t elementCount(const Observation& observation) {
+  std::size_t count = 0;
+  for (const auto& [name, tree] : observation.trees) {
+    count += elementsOf(tree).size();
+  }
+  return count;
+}
+
 Violation missingGuard(const char* text) {
   return {"effect", text, "guard.running true"};
 }
@@ -76,6 +84,9 @@ void EffectChecker::track(const Step& step) {
   }
   const Observation& before = step.before;
   const Observation& after = step.after;
+  if (elementCount(before) != elementCount(after)) {
+    elementsChangedAt_ = after.now;
+  }
   const bool hasSwitchedOff = before.stored.wants && !after.stored.wants && step.isUserAction();
   const bool isAsking = before.shows("alert") || after.shows("alert");
   if (isAsking || (askedAt_ && (before.isGuideOpen || after.isGuideOpen))) {
@@ -114,6 +125,7 @@ std::optional<Violation> EffectChecker::check(const Step& step,
                  [&] { return checkStop(step, configuration); }, [&] { return checkRequest(step); },
                  [&] { return checkGrant(step); }, [&] { return checkLinks(step); },
                  [&] { return checkPickers(step); }, [&] { return checkLoginSwitch(step); },
+                 [&] { return checkMenuSwitches(step); }, [&] { return checkFocus(step); },
                  [&] { return checkCards(step, configuration); }, [&] { return checkGuide(step); },
                  [&] { return checkMenu(step, configuration); });
 }

@@ -44,6 +44,8 @@ class EffectChecker {
   [[nodiscard]] Check checkLinks(const Step& step) const;
   [[nodiscard]] Check checkPickers(const Step& step) const;
   [[nodiscard]] Check checkLoginSwitch(const Step& step) const;
+  [[nodiscard]] Check checkMenuSwitches(const Step& step) const;
+  [[nodiscard]] Check checkFocus(const Step& step) const;
   [[nodiscard]] Check checkCards(const Step& step, const DisplayConfiguration& configuration) const;
   [[nodiscard]] Check checkGrant(const Step& step);
   [[nodiscard]] Check checkAlert(const Step& step);
@@ -70,6 +72,8 @@ class EffectChecker {
   /// When the user chose to open System Settings, until the guide appears.
   std::optional<std::int64_t> guideIsDueSince_;
   std::optional<std::int64_t> canStartSince_;
+  /// When elements were last added to or removed from a surface.
+  std::int64_t elementsChangedAt_ = 0;
   std::optional<std::int64_t> permissionMissingSince_;
   std::optional<std::int64_t> permissionReturnedAt_;
 };

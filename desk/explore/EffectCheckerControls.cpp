@@ -1,7 +1,9 @@
-// Windows, links, pop-up buttons, the login item and the display cards.
+// Windows, links, pop-up buttons, the login item, the focus and the display cards.
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <span>
+#include <string_view>
 #include <vector>
 
 #include "desk/explore/EffectChecker.hpp"
@@ -25,6 +27,28 @@ std::vector<ui::SemanticsNode> displayChoices(const ui::SemanticsNode& tree,
   rows.erase(rows.begin(),
              rows.begin() + static_cast<std::ptrdiff_t>(std::min(menuSwitches, rows.size())));
   return rows;
+}
+
+/// Parts of the links that are tried in turn until the system accepts one; empty ones at the end.
+using LinkParts = std::array<std::string_view, 4>;
+
+bool startsChain(std::span<const Links::Opened> opened, const LinkParts& parts) {
+  return !opened.empty() && opened.front().url.find(parts.front()) != std::string::npos;
+}
+
+bool followsChain(std::span<const Links::Opened> opened, const LinkParts& parts) {
+  std::size_t tried = 0;
+  for (const std::string_view part : parts) {
+    const bool isEnd = part.empty() || (tried > 0 && opened[tried - 1].wasAccepted);
+    if (isEnd) {
+      break;
+    }
+    if (tried == opened.size() || opened[tried].url.find(part) == std::string::npos) {
+      return false;
+    }
+    ++tried;
+  }
+  return tried == opened.size();
 }
 
 }  // namespace
@@ -68,26 +92,36 @@ EffectChecker::Check EffectChecker::checkLinks(const Step& step) const {
   struct Link {
     const char* Labels::*label;
     const char* surface;
-    /// A part of the first link that is tried.
-    const char* part;
+    LinkParts parts;
   };
+  constexpr const char* settingsProgram = "System%20Settings.app";
+  constexpr LinkParts accessibility{"PrivacySecurity.extension?Privacy_Accessibility",
+                                    "preference.security?Privacy_Accessibility",
+                                    "preference.security", settingsProgram};
   constexpr std::array links{
-      Link{&Labels::privacyPolicy, "settings", "https://"},
-      Link{&Labels::contactSupport, "settings", "mailto:"},
-      Link{&Labels::accessibilitySettings, "settings", "Privacy_Accessibility"},
-      Link{&Labels::openDockSettings, "main", "Desktop-Settings"},
-      Link{&Labels::openPrivacySettings, "alert", "Privacy_Accessibility"},
+      Link{&Labels::privacyPolicy, "settings", {"https://"}},
+      Link{&Labels::contactSupport, "settings", {"mailto:"}},
+      Link{&Labels::accessibilitySettings, "settings", accessibility},
+      Link{&Labels::loginItems, "settings", {"LoginItems-Settings", settingsProgram}},
+      Link{&Labels::openDockSettings,
+           "main",
+           {"Desktop-Settings", "preference.dock", settingsProgram}},
+      Link{&Labels::openPrivacySettings, "alert", accessibility},
   };
-  const std::vector<Links::Opened>& opened = step.machine.links.opened();
+  const std::span opened = std::span(step.machine.links.opened()).subspan(step.before.linkCount);
   const bool mayOpen = step.isUserAction() && !presses(step, &Labels::notNow, "alert");
-  if (!mayOpen && opened.size() > step.before.linkCount) {
+  if (!mayOpen && !opened.empty()) {
     return Violation{"effect", "a link was opened without need"};
   }
   for (const Link& link : links) {
     const bool isExpected = step.hasRun && presses(step, link.label, link.surface);
-    if (isExpected && (opened.size() <= step.before.linkCount ||
-                       opened[step.before.linkCount].url.find(link.part) == std::string::npos)) {
-      return Violation{"effect", std::string("no link with \"") + link.part + "\" was opened"};
+    const bool hasStarted = startsChain(opened, link.parts);
+    if (isExpected && !hasStarted) {
+      return Violation{"effect",
+                       "no link with \"" + std::string(link.parts.front()) + "\" was opened"};
+    }
+    if (hasStarted && !followsChain(opened, link.parts)) {
+      return Violation{"effect", "the links after \"" + opened.front().url + "\" are wrong"};
     }
   }
   return std::nullopt;
@@ -116,16 +150,80 @@ EffectChecker::Check EffectChecker::checkPickers(const Step& step) const {
 }
 
 EffectChecker::Check EffectChecker::checkLoginSwitch(const Step& step) const {
-  if (!step.hasRun || !presses(step, &Labels::openAtLogin, "menu") ||
-      step.machine.loginItem.error) {
+  if (!step.hasRun || !presses(step, &Labels::openAtLogin, "menu")) {
     return std::nullopt;
   }
   using Status = appkit::LoginItem::Status;
-  const Status status = step.machine.loginItem.status;
+  const LoginItemState& item = step.machine.loginItem;
+  const Status status = item.status;
+  if (item.error) {
+    const Status wanted =
+        step.before.snapshot.launchAtLoginEnabled ? Status::notRegistered : Status::enabled;
+    return status != wanted && step.after.snapshot.launchAtLoginErrorMessage != item.error
+               ? Check(Violation{"login", "the failure of the login item is not shown"})
+               : std::nullopt;
+  }
   const bool isAsked = status == Status::enabled || status == Status::requiresApproval;
   return isAsked == step.before.snapshot.launchAtLoginEnabled
              ? Check(Violation{"effect", "the login item was not changed"})
              : std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkMenuSwitches(const Step& step) const {
+  const bool pressesLogin = presses(step, &Labels::openAtLogin, "menu");
+  const bool isTyped = step.before.isStatusMenuOpen && firstWord(step.line) == "key" &&
+                       (step.before.stored.wants != step.after.stored.wants ||
+                        step.before.stored.prevents != step.after.stored.prevents);
+  const bool isSwitch = pressesLogin || isTyped || presses(step, &Labels::prevent, "menu") ||
+                        presses(step, &Labels::pin, "menu");
+  if (!isSwitch || !step.hasRun || step.wasNotified || step.after.isModal) {
+    return std::nullopt;
+  }
+  if (!step.after.isStatusMenuOpen) {
+    return Violation{"menu", "a press of a switch closed it"};
+  }
+  const auto menu = step.after.trees.find("menu");
+  const bool isEnabled = step.machine.loginItem.status == appkit::LoginItem::Status::enabled;
+  const bool isShown =
+      menu == step.after.trees.end() ||
+      std::ranges::any_of(std::array{Language::english, Language::chinese}, [&](Language language) {
+        const auto row = findLabel(menu->second, labelsIn(language).openAtLogin);
+        return row && row->value == (isEnabled ? "1" : "0");
+      });
+  return pressesLogin && !isShown
+             ? Check(Violation{"menu", "its switch does not match the login item"})
+             : std::nullopt;
+}
+
+EffectChecker::Check EffectChecker::checkFocus(const Step& step) const {
+  const std::string& surface = step.before.keySurface;
+  const auto before = step.before.trees.find(surface);
+  const auto after = step.after.trees.find(surface);
+  const std::uint64_t modifiers = step.machine.modifierKeys.flags();
+  const bool isForward = modifiers == 0;
+  if (step.line != "key tab" || !step.hasRun || step.after.keySurface != surface ||
+      step.before.isMenuOpen || before == step.before.trees.end() ||
+      after == step.after.trees.end() || (!isForward && modifiers != kCGEventFlagMaskShift)) {
+    return std::nullopt;
+  }
+  std::vector<ui::SemanticsNode> order = findElements(
+      before->second,
+      [](const ui::SemanticsNode& node) { return node.isFocusable && node.isEnabled; });
+  if (!isForward) {
+    std::ranges::reverse(order);
+  }
+  const auto current = std::ranges::find(order, true, &ui::SemanticsNode::isFocused);
+  // Tab passes over controls that have just appeared, which are invisible.
+  constexpr std::int64_t transition = Clock::nanosecondsPerSecond;
+  if (current == order.end() || step.after.now - elementsChangedAt_ < transition) {
+    return std::nullopt;
+  }
+  const auto next = current + 1 == order.end() ? order.begin() : current + 1;
+  const auto focused =
+      findElement(after->second, [](const ui::SemanticsNode& node) { return node.isFocused; });
+  return focused && focused->id == next->id
+             ? std::nullopt
+             : Check(Violation{"focus", "Tab did not move it to the next control in " + surface});
 }
 
 EffectChecker::Check EffectChecker::checkCards(const Step& step,

@@ -173,7 +173,8 @@ std::optional<Violation> InvariantChecker::check(const Step& step) {
                  [&] { return checkTimers(after); }, [&] { return checkStatus(after); },
                  [&] { return checkIcon(after); }, [&] { return checkAnnouncement(before, after); },
                  [&] { return checkMenu(after); }, [&] { return checkMainPanel(after); },
-                 [&] { return checkSettings(after); }, [&] { return checkTexts(after); },
+                 [&] { return checkPlaces(after); }, [&] { return checkSettings(after); },
+                 [&] { return checkTexts(after); }, [&] { return windows_.check(step); },
                  [&] { return effects_.check(step, configuration); });
 }
 
@@ -190,6 +191,10 @@ InvariantChecker::Check InvariantChecker::checkMachine(const Observation& after)
   if (after.tapCount > 1 || (after.tapCount > 0 && !after.isLaunched)) {
     return Violation{"taps", "there are " + std::to_string(after.tapCount) + " taps alive",
                      "guard.taps " + std::string(after.isLaunched ? "1" : "0")};
+  }
+  constexpr CGEventMask movements = CGEventMask{1} << kCGEventMouseMoved;
+  if (after.tapCount > 0 && machine_.eventTaps.eventsOfInterest() != movements) {
+    return Violation{"taps", "the tap does not receive movements only"};
   }
   return std::nullopt;
 }

@@ -18,6 +18,7 @@
 #include "desk/explore/Operations.hpp"
 #include "desk/explore/Step.hpp"
 #include "desk/explore/Violation.hpp"
+#include "desk/explore/WindowWatch.hpp"
 
 namespace orvane::desk::explore {
 
@@ -62,8 +63,9 @@ class InvariantChecker {
   [[nodiscard]] Check checkIcon(const Observation& after);
   [[nodiscard]] Check checkAnnouncement(const Observation& before, const Observation& after);
   [[nodiscard]] Check checkMenu(const Observation& after);
-  [[nodiscard]] Check checkMainPanel(const Observation& after) const;
-  [[nodiscard]] Check checkSettings(const Observation& after) const;
+  [[nodiscard]] Check checkMainPanel(const Observation& after);
+  [[nodiscard]] Check checkPlaces(const Observation& after) const;
+  [[nodiscard]] Check checkSettings(const Observation& after);
   [[nodiscard]] Check checkWindows(const Observation& after) const;
   [[nodiscard]] Check checkModes(const Observation& after);
   [[nodiscard]] Check checkTexts(const Observation& after) const;
@@ -79,6 +81,7 @@ class InvariantChecker {
   FilterWatch filter_;
   DisablingWatch disabling_;
   EffectChecker effects_;
+  WindowWatch windows_;
   Operations operations_;
   /// The press that the running line amounts to, or the line.
   std::string operation_;

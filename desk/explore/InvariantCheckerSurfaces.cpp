@@ -1,5 +1,7 @@
 // The invariants of the icon, the menu, the panels, the windows and the texts.
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 #include "desk/explore/InvariantChecker.hpp"
 #include "desk/hand/FindControl.hpp"
@@ -38,12 +40,42 @@ bool hasPopUpWith(const ui::SemanticsNode& tree, const std::string& value) {
       .has_value();
 }
 
+std::vector<ui::SemanticsNode> cardsOf(const ui::SemanticsNode& panel) {
+  return findElements(
+      panel, [](const ui::SemanticsNode& node) { return node.role == ui::Role::radioButton; });
+}
+
+/// The text that says where the display is, from the main one.
+const char* Labels::*placeOf(const DisplayConfiguration::Screen& screen,
+                             const std::vector<DisplayConfiguration::Screen>& screens) {
+  const auto main = std::ranges::find(screens, true, &DisplayConfiguration::Screen::isMain);
+  if (screen.isMain) {
+    return &Labels::mainDisplay;
+  }
+  if (main == screens.end()) {
+    return &Labels::externalDisplay;
+  }
+  const double dx = screen.x + screen.width / 2 - (main->x + main->width / 2);
+  const double dy = screen.y + screen.height / 2 - (main->y + main->height / 2);
+  if (std::abs(dx) < std::abs(dy)) {
+    return dy < 0 ? &Labels::upperDisplay : &Labels::lowerDisplay;
+  }
+  if (dx == 0) {
+    return &Labels::externalDisplay;
+  }
+  return dx < 0 ? &Labels::leftDisplay : &Labels::rightDisplay;
+}
+
+bool hasLabel(const ui::SemanticsNode& tree, const char* Labels::*label) {
+  return std::ranges::any_of(
+      std::array{Language::english, Language::chinese},
+      [&](Language language) { return findLabel(tree, labelsIn(language).*label).has_value(); });
+}
+
 /// Whether the panel marks as chosen exactly the displays with the identifier of the target.
 bool marksTarget(const ui::SemanticsNode& panel, const Observation& after) {
-  const std::vector<ui::SemanticsNode> cards = findElements(
-      panel, [](const ui::SemanticsNode& node) { return node.role == ui::Role::radioButton; });
   const std::optional<std::string>& target = after.snapshot.selectedDisplayID;
-  return std::ranges::equal(cards, after.snapshot.displays,
+  return std::ranges::equal(cardsOf(panel), after.snapshot.displays,
                             [&](const ui::SemanticsNode& card, const DisplaySnapshot& display) {
                               return card.isSelected == (target == display.id) &&
                                      card.label == display.name;
@@ -136,13 +168,19 @@ InvariantChecker::Check InvariantChecker::checkMenu(const Observation& after) {
   return std::nullopt;
 }
 
-InvariantChecker::Check InvariantChecker::checkMainPanel(const Observation& after) const {
+InvariantChecker::Check InvariantChecker::checkMainPanel(const Observation& after) {
   const auto panel = after.trees.find("main");
-  if (panel == after.trees.end() || after.isQueueHeld) {
-    return std::nullopt;
-  }
+  const bool isUpToDate = panel != after.trees.end() && !after.isQueueHeld;
   const bool pins = after.isGuardRunning && !after.stored.prevents;
   const bool prevents = after.isGuardRunning && after.stored.prevents;
+  // A button that is no longer needed fades away.
+  const bool isWrong = isUpToDate && hasLabel(panel->second, &Labels::openDockSettings) != prevents;
+  if (isOverdue("Dock settings", isWrong, after.now)) {
+    return Violation{"panel", "its button for the Dock settings does not match the guard"};
+  }
+  if (!isUpToDate) {
+    return std::nullopt;
+  }
   const bool isExpected = std::ranges::any_of(languages_, [&](Language language) {
     const Labels& words = labelsIn(language);
     const auto hasButton = [&](const char* label) {
@@ -170,8 +208,34 @@ InvariantChecker::Check InvariantChecker::checkMainPanel(const Observation& afte
              : Check(Violation{"panel", "its cards do not match the displays"});
 }
 
-InvariantChecker::Check InvariantChecker::checkSettings(const Observation& after) const {
+InvariantChecker::Check InvariantChecker::checkPlaces(const Observation& after) const {
+  const auto panel = after.trees.find("main");
+  if (panel == after.trees.end() || after.isQueueHeld || isStale() || after.isChangingTogether) {
+    return std::nullopt;
+  }
+  const auto& screens = filter_.configurations().front().screens;
+  const std::vector<ui::SemanticsNode> cards = cardsOf(panel->second);
+  // After a launch the model lists no displays at first.
+  for (std::size_t index = 0; index < std::min(cards.size(), screens.size()); ++index) {
+    const char* Labels::*const place = placeOf(screens[index], screens);
+    const std::string& value = cards[index].value;
+    if (value != labelsIn(Language::english).*place &&
+        value != labelsIn(Language::chinese).*place) {
+      return Violation{"panel", "\"" + value + "\" on the card of display " +
+                                    std::to_string(screens[index].number)};
+    }
+  }
+  return std::nullopt;
+}
+
+InvariantChecker::Check InvariantChecker::checkSettings(const Observation& after) {
   const auto panel = after.trees.find("settings");
+  // The settings look at the login item once a second while they ask for its approval.
+  const bool isApproved = panel != after.trees.end() && hasLabel(panel->second, &Labels::approve) &&
+                          machine_.loginItem.status != appkit::LoginItem::Status::requiresApproval;
+  if (isOverdue("approval", isApproved, after.now)) {
+    return Violation{"settings", "they ask for an approval that is not required"};
+  }
   if (panel == after.trees.end()) {
     return std::nullopt;
   }

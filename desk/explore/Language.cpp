@@ -88,6 +88,7 @@ constexpr Labels englishLabels{
     .privacyPolicy = "Privacy Policy",
     .accessibilitySettings = "Accessibility Settings",
     .contactSupport = "Contact Support",
+    .loginItems = "Login Items…",
     .language = "Language",
     .unlockShortcut = "Temporary Unlock Shortcut",
     .followSystem = "Follow System",
@@ -100,7 +101,13 @@ constexpr Labels englishLabels{
     .enabled = "Enabled",
     .off = "Off",
     .approve = "Approve Orvane in Login Items",
-    .moveToApplications = "To open at login, move Orvane to Applications"};
+    .moveToApplications = "To open at login, move Orvane to Applications",
+    .mainDisplay = "Main Display",
+    .upperDisplay = "Upper Display",
+    .lowerDisplay = "Lower Display",
+    .leftDisplay = "Left Display",
+    .rightDisplay = "Right Display",
+    .externalDisplay = "External Display"};
 
 constexpr Labels chineseLabels{
     .pin = "固定 Dock",
@@ -120,6 +127,7 @@ constexpr Labels chineseLabels{
     .privacyPolicy = "隐私政策",
     .accessibilitySettings = "辅助功能设置",
     .contactSupport = "联系支持",
+    .loginItems = "登录项…",
     .language = "语言",
     .unlockShortcut = "临时解锁快捷键",
     .followSystem = "跟随系统",
@@ -132,7 +140,13 @@ constexpr Labels chineseLabels{
     .enabled = "已启用",
     .off = "未启用",
     .approve = "请在“登录项”中允许 Orvane",
-    .moveToApplications = "要开机自动运行，请先将 Orvane 移到“应用程序”文件夹"};
+    .moveToApplications = "要开机自动运行，请先将 Orvane 移到“应用程序”文件夹",
+    .mainDisplay = "主显示器",
+    .upperDisplay = "上方显示器",
+    .lowerDisplay = "下方显示器",
+    .leftDisplay = "左侧显示器",
+    .rightDisplay = "右侧显示器",
+    .externalDisplay = "外接显示器"};
 
 }  // namespace
 

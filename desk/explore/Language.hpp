@@ -38,6 +38,7 @@ struct Labels {
   const char* privacyPolicy;
   const char* accessibilitySettings;
   const char* contactSupport;
+  const char* loginItems;
   const char* language;
   const char* unlockShortcut;
   const char* followSystem;
@@ -51,6 +52,12 @@ struct Labels {
   const char* off;
   const char* approve;
   const char* moveToApplications;
+  const char* mainDisplay;
+  const char* upperDisplay;
+  const char* lowerDisplay;
+  const char* leftDisplay;
+  const char* rightDisplay;
+  const char* externalDisplay;
 };
 
 [[nodiscard]] const Labels& labelsIn(Language language);

@@ -24,6 +24,7 @@ void addWindows(Observation& observation, WindowServer& server) {
   for (const char* const name : applicationSurfaces) {
     if (auto tree = surfaces.tree(name)) {
       observation.trees.emplace(name, std::move(*tree));
+      observation.frames.emplace(name, surfaces.frame(name).value_or(CGRect{}));
     }
   }
   for (const auto& window : server.windows()) {

@@ -63,6 +63,8 @@ struct Observation {
   std::size_t announcementCount = 0;
   /// The semantics trees of the application's visible surfaces, by name.
   std::map<std::string, ui::SemanticsNode> trees;
+  /// The frames of these surfaces in global coordinates, by name.
+  std::map<std::string, CGRect> frames;
 
   [[nodiscard]] static Observation of(const Machine& machine, const ApplicationHost& application);
   [[nodiscard]] bool shows(const std::string& surface) const { return trees.contains(surface); }

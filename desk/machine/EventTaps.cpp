@@ -123,6 +123,14 @@ bool EventTaps::isAnyEnabled() const {
                              [](const EventTap& tap) { return tap.isAlive && tap.isEnabled; });
 }
 
+CGEventMask EventTaps::eventsOfInterest() const {
+  CGEventMask events = 0;
+  for (const EventTap& tap : taps_) {
+    events |= tap.isAlive ? tap.eventsOfInterest : 0;
+  }
+  return events;
+}
+
 void EventTaps::tidy() {
   if (hasDeadTaps_ && deliveriesUnderWay_ == 0) {
     hasDeadTaps_ = false;

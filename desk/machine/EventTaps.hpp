@@ -56,6 +56,8 @@ class EventTaps {
   [[nodiscard]] std::size_t aliveCount() const;
   /// Whether any living tap is enabled.
   [[nodiscard]] bool isAnyEnabled() const;
+  /// The events that any living tap receives.
+  [[nodiscard]] CGEventMask eventsOfInterest() const;
   /// The number of calls of callbacks.
   [[nodiscard]] std::int64_t deliveryCount() const { return deliveries_; }
 

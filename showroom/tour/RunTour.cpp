@@ -34,7 +34,7 @@ int runTour(const std::string& directory) {
     addSettingsPages(application.systemSettings());
   };
   ScriptProgram program(std::move(settings), std::cin, std::cout, std::cerr);
-  std::istringstream story{std::string(tourStory())};
+  std::istringstream story{std::string(tourStory)};
   return program.run(story, "tour.desk");
 }
 

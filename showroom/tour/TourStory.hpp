@@ -6,6 +6,6 @@
 namespace orvane::showroom {
 
 /// In the desk's script language, with the commands of TourStage.
-[[nodiscard]] std::string_view tourStory();
+extern const std::string_view tourStory;
 
 }  // namespace orvane::showroom

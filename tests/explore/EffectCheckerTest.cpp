@@ -45,6 +45,7 @@ TEST_F(EffectCheckerTest, ALaunchRestoresTheLock) {
 
 TEST_F(EffectCheckerTest, PinningAndUnpinningAreStored) {
   const std::string pin = "press \"Pin Dock\" in menu";
+  after.isStatusMenuOpen = true;
   EXPECT_EQ(violationOf(pin), "the Dock is not pinned");
   after.stored.wants = after.isGuardRunning = true;
   EXPECT_EQ(violationOf(pin), "");
@@ -152,6 +153,59 @@ TEST_F(EffectCheckerTest, AClosedPanelAndSettingsThatOpenAreSeen) {
   EXPECT_EQ(violationOf("press \"Close\" in main"), "main is still shown");
   after.trees.erase("main");
   EXPECT_EQ(violationOf("press \"Close\" in main"), "");
+}
+
+TEST_F(EffectCheckerTest, SwitchesLeaveTheMenuOpenAndUpToDate) {
+  const std::string press = "press \"Open at Login\" in menu";
+  machine().loginItem.status = appkit::LoginItem::Status::enabled;
+  EXPECT_EQ(violationOf(press), "a press of a switch closed it");
+  after.isStatusMenuOpen = true;
+  ui::SemanticsNode& row = after.trees["menu"];
+  row.label = "Open at Login";
+  row.value = "0";
+  EXPECT_EQ(violationOf(press), "its switch does not match the login item");
+  row.value = "1";
+  EXPECT_EQ(violationOf(press), "");
+}
+
+TEST_F(EffectCheckerTest, AFailureOfTheLoginItemIsShown) {
+  const std::string press = "press \"Open at Login\" in menu";
+  after.isStatusMenuOpen = true;
+  machine().loginItem.error = "Operation not permitted";
+  EXPECT_EQ(violationOf(press), "the failure of the login item is not shown");
+  after.snapshot.launchAtLoginErrorMessage = machine().loginItem.error;
+  EXPECT_EQ(violationOf(press), "");
+}
+
+TEST_F(EffectCheckerTest, TheLinkAfterARefusedOneIsTried) {
+  const std::string press = "press \"Open Dock Settings\" in main";
+  Links& links = machine().links;
+  links.refuse("x-apple.systempreferences:com.apple.Desktop");
+  EXPECT_EQ(violationOf(press), "no link with \"Desktop-Settings\" was opened");
+  links.openURL("x-apple.systempreferences:com.apple.Desktop-Settings.extension");
+  EXPECT_NE(violationOf(press), "");
+  links.openURL("x-apple.systempreferences:com.apple.preference.dock");
+  EXPECT_EQ(violationOf(press), "");
+  links.openFile("/System/Applications/System Settings.app");
+  EXPECT_NE(violationOf(press), "") << "the link before was accepted";
+}
+
+TEST_F(EffectCheckerTest, TabMovesTheFocusToTheNextControl) {
+  before.keySurface = after.keySurface = "main";
+  for (Observation* const observation : {&before, &after}) {
+    for (std::uint64_t id = 1; id <= 3; ++id) {
+      ui::SemanticsNode control;
+      control.id = id;
+      control.isFocusable = true;
+      observation->trees["main"].children.push_back(control);
+    }
+  }
+  std::vector<ui::SemanticsNode>& controls = after.trees["main"].children;
+  before.trees["main"].children[0].isFocused = controls[2].isFocused = true;
+  machine().advance(1);
+  EXPECT_EQ(violationOf("key tab"), "Tab did not move it to the next control in main");
+  machine().modifierKeys.hold(kCGEventFlagMaskShift);
+  EXPECT_EQ(violationOf("key tab"), "") << "backwards";
 }
 
 }  // namespace

@@ -80,6 +80,19 @@ TEST_F(InvariantCheckerTest, DetectsASecondTap) {
   EXPECT_EQ(violatedInvariant(), "taps");
 }
 
+TEST_F(InvariantCheckerTest, DetectsATapThatReceivesMoreThanMovements) {
+  pin();
+  EventTaps& taps = session.machine().eventTaps;
+  for (std::uint64_t identity = 1; identity < 10; ++identity) {
+    if (EventTap* const tap = taps.find(identity)) {
+      constexpr unsigned leftMouseDragged = 6;
+      tap->eventsOfInterest |= CGEventMask{1} << leftMouseDragged;
+    }
+  }
+  session.run("advance 0.1");
+  EXPECT_EQ(violatedInvariant(), "taps");
+}
+
 TEST_F(InvariantCheckerTest, DetectsALeakedObject) {
   pin();
   CFStringCreateWithCString(kCFAllocatorDefault, "left", kCFStringEncodingUTF8);
