@@ -130,6 +130,10 @@ std::optional<Violation> EffectChecker::check(const Step& step,
                  [&] { return checkMenu(step, configuration); });
 }
 
+bool EffectChecker::mayBeGranted(const Step& step) const {
+  return askedAt_ && step.before.now - *askedAt_ <= guideDelay;
+}
+
 EffectChecker::Check EffectChecker::checkStaleness(const Step& step) const {
   if (!step.after.snapshot.isPermissionStale) {
     return std::nullopt;
@@ -177,13 +181,15 @@ EffectChecker::Check EffectChecker::checkWait(const Step& step,
   // A guard that pauses although its edges stay has shut itself off, or was refused a tap.
   const bool hasPaused = step.before.isGuardRunning && after.isGuardWaiting && hasEdges;
   const bool mayEnd = !after.isLaunched || step.wasNotified || step.isUserAction() ||
-                      step.before.isTrusted != after.isTrusted || restEdge_ != configuration.edge;
+                      step.before.isTrusted != after.isTrusted || mayBeGranted(step) ||
+                      restEdge_ != configuration.edge;
   if (mustRest_ && !mayEnd && after.isGuardRunning && after.isTapEnabled) {
     return Violation{"guard", "it runs again after it shut itself off", "guard.running false"};
   }
-  const bool hasShutOff = step.filter.hasShutOff || (hasPaused && !isRefusing(step.machine));
+  const bool hasShutOff = step.filter.hasShutOff || hasPaused;
   // The Dock may come up when the guard lets go, which changes the displays' visible frames.
-  mustRest_ = (mustRest_ && !mayEnd) || (hasShutOff && !step.wasNotified);
+  mustRest_ =
+      (mustRest_ && !mayEnd) || (hasShutOff && !step.wasNotified && !isRefusing(step.machine));
   restEdge_ = configuration.edge;
   mayWait_ = (mayWait_ && after.isGuardWaiting && !step.wasNotified) || hasShutOff;
   if (!after.isGuardWaiting || !canStart || mayWait_ || after.isChangingTogether) {
@@ -315,8 +321,8 @@ EffectChecker::Check EffectChecker::checkStoredChoices(
   if (!chosen.hasSettings && (was.language != is.language || was.modifier != is.modifier)) {
     return Violation{"choice", "the language or unlock key was stored without a user action"};
   }
-  const bool mayBeGranted = askedAt_ && step.before.now - *askedAt_ <= guideDelay;
-  if (!chosen.hasLock && !mayBeGranted && (was.wants != is.wants || was.prevents != is.prevents)) {
+  if (!chosen.hasLock && !mayBeGranted(step) &&
+      (was.wants != is.wants || was.prevents != is.prevents)) {
     return Violation{"choice", "the lock or mode was stored without a user action",
                      "defaults.isOrvaneEnabled " + std::string(was.wants ? "true" : "false")};
   }

@@ -30,6 +30,9 @@ class EffectChecker {
   /// Whether a guard can start: the lock has displays to guard, and the system refuses nothing.
   [[nodiscard]] bool canRun(const Step& step, const DisplayConfiguration& configuration) const;
 
+  /// Whether a request for the permission is open, whose grant starts the guard.
+  [[nodiscard]] bool mayBeGranted(const Step& step) const;
+
   [[nodiscard]] Check checkStaleness(const Step& step) const;
   [[nodiscard]] Check checkLaunch(const Step& step,
                                   const DisplayConfiguration& configuration) const;
