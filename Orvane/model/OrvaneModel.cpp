@@ -122,9 +122,14 @@ void OrvaneModel::selectDisplay(const std::string& id) {
   if (selectedDisplayID_.value() == id) {
     return;
   }
+  const bool waitsForTarget =
+      guardService_.isWaiting() && !hidesDockOnAllDisplays_.value() && !isTargetAttached();
   setSelectedDisplayID(id);
   if (mode() == OrvaneMode::pinning) {
     restartGuardIfRunning();
+  } else if (waitsForTarget) {
+    // Else the guard would come back with the earlier target.
+    startGuard();
   }
 }
 

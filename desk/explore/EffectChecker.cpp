@@ -180,9 +180,12 @@ EffectChecker::Check EffectChecker::checkWait(const Step& step,
   const bool canStart = hasEdges && after.isTrusted && !mayBeStale_ && !step.isStale;
   // A guard that pauses although its edges stay has shut itself off, or was refused a tap.
   const bool hasPaused = step.before.isGuardRunning && after.isGuardWaiting && hasEdges;
+  if (std::exchange(edge_, configuration.edge) != configuration.edge) {
+    edgeChangedAt_ = after.now;
+  }
   const bool mayEnd = !after.isLaunched || step.wasNotified || step.isUserAction() ||
                       step.before.isTrusted != after.isTrusted || mayBeGranted(step) ||
-                      restEdge_ != configuration.edge;
+                      step.before.now - edgeChangedAt_ <= permissionInterval;
   if (mustRest_ && !mayEnd && after.isGuardRunning && after.isTapEnabled) {
     return Violation{"guard", "it runs again after it shut itself off", "guard.running false"};
   }
@@ -190,7 +193,6 @@ EffectChecker::Check EffectChecker::checkWait(const Step& step,
   // The Dock may come up when the guard lets go, which changes the displays' visible frames.
   mustRest_ =
       (mustRest_ && !mayEnd) || (hasShutOff && !step.wasNotified && !isRefusing(step.machine));
-  restEdge_ = configuration.edge;
   mayWait_ = (mayWait_ && after.isGuardWaiting && !step.wasNotified) || hasShutOff;
   if (!after.isGuardWaiting || !canStart || mayWait_ || after.isChangingTogether) {
     canStartSince_.reset();

@@ -64,8 +64,10 @@ class EffectChecker {
   bool mustRest_ = false;
   /// The waiting guard has shut itself off since it was last notified.
   bool mayWait_ = false;
-  /// The Dock's edge at the last step.
-  std::optional<DockEdge> restEdge_;
+  /// The Dock's edge, and since when it has been that, in nanoseconds. The application looks at it
+  /// once a second.
+  std::optional<DockEdge> edge_;
+  std::int64_t edgeChangedAt_ = 0;
   /// All in nanoseconds by the machine's clock. The last time at which the alert or the guide was
   /// open for a request that the user made after the last choice.
   std::optional<std::int64_t> askedAt_;

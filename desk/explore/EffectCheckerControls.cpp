@@ -171,7 +171,8 @@ EffectChecker::Check EffectChecker::checkLoginSwitch(const Step& step) const {
 
 EffectChecker::Check EffectChecker::checkMenuSwitches(const Step& step) const {
   const bool pressesLogin = presses(step, &Labels::openAtLogin, "menu");
-  const bool isTyped = step.before.isStatusMenuOpen && firstWord(step.line) == "key" &&
+  const bool isTyped = step.before.isStatusMenuOpen &&
+                       (step.line == "key return" || step.line == "key space") &&
                        (step.before.stored.wants != step.after.stored.wants ||
                         step.before.stored.prevents != step.after.stored.prevents);
   const bool isSwitch = pressesLogin || isTyped || presses(step, &Labels::prevent, "menu") ||

@@ -97,6 +97,18 @@ TEST_F(OrvaneModelLockTest, PinningClearsPreventModeThatIsChosenButStopped) {
 
 // Without the permission.
 
+TEST_F(OrvaneModelLockTest, AWaitingGuardFollowsTheChosenTarget) {
+  store("selectedDisplayID", desk::uuidNamed('C'));
+  launch().toggleLock();
+  ASSERT_FALSE(isPinned());
+  model->selectDisplay(desk::uuidNamed('B'));
+  EXPECT_TRUE(isPinned());
+  EXPECT_EQ(model->guardService().snapshot().lockedDisplayIdentifier, desk::uuidNamed('B'));
+  model->toggleLock();
+  model->selectDisplay(desk::uuidNamed('A'));
+  EXPECT_FALSE(model->isGuardRunning()) << "the lock is off";
+}
+
 TEST_F(OrvaneModelLockTest, AGrantRefreshesTheDisplaysBeforeTheStart) {
   machine.permission.setTrusted(false);
   launch().toggleLock();
