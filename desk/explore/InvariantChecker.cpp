@@ -241,11 +241,14 @@ InvariantChecker::Check InvariantChecker::checkTimers(const Observation& after) 
 InvariantChecker::Check InvariantChecker::checkMessages(const Step& step) {
   const Observation& before = step.before;
   const Observation& after = step.after;
+  if (before.isQueueHeld || after.isQueueHeld) {
+    messagesHeldUntil_ = after.now;
+  }
   // The guard's clock counts seconds as floating-point numbers.
   constexpr std::int64_t rounding = 1000;
-  const bool isPrompt = !before.isQueueHeld && !after.isQueueHeld;
-  if (isPrompt && after.messageCount > before.messageCount && after.reportInterval &&
-      *after.reportInterval < Clock::nanosecondsPerSecond - rounding) {
+  const auto& reports = after.reportTimes;
+  if (reports && after.messageCount > before.messageCount && (*reports)[0] > messagesHeldUntil_ &&
+      (*reports)[1] - (*reports)[0] < Clock::nanosecondsPerSecond - rounding) {
     return Violation{"messages", "blocks were reported twice within a second"};
   }
   const bool isQuiet =

@@ -90,8 +90,7 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
     observation.lastMessage = messages.back().text;
   }
   if (messages.size() > 1 && std::all_of(messages.end() - 2, messages.end(), reportsBlocks)) {
-    observation.reportInterval =
-        messages.back().atNanoseconds - (messages.end() - 2)->atNanoseconds;
+    observation.reportTimes = {(messages.end() - 2)->atNanoseconds, messages.back().atNanoseconds};
   }
   if (!server.announcements.empty()) {
     observation.lastAnnouncement = server.announcements.back();

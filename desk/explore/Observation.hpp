@@ -2,6 +2,7 @@
 // reports and shows, and what the machine stores and counts.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -56,8 +57,8 @@ struct Observation {
   std::string keySurface;
   std::size_t messageCount = 0;
   std::string lastMessage;
-  /// Between the last two messages, in nanoseconds, if both report blocks.
-  std::optional<std::int64_t> reportInterval;
+  /// When the last two messages arrived, in nanoseconds, if both report blocks.
+  std::optional<std::array<std::int64_t, 2>> reportTimes;
   /// To screen readers, since the launch.
   std::string lastAnnouncement;
   std::size_t announcementCount = 0;
