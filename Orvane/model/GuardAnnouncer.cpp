@@ -29,8 +29,9 @@ GuardAnnouncer::Announcement GuardAnnouncer::announcementFor(const OrvaneModel& 
     return {.isBlocked = true};
   }
   if (model.mode() == OrvaneMode::pinning) {
-    return {.mode = OrvaneMode::pinning,
-            .displayID = model.selectedDisplayID().value().value_or("")};
+    // Not by an alias, which the next refresh replaces.
+    const auto display = model.selectedDisplay();
+    return {.mode = OrvaneMode::pinning, .displayID = display ? display->id : ""};
   }
   return {.mode = model.mode()};
 }

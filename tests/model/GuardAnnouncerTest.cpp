@@ -43,6 +43,8 @@ TEST_F(GuardAnnouncerTest, StartingStoppingAndChangesOfTargetAndModeAreAnnounced
   model->selectDisplay(model->displays().value().at(1).id);
   EXPECT_EQ(announced(),
             Announcements{"The Dock is pinned to " + model->displays().value().at(1).name});
+  model->selectDisplay("2");
+  EXPECT_EQ(announced(), Announcements()) << "an alias of the same display";
   model->toggleHideDockOnAllDisplays();
   EXPECT_EQ(announced(), Announcements{"The Dock is kept from popping up"});
   model->toggleHideDockOnAllDisplays();
