@@ -251,11 +251,15 @@ InvariantChecker::Check InvariantChecker::checkMessages(const Step& step) {
       (*reports)[1] - (*reports)[0] < Clock::nanosecondsPerSecond - rounding) {
     return Violation{"messages", "blocks were reported twice within a second"};
   }
+  if (const std::int64_t delay = machine_.notifications.delayNanoseconds; delay > 0) {
+    notificationsUntil_ = std::max(notificationsUntil_, after.now + delay);
+  }
   const bool isQuiet =
-      step.line.starts_with("advance") && step.isWithinRun() && before.stored == after.stored &&
-      before.isTrusted == after.isTrusted && before.isGuardRunning == after.isGuardRunning &&
-      before.isTapEnabled == after.isTapEnabled && !wasStale_ && !isStale() &&
-      !before.isQueueHeld && !after.isQueueHeld && !before.isGuideOpen && !step.wasNotified &&
+      before.now > notificationsUntil_ && step.line.starts_with("advance") && step.isWithinRun() &&
+      before.stored == after.stored && before.isTrusted == after.isTrusted &&
+      before.isGuardRunning == after.isGuardRunning && before.isTapEnabled == after.isTapEnabled &&
+      !wasStale_ && !isStale() && !before.isQueueHeld && !after.isQueueHeld &&
+      !before.isGuideOpen && !step.wasNotified &&
       before.snapshot.isPermissionStale == after.snapshot.isPermissionStale &&
       after.isTapEnabled == after.isGuardRunning;
   if (!isQuiet) {
