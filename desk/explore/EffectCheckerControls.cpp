@@ -171,7 +171,7 @@ EffectChecker::Check EffectChecker::checkLoginSwitch(const Step& step) const {
 
 EffectChecker::Check EffectChecker::checkMenuSwitches(const Step& step) const {
   const bool pressesLogin = presses(step, &Labels::openAtLogin, "menu");
-  const bool isTyped = step.before.isStatusMenuOpen &&
+  const bool isTyped = step.before.isStatusMenuOpen && !mayBeGranted(step) &&
                        (step.line == "key return" || step.line == "key space") &&
                        (step.before.stored.wants != step.after.stored.wants ||
                         step.before.stored.prevents != step.after.stored.prevents);

@@ -131,10 +131,16 @@ InvariantChecker::Check InvariantChecker::checkAnnouncement(const Observation& b
   if (!isInLanguage(languages_, said)) {
     return Violation{"texts", "\"" + said + "\" was announced"};
   }
+  // Of displays that share an identifier, any may be named.
   const auto isNamed = [&](const Observation& observation) {
-    return std::ranges::none_of(observation.snapshot.displays, [&](const DisplaySnapshot& display) {
-      return display.id == after.stored.selected && !contains(said, display.name);
-    });
+    const auto& displays = observation.snapshot.displays;
+    const auto isTarget = [&](const DisplaySnapshot& display) {
+      return display.id == after.stored.selected;
+    };
+    return std::ranges::none_of(displays, isTarget) ||
+           std::ranges::any_of(displays, [&](const DisplaySnapshot& display) {
+             return isTarget(display) && contains(said, display.name);
+           });
   };
   // Tasks that a modal session has held back run before the displays are listed anew. The pin may
   // be announced before the step chooses a target, which then is announced in the next second, or
