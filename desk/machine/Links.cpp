@@ -54,11 +54,20 @@ bool Links::formsURL(std::string_view text) {
   return true;
 }
 
-std::string Links::percentEncoded(std::string_view text, const char* allowed) {
-  gchar* const escaped =
-      g_uri_escape_bytes(reinterpret_cast<const guint8*>(text.data()), text.size(), allowed);
-  std::string encoded(escaped == nullptr ? "" : escaped);
-  g_free(escaped);
+std::string Links::percentEncoded(std::string_view text, std::string_view allowed) {
+  // GLib's function leaves a null character as it is.
+  constexpr std::string_view hexDigits = "0123456789ABCDEF";
+  std::string encoded;
+  for (const char character : text) {
+    if (isUnreserved(character) || allowed.find(character) != std::string_view::npos) {
+      encoded += character;
+    } else {
+      const auto byte = static_cast<unsigned char>(character);
+      encoded += '%';
+      encoded += hexDigits[byte >> 4U];
+      encoded += hexDigits[byte & 15U];
+    }
+  }
   return encoded;
 }
 

@@ -39,7 +39,7 @@ class Links {
   [[nodiscard]] static bool formsURL(std::string_view text);
   [[nodiscard]] static std::string fileURL(std::string_view absolutePath);
   /// The text with the other characters escaped (RFC 3986, section 2.1).
-  [[nodiscard]] static std::string percentEncoded(std::string_view text, const char* allowed);
+  [[nodiscard]] static std::string percentEncoded(std::string_view text, std::string_view allowed);
 
  private:
   bool note(std::string url, bool isFile);

@@ -85,6 +85,8 @@ TEST_F(EffectCheckerTest, AGuardThatShutItselfOffRests) {
   filter.hasShutOff = true;
   EXPECT_EQ(violationOf("push 0 1 times 200"), "");
   filter.hasShutOff = false;
+  machine().advance(2);
+  before.now = machine().clock.now();
   after.isGuardRunning = after.isTapEnabled = true;
   EXPECT_EQ(violationOf("advance 1"), "it runs again after it shut itself off");
 }
