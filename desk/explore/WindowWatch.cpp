@@ -140,7 +140,7 @@ WindowWatch::Check WindowWatch::checkChosenCard(const Step& step) {
   const std::string_view command = firstWord(step.line);
   const auto panel = step.after.trees.find("main");
   if (panel == step.after.trees.end() || command == "scroll" || command == "key" ||
-      step.after.isQueueHeld) {
+      step.after.isQueueHeld || step.wasNotified) {
     showsChosenCard_ = false;
     return std::nullopt;
   }

@@ -23,8 +23,8 @@ class WindowWatch {
   [[nodiscard]] Check checkDrag(const Step& step) const;
   [[nodiscard]] Check checkChosenCard(const Step& step);
 
-  /// A display was chosen in the panel, or the panel was opened, and the user has not scrolled its
-  /// cards since.
+  /// A display was chosen in the panel, or the panel was opened, and neither have the displays
+  /// changed since nor has the user scrolled the cards.
   bool showsChosenCard_ = false;
 };
 
