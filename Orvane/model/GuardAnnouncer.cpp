@@ -29,7 +29,7 @@ GuardAnnouncer::Announcement GuardAnnouncer::announcementFor(const OrvaneModel& 
     return {.isBlocked = true};
   }
   if (model.mode() == OrvaneMode::pinning) {
-    // Not by an alias, which the next refresh replaces.
+    // Use the display's own identifier: the next refresh replaces a stored alias.
     const auto display = model.selectedDisplay();
     return {.mode = OrvaneMode::pinning, .displayID = display ? display->id : ""};
   }

@@ -128,7 +128,7 @@ void OrvaneModel::selectDisplay(const std::string& id) {
   if (mode() == OrvaneMode::pinning) {
     restartGuardIfRunning();
   } else if (waitsForTarget) {
-    // Else the guard would come back with the earlier target.
+    // Otherwise the guard would resume with the earlier target.
     startGuard();
   }
 }

@@ -18,7 +18,7 @@ struct DrawingResources {
   SymbolLibrary symbols;
   TextShaper shaper;
   Cache<Mask> masks{std::size_t{48} << 20U};
-  /// The coverage of shapes. The largest of a panel have a few megabytes.
+  /// The coverage of shapes. A panel's largest take a few megabytes each.
   Cache<SurfacePointer> shapes{std::size_t{64} << 20U};
   /// The unknown images and symbols that were drawn; tests expect none.
   std::set<std::string> missingNames;

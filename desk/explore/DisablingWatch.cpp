@@ -26,8 +26,8 @@ void forgetOlderThan(std::deque<std::int64_t>& times, std::int64_t age, std::int
 std::optional<Violation> DisablingWatch::check(const Step& step) {
   const Observation& before = step.before;
   const Observation& after = step.after;
-  // A guard that has shut itself off and is back by now has forgotten them, too. In a modal session
-  // it counts as running until it is notified of displays.
+  // A guard that shut itself off and has started again counts its disablings anew. In a modal
+  // session it counts as running until it is notified of displays.
   const bool isBack = step.wasNotified && !before.isTapEnabled;
   if (!step.isWithinRun() || !before.isGuardRunning || step.filter.hasShutOff || isBack) {
     certain_.clear();

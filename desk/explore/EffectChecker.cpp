@@ -49,7 +49,7 @@ struct Choices {
 Choices choicesOf(const Step& step) {
   const std::string_view command = firstWord(step.operation);
   if (command == "defaults" || command == "click" || command == "key") {
-    // It writes the values itself, or nobody knows which control it operates.
+    // The command writes the values itself, or may operate any control.
     return {true, true, true};
   }
   const bool isInPopUpMenu = step.operation.ends_with(" in menu") && !step.before.isStatusMenuOpen;

@@ -57,8 +57,8 @@ class EffectChecker {
 
   /// The system has refused a tap or its source since the permission was last good.
   bool mayBeStale_ = false;
-  /// The user has requested a lock without the permission, and done nothing since but grant it:
-  /// whether it is to prevent.
+  /// Whether the requested lock is to prevent; set from a request without the permission until the
+  /// user does anything other than grant it.
   std::optional<bool> requestedPrevention_;
   /// The guard has shut itself off, and nothing has happened since that may start it again.
   bool mustRest_ = false;

@@ -86,9 +86,9 @@ class InvariantChecker {
   /// The press that the running line amounts to, or the line.
   std::string operation_;
   std::map<std::string, std::int64_t> wrongSince_;
-  /// Until when late notifications may arrive, in nanoseconds.
+  /// The time until which late notifications may arrive, in nanoseconds.
   std::int64_t notificationsUntil_ = -1;
-  /// Until when the main queue was last held, in nanoseconds.
+  /// The end of the last time the main queue was held, in nanoseconds.
   std::int64_t messagesHeldUntil_ = 0;
   /// Since when the state of the guard and its surroundings have been the same, in nanoseconds.
   std::int64_t quietSince_ = 0;

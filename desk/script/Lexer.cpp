@@ -38,8 +38,8 @@ Problem problemWithBytes(std::string_view line) {
   return std::nullopt;
 }
 
-/// Reads the word at `place` and moves `place` to its end. False for an unterminated quote, to
-/// which it then moves.
+/// Reads the word at `place` and moves `place` to its end. At an unterminated quote it returns
+/// false and leaves `place` at the quote.
 bool readWord(std::string_view line, std::size_t& place, Word& word) {
   constexpr std::string_view escapes = R"("\nt)";
   constexpr std::string_view replacements = "\"\\\n\t";

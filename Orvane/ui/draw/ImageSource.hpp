@@ -10,7 +10,7 @@
 
 namespace orvane::ui {
 
-/// Without images and symbols by default.
+/// By default it has no images or symbols.
 struct ImageSource {
   using OptionalSize = std::optional<Size>;
 

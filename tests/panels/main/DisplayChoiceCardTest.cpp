@@ -1,5 +1,5 @@
-// The card that shows a display, with titles by position and roles by place. Its look and motion
-// are tested in tests/panels.
+// The card that shows a display: its title by position and its role by place. ComponentLookTest.cpp
+// and ComponentMotionTest.cpp test its look and motion.
 #include <ostream>
 #include <string>
 #include <vector>
