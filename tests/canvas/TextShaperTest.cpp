@@ -1,6 +1,5 @@
 // Drawn text: position, width, colour and line breaking.
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <string>
 #include <vector>

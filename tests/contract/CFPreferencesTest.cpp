@@ -1,5 +1,4 @@
 // Contract tests for Core Foundation strings and for reading another program's preferences.
-#include <string>
 #include <vector>
 
 #include "Orvane/base/CFRef.hpp"
