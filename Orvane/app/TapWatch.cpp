@@ -19,11 +19,8 @@ TapWatch::~TapWatch() {
 }
 
 void TapWatch::permissionsChanged() {
-  if (model_.isPermissionStale() || model_.guardService().wasTapRefused()) {
-    // The system may no longer refuse the tap.
-    model_.clearStalePermission();
-    wasMissing_ = true;
-  }
+  // The system may no longer refuse the tap.
+  model_.clearStalePermission();
   check();
 }
 
@@ -31,20 +28,22 @@ void TapWatch::check() {
   if (!model_.refreshPermission()) {
     wasMissing_ = true;
     model_.clearStalePermission();
-    if (model_.isGuardRunning()) {
-      // Not on the main queue, which is suspended in a modal session: the pointer would freeze.
-      model_.suspendGuard();
-    }
+    // Not on the main queue, which is suspended in a modal session: the pointer would freeze.
+    model_.suspendGuard();
     return;
   }
   if (model_.isPermissionStale()) {
     return;
   }
   model_.followDock();
-  if (const bool isBack = std::exchange(wasMissing_, false); model_.isGuardRunning()) {
-    reviveTap();
-  } else if (isBack || model_.guardService().wasTapRefused()) {
+  const DockMouseGuard& guard = model_.guardService();
+  const bool isOn = guard.isRunning() || guard.isWaiting();
+  const bool isBack = std::exchange(wasMissing_, false);
+  // A guard that is on was started after the permission returned, and may have shut itself off.
+  if ((isBack && !isOn) || guard.wasTapRefused()) {
     resumeGuard();
+  } else if (isOn) {
+    reviveTap();
   }
 }
 

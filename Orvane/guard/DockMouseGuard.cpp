@@ -55,8 +55,9 @@ void DockMouseGuard::start(const std::string& targetDisplayID, OrvaneModifier mo
 
 bool DockMouseGuard::isSetTo(const std::string& targetDisplayID, OrvaneModifier modifier,
                              bool blocksAllDisplays) const {
-  return overrideModifier_ == modifier && blocksAllDisplays_ == blocksAllDisplays &&
-         (blocksAllDisplays || lockedDisplayIdentifier_ == targetDisplayID);
+  const bool hasTarget = blocksAllDisplays || lockedDisplayIdentifier_ == targetDisplayID;
+  const bool hasModifier = !eventTap_ || overrideModifier_ == modifier;
+  return blocksAllDisplays_ == blocksAllDisplays && hasTarget && hasModifier;
 }
 
 GuardSnapshot DockMouseGuard::snapshot() const {

@@ -122,14 +122,15 @@ void OrvaneModel::selectDisplay(const std::string& id) {
   if (selectedDisplayID_.value() == id) {
     return;
   }
-  const bool waitsForTarget =
-      guardService_.isWaiting() && !hidesDockOnAllDisplays_.value() && !isTargetAttached();
   setSelectedDisplayID(id);
-  if (mode() == OrvaneMode::pinning) {
-    restartGuardIfRunning();
-  } else if (waitsForTarget) {
+  if (hidesDockOnAllDisplays_.value()) {
+    return;
+  }
+  if (guardService_.isWaiting()) {
     // Otherwise the guard would resume with the earlier target.
     startGuard();
+  } else {
+    restartGuardIfRunning();
   }
 }
 

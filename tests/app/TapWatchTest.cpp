@@ -27,6 +27,14 @@ class TapWatchTest : public ModelFixture {
     machine.eventTaps.killAll();
   }
 
+  /// Presses against the monitor's Dock edge until the guard shuts itself off.
+  void letBlocksRunAway() {
+    for (int move = 0; move < 200; ++move) {
+      machine.mouse.post({2500, 1079}, 0);
+    }
+    machine.runDue();
+  }
+
   std::optional<TapWatch> tapWatch;
 };
 
@@ -158,6 +166,24 @@ TEST_F(StalePermissionTest, ReturnsWhenTheTapIsRefusedAgain) {
   EXPECT_EQ(model->status(), OrvaneStatus::permissionRequired);
 }
 
+TEST_F(StalePermissionTest, AGuardThatTheUserStartsAndThatShutsItselfOffStaysOff) {
+  machine.eventTaps.setRefusesCreation(false);
+  model->toggleSelectedDisplayLock();
+  ASSERT_TRUE(isTapEnabled());
+  letBlocksRunAway();
+  machine.advance(2 * TapWatch::intervalSeconds);
+  EXPECT_FALSE(model->isGuardRunning());
+}
+
+TEST_F(TapWatchTest, AGuardThatShutItselfOffResumesWithThePermission) {
+  watchPinned();
+  letBlocksRunAway();
+  ASSERT_FALSE(model->isGuardRunning());
+  machine.permission.setTrusted(false);
+  machine.permission.setTrusted(true);
+  EXPECT_TRUE(isTapEnabled());
+}
+
 TEST_F(TapWatchTest, ATapThatIsRepeatedlyDisabledIsGivenUp) {
   watchPinned();
   for (int count = 0; count < 5; ++count) {
@@ -189,9 +215,7 @@ TEST_F(TapWatchTest, AGuardThatShutItselfOffStaysOff) {
   // The shut-off's clean-up waits for the main queue, which is suspended, unlike the watch.
   machine.runLoop.enterMode(desk::RunLoop::Mode::modalPanel);
   machine.runLoop.holdMainQueue();
-  for (int move = 0; move < 200; ++move) {
-    machine.mouse.post({2500, 1079}, 0);
-  }
+  letBlocksRunAway();
   machine.advance(1);
   EXPECT_FALSE(model->isGuardRunning()) << "the check completes the shut-off";
   machine.runLoop.releaseMainQueue();
