@@ -177,9 +177,11 @@ EffectChecker::Check EffectChecker::checkWait(const Step& step,
   const GuardSnapshot& guard = after.snapshot.guard;
   const GuardGoal goal{guard.blocksAllDisplays, guard.lockedDisplayIdentifier};
   const bool hasEdges = configuration.edge && !configuration.forbiddenEdgePoints(goal).empty();
-  const bool canStart = hasEdges && after.isTrusted && !mayBeStale_ && !step.isStale;
-  // A guard that pauses although its edges stay has shut itself off, or was refused a tap.
-  const bool hasPaused = step.before.isGuardRunning && after.isGuardWaiting && hasEdges;
+  const bool canStart = after.stored.wants && canRun(step, configuration);
+  // A guard that pauses although its edges stay has shut itself off, or was refused a tap. It keeps
+  // them while the Dock's edge is unknown.
+  const bool hasPaused = step.before.isGuardRunning && after.isGuardWaiting &&
+                         (configuration.edge ? hasEdges : !step.wasNotified);
   if (std::exchange(edge_, configuration.edge) != configuration.edge) {
     edgeChangedAt_ = after.now;
   }

@@ -55,8 +55,9 @@ void FilterWatch::beginStep() {
 
 void FilterWatch::noteSettings() {
   Stored present = Stored::of(machine_.userDefaults);
-  if (settings_.empty() || !(settings_.back() == present)) {
-    // A guard that is switched to another mode is stopped, and forgets its blocks.
+  const std::int64_t writes = machine_.userDefaults.writeCount("isOrvaneEnabled");
+  if (std::exchange(switchWrites_, writes) != writes) {
+    // A guard that is switched off or to another mode is stopped, and forgets its blocks.
     runaway_.beginStep();
   }
   if (!machine_.runLoop.isMainQueueHeld()) {

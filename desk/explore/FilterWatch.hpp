@@ -66,6 +66,8 @@ class FilterWatch : public EventWitness {
   /// display starts with those of its stop; then those of now. Each once.
   std::vector<Stored> settings_;
   RunawayWatch runaway_;
+  /// How often the user's switch had been stored at the last event.
+  std::int64_t switchWrites_ = 0;
   Step step_;
   std::int64_t events_ = 0;
 };

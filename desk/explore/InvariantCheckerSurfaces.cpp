@@ -114,7 +114,9 @@ InvariantChecker::Check InvariantChecker::checkAnnouncement(const Observation& b
   if (isOverdue("announcement", !isExpected, after.now, announcementDelay)) {
     return Violation{"announcement", "the last one was \"" + said + "\""};
   }
-  if (!before.isLaunched || after.isTrusted || !after.stored.wants) {
+  // A target that is away stops the guard, too.
+  const bool mayStop = before.stored.selected != after.stored.selected;
+  if (!before.isLaunched || after.isTrusted || !after.stored.wants || mayStop) {
     isLossUnannounced_ = false;
   } else if (before.isTrusted && before.isGuardRunning) {
     isLossUnannounced_ =
