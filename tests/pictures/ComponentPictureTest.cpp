@@ -68,6 +68,15 @@ TEST_F(ComponentPictureTest, MenuRows) {
               true, desk::Appearance::Wallpaper::black);
 }
 
+TEST_F(ComponentPictureTest, TheMainPanel) {
+  expectSheet("main-panel-states", {"pinned"}, true, desk::Appearance::Wallpaper::black);
+}
+
+TEST_F(ComponentPictureTest, TheSettings) {
+  expectSheet("settings-panel", {"the login item needs approval"}, false,
+              desk::Appearance::Wallpaper::white);
+}
+
 TEST_F(ComponentPictureTest, TheAlertByDay) {
   expectDialogues("permission-alert", false, OrvaneLanguage::english);
 }
