@@ -30,7 +30,6 @@ View StatusMenuRow::iconBadge() const {
   return Symbol(systemImage)
       .font(Font::system(13, Weight::medium))
       .foreground(symbolColor)
-      .frame(18, 18)
       .frame(24, 24)
       .background(Circle().fill(isSelected ? Color::blue() : Color::tertiary().opacity(0.16)));
 }

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <ostream>
 #include <type_traits>
-#include <utility>
 
 #include "desk/canvas/PngFile.hpp"
 #include "desk/hand/Hand.hpp"

@@ -61,7 +61,7 @@ std::optional<Tooltip> fullText(const std::vector<Node*>& hits, double now) {
 }  // namespace
 
 Node* RetainedTree::find(std::uint64_t id) const {
-  return root && id != 0 ? findBelow(*root, id) : nullptr;
+  return root ? findBelow(*root, id) : nullptr;
 }
 
 std::vector<Node*> RetainedTree::hitTest(Point point) const {

@@ -89,9 +89,6 @@ void ViewHost::layoutIfNeeded() {
       }
     }
   }
-  if (needsUpdate_) {
-    tree_.link->call(&HostServices::requestRedraw);
-  }
   reportSemanticsChange();
 }
 
