@@ -66,8 +66,8 @@ class DockMouseGuard {
   /// Whether the guard has zones but no tap, because the system refused the last one.
   [[nodiscard]] bool wasTapRefused() const { return !eventTap_ && !cachedTriggerZones_.empty(); }
   /// Whether the guard guards with these settings. A start without the permission leaves a running
-  /// guard with those that it had. A guard that blocks all displays has no target, and one without a
-  /// tap no unlock key.
+  /// guard with those that it had. A guard that blocks all displays has no target, and one without
+  /// a tap no unlock key.
   [[nodiscard]] bool isSetTo(const std::string& targetDisplayID, OrvaneModifier modifier,
                              bool blocksAllDisplays) const;
   [[nodiscard]] GuardSnapshot snapshot() const;

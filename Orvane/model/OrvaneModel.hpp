@@ -123,8 +123,9 @@ class OrvaneModel {
   /// Starts the guard if the user wants it on and it is not running. A guard whose target is not
   /// attached waits for it.
   void resumeGuard();
-  /// To be called periodically while the guard runs or waits and the permission is granted. Restarts a
-  /// guard that missed a change of the settings while the permission was away; else revives its tap.
+  /// To be called periodically while the guard runs or waits and the permission is granted.
+  /// Restarts a guard that missed a change of the settings while the permission was away; else
+  /// revives its tap.
   void reviveGuard();
   /// To be called periodically while the permission is granted: a guard that runs or waits follows
   /// the Dock to another edge.
