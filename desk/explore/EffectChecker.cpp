@@ -196,6 +196,10 @@ EffectChecker::Check EffectChecker::checkWait(const Step& step,
   mustRest_ =
       (mustRest_ && !mayEnd) || (hasShutOff && !step.wasNotified && !isRefusing(step.machine));
   mayWait_ = (mayWait_ && after.isGuardWaiting && !step.wasNotified) || hasShutOff;
+  if (step.before.isGuardWaiting && after.isGuardWaiting && step.wasNotified && canStart &&
+      hasEdges && !hasShutOff && !after.isChangingTogether) {
+    return missingGuard("the guard did not start when it was notified of the displays");
+  }
   if (!after.isGuardWaiting || !canStart || mayWait_ || after.isChangingTogether) {
     canStartSince_.reset();
     return std::nullopt;
