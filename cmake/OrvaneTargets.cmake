@@ -14,6 +14,8 @@ endif()
 if(ORVANE_WARNINGS_AS_ERRORS)
   target_compile_options(orvane_flags INTERFACE -Werror)
 endif()
+# An empty optional that is read, or an index out of range, aborts the program.
+target_compile_definitions(orvane_flags INTERFACE $<$<NOT:$<CONFIG:Release>>:_GLIBCXX_ASSERTIONS>)
 if(ORVANE_SANITIZE)
   set(orvane_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all
                         -fno-omit-frame-pointer)
