@@ -66,6 +66,7 @@ Observation Observation::of(const Machine& machine, const ApplicationHost& appli
   observation.isStatusMenuOpen = server.menus.isStatusMenuOpen();
   observation.isChangingTogether = machine.displays.isChanging();
   observation.displayCount = machine.displays.count();
+  observation.pointer = machine.pointer.location();
   observation.tapCount = machine.eventTaps.aliveCount();
   observation.linkCount = machine.links.opened().size();
   observation.isTapEnabled = machine.eventTaps.isAnyEnabled();

@@ -28,6 +28,8 @@ struct Observation {
   bool isStatusMenuOpen = false;
   bool isChangingTogether = false;
   std::size_t displayCount = 0;
+  /// In global coordinates.
+  CGPoint pointer{};
   std::size_t tapCount = 0;
   /// How many links were opened since the machine was switched on.
   std::size_t linkCount = 0;

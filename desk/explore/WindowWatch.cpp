@@ -133,7 +133,14 @@ WindowWatch::Check WindowWatch::checkDrag(const Step& step) const {
       return Violation{"windows", std::string(surface) + " cannot be dragged"};
     }
   }
-  return std::nullopt;
+  // The pointer moves only if the icon and the list are in sight. At a display's edge it may be
+  // unable to begin a drag.
+  const CGPoint before = step.before.pointer;
+  const CGPoint after = step.after.pointer;
+  const bool hasTried = step.line == "drop icon" && (before.x != after.x || before.y != after.y) &&
+                        isInSight("guide");
+  return hasTried ? Check(Violation{"guide", "its icon cannot be dragged into the list"})
+                  : std::nullopt;
 }
 
 WindowWatch::Check WindowWatch::checkChosenCard(const Step& step) {

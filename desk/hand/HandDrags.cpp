@@ -9,15 +9,16 @@ namespace orvane::desk {
 
 namespace {
 
-/// The first point for which `isRight` is true, searched for in steps from the area's top left.
-/// Area and result are in global coordinates; the second argument of `isRight` is from the top
-/// left.
+/// The first point on a display for which `isRight` is true, searched for in steps from the area's
+/// top left. Area and result are in global coordinates; the second argument of `isRight` is from
+/// the top left.
 template <typename Predicate>
-std::optional<CGPoint> placeIn(const CGRect& area, double step, const Predicate& isRight) {
+std::optional<CGPoint> placeIn(const Displays& displays, const CGRect& area, double step,
+                               const Predicate& isRight) {
   for (double y = step; y < area.size.height; y += step) {
     for (double x = step; x < area.size.width; x += step) {
       const CGPoint place{area.origin.x + x, area.origin.y + y};
-      if (isRight(place, ui::Point{x, y})) {
+      if (displays.indexContaining(place) && isRight(place, ui::Point{x, y})) {
         return place;
       }
     }
@@ -48,14 +49,13 @@ Hand::Refusal Hand::dragWindow(const std::string& surface, double dx, double dy)
   constexpr double step = 6;
   const WindowServer& server = WindowServer::current();
   const Displays& displays = machine_.displays;
-  const auto place =
-      placeIn({server.topLeftOf(window), window.frame.size}, step, [&](CGPoint point, ui::Point) {
+  const auto place = placeIn(
+      displays, {server.topLeftOf(window), window.frame.size}, step, [&](CGPoint point, ui::Point) {
         const bool moves =
             window.isMovableByBackground &&
             (window.content == nullptr ||
              window.content->host().movesWindowAt(window.contentPoint(displays.flipped(point))));
-        return displays.indexContaining(point).has_value() && moves &&
-               server.windowAt(point).get() == &window;
+        return moves && server.windowAt(point).get() == &window;
       });
   if (!place) {
     return inQuotes(surface) + " has no background to drag it by";
@@ -79,15 +79,17 @@ Hand::Refusal Hand::dropIcon() const {
     return "the surfaces \"guide\" and \"system\" must be open";
   }
   constexpr double step = 4;
+  const Displays& displays = machine_.displays;
   const std::vector<SurfaceControl> controls = Surfaces(server).controls("guide");
   const auto from = placeIn(
-      machine_.displays.flipped(guide->contentFrame()), step, [&](CGPoint place, ui::Point point) {
+      displays, displays.flipped(guide->contentFrame()), step, [&](CGPoint place, ui::Point point) {
         return isIcon(*guide, controls, point) && server.windowAt(place) == guide;
       });
-  const auto to = placeIn(
-      machine_.displays.flipped(system->contentFrame()), step, [&](CGPoint place, ui::Point point) {
-        return system->dropTarget->accepts(point) && server.windowAt(place) == system;
-      });
+  const auto to =
+      placeIn(displays, displays.flipped(system->contentFrame()), step,
+              [&](CGPoint place, ui::Point point) {
+                return system->dropTarget->accepts(point) && server.windowAt(place) == system;
+              });
   if (!from || !to) {
     return from ? "the list is covered" : "there is no icon to drag";
   }
