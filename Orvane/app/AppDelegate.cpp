@@ -63,7 +63,6 @@ void AppDelegate::updateStatusItemIcon() {
   statusItem_->setImage(statusBarImage(isRunning ? "lock.fill" : "lock.open"));
   statusItem_->setAccessibilityValue(isRunning ? model.localized("Locked", "已锁定")
                                                : model.localized("Unlocked", "未锁定"));
-  announcer_.update(model);
 }
 
 std::optional<appkit::Image> AppDelegate::statusBarImage(std::string_view name) {

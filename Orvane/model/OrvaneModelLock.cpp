@@ -91,7 +91,6 @@ void OrvaneModel::toggleHideDockOnAllDisplays() {
     return;
   }
   if (!hidesDockOnAllDisplays_.value()) {
-    clearStalePermission();
     refreshDisplays();
     if (!hasAccessibilityPermission_.value()) {
       requestAccessibilityForAllDisplayGuard();

@@ -28,7 +28,7 @@ View paragraph(const std::string& text) {
 }
 
 View wideButton(const std::string& title, const std::function<void()>& action) {
-  return Button(action, Text(title).lineLimit(1).maximumWidth());
+  return Button(action, Text(title).maximumWidth());
 }
 
 }  // namespace

@@ -62,9 +62,9 @@ View OrvanePermissionGuideView::iconArea() const {
 
 View OrvanePermissionGuideView::statusLine(bool isDark) const {
   // Unlike the accent colour, these are not the user's choice, so they need the full contrast on
-  // the window's background.
+  // the window's background. They have it on a dark one.
   const auto readable = [isDark](const Color& color) {
-    return color.textOn(isDark ? 0.04 : 0.8, 0, 4.5);
+    return isDark ? color : color.textOn(0.8, 0, 4.5);
   };
   // Each state has its own line, so that one fades into the other. A single line would be clipped
   // during the change.

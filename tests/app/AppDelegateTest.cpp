@@ -132,9 +132,10 @@ TEST_F(AppDelegateMenuTest, ItsItemsAreOnForSwitchesThatAreOnAndForTheChosenDisp
   beginWithOpenMenu();
   EXPECT_EQ(itemsThatAreOn(), std::vector<std::string>{"Display (Main)"});
   const std::vector<appkit::MenuItem> items = server().menus.menu()->items;
-  std::ranges::find(items, "Pin Dock", &appkit::MenuItem::title)->action();
-  EXPECT_EQ(itemsThatAreOn(), (std::vector<std::string>{"Pin Dock", "Display (Main)"}))
-      << "at once";
+  for (const std::string mode : {"Pin Dock", "Prevent Dock Pop-Up"}) {
+    std::ranges::find(items, mode, &appkit::MenuItem::title)->action();
+    EXPECT_EQ(itemsThatAreOn(), (std::vector<std::string>{mode, "Display (Main)"})) << "at once";
+  }
 }
 
 TEST_F(AppDelegateMenuTest, WithoutDisplaysADisabledRowSaysSo) {

@@ -216,6 +216,14 @@ TEST_F(DockMouseGuardTest, TheOwnerHearsOnTheMainQueueWhetherTheGuardRuns) {
   EXPECT_EQ(announced(), Announced{false});
   machine.eventTaps.setRefusesCreation(false);
   startPinned();
+  EXPECT_EQ(announced(), Announced{true});
+  machine.eventTaps.setRefusesCreation(true);
+  machine.eventTaps.disableAllSilently(true);
+  guard->reviveTap();
+  guard->reviveTap();
+  EXPECT_EQ(announced(), Announced{false}) << "the tap was not replaced";
+  machine.eventTaps.setRefusesCreation(false);
+  startPinned();
   announced();
   guard->stop();
   EXPECT_EQ(announced(), Announced{false});

@@ -161,6 +161,15 @@ TEST_F(OrvaneModelLockTest, AGrantForPreventWritesTheModeEvenWhenItIsChosenAlrea
   EXPECT_TRUE(isPreventing());
 }
 
+TEST_F(OrvaneModelLockTest, AGrantDoesNotWriteThePreventModeThatWasChosenBeforeTheRequest) {
+  store("hidesDockOnAllDisplays", true);
+  machine.permission.setTrusted(false);
+  launch().toggleHideDockOnAllDisplays();
+  machine.permission.setTrusted(true);
+  EXPECT_EQ(writesOf([&] { prompts.at(0)(); }), (Writes{{"isOrvaneEnabled", 1}}));
+  EXPECT_TRUE(isPreventing());
+}
+
 TEST_F(OrvaneModelLockTest, AGrantStartsTheModeThatWasRequested) {
   machine.permission.setTrusted(false);
   launch().toggleHideDockOnAllDisplays();

@@ -134,9 +134,12 @@ TEST_F(OrvaneModelTest, SettingPreventModeRestartsARunningGuardWhenThePermission
   EXPECT_EQ(stored("hidesDockOnAllDisplays"), Value(true));
   machine.permission.setTrusted(false);
   model->refreshPermission();
+  const double checked = model->lastCheckedAt().value();
+  machine.advance(5);
   model->setHidesDockOnAllDisplays(false);
   EXPECT_TRUE(model->guardService().snapshot().blocksAllDisplays)
       << "not restarted without permission";
+  EXPECT_EQ(model->lastCheckedAt().value(), checked);
   EXPECT_EQ(stored("hidesDockOnAllDisplays"), Value(false));
 }
 
