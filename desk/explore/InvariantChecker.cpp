@@ -225,10 +225,9 @@ InvariantChecker::Check InvariantChecker::checkKeys() const {
 }
 
 InvariantChecker::Check InvariantChecker::checkTimers(const Observation& after) const {
-  // The status icon and the tap watch have one each, so have an open panel and a guide that polls.
-  // Open settings may have one for the login item.
-  const std::size_t expected = 2U + static_cast<std::size_t>(after.isMainOpen) +
-                               static_cast<std::size_t>(after.isGuidePolling) +
+  // The status icon and the tap watch have one each, so has a guide that polls. Open settings may
+  // have one for the login item.
+  const std::size_t expected = 2U + static_cast<std::size_t>(after.isGuidePolling) +
                                static_cast<std::size_t>(after.isSettingsOpen);
   const std::size_t count = machine_.runLoop.coalescedTimerCount();
   if (count > expected) {

@@ -111,7 +111,8 @@ InvariantChecker::Check InvariantChecker::checkAnnouncement(const Observation& b
   const bool isExpected = pins == (after.isGuardRunning && !after.stored.prevents) &&
                           prevents == (after.isGuardRunning && after.stored.prevents);
   // The application looks once a second, and the guard may stop and start in between.
-  if (isOverdue("announcement", !isExpected, after.now, announcementDelay)) {
+  const bool isNew = said != before.lastAnnouncement;
+  if (isOverdue("announcement", !isExpected && !isNew, after.now, announcementDelay)) {
     return Violation{"announcement", "the last one was \"" + said + "\""};
   }
   // A target that is away stops the guard, too.
