@@ -206,7 +206,7 @@ class MenuActionCallsTest : public StartUpTest {
       mainToFront + activateCall;
   const std::string showSettingsCalls = newSettings + settingsToFront + activateCall;
   /// Those of the main panel's view when it appears.
-  const std::string mainAppearsCalls = refreshCalls("") + timerCall;
+  const std::string mainAppearsCalls = refreshCalls("");
 };
 
 TEST_F(MenuActionCallsTest, OpenWindowActivatesAfterTheWindowToo) {

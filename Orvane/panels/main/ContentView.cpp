@@ -2,12 +2,9 @@
 // are in ContentViewPanels.cpp.
 #include "Orvane/panels/main/ContentView.hpp"
 
-#include <memory>
-
 #include "Orvane/panels/main/OrvanePalette.hpp"
 #include "Orvane/panels/main/TitleBarIconButtonStyle.hpp"
 #include "Orvane/panels/main/TrafficLightButton.hpp"
-#include "Orvane/platform/appkit/Timer.hpp"
 #include "Orvane/ui/views/Button.hpp"
 #include "Orvane/ui/views/Image.hpp"
 #include "Orvane/ui/views/ShapeView.hpp"
@@ -28,7 +25,6 @@ constexpr double trafficLightSpacing = 9;
 constexpr double topHighlightHeight = 150;
 constexpr double entranceOffset = 10;
 constexpr double entranceSeconds = 0.32;
-constexpr double permissionRefreshSeconds = 1.0;
 
 }  // namespace
 
@@ -99,9 +95,6 @@ View ContentView::titleBar(const Environment& environment) const {
 
 View ContentView::body(const Environment& environment) const {
   const State<bool> hasAppeared = environment.state("hasAppeared", false);
-  // As state of the view it ends with the view.
-  const State<std::shared_ptr<appkit::Timer>> permissionTimer =
-      environment.state("permissionTimer", std::shared_ptr<appkit::Timer>());
   // When one change triggers several of these animations, the innermost runs: a selection or mode
   // that changes together with the status follows the status's curve. The entrance is outside of
   // all three and keeps its own curve, even if the refresh below triggers one of them.
@@ -115,12 +108,9 @@ View ContentView::body(const Environment& environment) const {
   return VStack(0, {titleBar(environment), Spacer(), content})
       .frame(OrvaneWindow::contentSize.width, OrvaneWindow::contentSize.height)
       .background(windowBackground(environment.isDark()))
-      .onAppear([model = model, hasAppeared, permissionTimer] {
+      .onAppear([model = model, hasAppeared] {
         model->refreshDisplays();
         hasAppeared.set(true, Curve::easeOut(entranceSeconds));
-        permissionTimer.set(std::make_shared<appkit::Timer>(
-            appkit::Timer::repeating(permissionRefreshSeconds, appkit::RunLoopMode::common,
-                                     [model] { model->refreshPermission(); })));
       });
 }
 

@@ -125,12 +125,14 @@ TEST_F(ContentViewTest, ACardForEachDisplayInTheModelsOrderSelectsIt) {
   EXPECT_EQ(cards().size(), 4U);
 }
 
-TEST_F(ContentViewTest, ThePanelsTimerEndsWithThePanel) {
-  const std::size_t timers = machine.runLoop.timerCount();
+TEST_F(ContentViewTest, ItShowsALostPermissionWithinASecond) {
   openMain();
-  EXPECT_EQ(machine.runLoop.timerCount(), timers + 1);
-  ASSERT_TRUE(press("Close"));
-  EXPECT_EQ(machine.runLoop.timerCount(), timers);
+  ASSERT_TRUE(press("Pin Dock"));
+  ASSERT_EQ(pill("Pin Dock to a Display"), "Pinned");
+  machine.permission.onChange(nullptr);
+  machine.permission.setTrusted(false);
+  machine.advance(1);
+  EXPECT_NE(pill("Pin Dock to a Display"), "Pinned");
 }
 
 class ContentViewLayoutTest : public PanelFixture {
