@@ -38,7 +38,8 @@ int runScripts(const std::vector<std::string>& files) {
 }
 
 void addOptions(orvane::desk::explore::ExploreOptions& options, CLI::App& explorer) {
-  explorer.add_option("--seed", options.seed, "The seed of the first day");
+  explorer.add_option("--seed", options.seed, "The seed of the first day")
+      ->check(CLI::NonNegativeNumber);
   explorer.add_option("--days", options.days, "The number of days")->check(CLI::NonNegativeNumber);
   explorer.add_option("--steps", options.steps, "The steps of a day")
       ->check(CLI::NonNegativeNumber);

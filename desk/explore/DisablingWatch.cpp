@@ -53,7 +53,8 @@ std::optional<Violation> DisablingWatch::check(const Step& step) {
     return std::nullopt;
   }
   certain_.push_back(after.now);
-  if (possible_.size() < limit && isDisabled) {
+  const bool hasGivenUp = isDisabled || (after.isGuardWaiting && !step.wasNotified);
+  if (possible_.size() < limit && hasGivenUp) {
     return Violation{"tap", "the guard did not enable it at once"};
   }
   if (certain_.size() >= limit && after.isTapEnabled) {

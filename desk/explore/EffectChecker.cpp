@@ -66,6 +66,11 @@ std::size_t elementCount(const Observation& observation) {
   return count;
 }
 
+/// Whether the guard runs, or starts when it can.
+bool isOn(const Observation& observation) {
+  return observation.isGuardRunning || observation.isGuardWaiting;
+}
+
 Violation missingGuard(const char* text) {
   return {"effect", text, "guard.running true"};
 }
@@ -102,8 +107,13 @@ void EffectChecker::track(const Step& step) {
   } else if (permissionMissingSince_) {
     if (after.now - *permissionMissingSince_ > permissionInterval) {
       permissionReturnedAt_ = after.now;
+      mustBeOnSince_ = after.now;
     }
     permissionMissingSince_.reset();
+  }
+  const bool hasGoal = after.stored.prevents || after.stored.selected;
+  if (isOn(after) || !after.isTrusted || !after.stored.wants || !hasGoal || mayBeStale_) {
+    mustBeOnSince_.reset();
   }
 }
 
@@ -168,7 +178,10 @@ EffectChecker::Check EffectChecker::checkReturnOfPermission(
   if (permissionReturnedAt_ && step.after.now - *permissionReturnedAt_ > permissionInterval) {
     return missingGuard("the lock did not come back with the permission");
   }
-  return std::nullopt;
+  return mustBeOnSince_ && step.after.now - *mustBeOnSince_ > permissionInterval
+             ? Check(Violation{"effect", "the guard neither runs nor waits for its display",
+                               "guard.observing true"})
+             : std::nullopt;
 }
 
 EffectChecker::Check EffectChecker::checkWait(const Step& step,
@@ -212,9 +225,11 @@ EffectChecker::Check EffectChecker::checkWait(const Step& step,
 
 EffectChecker::Check EffectChecker::checkStop(const Step& step,
                                               const DisplayConfiguration& configuration) const {
-  const bool hasStopped =
-      step.before.isGuardRunning && !step.after.isGuardRunning && !step.after.isGuardWaiting;
-  return hasStopped && step.after.stored.wants && canRun(step, configuration)
+  const bool hasStopped = isOn(step.before) && !isOn(step.after);
+  // The choice of a display that is away stops the guard, and so does a lost permission.
+  const bool mayStop = step.isUserAction() || !step.before.isTrusted || !step.after.isTrusted ||
+                       mayBeStale_ || step.isStale;
+  return hasStopped && step.after.stored.wants && (!mayStop || canRun(step, configuration))
              ? Check(missingGuard("the guard stopped although the lock is on"))
              : std::nullopt;
 }
@@ -333,6 +348,16 @@ EffectChecker::Check EffectChecker::checkStoredChoices(
       (was.wants != is.wants || was.prevents != is.prevents)) {
     return Violation{"choice", "the lock or mode was stored without a user action",
                      "defaults.isOrvaneEnabled " + std::string(was.wants ? "true" : "false")};
+  }
+  const bool isFirstChoice = step.isLaunch() || step.line == "menu open" || step.line == "reopen";
+  if (isFirstChoice && !was.selected && is.selected && !step.isStale) {
+    const auto main = std::ranges::find_if(configuration.screens,
+                                           [](const auto& screen) { return screen.isMain; });
+    const auto& screens = configuration.screens;
+    const auto& expected = main != screens.end() ? *main : screens.front();
+    if (expected.names.front() != *is.selected) {
+      return Violation{"choice", "the first target is not the main display"};
+    }
   }
   if (!chosen.hasTarget && was.selected && was.selected != is.selected) {
     // A display that was stored by an alias may be stored again by its preferred identifier.

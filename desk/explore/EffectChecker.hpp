@@ -81,6 +81,8 @@ class EffectChecker {
   std::int64_t elementsChangedAt_ = 0;
   std::optional<std::int64_t> permissionMissingSince_;
   std::optional<std::int64_t> permissionReturnedAt_;
+  /// When the permission returned, until the guard runs or waits.
+  std::optional<std::int64_t> mustBeOnSince_;
 };
 
 }  // namespace orvane::desk::explore

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Orvane/model/OrvaneProduct.hpp"
 #include "desk/explore/EffectChecker.hpp"
 #include "desk/explore/Lines.hpp"
 #include "desk/explore/Operations.hpp"
@@ -63,6 +64,13 @@ EffectChecker::Check EffectChecker::checkWindows(const Step& step) const {
       !after.shows("main")) {
     return Violation{"effect", "the panel did not open"};
   }
+  if (presses(step, &Labels::openWindow, "menu") && !step.before.isSettingsOpen &&
+      after.isSettingsOpen) {
+    return Violation{"effect", "the settings opened with the panel"};
+  }
+  if (presses(step, &Labels::close, "settings") && step.before.isMainOpen && !after.isMainOpen) {
+    return Violation{"effect", "the panel closed with the settings"};
+  }
   if (presses(step, &Labels::settings, "menu") || presses(step, &Labels::settings, "main")) {
     if (!after.shows("settings")) {
       return Violation{"effect", "the settings did not open"};
@@ -100,7 +108,7 @@ EffectChecker::Check EffectChecker::checkLinks(const Step& step) const {
                                     "preference.security", settingsProgram};
   constexpr std::array links{
       Link{&Labels::privacyPolicy, "settings", {"https://"}},
-      Link{&Labels::contactSupport, "settings", {"mailto:"}},
+      Link{&Labels::contactSupport, "settings", {OrvaneProduct::supportAddress}},
       Link{&Labels::accessibilitySettings, "settings", accessibility},
       Link{&Labels::loginItems, "settings", {"LoginItems-Settings", settingsProgram}},
       Link{&Labels::openDockSettings,

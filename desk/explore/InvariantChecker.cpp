@@ -159,7 +159,7 @@ std::optional<Violation> InvariantChecker::check(const Step& step) {
   }
   if (Check found =
           firstOf([&] { return checkMachine(after); }, [&] { return checkObjects(after); },
-                  [&] { return checkKeys(); }, [&] { return checkModes(after); },
+                  [&] { return checkKeys(); }, [&] { return checkModes(before, after); },
                   [&] { return checkWindows(after); })) {
     return found;
   }

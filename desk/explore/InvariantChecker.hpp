@@ -67,7 +67,7 @@ class InvariantChecker {
   [[nodiscard]] Check checkPlaces(const Observation& after) const;
   [[nodiscard]] Check checkSettings(const Observation& after);
   [[nodiscard]] Check checkWindows(const Observation& after) const;
-  [[nodiscard]] Check checkModes(const Observation& after);
+  [[nodiscard]] Check checkModes(const Observation& before, const Observation& after);
   [[nodiscard]] Check checkTexts(const Observation& after) const;
 
   /// Whether the text is in the language; any text is, while there are several.
@@ -86,6 +86,8 @@ class InvariantChecker {
   /// The press that the running line amounts to, or the line.
   std::string operation_;
   std::map<std::string, std::int64_t> wrongSince_;
+  /// No later than the guide began to poll, in nanoseconds; none while it does not.
+  std::optional<std::int64_t> guidePollsSince_;
   /// The time until which late notifications may arrive, in nanoseconds.
   std::int64_t notificationsUntil_ = -1;
   /// The end of the last time the main queue was held, in nanoseconds.

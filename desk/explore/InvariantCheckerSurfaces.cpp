@@ -14,6 +14,7 @@ namespace {
 /// In nanoseconds: the guide appears, or starts anew, 2 s after an alert, times out after 10 s,
 /// closes 1.5 s after its success, and polls once a second. If it starts anew during its success,
 /// it succeeds a second time.
+constexpr std::int64_t minimumGuideTimeout = 10 * Clock::nanosecondsPerSecond;
 constexpr std::int64_t guideTimeout = 13 * Clock::nanosecondsPerSecond;
 constexpr std::int64_t guideSuccess = 5 * Clock::nanosecondsPerSecond;
 
@@ -293,6 +294,9 @@ InvariantChecker::Check InvariantChecker::checkWindows(const Observation& after)
     if (!kinds.insert(window->className).second) {
       return Violation{"windows", "there are two windows of class " + window->className};
     }
+    if (server.isVisible(*window) && window->hidesOnDeactivate && !server.modal.isModal(*window)) {
+      return Violation{"windows", window->className + " hides when another application is active"};
+    }
     // A child window moves with its parent, anywhere.
     const bool mustBeOnADisplay = window->parent.expired() && server.isVisible(*window) &&
                                   after.displayCount > 0 && !after.isChangingTogether;
@@ -303,7 +307,8 @@ InvariantChecker::Check InvariantChecker::checkWindows(const Observation& after)
   return std::nullopt;
 }
 
-InvariantChecker::Check InvariantChecker::checkModes(const Observation& after) {
+InvariantChecker::Check InvariantChecker::checkModes(const Observation& before,
+                                                     const Observation& after) {
   if (after.isModal != after.shows("alert")) {
     return Violation{"modes", "the modal session does not match the alert"};
   }
@@ -324,6 +329,15 @@ InvariantChecker::Check InvariantChecker::checkModes(const Observation& after) {
   const bool isChecking = after.isGuideOpen && after.guideState == PermissionGuideState::checking;
   if (isOverdue("time-out", isChecking && isStandard, after.now, guideTimeout)) {
     return Violation{"guide", "it does not time out", "guide.state \"timeout\""};
+  }
+  if (!after.isGuidePolling) {
+    guidePollsSince_.reset();
+  } else if (!guidePollsSince_) {
+    guidePollsSince_ = before.now;
+  }
+  if (guidePollsSince_ && after.guideState == PermissionGuideState::timeout &&
+      after.now - *guidePollsSince_ < minimumGuideTimeout) {
+    return Violation{"guide", "it times out too soon", "guide.state \"checking\""};
   }
   if (isOverdue("success", after.isGuideOpen && hasSucceeded && !after.isQueueHeld, after.now,
                 guideSuccess)) {

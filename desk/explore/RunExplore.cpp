@@ -135,18 +135,18 @@ int checkScript(const std::string& file, std::ostream& errors) {
   }
   const auto count = session.lines().size();
   session.end();
-  if (session.problem()) {
-    errors << file << ':' << count << ": " << *session.problem() << std::endl;
-    return unreadableStatus;
-  }
-  if (!session.violation() && !script.eof()) {
-    errors << file << ":0: the file cannot be read" << std::endl;
-    return unreadableStatus;
-  }
   if (session.violation()) {
     errors << file << ':' << count << ": " << session.violation()->invariant << ": "
            << session.violation()->text << std::endl;
     return violationStatus;
+  }
+  if (session.problem()) {
+    errors << file << ':' << count << ": " << *session.problem() << std::endl;
+    return unreadableStatus;
+  }
+  if (!script.eof()) {
+    errors << file << ":0: the file cannot be read" << std::endl;
+    return unreadableStatus;
   }
   return successStatus;
 }
@@ -165,7 +165,7 @@ int runExplore(const ExploreOptions& options, std::ostream& output, std::ostream
   if (!options.scripts.empty()) {
     return worst;
   }
-  for (const int signal : {SIGABRT, SIGBUS, SIGFPE, SIGSEGV}) {
+  for (const int signal : {SIGABRT, SIGBUS, SIGFPE, SIGILL, SIGSEGV, SIGTRAP}) {
     std::signal(signal, writeAbortMessage);
   }
   Totals totals;
