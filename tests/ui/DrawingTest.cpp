@@ -258,19 +258,24 @@ TEST_F(DirtyTest, NestedClipsIntersect) {
 }
 
 TEST_F(DirtyTest, ALeavingViewIsRepaintedWhenItIsGone) {
-  bool isShown = true;
-  test.show([&](const Environment&) -> View {
-    return ZStack({when(isShown,
-                        [&] { return box(Color::white()).transition({.absentScale = 0.5}); })})
-        .animation(Curve::linear(1), isShown);
-  });
-  isShown = false;
-  dirtyAfterUpdate();
-  test.at(0.999);
-  test.host->takeDirtyRects();
-  test.at(1);
-  EXPECT_FALSE(test.host->takeDirtyRects().empty());
-  EXPECT_FALSE(test.draws("fill"));
+  // The second one looks the same until then.
+  double start = 0;
+  for (const Transition& transition : {Transition{.absentScale = 0.5}, Transition{}}) {
+    bool isShown = true;
+    test.show([&](const Environment&) -> View {
+      return ZStack({when(isShown, [&] { return box(Color::white()).transition(transition); })})
+          .animation(Curve::linear(1), isShown);
+    });
+    isShown = false;
+    dirtyAfterUpdate();
+    test.at(start + 0.999);
+    EXPECT_TRUE(test.draws("fill"));
+    test.host->takeDirtyRects();
+    test.at(start + 1);
+    EXPECT_FALSE(test.host->takeDirtyRects().empty());
+    EXPECT_FALSE(test.draws("fill"));
+    ++start;
+  }
 }
 
 TEST_F(DirtyTest, ALayersOpacityRepaintsEverythingInIt) {

@@ -120,6 +120,8 @@ TEST(IdentityTest, OnlyAnotherValueOfALivingViewsStateAsksForARedraw) {
   test.show(Keeper{&kept});
   const int before = test.redrawRequests;
   kept->set(3);
+  test.host->setSize(test.host->size());
+  test.host->setAppearance(test.host->appearance());
   EXPECT_FALSE(test.host->needsUpdate());
   kept->set(4);
   EXPECT_TRUE(test.host->needsUpdate());

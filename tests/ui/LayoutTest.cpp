@@ -145,6 +145,17 @@ TEST(LayoutTest, PaddingSurroundsAndModifiersApplyInTheirOrder) {
   EXPECT_EQ(framesIn(Text("a").padding({.top = 6}), 5, 16), "a(0 6 5 10)");
 }
 
+TEST(LayoutTest, AStackOfNothingVisibleTakesNoRoom) {
+  EXPECT_EQ(framesIn(VStack(0, {HStack(0, {Rectangle().frame(0, 0)}), Text("a")}), 5, 10),
+            "a(0 0 5 10)");
+}
+
+TEST(LayoutTest, FlexibleViewsShareWhatASpacersMinimumLeaves) {
+  EXPECT_EQ(framesIn(HStack(0, {Text("a").maximumWidth(), Spacer(40), Text("b").maximumWidth()}),
+                     100, 10),
+            "a(12.5 0 5 10) b(82.5 0 5 10)");
+}
+
 TEST(LayoutTest, AFixedFrameAlignsItsContent) {
   EXPECT_EQ(framesIn(Text("a").frame(25, 30, Alignment::topLeading()), 25, 30), "a(0 0 5 10)");
   EXPECT_EQ(framesIn(Text("a").frame(25, 30, Alignment::bottomTrailing()), 25, 30),

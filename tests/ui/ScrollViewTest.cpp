@@ -51,6 +51,13 @@ TEST_F(ScrollViewTest, TheMarginLiesAroundTheContent) {
   EXPECT_EQ(right("e"), 100 - margin);
 }
 
+TEST_F(ScrollViewTest, ContentThatFitsDoesNotScroll) {
+  names = {"a"};
+  want("a");
+  test.host->scroll({50, 20}, 1000, 0);
+  EXPECT_EQ(left("a"), margin);
+}
+
 TEST_F(ScrollViewTest, WhatIsWantedIsInSightAsSoonAsItAppears) {
   names.clear();
   want("e");

@@ -43,7 +43,8 @@ std::size_t startOfEnd(const std::string& line, const std::vector<std::size_t>& 
       places, [&](std::size_t place) { return place < line.size() && !fits(place, endFraction); });
   start = std::min(line.find_first_not_of(' ', start), line.size());
   const std::size_t blank = start == 0 ? std::string::npos : line.rfind(' ', start - 1);
-  const std::size_t word = blank == std::string::npos ? 0 : blank + 1;
+  // The line's beginning if there is no blank, since npos + 1 is 0.
+  const std::size_t word = blank + 1;
   if (fits(word, maximumEndFraction)) {
     return word;
   }

@@ -29,12 +29,12 @@ struct ShapeElement final : Element {
     return {proposal.width.value_or(ideal), proposal.height.value_or(ideal)};
   }
 
-  void attributes(const Node& node, AttributeWriter& writer) const override {
+  void attributes(const Node&, AttributeWriter& writer) const override {
     writer.numbers({shape.cornerRadius});
     for (const Shadow& shadow : shadows) {
       writer.shadow(shadow);
     }
-    for (const ShapeLayer& layer : layersOf(node)) {
+    for (const ShapeLayer& layer : layers) {
       writer.fill(layer.fill);
       writer.numbers({layer.lineWidth});
     }
@@ -54,7 +54,7 @@ struct ShapeElement final : Element {
         context.canvas.shadow(drawn, shadow);
       }
     }
-    for (const ShapeLayer& layer : layersOf(node)) {
+    for (const ShapeLayer& layer : layers) {
       const Paint paint = reader.fill(layer.fill, drawn.rect);
       const double lineWidth = reader.number();
       if (layer.kind == ShapeLayer::Kind::fill) {
@@ -64,13 +64,6 @@ struct ShapeElement final : Element {
         context.canvas.stroke(isInside ? drawn.inset(lineWidth / 2) : drawn, paint, lineWidth);
       }
     }
-  }
-
-  std::vector<ShapeLayer> layersOf(const Node& node) const {
-    if (!layers.empty()) {
-      return layers;
-    }
-    return {{ShapeLayer::Kind::fill, node.environment->foreground, 0}};
   }
 };
 

@@ -7,7 +7,7 @@
 namespace orvane::ui {
 
 /// Takes the proposed size. Fills and strokes are painted in the order of the calls; without any,
-/// the shape is filled with the inherited colour.
+/// the shape is invisible.
 class [[nodiscard]] ShapeView : public View {
  public:
   explicit ShapeView(const Shape& shape);
