@@ -61,6 +61,8 @@ class DockMouseGuard {
 
   /// The guard is running when it holds an event tap.
   [[nodiscard]] bool isRunning() const { return static_cast<bool>(eventTap_); }
+  /// Whether the guard has shut itself off, and the main queue has yet to remove the tap.
+  [[nodiscard]] bool isShutOff() const { return isShutOff_; }
   /// Whether the guard has no tap now, but may create one when the displays change.
   [[nodiscard]] bool isWaiting() const { return !eventTap_ && screenObserver_; }
   /// Whether the guard has zones but no tap, because the system refused the last one.

@@ -64,7 +64,8 @@ void OrvaneModel::observeScreenChanges() {
 }
 
 void OrvaneModel::handleScreenChange() {
-  const bool wasRunning = isGuardRunning();
+  // After a shut-off that the main queue has yet to complete, the guard rests.
+  const bool wasRunning = isGuardRunning() && !guardService_.isShutOff();
   refreshDisplays();
   if (wasRunning) {
     restartGuardIfRunning();

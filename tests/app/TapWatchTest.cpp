@@ -224,6 +224,18 @@ TEST_F(TapWatchTest, AGuardThatShutItselfOffStaysOff) {
   EXPECT_FALSE(model->isGuardRunning());
 }
 
+TEST_F(TapWatchTest, ADisplayChangeBeforeTheShutOffDoesNotEndItWhenTheAlertCloses) {
+  watchPinned();
+  machine.runLoop.enterMode(desk::RunLoop::Mode::modalPanel);
+  machine.runLoop.holdMainQueue();
+  desk::attach(machine, desk::monitorAbove());
+  letBlocksRunAway();
+  machine.runLoop.releaseMainQueue();
+  machine.runLoop.leaveMode();
+  machine.advance(5);
+  EXPECT_FALSE(model->isGuardRunning());
+}
+
 TEST_F(TapWatchTest, ADestroyedWatchDoesNothing) {
   watchPinned();
   tapWatch.reset();
