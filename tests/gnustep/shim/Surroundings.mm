@@ -9,6 +9,7 @@ using orvane::gnustep::world;
 @interface OrvaneShimScreen : NSScreen {
  @public
   orvane::gnustep::Display _display;
+  NSRect _shownFrame;
 }
 @end
 
@@ -16,12 +17,14 @@ using orvane::gnustep::world;
 - (instancetype)initWithDisplay:(const orvane::gnustep::Display&)display {
   // GNUstep has no initialiser for other screens than its own.
   _display = display;
+  // A screen may be asked after the displays are gone.
+  const CGFloat mainHeight = world().displays.front().frame.size.height;
+  _shownFrame = {{display.frame.origin.x, mainHeight - CGRectGetMaxY(display.frame)},
+                 display.frame.size};
   return self;
 }
 - (NSRect)frame {
-  const CGRect& frame = _display.frame;
-  const CGFloat mainHeight = world().displays.front().frame.size.height;
-  return {{frame.origin.x, mainHeight - CGRectGetMaxY(frame)}, frame.size};
+  return _shownFrame;
 }
 - (NSRect)visibleFrame {
   return self.frame;
