@@ -132,7 +132,6 @@ void OrvaneModel::stopActiveLockIfNeeded() {
   }
   stopGuardForTheUser();
   isTemporarilyUnlocked_.set(false);
-  noteChecked();
 }
 
 void OrvaneModel::restartGuardIfRunning() {
