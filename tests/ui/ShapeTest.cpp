@@ -118,6 +118,8 @@ TEST(ShapeTest, InsetKeepsCornersConcentric) {
   EXPECT_EQ(inner.rect, (Rect{2, 2, 46, 46}));
   EXPECT_EQ(inner.cornerRadius, 10);
   EXPECT_EQ(Shape::roundedRectangle({0, 0, 50, 50}, 1).inset(3).cornerRadius, 0);
+  EXPECT_EQ(Shape::roundedRectangle({0, 0, 50, 50}, 0).inset(-3).cornerRadius, 0)
+      << "it stays sharp";
 }
 
 TEST(ShapeTest, ACircleIsTheLargestOneInTheMiddle) {
