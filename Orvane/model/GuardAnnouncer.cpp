@@ -31,9 +31,7 @@ GuardAnnouncer::Announcement GuardAnnouncer::announcementFor(const OrvaneModel& 
   if (model.mode() == OrvaneMode::pinning) {
     // Use the display's own identifier: the next refresh replaces a stored alias.
     const auto display = model.selectedDisplay();
-    // The guard runs on until it is notified that the display is away.
-    return display ? Announcement{.mode = OrvaneMode::pinning, .displayID = display->id}
-                   : lastAnnounced_;
+    return {.mode = OrvaneMode::pinning, .displayID = display ? display->id : ""};
   }
   return {.mode = model.mode()};
 }
@@ -47,7 +45,8 @@ std::string GuardAnnouncer::text(const OrvaneModel& model) const {
     case OrvaneMode::off:
       return model.localized("The Dock is no longer guarded", "Dock 守卫已关闭");
     case OrvaneMode::pinning: {
-      const std::string name = model.selectedDisplay()->name;
+      const auto display = model.selectedDisplay();
+      const std::string name = display ? display->name : "";
       return model.localized("The Dock is pinned to " + name, "Dock 已固定到" + name);
     }
     case OrvaneMode::preventing:

@@ -51,18 +51,6 @@ TEST_F(GuardAnnouncerTest, StartingStoppingAndChangesOfTargetAndModeAreAnnounced
   EXPECT_EQ(announced(), Announcements{"The Dock is no longer guarded"});
 }
 
-TEST_F(GuardAnnouncerTest, ADisplayThatIsAwayIsNotAnnouncedBeforeTheGuardNotices) {
-  launchPinned();
-  announced();
-  machine.notifications.delayNanoseconds = desk::Clock::nanosecondsPerSecond;
-  desk::detach(machine, 1);
-  model->refreshDisplays();
-  ASSERT_TRUE(model->isGuardRunning());
-  EXPECT_EQ(announced(), Announcements());
-  machine.advance(2);
-  EXPECT_EQ(announced(), Announcements{"The Dock is no longer guarded"});
-}
-
 TEST_F(GuardAnnouncerTest, AMissingPermissionIsAnnouncedWhenTheGuardIsRequested) {
   machine.permission.setTrusted(false);
   launch();
