@@ -41,22 +41,11 @@ void TapWatch::check() {
   const bool isBack = std::exchange(wasMissing_, false);
   // A guard that is on was started after the permission returned, and may have shut itself off.
   if ((isBack && !isOn) || guard.wasTapRefused()) {
-    resumeGuard();
+    model_.resumeGuard();
   } else if (isOn) {
-    reviveTap();
+    model_.reviveGuard();
   }
-}
-
-void TapWatch::resumeGuard() {
-  model_.resumeGuard();
-  if (model_.guardService().wasTapRefused()) {
-    giveUp();
-  }
-}
-
-void TapWatch::reviveTap() {
-  model_.reviveGuard();
-  if (model_.guardService().wasTapRefused()) {
+  if (guard.wasTapRefused()) {
     giveUp();
   }
 }

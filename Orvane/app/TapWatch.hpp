@@ -26,8 +26,6 @@ class TapWatch {
  private:
   void permissionsChanged();
   void check();
-  void resumeGuard();
-  void reviveTap();
   /// Called when the system refuses the tap although it reports the permission as granted.
   void giveUp();
 

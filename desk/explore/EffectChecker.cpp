@@ -350,7 +350,8 @@ EffectChecker::Check EffectChecker::checkStoredChoices(
                      "defaults.isOrvaneEnabled " + std::string(was.wants ? "true" : "false")};
   }
   const bool isFirstChoice = step.isLaunch() || step.line == "menu open" || step.line == "reopen";
-  if (isFirstChoice && !was.selected && is.selected && !step.isStale) {
+  if (isFirstChoice && !was.selected && is.selected && !step.isStale &&
+      !configuration.screens.empty()) {
     const auto main = std::ranges::find_if(configuration.screens,
                                            [](const auto& screen) { return screen.isMain; });
     const auto& screens = configuration.screens;
